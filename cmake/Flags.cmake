@@ -1,0 +1,24 @@
+# Every target of the project links orlen_flags: language level, warnings, sanitizers.
+add_library(orlen_flags INTERFACE)
+target_compile_features(orlen_flags INTERFACE cxx_std_20)
+target_compile_options(orlen_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Werror)
+# Plain structs initialise every field where it is declared, so naming some of them is enough.
+target_compile_options(orlen_flags INTERFACE -Wno-missing-field-initializers)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # Warns about impossible lengths inside std::string itself (GCC bug 105329).
+    target_compile_options(orlen_flags INTERFACE -Wno-restrict)
+endif()
+target_compile_definitions(orlen_flags INTERFACE _FILE_OFFSET_BITS=64 QT_NO_KEYWORDS)
+target_include_directories(orlen_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+if(ORLEN_SANITIZE)
+    target_compile_options(orlen_flags INTERFACE
+        -fsanitize=${ORLEN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(orlen_flags INTERFACE -fsanitize=${ORLEN_SANITIZE})
+endif()
+
+find_program(ORLEN_CCACHE ccache)
+if(ORLEN_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${ORLEN_CCACHE})
+endif()

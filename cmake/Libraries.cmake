@@ -1,0 +1,18 @@
+# Ready-made libraries, all from the system; nothing is downloaded while configuring.
+find_package(Threads REQUIRED)
+find_package(PkgConfig REQUIRED)
+find_package(OpenSSL REQUIRED COMPONENTS Crypto)
+find_package(nlohmann_json REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(Qt6 REQUIRED COMPONENTS Core)
+find_package(pugixml REQUIRED)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
+pkg_check_modules(HUNSPELL REQUIRED IMPORTED_TARGET hunspell)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+
+if(ORLEN_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+endif()
+if(ORLEN_BUILD_BENCH)
+    find_package(benchmark REQUIRED)
+endif()

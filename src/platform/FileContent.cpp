@@ -1,0 +1,132 @@
+#include "platform/FileContent.h"
+
+#include "platform/Folder.h"
+#include "platform/FolderEntries.h"
+#include "platform/PathText.h"
+#include "platform/Retrying.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orlen {
+
+namespace {
+
+constexpr int kReadFlags = O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+Result<void> writeSyncClose(UniqueFd file, std::string_view bytes)
+{
+    if (auto written = writeAll(file.get(), bytes); !written.ok())
+        return written;
+    return syncFile(file.get());
+}
+
+} // namespace
+
+Result<UniqueFd> openFile(const std::string& path)
+{
+    return openFileAt(AT_FDCWD, path.c_str());
+}
+
+Result<UniqueFd> openFileAt(int folder, const char* name)
+{
+    // Opening a device can already start something (a tape rewinds): look first, then make sure that what was
+    // opened is what was looked at.
+    const auto before = statusAt(folder, name);
+    if (!before.ok())
+        return Errno{before.error()};
+    if (before.value().type != FileType::regular)
+        return Errno{EINVAL};
+    auto file = retriedFd([&] { return ::openat(folder, name, kReadFlags | O_NOATIME); });
+    if (!file.ok() && file.error() == EPERM)
+        file = retriedFd([&] { return ::openat(folder, name, kReadFlags); });
+    if (!file.ok())
+        return file;
+    struct stat opened {};
+    if (::fstat(file.value().get(), &opened) != 0 || !S_ISREG(opened.st_mode))
+        return Errno{EINVAL};
+    return file;
+}
+
+Result<std::size_t> readAt(int file, std::int64_t offset, std::span<std::byte> buffer)
+{
+    std::size_t filled = 0;
+    while (filled < buffer.size()) {
+        const auto got = retried([&] {
+            return ::pread(file, buffer.data() + filled, buffer.size() - filled,
+                           offset + static_cast<std::int64_t>(filled));
+        });
+        if (got < 0)
+            return Errno{errno};
+        if (got == 0)
+            break;
+        filled += static_cast<std::size_t>(got);
+    }
+    return filled;
+}
+
+std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit)
+{
+    auto head = readHeadAt(AT_FDCWD, path.c_str(), limit + 1);
+    if (!head || head->size() > limit)
+        return std::nullopt;
+    return head;
+}
+
+std::optional<std::string> readHeadAt(int folder, const char* name, std::size_t limit)
+{
+    const auto file = openFileAt(folder, name);
+    if (!file.ok())
+        return std::nullopt;
+    std::string content;
+    constexpr std::size_t kStep = 64UL * 1024;
+    while (content.size() < limit) {
+        const std::size_t start = content.size();
+        content.resize(std::min(limit, start + kStep));
+        const auto got = readAt(file.value().get(), static_cast<std::int64_t>(start),
+                                std::as_writable_bytes(std::span(content).subspan(start)));
+        if (!got.ok())
+            return std::nullopt;
+        const bool isWhole = start + got.value() < content.size();
+        content.resize(start + got.value());
+        if (isWhole)
+            break;
+    }
+    return content;
+}
+
+void announceSequentialRead(int file)
+{
+    ::posix_fadvise(file, 0, 0, POSIX_FADV_SEQUENTIAL);
+}
+
+Result<void> replaceFile(const std::string& path, const std::string& bytes)
+{
+    const std::string folder(PathText::parent(path));
+    // Two threads may replace the same file: each writes its own.
+    static std::atomic<unsigned> counter{0};
+    const std::string beside = path + ".new-" + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+    // A left-over of a killed process with the same number is the program's own and may go.
+    ::unlink(beside.c_str());
+    auto file = retriedFd(
+        [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600); });
+    if (!file.ok())
+        return Errno{file.error()};
+    auto written = writeSyncClose(std::move(file).value(), bytes);
+    if (written.ok() && ::rename(beside.c_str(), path.c_str()) != 0)
+        written = Errno{errno};
+    if (!written.ok()) {
+        ::unlink(beside.c_str());
+        return written;
+    }
+    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
+    if (const auto parent = openFolder(folder); parent.ok())
+        (void)::fsync(parent.value().get());
+    return {};
+}
+
+} // namespace orlen

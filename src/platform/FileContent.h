@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/FileStatus.h"
+#include "platform/Result.h"
+#include "platform/UniqueFd.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace orlen {
+
+/// Opens a regular file for reading: links are not followed, a FIFO or device is refused without waiting for
+/// it, and where the system allows it the access time stays. EINVAL for what is no regular file.
+/// Blocks on the disk; any thread.
+[[nodiscard]] Result<UniqueFd> openFile(const std::string& path);
+[[nodiscard]] Result<UniqueFd> openFileAt(int folder, const char* name);
+
+/// Reads up to `buffer.size()` bytes at `offset`; fewer only at the end of the file.
+[[nodiscard]] Result<std::size_t> readAt(int file, std::int64_t offset, std::span<std::byte> buffer);
+
+/// The whole content of a small file; nothing when it cannot be read or is longer than `limit` bytes.
+[[nodiscard]] std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit);
+/// At most the first `limit` bytes of a file relative to an open folder; nothing when it cannot be read.
+[[nodiscard]] std::optional<std::string> readHeadAt(int folder, const char* name, std::size_t limit);
+
+/// Tells the system that the file will be read once from front to back.
+void announceSequentialRead(int file);
+
+/// Replaces the program's own file `path` by `bytes`: written beside it, synced, renamed over it, so that a
+/// reader never sees half of it. On failure the old file stays as it was.
+[[nodiscard]] Result<void> replaceFile(const std::string& path, const std::string& bytes);
+
+} // namespace orlen

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "platform/Time.h"
+
+#include <cstdint>
+#include <string>
+
+namespace orlen {
+
+enum class FileType { regular, folder, link, other };
+
+/// Device and file number: two names with the same identity are the same file.
+struct FileIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    friend auto operator<=>(const FileIdentity&, const FileIdentity&) = default;
+};
+
+struct FileIdentityHash {
+    [[nodiscard]] std::size_t operator()(const FileIdentity& id) const
+    {
+        return static_cast<std::size_t>((id.number ^ (id.device << 32U)) * 0x9E3779B97F4A7C15U);
+    }
+};
+
+/// What the file system tells of one name; a link is described itself, never what it points to.
+struct FileStatus {
+    FileType type = FileType::other;
+    std::int64_t allocatedBytes = 0; ///< bytes occupied on disk
+    std::int64_t length = 0;         ///< bytes of content
+    FileIdentity identity;
+    std::uint64_t mount = 0; ///< number of the mount it was reached through, see MountTable
+    std::uint32_t links = 1; ///< names this file has
+    std::uint32_t mode = 0;  ///< permission bits
+    std::uint32_t owner = 0; ///< user number
+    TimePoint modified;
+    TimePoint accessed;
+};
+
+/// Blocks on the disk; any thread. Links are not followed in the last component.
+[[nodiscard]] Result<FileStatus> statusOf(const std::string& path);
+/// The same for a name relative to an open folder.
+[[nodiscard]] Result<FileStatus> statusAt(int folder, const char* name);
+[[nodiscard]] Result<FileStatus> statusOfOpen(int fd);
+
+/// Whether the name itself exists, whatever a link of that name points to.
+[[nodiscard]] bool exists(const std::string& path);
+[[nodiscard]] bool isRealFolder(const std::string& path);
+
+/// Whether the user may move this entry to another folder: the parent is writable and searchable; in a sticky
+/// parent the user owns the entry or the parent; a folder must itself be writable, since moving it rewrites
+/// its ".."; the entry is no mount point. False for what is missing.
+[[nodiscard]] bool isDeletable(const std::string& path);
+/// Whether the user may write to what the path names (links are followed, as when writing).
+[[nodiscard]] bool isWritable(const std::string& path);
+
+} // namespace orlen

@@ -1,0 +1,22 @@
+#include "platform/FolderLock.h"
+
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Retrying.h"
+
+#include <sys/file.h>
+
+namespace orlen {
+
+std::optional<FolderLock> FolderLock::take(const std::string& folder)
+{
+    // The user may have put the folder elsewhere with a link: "." opens what the link points to.
+    auto opened = openFolder(PathText::join(folder, "."));
+    if (!opened.ok())
+        return std::nullopt;
+    if (retried([&] { return ::flock(opened.value().get(), LOCK_EX | LOCK_NB); }) != 0)
+        return std::nullopt;
+    return FolderLock(std::move(opened).value());
+}
+
+} // namespace orlen

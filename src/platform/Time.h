@@ -1,0 +1,19 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace orlen {
+
+/// A point in time of the wall clock. Rules that depend on "now" take it as a parameter.
+using TimePoint = std::chrono::system_clock::time_point;
+
+/// "2025-03-01T09:30:00Z": UTC, whole seconds (earlier fractions are cut towards the past).
+[[nodiscard]] std::string isoText(TimePoint time);
+
+/// Reads exactly the form that `isoText` writes; nothing for any other text or an impossible date.
+[[nodiscard]] std::optional<TimePoint> timeFromIso(std::string_view text);
+
+} // namespace orlen
