@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "platform/Uuid.h"
+
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// One section of a clean-up plan, identified by `id` (a finding's kind, or a name of the tool that made it).
+struct PlanSection {
+    std::string id;
+    std::string title;
+    std::string symbol; ///< icon name
+    std::vector<FileEntry> entries;
+
+    friend bool operator==(const PlanSection&, const PlanSection&) = default;
+};
+
+/// What a clean-up will move to the Trash.
+struct CleanPlan {
+    Uuid id = Uuid::random();
+    std::string title; ///< heading of the plan, recorded as the title of the clean-up
+    std::vector<PlanSection> sections;
+
+    friend bool operator==(const CleanPlan&, const CleanPlan&) = default;
+};
+
+} // namespace orlen

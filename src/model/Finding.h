@@ -1,0 +1,48 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "model/FindingKind.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orlen {
+
+/// One group of entries of one kind. There is at most one finding of each kind in a result.
+struct Finding {
+    /// The one way to make a finding: texts from the catalogue, entries sorted largest first (equal sizes
+    /// keep their order), rating `review` without a reason until the Rater sets them, cleanable unless of
+    /// kind `trash`.
+    Finding(FindingKind kind, std::vector<FileEntry> items);
+
+    FindingKind kind;
+    std::string title;
+    std::string explanation;
+    std::string symbol;
+    OrlenCategory category;
+    Rating rating = Rating::review;
+    std::string reason;
+    std::vector<FileEntry> items;
+    bool cleanable = true; ///< whether its entries may be moved to the Trash at all
+
+    /// Identity: the kind's raw value.
+    [[nodiscard]] std::string_view id() const { return rawValue(kind); }
+    /// The entry's own rating, else the finding's.
+    [[nodiscard]] Rating effectiveRating(const FileEntry& entry) const
+    {
+        return entry.rating.value_or(rating);
+    }
+    /// Bytes of the entries whose effective rating is `safe`; 0 when not cleanable.
+    [[nodiscard]] std::int64_t safeSize() const;
+    /// Bytes of all entries.
+    [[nodiscard]] std::int64_t totalSize() const;
+
+    friend bool operator==(const Finding&, const Finding&) = default;
+};
+
+/// Overflow-checked sum of the entries' sizes, bytes.
+[[nodiscard]] std::int64_t sizeOf(const std::vector<FileEntry>& entries);
+
+} // namespace orlen

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/CleanPlan.h"
+
+#include <cstdint>
+#include <string>
+#include <variant>
+
+/// The small values by which the application model tells the screens what is going on.
+namespace orlen {
+
+enum class Phase { idle, scanning, results };
+
+/// The detail of the finding with this id stands over the main window.
+struct FindingSheet {
+    std::string findingId;
+    friend bool operator==(const FindingSheet&, const FindingSheet&) = default;
+};
+
+/// The confirmation of a plan stands over the main window.
+struct PlanSheet {
+    CleanPlan plan;
+    friend bool operator==(const PlanSheet&, const PlanSheet&) = default;
+};
+
+using SheetKind = std::variant<FindingSheet, PlanSheet>;
+
+/// Progress of a clean-up.
+struct CleaningState {
+    int total = 0;       ///< entries to move
+    int done = 0;        ///< entries handled so far
+    std::string current; ///< name of the entry being moved
+    bool finished = false;
+    std::int64_t freed = 0; ///< bytes moved
+    int moved = 0;
+    int failed = 0;
+    std::string planTitle;
+
+    friend bool operator==(const CleaningState&, const CleaningState&) = default;
+};
+
+} // namespace orlen

@@ -1,0 +1,56 @@
+#include "model/OrlenCategory.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace orlen {
+
+namespace {
+
+struct Row {
+    std::string_view raw;
+    std::string_view label;
+    CategoryColour colour;
+};
+
+/// In the order of the enumeration.
+constexpr std::array kRows{
+    Row{"apps", "Apps", {0.25, 0.52, 1.0}},          Row{"photos", "Photos", {1.0, 0.38, 0.55}},
+    Row{"media", "Media", {0.68, 0.4, 0.95}},        Row{"documents", "Documents", {1.0, 0.62, 0.2}},
+    Row{"developer", "Developer", {0.2, 0.78, 0.5}}, Row{"system", "System", {0.55, 0.58, 0.64}},
+    Row{"caches", "Caches", {0.22, 0.76, 0.86}},
+};
+static_assert(kRows.size() == kAllCategories.size());
+
+const Row& row(OrlenCategory category)
+{
+    return kRows[static_cast<std::size_t>(category)];
+}
+
+} // namespace
+
+std::string_view rawValue(OrlenCategory category)
+{
+    return row(category).raw;
+}
+
+std::optional<OrlenCategory> categoryFromRaw(std::string_view raw)
+{
+    const auto* const found =
+        std::ranges::find(kAllCategories, raw, [](OrlenCategory category) { return rawValue(category); });
+    if (found == kAllCategories.end())
+        return std::nullopt;
+    return *found;
+}
+
+std::string_view label(OrlenCategory category)
+{
+    return row(category).label;
+}
+
+CategoryColour colour(OrlenCategory category)
+{
+    return row(category).colour;
+}
+
+} // namespace orlen

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace orlen {
+
+/// Storage categories, in the order of display. They key the storage breakdown and the snapshots.
+enum class OrlenCategory { apps, photos, media, documents, developer, system, caches };
+
+inline constexpr std::array kAllCategories{
+    OrlenCategory::apps,      OrlenCategory::photos, OrlenCategory::media, OrlenCategory::documents,
+    OrlenCategory::developer, OrlenCategory::system, OrlenCategory::caches};
+
+/// sRGB components from 0 to 1.
+struct CategoryColour {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+};
+
+/// The case's name as it is persisted.
+[[nodiscard]] std::string_view rawValue(OrlenCategory category);
+/// The case with exactly this raw value; nothing for any other text.
+[[nodiscard]] std::optional<OrlenCategory> categoryFromRaw(std::string_view raw);
+[[nodiscard]] std::string_view label(OrlenCategory category);
+[[nodiscard]] CategoryColour colour(OrlenCategory category);
+
+} // namespace orlen

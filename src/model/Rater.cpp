@@ -1,0 +1,176 @@
+#include "model/Rater.h"
+
+#include "model/RaterTables.h"
+#include "platform/LanguageTools.h"
+#include "platform/PathText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <mutex>
+#include <optional>
+#include <span>
+#include <string>
+#include <unordered_map>
+
+namespace orlen::Rater {
+
+namespace {
+
+/// More words than this are not looked at: a name says what it is early.
+constexpr std::size_t kTokenLimit = 8;
+/// Shorter words mean too many things to be compared by meaning.
+constexpr std::ptrdiff_t kMeaningLength = 5;
+/// Cosine distance below which two words are close in meaning.
+constexpr double kCloseDistance = 0.62;
+
+constexpr std::string_view kImportantReason = "Every item here looks important.";
+constexpr std::string_view kDocumentNote = "Name suggests an important document (invoice, tax, contract…)";
+constexpr std::string_view kInstallerNote = "Installer — you can download it again";
+
+/// Which words are close in meaning to an anchor word. Comparing is slow and names repeat their words, so
+/// this only grows. Two threads may compute the same word at once; they store the same answer.
+class MeaningCache {
+public:
+    [[nodiscard]] std::optional<bool> find(const std::string& token)
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_meanings.find(token);
+        return found == m_meanings.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    void store(const std::string& token, bool isClose)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_meanings[token] = isClose;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::unordered_map<std::string, bool> m_meanings;
+};
+
+MeaningCache& meaningCache()
+{
+    static MeaningCache cache;
+    return cache;
+}
+
+/// Whether a word is long enough to be compared, and no year, date or camera counter.
+bool isWorthComparing(std::string_view token)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    return std::ranges::none_of(token, isDigit) &&
+           std::ranges::count_if(token, startsCharacter) >= kMeaningLength;
+}
+
+bool isCloseToAnchor(const std::string& token)
+{
+    return std::ranges::any_of(RaterTables::anchorWords(), [&](std::string_view anchor) {
+        const std::optional<double> distance = LanguageTools::distance(token, anchor);
+        return distance && *distance < kCloseDistance;
+    });
+}
+
+bool meansSomethingSensitive(const std::string& token)
+{
+    if (!isWorthComparing(token) || !LanguageTools::hasEmbedding())
+        return false;
+    if (const std::optional<bool> known = meaningCache().find(token))
+        return *known;
+    const bool isClose = isCloseToAnchor(token);
+    meaningCache().store(token, isClose);
+    return isClose;
+}
+
+/// Whether the base form of the word is a sensitive one. The word is looked up where its text first occurs in
+/// the name, which may be within an earlier, longer word.
+bool hasSensitiveLemma(const std::string& token, std::span<const std::string> tokens)
+{
+    const auto word = std::ranges::find_if(
+        tokens, [&](const std::string& other) { return other.find(token) != std::string::npos; });
+    const std::optional<std::string> lemma = LanguageTools::lemma(*word);
+    return lemma && RaterTables::isSensitiveWord(LanguageTools::lowerCase(*lemma));
+}
+
+/// The words of a file name in lower case: "my_taxReturn-2024.pdf" gives "my", "tax", "return", "2024".
+std::vector<std::string> tokensOf(std::string_view name)
+{
+    std::string text(PathText::stem(name));
+    std::ranges::replace_if(
+        text, [](char c) { return c == '_' || c == '-' || c == '.'; }, ' ');
+    std::vector<std::string> tokens =
+        LanguageTools::words(LanguageTools::lowerCase(LanguageTools::splitCamelCase(text)));
+    if (tokens.size() > kTokenLimit)
+        tokens.resize(kTokenLimit);
+    return tokens;
+}
+
+bool rateByLocation(FileEntry& entry)
+{
+    for (const RaterTables::KnownLocation& location : RaterTables::knownLocations()) {
+        if (entry.path.find(location.part) == std::string::npos)
+            continue;
+        entry.rating = location.rating;
+        addNote(entry, location.note);
+        return true;
+    }
+    return false;
+}
+
+bool rateByName(FileEntry& entry, FindingKind kind)
+{
+    if (!RaterTables::holdsDocuments(kind) || !isSensitiveName(PathText::lastComponent(entry.path)))
+        return false;
+    entry.rating = Rating::keep;
+    addNote(entry, kDocumentNote);
+    return true;
+}
+
+void rateInstaller(FileEntry& entry, FindingKind kind)
+{
+    if (kind != FindingKind::oldDownloads ||
+        !RaterTables::isInstallerExtension(PathText::asciiLower(PathText::extension(entry.path))))
+        return;
+    entry.rating = Rating::safe;
+    entry.note = kInstallerNote; // says all there is to say, so it takes the place of earlier notes
+}
+
+void rateEntry(FileEntry& entry, FindingKind kind)
+{
+    if (!rateByLocation(entry) && !rateByName(entry, kind))
+        rateInstaller(entry, kind);
+}
+
+void rateFinding(Finding& finding)
+{
+    const RaterTables::KindRule& rule = RaterTables::rule(finding.kind);
+    finding.rating = rule.rating;
+    finding.reason = rule.reason;
+    for (FileEntry& entry : finding.items)
+        rateEntry(entry, finding.kind);
+    const auto isKept = [](const FileEntry& entry) { return entry.rating == Rating::keep; };
+    if (finding.items.empty() || !std::ranges::all_of(finding.items, isKept))
+        return;
+    finding.rating = Rating::keep;
+    finding.reason = kImportantReason;
+}
+
+} // namespace
+
+std::vector<Finding> rate(std::vector<Finding> findings)
+{
+    std::ranges::for_each(findings, rateFinding);
+    return findings;
+}
+
+bool isSensitiveName(std::string_view name)
+{
+    const std::vector<std::string> tokens = tokensOf(name);
+    return std::ranges::any_of(tokens, [&](const std::string& token) {
+        return RaterTables::isSensitiveWord(token) || hasSensitiveLemma(token, tokens) ||
+               meansSomethingSensitive(token);
+    });
+}
+
+} // namespace orlen::Rater

@@ -1,0 +1,153 @@
+#include "model/RaterTables.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orlen::RaterTables {
+
+namespace {
+
+using enum FindingKind;
+using enum Rating;
+
+constexpr std::array<KindRule, kFindingKinds> kRules{{
+    {caches, safe, "Apps rebuild their caches automatically. They may open a little slower the first time."},
+    {logs, safe, "Old logs are only needed for troubleshooting and are written again as needed."},
+    {iosBackups, review,
+     "These may be the only copy of data from a device. Remove them only if you no longer need to restore "
+     "from them."},
+    {softwareUpdates, safe, "Downloaded update files are fetched again if you ever need them."},
+    {xcodeDerived, safe, "Rebuilt automatically the next time you build the project."},
+    {xcodeArchives, review, "Archives may be needed to symbolicate crash reports from released versions."},
+    {simulators, review, "Xcode can recreate simulators, but the apps and data inside them would be lost."},
+    {deviceSupport, safe, "Recreated the next time you connect that device to Xcode."},
+    {homebrew, safe, "Homebrew downloads packages again if it needs them."},
+    {npm, safe, "Node tools re-download packages when needed; the next install is slower."},
+    {pip, safe, "pip re-downloads packages when needed."},
+    {gradle, safe, "Gradle rebuilds this cache; your next build will be slower."},
+    {trash, review, "Already in the Trash. Empty it yourself in Finder when you're sure."},
+    {mailDownloads, review, "These are copies, but you may have opened them for a reason."},
+    {languagePacks, review,
+     "Changes app bundles, which can invalidate an app's code signature or be undone by updates."},
+    {largeFiles, review, "Only you know whether you still need these. Check each one."},
+    {oldFiles, review, "Not opened for over a year, but 'old' doesn't mean 'unneeded'."},
+    {oldDownloads, review,
+     "Downloads you haven't touched in a month. Installers are usually safe; documents may not be."},
+    {duplicates, review,
+     "Identical content exists elsewhere, but apps or projects may refer to a specific path."},
+    {photoDuplicates, review, "Orlen suggests keeping the sharpest of each set; look before you decide."},
+    {screenshots, review, "Screenshots are often disposable, but some hold information you meant to keep."},
+    {receipts, review, "Receipts and paperwork may be needed for returns or taxes."},
+    {memes, review, "Looks like a meme or captioned image; the guess may be wrong."},
+    {blurry, review, "Looks out of focus to a sharpness test, which can also flag intentional blur."},
+}};
+
+constexpr KindRule kOtherKinds{caches, review, "Check before cleaning."};
+
+// Notes that several rows share.
+constexpr std::string_view kBrowserCache = "Browser cache, rebuilt as you browse.";
+constexpr std::string_view kOfflineSongs = "May hold songs you downloaded for offline use.";
+constexpr std::string_view kLargeDownload = "Large download; needed again by programs that use it.";
+constexpr std::string_view kTestBrowsers = "Run the browser install command again before the next test.";
+constexpr std::string_view kLinkedStore =
+    "Projects link to these files; 'pnpm store prune' frees unused ones.";
+constexpr std::string_view kUsedInPlace = "Projects use these packages in place.";
+constexpr std::string_view kLostInstallers = "Some installers can no longer be downloaded.";
+constexpr std::string_view kBuiltPackages = "Built packages kept for going back to an older version.";
+
+// One row a line; the order is the order of testing, and an earlier row wins over a later one.
+// clang-format off
+constexpr auto kKnownLocations = std::to_array<KnownLocation>({
+    {"/Library/Caches/CloudKit", keep, "Used for iCloud sync. Removing it can force a slow re-sync."},
+    {"/Library/Caches/com.apple.bird", keep, "Used by iCloud Drive."},
+    {"/Library/Caches/com.apple.Safari", safe, "Safari rebuilds its web cache."},
+    {"/Library/Caches/Google", safe, kBrowserCache},
+    {"/Library/Caches/com.spotify", safe, "Cached audio; it downloads again when played."},
+    {"/Xcode/DerivedData/ModuleCache", safe, "Rebuilt by Xcode automatically."},
+    {"/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
+    {"/.cache/spotify", review, kOfflineSongs},
+    {"/cache/spotify", review, kOfflineSongs},
+    {"/.cache/huggingface/", review, kLargeDownload},
+    {"/.cache/torch/", review, kLargeDownload},
+    {"/.cache/whisper", review, kLargeDownload},
+    {"/.cache/gpt4all", review, kLargeDownload},
+    {"/.cache/ms-playwright", review, kTestBrowsers},
+    {"/.cache/puppeteer", review, kTestBrowsers},
+    {"/.cache/Cypress", review, "Run the install command again before the next test."},
+    {"/pnpm/store", review, kLinkedStore},
+    {"/.pnpm-store", review, kLinkedStore},
+    {"/.m2/repository", review, "May hold builds that you installed yourself."},
+    {"/.nuget/packages", review, kUsedInPlace},
+    {"/.pub-cache/", review, kUsedInPlace},
+    {"/.cache/bazel", review, "Stop the Bazel server first."},
+    {"/.cache/winetricks", review, kLostInstallers},
+    {"/.cache/lutris", review, kLostInstallers},
+    {"/.cache/yay", review, kBuiltPackages},
+    {"/.cache/paru", review, kBuiltPackages},
+    {"/.cache/restic", review, "Backup index; reading it again can take long."},
+    {"/.cache/pre-commit", review, "Hook environments; installed again on the next commit."},
+    {"/.cache/flatpak", safe, "Download cache of Flatpak."},
+    {"/.cache/thumbnails", safe, "Previews; made again when you open a folder."},
+    {"/.cache/mozilla", safe, kBrowserCache},
+    {"/.cache/google-chrome", safe, kBrowserCache},
+    {"/.cache/chromium", safe, kBrowserCache},
+    {"/shadercache/", safe, "Rebuilt when the game runs; the first start is slower."},
+    {"/.cache/mesa_shader_cache", safe, "Rebuilt when a program draws again."},
+    {".kdbx", keep, "Password database."},
+});
+// clang-format on
+
+constexpr std::array kDocumentKinds{largeFiles,    oldFiles, oldDownloads, duplicates,
+                                    mailDownloads, receipts, screenshots,  photoDuplicates,
+                                    memes,         blurry,   trash};
+
+// An AppImage is the application itself and a self-extracting program may be the only copy, so neither
+// counts.
+constexpr std::array<std::string_view, 8> kInstallerExtensions{"dmg", "pkg",     "iso",        "deb",
+                                                               "rpm", "flatpak", "flatpakref", "msi"};
+
+// Broad on purpose: a false keep only costs the user a look.
+constexpr std::array<std::string_view, 33> kSensitiveWords{
+    "invoice",   "tax",         "taxes",   "contract", "agreement", "passport",     "insurance",
+    "mortgage",  "lease",       "payslip", "paystub",  "statement", "resume",       "will",
+    "deed",      "certificate", "license", "visa",     "medical",   "prescription", "w2",
+    "1040",      "return",      "receipt", "receipts", "bank",      "salary",       "invoices",
+    "contracts", "legal",       "birth",   "diploma",  "warranty"};
+
+constexpr std::array<std::string_view, 9> kAnchorWords{
+    "invoice", "tax", "contract", "passport", "insurance", "mortgage", "agreement", "payroll", "medical"};
+
+} // namespace
+
+const KindRule& rule(FindingKind kind)
+{
+    const auto* const found = std::ranges::find(kRules, kind, &KindRule::kind);
+    return found == kRules.end() ? kOtherKinds : *found;
+}
+
+std::span<const KnownLocation> knownLocations()
+{
+    return kKnownLocations;
+}
+
+bool holdsDocuments(FindingKind kind)
+{
+    return std::ranges::find(kDocumentKinds, kind) != kDocumentKinds.end();
+}
+
+bool isInstallerExtension(std::string_view extension)
+{
+    return std::ranges::find(kInstallerExtensions, extension) != kInstallerExtensions.end();
+}
+
+bool isSensitiveWord(std::string_view word)
+{
+    return std::ranges::find(kSensitiveWords, word) != kSensitiveWords.end();
+}
+
+std::span<const std::string_view> anchorWords()
+{
+    return kAnchorWords;
+}
+
+} // namespace orlen::RaterTables

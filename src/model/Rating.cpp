@@ -1,0 +1,55 @@
+#include "model/Rating.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace orlen {
+
+namespace {
+
+struct Row {
+    std::string_view raw;
+    std::string_view label;
+    std::string_view symbol;
+};
+
+/// In the order of the enumeration.
+constexpr std::array kRows{
+    Row{"safe", "Safe", "checkmark.shield.fill"},
+    Row{"review", "Review", "eye.fill"},
+    Row{"keep", "Keep", "lock.fill"},
+};
+static_assert(kRows.size() == kAllRatings.size());
+
+const Row& row(Rating rating)
+{
+    return kRows[static_cast<std::size_t>(rating)];
+}
+
+} // namespace
+
+std::string_view rawValue(Rating rating)
+{
+    return row(rating).raw;
+}
+
+std::optional<Rating> ratingFromRaw(std::string_view raw)
+{
+    const auto* const found =
+        std::ranges::find(kAllRatings, raw, [](Rating rating) { return rawValue(rating); });
+    if (found == kAllRatings.end())
+        return std::nullopt;
+    return *found;
+}
+
+std::string_view label(Rating rating)
+{
+    return row(rating).label;
+}
+
+std::string_view symbol(Rating rating)
+{
+    return row(rating).symbol;
+}
+
+} // namespace orlen

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace orlen {
+
+/// What Orlen advises about a finding or an entry.
+enum class Rating { safe, review, keep };
+
+inline constexpr std::array kAllRatings{Rating::safe, Rating::review, Rating::keep};
+
+/// The case's name as it is persisted: "safe", "review", "keep".
+[[nodiscard]] std::string_view rawValue(Rating rating);
+/// The case with exactly this raw value; nothing for any other text.
+[[nodiscard]] std::optional<Rating> ratingFromRaw(std::string_view raw);
+
+/// The word on the rating chip: "Safe", "Review", "Keep".
+[[nodiscard]] std::string_view label(Rating rating);
+/// Symbol name of the rating chip.
+[[nodiscard]] std::string_view symbol(Rating rating);
+
+} // namespace orlen

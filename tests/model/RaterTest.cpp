@@ -1,0 +1,133 @@
+#include "model/Rater.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace orlen {
+namespace {
+
+FileEntry entry(std::string path, std::optional<std::string> note = std::nullopt)
+{
+    FileEntry made;
+    made.path = std::move(path);
+    made.size = 1;
+    made.note = std::move(note);
+    return made;
+}
+
+Finding rated(FindingKind kind, std::vector<FileEntry> items)
+{
+    return Rater::rate({Finding(kind, std::move(items))}).front();
+}
+
+const char* const kDocument = "Name suggests an important document (invoice, tax, contract…)";
+const char* const kInstaller = "Installer — you can download it again";
+
+TEST(RaterTest, entryIsRatedByTheFirstRuleThatApplies)
+{
+    struct Case {
+        const char* name;
+        FindingKind kind;
+        const char* path;
+        std::optional<std::string> earlierNote;
+        std::optional<Rating> rating;
+        std::optional<std::string> note;
+    };
+    using enum FindingKind;
+    const std::string sync = "Used for iCloud sync. Removing it can force a slow re-sync.";
+    const std::string songs = "May hold songs you downloaded for offline use.";
+    const Case cases[] = {
+        {"location", caches, "/Users/a/Library/Caches/CloudKit", {}, Rating::keep, sync},
+        {"location not only at home", caches, "/x/Library/Caches/CloudKit/y", {}, Rating::keep, sync},
+        {"location after a note", caches, "/Library/Caches/CloudKit", "x", Rating::keep, "x · " + sync},
+        {"case matters", caches, "/library/caches/cloudkit", {}, {}, {}},
+        {"location that lowers safe", npm, "/h/.local/share/pnpm/store/v3", "pnpm store", Rating::review,
+         "pnpm store · Projects link to these files; 'pnpm store prune' frees unused ones."},
+        {"earlier row wins",
+         caches,
+         "/h/.cache/chromium/Service Worker/CacheStorage",
+         {},
+         Rating::review,
+         "May hold offline data of a web app."},
+        {"hidden spotify", caches, "/h/.cache/spotify", {}, Rating::review, songs},
+        {"sandboxed spotify", caches, "/h/.var/app/com.x/cache/spotify", {}, Rating::review, songs},
+        {"base row before a later one",
+         caches,
+         "/Library/Caches/Google/x/shadercache/y",
+         {},
+         Rating::safe,
+         "Browser cache, rebuilt as you browse."},
+        {"part needs its slash", caches, "/h/.cache/torchvision", {}, {}, {}},
+        {"location before name", largeFiles, "/h/tax passwords.kdbx", {}, Rating::keep, "Password database."},
+        {"location before installer",
+         oldDownloads,
+         "/d/shadercache/a.deb",
+         {},
+         Rating::safe,
+         "Rebuilt when the game runs; the first start is slower."},
+        {"document", oldDownloads, "/d/Invoice_2023.pdf", {}, Rating::keep, kDocument},
+        {"document after a note", trash, "/t/visa.png", "x", Rating::keep, std::string("x · ") + kDocument},
+        {"only the last component counts", largeFiles, "/h/tax/video.mov", "x", {}, "x"},
+        {"caches have no documents", caches, "/h/.cache/tax", {}, {}, {}},
+        {"logs have no documents", logs, "/h/bank.log", {}, {}, {}},
+        {"document before installer", oldDownloads, "/d/Tax 2024 Setup.dmg", {}, Rating::keep, kDocument},
+        {"installer replaces the note", oldDownloads, "/d/Setup.DMG", "x", Rating::safe, kInstaller},
+        {"package", oldDownloads, "/d/tool_1.2_amd64.deb", {}, Rating::safe, kInstaller},
+        {"the app itself is no installer", oldDownloads, "/d/Tool.AppImage", "x", {}, "x"},
+        {"extension needs its dot", oldDownloads, "/d/dmg", {}, {}, {}},
+        {"a hidden name is no extension", oldDownloads, "/d/.iso", {}, {}, {}},
+        {"installer elsewhere", largeFiles, "/d/Setup.dmg", "x", {}, "x"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Finding finding = rated(c.kind, {entry(c.path, c.earlierNote)});
+        EXPECT_EQ(finding.items.front().rating, c.rating);
+        EXPECT_EQ(finding.items.front().note, c.note);
+    }
+}
+
+TEST(RaterTest, entryWithoutARuleKeepsTheScannersRating)
+{
+    FileEntry tagged = entry("/h/code/target", "Build output marked as a cache");
+    tagged.rating = Rating::review;
+    EXPECT_EQ(rated(FindingKind::caches, {tagged}).items.front(), tagged);
+}
+
+TEST(RaterTest, findingOfKeptEntriesIsKept)
+{
+    const FileEntry bird = entry("/Library/Caches/com.apple.bird/a");
+    const Finding kept = rated(FindingKind::caches, {bird, entry("/Library/Caches/CloudKit")});
+    EXPECT_EQ(kept.rating, Rating::keep);
+    EXPECT_EQ(kept.reason, "Every item here looks important.");
+
+    const Finding mixed = rated(FindingKind::caches, {bird, entry("/Library/Caches/other")});
+    EXPECT_EQ(mixed.rating, Rating::safe);
+    EXPECT_TRUE(mixed.reason.starts_with("Apps rebuild their caches"));
+
+    const Finding empty = rated(FindingKind::caches, {});
+    EXPECT_EQ(empty.rating, Rating::safe);
+}
+
+TEST(RaterTest, listKeepsItsLengthOrderAndOtherFields)
+{
+    EXPECT_TRUE(Rater::rate({}).empty());
+
+    std::vector<Finding> findings;
+    for (const FindingKind kind : allKinds())
+        findings.emplace_back(kind, std::vector{entry("/h/plain")});
+    const std::vector<Finding> result = Rater::rate(findings);
+    ASSERT_EQ(result.size(), findings.size());
+    for (std::size_t i = 0; i < findings.size(); ++i) {
+        SCOPED_TRACE(findings[i].id());
+        EXPECT_NE(result[i].rating, Rating::keep);
+        EXPECT_FALSE(result[i].reason.empty());
+        EXPECT_NE(result[i].reason, "Check before cleaning.");
+        findings[i].rating = result[i].rating;
+        findings[i].reason = result[i].reason;
+        EXPECT_EQ(result[i], findings[i]);
+    }
+}
+
+} // namespace
+} // namespace orlen
