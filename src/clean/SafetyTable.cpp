@@ -1,0 +1,145 @@
+#include "clean/SafetyTable.h"
+
+#include "clean/SafetyRules.h"
+#include "clean/SyncRoots.h"
+#include "platform/FileStatus.h"
+#include "platform/PathText.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+using Mark = PathTrie::Mark;
+
+/// Calls `visit(folder, rest)` for each path that a rule's pattern stands for. They are kept apart because
+/// only the rest is a pattern: a star in the name of the user's home folder is a star.
+template <typename Visit>
+void forEachPath(const SafetyRules::PathRule& rule, const Places& places, Visit&& visit)
+{
+    for (const std::string& pattern : SafetyRules::spelledOut(rule.pattern)) {
+        const std::size_t end = pattern.starts_with('{') ? pattern.find('}') + 1 : 0;
+        const std::vector<std::string> folders = places.expand(pattern.substr(0, end));
+        const std::string rest = places.expand(pattern.substr(end)).front();
+        for (const std::string& folder : folders)
+            visit(folder, rest);
+    }
+}
+
+/// The pattern up to its first component with a star.
+std::string_view fixedStart(std::string_view pattern)
+{
+    const std::size_t star = pattern.find('*');
+    return star == std::string_view::npos ? pattern : PathText::parent(pattern.substr(0, star + 1));
+}
+
+/// Whether something is there, looked at component by component so that neither a link nor a foreign mount is
+/// entered. What lies behind a link counts as existing.
+bool mayExist(const std::string& path, const Places& places, const HomeMounts& mounts)
+{
+    if (!PathText::isAtOrBelow(path, places.home) || mounts.isForeign(path))
+        return false;
+    for (std::size_t end = places.home.size(); end < path.size();) {
+        end = std::min(path.find('/', end + 1), path.size());
+        const auto status = statusOf(path.substr(0, end));
+        if (!status.ok())
+            return false;
+        if (status.value().type != FileType::folder)
+            return end == path.size() || status.value().type == FileType::link;
+    }
+    return true;
+}
+
+/// Whether the text holds what `Places::normalized` would take out.
+bool isNormalComponent(std::string_view component)
+{
+    return !component.empty() && component != "." && component != "..";
+}
+
+} // namespace
+
+SafetyTable::SafetyTable(Places places) : m_places(std::move(places))
+{
+    if (!m_places.isHomeUsable)
+        return;
+    const HomeMounts mounts = HomeMounts::read(m_places);
+    m_syncRoots = SyncRoots::find(m_places, mounts);
+    addRules(mounts);
+    addFound(mounts);
+}
+
+void SafetyTable::addRules(const HomeMounts& mounts)
+{
+    for (const auto& rule : SafetyRules::placeRules()) {
+        forEachPath(rule, m_places, [&](const std::string& folder, const std::string& rest) {
+            m_marks.add(folder, rest, rule.mark);
+        });
+    }
+    for (const auto& rule : SafetyRules::treasureRules()) {
+        forEachPath(rule, m_places, [&](const std::string& folder, const std::string& rest) {
+            m_marks.add(folder, rest, rule.mark);
+            const std::string fixed = folder + std::string(fixedStart(rest));
+            if (rule.mark != Mark::opened && mayExist(fixed, m_places, mounts))
+                guardParents(fixed);
+        });
+    }
+}
+
+void SafetyTable::addFound(const HomeMounts& mounts)
+{
+    const auto mark = [this](const std::vector<std::string>& paths, Mark kind) {
+        for (const std::string& path : paths) {
+            m_marks.add(path, {}, kind);
+            guardParents(path);
+        }
+    };
+    mark(m_syncRoots, Mark::contents);
+    mark(mounts.points, Mark::itself);
+    mark(mounts.foreign, Mark::contents);
+}
+
+void SafetyTable::guardParents(std::string_view path)
+{
+    for (path = PathText::parent(path); path.size() > m_places.home.size(); path = PathText::parent(path)) {
+        if (!PathText::isAtOrBelow(path, m_places.home))
+            return;
+        m_marks.add(path, {}, Mark::itself);
+    }
+}
+
+SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
+{
+    // A byte 0 would end the path for the kernel, but not for the rules.
+    if (!m_places.isHomeUsable || !path.starts_with('/') || path.find('\0') != std::string_view::npos)
+        return {};
+    const bool isResolvedForm =
+        m_places.resolvedHome != m_places.home && PathText::isAtOrBelow(path, m_places.resolvedHome);
+    bool isNormal = !isResolvedForm;
+    for (std::size_t at = 1; isNormal && at <= path.size();) {
+        const std::size_t end = std::min(path.find('/', at), path.size());
+        isNormal = isNormalComponent(path.substr(at, end - at));
+        at = end + 1;
+    }
+    return isNormal ? judgeNormal(path) : judgeNormal(m_places.normalized(path));
+}
+
+SafetyTable::Verdict SafetyTable::judgeNormal(std::string_view path) const
+{
+    PathTrie::Walk walk(m_marks);
+    std::string_view parent;
+    std::string_view component;
+    for (std::size_t at = 1; at < path.size();) {
+        const std::size_t end = std::min(path.find('/', at), path.size());
+        parent = component;
+        component = path.substr(at, end - at);
+        walk.enter(component);
+        if (walk.isSealed() || SafetyRules::isSealedName(component) ||
+            SafetyRules::isSealedPair(parent, component))
+            return {};
+        at = end + 1;
+    }
+    return {walk.isMarked() || SafetyRules::isProtectedName(component), walk.areContentsMarked()};
+}
+
+} // namespace orlen

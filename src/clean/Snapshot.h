@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/Time.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace orlen {
+
+/// One reading of the disk, from which growth is forecast.
+struct Snapshot {
+    TimePoint date;
+    std::int64_t free = 0;                    ///< bytes
+    std::int64_t total = 0;                   ///< bytes
+    std::map<std::string, std::int64_t> cats; ///< bytes by raw value of OrlenCategory
+
+    friend bool operator==(const Snapshot&, const Snapshot&) = default;
+};
+
+} // namespace orlen

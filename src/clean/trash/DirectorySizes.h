@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Time.h"
+
+#include <cstdint>
+#include <string_view>
+
+/// The file "directorysizes" of a Trash, in which programs share the sizes of trashed folders so that each
+/// need not measure them. Rewritten whole and renamed into place; a failure only costs others that measuring
+/// and is ignored. Lines whose info file is gone are dropped on the way. Any thread; blocks on the disk.
+namespace orlen::DirectorySizes {
+
+/// `trash` and `info` are open folders; `name` is the folder's name in "files", `infoTime` the modification
+/// time of its info file, by which readers see whether the line is current.
+void add(int trash, int info, std::string_view name, std::int64_t bytes, TimePoint infoTime);
+
+/// After the info file of `name` was removed; nothing is written when no line is stale.
+void remove(int trash, int info, std::string_view name);
+
+} // namespace orlen::DirectorySizes

@@ -1,0 +1,234 @@
+#include "clean/trash/TrashFolder.h"
+
+#include "clean/trash/DirectorySizes.h"
+#include "clean/trash/TrashName.h"
+#include "platform/FileContent.h"
+#include "platform/Folder.h"
+#include "platform/FolderEntries.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+
+#include <cerrno>
+
+namespace orlen {
+
+namespace {
+
+constexpr const char* kFiles = "files";
+constexpr const char* kInfo = "info";
+constexpr unsigned kPrivate = 0700;
+/// So many items of one name are refused rather than counted on: finding a free number takes longer each
+/// time.
+constexpr int kAttempts = 100'000;
+/// A path has at most 4,096 bytes, three characters each when encoded; other programs may add lines.
+constexpr std::size_t kInfoLimit = 64'000;
+
+/// The top folder of the volume whose Trash this is; empty for the home Trash.
+std::string topOf(std::string_view trash)
+{
+    if (PathText::lastComponent(trash).starts_with(".Trash-"))
+        return std::string(PathText::parent(trash));
+    const std::string_view above = PathText::parent(trash);
+    return PathText::lastComponent(above) == ".Trash" ? std::string(PathText::parent(above)) : std::string();
+}
+
+bool climbs(std::string_view path)
+{
+    for (const std::string_view part : PathText::components(path)) {
+        if (part == "..")
+            return true;
+    }
+    return false;
+}
+
+Result<FileStatus> ownFolder(int folder)
+{
+    auto status = statusOfOpen(folder);
+    if (status.ok() && status.value().owner != Places::current().user)
+        return Errno{EPERM};
+    return status;
+}
+
+Result<UniqueFd> openPart(int trash, const char* name, TrashFolder::Missing missing)
+{
+    if (missing == TrashFolder::Missing::make)
+        return openOrMakeFolderAt(trash, name, kPrivate);
+    return openUnlinkedFolderAt(trash, name);
+}
+
+/// Removes an info file that was just written, unless the name has come to stand for another one.
+void takeBack(int folder, const std::string& infoName, int file)
+{
+    const auto named = statusAt(folder, infoName.c_str());
+    const auto own = statusOfOpen(file);
+    if (named.ok() && own.ok() && named.value().identity == own.value().identity)
+        (void)removeFileAt(folder, infoName.c_str());
+}
+
+/// Whether a rename that was answered with an error took place all the same: a network file system repeats a
+/// request whose answer was lost, and then finds nothing to rename.
+bool hasMoved(const TrashFolder::Incoming& entry, const FileIdentity& identity, int files,
+              const std::string& name)
+{
+    const auto arrived = statusAt(files, name.c_str());
+    return arrived.ok() && arrived.value().identity == identity &&
+           statusAt(entry.folder, entry.name.c_str()).error() == ENOENT;
+}
+
+} // namespace
+
+Result<TrashFolder> TrashFolder::open(UniqueFd trash, std::string path, Missing missing)
+{
+    TrashFolder folder;
+    folder.m_top = topOf(path);
+    folder.m_path = std::move(path);
+    folder.m_trash = std::move(trash);
+    if (const auto opened = folder.openParts(missing); !opened.ok())
+        return Errno{opened.error()};
+    return folder;
+}
+
+Result<TrashFolder> TrashFolder::open(const std::string& path, Missing missing)
+{
+    if (missing == Missing::make) {
+        if (const auto made = makeFolders(path, kPrivate); !made.ok())
+            return Errno{made.error()};
+    }
+    const std::string real = resolved(path);
+    if (real.empty())
+        return Errno{ENOENT};
+    auto trash = openUnlinkedFolder(real);
+    if (!trash.ok())
+        return Errno{trash.error()};
+    return open(std::move(trash).value(), path, missing);
+}
+
+Result<void> TrashFolder::openParts(Missing missing)
+{
+    if (const auto status = ownFolder(m_trash.get()); !status.ok())
+        return Errno{status.error()};
+    auto files = openPart(m_trash.get(), kFiles, missing);
+    auto info = openPart(m_trash.get(), kInfo, missing);
+    if (!files.ok() || !info.ok())
+        return Errno{files.ok() ? info.error() : files.error()};
+    m_files = std::move(files).value();
+    m_info = std::move(info).value();
+    const auto filesStatus = ownFolder(m_files.get());
+    const auto infoStatus = ownFolder(m_info.get());
+    if (!filesStatus.ok() || !infoStatus.ok())
+        return Errno{filesStatus.ok() ? infoStatus.error() : filesStatus.error()};
+    m_filesStatus = filesStatus.value();
+    m_infoStatus = infoStatus.value();
+    return {};
+}
+
+std::string TrashFolder::placeText(const Incoming& entry) const
+{
+    if (m_top.empty())
+        return entry.path;
+    // The volume may be mounted elsewhere tomorrow: its places are told from its top folder.
+    return entry.realPath.substr(m_top.size() + 1);
+}
+
+Result<std::string> TrashFolder::moveIn(const Incoming& entry, TimePoint now) const
+{
+    const auto folder = statusOfOpen(entry.folder);
+    if (!folder.ok())
+        return Errno{folder.error()};
+    // No rename crosses mounts; knowing it first spares an info file that would flash up in other programs.
+    if (folder.value().mount != m_filesStatus.mount)
+        return Errno{EXDEV};
+    for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+        const std::string name = TrashName::candidate(entry.name, attempt);
+        // An item whose info file was lost still has its name.
+        if (holds(name))
+            continue;
+        const auto moved = moveAs(name, entry, now);
+        if (moved.ok())
+            return PathText::join(PathText::join(m_path, kFiles), name);
+        if (moved.error() != EEXIST)
+            return Errno{moved.error()};
+    }
+    return Errno{EEXIST};
+}
+
+Result<void> TrashFolder::moveAs(const std::string& name, const Incoming& entry, TimePoint now) const
+{
+    const auto before = statusAt(entry.folder, entry.name.c_str());
+    if (!before.ok())
+        return Errno{before.error()};
+    const std::string infoName = TrashName::infoName(name);
+    const auto info = createFileAt(m_info.get(), infoName.c_str());
+    if (!info.ok())
+        return Errno{info.error()};
+    const int file = info.value().get();
+    Result<void> done = writeAll(file, TrashInfo::text(placeText(entry), now));
+    if (done.ok())
+        done = syncFile(file);
+    if (done.ok() && !isStillNamed())
+        done = Errno{ESTALE};
+    if (done.ok()) {
+        done = renameNoReplaceAt(entry.folder, entry.name.c_str(), m_files.get(), name.c_str());
+        if (!done.ok() && hasMoved(entry, before.value().identity, m_files.get(), name))
+            done = {};
+    }
+    if (!done.ok()) {
+        takeBack(m_info.get(), infoName, file);
+        return done;
+    }
+    if (const auto written = statusOfOpen(file); written.ok() && before.value().type == FileType::folder)
+        noteSize(name, entry, written.value().modified);
+    return {};
+}
+
+/// Whether the open folders still have the names under which the item's new path will be told. They have not
+/// when somebody removed the Trash as a whole or put another one in its place.
+bool TrashFolder::isStillNamed() const
+{
+    const auto files = statusOf(PathText::join(m_path, kFiles));
+    const auto info = statusOf(PathText::join(m_path, kInfo));
+    return files.ok() && info.ok() && files.value().identity == m_filesStatus.identity &&
+           info.value().identity == m_infoStatus.identity;
+}
+
+void TrashFolder::noteSize(const std::string& name, const Incoming& entry, TimePoint infoTime) const
+{
+    if (m_top.empty() && entry.bytes)
+        DirectorySizes::add(m_trash.get(), m_info.get(), name, *entry.bytes, infoTime);
+}
+
+std::optional<TrashInfo> TrashFolder::infoOf(const std::string& name) const
+{
+    const auto text = readHeadAt(m_info.get(), TrashName::infoName(name).c_str(), kInfoLimit);
+    auto info = TrashInfo::parse(text.value_or(""));
+    if (!info || climbs(info->path))
+        return std::nullopt;
+    if (!info->path.starts_with('/')) {
+        if (m_top.empty())
+            return std::nullopt;
+        info->path = PathText::join(m_top, info->path);
+    }
+    return info;
+}
+
+bool TrashFolder::hasInfo(const std::string& name) const
+{
+    return statusAt(m_info.get(), TrashName::infoName(name).c_str()).error() != ENOENT;
+}
+
+bool TrashFolder::holds(const std::string& name) const
+{
+    return statusAt(m_files.get(), name.c_str()).ok();
+}
+
+Result<void> TrashFolder::moveOut(const std::string& name, int folder, const std::string& newName) const
+{
+    if (auto moved = renameNoReplaceAt(m_files.get(), name.c_str(), folder, newName.c_str()); !moved.ok())
+        return moved;
+    // Nobody else takes the name while its info file is there, so what is removed is the item's own.
+    (void)removeFileAt(m_info.get(), TrashName::infoName(name).c_str());
+    DirectorySizes::remove(m_trash.get(), m_info.get(), name);
+    return {};
+}
+
+} // namespace orlen

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "clean/trash/TrashInfo.h"
+#include "platform/FileStatus.h"
+#include "platform/Result.h"
+#include "platform/UniqueFd.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace orlen {
+
+/// One Trash, its folders "files" and "info" held open: whatever happens to the names meanwhile, an item and
+/// its info file stay in the folders that were looked at. Any thread; blocks on the disk.
+class TrashFolder {
+public:
+    /// An entry about to be moved in: a name in an open folder.
+    struct Incoming {
+        int folder = -1;
+        std::string name;
+        std::string path;                  ///< where the info file says it was, absolute
+        std::string realPath;              ///< the same with the links among its folders resolved
+        std::optional<std::int64_t> bytes; ///< what it occupies; nothing when not known
+    };
+
+    enum class Missing { make, refuse };
+
+    /// The Trash whose folder `trash` was opened; `path` is how it is named to others. Folders that are
+    /// missing are made for the user alone. EPERM when any of the three belongs to somebody else, ENOTDIR
+    /// when "files" or "info" is anything but a folder.
+    [[nodiscard]] static Result<TrashFolder> open(UniqueFd trash, std::string path, Missing missing);
+    /// By path, following a link of the user's that stands for the Trash itself.
+    [[nodiscard]] static Result<TrashFolder> open(const std::string& path, Missing missing);
+
+    /// Moves the entry in and returns its new path. EXDEV when it lies on another file system. After a
+    /// failure the entry is where it was and no info file of it is left.
+    [[nodiscard]] Result<std::string> moveIn(const Incoming& entry, TimePoint now) const;
+
+    /// The item's info with its place made absolute; nothing when there is none or it is not legible.
+    [[nodiscard]] std::optional<TrashInfo> infoOf(const std::string& name) const;
+    /// Whether anything stands where the item's info file belongs.
+    [[nodiscard]] bool hasInfo(const std::string& name) const;
+    [[nodiscard]] bool holds(const std::string& name) const;
+
+    /// Moves an item out to a free name in an open folder and removes its info file.
+    [[nodiscard]] Result<void> moveOut(const std::string& name, int folder, const std::string& newName) const;
+
+    /// Device of the folder that items are moved into.
+    [[nodiscard]] std::uint64_t device() const { return m_filesStatus.identity.device; }
+
+private:
+    TrashFolder() = default;
+    [[nodiscard]] Result<void> openParts(Missing missing);
+    [[nodiscard]] std::string placeText(const Incoming& entry) const;
+    [[nodiscard]] Result<void> moveAs(const std::string& name, const Incoming& entry, TimePoint now) const;
+    [[nodiscard]] bool isStillNamed() const;
+    void noteSize(const std::string& name, const Incoming& entry, TimePoint infoTime) const;
+
+    std::string m_path;
+    std::string m_top; ///< top folder of the volume; empty for the home Trash, whose places are absolute
+    UniqueFd m_trash;
+    UniqueFd m_files;
+    UniqueFd m_info;
+    FileStatus m_filesStatus;
+    FileStatus m_infoStatus;
+};
+
+} // namespace orlen

@@ -1,0 +1,115 @@
+#include "clean/trash/TrashInfo.h"
+
+#include "platform/PercentCoding.h"
+
+#include <array>
+#include <charconv>
+#include <ctime>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::string_view kHeading = "[Trash Info]";
+
+/// The number that the digits in `[at, at + length)` stand for; nothing when another character is among them.
+std::optional<int> number(std::string_view text, std::size_t at, std::size_t length, int base)
+{
+    int value = 0;
+    const char* end = text.data() + at + length;
+    const auto [stop, error] = std::from_chars(text.data() + at, end, value, base);
+    if (error != std::errc() || stop != end || text[at] == '-')
+        return std::nullopt;
+    return value;
+}
+
+std::string localText(TimePoint time)
+{
+    const std::time_t seconds =
+        std::chrono::system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(time));
+    std::tm local{};
+    if (::localtime_r(&seconds, &local) == nullptr)
+        return {};
+    std::array<char, 32> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &local);
+    return {text.data(), length};
+}
+
+/// Reads the form that `localText` writes; what other programs append to it (fractions, a zone) is ignored.
+std::optional<TimePoint> timeFromLocal(std::string_view text)
+{
+    if (text.size() < 19 || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':' ||
+        text[16] != ':')
+        return std::nullopt;
+    const auto year = number(text, 0, 4, 10);
+    const auto month = number(text, 5, 2, 10);
+    const auto day = number(text, 8, 2, 10);
+    const auto hour = number(text, 11, 2, 10);
+    const auto minute = number(text, 14, 2, 10);
+    const auto second = number(text, 17, 2, 10);
+    // The clock counts nanoseconds in 64 bits: years outside 1678 to 2261 would wrap.
+    if (!year || !month || !day || !hour || !minute || !second || *year < 1678 || *year > 2261)
+        return std::nullopt;
+    if (*month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 || *second > 60)
+        return std::nullopt;
+    std::tm local{};
+    local.tm_year = *year - 1900;
+    local.tm_mon = *month - 1;
+    local.tm_mday = *day;
+    local.tm_hour = *hour;
+    local.tm_min = *minute;
+    local.tm_sec = *second;
+    local.tm_isdst = -1;
+    return std::chrono::system_clock::from_time_t(std::mktime(&local));
+}
+
+std::string_view nextLine(std::string_view& rest)
+{
+    const std::size_t end = rest.find('\n');
+    std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
+/// The value of a "Key=Value" line of this key.
+std::optional<std::string_view> valueOf(std::string_view line, std::string_view key)
+{
+    if (!line.starts_with(key) || line.size() == key.size() || line[key.size()] != '=')
+        return std::nullopt;
+    return line.substr(key.size() + 1);
+}
+
+} // namespace
+
+std::string TrashInfo::text(std::string_view path, TimePoint deleted)
+{
+    std::string text(kHeading);
+    text += "\nPath=" + PercentCoding::encoded(path);
+    text += "\nDeletionDate=" + localText(deleted) + "\n";
+    return text;
+}
+
+std::optional<TrashInfo> TrashInfo::parse(std::string_view text)
+{
+    while (!text.empty() && nextLine(text) != kHeading) {
+    }
+    std::optional<std::string_view> path;
+    std::optional<std::string_view> date;
+    while (!text.empty()) {
+        const std::string_view line = nextLine(text);
+        if (line.starts_with('['))
+            break;
+        if (!path)
+            path = valueOf(line, "Path");
+        if (!date)
+            date = valueOf(line, "DeletionDate");
+    }
+    auto decoded = PercentCoding::decoded(path.value_or(""));
+    if (!decoded || decoded->empty())
+        return std::nullopt;
+    return TrashInfo{*std::move(decoded), date ? timeFromLocal(*date) : std::nullopt};
+}
+
+} // namespace orlen

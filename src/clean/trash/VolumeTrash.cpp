@@ -1,0 +1,90 @@
+#include "clean/trash/VolumeTrash.h"
+
+#include "clean/Safety.h"
+#include "platform/FolderEntries.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+
+#include <cerrno>
+
+namespace orlen::VolumeTrash {
+
+namespace {
+
+/// The permission bit that keeps users of a shared folder from touching each other's entries.
+constexpr std::uint32_t kSticky = 01000;
+constexpr unsigned kPrivate = 0700;
+
+/// By device and mount: a btrfs subvolume that is not mounted has a device of its own, a bind mount has not,
+/// and a rename passes neither border.
+bool isSameVolume(const FileStatus& a, const FileStatus& b)
+{
+    return a.identity.device == b.identity.device && a.mount == b.mount;
+}
+
+/// The highest folder on the way up that lies on the same volume.
+std::string topFolder(std::string path, const FileStatus& entryFolder)
+{
+    while (path != "/") {
+        const std::string above(PathText::parent(path));
+        const auto status = statusOf(above);
+        if (!status.ok() || !isSameVolume(status.value(), entryFolder))
+            break;
+        path = above;
+    }
+    return path;
+}
+
+/// The folder "<name>" in `parent` as a Trash of this volume.
+Result<TrashFolder> adopt(int parent, const std::string& name, const std::string& path,
+                          const FileStatus& volume)
+{
+    // An item must stay where the program may find it, and put it back from.
+    if (Safety::isProtected(PathText::join(path, "files/item")))
+        return Errno{EXDEV};
+    auto trash = openOrMakeFolderAt(parent, name.c_str(), kPrivate);
+    if (!trash.ok())
+        return Errno{trash.error()};
+    if (const auto status = statusOfOpen(trash.value().get());
+        !status.ok() || !isSameVolume(status.value(), volume))
+        return Errno{EXDEV};
+    auto opened = TrashFolder::open(std::move(trash).value(), path, TrashFolder::Missing::make);
+    if (opened.ok() && opened.value().device() != volume.identity.device)
+        return Errno{EXDEV};
+    return opened;
+}
+
+Result<TrashFolder> openShared(int top, const std::string& topPath, const FileStatus& volume)
+{
+    const auto shared = openUnlinkedFolderAt(top, ".Trash");
+    if (!shared.ok())
+        return Errno{shared.error()};
+    const auto status = statusOfOpen(shared.value().get());
+    if (!status.ok() || (status.value().mode & kSticky) == 0)
+        return Errno{EXDEV};
+    const std::string name = std::to_string(Places::current().user);
+    return adopt(shared.value().get(), name, PathText::join(PathText::join(topPath, ".Trash"), name), volume);
+}
+
+} // namespace
+
+Result<TrashFolder> open(int folder, const std::string& path)
+{
+    const auto volume = statusOfOpen(folder);
+    if (!volume.ok())
+        return Errno{volume.error()};
+    const std::string topPath = topFolder(path, volume.value());
+    const auto top = openUnlinkedFolder(topPath);
+    if (!top.ok())
+        return Errno{EXDEV};
+    if (const auto status = statusOfOpen(top.value().get());
+        !status.ok() || !isSameVolume(status.value(), volume.value()))
+        return Errno{EXDEV};
+    if (auto shared = openShared(top.value().get(), topPath, volume.value()); shared.ok())
+        return shared;
+    const std::string name = ".Trash-" + std::to_string(Places::current().user);
+    auto own = adopt(top.value().get(), name, PathText::join(topPath, name), volume.value());
+    return own.ok() ? std::move(own) : Result<TrashFolder>(Errno{EXDEV});
+}
+
+} // namespace orlen::VolumeTrash
