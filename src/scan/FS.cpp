@@ -1,0 +1,61 @@
+#include "scan/FS.h"
+
+#include "platform/MountTable.h"
+#include "platform/RecentDocuments.h"
+#include "scan/tree/TreeMeasure.h"
+
+#include <algorithm>
+
+namespace orlen::FS {
+
+std::int64_t fileSize(const FileStatus& status)
+{
+    return status.allocatedBytes;
+}
+
+std::int64_t allocatedSize(const std::string& path, std::stop_token stop)
+{
+    return allocatedSizes(std::span(&path, 1), std::move(stop)).front();
+}
+
+std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths, std::stop_token stop)
+{
+    return measureTrees(paths, stop);
+}
+
+std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocuments& recent,
+                                    const MountTable& mounts)
+{
+    const auto status = statusOf(path);
+    if (!status.ok())
+        return std::nullopt;
+    std::optional<TimePoint> opened = recent.lastVisit(path);
+    const Mount* mount = mounts.byId(status.value().mount);
+    if (mount == nullptr || mount->keepsAccessTimes)
+        opened = std::max(opened.value_or(TimePoint::min()), status.value().accessed);
+    return opened.value_or(status.value().modified);
+}
+
+FileEntry entry(const std::string& path, std::string_view note, std::stop_token stop)
+{
+    return std::move(entries(std::span(&path, 1), note, std::move(stop)).front());
+}
+
+std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
+                               std::stop_token stop)
+{
+    const std::vector<std::int64_t> sizes = allocatedSizes(paths, std::move(stop));
+    std::vector<FileEntry> entries(paths.size());
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        FileEntry& entry = entries[i];
+        entry.path = paths[i];
+        entry.size = sizes[i];
+        if (const auto status = statusOf(paths[i]); status.ok())
+            entry.modified = status.value().modified;
+        if (!note.empty())
+            entry.note = std::string(note);
+    }
+    return entries;
+}
+
+} // namespace orlen::FS

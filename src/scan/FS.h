@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "platform/FileStatus.h"
+#include "platform/Time.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+class MountTable;
+class RecentDocuments;
+
+/// Measures and dates paths. Stateless; any thread. Blocks on the disk: never call from the main thread.
+/// Trees are measured by the shared pool of disk workers; a measurement that is stopped returns what it has.
+namespace FS {
+
+/// Bytes that a file occupies on disk.
+[[nodiscard]] std::int64_t fileSize(const FileStatus& status);
+
+/// Allocated bytes of a file, or of all regular files below a folder. Links are not followed, and mounted
+/// network and pseudo file systems are not entered. 0 for what is missing or cannot be read.
+[[nodiscard]] std::int64_t allocatedSize(const std::string& path, std::stop_token stop = {});
+
+/// The same for many paths at once, which is faster than one after the other.
+[[nodiscard]] std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths,
+                                                       std::stop_token stop = {});
+
+/// When the user last opened a file: the later of what the desktop's list of recent documents tells and the
+/// access time, which does not count on a mount that keeps none; else the modification time; nothing for what
+/// does not exist.
+[[nodiscard]] std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocuments& recent,
+                                                  const MountTable& mounts);
+
+/// The path with its allocated size, modification date (absent when it cannot be read) and the note; an empty
+/// note gives none.
+[[nodiscard]] FileEntry entry(const std::string& path, std::string_view note, std::stop_token stop = {});
+
+/// The same for many paths, in their order, measured together.
+[[nodiscard]] std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
+                                             std::stop_token stop = {});
+
+} // namespace FS
+} // namespace orlen

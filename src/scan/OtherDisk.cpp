@@ -1,0 +1,24 @@
+#include "scan/OtherDisk.h"
+
+#include "platform/MountTable.h"
+#include "platform/Places.h"
+#include "scan/tree/CurrentMounts.h"
+
+namespace orlen {
+
+void noteOtherDisks(std::vector<Finding>& findings)
+{
+    const std::string& home = Places::current().home;
+    const auto mounts = CurrentMounts::table();
+    if (mounts->below(home).empty())
+        return;
+    for (Finding& finding : findings) {
+        for (FileEntry& entry : finding.items) {
+            const Mount* mount = mounts->holding(entry.path);
+            if (mount != nullptr && !mounts->isSameFileSystem(entry.path, home))
+                addNote(entry, "On another disk (" + mount->point + ")");
+        }
+    }
+}
+
+} // namespace orlen

@@ -1,0 +1,119 @@
+#include "scan/ScanEngine.h"
+
+#include "platform/Places.h"
+#include "platform/RecentDocuments.h"
+#include "scan/Duplicates.h"
+#include "scan/LargeAndOld.h"
+#include "scan/OtherDisk.h"
+#include "scan/StepGroup.h"
+#include "scan/Walk.h"
+#include "scan/locations/LocationScanners.h"
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <iterator>
+
+namespace orlen {
+
+namespace {
+
+using Clock = std::chrono::system_clock;
+using Findings = std::vector<Finding>;
+
+constexpr std::size_t kLargeAndOldStep = 7;
+constexpr std::size_t kDuplicatesStep = 8;
+constexpr std::size_t kPhotosStep = 9;
+
+/// Runs a routine as the step with this label.
+template <typename Routine>
+Findings asStep(ScanProgress& progress, std::string_view label, const Routine& routine)
+{
+    progress.set(label, StepState::running);
+    Findings findings = routine();
+    progress.set(label, StepState::done);
+    return findings;
+}
+
+Findings findDuplicates(const Walk::Found& found, const std::stop_token& stop)
+{
+    Findings findings;
+    findings.push_back(Duplicates::finding(Duplicates::find(Walk::duplicateInput(found), stop)));
+    return findings;
+}
+
+/// The steps that share one walk of the home folder.
+Findings fileBased(ScanProgress& progress, std::int64_t largeThreshold, const RecentDocuments& recent,
+                   const std::stop_token& stop)
+{
+    const std::string_view largeAndOldLabel = ScanEngine::kSteps[kLargeAndOldStep];
+    progress.set(largeAndOldLabel, StepState::running);
+    Walk::Found found = Walk::home(progress, stop);
+
+    StepGroup group;
+    group.add("large", [&] {
+        Findings findings = largeAndOld(found.cands, largeThreshold, Clock::now(), recent, stop);
+        progress.set(largeAndOldLabel, StepState::done);
+        return findings;
+    });
+    group.add("duplicates", [&] {
+        return asStep(progress, ScanEngine::kSteps[kDuplicatesStep],
+                      [&] { return findDuplicates(found, stop); });
+    });
+    group.add("photos", [&] {
+        // Image recognition is not there yet: this step finds nothing.
+        return asStep(progress, ScanEngine::kSteps[kPhotosStep], [] { return Findings(); });
+    });
+    Findings findings = group.collect();
+    findings.emplace_back(FindingKind::caches, std::move(found.taggedCaches));
+    noteOtherDisks(findings);
+    return findings;
+}
+
+/// One finding per kind: what two steps found of the same kind is put together, at the place of the first.
+Findings mergedByKind(Findings findings)
+{
+    Findings merged;
+    for (Finding& finding : findings) {
+        if (finding.items.empty())
+            continue;
+        const auto same = std::find_if(merged.begin(), merged.end(),
+                                       [&](const Finding& other) { return other.kind == finding.kind; });
+        if (same == merged.end()) {
+            merged.push_back(std::move(finding));
+            continue;
+        }
+        std::vector<FileEntry> items = std::move(same->items);
+        std::move(finding.items.begin(), finding.items.end(), std::back_inserter(items));
+        *same = Finding(finding.kind, std::move(items));
+    }
+    return merged;
+}
+
+} // namespace
+
+std::vector<Finding> ScanEngine::run()
+{
+    m_progress.setSteps({kSteps.begin(), kSteps.end()});
+    const std::stop_token stop = m_flag.token();
+    const LocationScanners scanners(m_progress, stop);
+    const RecentDocuments recent = RecentDocuments::ofUser(Places::current());
+    using Routine = std::function<Findings()>;
+    const Routine locationSteps[] = {
+        [&] { return scanners.cachesAndLogs(); },
+        [&] { return scanners.backups(); },
+        [&] { return scanners.developer(); },
+        [&] { return scanners.packageCaches(); },
+        [&] { return scanners.trashAndMail(); },
+        [&] { return scanners.languagePacks(); },
+        [&] { return scanners.downloads(Clock::now(), recent); },
+    };
+    StepGroup group;
+    for (std::size_t step = 0; step < std::size(locationSteps); ++step) {
+        group.add("location", [&, step] { return asStep(m_progress, kSteps[step], locationSteps[step]); });
+    }
+    group.add("files", [&] { return fileBased(m_progress, m_options.largeThreshold, recent, stop); });
+    return mergedByKind(group.collect());
+}
+
+} // namespace orlen

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "model/Finding.h"
+#include "scan/ScanFlag.h"
+#include "scan/ScanProgress.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace orlen {
+
+struct ScanOptions {
+    std::int64_t largeThreshold = 0; ///< bytes from which a file is a large file
+};
+
+/// Runs one Smart Scan of the home folder. Made for each scan, run once.
+class ScanEngine {
+public:
+    explicit ScanEngine(ScanOptions options) : m_options(options) {}
+
+    /// The step labels in their order.
+    static constexpr std::array<std::string_view, 10> kSteps{
+        "Caches & logs",  "Backups & updates", "Developer tools",   "Package caches",  "Trash & mail",
+        "Language packs", "Downloads",         "Large & old files", "Duplicate files", "Photos"};
+
+    /// The findings of all steps in the order in which the steps finished, one for each kind that has
+    /// entries, not yet rated. Blocks until all steps have ended, soon after the flag is set: call it on a
+    /// worker.
+    [[nodiscard]] std::vector<Finding> run();
+
+    [[nodiscard]] const ScanOptions& options() const { return m_options; }
+    [[nodiscard]] ScanProgress& progress() { return m_progress; }
+    [[nodiscard]] const ScanProgress& progress() const { return m_progress; }
+    [[nodiscard]] ScanFlag& flag() { return m_flag; }
+
+private:
+    ScanOptions m_options;
+    ScanProgress m_progress;
+    ScanFlag m_flag;
+};
+
+} // namespace orlen

@@ -1,0 +1,45 @@
+#include "scan/duplicates/KeepOrder.h"
+
+#include "platform/Places.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+/// Characters of a UTF-8 text: every byte but those that continue one.
+std::ptrdiff_t characters(const std::string& text)
+{
+    return std::ranges::count_if(text,
+                                 [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
+}
+
+} // namespace
+
+KeepOrder::KeepOrder(const Places& places) : m_downloads{places.home + "/Downloads/"}
+{
+    if (!places.downloads.empty())
+        m_downloads.push_back(places.downloads + "/");
+}
+
+bool KeepOrder::isDownload(const std::string& path) const
+{
+    return std::ranges::any_of(m_downloads,
+                               [&](const std::string& folder) { return path.starts_with(folder); });
+}
+
+bool KeepOrder::operator()(const Cand& a, const Cand& b) const
+{
+    if (const bool isDownloadA = isDownload(a.path); isDownloadA != isDownload(b.path))
+        return !isDownloadA;
+    const auto lengthA = characters(a.path);
+    const auto lengthB = characters(b.path);
+    if (lengthA != lengthB)
+        return lengthA < lengthB;
+    if (a.modified != b.modified)
+        return a.modified < b.modified;
+    return a.path < b.path;
+}
+
+} // namespace orlen

@@ -1,0 +1,79 @@
+#include "scan/locations/LanguagePacks.h"
+
+#include "clean/Safety.h"
+#include "platform/BundleInfo.h"
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "scan/FS.h"
+
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace orlen::LanguagePacks {
+
+namespace {
+
+using Codes = std::set<std::string, std::less<>>;
+
+/// "pt" of "pt-BR", "pt_BR" and "PT".
+std::string codeOf(std::string_view language)
+{
+    return PathText::asciiLower(language.substr(0, language.find_first_of("-_")));
+}
+
+Codes keptCodes()
+{
+    Codes codes{"en", "base"};
+    for (const std::string& language : Places::current().languages)
+        codes.insert(codeOf(language));
+    return codes;
+}
+
+bool isExaminable(const std::string& bundle)
+{
+    return isWritable(bundle) && !BundleInfo::identifier(bundle).starts_with("com.apple.");
+}
+
+std::vector<std::string> translationsIn(const std::string& bundle, const Codes& kept)
+{
+    constexpr std::string_view kSuffix = ".lproj";
+    std::vector<std::string> paths;
+    const std::string resources = bundle + "/Contents/Resources";
+    for (const std::string& name : listNames(resources + "/.")) {
+        if (!name.ends_with(kSuffix) ||
+            kept.contains(codeOf(std::string_view(name).substr(0, name.size() - kSuffix.size()))))
+            continue;
+        std::string path = PathText::join(resources, name);
+        if (isRealFolder(path) && PathText::isValidUtf8(path) && !Safety::isProtected(path))
+            paths.push_back(std::move(path));
+    }
+    return paths;
+}
+
+} // namespace
+
+std::vector<FileEntry> entries(std::stop_token stop)
+{
+    const Places& places = Places::current();
+    if (!places.isHomeUsable)
+        return {};
+    const Codes kept = keptCodes();
+    std::vector<std::string> paths;
+    for (const std::string& name : listNames(places.applications + "/.")) {
+        if (stop.stop_requested())
+            break;
+        const std::string bundle = PathText::join(places.applications, name);
+        if (!name.ends_with(".app") || !isExaminable(bundle))
+            continue;
+        for (std::string& path : translationsIn(bundle, kept))
+            paths.push_back(std::move(path));
+    }
+    std::vector<FileEntry> found = FS::entries(paths, {}, std::move(stop));
+    std::erase_if(found, [](const FileEntry& entry) { return entry.size < 1; });
+    return found;
+}
+
+} // namespace orlen::LanguagePacks

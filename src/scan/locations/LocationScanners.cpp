@@ -1,0 +1,55 @@
+#include "scan/locations/LocationScanners.h"
+
+#include "scan/locations/LanguagePacks.h"
+#include "scan/locations/OldDownloads.h"
+#include "scan/locations/SourceReader.h"
+
+namespace orlen {
+
+std::vector<Finding> LocationScanners::read(std::initializer_list<FindingKind> kinds) const
+{
+    const SourceReader reader(m_progress, m_stop);
+    std::vector<Finding> findings;
+    for (const FindingKind kind : kinds)
+        findings.emplace_back(kind, reader.entries(kind));
+    return findings;
+}
+
+std::vector<Finding> LocationScanners::cachesAndLogs() const
+{
+    return read({FindingKind::caches, FindingKind::logs});
+}
+
+std::vector<Finding> LocationScanners::backups() const
+{
+    return read({FindingKind::iosBackups, FindingKind::softwareUpdates});
+}
+
+std::vector<Finding> LocationScanners::developer() const
+{
+    return read({FindingKind::xcodeDerived, FindingKind::xcodeArchives, FindingKind::simulators,
+                 FindingKind::deviceSupport});
+}
+
+std::vector<Finding> LocationScanners::packageCaches() const
+{
+    return read({FindingKind::homebrew, FindingKind::npm, FindingKind::pip, FindingKind::gradle});
+}
+
+std::vector<Finding> LocationScanners::trashAndMail() const
+{
+    return read({FindingKind::trash, FindingKind::mailDownloads});
+}
+
+std::vector<Finding> LocationScanners::languagePacks() const
+{
+    return {Finding(FindingKind::languagePacks, LanguagePacks::entries(m_stop))};
+}
+
+std::vector<Finding> LocationScanners::downloads(TimePoint now, const RecentDocuments& recent) const
+{
+    const SourceReader reader(m_progress, m_stop);
+    return {Finding(FindingKind::oldDownloads, OldDownloads::entries(reader, now, recent, m_stop))};
+}
+
+} // namespace orlen

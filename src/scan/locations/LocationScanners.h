@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/Finding.h"
+#include "platform/Time.h"
+
+#include <initializer_list>
+#include <stop_token>
+#include <utility>
+#include <vector>
+
+namespace orlen {
+
+class RecentDocuments;
+class ScanProgress;
+
+/// The seven scanners that look only at known places. Each blocks on the disk and returns one finding per
+/// kind that it covers, possibly without entries; what cannot be listed contributes nothing. They may all run
+/// at once. A stopped scanner returns what it has.
+class LocationScanners {
+public:
+    LocationScanners(ScanProgress& progress, std::stop_token stop)
+        : m_progress(progress), m_stop(std::move(stop))
+    {
+    }
+
+    [[nodiscard]] std::vector<Finding> cachesAndLogs() const;
+    [[nodiscard]] std::vector<Finding> backups() const;
+    [[nodiscard]] std::vector<Finding> developer() const;
+    [[nodiscard]] std::vector<Finding> packageCaches() const;
+    [[nodiscard]] std::vector<Finding> trashAndMail() const;
+    [[nodiscard]] std::vector<Finding> languagePacks() const;
+    /// Items of the Downloads folders not touched for 30 days before `now`.
+    [[nodiscard]] std::vector<Finding> downloads(TimePoint now, const RecentDocuments& recent) const;
+
+private:
+    [[nodiscard]] std::vector<Finding> read(std::initializer_list<FindingKind> kinds) const;
+
+    ScanProgress& m_progress;
+    std::stop_token m_stop;
+};
+
+} // namespace orlen

@@ -1,0 +1,139 @@
+#include "scan/locations/SourceMap.h"
+
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "scan/locations/Glob.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+/// "Google/AndroidStudio*" says that a folder "Google" is meant only when it holds something of that name.
+bool isExcluded(const SourceRow& row, const std::string& child)
+{
+    const std::string_view name = PathText::lastComponent(child);
+    return std::any_of(row.except.begin(), row.except.end(), [&](std::string_view pattern) {
+        const std::size_t slash = pattern.find('/');
+        if (!Glob::matches(pattern.substr(0, slash), name))
+            return false;
+        return slash == std::string_view::npos || !Glob::paths(child, pattern.substr(slash)).empty();
+    });
+}
+
+bool isTaken(const SourceRow& row, const std::string& child)
+{
+    return (row.only.empty() || Glob::matchesAny(row.only, PathText::lastComponent(child))) &&
+           (row.accepts == nullptr || row.accepts(child));
+}
+
+std::string filledIn(std::string_view note, const Glob::Match& match)
+{
+    constexpr std::string_view kMatched = "{1}";
+    std::string text(note);
+    if (const std::size_t at = text.find(kMatched); at != std::string::npos && !match.names.empty())
+        text.replace(at, kMatched.size(), match.names.front());
+    return text;
+}
+
+bool isLeftOut(const SourceRow& row, const Glob::Match& match)
+{
+    return std::any_of(match.names.begin(), match.names.end(),
+                       [&](const std::string& name) { return Glob::matchesAny(row.exceptFolders, name); });
+}
+
+/// Where the components with a "*" begin; the whole length when there are none.
+std::size_t firstStar(std::string_view pattern)
+{
+    const std::size_t star = pattern.find('*');
+    return star == std::string_view::npos ? pattern.size() : pattern.rfind('/', star);
+}
+
+} // namespace
+
+SourceMap::SourceMap(const Places& places)
+{
+    if (!places.isHomeUsable)
+        return;
+    for (const SourceRow& row : sourceRows())
+        add(row, places);
+}
+
+void SourceMap::add(const SourceRow& row, const Places& places)
+{
+    for (const std::string_view pattern : row.from) {
+        const std::size_t star = firstStar(pattern);
+        for (const std::string& start : places.expand(pattern.substr(0, star))) {
+            for (Glob::Match& match : Glob::paths(start, pattern.substr(star))) {
+                // What one source of the row offers as an entry is not opened by the next.
+                const bool isEntry = !match.names.empty() &&
+                                     isKnown(row, std::string(PathText::parent(match.path))) &&
+                                     isTaken(row, match.path);
+                if (!isEntry && !isLeftOut(row, match) && !isKnown(row, match.path))
+                    add({&row, match.path, filledIn(row.note, match)});
+            }
+        }
+    }
+}
+
+void SourceMap::add(Source source)
+{
+    m_byPath[source.path].push_back(m_sources.size());
+    for (std::string_view above = PathText::parent(source.path); above.size() > 1;
+         above = PathText::parent(above))
+        m_above.emplace(above);
+    m_sources.push_back(std::move(source));
+}
+
+bool SourceMap::isKnown(const SourceRow& row, const std::string& path) const
+{
+    const std::vector<const Source*> sources = at(path);
+    return std::any_of(sources.begin(), sources.end(),
+                       [&](const Source* source) { return source->row == &row; });
+}
+
+std::vector<const Source*> SourceMap::of(const SourceRow& row) const
+{
+    std::vector<const Source*> found;
+    for (const Source& source : m_sources) {
+        if (source.row == &row)
+            found.push_back(&source);
+    }
+    return found;
+}
+
+std::vector<const Source*> SourceMap::at(const std::string& path) const
+{
+    std::vector<const Source*> found;
+    if (const auto places = m_byPath.find(path); places != m_byPath.end()) {
+        for (const std::size_t place : places->second)
+            found.push_back(&m_sources[place]);
+    }
+    return found;
+}
+
+bool SourceMap::isOfferedBy(const Source& source, const std::string& child) const
+{
+    if (m_above.contains(child) || m_byPath.contains(child))
+        return false;
+    // What one row of the folder never offers, no other may: it is left alone for what it is.
+    const std::vector<const Source*> readers = at(source.path);
+    if (std::any_of(readers.begin(), readers.end(),
+                    [&](const Source* reader) { return isExcluded(*reader->row, child); }))
+        return false;
+    const auto taker = std::find_if(readers.begin(), readers.end(),
+                                    [&](const Source* reader) { return isTaken(*reader->row, child); });
+    return taker != readers.end() && (*taker)->row == source.row;
+}
+
+bool SourceMap::isOffered(const Source& single) const
+{
+    const std::vector<const Source*> same = at(single.path);
+    const bool isReadAsFolder = std::any_of(same.begin(), same.end(), [](const Source* source) {
+        return source->row->reading != Reading::single;
+    });
+    return !m_above.contains(single.path) && !isReadAsFolder && same.front()->row == single.row;
+}
+
+} // namespace orlen

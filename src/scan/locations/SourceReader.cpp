@@ -1,0 +1,186 @@
+#include "scan/locations/SourceReader.h"
+
+#include "clean/Safety.h"
+#include "platform/Folder.h"
+#include "platform/FolderEntries.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "scan/FS.h"
+#include "scan/ScanProgress.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace orlen {
+
+namespace {
+
+/// The folder, unless it or a folder on the way to it from the home folder is a link. The home folder itself,
+/// and what it lies in, may be one.
+Result<UniqueFd> openWithoutLinks(const std::string& path)
+{
+    const std::string& home = Places::current().home;
+    if (!PathText::isAtOrBelow(path, home))
+        return openFolder(path);
+    auto folder = openFolder(home + "/.");
+    for (const std::string_view component :
+         PathText::components(std::string_view(path).substr(home.size()))) {
+        if (folder.ok())
+            folder = openUnlinkedFolderAt(folder.value().get(), std::string(component).c_str());
+    }
+    return folder.ok() ? openFolderAt(folder.value().get(), ".") : std::move(folder);
+}
+
+Result<UniqueFd> openToRead(const Source& folder)
+{
+    return folder.row->layout == Layout::mac ? openFolder(folder.path + "/.") : openWithoutLinks(folder.path);
+}
+
+bool isLink(int folder, const FolderEntry& entry)
+{
+    if (entry.type != EntryType::unknown)
+        return entry.type == EntryType::link;
+    const auto status = statusAt(folder, entry.name);
+    return !status.ok() || status.value().type == FileType::link;
+}
+
+/// Names that are never entries of a row, whatever they are.
+bool isSkipped(const SourceRow& row, std::string_view name)
+{
+    if (row.reading == Reading::children && (name == ".DS_Store" || name == ".localized"))
+        return true;
+    return row.layout == Layout::freedesktop && (name == ".Trash" || name.starts_with(".Trash-"));
+}
+
+bool mayBeOffered(const SourceRow& row, const std::string& path)
+{
+    return PathText::isValidUtf8(path) && !Safety::isProtected(path) &&
+           (row.offered == Offered::all || isDeletable(path));
+}
+
+bool isLinkFree(const Source& single)
+{
+    if (single.row->layout == Layout::mac)
+        return true;
+    const auto status = statusOf(single.path);
+    return status.ok() && status.value().type != FileType::link &&
+           openWithoutLinks(std::string(PathText::parent(single.path))).ok();
+}
+
+bool isLargeEnough(const SourceRow& row, const FileEntry& entry)
+{
+    return entry.size >= std::max<std::int64_t>(row.minimum, 1);
+}
+
+void append(std::vector<FileEntry>& entries, std::vector<FileEntry> more)
+{
+    entries.insert(entries.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
+
+} // namespace
+
+SourceReader::SourceReader(ScanProgress& progress, std::stop_token stop)
+    : m_progress(progress), m_stop(std::move(stop)), m_map(Places::current())
+{
+}
+
+std::vector<FileEntry> SourceReader::entries(FindingKind kind) const
+{
+    std::vector<FileEntry> all;
+    for (const SourceRow& row : sourceRows()) {
+        if (row.kind != kind)
+            continue;
+        if (row.reading == Reading::children)
+            append(all, children(row));
+        for (const Source* source : m_map.of(row)) {
+            if (row.reading == Reading::single)
+                append(all, single(*source));
+        }
+    }
+    return all;
+}
+
+std::vector<std::string> SourceReader::paths(FindingKind kind) const
+{
+    std::vector<std::string> all;
+    for (const SourceRow& row : sourceRows()) {
+        if (row.kind != kind)
+            continue;
+        for (const Source* source : m_map.of(row)) {
+            std::vector<std::string> found = pathsIn(*source);
+            all.insert(all.end(), std::make_move_iterator(found.begin()),
+                       std::make_move_iterator(found.end()));
+        }
+    }
+    return all;
+}
+
+std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
+{
+    // All folders of the row are measured together: the disk is kept busy by the largest of them all.
+    std::vector<std::string> found;
+    std::vector<const Source*> origins;
+    for (const Source* source : m_map.of(row)) {
+        for (std::string& path : pathsIn(*source)) {
+            found.push_back(std::move(path));
+            origins.push_back(source);
+        }
+    }
+    std::vector<FileEntry> entries = FS::entries(found, {}, m_stop);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (!origins[i]->note.empty())
+            entries[i].note = origins[i]->note;
+    }
+    std::erase_if(entries, [&](const FileEntry& entry) { return !isLargeEnough(row, entry); });
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
+    if (entries.size() > row.limit)
+        entries.resize(row.limit);
+    for (FileEntry& entry : entries) {
+        if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
+            !note.empty())
+            addNote(entry, note);
+    }
+    return entries;
+}
+
+std::vector<FileEntry> SourceReader::single(const Source& source) const
+{
+    if (!exists(source.path) || !isLinkFree(source) || !m_map.isOffered(source) ||
+        !mayBeOffered(*source.row, source.path))
+        return {};
+    m_progress.show(source.path);
+    FileEntry entry = FS::entry(source.path, source.note, m_stop);
+    if (!isLargeEnough(*source.row, entry))
+        return {};
+    return {std::move(entry)};
+}
+
+std::vector<std::string> SourceReader::pathsIn(const Source& folder) const
+{
+    std::vector<std::string> found;
+    const auto fd = openToRead(folder);
+    if (!fd.ok())
+        return found;
+    const SourceRow& row = *folder.row;
+    const auto look = [&](const FolderEntry& entry) {
+        if (m_stop.stop_requested() || isSkipped(row, entry.name))
+            return;
+        if (row.layout == Layout::freedesktop && isLink(fd.value().get(), entry))
+            return;
+        std::string path = PathText::join(folder.path, entry.name);
+        if (!m_map.isOfferedBy(folder, path) || !mayBeOffered(row, path))
+            return;
+        m_progress.tick(path);
+        found.push_back(std::move(path));
+    };
+    FolderReader reader(fd.value().get());
+    while (const auto chunk = reader.next()) {
+        chunk->forEach(look);
+        if (m_stop.stop_requested())
+            break;
+    }
+    return found;
+}
+
+} // namespace orlen

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "scan/locations/SourceMap.h"
+
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+class ScanProgress;
+
+/// Lists and measures what the rows of the table lead to. Reads nothing but the disk and the map: several
+/// readers may work at once. A stopped one returns what it has.
+class SourceReader {
+public:
+    SourceReader(ScanProgress& progress, std::stop_token stop);
+
+    /// The measured entries of all rows of a kind, row after row, each row's largest first. Blocks on the
+    /// disk.
+    [[nodiscard]] std::vector<FileEntry> entries(FindingKind kind) const;
+
+    /// The paths that the rows of a kind may offer, not measured, in listing order. Blocks on the disk.
+    [[nodiscard]] std::vector<std::string> paths(FindingKind kind) const;
+
+private:
+    [[nodiscard]] std::vector<FileEntry> children(const SourceRow& row) const;
+    [[nodiscard]] std::vector<FileEntry> single(const Source& source) const;
+    [[nodiscard]] std::vector<std::string> pathsIn(const Source& folder) const;
+
+    ScanProgress& m_progress;
+    std::stop_token m_stop;
+    SourceMap m_map;
+};
+
+} // namespace orlen

@@ -1,0 +1,113 @@
+#include "scan/walk/WalkRules.h"
+
+#include "clean/Safety.h"
+#include "platform/FileContent.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "scan/tree/PathMarks.h"
+#include "scan/tree/TreeScan.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace orlen::WalkRules {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kLeftOutAtTop{"Library", "Applications", "Public", "snap"};
+constexpr std::array<std::string_view, 4> kLeftOut{"node_modules", "__pycache__", "site-packages",
+                                                   "lost+found"};
+constexpr std::array<std::string_view, 9> kPackageEndings{".app",           ".framework", ".bundle",
+                                                          ".photoslibrary", ".AppDir",    ".fcpbundle",
+                                                          ".imovielibrary", ".lrdata",    ".xcodeproj"};
+constexpr std::array<std::string_view, 10> kImageExtensions{"jpg",  "jpeg", "png",  "heic", "heif",
+                                                            "tiff", "tif",  "webp", "bmp",  "gif"};
+constexpr std::array<std::string_view, 8> kImageFolders{"{H}/Pictures",  "{H}/Desktop", "{H}/Downloads",
+                                                        "{H}/Documents", "{PICTURES}",  "{DESKTOP}",
+                                                        "{DOWNLOAD}",    "{DOCUMENTS}"};
+constexpr std::string_view kCacheTag = "Signature: 8a477f597d28d172789f06886806bc55";
+
+template <std::size_t Size>
+bool contains(const std::array<std::string_view, Size>& names, std::string_view name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// The names that tell what a folder is.
+struct Telltales {
+    bool appRun = false;
+    bool headFile = false;
+    bool configFile = false;
+    bool objectsFolder = false;
+    bool refsFolder = false;
+    bool environment = false;
+    bool syncMarker = false;
+    bool cacheTag = false;
+
+    void look(const FolderEntry& entry)
+    {
+        const std::string_view name = entry.name;
+        const bool isFile = entry.type == EntryType::regular || entry.type == EntryType::unknown;
+        const bool isFolder = entry.type == EntryType::folder || entry.type == EntryType::unknown;
+        appRun |= name == "AppRun" && !isFolder;
+        headFile |= isFile && name == "HEAD";
+        configFile |= isFile && name == "config";
+        objectsFolder |= isFolder && name == "objects";
+        refsFolder |= isFolder && name == "refs";
+        environment |= (isFile && name == "pyvenv.cfg") || (isFolder && name == "conda-meta");
+        cacheTag |= isFile && name == "CACHEDIR.TAG";
+        syncMarker |= Safety::isSyncMarker(name);
+    }
+};
+
+bool isExecutable(int folder, const char* name)
+{
+    constexpr unsigned kAnyExecute = 0111;
+    const auto status = statusAt(folder, name);
+    return status.ok() && (status.value().type == FileType::link || (status.value().mode & kAnyExecute) != 0);
+}
+
+} // namespace
+
+bool isLeftOutAtTop(std::string_view name)
+{
+    return contains(kLeftOutAtTop, name);
+}
+
+bool isLeftOut(std::string_view name)
+{
+    return name.starts_with('.') || contains(kLeftOut, name) ||
+           std::any_of(kPackageEndings.begin(), kPackageEndings.end(),
+                       [&](std::string_view ending) { return name.ends_with(ending); });
+}
+
+bool isImageName(std::string_view name)
+{
+    return contains(kImageExtensions, PathText::asciiLower(PathText::extension(name)));
+}
+
+void markImageFolders(const Places& places, PathMarks& marks)
+{
+    for (const std::string_view pattern : kImageFolders) {
+        for (const std::string& folder : places.expand(pattern))
+            marks.mark(folder, kImageFolder);
+    }
+}
+
+FolderNature natureOf(const TreeListing& listing)
+{
+    Telltales found;
+    listing.forEach([&](const FolderEntry& entry) { found.look(entry); });
+    if (found.syncMarker)
+        return FolderNature::mirrored;
+    if (found.cacheTag && readHeadAt(listing.descriptor(), "CACHEDIR.TAG", kCacheTag.size()) == kCacheTag)
+        return FolderNature::taggedCache;
+    const bool isRepository =
+        found.objectsFolder && (found.configFile || (found.headFile && found.refsFolder));
+    if (found.environment || isRepository || (found.appRun && isExecutable(listing.descriptor(), "AppRun")))
+        return FolderNature::package;
+    return FolderNature::plain;
+}
+
+} // namespace orlen::WalkRules

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "scan/Walk.h"
+#include "scan/tree/TreeScan.h"
+
+#include <mutex>
+#include <vector>
+
+namespace orlen {
+
+/// Collects candidates on the way of a walk. Its results depend on the files alone, not on which thread met
+/// which folder first: what is limited in number is chosen by path.
+class WalkVisitor : public TreeVisitor {
+public:
+    enum class Scope { homeFolder, givenFolders };
+
+    /// Tag of a folder in which images are collected.
+    static constexpr std::uint32_t kImages = 1;
+    /// Smallest general candidate, allocated bytes.
+    static constexpr std::int64_t kCandBytes = 1'000'000;
+
+    WalkVisitor(Scope scope, ScanProgress& progress) : m_scope(scope), m_progress(progress) {}
+
+    std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
+                                       std::uint32_t marks) override;
+    [[nodiscard]] bool looksAtListings() const override { return true; }
+    bool accept(const TreeFolder& folder, const TreeListing& listing) override;
+    void files(const TreeFolder& folder, std::span<const TreeFile> files) override;
+    void counted(const TreeFolder& folder, std::int64_t entries) override;
+
+    /// After the scan: the candidates in path order, each file once.
+    [[nodiscard]] std::vector<Cand> takeCands();
+    [[nodiscard]] std::vector<Cand> takeImages();
+    [[nodiscard]] std::vector<std::string> takeTaggedCaches();
+
+private:
+    struct Walked {
+        Cand cand;
+        FileIdentity identity;
+        bool hasOtherNames = false;
+    };
+
+    void addImages(std::vector<Cand> images);
+
+    const Scope m_scope;
+    ScanProgress& m_progress;
+    std::mutex m_lock;
+    std::vector<Walked> m_cands;
+    std::vector<Cand> m_images; ///< a heap, the last path on top
+    std::vector<std::string> m_taggedCaches;
+};
+
+} // namespace orlen

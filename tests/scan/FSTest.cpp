@@ -1,0 +1,51 @@
+#include "scan/FS.h"
+
+#include "platform/MountTable.h"
+#include "platform/RecentDocuments.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace orlen {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(FSTest, entryHasSizeDateAndNote)
+{
+    const TempHome home;
+    const std::string path = home.fileOfSize("a", 4096);
+    const TimePoint time = TimePoint(std::chrono::sys_days(std::chrono::year(2024) / 2 / 3)) + 4h;
+    TempHome::setTimes(path, time, time);
+    const FileEntry entry = FS::entry(path, "a note");
+    EXPECT_EQ(entry, (FileEntry{path, 4096, time, std::nullopt, std::nullopt, "a note"}));
+    EXPECT_EQ(FS::entry(home.path("missing"), "").modified, std::nullopt);
+    EXPECT_EQ(FS::entry(path, "").note, std::nullopt);
+}
+
+TEST(FSTest, lastOpenedIsTheLaterOfAccessAndVisit)
+{
+    const TempHome home;
+    const std::string path = home.file("a b");
+    const TimePoint day = std::chrono::sys_days(std::chrono::year(2024) / 6 / 15);
+    TempHome::setTimes(path, day, day - 240h);
+    const auto visited = [&](const char* date) {
+        return RecentDocuments::parse("<xbel><bookmark href=\"file://" + home.path("a%20b") +
+                                      "\" visited=\"" + date + "\"/></xbel>");
+    };
+    const MountTable keeping;
+    EXPECT_EQ(FS::lastOpened(path, RecentDocuments(), keeping), day);
+    EXPECT_EQ(FS::lastOpened(path, visited("2024-06-10T00:00:00Z"), keeping), day);
+    EXPECT_EQ(FS::lastOpened(path, visited("2024-06-20T00:00:00Z"), keeping), day + 120h);
+    EXPECT_EQ(FS::lastOpened(home.path("missing"), RecentDocuments(), keeping), std::nullopt);
+
+    const std::string number = std::to_string(statusOf(path).value().mount);
+    const MountTable noatime = MountTable::parse(number + " 0 0:1 / / rw,noatime - ext4 /dev/a rw\n");
+    EXPECT_EQ(FS::lastOpened(path, RecentDocuments(), noatime), day - 240h) << "the modification time";
+    EXPECT_EQ(FS::lastOpened(path, visited("2024-06-10T00:00:00Z"), noatime), day - 120h) << "the visit";
+}
+
+} // namespace
+} // namespace orlen

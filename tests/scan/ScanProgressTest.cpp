@@ -1,0 +1,36 @@
+#include "scan/ScanProgress.h"
+
+#include <gtest/gtest.h>
+
+namespace orlen {
+namespace {
+
+TEST(ScanProgressTest, pathChangesWithEveryFortyEighthItem)
+{
+    ScanProgress progress;
+    for (int i = 1; i <= 47; ++i)
+        progress.tick("early");
+    EXPECT_EQ(progress.current(), "");
+    progress.tick("the 48th");
+    EXPECT_EQ(progress.current(), "the 48th");
+    progress.tick(47, [] { return std::string("not yet"); });
+    EXPECT_EQ(progress.current(), "the 48th");
+    progress.tick(200, [] { return std::string("passed several"); });
+    EXPECT_EQ(progress.current(), "passed several");
+    EXPECT_EQ(progress.files(), 295);
+}
+
+TEST(ScanProgressTest, onlyTheStepWithExactlyThisLabelChanges)
+{
+    ScanProgress progress;
+    progress.setSteps({"One", "Two"});
+    progress.set("one", StepState::done);
+    progress.set("Two", StepState::running);
+    EXPECT_EQ(progress.steps()[0].state, StepState::pending);
+    EXPECT_EQ(progress.steps()[1].state, StepState::running);
+    progress.set("Two", StepState::done);
+    EXPECT_EQ(progress.steps()[1].state, StepState::done);
+}
+
+} // namespace
+} // namespace orlen
