@@ -1,0 +1,159 @@
+#include "insight/Predictor.h"
+
+#include "model/ByteCount.h"
+#include "platform/CheckedSum.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <numeric>
+#include <optional>
+
+namespace orlen::Predictor {
+
+namespace {
+
+using Days = std::chrono::duration<double, std::chrono::days::period>;
+
+/// Readings closer together than this say nothing about growth.
+constexpr std::chrono::hours kShortestSpan{6};
+/// Slower growth than this, in bytes per day, counts as none.
+constexpr double kStableGrowth = 1'000'000;
+/// A disk that is full sooner than this, in days, deserves a warning.
+constexpr double kWarningDays = 60;
+
+/// In microseconds, because in nanoseconds the span of two arbitrary dates may not fit into 64 bits.
+std::chrono::microseconds between(TimePoint earlier, TimePoint later)
+{
+    return std::chrono::floor<std::chrono::microseconds>(later) -
+           std::chrono::floor<std::chrono::microseconds>(earlier);
+}
+
+bool isLongEnough(std::span<const Snapshot> sorted)
+{
+    return sorted.size() >= 2 && between(sorted.front().date, sorted.back().date) >= kShortestSpan;
+}
+
+/// Bytes per day of what `bytesOf` reads from each snapshot that has it; nothing from fewer than two
+/// readings.
+template <typename BytesOf>
+std::optional<double> growth(std::span<const Snapshot> sorted, BytesOf bytesOf)
+{
+    std::vector<Point> points;
+    points.reserve(sorted.size());
+    for (const Snapshot& snapshot : sorted) {
+        const std::optional<std::int64_t> bytes = bytesOf(snapshot);
+        if (bytes)
+            points.push_back(
+                {Days(between(sorted.front().date, snapshot.date)).count(), static_cast<double>(*bytes)});
+    }
+    if (points.size() < 2)
+        return std::nullopt;
+    return slope(points);
+}
+
+std::optional<std::int64_t> usedBytes(const Snapshot& snapshot)
+{
+    return checkedSubtract(snapshot.total, snapshot.free);
+}
+
+std::vector<std::pair<OrlenCategory, double>> growthPerCategory(std::span<const Snapshot> sorted)
+{
+    std::vector<std::pair<OrlenCategory, double>> rates;
+    for (const OrlenCategory category : kAllCategories) {
+        const std::string key(rawValue(category));
+        const auto rate = growth(sorted, [&](const Snapshot& snapshot) -> std::optional<std::int64_t> {
+            const auto found = snapshot.cats.find(key);
+            return found == snapshot.cats.end() ? std::nullopt : std::optional(found->second);
+        });
+        if (rate)
+            rates.emplace_back(category, *rate);
+    }
+    std::ranges::stable_sort(rates, std::greater{}, &std::pair<OrlenCategory, double>::second);
+    return rates;
+}
+
+void describeTooLittle(Prediction& prediction)
+{
+    prediction.headline = "Still learning your Mac";
+    prediction.detail =
+        "Orlen needs scans taken at least several hours apart (ideally days) to estimate growth. "
+        "Each Smart Scan adds a data point, stored only on this Mac.";
+}
+
+void describeGrowth(Prediction& prediction, double bytesPerDay, std::int64_t free)
+{
+    const double daysLeft = static_cast<double>(free) / bytesPerDay;
+    prediction.headline = "Disk nearly full in " + duration(daysLeft);
+    prediction.detail = "Used space is growing by about " + byteCount(checkedInteger(bytesPerDay)) +
+                        " per day, and " + byteCount(free) + " is free.";
+    prediction.warn = daysLeft < kWarningDays;
+}
+
+void describeStability(Prediction& prediction, std::size_t scans)
+{
+    prediction.headline = "Your free space is stable";
+    prediction.detail = "Based on " + std::to_string(scans) + " scans, used space isn't growing.";
+}
+
+} // namespace
+
+Prediction predict(std::vector<Snapshot> snapshots)
+{
+    std::ranges::stable_sort(snapshots, {}, &Snapshot::date);
+    Prediction prediction;
+    std::ranges::transform(snapshots, std::back_inserter(prediction.freeSeries),
+                           [](const Snapshot& snapshot) { return static_cast<double>(snapshot.free); });
+    if (!isLongEnough(snapshots)) {
+        describeTooLittle(prediction);
+        return prediction;
+    }
+    prediction.enoughData = true;
+    prediction.perCategory = growthPerCategory(snapshots);
+    const double bytesPerDay = growth(snapshots, usedBytes).value_or(0);
+    if (bytesPerDay > kStableGrowth)
+        describeGrowth(prediction, bytesPerDay, snapshots.back().free);
+    else
+        describeStability(prediction, snapshots.size());
+    return prediction;
+}
+
+double slope(std::span<const Point> points)
+{
+    if (points.size() < 2)
+        return 0;
+    const auto mean = [&](double Point::*coordinate) {
+        const auto add = [&](double sum, const Point& point) { return sum + point.*coordinate; };
+        return std::accumulate(points.begin(), points.end(), 0.0, add) / static_cast<double>(points.size());
+    };
+    const double meanX = mean(&Point::x);
+    const double meanY = mean(&Point::y);
+    double sxy = 0;
+    double sxx = 0;
+    for (const Point& point : points) {
+        sxy += (point.x - meanX) * (point.y - meanY);
+        sxx += (point.x - meanX) * (point.x - meanX);
+    }
+    return sxx == 0 ? 0 : sxy / sxx;
+}
+
+std::string duration(double days)
+{
+    const auto about = [](double number, const char* unit) {
+        return "about " + std::to_string(std::llround(number)) + unit;
+    };
+    if (days < 1)
+        return "less than a day";
+    if (days < 14)
+        return about(days, std::llround(days) == 1 ? " day" : " days");
+    if (days < 60)
+        return about(days / 7, " weeks");
+    if (days < 730)
+        return about(days / 30, " months");
+    return "more than 2 years";
+}
+
+} // namespace orlen::Predictor
