@@ -1,0 +1,173 @@
+#include "app/AppModel.h"
+
+#include "app/DiskAccess.h"
+#include "clean/Persist.h"
+#include "clean/Safety.h"
+#include "platform/CheckedSum.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "scan/ScanEngine.h"
+
+#include <QThread>
+#include <QTimer>
+
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::chrono::hours kSnapshotAge{12};
+constexpr std::size_t kSnapshotLimit = 400;
+constexpr std::chrono::seconds kVolumeInterval{60};
+
+/// Without a data folder there is nothing to fight over: the saves will fail, and nothing else does.
+bool mayWrite(const std::optional<FolderLock>& lock, const std::string& folder)
+{
+    return lock.has_value() || !isListable(PathText::join(folder, "."));
+}
+
+} // namespace
+
+AppModel::AppModel(const Options& options, QObject* parent)
+    : QObject(parent), m_options(options), m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
+{
+    if (m_options.access == Access::writer) {
+        const std::string folder = Persist::dir();
+        m_lock = FolderLock::take(folder);
+        m_isWriter = mayWrite(m_lock, folder);
+    }
+    m_history = Persist::loadHistory();
+    m_snapshots = Persist::loadSnapshots();
+    m_isFdaGranted = checkFDA();
+    if (m_options.startup == Startup::full)
+        startUp();
+}
+
+AppModel::~AppModel()
+{
+    cancelScan();
+    m_workers.finish();
+    // What was moved must not be forgotten because the window was closed meanwhile.
+    for (const PendingRecord& pending : m_pending) {
+        if (!pending->has_value() || (*pending)->items.empty())
+            continue;
+        m_history.insert(m_history.begin(), **pending);
+        saveHistory();
+    }
+}
+
+void AppModel::startUp()
+{
+    refreshBreakdown(Recording::ifStale);
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, &AppModel::updateVolume);
+    timer->start(kVolumeInterval);
+}
+
+bool AppModel::checkFDA()
+{
+    return DiskAccess::isGranted(Places::current());
+}
+
+bool AppModel::isStale(std::span<const Snapshot> snapshots, TimePoint now)
+{
+    return snapshots.empty() || now - snapshots.back().date > kSnapshotAge;
+}
+
+void AppModel::refreshBreakdown(Recording recording)
+{
+    checkThread();
+    const auto measure = [](const std::stop_token& stop) {
+        Safety::refresh();
+        return StorageBreakdown::compute(stop);
+    };
+    m_workers.start(measure, [this, recording, number = ++m_breakdownsStarted](StorageBreakdown measured) {
+        if (number > m_breakdownStored) {
+            m_breakdownStored = number;
+            setBreakdown(std::move(measured));
+        }
+        if (recording == Recording::ifStale && isStale(m_snapshots, std::chrono::system_clock::now()))
+            recordSnapshot();
+    });
+}
+
+void AppModel::setBreakdown(StorageBreakdown breakdown)
+{
+    m_breakdown = std::move(breakdown);
+    m_isBreakdownReady = true;
+    Q_EMIT breakdownChanged();
+}
+
+void AppModel::updateVolume()
+{
+    const StorageBreakdown::Space space = StorageBreakdown::volume();
+    m_breakdown.total = space.total;
+    m_breakdown.free = space.free;
+    Q_EMIT breakdownChanged();
+}
+
+void AppModel::recordSnapshot()
+{
+    checkThread();
+    Snapshot snapshot{std::chrono::system_clock::now(), m_breakdown.free, m_breakdown.total, {}};
+    for (const auto& [category, bytes] : m_breakdown.cats)
+        snapshot.cats.emplace(rawValue(category), bytes);
+    m_snapshots.push_back(std::move(snapshot));
+    if (m_snapshots.size() > kSnapshotLimit)
+        m_snapshots.erase(m_snapshots.begin(), m_snapshots.end() - kSnapshotLimit);
+    if (m_isWriter)
+        Persist::saveSnapshots(m_snapshots);
+    Q_EMIT snapshotsChanged();
+}
+
+Prediction AppModel::prediction() const
+{
+    return Predictor::predict(m_snapshots);
+}
+
+void AppModel::setSelection(std::set<std::string> selection)
+{
+    assign(m_selection, std::move(selection), &AppModel::selectionChanged);
+}
+
+void AppModel::setSheet(std::optional<SheetKind> sheet)
+{
+    assign(m_sheet, std::move(sheet), &AppModel::sheetChanged);
+}
+
+void AppModel::setRequestedScreen(std::optional<Screen> screen)
+{
+    assign(m_requestedScreen, screen, &AppModel::requestedScreenChanged);
+}
+
+void AppModel::setLargeThresholdMB(double megabytes)
+{
+    assign(m_largeThresholdMB, megabytes, &AppModel::largeThresholdMBChanged);
+}
+
+void AppModel::setPhase(Phase phase)
+{
+    assign(m_phase, phase, &AppModel::phaseChanged);
+}
+
+void AppModel::setFdaGranted(bool isGranted)
+{
+    assign(m_isFdaGranted, isGranted, &AppModel::fdaGrantedChanged);
+}
+
+void AppModel::checkThread() const
+{
+    if (QThread::currentThread() != thread())
+        fatalError("the application model was used outside its thread");
+}
+
+void AppModel::checkWriter() const
+{
+    checkThread();
+    if (!m_isWriter)
+        fatalError("a clean-up was asked of an application model that cannot record it");
+}
+
+} // namespace orlen

@@ -1,0 +1,225 @@
+#pragma once
+
+#include "app/Screen.h"
+#include "app/Workers.h"
+#include "clean/CleanRecord.h"
+#include "clean/Cleaner.h"
+#include "clean/Snapshot.h"
+#include "insight/Predictor.h"
+#include "model/Finding.h"
+#include "model/ModelState.h"
+#include "platform/FolderLock.h"
+#include "platform/Time.h"
+#include "scan/StorageBreakdown.h"
+
+#include <QObject>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <set>
+#include <span>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+class ScanEngine;
+class ScanProgress;
+
+/// The one state of the program: the results of the last Smart Scan, the selection, a clean-up in progress,
+/// the history, the snapshots and the storage breakdown. The window and the command line are both views of
+/// it.
+///
+/// Belongs to the main thread, as everything here does, and needs its event loop: work that blocks runs on
+/// workers and its results arrive by signals. Destroying the model cancels what is in progress and waits for
+/// it; a clean-up finishes the item in hand and is recorded.
+class AppModel : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool breakdownReady READ isBreakdownReady NOTIFY breakdownChanged)
+    Q_PROPERTY(double largeThresholdMB READ largeThresholdMB WRITE setLargeThresholdMB NOTIFY
+                   largeThresholdMBChanged)
+    Q_PROPERTY(bool fdaGranted READ isFdaGranted NOTIFY fdaGrantedChanged)
+    Q_PROPERTY(bool writer READ isWriter CONSTANT)
+
+public:
+    enum class Startup {
+        full,      ///< for a window: also measures, records a stale snapshot, and keeps free space up to date
+        filesOnly, ///< for one command: loads the two files and probes the disk access
+    };
+    enum class Access {
+        writer, ///< saves history and snapshots, if no other process does
+        reader, ///< never saves
+    };
+    enum class Recording { none, ifStale };
+
+    struct Options {
+        Startup startup = Startup::full;
+        Access access = Access::writer;
+        /// A clean-up is shown at least so long, so that a short one can be seen.
+        std::chrono::milliseconds overlayMinimum{1800};
+    };
+
+    explicit AppModel(const Options& options, QObject* parent = nullptr);
+    ~AppModel() override;
+
+    /// Empty until the first computation has finished.
+    [[nodiscard]] const StorageBreakdown& breakdown() const { return m_breakdown; }
+    [[nodiscard]] bool isBreakdownReady() const { return m_isBreakdownReady; }
+    [[nodiscard]] Phase phase() const { return m_phase; }
+    /// Of the last scan, in display order: most Safe bytes first, then most bytes.
+    [[nodiscard]] const std::vector<Finding>& findings() const { return m_findings; }
+    /// Paths of the entries that the user has chosen to clean.
+    [[nodiscard]] const std::set<std::string>& selection() const { return m_selection; }
+    [[nodiscard]] const std::optional<SheetKind>& sheet() const { return m_sheet; }
+    /// Nothing while no clean-up is shown.
+    [[nodiscard]] const std::optional<CleaningState>& cleaning() const { return m_cleaning; }
+    /// Newest first.
+    [[nodiscard]] const std::vector<CleanRecord>& history() const { return m_history; }
+    /// Oldest first, at most 400.
+    [[nodiscard]] const std::vector<Snapshot>& snapshots() const { return m_snapshots; }
+    /// Decimal megabytes from which a file counts as large.
+    [[nodiscard]] double largeThresholdMB() const { return m_largeThresholdMB; }
+    [[nodiscard]] bool isFdaGranted() const { return m_isFdaGranted; }
+    /// Of the current or last scan; an empty one before the first.
+    [[nodiscard]] const ScanProgress& scanProgress() const { return *m_scanProgress; }
+    [[nodiscard]] const std::optional<TimePoint>& lastScan() const { return m_lastScan; }
+    /// A screen that the main window is asked to show.
+    [[nodiscard]] std::optional<Screen> requestedScreen() const { return m_requestedScreen; }
+    /// Whether this model saves: it was asked to, and no other process holds the data folder.
+    [[nodiscard]] bool isWriter() const { return m_isWriter; }
+
+    void setSelection(std::set<std::string> selection);
+    void setSheet(std::optional<SheetKind> sheet);
+    void setRequestedScreen(std::optional<Screen> screen);
+    /// A value that is not finite, or too large in bytes for 64 bits, stops the program at the next scan.
+    void setLargeThresholdMB(double megabytes);
+
+    /// Whether the program may read protected folders.
+    [[nodiscard]] static bool checkFDA();
+    /// Whether a snapshot is due: there is none, or the newest is more than 12 hours old.
+    [[nodiscard]] static bool isStale(std::span<const Snapshot> snapshots, TimePoint now);
+
+    /// Measures the storage breakdown anew; a snapshot is recorded after it when one is due and asked for.
+    void refreshBreakdown(Recording recording);
+    /// Appends a snapshot of the current breakdown, drops the oldest beyond 400, and saves the list.
+    void recordSnapshot();
+
+    /// Starts a Smart Scan unless one is running. The phase turns to `results` at its end, or back to `idle`
+    /// with everything as it was before when it was cancelled.
+    void startScan();
+    /// Asks the scan to end soon; ignored when none is running.
+    void cancelScan();
+    /// Leaves the results.
+    void resetToIdle();
+
+    /// Bytes of all entries of the cleanable findings.
+    [[nodiscard]] std::int64_t totalFound() const;
+    /// Bytes of the entries rated Safe in the cleanable findings.
+    [[nodiscard]] std::int64_t safeBytes() const;
+    /// The findings of the five photo kinds.
+    [[nodiscard]] std::vector<Finding> photoFindings() const;
+    /// Bytes of the finding's selected entries.
+    [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
+    /// The plan of the current selection: one section for each cleanable finding, without protected paths.
+    [[nodiscard]] CleanPlan scanPlan() const;
+    /// The growth forecast from the snapshots.
+    [[nodiscard]] Prediction prediction() const;
+
+    /// Moves the plan's entries whose path is in `selected` to the Trash; closes the sheet. Nothing more
+    /// happens when none is left. Only for a writer.
+    void confirm(const CleanPlan& plan, const std::set<std::string>& selected);
+    /// Lets the clean-up finish the item in hand and end; ignored when none is running.
+    void cancelCleaning();
+    /// Closes the display of a clean-up.
+    void dismissCleaning();
+    /// Takes entries out of the results and the selection.
+    void removeFromFindings(const std::set<std::string>& paths);
+
+    struct Restoration {
+        Cleaner::Restored outcome;
+        std::string message; ///< one line for the user
+    };
+    /// Puts a past clean-up back, at once. Only for a writer.
+    Restoration restore(const CleanRecord& record);
+
+Q_SIGNALS:
+    void breakdownChanged();
+    void phaseChanged();
+    void findingsChanged();
+    void selectionChanged();
+    void sheetChanged();
+    void cleaningChanged();
+    void historyChanged();
+    void snapshotsChanged();
+    void largeThresholdMBChanged();
+    void fdaGrantedChanged();
+    void scanProgressChanged();
+    void lastScanChanged();
+    void requestedScreenChanged();
+    /// A clean-up has ended. The record is in the history only when it holds an item.
+    void cleaningFinished(const orlen::CleanRecord& record);
+
+private:
+    struct ScanResult;
+    /// Of one clean-up, shared with its worker: nothing until the worker has ended.
+    using PendingRecord = std::shared_ptr<std::optional<CleanRecord>>;
+
+    void startUp();
+    void setBreakdown(StorageBreakdown breakdown);
+    void updateVolume();
+    void setPhase(Phase phase);
+    void setFdaGranted(bool isGranted);
+    [[nodiscard]] static ScanResult scanned(ScanEngine& engine);
+    void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
+    [[nodiscard]] static std::set<std::string> preselected(const std::vector<Finding>& findings);
+    [[nodiscard]] Cleaner::Progress cleaningReport(int number);
+    void showCleaning(int number, int done, const std::string& current);
+    void finishCleaning(int number, const PendingRecord& pending);
+    void keep(const CleanRecord& record);
+    void saveHistory() const;
+    void checkThread() const;
+    void checkWriter() const;
+
+    template <typename T>
+    void assign(T& field, T value, void (AppModel::*changed)())
+    {
+        checkThread();
+        if (field == value)
+            return;
+        field = std::move(value);
+        Q_EMIT(this->*changed)();
+    }
+
+    const Options m_options;
+    std::optional<FolderLock> m_lock;
+    bool m_isWriter = false;
+
+    StorageBreakdown m_breakdown;
+    bool m_isBreakdownReady = false;
+    Phase m_phase = Phase::idle;
+    std::vector<Finding> m_findings;
+    std::set<std::string> m_selection;
+    std::optional<SheetKind> m_sheet;
+    std::optional<CleaningState> m_cleaning;
+    std::vector<CleanRecord> m_history;
+    std::vector<Snapshot> m_snapshots;
+    double m_largeThresholdMB = 500;
+    bool m_isFdaGranted = false;
+    std::shared_ptr<const ScanProgress> m_scanProgress;
+    std::optional<TimePoint> m_lastScan;
+    std::optional<Screen> m_requestedScreen;
+
+    std::shared_ptr<ScanEngine> m_engine;
+    int m_breakdownsStarted = 0;
+    int m_breakdownStored = 0; ///< number of the one that is shown: an earlier one that ends later is dropped
+    int m_cleaningNumber = 0;  ///< of the clean-up that is shown
+    std::stop_source m_cleaningStop{std::nostopstate};
+    std::vector<PendingRecord> m_pending; ///< clean-ups that are not yet in the history
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

@@ -1,0 +1,90 @@
+#include "app/DiskAccess.h"
+
+#include "platform/FileContent.h"
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/Places.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace orlen::DiskAccess {
+
+namespace {
+
+constexpr std::size_t kSandboxFileLimit = 65'536;
+
+/// What a link names counts, as it does for the programs that keep their data there.
+std::string followed(const std::string& folder)
+{
+    return folder + "/.";
+}
+
+bool isMissing(const std::string& folder)
+{
+    return statusOf(followed(folder)).error() == ENOENT;
+}
+
+bool isListableOrMissing(const std::string& folder)
+{
+    return isMissing(folder) || isListable(followed(folder));
+}
+
+/// Whether a list such as "xdg-run/pipewire;home;~/Music:ro" grants the home folder for writing.
+bool grantsHome(const std::string& list)
+{
+    std::istringstream entries(list);
+    for (std::string entry; std::getline(entries, entry, ';');) {
+        if (entry == "home" || entry == "host" || entry == "home:rw" || entry == "host:rw")
+            return true;
+    }
+    return false;
+}
+
+/// Reads the description that a Flatpak sandbox puts into itself.
+bool sandboxGrantsHome(const std::string& description)
+{
+    constexpr std::string_view kKey = "filesystems=";
+    std::istringstream lines(description);
+    bool isInContext = false;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with('['))
+            isInContext = line == "[Context]";
+        else if (isInContext && line.starts_with(kKey))
+            return grantsHome(line.substr(kKey.size()));
+    }
+    return false;
+}
+
+std::optional<std::string> flatpakDescription(const Places& places)
+{
+    return readSmallFile(places.systemRoot + "/.flatpak-info", kSandboxFileLimit);
+}
+
+bool isInSnap()
+{
+    const char* snap = std::getenv("SNAP");
+    return snap != nullptr && *snap != '\0';
+}
+
+} // namespace
+
+bool isGranted(const Places& places)
+{
+    const std::string probed = places.home + "/Library/Safari";
+    if (!isMissing(probed))
+        return isListable(followed(probed));
+    if (const auto description = flatpakDescription(places))
+        return sandboxGrantsHome(*description);
+    if (isInSnap())
+        return isListableOrMissing(places.home + "/.config");
+    return isListableOrMissing(places.home) && isListableOrMissing(places.configs.front()) &&
+           isListableOrMissing(places.data.front());
+}
+
+} // namespace orlen::DiskAccess

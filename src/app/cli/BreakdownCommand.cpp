@@ -1,0 +1,83 @@
+#include "app/AppModel.h"
+#include "app/cli/Command.h"
+#include "app/cli/JsonDocuments.h"
+#include "app/cli/Table.h"
+#include "app/cli/Texts.h"
+#include "model/ByteCount.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+
+namespace orlen {
+
+namespace {
+
+constexpr int kBarLength = 30;
+
+/// A bar whose length tells a part of the whole; a part that is not nothing shows.
+std::string bar(std::int64_t part, std::int64_t whole)
+{
+    if (part <= 0 || whole <= 0)
+        return {};
+    const double share = static_cast<double>(part) / static_cast<double>(whole);
+    const auto length = std::max(1L, std::lround(share * kBarLength));
+    std::string text;
+    for (long i = 0; i < std::min<long>(length, kBarLength); ++i)
+        text += "█";
+    return text;
+}
+
+void printBreakdown(const StorageBreakdown& breakdown)
+{
+    const Colours colours = Session::colours();
+    Table table({{"Category", Table::Kind::text}, {"Size", Table::Kind::number}, {"", Table::Kind::text}});
+    for (const OrlenCategory category : kAllCategories) {
+        const auto bytes = breakdown.cats.find(category);
+        const std::int64_t size = bytes == breakdown.cats.end() ? 0 : bytes->second;
+        table.addRow(
+            {{std::string(label(category))}, {byteCount(size)}, {bar(size, breakdown.total), Style::blue}});
+    }
+    table.addRow(
+        {{"Free"}, {byteCount(breakdown.free)}, {bar(breakdown.free, breakdown.total), Style::green}});
+    Session::print(
+        colours.styled(Style::bold, byteCount(breakdown.free) + " free of " + byteCount(breakdown.total)) +
+        "\n\n" + table.text(colours, Session::width()));
+}
+
+class BreakdownCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"breakdown", "Measure how the storage of the start-up volume is used"};
+    }
+
+    void addOptions(CLI::App& /*app*/) override {}
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        model.refreshBreakdown(AppModel::Recording::none);
+        session.run({[&] { return model.isBreakdownReady() || session.isInterrupted(); }, [] {},
+                     [] { return std::string(Texts::kMeasuring); }});
+        if (!model.isBreakdownReady()) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::breakdown(model.breakdown()));
+        else
+            printBreakdown(model.breakdown());
+        return ExitStatus::done;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeBreakdownCommand()
+{
+    return std::make_unique<BreakdownCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,96 @@
+#include "app/cli/CommandLine.h"
+
+#include "app/cli/Command.h"
+#include "app/cli/Texts.h"
+#include "platform/PathText.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orlen::CommandLine {
+
+namespace {
+
+const std::string kVersion = std::string("orlen ") + ORLEN_VERSION;
+
+struct Registered {
+    std::unique_ptr<Command> command;
+    CLI::App* parser; ///< owned by the parser of the whole line
+};
+
+std::vector<std::unique_ptr<Command>> allCommands()
+{
+    std::vector<std::unique_ptr<Command>> commands;
+    for (const auto make : {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand,
+                            makeBreakdownCommand, makePredictCommand, makeDuplicatesCommand})
+        commands.push_back(make());
+    return commands;
+}
+
+void addCommonOptions(CLI::App& parser)
+{
+    parser.set_help_flag("-h,--help", "Print this help and exit");
+    parser.set_version_flag("--version", kVersion, "Print the version and exit");
+}
+
+std::vector<Registered> registerCommands(CLI::App& parser)
+{
+    std::vector<Registered> registered;
+    for (std::unique_ptr<Command>& command : allCommands()) {
+        const auto [name, summary] = command->description();
+        CLI::App* own = parser.add_subcommand(name, summary);
+        addCommonOptions(*own);
+        own->add_flag("--json", command->wantsJson(), "Print one JSON document and nothing else");
+        command->addOptions(*own);
+        registered.push_back({std::move(command), own});
+    }
+    return registered;
+}
+
+ExitStatus wrongCall(Session& session, const CLI::App& parser, const CLI::ParseError& error)
+{
+    const std::vector<std::string> unknown = parser.remaining();
+    if (parser.get_subcommands().empty() && !unknown.empty())
+        session.complain("there is no command or option " + Texts::quoted(unknown.front()) + '.');
+    else
+        session.complain(PathText::forDisplay(error.what()));
+    session.note("Try `orlen --help`.\n");
+    return ExitStatus::wrongCall;
+}
+
+ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vector<Registered>& commands)
+{
+    for (const Registered& candidate : commands) {
+        if (candidate.parser->parsed())
+            return candidate.command->run(session);
+    }
+    session.complain(Texts::kNoWindow);
+    session.note('\n' + parser.help());
+    return ExitStatus::wrongCall;
+}
+
+} // namespace
+
+int run(int argc, char** argv)
+{
+    CLI::App parser{std::string(Texts::kDescription), "orlen"};
+    addCommonOptions(parser);
+    parser.require_subcommand(0, 1);
+    const std::vector<Registered> commands = registerCommands(parser);
+    Session session;
+    try {
+        parser.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        return parser.exit(success); // help or version
+    } catch (const CLI::ParseError& error) {
+        return static_cast<int>(wrongCall(session, parser, error));
+    }
+    return static_cast<int>(runCommand(session, parser, commands));
+}
+
+} // namespace orlen::CommandLine

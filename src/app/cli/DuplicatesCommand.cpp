@@ -1,0 +1,160 @@
+#include "app/Workers.h"
+#include "app/cli/Command.h"
+#include "app/cli/JsonDocuments.h"
+#include "app/cli/PathArgument.h"
+#include "app/cli/Table.h"
+#include "app/cli/Texts.h"
+#include "clean/Safety.h"
+#include "model/ByteCount.h"
+#include "model/Rater.h"
+#include "scan/Duplicates.h"
+#include "scan/ScanProgress.h"
+#include "scan/Walk.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <QObject>
+
+#include <algorithm>
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+constexpr std::int64_t kSmallestCandidate = 1'000'000;
+
+/// Images from that size on are among the candidates already.
+std::vector<Cand> input(Walk::Found found)
+{
+    std::vector<Cand> cands = std::move(found.cands);
+    std::copy_if(found.images.begin(), found.images.end(), std::back_inserter(cands),
+                 [](const Cand& image) { return image.size < kSmallestCandidate; });
+    return cands;
+}
+
+struct Search {
+    Duplicates::Result result;
+    Seconds duration{0};
+    bool wasStopped = false;
+};
+
+Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
+{
+    const auto started = std::chrono::steady_clock::now();
+    const Walk::Found found =
+        folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+    Search search{Duplicates::find(input(found), stop)};
+    search.duration = std::chrono::steady_clock::now() - started;
+    search.wasStopped = stop.stop_requested();
+    return search;
+}
+
+/// Rated as it would be in a scan.
+Finding rated(const Duplicates::Result& result)
+{
+    return Rater::rate({Duplicates::finding(result)}).front();
+}
+
+void printSets(const Search& found, const Finding& finding)
+{
+    const Colours colours = Session::colours();
+    if (found.result.sets.empty()) {
+        Session::print(std::string(Texts::kNoDuplicates) + '\n');
+        return;
+    }
+    Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"File", Table::Kind::path}});
+    for (const Duplicates::Set& set : found.result.sets) {
+        table.addGap();
+        table.addRow({{byteCount(set.kept.size)}, {"keeps", Style::dim}, {Texts::shownPath(set.kept.path)}});
+        for (const Duplicates::Copy& copy : set.copies)
+            table.addRow({{}, {"copy", Style::orange}, {Texts::shownPath(copy.file.path)}});
+    }
+    const auto copies = static_cast<std::int64_t>(finding.items.size());
+    Session::print(
+        colours.styled(Style::bold, Texts::counted(copies, "copy") + ", " + byteCount(finding.totalSize())) +
+        '\n' +
+        colours.styled(Style::dim, Texts::counted(found.result.filesConsidered, "file") + " compared in " +
+                                       Texts::duration(found.duration.count())) +
+        "\n\n" + table.text(colours, Session::width()));
+}
+
+class DuplicatesCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"duplicates", "Find files with the same content below folders, or in the home folder"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("DIR", m_arguments, "Folders to look into; the home folder when there are none");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        Safety::refresh();
+        const auto folders = checkedFolders(session);
+        if (!folders)
+            return ExitStatus::wrongCall;
+        const Search found = searched(session, *folders);
+        if (found.wasStopped) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        const Finding finding = rated(found.result);
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::duplicates(finding, found.result, found.duration));
+        else
+            printSets(found, finding);
+        return ExitStatus::done;
+    }
+
+private:
+    /// Nothing when an argument names no folder that may be read, which has been said.
+    [[nodiscard]] std::optional<std::vector<std::string>> checkedFolders(Session& session) const
+    {
+        std::vector<std::string> folders;
+        for (const std::string& argument : m_arguments) {
+            std::string folder = PathArgument::readableFolder(argument);
+            if (folder.empty() || Safety::protectsContents(folder)) {
+                session.complain(Texts::quoted(argument) +
+                                 (folder.empty() ? " is not a folder that can be read." : " is protected."));
+                return std::nullopt;
+            }
+            folders.push_back(std::move(folder));
+        }
+        return folders;
+    }
+
+    [[nodiscard]] static Search searched(Session& session, const std::vector<std::string>& folders)
+    {
+        std::optional<Search> found;
+        ScanProgress progress;
+        QObject receiver;
+        Workers workers(receiver);
+        std::stop_source stop = workers.start(
+            [&folders, &progress](const std::stop_token& token) { return search(folders, progress, token); },
+            [&found](Search result) { found = std::move(result); });
+        session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
+                     [&] {
+                         return Texts::counted(progress.files(), "file") + " examined · " +
+                                Texts::shownPath(progress.current());
+                     }});
+        return std::move(*found);
+    }
+
+    std::vector<std::string> m_arguments;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeDuplicatesCommand()
+{
+    return std::make_unique<DuplicatesCommand>();
+}
+
+} // namespace orlen

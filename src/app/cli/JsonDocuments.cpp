@@ -1,0 +1,175 @@
+#include "app/cli/JsonDocuments.h"
+
+#include "app/AppModel.h"
+#include "clean/RecordJson.h"
+#include "scan/ScanProgress.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+namespace orlen::JsonDocuments {
+
+namespace {
+
+/// Milliseconds are as exact as a measured duration gets.
+double rounded(Seconds duration)
+{
+    return std::round(duration.count() * 1000) / 1000;
+}
+
+Json entries(const std::vector<FileEntry>& list)
+{
+    Json array = Json::array();
+    for (const FileEntry& entry : list)
+        array.push_back(RecordJson::encode(entry));
+    return array;
+}
+
+std::string_view rawValue(StepState state)
+{
+    switch (state) {
+    case StepState::pending:
+        return "pending";
+    case StepState::running:
+        return "running";
+    case StepState::done:
+        return "done";
+    }
+    return {};
+}
+
+Json steps(const ScanProgress& progress)
+{
+    Json array = Json::array();
+    for (const ScanStep& step : progress.steps())
+        array.push_back(
+            {{"label", step.label}, {"state", rawValue(step.state)}, {"seconds", rounded(step.elapsed)}});
+    return array;
+}
+
+} // namespace
+
+Json finding(const Finding& finding)
+{
+    return {
+        {"kind", orlen::rawValue(finding.kind)},
+        {"title", finding.title},
+        {"explanation", finding.explanation},
+        {"symbol", finding.symbol},
+        {"category", orlen::rawValue(finding.category)},
+        {"rating", orlen::rawValue(finding.rating)},
+        {"reason", finding.reason},
+        {"cleanable", finding.cleanable},
+        {"size", finding.totalSize()},
+        {"safeSize", finding.safeSize()},
+        {"items", entries(finding.items)},
+    };
+}
+
+Json breakdown(const StorageBreakdown& breakdown)
+{
+    Json categories = Json::object();
+    for (const OrlenCategory category : kAllCategories) {
+        const auto bytes = breakdown.cats.find(category);
+        categories[std::string(orlen::rawValue(category))] =
+            bytes == breakdown.cats.end() ? 0 : bytes->second;
+    }
+    return {{"total", breakdown.total}, {"free", breakdown.free}, {"cats", std::move(categories)}};
+}
+
+Json plan(const CleanPlan& plan)
+{
+    Json sections = Json::array();
+    for (const PlanSection& section : plan.sections) {
+        sections.push_back({{"id", section.id},
+                            {"title", section.title},
+                            {"symbol", section.symbol},
+                            {"entries", entries(section.entries)}});
+    }
+    return {{"title", plan.title}, {"sections", std::move(sections)}};
+}
+
+Json scan(const AppModel& model, Seconds duration)
+{
+    Json findings = Json::array();
+    for (const Finding& found : model.findings())
+        findings.push_back(finding(found));
+    return {
+        {"findings", std::move(findings)},
+        {"selection", Json(model.selection())},
+        {"totalFound", model.totalFound()},
+        {"safeBytes", model.safeBytes()},
+        {"breakdown", breakdown(model.breakdown())},
+        {"filesExamined", model.scanProgress().files()},
+        {"steps", steps(model.scanProgress())},
+        {"fullDiskAccess", model.isFdaGranted()},
+        {"date", isoText(model.lastScan().value_or(TimePoint()))},
+        {"seconds", rounded(duration)},
+    };
+}
+
+Json dryRun(const CleanPlan& shown)
+{
+    return {{"plan", plan(shown)}};
+}
+
+Json clean(const CleanPlan& carriedOut, const CleanRecord& record)
+{
+    return {{"plan", plan(carriedOut)}, {"record", RecordJson::encode(record)}, {"freed", record.freed()}};
+}
+
+Json history(const std::vector<CleanRecord>& history)
+{
+    Json array = Json::array();
+    for (const CleanRecord& record : history) {
+        Json document = RecordJson::encode(record);
+        document["freed"] = record.freed();
+        array.push_back(std::move(document));
+    }
+    return array;
+}
+
+Json restore(const Cleaner::Restored& outcome, const std::string& message)
+{
+    return {{"record", RecordJson::encode(outcome.record)},
+            {"restored", outcome.restored},
+            {"failed", outcome.failed},
+            {"message", message}};
+}
+
+Json prediction(const Prediction& prediction, std::size_t snapshots)
+{
+    Json rates = Json::array();
+    for (const auto& [category, rate] : prediction.perCategory)
+        rates.push_back({{"category", orlen::rawValue(category)}, {"bytesPerDay", rate}});
+    return {
+        {"enoughData", prediction.enoughData},
+        {"headline", prediction.headline},
+        {"detail", prediction.detail},
+        {"warn", prediction.warn},
+        {"perCategory", std::move(rates)},
+        {"freeSeries", prediction.freeSeries},
+        {"snapshots", snapshots},
+    };
+}
+
+Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds duration)
+{
+    Json sets = Json::array();
+    for (const Duplicates::Set& set : result.sets) {
+        Json copies = Json::array();
+        for (const Duplicates::Copy& copy : set.copies)
+            copies.push_back(copy.file.path);
+        sets.push_back({{"kept", set.kept.path}, {"copies", std::move(copies)}});
+    }
+    return {
+        {"finding", finding(found)},
+        {"sets", std::move(sets)},
+        {"filesConsidered", result.filesConsidered},
+        {"filesHashed", result.filesHashed},
+        {"bytesHashed", result.bytesHashed},
+        {"seconds", rounded(duration)},
+    };
+}
+
+} // namespace orlen::JsonDocuments

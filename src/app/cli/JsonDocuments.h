@@ -1,0 +1,41 @@
+#pragma once
+
+#include "clean/Cleaner.h"
+#include "insight/Predictor.h"
+#include "model/CleanPlan.h"
+#include "model/Finding.h"
+#include "scan/Duplicates.h"
+#include "scan/StorageBreakdown.h"
+
+#include <chrono>
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+class AppModel;
+
+/// What the commands print with `--json`. Records have their persisted form; sizes are plain numbers of
+/// bytes.
+namespace JsonDocuments {
+
+using Json = nlohmann::ordered_json;
+using Seconds = std::chrono::duration<double>;
+
+[[nodiscard]] Json finding(const Finding& finding);
+[[nodiscard]] Json breakdown(const StorageBreakdown& breakdown);
+[[nodiscard]] Json plan(const CleanPlan& plan);
+
+/// After a scan.
+[[nodiscard]] Json scan(const AppModel& model, Seconds duration);
+/// Of a plan that was only shown.
+[[nodiscard]] Json dryRun(const CleanPlan& plan);
+[[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record);
+[[nodiscard]] Json history(const std::vector<CleanRecord>& history);
+[[nodiscard]] Json restore(const Cleaner::Restored& outcome, const std::string& message);
+[[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
+[[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
+
+} // namespace JsonDocuments
+} // namespace orlen

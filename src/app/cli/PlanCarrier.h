@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/cli/Confirmation.h"
+#include "app/cli/ItemList.h"
+#include "app/cli/Session.h"
+#include "model/CleanPlan.h"
+
+namespace orlen {
+
+class AppModel;
+
+/// Carries a plan out: the full list, the question, the clean-up, the outcome. One way for every command that
+/// moves something.
+struct PlanCarrier {
+    Confirmation::Asking asking = Confirmation::Asking::onTerminal;
+    /// With a document that is what standard output gets, and everything else goes to standard error.
+    ItemList::Beside beside = ItemList::Beside::nothing;
+
+    [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan) const;
+
+private:
+    void printOutcome(const CleanPlan& plan, const CleanRecord& record) const;
+};
+
+} // namespace orlen

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string_view>
+
+namespace orlen {
+
+/// One live line on standard error, when that is a terminal. Nothing otherwise. Erased at the end.
+class ProgressLine {
+public:
+    ProgressLine();
+    ~ProgressLine();
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    /// Whether anybody sees it.
+    [[nodiscard]] bool isShown() const { return m_isShown; }
+    /// Replaces the line by displayable text, cut to the terminal's width.
+    void show(std::string_view text);
+    void erase();
+
+private:
+    const bool m_isShown;
+    bool m_isDirty = false;
+};
+
+} // namespace orlen

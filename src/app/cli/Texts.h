@@ -1,0 +1,58 @@
+#pragma once
+
+#include "clean/CleanRecord.h"
+#include "model/FileEntry.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The sentences and small forms of the command line.
+namespace orlen::Texts {
+
+inline constexpr std::string_view kDescription =
+    "Finds what fills the disk, rates it, and moves to the Trash what you choose. Nothing is ever deleted.";
+inline constexpr std::string_view kNoWindow =
+    "There is no window yet; `orlen scan` looks at your home folder here.";
+inline constexpr std::string_view kNothingSafe = "Nothing is rated Safe right now";
+inline constexpr std::string_view kNothingFound = "Nothing was found.";
+inline constexpr std::string_view kNoFullAccess =
+    "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned.";
+inline constexpr std::string_view kHowToClean =
+    "`orlen clean` lists the Safe entries and moves them to the Trash when you say yes.";
+inline constexpr std::string_view kNoSnapshot =
+    "another Orlen is open, so no snapshot of this scan was saved.";
+inline constexpr std::string_view kOtherWriter =
+    "another Orlen is open and keeps the history; close it and try again.";
+inline constexpr std::string_view kUnusableHome =
+    "the home folder is missing or belongs to somebody else, so nothing in it is scanned or moved.";
+inline constexpr std::string_view kNothingToClean = "Nothing is selected, so there is nothing to move.";
+inline constexpr std::string_view kNothingCleaned = "Nothing cleaned yet.";
+inline constexpr std::string_view kHowToRestore = "`orlen restore RECORD` puts the items of a clean-up back.";
+inline constexpr std::string_view kMeasuring = "Measuring the storage";
+inline constexpr std::string_view kMoving = "Moving to the Trash…";
+inline constexpr std::string_view kNoTerminal =
+    "nothing was moved: without a terminal to ask on, this needs --yes.";
+inline constexpr std::string_view kRefused = "nothing was moved.";
+inline constexpr std::string_view kCancelled = "cancelled.";
+inline constexpr std::string_view kCancelledCleaning = "cancelled; what had been moved is in the history.";
+inline constexpr std::string_view kNothingDeleted =
+    "Nothing was deleted. The space comes back when you empty the Trash.";
+inline constexpr std::string_view kTrashIsKept = "what lies in the Trash is shown, but never moved again.";
+inline constexpr std::string_view kNoDuplicates = "No duplicate files were found.";
+
+/// "1 item", "12,345 items".
+[[nodiscard]] std::string counted(std::int64_t count, std::string_view noun);
+/// "12,345"
+[[nodiscard]] std::string grouped(std::int64_t number);
+/// "0.4 s", "12 s", "3 min 20 s"
+[[nodiscard]] std::string duration(double seconds);
+/// Day and time in the user's time zone.
+[[nodiscard]] std::string localTime(TimePoint time);
+/// A path on one line, with "~" for the home folder.
+[[nodiscard]] std::string shownPath(std::string_view path);
+/// A path as it was given, on one line, in quotation marks.
+[[nodiscard]] std::string quoted(std::string_view path);
+
+} // namespace orlen::Texts

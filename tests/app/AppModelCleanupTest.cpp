@@ -1,0 +1,227 @@
+#include "app/AppModel.h"
+
+#include "app/EventLoop.h"
+#include "clean/Persist.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::int64_t kKiB = 1024;
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
+
+CleanPlan planOf(std::vector<std::string> paths)
+{
+    CleanPlan plan;
+    plan.title = "Some of it";
+    PlanSection section{"caches", "App caches", "internaldrive.fill", {}};
+    for (std::string& path : paths)
+        section.entries.push_back({std::move(path), 4096});
+    plan.sections.push_back(std::move(section));
+    return plan;
+}
+
+std::set<std::string> allOf(const CleanPlan& plan)
+{
+    std::set<std::string> paths;
+    for (const FileEntry& entry : plan.sections.front().entries)
+        paths.insert(entry.path);
+    return paths;
+}
+
+std::vector<std::string> manyFiles(const TempHome& home, int count)
+{
+    std::vector<std::string> paths(static_cast<std::size_t>(count));
+    std::generate(paths.begin(), paths.end(),
+                  [&, i = 0]() mutable { return home.file(".cache/many/" + std::to_string(i++)); });
+    return paths;
+}
+
+[[nodiscard]] bool cleaned(AppModel& model, const CleanPlan& plan)
+{
+    model.confirm(plan, allOf(plan));
+    return waitUntil([&] { return model.cleaning() && model.cleaning()->finished; });
+}
+
+void scan(AppModel& model)
+{
+    model.startScan();
+    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
+}
+
+} // namespace
+
+TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
+{
+    const TempHome home;
+    home.fileOfSize(".cache/viewer/pages", 400 * kKiB);
+    home.fileOfSize(".xsession-errors", 64 * kKiB);
+    AppModel model(kCommand);
+    scan(model);
+    ASSERT_THAT(model.findings(), SizeIs(2));
+    // The user has unticked the log.
+    const CleanPlan plan = model.scanPlan();
+    model.setSheet(PlanSheet{plan});
+    model.confirm(plan, {home.path(".cache/viewer")});
+    EXPECT_FALSE(model.sheet().has_value());
+    EXPECT_EQ(model.cleaning()->total, 1);
+    EXPECT_EQ(model.cleaning()->planTitle, "Smart Scan clean-up");
+    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
+    EXPECT_EQ(model.cleaning()->moved, 1);
+    EXPECT_EQ(model.cleaning()->failed, 0);
+    EXPECT_EQ(model.cleaning()->freed, 400 * kKiB);
+    EXPECT_FALSE(TempHome::exists(home.path(".cache/viewer")));
+    ASSERT_THAT(model.findings(), SizeIs(1));
+    EXPECT_EQ(model.findings().front().kind, FindingKind::logs);
+    EXPECT_THAT(model.selection(), ElementsAre(home.path(".xsession-errors")));
+    EXPECT_EQ(Persist::loadHistory().front().id, model.history().front().id);
+    model.dismissCleaning();
+    EXPECT_FALSE(model.cleaning().has_value());
+}
+
+TEST(AppModelCleanupTest, whatCannotMoveIsCountedAndStays)
+{
+    const TempHome home;
+    const std::string good = home.file(".cache/good");
+    AppModel model(kCommand);
+    ASSERT_TRUE(cleaned(model, planOf({good, home.path("Documents"), home.path("gone")})));
+    EXPECT_EQ(model.cleaning()->moved, 1);
+    EXPECT_EQ(model.cleaning()->failed, 2);
+    ASSERT_THAT(model.history(), SizeIs(1));
+    EXPECT_EQ(model.history().front().failed, 2);
+    EXPECT_EQ(model.history().front().title, "Some of it");
+}
+
+TEST(AppModelCleanupTest, aCleanUpThatMovedNothingLeavesNoRecord)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    std::optional<CleanRecord> reported;
+    QObject::connect(&model, &AppModel::cleaningFinished,
+                     [&](const CleanRecord& record) { reported = record; });
+    ASSERT_TRUE(cleaned(model, planOf({home.path("gone")})));
+    EXPECT_EQ(model.cleaning()->moved, 0);
+    EXPECT_EQ(model.cleaning()->failed, 1);
+    EXPECT_THAT(model.history(), IsEmpty());
+    EXPECT_FALSE(TempHome::exists(Persist::dir() + "/history.json"));
+    ASSERT_TRUE(reported.has_value());
+    EXPECT_EQ(reported->failed, 1);
+}
+
+TEST(AppModelCleanupTest, nothingChosenOnlyClosesTheSheet)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    const CleanPlan plan = planOf({home.file("a")});
+    model.setSheet(PlanSheet{plan});
+    model.confirm(plan, {});
+    EXPECT_FALSE(model.sheet().has_value());
+    EXPECT_FALSE(model.cleaning().has_value());
+    EXPECT_TRUE(TempHome::exists(home.path("a")));
+}
+
+TEST(AppModelCleanupTest, aShortCleanUpIsShownForItsLeastTime)
+{
+    const TempHome home;
+    AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, 300ms});
+    const auto started = std::chrono::steady_clock::now();
+    ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/tiny")})));
+    EXPECT_GE(std::chrono::steady_clock::now() - started, 299ms);
+    EXPECT_EQ(AppModel::Options().overlayMinimum, 1800ms);
+}
+
+TEST(AppModelCleanupTest, aCancelledCleanUpRecordsWhatItMoved)
+{
+    const TempHome home;
+    const std::vector<std::string> paths = manyFiles(home, 2000);
+    AppModel model(kCommand);
+    const CleanPlan plan = planOf(paths);
+    model.confirm(plan, allOf(plan));
+    model.cancelCleaning();
+    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
+    const auto left = std::count_if(paths.begin(), paths.end(), TempHome::exists);
+    EXPECT_EQ(model.cleaning()->moved + static_cast<int>(left), 2000);
+    EXPECT_EQ(model.cleaning()->failed, 0);
+    EXPECT_GT(left, 0);
+}
+
+TEST(AppModelCleanupTest, aModelThatGoesDuringACleanUpRecordsIt)
+{
+    const TempHome home;
+    const std::vector<std::string> paths = manyFiles(home, 500);
+    {
+        AppModel model(kCommand);
+        const CleanPlan plan = planOf(paths);
+        model.confirm(plan, allOf(plan));
+        ASSERT_TRUE(waitUntil([&] { return !TempHome::exists(home.path(".cache/many/0")); }));
+    }
+    const auto left = std::count_if(paths.begin(), paths.end(), TempHome::exists);
+    const std::vector<CleanRecord> history = Persist::loadHistory();
+    ASSERT_THAT(history, SizeIs(1));
+    EXPECT_EQ(history.front().items.size() + static_cast<std::size_t>(left), 500U);
+}
+
+TEST(AppModelCleanupTest, restoringTellsWhatCameBack)
+{
+    struct Case {
+        const char* name;
+        std::vector<std::string> files;
+        std::vector<std::string> recreated; ///< taken places before the restore
+        const char* message;
+    };
+    const Case cases[] = {
+        {"all of one", {"a"}, {}, "Restored 1 item."},
+        {"all of two", {"a", "b"}, {}, "Restored 2 items."},
+        {"one of three is taken",
+         {"a", "b", "c"},
+         {"b"},
+         "Restored 2; 1 couldn't be restored (already emptied from the Trash, or something exists at the "
+         "original "
+         "location)."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const TempHome home;
+        AppModel model(kCommand);
+        std::vector<std::string> paths;
+        for (const std::string& name : c.files)
+            paths.push_back(home.file(".cache/" + name, "content of " + name));
+        ASSERT_TRUE(cleaned(model, planOf(paths)));
+        for (const std::string& name : c.recreated)
+            home.file(".cache/" + name, "new");
+        const AppModel::Restoration first = model.restore(model.history().front());
+        EXPECT_EQ(first.message, c.message);
+        EXPECT_EQ(first.outcome.failed, static_cast<int>(c.recreated.size()));
+        EXPECT_EQ(TempHome::content(paths.front()), "content of a");
+        EXPECT_EQ(Persist::loadHistory().front().items, first.outcome.record.items);
+        EXPECT_EQ(model.history().front(), first.outcome.record);
+        // What is back is not put back again.
+        EXPECT_EQ(model.restore(model.history().front()).outcome.restored, 0);
+    }
+}
+
+TEST(AppModelCleanupTest, aForgottenRecordIsRestoredButNotRemembered)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/a")})));
+    CleanRecord stranger = model.history().front();
+    stranger.id = Uuid::random();
+    EXPECT_EQ(model.restore(stranger).message, "Restored 1 item.");
+    ASSERT_THAT(model.history(), SizeIs(1));
+    EXPECT_FALSE(model.history().front().items.front().restored);
+}
+
+} // namespace orlen

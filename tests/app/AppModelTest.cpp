@@ -1,0 +1,242 @@
+#include "app/AppModel.h"
+
+#include "app/EventLoop.h"
+#include "clean/Persist.h"
+#include "scan/ScanEngine.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::int64_t kKiB = 1024;
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
+
+TimePoint now()
+{
+    return std::chrono::system_clock::now();
+}
+
+/// A home with something for several findings: two safe caches, a safe log, a review download, a full Trash.
+struct UsedHome : TempHome {
+    UsedHome()
+    {
+        fileOfSize(".cache/viewer/pages", 400 * kKiB);
+        fileOfSize(".cache/player/covers", 800 * kKiB);
+        fileOfSize(".xsession-errors", 64 * kKiB);
+        fileOfSize(".local/share/Trash/files/thrown", 3'000 * kKiB);
+        const std::string old = fileOfSize("Downloads/paper.pdf", 300 * kKiB);
+        setTimes(old, now() - 24h * 90, now() - 24h * 90);
+    }
+};
+
+void scan(AppModel& model)
+{
+    model.startScan();
+    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
+}
+
+std::vector<FindingKind> kinds(const std::vector<Finding>& findings)
+{
+    std::vector<FindingKind> all;
+    all.reserve(findings.size());
+    for (const Finding& finding : findings)
+        all.push_back(finding.kind);
+    return all;
+}
+
+} // namespace
+
+TEST(AppModelTest, startUpRecordsASnapshotWhenOneIsDue)
+{
+    struct Case {
+        const char* name;
+        std::optional<std::chrono::hours> age; ///< of the newest snapshot
+        std::size_t expected;
+    };
+    constexpr Case cases[] = {
+        {"none yet", std::nullopt, 1}, {"11 hours old", 11h, 1}, {"13 hours old", 13h, 2}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const TempHome home;
+        if (c.age)
+            Persist::saveSnapshots({Snapshot{now() - *c.age, 1, 2, {}}});
+        AppModel model({AppModel::Startup::full});
+        ASSERT_TRUE(waitUntil([&] { return model.isBreakdownReady(); }));
+        EXPECT_THAT(model.snapshots(), SizeIs(c.expected));
+        EXPECT_THAT(Persist::loadSnapshots(), SizeIs(c.expected));
+        EXPECT_EQ(model.breakdown().cats.size(), 7U);
+    }
+}
+
+TEST(AppModelTest, aSnapshotIsStaleAfterTwelveHoursAndNotAtThem)
+{
+    const TimePoint moment = now();
+    const std::vector<Snapshot> snapshots{{moment - 100h, 0, 0, {}}, {moment - 12h, 0, 0, {}}};
+    EXPECT_FALSE(AppModel::isStale(snapshots, moment));
+    EXPECT_TRUE(AppModel::isStale(snapshots, moment + 1s));
+    EXPECT_TRUE(AppModel::isStale({}, moment));
+}
+
+TEST(AppModelTest, theOldestOf401SnapshotsIsDropped)
+{
+    const TempHome home;
+    std::vector<Snapshot> snapshots;
+    snapshots.reserve(400);
+    for (int i = 0; i < 400; ++i)
+        snapshots.push_back({now() - 1h * (500 - i), i, 1000, {}});
+    Persist::saveSnapshots(snapshots);
+    AppModel model(kCommand);
+    model.recordSnapshot();
+    const std::vector<Snapshot> saved = Persist::loadSnapshots();
+    ASSERT_THAT(saved, SizeIs(400));
+    EXPECT_EQ(saved.front().free, 1);
+    EXPECT_THAT(model.snapshots(), SizeIs(400));
+}
+
+TEST(AppModelTest, aScanSortsItsFindingsAndSelectsTheSafeEntries)
+{
+    const UsedHome home;
+    AppModel model(kCommand);
+    scan(model);
+    ASSERT_EQ(model.phase(), Phase::results);
+    // Safe bytes first; then the Trash, which has none but more bytes than the download.
+    EXPECT_THAT(kinds(model.findings()), ElementsAre(FindingKind::caches, FindingKind::logs,
+                                                     FindingKind::trash, FindingKind::oldDownloads));
+    EXPECT_THAT(model.selection(), ElementsAre(home.path(".cache/player"), home.path(".cache/viewer"),
+                                               home.path(".xsession-errors")));
+    const std::int64_t safe = (400 + 800 + 64) * kKiB;
+    EXPECT_EQ(model.safeBytes(), safe);
+    EXPECT_EQ(model.totalFound(), safe + 300 * kKiB);
+    EXPECT_EQ(model.selectedSize(model.findings().front()), (400 + 800) * kKiB);
+    EXPECT_THAT(model.photoFindings(), IsEmpty());
+    EXPECT_TRUE(model.isBreakdownReady());
+    EXPECT_TRUE(model.lastScan().has_value());
+    EXPECT_THAT(model.snapshots(), SizeIs(1));
+}
+
+TEST(AppModelTest, aCancelledScanKeepsWhatWasThereBefore)
+{
+    const UsedHome home;
+    AppModel model(kCommand);
+    scan(model);
+    const auto findings = model.findings();
+    const auto lastScan = model.lastScan();
+    model.setSelection({findings.front().items.front().path});
+    const auto selection = model.selection();
+    model.startScan();
+    model.cancelScan();
+    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
+    EXPECT_EQ(model.phase(), Phase::idle);
+    EXPECT_EQ(model.findings(), findings);
+    EXPECT_EQ(model.selection(), selection);
+    EXPECT_EQ(model.lastScan(), lastScan);
+    EXPECT_THAT(Persist::loadSnapshots(), SizeIs(1));
+}
+
+TEST(AppModelTest, aSecondStartWhileScanningIsIgnored)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    int scansSeen = 0;
+    QObject::connect(&model, &AppModel::scanProgressChanged, [&] { ++scansSeen; });
+    model.startScan();
+    const ScanProgress* progress = &model.scanProgress();
+    model.startScan();
+    EXPECT_EQ(&model.scanProgress(), progress);
+    ASSERT_TRUE(waitUntil([&] { return model.phase() == Phase::results; }));
+    EXPECT_EQ(scansSeen, 1);
+    EXPECT_THAT(model.snapshots(), SizeIs(1));
+    for (const ScanStep& step : model.scanProgress().steps())
+        EXPECT_EQ(step.state, StepState::done) << step.label;
+}
+
+TEST(AppModelTest, theLargeFileThresholdIsInDecimalMegabytes)
+{
+    const TempHome home;
+    home.fileOfSize("Videos/small.mkv", 1'998'848);
+    home.fileOfSize("Videos/large.mkv", 2'002'944);
+    AppModel model(kCommand);
+    model.setLargeThresholdMB(2);
+    scan(model);
+    ASSERT_THAT(kinds(model.findings()), ElementsAre(FindingKind::largeFiles));
+    ASSERT_THAT(model.findings().front().items, SizeIs(1));
+    EXPECT_EQ(model.findings().front().items.front().path, home.path("Videos/large.mkv"));
+    EXPECT_THAT(model.selection(), IsEmpty());
+}
+
+TEST(AppModelTest, thePlanHoldsTheSelectedEntriesThatMayMove)
+{
+    const UsedHome home;
+    AppModel model(kCommand);
+    scan(model);
+    model.setSelection({});
+    EXPECT_EQ(model.scanPlan().title, "Smart Scan clean-up");
+    EXPECT_THAT(model.scanPlan().sections, IsEmpty());
+
+    // What lies in the Trash is never planned, nor is what is no entry.
+    model.setSelection({home.path(".local/share/Trash/files/thrown"), home.path("Downloads/paper.pdf"),
+                        home.path("Downloads"), home.path(".cache/viewer")});
+    const CleanPlan plan = model.scanPlan();
+    ASSERT_THAT(plan.sections, SizeIs(2));
+    EXPECT_EQ(plan.sections[0].id, "caches");
+    EXPECT_THAT(plan.sections[0].entries, SizeIs(1));
+    EXPECT_EQ(plan.sections[1].id, "oldDownloads");
+}
+
+TEST(AppModelTest, onlyTheFirstModelWrites)
+{
+    const TempHome home;
+    const AppModel first(kCommand);
+    AppModel second(kCommand);
+    EXPECT_TRUE(first.isWriter());
+    EXPECT_FALSE(second.isWriter());
+    scan(second);
+    EXPECT_EQ(second.phase(), Phase::results);
+    EXPECT_THAT(second.snapshots(), SizeIs(1));
+    EXPECT_THAT(Persist::loadSnapshots(), IsEmpty());
+}
+
+TEST(AppModelTest, aModelThatOnlyReadsLeavesTheLockToOthers)
+{
+    const TempHome home;
+    const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
+    EXPECT_FALSE(reader.isWriter());
+    EXPECT_TRUE(AppModel(kCommand).isWriter());
+}
+
+TEST(AppModelTest, aDataFolderThatCannotBeMadeDoesNotStopAScan)
+{
+    const TempHome home;
+    home.folder(".local/share");
+    TempHome::setMode(home.path(".local/share"), 0500);
+    AppModel model(kCommand);
+    EXPECT_TRUE(model.isWriter());
+    scan(model);
+    EXPECT_EQ(model.phase(), Phase::results);
+    EXPECT_THAT(model.snapshots(), SizeIs(1));
+}
+
+TEST(AppModelTest, aModelMayGoWhileItScans)
+{
+    const UsedHome home;
+    for (const auto startup : {AppModel::Startup::full, AppModel::Startup::filesOnly}) {
+        {
+            AppModel model({startup, AppModel::Access::writer, 0ms});
+            model.startScan();
+        }
+        QCoreApplication::processEvents();
+        EXPECT_THAT(Persist::loadSnapshots(), IsEmpty());
+    }
+}
+
+} // namespace orlen

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// Runs the program as its user does.
+struct Process {
+    struct Outcome {
+        int status = -1; ///< exit status; minus the signal's number when one ended it
+        std::string out; ///< with a terminal: everything that appeared on it
+        std::string err;
+    };
+
+    std::vector<std::string> arguments;
+
+    /// Without a terminal; standard input is empty.
+    [[nodiscard]] Outcome run() const;
+    /// The same with Ctrl-C already pressed when the program begins.
+    [[nodiscard]] Outcome runInterrupted() const;
+    /// On a terminal of 80 columns. `typed` is what the user types once `prompt` has appeared.
+    [[nodiscard]] Outcome runOnTerminal(const std::string& prompt,
+                                        const std::function<std::string()>& typed) const;
+};
+
+} // namespace orlen
