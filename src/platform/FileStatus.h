@@ -14,7 +14,9 @@ enum class FileType { regular, folder, link, other };
 struct FileIdentity {
     std::uint64_t device = 0;
     std::uint64_t number = 0;
-    friend auto operator<=>(const FileIdentity&, const FileIdentity&) = default;
+    // clang-tidy 14 takes the comparison with 0 that this stands for to be one of pointers.
+    friend auto operator<=>(const FileIdentity&,
+                            const FileIdentity&) = default; // NOLINT(modernize-use-nullptr)
 };
 
 struct FileIdentityHash {

@@ -13,12 +13,12 @@ std::int64_t fileSize(const FileStatus& status)
     return status.allocatedBytes;
 }
 
-std::int64_t allocatedSize(const std::string& path, std::stop_token stop)
+std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop)
 {
-    return allocatedSizes(std::span(&path, 1), std::move(stop)).front();
+    return allocatedSizes(std::span(&path, 1), stop).front();
 }
 
-std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths, std::stop_token stop)
+std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths, const std::stop_token& stop)
 {
     return measureTrees(paths, stop);
 }
@@ -36,15 +36,15 @@ std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocumen
     return opened.value_or(status.value().modified);
 }
 
-FileEntry entry(const std::string& path, std::string_view note, std::stop_token stop)
+FileEntry entry(const std::string& path, std::string_view note, const std::stop_token& stop)
 {
-    return std::move(entries(std::span(&path, 1), note, std::move(stop)).front());
+    return std::move(entries(std::span(&path, 1), note, stop).front());
 }
 
 std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
-                               std::stop_token stop)
+                               const std::stop_token& stop)
 {
-    const std::vector<std::int64_t> sizes = allocatedSizes(paths, std::move(stop));
+    const std::vector<std::int64_t> sizes = allocatedSizes(paths, stop);
     std::vector<FileEntry> entries(paths.size());
     for (std::size_t i = 0; i < paths.size(); ++i) {
         FileEntry& entry = entries[i];

@@ -25,11 +25,11 @@ namespace FS {
 
 /// Allocated bytes of a file, or of all regular files below a folder. Links are not followed, and mounted
 /// network and pseudo file systems are not entered. 0 for what is missing or cannot be read.
-[[nodiscard]] std::int64_t allocatedSize(const std::string& path, std::stop_token stop = {});
+[[nodiscard]] std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop = {});
 
 /// The same for many paths at once, which is faster than one after the other.
 [[nodiscard]] std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths,
-                                                       std::stop_token stop = {});
+                                                       const std::stop_token& stop = {});
 
 /// When the user last opened a file: the later of what the desktop's list of recent documents tells and the
 /// access time, which does not count on a mount that keeps none; else the modification time; nothing for what
@@ -39,11 +39,12 @@ namespace FS {
 
 /// The path with its allocated size, modification date (absent when it cannot be read) and the note; an empty
 /// note gives none.
-[[nodiscard]] FileEntry entry(const std::string& path, std::string_view note, std::stop_token stop = {});
+[[nodiscard]] FileEntry entry(const std::string& path, std::string_view note,
+                              const std::stop_token& stop = {});
 
 /// The same for many paths, in their order, measured together.
 [[nodiscard]] std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
-                                             std::stop_token stop = {});
+                                             const std::stop_token& stop = {});
 
 } // namespace FS
 } // namespace orlen

@@ -17,6 +17,7 @@ constexpr std::int64_t kItemsPerPath = 48;
 void ScanProgress::setSteps(const std::vector<std::string>& labels)
 {
     std::vector<Step> steps;
+    steps.reserve(labels.size());
     for (const std::string& label : labels)
         steps.push_back({{label, StepState::pending, {}}, {}});
     const std::lock_guard lock(m_lock);

@@ -71,7 +71,7 @@ StorageBreakdown::Space StorageBreakdown::volume()
     return {space.value().total, space.value().free};
 }
 
-StorageBreakdown StorageBreakdown::compute(std::stop_token stop)
+StorageBreakdown StorageBreakdown::compute(const std::stop_token& stop)
 {
     const auto mounts = CurrentMounts::table();
     PathMarks marks;

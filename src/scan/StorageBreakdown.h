@@ -25,7 +25,7 @@ struct StorageBreakdown {
     /// Measures all categories; `system` is what they do not explain, at least 0. Blocks on the disk: never
     /// call from the main thread. A stopped computation returns sums that are too small: the caller drops
     /// them.
-    [[nodiscard]] static StorageBreakdown compute(std::stop_token stop = {});
+    [[nodiscard]] static StorageBreakdown compute(const std::stop_token& stop = {});
 
     friend bool operator==(const StorageBreakdown&, const StorageBreakdown&) = default;
 };

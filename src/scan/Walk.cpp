@@ -63,16 +63,17 @@ std::vector<std::string> outermost(std::vector<std::string> folders)
 
 } // namespace
 
-Found home(ScanProgress& progress, std::stop_token stop)
+Found home(ScanProgress& progress, const std::stop_token& stop)
 {
     if (!Places::current().isHomeUsable)
         return {};
     return walk(WalkVisitor::Scope::homeFolder, {{Safety::home(), 0}}, progress, stop);
 }
 
-Found folders(const std::vector<std::string>& roots, ScanProgress& progress, std::stop_token stop)
+Found folders(const std::vector<std::string>& roots, ScanProgress& progress, const std::stop_token& stop)
 {
     std::vector<std::string> paths;
+    paths.reserve(roots.size());
     for (const std::string& root : roots)
         paths.push_back(Places::current().normalized(root));
     std::vector<TreeRoot> trees;

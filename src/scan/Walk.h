@@ -29,12 +29,12 @@ struct Found {
 
 /// Walks the home folder: no hidden items, no top-level Library, Applications, Public or snap, no packages,
 /// no "node_modules", nothing whose contents are protected or mirrored by a sync program.
-[[nodiscard]] Found home(ScanProgress& progress, std::stop_token stop);
+[[nodiscard]] Found home(ScanProgress& progress, const std::stop_token& stop);
 
 /// Walks the given folders by the same rules but without those for top-level names, and collects images
 /// wherever they lie.
 [[nodiscard]] Found folders(const std::vector<std::string>& roots, ScanProgress& progress,
-                            std::stop_token stop);
+                            const std::stop_token& stop);
 
 /// What a search for duplicates looks at: the candidates and the images that are too small to be among them.
 [[nodiscard]] std::vector<Cand> duplicateInput(const Found& found);
