@@ -1,8 +1,11 @@
 #include "platform/Terminal.h"
 
 #include "platform/Retrying.h"
+#include "platform/UniqueFd.h"
 
 #include <array>
+#include <cerrno>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -24,10 +27,20 @@ int descriptor(Stream stream)
     return -1;
 }
 
-/// Waits for input; false when the interrupt came first.
-bool awaitInput(int interrupt)
+/// The terminal of standard input once more, for reading that never waits: Ctrl-C drops what was typed, also
+/// between seeing it and reading it. The mode of the given one is not ours to change, the shell uses it too.
+UniqueFd openInput()
 {
-    std::array<pollfd, 2> watched{{{STDIN_FILENO, POLLIN, 0}, {interrupt, POLLIN, 0}}};
+    const char* name = ::ttyname(STDIN_FILENO);
+    if (name == nullptr)
+        return {};
+    return UniqueFd(::open(name, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+}
+
+/// Waits for input; false when the interrupt came first.
+bool awaitInput(int input, int interrupt)
+{
+    std::array<pollfd, 2> watched{{{input, POLLIN, 0}, {interrupt, POLLIN, 0}}};
     return retried([&] { return ::poll(watched.data(), watched.size(), -1); }) > 0 && watched[1].revents == 0;
 }
 
@@ -48,10 +61,15 @@ std::optional<int> width(Stream stream)
 
 std::optional<std::string> readLine(int interrupt)
 {
+    const UniqueFd own = openInput();
+    const int input = own.isOpen() ? own.get() : STDIN_FILENO;
     std::string line;
-    for (char next = 0; awaitInput(interrupt);) {
+    for (char next = 0; awaitInput(input, interrupt);) {
         // One byte at a time, so that nothing behind the line is taken from whoever reads next.
-        if (retried([&] { return ::read(STDIN_FILENO, &next, 1); }) != 1)
+        const auto count = retried([&] { return ::read(input, &next, 1); });
+        if (count < 0 && errno == EAGAIN)
+            continue;
+        if (count != 1)
             return std::nullopt;
         if (next == '\n')
             return line;

@@ -31,13 +31,14 @@ std::string figures(const AppModel& model, Seconds duration)
 {
     return byteCount(model.totalFound()) + " you could review in total · " +
            Texts::counted(model.scanProgress().files(), "file") + " examined in " +
-           Texts::duration(duration.count()) + '\n';
+           Texts::duration(duration.count());
 }
 
 void printResults(const AppModel& model, Seconds duration)
 {
     const Colours colours = Session::colours();
-    std::string text = headline(model, colours) + colours.styled(Style::dim, figures(model, duration)) + '\n';
+    std::string text =
+        headline(model, colours) + colours.styled(Style::dim, figures(model, duration)) + "\n\n";
     if (model.findings().empty())
         text.append(Texts::kNothingFound).append("\n");
     else

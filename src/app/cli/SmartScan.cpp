@@ -51,10 +51,10 @@ void addThresholdOption(CLI::App& app, double& megabytes)
 
 std::string status(const ScanProgress& progress)
 {
-    std::string line = runningStep(progress);
-    if (!line.empty())
-        line += " · ";
-    line += Texts::counted(progress.files(), "file") + " examined";
+    // The storage is measured beside the steps, and may take longer than they do.
+    const std::string step = runningStep(progress);
+    std::string line = step.empty() ? std::string(Texts::kMeasuring) : step;
+    line += " · " + Texts::counted(progress.files(), "file") + " examined";
     if (const std::string current = progress.current(); !current.empty())
         line += " · " + Texts::shownPath(current);
     return line;
