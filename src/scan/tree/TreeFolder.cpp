@@ -17,6 +17,8 @@ TreeFolder::~TreeFolder()
 
 std::string TreeFolder::path() const
 {
+    if (!m_path.empty())
+        return m_path;
     std::vector<const TreeFolder*> chain;
     std::size_t length = 0;
     for (const TreeFolder* folder = this; folder != nullptr; folder = folder->parent()) {

@@ -11,7 +11,7 @@
 namespace orlen {
 
 /// One folder on the way of a scan. Knows its name and its parent; the path is put together only when asked
-/// for. Immutable once its contents are visited; any thread.
+/// for, or kept where the visitor asks for most of them. Immutable once its contents are visited; any thread.
 class TreeFolder {
 public:
     TreeFolder(std::shared_ptr<const TreeFolder> parent, std::string name, std::uint32_t tag)
@@ -40,6 +40,7 @@ private:
     std::shared_ptr<const TreeFolder> m_parent;
     std::string m_name;
     std::uint32_t m_tag;
+    std::string m_path;                            ///< empty: not kept, to be put together
     const PathMarks::Node* m_marks = nullptr;      ///< the caller's marks at and below this folder
     const PathMarks::Node* m_mountMarks = nullptr; ///< mounts not to be touched
     FileIdentity m_identity;

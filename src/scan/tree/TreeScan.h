@@ -52,6 +52,8 @@ public:
     /// Whether to enter the child folder `name`, and with which tag. Asked before it is touched.
     virtual std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                                std::uint32_t marks) = 0;
+    /// Whether most folders will be asked for their path: it is then kept instead of put together each time.
+    [[nodiscard]] virtual bool asksForPaths() const { return false; }
     /// Whether `accept` wants to see every folder's names.
     [[nodiscard]] virtual bool looksAtListings() const { return false; }
     /// Whether to go on with a folder after a look at its names; false leaves out all of it.

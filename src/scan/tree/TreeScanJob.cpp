@@ -105,6 +105,7 @@ void TreeScanJob::enterRoot(const TreeRoot& root)
     if (!fd.ok())
         return;
     auto folder = std::make_shared<TreeFolder>(nullptr, root.path, root.tag);
+    folder->m_path = root.path;
     folder->m_marks = m_options.marks == nullptr ? nullptr : m_options.marks->at(root.path);
     folder->m_mountMarks = m_foreignMounts.at(root.path);
     visit(folder, std::move(fd).value());
@@ -134,6 +135,8 @@ void TreeScanJob::enterChild(const std::shared_ptr<OpenFolder>& parent, const st
     if (!fd.ok())
         return;
     auto folder = std::make_shared<TreeFolder>(parent->folder(), name, *tag);
+    if (m_visitor.asksForPaths())
+        folder->m_path = parent->folder()->pathOf(name);
     folder->m_marks = marks;
     folder->m_mountMarks = mountMarks;
     visit(folder, std::move(fd).value());

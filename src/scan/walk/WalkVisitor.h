@@ -23,6 +23,7 @@ public:
 
     std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                        std::uint32_t marks) override;
+    [[nodiscard]] bool asksForPaths() const override { return true; }
     [[nodiscard]] bool looksAtListings() const override { return true; }
     bool accept(const TreeFolder& folder, const TreeListing& listing) override;
     void files(const TreeFolder& folder, std::span<const TreeFile> files) override;
