@@ -18,15 +18,12 @@
 // The search narrows one list of suspects. Each step learns something more about every suspect that is left,
 // which costs more than the step before, and drops those whose knowledge no other suspect shares:
 //
-//   1. allocated bytes    known from the walk
-//   2. length, identity   one call each; files of different length cannot be identical, although files of
-//   equal
-//                         length are grouped only when they also occupy as many bytes
-//   3. quick hash         reads head and tail, in the order of the file numbers, which is about that of the
-//   disk
-//   4. whole contents     few files with one quick hash are compared, many are hashed. Both decide by all
-//   bytes;
-//                         files up to the length of a head are settled by step 3
+//   1. allocated bytes: known from the walk.
+//   2. Length and identity: one call each. Files of different length cannot be identical; those of equal
+//      length are grouped only when they also occupy as many bytes.
+//   3. Quick hash: reads head and tail, in the order of the file numbers, which is about that of the disk.
+//   4. Whole contents: few files with one quick hash are compared, many are hashed. Both decide by all bytes.
+//      Files up to the length of a head are settled by step 3.
 //
 // What remains are the sets. Nothing is read twice but the heads and tails of files that reach step 4.
 
