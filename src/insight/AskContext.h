@@ -1,0 +1,18 @@
+#pragma once
+
+#include "insight/Predictor.h"
+#include "model/Finding.h"
+#include "scan/StorageBreakdown.h"
+
+#include <vector>
+
+namespace orlen {
+
+/// All that an answer may draw on.
+struct AskContext {
+    std::vector<Finding> findings; ///< of the last scan, in display order; empty before the first
+    StorageBreakdown breakdown;
+    Prediction prediction;
+};
+
+} // namespace orlen

@@ -1,0 +1,108 @@
+#include "insight/AskEngine.h"
+
+#include "insight/AskText.h"
+#include "model/ByteCount.h"
+#include "platform/Places.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace orlen::AskEngine {
+
+namespace {
+
+const std::string kInstructions =
+    "You are Orlen, a careful Mac storage assistant. Answer using ONLY the scan data provided. Be brief (at "
+    "most 5 sentences), plain-spoken, and never claim a file is definitely safe to delete; ratings are "
+    "suggestions. Never invent files or sizes.";
+
+/// A model reads only so much: the findings and files beyond these are not shown to it.
+constexpr std::size_t kFindingsShown = 14;
+constexpr std::size_t kDownloadsShown = 10;
+
+bool isBelow(std::string_view path, const std::string& folder)
+{
+    return !folder.empty() && path.starts_with(folder + "/");
+}
+
+std::string categoriesLine(const StorageBreakdown& breakdown)
+{
+    std::vector<std::string> categories;
+    for (const auto& category : breakdown.cats)
+        categories.push_back(AskText::sized(category));
+    return "Categories: " + AskText::joined(categories, ", ");
+}
+
+std::string findingLine(const Finding& finding)
+{
+    return "- " + finding.title + ": " + byteCount(finding.totalSize()) + ", rated " +
+           std::string(label(finding.rating)) + ". " + finding.reason;
+}
+
+std::string promptFor(const std::string& question, const AskContext& context)
+{
+    return "Scan data:\n" + contextText(context) + "\n\nQuestion: " + question;
+}
+
+} // namespace
+
+std::string_view introduction(const LanguageModel& model)
+{
+    return model.isAvailable() ? "Answers come from your scan, written by Apple's on-device language model."
+                               : "Answers come from your scan, using Orlen's built-in on-device matcher.";
+}
+
+Answer answer(const std::string& question, const AskContext& context, const LanguageModel& model)
+{
+    Answer answer = fallback(question, context);
+    if (!model.isAvailable())
+        return answer;
+    if (std::optional<std::string> text = model.respond(kInstructions, promptFor(question, context))) {
+        answer.text = *std::move(text);
+        answer.usedModel = true;
+    }
+    return answer;
+}
+
+std::string contextText(const AskContext& context)
+{
+    const StorageBreakdown& breakdown = context.breakdown;
+    std::vector<std::string> lines{"Disk: " + byteCount(breakdown.total) + " total, " +
+                                       byteCount(breakdown.free) + " free.",
+                                   categoriesLine(breakdown)};
+    const std::size_t findings = std::min(context.findings.size(), kFindingsShown);
+    for (std::size_t i = 0; i < findings; ++i)
+        lines.push_back(findingLine(context.findings[i]));
+    lines.emplace_back("Items in Downloads:");
+    const std::vector<FileEntry> downloads = downloadsItems(context.findings);
+    for (std::size_t i = 0; i < std::min(downloads.size(), kDownloadsShown); ++i)
+        lines.push_back("- " + AskText::sized(AskText::fileName(downloads[i]), downloads[i].size));
+    lines.push_back("Prediction: " + context.prediction.headline + ". " + context.prediction.detail);
+    return AskText::joined(lines, "\n");
+}
+
+std::vector<FileEntry> downloadsItems(const std::vector<Finding>& findings)
+{
+    std::vector<FileEntry> items;
+    std::set<std::string_view> kept;
+    for (const Finding& finding : findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (isInDownloads(entry.path) && kept.insert(entry.path).second)
+                items.push_back(entry);
+        }
+    }
+    std::ranges::stable_sort(items, std::greater{}, &FileEntry::size);
+    return items;
+}
+
+bool isInDownloads(std::string_view path)
+{
+    const Places& places = Places::current();
+    return isBelow(path, places.home + "/Downloads") || isBelow(path, places.downloads);
+}
+
+} // namespace orlen::AskEngine

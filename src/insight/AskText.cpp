@@ -1,0 +1,34 @@
+#include "insight/AskText.h"
+
+#include "model/ByteCount.h"
+#include "platform/PathText.h"
+
+namespace orlen::AskText {
+
+std::string joined(const std::vector<std::string>& parts, std::string_view separator)
+{
+    std::string text;
+    for (const std::string& part : parts) {
+        if (&part != &parts.front())
+            text += separator;
+        text += part;
+    }
+    return text;
+}
+
+std::string fileName(const FileEntry& entry)
+{
+    return PathText::forDisplay(PathText::lastComponent(entry.path));
+}
+
+std::string sized(const std::pair<const OrlenCategory, std::int64_t>& category)
+{
+    return std::string(label(category.first)) + ' ' + byteCount(category.second);
+}
+
+std::string sized(std::string_view name, std::int64_t bytes)
+{
+    return std::string(name) + " (" + byteCount(bytes) + ')';
+}
+
+} // namespace orlen::AskText

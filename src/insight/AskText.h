@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "model/OrlenCategory.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// The small forms that answers and the language model's view of the scan have in common. Pure, any thread.
+namespace orlen::AskText {
+
+[[nodiscard]] std::string joined(const std::vector<std::string>& parts, std::string_view separator);
+
+/// The last path component on one line: a file may bear a name that would break the text around it.
+[[nodiscard]] std::string fileName(const FileEntry& entry);
+
+/// "Apps 12 GB"
+[[nodiscard]] std::string sized(const std::pair<const OrlenCategory, std::int64_t>& category);
+
+/// "name (12 GB)"
+[[nodiscard]] std::string sized(std::string_view name, std::int64_t bytes);
+
+} // namespace orlen::AskText

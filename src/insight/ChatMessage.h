@@ -1,0 +1,31 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "platform/Uuid.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orlen {
+
+/// One message of the exchange on the Ask screen.
+struct ChatMessage {
+    Uuid id = Uuid::random();
+    bool fromUser = false;
+    std::string text;
+    std::vector<std::string> findingIDs; ///< of the findings that a reply links to
+    bool usedModel = false;
+
+    [[nodiscard]] static ChatMessage question(std::string text)
+    {
+        return {Uuid::random(), true, std::move(text), {}, false};
+    }
+    [[nodiscard]] static ChatMessage reply(Answer answer)
+    {
+        return {Uuid::random(), false, std::move(answer.text), std::move(answer.findingIDs),
+                answer.usedModel};
+    }
+};
+
+} // namespace orlen

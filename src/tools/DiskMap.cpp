@@ -1,0 +1,108 @@
+#include "tools/DiskMap.h"
+
+#include "platform/CheckedSum.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "scan/tree/CurrentMounts.h"
+#include "scan/tree/TreeScan.h"
+
+#include <algorithm>
+#include <iterator>
+#include <mutex>
+#include <span>
+#include <string_view>
+#include <utility>
+
+namespace orlen::DiskMap {
+
+namespace {
+
+constexpr std::size_t kMostNodes = 60;
+constexpr std::string_view kSmallerItems = " smaller items";
+
+/// Adds up what lies below each child of the one root. The whole map is a single scan, so that a child that
+/// is a mounted server is known and left out before it is touched, and a hundred thousand children cost no
+/// more than their listing.
+class ChildSums : public TreeVisitor {
+public:
+    /// A child folder's tag is the number of its node; all folders below it carry that on.
+    std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
+                                       std::uint32_t /*marks*/) override
+    {
+        if (!isRoot(parent))
+            return parent.tag();
+        const std::lock_guard guard(m_lock);
+        m_nodes.push_back({std::string(name), {}, 0, true, false});
+        return static_cast<std::uint32_t>(m_nodes.size() - 1);
+    }
+
+    void files(const TreeFolder& folder, std::span<const TreeFile> files) override
+    {
+        if (isRoot(folder)) {
+            const std::lock_guard guard(m_lock);
+            for (const TreeFile& file : files)
+                m_nodes.push_back({file.name, {}, file.status.allocatedBytes, false, false});
+            return;
+        }
+        std::int64_t bytes = 0;
+        for (const TreeFile& file : files)
+            bytes = checkedAdd(bytes, file.status.allocatedBytes);
+        const std::lock_guard guard(m_lock);
+        TreeNode& child = m_nodes[folder.tag()];
+        child.size = checkedAdd(child.size, bytes);
+    }
+
+    /// After the scan; the nodes have no paths yet.
+    [[nodiscard]] std::vector<TreeNode> take() { return std::move(m_nodes); }
+
+private:
+    static bool isRoot(const TreeFolder& folder) { return folder.parent() == nullptr; }
+
+    std::mutex m_lock;
+    std::vector<TreeNode> m_nodes;
+};
+
+bool comesBefore(const TreeNode& a, const TreeNode& b)
+{
+    return a.size != b.size ? a.size > b.size : a.name < b.name;
+}
+
+TreeNode groupOf(std::span<const TreeNode> leftOut, const std::string& folder)
+{
+    TreeNode group{std::to_string(leftOut.size()).append(kSmallerItems), folder, 0, false, true};
+    for (const TreeNode& node : leftOut)
+        group.size = checkedAdd(group.size, node.size);
+    return group;
+}
+
+std::vector<TreeNode> arranged(std::vector<TreeNode> nodes, const std::string& folder)
+{
+    std::erase_if(nodes, [](const TreeNode& node) { return node.size < 1; });
+    const auto nameless = std::partition(
+        nodes.begin(), nodes.end(), [](const TreeNode& node) { return PathText::isValidUtf8(node.name); });
+    const std::size_t kept = std::min<std::size_t>(kMostNodes, nameless - nodes.begin());
+    const auto firstLeftOut = nodes.begin() + static_cast<std::ptrdiff_t>(kept);
+    std::partial_sort(nodes.begin(), firstLeftOut, nameless, comesBefore);
+
+    std::vector<TreeNode> shown(std::make_move_iterator(nodes.begin()),
+                                std::make_move_iterator(firstLeftOut));
+    for (TreeNode& node : shown)
+        node.path = PathText::join(folder, node.name);
+    if (firstLeftOut != nodes.end())
+        shown.push_back(groupOf(std::span(firstLeftOut, nodes.end()), folder));
+    return shown;
+}
+
+} // namespace
+
+std::vector<TreeNode> children(const std::string& folder, const std::stop_token& stop)
+{
+    const TreeRoot root{resolved(folder)};
+    if (root.path.empty())
+        return {};
+    ChildSums sums;
+    scanTrees(std::span(&root, 1), sums, *CurrentMounts::table(), {}, stop);
+    return arranged(sums.take(), folder);
+}
+
+} // namespace orlen::DiskMap

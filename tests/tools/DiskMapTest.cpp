@@ -1,0 +1,127 @@
+#include "tools/DiskMap.h"
+
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::int64_t kKiB = 1024;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+std::string numbered(int number)
+{
+    return "file" + std::to_string(1000 + number);
+}
+
+} // namespace
+
+TEST(DiskMapTest, childrenAreMeasuredWholeAndLargestFirst)
+{
+    const TempHome home;
+    home.fileOfSize("map/folder/deep/er/a", 40 * kKiB);
+    home.fileOfSize("map/folder/b", 8 * kKiB);
+    home.fileOfSize("map/file", 44 * kKiB);
+    home.fileOfSize("map/.hidden/c", 20 * kKiB);
+    home.file("map/empty", "");
+    home.folder("map/nothing/in it");
+    home.fileOfSize("elsewhere/d", 400 * kKiB);
+    home.link("map/link to a file", home.path("elsewhere/d"));
+    home.link("map/link to a folder", home.path("elsewhere"));
+    home.link("map/folder/link", home.path("elsewhere"));
+    home.fileOfSize("map/denied/e", 4 * kKiB);
+    TempHome::setMode(home.path("map/denied"), 0);
+
+    const std::string map = home.path("map");
+    EXPECT_THAT(DiskMap::children(map),
+                ElementsAre(TreeNode{"folder", map + "/folder", 48 * kKiB, true, false},
+                            TreeNode{"file", map + "/file", 44 * kKiB, false, false},
+                            TreeNode{".hidden", map + "/.hidden", 20 * kKiB, true, false}));
+    TempHome::setMode(home.path("map/denied"), 0700);
+}
+
+TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)
+{
+    for (const int count : {59, 60, 61, 74}) {
+        SCOPED_TRACE(count);
+        const TempHome home;
+        home.folder("map");
+        for (int i = 0; i < count; ++i)
+            home.fileOfSize("map/" + numbered(i), kKiB * (i < 60 ? 8 : 4));
+        const std::vector<TreeNode> nodes = DiskMap::children(home.path("map"));
+        ASSERT_THAT(nodes, SizeIs(std::min(count, 61)));
+        for (int i = 0; i < std::min(count, 60); ++i)
+            EXPECT_EQ(nodes[static_cast<std::size_t>(i)].name, numbered(i));
+        if (count > 60) {
+            const std::string name = std::to_string(count - 60) + " smaller items";
+            EXPECT_EQ(nodes.back(), (TreeNode{name, home.path("map"), kKiB * 4 * (count - 60), false, true}));
+        }
+    }
+}
+
+TEST(DiskMapTest, namesThatAreNotUtf8AreMeasuredButNotOffered)
+{
+    const TempHome home;
+    home.fileOfSize("map/\xff\xfe/inside", 80 * kKiB);
+    home.fileOfSize("map/caf\xe9", 8 * kKiB);
+    home.fileOfSize("map/café", 4 * kKiB);
+    home.fileOfSize("map/outer/\xff", 12 * kKiB);
+    const std::string map = home.path("map");
+    EXPECT_THAT(DiskMap::children(map),
+                ElementsAre(TreeNode{"outer", map + "/outer", 12 * kKiB, true, false},
+                            TreeNode{"café", map + "/café", 4 * kKiB, false, false},
+                            TreeNode{"2 smaller items", map, 88 * kKiB, false, true}));
+}
+
+TEST(DiskMapTest, whatIsNoReadableFolderHasNoChildren)
+{
+    const TempHome home;
+    home.fileOfSize("denied/x", 4 * kKiB);
+    TempHome::setMode(home.path("denied"), 0);
+    home.link("dangling", home.path("missing"));
+    for (const std::string& path : {home.path("missing"), home.fileOfSize("file", 4 * kKiB),
+                                    home.folder("empty"), home.path("denied"), home.path("dangling")}) {
+        SCOPED_TRACE(path);
+        EXPECT_THAT(DiskMap::children(path), IsEmpty());
+    }
+    TempHome::setMode(home.path("denied"), 0700);
+}
+
+TEST(DiskMapTest, theFolderItselfMayBeALink)
+{
+    const TempHome home;
+    home.fileOfSize("real/x", 4 * kKiB);
+    const std::string link = home.link("link", home.path("real"));
+    EXPECT_THAT(DiskMap::children(link), ElementsAre(TreeNode{"x", link + "/x", 4 * kKiB, false, false}));
+}
+
+TEST(DiskMapTest, aWideFolderLosesNothing)
+{
+    const TempHome home;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string name = "map/" + std::to_string(i);
+        home.fileOfSize(i % 3 == 0 ? name + "/a/b" : name, kKiB * 4 * (i % 2 + 1));
+    }
+    std::int64_t sum = 0;
+    for (const TreeNode& node : DiskMap::children(home.path("map")))
+        sum += node.size;
+    EXPECT_EQ(sum, kKiB * 6 * 3000);
+    EXPECT_EQ(DiskMap::children(home.path("map")).back().name, "2940 smaller items");
+}
+
+TEST(DiskMapTest, aStoppedMeasurementEnds)
+{
+    const TempHome home;
+    home.fileOfSize("map/folder/x", 4 * kKiB);
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THAT(DiskMap::children(home.path("map"), stop.get_token()), IsEmpty());
+}
+
+} // namespace orlen
