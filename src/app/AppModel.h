@@ -26,6 +26,7 @@
 
 namespace orlen {
 
+struct AskContext;
 class ScanEngine;
 class ScanProgress;
 
@@ -127,6 +128,8 @@ public:
     [[nodiscard]] CleanPlan scanPlan() const;
     /// The growth forecast from the snapshots.
     [[nodiscard]] Prediction prediction() const;
+    /// What a question about the storage is answered from.
+    [[nodiscard]] AskContext askContext() const;
 
     /// Moves the plan's entries whose path is in `selected` to the Trash; closes the sheet. Nothing more
     /// happens when none is left. Only for a writer.

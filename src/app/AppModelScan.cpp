@@ -2,6 +2,7 @@
 
 #include "app/AppTexts.h"
 #include "clean/Safety.h"
+#include "insight/AskContext.h"
 #include "model/Rater.h"
 #include "platform/CheckedSum.h"
 #include "scan/ScanEngine.h"
@@ -163,6 +164,11 @@ CleanPlan AppModel::scanPlan() const
             plan.sections.push_back(std::move(section));
     }
     return plan;
+}
+
+AskContext AppModel::askContext() const
+{
+    return {m_findings, m_breakdown, prediction()};
 }
 
 } // namespace orlen

@@ -88,6 +88,7 @@ TEST(CommandLineTest, aWrongCallEndsWithTwoAndMovesNothing)
         {"nobody to ask, as a document", {"clean", "--json"}, "--yes"},
         {"no record", {"restore", "--yes", "0E7C"}, "0E7C"},
         {"record missing", {"restore"}, "ID"},
+        {"question missing", {"ask"}, "question"},
         {"no folder", {"duplicates", "Nowhere"}, "Nowhere"},
         {"a file", {"duplicates", file}, ".xsession-errors"},
         {"protected", {"duplicates", "/usr"}, "protected"},
@@ -108,7 +109,7 @@ TEST(CommandLineTest, everyCommandTellsHelpAndVersion)
 {
     const TempHome home;
     for (const char* command :
-         {"scan", "clean", "history", "restore", "breakdown", "predict", "duplicates"}) {
+         {"scan", "clean", "history", "restore", "breakdown", "predict", "ask", "duplicates", "map"}) {
         SCOPED_TRACE(command);
         const Process::Outcome help = orlen({command, "--help"});
         EXPECT_EQ(help.status, 0);
@@ -142,6 +143,18 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
     EXPECT_EQ(scan["breakdown"]["cats"].size(), 7U);
     EXPECT_TRUE(timeFromIso(scan["date"].get<std::string>()).has_value());
     EXPECT_EQ(Persist::loadSnapshots().size(), 1U);
+}
+
+TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
+{
+    const UsedHome home;
+    const Json answer = document(orlen({"ask", "--json", "What about LOGS?"}));
+    EXPECT_THAT(keys(answer), ElementsAre("text", "findingIDs", "usedModel"));
+    EXPECT_THAT(answer["text"].get<std::string>(), HasSubstr("Log files: 66 KB — rated Safe. "));
+    EXPECT_EQ(answer["findingIDs"], Json({"logs"}));
+    EXPECT_EQ(answer["usedModel"], false);
+    EXPECT_EQ(Persist::loadSnapshots().size(), 1U);
+    EXPECT_THAT(orlen({"ask", "--large-mb", "1", "what is large"}).out, HasSubstr("Large files: "));
 }
 
 TEST(CommandLineTest, oddNamesAreHarmless)

@@ -1,4 +1,5 @@
 #include "app/AppModel.h"
+#include "app/cli/Bar.h"
 #include "app/cli/Command.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Table.h"
@@ -8,26 +9,9 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include <cmath>
-
 namespace orlen {
 
 namespace {
-
-constexpr int kBarLength = 30;
-
-/// A bar whose length tells a part of the whole; a part that is not nothing shows.
-std::string bar(std::int64_t part, std::int64_t whole)
-{
-    if (part <= 0 || whole <= 0)
-        return {};
-    const double share = static_cast<double>(part) / static_cast<double>(whole);
-    const auto length = std::max(1L, std::lround(share * kBarLength));
-    std::string text;
-    for (long i = 0; i < std::min<long>(length, kBarLength); ++i)
-        text += "█";
-    return text;
-}
 
 void printBreakdown(const StorageBreakdown& breakdown)
 {
@@ -36,11 +20,12 @@ void printBreakdown(const StorageBreakdown& breakdown)
     for (const OrlenCategory category : kAllCategories) {
         const auto bytes = breakdown.cats.find(category);
         const std::int64_t size = bytes == breakdown.cats.end() ? 0 : bytes->second;
-        table.addRow(
-            {{std::string(label(category))}, {byteCount(size)}, {bar(size, breakdown.total), Style::blue}});
+        table.addRow({{std::string(label(category))},
+                      {byteCount(size)},
+                      {Bar::text(size, breakdown.total), Style::blue}});
     }
     table.addRow(
-        {{"Free"}, {byteCount(breakdown.free)}, {bar(breakdown.free, breakdown.total), Style::green}});
+        {{"Free"}, {byteCount(breakdown.free)}, {Bar::text(breakdown.free, breakdown.total), Style::green}});
     Session::print(
         colours.styled(Style::bold, byteCount(breakdown.free) + " free of " + byteCount(breakdown.total)) +
         "\n\n" + table.text(colours, Session::width()));

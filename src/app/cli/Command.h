@@ -43,6 +43,8 @@ std::unique_ptr<Command> makeHistoryCommand();
 std::unique_ptr<Command> makeRestoreCommand();
 std::unique_ptr<Command> makeBreakdownCommand();
 std::unique_ptr<Command> makePredictCommand();
+std::unique_ptr<Command> makeAskCommand();
 std::unique_ptr<Command> makeDuplicatesCommand();
+std::unique_ptr<Command> makeMapCommand();
 
 } // namespace orlen

@@ -26,8 +26,9 @@ struct Registered {
 std::vector<std::unique_ptr<Command>> allCommands()
 {
     std::vector<std::unique_ptr<Command>> commands;
-    for (const auto make : {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand,
-                            makeBreakdownCommand, makePredictCommand, makeDuplicatesCommand})
+    for (const auto make :
+         {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand, makeBreakdownCommand,
+          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makeMapCommand})
         commands.push_back(make());
     return commands;
 }

@@ -121,8 +121,8 @@ private:
         for (const std::string& argument : m_arguments) {
             std::string folder = PathArgument::readableFolder(argument);
             if (folder.empty() || Safety::protectsContents(folder)) {
-                session.complain(Texts::quoted(argument) +
-                                 (folder.empty() ? " is not a folder that can be read." : " is protected."));
+                session.complain(Texts::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
+                                                                               : " is protected."));
                 return std::nullopt;
             }
             folders.push_back(std::move(folder));

@@ -153,6 +153,11 @@ Json prediction(const Prediction& prediction, std::size_t snapshots)
     };
 }
 
+Json answer(const Answer& answer)
+{
+    return {{"text", answer.text}, {"findingIDs", answer.findingIDs}, {"usedModel", answer.usedModel}};
+}
+
 Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds duration)
 {
     Json sets = Json::array();
@@ -170,6 +175,19 @@ Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds 
         {"bytesHashed", result.bytesHashed},
         {"seconds", rounded(duration)},
     };
+}
+
+Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration)
+{
+    Json array = Json::array();
+    for (const TreeNode& node : nodes) {
+        array.push_back({{"name", node.name},
+                         {"path", node.path},
+                         {"size", node.size},
+                         {"isDir", node.isDir},
+                         {"isOther", node.isOther}});
+    }
+    return {{"path", folder}, {"nodes", std::move(array)}, {"seconds", rounded(duration)}};
 }
 
 } // namespace orlen::JsonDocuments

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "clean/Cleaner.h"
+#include "insight/AskEngine.h"
 #include "insight/Predictor.h"
 #include "model/CleanPlan.h"
 #include "model/Finding.h"
 #include "scan/Duplicates.h"
 #include "scan/StorageBreakdown.h"
+#include "tools/TreeNode.h"
 
 #include <chrono>
 #include <nlohmann/json_fwd.hpp>
@@ -34,8 +36,10 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record);
 [[nodiscard]] Json history(const std::vector<CleanRecord>& history);
 [[nodiscard]] Json restore(const Cleaner::Restored& outcome, const std::string& message);
+[[nodiscard]] Json answer(const Answer& answer);
 [[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
+[[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
 
 } // namespace JsonDocuments
 } // namespace orlen

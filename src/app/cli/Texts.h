@@ -41,6 +41,9 @@ inline constexpr std::string_view kNothingDeleted =
     "Nothing was deleted. The space comes back when you empty the Trash.";
 inline constexpr std::string_view kTrashIsKept = "what lies in the Trash is shown, but never moved again.";
 inline constexpr std::string_view kNoDuplicates = "No duplicate files were found.";
+inline constexpr std::string_view kMeasuringFolder = "Measuring ";
+inline constexpr std::string_view kNoReadableFolder = " is not a folder that can be read.";
+inline constexpr std::string_view kNoTextInDocument = " is not UTF-8, so no document can hold it.";
 
 /// "1 item", "12,345 items".
 [[nodiscard]] std::string counted(std::int64_t count, std::string_view noun);

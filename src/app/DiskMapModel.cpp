@@ -1,0 +1,148 @@
+#include "app/DiskMapModel.h"
+
+#include "platform/CheckedSum.h"
+#include "tools/DiskMap.h"
+
+#include <QThread>
+
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr double kPinch = 0.35;
+
+} // namespace
+
+DiskMapModel::DiskMapModel(std::string start, QObject* parent)
+    : QObject(parent), m_stack{std::move(start)}, m_workers(*this)
+{
+}
+
+DiskMapModel::~DiskMapModel() = default;
+
+const TreeNode* DiskMapModel::hoveredNode() const
+{
+    return m_hover ? &m_nodes[*m_hover] : nullptr;
+}
+
+void DiskMapModel::load()
+{
+    checkThread();
+    m_loadStop.request_stop();
+    const int generation = ++m_generation;
+    setLoading(true);
+    setNodes({});
+    // Whoever heard of that may have started a newer load already.
+    if (generation != m_generation)
+        return;
+    m_loadStop = m_workers.start(
+        [folder = current()](const std::stop_token& stop) { return DiskMap::children(folder, stop); },
+        [this, generation](std::vector<TreeNode> nodes) {
+            if (generation != m_generation)
+                return;
+            setNodes(std::move(nodes));
+            // The same again: a load that this led to is still running.
+            if (generation == m_generation)
+                setLoading(false);
+        });
+}
+
+void DiskMapModel::up()
+{
+    if (m_stack.size() > 1)
+        goTo(m_stack.size() - 2);
+}
+
+void DiskMapModel::goTo(std::size_t index)
+{
+    checkThread();
+    if (index >= m_stack.size())
+        fatalError("the disk map was asked for a folder beyond the one shown");
+    m_stack.resize(index + 1);
+    Q_EMIT stackChanged();
+    load();
+}
+
+void DiskMapModel::zoomInto(std::size_t node)
+{
+    checkThread();
+    if (node >= m_nodes.size() || !m_nodes[node].isEnterable())
+        return;
+    m_stack.push_back(m_nodes[node].path);
+    Q_EMIT stackChanged();
+    load();
+}
+
+void DiskMapModel::click(Treemap::Point point, Treemap::Size view)
+{
+    if (const auto node = Treemap::hit(m_nodes, point, view))
+        zoomInto(*node);
+}
+
+void DiskMapModel::movePointer(Treemap::Point point, Treemap::Size view)
+{
+    setPointer(Pointer{point, view});
+}
+
+void DiskMapModel::removePointer()
+{
+    setPointer(std::nullopt);
+}
+
+void DiskMapModel::magnify(double magnification)
+{
+    checkThread();
+    m_magnification += magnification;
+    if (m_magnification > kPinch) {
+        m_magnification = 0;
+        if (m_hover)
+            zoomInto(*m_hover);
+    } else if (m_magnification < -kPinch) {
+        m_magnification = 0;
+        up();
+    }
+}
+
+void DiskMapModel::setNodes(std::vector<TreeNode> nodes)
+{
+    if (nodes == m_nodes)
+        return;
+    m_nodes = std::move(nodes);
+    updateHover();
+    Q_EMIT nodesChanged();
+}
+
+void DiskMapModel::setLoading(bool isLoading)
+{
+    if (isLoading == m_isLoading)
+        return;
+    m_isLoading = isLoading;
+    Q_EMIT loadingChanged();
+}
+
+void DiskMapModel::setPointer(std::optional<Pointer> pointer)
+{
+    checkThread();
+    m_pointer = pointer;
+    updateHover();
+}
+
+/// Also when the nodes change under a pointer that rests: a number of the old ones means nothing any more.
+void DiskMapModel::updateHover()
+{
+    const auto hover = m_pointer ? Treemap::hit(m_nodes, m_pointer->point, m_pointer->view) : std::nullopt;
+    if (hover == m_hover)
+        return;
+    m_hover = hover;
+    Q_EMIT hoverChanged();
+}
+
+void DiskMapModel::checkThread() const
+{
+    if (QThread::currentThread() != thread())
+        fatalError("the disk map was used outside its thread");
+}
+
+} // namespace orlen
