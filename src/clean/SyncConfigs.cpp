@@ -1,5 +1,7 @@
 #include "clean/SyncConfigs.h"
 
+#include "platform/LineText.h"
+
 #include <nlohmann/json.hpp>
 #include <pugixml.hpp>
 
@@ -11,15 +13,6 @@ namespace orlen::SyncConfigs {
 
 namespace {
 
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view kSpace = " \t\r";
-    const std::size_t first = text.find_first_not_of(kSpace);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
-}
-
 /// Calls `visit(key, value)` for each line of the form key = value.
 template <typename Visit>
 void forEachSetting(std::string_view text, Visit&& visit)
@@ -30,7 +23,7 @@ void forEachSetting(std::string_view text, Visit&& visit)
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
         const std::size_t equals = line.find('=');
         if (equals != std::string_view::npos)
-            visit(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
+            visit(LineText::trimmed(line.substr(0, equals)), LineText::trimmed(line.substr(equals + 1)));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "platform/UserDirs.h"
 
+#include "platform/LineText.h"
 #include "platform/PathText.h"
 
 #include <optional>
@@ -7,15 +8,6 @@
 namespace orlen::UserDirs {
 
 namespace {
-
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view kSpace = " \t\r";
-    const std::size_t first = text.find_first_not_of(kSpace);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
-}
 
 /// The text between the quotes with backslashes taken out, as a shell would read it.
 std::optional<std::string> unquoted(std::string_view text)
@@ -59,17 +51,17 @@ std::map<std::string, std::string> parse(std::string_view text, std::string_view
     std::map<std::string, std::string> folders;
     while (!text.empty()) {
         const std::size_t lineEnd = text.find('\n');
-        const std::string_view line = trimmed(text.substr(0, lineEnd));
+        const std::string_view line = LineText::trimmed(text.substr(0, lineEnd));
         text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos)
             continue;
-        const std::string_view key = trimmed(line.substr(0, equals));
+        const std::string_view key = LineText::trimmed(line.substr(0, equals));
         if (!key.starts_with(kStart) || !key.ends_with(kEnd) || key.size() <= kStart.size() + kEnd.size())
             continue;
         const std::string name(key.substr(kStart.size(), key.size() - kStart.size() - kEnd.size()));
         folders.erase(name);
-        if (auto folder = folderOf(trimmed(line.substr(equals + 1)), home))
+        if (auto folder = folderOf(LineText::trimmed(line.substr(equals + 1)), home))
             folders[name] = std::move(*folder);
     }
     return folders;
