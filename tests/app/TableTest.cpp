@@ -88,7 +88,7 @@ TEST(TextsTest, numbersAndDurationsReadWell)
     EXPECT_EQ(Texts::counted(12'345, "entry"), "12,345 entries");
     EXPECT_EQ(Texts::grouped(999), "999");
     EXPECT_EQ(Texts::grouped(1'000'000), "1,000,000");
-    EXPECT_EQ(Texts::duration(0.04), "0.0 s");
+    EXPECT_EQ(Texts::duration(0.042), "42 ms");
     EXPECT_EQ(Texts::duration(9.94), "9.9 s");
     EXPECT_EQ(Texts::duration(9.96), "10 s");
     EXPECT_EQ(Texts::duration(59.6), "1 min 0 s");

@@ -33,6 +33,8 @@ std::string counted(std::int64_t count, std::string_view noun)
 std::string duration(double seconds)
 {
     const auto tenths = static_cast<std::int64_t>(std::llround(seconds * 10));
+    if (tenths == 0)
+        return std::to_string(std::llround(seconds * 1'000)) + " ms";
     if (tenths < 100)
         return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
     const auto whole = static_cast<std::int64_t>(std::llround(seconds));

@@ -11,6 +11,6 @@ namespace orlen::LanguagePacks {
 /// The translation folders of all applications that the user may change, but for the preferred languages,
 /// English and the base resources. Applications of the system's maker are left whole. Blocks on the disk; any
 /// thread. A stopped search returns what it has.
-[[nodiscard]] std::vector<FileEntry> entries(std::stop_token stop);
+[[nodiscard]] std::vector<FileEntry> entries(const std::stop_token& stop);
 
 } // namespace orlen::LanguagePacks

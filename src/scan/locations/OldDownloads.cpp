@@ -18,7 +18,7 @@ constexpr std::chrono::days kUnused{30};
 } // namespace
 
 std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const RecentDocuments& recent,
-                               std::stop_token stop)
+                               const std::stop_token& stop)
 {
     const auto mounts = CurrentMounts::table();
     std::vector<std::string> paths;
@@ -33,7 +33,7 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
         paths.push_back(std::move(path));
         dates.push_back(*opened);
     }
-    std::vector<FileEntry> found = FS::entries(paths, {}, std::move(stop));
+    std::vector<FileEntry> found = FS::entries(paths, {}, stop);
     for (std::size_t i = 0; i < found.size(); ++i) {
         found[i].lastOpened = dates[i];
         if (exists(found[i].path + "/.git"))

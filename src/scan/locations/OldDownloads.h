@@ -17,6 +17,6 @@ namespace orlen::OldDownloads {
 /// The items last opened (else last changed) more than 30 days before `now`, with that date. Blocks on the
 /// disk; any thread. A stopped search returns what it has.
 [[nodiscard]] std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now,
-                                             const RecentDocuments& recent, std::stop_token stop);
+                                             const RecentDocuments& recent, const std::stop_token& stop);
 
 } // namespace orlen::OldDownloads
