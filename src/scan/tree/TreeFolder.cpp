@@ -2,17 +2,30 @@
 
 #include "platform/PathText.h"
 
+#include <memory>
 #include <vector>
 
 namespace orlen {
 
 TreeFolder::~TreeFolder()
 {
-    // Let go of a long chain one link after the other: left to itself it would recurse once per level and run
-    // out of stack in a tree that somebody nested very deep.
-    std::shared_ptr<const TreeFolder> next = std::move(m_parent);
-    while (next && next.use_count() == 1)
-        next = std::move(const_cast<TreeFolder*>(next.get())->m_parent);
+    // A long chain is let go of one link after the other: left to itself it would recurse once per level and
+    // run out of stack in a tree that somebody nested very deep. A link that goes while another one is being
+    // let go of only leaves its parent here.
+    thread_local std::vector<std::shared_ptr<const TreeFolder>> parents;
+    thread_local bool isLettingGo = false;
+    if (!m_parent)
+        return;
+    parents.push_back(std::move(m_parent));
+    if (isLettingGo)
+        return;
+    isLettingGo = true;
+    while (!parents.empty()) {
+        std::shared_ptr<const TreeFolder> next = std::move(parents.back());
+        parents.pop_back();
+        next.reset();
+    }
+    isLettingGo = false;
 }
 
 std::string TreeFolder::path() const
