@@ -110,11 +110,11 @@ public:
 
     /// Starts a Smart Scan unless one is running. The phase turns to `results` at its end, or back to `idle`
     /// with everything as it was before when it was cancelled.
-    void startScan();
+    Q_INVOKABLE void startScan();
     /// Asks the scan to end soon; ignored when none is running.
-    void cancelScan();
+    Q_INVOKABLE void cancelScan();
     /// Leaves the results.
-    void resetToIdle();
+    Q_INVOKABLE void resetToIdle();
 
     /// Bytes of all entries of the cleanable findings.
     [[nodiscard]] std::int64_t totalFound() const;
@@ -135,9 +135,9 @@ public:
     /// happens when none is left. Only for a writer.
     void confirm(const CleanPlan& plan, const std::set<std::string>& selected);
     /// Lets the clean-up finish the item in hand and end; ignored when none is running.
-    void cancelCleaning();
+    Q_INVOKABLE void cancelCleaning();
     /// Closes the display of a clean-up.
-    void dismissCleaning();
+    Q_INVOKABLE void dismissCleaning();
     /// Takes entries out of the results and the selection.
     void removeFromFindings(const std::set<std::string>& paths);
 

@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import Orlen.App
+
+/// The main window: onboarding, or the sidebar with the selected screen; sheets and the clean-up overlay over it.
+T.ApplicationWindow {
+    id: root
+
+    readonly property alias navigation: theNavigation
+    readonly property alias storage: theStorage
+
+    width: 1100
+    height: 720
+    minimumWidth: 800
+    minimumHeight: 600
+    visible: true
+    title: Strings.appName
+    color: Theme.window
+
+    Navigation {
+        id: theNavigation
+
+        app: AppModel
+    }
+
+    StorageModel {
+        id: theStorage
+
+        app: AppModel
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: !root.navigation.onboarded
+        sourceComponent: Onboarding {
+            onFinished: root.navigation.finishOnboarding()
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: root.navigation.onboarded
+        sourceComponent: MainView {
+            navigation: root.navigation
+            storage: root.storage
+        }
+    }
+
+    MainShortcuts {
+        enabled: root.navigation.onboarded
+        navigation: root.navigation
+        onHelpRequested: shortcuts.open()
+    }
+
+    FindingSheet {
+        navigation: root.navigation
+    }
+
+    ReviewSheet {
+        navigation: root.navigation
+    }
+
+    CleaningOverlay {
+        navigation: root.navigation
+    }
+
+    ShortcutsSheet {
+        id: shortcuts
+    }
+}

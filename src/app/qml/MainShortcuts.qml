@@ -1,0 +1,45 @@
+import QtQuick
+import Orlen.App
+
+/// The keys that work everywhere in the main window.
+Item {
+    id: root
+
+    required property Navigation navigation
+    signal helpRequested
+
+    Repeater {
+        model: ScreenListModel {}
+
+        Item {
+            id: entry
+
+            required property int screen
+
+            Shortcut {
+                enabled: root.enabled
+                sequence: "Ctrl+" + (entry.screen + 1)
+                onActivated: root.navigation.screen = entry.screen
+            }
+        }
+    }
+
+    Shortcut {
+        enabled: root.enabled
+        sequences: ["Ctrl+R", "F5"]
+        onActivated: {
+            root.navigation.screen = Navigation.Home;
+            AppModel.startScan();
+        }
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+?", "F1"]
+        onActivated: root.helpRequested()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Quit, "Ctrl+W"]
+        onActivated: Qt.quit()
+    }
+}

@@ -1,0 +1,83 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// A push button. One of a view is the primary one.
+T.Button {
+    id: root
+
+    property bool primary: false
+    /// Without a frame until the pointer is over it.
+    property bool quiet: false
+    property bool large: false
+    property string symbol: ""
+
+    readonly property color ink: !root.enabled ? Theme.tertiary
+                                               : root.primary ? Theme.overAccent
+                                                              : root.quiet ? Theme.accent : Theme.text
+    readonly property color fill: {
+        if (root.primary)
+            return !root.enabled ? Theme.track : root.down ? Theme.accentFillPressed
+                                                           : root.hovered ? Theme.accentFillHover : Theme.accentFill;
+        if (root.down || root.hovered)
+            return Theme.hover;
+        return root.quiet ? "transparent" : Theme.inset;
+    }
+
+    implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, 72)
+    implicitHeight: root.large ? Theme.mainControlHeight : Theme.controlHeight
+    leftPadding: root.quiet ? 10 : 16
+    rightPadding: root.quiet ? 10 : 16
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    Accessible.name: root.text
+
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+
+    contentItem: Item {
+        implicitWidth: row.implicitWidth
+        implicitHeight: row.implicitHeight
+
+        Row {
+            id: row
+
+            anchors.centerIn: parent
+            spacing: 8
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.symbol !== ""
+                name: root.symbol
+                colour: root.ink
+                size: 16
+            }
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.text
+                textFormat: Text.PlainText
+                color: root.ink
+                font.pixelSize: Theme.bodySize
+                font.weight: Font.DemiBold
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: root.fill
+        border.width: root.primary || root.quiet ? 0 : 1
+        border.color: Theme.stroke
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Theme.hoverDuration
+            }
+        }
+
+        FocusRing {
+            shown: root.visualFocus
+        }
+    }
+}

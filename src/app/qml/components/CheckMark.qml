@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// A check box; partially checked shows a dash.
+T.CheckBox {
+    id: root
+
+    readonly property bool isMarked: root.checkState !== Qt.Unchecked
+
+    implicitWidth: 18 + leftPadding + rightPadding
+    implicitHeight: 18 + topPadding + bottomPadding
+    padding: 4
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+
+    indicator: Rectangle {
+        x: root.leftPadding
+        y: (root.height - height) / 2
+        width: 18
+        height: 18
+        radius: Theme.chipRadius
+        color: root.isMarked ? Theme.accentFill : Theme.card
+        border.width: root.isMarked ? 0 : 1.5
+        border.color: root.hovered ? Theme.accent : Theme.tertiary
+        opacity: root.enabled ? 1 : 0.45
+
+        Symbol {
+            anchors.centerIn: parent
+            visible: root.isMarked
+            name: root.checkState === Qt.PartiallyChecked ? "minus" : "checkmark"
+            colour: Theme.overAccent
+            size: 12
+        }
+
+        FocusRing {
+            shown: root.visualFocus
+            gap: 2
+            shape: Theme.chipRadius
+        }
+    }
+}

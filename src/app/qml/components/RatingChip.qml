@@ -1,0 +1,46 @@
+import QtQuick
+import Orlen.App
+
+/// The advice about a finding or an entry.
+Rectangle {
+    id: root
+
+    /// Raw value: "safe", "review", "keep".
+    required property string rating
+    required property string label
+    required property string symbol
+
+    readonly property color base: Theme.ratingBase(root.rating)
+
+    implicitWidth: row.implicitWidth + 18
+    implicitHeight: Math.round(22 * Theme.textScale)
+    radius: height / 2
+    color: Qt.rgba(root.base.r, root.base.g, root.base.b, Theme.chipOpacity)
+    visible: root.rating !== ""
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.label
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: 5
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            colour: Theme.ratingText(root.rating)
+            size: 12
+        }
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.label
+            textFormat: Text.PlainText
+            color: Theme.ratingText(root.rating)
+            font.pixelSize: Theme.captionSize
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+    }
+}

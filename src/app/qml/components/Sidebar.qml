@@ -1,0 +1,96 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The list of screens, and the free space below it.
+Rectangle {
+    id: root
+
+    required property int currentScreen
+    required property string freeText
+    required property real usedFraction
+    signal selected(screen: int)
+
+    color: Theme.sidebar
+    Accessible.role: Accessible.List
+    Accessible.name: Strings.screens
+
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        anchors.margins: 12
+        anchors.bottomMargin: footer.height + 24
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        currentIndex: root.currentScreen
+        activeFocusOnTab: true
+        keyNavigationEnabled: false
+        spacing: 2
+        model: ScreenListModel {}
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        Keys.onUpPressed: root.selected(Math.max(0, root.currentScreen - 1))
+        Keys.onDownPressed: root.selected(Math.min(list.count - 1, root.currentScreen + 1))
+
+        section.property: "section"
+        section.delegate: Text {
+            required property string section
+
+            height: Math.round(34 * Theme.textScale)
+            leftPadding: 10
+            bottomPadding: 6
+            verticalAlignment: Text.AlignBottom
+            text: section
+            textFormat: Text.PlainText
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+            font.weight: Font.DemiBold
+        }
+
+        delegate: SidebarRow {
+            width: ListView.view.width
+            isCurrent: root.currentScreen === screen
+            focusPolicy: Qt.NoFocus
+            onClicked: root.selected(screen)
+
+            FocusRing {
+                shown: parent.isCurrent && list.activeFocus
+                gap: 1
+            }
+        }
+    }
+
+    Column {
+        id: footer
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 22
+        spacing: 8
+
+        Text {
+            width: parent.width
+            text: Strings.free.arg(root.freeText)
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: Theme.secondary
+            font.pixelSize: Theme.captionSize
+            font.weight: Font.DemiBold
+        }
+
+        ProgressBar {
+            width: parent.width
+            value: root.usedFraction
+            Accessible.name: Strings.usedSpace
+        }
+    }
+
+    Rectangle {
+        anchors.right: parent.right
+        width: 1
+        height: parent.height
+        color: Theme.stroke
+    }
+}

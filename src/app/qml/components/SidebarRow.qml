@@ -1,0 +1,59 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// One screen in the sidebar.
+T.ItemDelegate {
+    id: root
+
+    required property string title
+    required property string symbol
+    required property color tone
+    required property int screen
+    property bool isCurrent: false
+
+    implicitHeight: Math.round(38 * Theme.textScale)
+    hoverEnabled: true
+    highlighted: root.isCurrent
+    text: root.title
+    Accessible.name: root.title
+    Accessible.selected: root.isCurrent
+
+    contentItem: Item {
+        Badge {
+            id: badge
+
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            tone: root.tone
+            size: 24
+        }
+
+        Text {
+            anchors.left: badge.right
+            anchors.leftMargin: 10
+            anchors.right: parent.right
+            anchors.rightMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.title
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: root.isCurrent ? Theme.text : Theme.secondary
+            font.pixelSize: Theme.bodySize
+            font.weight: root.isCurrent ? Font.DemiBold : Font.Medium
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: root.isCurrent ? (Theme.dark ? Theme.inset : Theme.card) : root.hovered ? Theme.hover : "transparent"
+        border.width: root.isCurrent ? 1 : 0
+        border.color: Theme.stroke
+
+        FocusRing {
+            shown: root.visualFocus
+            gap: 1
+        }
+    }
+}

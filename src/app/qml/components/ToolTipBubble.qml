@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// A line of help beside what the pointer rests on.
+T.ToolTip {
+    id: root
+
+    required property bool shown
+
+    y: parent ? -implicitHeight - 6 : 0
+    x: parent ? (parent.width - implicitWidth) / 2 : 0
+    visible: root.shown
+    delay: 600
+    margins: 6
+    padding: 8
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+
+    contentItem: Text {
+        text: root.text
+        textFormat: Text.PlainText
+        color: Theme.window
+        font.pixelSize: Theme.captionSize
+    }
+
+    background: Rectangle {
+        radius: 6
+        color: Theme.text
+    }
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Orlen.App
+
+/// Disk Map.
+ScreenPage {
+    id: root
+
+    title: "DiskMapScreen"
+    subtitle: Strings.diskMapLead
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Orlen.App
+
+/// History.
+ScreenPage {
+    id: root
+
+    title: "HistoryScreen"
+    subtitle: Strings.historyLead
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Orlen.App
+
+/// Predict.
+ScreenPage {
+    id: root
+
+    title: "PredictScreen"
+    subtitle: Strings.predictLead
+}

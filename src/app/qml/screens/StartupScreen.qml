@@ -1,0 +1,10 @@
+import QtQuick
+import Orlen.App
+
+/// Startup Items.
+ScreenPage {
+    id: root
+
+    title: "StartupScreen"
+    subtitle: Strings.startupLead
+}

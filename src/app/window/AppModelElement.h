@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/AppModel.h"
+
+#include <QtQml/qqml.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace orlen {
+
+/// Makes the application model known to QML as the singleton `AppModel`. The engine never owns it.
+struct AppModelElement {
+    Q_GADGET
+    QML_FOREIGN(orlen::AppModel)
+    QML_NAMED_ELEMENT(AppModel)
+    QML_SINGLETON
+
+public:
+    /// The model that QML is to see; before the first component is loaded, and again before it is destroyed.
+    static void setModel(AppModel* model);
+    static AppModel* create(QQmlEngine* engine, QJSEngine* scripts);
+};
+
+} // namespace orlen

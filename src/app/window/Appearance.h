@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDBusVariant>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+/// How the desktop wants programs to look: dark or light, with or without motion. Follows its changes. Main
+/// thread.
+class Appearance : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(bool dark READ isDark NOTIFY changed)
+    Q_PROPERTY(bool highContrast READ isHighContrast NOTIFY changed)
+    Q_PROPERTY(bool reducedMotion READ isReducedMotion NOTIFY changed)
+    /// Size of the desktop's usual text against the common 10 points, at least 1.
+    Q_PROPERTY(double textScale READ textScale CONSTANT)
+
+public:
+    enum class Scheme { system, light, dark };
+
+    explicit Appearance(QObject* parent = nullptr);
+
+    [[nodiscard]] bool isDark() const;
+    [[nodiscard]] bool isHighContrast() const { return m_isHighContrast; }
+    [[nodiscard]] bool isReducedMotion() const;
+    [[nodiscard]] double textScale() const;
+
+    /// For pictures and tests: what all that are made afterwards show, whatever the desktop says.
+    static void setScheme(Scheme scheme);
+    static void setReducedMotion(bool isReduced);
+    static void setTextScale(double scale);
+
+Q_SIGNALS:
+    void changed();
+
+private Q_SLOTS:
+    void applySetting(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    void ask(const QString& group, const QString& key);
+
+    int m_colourScheme = 0; ///< as the portal counts: 0 no preference, 1 dark, 2 light
+    bool m_isHighContrast = false;
+    bool m_areAnimationsOff = false;
+};
+
+} // namespace orlen

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/OrlenCategory.h"
+#include "platform/Time.h"
+
+#include <QColor>
+#include <QString>
+
+#include <cstdint>
+#include <string_view>
+
+/// Values as the screens show them. Pure; any thread.
+namespace orlen::DisplayText {
+
+/// Program texts, which are UTF-8.
+[[nodiscard]] QString text(std::string_view utf8);
+/// A file name or path made readable; never turned back into a path.
+[[nodiscard]] QString path(std::string_view bytes);
+/// The path with the home folder as "~".
+[[nodiscard]] QString shortPath(std::string_view bytes);
+/// The name of the folder that holds the path, as `shortPath`.
+[[nodiscard]] QString folderOf(std::string_view bytes);
+/// The last component.
+[[nodiscard]] QString nameOf(std::string_view bytes);
+[[nodiscard]] QString size(std::int64_t bytes);
+/// A whole number with the separators of the user's language.
+[[nodiscard]] QString number(std::int64_t value);
+/// A day, in the user's language and time zone.
+[[nodiscard]] QString date(TimePoint time);
+/// A day and the time of the day.
+[[nodiscard]] QString dateAndTime(TimePoint time);
+[[nodiscard]] QColor colour(OrlenCategory category);
+
+} // namespace orlen::DisplayText

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/AppModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+/// What the main window shows: onboarding or a screen, a sheet over it, the clean-up overlay. Main thread.
+class Navigation : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Whether this user has finished onboarding; kept in the user's settings.
+    Q_PROPERTY(bool onboarded READ isOnboarded NOTIFY onboardedChanged)
+    Q_PROPERTY(Screen screen READ screen WRITE setScreen NOTIFY screenChanged)
+    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenChanged)
+    Q_PROPERTY(Sheet sheet READ sheet NOTIFY sheetChanged)
+    /// Of the finding sheet: the finding's identity; else empty.
+    Q_PROPERTY(QString findingId READ findingId NOTIFY sheetChanged)
+    /// Whether the overlay of a clean-up stands over everything.
+    Q_PROPERTY(bool cleaning READ isCleaning NOTIFY cleaningChanged)
+
+public:
+    /// As `orlen::Screen`.
+    enum Screen { Home, Photos, Ask, Predict, DiskMap, Apps, Startup, History, Safety };
+    Q_ENUM(Screen)
+    enum Sheet { NoSheet, FindingSheet, PlanSheet };
+    Q_ENUM(Sheet)
+
+    using QObject::QObject;
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] static bool isOnboarded();
+    [[nodiscard]] Screen screen() const { return m_screen; }
+    void setScreen(Screen screen);
+    [[nodiscard]] QString screenTitle() const;
+    [[nodiscard]] Sheet sheet() const;
+    [[nodiscard]] QString findingId() const;
+    [[nodiscard]] bool isCleaning() const;
+
+    Q_INVOKABLE void finishOnboarding();
+    /// Opens the detail of the finding with this identity, if there is one.
+    Q_INVOKABLE void showFinding(const QString& id);
+    Q_INVOKABLE void closeSheet();
+
+Q_SIGNALS:
+    void appChanged();
+    void onboardedChanged();
+    void screenChanged();
+    void sheetChanged();
+    void cleaningChanged();
+
+private:
+    void followRequest();
+
+    AppModel* m_app = nullptr;
+    Screen m_screen = Home;
+};
+
+} // namespace orlen
