@@ -44,11 +44,16 @@ void prepare()
     QGuiApplication::setFont(font);
 }
 
-QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
+void prepareEngine(QQmlEngine& engine, AppModel& model)
 {
     AppModelElement::setModel(&model);
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);
+}
+
+QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
+{
+    prepareEngine(engine, model);
     engine.load(QUrl(QStringLiteral("qrc:/Orlen/App/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr
                                           : qobject_cast<QQuickWindow*>(engine.rootObjects().first());

@@ -1,6 +1,7 @@
 #pragma once
 
 class QQmlApplicationEngine;
+class QQmlEngine;
 class QQuickWindow;
 
 namespace orlen {
@@ -19,6 +20,9 @@ namespace orlen::Window {
 
 /// Names the program to the desktop and sets its font. With the application object made, before `load`.
 void prepare();
+
+/// Gives the engine what the window's QML needs. The model must outlive the engine's objects.
+void prepareEngine(QQmlEngine& engine, AppModel& model);
 
 /// Loads the window over the model, which must outlive the engine's objects. Null when the QML cannot be
 /// loaded.

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "support/TempHome.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace orlen {
+
+/// What a journey through the window stands on: a home folder with known content, the real model over it, and a
+/// look at the files. QML sees it as `stage`.
+class Stage : public QObject {
+    Q_OBJECT
+
+public:
+    /// A new user's home folder, and a model over it.
+    void prepare(QQmlEngine& engine);
+
+    Q_INVOKABLE [[nodiscard]] bool exists(const QString& name) const;
+    /// Whether the Trash holds a file or folder of this name.
+    Q_INVOKABLE [[nodiscard]] bool isInTrash(const QString& name) const;
+    /// The content of a file below the home folder.
+    Q_INVOKABLE [[nodiscard]] QString content(const QString& name) const;
+
+public Q_SLOTS:
+    void applicationAvailable();
+    void qmlEngineAvailable(QQmlEngine* engine);
+    void cleanupTestCase();
+
+private:
+    void fillHome() const;
+
+    std::optional<TempHome> m_home;
+    std::unique_ptr<AppModel> m_model;
+};
+
+} // namespace orlen
