@@ -73,6 +73,20 @@ Paths baseFolders(const char* name, const Places& places, std::string_view stand
     return folders;
 }
 
+/// The absolute folders of a list between colons; the defaults when it has none.
+Paths folderList(const char* name, Paths standard)
+{
+    Paths folders;
+    const std::string list = variable(name);
+    for (std::size_t start = 0; start < list.size();) {
+        const std::size_t colon = std::min(list.find(':', start), list.size());
+        if (list[start] == '/')
+            appendOnce(folders, PathText::standardized(list.substr(start, colon - start)));
+        start = colon + 1;
+    }
+    return folders.empty() ? standard : folders;
+}
+
 /// "de_AT" of "de_AT.UTF-8@euro"; nothing for the locales that name no language.
 std::optional<std::string> languageTag(std::string locale)
 {
@@ -219,6 +233,8 @@ Places Places::fromEnvironment()
     places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
     places.states = baseFolders("XDG_STATE_HOME", places, ".local/state");
+    places.sharedConfigs = folderList("XDG_CONFIG_DIRS", {"/etc/xdg"});
+    places.sharedData = folderList("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});
     readUserFolders(places);
     places.languages = preferredLanguages();
     places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);

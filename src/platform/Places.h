@@ -22,6 +22,11 @@ struct Places {
     std::vector<std::string> data;
     std::vector<std::string> states;
 
+    /// Folders of settings and data for all users, `$XDG_CONFIG_DIRS` and `$XDG_DATA_DIRS` or their defaults,
+    /// the most important first.
+    std::vector<std::string> sharedConfigs;
+    std::vector<std::string> sharedData;
+
     /// From "user-dirs.dirs": existing folders below the home folder, empty when not set or switched off.
     std::string desktop;
     std::string downloads;
@@ -34,7 +39,8 @@ struct Places {
 
     std::string applications = "/Applications";
     std::string library = "/Library";
-    std::string volume = "/"; ///< the start-up volume
+    std::string volume = "/";                 ///< the start-up volume
+    std::string launchctl = "/bin/launchctl"; ///< tool that switches launch agents
     std::string mountTable = "/proc/self/mountinfo";
     std::vector<std::string> dictionaries = {"/usr/share/hunspell", "/usr/share/myspell"};
     /// Shared application and program folders outside the home folder that the storage breakdown measures.
