@@ -6,7 +6,7 @@ find_package(nlohmann_json REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(Qt6 REQUIRED COMPONENTS Core DBus Gui Qml Quick QuickControls2 Svg)
 find_package(pugixml REQUIRED)
-pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
 pkg_check_modules(HUNSPELL REQUIRED IMPORTED_TARGET hunspell)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 

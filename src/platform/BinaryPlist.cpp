@@ -60,6 +60,16 @@ struct Object {
     std::uint64_t count = 0; ///< how many there are
 };
 
+/// The library ends the program when a key turns out to end early.
+bool holdsZeroCharacter(std::string_view text, std::size_t width)
+{
+    for (std::size_t at = 0; at + width <= text.size(); at += width) {
+        if (text.substr(at, width).find_first_not_of('\0') == std::string_view::npos)
+            return true;
+    }
+    return false;
+}
+
 /// Nothing when the object is broken.
 std::optional<Object> objectAt(std::string_view bytes, std::uint64_t offset)
 {
@@ -83,8 +93,13 @@ std::optional<Object> objectAt(std::string_view bytes, std::uint64_t offset)
         object.count = *count;
     }
     constexpr std::uint64_t kDictionary = 0xD;
+    constexpr std::uint64_t kText = 0x5;
     constexpr std::uint64_t kWideText = 0x6;
     object.count *= type == kDictionary || type == kWideText ? 2 : 1;
+    if ((type == kText || type == kWideText) &&
+        (object.at > bytes.size() ||
+         holdsZeroCharacter(bytes.substr(object.at, object.count), type == kText ? 1 : 2)))
+        return std::nullopt;
     return object;
 }
 
@@ -93,14 +108,16 @@ std::optional<std::vector<Object>> objectsOf(std::string_view bytes, const Trail
     std::vector<Object> objects;
     objects.reserve(trailer.objects);
     std::uint64_t references = 0;
+    std::size_t containers = 0;
     for (std::uint64_t i = 0; i < trailer.objects; ++i) {
         const auto offset = number(bytes, trailer.table + i * trailer.offsetWidth, trailer.offsetWidth);
         const auto object = offset ? objectAt(bytes, *offset) : std::nullopt;
         if (!object)
             return std::nullopt;
         references += object->isContainer ? object->count : 0;
+        containers += object->isContainer ? 1 : 0;
         // Each takes at least a byte of its own, unless containers overlap.
-        if (references > bytes.size())
+        if (references > bytes.size() || containers > kMostContainers)
             return std::nullopt;
         objects.push_back(*object);
     }

@@ -17,12 +17,43 @@ namespace orlen {
 namespace {
 
 constexpr int kReadFlags = O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+constexpr unsigned kPrivate = 0600;
 
-Result<void> writeSyncClose(UniqueFd file, std::string_view bytes)
+Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode)
 {
     if (auto written = writeAll(file.get(), bytes); !written.ok())
         return written;
+    // Not every file system knows modes: where none is asked for, none is set.
+    if (mode != kPrivate && ::fchmod(file.get(), mode) != 0)
+        return Errno{errno};
     return syncFile(file.get());
+}
+
+/// Writes the bytes beside the path and lets `place(beside)` give the file its name.
+template <typename Place>
+Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
+{
+    // Two threads may write the same file: each writes its own.
+    static std::atomic<unsigned> counter{0};
+    const std::string beside = path + ".new-" + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+    // A left-over of a killed process with the same number is the program's own and may go.
+    ::unlink(beside.c_str());
+    auto file = retriedFd([&] {
+        return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kPrivate);
+    });
+    if (!file.ok())
+        return Errno{file.error()};
+    auto written = writeSyncClose(std::move(file).value(), bytes, mode);
+    if (written.ok())
+        written = place(beside);
+    if (!written.ok()) {
+        ::unlink(beside.c_str());
+        return written;
+    }
+    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
+    if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
+        (void)::fsync(parent.value().get());
+    return {};
 }
 
 } // namespace
@@ -104,29 +135,25 @@ void announceSequentialRead(int file)
     ::posix_fadvise(file, 0, 0, POSIX_FADV_SEQUENTIAL);
 }
 
-Result<void> replaceFile(const std::string& path, const std::string& bytes)
+Result<void> replaceFile(const std::string& path, const std::string& bytes, unsigned mode)
 {
-    const std::string folder(PathText::parent(path));
-    // Two threads may replace the same file: each writes its own.
-    static std::atomic<unsigned> counter{0};
-    const std::string beside = path + ".new-" + std::to_string(::getpid()) + "-" + std::to_string(++counter);
-    // A left-over of a killed process with the same number is the program's own and may go.
-    ::unlink(beside.c_str());
-    auto file = retriedFd(
-        [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600); });
-    if (!file.ok())
-        return Errno{file.error()};
-    auto written = writeSyncClose(std::move(file).value(), bytes);
-    if (written.ok() && ::rename(beside.c_str(), path.c_str()) != 0)
-        written = Errno{errno};
-    if (!written.ok()) {
-        ::unlink(beside.c_str());
-        return written;
-    }
-    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
-    if (const auto parent = openFolder(folder); parent.ok())
-        (void)::fsync(parent.value().get());
-    return {};
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) -> Result<void> {
+        if (::rename(beside.c_str(), path.c_str()) != 0)
+            return Errno{errno};
+        return {};
+    });
+}
+
+Result<void> writeNewFile(const std::string& path, const std::string& bytes, unsigned mode)
+{
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+        return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
+    });
+}
+
+Result<void> removeOwnFile(const std::string& path)
+{
+    return removeFileAt(AT_FDCWD, path.c_str());
 }
 
 } // namespace orlen

@@ -30,7 +30,13 @@ namespace orlen {
 void announceSequentialRead(int file);
 
 /// Replaces the program's own file `path` by `bytes`: written beside it, synced, renamed over it, so that a
-/// reader never sees half of it. On failure the old file stays as it was.
-[[nodiscard]] Result<void> replaceFile(const std::string& path, const std::string& bytes);
+/// reader never sees half of it. The new file has `mode`. On failure the old file stays as it was.
+[[nodiscard]] Result<void> replaceFile(const std::string& path, const std::string& bytes,
+                                       unsigned mode = 0600);
+/// The same for a name that nothing has yet. EEXIST when it is taken, by a dangling link too.
+[[nodiscard]] Result<void> writeNewFile(const std::string& path, const std::string& bytes,
+                                        unsigned mode = 0600);
+/// Removes the program's own file, or a link in its place; never a folder. ENOENT when there is none.
+[[nodiscard]] Result<void> removeOwnFile(const std::string& path);
 
 } // namespace orlen

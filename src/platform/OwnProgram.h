@@ -12,7 +12,8 @@ namespace orlen::OwnProgram {
 /// The file of the running executable; empty when the system does not tell.
 [[nodiscard]] std::string executable();
 
-/// What starts it again: the AppImage that it runs from, else the executable. Absolute, or empty when unknown.
+/// What starts it again: the AppImage that it runs from, else the executable. Absolute, or empty when
+/// unknown.
 [[nodiscard]] std::string path();
 
 } // namespace orlen::OwnProgram

@@ -22,8 +22,8 @@ struct Places {
     std::vector<std::string> data;
     std::vector<std::string> states;
 
-    /// Folders of settings and data for all users, `$XDG_CONFIG_DIRS` and `$XDG_DATA_DIRS` or their defaults, the
-    /// most important first.
+    /// Folders of settings and data for all users, `$XDG_CONFIG_DIRS` and `$XDG_DATA_DIRS` or their defaults,
+    /// the most important first.
     std::vector<std::string> sharedConfigs;
     std::vector<std::string> sharedData;
 
@@ -39,7 +39,7 @@ struct Places {
 
     std::string applications = "/Applications";
     std::string library = "/Library";
-    std::string volume = "/"; ///< the start-up volume
+    std::string volume = "/";                 ///< the start-up volume
     std::string launchctl = "/bin/launchctl"; ///< tool that switches launch agents
     std::string mountTable = "/proc/self/mountinfo";
     std::vector<std::string> dictionaries = {"/usr/share/hunspell", "/usr/share/myspell"};

@@ -108,8 +108,8 @@ TEST(CommandLineTest, aWrongCallEndsWithTwoAndMovesNothing)
 TEST(CommandLineTest, everyCommandTellsHelpAndVersion)
 {
     const TempHome home;
-    for (const char* command :
-         {"scan", "clean", "history", "restore", "breakdown", "predict", "ask", "duplicates", "map"}) {
+    for (const char* command : {"scan", "clean", "history", "restore", "breakdown", "predict", "ask",
+                                "duplicates", "map", "apps", "leftovers", "uninstall"}) {
         SCOPED_TRACE(command);
         const Process::Outcome help = orlen({command, "--help"});
         EXPECT_EQ(help.status, 0);

@@ -116,6 +116,26 @@ TEST(FileContentTest, replacedLinkDoesNotTouchItsTarget)
     EXPECT_EQ(TempHome::content(link), "new");
 }
 
+TEST(FileContentTest, aNewFileNeverTakesAName)
+{
+    const TempHome home;
+    const std::string path = home.path("file");
+    EXPECT_TRUE(writeNewFile(path, "first", 0644).ok());
+    EXPECT_EQ(writeNewFile(path, "second").error(), EEXIST);
+    EXPECT_EQ(TempHome::content(path), "first");
+    const std::string link = home.link("link", home.path("missing"));
+    EXPECT_EQ(writeNewFile(link, "second").error(), EEXIST);
+    EXPECT_FALSE(TempHome::exists(home.path("missing")));
+    EXPECT_EQ(statusOf(path).value().mode, 0644U);
+    EXPECT_TRUE(replaceFile(path, "third", 0440).ok());
+    EXPECT_EQ(statusOf(path).value().mode, 0440U);
+
+    EXPECT_TRUE(removeOwnFile(path).ok());
+    EXPECT_EQ(removeOwnFile(path).error(), ENOENT);
+    EXPECT_FALSE(removeOwnFile(home.folder("folder")).ok());
+    EXPECT_THAT(listNames(home.path()), testing::UnorderedElementsAre("folder", "link"));
+}
+
 TEST(FileContentTest, readersNeverSeeHalfAFile)
 {
     const TempHome home;

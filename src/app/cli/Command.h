@@ -46,5 +46,9 @@ std::unique_ptr<Command> makePredictCommand();
 std::unique_ptr<Command> makeAskCommand();
 std::unique_ptr<Command> makeDuplicatesCommand();
 std::unique_ptr<Command> makeMapCommand();
+std::unique_ptr<Command> makeAppsCommand();
+std::unique_ptr<Command> makeLeftoversCommand();
+std::unique_ptr<Command> makeUninstallCommand();
+std::unique_ptr<Command> makeStartupCommand();
 
 } // namespace orlen

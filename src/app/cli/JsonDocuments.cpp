@@ -190,4 +190,38 @@ Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds 
     return {{"path", folder}, {"nodes", std::move(array)}, {"seconds", rounded(duration)}};
 }
 
+Json apps(const std::vector<AppInfo>& apps)
+{
+    Json array = Json::array();
+    for (const AppInfo& app : apps) {
+        Json document = {{"path", app.path}, {"name", app.name}, {"bundleID", app.bundleID}};
+        if (app.size)
+            document["size"] = *app.size;
+        array.push_back(std::move(document));
+    }
+    return array;
+}
+
+Json leftovers(const std::vector<FileEntry>& leftovers)
+{
+    return entries(leftovers);
+}
+
+Json startupItem(const LaunchItem& item)
+{
+    return {{"label", item.label},
+            {"path", item.path},
+            {"program", item.program},
+            {"scope", item.scope},
+            {"enabled", item.enabled}};
+}
+
+Json startup(const std::vector<LaunchItem>& items)
+{
+    Json array = Json::array();
+    for (const LaunchItem& item : items)
+        array.push_back(startupItem(item));
+    return array;
+}
+
 } // namespace orlen::JsonDocuments

@@ -8,6 +8,8 @@
 #include "scan/Duplicates.h"
 #include "scan/StorageBreakdown.h"
 #include "tools/TreeNode.h"
+#include "tools/apps/AppInfo.h"
+#include "tools/startup/LaunchItem.h"
 
 #include <chrono>
 #include <nlohmann/json_fwd.hpp>
@@ -40,6 +42,10 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
 [[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
+[[nodiscard]] Json apps(const std::vector<AppInfo>& apps);
+[[nodiscard]] Json leftovers(const std::vector<FileEntry>& leftovers);
+[[nodiscard]] Json startupItem(const LaunchItem& item);
+[[nodiscard]] Json startup(const std::vector<LaunchItem>& items);
 
 } // namespace JsonDocuments
 } // namespace orlen

@@ -44,6 +44,34 @@ inline constexpr std::string_view kNoDuplicates = "No duplicate files were found
 inline constexpr std::string_view kMeasuringFolder = "Measuring ";
 inline constexpr std::string_view kNoReadableFolder = " is not a folder that can be read.";
 inline constexpr std::string_view kNoTextInDocument = " is not UTF-8, so no document can hold it.";
+inline constexpr std::string_view kNoApps = "No applications found.";
+inline constexpr std::string_view kLookingForApps = "Looking for applications";
+inline constexpr std::string_view kMeasuringApps = "Measuring applications";
+inline constexpr std::string_view kLookingForLeftovers = "Looking for leftovers";
+inline constexpr std::string_view kLeftoversBy = "Leftovers found by bundle identifier (";
+inline constexpr std::string_view kLeftoversByName = "Leftovers found by name (";
+inline constexpr std::string_view kNoLeftovers = "No leftovers found.";
+inline constexpr std::string_view kNobodysLeftovers = "leftovers are found by --id, --name or both.";
+inline constexpr std::string_view kAppleApp = "This is an Apple app. Make sure you really want to remove it.";
+inline constexpr std::string_view kOtherCopy = "Another copy is installed";
+inline constexpr std::string_view kNoApp = "there is no installed application ";
+inline constexpr std::string_view kSeveralApps = " names several applications; name one by its path:";
+inline constexpr std::string_view kStartupItems =
+    "What starts when you log in. Disabling takes effect now and stays off at the next login.";
+inline constexpr std::string_view kNoStartupItems = "No launch agents found.";
+inline constexpr std::string_view kAskingServices = "Asking what starts at login";
+inline constexpr std::string_view kHowToSwitch =
+    "`orlen startup disable ITEM` and `orlen startup enable ITEM` switch an item.";
+inline constexpr std::string_view kPartOfDesktop = "Part of your desktop";
+inline constexpr std::string_view kNoStartupItem = "there is no startup item ";
+inline constexpr std::string_view kSeveralStartupItems =
+    " names several startup items; name one by its path:";
+inline constexpr std::string_view kSwitchedOn = " is on: it starts at the next login.";
+inline constexpr std::string_view kSwitchedOff = " is off now and stays off at the next login.";
+inline constexpr std::string_view kNotSwitchedOn = " could not be switched on.";
+inline constexpr std::string_view kNotSwitchedOff = " could not be switched off.";
+inline constexpr std::string_view kMayBeMissed =
+    " is part of your desktop; switch it on again if something is missing.";
 
 /// "1 item", "12,345 items".
 [[nodiscard]] std::string counted(std::int64_t count, std::string_view noun);

@@ -1,0 +1,270 @@
+#include "platform/ChildProcess.h"
+
+#include "platform/PathText.h"
+#include "platform/Retrying.h"
+#include "platform/UniqueFd.h"
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+
+namespace orlen::ChildProcess {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr const char* kNothing = "/dev/null";
+constexpr const char* kUsualPath = "/usr/local/bin:/usr/bin:/bin";
+
+enum class Belonging { ownGroup, ownSession };
+
+/// What a new process starts with: none of this one's descriptors, signal settings and group. The system's
+/// own call is used because a copy of a process with threads may do next to nothing before it becomes
+/// another.
+class Start {
+public:
+    /// Standard output goes to the descriptor; -1 drops it.
+    Start(Belonging belonging, int output)
+    {
+        ::posix_spawn_file_actions_init(&m_files);
+        ::posix_spawnattr_init(&m_attributes);
+        // First of all: the descriptor may have one of the numbers that are opened next.
+        if (output >= 0)
+            note(::posix_spawn_file_actions_adddup2(&m_files, output, STDOUT_FILENO));
+        else
+            note(::posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, kNothing, O_WRONLY, 0));
+        note(::posix_spawn_file_actions_addopen(&m_files, STDIN_FILENO, kNothing, O_RDONLY, 0));
+        note(::posix_spawn_file_actions_addopen(&m_files, STDERR_FILENO, kNothing, O_WRONLY, 0));
+        note(::posix_spawn_file_actions_addclosefrom_np(&m_files, STDERR_FILENO + 1));
+        sigset_t signals;
+        ::sigemptyset(&signals);
+        note(::posix_spawnattr_setsigmask(&m_attributes, &signals));
+        ::sigfillset(&signals);
+        note(::posix_spawnattr_setsigdefault(&m_attributes, &signals));
+        note(::posix_spawnattr_setpgroup(&m_attributes, 0));
+        const int group = belonging == Belonging::ownGroup ? POSIX_SPAWN_SETPGROUP : POSIX_SPAWN_SETSID;
+        note(::posix_spawnattr_setflags(
+            &m_attributes, static_cast<short>(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | group)));
+    }
+    ~Start()
+    {
+        ::posix_spawnattr_destroy(&m_attributes);
+        ::posix_spawn_file_actions_destroy(&m_files);
+    }
+    Start(const Start&) = delete;
+    Start& operator=(const Start&) = delete;
+
+    /// The number of the new process.
+    [[nodiscard]] std::optional<pid_t> operator()(const std::string& program, char* const* arguments,
+                                                  char* const* environment) const
+    {
+        pid_t child = -1;
+        if (m_error != 0 ||
+            ::posix_spawn(&child, program.c_str(), &m_files, &m_attributes, arguments, environment) != 0)
+            return std::nullopt;
+        return child;
+    }
+
+private:
+    void note(int error) { m_error = m_error == 0 ? error : m_error; }
+
+    posix_spawn_file_actions_t m_files{};
+    posix_spawnattr_t m_attributes{};
+    int m_error = 0;
+};
+
+bool hasZeroByte(const std::vector<std::string>& texts)
+{
+    return std::any_of(texts.begin(), texts.end(),
+                       [](const std::string& text) { return text.find('\0') != std::string::npos; });
+}
+
+/// Ends in a null pointer, as the system wants it.
+std::vector<char*> pointers(const std::vector<std::string>& texts)
+{
+    std::vector<char*> list;
+    list.reserve(texts.size() + 1);
+    for (const std::string& text : texts)
+        list.push_back(const_cast<char*>(text.c_str())); // The system only reads them.
+    list.push_back(nullptr);
+    return list;
+}
+
+/// This process's variables but for those that are given.
+std::vector<std::string> environmentWith(const std::vector<std::string>& given)
+{
+    std::vector<std::string> variables = given;
+    for (char** variable = ::environ; variable != nullptr && *variable != nullptr; ++variable) {
+        const std::string_view text(*variable);
+        const std::string_view start = text.substr(0, std::min(text.find('='), text.size() - 1) + 1);
+        if (std::none_of(given.begin(), given.end(),
+                         [&](const std::string& other) { return other.starts_with(start); }))
+            variables.emplace_back(text);
+    }
+    return variables;
+}
+
+std::optional<pid_t> start(const Call& call, Belonging belonging, int output)
+{
+    if (call.arguments.empty() || hasZeroByte(call.arguments) || hasZeroByte(call.environment))
+        return std::nullopt;
+    const std::string program = programPath(call.arguments.front());
+    if (program.empty())
+        return std::nullopt;
+    const std::vector<std::string> environment = environmentWith(call.environment);
+    return Start(belonging, output)(program, pointers(call.arguments).data(), pointers(environment).data());
+}
+
+/// The wait status; nothing when this process was told to leave its children alone and so never hears of it.
+std::optional<int> reaped(pid_t child)
+{
+    int status = 0;
+    const pid_t ended = retried([&] { return ::waitpid(child, &status, 0); });
+    return ended == child ? std::optional(status) : std::nullopt;
+}
+
+/// A descriptor that is readable when the program has ended.
+UniqueFd endOf(pid_t child)
+{
+    // Debian 12's header of the C library's own wrapper is not fit for C++.
+    return UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
+}
+
+/// A started program, from which output is taken until it has ended.
+class Running {
+public:
+    Running(pid_t child, UniqueFd output) : m_child(child), m_end(endOf(child)), m_output(std::move(output))
+    {
+    }
+
+    /// The exit status and all output. After a failure the program has been killed.
+    std::optional<Outcome> finish(Clock::time_point deadline)
+    {
+        const bool hasEnded = m_end.isOpen() && collect(deadline);
+        if (!hasEnded)
+            ::kill(-m_child, SIGKILL); // Not waited for yet, so the number is still its own.
+        const std::optional<int> status = reaped(m_child);
+        if (!hasEnded || !status || !WIFEXITED(*status) || !PathText::isValidUtf8(m_text))
+            return std::nullopt;
+        return Outcome{WEXITSTATUS(*status), std::move(m_text)};
+    }
+
+private:
+    /// False when a limit was reached first.
+    bool collect(Clock::time_point deadline)
+    {
+        while (true) {
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+            if (left.count() <= 0)
+                return false;
+            constexpr std::chrono::milliseconds::rep kLongest = 60'000;
+            std::array<pollfd, 2> waiting{{{m_end.get(), POLLIN, 0}, {m_output.get(), POLLIN, 0}}};
+            const int ready = retried([&] {
+                return ::poll(waiting.data(), waiting.size(),
+                              static_cast<int>(std::min(left.count(), kLongest)));
+            });
+            // The end is looked at before the last reading, which then sees everything.
+            const bool hasEnded = waiting[0].revents != 0;
+            if (ready < 0 || !readWhatIsThere())
+                return false;
+            if (hasEnded)
+                return true;
+        }
+    }
+
+    /// False when the output is too long.
+    bool readWhatIsThere()
+    {
+        std::array<char, 64UL * 1024> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
+        while (m_output.isOpen()) {
+            const auto got = retried([&] { return ::read(m_output.get(), buffer.data(), buffer.size()); });
+            if (got < 0 && errno == EAGAIN)
+                return true;
+            if (got <= 0)
+                m_output.reset();
+            else
+                m_text.append(buffer.data(), static_cast<std::size_t>(got));
+            if (m_text.size() > kOutputLimit)
+                return false;
+        }
+        return true;
+    }
+
+    pid_t m_child;
+    UniqueFd m_end;
+    UniqueFd m_output;
+    std::string m_text;
+};
+
+bool isExecutableFile(const std::string& path)
+{
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           ::faccessat(AT_FDCWD, path.c_str(), X_OK, AT_EACCESS) == 0;
+}
+
+} // namespace
+
+std::optional<Outcome> run(const Call& call)
+{
+    std::array<int, 2> ends{};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+        return std::nullopt;
+    UniqueFd reading(ends[0]);
+    UniqueFd writing(ends[1]);
+    // This end alone: the program may not expect such an output.
+    if (::fcntl(reading.get(), F_SETFL, O_NONBLOCK) != 0)
+        return std::nullopt;
+    const Clock::time_point deadline = Clock::now() + call.limit;
+    const std::optional<pid_t> child = start(call, Belonging::ownGroup, writing.get());
+    writing.reset();
+    return child ? Running(*child, std::move(reading)).finish(deadline) : std::nullopt;
+}
+
+bool startDetached(const std::vector<std::string>& arguments)
+{
+    const std::optional<pid_t> child = start({arguments, {}}, Belonging::ownSession, -1);
+    if (!child)
+        return false;
+    try {
+        // The program may outlive this one; until then somebody has to take note of its end.
+        std::thread([child] { (void)reaped(*child); }).detach();
+    } catch (const std::system_error&) {
+        return true; // It runs all the same; its entry stays until this process ends.
+    }
+    return true;
+}
+
+std::string programPath(const std::string& name)
+{
+    if (name.find('/') != std::string::npos)
+        return isExecutableFile(name) ? name : std::string();
+    const char* variable = std::getenv("PATH");
+    std::string_view path = variable == nullptr ? kUsualPath : variable;
+    while (!name.empty() && !path.empty()) {
+        const std::size_t colon = std::min(path.find(':'), path.size());
+        const std::string_view folder = path.substr(0, colon);
+        path.remove_prefix(std::min(colon + 1, path.size()));
+        // What lies in the folder that the user happens to stand in was not installed by anybody.
+        if (!folder.starts_with('/'))
+            continue;
+        std::string candidate = PathText::join(folder, name);
+        if (isExecutableFile(candidate))
+            return candidate;
+    }
+    return {};
+}
+
+} // namespace orlen::ChildProcess

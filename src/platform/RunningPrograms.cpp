@@ -1,0 +1,63 @@
+#include "platform/RunningPrograms.h"
+
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <string_view>
+#include <unistd.h>
+
+namespace orlen::RunningPrograms {
+
+namespace {
+
+constexpr const char* kProcesses = "/proc";
+
+/// Empty for processes of the kernel, those of others, and those that have ended meanwhile.
+std::string executableOf(const std::string& process)
+{
+    std::array<char, PATH_MAX> target{};
+    const std::string link = std::string(kProcesses) + '/' + process + "/exe";
+    const auto length = ::readlink(link.c_str(), target.data(), target.size());
+    if (length <= 0 || target.front() != '/')
+        return {};
+    std::string path(target.data(), static_cast<std::size_t>(length));
+    // The kernel's words for a name that is gone; a file may also really be called that.
+    constexpr std::string_view kGone = " (deleted)";
+    if (path.ends_with(kGone) && !exists(path))
+        path.resize(path.size() - kGone.size());
+    return path;
+}
+
+bool isOwnProcess(const std::string& name)
+{
+    if (name.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    const auto status = statusOf(std::string(kProcesses) + '/' + name);
+    return status.ok() && status.value().owner == ::geteuid();
+}
+
+} // namespace
+
+std::vector<std::string> executables()
+{
+    std::vector<std::string> paths;
+    for (const std::string& name : listNames(kProcesses)) {
+        if (!isOwnProcess(name))
+            continue;
+        if (std::string path = executableOf(name); !path.empty())
+            paths.push_back(std::move(path));
+    }
+    std::sort(paths.begin(), paths.end());
+    paths.erase(std::unique(paths.begin(), paths.end()), paths.end());
+    return paths;
+}
+
+std::string ownExecutable()
+{
+    return executableOf("self");
+}
+
+} // namespace orlen::RunningPrograms

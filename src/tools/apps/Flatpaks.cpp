@@ -1,0 +1,135 @@
+#include "tools/apps/Flatpaks.h"
+
+#include "clean/Safety.h"
+#include "platform/FileContent.h"
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/LineText.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/apps/AppNames.h"
+#include "tools/apps/Launcher.h"
+
+#include <algorithm>
+#include <cerrno>
+
+namespace orlen::Flatpaks {
+
+namespace {
+
+struct Installation {
+    std::string folder;
+    bool isOfUser = false;
+};
+
+/// Identifiers become part of a command that users copy to a terminal.
+bool isPlain(std::string_view identifier)
+{
+    return identifier.find_first_not_of(
+               "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789._-") ==
+               std::string_view::npos &&
+           !identifier.starts_with('.') && !identifier.starts_with('-');
+}
+
+/// The folders of the installations that an administrator has set up beside the usual ones.
+std::vector<std::string> furtherFolders(const std::string& settings)
+{
+    constexpr std::size_t kLimit = 64UL * 1024;
+    constexpr std::string_view kPath = "Path=";
+    std::vector<std::string> folders;
+    for (const std::string& name : listNames(settings)) {
+        const auto text = readSmallFile(PathText::join(settings, name), kLimit);
+        for (std::size_t at = 0; text && at < text->size();) {
+            const std::size_t end = std::min(text->find('\n', at), text->size());
+            const std::string_view line = LineText::trimmed(std::string_view(*text).substr(at, end - at));
+            if (line.starts_with(kPath))
+                folders.emplace_back(line.substr(kPath.size()));
+            at = end + 1;
+        }
+    }
+    return folders;
+}
+
+std::vector<Installation> installations()
+{
+    const Places& places = Places::current();
+    std::vector<Installation> all;
+    for (const std::string& data : places.data)
+        all.push_back({data + "/flatpak", true});
+    all.push_back({places.systemRoot + "/var/lib/flatpak"});
+    for (const std::string& folder : furtherFolders(places.systemRoot + "/etc/flatpak/installations.d"))
+        all.push_back({places.systemRoot + folder});
+    return all;
+}
+
+std::vector<std::string> sortedFolders(const std::string& folder)
+{
+    std::vector<std::string> names = listNames(folder);
+    std::erase_if(names, [&](const std::string& name) {
+        return !isPlain(name) || !isRealFolder(PathText::join(folder, name));
+    });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+AppInfo described(const Installation& installation, const std::string& identifier)
+{
+    AppInfo app;
+    app.path = installation.folder + "/app/" + identifier;
+    app.bundleID = identifier;
+    app.source = AppSource::flatpak;
+    app.adviceCommand = std::string("flatpak uninstall --delete-data ") +
+                        (installation.isOfUser ? "--user " : "") + identifier;
+    app.advice = "Installed by Flatpak. Remove it in your software centre or with: " + app.adviceCommand;
+    const std::string entry =
+        app.path + "/current/active/export/share/applications/" + identifier + ".desktop";
+    if (const auto launcher = Launcher::read(entry, Launcher::Links::followed)) {
+        app.name = launcher->name;
+        app.icon = launcher->icon;
+    }
+    if (app.name.empty())
+        app.name = AppNames::lastPart(identifier);
+    return app;
+}
+
+} // namespace
+
+std::vector<AppInfo> installed()
+{
+    std::vector<AppInfo> apps;
+    for (const Installation& installation : installations()) {
+        for (const std::string& identifier : sortedFolders(installation.folder + "/app"))
+            apps.push_back(described(installation, identifier));
+    }
+    return apps;
+}
+
+std::vector<AppInfo> removed()
+{
+    const std::string folder = Places::current().home + "/.var/app";
+    std::vector<AppInfo> apps;
+    for (const std::string& identifier : sortedFolders(folder)) {
+        const std::string path = PathText::join(folder, identifier);
+        if (std::count(identifier.begin(), identifier.end(), '.') < 2 || isInstalled(identifier) ||
+            Safety::isProtected(path))
+            continue;
+        AppInfo app;
+        app.path = path;
+        app.name = AppNames::lastPart(identifier);
+        app.bundleID = identifier;
+        app.source = AppSource::removedFlatpak;
+        apps.push_back(std::move(app));
+    }
+    return apps;
+}
+
+bool isInstalled(const std::string& identifier)
+{
+    const std::vector<Installation> all = installations();
+    return std::any_of(all.begin(), all.end(), [&](const Installation& installation) {
+        const int error = statusOf(installation.folder + "/app/" + identifier).error();
+        return error != ENOENT && error != ENOTDIR;
+    });
+}
+
+} // namespace orlen::Flatpaks

@@ -1,0 +1,87 @@
+#include "tools/apps/LeftoverRules.h"
+
+#include "platform/PathText.h"
+
+#include <algorithm>
+
+namespace orlen::LeftoverRules {
+
+namespace {
+
+bool isExactly(std::string_view entry, std::string_view identifier)
+{
+    return entry == identifier || PathText::stem(entry) == identifier;
+}
+
+bool contains(std::string_view entry, std::string_view identifier)
+{
+    return entry.find(identifier) != std::string_view::npos;
+}
+
+/// A short identifier, or one of few parts, is a part of many names that have nothing to do with it.
+bool isDistinct(std::string_view identifier)
+{
+    constexpr std::size_t kShortest = 10;
+    return identifier.size() >= kShortest && std::count(identifier.begin(), identifier.end(), '.') >= 2;
+}
+
+bool matchesLibrary(std::string_view entry, const Subject& subject)
+{
+    return entry == subject.identifier || entry.starts_with(subject.identifier + '.') ||
+           (!subject.isApple && contains(entry, subject.identifier));
+}
+
+bool matchesSettings(std::string_view entry, const Subject& subject)
+{
+    return isNamedAfter(entry, subject.identifier) ||
+           (!subject.isApple && isDistinct(subject.identifier) && contains(entry, subject.identifier));
+}
+
+bool matchesIdentifier(std::string_view entry, Kind kind, const Subject& subject)
+{
+    if (subject.identifier.empty())
+        return false;
+    switch (kind) {
+    case Kind::library:
+    case Kind::namedLibrary:
+    case Kind::agents:
+        return matchesLibrary(entry, subject);
+    case Kind::settings:
+        return matchesSettings(entry, subject);
+    case Kind::container:
+        return entry == subject.identifier; // what is longer is another application
+    case Kind::metadata:
+        return isNamedAfter(entry, subject.identifier);
+    case Kind::launchers:
+    case Kind::units:
+        return false;
+    }
+    return false;
+}
+
+bool matchesName(std::string_view entry, Kind kind, const Subject& subject)
+{
+    if (kind == Kind::namedLibrary)
+        return !subject.name.empty() && entry == subject.name;
+    return kind == Kind::settings &&
+           std::find(subject.forms.begin(), subject.forms.end(), entry) != subject.forms.end();
+}
+
+} // namespace
+
+Match match(std::string_view entry, Kind kind, const Subject& subject)
+{
+    if (matchesIdentifier(entry, kind, subject))
+        return Match::identifier;
+    return matchesName(entry, kind, subject) ? Match::nameOnly : Match::none;
+}
+
+bool isNamedAfter(std::string_view entry, std::string_view identifier)
+{
+    if (isExactly(entry, identifier))
+        return true;
+    return entry.size() > identifier.size() && entry.starts_with(identifier) &&
+           (entry[identifier.size()] == '.' || entry[identifier.size()] == '-');
+}
+
+} // namespace orlen::LeftoverRules

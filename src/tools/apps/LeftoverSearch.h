@@ -1,0 +1,47 @@
+#pragma once
+
+#include "model/FileEntry.h"
+#include "tools/apps/AppInfo.h"
+#include "tools/apps/LeftoverRoots.h"
+#include "tools/apps/LeftoverRules.h"
+
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+class OtherApps;
+
+/// One search through the folders in which applications leave something. Blocks on the disk.
+class LeftoverSearch {
+public:
+    /// Without an application (null) only what names tell is found. Both must outlive the search.
+    LeftoverSearch(LeftoverRules::Subject subject, const OtherApps& others, const AppInfo* app);
+
+    /// Root by root, by name in each. A path is told once, and nothing that lies inside another one.
+    [[nodiscard]] std::vector<FileEntry> run(const std::stop_token& stop);
+
+private:
+    struct Candidate {
+        std::string path;
+        std::string note;
+    };
+
+    void lookInto(const LeftoverRoot& root);
+    void lookBeside(const std::string& image);
+    [[nodiscard]] LeftoverRules::Match judged(const LeftoverRoot& root, const std::string& name) const;
+    [[nodiscard]] bool isLabelled(const std::string& path) const;
+    [[nodiscard]] bool isLauncher(const std::string& path) const;
+    [[nodiscard]] bool isUnit(const std::string& path) const;
+    [[nodiscard]] bool overlapsApp(const std::string& path) const;
+    [[nodiscard]] bool isOffered(const std::string& path) const;
+    void offer(std::string path, std::string note);
+
+    LeftoverRules::Subject m_subject;
+    const OtherApps& m_others;
+    const AppInfo* m_app;
+    std::vector<Candidate> m_found;
+};
+
+} // namespace orlen

@@ -1,0 +1,99 @@
+#include "tools/apps/Leftovers.h"
+
+#include "platform/LanguageTools.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/apps/AppNames.h"
+#include "tools/apps/LeftoverRoots.h"
+#include "tools/apps/LeftoverSearch.h"
+#include "tools/apps/OtherApps.h"
+
+#include <algorithm>
+
+namespace orlen::Leftovers {
+
+namespace {
+
+LeftoverRules::Subject subjectOf(const std::string& bundleID, const std::string& name)
+{
+    LeftoverRules::Subject subject;
+    subject.identifier = LanguageTools::lowerCase(bundleID);
+    subject.isApple = isApple(bundleID);
+    subject.name = LanguageTools::lowerCase(name);
+    subject.forms = AppNames::forms(name);
+    return subject;
+}
+
+/// Takes out the spellings of the name that may be something else's.
+void keepOwnForms(LeftoverRules::Subject& subject, const OtherApps& others, std::vector<std::string> words)
+{
+    words.insert(words.end(), subject.forms.begin(), subject.forms.end());
+    if (!subject.identifier.empty())
+        words.push_back(subject.identifier);
+    const auto& forms = subject.forms;
+    const bool isShared = others.hasAnyOf(words) ||
+                          std::any_of(forms.begin(), forms.end(),
+                                      [&](const std::string& form) { return others.hasProgram(form); });
+    if (isShared)
+        subject.forms.clear();
+    std::erase_if(subject.forms, AppNames::isAmbiguous);
+}
+
+bool isSameApp(const AppInfo& a, const AppInfo& b)
+{
+    const auto equal = [](const std::string& x, const std::string& y) {
+        return !x.empty() && LanguageTools::lowerCase(x) == LanguageTools::lowerCase(y);
+    };
+    return equal(a.bundleID, b.bundleID) || equal(a.name, b.name);
+}
+
+} // namespace
+
+bool isApple(std::string_view bundleID)
+{
+    return bundleID.starts_with("com.apple.");
+}
+
+std::string_view label(std::string_view path)
+{
+    for (const LeftoverRoot& root : LeftoverRoots::all()) {
+        if (root.folder == PathText::parent(path))
+            return root.label;
+    }
+    for (const std::string_view suffix : LeftoverRoots::kPortableSuffixes) {
+        if (path.ends_with(suffix))
+            return LeftoverRoots::kPortableLabel;
+    }
+    return {};
+}
+
+std::vector<FileEntry> find(const std::string& bundleID, const std::string& name, const std::stop_token& stop)
+{
+    if (!Places::current().isHomeUsable)
+        return {};
+    const OtherApps others = OtherApps::besideAny(stop);
+    LeftoverRules::Subject subject = subjectOf(bundleID, name);
+    keepOwnForms(subject, others, {});
+    return LeftoverSearch(std::move(subject), others, nullptr).run(stop);
+}
+
+Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
+{
+    Finding finding;
+    // What a manager has installed it also cleans up, and the data of a removed Flatpak is the whole of it.
+    if (!Places::current().isHomeUsable || !app.isRemovable() || app.source == AppSource::removedFlatpak)
+        return finding;
+    finding.isOtherCopyInstalled = std::any_of(listed.begin(), listed.end(), [&](const AppInfo& other) {
+        return other.path != app.path && other.source != AppSource::removedFlatpak && isSameApp(app, other);
+    });
+    if (finding.isOtherCopyInstalled)
+        return finding;
+    const OtherApps others = OtherApps::beside(app, listed, stop);
+    LeftoverRules::Subject subject = subjectOf(app.bundleID, app.name);
+    const std::string file = LanguageTools::lowerCase(PathText::lastComponent(app.path));
+    keepOwnForms(subject, others, {file});
+    finding.entries = LeftoverSearch(std::move(subject), others, &app).run(stop);
+    return finding;
+}
+
+} // namespace orlen::Leftovers

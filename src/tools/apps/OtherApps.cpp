@@ -1,0 +1,127 @@
+#include "tools/apps/OtherApps.h"
+
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/LanguageTools.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/apps/AppNames.h"
+#include "tools/apps/Launchers.h"
+#include "tools/apps/LeftoverRules.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+/// Every AppImage has one of that name inside.
+constexpr std::string_view kCommonProgram = "AppRun";
+
+bool hasExistingProgram(const Launcher& launcher)
+{
+    return std::any_of(launcher.programs.begin(), launcher.programs.end(), [](const std::string& program) {
+        return program.starts_with('/') && exists(program);
+    });
+}
+
+} // namespace
+
+OtherApps OtherApps::besideAny(const std::stop_token& stop)
+{
+    OtherApps others;
+    for (const Launcher& launcher : Launchers::ofSystem(stop))
+        others.add(launcher);
+    return others;
+}
+
+OtherApps OtherApps::beside(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
+{
+    OtherApps others;
+    others.m_app = app.path;
+    for (const Launcher& launcher : Launchers::ofSystem(stop)) {
+        if (!launcher.starts(app.path))
+            others.add(launcher);
+    }
+    // Launchers of an older copy often stay behind: those of what is gone count for nothing.
+    for (const Launcher& launcher : Launchers::ofUser()) {
+        if (!launcher.starts(app.path) && hasExistingProgram(launcher))
+            others.add(launcher);
+    }
+    for (const AppInfo& other : listed) {
+        if (other.path != app.path && other.source != AppSource::removedFlatpak)
+            others.add(other);
+    }
+    return others;
+}
+
+bool OtherApps::hasAnyOf(const std::vector<std::string>& words) const
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](const std::string& word) { return m_words.contains(word); });
+}
+
+bool OtherApps::hasProgram(const std::string& name) const
+{
+    const Places& places = Places::current();
+    for (const std::string& folder : {places.systemRoot + "/usr/local/bin", places.systemRoot + "/usr/bin",
+                                      places.systemRoot + "/usr/games", places.systemRoot + "/snap/bin",
+                                      places.home + "/.local/bin", places.home + "/bin"}) {
+        const std::string target = places.normalized(resolved(PathText::join(folder, name)));
+        if (target.starts_with('/') && (m_app.empty() || !PathText::isAtOrBelow(target, m_app)))
+            return true;
+    }
+    return false;
+}
+
+bool OtherApps::claims(std::string_view entry, std::string_view identifier) const
+{
+    return std::any_of(m_identifiers.begin(), m_identifiers.end(), [&](const std::string& other) {
+        return other.size() > identifier.size() && LeftoverRules::isNamedAfter(entry, other);
+    });
+}
+
+bool OtherApps::lieIn(std::string_view path) const
+{
+    return std::any_of(m_paths.begin(), m_paths.end(),
+                       [&](const std::string& app) { return PathText::isAtOrBelow(app, path); });
+}
+
+void OtherApps::add(const Launcher& launcher)
+{
+    addWords(launcher.name);
+    addWords(launcher.plainName);
+    addWords(launcher.windowClass);
+    addWords(launcher.stem);
+    addIdentifier(launcher.identifier);
+    for (const std::string& program : launcher.programs) {
+        const std::string_view name = PathText::lastComponent(program);
+        if (name != kCommonProgram)
+            addWords(name);
+    }
+}
+
+void OtherApps::add(const AppInfo& app)
+{
+    addWords(app.name);
+    addWords(PathText::lastComponent(app.path));
+    addIdentifier(app.bundleID);
+    m_paths.push_back(app.path);
+}
+
+void OtherApps::addWords(std::string_view name)
+{
+    for (std::string& form : AppNames::forms(name))
+        m_words.insert(std::move(form));
+}
+
+void OtherApps::addIdentifier(std::string_view identifier)
+{
+    if (!AppNames::isIdentifier(identifier))
+        return;
+    m_identifiers.insert(LanguageTools::lowerCase(identifier));
+    addWords(identifier);
+    addWords(AppNames::lastPart(identifier));
+}
+
+} // namespace orlen

@@ -1,0 +1,86 @@
+#include "tools/apps/Snaps.h"
+
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/apps/Launcher.h"
+
+#include <algorithm>
+#include <map>
+
+namespace orlen::Snaps {
+
+namespace {
+
+/// Names become part of a command that users copy to a terminal.
+bool isPlain(std::string_view name)
+{
+    return !name.empty() && name.front() != '-' &&
+           name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-") == std::string_view::npos;
+}
+
+/// The launchers of each snap: they are named "snap_application.desktop".
+std::map<std::string, std::vector<std::string>> launchersBySnap(const std::string& folder)
+{
+    std::map<std::string, std::vector<std::string>> snaps;
+    for (const std::string& file : listNames(folder)) {
+        const std::string snap = file.substr(0, file.find('_'));
+        if (file.ends_with(".desktop") && file.size() > snap.size() && isPlain(snap) &&
+            PathText::isValidUtf8(file))
+            snaps[snap].push_back(file);
+    }
+    return snaps;
+}
+
+/// The newest image of the snap, which is what takes its space; empty when there is none.
+std::string imageOf(const std::string& snap, const std::string& folder)
+{
+    std::string newest;
+    TimePoint newestTime = TimePoint::min();
+    for (const std::string& name : listNames(folder)) {
+        if (!name.starts_with(snap + '_') || !name.ends_with(".snap") || !PathText::isValidUtf8(name))
+            continue;
+        const std::string path = PathText::join(folder, name);
+        const auto status = statusOf(path);
+        if (status.ok() && status.value().modified >= newestTime) {
+            newest = path;
+            newestTime = status.value().modified;
+        }
+    }
+    return newest;
+}
+
+} // namespace
+
+std::vector<AppInfo> installed()
+{
+    const std::string root = Places::current().systemRoot + "/var/lib/snapd";
+    const std::string folder = root + "/desktop/applications";
+    std::vector<AppInfo> apps;
+    for (auto& [snap, files] : launchersBySnap(folder)) {
+        // Of several the one named like the snap itself is the main one.
+        const std::string main = std::string(snap).append("_").append(snap).append(".desktop");
+        const bool hasMain = std::find(files.begin(), files.end(), main) != files.end();
+        const std::string file =
+            PathText::join(folder, hasMain ? main : *std::min_element(files.begin(), files.end()));
+        AppInfo app;
+        app.path = imageOf(snap, root + "/snaps");
+        if (app.path.empty())
+            app.path = file;
+        app.bundleID = snap;
+        app.source = AppSource::snap;
+        app.adviceCommand = "snap remove " + snap;
+        app.advice = "Installed by Snap. Remove it in your software centre or with: " + app.adviceCommand;
+        if (const auto launcher = Launcher::read(file, Launcher::Links::followed)) {
+            app.name = launcher->name;
+            app.icon = launcher->icon;
+        }
+        if (app.name.empty())
+            app.name = snap;
+        apps.push_back(std::move(app));
+    }
+    return apps;
+}
+
+} // namespace orlen::Snaps

@@ -1,0 +1,19 @@
+#include "tools/apps/Uninstall.h"
+
+namespace orlen::Uninstall {
+
+CleanPlan plan(const AppInfo& app, std::span<const FileEntry> leftovers)
+{
+    FileEntry entry;
+    entry.path = app.path;
+    entry.size = app.size.value_or(0);
+    CleanPlan plan;
+    plan.title = "Uninstall " + app.name;
+    const char* title = app.source == AppSource::removedFlatpak ? "App data" : "Application";
+    plan.sections.push_back({"app", title, "app.fill", {std::move(entry)}});
+    if (!leftovers.empty())
+        plan.sections.push_back({"left", "Leftovers", "folder.fill", {leftovers.begin(), leftovers.end()}});
+    return plan;
+}
+
+} // namespace orlen::Uninstall

@@ -1,0 +1,107 @@
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "platform/PropertyList.h"
+#include "tools/startup/Launchctl.h"
+#include "tools/startup/PrintDisabled.h"
+#include "tools/startup/ServiceManager.h"
+#include "tools/startup/StartupTexts.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::string_view kSuffix = ".plist";
+
+/// What the tool calls the logins of the user.
+std::string loginDomain()
+{
+    return "gui/" + std::to_string(Places::current().user);
+}
+
+PrintDisabled::Labels disabledLabels()
+{
+    const auto outcome = Launchctl::call({"print-disabled", loginDomain()});
+    return outcome ? PrintDisabled::labels(outcome->output) : PrintDisabled::Labels();
+}
+
+std::string programOf(const PropertyList& list)
+{
+    if (list.texts.contains("Program"))
+        return list.text("Program");
+    const auto arguments = list.textLists.find("ProgramArguments");
+    const bool isEmpty = arguments == list.textLists.end() || arguments->second.empty();
+    return isEmpty ? std::string() : arguments->second.front();
+}
+
+std::optional<LaunchItem> itemAt(const std::string& path)
+{
+    const auto list = PropertyList::read(path);
+    if (!list)
+        return std::nullopt;
+    LaunchItem item;
+    item.label = list->text("Label");
+    if (item.label.empty()) {
+        const std::string_view name = PathText::lastComponent(path);
+        item.label = name.substr(0, name.size() - kSuffix.size());
+    }
+    item.path = path;
+    item.program = programOf(*list);
+    item.source = LaunchSource::launchAgent;
+    item.name = item.label;
+    return item;
+}
+
+void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std::string_view scope,
+                 const PrintDisabled::Labels& disabled)
+{
+    // Where the user made the folder a link to another, that one is meant.
+    std::vector<std::string> names = listNames(folder + "/.");
+    std::sort(names.begin(), names.end());
+    for (const std::string& name : names) {
+        auto item = name.ends_with(kSuffix) ? itemAt(PathText::join(folder, name)) : std::nullopt;
+        if (!item)
+            continue;
+        item->scope = scope;
+        item->enabled = !disabled.contains(item->label);
+        items.push_back(*std::move(item));
+    }
+}
+
+class LaunchAgents final : public ServiceManager {
+public:
+    [[nodiscard]] std::vector<LaunchItem> items() const override
+    {
+        const Places& places = Places::current();
+        const PrintDisabled::Labels disabled = disabledLabels();
+        std::vector<LaunchItem> items;
+        appendItems(items, places.home + "/Library/LaunchAgents", StartupTexts::kYourAccount, disabled);
+        appendItems(items, places.library + "/LaunchAgents", StartupTexts::kAllUsers, disabled);
+        return items;
+    }
+
+    [[nodiscard]] bool set(const LaunchItem& item, bool enabled) const override
+    {
+        if (item.label.empty())
+            return false;
+        const std::string target = loginDomain() + "/" + item.label;
+        const auto outcome = Launchctl::call({enabled ? "enable" : "disable", target});
+        // Stopping what does not run fails, which is as good.
+        if (!enabled)
+            (void)Launchctl::call({"bootout", target});
+        return outcome && outcome->status == 0;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ServiceManager> makeLaunchAgents()
+{
+    return std::make_unique<LaunchAgents>();
+}
+
+} // namespace orlen

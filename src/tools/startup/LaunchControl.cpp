@@ -1,0 +1,62 @@
+#include "tools/startup/LaunchControl.h"
+
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/startup/Launchctl.h"
+#include "tools/startup/ServiceManager.h"
+#include "tools/startup/StartupTexts.h"
+
+#include <iterator>
+#include <memory>
+#include <utility>
+
+namespace orlen::LaunchControl {
+
+namespace {
+
+std::unique_ptr<ServiceManager> managerOf(LaunchSource source)
+{
+    switch (source) {
+    case LaunchSource::launchAgent:
+        return makeLaunchAgents();
+    case LaunchSource::systemdUnit:
+        return makeSystemdUnits();
+    case LaunchSource::autostartEntry:
+        return makeAutostartEntries();
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::optional<std::string> run(const std::vector<std::string>& arguments)
+{
+    auto outcome = Launchctl::call(arguments);
+    return outcome ? std::optional(std::move(outcome->output)) : std::nullopt;
+}
+
+std::vector<LaunchItem> load()
+{
+    std::vector<LaunchItem> items;
+    std::vector<LaunchItem> ofEverybody;
+    for (const LaunchSource source :
+         {LaunchSource::launchAgent, LaunchSource::systemdUnit, LaunchSource::autostartEntry}) {
+        for (LaunchItem& item : managerOf(source)->items()) {
+            // Neither a screen nor a document could name it.
+            if (!PathText::isValidUtf8(item.path))
+                continue;
+            const bool isOwn = item.scope == StartupTexts::kYourAccount;
+            (isOwn ? items : ofEverybody).push_back(std::move(item));
+        }
+    }
+    std::move(ofEverybody.begin(), ofEverybody.end(), std::back_inserter(items));
+    return items;
+}
+
+bool set(const LaunchItem& item, bool enabled)
+{
+    // In somebody else's home folder the changes would belong to the wrong user.
+    return Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
+}
+
+} // namespace orlen::LaunchControl

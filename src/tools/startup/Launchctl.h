@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/ChildProcess.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The tool that switches launch agents. Blocks on a child process; any thread.
+namespace orlen::Launchctl {
+
+/// Nothing where there is no such tool; else as ChildProcess::run.
+[[nodiscard]] std::optional<ChildProcess::Outcome> call(const std::vector<std::string>& arguments);
+
+} // namespace orlen::Launchctl

@@ -1,0 +1,119 @@
+#include "tools/startup/LoginItems.h"
+
+#include "platform/ChildProcess.h"
+#include "platform/DesktopEntry.h"
+#include "platform/FileContent.h"
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/OwnProgram.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/startup/AutostartFolders.h"
+#include "tools/startup/AutostartRules.h"
+#include "tools/startup/OwnEntry.h"
+#include "tools/startup/ServiceManager.h"
+#include "tools/startup/StartupTexts.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace orlen::LoginItems {
+
+namespace {
+
+constexpr unsigned kFolderMode = 0700;
+constexpr unsigned kFileMode = 0644;
+
+std::string folder()
+{
+    return AutostartFolders::ofUser(Places::current()).front();
+}
+
+std::string entryPath()
+{
+    return PathText::join(folder(), OwnEntry::kFileName);
+}
+
+bool isAnyFolderListable(const std::vector<std::string>& folders)
+{
+    return std::any_of(folders.begin(), folders.end(),
+                       [](const std::string& path) { return isListable(path + "/."); });
+}
+
+/// What keeps this program from changing its entry, whichever way.
+std::optional<std::string> obstacle()
+{
+    const Places& places = Places::current();
+    if (exists(places.systemRoot + "/.flatpak-info"))
+        return std::string(StartupTexts::kSandboxed);
+    if (!places.isHomeUsable)
+        return std::string(StartupTexts::kUnusableHome);
+    const auto status = statusOf(entryPath());
+    if (status.ok() && status.value().type != FileType::regular)
+        return std::string(StartupTexts::kForeignEntry);
+    return std::nullopt;
+}
+
+Result<void> writeEntry(const std::string& text)
+{
+    if (auto made = makeFolders(folder(), kFolderMode); !made.ok())
+        return made;
+    return replaceFile(entryPath(), text, kFileMode);
+}
+
+} // namespace
+
+std::optional<std::vector<std::string>> names()
+{
+    const Places& places = Places::current();
+    if (!isAnyFolderListable(AutostartFolders::ofUser(places)) &&
+        !isAnyFolderListable(AutostartFolders::ofEverybody(places)))
+        return std::nullopt;
+    std::vector<std::string> names;
+    for (LaunchItem& item : makeAutostartEntries()->items()) {
+        if (item.enabled)
+            names.push_back(std::move(item.name));
+    }
+    return names;
+}
+
+std::vector<std::string> settingsCommand()
+{
+    const std::vector<std::string> pages[] = {
+        {"gnome-session-properties"},         {"systemsettings", "kcm_autostart"},
+        {"systemsettings5", "kcm_autostart"}, {"xfce4-session-settings"},
+        {"mate-session-properties"},
+    };
+    for (const std::vector<std::string>& page : pages) {
+        if (!ChildProcess::programPath(page.front()).empty())
+            return page;
+    }
+    const bool canShow = !ChildProcess::programPath("xdg-open").empty() && isListable(folder() + "/.");
+    return canShow ? std::vector<std::string>{"xdg-open", folder()} : std::vector<std::string>();
+}
+
+bool isRegistered()
+{
+    const auto entry = DesktopEntry::read(resolved(entryPath()));
+    if (!entry || !AutostartRules::isEnabled(*entry))
+        return false;
+    const std::vector<std::string> command = entry->command("Exec");
+    return !command.empty() && !ChildProcess::programPath(command.front()).empty();
+}
+
+std::optional<std::string> setRegistered(bool registered)
+{
+    if (auto reason = obstacle())
+        return reason;
+    if (!registered) {
+        const bool isGone = !exists(entryPath()) || removeOwnFile(entryPath()).ok();
+        return isGone ? std::nullopt : std::optional(std::string(StartupTexts::kUnwritableFolder));
+    }
+    const auto text = OwnEntry::text(OwnProgram::path());
+    if (!text)
+        return std::string(StartupTexts::kUnwritablePath);
+    const bool isWritten = writeEntry(*text).ok();
+    return isWritten ? std::nullopt : std::optional(std::string(StartupTexts::kUnwritableFolder));
+}
+
+} // namespace orlen::LoginItems

@@ -1,0 +1,44 @@
+#include "tools/startup/PrintDisabled.h"
+
+#include <algorithm>
+
+namespace orlen::PrintDisabled {
+
+namespace {
+
+constexpr std::string_view kArrow = "=>";
+
+std::string_view without(std::string_view characters, std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(characters);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+}
+
+bool meansDisabled(std::string_view state)
+{
+    // Older systems answer whether the label is disabled, newer ones say in which state it is.
+    return state.starts_with("disabled") || state.find("true") != std::string_view::npos;
+}
+
+} // namespace
+
+Labels labels(std::string_view text)
+{
+    Labels disabled;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::size_t arrow = line.find(kArrow);
+        if (arrow == std::string_view::npos)
+            continue;
+        const std::string_view state = line.substr(arrow + kArrow.size());
+        if (state.find(kArrow) == std::string_view::npos && meansDisabled(without(" \t\r\v\f", state)))
+            disabled.emplace(without(" \t\"", line.substr(0, arrow)));
+    }
+    return disabled;
+}
+
+} // namespace orlen::PrintDisabled

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+/// What the user reads about startup items below the screens.
+namespace orlen::StartupTexts {
+
+inline constexpr std::string_view kYourAccount = "Your account";
+inline constexpr std::string_view kAllUsers = "All users";
+
+// Why opening at login could not be switched, behind a colon.
+inline constexpr std::string_view kSandboxed =
+    "in this sandbox it can only be set in the desktop's own settings.";
+inline constexpr std::string_view kUnusableHome = "the home folder is missing or belongs to somebody else.";
+inline constexpr std::string_view kForeignEntry =
+    "something that Orlen didn't make stands in place of its autostart entry.";
+inline constexpr std::string_view kUnwritablePath = "no autostart entry can hold the path of the program.";
+inline constexpr std::string_view kUnwritableFolder = "the autostart folder can't be written to.";
+
+} // namespace orlen::StartupTexts

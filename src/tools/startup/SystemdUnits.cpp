@@ -1,0 +1,119 @@
+#include "platform/FileStatus.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "tools/startup/DesktopNames.h"
+#include "tools/startup/ServiceManager.h"
+#include "tools/startup/StartupTexts.h"
+#include "tools/startup/Systemctl.h"
+#include "tools/startup/UnitFile.h"
+#include "tools/startup/UnitFolders.h"
+#include "tools/startup/UnitLinks.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+namespace orlen {
+
+namespace {
+
+/// What the words of the manager mean for a switch; units in other states have none.
+struct State {
+    std::string_view word;
+    enum class Meaning { on, off, masked } meaning;
+};
+constexpr State kStates[] = {
+    {"enabled", State::Meaning::on},
+    {"enabled-runtime", State::Meaning::on},
+    {"linked", State::Meaning::on},
+    {"linked-runtime", State::Meaning::on},
+    {"disabled", State::Meaning::off},
+    {"masked", State::Meaning::masked},
+    {"masked-runtime", State::Meaning::masked},
+};
+
+std::vector<ListedUnit> listed(const Places& places)
+{
+    if (auto units = Systemctl::services())
+        return *std::move(units);
+    // Packages bring unit files along where nothing will ever read them.
+    const bool isThere = Systemctl::isInstalled() || exists(places.systemRoot + "/run/systemd/system");
+    return isThere ? UnitLinks::listed(places) : std::vector<ListedUnit>();
+}
+
+std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
+{
+    const auto state = std::find_if(std::begin(kStates), std::end(kStates),
+                                    [&](const State& known) { return known.word == unit.state; });
+    if (state == std::end(kStates) || !UnitFolders::isServiceName(unit.name))
+        return std::nullopt;
+    const std::string path = UnitFolders::find(places, unit.name);
+    const bool isOwn = PathText::isAtOrBelow(path, places.home);
+    // Of what packages bring along, only what is or was on is anybody's business.
+    if (!isOwn && state->meaning == State::Meaning::off)
+        return std::nullopt;
+    const auto file = UnitFile::read(path, places.home);
+    if (!file)
+        return std::nullopt;
+    LaunchItem item;
+    item.label = unit.name;
+    item.path = path;
+    item.program = file->program;
+    item.scope = isOwn ? StartupTexts::kYourAccount : StartupTexts::kAllUsers;
+    item.enabled = state->meaning == State::Meaning::on;
+    item.source = LaunchSource::systemdUnit;
+    item.name = item.label;
+    item.isPartOfDesktop = DesktopNames::isPartOfDesktop(item.label);
+    return item;
+}
+
+class SystemdUnits final : public ServiceManager {
+public:
+    [[nodiscard]] std::vector<LaunchItem> items() const override
+    {
+        const Places& places = Places::current();
+        std::vector<LaunchItem> items;
+        for (const ListedUnit& unit : listed(places)) {
+            if (auto item = itemOf(unit, places))
+                items.push_back(*std::move(item));
+        }
+        std::sort(items.begin(), items.end(), [](const LaunchItem& left, const LaunchItem& right) {
+            const bool isLeftOwn = left.scope == StartupTexts::kYourAccount;
+            const bool isRightOwn = right.scope == StartupTexts::kYourAccount;
+            return isLeftOwn != isRightOwn ? isLeftOwn : left.label < right.label;
+        });
+        const auto isSame = [](const LaunchItem& left, const LaunchItem& right) {
+            return left.path == right.path;
+        };
+        items.erase(std::unique(items.begin(), items.end(), isSame), items.end());
+        return items;
+    }
+
+    [[nodiscard]] bool set(const LaunchItem& item, bool enabled) const override
+    {
+        const std::string& unit = item.label;
+        if (!UnitFolders::isServiceName(unit))
+            return false;
+        const Places& places = Places::current();
+        if (enabled)
+            return Systemctl::change(UnitFolders::isMaskedByUser(places, unit) ? "unmask" : "enable", unit)
+                .has_value();
+        // "disable" only takes the user's own links away: what is on for everybody has to be masked.
+        const bool isOwn =
+            item.scope == StartupTexts::kYourAccount || UnitFolders::isTakenByUser(places, unit);
+        const auto way = Systemctl::change(isOwn ? "disable" : "mask", unit);
+        // Only a manager that answers can stop it; one that does not run it has nothing to stop.
+        if (way == Systemctl::Way::throughManager)
+            Systemctl::call({"stop", unit});
+        return way.has_value();
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ServiceManager> makeSystemdUnits()
+{
+    return std::make_unique<SystemdUnits>();
+}
+
+} // namespace orlen

@@ -1,0 +1,96 @@
+#include "tools/startup/UnitFolders.h"
+
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+
+#include <algorithm>
+
+namespace orlen::UnitFolders {
+
+namespace {
+
+constexpr std::string_view kBelow = "/systemd/user";
+constexpr std::string_view kNowhere = "/dev/null";
+constexpr std::size_t kLongestName = 255;
+
+std::vector<std::string> below(const std::vector<std::string>& folders)
+{
+    std::vector<std::string> paths;
+    paths.reserve(folders.size());
+    for (const std::string& folder : folders)
+        paths.push_back(folder + std::string(kBelow));
+    return paths;
+}
+
+bool isLinkToNowhere(const std::string& path)
+{
+    const auto status = statusOf(path);
+    return status.ok() && status.value().type == FileType::link && resolved(path) == kNowhere;
+}
+
+} // namespace
+
+bool isServiceName(std::string_view name)
+{
+    constexpr std::string_view kLetters =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789:-_.\\@";
+    constexpr std::string_view kSuffix = ".service";
+    return name.ends_with(kSuffix) && name.size() > kSuffix.size() && name.size() <= kLongestName &&
+           !name.ends_with("@.service") && !name.starts_with('-') &&
+           name.find_first_not_of(kLetters) == std::string_view::npos;
+}
+
+std::vector<std::string> ofSettings(const Places& places)
+{
+    std::vector<std::string> folders = below(places.configs);
+    folders.push_back(places.systemRoot + "/etc/systemd/user");
+    return folders;
+}
+
+std::vector<std::string> all(const Places& places)
+{
+    std::vector<std::string> folders = ofSettings(places);
+    for (std::string& folder : below(places.data))
+        folders.push_back(std::move(folder));
+    for (const char* folder : {"/usr/local/lib/systemd/user", "/usr/lib/systemd/user", "/lib/systemd/user"})
+        folders.push_back(places.systemRoot + folder);
+    return folders;
+}
+
+std::string find(const Places& places, const std::string& name)
+{
+    for (const std::string& folder : all(places)) {
+        std::string path = PathText::join(folder, name);
+        if (exists(path) && !isMask(path))
+            return path;
+    }
+    return {};
+}
+
+bool isMask(const std::string& path)
+{
+    const auto status = statusOf(path);
+    const bool isEmptyFile =
+        status.ok() && status.value().type == FileType::regular && status.value().length == 0;
+    return isEmptyFile || isLinkToNowhere(path);
+}
+
+bool isMaskedByUser(const Places& places, const std::string& name)
+{
+    const std::vector<std::string> folders = below(places.configs);
+    return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
+        return isLinkToNowhere(PathText::join(folder, name));
+    });
+}
+
+bool isTakenByUser(const Places& places, const std::string& name)
+{
+    const std::vector<std::string> folders = below(places.configs);
+    return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
+        const std::string path = PathText::join(folder, name);
+        return exists(path) && !isLinkToNowhere(path);
+    });
+}
+
+} // namespace orlen::UnitFolders

@@ -1,0 +1,102 @@
+#include "tools/startup/UnitLinks.h"
+
+#include "platform/FileStatus.h"
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "tools/startup/UnitFile.h"
+#include "tools/startup/UnitFolders.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace orlen::UnitLinks {
+
+namespace {
+
+using Names = std::set<std::string, std::less<>>;
+
+bool isLink(const std::string& path)
+{
+    const auto status = statusOf(path);
+    return status.ok() && status.value().type == FileType::link;
+}
+
+/// Units that something starts, by the links in its folder of that purpose.
+Names startedUnits(const std::vector<std::string>& folders)
+{
+    Names started;
+    for (const std::string& folder : folders) {
+        for (const std::string& name : listNames(folder + "/.")) {
+            if (!name.ends_with(".wants") && !name.ends_with(".requires"))
+                continue;
+            const std::string links = PathText::join(folder, name);
+            for (const std::string& unit : listNames(links)) {
+                if (isLink(PathText::join(links, unit)))
+                    started.insert(unit);
+            }
+        }
+    }
+    return started;
+}
+
+/// Units that have been given another name, which is how some are switched on.
+Names renamedUnits(const std::vector<std::string>& folders)
+{
+    Names renamed;
+    for (const std::string& folder : folders) {
+        for (const std::string& name : listNames(folder + "/.")) {
+            const std::string path = PathText::join(folder, name);
+            const std::string target = isLink(path) ? resolved(path) : std::string();
+            if (const auto unit = PathText::lastComponent(target); unit != name)
+                renamed.emplace(unit);
+        }
+    }
+    return renamed;
+}
+
+/// The first file of each service, by name.
+std::map<std::string, std::string> services(const Places& places)
+{
+    std::map<std::string, std::string> paths;
+    for (const std::string& folder : UnitFolders::all(places)) {
+        for (const std::string& name : listNames(folder + "/.")) {
+            if (UnitFolders::isServiceName(name))
+                paths.emplace(name, PathText::join(folder, name));
+        }
+    }
+    return paths;
+}
+
+/// Of a unit that nothing starts.
+const char* idleState(const std::string& name, const std::string& path, const Places& places)
+{
+    if (isLink(path))
+        return PathText::lastComponent(resolved(path)) == name ? "linked" : "alias";
+    const auto unit = UnitFile::read(path, places.home);
+    return unit && unit->isInstallable ? "disabled" : "static";
+}
+
+} // namespace
+
+std::vector<ListedUnit> listed(const Places& places)
+{
+    const Names started = startedUnits(UnitFolders::all(places));
+    Names startedBySettings = startedUnits(UnitFolders::ofSettings(places));
+    startedBySettings.merge(renamedUnits(UnitFolders::ofSettings(places)));
+    std::vector<ListedUnit> units;
+    for (const auto& [name, path] : services(places)) {
+        std::string state = "masked";
+        if (!UnitFolders::isMask(path)) {
+            state = idleState(name, path, places);
+            // A package may start a unit in a way that is nobody's choice and has no switch.
+            const bool isStarted = started.contains(name) && state != "alias";
+            if (startedBySettings.contains(name) || (isStarted && state != "static"))
+                state = "enabled";
+        }
+        units.push_back({name, std::move(state)});
+    }
+    return units;
+}
+
+} // namespace orlen::UnitLinks
