@@ -49,6 +49,18 @@ QtObject {
     readonly property string scannedWithoutAccess: "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned."
     readonly property string resultsFooter: "Safe, Review and Keep are suggestions from rules and on-device analysis. They can be wrong, so look before you clean. Nothing is permanently deleted: items move to the Trash and can be restored from History."
     readonly property string reviewAndClean: "Review & Clean…"
+    readonly property string largeFilesFrom: "Large files from"
+    readonly property string scanning: "Smart Scan is looking around"
+    readonly property string cancellingScan: "Cancelling…"
+    readonly property string nothingChanged: "Nothing was changed."
+    readonly property string stepPending: "waiting"
+    readonly property string stepRunning: "running"
+    readonly property string stepDone: "done after %1"
+    readonly property string selected: "%1 selected"
+    readonly property string nothingSelected: "Nothing is selected"
+    readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
+    readonly property string findings: "Findings"
+    readonly property string informational: "For information"
 
     // Finding, review and clean-up
     readonly property string nothingLeft: "Nothing left here."
