@@ -7,7 +7,9 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
 
@@ -39,9 +41,12 @@ void addOptions(QCommandLineParser& parser)
         {"size", "Width x height", "size", "1100x720"},
         {"text-scale", "Size of texts against the usual", "factor", "1"},
         {"scan", "Run a Smart Scan first"},
+        {"scanning", "Start a Smart Scan and do not wait for its end"},
+        {"click", "Click the items with these object names, separated by commas", "names"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
+        {"at-once", "Do not wait for the storage breakdown"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -54,10 +59,28 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.startScan();
         wait(kLongestScan, [&] { return model.phase() != Phase::scanning; });
     }
+    if (options.isSet("scanning"))
+        model.startScan();
     if (options.isSet("finding"))
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+}
+
+void click(QQuickWindow& window, const QString& name)
+{
+    wait(kSettleMilliseconds, [] { return false; });
+    const auto* item = window.findChild<QQuickItem*>(name);
+    if (item == nullptr) {
+        std::fprintf(stderr, "there is no item %s\n", qPrintable(name));
+        return;
+    }
+    const QPointF place = item->mapToScene(item->boundingRect().center());
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, place, window.mapToGlobal(place), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    }
 }
 
 } // namespace
@@ -84,7 +107,10 @@ int main(int argc, char** argv)
     const QStringList size = options.value("size").split('x');
     window->resize(size.value(0).toInt(), size.value(1).toInt());
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
-    bringAbout(model, options);
+    if (!options.isSet("at-once"))
+        bringAbout(model, options);
+    for (const QString& name : options.value("click").split(',', Qt::SkipEmptyParts))
+        click(*window, name);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

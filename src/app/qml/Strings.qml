@@ -117,6 +117,7 @@ QtObject {
     readonly property string nothingCleaned: "Nothing cleaned yet."
 
     // How Orlen Works
+    readonly property string safetyTitle: "How Orlen Works"
     readonly property string safetyLead: "What it does, what it never does, and how far to trust it."
     readonly property var safetySections: [
         { symbol: "lock.fill", title: "Private by design", body: "Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time." },
@@ -129,4 +130,26 @@ QtObject {
 
     // Keyboard shortcuts
     readonly property string shortcutsTitle: "Keyboard shortcuts"
+    readonly property var shortcutGroups: [
+        { title: "Everywhere", shortcuts: [
+            { text: "Show a screen", keys: [["Ctrl", "1 … 9"]] },
+            { text: "Start a Smart Scan", keys: [["Ctrl", "R"], ["F5"]] },
+            { text: "Filter the list", keys: [["Ctrl", "F"]] },
+            { text: "Next or previous control", keys: [["Tab"], ["Shift", "Tab"]] },
+            { text: "Close a sheet", keys: [["Esc"]] },
+            { text: "Show these shortcuts", keys: [["Ctrl", "?"], ["F1"]] },
+            { text: "Quit", keys: [["Ctrl", "Q"], ["Ctrl", "W"]] }
+        ] },
+        { title: "Lists and cards", shortcuts: [
+            { text: "Move", keys: [["←"], ["↑"], ["↓"], ["→"]] },
+            { text: "First or last", keys: [["Home"], ["End"]] },
+            { text: "Open", keys: [["Enter"]] },
+            { text: "Preview a file", keys: [["Space"]] }
+        ] },
+        { title: "Disk Map", shortcuts: [
+            { text: "Zoom into a folder", keys: [["Enter"]] },
+            { text: "Go back up", keys: [["Backspace"]] },
+            { text: "Zoom with the wheel", keys: [["Ctrl", "Wheel"]] }
+        ] }
+    ]
 }

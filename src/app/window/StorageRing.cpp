@@ -14,15 +14,39 @@ namespace orlen {
 
 namespace {
 
-constexpr double kGap = 3;      // between neighbours, pixels
-constexpr double kCorner = 2.5; // radius, pixels
-constexpr double kSmallest = 1; // pixels along the band; what is shorter is left out
-constexpr double kTop = 90;     // degrees, as QPainterPath counts them
+constexpr double kGap = 3;        // between neighbours, pixels
+constexpr double kCorner = 2.5;   // radius, pixels
+constexpr double kShortest = 4;   // of what takes little space, pixels along the band
+constexpr double kLeast = 0.0005; // what takes less of the volume is left out
+constexpr double kTop = 90;       // degrees, as QPainterPath counts them
 constexpr double kWholeTurn = 360;
 
 double degrees(double pixels, double radius)
 {
     return pixels / radius * 180 / std::numbers::pi;
+}
+
+/// Gives what takes little space the least part that can be seen, at the cost of the rest.
+template <typename Fractions>
+Fractions withLeast(Fractions fractions, double least)
+{
+    double missing = 0;
+    double ample = 0;
+    for (const double fraction : fractions) {
+        if (fraction >= kLeast && fraction < least)
+            missing += least - fraction;
+        else if (fraction >= least)
+            ample += fraction;
+    }
+    for (double& fraction : fractions) {
+        if (fraction < kLeast)
+            fraction = 0;
+        else if (fraction < least)
+            fraction = least;
+        else
+            fraction *= std::max(0.0, 1 - missing / ample);
+    }
+    return fractions;
 }
 
 } // namespace
@@ -108,13 +132,12 @@ void StorageRing::paint(QPainter* painter)
     const double radius = std::min(width(), height()) / 2 * (1 - m_thickness);
     if (radius <= 0)
         return;
-    const Fractions fractions = shown();
     const double gap = degrees(kGap, radius);
-    const double smallest = degrees(kSmallest, radius);
+    const Fractions fractions = withLeast(shown(), (gap + degrees(kShortest, radius)) / kWholeTurn);
     double start = 0;
     const auto draw = [&](double fraction, const QColor& colour) {
         const double length = fraction * kWholeTurn - gap;
-        if (length >= smallest) {
+        if (length > 0) {
             const double corner = std::min(kCorner, length / degrees(1, radius) / 3);
             painter->setPen(QPen(colour, 2 * corner, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
             painter->setBrush(colour);

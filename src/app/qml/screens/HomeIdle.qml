@@ -76,7 +76,8 @@ Item {
                 }
 
                 Text {
-                    width: parent.width
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.homeLead
                     textFormat: Text.PlainText
@@ -151,7 +152,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 anchors.bottom: parent.bottom
                 anchors.bottomMargin: 24
-                width: Math.min(parent.width - 2 * Theme.pageMargin, 620 * Theme.textScale)
+                width: Math.min(parent.width - 2 * Theme.pageMargin, 760 * Theme.textScale)
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.homeFooter
                 textFormat: Text.PlainText
