@@ -47,6 +47,7 @@ void addOptions(QCommandLineParser& parser)
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
         {"at-once", "Do not wait for the storage breakdown"},
+        {"still", "Without motion, as for a desktop that asks for none"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -97,6 +98,7 @@ int main(int argc, char** argv)
     Appearance::setScheme(options.value("theme") == "dark" ? Appearance::Scheme::dark
                                                            : Appearance::Scheme::light);
     Appearance::setTextScale(options.value("text-scale").toDouble());
+    Appearance::setReducedMotion(options.isSet("still"));
     QSettings().setValue("onboarded", !options.isSet("onboarding"));
 
     AppModel model({});

@@ -42,6 +42,7 @@ QtObject {
     readonly property string scanAgain: "Scan again"
     readonly property string homeFooter: "Ratings are suggestions. Orlen only runs while it's open, uploads nothing, hides nothing, and only moves files to the Trash."
     readonly property string filesExamined: "%1 files examined"
+    readonly property string filesExaminedBelow: "files examined"
     readonly property string scanningWithoutAccess: "Full Disk Access isn't granted, so Orlen is scanning only what macOS allows."
     readonly property string safelyFree: "You can safely free %1"
     readonly property string nothingSafe: "Nothing is rated Safe right now"

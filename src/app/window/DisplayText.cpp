@@ -14,6 +14,8 @@ namespace orlen::DisplayText {
 
 namespace {
 
+constexpr std::chrono::milliseconds kShortestTime{50};
+
 QDateTime local(TimePoint time)
 {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time.time_since_epoch());
@@ -67,6 +69,8 @@ QString items(std::int64_t count)
 
 QString duration(std::chrono::duration<double> time)
 {
+    if (time < kShortestTime)
+        return QStringLiteral("< 0.1 s");
     return text(Texts::duration(time.count()));
 }
 

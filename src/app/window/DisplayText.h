@@ -28,7 +28,7 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString number(std::int64_t value);
 /// "1 item", "12,345 items".
 [[nodiscard]] QString items(std::int64_t count);
-/// "0.4 s", "12 s", "3 min 20 s".
+/// "< 0.1 s", "0.4 s", "12 s", "3 min 20 s".
 [[nodiscard]] QString duration(std::chrono::duration<double> time);
 /// A day, in the user's language and time zone.
 [[nodiscard]] QString date(TimePoint time);

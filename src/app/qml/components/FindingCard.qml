@@ -75,6 +75,8 @@ T.AbstractButton {
             anchors.bottomMargin: 3
             text: root.title
             textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             color: Theme.text
             font.pixelSize: Theme.bodySize

@@ -25,9 +25,9 @@ Column {
         text: root.storage.freeText
         textFormat: Text.PlainText
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 12
+        minimumPixelSize: 10
         color: Theme.text
-        font.pixelSize: root.large ? Theme.heroSize : Theme.titleSize
+        font.pixelSize: Math.max(12, Math.min(root.large ? Theme.heroSize : Theme.titleSize, root.width * 0.22))
         font.weight: Font.Bold
         font.letterSpacing: root.large ? -0.8 : -0.3
     }
@@ -41,6 +41,6 @@ Column {
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 10
         color: Theme.secondary
-        font.pixelSize: root.large ? Theme.bodySize : Theme.captionSize
+        font.pixelSize: Math.max(10, Math.min(root.large ? Theme.bodySize : Theme.captionSize, root.width * 0.125))
     }
 }

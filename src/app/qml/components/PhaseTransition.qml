@@ -7,6 +7,8 @@ Transition {
 
     /// Where the way leads over: the item around all places.
     required property Item over
+    /// What comes into sight; the rest is gone before it is there.
+    required property Item arriving
     required property real response
     required property real damping
 
@@ -20,7 +22,14 @@ Transition {
         }
     }
 
+    NumberAnimation {
+        property: "opacity"
+        exclude: [root.arriving]
+        duration: Theme.hoverDuration
+    }
+
     SpringMotion {
+        target: root.arriving
         property: "opacity"
         response: root.response
         damping: root.damping

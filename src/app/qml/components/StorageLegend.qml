@@ -9,10 +9,11 @@ Grid {
     /// Room for the legend; it takes as many columns as fit.
     required property real room
 
-    readonly property int cellWidth: Math.round(152 * Theme.textScale)
+    readonly property real narrowest: 140 * Theme.textScale
+    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Math.round(168 * Theme.textScale))
 
-    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.cellWidth + root.columnSpacing))))
-    columnSpacing: 12
+    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
+    columnSpacing: 4
     rowSpacing: 8
     Accessible.role: Accessible.List
 

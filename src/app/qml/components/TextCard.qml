@@ -9,8 +9,10 @@ Card {
     required property color tone
     required property string title
     required property string body
+    /// Whether the headline stands beside the badge.
+    property bool beside: false
 
-    implicitHeight: column.height + 40
+    implicitHeight: column.height + 36
     Accessible.role: Accessible.StaticText
     Accessible.name: root.title + ". " + root.body
 
@@ -18,11 +20,12 @@ Card {
         id: column
 
         x: 20
-        y: 20
+        y: 18
         width: root.width - 40
-        spacing: 8
+        spacing: root.beside ? 10 : 8
 
         Badge {
+            visible: !root.beside
             name: root.symbol
             tone: root.tone
             size: 36
@@ -30,7 +33,10 @@ Card {
 
         Text {
             width: parent.width
-            topPadding: 4
+            height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
+            leftPadding: root.beside ? 44 : 0
+            topPadding: root.beside ? 0 : 4
+            verticalAlignment: Text.AlignVCenter
             text: root.title
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
@@ -38,6 +44,14 @@ Card {
             font.pixelSize: Theme.headlineSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
+
+            Badge {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.beside
+                name: root.symbol
+                tone: root.tone
+                size: 32
+            }
         }
 
         Text {
@@ -45,7 +59,7 @@ Card {
             text: root.body
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            lineHeight: 1.3
+            lineHeight: 1.25
             color: Theme.secondary
             font.pixelSize: Theme.bodySize
             Accessible.ignored: true

@@ -12,6 +12,8 @@ GridLayout {
     /// Columns at most, and how narrow one may get.
     property int most: 2
     property int narrowest: 320
+    /// Whether the headlines stand beside their badges.
+    property bool beside: false
 
     columns: Math.max(1, Math.min(root.most, Math.floor((root.width + 16) / (root.narrowest * Theme.textScale + 16))))
     columnSpacing: 16
@@ -29,6 +31,7 @@ GridLayout {
             Layout.preferredWidth: 1
             symbol: modelData.symbol
             tone: root.tones[index % root.tones.length]
+            beside: root.beside
             title: modelData.title
             body: modelData.body
         }

@@ -12,7 +12,7 @@ Grid {
     readonly property real cardWidth: (root.width - (root.columns - 1) * root.spacing) / root.columns
     property int current: 0
 
-    columns: Math.max(1, Math.min(4, Math.floor((root.width + root.spacing) / (236 * Theme.textScale + root.spacing))))
+    columns: Math.max(1, Math.min(4, Math.floor((root.width + root.spacing) / (220 * Theme.textScale + root.spacing))))
     spacing: 16
     Accessible.role: Accessible.List
     Accessible.name: Strings.findings

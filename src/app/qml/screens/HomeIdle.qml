@@ -11,6 +11,7 @@ Item {
 
     /// Where the storage ring belongs.
     readonly property alias ringSlot: slot
+    readonly property alias mainButton: start
 
     Flickable {
         id: flickable
@@ -96,6 +97,8 @@ Item {
                 }
 
                 AppButton {
+                    id: start
+
                     objectName: "startScan"
                     anchors.horizontalCenter: parent.horizontalCenter
                     primary: true

@@ -12,6 +12,7 @@ Item {
 
     /// Where the storage ring belongs.
     readonly property alias ringSlot: header.ringSlot
+    readonly property alias mainButton: header.mainButton
 
     Flickable {
         id: flickable

@@ -10,14 +10,15 @@ Item {
 
     /// Where the storage ring belongs.
     readonly property alias ringSlot: slot
+    readonly property Item mainButton: review.enabled ? review : again
     readonly property bool narrow: root.width < 640 * Theme.textScale
 
-    implicitHeight: Math.max(slot.height, words.height)
+    implicitHeight: Math.max(slot.height, words.height) + (root.narrow ? legend.height + 20 : 0)
 
     Item {
         id: slot
 
-        width: root.narrow ? 112 : 164
+        width: root.narrow ? Math.round(112 * Math.min(1.25, Theme.textScale)) : 164
         height: width
 
         FreeSpace {
@@ -33,7 +34,7 @@ Item {
         anchors.left: slot.right
         anchors.leftMargin: root.narrow ? 20 : 32
         anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
+        y: Math.max(0, Math.round((slot.height - height) / 2))
         spacing: 0
 
         Text {
@@ -70,6 +71,8 @@ Item {
             spacing: 10
 
             AppButton {
+                id: review
+
                 objectName: "reviewAndClean"
                 primary: true
                 enabled: root.home.hasSelection
@@ -78,6 +81,8 @@ Item {
             }
 
             AppButton {
+                id: again
+
                 objectName: "scanAgain"
                 symbol: "arrow.clockwise"
                 text: Strings.scanAgain
@@ -88,7 +93,7 @@ Item {
                 height: Theme.controlHeight
                 leftPadding: 4
                 verticalAlignment: Text.AlignVCenter
-                visible: root.home.hasFindings
+                visible: root.home.hasFindings && !root.narrow
                 text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
                 textFormat: Text.PlainText
                 color: Theme.tertiary
@@ -98,12 +103,16 @@ Item {
 
         Item {
             width: 1
-            height: 16
+            height: root.narrow ? 0 : legend.height + 16
         }
+    }
 
-        StorageLegend {
-            storage: root.storage
-            room: parent.width
-        }
+    StorageLegend {
+        id: legend
+
+        x: root.narrow ? 0 : words.x
+        anchors.bottom: root.narrow ? parent.bottom : words.bottom
+        storage: root.storage
+        room: root.narrow ? root.width : words.width
     }
 }

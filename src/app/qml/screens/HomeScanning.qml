@@ -8,6 +8,7 @@ Item {
 
     /// Where the storage ring belongs.
     readonly property alias ringSlot: slot
+    readonly property alias mainButton: cancel
 
     ScanProgressModel {
         id: progress
@@ -32,53 +33,70 @@ Item {
             width: flickable.width
             height: Math.max(flickable.height, panel.height + 2 * 24)
 
-            Item {
-                id: slot
+            Column {
+                id: side
 
                 x: Math.round((page.width - page.inner) / 2)
-                anchors.verticalCenter: panel.verticalCenter
-                width: Math.round(Math.max(128, Math.min(232, page.inner * 0.3)))
-                height: width
+                y: Math.round((flickable.height - height) / 2)
+                spacing: 24
 
-                Column {
-                    anchors.centerIn: parent
-                    width: parent.width * 0.7
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: Strings.filesExamined.arg(progress.files)
+                Item {
+                    id: slot
 
-                    Text {
-                        objectName: "filesExamined"
-                        width: parent.width
-                        horizontalAlignment: Text.AlignHCenter
-                        text: progress.files
-                        textFormat: Text.PlainText
-                        fontSizeMode: Text.HorizontalFit
-                        minimumPixelSize: 12
-                        color: Theme.text
-                        font.pixelSize: Theme.titleSize + 6
-                        font.weight: Font.Bold
-                        font.letterSpacing: -0.5
-                        Accessible.ignored: true
+                    width: Math.round(Math.max(128, Math.min(232, page.inner * 0.3)))
+                    height: width
+
+                    Column {
+                        anchors.centerIn: parent
+                        width: parent.width * 0.7
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: Strings.filesExamined.arg(progress.files)
+
+                        Text {
+                            objectName: "filesExamined"
+                            width: parent.width
+                            horizontalAlignment: Text.AlignHCenter
+                            text: progress.files
+                            textFormat: Text.PlainText
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 12
+                            color: Theme.text
+                            font.pixelSize: Math.max(12, Math.min(Theme.titleSize + 6, parent.width * 0.2))
+                            font.weight: Font.Bold
+                            font.letterSpacing: -0.5
+                            Accessible.ignored: true
+                        }
+
+                        Text {
+                            width: parent.width
+                            horizontalAlignment: Text.AlignHCenter
+                            text: Strings.filesExaminedBelow
+                            textFormat: Text.PlainText
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 10
+                            color: Theme.secondary
+                            font.pixelSize: Math.max(10, Math.min(Theme.smallSize, parent.width * 0.12))
+                            Accessible.ignored: true
+                        }
                     }
+                }
 
-                    Text {
-                        width: parent.width
-                        horizontalAlignment: Text.AlignHCenter
-                        text: Strings.filesExamined.arg("").trim()
-                        textFormat: Text.PlainText
-                        fontSizeMode: Text.HorizontalFit
-                        minimumPixelSize: 10
-                        color: Theme.secondary
-                        font.pixelSize: Theme.smallSize
-                        Accessible.ignored: true
-                    }
+                AppButton {
+                    id: cancel
+
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    objectName: "cancelScan"
+                    enabled: !progress.cancelling
+                    text: Strings.cancel
+                    onClicked: progress.cancel()
+                    Keys.onEscapePressed: progress.cancel()
                 }
             }
 
             Column {
                 id: panel
 
-                anchors.left: slot.right
+                anchors.left: side.right
                 anchors.leftMargin: Math.round(page.inner * 0.07)
                 width: Math.round(page.inner * 0.93 - slot.width)
                 y: Math.max(24, Math.round((page.height - height) / 2))
@@ -88,7 +106,7 @@ Item {
                     width: parent.width
                     text: progress.cancelling ? Strings.cancellingScan : Strings.scanning
                     textFormat: Text.PlainText
-                    elide: Text.ElideRight
+                    wrapMode: Text.WordWrap
                     color: Theme.text
                     font.pixelSize: Theme.titleSize
                     font.weight: Font.Bold
@@ -129,14 +147,6 @@ Item {
                     elide: Text.ElideMiddle
                     color: Theme.tertiary
                     font.pixelSize: Theme.captionSize
-                }
-
-                AppButton {
-                    objectName: "cancelScan"
-                    enabled: !progress.cancelling
-                    text: Strings.cancel
-                    onClicked: progress.cancel()
-                    Keys.onEscapePressed: progress.cancel()
                 }
 
                 Note {

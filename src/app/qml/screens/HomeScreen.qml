@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// Smart Scan: before, during and after a scan. One storage ring goes with the phase from place to place.
-Item {
+FocusScope {
     id: root
 
     required property Navigation navigation
@@ -113,20 +113,29 @@ Item {
         PhaseTransition {
             to: "scanning"
             over: root
+            arriving: scanning
             response: 0.7
             damping: 0.82
         },
         PhaseTransition {
             to: "idle"
             over: root
+            arriving: idle
             response: 0.6
             damping: 0.85
         },
         PhaseTransition {
             to: "results"
             over: root
+            arriving: results
             response: 0.8
             damping: 0.84
         }
     ]
+
+    // The button that was pressed is gone: the keyboard goes on with the one that counts now.
+    onStateChanged: {
+        const button = [idle.mainButton, scanning.mainButton, results.mainButton][root.home.phase];
+        button.focus = true;
+    }
 }

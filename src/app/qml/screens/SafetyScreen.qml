@@ -12,5 +12,6 @@ ScreenPage {
         width: Math.min(root.contentWidth, 1080 * Theme.textScale)
         texts: Strings.safetySections
         tones: Theme.safetyTones
+        beside: true
     }
 }
