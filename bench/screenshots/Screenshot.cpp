@@ -43,6 +43,7 @@ void addOptions(QCommandLineParser& parser)
         {"scan", "Run a Smart Scan first"},
         {"scanning", "Start a Smart Scan and do not wait for its end"},
         {"click", "Click the items with these object names, separated by commas", "names"},
+        {"open", "Open the panel with this object name", "name"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
@@ -68,10 +69,22 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(PlanSheet{model.scanPlan()});
 }
 
+/// Delegates are no children of what shows them, but they are its child items.
+QQuickItem* itemNamed(QQuickItem* root, const QString& name)
+{
+    if (root->objectName() == name)
+        return root;
+    for (QQuickItem* child : root->childItems()) {
+        if (QQuickItem* found = itemNamed(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
 void click(QQuickWindow& window, const QString& name)
 {
     wait(kSettleMilliseconds, [] { return false; });
-    const auto* item = window.findChild<QQuickItem*>(name);
+    const QQuickItem* item = itemNamed(window.contentItem(), name);
     if (item == nullptr) {
         std::fprintf(stderr, "there is no item %s\n", qPrintable(name));
         return;
@@ -111,6 +124,8 @@ int main(int argc, char** argv)
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     if (!options.isSet("at-once"))
         bringAbout(model, options);
+    if (auto* panel = window->findChild<QObject*>(options.value("open")); options.isSet("open") && panel)
+        QMetaObject::invokeMethod(panel, "open");
     for (const QString& name : options.value("click").split(',', Qt::SkipEmptyParts))
         click(*window, name);
     wait(options.value("settle").toInt(), [] { return false; });

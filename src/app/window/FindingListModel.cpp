@@ -16,6 +16,7 @@ void FindingListModel::setApp(AppModel* app)
     if (m_app != nullptr) {
         connect(m_app, &AppModel::findingsChanged, this, &FindingListModel::followFindings);
         connect(m_app, &AppModel::selectionChanged, this, &FindingListModel::followSelection);
+        connect(m_app, &AppModel::sheetChanged, this, &FindingListModel::followSelection);
     }
     Q_EMIT appChanged();
     followFindings();
@@ -77,6 +78,9 @@ void FindingListModel::updateDifferent(std::vector<Row> rows)
 
 void FindingListModel::followSelection()
 {
+    // A sheet covers the cards while its entries are checked one by one, perhaps in a list of 100,000.
+    if (m_app->sheet() || m_rows.size() != m_app->findings().size())
+        return;
     for (std::size_t at = 0; at < m_rows.size(); ++at) {
         const std::int64_t size = m_app->selectedSize(m_app->findings()[at]);
         if (m_rows[at].selectedSize == size)

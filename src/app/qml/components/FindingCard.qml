@@ -24,7 +24,7 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     text: root.title
-    Accessible.name: [root.title, root.size, root.amount, root.cleanable ? root.ratingLabel : Strings.informational].join(", ")
+    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + (root.cleanable ? root.ratingLabel : Strings.informational)
 
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()

@@ -39,7 +39,8 @@ Item {
             radius: width / 2
             color: "transparent"
             border.width: 1.5
-            border.color: root.isRunning ? Theme.accent : Theme.track
+            border.color: root.isRunning ? Theme.accent : Theme.tertiary
+            opacity: root.isRunning ? 1 : 0.5
         }
 
         Rectangle {

@@ -111,8 +111,10 @@ Card {
         spacing: 10
 
         AppButton {
+            id: settings
+
             objectName: "openPrivacySettings"
-            width: Math.max(implicitWidth, go.implicitWidth)
+            width: go.width
             visible: !root.access.granted && root.access.command !== ""
             text: Strings.openPrivacySettings
             onClicked: root.isCommandShown = true
@@ -122,7 +124,7 @@ Card {
             id: go
 
             objectName: "continue"
-            width: Math.max(implicitWidth, 168)
+            width: Math.max(implicitWidth, settings.visible ? settings.implicitWidth : 0, 168)
             primary: true
             large: true
             text: root.access.granted ? Strings.continueOn : Strings.continueWithoutIt

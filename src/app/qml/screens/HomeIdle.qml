@@ -112,7 +112,7 @@ Item {
 
                 Item {
                     width: 1
-                    height: 12
+                    height: 16
                 }
 
                 Row {

@@ -58,6 +58,8 @@ FocusScope {
         breathing: root.state === "scanning" || !root.storage.ready
     }
 
+    // The linter of Qt 6.4 does not know that a parent change takes bindings.
+    // qmllint disable incompatible-type
     states: [
         State {
             name: "idle"
@@ -108,6 +110,7 @@ FocusScope {
             }
         }
     ]
+    // qmllint enable incompatible-type
 
     transitions: [
         PhaseTransition {

@@ -75,8 +75,9 @@ Item {
                     width: parent.width
                     texts: Strings.promises
                     tones: Theme.promiseTones
-                    most: 3
-                    narrowest: 220
+                    most: column.width < 700 * Theme.textScale ? 1 : 3
+                    narrowest: 200
+                    beside: most === 1
                 }
 
                 Item {

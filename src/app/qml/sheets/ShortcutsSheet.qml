@@ -6,6 +6,7 @@ import Orlen.App
 Sheet {
     id: root
 
+    objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
     wantedWidth: Math.round(560 * Theme.textScale)
     wantedHeight: Math.round(620 * Theme.textScale)
