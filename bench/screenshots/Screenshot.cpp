@@ -43,6 +43,7 @@ void addOptions(QCommandLineParser& parser)
         {"scan", "Run a Smart Scan first"},
         {"scanning", "Start a Smart Scan and do not wait for its end"},
         {"click", "Click the items with these object names, separated by commas", "names"},
+        {"keys", "Press these keys, separated by commas", "names"},
         {"open", "Open the panel with this object name", "name"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
@@ -97,6 +98,15 @@ void click(QQuickWindow& window, const QString& name)
     }
 }
 
+void press(QQuickWindow& window, const QString& name)
+{
+    const QKeyCombination combination = QKeySequence::fromString(name)[0];
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, combination.key(), combination.keyboardModifiers());
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -128,6 +138,8 @@ int main(int argc, char** argv)
         QMetaObject::invokeMethod(panel, "open");
     for (const QString& name : options.value("click").split(',', Qt::SkipEmptyParts))
         click(*window, name);
+    for (const QString& name : options.value("keys").split(',', Qt::SkipEmptyParts))
+        press(*window, name);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

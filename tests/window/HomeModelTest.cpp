@@ -101,6 +101,16 @@ TEST_F(FindingListModelTest, aSelectionTouchesOnlyTheCardItBelongsTo)
     EXPECT_EQ(resets.count(), 0);
 }
 
+TEST_F(FindingListModelTest, aSelectionMadeInASheetShowsWhenItCloses)
+{
+    const int caches = rowOf("caches");
+    m_app.setSheet(FindingSheet{"caches"});
+    m_app.setSelection({});
+    EXPECT_EQ(value(caches, FindingListModel::Role::selected).toString(), "61.4 MB");
+    m_app.setSheet(std::nullopt);
+    EXPECT_EQ(value(caches, FindingListModel::Role::selected).toString(), "");
+}
+
 TEST_F(FindingListModelTest, whatIsCleanedTakesOnlyItsOwnCardAway)
 {
     const int cards = m_cards.rowCount();

@@ -10,8 +10,8 @@
 namespace orlen {
 
 /// The findings of the last scan as cards, in display order. Findings that vanish or shrink in a clean-up
-/// change only their own rows; a new scan replaces all. While a sheet covers the cards they keep the selection
-/// they had. Main thread.
+/// change only their own rows; a new scan replaces all. While a sheet covers the cards they keep the
+/// selection they had. Main thread.
 class FindingListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT

@@ -7,6 +7,8 @@ Card {
 
     required property DiskAccessModel access
     signal finished
+    /// The keyboard has come to the way on.
+    signal reached
 
     property bool isCommandShown: false
     readonly property bool besides: root.width > 640 * Theme.textScale
@@ -129,6 +131,10 @@ Card {
             large: true
             text: root.access.granted ? Strings.continueOn : Strings.continueWithoutIt
             onClicked: root.finished()
+            onActiveFocusChanged: {
+                if (go.activeFocus)
+                    root.reached();
+            }
         }
     }
 }

@@ -59,7 +59,7 @@ FocusScope {
     }
 
     // The linter of Qt 6.4 does not know that a parent change takes bindings.
-    // qmllint disable incompatible-type
+    // qmllint disable
     states: [
         State {
             name: "idle"
@@ -110,7 +110,7 @@ FocusScope {
             }
         }
     ]
-    // qmllint enable incompatible-type
+    // qmllint enable
 
     transitions: [
         PhaseTransition {

@@ -89,6 +89,7 @@ Item {
                     width: parent.width
                     access: access
                     onFinished: root.finished()
+                    onReached: flickable.contentY = Math.max(0, flickable.contentHeight - flickable.height)
                 }
             }
         }
