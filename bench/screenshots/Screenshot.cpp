@@ -7,7 +7,9 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
 
@@ -39,9 +41,15 @@ void addOptions(QCommandLineParser& parser)
         {"size", "Width x height", "size", "1100x720"},
         {"text-scale", "Size of texts against the usual", "factor", "1"},
         {"scan", "Run a Smart Scan first"},
+        {"scanning", "Start a Smart Scan and do not wait for its end"},
+        {"click", "Click the items with these object names, separated by commas", "names"},
+        {"keys", "Press these keys, separated by commas", "names"},
+        {"open", "Open the panel with this object name", "name"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
+        {"at-once", "Do not wait for the storage breakdown"},
+        {"still", "Without motion, as for a desktop that asks for none"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -54,10 +62,49 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.startScan();
         wait(kLongestScan, [&] { return model.phase() != Phase::scanning; });
     }
+    if (options.isSet("scanning"))
+        model.startScan();
     if (options.isSet("finding"))
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+}
+
+/// Delegates are no children of what shows them, but they are its child items.
+QQuickItem* itemNamed(QQuickItem* root, const QString& name)
+{
+    if (root->objectName() == name)
+        return root;
+    for (QQuickItem* child : root->childItems()) {
+        if (QQuickItem* found = itemNamed(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+void click(QQuickWindow& window, const QString& name)
+{
+    wait(kSettleMilliseconds, [] { return false; });
+    const QQuickItem* item = itemNamed(window.contentItem(), name);
+    if (item == nullptr) {
+        std::fprintf(stderr, "there is no item %s\n", qPrintable(name));
+        return;
+    }
+    const QPointF place = item->mapToScene(item->boundingRect().center());
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, place, window.mapToGlobal(place), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
+
+void press(QQuickWindow& window, const QString& name)
+{
+    const QKeyCombination combination = QKeySequence::fromString(name)[0];
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, combination.key(), combination.keyboardModifiers());
+        QCoreApplication::sendEvent(&window, &event);
+    }
 }
 
 } // namespace
@@ -74,6 +121,7 @@ int main(int argc, char** argv)
     Appearance::setScheme(options.value("theme") == "dark" ? Appearance::Scheme::dark
                                                            : Appearance::Scheme::light);
     Appearance::setTextScale(options.value("text-scale").toDouble());
+    Appearance::setReducedMotion(options.isSet("still"));
     QSettings().setValue("onboarded", !options.isSet("onboarding"));
 
     AppModel model({});
@@ -84,7 +132,14 @@ int main(int argc, char** argv)
     const QStringList size = options.value("size").split('x');
     window->resize(size.value(0).toInt(), size.value(1).toInt());
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
-    bringAbout(model, options);
+    if (!options.isSet("at-once"))
+        bringAbout(model, options);
+    if (auto* panel = window->findChild<QObject*>(options.value("open")); options.isSet("open") && panel)
+        QMetaObject::invokeMethod(panel, "open");
+    for (const QString& name : options.value("click").split(',', Qt::SkipEmptyParts))
+        click(*window, name);
+    for (const QString& name : options.value("keys").split(',', Qt::SkipEmptyParts))
+        press(*window, name);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

@@ -71,6 +71,11 @@ bool AppModel::checkFDA()
     return DiskAccess::isGranted(Places::current());
 }
 
+void AppModel::refreshAccess()
+{
+    setFdaGranted(checkFDA());
+}
+
 bool AppModel::isStale(std::span<const Snapshot> snapshots, TimePoint now)
 {
     return snapshots.empty() || now - snapshots.back().date > kSnapshotAge;

@@ -115,6 +115,10 @@ public:
     Q_INVOKABLE void cancelScan();
     /// Leaves the results.
     Q_INVOKABLE void resetToIdle();
+    /// Returns to the results of the last scan; ignored when there are none, or while a scan is running.
+    Q_INVOKABLE void showResults();
+    /// Probes the disk access again: the user may have granted it meanwhile.
+    Q_INVOKABLE void refreshAccess();
 
     /// Bytes of all entries of the cleanable findings.
     [[nodiscard]] std::int64_t totalFound() const;

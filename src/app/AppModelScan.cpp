@@ -112,6 +112,12 @@ void AppModel::resetToIdle()
     setPhase(Phase::idle);
 }
 
+void AppModel::showResults()
+{
+    if (m_phase == Phase::idle && !m_findings.empty())
+        setPhase(Phase::results);
+}
+
 std::int64_t AppModel::totalFound() const
 {
     std::int64_t sum = 0;

@@ -3,6 +3,7 @@
 #include "platform/FileContent.h"
 #include "platform/FileStatus.h"
 #include "platform/Folder.h"
+#include "platform/OwnProgram.h"
 #include "platform/Places.h"
 
 #include <algorithm>
@@ -66,10 +67,15 @@ std::optional<std::string> flatpakDescription(const Places& places)
     return readSmallFile(places.systemRoot + "/.flatpak-info", kSandboxFileLimit);
 }
 
+std::string variable(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string() : value;
+}
+
 bool isInSnap()
 {
-    const char* snap = std::getenv("SNAP");
-    return snap != nullptr && *snap != '\0';
+    return !variable("SNAP").empty();
 }
 
 } // namespace
@@ -85,6 +91,15 @@ bool isGranted(const Places& places)
         return isListableOrMissing(places.home + "/.config");
     return isListableOrMissing(places.home) && isListableOrMissing(places.configs.front()) &&
            isListableOrMissing(places.data.front());
+}
+
+std::string grantingCommand(const Places& places)
+{
+    if (flatpakDescription(places))
+        return "flatpak override --user --filesystem=home " + std::string(OwnProgram::identifier());
+    if (isInSnap())
+        return "snap connect " + variable("SNAP_NAME") + ":home";
+    return {};
 }
 
 } // namespace orlen::DiskAccess

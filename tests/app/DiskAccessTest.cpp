@@ -58,4 +58,17 @@ TEST(DiskAccessTest, aSandboxDecidesByWhatItWasGiven)
     }
 }
 
+TEST(DiskAccessTest, aSandboxTellsHowToLeaveIt)
+{
+    const TempHome home;
+    TempHome::reloadPlaces();
+    EXPECT_EQ(DiskAccess::grantingCommand(Places::current()), "");
+    TempHome::setVariable("SNAP", "/snap/orlen/1");
+    TempHome::setVariable("SNAP_NAME", "orlen");
+    EXPECT_EQ(DiskAccess::grantingCommand(Places::current()), "snap connect orlen:home");
+    home.file(home.outside("system/.flatpak-info"), "[Context]\n");
+    TempHome::reloadPlaces();
+    EXPECT_TRUE(DiskAccess::grantingCommand(Places::current()).starts_with("flatpak override --user"));
+}
+
 } // namespace orlen

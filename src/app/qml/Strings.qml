@@ -42,6 +42,7 @@ QtObject {
     readonly property string scanAgain: "Scan again"
     readonly property string homeFooter: "Ratings are suggestions. Orlen only runs while it's open, uploads nothing, hides nothing, and only moves files to the Trash."
     readonly property string filesExamined: "%1 files examined"
+    readonly property string filesExaminedBelow: "files examined"
     readonly property string scanningWithoutAccess: "Full Disk Access isn't granted, so Orlen is scanning only what macOS allows."
     readonly property string safelyFree: "You can safely free %1"
     readonly property string nothingSafe: "Nothing is rated Safe right now"
@@ -49,6 +50,18 @@ QtObject {
     readonly property string scannedWithoutAccess: "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned."
     readonly property string resultsFooter: "Safe, Review and Keep are suggestions from rules and on-device analysis. They can be wrong, so look before you clean. Nothing is permanently deleted: items move to the Trash and can be restored from History."
     readonly property string reviewAndClean: "Review & Clean…"
+    readonly property string largeFilesFrom: "Large files from"
+    readonly property string scanning: "Smart Scan is looking around"
+    readonly property string cancellingScan: "Cancelling…"
+    readonly property string nothingChanged: "Nothing was changed."
+    readonly property string stepPending: "waiting"
+    readonly property string stepRunning: "running"
+    readonly property string stepDone: "done after %1"
+    readonly property string selected: "%1 selected"
+    readonly property string nothingSelected: "Nothing is selected"
+    readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
+    readonly property string findings: "Findings"
+    readonly property string informational: "For information"
 
     // Finding, review and clean-up
     readonly property string nothingLeft: "Nothing left here."
@@ -105,6 +118,7 @@ QtObject {
     readonly property string nothingCleaned: "Nothing cleaned yet."
 
     // How Orlen Works
+    readonly property string safetyTitle: "How Orlen Works"
     readonly property string safetyLead: "What it does, what it never does, and how far to trust it."
     readonly property var safetySections: [
         { symbol: "lock.fill", title: "Private by design", body: "Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time." },
@@ -117,4 +131,26 @@ QtObject {
 
     // Keyboard shortcuts
     readonly property string shortcutsTitle: "Keyboard shortcuts"
+    readonly property var shortcutGroups: [
+        { title: "Everywhere", shortcuts: [
+            { text: "Show a screen", keys: [["Ctrl", "1 … 9"]] },
+            { text: "Start a Smart Scan", keys: [["Ctrl", "R"], ["F5"]] },
+            { text: "Filter the list", keys: [["Ctrl", "F"]] },
+            { text: "Next or previous control", keys: [["Tab"], ["Shift", "Tab"]] },
+            { text: "Close a sheet", keys: [["Esc"]] },
+            { text: "Show these shortcuts", keys: [["Ctrl", "?"], ["F1"]] },
+            { text: "Quit", keys: [["Ctrl", "Q"], ["Ctrl", "W"]] }
+        ] },
+        { title: "Lists and cards", shortcuts: [
+            { text: "Move", keys: [["←"], ["↑"], ["↓"], ["→"]] },
+            { text: "First or last", keys: [["Home"], ["End"]] },
+            { text: "Open", keys: [["Enter"]] },
+            { text: "Preview a file", keys: [["Space"]] }
+        ] },
+        { title: "Disk Map", shortcuts: [
+            { text: "Zoom into a folder", keys: [["Enter"]] },
+            { text: "Go back up", keys: [["Backspace"]] },
+            { text: "Zoom with the wheel", keys: [["Ctrl", "Wheel"]] }
+        ] }
+    ]
 }

@@ -36,6 +36,11 @@ QtObject {
     readonly property color keepBase: "#3478f6"
     readonly property real chipOpacity: root.dark ? 0.18 : 0.14
 
+    /// Badges of texts that belong to no category.
+    readonly property color welcomeTone: "#3b7bf7"
+    readonly property list<color> promiseTones: ["#3b7bf7", "#22ae90", "#f08a24"]
+    readonly property list<color> safetyTones: ["#3b7bf7", "#22ae90", "#5b5fe0", "#f08a24", "#e5484d", "#1fa3a8"]
+
     /// Text sizes in pixels, grown with the desktop's own.
     readonly property real textScale: root.appearance.textScale
     readonly property int heroSize: Math.round(34 * root.textScale)

@@ -1,5 +1,6 @@
 #include "DisplayText.h"
 
+#include "app/cli/Texts.h"
 #include "model/ByteCount.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
@@ -12,6 +13,8 @@
 namespace orlen::DisplayText {
 
 namespace {
+
+constexpr std::chrono::milliseconds kShortestTime{50};
 
 QDateTime local(TimePoint time)
 {
@@ -57,6 +60,18 @@ QString size(std::int64_t bytes)
 QString number(std::int64_t value)
 {
     return QLocale().toString(static_cast<qlonglong>(value));
+}
+
+QString items(std::int64_t count)
+{
+    return text(Texts::counted(count, "item"));
+}
+
+QString duration(std::chrono::duration<double> time)
+{
+    if (time < kShortestTime)
+        return QStringLiteral("< 0.1 s");
+    return text(Texts::duration(time.count()));
 }
 
 QString date(TimePoint time)

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <string_view>
 
@@ -25,6 +26,10 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString size(std::int64_t bytes);
 /// A whole number with the separators of the user's language.
 [[nodiscard]] QString number(std::int64_t value);
+/// "1 item", "12,345 items".
+[[nodiscard]] QString items(std::int64_t count);
+/// "< 0.1 s", "0.4 s", "12 s", "3 min 20 s".
+[[nodiscard]] QString duration(std::chrono::duration<double> time);
 /// A day, in the user's language and time zone.
 [[nodiscard]] QString date(TimePoint time);
 /// A day and the time of the day.

@@ -67,6 +67,17 @@ double StorageModel::usedFraction() const
     return std::clamp(1 - free, 0.0, 1.0);
 }
 
+double StorageModel::fraction(OrlenCategory category) const
+{
+    if (m_app == nullptr || m_app->breakdown().total <= 0)
+        return 0;
+    const auto found = m_app->breakdown().cats.find(category);
+    if (found == m_app->breakdown().cats.end())
+        return 0;
+    const double part = static_cast<double>(found->second) / static_cast<double>(m_app->breakdown().total);
+    return std::clamp(part, 0.0, 1.0);
+}
+
 int StorageModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -85,9 +96,7 @@ QVariant StorageModel::data(const QModelIndex& index, int role) const
     case Role::size:
         return DisplayText::size(row.bytes);
     case Role::fraction:
-        return m_app->breakdown().total <= 0
-                   ? 0.0
-                   : static_cast<double>(row.bytes) / static_cast<double>(m_app->breakdown().total);
+        return fraction(row.category);
     }
     return {};
 }

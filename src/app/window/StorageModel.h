@@ -38,6 +38,8 @@ public:
     [[nodiscard]] QString freeText() const;
     [[nodiscard]] QString totalText() const;
     [[nodiscard]] double usedFraction() const;
+    /// The category's part of the volume's capacity, 0 to 1.
+    [[nodiscard]] double fraction(OrlenCategory category) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -19,7 +19,12 @@ Item {
         contentHeight: column.height + 2 * Theme.pageMargin
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
+        activeFocusOnTab: contentHeight > height
+        Keys.onUpPressed: handle.decrease()
+        Keys.onDownPressed: handle.increase()
+        T.ScrollBar.vertical: ScrollHandle {
+            id: handle
+        }
 
         Column {
             id: column

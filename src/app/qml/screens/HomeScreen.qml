@@ -1,13 +1,144 @@
 import QtQuick
 import Orlen.App
 
-/// Smart Scan.
-ScreenPage {
+/// Smart Scan: before, during and after a scan. One storage ring goes with the phase from place to place.
+FocusScope {
     id: root
 
     required property Navigation navigation
     required property StorageModel storage
 
-    title: "HomeScreen"
-    subtitle: Strings.homeLead
+    readonly property alias home: theHome
+
+    state: root.home.phase === HomeModel.Scanning ? "scanning" : root.home.phase === HomeModel.Results ? "results" : "idle"
+
+    HomeModel {
+        id: theHome
+
+        app: AppModel
+    }
+
+    HomeIdle {
+        id: idle
+
+        anchors.fill: parent
+        enabled: root.state === "idle"
+        visible: opacity > 0
+        opacity: 0
+        home: root.home
+        storage: root.storage
+    }
+
+    HomeScanning {
+        id: scanning
+
+        anchors.fill: parent
+        enabled: root.state === "scanning"
+        visible: opacity > 0
+        opacity: 0
+    }
+
+    HomeResults {
+        id: results
+
+        anchors.fill: parent
+        enabled: root.state === "results"
+        visible: opacity > 0
+        opacity: 0
+        home: root.home
+        storage: root.storage
+        onFindingChosen: id => root.navigation.showFinding(id)
+    }
+
+    StorageGauge {
+        id: ring
+
+        objectName: "storageRing"
+        storage: root.storage
+        breathing: root.state === "scanning" || !root.storage.ready
+    }
+
+    // The linter of Qt 6.4 does not know that a parent change takes bindings.
+    // qmllint disable
+    states: [
+        State {
+            name: "idle"
+
+            PropertyChanges {
+                target: idle
+                opacity: 1
+            }
+            ParentChange {
+                target: ring
+                parent: idle.ringSlot
+                x: 0
+                y: 0
+                width: idle.ringSlot.width
+                height: idle.ringSlot.height
+            }
+        },
+        State {
+            name: "scanning"
+
+            PropertyChanges {
+                target: scanning
+                opacity: 1
+            }
+            ParentChange {
+                target: ring
+                parent: scanning.ringSlot
+                x: 0
+                y: 0
+                width: scanning.ringSlot.width
+                height: scanning.ringSlot.height
+            }
+        },
+        State {
+            name: "results"
+
+            PropertyChanges {
+                target: results
+                opacity: 1
+            }
+            ParentChange {
+                target: ring
+                parent: results.ringSlot
+                x: 0
+                y: 0
+                width: results.ringSlot.width
+                height: results.ringSlot.height
+            }
+        }
+    ]
+    // qmllint enable
+
+    transitions: [
+        PhaseTransition {
+            to: "scanning"
+            over: root
+            arriving: scanning
+            response: 0.7
+            damping: 0.82
+        },
+        PhaseTransition {
+            to: "idle"
+            over: root
+            arriving: idle
+            response: 0.6
+            damping: 0.85
+        },
+        PhaseTransition {
+            to: "results"
+            over: root
+            arriving: results
+            response: 0.8
+            damping: 0.84
+        }
+    ]
+
+    // The button that was pressed is gone: the keyboard goes on with the one that counts now.
+    onStateChanged: {
+        const button = [idle.mainButton, scanning.mainButton, results.mainButton][root.home.phase];
+        button.focus = true;
+    }
 }

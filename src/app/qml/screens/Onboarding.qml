@@ -1,16 +1,97 @@
 import QtQuick
+import QtQuick.Templates as T
 import Orlen.App
 
-/// What a new user sees once.
+/// What a new user sees once: what the program is, what it promises, what it may see.
 Item {
     id: root
 
     signal finished
 
-    AppButton {
-        anchors.centerIn: parent
-        primary: true
-        text: Strings.continueWithoutIt
-        onClicked: root.finished()
+    DiskAccessModel {
+        id: access
+
+        app: AppModel
+    }
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        contentHeight: page.height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        Item {
+            id: page
+
+            width: flickable.width
+            height: Math.max(flickable.height, column.height + 2 * 28)
+
+            Column {
+                id: column
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: Math.max(28, Math.round((page.height - height) / 2))
+                width: Math.min(page.width - 2 * Theme.pageMargin, Math.round(940 * Math.min(1.2, Theme.textScale)))
+                spacing: 0
+
+                Badge {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    name: "sparkles"
+                    tone: Theme.welcomeTone
+                    size: root.height < 660 ? 56 : 72
+                }
+
+                Text {
+                    width: parent.width
+                    topPadding: 14
+                    horizontalAlignment: Text.AlignHCenter
+                    text: Strings.welcomeTitle
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WordWrap
+                    color: Theme.text
+                    font.pixelSize: Theme.heroSize
+                    font.weight: Font.Bold
+                    font.letterSpacing: -1
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+
+                Text {
+                    width: parent.width
+                    topPadding: 4
+                    bottomPadding: root.height < 660 ? 18 : 28
+                    horizontalAlignment: Text.AlignHCenter
+                    text: Strings.welcomeSubtitle
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WordWrap
+                    color: Theme.secondary
+                    font.pixelSize: Theme.headlineSize
+                }
+
+                TextCardGrid {
+                    width: parent.width
+                    texts: Strings.promises
+                    tones: Theme.promiseTones
+                    most: column.width < 700 * Theme.textScale ? 1 : 3
+                    narrowest: 200
+                    beside: most === 1
+                }
+
+                Item {
+                    width: 1
+                    height: 16
+                }
+
+                AccessCard {
+                    width: parent.width
+                    access: access
+                    onFinished: root.finished()
+                    onReached: flickable.contentY = Math.max(0, flickable.contentHeight - flickable.height)
+                }
+            }
+        }
     }
 }

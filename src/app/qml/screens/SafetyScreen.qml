@@ -5,6 +5,13 @@ import Orlen.App
 ScreenPage {
     id: root
 
-    title: "SafetyScreen"
+    title: Strings.safetyTitle
     subtitle: Strings.safetyLead
+
+    TextCardGrid {
+        width: Math.min(root.contentWidth, 1080 * Theme.textScale)
+        texts: Strings.safetySections
+        tones: Theme.safetyTones
+        beside: true
+    }
 }

@@ -1,0 +1,113 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// A quiet field that offers a few values in a list below it.
+T.ComboBox {
+    id: root
+
+    /// What is chosen here, for a screen reader.
+    required property string label
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.round(28 * Math.max(1, Theme.textScale * 0.9))
+    leftPadding: 10
+    rightPadding: 26
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Accessible.name: root.label + " " + root.displayText
+
+    Keys.onReturnPressed: root.popup.open()
+    Keys.onEnterPressed: root.popup.open()
+
+    contentItem: Text {
+        text: root.displayText
+        textFormat: Text.PlainText
+        verticalAlignment: Text.AlignVCenter
+        color: Theme.text
+        font.pixelSize: Theme.smallSize
+        font.weight: Font.DemiBold
+        Accessible.ignored: true
+    }
+
+    indicator: Symbol {
+        x: root.width - width - 10
+        y: (root.height - height) / 2
+        name: "chevron.down"
+        colour: Theme.secondary
+        size: 10
+    }
+
+    background: Rectangle {
+        radius: 7
+        color: root.hovered || root.down ? Theme.hover : Theme.inset
+        border.width: 1
+        border.color: Theme.stroke
+
+        FocusRing {
+            shown: root.visualFocus
+            gap: 2
+        }
+    }
+
+    delegate: T.ItemDelegate {
+        id: choice
+
+        required property int index
+        required property string modelData
+
+        width: ListView.view ? ListView.view.width : 0
+        implicitHeight: Math.round(30 * Math.max(1, Theme.textScale * 0.9))
+        highlighted: root.highlightedIndex === choice.index
+        text: choice.modelData
+        Accessible.name: choice.modelData
+
+        contentItem: Text {
+            leftPadding: 26
+            text: choice.modelData
+            textFormat: Text.PlainText
+            verticalAlignment: Text.AlignVCenter
+            color: Theme.text
+            font.pixelSize: Theme.smallSize
+            font.weight: root.currentIndex === choice.index ? Font.DemiBold : Font.Normal
+            Accessible.ignored: true
+        }
+
+        background: Rectangle {
+            radius: 6
+            color: choice.highlighted ? Theme.hover : "transparent"
+
+            Symbol {
+                x: 8
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.currentIndex === choice.index
+                name: "checkmark"
+                colour: Theme.accent
+                size: 12
+            }
+        }
+    }
+
+    popup: T.Popup {
+        y: root.height + 4
+        width: Math.max(root.width, 112)
+        implicitHeight: contentHeight + topPadding + bottomPadding
+        margins: 8
+        padding: 4
+
+        contentItem: ListView {
+            implicitHeight: contentHeight
+            clip: true
+            model: root.delegateModel
+            currentIndex: root.highlightedIndex
+            boundsBehavior: Flickable.StopAtBounds
+        }
+
+        background: Rectangle {
+            radius: 9
+            color: Theme.card
+            border.width: 1
+            border.color: Theme.stroke
+        }
+    }
+}

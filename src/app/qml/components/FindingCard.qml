@@ -1,0 +1,136 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// One finding: what it is, how much it holds, how it is rated, how much of it is selected.
+T.AbstractButton {
+    id: root
+
+    required property string findingId
+    required property string title
+    required property string symbol
+    required property color tone
+    required property string rating
+    required property string ratingLabel
+    required property string ratingSymbol
+    required property string size
+    required property string count
+    required property string selected
+    required property bool cleanable
+
+    readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
+
+    implicitHeight: Math.round(92 * Theme.textScale) + 40
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    text: root.title
+    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + (root.cleanable ? root.ratingLabel : Strings.informational)
+
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+
+    contentItem: Item {
+        Badge {
+            x: 16
+            y: 16
+            name: root.symbol
+            tone: root.tone
+            size: 32
+        }
+
+        RatingChip {
+            anchors.right: parent.right
+            anchors.rightMargin: 14
+            y: 16
+            rating: root.rating
+            label: root.ratingLabel
+            symbol: root.ratingSymbol
+            Accessible.ignored: true
+        }
+
+        Note {
+            anchors.right: parent.right
+            anchors.rightMargin: 14
+            y: 19
+            width: informational.advanceWidth + 24
+            visible: !root.cleanable
+            text: Strings.informational
+            Accessible.ignored: true
+
+            TextMetrics {
+                id: informational
+
+                font.pixelSize: Theme.captionSize
+                text: Strings.informational
+            }
+        }
+
+        Text {
+            id: name
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.margins: 16
+            anchors.bottom: figure.top
+            anchors.bottomMargin: 3
+            text: root.title
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+
+        Text {
+            id: figure
+
+            x: 16
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 15
+            text: root.size
+            textFormat: Text.PlainText
+            color: root.cleanable ? Theme.text : Theme.secondary
+            font.pixelSize: Theme.titleSize
+            font.weight: Font.Bold
+            font.letterSpacing: -0.3
+            Accessible.ignored: true
+        }
+
+        Text {
+            anchors.left: figure.right
+            anchors.leftMargin: 10
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.baseline: figure.baseline
+            horizontalAlignment: Text.AlignRight
+            text: root.amount
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: root.selected === "" ? Theme.tertiary : Theme.accent
+            font.pixelSize: Theme.captionSize
+            font.weight: root.selected === "" ? Font.Normal : Font.DemiBold
+            Accessible.ignored: true
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.cardRadius
+        color: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
+        border.width: 1
+        border.color: root.hovered ? Theme.accent : Theme.stroke
+
+        Behavior on border.color {
+            ColorAnimation {
+                duration: Theme.hoverDuration
+            }
+        }
+
+        FocusRing {
+            shown: root.visualFocus
+            shape: Theme.cardRadius
+        }
+    }
+}

@@ -1,0 +1,38 @@
+import QtQuick
+import Orlen.App
+
+/// A key of the keyboard.
+Rectangle {
+    id: root
+
+    required property string text
+
+    implicitWidth: Math.max(label.implicitWidth + 14, implicitHeight)
+    implicitHeight: Math.round(24 * Theme.textScale)
+    radius: 6
+    color: Theme.inset
+    border.width: 1
+    border.color: Theme.stroke
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 1
+        height: 2
+        radius: 1
+        color: Theme.stroke
+    }
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -1
+        text: root.text
+        textFormat: Text.PlainText
+        color: Theme.text
+        font.pixelSize: Theme.captionSize
+        font.weight: Font.DemiBold
+    }
+}

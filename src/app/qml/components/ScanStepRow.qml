@@ -1,0 +1,102 @@
+import QtQuick
+import Orlen.App
+
+/// One step of a scan: to come, at work, or done after a time.
+Item {
+    id: root
+
+    required property string label
+    required property int state
+    required property string duration
+
+    readonly property bool isRunning: root.state === ScanProgressModel.Running
+    readonly property bool isDone: root.state === ScanProgressModel.Done
+
+    implicitHeight: Math.round(32 * Theme.textScale)
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.label
+    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration) : root.isRunning ? Strings.stepRunning : Strings.stepPending
+
+    Item {
+        id: mark
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: 18
+        height: 18
+
+        Symbol {
+            anchors.fill: parent
+            visible: root.isDone
+            name: "checkmark.circle.fill"
+            colour: Theme.safeText
+            size: 18
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 1
+            visible: !root.isDone
+            radius: width / 2
+            color: "transparent"
+            border.width: 1.5
+            border.color: root.isRunning ? Theme.accent : Theme.tertiary
+            opacity: root.isRunning ? 1 : 0.5
+        }
+
+        Rectangle {
+            id: dot
+
+            anchors.centerIn: parent
+            visible: root.isRunning
+            width: 8
+            height: 8
+            radius: 4
+            color: Theme.accent
+
+            SequentialAnimation on scale {
+                running: root.isRunning && Theme.moves
+                loops: Animation.Infinite
+
+                NumberAnimation {
+                    from: 0.7
+                    to: 1.1
+                    duration: 700
+                    easing.type: Easing.InOutSine
+                }
+                NumberAnimation {
+                    from: 1.1
+                    to: 0.7
+                    duration: 700
+                    easing.type: Easing.InOutSine
+                }
+            }
+        }
+    }
+
+    Text {
+        anchors.left: mark.right
+        anchors.leftMargin: 12
+        anchors.right: time.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.label
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: root.isRunning || root.isDone ? Theme.text : Theme.tertiary
+        font.pixelSize: Theme.bodySize
+        font.weight: root.isRunning ? Font.DemiBold : Font.Medium
+        Accessible.ignored: true
+    }
+
+    Text {
+        id: time
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.duration
+        textFormat: Text.PlainText
+        color: Theme.tertiary
+        font.pixelSize: Theme.captionSize
+        Accessible.ignored: true
+    }
+}

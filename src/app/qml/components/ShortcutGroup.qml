@@ -1,0 +1,90 @@
+import QtQuick
+import Orlen.App
+
+/// Some keys and what they do, below a heading.
+Column {
+    id: root
+
+    required property string title
+    /// What each does, and its keys: those of one stroke, then perhaps those of another.
+    required property var shortcuts
+
+    spacing: 0
+
+    Text {
+        width: parent.width
+        bottomPadding: 6
+        text: root.title
+        textFormat: Text.PlainText
+        color: Theme.tertiary
+        font.pixelSize: Theme.captionSize
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Repeater {
+        model: root.shortcuts
+
+        Item {
+            id: row
+
+            required property int index
+            required property var modelData
+
+            width: root.width
+            height: Math.round(36 * Theme.textScale)
+            Accessible.role: Accessible.ListItem
+            Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: Theme.stroke
+            }
+
+            Text {
+                anchors.left: parent.left
+                anchors.right: strokes.left
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.modelData.text
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.bodySize
+                Accessible.ignored: true
+            }
+
+            Row {
+                id: strokes
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 10
+
+                Repeater {
+                    model: row.modelData.keys
+
+                    Row {
+                        id: stroke
+
+                        required property var modelData
+
+                        spacing: 4
+
+                        Repeater {
+                            model: stroke.modelData
+
+                            KeyCap {
+                                required property string modelData
+
+                                text: modelData
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,68 @@
+import QtQuick
+import Orlen.App
+
+/// What the colours of the storage ring mean, in columns of one width.
+Grid {
+    id: root
+
+    required property StorageModel storage
+    /// Room for the legend; it takes as many columns as fit.
+    required property real room
+
+    readonly property real narrowest: 140 * Theme.textScale
+    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Math.round(168 * Theme.textScale))
+
+    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
+    columnSpacing: 4
+    rowSpacing: 8
+    Accessible.role: Accessible.List
+
+    Repeater {
+        model: root.storage
+
+        Item {
+            id: row
+
+            required property string label
+            required property color colour
+            required property string size
+
+            width: root.cellWidth
+            height: name.height
+            Accessible.role: Accessible.ListItem
+            Accessible.name: row.label + " " + row.size
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 8
+                height: 8
+                radius: 4
+                color: row.colour
+            }
+
+            Text {
+                id: name
+
+                x: 16
+                text: row.label
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.captionSize
+                Accessible.ignored: true
+            }
+
+            Text {
+                anchors.left: name.right
+                anchors.leftMargin: 6
+                anchors.right: parent.right
+                text: row.size
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.captionSize
+                font.weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+        }
+    }
+}

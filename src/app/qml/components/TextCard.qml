@@ -1,0 +1,68 @@
+import QtQuick
+import Orlen.App
+
+/// A headline with a badge and what there is to say about it.
+Card {
+    id: root
+
+    required property string symbol
+    required property color tone
+    required property string title
+    required property string body
+    /// Whether the headline stands beside the badge.
+    property bool beside: false
+
+    implicitHeight: column.height + 36
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.title + ". " + root.body
+
+    Column {
+        id: column
+
+        x: 20
+        y: 18
+        width: root.width - 40
+        spacing: root.beside ? 10 : 8
+
+        Badge {
+            visible: !root.beside
+            name: root.symbol
+            tone: root.tone
+            size: 36
+        }
+
+        Text {
+            width: parent.width
+            height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
+            leftPadding: root.beside ? 44 : 0
+            topPadding: root.beside ? 0 : 4
+            verticalAlignment: Text.AlignVCenter
+            text: root.title
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            color: Theme.text
+            font.pixelSize: Theme.headlineSize
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+
+            Badge {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.beside
+                name: root.symbol
+                tone: root.tone
+                size: 32
+            }
+        }
+
+        Text {
+            width: parent.width
+            text: root.body
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            lineHeight: 1.25
+            color: Theme.secondary
+            font.pixelSize: Theme.bodySize
+            Accessible.ignored: true
+        }
+    }
+}

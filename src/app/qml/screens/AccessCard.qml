@@ -1,0 +1,140 @@
+import QtQuick
+import Orlen.App
+
+/// What Full Disk Access is for, how to give it, and the way on with or without it.
+Card {
+    id: root
+
+    required property DiskAccessModel access
+    signal finished
+    /// The keyboard has come to the way on.
+    signal reached
+
+    property bool isCommandShown: false
+    readonly property bool besides: root.width > 640 * Theme.textScale
+
+    implicitHeight: (root.besides ? Math.max(words.height, buttons.height) : words.height + 16 + buttons.height) + 40
+
+    Column {
+        id: words
+
+        x: 20
+        y: root.besides ? Math.round((root.height - height) / 2) : 20
+        width: root.width - 40 - (root.besides ? buttons.width + 32 : 0)
+        spacing: 6
+
+        Text {
+            width: parent.width
+            text: Strings.accessTitle
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            color: Theme.text
+            font.pixelSize: Theme.headlineSize
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        Text {
+            width: parent.width
+            text: Strings.accessBody
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            lineHeight: 1.25
+            color: Theme.secondary
+            font.pixelSize: Theme.smallSize
+        }
+
+        Note {
+            width: parent.width
+            topPadding: 4
+            visible: root.access.granted
+            symbol: "checkmark.circle.fill"
+            ink: Theme.safeText
+            text: Strings.accessOn
+        }
+
+        Row {
+            width: parent.width
+            visible: root.isCommandShown
+            spacing: 8
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(parent.width - copy.width - 8, command.implicitWidth + 20)
+                height: command.height + 12
+                radius: 6
+                color: Theme.inset
+
+                Text {
+                    id: command
+
+                    x: 10
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: parent.width - 20
+                    text: root.access.command
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WrapAnywhere
+                    color: Theme.text
+                    font.family: "monospace"
+                    font.pixelSize: Theme.captionSize
+                }
+            }
+
+            IconButton {
+                id: copy
+
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "copy"
+                text: Strings.copy
+                onClicked: root.access.copyCommand()
+            }
+        }
+
+        Text {
+            width: parent.width
+            visible: !root.access.granted
+            text: Strings.accessHint
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            lineHeight: 1.25
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+        }
+    }
+
+    Column {
+        id: buttons
+
+        anchors.right: root.besides ? parent.right : undefined
+        anchors.rightMargin: 20
+        x: 20
+        y: root.besides ? Math.round((root.height - height) / 2) : root.height - height - 20
+        spacing: 10
+
+        AppButton {
+            id: settings
+
+            objectName: "openPrivacySettings"
+            width: go.width
+            visible: !root.access.granted && root.access.command !== ""
+            text: Strings.openPrivacySettings
+            onClicked: root.isCommandShown = true
+        }
+
+        AppButton {
+            id: go
+
+            objectName: "continue"
+            width: Math.max(implicitWidth, settings.visible ? settings.implicitWidth : 0, 168)
+            primary: true
+            large: true
+            text: root.access.granted ? Strings.continueOn : Strings.continueWithoutIt
+            onClicked: root.finished()
+            onActiveFocusChanged: {
+                if (go.activeFocus)
+                    root.reached();
+            }
+        }
+    }
+}

@@ -1,0 +1,169 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// Smart Scan before a scan: the storage as a ring, and the button that starts one.
+Item {
+    id: root
+
+    required property HomeModel home
+    required property StorageModel storage
+
+    /// Where the storage ring belongs.
+    readonly property alias ringSlot: slot
+    readonly property alias mainButton: start
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        contentHeight: page.height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        Item {
+            id: page
+
+            width: flickable.width
+            height: Math.max(flickable.height, column.height + footer.height + 3 * 24)
+
+            Column {
+                id: column
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: Math.max(24, Math.round((page.height - footer.height - 48 - height) / 2))
+                width: page.width - 2 * Theme.pageMargin
+                spacing: 0
+
+                Item {
+                    id: slot
+
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.round(Math.max(168, Math.min(248, root.height * 0.345)))
+                    height: width
+
+                    FreeSpace {
+                        anchors.centerIn: parent
+                        width: parent.width * 0.72
+                        storage: root.storage
+                        large: true
+                    }
+                }
+
+                Item {
+                    width: parent.width
+                    height: Math.max(legend.height, looking.height) + 44
+
+                    StorageLegend {
+                        id: legend
+
+                        anchors.centerIn: parent
+                        visible: root.storage.ready
+                        storage: root.storage
+                        room: parent.width
+                    }
+
+                    Text {
+                        id: looking
+
+                        anchors.centerIn: parent
+                        visible: !root.storage.ready
+                        text: Strings.lookingAtStorage
+                        textFormat: Text.PlainText
+                        color: Theme.tertiary
+                        font.pixelSize: Theme.smallSize
+                    }
+                }
+
+                Text {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
+                    horizontalAlignment: Text.AlignHCenter
+                    text: Strings.homeLead
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WordWrap
+                    color: Theme.text
+                    font.pixelSize: Theme.titleSize
+                    font.weight: Font.Bold
+                    font.letterSpacing: -0.3
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+
+                Item {
+                    width: 1
+                    height: 20
+                }
+
+                AppButton {
+                    id: start
+
+                    objectName: "startScan"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    primary: true
+                    large: true
+                    leftPadding: 24
+                    rightPadding: 24
+                    symbol: "sparkles"
+                    text: Strings.startScan
+                    onClicked: AppModel.startScan()
+                }
+
+                Item {
+                    width: 1
+                    height: 16
+                }
+
+                Row {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    spacing: 8
+
+                    Text {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: Strings.largeFilesFrom
+                        textFormat: Text.PlainText
+                        color: Theme.secondary
+                        font.pixelSize: Theme.smallSize
+                        Accessible.ignored: true
+                    }
+
+                    ChoiceField {
+                        objectName: "largeThreshold"
+                        anchors.verticalCenter: parent.verticalCenter
+                        label: Strings.largeFilesFrom
+                        model: root.home.thresholds
+                        currentIndex: root.home.threshold
+                        displayText: root.home.thresholdText
+                        onActivated: index => root.home.threshold = index
+                    }
+                }
+
+                AppButton {
+                    objectName: "showResults"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    visible: root.home.hasFindings
+                    quiet: true
+                    text: Strings.showResults
+                    onClicked: AppModel.showResults()
+                }
+            }
+
+            Text {
+                id: footer
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: 24
+                width: Math.min(parent.width - 2 * Theme.pageMargin, 760 * Theme.textScale)
+                horizontalAlignment: Text.AlignHCenter
+                text: Strings.homeFooter
+                textFormat: Text.PlainText
+                wrapMode: Text.WordWrap
+                lineHeight: 1.25
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+            }
+        }
+    }
+}

@@ -1,0 +1,98 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// Smart Scan after a scan: what can be freed, and a card for each finding.
+Item {
+    id: root
+
+    required property HomeModel home
+    required property StorageModel storage
+    signal findingChosen(id: string)
+
+    /// Where the storage ring belongs.
+    readonly property alias ringSlot: header.ringSlot
+    readonly property alias mainButton: header.mainButton
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        contentHeight: page.height + 2 * Theme.pageMargin
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        Column {
+            id: page
+
+            x: Math.round((flickable.width - width) / 2)
+            y: Theme.pageMargin
+            width: Math.min(flickable.width - 2 * Theme.pageMargin, 1240)
+            spacing: 24
+
+            HomeResultsHeader {
+                id: header
+
+                width: parent.width
+                home: root.home
+                storage: root.storage
+            }
+
+            FindingGrid {
+                id: grid
+
+                objectName: "findings"
+                width: parent.width
+                visible: root.home.hasFindings
+                onChosen: id => root.findingChosen(id)
+                onReached: card => flickable.show(card)
+            }
+
+            EmptyState {
+                width: parent.width
+                topPadding: 32
+                bottomPadding: 32
+                visible: !root.home.hasFindings
+                symbol: "checkmark"
+                tone: Theme.safeBase
+                text: Strings.nothingFound
+            }
+
+            Column {
+                width: parent.width
+                spacing: 8
+
+                Note {
+                    width: Math.min(parent.width, 760 * Theme.textScale)
+                    visible: !AppModel.fdaGranted
+                    text: Strings.scannedWithoutAccess
+                }
+
+                Note {
+                    width: Math.min(parent.width, 760 * Theme.textScale)
+                    text: Strings.resultsFooter
+                }
+            }
+        }
+
+        NumberAnimation {
+            id: scrolling
+
+            target: flickable
+            property: "contentY"
+            duration: Theme.screenDuration
+            easing.type: Easing.OutCubic
+        }
+
+        /// Scrolls as far as needed for the item to stand free of the edges.
+        function show(item: Item) {
+            const top = item.mapToItem(flickable.contentItem, 0, 0).y - 16;
+            const bottom = top + item.height + 32;
+            const last = Math.max(0, flickable.contentHeight - flickable.height);
+            const goal = top < flickable.contentY ? top : Math.max(flickable.contentY, bottom - flickable.height);
+            scrolling.to = Math.max(0, Math.min(last, goal));
+            scrolling.restart();
+        }
+    }
+}

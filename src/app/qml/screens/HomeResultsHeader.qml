@@ -1,0 +1,118 @@
+import QtQuick
+import Orlen.App
+
+/// Above the findings: the storage, what can be freed, and what to do about it.
+Item {
+    id: root
+
+    required property HomeModel home
+    required property StorageModel storage
+
+    /// Where the storage ring belongs.
+    readonly property alias ringSlot: slot
+    readonly property Item mainButton: review.enabled ? review : again
+    readonly property bool narrow: root.width < 640 * Theme.textScale
+
+    implicitHeight: Math.max(slot.height, words.height) + (root.narrow ? legend.height + 20 : 0)
+
+    Item {
+        id: slot
+
+        width: root.narrow ? Math.round(112 * Math.min(1.25, Theme.textScale)) : 164
+        height: width
+
+        FreeSpace {
+            anchors.centerIn: parent
+            width: parent.width * 0.72
+            storage: root.storage
+        }
+    }
+
+    Column {
+        id: words
+
+        anchors.left: slot.right
+        anchors.leftMargin: root.narrow ? 20 : 32
+        anchors.right: parent.right
+        y: Math.max(0, Math.round((slot.height - height) / 2))
+        spacing: 0
+
+        Text {
+            objectName: "heroSentence"
+            width: parent.width
+            text: root.home.hasSafe ? Strings.safelyFree.arg(root.home.safeText) : Strings.nothingSafe
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            color: Theme.text
+            font.pixelSize: root.narrow ? Theme.titleSize : Theme.heroSize
+            font.weight: Font.Bold
+            font.letterSpacing: root.narrow ? -0.3 : -1
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        Text {
+            width: parent.width
+            topPadding: 4
+            text: Strings.reviewInTotal.arg(root.home.totalText)
+            textFormat: Text.PlainText
+            wrapMode: Text.WordWrap
+            color: Theme.secondary
+            font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
+        }
+
+        Item {
+            width: 1
+            height: 16
+        }
+
+        Flow {
+            width: parent.width
+            spacing: 10
+
+            AppButton {
+                id: review
+
+                objectName: "reviewAndClean"
+                primary: true
+                enabled: root.home.hasSelection
+                text: Strings.reviewAndClean
+                onClicked: root.home.review()
+            }
+
+            AppButton {
+                id: again
+
+                objectName: "scanAgain"
+                symbol: "arrow.clockwise"
+                text: Strings.scanAgain
+                onClicked: AppModel.startScan()
+            }
+
+            Text {
+                height: Theme.controlHeight
+                leftPadding: 4
+                verticalAlignment: Text.AlignVCenter
+                visible: root.home.hasFindings && !root.narrow
+                text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
+                textFormat: Text.PlainText
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+            }
+        }
+
+        Item {
+            width: 1
+            height: root.narrow ? 0 : legend.height + 16
+        }
+    }
+
+    StorageLegend {
+        id: legend
+
+        x: root.narrow ? 0 : words.x
+        anchors.bottom: root.narrow ? parent.bottom : words.bottom
+        storage: root.storage
+        room: root.narrow ? root.width : words.width
+    }
+}

@@ -1,0 +1,160 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// Smart Scan during a scan: its steps, what it is looking at, and the way to end it.
+Item {
+    id: root
+
+    /// Where the storage ring belongs.
+    readonly property alias ringSlot: slot
+    readonly property alias mainButton: cancel
+
+    ScanProgressModel {
+        id: progress
+
+        app: AppModel
+    }
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        contentHeight: page.height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        Item {
+            id: page
+
+            readonly property real inner: Math.min(width - 2 * Theme.pageMargin, 820)
+
+            width: flickable.width
+            height: Math.max(flickable.height, panel.height + 2 * 24)
+
+            Column {
+                id: side
+
+                x: Math.round((page.width - page.inner) / 2)
+                y: Math.round((flickable.height - height) / 2)
+                spacing: 24
+
+                Item {
+                    id: slot
+
+                    width: Math.round(Math.max(128, Math.min(232, page.inner * 0.3)))
+                    height: width
+
+                    Column {
+                        anchors.centerIn: parent
+                        width: parent.width * 0.7
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: Strings.filesExamined.arg(progress.files)
+
+                        Text {
+                            objectName: "filesExamined"
+                            width: parent.width
+                            horizontalAlignment: Text.AlignHCenter
+                            text: progress.files
+                            textFormat: Text.PlainText
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 12
+                            color: Theme.text
+                            font.pixelSize: Math.max(12, Math.min(Theme.titleSize + 6, parent.width * 0.2))
+                            font.weight: Font.Bold
+                            font.letterSpacing: -0.5
+                            Accessible.ignored: true
+                        }
+
+                        Text {
+                            width: parent.width
+                            horizontalAlignment: Text.AlignHCenter
+                            text: Strings.filesExaminedBelow
+                            textFormat: Text.PlainText
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 10
+                            color: Theme.secondary
+                            font.pixelSize: Math.max(10, Math.min(Theme.smallSize, parent.width * 0.12))
+                            Accessible.ignored: true
+                        }
+                    }
+                }
+
+                AppButton {
+                    id: cancel
+
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    objectName: "cancelScan"
+                    enabled: !progress.cancelling
+                    text: Strings.cancel
+                    onClicked: progress.cancel()
+                    Keys.onEscapePressed: progress.cancel()
+                }
+            }
+
+            Column {
+                id: panel
+
+                anchors.left: side.right
+                anchors.leftMargin: Math.round(page.inner * 0.07)
+                width: Math.round(page.inner * 0.93 - slot.width)
+                y: Math.max(24, Math.round((page.height - height) / 2))
+                spacing: 14
+
+                Text {
+                    width: parent.width
+                    text: progress.cancelling ? Strings.cancellingScan : Strings.scanning
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WordWrap
+                    color: Theme.text
+                    font.pixelSize: Theme.titleSize
+                    font.weight: Font.Bold
+                    font.letterSpacing: -0.3
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+
+                Card {
+                    width: parent.width
+                    height: steps.height + 20
+
+                    Column {
+                        id: steps
+
+                        x: 16
+                        y: 10
+                        width: parent.width - 32
+                        opacity: progress.cancelling ? 0.5 : 1
+                        Accessible.role: Accessible.List
+                        Accessible.name: Strings.scanning
+
+                        Repeater {
+                            model: progress
+
+                            ScanStepRow {
+                                width: steps.width
+                            }
+                        }
+                    }
+                }
+
+                Text {
+                    objectName: "currentPath"
+                    width: parent.width
+                    text: progress.cancelling ? Strings.nothingChanged : progress.current
+                    textFormat: Text.PlainText
+                    elide: Text.ElideMiddle
+                    color: Theme.tertiary
+                    font.pixelSize: Theme.captionSize
+                }
+
+                Note {
+                    width: parent.width
+                    visible: !AppModel.fdaGranted
+                    text: Strings.scanningWithoutAccess
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "app/AppModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+/// What Smart Scan shows beside the lists: its state, the figures of the results, the setting for large
+/// files. Main thread.
+class HomeModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
+    /// Whether the last scan left findings.
+    Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY resultsChanged)
+    Q_PROPERTY(bool hasSafe READ hasSafe NOTIFY resultsChanged)
+    /// Bytes rated Safe, and of everything that could be reviewed.
+    Q_PROPERTY(QString safeText READ safeText NOTIFY resultsChanged)
+    Q_PROPERTY(QString totalText READ totalText NOTIFY resultsChanged)
+    /// When the last scan ended; empty before the first.
+    Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY lastScanChanged)
+    Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
+    /// "12 items"
+    Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
+    /// Sizes from which a file may count as large, and which of them does; -1 for another one.
+    Q_PROPERTY(QStringList thresholds READ thresholds CONSTANT)
+    Q_PROPERTY(int threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
+    Q_PROPERTY(QString thresholdText READ thresholdText NOTIFY thresholdChanged)
+
+public:
+    /// As `orlen::Phase`.
+    enum Phase { Idle, Scanning, Results };
+    Q_ENUM(Phase)
+
+    using QObject::QObject;
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] Phase phase() const;
+    [[nodiscard]] bool hasFindings() const;
+    [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
+    [[nodiscard]] QString safeText() const;
+    [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString lastScanText() const;
+    [[nodiscard]] bool hasSelection() const;
+    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] static QStringList thresholds();
+    [[nodiscard]] int threshold() const;
+    void setThreshold(int index);
+    [[nodiscard]] QString thresholdText() const;
+
+    /// Opens the review of everything that is selected.
+    Q_INVOKABLE void review();
+
+Q_SIGNALS:
+    void appChanged();
+    void phaseChanged();
+    void resultsChanged();
+    void lastScanChanged();
+    void selectionChanged();
+    void thresholdChanged();
+
+private:
+    void countResults();
+
+    AppModel* m_app = nullptr;
+    std::int64_t m_safeBytes = 0;
+    std::int64_t m_totalBytes = 0;
+};
+
+} // namespace orlen

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "scan/ScanProgress.h"
+
+#include <QAbstractListModel>
+#include <QString>
+#include <QTimer>
+#include <QtQml/qqmlregistration.h>
+
+#include <vector>
+
+namespace orlen {
+
+/// The steps of the running scan, one row each, and what it is looking at. Looks at the scan's progress
+/// several times a second while one runs. Main thread.
+class ScanProgressModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Number of files examined so far.
+    Q_PROPERTY(QString files READ files NOTIFY changed)
+    /// What is being examined; empty at the start.
+    Q_PROPERTY(QString current READ current NOTIFY changed)
+    /// Whether the user has asked this scan to end.
+    Q_PROPERTY(bool cancelling READ isCancelling NOTIFY cancellingChanged)
+
+public:
+    enum State { Pending, Running, Done };
+    Q_ENUM(State)
+
+    enum class Role {
+        label = Qt::UserRole, ///< name of the step
+        state,                ///< a `State`
+        duration,             ///< of a step that is done, as text; else empty
+    };
+
+    explicit ScanProgressModel(QObject* parent = nullptr);
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] QString files() const;
+    [[nodiscard]] QString current() const { return m_current; }
+    [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
+
+    /// Asks the running scan to end.
+    Q_INVOKABLE void cancel();
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void appChanged();
+    void changed();
+    void cancellingChanged();
+
+private:
+    void followPhase();
+    void poll();
+    void setSteps(std::vector<ScanStep> steps);
+
+    AppModel* m_app = nullptr;
+    QTimer m_timer;
+    std::vector<ScanStep> m_steps; ///< all steps of a scan at any time, pending before it has begun
+    std::int64_t m_files = 0;
+    QString m_current;
+    bool m_isCancelling = false;
+};
+
+} // namespace orlen
