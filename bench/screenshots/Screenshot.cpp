@@ -7,6 +7,8 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QSettings>
@@ -41,6 +43,8 @@ void addOptions(QCommandLineParser& parser)
         {"scan", "Run a Smart Scan first"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
+        {"clean", "Move the plan of the selection to the Trash after the scan"},
+        {"keys", "Keys to press then, as in \"Down,Down,Space\"", "names"},
         {"onboarding", "Show the onboarding"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
@@ -50,7 +54,8 @@ void addOptions(QCommandLineParser& parser)
 void bringAbout(AppModel& model, const QCommandLineParser& options)
 {
     wait(kLongestScan, [&] { return model.isBreakdownReady(); });
-    if (options.isSet("scan") || options.isSet("finding") || options.isSet("review")) {
+    if (options.isSet("scan") || options.isSet("finding") || options.isSet("review") ||
+        options.isSet("clean")) {
         model.startScan();
         wait(kLongestScan, [&] { return model.phase() != Phase::scanning; });
     }
@@ -58,6 +63,24 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+    if (options.isSet("clean"))
+        model.confirm(model.scanPlan(), model.selection());
+}
+
+void pressKeys(QQuickWindow& window, const QString& names)
+{
+    const QStringList keys = names.split(u',', Qt::SkipEmptyParts);
+    if (keys.isEmpty())
+        return;
+    wait(kSettleMilliseconds, [] { return false; });
+    for (const QString& name : keys) {
+        const QKeyCombination key = QKeySequence::fromString(name)[0];
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key.key(), key.keyboardModifiers(),
+                            name.size() == 1 ? name.toLower() : QString());
+            QCoreApplication::sendEvent(&window, &event);
+        }
+    }
 }
 
 } // namespace
@@ -85,6 +108,7 @@ int main(int argc, char** argv)
     window->resize(size.value(0).toInt(), size.value(1).toInt());
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     bringAbout(model, options);
+    pressKeys(*window, options.value("keys"));
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

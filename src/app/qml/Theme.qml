@@ -36,6 +36,7 @@ QtObject {
     readonly property color keepBase: "#3478f6"
     readonly property real chipOpacity: root.dark ? 0.18 : 0.14
 
+    readonly property string fontFamily: root.appearance.fontFamily
     /// Text sizes in pixels, grown with the desktop's own.
     readonly property real textScale: root.appearance.textScale
     readonly property int heroSize: Math.round(34 * root.textScale)

@@ -77,8 +77,8 @@ void PlanModel::show(const CleanPlan& plan)
         const int entries = static_cast<int>(section.entries.size());
         for (int entry = kHeading; entry < entries; ++entry)
             m_rows.push_back({number, entry});
-        m_states.push_back(
-            {std::vector<bool>(section.entries.size(), true), entries, sizeOf(section.entries), false});
+        m_states.push_back({std::vector<bool>(section.entries.size(), true), entries, sizeOf(section.entries),
+                            false, findingRating(section.id)});
         m_entryCount += entries;
         m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
                                                [](const FileEntry& entry) { return entry.note.has_value(); });
@@ -251,7 +251,7 @@ int PlanModel::rowCount(const QModelIndex& parent) const
 
 QVariant PlanModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < static_cast<int>(Role::heading))
         return {};
     const FileEntry* entry = entryAt(index.row());
     const Row& row = at(index.row());
@@ -266,7 +266,7 @@ QVariant PlanModel::data(const QModelIndex& index, int role) const
         return toneOf(section(row.section));
     if (wanted == Role::token)
         return tokenAt(index.row());
-    return entry == nullptr ? sectionData(row.section, wanted) : entryData(*entry, wanted);
+    return entry == nullptr ? sectionData(row.section, wanted) : entryData(row, wanted);
 }
 
 QVariant PlanModel::sectionData(int number, Role role) const
@@ -284,8 +284,9 @@ QVariant PlanModel::sectionData(int number, Role role) const
     return QString();
 }
 
-QVariant PlanModel::entryData(const FileEntry& entry, Role role) const
+QVariant PlanModel::entryData(const Row& row, Role role) const
 {
+    const FileEntry& entry = section(row.section).entries[place(row.entry)];
     if (role == Role::name)
         return DisplayText::nameOf(entry.path);
     if (role == Role::folder)
@@ -301,11 +302,21 @@ QVariant PlanModel::entryData(const FileEntry& entry, Role role) const
         return isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
     if (role == Role::thumbnail)
         return isFolder ? QString() : Thumbnails::source(entry.path);
-    if (!entry.rating)
+    const std::optional<Rating> rating = entry.rating ? entry.rating : state(row.section).rating;
+    if (!rating)
         return QString();
     if (role == Role::rating)
-        return DisplayText::text(rawValue(*entry.rating));
-    return DisplayText::text(role == Role::ratingLabel ? label(*entry.rating) : orlen::symbol(*entry.rating));
+        return DisplayText::text(rawValue(*rating));
+    return DisplayText::text(role == Role::ratingLabel ? label(*rating) : orlen::symbol(*rating));
+}
+
+/// The rating of the finding that a section of a Smart Scan was made from.
+std::optional<Rating> PlanModel::findingRating(const std::string& sectionId) const
+{
+    const auto& findings = m_app->findings();
+    const auto found = std::find_if(findings.begin(), findings.end(),
+                                    [&](const Finding& finding) { return finding.id() == sectionId; });
+    return found == findings.end() ? std::nullopt : std::optional(found->rating);
 }
 
 QHash<int, QByteArray> PlanModel::roleNames() const

@@ -39,7 +39,7 @@ public:
         size,                   ///< of the entry, or what is checked in the section, as text
         date,                   ///< "Opened …" or "Modified …"; may be empty
         note,                   ///< may be empty
-        rating,                 ///< raw value; empty for an entry without a rating of its own
+        rating,                 ///< raw value; empty where there is no advice
         ratingLabel,            ///< its word
         ratingSymbol,           ///< its icon
         symbol,                 ///< icon of the file or the section
@@ -98,6 +98,7 @@ private:
         int checkedCount = 0;
         std::int64_t checkedBytes = 0;
         bool isFolded = false;
+        std::optional<Rating> rating; ///< of entries without one of their own
     };
 
     void follow();
@@ -115,7 +116,8 @@ private:
     [[nodiscard]] const FileEntry* entryAt(int row) const;
     [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
     [[nodiscard]] QVariant sectionData(int number, Role role) const;
-    [[nodiscard]] QVariant entryData(const FileEntry& entry, Role role) const;
+    [[nodiscard]] QVariant entryData(const Row& row, Role role) const;
+    [[nodiscard]] std::optional<Rating> findingRating(const std::string& sectionId) const;
 
     AppModel* m_app = nullptr;
     std::optional<CleanPlan> m_plan;

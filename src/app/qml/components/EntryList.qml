@@ -9,6 +9,10 @@ ListView {
 
     /// Whether the keyboard, not the pointer, was last here.
     property bool showsFocus: false
+    property int rowHeight: 54
+    /// Whether the focus comes by the pointer just now.
+    property bool byPointer: false
+    readonly property int pageRows: Math.max(1, Math.floor(root.height / Math.max(1, root.rowHeight)) - 1)
     signal previewRequested(row: int)
     signal toggleRequested(row: int)
     /// Ctrl+A, and with Shift.
@@ -16,14 +20,6 @@ ListView {
     signal noneRequested
     /// A key that only some lists know: Left and Right.
     signal foldRequested(row: int, fold: bool)
-
-    readonly property int pageRows: Math.max(1, Math.floor(root.height / Math.max(1, root.rowHeight)) - 1)
-    property int rowHeight: 54
-
-    function moveTo(row: int) {
-        root.currentIndex = Math.max(0, Math.min(root.count - 1, row));
-        root.positionViewAtIndex(root.currentIndex, ListView.Contain);
-    }
 
     clip: true
     reuseItems: true
@@ -37,9 +33,10 @@ ListView {
     T.ScrollBar.vertical: ScrollHandle {}
 
     onActiveFocusChanged: {
-        if (root.activeFocus)
-            root.showsFocus = root.focusReason === Qt.TabFocusReason || root.focusReason === Qt.BacktabFocusReason;
-        if (root.activeFocus && root.currentIndex < 0 && root.count > 0)
+        if (!root.activeFocus || root.byPointer)
+            return;
+        root.showsFocus = true;
+        if (root.currentIndex < 0 && root.count > 0)
             root.currentIndex = 0;
     }
 
@@ -70,5 +67,19 @@ ListView {
             root.allRequested();
         else
             event.accepted = false;
+    }
+
+    /// A press of the pointer on a row, or on none with -1: the keyboard goes on from there.
+    function takeFocus(row: int) {
+        root.byPointer = true;
+        root.currentIndex = row;
+        root.forceActiveFocus(Qt.MouseFocusReason);
+        root.byPointer = false;
+        root.showsFocus = false;
+    }
+
+    function moveTo(row: int) {
+        root.currentIndex = Math.max(0, Math.min(root.count - 1, row));
+        root.positionViewAtIndex(root.currentIndex, ListView.Contain);
     }
 }

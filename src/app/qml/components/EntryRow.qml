@@ -29,7 +29,7 @@ Item {
     signal revealRequested
 
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
-    Accessible.name: [root.name, root.size, root.ratingLabel, root.note, root.date, root.folder].filter(text => text !== "").join(", ")
+    Accessible.name: root.name + ", " + root.size + ", " + root.ratingLabel + ", " + root.note + ", " + root.folder
     Accessible.checkable: root.checkable
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.selected: root.isCurrent
@@ -178,7 +178,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 24
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(118 * Theme.textScale)
+        width: Math.round(136 * Theme.textScale)
         spacing: 2
 
         Text {

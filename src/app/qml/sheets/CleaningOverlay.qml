@@ -9,7 +9,7 @@ Sheet {
 
     objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
-    wantedWidth: 440
+    wantedWidth: Math.round(440 * Math.max(1, Theme.textScale * 0.9))
     wantedHeight: Math.ceil(column.implicitHeight) + 64
     closable: false
 
@@ -142,6 +142,7 @@ Sheet {
 
             Text {
                 width: parent.width
+                topPadding: 4
                 visible: cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap

@@ -19,12 +19,12 @@ Sheet {
 
     objectName: "findingSheet"
     title: contents.header.title
-    wantedWidth: 820
-    wantedHeight: 680
+    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
+    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
 
     onWantedIdChanged: if (root.wantedId !== "") contents.findingId = root.wantedId
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
-    onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
+    onOpened: list.takeFocus(-1)
     onAboutToHide: if (root.isWanted) root.navigation.closeSheet()
     // Only now, so that the sheet does not empty itself while it fades.
     onClosed: if (!root.isWanted) contents.findingId = ""
@@ -84,7 +84,7 @@ Sheet {
         width: parent.width
         topMargin: 6
         bottomMargin: 6
-        rowHeight: Math.round((contents.hasNotes ? 70 : 56) * Theme.textScale)
+        rowHeight: Math.round((contents.hasNotes ? 68 : 56) * Theme.textScale)
         cacheBuffer: 400
         model: contents
         Accessible.name: contents.header.title
@@ -103,11 +103,7 @@ Sheet {
             checkState: marked ? Qt.Checked : Qt.Unchecked
             isCurrent: list.currentIndex === index && list.activeFocus
             showsFocus: isCurrent && list.showsFocus
-            onPressed: {
-                list.showsFocus = false;
-                list.currentIndex = index;
-                list.forceActiveFocus(Qt.MouseFocusReason);
-            }
+            onPressed: list.takeFocus(index)
             onToggled: contents.toggle(index)
             onPreviewRequested: root.preview(index)
             onRevealRequested: contents.reveal(index)

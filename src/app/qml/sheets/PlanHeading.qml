@@ -19,7 +19,7 @@ Item {
     signal pressed
 
     Accessible.role: Accessible.CheckBox
-    Accessible.name: [root.title, root.count, root.size].join(", ")
+    Accessible.name: root.title + ", " + root.count + ", " + root.size
     Accessible.checkable: true
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.onToggleAction: root.toggled()

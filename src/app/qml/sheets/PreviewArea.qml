@@ -8,7 +8,9 @@ Rectangle {
 
     required property PreviewModel preview
 
-    readonly property bool isBare: [PreviewModel.Other, PreviewModel.Locked, PreviewModel.Missing].includes(root.preview.kind)
+    readonly property bool isBare: root.preview.kind === PreviewModel.Other
+                                   || root.preview.kind === PreviewModel.Locked
+                                   || root.preview.kind === PreviewModel.Missing
                                    || root.preview.kind === PreviewModel.Folder && names.count === 0
 
     color: Theme.inset

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Looks into one file without another program. Space and Escape close it; the arrows go on to the next one.

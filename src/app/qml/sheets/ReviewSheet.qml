@@ -27,8 +27,8 @@ Sheet {
 
     objectName: "reviewSheet"
     title: Strings.reviewTitle
-    wantedWidth: 820
-    wantedHeight: 680
+    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
+    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
 
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: {
@@ -89,7 +89,7 @@ Sheet {
         anchors.bottom: footer.top
         width: parent.width
         bottomMargin: 6
-        rowHeight: Math.round((plan.hasNotes ? 70 : 56) * Theme.textScale)
+        rowHeight: Math.round((plan.hasNotes ? 68 : 56) * Theme.textScale)
         cacheBuffer: 400
         model: plan
         Accessible.name: plan.title
@@ -109,11 +109,7 @@ Sheet {
             height: heading ? Math.round(50 * Theme.textScale) : list.rowHeight
             isCurrent: list.currentIndex === index && list.activeFocus
             showsFocus: isCurrent && list.showsFocus
-            onPressed: {
-                list.showsFocus = false;
-                list.currentIndex = row.index;
-                list.forceActiveFocus(Qt.MouseFocusReason);
-            }
+            onPressed: list.takeFocus(row.index)
             onToggled: plan.toggle(row.index)
             onFolding: plan.fold(row.index)
             onPreviewRequested: root.preview(row.index)
