@@ -7,6 +7,8 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -47,6 +49,7 @@ void addOptions(QCommandLineParser& parser)
         {"open", "Open the panel with this object name", "name"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
+        {"clean", "Move the plan of the selection to the Trash after the scan"},
         {"onboarding", "Show the onboarding"},
         {"at-once", "Do not wait for the storage breakdown"},
         {"still", "Without motion, as for a desktop that asks for none"},
@@ -58,7 +61,8 @@ void addOptions(QCommandLineParser& parser)
 void bringAbout(AppModel& model, const QCommandLineParser& options)
 {
     wait(kLongestScan, [&] { return model.isBreakdownReady(); });
-    if (options.isSet("scan") || options.isSet("finding") || options.isSet("review")) {
+    if (options.isSet("scan") || options.isSet("finding") || options.isSet("review") ||
+        options.isSet("clean")) {
         model.startScan();
         wait(kLongestScan, [&] { return model.phase() != Phase::scanning; });
     }
@@ -68,6 +72,8 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+    if (options.isSet("clean"))
+        model.confirm(model.scanPlan(), model.selection());
 }
 
 /// Delegates are no children of what shows them, but they are its child items.
@@ -102,7 +108,8 @@ void press(QQuickWindow& window, const QString& name)
 {
     const QKeyCombination combination = QKeySequence::fromString(name)[0];
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, combination.key(), combination.keyboardModifiers());
+        QKeyEvent event(type, combination.key(), combination.keyboardModifiers(),
+                        name.size() == 1 ? name.toLower() : QString());
         QCoreApplication::sendEvent(&window, &event);
     }
 }

@@ -90,6 +90,11 @@ bool Appearance::isReducedMotion() const
     return isMotionFixedOff || m_areAnimationsOff;
 }
 
+QString Appearance::fontFamily()
+{
+    return QGuiApplication::font().family();
+}
+
 double Appearance::textScale() const
 {
     if (fixedTextScale > 0)

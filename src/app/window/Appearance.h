@@ -15,6 +15,8 @@ class Appearance : public QObject {
     Q_PROPERTY(bool dark READ isDark NOTIFY changed)
     Q_PROPERTY(bool highContrast READ isHighContrast NOTIFY changed)
     Q_PROPERTY(bool reducedMotion READ isReducedMotion NOTIFY changed)
+    /// Of the program's texts.
+    Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
     /// Size of the desktop's usual text against the common 10 points, at least 1.
     Q_PROPERTY(double textScale READ textScale CONSTANT)
 
@@ -26,6 +28,7 @@ public:
     [[nodiscard]] bool isDark() const;
     [[nodiscard]] bool isHighContrast() const { return m_isHighContrast; }
     [[nodiscard]] bool isReducedMotion() const;
+    [[nodiscard]] static QString fontFamily();
     [[nodiscard]] double textScale() const;
 
     /// For pictures and tests: what all that are made afterwards show, whatever the desktop says.

@@ -16,6 +16,8 @@ T.TextField {
     selectionColor: Theme.accentFill
     selectedTextColor: Theme.overAccent
     selectByMouse: true
+    // Text fields have a font of the desktop's own otherwise.
+    font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
     Accessible.name: root.placeholderText
 

@@ -1,0 +1,178 @@
+#include "EntryListModel.h"
+
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
+
+/// Caches of 400, 300, 200 and 100 KiB after a scan; the third is one to review.
+class EntryListModelTest : public testing::Test {
+protected:
+    EntryListModelTest() : m_app(kCommand)
+    {
+        m_home.fileOfSize(".cache/Zebra", 400 * 1024);
+        m_home.fileOfSize(".cache/apple/pages", 300 * 1024);
+        m_home.fileOfSize(".cache/spotify", 200 * 1024);
+        m_home.fileOfSize(".cache/pear", 100 * 1024);
+        const TimePoint now = std::chrono::system_clock::now();
+        TempHome::setTimes(m_home.path(".cache/pear"), now - 24h, now - 24h);
+        TempHome::setTimes(m_home.path(".cache/Zebra"), now - 48h, now - 48h);
+        m_app.startScan();
+        EXPECT_TRUE(waitUntil([&] { return m_app.phase() == Phase::results; }));
+        m_list.setApp(&m_app);
+        m_list.setFindingId("caches");
+    }
+
+    [[nodiscard]] QStringList shown(EntryListModel::Role role) const
+    {
+        QStringList texts;
+        for (int row = 0; row < m_list.rowCount(); ++row)
+            texts << m_list.data(m_list.index(row), static_cast<int>(role)).toString();
+        return texts;
+    }
+    [[nodiscard]] QStringList names() const { return shown(EntryListModel::Role::name); }
+    [[nodiscard]] QStringList marks() const { return shown(EntryListModel::Role::marked); }
+
+    TempHome m_home;
+    AppModel m_app;
+    EntryListModel m_list;
+    QAbstractItemModelTester m_tester{&m_list, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+} // namespace
+
+TEST_F(EntryListModelTest, showsTheFindingLargestFirst)
+{
+    EXPECT_EQ(names(), QStringList({"Zebra", "apple", "spotify", "pear"}));
+    EXPECT_EQ(marks(), QStringList({"true", "true", "false", "true"}));
+    EXPECT_EQ(shown(EntryListModel::Role::rating), QStringList({"safe", "safe", "review", "safe"}));
+    EXPECT_EQ(shown(EntryListModel::Role::folder).first(), "~/.cache");
+    EXPECT_EQ(m_list.header().title, "App caches");
+    EXPECT_TRUE(m_list.header().reason.startsWith("Why Safe: Apps rebuild"));
+    EXPECT_EQ(m_list.selectedText(), "3 of 4 selected · 819 KB");
+    EXPECT_EQ(m_list.shownState(), Qt::PartiallyChecked);
+}
+
+TEST_F(EntryListModelTest, sortsAndTurnsRound)
+{
+    m_list.sortBy(EntryListModel::ByName);
+    EXPECT_EQ(names(), QStringList({"apple", "pear", "spotify", "Zebra"}));
+    m_list.sortBy(EntryListModel::ByName);
+    EXPECT_EQ(names(), QStringList({"Zebra", "spotify", "pear", "apple"}));
+    EXPECT_EQ(marks(), QStringList({"true", "false", "true", "true"}));
+    m_list.sortBy(EntryListModel::BySize);
+    EXPECT_FALSE(m_list.isReversed());
+    EXPECT_EQ(names().first(), "Zebra");
+    m_list.sortBy(EntryListModel::ByDate);
+    EXPECT_LT(names().indexOf("pear"), names().indexOf("Zebra"));
+}
+
+TEST_F(EntryListModelTest, filtersAndSelectsOnlyWhatIsShown)
+{
+    m_list.setFilter("  PE ");
+    EXPECT_EQ(names(), QStringList({"pear"}));
+    EXPECT_EQ(m_list.shownState(), Qt::Checked);
+    m_list.toggleShown();
+    EXPECT_EQ(m_list.shownState(), Qt::Unchecked);
+    EXPECT_EQ(m_list.selectedCount(), 2);
+    m_list.setFilter("cache sp");
+    EXPECT_EQ(names(), QStringList({"spotify"}));
+    m_list.setFilter("nothing like it");
+    EXPECT_EQ(m_list.shownState(), Qt::Unchecked);
+    m_list.selectShown();
+    EXPECT_EQ(m_list.selectedCount(), 2);
+    m_list.setFilter("");
+    EXPECT_EQ(marks(), QStringList({"true", "true", "false", "false"}));
+}
+
+TEST_F(EntryListModelTest, selectsWithOneWordToTheApplication)
+{
+    const QSignalSpy changes(&m_app, &AppModel::selectionChanged);
+    m_list.toggle(0);
+    EXPECT_FALSE(m_app.selection().contains(m_home.path(".cache/Zebra")));
+    m_list.selectShown();
+    EXPECT_THAT(m_app.selection(), SizeIs(4));
+    EXPECT_EQ(changes.size(), 2);
+    m_list.selectShown();
+    m_list.toggle(-1);
+    m_list.toggle(4);
+    EXPECT_EQ(changes.size(), 2);
+    m_app.setSelection({m_home.path(".cache/pear")});
+    EXPECT_EQ(marks(), QStringList({"false", "false", "false", "true"}));
+    EXPECT_EQ(m_list.selectedSizeText(), "102 KB");
+}
+
+TEST_F(EntryListModelTest, losesWhatWasMovedRowByRowAndKeepsItsTexts)
+{
+    m_list.sortBy(EntryListModel::ByName);
+    const QSignalSpy removed(&m_list, &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy reset(&m_list, &QAbstractItemModel::modelReset);
+    m_app.removeFromFindings({m_home.path(".cache/pear"), m_home.path(".cache/Zebra")});
+    EXPECT_EQ(names(), QStringList({"apple", "spotify"}));
+    EXPECT_EQ(marks(), QStringList({"true", "false"}));
+    EXPECT_EQ(removed.size(), 2);
+    EXPECT_EQ(m_list.selectedText(), "1 of 2 selected · 307 KB");
+    m_app.removeFromFindings({m_home.path(".cache/apple"), m_home.path(".cache/spotify")});
+    EXPECT_EQ(m_list.rowCount(), 0);
+    EXPECT_EQ(m_list.header().title, "App caches");
+    EXPECT_TRUE(reset.isEmpty());
+}
+
+TEST_F(EntryListModelTest, learnsWhatIsAFolderLater)
+{
+    EXPECT_EQ(shown(EntryListModel::Role::symbol), QStringList({"doc", "doc", "doc", "doc"}));
+    const QSignalSpy changes(&m_list, &QAbstractItemModel::dataChanged);
+    ASSERT_TRUE(waitUntil([&] { return !changes.isEmpty(); }));
+    EXPECT_EQ(shown(EntryListModel::Role::symbol), QStringList({"doc", "folder", "doc", "doc"}));
+}
+
+TEST_F(EntryListModelTest, theTrashCannotBeSelected)
+{
+    m_home.fileOfSize(".local/share/Trash/files/thrown", 4096);
+    m_app.startScan();
+    ASSERT_TRUE(waitUntil([&] { return m_app.phase() == Phase::results; }));
+    m_list.setFindingId("trash");
+    EXPECT_FALSE(m_list.header().isCleanable);
+    EXPECT_EQ(m_list.selectedText(), "1 item · 4 KB");
+    const auto before = m_app.selection();
+    m_list.selectShown();
+    EXPECT_EQ(m_app.selection(), before);
+    m_list.setFindingId("blurry");
+    EXPECT_EQ(m_list.header().title, "Blurry shots");
+    EXPECT_EQ(m_list.rowCount(), 0);
+}
+
+TEST(SelectionTest, isAddedToAndTakenFromWithOneSignal)
+{
+    const TempHome home;
+    AppModel app(kCommand);
+    const QSignalSpy changes(&app, &AppModel::selectionChanged);
+    const std::vector<std::string> paths{"/a", "/b"};
+    app.select(paths);
+    app.select(paths);
+    EXPECT_THAT(app.selection(), ElementsAre("/a", "/b"));
+    EXPECT_EQ(changes.size(), 1);
+    app.deselect(std::vector<std::string>{"/b", "/never"});
+    EXPECT_THAT(app.selection(), ElementsAre("/a"));
+    app.deselect(std::vector<std::string>{"/b"});
+    app.select({});
+    EXPECT_EQ(changes.size(), 2);
+}
+
+} // namespace orlen

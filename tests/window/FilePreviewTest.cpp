@@ -1,0 +1,102 @@
+#include "FilePreview.h"
+
+#include "PathTokens.h"
+#include "PreviewModel.h"
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QImage>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::size_t kTextLimit = 64 * 1024;
+
+} // namespace
+
+TEST(FilePreviewTest, tellsWhatCanBeShown)
+{
+    using enum FilePreview::Kind;
+    const TempHome home;
+    QImage(30, 20, QImage::Format_RGB32).save(QString::fromStdString(home.path("real.png")));
+    const std::string atLimit = std::string(kTextLimit - 1, 'a');
+    const std::string lockedFile = home.file("locked.txt");
+    TempHome::setMode(lockedFile, 0);
+    struct Case {
+        const char* name;
+        std::string path;
+        FilePreview::Kind kind;
+        bool isCut = false;
+    };
+    const Case cases[] = {
+        {"text", home.file("a.txt", "caf\xc3\xa9\n\tx"), text},
+        {"text that fills the limit", home.file("b.txt", atLimit + "b"), text},
+        {"one byte more", home.file("c.txt", atLimit + "bc"), text, true},
+        {"cut in the middle of a letter", home.file("d.txt", atLimit + "\xe2\x82\xac"), text, true},
+        {"a letter that is cut but not by the limit", home.file("e.txt", "a\xe2\x82"), other},
+        {"Latin-1", home.file("f.txt", "caf\xe9 au lait"), other},
+        {"zero bytes", home.file("g.txt", std::string("a\0b", 3)), other},
+        {"empty", home.file("h.txt", ""), other},
+        {"picture", home.path("real.png"), picture},
+        {"text by the name of a picture", home.file("text.png", "words"), text},
+        {"folder", home.folder("folder"), folder},
+        {"link", home.link("link", home.path("a.txt")), other},
+        {"locked", lockedFile, locked},
+        {"missing", home.path("missing"), missing},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const FilePreview preview = FilePreview::of(c.path, {});
+        EXPECT_EQ(preview.kind, c.kind);
+        EXPECT_EQ(preview.isCut, c.isCut);
+    }
+}
+
+TEST(FilePreviewTest, listsAFolderFoldersFirstAndNotWithoutEnd)
+{
+    const TempHome home;
+    home.file("few/b");
+    home.file("few/z folder/inside");
+    home.file("few/a");
+    const FilePreview few = FilePreview::of(home.path("few"), {});
+    ASSERT_EQ(few.names.size(), 3U);
+    EXPECT_EQ(few.names[0].name, "z folder");
+    EXPECT_EQ(few.names[0].bytes, -1);
+    EXPECT_EQ(few.names[2].name, "b");
+    EXPECT_EQ(few.names[2].bytes, 4096);
+    for (int i = 0; i < 501; ++i)
+        home.file("many/" + std::to_string(i));
+    const FilePreview many = FilePreview::of(home.path("many"), {});
+    EXPECT_EQ(many.names.size(), 500U);
+    EXPECT_EQ(many.nameCount, 501);
+    EXPECT_TRUE(many.isCut);
+}
+
+TEST(PreviewModelTest, showsTheLatestOnly)
+{
+    const TempHome home;
+    const int folder = PathTokens::tokenOf(home.path());
+    const int text = PathTokens::tokenOf(home.file("notes.txt", "words"));
+    PreviewModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setToken(folder);
+    EXPECT_EQ(model.kind(), PreviewModel::Loading);
+    model.setToken(text);
+    EXPECT_EQ(model.name(), "notes.txt");
+    ASSERT_TRUE(waitUntil([&] { return model.kind() != PreviewModel::Loading; }));
+    EXPECT_EQ(model.kind(), PreviewModel::Text);
+    EXPECT_EQ(model.text(), "words");
+    EXPECT_EQ(model.facts(), "Plain text document · 4 KB");
+    model.setToken(folder);
+    ASSERT_TRUE(waitUntil([&] { return model.kind() == PreviewModel::Folder; }));
+    EXPECT_GE(model.rowCount(), 1);
+    model.setToken(0);
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_EQ(model.text(), "");
+}
+
+} // namespace orlen

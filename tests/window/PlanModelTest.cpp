@@ -1,0 +1,131 @@
+#include "PlanModel.h"
+
+#include "CleaningModel.h"
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A plan of two sections over real files: two caches and one app.
+class PlanModelTest : public testing::Test {
+protected:
+    PlanModelTest()
+    {
+        CleanPlan plan;
+        plan.title = "Uninstall Viewer";
+        plan.sections.push_back(
+            {"caches", "App caches", "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
+        plan.sections.push_back({"app", "Viewer", "app.fill", {entry("c", 12)}});
+        m_plan.setApp(&m_app);
+        m_app.setSheet(PlanSheet{plan});
+    }
+
+    [[nodiscard]] FileEntry entry(const std::string& name, int kilobytes) const
+    {
+        return {m_home.fileOfSize(".cache/" + name, kilobytes * 1024), kilobytes * 1024};
+    }
+    [[nodiscard]] QStringList shown(PlanModel::Role role) const
+    {
+        QStringList texts;
+        for (int row = 0; row < m_plan.rowCount(); ++row)
+            texts << m_plan.data(m_plan.index(row), static_cast<int>(role)).toString();
+        return texts;
+    }
+    [[nodiscard]] QStringList names() const { return shown(PlanModel::Role::name); }
+    [[nodiscard]] QStringList marks() const { return shown(PlanModel::Role::mark); }
+
+    TempHome m_home;
+    AppModel m_app{{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms}};
+    PlanModel m_plan;
+    QAbstractItemModelTester m_tester{&m_plan, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+} // namespace
+
+TEST_F(PlanModelTest, showsEachSectionOverItsEntriesAllChecked)
+{
+    EXPECT_EQ(m_plan.title(), "Uninstall Viewer");
+    EXPECT_EQ(names(), QStringList({"App caches", "a", "b", "Viewer", "c"}));
+    EXPECT_EQ(marks(), QStringList({"2", "2", "2", "2", "2"}));
+    EXPECT_EQ(m_plan.checkedCountText(), "3");
+    EXPECT_EQ(m_plan.checkedSizeText(), "25 KB");
+}
+
+TEST_F(PlanModelTest, aSectionSaysWhetherAllSomeOrNoneIsChecked)
+{
+    m_plan.toggle(2);
+    EXPECT_EQ(marks(), QStringList({"1", "2", "0", "2", "2"}));
+    EXPECT_EQ(shown(PlanModel::Role::folder).first(), "1 of 2 selected");
+    m_plan.toggle(0);
+    EXPECT_EQ(marks(), QStringList({"2", "2", "2", "2", "2"}));
+    m_plan.toggle(0);
+    m_plan.toggle(3);
+    EXPECT_EQ(m_plan.checkedCount(), 0);
+    EXPECT_FALSE(m_plan.isConfirmable());
+    m_plan.checkAll();
+    EXPECT_EQ(m_plan.checkedCount(), 3);
+    m_plan.toggle(5);
+    m_plan.toggle(-1);
+    EXPECT_EQ(m_plan.checkedCount(), 3);
+}
+
+TEST_F(PlanModelTest, aFoldedSectionIsStillCheckedAndMoved)
+{
+    m_plan.fold(0);
+    EXPECT_EQ(names(), QStringList({"App caches", "Viewer", "c"}));
+    EXPECT_EQ(m_plan.headingOf(2), 1);
+    m_plan.toggle(0);
+    m_plan.fold(0);
+    EXPECT_EQ(marks(), QStringList({"0", "0", "0", "2", "2"}));
+    m_plan.setFolded(3, true);
+    m_plan.setFolded(3, true);
+    EXPECT_EQ(m_plan.rowCount(), 4);
+    EXPECT_EQ(m_plan.headingOf(2), 0);
+    m_plan.fold(1);
+    EXPECT_EQ(m_plan.rowCount(), 4);
+}
+
+TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
+{
+    CleaningModel cleaning;
+    cleaning.setApp(&m_app);
+    m_plan.toggle(2);
+    m_plan.confirm();
+    EXPECT_FALSE(m_app.sheet());
+    EXPECT_EQ(m_plan.rowCount(), 5) << "a sheet that fades still shows its plan";
+    EXPECT_FALSE(cleaning.isFinished());
+    EXPECT_EQ(cleaning.planTitle(), "Uninstall Viewer");
+    ASSERT_TRUE(waitUntil([&] { return cleaning.isFinished(); }));
+    EXPECT_EQ(cleaning.movedText(), "2");
+    EXPECT_EQ(cleaning.freedText(), "20 KB");
+    EXPECT_EQ(cleaning.failed(), 0);
+    EXPECT_EQ(cleaning.fraction(), 1);
+    EXPECT_TRUE(TempHome::exists(m_home.path(".cache/b")));
+    EXPECT_FALSE(TempHome::exists(m_home.path(".cache/a")));
+    m_app.dismissCleaning();
+    EXPECT_TRUE(cleaning.isFinished()) << "nor does the overlay change while it fades";
+}
+
+TEST_F(PlanModelTest, asksNothingOfAProgramThatOnlyReads)
+{
+    AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
+    PlanModel plan;
+    plan.setApp(&reader);
+    reader.setSheet(m_app.sheet());
+    EXPECT_EQ(plan.checkedCount(), 3);
+    EXPECT_FALSE(plan.isConfirmable());
+    plan.confirm();
+    EXPECT_FALSE(reader.cleaning());
+    EXPECT_TRUE(reader.sheet());
+}
+
+} // namespace orlen
