@@ -7,6 +7,8 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QSettings>
@@ -42,6 +44,9 @@ void addOptions(QCommandLineParser& parser)
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
+        {"click", "Press the left button there; may be given several times", "x,y"},
+        {"pointer", "Leave the pointer there", "x,y"},
+        {"type", "Type a text where the keyboard is and press Enter; may be given several times", "text"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -58,6 +63,45 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+}
+
+QPointF pointOf(const QString& text)
+{
+    const QStringList parts = text.split(',');
+    return {parts.value(0).toDouble(), parts.value(1).toDouble()};
+}
+
+void sendMouse(QQuickWindow& window, QEvent::Type type, QPointF at, Qt::MouseButtons held)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, at, button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+void type(QQuickWindow& window, const QString& text)
+{
+    QKeyEvent letters(QEvent::KeyPress, 0, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&window, &letters);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+}
+
+void act(QQuickWindow& window, const QCommandLineParser& options)
+{
+    const int settle = options.value("settle").toInt();
+    for (const QString& text : options.values("type")) {
+        wait(settle, [] { return false; });
+        type(window, text);
+    }
+    for (const QString& at : options.values("click")) {
+        wait(settle, [] { return false; });
+        sendMouse(window, QEvent::MouseMove, pointOf(at), Qt::NoButton);
+        sendMouse(window, QEvent::MouseButtonPress, pointOf(at), Qt::LeftButton);
+        sendMouse(window, QEvent::MouseButtonRelease, pointOf(at), Qt::NoButton);
+    }
+    wait(settle, [] { return false; });
+    if (options.isSet("pointer"))
+        sendMouse(window, QEvent::MouseMove, pointOf(options.value("pointer")), Qt::NoButton);
 }
 
 } // namespace
@@ -85,6 +129,7 @@ int main(int argc, char** argv)
     window->resize(size.value(0).toInt(), size.value(1).toInt());
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     bringAbout(model, options);
+    act(*window, options);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)
