@@ -97,7 +97,6 @@ QtObject {
     readonly property string measuring: "Measuring…"
     readonly property string emptyFolder: "Nothing in this folder takes up space, or Orlen may not read it."
     readonly property string goUp: "Go back up"
-    readonly property string home: "Home"
     readonly property string foldersBetween: "Folders between"
     readonly property string measureAgain: "Measure again"
     readonly property string asMap: "Show as a map"

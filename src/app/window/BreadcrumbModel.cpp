@@ -15,6 +15,11 @@ constexpr int kAfterGap = 2;
 
 } // namespace
 
+QString BreadcrumbModel::nameOfLast(std::span<const std::string> folders)
+{
+    return folders.size() == 1 ? QStringLiteral("Home") : DisplayText::nameOf(folders.back());
+}
+
 std::vector<BreadcrumbModel::Row> BreadcrumbModel::rowsOf(const std::vector<std::string>& folders)
 {
     const int count = static_cast<int>(folders.size());
@@ -23,8 +28,7 @@ std::vector<BreadcrumbModel::Row> BreadcrumbModel::rowsOf(const std::vector<std:
     for (int step = 0; step < count; ++step) {
         if (step > 0 && step < gap)
             continue;
-        const QString name =
-            step == 0 ? QString() : DisplayText::nameOf(folders[static_cast<std::size_t>(step)]);
+        const QString name = nameOfLast(std::span(folders).first(static_cast<std::size_t>(step) + 1));
         rows.push_back({name, step, gap > 0 && step == gap, step == count - 1});
     }
     return rows;

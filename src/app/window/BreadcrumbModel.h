@@ -4,6 +4,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -18,13 +19,16 @@ class BreadcrumbModel : public QAbstractListModel {
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< of the folder; empty for the start folder, whose name the screen chooses
+        name = Qt::UserRole, ///< of the folder
         step,                ///< number of the folder, for going to it
         isGap,               ///< stands for folders that are not shown
         isLast,              ///< the folder shown
     };
 
     using QAbstractListModel::QAbstractListModel;
+
+    /// What the last of the folders is called: the start folder is "Home", whatever its name.
+    [[nodiscard]] static QString nameOfLast(std::span<const std::string> folders);
 
     /// From the start folder on; never empty.
     void setFolders(const std::vector<std::string>& folders);

@@ -19,14 +19,20 @@ constexpr int kHues = 6;
 /// Two notches of a common wheel, 120 each, are enough of a pinch to lead somewhere.
 constexpr double kMagnificationPerEighth = 0.2 / 120;
 
+/// Without the gap; what would be nothing but gap keeps a hair that can be seen.
+double withoutGap(double length)
+{
+    return std::max(length - kGap, std::min(length, 1.0));
+}
+
 /// Edges are rounded, not widths, so that all gaps are equally wide.
 QRectF placed(const Treemap::Rect& rect)
 {
     const double left = std::round(rect.x);
     const double top = std::round(rect.y);
-    const double width = std::round(rect.x + rect.width) - left - kGap;
-    const double height = std::round(rect.y + rect.height) - top - kGap;
-    return {left, top, std::max(width, 0.0), std::max(height, 0.0)};
+    const double width = std::round(rect.x + rect.width) - left;
+    const double height = std::round(rect.y + rect.height) - top;
+    return {left, top, withoutGap(width), withoutGap(height)};
 }
 
 DiskMapView::Kind kindOf(const TreeNode& node)
@@ -82,7 +88,7 @@ void DiskMapView::setViewHeight(double height)
 
 QString DiskMapView::folderName() const
 {
-    return DisplayText::nameOf(m_map.current());
+    return BreadcrumbModel::nameOfLast(m_map.stack());
 }
 
 int DiskMapView::hoverRow() const
@@ -236,6 +242,7 @@ void DiskMapView::takeNodes(const std::vector<TreeNode>& nodes)
         endRemoveRows();
     }
     m_total = 0;
+    const auto rects = Treemap::layout(nodes, m_view);
     for (std::size_t i = 0; i < nodes.size(); ++i) {
         const int row = static_cast<int>(i);
         const auto found = std::find_if(m_tiles.begin() + row, m_tiles.end(),
@@ -243,7 +250,7 @@ void DiskMapView::takeNodes(const std::vector<TreeNode>& nodes)
         const int from = static_cast<int>(found - m_tiles.begin());
         if (found == m_tiles.end()) {
             beginInsertRows({}, row, row);
-            m_tiles.insert(m_tiles.begin() + row, {nodes[i], {}});
+            m_tiles.insert(m_tiles.begin() + row, {nodes[i], placed(rects[i])});
             endInsertRows();
         } else if (from != row) {
             beginMoveRows({}, from, from, {}, row);

@@ -15,7 +15,7 @@ Item {
         id: bubble
 
         anchors.right: parent.right
-        width: Math.min(label.implicitWidth + 32, root.width * 0.82)
+        width: Math.ceil(Math.min(label.implicitWidth + 32, root.width * 0.82))
         height: label.height + 20
         radius: Math.min(18, height / 2)
         color: Theme.accentFill

@@ -10,16 +10,15 @@ T.AbstractButton {
     required property int step
     required property bool isGap
     required property bool isLast
-    property int longest: 200
 
     readonly property bool isFirst: root.step === 0
 
-    implicitWidth: arrow.width + label.width + 2 * Theme.controlRadius
+    implicitWidth: arrow.width + Math.ceil(label.implicitWidth) + 2 * Theme.controlRadius
     implicitHeight: Math.round(30 * Theme.textScale)
     enabled: !root.isLast
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    text: root.isFirst ? Strings.home : root.isGap ? Strings.foldersBetween : root.name
+    text: root.isGap ? Strings.foldersBetween : root.name
     Accessible.name: root.text
 
     Keys.onReturnPressed: root.clicked()
@@ -45,7 +44,7 @@ T.AbstractButton {
             anchors.left: arrow.right
             anchors.leftMargin: Theme.controlRadius
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, root.longest - arrow.width - 2 * Theme.controlRadius)
+            width: root.width - arrow.width - 2 * Theme.controlRadius
             text: root.isGap ? "…" : root.text
             textFormat: Text.PlainText
             elide: Text.ElideMiddle

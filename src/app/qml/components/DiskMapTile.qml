@@ -21,7 +21,7 @@ Rectangle {
     readonly property color ink: Theme.dark ? "#ffffff" : "#14171c"
     readonly property color quietInk: Theme.dark ? Qt.rgba(1, 1, 1, 0.85) : "#3c4554"
     readonly property real inset: Math.min(8, Math.round(root.height / 6))
-    readonly property bool isLabelled: root.area.width >= 54 && root.area.height >= 24 * Theme.textScale
+    readonly property bool isLabelled: root.area.width >= 54 * Theme.textScale && root.area.height >= 24 * Theme.textScale
 
     x: root.area.x
     y: root.area.y
@@ -74,7 +74,7 @@ Rectangle {
         visible: root.isLabelled
         text: root.name
         textFormat: Text.PlainText
-        elide: Text.ElideMiddle
+        elide: Text.ElideRight
         color: root.ink
         font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
@@ -100,7 +100,7 @@ Rectangle {
         const folders = Theme.dark ? ["#2e5399", "#5f3e98", "#2b694c", "#90475b", "#875826", "#1d6567"]
                                    : ["#a3c0f5", "#cfbaf3", "#9fdbbf", "#f4b9c9", "#f6cb92", "#99d7db"];
         const files = Theme.dark ? ["#293e65", "#463267", "#264a39", "#623743", "#5b4125", "#1e4748"]
-                                 : ["#d8e3f9", "#e7def7", "#d4ede1", "#f8dde5", "#f9e6cd", "#d0eaec"];
+                                 : ["#cddcf8", "#e0d4f5", "#c9e8da", "#f6d3dd", "#f9dfbd", "#c4e5e7"];
         return (kind === DiskMapView.Folder ? folders : files)[hue];
     }
 }

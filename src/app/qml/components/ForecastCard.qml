@@ -71,7 +71,7 @@ Card {
 
             objectName: "forecastChart"
             width: parent.width
-            height: root.prediction.enoughData ? 190 : 120
+            height: root.prediction.enoughData ? 164 : 96
             model: root.prediction
             tone: root.tone
             rule: Theme.tertiary

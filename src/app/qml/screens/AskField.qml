@@ -21,6 +21,7 @@ T.TextField {
     selectedTextColor: Theme.overAccent
     selectByMouse: true
     maximumLength: 500
+    font.family: hint.font.family
     font.pixelSize: Theme.bodySize
     Accessible.name: root.placeholderText
 
@@ -38,7 +39,10 @@ T.TextField {
         border.color: root.activeFocus ? Theme.accent : Theme.stroke
     }
 
+    // Fields would take their font from the desktop, texts take it from the program.
     Text {
+        id: hint
+
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding
         anchors.rightMargin: root.rightPadding
@@ -48,7 +52,7 @@ T.TextField {
         text: root.placeholderText
         textFormat: Text.PlainText
         color: root.placeholderTextColor
-        font: root.font
+        font.pixelSize: Theme.bodySize
         Accessible.ignored: true
     }
 

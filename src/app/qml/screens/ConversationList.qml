@@ -18,8 +18,6 @@ ListView {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     spacing: 14
-    topMargin: 12
-    bottomMargin: 12
     cacheBuffer: 2000
     activeFocusOnTab: true
     Accessible.role: Accessible.List
@@ -76,14 +74,20 @@ ListView {
         }
     }
 
+    // Not margins, which the end of the view does not include.
+    header: Item {
+        width: root.width
+        height: 12
+    }
+
     footer: Item {
         width: root.width
-        height: root.isWaiting ? Math.round(44 * Theme.textScale) : 0
-        visible: root.isWaiting
+        height: root.isWaiting ? Math.round(44 * Theme.textScale) : 12
 
         ThinkingDots {
             x: Math.round((parent.width - root.columnWidth) / 2) + 20
             anchors.verticalCenter: parent.verticalCenter
+            visible: root.isWaiting
             active: root.isWaiting
         }
     }
@@ -97,20 +101,26 @@ ListView {
         }
     }
 
-    onCountChanged: Qt.callLater(root.showNewest)
-    onIsWaitingChanged: Qt.callLater(root.showNewest)
-    onHeightChanged: Qt.callLater(root.positionViewAtEnd)
-    onWidthChanged: Qt.callLater(root.positionViewAtEnd)
+    onCountChanged: {
+        root.currentIndex = root.count - 1;
+        follow.restart();
+    }
+    onIsWaitingChanged: follow.restart()
+    onHeightChanged: follow.restart()
+    onWidthChanged: follow.restart()
+
+    // Once the messages have got their sizes.
+    Timer {
+        id: follow
+
+        interval: 0
+        onTriggered: root.positionViewAtEnd()
+    }
 
     Timer {
         id: patience
 
         interval: 200
         running: root.conversation.thinking
-    }
-
-    function showNewest() {
-        root.currentIndex = root.count - 1;
-        root.positionViewAtEnd();
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import Orlen.App
 
 /// The way to the folder shown, and how it is shown.
@@ -9,25 +10,25 @@ Item {
     required property bool asList
     signal listRequested(wanted: bool)
 
-    readonly property int crumbLimit: Math.max(60, Math.floor((tools.x - 16) / Math.max(1, crumbs.count)))
-
     implicitHeight: Theme.controlHeight
 
-    Row {
+    RowLayout {
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, tools.x - 16)
+        spacing: 0
         Accessible.role: Accessible.List
         Accessible.name: Strings.diskMapTitle
 
         Repeater {
-            id: crumbs
-
             model: root.map.crumbs
 
             Crumb {
                 id: crumb
 
                 objectName: "crumb-" + crumb.step
-                longest: root.crumbLimit
+                Layout.fillWidth: true
+                Layout.minimumWidth: Math.min(implicitWidth, 64)
+                Layout.maximumWidth: implicitWidth
                 onClicked: root.map.goTo(crumb.step)
             }
         }
