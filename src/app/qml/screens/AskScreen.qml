@@ -80,6 +80,24 @@ Item {
         onFindingRequested: id => root.navigation.showFinding(id)
     }
 
+    // Messages fade away below the header.
+    Rectangle {
+        y: list.y
+        width: list.width - 14
+        height: 20
+        visible: list.visible && !list.atYBeginning
+        gradient: Gradient {
+            GradientStop {
+                position: 0
+                color: Theme.window
+            }
+            GradientStop {
+                position: 1
+                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+            }
+        }
+    }
+
     Column {
         id: foot
 
