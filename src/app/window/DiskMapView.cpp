@@ -49,7 +49,7 @@ QString percent(double share)
 
 QString spoken(const TreeNode& node)
 {
-    const QString text = DisplayText::path(node.name) + ", " + DisplayText::size(node.size);
+    QString text = DisplayText::path(node.name) + ", " + DisplayText::size(node.size);
     switch (kindOf(node)) {
     case DiskMapView::Folder:
         return text + ", folder";

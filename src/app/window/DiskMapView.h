@@ -82,7 +82,7 @@ public:
     /// To the next tile on that side.
     Q_INVOKABLE void step(Direction direction);
     /// "name · size" of a tile; of the whole folder for -1.
-    Q_INVOKABLE QString describe(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString describe(int row) const;
 
     Q_INVOKABLE void click(QPointF point);
     Q_INVOKABLE void movePointer(QPointF point);
