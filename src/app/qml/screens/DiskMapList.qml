@@ -8,8 +8,6 @@ ListView {
 
     required property DiskMapView map
 
-    property bool isKeyed: false
-
     objectName: "diskMapList"
     model: root.map
     clip: true
@@ -26,7 +24,6 @@ ListView {
     T.ScrollBar.vertical: ScrollHandle {}
 
     Keys.onPressed: event => {
-        root.isKeyed = true;
         event.accepted = true;
         switch (event.key) {
         case Qt.Key_Up:
