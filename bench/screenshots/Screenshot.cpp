@@ -46,6 +46,7 @@ void addOptions(QCommandLineParser& parser)
         {"scanning", "Start a Smart Scan and do not wait for its end"},
         {"click", "Click the items with these object names, separated by commas", "names"},
         {"keys", "Press these keys, separated by commas", "names"},
+        {"type", "Type this text where the keyboard is, and press Enter", "text"},
         {"open", "Open the panel with this object name", "name"},
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
@@ -114,6 +115,14 @@ void press(QQuickWindow& window, const QString& name)
     }
 }
 
+void type(QQuickWindow& window, const QString& text)
+{
+    wait(kSettleMilliseconds, [] { return false; });
+    QKeyEvent letters(QEvent::KeyPress, 0, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&window, &letters);
+    press(window, QStringLiteral("Return"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -147,6 +156,8 @@ int main(int argc, char** argv)
         click(*window, name);
     for (const QString& name : options.value("keys").split(',', Qt::SkipEmptyParts))
         press(*window, name);
+    if (options.isSet("type"))
+        type(*window, options.value("type"));
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

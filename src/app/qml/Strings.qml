@@ -112,14 +112,35 @@ QtObject {
     readonly property string tryOneOfThese: "Try one of these"
     readonly property string modelFooter: "Foundation Models · on device"
     readonly property string matcherFooter: "Built-in matcher · on device"
+    readonly property string askTitle: "Ask Orlen"
+    readonly property string conversation: "Conversation"
+    readonly property string send: "Send"
+    readonly property string thinking: "Thinking…"
+    readonly property string yourQuestion: "Your question: %1"
+    readonly property string copied: "Copied"
 
     // Predict
     readonly property string predictLead: "How fast each kind of data is growing, learned from your past scans."
+    readonly property string predictTitle: "Predict"
+    readonly property string diskFull: "Disk full"
+    readonly property string freeSpaceChart: "Free space from %1 to %2, now %3. %4. %5"
+    readonly property string noForecast: "No forecast yet. %1"
+    readonly property string growthLater: "How fast each kind of data grows appears here with the forecast."
     readonly property string growthByCategory: "Growth by category"
     readonly property string snapshotsStored: "%1 are stored on this Mac in Application Support/Orlen. A snapshot is saved after each Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the background, so predictions improve the more you use it. They are estimates from a straight-line fit, not promises."
 
     // Disk Map
     readonly property string diskMapLead: "Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up."
+
+    readonly property string diskMapTitle: "Disk Map"
+    readonly property string measuring: "Measuring…"
+    readonly property string emptyFolder: "Nothing in this folder takes up space, or Orlen may not read it."
+    readonly property string goUp: "Go back up"
+    readonly property string foldersBetween: "Folders between"
+    readonly property string measureAgain: "Measure again"
+    readonly property string asMap: "Show as a map"
+    readonly property string asList: "Show as a list"
+    readonly property string contentsOf: "Contents of %1"
 
     // Applications
     readonly property string appsLead: "Uninstall an app with its leftovers."

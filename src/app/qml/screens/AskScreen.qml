@@ -1,12 +1,141 @@
 import QtQuick
+import QtQuick.Window
 import Orlen.App
 
-/// Ask Orlen.
-ScreenPage {
+/// Ask Orlen: a conversation about what the last scan found.
+Item {
     id: root
 
     required property Navigation navigation
 
-    title: "AskScreen"
-    subtitle: Strings.tryOneOfThese
+    readonly property int columnWidth: Math.min(660, root.width - 2 * Theme.pageMargin)
+
+    ConversationModel {
+        id: theConversation
+
+        app: AppModel
+    }
+
+    PageHeader {
+        id: header
+
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        width: root.width - 2 * Theme.pageMargin
+        title: Strings.askTitle
+        subtitle: theConversation.introduction
+    }
+
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.max(header.y + header.height + 16,
+                    Math.round((header.y + header.height + foot.y - height) / 2))
+        width: root.columnWidth
+        visible: theConversation.empty
+        spacing: 10
+
+        Badge {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "bubble.left.and.text.bubble.right.fill"
+            tone: "#9257e8"
+            size: 64
+        }
+
+        Text {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            topPadding: 8
+            bottomPadding: 4
+            text: Strings.tryOneOfThese
+            textFormat: Text.PlainText
+            color: Theme.secondary
+            font.pixelSize: Theme.headlineSize
+        }
+
+        Repeater {
+            model: theConversation.suggestions
+
+            SuggestionPill {
+                required property string modelData
+                required property int index
+
+                objectName: "suggestion-" + index
+                anchors.horizontalCenter: parent ? parent.horizontalCenter : undefined
+                width: Math.min(implicitWidth, root.columnWidth)
+                text: modelData
+                onClicked: root.ask(text)
+            }
+        }
+    }
+
+    ConversationList {
+        id: list
+
+        y: header.y + header.height + 8
+        width: root.width
+        height: foot.y - y - 8
+        visible: !theConversation.empty
+        conversation: theConversation
+        columnWidth: root.columnWidth
+        onFindingRequested: id => root.navigation.showFinding(id)
+    }
+
+    // Messages fade away below the header.
+    Rectangle {
+        y: list.y
+        width: list.width - 14
+        height: 20
+        visible: list.visible && !list.atYBeginning
+        gradient: Gradient {
+            GradientStop {
+                position: 0
+                color: Theme.window
+            }
+            GradientStop {
+                position: 1
+                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+            }
+        }
+    }
+
+    Column {
+        id: foot
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        width: root.columnWidth
+        spacing: 12
+
+        SuggestionRow {
+            width: parent.width
+            visible: !theConversation.empty
+            enabled: !theConversation.thinking
+            conversation: theConversation
+            onAsked: question => root.ask(question)
+        }
+
+        AskField {
+            id: field
+
+            width: parent.width
+            conversation: theConversation
+            onAsked: question => root.ask(question)
+        }
+    }
+
+    onEnabledChanged: root.takeFocus()
+    Component.onCompleted: root.takeFocus()
+
+    function ask(question: string) {
+        if (theConversation.ask(question))
+            field.clear();
+        field.forceActiveFocus();
+    }
+
+    /// Typing may begin at once, unless the keyboard is at work elsewhere, in the sidebar above all.
+    function takeFocus() {
+        if (root.enabled && !(Window.activeFocusItem && Window.activeFocusItem.activeFocusOnTab))
+            field.forceActiveFocus();
+    }
 }

@@ -1,10 +1,135 @@
 import QtQuick
 import Orlen.App
 
-/// Disk Map.
-ScreenPage {
+/// Disk Map: what takes the space of one folder, as a map or as a list.
+FocusScope {
     id: root
 
-    title: "DiskMapScreen"
-    subtitle: Strings.diskMapLead
+    property bool asList: false
+    readonly property bool showsRing: surface.showsRing && !root.asList
+
+    DiskMapView {
+        id: theMap
+
+        viewWidth: surface.mapWidth
+        viewHeight: surface.mapHeight
+    }
+
+    PageHeader {
+        id: header
+
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        width: root.width - 2 * Theme.pageMargin
+        title: Strings.diskMapTitle
+        subtitle: Strings.diskMapLead
+    }
+
+    DiskMapBar {
+        id: bar
+
+        x: Theme.pageMargin
+        y: header.y + header.height + 16
+        width: root.width - 2 * Theme.pageMargin
+        map: theMap
+        asList: root.asList
+        onListRequested: wanted => root.asList = wanted
+    }
+
+    Item {
+        id: frame
+
+        anchors.fill: parent
+        anchors.leftMargin: Theme.pageMargin
+        anchors.rightMargin: Theme.pageMargin
+        anchors.topMargin: bar.y + bar.height + 12
+        anchors.bottomMargin: status.height + 28
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.cardRadius
+            color: Theme.inset
+            opacity: theMap.loading ? 1 : 0
+            visible: opacity > 0
+
+            Text {
+                anchors.centerIn: parent
+                text: Strings.measuring
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.bodySize
+                Accessible.ignored: !theMap.loading
+            }
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Theme.screenDuration
+                }
+            }
+        }
+
+        DiskMapSurface {
+            id: surface
+
+            anchors.fill: parent
+            visible: !root.asList && !theMap.empty
+            map: theMap
+        }
+
+        Card {
+            anchors.fill: parent
+            visible: root.asList && !theMap.empty && !theMap.loading
+
+            DiskMapList {
+                anchors.fill: parent
+                anchors.margins: 1
+                map: theMap
+            }
+        }
+
+        Card {
+            anchors.fill: parent
+            visible: theMap.empty
+
+            EmptyState {
+                anchors.centerIn: parent
+                width: parent.width - 48
+                symbol: "folder.fill"
+                tone: "#1fa3a8"
+                text: Strings.emptyFolder
+                action: theMap.atStart ? "" : Strings.goUp
+                onTriggered: theMap.up()
+            }
+        }
+    }
+
+    Text {
+        id: status
+
+        readonly property int row: theMap.hoverRow >= 0 && !root.asList ? theMap.hoverRow
+                                                                       : root.showsRing ? theMap.currentRow : -1
+
+        objectName: "diskMapStatus"
+        x: Theme.pageMargin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 16
+        width: root.width - 2 * Theme.pageMargin
+        text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
+        textFormat: Text.PlainText
+        elide: Text.ElideMiddle
+        color: Theme.secondary
+        font.pixelSize: Theme.smallSize
+    }
+
+    // Here and not as shortcuts, so that they win over those of the window while this screen has the keyboard.
+    Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_F5
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F5 || event.key === Qt.Key_Backspace;
+        if (event.key === Qt.Key_F5)
+            theMap.load();
+        else if (event.key === Qt.Key_Backspace)
+            theMap.up();
+    }
+
+    Component.onCompleted: theMap.load()
 }

@@ -1,0 +1,94 @@
+import QtQuick
+import Orlen.App
+
+/// What Orlen answered: the text, the findings it is about, and who wrote it.
+Card {
+    id: root
+
+    required property string text
+    required property bool usedModel
+    required property FindingLinks links
+    signal findingRequested(id: string)
+    signal copyRequested
+
+    implicitHeight: column.height + 32
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.text
+
+    Column {
+        id: column
+
+        x: 20
+        y: 18
+        width: root.width - 40
+        spacing: 14
+
+        Text {
+            width: parent.width
+            text: root.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            lineHeight: 1.3
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            Accessible.ignored: true
+        }
+
+        Column {
+            width: parent.width
+            visible: links.count > 0
+            spacing: 6
+
+            Repeater {
+                id: links
+
+                model: root.links
+
+                AnswerLink {
+                    width: parent ? parent.width : 0
+                    onClicked: root.findingRequested(findingId)
+                }
+            }
+        }
+
+        Item {
+            width: parent.width
+            height: copy.height
+
+            Text {
+                anchors.left: parent.left
+                anchors.right: copy.left
+                anchors.rightMargin: 8
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.usedModel ? Strings.modelFooter : Strings.matcherFooter
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+            }
+
+            IconButton {
+                id: copy
+
+                objectName: "copyAnswer"
+                anchors.right: parent.right
+                anchors.rightMargin: -8
+                width: 30
+                height: 26
+                symbol: done.running ? "checkmark" : "copy"
+                symbolSize: 14
+                text: done.running ? Strings.copied : Strings.copy
+                onClicked: {
+                    root.copyRequested();
+                    done.restart();
+                }
+
+                Timer {
+                    id: done
+
+                    interval: 1600
+                }
+            }
+        }
+    }
+}

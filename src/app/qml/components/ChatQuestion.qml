@@ -1,0 +1,37 @@
+import QtQuick
+import Orlen.App
+
+/// What the user asked, at the right of the conversation.
+Item {
+    id: root
+
+    required property string text
+
+    implicitHeight: bubble.height
+    Accessible.role: Accessible.StaticText
+    Accessible.name: Strings.yourQuestion.arg(root.text)
+
+    Rectangle {
+        id: bubble
+
+        anchors.right: parent.right
+        width: Math.ceil(Math.min(label.implicitWidth + 32, root.width * 0.82))
+        height: label.height + 20
+        radius: Math.min(18, height / 2)
+        color: Theme.accentFill
+
+        Text {
+            id: label
+
+            x: 16
+            y: 10
+            width: parent.width - 32
+            text: root.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            color: Theme.overAccent
+            font.pixelSize: Theme.bodySize
+            Accessible.ignored: true
+        }
+    }
+}

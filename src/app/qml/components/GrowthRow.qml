@@ -1,0 +1,89 @@
+import QtQuick
+import Orlen.App
+
+/// How fast one category grows.
+Item {
+    id: root
+
+    required property string label
+    required property color colour
+    required property string rate
+    required property real start
+    required property real extent
+
+    implicitHeight: Math.round(38 * Theme.textScale)
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.label + ", " + root.rate
+
+    Rectangle {
+        id: dot
+
+        x: 20
+        anchors.verticalCenter: parent.verticalCenter
+        width: 10
+        height: 10
+        radius: 5
+        color: root.colour
+    }
+
+    Text {
+        id: title
+
+        anchors.left: dot.right
+        anchors.leftMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.round(104 * Theme.textScale)
+        text: root.label
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: Theme.text
+        font.pixelSize: Theme.bodySize
+        font.weight: Font.Medium
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        id: track
+
+        anchors.left: title.right
+        anchors.leftMargin: 12
+        anchors.right: amount.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        height: 6
+        radius: 3
+        color: Theme.inset
+
+        Rectangle {
+            x: Math.min(track.width - width, Math.round(track.width * root.start))
+            width: root.extent > 0 ? Math.max(track.height, Math.round(track.width * root.extent)) : 0
+            height: track.height
+            radius: track.radius
+            color: root.colour
+
+            Behavior on width {
+                enabled: Theme.moves
+                SpringMotion {
+                    response: 0.9
+                    damping: 0.85
+                }
+            }
+        }
+    }
+
+    Text {
+        id: amount
+
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.round(128 * Theme.textScale)
+        horizontalAlignment: Text.AlignRight
+        text: root.rate
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: Theme.secondary
+        font.pixelSize: Theme.smallSize
+        Accessible.ignored: true
+    }
+}

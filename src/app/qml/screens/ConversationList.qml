@@ -1,0 +1,126 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The messages of a conversation, the newest in view.
+ListView {
+    id: root
+
+    required property ConversationModel conversation
+    required property int columnWidth
+    signal findingRequested(id: string)
+
+    /// Not for the moment that the built-in matcher takes.
+    readonly property bool isWaiting: root.conversation.thinking && !patience.running
+
+    objectName: "conversation"
+    model: root.conversation
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    spacing: 14
+    cacheBuffer: 2000
+    activeFocusOnTab: true
+    Accessible.role: Accessible.List
+    Accessible.name: Strings.conversation
+    T.ScrollBar.vertical: ScrollHandle {}
+
+    Keys.onPressed: event => {
+        if (event.matches(StandardKey.Copy)) {
+            root.conversation.copy(root.currentIndex);
+            event.accepted = true;
+        }
+    }
+
+    delegate: FocusScope {
+        id: message
+
+        required property int index
+        required property bool fromUser
+        required property string text
+        required property bool usedModel
+        required property FindingLinks links
+
+        width: ListView.view ? ListView.view.width : 0
+        height: message.fromUser ? question.implicitHeight : answer.implicitHeight
+
+        ChatQuestion {
+            id: question
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: root.columnWidth
+            visible: message.fromUser
+            text: message.text
+        }
+
+        ChatAnswer {
+            id: answer
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: root.columnWidth
+            height: implicitHeight
+            visible: !message.fromUser
+            text: message.text
+            usedModel: message.usedModel
+            links: message.links
+            onFindingRequested: id => root.findingRequested(id)
+            onCopyRequested: root.conversation.copy(message.index)
+        }
+
+        FocusRing {
+            anchors.fill: message.fromUser ? question : answer
+            shown: root.activeFocus && !message.activeFocus && root.currentIndex === message.index
+            gap: 4
+            shape: Theme.cardRadius
+        }
+    }
+
+    // Not margins, which the end of the view does not include.
+    header: Item {
+        width: root.width
+        height: 12
+    }
+
+    footer: Item {
+        width: root.width
+        height: root.isWaiting ? Math.round(44 * Theme.textScale) : 12
+
+        ThinkingDots {
+            x: Math.round((parent.width - root.columnWidth) / 2) + 20
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.isWaiting
+            active: root.isWaiting
+        }
+    }
+
+    add: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.screenDuration
+        }
+    }
+
+    onCountChanged: {
+        root.currentIndex = root.count - 1;
+        follow.restart();
+    }
+    onIsWaitingChanged: follow.restart()
+    onHeightChanged: follow.restart()
+    onWidthChanged: follow.restart()
+
+    // Once the messages have got their sizes.
+    Timer {
+        id: follow
+
+        interval: 0
+        onTriggered: root.positionViewAtEnd()
+    }
+
+    Timer {
+        id: patience
+
+        interval: 200
+        running: root.conversation.thinking
+    }
+}

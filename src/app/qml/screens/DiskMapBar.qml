@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Layouts
+import Orlen.App
+
+/// The way to the folder shown, and how it is shown.
+Item {
+    id: root
+
+    required property DiskMapView map
+    required property bool asList
+    signal listRequested(wanted: bool)
+
+    implicitHeight: Theme.controlHeight
+
+    RowLayout {
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, tools.x - 16)
+        spacing: 0
+        Accessible.role: Accessible.List
+        Accessible.name: Strings.diskMapTitle
+
+        Repeater {
+            model: root.map.crumbs
+
+            Crumb {
+                id: crumb
+
+                objectName: "crumb-" + crumb.step
+                Layout.fillWidth: true
+                Layout.minimumWidth: Math.min(implicitWidth, 64)
+                Layout.maximumWidth: implicitWidth
+                onClicked: root.map.goTo(crumb.step)
+            }
+        }
+    }
+
+    Row {
+        id: tools
+
+        anchors.right: parent.right
+        spacing: 8
+
+        IconButton {
+            objectName: "diskMapReload"
+            symbol: "arrow.clockwise"
+            text: Strings.measureAgain
+            onClicked: root.map.load()
+        }
+
+        SegmentedSwitch {
+            objectName: "diskMapForm"
+            firstSymbol: "square.grid.3x3.fill"
+            firstText: Strings.asMap
+            secondSymbol: "list.bullet"
+            secondText: Strings.asList
+            current: root.asList ? 1 : 0
+            onSelected: index => root.listRequested(index === 1)
+        }
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The disk map as a list, largest first.
+ListView {
+    id: root
+
+    required property DiskMapView map
+
+    objectName: "diskMapList"
+    model: root.map
+    clip: true
+    topMargin: 6
+    bottomMargin: 6
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    keyNavigationEnabled: false
+    currentIndex: root.map.currentRow
+    highlightFollowsCurrentItem: true
+    highlightMoveDuration: 0
+    Accessible.role: Accessible.List
+    Accessible.name: Strings.contentsOf.arg(root.map.folderName)
+    T.ScrollBar.vertical: ScrollHandle {}
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Up:
+            root.map.currentRow = Math.max(0, root.currentIndex - 1);
+            break;
+        case Qt.Key_Down:
+            root.map.currentRow = Math.min(root.count - 1, root.currentIndex + 1);
+            break;
+        case Qt.Key_Home:
+            root.map.currentRow = 0;
+            break;
+        case Qt.Key_End:
+            root.map.currentRow = root.count - 1;
+            break;
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            root.map.open(root.currentIndex);
+            break;
+        case Qt.Key_Menu:
+            root.map.reveal(root.currentIndex);
+            break;
+        case Qt.Key_F10:
+            event.accepted = event.modifiers & Qt.ShiftModifier;
+            if (event.accepted)
+                root.map.reveal(root.currentIndex);
+            break;
+        default:
+            event.accepted = false;
+        }
+    }
+
+    delegate: DiskMapRow {
+        id: row
+
+        width: ListView.view ? ListView.view.width : 0
+        isCurrent: root.activeFocus && root.map.currentRow === row.index
+        onPressed: {
+            root.map.currentRow = row.index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.map.open(row.index);
+        }
+        onRevealRequested: root.map.reveal(row.index)
+    }
+}

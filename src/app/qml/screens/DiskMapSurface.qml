@@ -1,0 +1,161 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The tiles of the disk map, and what pointer, fingers and keys do to them.
+T.Control {
+    id: root
+
+    required property DiskMapView map
+
+    /// The map is 12 points narrower and lower than its view, and its last tiles end with a gap of 2.
+    readonly property int mapWidth: Math.max(0, root.width) + 14
+    readonly property int mapHeight: Math.max(0, root.height) + 14
+    /// Whether the keyboard is at work here.
+    readonly property bool showsRing: root.activeFocus && (root.visualFocus || root.isKeyed)
+    property bool isKeyed: false
+
+    objectName: "diskMapSurface"
+    clip: true
+    focus: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.List
+    Accessible.name: Strings.contentsOf.arg(root.map.folderName)
+
+    Keys.onPressed: event => {
+        root.isKeyed = true;
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Left:
+            root.map.step(DiskMapView.Left);
+            break;
+        case Qt.Key_Right:
+            root.map.step(DiskMapView.Right);
+            break;
+        case Qt.Key_Up:
+            root.map.step(DiskMapView.Up);
+            break;
+        case Qt.Key_Down:
+            root.map.step(DiskMapView.Down);
+            break;
+        case Qt.Key_Home:
+            root.map.currentRow = 0;
+            break;
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            root.map.open(root.map.currentRow);
+            break;
+        case Qt.Key_Menu:
+            root.map.reveal(root.map.currentRow);
+            break;
+        case Qt.Key_F10:
+            event.accepted = event.modifiers & Qt.ShiftModifier;
+            if (event.accepted)
+                root.map.reveal(root.map.currentRow);
+            break;
+        default:
+            event.accepted = false;
+        }
+    }
+
+    contentItem: Item {
+        id: tiles
+
+        opacity: 0
+        transform: Scale {
+            id: zoom
+
+            origin.x: root.map.zoomOrigin.x
+            origin.y: root.map.zoomOrigin.y
+            yScale: xScale
+        }
+
+        Repeater {
+            model: root.map
+
+            DiskMapTile {
+                id: tile
+
+                objectName: "tile-" + tile.index
+                moving: root.map.rearranging && Theme.moves
+                isHovered: root.map.hoverRow === tile.index
+                isCurrent: root.showsRing && root.map.currentRow === tile.index
+                onPressed: root.map.open(tile.index)
+            }
+        }
+    }
+
+    // The left button acts when it goes down; clicks belong to lists and buttons.
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.BackButton
+        onPressed: mouse => {
+            root.isKeyed = false;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            if (mouse.button === Qt.LeftButton)
+                root.map.click(Qt.point(mouse.x, mouse.y));
+            else if (mouse.button === Qt.RightButton)
+                root.map.reveal(root.map.hoverRow);
+            else
+                root.map.up();
+        }
+        onPositionChanged: mouse => root.map.movePointer(Qt.point(mouse.x, mouse.y))
+        onExited: root.map.removePointer()
+        onWheel: wheel => {
+            wheel.accepted = wheel.modifiers & Qt.ControlModifier;
+            if (wheel.accepted)
+                root.map.turnWheel(wheel.angleDelta.y);
+        }
+    }
+
+    PinchHandler {
+        target: null
+        onActiveScaleChanged: root.map.pinch(activeScale)
+    }
+
+    Connections {
+        target: root.map
+
+        function onLoadingChanged() {
+            if (root.map.loading) {
+                arrival.stop();
+                farewell.start();
+            }
+        }
+
+        function onArrived(levels: int) {
+            farewell.stop();
+            zoom.xScale = levels > 0 ? 0.9 : levels < 0 ? 1.08 : 1;
+            arrival.restart();
+        }
+    }
+
+    NumberAnimation {
+        id: farewell
+
+        target: tiles
+        property: "opacity"
+        to: 0
+        duration: Theme.sheetOutDuration
+    }
+
+    ParallelAnimation {
+        id: arrival
+
+        NumberAnimation {
+            target: tiles
+            property: "opacity"
+            to: 1
+            duration: Theme.screenDuration
+        }
+        SpringMotion {
+            target: zoom
+            property: "xScale"
+            to: 1
+            response: 0.55
+            damping: 0.85
+        }
+    }
+}

@@ -1,0 +1,69 @@
+import QtQuick
+import Orlen.App
+
+/// The questions to begin with, in one quiet line that scrolls sideways.
+Item {
+    id: root
+
+    required property ConversationModel conversation
+    signal asked(question: string)
+
+    implicitHeight: Math.round(30 * Theme.textScale) + 6
+
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        orientation: ListView.Horizontal
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        spacing: 8
+        keyNavigationEnabled: false
+        cacheBuffer: 4000
+        model: root.conversation.suggestions
+        Accessible.role: Accessible.List
+        Accessible.name: Strings.tryOneOfThese
+
+        delegate: SuggestionPill {
+            id: pill
+
+            required property string modelData
+            required property int index
+
+            y: 3
+            quiet: true
+            text: pill.modelData
+            onClicked: root.asked(pill.text)
+            onActiveFocusChanged: {
+                if (pill.activeFocus)
+                    list.positionViewAtIndex(pill.index, ListView.Contain);
+            }
+        }
+
+        WheelHandler {
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+            orientation: Qt.Vertical
+            property: "contentX"
+            rotationScale: -1
+            onWheel: list.returnToBounds()
+        }
+    }
+
+    Rectangle {
+        anchors.right: parent.right
+        width: 40
+        height: parent.height
+        visible: !list.atXEnd
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop {
+                position: 0
+                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+            }
+            GradientStop {
+                position: 1
+                color: Theme.window
+            }
+        }
+    }
+}

@@ -1,0 +1,91 @@
+#include "ConversationModel.h"
+
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace orlen {
+
+namespace {
+
+QVariant value(const ConversationModel& model, int row, ConversationModel::Role role)
+{
+    return model.data(model.index(row), static_cast<int>(role));
+}
+
+} // namespace
+
+TEST(ConversationModelTest, answersOneQuestionAfterTheOther)
+{
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    ConversationModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setApp(&app);
+    EXPECT_FALSE(model.ask("  \n "));
+    EXPECT_TRUE(model.isEmpty());
+
+    EXPECT_TRUE(model.ask("  is there a\n duplicate? "));
+    EXPECT_TRUE(model.isThinking());
+    EXPECT_FALSE(model.ask("and another?"));
+    EXPECT_EQ(model.rowCount(), 1);
+    ASSERT_TRUE(waitUntil([&] { return !model.isThinking(); }));
+    ASSERT_EQ(model.rowCount(), 2);
+    using Role = ConversationModel::Role;
+    EXPECT_TRUE(value(model, 0, Role::fromUser).toBool());
+    EXPECT_EQ(value(model, 0, Role::text), "is there a duplicate?");
+    EXPECT_FALSE(value(model, 1, Role::fromUser).toBool());
+    EXPECT_TRUE(value(model, 1, Role::text).toString().startsWith("I don't have scan results yet."));
+    model.copy(1);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), value(model, 1, Role::text).toString());
+}
+
+TEST(ConversationModelTest, recallsEarlierQuestions)
+{
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    ConversationModel model;
+    model.setApp(&app);
+    EXPECT_EQ(model.recall(ConversationModel::Earlier), "");
+    for (const char* question : {"first", "second", "second"}) {
+        ASSERT_TRUE(model.ask(question));
+        ASSERT_TRUE(waitUntil([&] { return !model.isThinking(); }));
+    }
+    EXPECT_EQ(model.recall(ConversationModel::Earlier), "second");
+    EXPECT_EQ(model.recall(ConversationModel::Earlier), "first");
+    EXPECT_EQ(model.recall(ConversationModel::Earlier), "first");
+    EXPECT_EQ(model.recall(ConversationModel::Later), "second");
+    EXPECT_EQ(model.recall(ConversationModel::Later), "");
+    EXPECT_EQ(model.recall(ConversationModel::Later), "");
+}
+
+TEST(ConversationModelTest, linksOnlyToFindingsThatAreStillThere)
+{
+    const TempHome home;
+    home.fileOfSize("Documents/a.bin", 2'097'152, 7);
+    home.fileOfSize("Documents/b.bin", 2'097'152, 7);
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    app.startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    ConversationModel model;
+    model.setApp(&app);
+    ASSERT_TRUE(model.ask("duplicate"));
+    ASSERT_TRUE(waitUntil([&] { return !model.isThinking(); }));
+    auto* links = value(model, 1, ConversationModel::Role::links).value<FindingLinks*>();
+    ASSERT_NE(links, nullptr);
+    const QAbstractItemModelTester tester(links, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    ASSERT_EQ(links->rowCount(), 1);
+    EXPECT_EQ(links->data(links->index(0), static_cast<int>(FindingLinks::Role::findingId)), "duplicates");
+    EXPECT_EQ(links->data(links->index(0), static_cast<int>(FindingLinks::Role::size)), "2.1 MB");
+
+    app.removeFromFindings({home.path("Documents/a.bin"), home.path("Documents/b.bin")});
+    EXPECT_TRUE(links->rowCount() == 0 ||
+                links->data(links->index(0), static_cast<int>(FindingLinks::Role::size)) == "0 bytes");
+}
+
+} // namespace orlen

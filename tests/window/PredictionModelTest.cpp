@@ -1,0 +1,76 @@
+#include "PredictionModel.h"
+
+#include "app/EventLoop.h"
+#include "clean/Persist.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::int64_t kGB = 1'000'000'000;
+const TimePoint kNow = std::chrono::system_clock::now();
+
+Snapshot reading(int daysAgo, std::int64_t free, std::map<std::string, std::int64_t> cats)
+{
+    return {kNow - std::chrono::days(daysAgo), free, 500 * kGB, std::move(cats)};
+}
+
+QVariant value(const PredictionModel& model, int row, PredictionModel::Role role)
+{
+    return model.data(model.index(row), static_cast<int>(role));
+}
+
+} // namespace
+
+TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
+{
+    const TempHome home;
+    Persist::saveSnapshots({
+        reading(7, 100 * kGB, {{"apps", 9 * kGB}, {"media", 8 * kGB}, {"photos", kGB}}),
+        reading(0, 90 * kGB, {{"apps", 12 * kGB}, {"media", 7 * kGB}, {"photos", kGB}}),
+    });
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    PredictionModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setApp(&app);
+    using Role = PredictionModel::Role;
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_TRUE(model.hasEnoughData());
+    EXPECT_EQ(value(model, 0, Role::label), "Apps");
+    EXPECT_EQ(value(model, 0, Role::rate), "+3 GB / week");
+    EXPECT_EQ(value(model, 1, Role::rate), "No change");
+    EXPECT_EQ(value(model, 2, Role::rate), "\u22121 GB / week");
+    EXPECT_NEAR(value(model, 0, Role::start).toDouble(), 0.25, 1e-6);
+    EXPECT_NEAR(value(model, 0, Role::extent).toDouble(), 0.75, 1e-6);
+    EXPECT_NEAR(value(model, 2, Role::start).toDouble(), 0, 1e-6);
+    EXPECT_NEAR(value(model, 2, Role::extent).toDouble(), 0.25, 1e-6);
+    EXPECT_EQ(model.snapshotsText(), "2 snapshots");
+    EXPECT_FALSE(model.curve().known.empty());
+}
+
+TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
+{
+    const TempHome home;
+    Persist::saveSnapshots({reading(3, 100 * kGB, {{"apps", kGB}, {"system", kGB}})});
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    PredictionModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.setApp(&app);
+    EXPECT_EQ(model.headline(), "Still learning your Mac");
+    EXPECT_EQ(model.snapshotsText(), "1 snapshot");
+    EXPECT_TRUE(model.isEmpty());
+    EXPECT_TRUE(model.curve().known.empty());
+
+    app.refreshBreakdown(AppModel::Recording::ifStale);
+    ASSERT_TRUE(waitUntil([&] { return app.snapshots().size() == 2; }));
+    EXPECT_TRUE(model.hasEnoughData());
+    EXPECT_FALSE(model.isEmpty());
+    EXPECT_EQ(model.curve().known.size(), 2U);
+}
+
+} // namespace orlen
