@@ -132,6 +132,25 @@ void AppModel::setSelection(std::set<std::string> selection)
     assign(m_selection, std::move(selection), &AppModel::selectionChanged);
 }
 
+void AppModel::select(std::span<const std::string> paths)
+{
+    checkThread();
+    const std::size_t before = m_selection.size();
+    m_selection.insert(paths.begin(), paths.end());
+    if (m_selection.size() != before)
+        Q_EMIT selectionChanged();
+}
+
+void AppModel::deselect(std::span<const std::string> paths)
+{
+    checkThread();
+    const std::size_t before = m_selection.size();
+    for (const std::string& path : paths)
+        m_selection.erase(path);
+    if (m_selection.size() != before)
+        Q_EMIT selectionChanged();
+}
+
 void AppModel::setSheet(std::optional<SheetKind> sheet)
 {
     assign(m_sheet, std::move(sheet), &AppModel::sheetChanged);

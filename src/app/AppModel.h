@@ -93,6 +93,10 @@ public:
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
 
     void setSelection(std::set<std::string> selection);
+    /// Adds paths to the selection, or takes them out, at the cost of those paths alone. One
+    /// `selectionChanged` tells of all of them, and none when nothing changes.
+    void select(std::span<const std::string> paths);
+    void deselect(std::span<const std::string> paths);
     void setSheet(std::optional<SheetKind> sheet);
     void setRequestedScreen(std::optional<Screen> screen);
     /// A value that is not finite, or too large in bytes for 64 bits, stops the program at the next scan.

@@ -1,7 +1,9 @@
 #include "Window.h"
 
 #include "AppModelElement.h"
+#include "Reveal.h"
 #include "SymbolProvider.h"
+#include "Thumbnails.h"
 #include "platform/OwnProgram.h"
 
 #include <QFont>
@@ -49,6 +51,8 @@ QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
     AppModelElement::setModel(&model);
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);
+    engine.addImageProvider(QLatin1String(Thumbnails::kName), new Thumbnails);
+    new Reveal(&engine);
     engine.load(QUrl(QStringLiteral("qrc:/Orlen/App/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr
                                           : qobject_cast<QQuickWindow*>(engine.rootObjects().first());

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QImage>
+#include <QMutex>
+#include <QQuickImageResponse>
+
+#include <memory>
+
+namespace orlen {
+
+/// The answer to one request of an image item. Made and destroyed by the engine, at any time; whoever decodes
+/// holds only a ticket.
+class ThumbnailResponse : public QQuickImageResponse {
+    Q_OBJECT
+
+public:
+    /// What a decoder keeps of the response. Any thread.
+    class Ticket {
+    public:
+        explicit Ticket(ThumbnailResponse& response) : m_response(&response) {}
+
+        /// False once nobody waits for the picture any more.
+        [[nodiscard]] bool isWanted();
+        /// Ends the response. Nothing happens when it is gone.
+        void deliver(const QImage& image);
+
+    private:
+        friend class ThumbnailResponse;
+        void forget();
+        void refuse();
+
+        QMutex m_lock;
+        ThumbnailResponse* m_response;
+        bool m_isWanted = true;
+    };
+
+    ThumbnailResponse() : m_ticket(std::make_shared<Ticket>(*this)) {}
+    ~ThumbnailResponse() override { m_ticket->forget(); }
+
+    [[nodiscard]] std::shared_ptr<Ticket> ticket() const { return m_ticket; }
+    [[nodiscard]] QQuickTextureFactory* textureFactory() const override;
+    void cancel() override { m_ticket->refuse(); }
+
+private:
+    std::shared_ptr<Ticket> m_ticket;
+    QImage m_image;
+};
+
+} // namespace orlen
