@@ -102,7 +102,17 @@ QtObject {
 
     // History
     readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."
+    readonly property string historyTitle: "History"
     readonly property string nothingCleaned: "Nothing cleaned yet."
+    readonly property string restore: "Restore"
+    readonly property string restoring: "Restoring…"
+    readonly property string restored: "Restored"
+    readonly property string restoreOf: "Restore %1, %2"
+    readonly property string showItems: "Show items"
+    readonly property string hideItems: "Hide items"
+    readonly property string pastCleanUps: "Clean-ups"
+    readonly property string itemsOf: "Items of %1"
+    readonly property string readerOnly: "Another Orlen is open. Clean-ups can be restored from there."
 
     // How Orlen Works
     readonly property string safetyLead: "What it does, what it never does, and how far to trust it."

@@ -36,6 +36,10 @@ QtObject {
     readonly property color keepBase: "#3478f6"
     readonly property real chipOpacity: root.dark ? 0.18 : 0.14
 
+    /// Of the screens, as the sidebar's badges.
+    readonly property color photosTone: "#ee4c86"
+    readonly property color historyTone: "#2ea05a"
+
     /// Text sizes in pixels, grown with the desktop's own.
     readonly property real textScale: root.appearance.textScale
     readonly property int heroSize: Math.round(34 * root.textScale)
