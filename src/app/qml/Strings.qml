@@ -9,6 +9,8 @@ QtObject {
     readonly property string freeOf: "free of %1"
     readonly property string usedSpace: "Used space"
     readonly property string screens: "Screens"
+    /// Between facts of one line, which breaks only after it.
+    readonly property string joint: "\u00a0· "
     readonly property string clear: "Clear"
     readonly property string close: "Close"
     readonly property string cancel: "Cancel"
@@ -66,6 +68,12 @@ QtObject {
     readonly property string photosBeforeScan: "Run a Smart Scan to find photo clean-ups."
     readonly property string goToSmartScan: "Go to Smart Scan"
     readonly property string noPhotos: "No photo clean-ups were found."
+    readonly property string showAllNumber: "Show all %1"
+    readonly property string showAllOf: "Show all of %1"
+    readonly property string backToPhotos: "Back to Smart Photos"
+    readonly property string kept: "Kept"
+    readonly property string selectAllPhotos: "Select all photos"
+    readonly property string noPhotoSelected: "No photo selected"
     readonly property string photosFooter: "Photos are analysed on this Mac with Apple's Vision framework: feature prints find similar shots, an image classifier spots screenshots and receipts, and a sharpness score picks the best photo of each set."
 
     // Ask Orlen

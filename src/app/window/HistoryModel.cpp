@@ -11,7 +11,8 @@ namespace orlen {
 
 namespace {
 
-const QString kJoint = QStringLiteral(" · ");
+/// A line breaks only after it.
+const QString kJoint = QStringLiteral("\u00a0· ");
 
 QString counted(int count, const QString& one, const QString& many)
 {

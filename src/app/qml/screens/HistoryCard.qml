@@ -89,7 +89,7 @@ Card {
 
             Text {
                 width: parent.width
-                text: root.date + " · " + (root.isNarrow ? root.freed + " · " : "") + root.summary
+                text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
                 textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3

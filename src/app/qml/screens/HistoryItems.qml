@@ -62,7 +62,7 @@ Item {
             width: list.width
             height: root.rowHeight
             isNarrow: root.isNarrow
-            ringed: ListView.isCurrentItem && list.Window.activeFocusItem === list
+            ringed: ListView.isCurrentItem && row.Window.activeFocusItem === row
             onRevealRequested: items.reveal(row.index)
         }
     }

@@ -61,7 +61,7 @@ Item {
 
             width: list.width - Theme.pageMargin
             current: ListView.isCurrentItem
-            ringed: card.current && list.Window.activeFocusItem === list
+            ringed: card.current && card.Window.activeFocusItem === card
             open: root.openRecord === card.recordId
             writable: AppModel.writer
             onPressed: list.currentIndex = card.index
@@ -69,7 +69,7 @@ Item {
             onRestoreRequested: fromKeyboard => {
                 // The button goes out of use, and must not take the keyboard with it.
                 if (fromKeyboard)
-                    list.forceActiveFocus();
+                    card.forceActiveFocus();
                 history.restore(card.index);
             }
         }
