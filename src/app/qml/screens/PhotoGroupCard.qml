@@ -22,10 +22,20 @@ Card {
     readonly property int padding: 18
     readonly property int columns: Math.max(3, Math.floor(strip.width / (124 * Math.min(1.25, Theme.textScale))))
 
+    property bool wasOpened: false
+
     signal opened
     signal previewRequested(tiles: PhotoTilesModel, row: int)
 
     height: head.height + strip.height + 3 * root.padding - 4
+
+    // The keyboard goes on where it was when the whole group was opened.
+    onVisibleChanged: {
+        if (!root.visible || !root.wasOpened)
+            return;
+        root.wasOpened = false;
+        showAll.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     PhotoTilesModel {
         id: tiles
@@ -46,6 +56,7 @@ Card {
         Badge {
             id: badge
 
+            anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
             size: 40
@@ -105,7 +116,10 @@ Card {
             anchors.verticalCenter: badge.verticalCenter
             text: Strings.showAllNumber.arg(root.photosText)
             Accessible.name: Strings.showAllOf.arg(root.title)
-            onClicked: root.opened()
+            onClicked: {
+                root.wasOpened = true;
+                root.opened();
+            }
         }
     }
 

@@ -115,6 +115,7 @@ Item {
         }
 
         Row {
+            x: -all.leftPadding
             width: parent.width
             spacing: 4
 

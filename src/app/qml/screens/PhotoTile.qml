@@ -21,7 +21,7 @@ Item {
 
     readonly property int gap: 8
     readonly property bool isInSet: root.joinsPrevious || root.joinsNext
-    readonly property color surround: root.isInSet ? Theme.inset : root.ground
+    readonly property color surround: root.isInSet ? Theme.track : root.ground
 
     signal pressed
     signal toggled
@@ -45,8 +45,8 @@ Item {
             y: 1
             width: parent.width - x + (root.joinsNext ? 16 : -1)
             height: parent.height - 2
-            radius: 12
-            color: Theme.inset
+            radius: Theme.controlRadius + 3
+            color: Theme.track
         }
     }
 
@@ -59,7 +59,7 @@ Item {
         Rectangle {
             anchors.fill: parent
             radius: Theme.controlRadius
-            color: root.isInSet ? Theme.hover : Theme.inset
+            color: Theme.inset
 
             Symbol {
                 anchors.centerIn: parent
