@@ -68,4 +68,6 @@ T.ApplicationWindow {
     ShortcutsSheet {
         id: shortcuts
     }
+
+    RevealBar {}
 }

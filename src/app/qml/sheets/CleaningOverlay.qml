@@ -1,10 +1,179 @@
 import QtQuick
 import Orlen.App
 
+/// A clean-up while it runs, and what came of it.
 Sheet {
     id: root
 
     required property Navigation navigation
 
-    title: ""
+    objectName: "cleaningOverlay"
+    title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
+    wantedWidth: 440
+    wantedHeight: Math.ceil(column.implicitHeight) + 64
+    closable: false
+
+    readonly property bool isWanted: root.navigation.cleaning
+    property real swell: cleaning.finished ? 1 : 0
+
+    onIsWantedChanged: root.isWanted ? root.open() : root.close()
+    onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
+
+    Behavior on swell {
+        SpringMotion {
+            response: 0.6
+            damping: 0.8
+        }
+    }
+
+    CleaningModel {
+        id: cleaning
+
+        app: AppModel
+    }
+
+    FocusScope {
+        id: content
+
+        anchors.fill: parent
+        focus: true
+
+        Keys.onEscapePressed: if (cleaning.finished) AppModel.dismissCleaning()
+        Keys.onReturnPressed: if (cleaning.finished) AppModel.dismissCleaning()
+        Keys.onEnterPressed: if (cleaning.finished) AppModel.dismissCleaning()
+
+        Column {
+            id: column
+
+            x: 32
+            y: 32
+            width: parent.width - 64
+            spacing: 10
+
+            Item {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 92
+                height: 92
+
+                ProgressRing {
+                    id: ring
+
+                    anchors.fill: parent
+                    thickness: 8
+                    value: cleaning.fraction
+                    tone: cleaning.finished && cleaning.moved > 0 ? Theme.safeBase : Theme.accent
+                    track: Theme.track
+                    scale: 1 + 0.06 * root.swell * (1 - root.swell) * 4
+                    Accessible.role: Accessible.ProgressBar
+                    Accessible.name: cleaning.progressText
+
+                    Behavior on value {
+                        SpringMotion {
+                            response: 0.6
+                            damping: 0.8
+                        }
+                    }
+                }
+
+                Symbol {
+                    anchors.centerIn: parent
+                    name: "trash"
+                    size: 30
+                    opacity: 1 - Math.min(1, root.swell * 2)
+                }
+
+                Symbol {
+                    anchors.centerIn: parent
+                    name: cleaning.moved > 0 ? "checkmark" : "exclamationmark.triangle.fill"
+                    colour: cleaning.moved > 0 ? Theme.safeText : Theme.reviewText
+                    size: 40
+                    scale: root.swell
+                    opacity: Math.min(1, Math.max(0, root.swell))
+                }
+            }
+
+            Text {
+                objectName: "cleaningTitle"
+                width: parent.width
+                topPadding: 10
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                text: root.title
+                textFormat: Text.PlainText
+                color: Theme.text
+                font.pixelSize: Theme.titleSize
+                font.weight: Font.Bold
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: cleaning.finished ? cleaning.planTitle + " · " + cleaning.freedText : cleaning.progressText
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.secondary
+                font.pixelSize: Theme.bodySize
+                font.weight: Font.DemiBold
+            }
+
+            Text {
+                width: parent.width
+                visible: cleaning.finished && cleaning.failed > 0
+                horizontalAlignment: Text.AlignHCenter
+                text: Strings.couldNotBeMoved.arg(cleaning.failedText)
+                textFormat: Text.PlainText
+                color: Theme.reviewText
+                font.pixelSize: Theme.bodySize
+                font.weight: Font.Medium
+            }
+
+            Text {
+                width: parent.width
+                visible: !cleaning.finished
+                horizontalAlignment: Text.AlignHCenter
+                text: cleaning.current
+                textFormat: Text.PlainText
+                elide: Text.ElideMiddle
+                color: Theme.tertiary
+                font.pixelSize: Theme.smallSize
+            }
+
+            Text {
+                width: parent.width
+                visible: cleaning.finished
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                lineHeight: 1.25
+                text: Strings.nothingDeleted
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.smallSize
+            }
+
+            Item {
+                width: 1
+                height: 4
+            }
+
+            AppButton {
+                objectName: "cleaningDone"
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: cleaning.finished
+                primary: true
+                text: Strings.done
+                onClicked: AppModel.dismissCleaning()
+            }
+
+            AppButton {
+                objectName: "cleaningStop"
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: !cleaning.finished
+                enabled: !cleaning.stopping
+                text: cleaning.stopping ? Strings.stopping : Strings.stop
+                onClicked: cleaning.stop()
+            }
+        }
+    }
 }

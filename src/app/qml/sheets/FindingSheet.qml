@@ -1,10 +1,140 @@
 import QtQuick
 import Orlen.App
 
+/// The entries of one finding, to choose among.
 Sheet {
     id: root
 
     required property Navigation navigation
 
-    title: ""
+    readonly property bool isWanted: root.navigation.sheet === Navigation.FindingSheet
+    readonly property string wantedId: root.navigation.findingId
+
+    function preview(row: int) {
+        if (row < 0 || row >= list.count)
+            return;
+        list.moveTo(row);
+        look.show(contents.tokenAt(row), contents.sizeAt(row));
+    }
+
+    objectName: "findingSheet"
+    title: contents.header.title
+    wantedWidth: 820
+    wantedHeight: 680
+
+    onWantedIdChanged: if (root.wantedId !== "") contents.findingId = root.wantedId
+    onIsWantedChanged: root.isWanted ? root.open() : root.close()
+    onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToHide: if (root.isWanted) root.navigation.closeSheet()
+    // Only now, so that the sheet does not empty itself while it fades.
+    onClosed: if (!root.isWanted) contents.findingId = ""
+
+    EntryListModel {
+        id: contents
+
+        app: AppModel
+        onOrderChanged: list.positionViewAtBeginning()
+    }
+
+    PreviewSheet {
+        id: look
+
+        onStepRequested: by => root.preview(list.currentIndex + by)
+    }
+
+    SheetHeader {
+        id: header
+
+        width: parent.width
+        title: contents.header.title
+        symbol: contents.header.symbol
+        tone: contents.header.tone
+        rating: contents.header.rating
+        ratingLabel: contents.header.ratingLabel
+        ratingSymbol: contents.header.ratingSymbol
+        onCloseRequested: root.close()
+
+        SheetText {
+            width: parent.width
+            text: contents.header.explanation
+        }
+
+        SheetText {
+            width: parent.width
+            visible: text !== ""
+            text: contents.header.reason
+            color: Theme.tertiary
+        }
+    }
+
+    FindingBar {
+        id: bar
+
+        anchors.top: header.bottom
+        width: parent.width
+        entries: contents
+    }
+
+    EntryList {
+        id: list
+
+        objectName: "findingEntries"
+        anchors.top: bar.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        topMargin: 6
+        bottomMargin: 6
+        rowHeight: Math.round((contents.hasNotes ? 70 : 56) * Theme.textScale)
+        cacheBuffer: 400
+        model: contents
+        Accessible.name: contents.header.title
+        onPreviewRequested: row => root.preview(row)
+        onToggleRequested: row => contents.toggle(row)
+        onAllRequested: contents.selectShown()
+        onNoneRequested: contents.deselectShown()
+
+        delegate: EntryRow {
+            required property int index
+            required property bool marked
+
+            width: ListView.view.width
+            height: list.rowHeight
+            checkable: contents.header.cleanable
+            checkState: marked ? Qt.Checked : Qt.Unchecked
+            isCurrent: list.currentIndex === index && list.activeFocus
+            showsFocus: isCurrent && list.showsFocus
+            onPressed: {
+                list.showsFocus = false;
+                list.currentIndex = index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+            }
+            onToggled: contents.toggle(index)
+            onPreviewRequested: root.preview(index)
+            onRevealRequested: contents.reveal(index)
+        }
+    }
+
+    EmptyState {
+        anchors.centerIn: list
+        width: list.width - 64
+        visible: list.count === 0
+        symbol: contents.filter !== "" ? "magnifyingglass" : "checkmark"
+        tone: contents.header.tone
+        text: contents.filter !== "" ? Strings.nothingMatches : Strings.nothingLeft
+        action: contents.filter !== "" ? Strings.clearFilter : ""
+        onTriggered: bar.clearFilter()
+    }
+
+    SheetFooter {
+        id: footer
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        shown: contents.header.cleanable && contents.entryCount > 0
+        note: Strings.trashPromise
+        figure: contents.selectedSizeText
+        action: Strings.reviewAndClean
+        ready: contents.selectedCount > 0
+        onTriggered: contents.review()
+    }
 }

@@ -1,10 +1,148 @@
 import QtQuick
 import Orlen.App
 
+/// The confirmation of a plan: everything that would move, to look through once more.
 Sheet {
     id: root
 
     required property Navigation navigation
 
-    title: ""
+    readonly property bool isWanted: root.navigation.sheet === Navigation.PlanSheet
+
+    function preview(row: int) {
+        const token = plan.tokenAt(row);
+        if (token === 0)
+            return;
+        list.moveTo(row);
+        look.show(token, plan.sizeAt(row));
+    }
+
+    /// Goes on to the next file, over the headings.
+    function step(by: int) {
+        let row = list.currentIndex + by;
+        while (row >= 0 && row < list.count && plan.tokenAt(row) === 0)
+            row += by;
+        root.preview(row);
+    }
+
+    objectName: "reviewSheet"
+    title: Strings.reviewTitle
+    wantedWidth: 820
+    wantedHeight: 680
+
+    onIsWantedChanged: root.isWanted ? root.open() : root.close()
+    onOpened: {
+        list.positionViewAtBeginning();
+        list.currentIndex = -1;
+        footer.forceActiveFocus(Qt.PopupFocusReason);
+    }
+    onAboutToHide: if (root.isWanted) root.navigation.closeSheet()
+
+    PlanModel {
+        id: plan
+
+        app: AppModel
+    }
+
+    PreviewSheet {
+        id: look
+
+        onStepRequested: by => root.step(by)
+    }
+
+    SheetHeader {
+        id: header
+
+        width: parent.width
+        title: Strings.reviewTitle
+        onCloseRequested: root.close()
+
+        SheetText {
+            objectName: "planTitle"
+            width: parent.width
+            visible: text !== ""
+            text: plan.title
+            maximumLineCount: 1
+            color: Theme.accent
+            font.weight: Font.DemiBold
+        }
+
+        SheetText {
+            objectName: "reviewLead"
+            width: parent.width
+            text: Strings.reviewLead.arg(plan.checkedCountText)
+        }
+    }
+
+    Rectangle {
+        anchors.bottom: list.top
+        width: parent.width
+        height: 1
+        color: Theme.stroke
+    }
+
+    EntryList {
+        id: list
+
+        objectName: "planEntries"
+        anchors.top: header.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        bottomMargin: 6
+        rowHeight: Math.round((plan.hasNotes ? 70 : 56) * Theme.textScale)
+        cacheBuffer: 400
+        model: plan
+        Accessible.name: plan.title
+        onPreviewRequested: row => plan.tokenAt(row) === 0 ? plan.fold(row) : root.preview(row)
+        onToggleRequested: row => plan.toggle(row)
+        onAllRequested: plan.checkAll()
+        onNoneRequested: plan.uncheckAll()
+        onFoldRequested: (row, fold) => {
+            list.moveTo(plan.headingOf(row));
+            plan.setFolded(list.currentIndex, fold);
+        }
+
+        delegate: PlanRow {
+            id: row
+
+            width: ListView.view.width
+            height: heading ? Math.round(50 * Theme.textScale) : list.rowHeight
+            isCurrent: list.currentIndex === index && list.activeFocus
+            showsFocus: isCurrent && list.showsFocus
+            onPressed: {
+                list.showsFocus = false;
+                list.currentIndex = row.index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+            }
+            onToggled: plan.toggle(row.index)
+            onFolding: plan.fold(row.index)
+            onPreviewRequested: root.preview(row.index)
+            onRevealRequested: plan.reveal(row.index)
+        }
+    }
+
+    EmptyState {
+        anchors.centerIn: list
+        width: list.width - 64
+        visible: plan.entryCount === 0
+        symbol: "checkmark"
+        tone: Theme.accentFill
+        text: Strings.nothingSelected
+    }
+
+    SheetFooter {
+        id: footer
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        note: AppModel.writer ? Strings.trashKeeps : Strings.anotherOrlen
+        noteSymbol: AppModel.writer ? "trash" : "exclamationmark.triangle.fill"
+        noteInk: AppModel.writer ? Theme.secondary : Theme.reviewText
+        figure: plan.checkedSizeText
+        cancel: Strings.cancel
+        action: Strings.moveToTrash
+        ready: plan.confirmable
+        onCancelled: root.close()
+        onTriggered: plan.confirm()
+    }
 }

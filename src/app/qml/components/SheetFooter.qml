@@ -1,0 +1,76 @@
+import QtQuick
+import Orlen.App
+
+/// The foot of a sheet: a remark, what it comes to, and the button that goes on.
+Item {
+    id: root
+
+    required property string note
+    required property string figure
+    required property string action
+    property bool shown: true
+    /// Whether the button can be pressed.
+    property bool ready: true
+    property string noteSymbol: "trash"
+    property color noteInk: Theme.secondary
+    /// Of a second button; none when empty.
+    property string cancel: ""
+    signal triggered
+    signal cancelled
+
+    height: root.shown ? Math.max(Theme.mainControlHeight, remark.height) + 28 : 12
+    visible: root.shown
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Theme.stroke
+    }
+
+    Note {
+        id: remark
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: 24
+        width: total.x - x - 16
+        text: root.note
+        symbol: root.noteSymbol
+        ink: root.noteInk
+    }
+
+    Text {
+        id: total
+
+        anchors.right: buttons.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.figure
+        textFormat: Text.PlainText
+        color: Theme.text
+        font.pixelSize: Theme.headlineSize
+        font.weight: Font.Bold
+    }
+
+    Row {
+        id: buttons
+
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 8
+
+        AppButton {
+            visible: root.cancel !== ""
+            text: root.cancel
+            onClicked: root.cancelled()
+        }
+
+        AppButton {
+            objectName: "primaryAction"
+            primary: true
+            enabled: root.ready
+            text: root.action
+            onClicked: root.triggered()
+        }
+    }
+}

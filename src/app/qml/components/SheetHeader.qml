@@ -1,0 +1,83 @@
+import QtQuick
+import Orlen.App
+
+/// The head of a sheet: badge, title, what stands below them, and the button that closes it.
+Item {
+    id: root
+
+    required property string title
+    property string symbol: ""
+    property color tone: Theme.accent
+    property string rating: ""
+    property string ratingLabel: ""
+    property string ratingSymbol: ""
+    default property alias lines: texts.data
+    signal closeRequested
+
+    implicitHeight: Math.max(texts.height, badge.height) + 24 + 18
+
+    Badge {
+        id: badge
+
+        x: 24
+        y: 24
+        visible: root.symbol !== ""
+        width: root.symbol === "" ? 0 : badge.size
+        name: root.symbol
+        tone: root.tone
+        size: 44
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: badge.right
+        anchors.leftMargin: root.symbol === "" ? 0 : 14
+        anchors.right: close.left
+        anchors.rightMargin: 16
+        y: 22
+        spacing: 6
+
+        Item {
+            width: parent.width
+            height: Math.max(heading.height, chip.height)
+
+            Text {
+                id: heading
+
+                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
+                text: root.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.titleSize
+                font.weight: Font.Bold
+                Accessible.role: Accessible.Heading
+                Accessible.name: root.title
+            }
+
+            RatingChip {
+                id: chip
+
+                anchors.left: heading.right
+                anchors.leftMargin: 10
+                anchors.verticalCenter: heading.verticalCenter
+                rating: root.rating
+                label: root.ratingLabel
+                symbol: root.ratingSymbol
+            }
+        }
+    }
+
+    IconButton {
+        id: close
+
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        y: 24
+        framed: true
+        symbol: "xmark"
+        text: Strings.close
+        onClicked: root.closeRequested()
+    }
+}

@@ -1,0 +1,117 @@
+import QtQuick
+import Orlen.App
+
+/// Over the entries of a finding: how much is selected, the filter and the order.
+Rectangle {
+    id: root
+
+    required property EntryListModel entries
+    /// On two lines where one has no room.
+    readonly property bool isTall: all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
+
+    function clearFilter() {
+        filter.clear();
+        filter.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    height: (root.isTall ? 2 : 1) * (Theme.controlHeight + 8) + 8
+    color: Theme.inset
+
+    Connections {
+        target: root.entries
+
+        function onFindingChanged() {
+            filter.clear();
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: root.visible
+        onActivated: filter.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    CheckMark {
+        id: all
+
+        objectName: "selectAll"
+        x: 20
+        y: 8 + (Theme.controlHeight - height) / 2
+        visible: root.entries.header.cleanable
+        enabled: root.entries.entryCount > 0
+        tristate: true
+        checkState: root.entries.shownState
+        nextCheckState: () => all.checkState
+        Accessible.name: Strings.selectAllShown
+        onClicked: root.entries.toggleShown()
+        Keys.onReturnPressed: root.entries.toggleShown()
+    }
+
+    Text {
+        id: label
+
+        objectName: "selectedText"
+        anchors.verticalCenter: all.verticalCenter
+        x: all.visible ? all.x + all.width + 8 : 24
+        width: Math.min(implicitWidth, root.width - x - 16)
+        text: root.entries.selectedText
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: Theme.text
+        font.pixelSize: Theme.smallSize
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    Row {
+        id: tools
+
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 8
+        spacing: 2
+
+        SearchField {
+            id: filter
+
+            objectName: "entryFilter"
+            width: Math.round(170 * Math.max(1, Theme.textScale * 0.9))
+            placeholderText: Strings.filter
+            background: Rectangle {
+                radius: Theme.controlRadius
+                color: Theme.card
+                border.width: filter.activeFocus ? 2 : 1
+                border.color: filter.activeFocus ? Theme.accent : Theme.stroke
+            }
+            onTextChanged: root.entries.filter = text
+        }
+
+        Item {
+            width: 8
+            height: 1
+        }
+
+        SortButton {
+            text: Strings.bySize
+            active: root.entries.key === EntryListModel.BySize
+            reversed: root.entries.reversed
+            onClicked: root.entries.sortBy(EntryListModel.BySize)
+        }
+
+        SortButton {
+            text: Strings.byName
+            active: root.entries.key === EntryListModel.ByName
+            reversed: root.entries.reversed
+            onClicked: root.entries.sortBy(EntryListModel.ByName)
+        }
+
+        SortButton {
+            text: Strings.byDate
+            active: root.entries.key === EntryListModel.ByDate
+            reversed: root.entries.reversed
+            onClicked: root.entries.sortBy(EntryListModel.ByDate)
+        }
+    }
+}

@@ -1,0 +1,133 @@
+import QtQuick
+import Orlen.App
+
+/// The heading of a plan's section: all or none of its entries, what is checked, and hide or show them.
+Item {
+    id: root
+
+    required property string title
+    required property string count
+    required property string size
+    required property string symbol
+    required property color tone
+    required property int checkState
+    required property bool folded
+    property bool isCurrent: false
+    property bool showsFocus: false
+    signal toggled
+    signal folding
+    signal pressed
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: [root.title, root.count, root.size].join(", ")
+    Accessible.checkable: true
+    Accessible.checked: root.checkState === Qt.Checked
+    Accessible.onToggleAction: root.toggled()
+    Accessible.onPressAction: root.toggled()
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 12
+        anchors.topMargin: 6
+        radius: Theme.controlRadius
+        color: root.isCurrent ? Theme.accentSoft : Theme.inset
+
+        FocusRing {
+            shown: root.showsFocus
+            gap: 0
+        }
+    }
+
+    TapHandler {
+        onPressedChanged: if (pressed) root.pressed()
+        onTapped: root.folding()
+    }
+
+    Item {
+        anchors.fill: parent
+        anchors.topMargin: 6
+
+        CheckMark {
+            id: check
+
+            anchors.verticalCenter: parent.verticalCenter
+            x: 20
+            tristate: true
+            checkState: root.checkState
+            nextCheckState: () => check.checkState
+            focusPolicy: Qt.NoFocus
+            Accessible.ignored: true
+            onClicked: root.toggled()
+        }
+
+        Badge {
+            id: badge
+
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.left: check.right
+            anchors.leftMargin: 8
+            name: root.symbol
+            tone: root.tone
+            size: 28
+        }
+
+        Text {
+            id: heading
+
+            anchors.left: badge.right
+            anchors.leftMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - x - selected.implicitWidth - total.implicitWidth - 100)
+            text: root.title
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+
+        Text {
+            id: selected
+
+            anchors.left: heading.right
+            anchors.leftMargin: 10
+            anchors.baseline: heading.baseline
+            text: root.count
+            textFormat: Text.PlainText
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+            Accessible.ignored: true
+        }
+
+        Text {
+            id: total
+
+            anchors.right: arrow.left
+            anchors.rightMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.size
+            textFormat: Text.PlainText
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            font.weight: Font.Bold
+            Accessible.ignored: true
+        }
+
+        IconButton {
+            id: arrow
+
+            anchors.right: parent.right
+            anchors.rightMargin: 18
+            anchors.verticalCenter: parent.verticalCenter
+            width: 28
+            height: 28
+            focusPolicy: Qt.NoFocus
+            symbol: root.folded ? "chevron.right" : "chevron.down"
+            symbolSize: 12
+            text: root.folded ? Strings.showItems : Strings.hideItems
+            onClicked: root.folding()
+        }
+    }
+}

@@ -1,0 +1,75 @@
+import QtQuick
+import Orlen.App
+
+/// A row of a plan: the heading of a section, or one of its entries.
+Item {
+    id: root
+
+    required property int index
+    required property bool heading
+    required property string name
+    required property string folder
+    required property string size
+    required property string date
+    required property string note
+    required property string rating
+    required property string ratingLabel
+    required property string ratingSymbol
+    required property string symbol
+    required property color tone
+    required property string thumbnail
+    // Named `state` by the model, which every item has already.
+    required property int mark
+    required property bool folded
+    property bool isCurrent: false
+    property bool showsFocus: false
+    signal toggled
+    signal folding
+    signal pressed
+    signal previewRequested
+    signal revealRequested
+
+    Loader {
+        anchors.fill: parent
+        active: root.heading
+        sourceComponent: PlanHeading {
+            title: root.name
+            count: root.folder
+            size: root.size
+            symbol: root.symbol
+            tone: root.tone
+            checkState: root.mark
+            folded: root.folded
+            isCurrent: root.isCurrent
+            showsFocus: root.showsFocus
+            onToggled: root.toggled()
+            onFolding: root.folding()
+            onPressed: root.pressed()
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: !root.heading
+        sourceComponent: EntryRow {
+            name: root.name
+            folder: root.folder
+            size: root.size
+            date: root.date
+            note: root.note
+            rating: root.rating
+            ratingLabel: root.ratingLabel
+            ratingSymbol: root.ratingSymbol
+            symbol: root.symbol
+            thumbnail: root.thumbnail
+            checkState: root.mark
+            indent: 24
+            isCurrent: root.isCurrent
+            showsFocus: root.showsFocus
+            onToggled: root.toggled()
+            onPressed: root.pressed()
+            onPreviewRequested: root.previewRequested()
+            onRevealRequested: root.revealRequested()
+        }
+    }
+}

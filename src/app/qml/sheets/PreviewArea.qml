@@ -1,0 +1,172 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// What a preview shows: the picture, the text, the names, or an icon with a sentence.
+Rectangle {
+    id: root
+
+    required property PreviewModel preview
+
+    readonly property bool isBare: [PreviewModel.Other, PreviewModel.Locked, PreviewModel.Missing].includes(root.preview.kind)
+                                   || root.preview.kind === PreviewModel.Folder && names.count === 0
+
+    color: Theme.inset
+    clip: true
+
+    Image {
+        anchors.fill: parent
+        anchors.margins: 16
+        visible: root.preview.kind === PreviewModel.Picture
+        asynchronous: true
+        cache: false
+        autoTransform: false
+        fillMode: Image.PreserveAspectFit
+        horizontalAlignment: Image.AlignHCenter
+        sourceSize.width: Math.max(1, width)
+        sourceSize.height: Math.max(1, height)
+        source: root.preview.picture
+        Accessible.role: Accessible.Graphic
+        Accessible.name: root.preview.name
+    }
+
+    Flickable {
+        id: page
+
+        anchors.fill: parent
+        visible: root.preview.kind === PreviewModel.Text
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        contentHeight: text.height + (cut.visible ? cut.height : 0) + 32
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        TextEdit {
+            id: text
+
+            x: 24
+            y: 16
+            width: page.width - 48
+            text: root.preview.text
+            textFormat: TextEdit.PlainText
+            readOnly: true
+            selectByMouse: true
+            activeFocusOnPress: false
+            wrapMode: TextEdit.WrapAnywhere
+            color: Theme.text
+            selectionColor: Theme.accentFill
+            selectedTextColor: Theme.overAccent
+            font.family: "monospace"
+            font.pixelSize: Theme.smallSize
+            Accessible.name: root.preview.name
+        }
+
+        Text {
+            id: cut
+
+            anchors.top: text.bottom
+            x: 24
+            topPadding: 12
+            visible: root.preview.cut
+            text: Strings.beginningOnly
+            textFormat: Text.PlainText
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+        }
+    }
+
+    ListView {
+        id: names
+
+        anchors.fill: parent
+        visible: root.preview.kind === PreviewModel.Folder
+        clip: true
+        topMargin: 8
+        bottomMargin: 8
+        reuseItems: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.preview
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        delegate: Item {
+            id: row
+
+            required property string name
+            required property string size
+            required property string symbol
+
+            width: ListView.view.width
+            height: Math.round(32 * Theme.textScale)
+
+            Symbol {
+                id: icon
+
+                x: 24
+                anchors.verticalCenter: parent.verticalCenter
+                name: row.symbol
+            }
+
+            Text {
+                anchors.left: icon.right
+                anchors.leftMargin: 10
+                anchors.right: size.left
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.name
+                textFormat: Text.PlainText
+                elide: Text.ElideMiddle
+                color: Theme.text
+                font.pixelSize: Theme.smallSize
+            }
+
+            Text {
+                id: size
+
+                anchors.right: parent.right
+                anchors.rightMargin: 24
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.size
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.smallSize
+            }
+        }
+
+        footer: Text {
+            x: 24
+            height: root.preview.cut ? implicitHeight : 0
+            visible: root.preview.cut
+            topPadding: 8
+            bottomPadding: 8
+            text: Strings.firstNamesOnly
+            textFormat: Text.PlainText
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+        }
+    }
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 64
+        visible: root.isBare
+        spacing: 16
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: root.preview.symbol
+            colour: Theme.tertiary
+            size: 72
+        }
+
+        Text {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
+                                                            : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
+                                                                                                         : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
+            textFormat: Text.PlainText
+            color: Theme.secondary
+            font.pixelSize: Theme.bodySize
+        }
+    }
+}

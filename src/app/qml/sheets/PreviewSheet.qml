@@ -1,0 +1,130 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// Looks into one file without another program. Space and Escape close it; the arrows go on to the next one.
+Sheet {
+    id: root
+
+    /// Up or down in the list that opened it: -1 or 1.
+    signal stepRequested(by: int)
+
+    /// Of a path's number; the size is of a folder with all that is in it.
+    function show(token: int, size: string) {
+        model.token = token;
+        root.size = size;
+        root.open();
+    }
+
+    property string size: ""
+
+    objectName: "previewSheet"
+    title: model.name
+    wantedWidth: 900
+    wantedHeight: 760
+    onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
+    onClosed: model.token = 0
+
+    PreviewModel {
+        id: model
+    }
+
+    FocusScope {
+        id: content
+
+        anchors.fill: parent
+        focus: true
+
+        Keys.onPressed: event => {
+            event.accepted = true;
+            if (event.key === Qt.Key_Space)
+                root.close();
+            else if (event.key === Qt.Key_Down || event.key === Qt.Key_Right)
+                root.stepRequested(1);
+            else if (event.key === Qt.Key_Up || event.key === Qt.Key_Left)
+                root.stepRequested(-1);
+            else
+                event.accepted = false;
+        }
+
+        SheetHeader {
+            id: header
+
+            width: parent.width
+            title: model.name
+            onCloseRequested: root.close()
+
+            SheetText {
+                width: parent.width
+                text: model.folder
+                maximumLineCount: 1
+                elide: Text.ElideMiddle
+                color: Theme.tertiary
+                wrapMode: Text.NoWrap
+            }
+        }
+
+        PreviewArea {
+            anchors.top: header.bottom
+            anchors.bottom: footer.top
+            width: parent.width
+            preview: model
+        }
+
+        Item {
+            id: footer
+
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Math.max(facts.height, Theme.controlHeight) + 28
+
+            Column {
+                id: facts
+
+                anchors.verticalCenter: parent.verticalCenter
+                x: 24
+                width: buttons.x - x - 16
+                spacing: 2
+
+                Text {
+                    width: parent.width
+                    text: model.kind === PreviewModel.Folder && root.size !== "" ? model.facts + " · " + root.size : model.facts
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    color: Theme.text
+                    font.pixelSize: Theme.smallSize
+                    font.weight: Font.DemiBold
+                }
+
+                Text {
+                    width: parent.width
+                    text: model.dates
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    color: Theme.tertiary
+                    font.pixelSize: Theme.captionSize
+                }
+            }
+
+            Row {
+                id: buttons
+
+                anchors.right: parent.right
+                anchors.rightMargin: 24
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 8
+
+                AppButton {
+                    symbol: "reveal"
+                    text: Strings.reveal
+                    onClicked: model.reveal()
+                }
+
+                AppButton {
+                    text: Strings.openWith
+                    onClicked: model.openWith()
+                }
+            }
+        }
+    }
+}

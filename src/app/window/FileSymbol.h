@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+/// The icon of a file by its name. Pure; any thread.
+namespace orlen::FileSymbol {
+
+/// Symbol name for the extension of the path; "doc" for one that says nothing.
+[[nodiscard]] QString ofName(std::string_view path);
+[[nodiscard]] QString ofFolder();
+
+} // namespace orlen::FileSymbol

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "model/Rating.h"
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+struct Finding;
+
+/// What stands over the entries of a finding: its texts and its rating, ready to show.
+class FindingHeader {
+    Q_GADGET
+    QML_VALUE_TYPE(findingHeader)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString explanation MEMBER explanation)
+    Q_PROPERTY(QString reason MEMBER reason)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+    Q_PROPERTY(QColor tone MEMBER tone)
+    Q_PROPERTY(QString rating MEMBER rating)
+    Q_PROPERTY(QString ratingLabel MEMBER ratingLabel)
+    Q_PROPERTY(QString ratingSymbol MEMBER ratingSymbol)
+    Q_PROPERTY(bool cleanable MEMBER isCleanable)
+
+public:
+    [[nodiscard]] static FindingHeader of(const Finding& finding);
+
+    QString title;
+    QString explanation;
+    QString reason; ///< "Why Safe: …"; empty when none is given
+    QString symbol;
+    QColor tone; ///< of the category
+    QString rating;
+    QString ratingLabel;
+    QString ratingSymbol;
+    bool isCleanable = false; ///< whether the entries may be selected at all
+
+    friend bool operator==(const FindingHeader&, const FindingHeader&) = default;
+};
+
+} // namespace orlen

@@ -1,0 +1,156 @@
+#include "Thumbnails.h"
+
+#include "PathTokens.h"
+#include "PictureReader.h"
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QQuickTextureFactory>
+#include <QSignalSpy>
+
+#include <array>
+
+namespace orlen {
+
+namespace {
+
+/// A picture whose left half is red and whose right half is blue.
+std::string pictureBytes(const QSize& size, const char* format)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = size.width() / 2; x < size.width(); ++x)
+            image.setPixelColor(x, y, Qt::blue);
+    }
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, format, 95);
+    return bytes.toStdString();
+}
+
+/// The same as a JPEG whose note says that it must be turned a quarter to the right to be upright.
+std::string turnedPicture(const QSize& size)
+{
+    constexpr std::array<unsigned char, 36> kTurned{0xff, 0xe1, 0x00, 0x22, 'E',  'x',  'i',  'f',  0x00,
+                                                    0x00, 'M',  'M',  0x00, 0x2a, 0x00, 0x00, 0x00, 0x08,
+                                                    0x00, 0x01, 0x01, 0x12, 0x00, 0x03, 0x00, 0x00, 0x00,
+                                                    0x01, 0x00, 0x06, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};
+    std::string bytes = pictureBytes(size, "jpeg");
+    return bytes.insert(2, std::string(kTurned.begin(), kTurned.end()));
+}
+
+QImage answered(Thumbnails& thumbnails, const QString& source, const QSize& size)
+{
+    const std::unique_ptr<QQuickImageResponse> response(
+        thumbnails.requestImageResponse(source.section(u'/', 3), size));
+    const QSignalSpy finished(response.get(), &QQuickImageResponse::finished);
+    EXPECT_TRUE(waitUntil([&] { return !finished.isEmpty(); }));
+    const std::unique_ptr<QQuickTextureFactory> texture(response->textureFactory());
+    return texture == nullptr ? QImage() : texture->image();
+}
+
+} // namespace
+
+TEST(ThumbnailsTest, coversTheShapeAskedForAndNeverEnlarges)
+{
+    const TempHome home;
+    const std::string path = home.file("wide.jpg", pictureBytes({400, 200}, "jpeg"));
+    struct Case {
+        const char* name;
+        QString suffix;
+        QSize asked;
+        QSize given;
+    };
+    const Case cases[] = {
+        {"the middle square", "", {50, 50}, {50, 50}},
+        {"the whole picture", "/inside", {50, 50}, {50, 25}},
+        {"smaller than asked for", "", {800, 800}, {200, 200}},
+        {"smaller than asked for, whole", "/inside", {800, 800}, {400, 200}},
+        {"a sliver", "/inside", {1, 1}, {1, 1}},
+    };
+    Thumbnails thumbnails;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(answered(thumbnails, Thumbnails::source(path) + c.suffix, c.asked).size(), c.given);
+    }
+}
+
+TEST(ThumbnailsTest, turnsPicturesUpright)
+{
+    const TempHome home;
+    const std::string path = home.file("turned.jpg", turnedPicture({400, 200}));
+    EXPECT_EQ(PictureReader::sizeOf(path), QSize(200, 400));
+    const QImage image = PictureReader::read(path, {100, 100}, PictureReader::Fit::inside);
+    ASSERT_EQ(image.size(), QSize(50, 100));
+    EXPECT_GT(image.pixelColor(25, 10).red(), 200);
+    EXPECT_GT(image.pixelColor(25, 90).blue(), 200);
+    EXPECT_EQ(PictureReader::read(path, {40, 20}, PictureReader::Fit::cover).size(), QSize(40, 20));
+}
+
+TEST(ThumbnailsTest, goesByTheContentAndRefusesTheRest)
+{
+    const TempHome home;
+    const std::string picture = pictureBytes({30, 30}, "png");
+    EXPECT_TRUE(PictureReader::sizeOf(home.file("misnamed.jpg", picture)).isValid());
+    // 20,000 x 20,000 pixels, and only the beginning of them.
+    std::string huge = pictureBytes({30, 30}, "bmp");
+    huge.replace(18, 8, std::string("\x20\x4e\0\0\x20\x4e\0\0", 8));
+    struct Case {
+        const char* name;
+        std::string path;
+    };
+    const Case cases[] = {
+        {"text", home.file("text.png", "not a picture")},
+        {"cut off", home.file("cut.png", picture.substr(0, 40))},
+        {"empty", home.file("empty.jpg", "")},
+        {"drawing with scripts", home.file("drawing.png", "<svg xmlns='http://www.w3.org/2000/svg'/>")},
+        {"larger than the memory allowed", home.file("huge.bmp", huge)},
+        {"missing", home.path("missing.png")},
+        {"folder", home.folder("folder.png")},
+        {"link", home.link("link.png", home.path("misnamed.jpg"))},
+    };
+    Thumbnails thumbnails;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_TRUE(answered(thumbnails, Thumbnails::source(c.path), {40, 40}).isNull());
+    }
+    EXPECT_TRUE(Thumbnails::source(home.path("letter.txt")).isEmpty());
+    EXPECT_TRUE(answered(thumbnails, "image://thumbnail/999999", {40, 40}).isNull());
+}
+
+TEST(ThumbnailsTest, outlivesNobodyAndIsOutlivedByNone)
+{
+    const TempHome home;
+    const std::string path = home.file("wide.jpg", pictureBytes({2000, 1000}, "jpeg"));
+    const QString id = Thumbnails::source(path).section(u'/', 3);
+    std::vector<std::unique_ptr<QQuickImageResponse>> responses;
+    {
+        Thumbnails thumbnails;
+        for (int size = 10; size < 60; ++size) {
+            responses.emplace_back(thumbnails.requestImageResponse(id, {size, size}));
+            if (size % 2 == 0)
+                responses.back()->cancel();
+            if (size % 5 == 0)
+                responses.pop_back();
+        }
+    }
+    QCoreApplication::processEvents();
+}
+
+TEST(PathTokensTest, givesEachPathOneNumber)
+{
+    const std::string odd = "/home/sam/caf\xe9\n.png";
+    const int token = PathTokens::tokenOf(odd);
+    EXPECT_NE(PathTokens::tokenOf("/home/sam/other"), token);
+    EXPECT_EQ(PathTokens::tokenOf(odd), token);
+    EXPECT_EQ(PathTokens::path(token), odd);
+    for (const int unknown : {0, -1, 1'000'000})
+        EXPECT_EQ(PathTokens::path(unknown), "");
+}
+
+} // namespace orlen
