@@ -142,8 +142,6 @@ QtObject {
     readonly property string restoring: "Restoring…"
     readonly property string restored: "Restored"
     readonly property string restoreOf: "Restore %1, %2"
-    readonly property string showItems: "Show items"
-    readonly property string hideItems: "Hide items"
     readonly property string pastCleanUps: "Clean-ups"
     readonly property string itemsOf: "Items of %1"
     readonly property string readerOnly: "Another Orlen is open. Clean-ups can be restored from there."

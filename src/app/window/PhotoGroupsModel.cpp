@@ -252,7 +252,10 @@ QVariant PhotoGroupsModel::data(const QModelIndex& index, int role) const
     case Role::summary:
         return photosText(photos) + kJoint + DisplayText::size(finding.totalSize());
     case Role::selection:
-        return selectedPhotos(m_selected[row].count, m_selected[row].bytes);
+        return m_selected[row].count == 0
+                   ? QString()
+                   : DisplayText::number(m_selected[row].count) + QStringLiteral(" selected") + kJoint +
+                         DisplayText::size(m_selected[row].bytes);
     case Role::checkState:
         return checkStateOf(row);
     }

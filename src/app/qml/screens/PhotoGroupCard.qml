@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import Orlen.App
 
 /// One photo clean-up: what it is, how much, and its first photos.
@@ -20,12 +19,11 @@ Card {
     required property string selection
 
     readonly property int padding: 18
-    readonly property int columns: Math.max(3, Math.floor(strip.width / (124 * Math.min(1.25, Theme.textScale))))
 
     property bool wasOpened: false
 
     signal opened
-    signal previewRequested(tiles: PhotoTilesModel, row: int)
+    signal previewRequested(grid: PhotoGrid, row: int)
 
     height: head.height + strip.height + 3 * root.padding - 4
 
@@ -38,11 +36,11 @@ Card {
     }
 
     PhotoTilesModel {
-        id: tiles
+        id: shown
 
         groups: root.groups
         findingId: root.findingId
-        limit: root.columns
+        limit: strip.columns
     }
 
     Item {
@@ -72,13 +70,14 @@ Card {
             anchors.verticalCenter: badge.verticalCenter
             spacing: 3
 
-            Row {
+            Flow {
                 width: parent.width
                 spacing: 10
 
                 Text {
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: Math.min(implicitWidth, parent.width - chip.width - parent.spacing)
+                    height: Math.max(implicitHeight, chip.height)
+                    verticalAlignment: Text.AlignVCenter
+                    width: Math.min(implicitWidth, parent.width)
                     text: root.title
                     textFormat: Text.PlainText
                     elide: Text.ElideRight
@@ -100,7 +99,7 @@ Card {
 
             Text {
                 width: parent.width
-                text: root.summary
+                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
                 textFormat: Text.PlainText
                 elide: Text.ElideRight
                 color: Theme.secondary
@@ -123,10 +122,8 @@ Card {
         }
     }
 
-    GridView {
+    PhotoGrid {
         id: strip
-
-        property bool isKeyed: false
 
         objectName: "photoStrip"
         x: root.padding - 4
@@ -134,37 +131,11 @@ Card {
         anchors.topMargin: root.padding - 4
         width: parent.width - 2 * x
         height: cellHeight
-        cellWidth: Math.floor(width / root.columns)
-        cellHeight: cellWidth
         interactive: false
-        activeFocusOnTab: true
-        model: tiles
-        Accessible.role: Accessible.List
+        tiles: shown
+        tileSize: 124
         Accessible.name: root.title
-
-        Keys.onPressed: event => {
-            strip.isKeyed = true;
-            event.accepted = false;
-        }
-        Keys.onReleased: strip.isKeyed = true
-        Keys.onReturnPressed: tiles.toggle(strip.currentIndex)
-        Keys.onEnterPressed: tiles.toggle(strip.currentIndex)
-        Keys.onSpacePressed: root.previewRequested(tiles, strip.currentIndex)
-
-        delegate: PhotoTile {
-            id: tile
-
-            required property int index
-
-            width: strip.cellWidth
-            height: strip.cellHeight
-            ringed: strip.isKeyed && tile.Window.activeFocusItem === tile
-            onPressed: {
-                strip.isKeyed = false;
-                strip.currentIndex = tile.index;
-            }
-            onToggled: tiles.toggle(tile.index)
-            onPreviewRequested: root.previewRequested(tiles, tile.index)
-        }
+        onAllRequested: root.groups.toggleAll(root.findingId)
+        onPreviewRequested: row => root.previewRequested(strip, row)
     }
 }

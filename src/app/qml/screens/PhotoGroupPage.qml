@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Orlen.App
 
 /// All photos of one clean-up.
@@ -21,16 +20,14 @@ Item {
     required property string selection
     required property int checkState
 
-    readonly property int columns: Math.max(3, Math.floor(grid.width / (150 * Math.min(1.25, Theme.textScale))))
-
     signal closed
-    signal previewRequested(tiles: PhotoTilesModel, row: int)
+    signal previewRequested(grid: PhotoGrid, row: int)
 
     Keys.onEscapePressed: root.closed()
     Component.onCompleted: grid.forceActiveFocus()
 
     PhotoTilesModel {
-        id: tiles
+        id: all
 
         groups: root.groups
         findingId: root.findingId
@@ -77,13 +74,14 @@ Item {
                 anchors.right: parent.right
                 spacing: 4
 
-                Row {
+                Flow {
                     width: parent.width
                     spacing: 10
 
                     Text {
-                        anchors.verticalCenter: parent.verticalCenter
-                        width: Math.min(implicitWidth, parent.width - chip.width - parent.spacing)
+                        height: Math.max(implicitHeight, chip.height)
+                        verticalAlignment: Text.AlignVCenter
+                        width: Math.min(implicitWidth, parent.width)
                         text: root.title
                         textFormat: Text.PlainText
                         elide: Text.ElideRight
@@ -115,12 +113,12 @@ Item {
         }
 
         Row {
-            x: -all.leftPadding
+            x: -mark.leftPadding
             width: parent.width
             spacing: 4
 
             CheckMark {
-                id: all
+                id: mark
 
                 objectName: "selectAllPhotos"
                 anchors.verticalCenter: parent.verticalCenter
@@ -132,7 +130,7 @@ Item {
 
             Text {
                 anchors.verticalCenter: parent.verticalCenter
-                width: parent.width - all.width - parent.spacing
+                width: parent.width - mark.width - parent.spacing
                 text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
                 textFormat: Text.PlainText
                 elide: Text.ElideRight
@@ -143,10 +141,8 @@ Item {
         }
     }
 
-    GridView {
+    PhotoGrid {
         id: grid
-
-        property bool isKeyed: false
 
         objectName: "photoGrid"
         anchors.top: head.bottom
@@ -155,45 +151,15 @@ Item {
         x: Theme.pageMargin - 4
         width: parent.width - 2 * x
         bottomMargin: 16
-        cellWidth: Math.floor(width / root.columns)
-        cellHeight: cellWidth
-        boundsBehavior: Flickable.StopAtBounds
         clip: true
         reuseItems: true
-        activeFocusOnTab: true
-        model: tiles
-        Accessible.role: Accessible.List
+        tiles: all
+        tileSize: 150
+        ground: Theme.window
         Accessible.name: root.title
         T.ScrollBar.vertical: handle
-
-        Keys.onPressed: event => {
-            grid.isKeyed = true;
-            event.accepted = event.matches(StandardKey.SelectAll);
-            if (event.accepted)
-                root.groups.toggleAll(root.findingId);
-        }
-        Keys.onReleased: grid.isKeyed = true
-        Keys.onReturnPressed: tiles.toggle(grid.currentIndex)
-        Keys.onEnterPressed: tiles.toggle(grid.currentIndex)
-        Keys.onSpacePressed: root.previewRequested(tiles, grid.currentIndex)
-
-        delegate: PhotoTile {
-            id: tile
-
-            required property int index
-
-            width: grid.cellWidth
-            height: grid.cellHeight
-            ground: Theme.window
-            ringed: grid.isKeyed && tile.Window.activeFocusItem === tile
-            onPressed: {
-                grid.isKeyed = false;
-                grid.currentIndex = tile.index;
-                grid.forceActiveFocus();
-            }
-            onToggled: tiles.toggle(tile.index)
-            onPreviewRequested: root.previewRequested(tiles, tile.index)
-        }
+        onAllRequested: root.groups.toggleAll(root.findingId)
+        onPreviewRequested: row => root.previewRequested(grid, row)
     }
 
     // Beside the grid, in the page's margin.

@@ -168,7 +168,7 @@ Item {
 
         FocusRing {
             shown: root.ringed
-            gap: 1
+            gap: 3
         }
     }
 
@@ -191,6 +191,21 @@ Item {
         focusPolicy: Qt.NoFocus
         Accessible.ignored: true
         onClicked: root.toggled()
+    }
+
+    IconButton {
+        anchors.right: frame.right
+        anchors.top: frame.top
+        anchors.margins: 5
+        width: 28
+        height: 28
+        visible: root.source !== "" && (area.containsMouse || hovered)
+        framed: true
+        symbol: "eye"
+        symbolSize: 14
+        text: Strings.preview
+        focusPolicy: Qt.NoFocus
+        onClicked: root.previewRequested()
     }
 
     ToolTipBubble {

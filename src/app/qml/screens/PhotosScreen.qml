@@ -11,7 +11,17 @@ Item {
     readonly property bool hasGroups: groups.stage === PhotoGroupsModel.Groups
     readonly property bool isWhole: groups.shownGroup !== ""
 
-    signal previewRequested(tiles: PhotoTilesModel, row: int)
+    /// Whose photo the preview shows.
+    property PhotoGrid previewed: null
+
+    function preview(grid: PhotoGrid, row: int) {
+        const token = grid.tiles.token(row);
+        if (token === 0)
+            return;
+        root.previewed = grid;
+        grid.currentIndex = row;
+        look.show(token, "");
+    }
 
     PhotoGroupsModel {
         id: groups
@@ -36,7 +46,7 @@ Item {
                 width: overview.contentWidth
                 groups: root.model
                 onOpened: groups.shownGroup = findingId
-                onPreviewRequested: (tiles, row) => root.previewRequested(tiles, row)
+                onPreviewRequested: (grid, row) => root.preview(grid, row)
             }
         }
 
@@ -105,7 +115,7 @@ Item {
                 selection: loader.selection
                 checkState: loader.checkState
                 onClosed: groups.shownGroup = ""
-                onPreviewRequested: (tiles, row) => root.previewRequested(tiles, row)
+                onPreviewRequested: (grid, row) => root.preview(grid, row)
             }
         }
     }
@@ -118,5 +128,11 @@ Item {
         visible: root.hasGroups
         selectedText: groups.selectedText
         onReviewRequested: groups.review()
+    }
+
+    PreviewSheet {
+        id: look
+
+        onStepRequested: by => root.preview(root.previewed, root.previewed.currentIndex + by)
     }
 }
