@@ -1,10 +1,12 @@
 #include "AppModelElement.h"
 #include "Appearance.h"
+#include "PhotoGroupsModel.h"
 #include "SymbolProvider.h"
 #include "Window.h"
 #include "app/AppModel.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -53,6 +55,7 @@ void addOptions(QCommandLineParser& parser)
         {"clean", "Move the plan of the selection to the Trash after the scan"},
         {"onboarding", "Show the onboarding"},
         {"at-once", "Do not wait for the storage breakdown"},
+        {"photos", "Show the pictures in this folder's folders, named as kinds, as photo findings", "folder"},
         {"still", "Without motion, as for a desktop that asks for none"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
@@ -123,6 +126,47 @@ void type(QQuickWindow& window, const QString& text)
     press(window, QStringLiteral("Return"));
 }
 
+/// Of similar photos "a-1.jpg", "a-2.jpg" the one whose name ends with "keep" stays.
+Finding photoFinding(FindingKind kind, const QFileInfoList& files)
+{
+    std::vector<FileEntry> entries;
+    for (const QFileInfo& file : files) {
+        FileEntry entry{file.filePath().toStdString(), file.size() * 9};
+        if (kind == FindingKind::photoDuplicates) {
+            const QString keeper = file.baseName().section('-', 0, 0) + "-keep." + file.suffix();
+            if (keeper == file.fileName())
+                continue;
+            addNote(entry, "Similar to " + keeper.toStdString() + " — keeping the sharpest");
+        }
+        entries.push_back(std::move(entry));
+    }
+    return Finding(kind, std::move(entries));
+}
+
+PhotoGroupsModel* photoGroupsBelow(QQuickItem* item)
+{
+    auto* found = item->findChild<PhotoGroupsModel*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto children = item->childItems();
+    for (auto child = children.begin(); found == nullptr && child != children.end(); ++child)
+        found = photoGroupsBelow(*child);
+    return found;
+}
+
+void showPhotos(QQuickWindow& window, AppModel& model, const QString& folder)
+{
+    std::vector<Finding> findings;
+    for (const QFileInfo& group : QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const auto kind = kindFromRaw(group.fileName().toStdString());
+        const QFileInfoList files = QDir(group.filePath()).entryInfoList(QDir::Files, QDir::Name);
+        if (kind && !files.isEmpty())
+            findings.push_back(photoFinding(*kind, files));
+        if (kind && files.size() > 2)
+            model.setSelection({findings.back().items[0].path, findings.back().items[1].path});
+    }
+    if (PhotoGroupsModel* groups = photoGroupsBelow(window.contentItem()))
+        groups->setFindings(findings);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -150,6 +194,8 @@ int main(int argc, char** argv)
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     if (!options.isSet("at-once"))
         bringAbout(model, options);
+    if (options.isSet("photos"))
+        showPhotos(*window, model, options.value("photos"));
     if (auto* panel = window->findChild<QObject*>(options.value("open")); options.isSet("open") && panel)
         QMetaObject::invokeMethod(panel, "open");
     for (const QString& name : options.value("click").split(',', Qt::SkipEmptyParts))

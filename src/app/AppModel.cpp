@@ -56,6 +56,10 @@ AppModel::~AppModel()
         m_history.insert(m_history.begin(), **pending);
         saveHistory();
     }
+    for (const PendingRestore& pending : m_restores) {
+        if (pending.outcome->has_value())
+            keepRestored((*pending.outcome)->record);
+    }
 }
 
 void AppModel::startUp()

@@ -36,7 +36,7 @@ class ScanProgress;
 ///
 /// Belongs to the main thread, as everything here does, and needs its event loop: work that blocks runs on
 /// workers and its results arrive by signals. Destroying the model cancels what is in progress and waits for
-/// it; a clean-up finishes the item in hand and is recorded.
+/// it; a clean-up or a restore finishes the item in hand and is recorded.
 class AppModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool breakdownReady READ isBreakdownReady NOTIFY breakdownChanged)
@@ -153,8 +153,14 @@ public:
         Cleaner::Restored outcome;
         std::string message; ///< one line for the user
     };
-    /// Puts a past clean-up back, at once. Only for a writer.
+    /// Puts a past clean-up back before it returns: blocks on the disk, so not for a window. Only for a
+    /// writer, and not for a record that is being restored.
     Restoration restore(const CleanRecord& record);
+    /// Starts to put a past clean-up back; `restored` follows. False, and nothing happens, while the same
+    /// record is being restored. Only for a writer.
+    bool startRestore(const CleanRecord& record);
+    /// Whether `startRestore` is at work on the record.
+    [[nodiscard]] bool isRestoring(const Uuid& record) const;
 
 Q_SIGNALS:
     void breakdownChanged();
@@ -172,11 +178,20 @@ Q_SIGNALS:
     void requestedScreenChanged();
     /// A clean-up has ended. The record is in the history only when it holds an item.
     void cleaningFinished(const orlen::CleanRecord& record);
+    /// Which records are being restored.
+    void restoringChanged();
+    /// What was begun by `startRestore` has ended.
+    void restored(const orlen::AppModel::Restoration& restoration);
 
 private:
     struct ScanResult;
     /// Of one clean-up, shared with its worker: nothing until the worker has ended.
     using PendingRecord = std::shared_ptr<std::optional<CleanRecord>>;
+    /// A restore whose outcome is shared with its worker in the same manner.
+    struct PendingRestore {
+        Uuid record;
+        std::shared_ptr<std::optional<Cleaner::Restored>> outcome;
+    };
 
     void startUp();
     void setBreakdown(StorageBreakdown breakdown);
@@ -190,6 +205,8 @@ private:
     void showCleaning(int number, int done, const std::string& current);
     void finishCleaning(int number, const PendingRecord& pending);
     void keep(const CleanRecord& record);
+    [[nodiscard]] Restoration finishRestore(Cleaner::Restored outcome);
+    void keepRestored(const CleanRecord& record);
     void saveHistory() const;
     void checkThread() const;
     void checkWriter() const;
@@ -229,6 +246,7 @@ private:
     int m_cleaningNumber = 0;  ///< of the clean-up that is shown
     std::stop_source m_cleaningStop{std::nostopstate};
     std::vector<PendingRecord> m_pending; ///< clean-ups that are not yet in the history
+    std::vector<PendingRestore> m_restores;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

@@ -1,6 +1,5 @@
 #include "app/AppModel.h"
 
-#include "app/AppTexts.h"
 #include "clean/Persist.h"
 
 #include <QTimer>
@@ -147,22 +146,6 @@ void AppModel::removeFromFindings(const std::set<std::string>& paths)
     std::set<std::string> selection = m_selection;
     std::erase_if(selection, [&](const std::string& path) { return paths.contains(path); });
     setSelection(std::move(selection));
-}
-
-AppModel::Restoration AppModel::restore(const CleanRecord& record)
-{
-    checkWriter();
-    Restoration restoration{Cleaner::restore(record), {}};
-    const Cleaner::Restored& outcome = restoration.outcome;
-    const auto kept = std::find_if(m_history.begin(), m_history.end(),
-                                   [&](const CleanRecord& candidate) { return candidate.id == record.id; });
-    if (kept != m_history.end())
-        *kept = outcome.record;
-    saveHistory();
-    Q_EMIT historyChanged();
-    updateVolume();
-    restoration.message = AppTexts::restored(outcome.restored, outcome.failed);
-    return restoration;
 }
 
 } // namespace orlen

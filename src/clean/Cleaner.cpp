@@ -71,11 +71,13 @@ CleanRecord run(std::vector<FileEntry> entries, const std::string& title, const 
     return record;
 }
 
-Restored restore(CleanRecord record)
+Restored restore(CleanRecord record, const std::stop_token& stop)
 {
     Safety::refresh();
     Restored result;
     for (TrashedItem& item : record.items) {
+        if (stop.stop_requested())
+            break;
         if (item.restored)
             continue;
         item.restored = putBack(item, record.date);

@@ -30,7 +30,8 @@ struct Restored {
 
 /// Puts the record's items back that are not yet. An item stays where it is, and counts as failed, when its
 /// original place is protected or taken, it is no longer in the Trash, or its name there now belongs to
-/// something else.
-[[nodiscard]] Restored restore(CleanRecord record);
+/// something else. A stop request lets the item in hand finish; what was not begun is then neither restored
+/// nor counted as failed.
+[[nodiscard]] Restored restore(CleanRecord record, const std::stop_token& stop = {});
 
 } // namespace orlen::Cleaner

@@ -224,4 +224,42 @@ TEST(AppModelCleanupTest, aForgottenRecordIsRestoredButNotRemembered)
     EXPECT_FALSE(model.history().front().items.front().restored);
 }
 
+TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    const std::vector<std::string> paths = manyFiles(home, 300);
+    ASSERT_TRUE(cleaned(model, planOf(paths)));
+    const CleanRecord record = model.history().front();
+    std::vector<std::string> messages;
+    QObject::connect(&model, &AppModel::restored, [&](const AppModel::Restoration& restoration) {
+        EXPECT_FALSE(model.isRestoring(record.id));
+        EXPECT_EQ(model.history().front(), restoration.outcome.record);
+        messages.push_back(restoration.message);
+    });
+    EXPECT_TRUE(model.startRestore(record));
+    EXPECT_TRUE(model.isRestoring(record.id));
+    EXPECT_FALSE(model.startRestore(record));
+    ASSERT_TRUE(waitUntil([&] { return !messages.empty(); }));
+    EXPECT_THAT(messages, ElementsAre("Restored 300 items."));
+    EXPECT_TRUE(std::all_of(paths.begin(), paths.end(), TempHome::exists));
+    EXPECT_EQ(Persist::loadHistory().front().items, model.history().front().items);
+}
+
+TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
+{
+    const TempHome home;
+    const std::vector<std::string> paths = manyFiles(home, 500);
+    {
+        AppModel model(kCommand);
+        ASSERT_TRUE(cleaned(model, planOf(paths)));
+        EXPECT_TRUE(model.startRestore(model.history().front()));
+        ASSERT_TRUE(waitUntil([&] { return TempHome::exists(home.path(".cache/many/0")); }));
+    }
+    const std::vector<CleanRecord> history = Persist::loadHistory();
+    ASSERT_THAT(history, SizeIs(1));
+    for (const TrashedItem& item : history.front().items)
+        EXPECT_EQ(item.restored, TempHome::exists(item.original)) << item.original;
+}
+
 } // namespace orlen

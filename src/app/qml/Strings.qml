@@ -9,6 +9,8 @@ QtObject {
     readonly property string freeOf: "free of %1"
     readonly property string usedSpace: "Used space"
     readonly property string screens: "Screens"
+    /// Between facts of one line, which breaks only after it.
+    readonly property string joint: "\u00a0· "
     readonly property string clear: "Clear"
     readonly property string close: "Close"
     readonly property string cancel: "Cancel"
@@ -105,6 +107,12 @@ QtObject {
     readonly property string photosBeforeScan: "Run a Smart Scan to find photo clean-ups."
     readonly property string goToSmartScan: "Go to Smart Scan"
     readonly property string noPhotos: "No photo clean-ups were found."
+    readonly property string showAllNumber: "Show all %1"
+    readonly property string showAllOf: "Show all of %1"
+    readonly property string backToPhotos: "Back to Smart Photos"
+    readonly property string kept: "Kept"
+    readonly property string selectAllPhotos: "Select all photos"
+    readonly property string noPhotoSelected: "No photo selected"
     readonly property string photosFooter: "Photos are analysed on this Mac with Apple's Vision framework: feature prints find similar shots, an image classifier spots screenshots and receipts, and a sharpness score picks the best photo of each set."
 
     // Ask Orlen
@@ -162,7 +170,15 @@ QtObject {
 
     // History
     readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."
+    readonly property string historyTitle: "History"
     readonly property string nothingCleaned: "Nothing cleaned yet."
+    readonly property string restore: "Restore"
+    readonly property string restoring: "Restoring…"
+    readonly property string restored: "Restored"
+    readonly property string restoreOf: "Restore %1, %2"
+    readonly property string pastCleanUps: "Clean-ups"
+    readonly property string itemsOf: "Items of %1"
+    readonly property string readerOnly: "Another Orlen is open. Clean-ups can be restored from there."
 
     // How Orlen Works
     readonly property string safetyTitle: "How Orlen Works"

@@ -42,6 +42,10 @@ QtObject {
     readonly property list<color> safetyTones: ["#3b7bf7", "#22ae90", "#5b5fe0", "#f08a24", "#e5484d", "#1fa3a8"]
 
     readonly property string fontFamily: root.appearance.fontFamily
+    /// Of the screens, as the sidebar's badges.
+    readonly property color photosTone: "#ee4c86"
+    readonly property color historyTone: "#2ea05a"
+
     /// Text sizes in pixels, grown with the desktop's own.
     readonly property real textScale: root.appearance.textScale
     readonly property int heroSize: Math.round(34 * root.textScale)

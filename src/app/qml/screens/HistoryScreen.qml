@@ -1,10 +1,102 @@
 import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
 import Orlen.App
 
-/// History.
-ScreenPage {
+/// History: every clean-up, and the way back from it.
+Item {
     id: root
 
-    title: "HistoryScreen"
-    subtitle: Strings.historyLead
+    /// Of the clean-up whose items are shown; at most one at a time.
+    property string openRecord: ""
+
+    HistoryModel {
+        id: history
+
+        app: AppModel
+        onRestored: message => toast.show(message)
+    }
+
+    ListView {
+        id: list
+
+        objectName: "historyList"
+        anchors.fill: parent
+        anchors.leftMargin: Theme.pageMargin
+        topMargin: Theme.pageMargin
+        bottomMargin: Theme.pageMargin
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        spacing: 12
+        model: history
+        currentIndex: 0
+        highlightMoveDuration: Theme.hoverDuration
+        activeFocusOnTab: history.count > 0
+        Accessible.role: Accessible.List
+        Accessible.name: Strings.pastCleanUps
+        T.ScrollBar.vertical: ScrollHandle {}
+
+        header: Column {
+            width: list.width - Theme.pageMargin
+            bottomPadding: 20
+            spacing: 14
+
+            PageHeader {
+                width: parent.width
+                title: Strings.historyTitle
+                subtitle: Strings.historyLead
+            }
+
+            Note {
+                width: parent.width
+                visible: !AppModel.writer && history.count > 0
+                text: Strings.readerOnly
+            }
+        }
+
+        delegate: HistoryCard {
+            id: card
+
+            required property int index
+
+            width: list.width - Theme.pageMargin
+            current: ListView.isCurrentItem
+            ringed: card.current && card.Window.activeFocusItem === card
+            open: root.openRecord === card.recordId
+            writable: AppModel.writer
+            onPressed: list.currentIndex = card.index
+            onToggled: root.openRecord = card.open ? "" : card.recordId
+            onRestoreRequested: fromKeyboard => {
+                // The button goes out of use, and must not take the keyboard with it.
+                if (fromKeyboard)
+                    card.forceActiveFocus();
+                history.restore(card.index);
+            }
+        }
+
+        Keys.onReturnPressed: list.toggleCurrent()
+        Keys.onEnterPressed: list.toggleCurrent()
+        Keys.onSpacePressed: list.toggleCurrent()
+
+        function toggleCurrent() {
+            const card = list.currentItem as HistoryCard;
+            if (card !== null)
+                card.toggled();
+        }
+    }
+
+    EmptyState {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.pageMargin
+        visible: history.count === 0
+        symbol: "clock.arrow.circlepath"
+        tone: Theme.historyTone
+        text: Strings.nothingCleaned
+    }
+
+    Toast {
+        id: toast
+
+        objectName: "historyToast"
+    }
 }

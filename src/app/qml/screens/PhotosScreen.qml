@@ -1,12 +1,138 @@
 import QtQuick
 import Orlen.App
 
-/// Smart Photos.
-ScreenPage {
+/// Smart Photos: the photo clean-ups of the last scan.
+Item {
     id: root
 
     required property Navigation navigation
 
-    title: "PhotosScreen"
-    subtitle: Strings.photosLead
+    readonly property PhotoGroupsModel model: groups
+    readonly property bool hasGroups: groups.stage === PhotoGroupsModel.Groups
+    readonly property bool isWhole: groups.shownGroup !== ""
+
+    /// Whose photo the preview shows.
+    property PhotoGrid previewed: null
+
+    function preview(grid: PhotoGrid, row: int) {
+        const token = grid.tiles.token(row);
+        if (token === 0)
+            return;
+        root.previewed = grid;
+        grid.currentIndex = row;
+        look.show(token, "");
+    }
+
+    PhotoGroupsModel {
+        id: groups
+
+        objectName: "photoGroups"
+        app: AppModel
+    }
+
+    ScreenPage {
+        id: overview
+
+        anchors.fill: parent
+        anchors.bottomMargin: bar.visible ? bar.height : 0
+        visible: !root.isWhole
+        title: Strings.photosTitle
+        subtitle: Strings.photosLead
+
+        Repeater {
+            model: groups
+
+            PhotoGroupCard {
+                width: overview.contentWidth
+                groups: root.model
+                onOpened: groups.shownGroup = findingId
+                onPreviewRequested: (grid, row) => root.preview(grid, row)
+            }
+        }
+
+        Note {
+            width: overview.contentWidth
+            visible: root.hasGroups
+            text: Strings.photosFooter
+        }
+    }
+
+    EmptyState {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: 24
+        width: parent.width - 2 * Theme.pageMargin
+        visible: !root.hasGroups
+        symbol: "photo.stack.fill"
+        tone: Theme.photosTone
+        text: groups.stage === PhotoGroupsModel.BeforeScan ? Strings.photosBeforeScan : Strings.noPhotos
+        action: groups.stage === PhotoGroupsModel.BeforeScan ? Strings.goToSmartScan : ""
+        onTriggered: root.navigation.screen = Navigation.Home
+    }
+
+    Note {
+        x: Theme.pageMargin
+        width: parent.width - 2 * Theme.pageMargin
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        visible: !root.hasGroups
+        text: Strings.photosFooter
+    }
+
+    Repeater {
+        model: groups
+
+        Loader {
+            id: loader
+
+            required property string findingId
+            required property string title
+            required property string explanation
+            required property string reason
+            required property string symbol
+            required property color tone
+            required property string rating
+            required property string ratingLabel
+            required property string ratingSymbol
+            required property string summary
+            required property string selection
+            required property int checkState
+
+            anchors.fill: parent
+            anchors.bottomMargin: bar.height
+            active: groups.shownGroup === loader.findingId
+            sourceComponent: PhotoGroupPage {
+                groups: root.model
+                findingId: loader.findingId
+                title: loader.title
+                explanation: loader.explanation
+                reason: loader.reason
+                symbol: loader.symbol
+                tone: loader.tone
+                rating: loader.rating
+                ratingLabel: loader.ratingLabel
+                ratingSymbol: loader.ratingSymbol
+                summary: loader.summary
+                selection: loader.selection
+                checkState: loader.checkState
+                onClosed: groups.shownGroup = ""
+                onPreviewRequested: (grid, row) => root.preview(grid, row)
+            }
+        }
+    }
+
+    PhotoSelectionBar {
+        id: bar
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: root.hasGroups
+        selectedText: groups.selectedText
+        onReviewRequested: groups.review()
+    }
+
+    PreviewSheet {
+        id: look
+
+        onStepRequested: by => root.preview(root.previewed, root.previewed.currentIndex + by)
+    }
 }

@@ -1,0 +1,184 @@
+import QtQuick
+import Orlen.App
+
+/// One past clean-up; its items unfold below it.
+Card {
+    id: root
+
+    required property string title
+    required property string symbol
+    required property color tone
+    required property string date
+    required property string summary
+    required property string freed
+    required property int status
+    required property string recordId
+
+    property bool current: false
+    property bool ringed: false
+    property bool open: false
+    property bool writable: true
+    readonly property bool isNarrow: root.width < 600 * Theme.textScale
+    readonly property int tabPolicy: root.current ? Qt.StrongFocus : Qt.ClickFocus
+
+    signal pressed
+    signal toggled
+    signal restoreRequested(fromKeyboard: bool)
+
+    height: head.height + unfolded.height
+    border.color: area.containsMouse ? Theme.accent : Theme.stroke
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.title + ", " + root.date + ", " + root.summary + ", " + root.freed
+
+    Behavior on border.color {
+        ColorAnimation {
+            duration: Theme.hoverDuration
+        }
+    }
+
+    FocusRing {
+        shown: root.ringed
+        shape: Theme.cardRadius
+    }
+
+    MouseArea {
+        id: area
+
+        anchors.fill: head
+        hoverEnabled: true
+        onPressed: root.pressed()
+        onClicked: root.toggled()
+    }
+
+    Item {
+        id: head
+
+        width: parent.width
+        height: Math.max(76, labels.height + 32)
+
+        Badge {
+            id: badge
+
+            x: 18
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            tone: root.tone
+            size: 40
+        }
+
+        Column {
+            id: labels
+
+            anchors.left: badge.right
+            anchors.leftMargin: 14
+            anchors.right: trailing.left
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 4
+
+            Text {
+                width: parent.width
+                text: root.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.headlineSize
+                font.weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+
+            Text {
+                width: parent.width
+                text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
+                textFormat: Text.PlainText
+                wrapMode: Text.WordWrap
+                maximumLineCount: 3
+                elide: Text.ElideRight
+                color: Theme.secondary
+                font.pixelSize: Theme.smallSize
+                Accessible.ignored: true
+            }
+        }
+
+        Row {
+            id: trailing
+
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 8
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                rightPadding: 12
+                visible: !root.isNarrow
+                text: root.freed
+                textFormat: Text.PlainText
+                color: Theme.text
+                font.pixelSize: Theme.headlineSize
+                font.weight: Font.Bold
+                Accessible.ignored: true
+            }
+
+            AppButton {
+                id: restore
+
+                objectName: "restoreButton"
+                width: Math.max(implicitWidth, Math.round(112 * Theme.textScale))
+                quiet: root.status === HistoryModel.Restored
+                enabled: root.writable && root.status === HistoryModel.Restorable
+                symbol: root.status === HistoryModel.Restored ? "checkmark" : ""
+                text: root.status === HistoryModel.Restored ? Strings.restored
+                      : root.status === HistoryModel.Restoring ? Strings.restoring : Strings.restore
+                focusPolicy: root.tabPolicy
+                Accessible.name: root.status === HistoryModel.Restorable
+                                 ? Strings.restoreOf.arg(root.title).arg(root.date) : restore.text
+                onClicked: root.restoreRequested(restore.visualFocus)
+            }
+
+            IconButton {
+                objectName: "unfoldButton"
+                symbol: "chevron.down"
+                symbolSize: 14
+                rotation: root.open ? 180 : 0
+                text: root.open ? Strings.hideItems : Strings.showItems
+                focusPolicy: root.tabPolicy
+                onClicked: root.toggled()
+
+                Behavior on rotation {
+                    NumberAnimation {
+                        duration: Theme.screenDuration
+                    }
+                }
+            }
+        }
+    }
+
+    Item {
+        id: unfolded
+
+        anchors.top: head.bottom
+        width: parent.width
+        height: root.open ? loader.height : 0
+        clip: true
+
+        Behavior on height {
+            NumberAnimation {
+                duration: Theme.screenDuration
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        Loader {
+            id: loader
+
+            width: parent.width
+            active: root.open || unfolded.height > 0
+            sourceComponent: HistoryItems {
+                recordId: root.recordId
+                title: root.title
+                isNarrow: root.isNarrow
+            }
+        }
+    }
+}

@@ -1,0 +1,129 @@
+import QtQuick
+import Orlen.App
+
+/// One item of a past clean-up.
+Item {
+    id: root
+
+    required property string name
+    required property string folder
+    required property string size
+    required property int status
+    required property string statusText
+
+    property bool isNarrow: false
+    property bool ringed: false
+
+    readonly property bool isRestored: root.status === RecordItemsModel.Restored
+    readonly property color statusInk: root.isRestored ? Theme.safeText
+                                       : root.status === RecordItemsModel.Gone ? Theme.reviewText : Theme.secondary
+
+    signal revealRequested
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.name + ", " + root.folder + ", " + root.size + ", " + root.statusText
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.controlRadius
+        color: hover.hovered ? Theme.inset : "transparent"
+
+        FocusRing {
+            shown: root.ringed
+            gap: -2
+        }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.right: trailing.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Text {
+            width: parent.width
+            text: root.name
+            textFormat: Text.PlainText
+            elide: Text.ElideMiddle
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            font.weight: Font.Medium
+            Accessible.ignored: true
+        }
+
+        Text {
+            width: parent.width
+            text: root.folder
+            textFormat: Text.PlainText
+            elide: Text.ElideMiddle
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+            Accessible.ignored: true
+        }
+
+        Text {
+            width: parent.width
+            visible: root.isNarrow
+            text: root.statusText
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: root.statusInk
+            font.pixelSize: Theme.captionSize
+            Accessible.ignored: true
+        }
+    }
+
+    Row {
+        id: trailing
+
+        anchors.right: parent.right
+        anchors.rightMargin: 6
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 10
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !root.isNarrow
+            text: root.statusText
+            textFormat: Text.PlainText
+            color: root.statusInk
+            font.pixelSize: Theme.captionSize
+            Accessible.ignored: true
+        }
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(78 * Theme.textScale)
+            horizontalAlignment: Text.AlignRight
+            text: root.size
+            textFormat: Text.PlainText
+            color: Theme.text
+            font.pixelSize: Theme.smallSize
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+        }
+
+        Item {
+            width: reveal.width
+            height: reveal.height
+
+            IconButton {
+                id: reveal
+
+                width: 32
+                height: 32
+                visible: root.isRestored
+                symbol: "reveal"
+                text: Strings.reveal
+                focusPolicy: Qt.NoFocus
+                onClicked: root.revealRequested()
+            }
+        }
+    }
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import QtQuick.Window
+import Orlen.App
+
+/// Photos in rows and columns. The arrows move, Enter selects, Space looks into a photo, Ctrl+A takes all.
+GridView {
+    id: root
+
+    required property PhotoTilesModel tiles
+    /// Pixels that a photo is wide, about.
+    required property int tileSize
+    /// What the photos lie on.
+    property color ground: Theme.card
+
+    readonly property int columns: Math.max(3, Math.floor(root.width / (root.tileSize * Math.min(1.25, Theme.textScale))))
+    /// The ring is for the keyboard alone.
+    property bool isKeyed: false
+
+    signal allRequested
+    signal previewRequested(row: int)
+
+    cellWidth: Math.floor(root.width / root.columns)
+    cellHeight: root.cellWidth
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    model: root.tiles
+    Accessible.role: Accessible.List
+
+    Keys.onPressed: event => {
+        root.isKeyed = true;
+        event.accepted = true;
+        if (event.key === Qt.Key_Space)
+            root.previewRequested(root.currentIndex);
+        else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+            root.tiles.toggle(root.currentIndex);
+        else if (event.key === Qt.Key_Home)
+            root.currentIndex = 0;
+        else if (event.key === Qt.Key_End)
+            root.currentIndex = root.count - 1;
+        else if (event.matches(StandardKey.SelectAll))
+            root.allRequested();
+        else
+            event.accepted = false;
+    }
+    Keys.onReleased: root.isKeyed = true
+
+    delegate: PhotoTile {
+        id: tile
+
+        required property int index
+
+        width: root.cellWidth
+        height: root.cellHeight
+        ground: root.ground
+        ringed: root.isKeyed && tile.Window.activeFocusItem === tile
+        onPressed: {
+            root.isKeyed = false;
+            root.currentIndex = tile.index;
+            root.forceActiveFocus();
+        }
+        onToggled: root.tiles.toggle(tile.index)
+        onPreviewRequested: root.previewRequested(tile.index)
+    }
+}

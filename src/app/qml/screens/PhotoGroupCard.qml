@@ -1,0 +1,141 @@
+import QtQuick
+import Orlen.App
+
+/// One photo clean-up: what it is, how much, and its first photos.
+Card {
+    id: root
+
+    required property PhotoGroupsModel groups
+    required property string findingId
+    required property string title
+    required property string explanation
+    required property string symbol
+    required property color tone
+    required property string rating
+    required property string ratingLabel
+    required property string ratingSymbol
+    required property string photosText
+    required property string summary
+    required property string selection
+
+    readonly property int padding: 18
+
+    property bool wasOpened: false
+
+    signal opened
+    signal previewRequested(grid: PhotoGrid, row: int)
+
+    height: head.height + strip.height + 3 * root.padding - 4
+
+    // The keyboard goes on where it was when the whole group was opened.
+    onVisibleChanged: {
+        if (!root.visible || !root.wasOpened)
+            return;
+        root.wasOpened = false;
+        showAll.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    PhotoTilesModel {
+        id: shown
+
+        groups: root.groups
+        findingId: root.findingId
+        limit: strip.columns
+    }
+
+    Item {
+        id: head
+
+        x: root.padding
+        y: root.padding
+        width: parent.width - 2 * root.padding
+        height: Math.max(badge.height, labels.height)
+
+        Badge {
+            id: badge
+
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            tone: root.tone
+            size: 40
+        }
+
+        Column {
+            id: labels
+
+            anchors.left: badge.right
+            anchors.leftMargin: 14
+            anchors.right: showAll.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: badge.verticalCenter
+            spacing: 3
+
+            Flow {
+                width: parent.width
+                spacing: 10
+
+                Text {
+                    height: Math.max(implicitHeight, chip.height)
+                    verticalAlignment: Text.AlignVCenter
+                    width: Math.min(implicitWidth, parent.width)
+                    text: root.title
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    color: Theme.text
+                    font.pixelSize: Theme.headlineSize
+                    font.weight: Font.DemiBold
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: root.title
+                }
+
+                RatingChip {
+                    id: chip
+
+                    rating: root.rating
+                    label: root.ratingLabel
+                    symbol: root.ratingSymbol
+                }
+            }
+
+            Text {
+                width: parent.width
+                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.secondary
+                font.pixelSize: Theme.smallSize
+            }
+        }
+
+        AppButton {
+            id: showAll
+
+            objectName: "showAll"
+            anchors.right: parent.right
+            anchors.verticalCenter: badge.verticalCenter
+            text: Strings.showAllNumber.arg(root.photosText)
+            Accessible.name: Strings.showAllOf.arg(root.title)
+            onClicked: {
+                root.wasOpened = true;
+                root.opened();
+            }
+        }
+    }
+
+    PhotoGrid {
+        id: strip
+
+        objectName: "photoStrip"
+        x: root.padding - 4
+        anchors.top: head.bottom
+        anchors.topMargin: root.padding - 4
+        width: parent.width - 2 * x
+        height: cellHeight
+        interactive: false
+        tiles: shown
+        tileSize: 124
+        Accessible.name: root.title
+        onAllRequested: root.groups.toggleAll(root.findingId)
+        onPreviewRequested: row => root.previewRequested(strip, row)
+    }
+}

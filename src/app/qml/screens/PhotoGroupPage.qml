@@ -1,0 +1,174 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// All photos of one clean-up.
+Item {
+    id: root
+
+    required property PhotoGroupsModel groups
+    required property string findingId
+    required property string title
+    required property string explanation
+    required property string reason
+    required property string symbol
+    required property color tone
+    required property string rating
+    required property string ratingLabel
+    required property string ratingSymbol
+    required property string summary
+    required property string selection
+    required property int checkState
+
+    signal closed
+    signal previewRequested(grid: PhotoGrid, row: int)
+
+    Keys.onEscapePressed: root.closed()
+    Component.onCompleted: grid.forceActiveFocus()
+
+    PhotoTilesModel {
+        id: all
+
+        groups: root.groups
+        findingId: root.findingId
+    }
+
+    Column {
+        id: head
+
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        width: parent.width - 2 * Theme.pageMargin
+        spacing: 16
+
+        Item {
+            width: parent.width
+            height: Math.max(badge.height, labels.height)
+
+            IconButton {
+                id: back
+
+                objectName: "backToPhotos"
+                framed: true
+                y: (badge.height - height) / 2
+                symbol: "chevron.left"
+                text: Strings.backToPhotos
+                onClicked: root.closed()
+            }
+
+            Badge {
+                id: badge
+
+                anchors.left: back.right
+                anchors.leftMargin: 14
+                name: root.symbol
+                tone: root.tone
+                size: 44
+            }
+
+            Column {
+                id: labels
+
+                anchors.left: badge.right
+                anchors.leftMargin: 14
+                anchors.right: parent.right
+                spacing: 4
+
+                Flow {
+                    width: parent.width
+                    spacing: 10
+
+                    Text {
+                        height: Math.max(implicitHeight, chip.height)
+                        verticalAlignment: Text.AlignVCenter
+                        width: Math.min(implicitWidth, parent.width)
+                        text: root.title
+                        textFormat: Text.PlainText
+                        elide: Text.ElideRight
+                        color: Theme.text
+                        font.pixelSize: Theme.titleSize
+                        font.weight: Font.Bold
+                        Accessible.role: Accessible.Heading
+                        Accessible.name: root.title
+                    }
+
+                    RatingChip {
+                        id: chip
+
+                        rating: root.rating
+                        label: root.ratingLabel
+                        symbol: root.ratingSymbol
+                    }
+                }
+
+                Text {
+                    width: parent.width
+                    text: root.reason === "" ? root.explanation : root.explanation + " " + root.reason
+                    textFormat: Text.PlainText
+                    wrapMode: Text.WordWrap
+                    color: Theme.secondary
+                    font.pixelSize: Theme.smallSize
+                }
+            }
+        }
+
+        Row {
+            x: -mark.leftPadding
+            width: parent.width
+            spacing: 4
+
+            CheckMark {
+                id: mark
+
+                objectName: "selectAllPhotos"
+                anchors.verticalCenter: parent.verticalCenter
+                checkState: root.checkState
+                nextCheckState: () => root.checkState
+                Accessible.name: Strings.selectAllPhotos
+                onClicked: root.groups.toggleAll(root.findingId)
+            }
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width - mark.width - parent.spacing
+                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.smallSize
+                font.weight: Font.DemiBold
+            }
+        }
+    }
+
+    PhotoGrid {
+        id: grid
+
+        objectName: "photoGrid"
+        anchors.top: head.bottom
+        anchors.topMargin: 10
+        anchors.bottom: parent.bottom
+        x: Theme.pageMargin - 4
+        width: parent.width - 2 * x
+        bottomMargin: 16
+        clip: true
+        reuseItems: true
+        tiles: all
+        tileSize: 150
+        ground: Theme.window
+        Accessible.name: root.title
+        T.ScrollBar.vertical: handle
+        onAllRequested: root.groups.toggleAll(root.findingId)
+        onPreviewRequested: row => root.previewRequested(grid, row)
+    }
+
+    // Beside the grid, in the page's margin.
+    ScrollHandle {
+        id: handle
+
+        anchors.right: parent.right
+        anchors.top: grid.top
+        anchors.bottom: grid.bottom
+        orientation: Qt.Vertical
+    }
+}

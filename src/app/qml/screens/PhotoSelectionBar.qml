@@ -1,0 +1,49 @@
+import QtQuick
+import Orlen.App
+
+/// What is selected of all photos, and the way on.
+Rectangle {
+    id: root
+
+    required property string selectedText
+
+    signal reviewRequested
+
+    implicitHeight: Math.max(review.implicitHeight, label.implicitHeight) + 28
+    color: Theme.window
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Theme.stroke
+    }
+
+    Text {
+        id: label
+
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.pageMargin
+        anchors.right: review.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.selectedText === "" ? Strings.noPhotoSelected : root.selectedText
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: root.selectedText === "" ? Theme.secondary : Theme.text
+        font.pixelSize: Theme.bodySize
+        font.weight: Font.DemiBold
+    }
+
+    AppButton {
+        id: review
+
+        objectName: "reviewPhotos"
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
+        anchors.verticalCenter: parent.verticalCenter
+        primary: true
+        enabled: root.selectedText !== ""
+        text: Strings.reviewAndClean
+        onClicked: root.reviewRequested()
+    }
+}

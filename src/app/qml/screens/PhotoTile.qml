@@ -1,0 +1,215 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// One photo with its check mark. Photos of one set stand on one ground, the kept one first.
+Item {
+    id: root
+
+    required property string name
+    required property string details
+    required property string size
+    required property string source
+    required property bool selected
+    required property bool kept
+    required property bool joinsPrevious
+    required property bool joinsNext
+
+    property bool ringed: false
+    /// What the tile lies on.
+    property color ground: Theme.card
+
+    readonly property int gap: 8
+    readonly property bool isInSet: root.joinsPrevious || root.joinsNext
+    readonly property color surround: root.isInSet ? Theme.track : root.ground
+
+    signal pressed
+    signal toggled
+    signal previewRequested
+
+    Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
+    Accessible.checkable: !root.kept
+    Accessible.checked: root.selected
+    Accessible.name: root.name + ", " + (root.kept ? Strings.kept : root.size)
+    Accessible.description: root.details
+    Accessible.onToggleAction: root.toggled()
+    Accessible.onPressAction: root.toggled()
+
+    Item {
+        anchors.fill: parent
+        clip: true
+
+        Rectangle {
+            visible: root.isInSet
+            x: root.joinsPrevious ? -16 : 1
+            y: 1
+            width: parent.width - x + (root.joinsNext ? 16 : -1)
+            height: parent.height - 2
+            radius: Theme.controlRadius + 3
+            color: Theme.track
+        }
+    }
+
+    Item {
+        id: frame
+
+        anchors.fill: parent
+        anchors.margins: root.gap / 2
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.controlRadius
+            color: Theme.inset
+
+            Symbol {
+                anchors.centerIn: parent
+                visible: !picture.isDrawn
+                name: "doc.image"
+                colour: Theme.tertiary
+                size: 28
+            }
+        }
+
+        Image {
+            id: picture
+
+            readonly property bool isDrawn: picture.status === Image.Ready && picture.implicitWidth > 0
+
+            anchors.fill: parent
+            source: root.source
+            sourceSize.width: width
+            sourceSize.height: height
+            asynchronous: true
+            opacity: picture.isDrawn ? 1 : 0
+            Accessible.ignored: true
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Theme.hoverDuration
+                }
+            }
+        }
+
+        // Rounds the picture's corners by what surrounds it: a mask would need a shader.
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -4
+            radius: Theme.controlRadius + 4
+            color: "transparent"
+            border.width: 4
+            border.color: root.surround
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.controlRadius
+            color: "transparent"
+            border.width: root.selected ? 3 : 1
+            border.color: root.selected ? Theme.accentFill
+                          : root.kept ? Theme.safeBase : Qt.rgba(0, 0, 0, Theme.dark ? 0 : 0.08)
+        }
+
+        Rectangle {
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.margins: 7
+            visible: root.size !== ""
+            width: label.implicitWidth + 12
+            height: label.implicitHeight + 4
+            radius: height / 2
+            color: Qt.rgba(0, 0, 0, 0.6)
+
+            Text {
+                id: label
+
+                anchors.centerIn: parent
+                text: root.size
+                textFormat: Text.PlainText
+                color: "white"
+                font.pixelSize: Math.round(11 * Theme.textScale)
+                font.weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+        }
+
+        Rectangle {
+            anchors.left: parent.left
+            anchors.bottom: parent.bottom
+            anchors.margins: 7
+            visible: root.kept
+            width: keptRow.implicitWidth + 14
+            height: keptRow.implicitHeight + 6
+            radius: height / 2
+            color: "#12713d"
+
+            Row {
+                id: keptRow
+
+                anchors.centerIn: parent
+                spacing: 4
+
+                Symbol {
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: "checkmark"
+                    colour: "white"
+                    size: 11
+                }
+
+                Text {
+                    text: Strings.kept
+                    textFormat: Text.PlainText
+                    color: "white"
+                    font.pixelSize: Math.round(11 * Theme.textScale)
+                    font.weight: Font.DemiBold
+                    Accessible.ignored: true
+                }
+            }
+        }
+
+        FocusRing {
+            shown: root.ringed
+            gap: 3
+        }
+    }
+
+    MouseArea {
+        id: area
+
+        anchors.fill: frame
+        hoverEnabled: true
+        onPressed: root.pressed()
+        onClicked: root.toggled()
+    }
+
+    CheckMark {
+        anchors.left: frame.left
+        anchors.top: frame.top
+        anchors.margins: 4
+        visible: !root.kept
+        checkState: root.selected ? Qt.Checked : Qt.Unchecked
+        nextCheckState: () => checkState
+        focusPolicy: Qt.NoFocus
+        Accessible.ignored: true
+        onClicked: root.toggled()
+    }
+
+    IconButton {
+        anchors.right: frame.right
+        anchors.top: frame.top
+        anchors.margins: 5
+        width: 28
+        height: 28
+        visible: root.source !== "" && (area.containsMouse || hovered)
+        framed: true
+        symbol: "eye"
+        symbolSize: 14
+        text: Strings.preview
+        focusPolicy: Qt.NoFocus
+        onClicked: root.previewRequested()
+    }
+
+    ToolTipBubble {
+        shown: area.containsMouse
+        text: root.details === "" ? root.name : root.name + "\n" + root.details
+    }
+}

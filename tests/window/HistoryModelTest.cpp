@@ -1,0 +1,134 @@
+#include "HistoryModel.h"
+#include "RecordItemsModel.h"
+
+#include "app/EventLoop.h"
+#include "clean/Persist.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
+                                   std::chrono::milliseconds(0)};
+
+void clean(AppModel& app, const std::vector<std::string>& paths, const std::string& title)
+{
+    CleanPlan plan;
+    plan.title = title;
+    plan.sections.push_back({"caches", "App caches", "internaldrive.fill", {}});
+    for (const std::string& path : paths)
+        plan.sections.front().entries.push_back({path, 4096});
+    app.confirm(plan, {paths.begin(), paths.end()});
+    ASSERT_TRUE(waitUntil([&] { return app.cleaning() && app.cleaning()->finished; }));
+}
+
+template <typename Model>
+std::vector<std::string> column(const Model& model, typename Model::Role role)
+{
+    std::vector<std::string> values;
+    for (int row = 0; row < model.rowCount(); ++row)
+        values.push_back(model.data(model.index(row), static_cast<int>(role)).toString().toStdString());
+    return values;
+}
+
+} // namespace
+
+TEST(HistoryModelTest, aNewCleanUpComesFirstAndARestoreChangesItsRowOnly)
+{
+    const TempHome home;
+    AppModel app(kQuick);
+    HistoryModel history;
+    const QAbstractItemModelTester tester(&history, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    history.setApp(&app);
+    EXPECT_EQ(history.rowCount(), 0);
+    clean(app, {home.file(".cache/a"), home.file(".cache/b"), home.path("gone")}, "Smart Scan clean-up");
+    QSignalSpy inserted(&history, &QAbstractItemModel::rowsInserted);
+    QSignalSpy reset(&history, &QAbstractItemModel::modelReset);
+    clean(app, {home.file(".config/viewer")}, "Uninstall Viewer");
+    EXPECT_EQ(inserted.size(), 1);
+    EXPECT_THAT(column(history, HistoryModel::Role::title),
+                ElementsAre("Uninstall Viewer", "Smart Scan clean-up"));
+    EXPECT_THAT(column(history, HistoryModel::Role::summary),
+                ElementsAre("1 item", "2 items\u00a0· 1 couldn't be moved"));
+
+    home.file(".cache/b", "taken");
+    QSignalSpy changed(&history, &QAbstractItemModel::dataChanged);
+    QSignalSpy told(&history, &HistoryModel::restored);
+    history.restore(1);
+    const auto statusOf = [&](int row) {
+        return history.data(history.index(row), static_cast<int>(HistoryModel::Role::status)).toInt();
+    };
+    EXPECT_EQ(statusOf(1), HistoryModel::Restoring);
+    EXPECT_EQ(statusOf(0), HistoryModel::Restorable);
+    history.restore(1); // refused meanwhile
+    ASSERT_TRUE(waitUntil([&] { return !told.isEmpty(); }));
+    EXPECT_TRUE(told.front().front().toString().startsWith("Restored 1; 1 couldn't be restored"));
+    EXPECT_EQ(statusOf(1), HistoryModel::Restorable);
+    EXPECT_EQ(column(history, HistoryModel::Role::summary)[1],
+              "2 items\u00a0· 1 restored\u00a0· 1 couldn't be moved");
+    for (const QList<QVariant>& signal : changed)
+        EXPECT_EQ(signal.front().toModelIndex().row(), 1);
+    history.restore(0);
+    ASSERT_TRUE(waitUntil([&] { return told.size() == 2; }));
+    EXPECT_EQ(statusOf(0), HistoryModel::Restored);
+    EXPECT_TRUE(reset.isEmpty());
+}
+
+TEST(HistoryModelTest, aProgramThatMayNotWriteRestoresNothing)
+{
+    const TempHome home;
+    {
+        AppModel app(kQuick);
+        clean(app, {home.file(".cache/a")}, "Smart Scan clean-up");
+    }
+    AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, {}});
+    HistoryModel history;
+    history.setApp(&reader);
+    ASSERT_EQ(history.rowCount(), 1);
+    history.restore(0);
+    EXPECT_FALSE(reader.isRestoring(reader.history().front().id));
+    EXPECT_FALSE(TempHome::exists(home.path(".cache/a")));
+}
+
+TEST(RecordItemsModelTest, tellsWhereEachItemIsNow)
+{
+    const TempHome home;
+    AppModel app(kQuick);
+    clean(app, {home.file(".cache/a"), home.file(".cache/b"), home.file(".cache/c")}, "Some");
+    RecordItemsModel items;
+    const QAbstractItemModelTester tester(&items, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    items.setApp(&app);
+    EXPECT_EQ(items.rowCount(), 0);
+    QSignalSpy changed(&items, &QAbstractItemModel::dataChanged);
+    items.setRecordId(QString::fromStdString(app.history().front().id.text()));
+    EXPECT_THAT(column(items, RecordItemsModel::Role::name), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(column(items, RecordItemsModel::Role::folder),
+                ElementsAre("~/.cache", "~/.cache", "~/.cache"));
+    ASSERT_TRUE(waitUntil([&] { return !changed.isEmpty(); }));
+    EXPECT_EQ(changed.size(), 1) << "three rows of the same change";
+    EXPECT_EQ(column(items, RecordItemsModel::Role::statusText)[0], "In the Trash");
+
+    // Somebody puts b back in the file manager, and something stands where c was.
+    const TrashedItem b = app.history().front().items[1];
+    ASSERT_TRUE(Cleaner::restore({Uuid::random(), app.history().front().date, "b", {b}, 0}).restored == 1);
+    home.file(".cache/c", "taken");
+    QSignalSpy reset(&items, &QAbstractItemModel::modelReset);
+    ASSERT_TRUE(app.startRestore(app.history().front()));
+    ASSERT_TRUE(waitUntil([&] { return !app.isRestoring(app.history().front().id); }));
+    ASSERT_TRUE(
+        waitUntil([&] { return column(items, RecordItemsModel::Role::statusText)[0] == "Restored"; }));
+    EXPECT_THAT(column(items, RecordItemsModel::Role::statusText),
+                ElementsAre("Restored", "No longer in the Trash", "In the Trash"));
+    EXPECT_TRUE(reset.isEmpty());
+}
+
+} // namespace orlen

@@ -1,0 +1,196 @@
+#include "PhotoGroupsModel.h"
+#include "PhotoTilesModel.h"
+
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
+                                   std::chrono::milliseconds(0)};
+const QString kShots = QStringLiteral("screenshots");
+const QString kSimilar = QStringLiteral("photoDuplicates");
+
+FileEntry similar(const std::string& path, const std::string& keeper, std::int64_t size = 4096)
+{
+    FileEntry entry{path, size};
+    entry.note = "Similar to " + keeper + " — keeping the sharpest";
+    return entry;
+}
+
+Finding shots(int count)
+{
+    std::vector<FileEntry> entries;
+    for (int number = 0; number < count; ++number)
+        entries.push_back({"/p/shot" + std::to_string(number) + ".png", 1000 - number});
+    return {FindingKind::screenshots, std::move(entries)};
+}
+
+QVariant at(const QAbstractListModel& model, int row, auto role)
+{
+    return model.data(model.index(row), static_cast<int>(role));
+}
+
+std::vector<std::string> names(const PhotoTilesModel& tiles)
+{
+    std::vector<std::string> all;
+    for (int row = 0; row < tiles.rowCount(); ++row)
+        all.push_back(at(tiles, row, PhotoTilesModel::Role::name).toString().toStdString());
+    return all;
+}
+
+/// The group model over an application model, with a tile model of one group.
+struct Stage {
+    explicit Stage(std::vector<Finding> findings, const QString& shown)
+    {
+        groups.setApp(&app);
+        groups.setFindings(std::move(findings));
+        tiles.setFindingId(shown);
+        tiles.setGroups(&groups);
+    }
+
+    AppModel app{kQuick};
+    PhotoGroupsModel groups;
+    PhotoTilesModel tiles;
+    QAbstractItemModelTester groupsTester{&groups, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    QAbstractItemModelTester tilesTester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+} // namespace
+
+TEST(PhotoSetsTest, findsTheKeptPhotoOfEachEntry)
+{
+    const std::vector<std::string> disk{"/a/IMG.jpg", "/b/IMG.jpg", "/a/one.jpg"};
+    const PhotoSets::Exists exists = [&](const std::string& path) {
+        return std::find(disk.begin(), disk.end(), path) != disk.end();
+    };
+    std::vector<FileEntry> entries{similar("/a/IMG (1).jpg", "IMG.jpg"), similar("/b/IMG (1).jpg", "IMG.jpg"),
+                                   similar("/c/copy.jpg", "one.jpg"),    similar("/c/lost.jpg", "IMG.jpg"),
+                                   similar("/c/more.jpg", "one.jpg"),    {"/c/plain.jpg", 1}};
+    addNote(entries[4], "Looks important");
+    const std::vector<PhotoSet> sets = PhotoSets::of(entries, exists);
+    EXPECT_THAT(sets, ElementsAre(PhotoSet{"IMG.jpg", "/a/IMG.jpg", {0}},
+                                  PhotoSet{"IMG.jpg", "/b/IMG.jpg", {1}}, PhotoSet{"one.jpg", "", {2, 4}},
+                                  PhotoSet{"IMG.jpg", "", {3}}, PhotoSet{"", "", {5}}));
+    // Beside one of its set, and the only one of that name beside any of them.
+    entries.push_back(similar("/a/near.jpg", "one.jpg"));
+    EXPECT_EQ(PhotoSets::of(entries, exists)[2], (PhotoSet{"one.jpg", "/a/one.jpg", {2, 4, 6}}));
+}
+
+TEST(PhotoSetsTest, whatTheFindingListsIsNotKept)
+{
+    const std::vector<FileEntry> entries{similar("/a/x.jpg", "y.jpg"), similar("/a/y.jpg", "z.jpg")};
+    const auto sets = PhotoSets::of(entries, [](const std::string&) { return true; });
+    EXPECT_THAT(sets, ElementsAre(PhotoSet{"y.jpg", "", {0}}, PhotoSet{"z.jpg", "/a/z.jpg", {1}}));
+}
+
+TEST(PhotoSetsTest, onlyTheWholeNoteNamesAKeeper)
+{
+    FileEntry entry{"/a", 1};
+    for (const char* note : {"Similar to a.jpg", "Similar to  — keeping the sharpest", "Identical to a.jpg",
+                             "x Similar to a.jpg — keeping the sharpest"}) {
+        entry.note = note;
+        EXPECT_FALSE(PhotoSets::keeperName(entry).has_value()) << note;
+    }
+}
+
+TEST(PhotoGroupsModelTest, tellsTheStages)
+{
+    const TempHome home;
+    AppModel app(kQuick);
+    PhotoGroupsModel groups;
+    groups.setApp(&app);
+    EXPECT_EQ(groups.stage(), PhotoGroupsModel::BeforeScan);
+    app.startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.phase() != Phase::scanning; }));
+    EXPECT_EQ(groups.stage(), PhotoGroupsModel::Nothing);
+    groups.setFindings({shots(1)});
+    EXPECT_EQ(groups.stage(), PhotoGroupsModel::Groups);
+}
+
+TEST(PhotoGroupsModelTest, theSelectionIsTheApplicationsOwn)
+{
+    const TempHome home;
+    Stage stage({shots(3)}, kShots);
+    EXPECT_EQ(stage.groups.selectedText(), "");
+    QSignalSpy changed(&stage.tiles, &QAbstractItemModel::dataChanged);
+    stage.tiles.toggle(1);
+    EXPECT_THAT(stage.app.selection(), ElementsAre("/p/shot1.png"));
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_TRUE(at(stage.tiles, 1, PhotoTilesModel::Role::selected).toBool());
+    EXPECT_EQ(at(stage.groups, 0, PhotoGroupsModel::Role::checkState).toInt(), Qt::PartiallyChecked);
+    // Another photo of the same size elsewhere leaves the figures as they are, but not the rows.
+    stage.app.setSelection({"/p/shot2.png"});
+    EXPECT_FALSE(at(stage.tiles, 1, PhotoTilesModel::Role::selected).toBool());
+    stage.groups.toggleAll(kShots);
+    EXPECT_EQ(stage.app.selection().size(), 3U);
+    EXPECT_TRUE(stage.groups.selectedText().startsWith("3 photos selected"));
+    stage.groups.toggleAll(kShots);
+    EXPECT_TRUE(stage.app.selection().empty());
+}
+
+TEST(PhotoGroupsModelTest, aGroupThatIsCleanedAwayIsNoLongerShown)
+{
+    const TempHome home;
+    Stage stage({shots(3), Finding(FindingKind::blurry, {{"/p/b.jpg", 1}})}, kShots);
+    stage.groups.setShownGroup(kShots);
+    QSignalSpy removed(&stage.groups, &QAbstractItemModel::rowsRemoved);
+    stage.groups.setFindings({Finding(FindingKind::blurry, {{"/p/b.jpg", 1}})});
+    EXPECT_EQ(removed.size(), 1);
+    EXPECT_EQ(stage.groups.shownGroup(), "");
+    stage.groups.setShownGroup("memes");
+    EXPECT_EQ(stage.groups.shownGroup(), "");
+}
+
+TEST(PhotoTilesModelTest, theLimitAndACleanUpMoveRowsWithoutAReset)
+{
+    const TempHome home;
+    Stage stage({shots(6)}, kShots);
+    QSignalSpy reset(&stage.tiles, &QAbstractItemModel::modelReset);
+    stage.tiles.setLimit(2);
+    EXPECT_THAT(names(stage.tiles), ElementsAre("shot0.png", "shot1.png"));
+    stage.tiles.setLimit(4);
+    EXPECT_EQ(stage.tiles.rowCount(), 4);
+    Finding left = shots(6);
+    left.items.erase(left.items.begin() + 1, left.items.begin() + 3);
+    stage.groups.setFindings({left});
+    EXPECT_THAT(names(stage.tiles), ElementsAre("shot0.png", "shot3.png", "shot4.png", "shot5.png"));
+    EXPECT_TRUE(reset.isEmpty());
+}
+
+TEST(PhotoTilesModelTest, aSetBeginsWithThePhotoThatIsKept)
+{
+    const TempHome home;
+    const std::string keeper = home.file("Pictures/a.jpg");
+    Stage stage({Finding(FindingKind::photoDuplicates, {similar(home.path("Pictures/a2.jpg"), "a.jpg", 3),
+                                                        similar(home.path("Pictures/b2.jpg"), "b.jpg", 2),
+                                                        similar(home.path("Pictures/a3.jpg"), "a.jpg", 1)})},
+                kSimilar);
+    ASSERT_TRUE(waitUntil([&] { return stage.tiles.rowCount() > 0; }));
+    EXPECT_THAT(names(stage.tiles), ElementsAre("a.jpg", "a2.jpg", "a3.jpg", "b.jpg", "b2.jpg"));
+    const auto joins = [&](int row) {
+        return std::pair(at(stage.tiles, row, PhotoTilesModel::Role::joinsPrevious).toBool(),
+                         at(stage.tiles, row, PhotoTilesModel::Role::joinsNext).toBool());
+    };
+    EXPECT_EQ(joins(0), std::pair(false, true));
+    EXPECT_EQ(joins(1), std::pair(true, true));
+    EXPECT_EQ(joins(2), std::pair(true, false));
+    EXPECT_NE(at(stage.tiles, 0, PhotoTilesModel::Role::source).toString(), "");
+    EXPECT_EQ(at(stage.tiles, 3, PhotoTilesModel::Role::source).toString(), "") << "it was not found";
+    stage.tiles.toggle(0);
+    EXPECT_TRUE(stage.app.selection().empty()) << "a kept photo cannot be selected";
+    stage.tiles.toggle(1);
+    EXPECT_THAT(stage.app.selection(), ElementsAre(home.path("Pictures/a2.jpg")));
+}
+
+} // namespace orlen
