@@ -117,4 +117,9 @@ QtObject {
 
     // Keyboard shortcuts
     readonly property string shortcutsTitle: "Keyboard shortcuts"
+
+    // Tray item
+    readonly property string trayNote: "Orlen only runs while it is open."
+    readonly property string openOrlen: "Open Orlen"
+    readonly property string quit: "Quit"
 }
