@@ -1,6 +1,7 @@
 #include "AppModelElement.h"
 #include "Appearance.h"
 #include "SymbolProvider.h"
+#include "Tray.h"
 #include "Window.h"
 #include "app/AppModel.h"
 
@@ -42,6 +43,7 @@ void addOptions(QCommandLineParser& parser)
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
+        {"tray", "Picture the small window of the tray item"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -58,6 +60,19 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+}
+
+/// The window that the picture is of.
+QQuickWindow* pictured(QQuickWindow* window, Tray& tray, const QCommandLineParser& options)
+{
+    if (!options.isSet("tray"))
+        return window;
+    tray.togglePanel({});
+    for (QWindow* other : QGuiApplication::topLevelWindows()) {
+        if (other != window && other->isVisible())
+            return qobject_cast<QQuickWindow*>(other);
+    }
+    return window;
 }
 
 } // namespace
@@ -85,6 +100,8 @@ int main(int argc, char** argv)
     window->resize(size.value(0).toInt(), size.value(1).toInt());
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     bringAbout(model, options);
+    Tray tray(QDBusConnection::sessionBus(), model, engine);
+    window = pictured(window, tray, options);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

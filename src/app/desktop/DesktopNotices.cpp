@@ -32,8 +32,10 @@ DesktopNotices::DesktopNotices(QDBusConnection bus, const QString& openLabel, QO
     if (!m_bus.isConnected())
         return;
     // The token, where the desktop has one, comes before the action.
-    m_bus.connect(kService, kPath, kService, QStringLiteral("ActivationToken"), this, SLOT(keepToken(uint, QString)));
-    m_bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this, SLOT(open(uint, QString)));
+    m_bus.connect(kService, kPath, kService, QStringLiteral("ActivationToken"), this,
+                  SLOT(keepToken(uint, QString)));
+    m_bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this,
+                  SLOT(open(uint, QString)));
 }
 
 void DesktopNotices::show(const Notice& notice)
@@ -43,7 +45,8 @@ void DesktopNotices::show(const Notice& notice)
     const QVariantMap hints{{QStringLiteral("desktop-entry"), identifier()}};
     QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Notify"));
     call << QGuiApplication::applicationName() << m_id << identifier() << notice.title
-         << notice.text.toHtmlEscaped() << QStringList{kDefaultAction, m_openLabel} << hints << kDesktopDecides;
+         << notice.text.toHtmlEscaped() << QStringList{kDefaultAction, m_openLabel} << hints
+         << kDesktopDecides;
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &DesktopNotices::keepNumber);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 #include <QVariantMap>
 
@@ -23,3 +24,5 @@ struct LaunchToken {
 };
 
 } // namespace orlen
+
+Q_DECLARE_METATYPE(orlen::LaunchToken)

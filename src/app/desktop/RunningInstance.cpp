@@ -32,10 +32,17 @@ QString objectPath()
 
 } // namespace
 
-RunningInstance::RunningInstance(QDBusConnection bus, QObject* parent) : QObject(parent), m_bus(std::move(bus))
+RunningInstance::RunningInstance(QDBusConnection bus, QObject* parent)
+    : QObject(parent), m_bus(std::move(bus))
 {
     const auto activate = [this](const LaunchToken& token) { Q_EMIT activated(token); };
     new ApplicationInterface(activate, this);
+}
+
+RunningInstance::~RunningInstance()
+{
+    if (m_hasName)
+        m_bus.unregisterService(busName());
 }
 
 RunningInstance::Claim RunningInstance::claim(const LaunchToken& token)
@@ -49,8 +56,9 @@ RunningInstance::Claim RunningInstance::claimName(const LaunchToken& token)
     m_bus.registerObject(objectPath(), this, QDBusConnection::ExportAdaptors);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
         m_bus.interface()->registerService(busName());
+    m_hasName = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
     // A bus that gives out no names, as a sandbox may have, must not keep the window from opening.
-    if (!reply.isValid() || reply.value() == QDBusConnectionInterface::ServiceRegistered)
+    if (m_hasName || !reply.isValid())
         return Claim::ours;
     m_bus.unregisterObject(objectPath());
     return raiseOther(token);

@@ -11,7 +11,8 @@
 namespace orlen {
 
 /// Sees to it that a session has one Orlen window: by the program's name on the session bus, which also lets
-/// the desktop bring it to the front; without a bus by a lock file in the user's run-time folder. Main thread.
+/// the desktop bring it to the front; without a bus by a lock file in the user's run-time folder. Main
+/// thread.
 class RunningInstance : public QObject {
     Q_OBJECT
 
@@ -23,6 +24,8 @@ public:
     };
 
     explicit RunningInstance(QDBusConnection bus, QObject* parent = nullptr);
+    /// Gives the place up.
+    ~RunningInstance() override;
 
     /// Takes the place, or asks the process that has it to show itself. Waits for the other's answer, for a
     /// few seconds at most.
@@ -38,6 +41,7 @@ private:
     [[nodiscard]] Claim raiseOther(const LaunchToken& token);
 
     QDBusConnection m_bus;
+    bool m_hasName = false;
     std::optional<FileLock> m_lock;
 };
 

@@ -18,10 +18,10 @@ const QString kMenuPath = QStringLiteral("/MenuBar");
 
 TrayItem::TrayItem(QDBusConnection bus, const Look& look, QObject* parent)
     : QObject(parent), m_bus(std::move(bus)),
-      m_item(new TrayItemInterface({look.name, look.iconName, look.pixmaps, kMenuPath},
-                                   {[this](const QPoint& place) { Q_EMIT activated(place); },
-                                    [this] { Q_EMIT openRequested(); }},
-                                   &m_itemObject)),
+      m_item(new TrayItemInterface(
+          {look.name, look.iconName, look.pixmaps, kMenuPath},
+          {[this](const QPoint& place) { Q_EMIT activated(place); }, [this] { Q_EMIT openRequested(); }},
+          &m_itemObject)),
       m_menu(new TrayMenuInterface({look.openLabel, look.quitLabel},
                                    {[this] { Q_EMIT openRequested(); }, [this] { Q_EMIT quitRequested(); }},
                                    &m_menuObject)),

@@ -13,15 +13,15 @@ class TrayItemInterface;
 class TrayMenuInterface;
 class TrayRegistration;
 
-/// An item in the desktop's tray: an icon with a title, and a menu of one quiet line, "open" and "quit". It is
-/// there while the desktop has a tray, comes back when the tray restarts, and without one nothing happens.
+/// An item in the desktop's tray: an icon with a title, and a menu of one quiet line, "open" and "quit". It
+/// is there while the desktop has a tray, comes back when the tray restarts, and without one nothing happens.
 /// Nothing may depend on it. Main thread.
 class TrayItem : public QObject {
     Q_OBJECT
 
 public:
-    /// What does not change. `iconName` is an icon of the desktop's theme, `pixmaps` are shown where the theme
-    /// has none.
+    /// What does not change. `iconName` is an icon of the desktop's theme, `pixmaps` are shown where the
+    /// theme has none.
     struct Look {
         QString name; ///< of the program
         QString iconName;

@@ -25,7 +25,8 @@ QDBusMessage callToWatcher(const QString& interface, const QString& method)
 } // namespace
 
 TrayRegistration::TrayRegistration(QDBusConnection bus, QObject* parent)
-    : QObject(parent), m_bus(std::move(bus)), m_watcher(kService, m_bus, QDBusServiceWatcher::WatchForRegistration)
+    : QObject(parent), m_bus(std::move(bus)),
+      m_watcher(kService, m_bus, QDBusServiceWatcher::WatchForRegistration)
 {
 }
 
@@ -34,13 +35,15 @@ void TrayRegistration::start()
     if (!m_bus.isConnected())
         return;
     connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayRegistration::look);
-    m_bus.connect(kService, kPath, kService, QStringLiteral("StatusNotifierHostRegistered"), this, SLOT(look()));
+    m_bus.connect(kService, kPath, kService, QStringLiteral("StatusNotifierHostRegistered"), this,
+                  SLOT(look()));
     look();
 }
 
 void TrayRegistration::look()
 {
-    QDBusMessage call = callToWatcher(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    QDBusMessage call =
+        callToWatcher(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << kService << QStringLiteral("IsStatusNotifierHostRegistered");
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {

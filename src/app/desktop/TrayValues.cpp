@@ -6,6 +6,18 @@
 
 namespace orlen {
 
+namespace {
+
+/// The bus library finds the type of a slot's or signal's parameter by the name that is written there.
+template <typename List>
+void registerList(const char* name)
+{
+    qDBusRegisterMetaType<List>();
+    qRegisterMetaType<List>(name);
+}
+
+} // namespace
+
 TrayPixmap TrayPixmap::fromImage(const QImage& image)
 {
     const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
@@ -127,15 +139,15 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& ev
 void registerTrayValues()
 {
     qDBusRegisterMetaType<TrayPixmap>();
-    qDBusRegisterMetaType<TrayPixmaps>();
     qDBusRegisterMetaType<TrayToolTip>();
     qDBusRegisterMetaType<TrayMenuNode>();
     qDBusRegisterMetaType<TrayMenuProperties>();
-    qDBusRegisterMetaType<TrayMenuPropertiesList>();
     qDBusRegisterMetaType<TrayMenuNames>();
-    qDBusRegisterMetaType<TrayMenuNamesList>();
     qDBusRegisterMetaType<TrayMenuEvent>();
-    qDBusRegisterMetaType<TrayMenuEvents>();
+    registerList<TrayPixmaps>("orlen::TrayPixmaps");
+    registerList<TrayMenuPropertiesList>("orlen::TrayMenuPropertiesList");
+    registerList<TrayMenuNamesList>("orlen::TrayMenuNamesList");
+    registerList<TrayMenuEvents>("orlen::TrayMenuEvents");
 }
 
 } // namespace orlen

@@ -9,8 +9,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// The values that a tray item and its menu exchange with the desktop, with their form on the bus. Field names
-/// follow the two protocols.
+/// The values that a tray item and its menu exchange with the desktop, with their form on the bus. Field
+/// names follow the two protocols.
 namespace orlen {
 
 /// (iiay): ARGB, the most significant byte first.

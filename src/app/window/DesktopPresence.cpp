@@ -9,7 +9,8 @@ namespace orlen {
 
 DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine,
                                  QQuickWindow& window)
-    : m_notices(bus, WindowTexts::open()), m_endNotices(app, m_notices, [&window] { return window.isActive(); }),
+    : m_notices(bus, WindowTexts::open()),
+      m_endNotices(app, m_notices, [&window] { return window.isExposed() && window.isActive(); }),
       m_tray(bus, app, engine)
 {
     connect(&m_notices, &DesktopNotices::opened, &window,

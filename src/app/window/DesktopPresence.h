@@ -13,8 +13,8 @@ class QQuickWindow;
 namespace orlen {
 
 /// What the desktop shows of the program beside its window: the tray item and notices. All of it is optional:
-/// nothing happens where the desktop has no place for it, and closing the window ends the program always. Main
-/// thread.
+/// nothing happens where the desktop has no place for it, and closing the window ends the program always.
+/// Main thread.
 class DesktopPresence : public QObject {
     Q_OBJECT
 

@@ -9,13 +9,15 @@
 
 namespace orlen {
 
-/// Tells the user through the desktop that a scan or a clean-up has ended, when the window cannot. Main thread.
+/// Tells the user through the desktop that a scan or a clean-up has ended, when the window cannot. Main
+/// thread.
 class EndNotices : public QObject {
     Q_OBJECT
 
 public:
     /// `isSeen` answers whether the user is at the window anyway. The others outlive this.
-    EndNotices(AppModel& app, DesktopNotices& notices, std::function<bool()> isSeen, QObject* parent = nullptr);
+    EndNotices(AppModel& app, DesktopNotices& notices, std::function<bool()> isSeen,
+               QObject* parent = nullptr);
 
 private:
     void followPhase();

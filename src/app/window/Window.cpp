@@ -44,14 +44,13 @@ void quitOnInterrupt(Interrupts& interrupts, QObject* parent)
     });
 }
 
-int show(const QDBusConnection& bus, RunningInstance& instance)
+int show(const QDBusConnection& bus, RunningInstance& instance, Interrupts& interrupts)
 {
     AppModel model({});
     QQmlApplicationEngine engine;
     QQuickWindow* window = load(engine, model);
     if (window == nullptr)
         return EXIT_FAILURE;
-    Interrupts interrupts;
     quitOnInterrupt(interrupts, &engine);
     QObject::connect(&instance, &RunningInstance::activated, window,
                      [window](const LaunchToken& token) { DesktopPresence::present(*window, token); });
@@ -63,8 +62,7 @@ int show(const QDBusConnection& bus, RunningInstance& instance)
     // The window first: the rest is of no use before it.
     std::optional<DesktopPresence> presence;
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, &engine,
-        [&] { presence.emplace(bus, model, engine, *window); },
+        window, &QQuickWindow::frameSwapped, &engine, [&] { presence.emplace(bus, model, engine, *window); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     return QGuiApplication::exec();
 }
@@ -101,6 +99,7 @@ QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
 
 int run(int argc, char** argv)
 {
+    Interrupts interrupts;
     const LaunchToken token = LaunchToken::fromEnvironment();
     const auto application = GuiStart::makeApplication(argc, argv);
     prepare();
@@ -108,7 +107,7 @@ int run(int argc, char** argv)
     RunningInstance instance(bus);
     switch (instance.claim(token)) {
     case RunningInstance::Claim::ours:
-        return show(bus, instance);
+        return show(bus, instance, interrupts);
     case RunningInstance::Claim::raisedOther:
         return EXIT_SUCCESS;
     case RunningInstance::Claim::blocked:
