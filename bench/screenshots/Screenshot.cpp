@@ -2,6 +2,7 @@
 #include "Appearance.h"
 #include "PhotoGroupsModel.h"
 #include "SymbolProvider.h"
+#include "Tray.h"
 #include "Window.h"
 #include "app/AppModel.h"
 
@@ -57,6 +58,7 @@ void addOptions(QCommandLineParser& parser)
         {"at-once", "Do not wait for the storage breakdown"},
         {"photos", "Show the pictures in this folder's folders, named as kinds, as photo findings", "folder"},
         {"still", "Without motion, as for a desktop that asks for none"},
+        {"tray", "Picture the small window of the tray item"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -167,6 +169,19 @@ void showPhotos(QQuickWindow& window, AppModel& model, const QString& folder)
         groups->setFindings(findings);
 }
 
+/// The window that the picture is of.
+QQuickWindow* pictured(QQuickWindow* window, Tray& tray, const QCommandLineParser& options)
+{
+    if (!options.isSet("tray"))
+        return window;
+    tray.togglePanel({});
+    for (QWindow* other : QGuiApplication::topLevelWindows()) {
+        if (other != window && other->isVisible())
+            return qobject_cast<QQuickWindow*>(other);
+    }
+    return window;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -204,6 +219,8 @@ int main(int argc, char** argv)
         press(*window, name);
     if (options.isSet("type"))
         type(*window, options.value("type"));
+    Tray tray(QDBusConnection::sessionBus(), model, engine);
+    window = pictured(window, tray, options);
     wait(options.value("settle").toInt(), [] { return false; });
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)

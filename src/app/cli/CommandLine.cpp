@@ -83,6 +83,7 @@ int run(int argc, char** argv)
     CLI::App parser{std::string(Texts::kDescription), "orlen"};
     addCommonOptions(parser);
     parser.require_subcommand(0, 1);
+    parser.footer(std::string(Texts::kWithoutCommand));
     const std::vector<Registered> commands = registerCommands(parser);
     Session session;
     try {

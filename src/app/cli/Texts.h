@@ -13,8 +13,10 @@ namespace orlen::Texts {
 
 inline constexpr std::string_view kDescription =
     "Finds what fills the disk, rates it, and moves to the Trash what you choose. Nothing is ever deleted.";
+inline constexpr std::string_view kWithoutCommand =
+    "Without a command the window opens. `orlen COMMAND --help` tells about one command.";
 inline constexpr std::string_view kNoWindow =
-    "There is no window yet; `orlen scan` looks at your home folder here.";
+    "there is no display to open a window on; `orlen scan` looks at your home folder here.";
 inline constexpr std::string_view kNothingSafe = "Nothing is rated Safe right now";
 inline constexpr std::string_view kNothingFound = "Nothing was found.";
 inline constexpr std::string_view kNoFullAccess =

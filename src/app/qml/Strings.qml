@@ -216,4 +216,9 @@ QtObject {
             { text: "Zoom with the wheel", keys: [["Ctrl", "Wheel"]] }
         ] }
     ]
+
+    // Tray item
+    readonly property string trayNote: "Orlen only runs while it is open."
+    readonly property string openOrlen: "Open Orlen"
+    readonly property string quit: "Quit"
 }

@@ -1,18 +1,27 @@
 #include "Window.h"
 
 #include "AppModelElement.h"
+#include "DesktopPresence.h"
+#include "GuiStart.h"
 #include "Reveal.h"
 #include "SymbolProvider.h"
 #include "Thumbnails.h"
+#include "WindowTexts.h"
+#include "app/desktop/RunningInstance.h"
+#include "platform/Interrupts.h"
 #include "platform/OwnProgram.h"
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <QSocketNotifier>
 
+#include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 
 namespace orlen::Window {
@@ -25,6 +34,39 @@ bool isSet(const char* name)
 {
     const char* value = std::getenv(name);
     return value != nullptr && *value != '\0';
+}
+
+/// Lets the desktop end a session, and Ctrl-C the program, as closing the window does.
+void quitOnInterrupt(Interrupts& interrupts, QObject* parent)
+{
+    auto* notifier = new QSocketNotifier(interrupts.descriptor(), QSocketNotifier::Read, parent);
+    QObject::connect(notifier, &QSocketNotifier::activated, parent, [&interrupts] {
+        (void)interrupts.take();
+        QCoreApplication::quit();
+    });
+}
+
+int show(const QDBusConnection& bus, RunningInstance& instance, Interrupts& interrupts)
+{
+    AppModel model({});
+    QQmlApplicationEngine engine;
+    QQuickWindow* window = load(engine, model);
+    if (window == nullptr)
+        return EXIT_FAILURE;
+    quitOnInterrupt(interrupts, &engine);
+    QObject::connect(&instance, &RunningInstance::activated, window,
+                     [window](const LaunchToken& token) { DesktopPresence::present(*window, token); });
+    // Long before everything is destroyed, so that whatever still runs ends meanwhile.
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &model, [&model] {
+        model.cancelScan();
+        model.cancelCleaning();
+    });
+    // The window first: the rest is of no use before it.
+    std::optional<DesktopPresence> presence;
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, &engine, [&] { presence.emplace(bus, model, engine, *window); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    return QGuiApplication::exec();
 }
 
 } // namespace
@@ -40,6 +82,7 @@ void prepare()
     QGuiApplication::setOrganizationName(QStringLiteral("Orlen"));
     QGuiApplication::setApplicationVersion(QStringLiteral(ORLEN_VERSION));
     QGuiApplication::setDesktopFileName(QString::fromUtf8(OwnProgram::identifier().data()));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/Orlen/icon.svg")));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(kTextPixels);
@@ -65,13 +108,22 @@ QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
 
 int run(int argc, char** argv)
 {
-    const QGuiApplication application(argc, argv);
+    Interrupts interrupts;
+    const LaunchToken token = LaunchToken::fromEnvironment();
+    const auto application = GuiStart::makeApplication(argc, argv);
     prepare();
-    AppModel model({});
-    QQmlApplicationEngine engine;
-    if (load(engine, model) == nullptr)
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    RunningInstance instance(bus);
+    switch (instance.claim(token)) {
+    case RunningInstance::Claim::ours:
+        return show(bus, instance, interrupts);
+    case RunningInstance::Claim::raisedOther:
+        return EXIT_SUCCESS;
+    case RunningInstance::Claim::blocked:
+        std::fprintf(stderr, "orlen: %s\n", WindowTexts::alreadyOpen());
         return EXIT_FAILURE;
-    return QGuiApplication::exec();
+    }
+    return EXIT_FAILURE;
 }
 
 } // namespace orlen::Window

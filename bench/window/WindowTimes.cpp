@@ -1,0 +1,185 @@
+#include "DesktopPresence.h"
+#include "Window.h"
+#include "app/AppModel.h"
+#include "app/desktop/RunningInstance.h"
+
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <utility>
+
+/// Times of the window with the home folder that HOME names, in the software renderer: from the start of the
+/// process to the first frame, memory when idle, and how long the main thread is ever busy at a stretch while
+/// a scan runs.
+namespace {
+
+using namespace orlen;
+
+constexpr const char* kStartedVariable = "ORLEN_BENCH_STARTED"; // milliseconds of the clock that never jumps
+constexpr int kIdleMilliseconds = 3'000;
+constexpr int kTickMilliseconds = 2;
+constexpr int kLookMilliseconds = 20;
+
+double now()
+{
+    QElapsedTimer timer;
+    timer.start();
+    return static_cast<double>(timer.msecsSinceReference());
+}
+
+double residentMegabytes()
+{
+    QFile file("/proc/self/statm");
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr double kPage = 4096;
+    return file.readAll().split(' ').value(1).toDouble() * kPage / 1e6;
+}
+
+/// Sleeps between events: a loop that spins would take the processor from the scan.
+template <typename Condition>
+void wait(int longest, Condition condition)
+{
+    QTimer wake;
+    wake.start(kLookMilliseconds);
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < longest && !condition())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+/// Processor time, of this thread if nothing else is said: what others on a busy machine take does not count.
+double busyMilliseconds(clockid_t clock = CLOCK_THREAD_CPUTIME_ID)
+{
+    timespec time{};
+    ::clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+/// Longest time between two turns of the event loop, how much of such a time the thread worked, and longest
+/// time that drawing one frame took.
+struct Stalls {
+    explicit Stalls(QQuickWindow& window)
+    {
+        QObject::connect(&m_tick, &QTimer::timeout, [this] {
+            longestGap = std::max(longestGap, lap(m_sinceTick));
+            const double before = std::exchange(m_busy, busyMilliseconds());
+            longestWork = std::max(longestWork, m_busy - before);
+        });
+        QObject::connect(&window, &QQuickWindow::afterAnimating, &m_tick, [this] { m_sinceFrame.start(); });
+        QObject::connect(&window, &QQuickWindow::frameSwapped, &m_tick, [this] {
+            longestFrame = std::max(longestFrame, lap(m_sinceFrame));
+            ++frames;
+        });
+        m_sinceTick.start();
+        m_tick.start(kTickMilliseconds);
+    }
+
+    static double lap(QElapsedTimer& timer)
+    {
+        const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        timer.restart();
+        return milliseconds;
+    }
+
+    double longestGap = 0;
+    double longestWork = 0;
+    double longestFrame = 0;
+    int frames = 0;
+
+private:
+    QTimer m_tick;
+    QElapsedTimer m_sinceTick;
+    QElapsedTimer m_sinceFrame;
+    double m_busy = busyMilliseconds();
+};
+
+void measureScan(AppModel& model, QQuickWindow& window)
+{
+    wait(60'000, [&] { return model.isBreakdownReady(); });
+    Stalls stalls(window);
+    QElapsedTimer timer;
+    timer.start();
+    model.startScan();
+    wait(120'000, [&] { return model.phase() != Phase::scanning; });
+    std::printf(
+        "scan %lld ms, %d frames, longest frame %.1f ms; event loop: longest gap %.1f ms, longest work "
+        "%.1f ms\n",
+        static_cast<long long>(timer.elapsed()), stalls.frames, stalls.longestFrame, stalls.longestGap,
+        stalls.longestWork);
+}
+
+/// One start of the window, in this process.
+int once(int argc, char** argv)
+{
+    const double started = qEnvironmentVariable(kStartedVariable).toDouble();
+    QElapsedTimer sinceClosing;
+    {
+        const QGuiApplication application(argc, argv);
+        Window::prepare();
+        QSettings().setValue("onboarded", true);
+        const QDBusConnection bus = QDBusConnection::sessionBus();
+        RunningInstance instance(bus);
+        (void)instance.claim({});
+        AppModel model({});
+        QQmlApplicationEngine engine;
+        QQuickWindow* window = Window::load(engine, model);
+        if (window == nullptr)
+            return 1;
+        bool isDrawn = false;
+        QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] { isDrawn = true; });
+        wait(10'000, [&] { return isDrawn; });
+        std::printf("first frame %.0f ms, of which processor time %.0f ms\n", now() - started,
+                    busyMilliseconds(CLOCK_PROCESS_CPUTIME_ID));
+        const DesktopPresence presence(bus, model, engine, *window);
+        const QStringList arguments = QCoreApplication::arguments();
+        if (arguments.contains("--scan"))
+            measureScan(model, *window);
+        wait(kIdleMilliseconds, [] { return false; });
+        std::printf("resident %.1f MB\n", residentMegabytes());
+        if (arguments.contains("--scan")) {
+            model.startScan();
+            wait(300, [] { return false; });
+            sinceClosing.start();
+        }
+    }
+    if (sinceClosing.isValid())
+        std::printf("ended in the middle of a scan within %lld ms\n",
+                    static_cast<long long>(sinceClosing.elapsed()));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    if (qEnvironmentVariableIsSet(kStartedVariable))
+        return once(argc, argv);
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser options;
+    options.addOptions({{"runs", "How often to start", "number", "10"}, {"scan", "Measure a scan as well"}});
+    options.addHelpOption();
+    options.process(application);
+    for (int run = 0; run < options.value("runs").toInt(); ++run) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(kStartedVariable, QString::number(now(), 'f', 0));
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
+        process.waitForFinished(-1);
+    }
+    return 0;
+}

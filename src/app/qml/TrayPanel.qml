@@ -1,0 +1,166 @@
+import QtQuick
+import QtQuick.Window
+import Orlen.App
+
+/// The small window of the tray item: free space at a glance, and the way to the main window.
+Window {
+    id: root
+
+    readonly property int margin: 20
+
+    signal openRequested
+    signal quitRequested
+
+    width: Math.round(320 * Math.max(1, Theme.textScale * 0.9))
+    height: content.implicitHeight + 2 * root.margin
+    flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+    title: Strings.appName
+    color: "transparent"
+
+    // As a menu does it: whatever else is clicked, it goes.
+    onActiveChanged: {
+        if (!root.active)
+            root.hide();
+    }
+
+    StorageModel {
+        id: storage
+
+        app: AppModel
+    }
+
+    TrayModel {
+        id: tray
+
+        app: AppModel
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.cardRadius
+        color: Theme.card
+        border.width: 1
+        border.color: Theme.stroke
+        focus: true
+        Keys.onEscapePressed: root.hide()
+
+        Column {
+            id: content
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: root.margin
+            spacing: 16
+
+            Text {
+                width: parent.width
+                text: Strings.appName
+                textFormat: Text.PlainText
+                color: Theme.text
+                font.pixelSize: Theme.headlineSize
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            Column {
+                width: parent.width
+                spacing: 8
+
+                Text {
+                    width: parent.width
+                    visible: !storage.ready
+                    text: Strings.lookingAtStorage
+                    textFormat: Text.PlainText
+                    elide: Text.ElideRight
+                    color: Theme.secondary
+                    font.pixelSize: Theme.bodySize
+                }
+
+                Item {
+                    width: parent.width
+                    height: freeSpace.implicitHeight
+                    visible: storage.ready
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: freeSpace.text + " " + ofTotal.text
+
+                    Text {
+                        id: freeSpace
+
+                        text: storage.freeText
+                        textFormat: Text.PlainText
+                        color: Theme.text
+                        font.pixelSize: Theme.titleSize
+                        font.weight: Font.Bold
+                        Accessible.ignored: true
+                    }
+
+                    Text {
+                        id: ofTotal
+
+                        anchors.left: freeSpace.right
+                        anchors.leftMargin: 6
+                        anchors.right: parent.right
+                        anchors.baseline: freeSpace.baseline
+                        text: Strings.freeOf.arg(storage.totalText)
+                        textFormat: Text.PlainText
+                        elide: Text.ElideRight
+                        color: Theme.secondary
+                        font.pixelSize: Theme.smallSize
+                        Accessible.ignored: true
+                    }
+                }
+
+                ProgressBar {
+                    width: parent.width
+                    implicitHeight: 6
+                    value: storage.usedFraction
+                    Accessible.name: Strings.usedSpace
+                }
+            }
+
+            Note {
+                width: parent.width
+                visible: tray.lastScanText !== ""
+                text: tray.lastScanText
+                symbol: "sparkles"
+                ink: Theme.text
+            }
+
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: Theme.stroke
+            }
+
+            Text {
+                width: parent.width
+                text: Strings.trayNote
+                textFormat: Text.PlainText
+                wrapMode: Text.WordWrap
+                color: Theme.secondary
+                font.pixelSize: Theme.captionSize
+            }
+
+            Row {
+                anchors.right: parent.right
+                spacing: 8
+
+                AppButton {
+                    objectName: "trayQuit"
+                    text: Strings.quit
+                    onClicked: root.quitRequested()
+                }
+
+                AppButton {
+                    objectName: "trayOpen"
+                    text: Strings.openOrlen
+                    primary: true
+                    focus: true
+                    onClicked: root.openRequested()
+                }
+            }
+        }
+    }
+}

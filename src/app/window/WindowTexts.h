@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// The sentences that the desktop shows for the window: in the tray, in notices, in a terminal. Pure.
+namespace orlen::WindowTexts {
+
+[[nodiscard]] QString name();
+[[nodiscard]] QString free(const QString& size);
+[[nodiscard]] QString lastScan(const QString& safeSize);
+[[nodiscard]] QString open();
+[[nodiscard]] QString quit();
+
+[[nodiscard]] QString scanFinished();
+/// What the scan found safe; nothing is also an answer.
+[[nodiscard]] QString safelyFree(std::int64_t safeBytes);
+[[nodiscard]] QString moved(int count);
+/// Empty for 0.
+[[nodiscard]] QString couldNotBeMoved(int count);
+
+[[nodiscard]] const char* alreadyOpen();
+[[nodiscard]] const char* noDisplay();
+
+} // namespace orlen::WindowTexts

@@ -1,0 +1,22 @@
+#include "platform/FileLock.h"
+
+#include "platform/Retrying.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace orlen {
+
+Result<FileLock> FileLock::take(const std::string& path)
+{
+    constexpr int kFlags = O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC;
+    constexpr mode_t kMode = 0600;
+    auto opened = retriedFd([&] { return ::open(path.c_str(), kFlags, kMode); });
+    if (!opened.ok())
+        return Errno{opened.error()};
+    if (retried([&] { return ::flock(opened.value().get(), LOCK_EX | LOCK_NB); }) != 0)
+        return Errno{errno};
+    return FileLock(std::move(opened).value());
+}
+
+} // namespace orlen
