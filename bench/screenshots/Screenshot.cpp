@@ -7,6 +7,8 @@
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QSettings>
@@ -19,6 +21,7 @@ namespace {
 using namespace orlen;
 
 constexpr int kSettleMilliseconds = 1500;
+constexpr int kKeyMilliseconds = 250;
 constexpr int kLongestScan = 60'000;
 
 template <typename Condition>
@@ -42,6 +45,7 @@ void addOptions(QCommandLineParser& parser)
         {"finding", "Open the sheet of a finding after the scan", "id"},
         {"review", "Open the review sheet after the scan"},
         {"onboarding", "Show the onboarding"},
+        {"keys", "Press these keys before the picture, one after the other", "names"},
         {"settle", "Milliseconds to wait before the picture", "number", QString::number(kSettleMilliseconds)},
     });
     parser.addHelpOption();
@@ -58,6 +62,17 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
         model.setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
         model.setSheet(PlanSheet{model.scanPlan()});
+}
+
+void press(QQuickWindow& window, const QString& name)
+{
+    const QKeyCombination key = QKeySequence::fromString(name)[0];
+    const QString text = name.size() == 1 ? name : QString();
+    for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    wait(kKeyMilliseconds, [] { return false; });
 }
 
 } // namespace
@@ -86,6 +101,8 @@ int main(int argc, char** argv)
     model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     bringAbout(model, options);
     wait(options.value("settle").toInt(), [] { return false; });
+    for (const QString& name : options.value("keys").split(',', Qt::SkipEmptyParts))
+        press(*window, name);
     const bool isSaved = window->grabWindow().save(options.value("out"));
     if (!isSaved)
         std::fprintf(stderr, "cannot write %s\n", qPrintable(options.value("out")));

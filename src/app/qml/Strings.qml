@@ -83,13 +83,27 @@ QtObject {
     readonly property string diskMapLead: "Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up."
 
     // Applications
+    readonly property string apps: "Applications"
     readonly property string appsLead: "Uninstall an app with its leftovers."
     readonly property string reviewAndUninstall: "Review & Uninstall…"
     readonly property string noLeftovers: "No leftovers found."
     readonly property string leftoversFound: "Leftovers found by bundle identifier (%1)"
     readonly property string appleApp: "This is an Apple app. Make sure you really want to remove it."
 
+    readonly property string searchApps: "Search applications"
+    readonly property string sortBy: "Sort by %1"
+    readonly property string byName: "Name"
+    readonly property string bySize: "Size"
+    readonly property string noApps: "No applications found."
+    readonly property string noAppMatches: "No application matches “%1”."
+    readonly property string lookingForLeftovers: "Looking for leftovers…"
+    readonly property string otherCopy: "Another copy is installed"
+    readonly property string otherCopyNote: "It still uses the files of this one, so they stay."
+    readonly property string copyCommand: "Copy command"
+    readonly property string copied: "Copied"
+
     // Startup Items
+    readonly property string startup: "Startup Items"
     readonly property string startupLead: "What starts when you log in. Disabling takes effect now and stays off at the next login."
     readonly property string noLaunchAgents: "No launch agents found."
     readonly property string loginItemsLead: "macOS doesn't let apps list other apps' login items directly. Press the button to ask System Events (macOS will ask your permission), or manage them in System Settings."
@@ -99,6 +113,13 @@ QtObject {
     readonly property string openAtLogin: "Open Orlen at login"
     readonly property string openAtLoginNote: "Off by default. If turned on, Orlen opens a normal visible window at login; it still does nothing in the background."
     readonly property string openAtLoginFailed: "macOS couldn't change this (it works for the packaged app): %1"
+
+    readonly property string reload: "Reload"
+    readonly property string startupItems: "Startup items"
+    readonly property string partOfDesktop: "Part of your desktop"
+    readonly property string loginItems: "Login items"
+    readonly property string noLoginItems: "No login items."
+    readonly property string settingsFailed: "The login items settings couldn't be opened."
 
     // History
     readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."

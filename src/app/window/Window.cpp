@@ -1,5 +1,6 @@
 #include "Window.h"
 
+#include "AppIconProvider.h"
 #include "AppModelElement.h"
 #include "SymbolProvider.h"
 #include "platform/OwnProgram.h"
@@ -48,6 +49,7 @@ QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
 {
     AppModelElement::setModel(&model);
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
+    engine.addImageProvider(QLatin1String(AppIconProvider::kName), new AppIconProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);
     engine.load(QUrl(QStringLiteral("qrc:/Orlen/App/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr

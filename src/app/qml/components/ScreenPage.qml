@@ -37,4 +37,8 @@ Item {
             }
         }
     }
+
+    FocusFollower {
+        view: flickable
+    }
 }

@@ -16,6 +16,7 @@ T.TextField {
     selectionColor: Theme.accentFill
     selectedTextColor: Theme.overAccent
     selectByMouse: true
+    font.family: Qt.application.font.family
     font.pixelSize: Theme.bodySize
     Accessible.name: root.placeholderText
 
