@@ -6,7 +6,7 @@ Column {
     id: root
 
     property int rows: 6
-    property int rowHeight: Math.round(60 * Theme.textScale)
+    property int rowHeight: 60
 
     Accessible.ignored: true
 

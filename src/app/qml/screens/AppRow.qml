@@ -12,7 +12,7 @@ Item {
     property bool focusShown: false
     signal activated
 
-    implicitHeight: Math.round(60 * Theme.textScale)
+    implicitHeight: Math.max(60, texts.height + 22)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.name
     Accessible.description: root.size === "" ? root.origin : root.origin + ", " + root.size
@@ -40,6 +40,8 @@ Item {
     }
 
     Column {
+        id: texts
+
         anchors.left: picture.right
         anchors.leftMargin: 14
         anchors.right: bytes.left

@@ -11,7 +11,7 @@ Sheet {
     objectName: "appSheet"
     title: root.detail.name
     wantedHeight: root.detail.removable
-                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 60))
+                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 72))
                   : header.height + advice.height + 76
     onClosed: root.detail.close()
     onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
@@ -163,8 +163,9 @@ Sheet {
         }
 
         Column {
-            anchors.centerIn: list
-            width: list.width - 96
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.verticalCenter: list.verticalCenter
+            width: parent.width - 96
             spacing: 8
             visible: root.detail.removable && root.detail.count === 0
 
