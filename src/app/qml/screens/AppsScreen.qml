@@ -162,6 +162,11 @@ Item {
             Accessible.name: Strings.apps
             T.ScrollBar.vertical: ScrollHandle {}
 
+            // The sheet gives the focus back, and a click is no reason to show it then.
+            onActiveFocusChanged: {
+                if (!list.activeFocus && !chosen.open)
+                    list.pointed = false;
+            }
             Keys.onPressed: event => {
                 list.pointed = false;
                 event.accepted = false;
@@ -178,8 +183,8 @@ Item {
                 width: ListView.view.width - 7
                 focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
                 onActivated: {
-                    list.pointed = true;
                     list.forceActiveFocus(Qt.MouseFocusReason);
+                    list.pointed = true;
                     list.openRow(row.index);
                 }
             }

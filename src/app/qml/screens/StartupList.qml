@@ -44,6 +44,10 @@ Card {
         Accessible.role: Accessible.List
         Accessible.name: Strings.startupItems
 
+        onActiveFocusChanged: {
+            if (!list.activeFocus)
+                list.pointed = false;
+        }
         Keys.onPressed: event => {
             list.pointed = false;
             event.accepted = false;
@@ -61,6 +65,7 @@ Card {
             lineShown: ListView.previousSection === ListView.section
             focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
             onToggled: {
+                list.forceActiveFocus(Qt.MouseFocusReason);
                 list.pointed = true;
                 list.currentIndex = row.index;
                 root.items.toggle(row.index);

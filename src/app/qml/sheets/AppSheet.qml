@@ -139,6 +139,10 @@ Sheet {
             Accessible.name: heading.text
             T.ScrollBar.vertical: ScrollHandle {}
 
+            onActiveFocusChanged: {
+                if (!list.activeFocus)
+                    list.pointed = false;
+            }
             Keys.onPressed: event => {
                 list.pointed = false;
                 event.accepted = false;

@@ -26,12 +26,21 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: hover.hovered ? Theme.hover : "transparent"
+        color: pointer.containsMouse || mark.hovered ? Theme.hover : "transparent"
 
         FocusRing {
             shown: root.focusShown
             gap: 0
         }
+    }
+
+    // Pointer handlers of a row get no events in a popup of Qt 6.4; a mouse area does.
+    MouseArea {
+        id: pointer
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: root.toggled()
     }
 
     CheckMark {
@@ -68,7 +77,7 @@ Item {
             text: root.folder
             textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: hover.hovered ? Theme.secondary : Theme.tertiary
+            color: pointer.containsMouse || mark.hovered ? Theme.secondary : Theme.tertiary
             font.pixelSize: Theme.captionSize
         }
     }
@@ -97,13 +106,5 @@ Item {
         color: Theme.text
         font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
-    }
-
-    HoverHandler {
-        id: hover
-    }
-
-    TapHandler {
-        onTapped: root.toggled()
     }
 }
