@@ -35,7 +35,7 @@ public:
     void setOrder(Order order);
 
     /// The row of the list that a row shown here is.
-    Q_INVOKABLE int listRow(int row) const;
+    Q_INVOKABLE [[nodiscard]] int listRow(int row) const;
 
 Q_SIGNALS:
     void listChanged();

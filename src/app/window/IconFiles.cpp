@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 
 namespace orlen::IconFiles {
 
@@ -43,6 +44,14 @@ std::string withoutSuffix(std::string_view icon)
     return std::string(isFileName ? PathText::stem(icon) : icon);
 }
 
+std::string joined(std::initializer_list<std::string_view> parts)
+{
+    std::string text;
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
+
 } // namespace
 
 std::vector<std::string> candidates(std::string_view icon, int pixels)
@@ -54,16 +63,15 @@ std::vector<std::string> candidates(std::string_view icon, int pixels)
     const std::string name = withoutSuffix(icon);
     std::vector<std::string> paths;
     for (const std::string& folder : dataFolders()) {
-        const std::string theme = folder + "/icons/hicolor/";
-        paths.push_back(theme + "scalable/apps/" + name + ".svg");
+        paths.push_back(joined({folder, "/icons/hicolor/scalable/apps/", name, ".svg"}));
         for (const int size : sizesFor(pixels)) {
             const std::string text = std::to_string(size);
-            paths.push_back(theme + text + "x" + text + "/apps/" + name + ".png");
+            paths.push_back(joined({folder, "/icons/hicolor/", text, "x", text, "/apps/", name, ".png"}));
         }
-        for (const std::string_view suffix : kSuffixes)
-            paths.push_back(folder + "/icons/" + name + "." + std::string(suffix));
-        for (const std::string_view suffix : kSuffixes)
-            paths.push_back(folder + "/pixmaps/" + name + "." + std::string(suffix));
+        for (const std::string_view place : {"/icons/", "/pixmaps/"}) {
+            for (const std::string_view suffix : kSuffixes)
+                paths.push_back(joined({folder, place, name, ".", suffix}));
+        }
     }
     return paths;
 }
