@@ -6,6 +6,8 @@ Item {
     id: root
 
     required property Navigation navigation
+    /// F5 belongs to the screens whose lists it loads anew.
+    readonly property bool hasList: root.navigation.screen === Navigation.Apps || root.navigation.screen === Navigation.Startup
     signal helpRequested
 
     Repeater {
@@ -26,7 +28,7 @@ Item {
 
     Shortcut {
         enabled: root.enabled
-        sequences: ["Ctrl+R", "F5"]
+        sequences: root.hasList ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
         onActivated: {
             root.navigation.screen = Navigation.Home;
             AppModel.startScan();

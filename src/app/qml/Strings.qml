@@ -60,7 +60,6 @@ QtObject {
     readonly property string stepRunning: "running"
     readonly property string stepDone: "done after %1"
     readonly property string selected: "%1 selected"
-    readonly property string nothingSelected: "Nothing is selected"
     readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
     readonly property string findings: "Findings"
     readonly property string informational: "For information"
@@ -142,7 +141,7 @@ QtObject {
 
     readonly property string diskMapTitle: "Disk Map"
     readonly property string measuring: "Measuring…"
-    readonly property string emptyFolder: "Nothing in this folder takes up space, or Orlen may not read it."
+    readonly property string emptyMap: "Nothing in this folder takes up space, or Orlen may not read it."
     readonly property string goUp: "Go back up"
     readonly property string foldersBetween: "Folders between"
     readonly property string measureAgain: "Measure again"
@@ -151,13 +150,23 @@ QtObject {
     readonly property string contentsOf: "Contents of %1"
 
     // Applications
+    readonly property string apps: "Applications"
     readonly property string appsLead: "Uninstall an app with its leftovers."
     readonly property string reviewAndUninstall: "Review & Uninstall…"
     readonly property string noLeftovers: "No leftovers found."
     readonly property string leftoversFound: "Leftovers found by bundle identifier (%1)"
     readonly property string appleApp: "This is an Apple app. Make sure you really want to remove it."
 
+    readonly property string searchApps: "Search applications"
+    readonly property string noApps: "No applications found."
+    readonly property string noAppMatches: "No application matches “%1”."
+    readonly property string lookingForLeftovers: "Looking for leftovers…"
+    readonly property string otherCopy: "Another copy is installed"
+    readonly property string otherCopyNote: "It still uses the files of this one, so they stay."
+    readonly property string copyCommand: "Copy command"
+
     // Startup Items
+    readonly property string startup: "Startup Items"
     readonly property string startupLead: "What starts when you log in. Disabling takes effect now and stays off at the next login."
     readonly property string noLaunchAgents: "No launch agents found."
     readonly property string loginItemsLead: "macOS doesn't let apps list other apps' login items directly. Press the button to ask System Events (macOS will ask your permission), or manage them in System Settings."
@@ -167,6 +176,13 @@ QtObject {
     readonly property string openAtLogin: "Open Orlen at login"
     readonly property string openAtLoginNote: "Off by default. If turned on, Orlen opens a normal visible window at login; it still does nothing in the background."
     readonly property string openAtLoginFailed: "macOS couldn't change this (it works for the packaged app): %1"
+
+    readonly property string reload: "Reload"
+    readonly property string startupItems: "Startup items"
+    readonly property string partOfDesktop: "Part of your desktop"
+    readonly property string loginItems: "Login items"
+    readonly property string noLoginItems: "No login items."
+    readonly property string settingsFailed: "The login items settings couldn't be opened."
 
     // History
     readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."

@@ -1,8 +1,8 @@
 #include "SymbolProvider.h"
 
+#include "BadgeDrawing.h"
 #include "SymbolDrawing.h"
 
-#include <QLinearGradient>
 #include <QMutexLocker>
 #include <QPainter>
 
@@ -11,8 +11,6 @@ namespace orlen {
 namespace {
 
 constexpr int kUsualSize = 16;
-constexpr double kBadgeRadius = 0.28;
-constexpr double kBadgeSymbol = 0.61;
 
 QString nameIn(const QString& id)
 {
@@ -51,20 +49,8 @@ void SymbolProvider::draw(QImage& image, const QString& id) const
 
 void BadgeProvider::draw(QImage& image, const QString& id) const
 {
-    const QColor colour = colourIn(id);
-    const QRectF square(image.rect());
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient gradient(square.topLeft(), square.bottomLeft());
-    gradient.setColorAt(0, colour.lighter(114));
-    gradient.setColorAt(1, colour.darker(106));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
-    const double radius = square.width() * kBadgeRadius;
-    painter.drawRoundedRect(square, radius, radius);
-    QRectF symbol(0, 0, square.width() * kBadgeSymbol, square.height() * kBadgeSymbol);
-    symbol.moveCenter(square.center());
-    SymbolDrawing::draw(painter, nameIn(id), Qt::white, symbol);
+    BadgeDrawing::draw(painter, nameIn(id), colourIn(id), QRectF(image.rect()));
 }
 
 } // namespace orlen

@@ -1,5 +1,6 @@
 #include "Window.h"
 
+#include "AppIconProvider.h"
 #include "AppModelElement.h"
 #include "DesktopPresence.h"
 #include "GuiStart.h"
@@ -93,6 +94,7 @@ void prepareEngine(QQmlEngine& engine, AppModel& model)
 {
     AppModelElement::setModel(&model);
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
+    engine.addImageProvider(QLatin1String(AppIconProvider::kName), new AppIconProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);
     engine.addImageProvider(QLatin1String(Thumbnails::kName), new Thumbnails);
     new Reveal(&engine);

@@ -58,4 +58,8 @@ Item {
             }
         }
     }
+
+    FocusFollower {
+        view: flickable
+    }
 }

@@ -7,7 +7,7 @@ T.Button {
     id: root
 
     required property bool active
-    required property bool reversed
+    property bool reversed: false
 
     implicitWidth: label.implicitWidth + 16 + 14
     implicitHeight: Theme.controlHeight

@@ -1,10 +1,210 @@
 import QtQuick
+import QtQuick.Templates as T
 import Orlen.App
 
-/// Applications.
-ScreenPage {
+/// Applications: a list to search in; choosing one opens its detail.
+Item {
     id: root
 
-    title: "AppsScreen"
-    subtitle: Strings.appsLead
+    AppListModel {
+        id: apps
+
+        app: AppModel
+    }
+
+    AppOrderModel {
+        id: ordered
+
+        list: apps
+        query: search.text
+    }
+
+    AppDetailModel {
+        id: chosen
+
+        app: AppModel
+        list: apps
+    }
+
+    AppSheet {
+        detail: chosen
+    }
+
+    Shortcut {
+        enabled: root.enabled
+        sequences: [StandardKey.Find]
+        onActivated: search.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    Shortcut {
+        enabled: root.enabled
+        sequence: "F5"
+        onActivated: apps.load()
+    }
+
+    PageHeader {
+        id: header
+
+        anchors.left: parent.left
+        anchors.right: search.left
+        anchors.top: parent.top
+        anchors.margins: Theme.pageMargin
+        anchors.rightMargin: 24
+        title: Strings.apps
+        subtitle: Strings.appsLead
+    }
+
+    SearchField {
+        id: search
+
+        objectName: "appSearch"
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin
+        anchors.verticalCenter: header.verticalCenter
+        width: Math.min(280, root.width * 0.42)
+        placeholderText: Strings.searchApps
+        Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    Card {
+        id: card
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: header.bottom
+        anchors.margins: Theme.pageMargin
+        anchors.topMargin: 20
+        height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
+
+        readonly property real room: root.height - card.y - Theme.pageMargin
+
+        Text {
+            id: summary
+
+            anchors.left: parent.left
+            anchors.leftMargin: 20
+            anchors.right: orders.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: orders.verticalCenter
+            visible: apps.count > 0
+            text: apps.summary
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            color: Theme.secondary
+            font.pixelSize: Theme.captionSize
+            font.weight: Font.Medium
+        }
+
+        Row {
+            id: orders
+
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            y: 10
+            spacing: 4
+            enabled: apps.count > 0
+
+            SortButton {
+                objectName: "appsByName"
+                text: Strings.byName
+                active: ordered.order === AppOrderModel.ByName
+                onClicked: ordered.order = AppOrderModel.ByName
+            }
+
+            SortButton {
+                objectName: "appsBySize"
+                text: Strings.bySize
+                active: ordered.order === AppOrderModel.BySize
+                onClicked: ordered.order = AppOrderModel.BySize
+            }
+        }
+
+        Rectangle {
+            id: line
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: orders.bottom
+            anchors.margins: 1
+            anchors.topMargin: 10
+            height: 1
+            color: Theme.stroke
+        }
+
+        ListView {
+            id: list
+
+            property bool pointed: false
+
+            function openRow(row: int) {
+                list.currentIndex = row;
+                chosen.show(ordered.listRow(row));
+            }
+
+            objectName: "appList"
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: line.bottom
+            anchors.bottom: parent.bottom
+            anchors.leftMargin: 8
+            anchors.rightMargin: 1
+            anchors.bottomMargin: 1
+            topMargin: 8
+            bottomMargin: 8
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            reuseItems: true
+            activeFocusOnTab: true
+            keyNavigationEnabled: true
+            highlightMoveDuration: 0
+            model: ordered
+            Accessible.role: Accessible.List
+            Accessible.name: Strings.apps
+            T.ScrollBar.vertical: ScrollHandle {}
+
+            // The sheet gives the focus back, and a click is no reason to show it then.
+            onActiveFocusChanged: {
+                if (!list.activeFocus && !chosen.open)
+                    list.pointed = false;
+            }
+            Keys.onPressed: event => {
+                list.pointed = false;
+                event.accepted = false;
+            }
+            Keys.onReturnPressed: list.openRow(list.currentIndex)
+            Keys.onEnterPressed: list.openRow(list.currentIndex)
+            Keys.onSpacePressed: list.openRow(list.currentIndex)
+
+            delegate: AppRow {
+                id: row
+
+                required property int index
+
+                width: ListView.view.width - 7
+                focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
+                onActivated: {
+                    list.forceActiveFocus(Qt.MouseFocusReason);
+                    list.pointed = true;
+                    list.openRow(row.index);
+                }
+            }
+        }
+
+        PlaceholderRows {
+            anchors.left: list.left
+            anchors.right: list.right
+            anchors.top: list.top
+            anchors.topMargin: 8
+            visible: apps.loading && apps.count === 0
+        }
+
+        EmptyState {
+            anchors.centerIn: list
+            width: Math.min(list.width - 48, 460)
+            visible: !apps.loading && list.count === 0
+            symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
+            tone: "#5b5fe0"
+            text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
+        }
+    }
 }

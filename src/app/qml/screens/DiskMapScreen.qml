@@ -96,7 +96,7 @@ FocusScope {
                 width: parent.width - 48
                 symbol: "folder.fill"
                 tone: "#1fa3a8"
-                text: Strings.emptyFolder
+                text: Strings.emptyMap
                 action: theMap.atStart ? "" : Strings.goUp
                 onTriggered: theMap.up()
             }

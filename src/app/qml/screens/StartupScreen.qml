@@ -1,10 +1,83 @@
 import QtQuick
 import Orlen.App
 
-/// Startup Items.
-ScreenPage {
+/// Startup Items: this program's own switch, everything else that starts at login, and the login items.
+Item {
     id: root
 
-    title: "StartupScreen"
-    subtitle: Strings.startupLead
+    StartupListModel {
+        id: items
+
+        onFailed: message => toast.show(message)
+    }
+
+    LoginItemModel {
+        id: loginItems
+
+        onSettingsFailed: toast.show(Strings.settingsFailed)
+    }
+
+    Component.onCompleted: root.reload()
+    onEnabledChanged: {
+        if (root.enabled)
+            root.reload();
+    }
+
+    function reload() {
+        items.load();
+        loginItems.load();
+    }
+
+    Shortcut {
+        enabled: root.enabled
+        sequence: "F5"
+        onActivated: root.reload()
+    }
+
+    ScreenPage {
+        anchors.fill: parent
+
+        Item {
+            width: parent.width
+            height: header.height
+
+            PageHeader {
+                id: header
+
+                width: parent.width - reload.width - 16
+                title: Strings.startup
+                subtitle: Strings.startupLead
+            }
+
+            IconButton {
+                id: reload
+
+                objectName: "reloadStartup"
+                anchors.right: parent.right
+                framed: true
+                symbol: "arrow.clockwise"
+                text: Strings.reload
+                onClicked: root.reload()
+            }
+        }
+
+        OpenAtLoginCard {
+            width: parent.width
+            items: loginItems
+        }
+
+        StartupList {
+            width: parent.width
+            items: items
+        }
+
+        LoginItemsCard {
+            width: parent.width
+            items: loginItems
+        }
+    }
+
+    Toast {
+        id: toast
+    }
 }

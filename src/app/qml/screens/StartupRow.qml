@@ -1,0 +1,131 @@
+import QtQuick
+import Orlen.App
+
+/// One startup item with its switch.
+Item {
+    id: root
+
+    required property string name
+    required property string program
+    required property string path
+    required property string symbol
+    required property bool isOn
+    required property bool isBusy
+    required property bool isPartOfDesktop
+    property bool lineShown: false
+    property bool focusShown: false
+    signal toggled
+
+    implicitHeight: texts.height + 24
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.name
+    Accessible.description: root.program
+
+    Rectangle {
+        x: 62
+        width: parent.width - x
+        height: 1
+        visible: root.lineShown
+        color: Theme.stroke
+    }
+
+    FocusRing {
+        shown: root.focusShown
+        anchors.leftMargin: 6
+        anchors.rightMargin: 6
+        anchors.topMargin: 3
+        anchors.bottomMargin: 2
+        gap: 0
+    }
+
+    Rectangle {
+        id: tile
+
+        x: 18
+        anchors.verticalCenter: parent.verticalCenter
+        width: 32
+        height: 32
+        radius: 9
+        color: Theme.inset
+
+        Symbol {
+            anchors.centerIn: parent
+            name: root.symbol
+            colour: root.isOn ? Theme.secondary : Theme.tertiary
+            size: 16
+        }
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: tile.right
+        anchors.leftMargin: 14
+        anchors.right: toggle.left
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Item {
+            width: parent.width
+            height: Math.max(title.height, chip.visible ? chip.height : 0)
+
+            Text {
+                id: title
+
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
+                text: root.name
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                color: Theme.text
+                font.pixelSize: Theme.bodySize
+                font.weight: Font.Medium
+            }
+
+            RatingChip {
+                id: chip
+
+                anchors.left: title.right
+                anchors.leftMargin: 10
+                anchors.verticalCenter: parent.verticalCenter
+                rating: root.isPartOfDesktop ? "review" : ""
+                label: Strings.partOfDesktop
+                symbol: "exclamationmark.triangle.fill"
+            }
+        }
+
+        Text {
+            width: parent.width
+            visible: root.program !== ""
+            text: root.program
+            textFormat: Text.PlainText
+            elide: Text.ElideMiddle
+            color: Theme.secondary
+            font.pixelSize: Theme.smallSize
+        }
+
+        Text {
+            width: parent.width
+            text: root.path
+            textFormat: Text.PlainText
+            elide: Text.ElideMiddle
+            color: Theme.tertiary
+            font.pixelSize: Theme.captionSize
+        }
+    }
+
+    ToggleSwitch {
+        id: toggle
+
+        anchors.right: parent.right
+        anchors.rightMargin: 18
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.name
+        focusPolicy: Qt.NoFocus
+        checkable: !root.isBusy
+        checked: root.isOn
+        opacity: root.isBusy ? 0.6 : 1
+        onToggled: root.toggled()
+    }
+}

@@ -1,0 +1,210 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// One application: what it left as a checklist, and the way to the review.
+Sheet {
+    id: root
+
+    required property AppDetailModel detail
+
+    objectName: "appSheet"
+    title: root.detail.name
+    wantedHeight: root.detail.removable
+                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 72))
+                  : header.height + advice.height + 76
+    onClosed: root.detail.close()
+    onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
+
+    Behavior on wantedHeight {
+        enabled: root.opened
+
+        NumberAnimation {
+            duration: Theme.sheetInDuration
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    Connections {
+        target: root.detail
+        function onOpenChanged() {
+            if (root.detail.open)
+                root.open();
+            else
+                root.close();
+        }
+    }
+
+    contentItem: FocusScope {
+        AppSheetHeader {
+            id: header
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: 24
+            detail: root.detail
+            onCloseRequested: root.close()
+        }
+
+        AppAdvice {
+            id: advice
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: header.bottom
+            anchors.margins: 24
+            visible: !root.detail.removable
+            detail: root.detail
+        }
+
+        Rectangle {
+            id: strip
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: header.bottom
+            anchors.topMargin: 20
+            visible: root.detail.removable
+            height: Math.round(44 * Theme.textScale)
+            color: Theme.inset
+
+            CheckMark {
+                id: all
+
+                objectName: "leftoversAll"
+                x: 24
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.detail.count > 0
+                checkState: root.detail.checkState
+                nextCheckState: () => root.detail.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
+                text: heading.text
+                Accessible.name: heading.text
+                onClicked: root.detail.toggleAll()
+            }
+
+            Text {
+                id: heading
+
+                anchors.left: all.visible ? all.right : parent.left
+                anchors.leftMargin: all.visible ? 10 : 28
+                anchors.right: figures.left
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.detail.heading
+                textFormat: Text.PlainText
+                elide: Text.ElideMiddle
+                color: Theme.text
+                font.pixelSize: Theme.smallSize
+                font.weight: Font.DemiBold
+            }
+
+            Text {
+                id: figures
+
+                anchors.right: parent.right
+                anchors.rightMargin: 28
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.detail.count > 0
+                text: root.detail.chosenText
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.captionSize
+            }
+        }
+
+        ListView {
+            id: list
+
+            property bool pointed: true
+
+            objectName: "leftoverList"
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: strip.bottom
+            anchors.bottom: footer.top
+            anchors.leftMargin: 16
+            anchors.rightMargin: 2
+            topMargin: 8
+            bottomMargin: 8
+            visible: root.detail.removable
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            reuseItems: true
+            activeFocusOnTab: list.count > 0
+            keyNavigationEnabled: true
+            highlightMoveDuration: 0
+            model: root.detail
+            Accessible.role: Accessible.List
+            Accessible.name: heading.text
+            T.ScrollBar.vertical: ScrollHandle {}
+
+            onActiveFocusChanged: {
+                if (!list.activeFocus)
+                    list.pointed = false;
+            }
+            Keys.onPressed: event => {
+                list.pointed = false;
+                event.accepted = false;
+            }
+            Keys.onSpacePressed: root.detail.toggle(list.currentIndex)
+            Keys.onReturnPressed: root.detail.review()
+            Keys.onEnterPressed: root.detail.review()
+
+            delegate: LeftoverRow {
+                id: row
+
+                required property int index
+
+                width: ListView.view.width - 14
+                focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
+                onToggled: {
+                    list.pointed = true;
+                    list.currentIndex = row.index;
+                    root.detail.toggle(row.index);
+                }
+            }
+        }
+
+        Column {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.verticalCenter: list.verticalCenter
+            width: parent.width - 96
+            spacing: 8
+            visible: root.detail.removable && root.detail.count === 0
+
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                text: root.detail.loading ? Strings.lookingForLeftovers
+                                          : root.detail.otherCopy ? Strings.otherCopy : Strings.noLeftovers
+                textFormat: Text.PlainText
+                color: root.detail.otherCopy ? Theme.text : Theme.secondary
+                font.pixelSize: Theme.headlineSize
+                font.weight: root.detail.otherCopy ? Font.DemiBold : Font.Normal
+            }
+
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                visible: root.detail.otherCopy
+                text: Strings.otherCopyNote
+                textFormat: Text.PlainText
+                color: Theme.secondary
+                font.pixelSize: Theme.bodySize
+            }
+        }
+
+        AppSheetFooter {
+            id: footer
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            visible: root.detail.removable
+            detail: root.detail
+        }
+    }
+}

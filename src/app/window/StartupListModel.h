@@ -1,0 +1,72 @@
+#pragma once
+
+#include "app/Workers.h"
+#include "tools/startup/LaunchItem.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// What starts when the user logs in, with a switch for each. Main thread, and needs its event loop; child
+/// processes and the disk are left to workers.
+class StartupListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    /// Whether the list is being read; the old one stands meanwhile.
+    Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum class Role {
+        name = Qt::UserRole, ///< for people
+        program,             ///< what it runs; empty when unknown
+        path,                ///< of the file that describes it
+        scope,               ///< whose logins it belongs to; the same for neighbours of one group
+        symbol,              ///< icon name of what kind of item it is
+        isOn,                ///< whether it starts; while a change is made, the value that it will have
+        isBusy,              ///< whether a change is being made
+        isPartOfDesktop,     ///< whether the desktop may miss it
+    };
+
+    explicit StartupListModel(QObject* parent = nullptr);
+    ~StartupListModel() override;
+
+    [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    [[nodiscard]] int count() const { return static_cast<int>(m_items.size()); }
+
+    /// Reads the list anew; while a change is made, after it.
+    Q_INVOKABLE void load();
+    /// Switches an item, which shows the new value at once and goes back to the old one when that fails.
+    /// Nothing happens while a change of the same item is being made.
+    Q_INVOKABLE void toggle(int row);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void loadingChanged();
+    void countChanged();
+    /// A change could not be made.
+    void failed(const QString& message);
+
+private:
+    void show(std::vector<LaunchItem> items);
+    void finishChange(const LaunchItem& item, bool wasMade);
+    [[nodiscard]] bool isOn(const LaunchItem& item) const;
+    void setLoading(bool isLoading);
+
+    std::vector<LaunchItem> m_items;
+    std::map<std::string, bool> m_wanted; ///< by path: changes that are being made
+    bool m_isLoading = false;
+    int m_generation = 0; ///< number of the latest load
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

@@ -1,0 +1,111 @@
+#include "AppListModel.h"
+
+#include "AppOrderModel.h"
+#include "app/EventLoop.h"
+#include "window/AppsOnDisk.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+using Role = AppListModel::Role;
+constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
+
+QStringList texts(const QAbstractItemModel& model, Role role)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row)
+        texts << model.index(row, 0).data(static_cast<int>(role)).toString();
+    return texts;
+}
+
+bool isSettled(const AppListModel& apps)
+{
+    return !apps.isLoading() && !apps.isMeasuring();
+}
+
+} // namespace
+
+TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
+{
+    const TempHome home;
+    AppsOnDisk::image(home, "Applications/Kite.AppImage");
+    const std::string gone = AppsOnDisk::image(home, "Applications/Lark.AppImage");
+    AppsOnDisk::image(home, "Downloads/Wren-2.1-x86_64.AppImage");
+    AppModel app({AppModel::Startup::full, AppModel::Access::writer, std::chrono::milliseconds(0)});
+    AppListModel apps;
+    const QAbstractItemModelTester tester(&apps, kFatal);
+    apps.setApp(&app);
+    ASSERT_TRUE(waitUntil([&] { return isSettled(apps); }));
+    EXPECT_EQ(texts(apps, Role::name), (QStringList{"Kite", "Lark", "Wren"}));
+    EXPECT_EQ(texts(apps, Role::origin).back(), "AppImage · ~/Downloads");
+    EXPECT_EQ(texts(apps, Role::size), (QStringList{"41 KB", "41 KB", "41 KB"}));
+    EXPECT_EQ(apps.summary(), "3 applications · 123 KB");
+
+    const QSignalSpy resets(&apps, &QAbstractItemModel::modelReset);
+    const QSignalSpy removals(&apps, &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy insertions(&apps, &QAbstractItemModel::rowsInserted);
+    FileEntry entry;
+    entry.path = gone;
+    app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}}}}, {gone});
+    ASSERT_TRUE(waitUntil([&] { return apps.count() == 2 && isSettled(apps); }));
+    EXPECT_EQ(texts(apps, Role::name), (QStringList{"Kite", "Wren"}));
+    EXPECT_EQ(removals.count(), 1);
+    EXPECT_EQ(insertions.count() + resets.count(), 0);
+}
+
+TEST(AppListModelTest, canBeDestroyedWhileItMeasures)
+{
+    const TempHome home;
+    for (int number = 0; number < 20; ++number)
+        AppsOnDisk::image(home, "Applications/App" + std::to_string(number));
+    AppModel app({});
+    for (const bool waitsForNames : {false, true}) {
+        AppListModel apps;
+        apps.setApp(&app);
+        ASSERT_TRUE(waitUntil([&] { return !waitsForNames || apps.count() == 20; }));
+    }
+}
+
+TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
+{
+    const TempHome home;
+    AppsOnDisk::image(home, "Applications/Alder Notes.AppImage");
+    AppsOnDisk::image(home, "Downloads/Birch.AppImage");
+    home.fileOfSize("opt/Cedar/data", 409'600);
+    TempHome::setMode(home.file("opt/Cedar/cedar"), 0755);
+    AppModel app({});
+    AppListModel apps;
+    apps.setApp(&app);
+    AppOrderModel shown;
+    const QAbstractItemModelTester tester(&shown, kFatal);
+    shown.setList(&apps);
+    shown.setOrder(AppOrderModel::BySize);
+    ASSERT_TRUE(waitUntil([&] { return apps.count() == 3 && isSettled(apps); }));
+    EXPECT_EQ(texts(shown, Role::name), (QStringList{"Cedar", "Alder Notes", "Birch"}));
+    EXPECT_EQ(shown.listRow(0), 2);
+
+    struct Case {
+        const char* query;
+        QStringList names;
+    };
+    for (const Case& c : {Case{"BIRCH", {"Birch"}},
+                          {"appimage  applications", {"Alder Notes"}},
+                          {" ", {"Cedar", "Alder Notes", "Birch"}},
+                          {"birch notes", {}},
+                          {"(", {}}}) {
+        SCOPED_TRACE(c.query);
+        shown.setQuery(c.query);
+        EXPECT_EQ(texts(shown, Role::name), c.names);
+    }
+    shown.setQuery({});
+    shown.setOrder(AppOrderModel::ByName);
+    EXPECT_EQ(texts(shown, Role::name), (QStringList{"Alder Notes", "Birch", "Cedar"}));
+}
+
+} // namespace orlen

@@ -1,0 +1,64 @@
+#include "LoginItemModel.h"
+
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+
+namespace orlen {
+
+class LoginItemModelTest : public testing::Test {
+protected:
+    [[nodiscard]] bool settle()
+    {
+        return waitUntil([&] { return !m_items.isBusy(); });
+    }
+
+    const TempHome m_home;
+    LoginItemModel m_items;
+    const QAbstractItemModelTester m_tester{&m_items, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(LoginItemModelTest, opensTheProgramAtLoginAndNoLonger)
+{
+    m_items.toggleRegistered();
+    EXPECT_TRUE(m_items.isRegistered());
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(m_items.isRegistered());
+    EXPECT_EQ(m_items.obstacle(), "");
+    EXPECT_TRUE(TempHome::exists(m_home.path(".config/autostart/orlen.desktop")));
+    m_items.toggleRegistered();
+    ASSERT_TRUE(settle());
+    EXPECT_FALSE(m_items.isRegistered());
+    EXPECT_FALSE(TempHome::exists(m_home.path(".config/autostart/orlen.desktop")));
+}
+
+TEST_F(LoginItemModelTest, returnsToTheRealStateWhenThatFails)
+{
+    TempHome::setMode(m_home.folder(".config/autostart"), 0500);
+    m_items.toggleRegistered();
+    ASSERT_TRUE(settle());
+    EXPECT_FALSE(m_items.isRegistered());
+    EXPECT_EQ(m_items.obstacle(), "the autostart folder can't be written to.");
+    TempHome::setMode(m_home.path(".config/autostart"), 0700);
+    m_items.toggleRegistered();
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(m_items.isRegistered());
+    EXPECT_EQ(m_items.obstacle(), "");
+}
+
+TEST_F(LoginItemModelTest, namesTheEnabledEntriesWhenAsked)
+{
+    m_home.file(".config/autostart/a.desktop", "[Desktop Entry]\nName=Alder\nExec=a\n");
+    m_home.file(".config/autostart/b.desktop", "[Desktop Entry]\nName=Birch\nExec=b\nHidden=true\n");
+    EXPECT_EQ(m_items.names(), LoginItemModel::NotAsked);
+    m_items.ask();
+    ASSERT_TRUE(waitUntil([&] { return m_items.names() == LoginItemModel::Known; }));
+    const int name = static_cast<int>(LoginItemModel::Role::name);
+    EXPECT_EQ(m_items.match(m_items.index(0), name, "Alder", -1, Qt::MatchExactly).size(), 1);
+    EXPECT_EQ(m_items.match(m_items.index(0), name, "Birch", -1, Qt::MatchExactly).size(), 0);
+}
+
+} // namespace orlen
