@@ -74,7 +74,7 @@ Paths baseFolders(const char* name, const Places& places, std::string_view stand
 }
 
 /// The absolute folders of a list between colons; the defaults when it has none.
-Paths folderList(const char* name, Paths standard)
+Paths folderList(const char* name, const Paths& standard)
 {
     Paths folders;
     const std::string list = variable(name);

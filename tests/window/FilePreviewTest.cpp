@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::size_t kTextLimit = 64 * 1024;
+constexpr std::size_t kTextLimit = 65'536;
 
 } // namespace
 

@@ -22,12 +22,12 @@ public:
 
     ApplicationInterface(Activated activated, QObject* parent);
 
-public Q_SLOTS:
-    void Activate(const QVariantMap& platformData);
+    Q_SLOT void Activate(const QVariantMap& platformData);
     /// Orlen opens no documents: the window comes to the front, and that is all.
-    void Open(const QStringList& uris, const QVariantMap& platformData);
+    Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
     /// The desktop entry names no actions; what an older or newer entry names opens the window.
-    void ActivateAction(const QString& name, const QVariantList& parameter, const QVariantMap& platformData);
+    Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
+                               const QVariantMap& platformData);
 
 private:
     const Activated m_activated;

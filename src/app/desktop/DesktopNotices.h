@@ -30,11 +30,10 @@ Q_SIGNALS:
     /// The notice was clicked.
     void opened(const orlen::LaunchToken& token);
 
-private Q_SLOTS:
-    void keepToken(uint id, const QString& token);
-    void open(uint id, const QString& action);
-
 private:
+    Q_SLOT void keepToken(uint id, const QString& token);
+    Q_SLOT void open(uint id, const QString& action);
+
     void keepNumber(QDBusPendingCallWatcher* finished);
 
     QDBusConnection m_bus;

@@ -79,11 +79,11 @@ RunningInstance::Claim RunningInstance::claimLock()
     if (!folder.starts_with('/'))
         return Claim::ours;
     auto lock = FileLock::take(PathText::join(folder, std::string(OwnProgram::identifier()) + ".lock"));
-    if (lock.ok())
-        m_lock = std::move(lock).value();
     // Where no lock can be made there is nothing to go by, and two windows are better than none.
-    const bool isHeldByOther = !lock.ok() && lock.error() == EWOULDBLOCK;
-    return isHeldByOther ? Claim::blocked : Claim::ours;
+    if (!lock.ok())
+        return lock.error() == EWOULDBLOCK ? Claim::blocked : Claim::ours;
+    m_lock = std::move(lock).value();
+    return Claim::ours;
 }
 
 } // namespace orlen

@@ -61,12 +61,11 @@ public:
     [[nodiscard]] QDBusObjectPath menu() const { return QDBusObjectPath(m_look.menuPath); }
     [[nodiscard]] QString labelGuide() const { return QStringLiteral("999.9 GB free"); }
 
-public Q_SLOTS:
-    void Activate(int x, int y) { m_clicks.first(QPoint(x, y)); }
-    void SecondaryActivate(int /*x*/, int /*y*/) { m_clicks.second(); }
+    Q_SLOT void Activate(int x, int y) { m_clicks.first(QPoint(x, y)); }
+    Q_SLOT void SecondaryActivate(int /*x*/, int /*y*/) { m_clicks.second(); }
     /// The desktop shows the menu itself.
-    void ContextMenu(int /*x*/, int /*y*/) {}
-    void Scroll(int /*delta*/, const QString& /*orientation*/) {}
+    Q_SLOT void ContextMenu(int /*x*/, int /*y*/) {}
+    Q_SLOT void Scroll(int /*delta*/, const QString& /*orientation*/) {}
 
 Q_SIGNALS:
     void NewTitle();

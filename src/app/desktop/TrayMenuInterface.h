@@ -40,16 +40,15 @@ public:
     [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
     [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
-public Q_SLOTS:
     /// The number of the menu's present form; `layout` gets the entry with what is below it.
-    uint GetLayout(int parentId, int depth, const QStringList& names, orlen::TrayMenuNode& layout);
-    orlen::TrayMenuPropertiesList GetGroupProperties(const QList<int>& ids, const QStringList& names);
-    QDBusVariant GetProperty(int id, const QString& name);
-    void Event(int id, const QString& name, const QDBusVariant& data, uint time);
+    Q_SLOT uint GetLayout(int parentId, int depth, const QStringList& names, orlen::TrayMenuNode& layout);
+    Q_SLOT orlen::TrayMenuPropertiesList GetGroupProperties(const QList<int>& ids, const QStringList& names);
+    Q_SLOT QDBusVariant GetProperty(int id, const QString& name);
+    Q_SLOT void Event(int id, const QString& name, const QDBusVariant& data, uint time);
     /// The entries that there are not.
-    QList<int> EventGroup(const orlen::TrayMenuEvents& events);
-    bool AboutToShow(int id);
-    QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& unknown);
+    Q_SLOT QList<int> EventGroup(const orlen::TrayMenuEvents& events);
+    Q_SLOT bool AboutToShow(int id);
+    Q_SLOT QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& unknown);
 
 Q_SIGNALS:
     void LayoutUpdated(uint revision, int parent);

@@ -17,10 +17,9 @@ public:
     /// When the item's objects are on the bus.
     void start();
 
-private Q_SLOTS:
-    void look();
-
 private:
+    Q_SLOT void look();
+
     void registerItem();
 
     QDBusConnection m_bus;

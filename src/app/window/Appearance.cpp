@@ -38,6 +38,8 @@ Appearance::Appearance(QObject* parent) : QObject(parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
+    // Without the type's name the slot below is not found, and no change arrives.
+    qRegisterMetaType<QDBusVariant>();
     bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(applySetting(QString, QString, QDBusVariant)));
     ask(kAppearance, kColourScheme);

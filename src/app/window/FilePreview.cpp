@@ -15,7 +15,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::size_t kTextBytes = 64 * 1024;
+constexpr std::size_t kTextBytes = 65'536;
 constexpr std::size_t kNames = 500;
 constexpr std::size_t kLongestCharacter = 4;
 

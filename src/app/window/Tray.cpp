@@ -115,7 +115,7 @@ QQuickWindow* Tray::makePanel()
         if (!isVisible)
             m_sinceHidden.start();
     });
-    made.release();
+    (void)made.release(); // the small window belongs to this object from here
     return panel;
 }
 

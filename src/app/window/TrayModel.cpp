@@ -25,7 +25,7 @@ QString TrayModel::title() const
 {
     if (m_app == nullptr || !m_app->isBreakdownReady())
         return WindowTexts::name();
-    return WindowTexts::free(DisplayText::size(m_app->breakdown().free));
+    return WindowTexts::freeSpace(DisplayText::size(m_app->breakdown().free));
 }
 
 QString TrayModel::lastScanText() const

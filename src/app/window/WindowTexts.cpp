@@ -9,7 +9,7 @@ QString name()
     return QStringLiteral("Orlen");
 }
 
-QString free(const QString& size)
+QString freeSpace(const QString& size)
 {
     return QStringLiteral("%1 free").arg(size);
 }

@@ -2,11 +2,13 @@
 
 #include <QString>
 
+#include <cstdint>
+
 /// The sentences that the desktop shows for the window: in the tray, in notices, in a terminal. Pure.
 namespace orlen::WindowTexts {
 
 [[nodiscard]] QString name();
-[[nodiscard]] QString free(const QString& size);
+[[nodiscard]] QString freeSpace(const QString& size);
 [[nodiscard]] QString lastScan(const QString& safeSize);
 [[nodiscard]] QString open();
 [[nodiscard]] QString quit();

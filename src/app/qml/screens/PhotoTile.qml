@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One photo with its check mark. Photos of one set stand on one ground, the kept one first.
