@@ -58,11 +58,10 @@ void Stage::fillHome() const
     m_home->fileOfSize("Downloads/report (1).pdf", kMegabyte, 7);
     m_home->fileOfSize("Videos/holidays/film.mkv", 4 * kMegabyte, 9);
     // An AppImage is known by these bytes, not by its name.
-    m_home->file("Applications/Sketcher-2.1-x86_64.AppImage",
-                 std::string("\x7f"
-                             "ELF\x02\x01\x01\0AI\x02",
-                             11) +
-                     std::string(4096, 'x'));
+    m_home->file("Applications/Sketcher-2.1-x86_64.AppImage", std::string("\x7f"
+                                                                          "ELF\x02\x01\x01\0AI\x02",
+                                                                          11) +
+                                                                  std::string(4096, 'x'));
     m_home->file(".config/sketcher/settings.ini", "[main]\n");
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");

@@ -12,8 +12,8 @@
 
 namespace orlen {
 
-/// What a journey through the window stands on: a home folder with known content, the real model over it, and a
-/// look at the files. QML sees it as `stage`.
+/// What a journey through the window stands on: a home folder with known content, the real model over it, and
+/// a look at the files. QML sees it as `stage`.
 class Stage : public QObject {
     Q_OBJECT
 
