@@ -12,6 +12,11 @@ endif()
 target_compile_definitions(orlen_flags INTERFACE _FILE_OFFSET_BITS=64 QT_NO_KEYWORDS)
 target_include_directories(orlen_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
+if(CMAKE_UNITY_BUILD)
+    # Names of an unnamed namespace look shared when several sources are compiled as one.
+    target_compile_options(orlen_flags INTERFACE -Wno-subobject-linkage)
+endif()
+
 if(ORLEN_SANITIZE)
     target_compile_options(orlen_flags INTERFACE
         -fsanitize=${ORLEN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

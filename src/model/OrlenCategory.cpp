@@ -7,24 +7,27 @@ namespace orlen {
 
 namespace {
 
-struct Row {
+struct CategoryRow {
     std::string_view raw;
     std::string_view label;
     CategoryColour colour;
 };
 
 /// In the order of the enumeration.
-constexpr std::array kRows{
-    Row{"apps", "Apps", {0.25, 0.52, 1.0}},          Row{"photos", "Photos", {1.0, 0.38, 0.55}},
-    Row{"media", "Media", {0.68, 0.4, 0.95}},        Row{"documents", "Documents", {1.0, 0.62, 0.2}},
-    Row{"developer", "Developer", {0.2, 0.78, 0.5}}, Row{"system", "System", {0.55, 0.58, 0.64}},
-    Row{"caches", "Caches", {0.22, 0.76, 0.86}},
+constexpr std::array kCategoryRows{
+    CategoryRow{"apps", "Apps", {0.25, 0.52, 1.0}},
+    CategoryRow{"photos", "Photos", {1.0, 0.38, 0.55}},
+    CategoryRow{"media", "Media", {0.68, 0.4, 0.95}},
+    CategoryRow{"documents", "Documents", {1.0, 0.62, 0.2}},
+    CategoryRow{"developer", "Developer", {0.2, 0.78, 0.5}},
+    CategoryRow{"system", "System", {0.55, 0.58, 0.64}},
+    CategoryRow{"caches", "Caches", {0.22, 0.76, 0.86}},
 };
-static_assert(kRows.size() == kAllCategories.size());
+static_assert(kCategoryRows.size() == kAllCategories.size());
 
-const Row& row(OrlenCategory category)
+const CategoryRow& row(OrlenCategory category)
 {
-    return kRows[static_cast<std::size_t>(category)];
+    return kCategoryRows[static_cast<std::size_t>(category)];
 }
 
 } // namespace

@@ -7,23 +7,23 @@ namespace orlen {
 
 namespace {
 
-struct Row {
+struct RatingRow {
     std::string_view raw;
     std::string_view label;
     std::string_view symbol;
 };
 
 /// In the order of the enumeration.
-constexpr std::array kRows{
-    Row{"safe", "Safe", "checkmark.shield.fill"},
-    Row{"review", "Review", "eye.fill"},
-    Row{"keep", "Keep", "lock.fill"},
+constexpr std::array kRatingRows{
+    RatingRow{"safe", "Safe", "checkmark.shield.fill"},
+    RatingRow{"review", "Review", "eye.fill"},
+    RatingRow{"keep", "Keep", "lock.fill"},
 };
-static_assert(kRows.size() == kAllRatings.size());
+static_assert(kRatingRows.size() == kAllRatings.size());
 
-const Row& row(Rating rating)
+const RatingRow& row(Rating rating)
 {
-    return kRows[static_cast<std::size_t>(rating)];
+    return kRatingRows[static_cast<std::size_t>(rating)];
 }
 
 } // namespace

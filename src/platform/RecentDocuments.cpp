@@ -14,7 +14,7 @@ namespace orlen {
 namespace {
 
 /// Parsing takes up to 16 times as much memory; real lists have a few megabytes.
-constexpr std::size_t kListLimit = 16UL * 1024 * 1024;
+constexpr std::size_t kRecentListLimit = 16UL * 1024 * 1024;
 
 /// The path of "file:///p" or "file://localhost/p"; nothing for other machines and other schemes.
 std::optional<std::string> pathOf(std::string_view reference, const Places& places)
@@ -46,7 +46,7 @@ std::optional<TimePoint> timeOf(std::string_view text)
 
 RecentDocuments RecentDocuments::read(const std::string& file)
 {
-    const auto xml = readSmallFile(file, kListLimit);
+    const auto xml = readSmallFile(file, kRecentListLimit);
     return xml ? parse(*xml) : RecentDocuments();
 }
 

@@ -13,13 +13,13 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::Pair;
 
-constexpr std::int64_t kGB = 1'000'000'000;
+constexpr std::int64_t kGigabyte = 1'000'000'000;
 constexpr TimePoint kStart = std::chrono::sys_days{std::chrono::year{2025} / 3 / 1};
 
 Snapshot snapshot(std::chrono::seconds after, std::int64_t free,
                   std::map<std::string, std::int64_t> cats = {})
 {
-    return {kStart + after, free, 1'000 * kGB, std::move(cats)};
+    return {kStart + after, free, 1'000 * kGigabyte, std::move(cats)};
 }
 
 TEST(PredictorTest, tooShortAHistoryIsStillLearned)
@@ -64,22 +64,22 @@ TEST(PredictorTest, verdictGoesByGrowthAndFreeSpace)
         bool warn;
     };
     constexpr Case cases[] = {
-        {"fast", 2 * kGB, 100 * kGB, "Disk nearly full in about 7 weeks",
+        {"fast", 2 * kGigabyte, 100 * kGigabyte, "Disk nearly full in about 7 weeks",
          "Used space is growing by about 2 GB per day, and 100 GB is free.", true},
-        {"enough left", 2 * kGB, 200 * kGB, "Disk nearly full in about 3 months",
+        {"enough left", 2 * kGigabyte, 200 * kGigabyte, "Disk nearly full in about 3 months",
          "Used space is growing by about 2 GB per day, and 200 GB is free.", false},
-        {"sixty days are no warning", kGB, 60 * kGB, "Disk nearly full in about 2 months",
+        {"sixty days are no warning", kGigabyte, 60 * kGigabyte, "Disk nearly full in about 2 months",
          "Used space is growing by about 1 GB per day, and 60 GB is free.", false},
-        {"full already", kGB, 0, "Disk nearly full in less than a day",
+        {"full already", kGigabyte, 0, "Disk nearly full in less than a day",
          "Used space is growing by about 1 GB per day, and 0 bytes is free.", true},
-        {"overcommitted", kGB, -5, "Disk nearly full in less than a day",
+        {"overcommitted", kGigabyte, -5, "Disk nearly full in less than a day",
          "Used space is growing by about 1 GB per day, and 0 bytes is free.", true},
-        {"just above stable", 1'000'001, kGB, "Disk nearly full in more than 2 years",
+        {"just above stable", 1'000'001, kGigabyte, "Disk nearly full in more than 2 years",
          "Used space is growing by about 1 MB per day, and 1 GB is free.", false},
-        {"just stable", 1'000'000, kGB, "Your free space is stable",
+        {"just stable", 1'000'000, kGigabyte, "Your free space is stable",
          "Based on 3 scans, used space isn't growing.", false},
-        {"shrinking", -kGB, kGB, "Your free space is stable", "Based on 3 scans, used space isn't growing.",
-         false},
+        {"shrinking", -kGigabyte, kGigabyte, "Your free space is stable",
+         "Based on 3 scans, used space isn't growing.", false},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

@@ -11,13 +11,13 @@ namespace orlen {
 
 namespace {
 
-const QString kService = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString kPath = QStringLiteral("/StatusNotifierWatcher");
+const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
 
 /// A call must not start a tray where the user has none.
 QDBusMessage callToWatcher(const QString& interface, const QString& method)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, interface, method);
+    QDBusMessage call = QDBusMessage::createMethodCall(kWatcher, kWatcherPath, interface, method);
     call.setAutoStartService(false);
     return call;
 }
@@ -26,7 +26,7 @@ QDBusMessage callToWatcher(const QString& interface, const QString& method)
 
 TrayRegistration::TrayRegistration(QDBusConnection bus, QObject* parent)
     : QObject(parent), m_bus(std::move(bus)),
-      m_watcher(kService, m_bus, QDBusServiceWatcher::WatchForRegistration)
+      m_watcher(kWatcher, m_bus, QDBusServiceWatcher::WatchForRegistration)
 {
 }
 
@@ -35,7 +35,7 @@ void TrayRegistration::start()
     if (!m_bus.isConnected())
         return;
     connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &TrayRegistration::look);
-    m_bus.connect(kService, kPath, kService, QStringLiteral("StatusNotifierHostRegistered"), this,
+    m_bus.connect(kWatcher, kWatcherPath, kWatcher, QStringLiteral("StatusNotifierHostRegistered"), this,
                   SLOT(look()));
     look();
 }
@@ -44,7 +44,7 @@ void TrayRegistration::look()
 {
     QDBusMessage call =
         callToWatcher(QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call << kService << QStringLiteral("IsStatusNotifierHostRegistered");
+    call << kWatcher << QStringLiteral("IsStatusNotifierHostRegistered");
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* finished) {
         finished->deleteLater();
@@ -57,7 +57,7 @@ void TrayRegistration::look()
 void TrayRegistration::registerItem()
 {
     // The connection's own name: a sandbox gives out no others, and every watcher takes it.
-    QDBusMessage call = callToWatcher(kService, QStringLiteral("RegisterStatusNotifierItem"));
+    QDBusMessage call = callToWatcher(kWatcher, QStringLiteral("RegisterStatusNotifierItem"));
     call << m_bus.baseService();
     m_bus.asyncCall(call);
 }

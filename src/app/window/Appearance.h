@@ -39,10 +39,8 @@ public:
 Q_SIGNALS:
     void changed();
 
-private Q_SLOTS:
-    void applySetting(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
+    Q_SLOT void applySetting(const QString& group, const QString& key, const QDBusVariant& value);
     void ask(const QString& group, const QString& key);
 
     int m_colourScheme = 0; ///< as the portal counts: 0 no preference, 1 dark, 2 light

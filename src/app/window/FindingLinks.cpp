@@ -25,7 +25,8 @@ void FindingLinks::update()
     if (std::ranges::equal(rows, m_rows, {}, &Row::kind, &Row::kind)) {
         m_rows = std::move(rows);
         if (!m_rows.empty())
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1), {static_cast<int>(Role::size)});
+            Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1),
+                               {static_cast<int>(Role::size)});
         return;
     }
     beginResetModel();

@@ -14,6 +14,7 @@ constexpr std::chrono::milliseconds kPollInterval{75};
 std::vector<ScanStep> pendingSteps()
 {
     std::vector<ScanStep> steps;
+    steps.reserve(ScanEngine::kSteps.size());
     for (const std::string_view label : ScanEngine::kSteps)
         steps.push_back({std::string(label), StepState::pending});
     return steps;

@@ -39,7 +39,7 @@ int SpringCurve::duration() const
 QVariantList SpringCurve::curve() const
 {
     QVariantList points;
-    points.reserve(kSegments * 6);
+    points.reserve(qsizetype{kSegments} * 6);
     const double total = m_response * kDurationInResponses;
     const double step = total / kSegments;
     for (int segment = 0; segment < kSegments; ++segment) {

@@ -10,21 +10,21 @@ namespace orlen {
 namespace {
 
 // Read at once; a stop is looked for between two blocks.
-constexpr std::int64_t kBlock = 1'048'576;
+constexpr std::int64_t kReadLength = 1'048'576;
 
 } // namespace
 
 /// Reads and hashes a range; false when stopped or when the file has become shorter.
 bool FileHasher::add(const UniqueFd& file, std::int64_t offset, std::int64_t length)
 {
-    const auto wanted = static_cast<std::size_t>(std::min(length, kBlock));
+    const auto wanted = static_cast<std::size_t>(std::min(length, kReadLength));
     if (m_buffer.size() < wanted)
         m_buffer.resize(wanted);
     for (const std::int64_t end = offset + length; offset < end;) {
         if (m_stop.stop_requested())
             return false;
         const auto block =
-            std::span(m_buffer).first(static_cast<std::size_t>(std::min(kBlock, end - offset)));
+            std::span(m_buffer).first(static_cast<std::size_t>(std::min(kReadLength, end - offset)));
         const auto got = readAt(file.get(), offset, block);
         if (!got.ok() || got.value() < block.size())
             return false;

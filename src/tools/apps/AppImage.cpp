@@ -11,7 +11,7 @@ namespace orlen::AppImage {
 
 namespace {
 
-constexpr std::string_view kSuffix = ".appimage";
+constexpr std::string_view kImageSuffix = ".appimage";
 constexpr std::string_view kArchitectures[] = {"x86_64", "amd64", "aarch64", "arm64",
                                                "armhf",  "i386",  "i686"};
 
@@ -80,8 +80,8 @@ bool isOneAt(int folder, const std::string& name)
 
 std::string nameFromFile(std::string_view fileName)
 {
-    if (PathText::asciiLower(fileName).ends_with(kSuffix) && fileName.size() > kSuffix.size())
-        fileName.remove_suffix(kSuffix.size());
+    if (PathText::asciiLower(fileName).ends_with(kImageSuffix) && fileName.size() > kImageSuffix.size())
+        fileName.remove_suffix(kImageSuffix.size());
     std::string text(fileName);
     blankArchitectures(text);
     std::string name;

@@ -20,7 +20,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::string_view kSuffix = ".desktop";
+constexpr std::string_view kEntrySuffix = ".desktop";
 
 /// The file that counts for each name: the first in the order of the folders.
 std::map<std::string, std::string> entryFiles(const Places& places)
@@ -31,7 +31,7 @@ std::map<std::string, std::string> entryFiles(const Places& places)
         folders.push_back(std::move(folder));
     for (const std::string& folder : folders) {
         for (const std::string& name : listNames(folder + "/.")) {
-            if (name.size() > kSuffix.size() && name.ends_with(kSuffix))
+            if (name.size() > kEntrySuffix.size() && name.ends_with(kEntrySuffix))
                 files.emplace(name, PathText::join(folder, name));
         }
     }
@@ -44,7 +44,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
     if (!entry || !AutostartRules::isForUser(*entry))
         return std::nullopt;
     LaunchItem item;
-    item.label = name.substr(0, name.size() - kSuffix.size());
+    item.label = name.substr(0, name.size() - kEntrySuffix.size());
     // A copy of this program's own is but the switch of the entry that it covers.
     item.path = AutostartRules::isOverride(*entry)
                     ? AutostartFolders::find(AutostartFolders::ofEverybody(places), name)
@@ -92,7 +92,7 @@ public:
     {
         if (item.label.empty() || item.label.find('/') != std::string::npos)
             return false;
-        const std::string name = item.label + std::string(kSuffix);
+        const std::string name = item.label + std::string(kEntrySuffix);
         if (enabled)
             return AutostartSwitch::turnOn(name);
         if (!AutostartSwitch::turnOff(name))

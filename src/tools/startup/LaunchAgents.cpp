@@ -15,7 +15,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::string_view kSuffix = ".plist";
+constexpr std::string_view kAgentSuffix = ".plist";
 
 /// What the tool calls the logins of the user.
 std::string loginDomain()
@@ -47,7 +47,7 @@ std::optional<LaunchItem> itemAt(const std::string& path)
     item.label = list->text("Label");
     if (item.label.empty()) {
         const std::string_view name = PathText::lastComponent(path);
-        item.label = name.substr(0, name.size() - kSuffix.size());
+        item.label = name.substr(0, name.size() - kAgentSuffix.size());
     }
     item.path = path;
     item.program = programOf(*list);
@@ -63,7 +63,7 @@ void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std:
     std::vector<std::string> names = listNames(folder + "/.");
     std::sort(names.begin(), names.end());
     for (const std::string& name : names) {
-        auto item = name.ends_with(kSuffix) ? itemAt(PathText::join(folder, name)) : std::nullopt;
+        auto item = name.ends_with(kAgentSuffix) ? itemAt(PathText::join(folder, name)) : std::nullopt;
         if (!item)
             continue;
         item->scope = scope;

@@ -20,7 +20,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr std::int64_t kKiB = 1024;
+constexpr std::int64_t kKibibyte = 1024;
 
 std::vector<std::string> names(const std::vector<AppInfo>& apps)
 {
@@ -213,7 +213,7 @@ TEST(AppListTest, managedApplicationsComeWithAdvice)
     const std::string snaps = home.outside("system/var/lib/snapd/");
     home.launcher(snaps + "desktop/applications/baz_tool.desktop", "Tool", "x");
     home.launcher(snaps + "desktop/applications/baz_baz.desktop", "Baz", "x");
-    home.fileOfSize(snaps + "snaps/baz_7.snap", 40 * kKiB);
+    home.fileOfSize(snaps + "snaps/baz_7.snap", 40 * kKibibyte);
     const std::vector<AppInfo> apps = AppList::list();
     ASSERT_THAT(names(apps), ElementsAre("Bar", "Baz", "Foo!"));
     EXPECT_EQ(apps[0].advice, "Installed by Flatpak. Remove it in your software centre or with: flatpak "
@@ -271,7 +271,7 @@ TEST(AppListTest, everySizeIsToldOnceAndNoneAfterAStop)
     std::vector<AppInfo> apps;
     for (int i = 0; i < 40; ++i) {
         const std::string name = "opt/app" + std::to_string(i);
-        home.fileOfSize(name + "/deep/er/x", (i + 1) * 4 * kKiB);
+        home.fileOfSize(name + "/deep/er/x", (i + 1) * 4 * kKibibyte);
         apps.push_back({home.path(name), name});
     }
     std::map<std::size_t, std::int64_t> sizes;
@@ -279,7 +279,7 @@ TEST(AppListTest, everySizeIsToldOnceAndNoneAfterAStop)
                      [&](std::size_t i, std::int64_t bytes) { EXPECT_TRUE(sizes.emplace(i, bytes).second); });
     ASSERT_EQ(sizes.size(), apps.size());
     for (std::size_t i = 0; i < apps.size(); ++i)
-        EXPECT_EQ(sizes[i], static_cast<std::int64_t>(i + 1) * 4 * kKiB);
+        EXPECT_EQ(sizes[i], static_cast<std::int64_t>(i + 1) * 4 * kKibibyte);
 
     std::stop_source stop;
     std::size_t told = 0;

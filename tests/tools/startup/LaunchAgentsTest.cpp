@@ -17,7 +17,7 @@ std::string plist(const std::string& content)
            "</dict></plist>\n";
 }
 
-std::string labelled(const std::string& label)
+std::string agentNamed(const std::string& label)
 {
     return plist("<key>Label</key><string>" + label + "</string>");
 }
@@ -54,17 +54,17 @@ TEST(LaunchAgentsTest, agentsOfBothFoldersAreListedByFileName)
     const Agents home;
     home.tool("launchctl", "printf '%s\\n' 'disabled services = {' '\t\"own.off\" => disabled' "
                            "'\t\"shared.off\" => true' '\t\"own.on\" => enabled' '}'");
-    const std::string path = home.own("b.plist", labelled("own.off"));
+    const std::string path = home.own("b.plist", agentNamed("own.off"));
     (void)home.own("a.plist", plist("<key>Label</key><string>own.on</string><key>Program</key>"
                                     "<string>/opt/a</string><key>ProgramArguments</key>"
                                     "<array><string>/opt/other</string></array>"));
     (void)home.own("c.plist", plist("<key>ProgramArguments</key>"
                                     "<array><string>/opt/c</string><string>-q</string></array>"));
-    (void)home.own("d.plist.bak", labelled("backup"));
+    (void)home.own("d.plist.bak", agentNamed("backup"));
     (void)home.own("e.plist", "no property list");
     (void)home.own("f.plist", "<plist version=\"1.0\"><array/></plist>");
-    (void)home.shared("z.plist", labelled("shared.off"));
-    (void)home.shared("y.plist", labelled("own.off"));
+    (void)home.shared("z.plist", agentNamed("shared.off"));
+    (void)home.shared("y.plist", agentNamed("own.off"));
     EXPECT_THAT(loaded(), ElementsAre("own.on /opt/a Your account on", "own.off  Your account off",
                                       "c /opt/c Your account on", "own.off  All users off",
                                       "shared.off  All users off"));
@@ -76,7 +76,7 @@ TEST(LaunchAgentsTest, withoutTheToolEveryAgentIsOnAndNoneCanBeSwitched)
 {
     const Agents home;
     EXPECT_THAT(LaunchControl::load(), IsEmpty());
-    (void)home.own("a.plist", labelled("own"));
+    (void)home.own("a.plist", agentNamed("own"));
     ASSERT_THAT(loaded(), ElementsAre("own  Your account on"));
     EXPECT_FALSE(LaunchControl::set(LaunchControl::load().front(), false));
     EXPECT_EQ(LaunchControl::run({"print-disabled"}), std::nullopt);
