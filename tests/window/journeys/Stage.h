@@ -5,7 +5,9 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -26,6 +28,12 @@ public:
     Q_INVOKABLE [[nodiscard]] bool isInTrash(const QString& name) const;
     /// The content of a file below the home folder.
     Q_INVOKABLE [[nodiscard]] QString content(const QString& name) const;
+
+    /// The item of this object name that can be seen in a window or an item, the topmost if there are
+    /// several; else null. Delegates and popups count too, which `findChild` does not know.
+    Q_INVOKABLE [[nodiscard]] QQuickItem* find(QObject* where, const QString& name) const;
+    /// What can be seen in the window and used, but has no name for a screen reader; a line for each.
+    Q_INVOKABLE [[nodiscard]] QStringList nameless(QObject* window) const;
 
 public Q_SLOTS:
     void applicationAvailable();

@@ -64,6 +64,7 @@ Sheet {
         }
 
         PreviewArea {
+            objectName: "previewArea"
             anchors.top: header.bottom
             anchors.bottom: footer.top
             width: parent.width
