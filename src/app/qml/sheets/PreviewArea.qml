@@ -133,16 +133,21 @@ Rectangle {
             }
         }
 
-        footer: Text {
-            x: 24
-            height: root.preview.cut ? implicitHeight : 0
+        footer: Item {
+            height: root.preview.cut ? remark.height : 0
             visible: root.preview.cut
-            topPadding: 8
-            bottomPadding: 8
-            text: Strings.firstNamesOnly
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
+
+            Text {
+                id: remark
+
+                x: 24
+                topPadding: 8
+                bottomPadding: 8
+                text: Strings.firstNamesOnly
+                textFormat: Text.PlainText
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+            }
         }
     }
 
