@@ -67,6 +67,26 @@ TestCase {
         return test.item(list).itemAtIndex(number);
     }
 
+    /// Whether the item with this name, or something in it, has the keyboard.
+    function isFocused(name: string): bool {
+        let item = test.window.activeFocusItem;
+        while (item !== null && item.objectName !== name)
+            item = item.parent;
+        return item !== null;
+    }
+
+    /// Presses Tab until the item with this name has the keyboard.
+    function tabTo(name: string) {
+        for (let presses = 0; presses < 40 && !test.isFocused(name); ++presses)
+            keyClick(Qt.Key_Tab);
+        verify(test.isFocused(name), name + " is reached by Tab");
+    }
+
+    function type(text: string) {
+        for (const letter of text)
+            keyClick(letter);
+    }
+
     function clickOn(name: string, within: QtObject) {
         test.click(test.item(name, within));
     }

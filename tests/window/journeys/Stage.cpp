@@ -2,6 +2,7 @@
 
 #include "Appearance.h"
 #include "Window.h"
+#include "window/AppsOnDisk.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
@@ -55,23 +56,37 @@ QQuickItem* search(QQuickItem& item, const std::function<bool(QQuickItem&)>& fit
     return fits(item) ? &item : nullptr;
 }
 
-/// `spoken` is what a screen reader gets of the item, null for nothing.
-bool isUsable(const QQuickItem& item, const QAccessibleInterface* spoken)
+/// What a screen reader is told of an item, null for nothing.
+QAccessibleInterface* spokenOf(QQuickItem& item)
 {
-    switch (spoken == nullptr ? QAccessible::NoRole : spoken->role()) {
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&item);
+    const QAccessibleInterface* parent = spoken == nullptr ? nullptr : spoken->parent();
+    // Items that are ignored keep their interface, but are no child of any other.
+    return parent != nullptr && parent->indexOfChild(spoken) >= 0 ? spoken : nullptr;
+}
+
+bool isForUse(const QAccessibleInterface& spoken)
+{
+    switch (spoken.role()) {
     case QAccessible::Button:
     case QAccessible::CheckBox:
     case QAccessible::ComboBox:
     case QAccessible::EditableText:
-    case QAccessible::Link:
     case QAccessible::List:
     case QAccessible::ListItem:
-    case QAccessible::PageTab:
     case QAccessible::RadioButton:
         return true;
     default:
-        return item.activeFocusOnTab();
+        return false;
     }
+}
+
+bool isNameless(QQuickItem& item)
+{
+    const QAccessibleInterface* spoken = spokenOf(item);
+    if (spoken == nullptr)
+        return item.activeFocusOnTab() && item.isEnabled();
+    return (item.activeFocusOnTab() || isForUse(*spoken)) && spoken->text(QAccessible::Name).isEmpty();
 }
 
 } // namespace
@@ -114,15 +129,13 @@ void Stage::fillHome() const
     m_home->fileOfSize(".cache/spotify/Data/one", 3 * kMegabyte);
     m_home->fileOfSize(".cache/mesa_shader_cache/two", 2 * kMegabyte);
     m_home->fileOfSize(".cache/pip/http/three", 2 * kMegabyte);
-    m_home->fileOfSize("Documents/report.pdf", kMegabyte, 7);
-    m_home->fileOfSize("Downloads/report (1).pdf", kMegabyte, 7);
+    m_home->fileOfSize("Documents/report.txt", kMegabyte, 7);
+    m_home->fileOfSize("Downloads/report (1).txt", kMegabyte, 7);
     m_home->fileOfSize("Videos/holidays/film.mkv", 4 * kMegabyte, 9);
-    // An AppImage is known by these bytes, not by its name.
-    m_home->file("Applications/Sketcher-2.1-x86_64.AppImage", std::string("\x7f"
-                                                                          "ELF\x02\x01\x01\0AI\x02",
-                                                                          11) +
-                                                                  std::string(4096, 'x'));
-    m_home->file(".config/sketcher/settings.ini", "[main]\n");
+    const std::string program = AppsOnDisk::image(*m_home, "Applications/Sketcher-2.1-x86_64.AppImage");
+    AppsOnDisk::launcher(*m_home, "org.example.Sketcher", "Sketcher", program);
+    m_home->fileOfSize(".config/org.example.Sketcher/settings", 8'192);
+    m_home->fileOfSize(".cache/org.example.Sketcher/pictures", 4'096);
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
 }
@@ -142,6 +155,11 @@ QString Stage::content(const QString& name) const
     return QString::fromStdString(TempHome::content(m_home->path(name.toStdString())));
 }
 
+void Stage::write(const QString& name, const QString& content) const
+{
+    m_home->file(name.toStdString(), content.toStdString());
+}
+
 QQuickItem* Stage::find(QObject* where, const QString& name) const
 {
     QQuickItem* root = rootOf(where);
@@ -156,9 +174,7 @@ QStringList Stage::nameless(QObject* window) const
 {
     QStringList found;
     (void)search(*rootOf(window), [&](QQuickItem& item) {
-        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&item);
-        const bool isSilent = spoken == nullptr || spoken->text(QAccessible::Name).isEmpty();
-        if (isSilent && isUsable(item, spoken))
+        if (isNameless(item))
             found += QString::fromUtf8(item.metaObject()->className()) + QLatin1Char(' ') + item.objectName();
         return false;
     });

@@ -28,6 +28,7 @@ public:
     Q_INVOKABLE [[nodiscard]] bool isInTrash(const QString& name) const;
     /// The content of a file below the home folder.
     Q_INVOKABLE [[nodiscard]] QString content(const QString& name) const;
+    Q_INVOKABLE void write(const QString& name, const QString& content) const;
 
     /// The item of this object name that can be seen in a window or an item, the topmost if there are
     /// several; else null. Delegates and popups count too, which `findChild` does not know.
