@@ -19,7 +19,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kMegabyte = 1024 * 1024;
+constexpr std::int64_t kMegabyte = 1'048'576;
 
 QQuickItem* rootOf(QObject* where)
 {

@@ -36,10 +36,10 @@ public:
     /// What can be seen in the window and used, but has no name for a screen reader; a line for each.
     Q_INVOKABLE [[nodiscard]] QStringList nameless(QObject* window) const;
 
-public Q_SLOTS:
-    void applicationAvailable();
-    void qmlEngineAvailable(QQmlEngine* engine);
-    void cleanupTestCase();
+    // What the test program calls at its stages.
+    Q_INVOKABLE void applicationAvailable();
+    Q_INVOKABLE void qmlEngineAvailable(QQmlEngine* engine);
+    Q_INVOKABLE void cleanupTestCase();
 
 private:
     void fillHome() const;
