@@ -224,7 +224,8 @@ QtObject {
             { text: "Move", keys: [["←"], ["↑"], ["↓"], ["→"]] },
             { text: "First or last", keys: [["Home"], ["End"]] },
             { text: "Open", keys: [["Enter"]] },
-            { text: "Preview a file", keys: [["Space"]] }
+            { text: "Preview a file", keys: [["Space"]] },
+            { text: "Scroll a preview", keys: [["Page Up"], ["Page Down"]] }
         ] },
         { title: "Disk Map", shortcuts: [
             { text: "Zoom into a folder", keys: [["Enter"]] },

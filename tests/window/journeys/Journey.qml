@@ -16,11 +16,17 @@ TestCase {
         Main {}
     }
 
+    // Anything that the program writes on its way is a fault.
+    function init() {
+        failOnWarning(/.?/);
+    }
+
     function open() {
         failOnWarning(/.?/);
         test.window = main.createObject(null);
         test.parent = test.window.contentItem;
         test.window.requestActivate();
+        tryVerify(() => test.window.active);
         verify(waitForRendering(test.window.contentItem));
     }
 
@@ -30,19 +36,68 @@ TestCase {
         wait(0);
     }
 
-    /// The item with this object name, once it is there, shown and at rest.
-    function item(name: string): Item {
-        tryVerify(() => test.isShown(findChild(test.window, name)), 10000, name + " is shown");
-        return findChild(test.window, name);
+    /// Begins where a user is after the first start.
+    function openOnboarded() {
+        test.open();
+        test.window.navigation.finishOnboarding();
+        test.item("startScan");
     }
 
-    function isShown(item: Item): bool {
-        return item !== null && item.visible && item.width > 0 && item.enabled;
+    /// Begins with the results of a scan.
+    function openScanned() {
+        test.openOnboarded();
+        AppModel.startScan();
+        test.item("heroSentence");
     }
 
-    function clickOn(name: string) {
-        const target = test.item(name);
-        waitForRendering(target);
+    /// The item with this object name, once it can be seen; in the whole window unless told where.
+    function item(name: string, within: QtObject): Item {
+        const where = within ?? test.window;
+        tryVerify(() => stage.find(where, name) !== null, 10000, name + " is shown");
+        return stage.find(where, name);
+    }
+
+    function isShown(name: string): bool {
+        return stage.find(test.window, name) !== null;
+    }
+
+    /// The row of a list with this number, once it is there.
+    function row(list: string, number: int): Item {
+        tryVerify(() => test.item(list).itemAtIndex(number) !== null, 10000, list + " has row " + number);
+        return test.item(list).itemAtIndex(number);
+    }
+
+    /// Whether the item with this name, or something in it, has the keyboard.
+    function isFocused(name: string): bool {
+        let item = test.window.activeFocusItem;
+        while (item !== null && item.objectName !== name)
+            item = item.parent;
+        return item !== null;
+    }
+
+    /// Presses Tab until the item with this name has the keyboard.
+    function tabTo(name: string) {
+        for (let presses = 0; presses < 40 && !test.isFocused(name); ++presses)
+            keyClick(Qt.Key_Tab);
+        verify(test.isFocused(name), name + " is reached by Tab");
+    }
+
+    function type(text: string) {
+        for (const letter of text)
+            keyClick(letter);
+    }
+
+    function clickOn(name: string, within: QtObject) {
+        test.click(test.item(name, within));
+    }
+
+    /// In the middle, where it must be in the window and in use.
+    function click(target: Item) {
+        tryVerify(() => target.enabled, 5000, target + " is enabled");
+        const middle = target.mapToItem(null, target.width / 2, target.height / 2);
+        verify(middle.x > 0 && middle.x < test.window.width, target + " is in the window");
+        verify(middle.y > 0 && middle.y < test.window.height, target + " is in the window");
+        mouseMove(target);
         mouseClick(target);
     }
 }

@@ -2,18 +2,92 @@
 
 #include "Appearance.h"
 #include "Window.h"
+#include "window/AppsOnDisk.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QQmlContext>
+#include <QQuickWindow>
 #include <QSettings>
 
+#include <algorithm>
 #include <chrono>
+#include <functional>
+#include <vector>
 
 namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kMegabyte = 1024 * 1024;
+constexpr std::int64_t kMegabyte = 1'048'576;
+
+QQuickItem* rootOf(QObject* where)
+{
+    auto* window = qobject_cast<QQuickWindow*>(where);
+    return window != nullptr ? window->contentItem() : qobject_cast<QQuickItem*>(where);
+}
+
+bool isSeen(const QQuickItem& item)
+{
+    return item.isVisible() && item.opacity() > 0;
+}
+
+/// The topmost first.
+std::vector<QQuickItem*> seenChildren(const QQuickItem& item)
+{
+    std::vector<QQuickItem*> children;
+    for (QQuickItem* child : item.childItems()) {
+        if (isSeen(*child))
+            children.push_back(child);
+    }
+    std::reverse(children.begin(), children.end());
+    std::stable_sort(children.begin(), children.end(),
+                     [](const QQuickItem* a, const QQuickItem* b) { return a->z() > b->z(); });
+    return children;
+}
+
+/// The first that fits, of the item and all that can be seen in it.
+QQuickItem* search(QQuickItem& item, const std::function<bool(QQuickItem&)>& fits)
+{
+    for (QQuickItem* child : seenChildren(item)) {
+        if (QQuickItem* found = search(*child, fits))
+            return found;
+    }
+    return fits(item) ? &item : nullptr;
+}
+
+/// What a screen reader is told of an item, null for nothing.
+QAccessibleInterface* spokenOf(QQuickItem& item)
+{
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&item);
+    const QAccessibleInterface* parent = spoken == nullptr ? nullptr : spoken->parent();
+    // Items that are ignored keep their interface, but are no child of any other.
+    return parent != nullptr && parent->indexOfChild(spoken) >= 0 ? spoken : nullptr;
+}
+
+bool isForUse(const QAccessibleInterface& spoken)
+{
+    switch (spoken.role()) {
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::ComboBox:
+    case QAccessible::EditableText:
+    case QAccessible::List:
+    case QAccessible::ListItem:
+    case QAccessible::RadioButton:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isNameless(QQuickItem& item)
+{
+    const QAccessibleInterface* spoken = spokenOf(item);
+    if (spoken == nullptr)
+        return item.activeFocusOnTab() && item.isEnabled();
+    return (item.activeFocusOnTab() || isForUse(*spoken)) && spoken->text(QAccessible::Name).isEmpty();
+}
 
 } // namespace
 
@@ -22,6 +96,7 @@ void Stage::applicationAvailable()
     Window::prepare();
     Appearance::setScheme(Appearance::Scheme::light);
     Appearance::setReducedMotion(true);
+    QAccessible::setActive(true);
 }
 
 void Stage::qmlEngineAvailable(QQmlEngine* engine)
@@ -54,15 +129,13 @@ void Stage::fillHome() const
     m_home->fileOfSize(".cache/spotify/Data/one", 3 * kMegabyte);
     m_home->fileOfSize(".cache/mesa_shader_cache/two", 2 * kMegabyte);
     m_home->fileOfSize(".cache/pip/http/three", 2 * kMegabyte);
-    m_home->fileOfSize("Documents/report.pdf", kMegabyte, 7);
-    m_home->fileOfSize("Downloads/report (1).pdf", kMegabyte, 7);
+    m_home->fileOfSize("Documents/report.txt", kMegabyte, 7);
+    m_home->fileOfSize("Downloads/report (1).txt", kMegabyte, 7);
     m_home->fileOfSize("Videos/holidays/film.mkv", 4 * kMegabyte, 9);
-    // An AppImage is known by these bytes, not by its name.
-    m_home->file("Applications/Sketcher-2.1-x86_64.AppImage", std::string("\x7f"
-                                                                          "ELF\x02\x01\x01\0AI\x02",
-                                                                          11) +
-                                                                  std::string(4096, 'x'));
-    m_home->file(".config/sketcher/settings.ini", "[main]\n");
+    const std::string program = AppsOnDisk::image(*m_home, "Applications/Sketcher-2.1-x86_64.AppImage");
+    AppsOnDisk::launcher(*m_home, "org.example.Sketcher", "Sketcher", program);
+    m_home->fileOfSize(".config/org.example.Sketcher/settings", 8'192);
+    m_home->fileOfSize(".cache/org.example.Sketcher/pictures", 4'096);
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
 }
@@ -80,6 +153,32 @@ bool Stage::isInTrash(const QString& name) const
 QString Stage::content(const QString& name) const
 {
     return QString::fromStdString(TempHome::content(m_home->path(name.toStdString())));
+}
+
+void Stage::write(const QString& name, const QString& content) const
+{
+    m_home->file(name.toStdString(), content.toStdString());
+}
+
+QQuickItem* Stage::find(QObject* where, const QString& name) const
+{
+    QQuickItem* root = rootOf(where);
+    if (root == nullptr)
+        return nullptr;
+    return search(*root, [&](const QQuickItem& item) {
+        return item.objectName() == name && item.width() > 0 && item.height() > 0;
+    });
+}
+
+QStringList Stage::nameless(QObject* window) const
+{
+    QStringList found;
+    (void)search(*rootOf(window), [&](QQuickItem& item) {
+        if (isNameless(item))
+            found += QString::fromUtf8(item.metaObject()->className()) + QLatin1Char(' ') + item.objectName();
+        return false;
+    });
+    return found;
 }
 
 } // namespace orlen

@@ -5,7 +5,9 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -26,11 +28,18 @@ public:
     Q_INVOKABLE [[nodiscard]] bool isInTrash(const QString& name) const;
     /// The content of a file below the home folder.
     Q_INVOKABLE [[nodiscard]] QString content(const QString& name) const;
+    Q_INVOKABLE void write(const QString& name, const QString& content) const;
 
-public Q_SLOTS:
-    void applicationAvailable();
-    void qmlEngineAvailable(QQmlEngine* engine);
-    void cleanupTestCase();
+    /// The item of this object name that can be seen in a window or an item, the topmost if there are
+    /// several; else null. Delegates and popups count too, which `findChild` does not know.
+    Q_INVOKABLE [[nodiscard]] QQuickItem* find(QObject* where, const QString& name) const;
+    /// What can be seen in the window and used, but has no name for a screen reader; a line for each.
+    Q_INVOKABLE [[nodiscard]] QStringList nameless(QObject* window) const;
+
+    // What the test program calls at its stages.
+    Q_INVOKABLE void applicationAvailable();
+    Q_INVOKABLE void qmlEngineAvailable(QQmlEngine* engine);
+    Q_INVOKABLE void cleanupTestCase();
 
 private:
     void fillHome() const;

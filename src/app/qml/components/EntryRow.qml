@@ -63,6 +63,7 @@ Item {
     CheckMark {
         id: check
 
+        objectName: "check"
         anchors.verticalCenter: parent.verticalCenter
         x: 20 + root.indent
         visible: root.checkable
@@ -133,6 +134,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
 
         IconButton {
+            objectName: "look"
             width: 32
             height: 32
             opacity: actions.isWanted ? 1 : 0

@@ -36,6 +36,8 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         activeFocusOnTab: contentHeight > height
+        Accessible.role: Accessible.Pane
+        Accessible.name: root.title
         Keys.onUpPressed: handle.decrease()
         Keys.onDownPressed: handle.increase()
         T.ScrollBar.vertical: ScrollHandle {

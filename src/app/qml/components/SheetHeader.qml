@@ -72,6 +72,7 @@ Item {
     IconButton {
         id: close
 
+        objectName: "closeSheet"
         anchors.right: parent.right
         anchors.rightMargin: 24
         y: 24

@@ -12,8 +12,6 @@ Rectangle {
     signal selected(screen: int)
 
     color: Theme.sidebar
-    Accessible.role: Accessible.List
-    Accessible.name: Strings.screens
 
     ListView {
         id: list
@@ -28,6 +26,8 @@ Rectangle {
         keyNavigationEnabled: false
         spacing: 2
         model: ScreenListModel {}
+        Accessible.role: Accessible.List
+        Accessible.name: Strings.screens
         T.ScrollBar.vertical: ScrollHandle {}
 
         Keys.onUpPressed: root.selected(Math.max(0, root.currentScreen - 1))

@@ -16,6 +16,7 @@ Grid {
     columnSpacing: 4
     rowSpacing: 8
     Accessible.role: Accessible.List
+    Accessible.name: Strings.usedSpace
 
     Repeater {
         model: root.storage

@@ -118,6 +118,7 @@ Item {
     ToggleSwitch {
         id: toggle
 
+        objectName: "switch"
         anchors.right: parent.right
         anchors.rightMargin: 18
         anchors.verticalCenter: parent.verticalCenter

@@ -30,6 +30,7 @@ Item {
     Text {
         id: total
 
+        objectName: "uninstallTotal"
         anchors.right: review.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter

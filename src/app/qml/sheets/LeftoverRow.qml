@@ -46,6 +46,7 @@ Item {
     CheckMark {
         id: mark
 
+        objectName: "check"
         x: 8
         anchors.verticalCenter: parent.verticalCenter
         checked: root.checked

@@ -51,6 +51,7 @@ Item {
         CheckMark {
             id: check
 
+            objectName: "check"
             anchors.verticalCenter: parent.verticalCenter
             x: 20
             tristate: true

@@ -35,12 +35,17 @@ Rectangle {
     Flickable {
         id: page
 
+        objectName: "previewText"
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Text
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         contentHeight: text.height + (cut.visible ? cut.height : 0) + 32
-        T.ScrollBar.vertical: ScrollHandle {}
+        T.ScrollBar.vertical: ScrollHandle {
+            id: pageHandle
+
+            stepSize: pageHandle.size * 0.9
+        }
 
         TextEdit {
             id: text
@@ -87,7 +92,11 @@ Rectangle {
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         model: root.preview
-        T.ScrollBar.vertical: ScrollHandle {}
+        T.ScrollBar.vertical: ScrollHandle {
+            id: namesHandle
+
+            stepSize: namesHandle.size * 0.9
+        }
 
         delegate: Item {
             id: row
@@ -133,16 +142,21 @@ Rectangle {
             }
         }
 
-        footer: Text {
-            x: 24
-            height: root.preview.cut ? implicitHeight : 0
+        footer: Item {
+            height: root.preview.cut ? remark.height : 0
             visible: root.preview.cut
-            topPadding: 8
-            bottomPadding: 8
-            text: Strings.firstNamesOnly
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
+
+            Text {
+                id: remark
+
+                x: 24
+                topPadding: 8
+                bottomPadding: 8
+                text: Strings.firstNamesOnly
+                textFormat: Text.PlainText
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+            }
         }
     }
 
@@ -170,5 +184,14 @@ Rectangle {
             color: Theme.secondary
             font.pixelSize: Theme.bodySize
         }
+    }
+
+    /// Scrolls by about a page; by -1 or 1.
+    function turnPage(by: int) {
+        const handle = names.visible ? namesHandle : pageHandle;
+        if (by > 0)
+            handle.increase();
+        else
+            handle.decrease();
     }
 }

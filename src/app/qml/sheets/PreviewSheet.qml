@@ -1,7 +1,8 @@
 import QtQuick
 import Orlen.App
 
-/// Looks into one file without another program. Space and Escape close it; the arrows go on to the next one.
+/// Looks into one file without another program. Space and Escape close it; the arrows go on to the next one,
+/// the page keys scroll.
 Sheet {
     id: root
 
@@ -42,6 +43,8 @@ Sheet {
                 root.stepRequested(1);
             else if (event.key === Qt.Key_Up || event.key === Qt.Key_Left)
                 root.stepRequested(-1);
+            else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp)
+                area.turnPage(event.key === Qt.Key_PageDown ? 1 : -1);
             else
                 event.accepted = false;
         }
@@ -64,6 +67,9 @@ Sheet {
         }
 
         PreviewArea {
+            id: area
+
+            objectName: "previewArea"
             anchors.top: header.bottom
             anchors.bottom: footer.top
             width: parent.width

@@ -12,6 +12,8 @@ Sheet {
     wantedHeight: Math.round(620 * Theme.textScale)
 
     contentItem: FocusScope {
+        focus: true
+
         Text {
             id: heading
 
@@ -48,6 +50,7 @@ Sheet {
         Flickable {
             id: flickable
 
+            objectName: "shortcutKeys"
             anchors.fill: parent
             anchors.topMargin: heading.y + heading.height + 19
             anchors.bottomMargin: Theme.sheetRadius / 2
@@ -56,6 +59,8 @@ Sheet {
             clip: true
             focus: true
             activeFocusOnTab: contentHeight > height
+            Accessible.role: Accessible.Pane
+            Accessible.name: root.title
             Keys.onUpPressed: handle.decrease()
             Keys.onDownPressed: handle.increase()
             T.ScrollBar.vertical: ScrollHandle {

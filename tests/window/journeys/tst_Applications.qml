@@ -1,0 +1,56 @@
+import QtQuick
+import QtTest
+import Orlen.App
+
+/// An application and what it left, out of the way.
+Journey {
+    id: test
+
+    name: "Applications"
+
+    function initTestCase() {
+        test.openOnboarded();
+        keyClick(Qt.Key_6, Qt.ControlModifier);
+    }
+
+    function cleanupTestCase() {
+        test.shut();
+    }
+
+    function test_1_theSearchFindsIt() {
+        test.clickOn("appSearch");
+        test.type("sketch");
+        tryCompare(test.item("appList"), "count", 1);
+        compare(test.row("appList", 0).name, "Sketcher");
+    }
+
+    function test_2_itsLeftoversAreListed() {
+        test.click(test.row("appList", 0));
+        tryCompare(test.item("leftoverList"), "count", 3);
+        const total = test.item("uninstallTotal").text;
+        test.click(test.row("leftoverList", 2));
+        compare(test.row("leftoverList", 2).checked, false);
+        verify(test.item("uninstallTotal").text !== total);
+        test.clickOn("leftoversAll");
+        compare(test.row("leftoverList", 2).checked, true);
+        test.clickOn("check", test.row("leftoverList", 2));
+        compare(test.row("leftoverList", 2).checked, false);
+    }
+
+    function test_3_theReviewListsAllOfIt() {
+        test.clickOn("reviewUninstall");
+        compare(test.item("planTitle").text, "Uninstall Sketcher");
+        verify(test.item("reviewLead").text.startsWith("3 items will be moved to the Trash."));
+        verify(stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
+    }
+
+    function test_4_theCleanUpMovesItToTheTrash() {
+        test.clickOn("primaryAction");
+        test.item("cleaningDone");
+        compare(test.item("cleaningTitle").text, "3 moved to the Trash");
+        verify(!stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
+        verify(stage.isInTrash("Sketcher-2.1-x86_64.AppImage"));
+        test.clickOn("cleaningDone");
+        tryCompare(test.item("appList"), "count", 0);
+    }
+}

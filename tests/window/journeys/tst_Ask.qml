@@ -1,0 +1,56 @@
+import QtQuick
+import QtTest
+import Orlen.App
+
+/// Questions about the storage, and the way from an answer to what it is about.
+Journey {
+    id: test
+
+    name: "Ask"
+
+    function initTestCase() {
+        test.openScanned();
+        keyClick(Qt.Key_3, Qt.ControlModifier);
+    }
+
+    function cleanupTestCase() {
+        test.shut();
+    }
+
+    function test_1_aSuggestionIsAQuestion() {
+        test.clickOn("suggestion-2");
+        tryCompare(test.item("conversation"), "count", 2);
+        compare(test.row("conversation", 0).text, "What can I safely free up?");
+        verify(!test.isShown("suggestion-0"));
+    }
+
+    function test_2_aTypedQuestionIsAnswered() {
+        tryVerify(() => test.isFocused("askField"));
+        compare(test.item("sendQuestion").enabled, false);
+        test.type("how big are the caches");
+        test.clickOn("sendQuestion");
+        tryCompare(test.item("conversation"), "count", 4);
+        compare(test.item("askField").text, "");
+        compare(test.row("conversation", 2).text, "how big are the caches");
+        verify(test.row("conversation", 3).text !== "");
+        keyClick(Qt.Key_Up);
+        compare(test.item("askField").text, "how big are the caches");
+        keyClick(Qt.Key_Escape);
+        compare(test.item("askField").text, "");
+    }
+
+    function test_3_aLinkOpensTheFinding() {
+        test.clickOn("answerLink-caches", test.row("conversation", 3));
+        compare(test.row("findingEntries", 0).name, "spotify");
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("findingEntries"));
+        compare(test.window.navigation.screen, Navigation.Ask);
+    }
+
+    function test_4_enterSends() {
+        test.clickOn("askField");
+        test.type("duplicates");
+        keyClick(Qt.Key_Return);
+        tryCompare(test.item("conversation"), "count", 6);
+    }
+}

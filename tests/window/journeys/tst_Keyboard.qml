@@ -1,0 +1,130 @@
+import QtQuick
+import QtTest
+import Orlen.App
+
+/// The same way as a new user's, with no pointer at all.
+Journey {
+    id: test
+
+    name: "Keyboard"
+
+    function initTestCase() {
+        test.open();
+    }
+
+    function cleanupTestCase() {
+        test.shut();
+    }
+
+    function test_1_onboarding() {
+        test.tabTo("continue");
+        keyClick(Qt.Key_Return);
+        test.item("startScan");
+        test.tabTo("startScan");
+    }
+
+    function test_2_everyScreenHasItsKey() {
+        for (let screen = Navigation.Safety; screen >= Navigation.Home; --screen) {
+            keyClick(Qt.Key_1 + screen, Qt.ControlModifier);
+            compare(test.window.navigation.screen, screen);
+        }
+    }
+
+    function test_3_theShortcutsAreShown() {
+        keyClick(Qt.Key_Question, Qt.ControlModifier);
+        const keys = test.item("shortcutKeys");
+        tryVerify(() => test.isFocused("shortcutKeys"));
+        for (let presses = 0; presses < 12; ++presses)
+            keyClick(Qt.Key_Down);
+        compare(keys.contentY, keys.contentHeight - keys.height, "scrolled to the end");
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("shortcutKeys"));
+    }
+
+    /// Moves among the findings as far as this one and opens it.
+    function openFinding(id: string) {
+        test.tabTo("findings");
+        keyClick(Qt.Key_Home);
+        for (let steps = 0; steps < 10 && !test.isFocused("finding-" + id); ++steps)
+            keyClick(Qt.Key_Right);
+        verify(test.isFocused("finding-" + id));
+        keyClick(Qt.Key_Return);
+        test.row("findingEntries", 0);
+        tryVerify(() => test.isFocused("findingEntries"));
+        keyClick(Qt.Key_Down);
+        compare(test.item("findingEntries").currentIndex, 0);
+    }
+
+    function test_4_aPreviewScrolls() {
+        keyClick(Qt.Key_F5);
+        test.item("heroSentence");
+        test.openFinding("duplicates");
+        keyClick(Qt.Key_Space);
+        const text = test.item("previewText");
+        tryVerify(() => text.contentHeight > 3 * text.height);
+        keyClick(Qt.Key_PageDown);
+        verify(text.contentY > text.height / 2 && text.contentY < text.height);
+        keyClick(Qt.Key_PageUp);
+        compare(text.contentY, 0);
+        keyClick(Qt.Key_Space);
+        tryVerify(() => !test.isShown("previewText"));
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("findingEntries"));
+    }
+
+    function test_5_lookAndChoose() {
+        test.openFinding("caches");
+        keyClick(Qt.Key_Space);
+        compare(test.item("previewArea").preview.name, "spotify");
+        keyClick(Qt.Key_Down);
+        compare(test.item("previewArea").preview.name, "mesa_shader_cache");
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("previewArea"));
+        verify(test.item("selectedText").text.startsWith("1 of 2 selected"));
+        keyClick(Qt.Key_Return);
+        verify(test.item("selectedText").text.startsWith("0 of 2 selected"));
+        keyClick(Qt.Key_A, Qt.ControlModifier);
+        verify(test.item("selectedText").text.startsWith("2 of 2 selected"));
+    }
+
+    function test_6_filter() {
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        verify(test.isFocused("entryFilter"));
+        test.type("mesa");
+        tryCompare(test.item("findingEntries"), "count", 1);
+        keyClick(Qt.Key_Escape);
+        tryCompare(test.item("findingEntries"), "count", 2);
+    }
+
+    function test_7_reviewAndClean() {
+        test.tabTo("primaryAction");
+        keyClick(Qt.Key_Space);
+        test.row("planEntries", 4);
+        test.tabTo("planEntries");
+        keyClick(Qt.Key_End);
+        keyClick(Qt.Key_Return);
+        verify(test.item("reviewLead").text.startsWith("2 items "));
+        keyClick(Qt.Key_Left);
+        tryCompare(test.item("planEntries"), "count", 4);
+        test.tabTo("primaryAction");
+        keyClick(Qt.Key_Return);
+        test.item("cleaningDone");
+        verify(stage.isInTrash("mesa_shader_cache"));
+        verify(stage.exists(".cache/pip/http/three"));
+        keyClick(Qt.Key_Return);
+        tryVerify(() => !test.isShown("cleaningTitle"));
+    }
+
+    function test_8_restore() {
+        keyClick(Qt.Key_8, Qt.ControlModifier);
+        test.item("restoreButton");
+        test.tabTo("historyList");
+        keyClick(Qt.Key_Return);
+        tryCompare(test.item("recordItems"), "count", 2);
+        test.tabTo("restoreButton");
+        keyClick(Qt.Key_Space);
+        compare(test.item("historyToast").message, "Restored 2 items.");
+        verify(stage.exists(".cache/spotify/Data/one"));
+        verify(stage.exists(".cache/mesa_shader_cache/two"));
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import QtTest
+import Orlen.App
+
+/// What starts at login, off and on again.
+Journey {
+    id: test
+
+    readonly property string entry: ".config/autostart/notes.desktop"
+
+    name: "StartupItems"
+
+    function initTestCase() {
+        test.openOnboarded();
+        keyClick(Qt.Key_7, Qt.ControlModifier);
+    }
+
+    function cleanupTestCase() {
+        test.shut();
+    }
+
+    /// The row of the agent, wherever the agents of the system put it.
+    function agent(): Item {
+        tryVerify(() => test.item("startupList").count > 0);
+        const list = test.item("startupList");
+        for (let number = 0; number < list.count; ++number) {
+            if (list.itemAtIndex(number).name === "Quick Notes")
+                return list.itemAtIndex(number);
+        }
+        fail("the agent is listed");
+        return null;
+    }
+
+    function test_1_thePointerSwitchesItOff() {
+        compare(test.agent().isOn, true);
+        test.clickOn("switch", test.agent());
+        tryVerify(() => stage.content(test.entry).includes("Hidden=true"));
+        tryVerify(() => !test.agent().isBusy);
+        compare(test.agent().isOn, false);
+    }
+
+    function test_2_theKeyboardSwitchesItOn() {
+        test.tabTo("startupList");
+        const list = test.item("startupList");
+        while (list.currentIndex < list.count - 1 && list.currentItem.name !== "Quick Notes")
+            keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Space);
+        tryVerify(() => !stage.content(test.entry).includes("Hidden=true"));
+        tryVerify(() => !test.agent().isBusy);
+        compare(test.agent().isOn, true);
+        verify(stage.content(test.entry).includes("Name=Quick Notes"));
+    }
+
+    function test_3_whatChangedMeanwhileIsReadAgain() {
+        stage.write(test.entry, "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true\nHidden=true\n");
+        test.clickOn("reloadStartup");
+        tryVerify(() => !test.agent().isOn);
+    }
+
+    function test_4_thisProgramOpensAtLogin() {
+        const own = ".config/autostart/orlen.desktop";
+        compare(test.item("openAtLogin").checked, false);
+        test.clickOn("openAtLogin");
+        tryVerify(() => stage.exists(own) && test.item("openAtLogin").checkable);
+        compare(test.item("openAtLogin").checked, true);
+        test.tabTo("openAtLogin");
+        keyClick(Qt.Key_Space);
+        tryVerify(() => !stage.exists(own) && test.item("openAtLogin").checkable);
+        compare(test.item("openAtLogin").checked, false);
+    }
+}
