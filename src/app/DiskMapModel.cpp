@@ -1,6 +1,7 @@
 #include "app/DiskMapModel.h"
 
 #include "platform/CheckedSum.h"
+#include "platform/Folder.h"
 #include "tools/DiskMap.h"
 
 #include <QThread>
@@ -37,16 +38,24 @@ void DiskMapModel::load()
     // Whoever heard of that may have started a newer load already.
     if (generation != m_generation)
         return;
-    m_loadStop = m_workers.start(
-        [folder = current()](const std::stop_token& stop) { return DiskMap::children(folder, stop); },
-        [this, generation](std::vector<TreeNode> nodes) {
-            if (generation != m_generation)
-                return;
-            setNodes(std::move(nodes));
-            // The same again: a load that this led to is still running.
-            if (generation == m_generation)
-                setLoading(false);
-        });
+    m_loadStop =
+        m_workers.start([folder = current()](const std::stop_token& stop) { return measure(folder, stop); },
+                        [this, generation](Contents contents) {
+                            if (generation != m_generation)
+                                return;
+                            m_isReadable = contents.isReadable;
+                            setNodes(std::move(contents.nodes));
+                            // The same again: a load that this led to is still running.
+                            if (generation == m_generation)
+                                setLoading(false);
+                        });
+}
+
+DiskMapModel::Contents DiskMapModel::measure(const std::string& folder, const std::stop_token& stop)
+{
+    Contents contents{DiskMap::children(folder, stop)};
+    contents.isReadable = !contents.nodes.empty() || isListable(folder);
+    return contents;
 }
 
 void DiskMapModel::up()

@@ -34,6 +34,8 @@ public:
     /// Children of the folder shown, largest first; empty while loading.
     [[nodiscard]] const std::vector<TreeNode>& nodes() const { return m_nodes; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    /// Whether the folder shown could be read when it was last loaded.
+    [[nodiscard]] bool isReadable() const { return m_isReadable; }
     /// Number of the node under the pointer.
     [[nodiscard]] std::optional<std::size_t> hover() const { return m_hover; }
     /// The node under the pointer, for its name and size and to reveal it; null when there is none.
@@ -68,6 +70,13 @@ private:
         Treemap::Size view;
     };
 
+    /// What a load brings.
+    struct Contents {
+        std::vector<TreeNode> nodes;
+        bool isReadable = true;
+    };
+
+    [[nodiscard]] static Contents measure(const std::string& folder, const std::stop_token& stop);
     void setNodes(std::vector<TreeNode> nodes);
     void setLoading(bool isLoading);
     void setPointer(std::optional<Pointer> pointer);
@@ -77,6 +86,7 @@ private:
     std::vector<std::string> m_stack;
     std::vector<TreeNode> m_nodes;
     bool m_isLoading = false;
+    bool m_isReadable = true;
     std::optional<Pointer> m_pointer;
     std::optional<std::size_t> m_hover;
     double m_magnification = 0; ///< since the last time that it led to something

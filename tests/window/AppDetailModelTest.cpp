@@ -86,6 +86,32 @@ TEST(AppDetailModelTest, leadsFromTheChosenLeftoversToTheReview)
     EXPECT_EQ(plan.sections[1].entries[0].path, home.path(".config/org.example.Kite"));
 }
 
+TEST(AppDetailModelTest, isBackAfterAReviewThatWasCancelledAndOnlyThen)
+{
+    const TempHome home;
+    AppsOnDisk::image(home, "Applications/Kite.AppImage");
+    home.fileOfSize(".config/Kite/a", 8'192);
+    home.fileOfSize(".cache/Kite/a", 8'192);
+    Detail d;
+    ASSERT_TRUE(d.show("Kite"));
+    d.detail.toggle(0);
+    const QString chosen = d.detail.chosenText();
+    d.detail.review();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(d.detail.isOpen());
+    d.app.setSheet(std::nullopt);
+    ASSERT_TRUE(waitUntil([&] { return d.detail.isOpen(); }));
+    EXPECT_EQ(d.detail.chosenText(), chosen);
+
+    d.detail.review();
+    const CleanPlan plan = std::get<PlanSheet>(*d.app.sheet()).plan;
+    d.app.confirm(plan, {plan.sections[0].entries.at(0).path});
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(d.detail.isOpen());
+    ASSERT_TRUE(waitUntil([&] { return d.app.cleaning()->finished; }));
+    EXPECT_FALSE(d.detail.isOpen());
+}
+
 TEST(AppDetailModelTest, offersNoLeftoversWhileAnotherCopyUsesThem)
 {
     const TempHome home;

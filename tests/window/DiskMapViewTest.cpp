@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
 
 namespace orlen {
@@ -128,12 +130,20 @@ TEST_F(DiskMapViewTest, saysThatAFolderShowsNothing)
     view.open(1);
     ASSERT_TRUE(settles());
     EXPECT_TRUE(view.isEmpty());
+    EXPECT_TRUE(view.isLocked());
     EXPECT_EQ(view.currentRow(), -1);
     view.step(DiskMapView::Down);
     view.open(-1);
     view.reveal(0);
     EXPECT_EQ(view.describe(-1), "Music · 0 bytes");
+
     TempHome::setMode(home.path("Music"), 0700);
+    QFile::remove(QString::fromStdString(home.path("Music/song.ogg")));
+    QDir().rmdir(QString::fromStdString(home.path("Music/none")));
+    view.load();
+    ASSERT_TRUE(settles());
+    EXPECT_TRUE(view.isEmpty());
+    EXPECT_FALSE(view.isLocked());
 }
 
 TEST_F(DiskMapViewTest, takesPinchesAndTheWheelAlike)

@@ -6,8 +6,10 @@ Item {
     id: root
 
     required property Navigation navigation
-    /// F5 belongs to the screens whose lists it loads anew.
-    readonly property bool hasList: root.navigation.screen === Navigation.Apps || root.navigation.screen === Navigation.Startup
+    /// F5 belongs to the screens whose contents it loads anew, wherever the keyboard is.
+    readonly property bool hasReload: root.navigation.screen === Navigation.DiskMap
+                                      || root.navigation.screen === Navigation.Apps
+                                      || root.navigation.screen === Navigation.Startup
     signal helpRequested
 
     Repeater {
@@ -28,7 +30,7 @@ Item {
 
     Shortcut {
         enabled: root.enabled
-        sequences: root.hasList ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
+        sequences: root.hasReload ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
         onActivated: {
             root.navigation.screen = Navigation.Home;
             AppModel.startScan();

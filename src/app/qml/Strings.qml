@@ -141,7 +141,8 @@ QtObject {
 
     readonly property string diskMapTitle: "Disk Map"
     readonly property string measuring: "Measuring…"
-    readonly property string emptyMap: "Nothing in this folder takes up space, or Orlen may not read it."
+    readonly property string emptyMap: "Nothing in this folder takes up space."
+    readonly property string lockedMap: "Orlen may not look into this folder, or it is no longer there."
     readonly property string goUp: "Go back up"
     readonly property string foldersBetween: "Folders between"
     readonly property string measureAgain: "Measure again"
@@ -213,7 +214,7 @@ QtObject {
     readonly property var shortcutGroups: [
         { title: "Everywhere", shortcuts: [
             { text: "Show a screen", keys: [["Ctrl", "1 … 9"]] },
-            { text: "Start a Smart Scan", keys: [["Ctrl", "R"], ["F5"]] },
+            { text: "Start a Smart Scan", keys: [["Ctrl", "R"]] },
             { text: "Filter the list", keys: [["Ctrl", "F"]] },
             { text: "Next or previous control", keys: [["Tab"], ["Shift", "Tab"]] },
             { text: "Close a sheet", keys: [["Esc"]] },
@@ -223,9 +224,11 @@ QtObject {
         { title: "Lists and cards", shortcuts: [
             { text: "Move", keys: [["←"], ["↑"], ["↓"], ["→"]] },
             { text: "First or last", keys: [["Home"], ["End"]] },
+            { text: "A page up or down", keys: [["PgUp"], ["PgDn"]] },
             { text: "Open", keys: [["Enter"]] },
             { text: "Preview a file", keys: [["Space"]] },
             { text: "Scroll a preview", keys: [["Page Up"], ["Page Down"]] }
+            { text: "Reload the map, apps or startup items", keys: [["F5"]] }
         ] },
         { title: "Disk Map", shortcuts: [
             { text: "Zoom into a folder", keys: [["Enter"]] },

@@ -13,6 +13,8 @@ QtObject {
     readonly property color sidebar: root.dark ? "#181b20" : "#eceef2"
     readonly property color card: root.dark ? "#1d2127" : "#ffffff"
     readonly property color inset: root.dark ? "#252a32" : "#f0f2f5"
+    /// What stands out of an inset: the chosen part of a switch.
+    readonly property color raised: root.dark ? "#3b434f" : "#ffffff"
     readonly property color hover: root.dark ? "#2b313a" : "#e6e9ee"
     readonly property color stroke: root.appearance.highContrast ? root.tertiary
                                                                  : (root.dark ? "#2c323b" : "#e2e5ea")
@@ -56,6 +58,8 @@ QtObject {
     readonly property int captionSize: Math.round(12 * root.textScale)
 
     readonly property int pageMargin: 32
+    /// What a page is wide at most; beyond it stands in the middle.
+    readonly property int contentWidth: Math.round(1320 * Math.max(1, root.textScale * 0.9))
     readonly property int chipRadius: 5
     readonly property int controlRadius: 8
     readonly property int cardRadius: 12
@@ -70,6 +74,11 @@ QtObject {
     readonly property int screenDuration: root.moves ? 160 : 0
     readonly property int sheetInDuration: root.moves ? 140 : 0
     readonly property int sheetOutDuration: root.moves ? 120 : 0
+
+    /// Between the edge of a screen of that width and its content.
+    function sideMargin(width: real): real {
+        return Math.max(root.pageMargin, Math.round((width - root.contentWidth) / 2));
+    }
 
     /// Colours of a rating, by its raw value.
     function ratingText(rating: string): color {

@@ -42,7 +42,11 @@ void AppDetailModel::setApp(AppModel* app)
 {
     if (m_app == app)
         return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
     m_app = app;
+    if (m_app != nullptr)
+        connect(m_app, &AppModel::sheetChanged, this, &AppDetailModel::followSheet);
     Q_EMIT appChanged();
 }
 
@@ -182,7 +186,28 @@ void AppDetailModel::review()
         return;
     CleanPlan plan = Uninstall::plan(m_info, chosen());
     close();
+    m_reviewed = plan.id;
     m_app->setSheet(PlanSheet{std::move(plan)});
+}
+
+void AppDetailModel::followSheet()
+{
+    const auto* review = m_app->sheet() ? std::get_if<PlanSheet>(&*m_app->sheet()) : nullptr;
+    if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
+        return;
+    m_reviewed.reset();
+    // A confirmed review closes too, and only then does the clean-up begin.
+    QMetaObject::invokeMethod(this, &AppDetailModel::resume, Qt::QueuedConnection);
+}
+
+/// Shows the application again as it was left.
+void AppDetailModel::resume()
+{
+    if (m_isOpen || m_app->sheet() || m_app->cleaning())
+        return;
+    setOpen(true);
+    checkRunning();
+    followList();
 }
 
 void AppDetailModel::setOpen(bool isOpen)

@@ -7,12 +7,14 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
 #include <vector>
 
 namespace orlen {
 
 /// One application of the list, with the files that it left as a checklist. Main thread, and needs its event
-/// loop; the disk is read on workers. Closes when its application is no longer listed.
+/// loop; the disk is read on workers. Closes when its application is no longer listed. It closes for the
+/// review too, and is back when that ends without a clean-up.
 class AppDetailModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -120,6 +122,8 @@ private:
     void setRows(std::vector<Row> rows);
     void checkRunning();
     void followList();
+    void followSheet();
+    void resume();
     void rowsChanged(int first, int last);
     [[nodiscard]] std::vector<FileEntry> chosen() const;
 
@@ -133,7 +137,8 @@ private:
     bool m_isRunning = false;
     int m_generation = 0; ///< number of the application that was shown last
     std::stop_source m_stop{std::nostopstate};
-    QTimer m_runningTimer; ///< looks again whether the application still runs
+    std::optional<Uuid> m_reviewed; ///< plan whose review was opened from here and is not over
+    QTimer m_runningTimer;          ///< looks again whether the application still runs
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

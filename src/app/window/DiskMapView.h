@@ -24,6 +24,8 @@ class DiskMapView : public QAbstractListModel {
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
     /// Whether the folder shown was measured and has nothing to show.
     Q_PROPERTY(bool empty READ isEmpty NOTIFY loadingChanged)
+    /// Whether there is nothing to show because the folder may not be read, or is gone.
+    Q_PROPERTY(bool locked READ isLocked NOTIFY loadingChanged)
     /// Whether the start folder is shown.
     Q_PROPERTY(bool atStart READ isAtStart NOTIFY stackChanged)
     /// Name of the folder shown.
@@ -62,6 +64,7 @@ public:
     void setViewHeight(double height);
     [[nodiscard]] bool isLoading() const { return m_map.isLoading(); }
     [[nodiscard]] bool isEmpty() const { return m_isMeasured && !isLoading() && m_tiles.empty(); }
+    [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
     [[nodiscard]] bool isAtStart() const { return m_map.stack().size() == 1; }
     [[nodiscard]] QString folderName() const;
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }

@@ -81,7 +81,9 @@ QString date(TimePoint time)
 
 QString dateAndTime(TimePoint time)
 {
-    return QLocale().toString(local(time), QLocale::ShortFormat);
+    // The short form of a few languages has seconds, which say nothing to anyone here.
+    const QLocale locale;
+    return locale.toString(local(time), locale.dateTimeFormat(QLocale::ShortFormat).remove(":ss"));
 }
 
 QColor colour(OrlenCategory category)

@@ -41,7 +41,10 @@ void FindingListModel::followFindings()
     auto from = m_rows.cbegin();
     const bool onlyFewer = std::all_of(rows.begin(), rows.end(), [&](const Row& row) {
         from = std::find_if(from, m_rows.cend(), [&](const Row& old) { return old.kind == row.kind; });
-        return from++ != m_rows.cend();
+        if (from == m_rows.cend())
+            return false;
+        ++from;
+        return true;
     });
     if (!onlyFewer) {
         beginResetModel();

@@ -24,7 +24,8 @@ T.Button {
         return root.quiet ? "transparent" : Theme.inset;
     }
 
-    implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, 72)
+    // Whole, or its edges are blurred where it stands at the right of something.
+    implicitWidth: Math.ceil(Math.max(implicitContentWidth + leftPadding + rightPadding, 72))
     implicitHeight: root.large ? Theme.mainControlHeight : Theme.controlHeight
     leftPadding: root.quiet ? 10 : 16
     rightPadding: root.quiet ? 10 : 16

@@ -6,10 +6,11 @@ import Orlen.App
 T.CheckBox {
     id: root
 
+    readonly property int side: Math.round(18 * Theme.textScale)
     readonly property bool isMarked: root.checkState !== Qt.Unchecked
 
-    implicitWidth: 18 + leftPadding + rightPadding
-    implicitHeight: 18 + topPadding + bottomPadding
+    implicitWidth: root.side + leftPadding + rightPadding
+    implicitHeight: root.side + topPadding + bottomPadding
     padding: 4
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -17,8 +18,8 @@ T.CheckBox {
     indicator: Rectangle {
         x: root.leftPadding
         y: (root.height - height) / 2
-        width: 18
-        height: 18
+        width: root.side
+        height: root.side
         radius: Theme.chipRadius
         color: root.isMarked ? Theme.accentFill : Theme.card
         border.width: root.isMarked ? 0 : 1.5

@@ -84,11 +84,9 @@ Rectangle {
     Text {
         x: 8
         y: title.y + title.height + 1
-        width: root.width - 16
-        visible: root.isLabelled && y + height <= root.height - 3
+        visible: root.isLabelled && x + width <= root.width - 6 && y + height <= root.height - 3
         text: root.size
         textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.quietInk
         font.pixelSize: Theme.captionSize
         Accessible.ignored: true

@@ -24,6 +24,7 @@ Item {
             anchors.centerIn: parent
             name: root.symbol
             size: Math.round(root.size * 0.5)
+            grows: false
         }
     }
 

@@ -106,13 +106,23 @@ T.AbstractButton {
             anchors.rightMargin: 16
             anchors.baseline: figure.baseline
             horizontalAlignment: Text.AlignRight
-            text: root.amount
+            // The word goes where it would be cut off; the colour and the sign say it too.
+            text: root.selected === "" || wording.advanceWidth < width ? root.amount : "✓ " + root.selected
             textFormat: Text.PlainText
             elide: Text.ElideRight
             color: root.selected === "" ? Theme.tertiary : Theme.accent
             font.pixelSize: Theme.captionSize
             font.weight: root.selected === "" ? Font.Normal : Font.DemiBold
             Accessible.ignored: true
+
+            TextMetrics {
+                id: wording
+
+                font.family: Theme.fontFamily
+                font.pixelSize: Theme.captionSize
+                font.weight: Font.DemiBold
+                text: root.amount
+            }
         }
     }
 

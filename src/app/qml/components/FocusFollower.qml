@@ -23,10 +23,11 @@ Item {
     }
 
     function show(item: Item) {
-        const top = item.mapToItem(root.view.contentItem, 0, 0).y;
+        const top = item.mapToItem(root.view.contentItem, 0, 0).y - root.margin;
+        const bottom = top + item.height + 2 * root.margin;
         const lowest = Math.max(0, root.view.contentHeight - root.view.height);
-        const wanted = Math.max(Math.min(root.view.contentY, top - root.margin),
-                                top + item.height + root.margin - root.view.height);
+        // Of what is higher than the page, the top is shown.
+        const wanted = Math.min(top, Math.max(root.view.contentY, bottom - root.view.height));
         root.view.contentY = Math.max(0, Math.min(lowest, wanted));
     }
 }

@@ -30,7 +30,7 @@ Card {
                 visible: root.prediction.warn
                 name: "exclamationmark.triangle.fill"
                 colour: Theme.reviewText
-                size: Math.round(20 * Theme.textScale)
+                size: 20
             }
 
             Text {
@@ -94,13 +94,27 @@ Card {
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
+
+            // On the line that it names, where the curve does not come before it means it.
+            Text {
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: 8
+                text: Strings.diskFull
+                textFormat: Text.PlainText
+                color: Theme.tertiary
+                font.pixelSize: Theme.captionSize
+                Accessible.ignored: true
+            }
         }
 
         Item {
             width: parent.width
-            height: full.height
+            height: since.height
 
             Text {
+                id: since
+
                 visible: root.prediction.enoughData
                 text: root.prediction.firstDate
                 textFormat: Text.PlainText
@@ -110,24 +124,12 @@ Card {
             }
 
             Text {
-                x: Math.min(chart.now.x - width / 2, full.x - width - 16)
+                x: Math.min(chart.now.x - width / 2, parent.width - width)
                 visible: root.prediction.enoughData
                 text: root.prediction.lastDate
                 textFormat: Text.PlainText
                 color: Theme.tertiary
                 font.pixelSize: Theme.captionSize
-                Accessible.ignored: true
-            }
-
-            Text {
-                id: full
-
-                anchors.right: parent.right
-                text: Strings.diskFull
-                textFormat: Text.PlainText
-                color: Theme.secondary
-                font.pixelSize: Theme.captionSize
-                font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
         }

@@ -12,6 +12,8 @@ Row {
     spacing: 8
 
     Symbol {
+        id: sign
+
         y: Math.max(0, (label.font.pixelSize * 1.25 - height) / 2)
         visible: root.symbol !== ""
         name: root.symbol
@@ -22,7 +24,7 @@ Row {
     Text {
         id: label
 
-        width: root.width - (root.symbol === "" ? 0 : 22)
+        width: root.width - (sign.visible ? sign.width + root.spacing : 0)
         text: root.text
         textFormat: Text.PlainText
         color: root.ink

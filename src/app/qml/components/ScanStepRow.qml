@@ -30,6 +30,7 @@ Item {
             name: "checkmark.circle.fill"
             colour: Theme.safeText
             size: 18
+            grows: false
         }
 
         Rectangle {

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Orlen.App
 
 /// A screen with a header whose content scrolls when it is higher than the window.
@@ -13,23 +12,13 @@ Item {
     default property alias content: column.data
     readonly property alias contentWidth: column.width
 
-    readonly property Item focusItem: root.Window.activeFocusItem
-    onFocusItemChanged: flickable.show(root.focusItem)
+    /// Scrolls as little as shows an item of the page, so that the keyboard is never out of sight.
+    function show(item: Item) {
+        follower.show(item);
+    }
 
     Flickable {
         id: flickable
-
-        /// Scrolls as little as shows an item of the page whole, so that the keyboard is never out of sight.
-        function show(item: Item) {
-            let ancestor = item;
-            while (ancestor !== null && ancestor !== column)
-                ancestor = ancestor.parent;
-            if (ancestor === null)
-                return;
-            const top = item.mapToItem(column, 0, 0).y + column.y - 16;
-            const bottom = top + item.height + 32;
-            flickable.contentY = Math.max(0, Math.min(top, Math.max(flickable.contentY, bottom - flickable.height)));
-        }
 
         anchors.fill: parent
         contentHeight: column.height + 2 * Theme.pageMargin
@@ -47,9 +36,9 @@ Item {
         Column {
             id: column
 
-            x: Theme.pageMargin
+            x: Theme.sideMargin(flickable.width)
             y: Theme.pageMargin
-            width: flickable.width - 2 * Theme.pageMargin
+            width: flickable.width - 2 * x
             spacing: 20
 
             PageHeader {
@@ -62,6 +51,8 @@ Item {
     }
 
     FocusFollower {
+        id: follower
+
         view: flickable
     }
 }

@@ -8,7 +8,7 @@ T.TextField {
 
     implicitWidth: 220
     implicitHeight: Theme.controlHeight
-    leftPadding: 34
+    leftPadding: glass.x + glass.width + 8
     rightPadding: clear.visible ? 34 : 12
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.text
@@ -48,6 +48,8 @@ T.TextField {
     }
 
     Symbol {
+        id: glass
+
         x: 12
         anchors.verticalCenter: parent.verticalCenter
         name: "magnifyingglass"

@@ -45,7 +45,7 @@ Rectangle {
 
         background: Rectangle {
             radius: Theme.controlRadius - 2
-            color: root.current === segment.number ? (Theme.dark ? Theme.hover : Theme.card) : "transparent"
+            color: root.current === segment.number ? Theme.raised : "transparent"
             border.width: root.current === segment.number ? 1 : 0
             border.color: Theme.stroke
 

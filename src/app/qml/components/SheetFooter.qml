@@ -15,10 +15,12 @@ Item {
     property color noteInk: Theme.secondary
     /// Of a second button; none when empty.
     property string cancel: ""
+    property string figureName: ""
+    property string actionName: "primaryAction"
     signal triggered
     signal cancelled
 
-    height: root.shown ? Math.max(Theme.mainControlHeight, remark.height) + 28 : 12
+    height: root.shown ? Math.ceil(Math.max(Theme.mainControlHeight, remark.height)) + 28 : 12
     visible: root.shown
 
     Rectangle {
@@ -41,6 +43,7 @@ Item {
     Text {
         id: total
 
+        objectName: root.figureName
         anchors.right: buttons.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
@@ -66,7 +69,7 @@ Item {
         }
 
         AppButton {
-            objectName: "primaryAction"
+            objectName: root.actionName
             primary: true
             enabled: root.ready
             text: root.action

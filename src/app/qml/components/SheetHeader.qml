@@ -11,10 +11,12 @@ Item {
     property string rating: ""
     property string ratingLabel: ""
     property string ratingSymbol: ""
+    property string closeName: "closeSheet"
     default property alias lines: texts.data
     signal closeRequested
 
-    implicitHeight: Math.max(texts.height, badge.height) + 24 + 18
+    // Whole, as lines of text are not always: the edge below must not lie between two rows of pixels.
+    implicitHeight: Math.ceil(Math.max(texts.height, badge.height)) + 24 + 18
 
     Badge {
         id: badge
@@ -35,7 +37,8 @@ Item {
         anchors.leftMargin: root.symbol === "" ? 0 : 14
         anchors.right: close.left
         anchors.rightMargin: 16
-        y: 22
+        // A title alone stands beside the button.
+        y: Math.round(Math.max(22, 24 + (close.height - height) / 2))
         spacing: 6
 
         Item {
@@ -72,7 +75,7 @@ Item {
     IconButton {
         id: close
 
-        objectName: "closeSheet"
+        objectName: root.closeName
         anchors.right: parent.right
         anchors.rightMargin: 24
         y: 24

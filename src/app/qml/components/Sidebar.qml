@@ -17,8 +17,8 @@ Rectangle {
         id: list
 
         anchors.fill: parent
-        anchors.margins: 12
-        anchors.bottomMargin: footer.height + 24
+        anchors.topMargin: 12
+        anchors.bottomMargin: footer.height + 36
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         currentIndex: root.currentScreen
@@ -37,8 +37,8 @@ Rectangle {
         section.delegate: Text {
             required property string section
 
-            height: Math.round(34 * Theme.textScale)
-            leftPadding: 10
+            height: Math.round(34 * Math.max(1, Theme.textScale * 0.85))
+            leftPadding: 22
             bottomPadding: 6
             verticalAlignment: Text.AlignBottom
             text: section
@@ -49,7 +49,8 @@ Rectangle {
         }
 
         delegate: SidebarRow {
-            width: ListView.view.width
+            x: 12
+            width: ListView.view.width - 24
             isCurrent: root.currentScreen === screen
             focusPolicy: Qt.NoFocus
             onClicked: root.selected(screen)

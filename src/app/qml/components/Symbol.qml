@@ -8,11 +8,15 @@ Image {
     required property string name
     property color colour: Theme.secondary
     property int size: 16
+    /// Whether it grows with the texts, beside which most icons stand.
+    property bool grows: true
 
-    width: root.size
-    height: root.size
-    sourceSize.width: root.size
-    sourceSize.height: root.size
+    readonly property int side: root.grows ? Math.round(root.size * Theme.textScale) : root.size
+
+    width: root.side
+    height: root.side
+    sourceSize.width: root.side
+    sourceSize.height: root.side
     source: root.name === "" ? "" : "image://symbol/" + root.name + "/" + Theme.hex(root.colour)
     Accessible.ignored: true
 }

@@ -6,6 +6,8 @@ import Orlen.App
 Item {
     id: root
 
+    readonly property real sideMargin: Theme.sideMargin(root.width)
+
     AppListModel {
         id: apps
 
@@ -48,7 +50,8 @@ Item {
         anchors.left: parent.left
         anchors.right: search.left
         anchors.top: parent.top
-        anchors.margins: Theme.pageMargin
+        anchors.topMargin: Theme.pageMargin
+        anchors.leftMargin: root.sideMargin
         anchors.rightMargin: 24
         title: Strings.apps
         subtitle: Strings.appsLead
@@ -59,7 +62,7 @@ Item {
 
         objectName: "appSearch"
         anchors.right: parent.right
-        anchors.rightMargin: Theme.pageMargin
+        anchors.rightMargin: root.sideMargin
         anchors.verticalCenter: header.verticalCenter
         width: Math.min(280, root.width * 0.42)
         placeholderText: Strings.searchApps
@@ -72,7 +75,8 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: header.bottom
-        anchors.margins: Theme.pageMargin
+        anchors.leftMargin: root.sideMargin
+        anchors.rightMargin: root.sideMargin
         anchors.topMargin: 20
         height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
 
@@ -131,10 +135,8 @@ Item {
             color: Theme.stroke
         }
 
-        ListView {
+        KeyedList {
             id: list
-
-            property bool pointed: false
 
             function openRow(row: int) {
                 list.currentIndex = row;
@@ -152,13 +154,9 @@ Item {
             topMargin: 8
             bottomMargin: 8
             clip: true
-            boundsBehavior: Flickable.StopAtBounds
             reuseItems: true
             activeFocusOnTab: true
-            keyNavigationEnabled: true
-            highlightMoveDuration: 0
             model: ordered
-            Accessible.role: Accessible.List
             Accessible.name: Strings.apps
             T.ScrollBar.vertical: ScrollHandle {}
 
@@ -166,10 +164,6 @@ Item {
             onActiveFocusChanged: {
                 if (!list.activeFocus && !chosen.open)
                     list.pointed = false;
-            }
-            Keys.onPressed: event => {
-                list.pointed = false;
-                event.accepted = false;
             }
             Keys.onReturnPressed: list.openRow(list.currentIndex)
             Keys.onEnterPressed: list.openRow(list.currentIndex)
@@ -181,7 +175,7 @@ Item {
                 required property int index
 
                 width: ListView.view.width - 7
-                focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
+                focusShown: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     list.forceActiveFocus(Qt.MouseFocusReason);
                     list.pointed = true;

@@ -19,9 +19,9 @@ Item {
     PageHeader {
         id: header
 
-        x: Theme.pageMargin
+        x: Theme.sideMargin(root.width)
         y: Theme.pageMargin
-        width: root.width - 2 * Theme.pageMargin
+        width: root.width - 2 * x
         title: Strings.askTitle
         subtitle: theConversation.introduction
     }

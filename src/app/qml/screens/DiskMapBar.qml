@@ -42,6 +42,7 @@ Item {
 
         IconButton {
             objectName: "diskMapReload"
+            framed: true
             symbol: "arrow.clockwise"
             text: Strings.measureAgain
             onClicked: root.map.load()

@@ -94,9 +94,9 @@ FocusScope {
             EmptyState {
                 anchors.centerIn: parent
                 width: parent.width - 48
-                symbol: "folder.fill"
+                symbol: theMap.locked ? "lock.fill" : "folder.fill"
                 tone: "#1fa3a8"
-                text: Strings.emptyMap
+                text: theMap.locked ? Strings.lockedMap : Strings.emptyMap
                 action: theMap.atStart ? "" : Strings.goUp
                 onTriggered: theMap.up()
             }
@@ -121,13 +121,15 @@ FocusScope {
         font.pixelSize: Theme.smallSize
     }
 
-    // Here and not as shortcuts, so that they win over those of the window while this screen has the keyboard.
-    Keys.onShortcutOverride: event => event.accepted = event.key === Qt.Key_F5
+    Shortcut {
+        enabled: root.enabled
+        sequence: "F5"
+        onActivated: theMap.load()
+    }
+
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_F5 || event.key === Qt.Key_Backspace;
-        if (event.key === Qt.Key_F5)
-            theMap.load();
-        else if (event.key === Qt.Key_Backspace)
+        event.accepted = event.key === Qt.Key_Backspace;
+        if (event.accepted)
             theMap.up();
     }
 

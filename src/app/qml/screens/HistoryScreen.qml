@@ -9,6 +9,7 @@ Item {
 
     /// Of the clean-up whose items are shown; at most one at a time.
     property string openRecord: ""
+    readonly property real sideMargin: Theme.sideMargin(root.width)
 
     HistoryModel {
         id: history
@@ -22,7 +23,7 @@ Item {
 
         objectName: "historyList"
         anchors.fill: parent
-        anchors.leftMargin: Theme.pageMargin
+        anchors.leftMargin: root.sideMargin
         topMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
         boundsBehavior: Flickable.StopAtBounds
@@ -37,7 +38,7 @@ Item {
         T.ScrollBar.vertical: ScrollHandle {}
 
         header: Column {
-            width: list.width - Theme.pageMargin
+            width: list.width - root.sideMargin
             bottomPadding: 20
             spacing: 14
 
@@ -59,7 +60,7 @@ Item {
 
             required property int index
 
-            width: list.width - Theme.pageMargin
+            width: list.width - root.sideMargin
             current: ListView.isCurrentItem
             ringed: card.current && card.Window.activeFocusItem === card
             open: root.openRecord === card.recordId

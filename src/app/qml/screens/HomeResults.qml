@@ -26,9 +26,9 @@ Item {
         Column {
             id: page
 
-            x: Math.round((flickable.width - width) / 2)
+            x: Theme.sideMargin(flickable.width)
             y: Theme.pageMargin
-            width: Math.min(flickable.width - 2 * Theme.pageMargin, 1240)
+            width: flickable.width - 2 * x
             spacing: 24
 
             HomeResultsHeader {

@@ -36,9 +36,9 @@ Item {
     Column {
         id: head
 
-        x: Theme.pageMargin
+        x: Theme.sideMargin(parent.width)
         y: Theme.pageMargin
-        width: parent.width - 2 * Theme.pageMargin
+        width: parent.width - 2 * x
         spacing: 16
 
         Item {
@@ -148,7 +148,7 @@ Item {
         anchors.top: head.bottom
         anchors.topMargin: 10
         anchors.bottom: parent.bottom
-        x: Theme.pageMargin - 4
+        x: head.x - 4
         width: parent.width - 2 * x
         bottomMargin: 16
         clip: true

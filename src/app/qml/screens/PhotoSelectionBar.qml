@@ -22,7 +22,7 @@ Rectangle {
         id: label
 
         anchors.left: parent.left
-        anchors.leftMargin: Theme.pageMargin
+        anchors.leftMargin: Theme.sideMargin(root.width)
         anchors.right: review.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
@@ -39,7 +39,7 @@ Rectangle {
 
         objectName: "reviewPhotos"
         anchors.right: parent.right
-        anchors.rightMargin: Theme.pageMargin
+        anchors.rightMargin: Theme.sideMargin(root.width)
         anchors.verticalCenter: parent.verticalCenter
         primary: true
         enabled: root.selectedText !== ""

@@ -66,6 +66,7 @@ Item {
                 name: "doc.image"
                 colour: Theme.tertiary
                 size: 28
+                grows: false
             }
         }
 

@@ -70,8 +70,8 @@ Item {
     }
 
     Note {
-        x: Theme.pageMargin
-        width: parent.width - 2 * Theme.pageMargin
+        x: Theme.sideMargin(parent.width)
+        width: parent.width - 2 * x
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24
         visible: !root.hasGroups

@@ -9,7 +9,8 @@ ScreenPage {
     subtitle: Strings.safetyLead
 
     TextCardGrid {
-        width: Math.min(root.contentWidth, 1080 * Theme.textScale)
+        width: root.contentWidth
+        most: 3
         texts: Strings.safetySections
         tones: Theme.safetyTones
         beside: true

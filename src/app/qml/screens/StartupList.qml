@@ -6,23 +6,22 @@ Card {
     id: root
 
     required property StartupListModel items
+    /// How much of the page is seen at once.
+    property real pageHeight: 480
+    /// The keyboard has come to this row.
+    signal reached(row: Item)
 
     implicitHeight: root.items.count > 0 ? list.height + 2 : root.items.loading ? placeholder.height + 16 : empty.height + 64
 
-    ListView {
+    KeyedList {
         id: list
 
-        property bool pointed: false
-
         objectName: "startupList"
-        x: 1
         y: 1
-        width: parent.width - 2
+        width: parent.width
         height: contentHeight
         interactive: false
-        keyNavigationEnabled: true
-        activeFocusOnTab: list.count > 0
-        highlightMoveDuration: 0
+        pageHeight: root.pageHeight
         model: root.items
         section.property: "scope"
         section.delegate: Text {
@@ -41,16 +40,12 @@ Card {
             Accessible.role: Accessible.Heading
             Accessible.name: section
         }
-        Accessible.role: Accessible.List
         Accessible.name: Strings.startupItems
+        onCurrentItemChanged: if (list.showsFocus && list.currentItem !== null) root.reached(list.currentItem)
 
         onActiveFocusChanged: {
             if (!list.activeFocus)
                 list.pointed = false;
-        }
-        Keys.onPressed: event => {
-            list.pointed = false;
-            event.accepted = false;
         }
         Keys.onSpacePressed: root.items.toggle(list.currentIndex)
         Keys.onReturnPressed: root.items.toggle(list.currentIndex)
@@ -63,7 +58,7 @@ Card {
 
             width: ListView.view.width
             lineShown: ListView.previousSection === ListView.section
-            focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
+            focusShown: ListView.isCurrentItem && list.showsFocus
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 list.pointed = true;

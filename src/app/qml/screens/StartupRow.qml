@@ -22,8 +22,8 @@ Item {
     Accessible.description: root.program
 
     Rectangle {
-        x: 62
-        width: parent.width - x
+        x: 64
+        width: parent.width - x - 18
         height: 1
         visible: root.lineShown
         color: Theme.stroke

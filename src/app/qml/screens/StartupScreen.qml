@@ -35,6 +35,8 @@ Item {
     }
 
     ScreenPage {
+        id: page
+
         anchors.fill: parent
 
         Item {
@@ -68,6 +70,8 @@ Item {
 
         StartupList {
             width: parent.width
+            pageHeight: page.height
+            onReached: row => page.show(row)
             items: items
         }
 

@@ -10,6 +10,7 @@ Sheet {
 
     objectName: "appSheet"
     title: root.detail.name
+    wantedWidth: Math.round(760 * Math.max(1, Theme.textScale * 0.9))
     wantedHeight: root.detail.removable
                   ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 72))
                   : header.height + advice.height + 76
@@ -73,7 +74,7 @@ Sheet {
                 id: all
 
                 objectName: "leftoversAll"
-                x: 24
+                x: 20
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.detail.count > 0
                 checkState: root.detail.checkState
@@ -87,7 +88,7 @@ Sheet {
                 id: heading
 
                 anchors.left: all.visible ? all.right : parent.left
-                anchors.leftMargin: all.visible ? 10 : 28
+                anchors.leftMargin: all.visible ? 10 : 24
                 anchors.right: figures.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
@@ -103,7 +104,7 @@ Sheet {
                 id: figures
 
                 anchors.right: parent.right
-                anchors.rightMargin: 28
+                anchors.rightMargin: 24
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.detail.count > 0
                 text: root.detail.chosenText
@@ -113,39 +114,29 @@ Sheet {
             }
         }
 
-        ListView {
+        KeyedList {
             id: list
 
-            property bool pointed: true
-
+            pointed: true
             objectName: "leftoverList"
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: strip.bottom
             anchors.bottom: footer.top
-            anchors.leftMargin: 16
+            anchors.leftMargin: 12
             anchors.rightMargin: 2
             topMargin: 8
             bottomMargin: 8
             visible: root.detail.removable
             clip: true
-            boundsBehavior: Flickable.StopAtBounds
             reuseItems: true
-            activeFocusOnTab: list.count > 0
-            keyNavigationEnabled: true
-            highlightMoveDuration: 0
             model: root.detail
-            Accessible.role: Accessible.List
             Accessible.name: heading.text
             T.ScrollBar.vertical: ScrollHandle {}
 
             onActiveFocusChanged: {
                 if (!list.activeFocus)
                     list.pointed = false;
-            }
-            Keys.onPressed: event => {
-                list.pointed = false;
-                event.accepted = false;
             }
             Keys.onSpacePressed: root.detail.toggle(list.currentIndex)
             Keys.onReturnPressed: root.detail.review()
@@ -156,8 +147,8 @@ Sheet {
 
                 required property int index
 
-                width: ListView.view.width - 14
-                focusShown: ListView.isCurrentItem && list.activeFocus && !list.pointed
+                width: ListView.view.width - 10
+                focusShown: ListView.isCurrentItem && list.showsFocus
                 onToggled: {
                     list.pointed = true;
                     list.currentIndex = row.index;
@@ -197,14 +188,19 @@ Sheet {
             }
         }
 
-        AppSheetFooter {
+        SheetFooter {
             id: footer
 
-            anchors.left: parent.left
-            anchors.right: parent.right
             anchors.bottom: parent.bottom
-            visible: root.detail.removable
-            detail: root.detail
+            width: parent.width
+            shown: root.detail.removable
+            note: Strings.trashPromise
+            figure: root.detail.total
+            figureName: "uninstallTotal"
+            action: Strings.reviewAndUninstall
+            actionName: "reviewUninstall"
+            ready: root.detail.ready
+            onTriggered: root.detail.review()
         }
     }
 }

@@ -79,6 +79,7 @@ Sheet {
                     anchors.centerIn: parent
                     name: "trash"
                     size: 30
+                    grows: false
                     opacity: 1 - Math.min(1, root.swell * 2)
                 }
 
@@ -87,6 +88,7 @@ Sheet {
                     name: cleaning.moved > 0 ? "checkmark" : "exclamationmark.triangle.fill"
                     colour: cleaning.moved > 0 ? Theme.safeText : Theme.reviewText
                     size: 40
+                    grows: false
                     scale: root.swell
                     opacity: Math.min(1, Math.max(0, root.swell))
                 }

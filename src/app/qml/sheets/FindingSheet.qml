@@ -115,7 +115,7 @@ Sheet {
         width: list.width - 64
         visible: list.count === 0
         symbol: contents.filter !== "" ? "magnifyingglass" : "checkmark"
-        tone: contents.header.tone
+        tone: contents.header.symbol === "" ? Theme.accentFill : contents.header.tone
         text: contents.filter !== "" ? Strings.nothingMatches : Strings.nothingLeft
         action: contents.filter !== "" ? Strings.clearFilter : ""
         onTriggered: bar.clearFilter()
@@ -128,7 +128,7 @@ Sheet {
         width: parent.width
         shown: contents.header.cleanable && contents.entryCount > 0
         note: Strings.trashPromise
-        figure: contents.selectedSizeText
+        figure: contents.selectedCount > 0 ? contents.selectedSizeText : ""
         action: Strings.reviewAndClean
         ready: contents.selectedCount > 0
         onTriggered: contents.review()

@@ -171,6 +171,7 @@ Rectangle {
             name: root.preview.symbol
             colour: Theme.tertiary
             size: 72
+            grows: false
         }
 
         Text {

@@ -9,39 +9,22 @@ Sheet {
     objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
     wantedWidth: Math.round(560 * Theme.textScale)
-    wantedHeight: Math.round(620 * Theme.textScale)
+    wantedHeight: Math.round(660 * Theme.textScale)
 
     contentItem: FocusScope {
         focus: true
 
-        Text {
-            id: heading
+        SheetHeader {
+            id: header
 
-            x: 24
-            y: 22
-            width: parent.width - 24 - 64
-            text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.titleSize
-            font.weight: Font.Bold
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-
-        IconButton {
-            objectName: "closeShortcuts"
-            anchors.right: parent.right
-            anchors.rightMargin: 16
-            anchors.verticalCenter: heading.verticalCenter
-            symbol: "xmark"
-            text: Strings.close
-            onClicked: root.close()
+            width: parent.width
+            title: root.title
+            closeName: "closeShortcuts"
+            onCloseRequested: root.close()
         }
 
         Rectangle {
-            y: heading.y + heading.height + 18
+            y: header.height
             width: parent.width
             height: 1
             color: Theme.stroke
@@ -52,7 +35,7 @@ Sheet {
 
             objectName: "shortcutKeys"
             anchors.fill: parent
-            anchors.topMargin: heading.y + heading.height + 19
+            anchors.topMargin: header.height + 1
             anchors.bottomMargin: Theme.sheetRadius / 2
             contentHeight: groups.height + 36
             boundsBehavior: Flickable.StopAtBounds
