@@ -199,6 +199,11 @@ Item {
             symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
             tone: "#5b5fe0"
             text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
+            action: search.text === "" ? "" : Strings.clearFilter
+            onTriggered: {
+                search.clear();
+                search.forceActiveFocus(Qt.OtherFocusReason);
+            }
         }
     }
 }

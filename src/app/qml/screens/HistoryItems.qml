@@ -38,7 +38,7 @@ Item {
         anchors.fill: parent
         anchors.topMargin: 9
         anchors.bottomMargin: 8
-        anchors.leftMargin: 8
+        anchors.leftMargin: 6
         anchors.rightMargin: 8
         boundsBehavior: Flickable.StopAtBounds
         clip: true
