@@ -227,7 +227,7 @@ QtObject {
             { text: "A page up or down", keys: [["PgUp"], ["PgDn"]] },
             { text: "Open", keys: [["Enter"]] },
             { text: "Preview a file", keys: [["Space"]] },
-            { text: "Scroll a preview", keys: [["Page Up"], ["Page Down"]] }
+            { text: "Scroll a preview", keys: [["PgUp"], ["PgDn"]] },
             { text: "Reload the map, apps or startup items", keys: [["F5"]] }
         ] },
         { title: "Disk Map", shortcuts: [
