@@ -16,8 +16,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                                   std::chrono::milliseconds(0)};
+constexpr AppModel::Options kQuickPhotos{AppModel::Startup::filesOnly, AppModel::Access::writer,
+                                         std::chrono::milliseconds(0)};
 const QString kShots = QStringLiteral("screenshots");
 const QString kSimilar = QStringLiteral("photoDuplicates");
 
@@ -59,7 +59,7 @@ struct Stage {
         tiles.setGroups(&groups);
     }
 
-    AppModel app{kQuick};
+    AppModel app{kQuickPhotos};
     PhotoGroupsModel groups;
     PhotoTilesModel tiles;
     QAbstractItemModelTester groupsTester{&groups, QAbstractItemModelTester::FailureReportingMode::Fatal};
@@ -107,7 +107,7 @@ TEST(PhotoSetsTest, onlyTheWholeNoteNamesAKeeper)
 TEST(PhotoGroupsModelTest, tellsTheStages)
 {
     const TempHome home;
-    AppModel app(kQuick);
+    AppModel app(kQuickPhotos);
     PhotoGroupsModel groups;
     groups.setApp(&app);
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::BeforeScan);

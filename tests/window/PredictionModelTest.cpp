@@ -12,12 +12,12 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kGB = 1'000'000'000;
+constexpr std::int64_t kGigabyte = 1'000'000'000;
 const TimePoint kNow = std::chrono::system_clock::now();
 
 Snapshot reading(int daysAgo, std::int64_t free, std::map<std::string, std::int64_t> cats)
 {
-    return {kNow - std::chrono::days(daysAgo), free, 500 * kGB, std::move(cats)};
+    return {kNow - std::chrono::days(daysAgo), free, 500 * kGigabyte, std::move(cats)};
 }
 
 QVariant value(const PredictionModel& model, int row, PredictionModel::Role role)
@@ -31,8 +31,10 @@ TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
 {
     const TempHome home;
     Persist::saveSnapshots({
-        reading(7, 100 * kGB, {{"apps", 9 * kGB}, {"media", 8 * kGB}, {"photos", kGB}}),
-        reading(0, 90 * kGB, {{"apps", 12 * kGB}, {"media", 7 * kGB}, {"photos", kGB}}),
+        reading(7, 100 * kGigabyte,
+                {{"apps", 9 * kGigabyte}, {"media", 8 * kGigabyte}, {"photos", kGigabyte}}),
+        reading(0, 90 * kGigabyte,
+                {{"apps", 12 * kGigabyte}, {"media", 7 * kGigabyte}, {"photos", kGigabyte}}),
     });
     AppModel app({.startup = AppModel::Startup::filesOnly});
     PredictionModel model;
@@ -56,7 +58,7 @@ TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
 TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
 {
     const TempHome home;
-    Persist::saveSnapshots({reading(3, 100 * kGB, {{"apps", kGB}, {"system", kGB}})});
+    Persist::saveSnapshots({reading(3, 100 * kGigabyte, {{"apps", kGigabyte}, {"system", kGigabyte}})});
     AppModel app({.startup = AppModel::Startup::filesOnly});
     PredictionModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
