@@ -13,10 +13,10 @@ namespace orlen {
 
 namespace {
 
-using Role = AppListModel::Role;
+using AppRole = AppListModel::Role;
 constexpr auto kFatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 
-QStringList texts(const QAbstractItemModel& model, Role role)
+QStringList texts(const QAbstractItemModel& model, AppRole role)
 {
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row)
@@ -42,9 +42,9 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     const QAbstractItemModelTester tester(&apps, kFatal);
     apps.setApp(&app);
     ASSERT_TRUE(waitUntil([&] { return isSettled(apps); }));
-    EXPECT_EQ(texts(apps, Role::name), (QStringList{"Kite", "Lark", "Wren"}));
-    EXPECT_EQ(texts(apps, Role::origin).back(), "AppImage · ~/Downloads");
-    EXPECT_EQ(texts(apps, Role::size), (QStringList{"41 KB", "41 KB", "41 KB"}));
+    EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Lark", "Wren"}));
+    EXPECT_EQ(texts(apps, AppRole::origin).back(), "AppImage · ~/Downloads");
+    EXPECT_EQ(texts(apps, AppRole::size), (QStringList{"41 KB", "41 KB", "41 KB"}));
     EXPECT_EQ(apps.summary(), "3 applications · 123 KB");
 
     const QSignalSpy resets(&apps, &QAbstractItemModel::modelReset);
@@ -54,7 +54,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     entry.path = gone;
     app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}}}}, {gone});
     ASSERT_TRUE(waitUntil([&] { return apps.count() == 2 && isSettled(apps); }));
-    EXPECT_EQ(texts(apps, Role::name), (QStringList{"Kite", "Wren"}));
+    EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);
     EXPECT_EQ(insertions.count() + resets.count(), 0);
 }
@@ -87,7 +87,7 @@ TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
     shown.setList(&apps);
     shown.setOrder(AppOrderModel::BySize);
     ASSERT_TRUE(waitUntil([&] { return apps.count() == 3 && isSettled(apps); }));
-    EXPECT_EQ(texts(shown, Role::name), (QStringList{"Cedar", "Alder Notes", "Birch"}));
+    EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Cedar", "Alder Notes", "Birch"}));
     EXPECT_EQ(shown.listRow(0), 2);
 
     struct Case {
@@ -101,11 +101,11 @@ TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
                           {"(", {}}}) {
         SCOPED_TRACE(c.query);
         shown.setQuery(c.query);
-        EXPECT_EQ(texts(shown, Role::name), c.names);
+        EXPECT_EQ(texts(shown, AppRole::name), c.names);
     }
     shown.setQuery({});
     shown.setOrder(AppOrderModel::ByName);
-    EXPECT_EQ(texts(shown, Role::name), (QStringList{"Alder Notes", "Birch", "Cedar"}));
+    EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Alder Notes", "Birch", "Cedar"}));
 }
 
 } // namespace orlen

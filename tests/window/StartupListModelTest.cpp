@@ -12,7 +12,7 @@ namespace orlen {
 
 namespace {
 
-using Role = StartupListModel::Role;
+using ItemRole = StartupListModel::Role;
 
 constexpr const char* kEntry = ".config/autostart/kite.desktop";
 constexpr const char* kFolder = ".config/autostart";
@@ -23,15 +23,15 @@ void writeEntry(const TempHome& home, const std::string& name, const std::string
               "[Desktop Entry]\nName=" + label + "\nExec=/usr/bin/kite -x\n");
 }
 
-QVariant value(const StartupListModel& items, const QString& name, Role role)
+QVariant value(const StartupListModel& items, const QString& name, ItemRole role)
 {
-    const auto found = items.match(items.index(0), static_cast<int>(Role::name), name, 1, Qt::MatchExactly);
+    const auto found = items.match(items.index(0), static_cast<int>(ItemRole::name), name, 1, Qt::MatchExactly);
     return found.isEmpty() ? QVariant() : found.front().data(static_cast<int>(role));
 }
 
 int rowOf(const StartupListModel& items, const QString& name)
 {
-    return items.match(items.index(0), static_cast<int>(Role::name), name, 1, Qt::MatchExactly)
+    return items.match(items.index(0), static_cast<int>(ItemRole::name), name, 1, Qt::MatchExactly)
         .value(0)
         .row();
 }
@@ -55,19 +55,19 @@ TEST_F(StartupListModelTest, switchesAnItemAndShowsItAtOnce)
 {
     writeEntry(m_home, "kite.desktop", "Kite");
     ASSERT_TRUE(load(m_items));
-    EXPECT_EQ(value(m_items, "Kite", Role::program), "/usr/bin/kite");
-    EXPECT_EQ(value(m_items, "Kite", Role::path), QString("~/") + kEntry);
-    EXPECT_EQ(value(m_items, "Kite", Role::scope), "Your account");
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), true);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::program), "/usr/bin/kite");
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::path), QString("~/") + kEntry);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::scope), "Your account");
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), true);
 
     const QSignalSpy failures(&m_items, &StartupListModel::failed);
     const int row = rowOf(m_items, "Kite");
     m_items.toggle(row);
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), false);
-    EXPECT_EQ(value(m_items, "Kite", Role::isBusy), true);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isBusy), true);
     m_items.toggle(row); // one change at a time
-    ASSERT_TRUE(waitUntil([&] { return !value(m_items, "Kite", Role::isBusy).toBool(); }));
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), false);
+    ASSERT_TRUE(waitUntil([&] { return !value(m_items, "Kite", ItemRole::isBusy).toBool(); }));
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), false);
     EXPECT_TRUE(TempHome::content(m_home.path(kEntry)).find("Hidden=true") != std::string::npos);
     EXPECT_EQ(failures.count(), 0);
 }
@@ -79,10 +79,10 @@ TEST_F(StartupListModelTest, goesBackAndSaysSoWhenTheChangeFails)
     TempHome::setMode(m_home.path(kFolder), 0500);
     const QSignalSpy failures(&m_items, &StartupListModel::failed);
     m_items.toggle(rowOf(m_items, "Kite"));
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), false);
     ASSERT_TRUE(waitUntil([&] { return failures.count() > 0; }));
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), true);
-    EXPECT_EQ(value(m_items, "Kite", Role::isBusy), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), true);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isBusy), false);
     EXPECT_EQ(failures.front().front(), "Kite couldn't be switched off. Nothing has changed.");
     TempHome::setMode(m_home.path(kFolder), 0700);
 }
@@ -96,11 +96,11 @@ TEST_F(StartupListModelTest, aListReadDuringAChangeDoesNotUndoIt)
     m_items.load();
     bool wasEverOn = false;
     QObject::connect(&m_items, &QAbstractItemModel::dataChanged,
-                     [&] { wasEverOn = wasEverOn || value(m_items, "Kite", Role::isOn).toBool(); });
+                     [&] { wasEverOn = wasEverOn || value(m_items, "Kite", ItemRole::isOn).toBool(); });
     ASSERT_TRUE(waitUntil([&] { return !m_items.isLoading(); }));
     EXPECT_FALSE(wasEverOn);
-    EXPECT_EQ(value(m_items, "Kite", Role::isBusy), false);
-    EXPECT_EQ(value(m_items, "Kite", Role::isOn), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isBusy), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), false);
 }
 
 TEST_F(StartupListModelTest, keepsItsRowsWhenItIsReadAgain)
@@ -113,7 +113,7 @@ TEST_F(StartupListModelTest, keepsItsRowsWhenItIsReadAgain)
     writeEntry(m_home, "b.desktop", "Birch 2");
     ASSERT_TRUE(load(m_items));
     ASSERT_TRUE(birch.isValid());
-    EXPECT_EQ(birch.data(static_cast<int>(Role::name)), "Birch 2");
+    EXPECT_EQ(birch.data(static_cast<int>(ItemRole::name)), "Birch 2");
     EXPECT_EQ(birch.row(), rowOf(m_items, "Alder") + 1);
 }
 
