@@ -9,6 +9,8 @@ find_package(pugixml REQUIRED)
 pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
 pkg_check_modules(HUNSPELL REQUIRED IMPORTED_TARGET hunspell)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(VIPS REQUIRED IMPORTED_TARGET vips)
+find_package(OpenCV REQUIRED COMPONENTS core imgproc dnn)
 
 if(ORLEN_BUILD_TESTS)
     find_package(Qt6 REQUIRED COMPONENTS QuickTest Test)
