@@ -42,10 +42,18 @@ ByteSource bytesOf(int descriptor)
     };
 }
 
-bool isBmp(int descriptor)
+/// Enough bytes to tell any format; fewer are no picture, and libvips cannot take none at all.
+using Start = std::array<std::uint8_t, 4>;
+
+std::optional<Start> startOf(int descriptor)
 {
-    std::array<std::uint8_t, 2> start{};
-    return bytesOf(descriptor)(0, start) == start.size() && start[0] == 'B' && start[1] == 'M';
+    Start start{};
+    return bytesOf(descriptor)(0, start) == start.size() ? std::optional(start) : std::nullopt;
+}
+
+bool isBmp(const Start& start)
+{
+    return start[0] == 'B' && start[1] == 'M';
 }
 
 std::optional<Decoded> decodeBmp(int descriptor)
@@ -96,12 +104,13 @@ Image asRgb(const Image& image)
     return applied(rgb, [](VipsImage* in, VipsImage** out) { return vips_cast_uchar(in, out, nullptr); });
 }
 
-/// Small, in sRGB, lying as it is stored, and wholly in memory.
-Image shrunk(VipsSource* source, VipsFailOn failOn)
+/// Small, in sRGB, lying as it is stored, and wholly in memory. The loader gets its options as text: for a
+/// source libvips 8.14 does not hand on how strict it has to be.
+Image shrunk(VipsSource* source, const char* loaderOptions)
 {
     VipsImage* made = nullptr;
     if (vips_thumbnail_source(source, &made, kThumbnailSide, "height", kThumbnailSide, "size", VIPS_SIZE_DOWN,
-                              "no_rotate", TRUE, "fail_on", failOn, nullptr) != 0)
+                              "no_rotate", TRUE, "option_string", loaderOptions, nullptr) != 0)
         return nullptr;
     const Image rgb = asRgb(Image(made));
     return rgb ? Image(vips_image_copy_memory(rgb.get())) : nullptr;
@@ -130,9 +139,9 @@ bool lacksItsEnd(const Image& image)
 /// Many damaged files are whole but for a few rows or spots, and worth a second, forgiving try.
 Image bestEffort(VipsSource* source)
 {
-    if (Image whole = shrunk(source, VIPS_FAIL_ON_TRUNCATED))
+    if (Image whole = shrunk(source, "[fail_on=truncated]"))
         return whole;
-    Image damaged = shrunk(source, VIPS_FAIL_ON_NONE);
+    Image damaged = shrunk(source, "");
     return damaged && !lacksItsEnd(damaged) ? std::move(damaged) : nullptr;
 }
 
@@ -186,7 +195,10 @@ void prepare()
 
 std::optional<Decoded> decode(int descriptor)
 {
-    std::optional<Decoded> decoded = isBmp(descriptor) ? decodeBmp(descriptor) : decodeOther(descriptor);
+    const std::optional<Start> start = startOf(descriptor);
+    if (!start)
+        return std::nullopt;
+    std::optional<Decoded> decoded = isBmp(*start) ? decodeBmp(descriptor) : decodeOther(descriptor);
     vips_error_clear();
     return decoded;
 }
