@@ -1,6 +1,7 @@
 #include "platform/ChildProcess.h"
 
 #include "platform/PathText.h"
+#include "platform/ProcessStart.h"
 #include "platform/Retrying.h"
 #include "platform/UniqueFd.h"
 
@@ -10,7 +11,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -25,107 +25,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr const char* kNothing = "/dev/null";
 constexpr const char* kUsualPath = "/usr/local/bin:/usr/bin:/bin";
-
-enum class Belonging { ownGroup, ownSession };
-
-/// What a new process starts with: none of this one's descriptors, signal settings and group. The system's
-/// own call is used because a copy of a process with threads may do next to nothing before it becomes
-/// another.
-class Start {
-public:
-    /// Standard output goes to the descriptor; -1 drops it.
-    Start(Belonging belonging, int output)
-    {
-        ::posix_spawn_file_actions_init(&m_files);
-        ::posix_spawnattr_init(&m_attributes);
-        // First of all: the descriptor may have one of the numbers that are opened next.
-        if (output >= 0)
-            note(::posix_spawn_file_actions_adddup2(&m_files, output, STDOUT_FILENO));
-        else
-            note(::posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, kNothing, O_WRONLY, 0));
-        note(::posix_spawn_file_actions_addopen(&m_files, STDIN_FILENO, kNothing, O_RDONLY, 0));
-        note(::posix_spawn_file_actions_addopen(&m_files, STDERR_FILENO, kNothing, O_WRONLY, 0));
-        note(::posix_spawn_file_actions_addclosefrom_np(&m_files, STDERR_FILENO + 1));
-        sigset_t signals;
-        ::sigemptyset(&signals);
-        note(::posix_spawnattr_setsigmask(&m_attributes, &signals));
-        ::sigfillset(&signals);
-        note(::posix_spawnattr_setsigdefault(&m_attributes, &signals));
-        note(::posix_spawnattr_setpgroup(&m_attributes, 0));
-        const int group = belonging == Belonging::ownGroup ? POSIX_SPAWN_SETPGROUP : POSIX_SPAWN_SETSID;
-        note(::posix_spawnattr_setflags(
-            &m_attributes, static_cast<short>(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | group)));
-    }
-    ~Start()
-    {
-        ::posix_spawnattr_destroy(&m_attributes);
-        ::posix_spawn_file_actions_destroy(&m_files);
-    }
-    Start(const Start&) = delete;
-    Start& operator=(const Start&) = delete;
-
-    /// The number of the new process.
-    [[nodiscard]] std::optional<pid_t> operator()(const std::string& program, char* const* arguments,
-                                                  char* const* environment) const
-    {
-        pid_t child = -1;
-        if (m_error != 0 ||
-            ::posix_spawn(&child, program.c_str(), &m_files, &m_attributes, arguments, environment) != 0)
-            return std::nullopt;
-        return child;
-    }
-
-private:
-    void note(int error) { m_error = m_error == 0 ? error : m_error; }
-
-    posix_spawn_file_actions_t m_files{};
-    posix_spawnattr_t m_attributes{};
-    int m_error = 0;
-};
-
-bool hasZeroByte(const std::vector<std::string>& texts)
-{
-    return std::any_of(texts.begin(), texts.end(),
-                       [](const std::string& text) { return text.find('\0') != std::string::npos; });
-}
-
-/// Ends in a null pointer, as the system wants it.
-std::vector<char*> pointers(const std::vector<std::string>& texts)
-{
-    std::vector<char*> list;
-    list.reserve(texts.size() + 1);
-    for (const std::string& text : texts)
-        list.push_back(const_cast<char*>(text.c_str())); // The system only reads them.
-    list.push_back(nullptr);
-    return list;
-}
-
-/// This process's variables but for those that are given.
-std::vector<std::string> environmentWith(const std::vector<std::string>& given)
-{
-    std::vector<std::string> variables = given;
-    for (char** variable = ::environ; variable != nullptr && *variable != nullptr; ++variable) {
-        const std::string_view text(*variable);
-        const std::string_view start = text.substr(0, std::min(text.find('='), text.size() - 1) + 1);
-        if (std::none_of(given.begin(), given.end(),
-                         [&](const std::string& other) { return other.starts_with(start); }))
-            variables.emplace_back(text);
-    }
-    return variables;
-}
-
-std::optional<pid_t> start(const Call& call, Belonging belonging, int output)
-{
-    if (call.arguments.empty() || hasZeroByte(call.arguments) || hasZeroByte(call.environment))
-        return std::nullopt;
-    const std::string program = programPath(call.arguments.front());
-    if (program.empty())
-        return std::nullopt;
-    const std::vector<std::string> environment = environmentWith(call.environment);
-    return Start(belonging, output)(program, pointers(call.arguments).data(), pointers(environment).data());
-}
 
 /// The wait status; nothing when this process was told to leave its children alone and so never hears of it.
 std::optional<int> reaped(pid_t child)
@@ -228,14 +128,16 @@ std::optional<Outcome> run(const Call& call)
     if (::fcntl(reading.get(), F_SETFL, O_NONBLOCK) != 0)
         return std::nullopt;
     const Clock::time_point deadline = Clock::now() + call.limit;
-    const std::optional<pid_t> child = start(call, Belonging::ownGroup, writing.get());
+    const std::optional<pid_t> child =
+        ProcessStart::start(call, ProcessStart::Belonging::ownGroup, {.output = writing.get()});
     writing.reset();
     return child ? Running(*child, std::move(reading)).finish(deadline) : std::nullopt;
 }
 
 bool startDetached(const std::vector<std::string>& arguments)
 {
-    const std::optional<pid_t> child = start({arguments, {}}, Belonging::ownSession, -1);
+    const std::optional<pid_t> child =
+        ProcessStart::start({arguments, {}}, ProcessStart::Belonging::ownSession, {});
     if (!child)
         return false;
     try {

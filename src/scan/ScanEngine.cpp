@@ -8,6 +8,7 @@
 #include "scan/StepGroup.h"
 #include "scan/Walk.h"
 #include "scan/locations/LocationScanners.h"
+#include "scan/photos/PhotoAnalyzer.h"
 
 #include <algorithm>
 #include <chrono>
@@ -42,17 +43,26 @@ Findings findDuplicates(const Walk::Found& found, const std::stop_token& stop)
     return findings;
 }
 
-/// The steps that share one walk of the home folder.
-Findings fileBased(ScanProgress& progress, std::int64_t largeThreshold, const RecentDocuments& recent,
-                   const std::stop_token& stop)
+Findings findPhotos(const Walk::Found& found, const ScanOptions& options, ScanProgress& progress,
+                    const ScanFlag& flag)
 {
+    ImageWorkers workers(options.images);
+    const auto recognize = [&](const std::string& path) { return workers.analyze(path, flag.token()); };
+    return PhotoAnalyzer(progress, flag, recognize).run(found.images);
+}
+
+/// The steps that share one walk of the home folder.
+Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptions& options,
+                   const RecentDocuments& recent)
+{
+    const std::stop_token stop = flag.token();
     const std::string_view largeAndOldLabel = ScanEngine::kSteps[kLargeAndOldStep];
     progress.set(largeAndOldLabel, StepState::running);
     Walk::Found found = Walk::home(progress, stop);
 
     StepGroup group;
     group.add("large", [&] {
-        Findings findings = largeAndOld(found.cands, largeThreshold, Clock::now(), recent, stop);
+        Findings findings = largeAndOld(found.cands, options.largeThreshold, Clock::now(), recent, stop);
         progress.set(largeAndOldLabel, StepState::done);
         return findings;
     });
@@ -61,8 +71,8 @@ Findings fileBased(ScanProgress& progress, std::int64_t largeThreshold, const Re
                       [&] { return findDuplicates(found, stop); });
     });
     group.add("photos", [&] {
-        // Image recognition is not there yet: this step finds nothing.
-        return asStep(progress, ScanEngine::kSteps[kPhotosStep], [] { return Findings(); });
+        return asStep(progress, ScanEngine::kSteps[kPhotosStep],
+                      [&] { return findPhotos(found, options, progress, flag); });
     });
     Findings findings = group.collect();
     findings.emplace_back(FindingKind::caches, std::move(found.taggedCaches));
@@ -112,7 +122,7 @@ std::vector<Finding> ScanEngine::run()
     for (std::size_t step = 0; step < std::size(locationSteps); ++step) {
         group.add("location", [&, step] { return asStep(m_progress, kSteps[step], locationSteps[step]); });
     }
-    group.add("files", [&] { return fileBased(m_progress, m_options.largeThreshold, recent, stop); });
+    group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent); });
     return mergedByKind(group.collect());
 }
 

@@ -1,24 +1,27 @@
 #pragma once
 
 #include "model/Finding.h"
+#include "platform/images/ImageWorkers.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orlen {
 
 struct ScanOptions {
     std::int64_t largeThreshold = 0; ///< bytes from which a file is a large file
+    ImageWorkers::Options images;    ///< who looks at the photos
 };
 
 /// Runs one Smart Scan of the home folder. Made for each scan, run once.
 class ScanEngine {
 public:
-    explicit ScanEngine(ScanOptions options) : m_options(options) {}
+    explicit ScanEngine(ScanOptions options) : m_options(std::move(options)) {}
 
     /// The step labels in their order.
     static constexpr std::array<std::string_view, 10> kSteps{

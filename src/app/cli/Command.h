@@ -45,6 +45,7 @@ std::unique_ptr<Command> makeBreakdownCommand();
 std::unique_ptr<Command> makePredictCommand();
 std::unique_ptr<Command> makeAskCommand();
 std::unique_ptr<Command> makeDuplicatesCommand();
+std::unique_ptr<Command> makePhotosCommand();
 std::unique_ptr<Command> makeMapCommand();
 std::unique_ptr<Command> makeAppsCommand();
 std::unique_ptr<Command> makeLeftoversCommand();

@@ -28,8 +28,8 @@ std::vector<std::unique_ptr<Command>> allCommands()
     std::vector<std::unique_ptr<Command>> commands;
     for (const auto make :
          {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand, makeBreakdownCommand,
-          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makeMapCommand, makeAppsCommand,
-          makeLeftoversCommand, makeUninstallCommand, makeStartupCommand})
+          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makePhotosCommand, makeMapCommand,
+          makeAppsCommand, makeLeftoversCommand, makeUninstallCommand, makeStartupCommand})
         commands.push_back(make());
     return commands;
 }

@@ -1,7 +1,7 @@
 #include "app/Workers.h"
 #include "app/cli/Command.h"
+#include "app/cli/FolderArguments.h"
 #include "app/cli/JsonDocuments.h"
-#include "app/cli/PathArgument.h"
 #include "app/cli/Table.h"
 #include "app/cli/Texts.h"
 #include "clean/Safety.h"
@@ -97,7 +97,7 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
-        const auto folders = checkedFolders(session);
+        const auto folders = FolderArguments::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
         const Search found = searched(session, *folders);
@@ -114,22 +114,6 @@ public:
     }
 
 private:
-    /// Nothing when an argument names no folder that may be read, which has been said.
-    [[nodiscard]] std::optional<std::vector<std::string>> checkedFolders(Session& session) const
-    {
-        std::vector<std::string> folders;
-        for (const std::string& argument : m_arguments) {
-            std::string folder = PathArgument::readableFolder(argument);
-            if (folder.empty() || Safety::protectsContents(folder)) {
-                session.complain(Texts::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
-                                                                               : " is protected."));
-                return std::nullopt;
-            }
-            folders.push_back(std::move(folder));
-        }
-        return folders;
-    }
-
     [[nodiscard]] static Search searched(Session& session, const std::vector<std::string>& folders)
     {
         std::optional<Search> found;

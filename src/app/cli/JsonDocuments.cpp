@@ -17,6 +17,12 @@ double rounded(Seconds duration)
     return std::round(duration.count() * 1000) / 1000;
 }
 
+/// Without the digits that only the change of the number's form adds.
+double shortened(float number)
+{
+    return std::round(static_cast<double>(number) * 1e6) / 1e6;
+}
+
 Json entries(const std::vector<FileEntry>& list)
 {
     Json array = Json::array();
@@ -175,6 +181,25 @@ Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds 
         {"bytesHashed", result.bytesHashed},
         {"seconds", rounded(duration)},
     };
+}
+
+Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos, Seconds duration)
+{
+    Json found = Json::array();
+    for (const Finding& one : findings)
+        found.push_back(finding(one));
+    Json analyzed = Json::array();
+    for (const PhotoInfo& photo : photos) {
+        Json labels = Json::array();
+        for (const ImageLabel& label : photo.labels)
+            labels.push_back({{"label", label.identifier}, {"confidence", shortened(label.confidence)}});
+        analyzed.push_back({{"path", photo.cand.path},
+                            {"width", photo.width},
+                            {"height", photo.height},
+                            {"sharpness", photo.sharpness},
+                            {"labels", std::move(labels)}});
+    }
+    return {{"findings", std::move(found)}, {"photos", std::move(analyzed)}, {"seconds", rounded(duration)}};
 }
 
 Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration)

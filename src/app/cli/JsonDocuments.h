@@ -7,6 +7,7 @@
 #include "model/Finding.h"
 #include "scan/Duplicates.h"
 #include "scan/StorageBreakdown.h"
+#include "scan/photos/PhotoAnalyzer.h"
 #include "tools/TreeNode.h"
 #include "tools/apps/AppInfo.h"
 #include "tools/startup/LaunchItem.h"
@@ -41,6 +42,8 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json answer(const Answer& answer);
 [[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
+[[nodiscard]] Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos,
+                          Seconds duration);
 [[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
 [[nodiscard]] Json apps(const std::vector<AppInfo>& apps);
 [[nodiscard]] Json leftovers(const std::vector<FileEntry>& leftovers);

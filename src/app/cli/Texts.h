@@ -43,6 +43,9 @@ inline constexpr std::string_view kNothingDeleted =
     "Nothing was deleted. The space comes back when you empty the Trash.";
 inline constexpr std::string_view kTrashIsKept = "what lies in the Trash is shown, but never moved again.";
 inline constexpr std::string_view kNoDuplicates = "No duplicate files were found.";
+inline constexpr std::string_view kNoPhotos = "No photos to review were found.";
+inline constexpr std::string_view kNoRecognizer =
+    "no picture could be looked at: the program orlen-recognizer is missing.";
 inline constexpr std::string_view kMeasuringFolder = "Measuring ";
 inline constexpr std::string_view kNoReadableFolder = " is not a folder that can be read.";
 inline constexpr std::string_view kNoTextInDocument = " is not UTF-8, so no document can hold it.";

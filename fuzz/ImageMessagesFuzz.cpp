@@ -1,0 +1,38 @@
+#include "platform/PathText.h"
+#include "platform/images/ImageMessages.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+} // namespace
+
+/// Whatever a recognizer says, what is believed of it is in range, and says the same again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace orlen;
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const auto answer = ImageMessages::decoded(bytes);
+    if (!answer)
+        return 0;
+    require(ImageMessages::encoded(*answer) == bytes);
+    if (!answer->analysis)
+        return 0;
+    require(answer->analysis->width >= 0 && answer->analysis->height >= 0);
+    require(std::isfinite(answer->analysis->sharpness));
+    for (const ImageLabel& label : answer->analysis->labels) {
+        require(label.confidence >= 0 && label.confidence <= 1);
+        require(PathText::isValidUtf8(label.identifier));
+    }
+    if (answer->analysis->print)
+        require(std::isfinite(answer->analysis->print->distance(*answer->analysis->print)));
+    return 0;
+}

@@ -1,0 +1,144 @@
+#include "app/Workers.h"
+#include "app/cli/Command.h"
+#include "app/cli/FindingTable.h"
+#include "app/cli/FolderArguments.h"
+#include "app/cli/JsonDocuments.h"
+#include "app/cli/Texts.h"
+#include "clean/Safety.h"
+#include "model/ByteCount.h"
+#include "model/Rater.h"
+#include "platform/CheckedSum.h"
+#include "platform/images/ImageWorkers.h"
+#include "scan/ScanFlag.h"
+#include "scan/ScanProgress.h"
+#include "scan/Walk.h"
+#include "scan/photos/PhotoAnalyzer.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <QObject>
+
+#include <limits>
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+struct Search {
+    std::vector<PhotoInfo> photos;
+    std::vector<Finding> findings; ///< all five, rated as they would be in a scan
+    Seconds duration{0};
+    bool wasStopped = false;
+};
+
+Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
+{
+    const auto started = std::chrono::steady_clock::now();
+    ScanFlag flag;
+    const std::stop_callback cancel(stop, [&] { flag.cancel(); });
+    const Walk::Found found =
+        folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+    ImageWorkers workers({});
+    const PhotoAnalyzer analyzer(
+        progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
+    Search search{analyzer.analyze(found.images)};
+    search.wasStopped = stop.stop_requested();
+    if (!search.wasStopped)
+        search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos));
+    search.duration = std::chrono::steady_clock::now() - started;
+    return search;
+}
+
+void printFindings(const Search& found)
+{
+    std::vector<Finding> shown;
+    std::int64_t entries = 0;
+    std::int64_t bytes = 0;
+    for (const Finding& finding : found.findings) {
+        if (finding.items.empty())
+            continue;
+        shown.push_back(finding);
+        entries += static_cast<std::int64_t>(finding.items.size());
+        bytes = checkedAdd(bytes, finding.totalSize());
+    }
+    const Colours colours = Session::colours();
+    const std::string headline = shown.empty() ? std::string(Texts::kNoPhotos)
+                                               : Texts::counted(entries, "photo") + ", " + byteCount(bytes);
+    const auto photos = static_cast<std::int64_t>(found.photos.size());
+    Session::print(colours.styled(Style::bold, headline) + '\n' +
+                   colours.styled(Style::dim, Texts::counted(photos, "picture") + " looked at in " +
+                                                  Texts::duration(found.duration.count())) +
+                   '\n');
+    if (!shown.empty())
+        Session::print(
+            '\n' +
+            FindingTable::of(shown, std::numeric_limits<std::size_t>::max()).text(colours, Session::width()));
+}
+
+class PhotosCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("DIR", m_arguments,
+                       "Folders to look into; the image folders of the home folder when there are none");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        Safety::refresh();
+        const auto folders = FolderArguments::checked(session, m_arguments);
+        if (!folders)
+            return ExitStatus::wrongCall;
+        const Search found = searched(session, *folders);
+        if (found.wasStopped) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::photos(found.findings, found.photos, found.duration));
+        else
+            printFindings(found);
+        if (!ImageWorkers::recognizer().empty())
+            return ExitStatus::done;
+        session.complain(Texts::kNoRecognizer);
+        return ExitStatus::someFailed;
+    }
+
+private:
+    [[nodiscard]] static Search searched(Session& session, const std::vector<std::string>& folders)
+    {
+        std::optional<Search> found;
+        ScanProgress progress;
+        QObject receiver;
+        Workers workers(receiver);
+        std::stop_source stop = workers.start(
+            [&folders, &progress](const std::stop_token& token) { return search(folders, progress, token); },
+            [&found](Search result) { found = std::move(result); });
+        session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
+                     [&] {
+                         return Texts::counted(progress.files(), "file") + " examined · " +
+                                Texts::shownPath(progress.current());
+                     }});
+        return std::move(*found);
+    }
+
+    std::vector<std::string> m_arguments;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makePhotosCommand()
+{
+    return std::make_unique<PhotosCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+
+/// What a process that reads untrusted data allows itself.
+namespace orlen::ProcessLimits {
+
+struct Limits {
+    std::size_t memory = 0;                ///< bytes of address space; 0: without limit
+    std::chrono::seconds processorTime{0}; ///< over all its life; ends the process
+};
+
+/// From now on: the limits, no growing file, no core file, no more rights by starting another program.
+/// Whether all of it holds.
+[[nodiscard]] bool apply(const Limits& limits);
+
+/// Ends the process when that much time has passed; a new call replaces the last, 0 takes it back.
+void endAfter(std::chrono::seconds time);
+
+} // namespace orlen::ProcessLimits

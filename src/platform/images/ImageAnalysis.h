@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/images/FeaturePrint.h"
+#include "platform/images/ImageLabel.h"
+
+#include <optional>
+#include <vector>
+
+namespace orlen {
+
+/// All that the photo analysis wants to know about one picture.
+struct ImageAnalysis {
+    int width = 0;  ///< pixels of the whole picture; 0 when unknown
+    int height = 0; ///< as width
+    std::optional<FeaturePrint> print;
+    double sharpness = 0;           ///< see Sharpness
+    std::vector<ImageLabel> labels; ///< most confident first
+};
+
+} // namespace orlen

@@ -1,0 +1,173 @@
+#include "platform/images/ImageMessages.h"
+
+#include "platform/PathText.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+namespace orlen::ImageMessages {
+
+namespace {
+
+constexpr std::uint8_t kNoPicture = 0;
+constexpr std::uint8_t kPicture = 1;
+constexpr std::int32_t kLongestSide = 1'000'000;
+/// The numbers of a print lie between -1 and 1, give or take an error of rounding.
+constexpr float kLargestComponent = 1.01F;
+
+static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 2 + sizeof(FeaturePrint::Vector) +
+                  sizeof(FeaturePrint::Tile) + kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
+              kLongest);
+
+class Writer {
+public:
+    template <typename Number>
+    void put(const Number& number)
+    {
+        static_assert(std::is_trivially_copyable_v<Number>);
+        std::array<char, sizeof(Number)> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init)
+        std::memcpy(bytes.data(), &number, sizeof number);
+        m_bytes.append(bytes.data(), bytes.size());
+    }
+    void put(const std::string& text)
+    {
+        put(static_cast<std::uint8_t>(text.size()));
+        m_bytes += text;
+    }
+    [[nodiscard]] std::string bytes() { return std::move(m_bytes); }
+
+private:
+    std::string m_bytes;
+};
+
+/// Once something was missing or out of range, all that follows is.
+class Reader {
+public:
+    explicit Reader(std::string_view bytes) : m_bytes(bytes) {}
+
+    template <typename Number>
+    Number get()
+    {
+        static_assert(std::is_trivially_copyable_v<Number>);
+        Number number{};
+        if (const std::string_view bytes = take(sizeof number); m_isValid)
+            std::memcpy(&number, bytes.data(), sizeof number);
+        return number;
+    }
+    template <typename Number>
+    Number get(Number least, Number most)
+    {
+        const auto number = get<Number>();
+        require(number >= least && number <= most); // false for what is no number, too
+        return m_isValid ? number : Number{};
+    }
+    std::string text(std::size_t longest)
+    {
+        const std::string_view bytes = take(get<std::uint8_t>());
+        require(!bytes.empty() && bytes.size() <= longest && PathText::isValidUtf8(bytes));
+        return m_isValid ? std::string(bytes) : std::string();
+    }
+    void require(bool holds) { m_isValid = m_isValid && holds; }
+    [[nodiscard]] bool isValid() const { return m_isValid; }
+    [[nodiscard]] bool isAtEnd() const { return m_bytes.empty(); }
+
+private:
+    std::string_view take(std::size_t length)
+    {
+        require(length <= m_bytes.size());
+        if (!m_isValid)
+            return {};
+        const std::string_view taken = m_bytes.substr(0, length);
+        m_bytes.remove_prefix(length);
+        return taken;
+    }
+
+    std::string_view m_bytes;
+    bool m_isValid = true;
+};
+
+bool fits(const ImageLabel& label)
+{
+    return !label.identifier.empty() && label.identifier.size() <= kLongestIdentifier;
+}
+
+void putLabels(Writer& writer, const std::vector<ImageLabel>& labels)
+{
+    const auto fitting = std::count_if(labels.begin(), labels.end(), fits);
+    auto left = static_cast<std::uint8_t>(std::min(kMostLabels, static_cast<std::size_t>(fitting)));
+    writer.put(left);
+    for (const ImageLabel& label : labels) {
+        if (left == 0 || !fits(label))
+            continue;
+        writer.put(label.identifier);
+        writer.put(label.confidence);
+        --left;
+    }
+}
+
+std::vector<ImageLabel> labels(Reader& reader)
+{
+    const auto count = reader.get<std::uint8_t>(0, kMostLabels);
+    std::vector<ImageLabel> labels;
+    for (std::uint8_t i = 0; i < count && reader.isValid(); ++i) {
+        std::string identifier = reader.text(kLongestIdentifier);
+        labels.push_back({std::move(identifier), reader.get(0.0F, 1.0F)});
+    }
+    return labels;
+}
+
+std::optional<FeaturePrint> print(Reader& reader)
+{
+    if (reader.get<std::uint8_t>(0, 1) == 0)
+        return std::nullopt;
+    const auto vector = reader.get<FeaturePrint::Vector>();
+    reader.require(std::all_of(vector.begin(), vector.end(),
+                               [](float number) { return std::abs(number) <= kLargestComponent; }));
+    const auto tile = reader.get<FeaturePrint::Tile>();
+    return FeaturePrint(vector, tile);
+}
+
+} // namespace
+
+std::string encoded(const Answer& answer)
+{
+    Writer writer;
+    writer.put(answer.analysis ? kPicture : kNoPicture);
+    if (!answer.analysis)
+        return writer.bytes();
+    const ImageAnalysis& analysis = *answer.analysis;
+    writer.put(std::int32_t{analysis.width});
+    writer.put(std::int32_t{analysis.height});
+    writer.put(analysis.sharpness);
+    writer.put(static_cast<std::uint8_t>(analysis.print.has_value()));
+    if (analysis.print) {
+        writer.put(analysis.print->vector());
+        writer.put(analysis.print->tile());
+    }
+    putLabels(writer, analysis.labels);
+    return writer.bytes();
+}
+
+std::optional<Answer> decoded(std::string_view bytes)
+{
+    Reader reader(bytes);
+    Answer answer;
+    if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
+        answer.analysis.emplace();
+        answer.analysis->width = reader.get<std::int32_t>(0, kLongestSide);
+        answer.analysis->height = reader.get<std::int32_t>(0, kLongestSide);
+        // The steepest picture there is stays far below.
+        answer.analysis->sharpness = reader.get(0.0, 1e9);
+        answer.analysis->print = print(reader);
+        answer.analysis->labels = labels(reader);
+    }
+    if (!reader.isValid() || !reader.isAtEnd())
+        return std::nullopt;
+    return answer;
+}
+
+} // namespace orlen::ImageMessages

@@ -1,0 +1,91 @@
+#include "platform/images/ImageWorker.h"
+
+#include "platform/ProcessStart.h"
+#include "platform/Retrying.h"
+#include "platform/images/DescriptorSocket.h"
+#include "platform/images/ImageMessages.h"
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/wait.h>
+
+namespace orlen {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+/// Waits until the socket can be read. False when the time is over or the work is stopped.
+bool becomesReadable(int socket, Clock::time_point deadline, const std::stop_token& stop)
+{
+    const UniqueFd stopped(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    if (!stopped.isOpen())
+        return false;
+    const std::stop_callback wake(stop, [&] { (void)::eventfd_write(stopped.get(), 1); });
+    while (true) {
+        const auto left = std::chrono::ceil<milliseconds>(deadline - Clock::now());
+        if (left.count() <= 0)
+            return false;
+        constexpr milliseconds::rep kLongest = 60'000;
+        std::array<pollfd, 2> waiting{{{socket, POLLIN, 0}, {stopped.get(), POLLIN, 0}}};
+        const int ready =
+            ::poll(waiting.data(), waiting.size(), static_cast<int>(std::min(left.count(), kLongest)));
+        if (waiting[1].revents != 0 || (ready < 0 && errno != EINTR))
+            return false;
+        if (ready > 0 && waiting[0].revents != 0)
+            return true;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits,
+                                                  const std::stop_token& stop)
+{
+    auto sockets = DescriptorSocket::makePair();
+    if (!sockets.ok())
+        return nullptr;
+    // The process watches its own time as well: when this program is killed nobody else does.
+    const auto seconds = std::chrono::ceil<std::chrono::seconds>(limits.limit) + std::chrono::seconds(1);
+    const std::optional<pid_t> process =
+        ProcessStart::start({{program, std::to_string(limits.memory), std::to_string(seconds.count())}, {}},
+                            ProcessStart::Belonging::ownGroup, {.input = sockets.value().theirs.get()});
+    if (!process)
+        return nullptr;
+    sockets.value().theirs.reset();
+    std::unique_ptr<ImageWorker> worker(
+        new ImageWorker(*process, std::move(sockets.value().ours), limits.limit));
+    return worker->nextMessage(stop) == ImageMessages::kReady ? std::move(worker) : nullptr;
+}
+
+ImageWorker::~ImageWorker()
+{
+    ::kill(-m_process, SIGKILL); // Not waited for yet, so the number is still its own.
+    (void)retried([&] { return ::waitpid(m_process, nullptr, 0); });
+}
+
+ImageWorker::Outcome ImageWorker::ask(int file, const std::stop_token& stop)
+{
+    if (!DescriptorSocket::sendFile(m_socket.get(), file))
+        return {Outcome::Kind::unreachable, {}};
+    const std::optional<std::string> message = nextMessage(stop);
+    std::optional<ImageMessages::Answer> answer;
+    if (message)
+        answer = ImageMessages::decoded(*message);
+    if (!answer)
+        return {Outcome::Kind::failed, {}};
+    return {Outcome::Kind::answered, std::move(answer->analysis)};
+}
+
+std::optional<std::string> ImageWorker::nextMessage(const std::stop_token& stop) const
+{
+    if (!becomesReadable(m_socket.get(), Clock::now() + m_limit, stop))
+        return std::nullopt;
+    return DescriptorSocket::receive(m_socket.get(), ImageMessages::kLongest);
+}
+
+} // namespace orlen

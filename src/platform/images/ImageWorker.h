@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/UniqueFd.h"
+#include "platform/images/ImageAnalysis.h"
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <sys/types.h>
+
+namespace orlen {
+
+/// One recognizer process, which ends with this object. One call at a time.
+class ImageWorker {
+public:
+    struct Outcome {
+        enum class Kind {
+            answered,
+            unreachable, ///< it had ended before it was asked; the picture had no part in it
+            failed,      ///< it died, said nonsense, was too slow or was stopped: it has to go
+        } kind;
+        std::optional<ImageAnalysis> analysis; ///< present only when answered
+    };
+    struct Limits {
+        std::size_t memory;              ///< bytes of address space
+        std::chrono::milliseconds limit; ///< for starting, and for one picture
+    };
+
+    /// Starts one and waits until it is ready; nothing when it is not.
+    [[nodiscard]] static std::unique_ptr<ImageWorker>
+    started(const std::string& program, const Limits& limits, const std::stop_token& stop);
+
+    /// Kills it.
+    ~ImageWorker();
+    ImageWorker(const ImageWorker&) = delete;
+    ImageWorker& operator=(const ImageWorker&) = delete;
+
+    /// What an open file shows; at once when stopped.
+    [[nodiscard]] Outcome ask(int file, const std::stop_token& stop);
+
+private:
+    ImageWorker(pid_t process, UniqueFd socket, std::chrono::milliseconds limit)
+        : m_process(process), m_socket(std::move(socket)), m_limit(limit)
+    {
+    }
+    [[nodiscard]] std::optional<std::string> nextMessage(const std::stop_token& stop) const;
+
+    pid_t m_process;
+    UniqueFd m_socket;
+    std::chrono::milliseconds m_limit;
+};
+
+} // namespace orlen

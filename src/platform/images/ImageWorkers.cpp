@@ -1,0 +1,149 @@
+#include "platform/images/ImageWorkers.h"
+
+#include "platform/ChildProcess.h"
+#include "platform/FileContent.h"
+#include "platform/OwnProgram.h"
+#include "platform/PathText.h"
+#include "platform/images/ImageWorker.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace orlen {
+
+namespace {
+
+using Outcome = ImageWorker::Outcome;
+
+constexpr unsigned kMostWorkers = 16;
+/// After that many failed starts in a row the recognizer is taken to be unusable.
+constexpr int kMostFailedStarts = 3;
+
+} // namespace
+
+class ImageWorkers::Pool {
+public:
+    explicit Pool(Options options)
+        : m_options(std::move(options)),
+          m_turns(std::clamp(std::thread::hardware_concurrency(), 1U, kMostWorkers))
+    {
+    }
+
+    [[nodiscard]] std::optional<ImageAnalysis> analyze(int file, const std::stop_token& stop)
+    {
+        if (!takeTurn(stop))
+            return std::nullopt;
+        auto [worker, outcome] = answered(file, stop);
+        endTurn(outcome.kind == Outcome::Kind::answered ? std::move(worker) : nullptr);
+        return std::move(outcome.analysis);
+    }
+
+private:
+    using Worker = std::unique_ptr<ImageWorker>;
+
+    /// Asks idle workers until one takes the file, else a new one.
+    [[nodiscard]] std::pair<Worker, Outcome> answered(int file, const std::stop_token& stop)
+    {
+        while (Worker worker = idle()) {
+            Outcome outcome = worker->ask(file, stop);
+            if (outcome.kind != Outcome::Kind::unreachable)
+                return {std::move(worker), std::move(outcome)};
+        }
+        Worker worker = started(stop);
+        if (!worker)
+            return {Worker(), Outcome{Outcome::Kind::failed, {}}};
+        Outcome outcome = worker->ask(file, stop);
+        return {std::move(worker), std::move(outcome)};
+    }
+
+    /// False when stopped before there was a turn.
+    bool takeTurn(const std::stop_token& stop)
+    {
+        std::unique_lock lock(m_lock);
+        if (!m_turnEnded.wait(lock, stop, [&] { return m_turns > 0; }) || stop.stop_requested())
+            return false;
+        --m_turns;
+        return true;
+    }
+
+    void endTurn(Worker worker)
+    {
+        {
+            const std::lock_guard lock(m_lock);
+            ++m_turns;
+            if (worker)
+                m_idle.push_back(std::move(worker));
+        }
+        m_turnEnded.notify_one();
+    }
+
+    [[nodiscard]] Worker idle()
+    {
+        const std::lock_guard lock(m_lock);
+        if (m_idle.empty())
+            return nullptr;
+        Worker worker = std::move(m_idle.back());
+        m_idle.pop_back();
+        return worker;
+    }
+
+    [[nodiscard]] Worker started(const std::stop_token& stop)
+    {
+        if (isUnusable())
+            return nullptr;
+        Worker worker = ImageWorker::started(m_options.program, {m_options.memory, m_options.limit}, stop);
+        const std::lock_guard lock(m_lock);
+        if (worker)
+            m_failedStarts = 0;
+        else if (!stop.stop_requested())
+            ++m_failedStarts;
+        return worker;
+    }
+
+    [[nodiscard]] bool isUnusable()
+    {
+        const std::lock_guard lock(m_lock);
+        return m_failedStarts >= kMostFailedStarts;
+    }
+
+    const Options m_options;
+    std::mutex m_lock;
+    std::condition_variable_any m_turnEnded;
+    unsigned m_turns; ///< calls that may begin
+    std::vector<Worker> m_idle;
+    int m_failedStarts = 0;
+};
+
+std::string ImageWorkers::recognizer()
+{
+    const std::string executable = OwnProgram::executable();
+    if (executable.empty())
+        return {};
+    const std::string_view folder = PathText::parent(executable);
+    for (const std::string_view place : {"orlen-recognizer", "../libexec/orlen/orlen-recognizer"}) {
+        std::string program = PathText::standardized(PathText::join(folder, place));
+        if (!ChildProcess::programPath(program).empty())
+            return program;
+    }
+    return {};
+}
+
+ImageWorkers::ImageWorkers(Options options) : m_pool(std::make_unique<Pool>(std::move(options))) {}
+
+ImageWorkers::~ImageWorkers() = default;
+
+std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, const std::stop_token& stop)
+{
+    if (stop.stop_requested())
+        return std::nullopt;
+    const auto file = openFile(path);
+    if (!file.ok())
+        return std::nullopt;
+    return m_pool->analyze(file.value().get(), stop);
+}
+
+} // namespace orlen

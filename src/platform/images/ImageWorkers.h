@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/images/ImageAnalysis.h"
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+
+namespace orlen {
+
+/// A few recognizers: processes that decode and recognise pictures, each with limits of its own, so that a
+/// picture which crashes, hangs or bloats a decoder costs its time limit and nothing else. They are started
+/// when first needed and end with this object, and with this process. Any thread; each call has one for
+/// itself.
+class ImageWorkers {
+public:
+    struct Options {
+        /// The recognizer's executable; when empty, no picture is recognised.
+        std::string program = recognizer();
+        std::size_t memory = 1'500UL * 1024 * 1024; ///< bytes of address space a worker may use
+        std::chrono::milliseconds limit{10'000};    ///< for one picture
+    };
+
+    /// The recognizer that was built or installed with this program; empty when it is not there.
+    [[nodiscard]] static std::string recognizer();
+
+    explicit ImageWorkers(Options options);
+    ~ImageWorkers();
+    ImageWorkers(const ImageWorkers&) = delete;
+    ImageWorkers& operator=(const ImageWorkers&) = delete;
+
+    /// What a regular file shows. Blocks until a worker has answered; a worker that dies or takes too long is
+    /// replaced. Nothing when the file cannot be opened without following a link, is no picture, or the
+    /// worker did not answer; at once when stopped.
+    [[nodiscard]] std::optional<ImageAnalysis> analyze(const std::string& path, const std::stop_token& stop);
+
+private:
+    class Pool;
+    std::unique_ptr<Pool> m_pool;
+};
+
+} // namespace orlen

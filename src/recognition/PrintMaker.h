@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/images/FeaturePrint.h"
+#include "recognition/RgbImage.h"
+
+#include <optional>
+
+/// Makes feature prints. Pure; any thread.
+namespace orlen::PrintMaker {
+
+/// The print of an upright thumbnail. Nothing for a picture without structure, such as a plain colour.
+[[nodiscard]] std::optional<FeaturePrint> printOf(const RgbImage& image);
+
+} // namespace orlen::PrintMaker

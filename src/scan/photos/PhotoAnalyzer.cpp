@@ -1,0 +1,135 @@
+#include "scan/photos/PhotoAnalyzer.h"
+
+#include "platform/PathText.h"
+#include "platform/ThreadName.h"
+#include "scan/ScanFlag.h"
+#include "scan/ScanProgress.h"
+#include "scan/photos/PhotoGroups.h"
+#include "scan/photos/PhotoRules.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <iterator>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr float kLeastConfidence = 0.15F;
+
+PhotoInfo photoInfo(const Cand& cand, ImageAnalysis analysis)
+{
+    PhotoInfo photo{cand, std::move(analysis.print), analysis.sharpness, {}, analysis.width, analysis.height};
+    for (ImageLabel& label : analysis.labels) {
+        if (label.confidence > kLeastConfidence)
+            photo.labels.push_back({PathText::asciiLower(label.identifier), label.confidence});
+    }
+    return photo;
+}
+
+FileEntry entry(const PhotoInfo& photo, std::string note)
+{
+    FileEntry entry{photo.cand.path, photo.cand.size, photo.cand.modified};
+    entry.note = std::move(note);
+    return entry;
+}
+
+std::string similarNote(const PhotoInfo& keeper)
+{
+    return "Similar to " + std::string(PathText::lastComponent(keeper.cand.path)) + " — keeping the sharpest";
+}
+
+/// Calls the task with 0 to `count` - 1 on all cores.
+template <typename Task>
+void onAllCores(std::size_t count, const Task& task)
+{
+    std::atomic<std::size_t> next{0};
+    const auto work = [&] {
+        for (std::size_t i = next++; i < count; i = next++)
+            task(i);
+    };
+    // The calling thread takes part, so that the work gets done even where no thread can be started.
+    std::vector<std::jthread> threads;
+    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+    for (std::size_t i = 1; i < std::min(count, cores); ++i) {
+        try {
+            threads.emplace_back([&work] {
+                nameThisThread("orlen-photo");
+                work();
+            });
+        } catch (const std::system_error&) {
+            break;
+        }
+    }
+    work();
+}
+
+std::vector<Finding> findingsOf(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
+{
+    constexpr std::array kKinds{FindingKind::photoDuplicates, FindingKind::screenshots, FindingKind::receipts,
+                                FindingKind::memes, FindingKind::blurry};
+    std::array<std::vector<FileEntry>, kKinds.size()> entries;
+    std::vector<bool> isListed(photos.size());
+    for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
+        for (const std::size_t other : group.others) {
+            isListed[other] = true;
+            entries.front().push_back(entry(photos[other], similarNote(photos[group.keeper])));
+        }
+    }
+    for (std::size_t i = 0; i < photos.size(); ++i) {
+        auto verdict = isListed[i] ? std::nullopt : PhotoRules::verdict(photos[i]);
+        if (!verdict)
+            continue;
+        const auto kind = std::find(kKinds.begin(), kKinds.end(), verdict->kind);
+        entries[static_cast<std::size_t>(kind - kKinds.begin())].push_back(
+            entry(photos[i], std::move(verdict->note)));
+    }
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < kKinds.size(); ++i)
+        findings.emplace_back(kKinds[i], std::move(entries[i]));
+    return findings;
+}
+
+} // namespace
+
+std::vector<Finding> PhotoAnalyzer::run(const std::vector<Cand>& images) const
+{
+    if (images.empty())
+        return {};
+    return findingsOf(analyze(images), m_flag.token());
+}
+
+std::vector<PhotoInfo> PhotoAnalyzer::analyze(const std::vector<Cand>& images) const
+{
+    std::mutex lock;
+    std::vector<std::optional<PhotoInfo>> analyzed(images.size());
+    onAllCores(images.size(), [&](std::size_t i) {
+        if (m_flag.isCancelled())
+            return;
+        m_progress.tick(images[i].path);
+        std::optional<ImageAnalysis> analysis = m_recognize(images[i].path);
+        if (!analysis)
+            return;
+        PhotoInfo photo = photoInfo(images[i], std::move(*analysis));
+        const std::lock_guard held(lock);
+        analyzed[i] = std::move(photo);
+    });
+    std::vector<PhotoInfo> photos;
+    for (std::optional<PhotoInfo>& photo : analyzed) {
+        if (photo)
+            photos.push_back(std::move(*photo));
+    }
+    return photos;
+}
+
+std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photos)
+{
+    return findingsOf(photos, {});
+}
+
+} // namespace orlen

@@ -1,0 +1,84 @@
+#include "scan/photos/PhotoRules.h"
+
+#include "platform/LanguageTools.h"
+#include "platform/PathText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <initializer_list>
+#include <string_view>
+
+namespace orlen::PhotoRules {
+
+namespace {
+
+using Words = std::initializer_list<std::string_view>;
+
+constexpr double kSharpEnough = 22.0;
+/// Narrower ones are icons and thumbnails, which have no detail to lose.
+constexpr int kNarrowestBlurry = 301;
+
+/// How the desktops name their screenshots, in small letters.
+constexpr std::string_view kScreenshotNames[] = {
+    "screenshot", "screen shot",  "bildschirmfoto", "capture d",    "captura de",    "captura desde",
+    "schermata",  "schermafdruk", "skjermbilde",    "zrzut ekranu", "снимок экрана", "スクリーンショット",
+};
+constexpr std::string_view kScreenshotFolder = "screenshots";
+
+/// Whether a label of that confidence at least has one of the words in it.
+bool shows(const PhotoInfo& photo, Words words, float confidence)
+{
+    return std::any_of(photo.labels.begin(), photo.labels.end(), [&](const ImageLabel& label) {
+        return label.confidence >= confidence &&
+               std::any_of(words.begin(), words.end(), [&](std::string_view word) {
+                   return label.identifier.find(word) != std::string::npos;
+               });
+    });
+}
+
+bool isNamedScreenshot(const std::string& path)
+{
+    const std::string name = LanguageTools::lowerCase(PathText::lastComponent(path));
+    const std::string_view folder = PathText::lastComponent(PathText::parent(path));
+    return PathText::asciiLower(folder) == kScreenshotFolder ||
+           std::any_of(std::begin(kScreenshotNames), std::end(kScreenshotNames),
+                       [&](std::string_view start) { return name.starts_with(start); });
+}
+
+bool isReceipt(const PhotoInfo& photo)
+{
+    return shows(photo, {"receipt", "invoice"}, 0.2F) || shows(photo, {"document", "paper"}, 0.6F);
+}
+
+bool isMeme(const PhotoInfo& photo)
+{
+    return shows(photo, {"meme"}, 0.2F) ||
+           (shows(photo, {"text"}, 0.5F) &&
+            shows(photo, {"cartoon", "illustration", "comic", "poster", "people"}, 0.3F));
+}
+
+std::string blurryNote(double sharpness)
+{
+    std::array<char, 32> digits{};
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), sharpness, std::chars_format::fixed, 0);
+    return "Sharpness score " + std::string(digits.data(), end.ptr) + " — likely out of focus";
+}
+
+} // namespace
+
+std::optional<Verdict> verdict(const PhotoInfo& photo)
+{
+    if (isNamedScreenshot(photo.cand.path) || shows(photo, {"screenshot"}, 0.3F))
+        return Verdict{FindingKind::screenshots, "Looks like a screenshot"};
+    if (isReceipt(photo))
+        return Verdict{FindingKind::receipts, "Looks like a receipt or document — check before removing"};
+    if (isMeme(photo))
+        return Verdict{FindingKind::memes, "Looks like a meme or captioned image"};
+    if (photo.sharpness < kSharpEnough && photo.width >= kNarrowestBlurry)
+        return Verdict{FindingKind::blurry, blurryNote(photo.sharpness)};
+    return std::nullopt;
+}
+
+} // namespace orlen::PhotoRules

@@ -1,0 +1,278 @@
+#include "recognition/ImageDecoder.h"
+
+#include "recognition/Pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <random>
+
+namespace orlen {
+
+namespace {
+
+using ImageDecoder::Decoded;
+using Pictures::decoded;
+using Pictures::difference;
+using Pictures::encoded;
+using Pictures::kBlue;
+using Pictures::kFour;
+using Pictures::kGreen;
+using Pictures::kRed;
+using Pictures::kWhite;
+using Pictures::Options;
+using Pictures::Quarters;
+using Pictures::quartersOf;
+
+constexpr int kLossless = 2;
+constexpr int kLossy = 40;
+
+bool isWhole(const Decoded& decoded)
+{
+    const RgbImage& image = decoded.thumbnail;
+    return image.width > 0 && image.height > 0 && std::max(image.width, image.height) <= 512 &&
+           image.pixels.size() ==
+               static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3;
+}
+
+std::string bigEndian(std::uint32_t number)
+{
+    std::string bytes;
+    for (const unsigned shift : {24U, 16U, 8U, 0U})
+        bytes += static_cast<char>(number >> shift & 0xFFU);
+    return bytes;
+}
+
+/// A PNG that promises a size and changes hands before its first pixel.
+std::string promising(std::uint32_t width, std::uint32_t height)
+{
+    std::string bytes = encoded({});
+    bytes.replace(16, 8, bigEndian(width) + bigEndian(height));
+    // The check sum of the header, which is read before its numbers are believed.
+    std::uint32_t sum = ~0U;
+    for (const char byte : bytes.substr(12, 17)) {
+        sum ^= static_cast<unsigned char>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1U ^ ((sum & 1U) != 0 ? 0xEDB88320U : 0U);
+    }
+    return bytes.replace(29, 4, bigEndian(~sum));
+}
+
+class ImageDecoderTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        ::setenv("VIPS_WARNING", "off", 1); // Whatever its value, damaged files are not commented upon.
+        ImageDecoder::prepare();
+    }
+};
+
+} // namespace
+
+TEST_F(ImageDecoderTest, everyFormatAndDepthGivesTheSameColours)
+{
+    struct Case {
+        const char* name;
+        Options options;
+        int tolerance;
+    };
+    const Case cases[] = {
+        {"png", {.format = ".png"}, kLossless},
+        {"interlaced png", {.format = ".png[interlace]"}, kLossless},
+        {"png with a palette", {.format = ".png[palette]"}, kLossless},
+        {"png of 16 bit", {.format = ".png", .interpretation = "16 bit"}, kLossless},
+        {"jpeg", {.format = ".jpg[Q=95]"}, kLossy},
+        {"progressive jpeg", {.format = ".jpg[Q=95,interlace]"}, kLossy},
+        {"jpeg of inks",
+         {.quarters = {kWhite, kWhite, {0, 0, 0}, kWhite}, .format = ".jpg[Q=95]", .interpretation = "cmyk"},
+         60},
+        {"tiff", {.format = ".tif[compression=lzw]"}, kLossless},
+        {"tiff of 16 bit", {.format = ".tif", .interpretation = "16 bit"}, kLossless},
+        {"tiff of tiles", {.format = ".tif[tile,tile-width=16,tile-height=16]"}, kLossless},
+        {"webp", {.format = ".webp[lossless]"}, kLossless},
+        {"gif", {.format = ".gif"}, kLossless},
+        {"opaque alpha", {.alpha = 255, .format = ".png"}, kLossless},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const auto picture = decoded(encoded(c.options));
+        ASSERT_TRUE(picture);
+        EXPECT_TRUE(isWhole(*picture));
+        EXPECT_EQ(picture->width, 64);
+        EXPECT_EQ(picture->height, 48);
+        EXPECT_EQ(picture->thumbnail.width, 64) << "never enlarged";
+        EXPECT_LE(difference(quartersOf(picture->thumbnail), c.options.quarters), c.tolerance);
+    }
+}
+
+TEST_F(ImageDecoderTest, greyIsTheSameInAllChannels)
+{
+    for (const char* format : {".png", ".jpg", ".tif", ".webp"}) {
+        SCOPED_TRACE(format);
+        const auto picture = decoded(encoded({.format = format, .interpretation = "grey"}));
+        ASSERT_TRUE(picture);
+        for (const Pictures::Colour& colour : quartersOf(picture->thumbnail)) {
+            EXPECT_NEAR(colour[0], colour[1], 1);
+            EXPECT_NEAR(colour[0], colour[2], 1);
+        }
+    }
+}
+
+TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
+{
+    // How the quarters lie in the file for the upright picture to show red, green, blue, white.
+    const Quarters stored[] = {
+        kFour,
+        {kGreen, kRed, kWhite, kBlue},
+        {kWhite, kBlue, kGreen, kRed},
+        {kBlue, kWhite, kRed, kGreen},
+        {kRed, kBlue, kGreen, kWhite},
+        {kGreen, kWhite, kRed, kBlue},
+        {kWhite, kGreen, kBlue, kRed},
+        {kBlue, kRed, kWhite, kGreen},
+    };
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        SCOPED_TRACE(orientation);
+        const bool isLying = orientation > 4;
+        const auto picture = decoded(encoded({.width = 800,
+                                              .height = 600,
+                                              .quarters = stored[orientation - 1],
+                                              .orientation = orientation,
+                                              .format = ".jpg[Q=95]"}));
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->width, 800) << "as it is stored";
+        EXPECT_EQ(picture->height, 600);
+        EXPECT_EQ(picture->thumbnail.width, isLying ? 384 : 512);
+        EXPECT_EQ(picture->thumbnail.height, isLying ? 512 : 384);
+        EXPECT_LE(difference(quartersOf(picture->thumbnail), kFour), kLossy);
+    }
+}
+
+TEST_F(ImageDecoderTest, whatIsSeenThroughIsWhite)
+{
+    for (const char* kind : {"", "16 bit"}) {
+        SCOPED_TRACE(kind);
+        const auto clear = decoded(encoded({.alpha = 0, .interpretation = kind}));
+        ASSERT_TRUE(clear);
+        EXPECT_LE(difference(quartersOf(clear->thumbnail), {kWhite, kWhite, kWhite, kWhite}), kLossless);
+        const auto half = decoded(encoded({.alpha = 128, .interpretation = kind}));
+        ASSERT_TRUE(half);
+        EXPECT_NEAR(quartersOf(half->thumbnail)[0][0], 255, 2);
+        EXPECT_NEAR(quartersOf(half->thumbnail)[0][1], 127, 2);
+    }
+}
+
+TEST_F(ImageDecoderTest, ofAnAnimationOnlyTheFirstFrameIsSeen)
+{
+    for (const char* format : {".gif", ".webp[lossless]"}) {
+        SCOPED_TRACE(format);
+        const auto picture = decoded(Pictures::animated(format));
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->height, 48);
+        EXPECT_LE(difference(quartersOf(picture->thumbnail), kFour), kLossless);
+    }
+}
+
+TEST_F(ImageDecoderTest, extremeShapesHaveAPixelOnEachSide)
+{
+    for (const auto& [width, height] :
+         {std::pair(1, 1), std::pair(2000, 1), std::pair(1, 2000), std::pair(30'000, 2)}) {
+        SCOPED_TRACE(width);
+        const auto picture = decoded(encoded({.width = width, .height = height}));
+        ASSERT_TRUE(picture);
+        EXPECT_TRUE(isWhole(*picture));
+        EXPECT_EQ(picture->width, width);
+        EXPECT_EQ(picture->height, height);
+    }
+}
+
+TEST_F(ImageDecoderTest, aCameraIsToldByItsNotes)
+{
+    for (const char* format : {".jpg", ".webp"}) {
+        SCOPED_TRACE(format);
+        EXPECT_TRUE(decoded(encoded({.format = format, .cameraMake = "Maker"}))->isFromCamera);
+        EXPECT_FALSE(decoded(encoded({.orientation = 3, .format = format}))->isFromCamera);
+        EXPECT_FALSE(decoded(encoded({.format = format, .cameraMake = "  "}))->isFromCamera);
+    }
+}
+
+TEST_F(ImageDecoderTest, otherFormatsAreNoPicturesWhateverTheyLookLike)
+{
+    const std::string noPictures[] = {
+        "",
+        "B",
+        "BM",
+        "GIF89a",
+        "\xFF\xD8\xFF",
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"64\" height=\"64\"><rect width=\"9\" "
+        "height=\"9\"/></svg>",
+        "%PDF-1.4\n1 0 obj <</Type /Catalog>> endobj\ntrailer <</Root 1 0 R>>\n%%EOF",
+        "P6\n1 1\n255\nabc",
+        "1,2,3\n4,5,6\n",
+    };
+    for (const std::string& bytes : noPictures) {
+        SCOPED_TRACE(bytes.substr(0, 8));
+        EXPECT_FALSE(decoded(bytes));
+    }
+}
+
+TEST_F(ImageDecoderTest, hugePicturesAreRefusedByTheirHeader)
+{
+    struct Case {
+        const char* name;
+        std::uint32_t width;
+        std::uint32_t height;
+    };
+    const Case cases[] = {{"too wide", 30'001, 1},
+                          {"too high", 1, 30'001},
+                          {"too many pixels", 25'001, 10'000},
+                          {"the largest number", 0x7FFFFFFF, 0x7FFFFFFF},
+                          {"nothing", 0, 10}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const auto started = std::chrono::steady_clock::now();
+        EXPECT_FALSE(decoded(promising(c.width, c.height)));
+        EXPECT_LT(std::chrono::steady_clock::now() - started, std::chrono::seconds(1));
+    }
+    EXPECT_TRUE(decoded(promising(64, 48))) << "the promise itself is well made";
+}
+
+TEST_F(ImageDecoderTest, aPictureWithoutItsEndIsKeptOnlyWhenLittleIsMissing)
+{
+    for (const char* format : {".png[compression=0]", ".jpg[Q=90]"}) {
+        SCOPED_TRACE(format);
+        const std::string whole = encoded({.width = 640, .height = 480, .isNoisy = true, .format = format});
+        EXPECT_FALSE(decoded(whole.substr(0, whole.size() * 80 / 100)));
+        EXPECT_FALSE(decoded(whole.substr(0, whole.size() / 3)));
+    }
+    const std::string photo = encoded({.width = 640, .height = 480, .isNoisy = true, .format = ".jpg[Q=90]"});
+    EXPECT_TRUE(decoded(photo.substr(0, photo.size() * 97 / 100)));
+    EXPECT_TRUE(decoded(photo.substr(0, photo.size() - 2))) << "only the mark of the end is missing";
+}
+
+TEST_F(ImageDecoderTest, damagedFilesAreReadOrRefused)
+{
+    std::minstd_rand random(42); // NOLINT(cert-msc51-cpp): the same damage every time
+    for (const char* format : {".png", ".jpg", ".jpg[interlace]", ".tif[compression=lzw]",
+                               ".tif[compression=jpeg]", ".webp", ".gif"}) {
+        SCOPED_TRACE(format);
+        const std::string whole = encoded({.width = 160, .height = 120, .isNoisy = true, .format = format});
+        for (int round = 0; round < 60; ++round) {
+            SCOPED_TRACE(round);
+            std::string bytes = whole;
+            if (round % 3 == 0)
+                bytes.resize(random() % bytes.size());
+            // Most of the traps are in the first bytes, where the sizes stand.
+            const std::size_t reach =
+                round % 3 == 1 ? std::min<std::size_t>(bytes.size(), 400) : bytes.size();
+            for (auto hits = 1 + random() % 20; hits > 0 && reach > 0; --hits)
+                bytes[random() % reach] = static_cast<char>(random());
+            const auto picture = decoded(bytes);
+            EXPECT_TRUE(!picture || isWhole(*picture));
+        }
+    }
+}
+
+} // namespace orlen
