@@ -7,11 +7,14 @@ namespace orlen {
 
 namespace {
 
+constexpr int kPixels = BlockSearch::kBlock * BlockSearch::kBlock;
+
 /// Two blocks multiplied pixel by pixel. Fixed lengths and 16-bit numbers, so that the compiler takes eight
 /// at a time.
-template <int kBlock, int kSide>
 std::int32_t product(const std::int16_t* one, const std::int16_t* other)
 {
+    constexpr int kSide = BlockSearch::kSide;
+    constexpr int kBlock = BlockSearch::kBlock;
     std::int32_t sum = 0;
     for (int y = 0; y < kBlock; ++y) {
         for (int x = 0; x < kBlock; ++x)
@@ -26,86 +29,84 @@ BlockSearch::BlockSearch(const FeaturePrint::Tile& tile)
 {
     std::transform(tile.begin(), tile.end(), m_pixels.begin(),
                    [](std::uint8_t value) { return static_cast<std::int16_t>(value - 128); });
-    // Sums from the tile's corner; those over a block are differences of four of them.
-    constexpr int kEdges = kSide + 1;
-    std::array<std::int32_t, static_cast<std::size_t>(kEdges) * kEdges> values{};
-    std::array<std::int32_t, static_cast<std::size_t>(kEdges) * kEdges> squares{};
-    const auto edge = [](int x, int y) { return static_cast<std::size_t>(y * kEdges + x); };
-    for (int y = 0; y < kSide; ++y) {
-        std::int32_t rowValues = 0;
-        std::int32_t rowSquares = 0;
-        for (int x = 0; x < kSide; ++x) {
-            const std::int32_t value = *pixel({x, y});
-            rowValues += value;
-            rowSquares += value * value;
-            values[edge(x + 1, y + 1)] = values[edge(x + 1, y)] + rowValues;
-            squares[edge(x + 1, y + 1)] = squares[edge(x + 1, y)] + rowSquares;
+    sumUpBlocks();
+}
+
+/// Sums over each column of a block's height, moved down row by row; and over a block's width of those,
+/// moved to the right.
+void BlockSearch::sumUpBlocks()
+{
+    // One level of noise, so that an even block matches nothing.
+    constexpr double kNoise = static_cast<double>(kPixels) * kPixels;
+    std::array<std::int32_t, kSide> sums{};
+    std::array<std::int32_t, kSide> squares{};
+    const auto addRow = [&](int y, int sign) {
+        const std::int16_t* row = pixel({.x = 0, .y = y});
+        for (std::size_t x = 0; x < kSide; ++x) {
+            sums[x] += sign * row[x];
+            squares[x] += sign * row[x] * row[x];
         }
-    }
-    const auto over = [&](const auto& sums, int x, int y) {
-        return sums[edge(x + kBlock, y + kBlock)] - sums[edge(x, y + kBlock)] - sums[edge(x + kBlock, y)] +
-               sums[edge(x, y)];
     };
-    for (int y = 0; y < kPlaces; ++y) {
-        for (int x = 0; x < kPlaces; ++x) {
-            const std::int32_t sum = over(values, x, y);
-            // At most 256 times 128 squared times 256, which only just fits.
-            const std::int64_t spread =
-                std::int64_t{kBlock} * kBlock * over(squares, x, y) - std::int64_t{sum} * sum;
-            sumsAt({x, y}) = {.values = sum, .spread = static_cast<std::int32_t>(spread)};
+    m_blocks.reserve(static_cast<std::size_t>(kPlaces) * kPlaces);
+    for (int y = 0; y < kSide; ++y) {
+        addRow(y, 1);
+        if (y >= kBlock)
+            addRow(y - kBlock, -1);
+        std::int32_t sum = 0;
+        std::int32_t square = 0;
+        for (std::size_t x = 0; y >= kBlock - 1 && x < kSide; ++x) {
+            sum += sums[x] - (x >= kBlock ? sums[x - kBlock] : 0);
+            square += squares[x] - (x >= kBlock ? squares[x - kBlock] : 0);
+            if (x + 1 < kBlock)
+                continue;
+            const double spread = static_cast<double>(kPixels) * square - static_cast<double>(sum) * sum;
+            m_blocks.push_back({.sum = sum,
+                                .deviation = static_cast<float>(std::sqrt(spread)),
+                                .oneByDeviation = static_cast<float>(1 / std::sqrt(spread + kNoise))});
         }
     }
 }
 
-BlockSearch::Sums& BlockSearch::sumsAt(Place place)
+std::vector<TilePlace> BlockSearch::texturedBlocks() const
 {
-    return m_sums[static_cast<std::size_t>(place.y) * kPlaces + static_cast<std::size_t>(place.x)];
+    constexpr float kLeastTexture = 2.0F * kPixels;
+    std::vector<TilePlace> blocks;
+    for (int y = 0; y < kPlaces; y += kBlock) {
+        for (int x = 0; x < kPlaces; x += kBlock) {
+            if (m_blocks[index({x, y})].deviation >= kLeastTexture)
+                blocks.push_back({x, y});
+        }
+    }
+    std::stable_sort(blocks.begin(), blocks.end(), [this](TilePlace one, TilePlace other) {
+        return m_blocks[index(one)].deviation > m_blocks[index(other)].deviation;
+    });
+    return blocks;
 }
 
-const BlockSearch::Sums& BlockSearch::sumsAt(Place place) const
+BlockFind BlockSearch::find(TilePlace block, const BlockSearch& other, int reach) const
 {
-    return m_sums[static_cast<std::size_t>(place.y) * kPlaces + static_cast<std::size_t>(place.x)];
-}
-
-BlockFind BlockSearch::bestFind(Place block, const BlockSearch& other) const
-{
-    constexpr float kMiddle = kPlaces / 2;
-    constexpr float kPixels = kBlock * kBlock;
-    const Sums& own = sumsAt(block);
-    BlockFind best{.x = (static_cast<float>(block.x) - kMiddle) / kMiddle,
-                   .y = (static_cast<float>(block.y) - kMiddle) / kMiddle,
-                   .texture = std::sqrt(static_cast<float>(own.spread)) / kPixels};
-    for (int y = std::max(block.y - kReach, 0); y <= std::min(block.y + kReach, kPlaces - 1); ++y) {
-        for (int x = std::max(block.x - kReach, 0); x <= std::min(block.x + kReach, kPlaces - 1); ++x) {
-            const Sums& there = other.sumsAt({x, y});
-            const std::int32_t common = product<kBlock, kSide>(pixel(block), other.pixel({x, y}));
-            const float covariance = kPixels * static_cast<float>(common) -
-                                     static_cast<float>(own.values) * static_cast<float>(there.values);
-            const float spreads = static_cast<float>(own.spread) * static_cast<float>(there.spread);
-            // One unit of deviation in the other block, so that an even one matches nothing.
-            const float correlation = covariance / (std::sqrt(spreads) + kPixels * kPixels);
-            if (correlation > best.correlation) {
-                best.correlation = correlation;
-                best.moveX = static_cast<float>(x - block.x);
-                best.moveY = static_cast<float>(y - block.y);
+    const Block& own = m_blocks[index(block)];
+    const std::int16_t* pixels = pixel(block);
+    const auto ownSum = static_cast<float>(own.sum);
+    TilePlace best = block;
+    float most = 0;
+    for (int y = std::max(block.y - reach, 0); y <= std::min(block.y + reach, kPlaces - 1); ++y) {
+        for (int x = std::max(block.x - reach, 0); x <= std::min(block.x + reach, kPlaces - 1); ++x) {
+            const Block& there = other.m_blocks[index({x, y})];
+            const auto common = static_cast<float>(product(pixels, other.pixel({x, y})));
+            const float match =
+                (kPixels * common - ownSum * static_cast<float>(there.sum)) * there.oneByDeviation;
+            if (match > most) {
+                most = match;
+                best = {x, y};
             }
         }
     }
-    return best;
-}
-
-std::vector<BlockFind> BlockSearch::findIn(const BlockSearch& other) const
-{
-    constexpr float kLeastTexture = 2;
-    constexpr float kLeastSpread = kLeastTexture * kLeastTexture * kBlock * kBlock * kBlock * kBlock;
-    std::vector<BlockFind> finds;
-    for (int y = 0; y < kPlaces; y += kBlock) {
-        for (int x = 0; x < kPlaces; x += kBlock) {
-            if (static_cast<float>(sumsAt({x, y}).spread) >= kLeastSpread)
-                finds.push_back(bestFind({x, y}, other));
-        }
-    }
-    return finds;
+    return {.block = block,
+            .moveX = static_cast<float>(best.x - block.x),
+            .moveY = static_cast<float>(best.y - block.y),
+            .texture = own.deviation / kPixels,
+            .correlation = most * own.oneByDeviation};
 }
 
 } // namespace orlen

@@ -1,6 +1,8 @@
 #include "platform/images/CommonMotion.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace orlen {
 
@@ -44,9 +46,38 @@ struct Normals {
     }
 };
 
-float along(const std::array<float, 3>& axis, const BlockFind& find)
+/// From the tile's middle, -1 to 1 from side to side.
+float fromMiddle(float pixel)
 {
-    return axis[0] + axis[1] * find.x + axis[2] * find.y;
+    constexpr float kHalf = (BlockSearch::kSide - 1) / 2.0F;
+    return pixel / kHalf - 1;
+}
+
+float middleOf(int block)
+{
+    return static_cast<float>(block) + (BlockSearch::kBlock - 1) / 2.0F;
+}
+
+bool isInside(float at)
+{
+    return at >= 0 && at <= BlockSearch::kSide - 1;
+}
+
+/// The four pixels around a point, each as much as the point is near.
+float between(const FeaturePrint::Tile& tile, float x, float y)
+{
+    constexpr int kLast = BlockSearch::kSide - 2;
+    x = std::clamp(x, 0.0F, kLast + 1.0F);
+    y = std::clamp(y, 0.0F, kLast + 1.0F);
+    const int left = std::min(static_cast<int>(x), kLast);
+    const int top = std::min(static_cast<int>(y), kLast);
+    const float right = x - static_cast<float>(left);
+    const float down = y - static_cast<float>(top);
+    const std::uint8_t* at = tile.data() + top * BlockSearch::kSide + left;
+    const float above = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
+    at += BlockSearch::kSide;
+    const float below = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
+    return (1 - down) * above + down * below;
 }
 
 } // namespace
@@ -65,7 +96,7 @@ CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
             double weight = find.texture * find.correlation * find.correlation;
             if (round > 0)
                 weight /= 1 + motion.squaredMiss(find) / (kTolerance * kTolerance);
-            const Row at{1, find.x, find.y};
+            const Row at{1, fromMiddle(middleOf(find.block.x)), fromMiddle(middleOf(find.block.y))};
             x.add(at, find.moveX, weight);
             y.add(at, find.moveY, weight);
             total += weight;
@@ -80,10 +111,26 @@ CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
     return motion;
 }
 
+CommonMotion::Point CommonMotion::moveAt(float x, float y) const
+{
+    const float right = fromMiddle(x);
+    const float down = fromMiddle(y);
+    return {.x = m_x[0] + m_x[1] * right + m_x[2] * down, .y = m_y[0] + m_y[1] * right + m_y[2] * down};
+}
+
+CommonMotion::Point CommonMotion::target(TilePlace pixel) const
+{
+    const auto x = static_cast<float>(pixel.x);
+    const auto y = static_cast<float>(pixel.y);
+    const Point move = moveAt(x, y);
+    return {.x = x + move.x, .y = y + move.y};
+}
+
 float CommonMotion::squaredMiss(const BlockFind& find) const
 {
-    const float x = find.moveX - along(m_x, find);
-    const float y = find.moveY - along(m_y, find);
+    const Point move = moveAt(middleOf(find.block.x), middleOf(find.block.y));
+    const float x = find.moveX - move.x;
+    const float y = find.moveY - move.y;
     return x * x + y * y;
 }
 
@@ -92,6 +139,32 @@ float CommonMotion::obedience(const BlockFind& find) const
     constexpr float kSquaredLimit = 2.0F * 2.0F;
     const float miss = squaredMiss(find) / kSquaredLimit;
     return 1 / (1 + miss * miss);
+}
+
+FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
+{
+    FeaturePrint::Tile result{};
+    auto pixel = result.begin();
+    for (int y = 0; y < BlockSearch::kSide; ++y) {
+        for (int x = 0; x < BlockSearch::kSide; ++x) {
+            const Point from = target({x, y});
+            *pixel++ = static_cast<std::uint8_t>(between(tile, from.x, from.y) + 0.5F);
+        }
+    }
+    return result;
+}
+
+bool CommonMotion::keepsInside(TilePlace block) const
+{
+    constexpr int kFar = BlockSearch::kBlock - 1;
+    // The motion keeps straight lines straight, so the corners tell.
+    for (const TilePlace corner :
+         {TilePlace{0, 0}, TilePlace{kFar, 0}, TilePlace{0, kFar}, TilePlace{kFar, kFar}}) {
+        const Point there = target({block.x + corner.x, block.y + corner.y});
+        if (!isInside(there.x) || !isInside(there.y))
+            return false;
+    }
+    return true;
 }
 
 } // namespace orlen

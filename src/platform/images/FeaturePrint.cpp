@@ -4,14 +4,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace orlen {
 
 namespace {
 
 constexpr float kNearDuplicate = 0.32F;
-constexpr float kCoarseLimit = 0.85F; ///< between vectors of length 1
-constexpr float kLeastAgreement = 0.40F;
+constexpr float kCoarseLimit = 0.80F;      ///< between vectors of length 1
+constexpr float kPlainCoarseLimit = 0.40F; ///< when there is nothing fine to compare
+constexpr float kLeastAgreement = 0.70F;
 
 /// Eight sums side by side, which the compiler keeps in vector registers.
 float between(const FeaturePrint::Vector& one, const FeaturePrint::Vector& other)
@@ -34,11 +36,14 @@ float between(const FeaturePrint::Vector& one, const FeaturePrint::Vector& other
 
 float FeaturePrint::distance(const FeaturePrint& other) const
 {
-    const float coarse = between(m_vector, other.m_vector) / kCoarseLimit;
-    if (coarse >= 1)
-        return kNearDuplicate * coarse;
-    const float fine = (1 - FineCheck::agreement(m_tile, other.m_tile)) / (1 - kLeastAgreement);
-    return kNearDuplicate * std::max(coarse, fine);
+    const float coarse = between(m_vector, other.m_vector);
+    if (coarse >= kCoarseLimit)
+        return kNearDuplicate * coarse / kCoarseLimit;
+    const std::optional<float> agreement = FineCheck::agreement(m_tile, other.m_tile);
+    if (!agreement)
+        return kNearDuplicate * coarse / kPlainCoarseLimit;
+    const float fine = (1 - *agreement) / (1 - kLeastAgreement);
+    return kNearDuplicate * std::max(coarse / kCoarseLimit, fine);
 }
 
 } // namespace orlen
