@@ -52,7 +52,7 @@ RgbImage halfSize(const RgbImage& image, Random& /*random*/)
     RgbImage result{
         .width = std::max(image.width / 2, 1), .height = std::max(image.height / 2, 1), .pixels = {}};
     for (const float value : AreaScale::scaled(image, result.width, result.height))
-        result.pixels.push_back(static_cast<std::uint8_t>(value + 0.5F));
+        result.pixels.push_back(static_cast<std::uint8_t>(std::lround(value)));
     return result;
 }
 

@@ -37,7 +37,7 @@ RgbImage thumbnail(const RgbImage& image)
                     .height = std::max(static_cast<int>(std::lround(scale * image.height)), 1),
                     .pixels = {}};
     for (const float value : AreaScale::scaled(image, result.width, result.height))
-        result.pixels.push_back(static_cast<std::uint8_t>(value + 0.5F));
+        result.pixels.push_back(static_cast<std::uint8_t>(std::lround(value)));
     return result;
 }
 

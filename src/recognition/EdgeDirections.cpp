@@ -21,7 +21,7 @@ using Planes = std::array<std::vector<float>, kDirections>;
 
 std::size_t at(int x, int y)
 {
-    return static_cast<std::size_t>(y * kSide + x);
+    return static_cast<std::size_t>(y) * kSide + static_cast<std::size_t>(x);
 }
 
 /// The strength of each pixel's edge, shared between the two directions next to its own.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <numeric>
 #include <span>
 
@@ -32,10 +33,9 @@ std::vector<float> lightOf(const std::vector<float>& grey)
 {
     constexpr int kCell = kSide / kLightCells;
     std::vector<float> cells(static_cast<std::size_t>(kLightCells) * kLightCells);
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x)
-            cells[static_cast<std::size_t>(y / kCell * kLightCells + x / kCell)] +=
-                grey[static_cast<std::size_t>(y * kSide + x)] / (kCell * kCell);
+    for (std::size_t y = 0; y < kSide; ++y) {
+        for (std::size_t x = 0; x < kSide; ++x)
+            cells[y / kCell * kLightCells + x / kCell] += grey[y * kSide + x] / (kCell * kCell);
     }
     const float mean = meanOf(cells);
     for (float& cell : cells)

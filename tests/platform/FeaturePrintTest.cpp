@@ -16,6 +16,11 @@ constexpr float kNearDuplicate = 0.32F;
 constexpr int kSide = FeaturePrint::kTileSide;
 using Structure = std::function<double(double x, double y)>;
 
+std::size_t at(int x, int y)
+{
+    return static_cast<std::size_t>(y) * kSide + static_cast<std::size_t>(x);
+}
+
 /// Waves of seeded lengths and directions: structure everywhere, at any point between the pixels too.
 Structure waves(unsigned seed)
 {
@@ -44,12 +49,12 @@ Structure text(unsigned seed)
         for (int x = 4; x < kSide - 4; ++x) {
             const double ink = random() % 2 == 0 ? -60 : 20;
             for (int row = y; row < y + 3; ++row)
-                strokes[static_cast<std::size_t>(row * kSide + x)] = ink;
+                strokes[at(x, row)] = ink;
         }
     }
     return [strokes](double x, double y) {
-        const auto at = [](double value) { return std::clamp(static_cast<int>(value), 0, kSide - 1); };
-        return strokes[static_cast<std::size_t>(at(y) * kSide + at(x))];
+        const auto within = [](double value) { return std::clamp(static_cast<int>(value), 0, kSide - 1); };
+        return strokes[at(within(x), within(y))];
     };
 }
 
@@ -93,8 +98,7 @@ FeaturePrint printOf(const Structure& structure, const FeaturePrint::Vector& vec
     FeaturePrint::Tile tile{};
     for (int y = 0; y < kSide; ++y) {
         for (int x = 0; x < kSide; ++x)
-            tile[static_cast<std::size_t>(y * kSide + x)] =
-                static_cast<std::uint8_t>(std::clamp(128 + structure(x, y), 0.0, 255.0));
+            tile[at(x, y)] = static_cast<std::uint8_t>(std::clamp(128 + structure(x, y), 0.0, 255.0));
     }
     return {vector, tile};
 }

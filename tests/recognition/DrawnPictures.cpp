@@ -69,18 +69,18 @@ Scene DrawnPictures::spots(unsigned seed)
 
 Scene DrawnPictures::page(unsigned seed)
 {
-    constexpr int kColumns = 120;
-    constexpr int kRows = 150;
+    constexpr std::size_t kColumns = 120;
+    constexpr std::size_t kRows = 150;
     std::mt19937 random(seed);
     std::vector<bool> ink(kColumns * kRows);
-    for (int y = 8; y < kRows - 8; ++y) {
-        for (int x = 10; x < kColumns - 10; ++x)
-            ink[static_cast<std::size_t>(y * kColumns + x)] = y % 6 < 3 && random() % 2 == 0;
+    for (std::size_t y = 8; y < kRows - 8; ++y) {
+        for (std::size_t x = 10; x < kColumns - 10; ++x)
+            ink[y * kColumns + x] = y % 6 < 3 && random() % 2 == 0;
     }
     return [ink](double x, double y) {
-        const int column = std::clamp(static_cast<int>(x * kColumns), 0, kColumns - 1);
-        const int row = std::clamp(static_cast<int>(y * kRows), 0, kRows - 1);
-        const double value = ink[static_cast<std::size_t>(row * kColumns + column)] ? 30 : 245;
+        const auto column = static_cast<std::size_t>(std::clamp(x, 0.0, 0.999) * kColumns);
+        const auto row = static_cast<std::size_t>(std::clamp(y, 0.0, 0.999) * kRows);
+        const double value = ink[row * kColumns + column] ? 30 : 245;
         return Colour{value, value, value};
     };
 }

@@ -24,6 +24,11 @@ RgbImage grey(int width, int height, Value value)
     return image;
 }
 
+const std::uint8_t* pixelAt(const RgbImage& image, int x, int y)
+{
+    return image.row(y) + static_cast<std::ptrdiff_t>(x) * 3;
+}
+
 /// The measure by its definition, for pictures whose sides are `shrink` times those of the working copy: the
 /// mean of whole pixels, no rounding.
 double reference(const RgbImage& image, int shrink)
@@ -33,7 +38,7 @@ double reference(const RgbImage& image, int shrink)
     const auto at = [&](int x, int y) {
         double sum = 0;
         for (int i = 0; i < shrink * shrink; ++i) {
-            const std::uint8_t* pixel = image.row(y * shrink + i / shrink) + 3 * (x * shrink + i % shrink);
+            const std::uint8_t* pixel = pixelAt(image, x * shrink + i % shrink, y * shrink + i / shrink);
             sum += 0.299 * pixel[0] + 0.587 * pixel[1] + 0.114 * pixel[2];
         }
         return sum / (shrink * shrink);
@@ -82,9 +87,9 @@ RgbImage outOfFocus(const RgbImage& image, int radius)
     return grey(image.width, image.height, [&](int x, int y) {
         int sum = 0;
         for (int down = -radius; down <= radius; ++down) {
-            const std::uint8_t* row = image.row(std::clamp(y + down, 0, image.height - 1));
+            const int row = std::clamp(y + down, 0, image.height - 1);
             for (int right = -radius; right <= radius; ++right)
-                sum += row[3 * std::clamp(x + right, 0, image.width - 1)];
+                sum += *pixelAt(image, std::clamp(x + right, 0, image.width - 1), row);
         }
         return sum / ((2 * radius + 1) * (2 * radius + 1));
     });

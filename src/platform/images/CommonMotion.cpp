@@ -73,7 +73,7 @@ float between(const FeaturePrint::Tile& tile, float x, float y)
     const int top = std::min(static_cast<int>(y), kLast);
     const float right = x - static_cast<float>(left);
     const float down = y - static_cast<float>(top);
-    const std::uint8_t* at = tile.data() + top * BlockSearch::kSide + left;
+    const std::uint8_t* at = tile.data() + (static_cast<std::ptrdiff_t>(top) * BlockSearch::kSide + left);
     const float above = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
     at += BlockSearch::kSide;
     const float below = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
@@ -143,12 +143,14 @@ float CommonMotion::obedience(const BlockFind& find) const
 
 FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
 {
+    constexpr float kRounding = 0.5F; // levels are never negative, and a cast is much faster than lround
     FeaturePrint::Tile result{};
     auto pixel = result.begin();
     for (int y = 0; y < BlockSearch::kSide; ++y) {
         for (int x = 0; x < BlockSearch::kSide; ++x) {
             const Point from = target({x, y});
-            *pixel++ = static_cast<std::uint8_t>(between(tile, from.x, from.y) + 0.5F);
+            const float level = between(tile, from.x, from.y) + kRounding;
+            *pixel++ = static_cast<std::uint8_t>(level);
         }
     }
     return result;

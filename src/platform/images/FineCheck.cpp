@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -97,7 +98,7 @@ std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const F
 {
     constexpr std::size_t kFirstBlocks = 16;
     constexpr float kHopeless = 0.22F; ///< no changed copy's first blocks obey less
-    constexpr std::size_t kAllBlocks = FeaturePrint::kTileSide * FeaturePrint::kTileSide;
+    constexpr std::size_t kAllBlocks = std::numeric_limits<std::size_t>::max();
     const BlockSearch first(one);
     const BlockSearch second(other);
     LookUp forward(first, second, other);
