@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/images/FeaturePrint.h"
+#include "recognition/LayoutDescriptor.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+/// The matrix that was learnt, as it lies in the program: half-precision floats, little-endian. One row of
+/// FeaturePrint::kLength for each number of the descriptor, then one that is added to the sum.
+namespace orlen::ProjectionMatrix {
+
+inline constexpr std::size_t kRows = LayoutDescriptor::kLength + 1;
+
+[[nodiscard]] std::span<const std::uint16_t, kRows * FeaturePrint::kLength> values();
+
+} // namespace orlen::ProjectionMatrix
