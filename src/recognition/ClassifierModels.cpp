@@ -1,0 +1,23 @@
+#include "recognition/ClassifierModels.h"
+
+// The assembler puts the files into the read-only data as they are.
+asm(".pushsection .rodata\n"
+    ".balign 16\n"
+    "orlen_classifier_trees:\n"
+    ".incbin \"" ORLEN_CLASSIFIER_TREES "\"\n"
+    "orlen_classifier_trees_end:\n"
+    ".popsection\n");
+
+extern "C" {
+extern const std::uint8_t orlen_classifier_trees[];
+extern const std::uint8_t orlen_classifier_trees_end[];
+}
+
+namespace orlen {
+
+std::span<const std::uint8_t> ClassifierModels::trees()
+{
+    return {orlen_classifier_trees, orlen_classifier_trees_end};
+}
+
+} // namespace orlen
