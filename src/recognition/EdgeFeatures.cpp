@@ -17,6 +17,15 @@ constexpr int kEdge = 60; // Sobel units
 constexpr int kStrong = 240;
 constexpr int kLine = 40;
 
+/// A direction and its opposite are one.
+std::size_t directionOf(double gx, double gy)
+{
+    double angle = std::atan2(gy, gx) + std::numbers::pi;
+    while (angle >= std::numbers::pi)
+        angle -= std::numbers::pi;
+    return static_cast<std::size_t>(angle / std::numbers::pi * kDirections) % kDirections;
+}
+
 /// Strengths and directions of edges, weighted by strength.
 void addDirections(const cv::Mat& dx, const cv::Mat& dy, std::vector<PictureFeature>& features)
 {
@@ -26,16 +35,15 @@ void addDirections(const cv::Mat& dx, const cv::Mat& dy, std::vector<PictureFeat
         for (int x = 0; x < dx.cols; ++x) {
             const double gx = dx.ptr<short>(y)[x];
             const double gy = dy.ptr<short>(y)[x];
-            const double size = std::hypot(gx, gy);
+            const double size = std::sqrt(gx * gx + gy * gy); // far from where hypot would be needed
             total += size;
             squares += size * size;
             if (size < kEdge)
                 continue;
             ++edges;
             strong += size > kStrong ? 1 : 0;
-            const double turn =
-                std::fmod(std::atan2(gy, gx) + std::numbers::pi, std::numbers::pi) / std::numbers::pi;
-            directions[static_cast<std::size_t>(turn * kDirections) % kDirections] += size;
+            const std::size_t direction = directionOf(gx, gy);
+            directions[direction] += size;
             weight += size;
             level += std::min(std::abs(gx), std::abs(gy)) < 0.06 * size ? size : 0;
         }
