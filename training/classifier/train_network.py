@@ -2,7 +2,8 @@
 
     OMP_NUM_THREADS=1 python3 train_network.py FOLD SECONDS OUT SET...
 
-Saves a running average of the weights to OUT/network-FOLD.pt every three minutes and at the end.
+Saves a running average of the weights to OUT/network-FOLD.pt every three minutes and at the end; goes on from that
+file where it is there already.
 """
 import os
 import sys
@@ -76,12 +77,17 @@ def main():
     rng = np.random.default_rng(fold + 1)
     supply = Supply(load(folders, True), fold, rng)
     network, average = SmallNetwork(), SmallNetwork()
+    path = os.path.join(out, f"network-{fold}.pt")
+    resumed = os.path.exists(path)
+    if resumed:
+        network.load_state_dict(torch.load(path))
     average.load_state_dict(network.state_dict())
+    peak = 1.5e-3 if resumed else 2.5e-3
     optimizer = torch.optim.AdamW(network.parameters(), 2e-3, weight_decay=0.02)
     start, saved, step, loss_sum = time.time(), time.time(), 0, 0.0
     while (spent := time.time() - start) < seconds:
         for group in optimizer.param_groups:  # a short rise, then half a cosine
-            group["lr"] = 2.5e-3 * min(1, (step + 1) / 100) * (0.5 + 0.5 * np.cos(np.pi * spent / seconds)) + 2e-5
+            group["lr"] = peak * min(1, (step + 1) / 100) * (0.5 + 0.5 * np.cos(np.pi * spent / seconds)) + 2e-5
         x, labels = supply.batch()
         loss = F.cross_entropy(network(x), labels, label_smoothing=0.05)
         optimizer.zero_grad()
@@ -95,10 +101,10 @@ def main():
                 mine.copy_(mine * share + theirs * (1 - share) if mine.is_floating_point() else theirs)
         if time.time() - saved > 180 or step == 50:
             saved = time.time()
-            torch.save(average.state_dict(), os.path.join(out, f"network-{fold}.pt"))
+            torch.save(average.state_dict(), path)
             print(f"{spent:.0f} s, {step * BATCH} samples, loss {loss_sum / step:.3f}:", judged(average, supply.pictures, fold),
                   flush=True)
-    torch.save(average.state_dict(), os.path.join(out, f"network-{fold}.pt"))
+    torch.save(average.state_dict(), path)
     print(f"end, {step * BATCH} samples:", judged(average, supply.pictures, fold), flush=True)
 
 
