@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+/// The models of the classifier as they lie in the program; made by training/classifier.
+namespace orlen::ClassifierModels {
+
+[[nodiscard]] std::span<const std::uint8_t> trees();   ///< a table of TreeEnsemble
+[[nodiscard]] std::span<const std::uint8_t> network(); ///< a network in ONNX form
+
+} // namespace orlen::ClassifierModels

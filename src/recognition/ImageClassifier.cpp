@@ -1,0 +1,144 @@
+#include "recognition/ImageClassifier.h"
+
+#include "recognition/ClassifierModels.h"
+#include "recognition/PictureFeatures.h"
+#include "recognition/SmallNetwork.h"
+#include "recognition/TreeEnsemble.h"
+
+#include <opencv2/core/utility.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <optional>
+
+// Two models that fail on different pictures look at each one: trees over designed features and a small
+// network. Their geometric mean is high only where neither doubts. A receipt and a document are one to the
+// photo analysis, so what speaks for either is added up before. A score becomes a confidence by two straight
+// lines that meet at the turning point, the score from which on a word was right often enough on pictures of
+// sources that no model had seen; it is given exactly the confidence at which the photo analysis decides.
+
+namespace orlen {
+
+namespace {
+
+// The order in which the models give their probabilities.
+enum Kind : std::size_t { photo, screenshot, receipt, document, meme, illustration, kindCount };
+using Probabilities = std::vector<float>;
+
+struct Scores {
+    float photo = 0;
+    float screenshot = 0;
+    float page = 0; ///< a receipt or a document
+    float meme = 0;
+    float illustration = 0;
+    bool isReceipt = false; ///< rather than a document, if it is a page
+};
+
+struct Word {
+    const char* identifier;
+    float turningPoint; ///< score from which on the word decides
+    float decides;      ///< confidence from which on the photo analysis decides
+};
+constexpr Word kScreenshot{"screenshot", 0.58F, 0.3F};
+constexpr Word kReceipt{"receipt", 0.50F, 0.2F};
+constexpr Word kDocument{"document", 0.50F, 0.6F};
+constexpr Word kMeme{"meme", 0.80F, 0.2F};
+constexpr Word kIllustration{"illustration", 0.50F, 0.3F};
+
+// Pairs of neighbouring letters or words on common lines, in one of the polarities. Few photos have as many
+// and no page that can be read has less.
+constexpr float kLeastPairs = 30;
+constexpr float kCameraMeme = 0.3F; // of the score: people do caption what their camera took
+constexpr float kLeastShare = 1e-6F;
+
+struct Models {
+    Models() { cv::setNumThreads(1); } // recognizers run side by side already
+    std::optional<TreeEnsemble> trees = TreeEnsemble::read(ClassifierModels::trees());
+    std::optional<SmallNetwork> network = SmallNetwork::read(ClassifierModels::network());
+};
+
+const Models& models()
+{
+    static const Models loaded;
+    return loaded;
+}
+
+Scores combined(const Probabilities& a, const Probabilities& b)
+{
+    const auto mean = [](float x, float y) {
+        return std::sqrt(std::max(x, kLeastShare) * std::max(y, kLeastShare));
+    };
+    Scores scores;
+    scores.photo = mean(a[photo], b[photo]);
+    scores.screenshot = mean(a[screenshot], b[screenshot]);
+    scores.page = mean(a[receipt] + a[document], b[receipt] + b[document]);
+    scores.meme = mean(a[meme], b[meme]);
+    scores.illustration = mean(a[illustration], b[illustration]);
+    scores.isReceipt = a[receipt] + b[receipt] >= a[document] + b[document];
+    const float sum = scores.photo + scores.screenshot + scores.page + scores.meme + scores.illustration;
+    for (float* score : {&scores.photo, &scores.screenshot, &scores.page, &scores.meme, &scores.illustration})
+        *score /= sum;
+    return scores;
+}
+
+std::optional<Scores> scoresOf(const RgbImage& image, const std::vector<PictureFeature>& features)
+{
+    const Models& both = models();
+    if (!both.trees || !both.network)
+        return std::nullopt;
+    std::vector<float> values;
+    for (const PictureFeature& feature : features)
+        values.push_back(feature.value);
+    const auto first = both.trees->probabilities(values);
+    const auto second = both.network->probabilities(image);
+    if (!first || !second || first->size() != kindCount || second->size() != kindCount)
+        return std::nullopt;
+    return combined(*first, *second);
+}
+
+bool hasLetters(const std::vector<PictureFeature>& features)
+{
+    const float pairs = std::max(PictureFeatures::valueOf(features, "dark pairs"),
+                                 PictureFeatures::valueOf(features, "light pairs"));
+    return std::expm1(pairs) >= kLeastPairs;
+}
+
+ImageLabel labelOf(const Word& word, float score)
+{
+    const float confidence =
+        score < word.turningPoint
+            ? score / word.turningPoint * word.decides
+            : word.decides + (score - word.turningPoint) / (1 - word.turningPoint) * (1 - word.decides);
+    return {word.identifier, std::clamp(confidence, 0.0F, 1.0F)};
+}
+
+} // namespace
+
+std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evidence& evidence)
+{
+    try {
+        const auto features = PictureFeatures::of(image);
+        auto scores = features.empty() ? std::nullopt : scoresOf(image, features);
+        if (!scores)
+            return {};
+        if (evidence.isFromCamera) {
+            scores->screenshot = 0;
+            scores->meme *= kCameraMeme;
+        }
+        if (!hasLetters(features))
+            scores->page = 0;
+        std::vector<ImageLabel> labels = {labelOf(kScreenshot, scores->screenshot),
+                                          labelOf(scores->isReceipt ? kReceipt : kDocument, scores->page),
+                                          labelOf(kMeme, scores->meme),
+                                          labelOf(kIllustration, scores->illustration)};
+        std::stable_sort(labels.begin(), labels.end(), [](const ImageLabel& a, const ImageLabel& b) {
+            return a.confidence > b.confidence;
+        });
+        return labels;
+    } catch (const std::exception&) { // OpenCV, out of memory
+        return {};
+    }
+}
+
+} // namespace orlen

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "recognition/RgbImage.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace orlen {
+
+/// A small convolutional network that turns a picture into probabilities of its kinds. Any thread; one
+/// picture at a time, the others wait.
+class SmallNetwork {
+public:
+    /// Nothing for what is no network in ONNX form.
+    [[nodiscard]] static std::optional<SmallNetwork> read(std::span<const std::uint8_t> onnx);
+
+    ~SmallNetwork();
+    SmallNetwork(SmallNetwork&& other) noexcept;
+    SmallNetwork& operator=(SmallNetwork&& other) noexcept;
+
+    /// One probability per class, adding up to 1. Nothing for an empty picture, or when the network does not
+    /// fit it.
+    [[nodiscard]] std::optional<std::vector<float>> probabilities(const RgbImage& image) const;
+
+private:
+    struct Loaded;
+    explicit SmallNetwork(std::unique_ptr<Loaded> loaded);
+
+    std::unique_ptr<Loaded> m_loaded;
+};
+
+} // namespace orlen

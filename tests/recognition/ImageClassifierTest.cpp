@@ -1,0 +1,113 @@
+#include "recognition/ImageClassifier.h"
+
+#include "recognition/DrawnPicture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <future>
+#include <map>
+
+namespace orlen {
+namespace {
+
+const std::map<std::string, float> kDecides = {
+    {"screenshot", 0.3F}, {"receipt", 0.2F}, {"document", 0.6F}, {"meme", 0.2F}, {"illustration", 0.3F}};
+
+/// The words that decide something.
+std::vector<std::string> decisions(const RgbImage& image, ImageClassifier::Evidence evidence = {})
+{
+    std::vector<std::string> words;
+    for (const ImageLabel& label : ImageClassifier::labels(image, evidence))
+        if (label.confidence >= kDecides.at(label.identifier))
+            words.push_back(label.identifier);
+    return words;
+}
+
+/// A window with a title bar, buttons and coloured text on a dark ground.
+RgbImage terminal()
+{
+    RgbImage image = DrawnPicture::plain(512, 340, {24, 24, 32});
+    DrawnPicture::fill(image, 0, 0, 512, 20, {60, 62, 70});
+    DrawnPicture::word(image, 220, 5, 9, 9, {230, 230, 230});
+    for (int i = 0; i < 3; ++i)
+        DrawnPicture::fill(image, 450 + i * 20, 6, 9, 9, {200, 200, 205});
+    DrawnPicture::text(image, 8, 30, 9, 8, {220, 220, 220});
+    for (int i = 0; i < 9; ++i)
+        DrawnPicture::word(image, 8, 180 + i * 16, 4 + i % 3, 8, {90, 220, 120});
+    return image;
+}
+
+TEST(ImageClassifierTest, windowIsAScreenshot)
+{
+    EXPECT_EQ(decisions(terminal()), std::vector<std::string>{"screenshot"});
+}
+
+TEST(ImageClassifierTest, cameraTakesNoScreenshots)
+{
+    EXPECT_TRUE(decisions(terminal(), {.isFromCamera = true}).empty());
+}
+
+TEST(ImageClassifierTest, textureOfAPhotoDecidesNothing)
+{
+    EXPECT_TRUE(decisions(DrawnPicture::scene(512, 384)).empty());
+    EXPECT_TRUE(decisions(DrawnPicture::scene(288, 384)).empty());
+}
+
+TEST(ImageClassifierTest, pageOfTextIsADocument)
+{
+    RgbImage page = DrawnPicture::plain(380, 512, {255, 255, 255});
+    DrawnPicture::text(page, 40, 40, 30, 7, {40, 40, 40});
+    const auto words = decisions(page, {.isFromCamera = true});
+    ASSERT_EQ(words.size(), 1U);
+    EXPECT_TRUE(words.front() == "document" || words.front() == "receipt") << words.front();
+}
+
+TEST(ImageClassifierTest, pageWithoutLettersIsNone)
+{
+    const auto words = decisions(DrawnPicture::plain(380, 512, {255, 255, 255}));
+    EXPECT_EQ(std::count(words.begin(), words.end(), "document"), 0);
+    EXPECT_EQ(std::count(words.begin(), words.end(), "receipt"), 0);
+}
+
+TEST(ImageClassifierTest, labelsAreSortedInRangeAndOnceEach)
+{
+    const struct {
+        const char* name;
+        RgbImage image;
+    } cases[] = {{"a window", terminal()},
+                 {"a scene", DrawnPicture::scene(300, 500)},
+                 {"a pixel", DrawnPicture::plain(1, 1, {255, 0, 0})},
+                 {"tiny", DrawnPicture::scene(8, 3)},
+                 {"a long strip", DrawnPicture::scene(512, 4)},
+                 {"black", DrawnPicture::plain(512, 512, {0, 0, 0})}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const auto labels = ImageClassifier::labels(c.image, {});
+        EXPECT_FALSE(labels.empty());
+        std::map<std::string, int> count;
+        float last = 1;
+        for (const ImageLabel& label : labels) {
+            EXPECT_TRUE(kDecides.contains(label.identifier)) << label.identifier;
+            EXPECT_EQ(++count[label.identifier], 1);
+            EXPECT_GE(label.confidence, 0);
+            EXPECT_LE(label.confidence, last);
+            last = label.confidence;
+        }
+    }
+    EXPECT_TRUE(ImageClassifier::labels(RgbImage{}, {}).empty());
+}
+
+TEST(ImageClassifierTest, severalThreadsGetTheSameLabels)
+{
+    const RgbImage image = terminal();
+    const auto alone = ImageClassifier::labels(image, {});
+    std::vector<std::future<std::vector<ImageLabel>>> others;
+    for (int i = 0; i < 4; ++i)
+        others.push_back(std::async(std::launch::async, [&] { return ImageClassifier::labels(image, {}); }));
+    for (auto& other : others)
+        EXPECT_EQ(other.get(), alone);
+}
+
+} // namespace
+} // namespace orlen
