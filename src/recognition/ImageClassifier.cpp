@@ -88,6 +88,7 @@ std::optional<Scores> scoresOf(const RgbImage& image, const std::vector<PictureF
     if (!both.trees || !both.network)
         return std::nullopt;
     std::vector<float> values;
+    values.reserve(features.size());
     for (const PictureFeature& feature : features)
         values.push_back(feature.value);
     const auto first = both.trees->probabilities(values);

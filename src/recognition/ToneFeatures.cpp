@@ -15,7 +15,8 @@ constexpr int kBins = 16 * 16 * 16;
 
 std::size_t binOf(const cv::Vec3b& pixel)
 {
-    return static_cast<std::size_t>((pixel[0] >> 4) * 256 + (pixel[1] >> 4) * 16 + (pixel[2] >> 4));
+    const int bin = (pixel[0] >> 4) * 256 + (pixel[1] >> 4) * 16 + (pixel[2] >> 4);
+    return static_cast<std::size_t>(bin);
 }
 
 /// How many colours there are and how much of the picture the commonest have.

@@ -53,7 +53,7 @@ inline void text(RgbImage& image, int left, int top, int lines, int height, Colo
 /// Light that changes softly, with the noise of a camera.
 inline RgbImage scene(int width, int height)
 {
-    RgbImage image = plain(width, height, {0, 0, 0});
+    RgbImage image{width, height, {}};
     std::mt19937 random(7);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
@@ -61,8 +61,7 @@ inline RgbImage scene(int width, int height)
                 const int wave = 30 * ((x / 37 + y / 53 + c) % 3);
                 const int light = 60 + c * 20 + wave + 70 * x / width + 40 * y / height;
                 const auto noise = static_cast<int>(random() % 13);
-                image.pixels[static_cast<std::size_t>((y * width + x) * 3 + c)] =
-                    static_cast<std::uint8_t>(light - 6 + noise);
+                image.pixels.push_back(static_cast<std::uint8_t>(light - 6 + noise));
             }
     return image;
 }

@@ -103,6 +103,7 @@ TEST(ImageClassifierTest, severalThreadsGetTheSameLabels)
     const RgbImage image = terminal();
     const auto alone = ImageClassifier::labels(image, {});
     std::vector<std::future<std::vector<ImageLabel>>> others;
+    others.reserve(4);
     for (int i = 0; i < 4; ++i)
         others.push_back(std::async(std::launch::async, [&] { return ImageClassifier::labels(image, {}); }));
     for (auto& other : others)
