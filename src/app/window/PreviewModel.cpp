@@ -41,13 +41,15 @@ void PreviewModel::setToken(int token)
     m_token = token;
     m_path = PathTokens::path(token);
     m_stop.request_stop();
+    const int load = ++m_load;
     show({}, Loading);
     if (m_path.empty())
         return;
     m_stop =
         m_workers.start([path = m_path](const std::stop_token& stop) { return FilePreview::of(path, stop); },
-                        [this, token](FilePreview preview) {
-                            if (token != m_token)
+                        [this, load](FilePreview preview) {
+                            // A stopped load may come late, when its file is wanted again.
+                            if (load != m_load)
                                 return;
                             const Kind kind = kindOf(preview.kind);
                             show(std::move(preview), kind);

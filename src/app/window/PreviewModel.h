@@ -74,6 +74,7 @@ private:
     void show(FilePreview preview, Kind kind);
 
     int m_token = 0;
+    int m_load = 0; ///< number of the latest load
     std::string m_path;
     Kind m_kind = Loading;
     FilePreview m_preview;
