@@ -9,7 +9,7 @@ namespace orlen {
 
 namespace {
 
-constexpr int kSide = 8; // pixels
+constexpr int kBlockSide = 8; // pixels
 
 struct Block {
     float mean = 0;
@@ -24,20 +24,20 @@ Block measure(const cv::Mat& grey, int left, int top)
     double squares = 0;
     int least = 255;
     int most = 0;
-    for (int y = top; y < top + kSide; ++y)
-        for (int x = left; x < left + kSide; ++x) {
+    for (int y = top; y < top + kBlockSide; ++y)
+        for (int x = left; x < left + kBlockSide; ++x) {
             const int v = grey.ptr(y)[x];
             sum += v;
             squares += v * v;
             least = std::min(least, v);
             most = std::max(most, v);
         }
-    const double count = kSide * kSide;
+    const double count = kBlockSide * kBlockSide;
     const double mean = sum / count;
     int outer = 0;
     const int fifth = (most - least) / 5;
-    for (int y = top; y < top + kSide; ++y)
-        for (int x = left; x < left + kSide; ++x) {
+    for (int y = top; y < top + kBlockSide; ++y)
+        for (int x = left; x < left + kBlockSide; ++x) {
             const int v = grey.ptr(y)[x];
             outer += v <= least + fifth || v >= most - fifth ? 1 : 0;
         }
@@ -67,14 +67,14 @@ float fullLines(const cv::Mat& mask, bool rows)
 
 void addBlockFeatures(const PicturePlanes& planes, std::vector<PictureFeature>& features)
 {
-    const int columns = planes.grey.cols / kSide;
-    const int rows = planes.grey.rows / kSide;
+    const int columns = planes.grey.cols / kBlockSide;
+    const int rows = planes.grey.rows / kBlockSide;
     cv::Mat flat(rows, columns, CV_8U);
     std::vector<Block> blocks;
     std::vector<float> deviations;
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column) {
-            blocks.push_back(measure(planes.grey, column * kSide, row * kSide));
+            blocks.push_back(measure(planes.grey, column * kBlockSide, row * kBlockSide));
             deviations.push_back(blocks.back().deviation);
             flat.ptr(row)[column] = blocks.back().deviation < 2.5F ? 255 : 0;
         }

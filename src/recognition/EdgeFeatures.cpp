@@ -12,7 +12,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::size_t kDirections = 12;
+constexpr std::size_t kSectors = 12;
 constexpr int kEdge = 60; // Sobel units
 constexpr int kStrong = 240;
 constexpr int kLine = 40;
@@ -23,13 +23,13 @@ std::size_t directionOf(double gx, double gy)
     double angle = std::atan2(gy, gx) + std::numbers::pi;
     while (angle >= std::numbers::pi)
         angle -= std::numbers::pi;
-    return static_cast<std::size_t>(angle / std::numbers::pi * kDirections) % kDirections;
+    return static_cast<std::size_t>(angle / std::numbers::pi * kSectors) % kSectors;
 }
 
 /// Strengths and directions of edges, weighted by strength.
 void addDirections(const cv::Mat& dx, const cv::Mat& dy, std::vector<PictureFeature>& features)
 {
-    std::array<double, kDirections> directions{};
+    std::array<double, kSectors> directions{};
     double edges = 0, strong = 0, weight = 0, level = 0, total = 0, squares = 0;
     for (int y = 0; y < dx.rows; ++y)
         for (int x = 0; x < dx.cols; ++x) {

@@ -25,7 +25,8 @@ void writeEntry(const TempHome& home, const std::string& name, const std::string
 
 QVariant value(const StartupListModel& items, const QString& name, ItemRole role)
 {
-    const auto found = items.match(items.index(0), static_cast<int>(ItemRole::name), name, 1, Qt::MatchExactly);
+    const auto found =
+        items.match(items.index(0), static_cast<int>(ItemRole::name), name, 1, Qt::MatchExactly);
     return found.isEmpty() ? QVariant() : found.front().data(static_cast<int>(role));
 }
 
