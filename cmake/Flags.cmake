@@ -9,6 +9,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # Warns about impossible lengths inside std::string itself (GCC bug 105329).
     target_compile_options(orlen_flags INTERFACE -Wno-restrict)
 endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+    # The kernel's headers end structures with arrays of no length.
+    target_compile_options(orlen_flags INTERFACE -Wno-zero-length-array)
+endif()
 target_compile_definitions(orlen_flags INTERFACE _FILE_OFFSET_BITS=64 QT_NO_KEYWORDS)
 target_include_directories(orlen_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 

@@ -121,6 +121,7 @@ TEST_F(ImageWorkersTest, manyThreadsAreServedAtOnce)
     std::atomic<int> answers{0};
     {
         std::vector<std::jthread> threads;
+        threads.reserve(12);
         for (int i = 0; i < 12; ++i) {
             threads.emplace_back([&] {
                 for (int round = 0; round < 10; ++round)

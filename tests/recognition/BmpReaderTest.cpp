@@ -70,6 +70,9 @@ std::string times(int count, const std::string& text)
     return all;
 }
 
+/// The rest of a palette of 256, in bytes.
+constexpr std::size_t kUnusedColours = 252UL * 4;
+
 const std::string kZero(1, '\0');
 /// Blue, green, red, and a byte of no meaning.
 const std::string kPalette =
@@ -107,7 +110,7 @@ TEST(BmpReaderTest, everyDepthIsRead)
          kFour},
         {"8 bits",
          {.bits = 8,
-          .afterHeader = kPalette + std::string(252 * 4, '\0'),
+          .afterHeader = kPalette + std::string(kUnusedColours, '\0'),
           .pixels = times(2, std::string("\0\0\3\3", 4)) + times(2, std::string("\2\2\1\1", 4))},
          kFour},
         {"16 bits",
@@ -136,14 +139,14 @@ TEST(BmpReaderTest, everyDepthIsRead)
         {"run lengths",
          {.bits = 8,
           .compression = 1,
-          .afterHeader = kPalette + std::string(252 * 4, '\0'),
+          .afterHeader = kPalette + std::string(kUnusedColours, '\0'),
           .pixels = times(2, std::string("\4\0\0\0", 4)) + std::string("\0\4\2\2\2\2\0\0", 8) +
                     std::string("\3\2\1\2\0\1", 6)},
          kRows},
         {"run lengths with a jump",
          {.bits = 8,
           .compression = 1,
-          .afterHeader = kPalette + std::string(252 * 4, '\0'),
+          .afterHeader = kPalette + std::string(kUnusedColours, '\0'),
           .pixels =
               std::string("\0\2\0\2", 4) + times(2, std::string("\4\2\0\0", 4)) + std::string("\0\1", 2)},
          kRows},
@@ -231,7 +234,7 @@ TEST(BmpReaderTest, damagedFilesAreReadOrRefused)
                 bytes[2 + random() % 70] = static_cast<char>(random());
             bytes.resize(random() % bytes.size());
             const auto picture = read(bytes, 64);
-            EXPECT_TRUE(!picture || picture->thumbnail.pixels.size() <= 64U * 64U * 3U);
+            EXPECT_TRUE(!picture || picture->thumbnail.pixels.size() <= 64UL * 64 * 3);
         }
     }
 }

@@ -206,8 +206,7 @@ TEST_F(ImageDecoderTest, otherFormatsAreNoPicturesWhateverTheyLookLike)
         "BM",
         "GIF89a",
         "\xFF\xD8\xFF",
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"64\" height=\"64\"><rect width=\"9\" "
-        "height=\"9\"/></svg>",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64"><rect width="9"/></svg>)",
         "%PDF-1.4\n1 0 obj <</Type /Catalog>> endobj\ntrailer <</Root 1 0 R>>\n%%EOF",
         "P6\n1 1\n255\nabc",
         "1,2,3\n4,5,6\n",

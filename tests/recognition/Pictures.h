@@ -28,11 +28,11 @@ struct Options {
     int width = 64;
     int height = 48;
     Quarters quarters = kFour;
-    int orientation = 1;             ///< as cameras note it
-    std::optional<int> alpha;        ///< of all pixels
-    bool isNoisy = false;            ///< so that it does not shrink to nothing
-    std::string format = ".png";     ///< with the saver's options
-    std::string interpretation = ""; ///< "grey", "cmyk" or "16 bit" before saving
+    int orientation = 1;         ///< as cameras note it
+    std::optional<int> alpha;    ///< of all pixels
+    bool isNoisy = false;        ///< so that it does not shrink to nothing
+    std::string format = ".png"; ///< with the saver's options
+    std::string interpretation;  ///< "grey", "cmyk" or "16 bit" before saving
     std::string cameraMake;
 };
 

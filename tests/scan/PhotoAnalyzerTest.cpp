@@ -54,6 +54,7 @@ PhotoInfo info(const Photo& photo)
 std::vector<Finding> findingsOf(const std::vector<Photo>& photos)
 {
     std::vector<PhotoInfo> infos;
+    infos.reserve(photos.size());
     for (const Photo& photo : photos)
         infos.push_back(info(photo));
     return PhotoAnalyzer::findings(infos);
@@ -178,6 +179,7 @@ TEST(PhotoAnalyzerTest, aNearDuplicateIsListedOnceAndItsKeeperByItsOwnRule)
 TEST(PhotoAnalyzerTest, whatCannotBeReadIsLeftOutAndTheOthersKeepTheirOrder)
 {
     std::vector<Cand> images;
+    images.reserve(200);
     for (int i = 0; i < 200; ++i)
         images.push_back({"/p/" + std::to_string(1000 + i), i * kMB, {}});
     ScanProgress progress;

@@ -22,10 +22,10 @@ namespace {
 
 constexpr float kLeastConfidence = 0.15F;
 
-PhotoInfo photoInfo(const Cand& cand, ImageAnalysis analysis)
+PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
 {
-    PhotoInfo photo{cand, std::move(analysis.print), analysis.sharpness, {}, analysis.width, analysis.height};
-    for (ImageLabel& label : analysis.labels) {
+    PhotoInfo photo{cand, analysis.print, analysis.sharpness, {}, analysis.width, analysis.height};
+    for (const ImageLabel& label : analysis.labels) {
         if (label.confidence > kLeastConfidence)
             photo.labels.push_back({PathText::asciiLower(label.identifier), label.confidence});
     }
@@ -115,7 +115,7 @@ std::vector<PhotoInfo> PhotoAnalyzer::analyze(const std::vector<Cand>& images) c
         std::optional<ImageAnalysis> analysis = m_recognize(images[i].path);
         if (!analysis)
             return;
-        PhotoInfo photo = photoInfo(images[i], std::move(*analysis));
+        PhotoInfo photo = photoInfo(images[i], *analysis);
         const std::lock_guard held(lock);
         analyzed[i] = std::move(photo);
     });
