@@ -46,9 +46,10 @@ Search search(const std::vector<std::string>& folders, ScanProgress& progress, c
     const PhotoAnalyzer analyzer(
         progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
     Search search{analyzer.analyze(found.images)};
+    std::vector<Finding> findings = PhotoAnalyzer::findings(search.photos, stop);
     search.wasStopped = stop.stop_requested();
     if (!search.wasStopped)
-        search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos));
+        search.findings = Rater::rate(std::move(findings));
     search.duration = std::chrono::steady_clock::now() - started;
     return search;
 }

@@ -69,39 +69,13 @@ void onAllCores(std::size_t count, const Task& task)
     work();
 }
 
-std::vector<Finding> findingsOf(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
-{
-    constexpr std::array kKinds{FindingKind::photoDuplicates, FindingKind::screenshots, FindingKind::receipts,
-                                FindingKind::memes, FindingKind::blurry};
-    std::array<std::vector<FileEntry>, kKinds.size()> entries;
-    std::vector<bool> isListed(photos.size());
-    for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
-        for (const std::size_t other : group.others) {
-            isListed[other] = true;
-            entries.front().push_back(entry(photos[other], similarNote(photos[group.keeper])));
-        }
-    }
-    for (std::size_t i = 0; i < photos.size(); ++i) {
-        auto verdict = isListed[i] ? std::nullopt : PhotoRules::verdict(photos[i]);
-        if (!verdict)
-            continue;
-        const auto kind = std::find(kKinds.begin(), kKinds.end(), verdict->kind);
-        entries[static_cast<std::size_t>(kind - kKinds.begin())].push_back(
-            entry(photos[i], std::move(verdict->note)));
-    }
-    std::vector<Finding> findings;
-    for (std::size_t i = 0; i < kKinds.size(); ++i)
-        findings.emplace_back(kKinds[i], std::move(entries[i]));
-    return findings;
-}
-
 } // namespace
 
 std::vector<Finding> PhotoAnalyzer::run(const std::vector<Cand>& images) const
 {
     if (images.empty())
         return {};
-    return findingsOf(analyze(images), m_flag.token());
+    return findings(analyze(images), m_flag.token());
 }
 
 std::vector<PhotoInfo> PhotoAnalyzer::analyze(const std::vector<Cand>& images) const
@@ -127,9 +101,31 @@ std::vector<PhotoInfo> PhotoAnalyzer::analyze(const std::vector<Cand>& images) c
     return photos;
 }
 
-std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photos)
+std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photos,
+                                             const std::stop_token& stop)
 {
-    return findingsOf(photos, {});
+    constexpr std::array kKinds{FindingKind::photoDuplicates, FindingKind::screenshots, FindingKind::receipts,
+                                FindingKind::memes, FindingKind::blurry};
+    std::array<std::vector<FileEntry>, kKinds.size()> entries;
+    std::vector<bool> isListed(photos.size());
+    for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
+        for (const std::size_t other : group.others) {
+            isListed[other] = true;
+            entries.front().push_back(entry(photos[other], similarNote(photos[group.keeper])));
+        }
+    }
+    for (std::size_t i = 0; i < photos.size(); ++i) {
+        auto verdict = isListed[i] ? std::nullopt : PhotoRules::verdict(photos[i]);
+        if (!verdict)
+            continue;
+        const auto kind = std::find(kKinds.begin(), kKinds.end(), verdict->kind);
+        entries[static_cast<std::size_t>(kind - kKinds.begin())].push_back(
+            entry(photos[i], std::move(verdict->note)));
+    }
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < kKinds.size(); ++i)
+        findings.emplace_back(kKinds[i], std::move(entries[i]));
+    return findings;
 }
 
 } // namespace orlen

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -43,8 +44,9 @@ public:
     /// The analysed pictures in the order of the input, without those that could not be read.
     [[nodiscard]] std::vector<PhotoInfo> analyze(const std::vector<Cand>& images) const;
 
-    /// What `run` makes of analysed pictures. Pure.
-    [[nodiscard]] static std::vector<Finding> findings(const std::vector<PhotoInfo>& photos);
+    /// What `run` makes of analysed pictures; stopped, of some of their groups only. Pure.
+    [[nodiscard]] static std::vector<Finding> findings(const std::vector<PhotoInfo>& photos,
+                                                       const std::stop_token& stop = {});
 
 private:
     ScanProgress& m_progress;
