@@ -16,7 +16,7 @@ using LayoutDescriptor::kDirections;
 using LayoutDescriptor::kEdgeCells;
 using LayoutDescriptor::kSide;
 
-constexpr int kCell = kSide / kEdgeCells;
+constexpr int kEdgeCell = kSide / kEdgeCells;
 using Planes = std::array<std::vector<float>, kDirections>;
 
 std::size_t at(int x, int y)
@@ -52,12 +52,12 @@ using Windows = std::array<std::array<float, kSide>, kEdgeCells>;
 
 Windows makeWindows()
 {
-    constexpr float kSigma = kCell / 2.0F;
+    constexpr float kSigma = kEdgeCell / 2.0F;
     Windows windows{};
     for (int cell = 0; cell < kEdgeCells; ++cell) {
         std::array<float, kSide>& window = windows[static_cast<std::size_t>(cell)];
         for (int i = 0; i < kSide; ++i) {
-            const float away = (static_cast<float>(i - cell * kCell) - (kCell - 1) / 2.0F) / kSigma;
+            const float away = (static_cast<float>(i - cell * kEdgeCell) - (kEdgeCell - 1) / 2.0F) / kSigma;
             window[static_cast<std::size_t>(i)] = std::exp(-0.5F * away * away);
         }
         const float sum = std::accumulate(window.begin(), window.end(), 0.0F);

@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 
-#include "app/EventLoop.h"
+#include "app/ScannedModel.h"
+#include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "support/TempHome.h"
 
@@ -13,14 +14,10 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kKiB = 1024;
-
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
 
 CleanPlan planOf(std::vector<std::string> paths)
 {
@@ -53,12 +50,6 @@ std::vector<std::string> manyFiles(const TempHome& home, int count)
 {
     model.confirm(plan, allOf(plan));
     return waitUntil([&] { return model.cleaning() && model.cleaning()->finished; });
-}
-
-void scan(AppModel& model)
-{
-    model.startScan();
-    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 
-#include "app/EventLoop.h"
+#include "app/ScannedModel.h"
+#include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "scan/ScanEngine.h"
 #include "support/TempHome.h"
@@ -12,14 +13,10 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kKiB = 1024;
-
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
 
 TimePoint now()
 {
@@ -38,12 +35,6 @@ struct UsedHome : TempHome {
         setTimes(old, now() - 24h * 90, now() - 24h * 90);
     }
 };
-
-void scan(AppModel& model)
-{
-    model.startScan();
-    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
-}
 
 std::vector<FindingKind> kinds(const std::vector<Finding>& findings)
 {

@@ -1,4 +1,5 @@
 #include "app/Process.h"
+#include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "tools/apps/AppHome.h"
 
@@ -14,13 +15,6 @@ namespace {
 using Json = nlohmann::ordered_json;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr std::int64_t kKiB = 1024;
-
-Process::Outcome orlen(std::vector<std::string> arguments)
-{
-    return Process{std::move(arguments)}.run();
-}
 
 /// An AppImage with settings, and a folder of settings that is nobody's.
 struct InstalledHome : AppHome {
@@ -48,7 +42,7 @@ TEST(AppsCommandTest, theApplicationsAreListedWithTheirSizes)
 {
     const InstalledHome home;
     home.file("opt/b\x1b[31mox/AppRun");
-    const Json apps = Json::parse(orlen({"apps", "--json"}).out, nullptr, false);
+    const Json apps = orlen({"apps", "--json"}).document();
     const Json image = {
         {"path", home.installed}, {"name", "Foo Qux"}, {"bundleID", "org.fooqux.Fooqux"}, {"size", 4 * kKiB}};
     bool isListed = false;
@@ -69,7 +63,7 @@ TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
     const InstalledHome home;
     const Process::Outcome outcome =
         orlen({"leftovers", "--json", "--id", "org.fooqux.Fooqux", "--name", "Foo Qux"});
-    const Json entries = Json::parse(outcome.out, nullptr, false);
+    const Json entries = outcome.document();
     ASSERT_EQ(entries.size(), 2U) << outcome.err;
     EXPECT_EQ(entries[0]["path"], home.path(".config/org.fooqux.Fooqux"));
     EXPECT_EQ(entries[0]["size"], 8 * kKiB);
@@ -87,7 +81,7 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     const InstalledHome home;
     const Process::Outcome shown = orlen({"uninstall", "FOO qux", "--dry-run", "--json"});
     EXPECT_EQ(shown.status, 0) << shown.err;
-    const Json plan = Json::parse(shown.out, nullptr, false)["plan"];
+    const Json plan = shown.document()["plan"];
     EXPECT_EQ(plan["title"], "Uninstall Foo Qux");
     ASSERT_EQ(plan["sections"].size(), 2U);
     EXPECT_EQ(plan["sections"][0]["entries"][0]["path"], home.installed);

@@ -1,4 +1,5 @@
 #include "app/Process.h"
+#include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "platform/FolderLock.h"
 #include "support/TempHome.h"
@@ -15,23 +16,10 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kKiB = 1024;
-
 using Json = nlohmann::ordered_json;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-Process::Outcome orlen(std::vector<std::string> arguments)
-{
-    return Process{std::move(arguments)}.run();
-}
-
-/// The document, which must be all that was printed.
-Json document(const Process::Outcome& outcome)
-{
-    return Json::parse(outcome.out, nullptr, false);
-}
 
 std::vector<std::string> keys(const Json& object)
 {
@@ -42,8 +30,8 @@ std::vector<std::string> keys(const Json& object)
 }
 
 /// Two safe caches, a safe log, and two identical files, one of them in Downloads.
-struct UsedHome : TempHome {
-    UsedHome()
+struct CommandHome : TempHome {
+    CommandHome()
     {
         fileOfSize(".cache/viewer/pages", 400 * kKiB);
         fileOfSize(".cache/player/covers", 800 * kKiB);
@@ -63,7 +51,7 @@ struct UsedHome : TempHome {
 
 TEST(CommandLineTest, aWrongCallEndsWithTwoAndMovesNothing)
 {
-    const UsedHome home;
+    const CommandHome home;
     const std::string file = home.path(".xsession-errors");
     struct Case {
         const char* name;
@@ -123,10 +111,10 @@ TEST(CommandLineTest, everyCommandTellsHelpAndVersion)
 
 TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
 {
-    const UsedHome home;
+    const CommandHome home;
     const Process::Outcome outcome = orlen({"scan", "--json"});
     ASSERT_EQ(outcome.status, 0) << outcome.err;
-    const Json scan = document(outcome);
+    const Json scan = outcome.document();
     EXPECT_THAT(keys(scan), ElementsAre("findings", "selection", "totalFound", "safeBytes", "breakdown",
                                         "filesExamined", "steps", "fullDiskAccess", "date", "seconds"));
     EXPECT_THAT(keys(scan["findings"][0]),
@@ -147,8 +135,8 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
 
 TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
 {
-    const UsedHome home;
-    const Json answer = document(orlen({"ask", "--json", "What about LOGS?"}));
+    const CommandHome home;
+    const Json answer = orlen({"ask", "--json", "What about LOGS?"}).document();
     EXPECT_THAT(keys(answer), ElementsAre("text", "findingIDs", "usedModel"));
     EXPECT_THAT(answer["text"].get<std::string>(), HasSubstr("Log files: 66 KB — rated Safe. "));
     EXPECT_EQ(answer["findingIDs"], Json({"logs"}));
@@ -163,7 +151,7 @@ TEST(CommandLineTest, oddNamesAreHarmless)
     const std::string odd = ".cache/line\nbreak \"quoted\" \x1b[31mred";
     home.fileOfSize(odd + "/x", 400 * kKiB);
     home.fileOfSize(".cache/\xff\xfe/x", 300 * kKiB);
-    const Json scan = document(orlen({"scan", "--json"}));
+    const Json scan = orlen({"scan", "--json"}).document();
     ASSERT_TRUE(scan.is_object());
     EXPECT_EQ(scan["selection"], Json({home.path(odd)}));
 
@@ -177,10 +165,10 @@ TEST(CommandLineTest, oddNamesAreHarmless)
 
 TEST(CommandLineTest, aDryRunShowsThePlanAndMovesNothing)
 {
-    const UsedHome home;
+    const CommandHome home;
     const Process::Outcome outcome = orlen({"clean", "--dry-run", "--json", "--kind", "caches"});
     EXPECT_EQ(outcome.status, 0);
-    const Json shown = document(outcome);
+    const Json shown = outcome.document();
     EXPECT_THAT(keys(shown), ElementsAre("plan"));
     EXPECT_EQ(shown["plan"]["title"], "Smart Scan clean-up");
     ASSERT_EQ(shown["plan"]["sections"].size(), 1U);
@@ -192,19 +180,19 @@ TEST(CommandLineTest, aDryRunShowsThePlanAndMovesNothing)
 
 TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
 {
-    const UsedHome home;
+    const CommandHome home;
     const std::string copy = home.path("Downloads/film.mkv");
     const Process::Outcome clean = orlen({"clean", "--yes", "--json", "--path", copy});
     ASSERT_EQ(clean.status, 0) << clean.err;
     EXPECT_THAT(clean.err, HasSubstr("~/Downloads/film.mkv"));
-    const Json cleaned = document(clean);
+    const Json cleaned = clean.document();
     EXPECT_THAT(keys(cleaned), ElementsAre("plan", "record", "freed"));
     EXPECT_EQ(cleaned["record"]["items"][0]["original"], copy);
     EXPECT_EQ(cleaned["freed"], 1200 * kKiB);
     EXPECT_FALSE(TempHome::exists(copy));
     EXPECT_TRUE(TempHome::exists(home.path(".cache/viewer")));
 
-    const Json history = document(orlen({"history", "--json"}));
+    const Json history = orlen({"history", "--json"}).document();
     ASSERT_EQ(history.size(), 1U);
     EXPECT_EQ(history[0]["id"], cleaned["record"]["id"]);
     EXPECT_EQ(history[0]["freed"], 1200 * kKiB);
@@ -216,7 +204,7 @@ TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
     EXPECT_FALSE(TempHome::exists(copy));
     const Process::Outcome restore = orlen({"restore", id.substr(0, 4), "--yes", "--json"});
     EXPECT_EQ(restore.status, 0);
-    const Json restored = document(restore);
+    const Json restored = restore.document();
     EXPECT_THAT(keys(restored), ElementsAre("record", "restored", "failed", "message"));
     EXPECT_EQ(restored["message"], "Restored 1 item.");
     EXPECT_TRUE(TempHome::exists(copy));
@@ -225,7 +213,7 @@ TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
 
 TEST(CommandLineTest, aRestoreThatFailsEndsWithOne)
 {
-    const UsedHome home;
+    const CommandHome home;
     ASSERT_EQ(orlen({"clean", "--yes", "--kind", "logs"}).status, 0);
     home.file(".xsession-errors", "new");
     const Process::Outcome outcome = orlen({"restore", Persist::loadHistory().front().id.text(), "--yes"});
@@ -247,7 +235,7 @@ TEST(CommandLineTest, theUserIsAskedOnTheTerminal)
                               {"Ctrl-C", "\x03", 130, false}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        const UsedHome home;
+        const CommandHome home;
         const auto typed = [&] {
             EXPECT_TRUE(home.isUntouched());
             return std::string(c.typed);
@@ -262,7 +250,7 @@ TEST(CommandLineTest, theUserIsAskedOnTheTerminal)
 
 TEST(CommandLineTest, whatVanishesBeforeItMovesCountsAsFailed)
 {
-    const UsedHome home;
+    const CommandHome home;
     const auto typed = [&] {
         std::rename(home.path(".xsession-errors").c_str(), home.path("elsewhere").c_str());
         return std::string("y\n");
@@ -275,7 +263,7 @@ TEST(CommandLineTest, whatVanishesBeforeItMovesCountsAsFailed)
 
 TEST(CommandLineTest, ctrlCEndsAnyWorkWithoutAResult)
 {
-    const UsedHome home;
+    const CommandHome home;
     for (const char* command : {"scan", "breakdown", "duplicates"}) {
         SCOPED_TRACE(command);
         const Process::Outcome outcome = Process{{command, "--json"}}.runInterrupted();
@@ -307,7 +295,7 @@ TEST(CommandLineTest, ctrlCDuringACleanUpRecordsWhatWasMoved)
 
 TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
 {
-    const UsedHome home;
+    const CommandHome home;
     ASSERT_EQ(orlen({"clean", "--yes", "--kind", "logs"}).status, 0);
     const std::string id = Persist::loadHistory().front().id.text();
     const std::size_t snapshots = Persist::loadSnapshots().size();
@@ -315,7 +303,7 @@ TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
     ASSERT_TRUE(lock.has_value());
     const Process::Outcome scan = orlen({"scan", "--json"});
     EXPECT_EQ(scan.status, 0);
-    EXPECT_TRUE(document(scan).is_object());
+    EXPECT_TRUE(scan.document().is_object());
     EXPECT_THAT(scan.err, HasSubstr("another Orlen"));
     for (const std::vector<std::string>& arguments :
          {std::vector<std::string>{"clean", "--yes"}, std::vector<std::string>{"restore", "--yes", id}}) {
@@ -332,11 +320,11 @@ TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
 
 TEST(CommandLineTest, duplicatesAreSoughtInTheFoldersGiven)
 {
-    const UsedHome home;
+    const CommandHome home;
     home.fileOfSize("Pictures/small.png", 40 * kKiB, 9);
     home.fileOfSize("Projects/a copy of it.png", 40 * kKiB, 9);
     home.folder("Empty");
-    const Json everywhere = document(orlen({"duplicates", "--json"}));
+    const Json everywhere = orlen({"duplicates", "--json"}).document();
     EXPECT_THAT(keys(everywhere),
                 ElementsAre("finding", "sets", "filesConsidered", "filesHashed", "bytesHashed", "seconds"));
     // A picture outside the picture folders is too small to be a candidate of the home folder's walk.
@@ -346,16 +334,16 @@ TEST(CommandLineTest, duplicatesAreSoughtInTheFoldersGiven)
     EXPECT_EQ(everywhere["finding"]["items"].size(), 1U);
 
     const Json pictures =
-        document(orlen({"duplicates", "--json", home.path("Pictures"), home.path("Projects")}));
+        orlen({"duplicates", "--json", home.path("Pictures"), home.path("Projects")}).document();
     ASSERT_EQ(pictures["sets"].size(), 1U);
     EXPECT_EQ(pictures["sets"][0]["kept"], home.path("Pictures/small.png"));
-    EXPECT_EQ(document(orlen({"duplicates", "--json", home.path("Empty")}))["sets"].size(), 0U);
+    EXPECT_EQ(orlen({"duplicates", "--json", home.path("Empty")}).document()["sets"].size(), 0U);
 }
 
 TEST(CommandLineTest, breakdownAndForecastAreDocuments)
 {
     const TempHome home;
-    const Json breakdown = document(orlen({"breakdown", "--json"}));
+    const Json breakdown = orlen({"breakdown", "--json"}).document();
     EXPECT_THAT(keys(breakdown), ElementsAre("total", "free", "cats"));
     EXPECT_THAT(keys(breakdown["cats"]),
                 ElementsAre("apps", "photos", "media", "documents", "developer", "system", "caches"));
@@ -363,7 +351,7 @@ TEST(CommandLineTest, breakdownAndForecastAreDocuments)
     const TimePoint now = std::chrono::system_clock::now();
     Persist::saveSnapshots({{now - std::chrono::hours(48), 9'000'000'000, 10'000'000'000, {{"media", 1}}},
                             {now, 5'000'000'000, 10'000'000'000, {{"media", 2'000'000'001}}}});
-    const Json forecast = document(orlen({"predict", "--json"}));
+    const Json forecast = orlen({"predict", "--json"}).document();
     EXPECT_THAT(keys(forecast), ElementsAre("enoughData", "headline", "detail", "warn", "perCategory",
                                             "freeSeries", "snapshots"));
     EXPECT_EQ(forecast["snapshots"], 2);

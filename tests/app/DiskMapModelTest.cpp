@@ -1,6 +1,7 @@
 #include "app/DiskMapModel.h"
 
 #include "app/EventLoop.h"
+#include "app/Sizes.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -10,7 +11,6 @@ namespace orlen {
 
 namespace {
 
-constexpr std::int64_t kKiB = 1024;
 constexpr Treemap::Size kView{112, 112};
 constexpr Treemap::Point kFirst{10, 10}; ///< in the first of two nodes, which takes three quarters
 constexpr Treemap::Point kSecond{95, 95};

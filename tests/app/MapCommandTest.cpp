@@ -1,4 +1,5 @@
 #include "app/Process.h"
+#include "app/Sizes.h"
 #include "support/TempHome.h"
 
 #include <nlohmann/json.hpp>
@@ -9,8 +10,6 @@
 namespace orlen {
 
 namespace {
-
-constexpr std::int64_t kKiB = 1024;
 
 using Json = nlohmann::ordered_json;
 using testing::HasSubstr;
@@ -23,8 +22,8 @@ Process::Outcome map(std::vector<std::string> arguments)
     return Process{std::move(arguments)}.run();
 }
 
-struct MappedHome : TempHome {
-    MappedHome()
+struct OddHome : TempHome {
+    OddHome()
     {
         fileOfSize("outer/inner/\xff", 72 * kKiB);
         fileOfSize("out\x1b[31mer", 24 * kKiB);
@@ -36,8 +35,8 @@ struct MappedHome : TempHome {
 
 TEST(MapCommandTest, theDocumentHoldsTheNodesInOrder)
 {
-    const MappedHome home;
-    Json document = Json::parse(map({"--json"}).out, nullptr, false);
+    const OddHome home;
+    Json document = map({"--json"}).document();
     EXPECT_TRUE(document["seconds"].is_number());
     document.erase("seconds");
     const auto node = [](const std::string& name, const std::string& path, std::int64_t size, bool isDir,
@@ -51,14 +50,14 @@ TEST(MapCommandTest, theDocumentHoldsTheNodesInOrder)
     });
     EXPECT_EQ(document.dump(), (Json{{"path", home.path()}, {"nodes", nodes}}).dump());
 
-    const Json inner = Json::parse(map({"--json", home.path("outer/../outer/")}).out, nullptr, false);
+    const Json inner = map({"--json", home.path("outer/../outer/")}).document();
     EXPECT_EQ(inner["path"], home.path("outer"));
     EXPECT_EQ(inner["nodes"][0]["path"], home.path("outer/inner"));
 }
 
 TEST(MapCommandTest, theTableIsReadable)
 {
-    const MappedHome home;
+    const OddHome home;
     const Process::Outcome outcome = map({});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.out, HasSubstr("█  outer/\n"));
@@ -69,7 +68,7 @@ TEST(MapCommandTest, theTableIsReadable)
 
 TEST(MapCommandTest, whatIsNoReadableFolderIsAWrongCall)
 {
-    const MappedHome home;
+    const OddHome home;
     const std::vector<std::string> calls[] = {{home.path("missing")},
                                               {home.path("out\x1b[31mer")},
 
@@ -87,7 +86,7 @@ TEST(MapCommandTest, whatIsNoReadableFolderIsAWrongCall)
 
 TEST(MapCommandTest, ctrlCEndsItWithoutAResult)
 {
-    const MappedHome home;
+    const OddHome home;
     const Process::Outcome outcome = Process{{"map", "--json"}}.runInterrupted();
     EXPECT_EQ(outcome.status, 130);
     EXPECT_THAT(outcome.out, IsEmpty());

@@ -40,7 +40,7 @@ TEST(PhotosCommandTest, theFindingsAndThePhotosComeAsOneDocument)
     const PhotoHome home;
     const Process::Outcome outcome = photos({"--json"});
     ASSERT_EQ(outcome.status, 0) << outcome.err;
-    const Json document = Json::parse(outcome.out, nullptr, false);
+    const Json document = outcome.document();
     std::string kinds;
     for (const Json& finding : document["findings"])
         kinds += finding["kind"].get<std::string>() + ' ';
@@ -64,8 +64,7 @@ TEST(PhotosCommandTest, theFindingsAndThePhotosComeAsOneDocument)
 TEST(PhotosCommandTest, namedFoldersAreLookedIntoWhereverTheyAre)
 {
     const PhotoHome home;
-    const Json document =
-        Json::parse(photos({home.path("Elsewhere"), home.path("Pictures"), "--json"}).out, nullptr, false);
+    const Json document = photos({home.path("Elsewhere"), home.path("Pictures"), "--json"}).document();
     EXPECT_EQ(document["photos"].size(), 4U);
     const Process::Outcome outcome = photos({home.path("Pictures")});
     EXPECT_EQ(outcome.status, 0);
@@ -79,7 +78,7 @@ TEST(PhotosCommandTest, namedFoldersAreLookedIntoWhereverTheyAre)
 TEST(PhotosCommandTest, withoutPicturesAllFindingsAreEmpty)
 {
     const TempHome home;
-    const Json document = Json::parse(photos({"--json"}).out, nullptr, false);
+    const Json document = photos({"--json"}).document();
     EXPECT_EQ(document["findings"].size(), 5U);
     EXPECT_EQ(document["photos"].size(), 0U);
     EXPECT_THAT(photos({}).out, HasSubstr("No photos to review were found."));

@@ -26,11 +26,6 @@ Process::Outcome startup(std::vector<std::string> arguments)
     return Process{std::move(arguments)}.run();
 }
 
-Json document(const Process::Outcome& outcome)
-{
-    return Json::parse(outcome.out, nullptr, false);
-}
-
 /// A unit, an entry of the user and one of all users; the unit and an entry share a label.
 struct UsedLogin : StartupHome {
     UsedLogin()
@@ -65,7 +60,7 @@ TEST(StartupCommandTest, theDocumentHoldsTheItemsInOrder)
                                        item("chat", home.own, "/opt/My Chat", "Your account", true),
                                        item("pipewire.service", home.twin, "wire", "Your account", true),
                                        item("files", home.shared, "files", "All users", true)});
-    EXPECT_EQ(document(outcome).dump(2), expected.dump(2));
+    EXPECT_EQ(outcome.document().dump(2), expected.dump(2));
 }
 
 TEST(StartupCommandTest, theTableIsReadable)
@@ -86,7 +81,7 @@ TEST(StartupCommandTest, anItemIsSwitchedByLabelOrPath)
     const UsedLogin home;
     const Process::Outcome off = startup({"disable", "chat", "--json"});
     EXPECT_EQ(off.status, 0);
-    EXPECT_EQ(document(off).dump(), item("chat", home.own, "/opt/My Chat", "Your account", false).dump());
+    EXPECT_EQ(off.document().dump(), item("chat", home.own, "/opt/My Chat", "Your account", false).dump());
     EXPECT_EQ(TempHome::content(home.own), "[Desktop Entry]\nExec=\"/opt/My Chat\"\nHidden=true\n");
     const Process::Outcome on = startup({"enable", home.own});
     EXPECT_EQ(on.status, 0);
@@ -95,7 +90,7 @@ TEST(StartupCommandTest, anItemIsSwitchedByLabelOrPath)
 
     const Process::Outcome part = startup({"--json", "disable", home.unit});
     EXPECT_EQ(part.status, 0);
-    EXPECT_EQ(document(part)["enabled"], false);
+    EXPECT_EQ(part.document()["enabled"], false);
     EXPECT_THAT(part.err, HasSubstr("part of your desktop"));
     EXPECT_THAT(home.calls(), Contains("systemctl: --user disable pipewire.service"));
     EXPECT_EQ(TempHome::content(home.twin), "[Desktop Entry]\nExec=wire\n");
@@ -137,7 +132,7 @@ TEST(StartupCommandTest, aFailedChangeIsTold)
     const Process::Outcome outcome = startup({"disable", "linked", "--json"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.err, HasSubstr("\"linked\" could not be switched off"));
-    EXPECT_EQ(document(outcome)["enabled"], true);
+    EXPECT_EQ(outcome.document()["enabled"], true);
     EXPECT_EQ(TempHome::content(home.path("dotfiles/linked.desktop")), text);
 }
 
@@ -151,7 +146,7 @@ TEST(StartupCommandTest, aToolThatHangsIsNotWaitedForLong)
     const Process::Outcome outcome = startup({"--json"});
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(30));
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(document(outcome)[0]["label"], "chat"); // the unit has no switch by its files alone
+    EXPECT_EQ(outcome.document()[0]["label"], "chat"); // the unit has no switch by its files alone
 }
 
 TEST(StartupCommandTest, ctrlCEndsItWithoutAResult)

@@ -15,7 +15,7 @@
 namespace orlen {
 namespace {
 
-constexpr std::int64_t kBlock = 4096;
+constexpr std::int64_t kBlockBytes = 4096;
 
 /// What all scanners offer together.
 std::vector<std::string> allPaths()
@@ -62,9 +62,9 @@ TEST(SourceMapTest, variablesThatNestPlacesMakeNoEntryOverlap)
             for (const char* name :
                  {"pip/x", "uv/x", "yarn/x", "Yarn/x", "rclone/x", "app/x.log", "app/sub/logs/x",
                   "pnpm/store/x", "Homebrew/x", "Trash/files/x", "plain/x"})
-                home.fileOfSize(std::string(folder) + "/" + name, 250 * kBlock);
+                home.fileOfSize(std::string(folder) + "/" + name, 250 * kBlockBytes);
         }
-        home.fileOfSize(".npm/_cacache/x", kBlock);
+        home.fileOfSize(".npm/_cacache/x", kBlockBytes);
         TempHome::reloadPlaces();
         Safety::refresh();
         const std::vector<std::string> paths = allPaths();

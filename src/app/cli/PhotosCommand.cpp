@@ -28,14 +28,15 @@ namespace {
 
 using Seconds = std::chrono::duration<double>;
 
-struct Search {
+struct PhotoSearch {
     std::vector<PhotoInfo> photos;
     std::vector<Finding> findings; ///< all five, rated as they would be in a scan
     Seconds duration{0};
     bool wasStopped = false;
 };
 
-Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
+PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& progress,
+                         const std::stop_token& stop)
 {
     const auto started = std::chrono::steady_clock::now();
     ScanFlag flag;
@@ -45,7 +46,7 @@ Search search(const std::vector<std::string>& folders, ScanProgress& progress, c
     ImageWorkers workers({});
     const PhotoAnalyzer analyzer(
         progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
-    Search search{analyzer.analyze(found.images)};
+    PhotoSearch search{analyzer.analyze(found.images)};
     std::vector<Finding> findings = PhotoAnalyzer::findings(search.photos, stop);
     search.wasStopped = stop.stop_requested();
     if (!search.wasStopped)
@@ -54,7 +55,7 @@ Search search(const std::vector<std::string>& folders, ScanProgress& progress, c
     return search;
 }
 
-void printFindings(const Search& found)
+void printFindings(const PhotoSearch& found)
 {
     std::vector<Finding> shown;
     std::int64_t entries = 0;
@@ -99,7 +100,7 @@ public:
         const auto folders = FolderArguments::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
-        const Search found = searched(session, *folders);
+        const PhotoSearch found = searched(session, *folders);
         if (found.wasStopped) {
             session.complain(Texts::kCancelled);
             return ExitStatus::interrupted;
@@ -115,15 +116,17 @@ public:
     }
 
 private:
-    [[nodiscard]] static Search searched(Session& session, const std::vector<std::string>& folders)
+    [[nodiscard]] static PhotoSearch searched(Session& session, const std::vector<std::string>& folders)
     {
-        std::optional<Search> found;
+        std::optional<PhotoSearch> found;
         ScanProgress progress;
         QObject receiver;
         Workers workers(receiver);
         std::stop_source stop = workers.start(
-            [&folders, &progress](const std::stop_token& token) { return search(folders, progress, token); },
-            [&found](Search result) { found = std::move(result); });
+            [&folders, &progress](const std::stop_token& token) {
+                return searchPhotos(folders, progress, token);
+            },
+            [&found](PhotoSearch result) { found = std::move(result); });
         session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
                      [&] {
                          return Texts::counted(progress.files(), "file") + " examined · " +

@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-constexpr double kGap = 2;
+constexpr double kTileGap = 2;
 constexpr int kHues = 6;
 /// Two notches of a common wheel, 120 each, are enough of a pinch to lead somewhere.
 constexpr double kMagnificationPerEighth = 0.2 / 120;
@@ -22,7 +22,7 @@ constexpr double kMagnificationPerEighth = 0.2 / 120;
 /// Without the gap; what would be nothing but gap keeps a hair that can be seen.
 double withoutGap(double length)
 {
-    return std::max(length - kGap, std::min(length, 1.0));
+    return std::max(length - kTileGap, std::min(length, 1.0));
 }
 
 /// Edges are rounded, not widths, so that all gaps are equally wide.

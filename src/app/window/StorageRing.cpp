@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-constexpr double kGap = 3;        // between neighbours, pixels
+constexpr double kArcGap = 3;     // between neighbours, pixels
 constexpr double kCorner = 2.5;   // radius, pixels
 constexpr double kShortest = 4;   // of what takes little space, pixels along the band
 constexpr double kLeast = 0.0005; // what takes less of the volume is left out
@@ -132,7 +132,7 @@ void StorageRing::paint(QPainter* painter)
     const double radius = std::min(width(), height()) / 2 * (1 - m_thickness);
     if (radius <= 0)
         return;
-    const double gap = degrees(kGap, radius);
+    const double gap = degrees(kArcGap, radius);
     const Fractions fractions = withLeast(shown(), (gap + degrees(kShortest, radius)) / kWholeTurn);
     double start = 0;
     const auto draw = [&](double fraction, const QColor& colour) {

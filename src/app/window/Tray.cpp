@@ -19,7 +19,7 @@ namespace {
 
 /// Readable on a dark bar and on a light one: nobody tells which it is. Themed icons follow the bar.
 constexpr QColor kPixmapColour(0x80, 0x88, 0x94);
-constexpr int kGap = 8;
+constexpr int kPanelGap = 8;
 constexpr int kClickMilliseconds = 250;
 
 TrayPixmaps pixmaps()
@@ -48,7 +48,7 @@ QPoint corner(const QPoint& place, const QSize& size)
     const QScreen* screen = QGuiApplication::screenAt(place);
     if (screen == nullptr)
         screen = QGuiApplication::primaryScreen();
-    const QRect room = screen->availableGeometry().adjusted(kGap, kGap, -kGap, -kGap);
+    const QRect room = screen->availableGeometry().adjusted(kPanelGap, kPanelGap, -kPanelGap, -kPanelGap);
     const int left = place.isNull() ? room.right() : place.x() - size.width() / 2;
     const int lowest = std::max(room.top(), room.bottom() + 1 - size.height());
     const int rightmost = std::max(room.left(), room.right() + 1 - size.width());

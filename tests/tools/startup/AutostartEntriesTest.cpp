@@ -39,7 +39,7 @@ std::vector<LaunchItem> items()
     return makeAutostartEntries()->items();
 }
 
-std::vector<std::string> listed()
+std::vector<std::string> listedEntries()
 {
     std::vector<std::string> lines;
     for (const LaunchItem& item : items())
@@ -110,9 +110,9 @@ TEST(AutostartEntriesTest, keysDecideWhetherAnEntryIsShownAndOn)
         home.own("a.desktop", entryText(c.keys));
         const std::string expected(c.expected);
         if (expected.empty())
-            EXPECT_THAT(listed(), IsEmpty());
+            EXPECT_THAT(listedEntries(), IsEmpty());
         else
-            EXPECT_THAT(listed(), ElementsAre("a Your account " + expected));
+            EXPECT_THAT(listedEntries(), ElementsAre("a Your account " + expected));
     }
 }
 
@@ -130,12 +130,13 @@ TEST(AutostartEntriesTest, theFirstFileOfANameCountsAndWhatIsNoEntryIsLeftOut)
     home.link(".config/autostart/linked.desktop", home.file("chat.desktop", entryText()));
     home.own("a.desktop.bak");
     home.own(".desktop");
-    EXPECT_THAT(listed(), ElementsAre("b Your account off", "linked Your account on", "a All users on"));
+    EXPECT_THAT(listedEntries(),
+                ElementsAre("b Your account off", "linked Your account on", "a All users on"));
     // The whole folder may be kept elsewhere.
     const Entries other;
     other.file("dotfiles/c.desktop", entryText());
     other.link(".config/autostart", other.path("dotfiles"));
-    EXPECT_THAT(listed(), ElementsAre("c Your account on"));
+    EXPECT_THAT(listedEntries(), ElementsAre("c Your account on"));
 }
 
 TEST(AutostartEntriesTest, theUsersOwnEntryKeepsItsOtherLines)
@@ -150,16 +151,16 @@ TEST(AutostartEntriesTest, theUsersOwnEntryKeepsItsOtherLines)
     off.insert(off.find("Type="), "Hidden=true\n");
     EXPECT_EQ(TempHome::content(path), off);
     EXPECT_EQ(modeOf(path), 0640U);
-    EXPECT_THAT(listed(), ElementsAre("chat Your account off"));
+    EXPECT_THAT(listedEntries(), ElementsAre("chat Your account off"));
     EXPECT_TRUE(set(item, false));
     EXPECT_EQ(TempHome::content(path), off);
     EXPECT_TRUE(set(item, true));
-    EXPECT_THAT(listed(), ElementsAre("chat Your account on"));
+    EXPECT_THAT(listedEntries(), ElementsAre("chat Your account on"));
 
     // Other programs have switches of their own.
     home.own("chat.desktop", entryText("X-GNOME-Autostart-enabled=false\nX-MATE-Autostart-enabled=false"));
     EXPECT_TRUE(set(item, true));
-    EXPECT_THAT(listed(), ElementsAre("chat Your account on"));
+    EXPECT_THAT(listedEntries(), ElementsAre("chat Your account on"));
     EXPECT_EQ(std::system(
                   ("test \"$(/bin/ls -A '" + home.path(".config/autostart") + "')\" = chat.desktop").c_str()),
               0);

@@ -46,7 +46,7 @@ struct Units : StartupHome {
     }
 };
 
-std::vector<std::string> listed()
+std::vector<std::string> listedUnits()
 {
     std::vector<std::string> items;
     for (const LaunchItem& item : makeSystemdUnits()->items())
@@ -83,7 +83,7 @@ TEST(SystemdUnitsTest, theManagersListIsSortedAndSifted)
                  "," + entry("../escape.service", "enabled") + "," + entry("gone.service", "enabled") + "," +
                  entry("own-masked.service", "enabled") + "]");
     EXPECT_THAT(
-        listed(),
+        listedUnits(),
         ElementsAre("own-disabled.service Your account off", "own-enabled-runtime.service Your account on",
                     "own-enabled.service Your account on", "own-linked.service Your account on",
                     "own-masked.service Your account off", "shared-enabled-runtime.service All users on",
@@ -139,12 +139,12 @@ TEST(SystemdUnitsTest, withoutAnAnswerTheFilesAreRead)
     for (const char* script : {"exit 1", "echo nonsense", "printf '\\377'", "kill -9 $$"}) {
         SCOPED_TRACE(script);
         home.tool("systemctl", script);
-        EXPECT_THAT(listed(), ElementsAreArray(expected));
+        EXPECT_THAT(listedUnits(), ElementsAreArray(expected));
     }
     std::remove(home.outside("bin/systemctl").c_str());
-    EXPECT_THAT(listed(), IsEmpty()); // nothing says that a service manager is in use
+    EXPECT_THAT(listedUnits(), IsEmpty()); // nothing says that a service manager is in use
     home.folder(home.outside("system/run/systemd/system"));
-    EXPECT_THAT(listed(), ElementsAreArray(expected));
+    EXPECT_THAT(listedUnits(), ElementsAreArray(expected));
 }
 
 TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
@@ -226,11 +226,11 @@ TEST(SystemdUnitsTest, theRealToolAndTheLinksAgree)
                            "orlen-test-alias.service", "orlen-test-data.service"}));
     ASSERT_TRUE(systemctl({"mask", "orlen-test-hidden.service"}));
     ASSERT_TRUE(systemctl({"link", outside}));
-    const std::vector<std::string> told = listed();
+    const std::vector<std::string> told = listedUnits();
     EXPECT_THAT(told, Contains("orlen-test-alias.service Your account on"));
     EXPECT_THAT(told, Contains("orlen-test-hidden.service Your account off"));
     home.tool("systemctl", "exit 1");
-    EXPECT_EQ(listed(), told);
+    EXPECT_EQ(listedUnits(), told);
 }
 
 TEST(SystemdUnitsTest, theRealToolSwitchesOffAndOnAgain)
