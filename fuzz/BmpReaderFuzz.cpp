@@ -13,7 +13,7 @@ void require(bool holds)
 
 } // namespace
 
-/// Whatever a file holds, the thumbnail is small and whole.
+/// Whatever a file holds, the small picture is whole.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     constexpr int kSide = 32;
@@ -24,10 +24,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::copy_n(data + start, length, buffer.data());
         return length;
     };
-    const auto picture = orlen::BmpReader::read(source, kSide);
+    const auto picture = orlen::BmpReader::read(source, {{kSide, kSide}});
     if (!picture)
         return 0;
-    const orlen::RgbImage& image = picture->thumbnail;
+    const orlen::RgbImage& image = picture->small;
     require(picture->width > 0 && picture->height > 0 && image.width > 0 && image.height > 0);
     require(image.width <= std::min(picture->width, kSide) &&
             image.height <= std::min(picture->height, kSide));

@@ -20,7 +20,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     using namespace orlen;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const auto answer = ImageMessages::decoded(bytes);
+    constexpr PixelSize kMost{96, 64};
+    if (const auto picture = ImageMessages::decodedPictureAnswer(bytes, kMost)) {
+        require(ImageMessages::encoded(*picture) == bytes);
+        require(!picture->sizes ||
+                (picture->sizes->small.width <= kMost.width && picture->sizes->small.height <= kMost.height));
+    }
+    const auto answer = ImageMessages::decodedAnswer(bytes);
     if (!answer)
         return 0;
     require(ImageMessages::encoded(*answer) == bytes);

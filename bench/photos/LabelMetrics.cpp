@@ -74,17 +74,17 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
     int decodedCount = 0;
     for (const Photo& photo : photos) {
         const int file = ::open((folder + "/" + photo.file).c_str(), O_RDONLY | O_CLOEXEC);
-        const auto decoded = ImageDecoder::decode(file);
+        const auto decoded = ImageDecoder::decode(file, ImageDecoder::kForRecognition);
         ::close(file);
         if (!decoded)
             continue;
         ++decodedCount;
         const auto start = std::chrono::steady_clock::now();
         const Labels labels =
-            ImageClassifier::labels(decoded->thumbnail, {.isFromCamera = decoded->isFromCamera});
+            ImageClassifier::labels(decoded->small, {.isFromCamera = decoded->isFromCamera});
         seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         const std::string finding =
-            findingOf(labels, Sharpness::laplacianVariance(decoded->thumbnail), decoded->width);
+            findingOf(labels, Sharpness::laplacianVariance(decoded->small), decoded->width);
         const std::string expected = expectedOf(photo.kind);
         ++findings[finding].put;
         ++findings[expected].belonging;

@@ -1,6 +1,7 @@
 #include "AppModelElement.h"
 #include "Appearance.h"
 #include "PhotoGroupsModel.h"
+#include "PictureReader.h"
 #include "SymbolProvider.h"
 #include "Tray.h"
 #include "Window.h"
@@ -199,7 +200,10 @@ int main(int argc, char** argv)
     Appearance::setReducedMotion(options.isSet("still"));
     QSettings().setValue("onboarded", !options.isSet("onboarding"));
 
-    AppModel model({});
+    PictureReader::setRecognizer(ORLEN_RECOGNIZER);
+    AppModel::Options modelOptions;
+    modelOptions.images.program = ORLEN_RECOGNIZER;
+    AppModel model(modelOptions);
     QQmlApplicationEngine engine;
     QQuickWindow* window = Window::load(engine, model);
     if (window == nullptr)

@@ -131,7 +131,9 @@ int once(int argc, char** argv)
         const QDBusConnection bus = QDBusConnection::sessionBus();
         RunningInstance instance(bus);
         (void)instance.claim({});
-        AppModel model({});
+        AppModel::Options options;
+        options.images.program = ORLEN_RECOGNIZER;
+        AppModel model(options);
         QQmlApplicationEngine engine;
         QQuickWindow* window = Window::load(engine, model);
         if (window == nullptr)

@@ -10,6 +10,7 @@
 #include "model/ModelState.h"
 #include "platform/FolderLock.h"
 #include "platform/Time.h"
+#include "platform/images/ImageWorkers.h"
 #include "scan/StorageBreakdown.h"
 
 #include <QObject>
@@ -61,6 +62,7 @@ public:
         Access access = Access::writer;
         /// A clean-up is shown at least so long, so that a short one can be seen.
         std::chrono::milliseconds overlayMinimum{1800};
+        ImageWorkers::Options images; ///< who looks at the photos
     };
 
     explicit AppModel(const Options& options, QObject* parent = nullptr);

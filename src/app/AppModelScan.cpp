@@ -43,7 +43,7 @@ void AppModel::startScan()
     if (m_phase == Phase::scanning)
         return;
     setFdaGranted(checkFDA());
-    const ScanOptions options{checkedInteger(m_largeThresholdMB * kBytesPerMegabyte)};
+    const ScanOptions options{checkedInteger(m_largeThresholdMB * kBytesPerMegabyte), m_options.images};
     const auto engine = std::make_shared<ScanEngine>(options);
     m_engine = engine;
     m_scanProgress = std::shared_ptr<const ScanProgress>(engine, &engine->progress());

@@ -225,12 +225,13 @@ private:
 
 } // namespace
 
-std::optional<Picture> read(const ByteSource& source, int side)
+std::optional<Picture> read(const ByteSource& source, const PictureBound& bound)
 {
     const std::optional<BmpHeader> header = BmpHeader::read(source);
     if (!header)
         return std::nullopt;
-    RowShrinker shrinker(header->width, header->height, side);
+    const PixelSize size{header->width, header->height};
+    RowShrinker shrinker(size, bound.box(size));
     Rows rows(*header, shrinker);
     if (header->isRunLength)
         RunLength(Stream(source, header->pixelOffset), static_cast<std::size_t>(header->width), rows).read();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/images/ImageLabel.h"
-#include "recognition/RgbImage.h"
+#include "platform/images/RgbImage.h"
 
 #include <vector>
 

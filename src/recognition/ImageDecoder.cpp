@@ -56,12 +56,12 @@ bool isBmp(const Start& start)
     return start[0] == 'B' && start[1] == 'M';
 }
 
-std::optional<Decoded> decodeBmp(int descriptor)
+std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound)
 {
-    auto picture = BmpReader::read(bytesOf(descriptor), kThumbnailSide);
+    auto picture = BmpReader::read(bytesOf(descriptor), bound);
     if (!picture)
         return std::nullopt;
-    return Decoded{picture->width, picture->height, false, std::move(picture->thumbnail)};
+    return Decoded{picture->width, picture->height, false, false, std::move(picture->small)};
 }
 
 /// Whether the picture's own description of how it was taken has this.
@@ -106,10 +106,10 @@ Image asRgb(const Image& image)
 
 /// Small, in sRGB, lying as it is stored, and wholly in memory. The loader gets its options as text: for a
 /// source libvips 8.14 does not hand on how strict it has to be.
-Image shrunk(VipsSource* source, const char* loaderOptions)
+Image shrunk(VipsSource* source, PixelSize box, const char* loaderOptions)
 {
     VipsImage* made = nullptr;
-    if (vips_thumbnail_source(source, &made, kThumbnailSide, "height", kThumbnailSide, "size", VIPS_SIZE_DOWN,
+    if (vips_thumbnail_source(source, &made, box.width, "height", box.height, "size", VIPS_SIZE_DOWN,
                               "no_rotate", TRUE, "option_string", loaderOptions, nullptr) != 0)
         return nullptr;
     const Image rgb = asRgb(Image(made));
@@ -137,11 +137,11 @@ bool lacksItsEnd(const Image& image)
 }
 
 /// Many damaged files are whole but for a few rows or spots, and worth a second, forgiving try.
-Image bestEffort(VipsSource* source)
+Image bestEffort(VipsSource* source, PixelSize box)
 {
-    if (Image whole = shrunk(source, "[fail_on=truncated]"))
+    if (Image whole = shrunk(source, box, "[fail_on=truncated]"))
         return whole;
-    Image damaged = shrunk(source, "");
+    Image damaged = shrunk(source, box, "");
     return damaged && !lacksItsEnd(damaged) ? std::move(damaged) : nullptr;
 }
 
@@ -153,7 +153,28 @@ RgbImage pixelsOf(const Image& image)
             {start, start + VIPS_IMAGE_SIZEOF_IMAGE(image.get())}};
 }
 
-std::optional<Decoded> decodeOther(int descriptor)
+void cutToMiddle(RgbImage& image, PixelSize size)
+{
+    if (size == PixelSize{image.width, image.height})
+        return;
+    RgbImage middle{size.width, size.height, {}};
+    middle.pixels.reserve(RgbImage::byteCount(size.width, size.height));
+    const int left = (image.width - size.width) / 2;
+    const int top = (image.height - size.height) / 2;
+    for (int y = 0; y < size.height; ++y) {
+        const std::uint8_t* const start = image.row(top + y) + RgbImage::byteCount(left, 1);
+        middle.pixels.insert(middle.pixels.end(), start, start + RgbImage::byteCount(size.width, 1));
+    }
+    image = std::move(middle);
+}
+
+/// The size that a picture is shrunk into while it still lies as it is stored.
+PixelSize boxOf(const Decoded& picture, const PictureBound& bound)
+{
+    return (picture.isLying ? bound.turned() : bound).box({picture.width, picture.height});
+}
+
+std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound)
 {
     const Owned<VipsSource> source(vips_source_new_from_descriptor(descriptor));
     if (!source)
@@ -163,18 +184,19 @@ std::optional<Decoded> decodeOther(int descriptor)
             vips_image_new_from_source(source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr)}) {
         decoded.width = vips_image_get_width(header.get());
         decoded.height = vips_image_get_height(header.get());
+        decoded.isLying = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.isFromCamera = isFromCamera(header);
     }
     if (!ImageLimits::allow(decoded.width, decoded.height))
         return std::nullopt;
-    const Image lying = bestEffort(source.get());
+    const Image lying = bestEffort(source.get(), boxOf(decoded, bound));
     Image upright =
         applied(lying, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
     if (upright)
         upright.reset(vips_image_copy_memory(upright.get()));
     if (!upright)
         return std::nullopt;
-    decoded.thumbnail = pixelsOf(upright);
+    decoded.small = pixelsOf(upright);
     return decoded;
 }
 
@@ -193,13 +215,15 @@ void prepare()
         vips_operation_block_set(loader, FALSE);
 }
 
-std::optional<Decoded> decode(int descriptor)
+std::optional<Decoded> decode(int descriptor, const PictureBound& bound)
 {
     const std::optional<Start> start = startOf(descriptor);
     if (!start)
         return std::nullopt;
-    std::optional<Decoded> decoded = isBmp(*start) ? decodeBmp(descriptor) : decodeOther(descriptor);
+    auto decoded = isBmp(*start) ? decodeBmp(descriptor, bound) : decodeOther(descriptor, bound);
     vips_error_clear();
+    if (decoded)
+        cutToMiddle(decoded->small, bound.shown({decoded->small.width, decoded->small.height}));
     return decoded;
 }
 

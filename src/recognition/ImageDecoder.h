@@ -1,23 +1,32 @@
 #pragma once
 
-#include "recognition/RgbImage.h"
+#include "platform/images/PictureBound.h"
+#include "platform/images/RgbImage.h"
 
 #include <optional>
 
-/// Reads pictures for recognition. Pictures are untrusted and decoding them may crash, hang or need memory
+/// Reads pictures, made small. Pictures are untrusted and decoding them may crash, hang or need memory
 /// without limit: only the recognizer, a process with limits, calls this (see ImageWorkers).
 namespace orlen::ImageDecoder {
 
-/// Longest side of a thumbnail, in pixels.
-inline constexpr int kThumbnailSide = 512;
+/// What recognition looks at.
+inline constexpr PictureBound kForRecognition{{512, 512}, PictureBound::Fit::inside};
 
 struct Decoded {
     int width = 0;  ///< pixels of the whole picture as its header tells them; 0 when unknown
-    int height = 0; ///< as width; not swapped for a picture that is stored lying on its side
+    int height = 0; ///< as width
+    /// Whether it is stored lying on its side: upright, width and height are the other way round.
+    bool isLying = false;
     /// Whether the file says what camera made it, or for how long it was exposed.
     bool isFromCamera = false;
     /// Upright, never larger than the picture, the first frame, see-through parts over white.
-    RgbImage thumbnail;
+    RgbImage small;
+
+    /// The size of the whole picture when it is upright.
+    [[nodiscard]] PixelSize upright() const
+    {
+        return isLying ? PixelSize{height, width} : PixelSize{width, height};
+    }
 };
 
 /// Once per process, before the first picture: allows the known formats only.
@@ -25,6 +34,6 @@ void prepare();
 
 /// The picture in an open file, told by its content. Nothing when it is no picture of a known format, is
 /// damaged beyond use, or larger than any picture should be. One thread.
-[[nodiscard]] std::optional<Decoded> decode(int descriptor);
+[[nodiscard]] std::optional<Decoded> decode(int descriptor, const PictureBound& bound);
 
 } // namespace orlen::ImageDecoder

@@ -3,6 +3,7 @@
 #include "platform/ProcessLimits.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
+#include "platform/images/PixelBuffer.h"
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/PrintMaker.h"
@@ -12,12 +13,36 @@
 
 namespace orlen::ImageServer {
 
+namespace {
+
+ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, int buffer)
+{
+    const std::optional<ImageDecoder::Decoded> decoded = ImageDecoder::decode(file, bound);
+    if (!decoded || !PixelBuffer::write(buffer, decoded->small.pixels))
+        return {};
+    return {{{decoded->upright(), {decoded->small.width, decoded->small.height}}}};
+}
+
+/// Nothing when it is no question.
+std::optional<std::string> answered(const DescriptorSocket::Message& message)
+{
+    const auto question = ImageMessages::decodedQuestion(message.bytes);
+    if (!question || message.files.size() != (question->bound ? 2U : 1U))
+        return std::nullopt;
+    const int file = message.files.front().get();
+    if (question->bound)
+        return ImageMessages::encoded(smallPicture(file, *question->bound, message.files.back().get()));
+    return ImageMessages::encoded(ImageMessages::Answer{analysis(file)});
+}
+
+} // namespace
+
 std::optional<ImageAnalysis> analysis(int file)
 {
-    const std::optional<ImageDecoder::Decoded> decoded = ImageDecoder::decode(file);
+    const auto decoded = ImageDecoder::decode(file, ImageDecoder::kForRecognition);
     if (!decoded)
         return std::nullopt;
-    const RgbImage& thumbnail = decoded->thumbnail;
+    const RgbImage& thumbnail = decoded->small;
     ImageAnalysis analysis{decoded->width, decoded->height};
     analysis.sharpness = Sharpness::laplacianVariance(thumbnail);
     try {
@@ -30,15 +55,16 @@ std::optional<ImageAnalysis> analysis(int file)
     return analysis;
 }
 
-void serve(int socket, std::chrono::seconds limit)
+void serve(int socket, const Limits& limits)
 {
     if (!DescriptorSocket::send(socket, ImageMessages::kReady))
         return;
-    while (const std::optional<UniqueFd> file = DescriptorSocket::receiveFile(socket)) {
-        ProcessLimits::endAfter(limit);
-        const std::string answer = ImageMessages::encoded({analysis(file->get())});
+    while (const auto message =
+               DescriptorSocket::receiveWithFiles(socket, ImageMessages::kLongest, limits.idle)) {
+        ProcessLimits::endAfter(limits.picture);
+        const std::optional<std::string> answer = answered(*message);
         ProcessLimits::endAfter(std::chrono::seconds(0));
-        if (!DescriptorSocket::send(socket, answer))
+        if (!answer || !DescriptorSocket::send(socket, *answer))
             return;
     }
 }

@@ -11,8 +11,12 @@ namespace orlen::ImageServer {
 /// What an open file shows; nothing when it is no picture that can be read.
 [[nodiscard]] std::optional<ImageAnalysis> analysis(int file);
 
-/// Answers for one file after the other until the other end of the socket is closed. A picture that takes
-/// longer than the limit ends the process: whoever asked may be gone.
-void serve(int socket, std::chrono::seconds limit);
+struct Limits {
+    std::chrono::seconds picture;   ///< one that takes longer ends the process: whoever asked may be gone
+    std::chrono::milliseconds idle; ///< without a question for so long
+};
+
+/// Answers one question after the other, until the other end of the socket is closed or none comes.
+void serve(int socket, const Limits& limits);
 
 } // namespace orlen::ImageServer

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recognition/RgbImage.h"
+#include "platform/images/RgbImage.h"
 
 #include <array>
 #include <cstddef>

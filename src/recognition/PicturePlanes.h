@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/images/RgbImage.h"
 #include "recognition/PictureFeature.h"
-#include "recognition/RgbImage.h"
 
 #include <opencv2/core/mat.hpp>
 

@@ -17,11 +17,12 @@ int shrunk(int length, double scale)
 
 } // namespace
 
-RowShrinker::RowShrinker(int width, int height, int side) : m_width(width), m_height(height)
+RowShrinker::RowShrinker(PixelSize picture, PixelSize box) : m_width(picture.width), m_height(picture.height)
 {
-    const double scale = std::min(1.0, static_cast<double>(side) / std::max(width, height));
-    m_image.width = shrunk(width, scale);
-    m_image.height = shrunk(height, scale);
+    const double scale = std::min({1.0, static_cast<double>(box.width) / picture.width,
+                                   static_cast<double>(box.height) / picture.height});
+    m_image.width = shrunk(picture.width, scale);
+    m_image.height = shrunk(picture.height, scale);
     m_sums.resize(static_cast<std::size_t>(m_image.width) * static_cast<std::size_t>(m_image.height) *
                   kChannels);
     m_rows.resize(static_cast<std::size_t>(m_image.height));

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "recognition/RgbImage.h"
+#include "platform/images/PictureBound.h"
+#include "platform/images/RgbImage.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,8 +14,8 @@ namespace orlen {
 /// pixel of the result is the mean of those that it stands for.
 class RowShrinker {
 public:
-    /// The result has `side` pixels at most on its longest side and is never larger than the picture.
-    RowShrinker(int width, int height, int side);
+    /// The result fits into the box and is never larger than the picture.
+    RowShrinker(PixelSize picture, PixelSize box);
 
     /// `row`: three bytes for each pixel of the picture's width. `y`: from the top.
     void add(int y, std::span<const std::uint8_t> row);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recognition/RgbImage.h"
+#include "platform/images/RgbImage.h"
 
 /// How much fine detail a picture has. Pure; any thread.
 namespace orlen::Sharpness {

@@ -39,9 +39,11 @@ std::size_t allowedMemory(std::size_t wanted)
 /// The program that Orlen hands pictures to, through a socket that is its standard input.
 int main(int argc, char** argv)
 {
-    const auto memory = argc == 3 ? number(argv[1]) : std::nullopt;
-    const auto seconds = argc == 3 ? number(argv[2]) : std::nullopt;
-    if (!memory || !seconds) {
+    constexpr int kArguments = 4;
+    const auto memory = argc == kArguments ? number(argv[1]) : std::nullopt;
+    const auto picture = argc == kArguments ? number(argv[2]) : std::nullopt;
+    const auto idle = argc == kArguments ? number(argv[3]) : std::nullopt;
+    if (!memory || !picture || !idle) {
         std::fputs("orlen-recognizer is started by orlen.\n", stderr);
         return 2;
     }
@@ -52,6 +54,7 @@ int main(int argc, char** argv)
     // One picture at a time on one core: there is a process for each core.
     cv::setNumThreads(1);
     orlen::ImageDecoder::prepare();
-    orlen::ImageServer::serve(kStandardInput, std::chrono::seconds(*seconds));
+    orlen::ImageServer::serve(kStandardInput,
+                              {std::chrono::seconds(*picture), std::chrono::milliseconds(*idle)});
     return 0;
 }

@@ -11,8 +11,12 @@ namespace orlen {
 namespace {
 
 using ImageMessages::Answer;
-using ImageMessages::decoded;
+using ImageMessages::decodedAnswer;
+using ImageMessages::decodedPictureAnswer;
+using ImageMessages::decodedQuestion;
 using ImageMessages::encoded;
+using ImageMessages::PictureAnswer;
+using ImageMessages::Question;
 
 // Where the numbers stand in an answer.
 constexpr std::size_t kHasPicture = 0;
@@ -46,7 +50,7 @@ std::string replaced(std::size_t at, Number number)
 
 TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
 {
-    const auto heard = decoded(encoded(picture()));
+    const auto heard = decodedAnswer(encoded(picture()));
     ASSERT_TRUE(heard && heard->analysis && heard->analysis->print);
     EXPECT_EQ(heard->analysis->width, 4000);
     EXPECT_EQ(heard->analysis->height, 3000);
@@ -55,12 +59,60 @@ TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
     EXPECT_EQ(heard->analysis->print->tile(), picture().analysis->print->tile());
     EXPECT_EQ(heard->analysis->labels, picture().analysis->labels);
 
-    const auto plain = decoded(encoded({ImageAnalysis{}}));
+    const auto plain = decodedAnswer(encoded(Answer{ImageAnalysis{}}));
     ASSERT_TRUE(plain && plain->analysis);
     EXPECT_FALSE(plain->analysis->print);
-    const auto none = decoded(encoded({}));
+    const auto none = decodedAnswer(encoded(Answer{}));
     ASSERT_TRUE(none);
     EXPECT_FALSE(none->analysis);
+}
+
+TEST(ImageMessagesTest, aQuestionIsHeardAsItWasPut)
+{
+    const auto plain = decodedQuestion(encoded(Question{}));
+    ASSERT_TRUE(plain);
+    EXPECT_FALSE(plain->bound);
+    const auto small = decodedQuestion(encoded(Question{{{{4096, 1}, PictureBound::Fit::cover}}}));
+    ASSERT_TRUE(small && small->bound);
+    EXPECT_EQ(small->bound->size, (PixelSize{4096, 1}));
+    EXPECT_EQ(small->bound->fit, PictureBound::Fit::cover);
+    for (const PixelSize size : {PixelSize{4097, 1}, PixelSize{1, 4097}, PixelSize{0, 5}, PixelSize{5, -1}})
+        EXPECT_FALSE(decodedQuestion(encoded(Question{{{size}}}))) << size.width << ' ' << size.height;
+    EXPECT_FALSE(decodedQuestion(""));
+    EXPECT_FALSE(decodedQuestion(encoded(Question{}) + '\0'));
+}
+
+TEST(ImageMessagesTest, aSmallPictureIsNoLargerThanWhatWasAskedFor)
+{
+    const PixelSize most{96, 64};
+    const auto none = decodedPictureAnswer(encoded(PictureAnswer{}), most);
+    ASSERT_TRUE(none);
+    EXPECT_FALSE(none->sizes);
+    struct Case {
+        const char* name;
+        PictureAnswer::Sizes sizes;
+        bool isBelieved;
+    };
+    const Case cases[] = {
+        {"as large as that", {{30'000, 1}, {96, 64}}, true},
+        {"wider", {{30'000, 1}, {97, 64}}, false},
+        {"higher", {{30'000, 1}, {96, 65}}, false},
+        {"without pixels", {{30'000, 1}, {0, 64}}, false},
+        {"less than none", {{30'000, 1}, {-96, -64}}, false},
+        {"of no picture", {{0, 1}, {96, 64}}, false},
+        {"of a picture that nobody has", {{1'000'001, 1}, {96, 64}}, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const std::string bytes = encoded(PictureAnswer{c.sizes});
+        const auto heard = decodedPictureAnswer(bytes, most);
+        ASSERT_EQ(heard.has_value(), c.isBelieved);
+        if (heard) {
+            EXPECT_EQ(heard->sizes->whole, c.sizes.whole);
+        }
+        EXPECT_FALSE(decodedPictureAnswer(bytes.substr(0, bytes.size() - 1), most));
+        EXPECT_FALSE(decodedPictureAnswer(bytes + '\0', most));
+    }
 }
 
 TEST(ImageMessagesTest, everyCutAndEveryByteTooMuchIsRefused)
@@ -69,10 +121,10 @@ TEST(ImageMessagesTest, everyCutAndEveryByteTooMuchIsRefused)
         const std::string bytes = encoded(answer);
         ASSERT_LE(bytes.size(), ImageMessages::kLongest);
         for (std::size_t length = 0; length < bytes.size(); ++length)
-            ASSERT_FALSE(decoded(bytes.substr(0, length))) << length;
-        EXPECT_FALSE(decoded(bytes + '\0'));
+            ASSERT_FALSE(decodedAnswer(bytes.substr(0, length))) << length;
+        EXPECT_FALSE(decodedAnswer(bytes + '\0'));
     }
-    EXPECT_FALSE(decoded(ImageMessages::kReady));
+    EXPECT_FALSE(decodedAnswer(ImageMessages::kReady));
 }
 
 TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
@@ -107,9 +159,9 @@ TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        EXPECT_FALSE(decoded(c.bytes));
+        EXPECT_FALSE(decodedAnswer(c.bytes));
     }
-    EXPECT_TRUE(decoded(replaced(kIdentifier + 7, 1.0F))) << "the places of the numbers are right";
+    EXPECT_TRUE(decodedAnswer(replaced(kIdentifier + 7, 1.0F))) << "the places of the numbers are right";
 }
 
 TEST(ImageMessagesTest, tooManyOrTooLongWordsAreLeftOut)
@@ -120,7 +172,7 @@ TEST(ImageMessagesTest, tooManyOrTooLongWordsAreLeftOut)
                                    {{std::string(65, 'b'), 0.5F}, {"", 0.5F}});
     const std::string bytes = encoded(answer);
     EXPECT_LE(bytes.size(), ImageMessages::kLongest);
-    const auto heard = decoded(bytes);
+    const auto heard = decodedAnswer(bytes);
     ASSERT_TRUE(heard && heard->analysis);
     ASSERT_EQ(heard->analysis->labels.size(), 32U);
     EXPECT_EQ(heard->analysis->labels.front().identifier, std::string(64, 'a'));

@@ -1,6 +1,7 @@
 #include "platform/images/ImageWorkers.h"
 
 #include "platform/Folder.h"
+#include "platform/images/PixelBuffer.h"
 #include "support/TempHome.h"
 #include "support/TestBmp.h"
 
@@ -24,10 +25,10 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr const char* kReady = "printf 'orlen-recognizer 1' >&0\n";
+constexpr const char* kReady = "printf 'orlen-recognizer 2' >&0\n";
 constexpr const char* kTake = "head -c 1 >/dev/null\n";
 
-bool hasNoChildren()
+bool hasNoWorkers()
 {
     return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
 }
@@ -71,7 +72,7 @@ TEST_F(ImageWorkersTest, aPictureIsAnalysed)
     const std::size_t descriptors = openDescriptors();
     {
         ImageWorkers workers(real);
-        EXPECT_TRUE(hasNoChildren()) << "nothing is started before the first picture";
+        EXPECT_TRUE(hasNoWorkers()) << "nothing is started before the first picture";
         const auto analysis = workers.analyze(picture, {});
         ASSERT_TRUE(analysis);
         EXPECT_EQ(analysis->width, 64);
@@ -81,8 +82,47 @@ TEST_F(ImageWorkersTest, aPictureIsAnalysed)
         EXPECT_TRUE(workers.analyze(picture, {}));
         EXPECT_EQ(children().size(), 1U) << "one after the other needs one worker";
     }
-    EXPECT_TRUE(hasNoChildren());
+    EXPECT_TRUE(hasNoWorkers());
     EXPECT_EQ(openDescriptors(), descriptors);
+}
+
+TEST_F(ImageWorkersTest, aPictureIsMadeSmall)
+{
+    ImageWorkers workers(real);
+    const auto small = workers.smallPicture(picture, {{16, 16}}, {});
+    ASSERT_TRUE(small);
+    EXPECT_EQ(small->whole, (PixelSize{64, 48}));
+    EXPECT_EQ(small->image.width, 16);
+    EXPECT_EQ(small->image.height, 12);
+    const auto whole = workers.smallPicture(picture, {{100'000, 100'000}}, {});
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->image.width, 64);
+    // The file's last row, from the bottom up, is the first of the picture.
+    const std::string file = TempHome::content(picture);
+    const std::string firstPixel(whole->image.pixels.begin(), whole->image.pixels.begin() + 3);
+    EXPECT_EQ(file.substr(file.size() - std::size_t{64} * 4, 3),
+              std::string(firstPixel.rbegin(), firstPixel.rend()));
+    const auto square = workers.smallPicture(picture, {{8, 8}, PictureBound::Fit::cover}, {});
+    ASSERT_TRUE(square);
+    EXPECT_EQ(square->image.pixels.size(), 8U * 8 * 3);
+    EXPECT_FALSE(workers.smallPicture(home.file("text.png", "no picture"), {{8, 8}}, {}));
+    for (const PixelSize empty : {PixelSize{0, 8}, PixelSize{8, -1}})
+        EXPECT_FALSE(workers.smallPicture(picture, {empty}, {}));
+    EXPECT_EQ(children().size(), 1U) << "what is no picture costs no worker";
+}
+
+TEST_F(ImageWorkersTest, aWorkerWithNothingToDoEndsAndIsReplaced)
+{
+    ImageWorkers::Options impatient = real;
+    impatient.idle = 300ms;
+    ImageWorkers workers(impatient);
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(workers.analyze(picture, {}));
+        ASSERT_EQ(children().size(), 1U);
+        siginfo_t end{};
+        ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(children().front()), &end, WEXITED | WNOWAIT), 0);
+        EXPECT_EQ(end.si_code, CLD_EXITED);
+    }
 }
 
 TEST_F(ImageWorkersTest, onlyRegularFilesAreOpened)
@@ -94,7 +134,7 @@ TEST_F(ImageWorkersTest, onlyRegularFilesAreOpened)
     EXPECT_FALSE(workers.analyze(fifo, {}));
     EXPECT_FALSE(workers.analyze(home.folder("folder.bmp"), {}));
     EXPECT_FALSE(workers.analyze(home.path("missing.bmp"), {}));
-    EXPECT_TRUE(hasNoChildren());
+    EXPECT_TRUE(hasNoWorkers());
 }
 
 TEST_F(ImageWorkersTest, workersCanDoLittle)
@@ -174,8 +214,9 @@ TEST_F(ImageWorkersTest, whateverAWorkerDoesThePictureIsUnreadableAndItIsGone)
             ImageWorkers workers(options);
             const Clock::time_point started = Clock::now();
             EXPECT_FALSE(workers.analyze(picture, {}));
+            EXPECT_FALSE(workers.smallPicture(picture, {{1, 1}}, {}));
             EXPECT_LT(Clock::now() - started, 5s);
-            EXPECT_TRUE(hasNoChildren());
+            EXPECT_TRUE(hasNoWorkers());
         }
         EXPECT_EQ(openDescriptors(), descriptors);
     }
@@ -215,8 +256,21 @@ TEST_F(ImageWorkersTest, stoppedCallsReturnAtOnce)
     stop.request_stop();
     threads.clear();
     EXPECT_LT(Clock::now() - stopped, 2s);
-    EXPECT_TRUE(hasNoChildren());
+    EXPECT_TRUE(hasNoWorkers());
     EXPECT_FALSE(workers.analyze(picture, stop.get_token()));
+}
+
+TEST(PixelBufferTest, isNotReadBeyondItsEnd)
+{
+    const auto buffer = PixelBuffer::ofSize(6);
+    ASSERT_TRUE(buffer.ok());
+    const std::vector<std::uint8_t> pixels{1, 2, 3, 4, 5, 6};
+    EXPECT_TRUE(PixelBuffer::write(buffer.value().get(), pixels));
+    EXPECT_EQ(PixelBuffer::read(buffer.value().get(), 6), pixels);
+    EXPECT_FALSE(PixelBuffer::read(buffer.value().get(), 7));
+    EXPECT_FALSE(PixelBuffer::write(buffer.value().get(), std::vector<std::uint8_t>(7)));
+    ASSERT_EQ(::ftruncate(buffer.value().get(), 5), 0) << "as the other side may do";
+    EXPECT_FALSE(PixelBuffer::read(buffer.value().get(), 6));
 }
 
 } // namespace orlen

@@ -59,7 +59,7 @@ std::optional<BmpReader::Picture> read(const std::string& bytes, int side = 512)
             std::copy_n(rest.begin(), length, buffer.begin());
             return length;
         },
-        side);
+        {{side, side}});
 }
 
 std::string times(int count, const std::string& text)
@@ -157,7 +157,7 @@ TEST(BmpReaderTest, everyDepthIsRead)
         ASSERT_TRUE(picture);
         EXPECT_EQ(picture->width, 4);
         EXPECT_EQ(picture->height, 4);
-        EXPECT_EQ(difference(quartersOf(picture->thumbnail), c.expected), 0);
+        EXPECT_EQ(difference(quartersOf(picture->small), c.expected), 0);
     }
 }
 
@@ -168,9 +168,9 @@ TEST(BmpReaderTest, aLargePictureIsShrunkToTheMeanOfItsPixels)
     const auto picture = read(Bmp{.width = 1000, .height = 100, .pixels = times(100, row)}.bytes(), 100);
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->width, 1000);
-    EXPECT_EQ(picture->thumbnail.width, 100);
-    EXPECT_EQ(picture->thumbnail.height, 10);
-    for (const std::uint8_t value : picture->thumbnail.pixels)
+    EXPECT_EQ(picture->small.width, 100);
+    EXPECT_EQ(picture->small.height, 10);
+    for (const std::uint8_t value : picture->small.pixels)
         ASSERT_EQ(value, 128);
 }
 
@@ -234,7 +234,7 @@ TEST(BmpReaderTest, damagedFilesAreReadOrRefused)
                 bytes[2 + random() % 70] = static_cast<char>(random());
             bytes.resize(random() % bytes.size());
             const auto picture = read(bytes, 64);
-            EXPECT_TRUE(!picture || picture->thumbnail.pixels.size() <= 64UL * 64 * 3);
+            EXPECT_TRUE(!picture || picture->small.pixels.size() <= 64UL * 64 * 3);
         }
     }
 }

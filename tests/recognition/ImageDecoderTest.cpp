@@ -1,6 +1,7 @@
 #include "recognition/ImageDecoder.h"
 
 #include "recognition/Pictures.h"
+#include "support/TestBmp.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ constexpr int kLossy = 40;
 
 bool isWhole(const Decoded& decoded)
 {
-    const RgbImage& image = decoded.thumbnail;
+    const RgbImage& image = decoded.small;
     return image.width > 0 && image.height > 0 && std::max(image.width, image.height) <= 512 &&
            image.pixels.size() ==
                static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3;
@@ -102,8 +103,8 @@ TEST_F(ImageDecoderTest, everyFormatAndDepthGivesTheSameColours)
         EXPECT_TRUE(isWhole(*picture));
         EXPECT_EQ(picture->width, 64);
         EXPECT_EQ(picture->height, 48);
-        EXPECT_EQ(picture->thumbnail.width, 64) << "never enlarged";
-        EXPECT_LE(difference(quartersOf(picture->thumbnail), c.options.quarters), c.tolerance);
+        EXPECT_EQ(picture->small.width, 64) << "never enlarged";
+        EXPECT_LE(difference(quartersOf(picture->small), c.options.quarters), c.tolerance);
     }
 }
 
@@ -113,7 +114,7 @@ TEST_F(ImageDecoderTest, greyIsTheSameInAllChannels)
         SCOPED_TRACE(format);
         const auto picture = decoded(encoded({.format = format, .interpretation = "grey"}));
         ASSERT_TRUE(picture);
-        for (const Pictures::Colour& colour : quartersOf(picture->thumbnail)) {
+        for (const Pictures::Colour& colour : quartersOf(picture->small)) {
             EXPECT_NEAR(colour[0], colour[1], 1);
             EXPECT_NEAR(colour[0], colour[2], 1);
         }
@@ -144,9 +145,52 @@ TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
         ASSERT_TRUE(picture);
         EXPECT_EQ(picture->width, 800) << "as it is stored";
         EXPECT_EQ(picture->height, 600);
-        EXPECT_EQ(picture->thumbnail.width, isLying ? 384 : 512);
-        EXPECT_EQ(picture->thumbnail.height, isLying ? 512 : 384);
-        EXPECT_LE(difference(quartersOf(picture->thumbnail), kFour), kLossy);
+        EXPECT_EQ(picture->upright(), (isLying ? PixelSize{600, 800} : PixelSize{800, 600}));
+        EXPECT_EQ(picture->small.width, isLying ? 384 : 512);
+        EXPECT_EQ(picture->small.height, isLying ? 512 : 384);
+        EXPECT_LE(difference(quartersOf(picture->small), kFour), kLossy);
+    }
+}
+
+TEST_F(ImageDecoderTest, aPictureIsCutToTheShapeThatIsWanted)
+{
+    struct Case {
+        const char* name;
+        std::string bytes;
+        PixelSize wanted;
+        PixelSize given;
+        std::optional<Quarters> quarters;
+    };
+    const Options wide{.width = 600, .height = 200, .format = ".jpg[Q=95]"};
+    Options lying = wide;
+    lying.orientation = 6;
+    const Case cases[] = {
+        {"a square of a wide one", encoded(wide), {50, 50}, {50, 50}, kFour},
+        {"a wide one of a wide one", encoded(wide), {90, 20}, {90, 20}, kFour},
+        {"an upright one of a wide one", encoded(wide), {20, 90}, {20, 90}, kFour},
+        {"a square of one that is turned",
+         encoded(lying),
+         {60, 60},
+         {60, 60},
+         {{kBlue, kRed, kWhite, kGreen}}},
+        {"the shape of what is wanted, not its size", encoded(wide), {1000, 2000}, {100, 200}, kFour},
+        {"the same, as wide as it is",
+         encoded(lying),
+         {2000, 1000},
+         {200, 100},
+         {{kBlue, kRed, kWhite, kGreen}}},
+        {"a bitmap", testBmp(300, 100), {50, 50}, {50, 50}, {}},
+        {"a sliver", encoded({.width = 3000, .height = 1}), {40, 40}, {1, 1}, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const auto picture = decoded(c.bytes, {c.wanted, PictureBound::Fit::cover});
+        ASSERT_TRUE(picture);
+        EXPECT_EQ((PixelSize{picture->small.width, picture->small.height}), c.given);
+        EXPECT_EQ(picture->small.pixels.size(), RgbImage::byteCount(c.given.width, c.given.height));
+        if (c.quarters) {
+            EXPECT_LE(difference(quartersOf(picture->small), *c.quarters), kLossy);
+        }
     }
 }
 
@@ -156,11 +200,11 @@ TEST_F(ImageDecoderTest, whatIsSeenThroughIsWhite)
         SCOPED_TRACE(kind);
         const auto clear = decoded(encoded({.alpha = 0, .interpretation = kind}));
         ASSERT_TRUE(clear);
-        EXPECT_LE(difference(quartersOf(clear->thumbnail), {kWhite, kWhite, kWhite, kWhite}), kLossless);
+        EXPECT_LE(difference(quartersOf(clear->small), {kWhite, kWhite, kWhite, kWhite}), kLossless);
         const auto half = decoded(encoded({.alpha = 128, .interpretation = kind}));
         ASSERT_TRUE(half);
-        EXPECT_NEAR(quartersOf(half->thumbnail)[0][0], 255, 2);
-        EXPECT_NEAR(quartersOf(half->thumbnail)[0][1], 127, 2);
+        EXPECT_NEAR(quartersOf(half->small)[0][0], 255, 2);
+        EXPECT_NEAR(quartersOf(half->small)[0][1], 127, 2);
     }
 }
 
@@ -171,7 +215,7 @@ TEST_F(ImageDecoderTest, ofAnAnimationOnlyTheFirstFrameIsSeen)
         const auto picture = decoded(Pictures::animated(format));
         ASSERT_TRUE(picture);
         EXPECT_EQ(picture->height, 48);
-        EXPECT_LE(difference(quartersOf(picture->thumbnail), kFour), kLossless);
+        EXPECT_LE(difference(quartersOf(picture->small), kFour), kLossless);
     }
 }
 

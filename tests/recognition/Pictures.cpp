@@ -111,11 +111,11 @@ std::string animated(const std::string& format)
     return saved(both, format);
 }
 
-std::optional<ImageDecoder::Decoded> decoded(const std::string& bytes)
+std::optional<ImageDecoder::Decoded> decoded(const std::string& bytes, const PictureBound& bound)
 {
     const TempHome home;
     const auto file = openFile(home.file("picture", bytes));
-    return file.ok() ? ImageDecoder::decode(file.value().get()) : std::nullopt;
+    return file.ok() ? ImageDecoder::decode(file.value().get(), bound) : std::nullopt;
 }
 
 Quarters quartersOf(const RgbImage& image)

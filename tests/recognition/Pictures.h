@@ -42,7 +42,8 @@ struct Options {
 [[nodiscard]] std::string animated(const std::string& format);
 
 /// What the decoder makes of these bytes in a file.
-[[nodiscard]] std::optional<ImageDecoder::Decoded> decoded(const std::string& bytes);
+[[nodiscard]] std::optional<ImageDecoder::Decoded>
+decoded(const std::string& bytes, const PictureBound& bound = ImageDecoder::kForRecognition);
 
 /// The colour in the middle of each quarter.
 [[nodiscard]] Quarters quartersOf(const RgbImage& image);

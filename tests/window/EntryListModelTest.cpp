@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
+const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
 
 /// Caches of 400, 300, 200 and 100 KiB after a scan; the third is one to review.
 class EntryListModelTest : public testing::Test {

@@ -17,8 +17,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                                   std::chrono::milliseconds(0)};
+const AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
+                               std::chrono::milliseconds(0)};
 
 void clean(AppModel& app, const std::vector<std::string>& paths, const std::string& title)
 {

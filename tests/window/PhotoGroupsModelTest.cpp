@@ -16,8 +16,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr AppModel::Options kQuickPhotos{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                                         std::chrono::milliseconds(0)};
+const AppModel::Options kQuickPhotos{AppModel::Startup::filesOnly, AppModel::Access::writer,
+                                     std::chrono::milliseconds(0)};
 const QString kShots = QStringLiteral("screenshots");
 const QString kSimilar = QStringLiteral("photoDuplicates");
 

@@ -84,19 +84,20 @@ TEST(ThumbnailsTest, turnsPicturesUpright)
 {
     const TempHome home;
     const std::string path = home.file("turned.jpg", turnedPicture({400, 200}));
-    EXPECT_EQ(PictureReader::sizeOf(path), QSize(200, 400));
-    const QImage image = PictureReader::read(path, {100, 100}, PictureReader::Fit::inside);
-    ASSERT_EQ(image.size(), QSize(50, 100));
-    EXPECT_GT(image.pixelColor(25, 10).red(), 200);
-    EXPECT_GT(image.pixelColor(25, 90).blue(), 200);
-    EXPECT_EQ(PictureReader::read(path, {40, 20}, PictureReader::Fit::cover).size(), QSize(40, 20));
+    const auto picture = PictureReader::read(path, {100, 100}, PictureReader::Fit::inside, {});
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->whole, QSize(200, 400));
+    ASSERT_EQ(picture->image.size(), QSize(50, 100));
+    EXPECT_GT(picture->image.pixelColor(25, 10).red(), 200);
+    EXPECT_GT(picture->image.pixelColor(25, 90).blue(), 200);
 }
 
 TEST(ThumbnailsTest, goesByTheContentAndRefusesTheRest)
 {
     const TempHome home;
     const std::string picture = pictureBytes({30, 30}, "png");
-    EXPECT_TRUE(PictureReader::sizeOf(home.file("misnamed.jpg", picture)).isValid());
+    const std::string misnamed = home.file("misnamed.jpg", picture);
+    EXPECT_TRUE(PictureReader::read(misnamed, {40, 40}, PictureReader::Fit::cover, {}));
     // 20,000 x 20,000 pixels, and only the beginning of them.
     std::string huge = pictureBytes({30, 30}, "bmp");
     huge.replace(18, 8, std::string("\x20\x4e\0\0\x20\x4e\0\0", 8));
@@ -112,7 +113,7 @@ TEST(ThumbnailsTest, goesByTheContentAndRefusesTheRest)
         {"larger than the memory allowed", home.file("huge.bmp", huge)},
         {"missing", home.path("missing.png")},
         {"folder", home.folder("folder.png")},
-        {"link", home.link("link.png", home.path("misnamed.jpg"))},
+        {"link", home.link("link.png", misnamed)},
     };
     Thumbnails thumbnails;
     for (const Case& c : cases) {

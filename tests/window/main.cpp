@@ -1,3 +1,5 @@
+#include "PictureReader.h"
+
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -13,5 +15,6 @@ int main(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Orlen"));
     QGuiApplication::setOrganizationName(QStringLiteral("Orlen"));
+    orlen::PictureReader::setRecognizer(ORLEN_RECOGNIZER);
     return RUN_ALL_TESTS();
 }

@@ -70,12 +70,13 @@ void readText(FilePreview& preview, const UniqueFd& file, std::int64_t length)
     }
 }
 
-void readFile(FilePreview& preview, const std::string& path, std::int64_t length)
+void readFile(FilePreview& preview, const std::string& path, std::int64_t length, const std::stop_token& stop)
 {
     if (PictureReader::looksReadable(path)) {
-        preview.pixels = PictureReader::sizeOf(path);
-        if (preview.pixels.isValid()) {
+        // Only the size of the whole is wanted, which is told with the smallest picture of it.
+        if (const auto picture = PictureReader::read(path, {1, 1}, PictureReader::Fit::inside, stop)) {
             preview.kind = FilePreview::Kind::picture;
+            preview.pixels = picture->whole;
             return;
         }
     }
@@ -133,7 +134,7 @@ FilePreview FilePreview::of(const std::string& path, const std::stop_token& stop
     }
     preview.bytes = status.value().allocatedBytes;
     if (status.value().type == FileType::regular)
-        readFile(preview, path, status.value().length);
+        readFile(preview, path, status.value().length, stop);
     return preview;
 }
 

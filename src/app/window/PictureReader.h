@@ -3,26 +3,35 @@
 #include <QImage>
 #include <QSize>
 
+#include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
-/// Reads the user's pictures: JPEG, PNG, WebP, GIF, BMP and TIFF, told apart by their content. A picture is
-/// turned upright, and one that would need more than 256 MB of memory is refused. Links are not followed.
-/// Any thread; all but `looksReadable` block on the disk.
+/// Reads the user's pictures for showing them, told apart by their content and not by their name. They are
+/// decoded by processes of their own (see ImageWorkers), so none of them can crash the window or take its
+/// memory. Links are not followed. Any thread; all but `looksReadable` block.
 namespace orlen::PictureReader {
 
 enum class Fit {
     inside, ///< the whole picture, at most as large as asked for
-    cover,  ///< the middle of the picture, exactly the shape that is asked for
+    cover,  ///< the middle of the picture, in the shape that is asked for
+};
+
+struct Picture {
+    QImage image; ///< upright, never enlarged
+    QSize whole;  ///< pixels of the picture in the file, upright
 };
 
 /// Whether the name is that of a picture. Says nothing of the content.
 [[nodiscard]] bool looksReadable(std::string_view path);
 
-/// Width and height in pixels, upright; invalid for what is no readable picture.
-[[nodiscard]] QSize sizeOf(const std::string& path);
+/// The picture made small enough for `bound` pixels. Nothing when it cannot be read; at once when stopped.
+[[nodiscard]] std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit,
+                                          const std::stop_token& stop);
 
-/// The picture made small enough for `bound` pixels, never enlarged; null when it cannot be read.
-[[nodiscard]] QImage read(const std::string& path, const QSize& bound, Fit fit);
+/// The program that decodes, in place of the one that was built or installed with this program. Before the
+/// first picture.
+void setRecognizer(const std::string& program);
 
 } // namespace orlen::PictureReader

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kThreads = 2;
 constexpr qsizetype kCacheKilobytes = 64'000;
-constexpr QSize kUsualSize{96, 96};
+constexpr QSize kUsualThumbnail{96, 96};
 constexpr QSize kLargest{4096, 4096};
 const QString kInside = QStringLiteral("inside");
 
@@ -39,8 +39,12 @@ private:
         if (image.isNull()) {
             const std::string path = PathTokens::path(m_id.section(u'/', 0, 0).toInt());
             const bool isInside = m_id.section(u'/', 1, 1) == kInside;
-            image = PictureReader::read(path, m_size,
-                                        isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover);
+            auto picture = PictureReader::read(
+                path, m_size, isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
+                m_thumbnails.m_stop.get_token());
+            if (!picture)
+                return {};
+            image = std::move(picture->image);
             m_thumbnails.keep(key, image);
         }
         return image;
@@ -60,6 +64,7 @@ Thumbnails::Thumbnails() : m_images(kCacheKilobytes)
 Thumbnails::~Thumbnails()
 {
     m_pool.clear();
+    m_stop.request_stop();
 }
 
 QString Thumbnails::source(const std::string& path)
@@ -71,7 +76,7 @@ QString Thumbnails::source(const std::string& path)
 
 QQuickImageResponse* Thumbnails::requestImageResponse(const QString& id, const QSize& requestedSize)
 {
-    const QSize wanted = (requestedSize.isEmpty() ? kUsualSize : requestedSize).boundedTo(kLargest);
+    const QSize wanted = (requestedSize.isEmpty() ? kUsualThumbnail : requestedSize).boundedTo(kLargest);
     auto* response = new ThumbnailResponse; // the engine's from here on
     m_pool.start(new Job(*this, id, wanted, response->ticket()));
     return response;
@@ -86,8 +91,6 @@ QImage Thumbnails::cached(const QString& key)
 
 void Thumbnails::keep(const QString& key, const QImage& image)
 {
-    if (image.isNull())
-        return;
     const QMutexLocker locker(&m_lock);
     m_images.insert(key, new QImage(image), image.sizeInBytes() / 1000 + 1);
 }

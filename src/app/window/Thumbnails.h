@@ -6,6 +6,7 @@
 #include <QQuickAsyncImageProvider>
 #include <QThreadPool>
 
+#include <stop_token>
 #include <string>
 
 namespace orlen {
@@ -36,7 +37,8 @@ private:
 
     QMutex m_lock;
     QCache<QString, QImage> m_images; ///< by identity and size, at the cost of their kilobytes
-    QThreadPool m_pool;               ///< last, so that no job outlives what it uses
+    std::stop_source m_stop;
+    QThreadPool m_pool; ///< last, so that no job outlives what it uses
 };
 
 } // namespace orlen

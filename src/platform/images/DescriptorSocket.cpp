@@ -4,34 +4,50 @@
 
 #include <array>
 #include <cstring>
+#include <poll.h>
 #include <sys/socket.h>
 
 namespace orlen::DescriptorSocket {
 
 namespace {
 
-/// Room for the system's description of one descriptor.
-struct alignas(cmsghdr) Attachment {
-    std::array<char, CMSG_SPACE(sizeof(int))> bytes{};
-};
-
-/// A message of one byte with room for a descriptor.
-struct FileMessage {
-    FileMessage()
+/// A system's message whose bytes lie elsewhere, with room for descriptors.
+struct SystemMessage {
+    SystemMessage(char* bytes, std::size_t length) : part{bytes, length}
     {
         header.msg_iov = &part;
         header.msg_iovlen = 1;
-        header.msg_control = attachment.bytes.data();
-        header.msg_controllen = attachment.bytes.size();
+        header.msg_control = room.data();
+        header.msg_controllen = room.size();
     }
-    FileMessage(const FileMessage&) = delete;
-    FileMessage& operator=(const FileMessage&) = delete;
+    SystemMessage(const SystemMessage&) = delete;
+    SystemMessage& operator=(const SystemMessage&) = delete;
 
-    Attachment attachment;
-    char byte = 'f';
-    iovec part{&byte, 1};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(kMostFiles * sizeof(int))> room{};
+    iovec part;
     msghdr header{};
 };
+
+std::vector<UniqueFd> filesOf(msghdr& header)
+{
+    std::vector<UniqueFd> files;
+    for (cmsghdr* part = CMSG_FIRSTHDR(&header); part != nullptr; part = CMSG_NXTHDR(&header, part)) {
+        if (part->cmsg_level != SOL_SOCKET || part->cmsg_type != SCM_RIGHTS)
+            continue;
+        for (std::size_t at = 0; CMSG_LEN(at + sizeof(int)) <= part->cmsg_len; at += sizeof(int)) {
+            int file = -1;
+            std::memcpy(&file, CMSG_DATA(part) + at, sizeof file);
+            files.emplace_back(file);
+        }
+    }
+    return files;
+}
+
+/// A message of no bytes is the end; its length is told whatever fits into the buffer.
+bool fits(ssize_t length, const std::string& buffer)
+{
+    return length > 0 && static_cast<std::size_t>(length) <= buffer.size();
+}
 
 } // namespace
 
@@ -50,40 +66,50 @@ bool send(int socket, std::string_view message)
     return sent == static_cast<ssize_t>(message.size());
 }
 
-bool sendFile(int socket, int file)
+bool sendWithFiles(int socket, std::string_view message, std::span<const int> files)
 {
-    FileMessage message;
-    cmsghdr* description = CMSG_FIRSTHDR(&message.header);
+    if (files.empty() || files.size() > kMostFiles)
+        return false;
+    std::string bytes(message);
+    SystemMessage system(bytes.data(), bytes.size());
+    cmsghdr* const description = CMSG_FIRSTHDR(&system.header);
     description->cmsg_level = SOL_SOCKET;
     description->cmsg_type = SCM_RIGHTS;
-    description->cmsg_len = CMSG_LEN(sizeof(int));
-    std::memcpy(CMSG_DATA(description), &file, sizeof file);
-    return retried([&] { return ::sendmsg(socket, &message.header, MSG_NOSIGNAL | MSG_DONTWAIT); }) == 1;
-}
-
-std::optional<UniqueFd> receiveFile(int socket)
-{
-    FileMessage message;
-    if (retried([&] { return ::recvmsg(socket, &message.header, MSG_CMSG_CLOEXEC); }) != 1)
-        return std::nullopt;
-    const cmsghdr* description = CMSG_FIRSTHDR(&message.header);
-    if (description == nullptr || description->cmsg_level != SOL_SOCKET ||
-        description->cmsg_type != SCM_RIGHTS || description->cmsg_len != CMSG_LEN(sizeof(int)))
-        return std::nullopt;
-    int file = -1;
-    std::memcpy(&file, CMSG_DATA(description), sizeof file);
-    return UniqueFd(file);
+    description->cmsg_len = CMSG_LEN(files.size_bytes());
+    std::memcpy(CMSG_DATA(description), files.data(), files.size_bytes());
+    system.header.msg_controllen = CMSG_SPACE(files.size_bytes());
+    const auto sent = retried([&] { return ::sendmsg(socket, &system.header, MSG_NOSIGNAL | MSG_DONTWAIT); });
+    return sent == static_cast<ssize_t>(bytes.size());
 }
 
 std::optional<std::string> receive(int socket, std::size_t limit)
 {
     std::string message(limit, '\0');
-    // The length of the whole message is told, whatever fits.
     const auto length =
         retried([&] { return ::recv(socket, message.data(), message.size(), MSG_DONTWAIT | MSG_TRUNC); });
-    if (length <= 0 || static_cast<std::size_t>(length) > limit)
+    if (!fits(length, message))
         return std::nullopt;
     message.resize(static_cast<std::size_t>(length));
+    return message;
+}
+
+std::optional<Message> receiveWithFiles(int socket, std::size_t limit, std::chrono::milliseconds patience)
+{
+    pollfd waiting{socket, POLLIN, 0};
+    // What came in the last moment is still read.
+    if (retried([&] { return ::poll(&waiting, 1, static_cast<int>(patience.count())); }) == 0)
+        ::shutdown(socket, SHUT_RD);
+    std::string bytes(limit, '\0');
+    SystemMessage system(bytes.data(), bytes.size());
+    const auto length =
+        retried([&] { return ::recvmsg(socket, &system.header, MSG_CMSG_CLOEXEC | MSG_TRUNC); });
+    if (length <= 0)
+        return std::nullopt;
+    Message message{{}, filesOf(system.header)};
+    if (!fits(length, bytes) || (system.header.msg_flags & MSG_CTRUNC) != 0)
+        return std::nullopt;
+    bytes.resize(static_cast<std::size_t>(length));
+    message.bytes = std::move(bytes);
     return message;
 }
 

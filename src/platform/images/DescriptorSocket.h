@@ -3,10 +3,13 @@
 #include "platform/Result.h"
 #include "platform/UniqueFd.h"
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Messages and open files between two processes, over a socket that keeps messages apart.
 namespace orlen::DescriptorSocket {
@@ -20,13 +23,25 @@ struct Pair {
 
 /// Sends a message; waits while the other side is slow to read. False when nobody is there to read it.
 [[nodiscard]] bool send(int socket, std::string_view message);
-/// Sends an open file. Never waits; false when nobody is there to take it.
-[[nodiscard]] bool sendFile(int socket, int file);
+/// Sends a message and open files with it. Never waits; false when nobody is there to take it.
+[[nodiscard]] bool sendWithFiles(int socket, std::string_view message, std::span<const int> files);
 
-/// The file that comes next; waits for it. Nothing when the other end is closed or sends something else.
-[[nodiscard]] std::optional<UniqueFd> receiveFile(int socket);
 /// The message that is there. Nothing when there is none, the other end is closed, or it is longer than
-/// `limit` bytes. Never waits; a file that comes with it is dropped.
+/// `limit` bytes. Never waits; files that come with it are dropped.
 [[nodiscard]] std::optional<std::string> receive(int socket, std::size_t limit);
+
+struct Message {
+    std::string bytes;
+    std::vector<UniqueFd> files;
+};
+
+/// More of them are refused.
+inline constexpr std::size_t kMostFiles = 2;
+
+/// The message that comes next, with its files. Nothing when the other end is closed or it is longer than
+/// `limit` bytes. When none came for as long as the patience lasts, nothing either, and no further message
+/// can be sent to this end.
+[[nodiscard]] std::optional<Message> receiveWithFiles(int socket, std::size_t limit,
+                                                      std::chrono::milliseconds patience);
 
 } // namespace orlen::DescriptorSocket

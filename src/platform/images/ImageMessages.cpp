@@ -13,9 +13,11 @@ namespace orlen::ImageMessages {
 
 namespace {
 
+constexpr std::uint8_t kAnalysis = 0;
+constexpr std::uint8_t kSmallPicture = 1;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
-constexpr std::int32_t kLongestSide = 1'000'000;
+constexpr std::int32_t kLongestWholeSide = 1'000'000;
 /// The numbers of a print lie between -1 and 1, give or take an error of rounding.
 constexpr float kLargestComponent = 1.01F;
 
@@ -73,7 +75,8 @@ public:
     }
     void require(bool holds) { m_isValid = m_isValid && holds; }
     [[nodiscard]] bool isValid() const { return m_isValid; }
-    [[nodiscard]] bool isAtEnd() const { return m_bytes.empty(); }
+    /// Whether nothing was missing or out of range, and nothing is left.
+    [[nodiscard]] bool isValidWhole() const { return m_isValid && m_bytes.empty(); }
 
 private:
     std::string_view take(std::size_t length)
@@ -131,7 +134,42 @@ std::optional<FeaturePrint> print(Reader& reader)
     return FeaturePrint(vector, tile);
 }
 
+void put(Writer& writer, PixelSize size)
+{
+    writer.put(std::int32_t{size.width});
+    writer.put(std::int32_t{size.height});
+}
+
+/// At least one pixel each way.
+PixelSize size(Reader& reader, PixelSize most)
+{
+    const auto width = reader.get<std::int32_t>(1, most.width);
+    return {width, reader.get<std::int32_t>(1, most.height)};
+}
+
 } // namespace
+
+std::string encoded(const Question& question)
+{
+    Writer writer;
+    writer.put(question.bound ? kSmallPicture : kAnalysis);
+    if (question.bound) {
+        put(writer, question.bound->size);
+        writer.put(static_cast<std::uint8_t>(question.bound->fit));
+    }
+    return writer.bytes();
+}
+
+std::optional<Question> decodedQuestion(std::string_view bytes)
+{
+    Reader reader(bytes);
+    Question question;
+    if (reader.get<std::uint8_t>(kAnalysis, kSmallPicture) == kSmallPicture) {
+        const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
+        question.bound = {wanted, static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, 1))};
+    }
+    return reader.isValidWhole() ? std::optional(question) : std::nullopt;
+}
 
 std::string encoded(const Answer& answer)
 {
@@ -152,22 +190,40 @@ std::string encoded(const Answer& answer)
     return writer.bytes();
 }
 
-std::optional<Answer> decoded(std::string_view bytes)
+std::optional<Answer> decodedAnswer(std::string_view bytes)
 {
     Reader reader(bytes);
     Answer answer;
     if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
         answer.analysis.emplace();
-        answer.analysis->width = reader.get<std::int32_t>(0, kLongestSide);
-        answer.analysis->height = reader.get<std::int32_t>(0, kLongestSide);
+        answer.analysis->width = reader.get<std::int32_t>(0, kLongestWholeSide);
+        answer.analysis->height = reader.get<std::int32_t>(0, kLongestWholeSide);
         // The steepest picture there is stays far below.
         answer.analysis->sharpness = reader.get(0.0, 1e9);
         answer.analysis->print = print(reader);
         answer.analysis->labels = labels(reader);
     }
-    if (!reader.isValid() || !reader.isAtEnd())
-        return std::nullopt;
-    return answer;
+    return reader.isValidWhole() ? std::optional(std::move(answer)) : std::nullopt;
+}
+
+std::string encoded(const PictureAnswer& answer)
+{
+    Writer writer;
+    writer.put(answer.sizes ? kPicture : kNoPicture);
+    if (answer.sizes) {
+        put(writer, answer.sizes->whole);
+        put(writer, answer.sizes->small);
+    }
+    return writer.bytes();
+}
+
+std::optional<PictureAnswer> decodedPictureAnswer(std::string_view bytes, PixelSize most)
+{
+    Reader reader(bytes);
+    PictureAnswer answer;
+    if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture)
+        answer.sizes = {size(reader, {kLongestWholeSide, kLongestWholeSide}), size(reader, most)};
+    return reader.isValidWhole() ? std::optional(answer) : std::nullopt;
 }
 
 } // namespace orlen::ImageMessages

@@ -4,6 +4,7 @@
 #include "platform/Retrying.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
+#include "platform/images/PixelBuffer.h"
 
 #include <algorithm>
 #include <array>
@@ -52,7 +53,9 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
     // The process watches its own time as well: when this program is killed nobody else does.
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(limits.limit) + std::chrono::seconds(1);
     const std::optional<pid_t> process =
-        ProcessStart::start({{program, std::to_string(limits.memory), std::to_string(seconds.count())}, {}},
+        ProcessStart::start({{program, std::to_string(limits.memory), std::to_string(seconds.count()),
+                              std::to_string(limits.idle.count())},
+                             {}},
                             ProcessStart::Belonging::ownGroup, {.input = sockets.value().theirs.get()});
     if (!process)
         return nullptr;
@@ -68,17 +71,52 @@ ImageWorker::~ImageWorker()
     (void)retried([&] { return ::waitpid(m_process, nullptr, 0); });
 }
 
-ImageWorker::Outcome ImageWorker::ask(int file, const std::stop_token& stop)
+ImageWorker::End ImageWorker::ask(std::string_view question, std::span<const int> files, std::string& answer,
+                                  const std::stop_token& stop)
 {
-    if (!DescriptorSocket::sendFile(m_socket.get(), file))
-        return {Outcome::Kind::unreachable, {}};
-    const std::optional<std::string> message = nextMessage(stop);
-    std::optional<ImageMessages::Answer> answer;
-    if (message)
-        answer = ImageMessages::decoded(*message);
+    if (!DescriptorSocket::sendWithFiles(m_socket.get(), question, files))
+        return End::unreachable;
+    std::optional<std::string> message = nextMessage(stop);
+    if (!message)
+        return End::failed;
+    answer = *std::move(message);
+    return End::answered;
+}
+
+ImageWorker::Outcome<ImageAnalysis> ImageWorker::analyze(int file, const std::stop_token& stop)
+{
+    std::string bytes;
+    const std::array files{file};
+    const End end = ask(ImageMessages::encoded(ImageMessages::Question{}), files, bytes, stop);
+    if (end != End::answered)
+        return {end, {}};
+    auto answer = ImageMessages::decodedAnswer(bytes);
     if (!answer)
-        return {Outcome::Kind::failed, {}};
-    return {Outcome::Kind::answered, std::move(answer->analysis)};
+        return {End::failed, {}};
+    return {End::answered, std::move(answer->analysis)};
+}
+
+ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const PictureBound& bound,
+                                                             const std::stop_token& stop)
+{
+    const auto buffer = PixelBuffer::ofSize(RgbImage::byteCount(bound.size.width, bound.size.height));
+    if (!buffer.ok())
+        return {};
+    std::string bytes;
+    const std::array files{file, buffer.value().get()};
+    const End end = ask(ImageMessages::encoded(ImageMessages::Question{bound}), files, bytes, stop);
+    if (end != End::answered)
+        return {end, {}};
+    const auto answer = ImageMessages::decodedPictureAnswer(bytes, bound.size);
+    if (!answer)
+        return {};
+    if (!answer->sizes)
+        return {End::answered, {}};
+    const auto& [whole, small] = *answer->sizes;
+    auto pixels = PixelBuffer::read(buffer.value().get(), RgbImage::byteCount(small.width, small.height));
+    if (!pixels)
+        return {};
+    return {End::answered, SmallPicture{whole, {small.width, small.height, *std::move(pixels)}}};
 }
 
 std::optional<std::string> ImageWorker::nextMessage(const std::stop_token& stop) const

@@ -4,6 +4,7 @@
 #include "platform/FileContent.h"
 #include "platform/OwnProgram.h"
 #include "platform/PathText.h"
+#include "platform/images/ImageMessages.h"
 #include "platform/images/ImageWorker.h"
 
 #include <algorithm>
@@ -16,8 +17,6 @@
 namespace orlen {
 
 namespace {
-
-using Outcome = ImageWorker::Outcome;
 
 constexpr unsigned kMostWorkers = 16;
 /// After that many failed starts in a row the recognizer is taken to be unusable.
@@ -33,30 +32,35 @@ public:
     {
     }
 
-    [[nodiscard]] std::optional<ImageAnalysis> analyze(int file, const std::stop_token& stop)
+    /// What a worker says when it is its turn; `ask` puts the question to one.
+    template <typename Ask>
+    [[nodiscard]] auto answer(const Ask& ask, const std::stop_token& stop)
+        -> decltype(ask(std::declval<ImageWorker&>()).answer)
     {
         if (!takeTurn(stop))
             return std::nullopt;
-        auto [worker, outcome] = answered(file, stop);
-        endTurn(outcome.kind == Outcome::Kind::answered ? std::move(worker) : nullptr);
-        return std::move(outcome.analysis);
+        auto [worker, outcome] = answered(ask, stop);
+        endTurn(outcome.end == ImageWorker::End::answered ? std::move(worker) : nullptr);
+        return std::move(outcome.answer);
     }
 
 private:
     using Worker = std::unique_ptr<ImageWorker>;
 
-    /// Asks idle workers until one takes the file, else a new one.
-    [[nodiscard]] std::pair<Worker, Outcome> answered(int file, const std::stop_token& stop)
+    /// Asks idle workers until one takes the question, else a new one.
+    template <typename Ask>
+    [[nodiscard]] auto answered(const Ask& ask, const std::stop_token& stop)
+        -> std::pair<Worker, decltype(ask(std::declval<ImageWorker&>()))>
     {
         while (Worker worker = idle()) {
-            Outcome outcome = worker->ask(file, stop);
-            if (outcome.kind != Outcome::Kind::unreachable)
+            auto outcome = ask(*worker);
+            if (outcome.end != ImageWorker::End::unreachable)
                 return {std::move(worker), std::move(outcome)};
         }
         Worker worker = started(stop);
         if (!worker)
-            return {Worker(), Outcome{Outcome::Kind::failed, {}}};
-        Outcome outcome = worker->ask(file, stop);
+            return {};
+        auto outcome = ask(*worker);
         return {std::move(worker), std::move(outcome)};
     }
 
@@ -95,7 +99,8 @@ private:
     {
         if (isUnusable())
             return nullptr;
-        Worker worker = ImageWorker::started(m_options.program, {m_options.memory, m_options.limit}, stop);
+        Worker worker = ImageWorker::started(m_options.program,
+                                             {m_options.memory, m_options.limit, m_options.idle}, stop);
         const std::lock_guard lock(m_lock);
         if (worker)
             m_failedStarts = 0;
@@ -143,7 +148,23 @@ std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, cons
     const auto file = openFile(path);
     if (!file.ok())
         return std::nullopt;
-    return m_pool->analyze(file.value().get(), stop);
+    return m_pool->answer([&](ImageWorker& worker) { return worker.analyze(file.value().get(), stop); },
+                          stop);
+}
+
+std::optional<SmallPicture> ImageWorkers::smallPicture(const std::string& path, const PictureBound& bound,
+                                                       const std::stop_token& stop)
+{
+    if (stop.stop_requested() || bound.size.width <= 0 || bound.size.height <= 0)
+        return std::nullopt;
+    const auto file = openFile(path);
+    if (!file.ok())
+        return std::nullopt;
+    const PictureBound allowed{{std::min(bound.size.width, ImageMessages::kLongestSide),
+                                std::min(bound.size.height, ImageMessages::kLongestSide)},
+                               bound.fit};
+    return m_pool->answer(
+        [&](ImageWorker& worker) { return worker.smallPicture(file.value().get(), allowed, stop); }, stop);
 }
 
 } // namespace orlen

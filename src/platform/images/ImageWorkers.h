@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/SmallPicture.h"
 
 #include <chrono>
 #include <cstddef>
@@ -22,6 +23,7 @@ public:
         std::string program = recognizer();
         std::size_t memory = 1'500UL * 1024 * 1024; ///< bytes of address space a worker may use
         std::chrono::milliseconds limit{10'000};    ///< for one picture
+        std::chrono::milliseconds idle{20'000};     ///< a worker that has nothing to do for so long ends
     };
 
     /// The recognizer that was built or installed with this program; empty when it is not there.
@@ -36,6 +38,11 @@ public:
     /// replaced. Nothing when the file cannot be opened without following a link, is no picture, or the
     /// worker did not answer; at once when stopped.
     [[nodiscard]] std::optional<ImageAnalysis> analyze(const std::string& path, const std::stop_token& stop);
+
+    /// The picture in a regular file, made small; likewise. Nothing for a bound that is empty; a side longer
+    /// than 4,096 pixels is taken as that long.
+    [[nodiscard]] std::optional<SmallPicture> smallPicture(const std::string& path, const PictureBound& bound,
+                                                           const std::stop_token& stop);
 
 private:
     class Pool;

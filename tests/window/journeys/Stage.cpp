@@ -2,10 +2,13 @@
 
 #include "Appearance.h"
 #include "Window.h"
+#include "support/TestBmp.h"
 #include "window/AppsOnDisk.h"
 
 #include <QAccessible>
+#include <QBuffer>
 #include <QGuiApplication>
+#include <QImage>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QSettings>
@@ -20,6 +23,17 @@ namespace orlen {
 namespace {
 
 constexpr std::int64_t kMegabyte = 1'048'576;
+constexpr const char* kRecognizer = "recognizer";
+
+/// One and the same picture in different sizes.
+std::string squares(int width)
+{
+    const QImage image = QImage::fromData(QByteArray::fromStdString(testBmp(320, 240)));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.scaledToWidth(width, Qt::SmoothTransformation).save(&buffer, "bmp");
+    return bytes.toStdString();
+}
 
 QQuickItem* rootOf(QObject* where)
 {
@@ -118,6 +132,7 @@ void Stage::prepare(QQmlEngine& engine)
     QSettings().clear();
     AppModel::Options options;
     options.overlayMinimum = std::chrono::milliseconds(50);
+    options.images.program = m_home->outside(kRecognizer);
     m_model = std::make_unique<AppModel>(options);
     Window::prepareEngine(engine, *m_model);
     engine.addImportPath(QStringLiteral("qrc:/"));
@@ -131,6 +146,9 @@ void Stage::fillHome() const
     m_home->fileOfSize(".cache/pip/http/three", 2 * kMegabyte);
     m_home->fileOfSize("Documents/report.txt", kMegabyte, 7);
     m_home->fileOfSize("Downloads/report (1).txt", kMegabyte, 7);
+    for (const int width : {240, 200})
+        m_home->file("Pictures/squares " + std::to_string(width) + ".bmp", squares(width));
+    setRecognizing(true);
     m_home->fileOfSize("Videos/holidays/film.mkv", 4 * kMegabyte, 9);
     const std::string program = AppsOnDisk::image(*m_home, "Applications/Sketcher-2.1-x86_64.AppImage");
     AppsOnDisk::launcher(*m_home, "org.example.Sketcher", "Sketcher", program);
@@ -148,6 +166,12 @@ bool Stage::exists(const QString& name) const
 bool Stage::isInTrash(const QString& name) const
 {
     return TempHome::exists(m_home->path(".local/share/Trash/files/" + name.toStdString()));
+}
+
+void Stage::setRecognizing(bool recognizing) const
+{
+    const std::string commands = recognizing ? "exec '" ORLEN_RECOGNIZER "' \"$@\"" : "sleep 60";
+    TempHome::setMode(m_home->file(m_home->outside(kRecognizer), "#!/bin/sh\n" + commands + "\n"), 0755);
 }
 
 QString Stage::content(const QString& name) const

@@ -28,6 +28,8 @@ public:
     Q_INVOKABLE [[nodiscard]] bool isInTrash(const QString& name) const;
     /// The content of a file below the home folder.
     Q_INVOKABLE [[nodiscard]] QString content(const QString& name) const;
+    /// Whether pictures are looked at from now on, or never done with.
+    Q_INVOKABLE void setRecognizing(bool recognizing) const;
     Q_INVOKABLE void write(const QString& name, const QString& content) const;
 
     /// The item of this object name that can be seen in a window or an item, the topmost if there are

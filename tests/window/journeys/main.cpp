@@ -1,3 +1,4 @@
+#include "PictureReader.h"
 #include "journeys/Stage.h"
 
 #include <QtQuickTest>
@@ -10,6 +11,7 @@ int main(int argc, char** argv)
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     ::setenv("QT_QUICK_BACKEND", "software", 1);
     // NOLINTEND(concurrency-mt-unsafe)
+    orlen::PictureReader::setRecognizer(ORLEN_RECOGNIZER);
     orlen::Stage stage;
     return quick_test_main_with_setup(argc, argv, "journeys", ORLEN_JOURNEYS, &stage);
 }

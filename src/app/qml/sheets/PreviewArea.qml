@@ -17,6 +17,7 @@ Rectangle {
     clip: true
 
     Image {
+        objectName: "previewPicture"
         anchors.fill: parent
         anchors.margins: 16
         visible: root.preview.kind === PreviewModel.Picture
