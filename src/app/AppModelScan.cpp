@@ -5,6 +5,7 @@
 #include "insight/AskContext.h"
 #include "model/Rater.h"
 #include "platform/CheckedSum.h"
+#include "platform/ThreadPriority.h"
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
@@ -55,6 +56,7 @@ void AppModel::startScan()
 
 AppModel::ScanResult AppModel::scanned(ScanEngine& engine)
 {
+    ThreadPriority::giveWay(); // before any other thread starts
     Safety::refresh();
     ScanResult result;
     const std::stop_token stop = engine.flag().token();
