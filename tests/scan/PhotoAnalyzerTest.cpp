@@ -2,11 +2,14 @@
 
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/photos/PhotoGroups.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cmath>
 #include <limits>
 #include <map>
 
@@ -158,6 +161,45 @@ TEST(PhotoAnalyzerTest, theKeeperIsTheSharpestOrOfTwoAlikeTheLargest)
             EXPECT_EQ(entry.note, "Similar to " + std::to_string(c.keeper) + ".jpg — keeping the sharpest");
         }
     }
+}
+
+TEST(PhotoGroupsTest, manyPhotosAreGroupedAsIfTheyCameOneByOne)
+{
+    // Around a circle, each like those near it, in an order that jumps about; every tenth has no print.
+    constexpr std::size_t kCount = 700;
+    std::vector<PhotoInfo> photos(kCount);
+    for (std::size_t i = 0; i < kCount; ++i) {
+        const double angle = 0.37 * static_cast<double>(i * i % 997);
+        photos[i].cand.size = static_cast<std::int64_t>(kCount - i); // the first of a group is the keeper
+        if (i % 10 == 9)
+            continue;
+        FeaturePrint::Vector vector{};
+        vector[0] = static_cast<float>(std::cos(angle));
+        vector[1] = static_cast<float>(std::sin(angle));
+        FeaturePrint::Tile plain;
+        plain.fill(128);
+        photos[i].print = FeaturePrint(vector, plain);
+    }
+    std::vector<std::vector<std::size_t>> expected;
+    for (std::size_t i = 0; i < kCount; ++i) {
+        if (!photos[i].print)
+            continue;
+        const auto alike = std::find_if(expected.begin(), expected.end(), [&](const auto& group) {
+            return photos[group.front()].print->distance(*photos[i].print) < 0.32F;
+        });
+        if (alike == expected.end())
+            expected.push_back({i});
+        else
+            alike->push_back(i);
+    }
+    std::vector<std::vector<std::size_t>> grouped;
+    for (const PhotoGroups::Group& group : PhotoGroups::of(photos, {})) {
+        grouped.push_back({group.keeper});
+        grouped.back().insert(grouped.back().end(), group.others.begin(), group.others.end());
+    }
+    std::erase_if(expected, [](const auto& group) { return group.size() == 1; });
+    EXPECT_GT(expected.size(), 5U);
+    EXPECT_EQ(grouped, expected);
 }
 
 TEST(PhotoAnalyzerTest, aNearDuplicateIsListedOnceAndItsKeeperByItsOwnRule)

@@ -36,8 +36,7 @@ BlockSearch::BlockSearch(const FeaturePrint::Tile& tile)
 /// moved to the right.
 void BlockSearch::sumUpBlocks()
 {
-    // One level of noise, so that an even block matches nothing.
-    constexpr double kNoise = static_cast<double>(kPixels) * kPixels;
+    constexpr std::size_t kAll = static_cast<std::size_t>(kPlaces) * kPlaces;
     std::array<std::int32_t, kSide> sums{};
     std::array<std::int32_t, kSide> squares{};
     const auto addRow = [&](int y, int sign) {
@@ -47,7 +46,9 @@ void BlockSearch::sumUpBlocks()
             squares[x] += sign * row[x] * row[x];
         }
     };
-    m_blocks.reserve(static_cast<std::size_t>(kPlaces) * kPlaces);
+    m_blocks.sums.reserve(kAll);
+    std::vector<float> spreads; // variances, times the squared number of pixels
+    spreads.reserve(kAll);
     for (int y = 0; y < kSide; ++y) {
         addRow(y, 1);
         if (y >= kBlock)
@@ -59,11 +60,17 @@ void BlockSearch::sumUpBlocks()
             square += squares[x] - (x >= kBlock ? squares[x - kBlock] : 0);
             if (x + 1 < kBlock)
                 continue;
-            const double spread = static_cast<double>(kPixels) * square - static_cast<double>(sum) * sum;
-            m_blocks.push_back({.sum = sum,
-                                .deviation = static_cast<float>(std::sqrt(spread)),
-                                .oneByDeviation = static_cast<float>(1 / std::sqrt(spread + kNoise))});
+            m_blocks.sums.push_back(static_cast<float>(sum));
+            spreads.push_back(static_cast<float>(kPixels * std::int64_t{square} - std::int64_t{sum} * sum));
         }
+    }
+    // One level of noise, so that an even block matches nothing.
+    constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
+    m_blocks.deviations.resize(kAll);
+    m_blocks.onesByDeviations.resize(kAll);
+    for (std::size_t i = 0; i < kAll; ++i) {
+        m_blocks.deviations[i] = std::sqrt(spreads[i]);
+        m_blocks.onesByDeviations[i] = 1 / std::sqrt(spreads[i] + kNoise);
     }
 }
 
@@ -73,29 +80,28 @@ std::vector<TilePlace> BlockSearch::texturedBlocks() const
     std::vector<TilePlace> blocks;
     for (int y = 0; y < kPlaces; y += kBlock) {
         for (int x = 0; x < kPlaces; x += kBlock) {
-            if (m_blocks[index({x, y})].deviation >= kLeastTexture)
+            if (m_blocks.deviations[index({x, y})] >= kLeastTexture)
                 blocks.push_back({x, y});
         }
     }
     std::stable_sort(blocks.begin(), blocks.end(), [this](TilePlace one, TilePlace other) {
-        return m_blocks[index(one)].deviation > m_blocks[index(other)].deviation;
+        return m_blocks.deviations[index(one)] > m_blocks.deviations[index(other)];
     });
     return blocks;
 }
 
 BlockFind BlockSearch::find(TilePlace block, const BlockSearch& other, int reach) const
 {
-    const Block& own = m_blocks[index(block)];
+    const std::size_t own = index(block);
     const std::int16_t* pixels = pixel(block);
-    const auto ownSum = static_cast<float>(own.sum);
     TilePlace best = block;
     float most = 0;
     for (int y = std::max(block.y - reach, 0); y <= std::min(block.y + reach, kPlaces - 1); ++y) {
         for (int x = std::max(block.x - reach, 0); x <= std::min(block.x + reach, kPlaces - 1); ++x) {
-            const Block& there = other.m_blocks[index({x, y})];
+            const std::size_t there = other.index({x, y});
             const auto common = static_cast<float>(product(pixels, other.pixel({x, y})));
-            const float match =
-                (kPixels * common - ownSum * static_cast<float>(there.sum)) * there.oneByDeviation;
+            const float match = (kPixels * common - m_blocks.sums[own] * other.m_blocks.sums[there]) *
+                                other.m_blocks.onesByDeviations[there];
             if (match > most) {
                 most = match;
                 best = {x, y};
@@ -105,8 +111,8 @@ BlockFind BlockSearch::find(TilePlace block, const BlockSearch& other, int reach
     return {.block = block,
             .moveX = static_cast<float>(best.x - block.x),
             .moveY = static_cast<float>(best.y - block.y),
-            .texture = own.deviation / kPixels,
-            .correlation = most * own.oneByDeviation};
+            .texture = m_blocks.deviations[own] / kPixels,
+            .correlation = most * m_blocks.onesByDeviations[own]};
 }
 
 } // namespace orlen

@@ -41,11 +41,11 @@ public:
 private:
     static constexpr int kPlaces = kSide - kBlock + 1; ///< of a block along a side
 
-    /// What the correlation of a block needs.
-    struct Block {
-        std::int32_t sum = 0;     ///< of its pixels
-        float deviation = 0;      ///< standard, times the number of pixels
-        float oneByDeviation = 0; ///< with some noise added
+    /// What the correlation of a block needs, at all places, rows from the top.
+    struct Blocks {
+        std::vector<float> sums;             ///< of its pixels
+        std::vector<float> deviations;       ///< standard, times the number of pixels
+        std::vector<float> onesByDeviations; ///< with some noise added
     };
 
     [[nodiscard]] const std::int16_t* pixel(TilePlace place) const
@@ -60,7 +60,7 @@ private:
     void sumUpBlocks();
 
     std::array<std::int16_t, static_cast<std::size_t>(kSide) * kSide> m_pixels{}; ///< around 0
-    std::vector<Block> m_blocks; ///< at all places, rows from the top
+    Blocks m_blocks;
 };
 
 } // namespace orlen

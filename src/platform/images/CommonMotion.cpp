@@ -147,10 +147,14 @@ FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
     FeaturePrint::Tile result{};
     auto pixel = result.begin();
     for (int y = 0; y < BlockSearch::kSide; ++y) {
+        // The same step from each pixel of a row to the next.
+        const Point first = target({0, y});
+        const Point second = target({1, y});
         for (int x = 0; x < BlockSearch::kSide; ++x) {
-            const Point from = target({x, y});
-            const float level = between(tile, from.x, from.y) + kRounding;
-            *pixel++ = static_cast<std::uint8_t>(level);
+            const auto steps = static_cast<float>(x);
+            const float fromX = first.x + steps * (second.x - first.x);
+            const float fromY = first.y + steps * (second.y - first.y);
+            *pixel++ = static_cast<std::uint8_t>(between(tile, fromX, fromY) + kRounding);
         }
     }
     return result;

@@ -1,19 +1,16 @@
 #include "scan/photos/PhotoAnalyzer.h"
 
 #include "platform/PathText.h"
-#include "platform/ThreadName.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/photos/OnAllCores.h"
 #include "scan/photos/PhotoGroups.h"
 #include "scan/photos/PhotoRules.h"
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <iterator>
 #include <mutex>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace orlen {
@@ -42,31 +39,6 @@ FileEntry entry(const PhotoInfo& photo, std::string note)
 std::string similarNote(const PhotoInfo& keeper)
 {
     return "Similar to " + std::string(PathText::lastComponent(keeper.cand.path)) + " — keeping the sharpest";
-}
-
-/// Calls the task with 0 to `count` - 1 on all cores.
-template <typename Task>
-void onAllCores(std::size_t count, const Task& task)
-{
-    std::atomic<std::size_t> next{0};
-    const auto work = [&] {
-        for (std::size_t i = next++; i < count; i = next++)
-            task(i);
-    };
-    // The calling thread takes part, so that the work gets done even where no thread can be started.
-    std::vector<std::jthread> threads;
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    for (std::size_t i = 1; i < std::min(count, cores); ++i) {
-        try {
-            threads.emplace_back([&work] {
-                nameThisThread("orlen-photo");
-                work();
-            });
-        } catch (const std::system_error&) {
-            break;
-        }
-    }
-    work();
 }
 
 } // namespace

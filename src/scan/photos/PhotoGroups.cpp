@@ -1,7 +1,11 @@
 #include "scan/photos/PhotoGroups.h"
 
+#include "scan/photos/OnAllCores.h"
+
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
 
 namespace orlen::PhotoGroups {
 
@@ -12,24 +16,45 @@ using Members = std::vector<std::size_t>;
 constexpr float kNearDuplicate = 0.32F;
 constexpr double kSharpnessTie = 1.0;
 
+/// Of the groups from `first` on, the first whose first member the photo resembles. What is no number
+/// resembles nothing.
+std::optional<std::size_t> groupOf(const PhotoInfo& photo, const std::vector<PhotoInfo>& photos,
+                                   const std::vector<Members>& groups, std::size_t first,
+                                   const std::stop_token& stop)
+{
+    for (std::size_t group = first; group < groups.size() && !stop.stop_requested(); ++group) {
+        if (photos[groups[group].front()].print->distance(*photo.print) < kNearDuplicate)
+            return group;
+    }
+    return std::nullopt;
+}
+
 std::vector<Members> clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
 {
+    constexpr std::size_t kBatch = 128;
     std::vector<Members> groups;
-    for (std::size_t i = 0; i < photos.size(); ++i) {
-        if (!photos[i].print)
-            continue;
-        const auto alike = std::find_if(groups.begin(), groups.end(), [&](const Members& group) {
-            // Looking closely at many that nearly resemble each other takes its time. What is no number
-            // resembles nothing.
-            return !stop.stop_requested() &&
-                   photos[group.front()].print->distance(*photos[i].print) < kNearDuplicate;
+    for (std::size_t start = 0; start < photos.size(); start += kBatch) {
+        // Looking closely at many that nearly resemble each other takes its time: on all cores for the groups
+        // that there are, and one after the other for those that a batch itself makes.
+        const std::size_t known = groups.size();
+        std::array<std::optional<std::size_t>, kBatch> found;
+        const std::size_t end = std::min(start + kBatch, photos.size());
+        onAllCores(end - start, [&](std::size_t i) {
+            const PhotoInfo& photo = photos[start + i];
+            found[i] = photo.print ? groupOf(photo, photos, groups, 0, stop) : std::nullopt;
         });
-        if (stop.stop_requested())
-            break;
-        if (alike == groups.end())
-            groups.push_back({i});
-        else
-            alike->push_back(i);
+        for (std::size_t i = start; i < end; ++i) {
+            if (!photos[i].print)
+                continue;
+            const auto earlier = found[i - start];
+            const auto group = earlier ? earlier : groupOf(photos[i], photos, groups, known, stop);
+            if (stop.stop_requested())
+                return groups;
+            if (group)
+                groups[*group].push_back(i);
+            else
+                groups.push_back({i});
+        }
     }
     return groups;
 }
