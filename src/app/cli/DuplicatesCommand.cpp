@@ -1,6 +1,6 @@
-#include "app/Workers.h"
 #include "app/cli/Command.h"
 #include "app/cli/FolderArguments.h"
+#include "app/cli/FolderSearch.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Table.h"
 #include "app/cli/Texts.h"
@@ -14,10 +14,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include <QObject>
-
 #include <algorithm>
-#include <optional>
 
 namespace orlen {
 
@@ -45,8 +42,7 @@ struct Search {
 Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
 {
     const auto started = std::chrono::steady_clock::now();
-    const Walk::Found found =
-        folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
     Search search{Duplicates::find(input(found), stop)};
     search.duration = std::chrono::steady_clock::now() - started;
     search.wasStopped = stop.stop_requested();
@@ -100,7 +96,10 @@ public:
         const auto folders = FolderArguments::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
-        const Search found = searched(session, *folders);
+        const Search found =
+            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
+                return search(*folders, progress, stop);
+            });
         if (found.wasStopped) {
             session.complain(Texts::kCancelled);
             return ExitStatus::interrupted;
@@ -114,23 +113,6 @@ public:
     }
 
 private:
-    [[nodiscard]] static Search searched(Session& session, const std::vector<std::string>& folders)
-    {
-        std::optional<Search> found;
-        ScanProgress progress;
-        QObject receiver;
-        Workers workers(receiver);
-        std::stop_source stop = workers.start(
-            [&folders, &progress](const std::stop_token& token) { return search(folders, progress, token); },
-            [&found](Search result) { found = std::move(result); });
-        session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
-                     [&] {
-                         return Texts::counted(progress.files(), "file") + " examined · " +
-                                Texts::shownPath(progress.current());
-                     }});
-        return std::move(*found);
-    }
-
     std::vector<std::string> m_arguments;
 };
 

@@ -1,7 +1,7 @@
-#include "app/Workers.h"
 #include "app/cli/Command.h"
 #include "app/cli/FindingTable.h"
 #include "app/cli/FolderArguments.h"
+#include "app/cli/FolderSearch.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Texts.h"
 #include "clean/Safety.h"
@@ -17,10 +17,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include <QObject>
-
 #include <limits>
-#include <optional>
 
 namespace orlen {
 
@@ -41,8 +38,7 @@ PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& 
     const auto started = std::chrono::steady_clock::now();
     ScanFlag flag;
     const std::stop_callback cancel(stop, [&] { flag.cancel(); });
-    const Walk::Found found =
-        folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
     ImageWorkers workers({});
     const PhotoAnalyzer analyzer(
         progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
@@ -100,7 +96,10 @@ public:
         const auto folders = FolderArguments::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
-        const PhotoSearch found = searched(session, *folders);
+        const PhotoSearch found =
+            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
+                return searchPhotos(*folders, progress, stop);
+            });
         if (found.wasStopped) {
             session.complain(Texts::kCancelled);
             return ExitStatus::interrupted;
@@ -116,25 +115,6 @@ public:
     }
 
 private:
-    [[nodiscard]] static PhotoSearch searched(Session& session, const std::vector<std::string>& folders)
-    {
-        std::optional<PhotoSearch> found;
-        ScanProgress progress;
-        QObject receiver;
-        Workers workers(receiver);
-        std::stop_source stop = workers.start(
-            [&folders, &progress](const std::stop_token& token) {
-                return searchPhotos(folders, progress, token);
-            },
-            [&found](PhotoSearch result) { found = std::move(result); });
-        session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
-                     [&] {
-                         return Texts::counted(progress.files(), "file") + " examined · " +
-                                Texts::shownPath(progress.current());
-                     }});
-        return std::move(*found);
-    }
-
     std::vector<std::string> m_arguments;
 };
 
