@@ -1,20 +1,10 @@
+#include "Require.h"
 #include "platform/PathText.h"
 #include "tools/apps/AppImage.h"
 #include "tools/apps/AppNames.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 /// Any bytes may be a file's first ones, and any text its name.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,17 +1,7 @@
+#include "Require.h"
 #include "recognition/BmpReader.h"
 
 #include <algorithm>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 /// Whatever a file holds, the small picture is whole.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -31,7 +21,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(picture->width > 0 && picture->height > 0 && image.width > 0 && image.height > 0);
     require(image.width <= std::min(picture->width, kSide) &&
             image.height <= std::min(picture->height, kSide));
-    require(image.pixels.size() ==
-            static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3);
+    require(image.pixels.size() == orlen::RgbImage::byteCount(image.width, image.height));
     return 0;
 }

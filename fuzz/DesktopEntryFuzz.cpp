@@ -1,19 +1,9 @@
+#include "Require.h"
 #include "platform/DesktopEntry.h"
 #include "platform/PathText.h"
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 /// Whatever a launcher holds, what is read from it is text that can be shown and made a path of.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,19 +1,9 @@
+#include "Require.h"
 #include "platform/PathText.h"
 #include "platform/images/ImageMessages.h"
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 /// Whatever a recognizer says, what is believed of it is in range, and says the same again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,19 +1,13 @@
+#include "Require.h"
 #include "platform/PathText.h"
 #include "platform/PropertyList.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 bool isUsable(const std::string& text)
 {

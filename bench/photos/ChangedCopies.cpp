@@ -2,6 +2,7 @@
 
 #include "PhotoFolder.h"
 #include "recognition/AreaScale.h"
+#include "recognition/PictureMatrix.h"
 
 #include <opencv2/imgproc.hpp>
 
@@ -25,13 +26,6 @@ double eitherSign(Random& random, double value)
     return random() % 2 == 0 ? value : -value;
 }
 
-cv::Mat matOf(const RgbImage& image)
-{
-    cv::Mat mat(image.height, image.width, CV_8UC3);
-    std::copy(image.pixels.begin(), image.pixels.end(), mat.data);
-    return mat;
-}
-
 RgbImage imageOf(const cv::Mat& mat)
 {
     const cv::Mat whole = mat.isContinuous() ? mat : mat.clone();
@@ -42,7 +36,7 @@ RgbImage imageOf(const cv::Mat& mat)
 RgbImage warped(const RgbImage& image, const cv::Mat& matrix)
 {
     cv::Mat result;
-    cv::warpPerspective(matOf(image), result, matrix, {image.width, image.height}, cv::INTER_LINEAR,
+    cv::warpPerspective(matrixOf(image), result, matrix, {image.width, image.height}, cv::INTER_LINEAR,
                         cv::BORDER_REFLECT_101);
     return imageOf(result);
 }
@@ -62,7 +56,7 @@ RgbImage cropped(const RgbImage& image, Random& random, double share)
     const int height = static_cast<int>(std::lround(image.height * (1 - share)));
     const int left = static_cast<int>(within(random, 0, image.width - width + 0.99));
     const int top = static_cast<int>(within(random, 0, image.height - height + 0.99));
-    return imageOf(matOf(image)(cv::Rect(left, top, width, height)).clone());
+    return imageOf(matrixOf(image)(cv::Rect(left, top, width, height)).clone());
 }
 
 /// More or less light, which is added up before a picture's gamma.
@@ -137,7 +131,7 @@ RgbImage burst(const RgbImage& image, Random& random)
         corner.x += static_cast<float>((right + within(random, -0.018, 0.018)) * width);
         corner.y += static_cast<float>((down + within(random, -0.018, 0.018)) * height);
     }
-    cv::Mat frame = matOf(warped(image, cv::getPerspectiveTransform(corners.data(), moved.data())));
+    cv::Mat frame = matrixOf(warped(image, cv::getPerspectiveTransform(corners.data(), moved.data())));
     cv::Mat x = bend(frame.size(), noise);
     cv::Mat y = bend(frame.size(), noise);
     for (int row = 0; row < frame.rows; ++row) {
@@ -151,7 +145,7 @@ RgbImage burst(const RgbImage& image, Random& random)
     cv::GaussianBlur(bent, bent, {}, within(random, 0.4, 0.9));
     cv::Mat grain(bent.size(), CV_16SC3);
     noise.fill(grain, cv::RNG::NORMAL, 0, 3);
-    cv::add(matOf(exposed(imageOf(bent), within(random, -0.25, 0.25))), grain, bent, cv::noArray(), CV_8U);
+    cv::add(matrixOf(exposed(imageOf(bent), within(random, -0.25, 0.25))), grain, bent, cv::noArray(), CV_8U);
     return PhotoFolder::asJpeg(imageOf(bent), 85);
 }
 

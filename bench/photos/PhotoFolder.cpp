@@ -38,8 +38,7 @@ std::optional<RgbImage> pixelsOf(const Image& image)
                                                         g_free);
     RgbImage result{
         .width = vips_image_get_width(bytes), .height = vips_image_get_height(bytes), .pixels = {}};
-    if (!memory ||
-        size != static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height) * 3)
+    if (!memory || size != RgbImage::byteCount(result.width, result.height))
         return std::nullopt;
     const auto* first = static_cast<const std::uint8_t*>(memory.get());
     result.pixels.assign(first, first + size);

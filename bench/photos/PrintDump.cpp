@@ -22,7 +22,7 @@ RgbImage nextImage(std::istream& in)
     if (!(in >> kind >> image.width >> image.height >> brightest) || kind != "P6" || brightest != 255)
         return {};
     in.get();
-    image.pixels.resize(static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3);
+    image.pixels.resize(RgbImage::byteCount(image.width, image.height));
     in.read(reinterpret_cast<char*>(image.pixels.data()), static_cast<std::streamsize>(image.pixels.size()));
     return in ? image : RgbImage{};
 }

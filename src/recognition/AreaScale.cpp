@@ -55,7 +55,7 @@ std::vector<float> AreaScale::scaled(const RgbImage& image, int width, int heigh
     const std::vector<Cover> columns = coversOf(image.width, width);
     std::vector<float> sum(static_cast<std::size_t>(image.width) * kChannels);
     std::vector<float> pixels;
-    pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * kChannels);
+    pixels.reserve(RgbImage::byteCount(width, height));
     for (const Cover& rows : coversOf(image.height, height)) {
         addRows(image, rows, sum);
         for (const Cover& column : columns) {

@@ -1,8 +1,8 @@
 #include "recognition/NetworkInput.h"
 
-#include <opencv2/imgproc.hpp>
+#include "recognition/PictureMatrix.h"
 
-#include <algorithm>
+#include <opencv2/imgproc.hpp>
 
 namespace orlen {
 
@@ -27,9 +27,7 @@ std::vector<std::uint8_t> NetworkInput::of(const RgbImage& image)
 {
     if (image.isEmpty())
         return {};
-    cv::Mat rgb(image.height, image.width, CV_8UC3);
-    for (int y = 0; y < image.height; ++y)
-        std::copy_n(image.row(y), static_cast<std::size_t>(image.width) * 3, rgb.ptr(y));
+    const cv::Mat rgb = matrixOf(image);
     cv::Mat rough;
     cv::Mat small;
     cv::resize(roughness(rgb), rough, {kSide, kSide}, 0, 0, cv::INTER_AREA);

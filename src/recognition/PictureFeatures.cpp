@@ -1,5 +1,6 @@
 #include "recognition/PictureFeatures.h"
 
+#include "recognition/PictureMatrix.h"
 #include "recognition/PicturePlanes.h"
 
 #include <opencv2/imgproc.hpp>
@@ -17,9 +18,7 @@ constexpr int kLeastSide = 16;
 
 cv::Mat copyOf(const RgbImage& image)
 {
-    cv::Mat copy(image.height, image.width, CV_8UC3);
-    for (int y = 0; y < image.height; ++y)
-        std::copy_n(image.row(y), static_cast<std::size_t>(image.width) * 3, copy.ptr(y));
+    cv::Mat copy = matrixOf(image);
     if (std::min(copy.rows, copy.cols) >= kLeastSide)
         return copy;
     cv::Mat enlarged;

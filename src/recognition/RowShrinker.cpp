@@ -23,8 +23,7 @@ RowShrinker::RowShrinker(PixelSize picture, PixelSize box) : m_width(picture.wid
                                    static_cast<double>(box.height) / picture.height});
     m_image.width = shrunk(picture.width, scale);
     m_image.height = shrunk(picture.height, scale);
-    m_sums.resize(static_cast<std::size_t>(m_image.width) * static_cast<std::size_t>(m_image.height) *
-                  kChannels);
+    m_sums.resize(RgbImage::byteCount(m_image.width, m_image.height));
     m_rows.resize(static_cast<std::size_t>(m_image.height));
 }
 

@@ -80,8 +80,8 @@ std::vector<TreeNode> arranged(std::vector<TreeNode> nodes, const std::string& f
     std::erase_if(nodes, [](const TreeNode& node) { return node.size < 1; });
     const auto nameless = std::partition(
         nodes.begin(), nodes.end(), [](const TreeNode& node) { return PathText::isValidUtf8(node.name); });
-    const std::size_t kept = std::min<std::size_t>(kMostNodes, nameless - nodes.begin());
-    const auto firstLeftOut = nodes.begin() + static_cast<std::ptrdiff_t>(kept);
+    const auto firstLeftOut =
+        nodes.begin() + std::min(static_cast<std::ptrdiff_t>(kMostNodes), nameless - nodes.begin());
     std::partial_sort(nodes.begin(), firstLeftOut, nameless, comesBefore);
 
     std::vector<TreeNode> shown(std::make_move_iterator(nodes.begin()),

@@ -1,6 +1,6 @@
 #include "recognition/ImageClassifier.h"
 
-#include "recognition/DrawnPicture.h"
+#include "recognition/PixelDrawing.h"
 
 #include <gtest/gtest.h>
 
@@ -27,14 +27,14 @@ std::vector<std::string> decisions(const RgbImage& image, ImageClassifier::Evide
 /// A window with a title bar, buttons and coloured text on a dark ground.
 RgbImage terminal()
 {
-    RgbImage image = DrawnPicture::plain(512, 340, {24, 24, 32});
-    DrawnPicture::fill(image, 0, 0, 512, 20, {60, 62, 70});
-    DrawnPicture::word(image, 220, 5, 9, 9, {230, 230, 230});
+    RgbImage image = PixelDrawing::plain(512, 340, {24, 24, 32});
+    PixelDrawing::fill(image, 0, 0, 512, 20, {60, 62, 70});
+    PixelDrawing::word(image, 220, 5, 9, 9, {230, 230, 230});
     for (int i = 0; i < 3; ++i)
-        DrawnPicture::fill(image, 450 + i * 20, 6, 9, 9, {200, 200, 205});
-    DrawnPicture::text(image, 8, 30, 9, 8, {220, 220, 220});
+        PixelDrawing::fill(image, 450 + i * 20, 6, 9, 9, {200, 200, 205});
+    PixelDrawing::text(image, 8, 30, 9, 8, {220, 220, 220});
     for (int i = 0; i < 9; ++i)
-        DrawnPicture::word(image, 8, 180 + i * 16, 4 + i % 3, 8, {90, 220, 120});
+        PixelDrawing::word(image, 8, 180 + i * 16, 4 + i % 3, 8, {90, 220, 120});
     return image;
 }
 
@@ -50,14 +50,14 @@ TEST(ImageClassifierTest, cameraTakesNoScreenshots)
 
 TEST(ImageClassifierTest, textureOfAPhotoDecidesNothing)
 {
-    EXPECT_TRUE(decisions(DrawnPicture::scene(512, 384)).empty());
-    EXPECT_TRUE(decisions(DrawnPicture::scene(288, 384)).empty());
+    EXPECT_TRUE(decisions(PixelDrawing::scene(512, 384)).empty());
+    EXPECT_TRUE(decisions(PixelDrawing::scene(288, 384)).empty());
 }
 
 TEST(ImageClassifierTest, pageOfTextIsADocument)
 {
-    RgbImage page = DrawnPicture::plain(380, 512, {255, 255, 255});
-    DrawnPicture::text(page, 40, 40, 30, 7, {40, 40, 40});
+    RgbImage page = PixelDrawing::plain(380, 512, {255, 255, 255});
+    PixelDrawing::text(page, 40, 40, 30, 7, {40, 40, 40});
     const auto words = decisions(page, {.isFromCamera = true});
     ASSERT_EQ(words.size(), 1U);
     EXPECT_TRUE(words.front() == "document" || words.front() == "receipt") << words.front();
@@ -65,7 +65,7 @@ TEST(ImageClassifierTest, pageOfTextIsADocument)
 
 TEST(ImageClassifierTest, pageWithoutLettersIsNone)
 {
-    const auto words = decisions(DrawnPicture::plain(380, 512, {255, 255, 255}));
+    const auto words = decisions(PixelDrawing::plain(380, 512, {255, 255, 255}));
     EXPECT_EQ(std::count(words.begin(), words.end(), "document"), 0);
     EXPECT_EQ(std::count(words.begin(), words.end(), "receipt"), 0);
 }
@@ -76,11 +76,11 @@ TEST(ImageClassifierTest, labelsAreSortedInRangeAndOnceEach)
         const char* name;
         RgbImage image;
     } cases[] = {{"a window", terminal()},
-                 {"a scene", DrawnPicture::scene(300, 500)},
-                 {"a pixel", DrawnPicture::plain(1, 1, {255, 0, 0})},
-                 {"tiny", DrawnPicture::scene(8, 3)},
-                 {"a long strip", DrawnPicture::scene(512, 4)},
-                 {"black", DrawnPicture::plain(512, 512, {0, 0, 0})}};
+                 {"a scene", PixelDrawing::scene(300, 500)},
+                 {"a pixel", PixelDrawing::plain(1, 1, {255, 0, 0})},
+                 {"tiny", PixelDrawing::scene(8, 3)},
+                 {"a long strip", PixelDrawing::scene(512, 4)},
+                 {"black", PixelDrawing::plain(512, 512, {0, 0, 0})}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const auto labels = ImageClassifier::labels(c.image, {});

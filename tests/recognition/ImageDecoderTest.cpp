@@ -34,8 +34,7 @@ bool isWhole(const Decoded& decoded)
 {
     const RgbImage& image = decoded.small;
     return image.width > 0 && image.height > 0 && std::max(image.width, image.height) <= 512 &&
-           image.pixels.size() ==
-               static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3;
+           image.pixels.size() == RgbImage::byteCount(image.width, image.height);
 }
 
 std::string bigEndian(std::uint32_t number)

@@ -1,6 +1,6 @@
 #include "recognition/PictureFeatures.h"
 
-#include "recognition/DrawnPicture.h"
+#include "recognition/PixelDrawing.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ float measured(const RgbImage& image, std::string_view name)
 
 TEST(PictureFeaturesTest, everySizeGivesTheSameFiniteFeatures)
 {
-    const auto usual = PictureFeatures::of(DrawnPicture::scene(512, 384));
+    const auto usual = PictureFeatures::of(PixelDrawing::scene(512, 384));
     const struct {
         const char* name;
         int width, height;
@@ -26,8 +26,8 @@ TEST(PictureFeaturesTest, everySizeGivesTheSameFiniteFeatures)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         for (const RgbImage& image :
-             {DrawnPicture::scene(c.width, c.height), DrawnPicture::plain(c.width, c.height, {255, 255, 255}),
-              DrawnPicture::plain(c.width, c.height, {0, 0, 0})}) {
+             {PixelDrawing::scene(c.width, c.height), PixelDrawing::plain(c.width, c.height, {255, 255, 255}),
+              PixelDrawing::plain(c.width, c.height, {0, 0, 0})}) {
             const auto features = PictureFeatures::of(image);
             ASSERT_EQ(features.size(), usual.size());
             for (std::size_t i = 0; i < features.size(); ++i) {
@@ -41,7 +41,7 @@ TEST(PictureFeaturesTest, everySizeGivesTheSameFiniteFeatures)
 
 TEST(PictureFeaturesTest, plainColourIsFlatAndHasNoText)
 {
-    const RgbImage image = DrawnPicture::plain(300, 200, {30, 90, 160});
+    const RgbImage image = PixelDrawing::plain(300, 200, {30, 90, 160});
     EXPECT_EQ(measured(image, "flat 1"), 1);
     EXPECT_EQ(measured(image, "first colour"), 1);
     EXPECT_EQ(measured(image, "edges"), 0);
@@ -50,28 +50,28 @@ TEST(PictureFeaturesTest, plainColourIsFlatAndHasNoText)
 
 TEST(PictureFeaturesTest, linesOfWordsAreFoundInTheirPolarity)
 {
-    RgbImage page = DrawnPicture::plain(400, 500, {255, 255, 255});
-    DrawnPicture::text(page, 40, 40, 18, 10, {20, 20, 20});
-    RgbImage terminal = DrawnPicture::plain(400, 500, {15, 15, 20});
-    DrawnPicture::text(terminal, 40, 40, 18, 10, {220, 220, 220});
+    RgbImage page = PixelDrawing::plain(400, 500, {255, 255, 255});
+    PixelDrawing::text(page, 40, 40, 18, 10, {20, 20, 20});
+    RgbImage terminal = PixelDrawing::plain(400, 500, {15, 15, 20});
+    PixelDrawing::text(terminal, 40, 40, 18, 10, {220, 220, 220});
     const float many = std::log1p(100.0F);
     EXPECT_GT(measured(page, "dark pairs"), many);
     EXPECT_GT(measured(terminal, "light pairs"), many);
     EXPECT_GT(measured(page, "dark covered rows"), 0.3F);
-    EXPECT_EQ(measured(DrawnPicture::scene(400, 500), "dark lines"), 0);
+    EXPECT_EQ(measured(PixelDrawing::scene(400, 500), "dark lines"), 0);
 }
 
 TEST(PictureFeaturesTest, captionNeedsItsOutline)
 {
-    RgbImage outlined = DrawnPicture::scene(500, 400);
+    RgbImage outlined = PixelDrawing::scene(500, 400);
     RgbImage bare = outlined;
     for (int i = 0; i < 8; ++i) {
         const int x = 60 + i * 40;
-        DrawnPicture::fill(outlined, x - 4, 316, 26, 58, {0, 0, 0});
-        DrawnPicture::fill(outlined, x, 320, 18, 50, {255, 255, 255});
-        DrawnPicture::fill(outlined, x + 6, 330, 6, 30, {0, 0, 0});
-        DrawnPicture::fill(bare, x, 320, 18, 50, {255, 255, 255});
-        DrawnPicture::fill(bare, x + 6, 330, 6, 30, {190, 190, 190});
+        PixelDrawing::fill(outlined, x - 4, 316, 26, 58, {0, 0, 0});
+        PixelDrawing::fill(outlined, x, 320, 18, 50, {255, 255, 255});
+        PixelDrawing::fill(outlined, x + 6, 330, 6, 30, {0, 0, 0});
+        PixelDrawing::fill(bare, x, 320, 18, 50, {255, 255, 255});
+        PixelDrawing::fill(bare, x + 6, 330, 6, 30, {190, 190, 190});
     }
     EXPECT_GT(measured(outlined, "outlined letters"), std::log1p(5.0F));
     EXPECT_EQ(measured(bare, "outlined letters"), 0);
@@ -79,9 +79,9 @@ TEST(PictureFeaturesTest, captionNeedsItsOutline)
 
 TEST(PictureFeaturesTest, barsAndMarginsAreMeasured)
 {
-    RgbImage image = DrawnPicture::scene(400, 400);
-    DrawnPicture::fill(image, 0, 0, 400, 100, {255, 255, 255});
-    DrawnPicture::word(image, 100, 40, 6, 30, {0, 0, 0});
+    RgbImage image = PixelDrawing::scene(400, 400);
+    PixelDrawing::fill(image, 0, 0, 400, 100, {255, 255, 255});
+    PixelDrawing::word(image, 100, 40, 6, 30, {0, 0, 0});
     EXPECT_NEAR(measured(image, "top bar"), 0.25F, 0.01F);
     EXPECT_EQ(measured(image, "top bar level"), 255);
     EXPECT_GT(measured(image, "top bar written"), 0);

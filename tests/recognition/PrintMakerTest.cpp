@@ -1,6 +1,6 @@
 #include "recognition/PrintMaker.h"
 
-#include "DrawnPictures.h"
+#include "recognition/Scenes.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 namespace orlen {
 namespace {
 
-using namespace DrawnPictures;
+using namespace Scenes;
 
 constexpr float kNearDuplicate = 0.32F;
 

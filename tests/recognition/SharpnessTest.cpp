@@ -1,6 +1,6 @@
 #include "recognition/Sharpness.h"
 
-#include "DrawnPictures.h"
+#include "recognition/Scenes.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 namespace orlen {
 namespace {
 
-using namespace DrawnPictures;
+using namespace Scenes;
 
 /// The value of a grey picture at each pixel's place, as a function of its column and row.
 template <typename Value>

@@ -5,7 +5,7 @@
 #include <functional>
 
 /// Pictures drawn for a test: the same seed gives the same picture.
-namespace orlen::DrawnPictures {
+namespace orlen::Scenes {
 
 struct Colour {
     double red = 0;
@@ -30,4 +30,4 @@ using Scene = std::function<Colour(double x, double y)>;
 /// The values multiplied, and noise of at most `noise` added.
 [[nodiscard]] Scene lit(const Scene& scene, Colour gains, double noise);
 
-} // namespace orlen::DrawnPictures
+} // namespace orlen::Scenes

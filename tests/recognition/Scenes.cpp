@@ -1,4 +1,4 @@
-#include "DrawnPictures.h"
+#include "recognition/Scenes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +11,8 @@ namespace orlen {
 
 namespace {
 
-using DrawnPictures::Colour;
-using DrawnPictures::Scene;
+using Scenes::Colour;
+using Scenes::Scene;
 
 struct Spot {
     double x, y, size;
@@ -26,7 +26,7 @@ std::uint8_t pixel(double value)
 
 } // namespace
 
-RgbImage DrawnPictures::painted(const Scene& scene, int width, int height)
+RgbImage Scenes::painted(const Scene& scene, int width, int height)
 {
     RgbImage image{.width = width, .height = height, .pixels = {}};
     for (int y = 0; y < height; ++y) {
@@ -39,7 +39,7 @@ RgbImage DrawnPictures::painted(const Scene& scene, int width, int height)
     return image;
 }
 
-Scene DrawnPictures::spots(unsigned seed)
+Scene Scenes::spots(unsigned seed)
 {
     std::mt19937 random(seed);
     std::uniform_real_distribution<double> place(-0.1, 1.1);
@@ -67,7 +67,7 @@ Scene DrawnPictures::spots(unsigned seed)
     };
 }
 
-Scene DrawnPictures::page(unsigned seed)
+Scene Scenes::page(unsigned seed)
 {
     constexpr std::size_t kColumns = 120;
     constexpr std::size_t kRows = 150;
@@ -85,17 +85,17 @@ Scene DrawnPictures::page(unsigned seed)
     };
 }
 
-Scene DrawnPictures::plain(Colour colour)
+Scene Scenes::plain(Colour colour)
 {
     return [colour](double, double) { return colour; };
 }
 
-Scene DrawnPictures::cropped(const Scene& scene, double left, double top, double size)
+Scene Scenes::cropped(const Scene& scene, double left, double top, double size)
 {
     return [=](double x, double y) { return scene(left + size * x, top + size * y); };
 }
 
-Scene DrawnPictures::turned(const Scene& scene, double degrees)
+Scene Scenes::turned(const Scene& scene, double degrees)
 {
     const double cosine = std::cos(degrees * std::numbers::pi / 180);
     const double sine = std::sin(degrees * std::numbers::pi / 180);
@@ -105,7 +105,7 @@ Scene DrawnPictures::turned(const Scene& scene, double degrees)
     };
 }
 
-Scene DrawnPictures::lit(const Scene& scene, Colour gains, double noise)
+Scene Scenes::lit(const Scene& scene, Colour gains, double noise)
 {
     auto random = std::make_shared<std::mt19937>(7);
     return [=](double x, double y) {

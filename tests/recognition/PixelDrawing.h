@@ -7,7 +7,7 @@
 #include <random>
 
 /// Pictures drawn pixel by pixel, for recognition to look at.
-namespace orlen::DrawnPicture {
+namespace orlen::PixelDrawing {
 
 using Colour = std::array<std::uint8_t, 3>;
 
@@ -66,4 +66,4 @@ inline RgbImage scene(int width, int height)
     return image;
 }
 
-} // namespace orlen::DrawnPicture
+} // namespace orlen::PixelDrawing
