@@ -19,7 +19,7 @@ orlen::RgbImage readPpm(const std::string& path)
     file.get();
     if (!file || magic != "P6" || most != 255 || image.isEmpty())
         return {};
-    image.pixels.resize(RgbImage::byteCount(image.width, image.height));
+    image.pixels.resize(orlen::RgbImage::byteCount(image.width, image.height));
     file.read(reinterpret_cast<char*>(image.pixels.data()),
               static_cast<std::streamsize>(image.pixels.size()));
     return file ? image : orlen::RgbImage{};
