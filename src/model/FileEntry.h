@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Rating.h"
+#include "platform/FileStatus.h"
 #include "platform/Time.h"
 
 #include <cstdint>
@@ -9,6 +10,13 @@
 #include <string_view>
 
 namespace orlen {
+
+/// The file of a set of duplicates or similar photos that is kept.
+struct KeptFile {
+    std::string path;
+    FileStamp stamp;
+    friend bool operator==(const KeptFile&, const KeptFile&) = default;
+};
 
 /// One file or folder that a finding lists. Identified by its path, which is always valid UTF-8: the history
 /// could not hold another one, so it could not be put back.
@@ -19,6 +27,11 @@ struct FileEntry {
     std::optional<TimePoint> lastOpened;
     std::optional<Rating> rating; ///< absent: the finding's rating holds
     std::optional<std::string> note;
+    /// What stood under the path when it was looked at: only that may be moved. Absent: not known, and the
+    /// move compares nothing.
+    std::optional<FileStamp> stamp;
+    /// What makes this entry dispensable, when that is another file: it moves only while this one is there.
+    std::optional<KeptFile> kept;
 
     friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };

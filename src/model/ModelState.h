@@ -1,10 +1,12 @@
 #pragma once
 
+#include "model/CleanFailure.h"
 #include "model/CleanPlan.h"
 
 #include <cstdint>
 #include <string>
 #include <variant>
+#include <vector>
 
 /// The small values by which the application model tells the screens what is going on.
 namespace orlen {
@@ -35,6 +37,8 @@ struct CleaningState {
     int moved = 0;
     int failed = 0;
     std::string planTitle;
+    std::vector<CleanFailure> failures; ///< what could not be moved, in path order; known when finished
+    bool isRecorded = true;             ///< false: the history could not be saved; the next start does it
 
     friend bool operator==(const CleaningState&, const CleaningState&) = default;
 };

@@ -56,10 +56,18 @@ Result<FileStatus> query(int folder, const char* name, int flags)
     status.owner = raw.stx_uid;
     status.modified = toTimePoint(raw.stx_mtime);
     status.accessed = toTimePoint(raw.stx_atime);
+    status.changed = toTimePoint(raw.stx_ctime);
     return status;
 }
 
 } // namespace
+
+FileStamp FileStamp::of(const FileStatus& status)
+{
+    if (status.type == FileType::folder)
+        return {status.type, status.identity, 0, {}};
+    return {status.type, status.identity, status.length, status.changed};
+}
 
 Result<FileStatus> statusOf(const std::string& path)
 {

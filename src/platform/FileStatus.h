@@ -38,6 +38,19 @@ struct FileStatus {
     std::uint32_t owner = 0; ///< user number
     TimePoint modified;
     TimePoint accessed;
+    TimePoint changed; ///< last change of content, name or permissions; no program can set it
+};
+
+/// What a name stood for at one moment, kept to tell later whether it still stands for the same: a folder by
+/// its identity, anything else also by its length and its time of change.
+struct FileStamp {
+    FileType type = FileType::other;
+    FileIdentity identity;
+    std::int64_t length = 0; ///< bytes of content; 0 for a folder
+    TimePoint changed;       ///< the epoch for a folder
+
+    [[nodiscard]] static FileStamp of(const FileStatus& status);
+    friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
 /// Blocks on the disk; any thread. Links are not followed in the last component.

@@ -94,6 +94,14 @@ Suspects differentPaths(const std::vector<Cand>& cands)
     return suspects;
 }
 
+/// The file with the stamp that its contents were compared under.
+Cand asCompared(const Suspect& suspect)
+{
+    Cand cand = *suspect.cand;
+    cand.stamp = FileStamp::of(suspect.seen);
+    return cand;
+}
+
 class Search {
 public:
     Search(const std::vector<Cand>& cands, const std::stop_token& stop)
@@ -176,9 +184,9 @@ private:
     {
         std::ranges::sort(members,
                           [&](const Suspect& a, const Suspect& b) { return m_prefers(*a.cand, *b.cand); });
-        Set set{.kept = *members.front().cand, .copies = {}};
+        Set set{.kept = asCompared(members.front()), .copies = {}};
         for (const Suspect& member : std::span(members).subspan(1))
-            set.copies.push_back({.file = *member.cand});
+            set.copies.push_back({.file = asCompared(member)});
         m_sets.push_back(std::move(set));
     }
 
@@ -216,10 +224,8 @@ Finding finding(const Result& result)
     std::vector<FileEntry> entries;
     for (const Set& set : result.sets) {
         for (const Copy& copy : set.copies) {
-            FileEntry& entry = entries.emplace_back();
-            entry.path = copy.file.path;
-            entry.size = copy.file.size;
-            entry.modified = copy.file.modified;
+            FileEntry& entry = entries.emplace_back(toEntry(copy.file));
+            entry.kept = toKept(set.kept);
             addNote(entry, noteNaming(set.kept));
             if (copy.sharesData)
                 addNote(entry, kSharesNote);

@@ -50,8 +50,10 @@ std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_v
         FileEntry& entry = entries[i];
         entry.path = paths[i];
         entry.size = sizes[i];
-        if (const auto status = statusOf(paths[i]); status.ok())
+        if (const auto status = statusOf(paths[i]); status.ok()) {
             entry.modified = status.value().modified;
+            entry.stamp = FileStamp::of(status.value());
+        }
         if (!note.empty())
             entry.note = std::string(note);
     }

@@ -24,15 +24,6 @@ void keepLargest(std::vector<FileEntry>& entries, std::size_t limit)
         entries.resize(limit);
 }
 
-FileEntry toEntry(const Cand& cand)
-{
-    FileEntry entry;
-    entry.path = cand.path;
-    entry.size = cand.size;
-    entry.modified = cand.modified;
-    return entry;
-}
-
 std::vector<FileEntry> largeFiles(const std::vector<Cand>& cands, std::int64_t threshold)
 {
     std::vector<FileEntry> entries;

@@ -31,7 +31,7 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
 
 FileEntry entry(const PhotoInfo& photo, std::string note)
 {
-    FileEntry entry{photo.cand.path, photo.cand.size, photo.cand.modified};
+    FileEntry entry = toEntry(photo.cand);
     entry.note = std::move(note);
     return entry;
 }
@@ -83,7 +83,9 @@ std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photo
     for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
         for (const std::size_t other : group.others) {
             isListed[other] = true;
-            entries.front().push_back(entry(photos[other], similarNote(photos[group.keeper])));
+            FileEntry& similar =
+                entries.front().emplace_back(entry(photos[other], similarNote(photos[group.keeper])));
+            similar.kept = toKept(photos[group.keeper].cand);
         }
     }
     for (std::size_t i = 0; i < photos.size(); ++i) {

@@ -67,7 +67,7 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
             size >= kImageBytes && (folder.tag() & kImages) != 0 && WalkRules::isImageName(name);
         if (name.starts_with('.') || (!isCand && !isImage))
             continue;
-        Cand cand{folder.pathOf(name), size, file.status.modified};
+        Cand cand{folder.pathOf(name), size, file.status.modified, FileStamp::of(file.status)};
         if (!PathText::isValidUtf8(cand.path) || Safety::isProtected(cand.path))
             continue;
         if (isImage)

@@ -7,6 +7,8 @@ CleanPlan plan(const AppInfo& app, std::span<const FileEntry> leftovers)
     FileEntry entry;
     entry.path = app.path;
     entry.size = app.size.value_or(0);
+    if (const auto status = statusOf(app.path); status.ok())
+        entry.stamp = FileStamp::of(status.value());
     CleanPlan plan;
     plan.title = "Uninstall " + app.name;
     const char* title = app.source == AppSource::removedFlatpak ? "App data" : "Application";
