@@ -1,7 +1,9 @@
 #include "app/AppModel.h"
 
 #include "app/DiskAccess.h"
+#include "clean/History.h"
 #include "clean/Persist.h"
+#include "clean/Reserve.h"
 #include "clean/Safety.h"
 #include "platform/CheckedSum.h"
 #include "platform/Folder.h"
@@ -38,8 +40,7 @@ AppModel::AppModel(const Options& options, QObject* parent)
         m_lock = FolderLock::take(folder);
         m_isWriter = mayWrite(m_lock, folder);
     }
-    m_history = Persist::loadHistory();
-    m_snapshots = Persist::loadSnapshots();
+    load();
     m_isFdaGranted = checkFDA();
     if (m_options.startup == Startup::full)
         startUp();
@@ -50,16 +51,27 @@ AppModel::~AppModel()
     cancelScan();
     m_workers.finish();
     // What was moved must not be forgotten because the window was closed meanwhile.
-    for (const PendingRecord& pending : m_pending) {
-        if (!pending->has_value() || (*pending)->items.empty())
-            continue;
-        m_history.insert(m_history.begin(), **pending);
-        saveHistory();
+    for (const PendingCleanUp& pending : m_pending) {
+        if (pending->has_value())
+            (void)History::add(m_history, (*pending)->record);
     }
     for (const PendingRestore& pending : m_restores) {
         if (pending.outcome->has_value())
-            keepRestored((*pending.outcome)->record);
+            (void)History::update(m_history, (*pending.outcome)->record);
     }
+}
+
+void AppModel::load()
+{
+    m_history = Persist::loadHistory();
+    m_snapshots = Persist::loadSnapshots();
+    // Who only reads wants to see what a killed clean-up moved all the same, unless that is at work
+    // elsewhere.
+    std::optional<FolderLock> lock;
+    if (!m_isWriter && History::isUnfinished())
+        lock = FolderLock::take(Persist::dir());
+    if (m_isWriter || lock)
+        History::recover(m_history);
 }
 
 void AppModel::startUp()
@@ -88,8 +100,11 @@ bool AppModel::isStale(std::span<const Snapshot> snapshots, TimePoint now)
 void AppModel::refreshBreakdown(Recording recording)
 {
     checkThread();
-    const auto measure = [](const std::stop_token& stop) {
+    const auto measure = [isWriter = m_isWriter](const std::stop_token& stop) {
         Safety::refresh();
+        // The Trash may have been emptied meanwhile.
+        if (isWriter)
+            Reserve::refill();
         return StorageBreakdown::compute(stop);
     };
     m_workers.start(measure, [this, recording, number = ++m_breakdownsStarted](StorageBreakdown measured) {

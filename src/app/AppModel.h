@@ -153,7 +153,8 @@ public:
 
     struct Restoration {
         Cleaner::Restored outcome;
-        std::string message; ///< one line for the user
+        std::string message;    ///< one line for the user
+        bool isRecorded = true; ///< false: the history could not be saved; the next start does it
     };
     /// Puts a past clean-up back before it returns: blocks on the disk, so not for a window. Only for a
     /// writer, and not for a record that is being restored.
@@ -188,13 +189,14 @@ Q_SIGNALS:
 private:
     struct ScanResult;
     /// Of one clean-up, shared with its worker: nothing until the worker has ended.
-    using PendingRecord = std::shared_ptr<std::optional<CleanRecord>>;
+    using PendingCleanUp = std::shared_ptr<std::optional<Cleaner::Cleaned>>;
     /// A restore whose outcome is shared with its worker in the same manner.
     struct PendingRestore {
         Uuid record;
         std::shared_ptr<std::optional<Cleaner::Restored>> outcome;
     };
 
+    void load();
     void startUp();
     void setBreakdown(StorageBreakdown breakdown);
     void updateVolume();
@@ -205,11 +207,10 @@ private:
     [[nodiscard]] static std::set<std::string> preselected(const std::vector<Finding>& findings);
     [[nodiscard]] Cleaner::Progress cleaningReport(int number);
     void showCleaning(int number, int done, const std::string& current);
-    void finishCleaning(int number, const PendingRecord& pending);
-    void keep(const CleanRecord& record);
+    void finishCleaning(int number, const PendingCleanUp& pending);
+    /// Whether the history could be saved.
+    bool keep(const CleanRecord& record);
     [[nodiscard]] Restoration finishRestore(Cleaner::Restored outcome);
-    void keepRestored(const CleanRecord& record);
-    void saveHistory() const;
     void checkThread() const;
     void checkWriter() const;
 
@@ -247,7 +248,7 @@ private:
     int m_breakdownStored = 0; ///< number of the one that is shown: an earlier one that ends later is dropped
     int m_cleaningNumber = 0;  ///< of the clean-up that is shown
     std::stop_source m_cleaningStop{std::nostopstate};
-    std::vector<PendingRecord> m_pending; ///< clean-ups that are not yet in the history
+    std::vector<PendingCleanUp> m_pending; ///< clean-ups that are not yet in the history
     std::vector<PendingRestore> m_restores;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares

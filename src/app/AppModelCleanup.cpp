@@ -1,6 +1,6 @@
 #include "app/AppModel.h"
 
-#include "clean/Persist.h"
+#include "clean/History.h"
 
 #include <QTimer>
 
@@ -44,22 +44,22 @@ void AppModel::confirm(const CleanPlan& plan, const std::set<std::string>& selec
     Q_EMIT cleaningChanged();
 
     const int number = ++m_cleaningNumber;
-    const auto pending = std::make_shared<std::optional<CleanRecord>>();
+    const auto pending = std::make_shared<std::optional<Cleaner::Cleaned>>();
     m_pending.push_back(pending);
     const auto started = Clock::now();
     m_cleaningStop = m_workers.start(
         [entries = std::move(entries), title, report = cleaningReport(number),
          pending](const std::stop_token& stop) {
             *pending = Cleaner::run(entries, title, report, stop);
-            return PendingRecord(pending);
+            return PendingCleanUp(pending);
         },
-        [this, number, started](const PendingRecord& record) {
+        [this, number, started](const PendingCleanUp& cleaned) {
             const auto shown = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - started);
             if (shown >= m_options.overlayMinimum)
-                finishCleaning(number, record);
+                finishCleaning(number, cleaned);
             else
                 QTimer::singleShot(m_options.overlayMinimum - shown, this,
-                                   [this, number, record] { finishCleaning(number, record); });
+                                   [this, number, cleaned] { finishCleaning(number, cleaned); });
         });
 }
 
@@ -87,17 +87,20 @@ void AppModel::showCleaning(int number, int done, const std::string& current)
     Q_EMIT cleaningChanged();
 }
 
-void AppModel::finishCleaning(int number, const PendingRecord& pending)
+void AppModel::finishCleaning(int number, const PendingCleanUp& pending)
 {
-    const CleanRecord record = **pending;
+    const Cleaner::Cleaned cleaned = **pending;
+    const CleanRecord& record = cleaned.record;
     std::erase(m_pending, pending);
-    if (!record.items.empty())
-        keep(record);
+    const bool isRecorded = keep(record);
     if (m_cleaning && number == m_cleaningNumber) {
         m_cleaning->finished = true;
         m_cleaning->freed = record.freed();
         m_cleaning->moved = static_cast<int>(record.items.size());
         m_cleaning->failed = record.failed;
+        m_cleaning->failures = cleaned.failures;
+        m_cleaning->refusal = cleaned.refusal;
+        m_cleaning->isRecorded = isRecorded;
         Q_EMIT cleaningChanged();
     }
     updateVolume();
@@ -106,21 +109,17 @@ void AppModel::finishCleaning(int number, const PendingRecord& pending)
     Q_EMIT cleaningFinished(record);
 }
 
-void AppModel::keep(const CleanRecord& record)
+bool AppModel::keep(const CleanRecord& record)
 {
-    m_history.insert(m_history.begin(), record);
-    saveHistory();
+    const bool isSaved = History::add(m_history, record).ok();
+    if (record.items.empty())
+        return true;
     Q_EMIT historyChanged();
     std::set<std::string> moved;
     for (const TrashedItem& item : record.items)
         moved.insert(item.original);
     removeFromFindings(moved);
-}
-
-void AppModel::saveHistory() const
-{
-    if (m_isWriter)
-        Persist::saveHistory(m_history);
+    return isSaved;
 }
 
 void AppModel::cancelCleaning()

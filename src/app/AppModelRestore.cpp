@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 
 #include "app/AppTexts.h"
+#include "clean/History.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,20 +17,11 @@ AppModel::Restoration AppModel::restore(const CleanRecord& record)
 
 AppModel::Restoration AppModel::finishRestore(Cleaner::Restored outcome)
 {
-    keepRestored(outcome.record);
+    const bool isRecorded = History::update(m_history, outcome.record).ok();
     Q_EMIT historyChanged();
     updateVolume();
     std::string message = AppTexts::restored(outcome.restored, outcome.failed);
-    return {std::move(outcome), std::move(message)};
-}
-
-void AppModel::keepRestored(const CleanRecord& record)
-{
-    const auto kept = std::find_if(m_history.begin(), m_history.end(),
-                                   [&](const CleanRecord& candidate) { return candidate.id == record.id; });
-    if (kept != m_history.end())
-        *kept = record;
-    saveHistory();
+    return {std::move(outcome), std::move(message), isRecorded};
 }
 
 bool AppModel::isRestoring(const Uuid& record) const

@@ -1,15 +1,22 @@
 #include "clean/Cleaner.h"
 
+#include "clean/FailureReasons.h"
+#include "clean/Journal.h"
+#include "clean/Reserve.h"
 #include "clean/Safety.h"
 #include "clean/trash/Trash.h"
 #include "platform/PathText.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <variant>
 
 namespace orlen::Cleaner {
 
 namespace {
+
+using Journals::State;
 
 /// The entries in path order without those that go along with another one. Only the last kept path is
 /// compared: a name that sorts between a folder and its contents ("a", "a b", "a/x") lets the contents stay
@@ -30,59 +37,203 @@ std::vector<FileEntry> withoutNested(std::vector<FileEntry> entries)
     return kept;
 }
 
-std::optional<TrashedItem> moveToTrash(const FileEntry& entry)
+/// Moves one entry after the other and remembers what its own moves have changed.
+class Mover {
+public:
+    explicit Mover(const std::vector<FileEntry>& entries) : m_entries(entries) {}
+
+    [[nodiscard]] std::variant<TrashedItem, FailureReason> move(const FileEntry& entry)
+    {
+        // The history is text: an item whose name it cannot hold could never be put back.
+        if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
+            return FailureReason::isProtected;
+        if (entry.kept && !stays(*entry.kept))
+            return FailureReason::changed;
+        const auto stamp = entry.stamp ? std::optional(today(*entry.stamp)) : std::nullopt;
+        auto trashed = Trash::moveIn(entry.path, entry.size, stamp);
+        if (!trashed.ok())
+            return FailureReasons::ofCleaning(trashed.error());
+        noteMove(entry, trashed.value());
+        return TrashedItem{entry.path, std::move(trashed).value(), entry.size, false};
+    }
+
+private:
+    /// Whether the file that is to be kept is there, is what it was, and is not about to go itself.
+    [[nodiscard]] bool stays(const KeptFile& kept) const
+    {
+        const auto goesAlong = [&](const FileEntry& entry) {
+            return PathText::isAtOrBelow(kept.path, entry.path);
+        };
+        const auto status = statusOf(kept.path);
+        return status.ok() && FileStamp::of(status.value()) == today(kept.stamp) &&
+               std::ranges::none_of(m_entries, goesAlong);
+    }
+
+    /// A file with several names has one time of change, which the move of one name sets for all.
+    [[nodiscard]] FileStamp today(const FileStamp& shown) const
+    {
+        const auto moved = m_moved.find(shown.identity);
+        return moved != m_moved.end() && moved->second.before == shown ? moved->second.after : shown;
+    }
+
+    void noteMove(const FileEntry& entry, const std::string& trashed)
+    {
+        const auto status = statusOf(trashed);
+        if (entry.stamp && status.ok() && status.value().links > 1)
+            m_moved[entry.stamp->identity] = {*entry.stamp, FileStamp::of(status.value())};
+    }
+
+    struct Change {
+        FileStamp before;
+        FileStamp after;
+    };
+    const std::vector<FileEntry>& m_entries;
+    std::map<FileIdentity, Change> m_moved;
+};
+
+/// What the clean-up is about to move. An entry that came without a stamp gets the present one: what moves is
+/// what the journal tells.
+Journal planned(std::vector<FileEntry>& entries, const std::string& title)
 {
-    // The history is text: an item whose name it cannot hold could never be put back.
-    if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
-        return std::nullopt;
-    auto trashed = Trash::moveIn(entry.path, entry.size);
-    if (!trashed.ok())
-        return std::nullopt;
-    return TrashedItem{entry.path, std::move(trashed).value(), entry.size, false};
+    Journal journal{Uuid::random(), std::chrono::system_clock::now(), title, {}};
+    for (FileEntry& entry : entries) {
+        if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
+            continue;
+        const auto status = statusOf(entry.path);
+        if (!status.ok())
+            continue;
+        if (!entry.stamp)
+            entry.stamp = FileStamp::of(status.value());
+        journal.items.push_back(
+            {entry.path, entry.size, status.value().identity.device, status.value().lasting()});
+    }
+    return journal;
 }
 
-bool putBack(const TrashedItem& item, TimePoint cleaned)
+Cleaned refused(Cleaned cleaned, const std::vector<FileEntry>& entries, FailureReason reason)
 {
-    return !item.trashed.empty() && !Safety::isProtected(item.original) &&
-           Trash::moveBack(item.trashed, item.original, cleaned).ok();
+    for (const FileEntry& entry : entries)
+        cleaned.failures.push_back({entry.path, reason});
+    cleaned.record.failed = static_cast<int>(entries.size());
+    cleaned.record.date = std::chrono::system_clock::now();
+    cleaned.refusal = reason;
+    return cleaned;
+}
+
+using Identities = std::map<std::string, LastingIdentity>;
+
+/// Original paths and identities of the items that the clean-up moved, as far as they were noted.
+Identities notedItems(const Uuid& record)
+{
+    Identities noted;
+    if (const auto cleaned = Journals::read(record, State::cleaned)) {
+        for (const Journal::Item& item : cleaned->items)
+            noted.emplace(item.path, item.identity);
+    }
+    return noted;
+}
+
+/// What the restore is about to move back.
+Journal plannedRestore(const CleanRecord& record, const Identities& noted)
+{
+    Journal journal{record.id, std::chrono::system_clock::now(), record.title, {}};
+    for (const TrashedItem& item : record.items) {
+        if (item.restored)
+            continue;
+        if (const auto found = noted.find(item.original); found != noted.end())
+            journal.items.push_back({item.original, item.size, 0, found->second});
+        else if (const auto identity = Trash::identityOf(item.trashed))
+            journal.items.push_back({item.original, item.size, 0, *identity});
+    }
+    return journal;
+}
+
+std::optional<FailureReason> putBack(const TrashedItem& item, const Identities& noted, TimePoint cleaned)
+{
+    if (item.trashed.empty())
+        return FailureReason::missing;
+    if (Safety::isProtected(item.original))
+        return FailureReason::isProtected;
+    Trash::Recognition recognition{std::nullopt, cleaned};
+    if (const auto found = noted.find(item.original); found != noted.end())
+        recognition.identity = found->second;
+    const auto moved = Trash::moveBack(item.trashed, item.original, recognition);
+    return moved.ok() ? std::nullopt : std::optional(FailureReasons::ofRestoring(moved.error()));
+}
+
+Restored refusedRestore(CleanRecord record, FailureReason reason)
+{
+    Restored result;
+    for (const TrashedItem& item : record.items) {
+        if (!item.restored)
+            result.failures.push_back({item.original, reason});
+    }
+    result.failed = static_cast<int>(result.failures.size());
+    result.refusal = reason;
+    result.record = std::move(record);
+    return result;
 }
 
 } // namespace
 
-CleanRecord run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
-                const std::stop_token& stop)
+Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
+            const std::stop_token& stop)
 {
     Safety::refresh();
-    const std::vector<FileEntry> kept = withoutNested(std::move(entries));
+    Reserve::refill();
+    std::vector<FileEntry> kept = withoutNested(std::move(entries));
+    const Journal journal = planned(kept, title);
+    Cleaned cleaned;
+    cleaned.record.id = journal.id;
+    cleaned.record.title = title;
     const int total = static_cast<int>(kept.size());
-    CleanRecord record;
-    record.id = Uuid::random();
-    record.title = title;
+    if (!journal.items.empty()) {
+        if (const auto written = Journals::write(journal, State::cleaning); !written.ok()) {
+            progress(total, total, "");
+            return refused(std::move(cleaned), kept, FailureReasons::ofCleaning(written.error()));
+        }
+    }
+    Mover mover(kept);
     for (int index = 0; index < total && !stop.stop_requested(); ++index) {
         const FileEntry& entry = kept[static_cast<std::size_t>(index)];
         progress(index, total, std::string(PathText::lastComponent(entry.path)));
-        if (auto item = moveToTrash(entry))
-            record.items.push_back(*std::move(item));
+        auto outcome = mover.move(entry);
+        if (auto* item = std::get_if<TrashedItem>(&outcome))
+            cleaned.record.items.push_back(std::move(*item));
         else
-            ++record.failed;
+            cleaned.failures.push_back({entry.path, std::get<FailureReason>(outcome)});
     }
     progress(total, total, "");
-    record.date = std::chrono::system_clock::now();
-    return record;
+    cleaned.record.failed = static_cast<int>(cleaned.failures.size());
+    cleaned.record.date = std::chrono::system_clock::now();
+    return cleaned;
 }
 
-Restored restore(CleanRecord record, const std::stop_token& stop)
+Restored restore(CleanRecord record, const std::stop_token& stop, const Progress& progress)
 {
     Safety::refresh();
+    const Identities noted = notedItems(record.id);
+    const Journal journal = plannedRestore(record, noted);
+    if (!journal.items.empty()) {
+        if (const auto written = Journals::write(journal, State::restoring); !written.ok())
+            return refusedRestore(std::move(record), FailureReasons::ofCleaning(written.error()));
+    }
     Restored result;
-    for (TrashedItem& item : record.items) {
-        if (stop.stop_requested())
-            break;
+    const int total = static_cast<int>(record.items.size());
+    for (int index = 0; index < total && !stop.stop_requested(); ++index) {
+        TrashedItem& item = record.items[static_cast<std::size_t>(index)];
         if (item.restored)
             continue;
-        item.restored = putBack(item, record.date);
-        ++(item.restored ? result.restored : result.failed);
+        if (progress)
+            progress(index, total, std::string(PathText::lastComponent(item.original)));
+        const auto failure = putBack(item, noted, record.date);
+        item.restored = !failure;
+        if (failure)
+            result.failures.push_back({item.original, *failure});
+        else
+            ++result.restored;
     }
+    result.failed = static_cast<int>(result.failures.size());
     result.record = std::move(record);
     return result;
 }

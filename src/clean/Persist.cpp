@@ -1,6 +1,7 @@
 #include "clean/Persist.h"
 
 #include "clean/RecordJson.h"
+#include "clean/Reserve.h"
 #include "platform/FileContent.h"
 #include "platform/Folder.h"
 #include "platform/PathText.h"
@@ -20,14 +21,15 @@ constexpr const char* kSnapshots = "scans.json";
 constexpr std::size_t kReadLimit = 256'000'000;
 
 template <typename Record>
-void save(const std::vector<Record>& records, const char* name)
+Result<void> save(const std::vector<Record>& records, const char* name)
 {
     auto array = nlohmann::ordered_json::array();
     for (const Record& record : records)
         array.push_back(RecordJson::encode(record));
     // Bytes that are not UTF-8 become U+FFFD: one illegible name must not cost the whole file.
     const std::string text = array.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
-    (void)replaceFile(PathText::join(dir(), name), text);
+    return Reserve::withRoom(Reserve::Use::record,
+                             [&] { return replaceFile(PathText::join(dir(), name), text); });
 }
 
 std::string read(const char* name)
@@ -44,14 +46,14 @@ std::string dir()
     return folder;
 }
 
-void saveHistory(const std::vector<CleanRecord>& history)
+Result<void> saveHistory(const std::vector<CleanRecord>& history)
 {
-    save(history, kHistory);
+    return save(history, kHistory);
 }
 
 void saveSnapshots(const std::vector<Snapshot>& snapshots)
 {
-    save(snapshots, kSnapshots);
+    (void)save(snapshots, kSnapshots);
 }
 
 std::vector<CleanRecord> loadHistory()

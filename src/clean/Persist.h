@@ -2,6 +2,7 @@
 
 #include "clean/CleanRecord.h"
 #include "clean/Snapshot.h"
+#include "platform/Result.h"
 
 #include <string>
 #include <vector>
@@ -13,8 +14,9 @@ namespace orlen::Persist {
 /// make it is ignored.
 [[nodiscard]] std::string dir();
 
-/// Rewrites "history.json" (newest first); a failed write is ignored.
-void saveHistory(const std::vector<CleanRecord>& history);
+/// Rewrites "history.json" (newest first), in the room of the reserve if need be. The errno of a failed
+/// write.
+[[nodiscard]] Result<void> saveHistory(const std::vector<CleanRecord>& history);
 /// Rewrites "scans.json" (oldest first); a failed write is ignored.
 void saveSnapshots(const std::vector<Snapshot>& snapshots);
 

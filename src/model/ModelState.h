@@ -4,6 +4,7 @@
 #include "model/CleanPlan.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -37,8 +38,9 @@ struct CleaningState {
     int moved = 0;
     int failed = 0;
     std::string planTitle;
-    std::vector<CleanFailure> failures; ///< what could not be moved, in path order; known when finished
-    bool isRecorded = true;             ///< false: the history could not be saved; the next start does it
+    std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known when finished
+    std::optional<FailureReason> refusal; ///< why nothing was begun: the plan could not be written down
+    bool isRecorded = true;               ///< false: the history could not be saved; the next start does it
 
     friend bool operator==(const CleaningState&, const CleaningState&) = default;
 };

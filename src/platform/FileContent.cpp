@@ -35,7 +35,8 @@ Result<void> writePlaced(const std::string& path, const std::string& bytes, unsi
 {
     // Two threads may write the same file: each writes its own.
     static std::atomic<unsigned> counter{0};
-    const std::string beside = path + ".new-" + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+    const std::string beside =
+        path + std::string(kUnfinishedMark) + std::to_string(::getpid()) + "-" + std::to_string(++counter);
     // A left-over of a killed process with the same number is the program's own and may go.
     ::unlink(beside.c_str());
     auto file = retriedFd([&] {

@@ -9,6 +9,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace orlen {
 
@@ -28,6 +29,9 @@ namespace orlen {
 
 /// Tells the system that the file will be read once from front to back.
 void announceSequentialRead(int file);
+
+/// Between a file's name and the numbers of the process and the writing, until the file is whole.
+inline constexpr std::string_view kUnfinishedMark = ".new-";
 
 /// Replaces the program's own file `path` by `bytes`: written beside it, synced, renamed over it, so that a
 /// reader never sees half of it. The new file has `mode`. On failure the old file stays as it was.

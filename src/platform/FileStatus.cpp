@@ -15,7 +15,7 @@ namespace {
 
 // What the file system keeps in memory must do: no refresh from a server, no automount.
 constexpr int kFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
-constexpr unsigned kFields = STATX_BASIC_STATS | STATX_MNT_ID;
+constexpr unsigned kFields = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
 
 TimePoint toTimePoint(const statx_timestamp& stamp)
 {
@@ -57,6 +57,8 @@ Result<FileStatus> query(int folder, const char* name, int flags)
     status.modified = toTimePoint(raw.stx_mtime);
     status.accessed = toTimePoint(raw.stx_atime);
     status.changed = toTimePoint(raw.stx_ctime);
+    if ((raw.stx_mask & STATX_BTIME) != 0)
+        status.born = toTimePoint(raw.stx_btime);
     return status;
 }
 
@@ -65,8 +67,8 @@ Result<FileStatus> query(int folder, const char* name, int flags)
 FileStamp FileStamp::of(const FileStatus& status)
 {
     if (status.type == FileType::folder)
-        return {status.type, status.identity, 0, {}};
-    return {status.type, status.identity, status.length, status.changed};
+        return {status.type, status.identity, 0, {}, status.born};
+    return {status.type, status.identity, status.length, status.changed, status.born};
 }
 
 Result<FileStatus> statusOf(const std::string& path)

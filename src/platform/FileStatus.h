@@ -4,6 +4,7 @@
 #include "platform/Time.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace orlen {
@@ -26,6 +27,14 @@ struct FileIdentityHash {
     }
 };
 
+/// What identifies a file on its disk for good: file numbers are given to new files once the old are gone,
+/// and device numbers change with a restart.
+struct LastingIdentity {
+    std::uint64_t number = 0;
+    std::optional<TimePoint> born; ///< when it was created, where the file system knows
+    friend bool operator==(const LastingIdentity&, const LastingIdentity&) = default;
+};
+
 /// What the file system tells of one name; a link is described itself, never what it points to.
 struct FileStatus {
     FileType type = FileType::other;
@@ -38,7 +47,10 @@ struct FileStatus {
     std::uint32_t owner = 0; ///< user number
     TimePoint modified;
     TimePoint accessed;
-    TimePoint changed; ///< last change of content, name or permissions; no program can set it
+    TimePoint changed;             ///< last change of content, name or permissions; no program can set it
+    std::optional<TimePoint> born; ///< nothing where the file system does not keep it
+
+    [[nodiscard]] LastingIdentity lasting() const { return {identity.number, born}; }
 };
 
 /// What a name stood for at one moment, kept to tell later whether it still stands for the same: a folder by
@@ -48,6 +60,7 @@ struct FileStamp {
     FileIdentity identity;
     std::int64_t length = 0; ///< bytes of content; 0 for a folder
     TimePoint changed;       ///< the epoch for a folder
+    std::optional<TimePoint> born;
 
     [[nodiscard]] static FileStamp of(const FileStatus& status);
     friend bool operator==(const FileStamp&, const FileStamp&) = default;

@@ -205,7 +205,7 @@ TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
     const Process::Outcome restore = orlen({"restore", id.substr(0, 4), "--yes", "--json"});
     EXPECT_EQ(restore.status, 0);
     const Json restored = restore.document();
-    EXPECT_THAT(keys(restored), ElementsAre("record", "restored", "failed", "message"));
+    EXPECT_THAT(keys(restored), ElementsAre("record", "restored", "failed", "message", "failures"));
     EXPECT_EQ(restored["message"], "Restored 1 item.");
     EXPECT_TRUE(TempHome::exists(copy));
     EXPECT_EQ(orlen({"restore", id}).out, "Restored 0 items.\n");

@@ -1,12 +1,19 @@
 #include "clean/Cleaner.h"
 
+#include "clean/Journal.h"
 #include "clean/TrashProbe.h"
 #include "clean/trash/Trash.h"
+#include "platform/UniqueFd.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <ctime>
+#include <fcntl.h>
+#include <filesystem>
+#include <functional>
 #include <tuple>
 #include <unistd.h>
 
@@ -30,10 +37,30 @@ protected:
     CleanRecord clean(std::vector<FileEntry> entries, std::stop_token stop = {})
     {
         steps.clear();
-        return Cleaner::run(
+        Cleaner::Cleaned cleaned = Cleaner::run(
             std::move(entries), "Test",
             [this](int index, int total, const std::string& name) { steps.emplace_back(index, total, name); },
             std::move(stop));
+        failures = std::move(cleaned.failures);
+        EXPECT_EQ(failures.size(), static_cast<std::size_t>(cleaned.record.failed));
+        Journals::settle(cleaned.record.id);
+        return std::move(cleaned.record);
+    }
+
+    /// As a scan lists it: with what stands there now.
+    static FileEntry seen(const std::string& path)
+    {
+        FileEntry entry{path, 10, {}, {}, {}, {}};
+        entry.stamp = FileStamp::of(statusOf(path).value());
+        return entry;
+    }
+
+    /// The same as one of two copies, of which `kept` stays.
+    static FileEntry copyOf(const std::string& path, const std::string& kept)
+    {
+        FileEntry entry = seen(path);
+        entry.kept = KeptFile{kept, FileStamp::of(statusOf(kept).value())};
+        return entry;
     }
 
     static std::vector<std::string> originals(const CleanRecord& record)
@@ -46,6 +73,7 @@ protected:
 
     TempHome home;
     std::vector<Step> steps;
+    std::vector<CleanFailure> failures;
 };
 
 } // namespace
@@ -86,6 +114,12 @@ TEST_F(CleanerTest, countsWhatItMayNotOrCannotMove)
                entry(home.path("locked/file")), entry(home.path("gone")), entry(""), entry("/")});
     EXPECT_THAT(record.items, IsEmpty());
     EXPECT_EQ(record.failed, 7);
+    const auto reason = [&](const std::string& path) {
+        return std::ranges::find(failures, path, &CleanFailure::path)->reason;
+    };
+    EXPECT_EQ(reason(home.path(".ssh/id")), FailureReason::isProtected);
+    EXPECT_EQ(reason(home.path("locked/file")), FailureReason::permission);
+    EXPECT_EQ(reason(home.path("gone")), FailureReason::missing);
     for (const char* name : {".ssh/id", "Documents/letter", "\xFF name", "locked/file"})
         EXPECT_TRUE(TempHome::exists(home.path(name))) << name;
     EXPECT_EQ(clean({entry(home.path()), entry(home.path("locked/file"))}).failed, 1);
@@ -107,15 +141,15 @@ TEST_F(CleanerTest, aStopLetsTheItemInHandFinishAndCountsNothingElse)
     for (const char* name : {"a", "b", "c", "d"})
         (void)home.file(name);
     std::stop_source source;
-    const CleanRecord record = Cleaner::run(
+    const Cleaner::Cleaned cleaned = Cleaner::run(
         {entry(home.path("a")), entry(home.path("b")), entry(home.path("c")), entry(home.path("d"))}, "Test",
         [&](int, int, const std::string& name) {
             if (name == "b")
                 source.request_stop();
         },
         source.get_token());
-    EXPECT_THAT(originals(record), ElementsAre(home.path("a"), home.path("b")));
-    EXPECT_EQ(record.failed, 0);
+    EXPECT_THAT(originals(cleaned.record), ElementsAre(home.path("a"), home.path("b")));
+    EXPECT_EQ(cleaned.record.failed, 0);
     EXPECT_TRUE(TempHome::exists(home.path("c")) && TempHome::exists(home.path("d")));
 }
 
@@ -165,19 +199,87 @@ TEST_F(CleanerTest, aRestoreThatFailsForSomeCanBeTriedAgain)
 
 TEST_F(CleanerTest, aNameThatWasReusedAfterEmptyingIsNotRestored)
 {
-    CleanRecord cleaned = clean({entry(home.file("one/same"))});
+    const CleanRecord cleaned = clean({entry(home.file("one/same"))});
     const TrashedItem& item = cleaned.items.front();
     ASSERT_EQ(std::remove(item.trashed.c_str()) + std::remove(infoFile(item.trashed).c_str()), 0);
     const CleanRecord later = clean({entry(home.file("two/same"))});
     ASSERT_EQ(later.items.front().trashed, item.trashed);
-    EXPECT_EQ(Cleaner::restore(cleaned).failed, 1);
+    EXPECT_EQ(Cleaner::restore(cleaned).failures,
+              (std::vector<CleanFailure>{{home.path("one/same"), FailureReason::replaced}}));
     EXPECT_FALSE(TempHome::exists(home.path("one/same")));
 
-    // The same place again, long after: only the date tells the two apart.
-    cleaned.items.front().original = home.path("two/same");
-    cleaned.date -= std::chrono::hours(3);
-    EXPECT_EQ(Cleaner::restore(cleaned).failed, 1);
     EXPECT_EQ(Cleaner::restore(later).restored, 1);
+}
+
+TEST_F(CleanerTest, onlyWhatWasShownMoves)
+{
+    struct Case {
+        const char* name;
+        FailureReason reason;
+        std::function<FileEntry()> shown;
+        std::function<void()> then;
+    };
+    const std::string path = home.path("it");
+    const std::string kept = home.path("kept");
+    const auto file = [&] { return seen(home.file("it", "shown")); };
+    const auto folder = [&] { return home.file("it/a"), seen(path); };
+    const auto copy = [&] { return copyOf(home.file("it", "same"), home.file("kept", "same")); };
+    UniqueFd writer;
+    const Case cases[] = {
+        {"written to", FailureReason::changed, file, [&] { (void)home.file("it", "writ!"); }},
+        {"another file of the same length", FailureReason::changed, file,
+         [&] { (void)std::rename(home.file("other", "other").c_str(), path.c_str()); }},
+        {"a folder in place of a file", FailureReason::changed, file,
+         [&] { (void)std::remove(path.c_str()), (void)home.folder("it"); }},
+        {"another folder", FailureReason::changed, folder,
+         [&] { (void)std::rename(path.c_str(), home.path("aside").c_str()), (void)home.file("it/mine"); }},
+        {"open for writing", FailureReason::inUse, file,
+         [&] { writer = UniqueFd(::open(path.c_str(), O_WRONLY | O_CLOEXEC)); }},
+        {"a copy whose kept one is gone", FailureReason::changed, copy,
+         [&] { (void)std::remove(kept.c_str()); }},
+        {"a copy whose kept one was written to", FailureReason::changed, copy,
+         [&] { (void)home.file("kept", "new!"); }},
+        {"gone", FailureReason::missing, file, [&] { (void)std::remove(path.c_str()); }},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const FileEntry shown = c.shown();
+        c.then();
+        EXPECT_THAT(clean({shown}).items, IsEmpty());
+        EXPECT_EQ(failures, (std::vector<CleanFailure>{{path, c.reason}}));
+        EXPECT_EQ(TempHome::exists(path), c.reason != FailureReason::missing);
+        EXPECT_THAT(sortedNames(home.path(".local/share/Trash/info")), IsEmpty());
+        writer.reset();
+        std::filesystem::remove_all(path);
+        std::filesystem::remove_all(home.path("aside"));
+    }
+}
+
+TEST_F(CleanerTest, aCopyStaysWhenTheKeptOneGoesToo)
+{
+    const FileEntry copy = copyOf(home.file("a/copy"), home.file("b/kept"));
+    EXPECT_THAT(originals(clean({copy, seen(home.path("b"))})), ElementsAre(home.path("b")));
+    EXPECT_TRUE(TempHome::exists(home.path("a/copy")));
+}
+
+TEST_F(CleanerTest, theOtherNamesOfAMovedFileAreNotTakenForChanged)
+{
+    const std::string first = home.file("first");
+    const std::string second = home.path("second");
+    const std::string kept = home.path("kept");
+    ASSERT_EQ(::link(first.c_str(), second.c_str()) + ::link(first.c_str(), kept.c_str()), 0);
+    const FileEntry copy = copyOf(home.file("third"), kept);
+    EXPECT_EQ(clean({seen(first), seen(second), copy}).failed, 0);
+}
+
+TEST_F(CleanerTest, whoeverTravelsCanStillRestore)
+{
+    TempHome::setVariable("TZ", "Asia/Tokyo");
+    ::tzset();
+    const CleanRecord cleaned = clean({entry(home.file("a"))});
+    TempHome::setVariable("TZ", "America/Los_Angeles");
+    ::tzset();
+    EXPECT_EQ(Cleaner::restore(cleaned).restored, 1);
 }
 
 TEST_F(CleanerTest, noticesWhatBecameProtectedSinceTheClean)

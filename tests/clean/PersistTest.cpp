@@ -46,7 +46,7 @@ TEST_F(PersistTest, theFolderFollowsTheDataFolder)
 {
     TempHome::setVariable("XDG_DATA_HOME", home.path("my-data"));
     TempHome::reloadPlaces();
-    Persist::saveHistory({record("A")});
+    (void)Persist::saveHistory({record("A")});
     EXPECT_TRUE(TempHome::exists(home.path("my-data/Orlen/history.json")));
 }
 
@@ -55,8 +55,8 @@ TEST_F(PersistTest, listsComeBackInTheirOrderAndLeaveNothingBeside)
     const std::vector<CleanRecord> history{record("new"), record("old")};
     const std::vector<Snapshot> snapshots{{history[0].date, 1, 2, {{"apps", 1}}},
                                           {history[1].date, 3, 4, {}}};
-    Persist::saveHistory({});
-    Persist::saveHistory(history);
+    (void)Persist::saveHistory({});
+    (void)Persist::saveHistory(history);
     Persist::saveSnapshots(snapshots);
     EXPECT_EQ(Persist::loadHistory(), history);
     EXPECT_EQ(Persist::loadSnapshots(), snapshots);
@@ -87,7 +87,7 @@ TEST_F(PersistTest, aBadFileLoadsAsEmptyAndIsLeftAloneUntilTheNextSave)
         const bool wasThere = TempHome::exists(file);
         EXPECT_THAT(Persist::loadHistory(), IsEmpty());
         EXPECT_EQ(TempHome::exists(file), wasThere);
-        Persist::saveHistory({record("A")});
+        (void)Persist::saveHistory({record("A")});
         EXPECT_EQ(Persist::loadHistory().size(), 1U);
         ASSERT_EQ(std::remove(file.c_str()), 0);
     }
@@ -96,9 +96,9 @@ TEST_F(PersistTest, aBadFileLoadsAsEmptyAndIsLeftAloneUntilTheNextSave)
 
 TEST_F(PersistTest, aFailedSaveKeepsTheOldFile)
 {
-    Persist::saveHistory({record("A")});
+    (void)Persist::saveHistory({record("A")});
     TempHome::setMode(folder, 0500);
-    Persist::saveHistory({});
+    (void)Persist::saveHistory({});
     EXPECT_EQ(Persist::loadHistory().size(), 1U);
     TempHome::setMode(folder, 0700);
     EXPECT_THAT(listNames(folder), ElementsAre("history.json"));
@@ -107,7 +107,7 @@ TEST_F(PersistTest, aFailedSaveKeepsTheOldFile)
 TEST_F(PersistTest, aFolderThatCannotBeMadeIsNoError)
 {
     (void)home.file(".local/share", "in the way");
-    Persist::saveHistory({record("A")});
+    (void)Persist::saveHistory({record("A")});
     EXPECT_THAT(Persist::loadHistory(), IsEmpty());
 }
 
@@ -115,7 +115,7 @@ TEST_F(PersistTest, aNameThatIsNotTextDoesNotCostTheWholeHistory)
 {
     CleanRecord odd = record("A");
     odd.items.front().trashed = "/t/\xFF";
-    Persist::saveHistory({odd, record("B")});
+    (void)Persist::saveHistory({odd, record("B")});
     const auto history = Persist::loadHistory();
     ASSERT_EQ(history.size(), 2U);
     EXPECT_EQ(history[0].items.front().trashed, "/t/\xEF\xBF\xBD");

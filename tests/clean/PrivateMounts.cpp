@@ -72,6 +72,15 @@ bool PrivateMounts::bind(const std::string& source, const std::string& target)
     return true;
 }
 
+bool PrivateMounts::memory(std::size_t bytes, const std::string& target)
+{
+    const std::string options = "mode=0700,size=" + std::to_string(bytes);
+    if (::mount("tmpfs", target.c_str(), "tmpfs", 0, options.c_str()) != 0)
+        return false;
+    m_targets.push_back(target);
+    return true;
+}
+
 bool PrivateMounts::disk(const std::string& image, const std::string& target)
 {
     if (runCommand({"truncate", "-s", "8M", image}).status != 0 ||

@@ -19,6 +19,8 @@ public:
 
     /// Shows the folder `source` at `target`, as a mount of its own. Both must exist.
     [[nodiscard]] bool bind(const std::string& source, const std::string& target);
+    /// Mounts a file system in memory of so many bytes.
+    [[nodiscard]] bool memory(std::size_t bytes, const std::string& target);
     /// Mounts a fresh ext4 file system from the image file `image`, which is made.
     [[nodiscard]] bool disk(const std::string& image, const std::string& target);
 

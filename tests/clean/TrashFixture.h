@@ -23,7 +23,8 @@ protected:
         return moved.ok() ? moved.value() : std::string();
     }
 
-    static TimePoint now() { return std::chrono::system_clock::now(); }
+    /// Of a clean-up that has just finished and noted no file numbers.
+    static Trash::Recognition now() { return {std::nullopt, std::chrono::system_clock::now()}; }
 
     [[nodiscard]] std::string files() const { return trash + "/files"; }
     [[nodiscard]] std::string info() const { return trash + "/info"; }

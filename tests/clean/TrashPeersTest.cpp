@@ -27,7 +27,7 @@ protected:
         for (const std::string& path : paths)
             entries.push_back({home.file(path, path), 4096, {}, {}, {}, {}});
         entries.push_back({home.folder("a folder"), 4096, {}, {}, {}, {}});
-        const CleanRecord record = Cleaner::run(entries, "Peers", [](int, int, const std::string&) {});
+        const CleanRecord record = Cleaner::run(entries, "Peers", [](int, int, const std::string&) {}).record;
         ASSERT_EQ(record.failed, 0);
     }
 

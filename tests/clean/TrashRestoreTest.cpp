@@ -13,7 +13,6 @@ namespace {
 
 using namespace TrashProbe;
 using std::chrono::hours;
-using std::chrono::seconds;
 using testing::ElementsAre;
 
 class TrashRestoreTest : public TrashFixture {};
@@ -23,38 +22,52 @@ class TrashRestoreTest : public TrashFixture {};
 TEST_F(TrashRestoreTest, refusesAnItemThatTheNameNoLongerStandsFor)
 {
     const std::string path = home.path("a");
-    // The zone of the tests' machine must not matter: the date is what this process writes itself.
     const std::string in = trashed(home.file("a"));
-    const auto deleted = TrashInfo::parse(TempHome::content(infoFile(in)))->deleted;
-    ASSERT_TRUE(deleted.has_value());
+    const LastingIdentity own = statusOf(in).value().lasting();
+    const LastingIdentity other{own.number + 1, own.born};
+    const TimePoint moved = std::chrono::system_clock::now();
     struct Case {
         const char* name;
-        std::string info;
-        TimePoint cleaned;
+        std::optional<std::string> infoText; ///< nothing: the info file is gone
+        Trash::Recognition recognition;
         int error;
     };
-    const auto dated = [&](TimePoint time) { return TrashInfo::text(path, time); };
+    const LastingIdentity reborn{own.number, moved + hours(1)};
+    const std::string info = TrashInfo::text(path, moved);
     const Case cases[] = {
-        {"two hours later", dated(*deleted + hours(2)), *deleted, 0},
-        {"a second more", dated(*deleted + hours(2) + seconds(1)), *deleted, ESTALE},
-        {"long before", dated(*deleted - hours(9000)), *deleted, 0},
-        {"from another place", TrashInfo::text(home.path("b"), *deleted), *deleted, ESTALE},
-        {"without a date", "[Trash Info]\nPath=" + path + "\n", *deleted, ESTALE},
-        {"with an impossible date", infoText(path, "2025-13-01T00:00:00"), *deleted, ESTALE},
-        {"empty", "", *deleted, ESTALE},
+        {"its number", info, {own, moved}, 0},
+        {"its number, long ago", info, {own, moved - hours(9000)}, 0},
+        {"its number, the info file in another zone",
+         TrashInfo::text(path, moved + hours(14)),
+         {own, moved},
+         0},
+        {"its number without an info file", std::nullopt, {own, moved}, 0},
+        {"another number", info, {other, moved}, ESTALE},
+        {"a new file of its number", info, {reborn, moved}, ESTALE},
+        {"another number without an info file", std::nullopt, {other, moved}, ESTALE},
+        {"its number, from another place", TrashInfo::text(home.path("b"), moved), {own, moved}, ESTALE},
+        {"its number, an illegible info file", "", {own, moved}, ESTALE},
+        {"no number, in time", info, {std::nullopt, moved + hours(1)}, 0},
+        {"no number, moved after the clean-up", info, {std::nullopt, moved - hours(1)}, ESTALE},
+        {"no number and no date in the file",
+         "[Trash Info]\nPath=" + path + "\n",
+         {std::nullopt, moved + hours(1)},
+         0},
+        {"no number and no info file", std::nullopt, {std::nullopt, moved + hours(1)}, 0},
+        {"the same, moved after the clean-up", std::nullopt, {std::nullopt, moved - hours(1)}, ESTALE},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        (void)home.file(infoFile(in), c.info);
-        EXPECT_EQ(Trash::moveBack(in, path, c.cleaned).error(), c.error);
+        (void)std::remove(infoFile(in).c_str());
+        if (c.infoText)
+            (void)home.file(infoFile(in), *c.infoText);
+        EXPECT_EQ(Trash::moveBack(in, path, c.recognition).error(), c.error);
         EXPECT_EQ(TempHome::exists(path), c.error == 0);
-        EXPECT_EQ(TempHome::exists(infoFile(in)), c.error != 0);
+        EXPECT_EQ(TempHome::exists(infoFile(in)), c.error != 0 && c.infoText);
         if (c.error == 0) {
             ASSERT_EQ(std::rename(path.c_str(), in.c_str()), 0);
         }
     }
-    ASSERT_EQ(std::remove(infoFile(in).c_str()), 0);
-    EXPECT_TRUE(Trash::moveBack(in, path, *deleted).ok()) << "no info file speaks against it";
 }
 
 TEST_F(TrashRestoreTest, refusesATakenOrUnsafePlace)

@@ -30,7 +30,7 @@ protected:
             GTEST_SKIP() << "the temporary folder's file system counts as foreign";
     }
 
-    static TimePoint now() { return std::chrono::system_clock::now(); }
+    static Trash::Recognition now() { return {std::nullopt, std::chrono::system_clock::now()}; }
 
     TempHome home;
     PrivateMounts mounts;
@@ -81,7 +81,7 @@ TEST_F(TrashVolumeTest, nothingIsCopiedBackAcrossVolumes)
     const auto in = Trash::moveIn(home.file("disk/a"));
     ASSERT_TRUE(in.ok());
     // A record that names another place, with an info file that agrees.
-    (void)home.file(infoFile(in.value()), TrashInfo::text(home.path("a"), now()));
+    (void)home.file(infoFile(in.value()), TrashInfo::text(home.path("a"), now().noLaterThan));
     EXPECT_EQ(Trash::moveBack(in.value(), home.path("a"), now()).error(), EXDEV);
     EXPECT_TRUE(TempHome::exists(in.value()) && TempHome::exists(infoFile(in.value())));
 }

@@ -53,6 +53,14 @@ Json steps(const ScanProgress& progress)
     return array;
 }
 
+Json failures(const std::vector<CleanFailure>& stayed)
+{
+    Json array = Json::array();
+    for (const CleanFailure& failure : stayed)
+        array.push_back({{"path", failure.path}, {"reason", orlen::rawValue(failure.reason)}});
+    return array;
+}
+
 } // namespace
 
 Json finding(const Finding& finding)
@@ -119,9 +127,12 @@ Json dryRun(const CleanPlan& shown)
     return {{"plan", plan(shown)}};
 }
 
-Json clean(const CleanPlan& carriedOut, const CleanRecord& record)
+Json clean(const CleanPlan& carriedOut, const CleanRecord& record, const std::vector<CleanFailure>& stayed)
 {
-    return {{"plan", plan(carriedOut)}, {"record", RecordJson::encode(record)}, {"freed", record.freed()}};
+    return {{"plan", plan(carriedOut)},
+            {"record", RecordJson::encode(record)},
+            {"freed", record.freed()},
+            {"failures", failures(stayed)}};
 }
 
 Json history(const std::vector<CleanRecord>& history)
@@ -140,7 +151,8 @@ Json restore(const Cleaner::Restored& outcome, const std::string& message)
     return {{"record", RecordJson::encode(outcome.record)},
             {"restored", outcome.restored},
             {"failed", outcome.failed},
-            {"message", message}};
+            {"message", message},
+            {"failures", failures(outcome.failures)}};
 }
 
 Json prediction(const Prediction& prediction, std::size_t snapshots)

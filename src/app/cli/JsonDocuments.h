@@ -36,7 +36,8 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json scan(const AppModel& model, Seconds duration);
 /// Of a plan that was only shown.
 [[nodiscard]] Json dryRun(const CleanPlan& plan);
-[[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record);
+[[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record,
+                         const std::vector<CleanFailure>& failures);
 [[nodiscard]] Json history(const std::vector<CleanRecord>& history);
 [[nodiscard]] Json restore(const Cleaner::Restored& outcome, const std::string& message);
 [[nodiscard]] Json answer(const Answer& answer);

@@ -1,6 +1,7 @@
 #include "app/cli/PlanCarrier.h"
 
 #include "app/AppModel.h"
+#include "app/cli/FailureList.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Texts.h"
 #include "model/ByteCount.h"
@@ -35,7 +36,7 @@ std::string status(const AppModel& model)
 }
 
 /// The clean-up itself. Ctrl-C lets it finish the item in hand; the record tells what was moved by then.
-CleanRecord moved(Session& session, AppModel& model, const CleanPlan& plan)
+PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
 {
     std::optional<CleanRecord> record;
     const auto heard = QObject::connect(&model, &AppModel::cleaningFinished, &model,
@@ -44,7 +45,8 @@ CleanRecord moved(Session& session, AppModel& model, const CleanPlan& plan)
     session.run({[&] { return record.has_value(); }, [&] { model.cancelCleaning(); },
                  [&] { return status(model); }, Session::Work::Nature::moving});
     QObject::disconnect(heard);
-    return *record;
+    // The display of the clean-up stays until it is dismissed.
+    return {*std::move(record), *model.cleaning()};
 }
 
 std::string outcome(const CleanRecord& record)
@@ -64,30 +66,35 @@ ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanP
 {
     const ItemList list = ItemList::toClean(plan, beside);
     if (list.isEmpty()) {
-        printOutcome(plan, {Uuid::random(), std::chrono::system_clock::now(), plan.title, {}, 0});
+        printOutcome(session, plan,
+                     {{Uuid::random(), std::chrono::system_clock::now(), plan.title, {}, 0}, {}});
         return ExitStatus::done;
     }
     list.show(session);
     if (const auto refused =
             Confirmation::refusal(session, asking, "Move " + list.summary() + " to the Trash?"))
         return *refused;
-    const CleanRecord record = moved(session, model, plan);
-    printOutcome(plan, record);
+    const Outcome carriedOut = moved(session, model, plan);
+    printOutcome(session, plan, carriedOut);
+    if (!carriedOut.end.isRecorded)
+        session.complain(Texts::kNotRecorded);
     if (session.isInterrupted()) {
         session.complain(Texts::kCancelledCleaning);
         return ExitStatus::interrupted;
     }
-    return record.failed > 0 ? ExitStatus::someFailed : ExitStatus::done;
+    return carriedOut.record.failed > 0 || !carriedOut.end.isRecorded ? ExitStatus::someFailed
+                                                                      : ExitStatus::done;
 }
 
-void PlanCarrier::printOutcome(const CleanPlan& plan, const CleanRecord& record) const
+void PlanCarrier::printOutcome(Session& session, const CleanPlan& plan, const Outcome& carriedOut) const
 {
     if (beside == ItemList::Beside::document)
-        Session::printDocument(JsonDocuments::clean(plan, record));
+        Session::printDocument(JsonDocuments::clean(plan, carriedOut.record, carriedOut.end.failures));
     else if (plan.sections.empty())
         Session::print(std::string(Texts::kNothingToClean) + '\n');
     else
-        Session::print(outcome(record));
+        Session::print(outcome(carriedOut.record));
+    FailureList::show(session, carriedOut.end.failures, carriedOut.end.refusal, Texts::kNotBegun);
 }
 
 } // namespace orlen

@@ -3,7 +3,8 @@
 #include "app/cli/Confirmation.h"
 #include "app/cli/ItemList.h"
 #include "app/cli/Session.h"
-#include "model/CleanPlan.h"
+#include "clean/CleanRecord.h"
+#include "model/ModelState.h"
 
 namespace orlen {
 
@@ -18,8 +19,13 @@ struct PlanCarrier {
 
     [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan) const;
 
+    struct Outcome {
+        CleanRecord record;
+        CleaningState end; ///< as the model showed it last
+    };
+
 private:
-    void printOutcome(const CleanPlan& plan, const CleanRecord& record) const;
+    void printOutcome(Session& session, const CleanPlan& plan, const Outcome& carriedOut) const;
 };
 
 } // namespace orlen

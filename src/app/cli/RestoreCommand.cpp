@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 #include "app/cli/Command.h"
 #include "app/cli/Confirmation.h"
+#include "app/cli/FailureList.h"
 #include "app/cli/ItemList.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Texts.h"
@@ -59,7 +60,7 @@ public:
         }
         if (const auto refused = refusal(session, records.front()))
             return *refused;
-        return restored(model, records.front());
+        return restored(session, model, records.front());
     }
 
 private:
@@ -74,14 +75,18 @@ private:
         return Confirmation::refusal(session, asking, "Put back " + list.summary() + '?');
     }
 
-    [[nodiscard]] ExitStatus restored(AppModel& model, const CleanRecord& record)
+    [[nodiscard]] ExitStatus restored(Session& session, AppModel& model, const CleanRecord& record)
     {
         const AppModel::Restoration restoration = model.restore(record);
         if (wantsJson())
             Session::printDocument(JsonDocuments::restore(restoration.outcome, restoration.message));
         else
             Session::print(restoration.message + '\n');
-        return restoration.outcome.failed > 0 ? ExitStatus::someFailed : ExitStatus::done;
+        const Cleaner::Restored& outcome = restoration.outcome;
+        FailureList::show(session, outcome.failures, outcome.refusal, Texts::kRestoreNotBegun);
+        if (!restoration.isRecorded)
+            session.complain(Texts::kNotRecorded);
+        return outcome.failed > 0 || !restoration.isRecorded ? ExitStatus::someFailed : ExitStatus::done;
     }
 
     std::string m_id;

@@ -41,6 +41,12 @@ inline constexpr std::string_view kCancelled = "cancelled.";
 inline constexpr std::string_view kCancelledCleaning = "cancelled; what had been moved is in the history.";
 inline constexpr std::string_view kNothingDeleted =
     "Nothing was deleted. The space comes back when you empty the Trash.";
+inline constexpr std::string_view kNotRecorded =
+    "the history could not be saved; the next start of Orlen finishes it from what lies in the Trash.";
+inline constexpr std::string_view kNotBegun =
+    "the clean-up was not begun, since it could not be written down: ";
+inline constexpr std::string_view kRestoreNotBegun =
+    "nothing was put back, since it could not be written down: ";
 inline constexpr std::string_view kTrashIsKept = "what lies in the Trash is shown, but never moved again.";
 inline constexpr std::string_view kNoDuplicates = "No duplicate files were found.";
 inline constexpr std::string_view kNoPhotos = "No photos to review were found.";

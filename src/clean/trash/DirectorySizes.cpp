@@ -15,6 +15,8 @@ namespace orlen::DirectorySizes {
 namespace {
 
 constexpr const char* kFile = "directorysizes";
+/// What the file is called with a random identity behind it until it is whole.
+constexpr std::string_view kBeside = "directorysizes.";
 constexpr std::size_t kLimit = 16'000'000;
 
 /// The file's text, empty when there is no file; nothing when it must be left alone.
@@ -62,7 +64,7 @@ std::string current(std::string_view text, int info, std::string_view leftOut)
 
 void write(int trash, std::string_view text)
 {
-    const std::string beside = std::string(kFile) + "." + Uuid::random().text();
+    const std::string beside = std::string(kBeside) + Uuid::random().text();
     const auto file = createFileAt(trash, beside.c_str());
     if (!file.ok())
         return;
@@ -72,6 +74,11 @@ void write(int trash, std::string_view text)
 }
 
 } // namespace
+
+bool isUnfinished(std::string_view name)
+{
+    return name.starts_with(kBeside) && Uuid::parse(name.substr(kBeside.size()));
+}
 
 void add(int trash, int info, std::string_view name, std::int64_t bytes, TimePoint infoTime)
 {

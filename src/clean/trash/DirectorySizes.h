@@ -17,4 +17,7 @@ void add(int trash, int info, std::string_view name, std::int64_t bytes, TimePoi
 /// After the info file of `name` was removed; nothing is written when no line is stale.
 void remove(int trash, int info, std::string_view name);
 
+/// Whether a name in a Trash is that of a rewriting that did not come to its end.
+[[nodiscard]] bool isUnfinished(std::string_view name);
+
 } // namespace orlen::DirectorySizes

@@ -1,21 +1,25 @@
 #include "clean/trash/Trash.h"
 
+#include "clean/Reserve.h"
 #include "clean/trash/RealPath.h"
 #include "clean/trash/TrashFolder.h"
 #include "clean/trash/VolumeTrash.h"
+#include "platform/FileStatus.h"
 #include "platform/Folder.h"
+#include "platform/FolderEntries.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <set>
 
 namespace orlen::Trash {
 
 namespace {
 
-/// Info files tell local time, which goes back by an hour or two when the clocks change or somebody travels.
-constexpr std::chrono::hours kClockSlack{2};
+/// Records tell whole seconds, cut towards the past, and file systems keep their own clock.
+constexpr std::chrono::seconds kClockSlack{2};
 
 std::vector<std::string> homeTrashes()
 {
@@ -68,27 +72,85 @@ Result<Location> locate(const std::string& trashed)
     return Location{std::move(opened).value(), std::string(PathText::lastComponent(path))};
 }
 
-/// Whether the item under this name is the one that was moved there: its info file tells the place and no
-/// later time. Without an info file there is nothing that speaks against it.
+/// Whether the item under this name is the one that was moved there. The date in its info file is local time
+/// and means nothing to somebody who has travelled since: the file system's own times do.
 bool isSameItem(const Location& item, const std::string& original, const RealPath& real,
-                TimePoint noLaterThan)
+                const Trash::Recognition& recognition)
 {
-    if (!item.trash.hasInfo(item.name))
-        return true;
-    const auto info = item.trash.infoOf(item.name);
-    if (!info || !info->deleted || *info->deleted > noLaterThan + kClockSlack)
+    const auto found = item.trash.statusOfItem(item.name);
+    if (!found.ok())
         return false;
-    return info->path == PathText::standardized(original) || info->path == real.text();
+    if (item.trash.hasInfo(item.name)) {
+        const auto info = item.trash.infoOf(item.name);
+        if (!info || (info->path != PathText::standardized(original) && info->path != real.text()))
+            return false;
+    }
+    if (recognition.identity)
+        return found.value().lasting() == *recognition.identity;
+    // Whoever takes the name later also writes the info file later; without one, the move itself is dated.
+    const TimePoint moved = item.trash.infoTime(item.name).value_or(found.value().changed);
+    return moved <= recognition.noLaterThan + kClockSlack;
 }
 
+/// In whatever room is left, and then in the room that the program keeps back for this.
 Result<std::string> moveInto(const TrashFolder& trash, const TrashFolder::Incoming& entry)
 {
-    return trash.moveIn(entry, std::chrono::system_clock::now());
+    return Reserve::withRoom(Reserve::Use::items,
+                             [&] { return trash.moveIn(entry, std::chrono::system_clock::now()); });
+}
+
+/// The items whose places an info file may name: by their own path, or by the one their folders really lead
+/// to.
+std::string placeNamedBy(const TrashInfo& info, const std::map<std::string, Trash::Sought>& items)
+{
+    if (items.contains(info.path))
+        return info.path;
+    for (const auto& [path, item] : items) {
+        if (PathText::lastComponent(path) == PathText::lastComponent(info.path) &&
+            PathText::join(resolved(std::string(PathText::parent(path))), PathText::lastComponent(path)) ==
+                info.path)
+            return path;
+    }
+    return {};
+}
+
+void findIn(const Result<TrashFolder>& trash, std::map<std::string, Trash::Sought>& items, TimePoint begun)
+{
+    if (!trash.ok())
+        return;
+    trash.value().removeUnfinishedSizes();
+    for (const std::string& name : trash.value().namesWithInfo()) {
+        const auto info = trash.value().infoOf(name);
+        // The kill may have come between the making of the file and the writing of its text.
+        if (!info && trash.value().infoTime(name) >= begun - kClockSlack)
+            trash.value().removeEmptyInfo(name);
+        const auto item = info ? items.find(placeNamedBy(*info, items)) : items.end();
+        if (item == items.end())
+            continue;
+        const auto status = trash.value().statusOfItem(name);
+        if (status.error() == ENOENT)
+            trash.value().removeInfoWithoutItem(name);
+        else if (status.ok() && status.value().lasting() == item->second.identity)
+            item->second.found = Trash::Sought::Found{trash.value().pathOf(name),
+                                                      trash.value().infoTime(name).value_or(TimePoint())};
+    }
+}
+
+Result<TrashFolder> openHome()
+{
+    auto home = Reserve::withRoom(Reserve::Use::items, [] {
+        return TrashFolder::open(Trash::homeFolder(), TrashFolder::Missing::make);
+    });
+    // Somebody else's Trash, or something that is no folder: there is none that can be used.
+    if (home.error() == EPERM || home.error() == ENOTDIR)
+        return Errno{EXDEV};
+    return home;
 }
 
 } // namespace
 
-Result<std::string> moveIn(const std::string& path, std::optional<std::int64_t> bytes)
+Result<std::string> moveIn(const std::string& path, std::optional<std::int64_t> bytes,
+                           const std::optional<FileStamp>& stamp)
 {
     const auto real = RealPath::of(path);
     if (!real.ok())
@@ -102,22 +164,22 @@ Result<std::string> moveIn(const std::string& path, std::optional<std::int64_t> 
     const auto folder = real.value().openParent();
     if (!folder.ok())
         return Errno{folder.error()};
-    const TrashFolder::Incoming entry{folder.value().get(), real.value().name, standard, real.value().text(),
-                                      bytes};
+    const TrashFolder::Incoming entry{
+        folder.value().get(), real.value().name, standard, real.value().text(), bytes, stamp};
     if (const auto found = statusAt(entry.folder, entry.name.c_str()); !found.ok())
         return Errno{found.error()};
 
-    const auto home = TrashFolder::open(homeFolder(), TrashFolder::Missing::make);
+    const auto home = openHome();
     if (!home.ok())
         return Errno{home.error()};
     auto moved = moveInto(home.value(), entry);
     if (moved.ok() || moved.error() != EXDEV)
         return moved;
-    const auto volume = VolumeTrash::open(entry.folder, real.value().folder);
+    const auto volume = VolumeTrash::open(entry.folder, real.value().folder, TrashFolder::Missing::make);
     return volume.ok() ? moveInto(volume.value(), entry) : Result<std::string>(Errno{volume.error()});
 }
 
-Result<void> moveBack(const std::string& trashed, const std::string& original, TimePoint trashedNoLaterThan)
+Result<void> moveBack(const std::string& trashed, const std::string& original, const Recognition& recognition)
 {
     const auto item = locate(trashed);
     if (!item.ok())
@@ -128,12 +190,57 @@ Result<void> moveBack(const std::string& trashed, const std::string& original, T
     const auto real = RealPath::of(original);
     if (!real.ok())
         return Errno{real.error()};
-    if (!isSameItem(item.value(), original, real.value(), trashedNoLaterThan))
+    if (!isSameItem(item.value(), original, real.value(), recognition))
         return Errno{ESTALE};
-    const auto folder = real.value().openOrMakeParent();
+    const auto folder =
+        Reserve::withRoom(Reserve::Use::items, [&] { return real.value().openOrMakeParent(); });
     if (!folder.ok())
         return Errno{folder.error()};
-    return trash.moveOut(name, folder.value().get(), real.value().name);
+    auto moved = Reserve::withRoom(Reserve::Use::items, [&, &trash = trash, &name = name] {
+        return trash.moveOut(name, folder.value().get(), real.value().name);
+    });
+    return moved.error() == EPERM ? Result<void>(Errno{EACCES}) : moved;
+}
+
+std::optional<LastingIdentity> identityOf(const std::string& trashed)
+{
+    const auto item = locate(trashed);
+    if (!item.ok())
+        return std::nullopt;
+    const auto found = item.value().trash.statusOfItem(item.value().name);
+    return found.ok() ? std::optional(found.value().lasting()) : std::nullopt;
+}
+
+void find(std::map<std::string, Sought>& items, TimePoint begun)
+{
+    findIn(TrashFolder::open(homeFolder(), TrashFolder::Missing::refuse), items, begun);
+    std::set<std::string> folders;
+    for (const auto& [path, item] : items) {
+        if (!item.found && !exists(path))
+            folders.emplace(PathText::parent(path));
+    }
+    std::set<std::string> looked;
+    for (const std::string& path : folders) {
+        const auto real = RealPath::of(PathText::join(path, "item"));
+        const auto folder =
+            real.ok() ? openUnlinkedFolder(real.value().folder) : Result<UniqueFd>(Errno{ENOENT});
+        if (!folder.ok())
+            continue;
+        auto volume =
+            VolumeTrash::open(folder.value().get(), real.value().folder, TrashFolder::Missing::refuse);
+        if (volume.ok() && looked.insert(volume.value().pathOf("")).second)
+            findIn(volume, items, begun);
+    }
+}
+
+void forget(const std::string& trashed, const std::string& original)
+{
+    const auto item = locate(trashed);
+    if (!item.ok())
+        return;
+    const auto info = item.value().trash.infoOf(item.value().name);
+    if (info && info->path == PathText::standardized(original))
+        item.value().trash.removeInfoWithoutItem(item.value().name);
 }
 
 std::string originalPath(const std::string& trashed)

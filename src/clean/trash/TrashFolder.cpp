@@ -3,6 +3,7 @@
 #include "clean/trash/DirectorySizes.h"
 #include "clean/trash/TrashName.h"
 #include "platform/FileContent.h"
+#include "platform/FileLease.h"
 #include "platform/Folder.h"
 #include "platform/FolderEntries.h"
 #include "platform/PathText.h"
@@ -30,6 +31,20 @@ std::string topOf(std::string_view trash)
         return std::string(PathText::parent(trash));
     const std::string_view above = PathText::parent(trash);
     return PathText::lastComponent(above) == ".Trash" ? std::string(PathText::parent(above)) : std::string();
+}
+
+/// Whether the entry is still what was shown, as far as that is known.
+bool isAsShown(const TrashFolder::Incoming& entry, const FileStatus& status)
+{
+    return !entry.stamp || *entry.stamp == FileStamp::of(status);
+}
+
+/// Keeps writers off a file while it moves; a folder's contents move with it as they are.
+Result<FileLease> leaseOf(const TrashFolder::Incoming& entry, const FileStatus& status)
+{
+    if (status.type != FileType::regular)
+        return FileLease::none();
+    return FileLease::take(entry.folder, entry.name.c_str());
 }
 
 bool climbs(std::string_view path)
@@ -138,6 +153,12 @@ Result<std::string> TrashFolder::moveIn(const Incoming& entry, TimePoint now) co
     // No rename crosses mounts; knowing it first spares an info file that would flash up in other programs.
     if (folder.value().mount != m_filesStatus.mount)
         return Errno{EXDEV};
+    const auto before = statusAt(entry.folder, entry.name.c_str());
+    if (!before.ok())
+        return Errno{before.error()};
+    const auto lease = leaseOf(entry, before.value());
+    if (!lease.ok())
+        return Errno{lease.error()};
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         const std::string name = TrashName::candidate(entry.name, attempt);
         // An item whose info file was lost still has its name.
@@ -145,7 +166,7 @@ Result<std::string> TrashFolder::moveIn(const Incoming& entry, TimePoint now) co
             continue;
         const auto moved = moveAs(name, entry, now);
         if (moved.ok())
-            return PathText::join(PathText::join(m_path, kFiles), name);
+            return pathOf(name);
         if (moved.error() != EEXIST)
             return Errno{moved.error()};
     }
@@ -157,6 +178,8 @@ Result<void> TrashFolder::moveAs(const std::string& name, const Incoming& entry,
     const auto before = statusAt(entry.folder, entry.name.c_str());
     if (!before.ok())
         return Errno{before.error()};
+    if (!isAsShown(entry, before.value()))
+        return Errno{ESTALE};
     const std::string infoName = TrashName::infoName(name);
     const auto info = createFileAt(m_info.get(), infoName.c_str());
     if (!info.ok())
@@ -166,12 +189,9 @@ Result<void> TrashFolder::moveAs(const std::string& name, const Incoming& entry,
     if (done.ok())
         done = syncFile(file);
     if (done.ok() && !isStillNamed())
-        done = Errno{ESTALE};
-    if (done.ok()) {
-        done = renameNoReplaceAt(entry.folder, entry.name.c_str(), m_files.get(), name.c_str());
-        if (!done.ok() && hasMoved(entry, before.value().identity, m_files.get(), name))
-            done = {};
-    }
+        done = Errno{EAGAIN};
+    if (done.ok())
+        done = renameIn(name, entry, before.value());
     if (!done.ok()) {
         takeBack(m_info.get(), infoName, file);
         return done;
@@ -179,6 +199,30 @@ Result<void> TrashFolder::moveAs(const std::string& name, const Incoming& entry,
     if (const auto written = statusOfOpen(file); written.ok() && before.value().type == FileType::folder)
         noteSize(name, entry, written.value().modified);
     return {};
+}
+
+/// The rename itself, of nothing but what was looked at before.
+Result<void> TrashFolder::renameIn(const std::string& name, const Incoming& entry,
+                                   const FileStatus& before) const
+{
+    const auto now = statusAt(entry.folder, entry.name.c_str());
+    if (!now.ok())
+        return Errno{now.error()};
+    if (FileStamp::of(now.value()) != FileStamp::of(before))
+        return Errno{ESTALE};
+    const auto moved = renameNoReplaceAt(entry.folder, entry.name.c_str(), m_files.get(), name.c_str());
+    if (!moved.ok()) {
+        if (hasMoved(entry, before.identity, m_files.get(), name))
+            return {};
+        // EPERM is the word for what the rules forbid.
+        return Errno{moved.error() == EPERM ? EACCES : moved.error()};
+    }
+    const auto arrived = statusAt(m_files.get(), name.c_str());
+    if (!arrived.ok() || arrived.value().identity == before.identity)
+        return {};
+    // Somebody put another entry under the name in the last moment: it goes back to where it was.
+    const auto back = renameNoReplaceAt(m_files.get(), name.c_str(), entry.folder, entry.name.c_str());
+    return back.ok() ? Result<void>(Errno{ESTALE}) : Result<void>();
 }
 
 /// Whether the open folders still have the names under which the item's new path will be told. They have not
@@ -219,6 +263,54 @@ bool TrashFolder::hasInfo(const std::string& name) const
 bool TrashFolder::holds(const std::string& name) const
 {
     return statusAt(m_files.get(), name.c_str()).ok();
+}
+
+Result<FileStatus> TrashFolder::statusOfItem(const std::string& name) const
+{
+    return statusAt(m_files.get(), name.c_str());
+}
+
+std::optional<TimePoint> TrashFolder::infoTime(const std::string& name) const
+{
+    const auto status = statusAt(m_info.get(), TrashName::infoName(name).c_str());
+    return status.ok() ? std::optional(status.value().changed) : std::nullopt;
+}
+
+std::vector<std::string> TrashFolder::namesWithInfo() const
+{
+    const std::string ending = TrashName::infoName("");
+    std::vector<std::string> names;
+    for (const std::string& file : listNames(PathText::join(m_path, kInfo))) {
+        if (file.size() > ending.size() && file.ends_with(ending))
+            names.push_back(file.substr(0, file.size() - ending.size()));
+    }
+    return names;
+}
+
+std::string TrashFolder::pathOf(const std::string& name) const
+{
+    return PathText::join(PathText::join(m_path, kFiles), name);
+}
+
+void TrashFolder::removeInfoWithoutItem(const std::string& name) const
+{
+    if (statusOfItem(name).error() == ENOENT)
+        (void)removeFileAt(m_info.get(), TrashName::infoName(name).c_str());
+}
+
+void TrashFolder::removeEmptyInfo(const std::string& name) const
+{
+    const auto status = statusAt(m_info.get(), TrashName::infoName(name).c_str());
+    if (status.ok() && status.value().length == 0)
+        removeInfoWithoutItem(name);
+}
+
+void TrashFolder::removeUnfinishedSizes() const
+{
+    for (const std::string& name : listNames(m_path)) {
+        if (DirectorySizes::isUnfinished(name))
+            (void)removeFileAt(m_trash.get(), name.c_str());
+    }
 }
 
 Result<void> TrashFolder::moveOut(const std::string& name, int folder, const std::string& newName) const

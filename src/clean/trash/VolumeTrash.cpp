@@ -37,24 +37,26 @@ std::string topFolder(std::string path, const FileStatus& entryFolder)
 
 /// The folder "<name>" in `parent` as a Trash of this volume.
 Result<TrashFolder> adopt(int parent, const std::string& name, const std::string& path,
-                          const FileStatus& volume)
+                          const FileStatus& volume, TrashFolder::Missing missing)
 {
     // An item must stay where the program may find it, and put it back from.
     if (Safety::isProtected(PathText::join(path, "files/item")))
         return Errno{EXDEV};
-    auto trash = openOrMakeFolderAt(parent, name.c_str(), kPrivate);
+    auto trash = missing == TrashFolder::Missing::make ? openOrMakeFolderAt(parent, name.c_str(), kPrivate)
+                                                       : openUnlinkedFolderAt(parent, name.c_str());
     if (!trash.ok())
         return Errno{trash.error()};
     if (const auto status = statusOfOpen(trash.value().get());
         !status.ok() || !isSameVolume(status.value(), volume))
         return Errno{EXDEV};
-    auto opened = TrashFolder::open(std::move(trash).value(), path, TrashFolder::Missing::make);
+    auto opened = TrashFolder::open(std::move(trash).value(), path, missing);
     if (opened.ok() && opened.value().device() != volume.identity.device)
         return Errno{EXDEV};
     return opened;
 }
 
-Result<TrashFolder> openShared(int top, const std::string& topPath, const FileStatus& volume)
+Result<TrashFolder> openShared(int top, const std::string& topPath, const FileStatus& volume,
+                               TrashFolder::Missing missing)
 {
     const auto shared = openUnlinkedFolderAt(top, ".Trash");
     if (!shared.ok())
@@ -63,12 +65,13 @@ Result<TrashFolder> openShared(int top, const std::string& topPath, const FileSt
     if (!status.ok() || (status.value().mode & kSticky) == 0)
         return Errno{EXDEV};
     const std::string name = std::to_string(Places::current().user);
-    return adopt(shared.value().get(), name, PathText::join(PathText::join(topPath, ".Trash"), name), volume);
+    return adopt(shared.value().get(), name, PathText::join(PathText::join(topPath, ".Trash"), name), volume,
+                 missing);
 }
 
 } // namespace
 
-Result<TrashFolder> open(int folder, const std::string& path)
+Result<TrashFolder> open(int folder, const std::string& path, TrashFolder::Missing missing)
 {
     const auto volume = statusOfOpen(folder);
     if (!volume.ok())
@@ -80,10 +83,10 @@ Result<TrashFolder> open(int folder, const std::string& path)
     if (const auto status = statusOfOpen(top.value().get());
         !status.ok() || !isSameVolume(status.value(), volume.value()))
         return Errno{EXDEV};
-    if (auto shared = openShared(top.value().get(), topPath, volume.value()); shared.ok())
+    if (auto shared = openShared(top.value().get(), topPath, volume.value(), missing); shared.ok())
         return shared;
     const std::string name = ".Trash-" + std::to_string(Places::current().user);
-    auto own = adopt(top.value().get(), name, PathText::join(topPath, name), volume.value());
+    auto own = adopt(top.value().get(), name, PathText::join(topPath, name), volume.value(), missing);
     return own.ok() ? std::move(own) : Result<TrashFolder>(Errno{EXDEV});
 }
 

@@ -8,8 +8,8 @@
 namespace orlen::VolumeTrash {
 
 /// The user's Trash on the volume of an entry's folder, which is open as `folder` and has the link-free path
-/// `path`: its place in a ".Trash" that the administrator shares out, else ".Trash-<uid>", made when missing.
-/// EXDEV when neither can be used, or its items would lie where nothing may be touched.
-[[nodiscard]] Result<TrashFolder> open(int folder, const std::string& path);
+/// `path`: its place in a ".Trash" that the administrator shares out, else ".Trash-<uid>", made when missing
+/// if asked for. EXDEV when neither can be used, or its items would lie where nothing may be touched.
+[[nodiscard]] Result<TrashFolder> open(int folder, const std::string& path, TrashFolder::Missing missing);
 
 } // namespace orlen::VolumeTrash

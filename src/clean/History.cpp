@@ -1,0 +1,114 @@
+#include "clean/History.h"
+
+#include "clean/Journal.h"
+#include "clean/Persist.h"
+#include "clean/Recovery.h"
+#include "platform/OwnFile.h"
+
+#include <algorithm>
+
+namespace orlen::History {
+
+namespace {
+
+using Journals::State;
+
+auto recordOf(std::vector<CleanRecord>& history, const Uuid& id)
+{
+    return std::ranges::find(history, id, &CleanRecord::id);
+}
+
+bool isWhollyRestored(const CleanRecord& record)
+{
+    return std::ranges::all_of(record.items, &TrashedItem::restored);
+}
+
+/// Where a record belongs in the list, which is usually its front.
+auto placeOf(std::vector<CleanRecord>& history, TimePoint date)
+{
+    return std::ranges::find_if(history, [&](const CleanRecord& other) { return other.date <= date; });
+}
+
+bool recoverClean(std::vector<CleanRecord>& history, const Uuid& id)
+{
+    const auto journal = Journals::read(id, State::cleaning);
+    // A journal that cannot be read for a moment is there at the next start as well.
+    if (!journal)
+        return false;
+    CleanRecord record = Recovery::recordOf(*journal);
+    if (recordOf(history, id) != history.end()) {
+        Journals::settle(id);
+        return false;
+    }
+    if (record.items.empty()) {
+        Journals::remove(id, State::cleaning);
+        return false;
+    }
+    history.insert(placeOf(history, record.date), std::move(record));
+    if (Persist::saveHistory(history).ok())
+        Journals::settle(id);
+    return true;
+}
+
+bool recoverRestore(std::vector<CleanRecord>& history, const Uuid& id)
+{
+    const auto journal = Journals::read(id, State::restoring);
+    if (!journal)
+        return false;
+    const auto found = recordOf(history, id);
+    if (found == history.end()) {
+        Journals::remove(id, State::restoring);
+        return false;
+    }
+    CleanRecord record = *found;
+    Recovery::markRestored(record, *journal);
+    const bool hasChanged = record != *found;
+    return update(history, record).ok() && hasChanged;
+}
+
+} // namespace
+
+Result<void> add(std::vector<CleanRecord>& history, const CleanRecord& record)
+{
+    if (record.items.empty()) {
+        Journals::remove(record.id, State::cleaning);
+        return {};
+    }
+    history.insert(history.begin(), record);
+    auto saved = Persist::saveHistory(history);
+    if (saved.ok())
+        Journals::settle(record.id);
+    return saved;
+}
+
+Result<void> update(std::vector<CleanRecord>& history, const CleanRecord& record)
+{
+    if (const auto kept = recordOf(history, record.id); kept != history.end())
+        *kept = record;
+    auto saved = Persist::saveHistory(history);
+    if (!saved.ok())
+        return saved;
+    Journals::remove(record.id, State::restoring);
+    if (isWhollyRestored(record))
+        Journals::remove(record.id, State::cleaned);
+    return saved;
+}
+
+bool isUnfinished()
+{
+    return !Journals::all(State::cleaning).empty() || !Journals::all(State::restoring).empty();
+}
+
+bool recover(std::vector<CleanRecord>& history)
+{
+    bool hasChanged = false;
+    for (const Uuid& id : Journals::all(State::cleaning))
+        hasChanged = recoverClean(history, id) || hasChanged;
+    for (const Uuid& id : Journals::all(State::restoring))
+        hasChanged = recoverRestore(history, id) || hasChanged;
+    OwnFile::removeUnfinished(Persist::dir());
+    Journals::removeUnfinished();
+    return hasChanged;
+}
+
+} // namespace orlen::History

@@ -1,0 +1,71 @@
+#include "clean/Reserve.h"
+
+#include "clean/Persist.h"
+#include "platform/FileStatus.h"
+#include "platform/OwnFile.h"
+#include "platform/PathText.h"
+#include "platform/Volume.h"
+
+#include <algorithm>
+#include <mutex>
+
+namespace orlen::Reserve {
+
+namespace {
+
+constexpr std::int64_t kLargest = 8'000'000;
+/// Of a small disk at most this part is set aside.
+constexpr std::int64_t kPartOfDisk = 20;
+/// So many times its size must be free before the reserve takes room of its own.
+constexpr std::int64_t kPlenty = 4;
+constexpr std::int64_t kPieces = 16;
+constexpr std::int64_t kPiecesForRecord = 4;
+
+std::mutex& lock()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+std::string path()
+{
+    return PathText::join(Persist::dir(), "reserve");
+}
+
+std::int64_t wholeSize(const VolumeSpace& space)
+{
+    return std::min(kLargest, space.total / kPartOfDisk);
+}
+
+} // namespace
+
+std::int64_t size()
+{
+    const auto status = statusOf(path());
+    return status.ok() && status.value().type == FileType::regular ? status.value().length : 0;
+}
+
+void refill()
+{
+    const std::lock_guard held(lock());
+    const auto space = volumeSpace(Persist::dir());
+    if (!space.ok())
+        return;
+    const std::int64_t whole = wholeSize(space.value());
+    if (space.value().free >= whole * kPlenty && size() < whole)
+        (void)OwnFile::fill(path(), whole);
+}
+
+bool giveUp(Use use)
+{
+    const std::lock_guard held(lock());
+    const std::int64_t now = size();
+    const auto space = volumeSpace(Persist::dir());
+    if (now == 0 || !space.ok())
+        return false;
+    const std::int64_t piece = wholeSize(space.value()) / kPieces + 1;
+    const std::int64_t kept = use == Use::items ? piece * kPiecesForRecord : 0;
+    return now > kept && OwnFile::shorten(path(), std::max(kept, now - piece)).ok();
+}
+
+} // namespace orlen::Reserve
