@@ -2,8 +2,8 @@
 #include "clean/History.h"
 #include "clean/Persist.h"
 
-#include "clean/TrashProbe.h"
-#include "clean/trash/Trash.h"
+#include "clean/WatchedItems.h"
+#include "platform/Folder.h"
 #include "platform/UniqueFd.h"
 
 #include <gmock/gmock.h>
@@ -14,9 +14,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <functional>
-#include <map>
 #include <random>
-#include <set>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -25,11 +23,10 @@ namespace orlen {
 
 namespace {
 
-using namespace TrashProbe;
 using std::chrono::microseconds;
 using testing::IsEmpty;
 
-constexpr int kItems = 20;
+constexpr int kItems = WatchedItems::kCount;
 
 /// How often to kill; more of it with the variable ORLEN_KILLS.
 int rounds()
@@ -37,62 +34,6 @@ int rounds()
     const char* wanted = std::getenv("ORLEN_KILLS");
     return wanted == nullptr ? 20 : std::atoi(wanted);
 }
-
-/// A set of items, every fifth of them a folder, in folders that make many of them share a name.
-class Items {
-public:
-    explicit Items(const TempHome& home) : m_trash(home.path(".local/share/Trash"))
-    {
-        for (int item = 0; item < kItems; ++item) {
-            const std::string path =
-                home.path("in-" + std::to_string(item) + "/item-" + std::to_string(item % 3));
-            (void)home.file(item % 5 == 0 ? path + "/content" : path, path);
-            m_identities[path] = identity(path);
-        }
-    }
-
-    [[nodiscard]] std::vector<FileEntry> entries() const
-    {
-        std::vector<FileEntry> entries;
-        for (const auto& [path, id] : m_identities)
-            entries.push_back({path, 4096, {}, {}, {}, {}});
-        return entries;
-    }
-
-    /// Checks that each item is in its place, or in the Trash with an info file that names its place, and
-    /// that the history knows which. Returns how many are in the Trash.
-    [[nodiscard]] int expectNoneLostOrUnknown(const std::vector<CleanRecord>& history) const
-    {
-        std::map<FileIdentity, std::string> inTrash;
-        for (const std::string& name : listNames(m_trash + "/files")) {
-            const std::string path = PathText::join(m_trash + "/files", name);
-            EXPECT_TRUE(inTrash.emplace(identity(path), path).second);
-        }
-        std::map<std::string, std::string> known;
-        for (const CleanRecord& record : history) {
-            for (const TrashedItem& item : record.items) {
-                const bool isNews = item.restored || known.emplace(item.original, item.trashed).second;
-                EXPECT_TRUE(isNews) << item.original;
-            }
-        }
-        for (const auto& [path, id] : m_identities) {
-            const bool isInPlace = identity(path) == id;
-            const auto found = inTrash.find(id);
-            EXPECT_NE(isInPlace, found != inTrash.end()) << path;
-            EXPECT_EQ(known.contains(path), !isInPlace) << path;
-            if (found != inTrash.end()) {
-                EXPECT_EQ(Trash::originalPath(found->second), path);
-                EXPECT_EQ(known[path], found->second);
-            }
-        }
-        EXPECT_EQ(listNames(m_trash + "/info").size(), inTrash.size()) << "info files without an item";
-        return static_cast<int>(inTrash.size());
-    }
-
-private:
-    std::string m_trash;
-    std::map<std::string, FileIdentity> m_identities;
-};
 
 /// Calls `work` in a process of its own, which is killed a while after it has called `begun` so many times,
 /// or ended.
@@ -128,7 +69,7 @@ std::vector<CleanRecord> historyAfterStart()
     return history;
 }
 
-void clean(const Items& items, const std::function<void()>& begun)
+void clean(const WatchedItems& items, const std::function<void()>& begun)
 {
     std::vector<CleanRecord> history = Persist::loadHistory();
     const auto cleaned =
@@ -157,9 +98,10 @@ TEST(CleanKillTest, aKilledCleanUpLosesNothingAndIsInTheHistoryAfterTheNextStart
     for (int round = 0; round < rounds(); ++round) {
         SCOPED_TRACE(round);
         const TempHome home;
-        const Items items(home);
+        const WatchedItems items(home);
         killed([&](const auto& begun) { clean(items, begun); }, moments.step(), moments.later());
         const int moved = items.expectNoneLostOrUnknown(historyAfterStart());
+        items.expectNoStrayInfo();
         interrupted += moved > 0 && moved < kItems ? 1 : 0;
         // What the killed one left behind is no obstacle for the next.
         clean(items, [] {});
@@ -175,7 +117,7 @@ TEST(CleanKillTest, aKilledRestoreIsMarkedAsFarAsItCame)
     for (int round = 0; round < rounds(); ++round) {
         SCOPED_TRACE(round);
         const TempHome home;
-        const Items items(home);
+        const WatchedItems items(home);
         clean(items, [] {});
         const auto restore = [](const std::function<void()>& begun) {
             std::vector<CleanRecord> history = Persist::loadHistory();
@@ -185,6 +127,7 @@ TEST(CleanKillTest, aKilledRestoreIsMarkedAsFarAsItCame)
         };
         killed(restore, moments.step(), moments.later());
         const int left = items.expectNoneLostOrUnknown(historyAfterStart());
+        items.expectNoStrayInfo();
         interrupted += left > 0 && left < kItems ? 1 : 0;
         restore([] {});
         EXPECT_EQ(items.expectNoneLostOrUnknown(historyAfterStart()), 0);
