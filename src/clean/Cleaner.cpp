@@ -5,6 +5,7 @@
 #include "clean/Reserve.h"
 #include "clean/Safety.h"
 #include "clean/trash/Trash.h"
+#include "model/PathSelection.h"
 #include "platform/PathText.h"
 
 #include <algorithm>
@@ -17,25 +18,6 @@ namespace orlen::Cleaner {
 namespace {
 
 using Journals::State;
-
-/// The entries in path order without those that go along with another one. Only the last kept path is
-/// compared: a name that sorts between a folder and its contents ("a", "a b", "a/x") lets the contents stay
-/// in the list, where they are then found missing and counted as failed.
-std::vector<FileEntry> withoutNested(std::vector<FileEntry> entries)
-{
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const FileEntry& a, const FileEntry& b) { return a.path < b.path; });
-    std::vector<FileEntry> kept;
-    kept.reserve(entries.size());
-    for (FileEntry& entry : entries) {
-        const std::string last = kept.empty() ? std::string() : kept.back().path;
-        const bool isNested = !last.empty() && entry.path.starts_with(last + "/");
-        const bool isRepeated = !kept.empty() && entry.path == last;
-        if (!isNested && !isRepeated)
-            kept.push_back(std::move(entry));
-    }
-    return kept;
-}
 
 /// Moves one entry after the other and remembers what its own moves have changed.
 class Mover {
@@ -181,7 +163,7 @@ Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Prog
 {
     Safety::refresh();
     Reserve::refill();
-    std::vector<FileEntry> kept = withoutNested(std::move(entries));
+    std::vector<FileEntry> kept = PathSelection::outermost(std::move(entries));
     const Journal journal = planned(kept, title);
     Cleaned cleaned;
     cleaned.record.id = journal.id;
