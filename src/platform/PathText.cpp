@@ -1,5 +1,6 @@
 #include "platform/PathText.h"
 
+#include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
 #include <cstdint>
@@ -34,11 +35,52 @@ std::int32_t nextCodePoint(std::string_view text, std::size_t& at)
     return codePoint;
 }
 
+constexpr std::int32_t kJoiner = 0x200D;
+constexpr std::int32_t kKeycap = 0x20E3;
+constexpr std::int32_t kTextForm = 0xFE0E;
+constexpr std::int32_t kPictureForm = 0xFE0F;
+
+/// Of characters that are not seen, or that turn the text around them.
 bool isUnsafeToShow(std::int32_t c)
 {
-    return c < 0x20 || (c >= 0x7F && c < 0xA0) || (c >= 0x202A && c <= 0x202E) ||
-           (c >= 0x2066 && c <= 0x2069) || c == 0x2028 || c == 0x2029 || c == 0x200E || c == 0x200F;
+    switch (u_charType(c)) {
+    case U_CONTROL_CHAR:
+    case U_LINE_SEPARATOR:
+    case U_PARAGRAPH_SEPARATOR:
+        return true;
+    case U_FORMAT_CHAR: // those that stand before the digits they mark are drawn
+        return !u_hasBinaryProperty(c, UCHAR_PREPENDED_CONCATENATION_MARK);
+    default:
+        return u_hasBinaryProperty(c, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) ||
+               u_hasBinaryProperty(c, UCHAR_BIDI_CONTROL);
+    }
 }
+
+bool isPicture(std::int32_t c)
+{
+    return u_hasBinaryProperty(c, UCHAR_EXTENDED_PICTOGRAPHIC);
+}
+
+/// Follows a text and tells which of its unseen characters hold an emoji together.
+class EmojiSequence {
+public:
+    /// Whether the character may stay although it is not seen. For each character in turn, with the one that
+    /// comes next; negative for none.
+    bool holds(std::int32_t c, std::int32_t next)
+    {
+        const bool isVariation = c == kTextForm || c == kPictureForm;
+        const bool varies = isVariation && !m_isVaried && (m_isPicture || next == kKeycap);
+        const bool joins = c == kJoiner && m_isPicture && isPicture(next);
+        const bool goesOn = m_isPicture && (varies || u_hasBinaryProperty(c, UCHAR_EMOJI_MODIFIER));
+        m_isPicture = isPicture(c) || goesOn;
+        m_isVaried = varies;
+        return varies || joins;
+    }
+
+private:
+    bool m_isPicture = false; ///< what was passed ends with a picture, perhaps varied
+    bool m_isVaried = false;
+};
 
 } // namespace
 
@@ -152,12 +194,15 @@ std::string forDisplay(std::string_view path)
 {
     std::string shown;
     shown.reserve(path.size());
+    EmojiSequence emoji;
     for (std::size_t at = 0; at < path.size();) {
         const std::size_t start = at;
         const std::int32_t codePoint = nextCodePoint(path, at);
+        std::size_t ahead = at;
+        const bool isHeld = emoji.holds(codePoint, at < path.size() ? nextCodePoint(path, ahead) : -1);
         if (codePoint < 0)
             shown.append("\xEF\xBF\xBD");
-        else if (isUnsafeToShow(codePoint))
+        else if (isUnsafeToShow(codePoint) && !isHeld)
             shown.push_back('?');
         else
             shown.append(path.substr(start, at - start));

@@ -39,8 +39,9 @@ namespace orlen::PathText {
 
 [[nodiscard]] bool isValidUtf8(std::string_view text);
 
-/// The bytes made readable for a terminal or a screen on one line: control characters and bidirectional
-/// overrides become "?", bytes that are not UTF-8 become U+FFFD. For display only, never turned back.
+/// The bytes made readable for a terminal or a screen on one line: control characters, marks that turn the
+/// direction of the text and all others that are not seen become "?", except what holds an emoji together;
+/// bytes that are not UTF-8 become U+FFFD. For display only, never turned back.
 [[nodiscard]] std::string forDisplay(std::string_view path);
 
 } // namespace orlen::PathText

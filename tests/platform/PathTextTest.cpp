@@ -83,6 +83,19 @@ TEST(PathTextTest, displayedNameStaysOnOneReadableLine)
     EXPECT_EQ(PathText::forDisplay("grün 😀"), "grün 😀");
     EXPECT_EQ(PathText::forDisplay("a\nb\x1B[31m\x7F"), "a?b?[31m?");
     EXPECT_EQ(PathText::forDisplay("inv\xE2\x80\xAEgpj.exe"), "inv?gpj.exe");
+    for (const char* hidden :
+         {"\u00AD", "\u034F", "\u061C", "\u115F",     "\u180E",     "\u200B",    "\u200C", "\u200D",
+          "\u200E", "\u200F", "\u2028", "\u2029",     "\u2060",     "\u2064",    "\u2069", "\uFE00",
+          "\uFE0F", "\uFEFF", "\uFFF9", "\U000E0001", "\U000E0061", "\U000E0100"})
+        EXPECT_EQ(PathText::forDisplay("a" + std::string(hidden) + "b"), "a?b") << hidden;
+    for (const char* seen : {"\U0001F469\u200D\U0001F4BB", "\U0001F469\U0001F3FD\u200D\U0001F680",
+                             "\U0001F3F3\uFE0F\u200D\U0001F308", "\u2764\uFE0F", "1\uFE0F\u20E3",
+                             "\U0001F1EA\U0001F1FA", "e\u0301", "हिन्दी", "\u0601\u0661"})
+        EXPECT_EQ(PathText::forDisplay(seen), seen);
+    EXPECT_EQ(PathText::forDisplay("\U0001F469\u200D"), "\U0001F469?");
+    EXPECT_EQ(PathText::forDisplay("a\u200D\U0001F4BB"), "a?\U0001F4BB");
+    EXPECT_EQ(PathText::forDisplay("1\uFE0F"), "1?");
+    EXPECT_EQ(PathText::forDisplay("\u2764\uFE0F\uFE0Fx"), "\u2764\uFE0F?x");
     EXPECT_EQ(PathText::forDisplay("a\xFF"
                                    "b\xC3"),
               "a\xEF\xBF\xBD"
