@@ -1,8 +1,10 @@
 #include "model/Rater.h"
 
+#include "model/KnownPlaces.h"
 #include "model/RaterTables.h"
 #include "platform/LanguageTools.h"
 #include "platform/PathText.h"
+#include "platform/Places.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -58,9 +60,8 @@ MeaningCache& meaningCache()
 /// Whether a word is long enough to be compared, and no year, date or camera counter.
 bool isWorthComparing(std::string_view token)
 {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
-    return std::ranges::none_of(token, isDigit) &&
+    return !LanguageTools::hasDecimalDigit(token) &&
            std::ranges::count_if(token, startsCharacter) >= kMeaningLength;
 }
 
@@ -106,16 +107,30 @@ std::vector<std::string> tokensOf(std::string_view name)
     return tokens;
 }
 
-bool rateByLocation(FileEntry& entry)
+Rating moreCareful(Rating a, Rating b)
 {
-    for (const RaterTables::KnownLocation& location : RaterTables::knownLocations()) {
-        if (entry.path.find(location.part) == std::string::npos)
-            continue;
-        entry.rating = location.rating;
-        addNote(entry, location.note);
+    return std::max(a, b);
+}
+
+/// What only the path tells. A text that happens to occur in it, or a place, makes an entry more careful than
+/// its scanner said, never less; without a word of the scanner the entry is as careful as its finding.
+bool rateByLocation(FileEntry& entry, Rating ofFinding, const KnownPlaces& places)
+{
+    const auto texts = RaterTables::knownTexts();
+    const auto text = std::ranges::find_if(texts, [&](const RaterTables::KnownLocation& location) {
+        return entry.path.find(location.where) != std::string::npos;
+    });
+    if (text != texts.end()) {
+        entry.rating = moreCareful(entry.rating.value_or(text->rating), text->rating);
+        addNote(entry, text->note);
         return true;
     }
-    return false;
+    const RaterTables::KnownLocation* place = places.holding(entry.path);
+    if (place == nullptr)
+        return false;
+    entry.rating = moreCareful(entry.rating.value_or(ofFinding), place->rating);
+    addNote(entry, place->note);
+    return true;
 }
 
 bool rateByName(FileEntry& entry, FindingKind kind)
@@ -136,19 +151,19 @@ void rateInstaller(FileEntry& entry, FindingKind kind)
     entry.note = kInstallerNote; // says all there is to say, so it takes the place of earlier notes
 }
 
-void rateEntry(FileEntry& entry, FindingKind kind)
+void rateEntry(FileEntry& entry, const Finding& finding, const KnownPlaces& places)
 {
-    if (!rateByLocation(entry) && !rateByName(entry, kind))
-        rateInstaller(entry, kind);
+    if (!rateByLocation(entry, finding.rating, places) && !rateByName(entry, finding.kind))
+        rateInstaller(entry, finding.kind);
 }
 
-void rateFinding(Finding& finding)
+void rateFinding(Finding& finding, const KnownPlaces& places)
 {
     const RaterTables::KindRule& rule = RaterTables::rule(finding.kind);
     finding.rating = rule.rating;
     finding.reason = rule.reason;
     for (FileEntry& entry : finding.items)
-        rateEntry(entry, finding.kind);
+        rateEntry(entry, finding, places);
     const auto isKept = [](const FileEntry& entry) { return entry.rating == Rating::keep; };
     if (finding.items.empty() || !std::ranges::all_of(finding.items, isKept))
         return;
@@ -160,7 +175,8 @@ void rateFinding(Finding& finding)
 
 std::vector<Finding> rate(std::vector<Finding> findings)
 {
-    std::ranges::for_each(findings, rateFinding);
+    const KnownPlaces places(Places::current());
+    std::ranges::for_each(findings, [&](Finding& finding) { rateFinding(finding, places); });
     return findings;
 }
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 /// Turns raw findings into rated ones: rating and reason of each finding from a table by kind, rating and
-/// note of single entries from known locations, important-looking names and installers. Pure but for a cache
-/// of word meanings; any thread.
+/// note of single entries from known locations, important-looking names and installers. Never touches the
+/// disk; any thread.
 namespace orlen::Rater {
 
 /// The same findings in the same order, rated.

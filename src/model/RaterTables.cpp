@@ -57,43 +57,46 @@ constexpr std::string_view kBuiltPackages = "Built packages kept for going back 
 
 // One row a line; the order is the order of testing, and an earlier row wins over a later one.
 // clang-format off
-constexpr auto kKnownLocations = std::to_array<KnownLocation>({
+constexpr auto kKnownTexts = std::to_array<KnownLocation>({
     {"/Library/Caches/CloudKit", keep, "Used for iCloud sync. Removing it can force a slow re-sync."},
     {"/Library/Caches/com.apple.bird", keep, "Used by iCloud Drive."},
     {"/Library/Caches/com.apple.Safari", safe, "Safari rebuilds its web cache."},
     {"/Library/Caches/Google", safe, kBrowserCache},
     {"/Library/Caches/com.spotify", safe, "Cached audio; it downloads again when played."},
     {"/Xcode/DerivedData/ModuleCache", safe, "Rebuilt by Xcode automatically."},
-    {"/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
-    {"/.cache/spotify", review, kOfflineSongs},
-    {"/cache/spotify", review, kOfflineSongs},
-    {"/.cache/huggingface/", review, kLargeDownload},
-    {"/.cache/torch/", review, kLargeDownload},
-    {"/.cache/whisper", review, kLargeDownload},
-    {"/.cache/gpt4all", review, kLargeDownload},
-    {"/.cache/ms-playwright", review, kTestBrowsers},
-    {"/.cache/puppeteer", review, kTestBrowsers},
-    {"/.cache/Cypress", review, "Run the install command again before the next test."},
-    {"/pnpm/store", review, kLinkedStore},
-    {"/.pnpm-store", review, kLinkedStore},
-    {"/.m2/repository", review, "May hold builds that you installed yourself."},
-    {"/.nuget/packages", review, kUsedInPlace},
-    {"/.pub-cache/", review, kUsedInPlace},
-    {"/.cache/bazel", review, "Stop the Bazel server first."},
-    {"/.cache/winetricks", review, kLostInstallers},
-    {"/.cache/lutris", review, kLostInstallers},
-    {"/.cache/yay", review, kBuiltPackages},
-    {"/.cache/paru", review, kBuiltPackages},
-    {"/.cache/restic", review, "Backup index; reading it again can take long."},
-    {"/.cache/pre-commit", review, "Hook environments; installed again on the next commit."},
-    {"/.cache/flatpak", safe, "Download cache of Flatpak."},
-    {"/.cache/thumbnails", safe, "Previews; made again when you open a folder."},
-    {"/.cache/mozilla", safe, kBrowserCache},
-    {"/.cache/google-chrome", safe, kBrowserCache},
-    {"/.cache/chromium", safe, kBrowserCache},
-    {"/shadercache/", safe, "Rebuilt when the game runs; the first start is slower."},
-    {"/.cache/mesa_shader_cache", safe, "Rebuilt when a program draws again."},
-    {".kdbx", keep, "Password database."},
+});
+
+constexpr auto kKnownPlaces = std::to_array<KnownLocation>({
+    {"*/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
+    {"{CACHE}/spotify*", review, kOfflineSongs},
+    {"{CACHE}/huggingface", review, kLargeDownload},
+    {"{CACHE}/torch", review, kLargeDownload},
+    {"{CACHE}/whisper*", review, kLargeDownload},
+    {"{CACHE}/gpt4all", review, kLargeDownload},
+    {"{CACHE}/ms-playwright*", review, kTestBrowsers},
+    {"{CACHE}/puppeteer", review, kTestBrowsers},
+    {"{CACHE}/Cypress", review, "Run the install command again before the next test."},
+    {"{DATA}/pnpm/store", review, kLinkedStore},
+    {"{H}/.pnpm-store", review, kLinkedStore},
+    {"{H}/.m2/repository", review, "May hold builds that you installed yourself."},
+    {"{H}/.nuget/packages", review, kUsedInPlace},
+    {"{H}/.pub-cache", review, kUsedInPlace},
+    {"{H}/.yarn/berry/cache", review, kUsedInPlace},
+    {"{CACHE}/bazel", review, "Stop the Bazel server first."},
+    {"{CACHE}/winetricks", review, kLostInstallers},
+    {"{CACHE}/lutris", review, kLostInstallers},
+    {"{CACHE}/yay", review, kBuiltPackages},
+    {"{CACHE}/paru", review, kBuiltPackages},
+    {"{CACHE}/restic", review, "Backup index; reading it again can take long."},
+    {"{CACHE}/pre-commit", review, "Hook environments; installed again on the next commit."},
+    {"{CACHE}/flatpak", safe, "Download cache of Flatpak."},
+    {"{CACHE}/thumbnails", safe, "Previews; made again when you open a folder."},
+    {"{CACHE}/mozilla", safe, kBrowserCache},
+    {"{CACHE}/google-chrome*", safe, kBrowserCache},
+    {"{CACHE}/chromium", safe, kBrowserCache},
+    {"{STEAM}/steamapps/shadercache", safe, "Rebuilt when the game runs; the first start is slower."},
+    {"{CACHE}/mesa_shader_cache*", safe, "Rebuilt when a program draws again."},
+    {"*.kdbx*", keep, "Password database."},
 });
 // clang-format on
 
@@ -125,9 +128,14 @@ const KindRule& rule(FindingKind kind)
     return found == kRules.end() ? kOtherKinds : *found;
 }
 
-std::span<const KnownLocation> knownLocations()
+std::span<const KnownLocation> knownTexts()
 {
-    return kKnownLocations;
+    return kKnownTexts;
+}
+
+std::span<const KnownLocation> knownPlaces()
+{
+    return kKnownPlaces;
 }
 
 bool holdsDocuments(FindingKind kind)

@@ -19,13 +19,17 @@ struct KindRule {
 [[nodiscard]] const KindRule& rule(FindingKind kind);
 
 struct KnownLocation {
-    std::string_view part; ///< text that occurs anywhere in the path, case-sensitive
+    std::string_view where;
     Rating rating;
     std::string_view note;
 };
 
-/// In the order of testing: the first row whose part occurs in a path holds for it.
-[[nodiscard]] std::span<const KnownLocation> knownLocations();
+// The first row that fits a path holds for it, the texts before the places.
+
+/// `where` is text that occurs anywhere in the path, case-sensitive.
+[[nodiscard]] std::span<const KnownLocation> knownTexts();
+/// `where` is a place as KnownPlaces reads it.
+[[nodiscard]] std::span<const KnownLocation> knownPlaces();
 
 /// Whether entries of this kind are the user's own files, whose names are worth a look.
 [[nodiscard]] bool holdsDocuments(FindingKind kind);

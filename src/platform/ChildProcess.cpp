@@ -3,6 +3,7 @@
 #include "platform/PathText.h"
 #include "platform/ProcessStart.h"
 #include "platform/Retrying.h"
+#include "platform/Threads.h"
 #include "platform/UniqueFd.h"
 
 #include <algorithm>
@@ -15,8 +16,6 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <system_error>
-#include <thread>
 #include <unistd.h>
 
 namespace orlen::ChildProcess {
@@ -140,12 +139,11 @@ bool startDetached(const std::vector<std::string>& arguments)
         ProcessStart::start({arguments, {}}, ProcessStart::Belonging::ownSession, {});
     if (!child)
         return false;
-    try {
-        // The program may outlive this one; until then somebody has to take note of its end.
-        std::thread([child] { (void)reaped(*child); }).detach();
-    } catch (const std::system_error&) {
-        return true; // It runs all the same; its entry stays until this process ends.
-    }
+    // The program may outlive this one; until then somebody has to take note of its end. Without a thread it
+    // runs all the same, and its entry stays until this process ends.
+    if (auto waiting =
+            Threads::start("orlen-child", [child](const std::stop_token&) { (void)reaped(*child); }))
+        waiting->detach();
     return true;
 }
 

@@ -101,6 +101,25 @@ Result<std::size_t> readAt(int file, std::int64_t offset, std::span<std::byte> b
     return filled;
 }
 
+Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::int64_t length)
+{
+    if (offset >= length)
+        return std::optional<FileRange>();
+    const std::int64_t start = ::lseek(file, offset, SEEK_DATA);
+    if (start < 0 && errno == ENXIO)
+        return std::optional<FileRange>();
+    if (start < 0 && errno == EINVAL)
+        return std::optional(FileRange{offset, length});
+    if (start < 0)
+        return Errno{errno};
+    if (start >= length)
+        return std::optional<FileRange>();
+    const std::int64_t end = ::lseek(file, start, SEEK_HOLE);
+    if (end < 0)
+        return Errno{errno};
+    return std::optional(FileRange{start, std::min(end, length)});
+}
+
 std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit)
 {
     auto head = readHeadAt(AT_FDCWD, path.c_str(), limit + 1);

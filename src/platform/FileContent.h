@@ -22,6 +22,18 @@ namespace orlen {
 /// Reads up to `buffer.size()` bytes at `offset`; fewer only at the end of the file.
 [[nodiscard]] Result<std::size_t> readAt(int file, std::int64_t offset, std::span<std::byte> buffer);
 
+/// A run of bytes of a file.
+struct FileRange {
+    std::int64_t start = 0;
+    std::int64_t end = 0; ///< the first byte behind it
+    friend bool operator==(const FileRange&, const FileRange&) = default;
+};
+
+/// The first run of bytes at or behind `offset` and before `length` that may hold anything but zeros; nothing
+/// when the rest is a hole. A file system that does not know holes takes all for data. `length` is the
+/// file's.
+[[nodiscard]] Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::int64_t length);
+
 /// The whole content of a small file; nothing when it cannot be read or is longer than `limit` bytes.
 [[nodiscard]] std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit);
 /// At most the first `limit` bytes of a file relative to an open folder; nothing when it cannot be read.

@@ -64,6 +64,8 @@ std::optional<FolderChunk> FolderReader::next()
     FolderChunk chunk;
     chunk.m_bytes = std::make_unique_for_overwrite<char[]>(kChunkBytes);
     const auto got = retried([&] { return ::getdents64(m_folder, chunk.m_bytes.get(), kChunkBytes); });
+    if (got < 0)
+        m_error = errno;
     if (got <= 0)
         return std::nullopt;
     chunk.m_used = static_cast<std::size_t>(got);

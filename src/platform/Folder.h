@@ -53,9 +53,12 @@ public:
 
     /// The next chunk; nothing at the end or when reading fails.
     [[nodiscard]] std::optional<FolderChunk> next();
+    /// Why reading failed; 0 when it did not.
+    [[nodiscard]] int error() const { return m_error; }
 
 private:
     int m_folder;
+    int m_error = 0;
 };
 
 /// The names directly inside a folder, in listing order, without "." and ".."; empty when it cannot be read.

@@ -121,6 +121,20 @@ std::string splitCamelCase(std::string_view text)
     return split;
 }
 
+bool hasDecimalDigit(std::string_view text)
+{
+    text = countable(text);
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const auto length = static_cast<std::int32_t>(text.size());
+    for (std::int32_t at = 0; at < length;) {
+        UChar32 character = 0;
+        U8_NEXT(bytes, at, length, character);
+        if (character >= 0 && u_isdigit(character) != 0)
+            return true;
+    }
+    return false;
+}
+
 bool hasEmbedding()
 {
     return false;

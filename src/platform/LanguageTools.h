@@ -23,6 +23,9 @@ namespace orlen::LanguageTools {
 /// properties: "myTaxReturn" gives "my Tax Return", "PDFInvoice" stays. Other bytes are kept as they are.
 [[nodiscard]] std::string splitCamelCase(std::string_view text);
 
+/// Whether a character of the text is a decimal digit of any script.
+[[nodiscard]] bool hasDecimalDigit(std::string_view text);
+
 /// Whether word vectors are there. They are not yet: `distance` then never has a value.
 [[nodiscard]] bool hasEmbedding();
 /// Cosine distance of two English words (0: same direction, 2: opposite); nothing without vectors or for an

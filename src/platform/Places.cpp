@@ -62,13 +62,38 @@ std::string folderBelowHome(const char* name, const Places& places)
     return named != places.home && PathText::isAtOrBelow(named, places.home) ? named : std::string();
 }
 
+/// The user's own folders, set or by default.
+Paths ownFolders(const Places& places)
+{
+    Paths folders = places.userFolders();
+    for (const char* name : {"Desktop", "Downloads", "Documents", "Music", "Pictures", "Videos", "Movies",
+                             "Templates", "Public"})
+        appendOnce(folders, PathText::join(places.home, name));
+    return folders;
+}
+
+/// Whether a moved folder equals one of the user's own, holds one or lies in one: what lies there is the
+/// user's, whatever a variable says.
+bool meetsOwnFolder(const std::string& path, const Places& places)
+{
+    Paths spellings{path};
+    appendOnce(spellings, places.normalized(resolved(path)));
+    const Paths own = ownFolders(places);
+    return std::ranges::any_of(spellings, [&](const std::string& spelling) {
+        return std::ranges::any_of(own, [&](const std::string& folder) {
+            return PathText::isAtOrBelow(spelling, folder) || PathText::isAtOrBelow(folder, spelling);
+        });
+    });
+}
+
 /// The folder that the variable names when it lies below the home folder, then the default.
 Paths baseFolders(const char* name, const Places& places, std::string_view standard)
 {
     Paths folders;
+    const std::string moved = folderBelowHome(name, places);
     // In a sandbox the variables point to the sandbox's own folders, not to the user's.
-    if (!exists("/.flatpak-info"))
-        appendOnce(folders, folderBelowHome(name, places));
+    if (!moved.empty() && !exists("/.flatpak-info") && !meetsOwnFolder(moved, places))
+        appendOnce(folders, moved);
     appendOnce(folders, PathText::join(places.home, standard));
     return folders;
 }
@@ -229,13 +254,15 @@ Places Places::fromEnvironment()
     places.home = homeFolder(places.user);
     places.resolvedHome = resolved(places.home);
     places.isHomeUsable = isUsable(places.home, places.resolvedHome, places.user);
-    places.caches = baseFolders("XDG_CACHE_HOME", places, ".cache");
     places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
+    readUserFolders(places);
+    // Once more, now that it is known which folders are the user's own.
+    places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
+    places.caches = baseFolders("XDG_CACHE_HOME", places, ".cache");
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
     places.states = baseFolders("XDG_STATE_HOME", places, ".local/state");
     places.sharedConfigs = folderList("XDG_CONFIG_DIRS", {"/etc/xdg"});
     places.sharedData = folderList("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});
-    readUserFolders(places);
     places.languages = preferredLanguages();
     places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     return places;

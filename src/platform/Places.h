@@ -16,7 +16,8 @@ struct Places {
     unsigned user = 0; ///< user number
 
     /// The folders in force and behind them, when a variable moved one, its default below the home folder.
-    /// Never empty; the first is where the program itself writes.
+    /// Never empty; the first is where the program itself writes. A variable that names, holds or lies in one
+    /// of the user's own folders (Documents and so on) moves nothing.
     std::vector<std::string> caches;
     std::vector<std::string> configs;
     std::vector<std::string> data;

@@ -16,7 +16,8 @@ class StepGroup {
 public:
     using Step = std::function<std::vector<Finding>()>;
 
-    /// Starts a step at once. `name` names its thread, 9 letters at most.
+    /// Starts a step at once, or leaves it to `collect` when no thread can be had. `name` names its thread, 9
+    /// letters at most.
     void add(const std::string& name, Step step);
     /// Waits for all steps; their findings in the order in which the steps finished.
     [[nodiscard]] std::vector<Finding> collect();
@@ -24,6 +25,7 @@ public:
 private:
     std::mutex m_lock;
     std::vector<Finding> m_findings;
+    std::vector<std::function<void()>> m_withoutThread;
     std::vector<std::jthread> m_threads; ///< last: joined before what they write to goes
 };
 

@@ -1,5 +1,7 @@
 #include "model/Rater.h"
 
+#include "support/TempHome.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -36,36 +38,18 @@ TEST(RaterTest, entryIsRatedByTheFirstRuleThatApplies)
     };
     using enum FindingKind;
     const std::string sync = "Used for iCloud sync. Removing it can force a slow re-sync.";
-    const std::string songs = "May hold songs you downloaded for offline use.";
     const Case cases[] = {
         {"location", caches, "/Users/a/Library/Caches/CloudKit", {}, Rating::keep, sync},
         {"location not only at home", caches, "/x/Library/Caches/CloudKit/y", {}, Rating::keep, sync},
         {"location after a note", caches, "/Library/Caches/CloudKit", "x", Rating::keep, "x · " + sync},
         {"case matters", caches, "/library/caches/cloudkit", {}, {}, {}},
-        {"location that lowers safe", npm, "/h/.local/share/pnpm/store/v3", "pnpm store", Rating::review,
-         "pnpm store · Projects link to these files; 'pnpm store prune' frees unused ones."},
-        {"earlier row wins",
-         caches,
-         "/h/.cache/chromium/Service Worker/CacheStorage",
-         {},
-         Rating::review,
-         "May hold offline data of a web app."},
-        {"hidden spotify", caches, "/h/.cache/spotify", {}, Rating::review, songs},
-        {"sandboxed spotify", caches, "/h/.var/app/com.x/cache/spotify", {}, Rating::review, songs},
-        {"base row before a later one",
-         caches,
-         "/Library/Caches/Google/x/shadercache/y",
-         {},
-         Rating::safe,
-         "Browser cache, rebuilt as you browse."},
-        {"part needs its slash", caches, "/h/.cache/torchvision", {}, {}, {}},
         {"location before name", largeFiles, "/h/tax passwords.kdbx", {}, Rating::keep, "Password database."},
         {"location before installer",
          oldDownloads,
-         "/d/shadercache/a.deb",
+         "/d/Library/Caches/Google/a.deb",
          {},
          Rating::safe,
-         "Rebuilt when the game runs; the first start is slower."},
+         "Browser cache, rebuilt as you browse."},
         {"document", oldDownloads, "/d/Invoice_2023.pdf", {}, Rating::keep, kDocument},
         {"document after a note", trash, "/t/visa.png", "x", Rating::keep, std::string("x · ") + kDocument},
         {"only the last component counts", largeFiles, "/h/tax/video.mov", "x", {}, "x"},
@@ -87,11 +71,70 @@ TEST(RaterTest, entryIsRatedByTheFirstRuleThatApplies)
     }
 }
 
-TEST(RaterTest, entryWithoutARuleKeepsTheScannersRating)
+TEST(RaterTest, linuxRowsNamePlacesNotText)
 {
-    FileEntry tagged = entry("/h/code/target", "Build output marked as a cache");
-    tagged.rating = Rating::review;
-    EXPECT_EQ(rated(FindingKind::caches, {tagged}).items.front(), tagged);
+    const TempHome home;
+    TempHome::setVariable("XDG_CACHE_HOME", home.path("fast"));
+    TempHome::reloadPlaces();
+    struct Case {
+        const char* name;
+        FindingKind kind;
+        const char* path; ///< in the home folder
+        std::optional<Rating> rating;
+        const char* note;
+    };
+    using enum FindingKind;
+    const char* const songs = "May hold songs you downloaded for offline use.";
+    const char* const weights = "Large download; needed again by programs that use it.";
+    const char* const browser = "Browser cache, rebuilt as you browse.";
+    const Case cases[] = {
+        {"default cache folder", caches, ".cache/whisper", Rating::review, weights},
+        {"moved cache folder", caches, "fast/restic", Rating::review,
+         "Backup index; reading it again can take long."},
+        {"below it", caches, "fast/huggingface/hub/models--x", Rating::review, weights},
+        {"a Flatpak's", caches, ".var/app/com.x/cache/spotify", Rating::review, songs},
+        {"a Snap's", npm, "snap/x/common/.cache/ms-playwright-go", Rating::review,
+         "Run the browser install command again before the next test."},
+        {"a Snap's revision", caches, "snap/x/42/.cache/bazel/y", Rating::review,
+         "Stop the Bazel server first."},
+        {"no cache folder", caches, "work/.cache/whisper", {}, ""},
+        {"no sandbox's cache folder", caches, ".var/app/com.x/data/cache/spotify", {}, ""},
+        {"another name", caches, ".cache/torchvision", {}, ""},
+        {"another name in full", caches, ".cache/bazelisk", {}, ""},
+        {"earlier row wins", caches, ".cache/chromium/Service Worker/CacheStorage", Rating::review,
+         "May hold offline data of a web app."},
+        {"profile anywhere", caches, ".config/Slack/Service Worker/CacheStorage/x", Rating::review,
+         "May hold offline data of a web app."},
+        {"further names", caches, "fast/google-chrome-beta", Rating::safe, browser},
+        {"store", npm, ".local/share/pnpm/store/v3", Rating::review,
+         "Projects link to these files; 'pnpm store prune' frees unused ones."},
+        {"shaders", caches, ".local/share/Steam/steamapps/shadercache/730", Rating::safe,
+         "Rebuilt when the game runs; the first start is slower."},
+        {"a project's shaders", caches, "game/shadercache/x", {}, ""},
+        {"never less careful than the finding", largeFiles, "fast/mozilla/x", Rating::review, browser},
+        {"a kept file wherever it lies", trash, ".local/share/Trash/files/a.kdbx.bak", Rating::keep,
+         "Password database."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Finding finding = rated(c.kind, {entry(home.path(c.path))});
+        EXPECT_EQ(finding.items.front().rating, c.rating);
+        EXPECT_EQ(finding.items.front().note.value_or(""), c.note);
+    }
+}
+
+TEST(RaterTest, scannersRatingIsNeverMadeLessCareful)
+{
+    const TempHome home;
+    for (const std::string& path :
+         {std::string("/h/code/target"), std::string("/h/Library/Caches/Google/target"),
+          home.path(".cache/mozilla/target"), home.path(".local/share/Steam/steamapps/shadercache/x")}) {
+        FileEntry tagged = entry(path, "Marked as a cache");
+        tagged.rating = Rating::review;
+        const FileEntry result = rated(FindingKind::caches, {tagged}).items.front();
+        EXPECT_EQ(result.rating, Rating::review) << path;
+        EXPECT_TRUE(result.note->starts_with("Marked as a cache")) << path;
+    }
 }
 
 TEST(RaterTest, findingOfKeptEntriesIsKept)

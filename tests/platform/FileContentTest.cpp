@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <thread>
 
@@ -134,6 +135,27 @@ TEST(FileContentTest, aNewFileNeverTakesAName)
     EXPECT_EQ(removeOwnFile(path).error(), ENOENT);
     EXPECT_FALSE(removeOwnFile(home.folder("folder")).ok());
     EXPECT_THAT(listNames(home.path()), testing::UnorderedElementsAre("folder", "link"));
+}
+
+TEST(FileContentTest, holesAreToldFromData)
+{
+    const TempHome home;
+    constexpr std::int64_t kFar = 1'048'576;
+    const std::string path = home.file("sparse", std::string(4096, 'x'));
+    std::filesystem::resize_file(path, kFar);
+    std::ofstream(path, std::ios::app) << std::string(4096, 'y');
+    std::filesystem::resize_file(path, 4 * kFar);
+    const auto file = openFile(path);
+    const auto at = [&](std::int64_t offset) {
+        return nextData(file.value().get(), offset, 4 * kFar).value();
+    };
+    EXPECT_EQ(at(0), (FileRange{0, 4096}));
+    EXPECT_EQ(at(4096), (FileRange{kFar, kFar + 4096}));
+    EXPECT_EQ(at(kFar + 100), (FileRange{kFar + 100, kFar + 4096}));
+    EXPECT_EQ(at(kFar + 4096), std::nullopt);
+    EXPECT_EQ(at(4 * kFar), std::nullopt);
+    EXPECT_EQ(nextData(file.value().get(), 0, 100).value(), (FileRange{0, 100}));
+    EXPECT_FALSE(nextData(-1, 0, 1).ok());
 }
 
 TEST(FileContentTest, readersNeverSeeHalfAFile)

@@ -68,6 +68,14 @@ TEST(LanguageToolsTest, camelCaseIsSplitBeforeALargeLetterAfterASmallOne)
     }
 }
 
+TEST(LanguageToolsTest, digitsOfEveryScriptCount)
+{
+    for (const char* text : {"scan7", "٣مسح", "स्कैन४", "１２３"})
+        EXPECT_TRUE(LanguageTools::hasDecimalDigit(text)) << text;
+    for (const char* text : {"", "scan", "№ⅣⅩ½²", "\xFF\xD9"})
+        EXPECT_FALSE(LanguageTools::hasDecimalDigit(text)) << text;
+}
+
 TEST(LanguageToolsTest, distanceHasNoValueWithoutVectors)
 {
     EXPECT_EQ(LanguageTools::hasEmbedding(), LanguageTools::distance("tax", "tax").has_value());

@@ -28,11 +28,20 @@ TEST(PlacesTest, movedBaseFolderComesBeforeItsDefault)
     const TempHome home;
     TempHome::setVariable("XDG_CACHE_HOME", home.path("fast/./cache/"));
     EXPECT_THAT(Places::fromEnvironment().caches, ElementsAre(home.path("fast/cache"), home.path(".cache")));
+    home.link("to-documents", home.folder("Documents"));
+    home.folder("Papers/mine");
+    home.file(".config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Papers/mine\"\n");
     for (const std::string& value :
-         {home.path(), home.outside("cache"), std::string("relative/cache"), home.path("..")}) {
+         {home.path(), home.outside("cache"), std::string("relative/cache"), home.path(".."),
+          home.path("Documents"), home.path("Downloads/cache"), home.path("to-documents"),
+          home.path("Papers"), home.path("Papers/mine/cache")}) {
         TempHome::setVariable("XDG_CACHE_HOME", value);
         EXPECT_THAT(Places::fromEnvironment().caches, ElementsAre(home.path(".cache"))) << value;
     }
+    TempHome::setVariable("XDG_CONFIG_HOME", home.path("Papers/mine"));
+    home.file("Papers/mine/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Papers/mine\"\n");
+    EXPECT_THAT(Places::fromEnvironment().configs, ElementsAre(home.path(".config")))
+        << "the folder's own file tells that it is the user's";
 }
 
 TEST(PlacesTest, homeFolderBehindALinkKeepsItsName)

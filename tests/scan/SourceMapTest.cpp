@@ -49,7 +49,7 @@ TEST(SourceMapTest, variablesThatNestPlacesMakeNoEntryOverlap)
         {"caches in caches", ".cache/a/b", ".local/share", ".local/state"},
         {"everything in one place", "x", "x", "x"},
         {"states and data in the caches", ".cache", ".cache/a/data", ".cache/a/state"},
-        {"caches and states in the downloads", "Downloads/a/cache", ".local/share", "Downloads/a/state"},
+        {"caches and states in the Trash", ".Trash/a/cache", ".local/share", ".Trash/a/state"},
         {"caches in the npm cache", ".npm/_cacache/c", ".npm/_cacache", ".npm"},
     };
     for (const Case& c : cases) {

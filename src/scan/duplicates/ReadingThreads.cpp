@@ -1,12 +1,10 @@
 #include "scan/duplicates/ReadingThreads.h"
 
-#include "platform/ThreadName.h"
+#include "platform/Threads.h"
 
 #include <algorithm>
 #include <numeric>
-#include <system_error>
 #include <thread>
-#include <vector>
 
 namespace orlen {
 
@@ -30,23 +28,10 @@ ReadingThreads::ReadingThreads(const std::stop_token& stop) : m_stop(stop)
 void ReadingThreads::forEach(std::size_t count, const Task& task)
 {
     std::atomic<std::size_t> next{0};
-    const auto work = [&](Reader& reader) {
+    Threads::runOn("orlen-duplicate", std::min(count, m_readers.size()), [&](std::size_t thread) {
         for (std::size_t i = next++; i < count && !m_stop.stop_requested(); i = next++)
-            task(reader, i);
-    };
-    // The calling thread takes part, so that the work gets done even where no thread can be started.
-    std::vector<std::jthread> threads;
-    for (std::size_t i = 1; i < std::min(count, m_readers.size()); ++i) {
-        try {
-            threads.emplace_back([&work, &reader = m_readers[i]] {
-                nameThisThread("orlen-duplicate");
-                work(reader);
-            });
-        } catch (const std::system_error&) {
-            break;
-        }
-    }
-    work(m_readers.front());
+            task(m_readers[thread], i);
+    });
 }
 
 std::int64_t ReadingThreads::filesOpened() const

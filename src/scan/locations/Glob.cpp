@@ -1,6 +1,7 @@
 #include "scan/locations/Glob.h"
 
 #include "platform/Folder.h"
+#include "platform/NamePattern.h"
 #include "platform/PathText.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ std::vector<std::string> foldersMatching(const std::string& parent, std::string_
     FolderReader reader(fd.value().get());
     while (const auto chunk = reader.next()) {
         chunk->forEach([&](const FolderEntry& entry) {
-            if (matches(pattern, entry.name) && isFolder(fd.value().get(), entry))
+            if (NamePattern::matches(pattern, entry.name) && isFolder(fd.value().get(), entry))
                 names.emplace_back(entry.name);
         });
     }
@@ -52,34 +53,10 @@ std::vector<Match> extended(const std::vector<Match>& parents, std::string_view 
 
 } // namespace
 
-bool matches(std::string_view pattern, std::string_view name)
-{
-    // Only the last "*" ever needs another try: what earlier ones swallowed was the shortest that fits.
-    std::size_t star = std::string_view::npos;
-    std::size_t retry = 0;
-    std::size_t p = 0;
-    std::size_t n = 0;
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == '*') {
-            star = p++;
-            retry = n;
-        } else if (p < pattern.size() && pattern[p] == name[n]) {
-            ++p;
-            ++n;
-        } else if (star != std::string_view::npos) {
-            p = star + 1;
-            n = ++retry;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of('*', p) == std::string_view::npos;
-}
-
 bool matchesAny(const std::vector<std::string_view>& patterns, std::string_view name)
 {
     return std::any_of(patterns.begin(), patterns.end(),
-                       [&](std::string_view pattern) { return matches(pattern, name); });
+                       [&](std::string_view pattern) { return NamePattern::matches(pattern, name); });
 }
 
 std::vector<Match> paths(const std::string& folder, std::string_view pattern)

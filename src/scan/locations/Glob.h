@@ -7,10 +7,7 @@
 /// Patterns in which "*" stands for any run of bytes within one component.
 namespace orlen::Glob {
 
-/// Whether the whole name fits the pattern. Pure.
-[[nodiscard]] bool matches(std::string_view pattern, std::string_view name);
-
-/// Whether the name fits any of the patterns.
+/// Whether the name fits any of the patterns. Pure.
 [[nodiscard]] bool matchesAny(const std::vector<std::string_view>& patterns, std::string_view name);
 
 struct Match {

@@ -1,5 +1,6 @@
 #include "scan/locations/SourceMap.h"
 
+#include "platform/NamePattern.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
 #include "scan/locations/Glob.h"
@@ -16,7 +17,7 @@ bool isExcluded(const SourceRow& row, const std::string& child)
     const std::string_view name = PathText::lastComponent(child);
     return std::any_of(row.except.begin(), row.except.end(), [&](std::string_view pattern) {
         const std::size_t slash = pattern.find('/');
-        if (!Glob::matches(pattern.substr(0, slash), name))
+        if (!NamePattern::matches(pattern.substr(0, slash), name))
             return false;
         return slash == std::string_view::npos || !Glob::paths(child, pattern.substr(slash)).empty();
     });

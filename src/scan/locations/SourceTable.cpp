@@ -194,7 +194,7 @@ std::vector<SourceRow> freedesktopRows()
         single(Kind::npm, "{CACHE}/node/corepack", "Corepack cache"),
         single(Kind::npm, "{CACHE}/electron", "Electron downloads"),
         single(Kind::npm, "{CACHE}/electron-builder", "Electron downloads"),
-        single(Kind::npm, "{CACHE}/pnpm", "pnpm cache"),
+        single(Kind::npm, "{CACHE}/pnpm", "pnpm's index; an install without network needs it"),
         single(Kind::npm, "{DATA}/pnpm/store", "pnpm store"),
         single(Kind::npm, "{H}/.pnpm-store", "pnpm store"),
         single(Kind::npm, "{CACHE}/ms-playwright", "Test browsers"),

@@ -1,6 +1,6 @@
 #include "scan/tree/DiskWorkers.h"
 
-#include "platform/ThreadName.h"
+#include "platform/Threads.h"
 
 #include <algorithm>
 
@@ -26,10 +26,11 @@ DiskWorkers::DiskWorkers()
 {
     const unsigned wanted = std::clamp(std::thread::hardware_concurrency() * 4, kFewestThreads, kMostThreads);
     for (unsigned i = 0; i < wanted; ++i) {
-        m_threads.emplace_back([this](const std::stop_token& stop) {
-            nameThisThread("orlen-disk");
-            work(stop);
-        });
+        // A job's owner does all that nobody else does, also where no thread can be had.
+        auto thread = Threads::start("orlen-disk", [this](const std::stop_token& stop) { work(stop); });
+        if (!thread)
+            break;
+        m_threads.push_back(std::move(*thread));
     }
 }
 

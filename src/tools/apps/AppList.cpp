@@ -6,6 +6,7 @@
 #include "platform/PathText.h"
 #include "platform/Places.h"
 #include "platform/RunningPrograms.h"
+#include "platform/Threads.h"
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
 #include "tools/apps/Launchers.h"
@@ -16,7 +17,6 @@
 #include <atomic>
 #include <iterator>
 #include <mutex>
-#include <thread>
 
 namespace orlen::AppList {
 
@@ -75,7 +75,7 @@ void measure(std::span<const AppInfo> apps, const Measured& measured, const std:
 {
     std::atomic<std::size_t> next{0};
     std::mutex telling;
-    const auto work = [&] {
+    Threads::runOn("orlen-apps", std::min(kMeasuredAtOnce, apps.size()), [&](std::size_t) {
         for (std::size_t i = next++; i < apps.size(); i = next++) {
             const std::int64_t bytes = FS::allocatedSize(apps[i].path, stop);
             // What a stopped measurement returns is not the whole.
@@ -84,11 +84,7 @@ void measure(std::span<const AppInfo> apps, const Measured& measured, const std:
                 return;
             measured(i, bytes);
         }
-    };
-    std::vector<std::jthread> threads;
-    for (std::size_t i = 1; i < std::min(kMeasuredAtOnce, apps.size()); ++i)
-        threads.emplace_back(work);
-    work();
+    });
 }
 
 bool isRunning(const AppInfo& app)
