@@ -7,6 +7,7 @@
 #include "clean/Safety.h"
 #include "platform/CheckedSum.h"
 #include "platform/Folder.h"
+#include "platform/OwnFile.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
 #include "scan/ScanEngine.h"
@@ -72,6 +73,8 @@ void AppModel::load()
         lock = FolderLock::take(Persist::dir());
     if (m_isWriter || lock)
         History::recover(m_history);
+    for (const std::string& folder : Places::current().expand("{CONFIG}/autostart"))
+        OwnFile::removeUnfinished(folder);
 }
 
 void AppModel::startUp()

@@ -50,7 +50,7 @@ enum class State { cleaning, cleaned, restoring };
 void remove(const Uuid& id, State state);
 /// The clean-up is in the history by now. On failure it stays as it was, which the next start finds.
 void settle(const Uuid& id);
-/// Removes what killed writings left behind. Only while no other process of the program writes.
+/// Removes what killed writings left behind.
 void removeUnfinished();
 
 } // namespace Journals

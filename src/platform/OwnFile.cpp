@@ -8,6 +8,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <random>
@@ -30,16 +33,23 @@ Result<UniqueFd> openForWriting(const std::string& path, int flags)
     return file;
 }
 
-/// Whether a name is one of those that a file has until it is whole: "NAME.new-PROCESS-NUMBER".
-bool isUnfinished(std::string_view name)
+constexpr std::string_view kDigits = "0123456789";
+
+/// Whether a name is one that a file has until it is whole, "NAME.new-PROCESS-NUMBER", and that process is no
+/// more.
+bool isLeftOver(std::string_view name)
 {
     const std::size_t mark = name.rfind(kUnfinishedMark);
     if (mark == std::string_view::npos || mark == 0)
         return false;
     const std::string_view numbers = name.substr(mark + kUnfinishedMark.size());
-    const std::size_t dash = numbers.find('-');
-    return dash != std::string_view::npos && dash > 0 && dash + 1 < numbers.size() &&
-           numbers.find_first_not_of("0123456789-") == std::string_view::npos;
+    const std::size_t dash = numbers.find_first_not_of(kDigits);
+    const bool isOurs = dash != std::string_view::npos && dash > 0 && dash + 1 < numbers.size() &&
+                        numbers[dash] == '-' &&
+                        numbers.find_first_not_of(kDigits, dash + 1) == std::string_view::npos;
+    pid_t process = 0;
+    std::from_chars(numbers.data(), numbers.data() + numbers.size(), process);
+    return isOurs && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
 } // namespace
@@ -92,7 +102,7 @@ Result<void> rename(const std::string& path, const std::string& newName)
 void removeUnfinished(const std::string& folder)
 {
     for (const std::string& name : listNames(folder)) {
-        if (isUnfinished(name))
+        if (isLeftOver(name))
             (void)removeOwnFile(PathText::join(folder, name));
     }
 }

@@ -19,8 +19,7 @@ namespace orlen::OwnFile {
 /// Gives the file another name in its folder, over what has that name.
 [[nodiscard]] Result<void> rename(const std::string& path, const std::string& newName);
 
-/// Removes what `replaceFile` and `writeNewFile` left in a folder when they were killed. Only while no other
-/// process of the program writes there.
+/// Removes what `replaceFile` and `writeNewFile` left in a folder when their process was killed.
 void removeUnfinished(const std::string& folder);
 
 } // namespace orlen::OwnFile

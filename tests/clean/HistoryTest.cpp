@@ -14,6 +14,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <unistd.h>
 
 namespace orlen {
 
@@ -83,6 +84,20 @@ TEST_F(HistoryTest, journalsGoWithTheLastItemThatIsPutBack)
     std::filesystem::remove(home.path("b"));
     EXPECT_TRUE(History::update(history, Cleaner::restore(history.front()).record).ok());
     EXPECT_THAT(listNames(folder + "/journal"), IsEmpty());
+}
+
+TEST_F(HistoryTest, whatKilledWritingsLeftBehindIsRemoved)
+{
+    const std::string gone = ".new-4999999-3"; // beyond the largest number of a process
+    const std::string alive = ".new-" + std::to_string(::getpid()) + "-3";
+    for (const char* name : {"/history.json", "/journal/x.cleaning.json"})
+        (void)home.file(folder + name + gone), (void)home.file(folder + name + alive);
+    for (const char* name : {"/.new-4999999-3", "/a.new-4999999-", "/a.new-49 -3", "/a.new-4999999-3x"})
+        (void)home.file(folder + name);
+    History::recover(history);
+    EXPECT_FALSE(TempHome::exists(folder + "/history.json" + gone));
+    EXPECT_FALSE(TempHome::exists(folder + "/journal/x.cleaning.json" + gone));
+    EXPECT_EQ(listNames(folder).size(), 6U);
 }
 
 TEST_F(HistoryTest, brokenJournalsAreNoObstacle)
