@@ -2,6 +2,7 @@
 
 #include "app/ScannedModel.h"
 #include "app/Sizes.h"
+#include "clean/Cleaner.h"
 #include "clean/Persist.h"
 #include "support/TempHome.h"
 
@@ -93,6 +94,34 @@ TEST(AppModelCleanupTest, whatCannotMoveIsCountedAndStays)
     ASSERT_THAT(model.history(), SizeIs(1));
     EXPECT_EQ(model.history().front().failed, 2);
     EXPECT_EQ(model.history().front().title, "Some of it");
+}
+
+TEST(AppModelCleanupTest, whatAKilledCleanUpMovedIsKnownAtTheNextStart)
+{
+    const TempHome home;
+    // As if the process had ended before it saved the record.
+    const auto killed = Cleaner::run(planOf({home.file(".cache/a")}).sections.front().entries, "Killed",
+                                     [](int, int, const std::string&) {});
+    {
+        const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        ASSERT_THAT(reader.history(), SizeIs(1)) << "who only reads sees it too";
+    }
+    AppModel model(kCommand);
+    ASSERT_THAT(model.history(), SizeIs(1));
+    EXPECT_EQ(model.history().front().id, killed.record.id);
+    EXPECT_EQ(model.restore(model.history().front()).outcome.restored, 1);
+}
+
+TEST(AppModelCleanupTest, aRecordThatCannotBeSavedIsTold)
+{
+    const TempHome home;
+    AppModel model(kCommand);
+    (void)home.folder(".local/share/Orlen/history.json"); // where a file belongs
+    ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/a"), home.path("gone")})));
+    EXPECT_FALSE(model.cleaning()->isRecorded);
+    EXPECT_EQ(model.cleaning()->failures,
+              (std::vector<CleanFailure>{{home.path("gone"), FailureReason::missing}}));
+    EXPECT_FALSE(model.restore(model.history().front()).isRecorded);
 }
 
 TEST(AppModelCleanupTest, aCleanUpThatMovedNothingLeavesNoRecord)
