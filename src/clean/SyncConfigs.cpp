@@ -7,6 +7,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace orlen::SyncConfigs {
@@ -54,17 +55,33 @@ void appendUtf8(std::string& text, std::uint32_t codePoint)
     }
 }
 
-/// The UTF-16 unit of an escape "\x" at the start of `text`, which is moved behind it; 0 when there is none.
-std::uint32_t takeUnit(std::string_view& text)
+/// The UTF-16 unit of an escape "\x" at the start of `text`, which is moved behind it; nothing when there is
+/// none.
+std::optional<std::uint32_t> takeUnit(std::string_view& text)
 {
     std::uint32_t unit = 0;
     if (!text.starts_with("\\x"))
-        return unit;
+        return std::nullopt;
     const auto [end, error] = std::from_chars(text.data() + 2, text.data() + text.size(), unit, 16);
     if (error != std::errc() || unit > 0xFFFF)
-        return 0;
+        return std::nullopt;
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return unit;
+}
+
+/// The character that begins with a unit already taken off the text: one unit, or two halves. A half without
+/// its other one becomes U+FFFD.
+std::uint32_t completed(std::uint32_t unit, std::string_view& text)
+{
+    constexpr std::uint32_t kReplacement = 0xFFFD;
+    if (unit < 0xD800 || unit > 0xDFFF)
+        return unit;
+    std::string_view behind = text;
+    const auto low = takeUnit(behind);
+    if (unit > 0xDBFF || !low || *low < 0xDC00 || *low > 0xDFFF)
+        return kReplacement;
+    text = behind;
+    return 0x10000 + ((unit - 0xD800) << 10U) + (*low - 0xDC00);
 }
 
 /// Older versions of the toolkit write every letter beyond ASCII as the hexadecimal escape of its UTF-16
@@ -73,10 +90,8 @@ std::string unescaped(std::string_view text)
 {
     std::string plain;
     while (!text.empty()) {
-        if (const std::uint32_t unit = takeUnit(text); unit != 0) {
-            const bool isHighHalf = unit >= 0xD800 && unit < 0xDC00;
-            const std::uint32_t low = isHighHalf ? takeUnit(text) : 0;
-            appendUtf8(plain, low < 0xDC00 ? unit : 0x10000 + ((unit - 0xD800) << 10U) + (low - 0xDC00));
+        if (const auto unit = takeUnit(text)) {
+            appendUtf8(plain, completed(*unit, text));
             continue;
         }
         if (text.front() == '\\' && text.size() > 1)
@@ -87,12 +102,19 @@ std::string unescaped(std::string_view text)
     return plain;
 }
 
+/// The reader of the text would otherwise keep a million levels of a hostile file in memory.
+bool isShallow(int depth, nlohmann::json::parse_event_t /*event*/, const nlohmann::json& /*value*/)
+{
+    constexpr int kDeepest = 8;
+    return depth <= kDeepest;
+}
+
 } // namespace
 
 std::vector<std::string> fromDropbox(std::string_view text)
 {
     std::vector<std::string> folders;
-    const auto accounts = nlohmann::json::parse(text, nullptr, false);
+    const auto accounts = nlohmann::json::parse(text, isShallow, false);
     if (!accounts.is_object())
         return folders;
     for (const auto& account : accounts) {

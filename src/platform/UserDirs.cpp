@@ -28,7 +28,9 @@ std::optional<std::string> unquoted(std::string_view text)
 std::optional<std::string> folderOf(std::string_view quoted, std::string_view home)
 {
     const auto value = unquoted(quoted);
-    if (!value)
+    // No path holds a zero byte: the system would read one only up to it, which may be the home folder
+    // itself.
+    if (!value || value->find('\0') != std::string::npos)
         return std::nullopt;
     constexpr std::string_view kHome = "$HOME";
     std::string path = *value;

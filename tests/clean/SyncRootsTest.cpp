@@ -39,13 +39,15 @@ TEST_F(SyncRootsTest, nextcloudEscapesAreDecoded)
                   "\r\n0\\Folders\\1\\localPathX=/x\n0\\Folders\\2\\localPath=\"" +
                   home.path("B\\xfc"
                             "ro, \\\"alt\\\" \\xd83d\\xde00") +
-                  "\"\n0\\Folders\\3\\targetPath=/remote\nlocalPath=\n");
+                  "\"\n0\\Folders\\4\\localPath=" + home.path("half\\xd83d\\xfcx\\xde00") +
+                  "\n0\\Folders\\3\\targetPath=/remote\nlocalPath=\n");
     home.file(".config/ownCloud/owncloud.cfg",
               "0\\FoldersWithPlaceholders\\1\\localPath=" + home.path("Grün"));
     home.file(".var/app/com.example.cloud/config/Nextcloud/nextcloud.cfg",
               "localPath = " + home.path("Boxed"));
-    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Next"), home.path("Büro, \"alt\" 😀"),
-                                              home.path("Grün"), home.path("Boxed")));
+    EXPECT_THAT(found(),
+                UnorderedElementsAre(home.path("Next"), home.path("Büro, \"alt\" 😀"),
+                                     home.path("half\uFFFDüx\uFFFD"), home.path("Grün"), home.path("Boxed")));
 }
 
 TEST_F(SyncRootsTest, syncthingFoldersAreRead)
@@ -89,6 +91,7 @@ TEST_F(SyncRootsTest, brokenAndHostileSettingsAreSurvived)
         {".local/state/syncthing/config.xml", "<configuration><folder path='~/x'"},
         {".local/state/syncthing/config.xml", "<other><folder path='~/x'/></other>"},
         {".config/Nextcloud/nextcloud.cfg", "localPath=\\x\nlocalPath=\\xffffff\nlocalPath=\\"},
+        {".config/Nextcloud/nextcloud.cfg", "localPath=\\x0\nlocalPath=~/a\\x0\nlocalPath=\\xd83d"},
         {".config/onedrive/config", "sync_dir=~/x\n" + std::string(4UL * 1024 * 1024, '#')},
         {".config/onedrive/config", "=\n==\nsync_dir"},
     };

@@ -47,6 +47,7 @@ TEST_F(TrashRestoreTest, refusesAnItemThatTheNameNoLongerStandsFor)
         {"another number without an info file", std::nullopt, {other, moved}, ESTALE},
         {"its number, from another place", TrashInfo::text(home.path("b"), moved), {own, moved}, ESTALE},
         {"its number, an illegible info file", "", {own, moved}, ESTALE},
+        {"its number, a zero byte in the path", infoText(path + "%00", "2025-03-01T00:00:00"), {own, moved}, ESTALE},
         {"no number, in time", info, {std::nullopt, moved + hours(1)}, 0},
         {"no number, moved after the clean-up", info, {std::nullopt, moved - hours(1)}, ESTALE},
         {"no number and no date in the file",

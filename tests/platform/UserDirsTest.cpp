@@ -40,6 +40,7 @@ TEST(UserDirsTest, entriesBelowTheHomeFolderAreTaken)
         SCOPED_TRACE(c.name);
         EXPECT_EQ(folderOf(c.line), c.folder);
     }
+    EXPECT_EQ(folderOf(std::string("XDG_MUSIC_DIR=\"$HOME/\0M\"", 24)), "") << "a zero byte";
 }
 
 TEST(UserDirsTest, laterLineForAKeyReplacesTheEarlier)

@@ -6,6 +6,7 @@
 #include "platform/PercentCoding.h"
 #include "platform/Uuid.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <optional>
 #include <string>
@@ -43,23 +44,8 @@ std::string nameOf(std::string_view line)
 
 bool hasInfo(int info, const std::string& name)
 {
-    return !name.empty() && name.find('/') == std::string::npos &&
+    return !name.empty() && name.find_first_of(std::string_view("/\0", 2)) == std::string::npos &&
            statusAt(info, TrashName::infoName(name).c_str()).ok();
-}
-
-/// The lines whose items are still there, but for those of `leftOut`.
-std::string current(std::string_view text, int info, std::string_view leftOut)
-{
-    std::string kept;
-    while (!text.empty()) {
-        const std::string_view line = text.substr(0, text.find('\n'));
-        text.remove_prefix(line.size() + 1);
-        // Programs differ in what they encode, so names are compared as decoded.
-        const std::string name = nameOf(line);
-        if (name != leftOut && hasInfo(info, name))
-            kept.append(line).push_back('\n');
-    }
-    return kept;
 }
 
 void write(int trash, std::string_view text)
@@ -73,11 +59,30 @@ void write(int trash, std::string_view text)
         (void)removeFileAt(trash, beside.c_str());
 }
 
+/// The lines whose items are still there, but for those of `leftOut`.
+std::string current(std::string_view text, int info, std::string_view leftOut)
+{
+    return linesOf(text, [&](const std::string& name) { return name != leftOut && hasInfo(info, name); });
+}
+
 } // namespace
 
 bool isUnfinished(std::string_view name)
 {
     return name.starts_with(kBeside) && Uuid::parse(name.substr(kBeside.size()));
+}
+
+std::string linesOf(std::string_view text, const std::function<bool(const std::string&)>& isKept)
+{
+    std::string kept;
+    while (!text.empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        // Programs differ in what they encode, so names are compared as decoded.
+        if (isKept(nameOf(line)))
+            kept.append(line).push_back('\n');
+    }
+    return kept;
 }
 
 void add(int trash, int info, std::string_view name, std::int64_t bytes, TimePoint infoTime)

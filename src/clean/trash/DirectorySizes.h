@@ -3,6 +3,8 @@
 #include "platform/Time.h"
 
 #include <cstdint>
+#include <functional>
+#include <string>
 #include <string_view>
 
 /// The file "directorysizes" of a Trash, in which programs share the sizes of trashed folders so that each
@@ -19,5 +21,10 @@ void remove(int trash, int info, std::string_view name);
 
 /// Whether a name in a Trash is that of a rewriting that did not come to its end.
 [[nodiscard]] bool isUnfinished(std::string_view name);
+
+/// The lines of such a file whose item `isKept` by its decoded name, which is empty for a malformed line;
+/// each ends in a newline. Pure.
+[[nodiscard]] std::string linesOf(std::string_view text,
+                                  const std::function<bool(const std::string&)>& isKept);
 
 } // namespace orlen::DirectorySizes

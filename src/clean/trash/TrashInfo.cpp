@@ -47,10 +47,10 @@ std::optional<TimePoint> timeFromLocal(std::string_view text)
     const auto hour = number(text, 11, 2, 10);
     const auto minute = number(text, 14, 2, 10);
     const auto second = number(text, 17, 2, 10);
-    // The clock counts nanoseconds in 64 bits: years outside 1678 to 2261 would wrap.
-    if (!year || !month || !day || !hour || !minute || !second || *year < 1678 || *year > 2261)
+    // Farther apart, the nanoseconds between two times would not fit into 64 bits.
+    if (!year || !month || !day || !hour || !minute || !second || *year < 1900 || *year > 2190)
         return std::nullopt;
-    if (*month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 || *second > 60)
+    if (*month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 || *second > 59)
         return std::nullopt;
     std::tm local{};
     local.tm_year = *year - 1900;
@@ -107,7 +107,8 @@ std::optional<TrashInfo> TrashInfo::parse(std::string_view text)
             date = valueOf(line, "DeletionDate");
     }
     auto decoded = PercentCoding::decoded(path.value_or(""));
-    if (!decoded || decoded->empty())
+    // The kernel would read a path only up to its first zero byte.
+    if (!decoded || decoded->empty() || decoded->find('\0') != std::string::npos)
         return std::nullopt;
     return TrashInfo{*std::move(decoded), date ? timeFromLocal(*date) : std::nullopt};
 }

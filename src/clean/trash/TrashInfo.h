@@ -17,8 +17,8 @@ struct TrashInfo {
 
     /// The whole content of the info file; whole seconds, local time.
     [[nodiscard]] static std::string text(std::string_view path, TimePoint deleted);
-    /// Nothing when the text is no info file, names no path, or the path is not encoded properly. Keys of
-    /// other programs are ignored; of a repeated key the first counts.
+    /// Nothing when the text is no info file, names no path, or the path is not encoded properly or
+    /// holds a zero byte. Keys of other programs are ignored; of a repeated key the first counts.
     [[nodiscard]] static std::optional<TrashInfo> parse(std::string_view text);
 };
 
