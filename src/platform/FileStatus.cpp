@@ -1,5 +1,6 @@
 #include "platform/FileStatus.h"
 
+#include "platform/CheckedSum.h"
 #include "platform/PathText.h"
 #include "platform/Retrying.h"
 
@@ -15,14 +16,18 @@ namespace {
 
 // What the file system keeps in memory must do: no refresh from a server, no automount.
 constexpr int kFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+/// Of the counts that the system gives, whatever the file system's own blocks are.
+constexpr std::uint64_t kBlockSize = 512;
 constexpr unsigned kFields = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
 
 TimePoint toTimePoint(const statx_timestamp& stamp)
 {
     using namespace std::chrono;
-    // The clock's nanoseconds reach from 1678 to 2262: a file system's wilder dates are cut to that.
-    constexpr std::int64_t kFarthest = 9'200'000'000;
-    const std::int64_t whole = std::min(std::max<std::int64_t>(stamp.tv_sec, -kFarthest), kFarthest);
+    // A file system's wilder dates are cut to the years 1900 to 2191: farther apart, the nanoseconds between
+    // two of them would not fit into 64 bits.
+    constexpr std::int64_t kEarliest = -2'200'000'000;
+    constexpr std::int64_t kLatest = 7'000'000'000;
+    const std::int64_t whole = std::clamp<std::int64_t>(stamp.tv_sec, kEarliest, kLatest);
     return TimePoint(duration_cast<TimePoint::duration>(seconds(whole) + nanoseconds(stamp.tv_nsec)));
 }
 
@@ -47,7 +52,7 @@ Result<FileStatus> query(int folder, const char* name, int flags)
         return Errno{errno};
     FileStatus status;
     status.type = toType(raw.stx_mode);
-    status.allocatedBytes = static_cast<std::int64_t>(raw.stx_blocks) * 512;
+    status.allocatedBytes = cappedBytes(raw.stx_blocks, kBlockSize);
     status.length = static_cast<std::int64_t>(raw.stx_size);
     status.identity = {makedev(raw.stx_dev_major, raw.stx_dev_minor), raw.stx_ino};
     status.mount = raw.stx_mnt_id;

@@ -38,7 +38,7 @@ struct LastingIdentity {
 /// What the file system tells of one name; a link is described itself, never what it points to.
 struct FileStatus {
     FileType type = FileType::other;
-    std::int64_t allocatedBytes = 0; ///< bytes occupied on disk
+    std::int64_t allocatedBytes = 0; ///< bytes occupied on disk, at most `kMostBytes`
     std::int64_t length = 0;         ///< bytes of content
     FileIdentity identity;
     std::uint64_t mount = 0; ///< number of the mount it was reached through, see MountTable

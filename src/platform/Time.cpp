@@ -56,8 +56,8 @@ std::optional<TimePoint> timeFromIso(std::string_view text)
     if (!y || !mo || !d || !h || !mi || !s || *h > 23 || *mi > 59 || *s > 59)
         return std::nullopt;
     const year_month_day date(year(*y), month(static_cast<unsigned>(*mo)), day(static_cast<unsigned>(*d)));
-    // The clock counts nanoseconds in 64 bits: years outside 1678 to 2261 would wrap.
-    if (!date.ok() || *y < 1678 || *y > 2261)
+    // Farther apart, the nanoseconds between two times would not fit into 64 bits.
+    if (!date.ok() || *y < 1900 || *y > 2190)
         return std::nullopt;
     return TimePoint(sys_days(date)) + hours(*h) + minutes(*mi) + seconds(*s);
 }

@@ -13,7 +13,8 @@ using TimePoint = std::chrono::system_clock::time_point;
 /// "2025-03-01T09:30:00Z": UTC, whole seconds (earlier fractions are cut towards the past).
 [[nodiscard]] std::string isoText(TimePoint time);
 
-/// Reads exactly the form that `isoText` writes; nothing for any other text or an impossible date.
+/// Reads exactly the form that `isoText` writes; nothing for any other text, an impossible date or a
+/// year outside 1900 to 2190.
 [[nodiscard]] std::optional<TimePoint> timeFromIso(std::string_view text);
 
 } // namespace orlen

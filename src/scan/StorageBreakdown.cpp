@@ -33,7 +33,7 @@ public:
         std::int64_t bytes = 0;
         for (const TreeFile& file : files) {
             if (file.status.links < 2 || category.isNew(file.status.identity))
-                bytes = checkedAdd(bytes, file.status.allocatedBytes);
+                bytes = cappedAdd(bytes, file.status.allocatedBytes);
         }
         addTo(category.bytes, bytes);
     }

@@ -46,10 +46,10 @@ public:
         }
         std::int64_t bytes = 0;
         for (const TreeFile& file : files)
-            bytes = checkedAdd(bytes, file.status.allocatedBytes);
+            bytes = cappedAdd(bytes, file.status.allocatedBytes);
         const std::lock_guard guard(m_lock);
         TreeNode& child = m_nodes[folder.tag()];
-        child.size = checkedAdd(child.size, bytes);
+        child.size = cappedAdd(child.size, bytes);
     }
 
     /// After the scan; the nodes have no paths yet.
@@ -71,7 +71,7 @@ TreeNode groupOf(std::span<const TreeNode> leftOut, const std::string& folder)
 {
     TreeNode group{std::to_string(leftOut.size()).append(kSmallerItems), folder, 0, false, true};
     for (const TreeNode& node : leftOut)
-        group.size = checkedAdd(group.size, node.size);
+        group.size = cappedAdd(group.size, node.size);
     return group;
 }
 

@@ -22,7 +22,7 @@ public:
     {
         std::int64_t bytes = 0;
         for (const TreeFile& file : files)
-            bytes = checkedAdd(bytes, file.status.allocatedBytes);
+            bytes = cappedAdd(bytes, file.status.allocatedBytes);
         addTo(m_sums[folder.tag()], bytes);
     }
 
@@ -37,7 +37,7 @@ private:
 void addTo(std::atomic<std::int64_t>& sum, std::int64_t bytes)
 {
     std::int64_t before = sum.load();
-    while (!sum.compare_exchange_weak(before, checkedAdd(before, bytes))) {
+    while (!sum.compare_exchange_weak(before, cappedAdd(before, bytes))) {
     }
 }
 
