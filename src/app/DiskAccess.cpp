@@ -26,9 +26,13 @@ std::string followed(const std::string& folder)
     return folder + "/.";
 }
 
-bool isMissing(const std::string& folder)
+/// Whether nothing is there: no entry of that name, no folder that could hold it, or a link to nothing. Not
+/// what is only out of reach.
+bool isMissing(const std::string& path)
 {
-    return statusOf(followed(folder)).error() == ENOENT;
+    const auto end = linkEnd(path);
+    const int error = end.ok() ? statusOf(end.value()).error() : end.error();
+    return error == ENOENT || error == ENOTDIR || error == ELOOP;
 }
 
 bool isListableOrMissing(const std::string& folder)

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace orlen {
 
 namespace {
@@ -24,6 +26,35 @@ TEST(DiskAccessTest, aProtectedFolderDecidesWhenItExists)
     EXPECT_TRUE(isGranted());
     TempHome::setMode(home.path("Library/Safari"), 0000);
     EXPECT_FALSE(isGranted());
+}
+
+TEST(DiskAccessTest, onlyWhatIsThereIsProbed)
+{
+    struct Case {
+        const char* name;
+        std::function<void(const TempHome&)> prepare;
+        bool isGranted;
+    };
+    const Case cases[] = {
+        {"a file where its folder would be", [](const TempHome& home) { home.file("Library"); }, true},
+        {"a link to nothing", [](const TempHome& home) { home.link("Library/Safari", "gone"); }, true},
+        {"a link into a file",
+         [](const TempHome& home) { home.link("Library/Safari", home.file("f") + "/x"); }, true},
+        {"a link to itself", [](const TempHome& home) { home.link("Library/Safari", "Safari"); }, true},
+        {"a link to a folder", [](const TempHome& home) { home.link("Library/Safari", home.folder("d")); },
+         true},
+        {"a file", [](const TempHome& home) { home.file("Library/Safari"); }, false},
+        {"a link to a file", [](const TempHome& home) { home.link("Library/Safari", home.file("f")); },
+         false},
+        {"a folder out of reach",
+         [](const TempHome& home) { TempHome::setMode(home.folder("Library"), 0000); }, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const TempHome home;
+        c.prepare(home);
+        EXPECT_EQ(isGranted(), c.isGranted);
+    }
 }
 
 TEST(DiskAccessTest, theUsersOwnFoldersDecideOtherwise)
