@@ -9,6 +9,7 @@
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -60,11 +61,18 @@ AppModel::ScanResult AppModel::scanned(ScanEngine& engine)
     Safety::refresh();
     ScanResult result;
     const std::stop_token stop = engine.flag().token();
-    std::jthread measuring([&result, stop] { result.breakdown = StorageBreakdown::compute(stop); });
+    const auto measure = [&result, stop] { result.breakdown = StorageBreakdown::compute(stop); };
+    std::jthread measuring;
+    try {
+        measuring = std::jthread(measure);
+    } catch (const std::system_error&) {
+        measure();
+    }
     std::vector<Finding> raw = engine.run();
     if (!stop.stop_requested())
         result.findings = Rater::rate(std::move(raw));
-    measuring.join();
+    if (measuring.joinable())
+        measuring.join();
     return result;
 }
 

@@ -1,6 +1,8 @@
 #include "app/Workers.h"
 
 #include <atomic>
+#include <cstdio>
+#include <system_error>
 
 namespace orlen {
 
@@ -8,16 +10,25 @@ struct Workers::Ended {
     std::atomic<bool> flag{false};
 };
 
-std::stop_source Workers::launch(std::function<void(std::stop_token)> work)
+std::stop_source Workers::launch(const std::function<void(std::stop_token)>& work)
 {
     m_workers.remove_if([](const Worker& worker) { return worker.ended->flag.load(); });
     const auto ended = std::make_shared<Ended>();
-    std::jthread thread([work = std::move(work), ended](const std::stop_token& stop) {
-        work(stop);
-        ended->flag = true;
-    });
-    std::stop_source stop = thread.get_stop_source();
-    m_workers.push_back({ended, std::move(thread)});
+    try {
+        std::jthread thread([work, ended](const std::stop_token& stop) {
+            work(stop);
+            ended->flag = true;
+        });
+        std::stop_source stop = thread.get_stop_source();
+        m_workers.push_back({ended, std::move(thread)});
+        return stop;
+    } catch (const std::system_error& error) {
+        // Slow is better than not at all, and a clean-up must end in the history.
+        std::fprintf(stderr, "orlen: no thread could be started (%s); working without one.\n",
+                     error.code().message().c_str());
+    }
+    std::stop_source stop;
+    work(stop.get_token());
     return stop;
 }
 

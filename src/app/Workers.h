@@ -12,7 +12,8 @@
 namespace orlen {
 
 /// Threads that do the blocking work of an object of the main thread. Each piece of work has a thread of its
-/// own, so that none waits for another whatever the number of cores. Used on the main thread.
+/// own, so that none waits for another whatever the number of cores; when the system gives none, it is done
+/// before `start` returns. Used on the main thread.
 class Workers {
 public:
     explicit Workers(QObject& owner) : m_mainThread(owner) {}
@@ -46,7 +47,7 @@ private:
         std::jthread thread;
     };
 
-    std::stop_source launch(std::function<void(std::stop_token)> work);
+    std::stop_source launch(const std::function<void(std::stop_token)>& work);
 
     MainThread m_mainThread;
     std::list<Worker> m_workers;
