@@ -1,5 +1,6 @@
 #include "app/AppModel.h"
 
+#include "app/AppTexts.h"
 #include "app/DiskAccess.h"
 #include "clean/History.h"
 #include "clean/Persist.h"
@@ -15,6 +16,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <cerrno>
 #include <utility>
 
 namespace orlen {
@@ -22,13 +24,37 @@ namespace orlen {
 namespace {
 
 constexpr std::chrono::hours kSnapshotAge{12};
+/// Scans in quick succession are one reading of the disk.
+constexpr std::chrono::hours kReplacedAge{1};
 constexpr std::size_t kSnapshotLimit = 400;
 constexpr std::chrono::seconds kVolumeInterval{60};
 
-/// Without a data folder there is nothing to fight over: the saves will fail, and nothing else does.
-bool mayWrite(const std::optional<FolderLock>& lock, const std::string& folder)
+/// What was loaded; of what went wrong a sentence is added to the notices.
+template <typename Record>
+std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFile& file,
+                          std::vector<std::string>& notices)
 {
-    return lock.has_value() || !isListable(PathText::join(folder, "."));
+    if (loaded.problem == Persist::Problem::damaged)
+        notices.push_back(AppTexts::damaged(file));
+    else if (loaded.problem == Persist::Problem::unreadable)
+        notices.push_back(AppTexts::unreadable(file, loaded.error));
+    return std::move(loaded.records);
+}
+
+void keepNewest(std::vector<Snapshot>& snapshots)
+{
+    if (snapshots.size() > kSnapshotLimit)
+        snapshots.erase(snapshots.begin(), snapshots.end() - kSnapshotLimit);
+}
+
+/// Whether a new snapshot takes the place of the newest. Not past midnight: a scan every half hour would
+/// never leave a second one.
+bool isReplaced(const std::vector<Snapshot>& snapshots, TimePoint now)
+{
+    using std::chrono::days;
+    using std::chrono::floor;
+    return !snapshots.empty() && now - snapshots.back().date < kReplacedAge &&
+           floor<days>(now) == floor<days>(snapshots.back().date);
 }
 
 } // namespace
@@ -37,9 +63,12 @@ AppModel::AppModel(const Options& options, QObject* parent)
     : QObject(parent), m_options(options), m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
 {
     if (m_options.access == Access::writer) {
-        const std::string folder = Persist::dir();
-        m_lock = FolderLock::take(folder);
-        m_isWriter = mayWrite(m_lock, folder);
+        // Without a data folder, or locks on its file system, there is nothing to tell another Orlen by.
+        const auto folder = Persist::makeDir();
+        auto lock = folder.ok() ? FolderLock::take(folder.value()) : Errno{folder.error()};
+        m_isWriter = lock.error() != EWOULDBLOCK;
+        if (lock.ok())
+            m_lock = std::move(lock).value();
     }
     load();
     m_isFdaGranted = checkFDA();
@@ -64,14 +93,18 @@ AppModel::~AppModel()
 
 void AppModel::load()
 {
-    m_history = Persist::loadHistory();
-    m_snapshots = Persist::loadSnapshots();
+    const Persist::Loaded<CleanRecord> loaded = Persist::loadHistory();
+    m_history = taken(loaded, AppTexts::kHistory, m_notices);
+    m_snapshots = taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices);
+    keepNewest(m_snapshots);
+    // What was begun belongs to records that cannot be seen now.
+    if (loaded.problem == Persist::Problem::unreadable)
+        return;
     // Who only reads wants to see what a killed clean-up moved all the same, unless that is at work
     // elsewhere.
-    std::optional<FolderLock> lock;
-    if (!m_isWriter && History::isUnfinished())
-        lock = FolderLock::take(Persist::dir());
-    if (m_isWriter || lock)
+    const auto lock = !m_isWriter && History::isUnfinished() ? FolderLock::take(Persist::dir())
+                                                             : Result<FolderLock>(Errno{EWOULDBLOCK});
+    if (m_isWriter || lock.ok())
         History::recover(m_history);
     for (const std::string& folder : Places::current().expand("{CONFIG}/autostart"))
         OwnFile::removeUnfinished(folder);
@@ -141,11 +174,13 @@ void AppModel::recordSnapshot()
     Snapshot snapshot{std::chrono::system_clock::now(), m_breakdown.free, m_breakdown.total, {}};
     for (const auto& [category, bytes] : m_breakdown.cats)
         snapshot.cats.emplace(rawValue(category), bytes);
+    if (isReplaced(m_snapshots, snapshot.date))
+        m_snapshots.pop_back();
     m_snapshots.push_back(std::move(snapshot));
-    if (m_snapshots.size() > kSnapshotLimit)
-        m_snapshots.erase(m_snapshots.begin(), m_snapshots.end() - kSnapshotLimit);
+    keepNewest(m_snapshots);
+    // A lost snapshot costs only a little of the forecast.
     if (m_isWriter)
-        Persist::saveSnapshots(m_snapshots);
+        (void)Persist::saveSnapshots(m_snapshots);
     Q_EMIT snapshotsChanged();
 }
 

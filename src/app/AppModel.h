@@ -83,6 +83,8 @@ public:
     [[nodiscard]] const std::vector<CleanRecord>& history() const { return m_history; }
     /// Oldest first, at most 400.
     [[nodiscard]] const std::vector<Snapshot>& snapshots() const { return m_snapshots; }
+    /// What the user should know of the program's own files since the start, one sentence each; mostly none.
+    [[nodiscard]] const std::vector<std::string>& notices() const { return m_notices; }
     /// Decimal megabytes from which a file counts as large.
     [[nodiscard]] double largeThresholdMB() const { return m_largeThresholdMB; }
     [[nodiscard]] bool isFdaGranted() const { return m_isFdaGranted; }
@@ -111,7 +113,8 @@ public:
 
     /// Measures the storage breakdown anew; a snapshot is recorded after it when one is due and asked for.
     void refreshBreakdown(Recording recording);
-    /// Appends a snapshot of the current breakdown, drops the oldest beyond 400, and saves the list.
+    /// Appends a snapshot of the current breakdown in place of one of the past hour, drops the oldest beyond
+    /// 400, and saves the list.
     void recordSnapshot();
 
     /// Starts a Smart Scan unless one is running. The phase turns to `results` at its end, or back to `idle`
@@ -237,6 +240,7 @@ private:
     std::optional<CleaningState> m_cleaning;
     std::vector<CleanRecord> m_history;
     std::vector<Snapshot> m_snapshots;
+    std::vector<std::string> m_notices;
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;
     std::shared_ptr<const ScanProgress> m_scanProgress;

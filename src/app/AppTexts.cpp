@@ -1,5 +1,7 @@
 #include "app/AppTexts.h"
 
+#include <system_error>
+
 namespace orlen::AppTexts {
 
 std::string restored(int restored, int failed)
@@ -10,6 +12,20 @@ std::string restored(int restored, int failed)
     return count + "; " + std::to_string(failed) +
            " couldn't be restored (already emptied from the Trash, or something exists at the original "
            "location).";
+}
+
+std::string damaged(const OwnFile& file)
+{
+    const std::string name(file.stem);
+    return std::string(file.subject) + " is damaged, so only what is legible of it is used. " + name +
+           ".json is kept as " + name + ".unreadable-….json before a new one is written.";
+}
+
+std::string unreadable(const OwnFile& file, int error)
+{
+    return std::string(file.subject) + " could not be read (" + std::generic_category().message(error) +
+           "). " + std::string(file.stem) +
+           ".json is left as it is, and nothing is added to it until it can be.";
 }
 
 } // namespace orlen::AppTexts

@@ -101,6 +101,9 @@ bool isUnfinished()
 
 bool recover(std::vector<CleanRecord>& history)
 {
+    // Nothing is done in a home folder that is somebody else's.
+    if (!Persist::makeDir().ok())
+        return false;
     bool hasChanged = false;
     for (const Uuid& id : Journals::all(State::cleaning))
         hasChanged = recoverClean(history, id) || hasChanged;

@@ -118,6 +118,8 @@ Result<void> write(const Journal& journal, State state)
     if (text.size() > kJournalLimit)
         return Errno{EFBIG};
     return Reserve::withRoom(Reserve::Use::record, [&]() -> Result<void> {
+        if (const auto folder = Persist::makeDir(); !folder.ok())
+            return Errno{folder.error()};
         if (const auto made = makeFolders(journalFolder(), 0700); !made.ok())
             return made;
         return replaceFile(journalPath(journal.id, state), text);

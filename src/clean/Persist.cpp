@@ -9,40 +9,169 @@
 
 #include <nlohmann/json.hpp>
 
-#include <optional>
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <map>
+#include <string_view>
+#include <utility>
 
 namespace orlen::Persist {
 
 namespace {
 
-constexpr const char* kHistory = "history.json";
-constexpr const char* kSnapshots = "scans.json";
-/// Far beyond a lifetime's history; a file of another size was not written by this program.
-constexpr std::size_t kReadLimit = 256'000'000;
+/// A lifetime's history; reading takes little more memory than this.
+constexpr std::size_t kLimit = 32'000'000;
+/// How many files that could not be understood are kept of each kind.
+constexpr std::size_t kKeptAside = 3;
 
 template <typename Record>
-Result<void> save(const std::vector<Record>& records, const char* name)
+struct Kind {
+    std::string_view stem; ///< of the file's name
+    RecordJson::Decoded<Record> (*decode)(std::string text);
+};
+
+constexpr Kind<CleanRecord> kHistory{"history", RecordJson::decodeHistory};
+constexpr Kind<Snapshot> kSnapshots{"scans", RecordJson::decodeSnapshots};
+
+std::string fileName(std::string_view stem)
 {
-    auto array = nlohmann::ordered_json::array();
-    for (const Record& record : records)
-        array.push_back(RecordJson::encode(record));
-    // Bytes that are not UTF-8 become U+FFFD: one illegible name must not cost the whole file.
-    const std::string text = array.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
-    return Reserve::withRoom(Reserve::Use::record,
-                             [&] { return replaceFile(PathText::join(dir(), name), text); });
+    return std::string(stem) + ".json";
 }
 
-std::string read(const char* name)
+/// Why files, by their path, could not be read when they were last loaded: what they hold is not in what the
+/// caller saves.
+std::map<std::string, int>& failedLoads()
 {
-    return readSmallFile(PathText::join(dir(), name), kReadLimit).value_or("");
+    static std::map<std::string, int> failures;
+    return failures;
+}
+
+/// ENOENT when there is no such file and none is hidden: a link into a folder that is gone, which leads to a
+/// disk that is not there today, is ENOTDIR.
+Result<std::string> readLinked(const std::string& path)
+{
+    const auto end = linkEnd(path);
+    if (!end.ok())
+        return Errno{end.error()};
+    auto text = readWholeFile(end.value(), kLimit);
+    if (text.error() != ENOENT && text.error() != ENOTDIR)
+        return text;
+    const bool isHidden =
+        end.value() != path && !isListable(PathText::join(PathText::parent(end.value()), "."));
+    return Errno{isHidden ? ENOTDIR : ENOENT};
+}
+
+template <typename Record>
+Loaded<Record> load(const Kind<Record>& kind)
+{
+    const std::string path = PathText::join(dir(), fileName(kind.stem));
+    failedLoads().erase(path);
+    auto text = readLinked(path);
+    if (text.error() == EFBIG)
+        return {{}, Problem::damaged};
+    if (text.error() == ENOENT)
+        return {};
+    if (!text.ok()) {
+        failedLoads()[path] = text.error();
+        return {{}, Problem::unreadable, text.error()};
+    }
+    auto decoded = kind.decode(std::move(text).value());
+    return {std::move(decoded.records), decoded.isWhole ? Problem::none : Problem::damaged};
+}
+
+/// "20250301T093000Z"
+std::string stampOf(TimePoint time)
+{
+    std::string text = isoText(time);
+    std::erase_if(text, [](char c) { return c == '-' || c == ':'; });
+    return text;
+}
+
+/// Gives the file another name beside its own, and lets the oldest of such files go.
+Result<void> setAside(const std::string& file, std::string_view stem)
+{
+    const std::string folder(PathText::parent(file));
+    const std::string start = std::string(stem) + ".unreadable-";
+    const std::string aside = start + stampOf(std::chrono::system_clock::now()) + ".json";
+    const std::string target = PathText::join(folder, aside);
+    if (auto renamed = renameOwnFile(file, target); !renamed.ok())
+        return renamed;
+    std::vector<std::string> names = listNames(folder);
+    std::erase_if(names, [&](const std::string& name) {
+        return !name.starts_with(start) || name.size() != aside.size() || !name.ends_with(".json");
+    });
+    std::sort(names.begin(), names.end(), std::greater());
+    for (std::size_t i = kKeptAside; i < names.size(); ++i)
+        (void)removeOwnFile(PathText::join(folder, names[i]));
+    return {};
+}
+
+/// Sees to it that nothing is lost when `file`, to which `path` leads, is written over.
+template <typename Record>
+Result<void> makeReplaceable(const std::string& path, const std::string& file, const Kind<Record>& kind)
+{
+    if (const auto status = statusOf(file); status.error() == ENOENT)
+        return {};
+    if (const auto failed = failedLoads().find(path); failed != failedLoads().end())
+        return Errno{failed->second};
+    auto text = readWholeFile(file, kLimit);
+    if (!text.ok() && text.error() != EFBIG)
+        return Errno{text.error()};
+    if (text.ok() && kind.decode(std::move(text).value()).isWhole)
+        return {};
+    return setAside(file, kind.stem);
+}
+
+template <typename Record>
+std::string encoded(const std::vector<Record>& records)
+{
+    using Json = nlohmann::ordered_json;
+    std::string text = "[";
+    for (const Record& record : records) {
+        text.append(text.size() > 1 ? "," : "");
+        // Bytes that are not UTF-8 become U+FFFD: one illegible name must not cost the whole file.
+        text += RecordJson::encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    return text + ']';
+}
+
+template <typename Record>
+Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
+{
+    const auto folder = makeDir();
+    if (!folder.ok())
+        return Errno{folder.error()};
+    const std::string path = PathText::join(folder.value(), fileName(kind.stem));
+    const auto file = linkEnd(path);
+    if (!file.ok())
+        return Errno{file.error()};
+    const std::string text = encoded(records);
+    // It could not be read again.
+    if (text.size() > kLimit)
+        return Errno{EFBIG};
+    if (auto ready = makeReplaceable(path, file.value(), kind); !ready.ok())
+        return ready;
+    auto written = Reserve::withRoom(Reserve::Use::record, [&] { return replaceFile(file.value(), text); });
+    if (written.ok())
+        failedLoads().erase(path);
+    return written;
 }
 
 } // namespace
 
 std::string dir()
 {
-    std::string folder = PathText::join(Places::current().data.front(), "Orlen");
-    (void)makeFolders(folder, 0700);
+    return PathText::join(Places::current().data.front(), "Orlen");
+}
+
+Result<std::string> makeDir()
+{
+    if (!Places::current().isHomeUsable)
+        return Errno{EPERM};
+    std::string folder = dir();
+    if (const auto made = makeFolders(folder, 0700); !made.ok())
+        return Errno{made.error()};
     return folder;
 }
 
@@ -51,19 +180,19 @@ Result<void> saveHistory(const std::vector<CleanRecord>& history)
     return save(history, kHistory);
 }
 
-void saveSnapshots(const std::vector<Snapshot>& snapshots)
+Result<void> saveSnapshots(const std::vector<Snapshot>& snapshots)
 {
-    (void)save(snapshots, kSnapshots);
+    return save(snapshots, kSnapshots);
 }
 
-std::vector<CleanRecord> loadHistory()
+Loaded<CleanRecord> loadHistory()
 {
-    return RecordJson::decodeHistory(read(kHistory)).value_or(std::vector<CleanRecord>());
+    return load(kHistory);
 }
 
-std::vector<Snapshot> loadSnapshots()
+Loaded<Snapshot> loadSnapshots()
 {
-    return RecordJson::decodeSnapshots(read(kSnapshots)).value_or(std::vector<Snapshot>());
+    return load(kSnapshots);
 }
 
 } // namespace orlen::Persist

@@ -1,9 +1,16 @@
 #include "clean/RecordJson.h"
 
+#include "platform/CheckedSum.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <limits>
+#include <optional>
+#include <string_view>
+#include <utility>
 
 namespace orlen::RecordJson {
 
@@ -11,30 +18,8 @@ namespace {
 
 using nlohmann::json;
 
-/// The records nest four deep. The library keeps nesting on the heap, so what this refuses is not a stack
-/// overflow but a small file that would need gigabytes.
+/// The records nest four deep; what lies deeper is no part of them and not kept.
 constexpr int kDeepest = 32;
-
-bool isTooDeep(std::string_view text)
-{
-    int depth = 0;
-    bool isInString = false;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char c = text[at];
-        if (isInString) {
-            at += c == '\\' ? 1 : 0;
-            isInString = c != '"';
-        } else if (c == '"') {
-            isInString = true;
-        } else if (c == '[' || c == '{') {
-            if (++depth > kDeepest)
-                return true;
-        } else if (c == ']' || c == '}') {
-            --depth;
-        }
-    }
-    return false;
-}
 
 const json* member(const json& object, const char* key)
 {
@@ -64,109 +49,248 @@ std::optional<bool> flag(const json& object, const char* key)
     return value->get<bool>();
 }
 
-/// A whole number from 0 to `largest`: sizes and counts are never negative.
-std::optional<std::int64_t> count(const json& value, std::int64_t largest)
-{
-    // Of the library's two kinds of whole number the signed one is only used for negative ones.
-    if (!value.is_number_unsigned() || value.get<std::uint64_t>() > static_cast<std::uint64_t>(largest))
-        return std::nullopt;
-    return value.get<std::int64_t>();
-}
-
-std::optional<std::int64_t> count(const json& object, const char* key,
-                                  std::int64_t largest = std::numeric_limits<std::int64_t>::max())
-{
-    const json* value = member(object, key);
-    return value == nullptr ? std::nullopt : count(*value, largest);
-}
-
-/// Adds sizes from a file, where a sum that does not fit is the file's fault and must not stop the program.
-class BoundedSum {
+/// Reads records and tells whether everything was as it must be.
+class Decoder {
 public:
-    [[nodiscard]] bool add(std::int64_t size) { return !__builtin_add_overflow(m_sum, size, &m_sum); }
+    [[nodiscard]] bool isExact() const { return m_isExact; }
+    /// Notes that something had to be left out.
+    void leaveOut() { m_isExact = false; }
+
+    std::optional<TrashedItem> item(const json& object)
+    {
+        auto original = text(object, "original");
+        auto trashed = text(object, "trashed");
+        const auto size = count(member(object, "size"), m_bytesLeft);
+        const auto restored = flag(object, "restored");
+        if (!original || !trashed || !size || !restored)
+            return std::nullopt;
+        m_bytesLeft -= *size;
+        return TrashedItem{*std::move(original), *std::move(trashed), *size, *restored};
+    }
+
+    /// But for its items.
+    std::optional<CleanRecord> record(const json& object)
+    {
+        const auto id = Uuid::parse(text(object, "id").value_or(""));
+        const auto date = time(object, "date");
+        auto title = text(object, "title");
+        const json* items = member(object, "items");
+        const auto failed = count(member(object, "failed"), std::numeric_limits<int>::max());
+        if (!id || !date || !title || items == nullptr || !items->is_array() || !failed)
+            return std::nullopt;
+        return CleanRecord{*id, *date, *std::move(title), {}, static_cast<int>(*failed)};
+    }
+
+    std::optional<Snapshot> snapshot(const json& object)
+    {
+        const auto date = time(object, "date");
+        const auto free = count(member(object, "free"), kMostBytes);
+        const auto total = count(member(object, "total"), kMostBytes);
+        const json* cats = member(object, "cats");
+        if (!date || !free || !total || cats == nullptr || !cats->is_object())
+            return std::nullopt;
+        Snapshot snapshot{*date, *free, *total, {}};
+        std::int64_t bytesLeft = kMostBytes;
+        for (const auto& [category, value] : cats->items()) {
+            const auto bytes = count(&value, bytesLeft);
+            if (!bytes)
+                return std::nullopt;
+            bytesLeft -= *bytes;
+            snapshot.cats[category] = *bytes;
+        }
+        return snapshot;
+    }
 
 private:
-    std::int64_t m_sum = 0;
+    /// A whole number, cut to 0 to `largest` when it lies outside; nothing for anything else.
+    std::optional<std::int64_t> count(const json* value, std::int64_t largest)
+    {
+        // What does not fit into 64 bits comes from the library as a fraction.
+        constexpr double kBeyondWhole = 9.2e18;
+        if (value == nullptr || !value->is_number() ||
+            (value->is_number_float() && std::abs(value->get<double>()) < kBeyondWhole))
+            return std::nullopt;
+        if (value->is_number_unsigned() && value->get<std::uint64_t>() <= static_cast<std::uint64_t>(largest))
+            return value->get<std::int64_t>();
+        m_isExact = false;
+        // The library has a signed kind of whole number for negative ones only.
+        const bool isNegative =
+            value->is_number_float() ? value->get<double>() < 0 : !value->is_number_unsigned();
+        return isNegative ? 0 : largest;
+    }
+
+    bool m_isExact = true;
+    std::int64_t m_bytesLeft = kMostBytes; ///< that all items together may have
 };
 
-std::optional<TrashedItem> decodeItem(const json& object)
-{
-    auto original = text(object, "original");
-    auto trashed = text(object, "trashed");
-    const auto size = count(object, "size");
-    const auto restored = flag(object, "restored");
-    if (!original || !trashed || !size || !restored)
-        return std::nullopt;
-    return TrashedItem{*std::move(original), *std::move(trashed), *size, *restored};
-}
+/// Takes the records out of the reader as soon as each is read, so that none of it stays in memory twice.
+class SnapshotCollector {
+public:
+    static constexpr std::string_view kFirstKey = "\"date\"";
 
-std::optional<CleanRecord> decodeRecord(const json& object)
-{
-    const auto id = Uuid::parse(text(object, "id").value_or(""));
-    const auto date = time(object, "date");
-    auto title = text(object, "title");
-    const json* items = member(object, "items");
-    const auto failed = count(object, "failed", std::numeric_limits<int>::max());
-    if (!id || !date || !title || items == nullptr || !items->is_array() || !failed)
-        return std::nullopt;
-    CleanRecord record{*id, *date, *std::move(title), {}, static_cast<int>(*failed)};
-    record.items.reserve(items->size());
-    for (const json& element : *items) {
-        auto item = decodeItem(element);
-        if (!item)
-            return std::nullopt;
-        record.items.push_back(*std::move(item));
+    bool take(int depth, json::parse_event_t event, const json& value)
+    {
+        if (depth != 1 || event != json::parse_event_t::object_end)
+            return true;
+        if (auto snapshot = m_decoder.snapshot(value))
+            m_records.push_back(*std::move(snapshot));
+        else
+            m_decoder.leaveOut();
+        return false;
     }
-    return record;
-}
 
-std::optional<Snapshot> decodeSnapshot(const json& object)
-{
-    const auto date = time(object, "date");
-    const auto free = count(object, "free");
-    const auto total = count(object, "total");
-    const json* cats = member(object, "cats");
-    if (!date || !free || !total || cats == nullptr || !cats->is_object())
-        return std::nullopt;
-    Snapshot snapshot{*date, *free, *total, {}};
-    BoundedSum sum;
-    for (const auto& [category, value] : cats->items()) {
-        const auto bytes = count(value, std::numeric_limits<std::int64_t>::max());
-        if (!bytes || !sum.add(*bytes))
-            return std::nullopt;
-        snapshot.cats[category] = *bytes;
+    Decoder& decoder() { return m_decoder; }
+    std::vector<Snapshot> records() && { return std::move(m_records); }
+
+private:
+    Decoder m_decoder;
+    std::vector<Snapshot> m_records;
+};
+
+/// The same for clean-ups, and for the items of one.
+class RecordCollector {
+public:
+    static constexpr std::string_view kFirstKey = "\"id\"";
+
+    bool take(int depth, json::parse_event_t event, const json& value)
+    {
+        using Event = json::parse_event_t;
+        if (depth == 2 && event == Event::key)
+            m_key = value.get<std::string>();
+        const bool isRecordStart = depth == 1 && event == Event::object_start;
+        if (isRecordStart || (depth == 2 && event == Event::array_start && m_key == "items")) {
+            m_items.clear();
+            m_lostItems = 0;
+        }
+        if (depth == 3 && m_key == "items" && event != Event::object_start && event != Event::array_start &&
+            event != Event::key)
+            return takeItem(value);
+        if (depth == 1 && event == Event::object_end)
+            return takeRecord(value);
+        return true;
     }
-    return snapshot;
-}
 
-template <typename Record>
-std::optional<std::vector<Record>> decodeArray(std::string_view source,
-                                               std::optional<Record> (*decode)(const json&))
-{
-    if (isTooDeep(source))
-        return std::nullopt;
-    const json array = json::parse(source, nullptr, false);
-    if (!array.is_array())
-        return std::nullopt;
-    std::vector<Record> records;
-    records.reserve(array.size());
-    for (const json& element : array) {
-        auto record = decode(element);
-        if (!record)
-            return std::nullopt;
-        records.push_back(*std::move(record));
+    Decoder& decoder() { return m_decoder; }
+    std::vector<CleanRecord> records() && { return std::move(m_records); }
+
+private:
+    bool takeItem(const json& value)
+    {
+        if (auto item = value.is_object() ? m_decoder.item(value) : std::nullopt)
+            m_items.push_back(*std::move(item));
+        else
+            ++m_lostItems;
+        return false;
     }
-    return records;
+
+    bool takeRecord(const json& value)
+    {
+        auto record = m_decoder.record(value);
+        const bool isEmptied = m_items.empty() && m_lostItems > 0;
+        if (!record || m_lostItems > 0)
+            m_decoder.leaveOut();
+        if (record && !isEmptied) {
+            record->items = std::move(m_items);
+            m_records.push_back(*std::move(record));
+        }
+        m_items.clear();
+        return false;
+    }
+
+    Decoder m_decoder;
+    std::string m_key; ///< in the record that is being read
+    std::vector<TrashedItem> m_items;
+    int m_lostItems = 0;
+    std::vector<CleanRecord> m_records;
+};
+
+/// Walks over a text and leaves behind how far it came, which the library does not tell.
+struct Cursor {
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    const char* at;
+    const char** farthest;
+
+    reference operator*() const { return *at; }
+    Cursor& operator++()
+    {
+        *farthest = ++at;
+        return *this;
+    }
+    bool operator==(const Cursor& other) const { return at == other.at; }
+};
+
+/// How far an array was sound.
+struct Reading {
+    bool isSound = false;
+    std::size_t reached = 0; ///< where reading ended
+    std::size_t taken = 0;   ///< behind the last complete record; 0 when there is none
+};
+
+template <typename Collector>
+Reading readArray(const std::string& text, std::size_t start, Collector& collector)
+{
+    using Event = json::parse_event_t;
+    Reading reading;
+    const char* farthest = text.data() + start;
+    const auto take = [&](int depth, Event event, const json& value) {
+        if (depth == 1 && (event == Event::value || event == Event::array_end))
+            collector.decoder().leaveOut();
+        if (depth == 1 && event == Event::object_end)
+            reading.taken = static_cast<std::size_t>(farthest - text.data());
+        return depth <= kDeepest && collector.take(depth, event, value);
+    };
+    const char* end = text.data() + text.size();
+    const json array = json::parse(Cursor{farthest, &farthest}, Cursor{end, &farthest}, take, false);
+    reading.isSound = array.is_array();
+    reading.reached = static_cast<std::size_t>(farthest - text.data());
+    return reading;
 }
 
-/// Whether the sizes of all items together can be summed, as the screens do.
-bool isSummable(const std::vector<CleanRecord>& history)
+/// Where a record begins as this program writes them, at or behind `from`; npos when none does.
+std::size_t nextRecord(std::string_view text, std::size_t from, std::string_view firstKey)
 {
-    BoundedSum sum;
-    return std::all_of(history.begin(), history.end(), [&](const CleanRecord& record) {
-        return std::all_of(record.items.begin(), record.items.end(),
-                           [&](const TrashedItem& item) { return sum.add(item.size); });
-    });
+    for (std::size_t at = text.find(firstKey, from); at != std::string_view::npos;
+         at = text.find(firstKey, at + 1)) {
+        const std::size_t before = at == 0 ? at : text.find_last_not_of(" \t\r\n", at - 1);
+        if (before != std::string_view::npos && before >= from && text[before] == '{')
+            return before;
+    }
+    return std::string_view::npos;
+}
+
+/// A text that is broken somewhere, by a lost byte or a cut end, is read on from the next record behind the
+/// place, as if an array began there.
+template <typename Record, typename Collector>
+Decoded<Record> decodeArray(std::string text)
+{
+    Collector collector;
+    if (const std::size_t first = text.find_first_not_of(" \t\r\n");
+        first == std::string::npos || text[first] != '[') {
+        collector.decoder().leaveOut();
+        text.insert(0, 1, '[');
+    }
+    // A hostile text could break at every byte, each time far behind the place to read on from.
+    const std::size_t budget = 4 * text.size();
+    std::size_t work = 0;
+    for (std::size_t start = 0; work <= budget;) {
+        const Reading reading = readArray(text, start, collector);
+        if (reading.isSound)
+            break;
+        collector.decoder().leaveOut();
+        work += reading.reached - start + 1;
+        const std::size_t next = nextRecord(text, std::max(reading.taken, start + 2), Collector::kFirstKey);
+        if (next == std::string::npos)
+            break;
+        start = next - 1;
+        text[start] = '[';
+    }
+    const bool isWhole = collector.decoder().isExact();
+    return {std::move(collector).records(), isWhole};
 }
 
 } // namespace
@@ -216,17 +340,14 @@ nlohmann::ordered_json encode(const Snapshot& snapshot)
             {"cats", std::move(cats)}};
 }
 
-std::optional<std::vector<CleanRecord>> decodeHistory(std::string_view text)
+Decoded<CleanRecord> decodeHistory(std::string text)
 {
-    auto history = decodeArray<CleanRecord>(text, decodeRecord);
-    if (history && !isSummable(*history))
-        return std::nullopt;
-    return history;
+    return decodeArray<CleanRecord, RecordCollector>(std::move(text));
 }
 
-std::optional<std::vector<Snapshot>> decodeSnapshots(std::string_view text)
+Decoded<Snapshot> decodeSnapshots(std::string text)
 {
-    return decodeArray<Snapshot>(text, decodeSnapshot);
+    return decodeArray<Snapshot, SnapshotCollector>(std::move(text));
 }
 
 } // namespace orlen::RecordJson

@@ -6,8 +6,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include <optional>
-#include <string_view>
+#include <string>
 #include <vector>
 
 /// The JSON form of the persisted records: keys are the field names, dates ISO 8601 in UTC with whole
@@ -19,9 +18,19 @@ namespace orlen::RecordJson {
 [[nodiscard]] nlohmann::ordered_json encode(const CleanRecord& record);
 [[nodiscard]] nlohmann::ordered_json encode(const Snapshot& snapshot);
 
-/// Strict: nothing when the text is no JSON array, any required key of any element is missing or of the wrong
-/// type, or the sizes could not be summed in 64 bits.
-[[nodiscard]] std::optional<std::vector<CleanRecord>> decodeHistory(std::string_view text);
-[[nodiscard]] std::optional<std::vector<Snapshot>> decodeSnapshots(std::string_view text);
+/// What a text held.
+template <typename Record>
+struct Decoded {
+    std::vector<Record> records; ///< the legible ones, in their order
+    /// Whether they are all that the text says. False when it is no JSON array, when a record or an item was
+    /// left out because a required key was missing or of the wrong type, when a number was cut to what is
+    /// possible, and when a broken place was passed over.
+    bool isWhole = true;
+};
+
+/// Sizes are cut to 0 to `kMostBytes`, and so that those of all items can be summed. Needs little more memory
+/// than the text and its largest record.
+[[nodiscard]] Decoded<CleanRecord> decodeHistory(std::string text);
+[[nodiscard]] Decoded<Snapshot> decodeSnapshots(std::string text);
 
 } // namespace orlen::RecordJson

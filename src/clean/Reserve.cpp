@@ -48,7 +48,8 @@ std::int64_t size()
 void refill()
 {
     const std::lock_guard held(lock());
-    const auto space = volumeSpace(Persist::dir());
+    const auto folder = Persist::makeDir();
+    const auto space = folder.ok() ? volumeSpace(folder.value()) : Errno{folder.error()};
     if (!space.ok())
         return;
     const std::int64_t whole = wholeSize(space.value());

@@ -6,7 +6,9 @@
 #include "platform/Retrying.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
+#include <climits>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -55,6 +57,29 @@ Result<void> writePlaced(const std::string& path, const std::string& bytes, unsi
     if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
         (void)::fsync(parent.value().get());
     return {};
+}
+
+/// At most the first `limit` bytes.
+Result<std::string> readHead(int folder, const char* name, std::size_t limit)
+{
+    const auto file = openFileAt(folder, name);
+    if (!file.ok())
+        return Errno{file.error()};
+    std::string content;
+    constexpr std::size_t kStep = 64UL * 1024;
+    while (content.size() < limit) {
+        const std::size_t start = content.size();
+        content.resize(std::min(limit, start + kStep));
+        const auto got = readAt(file.value().get(), static_cast<std::int64_t>(start),
+                                std::as_writable_bytes(std::span(content).subspan(start)));
+        if (!got.ok())
+            return Errno{got.error()};
+        const bool isWhole = start + got.value() < content.size();
+        content.resize(start + got.value());
+        if (isWhole)
+            break;
+    }
+    return content;
 }
 
 } // namespace
@@ -120,34 +145,44 @@ Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::in
     return std::optional(FileRange{start, std::min(end, length)});
 }
 
+Result<std::string> readWholeFile(const std::string& path, std::size_t limit)
+{
+    auto head = readHead(AT_FDCWD, path.c_str(), limit + 1);
+    if (head.ok() && head.value().size() > limit)
+        return Errno{EFBIG};
+    return head;
+}
+
 std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit)
 {
-    auto head = readHeadAt(AT_FDCWD, path.c_str(), limit + 1);
-    if (!head || head->size() > limit)
-        return std::nullopt;
-    return head;
+    auto content = readWholeFile(path, limit);
+    return content.ok() ? std::optional(std::move(content).value()) : std::nullopt;
 }
 
 std::optional<std::string> readHeadAt(int folder, const char* name, std::size_t limit)
 {
-    const auto file = openFileAt(folder, name);
-    if (!file.ok())
-        return std::nullopt;
-    std::string content;
-    constexpr std::size_t kStep = 64UL * 1024;
-    while (content.size() < limit) {
-        const std::size_t start = content.size();
-        content.resize(std::min(limit, start + kStep));
-        const auto got = readAt(file.value().get(), static_cast<std::int64_t>(start),
-                                std::as_writable_bytes(std::span(content).subspan(start)));
-        if (!got.ok())
-            return std::nullopt;
-        const bool isWhole = start + got.value() < content.size();
-        content.resize(start + got.value());
-        if (isWhole)
-            break;
+    auto head = readHead(folder, name, limit);
+    return head.ok() ? std::optional(std::move(head).value()) : std::nullopt;
+}
+
+Result<std::string> linkEnd(const std::string& path)
+{
+    constexpr int kMostLinks = 40;
+    std::string at = path;
+    for (int links = 0; links <= kMostLinks; ++links) {
+        const auto status = statusOf(at);
+        if (!status.ok() && status.error() != ENOENT && status.error() != ENOTDIR)
+            return Errno{status.error()};
+        if (!status.ok() || status.value().type != FileType::link)
+            return at;
+        std::array<char, PATH_MAX> target{};
+        const auto length = ::readlink(at.c_str(), target.data(), target.size());
+        if (length < 0)
+            return Errno{errno};
+        const std::string_view text(target.data(), static_cast<std::size_t>(length));
+        at = text.starts_with('/') ? std::string(text) : PathText::join(PathText::parent(at), text);
     }
-    return content;
+    return Errno{ELOOP};
 }
 
 void announceSequentialRead(int file)
@@ -169,6 +204,11 @@ Result<void> writeNewFile(const std::string& path, const std::string& bytes, uns
     return writePlaced(path, bytes, mode, [&](const std::string& beside) {
         return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
     });
+}
+
+Result<void> renameOwnFile(const std::string& path, const std::string& newPath)
+{
+    return renameNoReplaceAt(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str());
 }
 
 Result<void> removeOwnFile(const std::string& path)

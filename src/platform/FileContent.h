@@ -34,10 +34,16 @@ struct FileRange {
 /// file's.
 [[nodiscard]] Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::int64_t length);
 
-/// The whole content of a small file; nothing when it cannot be read or is longer than `limit` bytes.
+/// The whole content of a file of at most `limit` bytes; EFBIG when it is longer.
+[[nodiscard]] Result<std::string> readWholeFile(const std::string& path, std::size_t limit);
+/// The same; nothing when it cannot be read or is longer.
 [[nodiscard]] std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit);
 /// At most the first `limit` bytes of a file relative to an open folder; nothing when it cannot be read.
 [[nodiscard]] std::optional<std::string> readHeadAt(int folder, const char* name, std::size_t limit);
+
+/// Where the links lead that a name of the program's own may have been made; the path itself when it is no
+/// link, or missing. The result may not exist either. ELOOP for links in a circle.
+[[nodiscard]] Result<std::string> linkEnd(const std::string& path);
 
 /// Tells the system that the file will be read once from front to back.
 void announceSequentialRead(int file);
@@ -52,6 +58,9 @@ inline constexpr std::string_view kUnfinishedMark = ".new-";
 /// The same for a name that nothing has yet. EEXIST when it is taken, by a dangling link too.
 [[nodiscard]] Result<void> writeNewFile(const std::string& path, const std::string& bytes,
                                         unsigned mode = 0600);
+/// Gives the program's own file a name that nothing has yet, in the same file system. EEXIST when it is
+/// taken.
+[[nodiscard]] Result<void> renameOwnFile(const std::string& path, const std::string& newPath);
 /// Removes the program's own file, or a link in its place; never a folder. ENOENT when there is none.
 [[nodiscard]] Result<void> removeOwnFile(const std::string& path);
 

@@ -8,14 +8,14 @@
 
 namespace orlen {
 
-std::optional<FolderLock> FolderLock::take(const std::string& folder)
+Result<FolderLock> FolderLock::take(const std::string& folder)
 {
     // The user may have put the folder elsewhere with a link: "." opens what the link points to.
     auto opened = openFolder(PathText::join(folder, "."));
     if (!opened.ok())
-        return std::nullopt;
+        return Errno{opened.error()};
     if (retried([&] { return ::flock(opened.value().get(), LOCK_EX | LOCK_NB); }) != 0)
-        return std::nullopt;
+        return Errno{errno};
     return FolderLock(std::move(opened).value());
 }
 

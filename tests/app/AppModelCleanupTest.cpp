@@ -78,7 +78,7 @@ TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
     ASSERT_THAT(model.findings(), SizeIs(1));
     EXPECT_EQ(model.findings().front().kind, FindingKind::logs);
     EXPECT_THAT(model.selection(), ElementsAre(home.path(".xsession-errors")));
-    EXPECT_EQ(Persist::loadHistory().front().id, model.history().front().id);
+    EXPECT_EQ(Persist::loadHistory().records.front().id, model.history().front().id);
     model.dismissCleaning();
     EXPECT_FALSE(model.cleaning().has_value());
 }
@@ -188,7 +188,7 @@ TEST(AppModelCleanupTest, aModelThatGoesDuringACleanUpRecordsIt)
         ASSERT_TRUE(waitUntil([&] { return !TempHome::exists(home.path(".cache/many/0")); }));
     }
     const auto left = std::count_if(paths.begin(), paths.end(), TempHome::exists);
-    const std::vector<CleanRecord> history = Persist::loadHistory();
+    const std::vector<CleanRecord> history = Persist::loadHistory().records;
     ASSERT_THAT(history, SizeIs(1));
     EXPECT_EQ(history.front().items.size() + static_cast<std::size_t>(left), 500U);
 }
@@ -225,7 +225,7 @@ TEST(AppModelCleanupTest, restoringTellsWhatCameBack)
         EXPECT_EQ(first.message, c.message);
         EXPECT_EQ(first.outcome.failed, static_cast<int>(c.recreated.size()));
         EXPECT_EQ(TempHome::content(paths.front()), "content of a");
-        EXPECT_EQ(Persist::loadHistory().front().items, first.outcome.record.items);
+        EXPECT_EQ(Persist::loadHistory().records.front().items, first.outcome.record.items);
         EXPECT_EQ(model.history().front(), first.outcome.record);
         // What is back is not put back again.
         EXPECT_EQ(model.restore(model.history().front()).outcome.restored, 0);
@@ -263,7 +263,7 @@ TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne
     ASSERT_TRUE(waitUntil([&] { return !messages.empty(); }));
     EXPECT_THAT(messages, ElementsAre("Restored 300 items."));
     EXPECT_TRUE(std::all_of(paths.begin(), paths.end(), TempHome::exists));
-    EXPECT_EQ(Persist::loadHistory().front().items, model.history().front().items);
+    EXPECT_EQ(Persist::loadHistory().records.front().items, model.history().front().items);
 }
 
 TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
@@ -276,7 +276,7 @@ TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
         EXPECT_TRUE(model.startRestore(model.history().front()));
         ASSERT_TRUE(waitUntil([&] { return TempHome::exists(home.path(".cache/many/0")); }));
     }
-    const std::vector<CleanRecord> history = Persist::loadHistory();
+    const std::vector<CleanRecord> history = Persist::loadHistory().records;
     ASSERT_THAT(history, SizeIs(1));
     for (const TrashedItem& item : history.front().items)
         EXPECT_EQ(item.restored, TempHome::exists(item.original)) << item.original;

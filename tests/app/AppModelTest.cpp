@@ -60,11 +60,11 @@ TEST(AppModelTest, startUpRecordsASnapshotWhenOneIsDue)
         SCOPED_TRACE(c.name);
         const TempHome home;
         if (c.age)
-            Persist::saveSnapshots({Snapshot{now() - *c.age, 1, 2, {}}});
+            (void)Persist::saveSnapshots({Snapshot{now() - *c.age, 1, 2, {}}});
         AppModel model({AppModel::Startup::full});
         ASSERT_TRUE(waitUntil([&] { return model.isBreakdownReady(); }));
         EXPECT_THAT(model.snapshots(), SizeIs(c.expected));
-        EXPECT_THAT(Persist::loadSnapshots(), SizeIs(c.expected));
+        EXPECT_THAT(Persist::loadSnapshots().records, SizeIs(c.expected));
         EXPECT_EQ(model.breakdown().cats.size(), 7U);
     }
 }
@@ -78,6 +78,32 @@ TEST(AppModelTest, aSnapshotIsStaleAfterTwelveHoursAndNotAtThem)
     EXPECT_TRUE(AppModel::isStale({}, moment));
 }
 
+TEST(AppModelTest, aSnapshotReplacesOneOfThePastHour)
+{
+    const TempHome home;
+    const TimePoint midnight = std::chrono::floor<std::chrono::days>(now());
+    (void)Persist::saveSnapshots({{now() - 25h, 1, 2, {}}, {now() - 61min, 1, 2, {}}});
+    AppModel model(kCommand);
+    model.recordSnapshot();
+    EXPECT_THAT(model.snapshots(), SizeIs(3));
+    model.recordSnapshot();
+    if (std::chrono::floor<std::chrono::days>(now()) != midnight)
+        GTEST_SKIP() << "midnight has just passed";
+    EXPECT_THAT(model.snapshots(), SizeIs(3));
+    EXPECT_EQ(Persist::loadSnapshots().records.back().free, model.breakdown().free);
+}
+
+TEST(AppModelTest, aFileThatCannotBeUsedIsToldInOneSentence)
+{
+    const TempHome home;
+    home.file(".local/share/Orlen/history.json", "[7]");
+    TempHome::setMode(home.file(".local/share/Orlen/scans.json", "[]"), 0);
+    const AppModel model(kCommand);
+    ASSERT_THAT(model.notices(), SizeIs(2));
+    EXPECT_THAT(model.notices()[0], testing::HasSubstr("history.unreadable-"));
+    EXPECT_THAT(model.notices()[1], testing::HasSubstr("Permission denied"));
+}
+
 TEST(AppModelTest, theOldestOf401SnapshotsIsDropped)
 {
     const TempHome home;
@@ -85,10 +111,10 @@ TEST(AppModelTest, theOldestOf401SnapshotsIsDropped)
     snapshots.reserve(400);
     for (int i = 0; i < 400; ++i)
         snapshots.push_back({now() - 1h * (500 - i), i, 1000, {}});
-    Persist::saveSnapshots(snapshots);
+    (void)Persist::saveSnapshots(snapshots);
     AppModel model(kCommand);
     model.recordSnapshot();
-    const std::vector<Snapshot> saved = Persist::loadSnapshots();
+    const std::vector<Snapshot> saved = Persist::loadSnapshots().records;
     ASSERT_THAT(saved, SizeIs(400));
     EXPECT_EQ(saved.front().free, 1);
     EXPECT_THAT(model.snapshots(), SizeIs(400));
@@ -131,7 +157,7 @@ TEST(AppModelTest, aCancelledScanKeepsWhatWasThereBefore)
     EXPECT_EQ(model.findings(), findings);
     EXPECT_EQ(model.selection(), selection);
     EXPECT_EQ(model.lastScan(), lastScan);
-    EXPECT_THAT(Persist::loadSnapshots(), SizeIs(1));
+    EXPECT_THAT(Persist::loadSnapshots().records, SizeIs(1));
 }
 
 TEST(AppModelTest, aSecondStartWhileScanningIsIgnored)
@@ -194,7 +220,7 @@ TEST(AppModelTest, onlyTheFirstModelWrites)
     scan(second);
     EXPECT_EQ(second.phase(), Phase::results);
     EXPECT_THAT(second.snapshots(), SizeIs(1));
-    EXPECT_THAT(Persist::loadSnapshots(), IsEmpty());
+    EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty());
 }
 
 TEST(AppModelTest, aModelThatOnlyReadsLeavesTheLockToOthers)
@@ -202,6 +228,7 @@ TEST(AppModelTest, aModelThatOnlyReadsLeavesTheLockToOthers)
     const TempHome home;
     const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
     EXPECT_FALSE(reader.isWriter());
+    EXPECT_FALSE(TempHome::exists(home.path(".local")));
     EXPECT_TRUE(AppModel(kCommand).isWriter());
 }
 
@@ -226,7 +253,7 @@ TEST(AppModelTest, aModelMayGoWhileItScans)
             model.startScan();
         }
         QCoreApplication::processEvents();
-        EXPECT_THAT(Persist::loadSnapshots(), IsEmpty());
+        EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty());
     }
 }
 

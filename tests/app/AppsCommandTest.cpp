@@ -96,9 +96,9 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     EXPECT_FALSE(TempHome::exists(home.installed));
     EXPECT_FALSE(TempHome::exists(home.path(".local/share/applications/org.fooqux.Fooqux.desktop")));
     EXPECT_TRUE(TempHome::exists(home.path(".cache/other")));
-    ASSERT_EQ(Persist::loadHistory().size(), 1U);
-    EXPECT_EQ(Persist::loadHistory().front().title, "Uninstall Foo Qux");
-    EXPECT_EQ(orlen({"restore", Persist::loadHistory().front().id.text(), "--yes"}).status, 0);
+    ASSERT_EQ(Persist::loadHistory().records.size(), 1U);
+    EXPECT_EQ(Persist::loadHistory().records.front().title, "Uninstall Foo Qux");
+    EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
     EXPECT_TRUE(home.isUntouched());
 }
 
@@ -133,7 +133,7 @@ TEST(AppsCommandTest, whatCannotBeUninstalledIsAWrongCall)
         EXPECT_THAT(outcome.err, HasSubstr(c.message));
         EXPECT_TRUE(home.isUntouched());
     }
-    EXPECT_THAT(Persist::loadHistory(), IsEmpty());
+    EXPECT_THAT(Persist::loadHistory().records, IsEmpty());
 }
 
 TEST(AppsCommandTest, ofSeveralCopiesOneIsNamedByItsPathAndLeavesTheSettings)

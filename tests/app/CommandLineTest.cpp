@@ -130,7 +130,7 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
     EXPECT_EQ(scan["steps"][9]["state"], "done");
     EXPECT_EQ(scan["breakdown"]["cats"].size(), 7U);
     EXPECT_TRUE(timeFromIso(scan["date"].get<std::string>()).has_value());
-    EXPECT_EQ(Persist::loadSnapshots().size(), 1U);
+    EXPECT_EQ(Persist::loadSnapshots().records.size(), 1U);
 }
 
 TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
@@ -141,7 +141,7 @@ TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
     EXPECT_THAT(answer["text"].get<std::string>(), HasSubstr("Log files: 66 KB — rated Safe. "));
     EXPECT_EQ(answer["findingIDs"], Json({"logs"}));
     EXPECT_EQ(answer["usedModel"], false);
-    EXPECT_EQ(Persist::loadSnapshots().size(), 1U);
+    EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty()) << "a question is no scan of its own";
     EXPECT_THAT(orlen({"ask", "--large-mb", "1", "what is large"}).out, HasSubstr("Large files: "));
 }
 
@@ -175,7 +175,7 @@ TEST(CommandLineTest, aDryRunShowsThePlanAndMovesNothing)
     EXPECT_EQ(shown["plan"]["sections"][0]["entries"].size(), 2U);
     EXPECT_THAT(orlen({"clean", "--dry-run"}).out, HasSubstr("~/.cache/player"));
     EXPECT_TRUE(home.isUntouched());
-    EXPECT_THAT(Persist::loadHistory(), IsEmpty());
+    EXPECT_THAT(Persist::loadHistory().records, IsEmpty());
 }
 
 TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
@@ -216,7 +216,8 @@ TEST(CommandLineTest, aRestoreThatFailsEndsWithOne)
     const CommandHome home;
     ASSERT_EQ(orlen({"clean", "--yes", "--kind", "logs"}).status, 0);
     home.file(".xsession-errors", "new");
-    const Process::Outcome outcome = orlen({"restore", Persist::loadHistory().front().id.text(), "--yes"});
+    const Process::Outcome outcome =
+        orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.out, HasSubstr("Restored 0; 1 couldn't be restored"));
 }
@@ -244,7 +245,7 @@ TEST(CommandLineTest, theUserIsAskedOnTheTerminal)
         EXPECT_EQ(outcome.status, c.status) << outcome.out;
         EXPECT_THAT(outcome.out, HasSubstr("3 items"));
         EXPECT_EQ(!TempHome::exists(home.path(".cache/viewer")), c.isMoved);
-        EXPECT_EQ(Persist::loadHistory().size(), c.isMoved ? 1U : 0U);
+        EXPECT_EQ(Persist::loadHistory().records.size(), c.isMoved ? 1U : 0U);
     }
 }
 
@@ -258,7 +259,7 @@ TEST(CommandLineTest, whatVanishesBeforeItMovesCountsAsFailed)
     const Process::Outcome outcome = Process{{"clean"}}.runOnTerminal("[y/N]", typed);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.out, HasSubstr("1 item couldn't be moved"));
-    EXPECT_EQ(Persist::loadHistory().front().items.size(), 2U);
+    EXPECT_EQ(Persist::loadHistory().records.front().items.size(), 2U);
 }
 
 TEST(CommandLineTest, ctrlCEndsAnyWorkWithoutAResult)
@@ -272,7 +273,7 @@ TEST(CommandLineTest, ctrlCEndsAnyWorkWithoutAResult)
     }
     EXPECT_EQ((Process{{"clean", "--yes"}}.runInterrupted().status), 130);
     EXPECT_TRUE(home.isUntouched());
-    EXPECT_THAT(Persist::loadSnapshots(), IsEmpty());
+    EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty());
 }
 
 TEST(CommandLineTest, ctrlCDuringACleanUpRecordsWhatWasMoved)
@@ -287,7 +288,7 @@ TEST(CommandLineTest, ctrlCDuringACleanUpRecordsWhatWasMoved)
     std::size_t left = 0;
     for (int i = 0; i < kItems; ++i)
         left += TempHome::exists(home.path(".cache/app" + std::to_string(i))) ? 1 : 0;
-    const std::vector<CleanRecord> history = Persist::loadHistory();
+    const std::vector<CleanRecord> history = Persist::loadHistory().records;
     const std::size_t moved = history.empty() ? 0 : history.front().items.size();
     EXPECT_EQ(outcome.status, 130);
     EXPECT_EQ(moved + left, static_cast<std::size_t>(kItems));
@@ -297,10 +298,10 @@ TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
 {
     const CommandHome home;
     ASSERT_EQ(orlen({"clean", "--yes", "--kind", "logs"}).status, 0);
-    const std::string id = Persist::loadHistory().front().id.text();
-    const std::size_t snapshots = Persist::loadSnapshots().size();
+    const std::string id = Persist::loadHistory().records.front().id.text();
+    const std::size_t snapshots = Persist::loadSnapshots().records.size();
     const auto lock = FolderLock::take(Persist::dir());
-    ASSERT_TRUE(lock.has_value());
+    ASSERT_TRUE(lock.ok());
     const Process::Outcome scan = orlen({"scan", "--json"});
     EXPECT_EQ(scan.status, 0);
     EXPECT_TRUE(scan.document().is_object());
@@ -315,7 +316,7 @@ TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
     EXPECT_EQ(orlen({"clean", "--dry-run"}).status, 0);
     EXPECT_TRUE(TempHome::exists(home.path(".cache/viewer")));
     EXPECT_FALSE(TempHome::exists(home.path(".xsession-errors")));
-    EXPECT_EQ(Persist::loadSnapshots().size(), snapshots);
+    EXPECT_EQ(Persist::loadSnapshots().records.size(), snapshots);
 }
 
 TEST(CommandLineTest, duplicatesAreSoughtInTheFoldersGiven)
@@ -349,8 +350,9 @@ TEST(CommandLineTest, breakdownAndForecastAreDocuments)
                 ElementsAre("apps", "photos", "media", "documents", "developer", "system", "caches"));
 
     const TimePoint now = std::chrono::system_clock::now();
-    Persist::saveSnapshots({{now - std::chrono::hours(48), 9'000'000'000, 10'000'000'000, {{"media", 1}}},
-                            {now, 5'000'000'000, 10'000'000'000, {{"media", 2'000'000'001}}}});
+    (void)Persist::saveSnapshots(
+        {{now - std::chrono::hours(48), 9'000'000'000, 10'000'000'000, {{"media", 1}}},
+         {now, 5'000'000'000, 10'000'000'000, {{"media", 2'000'000'001}}}});
     const Json forecast = orlen({"predict", "--json"}).document();
     EXPECT_THAT(keys(forecast), ElementsAre("enoughData", "headline", "detail", "warn", "perCategory",
                                             "freeSeries", "snapshots"));
@@ -358,6 +360,14 @@ TEST(CommandLineTest, breakdownAndForecastAreDocuments)
     EXPECT_EQ(forecast["perCategory"][0]["category"], "media");
     EXPECT_EQ(forecast["warn"], true);
     EXPECT_THAT(orlen({"predict"}).out, HasSubstr("+1 GB a day"));
+
+    home.file(".local/share/Orlen/scans.json",
+              R"([{"date":"1900-01-01T00:00:00Z","free":9223372036854775807,"total":0,"cats":{}},)"
+              R"({"date":"2190-12-31T00:00:00Z","free":9223372036854775807,"total":0,"cats":{}},)"
+              R"({"date":"2190-12-31T06:00:00Z","free":0,"total":9223372036854775807,"cats":{"apps":-1}}])");
+    const Process::Outcome extreme = orlen({"predict"});
+    EXPECT_EQ(extreme.status, 0);
+    EXPECT_THAT(extreme.err, HasSubstr("scans.unreadable-"));
 }
 
 } // namespace orlen

@@ -67,10 +67,10 @@ void killed(const std::function<void(const std::function<void()>& begun)>& work,
 
 std::vector<CleanRecord> historyAfterStart()
 {
-    std::vector<CleanRecord> history = Persist::loadHistory();
+    std::vector<CleanRecord> history = Persist::loadHistory().records;
     History::recover(history);
     EXPECT_FALSE(History::isUnfinished());
-    EXPECT_EQ(Persist::loadHistory().size(), history.size());
+    EXPECT_EQ(Persist::loadHistory().records.size(), history.size());
     for (const std::string& name : listNames(Persist::dir()))
         EXPECT_EQ(name.find(".new-"), std::string::npos) << name;
     return history;
@@ -78,7 +78,7 @@ std::vector<CleanRecord> historyAfterStart()
 
 void clean(const WatchedItems& items, const std::function<void()>& begun)
 {
-    std::vector<CleanRecord> history = Persist::loadHistory();
+    std::vector<CleanRecord> history = Persist::loadHistory().records;
     const auto cleaned =
         Cleaner::run(items.entries(), "Clean", [&](int, int, const std::string&) { begun(); });
     EXPECT_TRUE(History::add(history, cleaned.record).ok());
@@ -137,7 +137,7 @@ TEST(CleanKillTest, aKilledRestoreIsMarkedAsFarAsItCame)
         const WatchedItems items(home);
         clean(items, [] {});
         const auto restore = [](const std::function<void()>& begun) {
-            std::vector<CleanRecord> history = Persist::loadHistory();
+            std::vector<CleanRecord> history = Persist::loadHistory().records;
             const auto restored =
                 Cleaner::restore(history.front(), {}, [&](int, int, const std::string&) { begun(); });
             EXPECT_TRUE(History::update(history, restored.record).ok());

@@ -60,7 +60,7 @@ TEST_F(HistoryTest, aRecordThatCouldNotBeSavedIsFoundAtTheNextStart)
     EXPECT_TRUE(History::isUnfinished());
     std::filesystem::remove(folder + "/history.json");
 
-    history = Persist::loadHistory();
+    history = Persist::loadHistory().records;
     EXPECT_TRUE(History::recover(history));
     ASSERT_EQ(history.size(), 1U);
     EXPECT_EQ(history.front().items, done.record.items);
@@ -155,7 +155,7 @@ TEST_F(HistoryTest, theReserveLetsACleanUpWorkOnAFullDisk)
     EXPECT_EQ(done.record.failed, 0);
     EXPECT_TRUE(History::add(history, done.record).ok());
     EXPECT_LT(Reserve::size(), whole);
-    EXPECT_EQ(Persist::loadHistory().size(), 1U);
+    EXPECT_EQ(Persist::loadHistory().records.size(), 1U);
     fill();
     EXPECT_EQ(Cleaner::restore(history.front()).restored, 12);
 

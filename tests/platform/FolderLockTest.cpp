@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,11 +17,11 @@ TEST(FolderLockTest, isHeldUntilDestroyedAndLeavesNoFile)
     const TempHome home;
     const std::string folder = home.folder("data");
     auto first = FolderLock::take(folder);
-    ASSERT_TRUE(first.has_value());
-    EXPECT_FALSE(FolderLock::take(folder).has_value());
+    ASSERT_TRUE(first.ok());
+    EXPECT_EQ(FolderLock::take(folder).error(), EWOULDBLOCK);
     EXPECT_TRUE(listNames(folder).empty());
     const auto moved = std::move(first);
-    EXPECT_FALSE(FolderLock::take(folder).has_value()) << "moving it keeps it";
+    EXPECT_FALSE(FolderLock::take(folder).ok()) << "moving it keeps it";
 }
 
 TEST(FolderLockTest, isFreeAgainAfterRelease)
@@ -28,14 +29,14 @@ TEST(FolderLockTest, isFreeAgainAfterRelease)
     const TempHome home;
     const std::string folder = home.folder("data");
     (void)FolderLock::take(folder);
-    EXPECT_TRUE(FolderLock::take(folder).has_value());
+    EXPECT_TRUE(FolderLock::take(folder).ok());
 }
 
 TEST(FolderLockTest, cannotBeTakenOnWhatIsNoFolder)
 {
     const TempHome home;
-    EXPECT_FALSE(FolderLock::take(home.path("missing")).has_value());
-    EXPECT_FALSE(FolderLock::take(home.file("file")).has_value());
+    EXPECT_EQ(FolderLock::take(home.path("missing")).error(), ENOENT);
+    EXPECT_EQ(FolderLock::take(home.file("file")).error(), ENOTDIR);
 }
 
 TEST(FolderLockTest, aLinkLocksTheFolderItLeadsTo)
@@ -43,8 +44,8 @@ TEST(FolderLockTest, aLinkLocksTheFolderItLeadsTo)
     const TempHome home;
     const std::string folder = home.folder("data");
     const auto lock = FolderLock::take(home.link("link", folder));
-    ASSERT_TRUE(lock.has_value());
-    EXPECT_FALSE(FolderLock::take(folder).has_value());
+    ASSERT_TRUE(lock.ok());
+    EXPECT_FALSE(FolderLock::take(folder).ok());
 }
 
 TEST(FolderLockTest, isFreeAfterItsProcessWasKilled)
@@ -56,17 +57,17 @@ TEST(FolderLockTest, isFreeAfterItsProcessWasKilled)
     const pid_t child = ::fork();
     if (child == 0) {
         const auto lock = FolderLock::take(folder);
-        (void)!::write(ready[1], lock ? "y" : "n", 1);
+        (void)!::write(ready[1], lock.ok() ? "y" : "n", 1);
         ::pause();
         ::_exit(0);
     }
     char answer = 0;
     ASSERT_EQ(::read(ready[0], &answer, 1), 1);
     EXPECT_EQ(answer, 'y');
-    EXPECT_FALSE(FolderLock::take(folder).has_value());
+    EXPECT_FALSE(FolderLock::take(folder).ok());
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
-    EXPECT_TRUE(FolderLock::take(folder).has_value());
+    EXPECT_TRUE(FolderLock::take(folder).ok());
     ::close(ready[0]);
     ::close(ready[1]);
 }

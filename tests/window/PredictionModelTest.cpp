@@ -30,7 +30,7 @@ QVariant value(const PredictionModel& model, int row, PredictionModel::Role role
 TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
 {
     const TempHome home;
-    Persist::saveSnapshots({
+    (void)Persist::saveSnapshots({
         reading(7, 100 * kGigabyte,
                 {{"apps", 9 * kGigabyte}, {"media", 8 * kGigabyte}, {"photos", kGigabyte}}),
         reading(0, 90 * kGigabyte,
@@ -58,7 +58,7 @@ TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
 TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
 {
     const TempHome home;
-    Persist::saveSnapshots({reading(3, 100 * kGigabyte, {{"apps", kGigabyte}, {"system", kGigabyte}})});
+    (void)Persist::saveSnapshots({reading(3, 100 * kGigabyte, {{"apps", kGigabyte}, {"system", kGigabyte}})});
     AppModel app({.startup = AppModel::Startup::filesOnly});
     PredictionModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);

@@ -2,7 +2,6 @@
 #include "app/cli/Command.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/SmartScan.h"
-#include "app/cli/Texts.h"
 #include "insight/AskEngine.h"
 
 #include <CLI/CLI.hpp>
@@ -44,7 +43,8 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        AppModel model({AppModel::Startup::filesOnly});
+        // A question is no reading of the disk for the forecast to keep.
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
         const Answer answer = AskEngine::answer(m_question, model.askContext());
@@ -52,8 +52,6 @@ public:
             Session::printDocument(JsonDocuments::answer(answer));
         else
             printAnswer(answer);
-        if (!model.isWriter())
-            session.complain(Texts::kNoSnapshot);
         return ExitStatus::done;
     }
 

@@ -62,9 +62,10 @@ public:
 
     void addOptions(CLI::App& /*app*/) override {}
 
-    [[nodiscard]] ExitStatus run(Session& /*session*/) override
+    [[nodiscard]] ExitStatus run(Session& session) override
     {
         const AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        session.complain(model.notices());
         if (wantsJson())
             Session::printDocument(JsonDocuments::history(model.history()));
         else if (model.history().empty())

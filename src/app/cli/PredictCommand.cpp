@@ -46,9 +46,10 @@ public:
 
     void addOptions(CLI::App& /*app*/) override {}
 
-    [[nodiscard]] ExitStatus run(Session& /*session*/) override
+    [[nodiscard]] ExitStatus run(Session& session) override
     {
         const AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        session.complain(model.notices());
         const Prediction prediction = model.prediction();
         if (wantsJson())
             Session::printDocument(JsonDocuments::prediction(prediction, model.snapshots().size()));

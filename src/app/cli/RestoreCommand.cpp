@@ -48,6 +48,7 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         AppModel model({AppModel::Startup::filesOnly});
+        session.complain(model.notices());
         const std::vector<CleanRecord> records = matching(model.history(), m_id);
         if (records.size() != 1) {
             session.complain(records.empty() ? "there is no clean-up " + Texts::quoted(m_id) + '.'

@@ -74,4 +74,10 @@ void Session::complain(std::string_view sentence)
     note(std::string("orlen: ").append(sentence) + '\n');
 }
 
+void Session::complain(std::span<const std::string> sentences)
+{
+    for (const std::string& sentence : sentences)
+        complain(std::string_view(sentence));
+}
+
 } // namespace orlen

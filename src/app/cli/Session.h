@@ -7,6 +7,7 @@
 #include <functional>
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -47,6 +48,8 @@ public:
     void note(std::string_view text);
     /// One sentence to standard error, with the program's name.
     void complain(std::string_view sentence);
+    /// Each on a line of its own.
+    void complain(std::span<const std::string> sentences);
 
     /// Where human output goes, and so how it looks.
     [[nodiscard]] static Colours colours() { return Colours(Terminal::Stream::output); }

@@ -64,6 +64,7 @@ std::optional<std::chrono::duration<double>> run(Session& session, AppModel& mod
 {
     if (!Places::current().isHomeUsable)
         session.complain(Texts::kUnusableHome);
+    session.complain(model.notices());
     const auto started = std::chrono::steady_clock::now();
     model.setLargeThresholdMB(thresholdMB);
     model.startScan();

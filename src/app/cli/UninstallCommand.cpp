@@ -79,6 +79,7 @@ public:
             session.complain(Texts::kOtherWriter);
             return ExitStatus::wrongCall;
         }
+        session.complain(model.notices());
         Safety::refresh();
         const auto apps =
             InstalledApps::inBackground(session, Texts::kLookingForApps, [](const std::stop_token& stop) {

@@ -37,14 +37,14 @@ int toldOf(bool isRecorded, int failed)
 
 int clean(const WatchedItems& items)
 {
-    std::vector<CleanRecord> history = Persist::loadHistory();
+    std::vector<CleanRecord> history = Persist::loadHistory().records;
     const auto cleaned = Cleaner::run(items.entries(), "Clean", [](int, int, const std::string&) {});
     return toldOf(History::add(history, cleaned.record).ok(), cleaned.record.failed);
 }
 
 int restore(const WatchedItems&)
 {
-    std::vector<CleanRecord> history = Persist::loadHistory();
+    std::vector<CleanRecord> history = Persist::loadHistory().records;
     const auto restored = Cleaner::restore(history.front());
     return toldOf(History::update(history, restored.record).ok(), restored.failed);
 }
@@ -93,9 +93,10 @@ void tryOne(Work work, int number, int error, Faults::Extent extent)
         return work(items);
     });
     if (told == allIsWell) {
-        EXPECT_EQ(items.expectNoneLostOrUnknown(Persist::loadHistory()), kItems - before) << "not told";
+        EXPECT_EQ(items.expectNoneLostOrUnknown(Persist::loadHistory().records), kItems - before)
+            << "not told";
     }
-    std::vector<CleanRecord> history = Persist::loadHistory();
+    std::vector<CleanRecord> history = Persist::loadHistory().records;
     History::recover(history);
     (void)items.expectNoneLostOrUnknown(history);
 }
