@@ -54,6 +54,26 @@ bool isUsable(const std::string& home, const std::string& resolvedHome, unsigned
     return status.ok() && status.value().type == FileType::folder && status.value().owner == user;
 }
 
+/// Whether the folder is the user's own and holds the home folder.
+bool isPreparedRoot(const std::string& root, const Places& places)
+{
+    const std::string real = resolved(root);
+    const auto status = statusOf(real);
+    return real != "/" && real != places.resolvedHome && PathText::isAtOrBelow(places.resolvedHome, real) &&
+           status.ok() && status.value().type == FileType::folder && status.value().owner == places.user;
+}
+
+void moveSystemInto(const std::string& root, Places& places)
+{
+    places.systemRoot = root + "/system";
+    for (std::string* path : {&places.launchctl, &places.processes})
+        path->insert(0, places.systemRoot);
+    for (std::string* path : {&places.applications, &places.library})
+        path->insert(0, root);
+    // Anything else would be moved about in what nobody has prepared.
+    places.isHomeUsable = places.isHomeUsable && isPreparedRoot(root, places);
+}
+
 /// The folder that the variable names, in the form that rules compare; empty unless it lies below the home
 /// folder.
 std::string folderBelowHome(const char* name, const Places& places)
@@ -92,14 +112,14 @@ Paths baseFolders(const char* name, const Places& places, std::string_view stand
     Paths folders;
     const std::string moved = folderBelowHome(name, places);
     // In a sandbox the variables point to the sandbox's own folders, not to the user's.
-    if (!moved.empty() && !exists("/.flatpak-info") && !meetsOwnFolder(moved, places))
+    if (!moved.empty() && !exists(places.systemRoot + "/.flatpak-info") && !meetsOwnFolder(moved, places))
         appendOnce(folders, moved);
     appendOnce(folders, PathText::join(places.home, standard));
     return folders;
 }
 
-/// The absolute folders of a list between colons; the defaults when it has none.
-Paths folderList(const char* name, const Paths& standard)
+/// The absolute folders of a list between colons.
+Paths folderList(const char* name)
 {
     Paths folders;
     const std::string list = variable(name);
@@ -109,7 +129,17 @@ Paths folderList(const char* name, const Paths& standard)
             appendOnce(folders, PathText::standardized(list.substr(start, colon - start)));
         start = colon + 1;
     }
-    return folders.empty() ? standard : folders;
+    return folders;
+}
+
+void readSharedFolders(Places& places)
+{
+    appendOnce(places.sharedConfigs, places.systemRoot + "/etc/xdg");
+    for (std::string& folder : folderList("XDG_CONFIG_DIRS"))
+        appendOnce(places.sharedConfigs, std::move(folder));
+    places.sharedData = folderList("XDG_DATA_DIRS");
+    if (places.sharedData.empty())
+        places.sharedData = {places.systemRoot + "/usr/local/share", places.systemRoot + "/usr/share"};
 }
 
 /// "de_AT" of "de_AT.UTF-8@euro"; nothing for the locales that name no language.
@@ -254,6 +284,8 @@ Places Places::fromEnvironment()
     places.home = homeFolder(places.user);
     places.resolvedHome = resolved(places.home);
     places.isHomeUsable = isUsable(places.home, places.resolvedHome, places.user);
+    if (const std::string root = absoluteVariable("ORLEN_PREPARED_ROOT"); !root.empty())
+        moveSystemInto(root, places);
     places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
     readUserFolders(places);
     // Once more, now that it is known which folders are the user's own.
@@ -261,8 +293,7 @@ Places Places::fromEnvironment()
     places.caches = baseFolders("XDG_CACHE_HOME", places, ".cache");
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
     places.states = baseFolders("XDG_STATE_HOME", places, ".local/state");
-    places.sharedConfigs = folderList("XDG_CONFIG_DIRS", {"/etc/xdg"});
-    places.sharedData = folderList("XDG_DATA_DIRS", {"/usr/local/share", "/usr/share"});
+    readSharedFolders(places);
     places.languages = preferredLanguages();
     places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     return places;

@@ -11,7 +11,8 @@ namespace orlen {
 struct Places {
     std::string home;         ///< `$HOME` when absolute and existing, else the passwd entry; links kept
     std::string resolvedHome; ///< `home` with links resolved, often the same text
-    /// False when the home folder is "/", missing or owned by somebody else: nothing is scanned or moved.
+    /// False when the home folder is "/", missing, owned by somebody else or not in the prepared root that
+    /// was named: nothing is scanned or moved.
     bool isHomeUsable = false;
     unsigned user = 0; ///< user number
 
@@ -23,9 +24,9 @@ struct Places {
     std::vector<std::string> data;
     std::vector<std::string> states;
 
-    /// Folders of settings and data for all users, `$XDG_CONFIG_DIRS` and `$XDG_DATA_DIRS` or their defaults,
-    /// the most important first.
+    /// Folders of settings for all users: "/etc/xdg", which counts in every session, then `$XDG_CONFIG_DIRS`.
     std::vector<std::string> sharedConfigs;
+    /// Folders of data for all users, `$XDG_DATA_DIRS` or its defaults, the most important first.
     std::vector<std::string> sharedData;
 
     /// From "user-dirs.dirs": existing folders below the home folder, empty when not set or switched off.
@@ -43,9 +44,11 @@ struct Places {
     std::string volume = "/";                 ///< the start-up volume
     std::string launchctl = "/bin/launchctl"; ///< tool that switches launch agents
     std::string mountTable = "/proc/self/mountinfo";
+    std::string processes = "/proc"; ///< table of what runs, one folder each
     std::vector<std::string> dictionaries = {"/usr/share/hunspell", "/usr/share/myspell"};
-    /// Shared application and program folders outside the home folder that the storage breakdown measures.
-    std::string systemRoot; ///< put before "/opt", "/var/lib/flatpak" and their like; empty but in tests
+    /// Put before "/opt", "/etc/systemd/user", "/var/lib/flatpak" and all else of the system that is looked
+    /// at; empty but in a prepared root.
+    std::string systemRoot;
     /// Language tags in the order of preference, for example "de_AT"; from LANGUAGE, else the locale.
     std::vector<std::string> languages;
     std::string androidDevices; ///< `$ANDROID_AVD_HOME` when below the home folder, else empty
@@ -64,7 +67,9 @@ struct Places {
     /// start replaced by `home`.
     [[nodiscard]] std::string normalized(std::string_view path) const;
 
-    /// Reads the environment, the passwd entry and "user-dirs.dirs" afresh.
+    /// Reads the environment, the passwd entry and "user-dirs.dirs" afresh. With `$ORLEN_PREPARED_ROOT`, a
+    /// folder of the user's own around the home folder, nothing outside it is looked at: "system" in it
+    /// stands for the root folder, "Applications" and "Library" for theirs. For tests.
     [[nodiscard]] static Places fromEnvironment();
 
     /// The process's places, made from the environment on first use. Any thread.

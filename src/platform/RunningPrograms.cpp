@@ -2,6 +2,8 @@
 
 #include "platform/FileStatus.h"
 #include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
 
 #include <algorithm>
 #include <array>
@@ -13,13 +15,11 @@ namespace orlen::RunningPrograms {
 
 namespace {
 
-constexpr const char* kProcesses = "/proc";
-
 /// Empty for processes of the kernel, those of others, and those that have ended meanwhile.
 std::string executableOf(const std::string& process)
 {
     std::array<char, PATH_MAX> target{};
-    const std::string link = std::string(kProcesses) + '/' + process + "/exe";
+    const std::string link = process + "/exe";
     const auto length = ::readlink(link.c_str(), target.data(), target.size());
     if (length <= 0 || target.front() != '/')
         return {};
@@ -31,11 +31,11 @@ std::string executableOf(const std::string& process)
     return path;
 }
 
-bool isOwnProcess(const std::string& name)
+bool isOwnProcess(const std::string& process)
 {
-    if (name.find_first_not_of("0123456789") != std::string::npos)
+    if (PathText::lastComponent(process).find_first_not_of("0123456789") != std::string::npos)
         return false;
-    const auto status = statusOf(std::string(kProcesses) + '/' + name);
+    const auto status = statusOf(process);
     return status.ok() && status.value().owner == ::geteuid();
 }
 
@@ -44,10 +44,12 @@ bool isOwnProcess(const std::string& name)
 std::vector<std::string> executables()
 {
     std::vector<std::string> paths;
-    for (const std::string& name : listNames(kProcesses)) {
-        if (!isOwnProcess(name))
+    const std::string& table = Places::current().processes;
+    for (const std::string& name : listNames(table)) {
+        const std::string process = PathText::join(table, name);
+        if (!isOwnProcess(process))
             continue;
-        if (std::string path = executableOf(name); !path.empty())
+        if (std::string path = executableOf(process); !path.empty())
             paths.push_back(std::move(path));
     }
     std::sort(paths.begin(), paths.end());
@@ -57,7 +59,7 @@ std::vector<std::string> executables()
 
 std::string ownExecutable()
 {
-    return executableOf("self");
+    return executableOf("/proc/self");
 }
 
 } // namespace orlen::RunningPrograms

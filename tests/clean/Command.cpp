@@ -1,6 +1,7 @@
 #include "clean/Command.h"
 
 #include "platform/UniqueFd.h"
+#include "support/TempHome.h"
 
 #include <array>
 #include <fcntl.h>
@@ -37,6 +38,7 @@ std::string readAll(int fd)
 
 CommandOutcome runCommand(const std::vector<std::string>& arguments, const std::string& input)
 {
+    TempHome::useSystemTools();
     std::vector<std::string> words{"timeout", "30"};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;

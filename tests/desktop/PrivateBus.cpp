@@ -1,5 +1,7 @@
 #include "PrivateBus.h"
 
+#include "support/TempHome.h"
+
 #include <QFile>
 
 #include <csignal>
@@ -32,6 +34,7 @@ PrivateBus::PrivateBus()
     settings.close();
     // A crash of the tests must not leave it behind.
     m_daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    TempHome::useSystemTools();
     m_daemon.start("dbus-daemon", {"--nofork", "--print-address", "--config-file=" + settings.fileName()});
     if (!m_daemon.waitForReadyRead())
         std::abort();

@@ -10,7 +10,6 @@ int main(int argc, char** argv)
 {
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     ::setenv("QT_QUICK_BACKEND", "software", 1);
-    ::setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere", 1);
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Orlen"));

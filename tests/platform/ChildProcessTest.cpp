@@ -67,9 +67,16 @@ std::string firstLine(const std::string& text)
     return text.substr(0, text.find('\n'));
 }
 
+class ChildProcessTest : public testing::Test {
+protected:
+    ChildProcessTest() { TempHome::useSystemTools(); }
+
+    const TempHome home;
+};
+
 } // namespace
 
-TEST(ChildProcessTest, outputAndStatusComeBack)
+TEST_F(ChildProcessTest, outputAndStatusComeBack)
 {
     Call call = shell("printf '%s|%s' \"$ORLEN_WORD\" \"$HOME\"; echo unheard >&2; exit 3");
     call.environment = {"ORLEN_WORD=a b", "HOME=/elsewhere"};
@@ -80,21 +87,21 @@ TEST(ChildProcessTest, outputAndStatusComeBack)
     EXPECT_TRUE(hasNoChildren());
 }
 
-TEST(ChildProcessTest, argumentsAreNotReadByAShell)
+TEST_F(ChildProcessTest, argumentsAreNotReadByAShell)
 {
     const auto outcome = ChildProcess::run({{"echo", "$HOME; exit 1", "*", ""}, {}});
     ASSERT_TRUE(outcome);
     EXPECT_EQ(outcome->output, "$HOME; exit 1 * \n");
 }
 
-TEST(ChildProcessTest, standardInputIsEmpty)
+TEST_F(ChildProcessTest, standardInputIsEmpty)
 {
     const auto outcome = ChildProcess::run({{"cat"}, {}});
     ASSERT_TRUE(outcome);
     EXPECT_EQ(outcome->output, "");
 }
 
-TEST(ChildProcessTest, whatGoesWrongGivesNothing)
+TEST_F(ChildProcessTest, whatGoesWrongGivesNothing)
 {
     struct Case {
         const char* name;
@@ -127,7 +134,7 @@ TEST(ChildProcessTest, whatGoesWrongGivesNothing)
     }
 }
 
-TEST(ChildProcessTest, asMuchOutputAsIsAllowedComesBack)
+TEST_F(ChildProcessTest, asMuchOutputAsIsAllowedComesBack)
 {
     const auto outcome = ChildProcess::run(
         shell("head -c " + std::to_string(ChildProcess::kOutputLimit) + " /dev/zero | tr '\\0' x"));
@@ -135,9 +142,8 @@ TEST(ChildProcessTest, asMuchOutputAsIsAllowedComesBack)
     EXPECT_EQ(outcome->output, std::string(ChildProcess::kOutputLimit, 'x'));
 }
 
-TEST(ChildProcessTest, theWholeGroupEndsWithTheTime)
+TEST_F(ChildProcessTest, theWholeGroupEndsWithTheTime)
 {
-    const TempHome home;
     const std::string number = home.path("number");
     Call call = shell("sleep 600 & echo $! > '" + number + "'; wait");
     call.limit = 300ms;
@@ -147,7 +153,7 @@ TEST(ChildProcessTest, theWholeGroupEndsWithTheTime)
     EXPECT_TRUE(becomesTrue([&] { return !isAlive(grandchild); }));
 }
 
-TEST(ChildProcessTest, whoStaysBehindWithTheOutputOpenIsNotWaitedFor)
+TEST_F(ChildProcessTest, whoStaysBehindWithTheOutputOpenIsNotWaitedFor)
 {
     Call call = shell("sleep 600 & echo $!; echo said");
     call.limit = 60s;
@@ -161,7 +167,7 @@ TEST(ChildProcessTest, whoStaysBehindWithTheOutputOpenIsNotWaitedFor)
     ::kill(std::stoi(grandchild), SIGKILL);
 }
 
-TEST(ChildProcessTest, neitherSignalsNorDescriptorsAreHandedDown)
+TEST_F(ChildProcessTest, neitherSignalsNorDescriptorsAreHandedDown)
 {
     sigset_t blocked;
     sigset_t before;
@@ -181,14 +187,14 @@ TEST(ChildProcessTest, neitherSignalsNorDescriptorsAreHandedDown)
     EXPECT_THAT(files->output, Not(HasSubstr("/dev/zero")));
 }
 
-TEST(ChildProcessTest, aProcessThatHearsNothingOfItsChildrenIsNotHeldUp)
+TEST_F(ChildProcessTest, aProcessThatHearsNothingOfItsChildrenIsNotHeldUp)
 {
     const auto before = std::signal(SIGCHLD, SIG_IGN);
     EXPECT_FALSE(ChildProcess::run(shell("echo gone")));
     std::signal(SIGCHLD, before);
 }
 
-TEST(ChildProcessTest, threadsDoNotMixUpTheirPrograms)
+TEST_F(ChildProcessTest, threadsDoNotMixUpTheirPrograms)
 {
     std::vector<int> wrong(8, 0);
     {
@@ -207,9 +213,8 @@ TEST(ChildProcessTest, threadsDoNotMixUpTheirPrograms)
     EXPECT_TRUE(hasNoChildren());
 }
 
-TEST(ChildProcessTest, aDetachedProgramRunsInASessionOfItsOwn)
+TEST_F(ChildProcessTest, aDetachedProgramRunsInASessionOfItsOwn)
 {
-    const TempHome home;
     const std::string noted = home.path("noted");
     EXPECT_FALSE(ChildProcess::startDetached({"orlen-has-no-such-program"}));
     ASSERT_TRUE(ChildProcess::startDetached(
@@ -229,10 +234,8 @@ TEST(ChildProcessTest, aDetachedProgramRunsInASessionOfItsOwn)
     EXPECT_TRUE(becomesTrue(hasNoChildren));
 }
 
-TEST(ChildProcessTest, programsAreFoundInAbsoluteFoldersOfPath)
+TEST_F(ChildProcessTest, programsAreFoundInAbsoluteFoldersOfPath)
 {
-    const TempHome home;
-    const std::string pathBefore = std::getenv("PATH");
     for (const char* name : {"first/tool", "second/tool", "second/other"})
         TempHome::setMode(home.file(name, "#!/bin/sh\n"), 0755);
     home.file("first/other");
@@ -255,7 +258,6 @@ TEST(ChildProcessTest, programsAreFoundInAbsoluteFoldersOfPath)
     }
     EXPECT_EQ(ChildProcess::programPath(home.path("second/tool")), home.path("second/tool"));
     EXPECT_EQ(ChildProcess::programPath(home.path("first/other")), "");
-    TempHome::setVariable("PATH", pathBefore);
 }
 
 } // namespace orlen

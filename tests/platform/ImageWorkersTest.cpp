@@ -51,6 +51,8 @@ std::size_t openDescriptors()
 
 class ImageWorkersTest : public testing::Test {
 protected:
+    ImageWorkersTest() { TempHome::useSystemTools(); }
+
     /// A recognizer made of shell commands.
     [[nodiscard]] ImageWorkers::Options script(const std::string& commands) const
     {

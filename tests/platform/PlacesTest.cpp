@@ -87,6 +87,30 @@ TEST(PlacesTest, missingHomeFolderIsReplacedByThePasswdEntry)
     }
 }
 
+TEST(PlacesTest, aPreparedRootStandsForTheWholeSystem)
+{
+    const TempHome home;
+    const std::string system = home.outside("system");
+    TempHome::setVariable("XDG_CONFIG_DIRS", "/a:relative:/a/:/b");
+    const Places places = Places::fromEnvironment();
+    EXPECT_TRUE(places.isHomeUsable);
+    EXPECT_EQ(places.systemRoot, system);
+    EXPECT_EQ(places.applications, home.outside("Applications"));
+    EXPECT_EQ(places.library, home.outside("Library"));
+    EXPECT_EQ(places.processes, system + "/proc");
+    EXPECT_THAT(places.sharedConfigs, ElementsAre(system + "/etc/xdg", "/a", "/b"));
+    EXPECT_THAT(places.sharedData, ElementsAre(system + "/usr/local/share", system + "/usr/share"));
+    // Where nothing was prepared, nothing may be moved.
+    for (const std::string& root : {std::string("/"), home.path(), home.outside("gone"), home.file("file"),
+                                    home.folder(home.outside("beside")), home.link("root", "/")}) {
+        TempHome::setVariable("ORLEN_PREPARED_ROOT", root);
+        EXPECT_FALSE(Places::fromEnvironment().isHomeUsable) << root;
+    }
+    TempHome::setVariable("ORLEN_PREPARED_ROOT", "relative");
+    EXPECT_EQ(Places::fromEnvironment().systemRoot, "");
+    EXPECT_EQ(Places::fromEnvironment().applications, "/Applications");
+}
+
 TEST(PlacesTest, onlyExistingUserFoldersCount)
 {
     const TempHome home;

@@ -50,6 +50,7 @@ TEST(PropertyListTest, textsOfTheTopLevelAreRead)
 TEST(PropertyListTest, aBinaryListThatAnotherToolWroteIsRead)
 {
     const TempHome home;
+    TempHome::useSystemTools();
     const std::string xml = home.file("a.plist", kExample);
     const std::string binary = home.path("b.plist");
     const auto outcome = ChildProcess::run({{"plistutil", "-i", xml, "-o", binary, "-f", "bin"}});

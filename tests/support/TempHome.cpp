@@ -1,16 +1,20 @@
 #include "support/TempHome.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <linux/capability.h>
+#include <map>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <vector>
 
 namespace orlen {
 
@@ -30,12 +34,40 @@ void dropPowers()
     ::syscall(SYS_capset, &header, powers.data());
 }
 
+/// Takes away what the session of whoever runs the tests has put into the environment: desktop, languages,
+/// buses, folders. What steers the test programs themselves stays.
+void leaveSession()
+{
+    constexpr std::string_view kKept[] = {"GTEST_", "ASAN_", "UBSAN_", "TSAN_",
+                                          "LSAN_",  "LLVM_", "LD_",    "TMPDIR"};
+    std::vector<std::string> names;
+    for (char** variable = ::environ; *variable != nullptr; ++variable) {
+        const std::string_view text(*variable);
+        if (std::none_of(std::begin(kKept), std::end(kKept),
+                         [&](std::string_view start) { return text.starts_with(start); }))
+            names.emplace_back(text.substr(0, text.find('=')));
+    }
+    for (const std::string& name : names)
+        ::unsetenv(name.c_str());
+    // Without an address, one is looked for.
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere", 1);
+    ::setenv("LANG", "C.UTF-8", 1);
+}
+
+std::optional<std::string> variable(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
+}
+
 /// Lives as long as the program; made before main, so before anything asks for the home folder.
 class Sandbox {
 public:
     Sandbox()
     {
         dropPowers();
+        m_tools = variable("PATH").value_or("/usr/bin:/bin");
+        leaveSession();
         std::string form = (fs::temp_directory_path() / "orlen-test-XXXXXX").string();
         if (::mkdtemp(form.data()) == nullptr)
             throw std::runtime_error("no temporary folder");
@@ -48,20 +80,32 @@ public:
 
     [[nodiscard]] const std::string& root() const { return m_root; }
 
-    void apply() const
+    void apply()
     {
-        fs::create_directories(m_root + "/home");
-        fs::create_directories(m_root + "/Applications");
-        fs::create_directories(m_root + "/Library");
-        fs::create_directories(m_root + "/system");
+        for (const char* name : {"home", "Applications", "Library", "system", "bin", "run"})
+            fs::create_directories(m_root + "/" + name);
+        fs::permissions(m_root + "/run", fs::perms::owner_all);
+        for (const auto& [name, value] : m_before) {
+            if (value)
+                ::setenv(name.c_str(), value->c_str(), 1);
+            else
+                ::unsetenv(name.c_str());
+        }
+        m_before.clear();
         ::setenv("HOME", (m_root + "/home").c_str(), 1);
-        for (const char* name :
-             {"XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "ANDROID_AVD_HOME",
-              "LANGUAGE", "LC_ALL", "LC_MESSAGES", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS", "NO_COLOR"})
-            ::unsetenv(name);
-        ::setenv("LANG", "C.UTF-8", 1);
+        ::setenv("PATH", (m_root + "/bin").c_str(), 1);
+        ::setenv("XDG_RUNTIME_DIR", (m_root + "/run").c_str(), 1);
+        ::setenv("ORLEN_PREPARED_ROOT", m_root.c_str(), 1);
         TempHome::reloadPlaces();
     }
+
+    void set(const char* name, const std::string& value)
+    {
+        m_before.try_emplace(name, variable(name));
+        ::setenv(name, value.c_str(), 1);
+    }
+
+    void useSystemTools() { set("PATH", m_root + "/bin:" + m_tools); }
 
     void empty(bool wholly) const
     {
@@ -79,6 +123,8 @@ public:
 
 private:
     std::string m_root;
+    std::string m_tools; ///< where the machine has its programs, a list as in PATH
+    std::map<std::string, std::optional<std::string>> m_before; ///< variables that the test has changed
 };
 
 Sandbox sandbox;
@@ -188,9 +234,6 @@ bool TempHome::exists(const std::string& path)
 void TempHome::reloadPlaces(const std::function<void(Places&)>& change)
 {
     Places places = Places::fromEnvironment();
-    places.applications = sandbox.root() + "/Applications";
-    places.library = sandbox.root() + "/Library";
-    places.systemRoot = sandbox.root() + "/system";
     if (change)
         change(places);
     Places::setCurrent(std::move(places));
@@ -198,7 +241,12 @@ void TempHome::reloadPlaces(const std::function<void(Places&)>& change)
 
 void TempHome::setVariable(const char* name, const std::string& value)
 {
-    ::setenv(name, value.c_str(), 1);
+    sandbox.set(name, value);
+}
+
+void TempHome::useSystemTools()
+{
+    sandbox.useSystemTools();
 }
 
 } // namespace orlen

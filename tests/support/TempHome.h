@@ -10,9 +10,10 @@
 
 namespace orlen {
 
-/// A home folder of the test program's own, with `HOME` and the `XDG_*` variables pointing into it before
-/// main runs. Make one per test: it starts empty, and no test reads or writes outside it. As root the program
-/// gives up the powers that ignore permissions, so that denied means denied.
+/// A home folder of the test program's own in a prepared root, which stands for the whole system: neither the
+/// machine's programs nor the session of whoever runs the tests are seen, from before main on and by the
+/// programs that a test starts. Make one per test: it starts empty, and no test reads or writes outside it.
+/// As root the program gives up the powers that ignore permissions, so that denied means denied.
 class TempHome {
 public:
     TempHome();
@@ -22,7 +23,7 @@ public:
     /// The home folder; with a relative name, the path of that name in it.
     [[nodiscard]] std::string path(std::string_view name = {}) const;
     /// The folder around the home folder; it also holds "Applications", "Library" and "system", which stand
-    /// for the absolute ones.
+    /// for the absolute ones, and "bin", which is all of PATH.
     [[nodiscard]] std::string outside(std::string_view name = {}) const;
 
     /// Makes a file (and its folders) and returns its path. Names are relative to the home folder, or
@@ -43,6 +44,8 @@ public:
     static void reloadPlaces(const std::function<void(Places&)>& change = {});
     /// Sets a variable for the rest of this test; the next TempHome takes it back.
     static void setVariable(const char* name, const std::string& value);
+    /// Lets the machine's own programs be found behind those of the test; the next TempHome takes it back.
+    static void useSystemTools();
 };
 
 } // namespace orlen

@@ -14,17 +14,12 @@ namespace {
 /// Without a session bus, and with an opener that writes down what it was asked for.
 class RevealTest : public testing::Test {
 protected:
-    RevealTest()
-    {
-        TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
-        TempHome::setVariable("PATH", m_home.folder("bin"));
-    }
-
     void makeOpener(int status) const
     {
-        m_home.file("bin/xdg-open", "#!/bin/sh\necho \"$1\" > '" + asked() + ".new'\n/bin/mv '" + asked() +
-                                        ".new' '" + asked() + "'\nexit " + std::to_string(status) + "\n");
-        TempHome::setMode(m_home.path("bin/xdg-open"), 0755);
+        m_home.file(m_home.outside("bin/xdg-open"), "#!/bin/sh\necho \"$1\" > '" + asked() +
+                                                        ".new'\n/bin/mv '" + asked() + ".new' '" + asked() +
+                                                        "'\nexit " + std::to_string(status) + "\n");
+        TempHome::setMode(m_home.outside("bin/xdg-open"), 0755);
     }
 
     [[nodiscard]] std::string asked() const { return m_home.path("asked"); }

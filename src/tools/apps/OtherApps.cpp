@@ -18,11 +18,17 @@ namespace {
 /// Every AppImage has one of that name inside.
 constexpr std::string_view kCommonProgram = "AppRun";
 
+/// A prepared root has programs of its own, which files in it name as on any system.
+bool isProgramThere(const std::string& program)
+{
+    const Places& places = Places::current();
+    const bool isInRoot = PathText::isAtOrBelow(program, PathText::parent(places.systemRoot));
+    return program.starts_with('/') && exists(isInRoot ? program : places.systemRoot + program);
+}
+
 bool hasExistingProgram(const Launcher& launcher)
 {
-    return std::any_of(launcher.programs.begin(), launcher.programs.end(), [](const std::string& program) {
-        return program.starts_with('/') && exists(program);
-    });
+    return std::any_of(launcher.programs.begin(), launcher.programs.end(), isProgramThere);
 }
 
 } // namespace

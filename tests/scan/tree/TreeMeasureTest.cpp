@@ -89,7 +89,7 @@ TEST(TreeMeasureTest, measuresAVeryDeepTreeWithBranchesAtEveryLevel)
     }
     ::close(at);
     EXPECT_EQ(FS::allocatedSize(home.path("deep")), kDepth * 4096);
-    ASSERT_EQ(std::system(("rm -rf '" + home.path("deep") + "'").c_str()), 0);
+    ASSERT_EQ(std::system(("/bin/rm -rf '" + home.path("deep") + "'").c_str()), 0);
 }
 
 TEST(TreeMeasureTest, measuresManyChildrenTogetherAndEachForItself)

@@ -28,11 +28,9 @@ struct AppHome : TempHome {
                               "\nExec=" + std::string(command) + '\n' + std::string(lines));
     }
 
-    /// The same for all users, in a folder that `$XDG_DATA_DIRS` then names.
+    /// The same for all users.
     std::string sharedLauncher(std::string_view name, std::string_view title, std::string_view command) const
     {
-        setVariable("XDG_DATA_DIRS", outside("system/usr/share"));
-        reloadPlaces();
         return launcher(outside("system/usr/share/applications/" + std::string(name)), title, command);
     }
 

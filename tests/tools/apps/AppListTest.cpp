@@ -297,6 +297,7 @@ TEST(AppListTest, whatRunsFromInsideAnApplicationIsNoticed)
 {
     const AppHome home;
     const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe");
+    home.link(home.outside("system/proc/4711/exe"), own.string());
     AppInfo app{own.parent_path().string(), "Own folder"};
     EXPECT_TRUE(AppList::isRunning(app));
     app.path = own.string();

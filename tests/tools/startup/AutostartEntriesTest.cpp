@@ -252,7 +252,7 @@ TEST(AutostartEntriesTest, unitNamesAreEscapedAsTheRealToolDoes)
 {
     EXPECT_EQ(SessionUnitName::ofEntry("my-chat"), "app-my\\x2dchat@autostart.service");
     const StartupHome home;
-    home.addSystemTools();
+    TempHome::useSystemTools();
     if (ChildProcess::programPath("systemd-escape").empty())
         GTEST_SKIP() << "there is no systemd-escape";
     for (const char* label :
@@ -268,7 +268,7 @@ TEST(AutostartEntriesTest, unitNamesAreEscapedAsTheRealToolDoes)
 TEST(AutostartEntriesTest, desktopsAcceptWhatIsWritten)
 {
     const Entries home;
-    home.addSystemTools();
+    TempHome::useSystemTools();
     if (ChildProcess::programPath("desktop-file-validate").empty())
         GTEST_SKIP() << "there is no desktop-file-validate";
     home.tool("systemctl", "exit 1");

@@ -111,7 +111,7 @@ TEST(LoginItemsTest, desktopsAcceptAndStartTheEntry)
     for (const char* name : kOddNames) {
         SCOPED_TRACE(name);
         const Portable home(name);
-        home.addSystemTools();
+        TempHome::useSystemTools();
         if (ChildProcess::programPath("desktop-file-validate").empty() ||
             ChildProcess::programPath("gio").empty())
             GTEST_SKIP() << "there is no desktop-file-validate or no gio";

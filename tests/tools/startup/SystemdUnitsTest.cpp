@@ -198,8 +198,8 @@ TEST(SystemdUnitsTest, withoutABusTheFilesAreChangedAndNothingIsStopped)
 TEST(SystemdUnitsTest, theRealToolAndTheLinksAgree)
 {
     const Units home;
-    home.addSystemTools();
-    setenv("SYSTEMD_OFFLINE", "1", 1);
+    TempHome::useSystemTools();
+    TempHome::setVariable("SYSTEMD_OFFLINE", "1");
     const auto systemctl = [](const std::vector<std::string>& arguments) {
         std::vector<std::string> all{"systemctl", "--user"};
         all.insert(all.end(), arguments.begin(), arguments.end());
@@ -236,8 +236,8 @@ TEST(SystemdUnitsTest, theRealToolAndTheLinksAgree)
 TEST(SystemdUnitsTest, theRealToolSwitchesOffAndOnAgain)
 {
     const Units home;
-    home.addSystemTools();
-    setenv("SYSTEMD_OFFLINE", "1", 1);
+    TempHome::useSystemTools();
+    TempHome::setVariable("SYSTEMD_OFFLINE", "1");
     if (ChildProcess::programPath("systemctl").empty())
         GTEST_SKIP() << "there is no systemctl";
     const std::string link = home.path(".config/systemd/user/default.target.wants/orlen-test.service");
@@ -262,7 +262,7 @@ TEST(SystemdUnitsTest, theRealToolSwitchesOffAndOnAgain)
 TEST(SystemdUnitsTest, theFoldersComeInTheOrderOfTheRealManager)
 {
     const Units home;
-    home.addSystemTools();
+    TempHome::useSystemTools();
     const auto paths = ChildProcess::run({{"systemd-analyze", "--user", "unit-paths"}, {}});
     if (!paths || paths->status != 0)
         GTEST_SKIP() << "there is no systemd-analyze";

@@ -63,7 +63,7 @@ TEST(UnitListTest, whatIsNoListGivesNothing)
 TEST(UnitListTest, theRealToolsListIsReadAsItsTableShowsIt)
 {
     const StartupHome home;
-    home.addSystemTools();
+    TempHome::useSystemTools();
     const auto list = [](const char* form) {
         return ChildProcess::run({{"systemctl", "--user", "list-unit-files", "--type=service", form,
                                    "--no-pager", "--no-legend", "--plain"},

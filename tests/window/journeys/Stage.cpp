@@ -170,7 +170,7 @@ bool Stage::isInTrash(const QString& name) const
 
 void Stage::setRecognizing(bool recognizing) const
 {
-    const std::string commands = recognizing ? "exec '" ORLEN_RECOGNIZER "' \"$@\"" : "sleep 60";
+    const std::string commands = recognizing ? "exec '" ORLEN_RECOGNIZER "' \"$@\"" : "/bin/sleep 60";
     TempHome::setMode(m_home->file(m_home->outside(kRecognizer), "#!/bin/sh\n" + commands + "\n"), 0755);
 }
 
