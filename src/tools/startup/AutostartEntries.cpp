@@ -61,6 +61,9 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
     if (item.name.empty())
         item.name = item.label;
     item.isPartOfDesktop = !isOwn && DesktopNames::isPartOfDesktop(item.label);
+    item.description = entry->text("Comment");
+    if (const std::string_view why = AutostartSwitch::obstacle(name); !why.empty())
+        item.forbid(why);
     return item;
 }
 

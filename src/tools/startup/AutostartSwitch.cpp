@@ -9,6 +9,7 @@
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
 #include "tools/startup/DesktopEntryEdit.h"
+#include "tools/startup/StartupTexts.h"
 
 #include <algorithm>
 #include <optional>
@@ -49,10 +50,10 @@ bool editOwn(const std::string& path, std::span<const Setting> settings)
     return *changed == *text || replaceFile(path, *changed, status.value().mode).ok();
 }
 
-/// Whether a copy that is off stands before an entry of all users now.
-bool cover(const std::string& shared, const std::string& name)
+/// Whether a copy with these settings stands before an entry of all users now.
+bool cover(const std::string& shared, const std::string& name, std::vector<Setting> settings)
 {
-    const Setting settings[] = {{"Hidden", "true"}, {AutostartRules::kOverrideKey, "true"}};
+    settings.push_back({AutostartRules::kOverrideKey, "true"});
     const auto text = readSmallFile(resolved(shared), DesktopEntry::kSizeLimit);
     const auto changed = text ? edited(*text, settings) : std::nullopt;
     const std::string folder = AutostartFolders::ofUser(Places::current()).front();
@@ -70,34 +71,55 @@ std::string sharedPath(const std::string& name)
     return AutostartFolders::find(AutostartFolders::ofEverybody(Places::current()), name);
 }
 
+std::vector<Setting> settingsFor(const DesktopEntry& entry, bool enabled)
+{
+    if (!enabled)
+        return {{"Hidden", "true"}};
+    std::vector<Setting> settings{{"Hidden", "false"}};
+    for (const char* key : {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"}) {
+        if (entry.has(key))
+            settings.push_back({key, "true"});
+    }
+    return settings;
+}
+
+bool turn(const std::string& name, bool enabled)
+{
+    const std::string own = ownPath(name);
+    const auto shared = DesktopEntry::read(resolved(sharedPath(name)));
+    const bool isSoByItself = shared && AutostartRules::isEnabled(*shared) == enabled;
+    if (own.empty())
+        return isSoByItself || (shared && cover(sharedPath(name), name, settingsFor(*shared, enabled)));
+    const auto entry = DesktopEntry::read(own);
+    if (!entry)
+        return false;
+    // Without the copy all is as it should be: the entry behind it has this value by itself, or is gone.
+    if (AutostartRules::isOverride(*entry) && (isSoByItself || !shared))
+        return removeOwnFile(own).ok();
+    return editOwn(own, settingsFor(*entry, enabled));
+}
+
 } // namespace
 
 bool turnOff(const std::string& name)
 {
-    const Setting hidden[] = {{"Hidden", "true"}};
-    if (const std::string own = ownPath(name); !own.empty())
-        return editOwn(own, hidden);
-    return cover(sharedPath(name), name);
+    return turn(name, false);
 }
 
 bool turnOn(const std::string& name)
 {
+    return turn(name, true);
+}
+
+std::string_view obstacle(const std::string& name)
+{
     const std::string own = ownPath(name);
-    if (own.empty()) {
-        const auto shared = DesktopEntry::read(resolved(sharedPath(name)));
-        return shared && AutostartRules::isEnabled(*shared);
-    }
-    const auto entry = DesktopEntry::read(own);
-    if (!entry)
-        return false;
-    if (AutostartRules::isOverride(*entry))
-        return removeOwnFile(own).ok();
-    std::vector<Setting> settings{{"Hidden", "false"}};
-    for (const char* key : {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"}) {
-        if (entry->has(key))
-            settings.push_back({key, "true"});
-    }
-    return editOwn(own, settings);
+    const auto status = statusOf(own);
+    if (own.empty() || !status.ok())
+        return {};
+    if (status.value().type == FileType::link)
+        return StartupTexts::kLinkedEntry;
+    return status.value().owner == Places::current().user ? std::string_view() : StartupTexts::kOthersEntry;
 }
 
 } // namespace orlen::AutostartSwitch

@@ -1,3 +1,4 @@
+#include "platform/ChildProcess.h"
 #include "platform/Folder.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
@@ -66,6 +67,8 @@ void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std:
         auto item = name.ends_with(kAgentSuffix) ? itemAt(PathText::join(folder, name)) : std::nullopt;
         if (!item)
             continue;
+        if (ChildProcess::programPath(Places::current().launchctl).empty())
+            item->forbid(StartupTexts::kNoAgentTool);
         item->scope = scope;
         item->enabled = !disabled.contains(item->label);
         items.push_back(*std::move(item));

@@ -56,7 +56,7 @@ std::vector<LaunchItem> load()
 bool set(const LaunchItem& item, bool enabled)
 {
     // In somebody else's home folder the changes would belong to the wrong user.
-    return Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
+    return item.isSwitchable && Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
 }
 
 } // namespace orlen::LaunchControl

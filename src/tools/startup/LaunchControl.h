@@ -16,7 +16,8 @@ namespace orlen::LaunchControl {
 /// Launch agents of the user, units of the user, entries of the user, then the same of all users.
 [[nodiscard]] std::vector<LaunchItem> load();
 
-/// Switches an item on or off; off stops it now as well. Whether the change was made.
+/// Switches an item on or off; off stops it now as well. Whether the change was made:
+/// never for one that is not switchable.
 bool set(const LaunchItem& item, bool enabled);
 
 } // namespace orlen::LaunchControl

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace orlen {
 
@@ -17,6 +18,17 @@ struct LaunchItem {
     LaunchSource source = LaunchSource::launchAgent;
     std::string name;             ///< for people: the entry's name, else the label
     bool isPartOfDesktop = false; ///< switching it off may break the desktop
+    std::string description;      ///< what it is for, in its maker's words; empty when unknown
+    /// False when no switch can work; `reason` then says why, in one sentence, and is empty otherwise.
+    bool isSwitchable = true;
+    std::string reason;
+
+    /// Takes the switch away.
+    void forbid(std::string_view why)
+    {
+        isSwitchable = false;
+        reason = why;
+    }
 
     friend bool operator==(const LaunchItem&, const LaunchItem&) = default;
 };

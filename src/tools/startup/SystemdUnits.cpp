@@ -1,3 +1,4 @@
+#include "platform/FileContent.h"
 #include "platform/FileStatus.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
@@ -25,9 +26,10 @@ struct State {
 constexpr State kStates[] = {
     {"enabled", State::Meaning::on},
     {"enabled-runtime", State::Meaning::on},
-    {"linked", State::Meaning::on},
-    {"linked-runtime", State::Meaning::on},
     {"disabled", State::Meaning::off},
+    // The manager knows it, and nothing starts it.
+    {"linked", State::Meaning::off},
+    {"linked-runtime", State::Meaning::off},
     {"masked", State::Meaning::masked},
     {"masked-runtime", State::Meaning::masked},
 };
@@ -64,7 +66,41 @@ std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
     item.source = LaunchSource::systemdUnit;
     item.name = item.label;
     item.isPartOfDesktop = DesktopNames::isPartOfDesktop(item.label);
+    item.description = file->description;
+    if (state->meaning == State::Meaning::masked && !UnitFolders::isMaskedByUser(places, unit.name))
+        item.forbid(StartupTexts::kMaskedElsewhere);
     return item;
+}
+
+/// Takes away what starts a unit and leaves the user's link to its file, which the tool would take with it.
+std::optional<Systemctl::Way> removeLinks(const Places& places, const std::string& unit)
+{
+    for (const std::string& link : UnitLinks::ofUser(places, unit)) {
+        if (!removeOwnFile(link).ok())
+            return std::nullopt;
+    }
+    return Systemctl::call({"daemon-reload"}) ? Systemctl::Way::throughManager : Systemctl::Way::onFiles;
+}
+
+/// The way that worked.
+std::optional<Systemctl::Way> turnOff(const LaunchItem& item, const Places& places)
+{
+    const std::string& unit = item.label;
+    const bool isTaken = UnitFolders::isTakenByUser(places, unit);
+    const bool isOwn =
+        item.scope == StartupTexts::kYourAccount || isTaken || !UnitLinks::ofUser(places, unit).empty();
+    if (isOwn) {
+        const auto way = UnitFolders::isLinkedByUser(places, unit) ? removeLinks(places, unit)
+                                                                   : Systemctl::change("disable", unit);
+        const bool isStillOn = UnitLinks::isStartedForEverybody(places, unit);
+        if (!way || !isStillOn)
+            return way;
+        // No mask can be put where a file of the user's stands.
+        if (isTaken)
+            return std::nullopt;
+    }
+    // "disable" only takes the user's own links away: what is on for everybody has to be masked.
+    return Systemctl::change("mask", unit);
 }
 
 class SystemdUnits final : public ServiceManager {
@@ -98,10 +134,7 @@ public:
         if (enabled)
             return Systemctl::change(UnitFolders::isMaskedByUser(places, unit) ? "unmask" : "enable", unit)
                 .has_value();
-        // "disable" only takes the user's own links away: what is on for everybody has to be masked.
-        const bool isOwn =
-            item.scope == StartupTexts::kYourAccount || UnitFolders::isTakenByUser(places, unit);
-        const auto way = Systemctl::change(isOwn ? "disable" : "mask", unit);
+        const auto way = turnOff(item, places);
         // Only a manager that answers can stop it; one that does not run it has nothing to stop.
         if (way == Systemctl::Way::throughManager)
             Systemctl::call({"stop", unit});

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace orlen {
 
@@ -114,14 +115,31 @@ std::string withSpecifiers(std::string_view word, std::string_view home)
     return text;
 }
 
+std::string textOrNothing(std::string text)
+{
+    const bool isText = PathText::isValidUtf8(text) && text.find('\0') == std::string::npos;
+    return isText ? std::move(text) : std::string();
+}
+
+/// An empty list takes back all words before it.
+void addWords(std::string_view list, std::vector<std::string>& words)
+{
+    if (list.empty())
+        words.clear();
+    for (std::string_view rest = list; !rest.empty();) {
+        const std::size_t end = std::min(rest.find_first_of(" \t"), rest.size());
+        if (end > 0)
+            words.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+}
+
 std::string programOf(std::string_view command, std::string_view home)
 {
     const std::string word = firstWord(command);
     // How the manager is to start the command stands before it.
     const std::size_t start = word.find_first_not_of("-@:+!");
-    std::string program = start == std::string::npos ? "" : withSpecifiers(word.substr(start), home);
-    const bool isText = PathText::isValidUtf8(program) && program.find('\0') == std::string::npos;
-    return isText ? program : std::string();
+    return start == std::string::npos ? "" : textOrNothing(withSpecifiers(word.substr(start), home));
 }
 
 } // namespace
@@ -142,6 +160,10 @@ UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
             // An empty value takes back all commands before it.
             if (section == "[Service]" && key == "ExecStart" && (command.empty() || value.empty()))
                 command = value;
+            if (section == "[Unit]" && key == "Description")
+                unit.description = textOrNothing(std::string(value));
+            if (section == "[Install]" && key == "Alias")
+                addWords(value, unit.aliases);
             const bool isInstallKey =
                 std::find(kInstallKeys.begin(), kInstallKeys.end(), key) != kInstallKeys.end();
             if (section == "[Install]" && isInstallKey && !value.empty())

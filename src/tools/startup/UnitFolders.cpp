@@ -41,9 +41,14 @@ bool isServiceName(std::string_view name)
            name.find_first_not_of(kLetters) == std::string_view::npos;
 }
 
+std::vector<std::string> ofUser(const Places& places)
+{
+    return below(places.configs);
+}
+
 std::vector<std::string> ofSettings(const Places& places)
 {
-    std::vector<std::string> folders = below(places.configs);
+    std::vector<std::string> folders = ofUser(places);
     folders.push_back(places.systemRoot + "/etc/systemd/user");
     return folders;
 }
@@ -78,7 +83,7 @@ bool isMask(const std::string& path)
 
 bool isMaskedByUser(const Places& places, const std::string& name)
 {
-    const std::vector<std::string> folders = below(places.configs);
+    const std::vector<std::string> folders = ofUser(places);
     return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
         return isLinkToNowhere(PathText::join(folder, name));
     });
@@ -86,10 +91,20 @@ bool isMaskedByUser(const Places& places, const std::string& name)
 
 bool isTakenByUser(const Places& places, const std::string& name)
 {
-    const std::vector<std::string> folders = below(places.configs);
+    const std::vector<std::string> folders = ofUser(places);
     return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
         const std::string path = PathText::join(folder, name);
         return exists(path) && !isLinkToNowhere(path);
+    });
+}
+
+bool isLinkedByUser(const Places& places, const std::string& name)
+{
+    const std::vector<std::string> folders = ofUser(places);
+    return std::any_of(folders.begin(), folders.end(), [&](const std::string& folder) {
+        const std::string path = PathText::join(folder, name);
+        const auto status = statusOf(path);
+        return status.ok() && status.value().type == FileType::link && !isLinkToNowhere(path);
     });
 }
 

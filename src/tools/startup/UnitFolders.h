@@ -13,6 +13,8 @@ namespace orlen::UnitFolders {
 /// line could take for an option. Pure.
 [[nodiscard]] bool isServiceName(std::string_view name);
 
+/// Those of the user's own settings, the most important first. Pure.
+[[nodiscard]] std::vector<std::string> ofUser(const Places& places);
 /// All folders of units, the most important first. Pure.
 [[nodiscard]] std::vector<std::string> all(const Places& places);
 /// Those among them that hold the settings of the user or the administrator rather than those of packages.
@@ -28,5 +30,7 @@ namespace orlen::UnitFolders {
 /// Whether the user has a file of their own of that name among the settings, so that no mask can be put
 /// there.
 [[nodiscard]] bool isTakenByUser(const Places& places, const std::string& name);
+/// Whether that is a link, by which the user has taken up a unit from elsewhere.
+[[nodiscard]] bool isLinkedByUser(const Places& places, const std::string& name);
 
 } // namespace orlen::UnitFolders

@@ -6,6 +6,7 @@
 #include "tools/startup/UnitFile.h"
 #include "tools/startup/UnitFolders.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -22,19 +23,26 @@ bool isLink(const std::string& path)
     return status.ok() && status.value().type == FileType::link;
 }
 
-/// Units that something starts, by the links in its folder of that purpose.
+/// Folders that hold links to what something starts.
+std::vector<std::string> startingFolders(const std::vector<std::string>& folders)
+{
+    std::vector<std::string> starting;
+    for (const std::string& folder : folders) {
+        for (const std::string& name : listNames(folder + "/.")) {
+            if (name.ends_with(".wants") || name.ends_with(".requires") || name.ends_with(".upholds"))
+                starting.push_back(PathText::join(folder, name));
+        }
+    }
+    return starting;
+}
+
 Names startedUnits(const std::vector<std::string>& folders)
 {
     Names started;
-    for (const std::string& folder : folders) {
-        for (const std::string& name : listNames(folder + "/.")) {
-            if (!name.ends_with(".wants") && !name.ends_with(".requires"))
-                continue;
-            const std::string links = PathText::join(folder, name);
-            for (const std::string& unit : listNames(links)) {
-                if (isLink(PathText::join(links, unit)))
-                    started.insert(unit);
-            }
+    for (const std::string& links : startingFolders(folders)) {
+        for (const std::string& unit : listNames(links)) {
+            if (isLink(PathText::join(links, unit)))
+                started.insert(unit);
         }
     }
     return started;
@@ -97,6 +105,38 @@ std::vector<ListedUnit> listed(const Places& places)
         units.push_back({name, std::move(state)});
     }
     return units;
+}
+
+std::vector<std::string> ofUser(const Places& places, const std::string& unit)
+{
+    const std::vector<std::string> folders = UnitFolders::ofUser(places);
+    std::vector<std::string> links;
+    const auto addIfLink = [&](const std::string& path) {
+        if (isLink(path))
+            links.push_back(path);
+    };
+    for (const std::string& folder : startingFolders(folders))
+        addIfLink(PathText::join(folder, unit));
+    const std::string file = resolved(UnitFolders::find(places, unit));
+    const auto described = UnitFile::read(file, places.home);
+    for (const std::string& alias : described ? described->aliases : std::vector<std::string>()) {
+        for (const std::string& folder : folders) {
+            const std::string path = PathText::join(folder, alias);
+            if (alias != unit && UnitFolders::isServiceName(alias) && resolved(path) == file)
+                addIfLink(path);
+        }
+    }
+    return links;
+}
+
+bool isStartedForEverybody(const Places& places, const std::string& unit)
+{
+    std::vector<std::string> folders = UnitFolders::all(places);
+    const std::vector<std::string> own = UnitFolders::ofUser(places);
+    std::erase_if(folders, [&](const std::string& folder) {
+        return std::find(own.begin(), own.end(), folder) != own.end();
+    });
+    return startedUnits(folders).contains(unit);
 }
 
 } // namespace orlen::UnitLinks

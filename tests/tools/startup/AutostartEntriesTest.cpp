@@ -1,5 +1,6 @@
 #include "platform/ChildProcess.h"
 #include "platform/DesktopEntry.h"
+#include "tools/startup/DesktopNames.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/SessionUnitName.h"
 #include "tools/startup/StartupHome.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace orlen {
 
@@ -193,6 +195,44 @@ TEST(AutostartEntriesTest, anEntryOfAllUsersIsCoveredAndUncovered)
     EXPECT_THAT(items(), IsEmpty()); // the program is gone, and what covered its entry covers nothing
 }
 
+TEST(AutostartEntriesTest, anEntryThatIsOffForAllUsersIsSwitchedOnByACopy)
+{
+    for (const char* key : {"Hidden=true", "X-GNOME-Autostart-enabled=false"}) {
+        SCOPED_TRACE(key);
+        const Entries home;
+        const std::string path = home.shared("chat.desktop", entryText(key));
+        const std::string copy = home.path(".config/autostart/chat.desktop");
+        const LaunchItem off = items().front();
+        EXPECT_TRUE(set(off, false));
+        EXPECT_FALSE(TempHome::exists(copy)) << "nothing to do";
+        EXPECT_TRUE(set(off, true));
+        LaunchItem on = off;
+        on.enabled = true;
+        EXPECT_THAT(items(), ElementsAre(on));
+        EXPECT_EQ(TempHome::content(path), entryText(key));
+        EXPECT_TRUE(set(on, true));
+        EXPECT_THAT(items(), ElementsAre(on));
+        EXPECT_TRUE(set(on, false));
+        EXPECT_FALSE(TempHome::exists(copy));
+        EXPECT_THAT(items(), ElementsAre(off));
+    }
+}
+
+TEST(AutostartEntriesTest, whatCannotBeSwitchedSaysWhy)
+{
+    const Entries home;
+    home.own("a.desktop");
+    home.link(".config/autostart/b.desktop", home.file("dotfiles/b.desktop", entryText()));
+    const std::string others = home.own("c.desktop");
+    const bool isGivenAway = ::chown(others.c_str(), Places::current().user + 1, gid_t(-1)) == 0;
+    std::vector<bool> switchable;
+    for (const LaunchItem& item : items()) {
+        switchable.push_back(item.isSwitchable);
+        EXPECT_EQ(item.reason.empty(), item.isSwitchable) << item.label;
+    }
+    EXPECT_THAT(switchable, ElementsAre(true, false, !isGivenAway)); // only root can give files away
+}
+
 TEST(AutostartEntriesTest, whatIsNotThisProgramsToChangeStays)
 {
     const Entries home;
@@ -215,10 +255,6 @@ TEST(AutostartEntriesTest, whatIsNotThisProgramsToChangeStays)
     refuses("a dangling link before an entry of all users", false);
     std::remove(home.path(".config/autostart/chat.desktop").c_str());
     EXPECT_FALSE(set({.label = "../chat", .source = LaunchSource::autostartEntry}, false));
-
-    home.shared("chat.desktop", entryText("Hidden=true"));
-    refuses("off by the administrator", true);
-    EXPECT_FALSE(TempHome::exists(home.path(".config/autostart/chat.desktop")));
 
     home.own("chat.desktop", "no entry");
     refuses("no entry", false);
@@ -263,6 +299,15 @@ TEST(AutostartEntriesTest, unitNamesAreEscapedAsTheRealToolDoes)
         const std::string name = escaped->output.substr(0, escaped->output.size() - 1);
         EXPECT_EQ(SessionUnitName::ofEntry(label), "app-" + name + "@autostart.service");
     }
+}
+
+TEST(DesktopNamesTest, shortNamesBeginNoOthers)
+{
+    for (const char* part : {"mako", "mako.service", "waybar.service", "gcr-ssh-agent.service", "xdg-portal",
+                             "org.gnome.SettingsDaemon.Power"})
+        EXPECT_TRUE(DesktopNames::isPartOfDesktop(part)) << part;
+    for (const char* other : {"makoto", "waybar-weather.service", "gcr", "org.gnome.Settings", ".service"})
+        EXPECT_FALSE(DesktopNames::isPartOfDesktop(other)) << other;
 }
 
 TEST(AutostartEntriesTest, desktopsAcceptWhatIsWritten)

@@ -78,6 +78,7 @@ TEST(LaunchAgentsTest, withoutTheToolEveryAgentIsOnAndNoneCanBeSwitched)
     EXPECT_THAT(LaunchControl::load(), IsEmpty());
     (void)home.own("a.plist", agentNamed("own"));
     ASSERT_THAT(loaded(), ElementsAre("own  Your account on"));
+    EXPECT_FALSE(LaunchControl::load().front().isSwitchable);
     EXPECT_FALSE(LaunchControl::set(LaunchControl::load().front(), false));
     EXPECT_EQ(LaunchControl::run({"print-disabled"}), std::nullopt);
 }

@@ -85,10 +85,9 @@ TEST(SystemdUnitsTest, theManagersListIsSortedAndSifted)
     EXPECT_THAT(
         listedUnits(),
         ElementsAre("own-disabled.service Your account off", "own-enabled-runtime.service Your account on",
-                    "own-enabled.service Your account on", "own-linked.service Your account on",
+                    "own-enabled.service Your account on", "own-linked.service Your account off",
                     "own-masked.service Your account off", "shared-enabled-runtime.service All users on",
-                    "shared-enabled.service All users on", "shared-linked.service All users on",
-                    "shared-masked.service All users off"));
+                    "shared-enabled.service All users on", "shared-masked.service All users off"));
     EXPECT_THAT(home.calls(), ElementsAre("systemctl: --user list-unit-files --type=service --output=json "
                                           "--no-pager"));
 }
@@ -131,10 +130,10 @@ TEST(SystemdUnitsTest, withoutAnAnswerTheFilesAreRead)
     home.link(".config/systemd/user/masked.service", "/dev/null");
     home.link(".config/systemd/user/nothing-behind-it.service", "/dev/null");
     const std::vector<std::string> expected = {
-        "data.service Your account on",   "file-not-link.service Your account off",
-        "linked.service Your account on", "off.service Your account off",
-        "on.service Your account on",     "static-on.service Your account on",
-        "masked.service All users off",   "wanted.service All users on",
+        "data.service Your account on",    "file-not-link.service Your account off",
+        "linked.service Your account off", "off.service Your account off",
+        "on.service Your account on",      "static-on.service Your account on",
+        "masked.service All users off",    "wanted.service All users on",
     };
     for (const char* script : {"exit 1", "echo nonsense", "printf '\\377'", "kill -9 $$"}) {
         SCOPED_TRACE(script);
@@ -160,6 +159,8 @@ TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
     const LaunchItem own = unit("a.service", "Your account");
     const LaunchItem shared = unit("b.service", "All users");
     const LaunchItem masked = unit("c.service", "All users");
+    const LaunchItem chosen = unit("e.service", "All users");
+    const LaunchItem twice = unit("f.service", "Your account");
     const LaunchItem covered = unit("d.service", "All users");
     const auto live = [](const std::string& call) { return "systemctl: --user " + call; };
     const auto offline = [](const std::string& call) { return "systemctl offline: --user " + call; };
@@ -171,6 +172,13 @@ TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
         {"shared on", shared, true, "-", {live("enable b.service")}, true},
         {"masked on", masked, true, "-", {live("unmask c.service")}, true},
         {"own file", covered, false, "-", {live("disable d.service"), live("stop d.service")}, true},
+        {"own choice", chosen, false, "-", {live("disable e.service"), live("stop e.service")}, true},
+        {"for everybody too",
+         twice,
+         false,
+         "-",
+         {live("disable f.service"), live("mask f.service"), live("stop f.service")},
+         true},
         {"nothing works", own, false, "*", {live("disable a.service"), offline("disable a.service")}, false},
         {"an option", unit("--now.service", "Your account"), false, "-", {}, false},
         {"a path", unit("../a.service", "Your account"), true, "-", {}, false},
@@ -180,6 +188,10 @@ TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
         const Units home;
         (void)home.own("d.service");
         home.link(".config/systemd/user/c.service", "/dev/null");
+        for (const char* link : {".config/systemd/user/default.target.wants/e.service",
+                                 ".config/systemd/user/default.target.wants/f.service",
+                                 "../system/etc/systemd/user/default.target.wants/f.service"})
+            home.link(link, "/usr/lib/systemd/user/any.service");
         home.manager("[]", c.refused);
         EXPECT_EQ(makeSystemdUnits()->set(c.item, c.enabled), c.isDone);
         EXPECT_EQ(home.changes(), c.calls);
@@ -193,6 +205,53 @@ TEST(SystemdUnitsTest, withoutABusTheFilesAreChangedAndNothingIsStopped)
     EXPECT_TRUE(makeSystemdUnits()->set(unit("b.service", "All users"), false));
     EXPECT_THAT(home.changes(),
                 ElementsAre("systemctl: --user mask b.service", "systemctl offline: --user mask b.service"));
+}
+
+TEST(SystemdUnitsTest, whatIsMaskedElsewhereHasNoSwitch)
+{
+    const Units home;
+    (void)home.shared("a.service");
+    home.link(home.outside("system/etc/systemd/user/a.service"), "/dev/null");
+    home.manager("[" + entry("a.service", "masked") + "]");
+    const std::vector<LaunchItem> items = makeSystemdUnits()->items();
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_FALSE(items[0].isSwitchable);
+    EXPECT_NE(items[0].reason, "");
+}
+
+TEST(SystemdUnitsTest, aLinkedUnitKeepsItsLink)
+{
+    const std::string folder = ".config/systemd/user/";
+    const std::string text = std::string(kUnit) + "Alias=orlen-test-other.service\n";
+    for (const bool isReal : {false, true}) {
+        SCOPED_TRACE(isReal ? "the real tool" : "no answer");
+        const Units home;
+        const std::string file = home.file("project/orlen-test.service", text.c_str());
+        const std::string link = home.path(folder + "orlen-test.service");
+        const std::string wants = home.path(folder + "default.target.wants/orlen-test.service");
+        const std::string alias = home.path(folder + "orlen-test-other.service");
+        if (isReal) {
+            TempHome::useSystemTools();
+            TempHome::setVariable("SYSTEMD_OFFLINE", "1");
+            const auto enabled = ChildProcess::run({{"systemctl", "--user", "enable", file}, {}});
+            if (!enabled || enabled->status != 0)
+                GTEST_SKIP() << "there is no systemctl that works on files";
+        } else {
+            home.tool("systemctl", "exit 1");
+            for (const std::string& path : {link, wants, alias})
+                home.link(path, file);
+        }
+        ASSERT_THAT(listedUnits(), Contains("orlen-test.service Your account on"));
+        const auto manager = makeSystemdUnits();
+        EXPECT_TRUE(manager->set(unit("orlen-test.service", "Your account"), false));
+        EXPECT_TRUE(TempHome::exists(link));
+        EXPECT_FALSE(TempHome::exists(wants));
+        EXPECT_FALSE(TempHome::exists(alias));
+        EXPECT_EQ(TempHome::content(file), text);
+        EXPECT_THAT(listedUnits(), ElementsAre("orlen-test.service Your account off"));
+        EXPECT_EQ(manager->set(unit("orlen-test.service", "Your account"), true), isReal);
+        EXPECT_EQ(TempHome::exists(wants), isReal);
+    }
 }
 
 TEST(SystemdUnitsTest, theRealToolAndTheLinksAgree)
