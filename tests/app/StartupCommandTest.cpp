@@ -29,7 +29,8 @@ Process::Outcome startup(std::vector<std::string> arguments)
 /// A unit, an entry of the user and one of all users; the unit and an entry share a label.
 struct UsedLogin : StartupHome {
     UsedLogin()
-        : unit(file(".config/systemd/user/pipewire.service", "[Service]\nExecStart=/opt/pipe wire\n")),
+        : unit(file(".config/systemd/user/pipewire.service",
+                    "[Unit]\nDescription=Sound\n[Service]\nExecStart=/opt/pipe wire\n")),
           twin(file(".config/autostart/pipewire.service.desktop", "[Desktop Entry]\nExec=wire\n")),
           own(file(".config/autostart/chat.desktop",
                    "[Desktop Entry]\nExec=\"/opt/My Chat\"\nHidden=false\n")),
@@ -46,7 +47,8 @@ esac)sh");
 
 Json item(const char* label, const std::string& path, const char* program, const char* scope, bool enabled)
 {
-    return {{"label", label}, {"path", path}, {"program", program}, {"scope", scope}, {"enabled", enabled}};
+    return {{"label", label},     {"path", path},        {"program", program}, {"scope", scope},
+            {"enabled", enabled}, {"kind", "autostart"}, {"switchable", true}};
 }
 
 } // namespace
@@ -56,8 +58,10 @@ TEST(StartupCommandTest, theDocumentHoldsTheItemsInOrder)
     const UsedLogin home;
     const Process::Outcome outcome = startup({"--json"});
     EXPECT_EQ(outcome.status, 0);
-    const Json expected = Json::array({item("pipewire.service", home.unit, "/opt/pipe", "Your account", true),
-                                       item("chat", home.own, "/opt/My Chat", "Your account", true),
+    const Json service = {{"label", "pipewire.service"}, {"path", home.unit}, {"program", "/opt/pipe"},
+                          {"scope", "Your account"},     {"enabled", true},   {"kind", "service"},
+                          {"description", "Sound"},      {"switchable", true}};
+    const Json expected = Json::array({service, item("chat", home.own, "/opt/My Chat", "Your account", true),
                                        item("pipewire.service", home.twin, "wire", "Your account", true),
                                        item("files", home.shared, "files", "All users", true)});
     EXPECT_EQ(outcome.document().dump(2), expected.dump(2));
@@ -131,8 +135,11 @@ TEST(StartupCommandTest, aFailedChangeIsTold)
     home.link(".config/autostart/linked.desktop", home.file("dotfiles/linked.desktop", text));
     const Process::Outcome outcome = startup({"disable", "linked", "--json"});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(outcome.err, HasSubstr("\"linked\" could not be switched off"));
+    EXPECT_THAT(outcome.err, HasSubstr("\"linked\" could not be switched off. Its file is a link"));
     EXPECT_EQ(outcome.document()["enabled"], true);
+    EXPECT_EQ(outcome.document()["switchable"], false);
+    EXPECT_THAT(outcome.document()["reason"].get<std::string>(), HasSubstr("is a link"));
+    EXPECT_THAT(startup({}).out, HasSubstr("Its file is a link"));
     EXPECT_EQ(TempHome::content(home.path("dotfiles/linked.desktop")), text);
 }
 

@@ -88,6 +88,18 @@ TEST_F(StartupListModelTest, goesBackAndSaysSoWhenTheChangeFails)
     TempHome::setMode(m_home.path(kFolder), 0700);
 }
 
+TEST_F(StartupListModelTest, whatCannotBeSwitchedStaysAsItIs)
+{
+    writeEntry(m_home, "../dotfiles.desktop", "Kite");
+    m_home.link(kEntry, m_home.path(".config/dotfiles.desktop"));
+    ASSERT_TRUE(load(m_items));
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isSwitchable), false);
+    EXPECT_NE(value(m_items, "Kite", ItemRole::reason), "");
+    m_items.toggle(rowOf(m_items, "Kite"));
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isBusy), false);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), true);
+}
+
 TEST_F(StartupListModelTest, aListReadDuringAChangeDoesNotUndoIt)
 {
     writeEntry(m_home, "kite.desktop", "Kite");

@@ -244,13 +244,33 @@ Json leftovers(const std::vector<FileEntry>& leftovers)
     return entries(leftovers);
 }
 
+namespace {
+
+const char* kindOf(LaunchSource source)
+{
+    switch (source) {
+    case LaunchSource::launchAgent:
+        return "agent";
+    case LaunchSource::systemdUnit:
+        return "service";
+    case LaunchSource::autostartEntry:
+        return "autostart";
+    }
+    return "";
+}
+
+} // namespace
+
 Json startupItem(const LaunchItem& item)
 {
-    return {{"label", item.label},
-            {"path", item.path},
-            {"program", item.program},
-            {"scope", item.scope},
-            {"enabled", item.enabled}};
+    Json json = {{"label", item.label}, {"path", item.path},       {"program", item.program},
+                 {"scope", item.scope}, {"enabled", item.enabled}, {"kind", kindOf(item.source)}};
+    if (!item.description.empty())
+        json["description"] = item.description;
+    json["switchable"] = item.isSwitchable;
+    if (!item.isSwitchable)
+        json["reason"] = item.reason;
+    return json;
 }
 
 Json startup(const std::vector<LaunchItem>& items)

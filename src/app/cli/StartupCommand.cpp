@@ -49,11 +49,14 @@ void printItems(const Items& items)
                  {"Runs", Kind::path},
                  {"", Kind::text}});
     for (const LaunchItem& item : items) {
+        std::string remark(item.isPartOfDesktop ? Texts::kPartOfDesktop : std::string_view());
+        if (!item.isSwitchable)
+            remark += (remark.empty() ? "" : " · ") + item.reason;
         table.addRow({item.enabled ? Table::Cell{"On", Style::green} : Table::Cell{"Off", Style::dim},
                       {PathText::forDisplay(item.label), Style::bold},
                       {item.scope},
                       {Texts::shownPath(item.program)},
-                      {item.isPartOfDesktop ? std::string(Texts::kPartOfDesktop) : "", Style::orange}});
+                      {std::move(remark), Style::orange}});
     }
     Session::print(colours.styled(Style::dim, Texts::kStartupItems) + "\n\n" +
                    table.text(colours, Session::width()) + '\n' +
@@ -141,7 +144,8 @@ private:
         if (isDone)
             item.enabled = isWanted;
         else
-            session.complain(name + std::string(isWanted ? Texts::kNotSwitchedOn : Texts::kNotSwitchedOff));
+            session.complain(name + std::string(isWanted ? Texts::kNotSwitchedOn : Texts::kNotSwitchedOff) +
+                             (item.isSwitchable ? "" : " " + item.reason));
         if (wantsJson())
             Session::printDocument(JsonDocuments::startupItem(item));
         else if (isDone)

@@ -99,6 +99,8 @@ void StartupListModel::toggle(int row)
         return;
     const LaunchItem item = m_items[static_cast<std::size_t>(row)];
     const bool isWanted = !item.enabled;
+    if (!item.isSwitchable)
+        return;
     if (!m_wanted.emplace(item.path, isWanted).second)
         return;
     // A list that is being read may hold the old value: it is read again afterwards.
@@ -166,6 +168,10 @@ QVariant StartupListModel::data(const QModelIndex& index, int role) const
         return m_wanted.contains(item.path);
     case Role::isPartOfDesktop:
         return item.isPartOfDesktop;
+    case Role::isSwitchable:
+        return item.isSwitchable;
+    case Role::reason:
+        return DisplayText::text(item.reason);
     }
     return {};
 }
@@ -179,7 +185,9 @@ QHash<int, QByteArray> StartupListModel::roleNames() const
             {static_cast<int>(Role::symbol), "symbol"},
             {static_cast<int>(Role::isOn), "isOn"},
             {static_cast<int>(Role::isBusy), "isBusy"},
-            {static_cast<int>(Role::isPartOfDesktop), "isPartOfDesktop"}};
+            {static_cast<int>(Role::isPartOfDesktop), "isPartOfDesktop"},
+            {static_cast<int>(Role::isSwitchable), "isSwitchable"},
+            {static_cast<int>(Role::reason), "reason"}};
 }
 
 } // namespace orlen

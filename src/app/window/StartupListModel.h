@@ -31,6 +31,8 @@ public:
         isOn,                ///< whether it starts; while a change is made, the value that it will have
         isBusy,              ///< whether a change is being made
         isPartOfDesktop,     ///< whether the desktop may miss it
+        isSwitchable,        ///< whether its switch can work
+        reason,              ///< why not, in one sentence; empty when it can
     };
 
     explicit StartupListModel(QObject* parent = nullptr);
@@ -42,7 +44,7 @@ public:
     /// Reads the list anew; while a change is made, after it.
     Q_INVOKABLE void load();
     /// Switches an item, which shows the new value at once and goes back to the old one when that fails.
-    /// Nothing happens while a change of the same item is being made.
+    /// Nothing happens while a change of the same item is being made, and to what is not switchable.
     Q_INVOKABLE void toggle(int row);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

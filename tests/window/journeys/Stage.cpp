@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -182,6 +183,12 @@ QString Stage::content(const QString& name) const
 void Stage::write(const QString& name, const QString& content) const
 {
     m_home->file(name.toStdString(), content.toStdString());
+}
+
+void Stage::link(const QString& name, const QString& target) const
+{
+    std::filesystem::remove(m_home->path(name.toStdString()));
+    m_home->link(name.toStdString(), m_home->path(target.toStdString()));
 }
 
 QQuickItem* Stage::find(QObject* where, const QString& name) const

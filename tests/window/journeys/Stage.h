@@ -31,6 +31,8 @@ public:
     /// Whether pictures are looked at from now on, or never done with.
     Q_INVOKABLE void setRecognizing(bool recognizing) const;
     Q_INVOKABLE void write(const QString& name, const QString& content) const;
+    /// Puts a link in the place of a file; both names lie below the home folder.
+    Q_INVOKABLE void link(const QString& name, const QString& target) const;
 
     /// The item of this object name that can be seen in a window or an item, the topmost if there are
     /// several; else null. Delegates and popups count too, which `findChild` does not know.

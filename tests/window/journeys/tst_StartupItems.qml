@@ -57,7 +57,21 @@ Journey {
         tryVerify(() => !test.agent().isOn);
     }
 
-    function test_4_thisProgramOpensAtLogin() {
+    function test_4_whatCannotBeSwitchedSaysWhy() {
+        stage.write("notes.desktop", stage.content(test.entry));
+        stage.link(test.entry, "notes.desktop");
+        test.clickOn("reloadStartup");
+        tryVerify(() => !test.agent().isSwitchable);
+        const toggle = stage.find(test.agent(), "switch");
+        compare(toggle.enabled, false);
+        verify(toggle.Accessible.description.includes("link"));
+        mouseClick(toggle);
+        wait(50);
+        compare(test.agent().isOn, false);
+        compare(test.agent().isBusy, false);
+    }
+
+    function test_5_thisProgramOpensAtLogin() {
         const own = ".config/autostart/orlen.desktop";
         compare(test.item("openAtLogin").checked, false);
         test.clickOn("openAtLogin");

@@ -12,6 +12,8 @@ Item {
     required property bool isOn
     required property bool isBusy
     required property bool isPartOfDesktop
+    required property bool isSwitchable
+    required property string reason
     property bool lineShown: false
     property bool focusShown: false
     signal toggled
@@ -19,7 +21,7 @@ Item {
     implicitHeight: texts.height + 24
     Accessible.role: Accessible.ListItem
     Accessible.name: root.name
-    Accessible.description: root.program
+    Accessible.description: root.isSwitchable ? root.program : root.reason
 
     Rectangle {
         x: 64
@@ -123,10 +125,24 @@ Item {
         anchors.rightMargin: 18
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
+        enabled: root.isSwitchable
+        Accessible.description: root.reason
         focusPolicy: Qt.NoFocus
         checkable: !root.isBusy
         checked: root.isOn
         opacity: root.isBusy ? 0.6 : 1
         onToggled: root.toggled()
+    }
+
+    // A switch that is off-limits hears no pointer of its own.
+    HoverHandler {
+        id: hover
+    }
+
+    ToolTipBubble {
+        parent: toggle
+        x: toggle.width - implicitWidth
+        text: root.reason
+        shown: !root.isSwitchable && (hover.hovered || root.focusShown)
     }
 }
