@@ -10,12 +10,18 @@
 /// or the time is over; any thread.
 namespace orlen::ChildProcess {
 
+/// What the new process finds in its environment.
+enum class Variables {
+    added, ///< this process's, and those that are given beside or in place of them
+    given, ///< those that are given and no other
+};
+
 struct Call {
     /// The program, absolute or looked for in PATH, and its arguments.
     std::vector<std::string> arguments;
-    /// "NAME=value", beside or in place of the variables of this process.
-    std::vector<std::string> environment;
+    std::vector<std::string> environment; ///< "NAME=value"
     std::chrono::milliseconds limit{5000};
+    Variables variables = Variables::added;
 };
 
 struct Outcome {

@@ -15,6 +15,12 @@ struct Limits {
 /// Whether all of it holds.
 [[nodiscard]] bool apply(const Limits& limits);
 
+/// From now on no other process of this user can look into this one.
+void hideMemory();
+
+/// Ends the process as soon as nobody holds the other end of a socket, whatever it is doing. Starts a thread.
+void endWithOther(int socket);
+
 /// Ends the process when that much time has passed; a new call replaces the last, 0 takes it back.
 void endAfter(std::chrono::seconds time);
 

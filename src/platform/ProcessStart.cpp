@@ -112,7 +112,9 @@ std::optional<pid_t> start(const ChildProcess::Call& call, Belonging belonging, 
     const std::string program = ChildProcess::programPath(call.arguments.front());
     if (program.empty())
         return std::nullopt;
-    const std::vector<std::string> environment = environmentWith(call.environment);
+    const std::vector<std::string> environment = call.variables == ChildProcess::Variables::given
+                                                     ? call.environment
+                                                     : environmentWith(call.environment);
     return Start(belonging, streams)(program, pointers(call.arguments).data(), pointers(environment).data());
 }
 

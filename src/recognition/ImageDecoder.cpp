@@ -3,13 +3,20 @@
 #include "platform/FileContent.h"
 #include "recognition/BmpReader.h"
 #include "recognition/ImageLimits.h"
+#include "recognition/Samples.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <limits>
 #include <memory>
 #include <string_view>
 #include <vips/vips.h>
+
+#if VIPS_MAJOR_VERSION == 8 && VIPS_MINOR_VERSION < 15
+#include <vips/vector.h>
+#define ORLEN_VIPS_WRITES_CODE
+#endif
 
 namespace orlen::ImageDecoder {
 
@@ -56,12 +63,16 @@ bool isBmp(const Start& start)
     return start[0] == 'B' && start[1] == 'M';
 }
 
-std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound)
+std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound, PictureUse use)
 {
     auto picture = BmpReader::read(bytesOf(descriptor), bound);
     if (!picture)
         return std::nullopt;
-    return Decoded{picture->width, picture->height, false, false, std::move(picture->small)};
+    Decoded decoded{picture->width, picture->height, false, false, std::move(picture->small), {}};
+    if (use == PictureUse::icon)
+        decoded.alpha.assign(decoded.small.pixels.size() / kColours,
+                             std::numeric_limits<std::uint8_t>::max());
+    return decoded;
 }
 
 /// Whether the picture's own description of how it was taken has this.
@@ -83,13 +94,23 @@ bool isFromCamera(const Image& header)
            tells(header, "exif-ifd2-FocalLength");
 }
 
-/// Colours of any kind and depth as sRGB of 8 bits over white.
-Image asRgb(const Image& image)
+bool isDrawnInLines(const Image& header)
+{
+    const char* loader = nullptr;
+    return vips_image_get_string(header.get(), VIPS_META_LOADER, &loader) == 0 &&
+           std::string_view(loader).starts_with("svg");
+}
+
+/// Colours of any kind and depth as sRGB of 8 bits: a photo over white, an icon with its alpha.
+Image asRgb(const Image& image, PictureUse use)
 {
     Image rgb = applied(image, [](VipsImage* in, VipsImage** out) {
         return vips_colourspace(in, out, VIPS_INTERPRETATION_sRGB, nullptr);
     });
-    if (rgb && vips_image_hasalpha(rgb.get()) != 0) {
+    const bool hasAlpha = rgb && vips_image_hasalpha(rgb.get()) != 0;
+    if (!hasAlpha && use == PictureUse::icon)
+        rgb = applied(rgb, [](VipsImage* in, VipsImage** out) { return vips_addalpha(in, out, nullptr); });
+    if (hasAlpha && use == PictureUse::photo) {
         rgb = applied(rgb, [](VipsImage* in, VipsImage** out) {
             const std::array<double, kColours> colour{255, 255, 255};
             VipsArrayDouble* background = vips_array_double_new(colour.data(), kColours);
@@ -98,21 +119,29 @@ Image asRgb(const Image& image)
             return result;
         });
     }
-    rgb = applied(rgb, [](VipsImage* in, VipsImage** out) {
-        return vips_extract_band(in, out, 0, "n", kColours, nullptr);
+    const int bands = use == PictureUse::icon ? kColours + 1 : kColours;
+    rgb = applied(rgb, [bands](VipsImage* in, VipsImage** out) {
+        return vips_extract_band(in, out, 0, "n", bands, nullptr);
     });
     return applied(rgb, [](VipsImage* in, VipsImage** out) { return vips_cast_uchar(in, out, nullptr); });
 }
 
+struct Wanted {
+    PixelSize box; ///< while it still lies as it is stored
+    PictureUse use;
+    bool mayGrow;
+};
+
 /// Small, in sRGB, lying as it is stored, and wholly in memory. The loader gets its options as text: for a
 /// source libvips 8.14 does not hand on how strict it has to be.
-Image shrunk(VipsSource* source, PixelSize box, const char* loaderOptions)
+Image shrunk(VipsSource* source, const Wanted& wanted, const char* loaderOptions)
 {
     VipsImage* made = nullptr;
-    if (vips_thumbnail_source(source, &made, box.width, "height", box.height, "size", VIPS_SIZE_DOWN,
-                              "no_rotate", TRUE, "option_string", loaderOptions, nullptr) != 0)
+    if (vips_thumbnail_source(source, &made, wanted.box.width, "height", wanted.box.height, "size",
+                              wanted.mayGrow ? VIPS_SIZE_BOTH : VIPS_SIZE_DOWN, "no_rotate", TRUE,
+                              "option_string", loaderOptions, nullptr) != 0)
         return nullptr;
-    const Image rgb = asRgb(Image(made));
+    const Image rgb = asRgb(Image(made), wanted.use);
     return rgb ? Image(vips_image_copy_memory(rgb.get())) : nullptr;
 }
 
@@ -122,14 +151,15 @@ bool lacksItsEnd(const Image& image)
 {
     const int height = vips_image_get_height(image.get());
     const auto length = static_cast<std::ptrdiff_t>(VIPS_IMAGE_SIZEOF_LINE(image.get()));
+    const int bands = vips_image_get_bands(image.get());
     const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
     const std::uint8_t* const end = start + length * height;
-    const std::uint8_t* const filling = end - kColours;
+    const std::uint8_t* const filling = end - bands;
     int missing = 0;
     for (const std::uint8_t* row = end - length; row >= start; row -= length, ++missing) {
         bool isFilling = true;
-        for (std::ptrdiff_t at = 0; at < length && isFilling; at += kColours)
-            isFilling = std::equal(row + at, row + at + kColours, filling);
+        for (std::ptrdiff_t at = 0; at < length && isFilling; at += bands)
+            isFilling = std::equal(row + at, row + at + bands, filling);
         if (!isFilling)
             break;
     }
@@ -137,20 +167,30 @@ bool lacksItsEnd(const Image& image)
 }
 
 /// Many damaged files are whole but for a few rows or spots, and worth a second, forgiving try.
-Image bestEffort(VipsSource* source, PixelSize box)
+Image bestEffort(VipsSource* source, const Wanted& wanted)
 {
-    if (Image whole = shrunk(source, box, "[fail_on=truncated]"))
+    if (Image whole = shrunk(source, wanted, "[fail_on=truncated]"))
         return whole;
-    Image damaged = shrunk(source, box, "");
+    Image damaged = shrunk(source, wanted, "");
     return damaged && !lacksItsEnd(damaged) ? std::move(damaged) : nullptr;
 }
 
-RgbImage pixelsOf(const Image& image)
+/// The pixels, and their alpha where they have it.
+void store(Decoded& decoded, const Image& image)
 {
     const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
-    return {vips_image_get_width(image.get()),
-            vips_image_get_height(image.get()),
-            {start, start + VIPS_IMAGE_SIZEOF_IMAGE(image.get())}};
+    const auto* const end = start + VIPS_IMAGE_SIZEOF_IMAGE(image.get());
+    decoded.small = {vips_image_get_width(image.get()), vips_image_get_height(image.get()), {}};
+    std::vector<std::uint8_t>& pixels = decoded.small.pixels;
+    const int bands = vips_image_get_bands(image.get());
+    if (bands == kColours) {
+        pixels.assign(start, end);
+        return;
+    }
+    for (const std::uint8_t* pixel = start; pixel != end; pixel += bands) {
+        pixels.insert(pixels.end(), pixel, pixel + kColours);
+        decoded.alpha.push_back(pixel[kColours]);
+    }
 }
 
 void cutToMiddle(RgbImage& image, PixelSize size)
@@ -174,30 +214,43 @@ PixelSize boxOf(const Decoded& picture, const PictureBound& bound)
     return (picture.isLying ? bound.turned() : bound).box({picture.width, picture.height});
 }
 
-std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound)
+std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, PictureUse use)
 {
     const Owned<VipsSource> source(vips_source_new_from_descriptor(descriptor));
     if (!source)
         return std::nullopt;
     Decoded decoded;
+    bool isDrawing = false;
     if (const Image header{
             vips_image_new_from_source(source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr)}) {
         decoded.width = vips_image_get_width(header.get());
         decoded.height = vips_image_get_height(header.get());
         decoded.isLying = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.isFromCamera = isFromCamera(header);
+        isDrawing = isDrawnInLines(header);
     }
-    if (!ImageLimits::allow(decoded.width, decoded.height))
+    if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
         return std::nullopt;
-    const Image lying = bestEffort(source.get(), boxOf(decoded, bound));
+    const Image lying = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
     Image upright =
         applied(lying, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
     if (upright)
         upright.reset(vips_image_copy_memory(upright.get()));
     if (!upright)
         return std::nullopt;
-    decoded.small = pixelsOf(upright);
+    store(decoded, upright);
     return decoded;
+}
+
+/// Decoders open the files of their parts when they meet their first picture. Its header is enough for that,
+/// and starts no thread.
+void warmUp()
+{
+    for (const std::span<const std::uint8_t> sample : Samples::all()) {
+        const Owned<VipsSource> source(vips_source_new_from_memory(sample.data(), sample.size()));
+        const Image header(source ? vips_image_new_from_source(source.get(), "", nullptr) : nullptr);
+    }
+    vips_error_clear();
 }
 
 } // namespace
@@ -208,19 +261,26 @@ void prepare()
         std::abort();
     vips_concurrency_set(1);
     vips_cache_set_max(0);
+#ifdef ORLEN_VIPS_WRITES_CODE
+    // These versions write code for each picture, into files of the home folder if they may; pictures are
+    // read as fast without.
+    vips_vector_set_enabled(FALSE);
+#endif
     // By content, not by name: what is not listed here is no picture, whatever its name promises.
     vips_operation_block_set("VipsForeignLoad", TRUE);
-    for (const char* loader : {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif",
-                               "VipsForeignLoadTiff", "VipsForeignLoadWebp", "VipsForeignLoadNsgif"})
+    for (const char* loader :
+         {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif", "VipsForeignLoadTiff",
+          "VipsForeignLoadWebp", "VipsForeignLoadNsgif", "VipsForeignLoadSvg"})
         vips_operation_block_set(loader, FALSE);
+    warmUp();
 }
 
-std::optional<Decoded> decode(int descriptor, const PictureBound& bound)
+std::optional<Decoded> decode(int descriptor, const PictureBound& bound, PictureUse use)
 {
     const std::optional<Start> start = startOf(descriptor);
     if (!start)
         return std::nullopt;
-    auto decoded = isBmp(*start) ? decodeBmp(descriptor, bound) : decodeOther(descriptor, bound);
+    auto decoded = isBmp(*start) ? decodeBmp(descriptor, bound, use) : decodeOther(descriptor, bound, use);
     vips_error_clear();
     if (decoded)
         cutToMiddle(decoded->small, bound.shown({decoded->small.width, decoded->small.height}));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/images/PictureBound.h"
-#include "platform/images/RgbImage.h"
+#include "platform/images/SmallPicture.h"
 
 #include <optional>
 
@@ -19,8 +19,9 @@ struct Decoded {
     bool isLying = false;
     /// Whether the file says what camera made it, or for how long it was exposed.
     bool isFromCamera = false;
-    /// Upright, never larger than the picture, the first frame, see-through parts over white.
+    /// Upright, never larger than the picture unless that is drawn in lines, the first frame.
     RgbImage small;
+    std::vector<std::uint8_t> alpha; ///< as a small picture has it
 
     /// The size of the whole picture when it is upright.
     [[nodiscard]] PixelSize upright() const
@@ -29,11 +30,13 @@ struct Decoded {
     }
 };
 
-/// Once per process, before the first picture: allows the known formats only.
+/// Once per process, before the first picture: allows the known formats only, and opens all files that
+/// decoding them will ever need.
 void prepare();
 
 /// The picture in an open file, told by its content. Nothing when it is no picture of a known format, is
 /// damaged beyond use, or larger than any picture should be. One thread.
-[[nodiscard]] std::optional<Decoded> decode(int descriptor, const PictureBound& bound);
+[[nodiscard]] std::optional<Decoded> decode(int descriptor, const PictureBound& bound,
+                                            PictureUse use = PictureUse::photo);
 
 } // namespace orlen::ImageDecoder

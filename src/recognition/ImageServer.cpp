@@ -15,10 +15,14 @@ namespace orlen::ImageServer {
 
 namespace {
 
-ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, int buffer)
+ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, PictureUse use, int buffer)
 {
-    const std::optional<ImageDecoder::Decoded> decoded = ImageDecoder::decode(file, bound);
-    if (!decoded || !PixelBuffer::write(buffer, decoded->small.pixels))
+    std::optional<ImageDecoder::Decoded> decoded = ImageDecoder::decode(file, bound, use);
+    if (!decoded)
+        return {};
+    std::vector<std::uint8_t>& pixels = decoded->small.pixels;
+    pixels.insert(pixels.end(), decoded->alpha.begin(), decoded->alpha.end());
+    if (!PixelBuffer::write(buffer, pixels))
         return {};
     return {{{decoded->upright(), {decoded->small.width, decoded->small.height}}}};
 }
@@ -31,7 +35,8 @@ std::optional<std::string> answered(const DescriptorSocket::Message& message)
         return std::nullopt;
     const int file = message.files.front().get();
     if (question->bound)
-        return ImageMessages::encoded(smallPicture(file, *question->bound, message.files.back().get()));
+        return ImageMessages::encoded(
+            smallPicture(file, *question->bound, question->use, message.files.back().get()));
     return ImageMessages::encoded(ImageMessages::Answer{analysis(file)});
 }
 

@@ -1,4 +1,5 @@
 #include "platform/ProcessLimits.h"
+#include "recognition/Cage.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/ImageServer.h"
 
@@ -9,13 +10,16 @@
 #include <malloc.h>
 #include <opencv2/core/utility.hpp>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <unistd.h>
 
 namespace {
 
 /// Thousands of pictures need less; a process that reaches it is replaced.
 constexpr std::chrono::hours kProcessorTime{2};
 constexpr int kStandardInput = 0;
+constexpr std::size_t kTrialMemory = 1'500UL * 1024 * 1024;
 
 std::optional<std::size_t> number(std::string_view text)
 {
@@ -34,11 +38,37 @@ std::size_t allowedMemory(std::size_t wanted)
 #endif
 }
 
+bool prepare(std::size_t memory)
+{
+    // Libraries with threads of their own would each take an arena that never shrinks.
+    ::mallopt(M_ARENA_MAX, 2);
+    if (!orlen::ProcessLimits::apply({allowedMemory(memory), kProcessorTime}))
+        return false;
+    // One picture at a time on one core: there is a process for each core.
+    cv::setNumThreads(1);
+    orlen::ImageDecoder::prepare();
+    return true;
+}
+
+int tryOut()
+{
+    // Before the libraries keep their own variables there.
+    const bool isBare = environ == nullptr || *environ == nullptr;
+    if (!prepare(kTrialMemory))
+        return 1;
+    orlen::CageReport report = orlen::Cage::tried(orlen::Cage::lock());
+    report.attempts.push_back({orlen::CageReport::Wall::environment, "find a variable", isBare});
+    const std::string text = report.encoded();
+    return std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
+}
+
 } // namespace
 
 /// The program that Orlen hands pictures to, through a socket that is its standard input.
 int main(int argc, char** argv)
 {
+    if (argc == 2 && argv[1] == std::string_view(orlen::CageReport::kArgument))
+        return tryOut();
     constexpr int kArguments = 4;
     const auto memory = argc == kArguments ? number(argv[1]) : std::nullopt;
     const auto picture = argc == kArguments ? number(argv[2]) : std::nullopt;
@@ -47,13 +77,10 @@ int main(int argc, char** argv)
         std::fputs("orlen-recognizer is started by orlen.\n", stderr);
         return 2;
     }
-    // Libraries with threads of their own would each take an arena that never shrinks.
-    ::mallopt(M_ARENA_MAX, 2);
-    if (!orlen::ProcessLimits::apply({allowedMemory(*memory), kProcessorTime}))
+    if (!prepare(*memory))
         return 1;
-    // One picture at a time on one core: there is a process for each core.
-    cv::setNumThreads(1);
-    orlen::ImageDecoder::prepare();
+    (void)orlen::Cage::lock();
+    orlen::ProcessLimits::endWithOther(kStandardInput);
     orlen::ImageServer::serve(kStandardInput,
                               {std::chrono::seconds(*picture), std::chrono::milliseconds(*idle)});
     return 0;

@@ -78,6 +78,10 @@ TEST(ImageMessagesTest, aQuestionIsHeardAsItWasPut)
     EXPECT_EQ(small->bound->fit, PictureBound::Fit::cover);
     for (const PixelSize size : {PixelSize{4097, 1}, PixelSize{1, 4097}, PixelSize{0, 5}, PixelSize{5, -1}})
         EXPECT_FALSE(decodedQuestion(encoded(Question{{{size}}}))) << size.width << ' ' << size.height;
+    const auto icon = decodedQuestion(encoded(Question{{{{32, 16}}}, PictureUse::icon}));
+    ASSERT_TRUE(icon && icon->bound);
+    EXPECT_EQ(icon->use, PictureUse::icon);
+    EXPECT_FALSE(decodedQuestion(encoded(Question{{{{8, 8}, PictureBound::Fit::cover}}, PictureUse::icon})));
     EXPECT_FALSE(decodedQuestion(""));
     EXPECT_FALSE(decodedQuestion(encoded(Question{}) + '\0'));
 }

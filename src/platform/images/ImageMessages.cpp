@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::uint8_t kAnalysis = 0;
 constexpr std::uint8_t kSmallPicture = 1;
+constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
@@ -152,7 +153,8 @@ PixelSize size(Reader& reader, PixelSize most)
 std::string encoded(const Question& question)
 {
     Writer writer;
-    writer.put(question.bound ? kSmallPicture : kAnalysis);
+    const std::uint8_t picture = question.use == PictureUse::icon ? kIcon : kSmallPicture;
+    writer.put(question.bound ? picture : kAnalysis);
     if (question.bound) {
         put(writer, question.bound->size);
         writer.put(static_cast<std::uint8_t>(question.bound->fit));
@@ -164,9 +166,11 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 {
     Reader reader(bytes);
     Question question;
-    if (reader.get<std::uint8_t>(kAnalysis, kSmallPicture) == kSmallPicture) {
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kIcon);
+    if (kind != kAnalysis) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
-        question.bound = {wanted, static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, 1))};
+        const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, kind == kIcon ? 0 : 1));
+        question = {PictureBound{wanted, fit}, kind == kIcon ? PictureUse::icon : PictureUse::photo};
     }
     return reader.isValidWhole() ? std::optional(question) : std::nullopt;
 }

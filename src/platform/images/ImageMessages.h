@@ -2,6 +2,7 @@
 
 #include "platform/images/ImageAnalysis.h"
 #include "platform/images/PictureBound.h"
+#include "platform/images/SmallPicture.h"
 
 #include <cstddef>
 #include <optional>
@@ -14,7 +15,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer has started. The number changes with the form of the messages.
-inline constexpr std::string_view kReady = "orlen-recognizer 2";
+inline constexpr std::string_view kReady = "orlen-recognizer 3";
 
 /// No answer is longer, in bytes.
 inline constexpr std::size_t kLongest = 32UL * 1024;
@@ -26,6 +27,8 @@ inline constexpr int kLongestSide = 4096;
 /// Comes with the file of a picture. One that asks for a small picture brings a buffer for the pixels along.
 struct Question {
     std::optional<PictureBound> bound; ///< of the small picture; absent: what the picture shows
+    /// Of the small picture. An icon lies inside its bound.
+    PictureUse use = PictureUse::photo;
 };
 
 [[nodiscard]] std::string encoded(const Question& question);
@@ -42,7 +45,7 @@ struct Answer {
 /// that are not UTF-8.
 [[nodiscard]] std::optional<Answer> decodedAnswer(std::string_view bytes);
 
-/// A small picture, whose pixels lie at the beginning of the buffer.
+/// A small picture, whose pixels lie at the beginning of the buffer; the alpha of an icon follows them.
 struct PictureAnswer {
     struct Sizes {
         PixelSize whole; ///< the picture in the file, upright

@@ -42,6 +42,13 @@ bool becomesReadable(int socket, Clock::time_point deadline, const std::stop_tok
     }
 }
 
+/// Bytes in the buffer.
+std::size_t lengthOf(PixelSize size, bool hasAlpha)
+{
+    const std::size_t pixels = RgbImage::byteCount(size.width, size.height);
+    return hasAlpha ? pixels + pixels / 3 : pixels;
+}
+
 } // namespace
 
 std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits,
@@ -52,11 +59,13 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
         return nullptr;
     // The process watches its own time as well: when this program is killed nobody else does.
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(limits.limit) + std::chrono::seconds(1);
+    ChildProcess::Call call{{program, std::to_string(limits.memory), std::to_string(seconds.count()),
+                             std::to_string(limits.idle.count())},
+                            {}};
+    // What stands in variables is nobody's business who reads pictures.
+    call.variables = ChildProcess::Variables::given;
     const std::optional<pid_t> process =
-        ProcessStart::start({{program, std::to_string(limits.memory), std::to_string(seconds.count()),
-                              std::to_string(limits.idle.count())},
-                             {}},
-                            ProcessStart::Belonging::ownGroup, {.input = sockets.value().theirs.get()});
+        ProcessStart::start(call, ProcessStart::Belonging::ownGroup, {.input = sockets.value().theirs.get()});
     if (!process)
         return nullptr;
     sockets.value().theirs.reset();
@@ -69,6 +78,12 @@ ImageWorker::~ImageWorker()
 {
     ::kill(-m_process, SIGKILL); // Not waited for yet, so the number is still its own.
     (void)retried([&] { return ::waitpid(m_process, nullptr, 0); });
+}
+
+bool ImageWorker::hasEnded() const
+{
+    pollfd end{m_socket.get(), 0, 0};
+    return ::poll(&end, 1, 0) > 0 && end.revents != 0;
 }
 
 ImageWorker::End ImageWorker::ask(std::string_view question, std::span<const int> files, std::string& answer,
@@ -97,26 +112,32 @@ ImageWorker::Outcome<ImageAnalysis> ImageWorker::analyze(int file, const std::st
 }
 
 ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const PictureBound& bound,
-                                                             const std::stop_token& stop)
+                                                             PictureUse use, const std::stop_token& stop)
 {
-    const auto buffer = PixelBuffer::ofSize(RgbImage::byteCount(bound.size.width, bound.size.height));
+    const bool isIcon = use == PictureUse::icon;
+    const auto buffer = PixelBuffer::ofSize(lengthOf(bound.size, isIcon));
     if (!buffer.ok())
         return {};
     std::string bytes;
     const std::array files{file, buffer.value().get()};
-    const End end = ask(ImageMessages::encoded(ImageMessages::Question{bound}), files, bytes, stop);
-    if (end != End::answered)
-        return {end, {}};
+    if (const End outcome =
+            ask(ImageMessages::encoded(ImageMessages::Question{bound, use}), files, bytes, stop);
+        outcome != End::answered)
+        return {outcome, {}};
     const auto answer = ImageMessages::decodedPictureAnswer(bytes, bound.size);
     if (!answer)
         return {};
     if (!answer->sizes)
         return {End::answered, {}};
     const auto& [whole, small] = *answer->sizes;
-    auto pixels = PixelBuffer::read(buffer.value().get(), RgbImage::byteCount(small.width, small.height));
+    auto pixels = PixelBuffer::read(buffer.value().get(), lengthOf(small, isIcon));
     if (!pixels)
         return {};
-    return {End::answered, SmallPicture{whole, {small.width, small.height, *std::move(pixels)}}};
+    const auto end = pixels->begin() + static_cast<std::ptrdiff_t>(lengthOf(small, false));
+    std::vector<std::uint8_t> alpha(end, pixels->end());
+    pixels->erase(end, pixels->end());
+    return {End::answered,
+            SmallPicture{whole, {small.width, small.height, *std::move(pixels)}, std::move(alpha)}};
 }
 
 std::optional<std::string> ImageWorker::nextMessage(const std::stop_token& stop) const

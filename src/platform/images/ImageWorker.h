@@ -47,8 +47,12 @@ public:
     /// What an open file shows; at once when stopped.
     [[nodiscard]] Outcome<ImageAnalysis> analyze(int file, const std::stop_token& stop);
     /// The picture in an open file made small; at once when stopped.
-    [[nodiscard]] Outcome<SmallPicture> smallPicture(int file, const PictureBound& bound,
+    [[nodiscard]] Outcome<SmallPicture> smallPicture(int file, const PictureBound& bound, PictureUse use,
                                                      const std::stop_token& stop);
+
+    /// Hangs up when the process ends. Only to wait for that.
+    [[nodiscard]] int socket() const { return m_socket.get(); }
+    [[nodiscard]] bool hasEnded() const;
 
 private:
     ImageWorker(pid_t process, UniqueFd socket, std::chrono::milliseconds limit)

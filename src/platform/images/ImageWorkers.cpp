@@ -4,15 +4,14 @@
 #include "platform/FileContent.h"
 #include "platform/OwnProgram.h"
 #include "platform/PathText.h"
+#include "platform/images/IdleWorkers.h"
 #include "platform/images/ImageMessages.h"
-#include "platform/images/ImageWorker.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
 #include <utility>
-#include <vector>
 
 namespace orlen {
 
@@ -45,14 +44,14 @@ public:
     }
 
 private:
-    using Worker = std::unique_ptr<ImageWorker>;
+    using Worker = IdleWorkers::Worker;
 
     /// Asks idle workers until one takes the question, else a new one.
     template <typename Ask>
     [[nodiscard]] auto answered(const Ask& ask, const std::stop_token& stop)
         -> std::pair<Worker, decltype(ask(std::declval<ImageWorker&>()))>
     {
-        while (Worker worker = idle()) {
+        while (Worker worker = m_idle.take()) {
             auto outcome = ask(*worker);
             if (outcome.end != ImageWorker::End::unreachable)
                 return {std::move(worker), std::move(outcome)};
@@ -76,23 +75,14 @@ private:
 
     void endTurn(Worker worker)
     {
+        // First of all: whoever has its turn next finds it.
+        if (worker)
+            m_idle.add(std::move(worker));
         {
             const std::lock_guard lock(m_lock);
             ++m_turns;
-            if (worker)
-                m_idle.push_back(std::move(worker));
         }
         m_turnEnded.notify_one();
-    }
-
-    [[nodiscard]] Worker idle()
-    {
-        const std::lock_guard lock(m_lock);
-        if (m_idle.empty())
-            return nullptr;
-        Worker worker = std::move(m_idle.back());
-        m_idle.pop_back();
-        return worker;
     }
 
     [[nodiscard]] Worker started(const std::stop_token& stop)
@@ -119,8 +109,8 @@ private:
     std::mutex m_lock;
     std::condition_variable_any m_turnEnded;
     unsigned m_turns; ///< calls that may begin
-    std::vector<Worker> m_idle;
     int m_failedStarts = 0;
+    IdleWorkers m_idle;
 };
 
 std::string ImageWorkers::recognizer()
@@ -155,6 +145,18 @@ std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, cons
 std::optional<SmallPicture> ImageWorkers::smallPicture(const std::string& path, const PictureBound& bound,
                                                        const std::stop_token& stop)
 {
+    return read(path, bound, PictureUse::photo, stop);
+}
+
+std::optional<SmallPicture> ImageWorkers::icon(const std::string& path, PixelSize size,
+                                               const std::stop_token& stop)
+{
+    return read(path, {size, PictureBound::Fit::inside}, PictureUse::icon, stop);
+}
+
+std::optional<SmallPicture> ImageWorkers::read(const std::string& path, const PictureBound& bound,
+                                               PictureUse use, const std::stop_token& stop)
+{
     if (stop.stop_requested() || bound.size.width <= 0 || bound.size.height <= 0)
         return std::nullopt;
     const auto file = openFile(path);
@@ -164,7 +166,8 @@ std::optional<SmallPicture> ImageWorkers::smallPicture(const std::string& path, 
                                 std::min(bound.size.height, ImageMessages::kLongestSide)},
                                bound.fit};
     return m_pool->answer(
-        [&](ImageWorker& worker) { return worker.smallPicture(file.value().get(), allowed, stop); }, stop);
+        [&](ImageWorker& worker) { return worker.smallPicture(file.value().get(), allowed, use, stop); },
+        stop);
 }
 
 } // namespace orlen

@@ -43,9 +43,15 @@ public:
     /// than 4,096 pixels is taken as that long.
     [[nodiscard]] std::optional<SmallPicture> smallPicture(const std::string& path, const PictureBound& bound,
                                                            const std::stop_token& stop);
+    /// The icon in a regular file, all of it inside the size; likewise.
+    [[nodiscard]] std::optional<SmallPicture> icon(const std::string& path, PixelSize size,
+                                                   const std::stop_token& stop);
 
 private:
     class Pool;
+    [[nodiscard]] std::optional<SmallPicture> read(const std::string& path, const PictureBound& bound,
+                                                   PictureUse use, const std::stop_token& stop);
+
     std::unique_ptr<Pool> m_pool;
 };
 
