@@ -1,6 +1,7 @@
 #include "AppIconProvider.h"
 
 #include "IconFiles.h"
+#include "platform/Places.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -44,12 +45,36 @@ TEST(AppIconProviderTest, findsAnIconOfTheThemeThroughALinkAndFitsIt)
     EXPECT_EQ(drawn(home.path("kite.png")).pixel(20, 20), kRed);
 }
 
+TEST(AppIconProviderTest, onlyTheSystemsDrawingsAreDrawnHere)
+{
+    const TempHome home;
+    const std::string bytes = R"(<svg xmlns="http://www.w3.org/2000/svg" width="8" height="8">
+        <rect width="8" height="4" fill="#f00"/></svg>)";
+    const std::string root = Places::current().systemRoot;
+    const std::string system = home.outside("system/usr/share/icons/kite.svg");
+    ASSERT_EQ(system, root + "/usr/share/icons/kite.svg");
+    for (const std::string& path : {home.file(system, bytes), home.file("kite.svg", bytes)}) {
+        SCOPED_TRACE(path);
+        const QImage image = drawn(path);
+        EXPECT_EQ(image.pixel(20, 10), kRed);
+        EXPECT_EQ(qAlpha(image.pixel(20, 30)), 0) << "see-through parts stay";
+    }
+    struct Case {
+        const char* path;
+        bool isSystem;
+    };
+    for (const Case& c : {Case{"/usr/share/icons/a.svg", true}, Case{"/usr/share/icons/a.png", false},
+                          Case{"/usr/local/share/icons/a.svg", false}, Case{"/opt/kite/a.svg", false}})
+        EXPECT_EQ(IconFiles::isSystemDrawing(root + c.path), c.isSystem) << c.path;
+}
+
 TEST(AppIconProviderTest, drawsABadgeInPlaceOfWhatIsNoIcon)
 {
     const TempHome home;
     for (const std::string& icon :
          {std::string(), std::string("nothing"), std::string("../secret"),
-          home.file("bad.png", "\x89PNG\r\n"), home.folder("folder.png"), home.path("caf\xe9.png")}) {
+          home.file("bad.png", "\x89PNG\r\n"), home.folder("folder.png"), home.path("caf\xe9.png"),
+          home.file("old.xpm", "/* XPM */\nstatic char* old[] = {\"1 1 1 1\", \"a c red\", \"a\"};")}) {
         SCOPED_TRACE(icon);
         const QImage image = drawn(icon);
         EXPECT_EQ(image.size(), QSize(40, 40));

@@ -2,6 +2,7 @@
 
 #include "BadgeDrawing.h"
 #include "IconFiles.h"
+#include "PictureReader.h"
 #include "ScreenTable.h"
 #include "platform/FileContent.h"
 #include "platform/Folder.h"
@@ -25,23 +26,29 @@ QColor standInColour()
     return screenTable()[static_cast<std::size_t>(Screen::apps)].colour;
 }
 
-/// At most `size` large, its shape kept. Null when it cannot be read.
-QImage decoded(const std::string& path, QSize size)
+/// A drawing of the system, here in this process. Null when it cannot be read.
+QImage rendered(const std::string& path, QSize size)
 {
-    // Themes and Flatpak are full of links.
-    const std::optional<std::string> content = readSmallFile(resolved(path), kFileLimit);
+    const std::optional<std::string> content = readSmallFile(path, kFileLimit);
     if (!content)
         return {};
     QByteArray bytes(content->data(), static_cast<qsizetype>(content->size()));
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
+    QImageReader reader(&buffer, "svg");
+    reader.setAutoDetectImageFormat(false);
     reader.setAllocationLimit(kMemoryLimit);
-    if (reader.size().isValid())
-        reader.setScaledSize(reader.size().scaled(size, Qt::KeepAspectRatio));
-    const QImage image = reader.read();
-    return image.isNull() || image.size().boundedTo(size) == image.size()
-               ? image
-               : image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    if (!reader.size().isValid())
+        return {};
+    reader.setScaledSize(reader.size().scaled(size, Qt::KeepAspectRatio));
+    return reader.read();
+}
+
+/// At most `size` large, its shape kept. Null when it cannot be read.
+QImage decoded(const std::string& path, QSize size)
+{
+    // Themes and Flatpak are full of links.
+    const std::string file = resolved(path);
+    return IconFiles::isSystemDrawing(file) ? rendered(file, size) : PictureReader::icon(file, size);
 }
 
 QImage found(const std::string& icon, QSize size)

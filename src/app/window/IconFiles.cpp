@@ -76,4 +76,10 @@ std::vector<std::string> candidates(std::string_view icon, int pixels)
     return paths;
 }
 
+bool isSystemDrawing(std::string_view file)
+{
+    return PathText::isAtOrBelow(file, Places::current().systemRoot + "/usr/share") &&
+           PathText::asciiLower(PathText::extension(file)) == kSuffixes.front();
+}
+
 } // namespace orlen::IconFiles

@@ -12,4 +12,8 @@ namespace orlen::IconFiles {
 /// path.
 [[nodiscard]] std::vector<std::string> candidates(std::string_view icon, int pixels);
 
+/// Whether a file, all links resolved, is a drawing that came with the system. Any other icon is a foreign
+/// file like any picture.
+[[nodiscard]] bool isSystemDrawing(std::string_view file);
+
 } // namespace orlen::IconFiles

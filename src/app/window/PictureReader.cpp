@@ -53,6 +53,18 @@ std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit
     return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
 }
 
+QImage icon(const std::string& path, const QSize& size)
+{
+    const auto picture = workers().icon(path, {size.width(), size.height()}, {});
+    if (!picture || picture->alpha.empty())
+        return {};
+    QImage image = imageOf(picture->image);
+    const qsizetype width = image.width();
+    const QImage alpha(picture->alpha.data(), image.width(), image.height(), width, QImage::Format_Alpha8);
+    image.setAlphaChannel(alpha);
+    return image;
+}
+
 void setRecognizer(const std::string& program)
 {
     options().program = program;
