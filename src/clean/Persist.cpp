@@ -6,6 +6,7 @@
 #include "platform/Folder.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 
 #include <nlohmann/json.hpp>
 
@@ -67,6 +68,8 @@ Loaded<Record> load(const Kind<Record>& kind)
 {
     const std::string path = PathText::join(dir(), fileName(kind.stem));
     failedLoads().erase(path);
+    // Asks a network disk that holds the folder, which the reading then finds answering or not.
+    (void)Reachability::admit(dir());
     auto text = readLinked(path);
     if (text.error() == EFBIG)
         return {{}, Problem::damaged};
@@ -170,9 +173,16 @@ Result<std::string> makeDir()
     if (!Places::current().isHomeUsable)
         return Errno{EPERM};
     std::string folder = dir();
+    if (const auto reachable = Reachability::admit(folder); !reachable.ok())
+        return Errno{reachable.error()};
     if (const auto made = makeFolders(folder, 0700); !made.ok())
         return Errno{made.error()};
     return folder;
+}
+
+bool isReachable()
+{
+    return Reachability::admit(dir()).ok();
 }
 
 Result<void> saveHistory(const std::vector<CleanRecord>& history)

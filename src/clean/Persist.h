@@ -17,6 +17,9 @@ namespace orlen::Persist {
 /// that is not the user's own: what is made there would be in the owner's way.
 [[nodiscard]] Result<std::string> makeDir();
 
+/// Whether the data folder's place answers; false on a network disk that is gone. Waits for a probe at most.
+[[nodiscard]] bool isReachable();
+
 enum class Problem {
     none,
     damaged,    ///< not everything in the file could be understood; the next save sets it aside first

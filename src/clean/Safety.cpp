@@ -2,6 +2,7 @@
 
 #include "clean/SafetyTable.h"
 #include "clean/SyncRoots.h"
+#include "platform/Reachability.h"
 
 #include <atomic>
 #include <cstdint>
@@ -91,7 +92,9 @@ bool protectsContents(std::string_view path)
 void refresh()
 {
     const std::uint64_t ticket = publisher().drawTicket();
-    publisher().publish(std::make_shared<const SafetyTable>(Places::current()), ticket);
+    const Places& places = Places::current();
+    Reachability::refresh(places.mountTable, places.resolvedHome);
+    publisher().publish(std::make_shared<const SafetyTable>(places), ticket);
 }
 
 std::vector<std::string> syncRoots()

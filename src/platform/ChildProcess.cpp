@@ -1,7 +1,9 @@
 #include "platform/ChildProcess.h"
 
+#include "platform/ChildEnd.h"
 #include "platform/PathText.h"
 #include "platform/ProcessStart.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 #include "platform/Threads.h"
 #include "platform/UniqueFd.h"
@@ -14,7 +16,6 @@
 #include <poll.h>
 #include <string_view>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -26,36 +27,24 @@ using Clock = std::chrono::steady_clock;
 
 constexpr const char* kUsualPath = "/usr/local/bin:/usr/bin:/bin";
 
-/// The wait status; nothing when this process was told to leave its children alone and so never hears of it.
-std::optional<int> reaped(pid_t child)
-{
-    int status = 0;
-    const pid_t ended = retried([&] { return ::waitpid(child, &status, 0); });
-    return ended == child ? std::optional(status) : std::nullopt;
-}
-
-/// A descriptor that is readable when the program has ended.
-UniqueFd endOf(pid_t child)
-{
-    // Debian 12's header of the C library's own wrapper is not fit for C++.
-    return UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
-}
-
 /// A started program, from which output is taken until it has ended.
 class Running {
 public:
-    Running(pid_t child, UniqueFd output) : m_child(child), m_end(endOf(child)), m_output(std::move(output))
+    Running(pid_t child, UniqueFd output)
+        : m_child(child), m_end(ChildEnd::descriptorOf(child)), m_output(std::move(output))
     {
     }
 
     /// The exit status and all output. After a failure the program has been killed.
     std::optional<Outcome> finish(Clock::time_point deadline)
     {
-        const bool hasEnded = m_end.isOpen() && collect(deadline);
-        if (!hasEnded)
+        if (!m_end.isOpen() || !collect(deadline)) {
             ::kill(-m_child, SIGKILL); // Not waited for yet, so the number is still its own.
-        const std::optional<int> status = reaped(m_child);
-        if (!hasEnded || !status || !WIFEXITED(*status) || !PathText::isValidUtf8(m_text))
+            ChildEnd::awaitKilled(m_child);
+            return std::nullopt;
+        }
+        const std::optional<int> status = ChildEnd::await(m_child);
+        if (!status || !WIFEXITED(*status) || !PathText::isValidUtf8(m_text))
             return std::nullopt;
         return Outcome{WEXITSTATUS(*status), std::move(m_text)};
     }
@@ -110,7 +99,8 @@ private:
 bool isExecutableFile(const std::string& path)
 {
     struct stat status {};
-    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+    return Reachability::check(path, Reachability::LastLink::followed).ok() &&
+           ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
            ::faccessat(AT_FDCWD, path.c_str(), X_OK, AT_EACCESS) == 0;
 }
 
@@ -139,11 +129,8 @@ bool startDetached(const std::vector<std::string>& arguments)
         ProcessStart::start({arguments, {}}, ProcessStart::Belonging::ownSession, {});
     if (!child)
         return false;
-    // The program may outlive this one; until then somebody has to take note of its end. Without a thread it
-    // runs all the same, and its entry stays until this process ends.
-    if (auto waiting =
-            Threads::start("orlen-child", [child](const std::stop_token&) { (void)reaped(*child); }))
-        waiting->detach();
+    // The program may outlive this one; until then somebody has to take note of its end.
+    ChildEnd::awaitAside(*child);
     return true;
 }
 

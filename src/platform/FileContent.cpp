@@ -3,6 +3,7 @@
 #include "platform/Folder.h"
 #include "platform/FolderEntries.h"
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <algorithm>
@@ -35,6 +36,8 @@ Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode
 template <typename Place>
 Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
 {
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
     // Two threads may write the same file: each writes its own.
     static std::atomic<unsigned> counter{0};
     const std::string beside =
@@ -86,6 +89,8 @@ Result<std::string> readHead(int folder, const char* name, std::size_t limit)
 
 Result<UniqueFd> openFile(const std::string& path)
 {
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     return openFileAt(AT_FDCWD, path.c_str());
 }
 
@@ -147,6 +152,8 @@ Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::in
 
 Result<std::string> readWholeFile(const std::string& path, std::size_t limit)
 {
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     auto head = readHead(AT_FDCWD, path.c_str(), limit + 1);
     if (head.ok() && head.value().size() > limit)
         return Errno{EFBIG};
@@ -213,6 +220,8 @@ Result<void> renameOwnFile(const std::string& path, const std::string& newPath)
 
 Result<void> removeOwnFile(const std::string& path)
 {
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
     return removeFileAt(AT_FDCWD, path.c_str());
 }
 

@@ -1,5 +1,6 @@
 #include "platform/FileLock.h"
 
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <fcntl.h>
@@ -9,6 +10,8 @@ namespace orlen {
 
 Result<FileLock> FileLock::take(const std::string& path)
 {
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     constexpr int kFlags = O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC;
     constexpr mode_t kMode = 0600;
     auto opened = retriedFd([&] { return ::open(path.c_str(), kFlags, kMode); });

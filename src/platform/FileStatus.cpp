@@ -2,6 +2,7 @@
 
 #include "platform/CheckedSum.h"
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <algorithm>
@@ -78,6 +79,8 @@ FileStamp FileStamp::of(const FileStatus& status)
 
 Result<FileStatus> statusOf(const std::string& path)
 {
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     return query(AT_FDCWD, path.c_str(), kFlags);
 }
 
@@ -121,7 +124,8 @@ bool isDeletable(const std::string& path)
 
 bool isWritable(const std::string& path)
 {
-    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+    return Reachability::check(path, Reachability::LastLink::followed).ok() &&
+           ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 } // namespace orlen

@@ -66,7 +66,8 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-/// Blocks on the disk; any thread. Links are not followed in the last component.
+/// Blocks on the disk; any thread. Links are not followed in the last component. ETIMEDOUT for a place on a
+/// mount that does not answer, here and wherever this folder takes a path: see Reachability.
 [[nodiscard]] Result<FileStatus> statusOf(const std::string& path);
 /// The same for a name relative to an open folder.
 [[nodiscard]] Result<FileStatus> statusAt(int folder, const char* name);

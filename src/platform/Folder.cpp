@@ -1,6 +1,7 @@
 #include "platform/Folder.h"
 
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <cstdlib>
@@ -37,6 +38,8 @@ EntryType toEntryType(unsigned char type)
 
 Result<UniqueFd> openFolder(const std::string& path)
 {
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     return openFolderAt(AT_FDCWD, path.c_str());
 }
 
@@ -96,6 +99,8 @@ bool isListable(const std::string& folder)
 Result<void> makeFolders(const std::string& path, unsigned mode)
 {
     const std::string whole = PathText::standardized(path);
+    if (auto reachable = Reachability::check(whole, Reachability::LastLink::followed); !reachable.ok())
+        return reachable;
     for (std::size_t slash = whole.find('/', 1);; slash = whole.find('/', slash + 1)) {
         const std::string folder = whole.substr(0, slash);
         if (::mkdir(folder.c_str(), mode) != 0 && errno != EEXIST) {
@@ -118,6 +123,8 @@ Result<void> makeFolders(const std::string& path, unsigned mode)
 
 std::string resolved(const std::string& path)
 {
+    if (!Reachability::check(path, Reachability::LastLink::followed).ok())
+        return {};
     const std::unique_ptr<char, decltype(&std::free)> text(::realpath(path.c_str(), nullptr), &std::free);
     return text ? std::string(text.get()) : std::string();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/FileStatus.h"
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <cstdio>
@@ -29,6 +30,8 @@ Result<UniqueFd> openUnlinkedFolder(const std::string& path)
 {
     if (!path.starts_with('/'))
         return Errno{EINVAL};
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     // O_NOFOLLOW only speaks of the last component, so each is opened as the last one.
     auto folder = openUnlinkedFolderAt(AT_FDCWD, "/");
     for (const std::string_view part : PathText::components(path)) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <fcntl.h>
 #include <optional>
 #include <span>
 
@@ -18,6 +19,12 @@ constexpr std::size_t kTableLimit = 16UL * 1024 * 1024;
 constexpr std::string_view kLocalTypes[] = {"ext2", "ext3",     "ext4", "xfs",    "btrfs",   "zfs",
                                             "f2fs", "bcachefs", "jfs",  "nilfs2", "reiserfs"};
 constexpr std::string_view kRemovableTypes[] = {"vfat", "exfat", "msdos", "ntfs*", "fuseblk", "hfs*", "udf"};
+/// Foreign, but nobody else has to answer for them.
+constexpr std::string_view kAnsweringTypes[] = {
+    "binder",   "binfmt_misc", "bpf",    "cgroup*", "configfs",  "debugfs", "devpts",     "devtmpfs",
+    "ecryptfs", "efivarfs",    "erofs",  "fusectl", "hugetlbfs", "iso9660", "mqueue",     "nsfs",
+    "overlay",  "proc",        "pstore", "ramfs",   "rootfs",    "romfs",   "securityfs", "selinuxfs",
+    "smackfs",  "squashfs",    "sysfs",  "tmpfs",   "tracefs",   "aufs"};
 
 bool isAmong(std::string_view type, std::span<const std::string_view> forms)
 {
@@ -97,7 +104,8 @@ std::optional<Mount> parseLine(std::string_view line)
 
 MountTable MountTable::read(const std::string& file)
 {
-    const auto text = readSmallFile(file, kTableLimit);
+    // Relative to no folder: by path it would first be judged by the very table that is about to be read.
+    const auto text = readHeadAt(AT_FDCWD, file.c_str(), kTableLimit);
     return text ? parse(*text) : MountTable();
 }
 
@@ -161,6 +169,14 @@ MountClass MountTable::classify(std::string_view type)
     if (isAmong(type, kLocalTypes))
         return MountClass::local;
     return isAmong(type, kRemovableTypes) ? MountClass::removable : MountClass::foreign;
+}
+
+bool MountTable::mayNotAnswer(std::string_view type)
+{
+    // A program of this machine serves this one, and may hang like any other.
+    if (type == "fuseblk")
+        return true;
+    return classify(type) == MountClass::foreign && !isAmong(type, kAnsweringTypes);
 }
 
 } // namespace orlen

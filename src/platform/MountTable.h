@@ -50,6 +50,9 @@ public:
     [[nodiscard]] bool isSameFileSystem(std::string_view a, std::string_view b) const;
 
     [[nodiscard]] static MountClass classify(std::string_view type);
+    /// Whether a call on a file system of this type may wait for a server or a program that is gone. True for
+    /// what is not known: the disks of this machine and what the kernel itself makes up are.
+    [[nodiscard]] static bool mayNotAnswer(std::string_view type);
 
 private:
     std::vector<Mount> m_mounts;

@@ -4,6 +4,7 @@
 #include "platform/FileStatus.h"
 #include "platform/Folder.h"
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "platform/UserDirs.h"
 
 #include <algorithm>
@@ -40,7 +41,8 @@ std::string absoluteVariable(const char* name)
 std::string homeFolder(unsigned user)
 {
     std::string home = absoluteVariable("HOME");
-    if (!home.empty() && isListable(home + "/."))
+    // A home folder that does not answer is still the user's: no other one is looked for.
+    if (!home.empty() && (!Reachability::admit(home).ok() || isListable(home + "/.")))
         return home;
     const passwd* entry = ::getpwuid(user);
     return entry == nullptr || entry->pw_dir == nullptr ? home : PathText::standardized(entry->pw_dir);
@@ -173,6 +175,7 @@ void readUserFolders(Places& places)
     constexpr std::size_t kLimit = 64UL * 1024;
     std::map<std::string, std::string> folders;
     for (const std::string& config : places.configs) {
+        (void)Reachability::admit(config);
         if (const auto text = readSmallFile(config + "/user-dirs.dirs", kLimit)) {
             folders = UserDirs::parse(*text, places.home);
             // Entries may spell the home folder with its links resolved.
@@ -281,8 +284,11 @@ Places Places::fromEnvironment()
 {
     Places places;
     places.user = ::geteuid();
+    Reachability::refresh(places.mountTable, {});
     places.home = homeFolder(places.user);
+    places.isHomeSilent = !places.home.empty() && !Reachability::admit(places.home).ok();
     places.resolvedHome = resolved(places.home);
+    Reachability::refresh(places.mountTable, places.resolvedHome);
     places.isHomeUsable = isUsable(places.home, places.resolvedHome, places.user);
     if (const std::string root = absoluteVariable("ORLEN_PREPARED_ROOT"); !root.empty())
         moveSystemInto(root, places);
@@ -294,6 +300,8 @@ Places Places::fromEnvironment()
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
     places.states = baseFolders("XDG_STATE_HOME", places, ".local/state");
     readSharedFolders(places);
+    for (const Paths* folders : {&places.configs, &places.data})
+        Reachability::askAhead(folders->front());
     places.languages = preferredLanguages();
     places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     return places;
@@ -310,6 +318,7 @@ const Places& Places::current()
 
 void Places::setCurrent(Places places)
 {
+    Reachability::refresh(places.mountTable, places.resolvedHome);
     const std::lock_guard lock(currentLock);
     currentSlot() = std::move(places);
 }

@@ -14,7 +14,8 @@ struct Places {
     /// False when the home folder is "/", missing, owned by somebody else or not in the prepared root that
     /// was named: nothing is scanned or moved.
     bool isHomeUsable = false;
-    unsigned user = 0; ///< user number
+    bool isHomeSilent = false; ///< it lies on a mount that does not answer, and is not usable for that
+    unsigned user = 0;         ///< user number
 
     /// The folders in force and behind them, when a variable moved one, its default below the home folder.
     /// Never empty; the first is where the program itself writes. A variable that names, holds or lies in one

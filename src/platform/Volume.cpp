@@ -1,6 +1,7 @@
 #include "platform/Volume.h"
 
 #include "platform/CheckedSum.h"
+#include "platform/Reachability.h"
 #include "platform/Retrying.h"
 
 #include <sys/statvfs.h>
@@ -9,6 +10,8 @@ namespace orlen {
 
 Result<VolumeSpace> volumeSpace(const std::string& path)
 {
+    if (const auto reachable = Reachability::check(path, Reachability::LastLink::followed); !reachable.ok())
+        return Errno{reachable.error()};
     struct statvfs raw {};
     if (retried([&] { return ::statvfs(path.c_str(), &raw); }) != 0)
         return Errno{errno};

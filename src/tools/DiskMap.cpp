@@ -3,6 +3,7 @@
 #include "platform/CheckedSum.h"
 #include "platform/Folder.h"
 #include "platform/PathText.h"
+#include "platform/Reachability.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeScan.h"
 
@@ -97,6 +98,8 @@ std::vector<TreeNode> arranged(std::vector<TreeNode> nodes, const std::string& f
 
 std::vector<TreeNode> children(const std::string& folder, const std::stop_token& stop)
 {
+    if (!Reachability::admit(folder).ok())
+        return {};
     const TreeRoot root{resolved(folder)};
     if (root.path.empty())
         return {};

@@ -38,6 +38,16 @@ TEST(MountTableTest, lineIsTakenApart)
     EXPECT_EQ(table.byId(99), nullptr);
 }
 
+TEST(MountTableTest, onlyWhatNobodyElseServesIsSureToAnswer)
+{
+    for (const char* type : {"nfs", "nfs4", "cifs", "smb3", "9p", "ceph", "afs", "fuse", "fuse.sshfs",
+                             "fuseblk", "autofs", "virtiofs", "of tomorrow"})
+        EXPECT_TRUE(MountTable::mayNotAnswer(type)) << type;
+    for (const char* type : {"ext4", "btrfs", "zfs", "vfat", "ntfs3", "proc", "sysfs", "tmpfs", "devtmpfs",
+                             "cgroup2", "overlay", "squashfs", "iso9660", "ecryptfs"})
+        EXPECT_FALSE(MountTable::mayNotAnswer(type)) << type;
+}
+
 TEST(MountTableTest, malformedLinesAreSkipped)
 {
     const char* lines[] = {"",

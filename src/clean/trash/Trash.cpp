@@ -9,6 +9,7 @@
 #include "platform/FolderEntries.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -250,6 +251,11 @@ std::string originalPath(const std::string& trashed)
         return {};
     const auto info = item.value().trash.infoOf(item.value().name);
     return info ? info->path : std::string();
+}
+
+bool isReachable()
+{
+    return Reachability::admit(homeFolder()).ok();
 }
 
 std::string homeFolder()

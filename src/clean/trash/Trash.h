@@ -65,6 +65,10 @@ void forget(const std::string& trashed, const std::string& original);
 /// empty when there is no readable info file. Bytes as decoded, not necessarily UTF-8.
 [[nodiscard]] std::string originalPath(const std::string& trashed);
 
+/// Whether the home Trash's place answers; false on a network disk that is gone, where no item can be moved.
+/// Waits for a probe at most.
+[[nodiscard]] bool isReachable();
+
 /// The home Trash folder (the one that holds "files" and "info"), whether it exists or not.
 [[nodiscard]] std::string homeFolder();
 

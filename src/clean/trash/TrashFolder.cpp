@@ -8,6 +8,7 @@
 #include "platform/FolderEntries.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 
 #include <cerrno>
 
@@ -105,6 +106,8 @@ Result<TrashFolder> TrashFolder::open(UniqueFd trash, std::string path, Missing 
 
 Result<TrashFolder> TrashFolder::open(const std::string& path, Missing missing)
 {
+    if (const auto reachable = Reachability::admit(path); !reachable.ok())
+        return Errno{reachable.error()};
     if (missing == Missing::make) {
         if (const auto made = makeFolders(path, kPrivate); !made.ok())
             return Errno{made.error()};

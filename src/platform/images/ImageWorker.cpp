@@ -1,5 +1,6 @@
 #include "platform/images/ImageWorker.h"
 
+#include "platform/ChildEnd.h"
 #include "platform/ProcessStart.h"
 #include "platform/Retrying.h"
 #include "platform/images/DescriptorSocket.h"
@@ -11,7 +12,6 @@
 #include <csignal>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/wait.h>
 
 namespace orlen {
 
@@ -77,7 +77,7 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
 ImageWorker::~ImageWorker()
 {
     ::kill(-m_process, SIGKILL); // Not waited for yet, so the number is still its own.
-    (void)retried([&] { return ::waitpid(m_process, nullptr, 0); });
+    ChildEnd::awaitKilled(m_process);
 }
 
 bool ImageWorker::hasEnded() const

@@ -5,6 +5,7 @@
 #include "platform/FolderEntries.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 #include "scan/FS.h"
 #include "scan/ScanProgress.h"
 
@@ -22,6 +23,8 @@ Result<UniqueFd> openWithoutLinks(const std::string& path)
     const std::string& home = Places::current().home;
     if (!PathText::isAtOrBelow(path, home))
         return openFolder(path);
+    if (const auto reachable = Reachability::check(path); !reachable.ok())
+        return Errno{reachable.error()};
     auto folder = openFolder(home + "/.");
     for (const std::string_view component :
          PathText::components(std::string_view(path).substr(home.size()))) {
