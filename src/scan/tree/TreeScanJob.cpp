@@ -1,5 +1,8 @@
 #include "scan/tree/TreeScanJob.h"
 
+#include "platform/PathText.h"
+#include "platform/Places.h"
+
 #include <atomic>
 #include <cerrno>
 #include <cstring>
@@ -23,6 +26,16 @@ const PathMarks::Node* childOf(const PathMarks::Node* node, std::string_view nam
 std::uint32_t marksOf(const PathMarks::Node* node)
 {
     return node == nullptr ? 0 : node->marks();
+}
+
+/// The path as the kernel spells it in its mount table. Below a root no link is followed, so only the home
+/// folder's own links count.
+std::string inKernelsForm(const std::string& path)
+{
+    const Places& places = Places::current();
+    if (places.resolvedHome.empty() || !PathText::isAtOrBelow(path, places.home))
+        return path;
+    return places.resolvedHome + path.substr(places.home.size());
 }
 
 } // namespace
@@ -60,9 +73,10 @@ TreeScanJob::TreeScanJob(std::span<const TreeRoot> roots, TreeVisitor& visitor, 
       m_stop(std::move(stop)), m_roots(roots)
 {
     for (const TreeRoot& root : roots) {
-        for (const Mount* mount : mounts.below(root.path)) {
+        const std::string folder = inKernelsForm(root.path);
+        for (const Mount* mount : mounts.below(folder)) {
             if (mount->kind == MountClass::foreign)
-                m_foreignMounts.mark(mount->point, PathMarks::kSkip);
+                m_foreignMounts.mark(root.path + mount->point.substr(folder.size()), PathMarks::kSkip);
             else
                 m_remembersFolders = true;
         }
@@ -211,7 +225,7 @@ void TreeScanJob::list(const std::shared_ptr<OpenFolder>& folder, Listing& listi
         auto chunk = reader.next();
         if (!chunk)
             break;
-        noteFolders(folder->fd().get(), *chunk, listing);
+        noteFolders(*folder, *chunk, listing);
         if (!listing.chunks.empty() && !m_visitor.looksAtListings()) {
             if (!shareOut(folder, listing.chunks.back()))
                 askAbout(*folder, listing.chunks.back());
@@ -221,11 +235,15 @@ void TreeScanJob::list(const std::shared_ptr<OpenFolder>& folder, Listing& listi
     }
 }
 
-void TreeScanJob::noteFolders(int fd, const FolderChunk& chunk, Listing& listing) const
+void TreeScanJob::noteFolders(const OpenFolder& folder, const FolderChunk& chunk, Listing& listing) const
 {
+    const PathMarks::Node* mountMarks = folder.folder()->m_mountMarks;
     chunk.forEach([&](const FolderEntry& entry) {
+        // Not even a look at what may never answer.
+        if (marksOf(childOf(mountMarks, entry.name)) != 0)
+            return;
         if (entry.type == EntryType::unknown) {
-            const auto status = statusAt(fd, entry.name);
+            const auto status = statusAt(folder.fd().get(), entry.name);
             if (!status.ok() || status.value().type != FileType::folder)
                 return;
         } else if (entry.type != EntryType::folder) {
@@ -254,9 +272,12 @@ void TreeScanJob::askAbout(OpenFolder& folder, const FolderChunk& chunk)
     std::vector<TreeFile> files;
     std::int64_t entries = 0;
     const int fd = folder.fd().get();
+    const PathMarks::Node* mountMarks = folder.folder()->m_mountMarks;
     chunk.forEach([&](const FolderEntry& entry) {
         ++entries;
         if ((entry.type != EntryType::regular && entry.type != EntryType::unknown) || m_stop.stop_requested())
+            return;
+        if (marksOf(childOf(mountMarks, entry.name)) != 0)
             return;
         const auto status = statusAt(fd, entry.name);
         if (status.ok() && status.value().type == FileType::regular)

@@ -49,7 +49,7 @@ private:
     [[nodiscard]] bool mayCross(const TreeFolder& from, std::uint64_t mount) const;
     [[nodiscard]] bool isFirstVisit(const FileIdentity& identity);
     void list(const std::shared_ptr<OpenFolder>& folder, Listing& listing);
-    void noteFolders(int fd, const FolderChunk& chunk, Listing& listing) const;
+    void noteFolders(const OpenFolder& folder, const FolderChunk& chunk, Listing& listing) const;
     [[nodiscard]] bool shareOut(const std::shared_ptr<OpenFolder>& folder, FolderChunk& chunk);
     void askAbout(OpenFolder& folder, const FolderChunk& chunk);
     void waitWith(const std::shared_ptr<OpenFolder>& folder, Listing& listing);
@@ -59,7 +59,7 @@ private:
     const MountTable& m_mounts;
     const TreeScanOptions m_options;
     const std::stop_token m_stop;
-    PathMarks m_foreignMounts;
+    PathMarks m_foreignMounts; ///< below the roots, spelled as those are
     bool m_remembersFolders = false;
 
     std::mutex m_lock; ///< guards what waits
