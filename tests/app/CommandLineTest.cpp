@@ -49,6 +49,18 @@ struct CommandHome : TempHome {
 
 } // namespace
 
+TEST(CommandLineTest, theVersionTellsWhatKeepsTheRecognizerIn)
+{
+    const auto plain = orlen({"--version"});
+    EXPECT_EQ(plain.status, 0);
+    const auto verbose = orlen({"--version", "--verbose"});
+    EXPECT_EQ(verbose.status, 0);
+    EXPECT_TRUE(verbose.out.starts_with(plain.out));
+    // What holds differs from system to system; that it was asked does not.
+    EXPECT_THAT(verbose.out, HasSubstr("\n  Files: none can be opened"));
+    EXPECT_THAT(verbose.out, HasSubstr("\n  Environment: empty\n"));
+}
+
 TEST(CommandLineTest, aWrongCallEndsWithTwoAndMovesNothing)
 {
     const CommandHome home;

@@ -1,8 +1,10 @@
 #include "app/cli/CommandLine.h"
 
+#include "app/cli/CageText.h"
 #include "app/cli/Command.h"
 #include "app/cli/Texts.h"
 #include "platform/PathText.h"
+#include "platform/images/ImageWorkers.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,6 +18,7 @@ namespace orlen::CommandLine {
 
 namespace {
 
+const std::string kVerboseHelp = "With --version: print what keeps the recognizer of pictures in";
 const std::string kVersion = std::string("orlen ") + ORLEN_VERSION;
 
 struct Registered {
@@ -82,14 +85,21 @@ int run(int argc, char** argv)
 {
     CLI::App parser{std::string(Texts::kDescription), "orlen"};
     addCommonOptions(parser);
+    const CLI::Option* const verbose =
+        parser.add_flag("--verbose", kVerboseHelp)->needs(parser.get_version_ptr());
     parser.require_subcommand(0, 1);
     parser.footer(std::string(Texts::kWithoutCommand));
     const std::vector<Registered> commands = registerCommands(parser);
     Session session;
     try {
         parser.parse(argc, argv);
+    } catch (const CLI::CallForVersion& version) {
+        const int status = parser.exit(version);
+        if (verbose->count() > 0)
+            Session::print(Texts::cage(CageReport::ask(ImageWorkers::recognizer())));
+        return status;
     } catch (const CLI::Success& success) {
-        return parser.exit(success); // help or version
+        return parser.exit(success); // help
     } catch (const CLI::ParseError& error) {
         return static_cast<int>(wrongCall(session, parser, error));
     }
