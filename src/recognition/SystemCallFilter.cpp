@@ -78,8 +78,8 @@ std::vector<Limited> limitedCalls()
         {SCMP_SYS(prctl), {is(0, PR_SET_NAME)}},
         {SCMP_SYS(prctl), {is(0, PR_GET_DUMPABLE)}},
     };
-    for (const std::uint64_t command : {F_GETFD, F_SETFD, F_GETFL, F_DUPFD_CLOEXEC})
-        calls.push_back({SCMP_SYS(fcntl), {is(1, command)}});
+    for (const int command : {F_GETFD, F_SETFD, F_GETFL, F_DUPFD_CLOEXEC})
+        calls.push_back({SCMP_SYS(fcntl), {is(1, static_cast<std::uint64_t>(command))}});
     return calls;
 }
 
