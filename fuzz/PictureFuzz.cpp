@@ -2,6 +2,7 @@
 #include "platform/UniqueFd.h"
 #include "recognition/ImageDecoder.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -55,9 +56,13 @@ std::string seedFolder()
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     require(VIPS_INIT("fuzz") == 0);
-    static std::string seeds = seedFolder();
     static std::vector<char*> arguments(*argv, *argv + *argc);
-    arguments.push_back(seeds.data());
+    // Files are tried again by themselves.
+    if (std::none_of(arguments.begin() + 1, arguments.end(),
+                     [](const char* path) { return std::filesystem::is_regular_file(path); })) {
+        static std::string seeds = seedFolder();
+        arguments.push_back(seeds.data());
+    }
     *argc = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
     *argv = arguments.data();
@@ -71,12 +76,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr int kSide = 32;
     const orlen::UniqueFd file(::memfd_create("picture", MFD_CLOEXEC));
     require(file.isOpen() && ::write(file.get(), data, size) == static_cast<ssize_t>(size));
-    const auto picture = orlen::ImageDecoder::decode(file.get(), {{kSide, kSide}});
+    const bool isIcon = size % 2 == 0;
+    const auto picture = orlen::ImageDecoder::decode(
+        file.get(), {{kSide, kSide}}, isIcon ? orlen::PictureUse::icon : orlen::PictureUse::photo);
     if (!picture)
         return 0;
     const orlen::RgbImage& image = picture->small;
     require(picture->width > 0 && picture->height > 0 && image.width > 0 && image.height > 0);
     require(image.width <= kSide && image.height <= kSide);
     require(image.pixels.size() == orlen::RgbImage::byteCount(image.width, image.height));
+    require(picture->alpha.size() == (isIcon ? image.pixels.size() / 3 : 0));
     return 0;
 }
