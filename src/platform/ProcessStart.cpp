@@ -1,5 +1,7 @@
 #include "platform/ProcessStart.h"
 
+#include "platform/SessionBus.h"
+
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
@@ -89,12 +91,15 @@ std::vector<char*> pointers(const std::vector<std::string>& texts)
     return list;
 }
 
-/// This process's variables but for those that are given.
+/// This process's variables but for those that are given and what is meant for this process alone.
 std::vector<std::string> environmentWith(const std::vector<std::string>& given)
 {
     std::vector<std::string> variables = given;
+    const std::string ownBus = std::string(SessionBus::kVariable).append("=").append(SessionBus::kNowhere);
     for (char** variable = ::environ; variable != nullptr && *variable != nullptr; ++variable) {
         const std::string_view text(*variable);
+        if (text == ownBus)
+            continue;
         const std::string_view start = text.substr(0, std::min(text.find('='), text.size() - 1) + 1);
         if (std::none_of(given.begin(), given.end(),
                          [&](const std::string& other) { return other.starts_with(start); }))

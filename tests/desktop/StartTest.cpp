@@ -2,6 +2,7 @@
 
 #include "PrivateBus.h"
 #include "app/EventLoop.h"
+#include "platform/UniqueFd.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,13 @@
 #include <QProcessEnvironment>
 #include <QSignalSpy>
 #include <QTimer>
+
+#include <algorithm>
+#include <cstddef>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace orlen {
 
@@ -45,6 +53,31 @@ public:
 
 private:
     QProcess m_process;
+};
+
+/// An X display that answers nobody.
+class DeafDisplay {
+public:
+    DeafDisplay()
+    {
+        sockaddr_un address{AF_UNIX, {}};
+        // In the place behind the zero byte lie names without files.
+        const std::string name = "/tmp/.X11-unix/X" + std::to_string(m_number);
+        std::copy(name.begin(), name.end(), address.sun_path + 1);
+        const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+        EXPECT_EQ(::bind(m_socket.get(), reinterpret_cast<const sockaddr*>(&address), length), 0);
+        EXPECT_EQ(::listen(m_socket.get(), 1), 0);
+    }
+    [[nodiscard]] QString name() const { return QStringLiteral(":%1").arg(m_number); }
+    [[nodiscard]] bool wasAsked() const
+    {
+        pollfd waiting{m_socket.get(), POLLIN, 0};
+        return ::poll(&waiting, 1, 0) > 0;
+    }
+
+private:
+    const int m_number = 10'000 + ::getpid() % 10'000;
+    const UniqueFd m_socket{::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
 };
 
 const QString kNoBus = QStringLiteral("unix:path=/nowhere");
@@ -95,6 +128,20 @@ TEST(StartTest, theWindowClosesWhenTheSessionAsksFor)
         window.process().terminate();
         EXPECT_EQ(window.status(), 0) << qPrintable(window.complaint());
     }
+}
+
+TEST(StartTest, noBusIsStartedWhereTheSessionHasNone)
+{
+    const TempHome home;
+    const DeafDisplay display; // on which the tool that starts buses would leave a note
+    const std::string lock = home.outside("run/io.github.orlen.Orlen.lock");
+    Started window({{"DBUS_SESSION_BUS_ADDRESS", {}}, {"DISPLAY", display.name()}});
+    QTimer look;
+    look.start(20);
+    EXPECT_TRUE(waitUntil([&] { return TempHome::exists(lock); }));
+    EXPECT_FALSE(display.wasAsked());
+    window.process().terminate();
+    EXPECT_EQ(window.status(), 0) << qPrintable(window.complaint());
 }
 
 TEST(StartTest, aDisplayThatCannotBeUsedIsToldInASentence)

@@ -4,12 +4,14 @@
 #include "platform/Folder.h"
 #include "platform/PathText.h"
 #include "platform/PercentCoding.h"
+#include "platform/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -132,6 +134,11 @@ void Reveal::runOpener(const std::string& target, const Failure& failure)
             failure();
     });
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    if (SessionBus::isMissing()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QString::fromUtf8(SessionBus::kVariable));
+        process->setProcessEnvironment(environment);
+    }
     process->start(QStringLiteral("xdg-open"), {reference(target)});
 }
 

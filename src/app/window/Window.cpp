@@ -11,6 +11,7 @@
 #include "app/desktop/RunningInstance.h"
 #include "platform/Interrupts.h"
 #include "platform/OwnProgram.h"
+#include "platform/SessionBus.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -110,6 +111,7 @@ QQuickWindow* load(QQmlApplicationEngine& engine, AppModel& model)
 
 int run(int argc, char** argv)
 {
+    SessionBus::startNone();
     Interrupts interrupts;
     const LaunchToken token = LaunchToken::fromEnvironment();
     const auto application = GuiStart::makeApplication(argc, argv);
