@@ -23,8 +23,8 @@ std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths, con
     return measureTrees(paths, stop);
 }
 
-std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocuments& recent,
-                                    const MountTable& mounts)
+std::optional<LastUse> lastUse(const std::string& path, const RecentDocuments& recent,
+                               const MountTable& mounts)
 {
     const auto status = statusOf(path);
     if (!status.ok())
@@ -33,27 +33,39 @@ std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocumen
     const Mount* mount = mounts.byId(status.value().mount);
     if (mount == nullptr || mount->keepsAccessTimes)
         opened = std::max(opened.value_or(TimePoint::min()), status.value().accessed);
-    return opened.value_or(status.value().modified);
+    return LastUse{opened.value_or(status.value().modified), opened.has_value()};
 }
 
-FileEntry entry(const std::string& path, std::string_view note, const std::stop_token& stop)
+std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocuments& recent,
+                                    const MountTable& mounts)
 {
-    return std::move(entries(std::span(&path, 1), note, stop).front());
+    const auto use = lastUse(path, recent, mounts);
+    return use ? std::optional(use->date) : std::nullopt;
+}
+
+FileEntry entry(const std::string& path, std::string_view note, const std::stop_token& stop,
+                UnreadableFolders* unreadable)
+{
+    return std::move(entries(std::span(&path, 1), note, stop, unreadable).front());
 }
 
 std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
-                               const std::stop_token& stop)
+                               const std::stop_token& stop, UnreadableFolders* unreadable)
 {
-    const std::vector<std::int64_t> sizes = allocatedSizes(paths, stop);
     std::vector<FileEntry> entries(paths.size());
+    // What is stamped was there before it was measured: what changes meanwhile no longer fits its stamp.
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (const auto status = statusOf(paths[i]); status.ok()) {
+            entries[i].modified = status.value().modified;
+            entries[i].stamp = FileStamp::of(status.value());
+        }
+    }
+    const std::vector<std::int64_t> sizes =
+        measureTrees(paths, stop, DiskWorkers::Priority::user, unreadable);
     for (std::size_t i = 0; i < paths.size(); ++i) {
         FileEntry& entry = entries[i];
         entry.path = paths[i];
         entry.size = sizes[i];
-        if (const auto status = statusOf(paths[i]); status.ok()) {
-            entry.modified = status.value().modified;
-            entry.stamp = FileStamp::of(status.value());
-        }
         if (!note.empty())
             entry.note = std::string(note);
     }

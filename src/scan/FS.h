@@ -15,6 +15,7 @@ namespace orlen {
 
 class MountTable;
 class RecentDocuments;
+class UnreadableFolders;
 
 /// Measures and dates paths. Stateless; any thread. Blocks on the disk: never call from the main thread.
 /// Trees are measured by the shared pool of disk workers; a measurement that is stopped returns what it has.
@@ -37,14 +38,24 @@ namespace FS {
 [[nodiscard]] std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocuments& recent,
                                                   const MountTable& mounts);
 
+struct LastUse {
+    TimePoint date;         ///< as `lastOpened` gives it
+    bool isOpening = false; ///< whether it tells of an opening, not of the last modification
+};
+/// The same, and what it tells of.
+[[nodiscard]] std::optional<LastUse> lastUse(const std::string& path, const RecentDocuments& recent,
+                                             const MountTable& mounts);
+
 /// The path with its allocated size, modification date (absent when it cannot be read) and the note; an empty
 /// note gives none.
 [[nodiscard]] FileEntry entry(const std::string& path, std::string_view note,
-                              const std::stop_token& stop = {});
+                              const std::stop_token& stop = {}, UnreadableFolders* unreadable = nullptr);
 
-/// The same for many paths, in their order, measured together.
+/// The same for many paths, in their order, measured together. `unreadable` is told of folders that could not
+/// be read.
 [[nodiscard]] std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
-                                             const std::stop_token& stop = {});
+                                             const std::stop_token& stop = {},
+                                             UnreadableFolders* unreadable = nullptr);
 
 } // namespace FS
 } // namespace orlen

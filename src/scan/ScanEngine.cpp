@@ -53,16 +53,18 @@ Findings findPhotos(const Walk::Found& found, const ScanOptions& options, ScanPr
 
 /// The steps that share one walk of the home folder.
 Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptions& options,
-                   const RecentDocuments& recent)
+                   const RecentDocuments& recent, UnreadableFolders& unreadable)
 {
     const std::stop_token stop = flag.token();
     const std::string_view largeAndOldLabel = ScanEngine::kSteps[kLargeAndOldStep];
     progress.set(largeAndOldLabel, StepState::running);
-    Walk::Found found = Walk::home(progress, stop);
+    Walk::Found found = Walk::home(progress, stop, {options.largeThreshold, &unreadable});
 
     StepGroup group;
     group.add("large", [&] {
-        Findings findings = largeAndOld(found.cands, options.largeThreshold, Clock::now(), recent, stop);
+        std::vector<Cand> cands = found.cands;
+        cands.insert(cands.end(), found.largeInCaches.begin(), found.largeInCaches.end());
+        Findings findings = largeAndOld(cands, options.largeThreshold, Clock::now(), recent, stop);
         progress.set(largeAndOldLabel, StepState::done);
         return findings;
     });
@@ -106,7 +108,7 @@ std::vector<Finding> ScanEngine::run()
 {
     m_progress.setSteps({kSteps.begin(), kSteps.end()});
     const std::stop_token stop = m_flag.token();
-    const LocationScanners scanners(m_progress, stop);
+    const LocationScanners scanners(m_progress, stop, &m_unreadable);
     const RecentDocuments recent = RecentDocuments::ofUser(Places::current());
     using Routine = std::function<Findings()>;
     const Routine locationSteps[] = {
@@ -122,7 +124,7 @@ std::vector<Finding> ScanEngine::run()
     for (std::size_t step = 0; step < std::size(locationSteps); ++step) {
         group.add("location", [&, step] { return asStep(m_progress, kSteps[step], locationSteps[step]); });
     }
-    group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent); });
+    group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent, m_unreadable); });
     return mergedByKind(group.collect());
 }
 

@@ -4,6 +4,7 @@
 #include "platform/images/ImageWorkers.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/UnreadableFolders.h"
 
 #include <array>
 #include <cstdint>
@@ -37,11 +38,14 @@ public:
     [[nodiscard]] ScanProgress& progress() { return m_progress; }
     [[nodiscard]] const ScanProgress& progress() const { return m_progress; }
     [[nodiscard]] ScanFlag& flag() { return m_flag; }
+    /// Grows while the scan runs.
+    [[nodiscard]] const UnreadableFolders& unreadable() const { return m_unreadable; }
 
 private:
     ScanOptions m_options;
     ScanProgress m_progress;
     ScanFlag m_flag;
+    UnreadableFolders m_unreadable;
 };
 
 } // namespace orlen

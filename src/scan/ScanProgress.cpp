@@ -41,19 +41,20 @@ void ScanProgress::set(std::string_view label, StepState state)
 
 void ScanProgress::tick(std::string_view path)
 {
-    tick(1, [&] { return std::string(path); });
+    tick(1, [&](std::int64_t) { return std::string(path); });
 }
 
-void ScanProgress::tick(std::int64_t items, const std::function<std::string()>& path)
+void ScanProgress::tick(std::int64_t items, const std::function<std::string(std::int64_t)>& path)
 {
     std::unique_lock lock(m_lock);
     const std::int64_t before = m_files;
     m_files = checkedAdd(m_files, items);
-    if (before / kItemsPerPath == m_files / kItemsPerPath)
+    const std::int64_t shown = m_files / kItemsPerPath * kItemsPerPath;
+    if (shown <= before)
         return;
     // The path is put together outside: the lock is held for a field only.
     lock.unlock();
-    show(path());
+    show(path(shown - before - 1));
 }
 
 void ScanProgress::show(std::string_view path)

@@ -30,9 +30,10 @@ public:
     void set(std::string_view label, StepState state);
     /// Counts one item; at every 48th the path becomes `current`.
     void tick(std::string_view path);
-    /// Counts `items` at once. When that passes a multiple of 48, `path()` becomes `current`; otherwise it is
-    /// not called. Routines that look at very many files count by the bufferful.
-    void tick(std::int64_t items, const std::function<std::string()>& path);
+    /// Counts `items` at once. When that passes a multiple of 48, `path(i)`, the path of the item that did so
+    /// (the last one, counted from 0), becomes `current`; otherwise it is not called. Routines that look at
+    /// very many files count by the bufferful.
+    void tick(std::int64_t items, const std::function<std::string(std::int64_t)>& path);
     /// Sets `current` without counting.
     void show(std::string_view path);
 

@@ -3,38 +3,33 @@
 #include "clean/Safety.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
-#include "scan/FS.h"
 #include "scan/tree/CurrentMounts.h"
+#include "scan/walk/TaggedCaches.h"
 #include "scan/walk/WalkRules.h"
 #include "scan/walk/WalkVisitor.h"
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_set>
+#include <utility>
 
 namespace orlen::Walk {
 
 namespace {
 
-constexpr std::int64_t kTaggedCacheBytes = 1'000'000;
-constexpr std::size_t kTaggedCacheLimit = 600;
-
-/// Measures the folders that call themselves caches and keeps the large ones, largest first.
-std::vector<FileEntry> taggedCacheEntries(const std::vector<std::string>& folders,
-                                          const std::stop_token& stop)
+/// Drops the files that have another name among the candidates.
+void dropKnown(std::vector<Cand>& files, const std::vector<Cand>& cands)
 {
-    std::vector<FileEntry> entries = FS::entries(folders, "Build output marked as a cache", stop);
-    std::erase_if(entries, [](const FileEntry& entry) { return entry.size < kTaggedCacheBytes; });
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
-    if (entries.size() > kTaggedCacheLimit)
-        entries.resize(kTaggedCacheLimit);
-    for (FileEntry& entry : entries)
-        entry.rating = Rating::review;
-    return entries;
+    std::unordered_set<FileIdentity, FileIdentityHash> known;
+    for (const Cand& cand : cands) {
+        if (!files.empty() && cand.stamp)
+            known.insert(cand.stamp->identity);
+    }
+    std::erase_if(files, [&](const Cand& file) { return known.contains(file.stamp->identity); });
 }
 
 Found walk(WalkVisitor::Scope scope, const std::vector<TreeRoot>& roots, ScanProgress& progress,
-           const std::stop_token& stop)
+           const std::stop_token& stop, const Options& asked)
 {
     PathMarks marks;
     WalkRules::markImageFolders(Places::current(), marks);
@@ -42,8 +37,14 @@ Found walk(WalkVisitor::Scope scope, const std::vector<TreeRoot>& roots, ScanPro
     TreeScanOptions options;
     options.crossing = Crossing::localDisks;
     options.marks = &marks;
+    options.unreadable = asked.unreadable;
     scanTrees(roots, visitor, *CurrentMounts::table(), options, stop);
-    return {visitor.takeCands(), visitor.takeImages(), taggedCacheEntries(visitor.takeTaggedCaches(), stop)};
+    TaggedCaches::Found tagged =
+        TaggedCaches::measure(visitor.takeTaggedCaches(), asked.largeBytes, asked.unreadable, stop);
+    Found found{visitor.takeCands(), visitor.takeImages(), std::move(tagged.entries),
+                std::move(tagged.largeFiles)};
+    dropKnown(found.largeInCaches, found.cands);
+    return found;
 }
 
 /// The folders in path order, without those that lie in another one.
@@ -63,14 +64,15 @@ std::vector<std::string> outermost(std::vector<std::string> folders)
 
 } // namespace
 
-Found home(ScanProgress& progress, const std::stop_token& stop)
+Found home(ScanProgress& progress, const std::stop_token& stop, const Options& options)
 {
     if (!Places::current().isHomeUsable)
         return {};
-    return walk(WalkVisitor::Scope::homeFolder, {{Safety::home(), 0}}, progress, stop);
+    return walk(WalkVisitor::Scope::homeFolder, {{Safety::home(), 0}}, progress, stop, options);
 }
 
-Found folders(const std::vector<std::string>& roots, ScanProgress& progress, const std::stop_token& stop)
+Found folders(const std::vector<std::string>& roots, ScanProgress& progress, const std::stop_token& stop,
+              const Options& options)
 {
     std::vector<std::string> paths;
     paths.reserve(roots.size());
@@ -79,7 +81,7 @@ Found folders(const std::vector<std::string>& roots, ScanProgress& progress, con
     std::vector<TreeRoot> trees;
     for (std::string& path : outermost(std::move(paths)))
         trees.push_back({std::move(path), WalkVisitor::kImages});
-    return walk(WalkVisitor::Scope::givenFolders, trees, progress, stop);
+    return walk(WalkVisitor::Scope::givenFolders, trees, progress, stop, options);
 }
 
 std::vector<Cand> duplicateInput(const Found& found)

@@ -192,6 +192,27 @@ TEST_F(LocationScannersTest, cachesThatBelongElsewhereAreNotAmongTheCaches)
     EXPECT_THAT(this->names(FindingKind::caches), testing::Contains("home/.cache/Google"));
 }
 
+TEST_F(LocationScannersTest, placesOfOtherRowsTakeUpRoomAmongTheLargest)
+{
+    for (int i = 0; i < 601; ++i)
+        home.fileOfSize("Library/Caches/" + std::to_string(1'000 + i), (i < 600 ? 26 : 25) * kBlock);
+    EXPECT_EQ(names(FindingKind::caches).size(), 600U);
+    home.fileOfSize("Library/Caches/Homebrew/x", 200 * kBlock);
+    home.fileOfSize("Library/Caches/pip/x", 25 * kBlock); // not among the largest
+    EXPECT_EQ(names(FindingKind::caches).size(), 599U);
+}
+
+TEST_F(LocationScannersTest, environmentsInUseAreNoCaches)
+{
+    for (const char* folder : {".cache/", "Library/Caches/"}) {
+        home.fileOfSize(std::string(folder) + "env/lib/x", 30 * kBlock);
+        home.file(std::string(folder) + "env/pyvenv.cfg");
+        home.file(std::string(folder) + "env/CACHEDIR.TAG", "Signature: 8a477f597d28d172789f06886806bc55");
+        home.fileOfSize(std::string(folder) + "conda/conda-meta/x", 30 * kBlock);
+    }
+    EXPECT_THAT(names(FindingKind::caches), IsEmpty());
+}
+
 TEST_F(LocationScannersTest, whatTheUserCannotMoveAwayIsNotOffered)
 {
     home.fileOfSize(".cache/locked/file", 30 * kBlock);

@@ -95,6 +95,7 @@ TEST_F(OldDownloadsTest, withoutAccessTimesTheLastChangeCounts)
     EXPECT_THAT(names(), IsEmpty());
     reload("rw,noatime");
     EXPECT_THAT(names(), ElementsAre("Downloads/changed long ago"));
+    EXPECT_EQ(scan().front().lastOpened, std::nullopt) << "a change is no opening";
 }
 
 TEST_F(OldDownloadsTest, bothDownloadsFoldersAreReadOnceEach)

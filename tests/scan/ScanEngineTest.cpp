@@ -1,11 +1,14 @@
 #include "scan/ScanEngine.h"
 
 #include "clean/Safety.h"
+#include "platform/FileStatus.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <set>
 #include <thread>
 
 namespace orlen {
@@ -52,7 +55,7 @@ TEST(ScanEngineTest, findingsOfOneKindAreOneFinding)
     EXPECT_EQ(caches->items[1].path, home.path(".cache/thing"));
     const Finding* large = find(findings, FindingKind::largeFiles);
     ASSERT_NE(large, nullptr);
-    EXPECT_EQ(large->items.size(), 2);
+    EXPECT_EQ(large->items.size(), 3) << "the one in the tagged folder stays visible";
     const Finding* duplicates = find(findings, FindingKind::duplicates);
     ASSERT_NE(duplicates, nullptr);
     ASSERT_EQ(duplicates->items.size(), 1);
@@ -81,6 +84,67 @@ TEST(ScanEngineTest, cancelledScanEndsWithinAFifthOfASecond)
         canceller.join();
         EXPECT_LT(ended - cancelled, 200ms) << "cancelled after " << delay.count() << " ms";
     }
+}
+
+TEST(ScanEngineTest, everyEntryTellsWhatStoodUnderItsPath)
+{
+    const TempHome home;
+    for (const char* name :
+         {".cache/app/x", ".local/share/Trash/files/x", "Documents/large", "Documents/copy", "Downloads/old",
+          "tagged/x", ".npm/_cacache/x", "Library/Caches/app/x"})
+        home.fileOfSize(name, 2'007'040);
+    home.fileOfSize(home.outside("Applications/A.app/Contents/Resources/fr.lproj/x"), 4096);
+    home.file("tagged/CACHEDIR.TAG", "Signature: 8a477f597d28d172789f06886806bc55");
+    TempHome::setTimes(home.path("Downloads/old"), {}, {});
+    Safety::refresh();
+    ScanEngine engine({2'000'000});
+    std::set<FindingKind> kinds;
+    for (const Finding& finding : engine.run()) {
+        kinds.insert(finding.kind);
+        for (const FileEntry& entry : finding.items)
+            EXPECT_EQ(entry.stamp, FileStamp::of(statusOf(entry.path).value())) << entry.path;
+    }
+    using enum FindingKind;
+    EXPECT_EQ(kinds, (std::set{caches, npm, trash, languagePacks, largeFiles, oldDownloads, duplicates}));
+}
+
+TEST(ScanEngineTest, foldersThatCannotBeReadAreToldOnce)
+{
+    const TempHome home;
+    const char* const told[] = {".cache/app/inner",   ".local/state",        ".npm",
+                                "Documents/a/locked", "Documents/b/bad\xFF", "target/locked"};
+    for (const char* name : told)
+        home.fileOfSize(std::string(name) + "/x", 4096);
+    home.fileOfSize(".cache/app/x", 200'704);
+    home.file("target/CACHEDIR.TAG", "Signature: 8a477f597d28d172789f06886806bc55");
+    home.folder(".ssh");
+    home.folder(".hidden");
+    home.folder("p/node_modules");
+    for (const char* name : {".ssh", ".hidden", "p/node_modules"})
+        TempHome::setMode(home.path(name), 0);
+    for (const char* name : told)
+        TempHome::setMode(home.path(name), 0);
+    home.link(".gradle", home.path("missing"));
+    Safety::refresh();
+    ScanEngine engine({500'000'000});
+    (void)engine.run();
+    EXPECT_EQ(engine.unreadable().count(), std::ssize(told));
+    std::vector<std::string> expected;
+    for (const char* name : told) {
+        if (!std::string(name).ends_with('\xFF'))
+            expected.push_back(home.path(name));
+    }
+    std::ranges::sort(expected);
+    EXPECT_EQ(engine.unreadable().paths(), expected);
+
+    UnreadableFolders many;
+    for (int i = 0; i < 1'500; ++i)
+        many.add("/x/" + std::to_string(10'000 + i), EACCES);
+    many.add("/x/10000", EIO);
+    many.add("/gone", ENOENT);
+    EXPECT_EQ(many.count(), 1'500);
+    EXPECT_EQ(many.paths().size(), 1'000U);
+    EXPECT_EQ(many.paths().back(), "/x/10999");
 }
 
 TEST(ScanEngineTest, unusableHomeIsNotScanned)

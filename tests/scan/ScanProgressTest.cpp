@@ -13,10 +13,10 @@ TEST(ScanProgressTest, pathChangesWithEveryFortyEighthItem)
     EXPECT_EQ(progress.current(), "");
     progress.tick("the 48th");
     EXPECT_EQ(progress.current(), "the 48th");
-    progress.tick(47, [] { return std::string("not yet"); });
+    progress.tick(47, [](std::int64_t) { return std::string("not yet"); });
     EXPECT_EQ(progress.current(), "the 48th");
-    progress.tick(200, [] { return std::string("passed several"); });
-    EXPECT_EQ(progress.current(), "passed several");
+    progress.tick(200, [](std::int64_t item) { return std::to_string(item); });
+    EXPECT_EQ(progress.current(), "192") << "95 before it, the 288th in all";
     EXPECT_EQ(progress.files(), 295);
 }
 

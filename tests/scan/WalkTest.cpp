@@ -1,6 +1,7 @@
 #include "scan/Walk.h"
 
 #include "clean/Safety.h"
+#include "platform/FileStatus.h"
 #include "scan/ScanProgress.h"
 #include "support/TempHome.h"
 
@@ -53,6 +54,19 @@ TEST_F(WalkTest, collectsLargeEnoughFilesWithTheirSizes)
     EXPECT_THAT(names(found.cands), ElementsAre("Documents/on", "directly.iso", "work/deep/er/on"));
     EXPECT_EQ(found.cands.front().size, kJustCand);
     EXPECT_EQ(progress.files(), 8) << "files and folders met";
+}
+
+TEST_F(WalkTest, onlyWhatIsMetIsCountedAndShownByItsOwnPath)
+{
+    for (const char* name : {".hidden/x", ".file", "Library/x", "work/.git/x", "work/.env", "work/Tool.app/x",
+                             "work/node_modules/x"})
+        home.file(name);
+    (void)walk();
+    EXPECT_EQ(progress.files(), 3) << "the folder, the package and the modules, but not what is in them";
+    for (int i = 0; i < 60; ++i)
+        home.file("work/item" + std::to_string(i));
+    (void)walk();
+    EXPECT_TRUE(progress.current().starts_with(home.path("work/"))) << progress.current();
 }
 
 TEST_F(WalkTest, leavesOutWhatIsNotTheUsersToTidy)
@@ -158,7 +172,35 @@ TEST_F(WalkTest, taggedCachesAreOfferedWholeForReview)
     EXPECT_EQ(entry.path, home.path("p/target"));
     EXPECT_EQ(entry.size, kJustCand + 4096);
     EXPECT_EQ(entry.rating, Rating::review);
-    EXPECT_EQ(entry.note, "Build output marked as a cache");
+    EXPECT_EQ(entry.note, "Marked as a cache");
+    EXPECT_EQ(entry.stamp, FileStamp::of(statusOf(entry.path).value()));
+}
+
+TEST_F(WalkTest, taggedFoldersInUseAreLeftAloneAndLargeFilesInAnyStayVisible)
+{
+    const std::string tag = "Signature: 8a477f597d28d172789f06886806bc55";
+    for (const char* folder : {"venv", "conda", "repo", "locked", "machines", "linked"})
+        home.file(folder + std::string("/CACHEDIR.TAG"), tag);
+    home.file("venv/pyvenv.cfg");
+    home.folder("conda/conda-meta");
+    home.folder("repo/.git");
+    for (const char* name : {"venv/x", "conda/x", "repo/x", "locked/x", "machines/a/disk.img",
+                             "machines/.hidden/x", "machines/Tool.app/x", "machines/venv/lib/x"})
+        home.fileOfSize(name, 3 * kJustCand);
+    home.file("machines/venv/pyvenv.cfg");
+    home.fileOfSize("machines/small", kJustCand);
+    ASSERT_EQ(::link(home.path("machines/a/disk.img").c_str(), home.path("machines/a/disk2.img").c_str()), 0);
+    home.fileOfSize("elsewhere", 3 * kJustCand);
+    ASSERT_EQ(::link(home.path("elsewhere").c_str(), home.path("linked/x").c_str()), 0);
+    TempHome::setMode(home.path("locked"), 0555);
+    Safety::refresh();
+    const auto found = Walk::home(progress, {}, {.largeBytes = 2 * kJustCand});
+    EXPECT_THAT(names(found.cands), ElementsAre("elsewhere", "repo/x"));
+    EXPECT_THAT(names(found.largeInCaches), ElementsAre("locked/x", "machines/a/disk.img"));
+    ASSERT_EQ(found.taggedCaches.size(), 2U) << "neither what is in use nor what cannot be moved";
+    EXPECT_EQ(found.taggedCaches[0].path, home.path("machines"));
+    EXPECT_GT(found.taggedCaches[0].size, 12 * kJustCand) << "all of it";
+    EXPECT_EQ(found.taggedCaches[1].path, home.path("linked"));
 }
 
 TEST_F(WalkTest, givenFoldersAreWalkedWithoutTheTopLevelRules)

@@ -1,7 +1,5 @@
 #include "scan/duplicates/ContentComparer.h"
 
-#include "platform/FileContent.h"
-
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -32,23 +30,59 @@ std::vector<ContentComparer::Same> ContentComparer::identical(std::span<const Su
             announceSequentialRead(file->get());
             opened.push_back(m_files.size());
         }
-        m_files.push_back(file ? std::move(*file) : UniqueFd());
+        m_files.push_back({file ? std::move(*file) : UniqueFd(), {}});
     }
     m_buffer.resize(std::max(m_buffer.size(), suspects.size() * kStride));
     const std::int64_t length = suspects.front().seen.length;
     std::vector<Same> groups{std::move(opened)};
     dropLone(groups);
-    for (std::int64_t offset = 0; offset < length && !groups.empty(); offset += kBlock) {
+    for (std::int64_t offset = 0; !groups.empty();) {
         if (m_stop.stop_requested())
             return {};
-        groups = splitByNextBlock(std::move(groups), offset,
-                                  static_cast<std::size_t>(std::min(kBlock, length - offset)));
+        const FileRange next = nextBlock(groups, offset, length);
+        if (next.start >= length)
+            break;
+        groups =
+            splitByNextBlock(std::move(groups), next.start, static_cast<std::size_t>(next.end - next.start));
+        offset = next.end;
     }
     for (Same& group : groups)
-        std::erase_if(group, [&](std::size_t i) { return !isUnchanged(m_files[i], suspects[i]); });
+        std::erase_if(group, [&](std::size_t i) { return !isUnchanged(m_files[i].fd, suspects[i]); });
     dropLone(groups);
     m_files.clear();
     return groups;
+}
+
+/// Also drops the files that do not tell where their data lies.
+FileRange ContentComparer::nextBlock(std::vector<Same>& groups, std::int64_t offset, std::int64_t length)
+{
+    FileRange next{length, length};
+    for (Same& group : groups) {
+        std::erase_if(group, [&](std::size_t i) { return !findData(m_files[i], offset, length); });
+        for (const std::size_t i : group)
+            next.start = std::min(next.start, std::max(offset, m_files[i].data.start));
+    }
+    dropLone(groups);
+    // No further than the data that begins here: what lies in a gap of all is not read.
+    next.end = next.start;
+    for (const Same& group : groups) {
+        for (const std::size_t i : group) {
+            if (m_files[i].data.start <= next.start)
+                next.end = std::max(next.end, m_files[i].data.end);
+        }
+    }
+    next.end = std::min(next.end, next.start + std::min(kBlock, length - next.start));
+    return next;
+}
+
+bool ContentComparer::findData(Open& file, std::int64_t offset, std::int64_t length) const
+{
+    if (offset < file.data.end || file.data.start >= length)
+        return true;
+    const auto data = nextData(file.fd.get(), offset, length);
+    if (data.ok())
+        file.data = data.value().value_or(FileRange{length, length});
+    return data.ok();
 }
 
 std::vector<ContentComparer::Same> ContentComparer::splitByNextBlock(std::vector<Same> groups,
@@ -57,7 +91,7 @@ std::vector<ContentComparer::Same> ContentComparer::splitByNextBlock(std::vector
     std::vector<Same> after;
     for (Same& group : groups) {
         std::erase_if(group, [&](std::size_t i) {
-            const auto got = readAt(m_files[i].get(), offset, std::span(block(i), length));
+            const auto got = readAt(m_files[i].fd.get(), offset, std::span(block(i), length));
             m_bytesRead += got.ok() ? static_cast<std::int64_t>(got.value()) : 0;
             return !got.ok() || got.value() < length;
         });

@@ -1,8 +1,7 @@
 #include "scan/duplicates/FileHasher.h"
 
-#include "platform/FileContent.h"
-
 #include <algorithm>
+#include <cstring>
 #include <span>
 
 namespace orlen {
@@ -11,8 +10,49 @@ namespace {
 
 // Read at once; a stop is looked for between two blocks.
 constexpr std::int64_t kReadLength = 1'048'576;
+// Holes begin and end at multiples of this, or of a multiple of it.
+constexpr std::int64_t kPage = 4'096;
+
+bool isZero(std::span<const std::byte> bytes)
+{
+    return bytes.front() == std::byte{0} &&
+           std::memcmp(bytes.data(), bytes.data() + 1, bytes.size() - 1) == 0;
+}
 
 } // namespace
+
+/// Fills the block from the file; false when stopped or when the file has become shorter.
+bool FileHasher::read(const UniqueFd& file, std::int64_t offset, std::span<std::byte> block)
+{
+    if (m_stop.stop_requested())
+        return false;
+    const auto got = readAt(file.get(), offset, block);
+    if (!got.ok() || got.value() < block.size())
+        return false;
+    m_bytesRead += static_cast<std::int64_t>(block.size());
+    return true;
+}
+
+/// Hashes the pages of a run of data that are not all zeros, with their places.
+bool FileHasher::addPages(const UniqueFd& file, FileRange data)
+{
+    m_buffer.resize(std::max(m_buffer.size(), static_cast<std::size_t>(kReadLength)));
+    for (std::int64_t offset = data.start; offset < data.end; offset += kReadLength) {
+        const auto block =
+            std::span(m_buffer).first(static_cast<std::size_t>(std::min(kReadLength, data.end - offset)));
+        if (!read(file, offset, block))
+            return false;
+        for (std::size_t at = 0; at < block.size(); at += kPage) {
+            const auto page = block.subspan(at, std::min<std::size_t>(kPage, block.size() - at));
+            if (isZero(page))
+                continue;
+            const std::int64_t place = offset + static_cast<std::int64_t>(at);
+            m_hash.update(std::as_bytes(std::span(&place, 1)));
+            m_hash.update(page);
+        }
+    }
+    return true;
+}
 
 /// Reads and hashes a range; false when stopped or when the file has become shorter.
 bool FileHasher::add(const UniqueFd& file, std::int64_t offset, std::int64_t length)
@@ -21,16 +61,12 @@ bool FileHasher::add(const UniqueFd& file, std::int64_t offset, std::int64_t len
     if (m_buffer.size() < wanted)
         m_buffer.resize(wanted);
     for (const std::int64_t end = offset + length; offset < end;) {
-        if (m_stop.stop_requested())
-            return false;
         const auto block =
             std::span(m_buffer).first(static_cast<std::size_t>(std::min(kReadLength, end - offset)));
-        const auto got = readAt(file.get(), offset, block);
-        if (!got.ok() || got.value() < block.size())
+        if (!read(file, offset, block))
             return false;
         m_hash.update(block);
         offset += static_cast<std::int64_t>(block.size());
-        m_bytesRead += static_cast<std::int64_t>(block.size());
     }
     return true;
 }
@@ -60,7 +96,19 @@ std::optional<Digest> FileHasher::full(const Suspect& suspect)
     if (!file)
         return std::nullopt;
     announceSequentialRead(file->get());
-    const bool isRead = add(*file, 0, suspect.seen.length);
+    const std::int64_t length = suspect.seen.length;
+    bool isRead = true;
+    for (std::int64_t offset = 0; isRead && offset < length;) {
+        const auto data = nextData(file->get(), offset, length);
+        isRead = data.ok();
+        if (!isRead || !data.value())
+            break;
+        // From the start of the page, so that a page is hashed the same whatever holes are around it.
+        const std::int64_t start = std::max(offset, data.value()->start / kPage * kPage);
+        const std::int64_t end = std::min(length, (data.value()->end + kPage - 1) / kPage * kPage);
+        isRead = addPages(*file, {start, end});
+        offset = end;
+    }
     const Digest digest = m_hash.finish();
     if (!isRead || !isUnchanged(*file, suspect))
         return std::nullopt;

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "platform/FileContent.h"
 #include "platform/Sha256.h"
 #include "scan/duplicates/Suspect.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <stop_token>
 #include <vector>
 
@@ -24,13 +26,16 @@ public:
     /// SHA-256 of the first piece, and of the last one when the content is longer than two pieces.
     [[nodiscard]] std::optional<Digest> quick(const Suspect& suspect);
 
-    /// SHA-256 of the whole content.
+    /// A digest of the whole content: SHA-256 of those pages that are not all zeros, each with its place.
+    /// Holes are not read, and a hole counts as the zeros that it stands for.
     [[nodiscard]] std::optional<Digest> full(const Suspect& suspect);
 
     [[nodiscard]] std::int64_t filesOpened() const { return m_filesOpened; }
     [[nodiscard]] std::int64_t bytesRead() const { return m_bytesRead; }
 
 private:
+    [[nodiscard]] bool addPages(const UniqueFd& file, FileRange data);
+    [[nodiscard]] bool read(const UniqueFd& file, std::int64_t offset, std::span<std::byte> block);
     [[nodiscard]] bool add(const UniqueFd& file, std::int64_t offset, std::int64_t length);
 
     std::stop_token m_stop;

@@ -3,6 +3,7 @@
 #include "platform/Folder.h"
 #include "platform/NamePattern.h"
 #include "platform/PathText.h"
+#include "scan/UnreadableFolders.h"
 
 #include <algorithm>
 
@@ -18,10 +19,13 @@ bool isFolder(int parent, const FolderEntry& entry)
     return status.ok() && status.value().type == FileType::folder;
 }
 
-std::vector<std::string> foldersMatching(const std::string& parent, std::string_view pattern)
+std::vector<std::string> foldersMatching(const std::string& parent, std::string_view pattern,
+                                         UnreadableFolders* unreadable)
 {
     std::vector<std::string> names;
     const auto fd = openFolder(parent);
+    if (!fd.ok() && unreadable != nullptr)
+        unreadable->add(parent, fd.error());
     if (!fd.ok())
         return names;
     FolderReader reader(fd.value().get());
@@ -35,7 +39,8 @@ std::vector<std::string> foldersMatching(const std::string& parent, std::string_
     return names;
 }
 
-std::vector<Match> extended(const std::vector<Match>& parents, std::string_view component)
+std::vector<Match> extended(const std::vector<Match>& parents, std::string_view component,
+                            UnreadableFolders* unreadable)
 {
     std::vector<Match> children;
     for (const Match& parent : parents) {
@@ -43,7 +48,7 @@ std::vector<Match> extended(const std::vector<Match>& parents, std::string_view 
             children.push_back({PathText::join(parent.path, component), parent.names});
             continue;
         }
-        for (const std::string& name : foldersMatching(parent.path, component)) {
+        for (const std::string& name : foldersMatching(parent.path, component, unreadable)) {
             children.push_back({PathText::join(parent.path, name), parent.names});
             children.back().names.push_back(name);
         }
@@ -59,11 +64,11 @@ bool matchesAny(const std::vector<std::string_view>& patterns, std::string_view 
                        [&](std::string_view pattern) { return NamePattern::matches(pattern, name); });
 }
 
-std::vector<Match> paths(const std::string& folder, std::string_view pattern)
+std::vector<Match> paths(const std::string& folder, std::string_view pattern, UnreadableFolders* unreadable)
 {
     std::vector<Match> found{{folder, {}}};
     for (const std::string_view component : PathText::components(pattern))
-        found = extended(found, component);
+        found = extended(found, component, unreadable);
     return found;
 }
 

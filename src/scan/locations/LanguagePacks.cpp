@@ -55,7 +55,7 @@ std::vector<std::string> translationsIn(const std::string& bundle, const Codes& 
 
 } // namespace
 
-std::vector<FileEntry> entries(const std::stop_token& stop)
+std::vector<FileEntry> entries(UnreadableFolders* unreadable, const std::stop_token& stop)
 {
     const Places& places = Places::current();
     if (!places.isHomeUsable)
@@ -71,7 +71,7 @@ std::vector<FileEntry> entries(const std::stop_token& stop)
         for (std::string& path : translationsIn(bundle, kept))
             paths.push_back(std::move(path));
     }
-    std::vector<FileEntry> found = FS::entries(paths, {}, stop);
+    std::vector<FileEntry> found = FS::entries(paths, {}, stop, unreadable);
     std::erase_if(found, [](const FileEntry& entry) { return entry.size < 1; });
     return found;
 }

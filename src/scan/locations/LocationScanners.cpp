@@ -8,7 +8,7 @@ namespace orlen {
 
 std::vector<Finding> LocationScanners::read(std::initializer_list<FindingKind> kinds) const
 {
-    const SourceReader reader(m_progress, m_stop);
+    const SourceReader reader(m_progress, m_stop, m_unreadable);
     std::vector<Finding> findings;
     for (const FindingKind kind : kinds)
         findings.emplace_back(kind, reader.entries(kind));
@@ -43,13 +43,14 @@ std::vector<Finding> LocationScanners::trashAndMail() const
 
 std::vector<Finding> LocationScanners::languagePacks() const
 {
-    return {Finding(FindingKind::languagePacks, LanguagePacks::entries(m_stop))};
+    return {Finding(FindingKind::languagePacks, LanguagePacks::entries(m_unreadable, m_stop))};
 }
 
 std::vector<Finding> LocationScanners::downloads(TimePoint now, const RecentDocuments& recent) const
 {
-    const SourceReader reader(m_progress, m_stop);
-    return {Finding(FindingKind::oldDownloads, OldDownloads::entries(reader, now, recent, m_stop))};
+    const SourceReader reader(m_progress, m_stop, m_unreadable);
+    return {
+        Finding(FindingKind::oldDownloads, OldDownloads::entries(reader, now, recent, m_unreadable, m_stop))};
 }
 
 } // namespace orlen

@@ -12,14 +12,16 @@ namespace orlen {
 
 class RecentDocuments;
 class ScanProgress;
+class UnreadableFolders;
 
 /// The seven scanners that look only at known places. Each blocks on the disk and returns one finding per
 /// kind that it covers, possibly without entries; what cannot be listed contributes nothing. They may all run
 /// at once. A stopped scanner returns what it has.
 class LocationScanners {
 public:
-    LocationScanners(ScanProgress& progress, std::stop_token stop)
-        : m_progress(progress), m_stop(std::move(stop))
+    /// `unreadable`, when not null, is told of folders that could not be read.
+    LocationScanners(ScanProgress& progress, std::stop_token stop, UnreadableFolders* unreadable = nullptr)
+        : m_progress(progress), m_stop(std::move(stop)), m_unreadable(unreadable)
     {
     }
 
@@ -37,6 +39,7 @@ private:
 
     ScanProgress& m_progress;
     std::stop_token m_stop;
+    UnreadableFolders* m_unreadable;
 };
 
 } // namespace orlen

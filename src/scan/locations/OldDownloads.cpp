@@ -18,24 +18,25 @@ constexpr std::chrono::days kUnused{30};
 } // namespace
 
 std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const RecentDocuments& recent,
-                               const std::stop_token& stop)
+                               UnreadableFolders* unreadable, const std::stop_token& stop)
 {
     const auto mounts = CurrentMounts::table();
     std::vector<std::string> paths;
-    std::vector<TimePoint> dates;
+    std::vector<FS::LastUse> uses;
     // Dating comes first: what is young need not be measured. What has no date is gone, and never old.
     for (std::string& path : reader.paths(FindingKind::oldDownloads)) {
         if (stop.stop_requested())
             break;
-        const std::optional<TimePoint> opened = FS::lastOpened(path, recent, *mounts);
-        if (!opened || *opened >= now - kUnused)
+        const auto use = FS::lastUse(path, recent, *mounts);
+        if (!use || use->date >= now - kUnused)
             continue;
         paths.push_back(std::move(path));
-        dates.push_back(*opened);
+        uses.push_back(*use);
     }
-    std::vector<FileEntry> found = FS::entries(paths, {}, stop);
+    std::vector<FileEntry> found = FS::entries(paths, {}, stop, unreadable);
     for (std::size_t i = 0; i < found.size(); ++i) {
-        found[i].lastOpened = dates[i];
+        if (uses[i].isOpening)
+            found[i].lastOpened = uses[i].date;
         if (exists(found[i].path + "/.git"))
             found[i].note = "Contains a repository";
     }

@@ -15,6 +15,8 @@ namespace {
 bool isExcluded(const SourceRow& row, const std::string& child)
 {
     const std::string_view name = PathText::lastComponent(child);
+    if (std::ranges::find(row.exceptAfterLimit, name) != row.exceptAfterLimit.end())
+        return true;
     return std::any_of(row.except.begin(), row.except.end(), [&](std::string_view pattern) {
         const std::size_t slash = pattern.find('/');
         if (!NamePattern::matches(pattern.substr(0, slash), name))
@@ -53,20 +55,20 @@ std::size_t firstStar(std::string_view pattern)
 
 } // namespace
 
-SourceMap::SourceMap(const Places& places)
+SourceMap::SourceMap(const Places& places, UnreadableFolders* unreadable)
 {
     if (!places.isHomeUsable)
         return;
     for (const SourceRow& row : sourceRows())
-        add(row, places);
+        add(row, places, unreadable);
 }
 
-void SourceMap::add(const SourceRow& row, const Places& places)
+void SourceMap::add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable)
 {
     for (const std::string_view pattern : row.from) {
         const std::size_t star = firstStar(pattern);
         for (const std::string& start : places.expand(pattern.substr(0, star))) {
-            for (Glob::Match& match : Glob::paths(start, pattern.substr(star))) {
+            for (Glob::Match& match : Glob::paths(start, pattern.substr(star), unreadable)) {
                 // What one source of the row offers as an entry is not opened by the next.
                 const bool isEntry = !match.names.empty() &&
                                      isKnown(row, std::string(PathText::parent(match.path))) &&

@@ -10,6 +10,7 @@
 namespace orlen {
 
 struct Places;
+class UnreadableFolders;
 
 /// One path that a row stands for.
 struct Source {
@@ -23,8 +24,9 @@ struct Source {
 /// Immutable; any thread.
 class SourceMap {
 public:
-    /// Blocks on the disk to see what "*" stands for. Without sources when the home folder cannot be used.
-    explicit SourceMap(const Places& places);
+    /// Blocks on the disk to see what "*" stands for; `unreadable`, when not null, is told of folders where
+    /// that failed. Without sources when the home folder cannot be used.
+    explicit SourceMap(const Places& places, UnreadableFolders* unreadable = nullptr);
 
     /// The sources of a row, in order.
     [[nodiscard]] std::vector<const Source*> of(const SourceRow& row) const;
@@ -37,7 +39,7 @@ public:
     [[nodiscard]] bool isOffered(const Source& single) const;
 
 private:
-    void add(const SourceRow& row, const Places& places);
+    void add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable);
     void add(Source source);
     [[nodiscard]] bool isKnown(const SourceRow& row, const std::string& path) const;
     [[nodiscard]] std::vector<const Source*> at(const std::string& path) const;

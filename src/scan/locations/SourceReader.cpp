@@ -8,8 +8,12 @@
 #include "platform/Reachability.h"
 #include "scan/FS.h"
 #include "scan/ScanProgress.h"
+#include "scan/UnreadableFolders.h"
+#include "scan/walk/WalkRules.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <functional>
 #include <iterator>
 
 namespace orlen {
@@ -58,7 +62,8 @@ bool isSkipped(const SourceRow& row, std::string_view name)
 bool mayBeOffered(const SourceRow& row, const std::string& path)
 {
     return PathText::isValidUtf8(path) && !Safety::isProtected(path) &&
-           (row.offered == Offered::all || isDeletable(path));
+           (row.offered == Offered::all || isDeletable(path)) &&
+           (row.kind != FindingKind::caches || !WalkRules::isEnvironment(path));
 }
 
 bool isLinkFree(const Source& single)
@@ -82,8 +87,9 @@ void append(std::vector<FileEntry>& entries, std::vector<FileEntry> more)
 
 } // namespace
 
-SourceReader::SourceReader(ScanProgress& progress, std::stop_token stop)
-    : m_progress(progress), m_stop(std::move(stop)), m_map(Places::current())
+SourceReader::SourceReader(ScanProgress& progress, std::stop_token stop, UnreadableFolders* unreadable)
+    : m_progress(progress), m_stop(std::move(stop)), m_unreadable(unreadable),
+      m_map(Places::current(), unreadable)
 {
 }
 
@@ -129,7 +135,7 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
             origins.push_back(source);
         }
     }
-    std::vector<FileEntry> entries = FS::entries(found, {}, m_stop);
+    std::vector<FileEntry> entries = FS::entries(found, {}, m_stop, m_unreadable);
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!origins[i]->note.empty())
             entries[i].note = origins[i]->note;
@@ -137,6 +143,7 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
     std::erase_if(entries, [&](const FileEntry& entry) { return !isLargeEnough(row, entry); });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
+    leaveRoomForOthers(row, entries);
     if (entries.size() > row.limit)
         entries.resize(row.limit);
     for (FileEntry& entry : entries) {
@@ -147,13 +154,42 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
     return entries;
 }
 
+/// Drops from the end as many entries as the row's places that other rows offer would have pushed out.
+void SourceReader::leaveRoomForOthers(const SourceRow& row, std::vector<FileEntry>& entries) const
+{
+    // They are measured by their own rows; here they count only when there are too many entries.
+    if (entries.size() + row.exceptAfterLimit.size() <= row.limit)
+        return;
+    std::vector<std::string> others;
+    for (const Source* source : m_map.of(row)) {
+        for (const std::string_view name : row.exceptAfterLimit)
+            others.push_back(PathText::join(source->path, name));
+    }
+    std::vector<FileEntry> measured = FS::entries(others, {}, m_stop);
+    std::erase_if(measured, [&](const FileEntry& entry) {
+        return !isLargeEnough(row, entry) || !mayBeOffered(row, entry.path);
+    });
+    std::ranges::sort(measured, std::ranges::greater(), &FileEntry::size);
+    std::size_t room = row.limit;
+    for (const FileEntry& other : measured) {
+        const auto larger =
+            std::ranges::count_if(entries, [&](const FileEntry& entry) { return entry.size >= other.size; });
+        // Its place among the largest: behind those of its size, and behind the others already counted.
+        room -= static_cast<std::size_t>(larger) < room ? 1 : 0;
+    }
+    entries.resize(std::min(entries.size(), room));
+}
+
 std::vector<FileEntry> SourceReader::single(const Source& source) const
 {
-    if (!exists(source.path) || !isLinkFree(source) || !m_map.isOffered(source) ||
-        !mayBeOffered(*source.row, source.path))
+    if (const auto status = statusOf(source.path); !status.ok()) {
+        noteUnreachable(source.path, status.error());
+        return {};
+    }
+    if (!isLinkFree(source) || !m_map.isOffered(source) || !mayBeOffered(*source.row, source.path))
         return {};
     m_progress.show(source.path);
-    FileEntry entry = FS::entry(source.path, source.note, m_stop);
+    FileEntry entry = FS::entry(source.path, source.note, m_stop, m_unreadable);
     if (!isLargeEnough(*source.row, entry))
         return {};
     return {std::move(entry)};
@@ -163,8 +199,10 @@ std::vector<std::string> SourceReader::pathsIn(const Source& folder) const
 {
     std::vector<std::string> found;
     const auto fd = openToRead(folder);
-    if (!fd.ok())
+    if (!fd.ok()) {
+        noteUnreachable(folder.path, fd.error());
         return found;
+    }
     const SourceRow& row = *folder.row;
     const auto look = [&](const FolderEntry& entry) {
         if (m_stop.stop_requested() || isSkipped(row, entry.name))
@@ -183,7 +221,19 @@ std::vector<std::string> SourceReader::pathsIn(const Source& folder) const
         if (m_stop.stop_requested())
             break;
     }
+    noteUnreachable(folder.path, reader.error());
     return found;
+}
+
+/// Notes the path, or the first folder on the way to it that lets nobody through.
+void SourceReader::noteUnreachable(std::string path, int error) const
+{
+    if (m_unreadable == nullptr || !UnreadableFolders::isUnreadable(error))
+        return;
+    while (statusOf(path).error() == EACCES)
+        path = std::string(PathText::parent(path));
+    if (!Safety::protectsContents(path))
+        m_unreadable->add(path);
 }
 
 } // namespace orlen

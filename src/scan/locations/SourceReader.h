@@ -10,12 +10,14 @@
 namespace orlen {
 
 class ScanProgress;
+class UnreadableFolders;
 
 /// Lists and measures what the rows of the table lead to. Reads nothing but the disk and the map: several
 /// readers may work at once. A stopped one returns what it has.
 class SourceReader {
 public:
-    SourceReader(ScanProgress& progress, std::stop_token stop);
+    /// `unreadable`, when not null, is told of folders that could not be read.
+    SourceReader(ScanProgress& progress, std::stop_token stop, UnreadableFolders* unreadable = nullptr);
 
     /// The measured entries of all rows of a kind, row after row, each row's largest first. Blocks on the
     /// disk.
@@ -28,9 +30,12 @@ private:
     [[nodiscard]] std::vector<FileEntry> children(const SourceRow& row) const;
     [[nodiscard]] std::vector<FileEntry> single(const Source& source) const;
     [[nodiscard]] std::vector<std::string> pathsIn(const Source& folder) const;
+    void leaveRoomForOthers(const SourceRow& row, std::vector<FileEntry>& entries) const;
+    void noteUnreachable(std::string path, int error) const;
 
     ScanProgress& m_progress;
     std::stop_token m_stop;
+    UnreadableFolders* m_unreadable;
     SourceMap m_map;
 };
 

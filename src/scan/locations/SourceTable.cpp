@@ -90,9 +90,9 @@ SourceRow single(Kind kind, std::string_view from, std::string_view note)
     return {.kind = kind, .reading = Reading::single, .from = {from}, .note = note};
 }
 
-SourceRow without(SourceRow row, Names except)
+SourceRow leavingToOthers(SourceRow row, Names names)
 {
-    row.except = std::move(except);
+    row.exceptAfterLimit = std::move(names);
     return row;
 }
 
@@ -120,7 +120,8 @@ SourceRow shared(SourceRow row, std::string_view note)
 std::vector<SourceRow> macRows()
 {
     return {
-        without(macChildren(Kind::caches, "{H}/Library/Caches", 100'000), {"Homebrew", "pip", "Yarn"}),
+        leavingToOthers(macChildren(Kind::caches, "{H}/Library/Caches", 100'000),
+                        {"Homebrew", "pip", "Yarn"}),
         shared(macChildren(Kind::caches, "{LIBRARY}/Caches", 500'000), "Shared cache"),
         macChildren(Kind::logs, "{H}/Library/Logs", 10'000),
         shared(macChildren(Kind::logs, "{LIBRARY}/Logs", 10'000), "Shared log"),

@@ -45,6 +45,8 @@ struct SourceRow {
     std::vector<std::string_view> only = {}; ///< names of entries, with "*"; empty: any
     /// Names that are never entries, with "*". "Name/Sub*" speaks of a "Name" that holds something so named.
     std::vector<std::string_view> except = {};
+    /// Names that are never entries either, but take up room among the largest: other rows offer them.
+    std::vector<std::string_view> exceptAfterLimit = {};
     std::vector<std::string_view> exceptFolders = {};   ///< names that a "*" in `from` does not stand for
     bool (*accepts)(const std::string& path) = nullptr; ///< a further test of the entry; may read the disk
     /// A note for this entry alone; may read the disk.

@@ -14,8 +14,13 @@ namespace orlen {
 /// for, or kept where the visitor asks for most of them. Immutable once its contents are visited; any thread.
 class TreeFolder {
 public:
+    /// So long a path, its end counted, is the longest that the kernel takes; what lies deeper has no path
+    /// that anybody could use.
+    static constexpr std::size_t kLongestPath = 4'096;
+
     TreeFolder(std::shared_ptr<const TreeFolder> parent, std::string name, std::uint32_t tag)
-        : m_parent(std::move(parent)), m_name(std::move(name)), m_tag(tag)
+        : m_parent(std::move(parent)), m_name(std::move(name)), m_tag(tag),
+          m_pathLength(m_parent ? m_parent->m_pathLength + 1 + m_name.size() : m_name.size())
     {
     }
     TreeFolder(const TreeFolder&) = delete;
@@ -32,6 +37,12 @@ public:
     /// Number of the mount it lies on.
     [[nodiscard]] std::uint64_t mount() const { return m_mount; }
 
+    /// Whether a child of this name has a path that the kernel takes.
+    [[nodiscard]] bool canName(std::string_view name) const
+    {
+        return m_pathLength + 1 + name.size() < kLongestPath;
+    }
+
     [[nodiscard]] std::string path() const;
     [[nodiscard]] std::string pathOf(std::string_view name) const;
 
@@ -40,6 +51,7 @@ private:
     std::shared_ptr<const TreeFolder> m_parent;
     std::string m_name;
     std::uint32_t m_tag;
+    std::size_t m_pathLength;                      ///< bytes
     std::string m_path;                            ///< empty: not kept, to be put together
     const PathMarks::Node* m_marks = nullptr;      ///< the caller's marks at and below this folder
     const PathMarks::Node* m_mountMarks = nullptr; ///< mounts not to be touched

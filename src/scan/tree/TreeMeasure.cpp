@@ -42,7 +42,7 @@ void addTo(std::atomic<std::int64_t>& sum, std::int64_t bytes)
 }
 
 std::vector<std::int64_t> measureTrees(std::span<const std::string> paths, const std::stop_token& stop,
-                                       DiskWorkers::Priority priority)
+                                       DiskWorkers::Priority priority, UnreadableFolders* unreadable)
 {
     std::vector<std::int64_t> sizes(paths.size());
     std::vector<TreeRoot> folders;
@@ -58,6 +58,7 @@ std::vector<std::int64_t> measureTrees(std::span<const std::string> paths, const
     Measure measure(paths.size());
     TreeScanOptions options;
     options.priority = priority;
+    options.unreadable = unreadable;
     scanTrees(folders, measure, *CurrentMounts::table(), options, stop);
     for (const TreeRoot& folder : folders)
         sizes[folder.tag] = measure.sum(folder.tag);

@@ -9,7 +9,7 @@ bool TreeVisitor::accept(const TreeFolder& /*folder*/, const TreeListing& /*list
     return true;
 }
 
-void TreeVisitor::counted(const TreeFolder& /*folder*/, std::int64_t /*entries*/) {}
+void TreeVisitor::listed(const TreeFolder& /*folder*/, const FolderChunk& /*entries*/) {}
 
 void scanTrees(std::span<const TreeRoot> roots, TreeVisitor& visitor, const MountTable& mounts,
                const TreeScanOptions& options, const std::stop_token& stop)

@@ -17,6 +17,8 @@
 
 namespace orlen {
 
+class UnreadableFolders;
+
 /// What is asked of a file, no more.
 struct TreeFile {
     const char* name; ///< ends in a zero byte; not necessarily UTF-8; lives during the call
@@ -52,7 +54,8 @@ public:
     /// Whether to enter the child folder `name`, and with which tag. Asked before it is touched.
     virtual std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                                std::uint32_t marks) = 0;
-    /// Whether most folders will be asked for their path: it is then kept instead of put together each time.
+    /// Whether most folders will be asked for their path: it is then kept instead of put together each time,
+    /// unless it is longer than the kernel takes.
     [[nodiscard]] virtual bool asksForPaths() const { return false; }
     /// Whether `accept` wants to see every folder's names.
     [[nodiscard]] virtual bool looksAtListings() const { return false; }
@@ -60,8 +63,8 @@ public:
     virtual bool accept(const TreeFolder& folder, const TreeListing& listing);
     /// The regular files of one bufferful of the folder's listing.
     virtual void files(const TreeFolder& folder, std::span<const TreeFile> files) = 0;
-    /// Told once for each bufferful: how many entries of any type it held.
-    virtual void counted(const TreeFolder& folder, std::int64_t entries);
+    /// Told once for each bufferful: its entries of any type.
+    virtual void listed(const TreeFolder& folder, const FolderChunk& entries);
 };
 
 struct TreeRoot {
@@ -82,13 +85,16 @@ struct TreeScanOptions {
     /// Folders to leave out or to know by name; null for none. Mounted network and pseudo file systems below
     /// a root are always left out, before they are touched: a dead server would block.
     const PathMarks* marks = nullptr;
+    /// Told of each folder that could not be opened or listed; null when nobody asks.
+    UnreadableFolders* unreadable = nullptr;
 };
 
 /// Goes through folder trees: relative to open folders, never following a link, one metadata call per regular
 /// file and none for folders and links, folders and large listings shared out to the pool of disk workers, a
 /// bounded number of open descriptors however wide or deep the tree. A folder that cannot be read is passed
-/// over. Roots that are no folders are passed over too. Returns when all is visited, or soon after a stop
-/// request. A folder that is reached twice through mounts is visited once.
+/// over, one that lies deeper than a path may be long is not. Roots that are no folders are passed over too.
+/// Returns when all is visited, or soon after a stop request. A folder that is reached twice through mounts
+/// is visited once.
 void scanTrees(std::span<const TreeRoot> roots, TreeVisitor& visitor, const MountTable& mounts,
                const TreeScanOptions& options, const std::stop_token& stop);
 

@@ -2,6 +2,7 @@
 
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "scan/UnreadableFolders.h"
 
 #include <atomic>
 #include <cerrno>
@@ -117,7 +118,7 @@ void TreeScanJob::enterRoot(const TreeRoot& root)
         return;
     auto fd = openFolder(root.path);
     if (!fd.ok())
-        return;
+        return noteUnreadable(nullptr, root.path, fd.error());
     auto folder = std::make_shared<TreeFolder>(nullptr, root.path, root.tag);
     folder->m_path = root.path;
     folder->m_marks = m_options.marks == nullptr ? nullptr : m_options.marks->at(root.path);
@@ -142,14 +143,14 @@ void TreeScanJob::enterChild(const std::shared_ptr<OpenFolder>& parent, const st
     if (!parent->fd().isOpen()) {
         auto reopened = reopen(*parent->folder());
         if (!reopened.ok())
-            return;
+            return noteUnreadable(parent->folder().get(), name, reopened.error());
         again = std::move(reopened).value();
     }
     auto fd = openFolderAt(again.isOpen() ? again.get() : parent->fd().get(), name.c_str());
     if (!fd.ok())
-        return;
+        return noteUnreadable(parent->folder().get(), name, fd.error());
     auto folder = std::make_shared<TreeFolder>(parent->folder(), name, *tag);
-    if (m_visitor.asksForPaths())
+    if (m_visitor.asksForPaths() && parent->folder()->canName(name))
         folder->m_path = parent->folder()->pathOf(name);
     folder->m_marks = marks;
     folder->m_mountMarks = mountMarks;
@@ -233,6 +234,18 @@ void TreeScanJob::list(const std::shared_ptr<OpenFolder>& folder, Listing& listi
         }
         listing.chunks.push_back(std::move(*chunk));
     }
+    noteUnreadable(folder->folder()->parent(), folder->folder()->name(), reader.error());
+}
+
+/// Only folders that have a path can be told.
+void TreeScanJob::noteUnreadable(const TreeFolder* parent, const std::string& name, int error) const
+{
+    if (m_options.unreadable == nullptr || !UnreadableFolders::isUnreadable(error))
+        return;
+    if (parent == nullptr)
+        m_options.unreadable->add(name);
+    else if (parent->canName(name))
+        m_options.unreadable->add(parent->pathOf(name));
 }
 
 void TreeScanJob::noteFolders(const OpenFolder& folder, const FolderChunk& chunk, Listing& listing) const
@@ -270,11 +283,9 @@ bool TreeScanJob::shareOut(const std::shared_ptr<OpenFolder>& folder, FolderChun
 void TreeScanJob::askAbout(OpenFolder& folder, const FolderChunk& chunk)
 {
     std::vector<TreeFile> files;
-    std::int64_t entries = 0;
     const int fd = folder.fd().get();
     const PathMarks::Node* mountMarks = folder.folder()->m_mountMarks;
     chunk.forEach([&](const FolderEntry& entry) {
-        ++entries;
         if ((entry.type != EntryType::regular && entry.type != EntryType::unknown) || m_stop.stop_requested())
             return;
         if (marksOf(childOf(mountMarks, entry.name)) != 0)
@@ -283,7 +294,7 @@ void TreeScanJob::askAbout(OpenFolder& folder, const FolderChunk& chunk)
         if (status.ok() && status.value().type == FileType::regular)
             files.push_back({entry.name, status.value()});
     });
-    m_visitor.counted(*folder.folder(), entries);
+    m_visitor.listed(*folder.folder(), chunk);
     if (!files.empty())
         m_visitor.files(*folder.folder(), files);
 }
@@ -314,7 +325,7 @@ Result<UniqueFd> TreeScanJob::reopen(const TreeFolder& folder)
         return fd;
     const auto status = statusOfOpen(fd.value().get());
     if (!status.ok() || status.value().identity != folder.identity())
-        return Errno{ESTALE};
+        return Errno{ENOENT}; // gone, and another one took its place
     return fd;
 }
 

@@ -53,6 +53,7 @@ private:
     [[nodiscard]] bool shareOut(const std::shared_ptr<OpenFolder>& folder, FolderChunk& chunk);
     void askAbout(OpenFolder& folder, const FolderChunk& chunk);
     void waitWith(const std::shared_ptr<OpenFolder>& folder, Listing& listing);
+    void noteUnreadable(const TreeFolder* parent, const std::string& name, int error) const;
     [[nodiscard]] static Result<UniqueFd> reopen(const TreeFolder& folder);
 
     TreeVisitor& m_visitor;

@@ -2,6 +2,7 @@
 
 #include "clean/Safety.h"
 #include "platform/FileContent.h"
+#include "platform/Folder.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
 #include "scan/tree/PathMarks.h"
@@ -10,6 +11,8 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace orlen::WalkRules {
 
@@ -42,6 +45,7 @@ struct Telltales {
     bool objectsFolder = false;
     bool refsFolder = false;
     bool environment = false;
+    bool workTree = false;
     bool syncMarker = false;
     bool cacheTag = false;
 
@@ -56,6 +60,7 @@ struct Telltales {
         objectsFolder |= isFolder && name == "objects";
         refsFolder |= isFolder && name == "refs";
         environment |= (isFile && name == "pyvenv.cfg") || (isFolder && name == "conda-meta");
+        workTree |= name == ".git";
         cacheTag |= isFile && name == "CACHEDIR.TAG";
         syncMarker |= Safety::isSyncMarker(name);
     }
@@ -101,13 +106,34 @@ FolderNature natureOf(const TreeListing& listing)
     listing.forEach([&](const FolderEntry& entry) { found.look(entry); });
     if (found.syncMarker)
         return FolderNature::mirrored;
-    if (found.cacheTag && readHeadAt(listing.descriptor(), "CACHEDIR.TAG", kCacheTag.size()) == kCacheTag)
+    // An environment is in use, tagged or not: its makers tag it to keep it out of backups.
+    if (found.environment)
+        return FolderNature::package;
+    if (found.cacheTag && !found.workTree &&
+        readHeadAt(listing.descriptor(), "CACHEDIR.TAG", kCacheTag.size()) == kCacheTag)
         return FolderNature::taggedCache;
     const bool isRepository =
         found.objectsFolder && (found.configFile || (found.headFile && found.refsFolder));
-    if (found.environment || isRepository || (found.appRun && isExecutable(listing.descriptor(), "AppRun")))
+    if (isRepository || (found.appRun && isExecutable(listing.descriptor(), "AppRun")))
         return FolderNature::package;
     return FolderNature::plain;
+}
+
+FolderNature natureOf(const std::string& folder)
+{
+    const auto fd = openFolder(folder);
+    if (!fd.ok())
+        return FolderNature::plain;
+    std::vector<FolderChunk> chunks;
+    FolderReader reader(fd.value().get());
+    while (auto chunk = reader.next())
+        chunks.push_back(std::move(*chunk));
+    return natureOf(TreeListing(fd.value().get(), chunks));
+}
+
+bool isEnvironment(const std::string& folder)
+{
+    return exists(folder + "/pyvenv.cfg") || isRealFolder(folder + "/conda-meta");
 }
 
 } // namespace orlen::WalkRules

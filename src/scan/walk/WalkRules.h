@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace orlen {
@@ -28,10 +29,14 @@ enum class FolderNature {
     plain,
     package,     ///< one thing to its user: a program, a bare repository, an environment
     mirrored,    ///< kept in step with a server by a sync program
-    taggedCache, ///< carries the signature of a cache directory
+    taggedCache, ///< carries the signature of a cache directory, and is neither of these nor a work tree
 };
 
 [[nodiscard]] FolderNature natureOf(const TreeListing& listing);
+/// The same for a folder that is looked at by itself; `plain` when it cannot be read. Blocks on the disk.
+[[nodiscard]] FolderNature natureOf(const std::string& folder);
+/// Whether a folder is an environment in which programs are installed, wherever it lies. Blocks on the disk.
+[[nodiscard]] bool isEnvironment(const std::string& folder);
 
 } // namespace WalkRules
 } // namespace orlen

@@ -28,7 +28,7 @@ std::optional<std::uint32_t> WalkVisitor::enter(const TreeFolder& parent, std::s
     const bool isTop = m_scope == Scope::homeFolder && parent.parent() == nullptr;
     if (WalkRules::isLeftOut(name) || (isTop && WalkRules::isLeftOutAtTop(name)))
         return std::nullopt;
-    if (Safety::protectsContents(parent.pathOf(name)))
+    if (!parent.canName(name) || Safety::protectsContents(parent.pathOf(name)))
         return std::nullopt;
     return parent.tag() | ((marks & WalkRules::kImageFolder) != 0 ? kImages : 0);
 }
@@ -47,11 +47,8 @@ bool WalkVisitor::accept(const TreeFolder& folder, const TreeListing& listing)
     case WalkRules::FolderNature::taggedCache:
         break;
     }
-    std::string path = folder.path();
-    if (PathText::isValidUtf8(path) && !Safety::isProtected(path)) {
-        const std::lock_guard lock(m_lock);
-        m_taggedCaches.push_back(std::move(path));
-    }
+    const std::lock_guard lock(m_lock);
+    m_taggedCaches.push_back(folder.path());
     return false;
 }
 
@@ -66,6 +63,8 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
         const bool isImage =
             size >= kImageBytes && (folder.tag() & kImages) != 0 && WalkRules::isImageName(name);
         if (name.starts_with('.') || (!isCand && !isImage))
+            continue;
+        if (!folder.canName(name))
             continue;
         Cand cand{folder.pathOf(name), size, file.status.modified, FileStamp::of(file.status)};
         if (!PathText::isValidUtf8(cand.path) || Safety::isProtected(cand.path))
@@ -97,9 +96,25 @@ void WalkVisitor::addImages(std::vector<Cand> images)
     }
 }
 
-void WalkVisitor::counted(const TreeFolder& folder, std::int64_t entries)
+/// Hidden items and the top-level folders that are never walked are not met at all.
+bool WalkVisitor::isCounted(const TreeFolder& folder, std::string_view name) const
 {
-    m_progress.tick(entries, [&] { return folder.path(); });
+    const bool isTop = m_scope == Scope::homeFolder && folder.parent() == nullptr;
+    return !name.starts_with('.') && !(isTop && WalkRules::isLeftOutAtTop(name));
+}
+
+void WalkVisitor::listed(const TreeFolder& folder, const FolderChunk& entries)
+{
+    std::int64_t count = 0;
+    entries.forEach([&](const FolderEntry& entry) { count += isCounted(folder, entry.name) ? 1 : 0; });
+    m_progress.tick(count, [&](std::int64_t item) {
+        std::string path;
+        entries.forEach([&](const FolderEntry& entry) {
+            if (isCounted(folder, entry.name) && item-- == 0)
+                path = folder.pathOf(entry.name);
+        });
+        return path;
+    });
 }
 
 std::vector<Cand> WalkVisitor::takeCands()

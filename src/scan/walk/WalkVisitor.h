@@ -27,11 +27,12 @@ public:
     [[nodiscard]] bool looksAtListings() const override { return true; }
     bool accept(const TreeFolder& folder, const TreeListing& listing) override;
     void files(const TreeFolder& folder, std::span<const TreeFile> files) override;
-    void counted(const TreeFolder& folder, std::int64_t entries) override;
+    void listed(const TreeFolder& folder, const FolderChunk& entries) override;
 
     /// After the scan: the candidates in path order, each file once.
     [[nodiscard]] std::vector<Cand> takeCands();
     [[nodiscard]] std::vector<Cand> takeImages();
+    /// The folders that mark themselves as caches, whether they may be offered or not.
     [[nodiscard]] std::vector<std::string> takeTaggedCaches();
 
 private:
@@ -41,6 +42,7 @@ private:
         bool hasOtherNames = false;
     };
 
+    [[nodiscard]] bool isCounted(const TreeFolder& folder, std::string_view name) const;
     void addImages(std::vector<Cand> images);
 
     const Scope m_scope;

@@ -1,6 +1,10 @@
 #include "scan/tree/TreeMeasure.h"
 
+#include "clean/Safety.h"
 #include "scan/FS.h"
+#include "scan/ScanProgress.h"
+#include "scan/UnreadableFolders.h"
+#include "scan/Walk.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +12,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -90,6 +95,44 @@ TEST(TreeMeasureTest, measuresAVeryDeepTreeWithBranchesAtEveryLevel)
     ::close(at);
     EXPECT_EQ(FS::allocatedSize(home.path("deep")), kDepth * 4096);
     ASSERT_EQ(std::system(("/bin/rm -rf '" + home.path("deep") + "'").c_str()), 0);
+}
+
+/// A chain of folders with long names, a file at its end.
+void makeDeepChain(const std::string& folder, int depth, const std::string& name)
+{
+    int at = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+    for (int level = 0; level < depth; ++level) {
+        ASSERT_EQ(::mkdirat(at, name.c_str(), 0700), 0);
+        const int next = ::openat(at, name.c_str(), O_RDONLY | O_DIRECTORY);
+        ::close(at);
+        at = next;
+    }
+    const int file = ::openat(at, "f", O_WRONLY | O_CREAT, 0600);
+    ASSERT_EQ(::write(file, "x", 1), 1);
+    ::close(file);
+    ::close(at);
+}
+
+TEST(TreeMeasureTest, deepChainsOfLongNamesNeedLittleMemory)
+{
+    const TempHome home;
+    makeDeepChain(home.folder("work/deep"), 3'000, std::string(200, 'n'));
+    home.fileOfSize("work/kept", 1'003'520);
+    Safety::refresh();
+    const auto peakKilobytes = [] {
+        rusage usage{};
+        ::getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss;
+    };
+    const long before = peakKilobytes();
+    ScanProgress progress;
+    UnreadableFolders unreadable;
+    const Walk::Found found = Walk::home(progress, {}, {.unreadable = &unreadable});
+    EXPECT_EQ(FS::allocatedSize(home.path("work/deep")), 4096);
+    EXPECT_LT(peakKilobytes() - before, 100'000);
+    EXPECT_EQ(found.cands.size(), 1U);
+    EXPECT_EQ(unreadable.count(), 0) << "what has no path is left out, not a failure";
+    ASSERT_EQ(std::system(("rm -rf '" + home.path("work/deep") + "'").c_str()), 0);
 }
 
 TEST(TreeMeasureTest, measuresManyChildrenTogetherAndEachForItself)

@@ -29,7 +29,10 @@ public:
         for (const TreeFile& file : files)
             EXPECT_TRUE(seen.insert(folder.pathOf(file.name)).second) << file.name << " was told twice";
     }
-    void counted(const TreeFolder& /*folder*/, std::int64_t count) override { entries += count; }
+    void listed(const TreeFolder& /*folder*/, const FolderChunk& chunk) override
+    {
+        chunk.forEach([&](const FolderEntry&) { ++entries; });
+    }
 
     std::function<void(const std::string&)> onEnter;
     std::mutex lock;
