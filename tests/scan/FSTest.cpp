@@ -20,7 +20,8 @@ TEST(FSTest, entryHasSizeDateAndNote)
     const TimePoint time = TimePoint(std::chrono::sys_days(std::chrono::year(2024) / 2 / 3)) + 4h;
     TempHome::setTimes(path, time, time);
     const FileEntry entry = FS::entry(path, "a note");
-    EXPECT_EQ(entry, (FileEntry{path, 4096, time, std::nullopt, std::nullopt, "a note"}));
+    EXPECT_EQ(entry, (FileEntry{path, 4096, time, std::nullopt, std::nullopt, "a note",
+                                FileStamp::of(statusOf(path).value())}));
     EXPECT_EQ(FS::entry(home.path("missing"), "").modified, std::nullopt);
     EXPECT_EQ(FS::entry(path, "").note, std::nullopt);
 }
