@@ -91,6 +91,12 @@ public:
     /// Of the current or last scan; an empty one before the first.
     [[nodiscard]] const ScanProgress& scanProgress() const { return *m_scanProgress; }
     [[nodiscard]] const std::optional<TimePoint>& lastScan() const { return m_lastScan; }
+    struct Unreadable {
+        std::int64_t count = 0;
+        std::vector<std::string> paths; ///< in order, at most 1,000, valid UTF-8
+    };
+    /// The folders that the last scan wanted to look into and could not; changes with `findings`.
+    [[nodiscard]] const Unreadable& unreadableFolders() const { return m_unreadable; }
     /// A screen that the main window is asked to show.
     [[nodiscard]] std::optional<Screen> requestedScreen() const { return m_requestedScreen; }
     /// Whether this model saves: it was asked to, and no other process holds the data folder.
@@ -245,6 +251,7 @@ private:
     bool m_isFdaGranted = false;
     std::shared_ptr<const ScanProgress> m_scanProgress;
     std::optional<TimePoint> m_lastScan;
+    Unreadable m_unreadable;
     std::optional<Screen> m_requestedScreen;
 
     std::shared_ptr<ScanEngine> m_engine;

@@ -6,11 +6,10 @@
 #include "model/Rater.h"
 #include "platform/CheckedSum.h"
 #include "platform/ThreadPriority.h"
+#include "platform/Threads.h"
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 /// The scanning half of the application model.
@@ -62,17 +61,14 @@ AppModel::ScanResult AppModel::scanned(ScanEngine& engine)
     ScanResult result;
     const std::stop_token stop = engine.flag().token();
     const auto measure = [&result, stop] { result.breakdown = StorageBreakdown::compute(stop); };
-    std::jthread measuring;
-    try {
-        measuring = std::jthread(measure);
-    } catch (const std::system_error&) {
-        measure();
-    }
+    auto measuring = Threads::start("orlen-storage", [&](const std::stop_token&) { measure(); });
     std::vector<Finding> raw = engine.run();
     if (!stop.stop_requested())
         result.findings = Rater::rate(std::move(raw));
-    if (measuring.joinable())
-        measuring.join();
+    if (measuring)
+        measuring->join();
+    else
+        measure();
     return result;
 }
 
@@ -86,6 +82,7 @@ void AppModel::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult 
     }
     std::stable_sort(result.findings.begin(), result.findings.end(), comesBefore);
     m_findings = std::move(result.findings);
+    m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     Q_EMIT findingsChanged();
     setSelection(preselected(m_findings));
     m_breakdownStored = ++m_breakdownsStarted;

@@ -127,8 +127,10 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
     const Process::Outcome outcome = orlen({"scan", "--json"});
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     const Json scan = outcome.document();
-    EXPECT_THAT(keys(scan), ElementsAre("findings", "selection", "totalFound", "safeBytes", "breakdown",
-                                        "filesExamined", "steps", "fullDiskAccess", "date", "seconds"));
+    EXPECT_THAT(keys(scan),
+                ElementsAre("findings", "unreadable", "selection", "totalFound", "safeBytes", "breakdown",
+                            "filesExamined", "steps", "fullDiskAccess", "date", "seconds"));
+    EXPECT_EQ(scan["unreadable"], Json::array());
     EXPECT_THAT(keys(scan["findings"][0]),
                 ElementsAre("kind", "title", "explanation", "symbol", "category", "rating", "reason",
                             "cleanable", "size", "safeSize", "items"));

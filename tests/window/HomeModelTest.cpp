@@ -158,6 +158,13 @@ TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
     EXPECT_EQ(model.totalText(), "69.6 MB") << "the Trash does not count";
     EXPECT_EQ(model.selectedText(), "3 items");
     EXPECT_FALSE(model.lastScanText().isEmpty());
+    EXPECT_EQ(model.unreadableText(), "");
+    for (const char* name : {"Documents/one", "Documents/two"})
+        TempHome::setMode(home.folder(name), 0);
+    app.resetToIdle();
+    scan(app);
+    EXPECT_EQ(model.unreadableText(), "2 folders could not be read");
+    EXPECT_EQ(model.unreadableFolders(), "~/Documents/one\n~/Documents/two");
     app.resetToIdle();
     EXPECT_EQ(model.phase(), HomeModel::Idle);
     app.showResults();

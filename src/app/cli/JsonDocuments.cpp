@@ -110,6 +110,7 @@ Json scan(const AppModel& model, Seconds duration)
         findings.push_back(finding(found));
     return {
         {"findings", std::move(findings)},
+        {"unreadable", Json(model.unreadableFolders().paths)},
         {"selection", Json(model.selection())},
         {"totalFound", model.totalFound()},
         {"safeBytes", model.safeBytes()},

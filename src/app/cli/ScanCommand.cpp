@@ -10,11 +10,14 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 namespace orlen {
 
 namespace {
 
 constexpr std::size_t kEntriesShown = 3;
+constexpr std::size_t kFoldersShown = 3;
 
 using Seconds = std::chrono::duration<double>;
 
@@ -34,6 +37,21 @@ std::string figures(const AppModel& model, Seconds duration)
            Texts::duration(duration.count());
 }
 
+/// How many folders could not be read, and the first of them.
+std::string unreadableLines(const AppModel& model, const Colours& colours)
+{
+    const AppModel::Unreadable& unreadable = model.unreadableFolders();
+    if (unreadable.count == 0)
+        return {};
+    std::string text = '\n' + Texts::counted(unreadable.count, "folder").append(Texts::kUnreadable) + '\n';
+    const std::size_t shown = std::min(kFoldersShown, unreadable.paths.size());
+    for (std::size_t i = 0; i < shown; ++i)
+        text += colours.styled(Style::dim, "  " + Texts::shownPath(unreadable.paths[i])) + '\n';
+    if (const std::int64_t left = unreadable.count - static_cast<std::int64_t>(shown); left > 0)
+        text += colours.styled(Style::dim, "  … and " + Texts::grouped(left) + " more") + '\n';
+    return text;
+}
+
 void printResults(const AppModel& model, Seconds duration)
 {
     const Colours colours = Session::colours();
@@ -43,6 +61,7 @@ void printResults(const AppModel& model, Seconds duration)
         text.append(Texts::kNothingFound).append("\n");
     else
         text += FindingTable::of(model.findings(), kEntriesShown).text(colours, Session::width());
+    text += unreadableLines(model, colours);
     if (!model.isFdaGranted())
         text.append("\n").append(Texts::kNoFullAccess).append("\n");
     if (model.safeBytes() > 0)

@@ -50,6 +50,8 @@ QtObject {
     readonly property string nothingSafe: "Nothing is rated Safe right now"
     readonly property string reviewInTotal: "%1 you could review in total"
     readonly property string scannedWithoutAccess: "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned."
+    readonly property string showFolders: "Show folders"
+    readonly property string hideFolders: "Hide folders"
     readonly property string resultsFooter: "Safe, Review and Keep are suggestions from rules and on-device analysis. They can be wrong, so look before you clean. Nothing is permanently deleted: items move to the Trash and can be restored from History."
     readonly property string reviewAndClean: "Review & Clean…"
     readonly property string largeFilesFrom: "Large files from"

@@ -1,6 +1,7 @@
 #include "HomeModel.h"
 
 #include "DisplayText.h"
+#include "app/cli/Texts.h"
 
 #include <algorithm>
 #include <array>
@@ -66,6 +67,23 @@ QString HomeModel::safeText() const
 QString HomeModel::totalText() const
 {
     return DisplayText::size(m_totalBytes);
+}
+
+QString HomeModel::unreadableText() const
+{
+    const std::int64_t count = m_app == nullptr ? 0 : m_app->unreadableFolders().count;
+    return count == 0 ? QString()
+                      : DisplayText::text(Texts::counted(count, "folder").append(Texts::kUnreadable));
+}
+
+QString HomeModel::unreadableFolders() const
+{
+    QStringList lines;
+    if (m_app != nullptr) {
+        for (const std::string& path : m_app->unreadableFolders().paths)
+            lines << DisplayText::shortPath(path);
+    }
+    return lines.join('\n');
 }
 
 QString HomeModel::lastScanText() const

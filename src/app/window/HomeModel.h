@@ -22,6 +22,9 @@ class HomeModel : public QObject {
     /// Bytes rated Safe, and of everything that could be reviewed.
     Q_PROPERTY(QString safeText READ safeText NOTIFY resultsChanged)
     Q_PROPERTY(QString totalText READ totalText NOTIFY resultsChanged)
+    /// "12 folders could not be read", empty when all could; and the first of them, one on each line.
+    Q_PROPERTY(QString unreadableText READ unreadableText NOTIFY resultsChanged)
+    Q_PROPERTY(QString unreadableFolders READ unreadableFolders NOTIFY resultsChanged)
     /// When the last scan ended; empty before the first.
     Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY lastScanChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
@@ -46,6 +49,8 @@ public:
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
     [[nodiscard]] QString safeText() const;
     [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString unreadableText() const;
+    [[nodiscard]] QString unreadableFolders() const;
     [[nodiscard]] QString lastScanText() const;
     [[nodiscard]] bool hasSelection() const;
     [[nodiscard]] QString selectedText() const;

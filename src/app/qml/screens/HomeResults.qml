@@ -69,6 +69,13 @@ Item {
                     text: Strings.scannedWithoutAccess
                 }
 
+                UnreadableFolders {
+                    width: Math.min(parent.width, 760 * Theme.textScale)
+                    visible: root.home.unreadableText !== ""
+                    text: root.home.unreadableText
+                    folders: root.home.unreadableFolders
+                }
+
                 Note {
                     width: Math.min(parent.width, 760 * Theme.textScale)
                     text: Strings.resultsFooter

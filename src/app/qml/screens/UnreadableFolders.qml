@@ -1,0 +1,40 @@
+import QtQuick
+import Orlen.App
+
+/// How many folders a scan could not read, and which on request.
+Column {
+    id: root
+
+    required property string text
+    /// One on each line.
+    required property string folders
+
+    property bool open: false
+
+    spacing: 4
+
+    Note {
+        width: parent.width
+        text: root.text
+    }
+
+    AppButton {
+        x: 12
+        objectName: "showUnreadable"
+        quiet: true
+        text: root.open ? Strings.hideFolders : Strings.showFolders
+        onClicked: root.open = !root.open
+    }
+
+    Text {
+        objectName: "unreadableFolders"
+        leftPadding: 22
+        width: parent.width
+        visible: root.open
+        text: root.folders
+        textFormat: Text.PlainText
+        wrapMode: Text.WrapAnywhere
+        color: Theme.secondary
+        font.pixelSize: Theme.captionSize
+    }
+}
