@@ -6,6 +6,11 @@
 /// The sentences of the application model. Pure.
 namespace orlen::AppTexts {
 
+/// Where a command or the window ends before it has begun.
+inline constexpr std::string_view kSilentHome =
+    "the home folder lies on a network disk that does not answer; try again when it does.";
+inline constexpr std::string_view kSilentTrash =
+    "the Trash or the history lies on a network disk that does not answer, so nothing was moved.";
 inline constexpr std::string_view kScanPlanTitle = "Smart Scan clean-up";
 
 /// A file of the program's own in the words of a sentence.

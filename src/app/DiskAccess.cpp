@@ -27,12 +27,12 @@ std::string followed(const std::string& folder)
 }
 
 /// Whether nothing is there: no entry of that name, no folder that could hold it, or a link to nothing. Not
-/// what is only out of reach.
+/// what is only out of reach; but a place that does not answer says nothing about what the program may do.
 bool isMissing(const std::string& path)
 {
     const auto end = linkEnd(path);
     const int error = end.ok() ? statusOf(end.value()).error() : end.error();
-    return error == ENOENT || error == ENOTDIR || error == ELOOP;
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ETIMEDOUT;
 }
 
 bool isListableOrMissing(const std::string& folder)

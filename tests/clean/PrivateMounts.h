@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/UniqueFd.h"
+
 #include <string>
 #include <vector>
 
@@ -21,12 +23,15 @@ public:
     [[nodiscard]] bool bind(const std::string& source, const std::string& target);
     /// Mounts a file system in memory of so many bytes.
     [[nodiscard]] bool memory(std::size_t bytes, const std::string& target);
+    /// Mounts a file system that never answers, as of a server that is gone.
+    [[nodiscard]] bool dead(const std::string& target);
     /// Mounts a fresh ext4 file system from the image file `image`, which is made.
     [[nodiscard]] bool disk(const std::string& image, const std::string& target);
 
 private:
     std::string m_obstacle;
     std::vector<std::string> m_targets;
+    std::vector<UniqueFd> m_silent; ///< where the requests of dead mounts gather that nobody takes
 };
 
 } // namespace orlen

@@ -1,9 +1,12 @@
 #include "app/cli/CommandLine.h"
 
+#include "app/AppTexts.h"
 #include "app/cli/CageText.h"
 #include "app/cli/Command.h"
 #include "app/cli/Texts.h"
 #include "platform/PathText.h"
+#include "platform/Places.h"
+#include "platform/Reachability.h"
 #include "platform/images/ImageWorkers.h"
 
 #include <CLI/CLI.hpp>
@@ -68,11 +71,27 @@ ExitStatus wrongCall(Session& session, const CLI::App& parser, const CLI::ParseE
     return ExitStatus::wrongCall;
 }
 
+void tellOfSilence(Session& session)
+{
+    for (const Reachability::LeftOut& mount : Reachability::leftOut()) {
+        if (mount.reason == Reachability::LeftOut::Reason::silent)
+            session.complain(
+                Texts::shownPath(Places::current().normalized(mount.point)).append(Texts::kIsSilent));
+    }
+}
+
 ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vector<Registered>& commands)
 {
     for (const Registered& candidate : commands) {
-        if (candidate.parser->parsed())
-            return candidate.command->run(session);
+        if (!candidate.parser->parsed())
+            continue;
+        if (Places::current().isHomeSilent) {
+            session.complain(AppTexts::kSilentHome);
+            return ExitStatus::wrongCall;
+        }
+        const ExitStatus status = candidate.command->run(session);
+        tellOfSilence(session);
+        return status;
     }
     session.complain(Texts::kNoWindow);
     session.note('\n' + parser.help());

@@ -3,6 +3,7 @@
 #include "platform/Folder.h"
 #include "platform/PathText.h"
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 
 namespace orlen::PathArgument {
 
@@ -16,6 +17,8 @@ std::string absolute(const std::string& argument)
 
 std::string readableFolder(const std::string& argument)
 {
+    if (!Reachability::admit(argument).ok())
+        return {};
     const std::string folder = resolved(argument);
     if (folder.empty() || !isListable(folder))
         return {};

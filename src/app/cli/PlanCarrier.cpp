@@ -1,9 +1,12 @@
 #include "app/cli/PlanCarrier.h"
 
 #include "app/AppModel.h"
+#include "app/AppTexts.h"
 #include "app/cli/FailureList.h"
 #include "app/cli/JsonDocuments.h"
 #include "app/cli/Texts.h"
+#include "clean/Persist.h"
+#include "clean/trash/Trash.h"
 #include "model/ByteCount.h"
 #include "platform/PathText.h"
 
@@ -71,6 +74,10 @@ ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanP
         return ExitStatus::done;
     }
     list.show(session);
+    if (!Trash::isReachable() || !Persist::isReachable()) {
+        session.complain(AppTexts::kSilentTrash);
+        return ExitStatus::wrongCall;
+    }
     if (const auto refused =
             Confirmation::refusal(session, asking, "Move " + list.summary() + " to the Trash?"))
         return *refused;

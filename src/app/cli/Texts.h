@@ -30,6 +30,8 @@ inline constexpr std::string_view kOtherWriter =
     "another Orlen is open and keeps the history; close it and try again.";
 inline constexpr std::string_view kUnusableHome =
     "the home folder is missing or belongs to somebody else, so nothing in it is scanned or moved.";
+inline constexpr std::string_view kIsSilent =
+    " lies on a network disk that does not answer; what it holds was left out.";
 inline constexpr std::string_view kNothingToClean = "Nothing is selected, so there is nothing to move.";
 inline constexpr std::string_view kNothingCleaned = "Nothing cleaned yet.";
 inline constexpr std::string_view kHowToRestore = "`orlen restore RECORD` puts the items of a clean-up back.";

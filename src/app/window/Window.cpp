@@ -8,9 +8,12 @@
 #include "SymbolProvider.h"
 #include "Thumbnails.h"
 #include "WindowTexts.h"
+#include "app/AppTexts.h"
 #include "app/desktop/RunningInstance.h"
 #include "platform/Interrupts.h"
+#include "platform/LibraryFolders.h"
 #include "platform/OwnProgram.h"
+#include "platform/Places.h"
 #include "platform/SessionBus.h"
 
 #include <QFont>
@@ -31,6 +34,8 @@ namespace orlen::Window {
 namespace {
 
 constexpr int kTextPixels = 14;
+/// Exit status, as that of a command.
+constexpr int kRefused = 2;
 
 bool isSet(const char* name)
 {
@@ -113,6 +118,11 @@ int run(int argc, char** argv)
 {
     SessionBus::startNone();
     Interrupts interrupts;
+    if (Places::current().isHomeSilent) {
+        std::fprintf(stderr, "orlen: %s\n", AppTexts::kSilentHome.data());
+        return kRefused;
+    }
+    LibraryFolders::leaveOutSilent(Places::current());
     const LaunchToken token = LaunchToken::fromEnvironment();
     const auto application = GuiStart::makeApplication(argc, argv);
     prepare();
