@@ -72,6 +72,8 @@ AppModel::AppModel(const Options& options, QObject* parent)
     }
     load();
     m_isFdaGranted = checkFDA();
+    // Before anyone else hears of other findings.
+    connect(this, &AppModel::findingsChanged, this, [this] { m_listed.reset(); });
     if (m_options.startup == Startup::full)
         startUp();
 }
@@ -191,6 +193,7 @@ Prediction AppModel::prediction() const
 
 void AppModel::setSelection(std::set<std::string> selection)
 {
+    PathSelection::addInside(selection, listed());
     assign(m_selection, std::move(selection), &AppModel::selectionChanged);
 }
 
@@ -198,7 +201,8 @@ void AppModel::select(std::span<const std::string> paths)
 {
     checkThread();
     const std::size_t before = m_selection.size();
-    m_selection.insert(paths.begin(), paths.end());
+    for (const std::string& path : paths)
+        PathSelection::tick(m_selection, listed(), path);
     if (m_selection.size() != before)
         Q_EMIT selectionChanged();
 }
@@ -208,9 +212,16 @@ void AppModel::deselect(std::span<const std::string> paths)
     checkThread();
     const std::size_t before = m_selection.size();
     for (const std::string& path : paths)
-        m_selection.erase(path);
+        PathSelection::untick(m_selection, listed(), path);
     if (m_selection.size() != before)
         Q_EMIT selectionChanged();
+}
+
+const PathTree& AppModel::listed() const
+{
+    if (!m_listed)
+        m_listed = PathSelection::listedIn(m_findings);
+    return *m_listed;
 }
 
 void AppModel::setSheet(std::optional<SheetKind> sheet)

@@ -8,6 +8,7 @@
 #include "insight/Predictor.h"
 #include "model/Finding.h"
 #include "model/ModelState.h"
+#include "model/PathSelection.h"
 #include "platform/FolderLock.h"
 #include "platform/Time.h"
 #include "platform/images/ImageWorkers.h"
@@ -74,7 +75,8 @@ public:
     [[nodiscard]] Phase phase() const { return m_phase; }
     /// Of the last scan, in display order: most Safe bytes first, then most bytes.
     [[nodiscard]] const std::vector<Finding>& findings() const { return m_findings; }
-    /// Paths of the entries that the user has chosen to clean.
+    /// Paths of the entries that the user has chosen to clean: with a folder also what the findings list
+    /// inside it, as that goes along.
     [[nodiscard]] const std::set<std::string>& selection() const { return m_selection; }
     [[nodiscard]] const std::optional<SheetKind>& sheet() const { return m_sheet; }
     /// Nothing while no clean-up is shown.
@@ -103,8 +105,9 @@ public:
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
 
     void setSelection(std::set<std::string> selection);
-    /// Adds paths to the selection, or takes them out, at the cost of those paths alone. One
-    /// `selectionChanged` tells of all of them, and none when nothing changes.
+    /// Adds paths to the selection, or takes them out together with the folders that would take them along,
+    /// at the cost of those paths alone. One `selectionChanged` tells of all of them, and none when nothing
+    /// changes.
     void select(std::span<const std::string> paths);
     void deselect(std::span<const std::string> paths);
     void setSheet(std::optional<SheetKind> sheet);
@@ -141,8 +144,12 @@ public:
     [[nodiscard]] std::int64_t safeBytes() const;
     /// The findings of the five photo kinds.
     [[nodiscard]] std::vector<Finding> photoFindings() const;
-    /// Bytes of the finding's selected entries.
+    /// Bytes of the finding's selected entries; what lies in another one of them counts once.
     [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
+    /// What a clean-up of the whole selection would move: each path once, in however many findings it is.
+    [[nodiscard]] PathSelection::Amount selectedAmount() const;
+    /// The paths that can be selected.
+    [[nodiscard]] const PathTree& listed() const;
     /// The plan of the current selection: one section for each cleanable finding, without protected paths.
     [[nodiscard]] CleanPlan scanPlan() const;
     /// The growth forecast from the snapshots.
@@ -150,8 +157,8 @@ public:
     /// What a question about the storage is answered from.
     [[nodiscard]] AskContext askContext() const;
 
-    /// Moves the plan's entries whose path is in `selected` to the Trash; closes the sheet. Nothing more
-    /// happens when none is left. Only for a writer.
+    /// Moves the plan's entries whose path is in `selected` to the Trash, by the rules of `PathSelection`;
+    /// closes the sheet. Nothing more happens when none is left. Only for a writer.
     void confirm(const CleanPlan& plan, const std::set<std::string>& selected);
     /// Lets the clean-up finish the item in hand and end; ignored when none is running.
     Q_INVOKABLE void cancelCleaning();
@@ -241,6 +248,7 @@ private:
     bool m_isBreakdownReady = false;
     Phase m_phase = Phase::idle;
     std::vector<Finding> m_findings;
+    mutable std::optional<PathTree> m_listed; ///< of these findings; made when first needed
     std::set<std::string> m_selection;
     std::optional<SheetKind> m_sheet;
     std::optional<CleaningState> m_cleaning;

@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 
 #include "clean/History.h"
+#include "model/PathSelection.h"
 
 #include <QTimer>
 
@@ -16,22 +17,12 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kReportInterval{66};
 
-std::vector<FileEntry> chosen(const CleanPlan& plan, const std::set<std::string>& selected)
-{
-    std::vector<FileEntry> entries;
-    for (const PlanSection& section : plan.sections) {
-        std::copy_if(section.entries.begin(), section.entries.end(), std::back_inserter(entries),
-                     [&](const FileEntry& entry) { return selected.contains(entry.path); });
-    }
-    return entries;
-}
-
 } // namespace
 
 void AppModel::confirm(const CleanPlan& plan, const std::set<std::string>& selected)
 {
     checkWriter();
-    std::vector<FileEntry> entries = chosen(plan, selected);
+    std::vector<FileEntry> entries = PathSelection::moving(plan, selected);
     // The plan may belong to the sheet that closes here.
     const std::string title = plan.title;
     setSheet(std::nullopt);

@@ -26,6 +26,16 @@ bool comesBefore(const Finding& a, const Finding& b)
     return left > right;
 }
 
+std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<std::string>& selection)
+{
+    std::vector<const FileEntry*> entries;
+    for (const FileEntry& entry : finding.items) {
+        if (selection.contains(entry.path))
+            entries.push_back(&entry);
+    }
+    return entries;
+}
+
 bool isPhotoKind(FindingKind kind)
 {
     return kind >= FindingKind::photoDuplicates;
@@ -104,6 +114,8 @@ std::set<std::string> AppModel::preselected(const std::vector<Finding>& findings
                 paths.insert(entry.path);
         }
     }
+    // A folder would take along what is not to be chosen without a look.
+    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
     return paths;
 }
 
@@ -153,12 +165,17 @@ std::vector<Finding> AppModel::photoFindings() const
 
 std::int64_t AppModel::selectedSize(const Finding& finding) const
 {
-    std::int64_t sum = 0;
-    for (const FileEntry& entry : finding.items) {
-        if (m_selection.contains(entry.path))
-            sum = checkedAdd(sum, entry.size);
+    return PathSelection::sizeOf(selectedIn(finding, m_selection), listed());
+}
+
+PathSelection::Amount AppModel::selectedAmount() const
+{
+    std::vector<const FileEntry*> entries;
+    for (const Finding& finding : m_findings) {
+        if (finding.cleanable)
+            std::ranges::copy(selectedIn(finding, m_selection), std::back_inserter(entries));
     }
-    return sum;
+    return PathSelection::amountOf(std::move(entries));
 }
 
 CleanPlan AppModel::scanPlan() const

@@ -1,5 +1,7 @@
 #include "app/cli/CleanChoice.h"
 
+#include "app/cli/ItemList.h"
+
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -27,9 +29,10 @@ std::vector<Finding> findings(const TempHome& home)
                                          entry(home, ".cache/c", Rating::keep)});
     caches.rating = Rating::safe;
     Finding downloads(FindingKind::oldDownloads, {entry(home, "Downloads/both"), entry(home, "Downloads/d")});
+    Finding large(FindingKind::largeFiles, {entry(home, "f"), entry(home, "f/kept", Rating::keep)});
     Finding duplicates(FindingKind::duplicates, {entry(home, "Downloads/both")});
     Finding trash(FindingKind::trash, {entry(home, ".local/share/Trash/files/t")});
-    return {caches, downloads, duplicates, trash};
+    return {caches, downloads, duplicates, large, trash};
 }
 
 } // namespace
@@ -49,6 +52,7 @@ TEST(CleanChoiceTest, kindsLimitWhatTheScanSelected)
         {"a kind without entries", {{"logs"}, false, {}}, {}},
         {"all of a kind but what is rated Keep", {{"caches"}, true, {}}, {".cache/a", ".cache/b"}},
         {"all of two kinds", {{"duplicates", "oldDownloads"}, true, {}}, {"Downloads/both", "Downloads/d"}},
+        {"a folder would take along what is rated Keep", {{"largeFiles"}, true, {}}, {}},
         {"all of what never moves", {{"trash"}, true, {}}, {}},
         {"a path, whatever its rating", {{}, false, {home.path(".cache/c")}}, {".cache/c"}},
         {"a path in another spelling", {{}, false, {home.path(".cache/x/..//c/")}}, {".cache/c"}},
@@ -90,6 +94,16 @@ TEST(CleanChoiceTest, aPathThatMayNotMoveStopsEverything)
         EXPECT_EQ(result.objection.find('\n'), std::string::npos);
         EXPECT_THAT(result.paths, IsEmpty());
     }
+}
+
+TEST(ItemListTest, countsWhatMovesOnce)
+{
+    const TempHome home;
+    const FileEntry both = entry(home, "both");
+    CleanPlan plan;
+    plan.sections = {{"oldDownloads", "", "", {both, entry(home, "f")}},
+                     {"duplicates", "", "", {both, entry(home, "f/inside")}}};
+    EXPECT_EQ(ItemList::toClean(plan, ItemList::Beside::nothing).summary(), "2 items (8 KB)");
 }
 
 TEST(CleanChoiceTest, aPathOfTwoFindingsIsPlannedOnlyForTheKindAskedFor)

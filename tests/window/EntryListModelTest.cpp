@@ -158,6 +158,43 @@ TEST_F(EntryListModelTest, theTrashCannotBeSelected)
     EXPECT_EQ(m_list.rowCount(), 0);
 }
 
+TEST(SelectionTest, whatIsTickedIsWhatMoves)
+{
+    const TempHome home;
+    home.fileOfSize("Documents/report.txt", 2'048'000);
+    const std::string both = home.fileOfSize("Downloads/both.txt", 2'048'000);
+    const std::string inside = home.fileOfSize("Downloads/folder/inside.txt", 2'048'000);
+    const std::string folder = home.path("Downloads/folder");
+    const TimePoint old = std::chrono::system_clock::now() - 24h * 90;
+    for (const std::string& path : {both, inside, folder})
+        TempHome::setTimes(path, old, old);
+    AppModel app(kCommand);
+    app.startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    EntryListModel downloads;
+    EntryListModel duplicates;
+    const auto follow = [&](EntryListModel& list, const char* id) {
+        list.setApp(&app);
+        list.setFindingId(QString::fromLatin1(id));
+        ASSERT_EQ(list.rowCount(), 2);
+    };
+    follow(downloads, "oldDownloads");
+    follow(duplicates, "duplicates");
+    downloads.selectShown();
+    EXPECT_EQ(duplicates.selectedCount(), 2) << "ticked in one list, ticked in all";
+    EXPECT_EQ(app.selectedAmount().items, 2);
+    EXPECT_EQ(app.selectedAmount().bytes, app.selectedSize(app.findings()[0]));
+    const std::vector<std::string> one{inside};
+    app.deselect(one);
+    EXPECT_THAT(app.selection(), ElementsAre(both)) << "the folder would take it along";
+    EXPECT_EQ(downloads.selectedCount(), 1);
+    app.setSelection({folder});
+    EXPECT_THAT(app.selection(), ElementsAre(folder, inside));
+    EXPECT_THAT(app.scanPlan().sections, SizeIs(2)) << "everything that goes along is shown";
+    app.confirm(app.scanPlan(), {folder});
+    EXPECT_FALSE(app.cleaning()) << "not while something listed in it is to stay";
+}
+
 TEST(SelectionTest, isAddedToAndTakenFromWithOneSignal)
 {
     const TempHome home;

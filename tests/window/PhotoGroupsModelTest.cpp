@@ -104,6 +104,16 @@ TEST(PhotoSetsTest, onlyTheWholeNoteNamesAKeeper)
     }
 }
 
+TEST(PhotoGroupsModelTest, aPhotoOfTwoGroupsCountsOnce)
+{
+    const TempHome home;
+    Stage stage({shots(2), Finding(FindingKind::blurry, {{"/p/shot0.png", 1000}})}, kShots);
+    stage.groups.toggleAll(kShots);
+    EXPECT_TRUE(stage.groups.selectedText().startsWith("2 photos selected"));
+    stage.groups.toggleAll(QStringLiteral("blurry"));
+    EXPECT_TRUE(stage.groups.selectedText().startsWith("1 photo selected"));
+}
+
 TEST(PhotoGroupsModelTest, tellsTheStages)
 {
     const TempHome home;

@@ -94,6 +94,34 @@ TEST_F(PlanModelTest, aFoldedSectionIsStillCheckedAndMoved)
     EXPECT_EQ(m_plan.rowCount(), 4);
 }
 
+TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
+{
+    const FileEntry both = entry("both", 8);
+    const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
+    const FileEntry inside = entry("f/inside", 16);
+    CleanPlan plan;
+    plan.sections.push_back({"oldDownloads", "Old downloads", "", {folder, both}});
+    plan.sections.push_back({"duplicates", "Duplicate files", "", {inside, both}});
+    m_app.setSheet(PlanSheet{plan});
+    EXPECT_EQ(m_plan.checkedCountText(), "2") << "the folder, and what is in both";
+    EXPECT_EQ(m_plan.checkedSizeText(), "49 KB");
+    EXPECT_EQ(shown(PlanModel::Role::size).at(3), "25 KB") << "a section tells of its own";
+    m_plan.toggle(5);
+    EXPECT_EQ(marks(), QStringList({"1", "2", "0", "1", "2", "0"}));
+    EXPECT_EQ(m_plan.checkedCountText(), "1");
+    m_plan.toggle(4);
+    EXPECT_EQ(marks(), QStringList({"0", "0", "0", "0", "0", "0"})) << "the folder would take it along";
+    m_plan.toggle(1);
+    EXPECT_EQ(marks(), QStringList({"1", "2", "0", "1", "2", "0"}));
+    m_plan.toggle(0);
+    m_plan.toggle(4);
+    m_plan.confirm();
+    EXPECT_EQ(m_app.cleaning()->total, 1);
+    ASSERT_TRUE(waitUntil([&] { return m_app.cleaning()->finished; }));
+    EXPECT_FALSE(TempHome::exists(both.path));
+    EXPECT_TRUE(TempHome::exists(inside.path));
+}
+
 TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
 {
     CleaningModel cleaning;

@@ -3,6 +3,7 @@
 #include "app/cli/PathArgument.h"
 #include "app/cli/Texts.h"
 #include "clean/Safety.h"
+#include "model/PathSelection.h"
 
 #include <algorithm>
 
@@ -51,16 +52,19 @@ CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
     if (!paths.empty())
         return exactPaths(findings);
     Result result;
+    std::vector<std::string_view> candidates;
     for (const Finding& finding : findings) {
         if (!finding.cleanable || !isWanted(finding.id()))
             continue;
         for (const FileEntry& entry : finding.items) {
+            candidates.push_back(entry.path);
             const bool isChosen = allOfKinds ? finding.effectiveRating(entry) != Rating::keep
                                              : preselected.contains(entry.path);
             if (isChosen)
                 result.paths.insert(entry.path);
         }
     }
+    PathSelection::dropOpenFolders(result.paths, PathTree(candidates));
     return result;
 }
 

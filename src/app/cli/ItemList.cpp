@@ -5,11 +5,12 @@
 #include "app/cli/Table.h"
 #include "app/cli/Texts.h"
 #include "model/ByteCount.h"
+#include "model/PathSelection.h"
 #include "platform/CheckedSum.h"
 #include "platform/PathText.h"
 
-#include <set>
-#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace orlen {
 
@@ -45,18 +46,18 @@ ItemList ItemList::toClean(const CleanPlan& plan, Beside beside)
 {
     ItemList list(beside);
     Table table = itemTable();
-    std::set<std::string_view> paths;
+    std::vector<const FileEntry*> entries;
     for (const PlanSection& section : plan.sections) {
         table.addGap();
         table.addLine(0, {section.title, Style::bold});
         for (const FileEntry& entry : section.entries) {
             addEntry(table, entry);
-            if (!paths.insert(entry.path).second)
-                continue;
-            ++list.m_count;
-            list.m_bytes = checkedAdd(list.m_bytes, entry.size);
+            entries.push_back(&entry);
         }
     }
+    const PathSelection::Amount amount = PathSelection::amountOf(std::move(entries));
+    list.m_count = amount.items;
+    list.m_bytes = amount.bytes;
     list.m_text = list.m_colours.styled(Style::bold, PathText::forDisplay(plan.title)) + '\n' +
                   table.text(list.m_colours, std::nullopt);
     return list;

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] static ItemList toRestore(const CleanRecord& record, Beside beside);
 
     [[nodiscard]] bool isEmpty() const { return m_count == 0; }
-    /// "12 items (3.1 GB)"; an item that is listed twice counts once.
+    /// "12 items (3.1 GB)"; an item that is listed twice, or lies in another one, counts once.
     [[nodiscard]] std::string summary() const;
     void show(Session& session) const;
 

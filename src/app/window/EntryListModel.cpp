@@ -6,7 +6,6 @@
 #include "Reveal.h"
 #include "SheetTexts.h"
 #include "Thumbnails.h"
-#include "platform/CheckedSum.h"
 
 #include <QScopedValueRollback>
 
@@ -264,7 +263,8 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
         m_isSelected[entryIndex(row)] = isSelected;
     }
     {
-        const QScopedValueRollback selecting(m_isSelecting, true);
+        // Where folders are listed with what lies in them, other rows change too.
+        const QScopedValueRollback selecting(m_isSelecting, !m_app->listed().isNested());
         if (isSelected)
             m_app->select(paths);
         else
@@ -276,16 +276,15 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
 
 void EntryListModel::count()
 {
-    m_selectedCount = 0;
-    m_selectedBytes = 0;
+    std::vector<const FileEntry*> selected;
     m_hasNotes = false;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         m_hasNotes = m_hasNotes || m_entries[i].note.has_value();
-        if (!m_isSelected[i])
-            continue;
-        ++m_selectedCount;
-        m_selectedBytes = checkedAdd(m_selectedBytes, m_entries[i].size);
+        if (m_isSelected[i])
+            selected.push_back(&m_entries[i]);
     }
+    m_selectedCount = static_cast<int>(selected.size());
+    m_selectedBytes = selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app->listed());
     const auto isSelected = [this](int entry) { return m_isSelected[static_cast<std::size_t>(entry)]; };
     m_shownCount = static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isSelected));
     Q_EMIT figuresChanged();

@@ -31,14 +31,15 @@ void HomeModel::setApp(AppModel* app)
         connect(m_app, &AppModel::phaseChanged, this, &HomeModel::phaseChanged);
         connect(m_app, &AppModel::findingsChanged, this, &HomeModel::countResults);
         connect(m_app, &AppModel::lastScanChanged, this, &HomeModel::lastScanChanged);
-        connect(m_app, &AppModel::selectionChanged, this, &HomeModel::selectionChanged);
+        connect(m_app, &AppModel::selectionChanged, this, &HomeModel::countSelection);
+        connect(m_app, &AppModel::sheetChanged, this, &HomeModel::countSelection);
         connect(m_app, &AppModel::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);
     }
     countResults();
+    countSelection();
     Q_EMIT appChanged();
     Q_EMIT phaseChanged();
     Q_EMIT lastScanChanged();
-    Q_EMIT selectionChanged();
     Q_EMIT thresholdChanged();
 }
 
@@ -47,6 +48,15 @@ void HomeModel::countResults()
     m_safeBytes = m_app == nullptr ? 0 : m_app->safeBytes();
     m_totalBytes = m_app == nullptr ? 0 : m_app->totalFound();
     Q_EMIT resultsChanged();
+}
+
+void HomeModel::countSelection()
+{
+    // A sheet covers the figure while its entries are checked one by one, perhaps in a list of 100,000.
+    if (m_app != nullptr && m_app->sheet())
+        return;
+    m_selectedCount = m_app == nullptr ? 0 : m_app->selectedAmount().items;
+    Q_EMIT selectionChanged();
 }
 
 HomeModel::Phase HomeModel::phase() const
@@ -98,7 +108,7 @@ bool HomeModel::hasSelection() const
 
 QString HomeModel::selectedText() const
 {
-    return DisplayText::items(m_app == nullptr ? 0 : static_cast<std::int64_t>(m_app->selection().size()));
+    return DisplayText::items(m_selectedCount);
 }
 
 QStringList HomeModel::thresholds()

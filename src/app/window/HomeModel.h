@@ -28,7 +28,7 @@ class HomeModel : public QObject {
     /// When the last scan ended; empty before the first.
     Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY lastScanChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
-    /// "12 items"
+    /// "12 items", each path once; stands still behind a sheet.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
     /// Sizes from which a file may count as large, and which of them does; -1 for another one.
     Q_PROPERTY(QStringList thresholds READ thresholds CONSTANT)
@@ -72,10 +72,12 @@ Q_SIGNALS:
 
 private:
     void countResults();
+    void countSelection();
 
     AppModel* m_app = nullptr;
     std::int64_t m_safeBytes = 0;
     std::int64_t m_totalBytes = 0;
+    std::int64_t m_selectedCount = 0;
 };
 
 } // namespace orlen

@@ -161,12 +161,15 @@ void PhotoGroupsModel::setShownGroup(const QString& findingId)
 
 QString PhotoGroupsModel::selectedText() const
 {
-    Selected all;
-    for (const Selected& selected : m_selected) {
-        all.count += selected.count;
-        all.bytes = checkedAdd(all.bytes, selected.bytes);
+    std::vector<const FileEntry*> selected;
+    for (const Finding& finding : m_findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (m_app != nullptr && m_app->selection().contains(entry.path))
+                selected.push_back(&entry);
+        }
     }
-    return selectedPhotos(all.count, all.bytes);
+    const PathSelection::Amount amount = PathSelection::amountOf(std::move(selected));
+    return selectedPhotos(static_cast<int>(amount.items), amount.bytes);
 }
 
 void PhotoGroupsModel::toggleAll(const QString& findingId)

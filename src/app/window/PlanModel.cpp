@@ -7,10 +7,8 @@
 #include "SheetTexts.h"
 #include "Thumbnails.h"
 #include "model/FindingKind.h"
-#include "platform/CheckedSum.h"
 
 #include <algorithm>
-#include <set>
 
 namespace orlen {
 
@@ -68,6 +66,7 @@ void PlanModel::show(const CleanPlan& plan)
 {
     beginResetModel();
     m_plan = plan;
+    m_ticks = PlanTicks(plan);
     m_rows.clear();
     m_states.clear();
     m_entryCount = 0;
@@ -77,20 +76,19 @@ void PlanModel::show(const CleanPlan& plan)
         const int entries = static_cast<int>(section.entries.size());
         for (int entry = kHeading; entry < entries; ++entry)
             m_rows.push_back({number, entry});
-        m_states.push_back({std::vector<bool>(section.entries.size(), true), entries, sizeOf(section.entries),
-                            false, findingRating(section.id)});
+        m_states.push_back({false, findingRating(section.id)});
         m_entryCount += entries;
         m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
                                                [](const FileEntry& entry) { return entry.note.has_value(); });
     }
     endResetModel();
     Q_EMIT planChanged();
-    count();
+    Q_EMIT figuresChanged();
 }
 
 QString PlanModel::title() const
 {
-    return m_plan ? DisplayText::text(m_plan->title) : QString();
+    return m_plan ? DisplayText::path(m_plan->title) : QString();
 }
 
 void PlanModel::toggle(int row)
@@ -98,16 +96,12 @@ void PlanModel::toggle(int row)
     if (!hasRow(row))
         return;
     const auto [number, entry] = at(row);
-    if (entry == kHeading) {
-        setSectionChecked(number, checkState(at(row)) != Qt::Checked);
-        Q_EMIT dataChanged(index(row), index(row + shownEntries(number)));
-    } else {
-        setChecked(number, entry, !state(number).isChecked[place(entry)]);
-        const int heading = headingOf(row);
-        Q_EMIT dataChanged(index(row), index(row));
-        Q_EMIT dataChanged(index(heading), index(heading));
-    }
-    count();
+    const bool isChecked = checkState(at(row)) != Qt::Checked;
+    if (entry == kHeading)
+        m_ticks.setSection(place(number), isChecked);
+    else
+        m_ticks.set(place(number), place(entry), isChecked);
+    followTicks();
 }
 
 void PlanModel::checkAll()
@@ -124,33 +118,17 @@ void PlanModel::setAllChecked(bool isChecked)
 {
     if (m_rows.empty())
         return;
-    for (std::size_t number = 0; number < m_states.size(); ++number)
-        setSectionChecked(static_cast<int>(number), isChecked);
-    Q_EMIT dataChanged(index(0), index(rowCount() - 1));
-    count();
+    m_ticks.setAll(isChecked);
+    followTicks();
 }
 
-void PlanModel::setSectionChecked(int number, bool isChecked)
+/// Rows of other sections may show the same path, or what lies in it.
+void PlanModel::followTicks()
 {
-    for (std::size_t entry = 0; entry < section(number).entries.size(); ++entry)
-        setChecked(number, static_cast<int>(entry), isChecked);
-}
-
-int PlanModel::shownEntries(int number) const
-{
-    return state(number).isFolded ? 0 : static_cast<int>(section(number).entries.size());
-}
-
-void PlanModel::setChecked(int number, int entry, bool isChecked)
-{
-    SectionState& changed = state(number);
-    if (changed.isChecked[place(entry)] == isChecked)
-        return;
-    changed.isChecked[place(entry)] = isChecked;
-    const std::int64_t bytes = section(number).entries[place(entry)].size;
-    changed.checkedCount += isChecked ? 1 : -1;
-    changed.checkedBytes =
-        isChecked ? checkedAdd(changed.checkedBytes, bytes) : checkedSubtract(changed.checkedBytes, bytes);
+    Q_EMIT dataChanged(
+        index(0), index(rowCount() - 1),
+        {static_cast<int>(Role::mark), static_cast<int>(Role::folder), static_cast<int>(Role::size)});
+    Q_EMIT figuresChanged();
 }
 
 void PlanModel::fold(int row)
@@ -191,30 +169,19 @@ int PlanModel::headingOf(int row) const
     return row - at(row).entry - 1;
 }
 
-void PlanModel::count()
-{
-    m_checkedCount = 0;
-    m_checkedBytes = 0;
-    for (const SectionState& counted : m_states) {
-        m_checkedCount += counted.checkedCount;
-        m_checkedBytes = checkedAdd(m_checkedBytes, counted.checkedBytes);
-    }
-    Q_EMIT figuresChanged();
-}
-
 QString PlanModel::checkedCountText() const
 {
-    return DisplayText::number(m_checkedCount);
+    return DisplayText::number(checkedCount());
 }
 
 QString PlanModel::checkedSizeText() const
 {
-    return DisplayText::size(m_checkedBytes);
+    return DisplayText::size(m_ticks.amount().bytes);
 }
 
 bool PlanModel::isConfirmable() const
 {
-    return m_checkedCount > 0 && m_app->isWriter();
+    return checkedCount() > 0 && m_app->isWriter();
 }
 
 const PlanSection& PlanModel::section(int number) const
@@ -236,12 +203,13 @@ const FileEntry* PlanModel::entryAt(int row) const
 
 Qt::CheckState PlanModel::checkState(const Row& row) const
 {
-    const SectionState& of = state(row.section);
+    const std::size_t number = place(row.section);
     if (row.entry != kHeading)
-        return of.isChecked[place(row.entry)] ? Qt::Checked : Qt::Unchecked;
-    if (of.checkedCount == 0)
+        return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
+    const int checked = m_ticks.count(number);
+    if (checked == 0)
         return Qt::Unchecked;
-    return place(of.checkedCount) == of.isChecked.size() ? Qt::Checked : Qt::PartiallyChecked;
+    return place(checked) == section(row.section).entries.size() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 int PlanModel::rowCount(const QModelIndex& parent) const
@@ -272,13 +240,13 @@ QVariant PlanModel::data(const QModelIndex& index, int role) const
 QVariant PlanModel::sectionData(int number, Role role) const
 {
     const PlanSection& shown = section(number);
-    const SectionState& of = state(number);
     if (role == Role::name)
-        return DisplayText::text(shown.title);
+        return DisplayText::path(shown.title);
     if (role == Role::folder)
-        return SheetTexts::selectedCount(of.checkedCount, static_cast<std::int64_t>(shown.entries.size()));
+        return SheetTexts::selectedCount(m_ticks.count(place(number)),
+                                         static_cast<std::int64_t>(shown.entries.size()));
     if (role == Role::size)
-        return DisplayText::size(of.checkedBytes);
+        return DisplayText::size(m_ticks.bytes(place(number)));
     if (role == Role::symbol)
         return DisplayText::text(shown.symbol);
     return QString();
@@ -360,15 +328,7 @@ void PlanModel::confirm()
 {
     if (!isConfirmable())
         return;
-    std::set<std::string> checked;
-    for (std::size_t number = 0; number < m_states.size(); ++number) {
-        const std::vector<FileEntry>& entries = m_plan->sections[number].entries;
-        for (std::size_t entry = 0; entry < entries.size(); ++entry) {
-            if (m_states[number].isChecked[entry])
-                checked.insert(entries[entry].path);
-        }
-    }
-    m_app->confirm(*m_plan, checked);
+    m_app->confirm(*m_plan, m_ticks.paths());
 }
 
 } // namespace orlen

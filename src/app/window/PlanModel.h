@@ -2,11 +2,11 @@
 
 #include "FolderTest.h"
 #include "app/AppModel.h"
+#include "model/PlanTicks.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,8 +14,8 @@
 namespace orlen {
 
 /// The plan that waits for confirmation, as rows: each section's heading, followed by its entries unless it
-/// is folded up. All entries are checked at first. Keeps the plan until the next one, so that a sheet that
-/// closes still shows it. Main thread.
+/// is folded up. All entries are checked at first; one that stands in several sections has the same check in
+/// each of them. Keeps the plan until the next one, so that a sheet that closes still shows it. Main thread.
 class PlanModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -25,6 +25,7 @@ class PlanModel : public QAbstractListModel {
     /// Whether any entry has a note.
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
     Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
+    /// What would move: each path once, and nothing that goes along with its folder.
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedCountText READ checkedCountText NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
@@ -57,7 +58,7 @@ public:
     [[nodiscard]] QString title() const;
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
     [[nodiscard]] int entryCount() const { return m_entryCount; }
-    [[nodiscard]] int checkedCount() const { return m_checkedCount; }
+    [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
     [[nodiscard]] QString checkedCountText() const;
     [[nodiscard]] QString checkedSizeText() const;
     [[nodiscard]] bool isConfirmable() const;
@@ -66,8 +67,9 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Checks the row's entry or takes the check away; for a section, all of its entries. As the following
-    /// ones, nothing for a row that is not there.
+    /// Checks the row's entry or takes the check away, for what lies in it and, when it is taken away, for
+    /// the folders that hold it too; for a section, all of its entries. As the following ones, nothing for a
+    /// row that is not there.
     Q_INVOKABLE void toggle(int row);
     Q_INVOKABLE void checkAll();
     Q_INVOKABLE void uncheckAll();
@@ -94,20 +96,14 @@ private:
         int entry = 0; ///< -1: the section's heading
     };
     struct SectionState {
-        std::vector<bool> isChecked; ///< of each entry
-        int checkedCount = 0;
-        std::int64_t checkedBytes = 0;
         bool isFolded = false;
         std::optional<Rating> rating; ///< of entries without one of their own
     };
 
     void follow();
     void show(const CleanPlan& plan);
-    void setChecked(int section, int entry, bool isChecked);
-    void setSectionChecked(int section, bool isChecked);
     void setAllChecked(bool isChecked);
-    [[nodiscard]] int shownEntries(int section) const;
-    void count();
+    void followTicks();
     [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     [[nodiscard]] const PlanSection& section(int number) const;
@@ -121,11 +117,10 @@ private:
 
     AppModel* m_app = nullptr;
     std::optional<CleanPlan> m_plan;
+    PlanTicks m_ticks;
     std::vector<SectionState> m_states; ///< of each section
     std::vector<Row> m_rows;
     int m_entryCount = 0;
-    int m_checkedCount = 0;
-    std::int64_t m_checkedBytes = 0;
     bool m_hasNotes = false;
     FolderTest* m_folders;
 };
