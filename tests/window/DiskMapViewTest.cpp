@@ -1,5 +1,7 @@
 #include "DiskMapView.h"
 
+#include "Reveal.h"
+
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
 
@@ -144,6 +146,21 @@ TEST_F(DiskMapViewTest, saysThatAFolderShowsNothing)
     ASSERT_TRUE(settles());
     EXPECT_TRUE(view.isEmpty());
     EXPECT_FALSE(view.isLocked());
+}
+
+TEST_F(DiskMapViewTest, revealsWhatIsPressedAndNotWhatWasHovered)
+{
+    TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    TempHome::setVariable("PATH", home.folder("bin"));
+    const Reveal reveal;
+    QSignalSpy failures(&reveal, &Reveal::failed);
+    view.load();
+    ASSERT_TRUE(settles());
+    view.movePointer(value(0, DiskMapView::Role::area).toRectF().center());
+    view.revealAt(value(1, DiskMapView::Role::area).toRectF().center());
+    ASSERT_TRUE(waitUntil([&] { return !failures.isEmpty(); }));
+    EXPECT_EQ(failures.first().first().toString(), QString::fromStdString(home.path("Music")));
+    EXPECT_EQ(view.hoverRow(), 1);
 }
 
 TEST_F(DiskMapViewTest, takesPinchesAndTheWheelAlike)

@@ -84,7 +84,7 @@ TEST_F(FindingListModelTest, whatCannotBeCleanedHasNoRating)
     const int trash = rowOf("trash");
     ASSERT_GE(trash, 0);
     EXPECT_FALSE(value(trash, cleanable).toBool());
-    EXPECT_EQ(value(trash, rating).toString(), "");
+    EXPECT_EQ(value(trash, rating).toString(), "review");
     EXPECT_EQ(value(trash, selected).toString(), "");
 }
 

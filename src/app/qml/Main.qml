@@ -30,6 +30,10 @@ T.ApplicationWindow {
         app: AppModel
     }
 
+    Notices {
+        id: theNotices
+    }
+
     Loader {
         anchors.fill: parent
         active: !root.navigation.onboarded
@@ -44,6 +48,7 @@ T.ApplicationWindow {
         sourceComponent: MainView {
             navigation: root.navigation
             storage: root.storage
+            notices: theNotices
         }
     }
 
@@ -69,5 +74,7 @@ T.ApplicationWindow {
         id: shortcuts
     }
 
-    RevealBar {}
+    NoticeBar {
+        notices: theNotices
+    }
 }

@@ -7,6 +7,7 @@ Item {
 
     required property Navigation navigation
     required property StorageModel storage
+    required property Notices notices
 
     Sidebar {
         id: sidebar
@@ -98,13 +99,17 @@ Item {
     Component {
         id: startup
 
-        StartupScreen {}
+        StartupScreen {
+            notices: root.notices
+        }
     }
 
     Component {
         id: history
 
-        HistoryScreen {}
+        HistoryScreen {
+            notices: root.notices
+        }
     }
 
     Component {

@@ -64,7 +64,6 @@ QtObject {
     readonly property string selected: "%1 selected"
     readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
     readonly property string findings: "Findings"
-    readonly property string informational: "For information"
 
     // Finding, review and clean-up
     readonly property string nothingLeft: "Nothing left here."
@@ -74,6 +73,8 @@ QtObject {
     readonly property string movingToTrash: "Moving to the Trash…"
     readonly property string movedToTrash: "%1 moved to the Trash"
     readonly property string couldNotBeMoved: "%1 couldn't be moved"
+    readonly property string notRecorded: "The history could not be saved. Orlen finishes it when it starts again."
+    readonly property string notMoved: "What couldn't be moved"
     readonly property string nothingDeleted: "Nothing was deleted. The space comes back when you empty the Trash in Finder, and you can put everything back from History until then."
     readonly property string filter: "Filter"
     readonly property string clearFilter: "Clear Filter"
@@ -99,7 +100,6 @@ QtObject {
     readonly property string noPreview: "There is no preview for this kind of item."
     readonly property string previewLocked: "This item may not be read, so there is no preview."
     readonly property string previewMissing: "This item is no longer there."
-    readonly property string cannotReveal: "No program could show this item: %1"
     readonly property string copyPath: "Copy Path"
 
     // Smart Photos

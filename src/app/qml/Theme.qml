@@ -36,7 +36,7 @@ QtObject {
     readonly property color safeBase: "#22b566"
     readonly property color reviewBase: "#ff9500"
     readonly property color keepBase: "#3478f6"
-    readonly property real chipOpacity: root.dark ? 0.18 : 0.14
+    readonly property real chipOpacity: 0.14
 
     /// Badges of texts that belong to no category.
     readonly property color welcomeTone: "#3b7bf7"

@@ -29,6 +29,7 @@ void CleaningModel::follow()
     if (!wasShown)
         m_isStopping = false;
     m_state = *m_app->cleaning();
+    m_failures.setFailures(m_state.failures);
     Q_EMIT changed();
 }
 
@@ -48,7 +49,7 @@ double CleaningModel::fraction() const
 
 QString CleaningModel::planTitle() const
 {
-    return DisplayText::text(m_state.planTitle);
+    return DisplayText::path(m_state.planTitle);
 }
 
 QString CleaningModel::current() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FailureListModel.h"
 #include "app/AppModel.h"
 
 #include <QObject>
@@ -27,6 +28,10 @@ class CleaningModel : public QObject {
     Q_PROPERTY(int failed READ failed NOTIFY changed)
     Q_PROPERTY(QString failedText READ failedText NOTIFY changed)
     Q_PROPERTY(QString freedText READ freedText NOTIFY changed)
+    /// What could not be moved; known when finished.
+    Q_PROPERTY(orlen::FailureListModel* failures READ failures CONSTANT)
+    /// Whether the history holds the clean-up.
+    Q_PROPERTY(bool recorded READ isRecorded NOTIFY changed)
     /// Whether the user has asked for the end.
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
 
@@ -45,6 +50,8 @@ public:
     [[nodiscard]] int failed() const { return m_state.failed; }
     [[nodiscard]] QString failedText() const;
     [[nodiscard]] QString freedText() const;
+    [[nodiscard]] FailureListModel* failures() { return &m_failures; }
+    [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }
     [[nodiscard]] bool isStopping() const { return m_isStopping && !m_state.finished; }
 
     /// Ends the clean-up after the item in hand.
@@ -59,6 +66,7 @@ private:
 
     AppModel* m_app = nullptr;
     CleaningState m_state;
+    FailureListModel m_failures;
     bool m_isShown = false;
     bool m_isStopping = false;
 };

@@ -168,6 +168,12 @@ void DiskMapView::removePointer()
     m_map.removePointer();
 }
 
+void DiskMapView::revealAt(QPointF point)
+{
+    movePointer(point);
+    reveal(hoverRow());
+}
+
 void DiskMapView::pinch(double scale)
 {
     // A new pinch starts at 1 again.

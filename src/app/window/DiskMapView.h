@@ -90,6 +90,8 @@ public:
     Q_INVOKABLE void click(QPointF point);
     Q_INVOKABLE void movePointer(QPointF point);
     Q_INVOKABLE void removePointer();
+    /// Shows the item under the point in the file manager, whatever the pointer was over before.
+    Q_INVOKABLE void revealAt(QPointF point);
     /// `scale` of the whole pinch so far, 1 at its beginning.
     Q_INVOKABLE void pinch(double scale);
     /// A turn of the wheel in eighths of a degree, which acts as a pinch.

@@ -114,7 +114,7 @@ QVariant FindingListModel::data(const QModelIndex& index, int role) const
     case Role::tone:
         return DisplayText::colour(meta(row.kind).category);
     case Role::rating:
-        return row.isCleanable ? DisplayText::text(rawValue(row.rating)) : QString();
+        return DisplayText::text(rawValue(row.rating));
     case Role::ratingLabel:
         return DisplayText::text(label(row.rating));
     case Role::ratingSymbol:

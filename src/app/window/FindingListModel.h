@@ -23,7 +23,7 @@ public:
         title,                    ///< text
         symbol,                   ///< icon name
         tone,                     ///< colour of its category
-        rating,                   ///< raw value; empty when nothing can be cleaned
+        rating,                   ///< raw value
         ratingLabel,              ///< word on the chip
         ratingSymbol,             ///< icon name
         size,                     ///< bytes of all entries, as text

@@ -50,6 +50,11 @@ QString couldNotBeMoved(int count)
     return count == 0 ? QString() : QStringLiteral("%1 couldn't be moved").arg(DisplayText::number(count));
 }
 
+QString cannotReveal(const QString& path)
+{
+    return QStringLiteral("No program could show this item: %1").arg(path);
+}
+
 const char* alreadyOpen()
 {
     return "Orlen is open already.";

@@ -4,7 +4,8 @@
 
 #include <cstdint>
 
-/// The sentences that the desktop shows for the window: in the tray, in notices, in a terminal. Pure.
+/// The sentences that stand for the window elsewhere, in the tray, in notices, in a terminal, and those that
+/// it says in passing. Pure.
 namespace orlen::WindowTexts {
 
 [[nodiscard]] QString name();
@@ -19,6 +20,9 @@ namespace orlen::WindowTexts {
 [[nodiscard]] QString moved(int count);
 /// Empty for 0.
 [[nodiscard]] QString couldNotBeMoved(int count);
+
+/// Of a path that is ready to show.
+[[nodiscard]] QString cannotReveal(const QString& path);
 
 [[nodiscard]] const char* alreadyOpen();
 [[nodiscard]] const char* noDisplay();

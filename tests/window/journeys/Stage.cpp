@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QBuffer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QQmlContext>
@@ -129,6 +130,10 @@ void Stage::prepare(QQmlEngine& engine)
     m_model.reset();
     m_home.emplace();
     fillHome();
+    // No file manager answers, and no program opens a folder.
+    TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    TempHome::setMode(m_home->file(m_home->outside("bin/xdg-open"), "#!/bin/sh\nexit 3\n"), 0755);
+    TempHome::setVariable("PATH", m_home->outside("bin") + ":/usr/bin:/bin");
     TempHome::reloadPlaces();
     QSettings().clear();
     AppModel::Options options;
@@ -189,6 +194,29 @@ void Stage::link(const QString& name, const QString& target) const
 {
     std::filesystem::remove(m_home->path(name.toStdString()));
     m_home->link(name.toStdString(), m_home->path(target.toStdString()));
+}
+
+void Stage::move(const QString& name, const QString& other) const
+{
+    QFile::rename(QString::fromStdString(m_home->path(name.toStdString())),
+                  QString::fromStdString(m_home->path(other.toStdString())));
+}
+
+void Stage::makeOldDownloads() const
+{
+    const TimePoint old = std::chrono::system_clock::now() - std::chrono::days(90);
+    for (const char* name : {"Downloads/old.txt", "Downloads/papers/paper.txt"})
+        TempHome::setTimes(m_home->fileOfSize(name, kMegabyte, 7), old, old);
+    TempHome::setTimes(m_home->path("Downloads/papers"), old, old);
+}
+
+void Stage::fill(FailureListModel* failures) const
+{
+    std::vector<CleanFailure> list;
+    for (const int number : {1, 2, 3, 4, 5, 6, 7})
+        list.push_back({m_home->path("Videos/film " + std::to_string(number)), FailureReason::inUse});
+    list.push_back({m_home->path("Videos/gone"), FailureReason::missing});
+    failures->setFailures(std::move(list));
 }
 
 QQuickItem* Stage::find(QObject* where, const QString& name) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FailureListModel.h"
 #include "app/AppModel.h"
 #include "support/TempHome.h"
 
@@ -33,6 +34,13 @@ public:
     Q_INVOKABLE void write(const QString& name, const QString& content) const;
     /// Puts a link in the place of a file; both names lie below the home folder.
     Q_INVOKABLE void link(const QString& name, const QString& target) const;
+    /// Renames a file or folder.
+    Q_INVOKABLE void move(const QString& name, const QString& other) const;
+    /// Puts what was not used for months into Downloads: "old.txt", and a folder "papers" with a "paper.txt",
+    /// both copies of the report in Documents.
+    Q_INVOKABLE void makeOldDownloads() const;
+    /// Fills the list with items that were in use, and one that was gone.
+    Q_INVOKABLE void fill(orlen::FailureListModel* failures) const;
 
     /// The item of this object name that can be seen in a window or an item, the topmost if there are
     /// several; else null. Delegates and popups count too, which `findChild` does not know.

@@ -55,7 +55,21 @@ Journey {
         test.folder(".cache");
     }
 
-    function test_4_asAList() {
+    function test_4_theRightButtonShowsWhatIsPressed() {
+        mouseMove(test.tile("Videos"));
+        mousePress(test.tile("Documents"), 4, 4, Qt.RightButton);
+        mouseRelease(test.tile("Documents"), 4, 4, Qt.RightButton);
+        mousePress(test.tile("Downloads"), 4, 4, Qt.RightButton);
+        mouseRelease(test.tile("Downloads"), 4, 4, Qt.RightButton);
+        verify(test.item("notice").text.endsWith("/Documents"));
+        test.clickOn("closeNotice");
+        tryVerify(() => test.isShown("notice") && test.item("notice").text.endsWith("/Downloads"), 5000,
+                  "one sentence follows the other");
+        test.clickOn("copyPath");
+        tryVerify(() => !test.isShown("notice"));
+    }
+
+    function test_5_asAList() {
         test.tabTo("diskMapForm");
         keyClick(Qt.Key_Right);
         compare(test.row("diskMapList", 0).name, ".cache");

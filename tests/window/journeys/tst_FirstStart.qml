@@ -84,7 +84,7 @@ Journey {
         test.clickOn("unfoldButton");
         tryCompare(test.item("recordItems"), "count", 2);
         test.clickOn("restoreButton");
-        compare(test.item("historyToast").message, "Restored 2 items.");
+        compare(test.item("notice").text, "Restored 2 items.");
         verify(stage.exists(".cache/pip/http/three"));
         verify(stage.exists(".cache/spotify/Data/one"));
         verify(!stage.isInTrash("pip"));

@@ -123,7 +123,7 @@ Journey {
         tryCompare(test.item("recordItems"), "count", 2);
         test.tabTo("restoreButton");
         keyClick(Qt.Key_Space);
-        compare(test.item("historyToast").message, "Restored 2 items.");
+        compare(test.item("notice").text, "Restored 2 items.");
         verify(stage.exists(".cache/spotify/Data/one"));
         verify(stage.exists(".cache/mesa_shader_cache/two"));
     }

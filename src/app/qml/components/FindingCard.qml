@@ -24,7 +24,7 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     text: root.title
-    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + (root.cleanable ? root.ratingLabel : Strings.informational)
+    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.ratingLabel
 
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
@@ -46,23 +46,6 @@ T.AbstractButton {
             label: root.ratingLabel
             symbol: root.ratingSymbol
             Accessible.ignored: true
-        }
-
-        Note {
-            anchors.right: parent.right
-            anchors.rightMargin: 14
-            y: 19
-            width: informational.advanceWidth + 24
-            visible: !root.cleanable
-            text: Strings.informational
-            Accessible.ignored: true
-
-            TextMetrics {
-                id: informational
-
-                font.pixelSize: Theme.captionSize
-                text: Strings.informational
-            }
         }
 
         Text {

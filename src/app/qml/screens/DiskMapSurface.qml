@@ -97,7 +97,7 @@ T.Control {
             if (mouse.button === Qt.LeftButton)
                 root.map.click(Qt.point(mouse.x, mouse.y));
             else if (mouse.button === Qt.RightButton)
-                root.map.reveal(root.map.hoverRow);
+                root.map.revealAt(Qt.point(mouse.x, mouse.y));
             else
                 root.map.up();
         }

@@ -7,6 +7,7 @@ import Orlen.App
 Item {
     id: root
 
+    required property Notices notices
     /// Of the clean-up whose items are shown; at most one at a time.
     property string openRecord: ""
     readonly property real sideMargin: Theme.sideMargin(root.width)
@@ -15,7 +16,7 @@ Item {
         id: history
 
         app: AppModel
-        onRestored: message => toast.show(message)
+        onRestored: message => root.notices.say(message)
     }
 
     ListView {
@@ -93,11 +94,5 @@ Item {
         symbol: "clock.arrow.circlepath"
         tone: Theme.historyTone
         text: Strings.nothingCleaned
-    }
-
-    Toast {
-        id: toast
-
-        objectName: "historyToast"
     }
 }

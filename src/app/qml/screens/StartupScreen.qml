@@ -5,16 +5,18 @@ import Orlen.App
 Item {
     id: root
 
+    required property Notices notices
+
     StartupListModel {
         id: items
 
-        onFailed: message => toast.show(message)
+        onFailed: message => root.notices.say(message)
     }
 
     LoginItemModel {
         id: loginItems
 
-        onSettingsFailed: toast.show(Strings.settingsFailed)
+        onSettingsFailed: root.notices.say(Strings.settingsFailed)
     }
 
     Component.onCompleted: root.reload()
@@ -79,9 +81,5 @@ Item {
             width: parent.width
             items: loginItems
         }
-    }
-
-    Toast {
-        id: toast
     }
 }

@@ -9,8 +9,8 @@ Sheet {
 
     objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
-    wantedWidth: Math.round(440 * Math.max(1, Theme.textScale * 0.9))
-    wantedHeight: Math.ceil(column.implicitHeight) + 64
+    wantedWidth: Math.round((list.isWanted ? 520 : 440) * Math.max(1, Theme.textScale * 0.9))
+    wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
     closable: false
 
     readonly property bool isWanted: root.navigation.cleaning
@@ -43,7 +43,7 @@ Sheet {
         Keys.onEnterPressed: if (cleaning.finished) AppModel.dismissCleaning()
 
         Column {
-            id: column
+            id: head
 
             x: 32
             y: 32
@@ -121,6 +121,7 @@ Sheet {
             }
 
             Text {
+                objectName: "cleaningFailed"
                 width: parent.width
                 visible: cleaning.finished && cleaning.failed > 0
                 horizontalAlignment: Text.AlignHCenter
@@ -130,6 +131,34 @@ Sheet {
                 font.pixelSize: Theme.bodySize
                 font.weight: Font.Medium
             }
+        }
+
+        FailureList {
+            id: list
+
+            readonly property bool isWanted: cleaning.finished && list.count > 0
+            /// What the other texts leave of the window.
+            readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing - head.implicitHeight - foot.implicitHeight
+            readonly property int taken: list.isWanted ? list.height + head.spacing : 0
+
+            objectName: "failureList"
+            anchors.top: head.bottom
+            anchors.topMargin: head.spacing
+            anchors.left: head.left
+            anchors.right: head.right
+            height: Math.floor(Math.max(80, Math.min(list.contentHeight, 260 * Theme.textScale, list.room)))
+            visible: list.isWanted
+            failures: cleaning.failures
+        }
+
+        Column {
+            id: foot
+
+            x: 32
+            anchors.top: head.bottom
+            anchors.topMargin: head.spacing + list.taken
+            width: head.width
+            spacing: head.spacing
 
             Text {
                 width: parent.width
@@ -152,6 +181,19 @@ Sheet {
                 text: Strings.nothingDeleted
                 textFormat: Text.PlainText
                 color: Theme.secondary
+                font.pixelSize: Theme.smallSize
+            }
+
+            Text {
+                objectName: "notRecorded"
+                width: parent.width
+                visible: cleaning.finished && !cleaning.recorded
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                lineHeight: 1.25
+                text: Strings.notRecorded
+                textFormat: Text.PlainText
+                color: Theme.reviewText
                 font.pixelSize: Theme.smallSize
             }
 

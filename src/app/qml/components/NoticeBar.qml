@@ -1,0 +1,133 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The one place of the window, at its bottom and above all sheets, where sentences appear in passing.
+T.Popup {
+    id: root
+
+    required property Notices notices
+
+    /// Stays while the bar fades.
+    property string shownText: ""
+    property bool shownPath: false
+    readonly property string text: root.notices.text
+    readonly property real roomForText: (parent ? parent.width - 48 : 620) - buttons.width - 64
+
+    parent: T.Overlay.overlay
+    z: 100
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? parent.height - height - 24 : 0
+    width: sign.width + line.width + buttons.width + 52
+    height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
+    padding: 8
+    leftPadding: 16
+    modal: false
+    visible: root.text !== ""
+    closePolicy: T.Popup.CloseOnEscape
+    onTextChanged: {
+        if (root.text === "")
+            return;
+        root.shownText = root.text;
+        root.shownPath = root.notices.hasPath;
+        root.notices.announce(sheet);
+    }
+    onAboutToHide: root.notices.dismiss()
+
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.sheetInDuration
+        }
+    }
+
+    exit: Transition {
+        NumberAnimation {
+            property: "opacity"
+            to: 0
+            duration: Theme.sheetOutDuration
+        }
+    }
+
+    background: Rectangle {
+        id: sheet
+
+        radius: Theme.cardRadius
+        color: Theme.raised
+        border.width: 1
+        border.color: Theme.tertiary
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.shownText
+    }
+
+    Binding {
+        target: root.notices
+        property: "held"
+        value: root.visible && (hover.hovered || copy.activeFocus || close.activeFocus)
+    }
+
+    contentItem: Item {
+        HoverHandler {
+            id: hover
+        }
+
+        Symbol {
+            id: sign
+
+            anchors.verticalCenter: parent.verticalCenter
+            name: "info.circle"
+            colour: Theme.secondary
+            size: 16
+        }
+
+        Text {
+            id: line
+
+            objectName: "notice"
+            anchors.left: sign.right
+            anchors.leftMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(Math.ceil(implicitWidth), 620, root.roomForText)
+            text: root.shownText
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            maximumLineCount: 4
+            elide: Text.ElideRight
+            color: Theme.text
+            font.pixelSize: Theme.bodySize
+            Accessible.ignored: true
+        }
+
+        Row {
+            id: buttons
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 4
+
+            AppButton {
+                id: copy
+
+                objectName: "copyPath"
+                visible: root.shownPath
+                quiet: true
+                text: Strings.copyPath
+                onClicked: {
+                    root.notices.copyPath();
+                    root.notices.dismiss();
+                }
+            }
+
+            IconButton {
+                id: close
+
+                objectName: "closeNotice"
+                symbol: "xmark"
+                text: Strings.close
+                onClicked: root.notices.dismiss()
+            }
+        }
+    }
+}

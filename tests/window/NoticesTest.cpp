@@ -1,0 +1,81 @@
+#include "Notices.h"
+
+#include "Reveal.h"
+
+#include "app/EventLoop.h"
+#include "support/TempHome.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QSignalSpy>
+
+namespace orlen {
+
+namespace {
+
+int alerts = 0;
+
+} // namespace
+
+TEST(NoticesTest, showsOneAfterTheOtherWithAPauseBetween)
+{
+    Notices notices;
+    notices.setProperty("shortest", 30);
+    QStringList shown;
+    QObject::connect(&notices, &Notices::changed, [&] { shown << notices.text(); });
+    for (const char* text : {"a", "", "b", "b", "a"})
+        notices.say(QString::fromLatin1(text));
+    EXPECT_EQ(notices.text(), "a");
+    notices.dismiss();
+    EXPECT_EQ(notices.text(), "") << "nothing follows at once";
+    notices.dismiss();
+    ASSERT_TRUE(waitUntil([&] { return shown.size() == 6; }));
+    EXPECT_EQ(shown, QStringList({"a", "", "b", "", "a", ""}));
+}
+
+TEST(NoticesTest, aSentenceStaysWhileItIsReadOrHeld)
+{
+    Notices notices;
+    notices.setProperty("shortest", 1);
+    QElapsedTimer timer;
+    timer.start();
+    notices.say(QStringLiteral("ten chars."));
+    ASSERT_TRUE(waitUntil([&] { return notices.text().isEmpty(); }));
+    EXPECT_GE(timer.elapsed(), 700) << "long enough for its length";
+    notices.say(QStringLiteral("b"));
+    ASSERT_TRUE(waitUntil([&] { return !notices.text().isEmpty(); }));
+    notices.setHeld(true);
+    notices.say(QStringLiteral("c"));
+    timer.start();
+    ASSERT_TRUE(waitUntil([&] { return timer.elapsed() > 400; }));
+    EXPECT_EQ(notices.text(), "b");
+    notices.setHeld(false);
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "c"; }));
+}
+
+TEST(NoticesTest, tellsOfAPathThatCannotBeShownAndScreenReadersHear)
+{
+    const TempHome home;
+    TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    TempHome::setVariable("PATH", home.folder("bin"));
+    const Reveal reveal;
+    Notices notices;
+    Reveal::show(home.path("film.mkv"));
+    ASSERT_TRUE(waitUntil([&] { return notices.hasPath(); }));
+    const QString path = QString::fromStdString(home.path("film.mkv"));
+    EXPECT_EQ(notices.text(), "No program could show this item: " + path);
+    notices.copyPath();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), path);
+
+    const auto before = QAccessible::installUpdateHandler(
+        [](QAccessibleEvent* event) { alerts += event->type() == QAccessible::Alert ? 1 : 0; });
+    Notices::announce(&notices);
+    QAccessible::installUpdateHandler(before);
+    EXPECT_EQ(alerts, 1);
+}
+
+} // namespace orlen
