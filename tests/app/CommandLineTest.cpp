@@ -200,7 +200,7 @@ TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
     ASSERT_EQ(clean.status, 0) << clean.err;
     EXPECT_THAT(clean.err, HasSubstr("~/Downloads/film.mkv"));
     const Json cleaned = clean.document();
-    EXPECT_THAT(keys(cleaned), ElementsAre("plan", "record", "freed"));
+    EXPECT_THAT(keys(cleaned), ElementsAre("plan", "record", "freed", "failures"));
     EXPECT_EQ(cleaned["record"]["items"][0]["original"], copy);
     EXPECT_EQ(cleaned["freed"], 1200 * kKiB);
     EXPECT_FALSE(TempHome::exists(copy));

@@ -81,6 +81,7 @@ protected:
                     "env",
                     "HOME=" + (stricken.isNamedByLink ? home.outside("home-link") : folderOf(stricken)),
                     "QT_QPA_PLATFORM=offscreen",
+                    "XDG_RUNTIME_DIR=" + home.outside(stricken.runtime),
                     "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
         words.insert(words.end(), around.begin(), around.end());
         words.emplace_back(ORLEN_BINARY);

@@ -7,19 +7,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTimer>
 
 namespace orlen {
-
-namespace {
-
-int alerts = 0;
-
-} // namespace
 
 TEST(NoticesTest, showsOneAfterTheOtherWithAPauseBetween)
 {
@@ -33,8 +27,8 @@ TEST(NoticesTest, showsOneAfterTheOtherWithAPauseBetween)
     notices.dismiss();
     EXPECT_EQ(notices.text(), "") << "nothing follows at once";
     notices.dismiss();
-    ASSERT_TRUE(waitUntil([&] { return shown.size() == 6; }));
-    EXPECT_EQ(shown, QStringList({"a", "", "b", "", "a", ""}));
+    ASSERT_TRUE(waitUntil([&] { return shown.size() == 4; }));
+    EXPECT_EQ(shown, QStringList({"a", "", "b", ""})) << "what is shown already is not said again";
 }
 
 TEST(NoticesTest, aSentenceStaysWhileItIsReadOrHeld)
@@ -51,13 +45,14 @@ TEST(NoticesTest, aSentenceStaysWhileItIsReadOrHeld)
     notices.setHeld(true);
     notices.say(QStringLiteral("c"));
     timer.start();
+    QTimer::singleShot(450, &notices, [] {}); // wakes the event loop
     ASSERT_TRUE(waitUntil([&] { return timer.elapsed() > 400; }));
     EXPECT_EQ(notices.text(), "b");
     notices.setHeld(false);
     ASSERT_TRUE(waitUntil([&] { return notices.text() == "c"; }));
 }
 
-TEST(NoticesTest, tellsOfAPathThatCannotBeShownAndScreenReadersHear)
+TEST(NoticesTest, tellsOfAPathThatCannotBeShown)
 {
     const TempHome home;
     TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
@@ -70,12 +65,6 @@ TEST(NoticesTest, tellsOfAPathThatCannotBeShownAndScreenReadersHear)
     EXPECT_EQ(notices.text(), "No program could show this item: " + path);
     notices.copyPath();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), path);
-
-    const auto before = QAccessible::installUpdateHandler(
-        [](QAccessibleEvent* event) { alerts += event->type() == QAccessible::Alert ? 1 : 0; });
-    Notices::announce(&notices);
-    QAccessible::installUpdateHandler(before);
-    EXPECT_EQ(alerts, 1);
 }
 
 } // namespace orlen

@@ -132,7 +132,7 @@ TEST(TreeMeasureTest, deepChainsOfLongNamesNeedLittleMemory)
     EXPECT_LT(peakKilobytes() - before, 100'000);
     EXPECT_EQ(found.cands.size(), 1U);
     EXPECT_EQ(unreadable.count(), 0) << "what has no path is left out, not a failure";
-    ASSERT_EQ(std::system(("rm -rf '" + home.path("work/deep") + "'").c_str()), 0);
+    ASSERT_EQ(std::system(("/bin/rm -rf '" + home.path("work/deep") + "'").c_str()), 0);
 }
 
 TEST(TreeMeasureTest, measuresManyChildrenTogetherAndEachForItself)
