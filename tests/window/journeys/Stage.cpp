@@ -147,6 +147,8 @@ void Stage::prepare(QQmlEngine& engine)
 
 void Stage::fillHome() const
 {
+    // Stands for the reserve, which would be the largest thing in this small home.
+    std::filesystem::resize_file(m_home->file(".local/share/Orlen/reserve"), 8'000'000);
     m_home->fileOfSize(".cache/spotify/Data/one", 3 * kMegabyte);
     m_home->fileOfSize(".cache/mesa_shader_cache/two", 2 * kMegabyte);
     m_home->fileOfSize(".cache/pip/http/three", 2 * kMegabyte);

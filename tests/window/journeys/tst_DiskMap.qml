@@ -59,6 +59,7 @@ Journey {
         mouseMove(test.tile("Videos"));
         mousePress(test.tile("Documents"), 4, 4, Qt.RightButton);
         mouseRelease(test.tile("Documents"), 4, 4, Qt.RightButton);
+        tryVerify(() => test.isShown("notice"));
         mousePress(test.tile("Downloads"), 4, 4, Qt.RightButton);
         mouseRelease(test.tile("Downloads"), 4, 4, Qt.RightButton);
         verify(test.item("notice").text.endsWith("/Documents"));
