@@ -109,6 +109,8 @@ bool AppModel::keep(const CleanRecord& record)
     std::set<std::string> moved;
     for (const TrashedItem& item : record.items)
         moved.insert(item.original);
+    // What was listed inside a moved folder went along.
+    PathSelection::addInside(moved, listed());
     removeFromFindings(moved);
     return isSaved;
 }

@@ -1,6 +1,7 @@
 #include "scan/ScanEngine.h"
 
 #include "platform/Places.h"
+#include "platform/Reachability.h"
 #include "platform/RecentDocuments.h"
 #include "scan/Duplicates.h"
 #include "scan/LargeAndOld.h"
@@ -125,7 +126,12 @@ std::vector<Finding> ScanEngine::run()
         group.add("location", [&, step] { return asStep(m_progress, kSteps[step], locationSteps[step]); });
     }
     group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent, m_unreadable); });
-    return mergedByKind(group.collect());
+    std::vector<Finding> findings = mergedByKind(group.collect());
+    for (const Reachability::LeftOut& mount : Reachability::leftOut()) {
+        if (mount.reason == Reachability::LeftOut::Reason::silent)
+            m_unreadable.add(Places::current().normalized(mount.point));
+    }
+    return findings;
 }
 
 } // namespace orlen

@@ -96,6 +96,27 @@ TEST(AppModelCleanupTest, whatCannotMoveIsCountedAndStays)
     EXPECT_EQ(model.history().front().title, "Some of it");
 }
 
+TEST(AppModelCleanupTest, whatLiesInAMovedFolderLeavesTheResultsWithIt)
+{
+    const TempHome home;
+    const std::string folder = home.folder("Downloads/old");
+    const std::string film = home.fileOfSize("Downloads/old/film", 1200 * kKiB);
+    const TimePoint longAgo = std::chrono::system_clock::now() - std::chrono::hours(24 * 90);
+    TempHome::setTimes(folder, longAgo, longAgo);
+    AppModel model(kCommand);
+    model.setLargeThresholdMB(1);
+    scan(model);
+    ASSERT_THAT(model.findings(), SizeIs(2));
+    model.select(std::vector{folder});
+    EXPECT_THAT(model.selection(), ElementsAre(folder, film));
+    const CleanPlan plan = model.scanPlan();
+    model.confirm(plan, model.selection());
+    EXPECT_EQ(model.cleaning()->total, 1) << "one item takes the other along";
+    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
+    EXPECT_THAT(model.findings(), IsEmpty());
+    EXPECT_THAT(model.selection(), IsEmpty());
+}
+
 TEST(AppModelCleanupTest, whatAKilledCleanUpMovedIsKnownAtTheNextStart)
 {
     const TempHome home;

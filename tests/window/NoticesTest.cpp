@@ -67,4 +67,16 @@ TEST(NoticesTest, tellsOfAPathThatCannotBeShown)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), path);
 }
 
+TEST(NoticesTest, beginsWithWhatTheStartFound)
+{
+    const TempHome home;
+    (void)home.file(".local/share/Orlen/history.json", "[{}]");
+    AppModel::Options options;
+    options.startup = AppModel::Startup::filesOnly;
+    AppModel app(options);
+    Notices notices;
+    notices.setApp(&app);
+    EXPECT_TRUE(notices.text().contains("history.unreadable-")) << notices.text().toStdString();
+}
+
 } // namespace orlen

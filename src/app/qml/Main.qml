@@ -32,6 +32,8 @@ T.ApplicationWindow {
 
     Notices {
         id: theNotices
+
+        app: AppModel
     }
 
     Loader {

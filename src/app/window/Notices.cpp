@@ -1,5 +1,6 @@
 #include "Notices.h"
 
+#include "DisplayText.h"
 #include "Reveal.h"
 #include "WindowTexts.h"
 
@@ -30,6 +31,16 @@ Notices::Notices(QObject* parent) : QObject(parent)
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
             add({WindowTexts::cannotReveal(path), path});
         });
+}
+
+void Notices::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    m_app = app;
+    for (const std::string& sentence : app == nullptr ? std::vector<std::string>() : app->notices())
+        say(DisplayText::text(sentence));
+    Q_EMIT appChanged();
 }
 
 void Notices::say(const QString& text)
