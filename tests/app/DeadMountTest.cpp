@@ -1,5 +1,5 @@
-#include "clean/Command.h"
-#include "clean/PrivateMounts.h"
+#include "support/Command.h"
+#include "support/PrivateMounts.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>

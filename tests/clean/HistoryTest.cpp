@@ -3,11 +3,11 @@
 #include "clean/Cleaner.h"
 #include "clean/Journal.h"
 #include "clean/Persist.h"
-#include "clean/PrivateMounts.h"
 #include "clean/Reserve.h"
 #include "clean/Safety.h"
 #include "clean/TrashProbe.h"
 #include "platform/OwnFile.h"
+#include "support/PrivateMounts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "clean/Cleaner.h"
 
-#include "clean/Command.h"
 #include "clean/TrashProbe.h"
 #include "clean/trash/Trash.h"
+#include "support/Command.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

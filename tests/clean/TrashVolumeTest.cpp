@@ -1,7 +1,7 @@
-#include "clean/PrivateMounts.h"
 #include "clean/Safety.h"
 #include "clean/TrashProbe.h"
 #include "clean/trash/Trash.h"
+#include "support/PrivateMounts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

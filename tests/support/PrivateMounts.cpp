@@ -1,6 +1,6 @@
-#include "clean/PrivateMounts.h"
+#include "support/PrivateMounts.h"
 
-#include "clean/Command.h"
+#include "support/Command.h"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "clean/Command.h"
+#include "support/Command.h"
 
 #include "platform/UniqueFd.h"
 #include "support/TempHome.h"
