@@ -82,6 +82,7 @@ protected:
                     "HOME=" + (stricken.isNamedByLink ? home.outside("home-link") : folderOf(stricken)),
                     "QT_QPA_PLATFORM=offscreen",
                     "XDG_RUNTIME_DIR=" + home.outside(stricken.runtime),
+                    "ASAN_OPTIONS=detect_leaks=0", // the window keeps what it has drawn
                     "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
         words.insert(words.end(), around.begin(), around.end());
         words.emplace_back(ORLEN_BINARY);
