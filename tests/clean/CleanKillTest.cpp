@@ -40,10 +40,10 @@ void killLater(microseconds later)
     event.sigev_notify = SIGEV_SIGNAL;
     event.sigev_signo = SIGKILL;
     timer_t timer{};
-    itimerspec spec{};
-    spec.it_value.tv_nsec = std::chrono::nanoseconds(later).count() + 1; // 0 would stop the timer
+    itimerspec timing{};
+    timing.it_value.tv_nsec = std::chrono::nanoseconds(later).count() + 1; // 0 would stop the timer
     if (::timer_create(CLOCK_MONOTONIC, &event, &timer) != 0 ||
-        ::timer_settime(timer, 0, &spec, nullptr) != 0)
+        ::timer_settime(timer, 0, &timing, nullptr) != 0)
         ::_exit(1);
 }
 
