@@ -78,5 +78,6 @@ T.ApplicationWindow {
 
     NoticeBar {
         notices: theNotices
+        besideScreen: root.navigation.onboarded ? Theme.sidebarWidth : 0
     }
 }

@@ -7,16 +7,18 @@ T.Popup {
     id: root
 
     required property Notices notices
+    /// What stands beside the screen: the bar keeps to the screen's middle.
+    required property real besideScreen
 
     /// Stays while the bar fades.
     property string shownText: ""
     property bool shownPath: false
     readonly property string text: root.notices.text
-    readonly property real roomForText: (parent ? parent.width - 48 : 620) - buttons.width - 64
+    readonly property real roomForText: (parent ? parent.width - root.besideScreen - 48 : 620) - buttons.width - 64
 
     parent: T.Overlay.overlay
     z: 100
-    x: parent ? Math.round((parent.width - width) / 2) : 0
+    x: parent ? Math.round((parent.width + root.besideScreen - width) / 2) : 0
     y: parent ? parent.height - height - 24 : 0
     width: sign.width + line.width + buttons.width + 52
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
