@@ -38,8 +38,10 @@ void dropPowers()
 /// buses, folders. What steers the test programs themselves stays.
 void leaveSession()
 {
-    constexpr std::string_view kKept[] = {"GTEST_", "ASAN_", "UBSAN_", "TSAN_",
-                                          "LSAN_",  "LLVM_", "LD_",    "TMPDIR"};
+    constexpr std::string_view kKept[] = {"GTEST_", "ASAN_", "UBSAN_", "TSAN_", "LSAN_", "LLVM_", "LD_",
+                                          "TMPDIR",
+                                          // How often the harnesses try.
+                                          "ORLEN_KILLS", "ORLEN_FAULTS"};
     std::vector<std::string> names;
     for (char** variable = ::environ; *variable != nullptr; ++variable) {
         const std::string_view text(*variable);
