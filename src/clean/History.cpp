@@ -6,12 +6,16 @@
 #include "platform/OwnFile.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace orlen::History {
 
 namespace {
 
 using Journals::State;
+
+/// For a disk that was unplugged after a clean-up was killed.
+constexpr std::chrono::hours kPatience{24 * 90};
 
 auto recordOf(std::vector<CleanRecord>& history, const Uuid& id)
 {
@@ -29,6 +33,16 @@ auto placeOf(std::vector<CleanRecord>& history, TimePoint date)
     return std::ranges::find_if(history, [&](const CleanRecord& other) { return other.date <= date; });
 }
 
+/// The record with those of the items found that it does not hold yet.
+CleanRecord joined(CleanRecord record, CleanRecord found)
+{
+    for (TrashedItem& item : found.items) {
+        if (std::ranges::find(record.items, item.original, &TrashedItem::original) == record.items.end())
+            record.items.push_back(std::move(item));
+    }
+    return record;
+}
+
 bool recoverClean(std::vector<CleanRecord>& history, const Uuid& id)
 {
     const auto journal = Journals::read(id, State::cleaning);
@@ -36,18 +50,26 @@ bool recoverClean(std::vector<CleanRecord>& history, const Uuid& id)
     if (!journal)
         return false;
     CleanRecord record = Recovery::recordOf(*journal);
-    if (recordOf(history, id) != history.end()) {
-        Journals::settle(id);
-        return false;
-    }
+    const auto known = recordOf(history, id);
+    if (known != history.end())
+        record = joined(*known, std::move(record));
+    // The rest is found when its disk is there again; what was gone for so long was thrown away.
+    const bool isLeftForLater = Recovery::isOutOfReach(*journal, record) &&
+                                std::chrono::system_clock::now() - journal->started < kPatience;
     if (record.items.empty()) {
-        Journals::remove(id, State::cleaning);
+        if (!isLeftForLater)
+            Journals::remove(id, State::cleaning);
         return false;
     }
-    history.insert(placeOf(history, record.date), std::move(record));
-    if (Persist::saveHistory(history).ok())
+    const bool hasChanged = known == history.end() || *known != record;
+    if (known != history.end())
+        *known = std::move(record);
+    else
+        history.insert(placeOf(history, record.date), std::move(record));
+    const bool isSaved = !hasChanged || Persist::saveHistory(history).ok();
+    if (isSaved && !isLeftForLater)
         Journals::settle(id);
-    return true;
+    return hasChanged;
 }
 
 bool recoverRestore(std::vector<CleanRecord>& history, const Uuid& id)

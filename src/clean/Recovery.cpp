@@ -2,9 +2,12 @@
 
 #include "clean/trash/Trash.h"
 #include "platform/FileStatus.h"
+#include "platform/PathText.h"
 
 #include <algorithm>
 #include <map>
+#include <set>
+#include <string_view>
 
 namespace orlen::Recovery {
 
@@ -23,6 +26,16 @@ CleanRecord recordOf(const Journal& journal)
         record.date = std::max(record.date, found->time);
     }
     return record;
+}
+
+bool isOutOfReach(const Journal& journal, const CleanRecord& record)
+{
+    std::set<std::string_view> found;
+    for (const TrashedItem& item : record.items)
+        found.insert(item.original);
+    return std::ranges::any_of(journal.items, [&](const Journal::Item& item) {
+        return !found.contains(item.path) && !exists(std::string(PathText::parent(item.path)));
+    });
 }
 
 void markRestored(CleanRecord& record, const Journal& journal)

@@ -11,6 +11,10 @@ namespace orlen::Recovery {
 /// removed.
 [[nodiscard]] CleanRecord recordOf(const Journal& journal);
 
+/// Whether some of the journal's items can only be looked for later: they are not in the record, and the
+/// folder that held them is not there, as on a disk that is not plugged in.
+[[nodiscard]] bool isOutOfReach(const Journal& journal, const CleanRecord& record);
+
 /// Marks the record's items that the restore put back: those that are no longer in the Trash, and whose place
 /// holds them by their identity. Their info files are removed.
 void markRestored(CleanRecord& record, const Journal& journal);

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <unistd.h>
 
@@ -67,6 +68,35 @@ TEST_F(HistoryTest, aRecordThatCouldNotBeSavedIsFoundAtTheNextStart)
     EXPECT_EQ(history.front().id, done.record.id);
     EXPECT_FALSE(History::recover(history)) << "there is nothing left to do";
     EXPECT_EQ(Cleaner::restore(history.front()).restored, 2);
+}
+
+TEST_F(HistoryTest, whatLiesOnADiskThatIsNotThereIsFoundWhenItIsBack)
+{
+    PrivateMounts mounts;
+    if (!mounts.obstacle().empty() || !mounts.bind(home.folder("behind"), home.folder("disk")))
+        GTEST_SKIP() << "nothing can be mounted here";
+    Safety::refresh();
+    if (Safety::isProtected(home.path("disk/in/b")))
+        GTEST_SKIP() << "the temporary folder's file system counts as foreign";
+    const auto done = cleaned({home.file("a"), home.file("disk/in/b")}); // and then ends without a record
+    ASSERT_EQ(done.record.items.size(), 2U);
+    const std::string aside = home.path("behind-aside");
+    ASSERT_EQ(std::rename(home.path("behind/in").c_str(), aside.c_str()), 0);
+    ASSERT_EQ(std::rename(home.path("behind/.Trash-" + std::to_string(::geteuid())).c_str(),
+                          (aside + "-trash").c_str()),
+              0);
+    EXPECT_TRUE(History::recover(history));
+    EXPECT_EQ(history.front().items.size(), 1U);
+    EXPECT_TRUE(History::isUnfinished());
+
+    ASSERT_EQ(std::rename(aside.c_str(), home.path("behind/in").c_str()), 0);
+    ASSERT_EQ(std::rename((aside + "-trash").c_str(),
+                          home.path("behind/.Trash-" + std::to_string(::geteuid())).c_str()),
+              0);
+    EXPECT_TRUE(History::recover(history));
+    EXPECT_EQ(history.size(), 1U);
+    EXPECT_EQ(history.front().items, done.record.items);
+    EXPECT_FALSE(History::isUnfinished());
 }
 
 TEST_F(HistoryTest, aCleanUpThatMovedNothingLeavesNothingBehind)
