@@ -91,10 +91,15 @@ TestCase {
         test.click(test.item(name, within));
     }
 
-    /// In the middle, where it must be in the window and in use.
+    /// In the middle, where it must be in the window and in use, once it no longer moves.
     function click(target: Item) {
         tryVerify(() => target.enabled, 5000, target + " is enabled");
-        const middle = target.mapToItem(null, target.width / 2, target.height / 2);
+        let middle = Qt.point(-1, -1);
+        tryVerify(() => {
+            const last = middle;
+            middle = target.mapToItem(null, target.width / 2, target.height / 2);
+            return middle === last;
+        }, 5000, target + " stands still");
         verify(middle.x > 0 && middle.x < test.window.width, target + " is in the window");
         verify(middle.y > 0 && middle.y < test.window.height, target + " is in the window");
         mouseMove(target);
