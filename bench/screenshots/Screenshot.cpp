@@ -1,11 +1,11 @@
-#include "AppModelElement.h"
-#include "Appearance.h"
-#include "PhotoGroupsModel.h"
-#include "PictureReader.h"
-#include "SymbolProvider.h"
-#include "Tray.h"
-#include "Window.h"
 #include "app/AppModel.h"
+#include "window/controls/SymbolProvider.h"
+#include "window/photos/PhotoGroupsModel.h"
+#include "window/preview/PictureReader.h"
+#include "window/shell/AppModelElement.h"
+#include "window/shell/Appearance.h"
+#include "window/shell/Window.h"
+#include "window/tray/Tray.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "DesktopPresence.h"
-#include "Window.h"
 #include "app/AppModel.h"
-#include "app/desktop/RunningInstance.h"
+#include "window/shell/DesktopPresence.h"
+#include "window/shell/RunningInstance.h"
+#include "window/shell/Window.h"
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>

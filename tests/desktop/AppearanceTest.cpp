@@ -1,4 +1,4 @@
-#include "Appearance.h"
+#include "window/shell/Appearance.h"
 
 #include "FakeDesktop.h"
 #include "app/EventLoop.h"

@@ -1,4 +1,4 @@
-#include "app/desktop/DesktopNotices.h"
+#include "window/shell/DesktopNotices.h"
 
 #include "FakeDesktop.h"
 #include "PrivateBus.h"

@@ -1,9 +1,9 @@
-#include "DesktopPresence.h"
+#include "window/shell/DesktopPresence.h"
 
 #include "FakeDesktop.h"
-#include "Window.h"
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/shell/Window.h"
 
 #include <gtest/gtest.h>
 

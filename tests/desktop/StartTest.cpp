@@ -1,4 +1,4 @@
-#include "app/desktop/RunningInstance.h"
+#include "window/shell/RunningInstance.h"
 
 #include "PrivateBus.h"
 #include "app/EventLoop.h"

@@ -1,4 +1,4 @@
-#include "app/desktop/TrayItem.h"
+#include "window/tray/TrayItem.h"
 
 #include "FakeDesktop.h"
 #include "PrivateBus.h"

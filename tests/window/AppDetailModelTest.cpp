@@ -1,4 +1,4 @@
-#include "AppDetailModel.h"
+#include "window/apps/AppDetailModel.h"
 
 #include "app/EventLoop.h"
 #include "window/AppsOnDisk.h"

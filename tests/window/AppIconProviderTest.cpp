@@ -1,8 +1,8 @@
-#include "AppIconProvider.h"
+#include "window/apps/AppIconProvider.h"
 
-#include "IconFiles.h"
 #include "platform/Places.h"
 #include "support/TempHome.h"
+#include "window/apps/IconFiles.h"
 
 #include <gtest/gtest.h>
 

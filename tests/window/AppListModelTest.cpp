@@ -1,8 +1,8 @@
-#include "AppListModel.h"
+#include "window/apps/AppListModel.h"
 
-#include "AppOrderModel.h"
 #include "app/EventLoop.h"
 #include "window/AppsOnDisk.h"
+#include "window/apps/AppOrderModel.h"
 
 #include <gtest/gtest.h>
 

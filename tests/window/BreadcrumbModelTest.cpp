@@ -1,4 +1,4 @@
-#include "BreadcrumbModel.h"
+#include "window/diskmap/BreadcrumbModel.h"
 
 #include <gtest/gtest.h>
 

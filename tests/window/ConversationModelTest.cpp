@@ -1,4 +1,4 @@
-#include "ConversationModel.h"
+#include "window/ask/ConversationModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,6 +1,6 @@
-#include "DiskMapView.h"
+#include "window/diskmap/DiskMapView.h"
 
-#include "Reveal.h"
+#include "window/shell/Reveal.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,4 +1,4 @@
-#include "EntryListModel.h"
+#include "window/findings/EntryListModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,4 +1,4 @@
-#include "FailureListModel.h"
+#include "window/cleaning/FailureListModel.h"
 
 #include "support/TempHome.h"
 

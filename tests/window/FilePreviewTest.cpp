@@ -1,9 +1,9 @@
-#include "FilePreview.h"
+#include "window/preview/FilePreview.h"
 
-#include "PathTokens.h"
-#include "PreviewModel.h"
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/lists/PathTokens.h"
+#include "window/preview/PreviewModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ForecastCurve.h"
+#include "window/predict/ForecastCurve.h"
 
 #include <gtest/gtest.h>
 

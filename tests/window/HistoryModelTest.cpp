@@ -1,5 +1,5 @@
-#include "HistoryModel.h"
-#include "RecordItemsModel.h"
+#include "window/history/HistoryModel.h"
+#include "window/history/RecordItemsModel.h"
 
 #include "app/EventLoop.h"
 #include "clean/Persist.h"

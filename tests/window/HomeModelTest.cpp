@@ -1,6 +1,6 @@
-#include "HomeModel.h"
+#include "window/home/HomeModel.h"
 
-#include "FindingListModel.h"
+#include "window/home/FindingListModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,4 +1,4 @@
-#include "LoginItemModel.h"
+#include "window/startup/LoginItemModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

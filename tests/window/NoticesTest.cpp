@@ -1,6 +1,6 @@
-#include "Notices.h"
+#include "window/shell/Notices.h"
 
-#include "Reveal.h"
+#include "window/shell/Reveal.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

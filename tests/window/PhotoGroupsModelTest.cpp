@@ -1,5 +1,5 @@
-#include "PhotoGroupsModel.h"
-#include "PhotoTilesModel.h"
+#include "window/photos/PhotoGroupsModel.h"
+#include "window/photos/PhotoTilesModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,8 +1,8 @@
-#include "PlanModel.h"
+#include "window/review/PlanModel.h"
 
-#include "CleaningModel.h"
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/cleaning/CleaningModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "PredictionModel.h"
+#include "window/predict/PredictionModel.h"
 
 #include "app/EventLoop.h"
 #include "clean/Persist.h"

@@ -1,4 +1,4 @@
-#include "Reveal.h"
+#include "window/shell/Reveal.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

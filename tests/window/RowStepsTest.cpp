@@ -1,4 +1,4 @@
-#include "RowSteps.h"
+#include "window/lists/RowSteps.h"
 
 #include <gtest/gtest.h>
 

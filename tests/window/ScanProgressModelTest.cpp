@@ -1,4 +1,4 @@
-#include "ScanProgressModel.h"
+#include "window/home/ScanProgressModel.h"
 
 #include "app/EventLoop.h"
 #include "scan/ScanEngine.h"

@@ -1,4 +1,4 @@
-#include "SpringCurve.h"
+#include "window/controls/SpringCurve.h"
 
 #include <gtest/gtest.h>
 

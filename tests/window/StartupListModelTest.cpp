@@ -1,4 +1,4 @@
-#include "StartupListModel.h"
+#include "window/startup/StartupListModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

@@ -1,4 +1,4 @@
-#include "StorageModel.h"
+#include "window/home/StorageModel.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"

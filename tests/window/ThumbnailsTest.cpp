@@ -1,9 +1,9 @@
-#include "Thumbnails.h"
+#include "window/preview/Thumbnails.h"
 
-#include "PathTokens.h"
-#include "PictureReader.h"
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/lists/PathTokens.h"
+#include "window/preview/PictureReader.h"
 
 #include <gtest/gtest.h>
 

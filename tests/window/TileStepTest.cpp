@@ -1,4 +1,4 @@
-#include "TileStep.h"
+#include "window/diskmap/TileStep.h"
 
 #include <gtest/gtest.h>
 

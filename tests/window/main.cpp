@@ -1,4 +1,4 @@
-#include "PictureReader.h"
+#include "window/preview/PictureReader.h"
 
 #include <gtest/gtest.h>
 

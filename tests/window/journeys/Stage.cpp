@@ -1,9 +1,9 @@
 #include "journeys/Stage.h"
 
-#include "Appearance.h"
-#include "Window.h"
 #include "support/TestBmp.h"
 #include "window/AppsOnDisk.h"
+#include "window/shell/Appearance.h"
+#include "window/shell/Window.h"
 
 #include <QAccessible>
 #include <QBuffer>

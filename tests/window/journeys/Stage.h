@@ -1,8 +1,8 @@
 #pragma once
 
-#include "FailureListModel.h"
 #include "app/AppModel.h"
 #include "support/TempHome.h"
+#include "window/cleaning/FailureListModel.h"
 
 #include <QObject>
 #include <QQmlEngine>

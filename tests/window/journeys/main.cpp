@@ -1,5 +1,5 @@
-#include "PictureReader.h"
 #include "journeys/Stage.h"
+#include "window/preview/PictureReader.h"
 
 #include <QtQuickTest>
 

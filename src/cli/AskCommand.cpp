@@ -1,0 +1,70 @@
+#include "app/AppModel.h"
+#include "cli/Command.h"
+#include "cli/JsonDocuments.h"
+#include "cli/SmartScan.h"
+#include "insight/AskEngine.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+namespace orlen {
+
+namespace {
+
+std::string suggestions()
+{
+    std::string text = "Questions to begin with:";
+    for (const std::string_view question : AskEngine::kSuggestions)
+        text.append("\n  ").append(question);
+    return text;
+}
+
+void printAnswer(const Answer& answer)
+{
+    const std::string introduction(AskEngine::introduction());
+    Session::print(answer.text + "\n\n" + Session::colours().styled(Style::dim, introduction) + '\n');
+}
+
+class AskCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"ask", "Run a Smart Scan and answer a question about the storage"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("question", m_question, "The question, in quotation marks")
+            ->type_name("QUESTION")
+            ->required();
+        SmartScan::addThresholdOption(app, m_thresholdMB);
+        app.footer(suggestions());
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        // A question is no reading of the disk for the forecast to keep.
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        if (!SmartScan::run(session, model, m_thresholdMB))
+            return ExitStatus::interrupted;
+        const Answer answer = AskEngine::answer(m_question, model.askContext());
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::answer(answer));
+        else
+            printAnswer(answer);
+        return ExitStatus::done;
+    }
+
+private:
+    std::string m_question;
+    double m_thresholdMB = 500;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeAskCommand()
+{
+    return std::make_unique<AskCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,68 @@
+#include "app/AppModel.h"
+#include "cli/Bar.h"
+#include "cli/Command.h"
+#include "cli/JsonDocuments.h"
+#include "cli/Table.h"
+#include "cli/Texts.h"
+#include "model/ByteCount.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+namespace orlen {
+
+namespace {
+
+void printBreakdown(const StorageBreakdown& breakdown)
+{
+    const Colours colours = Session::colours();
+    Table table({{"Category", Table::Kind::text}, {"Size", Table::Kind::number}, {"", Table::Kind::text}});
+    for (const OrlenCategory category : kAllCategories) {
+        const auto bytes = breakdown.cats.find(category);
+        const std::int64_t size = bytes == breakdown.cats.end() ? 0 : bytes->second;
+        table.addRow({{std::string(label(category))},
+                      {byteCount(size)},
+                      {Bar::text(size, breakdown.total), Style::blue}});
+    }
+    table.addRow(
+        {{"Free"}, {byteCount(breakdown.free)}, {Bar::text(breakdown.free, breakdown.total), Style::green}});
+    Session::print(
+        colours.styled(Style::bold, byteCount(breakdown.free) + " free of " + byteCount(breakdown.total)) +
+        "\n\n" + table.text(colours, Session::width()));
+}
+
+class BreakdownCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"breakdown", "Measure how the storage of the start-up volume is used"};
+    }
+
+    void addOptions(CLI::App& /*app*/) override {}
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
+        model.refreshBreakdown(AppModel::Recording::none);
+        session.run({[&] { return model.isBreakdownReady() || session.isInterrupted(); }, [] {},
+                     [] { return std::string(Texts::kMeasuring); }});
+        if (!model.isBreakdownReady()) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::breakdown(model.breakdown()));
+        else
+            printBreakdown(model.breakdown());
+        return ExitStatus::done;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeBreakdownCommand()
+{
+    return std::make_unique<BreakdownCommand>();
+}
+
+} // namespace orlen

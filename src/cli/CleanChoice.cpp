@@ -1,0 +1,91 @@
+#include "cli/CleanChoice.h"
+
+#include "app/Format.h"
+#include "clean/Safety.h"
+#include "cli/PathArgument.h"
+#include "cli/Texts.h"
+#include "model/PathSelection.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+enum class Standing { unknown, fixed, movable };
+
+/// Whether the scan lists the path, and whether it may be moved.
+Standing standing(const std::vector<Finding>& findings, const std::string& path)
+{
+    Standing best = Standing::unknown;
+    for (const Finding& finding : findings) {
+        const bool isListed = std::any_of(finding.items.begin(), finding.items.end(),
+                                          [&](const FileEntry& entry) { return entry.path == path; });
+        if (isListed)
+            best = std::max(best, finding.cleanable ? Standing::movable : Standing::fixed);
+    }
+    return best;
+}
+
+std::string objection(Standing standing, const std::string& argument, const std::string& path)
+{
+    switch (standing) {
+    case Standing::unknown:
+        return Format::quoted(argument) + " is not an entry of the scan.";
+    case Standing::fixed:
+        return Format::quoted(argument) + ": " + std::string(Texts::kTrashIsKept);
+    case Standing::movable:
+        break;
+    }
+    return Safety::isProtected(path) ? Format::quoted(argument) + " is protected and stays where it is." : "";
+}
+
+} // namespace
+
+bool CleanChoice::isWanted(std::string_view kind) const
+{
+    return kinds.empty() || std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
+}
+
+CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
+                                       const std::set<std::string>& preselected) const
+{
+    if (!paths.empty())
+        return exactPaths(findings);
+    Result result;
+    std::vector<std::string_view> candidates;
+    for (const Finding& finding : findings) {
+        if (!finding.cleanable || !isWanted(finding.id()))
+            continue;
+        for (const FileEntry& entry : finding.items) {
+            candidates.push_back(entry.path);
+            const bool isChosen = allOfKinds ? finding.effectiveRating(entry) != Rating::keep
+                                             : preselected.contains(entry.path);
+            if (isChosen)
+                result.paths.insert(entry.path);
+        }
+    }
+    PathSelection::dropOpenFolders(result.paths, PathTree(candidates));
+    return result;
+}
+
+CleanChoice::Result CleanChoice::exactPaths(const std::vector<Finding>& findings) const
+{
+    Result result;
+    for (const std::string& argument : paths) {
+        const std::string path = PathArgument::absolute(argument);
+        std::string problem = objection(standing(findings, path), argument, path);
+        if (!problem.empty())
+            return {{}, std::move(problem)};
+        result.paths.insert(path);
+    }
+    return result;
+}
+
+CleanPlan CleanChoice::limited(CleanPlan plan) const
+{
+    std::erase_if(plan.sections, [this](const PlanSection& section) { return !isWanted(section.id); });
+    return plan;
+}
+
+} // namespace orlen

@@ -1,0 +1,102 @@
+#include "app/AppModel.h"
+#include "app/Format.h"
+#include "cli/CleanChoice.h"
+#include "cli/Command.h"
+#include "cli/Confirmation.h"
+#include "cli/ItemList.h"
+#include "cli/JsonDocuments.h"
+#include "cli/PlanCarrier.h"
+#include "cli/SmartScan.h"
+#include "cli/Texts.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+namespace orlen {
+
+namespace {
+
+std::string checkedKind(const std::string& raw)
+{
+    const auto kind = kindFromRaw(raw);
+    if (!kind)
+        return "there is no kind " + Format::quoted(raw);
+    return Finding(*kind, {}).cleanable ? std::string() : std::string(Texts::kTrashIsKept);
+}
+
+class CleanCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"clean", "Run a Smart Scan, show what is selected, and move it to the Trash after a yes"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        SmartScan::addThresholdOption(app, m_thresholdMB);
+        auto* kind =
+            app.add_option("--kind", m_choice.kinds, "Of the selected entries only those of this kind")
+                ->type_name("KIND")
+                ->allow_extra_args(false)
+                ->check(checkedKind);
+        auto* all =
+            app.add_flag("--all", m_choice.allOfKinds, "Every entry of these kinds except those rated Keep")
+                ->needs(kind);
+        app.add_option("--path", m_choice.paths, "Exactly this entry of the scan, whatever its rating")
+            ->type_name("PATH")
+            ->allow_extra_args(false)
+            ->excludes(kind)
+            ->excludes(all);
+        app.add_flag("--dry-run", m_isDryRun, "Print the plan and move nothing");
+        app.add_flag("--yes", m_isConfirmed, "Move without asking");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        AppModel model(
+            {AppModel::Startup::filesOnly, AppModel::Access::writer, std::chrono::milliseconds(0)});
+        if (!m_isDryRun && !model.isWriter()) {
+            session.complain(Texts::kOtherWriter);
+            return ExitStatus::wrongCall;
+        }
+        if (!SmartScan::run(session, model, m_thresholdMB))
+            return ExitStatus::interrupted;
+        CleanChoice::Result chosen = m_choice.apply(model.findings(), model.selection());
+        if (!chosen.objection.empty()) {
+            session.complain(chosen.objection);
+            return ExitStatus::wrongCall;
+        }
+        model.setSelection(std::move(chosen.paths));
+        const CleanPlan plan = m_choice.limited(model.scanPlan());
+        if (m_isDryRun)
+            return shown(session, plan);
+        const PlanCarrier carrier{m_isConfirmed ? Confirmation::Asking::unneeded
+                                                : Confirmation::Asking::onTerminal,
+                                  wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing};
+        return carrier.carryOut(session, model, plan);
+    }
+
+private:
+    [[nodiscard]] ExitStatus shown(Session& session, const CleanPlan& plan)
+    {
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::dryRun(plan));
+        else
+            ItemList::toClean(plan, ItemList::Beside::nothing).show(session);
+        return ExitStatus::done;
+    }
+
+    double m_thresholdMB = 500;
+    CleanChoice m_choice;
+    bool m_isDryRun = false;
+    bool m_isConfirmed = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeCleanCommand()
+{
+    return std::make_unique<CleanCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "cli/Session.h"
+
+#include <memory>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace orlen {
+
+/// One command of the command line.
+class Command {
+public:
+    Command() = default;
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+    virtual ~Command() = default;
+
+    struct Description {
+        const char* name;
+        const char* summary;
+    };
+    [[nodiscard]] virtual Description description() const = 0;
+
+    /// Adds what only this command takes. The options are filled when `run` is called.
+    virtual void addOptions(CLI::App& app) = 0;
+    [[nodiscard]] virtual ExitStatus run(Session& session) = 0;
+
+    /// Whether one JSON document is wanted instead of text.
+    [[nodiscard]] bool& wantsJson() { return m_wantsJson; }
+
+private:
+    bool m_wantsJson = false;
+};
+
+/// Each command is a file of its own, which nothing else knows but by its line here.
+std::unique_ptr<Command> makeScanCommand();
+std::unique_ptr<Command> makeCleanCommand();
+std::unique_ptr<Command> makeHistoryCommand();
+std::unique_ptr<Command> makeRestoreCommand();
+std::unique_ptr<Command> makeBreakdownCommand();
+std::unique_ptr<Command> makePredictCommand();
+std::unique_ptr<Command> makeAskCommand();
+std::unique_ptr<Command> makeDuplicatesCommand();
+std::unique_ptr<Command> makePhotosCommand();
+std::unique_ptr<Command> makeMapCommand();
+std::unique_ptr<Command> makeAppsCommand();
+std::unique_ptr<Command> makeLeftoversCommand();
+std::unique_ptr<Command> makeUninstallCommand();
+std::unique_ptr<Command> makeStartupCommand();
+
+} // namespace orlen

@@ -1,0 +1,127 @@
+#include "app/Format.h"
+#include "clean/Safety.h"
+#include "cli/Command.h"
+#include "cli/FolderArguments.h"
+#include "cli/FolderSearch.h"
+#include "cli/JsonDocuments.h"
+#include "cli/Table.h"
+#include "cli/Texts.h"
+#include "model/ByteCount.h"
+#include "model/Rater.h"
+#include "scan/Duplicates.h"
+#include "scan/ScanProgress.h"
+#include "scan/Walk.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+constexpr std::int64_t kSmallestCandidate = 1'000'000;
+
+/// Images from that size on are among the candidates already.
+std::vector<Cand> input(Walk::Found found)
+{
+    std::vector<Cand> cands = std::move(found.cands);
+    std::copy_if(found.images.begin(), found.images.end(), std::back_inserter(cands),
+                 [](const Cand& image) { return image.size < kSmallestCandidate; });
+    return cands;
+}
+
+struct Search {
+    Duplicates::Result result;
+    Seconds duration{0};
+    bool wasStopped = false;
+};
+
+Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
+{
+    const auto started = std::chrono::steady_clock::now();
+    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
+    Search search{Duplicates::find(input(found), stop)};
+    search.duration = std::chrono::steady_clock::now() - started;
+    search.wasStopped = stop.stop_requested();
+    return search;
+}
+
+/// Rated as it would be in a scan.
+Finding rated(const Duplicates::Result& result)
+{
+    return Rater::rate({Duplicates::finding(result)}).front();
+}
+
+void printSets(const Search& found, const Finding& finding)
+{
+    const Colours colours = Session::colours();
+    if (found.result.sets.empty()) {
+        Session::print(std::string(Texts::kNoDuplicates) + '\n');
+        return;
+    }
+    Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"File", Table::Kind::path}});
+    for (const Duplicates::Set& set : found.result.sets) {
+        table.addGap();
+        table.addRow({{byteCount(set.kept.size)}, {"keeps", Style::dim}, {Format::shownPath(set.kept.path)}});
+        for (const Duplicates::Copy& copy : set.copies)
+            table.addRow({{}, {"copy", Style::orange}, {Format::shownPath(copy.file.path)}});
+    }
+    const auto copies = static_cast<std::int64_t>(finding.items.size());
+    Session::print(
+        colours.styled(Style::bold, Format::counted(copies, "copy") + ", " + byteCount(finding.totalSize())) +
+        '\n' +
+        colours.styled(Style::dim, Format::counted(found.result.filesConsidered, "file") + " compared in " +
+                                       Format::duration(found.duration.count())) +
+        "\n\n" + table.text(colours, Session::width()));
+}
+
+class DuplicatesCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"duplicates", "Find files with the same content below folders, or in the home folder"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("DIR", m_arguments, "Folders to look into; the home folder when there are none");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        Safety::refresh();
+        const auto folders = FolderArguments::checked(session, m_arguments);
+        if (!folders)
+            return ExitStatus::wrongCall;
+        const Search found =
+            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
+                return search(*folders, progress, stop);
+            });
+        if (found.wasStopped) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        const Finding finding = rated(found.result);
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::duplicates(finding, found.result, found.duration));
+        else
+            printSets(found, finding);
+        return ExitStatus::done;
+    }
+
+private:
+    std::vector<std::string> m_arguments;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeDuplicatesCommand()
+{
+    return std::make_unique<DuplicatesCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,97 @@
+#include "app/DiskMapModel.h"
+#include "app/Format.h"
+#include "cli/Bar.h"
+#include "cli/Command.h"
+#include "cli/JsonDocuments.h"
+#include "cli/PathArgument.h"
+#include "cli/Table.h"
+#include "cli/Texts.h"
+#include "model/ByteCount.h"
+#include "platform/CheckedSum.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <chrono>
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+Table::Cell nameCell(const TreeNode& node)
+{
+    std::string name = PathText::forDisplay(node.name);
+    if (node.isDir)
+        name += '/';
+    return {std::move(name), node.isOther ? Style::dim : Style::plain};
+}
+
+void printMap(const DiskMapModel& model, JsonDocuments::Seconds duration)
+{
+    std::int64_t total = 0;
+    for (const TreeNode& node : model.nodes())
+        total = checkedAdd(total, node.size);
+    Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"Name", Table::Kind::path}});
+    for (const TreeNode& node : model.nodes())
+        table.addRow({{byteCount(node.size)}, {Bar::text(node.size, total), Style::blue}, nameCell(node)});
+    const Colours colours = Session::colours();
+    const std::string heading = byteCount(total) + " in " + Format::shownPath(model.current());
+    Session::print(colours.styled(Style::bold, heading) + '\n' +
+                   colours.styled(Style::dim, "measured in " + Format::duration(duration.count())) + '\n');
+    if (!model.nodes().empty())
+        Session::print('\n' + table.text(colours, Session::width()));
+}
+
+class MapCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"map", "Show what the items of a folder take on disk, largest first"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("DIR", m_argument, "Folder to show; the home folder when there is none");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        const std::string argument = m_argument.value_or(Places::current().home);
+        const std::string folder = PathArgument::readableFolder(argument);
+        if (folder.empty() || (wantsJson() && !PathText::isValidUtf8(folder))) {
+            session.complain(Format::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
+                                                                            : Texts::kNoTextInDocument));
+            return ExitStatus::wrongCall;
+        }
+        const auto started = std::chrono::steady_clock::now();
+        DiskMapModel model(folder);
+        model.load();
+        session.run({[&] { return !model.isLoading() || session.isInterrupted(); }, [] {},
+                     [&] { return std::string(Texts::kMeasuringFolder) + Format::shownPath(folder); }});
+        if (model.isLoading()) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        const JsonDocuments::Seconds duration = std::chrono::steady_clock::now() - started;
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::map(folder, model.nodes(), duration));
+        else
+            printMap(model, duration);
+        return ExitStatus::done;
+    }
+
+private:
+    std::optional<std::string> m_argument;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeMapCommand()
+{
+    return std::make_unique<MapCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,28 @@
+#include "cli/PathArgument.h"
+
+#include "platform/Folder.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+#include "platform/Reachability.h"
+
+namespace orlen::PathArgument {
+
+std::string absolute(const std::string& argument)
+{
+    if (argument.empty())
+        return {};
+    const std::string path = argument.front() == '/' ? argument : PathText::join(resolved("."), argument);
+    return Places::current().normalized(path);
+}
+
+std::string readableFolder(const std::string& argument)
+{
+    if (!Reachability::admit(argument).ok())
+        return {};
+    const std::string folder = resolved(argument);
+    if (folder.empty() || !isListable(folder))
+        return {};
+    return Places::current().normalized(folder);
+}
+
+} // namespace orlen::PathArgument

@@ -1,0 +1,129 @@
+#include "app/Format.h"
+#include "clean/Safety.h"
+#include "cli/Command.h"
+#include "cli/FindingTable.h"
+#include "cli/FolderArguments.h"
+#include "cli/FolderSearch.h"
+#include "cli/JsonDocuments.h"
+#include "cli/Texts.h"
+#include "model/ByteCount.h"
+#include "model/Rater.h"
+#include "platform/CheckedSum.h"
+#include "platform/images/ImageWorkers.h"
+#include "scan/ScanFlag.h"
+#include "scan/ScanProgress.h"
+#include "scan/Walk.h"
+#include "scan/photos/PhotoAnalyzer.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <limits>
+
+namespace orlen {
+
+namespace {
+
+using Seconds = std::chrono::duration<double>;
+
+struct PhotoSearch {
+    std::vector<PhotoInfo> photos;
+    std::vector<Finding> findings; ///< all five, rated as they would be in a scan
+    Seconds duration{0};
+    bool wasStopped = false;
+};
+
+PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& progress,
+                         const std::stop_token& stop)
+{
+    const auto started = std::chrono::steady_clock::now();
+    ScanFlag flag;
+    const std::stop_callback cancel(stop, [&] { flag.cancel(); });
+    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
+    ImageWorkers workers({});
+    const PhotoAnalyzer analyzer(
+        progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
+    PhotoSearch search{analyzer.analyze(found.images)};
+    std::vector<Finding> findings = PhotoAnalyzer::findings(search.photos, stop);
+    search.wasStopped = stop.stop_requested();
+    if (!search.wasStopped)
+        search.findings = Rater::rate(std::move(findings));
+    search.duration = std::chrono::steady_clock::now() - started;
+    return search;
+}
+
+void printFindings(const PhotoSearch& found)
+{
+    std::vector<Finding> shown;
+    std::int64_t entries = 0;
+    std::int64_t bytes = 0;
+    for (const Finding& finding : found.findings) {
+        if (finding.items.empty())
+            continue;
+        shown.push_back(finding);
+        entries += static_cast<std::int64_t>(finding.items.size());
+        bytes = checkedAdd(bytes, finding.totalSize());
+    }
+    const Colours colours = Session::colours();
+    const std::string headline = shown.empty() ? std::string(Texts::kNoPhotos)
+                                               : Format::counted(entries, "photo") + ", " + byteCount(bytes);
+    const auto photos = static_cast<std::int64_t>(found.photos.size());
+    Session::print(colours.styled(Style::bold, headline) + '\n' +
+                   colours.styled(Style::dim, Format::counted(photos, "picture") + " looked at in " +
+                                                  Format::duration(found.duration.count())) +
+                   '\n');
+    if (!shown.empty())
+        Session::print(
+            '\n' +
+            FindingTable::of(shown, std::numeric_limits<std::size_t>::max()).text(colours, Session::width()));
+}
+
+class PhotosCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("DIR", m_arguments,
+                       "Folders to look into; the image folders of the home folder when there are none");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        Safety::refresh();
+        const auto folders = FolderArguments::checked(session, m_arguments);
+        if (!folders)
+            return ExitStatus::wrongCall;
+        const PhotoSearch found =
+            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
+                return searchPhotos(*folders, progress, stop);
+            });
+        if (found.wasStopped) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::photos(found.findings, found.photos, found.duration));
+        else
+            printFindings(found);
+        if (!ImageWorkers::recognizer().empty())
+            return ExitStatus::done;
+        session.complain(Texts::kNoRecognizer);
+        return ExitStatus::someFailed;
+    }
+
+private:
+    std::vector<std::string> m_arguments;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makePhotosCommand()
+{
+    return std::make_unique<PhotosCommand>();
+}
+
+} // namespace orlen

@@ -1,0 +1,105 @@
+#include "app/AppModel.h"
+#include "app/Format.h"
+#include "cli/Command.h"
+#include "cli/Confirmation.h"
+#include "cli/FailureList.h"
+#include "cli/ItemList.h"
+#include "cli/JsonDocuments.h"
+#include "cli/Texts.h"
+#include "platform/PathText.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::size_t kShortestId = 4;
+
+/// The records whose identity begins so, letters of either case.
+std::vector<CleanRecord> matching(const std::vector<CleanRecord>& history, const std::string& id)
+{
+    std::vector<CleanRecord> records;
+    if (id.size() < kShortestId)
+        return records;
+    std::copy_if(history.begin(), history.end(), std::back_inserter(records), [&](const CleanRecord& record) {
+        return PathText::asciiLower(record.id.text()).starts_with(PathText::asciiLower(id));
+    });
+    return records;
+}
+
+class RestoreCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"restore", "Put the items of one clean-up back where they were"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        app.add_option("ID", m_id, "The record as `orlen history` names it, or its first characters")
+            ->required();
+        app.add_flag("--yes", m_isConfirmed, "Put back without asking");
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        AppModel model({AppModel::Startup::filesOnly});
+        session.complain(model.notices());
+        const std::vector<CleanRecord> records = matching(model.history(), m_id);
+        if (records.size() != 1) {
+            session.complain(records.empty() ? "there is no clean-up " + Format::quoted(m_id) + '.'
+                                             : "several clean-ups begin with " + Format::quoted(m_id) + '.');
+            return ExitStatus::wrongCall;
+        }
+        if (!model.isWriter()) {
+            session.complain(Texts::kOtherWriter);
+            return ExitStatus::wrongCall;
+        }
+        if (const auto refused = refusal(session, records.front()))
+            return *refused;
+        return restored(session, model, records.front());
+    }
+
+private:
+    [[nodiscard]] std::optional<ExitStatus> refusal(Session& session, const CleanRecord& record)
+    {
+        const auto beside = wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing;
+        const ItemList list = ItemList::toRestore(record, beside);
+        if (list.isEmpty())
+            return std::nullopt;
+        list.show(session);
+        const auto asking = m_isConfirmed ? Confirmation::Asking::unneeded : Confirmation::Asking::onTerminal;
+        return Confirmation::refusal(session, asking, "Put back " + list.summary() + '?');
+    }
+
+    [[nodiscard]] ExitStatus restored(Session& session, AppModel& model, const CleanRecord& record)
+    {
+        const AppModel::Restoration restoration = model.restore(record);
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::restore(restoration.outcome, restoration.message));
+        else
+            Session::print(restoration.message + '\n');
+        const Cleaner::Restored& outcome = restoration.outcome;
+        FailureList::show(session, outcome.failures, outcome.refusal, Texts::kRestoreNotBegun);
+        if (!restoration.isRecorded)
+            session.complain(Texts::kNotRecorded);
+        return outcome.failed > 0 || !restoration.isRecorded ? ExitStatus::someFailed : ExitStatus::done;
+    }
+
+    std::string m_id;
+    bool m_isConfirmed = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeRestoreCommand()
+{
+    return std::make_unique<RestoreCommand>();
+}
+
+} // namespace orlen

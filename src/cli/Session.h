@@ -1,0 +1,66 @@
+#pragma once
+
+#include "cli/Colours.h"
+#include "cli/ProgressLine.h"
+#include "platform/Interrupts.h"
+
+#include <functional>
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace orlen {
+
+/// How a command ends.
+enum class ExitStatus {
+    done = 0,
+    someFailed = 1,    ///< done, but at least one item could not be moved or restored
+    wrongCall = 2,     ///< or refused
+    interrupted = 130, ///< by Ctrl-C
+};
+
+/// One call of the program from a terminal or script: what it prints, and the wish to end it.
+class Session {
+public:
+    /// Work that goes on in the event loop.
+    struct Work {
+        std::function<bool()> isDone;
+        std::function<void()> cancel;        ///< called at Ctrl-C; the work then ends by itself
+        std::function<std::string()> status; ///< for the live line; asked only when that is shown
+        /// Whether a second Ctrl-C may end the program at once: never while something is moved.
+        enum class Nature { harmless, moving } nature = Nature::harmless;
+    };
+
+    /// Runs the event loop until the work is done.
+    void run(const Work& work);
+
+    /// Whether Ctrl-C was pressed up to now.
+    [[nodiscard]] bool isInterrupted();
+    /// Readable when Ctrl-C was pressed and nobody has asked yet.
+    [[nodiscard]] int interruptDescriptor() const { return m_interrupts.descriptor(); }
+
+    /// To standard output.
+    static void print(std::string_view text);
+    static void printDocument(const nlohmann::ordered_json& document);
+    /// To standard error.
+    void note(std::string_view text);
+    /// One sentence to standard error, with the program's name.
+    void complain(std::string_view sentence);
+    /// Each on a line of its own.
+    void complain(std::span<const std::string> sentences);
+
+    /// Where human output goes, and so how it looks.
+    [[nodiscard]] static Colours colours() { return Colours(Terminal::Stream::output); }
+    [[nodiscard]] static std::optional<int> width() { return Terminal::width(Terminal::Stream::output); }
+
+private:
+    void interrupt(const Work& work);
+
+    Interrupts m_interrupts;
+    int m_interrupted = 0;
+    ProgressLine m_progress;
+};
+
+} // namespace orlen

@@ -1,0 +1,170 @@
+#include "app/Format.h"
+#include "app/Workers.h"
+#include "cli/Command.h"
+#include "cli/JsonDocuments.h"
+#include "cli/Table.h"
+#include "cli/Texts.h"
+#include "platform/PathText.h"
+#include "tools/startup/LaunchControl.h"
+
+#include <CLI/CLI.hpp>
+#include <QObject>
+#include <nlohmann/json.hpp>
+
+#include <optional>
+#include <stop_token>
+#include <utility>
+#include <vector>
+
+namespace orlen {
+
+namespace {
+
+using Items = std::vector<LaunchItem>;
+
+/// Does the work on a thread of its own, so that Ctrl-C is heard meanwhile.
+template <typename Work>
+auto inBackground(Session& session, Session::Work::Nature nature, Work work) -> decltype(work())
+{
+    std::optional<decltype(work())> result;
+    QObject receiver;
+    Workers workers(receiver);
+    workers.start([&](const std::stop_token& /*stop*/) { return work(); },
+                  [&](decltype(work()) value) { result = std::move(value); });
+    session.run({[&] { return result.has_value(); }, [] {},
+                 [] { return std::string(Texts::kAskingServices); }, nature});
+    return *std::move(result);
+}
+
+void printItems(const Items& items)
+{
+    const Colours colours = Session::colours();
+    if (items.empty()) {
+        Session::print(std::string(Texts::kNoStartupItems) + '\n');
+        return;
+    }
+    using Kind = Table::Kind;
+    Table table({{"", Kind::text},
+                 {"Item", Kind::text},
+                 {"For", Kind::text},
+                 {"Runs", Kind::path},
+                 {"", Kind::text}});
+    for (const LaunchItem& item : items) {
+        std::string remark(item.isPartOfDesktop ? Texts::kPartOfDesktop : std::string_view());
+        if (!item.isSwitchable)
+            remark += (remark.empty() ? "" : " · ") + item.reason;
+        table.addRow({item.enabled ? Table::Cell{"On", Style::green} : Table::Cell{"Off", Style::dim},
+                      {PathText::forDisplay(item.label), Style::bold},
+                      {item.scope},
+                      {Format::shownPath(item.program)},
+                      {std::move(remark), Style::orange}});
+    }
+    Session::print(colours.styled(Style::dim, Texts::kStartupItems) + "\n\n" +
+                   table.text(colours, Session::width()) + '\n' +
+                   colours.styled(Style::dim, Texts::kHowToSwitch) + '\n');
+}
+
+/// The items of this path, else those of this label.
+Items named(const Items& items, const std::string& name)
+{
+    Items found;
+    for (const LaunchItem& item : items) {
+        if (item.path == name)
+            return {item};
+        if (item.label == name)
+            found.push_back(item);
+    }
+    return found;
+}
+
+class StartupCommand final : public Command {
+public:
+    [[nodiscard]] Description description() const override
+    {
+        return {"startup", "Show what starts when you log in; switch it off and on"};
+    }
+
+    void addOptions(CLI::App& app) override
+    {
+        m_disable =
+            addSwitch(app, "disable", "Switch an item off: stop it now and keep it off at the next login");
+        m_enable = addSwitch(app, "enable", "Switch an item on again: it starts at the next login");
+        app.require_subcommand(0, 1);
+    }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        const Items items =
+            inBackground(session, Session::Work::Nature::harmless, [] { return LaunchControl::load(); });
+        if (session.isInterrupted()) {
+            session.complain(Texts::kCancelled);
+            return ExitStatus::interrupted;
+        }
+        if (m_disable->parsed() || m_enable->parsed())
+            return runSwitch(session, items);
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::startup(items));
+        else
+            printItems(items);
+        return ExitStatus::done;
+    }
+
+private:
+    CLI::App* addSwitch(CLI::App& app, const char* name, const char* summary)
+    {
+        CLI::App* own = app.add_subcommand(name, summary);
+        own->add_option("LABEL", m_name, "Label of the item, or the path of its file")->required();
+        own->fallthrough();
+        return own;
+    }
+
+    [[nodiscard]] ExitStatus runSwitch(Session& session, const Items& items)
+    {
+        const Items found = named(items, m_name);
+        if (found.size() != 1) {
+            session.complain(found.empty() ? std::string(Texts::kNoStartupItem) + Format::quoted(m_name) + '.'
+                                           : Format::quoted(m_name).append(Texts::kSeveralStartupItems));
+            for (const LaunchItem& item : found)
+                session.note("  " + PathText::forDisplay(item.path) + '\n');
+            return ExitStatus::wrongCall;
+        }
+        const LaunchItem& item = found.front();
+        const bool isWanted = m_enable->parsed();
+        // What is on already stays as it is; what is off may still have something to stop.
+        const bool isDone =
+            (item.enabled && isWanted) || inBackground(session, Session::Work::Nature::moving,
+                                                       [&] { return LaunchControl::set(item, isWanted); });
+        report(session, item, isDone);
+        return isDone ? ExitStatus::done : ExitStatus::someFailed;
+    }
+
+    void report(Session& session, LaunchItem item, bool isDone)
+    {
+        const bool isWanted = m_enable->parsed();
+        const std::string name = Format::quoted(item.label);
+        if (isDone)
+            item.enabled = isWanted;
+        else
+            session.complain(name + std::string(isWanted ? Texts::kNotSwitchedOn : Texts::kNotSwitchedOff) +
+                             (item.isSwitchable ? "" : " " + item.reason));
+        if (wantsJson())
+            Session::printDocument(JsonDocuments::startupItem(item));
+        else if (isDone)
+            Session::print(name + std::string(isWanted ? Texts::kSwitchedOn : Texts::kSwitchedOff) + '\n');
+        if (isDone && !isWanted && item.isPartOfDesktop)
+            session.complain(name + std::string(Texts::kMayBeMissed));
+    }
+
+    std::string m_name;
+    CLI::App* m_disable = nullptr; ///< owned by the parser of the whole line
+    CLI::App* m_enable = nullptr;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeStartupCommand()
+{
+    return std::make_unique<StartupCommand>();
+}
+
+} // namespace orlen

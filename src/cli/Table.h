@@ -1,0 +1,59 @@
+#pragma once
+
+#include "cli/Colours.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// Rows of text in aligned columns, by the room that characters take on a terminal.
+class Table {
+public:
+    enum class Kind {
+        text,   ///< to the left
+        number, ///< to the right
+        path,   ///< to the left, shortened in the middle when the table would be too wide; one column at most
+    };
+    struct Column {
+        std::string heading;
+        Kind kind = Kind::text;
+    };
+    /// One line of displayable text.
+    struct Cell {
+        std::string text;
+        Style style = Style::plain;
+    };
+
+    explicit Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
+
+    /// Missing cells at the end are empty.
+    void addRow(std::vector<Cell> cells);
+    /// A line below the row, starting at a column and shortened at its end when it would be too wide.
+    void addLine(std::size_t column, Cell cell);
+    void addGap();
+
+    /// All lines, headings first when any column has one; unlimited in width without a limit.
+    [[nodiscard]] std::string text(const Colours& colours, std::optional<int> width) const;
+
+private:
+    struct Row {
+        enum class Shape { cells, line, gap } shape;
+        std::vector<Cell> cells;
+        std::size_t column = 0;
+    };
+    using Widths = std::vector<int>;
+
+    [[nodiscard]] Widths widths(std::optional<int> limit) const;
+    [[nodiscard]] std::string rowText(const std::vector<Cell>& cells, const Widths& widths,
+                                      const Colours& colours) const;
+    [[nodiscard]] static std::string lineText(const Row& row, const Widths& widths, std::optional<int> limit,
+                                              const Colours& colours);
+    [[nodiscard]] std::vector<Cell> headings() const;
+
+    std::vector<Column> m_columns;
+    std::vector<Row> m_rows;
+};
+
+} // namespace orlen

@@ -1,0 +1,357 @@
+#include "window/apps/AppDetailModel.h"
+
+#include "platform/CheckedSum.h"
+#include "tools/apps/AppList.h"
+#include "tools/apps/Uninstall.h"
+#include "window/apps/AppText.h"
+#include "window/lists/DisplayText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <chrono>
+#include <span>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::chrono::seconds kRunningInterval{2};
+
+} // namespace
+
+/// What a worker has found out about an application.
+struct AppDetailModel::Found {
+    Leftovers::Finding leftovers;
+    std::optional<std::int64_t> size;
+    bool isRunning = false;
+};
+
+AppDetailModel::AppDetailModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this)
+{
+    m_runningTimer.setSingleShot(true);
+    m_runningTimer.setInterval(kRunningInterval);
+    connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
+}
+
+AppDetailModel::~AppDetailModel() = default;
+
+void AppDetailModel::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr)
+        connect(m_app, &AppModel::sheetChanged, this, &AppDetailModel::followSheet);
+    Q_EMIT appChanged();
+}
+
+void AppDetailModel::setList(AppListModel* list)
+{
+    if (m_list == list)
+        return;
+    if (m_list != nullptr)
+        m_list->disconnect(this);
+    m_list = list;
+    if (m_list != nullptr)
+        connect(m_list, &AppListModel::summaryChanged, this, &AppDetailModel::followList);
+    Q_EMIT listChanged();
+}
+
+void AppDetailModel::show(int listRow)
+{
+    if (m_list == nullptr || listRow < 0 || listRow >= m_list->count())
+        return;
+    m_stop.request_stop();
+    m_runningTimer.stop();
+    setRows({});
+    m_info = m_list->apps()[static_cast<std::size_t>(listRow)];
+    m_isOtherCopyInstalled = false;
+    m_isRunning = false;
+    m_isLoading = m_info.isRemovable();
+    setOpen(true);
+    Q_EMIT changed();
+    Q_EMIT selectionChanged();
+    const int generation = ++m_generation;
+    if (!m_info.isRemovable())
+        return;
+    m_stop = m_workers.start([app = m_info, listed = m_list->apps()](
+                                 const std::stop_token& stop) { return look(app, listed, stop); },
+                             [this, generation](Found found) {
+                                 if (generation == m_generation)
+                                     take(std::move(found));
+                             });
+}
+
+AppDetailModel::Found AppDetailModel::look(const AppInfo& app, const std::vector<AppInfo>& listed,
+                                           const std::stop_token& stop)
+{
+    Found found;
+    found.isRunning = AppList::isRunning(app);
+    found.leftovers = Leftovers::find(app, listed, stop);
+    found.size = app.size;
+    if (!found.size)
+        AppList::measure(
+            std::span(&app, 1), [&](std::size_t, std::int64_t bytes) { found.size = bytes; }, stop);
+    return found;
+}
+
+void AppDetailModel::take(Found found)
+{
+    std::vector<Row> rows;
+    rows.reserve(found.leftovers.entries.size());
+    for (FileEntry& entry : found.leftovers.entries)
+        rows.push_back({std::move(entry), true});
+    setRows(std::move(rows));
+    m_isOtherCopyInstalled = found.leftovers.isOtherCopyInstalled;
+    m_isRunning = found.isRunning;
+    if (found.size)
+        m_info.size = found.size;
+    m_isLoading = false;
+    if (m_isRunning)
+        m_runningTimer.start();
+    Q_EMIT changed();
+    Q_EMIT selectionChanged();
+}
+
+void AppDetailModel::checkRunning()
+{
+    m_workers.start([app = m_info](const std::stop_token&) { return AppList::isRunning(app); },
+                    [this, generation = m_generation](bool isRunning) {
+                        if (generation != m_generation)
+                            return;
+                        m_isRunning = isRunning;
+                        if (m_isRunning)
+                            m_runningTimer.start();
+                        Q_EMIT changed();
+                    });
+}
+
+/// The size may arrive while the application is shown, and the application may be gone.
+void AppDetailModel::followList()
+{
+    if (!m_isOpen || m_list->isLoading())
+        return;
+    const auto& apps = m_list->apps();
+    const auto same =
+        std::find_if(apps.begin(), apps.end(), [&](const AppInfo& app) { return app.path == m_info.path; });
+    if (same == apps.end()) {
+        close();
+    } else if (same->size && same->size != m_info.size) {
+        m_info.size = same->size;
+        Q_EMIT changed();
+        Q_EMIT selectionChanged();
+    }
+}
+
+void AppDetailModel::close()
+{
+    m_stop.request_stop();
+    m_runningTimer.stop();
+    ++m_generation;
+    setOpen(false);
+}
+
+void AppDetailModel::toggle(int row)
+{
+    if (row < 0 || row >= count())
+        return;
+    bool& isChecked = m_rows[static_cast<std::size_t>(row)].isChecked;
+    isChecked = !isChecked;
+    rowsChanged(row, row);
+}
+
+void AppDetailModel::toggleAll()
+{
+    if (m_rows.empty())
+        return;
+    const bool isChecked = checkState() != Qt::Checked;
+    for (Row& row : m_rows)
+        row.isChecked = isChecked;
+    rowsChanged(0, count() - 1);
+}
+
+void AppDetailModel::copyCommand() const
+{
+    QGuiApplication::clipboard()->setText(command());
+}
+
+void AppDetailModel::review()
+{
+    if (!m_isOpen || !isReady() || m_app == nullptr)
+        return;
+    CleanPlan plan = Uninstall::plan(m_info, chosen());
+    close();
+    m_reviewed = plan.id;
+    m_app->setSheet(PlanSheet{std::move(plan)});
+}
+
+void AppDetailModel::followSheet()
+{
+    const auto* review = m_app->sheet() ? std::get_if<PlanSheet>(&*m_app->sheet()) : nullptr;
+    if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
+        return;
+    m_reviewed.reset();
+    // A confirmed review closes too, and only then does the clean-up begin.
+    QMetaObject::invokeMethod(this, &AppDetailModel::resume, Qt::QueuedConnection);
+}
+
+/// Shows the application again as it was left.
+void AppDetailModel::resume()
+{
+    if (m_isOpen || m_app->sheet() || m_app->cleaning())
+        return;
+    setOpen(true);
+    checkRunning();
+    followList();
+}
+
+void AppDetailModel::setOpen(bool isOpen)
+{
+    if (isOpen == m_isOpen)
+        return;
+    m_isOpen = isOpen;
+    Q_EMIT openChanged();
+}
+
+void AppDetailModel::setRows(std::vector<Row> rows)
+{
+    if (!m_rows.empty()) {
+        beginRemoveRows({}, 0, count() - 1);
+        m_rows.clear();
+        endRemoveRows();
+    }
+    if (!rows.empty()) {
+        beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
+        m_rows = std::move(rows);
+        endInsertRows();
+    }
+}
+
+void AppDetailModel::rowsChanged(int first, int last)
+{
+    Q_EMIT dataChanged(index(first), index(last), {static_cast<int>(Role::checked)});
+    Q_EMIT selectionChanged();
+}
+
+std::vector<FileEntry> AppDetailModel::chosen() const
+{
+    std::vector<FileEntry> entries;
+    for (const Row& row : m_rows) {
+        if (row.isChecked)
+            entries.push_back(row.entry);
+    }
+    return entries;
+}
+
+QString AppDetailModel::name() const
+{
+    return DisplayText::path(m_info.name);
+}
+
+QString AppDetailModel::origin() const
+{
+    return AppText::origin(m_info);
+}
+
+QString AppDetailModel::identifier() const
+{
+    return DisplayText::path(m_info.bundleID);
+}
+
+QString AppDetailModel::icon() const
+{
+    return AppText::iconId(m_info);
+}
+
+QString AppDetailModel::size() const
+{
+    return m_info.size ? DisplayText::size(*m_info.size) : QString();
+}
+
+QString AppDetailModel::advice() const
+{
+    return DisplayText::path(m_info.advice);
+}
+
+QString AppDetailModel::command() const
+{
+    return DisplayText::path(m_info.adviceCommand);
+}
+
+QString AppDetailModel::heading() const
+{
+    return AppText::leftoversHeading(m_info);
+}
+
+QString AppDetailModel::quitFirst() const
+{
+    return m_isRunning ? AppText::quitFirst(m_info) : QString();
+}
+
+Qt::CheckState AppDetailModel::checkState() const
+{
+    const auto checked =
+        std::count_if(m_rows.begin(), m_rows.end(), [](const Row& r) { return r.isChecked; });
+    if (checked == 0)
+        return Qt::Unchecked;
+    return static_cast<std::size_t>(checked) == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+QString AppDetailModel::chosenText() const
+{
+    return AppText::chosen(chosen().size(), m_rows.size());
+}
+
+QString AppDetailModel::total() const
+{
+    std::int64_t bytes = m_info.size.value_or(0);
+    for (const FileEntry& entry : chosen())
+        bytes = checkedAdd(bytes, entry.size);
+    return m_info.size ? DisplayText::size(bytes) : QString();
+}
+
+bool AppDetailModel::isReady() const
+{
+    return isRemovable() && !m_isLoading && m_info.size.has_value();
+}
+
+int AppDetailModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant AppDetailModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const auto& [entry, isChecked] = m_rows[static_cast<std::size_t>(index.row())];
+    switch (static_cast<Role>(role)) {
+    case Role::name:
+        return DisplayText::nameOf(entry.path);
+    case Role::folder:
+        return DisplayText::folderOf(entry.path);
+    case Role::size:
+        return DisplayText::size(entry.size);
+    case Role::note:
+        return DisplayText::path(entry.note.value_or(""));
+    case Role::checked:
+        return isChecked;
+    }
+    return {};
+}
+
+QHash<int, QByteArray> AppDetailModel::roleNames() const
+{
+    return {{static_cast<int>(Role::name), "name"},
+            {static_cast<int>(Role::folder), "folder"},
+            {static_cast<int>(Role::size), "size"},
+            {static_cast<int>(Role::note), "note"},
+            {static_cast<int>(Role::checked), "checked"}};
+}
+
+} // namespace orlen

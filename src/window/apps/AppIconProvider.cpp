@@ -1,0 +1,85 @@
+#include "window/apps/AppIconProvider.h"
+
+#include "platform/FileContent.h"
+#include "platform/Folder.h"
+#include "window/apps/IconFiles.h"
+#include "window/controls/BadgeDrawing.h"
+#include "window/preview/PictureReader.h"
+#include "window/shell/ScreenTable.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImageReader>
+#include <QPainter>
+
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::size_t kFileLimit = 8UL * 1024 * 1024;
+constexpr int kMemoryLimit = 64; ///< megabytes of one decoded icon
+
+QColor standInColour()
+{
+    return screenTable()[static_cast<std::size_t>(Screen::apps)].colour;
+}
+
+/// A drawing of the system, here in this process. Null when it cannot be read.
+QImage rendered(const std::string& path, QSize size)
+{
+    const std::optional<std::string> content = readSmallFile(path, kFileLimit);
+    if (!content)
+        return {};
+    QByteArray bytes(content->data(), static_cast<qsizetype>(content->size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "svg");
+    reader.setAutoDetectImageFormat(false);
+    reader.setAllocationLimit(kMemoryLimit);
+    if (!reader.size().isValid())
+        return {};
+    reader.setScaledSize(reader.size().scaled(size, Qt::KeepAspectRatio));
+    return reader.read();
+}
+
+/// At most `size` large, its shape kept. Null when it cannot be read.
+QImage decoded(const std::string& path, QSize size)
+{
+    // Themes and Flatpak are full of links.
+    const std::string file = resolved(path);
+    return IconFiles::isSystemDrawing(file) ? rendered(file, size) : PictureReader::icon(file, size);
+}
+
+QImage found(const std::string& icon, QSize size)
+{
+    for (const std::string& path : IconFiles::candidates(icon, size.height())) {
+        if (QImage image = decoded(path, size); !image.isNull())
+            return image;
+    }
+    return {};
+}
+
+} // namespace
+
+QString AppIconProvider::id(const QString& symbol, const std::string& icon)
+{
+    // As digits, because a path may hold bytes that no text can.
+    return symbol + u'/' + QString::fromLatin1(QByteArray::fromStdString(icon).toHex());
+}
+
+void AppIconProvider::draw(QImage& image, const QString& id) const
+{
+    const QByteArray icon = QByteArray::fromHex(id.section(u'/', 1, 1).toLatin1());
+    const QImage picture = icon.isEmpty() ? QImage() : found(icon.toStdString(), image.size());
+    QPainter painter(&image);
+    if (picture.isNull()) {
+        BadgeDrawing::draw(painter, id.section(u'/', 0, 0), standInColour(), QRectF(image.rect()));
+        return;
+    }
+    QRect place(QPoint(), picture.size());
+    place.moveCenter(image.rect().center());
+    painter.drawImage(place.topLeft(), picture);
+}
+
+} // namespace orlen

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "window/apps/AppListModel.h"
+
+#include <QSortFilterProxyModel>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+/// The applications that a search leaves, in the order that the user wants. Rows and roles are those of
+/// `AppListModel`. Main thread.
+class AppOrderModel : public QSortFilterProxyModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppListModel* list READ list WRITE setList NOTIFY listChanged REQUIRED)
+    /// Words that the name, the kind or the place of an application must hold, all of them, whatever the
+    /// case.
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    Q_PROPERTY(Order order READ order WRITE setOrder NOTIFY orderChanged)
+
+public:
+    enum Order {
+        ByName,
+        BySize, ///< largest first, those not yet measured last
+    };
+    Q_ENUM(Order)
+
+    explicit AppOrderModel(QObject* parent = nullptr);
+
+    [[nodiscard]] AppListModel* list() const { return m_list; }
+    void setList(AppListModel* list);
+    [[nodiscard]] QString query() const { return m_query; }
+    void setQuery(const QString& query);
+    [[nodiscard]] Order order() const { return m_order; }
+    void setOrder(Order order);
+
+    /// The row of the list that a row shown here is.
+    Q_INVOKABLE [[nodiscard]] int listRow(int row) const;
+
+Q_SIGNALS:
+    void listChanged();
+    void queryChanged();
+    void orderChanged();
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+    [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    AppListModel* m_list = nullptr;
+    QString m_query;
+    Order m_order = ByName;
+};
+
+} // namespace orlen

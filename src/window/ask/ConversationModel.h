@@ -1,0 +1,85 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "app/Workers.h"
+#include "insight/ChatMessage.h"
+#include "window/ask/FindingLinks.h"
+
+#include <QAbstractListModel>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// The exchange on the Ask screen, oldest message first; it lasts as long as the screen. Answers are written
+/// on a worker, one at a time. Main thread.
+class ConversationModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Says who writes the answers.
+    Q_PROPERTY(QString introduction READ introduction CONSTANT)
+    /// Questions to begin with.
+    Q_PROPERTY(QStringList suggestions READ suggestions CONSTANT)
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged)
+    /// Whether an answer is being written; another question has to wait.
+    Q_PROPERTY(bool thinking READ isThinking NOTIFY thinkingChanged)
+
+public:
+    enum class Role {
+        fromUser = Qt::UserRole, ///< a question, else an answer
+        text,                    ///< may have several lines
+        usedModel,               ///< whether a language model wrote the answer
+        links,                   ///< of an answer: its FindingLinks
+    };
+    enum Recall { Earlier, Later };
+    Q_ENUM(Recall)
+
+    explicit ConversationModel(QObject* parent = nullptr);
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] static QString introduction();
+    [[nodiscard]] static QStringList suggestions();
+    [[nodiscard]] bool isEmpty() const { return m_rows.empty(); }
+    [[nodiscard]] bool isThinking() const { return m_isThinking; }
+
+    /// Adds the question and has it answered. False, and nothing happens, when it is blank or an answer is
+    /// still being written.
+    Q_INVOKABLE bool ask(const QString& question);
+    /// A past question, one step from the last one recalled; after the latest comes an empty text.
+    Q_INVOKABLE QString recall(Recall step);
+    /// Puts a message's text on the clipboard.
+    Q_INVOKABLE void copy(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void appChanged();
+    void emptyChanged();
+    void thinkingChanged();
+
+private:
+    struct Row {
+        ChatMessage message;
+        FindingLinks* links = nullptr; ///< a child of the model; null for a question
+    };
+
+    void append(ChatMessage message);
+    void setThinking(bool isThinking);
+
+    AppModel* m_app = nullptr;
+    std::vector<Row> m_rows;
+    bool m_isThinking = false;
+    std::vector<QString> m_asked;
+    std::size_t m_recalled = 0; ///< number of the question recalled last; their count for none
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "window/cleaning/FailureListModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace orlen {
+
+/// The clean-up that runs or has just ended, ready to show. Keeps its last state while the overlay closes.
+/// Main thread.
+class CleaningModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(bool finished READ isFinished NOTIFY changed)
+    /// Handled part, 0 to 1; 1 at the end.
+    Q_PROPERTY(double fraction READ fraction NOTIFY changed)
+    Q_PROPERTY(QString planTitle READ planTitle NOTIFY changed)
+    /// Name of the item in hand.
+    Q_PROPERTY(QString current READ current NOTIFY changed)
+    /// "12 of 340"
+    Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
+    Q_PROPERTY(int moved READ moved NOTIFY changed)
+    Q_PROPERTY(QString movedText READ movedText NOTIFY changed)
+    Q_PROPERTY(int failed READ failed NOTIFY changed)
+    Q_PROPERTY(QString failedText READ failedText NOTIFY changed)
+    Q_PROPERTY(QString freedText READ freedText NOTIFY changed)
+    /// What could not be moved; known when finished.
+    Q_PROPERTY(orlen::FailureListModel* failures READ failures CONSTANT)
+    /// Whether the history holds the clean-up.
+    Q_PROPERTY(bool recorded READ isRecorded NOTIFY changed)
+    /// Whether the user has asked for the end.
+    Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] bool isFinished() const { return m_state.finished; }
+    [[nodiscard]] double fraction() const;
+    [[nodiscard]] QString planTitle() const;
+    [[nodiscard]] QString current() const;
+    [[nodiscard]] QString progressText() const;
+    [[nodiscard]] int moved() const { return m_state.moved; }
+    [[nodiscard]] QString movedText() const;
+    [[nodiscard]] int failed() const { return m_state.failed; }
+    [[nodiscard]] QString failedText() const;
+    [[nodiscard]] QString freedText() const;
+    [[nodiscard]] FailureListModel* failures() { return &m_failures; }
+    [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }
+    [[nodiscard]] bool isStopping() const { return m_isStopping && !m_state.finished; }
+
+    /// Ends the clean-up after the item in hand.
+    Q_INVOKABLE void stop();
+
+Q_SIGNALS:
+    void appChanged();
+    void changed();
+
+private:
+    void follow();
+
+    AppModel* m_app = nullptr;
+    CleaningState m_state;
+    FailureListModel m_failures;
+    bool m_isShown = false;
+    bool m_isStopping = false;
+};
+
+} // namespace orlen

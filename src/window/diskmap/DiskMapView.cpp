@@ -1,0 +1,332 @@
+#include "window/diskmap/DiskMapView.h"
+
+#include "platform/CheckedSum.h"
+#include "window/diskmap/TileStep.h"
+#include "window/lists/DisplayText.h"
+#include "window/shell/Reveal.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orlen {
+
+namespace {
+
+constexpr double kTileGap = 2;
+constexpr int kHues = 6;
+/// Two notches of a common wheel, 120 each, are enough of a pinch to lead somewhere.
+constexpr double kMagnificationPerEighth = 0.2 / 120;
+
+/// Without the gap; what would be nothing but gap keeps a hair that can be seen.
+double withoutGap(double length)
+{
+    return std::max(length - kTileGap, std::min(length, 1.0));
+}
+
+/// Edges are rounded, not widths, so that all gaps are equally wide.
+QRectF placed(const Treemap::Rect& rect)
+{
+    const double left = std::round(rect.x);
+    const double top = std::round(rect.y);
+    const double width = std::round(rect.x + rect.width) - left;
+    const double height = std::round(rect.y + rect.height) - top;
+    return {left, top, withoutGap(width), withoutGap(height)};
+}
+
+DiskMapView::Kind kindOf(const TreeNode& node)
+{
+    if (node.isOther)
+        return DiskMapView::Rest;
+    return node.isDir ? DiskMapView::Folder : DiskMapView::File;
+}
+
+QString percent(double share)
+{
+    return share < 0.01 ? QStringLiteral("< 1 %") : QString::number(std::lround(share * 100)) + " %";
+}
+
+QString spoken(const TreeNode& node)
+{
+    QString text = DisplayText::path(node.name) + ", " + DisplayText::size(node.size);
+    switch (kindOf(node)) {
+    case DiskMapView::Folder:
+        return text + ", folder";
+    case DiskMapView::File:
+        return text + ", file";
+    case DiskMapView::Rest:
+        return text;
+    }
+    return text;
+}
+
+} // namespace
+
+DiskMapView::DiskMapView(QObject* parent) : QAbstractListModel(parent)
+{
+    m_crumbs.setFolders(m_map.stack());
+    m_shownFolders = m_map.stack();
+    connect(&m_map, &DiskMapModel::loadingChanged, this, &DiskMapView::followLoading);
+    connect(&m_map, &DiskMapModel::stackChanged, this, &DiskMapView::followStack);
+    connect(&m_map, &DiskMapModel::hoverChanged, this, &DiskMapView::hoverChanged);
+}
+
+void DiskMapView::setViewWidth(double width)
+{
+    m_view.width = width;
+    placeTiles();
+    Q_EMIT viewChanged();
+}
+
+void DiskMapView::setViewHeight(double height)
+{
+    m_view.height = height;
+    placeTiles();
+    Q_EMIT viewChanged();
+}
+
+QString DiskMapView::folderName() const
+{
+    return BreadcrumbModel::nameOfLast(m_map.stack());
+}
+
+int DiskMapView::hoverRow() const
+{
+    return isLoading() || !m_map.hover() ? -1 : static_cast<int>(*m_map.hover());
+}
+
+void DiskMapView::setCurrentRow(int row)
+{
+    if (row == m_currentRow || row < -1 || row >= rowCount())
+        return;
+    m_currentRow = row;
+    Q_EMIT currentRowChanged();
+}
+
+void DiskMapView::load()
+{
+    m_map.load();
+}
+
+void DiskMapView::up()
+{
+    m_map.up();
+}
+
+void DiskMapView::goTo(int step)
+{
+    if (step >= 0 && static_cast<std::size_t>(step) < m_map.stack().size())
+        m_map.goTo(static_cast<std::size_t>(step));
+}
+
+void DiskMapView::open(int row)
+{
+    if (!isLoading() && isRow(row))
+        m_map.zoomInto(static_cast<std::size_t>(row));
+}
+
+void DiskMapView::reveal(int row)
+{
+    if (!isLoading() && isRow(row))
+        Reveal::show(node(row).path);
+}
+
+void DiskMapView::step(Direction direction)
+{
+    if (isLoading() || m_tiles.empty())
+        return;
+    if (!isRow(m_currentRow)) {
+        setCurrentRow(0);
+        return;
+    }
+    const auto rects = Treemap::layout(m_map.nodes(), m_view);
+    const auto next = TileStep::neighbour(rects, static_cast<std::size_t>(m_currentRow),
+                                          static_cast<TileStep::Direction>(direction));
+    if (next)
+        setCurrentRow(static_cast<int>(*next));
+}
+
+QString DiskMapView::describe(int row) const
+{
+    const QString name = isRow(row) ? DisplayText::path(node(row).name) : folderName();
+    return name + QStringLiteral(" · ") + DisplayText::size(isRow(row) ? node(row).size : m_total);
+}
+
+void DiskMapView::click(QPointF point)
+{
+    m_map.click({point.x(), point.y()}, m_view);
+}
+
+void DiskMapView::movePointer(QPointF point)
+{
+    m_map.movePointer({point.x(), point.y()}, m_view);
+}
+
+void DiskMapView::removePointer()
+{
+    m_map.removePointer();
+}
+
+void DiskMapView::revealAt(QPointF point)
+{
+    movePointer(point);
+    reveal(hoverRow());
+}
+
+void DiskMapView::pinch(double scale)
+{
+    // A new pinch starts at 1 again.
+    if (scale != 1)
+        m_map.magnify(scale - m_pinchScale);
+    m_pinchScale = scale;
+}
+
+void DiskMapView::turnWheel(double eighths)
+{
+    m_map.magnify(eighths * kMagnificationPerEighth);
+}
+
+void DiskMapView::followStack()
+{
+    m_crumbs.setFolders(m_map.stack());
+    const int row = rowOf(m_map.current());
+    m_zoomOrigin = isRow(row) ? m_tiles[static_cast<std::size_t>(row)].area.center()
+                              : QPointF(m_view.width / 2, m_view.height / 2);
+    Q_EMIT stackChanged();
+}
+
+void DiskMapView::followLoading()
+{
+    if (isLoading()) {
+        Q_EMIT loadingChanged();
+        return;
+    }
+    m_isMeasured = true;
+    const int levels = static_cast<int>(m_map.stack().size()) - static_cast<int>(m_shownFolders.size());
+    arrange();
+    Q_EMIT loadingChanged();
+    Q_EMIT hoverChanged();
+    Q_EMIT arrived(levels);
+}
+
+void DiskMapView::arrange()
+{
+    const bool wasHere = isRow(m_currentRow) && m_shownFolders.back() == m_map.current();
+    const std::string current = wasHere ? node(m_currentRow).path : std::string();
+    m_isRearranging = true;
+    Q_EMIT rearrangingChanged();
+    takeNodes(m_map.nodes());
+    placeTiles();
+    m_isRearranging = false;
+    Q_EMIT rearrangingChanged();
+
+    const int row = wasHere ? rowOf(current) : rowAfterArrival();
+    m_shownFolders = m_map.stack();
+    m_currentRow = m_tiles.empty() ? -1 : std::max(row, 0);
+    Q_EMIT currentRowChanged();
+}
+
+/// On the way up, the folder that one comes from.
+int DiskMapView::rowAfterArrival() const
+{
+    const std::size_t depth = m_map.stack().size();
+    return m_shownFolders.size() > depth ? rowOf(m_shownFolders[depth]) : -1;
+}
+
+/// Tiles of what is still there keep their rows' identity and can move to their new place.
+void DiskMapView::takeNodes(const std::vector<TreeNode>& nodes)
+{
+    const auto isSame = [](const TreeNode& a, const TreeNode& b) {
+        return a.path == b.path && a.isOther == b.isOther;
+    };
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        if (std::ranges::any_of(nodes, [&](const TreeNode& n) { return isSame(n, node(row)); }))
+            continue;
+        beginRemoveRows({}, row, row);
+        m_tiles.erase(m_tiles.begin() + row);
+        endRemoveRows();
+    }
+    m_total = 0;
+    const auto rects = Treemap::layout(nodes, m_view);
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        const int row = static_cast<int>(i);
+        const auto found = std::find_if(m_tiles.begin() + row, m_tiles.end(),
+                                        [&](const Tile& tile) { return isSame(tile.node, nodes[i]); });
+        const int from = static_cast<int>(found - m_tiles.begin());
+        if (found == m_tiles.end()) {
+            beginInsertRows({}, row, row);
+            m_tiles.insert(m_tiles.begin() + row, {nodes[i], placed(rects[i])});
+            endInsertRows();
+        } else if (from != row) {
+            beginMoveRows({}, from, from, {}, row);
+            std::rotate(m_tiles.begin() + row, found, found + 1);
+            endMoveRows();
+        }
+        m_tiles[i].node = nodes[i];
+        m_total = checkedAdd(m_total, nodes[i].size);
+    }
+}
+
+void DiskMapView::placeTiles()
+{
+    if (m_tiles.empty())
+        return;
+    std::vector<TreeNode> nodes;
+    nodes.reserve(m_tiles.size());
+    for (const Tile& tile : m_tiles)
+        nodes.push_back(tile.node);
+    const auto rects = Treemap::layout(nodes, m_view);
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        m_tiles[i].area = placed(rects[i]);
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+int DiskMapView::rowOf(const std::string& path) const
+{
+    const auto found = std::ranges::find_if(
+        m_tiles, [&](const Tile& tile) { return tile.node.path == path && !tile.node.isOther; });
+    return found == m_tiles.end() ? -1 : static_cast<int>(found - m_tiles.begin());
+}
+
+int DiskMapView::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_tiles.size());
+}
+
+QVariant DiskMapView::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const auto& [node, area] = m_tiles[static_cast<std::size_t>(index.row())];
+    const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
+    switch (static_cast<Role>(role)) {
+    case Role::name:
+        return DisplayText::path(node.name);
+    case Role::size:
+        return DisplayText::size(node.size);
+    case Role::kind:
+        return static_cast<int>(kindOf(node));
+    case Role::hue:
+        return index.row() % kHues;
+    case Role::area:
+        return area;
+    case Role::share:
+        return share;
+    case Role::shareText:
+        return percent(share);
+    case Role::spoken:
+        return spoken(node);
+    }
+    return {};
+}
+
+QHash<int, QByteArray> DiskMapView::roleNames() const
+{
+    return {{static_cast<int>(Role::name), "name"},           {static_cast<int>(Role::size), "size"},
+            {static_cast<int>(Role::kind), "kind"},           {static_cast<int>(Role::hue), "hue"},
+            {static_cast<int>(Role::area), "area"},           {static_cast<int>(Role::share), "share"},
+            {static_cast<int>(Role::shareText), "shareText"}, {static_cast<int>(Role::spoken), "spoken"}};
+}
+
+} // namespace orlen

@@ -1,0 +1,144 @@
+#pragma once
+
+#include "app/DiskMapModel.h"
+#include "window/diskmap/BreadcrumbModel.h"
+
+#include <QAbstractListModel>
+#include <QPointF>
+#include <QRectF>
+#include <QtQml/qqmlregistration.h>
+
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// The disk map as tiles of a view of a given size, largest first, at most 61. While a folder is measured the
+/// tiles of the one before remain as rows, so that the screen can let them go; they answer to nothing. Main
+/// thread.
+class DiskMapView : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double viewWidth READ viewWidth WRITE setViewWidth NOTIFY viewChanged)
+    Q_PROPERTY(double viewHeight READ viewHeight WRITE setViewHeight NOTIFY viewChanged)
+    Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
+    /// Whether the folder shown was measured and has nothing to show.
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY loadingChanged)
+    /// Whether there is nothing to show because the folder may not be read, or is gone.
+    Q_PROPERTY(bool locked READ isLocked NOTIFY loadingChanged)
+    /// Whether the start folder is shown.
+    Q_PROPERTY(bool atStart READ isAtStart NOTIFY stackChanged)
+    /// Name of the folder shown.
+    Q_PROPERTY(QString folderName READ folderName NOTIFY stackChanged)
+    Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
+    /// Tile under the pointer, -1 for none.
+    Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
+    /// Tile that the keyboard acts on, -1 for none.
+    Q_PROPERTY(int currentRow READ currentRow WRITE setCurrentRow NOTIFY currentRowChanged)
+    /// Whether tiles change place because other things are shown, not because the view changes its size.
+    Q_PROPERTY(bool rearranging READ isRearranging NOTIFY rearrangingChanged)
+    /// The middle of the tile that the map went into last.
+    Q_PROPERTY(QPointF zoomOrigin READ zoomOrigin NOTIFY arrived)
+
+public:
+    enum class Role {
+        name = Qt::UserRole, ///< file name, or what the grouped node stands for
+        size,                ///< bytes as text
+        kind,                ///< Kind
+        hue,                 ///< 0 to 5; neighbours mostly differ
+        area,                ///< the tile in the view, in whole points, without the gap to the next one
+        share,               ///< part of the folder, 0 to 1
+        shareText,           ///< the same in per cent
+        spoken,              ///< name, size and kind for a screen reader
+    };
+    enum Kind { Folder, File, Rest };
+    Q_ENUM(Kind)
+    enum Direction { Left, Right, Up, Down };
+    Q_ENUM(Direction)
+
+    explicit DiskMapView(QObject* parent = nullptr);
+
+    [[nodiscard]] double viewWidth() const { return m_view.width; }
+    void setViewWidth(double width);
+    [[nodiscard]] double viewHeight() const { return m_view.height; }
+    void setViewHeight(double height);
+    [[nodiscard]] bool isLoading() const { return m_map.isLoading(); }
+    [[nodiscard]] bool isEmpty() const { return m_isMeasured && !isLoading() && m_tiles.empty(); }
+    [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
+    [[nodiscard]] bool isAtStart() const { return m_map.stack().size() == 1; }
+    [[nodiscard]] QString folderName() const;
+    [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
+    [[nodiscard]] int hoverRow() const;
+    [[nodiscard]] int currentRow() const { return m_currentRow; }
+    void setCurrentRow(int row);
+    [[nodiscard]] bool isRearranging() const { return m_isRearranging; }
+    [[nodiscard]] QPointF zoomOrigin() const { return m_zoomOrigin; }
+
+    Q_INVOKABLE void load();
+    Q_INVOKABLE void up();
+    /// To a folder of the breadcrumb, by its step.
+    Q_INVOKABLE void goTo(int step);
+    /// Into the tile's folder.
+    Q_INVOKABLE void open(int row);
+    /// Shows the tile's item in the file manager.
+    Q_INVOKABLE void reveal(int row);
+    /// To the next tile on that side.
+    Q_INVOKABLE void step(Direction direction);
+    /// "name · size" of a tile; of the whole folder for -1.
+    [[nodiscard]] Q_INVOKABLE QString describe(int row) const;
+
+    Q_INVOKABLE void click(QPointF point);
+    Q_INVOKABLE void movePointer(QPointF point);
+    Q_INVOKABLE void removePointer();
+    /// Shows the item under the point in the file manager, whatever the pointer was over before.
+    Q_INVOKABLE void revealAt(QPointF point);
+    /// `scale` of the whole pinch so far, 1 at its beginning.
+    Q_INVOKABLE void pinch(double scale);
+    /// A turn of the wheel in eighths of a degree, which acts as a pinch.
+    Q_INVOKABLE void turnWheel(double eighths);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void viewChanged();
+    void loadingChanged();
+    void stackChanged();
+    void hoverChanged();
+    void currentRowChanged();
+    void rearrangingChanged();
+    /// Another folder's tiles are there. `levels`: how much deeper it lies than the one before; 0 for the
+    /// same.
+    void arrived(int levels);
+
+private:
+    struct Tile {
+        TreeNode node;
+        QRectF area;
+    };
+
+    void followLoading();
+    void followStack();
+    void arrange();
+    void takeNodes(const std::vector<TreeNode>& nodes);
+    void placeTiles();
+    [[nodiscard]] int rowAfterArrival() const;
+    [[nodiscard]] bool isRow(int row) const { return row >= 0 && row < rowCount(); }
+    [[nodiscard]] const TreeNode& node(int row) const { return m_tiles[static_cast<std::size_t>(row)].node; }
+    [[nodiscard]] int rowOf(const std::string& path) const;
+
+    DiskMapModel m_map;
+    BreadcrumbModel m_crumbs;
+    Treemap::Size m_view;
+    std::vector<Tile> m_tiles;
+    std::int64_t m_total = 0;                ///< bytes of all tiles
+    std::vector<std::string> m_shownFolders; ///< the way to the folder whose tiles these are
+    bool m_isMeasured = false;               ///< some folder has been
+    bool m_isRearranging = false;
+    int m_currentRow = -1;
+    QPointF m_zoomOrigin;
+    double m_pinchScale = 1; ///< of the pinch in progress, as far as it has been told
+};
+
+} // namespace orlen

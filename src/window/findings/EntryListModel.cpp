@@ -1,0 +1,399 @@
+#include "window/findings/EntryListModel.h"
+
+#include "window/findings/SheetTexts.h"
+#include "window/lists/DisplayText.h"
+#include "window/lists/FileSymbol.h"
+#include "window/lists/PathTokens.h"
+#include "window/preview/Thumbnails.h"
+#include "window/shell/Reveal.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <numeric>
+#include <optional>
+
+namespace orlen {
+
+namespace {
+
+/// From this many separate pieces on, to show the list anew is quicker than to take out piece by piece.
+constexpr std::size_t kMostPieces = 100;
+
+struct Piece {
+    int first = 0;
+    int last = 0;
+};
+
+/// Which of the old entries are left, when the new ones are some of them in the same order.
+std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
+                                        const std::vector<FileEntry>& after)
+{
+    std::vector<bool> isKept(before.size());
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        isKept[i] = next < after.size() && before[i] == after[next];
+        if (isKept[i])
+            ++next;
+    }
+    if (next < after.size())
+        return std::nullopt;
+    return isKept;
+}
+
+} // namespace
+
+EntryListModel::EntryListModel(QObject* parent) : QAbstractListModel(parent), m_folders(new FolderTest(this))
+{
+    connect(m_folders, &FolderTest::answered, this, [this] {
+        if (!m_rows.empty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                               {static_cast<int>(Role::symbol), static_cast<int>(Role::thumbnail)});
+    });
+}
+
+void EntryListModel::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr) {
+        connect(m_app, &AppModel::findingsChanged, this, &EntryListModel::followFindings);
+        connect(m_app, &AppModel::selectionChanged, this, &EntryListModel::followSelection);
+    }
+    Q_EMIT appChanged();
+    load();
+}
+
+void EntryListModel::setFindingId(const QString& id)
+{
+    if (m_findingId == id)
+        return;
+    m_findingId = id;
+    m_wish = {};
+    Q_EMIT orderChanged();
+    load();
+}
+
+const Finding* EntryListModel::shownFinding() const
+{
+    if (m_app == nullptr)
+        return nullptr;
+    const std::string id = m_findingId.toStdString();
+    const auto& findings = m_app->findings();
+    const auto found = std::find_if(findings.begin(), findings.end(),
+                                    [&](const Finding& finding) { return finding.id() == id; });
+    return found == findings.end() ? nullptr : &*found;
+}
+
+/// A kind that the results do not hold has its texts all the same.
+FindingHeader EntryListModel::headerOf(const Finding* finding) const
+{
+    if (finding != nullptr)
+        return FindingHeader::of(*finding);
+    const auto kind = kindFromRaw(m_findingId.toStdString());
+    return kind ? FindingHeader::of(Finding(*kind, {})) : FindingHeader();
+}
+
+void EntryListModel::load()
+{
+    const Finding* finding = shownFinding();
+    beginResetModel();
+    m_header = headerOf(finding);
+    m_rating = finding == nullptr ? Rating::review : finding->rating;
+    m_entries = finding == nullptr ? std::vector<FileEntry>() : finding->items;
+    m_words.clear();
+    m_isSelected.assign(m_entries.size(), false);
+    arrange();
+    readSelection();
+    endResetModel();
+    count();
+    Q_EMIT findingChanged();
+}
+
+void EntryListModel::followFindings()
+{
+    const Finding* finding = shownFinding();
+    const std::vector<FileEntry> none;
+    const std::vector<FileEntry>& entries = finding == nullptr ? none : finding->items;
+    const auto isKept = keptOf(m_entries, entries);
+    if (!isKept) {
+        load();
+        return;
+    }
+    if (entries.size() == m_entries.size())
+        return;
+    removeRows(*isKept);
+    dropEntries(*isKept);
+    count();
+}
+
+void EntryListModel::removeRows(const std::vector<bool>& isKept)
+{
+    std::vector<Piece> pieces;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (isKept[entryIndex(row)])
+            continue;
+        if (pieces.empty() || pieces.back().last != row - 1)
+            pieces.push_back({row, row});
+        else
+            pieces.back().last = row;
+    }
+    if (pieces.size() > kMostPieces) {
+        beginResetModel();
+        std::erase_if(m_rows, [&](int entry) { return !isKept[static_cast<std::size_t>(entry)]; });
+        endResetModel();
+        return;
+    }
+    // From the end, so that the numbers before a piece stay true.
+    for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
+        beginRemoveRows({}, piece->first, piece->last);
+        m_rows.erase(m_rows.begin() + piece->first, m_rows.begin() + piece->last + 1);
+        endRemoveRows();
+    }
+}
+
+/// Takes out entries that no row shows any more.
+void EntryListModel::dropEntries(const std::vector<bool>& isKept)
+{
+    std::vector<int> newIndex(isKept.size());
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < isKept.size(); ++i) {
+        if (!isKept[i])
+            continue;
+        newIndex[i] = static_cast<int>(next);
+        if (next != i)
+            m_entries[next] = std::move(m_entries[i]);
+        m_isSelected[next] = m_isSelected[i];
+        ++next;
+    }
+    m_entries.resize(next);
+    m_isSelected.resize(next);
+    m_words.clear();
+    for (int& row : m_rows)
+        row = newIndex[static_cast<std::size_t>(row)];
+}
+
+void EntryListModel::followSelection()
+{
+    if (m_isSelecting)
+        return;
+    readSelection();
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {static_cast<int>(Role::marked)});
+    count();
+}
+
+void EntryListModel::readSelection()
+{
+    for (std::size_t i = 0; i < m_entries.size(); ++i)
+        m_isSelected[i] = m_app->selection().contains(m_entries[i].path);
+}
+
+void EntryListModel::arrange()
+{
+    if (m_words.empty() && (m_wish.key == EntryOrder::Key::name || !m_wish.filter.isEmpty()))
+        m_words = EntryOrder::wordsOf(m_entries);
+    m_rows = EntryOrder::rows(m_entries, m_words, m_wish);
+}
+
+void EntryListModel::setFilter(const QString& filter)
+{
+    if (m_wish.filter == filter)
+        return;
+    beginResetModel();
+    m_wish.filter = filter;
+    arrange();
+    endResetModel();
+    Q_EMIT orderChanged();
+    count();
+}
+
+void EntryListModel::sortBy(Key key)
+{
+    const bool isSame = m_wish.key == static_cast<EntryOrder::Key>(key);
+    beginResetModel();
+    m_wish.key = static_cast<EntryOrder::Key>(key);
+    m_wish.direction =
+        isSame && !isReversed() ? EntryOrder::Direction::reversed : EntryOrder::Direction::usual;
+    arrange();
+    endResetModel();
+    Q_EMIT orderChanged();
+}
+
+void EntryListModel::toggle(int row)
+{
+    if (hasRow(row))
+        setSelected({row}, !m_isSelected[entryIndex(row)]);
+}
+
+void EntryListModel::toggleShown()
+{
+    setShown(shownState() != Qt::Checked);
+}
+
+void EntryListModel::selectShown()
+{
+    setShown(true);
+}
+
+void EntryListModel::deselectShown()
+{
+    setShown(false);
+}
+
+void EntryListModel::setShown(bool isSelected)
+{
+    std::vector<int> rows(m_rows.size());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::erase_if(rows, [&](int row) { return m_isSelected[entryIndex(row)] == isSelected; });
+    setSelected(rows, isSelected);
+}
+
+void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
+{
+    if (rows.empty() || !m_header.isCleanable)
+        return;
+    std::vector<std::string> paths;
+    paths.reserve(rows.size());
+    for (const int row : rows) {
+        paths.push_back(entryAt(row).path);
+        m_isSelected[entryIndex(row)] = isSelected;
+    }
+    {
+        // Where folders are listed with what lies in them, other rows change too.
+        const QScopedValueRollback selecting(m_isSelecting, !m_app->listed().isNested());
+        if (isSelected)
+            m_app->select(paths);
+        else
+            m_app->deselect(paths);
+    }
+    Q_EMIT dataChanged(index(rows.front()), index(rows.back()), {static_cast<int>(Role::marked)});
+    count();
+}
+
+void EntryListModel::count()
+{
+    std::vector<const FileEntry*> selected;
+    m_hasNotes = false;
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        m_hasNotes = m_hasNotes || m_entries[i].note.has_value();
+        if (m_isSelected[i])
+            selected.push_back(&m_entries[i]);
+    }
+    m_selectedCount = static_cast<int>(selected.size());
+    m_selectedBytes = selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app->listed());
+    const auto isSelected = [this](int entry) { return m_isSelected[static_cast<std::size_t>(entry)]; };
+    m_shownCount = static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isSelected));
+    Q_EMIT figuresChanged();
+}
+
+QString EntryListModel::selectedText() const
+{
+    if (!m_header.isCleanable)
+        return SheetTexts::items(entryCount(), sizeOf(m_entries));
+    return SheetTexts::selected(m_selectedCount, entryCount(), m_selectedBytes);
+}
+
+QString EntryListModel::selectedSizeText() const
+{
+    return DisplayText::size(m_selectedBytes);
+}
+
+Qt::CheckState EntryListModel::shownState() const
+{
+    if (m_shownCount == 0)
+        return Qt::Unchecked;
+    return m_shownCount == rowCount() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+int EntryListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+std::size_t EntryListModel::entryIndex(int row) const
+{
+    return static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)]);
+}
+
+QVariant EntryListModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const FileEntry& entry = entryAt(index.row());
+    switch (static_cast<Role>(role)) {
+    case Role::name:
+        return DisplayText::nameOf(entry.path);
+    case Role::folder:
+        return DisplayText::folderOf(entry.path);
+    case Role::size:
+        return DisplayText::size(entry.size);
+    case Role::date:
+        return SheetTexts::dateOf(entry);
+    case Role::note:
+        return DisplayText::path(entry.note.value_or(""));
+    case Role::rating:
+    case Role::ratingLabel:
+    case Role::ratingSymbol:
+        return ratingData(entry, static_cast<Role>(role));
+    case Role::symbol:
+        return m_folders->isFolder(entry.path) ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
+    case Role::thumbnail:
+        return m_folders->isFolder(entry.path) ? QString() : Thumbnails::source(entry.path);
+    case Role::marked:
+        return static_cast<bool>(m_isSelected[entryIndex(index.row())]);
+    case Role::token:
+        return PathTokens::tokenOf(entry.path);
+    }
+    return {};
+}
+
+QVariant EntryListModel::ratingData(const FileEntry& entry, Role role) const
+{
+    const Rating rating = entry.rating.value_or(m_rating);
+    if (role == Role::rating)
+        return DisplayText::text(rawValue(rating));
+    return DisplayText::text(role == Role::ratingLabel ? label(rating) : orlen::symbol(rating));
+}
+
+QHash<int, QByteArray> EntryListModel::roleNames() const
+{
+    return {{static_cast<int>(Role::name), "name"},
+            {static_cast<int>(Role::folder), "folder"},
+            {static_cast<int>(Role::size), "size"},
+            {static_cast<int>(Role::date), "date"},
+            {static_cast<int>(Role::note), "note"},
+            {static_cast<int>(Role::rating), "rating"},
+            {static_cast<int>(Role::ratingLabel), "ratingLabel"},
+            {static_cast<int>(Role::ratingSymbol), "ratingSymbol"},
+            {static_cast<int>(Role::symbol), "symbol"},
+            {static_cast<int>(Role::thumbnail), "thumbnail"},
+            {static_cast<int>(Role::marked), "marked"},
+            {static_cast<int>(Role::token), "token"}};
+}
+
+int EntryListModel::tokenAt(int row) const
+{
+    return hasRow(row) ? PathTokens::tokenOf(entryAt(row).path) : 0;
+}
+
+QString EntryListModel::sizeAt(int row) const
+{
+    return hasRow(row) ? DisplayText::size(entryAt(row).size) : QString();
+}
+
+void EntryListModel::reveal(int row) const
+{
+    if (hasRow(row))
+        Reveal::show(entryAt(row).path);
+}
+
+void EntryListModel::review()
+{
+    m_app->setSheet(PlanSheet{m_app->scanPlan()});
+}
+
+} // namespace orlen

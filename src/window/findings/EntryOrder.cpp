@@ -1,0 +1,77 @@
+#include "window/findings/EntryOrder.h"
+
+#include "window/findings/SheetTexts.h"
+#include "window/lists/DisplayText.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace orlen::EntryOrder {
+
+namespace {
+
+bool hasAll(const Words& words, const QStringList& wanted)
+{
+    return std::all_of(wanted.begin(), wanted.end(), [&](const QString& word) {
+        return words.name.contains(word) || words.folder.contains(word);
+    });
+}
+
+template <typename Before>
+void sort(std::vector<int>& rows, Direction direction, Before before)
+{
+    if (direction == Direction::usual)
+        std::stable_sort(rows.begin(), rows.end(), before);
+    else
+        std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) { return before(b, a); });
+}
+
+void sortByDate(std::vector<int>& rows, std::span<const FileEntry> entries, Direction direction)
+{
+    const auto date = [&](int row) { return SheetTexts::shownDate(entries[static_cast<std::size_t>(row)]); };
+    const auto undated =
+        std::stable_partition(rows.begin(), rows.end(), [&](int row) { return date(row).has_value(); });
+    std::vector<int> dated(rows.begin(), undated);
+    sort(dated, direction, [&](int a, int b) { return date(a) > date(b); });
+    std::copy(dated.begin(), dated.end(), rows.begin());
+}
+
+} // namespace
+
+std::vector<Words> wordsOf(std::span<const FileEntry> entries)
+{
+    std::vector<Words> words;
+    words.reserve(entries.size());
+    for (const FileEntry& entry : entries)
+        words.push_back({DisplayText::nameOf(entry.path).toCaseFolded(),
+                         DisplayText::folderOf(entry.path).toCaseFolded()});
+    return words;
+}
+
+std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words, const Wish& wish)
+{
+    const QStringList wanted = wish.filter.toCaseFolded().split(u' ', Qt::SkipEmptyParts);
+    std::vector<int> rows;
+    rows.reserve(entries.size());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (wanted.isEmpty() || hasAll(words[i], wanted))
+            rows.push_back(static_cast<int>(i));
+    }
+    const auto entry = [&](int row) -> const FileEntry& { return entries[static_cast<std::size_t>(row)]; };
+    const auto name = [&](int row) -> const QString& { return words[static_cast<std::size_t>(row)].name; };
+    switch (wish.key) {
+    case Key::size:
+        sort(rows, wish.direction, [&](int a, int b) { return entry(a).size > entry(b).size; });
+        break;
+    case Key::name:
+        sort(rows, wish.direction, [&](int a, int b) { return name(a) < name(b); });
+        break;
+    case Key::date:
+        sortByDate(rows, entries, wish.direction);
+        break;
+    }
+    return rows;
+}
+
+} // namespace orlen::EntryOrder

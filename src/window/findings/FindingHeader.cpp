@@ -1,0 +1,24 @@
+#include "window/findings/FindingHeader.h"
+
+#include "model/Finding.h"
+#include "window/findings/SheetTexts.h"
+#include "window/lists/DisplayText.h"
+
+namespace orlen {
+
+FindingHeader FindingHeader::of(const Finding& finding)
+{
+    FindingHeader header;
+    header.title = DisplayText::text(finding.title);
+    header.explanation = DisplayText::text(finding.explanation);
+    header.reason = SheetTexts::why(finding.rating, finding.reason);
+    header.symbol = DisplayText::text(finding.symbol);
+    header.tone = DisplayText::colour(finding.category);
+    header.rating = DisplayText::text(rawValue(finding.rating));
+    header.ratingLabel = DisplayText::text(label(finding.rating));
+    header.ratingSymbol = DisplayText::text(orlen::symbol(finding.rating));
+    header.isCleanable = finding.cleanable;
+    return header;
+}
+
+} // namespace orlen

@@ -1,0 +1,49 @@
+#include "window/findings/FolderTest.h"
+
+#include "platform/FileStatus.h"
+
+#include <utility>
+
+namespace orlen {
+
+bool FolderTest::isFolder(const std::string& path)
+{
+    const auto [known, isNew] = m_known.try_emplace(path, false);
+    if (isNew) {
+        m_waiting.push_back(path);
+        lookSoon();
+    }
+    return known->second;
+}
+
+/// Later, so that all rows of a page are looked at together.
+void FolderTest::lookSoon()
+{
+    if (!std::exchange(m_isLooking, true))
+        QMetaObject::invokeMethod(this, &FolderTest::look, Qt::QueuedConnection);
+}
+
+void FolderTest::look()
+{
+    const auto work = [paths = std::exchange(m_waiting, {})](const std::stop_token& stop) {
+        std::vector<std::string> folders;
+        for (const std::string& path : paths) {
+            if (stop.stop_requested())
+                break;
+            if (isRealFolder(path))
+                folders.push_back(path);
+        }
+        return folders;
+    };
+    m_workers.start(work, [this](const std::vector<std::string>& folders) {
+        for (const std::string& folder : folders)
+            m_known[folder] = true;
+        m_isLooking = false;
+        if (!m_waiting.empty())
+            lookSoon();
+        if (!folders.empty())
+            Q_EMIT answered();
+    });
+}
+
+} // namespace orlen

@@ -1,0 +1,161 @@
+#include "window/home/StorageRing.h"
+
+#include "window/lists/DisplayText.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+
+#include <algorithm>
+#include <numbers>
+#include <numeric>
+
+namespace orlen {
+
+namespace {
+
+constexpr double kArcGap = 3;     // between neighbours, pixels
+constexpr double kCorner = 2.5;   // radius, pixels
+constexpr double kShortest = 4;   // of what takes little space, pixels along the band
+constexpr double kLeast = 0.0005; // what takes less of the volume is left out
+constexpr double kTop = 90;       // degrees, as QPainterPath counts them
+constexpr double kWholeTurn = 360;
+
+double degrees(double pixels, double radius)
+{
+    return pixels / radius * 180 / std::numbers::pi;
+}
+
+/// Gives what takes little space the least part that can be seen, at the cost of the rest.
+template <typename Fractions>
+Fractions withLeast(Fractions fractions, double least)
+{
+    double missing = 0;
+    double ample = 0;
+    for (const double fraction : fractions) {
+        if (fraction >= kLeast && fraction < least)
+            missing += least - fraction;
+        else if (fraction >= least)
+            ample += fraction;
+    }
+    for (double& fraction : fractions) {
+        if (fraction < kLeast)
+            fraction = 0;
+        else if (fraction < least)
+            fraction = least;
+        else
+            fraction *= std::max(0.0, 1 - missing / ample);
+    }
+    return fractions;
+}
+
+} // namespace
+
+StorageRing::StorageRing(QQuickItem* parent) : QQuickPaintedItem(parent)
+{
+    setAntialiasing(true);
+    connect(this, &StorageRing::styleChanged, this, [this] { update(); });
+}
+
+void StorageRing::setStorage(StorageModel* storage)
+{
+    if (m_storage == storage)
+        return;
+    if (m_storage)
+        m_storage->disconnect(this);
+    m_storage = storage;
+    if (m_storage)
+        connect(m_storage, &StorageModel::changed, this, &StorageRing::retarget);
+    Q_EMIT storageChanged();
+    retarget();
+}
+
+void StorageRing::retarget()
+{
+    Fractions target{};
+    if (m_storage) {
+        std::transform(kAllCategories.begin(), kAllCategories.end(), target.begin(),
+                       [this](OrlenCategory category) { return m_storage->fraction(category); });
+    }
+    if (target == m_to)
+        return;
+    m_from = shown();
+    m_to = target;
+    setProgress(0);
+    Q_EMIT retargeted();
+}
+
+void StorageRing::setProgress(double progress)
+{
+    if (m_progress == progress)
+        return;
+    m_progress = progress;
+    Q_EMIT progressChanged();
+    update();
+}
+
+StorageRing::Fractions StorageRing::shown() const
+{
+    Fractions fractions{};
+    for (std::size_t at = 0; at < fractions.size(); ++at)
+        fractions[at] = std::max(0.0, m_from[at] + (m_to[at] - m_from[at]) * m_progress);
+    // The measured folders may hold more than the used space, and a spring overshoots.
+    const double sum = std::accumulate(fractions.begin(), fractions.end(), 0.0);
+    if (sum > 1)
+        std::for_each(fractions.begin(), fractions.end(), [sum](double& fraction) { fraction /= sum; });
+    return fractions;
+}
+
+/// An arc of the band, in degrees clockwise from the top. It is drawn smaller by `corner` all around: a pen
+/// of twice that width with round joins gives it its size back, with rounded corners.
+QPainterPath StorageRing::segment(double start, double length, double corner) const
+{
+    const double outer = std::min(width(), height()) / 2 - corner;
+    const double inner = std::min(width(), height()) * (0.5 - m_thickness) + corner;
+    const auto square = [centre = boundingRect().center()](double radius) {
+        return QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+    };
+    const double begin = kTop - start;
+    const double outerInset = degrees(corner, outer);
+    const double innerInset = degrees(corner, inner);
+    QPainterPath path;
+    path.arcMoveTo(square(outer), begin - outerInset);
+    path.arcTo(square(outer), begin - outerInset, -(length - 2 * outerInset));
+    path.arcTo(square(inner), begin - length + innerInset, length - 2 * innerInset);
+    path.closeSubpath();
+    return path;
+}
+
+void StorageRing::paint(QPainter* painter)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    const double radius = std::min(width(), height()) / 2 * (1 - m_thickness);
+    if (radius <= 0)
+        return;
+    const double gap = degrees(kArcGap, radius);
+    const Fractions fractions = withLeast(shown(), (gap + degrees(kShortest, radius)) / kWholeTurn);
+    double start = 0;
+    const auto draw = [&](double fraction, const QColor& colour) {
+        const double length = fraction * kWholeTurn - gap;
+        if (length > 0) {
+            const double corner = std::min(kCorner, length / degrees(1, radius) / 3);
+            painter->setPen(QPen(colour, 2 * corner, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+            painter->setBrush(colour);
+            painter->drawPath(segment(start + gap / 2, length, corner));
+        }
+        start += fraction * kWholeTurn;
+    };
+    const double used = std::accumulate(fractions.begin(), fractions.end(), 0.0);
+    if (used <= 0) {
+        const double band = radius * 2 * m_thickness / (1 - m_thickness);
+        painter->setPen(QPen(m_track, band));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawEllipse(boundingRect().center(), radius, radius);
+        return;
+    }
+    for (std::size_t at = 0; at < fractions.size(); ++at)
+        draw(fractions[at], DisplayText::colour(kAllCategories[at]));
+    draw(1 - used, m_track);
+}
+
+} // namespace orlen

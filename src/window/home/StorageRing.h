@@ -1,0 +1,61 @@
+#pragma once
+
+#include "window/home/StorageModel.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+#include <array>
+
+class QPainterPath;
+
+namespace orlen {
+
+/// The storage breakdown as a ring: a segment for each category, clockwise from the top, and a pale rest that
+/// is free. When the breakdown changes the ring keeps showing the old one and says `retargeted`; moving
+/// `progress` from 0 to 1 then turns it into the new one. A progress beyond 1 overshoots. Main thread.
+class StorageRing : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::StorageModel* storage READ storage WRITE setStorage NOTIFY storageChanged REQUIRED)
+    /// Of the band, as a part of the ring's diameter.
+    Q_PROPERTY(double thickness MEMBER m_thickness NOTIFY styleChanged)
+    /// Colour of the free part.
+    Q_PROPERTY(QColor track MEMBER m_track NOTIFY styleChanged)
+    Q_PROPERTY(double progress READ progress WRITE setProgress NOTIFY progressChanged)
+
+public:
+    explicit StorageRing(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] StorageModel* storage() const { return m_storage; }
+    void setStorage(StorageModel* storage);
+    [[nodiscard]] double progress() const { return m_progress; }
+    void setProgress(double progress);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void storageChanged();
+    void styleChanged();
+    void progressChanged();
+    void retargeted();
+
+private:
+    /// Parts of the whole volume, by category.
+    using Fractions = std::array<double, kAllCategories.size()>;
+
+    void retarget();
+    [[nodiscard]] Fractions shown() const;
+    [[nodiscard]] QPainterPath segment(double start, double length, double corner) const;
+
+    QPointer<StorageModel> m_storage;
+    double m_thickness = 0.1;
+    QColor m_track = Qt::lightGray;
+    double m_progress = 1;
+    Fractions m_from{};
+    Fractions m_to{};
+};
+
+} // namespace orlen

@@ -1,0 +1,96 @@
+#include "window/lists/DisplayText.h"
+
+#include "app/Format.h"
+#include "model/ByteCount.h"
+#include "platform/PathText.h"
+#include "platform/Places.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <string>
+
+namespace orlen::DisplayText {
+
+namespace {
+
+constexpr std::chrono::milliseconds kShortestTime{50};
+
+QDateTime local(TimePoint time)
+{
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time.time_since_epoch());
+    return QDateTime::fromSecsSinceEpoch(seconds.count());
+}
+
+} // namespace
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString path(std::string_view bytes)
+{
+    return text(PathText::forDisplay(bytes));
+}
+
+QString shortPath(std::string_view bytes)
+{
+    const std::string& home = Places::current().home;
+    if (home.size() > 1 && PathText::isAtOrBelow(bytes, home))
+        return path("~" + std::string(bytes.substr(home.size())));
+    return path(bytes);
+}
+
+QString folderOf(std::string_view bytes)
+{
+    return shortPath(PathText::parent(bytes));
+}
+
+QString nameOf(std::string_view bytes)
+{
+    return path(PathText::lastComponent(bytes));
+}
+
+QString size(std::int64_t bytes)
+{
+    return text(byteCount(bytes));
+}
+
+QString number(std::int64_t value)
+{
+    return QLocale().toString(static_cast<qlonglong>(value));
+}
+
+QString items(std::int64_t count)
+{
+    return text(Format::counted(count, "item"));
+}
+
+QString duration(std::chrono::duration<double> time)
+{
+    if (time < kShortestTime)
+        return QStringLiteral("< 0.1 s");
+    return text(Format::duration(time.count()));
+}
+
+QString date(TimePoint time)
+{
+    return QLocale().toString(local(time).date(), QLocale::ShortFormat);
+}
+
+QString dateAndTime(TimePoint time)
+{
+    // The short form of a few languages has seconds, which say nothing to anyone here.
+    const QLocale locale;
+    return locale.toString(local(time), locale.dateTimeFormat(QLocale::ShortFormat).remove(":ss"));
+}
+
+QColor colour(OrlenCategory category)
+{
+    const CategoryColour c = orlen::colour(category);
+    return QColor::fromRgbF(static_cast<float>(c.red), static_cast<float>(c.green),
+                            static_cast<float>(c.blue));
+}
+
+} // namespace orlen::DisplayText

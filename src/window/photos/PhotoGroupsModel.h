@@ -1,0 +1,111 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "app/Workers.h"
+#include "window/photos/PhotoSets.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <vector>
+
+namespace orlen {
+
+/// The photo clean-ups of the last scan as rows, one for each finding, with what is selected of them. Main
+/// thread.
+class PhotoGroupsModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
+    /// Identity of the group that is shown whole; empty: all of them are shown. Turns empty with its group.
+    Q_PROPERTY(QString shownGroup READ shownGroup WRITE setShownGroup NOTIFY shownGroupChanged)
+    /// How many photos of all groups are selected and what they take; empty when none is.
+    Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectedChanged)
+
+public:
+    enum Stage {
+        BeforeScan, ///< there was no scan yet
+        Nothing,    ///< the last scan found nothing, or all of it is cleaned
+        Groups,     ///< there are rows
+    };
+    Q_ENUM(Stage)
+
+    enum class Role {
+        findingId = Qt::UserRole, ///< identity of the finding
+        title,                    ///< text
+        explanation,              ///< what these photos are
+        reason,                   ///< why they are rated so
+        symbol,                   ///< icon name
+        tone,                     ///< colour of the badge
+        rating,                   ///< raw value of the finding's rating
+        ratingLabel,              ///< the word on its chip
+        ratingSymbol,             ///< icon name on its chip
+        photosText,               ///< number of photos as text
+        summary,                  ///< number of photos and their bytes as text
+        selection,                ///< how many of them are selected, as text
+        checkState,               ///< `Qt::CheckState` of all together
+    };
+
+    explicit PhotoGroupsModel(QObject* parent = nullptr) : QAbstractListModel(parent), m_workers(*this) {}
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    /// Shows the photo findings of the model from then on.
+    void setApp(AppModel* app);
+    /// Shows these findings, until those of the application model change.
+    void setFindings(std::vector<Finding> findings);
+
+    [[nodiscard]] Stage stage() const;
+    [[nodiscard]] QString shownGroup() const { return m_shownGroup; }
+    void setShownGroup(const QString& findingId);
+    [[nodiscard]] QString selectedText() const;
+
+    /// Selects all photos of a group, or none of them when all are selected.
+    Q_INVOKABLE void toggleAll(const QString& findingId);
+    /// Opens the review of the selected photos.
+    Q_INVOKABLE void review();
+
+    /// Null when there is none.
+    [[nodiscard]] const Finding* finding(const QString& id) const;
+    /// The finding's sets, for similar photos; empty until they have been found, and for any other kind.
+    [[nodiscard]] const std::vector<PhotoSet>& setsOf(const Finding& finding) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void appChanged();
+    void stageChanged();
+    void shownGroupChanged();
+    void selectedChanged();
+    /// The photos of a group, or its sets, are others now.
+    void photosChanged(const QString& findingId);
+
+private:
+    struct Selected {
+        int count = 0;
+        std::int64_t bytes = 0;
+
+        friend bool operator==(const Selected&, const Selected&) = default;
+    };
+
+    void followFindings();
+    void followSelection();
+    void replace(std::vector<Finding> findings);
+    void findSets();
+    [[nodiscard]] Selected selectedOf(const Finding& finding) const;
+    [[nodiscard]] Qt::CheckState checkStateOf(std::size_t row) const;
+
+    AppModel* m_app = nullptr;
+    std::vector<Finding> m_findings;
+    std::vector<Selected> m_selected; ///< of each finding
+    std::vector<PhotoSet> m_sets;     ///< of the similar photos
+    QString m_shownGroup;
+    bool m_wasFed = false; ///< by `setFindings`: counts as a scan
+    int m_generation = 0;  ///< number of the latest search for sets
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

@@ -1,0 +1,90 @@
+#include "window/predict/ForecastCurve.h"
+
+#include "insight/Predictor.h"
+
+#include <algorithm>
+#include <chrono>
+#include <numeric>
+
+namespace orlen {
+
+namespace {
+
+using Days = std::chrono::duration<double, std::chrono::days::period>;
+
+/// Room above the highest point.
+constexpr double kHeadroom = 1.2;
+/// Part of the width that the past takes: as much as this when the disk is soon full, as little when not.
+constexpr double kLargestPast = 0.8;
+constexpr double kSmallestPast = 0.55;
+
+/// x in days since the first snapshot, y in used bytes.
+std::vector<Predictor::Point> usedOverTime(const std::vector<Snapshot>& sorted)
+{
+    std::vector<Predictor::Point> points;
+    points.reserve(sorted.size());
+    for (const Snapshot& snapshot : sorted) {
+        // As doubles, because in nanoseconds the span of two arbitrary dates may not fit into 64 bits.
+        const Days x = Days(snapshot.date.time_since_epoch()) - Days(sorted.front().date.time_since_epoch());
+        points.push_back(
+            {x.count(), static_cast<double>(snapshot.total) - static_cast<double>(snapshot.free)});
+    }
+    return points;
+}
+
+double mean(const std::vector<Predictor::Point>& points, double Predictor::Point::*coordinate)
+{
+    const auto add = [&](double sum, const Predictor::Point& point) { return sum + point.*coordinate; };
+    return std::accumulate(points.begin(), points.end(), 0.0, add) / static_cast<double>(points.size());
+}
+
+/// What stands on the axes: days from left to right, free bytes from bottom to top.
+struct Scale {
+    double days = 1;
+    double bytes = 1;
+
+    [[nodiscard]] ForecastCurve::Point point(double day, double free) const
+    {
+        return {day / days, std::clamp(free / bytes, 0.0, 1.0)};
+    }
+};
+
+/// Time is to scale on both sides of now, so a forecast that is far away goes beyond the edge.
+double shownDays(double past, double free, double growth)
+{
+    const double least = past / kLargestPast;
+    const double most = past / kSmallestPast;
+    return growth > 0 ? std::clamp(past + free / growth, least, most) : least;
+}
+
+} // namespace
+
+ForecastCurve ForecastCurve::of(std::vector<Snapshot> snapshots)
+{
+    std::ranges::stable_sort(snapshots, {}, &Snapshot::date);
+    const std::vector<Predictor::Point> used = usedOverTime(snapshots);
+    const double past = used.empty() ? 0 : used.back().x;
+    if (!(past > 0))
+        return {};
+
+    const double growth = Predictor::slope(used);
+    const double free = std::max(0.0, static_cast<double>(snapshots.back().free));
+    const auto roomiest = std::ranges::max_element(snapshots, {}, &Snapshot::free);
+    const double days = shownDays(past, free, growth);
+    const Scale scale{days, std::max(1.0, static_cast<double>(roomiest->free)) * kHeadroom};
+
+    ForecastCurve curve;
+    for (std::size_t i = 0; i < snapshots.size(); ++i)
+        curve.known.push_back(scale.point(used[i].x, static_cast<double>(snapshots[i].free)));
+    const double total = static_cast<double>(snapshots.back().total);
+    const auto fit = [&](double day) {
+        return total - mean(used, &Predictor::Point::y) - growth * (day - mean(used, &Predictor::Point::x));
+    };
+    curve.fitted = Line{scale.point(0, fit(0)), scale.point(past, fit(past))};
+    const double fullAfter = growth > 0 ? free / growth : days;
+    const double end = std::min(fullAfter, days - past);
+    curve.forecast = Line{scale.point(past, free), scale.point(past + end, free - growth * end)};
+    return curve;
+}
+
+} // namespace orlen

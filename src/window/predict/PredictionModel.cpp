@@ -1,0 +1,143 @@
+#include "window/predict/PredictionModel.h"
+
+#include "window/lists/DisplayText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr double kDaysPerWeek = 7;
+/// Beyond what any disk holds, and far inside 64 bits.
+constexpr double kLargestRate = 1e18;
+
+QString rateText(double bytesPerDay)
+{
+    const double weekly = std::clamp(bytesPerDay * kDaysPerWeek, -kLargestRate, kLargestRate);
+    const std::int64_t bytes = std::llround(weekly);
+    if (bytes == 0)
+        return QStringLiteral("No change");
+    const QString sign = bytes > 0 ? QStringLiteral("+") : QStringLiteral("\u2212");
+    return sign + DisplayText::size(std::abs(bytes)) + QStringLiteral(" / week");
+}
+
+} // namespace
+
+void PredictionModel::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr)
+        connect(m_app, &AppModel::snapshotsChanged, this, &PredictionModel::update);
+    Q_EMIT appChanged();
+    update();
+}
+
+void PredictionModel::update()
+{
+    setPrediction(m_app == nullptr ? Prediction{} : m_app->prediction());
+    m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app->snapshots()) : ForecastCurve{};
+    Q_EMIT changed();
+}
+
+void PredictionModel::setPrediction(Prediction prediction)
+{
+    using Rate = std::pair<OrlenCategory, double>;
+    const bool hasSameCategories =
+        std::ranges::equal(prediction.perCategory, m_prediction.perCategory, {}, &Rate::first, &Rate::first);
+    if (hasSameCategories) {
+        m_prediction = std::move(prediction);
+        if (!isEmpty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+        return;
+    }
+    beginResetModel();
+    m_prediction = std::move(prediction);
+    endResetModel();
+}
+
+QString PredictionModel::headline() const
+{
+    return DisplayText::text(m_prediction.headline);
+}
+
+QString PredictionModel::detail() const
+{
+    return DisplayText::text(m_prediction.detail);
+}
+
+QString PredictionModel::snapshotsText() const
+{
+    const auto count = static_cast<std::int64_t>(m_app == nullptr ? 0 : m_app->snapshots().size());
+    return count == 1 ? QStringLiteral("1 snapshot") : DisplayText::number(count) + " snapshots";
+}
+
+QString PredictionModel::firstDate() const
+{
+    return hasSnapshots() ? DisplayText::date(m_app->snapshots().front().date) : QString();
+}
+
+QString PredictionModel::lastDate() const
+{
+    return hasSnapshots() ? DisplayText::date(m_app->snapshots().back().date) : QString();
+}
+
+QString PredictionModel::freeText() const
+{
+    return hasSnapshots() ? DisplayText::size(m_app->snapshots().back().free) : QString();
+}
+
+PredictionModel::Range PredictionModel::range() const
+{
+    Range range;
+    for (const auto& [category, rate] : m_prediction.perCategory) {
+        range.least = std::min(range.least, rate);
+        range.most = std::max(range.most, rate);
+    }
+    return range;
+}
+
+int PredictionModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_prediction.perCategory.size());
+}
+
+QVariant PredictionModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const auto& [category, bytesPerDay] = m_prediction.perCategory[static_cast<std::size_t>(index.row())];
+    const Range range = this->range();
+    const double span = range.most - range.least;
+    switch (static_cast<Role>(role)) {
+    case Role::label:
+        return DisplayText::text(label(category));
+    case Role::colour:
+        return DisplayText::colour(category);
+    case Role::rate:
+        return rateText(bytesPerDay);
+    case Role::start:
+        return span > 0 ? (std::min(bytesPerDay, 0.0) - range.least) / span : 0.0;
+    case Role::extent:
+        return span > 0 ? std::abs(bytesPerDay) / span : 0.0;
+    }
+    return {};
+}
+
+QHash<int, QByteArray> PredictionModel::roleNames() const
+{
+    return {{static_cast<int>(Role::label), "label"},
+            {static_cast<int>(Role::colour), "colour"},
+            {static_cast<int>(Role::rate), "rate"},
+            {static_cast<int>(Role::start), "start"},
+            {static_cast<int>(Role::extent), "extent"}};
+}
+
+} // namespace orlen

@@ -1,0 +1,73 @@
+#include "window/preview/PictureReader.h"
+
+#include "platform/PathText.h"
+#include "platform/images/ImageWorkers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orlen::PictureReader {
+
+namespace {
+
+constexpr std::array<std::string_view, 11> kExtensions{"avif", "bmp", "gif", "heic", "heif", "jpeg",
+                                                       "jpg",  "png", "tif", "tiff", "webp"};
+
+ImageWorkers::Options& options()
+{
+    static ImageWorkers::Options options;
+    return options;
+}
+
+ImageWorkers& workers()
+{
+    static ImageWorkers workers(options());
+    return workers;
+}
+
+QImage imageOf(const RgbImage& pixels)
+{
+    constexpr qsizetype kBytes = 3;
+    const QImage shared(pixels.pixels.data(), pixels.width, pixels.height, pixels.width * kBytes,
+                        QImage::Format_RGB888);
+    return shared.convertToFormat(QImage::Format_RGB32); // Its own pixels, as they are drawn.
+}
+
+} // namespace
+
+bool looksReadable(std::string_view path)
+{
+    const std::string extension = PathText::asciiLower(PathText::extension(path));
+    return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+}
+
+std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit, const std::stop_token& stop)
+{
+    const auto picture =
+        workers().smallPicture(path,
+                               {{bound.width(), bound.height()},
+                                fit == Fit::cover ? PictureBound::Fit::cover : PictureBound::Fit::inside},
+                               stop);
+    if (!picture)
+        return std::nullopt;
+    return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
+}
+
+QImage icon(const std::string& path, const QSize& size)
+{
+    const auto picture = workers().icon(path, {size.width(), size.height()}, {});
+    if (!picture || picture->alpha.empty())
+        return {};
+    QImage image = imageOf(picture->image);
+    const qsizetype width = image.width();
+    const QImage alpha(picture->alpha.data(), image.width(), image.height(), width, QImage::Format_Alpha8);
+    image.setAlphaChannel(alpha);
+    return image;
+}
+
+void setRecognizer(const std::string& program)
+{
+    options().program = program;
+}
+
+} // namespace orlen::PictureReader

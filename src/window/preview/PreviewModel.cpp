@@ -1,0 +1,152 @@
+#include "window/preview/PreviewModel.h"
+
+#include "window/findings/SheetTexts.h"
+#include "window/lists/DisplayText.h"
+#include "window/lists/FileSymbol.h"
+#include "window/lists/PathTokens.h"
+#include "window/preview/Thumbnails.h"
+#include "window/shell/Reveal.h"
+
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+PreviewModel::Kind kindOf(FilePreview::Kind kind)
+{
+    switch (kind) {
+    case FilePreview::Kind::picture:
+        return PreviewModel::Picture;
+    case FilePreview::Kind::text:
+        return PreviewModel::Text;
+    case FilePreview::Kind::folder:
+        return PreviewModel::Folder;
+    case FilePreview::Kind::other:
+        return PreviewModel::Other;
+    case FilePreview::Kind::locked:
+        return PreviewModel::Locked;
+    case FilePreview::Kind::missing:
+        return PreviewModel::Missing;
+    }
+    return PreviewModel::Missing;
+}
+
+} // namespace
+
+void PreviewModel::setToken(int token)
+{
+    if (m_token == token)
+        return;
+    m_token = token;
+    m_path = PathTokens::path(token);
+    m_stop.request_stop();
+    const int load = ++m_load;
+    show({}, Loading);
+    if (m_path.empty())
+        return;
+    m_stop =
+        m_workers.start([path = m_path](const std::stop_token& stop) { return FilePreview::of(path, stop); },
+                        [this, load](FilePreview preview) {
+                            // A stopped load may come late, when its file is wanted again.
+                            if (load != m_load)
+                                return;
+                            const Kind kind = kindOf(preview.kind);
+                            show(std::move(preview), kind);
+                        });
+}
+
+void PreviewModel::show(FilePreview preview, Kind kind)
+{
+    beginResetModel();
+    m_preview = std::move(preview);
+    m_kind = kind;
+    endResetModel();
+    Q_EMIT changed();
+}
+
+QString PreviewModel::name() const
+{
+    return DisplayText::nameOf(m_path);
+}
+
+QString PreviewModel::folder() const
+{
+    return DisplayText::folderOf(m_path);
+}
+
+QString PreviewModel::symbol() const
+{
+    return m_kind == Folder ? FileSymbol::ofFolder() : FileSymbol::ofName(m_path);
+}
+
+QString PreviewModel::picture() const
+{
+    return m_kind == Picture ? Thumbnails::source(m_path) + QStringLiteral("/inside") : QString();
+}
+
+QString PreviewModel::facts() const
+{
+    QStringList facts;
+    if (!m_preview.type.isEmpty())
+        facts << m_preview.type;
+    if (m_kind == Picture)
+        facts << SheetTexts::pixels(m_preview.pixels.width(), m_preview.pixels.height());
+    if (m_kind == Folder)
+        facts << SheetTexts::itemCount(m_preview.nameCount);
+    if (m_preview.bytes)
+        facts << DisplayText::size(*m_preview.bytes);
+    return facts.join(QStringLiteral(" · "));
+}
+
+QString PreviewModel::dates() const
+{
+    QStringList dates;
+    if (m_preview.modified)
+        dates << SheetTexts::modified(*m_preview.modified);
+    if (m_preview.opened)
+        dates << SheetTexts::opened(*m_preview.opened);
+    return dates.join(QStringLiteral(" · "));
+}
+
+int PreviewModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_preview.names.size());
+}
+
+QVariant PreviewModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const FilePreview::Name& row = m_preview.names[static_cast<std::size_t>(index.row())];
+    switch (static_cast<Role>(role)) {
+    case Role::name:
+        return DisplayText::path(row.name);
+    case Role::size:
+        return row.bytes < 0 ? QString() : DisplayText::size(row.bytes);
+    case Role::symbol:
+        return row.isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(row.name);
+    }
+    return {};
+}
+
+QHash<int, QByteArray> PreviewModel::roleNames() const
+{
+    return {{static_cast<int>(Role::name), "name"},
+            {static_cast<int>(Role::size), "size"},
+            {static_cast<int>(Role::symbol), "symbol"}};
+}
+
+void PreviewModel::reveal() const
+{
+    if (!m_path.empty())
+        Reveal::show(m_path);
+}
+
+void PreviewModel::openWith() const
+{
+    if (!m_path.empty())
+        Reveal::open(m_path);
+}
+
+} // namespace orlen

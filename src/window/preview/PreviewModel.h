@@ -1,0 +1,86 @@
+#pragma once
+
+#include "app/Workers.h"
+#include "window/preview/FilePreview.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <stop_token>
+#include <string>
+
+namespace orlen {
+
+/// The preview of one file: a picture, the beginning of a text, the names in a folder as rows, or its facts.
+/// Loaded on a worker; the latest token wins. Main thread.
+class PreviewModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    /// Number of the path; 0 shows nothing.
+    Q_PROPERTY(int token READ token WRITE setToken NOTIFY changed)
+    Q_PROPERTY(Kind kind READ kind NOTIFY changed)
+    Q_PROPERTY(QString name READ name NOTIFY changed)
+    Q_PROPERTY(QString folder READ folder NOTIFY changed)
+    /// Icon of the file.
+    Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
+    /// Source of the picture, whole; empty for what is no picture.
+    Q_PROPERTY(QString picture READ picture NOTIFY changed)
+    Q_PROPERTY(QString text READ text NOTIFY changed)
+    /// "PNG image · 4,032 × 3,024 · 2.1 MB"
+    Q_PROPERTY(QString facts READ facts NOTIFY changed)
+    /// "Modified … · Opened …"
+    Q_PROPERTY(QString dates READ dates NOTIFY changed)
+    /// Whether the text or the names go on beyond what is shown.
+    Q_PROPERTY(bool cut READ isCut NOTIFY changed)
+
+public:
+    enum Kind { Loading, Picture, Text, Folder, Other, Locked, Missing };
+    Q_ENUM(Kind)
+
+    /// Rows are the names in a folder.
+    enum class Role {
+        name = Qt::UserRole, ///< readable
+        size,                ///< text; empty for a folder
+        symbol,              ///< icon
+    };
+
+    explicit PreviewModel(QObject* parent = nullptr) : QAbstractListModel(parent), m_workers(*this) {}
+
+    [[nodiscard]] int token() const { return m_token; }
+    void setToken(int token);
+    [[nodiscard]] Kind kind() const { return m_kind; }
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] QString folder() const;
+    [[nodiscard]] QString symbol() const;
+    [[nodiscard]] QString picture() const;
+    [[nodiscard]] QString text() const { return m_preview.text; }
+    [[nodiscard]] QString facts() const;
+    [[nodiscard]] QString dates() const;
+    [[nodiscard]] bool isCut() const { return m_preview.isCut; }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Shows the file in its folder.
+    Q_INVOKABLE void reveal() const;
+    /// Opens the file with the program that the desktop has for it.
+    Q_INVOKABLE void openWith() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void show(FilePreview preview, Kind kind);
+
+    int m_token = 0;
+    int m_load = 0; ///< number of the latest load
+    std::string m_path;
+    Kind m_kind = Loading;
+    FilePreview m_preview;
+    std::stop_source m_stop{std::nostopstate};
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

@@ -1,0 +1,41 @@
+#include "window/preview/ThumbnailResponse.h"
+
+#include <QMutexLocker>
+#include <QQuickTextureFactory>
+
+namespace orlen {
+
+bool ThumbnailResponse::Ticket::isWanted()
+{
+    const QMutexLocker locker(&m_lock);
+    return m_isWanted && m_response != nullptr;
+}
+
+void ThumbnailResponse::Ticket::deliver(const QImage& image)
+{
+    const QMutexLocker locker(&m_lock);
+    if (m_response == nullptr)
+        return;
+    m_response->m_image = image;
+    // Later, so that nothing of the engine runs under the lock, nor before it has connected.
+    QMetaObject::invokeMethod(m_response, &QQuickImageResponse::finished, Qt::QueuedConnection);
+}
+
+void ThumbnailResponse::Ticket::forget()
+{
+    const QMutexLocker locker(&m_lock);
+    m_response = nullptr;
+}
+
+void ThumbnailResponse::Ticket::refuse()
+{
+    const QMutexLocker locker(&m_lock);
+    m_isWanted = false;
+}
+
+QQuickTextureFactory* ThumbnailResponse::textureFactory() const
+{
+    return QQuickTextureFactory::textureFactoryForImage(m_image);
+}
+
+} // namespace orlen

@@ -1,0 +1,98 @@
+#include "window/preview/Thumbnails.h"
+
+#include "window/lists/PathTokens.h"
+#include "window/preview/PictureReader.h"
+#include "window/preview/ThumbnailResponse.h"
+
+#include <QMutexLocker>
+#include <QRunnable>
+
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+constexpr int kThreads = 2;
+constexpr qsizetype kCacheKilobytes = 64'000;
+constexpr QSize kUsualThumbnail{96, 96};
+constexpr QSize kLargest{4096, 4096};
+const QString kInside = QStringLiteral("inside");
+
+} // namespace
+
+class Thumbnails::Job : public QRunnable {
+public:
+    Job(Thumbnails& thumbnails, QString id, const QSize& size,
+        std::shared_ptr<ThumbnailResponse::Ticket> ticket)
+        : m_thumbnails(thumbnails), m_id(std::move(id)), m_size(size), m_ticket(std::move(ticket))
+    {
+    }
+
+    void run() override { m_ticket->deliver(m_ticket->isWanted() ? picture() : QImage()); }
+
+private:
+    [[nodiscard]] QImage picture() const
+    {
+        const QString key = QStringLiteral("%1 %2x%3").arg(m_id).arg(m_size.width()).arg(m_size.height());
+        QImage image = m_thumbnails.cached(key);
+        if (image.isNull()) {
+            const std::string path = PathTokens::path(m_id.section(u'/', 0, 0).toInt());
+            const bool isInside = m_id.section(u'/', 1, 1) == kInside;
+            auto picture = PictureReader::read(
+                path, m_size, isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
+                m_thumbnails.m_stop.get_token());
+            if (!picture)
+                return {};
+            image = std::move(picture->image);
+            m_thumbnails.keep(key, image);
+        }
+        return image;
+    }
+
+    Thumbnails& m_thumbnails;
+    QString m_id;
+    QSize m_size;
+    std::shared_ptr<ThumbnailResponse::Ticket> m_ticket;
+};
+
+Thumbnails::Thumbnails() : m_images(kCacheKilobytes)
+{
+    m_pool.setMaxThreadCount(kThreads);
+}
+
+Thumbnails::~Thumbnails()
+{
+    m_pool.clear();
+    m_stop.request_stop();
+}
+
+QString Thumbnails::source(const std::string& path)
+{
+    if (!PictureReader::looksReadable(path))
+        return {};
+    return QStringLiteral("image://%1/%2").arg(QLatin1String(kName)).arg(PathTokens::tokenOf(path));
+}
+
+QQuickImageResponse* Thumbnails::requestImageResponse(const QString& id, const QSize& requestedSize)
+{
+    const QSize wanted = (requestedSize.isEmpty() ? kUsualThumbnail : requestedSize).boundedTo(kLargest);
+    auto* response = new ThumbnailResponse; // the engine's from here on
+    m_pool.start(new Job(*this, id, wanted, response->ticket()));
+    return response;
+}
+
+QImage Thumbnails::cached(const QString& key)
+{
+    const QMutexLocker locker(&m_lock);
+    const QImage* image = m_images.object(key);
+    return image == nullptr ? QImage() : *image;
+}
+
+void Thumbnails::keep(const QString& key, const QImage& image)
+{
+    const QMutexLocker locker(&m_lock);
+    m_images.insert(key, new QImage(image), image.sizeInBytes() / 1000 + 1);
+}
+
+} // namespace orlen

@@ -1,0 +1,334 @@
+#include "window/review/PlanModel.h"
+
+#include "model/FindingKind.h"
+#include "window/findings/SheetTexts.h"
+#include "window/lists/DisplayText.h"
+#include "window/lists/FileSymbol.h"
+#include "window/lists/PathTokens.h"
+#include "window/preview/Thumbnails.h"
+#include "window/shell/Reveal.h"
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+constexpr int kHeading = -1;
+constexpr QRgb kUsualTone = 0xff5b5fe0; // of a section that is no kind of finding
+
+std::size_t place(int number)
+{
+    return static_cast<std::size_t>(number);
+}
+
+QColor toneOf(const PlanSection& section)
+{
+    const auto kind = kindFromRaw(section.id);
+    return kind ? DisplayText::colour(meta(*kind).category) : QColor(kUsualTone);
+}
+
+} // namespace
+
+PlanModel::PlanModel(QObject* parent) : QAbstractListModel(parent), m_folders(new FolderTest(this))
+{
+    connect(m_folders, &FolderTest::answered, this, [this] {
+        if (!m_rows.empty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                               {static_cast<int>(Role::symbol), static_cast<int>(Role::thumbnail)});
+    });
+}
+
+void PlanModel::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr) {
+        connect(m_app, &AppModel::sheetChanged, this, &PlanModel::follow);
+        follow();
+    }
+    Q_EMIT appChanged();
+}
+
+void PlanModel::follow()
+{
+    if (!m_app->sheet())
+        return;
+    const auto* sheet = std::get_if<PlanSheet>(&*m_app->sheet());
+    if (sheet != nullptr && (!m_plan || m_plan->id != sheet->plan.id))
+        show(sheet->plan);
+}
+
+void PlanModel::show(const CleanPlan& plan)
+{
+    beginResetModel();
+    m_plan = plan;
+    m_ticks = PlanTicks(plan);
+    m_rows.clear();
+    m_states.clear();
+    m_entryCount = 0;
+    m_hasNotes = false;
+    for (const PlanSection& section : m_plan->sections) {
+        const int number = static_cast<int>(m_states.size());
+        const int entries = static_cast<int>(section.entries.size());
+        for (int entry = kHeading; entry < entries; ++entry)
+            m_rows.push_back({number, entry});
+        m_states.push_back({false, findingRating(section.id)});
+        m_entryCount += entries;
+        m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
+                                               [](const FileEntry& entry) { return entry.note.has_value(); });
+    }
+    endResetModel();
+    Q_EMIT planChanged();
+    Q_EMIT figuresChanged();
+}
+
+QString PlanModel::title() const
+{
+    return m_plan ? DisplayText::path(m_plan->title) : QString();
+}
+
+void PlanModel::toggle(int row)
+{
+    if (!hasRow(row))
+        return;
+    const auto [number, entry] = at(row);
+    const bool isChecked = checkState(at(row)) != Qt::Checked;
+    if (entry == kHeading)
+        m_ticks.setSection(place(number), isChecked);
+    else
+        m_ticks.set(place(number), place(entry), isChecked);
+    followTicks();
+}
+
+void PlanModel::checkAll()
+{
+    setAllChecked(true);
+}
+
+void PlanModel::uncheckAll()
+{
+    setAllChecked(false);
+}
+
+void PlanModel::setAllChecked(bool isChecked)
+{
+    if (m_rows.empty())
+        return;
+    m_ticks.setAll(isChecked);
+    followTicks();
+}
+
+/// Rows of other sections may show the same path, or what lies in it.
+void PlanModel::followTicks()
+{
+    Q_EMIT dataChanged(
+        index(0), index(rowCount() - 1),
+        {static_cast<int>(Role::mark), static_cast<int>(Role::folder), static_cast<int>(Role::size)});
+    Q_EMIT figuresChanged();
+}
+
+void PlanModel::fold(int row)
+{
+    if (!hasRow(row) || at(row).entry != kHeading)
+        return;
+    const int number = at(row).section;
+    const int entries = static_cast<int>(section(number).entries.size());
+    SectionState& folded = state(number);
+    const auto after = m_rows.begin() + row + 1;
+    if (folded.isFolded) {
+        std::vector<Row> shown(place(entries));
+        for (int entry = 0; entry < entries; ++entry)
+            shown[place(entry)] = {number, entry};
+        beginInsertRows({}, row + 1, row + entries);
+        m_rows.insert(after, shown.begin(), shown.end());
+        endInsertRows();
+    } else {
+        beginRemoveRows({}, row + 1, row + entries);
+        m_rows.erase(after, after + entries);
+        endRemoveRows();
+    }
+    folded.isFolded = !folded.isFolded;
+    Q_EMIT dataChanged(index(row), index(row), {static_cast<int>(Role::folded)});
+}
+
+void PlanModel::setFolded(int row, bool isFolded)
+{
+    if (hasRow(row) && state(at(row).section).isFolded != isFolded)
+        fold(row);
+}
+
+int PlanModel::headingOf(int row) const
+{
+    if (!hasRow(row))
+        return -1;
+    // The rows of a section follow its heading in their order.
+    return row - at(row).entry - 1;
+}
+
+QString PlanModel::checkedCountText() const
+{
+    return DisplayText::number(checkedCount());
+}
+
+QString PlanModel::checkedSizeText() const
+{
+    return DisplayText::size(m_ticks.amount().bytes);
+}
+
+bool PlanModel::isConfirmable() const
+{
+    return checkedCount() > 0 && m_app->isWriter();
+}
+
+const PlanSection& PlanModel::section(int number) const
+{
+    return m_plan->sections[place(number)];
+}
+
+const PlanModel::SectionState& PlanModel::state(int number) const
+{
+    return m_states[place(number)];
+}
+
+const FileEntry* PlanModel::entryAt(int row) const
+{
+    if (!hasRow(row) || at(row).entry == kHeading)
+        return nullptr;
+    return &section(at(row).section).entries[place(at(row).entry)];
+}
+
+Qt::CheckState PlanModel::checkState(const Row& row) const
+{
+    const std::size_t number = place(row.section);
+    if (row.entry != kHeading)
+        return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
+    const int checked = m_ticks.count(number);
+    if (checked == 0)
+        return Qt::Unchecked;
+    return place(checked) == section(row.section).entries.size() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+int PlanModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant PlanModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < static_cast<int>(Role::heading))
+        return {};
+    const FileEntry* entry = entryAt(index.row());
+    const Row& row = at(index.row());
+    const auto wanted = static_cast<Role>(role);
+    if (wanted == Role::heading)
+        return entry == nullptr;
+    if (wanted == Role::mark)
+        return checkState(row);
+    if (wanted == Role::folded)
+        return state(row.section).isFolded;
+    if (wanted == Role::tone)
+        return toneOf(section(row.section));
+    if (wanted == Role::token)
+        return tokenAt(index.row());
+    return entry == nullptr ? sectionData(row.section, wanted) : entryData(row, wanted);
+}
+
+QVariant PlanModel::sectionData(int number, Role role) const
+{
+    const PlanSection& shown = section(number);
+    if (role == Role::name)
+        return DisplayText::path(shown.title);
+    if (role == Role::folder)
+        return SheetTexts::selectedCount(m_ticks.count(place(number)),
+                                         static_cast<std::int64_t>(shown.entries.size()));
+    if (role == Role::size)
+        return DisplayText::size(m_ticks.bytes(place(number)));
+    if (role == Role::symbol)
+        return DisplayText::text(shown.symbol);
+    return QString();
+}
+
+QVariant PlanModel::entryData(const Row& row, Role role) const
+{
+    const FileEntry& entry = section(row.section).entries[place(row.entry)];
+    if (role == Role::name)
+        return DisplayText::nameOf(entry.path);
+    if (role == Role::folder)
+        return DisplayText::folderOf(entry.path);
+    if (role == Role::size)
+        return DisplayText::size(entry.size);
+    if (role == Role::date)
+        return SheetTexts::dateOf(entry);
+    if (role == Role::note)
+        return DisplayText::path(entry.note.value_or(""));
+    const bool isFolder = m_folders->isFolder(entry.path);
+    if (role == Role::symbol)
+        return isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
+    if (role == Role::thumbnail)
+        return isFolder ? QString() : Thumbnails::source(entry.path);
+    const std::optional<Rating> rating = entry.rating ? entry.rating : state(row.section).rating;
+    if (!rating)
+        return QString();
+    if (role == Role::rating)
+        return DisplayText::text(rawValue(*rating));
+    return DisplayText::text(role == Role::ratingLabel ? label(*rating) : orlen::symbol(*rating));
+}
+
+/// The rating of the finding that a section of a Smart Scan was made from.
+std::optional<Rating> PlanModel::findingRating(const std::string& sectionId) const
+{
+    const auto& findings = m_app->findings();
+    const auto found = std::find_if(findings.begin(), findings.end(),
+                                    [&](const Finding& finding) { return finding.id() == sectionId; });
+    return found == findings.end() ? std::nullopt : std::optional(found->rating);
+}
+
+QHash<int, QByteArray> PlanModel::roleNames() const
+{
+    return {{static_cast<int>(Role::heading), "heading"},
+            {static_cast<int>(Role::name), "name"},
+            {static_cast<int>(Role::folder), "folder"},
+            {static_cast<int>(Role::size), "size"},
+            {static_cast<int>(Role::date), "date"},
+            {static_cast<int>(Role::note), "note"},
+            {static_cast<int>(Role::rating), "rating"},
+            {static_cast<int>(Role::ratingLabel), "ratingLabel"},
+            {static_cast<int>(Role::ratingSymbol), "ratingSymbol"},
+            {static_cast<int>(Role::symbol), "symbol"},
+            {static_cast<int>(Role::tone), "tone"},
+            {static_cast<int>(Role::thumbnail), "thumbnail"},
+            {static_cast<int>(Role::mark), "mark"},
+            {static_cast<int>(Role::folded), "folded"},
+            {static_cast<int>(Role::token), "token"}};
+}
+
+int PlanModel::tokenAt(int row) const
+{
+    const FileEntry* entry = entryAt(row);
+    return entry == nullptr ? 0 : PathTokens::tokenOf(entry->path);
+}
+
+QString PlanModel::sizeAt(int row) const
+{
+    const FileEntry* entry = entryAt(row);
+    return entry == nullptr ? QString() : DisplayText::size(entry->size);
+}
+
+void PlanModel::reveal(int row) const
+{
+    if (const FileEntry* entry = entryAt(row))
+        Reveal::show(entry->path);
+}
+
+void PlanModel::confirm()
+{
+    if (!isConfirmable())
+        return;
+    m_app->confirm(*m_plan, m_ticks.paths());
+}
+
+} // namespace orlen

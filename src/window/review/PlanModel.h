@@ -1,0 +1,128 @@
+#pragma once
+
+#include "app/AppModel.h"
+#include "model/PlanTicks.h"
+#include "window/findings/FolderTest.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// The plan that waits for confirmation, as rows: each section's heading, followed by its entries unless it
+/// is folded up. All entries are checked at first; one that stands in several sections has the same check in
+/// each of them. Keeps the plan until the next one, so that a sheet that closes still shows it. Main thread.
+class PlanModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
+    /// Heading of the plan.
+    Q_PROPERTY(QString title READ title NOTIFY planChanged)
+    /// Whether any entry has a note.
+    Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
+    Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
+    /// What would move: each path once, and nothing that goes along with its folder.
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY figuresChanged)
+    Q_PROPERTY(QString checkedCountText READ checkedCountText NOTIFY figuresChanged)
+    Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
+    /// Whether something is checked and this program may move it.
+    Q_PROPERTY(bool confirmable READ isConfirmable NOTIFY figuresChanged)
+
+public:
+    enum class Role {
+        heading = Qt::UserRole, ///< whether the row is a section's
+        name,                   ///< of the section, or the last component of the entry
+        folder,                 ///< where the entry lies; "12 of 15 selected" of a section
+        size,                   ///< of the entry, or what is checked in the section, as text
+        date,                   ///< "Opened …" or "Modified …"; may be empty
+        note,                   ///< may be empty
+        rating,                 ///< raw value; empty where there is no advice
+        ratingLabel,            ///< its word
+        ratingSymbol,           ///< its icon
+        symbol,                 ///< icon of the file or the section
+        tone,                   ///< colour of the section's badge
+        thumbnail,              ///< source of a picture of it; empty for what is no picture
+        mark,                   ///< Qt::CheckState
+        folded,                 ///< whether the section's entries are hidden
+        token,                  ///< number that stands for the path; 0 for a section
+    };
+
+    explicit PlanModel(QObject* parent = nullptr);
+
+    [[nodiscard]] AppModel* app() const { return m_app; }
+    void setApp(AppModel* app);
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
+    [[nodiscard]] int entryCount() const { return m_entryCount; }
+    [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
+    [[nodiscard]] QString checkedCountText() const;
+    [[nodiscard]] QString checkedSizeText() const;
+    [[nodiscard]] bool isConfirmable() const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Checks the row's entry or takes the check away, for what lies in it and, when it is taken away, for
+    /// the folders that hold it too; for a section, all of its entries. As the following ones, nothing for a
+    /// row that is not there.
+    Q_INVOKABLE void toggle(int row);
+    Q_INVOKABLE void checkAll();
+    Q_INVOKABLE void uncheckAll();
+    /// Hides the entries of a section's row, or shows them again.
+    Q_INVOKABLE void fold(int row);
+    Q_INVOKABLE void setFolded(int row, bool isFolded);
+    /// The row of the heading over the row.
+    [[nodiscard]] Q_INVOKABLE int headingOf(int row) const;
+    /// 0 for a section.
+    [[nodiscard]] Q_INVOKABLE int tokenAt(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
+    Q_INVOKABLE void reveal(int row) const;
+    /// Moves what is checked to the Trash. Only when `confirmable`.
+    Q_INVOKABLE void confirm();
+
+Q_SIGNALS:
+    void appChanged();
+    void planChanged();
+    void figuresChanged();
+
+private:
+    struct Row {
+        int section = 0;
+        int entry = 0; ///< -1: the section's heading
+    };
+    struct SectionState {
+        bool isFolded = false;
+        std::optional<Rating> rating; ///< of entries without one of their own
+    };
+
+    void follow();
+    void show(const CleanPlan& plan);
+    void setAllChecked(bool isChecked);
+    void followTicks();
+    [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
+    [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
+    [[nodiscard]] const PlanSection& section(int number) const;
+    [[nodiscard]] SectionState& state(int number) { return m_states[static_cast<std::size_t>(number)]; }
+    [[nodiscard]] const SectionState& state(int number) const;
+    [[nodiscard]] const FileEntry* entryAt(int row) const;
+    [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
+    [[nodiscard]] QVariant sectionData(int number, Role role) const;
+    [[nodiscard]] QVariant entryData(const Row& row, Role role) const;
+    [[nodiscard]] std::optional<Rating> findingRating(const std::string& sectionId) const;
+
+    AppModel* m_app = nullptr;
+    std::optional<CleanPlan> m_plan;
+    PlanTicks m_ticks;
+    std::vector<SectionState> m_states; ///< of each section
+    std::vector<Row> m_rows;
+    int m_entryCount = 0;
+    bool m_hasNotes = false;
+    FolderTest* m_folders;
+};
+
+} // namespace orlen

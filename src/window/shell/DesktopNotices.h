@@ -1,0 +1,45 @@
+#pragma once
+
+#include "window/shell/LaunchToken.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+
+class QDBusPendingCallWatcher;
+
+namespace orlen {
+
+/// Shows one notice at a time through the desktop's notification service; a new one replaces the last. All
+/// calls are asynchronous, and where there is no such service nothing happens. Main thread.
+class DesktopNotices : public QObject {
+    Q_OBJECT
+
+public:
+    struct Notice {
+        QString title;
+        QString text; ///< plain
+    };
+
+    /// `openLabel` names what a click does.
+    DesktopNotices(QDBusConnection bus, const QString& openLabel, QObject* parent = nullptr);
+
+    void show(const Notice& notice);
+
+Q_SIGNALS:
+    /// The notice was clicked.
+    void opened(const orlen::LaunchToken& token);
+
+private:
+    Q_SLOT void keepToken(uint id, const QString& token);
+    Q_SLOT void open(uint id, const QString& action);
+
+    void keepNumber(QDBusPendingCallWatcher* finished);
+
+    QDBusConnection m_bus;
+    const QString m_openLabel;
+    uint m_id = 0; ///< of the last notice; 0: there is none
+    LaunchToken m_token;
+};
+
+} // namespace orlen

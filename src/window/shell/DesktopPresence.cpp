@@ -1,0 +1,40 @@
+#include "window/shell/DesktopPresence.h"
+
+#include "window/shell/WindowTexts.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace orlen {
+
+DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine,
+                                 QQuickWindow& window)
+    : m_notices(bus, WindowTexts::open()),
+      m_endNotices(app, m_notices, [&window] { return window.isExposed() && window.isActive(); }),
+      m_tray(bus, app, engine)
+{
+    connect(&m_notices, &DesktopNotices::opened, &window,
+            [&window](const LaunchToken& token) { present(window, token); });
+    connect(&m_tray, &Tray::openRequested, &window, [this, &window] {
+        m_tray.hidePanel();
+        present(window);
+    });
+    connect(&m_tray, &Tray::quitRequested, QCoreApplication::instance(), &QCoreApplication::quit,
+            Qt::QueuedConnection);
+    // The small window must not keep the program alive when the main one has been closed.
+    connect(&window, &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (!isVisible)
+            m_tray.hidePanel();
+    });
+}
+
+void DesktopPresence::present(QQuickWindow& window, const LaunchToken& token)
+{
+    token.use();
+    window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+    window.setVisible(true);
+    window.raise();
+    window.requestActivate();
+}
+
+} // namespace orlen

@@ -1,0 +1,36 @@
+#include "window/shell/EndNotices.h"
+
+#include "window/shell/WindowTexts.h"
+
+#include <utility>
+
+namespace orlen {
+
+EndNotices::EndNotices(AppModel& app, DesktopNotices& notices, std::function<bool()> isSeen, QObject* parent)
+    : QObject(parent), m_app(app), m_notices(notices), m_isSeen(std::move(isSeen)), m_phase(app.phase())
+{
+    connect(&m_app, &AppModel::phaseChanged, this, &EndNotices::followPhase);
+    connect(&m_app, &AppModel::cleaningFinished, this, &EndNotices::showCleaning);
+}
+
+void EndNotices::followPhase()
+{
+    const Phase before = std::exchange(m_phase, m_app.phase());
+    // A cancelled scan, which ends in another phase, is no news.
+    if (before == Phase::scanning && m_phase == Phase::results)
+        show({WindowTexts::scanFinished(), WindowTexts::safelyFree(m_app.safeBytes())});
+}
+
+void EndNotices::showCleaning(const CleanRecord& record)
+{
+    show({WindowTexts::moved(static_cast<int>(record.items.size())),
+          WindowTexts::couldNotBeMoved(record.failed)});
+}
+
+void EndNotices::show(const DesktopNotices::Notice& notice)
+{
+    if (!m_isSeen())
+        m_notices.show(notice);
+}
+
+} // namespace orlen

@@ -1,0 +1,32 @@
+#include "window/shell/GuiStart.h"
+
+#include "window/shell/WindowTexts.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace orlen::GuiStart {
+
+namespace {
+
+/// Qt tells of a display that does not answer in many words and then aborts; there is no call to ask first.
+/// What it remarks before is about the same.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/)
+{
+    if (type != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "orlen: %s\n", WindowTexts::noDisplay());
+    std::_Exit(EXIT_FAILURE);
+}
+
+} // namespace
+
+std::unique_ptr<QGuiApplication> makeApplication(int& argc, char** argv)
+{
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
+    auto application = std::make_unique<QGuiApplication>(argc, argv);
+    qInstallMessageHandler(usual);
+    return application;
+}
+
+} // namespace orlen::GuiStart

@@ -1,0 +1,100 @@
+#include "window/shell/Navigation.h"
+
+#include "window/lists/DisplayText.h"
+#include "window/shell/ScreenTable.h"
+
+#include <QSettings>
+
+#include <algorithm>
+
+namespace orlen {
+
+namespace {
+
+const QString kOnboarded = QStringLiteral("onboarded");
+
+} // namespace
+
+void Navigation::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    if (m_app != nullptr)
+        m_app->disconnect(this);
+    m_app = app;
+    if (m_app != nullptr) {
+        connect(m_app, &AppModel::sheetChanged, this, &Navigation::sheetChanged);
+        connect(m_app, &AppModel::cleaningChanged, this, &Navigation::cleaningChanged);
+        connect(m_app, &AppModel::requestedScreenChanged, this, &Navigation::followRequest);
+        followRequest();
+    }
+    Q_EMIT appChanged();
+    Q_EMIT sheetChanged();
+    Q_EMIT cleaningChanged();
+}
+
+bool Navigation::isOnboarded()
+{
+    return QSettings().value(kOnboarded, false).toBool();
+}
+
+void Navigation::finishOnboarding()
+{
+    QSettings().setValue(kOnboarded, true);
+    Q_EMIT onboardedChanged();
+}
+
+void Navigation::setScreen(Screen screen)
+{
+    if (m_screen == screen)
+        return;
+    m_screen = screen;
+    Q_EMIT screenChanged();
+}
+
+QString Navigation::screenTitle() const
+{
+    return DisplayText::text(screenTable()[static_cast<std::size_t>(m_screen)].title);
+}
+
+Navigation::Sheet Navigation::sheet() const
+{
+    if (m_app == nullptr || !m_app->sheet())
+        return NoSheet;
+    return std::holds_alternative<orlen::PlanSheet>(*m_app->sheet()) ? PlanSheet : FindingSheet;
+}
+
+QString Navigation::findingId() const
+{
+    if (sheet() != FindingSheet)
+        return {};
+    return DisplayText::text(std::get<orlen::FindingSheet>(*m_app->sheet()).findingId);
+}
+
+bool Navigation::isCleaning() const
+{
+    return m_app != nullptr && m_app->cleaning().has_value();
+}
+
+void Navigation::showFinding(const QString& id)
+{
+    const std::string wanted = id.toStdString();
+    const auto& findings = m_app->findings();
+    if (std::any_of(findings.begin(), findings.end(), [&](const Finding& f) { return f.id() == wanted; }))
+        m_app->setSheet(orlen::FindingSheet{wanted});
+}
+
+void Navigation::closeSheet()
+{
+    m_app->setSheet(std::nullopt);
+}
+
+void Navigation::followRequest()
+{
+    if (const auto requested = m_app->requestedScreen()) {
+        setScreen(static_cast<Screen>(*requested));
+        m_app->setRequestedScreen(std::nullopt);
+    }
+}
+
+} // namespace orlen

@@ -1,0 +1,121 @@
+#include "window/shell/Notices.h"
+
+#include "window/lists/DisplayText.h"
+#include "window/shell/Reveal.h"
+#include "window/shell/WindowTexts.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+/// Between two sentences, so that the second one is seen, and told, to be another.
+constexpr std::chrono::milliseconds kPause{300};
+constexpr std::chrono::milliseconds kPerCharacter{75};
+/// What can be copied has to be reached as well.
+constexpr int kPathFactor = 2;
+
+} // namespace
+
+Notices::Notices(QObject* parent) : QObject(parent)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
+    if (const Reveal* reveal = Reveal::current())
+        connect(reveal, &Reveal::failed, this, [this](const QString& path) {
+            add({WindowTexts::cannotReveal(path), path});
+        });
+}
+
+void Notices::setApp(AppModel* app)
+{
+    if (m_app == app)
+        return;
+    m_app = app;
+    for (const std::string& sentence : app == nullptr ? std::vector<std::string>() : app->notices())
+        say(DisplayText::text(sentence));
+    Q_EMIT appChanged();
+}
+
+void Notices::say(const QString& text)
+{
+    add({text, {}});
+}
+
+void Notices::add(Notice notice)
+{
+    if (notice.text.isEmpty() || (!m_waiting.empty() && m_waiting.back() == notice))
+        return;
+    if (notice == m_shown) {
+        letRead();
+        return;
+    }
+    m_waiting.push_back(std::move(notice));
+    if (m_shown.text.isEmpty() && !m_timer.isActive())
+        goOn();
+}
+
+void Notices::dismiss()
+{
+    if (!m_shown.text.isEmpty())
+        goOn();
+}
+
+void Notices::goOn()
+{
+    if (m_shown.text.isEmpty()) {
+        if (m_waiting.empty())
+            return;
+        m_shown = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        letRead();
+    } else {
+        m_shown = {};
+        m_timer.start(kPause);
+    }
+    Q_EMIT changed();
+}
+
+void Notices::setHeld(bool isHeld)
+{
+    if (m_isHeld == isHeld)
+        return;
+    m_isHeld = isHeld;
+    Q_EMIT heldChanged();
+    if (!m_shown.text.isEmpty())
+        letRead();
+}
+
+void Notices::letRead()
+{
+    if (m_isHeld)
+        m_timer.stop();
+    else
+        m_timer.start(readingTime());
+}
+
+std::chrono::milliseconds Notices::readingTime() const
+{
+    const std::chrono::milliseconds shortest(m_shortest);
+    const std::chrono::milliseconds wanted = kPerCharacter * m_shown.text.size();
+    return std::max(shortest, wanted) * (hasPath() ? kPathFactor : 1);
+}
+
+void Notices::copyPath() const
+{
+    QGuiApplication::clipboard()->setText(m_shown.path);
+}
+
+void Notices::announce(QObject* item)
+{
+    QAccessibleEvent event(item, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace orlen

@@ -1,0 +1,153 @@
+#include "window/tray/TrayValues.h"
+
+#include <QDBusMetaType>
+#include <QDBusVariant>
+#include <QtEndian>
+
+namespace orlen {
+
+namespace {
+
+/// The bus library finds the type of a slot's or signal's parameter by the name that is written there.
+template <typename List>
+void registerList(const char* name)
+{
+    qDBusRegisterMetaType<List>();
+    qRegisterMetaType<List>(name);
+}
+
+} // namespace
+
+TrayPixmap TrayPixmap::fromImage(const QImage& image)
+{
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    TrayPixmap pixmap{argb.width(), argb.height(), QByteArray(argb.sizeInBytes(), Qt::Uninitialized)};
+    // Four bytes a pixel leave no gap at the end of a line.
+    qToBigEndian<quint32>(argb.constBits(), argb.sizeInBytes() / 4, pixmap.bytes.data());
+    return pixmap;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayPixmap& pixmap)
+{
+    argument.beginStructure();
+    argument << pixmap.width << pixmap.height << pixmap.bytes;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayPixmap& pixmap)
+{
+    argument.beginStructure();
+    argument >> pixmap.width >> pixmap.height >> pixmap.bytes;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayToolTip& tip)
+{
+    argument.beginStructure();
+    argument << tip.icon << tip.pixmaps << tip.title << tip.text;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayToolTip& tip)
+{
+    argument.beginStructure();
+    argument >> tip.icon >> tip.pixmaps >> tip.title >> tip.text;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNode& node)
+{
+    argument.beginStructure();
+    argument << node.id << node.properties;
+    argument.beginArray(QMetaType::fromType<QDBusVariant>());
+    for (const TrayMenuNode& child : node.children)
+        argument << QDBusVariant(QVariant::fromValue(child));
+    argument.endArray();
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNode& node)
+{
+    argument.beginStructure();
+    argument >> node.id >> node.properties;
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        QDBusVariant child;
+        argument >> child;
+        node.children.append(qdbus_cast<TrayMenuNode>(child.variant()));
+    }
+    argument.endArray();
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuProperties& properties)
+{
+    argument.beginStructure();
+    argument << properties.id << properties.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuProperties& properties)
+{
+    argument.beginStructure();
+    argument >> properties.id >> properties.properties;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNames& names)
+{
+    argument.beginStructure();
+    argument << names.id << names.names;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNames& names)
+{
+    argument.beginStructure();
+    argument >> names.id >> names.names;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuEvent& event)
+{
+    argument.beginStructure();
+    argument << event.id << event.name << QDBusVariant(event.data) << event.time;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& event)
+{
+    QDBusVariant data;
+    argument.beginStructure();
+    argument >> event.id >> event.name >> data >> event.time;
+    argument.endStructure();
+    event.data = data.variant();
+    return argument;
+}
+
+void registerTrayValues()
+{
+    qDBusRegisterMetaType<TrayPixmap>();
+    qDBusRegisterMetaType<TrayToolTip>();
+    qDBusRegisterMetaType<TrayMenuNode>();
+    qDBusRegisterMetaType<TrayMenuProperties>();
+    qDBusRegisterMetaType<TrayMenuNames>();
+    qDBusRegisterMetaType<TrayMenuEvent>();
+    registerList<TrayPixmaps>("orlen::TrayPixmaps");
+    registerList<TrayMenuPropertiesList>("orlen::TrayMenuPropertiesList");
+    registerList<TrayMenuNamesList>("orlen::TrayMenuNamesList");
+    registerList<TrayMenuEvents>("orlen::TrayMenuEvents");
+}
+
+} // namespace orlen

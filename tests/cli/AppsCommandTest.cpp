@@ -1,0 +1,165 @@
+#include "app/Sizes.h"
+#include "clean/Persist.h"
+#include "cli/Process.h"
+#include "tools/apps/AppHome.h"
+
+#include <nlohmann/json.hpp>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace orlen {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// An AppImage with settings, and a folder of settings that is nobody's.
+struct InstalledHome : AppHome {
+    InstalledHome()
+    {
+        // The program sees the real folders for all users: nothing here may have a name that is found there.
+        launcher(".local/share/applications/org.fooqux.Fooqux.desktop", "Foo Qux", installed);
+        fileOfSize(".config/org.fooqux.Fooqux/settings", 8 * kKiB);
+        fileOfSize(".cache/foo-qux/x", 16 * kKiB);
+        fileOfSize(".cache/other/x", 16 * kKiB);
+    }
+
+    [[nodiscard]] bool isUntouched() const
+    {
+        return exists(installed) && exists(path(".cache/foo-qux")) &&
+               exists(path(".config/org.fooqux.Fooqux"));
+    }
+
+    const std::string installed = image("Applications/Fooqux-1.0.AppImage");
+};
+
+} // namespace
+
+TEST(AppsCommandTest, theApplicationsAreListedWithTheirSizes)
+{
+    const InstalledHome home;
+    home.file("opt/b\x1b[31mox/AppRun");
+    const Json apps = orlen({"apps", "--json"}).document();
+    const Json image = {
+        {"path", home.installed}, {"name", "Foo Qux"}, {"bundleID", "org.fooqux.Fooqux"}, {"size", 4 * kKiB}};
+    bool isListed = false;
+    for (const Json& app : apps)
+        isListed = isListed || app.dump() == image.dump();
+    EXPECT_TRUE(isListed) << apps.dump();
+
+    const Process::Outcome outcome = orlen({"apps"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.out, HasSubstr("Foo Qux"));
+    EXPECT_THAT(outcome.out, HasSubstr("AppImage  ~/Applications/Fooqux-1.0.AppImage\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("b?[31mox"));
+    EXPECT_EQ(orlen({"apps", "extra"}).status, 2);
+}
+
+TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
+{
+    const InstalledHome home;
+    const Process::Outcome outcome =
+        orlen({"leftovers", "--json", "--id", "org.fooqux.Fooqux", "--name", "Foo Qux"});
+    const Json entries = outcome.document();
+    ASSERT_EQ(entries.size(), 2U) << outcome.err;
+    EXPECT_EQ(entries[0]["path"], home.path(".config/org.fooqux.Fooqux"));
+    EXPECT_EQ(entries[0]["size"], 8 * kKiB);
+    EXPECT_FALSE(entries[0].contains("note"));
+    EXPECT_EQ(entries[1]["note"], "Matched by name only");
+    EXPECT_THAT(orlen({"leftovers", "--id", "org.fooqux.Fooqux"}).out,
+                HasSubstr("Leftovers found by bundle identifier (org.fooqux.Fooqux)\n"));
+    EXPECT_THAT(orlen({"leftovers", "--name", "Nobody's"}).out, HasSubstr("No leftovers found.\n"));
+    EXPECT_EQ(orlen({"leftovers"}).status, 2);
+    EXPECT_EQ(orlen({"leftovers", "--id", ""}).status, 2);
+}
+
+TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
+{
+    const InstalledHome home;
+    const Process::Outcome shown = orlen({"uninstall", "FOO qux", "--dry-run", "--json"});
+    EXPECT_EQ(shown.status, 0) << shown.err;
+    const Json plan = shown.document()["plan"];
+    EXPECT_EQ(plan["title"], "Uninstall Foo Qux");
+    ASSERT_EQ(plan["sections"].size(), 2U);
+    EXPECT_EQ(plan["sections"][0]["entries"][0]["path"], home.installed);
+    EXPECT_EQ(plan["sections"][0]["entries"][0]["size"], 4 * kKiB);
+    EXPECT_EQ(plan["sections"][1]["entries"].size(), 3U);
+    EXPECT_EQ(orlen({"uninstall", "Foo Qux"}).status, 2);
+    EXPECT_TRUE(home.isUntouched());
+
+    const Process::Outcome outcome = orlen({"uninstall", home.installed, "--yes"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("~/.cache/foo-qux\n"));
+    EXPECT_FALSE(TempHome::exists(home.installed));
+    EXPECT_FALSE(TempHome::exists(home.path(".local/share/applications/org.fooqux.Fooqux.desktop")));
+    EXPECT_TRUE(TempHome::exists(home.path(".cache/other")));
+    ASSERT_EQ(Persist::loadHistory().records.size(), 1U);
+    EXPECT_EQ(Persist::loadHistory().records.front().title, "Uninstall Foo Qux");
+    EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
+    EXPECT_TRUE(home.isUntouched());
+}
+
+TEST(AppsCommandTest, whatCannotBeUninstalledIsAWrongCall)
+{
+    const InstalledHome home;
+    home.image(".local/bin/twin-app-1.AppImage");
+    home.image("Downloads/Twin_App-2.AppImage");
+    home.folder(".local/share/flatpak/app/org.fooqux.Managed");
+    struct Case {
+        const char* name;
+        std::vector<std::string> arguments;
+        const char* message;
+    };
+    const Case cases[] = {
+        {"unknown", {"Nobody's", "--yes"}, "there is no installed application \"Nobody's\"."},
+        {"part of a name", {"Foo", "--yes"}, "there is no installed application"},
+        {"several", {"twin app", "--yes"}, "/Downloads/Twin_App-2.AppImage\n"},
+        {"managed",
+         {"managed", "--yes", "--json"},
+         "flatpak uninstall --delete-data --user org.fooqux.Managed"},
+        {"nobody to ask", {"Foo Qux"}, "--yes"},
+        {"empty", {"", "--yes"}, "there is no installed application"},
+        {"no name", {"--yes"}, "NAME"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        std::vector<std::string> arguments = c.arguments;
+        arguments.insert(arguments.begin(), "uninstall");
+        const Process::Outcome outcome = orlen(std::move(arguments));
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_THAT(outcome.err, HasSubstr(c.message));
+        EXPECT_TRUE(home.isUntouched());
+    }
+    EXPECT_THAT(Persist::loadHistory().records, IsEmpty());
+}
+
+TEST(AppsCommandTest, ofSeveralCopiesOneIsNamedByItsPathAndLeavesTheSettings)
+{
+    const InstalledHome home;
+    const std::string copy = home.image("Downloads/foo-qux.AppImage");
+    EXPECT_EQ(orlen({"uninstall", "Foo Qux", "--yes"}).status, 2);
+    const Process::Outcome outcome = orlen({"uninstall", copy, "--yes"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.err, HasSubstr("Another copy is installed"));
+    EXPECT_FALSE(TempHome::exists(copy));
+    EXPECT_TRUE(home.isUntouched());
+}
+
+TEST(AppsCommandTest, ctrlCEndsThemWithoutAResult)
+{
+    const InstalledHome home;
+    const std::vector<std::string> calls[] = {
+        {"apps", "--json"}, {"leftovers", "--json", "--name", "Foo Qux"}, {"uninstall", "Foo Qux", "--yes"}};
+    for (const std::vector<std::string>& call : calls) {
+        SCOPED_TRACE(call.front());
+        const Process::Outcome outcome = Process{call}.runInterrupted();
+        EXPECT_EQ(outcome.status, 130);
+        EXPECT_THAT(outcome.out, IsEmpty());
+    }
+    EXPECT_TRUE(home.isUntouched());
+}
+
+} // namespace orlen
