@@ -1,5 +1,5 @@
-#include "scan/Duplicates.h"
 #include "scan/duplicates/ContentComparer.h"
+#include "scan/duplicates/Duplicates.h"
 #include "scan/duplicates/FileHasher.h"
 
 #include <benchmark/benchmark.h>

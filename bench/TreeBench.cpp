@@ -4,7 +4,7 @@
 #include "clean/Safety.h"
 #include "scan/FS.h"
 #include "scan/ScanProgress.h"
-#include "scan/Walk.h"
+#include "scan/walk/Walk.h"
 
 #include <benchmark/benchmark.h>
 

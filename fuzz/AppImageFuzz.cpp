@@ -1,5 +1,5 @@
 #include "Require.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "tools/apps/AppImage.h"
 #include "tools/apps/AppNames.h"
 

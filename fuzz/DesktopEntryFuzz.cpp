@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/DesktopEntry.h"
-#include "platform/PathText.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/text/PathText.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "Require.h"
 #include "clean/trash/DirectorySizes.h"
-#include "platform/PercentCoding.h"
+#include "platform/text/PercentCoding.h"
 
 #include <cstdint>
 #include <vector>

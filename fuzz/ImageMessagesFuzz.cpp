@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/PathText.h"
 #include "platform/images/ImageMessages.h"
+#include "platform/text/PathText.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/MountTable.h"
-#include "platform/PathText.h"
+#include "platform/files/MountTable.h"
+#include "platform/text/PathText.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "Require.h"
-#include "platform/PathText.h"
-#include "platform/PercentCoding.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
+#include "platform/text/PercentCoding.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,5 +1,5 @@
 #include "Require.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 #include "recognition/ImageDecoder.h"
 
 #include <algorithm>

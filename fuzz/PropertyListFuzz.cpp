@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/PathText.h"
-#include "platform/PropertyList.h"
+#include "platform/mac/PropertyList.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstdint>

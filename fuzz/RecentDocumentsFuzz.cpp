@@ -1,8 +1,8 @@
 #include "Require.h"
-#include "platform/PathText.h"
-#include "platform/PercentCoding.h"
-#include "platform/Places.h"
-#include "platform/RecentDocuments.h"
+#include "platform/desktop/RecentDocuments.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
+#include "platform/text/PercentCoding.h"
 
 #include <cstdint>
 

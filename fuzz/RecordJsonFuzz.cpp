@@ -1,8 +1,8 @@
 #include "Require.h"
 #include "clean/RecordJson.h"
 #include "insight/Predictor.h"
-#include "platform/CheckedSum.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 
 #include <nlohmann/json.hpp>
 

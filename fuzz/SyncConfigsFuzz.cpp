@@ -1,6 +1,6 @@
 #include "Require.h"
 #include "clean/SyncConfigs.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <unicode/utf8.h>
 

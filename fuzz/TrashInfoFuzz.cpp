@@ -1,7 +1,7 @@
 #include "Require.h"
 #include "clean/trash/TrashInfo.h"
 #include "clean/trash/TrashName.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "tools/startup/UnitFile.h"
 
 #include <cstddef>

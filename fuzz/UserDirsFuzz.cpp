@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/PathText.h"
-#include "platform/UserDirs.h"
+#include "platform/files/UserDirs.h"
+#include "platform/text/PathText.h"
 
 #include <cstdint>
 

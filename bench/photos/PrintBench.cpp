@@ -1,8 +1,9 @@
 // Times of feature prints, on pictures made for the run: soft spots with fine noise, no two alike.
 
-#include "platform/images/FineCheck.h"
 #include "recognition/PrintMaker.h"
 #include "recognition/Sharpness.h"
+#include "scan/photos/FineCheck.h"
+#include "scan/photos/PrintDistance.h"
 
 #include <benchmark/benchmark.h>
 
@@ -83,7 +84,7 @@ void compareUnlike(benchmark::State& state)
 {
     const std::vector<FeaturePrint> prints = unlikePrints(2);
     for (auto _ : state)
-        benchmark::DoNotOptimize(prints[0].distance(prints[1]));
+        benchmark::DoNotOptimize(distance(prints[0], prints[1]));
 }
 BENCHMARK(compareUnlike);
 
@@ -119,7 +120,7 @@ void groupPrints(benchmark::State& state)
         std::vector<const FeaturePrint*> leaders;
         for (const FeaturePrint& print : prints) {
             const bool isKnown = std::any_of(leaders.begin(), leaders.end(), [&](const FeaturePrint* leader) {
-                return leader->distance(print) < 0.32F;
+                return distance(*leader, print) < 0.32F;
             });
             if (!isKnown)
                 leaders.push_back(&print);

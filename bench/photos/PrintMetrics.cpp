@@ -3,6 +3,7 @@
 #include "ChangedCopies.h"
 #include "recognition/AreaScale.h"
 #include "recognition/PrintMaker.h"
+#include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
 #include <chrono>
@@ -55,7 +56,7 @@ std::optional<Printed> printed(const std::string& folder, const Photo& photo, Re
         const auto copy = PrintMaker::printOf(thumbnail(change.apply(*image, random)));
         Share& share = recall[photo.kind][change.name];
         ++share.all;
-        share.found += copy && print->distance(*copy) < kNearDuplicate ? 1 : 0;
+        share.found += copy && distance(*print, *copy) < kNearDuplicate ? 1 : 0;
     }
     return Printed{.photo = photo, .print = *print};
 }
@@ -89,7 +90,7 @@ void printPairs(const std::vector<Printed>& all)
     std::map<std::string, Share> shares;
     for (std::size_t i = 0; i < all.size(); ++i) {
         for (std::size_t j = i + 1; j < all.size(); ++j) {
-            const float distance = all[i].print.distance(all[j].print);
+            const float distance = orlen::distance(all[i].print, all[j].print);
             Share& share = shares[pairKind(all[i].photo, all[j].photo)];
             ++share.all;
             if (distance >= kNearDuplicate)

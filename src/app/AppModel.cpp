@@ -6,11 +6,11 @@
 #include "clean/Persist.h"
 #include "clean/Reserve.h"
 #include "clean/Safety.h"
-#include "platform/CheckedSum.h"
-#include "platform/Folder.h"
-#include "platform/OwnFile.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/ScanEngine.h"
 
 #include <QThread>

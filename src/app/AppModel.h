@@ -9,9 +9,9 @@
 #include "model/Finding.h"
 #include "model/ModelState.h"
 #include "model/PathSelection.h"
-#include "platform/FolderLock.h"
-#include "platform/Time.h"
+#include "platform/files/FolderLock.h"
 #include "platform/images/ImageWorkers.h"
+#include "platform/values/Time.h"
 #include "scan/StorageBreakdown.h"
 
 #include <QObject>

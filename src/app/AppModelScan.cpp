@@ -4,9 +4,9 @@
 #include "clean/Safety.h"
 #include "insight/AskContext.h"
 #include "model/Rater.h"
-#include "platform/CheckedSum.h"
-#include "platform/ThreadPriority.h"
-#include "platform/Threads.h"
+#include "platform/process/ThreadPriority.h"
+#include "platform/process/Threads.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/ScanEngine.h"
 
 #include <algorithm>

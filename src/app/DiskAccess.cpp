@@ -1,10 +1,10 @@
 #include "app/DiskAccess.h"
 
-#include "platform/FileContent.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/OwnProgram.h"
-#include "platform/Places.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/process/OwnProgram.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "app/DiskMapModel.h"
 
-#include "platform/CheckedSum.h"
-#include "platform/Folder.h"
+#include "platform/files/Folder.h"
+#include "platform/values/CheckedSum.h"
 #include "tools/DiskMap.h"
 
 #include <QThread>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Workers.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "tools/TreeNode.h"
 #include "tools/Treemap.h"
 

@@ -1,7 +1,7 @@
 #include "app/Format.h"
 
 #include "clean/Safety.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <array>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Time.h"
-#include "platform/Uuid.h"
+#include "platform/values/Time.h"
+#include "platform/values/Uuid.h"
 
 #include <cstdint>
 #include <string>

@@ -6,7 +6,7 @@
 #include "clean/Safety.h"
 #include "clean/trash/Trash.h"
 #include "model/PathSelection.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <map>

@@ -3,7 +3,7 @@
 #include "clean/Journal.h"
 #include "clean/Persist.h"
 #include "clean/Recovery.h"
-#include "platform/OwnFile.h"
+#include "platform/files/OwnFile.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "clean/CleanRecord.h"
-#include "platform/Result.h"
+#include "platform/values/Result.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "clean/HomeMounts.h"
 
-#include "platform/MountTable.h"
-#include "platform/PathText.h"
+#include "platform/files/MountTable.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

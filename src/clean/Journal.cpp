@@ -2,10 +2,10 @@
 
 #include "clean/Persist.h"
 #include "clean/Reserve.h"
-#include "platform/FileContent.h"
-#include "platform/Folder.h"
-#include "platform/OwnFile.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

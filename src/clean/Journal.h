@@ -1,10 +1,10 @@
 #pragma once
 
 #include "clean/CleanRecord.h"
-#include "platform/FileStatus.h"
-#include "platform/Result.h"
-#include "platform/Time.h"
-#include "platform/Uuid.h"
+#include "platform/files/FileStatus.h"
+#include "platform/values/Result.h"
+#include "platform/values/Time.h"
+#include "platform/values/Uuid.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,11 +2,11 @@
 
 #include "clean/RecordJson.h"
 #include "clean/Reserve.h"
-#include "platform/FileContent.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
-#include "platform/Reachability.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
+#include "platform/text/PathText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "clean/CleanRecord.h"
 #include "clean/Snapshot.h"
-#include "platform/Result.h"
+#include "platform/values/Result.h"
 
 #include <string>
 #include <vector>

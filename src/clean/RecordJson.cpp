@@ -1,6 +1,6 @@
 #include "clean/RecordJson.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,10 +1,10 @@
 #include "clean/Reserve.h"
 
 #include "clean/Persist.h"
-#include "platform/FileStatus.h"
-#include "platform/OwnFile.h"
-#include "platform/PathText.h"
-#include "platform/Volume.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/OwnFile.h"
+#include "platform/files/Volume.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <mutex>

@@ -2,7 +2,7 @@
 
 #include "clean/SafetyTable.h"
 #include "clean/SyncRoots.h"
-#include "platform/Reachability.h"
+#include "platform/files/Reachability.h"
 
 #include <atomic>
 #include <cstdint>

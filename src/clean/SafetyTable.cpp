@@ -2,8 +2,8 @@
 
 #include "clean/SafetyRules.h"
 #include "clean/SyncRoots.h"
-#include "platform/FileStatus.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

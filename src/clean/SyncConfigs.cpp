@@ -1,6 +1,6 @@
 #include "clean/SyncConfigs.h"
 
-#include "platform/LineText.h"
+#include "platform/text/LineText.h"
 
 #include <nlohmann/json.hpp>
 #include <pugixml.hpp>

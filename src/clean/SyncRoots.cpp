@@ -1,10 +1,10 @@
 #include "clean/SyncRoots.h"
 
 #include "clean/SyncConfigs.h"
-#include "platform/FileContent.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <set>

@@ -6,8 +6,8 @@
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
-#include "platform/CheckedSum.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Terminal.h"
+#include "platform/process/Terminal.h"
 
 #include <string>
 #include <string_view>

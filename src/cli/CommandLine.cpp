@@ -5,10 +5,10 @@
 #include "cli/CageText.h"
 #include "cli/Command.h"
 #include "cli/Texts.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
-#include "platform/Reachability.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
 #include "platform/images/ImageWorkers.h"
+#include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>
 

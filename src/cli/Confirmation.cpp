@@ -1,8 +1,8 @@
 #include "cli/Confirmation.h"
 
 #include "cli/Texts.h"
-#include "platform/PathText.h"
-#include "platform/Terminal.h"
+#include "platform/process/Terminal.h"
+#include "platform/text/PathText.h"
 
 #include <string>
 

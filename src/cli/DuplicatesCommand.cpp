@@ -8,9 +8,9 @@
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
 #include "model/Rater.h"
-#include "scan/Duplicates.h"
 #include "scan/ScanProgress.h"
-#include "scan/Walk.h"
+#include "scan/duplicates/Duplicates.h"
+#include "scan/walk/Walk.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

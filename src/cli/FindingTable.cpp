@@ -2,7 +2,7 @@
 
 #include "app/Format.h"
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "app/Workers.h"
 #include "cli/Session.h"
 #include "scan/ScanProgress.h"
-#include "scan/Walk.h"
+#include "scan/walk/Walk.h"
 
 #include <QObject>
 

@@ -5,7 +5,7 @@
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

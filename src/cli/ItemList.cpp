@@ -6,8 +6,8 @@
 #include "cli/Table.h"
 #include "model/ByteCount.h"
 #include "model/PathSelection.h"
-#include "platform/CheckedSum.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 
 #include <utility>
 #include <vector>

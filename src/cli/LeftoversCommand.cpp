@@ -6,7 +6,7 @@
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "tools/apps/Leftovers.h"
 
 #include <CLI/CLI.hpp>

@@ -7,9 +7,9 @@
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
-#include "platform/CheckedSum.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

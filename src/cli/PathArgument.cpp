@@ -1,9 +1,9 @@
 #include "cli/PathArgument.h"
 
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
-#include "platform/Reachability.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
+#include "platform/text/PathText.h"
 
 namespace orlen::PathArgument {
 

@@ -8,12 +8,12 @@
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
 #include "model/Rater.h"
-#include "platform/CheckedSum.h"
 #include "platform/images/ImageWorkers.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
-#include "scan/Walk.h"
 #include "scan/photos/PhotoAnalyzer.h"
+#include "scan/walk/Walk.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

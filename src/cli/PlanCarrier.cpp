@@ -9,7 +9,7 @@
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #include "cli/ProgressLine.h"
 
-#include "platform/DisplayWidth.h"
-#include "platform/Terminal.h"
+#include "platform/process/Terminal.h"
+#include "platform/text/DisplayWidth.h"
 
 #include <iostream>
 

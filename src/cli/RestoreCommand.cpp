@@ -6,7 +6,7 @@
 #include "cli/ItemList.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

@@ -2,7 +2,7 @@
 
 #include "cli/Colours.h"
 #include "cli/ProgressLine.h"
-#include "platform/Interrupts.h"
+#include "platform/process/Interrupts.h"
 
 #include <functional>
 #include <nlohmann/json_fwd.hpp>

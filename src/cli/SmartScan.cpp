@@ -4,7 +4,7 @@
 #include "app/Format.h"
 #include "cli/Session.h"
 #include "cli/Texts.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "scan/ScanProgress.h"
 
 #include <CLI/CLI.hpp>

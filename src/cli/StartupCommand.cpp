@@ -4,7 +4,7 @@
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "tools/startup/LaunchControl.h"
 
 #include <CLI/CLI.hpp>

@@ -1,6 +1,6 @@
 #include "cli/Table.h"
 
-#include "platform/DisplayWidth.h"
+#include "platform/text/DisplayWidth.h"
 
 #include <algorithm>
 #include <utility>

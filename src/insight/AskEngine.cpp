@@ -2,7 +2,7 @@
 
 #include "insight/AskText.h"
 #include "model/ByteCount.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 
 #include <algorithm>
 #include <cstddef>

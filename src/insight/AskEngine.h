@@ -2,7 +2,7 @@
 
 #include "insight/AskContext.h"
 #include "model/FileEntry.h"
-#include "platform/LanguageModel.h"
+#include "platform/text/LanguageModel.h"
 
 #include <array>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "insight/AskText.h"
 #include "model/ByteCount.h"
-#include "platform/CheckedSum.h"
-#include "platform/LanguageTools.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "insight/AskText.h"
 
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 namespace orlen::AskText {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "insight/AskEngine.h"
-#include "platform/Uuid.h"
+#include "platform/values/Uuid.h"
 
 #include <string>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "insight/Predictor.h"
 
 #include "model/ByteCount.h"
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <chrono>

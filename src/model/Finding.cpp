@@ -1,6 +1,6 @@
 #include "model/Finding.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "model/KnownPlaces.h"
 
-#include "platform/NamePattern.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/NamePattern.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

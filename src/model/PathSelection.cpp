@@ -1,6 +1,6 @@
 #include "model/PathSelection.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "model/PlanTicks.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 namespace orlen {
 

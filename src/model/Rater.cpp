@@ -2,9 +2,9 @@
 
 #include "model/KnownPlaces.h"
 #include "model/RaterTables.h"
-#include "platform/LanguageTools.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "recognition/Cage.h"
 
-#include "platform/FileRights.h"
-#include "platform/ProcessLimits.h"
+#include "platform/files/FileRights.h"
+#include "platform/process/ProcessLimits.h"
 #include "recognition/SystemCallFilter.h"
 
 namespace orlen::Cage {

@@ -1,6 +1,6 @@
 #include "recognition/ImageDecoder.h"
 
-#include "platform/FileContent.h"
+#include "platform/files/FileContent.h"
 #include "recognition/BmpReader.h"
 #include "recognition/ImageLimits.h"
 #include "recognition/Samples.h"

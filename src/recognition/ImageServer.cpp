@@ -1,9 +1,9 @@
 #include "recognition/ImageServer.h"
 
-#include "platform/ProcessLimits.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/images/PixelBuffer.h"
+#include "platform/process/ProcessLimits.h"
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/PrintMaker.h"

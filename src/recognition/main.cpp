@@ -1,4 +1,4 @@
-#include "platform/ProcessLimits.h"
+#include "platform/process/ProcessLimits.h"
 #include "recognition/Cage.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/ImageServer.h"

@@ -1,9 +1,9 @@
 #include "scan/BreakdownFolders.h"
 
-#include "platform/Folder.h"
-#include "platform/MountTable.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Folder.h"
+#include "platform/files/MountTable.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <string_view>
 #include <unordered_set>

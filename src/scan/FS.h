@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/FileEntry.h"
-#include "platform/FileStatus.h"
-#include "platform/Time.h"
+#include "platform/files/FileStatus.h"
+#include "platform/values/Time.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Finding.h"
-#include "platform/Time.h"
+#include "platform/values/Time.h"
 #include "scan/Cand.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "scan/OtherDisk.h"
 
-#include "platform/MountTable.h"
-#include "platform/Places.h"
+#include "platform/files/MountTable.h"
+#include "platform/files/Places.h"
 #include "scan/tree/CurrentMounts.h"
 
 namespace orlen {

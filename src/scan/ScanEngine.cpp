@@ -1,15 +1,15 @@
 #include "scan/ScanEngine.h"
 
-#include "platform/Places.h"
-#include "platform/Reachability.h"
-#include "platform/RecentDocuments.h"
-#include "scan/Duplicates.h"
+#include "platform/desktop/RecentDocuments.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
 #include "scan/LargeAndOld.h"
 #include "scan/OtherDisk.h"
 #include "scan/StepGroup.h"
-#include "scan/Walk.h"
+#include "scan/duplicates/Duplicates.h"
 #include "scan/locations/LocationScanners.h"
 #include "scan/photos/PhotoAnalyzer.h"
+#include "scan/walk/Walk.h"
 
 #include <algorithm>
 #include <chrono>

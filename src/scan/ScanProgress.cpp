@@ -1,6 +1,6 @@
 #include "scan/ScanProgress.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "scan/StepGroup.h"
 
-#include "platform/Threads.h"
+#include "platform/process/Threads.h"
 
 #include <iterator>
 #include <utility>

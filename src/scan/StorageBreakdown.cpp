@@ -1,8 +1,8 @@
 #include "scan/StorageBreakdown.h"
 
-#include "platform/CheckedSum.h"
-#include "platform/Places.h"
-#include "platform/Volume.h"
+#include "platform/files/Places.h"
+#include "platform/files/Volume.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/BreakdownFolders.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeMeasure.h"

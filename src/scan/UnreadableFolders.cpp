@@ -1,6 +1,6 @@
 #include "scan/UnreadableFolders.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <cerrno>
 #include <functional>

@@ -1,9 +1,9 @@
 #include "tools/DiskMap.h"
 
-#include "platform/CheckedSum.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Reachability.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Reachability.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeScan.h"
 

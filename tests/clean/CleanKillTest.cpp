@@ -3,7 +3,7 @@
 #include "clean/Persist.h"
 
 #include "clean/WatchedItems.h"
-#include "platform/Folder.h"
+#include "platform/files/Folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

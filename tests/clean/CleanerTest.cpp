@@ -3,7 +3,7 @@
 #include "clean/Journal.h"
 #include "clean/TrashProbe.h"
 #include "clean/trash/Trash.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -6,7 +6,7 @@
 #include "clean/Reserve.h"
 #include "clean/Safety.h"
 #include "clean/TrashProbe.h"
-#include "platform/OwnFile.h"
+#include "platform/files/OwnFile.h"
 #include "support/PrivateMounts.h"
 
 #include <gmock/gmock.h>

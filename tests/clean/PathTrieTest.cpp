@@ -1,6 +1,6 @@
 #include "clean/PathTrie.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "clean/Persist.h"
 
 #include "clean/RecordJson.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "clean/trash/TrashInfo.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 #include "support/TempHome.h"
 
 #include <algorithm>

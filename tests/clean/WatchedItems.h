@@ -2,7 +2,7 @@
 
 #include "clean/CleanRecord.h"
 #include "model/FileEntry.h"
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 #include "support/TempHome.h"
 
 #include <map>

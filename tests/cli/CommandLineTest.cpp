@@ -1,7 +1,7 @@
 #include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "cli/Process.h"
-#include "platform/FolderLock.h"
+#include "platform/files/FolderLock.h"
 #include "support/TempHome.h"
 
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #include "cli/Process.h"
 
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 
 #include <array>
 #include <csignal>

@@ -1,7 +1,7 @@
 #include "cli/Table.h"
 
 #include "app/Format.h"
-#include "platform/DisplayWidth.h"
+#include "platform/text/DisplayWidth.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "PrivateBus.h"
 #include "app/EventLoop.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

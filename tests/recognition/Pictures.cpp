@@ -1,6 +1,6 @@
 #include "recognition/Pictures.h"
 
-#include "platform/FileContent.h"
+#include "platform/files/FileContent.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

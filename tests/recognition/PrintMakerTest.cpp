@@ -1,6 +1,7 @@
 #include "recognition/PrintMaker.h"
 
 #include "recognition/Scenes.h"
+#include "scan/photos/PrintDistance.h"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +14,9 @@ using namespace Scenes;
 
 constexpr float kNearDuplicate = 0.32F;
 
-float distance(const RgbImage& one, const RgbImage& other)
+float apart(const RgbImage& one, const RgbImage& other)
 {
-    return PrintMaker::printOf(one).value().distance(PrintMaker::printOf(other).value());
+    return distance(PrintMaker::printOf(one).value(), PrintMaker::printOf(other).value());
 }
 
 RgbImage photo(const Scene& scene)
@@ -46,7 +47,7 @@ TEST(PrintMakerTest, changedCopiesAreNearDuplicates)
         };
         for (const Case& c : cases) {
             SCOPED_TRACE(c.name);
-            EXPECT_LT(distance(original, c.copy), kNearDuplicate) << "seed " << seed;
+            EXPECT_LT(apart(original, c.copy), kNearDuplicate) << "seed " << seed;
         }
     }
 }
@@ -54,15 +55,15 @@ TEST(PrintMakerTest, changedCopiesAreNearDuplicates)
 TEST(PrintMakerTest, differentPicturesAreNot)
 {
     for (unsigned seed = 1; seed < 6; ++seed)
-        EXPECT_GE(distance(photo(spots(seed)), photo(spots(seed + 1))), kNearDuplicate) << seed;
+        EXPECT_GE(apart(photo(spots(seed)), photo(spots(seed + 1))), kNearDuplicate) << seed;
 }
 
 TEST(PrintMakerTest, pagesOfOneLayoutAreDifferentButOnePageIsItself)
 {
     const RgbImage one = painted(page(1), 384, 512);
-    EXPECT_GE(distance(one, painted(page(2), 384, 512)), kNearDuplicate);
-    EXPECT_LT(distance(one, painted(page(1), 288, 384)), kNearDuplicate);
-    EXPECT_LT(distance(one, painted(lit(page(1), {0.9, 0.9, 0.9}, 10), 384, 512)), kNearDuplicate);
+    EXPECT_GE(apart(one, painted(page(2), 384, 512)), kNearDuplicate);
+    EXPECT_LT(apart(one, painted(page(1), 288, 384)), kNearDuplicate);
+    EXPECT_LT(apart(one, painted(lit(page(1), {0.9, 0.9, 0.9}, 10), 384, 512)), kNearDuplicate);
 }
 
 TEST(PrintMakerTest, picturesWithoutStructureHaveNone)

@@ -1,7 +1,7 @@
 #include "scan/FS.h"
 
-#include "platform/MountTable.h"
-#include "platform/RecentDocuments.h"
+#include "platform/desktop/RecentDocuments.h"
+#include "platform/files/MountTable.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "scan/LargeAndOld.h"
 
-#include "platform/PathText.h"
-#include "platform/RecentDocuments.h"
+#include "platform/desktop/RecentDocuments.h"
+#include "platform/text/PathText.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "scan/ScanEngine.h"
 
 #include "clean/Safety.h"
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "scan/StorageBreakdown.h"
 
-#include "platform/Volume.h"
+#include "platform/files/Volume.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

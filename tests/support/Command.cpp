@@ -1,6 +1,6 @@
 #include "support/Command.h"
 
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 #include "support/TempHome.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Places.h"
-#include "platform/Time.h"
+#include "platform/files/Places.h"
+#include "platform/values/Time.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "window/apps/AppIconProvider.h"
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "support/TempHome.h"
 #include "window/apps/IconFiles.h"
 

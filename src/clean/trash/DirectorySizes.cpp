@@ -1,10 +1,10 @@
 #include "clean/trash/DirectorySizes.h"
 
 #include "clean/trash/TrashName.h"
-#include "platform/FileContent.h"
-#include "platform/FolderEntries.h"
-#include "platform/PercentCoding.h"
-#include "platform/Uuid.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FolderEntries.h"
+#include "platform/text/PercentCoding.h"
+#include "platform/values/Uuid.h"
 
 #include <algorithm>
 #include <cerrno>

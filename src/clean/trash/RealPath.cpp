@@ -1,11 +1,11 @@
 #include "clean/trash/RealPath.h"
 
 #include "clean/Safety.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/FolderEntries.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/FolderEntries.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Result.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/UniqueFd.h"
+#include "platform/values/Result.h"
 
 #include <string>
 #include <vector>

@@ -4,12 +4,12 @@
 #include "clean/trash/RealPath.h"
 #include "clean/trash/TrashFolder.h"
 #include "clean/trash/VolumeTrash.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/FolderEntries.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
-#include "platform/Reachability.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/FolderEntries.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cerrno>

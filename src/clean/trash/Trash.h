@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/FileStatus.h"
-#include "platform/Result.h"
-#include "platform/Time.h"
+#include "platform/files/FileStatus.h"
+#include "platform/values/Result.h"
+#include "platform/values/Time.h"
 
 #include <cstdint>
 #include <map>

@@ -2,13 +2,13 @@
 
 #include "clean/trash/DirectorySizes.h"
 #include "clean/trash/TrashName.h"
-#include "platform/FileContent.h"
-#include "platform/FileLease.h"
-#include "platform/Folder.h"
-#include "platform/FolderEntries.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
-#include "platform/Reachability.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileLease.h"
+#include "platform/files/Folder.h"
+#include "platform/files/FolderEntries.h"
+#include "platform/files/Places.h"
+#include "platform/files/Reachability.h"
+#include "platform/text/PathText.h"
 
 #include <cerrno>
 

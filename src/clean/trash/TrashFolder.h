@@ -1,9 +1,9 @@
 #pragma once
 
 #include "clean/trash/TrashInfo.h"
-#include "platform/FileStatus.h"
-#include "platform/Result.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/UniqueFd.h"
+#include "platform/values/Result.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "clean/trash/TrashInfo.h"
 
-#include "platform/PercentCoding.h"
+#include "platform/text/PercentCoding.h"
 
 #include <array>
 #include <charconv>

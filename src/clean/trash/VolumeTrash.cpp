@@ -1,9 +1,9 @@
 #include "clean/trash/VolumeTrash.h"
 
 #include "clean/Safety.h"
-#include "platform/FolderEntries.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FolderEntries.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <cerrno>
 

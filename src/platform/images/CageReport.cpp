@@ -1,6 +1,6 @@
 #include "platform/images/CageReport.h"
 
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "platform/images/DescriptorSocket.h"
 
-#include "platform/Retrying.h"
+#include "platform/files/Retrying.h"
 
 #include <array>
 #include <cstring>

@@ -21,10 +21,6 @@ public:
 
     FeaturePrint(const Vector& vector, const Tile& tile) : m_vector(vector), m_tile(tile) {}
 
-    /// How different two pictures look: 0 for the same picture; below 0.32 they are near-duplicates.
-    /// Symmetric. The fine stage runs only where the coarse one leaves the question open.
-    [[nodiscard]] float distance(const FeaturePrint& other) const;
-
     [[nodiscard]] const Vector& vector() const { return m_vector; }
     [[nodiscard]] const Tile& tile() const { return m_tile; }
 

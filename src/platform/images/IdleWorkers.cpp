@@ -1,6 +1,6 @@
 #include "platform/images/IdleWorkers.h"
 
-#include "platform/ThreadName.h"
+#include "platform/process/ThreadName.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,11 +1,11 @@
 #include "platform/images/ImageWorker.h"
 
-#include "platform/ChildEnd.h"
-#include "platform/ProcessStart.h"
-#include "platform/Retrying.h"
+#include "platform/files/Retrying.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/images/PixelBuffer.h"
+#include "platform/process/ChildEnd.h"
+#include "platform/process/ProcessStart.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 #include "platform/images/ImageWorkers.h"
 
-#include "platform/ChildProcess.h"
-#include "platform/FileContent.h"
-#include "platform/OwnProgram.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
 #include "platform/images/IdleWorkers.h"
 #include "platform/images/ImageMessages.h"
+#include "platform/process/ChildProcess.h"
+#include "platform/process/OwnProgram.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <condition_variable>

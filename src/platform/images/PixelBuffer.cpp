@@ -1,6 +1,6 @@
 #include "platform/images/PixelBuffer.h"
 
-#include "platform/FileContent.h"
+#include "platform/files/FileContent.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileContent.h"
+#include "platform/files/FileContent.h"
 #include "scan/duplicates/Suspect.h"
 
 #include <cstddef>

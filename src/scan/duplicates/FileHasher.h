@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/FileContent.h"
-#include "platform/Sha256.h"
+#include "platform/files/FileContent.h"
+#include "platform/values/Sha256.h"
 #include "scan/duplicates/Suspect.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "scan/duplicates/KeepOrder.h"
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "scan/duplicates/ReadingThreads.h"
 
-#include "platform/Threads.h"
+#include "platform/process/Threads.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,6 +1,6 @@
 #include "scan/duplicates/Suspect.h"
 
-#include "platform/FileContent.h"
+#include "platform/files/FileContent.h"
 
 namespace orlen {
 

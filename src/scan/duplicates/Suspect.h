@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/FileStatus.h"
-#include "platform/Sha256.h"
-#include "platform/UniqueFd.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/UniqueFd.h"
+#include "platform/values/Sha256.h"
 #include "scan/Cand.h"
 
 #include <optional>

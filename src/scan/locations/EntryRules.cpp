@@ -1,8 +1,8 @@
 #include "scan/locations/EntryRules.h"
 
 #include "clean/trash/Trash.h"
-#include "platform/FileStatus.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

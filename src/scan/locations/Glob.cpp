@@ -1,8 +1,8 @@
 #include "scan/locations/Glob.h"
 
-#include "platform/Folder.h"
-#include "platform/NamePattern.h"
-#include "platform/PathText.h"
+#include "platform/files/Folder.h"
+#include "platform/text/NamePattern.h"
+#include "platform/text/PathText.h"
 #include "scan/UnreadableFolders.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 #include "scan/locations/LanguagePacks.h"
 
 #include "clean/Safety.h"
-#include "platform/BundleInfo.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/mac/BundleInfo.h"
+#include "platform/text/PathText.h"
 #include "scan/FS.h"
 
 #include <set>

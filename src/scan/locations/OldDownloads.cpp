@@ -1,6 +1,6 @@
 #include "scan/locations/OldDownloads.h"
 
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 #include "scan/FS.h"
 #include "scan/locations/SourceReader.h"
 #include "scan/tree/CurrentMounts.h"

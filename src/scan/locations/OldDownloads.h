@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/FileEntry.h"
-#include "platform/Time.h"
+#include "platform/values/Time.h"
 
 #include <stop_token>
 #include <vector>

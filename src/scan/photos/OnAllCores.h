@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Threads.h"
+#include "platform/process/Threads.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,6 +1,6 @@
 #include "scan/photos/PhotoAnalyzer.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 #include "scan/photos/OnAllCores.h"

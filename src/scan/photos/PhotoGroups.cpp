@@ -1,6 +1,7 @@
 #include "scan/photos/PhotoGroups.h"
 
 #include "scan/photos/OnAllCores.h"
+#include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +24,7 @@ std::optional<std::size_t> groupOf(const PhotoInfo& photo, const std::vector<Pho
                                    const std::stop_token& stop)
 {
     for (std::size_t group = first; group < groups.size() && !stop.stop_requested(); ++group) {
-        if (photos[groups[group].front()].print->distance(*photo.print) < kNearDuplicate)
+        if (distance(*photos[groups[group].front()].print, *photo.print) < kNearDuplicate)
             return group;
     }
     return std::nullopt;

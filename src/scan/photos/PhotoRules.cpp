@@ -1,7 +1,7 @@
 #include "scan/photos/PhotoRules.h"
 
-#include "platform/LanguageTools.h"
-#include "platform/PathText.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "scan/tree/CurrentMounts.h"
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 
 #include <chrono>
 #include <mutex>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MountTable.h"
+#include "platform/files/MountTable.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "scan/tree/DiskWorkers.h"
 
-#include "platform/Threads.h"
+#include "platform/process/Threads.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "scan/tree/PathMarks.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 namespace orlen {
 

@@ -1,6 +1,6 @@
 #include "scan/tree/TreeFolder.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 #include "scan/tree/PathMarks.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "scan/tree/TreeMeasure.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeScan.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/MountTable.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/MountTable.h"
 #include "scan/tree/DiskWorkers.h"
 #include "scan/tree/PathMarks.h"
 #include "scan/tree/TreeFolder.h"

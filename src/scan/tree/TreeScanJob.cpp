@@ -1,7 +1,7 @@
 #include "scan/tree/TreeScanJob.h"
 
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 #include "scan/UnreadableFolders.h"
 
 #include <atomic>

@@ -1,8 +1,8 @@
 #include "scan/walk/TaggedCaches.h"
 
 #include "clean/Safety.h"
-#include "platform/CheckedSum.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeMeasure.h"
 #include "scan/tree/TreeScan.h"

@@ -1,10 +1,10 @@
 #include "scan/walk/WalkRules.h"
 
 #include "clean/Safety.h"
-#include "platform/FileContent.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 #include "scan/tree/PathMarks.h"
 #include "scan/tree/TreeScan.h"
 

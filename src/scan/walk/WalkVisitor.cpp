@@ -1,7 +1,7 @@
 #include "scan/walk/WalkVisitor.h"
 
 #include "clean/Safety.h"
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/WalkRules.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "scan/Walk.h"
 #include "scan/tree/TreeScan.h"
+#include "scan/walk/Walk.h"
 
 #include <mutex>
 #include <vector>

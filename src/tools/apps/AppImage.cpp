@@ -1,7 +1,7 @@
 #include "tools/apps/AppImage.h"
 
-#include "platform/FileContent.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "tools/apps/AppNames.h"
 
-#include "platform/LanguageTools.h"
-#include "platform/PathText.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

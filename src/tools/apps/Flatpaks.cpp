@@ -1,12 +1,12 @@
 #include "tools/apps/Flatpaks.h"
 
 #include "clean/Safety.h"
-#include "platform/FileContent.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/LineText.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/text/LineText.h"
+#include "platform/text/PathText.h"
 #include "tools/apps/AppNames.h"
 #include "tools/apps/Launcher.h"
 

@@ -1,10 +1,10 @@
 #include "tools/apps/Launcher.h"
 
-#include "platform/DesktopEntry.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 #include "tools/apps/AppNames.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "tools/apps/Launchers.h"
 
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "tools/apps/LeftoverRoots.h"
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "scan/locations/Glob.h"
 
 namespace orlen::LeftoverRoots {

@@ -1,6 +1,6 @@
 #include "tools/apps/LeftoverRules.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

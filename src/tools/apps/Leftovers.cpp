@@ -1,8 +1,8 @@
 #include "tools/apps/Leftovers.h"
 
-#include "platform/LanguageTools.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/text/PathText.h"
 #include "tools/apps/AppNames.h"
 #include "tools/apps/LeftoverRoots.h"
 #include "tools/apps/LeftoverSearch.h"

@@ -1,7 +1,7 @@
 #include "tools/startup/AutostartFolders.h"
 
-#include "platform/FileStatus.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/text/PathText.h"
 
 namespace orlen::AutostartFolders {
 

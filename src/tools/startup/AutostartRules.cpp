@@ -1,7 +1,7 @@
 #include "tools/startup/AutostartRules.h"
 
-#include "platform/ChildProcess.h"
-#include "platform/DesktopEntry.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/process/ChildProcess.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "tools/startup/DesktopEntryEdit.h"
 
-#include "platform/LineText.h"
+#include "platform/text/LineText.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "tools/startup/LaunchControl.h"
 
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 #include "tools/startup/Launchctl.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupTexts.h"

@@ -1,6 +1,6 @@
 #include "tools/startup/Launchctl.h"
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 
 namespace orlen::Launchctl {
 

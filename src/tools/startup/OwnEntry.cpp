@@ -1,8 +1,8 @@
 #include "tools/startup/OwnEntry.h"
 
-#include "platform/DesktopEntry.h"
-#include "platform/OwnProgram.h"
-#include "platform/PathText.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/process/OwnProgram.h"
+#include "platform/text/PathText.h"
 
 #include <string_view>
 #include <vector>

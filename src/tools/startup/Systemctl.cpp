@@ -1,6 +1,6 @@
 #include "tools/startup/Systemctl.h"
 
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 
 #include <utility>
 

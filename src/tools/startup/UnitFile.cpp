@@ -1,9 +1,9 @@
 #include "tools/startup/UnitFile.h"
 
-#include "platform/FileContent.h"
-#include "platform/Folder.h"
-#include "platform/LineText.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/Folder.h"
+#include "platform/text/LineText.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

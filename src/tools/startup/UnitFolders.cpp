@@ -1,8 +1,8 @@
 #include "tools/startup/UnitFolders.h"
 
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 
 #include <string>
 #include <string_view>

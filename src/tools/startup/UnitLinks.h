@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "tools/startup/UnitList.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "window/apps/AppDetailModel.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
 #include "window/apps/AppText.h"

@@ -1,7 +1,7 @@
 #include "window/apps/AppIconProvider.h"
 
-#include "platform/FileContent.h"
-#include "platform/Folder.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/Folder.h"
 #include "window/apps/IconFiles.h"
 #include "window/controls/BadgeDrawing.h"
 #include "window/preview/PictureReader.h"

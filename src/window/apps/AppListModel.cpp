@@ -1,6 +1,6 @@
 #include "window/apps/AppListModel.h"
 
-#include "platform/CheckedSum.h"
+#include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "window/apps/AppText.h"
 #include "window/lists/DisplayText.h"

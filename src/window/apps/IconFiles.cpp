@@ -1,7 +1,7 @@
 #include "window/apps/IconFiles.h"
 
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "window/findings/FolderTest.h"
 
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 
 #include <utility>
 

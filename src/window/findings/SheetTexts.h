@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Rating.h"
-#include "platform/Time.h"
+#include "platform/values/Time.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "window/history/RecordItemsModel.h"
 
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
 

@@ -1,7 +1,7 @@
 #include "window/home/DiskAccessModel.h"
 
 #include "app/DiskAccess.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
 #include "window/lists/DisplayText.h"
 
 #include <QClipboard>

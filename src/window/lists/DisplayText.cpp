@@ -2,8 +2,8 @@
 
 #include "app/Format.h"
 #include "model/ByteCount.h"
-#include "platform/PathText.h"
-#include "platform/Places.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <QDateTime>
 #include <QLocale>

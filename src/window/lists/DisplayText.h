@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/OrlenCategory.h"
-#include "platform/Time.h"
+#include "platform/values/Time.h"
 
 #include <QColor>
 #include <QString>

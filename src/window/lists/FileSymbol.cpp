@@ -1,6 +1,6 @@
 #include "window/lists/FileSymbol.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

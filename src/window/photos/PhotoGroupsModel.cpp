@@ -1,7 +1,7 @@
 #include "window/photos/PhotoGroupsModel.h"
 
-#include "platform/CheckedSum.h"
-#include "platform/FileStatus.h"
+#include "platform/files/FileStatus.h"
+#include "platform/values/CheckedSum.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "window/photos/PhotoSets.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 
 #include <map>
 #include <set>

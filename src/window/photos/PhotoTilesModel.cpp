@@ -1,6 +1,6 @@
 #include "window/photos/PhotoTilesModel.h"
 
-#include "platform/PathText.h"
+#include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathTokens.h"
 #include "window/preview/Thumbnails.h"

@@ -1,9 +1,9 @@
 #include "window/preview/FilePreview.h"
 
-#include "platform/FileContent.h"
-#include "platform/FileStatus.h"
-#include "platform/Folder.h"
-#include "platform/PathText.h"
+#include "platform/files/FileContent.h"
+#include "platform/files/FileStatus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 #include "window/preview/PictureReader.h"
 
 #include <QMimeDatabase>

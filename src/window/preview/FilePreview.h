@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Time.h"
+#include "platform/values/Time.h"
 
 #include <QSize>
 #include <QString>

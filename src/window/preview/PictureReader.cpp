@@ -1,7 +1,7 @@
 #include "window/preview/PictureReader.h"
 
-#include "platform/PathText.h"
 #include "platform/images/ImageWorkers.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "window/shell/DesktopNotices.h"
 
-#include "platform/OwnProgram.h"
+#include "platform/process/OwnProgram.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

@@ -1,9 +1,9 @@
 #include "window/shell/Reveal.h"
 
-#include "platform/Folder.h"
-#include "platform/PathText.h"
-#include "platform/PercentCoding.h"
-#include "platform/SessionBus.h"
+#include "platform/desktop/SessionBus.h"
+#include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
+#include "platform/text/PercentCoding.h"
 #include "window/lists/DisplayText.h"
 
 #include <QDBusConnection>

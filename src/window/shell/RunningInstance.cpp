@@ -1,7 +1,7 @@
 #include "window/shell/RunningInstance.h"
 
-#include "platform/OwnProgram.h"
-#include "platform/PathText.h"
+#include "platform/process/OwnProgram.h"
+#include "platform/text/PathText.h"
 #include "window/shell/ApplicationInterface.h"
 
 #include <QDBusConnectionInterface>

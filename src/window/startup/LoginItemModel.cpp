@@ -1,6 +1,6 @@
 #include "window/startup/LoginItemModel.h"
 
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 #include "tools/startup/LoginItems.h"
 #include "window/lists/DisplayText.h"
 

@@ -4,7 +4,7 @@
 #include "scan/FS.h"
 #include "scan/ScanProgress.h"
 #include "scan/UnreadableFolders.h"
-#include "scan/Walk.h"
+#include "scan/walk/Walk.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>

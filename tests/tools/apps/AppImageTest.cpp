@@ -1,7 +1,7 @@
 #include "tools/apps/AppImage.h"
 #include "tools/apps/AppNames.h"
 
-#include "platform/Folder.h"
+#include "platform/files/Folder.h"
 #include "tools/apps/AppHome.h"
 
 #include <gmock/gmock.h>

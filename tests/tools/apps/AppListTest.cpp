@@ -1,7 +1,7 @@
 #include "tools/apps/AppList.h"
 
 #include "clean/Safety.h"
-#include "platform/OwnProgram.h"
+#include "platform/process/OwnProgram.h"
 #include "tools/apps/AppHome.h"
 #include "tools/apps/Uninstall.h"
 

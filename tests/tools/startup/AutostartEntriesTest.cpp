@@ -1,5 +1,5 @@
-#include "platform/ChildProcess.h"
-#include "platform/DesktopEntry.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/process/ChildProcess.h"
 #include "tools/startup/DesktopNames.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/SessionUnitName.h"

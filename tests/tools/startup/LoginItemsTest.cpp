@@ -1,7 +1,7 @@
 #include "tools/startup/LoginItems.h"
 
-#include "platform/ChildProcess.h"
-#include "platform/DesktopEntry.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/process/ChildProcess.h"
 #include "tools/startup/LaunchControl.h"
 #include "tools/startup/StartupHome.h"
 

@@ -1,4 +1,4 @@
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupHome.h"
 #include "tools/startup/UnitFolders.h"

@@ -2,7 +2,7 @@
 
 #include "tools/startup/StartupHome.h"
 
-#include "platform/ChildProcess.h"
+#include "platform/process/ChildProcess.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/files/UniqueFd.h"
+#include "platform/values/Result.h"
+
+#include <cerrno>
+
+namespace orlen {
+
+/// Repeats a system call that a signal interrupted. The call answers -1 on failure.
+template <typename Call>
+[[nodiscard]] auto retried(Call&& call)
+{
+    auto answer = call();
+    while (answer < 0 && errno == EINTR)
+        answer = call();
+    return answer;
+}
+
+/// The same for calls that give a descriptor.
+template <typename Call>
+[[nodiscard]] Result<UniqueFd> retriedFd(Call&& call)
+{
+    const int fd = retried(call);
+    if (fd < 0)
+        return Errno{errno};
+    return UniqueFd(fd);
+}
+
+} // namespace orlen

@@ -1,0 +1,16 @@
+#include "platform/files/UniqueFd.h"
+
+#include <unistd.h>
+
+namespace orlen {
+
+void UniqueFd::reset()
+{
+    if (m_fd >= 0) {
+        // Not repeated on EINTR: Linux has given the number back by then, another thread may own it.
+        ::close(m_fd);
+        m_fd = -1;
+    }
+}
+
+} // namespace orlen

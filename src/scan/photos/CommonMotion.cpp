@@ -1,0 +1,176 @@
+#include "scan/photos/CommonMotion.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+namespace orlen {
+
+namespace {
+
+using Row = std::array<double, 3>;
+
+/// Least squares for the three numbers of one axis.
+struct Normals {
+    std::array<Row, 3> matrix{};
+    Row right{};
+
+    void add(const Row& at, double move, double weight)
+    {
+        for (std::size_t i = 0; i < 3; ++i) {
+            for (std::size_t j = 0; j < 3; ++j)
+                matrix[i][j] += weight * at[i] * at[j];
+            right[i] += weight * at[i] * move;
+        }
+    }
+
+    /// By elimination; the diagonal is never 0 because of what `fitted` adds to it.
+    [[nodiscard]] std::array<float, 3> solved() const
+    {
+        std::array<Row, 3> m = matrix;
+        Row r = right;
+        for (std::size_t i = 0; i < 3; ++i) {
+            for (std::size_t below = i + 1; below < 3; ++below) {
+                const double share = m[below][i] / m[i][i];
+                for (std::size_t j = i; j < 3; ++j)
+                    m[below][j] -= share * m[i][j];
+                r[below] -= share * r[i];
+            }
+        }
+        for (std::size_t i = 3; i-- > 0;) {
+            for (std::size_t j = i + 1; j < 3; ++j)
+                r[i] -= m[i][j] * r[j];
+            r[i] /= m[i][i];
+        }
+        return {static_cast<float>(r[0]), static_cast<float>(r[1]), static_cast<float>(r[2])};
+    }
+};
+
+/// From the tile's middle, -1 to 1 from side to side.
+float fromMiddle(float pixel)
+{
+    constexpr float kHalf = (BlockSearch::kSide - 1) / 2.0F;
+    return pixel / kHalf - 1;
+}
+
+float middleOf(int block)
+{
+    return static_cast<float>(block) + (BlockSearch::kBlock - 1) / 2.0F;
+}
+
+bool isInside(float at)
+{
+    return at >= 0 && at <= BlockSearch::kSide - 1;
+}
+
+/// The four pixels around a point, each as much as the point is near.
+float between(const FeaturePrint::Tile& tile, float x, float y)
+{
+    constexpr int kLast = BlockSearch::kSide - 2;
+    x = std::clamp(x, 0.0F, kLast + 1.0F);
+    y = std::clamp(y, 0.0F, kLast + 1.0F);
+    const int left = std::min(static_cast<int>(x), kLast);
+    const int top = std::min(static_cast<int>(y), kLast);
+    const float right = x - static_cast<float>(left);
+    const float down = y - static_cast<float>(top);
+    const std::uint8_t* at = tile.data() + (static_cast<std::ptrdiff_t>(top) * BlockSearch::kSide + left);
+    const float above = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
+    at += BlockSearch::kSide;
+    const float below = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
+    return (1 - down) * above + down * below;
+}
+
+} // namespace
+
+CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
+{
+    constexpr int kRounds = 6;
+    constexpr float kTolerance = 1.5F;  ///< pixels beside which a find counts half
+    constexpr double kStiffness = 0.02; ///< against turning and stretching, of the whole weight
+    CommonMotion motion;
+    for (int round = 0; round < kRounds; ++round) {
+        Normals x;
+        double total = 1e-9;
+        Normals y;
+        for (const BlockFind& find : finds) {
+            double weight = find.texture * find.correlation * find.correlation;
+            if (round > 0)
+                weight /= 1 + motion.squaredMiss(find) / (kTolerance * kTolerance);
+            const Row at{1, fromMiddle(middleOf(find.block.x)), fromMiddle(middleOf(find.block.y))};
+            x.add(at, find.moveX, weight);
+            y.add(at, find.moveY, weight);
+            total += weight;
+        }
+        for (std::size_t i = 0; i < 3; ++i) {
+            x.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
+            y.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
+        }
+        motion.m_x = x.solved();
+        motion.m_y = y.solved();
+    }
+    return motion;
+}
+
+CommonMotion::Point CommonMotion::moveAt(float x, float y) const
+{
+    const float right = fromMiddle(x);
+    const float down = fromMiddle(y);
+    return {.x = m_x[0] + m_x[1] * right + m_x[2] * down, .y = m_y[0] + m_y[1] * right + m_y[2] * down};
+}
+
+CommonMotion::Point CommonMotion::target(TilePlace pixel) const
+{
+    const auto x = static_cast<float>(pixel.x);
+    const auto y = static_cast<float>(pixel.y);
+    const Point move = moveAt(x, y);
+    return {.x = x + move.x, .y = y + move.y};
+}
+
+float CommonMotion::squaredMiss(const BlockFind& find) const
+{
+    const Point move = moveAt(middleOf(find.block.x), middleOf(find.block.y));
+    const float x = find.moveX - move.x;
+    const float y = find.moveY - move.y;
+    return x * x + y * y;
+}
+
+float CommonMotion::obedience(const BlockFind& find) const
+{
+    constexpr float kSquaredLimit = 2.0F * 2.0F;
+    const float miss = squaredMiss(find) / kSquaredLimit;
+    return 1 / (1 + miss * miss);
+}
+
+FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
+{
+    constexpr float kRounding = 0.5F; // levels are never negative, and a cast is much faster than lround
+    FeaturePrint::Tile result{};
+    auto pixel = result.begin();
+    for (int y = 0; y < BlockSearch::kSide; ++y) {
+        // The same step from each pixel of a row to the next.
+        const Point first = target({0, y});
+        const Point second = target({1, y});
+        for (int x = 0; x < BlockSearch::kSide; ++x) {
+            const auto steps = static_cast<float>(x);
+            const float fromX = first.x + steps * (second.x - first.x);
+            const float fromY = first.y + steps * (second.y - first.y);
+            *pixel++ = static_cast<std::uint8_t>(between(tile, fromX, fromY) + kRounding);
+        }
+    }
+    return result;
+}
+
+bool CommonMotion::keepsInside(TilePlace block) const
+{
+    constexpr int kFar = BlockSearch::kBlock - 1;
+    // The motion keeps straight lines straight, so the corners tell.
+    for (const TilePlace corner :
+         {TilePlace{0, 0}, TilePlace{kFar, 0}, TilePlace{0, kFar}, TilePlace{kFar, kFar}}) {
+        const Point there = target({block.x + corner.x, block.y + corner.y});
+        if (!isInside(there.x) || !isInside(there.y))
+            return false;
+    }
+    return true;
+}
+
+} // namespace orlen
