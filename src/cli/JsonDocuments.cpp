@@ -48,8 +48,9 @@ Json steps(const ScanProgress& progress)
 {
     Json array = Json::array();
     for (const ScanStep& step : progress.steps())
-        array.push_back(
-            {{"label", step.label}, {"state", rawValue(step.state)}, {"seconds", rounded(step.elapsed)}});
+        array.push_back({{"label", label(step.kind)},
+                         {"state", rawValue(step.state)},
+                         {"seconds", rounded(step.elapsed)}});
     return array;
 }
 

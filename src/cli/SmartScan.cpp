@@ -33,7 +33,7 @@ std::string runningStep(const ScanProgress& progress)
         if (step.state != StepState::running)
             continue;
         if (first.empty())
-            first = step.label;
+            first = label(step.kind);
         else
             ++others;
     }

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <functional>
 #include <iterator>
 
 namespace orlen {
@@ -23,17 +22,12 @@ namespace {
 using Clock = std::chrono::system_clock;
 using Findings = std::vector<Finding>;
 
-constexpr std::size_t kLargeAndOldStep = 7;
-constexpr std::size_t kDuplicatesStep = 8;
-constexpr std::size_t kPhotosStep = 9;
-
-/// Runs a routine as the step with this label.
 template <typename Routine>
-Findings asStep(ScanProgress& progress, std::string_view label, const Routine& routine)
+Findings asStep(ScanProgress& progress, StepKind step, const Routine& routine)
 {
-    progress.set(label, StepState::running);
+    progress.set(step, StepState::running);
     Findings findings = routine();
-    progress.set(label, StepState::done);
+    progress.set(step, StepState::done);
     return findings;
 }
 
@@ -57,8 +51,7 @@ Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptio
                    const RecentDocuments& recent, UnreadableFolders& unreadable)
 {
     const std::stop_token stop = flag.token();
-    const std::string_view largeAndOldLabel = ScanEngine::kSteps[kLargeAndOldStep];
-    progress.set(largeAndOldLabel, StepState::running);
+    progress.set(StepKind::largeAndOld, StepState::running);
     Walk::Found found = Walk::home(progress, stop, {options.largeThreshold, &unreadable});
 
     StepGroup group;
@@ -66,16 +59,14 @@ Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptio
         std::vector<Cand> cands = found.cands;
         cands.insert(cands.end(), found.largeInCaches.begin(), found.largeInCaches.end());
         Findings findings = largeAndOld(cands, options.largeThreshold, Clock::now(), recent, stop);
-        progress.set(largeAndOldLabel, StepState::done);
+        progress.set(StepKind::largeAndOld, StepState::done);
         return findings;
     });
     group.add("duplicates", [&] {
-        return asStep(progress, ScanEngine::kSteps[kDuplicatesStep],
-                      [&] { return findDuplicates(found, stop); });
+        return asStep(progress, StepKind::duplicates, [&] { return findDuplicates(found, stop); });
     });
     group.add("photos", [&] {
-        return asStep(progress, ScanEngine::kSteps[kPhotosStep],
-                      [&] { return findPhotos(found, options, progress, flag); });
+        return asStep(progress, StepKind::photos, [&] { return findPhotos(found, options, progress, flag); });
     });
     Findings findings = group.collect();
     findings.emplace_back(FindingKind::caches, std::move(found.taggedCaches));
@@ -107,24 +98,20 @@ Findings mergedByKind(Findings findings)
 
 std::vector<Finding> ScanEngine::run()
 {
-    m_progress.setSteps({kSteps.begin(), kSteps.end()});
     const std::stop_token stop = m_flag.token();
     const LocationScanners scanners(m_progress, stop, &m_unreadable);
     const RecentDocuments recent = RecentDocuments::ofUser(Places::current());
-    using Routine = std::function<Findings()>;
-    const Routine locationSteps[] = {
-        [&] { return scanners.cachesAndLogs(); },
-        [&] { return scanners.backups(); },
-        [&] { return scanners.developer(); },
-        [&] { return scanners.packageCaches(); },
-        [&] { return scanners.trashAndMail(); },
-        [&] { return scanners.languagePacks(); },
-        [&] { return scanners.downloads(Clock::now(), recent); },
-    };
     StepGroup group;
-    for (std::size_t step = 0; step < std::size(locationSteps); ++step) {
-        group.add("location", [&, step] { return asStep(m_progress, kSteps[step], locationSteps[step]); });
-    }
+    const auto addLocations = [&](StepKind step, const auto& routine) {
+        group.add("location", [this, step, routine] { return asStep(m_progress, step, routine); });
+    };
+    addLocations(StepKind::cachesAndLogs, [&] { return scanners.cachesAndLogs(); });
+    addLocations(StepKind::backups, [&] { return scanners.backups(); });
+    addLocations(StepKind::developer, [&] { return scanners.developer(); });
+    addLocations(StepKind::packageCaches, [&] { return scanners.packageCaches(); });
+    addLocations(StepKind::trashAndMail, [&] { return scanners.trashAndMail(); });
+    addLocations(StepKind::languagePacks, [&] { return scanners.languagePacks(); });
+    addLocations(StepKind::downloads, [&] { return scanners.downloads(Clock::now(), recent); });
     group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent, m_unreadable); });
     std::vector<Finding> findings = mergedByKind(group.collect());
     for (const Reachability::LeftOut& mount : Reachability::leftOut()) {

@@ -6,9 +6,7 @@
 #include "scan/ScanProgress.h"
 #include "scan/UnreadableFolders.h"
 
-#include <array>
 #include <cstdint>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,11 +21,6 @@ struct ScanOptions {
 class ScanEngine {
 public:
     explicit ScanEngine(ScanOptions options) : m_options(std::move(options)) {}
-
-    /// The step labels in their order.
-    static constexpr std::array<std::string_view, 10> kSteps{
-        "Caches & logs",  "Backups & updates", "Developer tools",   "Package caches",  "Trash & mail",
-        "Language packs", "Downloads",         "Large & old files", "Duplicate files", "Photos"};
 
     /// The findings of all steps in the order in which the steps finished, one for each kind that has
     /// entries, not yet rated. Blocks until all steps have ended, soon after the flag is set: call it on a

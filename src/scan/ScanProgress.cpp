@@ -2,7 +2,6 @@
 
 #include "platform/values/CheckedSum.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace orlen {
@@ -12,31 +11,33 @@ namespace {
 /// The shown path changes only with every 48th item, so that it can be read.
 constexpr std::int64_t kItemsPerPath = 48;
 
+constexpr std::array<std::string_view, kScanSteps> kLabels{
+    "Caches & logs",  "Backups & updates", "Developer tools",   "Package caches",  "Trash & mail",
+    "Language packs", "Downloads",         "Large & old files", "Duplicate files", "Photos"};
+
 } // namespace
 
-void ScanProgress::setSteps(const std::vector<std::string>& labels)
+std::string_view label(StepKind step)
 {
-    std::vector<Step> steps;
-    steps.reserve(labels.size());
-    for (const std::string& label : labels)
-        steps.push_back({{label, StepState::pending, {}}, {}});
-    const std::lock_guard lock(m_lock);
-    m_steps = std::move(steps);
+    return kLabels[static_cast<std::size_t>(step)];
 }
 
-void ScanProgress::set(std::string_view label, StepState state)
+ScanProgress::ScanProgress()
+{
+    for (std::size_t at = 0; at < kScanSteps; ++at)
+        m_steps[at].shown.kind = static_cast<StepKind>(at);
+}
+
+void ScanProgress::set(StepKind kind, StepState state)
 {
     const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
-    const auto step = std::find_if(m_steps.begin(), m_steps.end(),
-                                   [&](const Step& candidate) { return candidate.shown.label == label; });
-    if (step == m_steps.end())
-        return;
+    Step& step = m_steps[static_cast<std::size_t>(kind)];
     if (state == StepState::running)
-        step->started = now;
-    else if (step->shown.state == StepState::running)
-        step->shown.elapsed = now - step->started;
-    step->shown.state = state;
+        step.started = now;
+    else if (step.shown.state == StepState::running)
+        step.shown.elapsed = now - step.started;
+    step.shown.state = state;
 }
 
 void ScanProgress::tick(std::string_view path)
@@ -76,15 +77,15 @@ std::string ScanProgress::current() const
     return m_current;
 }
 
-std::vector<ScanStep> ScanProgress::steps() const
+std::array<ScanStep, kScanSteps> ScanProgress::steps() const
 {
     const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
-    std::vector<ScanStep> shown;
-    for (const Step& step : m_steps) {
-        shown.push_back(step.shown);
-        if (step.shown.state == StepState::running)
-            shown.back().elapsed = now - step.started;
+    std::array<ScanStep, kScanSteps> shown;
+    for (std::size_t at = 0; at < kScanSteps; ++at) {
+        shown[at] = m_steps[at].shown;
+        if (shown[at].state == StepState::running)
+            shown[at].elapsed = now - m_steps[at].started;
     }
     return shown;
 }

@@ -174,7 +174,7 @@ TEST(AppModelTest, aSecondStartWhileScanningIsIgnored)
     EXPECT_EQ(scansSeen, 1);
     EXPECT_THAT(model.snapshots(), SizeIs(1));
     for (const ScanStep& step : model.scanProgress().steps())
-        EXPECT_EQ(step.state, StepState::done) << step.label;
+        EXPECT_EQ(step.state, StepState::done) << label(step.kind);
 }
 
 TEST(AppModelTest, theLargeFileThresholdIsInDecimalMegabytes)

@@ -29,12 +29,8 @@ TEST(ScanEngineTest, emptyHomeYieldsNothingAndAllStepsEndDone)
     Safety::refresh();
     ScanEngine engine({500'000'000});
     EXPECT_TRUE(engine.run().empty());
-    const auto steps = engine.progress().steps();
-    ASSERT_EQ(steps.size(), 10);
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        EXPECT_EQ(steps[i].label, ScanEngine::kSteps[i]);
-        EXPECT_EQ(steps[i].state, StepState::done) << steps[i].label;
-    }
+    for (const ScanStep& step : engine.progress().steps())
+        EXPECT_EQ(step.state, StepState::done) << label(step.kind);
 }
 
 TEST(ScanEngineTest, findingsOfOneKindAreOneFinding)

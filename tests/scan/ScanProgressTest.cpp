@@ -20,17 +20,5 @@ TEST(ScanProgressTest, pathChangesWithEveryFortyEighthItem)
     EXPECT_EQ(progress.files(), 295);
 }
 
-TEST(ScanProgressTest, onlyTheStepWithExactlyThisLabelChanges)
-{
-    ScanProgress progress;
-    progress.setSteps({"One", "Two"});
-    progress.set("one", StepState::done);
-    progress.set("Two", StepState::running);
-    EXPECT_EQ(progress.steps()[0].state, StepState::pending);
-    EXPECT_EQ(progress.steps()[1].state, StepState::running);
-    progress.set("Two", StepState::done);
-    EXPECT_EQ(progress.steps()[1].state, StepState::done);
-}
-
 } // namespace
 } // namespace orlen

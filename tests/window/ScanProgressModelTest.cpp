@@ -1,7 +1,6 @@
 #include "window/home/ScanProgressModel.h"
 
 #include "app/EventLoop.h"
-#include "scan/ScanEngine.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +41,7 @@ TEST(ScanProgressModelTest, showsAllStepsBeforeDuringAndAfterAScan)
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     model.setApp(&app);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    constexpr int kSteps = static_cast<int>(ScanEngine::kSteps.size());
+    constexpr int kSteps = static_cast<int>(kScanSteps);
     EXPECT_EQ(count(model, ScanProgressModel::Pending), kSteps);
     EXPECT_EQ(model.files(), "0");
     app.startScan();

@@ -1,6 +1,5 @@
 #include "window/home/ScanProgressModel.h"
 
-#include "scan/ScanEngine.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
@@ -11,23 +10,10 @@ namespace {
 
 constexpr std::chrono::milliseconds kPollInterval{75};
 
-std::vector<ScanStep> pendingSteps()
-{
-    std::vector<ScanStep> steps;
-    steps.reserve(ScanEngine::kSteps.size());
-    for (const std::string_view label : ScanEngine::kSteps)
-        steps.push_back({std::string(label), StepState::pending});
-    return steps;
-}
-
-bool looksDifferent(const ScanStep& a, const ScanStep& b)
-{
-    return a.state != b.state || a.label != b.label;
-}
-
 } // namespace
 
-ScanProgressModel::ScanProgressModel(QObject* parent) : QAbstractListModel(parent), m_steps(pendingSteps())
+ScanProgressModel::ScanProgressModel(QObject* parent)
+    : QAbstractListModel(parent), m_steps(ScanProgress().steps())
 {
     m_timer.setInterval(kPollInterval);
     connect(&m_timer, &QTimer::timeout, this, &ScanProgressModel::poll);
@@ -64,9 +50,7 @@ void ScanProgressModel::followPhase()
 void ScanProgressModel::poll()
 {
     const ScanProgress& progress = m_app->scanProgress();
-    std::vector<ScanStep> steps = progress.steps();
-    // The scan names its steps only once its worker runs.
-    setSteps(steps.empty() ? pendingSteps() : std::move(steps));
+    setSteps(progress.steps());
     const QString current = DisplayText::shortPath(progress.current());
     if (m_files == progress.files() && m_current == current)
         return;
@@ -75,17 +59,11 @@ void ScanProgressModel::poll()
     Q_EMIT changed();
 }
 
-void ScanProgressModel::setSteps(std::vector<ScanStep> steps)
+void ScanProgressModel::setSteps(const Steps& steps)
 {
-    if (steps.size() != m_steps.size()) {
-        beginResetModel();
-        m_steps = std::move(steps);
-        endResetModel();
-        return;
-    }
     for (std::size_t at = 0; at < steps.size(); ++at) {
-        const bool isDifferent = looksDifferent(m_steps[at], steps[at]);
-        m_steps[at] = std::move(steps[at]);
+        const bool isDifferent = m_steps[at].state != steps[at].state;
+        m_steps[at] = steps[at];
         const QModelIndex changed = index(static_cast<int>(at));
         if (isDifferent)
             Q_EMIT dataChanged(changed, changed);
@@ -118,7 +96,7 @@ QVariant ScanProgressModel::data(const QModelIndex& index, int role) const
     const ScanStep& step = m_steps[static_cast<std::size_t>(index.row())];
     switch (static_cast<Role>(role)) {
     case Role::label:
-        return DisplayText::text(step.label);
+        return DisplayText::text(label(step.kind));
     case Role::state:
         return static_cast<int>(step.state);
     case Role::duration:

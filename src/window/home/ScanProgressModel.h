@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
-#include <vector>
+#include <array>
 
 namespace orlen {
 
@@ -58,11 +58,13 @@ Q_SIGNALS:
 private:
     void followPhase();
     void poll();
-    void setSteps(std::vector<ScanStep> steps);
+    using Steps = std::array<ScanStep, kScanSteps>;
+
+    void setSteps(const Steps& steps);
 
     AppModel* m_app = nullptr;
     QTimer m_timer;
-    std::vector<ScanStep> m_steps; ///< all steps of a scan at any time, pending before it has begun
+    Steps m_steps;
     std::int64_t m_files = 0;
     QString m_current;
     bool m_isCancelling = false;
