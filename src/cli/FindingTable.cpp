@@ -18,7 +18,7 @@ void addEntry(Table& table, const Finding& finding, const FileEntry& entry)
     Table::Cell chip;
     if (rating != finding.rating)
         chip = {std::string(label(rating)), style(rating)};
-    table.addRow({{}, {Format::shownPath(entry.path)}, {byteCount(entry.size)}, chip});
+    table.addRow({chip, {Format::shownPath(entry.path)}, {byteCount(entry.size)}});
     if (entry.note)
         table.addLine(kPathColumn, {"  " + PathText::forDisplay(*entry.note), Style::dim});
 }
