@@ -142,7 +142,7 @@ public:
     [[nodiscard]] std::int64_t totalFound() const;
     /// Bytes of the entries rated Safe in the cleanable findings.
     [[nodiscard]] std::int64_t safeBytes() const;
-    /// The findings of the five photo kinds.
+    /// The findings of the category of photos.
     [[nodiscard]] std::vector<Finding> photoFindings() const;
     /// Bytes of the finding's selected entries; what lies in another one of them counts once.
     [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
@@ -157,9 +157,9 @@ public:
     /// What a question about the storage is answered from.
     [[nodiscard]] AskContext askContext() const;
 
-    /// Moves the plan's entries whose path is in `selected` to the Trash, by the rules of `PathSelection`;
-    /// closes the sheet. Nothing more happens when none is left. Only for a writer.
-    void confirm(const CleanPlan& plan, const std::set<std::string>& selected);
+    /// Moves all entries of the plan to the Trash; closes the sheet. Nothing more happens when it holds none.
+    /// Only for a writer.
+    void confirm(const CleanPlan& plan);
     /// Lets the clean-up finish the item in hand and end; ignored when none is running.
     Q_INVOKABLE void cancelCleaning();
     /// Closes the display of a clean-up.

@@ -19,10 +19,10 @@ constexpr std::chrono::milliseconds kReportInterval{66};
 
 } // namespace
 
-void AppModel::confirm(const CleanPlan& plan, const std::set<std::string>& selected)
+void AppModel::confirm(const CleanPlan& plan)
 {
     checkWriter();
-    std::vector<FileEntry> entries = PathSelection::moving(plan, selected);
+    std::vector<FileEntry> entries = PathSelection::moving(plan);
     // The plan may belong to the sheet that closes here.
     const std::string title = plan.title;
     setSheet(std::nullopt);

@@ -36,11 +36,6 @@ std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<
     return entries;
 }
 
-bool isPhotoKind(FindingKind kind)
-{
-    return kind >= FindingKind::photoDuplicates;
-}
-
 } // namespace
 
 struct AppModel::ScanResult {
@@ -159,7 +154,7 @@ std::vector<Finding> AppModel::photoFindings() const
 {
     std::vector<Finding> photos;
     std::copy_if(m_findings.begin(), m_findings.end(), std::back_inserter(photos),
-                 [](const Finding& finding) { return isPhotoKind(finding.kind); });
+                 [](const Finding& finding) { return finding.category == OrlenCategory::photos; });
     return photos;
 }
 
@@ -185,7 +180,7 @@ CleanPlan AppModel::scanPlan() const
     for (const Finding& finding : m_findings) {
         if (!finding.cleanable)
             continue;
-        PlanSection section{std::string(finding.id()), finding.title, finding.symbol, {}};
+        PlanSection section{std::string(finding.id()), finding.title, finding.symbol, {}, finding.rating};
         std::copy_if(finding.items.begin(), finding.items.end(), std::back_inserter(section.entries),
                      [this](const FileEntry& entry) {
                          return m_selection.contains(entry.path) && !Safety::isProtected(entry.path);

@@ -14,21 +14,10 @@
 #include <nlohmann/json.hpp>
 
 #include <optional>
-#include <set>
 
 namespace orlen {
 
 namespace {
-
-std::set<std::string> pathsOf(const CleanPlan& plan)
-{
-    std::set<std::string> paths;
-    for (const PlanSection& section : plan.sections) {
-        for (const FileEntry& entry : section.entries)
-            paths.insert(entry.path);
-    }
-    return paths;
-}
 
 std::string status(const AppModel& model)
 {
@@ -45,7 +34,7 @@ PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& p
     std::optional<CleanRecord> record;
     const auto heard = QObject::connect(&model, &AppModel::cleaningFinished, &model,
                                         [&](const CleanRecord& finished) { record = finished; });
-    model.confirm(plan, pathsOf(plan));
+    model.confirm(plan);
     session.run({[&] { return record.has_value(); }, [&] { model.cancelCleaning(); },
                  [&] { return status(model); }, Session::Work::Nature::moving});
     QObject::disconnect(heard);

@@ -3,6 +3,7 @@
 #include "model/FileEntry.h"
 #include "platform/values/Uuid.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ struct PlanSection {
     std::string title;
     std::string symbol; ///< icon name
     std::vector<FileEntry> entries;
+    std::optional<Rating> rating; ///< of entries without one of their own; absent: they are not rated
 
     friend bool operator==(const PlanSection&, const PlanSection&) = default;
 };

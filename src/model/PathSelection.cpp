@@ -97,14 +97,11 @@ std::vector<FileEntry> outermost(std::vector<FileEntry> entries)
     return kept;
 }
 
-std::vector<FileEntry> moving(const CleanPlan& plan, std::set<std::string> ticked)
+std::vector<FileEntry> moving(const CleanPlan& plan)
 {
-    dropOpenFolders(ticked, listedIn(plan));
     std::vector<FileEntry> entries;
-    for (const PlanSection& section : plan.sections) {
-        std::ranges::copy_if(section.entries, std::back_inserter(entries),
-                             [&](const FileEntry& entry) { return ticked.contains(entry.path); });
-    }
+    for (const PlanSection& section : plan.sections)
+        entries.insert(entries.end(), section.entries.begin(), section.entries.end());
     return outermost(std::move(entries));
 }
 

@@ -30,9 +30,8 @@ void dropOpenFolders(std::set<std::string>& ticked, const PathTree& listed);
 
 /// The entries in path order, each path once and none that goes along with another one.
 [[nodiscard]] std::vector<FileEntry> outermost(std::vector<FileEntry> entries);
-/// The entries of a plan that move when these paths are ticked, as `outermost`. A folder in which something
-/// listed is not ticked stays.
-[[nodiscard]] std::vector<FileEntry> moving(const CleanPlan& plan, std::set<std::string> ticked);
+/// What carrying out the plan moves: its entries as `outermost`.
+[[nodiscard]] std::vector<FileEntry> moving(const CleanPlan& plan);
 
 struct Amount {
     std::int64_t items = 0;

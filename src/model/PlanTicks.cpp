@@ -98,14 +98,14 @@ void PlanTicks::recount()
     }
 }
 
-std::set<std::string> PlanTicks::paths() const
+CleanPlan PlanTicks::ticked(CleanPlan plan) const
 {
-    std::set<std::string> paths;
-    for (int node = 0; node < m_tree.size(); ++node) {
-        if (isOn(node))
-            paths.insert(m_tree.path(node));
+    for (std::size_t number = 0; number < m_sections.size(); ++number) {
+        auto entry = m_sections[number].entries.begin();
+        std::erase_if(plan.sections[number].entries,
+                      [&](const FileEntry& /*entry*/) { return !isOn((entry++)->node); });
     }
-    return paths;
+    return plan;
 }
 
 } // namespace orlen

@@ -5,8 +5,6 @@
 #include "model/PathTree.h"
 
 #include <cstdint>
-#include <set>
-#include <string>
 #include <vector>
 
 namespace orlen {
@@ -30,8 +28,8 @@ public:
     [[nodiscard]] std::int64_t bytes(std::size_t section) const { return m_sections[section].bytes; }
     /// What would move.
     [[nodiscard]] const PathSelection::Amount& amount() const { return m_amount; }
-    /// The paths that are ticked.
-    [[nodiscard]] std::set<std::string> paths() const;
+    /// The plan, which must be the one that this was made from, without what is not ticked.
+    [[nodiscard]] CleanPlan ticked(CleanPlan plan) const;
 
 private:
     struct Entry {

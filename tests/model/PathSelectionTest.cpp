@@ -1,4 +1,5 @@
 #include "model/PathSelection.h"
+#include "model/PlanTicks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -129,7 +130,16 @@ TEST(PathSelectionTest, movesWhatIsTickedOnceAndNothingElse)
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         std::vector<std::string> moves;
-        for (const FileEntry& entry : PathSelection::moving(planOf(c.plan), asSet(c.ticked)))
+        const CleanPlan plan = planOf(c.plan);
+        PlanTicks ticks(plan);
+        for (std::size_t section = 0; section < plan.sections.size(); ++section) {
+            const auto& entries = plan.sections[section].entries;
+            for (std::size_t entry = 0; entry < entries.size(); ++entry) {
+                if (!asSet(c.ticked).contains(entries[entry].path))
+                    ticks.set(section, entry, false);
+            }
+        }
+        for (const FileEntry& entry : PathSelection::moving(ticks.ticked(plan)))
             moves.push_back(entry.path);
         EXPECT_EQ(joined(moves), c.moves);
     }

@@ -104,8 +104,9 @@ TEST(AppDetailModelTest, isBackAfterAReviewThatWasCancelledAndOnlyThen)
     EXPECT_EQ(d.detail.chosenText(), chosen);
 
     d.detail.review();
-    const CleanPlan plan = std::get<PlanSheet>(*d.app.sheet()).plan;
-    d.app.confirm(plan, {plan.sections[0].entries.at(0).path});
+    CleanPlan plan = std::get<PlanSheet>(*d.app.sheet()).plan;
+    plan.sections.resize(1);
+    d.app.confirm(plan);
     QCoreApplication::processEvents();
     EXPECT_FALSE(d.detail.isOpen());
     ASSERT_TRUE(waitUntil([&] { return d.app.cleaning()->finished; }));
@@ -151,7 +152,7 @@ TEST(AppDetailModelTest, closesWhenItsApplicationIsGone)
     ASSERT_TRUE(d.show("Kite"));
     FileEntry entry;
     entry.path = path;
-    d.app.confirm({Uuid::random(), "", {{"app", "", "", {entry}}}}, {path});
+    d.app.confirm({Uuid::random(), "", {{"app", "", "", {entry}, {}}}});
     EXPECT_TRUE(waitUntil([&] { return !d.detail.isOpen(); }));
     EXPECT_EQ(d.apps.count(), 1);
 }

@@ -52,7 +52,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     const QSignalSpy insertions(&apps, &QAbstractItemModel::rowsInserted);
     FileEntry entry;
     entry.path = gone;
-    app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}}}}, {gone});
+    app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
     ASSERT_TRUE(waitUntil([&] { return apps.count() == 2 && isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);

@@ -27,7 +27,7 @@ void clean(AppModel& app, const std::vector<std::string>& paths, const std::stri
     plan.sections.push_back({"caches", "App caches", "internaldrive.fill", {}});
     for (const std::string& path : paths)
         plan.sections.front().entries.push_back({path, 4096});
-    app.confirm(plan, {paths.begin(), paths.end()});
+    app.confirm(plan);
     ASSERT_TRUE(waitUntil([&] { return app.cleaning() && app.cleaning()->finished; }));
 }
 

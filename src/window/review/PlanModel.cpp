@@ -76,7 +76,7 @@ void PlanModel::show(const CleanPlan& plan)
         const int entries = static_cast<int>(section.entries.size());
         for (int entry = kHeading; entry < entries; ++entry)
             m_rows.push_back({number, entry});
-        m_states.push_back({false, findingRating(section.id)});
+        m_states.push_back({});
         m_entryCount += entries;
         m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
                                                [](const FileEntry& entry) { return entry.note.has_value(); });
@@ -270,21 +270,12 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
         return isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
     if (role == Role::thumbnail)
         return isFolder ? QString() : Thumbnails::source(entry.path);
-    const std::optional<Rating> rating = entry.rating ? entry.rating : state(row.section).rating;
+    const std::optional<Rating> rating = entry.rating ? entry.rating : section(row.section).rating;
     if (!rating)
         return QString();
     if (role == Role::rating)
         return DisplayText::text(rawValue(*rating));
     return DisplayText::text(role == Role::ratingLabel ? label(*rating) : orlen::symbol(*rating));
-}
-
-/// The rating of the finding that a section of a Smart Scan was made from.
-std::optional<Rating> PlanModel::findingRating(const std::string& sectionId) const
-{
-    const auto& findings = m_app->findings();
-    const auto found = std::find_if(findings.begin(), findings.end(),
-                                    [&](const Finding& finding) { return finding.id() == sectionId; });
-    return found == findings.end() ? std::nullopt : std::optional(found->rating);
 }
 
 QHash<int, QByteArray> PlanModel::roleNames() const
@@ -328,7 +319,7 @@ void PlanModel::confirm()
 {
     if (!isConfirmable())
         return;
-    m_app->confirm(*m_plan, m_ticks.paths());
+    m_app->confirm(m_ticks.ticked(*m_plan));
 }
 
 } // namespace orlen

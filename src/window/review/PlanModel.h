@@ -97,7 +97,6 @@ private:
     };
     struct SectionState {
         bool isFolded = false;
-        std::optional<Rating> rating; ///< of entries without one of their own
     };
 
     void follow();
@@ -113,7 +112,6 @@ private:
     [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
     [[nodiscard]] QVariant sectionData(int number, Role role) const;
     [[nodiscard]] QVariant entryData(const Row& row, Role role) const;
-    [[nodiscard]] std::optional<Rating> findingRating(const std::string& sectionId) const;
 
     AppModel* m_app = nullptr;
     std::optional<CleanPlan> m_plan;
