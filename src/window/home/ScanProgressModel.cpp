@@ -20,35 +20,19 @@ std::vector<ScanStep> pendingSteps()
     return steps;
 }
 
-bool looksDifferent(const ScanStep& a, const ScanStep& b)
-{
-    return a.state != b.state || a.label != b.label;
-}
-
 } // namespace
 
-ScanProgressModel::ScanProgressModel(QObject* parent) : QAbstractListModel(parent), m_steps(pendingSteps())
+ScanProgressModel::ScanProgressModel(AppModel& app) : m_app(app)
 {
     m_timer.setInterval(kPollInterval);
     connect(&m_timer, &QTimer::timeout, this, &ScanProgressModel::poll);
-}
-
-void ScanProgressModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::phaseChanged, this, &ScanProgressModel::followPhase);
-    Q_EMIT appChanged();
+    connect(&m_app, &AppModel::phaseChanged, this, &ScanProgressModel::followPhase);
     followPhase();
 }
 
 void ScanProgressModel::followPhase()
 {
-    const bool isScanning = m_app != nullptr && m_app->phase() == Phase::scanning;
+    const bool isScanning = m_app.phase() == Phase::scanning;
     if (isScanning)
         m_timer.start();
     else
@@ -57,13 +41,12 @@ void ScanProgressModel::followPhase()
         m_isCancelling = false;
         Q_EMIT cancellingChanged();
     }
-    if (m_app != nullptr)
-        poll();
+    poll();
 }
 
 void ScanProgressModel::poll()
 {
-    const ScanProgress& progress = m_app->scanProgress();
+    const ScanProgress& progress = m_app.scanProgress();
     std::vector<ScanStep> steps = progress.steps();
     // The scan names its steps only once its worker runs.
     setSteps(steps.empty() ? pendingSteps() : std::move(steps));
@@ -77,19 +60,12 @@ void ScanProgressModel::poll()
 
 void ScanProgressModel::setSteps(std::vector<ScanStep> steps)
 {
-    if (steps.size() != m_steps.size()) {
-        beginResetModel();
-        m_steps = std::move(steps);
-        endResetModel();
-        return;
+    // The time of a step is shown when it is done.
+    for (ScanStep& step : steps) {
+        if (step.state != StepState::done)
+            step.elapsed = {};
     }
-    for (std::size_t at = 0; at < steps.size(); ++at) {
-        const bool isDifferent = looksDifferent(m_steps[at], steps[at]);
-        m_steps[at] = std::move(steps[at]);
-        const QModelIndex changed = index(static_cast<int>(at));
-        if (isDifferent)
-            Q_EMIT dataChanged(changed, changed);
-    }
+    setRows(m_steps, std::move(steps), &ScanStep::label);
 }
 
 QString ScanProgressModel::files() const
@@ -99,23 +75,16 @@ QString ScanProgressModel::files() const
 
 void ScanProgressModel::cancel()
 {
-    if (m_isCancelling || m_app == nullptr || m_app->phase() != Phase::scanning)
+    if (m_isCancelling || m_app.phase() != Phase::scanning)
         return;
-    m_app->cancelScan();
+    m_app.cancelScan();
     m_isCancelling = true;
     Q_EMIT cancellingChanged();
 }
 
-int ScanProgressModel::rowCount(const QModelIndex& parent) const
+QVariant ScanProgressModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_steps.size());
-}
-
-QVariant ScanProgressModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const ScanStep& step = m_steps[static_cast<std::size_t>(index.row())];
+    const ScanStep& step = m_steps[number];
     switch (static_cast<Role>(role)) {
     case Role::label:
         return DisplayText::text(step.label);
@@ -125,13 +94,6 @@ QVariant ScanProgressModel::data(const QModelIndex& index, int role) const
         return step.state == StepState::done ? DisplayText::duration(step.elapsed) : QString();
     }
     return {};
-}
-
-QHash<int, QByteArray> ScanProgressModel::roleNames() const
-{
-    return {{static_cast<int>(Role::label), "label"},
-            {static_cast<int>(Role::state), "state"},
-            {static_cast<int>(Role::duration), "duration"}};
 }
 
 } // namespace orlen
