@@ -17,17 +17,12 @@ namespace orlen {
 namespace {
 
 struct Detail {
-    Detail()
-    {
-        apps.setApp(&app);
-        detail.setApp(&app);
-        detail.setList(&apps);
-    }
+    Detail() { detail.setList(&apps); }
 
     /// Shows the application of that name and waits until all is known of it.
     [[nodiscard]] bool show(const std::string& name)
     {
-        if (!waitUntil([&] { return apps.count() > 0 && !apps.isLoading(); }))
+        if (!waitUntil([&] { return apps.rowCount() > 0 && !apps.isLoading(); }))
             return false;
         const auto& all = apps.apps();
         const auto found =
@@ -42,8 +37,8 @@ struct Detail {
     }
 
     AppModel app{{AppModel::Startup::full, AppModel::Access::writer, std::chrono::milliseconds(0)}};
-    AppListModel apps;
-    AppDetailModel detail;
+    AppListModel apps{app};
+    AppDetailModel detail{app};
     QAbstractItemModelTester tester{&detail, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -59,7 +54,7 @@ TEST(AppDetailModelTest, leadsFromTheChosenLeftoversToTheReview)
     Detail d;
     ASSERT_TRUE(d.show("Kite"));
     EXPECT_EQ(d.detail.heading(), "Leftovers found by bundle identifier (org.example.Kite)");
-    ASSERT_EQ(d.detail.count(), 3);
+    ASSERT_EQ(d.detail.rowCount(), 3);
     EXPECT_EQ(d.text(0, AppDetailModel::Role::folder), "~/.config");
     EXPECT_EQ(d.text(0, AppDetailModel::Role::note), "");
     EXPECT_EQ(d.text(1, AppDetailModel::Role::note), "Matched by name only");
@@ -122,7 +117,7 @@ TEST(AppDetailModelTest, offersNoLeftoversWhileAnotherCopyUsesThem)
     Detail d;
     ASSERT_TRUE(d.show("Kite"));
     EXPECT_TRUE(d.detail.isOtherCopyInstalled());
-    EXPECT_EQ(d.detail.count(), 0);
+    EXPECT_EQ(d.detail.rowCount(), 0);
     EXPECT_EQ(d.detail.heading(), "Leftovers found by name");
     EXPECT_TRUE(d.detail.isReady());
 }
@@ -154,7 +149,7 @@ TEST(AppDetailModelTest, closesWhenItsApplicationIsGone)
     entry.path = path;
     d.app.confirm({Uuid::random(), "", {{"app", "", "", {entry}, {}}}});
     EXPECT_TRUE(waitUntil([&] { return !d.detail.isOpen(); }));
-    EXPECT_EQ(d.apps.count(), 1);
+    EXPECT_EQ(d.apps.rowCount(), 1);
 }
 
 } // namespace orlen

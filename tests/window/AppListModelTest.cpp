@@ -38,9 +38,8 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     const std::string gone = AppsOnDisk::image(home, "Applications/Lark.AppImage");
     AppsOnDisk::image(home, "Downloads/Wren-2.1-x86_64.AppImage");
     AppModel app({AppModel::Startup::full, AppModel::Access::writer, std::chrono::milliseconds(0)});
-    AppListModel apps;
+    AppListModel apps(app);
     const QAbstractItemModelTester tester(&apps, kFatal);
-    apps.setApp(&app);
     ASSERT_TRUE(waitUntil([&] { return isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Lark", "Wren"}));
     EXPECT_EQ(texts(apps, AppRole::origin).back(), "AppImage · ~/Downloads");
@@ -53,7 +52,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     FileEntry entry;
     entry.path = gone;
     app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
-    ASSERT_TRUE(waitUntil([&] { return apps.count() == 2 && isSettled(apps); }));
+    ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 2 && isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);
     EXPECT_EQ(insertions.count() + resets.count(), 0);
@@ -66,9 +65,8 @@ TEST(AppListModelTest, canBeDestroyedWhileItMeasures)
         AppsOnDisk::image(home, "Applications/App" + std::to_string(number));
     AppModel app({});
     for (const bool waitsForNames : {false, true}) {
-        AppListModel apps;
-        apps.setApp(&app);
-        ASSERT_TRUE(waitUntil([&] { return !waitsForNames || apps.count() == 20; }));
+        AppListModel apps(app);
+        ASSERT_TRUE(waitUntil([&] { return !waitsForNames || apps.rowCount() == 20; }));
     }
 }
 
@@ -80,13 +78,12 @@ TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
     home.fileOfSize("opt/Cedar/data", 409'600);
     TempHome::setMode(home.file("opt/Cedar/cedar"), 0755);
     AppModel app({});
-    AppListModel apps;
-    apps.setApp(&app);
+    AppListModel apps(app);
     AppOrderModel shown;
     const QAbstractItemModelTester tester(&shown, kFatal);
     shown.setList(&apps);
     shown.setOrder(AppOrderModel::BySize);
-    ASSERT_TRUE(waitUntil([&] { return apps.count() == 3 && isSettled(apps); }));
+    ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 3 && isSettled(apps); }));
     EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Cedar", "Alder Notes", "Birch"}));
     EXPECT_EQ(shown.listRow(0), 2);
 

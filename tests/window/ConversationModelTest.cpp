@@ -24,11 +24,10 @@ TEST(ConversationModelTest, answersOneQuestionAfterTheOther)
 {
     const TempHome home;
     AppModel app({.startup = AppModel::Startup::filesOnly});
-    ConversationModel model;
+    ConversationModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setApp(&app);
     EXPECT_FALSE(model.ask("  \n "));
-    EXPECT_TRUE(model.isEmpty());
+    EXPECT_TRUE(model.rowCount() == 0);
 
     EXPECT_TRUE(model.ask("  is there a\n duplicate? "));
     EXPECT_TRUE(model.isThinking());
@@ -49,8 +48,7 @@ TEST(ConversationModelTest, recallsEarlierQuestions)
 {
     const TempHome home;
     AppModel app({.startup = AppModel::Startup::filesOnly});
-    ConversationModel model;
-    model.setApp(&app);
+    ConversationModel model(app);
     EXPECT_EQ(model.recall(ConversationModel::Earlier), "");
     for (const char* question : {"first", "second", "second"}) {
         ASSERT_TRUE(model.ask(question));
@@ -72,8 +70,7 @@ TEST(ConversationModelTest, linksOnlyToFindingsThatAreStillThere)
     AppModel app({.startup = AppModel::Startup::filesOnly});
     app.startScan();
     ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
-    ConversationModel model;
-    model.setApp(&app);
+    ConversationModel model(app);
     ASSERT_TRUE(model.ask("duplicate"));
     ASSERT_TRUE(waitUntil([&] { return !model.isThinking(); }));
     auto* links = value(model, 1, ConversationModel::Role::links).value<FindingLinks*>();

@@ -35,7 +35,6 @@ protected:
         TempHome::setTimes(m_home.path(".cache/Zebra"), now - 48h, now - 48h);
         m_app.startScan();
         EXPECT_TRUE(waitUntil([&] { return m_app.phase() == Phase::results; }));
-        m_list.setApp(&m_app);
         m_list.setFindingId("caches");
     }
 
@@ -51,7 +50,7 @@ protected:
 
     TempHome m_home;
     AppModel m_app;
-    EntryListModel m_list;
+    EntryListModel m_list{m_app};
     QAbstractItemModelTester m_tester{&m_list, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -171,10 +170,9 @@ TEST(SelectionTest, whatIsTickedIsWhatMoves)
     AppModel app(kCommand);
     app.startScan();
     ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
-    EntryListModel downloads;
-    EntryListModel duplicates;
+    EntryListModel downloads(app);
+    EntryListModel duplicates(app);
     const auto follow = [&](EntryListModel& list, const char* id) {
-        list.setApp(&app);
         list.setFindingId(QString::fromLatin1(id));
         ASSERT_EQ(list.rowCount(), 2);
     };

@@ -46,9 +46,8 @@ TEST(HistoryModelTest, aNewCleanUpComesFirstAndARestoreChangesItsRowOnly)
 {
     const TempHome home;
     AppModel app(kQuick);
-    HistoryModel history;
+    HistoryModel history(app);
     const QAbstractItemModelTester tester(&history, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    history.setApp(&app);
     EXPECT_EQ(history.rowCount(), 0);
     clean(app, {home.file(".cache/a"), home.file(".cache/b"), home.path("gone")}, "Smart Scan clean-up");
     QSignalSpy inserted(&history, &QAbstractItemModel::rowsInserted);
@@ -91,8 +90,7 @@ TEST(HistoryModelTest, aProgramThatMayNotWriteRestoresNothing)
         clean(app, {home.file(".cache/a")}, "Smart Scan clean-up");
     }
     AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, {}});
-    HistoryModel history;
-    history.setApp(&reader);
+    HistoryModel history(reader);
     ASSERT_EQ(history.rowCount(), 1);
     history.restore(0);
     EXPECT_FALSE(reader.isRestoring(reader.history().front().id));
@@ -104,9 +102,8 @@ TEST(RecordItemsModelTest, tellsWhereEachItemIsNow)
     const TempHome home;
     AppModel app(kQuick);
     clean(app, {home.file(".cache/a"), home.file(".cache/b"), home.file(".cache/c")}, "Some");
-    RecordItemsModel items;
+    RecordItemsModel items(app);
     const QAbstractItemModelTester tester(&items, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    items.setApp(&app);
     EXPECT_EQ(items.rowCount(), 0);
     QSignalSpy changed(&items, &QAbstractItemModel::dataChanged);
     items.setRecordId(QString::fromStdString(app.history().front().id.text()));

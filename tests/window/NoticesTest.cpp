@@ -17,7 +17,9 @@ namespace orlen {
 
 TEST(NoticesTest, showsOneAfterTheOtherWithAPauseBetween)
 {
-    Notices notices;
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    Notices notices(app);
     notices.setProperty("shortest", 30);
     QStringList shown;
     QObject::connect(&notices, &Notices::changed, [&] { shown << notices.text(); });
@@ -33,7 +35,9 @@ TEST(NoticesTest, showsOneAfterTheOtherWithAPauseBetween)
 
 TEST(NoticesTest, aSentenceStaysWhileItIsReadOrHeld)
 {
-    Notices notices;
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    Notices notices(app);
     notices.setProperty("shortest", 1);
     QElapsedTimer timer;
     timer.start();
@@ -58,7 +62,8 @@ TEST(NoticesTest, tellsOfAPathThatCannotBeShown)
     TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     TempHome::setVariable("PATH", home.folder("bin"));
     const Reveal reveal;
-    Notices notices;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    Notices notices(app);
     Reveal::show(home.path("film.mkv"));
     ASSERT_TRUE(waitUntil([&] { return notices.hasPath(); }));
     const QString path = QString::fromStdString(home.path("film.mkv"));
@@ -71,11 +76,8 @@ TEST(NoticesTest, beginsWithWhatTheStartFound)
 {
     const TempHome home;
     (void)home.file(".local/share/Orlen/history.json", "[{}]");
-    AppModel::Options options;
-    options.startup = AppModel::Startup::filesOnly;
-    AppModel app(options);
-    Notices notices;
-    notices.setApp(&app);
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    const Notices notices(app);
     EXPECT_TRUE(notices.text().contains("history.unreadable-")) << notices.text().toStdString();
 }
 

@@ -53,15 +53,14 @@ std::vector<std::string> names(const PhotoTilesModel& tiles)
 struct Stage {
     explicit Stage(std::vector<Finding> findings, const QString& shown)
     {
-        groups.setApp(&app);
         groups.setFindings(std::move(findings));
         tiles.setFindingId(shown);
         tiles.setGroups(&groups);
     }
 
     AppModel app{kQuickPhotos};
-    PhotoGroupsModel groups;
-    PhotoTilesModel tiles;
+    PhotoGroupsModel groups{app};
+    PhotoTilesModel tiles{app};
     QAbstractItemModelTester groupsTester{&groups, QAbstractItemModelTester::FailureReportingMode::Fatal};
     QAbstractItemModelTester tilesTester{&tiles, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -118,8 +117,7 @@ TEST(PhotoGroupsModelTest, tellsTheStages)
 {
     const TempHome home;
     AppModel app(kQuickPhotos);
-    PhotoGroupsModel groups;
-    groups.setApp(&app);
+    PhotoGroupsModel groups(app);
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::BeforeScan);
     app.startScan();
     ASSERT_TRUE(waitUntil([&] { return app.phase() != Phase::scanning; }));

@@ -25,7 +25,6 @@ protected:
         plan.sections.push_back(
             {"caches", "App caches", "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
         plan.sections.push_back({"app", "Viewer", "app.fill", {entry("c", 12)}});
-        m_plan.setApp(&m_app);
         m_app.setSheet(PlanSheet{plan});
     }
 
@@ -45,7 +44,7 @@ protected:
 
     TempHome m_home;
     AppModel m_app{{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms}};
-    PlanModel m_plan;
+    PlanModel m_plan{m_app};
     QAbstractItemModelTester m_tester{&m_plan, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -124,8 +123,7 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
 
 TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
 {
-    CleaningModel cleaning;
-    cleaning.setApp(&m_app);
+    CleaningModel cleaning(m_app);
     m_plan.toggle(2);
     m_plan.confirm();
     EXPECT_FALSE(m_app.sheet());
@@ -146,8 +144,7 @@ TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
 TEST_F(PlanModelTest, asksNothingOfAProgramThatOnlyReads)
 {
     AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
-    PlanModel plan;
-    plan.setApp(&reader);
+    PlanModel plan(reader);
     reader.setSheet(m_app.sheet());
     EXPECT_EQ(plan.checkedCount(), 3);
     EXPECT_FALSE(plan.isConfirmable());

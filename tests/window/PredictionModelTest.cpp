@@ -37,9 +37,8 @@ TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
                 {{"apps", 12 * kGigabyte}, {"media", 7 * kGigabyte}, {"photos", kGigabyte}}),
     });
     AppModel app({.startup = AppModel::Startup::filesOnly});
-    PredictionModel model;
+    PredictionModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setApp(&app);
     using Role = PredictionModel::Role;
     ASSERT_EQ(model.rowCount(), 3);
     EXPECT_TRUE(model.hasEnoughData());
@@ -60,18 +59,17 @@ TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
     const TempHome home;
     (void)Persist::saveSnapshots({reading(3, 100 * kGigabyte, {{"apps", kGigabyte}, {"system", kGigabyte}})});
     AppModel app({.startup = AppModel::Startup::filesOnly});
-    PredictionModel model;
+    PredictionModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setApp(&app);
     EXPECT_EQ(model.headline(), "Still learning your Mac");
     EXPECT_EQ(model.snapshotsText(), "1 snapshot");
-    EXPECT_TRUE(model.isEmpty());
+    EXPECT_TRUE(model.rowCount() == 0);
     EXPECT_TRUE(model.curve().known.empty());
 
     app.refreshBreakdown(AppModel::Recording::ifStale);
     ASSERT_TRUE(waitUntil([&] { return app.snapshots().size() == 2; }));
     EXPECT_TRUE(model.hasEnoughData());
-    EXPECT_FALSE(model.isEmpty());
+    EXPECT_FALSE(model.rowCount() == 0);
     EXPECT_EQ(model.curve().known.size(), 2U);
 }
 

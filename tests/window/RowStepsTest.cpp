@@ -17,9 +17,9 @@ Keys applied(Keys keys, const Keys& wanted, const std::vector<RowStep>& steps)
     for (const RowStep& step : steps) {
         const auto at = keys.begin() + step.row;
         if (step.kind == remove)
-            keys.erase(at);
+            keys.erase(at, at + step.count);
         else if (step.kind == insert)
-            keys.insert(at, wanted[static_cast<std::size_t>(step.row)]);
+            keys.insert(at, wanted.begin() + step.row, wanted.begin() + step.row + step.count);
         else
             std::rotate(keys.begin() + step.to, at, at + 1);
     }
@@ -38,12 +38,12 @@ TEST(RowStepsTest, takesNoMoreStepsThanTheChangeNeeds)
     };
     const Case cases[] = {
         {"nothing changes", {"a", "b"}, {"a", "b"}, {}},
-        {"a row in the middle goes", {"a", "b", "c"}, {"a", "c"}, {{remove, 1, 0}}},
-        {"a row comes first", {"b"}, {"a", "b"}, {{insert, 0, 0}}},
-        {"the last becomes the first", {"a", "b", "c"}, {"c", "a", "b"}, {{move, 2, 0}}},
-        {"one is replaced", {"a", "b"}, {"a", "x"}, {{remove, 1, 0}, {insert, 1, 0}}},
-        {"one of two alike goes", {"a", "a"}, {"a"}, {{remove, 1, 0}}},
-        {"all go", {"a", "b"}, {}, {{remove, 1, 0}, {remove, 0, 0}}},
+        {"rows in the middle go", {"a", "b", "c", "d"}, {"a", "d"}, {{remove, 1, 2}}},
+        {"rows come first", {"c"}, {"a", "b", "c"}, {{insert, 0, 2}}},
+        {"the last becomes the first", {"a", "b", "c"}, {"c", "a", "b"}, {{move, 2, 1, 0}}},
+        {"one is replaced", {"a", "b"}, {"a", "x"}, {{remove, 1, 1}, {insert, 1, 1}}},
+        {"one of two alike goes", {"a", "a"}, {"a"}, {{remove, 1, 1}}},
+        {"rows apart go", {"a", "b", "c"}, {"b"}, {{remove, 2, 1}, {remove, 0, 1}}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

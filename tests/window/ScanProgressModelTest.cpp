@@ -37,9 +37,8 @@ TEST(ScanProgressModelTest, showsAllStepsBeforeDuringAndAfterAScan)
     for (int file = 0; file < 100; ++file)
         home.file("Documents/" + std::to_string(file));
     AppModel app(quick());
-    ScanProgressModel model;
+    ScanProgressModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setApp(&app);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     constexpr int kSteps = static_cast<int>(kScanSteps);
     EXPECT_EQ(count(model, ScanProgressModel::Pending), kSteps);
@@ -59,8 +58,7 @@ TEST(ScanProgressModelTest, saysThatItIsBeingCancelledUntilItIs)
 {
     const TempHome home;
     AppModel app(quick());
-    ScanProgressModel model;
-    model.setApp(&app);
+    ScanProgressModel model(app);
     model.cancel();
     EXPECT_FALSE(model.isCancelling()) << "no scan is running";
     app.startScan();

@@ -15,9 +15,8 @@ TEST(StorageModelTest, hasARowForEachCategoryThatTakesSpace)
     const TempHome home;
     home.fileOfSize("Pictures/a.jpg", 40'960);
     AppModel app({});
-    StorageModel storage;
+    StorageModel storage(app);
     const QAbstractItemModelTester tester(&storage, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    storage.setApp(&app);
     EXPECT_FALSE(storage.isReady());
     EXPECT_EQ(storage.rowCount(), 0);
     ASSERT_TRUE(waitUntil([&] { return app.isBreakdownReady(); }));

@@ -29,26 +29,15 @@ struct AppDetailModel::Found {
     bool isRunning = false;
 };
 
-AppDetailModel::AppDetailModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this)
+AppDetailModel::AppDetailModel(AppModel& app) : m_app(app), m_workers(*this)
 {
+    connect(&m_app, &AppModel::sheetChanged, this, &AppDetailModel::followSheet);
     m_runningTimer.setSingleShot(true);
     m_runningTimer.setInterval(kRunningInterval);
     connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
 }
 
 AppDetailModel::~AppDetailModel() = default;
-
-void AppDetailModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::sheetChanged, this, &AppDetailModel::followSheet);
-    Q_EMIT appChanged();
-}
 
 void AppDetailModel::setList(AppListModel* list)
 {
@@ -64,11 +53,11 @@ void AppDetailModel::setList(AppListModel* list)
 
 void AppDetailModel::show(int listRow)
 {
-    if (m_list == nullptr || listRow < 0 || listRow >= m_list->count())
+    if (m_list == nullptr || listRow < 0 || listRow >= m_list->rowCount())
         return;
     m_stop.request_stop();
     m_runningTimer.stop();
-    setRows({});
+    resetRows(m_rows, {});
     m_info = m_list->apps()[static_cast<std::size_t>(listRow)];
     m_isOtherCopyInstalled = false;
     m_isRunning = false;
@@ -106,7 +95,7 @@ void AppDetailModel::take(Found found)
     rows.reserve(found.leftovers.entries.size());
     for (FileEntry& entry : found.leftovers.entries)
         rows.push_back({std::move(entry), true});
-    setRows(std::move(rows));
+    resetRows(m_rows, std::move(rows));
     m_isOtherCopyInstalled = found.leftovers.isOtherCopyInstalled;
     m_isRunning = found.isRunning;
     if (found.size)
@@ -158,11 +147,12 @@ void AppDetailModel::close()
 
 void AppDetailModel::toggle(int row)
 {
-    if (row < 0 || row >= count())
+    if (!hasRow(row))
         return;
     bool& isChecked = m_rows[static_cast<std::size_t>(row)].isChecked;
     isChecked = !isChecked;
-    rowsChanged(row, row);
+    rowsChanged(row, row, Role::checked);
+    Q_EMIT selectionChanged();
 }
 
 void AppDetailModel::toggleAll()
@@ -172,7 +162,8 @@ void AppDetailModel::toggleAll()
     const bool isChecked = checkState() != Qt::Checked;
     for (Row& row : m_rows)
         row.isChecked = isChecked;
-    rowsChanged(0, count() - 1);
+    allChanged(Role::checked);
+    Q_EMIT selectionChanged();
 }
 
 void AppDetailModel::copyCommand() const
@@ -182,17 +173,17 @@ void AppDetailModel::copyCommand() const
 
 void AppDetailModel::review()
 {
-    if (!m_isOpen || !isReady() || m_app == nullptr)
+    if (!m_isOpen || !isReady())
         return;
     CleanPlan plan = Uninstall::plan(m_info, chosen());
     close();
     m_reviewed = plan.id;
-    m_app->setSheet(PlanSheet{std::move(plan)});
+    m_app.setSheet(PlanSheet{std::move(plan)});
 }
 
 void AppDetailModel::followSheet()
 {
-    const auto* review = m_app->sheet() ? std::get_if<PlanSheet>(&*m_app->sheet()) : nullptr;
+    const auto* review = m_app.sheet() ? std::get_if<PlanSheet>(&*m_app.sheet()) : nullptr;
     if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
         return;
     m_reviewed.reset();
@@ -203,7 +194,7 @@ void AppDetailModel::followSheet()
 /// Shows the application again as it was left.
 void AppDetailModel::resume()
 {
-    if (m_isOpen || m_app->sheet() || m_app->cleaning())
+    if (m_isOpen || m_app.sheet() || m_app.cleaning())
         return;
     setOpen(true);
     checkRunning();
@@ -216,26 +207,6 @@ void AppDetailModel::setOpen(bool isOpen)
         return;
     m_isOpen = isOpen;
     Q_EMIT openChanged();
-}
-
-void AppDetailModel::setRows(std::vector<Row> rows)
-{
-    if (!m_rows.empty()) {
-        beginRemoveRows({}, 0, count() - 1);
-        m_rows.clear();
-        endRemoveRows();
-    }
-    if (!rows.empty()) {
-        beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
-        m_rows = std::move(rows);
-        endInsertRows();
-    }
-}
-
-void AppDetailModel::rowsChanged(int first, int last)
-{
-    Q_EMIT dataChanged(index(first), index(last), {static_cast<int>(Role::checked)});
-    Q_EMIT selectionChanged();
 }
 
 std::vector<FileEntry> AppDetailModel::chosen() const
@@ -320,16 +291,9 @@ bool AppDetailModel::isReady() const
     return isRemovable() && !m_isLoading && m_info.size.has_value();
 }
 
-int AppDetailModel::rowCount(const QModelIndex& parent) const
+QVariant AppDetailModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant AppDetailModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const auto& [entry, isChecked] = m_rows[static_cast<std::size_t>(index.row())];
+    const auto& [entry, isChecked] = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::nameOf(entry.path);
@@ -343,15 +307,6 @@ QVariant AppDetailModel::data(const QModelIndex& index, int role) const
         return isChecked;
     }
     return {};
-}
-
-QHash<int, QByteArray> AppDetailModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::folder), "folder"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::note), "note"},
-            {static_cast<int>(Role::checked), "checked"}};
 }
 
 } // namespace orlen

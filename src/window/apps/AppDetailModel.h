@@ -2,8 +2,9 @@
 
 #include "tools/apps/Leftovers.h"
 #include "window/apps/AppListModel.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
@@ -15,10 +16,9 @@ namespace orlen {
 /// One application of the list, with the files that it left as a checklist. Main thread, and needs its event
 /// loop; the disk is read on workers. Closes when its application is no longer listed. It closes for the
 /// review too, and is back when that ends without a clean-up.
-class AppDetailModel : public QAbstractListModel {
+class AppDetailModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(orlen::AppListModel* list READ list WRITE setList NOTIFY listChanged REQUIRED)
     /// Whether an application is shown.
     Q_PROPERTY(bool open READ isOpen NOTIFY openChanged)
@@ -41,7 +41,6 @@ class AppDetailModel : public QAbstractListModel {
     Q_PROPERTY(bool otherCopy READ isOtherCopyInstalled NOTIFY changed)
     /// What to do first while the application runs; empty when it does not.
     Q_PROPERTY(QString quitFirst READ quitFirst NOTIFY changed)
-    Q_PROPERTY(int count READ count NOTIFY changed)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY selectionChanged)
     Q_PROPERTY(QString chosenText READ chosenText NOTIFY selectionChanged)
     /// Of the application and the chosen leftovers.
@@ -57,12 +56,11 @@ public:
         note,                ///< why one should look twice; often empty
         checked,             ///< whether it goes with the application
     };
+    Q_ENUM(Role)
 
-    explicit AppDetailModel(QObject* parent = nullptr);
+    explicit AppDetailModel(AppModel& app = AppModelElement::model());
     ~AppDetailModel() override;
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] AppListModel* list() const { return m_list; }
     void setList(AppListModel* list);
 
@@ -80,7 +78,6 @@ public:
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isOtherCopyInstalled() const { return m_isOtherCopyInstalled; }
     [[nodiscard]] QString quitFirst() const;
-    [[nodiscard]] int count() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] Qt::CheckState checkState() const;
     [[nodiscard]] QString chosenText() const;
     [[nodiscard]] QString total() const;
@@ -97,21 +94,21 @@ public:
     /// Closes this and opens the review of what would be moved.
     Q_INVOKABLE void review();
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
     void listChanged();
     void openChanged();
     void changed();
     void selectionChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         FileEntry entry;
         bool isChecked = true;
+
+        friend bool operator==(const Row&, const Row&) = default;
     };
     struct Found;
 
@@ -119,15 +116,13 @@ private:
                                     const std::stop_token& stop);
     void take(Found found);
     void setOpen(bool isOpen);
-    void setRows(std::vector<Row> rows);
     void checkRunning();
     void followList();
     void followSheet();
     void resume();
-    void rowsChanged(int first, int last);
     [[nodiscard]] std::vector<FileEntry> chosen() const;
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     AppListModel* m_list = nullptr;
     bool m_isOpen = false;
     AppInfo m_info;

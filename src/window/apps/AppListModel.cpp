@@ -4,7 +4,6 @@
 #include "tools/apps/AppList.h"
 #include "window/apps/AppText.h"
 #include "window/lists/DisplayText.h"
-#include "window/lists/RowSteps.h"
 
 #include <chrono>
 #include <map>
@@ -16,15 +15,6 @@ namespace orlen {
 namespace {
 
 constexpr std::chrono::milliseconds kTakeInterval{80};
-
-std::vector<std::string> keys(const std::vector<AppInfo>& apps)
-{
-    std::vector<std::string> paths;
-    paths.reserve(apps.size());
-    for (const AppInfo& app : apps)
-        paths.push_back(app.path);
-    return paths;
-}
 
 } // namespace
 
@@ -49,27 +39,15 @@ private:
     Known m_known;
 };
 
-AppListModel::AppListModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this)
+AppListModel::AppListModel(AppModel& app) : m_workers(*this)
 {
     m_takeTimer.setInterval(kTakeInterval);
     connect(&m_takeTimer, &QTimer::timeout, this, &AppListModel::takeSizes);
+    connect(&app, &AppModel::cleaningFinished, this, &AppListModel::load);
+    load();
 }
 
 AppListModel::~AppListModel() = default;
-
-void AppListModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::cleaningFinished, this, &AppListModel::load);
-        load();
-    }
-    Q_EMIT appChanged();
-}
 
 QString AppListModel::summary() const
 {
@@ -102,40 +80,10 @@ void AppListModel::show(std::vector<AppInfo> apps)
         if (const auto found = known.find(app.path); found != known.end() && !app.size)
             app.size = found->second;
     }
-    setRows(std::move(apps));
+    setRows(m_apps, std::move(apps), &AppInfo::path);
     measure();
     setLoading(false);
     Q_EMIT summaryChanged();
-}
-
-void AppListModel::setRows(std::vector<AppInfo> apps)
-{
-    for (const RowStep& step : RowSteps::between(keys(m_apps), keys(apps))) {
-        const auto at = m_apps.begin() + step.row;
-        switch (step.kind) {
-        case RowStep::Kind::remove:
-            beginRemoveRows({}, step.row, step.row);
-            m_apps.erase(at);
-            endRemoveRows();
-            break;
-        case RowStep::Kind::insert:
-            beginInsertRows({}, step.row, step.row);
-            m_apps.insert(at, apps[static_cast<std::size_t>(step.row)]);
-            endInsertRows();
-            break;
-        case RowStep::Kind::move:
-            beginMoveRows({}, step.row, step.row, {}, step.to);
-            std::rotate(m_apps.begin() + step.to, at, at + 1);
-            endMoveRows();
-            break;
-        }
-    }
-    for (std::size_t row = 0; row < apps.size(); ++row) {
-        if (m_apps[row] == apps[row])
-            continue;
-        m_apps[row] = std::move(apps[row]);
-        Q_EMIT dataChanged(index(static_cast<int>(row)), index(static_cast<int>(row)));
-    }
 }
 
 void AppListModel::measure()
@@ -168,8 +116,7 @@ void AppListModel::takeSizes()
     const Sizes::Known known = m_sizes->take();
     for (const auto& [row, bytes] : known) {
         m_apps[row].size = bytes;
-        const QModelIndex changed = index(static_cast<int>(row));
-        Q_EMIT dataChanged(changed, changed, {static_cast<int>(Role::size), static_cast<int>(Role::bytes)});
+        rowChanged(row, Role::size, Role::bytes);
     }
     if (!known.empty())
         Q_EMIT summaryChanged();
@@ -183,16 +130,9 @@ void AppListModel::setLoading(bool isLoading)
     Q_EMIT loadingChanged();
 }
 
-int AppListModel::rowCount(const QModelIndex& parent) const
+QVariant AppListModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant AppListModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const AppInfo& app = m_apps[static_cast<std::size_t>(index.row())];
+    const AppInfo& app = m_apps[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::path(app.name);
@@ -206,15 +146,6 @@ QVariant AppListModel::data(const QModelIndex& index, int role) const
         return app.size ? static_cast<double>(*app.size) : -1.0;
     }
     return {};
-}
-
-QHash<int, QByteArray> AppListModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::origin), "origin"},
-            {static_cast<int>(Role::icon), "icon"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::bytes), "bytes"}};
 }
 
 } // namespace orlen

@@ -10,8 +10,6 @@ Item {
 
     AppListModel {
         id: apps
-
-        app: AppModel
     }
 
     AppOrderModel {
@@ -24,7 +22,6 @@ Item {
     AppDetailModel {
         id: chosen
 
-        app: AppModel
         list: apps
     }
 

@@ -12,8 +12,6 @@ Item {
 
     ConversationModel {
         id: theConversation
-
-        app: AppModel
     }
 
     PageHeader {
@@ -31,7 +29,7 @@ Item {
         y: Math.max(header.y + header.height + 16,
                     Math.round((header.y + header.height + foot.y - height) / 2))
         width: root.columnWidth
-        visible: theConversation.empty
+        visible: theConversation.count === 0
         spacing: 10
 
         Badge {
@@ -74,7 +72,7 @@ Item {
         y: header.y + header.height + 8
         width: root.width
         height: foot.y - y - 8
-        visible: !theConversation.empty
+        visible: theConversation.count > 0
         conversation: theConversation
         columnWidth: root.columnWidth
         onFindingRequested: id => root.navigation.showFinding(id)
@@ -109,7 +107,7 @@ Item {
 
         SuggestionRow {
             width: parent.width
-            visible: !theConversation.empty
+            visible: theConversation.count > 0
             enabled: !theConversation.thinking
             conversation: theConversation
             onAsked: question => root.ask(question)

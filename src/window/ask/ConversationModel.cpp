@@ -10,15 +10,7 @@
 
 namespace orlen {
 
-ConversationModel::ConversationModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this) {}
-
-void ConversationModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    m_app = app;
-    Q_EMIT appChanged();
-}
+ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this) {}
 
 QString ConversationModel::introduction()
 {
@@ -36,14 +28,14 @@ QStringList ConversationModel::suggestions()
 bool ConversationModel::ask(const QString& question)
 {
     const QString asked = question.simplified();
-    if (asked.isEmpty() || m_isThinking || m_app == nullptr)
+    if (asked.isEmpty() || m_isThinking)
         return false;
     if (m_asked.empty() || m_asked.back() != asked)
         m_asked.push_back(asked);
     m_recalled = m_asked.size();
     append(ChatMessage::question(asked.toStdString()));
     setThinking(true);
-    m_workers.start([question = asked.toStdString(), context = m_app->askContext()](
+    m_workers.start([question = asked.toStdString(), context = m_app.askContext()](
                         const std::stop_token& /*stop*/) { return AskEngine::answer(question, context); },
                     [this](Answer answer) {
                         setThinking(false);
@@ -63,7 +55,7 @@ QString ConversationModel::recall(Recall step)
 
 void ConversationModel::copy(int row) const
 {
-    if (row >= 0 && row < rowCount())
+    if (hasRow(row))
         QGuiApplication::clipboard()->setText(
             DisplayText::text(m_rows[static_cast<std::size_t>(row)].message.text));
 }
@@ -72,11 +64,9 @@ void ConversationModel::append(ChatMessage message)
 {
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    FindingLinks* links = message.fromUser ? nullptr : new FindingLinks(*m_app, message.findingIDs, this);
+    FindingLinks* links = message.fromUser ? nullptr : new FindingLinks(m_app, message.findingIDs, this);
     m_rows.push_back({std::move(message), links});
     endInsertRows();
-    if (row == 0)
-        Q_EMIT emptyChanged();
 }
 
 void ConversationModel::setThinking(bool isThinking)
@@ -85,16 +75,9 @@ void ConversationModel::setThinking(bool isThinking)
     Q_EMIT thinkingChanged();
 }
 
-int ConversationModel::rowCount(const QModelIndex& parent) const
+QVariant ConversationModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant ConversationModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const auto& [message, links] = m_rows[static_cast<std::size_t>(index.row())];
+    const auto& [message, links] = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::fromUser:
         return message.fromUser;
@@ -106,14 +89,6 @@ QVariant ConversationModel::data(const QModelIndex& index, int role) const
         return QVariant::fromValue(links);
     }
     return {};
-}
-
-QHash<int, QByteArray> ConversationModel::roleNames() const
-{
-    return {{static_cast<int>(Role::fromUser), "fromUser"},
-            {static_cast<int>(Role::text), "text"},
-            {static_cast<int>(Role::usedModel), "usedModel"},
-            {static_cast<int>(Role::links), "links"}};
 }
 
 } // namespace orlen

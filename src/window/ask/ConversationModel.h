@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "app/Workers.h"
 #include "insight/ChatMessage.h"
 #include "window/ask/FindingLinks.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
@@ -16,15 +16,13 @@ namespace orlen {
 
 /// The exchange on the Ask screen, oldest message first; it lasts as long as the screen. Answers are written
 /// on a worker, one at a time. Main thread.
-class ConversationModel : public QAbstractListModel {
+class ConversationModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Says who writes the answers.
     Q_PROPERTY(QString introduction READ introduction CONSTANT)
     /// Questions to begin with.
     Q_PROPERTY(QStringList suggestions READ suggestions CONSTANT)
-    Q_PROPERTY(bool empty READ isEmpty NOTIFY emptyChanged)
     /// Whether an answer is being written; another question has to wait.
     Q_PROPERTY(bool thinking READ isThinking NOTIFY thinkingChanged)
 
@@ -35,16 +33,14 @@ public:
         usedModel,               ///< whether a language model wrote the answer
         links,                   ///< of an answer: its FindingLinks
     };
+    Q_ENUM(Role)
     enum Recall { Earlier, Later };
     Q_ENUM(Recall)
 
-    explicit ConversationModel(QObject* parent = nullptr);
+    explicit ConversationModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] static QString introduction();
     [[nodiscard]] static QStringList suggestions();
-    [[nodiscard]] bool isEmpty() const { return m_rows.empty(); }
     [[nodiscard]] bool isThinking() const { return m_isThinking; }
 
     /// Adds the question and has it answered. False, and nothing happens, when it is blank or an answer is
@@ -55,16 +51,13 @@ public:
     /// Puts a message's text on the clipboard.
     Q_INVOKABLE void copy(int row) const;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
-    void emptyChanged();
     void thinkingChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         ChatMessage message;
         FindingLinks* links = nullptr; ///< a child of the model; null for a question
@@ -73,7 +66,7 @@ private:
     void append(ChatMessage message);
     void setThinking(bool isThinking);
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::vector<Row> m_rows;
     bool m_isThinking = false;
     std::vector<QString> m_asked;

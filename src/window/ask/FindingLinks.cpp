@@ -8,7 +8,7 @@
 namespace orlen {
 
 FindingLinks::FindingLinks(const AppModel& app, std::vector<std::string> ids, QObject* parent)
-    : QAbstractListModel(parent), m_app(app), m_ids(std::move(ids))
+    : RowsModel(parent), m_app(app), m_ids(std::move(ids))
 {
     connect(&m_app, &AppModel::findingsChanged, this, &FindingLinks::update);
     update();
@@ -22,28 +22,12 @@ void FindingLinks::update()
         if (found != m_app.findings().end())
             rows.push_back({found->kind, found->totalSize()});
     }
-    if (std::ranges::equal(rows, m_rows, {}, &Row::kind, &Row::kind)) {
-        m_rows = std::move(rows);
-        if (!m_rows.empty())
-            Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1),
-                               {static_cast<int>(Role::size)});
-        return;
-    }
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
+    setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.kind); });
 }
 
-int FindingLinks::rowCount(const QModelIndex& parent) const
+QVariant FindingLinks::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant FindingLinks::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::findingId:
         return DisplayText::text(rawValue(row.kind));
@@ -57,15 +41,6 @@ QVariant FindingLinks::data(const QModelIndex& index, int role) const
         return DisplayText::size(row.bytes);
     }
     return {};
-}
-
-QHash<int, QByteArray> FindingLinks::roleNames() const
-{
-    return {{static_cast<int>(Role::findingId), "findingId"},
-            {static_cast<int>(Role::title), "title"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::tone), "tone"},
-            {static_cast<int>(Role::size), "size"}};
 }
 
 } // namespace orlen

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/AppModel.h"
+#include "window/lists/RowsModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <cstdint>
@@ -13,7 +13,7 @@ namespace orlen {
 
 /// The findings that an answer is about, as far as they are still among the results: a clean-up or another
 /// scan takes rows away. Main thread.
-class FindingLinks : public QAbstractListModel {
+class FindingLinks : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("An answer of the conversation has them.")
@@ -26,19 +26,21 @@ public:
         tone,   ///< colour of its category
         size,   ///< bytes of its entries as text
     };
+    Q_ENUM(Role)
 
     /// `app` must outlive the links.
     FindingLinks(const AppModel& app, std::vector<std::string> ids, QObject* parent);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     /// What a row shows of its finding.
     struct Row {
         FindingKind kind;
         std::int64_t bytes = 0;
+
+        friend bool operator==(const Row&, const Row&) = default;
     };
 
     void update();

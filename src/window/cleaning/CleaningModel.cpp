@@ -7,28 +7,20 @@
 
 namespace orlen {
 
-void CleaningModel::setApp(AppModel* app)
+CleaningModel::CleaningModel(AppModel& app) : m_app(app)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::cleaningChanged, this, &CleaningModel::follow);
-        follow();
-    }
-    Q_EMIT appChanged();
+    connect(&m_app, &AppModel::cleaningChanged, this, &CleaningModel::follow);
+    follow();
 }
 
 void CleaningModel::follow()
 {
-    const bool wasShown = std::exchange(m_isShown, m_app->cleaning().has_value());
+    const bool wasShown = std::exchange(m_isShown, m_app.cleaning().has_value());
     if (!m_isShown)
         return;
     if (!wasShown)
         m_isStopping = false;
-    m_state = *m_app->cleaning();
+    m_state = *m_app.cleaning();
     m_failures.setFailures(m_state.failures);
     Q_EMIT changed();
 }
@@ -37,7 +29,7 @@ void CleaningModel::stop()
 {
     m_isStopping = true;
     Q_EMIT changed();
-    m_app->cancelCleaning();
+    m_app.cancelCleaning();
 }
 
 double CleaningModel::fraction() const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "window/cleaning/FailureListModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -14,7 +14,6 @@ namespace orlen {
 class CleaningModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(bool finished READ isFinished NOTIFY changed)
     /// Handled part, 0 to 1; 1 at the end.
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
@@ -36,10 +35,8 @@ class CleaningModel : public QObject {
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    explicit CleaningModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] bool isFinished() const { return m_state.finished; }
     [[nodiscard]] double fraction() const;
     [[nodiscard]] QString planTitle() const;
@@ -58,13 +55,12 @@ public:
     Q_INVOKABLE void stop();
 
 Q_SIGNALS:
-    void appChanged();
     void changed();
 
 private:
     void follow();
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     CleaningState m_state;
     FailureListModel m_failures;
     bool m_isShown = false;

@@ -28,8 +28,6 @@ Sheet {
 
     CleaningModel {
         id: cleaning
-
-        app: AppModel
     }
 
     FocusScope {

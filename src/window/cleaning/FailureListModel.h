@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/CleanFailure.h"
+#include "window/lists/RowsModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -10,7 +10,7 @@
 namespace orlen {
 
 /// The items that a clean-up or a restore left where they were, reason by reason. Main thread.
-class FailureListModel : public QAbstractListModel {
+class FailureListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
 
@@ -22,17 +22,17 @@ public:
         startsReason,        ///< whether the row before has another reason
         remedy,              ///< what to do about all of this reason; may be empty
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowsModel::RowsModel;
 
     /// In each reason the order stays.
     void setFailures(std::vector<CleanFailure> failures);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_failures.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     std::vector<CleanFailure> m_failures; ///< in the order of the rows
 };
 

@@ -36,31 +36,14 @@ std::vector<BreadcrumbModel::Row> BreadcrumbModel::rowsOf(const std::vector<std:
 
 void BreadcrumbModel::setFolders(const std::vector<std::string>& folders)
 {
-    std::vector<Row> rows = rowsOf(folders);
-    const auto [oldEnd, newEnd] = std::ranges::mismatch(m_rows, rows);
-    const auto same = static_cast<int>(oldEnd - m_rows.begin());
-    if (same < rowCount()) {
-        beginRemoveRows({}, same, rowCount() - 1);
-        m_rows.erase(oldEnd, m_rows.end());
-        endRemoveRows();
-    }
-    if (newEnd != rows.end()) {
-        beginInsertRows({}, same, static_cast<int>(rows.size()) - 1);
-        m_rows = std::move(rows);
-        endInsertRows();
-    }
+    setRows(m_rows, rowsOf(folders), [](const Row& row) {
+        return std::to_string(row.step) + (row.isGap ? "gap" : "") + row.name.toStdString();
+    });
 }
 
-int BreadcrumbModel::rowCount(const QModelIndex& parent) const
+QVariant BreadcrumbModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant BreadcrumbModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return row.name;
@@ -72,14 +55,6 @@ QVariant BreadcrumbModel::data(const QModelIndex& index, int role) const
         return row.isLast;
     }
     return {};
-}
-
-QHash<int, QByteArray> BreadcrumbModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::step), "step"},
-            {static_cast<int>(Role::isGap), "isGap"},
-            {static_cast<int>(Role::isLast), "isLast"}};
 }
 
 } // namespace orlen

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "window/lists/RowsModel.h"
+
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -12,7 +13,7 @@ namespace orlen {
 
 /// The way from the start folder down to the one that the disk map shows. Of a long way the first folder and
 /// the last ones remain, with a gap between that stands for the folder just above them. Main thread.
-class BreadcrumbModel : public QAbstractListModel {
+class BreadcrumbModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The disk map has it.")
@@ -24,8 +25,9 @@ public:
         isGap,               ///< stands for folders that are not shown
         isLast,              ///< the folder shown
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowsModel::RowsModel;
 
     /// What the last of the folders is called: the start folder is "Home", whatever its name.
     [[nodiscard]] static QString nameOfLast(std::span<const std::string> folders);
@@ -33,11 +35,10 @@ public:
     /// From the start folder on; never empty.
     void setFolders(const std::vector<std::string>& folders);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         QString name;
         int step = 0;

@@ -63,7 +63,7 @@ QString spoken(const TreeNode& node)
 
 } // namespace
 
-DiskMapView::DiskMapView(QObject* parent) : QAbstractListModel(parent)
+DiskMapView::DiskMapView()
 {
     m_crumbs.setFolders(m_map.stack());
     m_shownFolders = m_map.stack();
@@ -122,13 +122,13 @@ void DiskMapView::goTo(int step)
 
 void DiskMapView::open(int row)
 {
-    if (!isLoading() && isRow(row))
+    if (!isLoading() && hasRow(row))
         m_map.zoomInto(static_cast<std::size_t>(row));
 }
 
 void DiskMapView::reveal(int row)
 {
-    if (!isLoading() && isRow(row))
+    if (!isLoading() && hasRow(row))
         Reveal::show(node(row).path);
 }
 
@@ -136,7 +136,7 @@ void DiskMapView::step(Direction direction)
 {
     if (isLoading() || m_tiles.empty())
         return;
-    if (!isRow(m_currentRow)) {
+    if (!hasRow(m_currentRow)) {
         setCurrentRow(0);
         return;
     }
@@ -149,8 +149,8 @@ void DiskMapView::step(Direction direction)
 
 QString DiskMapView::describe(int row) const
 {
-    const QString name = isRow(row) ? DisplayText::path(node(row).name) : folderName();
-    return name + QStringLiteral(" · ") + DisplayText::size(isRow(row) ? node(row).size : m_total);
+    const QString name = hasRow(row) ? DisplayText::path(node(row).name) : folderName();
+    return name + QStringLiteral(" · ") + DisplayText::size(hasRow(row) ? node(row).size : m_total);
 }
 
 void DiskMapView::click(QPointF point)
@@ -191,8 +191,8 @@ void DiskMapView::followStack()
 {
     m_crumbs.setFolders(m_map.stack());
     const int row = rowOf(m_map.current());
-    m_zoomOrigin = isRow(row) ? m_tiles[static_cast<std::size_t>(row)].area.center()
-                              : QPointF(m_view.width / 2, m_view.height / 2);
+    m_zoomOrigin = hasRow(row) ? m_tiles[static_cast<std::size_t>(row)].area.center()
+                               : QPointF(m_view.width / 2, m_view.height / 2);
     Q_EMIT stackChanged();
 }
 
@@ -212,12 +212,11 @@ void DiskMapView::followLoading()
 
 void DiskMapView::arrange()
 {
-    const bool wasHere = isRow(m_currentRow) && m_shownFolders.back() == m_map.current();
+    const bool wasHere = hasRow(m_currentRow) && m_shownFolders.back() == m_map.current();
     const std::string current = wasHere ? node(m_currentRow).path : std::string();
     m_isRearranging = true;
     Q_EMIT rearrangingChanged();
-    takeNodes(m_map.nodes());
-    placeTiles();
+    showTiles(m_map.nodes());
     m_isRearranging = false;
     Q_EMIT rearrangingChanged();
 
@@ -234,44 +233,8 @@ int DiskMapView::rowAfterArrival() const
     return m_shownFolders.size() > depth ? rowOf(m_shownFolders[depth]) : -1;
 }
 
-/// Tiles of what is still there keep their rows' identity and can move to their new place.
-void DiskMapView::takeNodes(const std::vector<TreeNode>& nodes)
-{
-    const auto isSame = [](const TreeNode& a, const TreeNode& b) {
-        return a.path == b.path && a.isOther == b.isOther;
-    };
-    for (int row = rowCount() - 1; row >= 0; --row) {
-        if (std::ranges::any_of(nodes, [&](const TreeNode& n) { return isSame(n, node(row)); }))
-            continue;
-        beginRemoveRows({}, row, row);
-        m_tiles.erase(m_tiles.begin() + row);
-        endRemoveRows();
-    }
-    m_total = 0;
-    const auto rects = Treemap::layout(nodes, m_view);
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        const int row = static_cast<int>(i);
-        const auto found = std::find_if(m_tiles.begin() + row, m_tiles.end(),
-                                        [&](const Tile& tile) { return isSame(tile.node, nodes[i]); });
-        const int from = static_cast<int>(found - m_tiles.begin());
-        if (found == m_tiles.end()) {
-            beginInsertRows({}, row, row);
-            m_tiles.insert(m_tiles.begin() + row, {nodes[i], placed(rects[i])});
-            endInsertRows();
-        } else if (from != row) {
-            beginMoveRows({}, from, from, {}, row);
-            std::rotate(m_tiles.begin() + row, found, found + 1);
-            endMoveRows();
-        }
-        m_tiles[i].node = nodes[i];
-        m_total = checkedAdd(m_total, nodes[i].size);
-    }
-}
-
 void DiskMapView::placeTiles()
 {
-    if (m_tiles.empty())
-        return;
     std::vector<TreeNode> nodes;
     nodes.reserve(m_tiles.size());
     for (const Tile& tile : m_tiles)
@@ -279,7 +242,24 @@ void DiskMapView::placeTiles()
     const auto rects = Treemap::layout(nodes, m_view);
     for (std::size_t i = 0; i < rects.size(); ++i)
         m_tiles[i].area = placed(rects[i]);
-    Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    allChanged();
+}
+
+/// Tiles of what is still there keep their rows' identity and can move to their new place.
+void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
+{
+    const auto rects = Treemap::layout(nodes, m_view);
+    std::vector<Tile> tiles;
+    tiles.reserve(nodes.size());
+    m_total = 0;
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        tiles.push_back({nodes[i], placed(rects[i])});
+        m_total = checkedAdd(m_total, nodes[i].size);
+    }
+    setRows(m_tiles, std::move(tiles),
+            [](const Tile& tile) { return tile.node.path + (tile.node.isOther ? "/" : ""); });
+    // What a tile shows depends on its number and on the others.
+    allChanged();
 }
 
 int DiskMapView::rowOf(const std::string& path) const
@@ -289,16 +269,9 @@ int DiskMapView::rowOf(const std::string& path) const
     return found == m_tiles.end() ? -1 : static_cast<int>(found - m_tiles.begin());
 }
 
-int DiskMapView::rowCount(const QModelIndex& parent) const
+QVariant DiskMapView::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_tiles.size());
-}
-
-QVariant DiskMapView::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const auto& [node, area] = m_tiles[static_cast<std::size_t>(index.row())];
+    const auto& [node, area] = m_tiles[number];
     const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
     switch (static_cast<Role>(role)) {
     case Role::name:
@@ -308,7 +281,7 @@ QVariant DiskMapView::data(const QModelIndex& index, int role) const
     case Role::kind:
         return static_cast<int>(kindOf(node));
     case Role::hue:
-        return index.row() % kHues;
+        return static_cast<int>(number) % kHues;
     case Role::area:
         return area;
     case Role::share:
@@ -319,14 +292,6 @@ QVariant DiskMapView::data(const QModelIndex& index, int role) const
         return spoken(node);
     }
     return {};
-}
-
-QHash<int, QByteArray> DiskMapView::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},           {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::kind), "kind"},           {static_cast<int>(Role::hue), "hue"},
-            {static_cast<int>(Role::area), "area"},           {static_cast<int>(Role::share), "share"},
-            {static_cast<int>(Role::shareText), "shareText"}, {static_cast<int>(Role::spoken), "spoken"}};
 }
 
 } // namespace orlen

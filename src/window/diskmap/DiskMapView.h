@@ -2,8 +2,8 @@
 
 #include "app/DiskMapModel.h"
 #include "window/diskmap/BreadcrumbModel.h"
+#include "window/lists/RowsModel.h"
 
-#include <QAbstractListModel>
 #include <QPointF>
 #include <QRectF>
 #include <QtQml/qqmlregistration.h>
@@ -16,7 +16,7 @@ namespace orlen {
 /// The disk map as tiles of a view of a given size, largest first, at most 61. While a folder is measured the
 /// tiles of the one before remain as rows, so that the screen can let them go; they answer to nothing. Main
 /// thread.
-class DiskMapView : public QAbstractListModel {
+class DiskMapView : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double viewWidth READ viewWidth WRITE setViewWidth NOTIFY viewChanged)
@@ -51,12 +51,13 @@ public:
         shareText,           ///< the same in per cent
         spoken,              ///< name, size and kind for a screen reader
     };
+    Q_ENUM(Role)
     enum Kind { Folder, File, Rest };
     Q_ENUM(Kind)
     enum Direction { Left, Right, Up, Down };
     Q_ENUM(Direction)
 
-    explicit DiskMapView(QObject* parent = nullptr);
+    DiskMapView();
 
     [[nodiscard]] double viewWidth() const { return m_view.width; }
     void setViewWidth(double width);
@@ -97,10 +98,6 @@ public:
     /// A turn of the wheel in eighths of a degree, which acts as a pinch.
     Q_INVOKABLE void turnWheel(double eighths);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
     void viewChanged();
     void loadingChanged();
@@ -113,18 +110,22 @@ Q_SIGNALS:
     void arrived(int levels);
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_tiles.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Tile {
         TreeNode node;
         QRectF area;
+
+        friend bool operator==(const Tile&, const Tile&) = default;
     };
 
     void followLoading();
     void followStack();
     void arrange();
-    void takeNodes(const std::vector<TreeNode>& nodes);
     void placeTiles();
+    void showTiles(const std::vector<TreeNode>& nodes);
     [[nodiscard]] int rowAfterArrival() const;
-    [[nodiscard]] bool isRow(int row) const { return row >= 0 && row < rowCount(); }
     [[nodiscard]] const TreeNode& node(int row) const { return m_tiles[static_cast<std::size_t>(row)].node; }
     [[nodiscard]] int rowOf(const std::string& path) const;
 

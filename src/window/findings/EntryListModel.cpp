@@ -43,28 +43,11 @@ std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
 
 } // namespace
 
-EntryListModel::EntryListModel(QObject* parent) : QAbstractListModel(parent), m_folders(new FolderTest(this))
+EntryListModel::EntryListModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
 {
-    connect(m_folders, &FolderTest::answered, this, [this] {
-        if (!m_rows.empty())
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1),
-                               {static_cast<int>(Role::symbol), static_cast<int>(Role::thumbnail)});
-    });
-}
-
-void EntryListModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::findingsChanged, this, &EntryListModel::followFindings);
-        connect(m_app, &AppModel::selectionChanged, this, &EntryListModel::followSelection);
-    }
-    Q_EMIT appChanged();
-    load();
+    connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
+    connect(&m_app, &AppModel::findingsChanged, this, &EntryListModel::followFindings);
+    connect(&m_app, &AppModel::selectionChanged, this, &EntryListModel::followSelection);
 }
 
 void EntryListModel::setFindingId(const QString& id)
@@ -79,10 +62,8 @@ void EntryListModel::setFindingId(const QString& id)
 
 const Finding* EntryListModel::shownFinding() const
 {
-    if (m_app == nullptr)
-        return nullptr;
     const std::string id = m_findingId.toStdString();
-    const auto& findings = m_app->findings();
+    const auto& findings = m_app.findings();
     const auto found = std::find_if(findings.begin(), findings.end(),
                                     [&](const Finding& finding) { return finding.id() == id; });
     return found == findings.end() ? nullptr : &*found;
@@ -181,15 +162,14 @@ void EntryListModel::followSelection()
     if (m_isSelecting)
         return;
     readSelection();
-    if (!m_rows.empty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {static_cast<int>(Role::marked)});
+    allChanged(Role::marked);
     count();
 }
 
 void EntryListModel::readSelection()
 {
     for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_isSelected[i] = m_app->selection().contains(m_entries[i].path);
+        m_isSelected[i] = m_app.selection().contains(m_entries[i].path);
 }
 
 void EntryListModel::arrange()
@@ -264,13 +244,13 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
     }
     {
         // Where folders are listed with what lies in them, other rows change too.
-        const QScopedValueRollback selecting(m_isSelecting, !m_app->listed().isNested());
+        const QScopedValueRollback selecting(m_isSelecting, !m_app.listed().isNested());
         if (isSelected)
-            m_app->select(paths);
+            m_app.select(paths);
         else
-            m_app->deselect(paths);
+            m_app.deselect(paths);
     }
-    Q_EMIT dataChanged(index(rows.front()), index(rows.back()), {static_cast<int>(Role::marked)});
+    rowsChanged(rows.front(), rows.back(), Role::marked);
     count();
 }
 
@@ -284,7 +264,7 @@ void EntryListModel::count()
             selected.push_back(&m_entries[i]);
     }
     m_selectedCount = static_cast<int>(selected.size());
-    m_selectedBytes = selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app->listed());
+    m_selectedBytes = selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app.listed());
     const auto isSelected = [this](int entry) { return m_isSelected[static_cast<std::size_t>(entry)]; };
     m_shownCount = static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isSelected));
     Q_EMIT figuresChanged();
@@ -309,21 +289,15 @@ Qt::CheckState EntryListModel::shownState() const
     return m_shownCount == rowCount() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
-int EntryListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
 std::size_t EntryListModel::entryIndex(int row) const
 {
     return static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)]);
 }
 
-QVariant EntryListModel::data(const QModelIndex& index, int role) const
+QVariant EntryListModel::value(std::size_t number, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const FileEntry& entry = entryAt(index.row());
+    const int row = static_cast<int>(number);
+    const FileEntry& entry = entryAt(row);
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::nameOf(entry.path);
@@ -344,7 +318,7 @@ QVariant EntryListModel::data(const QModelIndex& index, int role) const
     case Role::thumbnail:
         return m_folders->isFolder(entry.path) ? QString() : Thumbnails::source(entry.path);
     case Role::marked:
-        return static_cast<bool>(m_isSelected[entryIndex(index.row())]);
+        return static_cast<bool>(m_isSelected[entryIndex(row)]);
     case Role::token:
         return PathTokens::tokenOf(entry.path);
     }
@@ -357,22 +331,6 @@ QVariant EntryListModel::ratingData(const FileEntry& entry, Role role) const
     if (role == Role::rating)
         return DisplayText::text(rawValue(rating));
     return DisplayText::text(role == Role::ratingLabel ? label(rating) : orlen::symbol(rating));
-}
-
-QHash<int, QByteArray> EntryListModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::folder), "folder"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::date), "date"},
-            {static_cast<int>(Role::note), "note"},
-            {static_cast<int>(Role::rating), "rating"},
-            {static_cast<int>(Role::ratingLabel), "ratingLabel"},
-            {static_cast<int>(Role::ratingSymbol), "ratingSymbol"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::thumbnail), "thumbnail"},
-            {static_cast<int>(Role::marked), "marked"},
-            {static_cast<int>(Role::token), "token"}};
 }
 
 int EntryListModel::tokenAt(int row) const
@@ -393,7 +351,7 @@ void EntryListModel::reveal(int row) const
 
 void EntryListModel::review()
 {
-    m_app->setSheet(PlanSheet{m_app->scanPlan()});
+    m_app.setSheet(PlanSheet{m_app.scanPlan()});
 }
 
 } // namespace orlen

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "window/findings/EntryOrder.h"
 #include "window/findings/FindingHeader.h"
 #include "window/findings/FolderTest.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <cstdint>
@@ -17,10 +17,9 @@ namespace orlen {
 /// The entries of one finding as rows, sorted and narrowed as the user wants, checked as they are selected;
 /// beside them the finding's texts and the figures of its selection. Follows the results: what was moved
 /// leaves the list, and when the finding is gone its texts stay over an empty list. Main thread.
-class EntryListModel : public QAbstractListModel {
+class EntryListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Identity of the finding that is shown; empty for none.
     Q_PROPERTY(QString findingId READ findingId WRITE setFindingId NOTIFY findingChanged)
     /// Stays when the finding has gone from the results.
@@ -56,11 +55,10 @@ public:
         marked,              ///< whether it is selected
         token,               ///< number that stands for the path
     };
+    Q_ENUM(Role)
 
-    explicit EntryListModel(QObject* parent = nullptr);
+    explicit EntryListModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString findingId() const { return m_findingId; }
     void setFindingId(const QString& id);
     [[nodiscard]] const FindingHeader& header() const { return m_header; }
@@ -74,10 +72,6 @@ public:
     [[nodiscard]] QString selectedText() const;
     [[nodiscard]] QString selectedSizeText() const;
     [[nodiscard]] Qt::CheckState shownState() const;
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     /// Sorts by the key; in the other direction when it is sorted by it already.
     Q_INVOKABLE void sortBy(orlen::EntryListModel::Key key);
@@ -95,12 +89,14 @@ public:
     Q_INVOKABLE void review();
 
 Q_SIGNALS:
-    void appChanged();
     void findingChanged();
     void orderChanged();
     void figuresChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     [[nodiscard]] const Finding* shownFinding() const;
     [[nodiscard]] FindingHeader headerOf(const Finding* finding) const;
     void load();
@@ -113,12 +109,11 @@ private:
     void setShown(bool isSelected);
     void setSelected(const std::vector<int>& rows, bool isSelected);
     void count();
-    [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
     [[nodiscard]] std::size_t entryIndex(int row) const;
     [[nodiscard]] const FileEntry& entryAt(int row) const { return m_entries[entryIndex(row)]; }
     [[nodiscard]] QVariant ratingData(const FileEntry& entry, Role role) const;
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     QString m_findingId;
     FindingHeader m_header;
     Rating m_rating = Rating::review; ///< of entries without one of their own

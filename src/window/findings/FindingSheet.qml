@@ -32,7 +32,6 @@ Sheet {
     EntryListModel {
         id: contents
 
-        app: AppModel
         onOrderChanged: list.positionViewAtBeginning()
     }
 

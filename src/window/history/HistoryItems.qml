@@ -20,7 +20,6 @@ Item {
     RecordItemsModel {
         id: items
 
-        app: AppModel
         recordId: root.recordId
     }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -10,11 +10,9 @@
 namespace orlen {
 
 /// The past clean-ups as rows, newest first, and the way back from each of them. Main thread.
-class HistoryModel : public QAbstractListModel {
+class HistoryModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
-    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
 
 public:
     enum State {
@@ -34,27 +32,22 @@ public:
         status,               ///< a `State`
         recordId,             ///< identity, for `RecordItemsModel.recordId`
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
-
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
+    explicit HistoryModel(AppModel& app = AppModelElement::model());
 
     /// Starts to put the row's items back; `restored` follows. Ignored unless the row is restorable and the
     /// program may write.
     Q_INVOKABLE void restore(int row);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
-    void countChanged();
     /// A restore has ended, with one line for the user.
     void restored(const QString& message);
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         Uuid id;
         TimePoint date;
@@ -72,9 +65,8 @@ private:
     [[nodiscard]] static State stateOf(const Row& row);
     [[nodiscard]] static QString summaryOf(const Row& row);
     void update();
-    void insertNewest(std::vector<Row> rows, std::size_t added);
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::vector<Row> m_rows;
 };
 

@@ -15,7 +15,6 @@ Item {
     HistoryModel {
         id: history
 
-        app: AppModel
         onRestored: message => root.notices.say(message)
     }
 

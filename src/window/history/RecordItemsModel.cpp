@@ -11,12 +11,12 @@ namespace orlen {
 
 namespace {
 
-const CleanRecord* recordOf(const AppModel* app, const QString& id)
+const CleanRecord* recordOf(const AppModel& app, const QString& id)
 {
     const auto wanted = Uuid::parse(id.toStdString());
-    if (app == nullptr || !wanted)
+    if (!wanted)
         return nullptr;
-    const auto& history = app->history();
+    const auto& history = app.history();
     const auto found = std::find_if(history.begin(), history.end(),
                                     [&](const CleanRecord& record) { return record.id == *wanted; });
     return found == history.end() ? nullptr : &*found;
@@ -39,17 +39,9 @@ QString textOf(RecordItemsModel::State state)
 
 } // namespace
 
-void RecordItemsModel::setApp(AppModel* app)
+RecordItemsModel::RecordItemsModel(AppModel& app) : m_app(app), m_workers(*this)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::historyChanged, this, &RecordItemsModel::update);
-    Q_EMIT appChanged();
-    update();
+    connect(&m_app, &AppModel::historyChanged, this, &RecordItemsModel::update);
 }
 
 void RecordItemsModel::setRecordId(const QString& id)
@@ -64,29 +56,21 @@ void RecordItemsModel::setRecordId(const QString& id)
 void RecordItemsModel::update()
 {
     const CleanRecord* record = recordOf(m_app, m_recordId);
-    const std::vector<TrashedItem> none;
-    const std::vector<TrashedItem>& items = record == nullptr ? none : record->items;
-    const bool isSame = std::equal(
-        items.begin(), items.end(), m_rows.begin(), m_rows.end(),
-        [](const TrashedItem& item, const Row& row) { return item.original == row.item.original; });
-    if (isSame) {
-        for (std::size_t row = 0; row < m_rows.size(); ++row)
-            m_rows[row].item = items[row];
-    } else {
-        reset(items);
-    }
+    std::vector<Row> rows;
+    if (record != nullptr)
+        std::transform(record->items.begin(), record->items.end(), std::back_inserter(rows),
+                       [](const TrashedItem& item) { return Row{item}; });
+    const bool isSame =
+        std::equal(rows.begin(), rows.end(), m_rows.begin(), m_rows.end(),
+                   [](const Row& a, const Row& b) { return a.item.original == b.item.original; });
+    // Of the same items the states stay until they have been looked up again.
+    for (std::size_t row = 0; isSame && row < rows.size(); ++row)
+        rows[row].state = m_rows[row].state;
+    if (isSame)
+        m_rows = std::move(rows);
+    else
+        resetRows(m_rows, std::move(rows));
     lookUp();
-}
-
-void RecordItemsModel::reset(const std::vector<TrashedItem>& items)
-{
-    beginResetModel();
-    m_rows.clear();
-    m_rows.reserve(items.size());
-    for (const TrashedItem& item : items)
-        m_rows.push_back({item});
-    endResetModel();
-    Q_EMIT countChanged();
 }
 
 void RecordItemsModel::lookUp()
@@ -119,38 +103,20 @@ void RecordItemsModel::lookUp()
 
 void RecordItemsModel::setStates(const std::vector<State>& states)
 {
-    std::size_t first = 0; // of the run of changed rows that is not announced yet
-    for (std::size_t row = 0; row < states.size(); ++row) {
-        if (std::exchange(m_rows[row].state, states[row]) != states[row])
-            continue;
-        announce(first, row);
-        first = row + 1;
-    }
-    announce(first, states.size());
-}
-
-void RecordItemsModel::announce(std::size_t first, std::size_t end)
-{
-    if (first < end)
-        Q_EMIT dataChanged(index(static_cast<int>(first)), index(static_cast<int>(end) - 1));
+    for (std::size_t row = 0; row < states.size(); ++row)
+        m_rows[row].state = states[row];
+    allChanged(Role::status, Role::statusText);
 }
 
 void RecordItemsModel::reveal(int row) const
 {
-    if (hasIndex(row, 0) && m_rows[static_cast<std::size_t>(row)].state == Restored)
+    if (hasRow(row) && m_rows[static_cast<std::size_t>(row)].state == Restored)
         Reveal::show(m_rows[static_cast<std::size_t>(row)].item.original);
 }
 
-int RecordItemsModel::rowCount(const QModelIndex& parent) const
+QVariant RecordItemsModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant RecordItemsModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::nameOf(row.item.original);
@@ -164,15 +130,6 @@ QVariant RecordItemsModel::data(const QModelIndex& index, int role) const
         return textOf(row.state);
     }
     return {};
-}
-
-QHash<int, QByteArray> RecordItemsModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::folder), "folder"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::status), "status"},
-            {static_cast<int>(Role::statusText), "statusText"}};
 }
 
 } // namespace orlen

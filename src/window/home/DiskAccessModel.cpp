@@ -9,31 +9,19 @@
 
 namespace orlen {
 
-DiskAccessModel::DiskAccessModel(QObject* parent)
-    : QObject(parent), m_command(DisplayText::text(DiskAccess::grantingCommand(Places::current())))
+DiskAccessModel::DiskAccessModel(AppModel& app)
+    : m_app(app), m_command(DisplayText::text(DiskAccess::grantingCommand(Places::current())))
 {
+    connect(&m_app, &AppModel::fdaGrantedChanged, this, &DiskAccessModel::grantedChanged);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (m_app != nullptr && state == Qt::ApplicationActive)
-            m_app->refreshAccess();
+        if (state == Qt::ApplicationActive)
+            m_app.refreshAccess();
     });
-}
-
-void DiskAccessModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::fdaGrantedChanged, this, &DiskAccessModel::grantedChanged);
-    Q_EMIT appChanged();
-    Q_EMIT grantedChanged();
 }
 
 bool DiskAccessModel::isGranted() const
 {
-    return m_app != nullptr && m_app->isFdaGranted();
+    return m_app.isFdaGranted();
 }
 
 void DiskAccessModel::copyCommand() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -13,16 +13,13 @@ namespace orlen {
 class DiskAccessModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(bool granted READ isGranted NOTIFY grantedChanged)
     /// The command that grants access; empty where there is nothing to grant.
     Q_PROPERTY(QString command READ command CONSTANT)
 
 public:
-    explicit DiskAccessModel(QObject* parent = nullptr);
+    explicit DiskAccessModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] bool isGranted() const;
     [[nodiscard]] QString command() const { return m_command; }
 
@@ -30,11 +27,10 @@ public:
     Q_INVOKABLE void copyCommand() const;
 
 Q_SIGNALS:
-    void appChanged();
     void grantedChanged();
 
 private:
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     QString m_command;
 };
 

@@ -39,9 +39,7 @@ Grid {
     Repeater {
         id: cards
 
-        model: FindingListModel {
-            app: AppModel
-        }
+        model: FindingListModel {}
 
         FindingCard {
             id: card

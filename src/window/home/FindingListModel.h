@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -10,12 +10,11 @@
 namespace orlen {
 
 /// The findings of the last scan as cards, in display order. Findings that vanish or shrink in a clean-up
-/// change only their own rows; a new scan replaces all. While a sheet covers the cards they keep the
+/// change only their own rows. While a sheet covers the cards they keep the
 /// selection they had. Main thread.
-class FindingListModel : public QAbstractListModel {
+class FindingListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
 
 public:
     enum class Role {
@@ -32,20 +31,16 @@ public:
         cleanable,                ///< false for what is only shown
         reason,                   ///< a sentence that explains the rating, or what the finding is
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
-
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+    explicit FindingListModel(AppModel& app = AppModelElement::model());
 
 Q_SIGNALS:
-    void appChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         FindingKind kind;
         Rating rating;
@@ -58,13 +53,10 @@ private:
         friend bool operator==(const Row&, const Row&) = default;
     };
 
-    [[nodiscard]] std::vector<Row> currentRows() const;
     void followFindings();
     void followSelection();
-    void removeMissing(const std::vector<Row>& rows);
-    void updateDifferent(std::vector<Row> rows);
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::vector<Row> m_rows;
 };
 

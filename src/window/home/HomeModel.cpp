@@ -21,53 +21,41 @@ QString megabytes(double count)
 
 } // namespace
 
-void HomeModel::setApp(AppModel* app)
+HomeModel::HomeModel(AppModel& app) : m_app(app)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::phaseChanged, this, &HomeModel::phaseChanged);
-        connect(m_app, &AppModel::findingsChanged, this, &HomeModel::countResults);
-        connect(m_app, &AppModel::lastScanChanged, this, &HomeModel::lastScanChanged);
-        connect(m_app, &AppModel::selectionChanged, this, &HomeModel::countSelection);
-        connect(m_app, &AppModel::sheetChanged, this, &HomeModel::countSelection);
-        connect(m_app, &AppModel::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);
-    }
+    connect(&m_app, &AppModel::phaseChanged, this, &HomeModel::phaseChanged);
+    connect(&m_app, &AppModel::findingsChanged, this, &HomeModel::countResults);
+    connect(&m_app, &AppModel::selectionChanged, this, &HomeModel::countSelection);
+    connect(&m_app, &AppModel::sheetChanged, this, &HomeModel::countSelection);
+    connect(&m_app, &AppModel::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);
     countResults();
     countSelection();
-    Q_EMIT appChanged();
-    Q_EMIT phaseChanged();
-    Q_EMIT lastScanChanged();
-    Q_EMIT thresholdChanged();
 }
 
 void HomeModel::countResults()
 {
-    m_safeBytes = m_app == nullptr ? 0 : m_app->safeBytes();
-    m_totalBytes = m_app == nullptr ? 0 : m_app->totalFound();
+    m_safeBytes = m_app.safeBytes();
+    m_totalBytes = m_app.totalFound();
     Q_EMIT resultsChanged();
 }
 
 void HomeModel::countSelection()
 {
     // A sheet covers the figure while its entries are checked one by one, perhaps in a list of 100,000.
-    if (m_app != nullptr && m_app->sheet())
+    if (m_app.sheet())
         return;
-    m_selectedCount = m_app == nullptr ? 0 : m_app->selectedAmount().items;
+    m_selectedCount = m_app.selectedAmount().items;
     Q_EMIT selectionChanged();
 }
 
 HomeModel::Phase HomeModel::phase() const
 {
-    return m_app == nullptr ? Idle : static_cast<Phase>(m_app->phase());
+    return static_cast<Phase>(m_app.phase());
 }
 
 bool HomeModel::hasFindings() const
 {
-    return m_app != nullptr && !m_app->findings().empty();
+    return !m_app.findings().empty();
 }
 
 QString HomeModel::safeText() const
@@ -82,7 +70,7 @@ QString HomeModel::totalText() const
 
 QString HomeModel::unreadableText() const
 {
-    const std::int64_t count = m_app == nullptr ? 0 : m_app->unreadableFolders().count;
+    const std::int64_t count = m_app.unreadableFolders().count;
     return count == 0 ? QString()
                       : DisplayText::text(Format::counted(count, "folder").append(Texts::kUnreadable));
 }
@@ -90,21 +78,14 @@ QString HomeModel::unreadableText() const
 QString HomeModel::unreadableFolders() const
 {
     QStringList lines;
-    if (m_app != nullptr) {
-        for (const std::string& path : m_app->unreadableFolders().paths)
-            lines << DisplayText::shortPath(path);
-    }
+    for (const std::string& path : m_app.unreadableFolders().paths)
+        lines << DisplayText::shortPath(path);
     return lines.join('\n');
-}
-
-QString HomeModel::lastScanText() const
-{
-    return m_app == nullptr || !m_app->lastScan() ? QString() : DisplayText::dateAndTime(*m_app->lastScan());
 }
 
 bool HomeModel::hasSelection() const
 {
-    return m_app != nullptr && !m_app->selection().empty();
+    return !m_app.selection().empty();
 }
 
 QString HomeModel::selectedText() const
@@ -122,26 +103,26 @@ QStringList HomeModel::thresholds()
 
 int HomeModel::threshold() const
 {
-    const double chosen = m_app == nullptr ? 0 : m_app->largeThresholdMB();
+    const double chosen = m_app.largeThresholdMB();
     const auto* found = std::find(kThresholds.begin(), kThresholds.end(), chosen);
     return found == kThresholds.end() ? -1 : static_cast<int>(found - kThresholds.begin());
 }
 
 void HomeModel::setThreshold(int index)
 {
-    if (m_app != nullptr && index >= 0 && index < static_cast<int>(kThresholds.size()))
-        m_app->setLargeThresholdMB(kThresholds.at(static_cast<std::size_t>(index)));
+    if (index >= 0 && index < static_cast<int>(kThresholds.size()))
+        m_app.setLargeThresholdMB(kThresholds.at(static_cast<std::size_t>(index)));
 }
 
 QString HomeModel::thresholdText() const
 {
-    return m_app == nullptr ? QString() : megabytes(m_app->largeThresholdMB());
+    return megabytes(m_app.largeThresholdMB());
 }
 
 void HomeModel::review()
 {
     if (hasSelection())
-        m_app->setSheet(PlanSheet{m_app->scanPlan()});
+        m_app.setSheet(PlanSheet{m_app.scanPlan()});
 }
 
 } // namespace orlen

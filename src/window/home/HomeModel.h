@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -14,7 +14,6 @@ namespace orlen {
 class HomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
     /// Whether the last scan left findings.
     Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY resultsChanged)
@@ -25,8 +24,6 @@ class HomeModel : public QObject {
     /// "12 folders could not be read", empty when all could; and the first of them, one on each line.
     Q_PROPERTY(QString unreadableText READ unreadableText NOTIFY resultsChanged)
     Q_PROPERTY(QString unreadableFolders READ unreadableFolders NOTIFY resultsChanged)
-    /// When the last scan ended; empty before the first.
-    Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY lastScanChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
     /// "12 items", each path once; stands still behind a sheet.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
@@ -40,10 +37,8 @@ public:
     enum Phase { Idle, Scanning, Results };
     Q_ENUM(Phase)
 
-    using QObject::QObject;
+    explicit HomeModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] Phase phase() const;
     [[nodiscard]] bool hasFindings() const;
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
@@ -51,7 +46,6 @@ public:
     [[nodiscard]] QString totalText() const;
     [[nodiscard]] QString unreadableText() const;
     [[nodiscard]] QString unreadableFolders() const;
-    [[nodiscard]] QString lastScanText() const;
     [[nodiscard]] bool hasSelection() const;
     [[nodiscard]] QString selectedText() const;
     [[nodiscard]] static QStringList thresholds();
@@ -63,10 +57,8 @@ public:
     Q_INVOKABLE void review();
 
 Q_SIGNALS:
-    void appChanged();
     void phaseChanged();
     void resultsChanged();
-    void lastScanChanged();
     void selectionChanged();
     void thresholdChanged();
 
@@ -74,7 +66,7 @@ private:
     void countResults();
     void countSelection();
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::int64_t m_safeBytes = 0;
     std::int64_t m_totalBytes = 0;
     std::int64_t m_selectedCount = 0;

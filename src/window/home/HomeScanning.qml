@@ -12,8 +12,6 @@ Item {
 
     ScanProgressModel {
         id: progress
-
-        app: AppModel
     }
 
     Flickable {

@@ -14,8 +14,6 @@ FocusScope {
 
     HomeModel {
         id: theHome
-
-        app: AppModel
     }
 
     HomeIdle {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "scan/ScanProgress.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QString>
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
@@ -14,10 +14,9 @@ namespace orlen {
 
 /// The steps of the running scan, one row each, and what it is looking at. Looks at the scan's progress
 /// several times a second while one runs. Main thread.
-class ScanProgressModel : public QAbstractListModel {
+class ScanProgressModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Number of files examined so far.
     Q_PROPERTY(QString files READ files NOTIFY changed)
     /// What is being examined; empty at the start.
@@ -34,11 +33,10 @@ public:
         state,                ///< a `State`
         duration,             ///< of a step that is done, as text; else empty
     };
+    Q_ENUM(Role)
 
-    explicit ScanProgressModel(QObject* parent = nullptr);
+    explicit ScanProgressModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString files() const;
     [[nodiscard]] QString current() const { return m_current; }
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
@@ -46,23 +44,21 @@ public:
     /// Asks the running scan to end.
     Q_INVOKABLE void cancel();
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
     void changed();
     void cancellingChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_steps.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     void followPhase();
     void poll();
     using Steps = std::array<ScanStep, kScanSteps>;
 
     void setSteps(const Steps& steps);
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     QTimer m_timer;
     Steps m_steps;
     std::int64_t m_files = 0;

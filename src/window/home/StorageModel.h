@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -11,10 +11,9 @@ namespace orlen {
 
 /// The storage breakdown as rows, one for each category that takes space, in the order of the categories;
 /// beside them the figures of the whole volume. Main thread.
-class StorageModel : public QAbstractListModel {
+class StorageModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// False until the first breakdown has been computed.
     Q_PROPERTY(bool ready READ isReady NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
@@ -29,11 +28,10 @@ public:
         size,                 ///< its bytes as text
         fraction,             ///< its part of the volume's capacity, 0 to 1
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit StorageModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] bool isReady() const;
     [[nodiscard]] QString freeText() const;
     [[nodiscard]] QString totalText() const;
@@ -41,23 +39,23 @@ public:
     /// The category's part of the volume's capacity, 0 to 1.
     [[nodiscard]] double fraction(OrlenCategory category) const;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
     void changed();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         OrlenCategory category;
         std::int64_t bytes = 0;
+
+        friend bool operator==(const Row&, const Row&) = default;
     };
 
     void update();
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::vector<Row> m_rows;
 };
 

@@ -1,31 +1,46 @@
 #include "window/lists/RowSteps.h"
 
 #include <algorithm>
-#include <map>
 #include <string_view>
+#include <unordered_map>
 
 namespace orlen::RowSteps {
 
 namespace {
 
+using Counts = std::unordered_map<std::string_view, int>;
+
+Counts countsOf(std::span<const std::string> keys)
+{
+    Counts counts;
+    for (const std::string& key : keys)
+        ++counts[key];
+    return counts;
+}
+
+/// Takes one of the key's rows; false when none is left.
+bool takeOne(Counts& counts, std::string_view key)
+{
+    const auto count = counts.find(key);
+    return count != counts.end() && count->second-- > 0;
+}
+
 /// The keys of `shown` that `wanted` has as well; what goes is added to the steps, from the end.
 std::vector<std::string_view> kept(std::span<const std::string> shown, std::span<const std::string> wanted,
                                    std::vector<RowStep>& steps)
 {
-    std::map<std::string_view, int> left;
-    for (const std::string& key : wanted)
-        ++left[key];
+    Counts left = countsOf(wanted);
     std::vector<std::string_view> keys;
-    std::vector<int> gone;
-    for (std::size_t row = 0; row < shown.size(); ++row) {
-        const auto count = left.find(shown[row]);
-        if (count != left.end() && count->second-- > 0)
-            keys.emplace_back(shown[row]);
+    for (std::size_t at = 0; at < shown.size(); ++at) {
+        const int row = static_cast<int>(at);
+        if (takeOne(left, shown[at]))
+            keys.emplace_back(shown[at]);
+        else if (!steps.empty() && steps.back().row + steps.back().count == row)
+            ++steps.back().count;
         else
-            gone.push_back(static_cast<int>(row));
+            steps.push_back({RowStep::Kind::remove, row});
     }
-    for (auto row = gone.rbegin(); row != gone.rend(); ++row)
-        steps.push_back({RowStep::Kind::remove, *row, 0});
+    std::reverse(steps.begin(), steps.end());
     return keys;
 }
 
@@ -35,20 +50,26 @@ std::vector<RowStep> between(std::span<const std::string> shown, std::span<const
 {
     std::vector<RowStep> steps;
     std::vector<std::string_view> keys = kept(shown, wanted, steps);
-    for (std::size_t row = 0; row < wanted.size(); ++row) {
-        // Everything above is as wanted already, so there are at least so many.
-        const auto here = keys.begin() + static_cast<std::ptrdiff_t>(row);
-        if (here != keys.end() && *here == wanted[row])
+    Counts left;
+    for (const std::string_view key : keys)
+        ++left[key];
+    auto next = keys.begin(); // stands in the row that is looked at; all above is as wanted already
+    for (std::size_t at = 0; at < wanted.size(); ++at) {
+        const int row = static_cast<int>(at);
+        if (!takeOne(left, wanted[at])) {
+            const bool isRun = !steps.empty() && steps.back().kind == RowStep::Kind::insert &&
+                               steps.back().row + steps.back().count == row;
+            if (isRun)
+                ++steps.back().count;
+            else
+                steps.push_back({RowStep::Kind::insert, row});
             continue;
-        const auto found = std::find(here, keys.end(), wanted[row]);
-        const int to = static_cast<int>(row);
-        if (found == keys.end()) {
-            steps.push_back({RowStep::Kind::insert, to, 0});
-            keys.insert(here, wanted[row]);
-        } else {
-            steps.push_back({RowStep::Kind::move, static_cast<int>(found - keys.begin()), to});
-            std::rotate(here, found, found + 1);
         }
+        const auto found = std::find(next, keys.end(), wanted[at]);
+        if (found != next)
+            steps.push_back({RowStep::Kind::move, row + static_cast<int>(found - next), 1, row});
+        std::rotate(next, found, found + 1);
+        ++next;
     }
     return steps;
 }

@@ -9,13 +9,14 @@ namespace orlen {
 /// One change of a list, counted in the list as the steps before it have left it.
 struct RowStep {
     enum class Kind {
-        remove, ///< the row goes
-        insert, ///< a row comes to stand at `row`: that of the same number in the wanted list
+        remove, ///< `count` rows from `row` on go
+        insert, ///< `count` rows come to stand from `row` on: those of the same numbers in the wanted list
         move,   ///< the row goes to `to`, further up
     };
 
     Kind kind = Kind::remove;
     int row = 0;
+    int count = 1;
     int to = 0; ///< of a move
 
     friend bool operator==(const RowStep&, const RowStep&) = default;

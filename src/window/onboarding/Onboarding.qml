@@ -10,8 +10,6 @@ Item {
 
     DiskAccessModel {
         id: access
-
-        app: AppModel
     }
 
     Flickable {

@@ -24,34 +24,20 @@ QString selectedPhotos(int count, std::int64_t bytes)
                       : photosText(count) + QStringLiteral(" selected") + kJoint + DisplayText::size(bytes);
 }
 
-bool areSameGroups(const std::vector<Finding>& a, const std::vector<Finding>& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const Finding& x, const Finding& y) { return x.kind == y.kind; });
-}
-
 } // namespace
 
-void PhotoGroupsModel::setApp(AppModel* app)
+PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app), m_workers(*this)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::findingsChanged, this, &PhotoGroupsModel::followFindings);
-        connect(m_app, &AppModel::selectionChanged, this, &PhotoGroupsModel::followSelection);
-        connect(m_app, &AppModel::lastScanChanged, this, &PhotoGroupsModel::stageChanged);
-    }
-    Q_EMIT appChanged();
+    connect(&m_app, &AppModel::findingsChanged, this, &PhotoGroupsModel::followFindings);
+    connect(&m_app, &AppModel::selectionChanged, this, &PhotoGroupsModel::followSelection);
+    connect(&m_app, &AppModel::lastScanChanged, this, &PhotoGroupsModel::stageChanged);
     followFindings();
 }
 
 void PhotoGroupsModel::followFindings()
 {
     m_wasFed = false;
-    replace(m_app == nullptr ? std::vector<Finding>() : m_app->photoFindings());
+    replace(m_app.photoFindings());
 }
 
 void PhotoGroupsModel::setFindings(std::vector<Finding> findings)
@@ -62,33 +48,19 @@ void PhotoGroupsModel::setFindings(std::vector<Finding> findings)
 
 void PhotoGroupsModel::replace(std::vector<Finding> findings)
 {
-    std::vector<Finding> before = m_findings;
-    for (std::size_t row = m_findings.size(); row-- > 0;) {
-        const FindingKind kind = m_findings[row].kind;
-        if (std::any_of(findings.begin(), findings.end(), [&](const Finding& f) { return f.kind == kind; }))
-            continue;
-        beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
-        m_findings.erase(m_findings.begin() + static_cast<std::ptrdiff_t>(row));
-        m_selected.erase(m_selected.begin() + static_cast<std::ptrdiff_t>(row));
-        endRemoveRows();
+    const std::vector<Row> before = m_rows;
+    std::vector<Row> rows;
+    for (Finding& finding : findings) {
+        const Selected selected = selectedOf(finding);
+        rows.push_back({std::move(finding), selected});
     }
-    const bool areSame = areSameGroups(m_findings, findings);
-    if (!areSame)
-        beginResetModel();
-    m_findings = std::move(findings);
-    m_selected.clear();
-    std::transform(m_findings.begin(), m_findings.end(), std::back_inserter(m_selected),
-                   [this](const Finding& finding) { return selectedOf(finding); });
-    if (!areSame)
-        endResetModel();
-    else if (!m_findings.empty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    setRows(m_rows, std::move(rows), [](const Row& row) { return row.finding.id(); });
     if (finding(m_shownGroup) == nullptr)
         setShownGroup({});
     findSets();
-    for (const Finding& changed : m_findings) {
+    for (const auto& [changed, selected] : m_rows) {
         if (changed.kind != FindingKind::photoDuplicates &&
-            std::find(before.begin(), before.end(), changed) == before.end())
+            std::ranges::find(before, changed, &Row::finding) == before.end())
             Q_EMIT photosChanged(DisplayText::text(changed.id()));
     }
     Q_EMIT stageChanged();
@@ -117,13 +89,10 @@ void PhotoGroupsModel::findSets()
 
 void PhotoGroupsModel::followSelection()
 {
-    for (std::size_t row = 0; row < m_findings.size(); ++row) {
-        const Selected selected = selectedOf(m_findings[row]);
-        if (std::exchange(m_selected[row], selected) == selected)
-            continue;
-        const QModelIndex changed = index(static_cast<int>(row));
-        Q_EMIT dataChanged(changed, changed,
-                           {static_cast<int>(Role::selection), static_cast<int>(Role::checkState)});
+    for (std::size_t at = 0; at < m_rows.size(); ++at) {
+        const Selected selected = selectedOf(m_rows[at].finding);
+        if (std::exchange(m_rows[at].selected, selected) != selected)
+            rowChanged(at, Role::selection, Role::checkState);
     }
     // Also for equal figures: other photos may be selected.
     Q_EMIT selectedChanged();
@@ -132,10 +101,10 @@ void PhotoGroupsModel::followSelection()
 PhotoGroupsModel::Selected PhotoGroupsModel::selectedOf(const Finding& finding) const
 {
     Selected selected;
-    if (m_app == nullptr || m_app->selection().empty())
+    if (m_app.selection().empty())
         return selected;
     for (const FileEntry& entry : finding.items) {
-        if (!m_app->selection().contains(entry.path))
+        if (!m_app.selection().contains(entry.path))
             continue;
         ++selected.count;
         selected.bytes = checkedAdd(selected.bytes, entry.size);
@@ -145,9 +114,9 @@ PhotoGroupsModel::Selected PhotoGroupsModel::selectedOf(const Finding& finding) 
 
 PhotoGroupsModel::Stage PhotoGroupsModel::stage() const
 {
-    if (!m_findings.empty())
+    if (!m_rows.empty())
         return Groups;
-    const bool wasScanned = m_wasFed || (m_app != nullptr && m_app->lastScan().has_value());
+    const bool wasScanned = m_wasFed || m_app.lastScan().has_value();
     return wasScanned ? Nothing : BeforeScan;
 }
 
@@ -162,9 +131,9 @@ void PhotoGroupsModel::setShownGroup(const QString& findingId)
 QString PhotoGroupsModel::selectedText() const
 {
     std::vector<const FileEntry*> selected;
-    for (const Finding& finding : m_findings) {
+    for (const auto& [finding, count] : m_rows) {
         for (const FileEntry& entry : finding.items) {
-            if (m_app != nullptr && m_app->selection().contains(entry.path))
+            if (m_app.selection().contains(entry.path))
                 selected.push_back(&entry);
         }
     }
@@ -174,35 +143,40 @@ QString PhotoGroupsModel::selectedText() const
 
 void PhotoGroupsModel::toggleAll(const QString& findingId)
 {
-    const Finding* wanted = finding(findingId);
+    const Row* wanted = rowOf(findingId);
     if (wanted == nullptr)
         return;
     std::vector<std::string> paths;
-    paths.reserve(wanted->items.size());
-    for (const FileEntry& entry : wanted->items)
+    paths.reserve(wanted->finding.items.size());
+    for (const FileEntry& entry : wanted->finding.items)
         paths.push_back(entry.path);
-    if (checkStateOf(static_cast<std::size_t>(wanted - m_findings.data())) == Qt::Checked)
-        m_app->deselect(paths);
+    if (checkStateOf(*wanted) == Qt::Checked)
+        m_app.deselect(paths);
     else
-        m_app->select(paths);
+        m_app.select(paths);
 }
 
 void PhotoGroupsModel::review()
 {
-    CleanPlan plan = m_app->scanPlan();
+    CleanPlan plan = m_app.scanPlan();
     std::erase_if(plan.sections, [this](const PlanSection& section) {
         return finding(DisplayText::text(section.id)) == nullptr;
     });
     if (!plan.sections.empty())
-        m_app->setSheet(PlanSheet{std::move(plan)});
+        m_app.setSheet(PlanSheet{std::move(plan)});
+}
+
+const PhotoGroupsModel::Row* PhotoGroupsModel::rowOf(const QString& id) const
+{
+    const auto kind = kindFromRaw(id.toStdString());
+    const auto found = std::ranges::find_if(m_rows, [&](const Row& row) { return row.finding.kind == kind; });
+    return found == m_rows.end() ? nullptr : &*found;
 }
 
 const Finding* PhotoGroupsModel::finding(const QString& id) const
 {
-    const auto kind = kindFromRaw(id.toStdString());
-    const auto found = std::find_if(m_findings.begin(), m_findings.end(),
-                                    [&](const Finding& finding) { return finding.kind == kind; });
-    return found == m_findings.end() ? nullptr : &*found;
+    const Row* row = rowOf(id);
+    return row == nullptr ? nullptr : &row->finding;
 }
 
 const std::vector<PhotoSet>& PhotoGroupsModel::setsOf(const Finding& finding) const
@@ -211,25 +185,18 @@ const std::vector<PhotoSet>& PhotoGroupsModel::setsOf(const Finding& finding) co
     return finding.kind == FindingKind::photoDuplicates ? m_sets : kNone;
 }
 
-Qt::CheckState PhotoGroupsModel::checkStateOf(std::size_t row) const
+Qt::CheckState PhotoGroupsModel::checkStateOf(const Row& row)
 {
-    const auto count = static_cast<std::size_t>(m_selected[row].count);
-    return count == 0                              ? Qt::Unchecked
-           : count == m_findings[row].items.size() ? Qt::Checked
-                                                   : Qt::PartiallyChecked;
+    const auto count = static_cast<std::size_t>(row.selected.count);
+    if (count == 0)
+        return Qt::Unchecked;
+    return count == row.finding.items.size() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
-int PhotoGroupsModel::rowCount(const QModelIndex& parent) const
+QVariant PhotoGroupsModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_findings.size());
-}
-
-QVariant PhotoGroupsModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const auto row = static_cast<std::size_t>(index.row());
-    const Finding& finding = m_findings[row];
+    const Row& row = m_rows[number];
+    const Finding& finding = row.finding;
     const int photos = static_cast<int>(finding.items.size());
     switch (static_cast<Role>(role)) {
     case Role::findingId:
@@ -255,31 +222,14 @@ QVariant PhotoGroupsModel::data(const QModelIndex& index, int role) const
     case Role::summary:
         return photosText(photos) + kJoint + DisplayText::size(finding.totalSize());
     case Role::selection:
-        return m_selected[row].count == 0
+        return row.selected.count == 0
                    ? QString()
-                   : DisplayText::number(m_selected[row].count) + QStringLiteral(" selected") + kJoint +
-                         DisplayText::size(m_selected[row].bytes);
+                   : DisplayText::number(row.selected.count) + QStringLiteral(" selected") + kJoint +
+                         DisplayText::size(row.selected.bytes);
     case Role::checkState:
         return checkStateOf(row);
     }
     return {};
-}
-
-QHash<int, QByteArray> PhotoGroupsModel::roleNames() const
-{
-    return {{static_cast<int>(Role::findingId), "findingId"},
-            {static_cast<int>(Role::title), "title"},
-            {static_cast<int>(Role::explanation), "explanation"},
-            {static_cast<int>(Role::reason), "reason"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::tone), "tone"},
-            {static_cast<int>(Role::rating), "rating"},
-            {static_cast<int>(Role::ratingLabel), "ratingLabel"},
-            {static_cast<int>(Role::ratingSymbol), "ratingSymbol"},
-            {static_cast<int>(Role::photosText), "photosText"},
-            {static_cast<int>(Role::summary), "summary"},
-            {static_cast<int>(Role::selection), "selection"},
-            {static_cast<int>(Role::checkState), "checkState"}};
 }
 
 } // namespace orlen

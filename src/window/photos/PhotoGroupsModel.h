@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "app/Workers.h"
+#include "window/lists/RowsModel.h"
 #include "window/photos/PhotoSets.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -13,10 +13,9 @@ namespace orlen {
 
 /// The photo clean-ups of the last scan as rows, one for each finding, with what is selected of them. Main
 /// thread.
-class PhotoGroupsModel : public QAbstractListModel {
+class PhotoGroupsModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
     /// Identity of the group that is shown whole; empty: all of them are shown. Turns empty with its group.
     Q_PROPERTY(QString shownGroup READ shownGroup WRITE setShownGroup NOTIFY shownGroupChanged)
@@ -46,12 +45,10 @@ public:
         selection,                ///< how many of them are selected, as text
         checkState,               ///< `Qt::CheckState` of all together
     };
+    Q_ENUM(Role)
 
-    explicit PhotoGroupsModel(QObject* parent = nullptr) : QAbstractListModel(parent), m_workers(*this) {}
+    explicit PhotoGroupsModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    /// Shows the photo findings of the model from then on.
-    void setApp(AppModel* app);
     /// Shows these findings, until those of the application model change.
     void setFindings(std::vector<Finding> findings);
 
@@ -70,12 +67,7 @@ public:
     /// The finding's sets, for similar photos; empty until they have been found, and for any other kind.
     [[nodiscard]] const std::vector<PhotoSet>& setsOf(const Finding& finding) const;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
     void stageChanged();
     void shownGroupChanged();
     void selectedChanged();
@@ -83,24 +75,33 @@ Q_SIGNALS:
     void photosChanged(const QString& findingId);
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Selected {
         int count = 0;
         std::int64_t bytes = 0;
 
         friend bool operator==(const Selected&, const Selected&) = default;
     };
+    struct Row {
+        Finding finding;
+        Selected selected; ///< of the finding
+
+        friend bool operator==(const Row&, const Row&) = default;
+    };
 
     void followFindings();
     void followSelection();
     void replace(std::vector<Finding> findings);
     void findSets();
+    [[nodiscard]] const Row* rowOf(const QString& id) const;
     [[nodiscard]] Selected selectedOf(const Finding& finding) const;
-    [[nodiscard]] Qt::CheckState checkStateOf(std::size_t row) const;
+    [[nodiscard]] static Qt::CheckState checkStateOf(const Row& row);
 
-    AppModel* m_app = nullptr;
-    std::vector<Finding> m_findings;
-    std::vector<Selected> m_selected; ///< of each finding
-    std::vector<PhotoSet> m_sets;     ///< of the similar photos
+    AppModel& m_app;
+    std::vector<Row> m_rows;
+    std::vector<PhotoSet> m_sets; ///< of the similar photos
     QString m_shownGroup;
     bool m_wasFed = false; ///< by `setFindings`: counts as a scan
     int m_generation = 0;  ///< number of the latest search for sets

@@ -13,27 +13,6 @@
 
 namespace orlen {
 
-namespace {
-
-/// Calls `found(first, end)` for each run of numbers below `count` for which `isPart` holds, last run first.
-template <typename IsPart, typename Found>
-void eachRunBackwards(std::size_t count, IsPart isPart, Found found)
-{
-    for (std::size_t end = count; end > 0;) {
-        if (!isPart(end - 1)) {
-            --end;
-            continue;
-        }
-        std::size_t first = end - 1;
-        while (first > 0 && isPart(first - 1))
-            --first;
-        found(first, end);
-        end = first;
-    }
-}
-
-} // namespace
-
 void PhotoTilesModel::setGroups(PhotoGroupsModel* groups)
 {
     if (m_groups == groups)
@@ -77,13 +56,12 @@ std::size_t PhotoTilesModel::room() const
 
 PhotoTilesModel::Tile PhotoTilesModel::tileOf(const FileEntry& entry) const
 {
-    const AppModel* app = m_groups->app();
     Tile tile;
     tile.path = entry.path;
     tile.name = PathText::lastComponent(entry.path);
     tile.note = entry.note.value_or(std::string());
     tile.size = entry.size;
-    tile.isSelected = app != nullptr && app->selection().contains(entry.path);
+    tile.isSelected = m_app.selection().contains(entry.path);
     return tile;
 }
 
@@ -128,113 +106,57 @@ std::vector<PhotoTilesModel::Tile> PhotoTilesModel::tilesOfSets(const Finding& f
     return tiles;
 }
 
-/// What went and what came at the end is told row by row: that is what a clean-up and a wider window do.
 void PhotoTilesModel::update()
 {
-    const std::vector<Tile> tiles = wanted();
+    std::vector<Tile> tiles = wanted();
     const Finding* finding = m_groups == nullptr ? nullptr : m_groups->finding(m_findingId);
     // The sets of changed photos come a little later; until then the old rows stand.
     if (tiles.empty() && finding != nullptr)
         return;
-    removeMissing(tiles);
-    const auto isSame = [](const Tile& a, const Tile& b) {
-        return a.path == b.path && a.name == b.name && a.isKept == b.isKept;
-    };
-    if (m_tiles.size() > tiles.size() || !std::equal(m_tiles.begin(), m_tiles.end(), tiles.begin(), isSame)) {
-        beginResetModel();
-        m_tiles = tiles;
-        endResetModel();
-        return;
-    }
-    for (std::size_t row = 0; row < m_tiles.size(); ++row) {
-        if (m_tiles[row] == tiles[row])
-            continue;
-        m_tiles[row] = tiles[row];
-        const QModelIndex changed = index(static_cast<int>(row));
-        Q_EMIT dataChanged(changed, changed);
-    }
-    append(tiles);
-}
-
-void PhotoTilesModel::removeMissing(const std::vector<Tile>& tiles)
-{
-    const auto keyOf = [](const Tile& tile) { return tile.path + (tile.isKept ? "\n" + tile.name : ""); };
-    std::unordered_set<std::string> staying;
-    std::transform(tiles.begin(), tiles.end(), std::inserter(staying, staying.end()), keyOf);
-    eachRunBackwards(
-        m_tiles.size(), [&](std::size_t row) { return !staying.contains(keyOf(m_tiles[row])); },
-        [this](std::size_t first, std::size_t end) {
-            beginRemoveRows({}, static_cast<int>(first), static_cast<int>(end) - 1);
-            m_tiles.erase(m_tiles.begin() + static_cast<std::ptrdiff_t>(first),
-                          m_tiles.begin() + static_cast<std::ptrdiff_t>(end));
-            endRemoveRows();
-        });
-}
-
-void PhotoTilesModel::append(const std::vector<Tile>& tiles)
-{
-    if (tiles.size() == m_tiles.size())
-        return;
-    const std::size_t first = m_tiles.size();
-    beginInsertRows({}, static_cast<int>(first), static_cast<int>(tiles.size()) - 1);
-    m_tiles.insert(m_tiles.end(), tiles.begin() + static_cast<std::ptrdiff_t>(first), tiles.end());
-    endInsertRows();
+    setRows(m_tiles, std::move(tiles),
+            [](const Tile& tile) { return tile.path + (tile.isKept ? "\n" + tile.name : ""); });
 }
 
 void PhotoTilesModel::followSelection()
 {
-    const AppModel* app = m_groups->app();
-    if (app == nullptr)
-        return;
-    const auto changes = [&](std::size_t row) {
-        const Tile& tile = m_tiles[row];
-        return !tile.isKept && app->selection().contains(tile.path) != tile.isSelected;
-    };
-    eachRunBackwards(m_tiles.size(), changes, [this](std::size_t first, std::size_t end) {
-        for (std::size_t row = first; row < end; ++row)
-            m_tiles[row].isSelected = !m_tiles[row].isSelected;
-        Q_EMIT dataChanged(index(static_cast<int>(first)), index(static_cast<int>(end) - 1),
-                           {static_cast<int>(Role::selected)});
-    });
+    for (std::size_t row = 0; row < m_tiles.size(); ++row) {
+        Tile& tile = m_tiles[row];
+        const bool isSelected = !tile.isKept && m_app.selection().contains(tile.path);
+        if (std::exchange(tile.isSelected, isSelected) != isSelected)
+            rowChanged(row, Role::selected);
+    }
 }
 
 void PhotoTilesModel::toggle(int row)
 {
-    if (!hasIndex(row, 0))
+    if (!hasRow(row))
         return;
     const Tile& tile = m_tiles[static_cast<std::size_t>(row)];
     const std::vector<std::string> path{tile.path};
     if (tile.isKept)
         return;
     if (tile.isSelected)
-        m_groups->app()->deselect(path);
+        m_app.deselect(path);
     else
-        m_groups->app()->select(path);
+        m_app.select(path);
 }
 
 int PhotoTilesModel::token(int row) const
 {
-    if (!hasIndex(row, 0) || m_tiles[static_cast<std::size_t>(row)].path.empty())
+    if (!hasRow(row) || m_tiles[static_cast<std::size_t>(row)].path.empty())
         return 0;
     return PathTokens::tokenOf(m_tiles[static_cast<std::size_t>(row)].path);
 }
 
 void PhotoTilesModel::reveal(int row) const
 {
-    if (hasIndex(row, 0) && !m_tiles[static_cast<std::size_t>(row)].path.empty())
+    if (hasRow(row) && !m_tiles[static_cast<std::size_t>(row)].path.empty())
         Reveal::show(m_tiles[static_cast<std::size_t>(row)].path);
 }
 
-int PhotoTilesModel::rowCount(const QModelIndex& parent) const
+QVariant PhotoTilesModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_tiles.size());
-}
-
-QVariant PhotoTilesModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Tile& tile = m_tiles[static_cast<std::size_t>(index.row())];
+    const Tile& tile = m_tiles[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::path(tile.name);
@@ -256,18 +178,6 @@ QVariant PhotoTilesModel::data(const QModelIndex& index, int role) const
         return tile.joinsNext;
     }
     return {};
-}
-
-QHash<int, QByteArray> PhotoTilesModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::details), "details"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::source), "source"},
-            {static_cast<int>(Role::selected), "selected"},
-            {static_cast<int>(Role::kept), "kept"},
-            {static_cast<int>(Role::joinsPrevious), "joinsPrevious"},
-            {static_cast<int>(Role::joinsNext), "joinsNext"}};
 }
 
 } // namespace orlen

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "window/lists/RowsModel.h"
 #include "window/photos/PhotoGroupsModel.h"
 
-#include <QAbstractListModel>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
@@ -13,7 +13,7 @@ namespace orlen {
 
 /// The photos of one group as rows, largest first. Similar photos stand set by set, each set beginning with
 /// the photo that is kept; that one cannot be selected. Main thread.
-class PhotoTilesModel : public QAbstractListModel {
+class PhotoTilesModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::PhotoGroupsModel* groups READ groups WRITE setGroups NOTIFY groupsChanged REQUIRED)
@@ -33,8 +33,9 @@ public:
         joinsPrevious,       ///< whether the row before is of the same set
         joinsNext,           ///< whether the row after is of the same set
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit PhotoTilesModel(AppModel& app = AppModelElement::model()) : m_app(app) {}
 
     [[nodiscard]] PhotoGroupsModel* groups() const { return m_groups; }
     void setGroups(PhotoGroupsModel* groups);
@@ -50,16 +51,15 @@ public:
     /// Shows the row's photo in the desktop's file manager.
     Q_INVOKABLE void reveal(int row) const;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
     void groupsChanged();
     void findingIdChanged();
     void limitChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_tiles.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Tile {
         std::string path; ///< empty for a kept photo that was not found
         std::string name;
@@ -78,10 +78,9 @@ private:
     [[nodiscard]] Tile tileOf(const FileEntry& entry) const;
     [[nodiscard]] std::size_t room() const;
     void update();
-    void removeMissing(const std::vector<Tile>& tiles);
-    void append(const std::vector<Tile>& tiles);
     void followSelection();
 
+    AppModel& m_app;
     PhotoGroupsModel* m_groups = nullptr;
     QString m_findingId;
     int m_limit = 0;

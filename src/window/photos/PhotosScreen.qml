@@ -27,7 +27,6 @@ Item {
         id: groups
 
         objectName: "photoGroups"
-        app: AppModel
     }
 
     ScreenPage {

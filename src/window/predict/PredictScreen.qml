@@ -10,8 +10,6 @@ ScreenPage {
 
     PredictionModel {
         id: thePrediction
-
-        app: AppModel
     }
 
     ForecastCard {
@@ -33,7 +31,7 @@ ScreenPage {
 
     Card {
         width: parent.width
-        height: thePrediction.empty ? later.height + 40 : rows.height + 12
+        height: thePrediction.count === 0 ? later.height + 40 : rows.height + 12
 
         Column {
             id: rows
@@ -59,7 +57,7 @@ ScreenPage {
             x: 20
             y: 20
             width: parent.width - 40
-            visible: thePrediction.empty
+            visible: thePrediction.count === 0
             text: Strings.growthLater
             textFormat: Text.PlainText
             wrapMode: Text.WordWrap

@@ -27,40 +27,22 @@ QString rateText(double bytesPerDay)
 
 } // namespace
 
-void PredictionModel::setApp(AppModel* app)
+PredictionModel::PredictionModel(AppModel& app) : m_app(app)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr)
-        connect(m_app, &AppModel::snapshotsChanged, this, &PredictionModel::update);
-    Q_EMIT appChanged();
+    connect(&m_app, &AppModel::snapshotsChanged, this, &PredictionModel::update);
     update();
 }
 
 void PredictionModel::update()
 {
-    setPrediction(m_app == nullptr ? Prediction{} : m_app->prediction());
-    m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app->snapshots()) : ForecastCurve{};
-    Q_EMIT changed();
-}
-
-void PredictionModel::setPrediction(Prediction prediction)
-{
-    using Rate = std::pair<OrlenCategory, double>;
-    const bool hasSameCategories =
-        std::ranges::equal(prediction.perCategory, m_prediction.perCategory, {}, &Rate::first, &Rate::first);
-    if (hasSameCategories) {
-        m_prediction = std::move(prediction);
-        if (!isEmpty())
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1));
-        return;
-    }
-    beginResetModel();
+    Prediction prediction = m_app.prediction();
+    setRows(m_prediction.perCategory, prediction.perCategory,
+            [](const auto& growth) { return rawValue(growth.first); });
     m_prediction = std::move(prediction);
-    endResetModel();
+    // Each bar is drawn against all the others.
+    allChanged();
+    m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app.snapshots()) : ForecastCurve{};
+    Q_EMIT changed();
 }
 
 QString PredictionModel::headline() const
@@ -75,23 +57,23 @@ QString PredictionModel::detail() const
 
 QString PredictionModel::snapshotsText() const
 {
-    const auto count = static_cast<std::int64_t>(m_app == nullptr ? 0 : m_app->snapshots().size());
+    const auto count = static_cast<std::int64_t>(m_app.snapshots().size());
     return count == 1 ? QStringLiteral("1 snapshot") : DisplayText::number(count) + " snapshots";
 }
 
 QString PredictionModel::firstDate() const
 {
-    return hasSnapshots() ? DisplayText::date(m_app->snapshots().front().date) : QString();
+    return hasSnapshots() ? DisplayText::date(m_app.snapshots().front().date) : QString();
 }
 
 QString PredictionModel::lastDate() const
 {
-    return hasSnapshots() ? DisplayText::date(m_app->snapshots().back().date) : QString();
+    return hasSnapshots() ? DisplayText::date(m_app.snapshots().back().date) : QString();
 }
 
 QString PredictionModel::freeText() const
 {
-    return hasSnapshots() ? DisplayText::size(m_app->snapshots().back().free) : QString();
+    return hasSnapshots() ? DisplayText::size(m_app.snapshots().back().free) : QString();
 }
 
 PredictionModel::Range PredictionModel::range() const
@@ -104,16 +86,9 @@ PredictionModel::Range PredictionModel::range() const
     return range;
 }
 
-int PredictionModel::rowCount(const QModelIndex& parent) const
+QVariant PredictionModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_prediction.perCategory.size());
-}
-
-QVariant PredictionModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const auto& [category, bytesPerDay] = m_prediction.perCategory[static_cast<std::size_t>(index.row())];
+    const auto& [category, bytesPerDay] = m_prediction.perCategory[number];
     const Range range = this->range();
     const double span = range.most - range.least;
     switch (static_cast<Role>(role)) {
@@ -129,15 +104,6 @@ QVariant PredictionModel::data(const QModelIndex& index, int role) const
         return span > 0 ? std::abs(bytesPerDay) / span : 0.0;
     }
     return {};
-}
-
-QHash<int, QByteArray> PredictionModel::roleNames() const
-{
-    return {{static_cast<int>(Role::label), "label"},
-            {static_cast<int>(Role::colour), "colour"},
-            {static_cast<int>(Role::rate), "rate"},
-            {static_cast<int>(Role::start), "start"},
-            {static_cast<int>(Role::extent), "extent"}};
 }
 
 } // namespace orlen

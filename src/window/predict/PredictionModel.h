@@ -1,25 +1,23 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/lists/RowsModel.h"
 #include "window/predict/ForecastCurve.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace orlen {
 
 /// The growth forecast: its sentences, and how fast each category grows as rows, fastest first. Main thread.
-class PredictionModel : public QAbstractListModel {
+class PredictionModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     /// Whether the disk will be full soon.
     Q_PROPERTY(bool warn READ warns NOTIFY changed)
     /// False while the history is too short for a forecast.
     Q_PROPERTY(bool enoughData READ hasEnoughData NOTIFY changed)
-    Q_PROPERTY(bool empty READ isEmpty NOTIFY changed)
     /// "12 snapshots"
     Q_PROPERTY(QString snapshotsText READ snapshotsText NOTIFY changed)
     /// Days of the oldest and the newest snapshot, and the free space at the latter; empty without one.
@@ -35,16 +33,14 @@ public:
         start,                ///< of the bar, 0 to 1; what shrinks lies left of what grows
         extent,               ///< length of the bar, 0 to 1
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit PredictionModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString headline() const;
     [[nodiscard]] QString detail() const;
     [[nodiscard]] bool warns() const { return m_prediction.warn; }
     [[nodiscard]] bool hasEnoughData() const { return m_prediction.enoughData; }
-    [[nodiscard]] bool isEmpty() const { return m_prediction.perCategory.empty(); }
     [[nodiscard]] QString snapshotsText() const;
     [[nodiscard]] QString firstDate() const;
     [[nodiscard]] QString lastDate() const;
@@ -52,15 +48,13 @@ public:
     /// For the chart; without points while there is too little data.
     [[nodiscard]] const ForecastCurve& curve() const { return m_curve; }
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
-    void appChanged();
     void changed();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_prediction.perCategory.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     /// The rates around which all bars are drawn, bytes per day.
     struct Range {
         double least = 0;
@@ -68,11 +62,10 @@ private:
     };
 
     void update();
-    void setPrediction(Prediction prediction);
     [[nodiscard]] Range range() const;
-    [[nodiscard]] bool hasSnapshots() const { return m_app != nullptr && !m_app->snapshots().empty(); }
+    [[nodiscard]] bool hasSnapshots() const { return !m_app.snapshots().empty(); }
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     Prediction m_prediction;
     ForecastCurve m_curve;
 };

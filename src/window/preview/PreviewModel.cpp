@@ -109,16 +109,9 @@ QString PreviewModel::dates() const
     return dates.join(QStringLiteral(" · "));
 }
 
-int PreviewModel::rowCount(const QModelIndex& parent) const
+QVariant PreviewModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_preview.names.size());
-}
-
-QVariant PreviewModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const FilePreview::Name& row = m_preview.names[static_cast<std::size_t>(index.row())];
+    const FilePreview::Name& row = m_preview.names[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::path(row.name);
@@ -128,13 +121,6 @@ QVariant PreviewModel::data(const QModelIndex& index, int role) const
         return row.isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(row.name);
     }
     return {};
-}
-
-QHash<int, QByteArray> PreviewModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::symbol), "symbol"}};
 }
 
 void PreviewModel::reveal() const

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/Workers.h"
+#include "window/lists/RowsModel.h"
 #include "window/preview/FilePreview.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <stop_token>
@@ -13,7 +13,7 @@ namespace orlen {
 
 /// The preview of one file: a picture, the beginning of a text, the names in a folder as rows, or its facts.
 /// Loaded on a worker; the latest token wins. Main thread.
-class PreviewModel : public QAbstractListModel {
+class PreviewModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     /// Number of the path; 0 shows nothing.
@@ -43,8 +43,9 @@ public:
         size,                ///< text; empty for a folder
         symbol,              ///< icon
     };
+    Q_ENUM(Role)
 
-    explicit PreviewModel(QObject* parent = nullptr) : QAbstractListModel(parent), m_workers(*this) {}
+    PreviewModel() : m_workers(*this) {}
 
     [[nodiscard]] int token() const { return m_token; }
     void setToken(int token);
@@ -58,10 +59,6 @@ public:
     [[nodiscard]] QString dates() const;
     [[nodiscard]] bool isCut() const { return m_preview.isCut; }
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
     /// Shows the file in its folder.
     Q_INVOKABLE void reveal() const;
     /// Opens the file with the program that the desktop has for it.
@@ -71,6 +68,9 @@ Q_SIGNALS:
     void changed();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_preview.names.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     void show(FilePreview preview, Kind kind);
 
     int m_token = 0;

@@ -30,34 +30,18 @@ QColor toneOf(const PlanSection& section)
 
 } // namespace
 
-PlanModel::PlanModel(QObject* parent) : QAbstractListModel(parent), m_folders(new FolderTest(this))
+PlanModel::PlanModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
 {
-    connect(m_folders, &FolderTest::answered, this, [this] {
-        if (!m_rows.empty())
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1),
-                               {static_cast<int>(Role::symbol), static_cast<int>(Role::thumbnail)});
-    });
-}
-
-void PlanModel::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::sheetChanged, this, &PlanModel::follow);
-        follow();
-    }
-    Q_EMIT appChanged();
+    connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
+    connect(&m_app, &AppModel::sheetChanged, this, &PlanModel::follow);
+    follow();
 }
 
 void PlanModel::follow()
 {
-    if (!m_app->sheet())
+    if (!m_app.sheet())
         return;
-    const auto* sheet = std::get_if<PlanSheet>(&*m_app->sheet());
+    const auto* sheet = std::get_if<PlanSheet>(&*m_app.sheet());
     if (sheet != nullptr && (!m_plan || m_plan->id != sheet->plan.id))
         show(sheet->plan);
 }
@@ -125,9 +109,7 @@ void PlanModel::setAllChecked(bool isChecked)
 /// Rows of other sections may show the same path, or what lies in it.
 void PlanModel::followTicks()
 {
-    Q_EMIT dataChanged(
-        index(0), index(rowCount() - 1),
-        {static_cast<int>(Role::mark), static_cast<int>(Role::folder), static_cast<int>(Role::size)});
+    allChanged(Role::mark, Role::folder, Role::size);
     Q_EMIT figuresChanged();
 }
 
@@ -152,7 +134,7 @@ void PlanModel::fold(int row)
         endRemoveRows();
     }
     folded.isFolded = !folded.isFolded;
-    Q_EMIT dataChanged(index(row), index(row), {static_cast<int>(Role::folded)});
+    rowsChanged(row, row, Role::folded);
 }
 
 void PlanModel::setFolded(int row, bool isFolded)
@@ -181,7 +163,7 @@ QString PlanModel::checkedSizeText() const
 
 bool PlanModel::isConfirmable() const
 {
-    return checkedCount() > 0 && m_app->isWriter();
+    return checkedCount() > 0 && m_app.isWriter();
 }
 
 const PlanSection& PlanModel::section(int number) const
@@ -212,20 +194,15 @@ Qt::CheckState PlanModel::checkState(const Row& row) const
     return place(checked) == section(row.section).entries.size() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
-int PlanModel::rowCount(const QModelIndex& parent) const
+QVariant PlanModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant PlanModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < static_cast<int>(Role::heading))
+    if (role < static_cast<int>(Role::heading))
         return {};
-    const FileEntry* entry = entryAt(index.row());
-    const Row& row = at(index.row());
+    const Row& row = m_rows[number];
+    const bool isHeading = row.entry == kHeading;
     const auto wanted = static_cast<Role>(role);
     if (wanted == Role::heading)
-        return entry == nullptr;
+        return isHeading;
     if (wanted == Role::mark)
         return checkState(row);
     if (wanted == Role::folded)
@@ -233,8 +210,8 @@ QVariant PlanModel::data(const QModelIndex& index, int role) const
     if (wanted == Role::tone)
         return toneOf(section(row.section));
     if (wanted == Role::token)
-        return tokenAt(index.row());
-    return entry == nullptr ? sectionData(row.section, wanted) : entryData(row, wanted);
+        return tokenAt(static_cast<int>(number));
+    return isHeading ? sectionData(row.section, wanted) : entryData(row, wanted);
 }
 
 QVariant PlanModel::sectionData(int number, Role role) const
@@ -278,25 +255,6 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
     return DisplayText::text(role == Role::ratingLabel ? label(*rating) : orlen::symbol(*rating));
 }
 
-QHash<int, QByteArray> PlanModel::roleNames() const
-{
-    return {{static_cast<int>(Role::heading), "heading"},
-            {static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::folder), "folder"},
-            {static_cast<int>(Role::size), "size"},
-            {static_cast<int>(Role::date), "date"},
-            {static_cast<int>(Role::note), "note"},
-            {static_cast<int>(Role::rating), "rating"},
-            {static_cast<int>(Role::ratingLabel), "ratingLabel"},
-            {static_cast<int>(Role::ratingSymbol), "ratingSymbol"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::tone), "tone"},
-            {static_cast<int>(Role::thumbnail), "thumbnail"},
-            {static_cast<int>(Role::mark), "mark"},
-            {static_cast<int>(Role::folded), "folded"},
-            {static_cast<int>(Role::token), "token"}};
-}
-
 int PlanModel::tokenAt(int row) const
 {
     const FileEntry* entry = entryAt(row);
@@ -319,7 +277,7 @@ void PlanModel::confirm()
 {
     if (!isConfirmable())
         return;
-    m_app->confirm(m_ticks.ticked(*m_plan));
+    m_app.confirm(m_ticks.ticked(*m_plan));
 }
 
 } // namespace orlen

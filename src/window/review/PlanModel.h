@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/AppModel.h"
 #include "model/PlanTicks.h"
 #include "window/findings/FolderTest.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
@@ -16,10 +16,9 @@ namespace orlen {
 /// The plan that waits for confirmation, as rows: each section's heading, followed by its entries unless it
 /// is folded up. All entries are checked at first; one that stands in several sections has the same check in
 /// each of them. Keeps the plan until the next one, so that a sheet that closes still shows it. Main thread.
-class PlanModel : public QAbstractListModel {
+class PlanModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Heading of the plan.
     Q_PROPERTY(QString title READ title NOTIFY planChanged)
     /// Whether any entry has a note.
@@ -50,11 +49,10 @@ public:
         folded,                 ///< whether the section's entries are hidden
         token,                  ///< number that stands for the path; 0 for a section
     };
+    Q_ENUM(Role)
 
-    explicit PlanModel(QObject* parent = nullptr);
+    explicit PlanModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString title() const;
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
     [[nodiscard]] int entryCount() const { return m_entryCount; }
@@ -62,10 +60,6 @@ public:
     [[nodiscard]] QString checkedCountText() const;
     [[nodiscard]] QString checkedSizeText() const;
     [[nodiscard]] bool isConfirmable() const;
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     /// Checks the row's entry or takes the check away, for what lies in it and, when it is taken away, for
     /// the folders that hold it too; for a section, all of its entries. As the following ones, nothing for a
@@ -86,11 +80,13 @@ public:
     Q_INVOKABLE void confirm();
 
 Q_SIGNALS:
-    void appChanged();
     void planChanged();
     void figuresChanged();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Row {
         int section = 0;
         int entry = 0; ///< -1: the section's heading
@@ -103,7 +99,6 @@ private:
     void show(const CleanPlan& plan);
     void setAllChecked(bool isChecked);
     void followTicks();
-    [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < rowCount(); }
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     [[nodiscard]] const PlanSection& section(int number) const;
     [[nodiscard]] SectionState& state(int number) { return m_states[static_cast<std::size_t>(number)]; }
@@ -113,7 +108,7 @@ private:
     [[nodiscard]] QVariant sectionData(int number, Role role) const;
     [[nodiscard]] QVariant entryData(const Row& row, Role role) const;
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     std::optional<CleanPlan> m_plan;
     PlanTicks m_ticks;
     std::vector<SectionState> m_states; ///< of each section

@@ -40,8 +40,6 @@ Sheet {
 
     PlanModel {
         id: plan
-
-        app: AppModel
     }
 
     PreviewSheet {

@@ -15,11 +15,16 @@ void AppModelElement::setModel(AppModel* model)
     shownModel = model;
 }
 
-AppModel* AppModelElement::create(QQmlEngine* /*engine*/, QJSEngine* /*scripts*/)
+AppModel& AppModelElement::model()
 {
     Q_ASSERT(shownModel != nullptr);
-    QQmlEngine::setObjectOwnership(shownModel, QQmlEngine::CppOwnership);
-    return shownModel;
+    return *shownModel;
+}
+
+AppModel* AppModelElement::create(QQmlEngine* /*engine*/, QJSEngine* /*scripts*/)
+{
+    QQmlEngine::setObjectOwnership(&model(), QQmlEngine::CppOwnership);
+    return &model();
 }
 
 } // namespace orlen

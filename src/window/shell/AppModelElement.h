@@ -19,6 +19,8 @@ struct AppModelElement {
 public:
     /// The model that QML is to see; before the first component is loaded, and again before it is destroyed.
     static void setModel(AppModel* model);
+    /// The same, for what QML makes. There must be one.
+    [[nodiscard]] static AppModel& model();
     static AppModel* create(QQmlEngine* engine, QJSEngine* scripts);
 };
 

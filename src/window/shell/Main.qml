@@ -20,20 +20,14 @@ T.ApplicationWindow {
 
     Navigation {
         id: theNavigation
-
-        app: AppModel
     }
 
     StorageModel {
         id: theStorage
-
-        app: AppModel
     }
 
     Notices {
         id: theNotices
-
-        app: AppModel
     }
 
     Loader {

@@ -15,22 +15,12 @@ const QString kOnboarded = QStringLiteral("onboarded");
 
 } // namespace
 
-void Navigation::setApp(AppModel* app)
+Navigation::Navigation(AppModel& app) : m_app(app)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::sheetChanged, this, &Navigation::sheetChanged);
-        connect(m_app, &AppModel::cleaningChanged, this, &Navigation::cleaningChanged);
-        connect(m_app, &AppModel::requestedScreenChanged, this, &Navigation::followRequest);
-        followRequest();
-    }
-    Q_EMIT appChanged();
-    Q_EMIT sheetChanged();
-    Q_EMIT cleaningChanged();
+    connect(&m_app, &AppModel::sheetChanged, this, &Navigation::sheetChanged);
+    connect(&m_app, &AppModel::cleaningChanged, this, &Navigation::cleaningChanged);
+    connect(&m_app, &AppModel::requestedScreenChanged, this, &Navigation::followRequest);
+    followRequest();
 }
 
 bool Navigation::isOnboarded()
@@ -59,41 +49,41 @@ QString Navigation::screenTitle() const
 
 Navigation::Sheet Navigation::sheet() const
 {
-    if (m_app == nullptr || !m_app->sheet())
+    if (!m_app.sheet())
         return NoSheet;
-    return std::holds_alternative<orlen::PlanSheet>(*m_app->sheet()) ? PlanSheet : FindingSheet;
+    return std::holds_alternative<orlen::PlanSheet>(*m_app.sheet()) ? PlanSheet : FindingSheet;
 }
 
 QString Navigation::findingId() const
 {
     if (sheet() != FindingSheet)
         return {};
-    return DisplayText::text(std::get<orlen::FindingSheet>(*m_app->sheet()).findingId);
+    return DisplayText::text(std::get<orlen::FindingSheet>(*m_app.sheet()).findingId);
 }
 
 bool Navigation::isCleaning() const
 {
-    return m_app != nullptr && m_app->cleaning().has_value();
+    return m_app.cleaning().has_value();
 }
 
 void Navigation::showFinding(const QString& id)
 {
     const std::string wanted = id.toStdString();
-    const auto& findings = m_app->findings();
+    const auto& findings = m_app.findings();
     if (std::any_of(findings.begin(), findings.end(), [&](const Finding& f) { return f.id() == wanted; }))
-        m_app->setSheet(orlen::FindingSheet{wanted});
+        m_app.setSheet(orlen::FindingSheet{wanted});
 }
 
 void Navigation::closeSheet()
 {
-    m_app->setSheet(std::nullopt);
+    m_app.setSheet(std::nullopt);
 }
 
 void Navigation::followRequest()
 {
-    if (const auto requested = m_app->requestedScreen()) {
+    if (const auto requested = m_app.requestedScreen()) {
         setScreen(static_cast<Screen>(*requested));
-        m_app->setRequestedScreen(std::nullopt);
+        m_app.setRequestedScreen(std::nullopt);
     }
 }
 

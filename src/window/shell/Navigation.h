@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -12,7 +12,6 @@ namespace orlen {
 class Navigation : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Whether this user has finished onboarding; kept in the user's settings.
     Q_PROPERTY(bool onboarded READ isOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(Screen screen READ screen WRITE setScreen NOTIFY screenChanged)
@@ -30,10 +29,8 @@ public:
     enum Sheet { NoSheet, FindingSheet, PlanSheet };
     Q_ENUM(Sheet)
 
-    using QObject::QObject;
+    explicit Navigation(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] static bool isOnboarded();
     [[nodiscard]] Screen screen() const { return m_screen; }
     void setScreen(Screen screen);
@@ -48,7 +45,6 @@ public:
     Q_INVOKABLE void closeSheet();
 
 Q_SIGNALS:
-    void appChanged();
     void onboardedChanged();
     void screenChanged();
     void sheetChanged();
@@ -57,7 +53,7 @@ Q_SIGNALS:
 private:
     void followRequest();
 
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
     Screen m_screen = Home;
 };
 

@@ -23,7 +23,7 @@ constexpr int kPathFactor = 2;
 
 } // namespace
 
-Notices::Notices(QObject* parent) : QObject(parent)
+Notices::Notices(AppModel& app)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
@@ -31,16 +31,8 @@ Notices::Notices(QObject* parent) : QObject(parent)
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
             add({WindowTexts::cannotReveal(path), path});
         });
-}
-
-void Notices::setApp(AppModel* app)
-{
-    if (m_app == app)
-        return;
-    m_app = app;
-    for (const std::string& sentence : app == nullptr ? std::vector<std::string>() : app->notices())
+    for (const std::string& sentence : app.notices())
         say(DisplayText::text(sentence));
-    Q_EMIT appChanged();
 }
 
 void Notices::say(const QString& text)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -17,8 +17,6 @@ namespace orlen {
 class Notices : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// Whose news since the start are said first.
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged)
     /// The sentence that is shown; empty for none.
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// Whether the sentence tells of a path, which can be copied.
@@ -29,10 +27,9 @@ class Notices : public QObject {
     Q_PROPERTY(int shortest MEMBER m_shortest NOTIFY shortestChanged)
 
 public:
-    explicit Notices(QObject* parent = nullptr);
+    /// Begins with what the application model has to say of its start.
+    explicit Notices(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString text() const { return m_shown.text; }
     [[nodiscard]] bool hasPath() const { return !m_shown.path.isEmpty(); }
     [[nodiscard]] bool isHeld() const { return m_isHeld; }
@@ -48,7 +45,6 @@ public:
     Q_INVOKABLE static void announce(QObject* item);
 
 Q_SIGNALS:
-    void appChanged();
     void changed();
     void heldChanged();
     void shortestChanged();
@@ -66,7 +62,6 @@ private:
     void letRead();
     [[nodiscard]] std::chrono::milliseconds readingTime() const;
 
-    AppModel* m_app = nullptr;
     Notice m_shown;
     std::deque<Notice> m_waiting;
     QTimer m_timer; ///< until the shown sentence was read, or until the next one comes

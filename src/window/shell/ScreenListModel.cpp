@@ -5,16 +5,14 @@
 
 namespace orlen {
 
-int ScreenListModel::rowCount(const QModelIndex& parent) const
+int ScreenListModel::length() const
 {
-    return parent.isValid() ? 0 : static_cast<int>(kScreens);
+    return static_cast<int>(kScreens);
 }
 
-QVariant ScreenListModel::data(const QModelIndex& index, int role) const
+QVariant ScreenListModel::value(std::size_t number, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const ScreenMeta& meta = screenTable()[static_cast<std::size_t>(index.row())];
+    const ScreenMeta& meta = screenTable()[number];
     switch (static_cast<Role>(role)) {
     case Role::title:
         return DisplayText::text(meta.title);
@@ -28,15 +26,6 @@ QVariant ScreenListModel::data(const QModelIndex& index, int role) const
         return static_cast<int>(meta.screen);
     }
     return {};
-}
-
-QHash<int, QByteArray> ScreenListModel::roleNames() const
-{
-    return {{static_cast<int>(Role::title), "title"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::tone), "tone"},
-            {static_cast<int>(Role::section), "section"},
-            {static_cast<int>(Role::screen), "screen"}};
 }
 
 } // namespace orlen

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "window/lists/RowsModel.h"
+
 #include <QtQml/qqmlregistration.h>
 
 namespace orlen {
 
 /// The rows of the sidebar: one for each screen, in order. Never changes.
-class ScreenListModel : public QAbstractListModel {
+class ScreenListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
 
@@ -18,12 +19,13 @@ public:
         section,              ///< heading of its group, the same for neighbours of one group
         screen,               ///< number that `Navigation.screen` takes
     };
+    Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowsModel::RowsModel;
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+private:
+    [[nodiscard]] int length() const override;
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 };
 
 } // namespace orlen

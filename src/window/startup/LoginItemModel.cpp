@@ -14,7 +14,7 @@ struct LoginItemModel::Change {
     bool isRegistered = false;
 };
 
-LoginItemModel::LoginItemModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this) {}
+LoginItemModel::LoginItemModel() : m_workers(*this) {}
 
 LoginItemModel::~LoginItemModel() = default;
 
@@ -83,30 +83,14 @@ void LoginItemModel::setRegistered(bool isRegistered, QString obstacle)
 
 void LoginItemModel::setNames(Names names, std::vector<std::string> items)
 {
-    beginResetModel();
-    m_items = std::move(items);
-    endResetModel();
+    resetRows(m_items, std::move(items));
     m_names = names;
     Q_EMIT namesChanged();
 }
 
-int LoginItemModel::rowCount(const QModelIndex& parent) const
+QVariant LoginItemModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant LoginItemModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    return role == static_cast<int>(Role::name)
-               ? DisplayText::path(m_items[static_cast<std::size_t>(index.row())])
-               : QVariant();
-}
-
-QHash<int, QByteArray> LoginItemModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"}};
+    return role == static_cast<int>(Role::name) ? DisplayText::path(m_items[number]) : QVariant();
 }
 
 } // namespace orlen

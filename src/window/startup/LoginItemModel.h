@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/Workers.h"
+#include "window/lists/RowsModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <string>
@@ -12,7 +12,7 @@ namespace orlen {
 
 /// Login items: the names of those that the desktop opens, asked for by the user, and whether this program is
 /// among them. Main thread, and needs its event loop; the disk and child processes are left to workers.
-class LoginItemModel : public QAbstractListModel {
+class LoginItemModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     /// Whether this program opens at login; while a change is made, the value that it will have.
@@ -21,24 +21,23 @@ class LoginItemModel : public QAbstractListModel {
     /// Why the last change could not be made; empty when it could.
     Q_PROPERTY(QString obstacle READ obstacle NOTIFY registeredChanged)
     Q_PROPERTY(Names names READ names NOTIFY namesChanged)
-    Q_PROPERTY(int count READ count NOTIFY namesChanged)
 
 public:
     enum class Role {
         name = Qt::UserRole, ///< of a login item
     };
+    Q_ENUM(Role)
     /// Where the names stand.
     enum Names { NotAsked, Asking, Known, Unreadable };
     Q_ENUM(Names)
 
-    explicit LoginItemModel(QObject* parent = nullptr);
+    LoginItemModel();
     ~LoginItemModel() override;
 
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
     [[nodiscard]] QString obstacle() const { return m_obstacle; }
     [[nodiscard]] Names names() const { return m_names; }
-    [[nodiscard]] int count() const { return static_cast<int>(m_items.size()); }
 
     /// Looks whether this program opens at login.
     Q_INVOKABLE void load();
@@ -49,16 +48,15 @@ public:
     /// Opens the desktop's own settings page.
     Q_INVOKABLE void openSettings();
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
     void registeredChanged();
     void namesChanged();
     void settingsFailed();
 
 private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_items.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     struct Change;
 
     void setRegistered(bool isRegistered, QString obstacle);

@@ -2,7 +2,6 @@
 
 #include "tools/startup/LaunchControl.h"
 #include "window/lists/DisplayText.h"
-#include "window/lists/RowSteps.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,15 +9,6 @@
 namespace orlen {
 
 namespace {
-
-std::vector<std::string> keys(const std::vector<LaunchItem>& items)
-{
-    std::vector<std::string> paths;
-    paths.reserve(items.size());
-    for (const LaunchItem& item : items)
-        paths.push_back(item.path);
-    return paths;
-}
 
 QString symbol(LaunchSource source)
 {
@@ -42,7 +32,7 @@ QString failure(const LaunchItem& item)
 
 } // namespace
 
-StartupListModel::StartupListModel(QObject* parent) : QAbstractListModel(parent), m_workers(*this) {}
+StartupListModel::StartupListModel() : m_workers(*this) {}
 
 StartupListModel::~StartupListModel() = default;
 
@@ -57,45 +47,14 @@ void StartupListModel::load()
                     [this, generation](std::vector<LaunchItem> items) {
                         if (generation != m_generation)
                             return;
-                        show(std::move(items));
+                        setRows(m_items, std::move(items), &LaunchItem::path);
                         setLoading(false);
                     });
 }
 
-void StartupListModel::show(std::vector<LaunchItem> items)
-{
-    for (const RowStep& step : RowSteps::between(keys(m_items), keys(items))) {
-        const auto at = m_items.begin() + step.row;
-        switch (step.kind) {
-        case RowStep::Kind::remove:
-            beginRemoveRows({}, step.row, step.row);
-            m_items.erase(at);
-            endRemoveRows();
-            break;
-        case RowStep::Kind::insert:
-            beginInsertRows({}, step.row, step.row);
-            m_items.insert(at, items[static_cast<std::size_t>(step.row)]);
-            endInsertRows();
-            break;
-        case RowStep::Kind::move:
-            beginMoveRows({}, step.row, step.row, {}, step.to);
-            std::rotate(m_items.begin() + step.to, at, at + 1);
-            endMoveRows();
-            break;
-        }
-    }
-    for (std::size_t row = 0; row < items.size(); ++row) {
-        if (m_items[row] == items[row])
-            continue;
-        m_items[row] = std::move(items[row]);
-        Q_EMIT dataChanged(index(static_cast<int>(row)), index(static_cast<int>(row)));
-    }
-    Q_EMIT countChanged();
-}
-
 void StartupListModel::toggle(int row)
 {
-    if (row < 0 || row >= count())
+    if (!hasRow(row))
         return;
     const LaunchItem item = m_items[static_cast<std::size_t>(row)];
     const bool isWanted = !item.enabled;
@@ -105,7 +64,7 @@ void StartupListModel::toggle(int row)
         return;
     // A list that is being read may hold the old value: it is read again afterwards.
     ++m_generation;
-    Q_EMIT dataChanged(index(row), index(row));
+    rowsChanged(row, row);
     m_workers.start([item, isWanted](const std::stop_token&) { return LaunchControl::set(item, isWanted); },
                     [this, item](bool wasMade) { finishChange(item, wasMade); });
 }
@@ -118,8 +77,7 @@ void StartupListModel::finishChange(const LaunchItem& item, bool wasMade)
     if (found != m_items.end()) {
         if (wasMade)
             found->enabled = !item.enabled;
-        const QModelIndex changed = index(static_cast<int>(found - m_items.begin()));
-        Q_EMIT dataChanged(changed, changed);
+        rowChanged(static_cast<std::size_t>(found - m_items.begin()));
     }
     if (!wasMade)
         Q_EMIT failed(failure(item));
@@ -141,16 +99,9 @@ void StartupListModel::setLoading(bool isLoading)
     Q_EMIT loadingChanged();
 }
 
-int StartupListModel::rowCount(const QModelIndex& parent) const
+QVariant StartupListModel::value(std::size_t number, int role) const
 {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant StartupListModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const LaunchItem& item = m_items[static_cast<std::size_t>(index.row())];
+    const LaunchItem& item = m_items[number];
     switch (static_cast<Role>(role)) {
     case Role::name:
         return DisplayText::path(item.name);
@@ -174,20 +125,6 @@ QVariant StartupListModel::data(const QModelIndex& index, int role) const
         return DisplayText::text(item.reason);
     }
     return {};
-}
-
-QHash<int, QByteArray> StartupListModel::roleNames() const
-{
-    return {{static_cast<int>(Role::name), "name"},
-            {static_cast<int>(Role::program), "program"},
-            {static_cast<int>(Role::path), "path"},
-            {static_cast<int>(Role::scope), "scope"},
-            {static_cast<int>(Role::symbol), "symbol"},
-            {static_cast<int>(Role::isOn), "isOn"},
-            {static_cast<int>(Role::isBusy), "isBusy"},
-            {static_cast<int>(Role::isPartOfDesktop), "isPartOfDesktop"},
-            {static_cast<int>(Role::isSwitchable), "isSwitchable"},
-            {static_cast<int>(Role::reason), "reason"}};
 }
 
 } // namespace orlen

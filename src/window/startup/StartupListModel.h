@@ -2,8 +2,8 @@
 
 #include "app/Workers.h"
 #include "tools/startup/LaunchItem.h"
+#include "window/lists/RowsModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <map>
@@ -14,12 +14,11 @@ namespace orlen {
 
 /// What starts when the user logs in, with a switch for each. Main thread, and needs its event loop; child
 /// processes and the disk are left to workers.
-class StartupListModel : public QAbstractListModel {
+class StartupListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     /// Whether the list is being read; the old one stands meanwhile.
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum class Role {
@@ -34,12 +33,12 @@ public:
         isSwitchable,        ///< whether its switch can work
         reason,              ///< why not, in one sentence; empty when it can
     };
+    Q_ENUM(Role)
 
-    explicit StartupListModel(QObject* parent = nullptr);
+    StartupListModel();
     ~StartupListModel() override;
 
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
-    [[nodiscard]] int count() const { return static_cast<int>(m_items.size()); }
 
     /// Reads the list anew; while a change is made, after it.
     Q_INVOKABLE void load();
@@ -47,18 +46,15 @@ public:
     /// Nothing happens while a change of the same item is being made, and to what is not switchable.
     Q_INVOKABLE void toggle(int row);
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
     void loadingChanged();
-    void countChanged();
     /// A change could not be made.
     void failed(const QString& message);
 
 private:
-    void show(std::vector<LaunchItem> items);
+    [[nodiscard]] int length() const override { return static_cast<int>(m_items.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
     void finishChange(const LaunchItem& item, bool wasMade);
     [[nodiscard]] bool isOn(const LaunchItem& item) const;
     void setLoading(bool isLoading);

@@ -58,10 +58,11 @@ QPoint corner(const QPoint& place, const QSize& size)
 } // namespace
 
 Tray::Tray(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine, QObject* parent)
-    : QObject(parent), m_engine(engine), m_item(bus, look())
+    : QObject(parent), m_engine(engine), m_model(app), m_item(bus, look())
 {
-    connect(&m_model, &TrayModel::changed, &m_item, [this] { m_item.setTitle(m_model.title()); });
-    m_model.setApp(&app);
+    const auto setTitle = [this] { m_item.setTitle(m_model.title()); };
+    connect(&m_model, &TrayModel::changed, &m_item, setTitle);
+    setTitle();
     connect(&m_item, &TrayItem::activated, this, &Tray::togglePanel);
     connect(&m_item, &TrayItem::openRequested, this, &Tray::openRequested);
     connect(&m_item, &TrayItem::quitRequested, this, &Tray::quitRequested);

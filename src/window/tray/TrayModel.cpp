@@ -5,34 +5,25 @@
 
 namespace orlen {
 
-void TrayModel::setApp(AppModel* app)
+TrayModel::TrayModel(AppModel& app) : m_app(app)
 {
-    if (m_app == app)
-        return;
-    if (m_app != nullptr)
-        m_app->disconnect(this);
-    m_app = app;
-    if (m_app != nullptr) {
-        connect(m_app, &AppModel::breakdownChanged, this, &TrayModel::changed);
-        connect(m_app, &AppModel::findingsChanged, this, &TrayModel::changed);
-        connect(m_app, &AppModel::lastScanChanged, this, &TrayModel::changed);
-    }
-    Q_EMIT appChanged();
-    Q_EMIT changed();
+    connect(&m_app, &AppModel::breakdownChanged, this, &TrayModel::changed);
+    connect(&m_app, &AppModel::findingsChanged, this, &TrayModel::changed);
+    connect(&m_app, &AppModel::lastScanChanged, this, &TrayModel::changed);
 }
 
 QString TrayModel::title() const
 {
-    if (m_app == nullptr || !m_app->isBreakdownReady())
+    if (!m_app.isBreakdownReady())
         return WindowTexts::name();
-    return WindowTexts::freeSpace(DisplayText::size(m_app->breakdown().free));
+    return WindowTexts::freeSpace(DisplayText::size(m_app.breakdown().free));
 }
 
 QString TrayModel::lastScanText() const
 {
-    if (m_app == nullptr || !m_app->lastScan())
+    if (!m_app.lastScan())
         return {};
-    return WindowTexts::lastScan(DisplayText::size(m_app->safeBytes()));
+    return WindowTexts::lastScan(DisplayText::size(m_app.safeBytes()));
 }
 
 } // namespace orlen

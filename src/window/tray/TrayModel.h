@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
@@ -12,26 +12,22 @@ namespace orlen {
 class TrayModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(orlen::AppModel* app READ app WRITE setApp NOTIFY appChanged REQUIRED)
     /// Free space in words, or the program's name as long as it is not known.
     Q_PROPERTY(QString title READ title NOTIFY changed)
     /// What the last scan found safe to remove; empty before a scan.
     Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    explicit TrayModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] AppModel* app() const { return m_app; }
-    void setApp(AppModel* app);
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString lastScanText() const;
 
 Q_SIGNALS:
-    void appChanged();
     void changed();
 
 private:
-    AppModel* m_app = nullptr;
+    AppModel& m_app;
 };
 
 } // namespace orlen

@@ -25,14 +25,10 @@ Window {
 
     StorageModel {
         id: storage
-
-        app: AppModel
     }
 
     TrayModel {
         id: tray
-
-        app: AppModel
     }
 
     Rectangle {
