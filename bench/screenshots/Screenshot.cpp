@@ -5,6 +5,7 @@
 #include "window/shell/AppModelElement.h"
 #include "window/shell/Appearance.h"
 #include "window/shell/Window.h"
+#include "window/shell/WindowState.h"
 #include "window/tray/Tray.h"
 
 #include <QCommandLineParser>
@@ -67,20 +68,20 @@ void addOptions(QCommandLineParser& parser)
 
 void bringAbout(AppModel& model, const QCommandLineParser& options)
 {
-    wait(kLongestScan, [&] { return model.isBreakdownReady(); });
+    wait(kLongestScan, [&] { return model.storage()->isBreakdownReady(); });
     if (options.isSet("scan") || options.isSet("finding") || options.isSet("review") ||
         options.isSet("clean")) {
-        model.startScan();
-        wait(kLongestScan, [&] { return model.phase() != Phase::scanning; });
+        model.results()->startScan();
+        wait(kLongestScan, [&] { return model.results()->phase() != Phase::scanning; });
     }
     if (options.isSet("scanning"))
-        model.startScan();
+        model.results()->startScan();
     if (options.isSet("finding"))
-        model.setSheet(FindingSheet{options.value("finding").toStdString()});
+        WindowState::of(model).setSheet(FindingSheet{options.value("finding").toStdString()});
     if (options.isSet("review"))
-        model.setSheet(PlanSheet{model.scanPlan()});
+        WindowState::of(model).setSheet(PlanSheet{model.results()->scanPlan()});
     if (options.isSet("clean"))
-        model.confirm(model.scanPlan(), model.selection());
+        model.cleanUps()->confirm(model.results()->scanPlan(), model.results()->selection());
 }
 
 /// Delegates are no children of what shows them, but they are its child items.
@@ -164,7 +165,7 @@ void showPhotos(QQuickWindow& window, AppModel& model, const QString& folder)
         if (kind && !files.isEmpty())
             findings.push_back(photoFinding(*kind, files));
         if (kind && files.size() > 2)
-            model.setSelection({findings.back().items[0].path, findings.back().items[1].path});
+            model.results()->setSelection({findings.back().items[0].path, findings.back().items[1].path});
     }
     if (PhotoGroupsModel* groups = photoGroupsBelow(window.contentItem()))
         groups->setFindings(findings);
@@ -210,7 +211,7 @@ int main(int argc, char** argv)
         return 1;
     const QStringList size = options.value("size").split('x');
     window->resize(size.value(0).toInt(), size.value(1).toInt());
-    model.setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
+    WindowState::of(model).setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
     if (!options.isSet("at-once"))
         bringAbout(model, options);
     if (options.isSet("photos"))

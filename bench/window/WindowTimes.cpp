@@ -106,12 +106,12 @@ private:
 
 void measureScan(AppModel& model, QQuickWindow& window)
 {
-    wait(60'000, [&] { return model.isBreakdownReady(); });
+    wait(60'000, [&] { return model.storage()->isBreakdownReady(); });
     Stalls stalls(window);
     QElapsedTimer timer;
     timer.start();
-    model.startScan();
-    wait(120'000, [&] { return model.phase() != Phase::scanning; });
+    model.results()->startScan();
+    wait(120'000, [&] { return model.results()->phase() != Phase::scanning; });
     std::printf(
         "scan %lld ms, %d frames, longest frame %.1f ms; event loop: longest gap %.1f ms, longest work "
         "%.1f ms\n",
@@ -150,7 +150,7 @@ int once(int argc, char** argv)
         wait(kIdleMilliseconds, [] { return false; });
         std::printf("resident %.1f MB\n", residentMegabytes());
         if (arguments.contains("--scan")) {
-            model.startScan();
+            model.results()->startScan();
             wait(300, [] { return false; });
             sinceClosing.start();
         }

@@ -43,17 +43,17 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
-        model.refreshBreakdown(AppModel::Recording::none);
-        session.run({[&] { return model.isBreakdownReady() || session.isInterrupted(); }, [] {},
+        model.storage()->refreshBreakdown(Storage::Recording::none);
+        session.run({[&] { return model.storage()->isBreakdownReady() || session.isInterrupted(); }, [] {},
                      [] { return std::string(Texts::kMeasuring); }});
-        if (!model.isBreakdownReady()) {
+        if (!model.storage()->isBreakdownReady()) {
             session.complain(Texts::kCancelled);
             return ExitStatus::interrupted;
         }
         if (wantsJson())
-            Session::printDocument(JsonDocuments::breakdown(model.breakdown()));
+            Session::printDocument(JsonDocuments::breakdown(model.storage()->breakdown()));
         else
-            printBreakdown(model.breakdown());
+            printBreakdown(model.storage()->breakdown());
         return ExitStatus::done;
     }
 };

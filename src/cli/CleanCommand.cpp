@@ -53,21 +53,21 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        AppModel model(
-            {AppModel::Startup::filesOnly, AppModel::Access::writer, std::chrono::milliseconds(0)});
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
         if (!m_isDryRun && !model.isWriter()) {
             session.complain(Texts::kOtherWriter);
             return ExitStatus::wrongCall;
         }
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
-        CleanChoice::Result chosen = m_choice.apply(model.findings(), model.selection());
+        CleanChoice::Result chosen =
+            m_choice.apply(model.results()->findings(), model.results()->selection());
         if (!chosen.objection.empty()) {
             session.complain(chosen.objection);
             return ExitStatus::wrongCall;
         }
-        model.setSelection(std::move(chosen.paths));
-        const CleanPlan plan = m_choice.limited(model.scanPlan());
+        model.results()->setSelection(std::move(chosen.paths));
+        const CleanPlan plan = m_choice.limited(model.results()->scanPlan());
         if (m_isDryRun)
             return shown(session, plan);
         const PlanCarrier carrier{m_isConfirmed ? Confirmation::Asking::unneeded

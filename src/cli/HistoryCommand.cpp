@@ -68,11 +68,11 @@ public:
         const AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         session.complain(model.notices());
         if (wantsJson())
-            Session::printDocument(JsonDocuments::history(model.history()));
-        else if (model.history().empty())
+            Session::printDocument(JsonDocuments::history(model.cleanUps()->history()));
+        else if (model.cleanUps()->history().empty())
             Session::print(std::string(Texts::kNothingCleaned) + '\n');
         else
-            printHistory(model.history());
+            printHistory(model.cleanUps()->history());
         return ExitStatus::done;
     }
 };

@@ -107,19 +107,19 @@ Json plan(const CleanPlan& plan)
 Json scan(const AppModel& model, Seconds duration)
 {
     Json findings = Json::array();
-    for (const Finding& found : model.findings())
+    for (const Finding& found : model.results()->findings())
         findings.push_back(finding(found));
     return {
         {"findings", std::move(findings)},
-        {"unreadable", Json(model.unreadableFolders().paths)},
-        {"selection", Json(model.selection())},
-        {"totalFound", model.totalFound()},
-        {"safeBytes", model.safeBytes()},
-        {"breakdown", breakdown(model.breakdown())},
-        {"filesExamined", model.scanProgress().files()},
-        {"steps", steps(model.scanProgress())},
-        {"fullDiskAccess", model.isFdaGranted()},
-        {"date", isoText(model.lastScan().value_or(TimePoint()))},
+        {"unreadable", Json(model.results()->unreadableFolders().paths)},
+        {"selection", Json(model.results()->selection())},
+        {"totalFound", model.results()->totalFound()},
+        {"safeBytes", model.results()->safeBytes()},
+        {"breakdown", breakdown(model.storage()->breakdown())},
+        {"filesExamined", model.results()->scanProgress().files()},
+        {"steps", steps(model.results()->scanProgress())},
+        {"fullDiskAccess", model.results()->isFdaGranted()},
+        {"date", isoText(model.results()->lastScan().value_or(TimePoint()))},
         {"seconds", rounded(duration)},
     };
 }

@@ -21,9 +21,9 @@ namespace {
 
 std::string status(const AppModel& model)
 {
-    if (!model.cleaning())
+    if (!model.cleanUps()->cleaning())
         return {};
-    const CleaningState& state = *model.cleaning();
+    const CleaningState& state = *model.cleanUps()->cleaning();
     return std::string(Texts::kMoving) + ' ' + Format::grouped(state.done) + " of " +
            Format::grouped(state.total) + " · " + PathText::forDisplay(state.current);
 }
@@ -32,14 +32,14 @@ std::string status(const AppModel& model)
 PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
 {
     std::optional<CleanRecord> record;
-    const auto heard = QObject::connect(&model, &AppModel::cleaningFinished, &model,
+    const auto heard = QObject::connect(model.cleanUps(), &CleanUps::cleaningFinished, &model,
                                         [&](const CleanRecord& finished) { record = finished; });
-    model.confirm(plan);
-    session.run({[&] { return record.has_value(); }, [&] { model.cancelCleaning(); },
+    model.cleanUps()->confirm(plan);
+    session.run({[&] { return record.has_value(); }, [&] { model.cleanUps()->cancelCleaning(); },
                  [&] { return status(model); }, Session::Work::Nature::moving});
     QObject::disconnect(heard);
     // The display of the clean-up stays until it is dismissed.
-    return {*std::move(record), *model.cleaning()};
+    return {*std::move(record), *model.cleanUps()->cleaning()};
 }
 
 std::string outcome(const CleanRecord& record)

@@ -50,11 +50,12 @@ public:
     {
         const AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         session.complain(model.notices());
-        const Prediction prediction = model.prediction();
+        const Prediction prediction = model.storage()->prediction();
         if (wantsJson())
-            Session::printDocument(JsonDocuments::prediction(prediction, model.snapshots().size()));
+            Session::printDocument(
+                JsonDocuments::prediction(prediction, model.storage()->snapshots().size()));
         else
-            printPrediction(prediction, model.snapshots().size());
+            printPrediction(prediction, model.storage()->snapshots().size());
         return ExitStatus::done;
     }
 };

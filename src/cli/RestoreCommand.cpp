@@ -50,7 +50,7 @@ public:
     {
         AppModel model({AppModel::Startup::filesOnly});
         session.complain(model.notices());
-        const std::vector<CleanRecord> records = matching(model.history(), m_id);
+        const std::vector<CleanRecord> records = matching(model.cleanUps()->history(), m_id);
         if (records.size() != 1) {
             session.complain(records.empty() ? "there is no clean-up " + Format::quoted(m_id) + '.'
                                              : "several clean-ups begin with " + Format::quoted(m_id) + '.');
@@ -79,7 +79,7 @@ private:
 
     [[nodiscard]] ExitStatus restored(Session& session, AppModel& model, const CleanRecord& record)
     {
-        const AppModel::Restoration restoration = model.restore(record);
+        const CleanUps::Restoration restoration = model.cleanUps()->restore(record);
         if (wantsJson())
             Session::printDocument(JsonDocuments::restore(restoration.outcome, restoration.message));
         else

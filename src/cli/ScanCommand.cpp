@@ -24,7 +24,7 @@ using Seconds = std::chrono::duration<double>;
 
 std::string headline(const AppModel& model, const Colours& colours)
 {
-    const std::int64_t safe = model.safeBytes();
+    const std::int64_t safe = model.results()->safeBytes();
     if (safe == 0)
         return colours.styled(Style::bold, Texts::kNothingSafe) + '\n';
     return colours.styled(Style::bold, "You can safely free ") +
@@ -33,15 +33,15 @@ std::string headline(const AppModel& model, const Colours& colours)
 
 std::string figures(const AppModel& model, Seconds duration)
 {
-    return byteCount(model.totalFound()) + " you could review in total · " +
-           Format::counted(model.scanProgress().files(), "file") + " examined in " +
+    return byteCount(model.results()->totalFound()) + " you could review in total · " +
+           Format::counted(model.results()->scanProgress().files(), "file") + " examined in " +
            Format::duration(duration.count());
 }
 
 /// How many folders could not be read, and the first of them.
 std::string unreadableLines(const AppModel& model, const Colours& colours)
 {
-    const AppModel::Unreadable& unreadable = model.unreadableFolders();
+    const Results::Unreadable& unreadable = model.results()->unreadableFolders();
     if (unreadable.count == 0)
         return {};
     std::string text = '\n' + Format::counted(unreadable.count, "folder").append(Texts::kUnreadable) + '\n';
@@ -58,14 +58,14 @@ void printResults(const AppModel& model, Seconds duration)
     const Colours colours = Session::colours();
     std::string text =
         headline(model, colours) + colours.styled(Style::dim, figures(model, duration)) + "\n\n";
-    if (model.findings().empty())
+    if (model.results()->findings().empty())
         text.append(Texts::kNothingFound).append("\n");
     else
-        text += FindingTable::of(model.findings(), kEntriesShown).text(colours, Session::width());
+        text += FindingTable::of(model.results()->findings(), kEntriesShown).text(colours, Session::width());
     text += unreadableLines(model, colours);
-    if (!model.isFdaGranted())
+    if (!model.results()->isFdaGranted())
         text.append("\n").append(Texts::kNoFullAccess).append("\n");
-    if (model.safeBytes() > 0)
+    if (model.results()->safeBytes() > 0)
         text += '\n' + colours.styled(Style::dim, Texts::kHowToClean) + '\n';
     Session::print(text);
 }

@@ -67,11 +67,12 @@ std::optional<std::chrono::duration<double>> run(Session& session, AppModel& mod
         session.complain(Texts::kUnusableHome);
     session.complain(model.notices());
     const auto started = std::chrono::steady_clock::now();
-    model.setLargeThresholdMB(thresholdMB);
-    model.startScan();
-    session.run({[&] { return model.phase() != Phase::scanning; }, [&] { model.cancelScan(); },
-                 [&] { return status(model.scanProgress()); }});
-    if (model.phase() == Phase::idle) {
+    model.results()->setLargeThresholdMB(thresholdMB);
+    model.results()->startScan();
+    session.run({[&] { return model.results()->phase() != Phase::scanning; },
+                 [&] { model.results()->cancelScan(); },
+                 [&] { return status(model.results()->scanProgress()); }});
+    if (model.results()->phase() == Phase::idle) {
         session.complain(Texts::kCancelled);
         return std::nullopt;
     }

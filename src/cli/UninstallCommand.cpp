@@ -74,8 +74,7 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        AppModel model(
-            {AppModel::Startup::filesOnly, AppModel::Access::writer, std::chrono::milliseconds(0)});
+        AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
         if (!m_isDryRun && !model.isWriter()) {
             session.complain(Texts::kOtherWriter);
             return ExitStatus::wrongCall;

@@ -1,32 +1,16 @@
 #pragma once
 
 #include "model/CleanFailure.h"
-#include "model/CleanPlan.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 /// The small values by which the application model tells the screens what is going on.
 namespace orlen {
 
 enum class Phase { idle, scanning, results };
-
-/// The detail of the finding with this id stands over the main window.
-struct FindingSheet {
-    std::string findingId;
-    friend bool operator==(const FindingSheet&, const FindingSheet&) = default;
-};
-
-/// The confirmation of a plan stands over the main window.
-struct PlanSheet {
-    CleanPlan plan;
-    friend bool operator==(const PlanSheet&, const PlanSheet&) = default;
-};
-
-using SheetKind = std::variant<FindingSheet, PlanSheet>;
 
 /// Progress of a clean-up.
 struct CleaningState {

@@ -41,8 +41,8 @@ std::vector<std::string> manyFiles(const TempHome& home, int count)
 
 [[nodiscard]] bool cleaned(AppModel& model, const CleanPlan& plan)
 {
-    model.confirm(plan);
-    return waitUntil([&] { return model.cleaning() && model.cleaning()->finished; });
+    model.cleanUps()->confirm(plan);
+    return waitUntil([&] { return model.cleanUps()->cleaning() && model.cleanUps()->cleaning()->finished; });
 }
 
 } // namespace
@@ -54,26 +54,24 @@ TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
     home.fileOfSize(".xsession-errors", 64 * kKiB);
     AppModel model(kCommand);
     scan(model);
-    ASSERT_THAT(model.findings(), SizeIs(2));
+    ASSERT_THAT(model.results()->findings(), SizeIs(2));
     // The user has unticked the log.
-    CleanPlan plan = model.scanPlan();
-    model.setSheet(PlanSheet{plan});
+    CleanPlan plan = model.results()->scanPlan();
     std::erase_if(plan.sections, [](const PlanSection& section) { return section.id == "logs"; });
-    model.confirm(plan);
-    EXPECT_FALSE(model.sheet().has_value());
-    EXPECT_EQ(model.cleaning()->total, 1);
-    EXPECT_EQ(model.cleaning()->planTitle, "Smart Scan clean-up");
-    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
-    EXPECT_EQ(model.cleaning()->moved, 1);
-    EXPECT_EQ(model.cleaning()->failed, 0);
-    EXPECT_EQ(model.cleaning()->freed, 400 * kKiB);
+    model.cleanUps()->confirm(plan);
+    EXPECT_EQ(model.cleanUps()->cleaning()->total, 1);
+    EXPECT_EQ(model.cleanUps()->cleaning()->planTitle, "Smart Scan clean-up");
+    ASSERT_TRUE(waitUntil([&] { return model.cleanUps()->cleaning()->finished; }));
+    EXPECT_EQ(model.cleanUps()->cleaning()->moved, 1);
+    EXPECT_EQ(model.cleanUps()->cleaning()->failed, 0);
+    EXPECT_EQ(model.cleanUps()->cleaning()->freed, 400 * kKiB);
     EXPECT_FALSE(TempHome::exists(home.path(".cache/viewer")));
-    ASSERT_THAT(model.findings(), SizeIs(1));
-    EXPECT_EQ(model.findings().front().kind, FindingKind::logs);
-    EXPECT_THAT(model.selection(), ElementsAre(home.path(".xsession-errors")));
-    EXPECT_EQ(Persist::loadHistory().records.front().id, model.history().front().id);
-    model.dismissCleaning();
-    EXPECT_FALSE(model.cleaning().has_value());
+    ASSERT_THAT(model.results()->findings(), SizeIs(1));
+    EXPECT_EQ(model.results()->findings().front().kind, FindingKind::logs);
+    EXPECT_THAT(model.results()->selection(), ElementsAre(home.path(".xsession-errors")));
+    EXPECT_EQ(Persist::loadHistory().records.front().id, model.cleanUps()->history().front().id);
+    model.cleanUps()->dismissCleaning();
+    EXPECT_FALSE(model.cleanUps()->cleaning().has_value());
 }
 
 TEST(AppModelCleanupTest, whatCannotMoveIsCountedAndStays)
@@ -82,11 +80,11 @@ TEST(AppModelCleanupTest, whatCannotMoveIsCountedAndStays)
     const std::string good = home.file(".cache/good");
     AppModel model(kCommand);
     ASSERT_TRUE(cleaned(model, planOf({good, home.path("Documents"), home.path("gone")})));
-    EXPECT_EQ(model.cleaning()->moved, 1);
-    EXPECT_EQ(model.cleaning()->failed, 2);
-    ASSERT_THAT(model.history(), SizeIs(1));
-    EXPECT_EQ(model.history().front().failed, 2);
-    EXPECT_EQ(model.history().front().title, "Some of it");
+    EXPECT_EQ(model.cleanUps()->cleaning()->moved, 1);
+    EXPECT_EQ(model.cleanUps()->cleaning()->failed, 2);
+    ASSERT_THAT(model.cleanUps()->history(), SizeIs(1));
+    EXPECT_EQ(model.cleanUps()->history().front().failed, 2);
+    EXPECT_EQ(model.cleanUps()->history().front().title, "Some of it");
 }
 
 TEST(AppModelCleanupTest, whatLiesInAMovedFolderLeavesTheResultsWithIt)
@@ -97,17 +95,17 @@ TEST(AppModelCleanupTest, whatLiesInAMovedFolderLeavesTheResultsWithIt)
     const TimePoint longAgo = std::chrono::system_clock::now() - std::chrono::hours(24 * 90);
     TempHome::setTimes(folder, longAgo, longAgo);
     AppModel model(kCommand);
-    model.setLargeThresholdMB(1);
+    model.results()->setLargeThresholdMB(1);
     scan(model);
-    ASSERT_THAT(model.findings(), SizeIs(2));
-    model.select(std::vector{folder});
-    EXPECT_THAT(model.selection(), ElementsAre(folder, film));
-    const CleanPlan plan = model.scanPlan();
-    model.confirm(plan);
-    EXPECT_EQ(model.cleaning()->total, 1) << "one item takes the other along";
-    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
-    EXPECT_THAT(model.findings(), IsEmpty());
-    EXPECT_THAT(model.selection(), IsEmpty());
+    ASSERT_THAT(model.results()->findings(), SizeIs(2));
+    model.results()->select(std::vector{folder});
+    EXPECT_THAT(model.results()->selection(), ElementsAre(folder, film));
+    const CleanPlan plan = model.results()->scanPlan();
+    model.cleanUps()->confirm(plan);
+    EXPECT_EQ(model.cleanUps()->cleaning()->total, 1) << "one item takes the other along";
+    ASSERT_TRUE(waitUntil([&] { return model.cleanUps()->cleaning()->finished; }));
+    EXPECT_THAT(model.results()->findings(), IsEmpty());
+    EXPECT_THAT(model.results()->selection(), IsEmpty());
 }
 
 TEST(AppModelCleanupTest, whatAKilledCleanUpMovedIsKnownAtTheNextStart)
@@ -118,12 +116,12 @@ TEST(AppModelCleanupTest, whatAKilledCleanUpMovedIsKnownAtTheNextStart)
                                      [](int, int, const std::string&) {});
     {
         const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader});
-        ASSERT_THAT(reader.history(), SizeIs(1)) << "who only reads sees it too";
+        ASSERT_THAT(reader.cleanUps()->history(), SizeIs(1)) << "who only reads sees it too";
     }
     AppModel model(kCommand);
-    ASSERT_THAT(model.history(), SizeIs(1));
-    EXPECT_EQ(model.history().front().id, killed.record.id);
-    EXPECT_EQ(model.restore(model.history().front()).outcome.restored, 1);
+    ASSERT_THAT(model.cleanUps()->history(), SizeIs(1));
+    EXPECT_EQ(model.cleanUps()->history().front().id, killed.record.id);
+    EXPECT_EQ(model.cleanUps()->restore(model.cleanUps()->history().front()).outcome.restored, 1);
 }
 
 TEST(AppModelCleanupTest, aRecordThatCannotBeSavedIsTold)
@@ -132,10 +130,10 @@ TEST(AppModelCleanupTest, aRecordThatCannotBeSavedIsTold)
     AppModel model(kCommand);
     (void)home.folder(".local/share/Orlen/history.json"); // where a file belongs
     ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/a"), home.path("gone")})));
-    EXPECT_FALSE(model.cleaning()->isRecorded);
-    EXPECT_EQ(model.cleaning()->failures,
+    EXPECT_FALSE(model.cleanUps()->cleaning()->isRecorded);
+    EXPECT_EQ(model.cleanUps()->cleaning()->failures,
               (std::vector<CleanFailure>{{home.path("gone"), FailureReason::missing}}));
-    EXPECT_FALSE(model.restore(model.history().front()).isRecorded);
+    EXPECT_FALSE(model.cleanUps()->restore(model.cleanUps()->history().front()).isRecorded);
 }
 
 TEST(AppModelCleanupTest, aCleanUpThatMovedNothingLeavesNoRecord)
@@ -143,37 +141,23 @@ TEST(AppModelCleanupTest, aCleanUpThatMovedNothingLeavesNoRecord)
     const TempHome home;
     AppModel model(kCommand);
     std::optional<CleanRecord> reported;
-    QObject::connect(&model, &AppModel::cleaningFinished,
+    QObject::connect(model.cleanUps(), &CleanUps::cleaningFinished,
                      [&](const CleanRecord& record) { reported = record; });
     ASSERT_TRUE(cleaned(model, planOf({home.path("gone")})));
-    EXPECT_EQ(model.cleaning()->moved, 0);
-    EXPECT_EQ(model.cleaning()->failed, 1);
-    EXPECT_THAT(model.history(), IsEmpty());
+    EXPECT_EQ(model.cleanUps()->cleaning()->moved, 0);
+    EXPECT_EQ(model.cleanUps()->cleaning()->failed, 1);
+    EXPECT_THAT(model.cleanUps()->history(), IsEmpty());
     EXPECT_FALSE(TempHome::exists(Persist::dir() + "/history.json"));
     ASSERT_TRUE(reported.has_value());
     EXPECT_EQ(reported->failed, 1);
 }
 
-TEST(AppModelCleanupTest, nothingChosenOnlyClosesTheSheet)
+TEST(AppModelCleanupTest, aPlanOfNothingBeginsNothing)
 {
     const TempHome home;
     AppModel model(kCommand);
-    home.file("a");
-    model.setSheet(PlanSheet{planOf({home.path("a")})});
-    model.confirm(planOf({}));
-    EXPECT_FALSE(model.sheet().has_value());
-    EXPECT_FALSE(model.cleaning().has_value());
-    EXPECT_TRUE(TempHome::exists(home.path("a")));
-}
-
-TEST(AppModelCleanupTest, aShortCleanUpIsShownForItsLeastTime)
-{
-    const TempHome home;
-    AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, 300ms});
-    const auto started = std::chrono::steady_clock::now();
-    ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/tiny")})));
-    EXPECT_GE(std::chrono::steady_clock::now() - started, 299ms);
-    EXPECT_EQ(AppModel::Options().overlayMinimum, 1800ms);
+    model.cleanUps()->confirm(planOf({}));
+    EXPECT_FALSE(model.cleanUps()->cleaning().has_value());
 }
 
 TEST(AppModelCleanupTest, aCancelledCleanUpRecordsWhatItMoved)
@@ -182,12 +166,12 @@ TEST(AppModelCleanupTest, aCancelledCleanUpRecordsWhatItMoved)
     const std::vector<std::string> paths = manyFiles(home, 2000);
     AppModel model(kCommand);
     const CleanPlan plan = planOf(paths);
-    model.confirm(plan);
-    model.cancelCleaning();
-    ASSERT_TRUE(waitUntil([&] { return model.cleaning()->finished; }));
+    model.cleanUps()->confirm(plan);
+    model.cleanUps()->cancelCleaning();
+    ASSERT_TRUE(waitUntil([&] { return model.cleanUps()->cleaning()->finished; }));
     const auto left = std::count_if(paths.begin(), paths.end(), TempHome::exists);
-    EXPECT_EQ(model.cleaning()->moved + static_cast<int>(left), 2000);
-    EXPECT_EQ(model.cleaning()->failed, 0);
+    EXPECT_EQ(model.cleanUps()->cleaning()->moved + static_cast<int>(left), 2000);
+    EXPECT_EQ(model.cleanUps()->cleaning()->failed, 0);
     EXPECT_GT(left, 0);
 }
 
@@ -198,7 +182,7 @@ TEST(AppModelCleanupTest, aModelThatGoesDuringACleanUpRecordsIt)
     {
         AppModel model(kCommand);
         const CleanPlan plan = planOf(paths);
-        model.confirm(plan);
+        model.cleanUps()->confirm(plan);
         ASSERT_TRUE(waitUntil([&] { return !TempHome::exists(home.path(".cache/many/0")); }));
     }
     const auto left = std::count_if(paths.begin(), paths.end(), TempHome::exists);
@@ -235,14 +219,14 @@ TEST(AppModelCleanupTest, restoringTellsWhatCameBack)
         ASSERT_TRUE(cleaned(model, planOf(paths)));
         for (const std::string& name : c.recreated)
             home.file(".cache/" + name, "new");
-        const AppModel::Restoration first = model.restore(model.history().front());
+        const CleanUps::Restoration first = model.cleanUps()->restore(model.cleanUps()->history().front());
         EXPECT_EQ(first.message, c.message);
         EXPECT_EQ(first.outcome.failed, static_cast<int>(c.recreated.size()));
         EXPECT_EQ(TempHome::content(paths.front()), "content of a");
         EXPECT_EQ(Persist::loadHistory().records.front().items, first.outcome.record.items);
-        EXPECT_EQ(model.history().front(), first.outcome.record);
+        EXPECT_EQ(model.cleanUps()->history().front(), first.outcome.record);
         // What is back is not put back again.
-        EXPECT_EQ(model.restore(model.history().front()).outcome.restored, 0);
+        EXPECT_EQ(model.cleanUps()->restore(model.cleanUps()->history().front()).outcome.restored, 0);
     }
 }
 
@@ -251,11 +235,11 @@ TEST(AppModelCleanupTest, aForgottenRecordIsRestoredButNotRemembered)
     const TempHome home;
     AppModel model(kCommand);
     ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/a")})));
-    CleanRecord stranger = model.history().front();
+    CleanRecord stranger = model.cleanUps()->history().front();
     stranger.id = Uuid::random();
-    EXPECT_EQ(model.restore(stranger).message, "Restored 1 item.");
-    ASSERT_THAT(model.history(), SizeIs(1));
-    EXPECT_FALSE(model.history().front().items.front().restored);
+    EXPECT_EQ(model.cleanUps()->restore(stranger).message, "Restored 1 item.");
+    ASSERT_THAT(model.cleanUps()->history(), SizeIs(1));
+    EXPECT_FALSE(model.cleanUps()->history().front().items.front().restored);
 }
 
 TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne)
@@ -264,20 +248,20 @@ TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne
     AppModel model(kCommand);
     const std::vector<std::string> paths = manyFiles(home, 300);
     ASSERT_TRUE(cleaned(model, planOf(paths)));
-    const CleanRecord record = model.history().front();
+    const CleanRecord record = model.cleanUps()->history().front();
     std::vector<std::string> messages;
-    QObject::connect(&model, &AppModel::restored, [&](const AppModel::Restoration& restoration) {
-        EXPECT_FALSE(model.isRestoring(record.id));
-        EXPECT_EQ(model.history().front(), restoration.outcome.record);
+    QObject::connect(model.cleanUps(), &CleanUps::restored, [&](const CleanUps::Restoration& restoration) {
+        EXPECT_FALSE(model.cleanUps()->isRestoring(record.id));
+        EXPECT_EQ(model.cleanUps()->history().front(), restoration.outcome.record);
         messages.push_back(restoration.message);
     });
-    EXPECT_TRUE(model.startRestore(record));
-    EXPECT_TRUE(model.isRestoring(record.id));
-    EXPECT_FALSE(model.startRestore(record));
+    EXPECT_TRUE(model.cleanUps()->startRestore(record));
+    EXPECT_TRUE(model.cleanUps()->isRestoring(record.id));
+    EXPECT_FALSE(model.cleanUps()->startRestore(record));
     ASSERT_TRUE(waitUntil([&] { return !messages.empty(); }));
     EXPECT_THAT(messages, ElementsAre("Restored 300 items."));
     EXPECT_TRUE(std::all_of(paths.begin(), paths.end(), TempHome::exists));
-    EXPECT_EQ(Persist::loadHistory().records.front().items, model.history().front().items);
+    EXPECT_EQ(Persist::loadHistory().records.front().items, model.cleanUps()->history().front().items);
 }
 
 TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
@@ -287,7 +271,7 @@ TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
     {
         AppModel model(kCommand);
         ASSERT_TRUE(cleaned(model, planOf(paths)));
-        EXPECT_TRUE(model.startRestore(model.history().front()));
+        EXPECT_TRUE(model.cleanUps()->startRestore(model.cleanUps()->history().front()));
         ASSERT_TRUE(waitUntil([&] { return TempHome::exists(home.path(".cache/many/0")); }));
     }
     const std::vector<CleanRecord> history = Persist::loadHistory().records;

@@ -62,10 +62,10 @@ TEST(AppModelTest, startUpRecordsASnapshotWhenOneIsDue)
         if (c.age)
             (void)Persist::saveSnapshots({Snapshot{now() - *c.age, 1, 2, {}}});
         AppModel model({AppModel::Startup::full});
-        ASSERT_TRUE(waitUntil([&] { return model.isBreakdownReady(); }));
-        EXPECT_THAT(model.snapshots(), SizeIs(c.expected));
+        ASSERT_TRUE(waitUntil([&] { return model.storage()->isBreakdownReady(); }));
+        EXPECT_THAT(model.storage()->snapshots(), SizeIs(c.expected));
         EXPECT_THAT(Persist::loadSnapshots().records, SizeIs(c.expected));
-        EXPECT_EQ(model.breakdown().cats.size(), 7U);
+        EXPECT_EQ(model.storage()->breakdown().cats.size(), 7U);
     }
 }
 
@@ -73,9 +73,9 @@ TEST(AppModelTest, aSnapshotIsStaleAfterTwelveHoursAndNotAtThem)
 {
     const TimePoint moment = now();
     const std::vector<Snapshot> snapshots{{moment - 100h, 0, 0, {}}, {moment - 12h, 0, 0, {}}};
-    EXPECT_FALSE(AppModel::isStale(snapshots, moment));
-    EXPECT_TRUE(AppModel::isStale(snapshots, moment + 1s));
-    EXPECT_TRUE(AppModel::isStale({}, moment));
+    EXPECT_FALSE(Storage::isStale(snapshots, moment));
+    EXPECT_TRUE(Storage::isStale(snapshots, moment + 1s));
+    EXPECT_TRUE(Storage::isStale({}, moment));
 }
 
 TEST(AppModelTest, aSnapshotReplacesOneOfThePastHour)
@@ -84,13 +84,13 @@ TEST(AppModelTest, aSnapshotReplacesOneOfThePastHour)
     const TimePoint midnight = std::chrono::floor<std::chrono::days>(now());
     (void)Persist::saveSnapshots({{now() - 25h, 1, 2, {}}, {now() - 61min, 1, 2, {}}});
     AppModel model(kCommand);
-    model.recordSnapshot();
-    EXPECT_THAT(model.snapshots(), SizeIs(3));
-    model.recordSnapshot();
+    model.storage()->recordSnapshot();
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(3));
+    model.storage()->recordSnapshot();
     if (std::chrono::floor<std::chrono::days>(now()) != midnight)
         GTEST_SKIP() << "midnight has just passed";
-    EXPECT_THAT(model.snapshots(), SizeIs(3));
-    EXPECT_EQ(Persist::loadSnapshots().records.back().free, model.breakdown().free);
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(3));
+    EXPECT_EQ(Persist::loadSnapshots().records.back().free, model.storage()->breakdown().free);
 }
 
 TEST(AppModelTest, aFileThatCannotBeUsedIsToldInOneSentence)
@@ -113,11 +113,11 @@ TEST(AppModelTest, theOldestOf401SnapshotsIsDropped)
         snapshots.push_back({now() - 1h * (500 - i), i, 1000, {}});
     (void)Persist::saveSnapshots(snapshots);
     AppModel model(kCommand);
-    model.recordSnapshot();
+    model.storage()->recordSnapshot();
     const std::vector<Snapshot> saved = Persist::loadSnapshots().records;
     ASSERT_THAT(saved, SizeIs(400));
     EXPECT_EQ(saved.front().free, 1);
-    EXPECT_THAT(model.snapshots(), SizeIs(400));
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(400));
 }
 
 TEST(AppModelTest, aScanSortsItsFindingsAndSelectsTheSafeEntries)
@@ -125,20 +125,22 @@ TEST(AppModelTest, aScanSortsItsFindingsAndSelectsTheSafeEntries)
     const UsedHome home;
     AppModel model(kCommand);
     scan(model);
-    ASSERT_EQ(model.phase(), Phase::results);
+    ASSERT_EQ(model.results()->phase(), Phase::results);
     // Safe bytes first; then the Trash, which has none but more bytes than the download.
-    EXPECT_THAT(kinds(model.findings()), ElementsAre(FindingKind::caches, FindingKind::logs,
-                                                     FindingKind::trash, FindingKind::oldDownloads));
-    EXPECT_THAT(model.selection(), ElementsAre(home.path(".cache/player"), home.path(".cache/viewer"),
-                                               home.path(".xsession-errors")));
+    EXPECT_THAT(
+        kinds(model.results()->findings()),
+        ElementsAre(FindingKind::caches, FindingKind::logs, FindingKind::trash, FindingKind::oldDownloads));
+    EXPECT_THAT(
+        model.results()->selection(),
+        ElementsAre(home.path(".cache/player"), home.path(".cache/viewer"), home.path(".xsession-errors")));
     const std::int64_t safe = (400 + 800 + 64) * kKiB;
-    EXPECT_EQ(model.safeBytes(), safe);
-    EXPECT_EQ(model.totalFound(), safe + 300 * kKiB);
-    EXPECT_EQ(model.selectedSize(model.findings().front()), (400 + 800) * kKiB);
-    EXPECT_THAT(model.photoFindings(), IsEmpty());
-    EXPECT_TRUE(model.isBreakdownReady());
-    EXPECT_TRUE(model.lastScan().has_value());
-    EXPECT_THAT(model.snapshots(), SizeIs(1));
+    EXPECT_EQ(model.results()->safeBytes(), safe);
+    EXPECT_EQ(model.results()->totalFound(), safe + 300 * kKiB);
+    EXPECT_EQ(model.results()->selectedSize(model.results()->findings().front()), (400 + 800) * kKiB);
+    EXPECT_THAT(model.results()->photoFindings(), IsEmpty());
+    EXPECT_TRUE(model.storage()->isBreakdownReady());
+    EXPECT_TRUE(model.results()->lastScan().has_value());
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(1));
 }
 
 TEST(AppModelTest, aCancelledScanKeepsWhatWasThereBefore)
@@ -146,17 +148,17 @@ TEST(AppModelTest, aCancelledScanKeepsWhatWasThereBefore)
     const UsedHome home;
     AppModel model(kCommand);
     scan(model);
-    const auto findings = model.findings();
-    const auto lastScan = model.lastScan();
-    model.setSelection({findings.front().items.front().path});
-    const auto selection = model.selection();
-    model.startScan();
-    model.cancelScan();
-    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
-    EXPECT_EQ(model.phase(), Phase::idle);
-    EXPECT_EQ(model.findings(), findings);
-    EXPECT_EQ(model.selection(), selection);
-    EXPECT_EQ(model.lastScan(), lastScan);
+    const auto findings = model.results()->findings();
+    const auto lastScan = model.results()->lastScan();
+    model.results()->setSelection({findings.front().items.front().path});
+    const auto selection = model.results()->selection();
+    model.results()->startScan();
+    model.results()->cancelScan();
+    ASSERT_TRUE(waitUntil([&] { return model.results()->phase() != Phase::scanning; }));
+    EXPECT_EQ(model.results()->phase(), Phase::idle);
+    EXPECT_EQ(model.results()->findings(), findings);
+    EXPECT_EQ(model.results()->selection(), selection);
+    EXPECT_EQ(model.results()->lastScan(), lastScan);
     EXPECT_THAT(Persist::loadSnapshots().records, SizeIs(1));
 }
 
@@ -165,15 +167,15 @@ TEST(AppModelTest, aSecondStartWhileScanningIsIgnored)
     const TempHome home;
     AppModel model(kCommand);
     int scansSeen = 0;
-    QObject::connect(&model, &AppModel::scanProgressChanged, [&] { ++scansSeen; });
-    model.startScan();
-    const ScanProgress* progress = &model.scanProgress();
-    model.startScan();
-    EXPECT_EQ(&model.scanProgress(), progress);
-    ASSERT_TRUE(waitUntil([&] { return model.phase() == Phase::results; }));
+    QObject::connect(model.results(), &Results::scanProgressChanged, [&] { ++scansSeen; });
+    model.results()->startScan();
+    const ScanProgress* progress = &model.results()->scanProgress();
+    model.results()->startScan();
+    EXPECT_EQ(&model.results()->scanProgress(), progress);
+    ASSERT_TRUE(waitUntil([&] { return model.results()->phase() == Phase::results; }));
     EXPECT_EQ(scansSeen, 1);
-    EXPECT_THAT(model.snapshots(), SizeIs(1));
-    for (const ScanStep& step : model.scanProgress().steps())
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(1));
+    for (const ScanStep& step : model.results()->scanProgress().steps())
         EXPECT_EQ(step.state, StepState::done) << label(step.kind);
 }
 
@@ -183,12 +185,12 @@ TEST(AppModelTest, theLargeFileThresholdIsInDecimalMegabytes)
     home.fileOfSize("Videos/small.mkv", 1'998'848);
     home.fileOfSize("Videos/large.mkv", 2'002'944);
     AppModel model(kCommand);
-    model.setLargeThresholdMB(2);
+    model.results()->setLargeThresholdMB(2);
     scan(model);
-    ASSERT_THAT(kinds(model.findings()), ElementsAre(FindingKind::largeFiles));
-    ASSERT_THAT(model.findings().front().items, SizeIs(1));
-    EXPECT_EQ(model.findings().front().items.front().path, home.path("Videos/large.mkv"));
-    EXPECT_THAT(model.selection(), IsEmpty());
+    ASSERT_THAT(kinds(model.results()->findings()), ElementsAre(FindingKind::largeFiles));
+    ASSERT_THAT(model.results()->findings().front().items, SizeIs(1));
+    EXPECT_EQ(model.results()->findings().front().items.front().path, home.path("Videos/large.mkv"));
+    EXPECT_THAT(model.results()->selection(), IsEmpty());
 }
 
 TEST(AppModelTest, thePlanHoldsTheSelectedEntriesThatMayMove)
@@ -196,14 +198,15 @@ TEST(AppModelTest, thePlanHoldsTheSelectedEntriesThatMayMove)
     const UsedHome home;
     AppModel model(kCommand);
     scan(model);
-    model.setSelection({});
-    EXPECT_EQ(model.scanPlan().title, "Smart Scan clean-up");
-    EXPECT_THAT(model.scanPlan().sections, IsEmpty());
+    model.results()->setSelection({});
+    EXPECT_EQ(model.results()->scanPlan().title, "Smart Scan clean-up");
+    EXPECT_THAT(model.results()->scanPlan().sections, IsEmpty());
 
     // What lies in the Trash is never planned, nor is what is no entry.
-    model.setSelection({home.path(".local/share/Trash/files/thrown"), home.path("Downloads/paper.pdf"),
-                        home.path("Downloads"), home.path(".cache/viewer")});
-    const CleanPlan plan = model.scanPlan();
+    model.results()->setSelection({home.path(".local/share/Trash/files/thrown"),
+                                   home.path("Downloads/paper.pdf"), home.path("Downloads"),
+                                   home.path(".cache/viewer")});
+    const CleanPlan plan = model.results()->scanPlan();
     ASSERT_THAT(plan.sections, SizeIs(2));
     EXPECT_EQ(plan.sections[0].id, "caches");
     EXPECT_THAT(plan.sections[0].entries, SizeIs(1));
@@ -218,15 +221,15 @@ TEST(AppModelTest, onlyTheFirstModelWrites)
     EXPECT_TRUE(first.isWriter());
     EXPECT_FALSE(second.isWriter());
     scan(second);
-    EXPECT_EQ(second.phase(), Phase::results);
-    EXPECT_THAT(second.snapshots(), SizeIs(1));
+    EXPECT_EQ(second.results()->phase(), Phase::results);
+    EXPECT_THAT(second.storage()->snapshots(), SizeIs(1));
     EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty());
 }
 
 TEST(AppModelTest, aModelThatOnlyReadsLeavesTheLockToOthers)
 {
     const TempHome home;
-    const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
+    const AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, {}});
     EXPECT_FALSE(reader.isWriter());
     EXPECT_FALSE(TempHome::exists(home.path(".local")));
     EXPECT_TRUE(AppModel(kCommand).isWriter());
@@ -240,8 +243,8 @@ TEST(AppModelTest, aDataFolderThatCannotBeMadeDoesNotStopAScan)
     AppModel model(kCommand);
     EXPECT_TRUE(model.isWriter());
     scan(model);
-    EXPECT_EQ(model.phase(), Phase::results);
-    EXPECT_THAT(model.snapshots(), SizeIs(1));
+    EXPECT_EQ(model.results()->phase(), Phase::results);
+    EXPECT_THAT(model.storage()->snapshots(), SizeIs(1));
 }
 
 TEST(AppModelTest, aModelMayGoWhileItScans)
@@ -249,8 +252,8 @@ TEST(AppModelTest, aModelMayGoWhileItScans)
     const UsedHome home;
     for (const auto startup : {AppModel::Startup::full, AppModel::Startup::filesOnly}) {
         {
-            AppModel model({startup, AppModel::Access::writer, 0ms});
-            model.startScan();
+            AppModel model({startup, AppModel::Access::writer, {}});
+            model.results()->startScan();
         }
         QCoreApplication::processEvents();
         EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty());

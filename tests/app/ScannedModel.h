@@ -7,14 +7,13 @@
 
 namespace orlen {
 
-/// A model as a command has it, which shows a clean-up no longer than it takes.
-inline const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                                        std::chrono::milliseconds(0)};
+/// A model as a command has it.
+inline const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, {}};
 
 inline void scan(AppModel& model)
 {
-    model.startScan();
-    ASSERT_TRUE(waitUntil([&] { return model.phase() != Phase::scanning; }));
+    model.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return model.results()->phase() != Phase::scanning; }));
 }
 
 } // namespace orlen

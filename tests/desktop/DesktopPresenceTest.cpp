@@ -90,14 +90,14 @@ TEST_F(DesktopPresenceTest, theSmallWindowLeadsToTheMainOne)
 TEST_F(DesktopPresenceTest, theEndOfAScanIsToldWhenTheWindowIsNotInFront)
 {
     m_window->hide();
-    m_app.startScan();
+    m_app.results()->startScan();
     ASSERT_TRUE(waitUntil([&] { return !m_notices.shown().isEmpty(); }));
     EXPECT_EQ(m_notices.shown()[0].title, "Smart Scan finished");
     EXPECT_EQ(m_notices.shown()[0].text, "Nothing is rated Safe right now");
 
-    m_app.startScan();
-    m_app.cancelScan();
-    ASSERT_TRUE(waitUntil([&] { return m_app.phase() == Phase::idle; }));
+    m_app.results()->startScan();
+    m_app.results()->cancelScan();
+    ASSERT_TRUE(waitUntil([&] { return m_app.results()->phase() == Phase::idle; }));
     EXPECT_EQ(m_notices.shown().size(), 1) << "a cancelled scan is no news";
 }
 

@@ -1,4 +1,5 @@
 #include "window/apps/AppDetailModel.h"
+#include "window/shell/WindowState.h"
 
 #include "app/EventLoop.h"
 #include "window/AppsOnDisk.h"
@@ -36,7 +37,7 @@ struct Detail {
         return detail.index(row).data(static_cast<int>(role)).toString();
     }
 
-    AppModel app{{AppModel::Startup::full, AppModel::Access::writer, std::chrono::milliseconds(0)}};
+    AppModel app{{AppModel::Startup::full, AppModel::Access::writer, {}}};
     AppListModel apps{app};
     AppDetailModel detail{app};
     QAbstractItemModelTester tester{&detail, QAbstractItemModelTester::FailureReportingMode::Fatal};
@@ -71,8 +72,9 @@ TEST(AppDetailModelTest, leadsFromTheChosenLeftoversToTheReview)
     ASSERT_TRUE(d.detail.isReady());
     d.detail.review();
     EXPECT_FALSE(d.detail.isOpen());
-    ASSERT_TRUE(d.app.sheet() && std::holds_alternative<PlanSheet>(*d.app.sheet()));
-    const CleanPlan& plan = std::get<PlanSheet>(*d.app.sheet()).plan;
+    ASSERT_TRUE(WindowState::of(d.app).sheet() &&
+                std::holds_alternative<PlanSheet>(*WindowState::of(d.app).sheet()));
+    const CleanPlan& plan = std::get<PlanSheet>(*WindowState::of(d.app).sheet()).plan;
     EXPECT_EQ(plan.title, "Uninstall Kite");
     ASSERT_EQ(plan.sections.size(), 2);
     EXPECT_EQ(plan.sections[0].entries.at(0).path, path);
@@ -94,17 +96,17 @@ TEST(AppDetailModelTest, isBackAfterAReviewThatWasCancelledAndOnlyThen)
     d.detail.review();
     QCoreApplication::processEvents();
     EXPECT_FALSE(d.detail.isOpen());
-    d.app.setSheet(std::nullopt);
+    WindowState::of(d.app).setSheet(std::nullopt);
     ASSERT_TRUE(waitUntil([&] { return d.detail.isOpen(); }));
     EXPECT_EQ(d.detail.chosenText(), chosen);
 
     d.detail.review();
-    CleanPlan plan = std::get<PlanSheet>(*d.app.sheet()).plan;
+    CleanPlan plan = std::get<PlanSheet>(*WindowState::of(d.app).sheet()).plan;
     plan.sections.resize(1);
-    d.app.confirm(plan);
+    d.app.cleanUps()->confirm(plan);
     QCoreApplication::processEvents();
     EXPECT_FALSE(d.detail.isOpen());
-    ASSERT_TRUE(waitUntil([&] { return d.app.cleaning()->finished; }));
+    ASSERT_TRUE(waitUntil([&] { return d.app.cleanUps()->cleaning()->finished; }));
     EXPECT_FALSE(d.detail.isOpen());
 }
 
@@ -131,7 +133,7 @@ TEST(AppDetailModelTest, givesTheCommandOfWhatItCannotRemove)
     EXPECT_FALSE(d.detail.isRemovable());
     EXPECT_FALSE(d.detail.isReady());
     d.detail.review();
-    EXPECT_FALSE(d.app.sheet());
+    EXPECT_FALSE(WindowState::of(d.app).sheet());
     d.detail.copyCommand();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), d.detail.command());
     EXPECT_TRUE(d.detail.advice().endsWith(d.detail.command()));
@@ -147,7 +149,7 @@ TEST(AppDetailModelTest, closesWhenItsApplicationIsGone)
     ASSERT_TRUE(d.show("Kite"));
     FileEntry entry;
     entry.path = path;
-    d.app.confirm({Uuid::random(), "", {{"app", "", "", {entry}, {}}}});
+    d.app.cleanUps()->confirm({Uuid::random(), "", {{"app", "", "", {entry}, {}}}});
     EXPECT_TRUE(waitUntil([&] { return !d.detail.isOpen(); }));
     EXPECT_EQ(d.apps.rowCount(), 1);
 }

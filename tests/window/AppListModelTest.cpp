@@ -37,7 +37,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     AppsOnDisk::image(home, "Applications/Kite.AppImage");
     const std::string gone = AppsOnDisk::image(home, "Applications/Lark.AppImage");
     AppsOnDisk::image(home, "Downloads/Wren-2.1-x86_64.AppImage");
-    AppModel app({AppModel::Startup::full, AppModel::Access::writer, std::chrono::milliseconds(0)});
+    AppModel app({AppModel::Startup::full, AppModel::Access::writer, {}});
     AppListModel apps(app);
     const QAbstractItemModelTester tester(&apps, kFatal);
     ASSERT_TRUE(waitUntil([&] { return isSettled(apps); }));
@@ -51,7 +51,8 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     const QSignalSpy insertions(&apps, &QAbstractItemModel::rowsInserted);
     FileEntry entry;
     entry.path = gone;
-    app.confirm({Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
+    app.cleanUps()->confirm(
+        {Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
     ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 2 && isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);

@@ -68,8 +68,8 @@ TEST(ConversationModelTest, linksOnlyToFindingsThatAreStillThere)
     home.fileOfSize("Documents/a.bin", 2'097'152, 7);
     home.fileOfSize("Documents/b.bin", 2'097'152, 7);
     AppModel app({.startup = AppModel::Startup::filesOnly});
-    app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
     ConversationModel model(app);
     ASSERT_TRUE(model.ask("duplicate"));
     ASSERT_TRUE(waitUntil([&] { return !model.isThinking(); }));
@@ -80,7 +80,7 @@ TEST(ConversationModelTest, linksOnlyToFindingsThatAreStillThere)
     EXPECT_EQ(links->data(links->index(0), static_cast<int>(FindingLinks::Role::findingId)), "duplicates");
     EXPECT_EQ(links->data(links->index(0), static_cast<int>(FindingLinks::Role::size)), "2.1 MB");
 
-    app.removeFromFindings({home.path("Documents/a.bin"), home.path("Documents/b.bin")});
+    app.results()->removeFromFindings({home.path("Documents/a.bin"), home.path("Documents/b.bin")});
     EXPECT_TRUE(links->rowCount() == 0 ||
                 links->data(links->index(0), static_cast<int>(FindingLinks::Role::size)) == "0 bytes");
 }

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms};
+const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, {}};
 
 /// Caches of 400, 300, 200 and 100 KiB after a scan; the third is one to review.
 class EntryListModelTest : public testing::Test {
@@ -33,8 +33,8 @@ protected:
         const TimePoint now = std::chrono::system_clock::now();
         TempHome::setTimes(m_home.path(".cache/pear"), now - 24h, now - 24h);
         TempHome::setTimes(m_home.path(".cache/Zebra"), now - 48h, now - 48h);
-        m_app.startScan();
-        EXPECT_TRUE(waitUntil([&] { return m_app.phase() == Phase::results; }));
+        m_app.results()->startScan();
+        EXPECT_TRUE(waitUntil([&] { return m_app.results()->phase() == Phase::results; }));
         m_list.setFindingId("caches");
     }
 
@@ -102,17 +102,17 @@ TEST_F(EntryListModelTest, filtersAndSelectsOnlyWhatIsShown)
 
 TEST_F(EntryListModelTest, selectsWithOneWordToTheApplication)
 {
-    const QSignalSpy changes(&m_app, &AppModel::selectionChanged);
+    const QSignalSpy changes(m_app.results(), &Results::selectionChanged);
     m_list.toggle(0);
-    EXPECT_FALSE(m_app.selection().contains(m_home.path(".cache/Zebra")));
+    EXPECT_FALSE(m_app.results()->selection().contains(m_home.path(".cache/Zebra")));
     m_list.selectShown();
-    EXPECT_THAT(m_app.selection(), SizeIs(4));
+    EXPECT_THAT(m_app.results()->selection(), SizeIs(4));
     EXPECT_EQ(changes.size(), 2);
     m_list.selectShown();
     m_list.toggle(-1);
     m_list.toggle(4);
     EXPECT_EQ(changes.size(), 2);
-    m_app.setSelection({m_home.path(".cache/pear")});
+    m_app.results()->setSelection({m_home.path(".cache/pear")});
     EXPECT_EQ(marks(), QStringList({"false", "false", "false", "true"}));
     EXPECT_EQ(m_list.selectedSizeText(), "102 KB");
 }
@@ -122,12 +122,12 @@ TEST_F(EntryListModelTest, losesWhatWasMovedRowByRowAndKeepsItsTexts)
     m_list.sortBy(EntryListModel::ByName);
     const QSignalSpy removed(&m_list, &QAbstractItemModel::rowsRemoved);
     const QSignalSpy reset(&m_list, &QAbstractItemModel::modelReset);
-    m_app.removeFromFindings({m_home.path(".cache/pear"), m_home.path(".cache/Zebra")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/pear"), m_home.path(".cache/Zebra")});
     EXPECT_EQ(names(), QStringList({"apple", "spotify"}));
     EXPECT_EQ(marks(), QStringList({"true", "false"}));
     EXPECT_EQ(removed.size(), 2);
     EXPECT_EQ(m_list.selectedText(), "1 of 2 selected · 307 KB");
-    m_app.removeFromFindings({m_home.path(".cache/apple"), m_home.path(".cache/spotify")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/apple"), m_home.path(".cache/spotify")});
     EXPECT_EQ(m_list.rowCount(), 0);
     EXPECT_EQ(m_list.header().title, "App caches");
     EXPECT_TRUE(reset.isEmpty());
@@ -144,14 +144,14 @@ TEST_F(EntryListModelTest, learnsWhatIsAFolderLater)
 TEST_F(EntryListModelTest, theTrashCannotBeSelected)
 {
     m_home.fileOfSize(".local/share/Trash/files/thrown", 4096);
-    m_app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return m_app.phase() == Phase::results; }));
+    m_app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return m_app.results()->phase() == Phase::results; }));
     m_list.setFindingId("trash");
     EXPECT_FALSE(m_list.header().isCleanable);
     EXPECT_EQ(m_list.selectedText(), "1 item · 4 KB");
-    const auto before = m_app.selection();
+    const auto before = m_app.results()->selection();
     m_list.selectShown();
-    EXPECT_EQ(m_app.selection(), before);
+    EXPECT_EQ(m_app.results()->selection(), before);
     m_list.setFindingId("blurry");
     EXPECT_EQ(m_list.header().title, "Blurry shots");
     EXPECT_EQ(m_list.rowCount(), 0);
@@ -168,8 +168,8 @@ TEST(SelectionTest, whatIsTickedIsWhatMoves)
     for (const std::string& path : {both, inside, folder})
         TempHome::setTimes(path, old, old);
     AppModel app(kCommand);
-    app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
     EntryListModel downloads(app);
     EntryListModel duplicates(app);
     const auto follow = [&](EntryListModel& list, const char* id) {
@@ -180,31 +180,32 @@ TEST(SelectionTest, whatIsTickedIsWhatMoves)
     follow(duplicates, "duplicates");
     downloads.selectShown();
     EXPECT_EQ(duplicates.selectedCount(), 2) << "ticked in one list, ticked in all";
-    EXPECT_EQ(app.selectedAmount().items, 2);
-    EXPECT_EQ(app.selectedAmount().bytes, app.selectedSize(app.findings()[0]));
+    EXPECT_EQ(app.results()->selectedAmount().items, 2);
+    EXPECT_EQ(app.results()->selectedAmount().bytes,
+              app.results()->selectedSize(app.results()->findings()[0]));
     const std::vector<std::string> one{inside};
-    app.deselect(one);
-    EXPECT_THAT(app.selection(), ElementsAre(both)) << "the folder would take it along";
+    app.results()->deselect(one);
+    EXPECT_THAT(app.results()->selection(), ElementsAre(both)) << "the folder would take it along";
     EXPECT_EQ(downloads.selectedCount(), 1);
-    app.setSelection({folder});
-    EXPECT_THAT(app.selection(), ElementsAre(folder, inside));
-    EXPECT_THAT(app.scanPlan().sections, SizeIs(2)) << "everything that goes along is shown";
+    app.results()->setSelection({folder});
+    EXPECT_THAT(app.results()->selection(), ElementsAre(folder, inside));
+    EXPECT_THAT(app.results()->scanPlan().sections, SizeIs(2)) << "everything that goes along is shown";
 }
 
 TEST(SelectionTest, isAddedToAndTakenFromWithOneSignal)
 {
     const TempHome home;
     AppModel app(kCommand);
-    const QSignalSpy changes(&app, &AppModel::selectionChanged);
+    const QSignalSpy changes(app.results(), &Results::selectionChanged);
     const std::vector<std::string> paths{"/a", "/b"};
-    app.select(paths);
-    app.select(paths);
-    EXPECT_THAT(app.selection(), ElementsAre("/a", "/b"));
+    app.results()->select(paths);
+    app.results()->select(paths);
+    EXPECT_THAT(app.results()->selection(), ElementsAre("/a", "/b"));
     EXPECT_EQ(changes.size(), 1);
-    app.deselect(std::vector<std::string>{"/b", "/never"});
-    EXPECT_THAT(app.selection(), ElementsAre("/a"));
-    app.deselect(std::vector<std::string>{"/b"});
-    app.select({});
+    app.results()->deselect(std::vector<std::string>{"/b", "/never"});
+    EXPECT_THAT(app.results()->selection(), ElementsAre("/a"));
+    app.results()->deselect(std::vector<std::string>{"/b"});
+    app.results()->select({});
     EXPECT_EQ(changes.size(), 2);
 }
 

@@ -17,8 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 
-const AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                               std::chrono::milliseconds(0)};
+const AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::writer, {}};
 
 void clean(AppModel& app, const std::vector<std::string>& paths, const std::string& title)
 {
@@ -27,8 +26,9 @@ void clean(AppModel& app, const std::vector<std::string>& paths, const std::stri
     plan.sections.push_back({"caches", "App caches", "internaldrive.fill", {}});
     for (const std::string& path : paths)
         plan.sections.front().entries.push_back({path, 4096});
-    app.confirm(plan);
-    ASSERT_TRUE(waitUntil([&] { return app.cleaning() && app.cleaning()->finished; }));
+    app.cleanUps()->confirm(plan);
+    ASSERT_TRUE(
+        waitUntil([&] { return app.cleanUps()->cleaning() && app.cleanUps()->cleaning()->finished; }));
 }
 
 template <typename Model>
@@ -93,7 +93,7 @@ TEST(HistoryModelTest, aProgramThatMayNotWriteRestoresNothing)
     HistoryModel history(reader);
     ASSERT_EQ(history.rowCount(), 1);
     history.restore(0);
-    EXPECT_FALSE(reader.isRestoring(reader.history().front().id));
+    EXPECT_FALSE(reader.cleanUps()->isRestoring(reader.cleanUps()->history().front().id));
     EXPECT_FALSE(TempHome::exists(home.path(".cache/a")));
 }
 
@@ -106,7 +106,7 @@ TEST(RecordItemsModelTest, tellsWhereEachItemIsNow)
     const QAbstractItemModelTester tester(&items, QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(items.rowCount(), 0);
     QSignalSpy changed(&items, &QAbstractItemModel::dataChanged);
-    items.setRecordId(QString::fromStdString(app.history().front().id.text()));
+    items.setRecordId(QString::fromStdString(app.cleanUps()->history().front().id.text()));
     EXPECT_THAT(column(items, RecordItemsModel::Role::name), ElementsAre("a", "b", "c"));
     EXPECT_THAT(column(items, RecordItemsModel::Role::folder),
                 ElementsAre("~/.cache", "~/.cache", "~/.cache"));
@@ -115,12 +115,15 @@ TEST(RecordItemsModelTest, tellsWhereEachItemIsNow)
     EXPECT_EQ(column(items, RecordItemsModel::Role::statusText)[0], "In the Trash");
 
     // Somebody puts b back in the file manager, and something stands where c was.
-    const TrashedItem b = app.history().front().items[1];
-    ASSERT_TRUE(Cleaner::restore({Uuid::random(), app.history().front().date, "b", {b}, 0}).restored == 1);
+    const TrashedItem b = app.cleanUps()->history().front().items[1];
+    ASSERT_TRUE(
+        Cleaner::restore({Uuid::random(), app.cleanUps()->history().front().date, "b", {b}, 0}).restored ==
+        1);
     home.file(".cache/c", "taken");
     QSignalSpy reset(&items, &QAbstractItemModel::modelReset);
-    ASSERT_TRUE(app.startRestore(app.history().front()));
-    ASSERT_TRUE(waitUntil([&] { return !app.isRestoring(app.history().front().id); }));
+    ASSERT_TRUE(app.cleanUps()->startRestore(app.cleanUps()->history().front()));
+    ASSERT_TRUE(
+        waitUntil([&] { return !app.cleanUps()->isRestoring(app.cleanUps()->history().front().id); }));
     ASSERT_TRUE(
         waitUntil([&] { return column(items, RecordItemsModel::Role::statusText)[0] == "Restored"; }));
     EXPECT_THAT(column(items, RecordItemsModel::Role::statusText),

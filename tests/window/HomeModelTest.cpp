@@ -1,4 +1,5 @@
 #include "window/home/HomeModel.h"
+#include "window/shell/WindowState.h"
 
 #include "window/home/FindingListModel.h"
 
@@ -18,7 +19,6 @@ AppModel::Options quick()
 {
     AppModel::Options options;
     options.startup = AppModel::Startup::filesOnly;
-    options.overlayMinimum = {};
     return options;
 }
 
@@ -33,8 +33,8 @@ void fill(const TempHome& home)
 
 void scan(AppModel& app)
 {
-    app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
 }
 
 } // namespace
@@ -91,9 +91,9 @@ TEST_F(FindingListModelTest, aSelectionTouchesOnlyTheCardItBelongsTo)
 {
     const QSignalSpy changes(&m_cards, &QAbstractItemModel::dataChanged);
     const QSignalSpy resets(&m_cards, &QAbstractItemModel::modelReset);
-    std::set<std::string> selection = m_app.selection();
+    std::set<std::string> selection = m_app.results()->selection();
     ASSERT_EQ(selection.erase(m_home.path(".cache/beta")), 1);
-    m_app.setSelection(selection);
+    m_app.results()->setSelection(selection);
     ASSERT_EQ(changes.count(), 1);
     EXPECT_EQ(changes.at(0).at(0).toModelIndex().row(), rowOf("caches"));
     EXPECT_EQ(value(rowOf("caches"), FindingListModel::Role::selected).toString(), "41 MB");
@@ -103,10 +103,10 @@ TEST_F(FindingListModelTest, aSelectionTouchesOnlyTheCardItBelongsTo)
 TEST_F(FindingListModelTest, aSelectionMadeInASheetShowsWhenItCloses)
 {
     const int caches = rowOf("caches");
-    m_app.setSheet(FindingSheet{"caches"});
-    m_app.setSelection({});
+    WindowState::of(m_app).setSheet(FindingSheet{"caches"});
+    m_app.results()->setSelection({});
     EXPECT_EQ(value(caches, FindingListModel::Role::selected).toString(), "61.4 MB");
-    m_app.setSheet(std::nullopt);
+    WindowState::of(m_app).setSheet(std::nullopt);
     EXPECT_EQ(value(caches, FindingListModel::Role::selected).toString(), "");
 }
 
@@ -118,26 +118,26 @@ TEST_F(FindingListModelTest, whatIsCleanedTakesOnlyItsOwnCardAway)
     const QSignalSpy removals(&m_cards, &QAbstractItemModel::rowsRemoved);
     const QSignalSpy resets(&m_cards, &QAbstractItemModel::modelReset);
     std::set<std::string> gone{m_home.path(".cache/alpha")};
-    for (const FileEntry& entry : m_app.findings()[static_cast<std::size_t>(npm)].items)
+    for (const FileEntry& entry : m_app.results()->findings()[static_cast<std::size_t>(npm)].items)
         gone.insert(entry.path);
-    m_app.removeFromFindings(gone);
+    m_app.results()->removeFromFindings(gone);
     ASSERT_EQ(removals.count(), 1);
     EXPECT_EQ(removals.at(0).at(1).toInt(), npm);
     EXPECT_EQ(m_cards.rowCount(), cards - 1);
     EXPECT_EQ(value(rowOf("caches"), FindingListModel::Role::size).toString(), "20.5 MB");
     EXPECT_EQ(resets.count(), 0);
-    m_app.removeFromFindings({m_home.path(".cache/beta")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/beta")});
     EXPECT_EQ(rowOf("caches"), -1);
 }
 
 TEST_F(FindingListModelTest, anotherScanShowsItsOwnFindings)
 {
-    m_app.removeFromFindings({m_home.path(".cache/alpha"), m_home.path(".cache/beta")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/alpha"), m_home.path(".cache/beta")});
     ASSERT_EQ(rowOf("caches"), -1);
-    m_app.resetToIdle();
+    m_app.results()->resetToIdle();
     scan(m_app);
     EXPECT_GE(rowOf("caches"), 0);
-    EXPECT_EQ(m_cards.rowCount(), static_cast<int>(m_app.findings().size()));
+    EXPECT_EQ(m_cards.rowCount(), static_cast<int>(m_app.results()->findings().size()));
 }
 
 TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
@@ -147,7 +147,7 @@ TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
     AppModel app(quick());
     HomeModel model(app);
     EXPECT_FALSE(model.hasFindings());
-    app.showResults();
+    app.results()->showResults();
     EXPECT_EQ(model.phase(), HomeModel::Idle) << "there are no results to show";
     scan(app);
     EXPECT_EQ(model.phase(), HomeModel::Results);
@@ -158,13 +158,13 @@ TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
     EXPECT_EQ(model.unreadableText(), "");
     for (const char* name : {"Documents/one", "Documents/two"})
         TempHome::setMode(home.folder(name), 0);
-    app.resetToIdle();
+    app.results()->resetToIdle();
     scan(app);
     EXPECT_EQ(model.unreadableText(), "2 folders could not be read");
     EXPECT_EQ(model.unreadableFolders(), "~/Documents/one\n~/Documents/two");
-    app.resetToIdle();
+    app.results()->resetToIdle();
     EXPECT_EQ(model.phase(), HomeModel::Idle);
-    app.showResults();
+    app.results()->showResults();
     EXPECT_EQ(model.phase(), HomeModel::Results);
 }
 
@@ -175,14 +175,14 @@ TEST(HomeModelTest, reviewsOnlyWhatIsSelected)
     AppModel app(quick());
     HomeModel model(app);
     scan(app);
-    app.setSelection({});
+    app.results()->setSelection({});
     EXPECT_FALSE(model.hasSelection());
     model.review();
-    EXPECT_FALSE(app.sheet().has_value());
-    app.setSelection({home.path(".cache/alpha")});
+    EXPECT_FALSE(WindowState::of(app).sheet().has_value());
+    app.results()->setSelection({home.path(".cache/alpha")});
     model.review();
-    ASSERT_TRUE(app.sheet().has_value());
-    const CleanPlan& plan = std::get<PlanSheet>(*app.sheet()).plan;
+    ASSERT_TRUE(WindowState::of(app).sheet().has_value());
+    const CleanPlan& plan = std::get<PlanSheet>(*WindowState::of(app).sheet()).plan;
     ASSERT_EQ(plan.sections.size(), 1);
     EXPECT_EQ(plan.sections[0].entries.size(), 1);
 }
@@ -195,11 +195,11 @@ TEST(HomeModelTest, offersTheThresholdsOfLargeFiles)
     EXPECT_EQ(model.thresholds().join(", "), "100 MB, 250 MB, 500 MB, 1 GB, 2 GB");
     EXPECT_EQ(model.threshold(), 2);
     model.setThreshold(4);
-    EXPECT_EQ(app.largeThresholdMB(), 2000);
+    EXPECT_EQ(app.results()->largeThresholdMB(), 2000);
     model.setThreshold(5);
     model.setThreshold(-1);
     EXPECT_EQ(model.threshold(), 4);
-    app.setLargeThresholdMB(750);
+    app.results()->setLargeThresholdMB(750);
     EXPECT_EQ(model.threshold(), -1);
     EXPECT_EQ(model.thresholdText(), "750 MB");
 }

@@ -16,8 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 
-const AppModel::Options kQuickPhotos{AppModel::Startup::filesOnly, AppModel::Access::writer,
-                                     std::chrono::milliseconds(0)};
+const AppModel::Options kQuickPhotos{AppModel::Startup::filesOnly, AppModel::Access::writer, {}};
 const QString kShots = QStringLiteral("screenshots");
 const QString kSimilar = QStringLiteral("photoDuplicates");
 
@@ -119,8 +118,8 @@ TEST(PhotoGroupsModelTest, tellsTheStages)
     AppModel app(kQuickPhotos);
     PhotoGroupsModel groups(app);
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::BeforeScan);
-    app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return app.phase() != Phase::scanning; }));
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() != Phase::scanning; }));
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::Nothing);
     groups.setFindings({shots(1)});
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::Groups);
@@ -133,18 +132,18 @@ TEST(PhotoGroupsModelTest, theSelectionIsTheApplicationsOwn)
     EXPECT_EQ(stage.groups.selectedText(), "");
     QSignalSpy changed(&stage.tiles, &QAbstractItemModel::dataChanged);
     stage.tiles.toggle(1);
-    EXPECT_THAT(stage.app.selection(), ElementsAre("/p/shot1.png"));
+    EXPECT_THAT(stage.app.results()->selection(), ElementsAre("/p/shot1.png"));
     EXPECT_EQ(changed.size(), 1);
     EXPECT_TRUE(at(stage.tiles, 1, PhotoTilesModel::Role::selected).toBool());
     EXPECT_EQ(at(stage.groups, 0, PhotoGroupsModel::Role::checkState).toInt(), Qt::PartiallyChecked);
     // Another photo of the same size elsewhere leaves the figures as they are, but not the rows.
-    stage.app.setSelection({"/p/shot2.png"});
+    stage.app.results()->setSelection({"/p/shot2.png"});
     EXPECT_FALSE(at(stage.tiles, 1, PhotoTilesModel::Role::selected).toBool());
     stage.groups.toggleAll(kShots);
-    EXPECT_EQ(stage.app.selection().size(), 3U);
+    EXPECT_EQ(stage.app.results()->selection().size(), 3U);
     EXPECT_TRUE(stage.groups.selectedText().startsWith("3 photos selected"));
     stage.groups.toggleAll(kShots);
-    EXPECT_TRUE(stage.app.selection().empty());
+    EXPECT_TRUE(stage.app.results()->selection().empty());
 }
 
 TEST(PhotoGroupsModelTest, aGroupThatIsCleanedAwayIsNoLongerShown)
@@ -196,9 +195,9 @@ TEST(PhotoTilesModelTest, aSetBeginsWithThePhotoThatIsKept)
     EXPECT_NE(at(stage.tiles, 0, PhotoTilesModel::Role::source).toString(), "");
     EXPECT_EQ(at(stage.tiles, 3, PhotoTilesModel::Role::source).toString(), "") << "it was not found";
     stage.tiles.toggle(0);
-    EXPECT_TRUE(stage.app.selection().empty()) << "a kept photo cannot be selected";
+    EXPECT_TRUE(stage.app.results()->selection().empty()) << "a kept photo cannot be selected";
     stage.tiles.toggle(1);
-    EXPECT_THAT(stage.app.selection(), ElementsAre(home.path("Pictures/a2.jpg")));
+    EXPECT_THAT(stage.app.results()->selection(), ElementsAre(home.path("Pictures/a2.jpg")));
 }
 
 } // namespace orlen

@@ -1,4 +1,5 @@
 #include "window/review/PlanModel.h"
+#include "window/shell/WindowState.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
@@ -25,7 +26,7 @@ protected:
         plan.sections.push_back(
             {"caches", "App caches", "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
         plan.sections.push_back({"app", "Viewer", "app.fill", {entry("c", 12)}});
-        m_app.setSheet(PlanSheet{plan});
+        WindowState::of(m_app).setSheet(PlanSheet{plan});
     }
 
     [[nodiscard]] FileEntry entry(const std::string& name, int kilobytes) const
@@ -43,7 +44,7 @@ protected:
     [[nodiscard]] QStringList marks() const { return shown(PlanModel::Role::mark); }
 
     TempHome m_home;
-    AppModel m_app{{AppModel::Startup::filesOnly, AppModel::Access::writer, 0ms}};
+    AppModel m_app{{AppModel::Startup::filesOnly, AppModel::Access::writer, {}}};
     PlanModel m_plan{m_app};
     QAbstractItemModelTester m_tester{&m_plan, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
@@ -101,7 +102,7 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
     CleanPlan plan;
     plan.sections.push_back({"oldDownloads", "Old downloads", "", {folder, both}});
     plan.sections.push_back({"duplicates", "Duplicate files", "", {inside, both}});
-    m_app.setSheet(PlanSheet{plan});
+    WindowState::of(m_app).setSheet(PlanSheet{plan});
     EXPECT_EQ(m_plan.checkedCountText(), "2") << "the folder, and what is in both";
     EXPECT_EQ(m_plan.checkedSizeText(), "49 KB");
     EXPECT_EQ(shown(PlanModel::Role::size).at(3), "25 KB") << "a section tells of its own";
@@ -115,42 +116,47 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
     m_plan.toggle(0);
     m_plan.toggle(4);
     m_plan.confirm();
-    EXPECT_EQ(m_app.cleaning()->total, 1);
-    ASSERT_TRUE(waitUntil([&] { return m_app.cleaning()->finished; }));
+    EXPECT_EQ(m_app.cleanUps()->cleaning()->total, 1);
+    ASSERT_TRUE(waitUntil([&] { return m_app.cleanUps()->cleaning()->finished; }));
     EXPECT_FALSE(TempHome::exists(both.path));
     EXPECT_TRUE(TempHome::exists(inside.path));
 }
 
 TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
 {
+    WindowState& window = WindowState::of(m_app);
+    EXPECT_EQ(window.overlayMinimum(), 1800ms);
+    window.setOverlayMinimum(300ms);
+    const auto started = std::chrono::steady_clock::now();
     CleaningModel cleaning(m_app);
     m_plan.toggle(2);
     m_plan.confirm();
-    EXPECT_FALSE(m_app.sheet());
+    EXPECT_FALSE(window.sheet());
     EXPECT_EQ(m_plan.rowCount(), 5) << "a sheet that fades still shows its plan";
     EXPECT_FALSE(cleaning.isFinished());
     EXPECT_EQ(cleaning.planTitle(), "Uninstall Viewer");
     ASSERT_TRUE(waitUntil([&] { return cleaning.isFinished(); }));
+    EXPECT_GE(std::chrono::steady_clock::now() - started, 299ms) << "so that a short one can be seen";
     EXPECT_EQ(cleaning.movedText(), "2");
     EXPECT_EQ(cleaning.freedText(), "20 KB");
     EXPECT_EQ(cleaning.failed(), 0);
     EXPECT_EQ(cleaning.fraction(), 1);
     EXPECT_TRUE(TempHome::exists(m_home.path(".cache/b")));
     EXPECT_FALSE(TempHome::exists(m_home.path(".cache/a")));
-    m_app.dismissCleaning();
+    m_app.cleanUps()->dismissCleaning();
     EXPECT_TRUE(cleaning.isFinished()) << "nor does the overlay change while it fades";
 }
 
 TEST_F(PlanModelTest, asksNothingOfAProgramThatOnlyReads)
 {
-    AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, 0ms});
+    AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::reader, {}});
     PlanModel plan(reader);
-    reader.setSheet(m_app.sheet());
+    WindowState::of(reader).setSheet(WindowState::of(m_app).sheet());
     EXPECT_EQ(plan.checkedCount(), 3);
     EXPECT_FALSE(plan.isConfirmable());
     plan.confirm();
-    EXPECT_FALSE(reader.cleaning());
-    EXPECT_TRUE(reader.sheet());
+    EXPECT_FALSE(reader.cleanUps()->cleaning());
+    EXPECT_TRUE(WindowState::of(reader).sheet());
 }
 
 } // namespace orlen

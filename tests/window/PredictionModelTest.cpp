@@ -66,8 +66,8 @@ TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
     EXPECT_TRUE(model.rowCount() == 0);
     EXPECT_TRUE(model.curve().known.empty());
 
-    app.refreshBreakdown(AppModel::Recording::ifStale);
-    ASSERT_TRUE(waitUntil([&] { return app.snapshots().size() == 2; }));
+    app.storage()->refreshBreakdown(Storage::Recording::ifStale);
+    ASSERT_TRUE(waitUntil([&] { return app.storage()->snapshots().size() == 2; }));
     EXPECT_TRUE(model.hasEnoughData());
     EXPECT_FALSE(model.rowCount() == 0);
     EXPECT_EQ(model.curve().known.size(), 2U);

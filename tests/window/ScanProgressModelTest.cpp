@@ -43,15 +43,15 @@ TEST(ScanProgressModelTest, showsAllStepsBeforeDuringAndAfterAScan)
     constexpr int kSteps = static_cast<int>(kScanSteps);
     EXPECT_EQ(count(model, ScanProgressModel::Pending), kSteps);
     EXPECT_EQ(model.files(), "0");
-    app.startScan();
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
     EXPECT_EQ(count(model, ScanProgressModel::Done), kSteps);
     EXPECT_GE(model.files().toInt(), 100);
     EXPECT_FALSE(model.current().isEmpty());
     EXPECT_EQ(resets.count(), 0);
-    app.startScan();
+    app.results()->startScan();
     EXPECT_EQ(count(model, ScanProgressModel::Pending), kSteps) << "another scan starts afresh";
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::results; }));
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
 }
 
 TEST(ScanProgressModelTest, saysThatItIsBeingCancelledUntilItIs)
@@ -61,12 +61,12 @@ TEST(ScanProgressModelTest, saysThatItIsBeingCancelledUntilItIs)
     ScanProgressModel model(app);
     model.cancel();
     EXPECT_FALSE(model.isCancelling()) << "no scan is running";
-    app.startScan();
+    app.results()->startScan();
     model.cancel();
     EXPECT_TRUE(model.isCancelling());
-    ASSERT_TRUE(waitUntil([&] { return app.phase() == Phase::idle; }));
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::idle; }));
     EXPECT_FALSE(model.isCancelling());
-    EXPECT_TRUE(app.findings().empty());
+    EXPECT_TRUE(app.results()->findings().empty());
 }
 
 } // namespace orlen

@@ -19,7 +19,7 @@ TEST(StorageModelTest, hasARowForEachCategoryThatTakesSpace)
     const QAbstractItemModelTester tester(&storage, QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_FALSE(storage.isReady());
     EXPECT_EQ(storage.rowCount(), 0);
-    ASSERT_TRUE(waitUntil([&] { return app.isBreakdownReady(); }));
+    ASSERT_TRUE(waitUntil([&] { return app.storage()->isBreakdownReady(); }));
     EXPECT_TRUE(storage.isReady());
     QStringList labels;
     for (int row = 0; row < storage.rowCount(); ++row)

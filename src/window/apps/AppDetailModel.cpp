@@ -5,6 +5,7 @@
 #include "tools/apps/Uninstall.h"
 #include "window/apps/AppText.h"
 #include "window/lists/DisplayText.h"
+#include "window/shell/WindowState.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -31,7 +32,7 @@ struct AppDetailModel::Found {
 
 AppDetailModel::AppDetailModel(AppModel& app) : m_app(app), m_workers(*this)
 {
-    connect(&m_app, &AppModel::sheetChanged, this, &AppDetailModel::followSheet);
+    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &AppDetailModel::followSheet);
     m_runningTimer.setSingleShot(true);
     m_runningTimer.setInterval(kRunningInterval);
     connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
@@ -178,12 +179,13 @@ void AppDetailModel::review()
     CleanPlan plan = Uninstall::plan(m_info, chosen());
     close();
     m_reviewed = plan.id;
-    m_app.setSheet(PlanSheet{std::move(plan)});
+    WindowState::of(m_app).setSheet(PlanSheet{std::move(plan)});
 }
 
 void AppDetailModel::followSheet()
 {
-    const auto* review = m_app.sheet() ? std::get_if<PlanSheet>(&*m_app.sheet()) : nullptr;
+    const auto* review =
+        WindowState::of(m_app).sheet() ? std::get_if<PlanSheet>(&*WindowState::of(m_app).sheet()) : nullptr;
     if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
         return;
     m_reviewed.reset();
@@ -194,7 +196,7 @@ void AppDetailModel::followSheet()
 /// Shows the application again as it was left.
 void AppDetailModel::resume()
 {
-    if (m_isOpen || m_app.sheet() || m_app.cleaning())
+    if (m_isOpen || WindowState::of(m_app).sheet() || m_app.cleanUps()->cleaning())
         return;
     setOpen(true);
     checkRunning();

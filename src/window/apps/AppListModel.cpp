@@ -43,7 +43,7 @@ AppListModel::AppListModel(AppModel& app) : m_workers(*this)
 {
     m_takeTimer.setInterval(kTakeInterval);
     connect(&m_takeTimer, &QTimer::timeout, this, &AppListModel::takeSizes);
-    connect(&app, &AppModel::cleaningFinished, this, &AppListModel::load);
+    connect(app.cleanUps(), &CleanUps::cleaningFinished, this, &AppListModel::load);
     load();
 }
 

@@ -10,7 +10,7 @@ namespace orlen {
 FindingLinks::FindingLinks(const AppModel& app, std::vector<std::string> ids, QObject* parent)
     : RowsModel(parent), m_app(app), m_ids(std::move(ids))
 {
-    connect(&m_app, &AppModel::findingsChanged, this, &FindingLinks::update);
+    connect(m_app.results(), &Results::findingsChanged, this, &FindingLinks::update);
     update();
 }
 
@@ -18,8 +18,8 @@ void FindingLinks::update()
 {
     std::vector<Row> rows;
     for (const std::string& id : m_ids) {
-        const auto found = std::ranges::find(m_app.findings(), id, &Finding::id);
-        if (found != m_app.findings().end())
+        const auto found = std::ranges::find(m_app.results()->findings(), id, &Finding::id);
+        if (found != m_app.results()->findings().end())
             rows.push_back({found->kind, found->totalSize()});
     }
     setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.kind); });

@@ -7,20 +7,30 @@
 
 namespace orlen {
 
-CleaningModel::CleaningModel(AppModel& app) : m_app(app)
+CleaningModel::CleaningModel(AppModel& app) : m_app(app), m_window(WindowState::of(app))
 {
-    connect(&m_app, &AppModel::cleaningChanged, this, &CleaningModel::follow);
+    m_end.setSingleShot(true);
+    connect(&m_end, &QTimer::timeout, this, &CleaningModel::follow);
+    connect(m_app.cleanUps(), &CleanUps::cleaningChanged, this, &CleaningModel::follow);
     follow();
 }
 
 void CleaningModel::follow()
 {
-    const bool wasShown = std::exchange(m_isShown, m_app.cleaning().has_value());
+    const bool wasShown = std::exchange(m_isShown, m_app.cleanUps()->cleaning().has_value());
     if (!m_isShown)
         return;
-    if (!wasShown)
+    if (!wasShown) {
         m_isStopping = false;
-    m_state = *m_app.cleaning();
+        m_sinceShown.start();
+    }
+    const CleaningState& state = *m_app.cleanUps()->cleaning();
+    const std::chrono::milliseconds shown(m_sinceShown.elapsed());
+    if (state.finished && shown < m_window.overlayMinimum()) {
+        m_end.start(m_window.overlayMinimum() - shown);
+        return;
+    }
+    m_state = state;
     m_failures.setFailures(m_state.failures);
     Q_EMIT changed();
 }
@@ -29,7 +39,7 @@ void CleaningModel::stop()
 {
     m_isStopping = true;
     Q_EMIT changed();
-    m_app.cancelCleaning();
+    m_app.cleanUps()->cancelCleaning();
 }
 
 double CleaningModel::fraction() const

@@ -2,9 +2,12 @@
 
 #include "window/cleaning/FailureListModel.h"
 #include "window/shell/AppModelElement.h"
+#include "window/shell/WindowState.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 namespace orlen {
@@ -61,10 +64,13 @@ private:
     void follow();
 
     AppModel& m_app;
+    WindowState& m_window;
     CleaningState m_state;
     FailureListModel m_failures;
     bool m_isShown = false;
     bool m_isStopping = false;
+    QElapsedTimer m_sinceShown;
+    QTimer m_end; ///< until the end of a short clean-up is shown
 };
 
 } // namespace orlen

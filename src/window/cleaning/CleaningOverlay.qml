@@ -36,9 +36,9 @@ Sheet {
         anchors.fill: parent
         focus: true
 
-        Keys.onEscapePressed: if (cleaning.finished) AppModel.dismissCleaning()
-        Keys.onReturnPressed: if (cleaning.finished) AppModel.dismissCleaning()
-        Keys.onEnterPressed: if (cleaning.finished) AppModel.dismissCleaning()
+        Keys.onEscapePressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
+        Keys.onReturnPressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
+        Keys.onEnterPressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
 
         Column {
             id: head
@@ -206,7 +206,7 @@ Sheet {
                 visible: cleaning.finished
                 primary: true
                 text: Strings.done
-                onClicked: AppModel.dismissCleaning()
+                onClicked: AppModel.cleanUps.dismissCleaning()
             }
 
             AppButton {

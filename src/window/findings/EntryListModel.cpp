@@ -6,6 +6,7 @@
 #include "window/lists/PathTokens.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include <QScopedValueRollback>
 
@@ -46,8 +47,8 @@ std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
 EntryListModel::EntryListModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
 {
     connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
-    connect(&m_app, &AppModel::findingsChanged, this, &EntryListModel::followFindings);
-    connect(&m_app, &AppModel::selectionChanged, this, &EntryListModel::followSelection);
+    connect(m_app.results(), &Results::findingsChanged, this, &EntryListModel::followFindings);
+    connect(m_app.results(), &Results::selectionChanged, this, &EntryListModel::followSelection);
 }
 
 void EntryListModel::setFindingId(const QString& id)
@@ -63,7 +64,7 @@ void EntryListModel::setFindingId(const QString& id)
 const Finding* EntryListModel::shownFinding() const
 {
     const std::string id = m_findingId.toStdString();
-    const auto& findings = m_app.findings();
+    const auto& findings = m_app.results()->findings();
     const auto found = std::find_if(findings.begin(), findings.end(),
                                     [&](const Finding& finding) { return finding.id() == id; });
     return found == findings.end() ? nullptr : &*found;
@@ -169,7 +170,7 @@ void EntryListModel::followSelection()
 void EntryListModel::readSelection()
 {
     for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_isSelected[i] = m_app.selection().contains(m_entries[i].path);
+        m_isSelected[i] = m_app.results()->selection().contains(m_entries[i].path);
 }
 
 void EntryListModel::arrange()
@@ -244,11 +245,11 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
     }
     {
         // Where folders are listed with what lies in them, other rows change too.
-        const QScopedValueRollback selecting(m_isSelecting, !m_app.listed().isNested());
+        const QScopedValueRollback selecting(m_isSelecting, !m_app.results()->listed().isNested());
         if (isSelected)
-            m_app.select(paths);
+            m_app.results()->select(paths);
         else
-            m_app.deselect(paths);
+            m_app.results()->deselect(paths);
     }
     rowsChanged(rows.front(), rows.back(), Role::marked);
     count();
@@ -264,7 +265,8 @@ void EntryListModel::count()
             selected.push_back(&m_entries[i]);
     }
     m_selectedCount = static_cast<int>(selected.size());
-    m_selectedBytes = selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app.listed());
+    m_selectedBytes =
+        selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app.results()->listed());
     const auto isSelected = [this](int entry) { return m_isSelected[static_cast<std::size_t>(entry)]; };
     m_shownCount = static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isSelected));
     Q_EMIT figuresChanged();
@@ -351,7 +353,7 @@ void EntryListModel::reveal(int row) const
 
 void EntryListModel::review()
 {
-    m_app.setSheet(PlanSheet{m_app.scanPlan()});
+    WindowState::of(m_app).setSheet(PlanSheet{m_app.results()->scanPlan()});
 }
 
 } // namespace orlen

@@ -33,9 +33,9 @@ const ScreenMeta& originOf(std::string_view title)
 
 HistoryModel::HistoryModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::historyChanged, this, &HistoryModel::update);
-    connect(&m_app, &AppModel::restoringChanged, this, &HistoryModel::update);
-    connect(&m_app, &AppModel::restored, this, [this](const AppModel::Restoration& restoration) {
+    connect(m_app.cleanUps(), &CleanUps::historyChanged, this, &HistoryModel::update);
+    connect(m_app.cleanUps(), &CleanUps::restoringChanged, this, &HistoryModel::update);
+    connect(m_app.cleanUps(), &CleanUps::restored, this, [this](const CleanUps::Restoration& restoration) {
         Q_EMIT restored(DisplayText::text(restoration.message));
     });
     update();
@@ -52,14 +52,14 @@ HistoryModel::Row HistoryModel::rowOf(const CleanRecord& record) const
             static_cast<int>(record.items.size()),
             static_cast<int>(restored),
             record.failed,
-            m_app.isRestoring(record.id)};
+            m_app.cleanUps()->isRestoring(record.id)};
 }
 
 void HistoryModel::update()
 {
     std::vector<Row> rows;
-    std::transform(m_app.history().begin(), m_app.history().end(), std::back_inserter(rows),
-                   [this](const CleanRecord& record) { return rowOf(record); });
+    std::transform(m_app.cleanUps()->history().begin(), m_app.cleanUps()->history().end(),
+                   std::back_inserter(rows), [this](const CleanRecord& record) { return rowOf(record); });
     setRows(m_rows, std::move(rows), [](const Row& row) { return row.id.text(); });
 }
 
@@ -68,11 +68,11 @@ void HistoryModel::restore(int row)
     if (!hasRow(row) || !m_app.isWriter())
         return;
     const Row& wanted = m_rows[static_cast<std::size_t>(row)];
-    const auto& history = m_app.history();
+    const auto& history = m_app.cleanUps()->history();
     const auto record = std::find_if(history.begin(), history.end(),
                                      [&](const CleanRecord& candidate) { return candidate.id == wanted.id; });
     if (stateOf(wanted) == Restorable && record != history.end())
-        m_app.startRestore(*record);
+        m_app.cleanUps()->startRestore(*record);
 }
 
 HistoryModel::State HistoryModel::stateOf(const Row& row)

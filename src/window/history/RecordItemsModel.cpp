@@ -16,7 +16,7 @@ const CleanRecord* recordOf(const AppModel& app, const QString& id)
     const auto wanted = Uuid::parse(id.toStdString());
     if (!wanted)
         return nullptr;
-    const auto& history = app.history();
+    const auto& history = app.cleanUps()->history();
     const auto found = std::find_if(history.begin(), history.end(),
                                     [&](const CleanRecord& record) { return record.id == *wanted; });
     return found == history.end() ? nullptr : &*found;
@@ -41,7 +41,7 @@ QString textOf(RecordItemsModel::State state)
 
 RecordItemsModel::RecordItemsModel(AppModel& app) : m_app(app), m_workers(*this)
 {
-    connect(&m_app, &AppModel::historyChanged, this, &RecordItemsModel::update);
+    connect(m_app.cleanUps(), &CleanUps::historyChanged, this, &RecordItemsModel::update);
 }
 
 void RecordItemsModel::setRecordId(const QString& id)

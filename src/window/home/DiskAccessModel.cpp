@@ -12,16 +12,16 @@ namespace orlen {
 DiskAccessModel::DiskAccessModel(AppModel& app)
     : m_app(app), m_command(DisplayText::text(DiskAccess::grantingCommand(Places::current())))
 {
-    connect(&m_app, &AppModel::fdaGrantedChanged, this, &DiskAccessModel::grantedChanged);
+    connect(m_app.results(), &Results::fdaGrantedChanged, this, &DiskAccessModel::grantedChanged);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive)
-            m_app.refreshAccess();
+            m_app.results()->refreshAccess();
     });
 }
 
 bool DiskAccessModel::isGranted() const
 {
-    return m_app.isFdaGranted();
+    return m_app.results()->isFdaGranted();
 }
 
 void DiskAccessModel::copyCommand() const

@@ -1,6 +1,7 @@
 #include "window/home/FindingListModel.h"
 
 #include "window/lists/DisplayText.h"
+#include "window/shell/WindowState.h"
 
 #include <algorithm>
 
@@ -8,19 +9,20 @@ namespace orlen {
 
 FindingListModel::FindingListModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::findingsChanged, this, &FindingListModel::followFindings);
-    connect(&m_app, &AppModel::selectionChanged, this, &FindingListModel::followSelection);
-    connect(&m_app, &AppModel::sheetChanged, this, &FindingListModel::followSelection);
+    connect(m_app.results(), &Results::findingsChanged, this, &FindingListModel::followFindings);
+    connect(m_app.results(), &Results::selectionChanged, this, &FindingListModel::followSelection);
+    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &FindingListModel::followSelection);
     followFindings();
 }
 
 void FindingListModel::followFindings()
 {
     std::vector<Row> rows;
-    for (const Finding& finding : m_app.findings()) {
+    for (const Finding& finding : m_app.results()->findings()) {
         rows.push_back({finding.kind, finding.rating, finding.cleanable,
                         finding.reason.empty() ? finding.explanation : finding.reason, finding.totalSize(),
-                        static_cast<std::int64_t>(finding.items.size()), m_app.selectedSize(finding)});
+                        static_cast<std::int64_t>(finding.items.size()),
+                        m_app.results()->selectedSize(finding)});
     }
     setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.kind); });
 }
@@ -28,10 +30,10 @@ void FindingListModel::followFindings()
 void FindingListModel::followSelection()
 {
     // A sheet covers the cards while its entries are checked one by one, perhaps in a list of 100,000.
-    if (m_app.sheet() || m_rows.size() != m_app.findings().size())
+    if (WindowState::of(m_app).sheet() || m_rows.size() != m_app.results()->findings().size())
         return;
     for (std::size_t at = 0; at < m_rows.size(); ++at) {
-        const std::int64_t size = m_app.selectedSize(m_app.findings()[at]);
+        const std::int64_t size = m_app.results()->selectedSize(m_app.results()->findings()[at]);
         if (m_rows[at].selectedSize == size)
             continue;
         m_rows[at].selectedSize = size;

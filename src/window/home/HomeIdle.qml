@@ -107,7 +107,7 @@ Item {
                     rightPadding: 24
                     symbol: "sparkles"
                     text: Strings.startScan
-                    onClicked: AppModel.startScan()
+                    onClicked: AppModel.results.startScan()
                 }
 
                 Item {
@@ -145,7 +145,7 @@ Item {
                     visible: root.home.hasFindings
                     quiet: true
                     text: Strings.showResults
-                    onClicked: AppModel.showResults()
+                    onClicked: AppModel.results.showResults()
                 }
             }
 

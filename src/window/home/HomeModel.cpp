@@ -3,6 +3,7 @@
 #include "app/Format.h"
 #include "cli/Texts.h"
 #include "window/lists/DisplayText.h"
+#include "window/shell/WindowState.h"
 
 #include <algorithm>
 #include <array>
@@ -23,39 +24,39 @@ QString megabytes(double count)
 
 HomeModel::HomeModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::phaseChanged, this, &HomeModel::phaseChanged);
-    connect(&m_app, &AppModel::findingsChanged, this, &HomeModel::countResults);
-    connect(&m_app, &AppModel::selectionChanged, this, &HomeModel::countSelection);
-    connect(&m_app, &AppModel::sheetChanged, this, &HomeModel::countSelection);
-    connect(&m_app, &AppModel::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);
+    connect(m_app.results(), &Results::phaseChanged, this, &HomeModel::phaseChanged);
+    connect(m_app.results(), &Results::findingsChanged, this, &HomeModel::countResults);
+    connect(m_app.results(), &Results::selectionChanged, this, &HomeModel::countSelection);
+    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &HomeModel::countSelection);
+    connect(m_app.results(), &Results::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);
     countResults();
     countSelection();
 }
 
 void HomeModel::countResults()
 {
-    m_safeBytes = m_app.safeBytes();
-    m_totalBytes = m_app.totalFound();
+    m_safeBytes = m_app.results()->safeBytes();
+    m_totalBytes = m_app.results()->totalFound();
     Q_EMIT resultsChanged();
 }
 
 void HomeModel::countSelection()
 {
     // A sheet covers the figure while its entries are checked one by one, perhaps in a list of 100,000.
-    if (m_app.sheet())
+    if (WindowState::of(m_app).sheet())
         return;
-    m_selectedCount = m_app.selectedAmount().items;
+    m_selectedCount = m_app.results()->selectedAmount().items;
     Q_EMIT selectionChanged();
 }
 
 HomeModel::Phase HomeModel::phase() const
 {
-    return static_cast<Phase>(m_app.phase());
+    return static_cast<Phase>(m_app.results()->phase());
 }
 
 bool HomeModel::hasFindings() const
 {
-    return !m_app.findings().empty();
+    return !m_app.results()->findings().empty();
 }
 
 QString HomeModel::safeText() const
@@ -70,7 +71,7 @@ QString HomeModel::totalText() const
 
 QString HomeModel::unreadableText() const
 {
-    const std::int64_t count = m_app.unreadableFolders().count;
+    const std::int64_t count = m_app.results()->unreadableFolders().count;
     return count == 0 ? QString()
                       : DisplayText::text(Format::counted(count, "folder").append(Texts::kUnreadable));
 }
@@ -78,14 +79,14 @@ QString HomeModel::unreadableText() const
 QString HomeModel::unreadableFolders() const
 {
     QStringList lines;
-    for (const std::string& path : m_app.unreadableFolders().paths)
+    for (const std::string& path : m_app.results()->unreadableFolders().paths)
         lines << DisplayText::shortPath(path);
     return lines.join('\n');
 }
 
 bool HomeModel::hasSelection() const
 {
-    return !m_app.selection().empty();
+    return !m_app.results()->selection().empty();
 }
 
 QString HomeModel::selectedText() const
@@ -103,7 +104,7 @@ QStringList HomeModel::thresholds()
 
 int HomeModel::threshold() const
 {
-    const double chosen = m_app.largeThresholdMB();
+    const double chosen = m_app.results()->largeThresholdMB();
     const auto* found = std::find(kThresholds.begin(), kThresholds.end(), chosen);
     return found == kThresholds.end() ? -1 : static_cast<int>(found - kThresholds.begin());
 }
@@ -111,18 +112,18 @@ int HomeModel::threshold() const
 void HomeModel::setThreshold(int index)
 {
     if (index >= 0 && index < static_cast<int>(kThresholds.size()))
-        m_app.setLargeThresholdMB(kThresholds.at(static_cast<std::size_t>(index)));
+        m_app.results()->setLargeThresholdMB(kThresholds.at(static_cast<std::size_t>(index)));
 }
 
 QString HomeModel::thresholdText() const
 {
-    return megabytes(m_app.largeThresholdMB());
+    return megabytes(m_app.results()->largeThresholdMB());
 }
 
 void HomeModel::review()
 {
     if (hasSelection())
-        m_app.setSheet(PlanSheet{m_app.scanPlan()});
+        WindowState::of(m_app).setSheet(PlanSheet{m_app.results()->scanPlan()});
 }
 
 } // namespace orlen

@@ -65,7 +65,7 @@ Item {
 
                 Note {
                     width: Math.min(parent.width, 760 * Theme.textScale)
-                    visible: !AppModel.fdaGranted
+                    visible: !AppModel.results.fdaGranted
                     text: Strings.scannedWithoutAccess
                 }
 

@@ -86,7 +86,7 @@ Item {
                 objectName: "scanAgain"
                 symbol: "arrow.clockwise"
                 text: Strings.scanAgain
-                onClicked: AppModel.startScan()
+                onClicked: AppModel.results.startScan()
             }
 
             Text {

@@ -149,7 +149,7 @@ Item {
 
                 Note {
                     width: parent.width
-                    visible: !AppModel.fdaGranted
+                    visible: !AppModel.results.fdaGranted
                     text: Strings.scanningWithoutAccess
                 }
             }

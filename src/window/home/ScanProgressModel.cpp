@@ -16,13 +16,13 @@ ScanProgressModel::ScanProgressModel(AppModel& app) : m_app(app), m_steps(ScanPr
 {
     m_timer.setInterval(kPollInterval);
     connect(&m_timer, &QTimer::timeout, this, &ScanProgressModel::poll);
-    connect(&m_app, &AppModel::phaseChanged, this, &ScanProgressModel::followPhase);
+    connect(m_app.results(), &Results::phaseChanged, this, &ScanProgressModel::followPhase);
     followPhase();
 }
 
 void ScanProgressModel::followPhase()
 {
-    const bool isScanning = m_app.phase() == Phase::scanning;
+    const bool isScanning = m_app.results()->phase() == Phase::scanning;
     if (isScanning)
         m_timer.start();
     else
@@ -36,7 +36,7 @@ void ScanProgressModel::followPhase()
 
 void ScanProgressModel::poll()
 {
-    const ScanProgress& progress = m_app.scanProgress();
+    const ScanProgress& progress = m_app.results()->scanProgress();
     setSteps(progress.steps());
     const QString current = DisplayText::shortPath(progress.current());
     if (m_files == progress.files() && m_current == current)
@@ -63,9 +63,9 @@ QString ScanProgressModel::files() const
 
 void ScanProgressModel::cancel()
 {
-    if (m_isCancelling || m_app.phase() != Phase::scanning)
+    if (m_isCancelling || m_app.results()->phase() != Phase::scanning)
         return;
-    m_app.cancelScan();
+    m_app.results()->cancelScan();
     m_isCancelling = true;
     Q_EMIT cancellingChanged();
 }

@@ -8,14 +8,14 @@ namespace orlen {
 
 StorageModel::StorageModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::breakdownChanged, this, &StorageModel::update);
+    connect(m_app.storage(), &Storage::breakdownChanged, this, &StorageModel::update);
     update();
 }
 
 void StorageModel::update()
 {
     std::vector<Row> rows;
-    for (const auto& [category, bytes] : m_app.breakdown().cats) {
+    for (const auto& [category, bytes] : m_app.storage()->breakdown().cats) {
         if (bytes > 0)
             rows.push_back({category, bytes});
     }
@@ -27,36 +27,37 @@ void StorageModel::update()
 
 bool StorageModel::isReady() const
 {
-    return m_app.isBreakdownReady();
+    return m_app.storage()->isBreakdownReady();
 }
 
 QString StorageModel::freeText() const
 {
-    return DisplayText::size(m_app.breakdown().free);
+    return DisplayText::size(m_app.storage()->breakdown().free);
 }
 
 QString StorageModel::totalText() const
 {
-    return DisplayText::size(m_app.breakdown().total);
+    return DisplayText::size(m_app.storage()->breakdown().total);
 }
 
 double StorageModel::usedFraction() const
 {
-    if (m_app.breakdown().total <= 0)
+    if (m_app.storage()->breakdown().total <= 0)
         return 0;
-    const auto& breakdown = m_app.breakdown();
+    const auto& breakdown = m_app.storage()->breakdown();
     const double free = static_cast<double>(breakdown.free) / static_cast<double>(breakdown.total);
     return std::clamp(1 - free, 0.0, 1.0);
 }
 
 double StorageModel::fraction(OrlenCategory category) const
 {
-    if (m_app.breakdown().total <= 0)
+    if (m_app.storage()->breakdown().total <= 0)
         return 0;
-    const auto found = m_app.breakdown().cats.find(category);
-    if (found == m_app.breakdown().cats.end())
+    const auto found = m_app.storage()->breakdown().cats.find(category);
+    if (found == m_app.storage()->breakdown().cats.end())
         return 0;
-    const double part = static_cast<double>(found->second) / static_cast<double>(m_app.breakdown().total);
+    const double part =
+        static_cast<double>(found->second) / static_cast<double>(m_app.storage()->breakdown().total);
     return std::clamp(part, 0.0, 1.0);
 }
 

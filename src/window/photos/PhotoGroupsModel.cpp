@@ -3,6 +3,7 @@
 #include "platform/files/FileStatus.h"
 #include "platform/values/CheckedSum.h"
 #include "window/lists/DisplayText.h"
+#include "window/shell/WindowState.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,16 +29,16 @@ QString selectedPhotos(int count, std::int64_t bytes)
 
 PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app), m_workers(*this)
 {
-    connect(&m_app, &AppModel::findingsChanged, this, &PhotoGroupsModel::followFindings);
-    connect(&m_app, &AppModel::selectionChanged, this, &PhotoGroupsModel::followSelection);
-    connect(&m_app, &AppModel::lastScanChanged, this, &PhotoGroupsModel::stageChanged);
+    connect(m_app.results(), &Results::findingsChanged, this, &PhotoGroupsModel::followFindings);
+    connect(m_app.results(), &Results::selectionChanged, this, &PhotoGroupsModel::followSelection);
+    connect(m_app.results(), &Results::lastScanChanged, this, &PhotoGroupsModel::stageChanged);
     followFindings();
 }
 
 void PhotoGroupsModel::followFindings()
 {
     m_wasFed = false;
-    replace(m_app.photoFindings());
+    replace(m_app.results()->photoFindings());
 }
 
 void PhotoGroupsModel::setFindings(std::vector<Finding> findings)
@@ -101,10 +102,10 @@ void PhotoGroupsModel::followSelection()
 PhotoGroupsModel::Selected PhotoGroupsModel::selectedOf(const Finding& finding) const
 {
     Selected selected;
-    if (m_app.selection().empty())
+    if (m_app.results()->selection().empty())
         return selected;
     for (const FileEntry& entry : finding.items) {
-        if (!m_app.selection().contains(entry.path))
+        if (!m_app.results()->selection().contains(entry.path))
             continue;
         ++selected.count;
         selected.bytes = checkedAdd(selected.bytes, entry.size);
@@ -116,7 +117,7 @@ PhotoGroupsModel::Stage PhotoGroupsModel::stage() const
 {
     if (!m_rows.empty())
         return Groups;
-    const bool wasScanned = m_wasFed || m_app.lastScan().has_value();
+    const bool wasScanned = m_wasFed || m_app.results()->lastScan().has_value();
     return wasScanned ? Nothing : BeforeScan;
 }
 
@@ -133,7 +134,7 @@ QString PhotoGroupsModel::selectedText() const
     std::vector<const FileEntry*> selected;
     for (const auto& [finding, count] : m_rows) {
         for (const FileEntry& entry : finding.items) {
-            if (m_app.selection().contains(entry.path))
+            if (m_app.results()->selection().contains(entry.path))
                 selected.push_back(&entry);
         }
     }
@@ -151,19 +152,19 @@ void PhotoGroupsModel::toggleAll(const QString& findingId)
     for (const FileEntry& entry : wanted->finding.items)
         paths.push_back(entry.path);
     if (checkStateOf(*wanted) == Qt::Checked)
-        m_app.deselect(paths);
+        m_app.results()->deselect(paths);
     else
-        m_app.select(paths);
+        m_app.results()->select(paths);
 }
 
 void PhotoGroupsModel::review()
 {
-    CleanPlan plan = m_app.scanPlan();
+    CleanPlan plan = m_app.results()->scanPlan();
     std::erase_if(plan.sections, [this](const PlanSection& section) {
         return finding(DisplayText::text(section.id)) == nullptr;
     });
     if (!plan.sections.empty())
-        m_app.setSheet(PlanSheet{std::move(plan)});
+        WindowState::of(m_app).setSheet(PlanSheet{std::move(plan)});
 }
 
 const PhotoGroupsModel::Row* PhotoGroupsModel::rowOf(const QString& id) const

@@ -61,7 +61,7 @@ PhotoTilesModel::Tile PhotoTilesModel::tileOf(const FileEntry& entry) const
     tile.name = PathText::lastComponent(entry.path);
     tile.note = entry.note.value_or(std::string());
     tile.size = entry.size;
-    tile.isSelected = m_app.selection().contains(entry.path);
+    tile.isSelected = m_app.results()->selection().contains(entry.path);
     return tile;
 }
 
@@ -121,7 +121,7 @@ void PhotoTilesModel::followSelection()
 {
     for (std::size_t row = 0; row < m_tiles.size(); ++row) {
         Tile& tile = m_tiles[row];
-        const bool isSelected = !tile.isKept && m_app.selection().contains(tile.path);
+        const bool isSelected = !tile.isKept && m_app.results()->selection().contains(tile.path);
         if (std::exchange(tile.isSelected, isSelected) != isSelected)
             rowChanged(row, Role::selected);
     }
@@ -136,9 +136,9 @@ void PhotoTilesModel::toggle(int row)
     if (tile.isKept)
         return;
     if (tile.isSelected)
-        m_app.deselect(path);
+        m_app.results()->deselect(path);
     else
-        m_app.select(path);
+        m_app.results()->select(path);
 }
 
 int PhotoTilesModel::token(int row) const

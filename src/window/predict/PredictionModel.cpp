@@ -29,19 +29,19 @@ QString rateText(double bytesPerDay)
 
 PredictionModel::PredictionModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::snapshotsChanged, this, &PredictionModel::update);
+    connect(m_app.storage(), &Storage::snapshotsChanged, this, &PredictionModel::update);
     update();
 }
 
 void PredictionModel::update()
 {
-    Prediction prediction = m_app.prediction();
+    Prediction prediction = m_app.storage()->prediction();
     setRows(m_prediction.perCategory, prediction.perCategory,
             [](const auto& growth) { return rawValue(growth.first); });
     m_prediction = std::move(prediction);
     // Each bar is drawn against all the others.
     allChanged();
-    m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app.snapshots()) : ForecastCurve{};
+    m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app.storage()->snapshots()) : ForecastCurve{};
     Q_EMIT changed();
 }
 
@@ -57,23 +57,23 @@ QString PredictionModel::detail() const
 
 QString PredictionModel::snapshotsText() const
 {
-    const auto count = static_cast<std::int64_t>(m_app.snapshots().size());
+    const auto count = static_cast<std::int64_t>(m_app.storage()->snapshots().size());
     return count == 1 ? QStringLiteral("1 snapshot") : DisplayText::number(count) + " snapshots";
 }
 
 QString PredictionModel::firstDate() const
 {
-    return hasSnapshots() ? DisplayText::date(m_app.snapshots().front().date) : QString();
+    return hasSnapshots() ? DisplayText::date(m_app.storage()->snapshots().front().date) : QString();
 }
 
 QString PredictionModel::lastDate() const
 {
-    return hasSnapshots() ? DisplayText::date(m_app.snapshots().back().date) : QString();
+    return hasSnapshots() ? DisplayText::date(m_app.storage()->snapshots().back().date) : QString();
 }
 
 QString PredictionModel::freeText() const
 {
-    return hasSnapshots() ? DisplayText::size(m_app.snapshots().back().free) : QString();
+    return hasSnapshots() ? DisplayText::size(m_app.storage()->snapshots().back().free) : QString();
 }
 
 PredictionModel::Range PredictionModel::range() const

@@ -63,7 +63,7 @@ private:
 
     void update();
     [[nodiscard]] Range range() const;
-    [[nodiscard]] bool hasSnapshots() const { return !m_app.snapshots().empty(); }
+    [[nodiscard]] bool hasSnapshots() const { return !m_app.storage()->snapshots().empty(); }
 
     AppModel& m_app;
     Prediction m_prediction;

@@ -7,6 +7,7 @@
 #include "window/lists/PathTokens.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include <algorithm>
 
@@ -33,15 +34,15 @@ QColor toneOf(const PlanSection& section)
 PlanModel::PlanModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
 {
     connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
-    connect(&m_app, &AppModel::sheetChanged, this, &PlanModel::follow);
+    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &PlanModel::follow);
     follow();
 }
 
 void PlanModel::follow()
 {
-    if (!m_app.sheet())
+    if (!WindowState::of(m_app).sheet())
         return;
-    const auto* sheet = std::get_if<PlanSheet>(&*m_app.sheet());
+    const auto* sheet = std::get_if<PlanSheet>(&*WindowState::of(m_app).sheet());
     if (sheet != nullptr && (!m_plan || m_plan->id != sheet->plan.id))
         show(sheet->plan);
 }
@@ -277,7 +278,8 @@ void PlanModel::confirm()
 {
     if (!isConfirmable())
         return;
-    m_app.confirm(m_ticks.ticked(*m_plan));
+    WindowState::of(m_app).setSheet(std::nullopt);
+    m_app.cleanUps()->confirm(m_ticks.ticked(*m_plan));
 }
 
 } // namespace orlen

@@ -24,4 +24,21 @@ public:
     static AppModel* create(QQmlEngine* engine, QJSEngine* scripts);
 };
 
+/// The parts of the application model, as its properties.
+struct ResultsElement {
+    Q_GADGET
+    QML_FOREIGN(orlen::Results)
+    QML_ANONYMOUS
+};
+struct CleanUpsElement {
+    Q_GADGET
+    QML_FOREIGN(orlen::CleanUps)
+    QML_ANONYMOUS
+};
+struct StorageElement {
+    Q_GADGET
+    QML_FOREIGN(orlen::Storage)
+    QML_ANONYMOUS
+};
+
 } // namespace orlen

@@ -7,18 +7,19 @@
 namespace orlen {
 
 EndNotices::EndNotices(AppModel& app, DesktopNotices& notices, std::function<bool()> isSeen, QObject* parent)
-    : QObject(parent), m_app(app), m_notices(notices), m_isSeen(std::move(isSeen)), m_phase(app.phase())
+    : QObject(parent), m_app(app), m_notices(notices), m_isSeen(std::move(isSeen)),
+      m_phase(app.results()->phase())
 {
-    connect(&m_app, &AppModel::phaseChanged, this, &EndNotices::followPhase);
-    connect(&m_app, &AppModel::cleaningFinished, this, &EndNotices::showCleaning);
+    connect(m_app.results(), &Results::phaseChanged, this, &EndNotices::followPhase);
+    connect(m_app.cleanUps(), &CleanUps::cleaningFinished, this, &EndNotices::showCleaning);
 }
 
 void EndNotices::followPhase()
 {
-    const Phase before = std::exchange(m_phase, m_app.phase());
+    const Phase before = std::exchange(m_phase, m_app.results()->phase());
     // A cancelled scan, which ends in another phase, is no news.
     if (before == Phase::scanning && m_phase == Phase::results)
-        show({WindowTexts::scanFinished(), WindowTexts::safelyFree(m_app.safeBytes())});
+        show({WindowTexts::scanFinished(), WindowTexts::safelyFree(m_app.results()->safeBytes())});
 }
 
 void EndNotices::showCleaning(const CleanRecord& record)

@@ -33,7 +33,7 @@ Item {
         sequences: root.hasReload ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
         onActivated: {
             root.navigation.screen = Navigation.Home;
-            AppModel.startScan();
+            AppModel.results.startScan();
         }
     }
 

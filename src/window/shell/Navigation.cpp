@@ -2,6 +2,7 @@
 
 #include "window/lists/DisplayText.h"
 #include "window/shell/ScreenTable.h"
+#include "window/shell/WindowState.h"
 
 #include <QSettings>
 
@@ -17,9 +18,9 @@ const QString kOnboarded = QStringLiteral("onboarded");
 
 Navigation::Navigation(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::sheetChanged, this, &Navigation::sheetChanged);
-    connect(&m_app, &AppModel::cleaningChanged, this, &Navigation::cleaningChanged);
-    connect(&m_app, &AppModel::requestedScreenChanged, this, &Navigation::followRequest);
+    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &Navigation::sheetChanged);
+    connect(m_app.cleanUps(), &CleanUps::cleaningChanged, this, &Navigation::cleaningChanged);
+    connect(&WindowState::of(m_app), &WindowState::requestedScreenChanged, this, &Navigation::followRequest);
     followRequest();
 }
 
@@ -49,41 +50,42 @@ QString Navigation::screenTitle() const
 
 Navigation::Sheet Navigation::sheet() const
 {
-    if (!m_app.sheet())
+    if (!WindowState::of(m_app).sheet())
         return NoSheet;
-    return std::holds_alternative<orlen::PlanSheet>(*m_app.sheet()) ? PlanSheet : FindingSheet;
+    return std::holds_alternative<orlen::PlanSheet>(*WindowState::of(m_app).sheet()) ? PlanSheet
+                                                                                     : FindingSheet;
 }
 
 QString Navigation::findingId() const
 {
     if (sheet() != FindingSheet)
         return {};
-    return DisplayText::text(std::get<orlen::FindingSheet>(*m_app.sheet()).findingId);
+    return DisplayText::text(std::get<orlen::FindingSheet>(*WindowState::of(m_app).sheet()).findingId);
 }
 
 bool Navigation::isCleaning() const
 {
-    return m_app.cleaning().has_value();
+    return m_app.cleanUps()->cleaning().has_value();
 }
 
 void Navigation::showFinding(const QString& id)
 {
     const std::string wanted = id.toStdString();
-    const auto& findings = m_app.findings();
+    const auto& findings = m_app.results()->findings();
     if (std::any_of(findings.begin(), findings.end(), [&](const Finding& f) { return f.id() == wanted; }))
-        m_app.setSheet(orlen::FindingSheet{wanted});
+        WindowState::of(m_app).setSheet(orlen::FindingSheet{wanted});
 }
 
 void Navigation::closeSheet()
 {
-    m_app.setSheet(std::nullopt);
+    WindowState::of(m_app).setSheet(std::nullopt);
 }
 
 void Navigation::followRequest()
 {
-    if (const auto requested = m_app.requestedScreen()) {
+    if (const auto requested = WindowState::of(m_app).requestedScreen()) {
         setScreen(static_cast<Screen>(*requested));
-        m_app.setRequestedScreen(std::nullopt);
+        WindowState::of(m_app).setRequestedScreen(std::nullopt);
     }
 }
 

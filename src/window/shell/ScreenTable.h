@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Screen.h"
+#include "window/shell/Screen.h"
 
 #include <QColor>
 

@@ -65,8 +65,8 @@ int show(const QDBusConnection& bus, RunningInstance& instance, Interrupts& inte
                      [window](const LaunchToken& token) { DesktopPresence::present(*window, token); });
     // Long before everything is destroyed, so that whatever still runs ends meanwhile.
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &model, [&model] {
-        model.cancelScan();
-        model.cancelCleaning();
+        model.results()->cancelScan();
+        model.cleanUps()->cancelCleaning();
     });
     // The window first: the rest is of no use before it.
     std::optional<DesktopPresence> presence;

@@ -7,23 +7,23 @@ namespace orlen {
 
 TrayModel::TrayModel(AppModel& app) : m_app(app)
 {
-    connect(&m_app, &AppModel::breakdownChanged, this, &TrayModel::changed);
-    connect(&m_app, &AppModel::findingsChanged, this, &TrayModel::changed);
-    connect(&m_app, &AppModel::lastScanChanged, this, &TrayModel::changed);
+    connect(m_app.storage(), &Storage::breakdownChanged, this, &TrayModel::changed);
+    connect(m_app.results(), &Results::findingsChanged, this, &TrayModel::changed);
+    connect(m_app.results(), &Results::lastScanChanged, this, &TrayModel::changed);
 }
 
 QString TrayModel::title() const
 {
-    if (!m_app.isBreakdownReady())
+    if (!m_app.storage()->isBreakdownReady())
         return WindowTexts::name();
-    return WindowTexts::freeSpace(DisplayText::size(m_app.breakdown().free));
+    return WindowTexts::freeSpace(DisplayText::size(m_app.storage()->breakdown().free));
 }
 
 QString TrayModel::lastScanText() const
 {
-    if (!m_app.lastScan())
+    if (!m_app.results()->lastScan())
         return {};
-    return WindowTexts::lastScan(DisplayText::size(m_app.safeBytes()));
+    return WindowTexts::lastScan(DisplayText::size(m_app.results()->safeBytes()));
 }
 
 } // namespace orlen

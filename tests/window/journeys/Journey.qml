@@ -46,7 +46,7 @@ TestCase {
     /// Begins with the results of a scan.
     function openScanned() {
         test.openOnboarded();
-        AppModel.startScan();
+        AppModel.results.startScan();
         test.item("heroSentence");
     }
 

@@ -4,6 +4,7 @@
 #include "window/AppsOnDisk.h"
 #include "window/shell/Appearance.h"
 #include "window/shell/Window.h"
+#include "window/shell/WindowState.h"
 
 #include <QAccessible>
 #include <QBuffer>
@@ -137,9 +138,9 @@ void Stage::prepare(QQmlEngine& engine)
     TempHome::reloadPlaces();
     QSettings().clear();
     AppModel::Options options;
-    options.overlayMinimum = std::chrono::milliseconds(50);
     options.images.program = m_home->outside(kRecognizer);
     m_model = std::make_unique<AppModel>(options);
+    WindowState::of(*m_model).setOverlayMinimum(std::chrono::milliseconds(50));
     Window::prepareEngine(engine, *m_model);
     engine.addImportPath(QStringLiteral("qrc:/"));
     engine.rootContext()->setContextProperty(QStringLiteral("stage"), this);

@@ -30,7 +30,7 @@ Journey {
 
     function test_2_afterAScan() {
         test.window.navigation.screen = Navigation.Home;
-        AppModel.startScan();
+        AppModel.results.startScan();
         test.item("heroSentence");
         test.window.width = test.window.minimumWidth;
         test.window.height = test.window.minimumHeight;

@@ -1,9 +1,11 @@
-#include "app/AppModel.h"
+#include "app/Results.h"
 
 #include "app/AppTexts.h"
+#include "app/DiskAccess.h"
+#include "app/Storage.h"
 #include "clean/Safety.h"
-#include "insight/AskContext.h"
 #include "model/Rater.h"
+#include "platform/files/Places.h"
 #include "platform/process/ThreadPriority.h"
 #include "platform/process/Threads.h"
 #include "platform/values/CheckedSum.h"
@@ -12,7 +14,6 @@
 #include <algorithm>
 #include <utility>
 
-/// The scanning half of the application model.
 namespace orlen {
 
 namespace {
@@ -36,20 +37,59 @@ std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<
     return entries;
 }
 
+std::set<std::string> preselected(const std::vector<Finding>& findings)
+{
+    std::set<std::string> paths;
+    for (const Finding& finding : findings) {
+        if (finding.rating != Rating::safe || !finding.cleanable)
+            continue;
+        for (const FileEntry& entry : finding.items) {
+            if (finding.effectiveRating(entry) == Rating::safe)
+                paths.insert(entry.path);
+        }
+    }
+    // A folder would take along what is not to be chosen without a look.
+    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
+    return paths;
+}
+
 } // namespace
 
-struct AppModel::ScanResult {
+struct Results::ScanResult {
     std::vector<Finding> findings;
     StorageBreakdown breakdown;
 };
 
-void AppModel::startScan()
+Results::Results(Storage& storage, ImageWorkers::Options images, QObject* parent)
+    : ModelPart(parent), m_storage(storage), m_images(std::move(images)), m_isFdaGranted(checkFDA()),
+      m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
+{
+    // Before anyone else hears of other findings.
+    connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
+}
+
+Results::~Results()
+{
+    cancelScan();
+}
+
+bool Results::checkFDA()
+{
+    return DiskAccess::isGranted(Places::current());
+}
+
+void Results::refreshAccess()
+{
+    assign(m_isFdaGranted, checkFDA(), &Results::fdaGrantedChanged);
+}
+
+void Results::startScan()
 {
     checkThread();
     if (m_phase == Phase::scanning)
         return;
-    setFdaGranted(checkFDA());
-    const ScanOptions options{checkedInteger(m_largeThresholdMB * kBytesPerMegabyte), m_options.images};
+    refreshAccess();
+    const ScanOptions options{checkedInteger(m_largeThresholdMB * kBytesPerMegabyte), m_images};
     const auto engine = std::make_shared<ScanEngine>(options);
     m_engine = engine;
     m_scanProgress = std::shared_ptr<const ScanProgress>(engine, &engine->progress());
@@ -59,7 +99,7 @@ void AppModel::startScan()
                     [this, engine](ScanResult result) { finishScan(engine, std::move(result)); });
 }
 
-AppModel::ScanResult AppModel::scanned(ScanEngine& engine)
+Results::ScanResult Results::scanned(ScanEngine& engine)
 {
     ThreadPriority::giveWay(); // before any other thread starts
     Safety::refresh();
@@ -77,7 +117,7 @@ AppModel::ScanResult AppModel::scanned(ScanEngine& engine)
     return result;
 }
 
-void AppModel::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result)
+void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result)
 {
     if (engine != m_engine)
         return;
@@ -90,49 +130,32 @@ void AppModel::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult 
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     Q_EMIT findingsChanged();
     setSelection(preselected(m_findings));
-    m_breakdownStored = ++m_breakdownsStarted;
-    setBreakdown(std::move(result.breakdown));
+    m_storage.setBreakdown(std::move(result.breakdown));
     m_lastScan = std::chrono::system_clock::now();
     Q_EMIT lastScanChanged();
-    recordSnapshot();
+    m_storage.recordSnapshot();
     setPhase(Phase::results);
 }
 
-std::set<std::string> AppModel::preselected(const std::vector<Finding>& findings)
-{
-    std::set<std::string> paths;
-    for (const Finding& finding : findings) {
-        if (finding.rating != Rating::safe || !finding.cleanable)
-            continue;
-        for (const FileEntry& entry : finding.items) {
-            if (finding.effectiveRating(entry) == Rating::safe)
-                paths.insert(entry.path);
-        }
-    }
-    // A folder would take along what is not to be chosen without a look.
-    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
-    return paths;
-}
-
-void AppModel::cancelScan()
+void Results::cancelScan()
 {
     checkThread();
     if (m_engine && m_phase == Phase::scanning)
         m_engine->flag().cancel();
 }
 
-void AppModel::resetToIdle()
+void Results::resetToIdle()
 {
     setPhase(Phase::idle);
 }
 
-void AppModel::showResults()
+void Results::showResults()
 {
     if (m_phase == Phase::idle && !m_findings.empty())
         setPhase(Phase::results);
 }
 
-std::int64_t AppModel::totalFound() const
+std::int64_t Results::totalFound() const
 {
     std::int64_t sum = 0;
     for (const Finding& finding : m_findings) {
@@ -142,7 +165,7 @@ std::int64_t AppModel::totalFound() const
     return sum;
 }
 
-std::int64_t AppModel::safeBytes() const
+std::int64_t Results::safeBytes() const
 {
     std::int64_t sum = 0;
     for (const Finding& finding : m_findings)
@@ -150,7 +173,7 @@ std::int64_t AppModel::safeBytes() const
     return sum;
 }
 
-std::vector<Finding> AppModel::photoFindings() const
+std::vector<Finding> Results::photoFindings() const
 {
     std::vector<Finding> photos;
     std::copy_if(m_findings.begin(), m_findings.end(), std::back_inserter(photos),
@@ -158,12 +181,12 @@ std::vector<Finding> AppModel::photoFindings() const
     return photos;
 }
 
-std::int64_t AppModel::selectedSize(const Finding& finding) const
+std::int64_t Results::selectedSize(const Finding& finding) const
 {
     return PathSelection::sizeOf(selectedIn(finding, m_selection), listed());
 }
 
-PathSelection::Amount AppModel::selectedAmount() const
+PathSelection::Amount Results::selectedAmount() const
 {
     std::vector<const FileEntry*> entries;
     for (const Finding& finding : m_findings) {
@@ -173,7 +196,7 @@ PathSelection::Amount AppModel::selectedAmount() const
     return PathSelection::amountOf(std::move(entries));
 }
 
-CleanPlan AppModel::scanPlan() const
+CleanPlan Results::scanPlan() const
 {
     CleanPlan plan;
     plan.title = AppTexts::kScanPlanTitle;
@@ -191,9 +214,59 @@ CleanPlan AppModel::scanPlan() const
     return plan;
 }
 
-AskContext AppModel::askContext() const
+void Results::setSelection(std::set<std::string> selection)
 {
-    return {m_findings, m_breakdown, prediction()};
+    PathSelection::addInside(selection, listed());
+    assign(m_selection, std::move(selection), &Results::selectionChanged);
+}
+
+void Results::select(std::span<const std::string> paths)
+{
+    checkThread();
+    const std::size_t before = m_selection.size();
+    for (const std::string& path : paths)
+        PathSelection::tick(m_selection, listed(), path);
+    if (m_selection.size() != before)
+        Q_EMIT selectionChanged();
+}
+
+void Results::deselect(std::span<const std::string> paths)
+{
+    checkThread();
+    const std::size_t before = m_selection.size();
+    for (const std::string& path : paths)
+        PathSelection::untick(m_selection, listed(), path);
+    if (m_selection.size() != before)
+        Q_EMIT selectionChanged();
+}
+
+const PathTree& Results::listed() const
+{
+    if (!m_listed)
+        m_listed = PathSelection::listedIn(m_findings);
+    return *m_listed;
+}
+
+void Results::setLargeThresholdMB(double megabytes)
+{
+    assign(m_largeThresholdMB, megabytes, &Results::largeThresholdMBChanged);
+}
+
+void Results::setPhase(Phase phase)
+{
+    assign(m_phase, phase, &Results::phaseChanged);
+}
+
+void Results::removeFromFindings(const std::set<std::string>& paths)
+{
+    checkThread();
+    for (Finding& finding : m_findings)
+        std::erase_if(finding.items, [&](const FileEntry& entry) { return paths.contains(entry.path); });
+    std::erase_if(m_findings, [](const Finding& finding) { return finding.items.empty(); });
+    Q_EMIT findingsChanged();
+    std::set<std::string> selection = m_selection;
+    std::erase_if(selection, [&](const std::string& path) { return paths.contains(path); });
+    setSelection(std::move(selection));
 }
 
 } // namespace orlen

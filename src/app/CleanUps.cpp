@@ -1,0 +1,190 @@
+#include "app/CleanUps.h"
+
+#include "app/AppTexts.h"
+#include "app/Results.h"
+#include "app/Storage.h"
+#include "clean/History.h"
+#include "model/PathSelection.h"
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kReportInterval{66};
+
+} // namespace
+
+CleanUps::CleanUps(std::vector<CleanRecord> history, Access access, Results& results, Storage& storage,
+                   QObject* parent)
+    : ModelPart(parent), m_access(access), m_results(results), m_storage(storage),
+      m_history(std::move(history)), m_workers(*this)
+{
+}
+
+CleanUps::~CleanUps()
+{
+    m_workers.finish();
+    // What was moved must not be forgotten because the window was closed meanwhile.
+    for (const PendingCleanUp& pending : m_pending) {
+        if (pending->has_value())
+            (void)History::add(m_history, (*pending)->record);
+    }
+    for (const PendingRestore& pending : m_restores) {
+        if (pending.outcome->has_value())
+            (void)History::update(m_history, (*pending.outcome)->record);
+    }
+}
+
+void CleanUps::checkWriter() const
+{
+    checkThread();
+    if (m_access != Access::writer)
+        fatalError("a clean-up was asked of an application model that cannot record it");
+}
+
+void CleanUps::confirm(const CleanPlan& plan)
+{
+    checkWriter();
+    std::vector<FileEntry> entries = PathSelection::moving(plan);
+    if (entries.empty())
+        return;
+    CleaningState state;
+    state.total = static_cast<int>(entries.size());
+    state.planTitle = plan.title;
+    m_cleaning = std::move(state);
+    Q_EMIT cleaningChanged();
+
+    const int number = ++m_number;
+    const auto pending = std::make_shared<std::optional<Cleaner::Cleaned>>();
+    m_pending.push_back(pending);
+    m_stop = m_workers.start(
+        [entries = std::move(entries), title = plan.title, report = cleaningReport(number),
+         pending](const std::stop_token& stop) {
+            *pending = Cleaner::run(entries, title, report, stop);
+            return PendingCleanUp(pending);
+        },
+        [this, number](const PendingCleanUp& cleaned) { finishCleaning(number, cleaned); });
+}
+
+Cleaner::Progress CleanUps::cleaningReport(int number)
+{
+    // Runs on the worker, which hands `show` on and never calls it.
+    const std::function<void(int, const std::string&)> show =
+        [this, number](int done, const std::string& current) { showCleaning(number, done, current); };
+    return [mainThread = m_workers.mainThread(), show,
+            last = Clock::time_point()](int index, int total, const std::string& name) mutable {
+        const auto now = Clock::now();
+        if (index < total && now - last < kReportInterval)
+            return;
+        last = now;
+        mainThread.post([show, index, name] { show(index, name); });
+    };
+}
+
+void CleanUps::showCleaning(int number, int done, const std::string& current)
+{
+    if (!m_cleaning || number != m_number)
+        return;
+    m_cleaning->done = done;
+    m_cleaning->current = current;
+    Q_EMIT cleaningChanged();
+}
+
+void CleanUps::finishCleaning(int number, const PendingCleanUp& pending)
+{
+    const Cleaner::Cleaned cleaned = **pending;
+    const CleanRecord& record = cleaned.record;
+    std::erase(m_pending, pending);
+    const bool isRecorded = keep(record);
+    if (m_cleaning && number == m_number) {
+        m_cleaning->finished = true;
+        m_cleaning->freed = record.freed();
+        m_cleaning->moved = static_cast<int>(record.items.size());
+        m_cleaning->failed = record.failed;
+        m_cleaning->failures = cleaned.failures;
+        m_cleaning->refusal = cleaned.refusal;
+        m_cleaning->isRecorded = isRecorded;
+        Q_EMIT cleaningChanged();
+    }
+    m_storage.followMoves();
+    Q_EMIT cleaningFinished(record);
+}
+
+bool CleanUps::keep(const CleanRecord& record)
+{
+    const bool isSaved = History::add(m_history, record).ok();
+    if (record.items.empty())
+        return true;
+    Q_EMIT historyChanged();
+    std::set<std::string> moved;
+    for (const TrashedItem& item : record.items)
+        moved.insert(item.original);
+    // What was listed inside a moved folder went along.
+    PathSelection::addInside(moved, m_results.listed());
+    m_results.removeFromFindings(moved);
+    return isSaved;
+}
+
+void CleanUps::cancelCleaning()
+{
+    checkThread();
+    m_stop.request_stop();
+}
+
+void CleanUps::dismissCleaning()
+{
+    checkThread();
+    m_cleaning.reset();
+    Q_EMIT cleaningChanged();
+}
+
+CleanUps::Restoration CleanUps::restore(const CleanRecord& record)
+{
+    checkWriter();
+    return finishRestore(Cleaner::restore(record));
+}
+
+CleanUps::Restoration CleanUps::finishRestore(Cleaner::Restored outcome)
+{
+    const bool isRecorded = History::update(m_history, outcome.record).ok();
+    Q_EMIT historyChanged();
+    m_storage.updateVolume();
+    std::string message = AppTexts::restored(outcome.restored, outcome.failed);
+    return {std::move(outcome), std::move(message), isRecorded};
+}
+
+bool CleanUps::isRestoring(const Uuid& record) const
+{
+    return std::any_of(m_restores.begin(), m_restores.end(),
+                       [&](const PendingRestore& pending) { return pending.record == record; });
+}
+
+bool CleanUps::startRestore(const CleanRecord& record)
+{
+    checkWriter();
+    if (isRestoring(record.id))
+        return false;
+    const auto outcome = std::make_shared<std::optional<Cleaner::Restored>>();
+    m_restores.push_back({record.id, outcome});
+    Q_EMIT restoringChanged();
+    m_workers.start(
+        [record, outcome](const std::stop_token& stop) {
+            *outcome = Cleaner::restore(record, stop);
+            return 0;
+        },
+        [this, id = record.id, outcome](int) {
+            std::erase_if(m_restores, [&](const PendingRestore& pending) { return pending.record == id; });
+            const Restoration restoration = finishRestore(**outcome);
+            Q_EMIT restoringChanged();
+            Q_EMIT restored(restoration);
+        });
+    return true;
+}
+
+} // namespace orlen

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/ModelPart.h"
+#include "app/Workers.h"
+#include "clean/Persist.h"
+#include "clean/Snapshot.h"
+#include "insight/Predictor.h"
+#include "platform/values/Time.h"
+#include "scan/StorageBreakdown.h"
+
+#include <span>
+#include <vector>
+
+namespace orlen {
+
+/// How the disk is used: the storage breakdown, what earlier ones have read (the snapshots), and the space of
+/// the volume. Main thread.
+class Storage : public ModelPart {
+    Q_OBJECT
+    Q_PROPERTY(bool breakdownReady READ isBreakdownReady NOTIFY breakdownChanged)
+
+public:
+    enum class Recording { none, ifStale };
+    enum class Saving { none, snapshots };
+
+    Storage(std::vector<Snapshot> snapshots, Saving saving, QObject* parent = nullptr);
+
+    /// Empty until the first computation has finished.
+    [[nodiscard]] const StorageBreakdown& breakdown() const { return m_breakdown; }
+    [[nodiscard]] bool isBreakdownReady() const { return m_isBreakdownReady; }
+    /// Oldest first, at most 400.
+    [[nodiscard]] const std::vector<Snapshot>& snapshots() const { return m_snapshots; }
+    /// The growth forecast from the snapshots.
+    [[nodiscard]] Prediction prediction() const;
+
+    /// Whether a snapshot is due: there is none, or the newest is more than 12 hours old.
+    [[nodiscard]] static bool isStale(std::span<const Snapshot> snapshots, TimePoint now);
+
+    /// Measures now, records a snapshot if one is due, and keeps the volume's space up to date from then on.
+    void startUp();
+    /// Measures the storage breakdown anew; a snapshot is recorded after it when one is due and asked for.
+    void refreshBreakdown(Recording recording);
+    /// Takes over a breakdown that was measured elsewhere; one that is being measured now is dropped.
+    void setBreakdown(StorageBreakdown breakdown);
+    /// Reads the volume's total and free space again.
+    void updateVolume();
+    /// After items have moved: the volume's space now, and the rest as well if it is kept up to date.
+    void followMoves();
+    /// Appends a snapshot of the current breakdown in place of one of the past hour, drops the oldest beyond
+    /// 400, and saves the list.
+    void recordSnapshot();
+
+Q_SIGNALS:
+    void breakdownChanged();
+    void snapshotsChanged();
+
+private:
+    void store(int number, StorageBreakdown breakdown);
+
+    const Saving m_saving;
+    StorageBreakdown m_breakdown;
+    bool m_isBreakdownReady = false;
+    bool m_isKeptUpToDate = false;
+    std::vector<Snapshot> m_snapshots;
+    int m_started = 0;
+    int m_stored = 0; ///< number of the one that is shown: an earlier one that ends later is dropped
+
+    Workers m_workers; ///< last, so that no worker outlives what it shares
+};
+
+} // namespace orlen

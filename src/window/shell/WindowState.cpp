@@ -1,0 +1,29 @@
+#include "window/shell/WindowState.h"
+
+#include <utility>
+
+namespace orlen {
+
+WindowState& WindowState::of(AppModel& app)
+{
+    auto* state = app.findChild<WindowState*>(QString(), Qt::FindDirectChildrenOnly);
+    return state == nullptr ? *new WindowState(&app) : *state;
+}
+
+void WindowState::setSheet(std::optional<SheetKind> sheet)
+{
+    if (m_sheet == sheet)
+        return;
+    m_sheet = std::move(sheet);
+    Q_EMIT sheetChanged();
+}
+
+void WindowState::setRequestedScreen(std::optional<Screen> screen)
+{
+    if (m_requestedScreen == screen)
+        return;
+    m_requestedScreen = screen;
+    Q_EMIT requestedScreenChanged();
+}
+
+} // namespace orlen
