@@ -56,7 +56,7 @@ void AppDetailModel::show(int listRow)
 {
     if (m_list == nullptr || listRow < 0 || listRow >= m_list->rowCount())
         return;
-    m_stop.request_stop();
+    m_look.drop();
     m_runningTimer.stop();
     resetRows(m_rows, {});
     m_info = m_list->apps()[static_cast<std::size_t>(listRow)];
@@ -66,15 +66,14 @@ void AppDetailModel::show(int listRow)
     setOpen(true);
     Q_EMIT changed();
     Q_EMIT selectionChanged();
-    const int generation = ++m_generation;
     if (!m_info.isRemovable())
         return;
-    m_stop = m_workers.start([app = m_info, listed = m_list->apps()](
-                                 const std::stop_token& stop) { return look(app, listed, stop); },
-                             [this, generation](Found found) {
-                                 if (generation == m_generation)
-                                     take(std::move(found));
-                             });
+    m_workers.start(
+        m_look,
+        [app = m_info, listed = m_list->apps()](const std::stop_token& stop) {
+            return look(app, listed, stop);
+        },
+        [this](Found found) { take(std::move(found)); });
 }
 
 AppDetailModel::Found AppDetailModel::look(const AppInfo& app, const std::vector<AppInfo>& listed,
@@ -110,15 +109,14 @@ void AppDetailModel::take(Found found)
 
 void AppDetailModel::checkRunning()
 {
-    m_workers.start([app = m_info](const std::stop_token&) { return AppList::isRunning(app); },
-                    [this, generation = m_generation](bool isRunning) {
-                        if (generation != m_generation)
-                            return;
-                        m_isRunning = isRunning;
-                        if (m_isRunning)
-                            m_runningTimer.start();
-                        Q_EMIT changed();
-                    });
+    m_workers.start(
+        m_look, [app = m_info](const std::stop_token&) { return AppList::isRunning(app); },
+        [this](bool isRunning) {
+            m_isRunning = isRunning;
+            if (m_isRunning)
+                m_runningTimer.start();
+            Q_EMIT changed();
+        });
 }
 
 /// The size may arrive while the application is shown, and the application may be gone.
@@ -140,9 +138,8 @@ void AppDetailModel::followList()
 
 void AppDetailModel::close()
 {
-    m_stop.request_stop();
+    m_look.drop();
     m_runningTimer.stop();
-    ++m_generation;
     setOpen(false);
 }
 

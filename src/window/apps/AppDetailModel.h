@@ -130,8 +130,7 @@ private:
     bool m_isLoading = false;
     bool m_isOtherCopyInstalled = false;
     bool m_isRunning = false;
-    int m_generation = 0; ///< number of the application that was shown last
-    std::stop_source m_stop{std::nostopstate};
+    Latest m_look;                  ///< at the application that is shown
     std::optional<Uuid> m_reviewed; ///< plan whose review was opened from here and is not over
     QTimer m_runningTimer;          ///< looks again whether the application still runs
 

@@ -59,15 +59,11 @@ QString AppListModel::summary() const
 
 void AppListModel::load()
 {
-    m_stop.request_stop();
     m_sizes.reset();
-    const int generation = ++m_generation;
     setLoading(true);
-    m_stop = m_workers.start([](const std::stop_token& stop) { return AppList::list(stop); },
-                             [this, generation](std::vector<AppInfo> apps) {
-                                 if (generation == m_generation)
-                                     show(std::move(apps));
-                             });
+    m_workers.start(
+        m_work, [](const std::stop_token& stop) { return AppList::list(stop); },
+        [this](std::vector<AppInfo> apps) { show(std::move(apps)); });
 }
 
 void AppListModel::show(std::vector<AppInfo> apps)
@@ -90,15 +86,14 @@ void AppListModel::measure()
 {
     m_sizes = std::make_shared<Sizes>();
     m_takeTimer.start();
-    m_stop = m_workers.start(
+    m_workers.start(
+        m_work,
         [apps = m_apps, sizes = m_sizes](const std::stop_token& stop) {
             AppList::measure(
                 apps, [&](std::size_t row, std::int64_t bytes) { sizes->put(row, bytes); }, stop);
             return sizes;
         },
-        [this](const std::shared_ptr<Sizes>& sizes) {
-            if (sizes != m_sizes)
-                return;
+        [this](const std::shared_ptr<Sizes>&) {
             takeSizes();
             m_takeTimer.stop();
             m_sizes.reset();

@@ -61,8 +61,7 @@ private:
 
     std::vector<AppInfo> m_apps;
     bool m_isLoading = false;
-    int m_generation = 0; ///< number of the latest load
-    std::stop_source m_stop{std::nostopstate};
+    Latest m_work;                  ///< the load, then the measuring
     std::shared_ptr<Sizes> m_sizes; ///< null while nothing is measured
     QTimer m_takeTimer;
 

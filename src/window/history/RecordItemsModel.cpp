@@ -75,15 +75,15 @@ void RecordItemsModel::update()
 
 void RecordItemsModel::lookUp()
 {
-    m_lookUpStop.request_stop();
-    const int generation = ++m_generation;
+    m_lookUp.drop();
     if (m_rows.empty())
         return;
     std::vector<TrashedItem> items;
     items.reserve(m_rows.size());
     for (const Row& row : m_rows)
         items.push_back(row.item);
-    m_lookUpStop = m_workers.start(
+    m_workers.start(
+        m_lookUp,
         [items = std::move(items)](const std::stop_token& stop) {
             std::vector<State> states;
             states.reserve(items.size());
@@ -95,10 +95,7 @@ void RecordItemsModel::lookUp()
             }
             return states;
         },
-        [this, generation](const std::vector<State>& states) {
-            if (generation == m_generation)
-                setStates(states);
-        });
+        [this](const std::vector<State>& states) { setStates(states); });
 }
 
 void RecordItemsModel::setStates(const std::vector<State>& states)

@@ -7,7 +7,6 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
-#include <stop_token>
 #include <vector>
 
 namespace orlen {
@@ -65,8 +64,7 @@ private:
     AppModel& m_app;
     QString m_recordId;
     std::vector<Row> m_rows;
-    int m_generation = 0; ///< number of the latest look-up: the result of an older one is dropped
-    std::stop_source m_lookUpStop{std::nostopstate};
+    Latest m_lookUp;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

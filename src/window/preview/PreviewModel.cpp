@@ -40,20 +40,16 @@ void PreviewModel::setToken(int token)
         return;
     m_token = token;
     m_path = PathTokens::path(token);
-    m_stop.request_stop();
-    const int load = ++m_load;
+    m_load.drop();
     show({}, Loading);
     if (m_path.empty())
         return;
-    m_stop =
-        m_workers.start([path = m_path](const std::stop_token& stop) { return FilePreview::of(path, stop); },
-                        [this, load](FilePreview preview) {
-                            // A stopped load may come late, when its file is wanted again.
-                            if (load != m_load)
-                                return;
-                            const Kind kind = kindOf(preview.kind);
-                            show(std::move(preview), kind);
-                        });
+    m_workers.start(
+        m_load, [path = m_path](const std::stop_token& stop) { return FilePreview::of(path, stop); },
+        [this](FilePreview preview) {
+            const Kind kind = kindOf(preview.kind);
+            show(std::move(preview), kind);
+        });
 }
 
 void PreviewModel::show(FilePreview preview, Kind kind)

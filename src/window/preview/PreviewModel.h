@@ -6,7 +6,6 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <stop_token>
 #include <string>
 
 namespace orlen {
@@ -74,11 +73,10 @@ private:
     void show(FilePreview preview, Kind kind);
 
     int m_token = 0;
-    int m_load = 0; ///< number of the latest load
     std::string m_path;
     Kind m_kind = Loading;
     FilePreview m_preview;
-    std::stop_source m_stop{std::nostopstate};
+    Latest m_load;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

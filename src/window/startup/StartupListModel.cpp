@@ -38,18 +38,16 @@ StartupListModel::~StartupListModel() = default;
 
 void StartupListModel::load()
 {
-    // What is read now would not be what holds after the change.
-    const int generation = ++m_generation;
     setLoading(true);
+    // What is read now would not be what holds after the change.
     if (!m_wanted.empty())
         return;
-    m_workers.start([](const std::stop_token&) { return LaunchControl::load(); },
-                    [this, generation](std::vector<LaunchItem> items) {
-                        if (generation != m_generation)
-                            return;
-                        setRows(m_items, std::move(items), &LaunchItem::path);
-                        setLoading(false);
-                    });
+    m_workers.start(
+        m_load, [](const std::stop_token&) { return LaunchControl::load(); },
+        [this](std::vector<LaunchItem> items) {
+            setRows(m_items, std::move(items), &LaunchItem::path);
+            setLoading(false);
+        });
 }
 
 void StartupListModel::toggle(int row)
@@ -63,7 +61,7 @@ void StartupListModel::toggle(int row)
     if (!m_wanted.emplace(item.path, isWanted).second)
         return;
     // A list that is being read may hold the old value: it is read again afterwards.
-    ++m_generation;
+    m_load.drop();
     rowsChanged(row, row);
     m_workers.start([item, isWanted](const std::stop_token&) { return LaunchControl::set(item, isWanted); },
                     [this, item](bool wasMade) { finishChange(item, wasMade); });

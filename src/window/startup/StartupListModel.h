@@ -62,7 +62,7 @@ private:
     std::vector<LaunchItem> m_items;
     std::map<std::string, bool> m_wanted; ///< by path: changes that are being made
     bool m_isLoading = false;
-    int m_generation = 0; ///< number of the latest load
+    Latest m_load;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };
