@@ -2,6 +2,7 @@
 #include "window/shell/WindowState.h"
 
 #include "window/home/FindingListModel.h"
+#include "window/lists/RatingValue.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
@@ -74,7 +75,7 @@ TEST_F(FindingListModelTest, tellsHowMuchIsSelected)
     EXPECT_EQ(value(caches, size).toString(), "61.4 MB");
     EXPECT_EQ(value(caches, count).toString(), "2 items");
     EXPECT_EQ(value(caches, selected).toString(), "61.4 MB");
-    EXPECT_EQ(value(caches, rating).toString(), "safe");
+    EXPECT_EQ(value(caches, rating).value<RatingValue>().name, "safe");
 }
 
 TEST_F(FindingListModelTest, whatCannotBeCleanedHasNoRating)
@@ -83,7 +84,7 @@ TEST_F(FindingListModelTest, whatCannotBeCleanedHasNoRating)
     const int trash = rowOf("trash");
     ASSERT_GE(trash, 0);
     EXPECT_FALSE(value(trash, cleanable).toBool());
-    EXPECT_EQ(value(trash, rating).toString(), "review");
+    EXPECT_EQ(value(trash, rating).value<RatingValue>().name, "review");
     EXPECT_EQ(value(trash, selected).toString(), "");
 }
 

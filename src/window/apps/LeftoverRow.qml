@@ -89,7 +89,7 @@ Item {
         anchors.right: bytes.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        rating: root.note === "" ? "" : "review"
+        name: root.note === "" ? "" : "review"
         label: root.note
         symbol: "eye.fill"
     }

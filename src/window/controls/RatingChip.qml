@@ -5,18 +5,19 @@ import Orlen.App
 Rectangle {
     id: root
 
-    /// Raw value: "safe", "review", "keep".
-    required property string rating
-    required property string label
-    required property string symbol
+    property ratingValue rating
+    /// Raw value of a rating, for the colours; empty: nothing is shown.
+    property string name: root.rating.name
+    property string label: root.rating.label
+    property string symbol: root.rating.symbol
 
-    readonly property color base: Theme.ratingBase(root.rating)
+    readonly property color base: Theme.ratingBase(root.name)
 
     implicitWidth: row.implicitWidth + 18
     implicitHeight: Math.round(22 * Theme.textScale)
     radius: height / 2
     color: Qt.rgba(root.base.r, root.base.g, root.base.b, Theme.chipOpacity)
-    visible: root.rating !== ""
+    visible: root.name !== ""
     Accessible.role: Accessible.StaticText
     Accessible.name: root.label
 
@@ -29,7 +30,7 @@ Rectangle {
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
-            colour: Theme.ratingText(root.rating)
+            colour: Theme.ratingText(root.name)
             size: 12
         }
 
@@ -37,7 +38,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: root.label
             textFormat: Text.PlainText
-            color: Theme.ratingText(root.rating)
+            color: Theme.ratingText(root.name)
             font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
             Accessible.ignored: true

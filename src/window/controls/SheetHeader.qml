@@ -8,9 +8,7 @@ Item {
     required property string title
     property string symbol: ""
     property color tone: Theme.accent
-    property string rating: ""
-    property string ratingLabel: ""
-    property string ratingSymbol: ""
+    property ratingValue rating
     property string closeName: "closeSheet"
     default property alias lines: texts.data
     signal closeRequested
@@ -66,8 +64,6 @@ Item {
                 anchors.leftMargin: 10
                 anchors.verticalCenter: heading.verticalCenter
                 rating: root.rating
-                label: root.ratingLabel
-                symbol: root.ratingSymbol
             }
         }
     }

@@ -312,9 +312,7 @@ QVariant EntryListModel::value(std::size_t number, int role) const
     case Role::note:
         return DisplayText::path(entry.note.value_or(""));
     case Role::rating:
-    case Role::ratingLabel:
-    case Role::ratingSymbol:
-        return ratingData(entry, static_cast<Role>(role));
+        return QVariant::fromValue(RatingValue(entry.rating.value_or(m_rating)));
     case Role::symbol:
         return m_folders->isFolder(entry.path) ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
     case Role::thumbnail:
@@ -325,14 +323,6 @@ QVariant EntryListModel::value(std::size_t number, int role) const
         return PathTokens::tokenOf(entry.path);
     }
     return {};
-}
-
-QVariant EntryListModel::ratingData(const FileEntry& entry, Role role) const
-{
-    const Rating rating = entry.rating.value_or(m_rating);
-    if (role == Role::rating)
-        return DisplayText::text(rawValue(rating));
-    return DisplayText::text(role == Role::ratingLabel ? label(rating) : orlen::symbol(rating));
 }
 
 int EntryListModel::tokenAt(int row) const

@@ -47,9 +47,7 @@ public:
         size,                ///< text
         date,                ///< "Opened …" or "Modified …"; may be empty
         note,                ///< may be empty
-        rating,              ///< raw value of the effective rating
-        ratingLabel,         ///< its word
-        ratingSymbol,        ///< its icon
+        rating,              ///< a `RatingValue`
         symbol,              ///< icon of the file
         thumbnail,           ///< source of a picture of it; empty for what is no picture
         marked,              ///< whether it is selected
@@ -111,7 +109,6 @@ private:
     void count();
     [[nodiscard]] std::size_t entryIndex(int row) const;
     [[nodiscard]] const FileEntry& entryAt(int row) const { return m_entries[entryIndex(row)]; }
-    [[nodiscard]] QVariant ratingData(const FileEntry& entry, Role role) const;
 
     AppModel& m_app;
     QString m_findingId;

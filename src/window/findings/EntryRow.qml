@@ -11,9 +11,7 @@ Item {
     required property string size
     required property string date
     required property string note
-    required property string rating
-    required property string ratingLabel
-    required property string ratingSymbol
+    required property ratingValue rating
     required property string symbol
     required property string thumbnail
     property int checkState: Qt.Unchecked
@@ -29,7 +27,7 @@ Item {
     signal revealRequested
 
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
-    Accessible.name: root.name + ", " + root.size + ", " + root.ratingLabel + ", " + root.note + ", " + root.folder
+    Accessible.name: root.name + ", " + root.size + ", " + root.rating.label + ", " + root.note + ", " + root.folder
     Accessible.checkable: root.checkable
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.selected: root.isCurrent
@@ -168,8 +166,6 @@ Item {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             rating: root.rating
-            label: root.ratingLabel
-            symbol: root.ratingSymbol
             Accessible.ignored: true
         }
     }

@@ -14,9 +14,7 @@ FindingHeader FindingHeader::of(const Finding& finding)
     header.reason = SheetTexts::why(finding.rating, finding.reason);
     header.symbol = DisplayText::text(finding.symbol);
     header.tone = DisplayText::colour(finding.category);
-    header.rating = DisplayText::text(rawValue(finding.rating));
-    header.ratingLabel = DisplayText::text(label(finding.rating));
-    header.ratingSymbol = DisplayText::text(orlen::symbol(finding.rating));
+    header.rating = RatingValue(finding.rating);
     header.isCleanable = finding.cleanable;
     return header;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Rating.h"
+#include "window/lists/RatingValue.h"
 
 #include <QColor>
 #include <QObject>
@@ -20,9 +20,7 @@ class FindingHeader {
     Q_PROPERTY(QString reason MEMBER reason)
     Q_PROPERTY(QString symbol MEMBER symbol)
     Q_PROPERTY(QColor tone MEMBER tone)
-    Q_PROPERTY(QString rating MEMBER rating)
-    Q_PROPERTY(QString ratingLabel MEMBER ratingLabel)
-    Q_PROPERTY(QString ratingSymbol MEMBER ratingSymbol)
+    Q_PROPERTY(orlen::RatingValue rating MEMBER rating)
     Q_PROPERTY(bool cleanable MEMBER isCleanable)
 
 public:
@@ -33,9 +31,7 @@ public:
     QString reason; ///< "Why Safe: …"; empty when none is given
     QString symbol;
     QColor tone; ///< of the category
-    QString rating;
-    QString ratingLabel;
-    QString ratingSymbol;
+    RatingValue rating;
     bool isCleanable = false; ///< whether the entries may be selected at all
 
     friend bool operator==(const FindingHeader&, const FindingHeader&) = default;

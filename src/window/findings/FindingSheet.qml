@@ -49,8 +49,6 @@ Sheet {
         symbol: contents.header.symbol
         tone: contents.header.tone
         rating: contents.header.rating
-        ratingLabel: contents.header.ratingLabel
-        ratingSymbol: contents.header.ratingSymbol
         onCloseRequested: root.close()
 
         SheetText {

@@ -10,9 +10,7 @@ T.AbstractButton {
     required property string title
     required property string symbol
     required property color tone
-    required property string rating
-    required property string ratingLabel
-    required property string ratingSymbol
+    required property ratingValue rating
     required property string size
     required property string count
     required property string selected
@@ -24,7 +22,7 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     text: root.title
-    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.ratingLabel
+    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.rating.label
 
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
@@ -43,8 +41,6 @@ T.AbstractButton {
             anchors.rightMargin: 14
             y: 16
             rating: root.rating
-            label: root.ratingLabel
-            symbol: root.ratingSymbol
             Accessible.ignored: true
         }
 

@@ -1,6 +1,7 @@
 #include "window/home/FindingListModel.h"
 
 #include "window/lists/DisplayText.h"
+#include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
@@ -54,11 +55,7 @@ QVariant FindingListModel::value(std::size_t number, int role) const
     case Role::tone:
         return DisplayText::colour(meta(row.kind).category);
     case Role::rating:
-        return DisplayText::text(rawValue(row.rating));
-    case Role::ratingLabel:
-        return DisplayText::text(label(row.rating));
-    case Role::ratingSymbol:
-        return DisplayText::text(symbol(row.rating));
+        return QVariant::fromValue(RatingValue(row.rating));
     case Role::size:
         return DisplayText::size(row.size);
     case Role::count:

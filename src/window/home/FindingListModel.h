@@ -22,9 +22,7 @@ public:
         title,                    ///< text
         symbol,                   ///< icon name
         tone,                     ///< colour of its category
-        rating,                   ///< raw value
-        ratingLabel,              ///< word on the chip
-        ratingSymbol,             ///< icon name
+        rating,                   ///< a `RatingValue`
         size,                     ///< bytes of all entries, as text
         count,                    ///< "1 item", "12,345 items"
         selected,                 ///< bytes of the selected entries, as text; empty when there are none

@@ -11,9 +11,7 @@ Card {
     required property string explanation
     required property string symbol
     required property color tone
-    required property string rating
-    required property string ratingLabel
-    required property string ratingSymbol
+    required property ratingValue rating
     required property string photosText
     required property string summary
     required property string selection
@@ -92,8 +90,6 @@ Card {
                     id: chip
 
                     rating: root.rating
-                    label: root.ratingLabel
-                    symbol: root.ratingSymbol
                 }
             }
 

@@ -13,9 +13,7 @@ Item {
     required property string reason
     required property string symbol
     required property color tone
-    required property string rating
-    required property string ratingLabel
-    required property string ratingSymbol
+    required property ratingValue rating
     required property string summary
     required property string selection
     required property int checkState
@@ -96,8 +94,6 @@ Item {
                         id: chip
 
                         rating: root.rating
-                        label: root.ratingLabel
-                        symbol: root.ratingSymbol
                     }
                 }
 

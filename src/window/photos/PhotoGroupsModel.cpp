@@ -3,6 +3,7 @@
 #include "platform/files/FileStatus.h"
 #include "platform/values/CheckedSum.h"
 #include "window/lists/DisplayText.h"
+#include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
@@ -70,19 +71,18 @@ void PhotoGroupsModel::replace(std::vector<Finding> findings)
 
 void PhotoGroupsModel::findSets()
 {
-    const int generation = ++m_generation;
+    m_search.drop();
     m_sets.clear();
     const Finding* similar = finding(DisplayText::text(rawValue(FindingKind::photoDuplicates)));
     if (similar == nullptr)
         return;
     m_workers.start(
+        m_search,
         [items = similar->items](const std::stop_token& stop) {
             return PhotoSets::of(
                 items, [&stop](const std::string& path) { return !stop.stop_requested() && exists(path); });
         },
-        [this, generation](std::vector<PhotoSet> sets) {
-            if (generation != m_generation)
-                return;
+        [this](std::vector<PhotoSet> sets) {
             m_sets = std::move(sets);
             Q_EMIT photosChanged(DisplayText::text(rawValue(FindingKind::photoDuplicates)));
         });
@@ -213,11 +213,7 @@ QVariant PhotoGroupsModel::value(std::size_t number, int role) const
     case Role::tone:
         return DisplayText::colour(finding.category);
     case Role::rating:
-        return DisplayText::text(rawValue(finding.rating));
-    case Role::ratingLabel:
-        return DisplayText::text(label(finding.rating));
-    case Role::ratingSymbol:
-        return DisplayText::text(symbol(finding.rating));
+        return QVariant::fromValue(RatingValue(finding.rating));
     case Role::photosText:
         return DisplayText::number(photos);
     case Role::summary:

@@ -37,9 +37,7 @@ public:
         reason,                   ///< why they are rated so
         symbol,                   ///< icon name
         tone,                     ///< colour of the badge
-        rating,                   ///< raw value of the finding's rating
-        ratingLabel,              ///< the word on its chip
-        ratingSymbol,             ///< icon name on its chip
+        rating,                   ///< a `RatingValue`
         photosText,               ///< number of photos as text
         summary,                  ///< number of photos and their bytes as text
         selection,                ///< how many of them are selected, as text
@@ -104,7 +102,7 @@ private:
     std::vector<PhotoSet> m_sets; ///< of the similar photos
     QString m_shownGroup;
     bool m_wasFed = false; ///< by `setFindings`: counts as a scan
-    int m_generation = 0;  ///< number of the latest search for sets
+    Latest m_search;       ///< for sets
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

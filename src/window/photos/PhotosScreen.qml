@@ -89,9 +89,7 @@ Item {
             required property string reason
             required property string symbol
             required property color tone
-            required property string rating
-            required property string ratingLabel
-            required property string ratingSymbol
+            required property ratingValue rating
             required property string summary
             required property string selection
             required property int checkState
@@ -108,8 +106,6 @@ Item {
                 symbol: loader.symbol
                 tone: loader.tone
                 rating: loader.rating
-                ratingLabel: loader.ratingLabel
-                ratingSymbol: loader.ratingSymbol
                 summary: loader.summary
                 selection: loader.selection
                 checkState: loader.checkState

@@ -5,6 +5,7 @@
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathTokens.h"
+#include "window/lists/RatingValue.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
@@ -227,7 +228,7 @@ QVariant PlanModel::sectionData(int number, Role role) const
         return DisplayText::size(m_ticks.bytes(place(number)));
     if (role == Role::symbol)
         return DisplayText::text(shown.symbol);
-    return QString();
+    return role == Role::rating ? QVariant::fromValue(RatingValue()) : QString();
 }
 
 QVariant PlanModel::entryData(const Row& row, Role role) const
@@ -249,11 +250,7 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
     if (role == Role::thumbnail)
         return isFolder ? QString() : Thumbnails::source(entry.path);
     const std::optional<Rating> rating = entry.rating ? entry.rating : section(row.section).rating;
-    if (!rating)
-        return QString();
-    if (role == Role::rating)
-        return DisplayText::text(rawValue(*rating));
-    return DisplayText::text(role == Role::ratingLabel ? label(*rating) : orlen::symbol(*rating));
+    return QVariant::fromValue(rating ? RatingValue(*rating) : RatingValue());
 }
 
 int PlanModel::tokenAt(int row) const

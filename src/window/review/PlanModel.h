@@ -39,9 +39,7 @@ public:
         size,                   ///< of the entry, or what is checked in the section, as text
         date,                   ///< "Opened …" or "Modified …"; may be empty
         note,                   ///< may be empty
-        rating,                 ///< raw value; empty where there is no advice
-        ratingLabel,            ///< its word
-        ratingSymbol,           ///< its icon
+        rating,                 ///< a `RatingValue`
         symbol,                 ///< icon of the file or the section
         tone,                   ///< colour of the section's badge
         thumbnail,              ///< source of a picture of it; empty for what is no picture

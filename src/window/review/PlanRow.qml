@@ -12,9 +12,7 @@ Item {
     required property string size
     required property string date
     required property string note
-    required property string rating
-    required property string ratingLabel
-    required property string ratingSymbol
+    required property ratingValue rating
     required property string symbol
     required property color tone
     required property string thumbnail
@@ -58,8 +56,6 @@ Item {
             date: root.date
             note: root.note
             rating: root.rating
-            ratingLabel: root.ratingLabel
-            ratingSymbol: root.ratingSymbol
             symbol: root.symbol
             thumbnail: root.thumbnail
             checkState: root.mark

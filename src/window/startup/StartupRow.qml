@@ -91,7 +91,7 @@ Item {
                 anchors.left: title.right
                 anchors.leftMargin: 10
                 anchors.verticalCenter: parent.verticalCenter
-                rating: root.isPartOfDesktop ? "review" : ""
+                name: root.isPartOfDesktop ? "review" : ""
                 label: Strings.partOfDesktop
                 symbol: "exclamationmark.triangle.fill"
             }
