@@ -1,6 +1,5 @@
 #include "window/photos/PhotoGroupsModel.h"
 
-#include "platform/files/FileStatus.h"
 #include "platform/values/CheckedSum.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RatingValue.h"
@@ -28,7 +27,7 @@ QString selectedPhotos(int count, std::int64_t bytes)
 
 } // namespace
 
-PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app), m_workers(*this)
+PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app)
 {
     connect(m_app.results(), &Results::findingsChanged, this, &PhotoGroupsModel::followFindings);
     connect(m_app.results(), &Results::selectionChanged, this, &PhotoGroupsModel::followSelection);
@@ -59,33 +58,12 @@ void PhotoGroupsModel::replace(std::vector<Finding> findings)
     setRows(m_rows, std::move(rows), [](const Row& row) { return row.finding.id(); });
     if (finding(m_shownGroup) == nullptr)
         setShownGroup({});
-    findSets();
     for (const auto& [changed, selected] : m_rows) {
-        if (changed.kind != FindingKind::photoDuplicates &&
-            std::ranges::find(before, changed, &Row::finding) == before.end())
+        if (std::ranges::find(before, changed, &Row::finding) == before.end())
             Q_EMIT photosChanged(DisplayText::text(changed.id()));
     }
     Q_EMIT stageChanged();
     Q_EMIT selectedChanged();
-}
-
-void PhotoGroupsModel::findSets()
-{
-    m_search.drop();
-    m_sets.clear();
-    const Finding* similar = finding(DisplayText::text(rawValue(FindingKind::photoDuplicates)));
-    if (similar == nullptr)
-        return;
-    m_workers.start(
-        m_search,
-        [items = similar->items](const std::stop_token& stop) {
-            return PhotoSets::of(
-                items, [&stop](const std::string& path) { return !stop.stop_requested() && exists(path); });
-        },
-        [this](std::vector<PhotoSet> sets) {
-            m_sets = std::move(sets);
-            Q_EMIT photosChanged(DisplayText::text(rawValue(FindingKind::photoDuplicates)));
-        });
 }
 
 void PhotoGroupsModel::followSelection()
@@ -178,12 +156,6 @@ const Finding* PhotoGroupsModel::finding(const QString& id) const
 {
     const Row* row = rowOf(id);
     return row == nullptr ? nullptr : &row->finding;
-}
-
-const std::vector<PhotoSet>& PhotoGroupsModel::setsOf(const Finding& finding) const
-{
-    static const std::vector<PhotoSet> kNone;
-    return finding.kind == FindingKind::photoDuplicates ? m_sets : kNone;
 }
 
 Qt::CheckState PhotoGroupsModel::checkStateOf(const Row& row)

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "app/Workers.h"
 #include "window/lists/RowsModel.h"
-#include "window/photos/PhotoSets.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -62,8 +60,6 @@ public:
 
     /// Null when there is none.
     [[nodiscard]] const Finding* finding(const QString& id) const;
-    /// The finding's sets, for similar photos; empty until they have been found, and for any other kind.
-    [[nodiscard]] const std::vector<PhotoSet>& setsOf(const Finding& finding) const;
 
 Q_SIGNALS:
     void stageChanged();
@@ -92,19 +88,14 @@ private:
     void followFindings();
     void followSelection();
     void replace(std::vector<Finding> findings);
-    void findSets();
     [[nodiscard]] const Row* rowOf(const QString& id) const;
     [[nodiscard]] Selected selectedOf(const Finding& finding) const;
     [[nodiscard]] static Qt::CheckState checkStateOf(const Row& row);
 
     AppModel& m_app;
     std::vector<Row> m_rows;
-    std::vector<PhotoSet> m_sets; ///< of the similar photos
     QString m_shownGroup;
     bool m_wasFed = false; ///< by `setFindings`: counts as a scan
-    Latest m_search;       ///< for sets
-
-    Workers m_workers; ///< last, so that no worker outlives what it shares
 };
 
 } // namespace orlen

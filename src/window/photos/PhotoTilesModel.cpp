@@ -1,5 +1,6 @@
 #include "window/photos/PhotoTilesModel.h"
 
+#include "model/KeptSets.h"
 #include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathTokens.h"
@@ -83,12 +84,12 @@ std::vector<PhotoTilesModel::Tile> PhotoTilesModel::wanted() const
 std::vector<PhotoTilesModel::Tile> PhotoTilesModel::tilesOfSets(const Finding& finding) const
 {
     std::vector<Tile> tiles;
-    for (const PhotoSet& set : m_groups->setsOf(finding)) {
+    for (const KeptSet& set : keptSets(finding.items)) {
         const std::size_t first = tiles.size();
-        if (!set.keeperName.empty()) {
+        if (!set.kept.empty()) {
             Tile keeper;
-            keeper.path = set.keeper;
-            keeper.name = set.keeperName;
+            keeper.path = set.kept;
+            keeper.name = PathText::lastComponent(set.kept);
             keeper.isKept = true;
             tiles.push_back(std::move(keeper));
         }
@@ -108,13 +109,7 @@ std::vector<PhotoTilesModel::Tile> PhotoTilesModel::tilesOfSets(const Finding& f
 
 void PhotoTilesModel::update()
 {
-    std::vector<Tile> tiles = wanted();
-    const Finding* finding = m_groups == nullptr ? nullptr : m_groups->finding(m_findingId);
-    // The sets of changed photos come a little later; until then the old rows stand.
-    if (tiles.empty() && finding != nullptr)
-        return;
-    setRows(m_tiles, std::move(tiles),
-            [](const Tile& tile) { return tile.path + (tile.isKept ? "\n" + tile.name : ""); });
+    setRows(m_tiles, wanted(), &Tile::path);
 }
 
 void PhotoTilesModel::followSelection()
@@ -143,7 +138,7 @@ void PhotoTilesModel::toggle(int row)
 
 int PhotoTilesModel::token(int row) const
 {
-    if (!hasRow(row) || m_tiles[static_cast<std::size_t>(row)].path.empty())
+    if (!hasRow(row))
         return 0;
     return PathTokens::tokenOf(m_tiles[static_cast<std::size_t>(row)].path);
 }
