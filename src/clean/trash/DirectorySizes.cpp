@@ -3,10 +3,10 @@
 #include "clean/trash/TrashName.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/FolderEntries.h"
+#include "platform/text/LineText.h"
 #include "platform/text/PercentCoding.h"
 #include "platform/values/Uuid.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <optional>
 #include <string>
@@ -76,8 +76,7 @@ std::string linesOf(std::string_view text, const std::function<bool(const std::s
 {
     std::string kept;
     while (!text.empty()) {
-        const std::string_view line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
+        const std::string_view line = LineText::takeLine(text);
         // Programs differ in what they encode, so names are compared as decoded.
         if (isKept(nameOf(line)))
             kept.append(line).push_back('\n');

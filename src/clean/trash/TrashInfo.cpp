@@ -1,5 +1,6 @@
 #include "clean/trash/TrashInfo.h"
 
+#include "platform/text/KeyFile.h"
 #include "platform/text/PercentCoding.h"
 
 #include <array>
@@ -10,7 +11,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::string_view kHeading = "[Trash Info]";
+constexpr std::string_view kGroup = "Trash Info";
 
 /// The number that the digits in `[at, at + length)` stand for; nothing when another character is among them.
 std::optional<int> number(std::string_view text, std::size_t at, std::size_t length, int base)
@@ -63,29 +64,11 @@ std::optional<TimePoint> timeFromLocal(std::string_view text)
     return std::chrono::system_clock::from_time_t(std::mktime(&local));
 }
 
-std::string_view nextLine(std::string_view& rest)
-{
-    const std::size_t end = rest.find('\n');
-    std::string_view line = rest.substr(0, end);
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
-
-/// The value of a "Key=Value" line of this key.
-std::optional<std::string_view> valueOf(std::string_view line, std::string_view key)
-{
-    if (!line.starts_with(key) || line.size() == key.size() || line[key.size()] != '=')
-        return std::nullopt;
-    return line.substr(key.size() + 1);
-}
-
 } // namespace
 
 std::string TrashInfo::text(std::string_view path, TimePoint deleted)
 {
-    std::string text(kHeading);
+    std::string text = "[" + std::string(kGroup) + "]";
     text += "\nPath=" + PercentCoding::encoded(path);
     text += "\nDeletionDate=" + localText(deleted) + "\n";
     return text;
@@ -93,18 +76,16 @@ std::string TrashInfo::text(std::string_view path, TimePoint deleted)
 
 std::optional<TrashInfo> TrashInfo::parse(std::string_view text)
 {
-    while (!text.empty() && nextLine(text) != kHeading) {
-    }
     std::optional<std::string_view> path;
     std::optional<std::string_view> date;
-    while (!text.empty()) {
-        const std::string_view line = nextLine(text);
-        if (line.starts_with('['))
-            break;
-        if (!path)
-            path = valueOf(line, "Path");
-        if (!date)
-            date = valueOf(line, "DeletionDate");
+    KeyFile file(text, KeyFile::Spaces::kept);
+    while (const auto line = file.next()) {
+        if (line->group != kGroup)
+            continue;
+        if (line->key == "Path" && !path)
+            path = line->value;
+        if (line->key == "DeletionDate" && !date)
+            date = line->value;
     }
     auto decoded = PercentCoding::decoded(path.value_or(""));
     // The kernel would read a path only up to its first zero byte.

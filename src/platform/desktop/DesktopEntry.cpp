@@ -1,7 +1,7 @@
 #include "platform/desktop/DesktopEntry.h"
 
 #include "platform/files/FileContent.h"
-#include "platform/text/LineText.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -9,16 +9,6 @@
 namespace orlen {
 
 namespace {
-
-constexpr std::string_view kGroup = "[Desktop Entry]";
-
-std::string_view nextLine(std::string_view& text)
-{
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return LineText::trimmed(line);
-}
 
 /// What a letter behind a backslash stands for; the backslash stays before any other.
 std::optional<char> escaped(char letter)
@@ -136,23 +126,15 @@ std::size_t preparingWords(const std::vector<std::string>& words)
 std::optional<DesktopEntry> DesktopEntry::parsed(std::string_view text)
 {
     DesktopEntry entry;
-    bool isInGroup = false;
     bool hasGroup = false;
-    while (!text.empty()) {
-        const std::string_view line = nextLine(text);
-        if (line.starts_with('[') && line.ends_with(']')) {
-            isInGroup = line == kGroup;
-            hasGroup = hasGroup || isInGroup;
+    KeyFile file(text);
+    while (const auto line = file.next()) {
+        if (line->group != kGroup)
             continue;
-        }
-        const std::size_t equals = line.find('=');
+        hasGroup = true;
         // A byte 0 would end a path early wherever one is made of the value.
-        if (!isInGroup || line.starts_with('#') || equals == std::string_view::npos ||
-            line.find('\0') != std::string_view::npos)
-            continue;
-        const std::string_view key = LineText::trimmed(line.substr(0, equals));
-        if (!key.empty())
-            entry.m_values.emplace(key, LineText::trimmed(line.substr(equals + 1)));
+        if (!line->key.empty() && line->raw.find('\0') == std::string_view::npos)
+            entry.m_values.emplace(line->key, line->value);
     }
     return hasGroup ? std::optional(std::move(entry)) : std::nullopt;
 }

@@ -16,6 +16,8 @@ class DesktopEntry {
 public:
     /// Longest file that is read, in bytes.
     static constexpr std::size_t kSizeLimit = 256UL * 1024;
+    /// The group that holds the entry.
+    static constexpr std::string_view kGroup = "Desktop Entry";
 
     /// Nothing when the text has no such group.
     [[nodiscard]] static std::optional<DesktopEntry> parsed(std::string_view text);

@@ -1,6 +1,6 @@
 #include "platform/files/UserDirs.h"
 
-#include "platform/text/LineText.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
 
 #include <optional>
@@ -51,19 +51,14 @@ std::map<std::string, std::string> parse(std::string_view text, std::string_view
     constexpr std::string_view kStart = "XDG_";
     constexpr std::string_view kEnd = "_DIR";
     std::map<std::string, std::string> folders;
-    while (!text.empty()) {
-        const std::size_t lineEnd = text.find('\n');
-        const std::string_view line = LineText::trimmed(text.substr(0, lineEnd));
-        text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
-        const std::size_t equals = line.find('=');
-        if (equals == std::string_view::npos)
-            continue;
-        const std::string_view key = LineText::trimmed(line.substr(0, equals));
+    KeyFile file(text);
+    while (const auto line = file.next()) {
+        const std::string_view key = line->key;
         if (!key.starts_with(kStart) || !key.ends_with(kEnd) || key.size() <= kStart.size() + kEnd.size())
             continue;
         const std::string name(key.substr(kStart.size(), key.size() - kStart.size() - kEnd.size()));
         folders.erase(name);
-        if (auto folder = folderOf(LineText::trimmed(line.substr(equals + 1)), home))
+        if (auto folder = folderOf(line->value, home))
             folders[name] = std::move(*folder);
     }
     return folders;

@@ -1,6 +1,6 @@
 #include "tools/startup/PrintDisabled.h"
 
-#include <algorithm>
+#include "platform/text/LineText.h"
 
 namespace orlen::PrintDisabled {
 
@@ -28,9 +28,7 @@ Labels labels(std::string_view text)
 {
     Labels disabled;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::string_view line = LineText::takeLine(text);
         const std::size_t arrow = line.find(kArrow);
         if (arrow == std::string_view::npos)
             continue;
