@@ -16,12 +16,10 @@ enum class MountClass {
 };
 
 struct Mount {
-    std::uint64_t id = 0; ///< as in FileStatus::mount
-    std::string point;    ///< absolute path, octal escapes decoded
-    std::string type;     ///< "ext4", "nfs4", "fuse.sshfs", …
-    std::string source;   ///< device or server, escapes decoded
-    std::string
-        subtree; ///< the part of the file system that is mounted: "/", or a btrfs subvolume, or a bind
+    std::uint64_t id = 0;         ///< as in FileStatus::mount
+    std::string point;            ///< absolute path, octal escapes decoded
+    std::string type;             ///< "ext4", "nfs4", "fuse.sshfs", …
+    std::string source;           ///< device or server, escapes decoded
     bool keepsAccessTimes = true; ///< false on a mount with "noatime"
     MountClass kind = MountClass::local;
 
@@ -31,10 +29,9 @@ struct Mount {
 /// The mounted file systems at one moment. Immutable after it was read; any thread.
 class MountTable {
 public:
-    /// Reads the kernel's table; empty when it cannot be read. Blocks only on that file.
+    /// Reads the kernel's table ("/proc/self/mountinfo"); malformed lines are skipped. Empty when it cannot
+    /// be read. Blocks only on that file.
     [[nodiscard]] static MountTable read(const std::string& file);
-    /// The same from the text of such a table; malformed lines are skipped.
-    [[nodiscard]] static MountTable parse(std::string_view text);
 
     /// In the kernel's order: of two mounts on one point the later hides the earlier.
     [[nodiscard]] const std::vector<Mount>& mounts() const { return m_mounts; }
