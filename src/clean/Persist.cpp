@@ -4,6 +4,7 @@
 #include "clean/Reserve.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/files/Reachability.h"
 #include "platform/text/PathText.h"
@@ -97,8 +98,7 @@ Result<void> setAside(const std::string& file, std::string_view stem)
     const std::string folder(PathText::parent(file));
     const std::string start = std::string(stem) + ".unreadable-";
     const std::string aside = start + stampOf(std::chrono::system_clock::now()) + ".json";
-    const std::string target = PathText::join(folder, aside);
-    if (auto renamed = renameOwnFile(file, target); !renamed.ok())
+    if (auto renamed = OwnFile::rename(file, aside); !renamed.ok())
         return renamed;
     std::vector<std::string> names = listNames(folder);
     std::erase_if(names, [&](const std::string& name) {
@@ -106,7 +106,7 @@ Result<void> setAside(const std::string& file, std::string_view stem)
     });
     std::sort(names.begin(), names.end(), std::greater());
     for (std::size_t i = kKeptAside; i < names.size(); ++i)
-        (void)removeOwnFile(PathText::join(folder, names[i]));
+        (void)OwnFile::remove(PathText::join(folder, names[i]));
     return {};
 }
 
@@ -155,7 +155,8 @@ Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
         return Errno{EFBIG};
     if (auto ready = makeReplaceable(path, file.value(), kind); !ready.ok())
         return ready;
-    auto written = Reserve::withRoom(Reserve::Use::record, [&] { return replaceFile(file.value(), text); });
+    auto written =
+        Reserve::withRoom(Reserve::Use::record, [&] { return OwnFile::replace(file.value(), text); });
     if (written.ok())
         failedLoads().erase(path);
     return written;

@@ -48,20 +48,4 @@ struct FileRange {
 /// Tells the system that the file will be read once from front to back.
 void announceSequentialRead(int file);
 
-/// Between a file's name and the numbers of the process and the writing, until the file is whole.
-inline constexpr std::string_view kUnfinishedMark = ".new-";
-
-/// Replaces the program's own file `path` by `bytes`: written beside it, synced, renamed over it, so that a
-/// reader never sees half of it. The new file has `mode`. On failure the old file stays as it was.
-[[nodiscard]] Result<void> replaceFile(const std::string& path, const std::string& bytes,
-                                       unsigned mode = 0600);
-/// The same for a name that nothing has yet. EEXIST when it is taken, by a dangling link too.
-[[nodiscard]] Result<void> writeNewFile(const std::string& path, const std::string& bytes,
-                                        unsigned mode = 0600);
-/// Gives the program's own file a name that nothing has yet, in the same file system. EEXIST when it is
-/// taken.
-[[nodiscard]] Result<void> renameOwnFile(const std::string& path, const std::string& newPath);
-/// Removes the program's own file, or a link in its place; never a folder. ENOENT when there is none.
-[[nodiscard]] Result<void> removeOwnFile(const std::string& path);
-
 } // namespace orlen

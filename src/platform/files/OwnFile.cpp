@@ -1,19 +1,22 @@
 #include "platform/files/OwnFile.h"
 
-#include "platform/files/FileContent.h"
 #include "platform/files/Folder.h"
 #include "platform/files/FolderEntries.h"
+#include "platform/files/Reachability.h"
 #include "platform/files/Retrying.h"
+#include "platform/files/UniqueFd.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <charconv>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <random>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,6 +25,8 @@ namespace orlen::OwnFile {
 namespace {
 
 constexpr unsigned kMode = 0600;
+/// Between a file's name and the numbers of the process and the writing, until the file is whole.
+constexpr std::string_view kUnfinishedMark = ".new-";
 
 Result<UniqueFd> openForWriting(const std::string& path, int flags)
 {
@@ -31,6 +36,45 @@ Result<UniqueFd> openForWriting(const std::string& path, int flags)
     if (file.ok() && (::fstat(file.value().get(), &opened) != 0 || !S_ISREG(opened.st_mode)))
         return Errno{EINVAL};
     return file;
+}
+
+Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode)
+{
+    if (auto written = writeAll(file.get(), bytes); !written.ok())
+        return written;
+    // Not every file system knows modes: where none is asked for, none is set.
+    if (mode != kMode && ::fchmod(file.get(), mode) != 0)
+        return Errno{errno};
+    return syncFile(file.get());
+}
+
+/// Writes the bytes beside the path and lets `place(beside)` give the file its name.
+template <typename Place>
+Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    // Two threads may write the same file: each writes its own.
+    static std::atomic<unsigned> counter{0};
+    const std::string beside =
+        path + std::string(kUnfinishedMark) + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+    // A left-over of a killed process with the same number is the program's own and may go.
+    ::unlink(beside.c_str());
+    auto file = retriedFd(
+        [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode); });
+    if (!file.ok())
+        return Errno{file.error()};
+    auto written = writeSyncClose(std::move(file).value(), bytes, mode);
+    if (written.ok())
+        written = place(beside);
+    if (!written.ok()) {
+        ::unlink(beside.c_str());
+        return written;
+    }
+    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
+    if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
+        (void)::fsync(parent.value().get());
+    return {};
 }
 
 constexpr std::string_view kDigits = "0123456789";
@@ -52,7 +96,48 @@ bool isLeftOver(std::string_view name)
     return isOurs && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
+std::string besideOf(const std::string& path, const std::string& name)
+{
+    return PathText::join(PathText::parent(path), name);
+}
+
 } // namespace
+
+Result<void> replace(const std::string& path, const std::string& bytes, unsigned mode)
+{
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+        return renameReplacingAt(AT_FDCWD, beside.c_str(), path.c_str());
+    });
+}
+
+Result<void> writeNew(const std::string& path, const std::string& bytes, unsigned mode)
+{
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+        return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
+    });
+}
+
+Result<void> rename(const std::string& path, const std::string& newName)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    const std::string newPath = besideOf(path, newName);
+    return renameNoReplaceAt(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str());
+}
+
+Result<void> renameOver(const std::string& path, const std::string& newName)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    return renameReplacingAt(AT_FDCWD, path.c_str(), besideOf(path, newName).c_str());
+}
+
+Result<void> remove(const std::string& path)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    return removeFileAt(AT_FDCWD, path.c_str());
+}
 
 Result<void> fill(const std::string& path, std::int64_t length)
 {
@@ -90,20 +175,11 @@ Result<void> shorten(const std::string& path, std::int64_t length)
     return {};
 }
 
-Result<void> rename(const std::string& path, const std::string& newName)
-{
-    const auto folder = openUnlinkedFolder(std::string(PathText::parent(path)));
-    if (!folder.ok())
-        return Errno{folder.error()};
-    const std::string name(PathText::lastComponent(path));
-    return renameReplacingAt(folder.value().get(), name.c_str(), newName.c_str());
-}
-
 void removeUnfinished(const std::string& folder)
 {
     for (const std::string& name : listNames(folder)) {
         if (isLeftOver(name))
-            (void)removeOwnFile(PathText::join(folder, name));
+            (void)remove(PathText::join(folder, name));
     }
 }
 

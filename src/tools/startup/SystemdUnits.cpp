@@ -1,5 +1,5 @@
-#include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "tools/startup/DesktopNames.h"
@@ -76,7 +76,7 @@ std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
 std::optional<Systemctl::Way> removeLinks(const Places& places, const std::string& unit)
 {
     for (const std::string& link : UnitLinks::ofUser(places, unit)) {
-        if (!removeOwnFile(link).ok())
+        if (!OwnFile::remove(link).ok())
             return std::nullopt;
     }
     return Systemctl::call({"daemon-reload"}) ? Systemctl::Way::throughManager : Systemctl::Way::onFiles;
