@@ -10,8 +10,9 @@
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
 #include "tools/apps/Launchers.h"
-#include "tools/apps/OwnApps.h"
+#include "tools/apps/RemovableApps.h"
 #include "tools/apps/Snaps.h"
+#include "tools/apps/mac/Bundles.h"
 
 #include <algorithm>
 #include <atomic>
@@ -58,9 +59,9 @@ std::vector<AppInfo> list(const std::stop_token& stop)
     if (!Places::current().isHomeUsable)
         return {};
     const std::vector<Launcher> launchers = Launchers::ofUser();
-    std::vector<AppInfo> apps = OwnApps::bundles(launchers);
-    std::vector<AppInfo> images = OwnApps::appImages(launchers, stop);
-    std::vector<AppInfo> folders = OwnApps::folders(launchers, images);
+    std::vector<AppInfo> apps = Bundles::installed(launchers);
+    std::vector<AppInfo> images = RemovableApps::appImages(launchers, stop);
+    std::vector<AppInfo> folders = RemovableApps::folders(launchers, images);
     append(apps, std::move(images));
     append(apps, std::move(folders));
     append(apps, Flatpaks::installed());

@@ -101,4 +101,20 @@ std::vector<const Launcher*> starting(const std::vector<Launcher>& launchers, co
     return found;
 }
 
+void describe(AppInfo& app, const std::vector<const Launcher*>& launchers)
+{
+    const auto take = [](std::string& field, const std::string& value) {
+        if (field.empty())
+            field = value;
+    };
+    for (const Launcher* launcher : launchers) {
+        app.launchers.push_back(launcher->path);
+        take(app.bundleID, launcher->identifier);
+        take(app.icon, launcher->icon);
+        take(app.name, launcher->name);
+    }
+    for (const Launcher* launcher : launchers)
+        take(app.name, launcher->imageName);
+}
+
 } // namespace orlen::Launchers

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/apps/AppInfo.h"
 #include "tools/apps/Launcher.h"
 
 #include <functional>
@@ -20,5 +21,9 @@ namespace orlen::Launchers {
 /// Those of the list that start the application at the path.
 [[nodiscard]] std::vector<const Launcher*> starting(const std::vector<Launcher>& launchers,
                                                     const std::string& app);
+
+/// Adds to an application what launchers say about it: of several answers the first that is not empty, and
+/// only where the application has none yet.
+void describe(AppInfo& app, const std::vector<const Launcher*>& launchers);
 
 } // namespace orlen::Launchers

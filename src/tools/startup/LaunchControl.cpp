@@ -2,7 +2,6 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
-#include "tools/startup/Launchctl.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupTexts.h"
 
@@ -28,12 +27,6 @@ std::unique_ptr<ServiceManager> managerOf(LaunchSource source)
 }
 
 } // namespace
-
-std::optional<std::string> run(const std::vector<std::string>& arguments)
-{
-    auto outcome = Launchctl::call(arguments);
-    return outcome ? std::optional(std::move(outcome->output)) : std::nullopt;
-}
 
 std::vector<LaunchItem> load()
 {

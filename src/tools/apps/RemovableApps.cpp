@@ -1,23 +1,21 @@
-#include "tools/apps/OwnApps.h"
+#include "tools/apps/RemovableApps.h"
 
 #include "clean/Safety.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
-#include "platform/mac/BundleInfo.h"
 #include "platform/text/PathText.h"
 #include "tools/apps/AppImage.h"
 #include "tools/apps/Launchers.h"
+#include "tools/apps/mac/Bundles.h"
 
 #include <algorithm>
 
-namespace orlen::OwnApps {
+namespace orlen::RemovableApps {
 
 namespace {
 
 using Paths = std::vector<std::string>;
-
-constexpr std::string_view kBundleSuffix = ".app";
 
 Paths sortedNames(const std::string& folder)
 {
@@ -50,23 +48,6 @@ Paths imageFolders()
     // read.
     std::erase_if(folders, [](const std::string& folder) { return Safety::protectsContents(folder); });
     return folders;
-}
-
-/// What launchers tell of the application; the first that tells something counts.
-void describe(AppInfo& app, const std::vector<const Launcher*>& launchers)
-{
-    const auto take = [](std::string& field, const std::string& value) {
-        if (field.empty())
-            field = value;
-    };
-    for (const Launcher* launcher : launchers) {
-        app.launchers.push_back(launcher->path);
-        take(app.bundleID, launcher->identifier);
-        take(app.icon, launcher->icon);
-        take(app.name, launcher->name);
-    }
-    for (const Launcher* launcher : launchers)
-        take(app.name, launcher->imageName);
 }
 
 bool isExecutableFile(const std::string& path)
@@ -108,25 +89,6 @@ bool startsAnyOf(const Launcher& launcher, const std::vector<AppInfo>& apps)
 
 } // namespace
 
-std::vector<AppInfo> bundles(const std::vector<Launcher>& launchers)
-{
-    const Places& places = Places::current();
-    std::vector<AppInfo> apps;
-    for (const std::string& folder : {places.applications, places.home + "/Applications"}) {
-        for (const std::string& file : sortedNames(folder)) {
-            if (!file.ends_with(kBundleSuffix))
-                continue;
-            AppInfo app;
-            app.path = PathText::join(folder, file);
-            describe(app, Launchers::starting(launchers, app.path));
-            app.name = file.substr(0, file.size() - kBundleSuffix.size());
-            app.bundleID = BundleInfo::identifier(app.path);
-            apps.push_back(std::move(app));
-        }
-    }
-    return apps;
-}
-
 std::vector<AppInfo> appImages(const std::vector<Launcher>& launchers, const std::stop_token& stop)
 {
     std::vector<AppInfo> apps;
@@ -142,7 +104,7 @@ std::vector<AppInfo> appImages(const std::vector<Launcher>& launchers, const std
             AppInfo app;
             app.path = PathText::join(folder, file);
             app.source = AppSource::appImage;
-            describe(app, Launchers::starting(launchers, app.path));
+            Launchers::describe(app, Launchers::starting(launchers, app.path));
             if (app.name.empty())
                 app.name = AppImage::nameFromFile(file);
             apps.push_back(std::move(app));
@@ -159,14 +121,14 @@ std::vector<AppInfo> folders(const std::vector<Launcher>& launchers, const std::
         for (const std::string& name : sortedNames(parent)) {
             AppInfo app;
             app.path = PathText::join(parent, name);
-            if (name.ends_with(kBundleSuffix) || !isRealFolder(app.path))
+            if (name.ends_with(Bundles::kSuffix) || !isRealFolder(app.path))
                 continue;
             std::vector<const Launcher*> own = Launchers::starting(launchers, app.path);
             std::erase_if(own, [&](const Launcher* launcher) { return startsAnyOf(*launcher, images); });
             if (own.empty() && !holdsProgram(app.path))
                 continue;
             app.source = AppSource::folder;
-            describe(app, own);
+            Launchers::describe(app, own);
             if (app.name.empty() || !agreeOnName(own))
                 app.name = name;
             apps.push_back(std::move(app));
@@ -175,4 +137,4 @@ std::vector<AppInfo> folders(const std::vector<Launcher>& launchers, const std::
     return apps;
 }
 
-} // namespace orlen::OwnApps
+} // namespace orlen::RemovableApps

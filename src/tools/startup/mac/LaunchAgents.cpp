@@ -3,10 +3,10 @@
 #include "platform/mac/PropertyList.h"
 #include "platform/process/ChildProcess.h"
 #include "platform/text/PathText.h"
-#include "tools/startup/Launchctl.h"
-#include "tools/startup/PrintDisabled.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupTexts.h"
+#include "tools/startup/mac/Launchctl.h"
+#include "tools/startup/mac/PrintDisabled.h"
 
 #include <algorithm>
 #include <optional>

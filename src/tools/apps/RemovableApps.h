@@ -7,10 +7,7 @@
 #include <vector>
 
 /// Applications that the user has put there and may take away: each source on its own. Blocks on the disk.
-namespace orlen::OwnApps {
-
-/// Folders named "x.app" in the folders for applications.
-[[nodiscard]] std::vector<AppInfo> bundles(const std::vector<Launcher>& launchers);
+namespace orlen::RemovableApps {
 
 /// AppImages in the folders where users keep them. Links to them are passed over.
 [[nodiscard]] std::vector<AppInfo> appImages(const std::vector<Launcher>& launchers,
@@ -20,4 +17,4 @@ namespace orlen::OwnApps {
 [[nodiscard]] std::vector<AppInfo> folders(const std::vector<Launcher>& launchers,
                                            const std::vector<AppInfo>& images);
 
-} // namespace orlen::OwnApps
+} // namespace orlen::RemovableApps

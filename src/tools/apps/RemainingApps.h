@@ -12,15 +12,16 @@
 
 namespace orlen {
 
-/// What else is installed beside one application, and so may still use folders that look like its leftovers:
-/// packages of the distribution, other applications of the list, and what starts from the user's menus.
-class OtherApps {
+/// What is installed once an application is gone, and may still use folders that look like its leftovers:
+/// packages of the distribution, the other applications of the list, and what the user's menus start.
+class RemainingApps {
 public:
-    /// Beside what is known by name only: all that has a launcher for all users. Blocks on the disk.
-    [[nodiscard]] static OtherApps besideAny(const std::stop_token& stop);
-    /// Beside an application of the list.
-    [[nodiscard]] static OtherApps beside(const AppInfo& app, std::span<const AppInfo> listed,
-                                          const std::stop_token& stop);
+    /// Everything that has a launcher for all users, for an application of which only the name is known.
+    /// Blocks on the disk.
+    [[nodiscard]] static RemainingApps all(const std::stop_token& stop);
+    /// Everything but this application of the list. Blocks on the disk.
+    [[nodiscard]] static RemainingApps without(const AppInfo& app, std::span<const AppInfo> listed,
+                                               const std::stop_token& stop);
 
     /// Whether another one has any of these, in lower case, for a name, the name of its program or a part of
     /// its identifier.
@@ -38,7 +39,7 @@ private:
     void addWords(std::string_view name);
     void addIdentifier(std::string_view identifier);
 
-    std::string m_app; ///< path of the one that the others are beside; may be empty
+    std::string m_app; ///< path of the application left out; may be empty
     std::set<std::string, std::less<>> m_words;
     std::set<std::string, std::less<>> m_identifiers;
     std::vector<std::string> m_paths;

@@ -1,4 +1,4 @@
-#include "scan/locations/LanguagePacks.h"
+#include "scan/locations/mac/LanguagePacks.h"
 
 #include "clean/Safety.h"
 #include "platform/files/FileStatus.h"
