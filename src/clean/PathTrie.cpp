@@ -95,12 +95,12 @@ void PathTrie::add(std::string_view folder, std::string_view pattern, Mark mark)
         m_nodes[place].marks |= bitOf(mark);
 }
 
-PathTrie::Walk::Walk(const PathTrie& trie) : m_trie(trie)
+PathTrie::Cursor::Cursor(const PathTrie& trie) : m_trie(trie)
 {
     arrive(0);
 }
 
-void PathTrie::Walk::enter(std::string_view component)
+void PathTrie::Cursor::enter(std::string_view component)
 {
     if (m_isSealed || m_place == kNone)
         return;
@@ -113,7 +113,7 @@ void PathTrie::Walk::enter(std::string_view component)
     arrive(found == node.named.end() ? node.any : found->second);
 }
 
-void PathTrie::Walk::arrive(Index place)
+void PathTrie::Cursor::arrive(Index place)
 {
     m_place = place;
     if (place == kNone)
@@ -123,12 +123,12 @@ void PathTrie::Walk::arrive(Index place)
     m_isClosed = node.has(Mark::closed) || (m_isClosed && !node.has(Mark::opened));
 }
 
-bool PathTrie::Walk::isMarked() const
+bool PathTrie::Cursor::isMarked() const
 {
     return m_isSealed || m_isClosed || (m_place != kNone && m_trie.m_nodes[m_place].has(Mark::itself));
 }
 
-bool PathTrie::Walk::areContentsMarked() const
+bool PathTrie::Cursor::areContentsMarked() const
 {
     if (m_isSealed)
         return true;

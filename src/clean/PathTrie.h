@@ -27,9 +27,9 @@ public:
     void add(std::string_view folder, std::string_view pattern, Mark mark);
 
     /// Follows one path from the root downwards. Must not outlive the trie.
-    class Walk {
+    class Cursor {
     public:
-        explicit Walk(const PathTrie& trie);
+        explicit Cursor(const PathTrie& trie);
 
         void enter(std::string_view component);
 

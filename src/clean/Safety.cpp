@@ -97,11 +97,6 @@ void refresh()
     publisher().publish(std::make_shared<const SafetyTable>(places), ticket);
 }
 
-std::vector<std::string> syncRoots()
-{
-    return table().syncRoots();
-}
-
 bool isSyncMarker(std::string_view name)
 {
     return SyncRoots::isMarker(name);

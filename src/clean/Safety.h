@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// The one gate for every path that is offered, entered, moved or restored. Any thread.
 ///
@@ -23,9 +22,6 @@ namespace orlen::Safety {
 /// Reads mounts and sync folders again. Called at start, before every scan and before every clean-up and
 /// restore. Blocks on the disk.
 void refresh();
-
-/// Folders that sync programs mirror, as the last `refresh` found them; standardised paths.
-[[nodiscard]] std::vector<std::string> syncRoots();
 
 /// Whether a folder that holds a file or folder of this name is mirrored by a sync program.
 [[nodiscard]] bool isSyncMarker(std::string_view name);

@@ -64,7 +64,6 @@ SafetyTable::SafetyTable(Places places) : m_places(std::move(places))
     if (!m_places.isHomeUsable)
         return;
     const HomeMounts mounts = HomeMounts::read(m_places);
-    m_syncRoots = SyncRoots::find(m_places, mounts);
     addRules(mounts);
     addFound(mounts);
 }
@@ -94,7 +93,7 @@ void SafetyTable::addFound(const HomeMounts& mounts)
             guardParents(path);
         }
     };
-    mark(m_syncRoots, Mark::contents);
+    mark(SyncRoots::find(m_places, mounts), Mark::contents);
     mark(mounts.points, Mark::itself);
     mark(mounts.foreign, Mark::contents);
 }
@@ -126,20 +125,20 @@ SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
 
 SafetyTable::Verdict SafetyTable::judgeNormal(std::string_view path) const
 {
-    PathTrie::Walk walk(m_marks);
+    PathTrie::Cursor cursor(m_marks);
     std::string_view parent;
     std::string_view component;
     for (std::size_t at = 1; at < path.size();) {
         const std::size_t end = std::min(path.find('/', at), path.size());
         parent = component;
         component = path.substr(at, end - at);
-        walk.enter(component);
-        if (walk.isSealed() || SafetyRules::isSealedName(component) ||
+        cursor.enter(component);
+        if (cursor.isSealed() || SafetyRules::isSealedName(component) ||
             SafetyRules::isSealedPair(parent, component))
             return {};
         at = end + 1;
     }
-    return {walk.isMarked() || SafetyRules::isProtectedName(component), walk.areContentsMarked()};
+    return {cursor.isMarked() || SafetyRules::isProtectedName(component), cursor.areContentsMarked()};
 }
 
 } // namespace orlen

@@ -23,8 +23,6 @@ public:
     };
     [[nodiscard]] Verdict judge(std::string_view path) const;
 
-    [[nodiscard]] const std::vector<std::string>& syncRoots() const { return m_syncRoots; }
-
 private:
     void addRules(const HomeMounts& mounts);
     void addFound(const HomeMounts& mounts);
@@ -34,7 +32,6 @@ private:
     [[nodiscard]] Verdict judgeNormal(std::string_view path) const;
 
     Places m_places;
-    std::vector<std::string> m_syncRoots;
     PathTrie m_marks;
 };
 

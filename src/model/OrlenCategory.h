@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string_view>
 
 namespace orlen {
@@ -22,8 +21,6 @@ struct CategoryColour {
 
 /// The case's name as it is persisted.
 [[nodiscard]] std::string_view rawValue(OrlenCategory category);
-/// The case with exactly this raw value; nothing for any other text.
-[[nodiscard]] std::optional<OrlenCategory> categoryFromRaw(std::string_view raw);
 [[nodiscard]] std::string_view label(OrlenCategory category);
 [[nodiscard]] CategoryColour colour(OrlenCategory category);
 

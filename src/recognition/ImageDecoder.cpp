@@ -211,7 +211,7 @@ void cutToMiddle(RgbImage& image, PixelSize size)
 /// The size that a picture is shrunk into while it still lies as it is stored.
 PixelSize boxOf(const Decoded& picture, const PictureBound& bound)
 {
-    return (picture.isLying ? bound.turned() : bound).box({picture.width, picture.height});
+    return (picture.isSideways ? bound.turned() : bound).box({picture.width, picture.height});
 }
 
 std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, PictureUse use)
@@ -225,15 +225,15 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
             vips_image_new_from_source(source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr)}) {
         decoded.width = vips_image_get_width(header.get());
         decoded.height = vips_image_get_height(header.get());
-        decoded.isLying = vips_image_get_orientation_swap(header.get()) != 0;
+        decoded.isSideways = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.isFromCamera = isFromCamera(header);
         isDrawing = isDrawnInLines(header);
     }
     if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
         return std::nullopt;
-    const Image lying = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
+    const Image stored = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
     Image upright =
-        applied(lying, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
+        applied(stored, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
     if (upright)
         upright.reset(vips_image_copy_memory(upright.get()));
     if (!upright)

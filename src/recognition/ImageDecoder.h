@@ -16,7 +16,7 @@ struct Decoded {
     int width = 0;  ///< pixels of the whole picture as its header tells them; 0 when unknown
     int height = 0; ///< as width
     /// Whether it is stored lying on its side: upright, width and height are the other way round.
-    bool isLying = false;
+    bool isSideways = false;
     /// Whether the file says what camera made it, or for how long it was exposed.
     bool isFromCamera = false;
     /// Upright, never larger than the picture unless that is drawn in lines, the first frame.
@@ -26,7 +26,7 @@ struct Decoded {
     /// The size of the whole picture when it is upright.
     [[nodiscard]] PixelSize upright() const
     {
-        return isLying ? PixelSize{height, width} : PixelSize{width, height};
+        return isSideways ? PixelSize{height, width} : PixelSize{width, height};
     }
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/FileEntry.h"
-#include "platform/files/FileStatus.h"
 #include "platform/values/Time.h"
 
 #include <cstdint>
@@ -21,16 +20,9 @@ class UnreadableFolders;
 /// Trees are measured by the shared pool of disk workers; a measurement that is stopped returns what it has.
 namespace FS {
 
-/// Bytes that a file occupies on disk.
-[[nodiscard]] std::int64_t fileSize(const FileStatus& status);
-
 /// Allocated bytes of a file, or of all regular files below a folder. Links are not followed, and mounted
 /// network and pseudo file systems are not entered. 0 for what is missing or cannot be read.
 [[nodiscard]] std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop = {});
-
-/// The same for many paths at once, which is faster than one after the other.
-[[nodiscard]] std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths,
-                                                       const std::stop_token& stop = {});
 
 /// When the user last opened a file: the later of what the desktop's list of recent documents tells and the
 /// access time, which does not count on a mount that keeps none; else the modification time; nothing for what

@@ -303,7 +303,6 @@ Places Places::fromEnvironment()
     for (const Paths* folders : {&places.configs, &places.data})
         Reachability::askAhead(folders->front());
     places.languages = preferredLanguages();
-    places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     return places;
 }
 

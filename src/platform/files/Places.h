@@ -52,7 +52,6 @@ struct Places {
     std::string systemRoot;
     /// Language tags in the order of preference, for example "de_AT"; from LANGUAGE, else the locale.
     std::vector<std::string> languages;
-    std::string androidDevices; ///< `$ANDROID_AVD_HOME` when below the home folder, else empty
 
     /// The text forms of every set user folder, without repeats.
     [[nodiscard]] std::vector<std::string> userFolders() const;
