@@ -16,7 +16,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// A clean-up of more items than a journal of this length holds is refused.
+/// A clean-up whose journal would be longer is refused.
 constexpr std::size_t kJournalLimit = 32'000'000;
 
 std::optional<Journal::Item> itemOf(const Json& object)

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-// A component can be met by a name and by "*" at once. Instead of following both while asking, `add` keeps
-// the named children complete: a new one starts as a copy of the "*" child, and what is added below "*" is
-// added below every named child too. Asking then follows a single line of nodes.
+// A component may match both a name and "*". Instead of following both when asked, `add` keeps named children
+// complete: a new one starts as a copy of the "*" child, and whatever is added below "*" is also added below
+// every named child. A query then follows a single line of nodes.
 
 namespace orlen {
 

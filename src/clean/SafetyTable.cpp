@@ -13,8 +13,8 @@ namespace {
 
 using Mark = PathTrie::Mark;
 
-/// Calls `visit(folder, rest)` for each path that a rule's pattern stands for. They are kept apart because
-/// only the rest is a pattern: a star in the name of the user's home folder is a star.
+/// Calls `visit(folder, rest)` for each path a rule stands for. Only the rest is a pattern: a star in the
+/// name of the home folder is just a star.
 template <typename Visit>
 void forEachPath(const SafetyRules::PathRule& rule, const Places& places, Visit&& visit)
 {
@@ -34,8 +34,8 @@ std::string_view fixedStart(std::string_view pattern)
     return star == std::string_view::npos ? pattern : PathText::parent(pattern.substr(0, star + 1));
 }
 
-/// Whether something is there, looked at component by component so that neither a link nor a foreign mount is
-/// entered. What lies behind a link counts as existing.
+/// Whether something exists there, checked component by component so that neither links nor foreign mounts
+/// are entered. Anything behind a link counts as existing.
 bool mayExist(const std::string& path, const Places& places, const HomeMounts& mounts)
 {
     if (!PathText::isAtOrBelow(path, places.home) || mounts.isForeign(path))
@@ -51,7 +51,7 @@ bool mayExist(const std::string& path, const Places& places, const HomeMounts& m
     return true;
 }
 
-/// Whether the text holds what `Places::normalized` would take out.
+/// Whether `Places::normalized` would change the text.
 bool isNormalComponent(std::string_view component)
 {
     return !component.empty() && component != "." && component != "..";
@@ -109,7 +109,7 @@ void SafetyTable::guardParents(std::string_view path)
 
 SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
 {
-    // A byte 0 would end the path for the kernel, but not for the rules.
+    // The kernel would stop at a NUL, the rules would not.
     if (!m_places.isHomeUsable || !path.starts_with('/') || path.find('\0') != std::string_view::npos)
         return {};
     const bool isResolvedForm =

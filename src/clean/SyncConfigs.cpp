@@ -22,8 +22,8 @@ std::string_view withoutQuotes(std::string_view value)
     return value;
 }
 
-/// Removes an escape "\x" with its hexadecimal digits from the start of the text and returns the UTF-16 unit
-/// it stands for; nothing when there is none.
+/// Removes an escape "\x" and its hexadecimal digits from the start of the text and returns the UTF-16 unit;
+/// nothing if there is none.
 std::optional<char16_t> takeUnit(std::string_view& text)
 {
     std::uint16_t unit = 0;
@@ -36,8 +36,8 @@ std::optional<char16_t> takeUnit(std::string_view& text)
     return unit;
 }
 
-/// Older versions of the toolkit write every letter beyond ASCII as the hexadecimal escape of its UTF-16
-/// units. Half of a pair becomes U+FFFD.
+/// Older versions of the toolkit escape all non-ASCII characters as hexadecimal UTF-16 units. An unpaired
+/// surrogate becomes U+FFFD.
 std::string unescaped(std::string_view text)
 {
     std::string plain;
@@ -54,7 +54,7 @@ std::string unescaped(std::string_view text)
     return plain;
 }
 
-/// The reader of the text would otherwise keep a million levels of a hostile file in memory.
+/// The parser would otherwise keep a million levels of a hostile file in memory.
 bool isShallow(int depth, nlohmann::json::parse_event_t /*event*/, const nlohmann::json& /*value*/)
 {
     constexpr int kDeepest = 8;

@@ -9,18 +9,18 @@
 #include <variant>
 #include <vector>
 
-/// The small values by which the application model tells the screens what is going on.
+/// The values through which the application model shows the screens what is going on.
 namespace orlen {
 
 enum class Phase { idle, scanning, results };
 
-/// The detail of the finding with this id stands over the main window.
+/// The details of the finding with this id are open over the main window.
 struct FindingSheet {
     std::string findingId;
     friend bool operator==(const FindingSheet&, const FindingSheet&) = default;
 };
 
-/// The confirmation of a plan stands over the main window.
+/// The confirmation of a plan is open over the main window.
 struct PlanSheet {
     CleanPlan plan;
     friend bool operator==(const PlanSheet&, const PlanSheet&) = default;
@@ -38,9 +38,9 @@ struct CleaningState {
     int moved = 0;
     int failed = 0;
     std::string planTitle;
-    std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known when finished
-    std::optional<FailureReason> refusal; ///< why nothing was begun: the plan could not be written down
-    bool isRecorded = true;               ///< false: the history could not be saved; the next start does it
+    std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known once finished
+    std::optional<FailureReason> refusal; ///< why nothing was started: the plan could not be written down
+    bool isRecorded = true; ///< false: the history could not be saved; the next start will do it
 
     friend bool operator==(const CleaningState&, const CleaningState&) = default;
 };

@@ -5,7 +5,7 @@
 
 namespace orlen {
 
-/// Storage categories, in the order of display. They key the storage breakdown and the snapshots.
+/// Storage categories in display order. Keys of the storage breakdown and the snapshots.
 enum class OrlenCategory { apps, photos, media, documents, developer, system, caches };
 
 inline constexpr std::array kAllCategories{
@@ -19,7 +19,7 @@ struct CategoryColour {
     double blue = 0;
 };
 
-/// The case's name as it is persisted.
+/// The case's name as stored on disk.
 [[nodiscard]] std::string_view rawValue(OrlenCategory category);
 [[nodiscard]] std::string_view label(OrlenCategory category);
 [[nodiscard]] CategoryColour colour(OrlenCategory category);

@@ -7,7 +7,7 @@ namespace orlen {
 /// What Orlen advises about a finding or an entry.
 enum class Rating { safe, review, keep };
 
-/// The case's name as it is persisted: "safe", "review", "keep".
+/// The case's name as stored on disk: "safe", "review", "keep".
 [[nodiscard]] std::string_view rawValue(Rating rating);
 
 /// The word on the rating chip: "Safe", "Review", "Keep".

@@ -44,7 +44,7 @@ std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_v
                                const std::stop_token& stop, UnreadableFolders* unreadable)
 {
     std::vector<FileEntry> entries(paths.size());
-    // What is stamped was there before it was measured: what changes meanwhile no longer fits its stamp.
+    // Stamp before measuring: whatever changes meanwhile no longer matches its stamp.
     for (std::size_t i = 0; i < paths.size(); ++i) {
         if (const auto status = statusOf(paths[i]); status.ok()) {
             entries[i].modified = status.value().modified;

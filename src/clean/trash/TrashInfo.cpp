@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kGroup = "Trash Info";
 
-/// The number that the digits in `[at, at + length)` stand for; nothing when another character is among them.
+/// The number in `[at, at + length)`; nothing if any character is not a digit.
 std::optional<int> number(std::string_view text, std::size_t at, std::size_t length, int base)
 {
     int value = 0;
@@ -36,7 +36,7 @@ std::string localText(TimePoint time)
     return {text.data(), length};
 }
 
-/// Reads the form that `localText` writes; what other programs append to it (fractions, a zone) is ignored.
+/// Parses what `localText` writes; ignores what other programs append (fractions, a zone).
 std::optional<TimePoint> timeFromLocal(std::string_view text)
 {
     if (text.size() < 19 || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':' ||
@@ -48,7 +48,7 @@ std::optional<TimePoint> timeFromLocal(std::string_view text)
     const auto hour = number(text, 11, 2, 10);
     const auto minute = number(text, 14, 2, 10);
     const auto second = number(text, 17, 2, 10);
-    // Farther apart, the nanoseconds between two times would not fit into 64 bits.
+    // Times further apart would overflow 64 bits of nanoseconds.
     if (!year || !month || !day || !hour || !minute || !second || *year < 1900 || *year > 2190)
         return std::nullopt;
     if (*month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 || *second > 59)
@@ -88,7 +88,7 @@ std::optional<TrashInfo> TrashInfo::parse(std::string_view text)
             date = line->value;
     }
     auto decoded = PercentCoding::decoded(path.value_or(""));
-    // The kernel would read a path only up to its first zero byte.
+    // The kernel would stop at the first NUL.
     if (!decoded || decoded->empty() || decoded->find('\0') != std::string::npos)
         return std::nullopt;
     return TrashInfo{*std::move(decoded), date ? timeFromLocal(*date) : std::nullopt};

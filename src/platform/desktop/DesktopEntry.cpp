@@ -10,7 +10,7 @@ namespace orlen {
 
 namespace {
 
-/// What a letter behind a backslash stands for; the backslash stays before any other.
+/// What an escaped letter means; nothing if the backslash is literal.
 std::optional<char> escaped(char letter)
 {
     switch (letter) {
@@ -43,13 +43,13 @@ std::string withoutEscapes(std::string_view raw)
     return text;
 }
 
-/// Splits a command line into words. Double quotes are what the rules know; single ones are common all the
-/// same, and launchers that use them work on most desktops.
+/// Splits a command line into words. The standard only has double quotes; single ones are common and work on
+/// most desktops.
 class WordSplitter {
 public:
     explicit WordSplitter(std::string_view line) : m_line(line) {}
 
-    /// Empty when a quote is left open.
+    /// Empty if a quote is unclosed.
     std::vector<std::string> words()
     {
         for (m_at = 0; m_at < m_line.size(); ++m_at)
@@ -71,7 +71,7 @@ private:
             m_quote = c;
             m_hasWord = true;
         } else {
-            // Of "%%" one stands for itself; what other field codes stand for is left to the caller.
+            // "%%" is a literal percent sign; other field codes are left to the caller.
             if (isEscape(c) || (c == '%' && next() == '%'))
                 c = m_line[++m_at];
             m_word.push_back(c);
@@ -105,7 +105,7 @@ private:
     std::vector<std::string> m_words;
 };
 
-/// How many words at the start only prepare the environment of the program behind them.
+/// Number of words at the start that only set up the environment of the program.
 std::size_t preparingWords(const std::vector<std::string>& words)
 {
     if (words.empty() || PathText::lastComponent(words.front()) != "env")
@@ -132,7 +132,7 @@ std::optional<DesktopEntry> DesktopEntry::parsed(std::string_view text)
         if (line->group != kGroup)
             continue;
         hasGroup = true;
-        // A byte 0 would end a path early wherever one is made of the value.
+        // A NUL would cut off a path made from the value.
         if (!line->key.empty() && line->raw.find('\0') == std::string_view::npos)
             entry.m_values.emplace(line->key, line->value);
     }

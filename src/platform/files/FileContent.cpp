@@ -51,8 +51,8 @@ Result<UniqueFd> openFile(const std::string& path)
 
 Result<UniqueFd> openFileAt(int folder, const char* name)
 {
-    // Opening a device can already start something (a tape rewinds): look first, then make sure that what was
-    // opened is what was looked at.
+    // Opening a device can have effects (a tape rewinds): check first, then verify that what was opened is
+    // what was checked.
     const auto before = statusAt(folder, name);
     if (!before.ok())
         return Errno{before.error()};

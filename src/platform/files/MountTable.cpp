@@ -13,11 +13,11 @@ namespace orlen {
 
 namespace {
 
-// A trailing star stands for any further text.
+// A trailing star matches any suffix.
 constexpr std::string_view kLocalTypes[] = {"ext2", "ext3",     "ext4", "xfs",    "btrfs",   "zfs",
                                             "f2fs", "bcachefs", "jfs",  "nilfs2", "reiserfs"};
 constexpr std::string_view kRemovableTypes[] = {"vfat", "exfat", "msdos", "ntfs*", "fuseblk", "hfs*", "udf"};
-/// Foreign, but nobody else has to answer for them.
+/// Foreign, but no server or program is behind them.
 constexpr std::string_view kAnsweringTypes[] = {
     "binder",   "binfmt_misc", "bpf",    "cgroup*", "configfs",  "debugfs", "devpts",     "devtmpfs",
     "ecryptfs", "efivarfs",    "erofs",  "fusectl", "hugetlbfs", "iso9660", "mqueue",     "nsfs",
@@ -113,7 +113,7 @@ bool MountTable::isSameFileSystem(std::string_view a, std::string_view b) const
         return false;
     if (first == second)
         return true;
-    // The source of a pseudo file system is only a word: every tmpfs may be called "tmpfs".
+    // The source of a pseudo file system is just a word: every tmpfs may be called "tmpfs".
     return first->kind != MountClass::foreign && first->type == second->type &&
            first->source == second->source;
 }
@@ -127,7 +127,7 @@ MountClass MountTable::classify(std::string_view type)
 
 bool MountTable::mayNotAnswer(std::string_view type)
 {
-    // A program of this machine serves this one, and may hang like any other.
+    // Served by a program on this machine, which may hang like any other.
     if (type == "fuseblk")
         return true;
     return classify(type) == MountClass::foreign && !isAmong(type, kAnsweringTypes);

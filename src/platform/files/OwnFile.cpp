@@ -25,7 +25,7 @@ namespace orlen::OwnFile {
 namespace {
 
 constexpr unsigned kMode = 0600;
-/// Between a file's name and the numbers of the process and the writing, until the file is whole.
+/// Between a file's name and the process and counter numbers, until the file is complete.
 constexpr std::string_view kUnfinishedMark = ".new-";
 
 Result<UniqueFd> openForWriting(const std::string& path, int flags)
@@ -42,23 +42,23 @@ Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode
 {
     if (auto written = writeAll(file.get(), bytes); !written.ok())
         return written;
-    // Not every file system knows modes: where none is asked for, none is set.
+    // Not every file system has modes: set one only if asked for.
     if (mode != kMode && ::fchmod(file.get(), mode) != 0)
         return Errno{errno};
     return syncFile(file.get());
 }
 
-/// Writes the bytes beside the path and lets `place(beside)` give the file its name.
+/// Writes the bytes beside the path, then has `place(beside)` rename the file.
 template <typename Place>
 Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
 {
     if (auto reachable = Reachability::check(path); !reachable.ok())
         return reachable;
-    // Two threads may write the same file: each writes its own.
+    // Two threads may write the same file: each uses its own name.
     static std::atomic<unsigned> counter{0};
     const std::string beside =
         path + std::string(kUnfinishedMark) + std::to_string(::getpid()) + "-" + std::to_string(++counter);
-    // A left-over of a killed process with the same number is the program's own and may go.
+    // A leftover of a killed process with the same number is the program's own.
     ::unlink(beside.c_str());
     auto file = retriedFd(
         [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode); });
@@ -71,7 +71,7 @@ Result<void> writePlaced(const std::string& path, const std::string& bytes, unsi
         ::unlink(beside.c_str());
         return written;
     }
-    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
+    // The rename itself must survive a power cut. If the folder cannot be synced, the file is still intact.
     if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
         (void)::fsync(parent.value().get());
     return {};
@@ -79,8 +79,7 @@ Result<void> writePlaced(const std::string& path, const std::string& bytes, unsi
 
 constexpr std::string_view kDigits = "0123456789";
 
-/// Whether a name is one that a file has until it is whole, "NAME.new-PROCESS-NUMBER", and that process is no
-/// more.
+/// Whether this is the name of an incomplete file, "NAME.new-PROCESS-NUMBER", whose process is gone.
 bool isLeftOver(std::string_view name)
 {
     const std::size_t mark = name.rfind(kUnfinishedMark);
@@ -144,7 +143,7 @@ Result<void> fill(const std::string& path, std::int64_t length)
     const auto file = openForWriting(path, O_CREAT | O_APPEND);
     if (!file.ok())
         return Errno{file.error()};
-    // Zeros, or a hole, would take no room on a file system that compresses.
+    // Zeros or a hole would take no space on a compressing file system.
     std::mt19937_64 random(std::random_device{}());
     std::array<std::uint64_t, 8192> words{};
     std::array<char, sizeof(words)> bytes{};
@@ -170,7 +169,7 @@ Result<void> shorten(const std::string& path, std::int64_t length)
         return Errno{file.error()};
     if (retried([&] { return ::ftruncate(file.value().get(), length); }) != 0)
         return Errno{errno};
-    // Some file systems free the room only with their next commit.
+    // Some file systems free the space only at their next commit.
     (void)::fsync(file.value().get());
     return {};
 }

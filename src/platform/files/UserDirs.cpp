@@ -9,7 +9,7 @@ namespace orlen::UserDirs {
 
 namespace {
 
-/// The text between the quotes with backslashes taken out, as a shell would read it.
+/// The text between the quotes without backslashes, as a shell would read it.
 std::optional<std::string> unquoted(std::string_view text)
 {
     if (text.empty() || text.front() != '"')
@@ -28,8 +28,7 @@ std::optional<std::string> unquoted(std::string_view text)
 std::optional<std::string> folderOf(std::string_view quoted, std::string_view home)
 {
     const auto value = unquoted(quoted);
-    // No path holds a zero byte: the system would read one only up to it, which may be the home folder
-    // itself.
+    // The system would stop at a NUL, perhaps at the home folder itself.
     if (!value || value->find('\0') != std::string::npos)
         return std::nullopt;
     constexpr std::string_view kHome = "$HOME";

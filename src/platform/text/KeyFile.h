@@ -5,22 +5,22 @@
 
 namespace orlen {
 
-/// Goes line by line through text made of "[group]" headings and "key=value" entries, as desktop entries,
-/// trash records, unit files and the settings of many programs are. Bytes are passed on as they are: quotes
-/// and escapes differ between formats, and so does which of two entries for one key counts. The text must
-/// outlive the reader and the lines it returned.
+/// Reads text made of "[group]" headings and "key=value" entries, line by line: desktop entries, trash
+/// records, unit files and the settings of many programs. Bytes are returned as they are: formats differ in
+/// quoting, escapes, and which of two entries for a key counts. The text must outlive the reader and its
+/// lines.
 class KeyFile {
 public:
     enum class Spaces {
         trimmed, ///< around lines, keys and values
-        kept,    ///< part of the key or value; only a carriage return at the end of a line is dropped
+        kept,    ///< part of the key or value; only a trailing carriage return is dropped
     };
 
     struct Line {
         std::string_view raw;   ///< the whole line with its newline
-        std::string_view group; ///< of the heading above, or of this one; empty before the first
+        std::string_view group; ///< the heading above, or this one; empty before the first
         bool isHeading = false;
-        std::string_view key; ///< empty unless the line is an entry
+        std::string_view key; ///< empty unless this is an entry
         std::string_view value;
     };
 
@@ -28,8 +28,7 @@ public:
     {
     }
 
-    /// Nothing at the end of the text. Comments ("#" or ";") and malformed lines have neither key nor
-    /// heading.
+    /// Nothing at the end. Comments ("#" or ";") and malformed lines are returned without a key.
     [[nodiscard]] std::optional<Line> next();
 
 private:

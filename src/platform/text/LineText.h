@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string_view>
 
-/// Lines of text files. Pure; any thread.
+/// Splits text into lines. Pure; any thread.
 namespace orlen::LineText {
 
-/// The text without spaces, tabs and carriage returns at both ends.
+/// The text without leading and trailing spaces, tabs and carriage returns.
 [[nodiscard]] inline std::string_view trimmed(std::string_view text)
 {
     constexpr std::string_view kSpace = " \t\r";

@@ -23,7 +23,7 @@ const Names& neverOffered()
         "borg", "duplicity", "deja-dup",
         // Conversations, databases, settings, mail kept for reading offline.
         "lm-studio", "keepassxc", "evolution",
-        // A service expects the folder, or it holds the user's choice.
+        // A service expects the folder, or it contains the user's choice.
         "obexd", "ibus", "doc", "wallpaper", "gnome-control-center",
         // In use by the running desktop, which breaks until the next login.
         "kwin", "plasmashell", "drkonqi", "icon-cache.kcache", "plasma_theme_*.kcache", "ksycoca5*",
@@ -76,7 +76,7 @@ SourceRow single(Kind kind, std::string_view from, std::string_view note)
     return {.kind = kind, .reading = Reading::single, .from = {from}, .note = note};
 }
 
-/// Folders of Linux desktops and of the tools that people use on them.
+/// Folders of Linux desktops and the tools people use on them.
 std::vector<SourceRow> freedesktopRows()
 {
     return {
@@ -159,7 +159,7 @@ std::vector<SourceRow> freedesktopRows()
 const std::vector<SourceRow>& sourceRows()
 {
     static const std::vector<SourceRow> rows = [] {
-        // What was brought from a Mac comes first in every finding.
+        // What comes from a Mac is listed first in every finding.
         std::vector<SourceRow> all = macSources();
         std::vector<SourceRow> further = freedesktopRows();
         all.insert(all.end(), std::make_move_iterator(further.begin()),

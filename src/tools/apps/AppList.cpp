@@ -23,7 +23,7 @@ namespace orlen::AppList {
 
 namespace {
 
-/// Enough to keep the disk busy; each measurement is itself shared out to the pool of disk workers.
+/// Enough to keep the disk busy; each measurement is itself spread over the disk workers.
 constexpr std::size_t kMeasuredAtOnce = 4;
 
 void append(std::vector<AppInfo>& apps, std::vector<AppInfo> more)
@@ -79,7 +79,7 @@ void measure(std::span<const AppInfo> apps, const Measured& measured, const std:
     Threads::runOn("orlen-apps", std::min(kMeasuredAtOnce, apps.size()), [&](std::size_t) {
         for (std::size_t i = next++; i < apps.size(); i = next++) {
             const std::int64_t bytes = FS::allocatedSize(apps[i].path, stop);
-            // What a stopped measurement returns is not the whole.
+            // A stopped measurement is incomplete.
             const std::lock_guard guard(telling);
             if (stop.stop_requested())
                 return;

@@ -31,7 +31,7 @@ bool isPlain(std::string_view identifier)
            !identifier.starts_with('.') && !identifier.starts_with('-');
 }
 
-/// The folders of the installations that an administrator has set up beside the usual ones.
+/// Further installations set up by an administrator.
 std::vector<std::string> furtherFolders(const std::string& settings)
 {
     constexpr std::size_t kLimit = 64UL * 1024;

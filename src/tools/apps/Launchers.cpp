@@ -13,7 +13,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-/// Sub-folders of the menus: old desktops and emulators keep theirs there.
+/// Sub-folders of the menus, used by old desktops and emulators.
 constexpr int kDeepest = 3;
 
 bool isLauncherName(std::string_view name)

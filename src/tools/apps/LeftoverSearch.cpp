@@ -104,7 +104,7 @@ Match LeftoverSearch::judged(const LeftoverRoot& root, const std::string& name) 
     return isOwn ? Match::identifier : Match::none;
 }
 
-/// A property list that is named otherwise may say that it is the application's.
+/// A property list with another name may still be labelled as the application's.
 bool LeftoverSearch::isLabelled(const std::string& path) const
 {
     if (m_subject.identifier.empty() || PathText::extension(path) != "plist")
@@ -145,7 +145,7 @@ bool LeftoverSearch::isOffered(const std::string& path) const
     });
 }
 
-/// The gate that every candidate passes. Links stay: what they stand for lies elsewhere.
+/// Every candidate passes through here. Links are kept: their targets are elsewhere.
 void LeftoverSearch::offer(std::string path, std::string note)
 {
     const auto status = statusOf(path);

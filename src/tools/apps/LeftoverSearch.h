@@ -13,13 +13,13 @@ namespace orlen {
 
 class RemainingApps;
 
-/// One search through the folders in which applications leave something. Blocks on the disk.
+/// One search through the folders in which applications leave files. Blocks on the disk.
 class LeftoverSearch {
 public:
-    /// Without an application (null) only what names tell is found. Both must outlive the search.
+    /// Without an application (null), only names are matched. Both must outlive the search.
     LeftoverSearch(LeftoverRules::Subject subject, const RemainingApps& remaining, const AppInfo* app);
 
-    /// Root by root, by name in each. A path is told once, and nothing that lies inside another one.
+    /// Root by root, sorted by name. Each path once, and nothing inside another result.
     [[nodiscard]] std::vector<FileEntry> run(const std::stop_token& stop);
 
 private:

@@ -24,7 +24,7 @@ LeftoverRules::Subject subjectOf(const std::string& bundleID, const std::string&
     return subject;
 }
 
-/// Takes out the spellings of the name that may be something else's.
+/// Removes spellings of the name that may belong to something else.
 void keepOwnForms(LeftoverRules::Subject& subject, const RemainingApps& remaining,
                   std::vector<std::string> words)
 {
@@ -81,7 +81,7 @@ std::vector<FileEntry> find(const std::string& bundleID, const std::string& name
 Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
 {
     Finding finding;
-    // What a manager has installed it also cleans up, and the data of a removed Flatpak is the whole of it.
+    // Managers clean up what they installed, and the data of a removed Flatpak is all there is.
     if (!Places::current().isHomeUsable || !app.isRemovable() || app.source == AppSource::removedFlatpak)
         return finding;
     finding.isOtherCopyInstalled = std::any_of(listed.begin(), listed.end(), [&](const AppInfo& other) {

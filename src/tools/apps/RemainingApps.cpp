@@ -15,10 +15,10 @@ namespace orlen {
 
 namespace {
 
-/// Every AppImage has one of that name inside.
+/// Every AppImage contains one of that name.
 constexpr std::string_view kCommonProgram = "AppRun";
 
-/// A prepared root has programs of its own, which files in it name as on any system.
+/// A prepared root has its own programs, which its files name as on any system.
 bool isProgramThere(const std::string& program)
 {
     const Places& places = Places::current();
@@ -50,7 +50,7 @@ RemainingApps RemainingApps::without(const AppInfo& app, std::span<const AppInfo
         if (!launcher.starts(app.path))
             remaining.add(launcher);
     }
-    // Launchers of an older copy often stay behind: those of what is gone count for nothing.
+    // Launchers of an older copy often stay behind; ignore those whose program is gone.
     for (const Launcher& launcher : Launchers::ofUser()) {
         if (!launcher.starts(app.path) && hasExistingProgram(launcher))
             remaining.add(launcher);

@@ -44,8 +44,7 @@ Paths imageFolders()
     addOnce(folders, places.desktop);
     addOnce(folders, places.home + "/Downloads");
     addOnce(folders, places.downloads);
-    // What a server or a sync program keeps there is not the user's to remove here, and may take long to
-    // read.
+    // What a server or sync program keeps there is not the user's to remove here, and may be slow to read.
     std::erase_if(folders, [](const std::string& folder) { return Safety::protectsContents(folder); });
     return folders;
 }
@@ -74,7 +73,7 @@ bool holdsProgram(const std::string& folder)
            holdsProgramNamed(folder + "/bin", name);
 }
 
-/// A folder of several programs is called after none of them.
+/// A folder with several programs is named after none of them.
 bool agreeOnName(const std::vector<const Launcher*>& launchers)
 {
     return std::all_of(launchers.begin(), launchers.end(),

@@ -26,7 +26,7 @@ using DesktopEntryEdit::Setting;
 constexpr unsigned kFolderMode = 0700;
 constexpr unsigned kFileMode = 0644;
 
-/// Nothing when the change would not come across.
+/// Nothing if the change would not take effect.
 std::optional<std::string> edited(const std::string& text, std::span<const Setting> settings)
 {
     auto changed = DesktopEntryEdit::withSettings(text, settings);
@@ -51,7 +51,7 @@ bool editOwn(const std::string& path, std::span<const Setting> settings)
     return *changed == *text || OwnFile::replace(path, *changed, status.value().mode).ok();
 }
 
-/// Whether a copy with these settings stands before an entry of all users now.
+/// Whether an override with these settings hides a system-wide entry now.
 bool cover(const std::string& shared, const std::string& name, std::vector<Setting> settings)
 {
     settings.push_back({AutostartRules::kOverrideKey, "true"});
@@ -94,7 +94,7 @@ bool turn(const std::string& name, bool enabled)
     const auto entry = DesktopEntry::read(own);
     if (!entry)
         return false;
-    // Without the copy all is as it should be: the entry behind it has this value by itself, or is gone.
+    // Without the override everything is right: the entry behind it has this value itself, or is gone.
     if (AutostartRules::isOverride(*entry) && (isSoByItself || !shared))
         return OwnFile::remove(own).ok();
     return editOwn(own, settingsFor(*entry, enabled));

@@ -35,7 +35,7 @@ public:
         if (setting == m_settings.end()) {
             m_text += line.raw;
         } else {
-            // Of a key that stands twice some desktops take the first line and some the last.
+            // If a key is there twice, some desktops use the first line and some the last.
             m_isDone[static_cast<std::size_t>(setting - m_settings.begin())] = true;
             m_text.append(lineOf(*setting)).append(endingOf(line.raw));
         }
@@ -54,7 +54,7 @@ public:
             if (!m_isDone[i])
                 added.append(lineOf(m_settings[i])).append(m_ending.empty() ? "\n" : m_ending);
         }
-        // The heading may be the last line of the file, and unfinished.
+        // The heading may be the file's last line, without a newline.
         if (m_ending.empty() && !added.empty())
             added.insert(0, 1, '\n');
         m_text.insert(*m_place, added);
@@ -65,7 +65,7 @@ private:
     std::span<const Setting> m_settings;
     std::vector<bool> m_isDone;
     std::string m_text;
-    std::optional<std::size_t> m_place; ///< behind the group's first heading
+    std::optional<std::size_t> m_place; ///< after the group's first heading
     std::string_view m_ending;          ///< of that heading
 };
 

@@ -35,7 +35,7 @@ std::vector<LaunchItem> load()
     for (const LaunchSource source :
          {LaunchSource::launchAgent, LaunchSource::systemdUnit, LaunchSource::autostartEntry}) {
         for (LaunchItem& item : managerOf(source)->items()) {
-            // Neither a screen nor a document could name it.
+            // It could not be shown on a screen or in JSON.
             if (!PathText::isValidUtf8(item.path))
                 continue;
             const bool isOwn = item.scope == StartupTexts::kYourAccount;
@@ -48,7 +48,7 @@ std::vector<LaunchItem> load()
 
 bool set(const LaunchItem& item, bool enabled)
 {
-    // In somebody else's home folder the changes would belong to the wrong user.
+    // In somebody else's home folder the change would affect the wrong user.
     return item.isSwitchable && Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
 }
 

@@ -4,14 +4,13 @@
 
 #include <vector>
 
-/// What starts when the user logs in, and its switches. Blocks on child processes; any thread.
+/// Lists and switches what starts when the user logs in. Blocks on child processes; any thread.
 namespace orlen::LaunchControl {
 
-/// Launch agents of the user, units of the user, entries of the user, then the same of all users.
+/// The user's own launch agents, units and entries, then those for all users.
 [[nodiscard]] std::vector<LaunchItem> load();
 
-/// Switches an item on or off; off stops it now as well. Whether the change was made:
-/// never for one that is not switchable.
+/// Turns an item on or off; off also stops it now. Whether it worked; never for one that is not switchable.
 bool set(const LaunchItem& item, bool enabled);
 
 } // namespace orlen::LaunchControl

@@ -40,7 +40,7 @@ bool isAnyFolderListable(const std::vector<std::string>& folders)
                        [](const std::string& path) { return isListable(path + "/."); });
 }
 
-/// What keeps this program from changing its entry, whichever way.
+/// What prevents this program from changing its entry in either direction.
 std::optional<std::string> obstacle()
 {
     const Places& places = Places::current();

@@ -25,8 +25,8 @@ bool endsInBackslash(std::string_view line)
     return count % 2 == 1;
 }
 
-/// The text without comments and with each line that ends in a backslash joined to the next. Comments may
-/// stand between the two.
+/// The text without comments, with each line that ends in a backslash joined to the next. Comments may come
+/// in between.
 std::string withLinesJoined(std::string_view text)
 {
     std::string joined;
@@ -40,7 +40,7 @@ std::string withLinesJoined(std::string_view text)
     return joined;
 }
 
-/// Takes what stands behind a backslash off the text.
+/// Removes an escaped character, without its backslash, from the text.
 char takeEscaped(std::string_view& text)
 {
     const char letter = text.front();
@@ -57,7 +57,7 @@ char takeEscaped(std::string_view& text)
     return static_cast<char>(value);
 }
 
-/// The first word with its quotes and escapes resolved; empty when a quote is left open.
+/// The first word without quotes and escapes; empty if a quote is unclosed.
 std::string firstWord(std::string_view line)
 {
     std::string word;
@@ -101,7 +101,7 @@ std::string textOrNothing(std::string text)
     return isText ? std::move(text) : std::string();
 }
 
-/// An empty list takes back all words before it.
+/// An empty list discards all earlier words.
 void addWords(std::string_view list, std::vector<std::string>& words)
 {
     if (list.empty())
@@ -117,7 +117,7 @@ void addWords(std::string_view list, std::vector<std::string>& words)
 std::string programOf(std::string_view command, std::string_view home)
 {
     const std::string word = firstWord(command);
-    // How the manager is to start the command stands before it.
+    // Prefixes that say how to start the command.
     const std::size_t start = word.find_first_not_of("-@:+!");
     return start == std::string::npos ? "" : textOrNothing(withSpecifiers(word.substr(start), home));
 }
@@ -132,7 +132,7 @@ UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
     KeyFile file(joined);
     while (const auto line = file.next()) {
         const auto& [raw, section, isHeading, key, value] = *line;
-        // An empty value takes back all commands before it.
+        // An empty value discards all earlier commands.
         if (section == "Service" && key == "ExecStart" && (command.empty() || value.empty()))
             command = value;
         if (section == "Unit" && key == "Description")

@@ -41,7 +41,7 @@ SourceRow limited(SourceRow row, std::size_t limit)
     return row;
 }
 
-/// A folder of the whole machine, of which only the user's own part can be cleaned.
+/// A folder of the whole machine; only the user's own part of it can be cleaned.
 SourceRow shared(SourceRow row, std::string_view note)
 {
     row.offered = Offered::deletable;

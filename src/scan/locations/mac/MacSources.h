@@ -6,7 +6,7 @@
 
 namespace orlen {
 
-/// The known places of macOS, for a home folder that was brought from a Mac or is shared with one.
+/// The known places of macOS, for a home folder that comes from a Mac or is shared with one.
 [[nodiscard]] std::vector<SourceRow> macSources();
 
 } // namespace orlen

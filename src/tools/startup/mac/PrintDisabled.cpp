@@ -18,7 +18,7 @@ std::string_view without(std::string_view characters, std::string_view text)
 
 bool meansDisabled(std::string_view state)
 {
-    // Older systems answer whether the label is disabled, newer ones say in which state it is.
+    // Older systems print whether the label is disabled, newer ones its state.
     return state.starts_with("disabled") || state.find("true") != std::string_view::npos;
 }
 
