@@ -19,14 +19,14 @@ namespace {
 
 using Journals::State;
 
-/// Moves one entry after the other and remembers what its own moves have changed.
+/// Moves entries one by one and keeps track of what its own moves have changed.
 class Mover {
 public:
     explicit Mover(const std::vector<FileEntry>& entries) : m_entries(entries) {}
 
     [[nodiscard]] std::variant<TrashedItem, FailureReason> move(const FileEntry& entry)
     {
-        // The history is text: an item whose name it cannot hold could never be put back.
+        // The history is text: an item with a name it cannot hold could never be put back.
         if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
             return FailureReason::isProtected;
         if (entry.kept && !stays(*entry.kept))
@@ -40,7 +40,7 @@ public:
     }
 
 private:
-    /// Whether the file that is to be kept is there, is what it was, and is not about to go itself.
+    /// Whether the file to be kept exists, is unchanged, and is not about to go itself.
     [[nodiscard]] bool stays(const KeptFile& kept) const
     {
         const auto goesAlong = [&](const FileEntry& entry) {
@@ -51,7 +51,7 @@ private:
                std::ranges::none_of(m_entries, goesAlong);
     }
 
-    /// A file with several names has one time of change, which the move of one name sets for all.
+    /// Moving one name of a file changes the time of change for all its names.
     [[nodiscard]] FileStamp today(const FileStamp& shown) const
     {
         const auto moved = m_moved.find(shown.identity);
@@ -73,8 +73,8 @@ private:
     std::map<FileIdentity, Change> m_moved;
 };
 
-/// What the clean-up is about to move. An entry that came without a stamp gets the present one: what moves is
-/// what the journal tells.
+/// What the clean-up is going to move. An entry without a stamp gets the current one, so that what moves
+/// matches the journal.
 Journal planned(std::vector<FileEntry>& entries, const std::string& title)
 {
     Journal journal{Uuid::random(), std::chrono::system_clock::now(), title, {}};
@@ -104,7 +104,7 @@ Cleaned refused(Cleaned cleaned, const std::vector<FileEntry>& entries, FailureR
 
 using Identities = std::map<std::string, LastingIdentity>;
 
-/// Original paths and identities of the items that the clean-up moved, as far as they were noted.
+/// Original paths and identities of the items the clean-up moved, if recorded.
 Identities notedItems(const Uuid& record)
 {
     Identities noted;
@@ -115,7 +115,7 @@ Identities notedItems(const Uuid& record)
     return noted;
 }
 
-/// What the restore is about to move back.
+/// What the restore is going to move back.
 Journal plannedRestore(const CleanRecord& record, const Identities& noted)
 {
     Journal journal{record.id, std::chrono::system_clock::now(), record.title, {}};

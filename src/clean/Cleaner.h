@@ -10,40 +10,39 @@
 #include <string>
 #include <vector>
 
-/// Moves entries to the Trash and back. Nothing is ever deleted, and nothing moves that a journal does not
-/// tell: see History, which takes the outcome. Blocks on the disk: never call from the main thread.
+/// Moves entries to the Trash and back. Nothing is ever deleted, and nothing moves before a journal records
+/// it; pass the outcome to History. Blocks on the disk: never call from the main thread.
 namespace orlen::Cleaner {
 
-/// Index of the item about to be handled (or the number of items at the end), number of items, the item's
-/// name (empty at the end). Called on the thread that runs the clean-up.
+/// Called with the index of the item about to be handled and its name, or at the end with `total` and an
+/// empty name. Runs on the clean-up's thread.
 using Progress = std::function<void(int index, int total, const std::string& name)>;
 
 struct Cleaned {
     CleanRecord record;
     std::vector<CleanFailure> failures; ///< as many as `record.failed`, in path order
-    /// Why nothing was begun: the journal could not be written. Every item is a failure then.
+    /// Why nothing was started: the journal could not be written. Then every item is a failure.
     std::optional<FailureReason> refusal;
 };
 
-/// Moves the entries, in path order, without those that lie in another entry. What is protected, missing,
-/// refused, or not what was shown is counted as failed: another file or folder under the name, a file written
-/// to or open for writing, a copy whose kept one has changed, is gone, or is about to go itself. A stop
-/// request lets the item in hand finish; what was not begun is then neither moved nor counted as failed.
+/// Moves the entries in path order, skipping those inside another entry. An entry fails if it is protected,
+/// missing, refused by the system, or no longer what was shown: something else has its name, it was written
+/// to or is open for writing, or it is a duplicate whose kept copy has changed, is gone or is about to go as
+/// well. A stop request lets the current item finish; the rest is neither moved nor counted as failed.
 [[nodiscard]] Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
                           const std::stop_token& stop = {});
 
 struct Restored {
-    CleanRecord record; ///< with `restored` set on each item that was put back
+    CleanRecord record; ///< with `restored` set on each item put back
     int restored = 0;
     int failed = 0;
     std::vector<CleanFailure> failures;   ///< by original path, as many as `failed`
     std::optional<FailureReason> refusal; ///< as for Cleaned
 };
 
-/// Puts the record's items back that are not yet. An item stays where it is, and counts as failed, when its
+/// Puts back the record's items that are not restored yet. An item fails and stays where it is if its
 /// original place is protected or taken, it is no longer in the Trash, or its name there now belongs to
-/// something else. A stop request lets the item in hand finish; what was not begun is then neither restored
-/// nor counted as failed.
+/// something else. Stopping works as for `run`.
 [[nodiscard]] Restored restore(CleanRecord record, const std::stop_token& stop = {},
                                const Progress& progress = {});
 

@@ -2,12 +2,12 @@
 
 #include "model/CleanFailure.h"
 
-/// What the errno of a move means to the person whose item stayed. Pure; any thread.
+/// Explains the errno of a move to the user. Pure; any thread.
 namespace orlen::FailureReasons {
 
-/// The answer of `Trash::moveIn`, or of a file of the program's own that could not be written.
+/// For an error of `Trash::moveIn`, or of writing one of the program's own files.
 [[nodiscard]] FailureReason ofCleaning(int error);
-/// The answer of `Trash::moveBack`.
+/// For an error of `Trash::moveBack`.
 [[nodiscard]] FailureReason ofRestoring(int error);
 
 } // namespace orlen::FailureReasons

@@ -27,13 +27,13 @@ bool isWhollyRestored(const CleanRecord& record)
     return std::ranges::all_of(record.items, &TrashedItem::restored);
 }
 
-/// Where a record belongs in the list, which is usually its front.
+/// Where a record belongs in the list, usually the front.
 auto placeOf(std::vector<CleanRecord>& history, TimePoint date)
 {
     return std::ranges::find_if(history, [&](const CleanRecord& other) { return other.date <= date; });
 }
 
-/// The record with those of the items found that it does not hold yet.
+/// The record plus those of the found items it does not have yet.
 CleanRecord joined(CleanRecord record, CleanRecord found)
 {
     for (TrashedItem& item : found.items) {
@@ -46,14 +46,14 @@ CleanRecord joined(CleanRecord record, CleanRecord found)
 bool recoverClean(std::vector<CleanRecord>& history, const Uuid& id)
 {
     const auto journal = Journals::read(id, State::cleaning);
-    // A journal that cannot be read for a moment is there at the next start as well.
+    // A journal that cannot be read now will still be there at the next start.
     if (!journal)
         return false;
     CleanRecord record = Recovery::recordOf(*journal);
     const auto known = recordOf(history, id);
     if (known != history.end())
         record = joined(*known, std::move(record));
-    // The rest is found when its disk is there again; what was gone for so long was thrown away.
+    // The rest is found once its disk is back; what stays away this long was thrown away.
     const bool isLeftForLater = Recovery::isOutOfReach(*journal, record) &&
                                 std::chrono::system_clock::now() - journal->started < kPatience;
     if (record.items.empty()) {
@@ -123,7 +123,7 @@ bool isUnfinished()
 
 bool recover(std::vector<CleanRecord>& history)
 {
-    // Nothing is done in a home folder that is somebody else's.
+    // Nothing is done in somebody else's home folder.
     if (!Persist::makeDir().ok())
         return false;
     bool hasChanged = false;

@@ -5,25 +5,24 @@
 
 #include <vector>
 
-/// The list of past clean-ups, newest first, and its file. Each change is saved at once; the journal of a
-/// clean-up or a restore is let go only after that. Not for two threads at once; blocks on the disk.
+/// The list of past clean-ups, newest first, and its file. Every change is saved at once, and only then is
+/// the journal of the clean-up or restore dropped. One thread at a time; blocks on the disk.
 namespace orlen::History {
 
-/// Puts the record of a clean-up that has ended at the front, unless it moved nothing. The errno when the
-/// list could not be saved: the record is in the list all the same, and the next start finds it by its
-/// journal.
+/// Puts the record of a finished clean-up at the front, unless it moved nothing. Returns the errno if saving
+/// failed; the record is in the list regardless, and the next start recovers it from its journal.
 [[nodiscard]] Result<void> add(std::vector<CleanRecord>& history, const CleanRecord& record);
 
-/// Takes over what a restore has changed in a record; a record that is no longer in the list is not added.
-/// The errno as for `add`.
+/// Applies a restore's changes to its record in the list; ignored if the record is no longer there. Errors as
+/// for `add`.
 [[nodiscard]] Result<void> update(std::vector<CleanRecord>& history, const CleanRecord& record);
 
-/// Finishes what an earlier process had begun when it ended: items that are in the Trash but in no record get
-/// their record, items that are back in their place are marked as restored, and files that were never
-/// finished are removed. True when the list has changed. Only while no other process writes.
+/// Finishes what a previous process left unfinished: items in the Trash without a record get one, items back
+/// in their place are marked as restored, and incomplete files are removed. True if the list changed. Only
+/// while no other process writes.
 bool recover(std::vector<CleanRecord>& history);
 
-/// Whether there is anything for `recover` to do. Reads one folder.
+/// Whether `recover` has anything to do. Reads one folder.
 [[nodiscard]] bool isUnfinished();
 
 } // namespace orlen::History

@@ -25,7 +25,7 @@ HomeMounts HomeMounts::read(const Places& places)
                 found.foreign.push_back(point);
         }
     };
-    // The kernel knows only resolved paths; a table made elsewhere may name the home folder as the user does.
+    // The kernel only has resolved paths; a table made elsewhere may name the home folder as the user does.
     take(places.home);
     if (places.resolvedHome != places.home && !places.resolvedHome.empty())
         take(places.resolvedHome);

@@ -8,17 +8,16 @@
 
 namespace orlen {
 
-/// What is mounted below the home folder at one moment, as paths in the form that rules compare. The file
-/// system that holds the home folder itself is not among it, whatever its type.
+/// The mounts below the home folder at one moment, as paths in the form rules compare. The file system of the
+/// home folder itself is never among them.
 struct HomeMounts {
-    std::vector<std::string> points; ///< every mount point
-    std::vector<std::string>
-        foreign; ///< those whose contents must not be touched: asking a dead server blocks
+    std::vector<std::string> points;  ///< every mount point
+    std::vector<std::string> foreign; ///< those that must not be touched: a dead server would block
 
-    /// Whether a path is or lies below a foreign mount point.
+    /// Whether a path is a foreign mount point or below one.
     [[nodiscard]] bool isForeign(std::string_view path) const;
 
-    /// Reads the kernel's mount table; empty when it cannot be read.
+    /// Reads the kernel's mount table; empty if it cannot be read.
     [[nodiscard]] static HomeMounts read(const Places& places);
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// A clean-up of more items than a journal of this length holds is refused.
+/// A clean-up whose journal would be longer is refused.
 constexpr std::size_t kJournalLimit = 32'000'000;
 
 std::optional<Journal::Item> itemOf(const Json& object)
@@ -122,7 +122,7 @@ Result<void> write(const Journal& journal, State state)
             return Errno{folder.error()};
         if (const auto made = makeFolders(journalFolder(), 0700); !made.ok())
             return made;
-        return replaceFile(journalPath(journal.id, state), text);
+        return OwnFile::replace(journalPath(journal.id, state), text);
     });
 }
 
@@ -147,12 +147,12 @@ std::vector<Uuid> all(State state)
 
 void remove(const Uuid& id, State state)
 {
-    (void)removeOwnFile(journalPath(id, state));
+    (void)OwnFile::remove(journalPath(id, state));
 }
 
 void settle(const Uuid& id)
 {
-    (void)OwnFile::rename(journalPath(id, State::cleaning), id.text().append(suffixOf(State::cleaned)));
+    (void)OwnFile::renameOver(journalPath(id, State::cleaning), id.text().append(suffixOf(State::cleaned)));
 }
 
 void removeUnfinished()

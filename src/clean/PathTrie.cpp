@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-// A component can be met by a name and by "*" at once. Instead of following both while asking, `add` keeps
-// the named children complete: a new one starts as a copy of the "*" child, and what is added below "*" is
-// added below every named child too. Asking then follows a single line of nodes.
+// A component may match both a name and "*". Instead of following both when asked, `add` keeps named children
+// complete: a new one starts as a copy of the "*" child, and whatever is added below "*" is also added below
+// every named child. A query then follows a single line of nodes.
 
 namespace orlen {
 
@@ -95,12 +95,12 @@ void PathTrie::add(std::string_view folder, std::string_view pattern, Mark mark)
         m_nodes[place].marks |= bitOf(mark);
 }
 
-PathTrie::Walk::Walk(const PathTrie& trie) : m_trie(trie)
+PathTrie::Cursor::Cursor(const PathTrie& trie) : m_trie(trie)
 {
     arrive(0);
 }
 
-void PathTrie::Walk::enter(std::string_view component)
+void PathTrie::Cursor::enter(std::string_view component)
 {
     if (m_isSealed || m_place == kNone)
         return;
@@ -113,7 +113,7 @@ void PathTrie::Walk::enter(std::string_view component)
     arrive(found == node.named.end() ? node.any : found->second);
 }
 
-void PathTrie::Walk::arrive(Index place)
+void PathTrie::Cursor::arrive(Index place)
 {
     m_place = place;
     if (place == kNone)
@@ -123,12 +123,12 @@ void PathTrie::Walk::arrive(Index place)
     m_isClosed = node.has(Mark::closed) || (m_isClosed && !node.has(Mark::opened));
 }
 
-bool PathTrie::Walk::isMarked() const
+bool PathTrie::Cursor::isMarked() const
 {
     return m_isSealed || m_isClosed || (m_place != kNone && m_trie.m_nodes[m_place].has(Mark::itself));
 }
 
-bool PathTrie::Walk::areContentsMarked() const
+bool PathTrie::Cursor::areContentsMarked() const
 {
     if (m_isSealed)
         return true;

@@ -8,32 +8,32 @@
 
 namespace orlen {
 
-/// Marks on paths, arranged by component so that one walk along a path meets every mark that concerns it.
-/// Filled by one thread, then only read, by any number of them. Pure text: no disk, no links.
+/// Marks on paths, arranged by component, so that following a path once meets every mark that affects it.
+/// Filled by one thread, then read by any number. Purely textual: no disk, no links.
 class PathTrie {
 public:
     enum class Mark : std::uint8_t {
-        itself = 1,   ///< this path alone
+        itself = 1,   ///< this path only
         contents = 2, ///< this path and everything below it
         closed = 4,   ///< this path and everything below it, down to the next `opened`
-        opened = 8,   ///< here a `closed` from above ends; `contents` from above does not
+        opened = 8,   ///< ends a `closed` from above, but not a `contents`
     };
 
     PathTrie();
 
-    /// Marks the path made of `folder`, taken literally, and `pattern`, in which a component "*" stands for
-    /// any one component. A last component that ends in "*" stands for all names that begin with the text
-    /// before it, each with its contents, whatever the mark.
+    /// Marks `folder`, taken literally, followed by `pattern`, in which a component "*" matches any one
+    /// component. A last component ending in "*" matches all names that start with the text before it, each
+    /// with its contents, whatever the mark.
     void add(std::string_view folder, std::string_view pattern, Mark mark);
 
-    /// Follows one path from the root downwards. Must not outlive the trie.
-    class Walk {
+    /// Follows one path from the root down. Must not outlive the trie.
+    class Cursor {
     public:
-        explicit Walk(const PathTrie& trie);
+        explicit Cursor(const PathTrie& trie);
 
         void enter(std::string_view component);
 
-        /// A `contents` mark was passed: nothing further along this path can change the answers.
+        /// A `contents` mark was passed: nothing further down can change the answers.
         [[nodiscard]] bool isSealed() const { return m_isSealed; }
         [[nodiscard]] bool isMarked() const;
         /// Whether everything below is marked as well.
@@ -54,8 +54,8 @@ private:
 
     struct Node {
         std::map<std::string, Index, std::less<>> named;
-        std::vector<std::string> sealedStarts; ///< beginnings of names that are sealed with their contents
-        Index any = kNone;                     ///< every component that is not in `named`
+        std::vector<std::string> sealedStarts; ///< prefixes of names sealed with their contents
+        Index any = kNone;                     ///< any component not in `named`
         std::uint8_t marks = 0;
         bool leadsToOpened = false;
 

@@ -4,6 +4,7 @@
 #include "clean/Reserve.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/files/Reachability.h"
 #include "platform/text/PathText.h"
@@ -21,9 +22,9 @@ namespace orlen::Persist {
 
 namespace {
 
-/// A lifetime's history; reading takes little more memory than this.
+/// More than a lifetime's history; reading it takes little more memory than this.
 constexpr std::size_t kLimit = 32'000'000;
-/// How many files that could not be understood are kept of each kind.
+/// How many unreadable files of each kind are kept.
 constexpr std::size_t kKeptAside = 3;
 
 template <typename Record>
@@ -40,16 +41,15 @@ std::string fileName(std::string_view stem)
     return std::string(stem) + ".json";
 }
 
-/// Why files, by their path, could not be read when they were last loaded: what they hold is not in what the
-/// caller saves.
+/// Why files could not be read when last loaded, by path: the caller's data lacks what they contain.
 std::map<std::string, int>& failedLoads()
 {
     static std::map<std::string, int> failures;
     return failures;
 }
 
-/// ENOENT when there is no such file and none is hidden: a link into a folder that is gone, which leads to a
-/// disk that is not there today, is ENOTDIR.
+/// ENOENT if the file does not exist. ENOTDIR if it is a link into a missing folder, such as a disk that is
+/// not plugged in today.
 Result<std::string> readLinked(const std::string& path)
 {
     const auto end = linkEnd(path);
@@ -68,7 +68,7 @@ Loaded<Record> load(const Kind<Record>& kind)
 {
     const std::string path = PathText::join(dir(), fileName(kind.stem));
     failedLoads().erase(path);
-    // Asks a network disk that holds the folder, which the reading then finds answering or not.
+    // Probes a network disk that holds the folder; reading then finds it answering or not.
     (void)Reachability::admit(dir());
     auto text = readLinked(path);
     if (text.error() == EFBIG)
@@ -91,14 +91,13 @@ std::string stampOf(TimePoint time)
     return text;
 }
 
-/// Gives the file another name beside its own, and lets the oldest of such files go.
+/// Renames the file and removes the oldest of those set aside before.
 Result<void> setAside(const std::string& file, std::string_view stem)
 {
     const std::string folder(PathText::parent(file));
     const std::string start = std::string(stem) + ".unreadable-";
     const std::string aside = start + stampOf(std::chrono::system_clock::now()) + ".json";
-    const std::string target = PathText::join(folder, aside);
-    if (auto renamed = renameOwnFile(file, target); !renamed.ok())
+    if (auto renamed = OwnFile::rename(file, aside); !renamed.ok())
         return renamed;
     std::vector<std::string> names = listNames(folder);
     std::erase_if(names, [&](const std::string& name) {
@@ -106,11 +105,11 @@ Result<void> setAside(const std::string& file, std::string_view stem)
     });
     std::sort(names.begin(), names.end(), std::greater());
     for (std::size_t i = kKeptAside; i < names.size(); ++i)
-        (void)removeOwnFile(PathText::join(folder, names[i]));
+        (void)OwnFile::remove(PathText::join(folder, names[i]));
     return {};
 }
 
-/// Sees to it that nothing is lost when `file`, to which `path` leads, is written over.
+/// Makes sure that nothing is lost when `file`, which `path` leads to, is overwritten.
 template <typename Record>
 Result<void> makeReplaceable(const std::string& path, const std::string& file, const Kind<Record>& kind)
 {
@@ -133,7 +132,7 @@ std::string encoded(const std::vector<Record>& records)
     std::string text = "[";
     for (const Record& record : records) {
         text.append(text.size() > 1 ? "," : "");
-        // Bytes that are not UTF-8 become U+FFFD: one illegible name must not cost the whole file.
+        // Invalid UTF-8 becomes U+FFFD: one unreadable name must not cost the whole file.
         text += RecordJson::encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
     }
     return text + ']';
@@ -155,7 +154,8 @@ Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
         return Errno{EFBIG};
     if (auto ready = makeReplaceable(path, file.value(), kind); !ready.ok())
         return ready;
-    auto written = Reserve::withRoom(Reserve::Use::record, [&] { return replaceFile(file.value(), text); });
+    auto written =
+        Reserve::withRoom(Reserve::Use::record, [&] { return OwnFile::replace(file.value(), text); });
     if (written.ok())
         failedLoads().erase(path);
     return written;

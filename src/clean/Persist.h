@@ -7,30 +7,30 @@
 #include <string>
 #include <vector>
 
-/// The program's own two files, in the data folder "Orlen". Where one of them is a link, it stays one and
-/// what it leads to is read and written. Main thread; calls are synchronous and small.
+/// The two files of the program's data, in the data folder "Orlen". A file that is a link stays one; its
+/// target is read and written. Main thread; calls are synchronous and small.
 namespace orlen::Persist {
 
-/// The data folder's path; nothing is made.
+/// The path of the data folder, which may not exist yet.
 [[nodiscard]] std::string dir();
-/// Makes the data folder with its missing parents (mode 0700) and returns its path. EPERM in a home folder
-/// that is not the user's own: what is made there would be in the owner's way.
+/// Creates the data folder and its missing parents (mode 0700) and returns its path. EPERM if the home folder
+/// is not the user's own, since files created there would get in the owner's way.
 [[nodiscard]] Result<std::string> makeDir();
 
-/// Whether the data folder's place answers; false on a network disk that is gone. Waits for a probe at most.
+/// Whether the data folder is reachable; false on a network disk that is gone. Waits for at most one probe.
 [[nodiscard]] bool isReachable();
 
 enum class Problem {
     none,
-    damaged,    ///< not everything in the file could be understood; the next save sets it aside first
-    unreadable, ///< the file is there but could not be read; it will not be written
+    damaged,    ///< not all of the file could be parsed; the next save sets it aside first
+    unreadable, ///< the file exists but could not be read; it will not be overwritten
 };
 
 template <typename Record>
 struct Loaded {
-    std::vector<Record> records; ///< what could be read; empty when the file is missing
+    std::vector<Record> records; ///< what could be read; empty if the file is missing
     Problem problem = Problem::none;
-    int error = 0; ///< the errno when unreadable, else 0
+    int error = 0; ///< errno if unreadable, else 0
 };
 
 /// "history.json", newest first.
@@ -38,10 +38,9 @@ struct Loaded {
 /// "scans.json", oldest first.
 [[nodiscard]] Loaded<Snapshot> loadSnapshots();
 
-/// Rewrites the file. On failure, ENOSPC among others, the old file stays as it was. A file that could not be
-/// read when it was last loaded, or cannot be now, is not written over: the errno is that of the reading. One
-/// that cannot be understood in full is first renamed to "history.unreadable-<UTC time>.json" beside it; the
-/// newest three of those stay.
+/// Replaces the file. On failure, such as ENOSPC, the old file stays. A file that could not be read when last
+/// loaded, or cannot be read now, is not overwritten; the errno is that of reading. A file that cannot be
+/// fully parsed is first renamed to "history.unreadable-<UTC time>.json"; the newest three of those are kept.
 [[nodiscard]] Result<void> saveHistory(const std::vector<CleanRecord>& history);
 /// The same for "scans.json".
 [[nodiscard]] Result<void> saveSnapshots(const std::vector<Snapshot>& snapshots);

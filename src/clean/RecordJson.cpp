@@ -18,7 +18,7 @@ namespace {
 
 using nlohmann::json;
 
-/// The records nest four deep; what lies deeper is no part of them and not kept.
+/// Records nest four levels deep; anything deeper is not part of them and skipped.
 constexpr int kDeepest = 32;
 
 const json* member(const json& object, const char* key)
@@ -49,11 +49,11 @@ std::optional<bool> flag(const json& object, const char* key)
     return value->get<bool>();
 }
 
-/// Reads records and tells whether everything was as it must be.
+/// Reads records and notes whether anything was wrong.
 class Decoder {
 public:
     [[nodiscard]] bool isExact() const { return m_isExact; }
-    /// Notes that something had to be left out.
+    /// Notes that something was left out.
     void leaveOut() { m_isExact = false; }
 
     std::optional<TrashedItem> item(const json& object)
@@ -68,7 +68,7 @@ public:
         return TrashedItem{*std::move(original), *std::move(trashed), *size, *restored};
     }
 
-    /// But for its items.
+    /// Without its items.
     std::optional<CleanRecord> record(const json& object)
     {
         const auto id = Uuid::parse(text(object, "id").value_or(""));
@@ -102,10 +102,10 @@ public:
     }
 
 private:
-    /// A whole number, cut to 0 to `largest` when it lies outside; nothing for anything else.
+    /// A whole number, capped to 0 to `largest`; nothing for anything else.
     std::optional<std::int64_t> count(const json* value, std::int64_t largest)
     {
-        // What does not fit into 64 bits comes from the library as a fraction.
+        // The library returns numbers beyond 64 bits as fractions.
         constexpr double kBeyondWhole = 9.2e18;
         if (value == nullptr || !value->is_number() ||
             (value->is_number_float() && std::abs(value->get<double>()) < kBeyondWhole))
@@ -113,7 +113,7 @@ private:
         if (value->is_number_unsigned() && value->get<std::uint64_t>() <= static_cast<std::uint64_t>(largest))
             return value->get<std::int64_t>();
         m_isExact = false;
-        // The library has a signed kind of whole number for negative ones only.
+        // The library uses its signed integers for negative numbers only.
         const bool isNegative =
             value->is_number_float() ? value->get<double>() < 0 : !value->is_number_unsigned();
         return isNegative ? 0 : largest;
@@ -123,7 +123,7 @@ private:
     std::int64_t m_bytesLeft = kMostBytes; ///< that all items together may have
 };
 
-/// Takes the records out of the reader as soon as each is read, so that none of it stays in memory twice.
+/// Takes each record out of the parser as soon as it is complete, so that none is in memory twice.
 class SnapshotCollector {
 public:
     static constexpr std::string_view kFirstKey = "\"date\"";
@@ -204,7 +204,7 @@ private:
     std::vector<CleanRecord> m_records;
 };
 
-/// Walks over a text and leaves behind how far it came, which the library does not tell.
+/// Iterates over a text and exposes how far the parser got, which the library does not report.
 struct Cursor {
     using iterator_category = std::input_iterator_tag;
     using value_type = char;
@@ -224,7 +224,7 @@ struct Cursor {
     bool operator==(const Cursor& other) const { return at == other.at; }
 };
 
-/// How far an array was sound.
+/// How far an array was intact.
 struct Reading {
     bool isSound = false;
     std::size_t reached = 0; ///< where reading ended
@@ -251,7 +251,7 @@ Reading readArray(const std::string& text, std::size_t start, Collector& collect
     return reading;
 }
 
-/// Where a record begins as this program writes them, at or behind `from`; npos when none does.
+/// Where the next record starts at or after `from`, in the form this program writes; npos if there is none.
 std::size_t nextRecord(std::string_view text, std::size_t from, std::string_view firstKey)
 {
     for (std::size_t at = text.find(firstKey, from); at != std::string_view::npos;
@@ -263,8 +263,8 @@ std::size_t nextRecord(std::string_view text, std::size_t from, std::string_view
     return std::string_view::npos;
 }
 
-/// A text that is broken somewhere, by a lost byte or a cut end, is read on from the next record behind the
-/// place, as if an array began there.
+/// If the text is damaged, by a lost byte or truncation, parsing resumes at the next record after the damage,
+/// as if an array started there.
 template <typename Record, typename Collector>
 Decoded<Record> decodeArray(std::string text)
 {
@@ -274,7 +274,7 @@ Decoded<Record> decodeArray(std::string text)
         collector.decoder().leaveOut();
         text.insert(0, 1, '[');
     }
-    // A hostile text could break at every byte, each time far behind the place to read on from.
+    // A hostile text could fail at every byte, each time far past the place to resume.
     const std::size_t budget = 4 * text.size();
     std::size_t work = 0;
     for (std::size_t start = 0; work <= budget;) {

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-/// The JSON form of the persisted records: keys are the field names, dates ISO 8601 in UTC with whole
-/// seconds, optional keys left out when absent. Pure; any thread.
+/// The JSON form of persisted records: keys are field names, dates are ISO 8601 in UTC with whole seconds,
+/// and absent optional values are left out. Pure; any thread.
 namespace orlen::RecordJson {
 
 [[nodiscard]] nlohmann::ordered_json encode(const FileEntry& entry);
@@ -18,18 +18,17 @@ namespace orlen::RecordJson {
 [[nodiscard]] nlohmann::ordered_json encode(const CleanRecord& record);
 [[nodiscard]] nlohmann::ordered_json encode(const Snapshot& snapshot);
 
-/// What a text held.
+/// What was decoded.
 template <typename Record>
 struct Decoded {
-    std::vector<Record> records; ///< the legible ones, in their order
-    /// Whether they are all that the text says. False when it is no JSON array, when a record or an item was
-    /// left out because a required key was missing or of the wrong type, when a number was cut to what is
-    /// possible, and when a broken place was passed over.
+    std::vector<Record> records; ///< the readable ones, in order
+    /// Whether nothing was lost. False if the text is not a JSON array, a record or item lacked a required
+    /// key or had one of the wrong type, a number was out of range, or a broken part was skipped.
     bool isWhole = true;
 };
 
-/// Sizes are cut to 0 to `kMostBytes`, and so that those of all items can be summed. Needs little more memory
-/// than the text and its largest record.
+/// Sizes are limited to 0 to `kMostBytes`, so that they can be summed. Needs little more memory than the text
+/// and its largest record.
 [[nodiscard]] Decoded<CleanRecord> decodeHistory(std::string text);
 [[nodiscard]] Decoded<Snapshot> decodeSnapshots(std::string text);
 

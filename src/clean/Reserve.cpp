@@ -14,9 +14,9 @@ namespace orlen::Reserve {
 namespace {
 
 constexpr std::int64_t kLargest = 8'000'000;
-/// Of a small disk at most this part is set aside.
+/// Largest share of a small disk that is reserved.
 constexpr std::int64_t kPartOfDisk = 20;
-/// So many times its size must be free before the reserve takes room of its own.
+/// This multiple of its size must be free before the reserve grows.
 constexpr std::int64_t kPlenty = 4;
 constexpr std::int64_t kPieces = 16;
 constexpr std::int64_t kPiecesForRecord = 4;

@@ -4,24 +4,23 @@
 #include <cstdint>
 #include <utility>
 
-/// A file of the program's own that does nothing but occupy room, so that a clean-up works on a disk that is
-/// full: there it is given up piece by piece for info files and the record, and made again when there is
-/// room. Any thread; blocks on the disk.
+/// A file that only occupies space, so that a clean-up still works on a full disk: there it is given up piece
+/// by piece for info files and the record, and recreated once there is space. Any thread; blocks on the disk.
 namespace orlen::Reserve {
 
-/// What the room is wanted for. The last part of the reserve is kept for the record of what was moved.
+/// What the space is needed for. The last part of the reserve is kept for the record of what was moved.
 enum class Use { items, record };
 
-/// Makes the reserve, or brings it back to its size, when the disk has plenty of room. A failure is ignored.
+/// Creates the reserve, or restores it to full size, if the disk has plenty of space. Failure is ignored.
 void refill();
 
-/// Gives up a piece. False when there is none left for this use.
+/// Gives up a piece. False if none is left for this use.
 [[nodiscard]] bool giveUp(Use use);
 
-/// Bytes that the reserve occupies at present.
+/// Bytes the reserve occupies now.
 [[nodiscard]] std::int64_t size();
 
-/// Takes a step that returns a Result, and takes it again with more room as long as it fails for want of it.
+/// Runs a step that returns a Result, and repeats it with more space as long as it fails for lack of space.
 template <typename Step>
 auto withRoom(Use use, Step step)
 {

@@ -17,16 +17,16 @@ namespace {
 
 using Table = std::shared_ptr<const SafetyTable>;
 
-/// Hands the newest table to every thread. A thread keeps the one it asked last and takes the lock only after
-/// a refresh: a walk asks for every folder, from many threads at once.
+/// Hands out the newest table. Each thread keeps the last one it used and takes the lock only after a
+/// refresh, since a walk asks for every folder from many threads at once.
 class Publisher {
 public:
-    /// Drawn before reading the disk, so that of two refreshes at once the later one wins.
+    /// Drawn before reading the disk, so that the later of two concurrent refreshes wins.
     std::uint64_t drawTicket() { return ++m_lastTicket; }
 
     void publish(Table table, std::uint64_t ticket)
     {
-        // What it replaces is let go of after the lock.
+        // The old table is released after the lock.
         const std::lock_guard lock(m_lock);
         if (ticket < m_published.load(std::memory_order_relaxed))
             return;
@@ -95,11 +95,6 @@ void refresh()
     const Places& places = Places::current();
     Reachability::refresh(places.mountTable, places.resolvedHome);
     publisher().publish(std::make_shared<const SafetyTable>(places), ticket);
-}
-
-std::vector<std::string> syncRoots()
-{
-    return table().syncRoots();
 }
 
 bool isSyncMarker(std::string_view name)

@@ -12,7 +12,7 @@ constexpr auto closed = PathTrie::Mark::closed;
 constexpr auto opened = PathTrie::Mark::opened;
 
 constexpr PathRule kPlaceRules[] = {
-    // Nothing may be touched but below these three.
+    // Only what is below these three may be touched.
     {"/", closed},
     {"{H}", opened},
     {"{APPLICATIONS}", opened},
@@ -26,7 +26,7 @@ constexpr PathRule kPlaceRules[] = {
     {"{H}/(Library|Documents|Desktop|Pictures|Downloads|Movies|Music)", itself},
     {"{APPLICATIONS}", itself},
     {"{LIBRARY}", itself},
-    // Cloud stores. Whatever begins with the name is taken too, out of caution.
+    // Cloud stores. To be careful, everything whose name starts that way is included.
     {"{H}/Library/Mobile Documents*", contents},
     {"{H}/Library/CloudStorage*", contents},
 
@@ -38,8 +38,8 @@ constexpr PathRule kPlaceRules[] = {
     {"{CONFIG}/(autostart|systemd|systemd/user)", itself},
     {"{DATA}/(applications|icons)", itself},
 
-    // Settings or live data beside caches. The folder of an app below ".var/app" stays free: when the app is
-    // gone, the uninstaller offers it.
+    // Settings or live data beside caches. An app's folder below ".var/app" stays free: once the app is gone,
+    // the uninstaller offers it.
     {"{H}/.var/app/*/(cache|config|data)", itself},
     {"{H}/snap/*", itself},
     {"{H}/(.gradle|.npm|.cargo|.rustup|.android|.android/avd|.m2|go|go/pkg|.mozilla)", itself},
@@ -75,7 +75,7 @@ constexpr PathRule kTreasureRules[] = {
      "com.google.Chrome|org.chromium.Chromium|com.brave.Browser|com.microsoft.Edge|com.vivaldi.Vivaldi|"
      "com.opera.Opera)/(config|data|.mozilla)",
      contents},
-    // Beside "common" lie "current", a link, and the numbered folders that it points to.
+    // Beside "common" are "current", a link, and the numbered folders it points to.
     {"{H}/snap/(firefox|chromium|brave|opera)/*", closed},
     {"{H}/snap/(firefox|chromium|brave|opera)/*/.cache", opened},
 
@@ -101,18 +101,18 @@ constexpr PathRule kTreasureRules[] = {
     {"{DATA}/Orlen", contents},
 };
 
-/// Stores of version control, metadata of encryption, snapshot trees.
+/// Version control stores, encryption metadata, snapshot trees.
 constexpr std::string_view kSealedNames[] = {".git",   ".hg",      ".svn",        ".bzr",      ".jj",
                                              "_darcs", ".fscrypt", ".encfs6.xml", ".snapshots"};
 
-/// Libraries that their program keeps as one bundle.
+/// Libraries that a program keeps as one bundle.
 constexpr std::string_view kSealedEndings[] = {".photoslibrary", ".lrdata",        ".lrlibrary", ".aplibrary",
                                                ".fcpbundle",     ".imovielibrary", ".dtBase2"};
 
-/// Placeholders of files that live only on a server.
+/// Placeholders for files that exist only on a server.
 constexpr std::string_view kProtectedEndings[] = {".icloud", ".nextcloud", ".owncloud"};
 
-/// Databases of photo managers and the mark of a synchronised folder.
+/// Databases of photo managers, and the marker of a synchronised folder.
 constexpr std::string_view kProtectedNames[] = {"digikam4.db", "recognition.db", ".stfolder"};
 
 bool isAmong(std::string_view name, std::span<const std::string_view> names)
@@ -161,7 +161,7 @@ bool isSealedName(std::string_view component)
 {
     if (isAmong(component, kSealedNames))
         return true;
-    // Most folders have no dot in their name, and every ending begins with one.
+    // Most folder names have no dot, and every suffix starts with one.
     return component.find('.') != std::string_view::npos && endsWithOneOf(component, kSealedEndings);
 }
 

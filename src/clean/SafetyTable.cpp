@@ -13,8 +13,8 @@ namespace {
 
 using Mark = PathTrie::Mark;
 
-/// Calls `visit(folder, rest)` for each path that a rule's pattern stands for. They are kept apart because
-/// only the rest is a pattern: a star in the name of the user's home folder is a star.
+/// Calls `visit(folder, rest)` for each path a rule stands for. Only the rest is a pattern: a star in the
+/// name of the home folder is just a star.
 template <typename Visit>
 void forEachPath(const SafetyRules::PathRule& rule, const Places& places, Visit&& visit)
 {
@@ -34,8 +34,8 @@ std::string_view fixedStart(std::string_view pattern)
     return star == std::string_view::npos ? pattern : PathText::parent(pattern.substr(0, star + 1));
 }
 
-/// Whether something is there, looked at component by component so that neither a link nor a foreign mount is
-/// entered. What lies behind a link counts as existing.
+/// Whether something exists there, checked component by component so that neither links nor foreign mounts
+/// are entered. Anything behind a link counts as existing.
 bool mayExist(const std::string& path, const Places& places, const HomeMounts& mounts)
 {
     if (!PathText::isAtOrBelow(path, places.home) || mounts.isForeign(path))
@@ -51,7 +51,7 @@ bool mayExist(const std::string& path, const Places& places, const HomeMounts& m
     return true;
 }
 
-/// Whether the text holds what `Places::normalized` would take out.
+/// Whether `Places::normalized` would change the text.
 bool isNormalComponent(std::string_view component)
 {
     return !component.empty() && component != "." && component != "..";
@@ -64,7 +64,6 @@ SafetyTable::SafetyTable(Places places) : m_places(std::move(places))
     if (!m_places.isHomeUsable)
         return;
     const HomeMounts mounts = HomeMounts::read(m_places);
-    m_syncRoots = SyncRoots::find(m_places, mounts);
     addRules(mounts);
     addFound(mounts);
 }
@@ -94,7 +93,7 @@ void SafetyTable::addFound(const HomeMounts& mounts)
             guardParents(path);
         }
     };
-    mark(m_syncRoots, Mark::contents);
+    mark(SyncRoots::find(m_places, mounts), Mark::contents);
     mark(mounts.points, Mark::itself);
     mark(mounts.foreign, Mark::contents);
 }
@@ -110,7 +109,7 @@ void SafetyTable::guardParents(std::string_view path)
 
 SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
 {
-    // A byte 0 would end the path for the kernel, but not for the rules.
+    // The kernel would stop at a NUL, the rules would not.
     if (!m_places.isHomeUsable || !path.starts_with('/') || path.find('\0') != std::string_view::npos)
         return {};
     const bool isResolvedForm =
@@ -126,20 +125,20 @@ SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
 
 SafetyTable::Verdict SafetyTable::judgeNormal(std::string_view path) const
 {
-    PathTrie::Walk walk(m_marks);
+    PathTrie::Cursor cursor(m_marks);
     std::string_view parent;
     std::string_view component;
     for (std::size_t at = 1; at < path.size();) {
         const std::size_t end = std::min(path.find('/', at), path.size());
         parent = component;
         component = path.substr(at, end - at);
-        walk.enter(component);
-        if (walk.isSealed() || SafetyRules::isSealedName(component) ||
+        cursor.enter(component);
+        if (cursor.isSealed() || SafetyRules::isSealedName(component) ||
             SafetyRules::isSealedPair(parent, component))
             return {};
         at = end + 1;
     }
-    return {walk.isMarked() || SafetyRules::isProtectedName(component), walk.areContentsMarked()};
+    return {cursor.isMarked() || SafetyRules::isProtectedName(component), cursor.areContentsMarked()};
 }
 
 } // namespace orlen

@@ -9,11 +9,11 @@
 
 namespace orlen {
 
-/// Everything that decides whether a path is protected, as it was at one moment. Immutable once made, so any
-/// number of threads may ask; asking reads the path once and never touches the disk.
+/// Everything that decides whether a path is protected, as of one moment. Immutable, so any number of threads
+/// may ask; a query reads the path once and never touches the disk.
 class SafetyTable {
 public:
-    /// Blocks on the disk: mounts, settings of sync programs, and which protected places exist.
+    /// Blocks on the disk: reads mounts, settings of sync programs, and which protected places exist.
     explicit SafetyTable(Places places);
 
     struct Verdict {
@@ -23,18 +23,15 @@ public:
     };
     [[nodiscard]] Verdict judge(std::string_view path) const;
 
-    [[nodiscard]] const std::vector<std::string>& syncRoots() const { return m_syncRoots; }
-
 private:
     void addRules(const HomeMounts& mounts);
     void addFound(const HomeMounts& mounts);
-    /// Marks every parent of the path below the home folder, so that none is moved with the path in it.
+    /// Marks every parent of the path below the home folder, so that none can be moved with the path inside.
     void guardParents(std::string_view path);
 
     [[nodiscard]] Verdict judgeNormal(std::string_view path) const;
 
     Places m_places;
-    std::vector<std::string> m_syncRoots;
     PathTrie m_marks;
 };
 

@@ -8,7 +8,7 @@
 
 namespace orlen {
 
-/// One reading of the disk, from which growth is forecast.
+/// Disk usage at one moment, the basis for forecasts.
 struct Snapshot {
     TimePoint date;
     std::int64_t free = 0;                    ///< bytes

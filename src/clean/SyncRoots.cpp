@@ -14,9 +14,9 @@ namespace orlen::SyncRoots {
 namespace {
 
 constexpr std::size_t kConfigLimit = 4UL * 1024 * 1024;
-/// A longer path could not be opened anyway.
+/// Longer paths cannot be opened anyway.
 constexpr std::size_t kPathLimit = 4096;
-/// Listings that the search for markers may make: enough for any usual home, and a bound for an unusual one.
+/// Most listings while searching for markers: plenty for a normal home, a bound for an unusual one.
 constexpr std::size_t kListingLimit = 20'000;
 
 constexpr std::string_view kDefaultFolders[] = {"Dropbox", "Nextcloud", "ownCloud",    "OneDrive",
@@ -106,7 +106,7 @@ private:
         }
     }
 
-    /// Takes the folder when it holds a marker, and returns its sub-folders.
+    /// Takes the folder if it contains a marker, and returns its sub-folders.
     std::vector<std::string> look(const std::string& folder)
     {
         std::vector<std::string> below;
@@ -133,7 +133,7 @@ private:
     void lookForMarkers()
     {
         std::vector<std::string> top = look(m_places.home);
-        // Should the listings run out, then among the thousands of folders of caches and settings.
+        // If the limit is reached, it is among the thousands of folders of caches and settings.
         std::partition(top.begin(), top.end(), [](const std::string& folder) {
             return !PathText::lastComponent(folder).starts_with('.');
         });

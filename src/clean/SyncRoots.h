@@ -10,10 +10,10 @@
 /// user's other devices.
 namespace orlen::SyncRoots {
 
-/// Normalised paths, sorted, without repeats: what the programs' settings name, the default folders that
-/// exist, and folders that hold a marker, down to two levels below the home folder. The home folder itself
-/// and its parents are never among them: protecting them would protect everything. Never enters a foreign
-/// mount and never follows a link while looking for markers. Blocks on the disk; any thread.
+/// Normalised paths, sorted and unique: folders named in settings, default folders that exist, and folders
+/// with a marker at most two levels below the home folder. Never the home folder or its parents, since that
+/// would protect everything. Never enters a foreign mount, and follows no links while looking for markers.
+/// Blocks on the disk; any thread.
 [[nodiscard]] std::vector<std::string> find(const Places& places, const HomeMounts& mounts);
 
 /// Whether a file or folder of this name shows that the folder around it is mirrored.

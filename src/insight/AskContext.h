@@ -8,7 +8,7 @@
 
 namespace orlen {
 
-/// All that an answer may draw on.
+/// Everything an answer may be based on.
 struct AskContext {
     std::vector<Finding> findings; ///< of the last scan, in display order; empty before the first
     StorageBreakdown breakdown;

@@ -20,7 +20,7 @@ const std::string kInstructions =
     "most 5 sentences), plain-spoken, and never claim a file is definitely safe to delete; ratings are "
     "suggestions. Never invent files or sizes.";
 
-/// A model reads only so much: the findings and files beyond these are not shown to it.
+/// A model can only read so much: further findings and files are left out.
 constexpr std::size_t kFindingsShown = 14;
 constexpr std::size_t kDownloadsShown = 10;
 

@@ -11,9 +11,9 @@
 #include <functional>
 #include <utility>
 
-/// The built-in matcher: a table of intents, of which the first that finds one of its words in the question
-/// gives the answer. Words match anywhere, inside others too, so the order of the table is what tells
-/// "folder" from "old": it must not change.
+/// The built-in matcher: a table of intents; the first that finds one of its words in the question answers.
+/// Words match anywhere, even inside others, so the order of the table is what separates "folder" from "old".
+/// Do not change it.
 namespace orlen::AskEngine {
 
 namespace {
@@ -34,7 +34,7 @@ struct SizedFinding {
     std::int64_t bytes;
 };
 
-/// The findings that a size makes the largest, at most `count`; equal ones keep their order.
+/// The largest findings by some size, at most `count`; ties keep their order.
 std::vector<SizedFinding> largestBy(std::int64_t (Finding::*size)() const,
                                     const std::vector<Finding>& findings, std::size_t count)
 {
@@ -145,7 +145,7 @@ Answer safeToFree(const AskContext& context)
         idsOf(findings)};
 }
 
-/// Answers with a line for each finding of these kinds.
+/// Answers with one line per finding of these kinds.
 Reply topic(std::string_view title, const std::vector<FindingKind>& kinds)
 {
     return [title, kinds](const AskContext& context) -> Answer {

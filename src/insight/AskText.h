@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-/// The small forms that answers and the language model's view of the scan have in common. Pure, any thread.
+/// Text formatting shared by answers and the language model's view of the scan. Pure; any thread.
 namespace orlen::AskText {
 
 [[nodiscard]] std::string joined(const std::vector<std::string>& parts, std::string_view separator);
 
-/// The last path component on one line: a file may bear a name that would break the text around it.
+/// The last path component on one line, since a file name may contain line breaks.
 [[nodiscard]] std::string fileName(const FileEntry& entry);
 
 /// "Apps 12 GB"

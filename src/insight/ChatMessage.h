@@ -9,12 +9,12 @@
 
 namespace orlen {
 
-/// One message of the exchange on the Ask screen.
+/// One message on the Ask screen.
 struct ChatMessage {
     Uuid id = Uuid::random();
     bool fromUser = false;
     std::string text;
-    std::vector<std::string> findingIDs; ///< of the findings that a reply links to
+    std::vector<std::string> findingIDs; ///< findings a reply links to
     bool usedModel = false;
 
     [[nodiscard]] static ChatMessage question(std::string text)

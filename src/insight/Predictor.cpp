@@ -18,14 +18,14 @@ namespace {
 
 using Days = std::chrono::duration<double, std::chrono::days::period>;
 
-/// Readings closer together than this say nothing about growth.
+/// Readings closer together say nothing about growth.
 constexpr std::chrono::hours kShortestSpan{6};
-/// Slower growth than this, in bytes per day, counts as none.
+/// Slower growth, in bytes per day, counts as none.
 constexpr double kStableGrowth = 1'000'000;
-/// A disk that is full sooner than this, in days, deserves a warning.
+/// Warn about a disk that will be full sooner than this, in days.
 constexpr double kWarningDays = 60;
 
-/// In microseconds, because in nanoseconds the span of two arbitrary dates may not fit into 64 bits.
+/// Microseconds, since nanoseconds between two arbitrary dates may overflow 64 bits.
 std::chrono::microseconds between(TimePoint earlier, TimePoint later)
 {
     return std::chrono::floor<std::chrono::microseconds>(later) -
@@ -37,7 +37,7 @@ bool isLongEnough(std::span<const Snapshot> sorted)
     return sorted.size() >= 2 && between(sorted.front().date, sorted.back().date) >= kShortestSpan;
 }
 
-/// Bytes per day of what `bytesOf` reads from each snapshot that has it; nothing from fewer than two
+/// Growth in bytes per day of what `bytesOf` reads from each snapshot that has it; nothing for fewer than two
 /// readings.
 template <typename BytesOf>
 std::optional<double> growth(std::span<const Snapshot> sorted, BytesOf bytesOf)

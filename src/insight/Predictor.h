@@ -12,17 +12,17 @@ namespace orlen {
 
 /// A forecast of how used space grows.
 struct Prediction {
-    bool enoughData = false; ///< false while the history is too short to estimate anything
+    bool enoughData = false; ///< false while the history is too short for an estimate
     std::string headline;
     std::string detail;
-    bool warn = false; ///< the disk is forecast to be full within 60 days
+    bool warn = false; ///< the disk is expected to be full within 60 days
     std::vector<std::pair<OrlenCategory, double>> perCategory; ///< bytes per day, fastest first
     std::vector<double> freeSeries;                            ///< free bytes of every snapshot, oldest first
 
     friend bool operator==(const Prediction&, const Prediction&) = default;
 };
 
-/// Forecast by least squares over the snapshots of past scans. Pure; any thread.
+/// Least-squares forecast from the snapshots of past scans. Pure; any thread.
 namespace Predictor {
 
 [[nodiscard]] Prediction predict(std::vector<Snapshot> snapshots);
@@ -32,10 +32,10 @@ struct Point {
     double y = 0;
 };
 
-/// Ordinary least-squares slope of y over x; 0 for fewer than two points or equal x.
+/// Ordinary least-squares slope of y over x; 0 for fewer than two points or if all x are equal.
 [[nodiscard]] double slope(std::span<const Point> points);
 
-/// A number of days in words, as the headline says it.
+/// A number of days in words, as in the headline.
 [[nodiscard]] std::string duration(double days);
 
 } // namespace Predictor

@@ -21,7 +21,7 @@ constexpr std::array kUnits{
     Unit{"TB", 1'000'000'000'000, 10},
 };
 
-/// The size in parts of a unit, halves rounded up.
+/// The size in parts of a unit, rounded half up.
 std::uint64_t roundedParts(std::uint64_t bytes, const Unit& unit)
 {
     const std::uint64_t part = unit.bytes / unit.parts;
@@ -40,12 +40,12 @@ std::string text(std::uint64_t parts, const Unit& unit)
 
 std::string byteCount(std::int64_t bytes)
 {
-    // Unsigned, so that half a unit can be added to the largest size there is.
+    // Unsigned, so that half a unit can be added to the largest size.
     const auto size = static_cast<std::uint64_t>(std::max<std::int64_t>(bytes, 0));
     if (size < kUnits.front().bytes)
         return std::to_string(size) + (size == 1 ? " byte" : " bytes");
     for (const Unit& unit : kUnits) {
-        // The rounded value decides, not the size: 999,950,000 bytes are not "1000 MB".
+        // The rounded value decides: 999,950,000 bytes are not "1000 MB".
         const std::uint64_t parts = roundedParts(size, unit);
         if (parts < 1'000 * unit.parts)
             return text(parts, unit);

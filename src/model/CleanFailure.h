@@ -10,24 +10,24 @@ namespace orlen {
 enum class FailureReason {
     isProtected, ///< the rules forbid it
     missing,     ///< nothing is there
-    changed,     ///< not what was shown: replaced, written to, or the copy that was to be kept is gone
+    changed,     ///< not what was shown: replaced, written to, or the copy to be kept is gone
     permission,  ///< the system refuses
-    full,        ///< no room for the bookkeeping of the move
-    noTrash,     ///< its disk has no Trash that can be used
+    full,        ///< no space for the bookkeeping of the move
+    noTrash,     ///< its disk has no usable Trash
     inUse,       ///< a program is writing to it
-    occupied,    ///< restoring: something stands at the original place
-    replaced,    ///< restoring: the name in the Trash belongs to something else by now
+    occupied,    ///< restoring: something is at the original place
+    replaced,    ///< restoring: the name in the Trash now belongs to something else
     other,
 };
 
-/// The name in documents: "protected", "missing", "changed" and so on.
+/// The name used in JSON: "protected", "missing", "changed" and so on.
 [[nodiscard]] std::string_view rawValue(FailureReason reason);
-/// The reason in a few words, to stand behind a path.
+/// The reason in a few words, shown after a path.
 [[nodiscard]] std::string_view reasonText(FailureReason reason);
-/// What a person can do about it, a whole sentence; empty when there is nothing to do.
+/// What the user can do about it, as a sentence; empty if nothing.
 [[nodiscard]] std::string_view remedyText(FailureReason reason);
 
-/// An item of a clean-up or a restore that stayed where it was.
+/// An item that a clean-up or restore did not move.
 struct CleanFailure {
     std::string path; ///< where it is (clean-up) or was (restore)
     FailureReason reason = FailureReason::other;

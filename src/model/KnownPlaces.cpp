@@ -18,7 +18,7 @@ using Components = std::span<const std::string_view>;
 
 constexpr std::string_view kCache = "{CACHE}";
 
-/// Where applications in a sandbox have their cache folders, below the home folder.
+/// Cache folders of sandboxed applications, below the home folder.
 constexpr std::array<std::string_view, 3> kSandboxCaches{".var/app/*/cache", "snap/*/*/.cache",
                                                          ".snap/data/*/*/.cache"};
 

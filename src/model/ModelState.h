@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// The small values by which the application model tells the screens what is going on.
+/// The values through which the application model shows the screens what is going on.
 namespace orlen {
 
 enum class Phase { idle, scanning, results };
@@ -22,9 +22,9 @@ struct CleaningState {
     int moved = 0;
     int failed = 0;
     std::string planTitle;
-    std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known when finished
-    std::optional<FailureReason> refusal; ///< why nothing was begun: the plan could not be written down
-    bool isRecorded = true;               ///< false: the history could not be saved; the next start does it
+    std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known once finished
+    std::optional<FailureReason> refusal; ///< why nothing was started: the plan could not be written down
+    bool isRecorded = true; ///< false: the history could not be saved; the next start will do it
 
     friend bool operator==(const CleaningState&, const CleaningState&) = default;
 };

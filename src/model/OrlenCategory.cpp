@@ -1,6 +1,5 @@
 #include "model/OrlenCategory.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace orlen {
@@ -35,15 +34,6 @@ const CategoryRow& row(OrlenCategory category)
 std::string_view rawValue(OrlenCategory category)
 {
     return row(category).raw;
-}
-
-std::optional<OrlenCategory> categoryFromRaw(std::string_view raw)
-{
-    const auto* const found =
-        std::ranges::find(kAllCategories, raw, [](OrlenCategory category) { return rawValue(category); });
-    if (found == kAllCategories.end())
-        return std::nullopt;
-    return *found;
 }
 
 std::string_view label(OrlenCategory category)

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string_view>
 
 namespace orlen {
 
-/// Storage categories, in the order of display. They key the storage breakdown and the snapshots.
+/// Storage categories in display order. Keys of the storage breakdown and the snapshots.
 enum class OrlenCategory { apps, photos, media, documents, developer, system, caches };
 
 inline constexpr std::array kAllCategories{
@@ -20,10 +19,8 @@ struct CategoryColour {
     double blue = 0;
 };
 
-/// The case's name as it is persisted.
+/// The case's name as stored on disk.
 [[nodiscard]] std::string_view rawValue(OrlenCategory category);
-/// The case with exactly this raw value; nothing for any other text.
-[[nodiscard]] std::optional<OrlenCategory> categoryFromRaw(std::string_view raw);
 [[nodiscard]] std::string_view label(OrlenCategory category);
 [[nodiscard]] CategoryColour colour(OrlenCategory category);
 

@@ -9,7 +9,7 @@ namespace {
 
 unsigned char rankOf(char byte)
 {
-    // No path holds a byte 0.
+    // Paths contain no NUL.
     return byte == '/' ? 0 : static_cast<unsigned char>(byte);
 }
 

@@ -7,35 +7,34 @@
 
 namespace orlen {
 
-/// Listed paths as a tree: which of them lie in another one. Each path is one node, however often it was
-/// listed, and the nodes stand in an order in which a folder is followed at once by what lies in it. A plain
-/// value; any thread.
+/// A list of paths as a tree: which of them lie inside another. Each path is one node however often it was
+/// listed, and a folder's node is directly followed by the nodes inside it. A plain value; any thread.
 class PathTree {
 public:
     /// No node.
     static constexpr int kNone = -1;
 
     PathTree() = default;
-    /// Of paths in any order.
+    /// The paths may be in any order.
     explicit PathTree(std::span<const std::string_view> paths);
 
     [[nodiscard]] int size() const { return static_cast<int>(m_nodes.size()); }
     [[nodiscard]] const std::string& path(int node) const { return at(node).path; }
-    /// The nearest listed folder that holds the node.
+    /// The nearest listed folder that contains the node.
     [[nodiscard]] int holder(int node) const { return at(node).holder; }
-    /// The node behind the last one that lies in this one.
+    /// One past the last node inside this one.
     [[nodiscard]] int end(int node) const { return at(node).end; }
-    /// The node of a path; `kNone` for one that is not listed.
+    /// The node of a path; `kNone` if it is not listed.
     [[nodiscard]] int find(std::string_view path) const;
-    /// The node of the path that was given at this place.
+    /// The node of the path at this index of the list.
     [[nodiscard]] int nodeOf(std::size_t place) const { return m_nodeOf[place]; }
-    /// Whether any node lies in another one.
+    /// Whether any node lies inside another.
     [[nodiscard]] bool isNested() const { return m_isNested; }
 
-    /// Path order: by bytes, but with "/" before every other one, so that "a/x" follows "a" before "a b"
-    /// does.
+    /// Path order: bytewise, but "/" sorts before every other byte, so that "a/x" follows "a" and precedes "a
+    /// b".
     [[nodiscard]] static bool comesBefore(std::string_view a, std::string_view b);
-    /// Whether the path lies in the folder, which is not "/" and not empty.
+    /// Whether the path lies inside the folder, which must not be "/" or empty.
     [[nodiscard]] static bool isInside(std::string_view path, std::string_view folder);
 
 private:
@@ -49,7 +48,7 @@ private:
     void link();
 
     std::vector<Node> m_nodes;
-    std::vector<int> m_nodeOf; ///< of each path given
+    std::vector<int> m_nodeOf; ///< by index of the list
     bool m_isNested = false;
 };
 

@@ -18,9 +18,9 @@ namespace orlen::Rater {
 
 namespace {
 
-/// More words than this are not looked at: a name says what it is early.
+/// Further words are ignored: a name says what it is early on.
 constexpr std::size_t kTokenLimit = 8;
-/// Shorter words mean too many things to be compared by meaning.
+/// Shorter words are too ambiguous to compare by meaning.
 constexpr std::ptrdiff_t kMeaningLength = 5;
 /// Cosine distance below which two words are close in meaning.
 constexpr double kCloseDistance = 0.62;
@@ -29,8 +29,8 @@ constexpr std::string_view kImportantReason = "Every item here looks important."
 constexpr std::string_view kDocumentNote = "Name suggests an important document (invoice, tax, contract…)";
 constexpr std::string_view kInstallerNote = "Installer — you can download it again";
 
-/// Which words are close in meaning to an anchor word. Comparing is slow and names repeat their words, so
-/// this only grows. Two threads may compute the same word at once; they store the same answer.
+/// Which words are close in meaning to an anchor word. Comparing is slow and names repeat words, so this
+/// cache only grows. Two threads may compute the same word at once; they store the same result.
 class MeaningCache {
 public:
     [[nodiscard]] std::optional<bool> find(const std::string& token)
@@ -57,7 +57,7 @@ MeaningCache& meaningCache()
     return cache;
 }
 
-/// Whether a word is long enough to be compared, and no year, date or camera counter.
+/// Whether a word is long enough to compare, and not a year, date or camera counter.
 bool isWorthComparing(std::string_view token)
 {
     const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
@@ -84,8 +84,8 @@ bool meansSomethingSensitive(const std::string& token)
     return isClose;
 }
 
-/// Whether the base form of the word is a sensitive one. The word is looked up where its text first occurs in
-/// the name, which may be within an earlier, longer word.
+/// Whether the base form of the word is sensitive. The word is looked up where its text first occurs in the
+/// name, which may be inside an earlier, longer word.
 bool hasSensitiveLemma(const std::string& token, std::span<const std::string> tokens)
 {
     const auto word = std::ranges::find_if(
@@ -112,8 +112,9 @@ Rating moreCareful(Rating a, Rating b)
     return std::max(a, b);
 }
 
-/// What only the path tells. A text that happens to occur in it, or a place, makes an entry more careful than
-/// its scanner said, never less; without a word of the scanner the entry is as careful as its finding.
+/// What only the path reveals. A text that occurs in it, or a known place, can make an entry's rating more
+/// cautious than its scanner's, never less; if the scanner did not rate it, it starts with the finding's
+/// rating.
 bool rateByLocation(FileEntry& entry, Rating ofFinding, const KnownPlaces& places)
 {
     const auto texts = RaterTables::knownTexts();

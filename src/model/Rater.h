@@ -5,9 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// Turns raw findings into rated ones: rating and reason of each finding from a table by kind, rating and
-/// note of single entries from known locations, important-looking names and installers. Never touches the
-/// disk; any thread.
+/// Rates findings: each finding by a table of kinds, single entries by known places, important-looking names
+/// and installers. Never touches the disk; any thread.
 namespace orlen::Rater {
 
 /// The same findings in the same order, rated.

@@ -44,7 +44,7 @@ constexpr std::array<KindRule, kFindingKinds> kRules{{
 
 constexpr KindRule kOtherKinds{caches, review, "Check before cleaning."};
 
-// Notes that several rows share.
+// Notes shared by several rows.
 constexpr std::string_view kBrowserCache = "Browser cache, rebuilt as you browse.";
 constexpr std::string_view kOfflineSongs = "May hold songs you downloaded for offline use.";
 constexpr std::string_view kLargeDownload = "Large download; needed again by programs that use it.";
@@ -104,12 +104,11 @@ constexpr std::array kDocumentKinds{largeFiles,    oldFiles, oldDownloads, dupli
                                     mailDownloads, receipts, screenshots,  photoDuplicates,
                                     memes,         blurry,   trash};
 
-// An AppImage is the application itself and a self-extracting program may be the only copy, so neither
-// counts.
+// AppImages are the application itself, and self-extracting programs may be the only copy, so neither counts.
 constexpr std::array<std::string_view, 8> kInstallerExtensions{"dmg", "pkg",     "iso",        "deb",
                                                                "rpm", "flatpak", "flatpakref", "msi"};
 
-// Broad on purpose: a false keep only costs the user a look.
+// Broad on purpose: a wrong "keep" only costs the user a look.
 constexpr std::array<std::string_view, 33> kSensitiveWords{
     "invoice",   "tax",         "taxes",   "contract", "agreement", "passport",     "insurance",
     "mortgage",  "lease",       "payslip", "paystub",  "statement", "resume",       "will",

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-/// The data that the Rater decides by. All of it is constant.
+/// The constant tables behind the Rater.
 namespace orlen::RaterTables {
 
 struct KindRule {
@@ -15,7 +15,7 @@ struct KindRule {
     std::string_view reason; ///< shown as the finding's reason
 };
 
-/// The rule for findings of a kind; `review` with a general reason for a kind without a row.
+/// The rule for a kind; a kind without a row gets `review` and a general reason.
 [[nodiscard]] const KindRule& rule(FindingKind kind);
 
 struct KnownLocation {
@@ -24,23 +24,23 @@ struct KnownLocation {
     std::string_view note;
 };
 
-// The first row that fits a path holds for it, the texts before the places.
+// The first row that matches a path applies, texts before places.
 
-/// `where` is text that occurs anywhere in the path, case-sensitive.
+/// `where` may occur anywhere in the path, case-sensitive.
 [[nodiscard]] std::span<const KnownLocation> knownTexts();
-/// `where` is a place as KnownPlaces reads it.
+/// `where` is a place, as KnownPlaces reads it.
 [[nodiscard]] std::span<const KnownLocation> knownPlaces();
 
-/// Whether entries of this kind are the user's own files, whose names are worth a look.
+/// Whether entries of this kind are the user's own files, whose names deserve a look.
 [[nodiscard]] bool holdsDocuments(FindingKind kind);
 
-/// Whether a lower-case extension is that of an installer, which can be downloaded again.
+/// Whether a lower-case extension belongs to an installer, which can be downloaded again.
 [[nodiscard]] bool isInstallerExtension(std::string_view extension);
 
-/// Whether a lower-case word names a personal document.
+/// Whether a lower-case word suggests a personal document.
 [[nodiscard]] bool isSensitiveWord(std::string_view word);
 
-/// The words that unknown words are compared with by meaning, in this order.
+/// The words whose meaning unknown words are compared with, in this order.
 [[nodiscard]] std::span<const std::string_view> anchorWords();
 
 } // namespace orlen::RaterTables

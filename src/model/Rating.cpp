@@ -1,6 +1,6 @@
 #include "model/Rating.h"
 
-#include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace orlen {
@@ -19,7 +19,6 @@ constexpr std::array kRatingRows{
     RatingRow{"review", "Review", "eye.fill"},
     RatingRow{"keep", "Keep", "lock.fill"},
 };
-static_assert(kRatingRows.size() == kAllRatings.size());
 
 const RatingRow& row(Rating rating)
 {
@@ -31,15 +30,6 @@ const RatingRow& row(Rating rating)
 std::string_view rawValue(Rating rating)
 {
     return row(rating).raw;
-}
-
-std::optional<Rating> ratingFromRaw(std::string_view raw)
-{
-    const auto* const found =
-        std::ranges::find(kAllRatings, raw, [](Rating rating) { return rawValue(rating); });
-    if (found == kAllRatings.end())
-        return std::nullopt;
-    return *found;
 }
 
 std::string_view label(Rating rating)

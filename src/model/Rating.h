@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-#include <optional>
 #include <string_view>
 
 namespace orlen {
@@ -9,12 +7,8 @@ namespace orlen {
 /// What Orlen advises about a finding or an entry.
 enum class Rating { safe, review, keep };
 
-inline constexpr std::array kAllRatings{Rating::safe, Rating::review, Rating::keep};
-
-/// The case's name as it is persisted: "safe", "review", "keep".
+/// The case's name as stored on disk: "safe", "review", "keep".
 [[nodiscard]] std::string_view rawValue(Rating rating);
-/// The case with exactly this raw value; nothing for any other text.
-[[nodiscard]] std::optional<Rating> ratingFromRaw(std::string_view raw);
 
 /// The word on the rating chip: "Safe", "Review", "Keep".
 [[nodiscard]] std::string_view label(Rating rating);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kChannels = 3;
 
-/// The old pixels that one new pixel covers along an axis.
+/// The old pixels covered by one new pixel along an axis.
 struct Cover {
     std::size_t first = 0;
     std::vector<float> shares; ///< of the new pixel; they add up to 1
@@ -34,7 +34,7 @@ std::vector<Cover> coversOf(int oldLength, int newLength)
     return covers;
 }
 
-/// The old rows that one new row covers, added up.
+/// The sum of the old rows covered by one new row.
 void addRows(const RgbImage& image, const Cover& cover, std::vector<float>& sum)
 {
     std::fill(sum.begin(), sum.end(), 0.0F);

@@ -53,7 +53,7 @@ float quantile(std::vector<float>& values, double share)
     return values[static_cast<std::size_t>(at)];
 }
 
-/// Share of the rows of a mask, or of its columns, in which at least nine blocks of ten are set.
+/// Share of the rows or columns of a mask in which at least nine in ten blocks are set.
 float fullLines(const cv::Mat& mask, bool rows)
 {
     cv::Mat sums;

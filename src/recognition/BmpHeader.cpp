@@ -18,7 +18,7 @@ constexpr std::uint32_t kRareHeader = 64; ///< whose compressions have other mea
 
 enum Compression : std::uint32_t { none = 0, runLength8 = 1, masks = 3, masksWithAlpha = 6 };
 
-/// Numbers of a block of bytes, lowest byte first; 0 past its end.
+/// Little-endian numbers in a block of bytes; 0 past its end.
 class Fields {
 public:
     explicit Fields(std::vector<std::uint8_t> bytes) : m_bytes(std::move(bytes)) {}
@@ -96,7 +96,7 @@ void readPalette(BmpHeader& header, const ByteSource& source, std::int64_t offse
     }
 }
 
-/// The form of the first systems: short numbers, no compression.
+/// The oldest form: short numbers, no compression.
 std::optional<BmpHeader> readCore(const Fields& fields, const ByteSource& source)
 {
     BmpHeader header;

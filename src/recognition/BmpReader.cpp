@@ -20,8 +20,7 @@ std::uint8_t overWhite(std::uint8_t value, std::uint8_t alpha)
     return static_cast<std::uint8_t>((value * alpha + kWhite * (kOpaque - alpha) + kOpaque / 2) / kOpaque);
 }
 
-/// The coded rows of a picture, turned into colours and handed on from the one at the bottom, or at the top,
-/// as the file has them.
+/// Converts the encoded rows of a picture to colours, in the file's order.
 class Rows {
 public:
     Rows(const BmpHeader& header, RowShrinker& shrinker)
@@ -40,7 +39,7 @@ public:
         handOn();
     }
 
-    /// A row of one number in the palette for each pixel.
+    /// A row of one palette index per pixel.
     void addIndexed(const Bytes& row)
     {
         for (std::size_t x = 0; x < width(); ++x)
@@ -110,7 +109,7 @@ void readPlain(const BmpHeader& header, const ByteSource& source, Rows& rows)
     }
 }
 
-/// The bytes of a file in turn.
+/// The bytes of a file in order.
 class Stream {
 public:
     Stream(const ByteSource& source, std::int64_t offset) : m_source(source), m_offset(offset) {}
@@ -137,8 +136,8 @@ private:
     std::size_t m_at = 0;
 };
 
-/// Run-length coding: pairs of a count and a value; a count of 0 escapes. What is jumped over has the first
-/// colour of the palette, and what runs over the right edge is dropped.
+/// Run-length encoding: pairs of a count and a value; a count of 0 is an escape. Skipped pixels have the
+/// first colour of the palette, and pixels past the right edge are dropped.
 class RunLength {
 public:
     RunLength(Stream stream, std::size_t width, Rows& rows)
@@ -199,7 +198,7 @@ private:
         return true;
     }
 
-    /// As many values as the code says, filled up to an even number of bytes.
+    /// As many values as the code says, padded to an even number of bytes.
     bool literal(std::uint8_t count)
     {
         for (int i = 0; i < count; ++i) {

@@ -6,9 +6,8 @@
 
 #include <optional>
 
-/// Reads BMP files: of 1, 4, 8, 16, 24 and 32 bits, run-length coded ones of 8 bits, from the bottom up and
-/// from the top down. The bytes are untrusted; memory is bounded by the small picture and one row. Any
-/// thread.
+/// Reads BMP files of 1, 4, 8, 16, 24 and 32 bits, and run-length encoded ones of 8 bits, stored bottom-up or
+/// top-down. Untrusted input; memory is bounded by the small picture and one row. Any thread.
 namespace orlen::BmpReader {
 
 struct Picture {
@@ -17,7 +16,7 @@ struct Picture {
     RgbImage small;
 };
 
-/// Shrunk into the bound's box. Nothing when it is no such file or too much of it is missing.
+/// The picture shrunk into the bound's box. Nothing if it is not such a file or too much of it is missing.
 [[nodiscard]] std::optional<Picture> read(const ByteSource& source, const PictureBound& bound);
 
 } // namespace orlen::BmpReader

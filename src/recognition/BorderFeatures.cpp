@@ -37,8 +37,7 @@ float shareNear(const cv::Mat& part, int level)
     return static_cast<float>(near) / static_cast<float>(part.total());
 }
 
-/// A bar: rows from the top whose both ends and most of whose pixels have one level, whatever is written on
-/// it.
+/// A bar: rows from the top with one level at both ends and in most pixels, whatever is written on it.
 struct Bar {
     float height = 0;  ///< share of the picture
     float level = 0;   ///< grey; -1 without a bar
@@ -63,7 +62,7 @@ Bar barAtTop(const cv::Mat& grey)
             1 - shareNear(grey.rowRange(0, rows), level)};
 }
 
-/// Rows from the top that are even throughout.
+/// Rows from the top that are uniform throughout.
 float marginAtTop(const cv::Mat& grey)
 {
     const int level = medianOf(grey.row(0));

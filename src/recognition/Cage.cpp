@@ -6,11 +6,11 @@
 
 namespace orlen::Cage {
 
-// There is no limit on the number of processes: it would count the user's threads, its own among them.
+// The number of processes is not limited: that would count the user's threads, including its own.
 int lock()
 {
 #ifdef ORLEN_SANITIZED
-    // A sanitizer looks at its own process and reports with calls that no decoder needs.
+    // A sanitizer inspects its own process and reports with calls no decoder needs.
     return FileRights::giveUp(FileRights::Exception::processTable);
 #else
     ProcessLimits::hideMemory();

@@ -2,15 +2,15 @@
 
 #include "platform/images/CageReport.h"
 
-/// What a recognizer gives up before it reads the first byte of a picture: pictures are untrusted, and
-/// whoever takes over a decoder should find nothing to do there.
+/// What a recognizer gives up before it reads the first byte of an untrusted picture, so that whoever takes
+/// over a decoder finds nothing to do.
 namespace orlen::Cage {
 
-/// Locks this process in as far as the system allows; once, while it has one thread, after all files that are
-/// ever needed were opened. Back comes the version of the system's Landlock, 0 when files stay within reach.
+/// Locks this process in as far as the system allows. Call once, while there is one thread, after opening
+/// every file that will be needed. Returns the version of the system's Landlock; 0 if files stay accessible.
 int lock();
 
-/// Tries to get out. What was possible leaves no trace.
+/// Tries to break out. Whatever succeeds leaves no trace.
 [[nodiscard]] CageReport tried(int landlock);
 
 } // namespace orlen::Cage

@@ -23,14 +23,14 @@ namespace {
 
 using Wall = CageReport::Wall;
 
-// Names below a folder that is not there: tried outside of a cage, they change nothing.
+// Names below a missing folder: tried outside a cage, they change nothing.
 constexpr const char* kNowhere = "/orlen-nowhere/file";
 constexpr std::size_t kPage = 4096;
 
-/// As a system call says it: -1 and the error.
+/// The convention of system calls: -1 and errno.
 using Try = long (*)();
 
-/// A descriptor that should not have come is closed again.
+/// A descriptor we should not have got is closed again.
 long closed(long descriptor)
 {
     return descriptor < 0 ? descriptor : ::close(static_cast<int>(descriptor));
@@ -96,7 +96,7 @@ long turnIntoCode()
     return turned;
 }
 
-/// What is a state rather than a call, told like one.
+/// A state rather than a call, reported like one.
 long unless(bool holds)
 {
     errno = EPERM;

@@ -18,7 +18,7 @@ enum class Ground {
     bar,     ///< a plain area far around each letter
 };
 
-/// Share of the pixels around a letter, out to a distance, that are far from the letter's own brightness.
+/// Share of the pixels within a distance of a letter that differ much from its brightness.
 double opposed(const cv::Mat& opposite, const cv::Mat& letters, const cv::Rect& letter, int reach)
 {
     const cv::Rect all(0, 0, opposite.cols, opposite.rows);
@@ -34,7 +34,7 @@ double opposed(const cv::Mat& opposite, const cv::Mat& letters, const cv::Rect& 
     return count > 0 ? static_cast<double>(cv::countNonZero(rim & opposite(around))) / count : 0;
 }
 
-/// Large letters of one brightness whose surroundings have the opposite one, on lines.
+/// Large letters of one brightness on an opposite background, on lines.
 std::vector<Line> captionLines(const cv::Mat& letters, const cv::Mat& opposite, Ground ground)
 {
     const int side = std::max(letters.rows, letters.cols);
@@ -73,7 +73,7 @@ void addCaption(const std::vector<Line>& lines, const cv::Size& size, const Name
     features.push_back({names.edge, static_cast<float>(edge)});
 }
 
-/// How much of the picture outside the flat areas is textured as a photo or a painting is.
+/// How much of the picture outside flat areas has the texture of a photo or painting.
 float pictured(const PicturePlanes& planes)
 {
     cv::Mat small;

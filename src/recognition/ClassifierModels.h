@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <span>
 
-/// The models of the classifier as they lie in the program; made by training/classifier.
+/// The classifier's models, embedded in the program; made by training/classifier.
 namespace orlen::ClassifierModels {
 
 [[nodiscard]] std::span<const std::uint8_t> trees();   ///< a table of TreeEnsemble

@@ -24,7 +24,7 @@ std::size_t at(int x, int y)
     return static_cast<std::size_t>(y) * kSide + static_cast<std::size_t>(x);
 }
 
-/// The strength of each pixel's edge, shared between the two directions next to its own.
+/// The strength of each pixel's edge, shared between the two nearest directions.
 Planes directionPlanes(const std::vector<float>& grey)
 {
     Planes planes;
@@ -46,8 +46,8 @@ Planes directionPlanes(const std::vector<float>& grey)
     return planes;
 }
 
-/// How much each row, or column, counts for each row of cells: a bell around the cell's middle that reaches
-/// into its neighbours, so that a small shift changes little.
+/// The weight of each row or column for each row of cells: a bell around the cell's middle that reaches into
+/// its neighbours, so that small shifts change little.
 using Windows = std::array<std::array<float, kSide>, kEdgeCells>;
 
 Windows makeWindows()
@@ -67,7 +67,7 @@ Windows makeWindows()
     return windows;
 }
 
-/// The plane's weighted mean in each cell, rows of cells from the top, appended.
+/// Appends the plane's weighted mean in each cell, row by row from the top.
 void appendCells(const std::vector<float>& plane, const Windows& windows, std::vector<float>& cells)
 {
     for (const std::array<float, kSide>& rows : windows) {

@@ -2,11 +2,11 @@
 
 #include <vector>
 
-/// Which way edges run in each part of a picture. Pure; any thread.
+/// The directions of edges in each part of a picture. Pure; any thread.
 namespace orlen::EdgeDirections {
 
-/// One plane of kEdgeCells x kEdgeCells for each of kDirections directions; see LayoutDescriptor. `grey` is
-/// kSide x kSide. Directions tell light-to-dark from dark-to-light.
+/// One plane of kEdgeCells x kEdgeCells per direction, kDirections of them; see LayoutDescriptor. `grey` is
+/// kSide x kSide. Light-to-dark and dark-to-light are different directions.
 [[nodiscard]] std::vector<float> of(const std::vector<float>& grey);
 
 } // namespace orlen::EdgeDirections

@@ -17,7 +17,7 @@ constexpr int kEdge = 60; // Sobel units
 constexpr int kStrong = 240;
 constexpr int kLine = 40;
 
-/// A direction and its opposite are one.
+/// Opposite directions are the same.
 std::size_t directionOf(double gx, double gy)
 {
     double angle = std::atan2(gy, gx) + std::numbers::pi;
@@ -26,7 +26,7 @@ std::size_t directionOf(double gx, double gy)
     return static_cast<std::size_t>(angle / std::numbers::pi * kSectors) % kSectors;
 }
 
-/// Strengths and directions of edges, weighted by strength.
+/// Strength and direction of edges, weighted by strength.
 void addDirections(const cv::Mat& dx, const cv::Mat& dy, std::vector<PictureFeature>& features)
 {
     std::array<double, kSectors> directions{};
@@ -68,7 +68,7 @@ struct Lines {
     float many = 0;    ///< lines over a third of the side, per 100 pixels across
 };
 
-/// Straight lines along the rows of the derivative across them.
+/// Straight lines along rows, from the derivative across them.
 Lines linesAlongRows(const cv::Mat& derivative)
 {
     Lines lines;

@@ -9,7 +9,7 @@ namespace orlen {
 
 namespace {
 
-/// One half of the bell with its middle, cut off at three sigma; the whole bell adds up to 1.
+/// Half of the bell including its middle, cut off at three sigma; the whole bell sums to 1.
 std::vector<float> halfBell(float sigma, int side)
 {
     const int reach = std::min(static_cast<int>(std::ceil(3 * sigma)), side - 1);
@@ -31,7 +31,8 @@ int mirrored(int at, int side)
     return at < side ? at : 2 * (side - 1) - at;
 }
 
-/// Smooths down the columns, whole rows at a time, and turns the result on its diagonal: twice is both ways.
+/// Blurs along columns, whole rows at a time, and transposes the result: doing it twice covers both
+/// directions.
 std::vector<float> smoothedAndTurned(const std::vector<float>& plane, int side,
                                      const std::vector<float>& bell)
 {

@@ -2,11 +2,11 @@
 
 #include <vector>
 
-/// Smoothing of small square planes of floats. Pure; any thread.
+/// Blurs small square planes of floats. Pure; any thread.
 namespace orlen::GaussianBlur {
 
-/// `plane` holds side x side values, rows from the top; sigma is in pixels. The plane is mirrored at its
-/// edges, so a constant stays constant.
+/// `plane` holds side x side values, rows from the top; sigma is in pixels. Edges are mirrored, so a constant
+/// plane stays constant.
 [[nodiscard]] std::vector<float> blurred(const std::vector<float>& plane, int side, float sigma);
 
 } // namespace orlen::GaussianBlur

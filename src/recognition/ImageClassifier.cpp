@@ -12,17 +12,17 @@
 #include <exception>
 #include <optional>
 
-// Two models that fail on different pictures look at each one: trees over designed features and a small
-// network. Their geometric mean is high only where neither doubts. A receipt and a document are one to the
-// photo analysis, so what speaks for either is added up before. A score becomes a confidence by two straight
-// lines that meet at the turning point, the score from which on a word was right often enough on pictures of
-// sources that no model had seen; it is given exactly the confidence at which the photo analysis decides.
+// Two models that fail on different pictures judge each one: trees over hand-made features, and a small
+// network. Their geometric mean is high only if neither has doubts. The photo analysis treats receipts and
+// documents alike, so their scores are added up first. A score becomes a confidence along two line segments.
+// They meet at the turning point: the score from which a label was right often enough on pictures from
+// sources no model had seen. It maps to exactly the confidence at which the photo analysis decides.
 
 namespace orlen {
 
 namespace {
 
-// The order in which the models give their probabilities.
+// The order of the models' probabilities.
 enum Kind : std::size_t { photo, screenshot, receipt, document, meme, illustration, kindCount };
 using Probabilities = std::vector<float>;
 
@@ -46,8 +46,8 @@ constexpr Word kDocument{"document", 0.50F, 0.6F};
 constexpr Word kMeme{"meme", 0.80F, 0.2F};
 constexpr Word kIllustration{"illustration", 0.50F, 0.3F};
 
-// Pairs of neighbouring letters or words on common lines, in one of the polarities. Few photos have as many
-// and no page that can be read has less.
+// Pairs of neighbouring letters or words on lines, in one polarity. Few photos have this many, and no
+// readable page has fewer.
 constexpr float kLeastPairs = 30;
 constexpr float kCameraMeme = 0.3F; // of the score: people do caption what their camera took
 constexpr float kLeastShare = 1e-6F;

@@ -31,7 +31,7 @@ using Image = Owned<VipsImage>;
 
 constexpr int kColours = 3;
 
-/// Applies a call that makes an image of another; absent in, absent out.
+/// Applies a call that turns one image into another; absent in, absent out.
 template <typename Operation>
 Image applied(const Image& image, Operation&& operation)
 {
@@ -49,7 +49,8 @@ ByteSource bytesOf(int descriptor)
     };
 }
 
-/// Enough bytes to tell any format; fewer are no picture, and libvips cannot take none at all.
+/// Enough bytes to detect any format; with fewer it is not a picture, and libvips does not accept empty
+/// input.
 using Start = std::array<std::uint8_t, 4>;
 
 std::optional<Start> startOf(int descriptor)
@@ -75,14 +76,14 @@ std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound, Pict
     return decoded;
 }
 
-/// Whether the picture's own description of how it was taken has this.
+/// Whether the picture's metadata has this field.
 bool tells(const Image& header, const char* name)
 {
     const char* value = nullptr;
     if (vips_image_get_typeof(header.get(), name) == 0 ||
         vips_image_get_string(header.get(), name, &value) != 0)
         return false;
-    // The value, and in brackets how it is stored: an empty one leaves the brackets alone.
+    // The value, and its storage type in brackets; an empty value leaves only the brackets.
     const std::string_view text(value);
     const std::size_t first = text.find_first_not_of(' ');
     return first != std::string_view::npos && text[first] != '(';
@@ -101,7 +102,7 @@ bool isDrawnInLines(const Image& header)
            std::string_view(loader).starts_with("svg");
 }
 
-/// Colours of any kind and depth as sRGB of 8 bits: a photo over white, an icon with its alpha.
+/// Any colour space and depth as 8-bit sRGB: a photo over white, an icon with its alpha.
 Image asRgb(const Image& image, PictureUse use)
 {
     Image rgb = applied(image, [](VipsImage* in, VipsImage** out) {
@@ -132,8 +133,8 @@ struct Wanted {
     bool mayGrow;
 };
 
-/// Small, in sRGB, lying as it is stored, and wholly in memory. The loader gets its options as text: for a
-/// source libvips 8.14 does not hand on how strict it has to be.
+/// Small, in sRGB, in stored orientation and fully in memory. The loader gets its options as text because
+/// libvips 8.14 does not pass the strictness on for a source.
 Image shrunk(VipsSource* source, const Wanted& wanted, const char* loaderOptions)
 {
     VipsImage* made = nullptr;
@@ -145,8 +146,8 @@ Image shrunk(VipsSource* source, const Wanted& wanted, const char* loaderOptions
     return rgb ? Image(vips_image_copy_memory(rgb.get())) : nullptr;
 }
 
-/// Whether so many rows at the end are of one and the same colour that they were never there: decoders fill
-/// up what a file lacks.
+/// Whether so many rows at the end have one colour that they were never stored: decoders fill in what a file
+/// lacks.
 bool lacksItsEnd(const Image& image)
 {
     const int height = vips_image_get_height(image.get());
@@ -166,7 +167,7 @@ bool lacksItsEnd(const Image& image)
     return missing > ImageLimits::kLargestMissingShare * height;
 }
 
-/// Many damaged files are whole but for a few rows or spots, and worth a second, forgiving try.
+/// Many damaged files are complete except for a few rows or spots, and deserve a second, lenient try.
 Image bestEffort(VipsSource* source, const Wanted& wanted)
 {
     if (Image whole = shrunk(source, wanted, "[fail_on=truncated]"))
@@ -175,7 +176,7 @@ Image bestEffort(VipsSource* source, const Wanted& wanted)
     return damaged && !lacksItsEnd(damaged) ? std::move(damaged) : nullptr;
 }
 
-/// The pixels, and their alpha where they have it.
+/// The pixels, and their alpha if they have it.
 void store(Decoded& decoded, const Image& image)
 {
     const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
@@ -208,10 +209,10 @@ void cutToMiddle(RgbImage& image, PixelSize size)
     image = std::move(middle);
 }
 
-/// The size that a picture is shrunk into while it still lies as it is stored.
+/// The size a picture is shrunk to in stored orientation.
 PixelSize boxOf(const Decoded& picture, const PictureBound& bound)
 {
-    return (picture.isLying ? bound.turned() : bound).box({picture.width, picture.height});
+    return (picture.isSideways ? bound.turned() : bound).box({picture.width, picture.height});
 }
 
 std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, PictureUse use)
@@ -225,15 +226,15 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
             vips_image_new_from_source(source.get(), "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr)}) {
         decoded.width = vips_image_get_width(header.get());
         decoded.height = vips_image_get_height(header.get());
-        decoded.isLying = vips_image_get_orientation_swap(header.get()) != 0;
+        decoded.isSideways = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.isFromCamera = isFromCamera(header);
         isDrawing = isDrawnInLines(header);
     }
     if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
         return std::nullopt;
-    const Image lying = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
+    const Image stored = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
     Image upright =
-        applied(lying, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
+        applied(stored, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
     if (upright)
         upright.reset(vips_image_copy_memory(upright.get()));
     if (!upright)
@@ -242,8 +243,8 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
     return decoded;
 }
 
-/// Decoders open the files of their parts when they meet their first picture. Its header is enough for that,
-/// and starts no thread.
+/// Decoders load their parts when they see their first picture. Its header is enough for that, and starts no
+/// thread.
 void warmUp()
 {
     for (const std::span<const std::uint8_t> sample : Samples::all()) {
@@ -262,11 +263,11 @@ void prepare()
     vips_concurrency_set(1);
     vips_cache_set_max(0);
 #ifdef ORLEN_VIPS_WRITES_CODE
-    // These versions write code for each picture, into files of the home folder if they may; pictures are
-    // read as fast without.
+    // These versions generate code per picture, into files in the home folder if they can; reading is as fast
+    // without.
     vips_vector_set_enabled(FALSE);
 #endif
-    // By content, not by name: what is not listed here is no picture, whatever its name promises.
+    // By content, not by name: what is not listed here is not a picture, whatever its name says.
     vips_operation_block_set("VipsForeignLoad", TRUE);
     for (const char* loader :
          {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif", "VipsForeignLoadTiff",

@@ -5,37 +5,37 @@
 
 #include <optional>
 
-/// Reads pictures, made small. Pictures are untrusted and decoding them may crash, hang or need memory
-/// without limit: only the recognizer, a process with limits, calls this (see ImageWorkers).
+/// Decodes pictures at reduced size. Pictures are untrusted, and decoding them may crash, hang or exhaust
+/// memory, so only the recognizer, a process with limits, calls this (see ImageWorkers).
 namespace orlen::ImageDecoder {
 
-/// What recognition looks at.
+/// The size recognition works on.
 inline constexpr PictureBound kForRecognition{{512, 512}, PictureBound::Fit::inside};
 
 struct Decoded {
-    int width = 0;  ///< pixels of the whole picture as its header tells them; 0 when unknown
+    int width = 0;  ///< pixels of the whole picture according to its header; 0 if unknown
     int height = 0; ///< as width
-    /// Whether it is stored lying on its side: upright, width and height are the other way round.
-    bool isLying = false;
-    /// Whether the file says what camera made it, or for how long it was exposed.
+    /// Whether it is stored sideways: upright, width and height are swapped.
+    bool isSideways = false;
+    /// Whether the file names a camera or an exposure time.
     bool isFromCamera = false;
-    /// Upright, never larger than the picture unless that is drawn in lines, the first frame.
+    /// Upright, the first frame, never enlarged unless it is vector graphics.
     RgbImage small;
-    std::vector<std::uint8_t> alpha; ///< as a small picture has it
+    std::vector<std::uint8_t> alpha; ///< as in SmallPicture
 
-    /// The size of the whole picture when it is upright.
+    /// The size of the whole picture once upright.
     [[nodiscard]] PixelSize upright() const
     {
-        return isLying ? PixelSize{height, width} : PixelSize{width, height};
+        return isSideways ? PixelSize{height, width} : PixelSize{width, height};
     }
 };
 
-/// Once per process, before the first picture: allows the known formats only, and opens all files that
-/// decoding them will ever need.
+/// Call once per process, before the first picture: allows only the known formats, and opens all files that
+/// decoding will ever need.
 void prepare();
 
-/// The picture in an open file, told by its content. Nothing when it is no picture of a known format, is
-/// damaged beyond use, or larger than any picture should be. One thread.
+/// The picture in an open file; its format is detected from the content. Nothing if it is not a known format,
+/// is damaged beyond use, or is larger than any picture should be. One thread.
 [[nodiscard]] std::optional<Decoded> decode(int descriptor, const PictureBound& bound,
                                             PictureUse use = PictureUse::photo);
 

@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-/// How large a picture may be. A header costs a few bytes whatever it promises, so it is looked at before
-/// anything is decoded.
+/// How large a picture may be. Checked on the header before anything is decoded, since a few bytes can
+/// promise any size.
 namespace orlen::ImageLimits {
 
 inline constexpr std::int64_t kLongestSide = 30'000; ///< pixels
 inline constexpr std::int64_t kMostPixels = 250'000'000;
-/// A picture of which more is missing, from one of its ends, is damaged beyond use.
+/// A picture missing more than this share at one end is damaged beyond use.
 inline constexpr double kLargestMissingShare = 0.1;
 
 [[nodiscard]] constexpr bool allow(std::int64_t width, std::int64_t height)

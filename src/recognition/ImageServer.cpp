@@ -27,7 +27,7 @@ ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, P
     return {{{decoded->upright(), {decoded->small.width, decoded->small.height}}}};
 }
 
-/// Nothing when it is no question.
+/// Nothing if it is not a question.
 std::optional<std::string> answered(const DescriptorSocket::Message& message)
 {
     const auto question = ImageMessages::decodedQuestion(message.bytes);

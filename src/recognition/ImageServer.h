@@ -5,18 +5,19 @@
 #include <chrono>
 #include <optional>
 
-/// The work of a recognizer process. One thread.
+/// The main loop of a recognizer process. One thread.
 namespace orlen::ImageServer {
 
-/// What an open file shows; nothing when it is no picture that can be read.
+/// Analyses an open file; nothing if it is not a readable picture.
 [[nodiscard]] std::optional<ImageAnalysis> analysis(int file);
 
 struct Limits {
-    std::chrono::seconds picture;   ///< one that takes longer ends the process: whoever asked may be gone
-    std::chrono::milliseconds idle; ///< without a question for so long
+    /// A picture that takes longer ends the process, since whoever asked may be gone.
+    std::chrono::seconds picture;
+    std::chrono::milliseconds idle; ///< time without a question before it returns
 };
 
-/// Answers one question after the other, until the other end of the socket is closed or none comes.
+/// Answers questions one after another, until the other end of the socket is closed or none arrives in time.
 void serve(int socket, const Limits& limits);
 
 } // namespace orlen::ImageServer

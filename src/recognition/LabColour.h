@@ -2,7 +2,7 @@
 
 namespace orlen {
 
-/// A colour in CIE L*a*b* under daylight, where equal steps look about equally large.
+/// A colour in CIE L*a*b* (daylight), where equal distances look about equally large.
 struct LabColour {
     float lightness = 0; ///< 0 to 100
     float a = 0;         ///< green to red

@@ -28,7 +28,7 @@ float lengthOf(std::span<const float> values)
     return std::sqrt(std::inner_product(values.begin(), values.end(), values.begin(), 0.0F));
 }
 
-/// Where it is light and dark, whatever the exposure and the contrast.
+/// Where it is light and dark, regardless of exposure and contrast.
 std::vector<float> lightOf(const std::vector<float>& grey)
 {
     constexpr int kCell = kSide / kLightCells;
@@ -43,7 +43,7 @@ std::vector<float> lightOf(const std::vector<float>& grey)
     return cells;
 }
 
-/// Most of the mean colour is taken out, because cameras disagree about white.
+/// Most of the mean colour is removed, because cameras disagree about white.
 std::vector<float> coloursOf(const RgbImage& image)
 {
     constexpr float kMeanShare = 0.7F;
@@ -63,8 +63,8 @@ std::vector<float> coloursOf(const RgbImage& image)
     return colours;
 }
 
-/// Appends a part with the length `weight`. A part with next to nothing in it stays short: `noise` is the
-/// root mean square up to which its values mean little.
+/// Appends a part scaled to the length `weight`. A part with almost nothing in it stays short: values below
+/// the root mean square `noise` mean little.
 class Parts {
 public:
     void add(const std::vector<float>& part, float noise, float weight)

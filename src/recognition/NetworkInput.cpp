@@ -8,8 +8,8 @@ namespace orlen {
 
 namespace {
 
-/// How far each pixel is from its neighbourhood. Letters and their sharp edges are lost when a picture is
-/// squashed; the mean of this is not.
+/// How much each pixel differs from its neighbourhood. Letters and their sharp edges vanish when a picture is
+/// squashed; the mean of this does not.
 cv::Mat roughness(const cv::Mat& rgb)
 {
     cv::Mat grey;

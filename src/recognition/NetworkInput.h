@@ -5,13 +5,13 @@
 #include <cstdint>
 #include <vector>
 
-/// What the small network sees of a picture. Pure; any thread.
+/// The input of the small network. Pure; any thread.
 namespace orlen::NetworkInput {
 
 inline constexpr int kSide = 128;   ///< pixels; the picture is squashed to a square
-inline constexpr int kChannels = 4; ///< red, green, blue, and how rough the fine structure is
+inline constexpr int kChannels = 4; ///< red, green, blue, and roughness of the fine structure
 
-/// The channels one after another, each by rows; empty for an empty picture.
+/// The channels one after another, each row by row; empty for an empty picture.
 [[nodiscard]] std::vector<std::uint8_t> of(const RgbImage& image);
 
 } // namespace orlen::NetworkInput

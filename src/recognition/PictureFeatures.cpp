@@ -12,8 +12,8 @@ namespace orlen {
 
 namespace {
 
-// Blocks, lines and components need room; so little is there to see in smaller pictures that it does not
-// matter how they are enlarged.
+// Blocks, lines and components need space; smaller pictures show so little that it does not matter how they
+// are enlarged.
 constexpr int kLeastSide = 16;
 
 cv::Mat copyOf(const RgbImage& image)

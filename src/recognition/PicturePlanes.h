@@ -9,17 +9,17 @@
 
 namespace orlen {
 
-/// The planes that all features are measured on. Pure; any thread.
+/// The planes all features are computed from. Pure; any thread.
 struct PicturePlanes {
     explicit PicturePlanes(const RgbImage& image);
 
     cv::Mat rgb;    ///< three channels of 8 bits; its own copy
     cv::Mat grey;   ///< 8 bits
-    cv::Mat chroma; ///< largest minus smallest of the three channels, 8 bits
+    cv::Mat chroma; ///< largest minus smallest channel, 8 bits
 };
 
-/// Each adds its features to the list, always the same ones in the same order. The picture has at least 8
-/// pixels on each side.
+/// Each appends its features, always the same in the same order. The picture has at least 8 pixels on each
+/// side.
 void addToneFeatures(const PicturePlanes& planes, std::vector<PictureFeature>& features);
 void addBlockFeatures(const PicturePlanes& planes, std::vector<PictureFeature>& features);
 void addEdgeFeatures(const PicturePlanes& planes, std::vector<PictureFeature>& features);

@@ -14,7 +14,7 @@ namespace {
 
 static_assert(LayoutDescriptor::kSide == FeaturePrint::kTileSide);
 
-/// Whether there is more to see than noise on a plain ground.
+/// Whether there is more to see than noise on a plain background.
 bool hasStructure(const std::vector<float>& grey)
 {
     constexpr double kLeastDeviation = 2;

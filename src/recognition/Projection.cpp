@@ -17,7 +17,7 @@ constexpr std::size_t kLength = FeaturePrint::kLength;
 float fromHalf(std::uint16_t half)
 {
     constexpr std::uint32_t kSign = 0x8000;
-    // A float keeps three more bits of exponent, which starts 112 lower.
+    // A float has three more exponent bits, and its bias is 112 higher.
     const std::uint32_t bits = (half & kSign) << 16 | (half & ~kSign) << 13;
     return std::bit_cast<float>(bits) * 0x1p112F;
 }

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <span>
 
-/// The matrix that was learnt, as it lies in the program: half-precision floats, little-endian. One row of
-/// FeaturePrint::kLength for each number of the descriptor, then one that is added to the sum.
+/// The learnt matrix, embedded in the program: half-precision floats, little-endian. One row of
+/// FeaturePrint::kLength per number of the descriptor, then one row of offsets.
 namespace orlen::ProjectionMatrix {
 
 inline constexpr std::size_t kRows = LayoutDescriptor::kLength + 1;

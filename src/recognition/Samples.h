@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-/// A tiny picture in each format of a library, in the program itself.
+/// A tiny picture in each supported format, embedded in the program.
 namespace orlen::Samples {
 
 [[nodiscard]] std::vector<std::span<const std::uint8_t>> all();

@@ -10,19 +10,19 @@
 
 namespace orlen {
 
-/// A small convolutional network that turns a picture into probabilities of its kinds. Any thread; one
-/// picture at a time, the others wait.
+/// A small convolutional network that gives the probability of each kind of picture. Any thread; pictures are
+/// processed one at a time.
 class SmallNetwork {
 public:
-    /// Nothing for what is no network in ONNX form.
+    /// Nothing if this is not a network in ONNX form.
     [[nodiscard]] static std::optional<SmallNetwork> read(std::span<const std::uint8_t> onnx);
 
     ~SmallNetwork();
     SmallNetwork(SmallNetwork&& other) noexcept;
     SmallNetwork& operator=(SmallNetwork&& other) noexcept;
 
-    /// One probability per class, adding up to 1. Nothing for an empty picture, or when the network does not
-    /// fit it.
+    /// One probability per class, summing to 1. Nothing for an empty picture, or if the network does not fit
+    /// it.
     [[nodiscard]] std::optional<std::vector<float>> probabilities(const RgbImage& image) const;
 
 private:

@@ -41,7 +41,7 @@ scmp_arg_cmp lacks(unsigned argument, std::uint64_t bits)
 }
 
 constexpr int kAllowed[] = {
-    // What is open.
+    // Open files.
     SCMP_SYS(read), SCMP_SYS(readv), SCMP_SYS(pread64), SCMP_SYS(write), SCMP_SYS(writev), SCMP_SYS(lseek),
     SCMP_SYS(_llseek), SCMP_SYS(fstat), SCMP_SYS(fstat64), SCMP_SYS(close), SCMP_SYS(dup), SCMP_SYS(poll),
     SCMP_SYS(ppoll), SCMP_SYS(fadvise64),
@@ -64,12 +64,12 @@ std::vector<Limited> limitedCalls()
         {SCMP_SYS(recvmsg), {is(0, kSocket)}},
         {SCMP_SYS(sendto), {is(0, kSocket), is(4, 0)}}, // to nobody else
         {SCMP_SYS(shutdown), {is(0, kSocket)}},
-        // No new code: nothing decodes with code that it writes itself (see ImageDecoder::prepare).
+        // No new code: decoders do not generate any (see ImageDecoder::prepare).
         {SCMP_SYS(mmap), {lacks(2, PROT_EXEC)}},
         {SCMP_SYS(mmap2), {lacks(2, PROT_EXEC)}},
         {SCMP_SYS(mprotect), {lacks(2, PROT_EXEC)}},
         {SCMP_SYS(clone), {has(0, kThread)}},
-        // The C library's way to ask about a descriptor.
+        // How the C library asks about a descriptor.
         {SCMP_SYS(newfstatat), {is(3, AT_EMPTY_PATH)}},
         {SCMP_SYS(tgkill), {is(0, static_cast<std::uint64_t>(::getpid()))}}, // abort()
         {SCMP_SYS(prlimit64), {is(0, 0), is(2, 0)}},                         // asks only
@@ -99,7 +99,7 @@ bool addAll(scmp_filter_ctx filter)
         if (!add(filter, call))
             return false;
     }
-    // What it starts lies behind a pointer, which no filter can follow: the C library then takes clone().
+    // Its arguments are behind a pointer, which no filter can follow; the C library then uses clone().
     return ::seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 }
 
@@ -112,7 +112,7 @@ struct Release {
 bool apply()
 {
     const std::unique_ptr<void, Release> filter(::seccomp_init(SCMP_ACT_ERRNO(EPERM)));
-    // A tree instead of a list: a picture needs thousands of calls.
+    // A tree instead of a list, since a picture needs thousands of calls.
     constexpr std::uint32_t kTree = 2;
     return filter && ::seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS) == 0 &&
            ::seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 &&

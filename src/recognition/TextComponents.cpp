@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-// Texture of a photo makes far more components than any page has; those beyond tell nothing new.
+// The texture of a photo has far more components than any page; further ones add no information.
 constexpr std::size_t kMost = 6000;
 
 bool areNeighbours(const cv::Rect& left, const cv::Rect& right)
@@ -50,7 +50,7 @@ std::vector<TextComponents::Line> TextComponents::lines(std::vector<cv::Rect> co
     std::sort(components.begin(), components.end(),
               [](const cv::Rect& a, const cv::Rect& b) { return a.x != b.x ? a.x < b.x : a.y < b.y; });
     std::vector<Line> lines;
-    // Only lines whose end is near can go on; the others are left behind as the sweep goes right.
+    // Only lines that end nearby can continue; the others are left behind as the sweep moves right.
     std::vector<std::size_t> open;
     for (const cv::Rect& component : components) {
         std::erase_if(open, [&](std::size_t i) {

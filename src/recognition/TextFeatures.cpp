@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kRealLine = 3; // components
 
-/// The names of one polarity's features, in the order of their values.
+/// The feature names of one polarity, in the order of their values.
 using Names = std::array<std::string_view, 11>;
 constexpr Names kDarkNames = {"dark pairs",         "dark lines",         "dark line length",
                               "dark on lines",      "dark letter height", "dark height spread",
@@ -46,7 +46,7 @@ Heights heightsOf(const std::vector<TextComponents::Line>& lines)
     return {median, sum / static_cast<double>(heights.size()) / median};
 }
 
-/// Share of the lines that begin where the most begin.
+/// Share of the lines that start at the most common position.
 double aligned(const std::vector<TextComponents::Line>& lines, int width)
 {
     std::vector<int> starts(static_cast<std::size_t>(width / 4) + 2, 0);

@@ -19,7 +19,7 @@ std::size_t binOf(const cv::Vec3b& pixel)
     return static_cast<std::size_t>(bin);
 }
 
-/// How many colours there are and how much of the picture the commonest have.
+/// The number of colours, and how much of the picture the most common ones cover.
 void addColours(const PicturePlanes& planes, std::vector<PictureFeature>& features)
 {
     std::vector<int> counts(kBins, 0);
@@ -94,7 +94,7 @@ void addGreys(const PicturePlanes& planes, std::vector<PictureFeature>& features
     features.push_back({"grey deviation", static_cast<float>(deviation[0])});
 }
 
-/// Hues of the coloured pixels in twelve sectors, by which channels are the largest and the smallest.
+/// Hues of coloured pixels in twelve sectors, by their largest and smallest channels.
 float huesOf(const PicturePlanes& planes)
 {
     std::array<int, 12> sectors{};

@@ -17,7 +17,7 @@ constexpr std::uint32_t kMostTrees = 100'000;
 constexpr std::size_t kNodeSize = 8; // bytes
 constexpr std::uint16_t kLeaf = 0xFFFF;
 
-/// Takes numbers from the front of a table; past its end it gives zeros and remembers.
+/// Reads numbers from the front of a table; past its end it returns zeros and remembers that.
 class Reader {
 public:
     explicit Reader(std::span<const std::uint8_t> bytes) : m_bytes(bytes) {}
@@ -51,7 +51,7 @@ bool hasMagic(Reader& reader)
 
 } // namespace
 
-/// Branches lead forward only, so that every walk down the tree ends.
+/// Branches only lead forward, so that every descent ends.
 std::optional<TreeEnsemble::Tree> TreeEnsemble::checked(Tree tree, std::size_t features)
 {
     for (std::size_t i = 0; i < tree.size(); ++i) {

@@ -8,19 +8,19 @@
 
 namespace orlen {
 
-/// Boosted decision trees that turn the features of a picture into probabilities of its kinds. Any thread.
+/// Boosted decision trees that turn a picture's features into the probability of each kind. Any thread.
 ///
-/// The table, little-endian: "OTRE", then 32-bit numbers of the version (1), the features, the classes and
-/// the trees; one 32-bit float per class to start from; then each tree, the classes in turn: the 32-bit
-/// number of its nodes and the nodes, 8 bytes each. A node is a 16-bit feature, a 16-bit index of its right
-/// branch and a 32-bit float. Values up to the float go to the left branch, which is the next node; feature
-/// 65535 is a leaf, whose float is added to the class.
+/// The table, little-endian: "OTRE", then 32-bit numbers: version (1), features, classes, trees; one 32-bit
+/// float per class to start from; then each tree, cycling through the classes: the 32-bit number of its
+/// nodes, then the nodes, 8 bytes each. A node is a 16-bit feature, a 16-bit index of its right branch and a
+/// 32-bit float. Values up to the float go left, to the next node; feature 65535 marks a leaf, whose float is
+/// added to the class.
 class TreeEnsemble {
 public:
-    /// Nothing for a table that is cut short, has more than it says, or points outside itself.
+    /// Nothing if the table is truncated, has trailing bytes, or points outside itself.
     [[nodiscard]] static std::optional<TreeEnsemble> read(std::span<const std::uint8_t> table);
 
-    /// One probability per class, adding up to 1. Nothing for another number of features than features().
+    /// One probability per class, summing to 1. Nothing unless there are exactly features() values.
     [[nodiscard]] std::optional<std::vector<float>> probabilities(std::span<const float> values) const;
 
     [[nodiscard]] std::size_t features() const { return m_features; }
@@ -39,7 +39,7 @@ private:
 
     std::size_t m_features = 0;
     std::vector<float> m_start; ///< per class
-    std::vector<Tree> m_trees;  ///< the classes in turn
+    std::vector<Tree> m_trees;  ///< cycling through the classes
 };
 
 } // namespace orlen

@@ -40,11 +40,11 @@ std::size_t allowedMemory(std::size_t wanted)
 
 bool prepare(std::size_t memory)
 {
-    // Libraries with threads of their own would each take an arena that never shrinks.
+    // Otherwise libraries with threads would each get an arena that never shrinks.
     ::mallopt(M_ARENA_MAX, 2);
     if (!orlen::ProcessLimits::apply({allowedMemory(memory), kProcessorTime}))
         return false;
-    // One picture at a time on one core: there is a process for each core.
+    // One picture at a time on one core: there is a process per core.
     cv::setNumThreads(1);
     orlen::ImageDecoder::prepare();
     return true;
@@ -52,7 +52,7 @@ bool prepare(std::size_t memory)
 
 int tryOut()
 {
-    // Before the libraries keep their own variables there.
+    // Before libraries store their own variables there.
     const bool isBare = environ == nullptr || *environ == nullptr;
     if (!prepare(kTrialMemory))
         return 1;
@@ -64,7 +64,7 @@ int tryOut()
 
 } // namespace
 
-/// The program that Orlen hands pictures to, through a socket that is its standard input.
+/// The program Orlen hands pictures to, through a socket that is its standard input.
 int main(int argc, char** argv)
 {
     if (argc == 2 && argv[1] == std::string_view(orlen::CageReport::kArgument))

@@ -103,7 +103,7 @@ constexpr Row kRows[] = {
     {caches, "{H}/snap/*/common/.cache"},
 };
 
-/// The path, or for one with a "*" component the paths with each child folder's name in its place.
+/// The path, or if it has a "*" component, the path of each child folder there.
 std::vector<std::string> withChildren(const std::string& path)
 {
     constexpr std::string_view kAny = "/*/";

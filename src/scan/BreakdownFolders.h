@@ -10,7 +10,7 @@ namespace orlen {
 class MountTable;
 struct Places;
 
-/// The folders whose sizes make up the storage breakdown.
+/// The folders behind the storage breakdown.
 namespace BreakdownFolders {
 
 struct Folder {
@@ -20,8 +20,8 @@ struct Folder {
     friend bool operator==(const Folder&, const Folder&) = default;
 };
 
-/// Every existing listed folder once, in the order of the list: one that is listed for two categories counts
-/// for the first. Folders on another file system than the home folder's are left out. Blocks on the disk.
+/// Every existing folder of the list once, in order; one listed for two categories counts for the first.
+/// Folders on other file systems than the home folder are left out. Blocks on the disk.
 [[nodiscard]] std::vector<Folder> find(const Places& places, const MountTable& mounts);
 
 } // namespace BreakdownFolders

@@ -10,19 +10,19 @@
 
 namespace orlen {
 
-/// One walked file.
+/// A file found by the walk, a candidate for several findings.
 struct Cand {
     std::string path;      ///< valid UTF-8
     std::int64_t size = 0; ///< allocated bytes
     TimePoint modified;
-    std::optional<FileStamp> stamp; ///< what stood under the path then
+    std::optional<FileStamp> stamp; ///< what the path referred to then
 
     friend bool operator==(const Cand&, const Cand&) = default;
 };
 
 /// The file as an entry of a finding.
 [[nodiscard]] FileEntry toEntry(const Cand& cand);
-/// The file as the kept one of a set; nothing when it is not known what stood there.
+/// The file as the kept one of a set; nothing without a stamp.
 [[nodiscard]] std::optional<KeptFile> toKept(const Cand& cand);
 
 } // namespace orlen

@@ -1,6 +1,7 @@
 #include "scan/FS.h"
 
 #include "platform/desktop/RecentDocuments.h"
+#include "platform/files/FileStatus.h"
 #include "platform/files/MountTable.h"
 #include "scan/tree/TreeMeasure.h"
 
@@ -8,19 +9,9 @@
 
 namespace orlen::FS {
 
-std::int64_t fileSize(const FileStatus& status)
-{
-    return status.allocatedBytes;
-}
-
 std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop)
 {
-    return allocatedSizes(std::span(&path, 1), stop).front();
-}
-
-std::vector<std::int64_t> allocatedSizes(std::span<const std::string> paths, const std::stop_token& stop)
-{
-    return measureTrees(paths, stop);
+    return measureTrees(std::span(&path, 1), stop).front();
 }
 
 std::optional<LastUse> lastUse(const std::string& path, const RecentDocuments& recent,
@@ -53,7 +44,7 @@ std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_v
                                const std::stop_token& stop, UnreadableFolders* unreadable)
 {
     std::vector<FileEntry> entries(paths.size());
-    // What is stamped was there before it was measured: what changes meanwhile no longer fits its stamp.
+    // Stamp before measuring: whatever changes meanwhile no longer matches its stamp.
     for (std::size_t i = 0; i < paths.size(); ++i) {
         if (const auto status = statusOf(paths[i]); status.ok()) {
             entries[i].modified = status.value().modified;

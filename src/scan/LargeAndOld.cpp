@@ -15,7 +15,7 @@ constexpr std::size_t kOldLimit = 400;
 constexpr std::int64_t kOldBytes = 10'000'000;
 constexpr std::chrono::seconds kOldAge{31'536'000}; // 365 days
 
-/// The largest entries first, at most `limit`; equal sizes keep their order.
+/// The largest entries, at most `limit`; ties keep their order.
 void keepLargest(std::vector<FileEntry>& entries, std::size_t limit)
 {
     std::stable_sort(entries.begin(), entries.end(),
@@ -35,7 +35,7 @@ std::vector<FileEntry> largeFiles(const std::vector<Cand>& cands, std::int64_t t
     return entries;
 }
 
-/// Files that were not changed for long and are not listed as large.
+/// Files that have not changed for long and are not listed as large.
 std::vector<FileEntry> unchangedFiles(const std::vector<Cand>& cands, const std::vector<FileEntry>& large,
                                       TimePoint cutOff)
 {
@@ -51,7 +51,7 @@ std::vector<FileEntry> unchangedFiles(const std::vector<Cand>& cands, const std:
     return entries;
 }
 
-/// Reads when the files were last opened and drops those opened since the cut-off.
+/// Looks up when files were last opened, and drops those opened since the cut-off.
 void dropRecentlyOpened(std::vector<FileEntry>& entries, TimePoint cutOff, const RecentDocuments& recent,
                         const std::stop_token& stop)
 {

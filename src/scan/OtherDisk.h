@@ -6,7 +6,7 @@
 
 namespace orlen {
 
-/// Notes on entries that lie on another disk than the home folder: what they free is freed there. Reads the
+/// Adds a note to entries on a different disk than the home folder: that disk gains the space. Reads the
 /// mount table; any thread.
 void noteOtherDisks(std::vector<Finding>& findings);
 

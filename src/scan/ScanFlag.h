@@ -4,12 +4,12 @@
 
 namespace orlen {
 
-/// The one way to cancel a scan. Any thread.
+/// Cancels a scan. Any thread.
 class ScanFlag {
 public:
     void cancel() { m_source.request_stop(); }
     [[nodiscard]] bool isCancelled() const { return m_source.stop_requested(); }
-    /// For the routines below the scan, which know no scan.
+    /// For code below the scan, which does not know about scans.
     [[nodiscard]] std::stop_token token() const { return m_source.get_token(); }
 
 private:

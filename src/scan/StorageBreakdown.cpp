@@ -18,7 +18,7 @@ namespace orlen {
 
 namespace {
 
-/// Adds up the files of each category; a file with several names counts once in a category.
+/// Adds up the files of each category; hard links count once per category.
 class CategorySums : public TreeVisitor {
 public:
     std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view /*name*/,
@@ -64,7 +64,7 @@ private:
 StorageBreakdown::Space StorageBreakdown::volume()
 {
     const Places& places = Places::current();
-    // The home folder's own file system is the one that a clean-up frees, be it the start-up volume or not.
+    // The home folder's file system is the one a clean-up frees, start-up volume or not.
     auto space = volumeSpace(places.isHomeUsable ? places.resolvedHome : places.volume);
     if (!space.ok())
         return {};
@@ -77,7 +77,7 @@ StorageBreakdown StorageBreakdown::compute(const std::stop_token& stop)
     PathMarks marks;
     std::vector<TreeRoot> roots;
     for (BreakdownFolders::Folder& folder : BreakdownFolders::find(Places::current(), *mounts)) {
-        // A listed folder inside another one counts for its own category only.
+        // A listed folder inside another counts for its own category only.
         marks.mark(folder.path, PathMarks::kSkip);
         roots.push_back({std::move(folder.path), static_cast<std::uint32_t>(folder.category)});
     }

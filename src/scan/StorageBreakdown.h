@@ -8,7 +8,7 @@
 
 namespace orlen {
 
-/// How the start-up volume's space is used. Empty until the first computation has finished.
+/// How the space of the start-up volume is used. Empty until computed.
 struct StorageBreakdown {
     std::int64_t total = 0; ///< capacity, bytes
     std::int64_t free = 0;  ///< available, bytes
@@ -18,13 +18,11 @@ struct StorageBreakdown {
         std::int64_t total = 0;
         std::int64_t free = 0;
     };
-    /// Capacity and free bytes of the file system that holds the home folder; zeros when it cannot tell.
-    /// Quick.
+    /// Capacity and free bytes of the home folder's file system; zeros if unknown. Quick.
     [[nodiscard]] static Space volume();
 
-    /// Measures all categories; `system` is what they do not explain, at least 0. Blocks on the disk: never
-    /// call from the main thread. A stopped computation returns sums that are too small: the caller drops
-    /// them.
+    /// Measures all categories; `system` is the rest, at least 0. Blocks on the disk: never call from the
+    /// main thread. If stopped, the sums are too small and the caller discards them.
     [[nodiscard]] static StorageBreakdown compute(const std::stop_token& stop = {});
 
     friend bool operator==(const StorageBreakdown&, const StorageBreakdown&) = default;

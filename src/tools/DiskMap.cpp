@@ -21,12 +21,12 @@ namespace {
 constexpr std::size_t kMostNodes = 60;
 constexpr std::string_view kSmallerItems = " smaller items";
 
-/// Adds up what lies below each child of the one root. The whole map is a single scan, so that a child that
-/// is a mounted server is known and left out before it is touched, and a hundred thousand children cost no
-/// more than their listing.
+/// Adds up what is below each child of the one root. The whole map is a single scan, so that a child that is
+/// a mounted server is known and skipped untouched, and a hundred thousand children cost no more than their
+/// listing.
 class ChildSums : public TreeVisitor {
 public:
-    /// A child folder's tag is the number of its node; all folders below it carry that on.
+    /// A child folder's tag is the index of its node; all folders below inherit it.
     std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                        std::uint32_t /*marks*/) override
     {

@@ -5,15 +5,15 @@
 
 namespace orlen {
 
-/// One rectangle of the disk map: a child of the folder shown, or all its smaller children together.
+/// One rectangle of the disk map: a child of the shown folder, or all its smaller children combined.
 struct TreeNode {
-    std::string name;      ///< file name; of the grouped node how many items it stands for
-    std::string path;      ///< absolute; of the grouped node the folder shown
-    std::int64_t size = 0; ///< allocated bytes, of a folder those of its whole tree
+    std::string name;      ///< file name; for the combined node, how many items it stands for
+    std::string path;      ///< absolute; for the combined node, the shown folder
+    std::int64_t size = 0; ///< allocated bytes, for a folder those of its whole tree
     bool isDir = false;
-    bool isOther = false; ///< stands for the smaller children
+    bool isOther = false; ///< the smaller children combined
 
-    /// Whether the map can go into it.
+    /// Whether the map can open it.
     [[nodiscard]] bool isEnterable() const { return isDir && !isOther; }
 
     friend bool operator==(const TreeNode&, const TreeNode&) = default;

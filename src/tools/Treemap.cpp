@@ -4,9 +4,8 @@
 #include <limits>
 #include <numeric>
 
-/// Values become rectangles row by row. A row lies along the shorter side of what is left of the area and
-/// takes values as long as they make its worst rectangle more square; then the rest of the area is laid out
-/// the same way.
+/// Values become rectangles row by row. A row runs along the shorter side of the remaining area and takes
+/// values as long as they make its worst rectangle more square; then the rest is laid out the same way.
 namespace orlen::Treemap {
 
 namespace {
@@ -16,13 +15,13 @@ struct Row {
     double sum = 0;
 };
 
-/// Rounding can use up the area before the last tiny value; it then gets a rectangle without extent.
+/// Rounding can use up the area before the last tiny value, whose rectangle is then empty.
 double quotient(double a, double b)
 {
     return b > 0 ? a / b : 0;
 }
 
-/// The row that begins with the first of the areas, along a side of that length.
+/// The row that starts with the first area, along a side of this length.
 Row firstRow(std::span<const double> areas, double side)
 {
     const double side2 = side * side;
@@ -42,7 +41,7 @@ Row firstRow(std::span<const double> areas, double side)
     return row;
 }
 
-/// Puts the row as a column at the left edge and returns what is left of the area.
+/// Puts the row as a column at the left edge and returns the remaining area.
 Rect placeColumn(std::span<const double> areas, double sum, const Rect& rest, std::vector<Rect>& rects)
 {
     const double width = quotient(sum, rest.height);

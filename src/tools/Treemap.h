@@ -7,8 +7,8 @@
 #include <span>
 #include <vector>
 
-/// A squarified treemap: rectangles whose areas are proportional to values, as square as can be. Lengths are
-/// in points, the origin is at the top left. Pure; any thread.
+/// A squarified treemap: rectangles with areas proportional to values, as close to squares as possible.
+/// Lengths are in points, with the origin at the top left. Pure; any thread.
 namespace orlen::Treemap {
 
 struct Point {
@@ -27,22 +27,22 @@ struct Rect {
     double width = 0;
     double height = 0;
 
-    /// The left and the upper edge belong to the rectangle, the right and the lower one do not.
+    /// Includes the left and top edges but not the right and bottom ones.
     [[nodiscard]] bool contains(Point point) const;
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
-/// How much narrower and lower than its view the map is.
+/// How much smaller than its view the map is, in both directions.
 inline constexpr double kInset = 12;
 
-/// One rectangle per value, in the order of the values, which are expected largest first. Zero rectangles
-/// when `area` is not larger than one point both ways, or no value is above zero.
+/// One rectangle per value, in the same order; values are expected largest first. All empty if `area` is at
+/// most one point in either direction or no value is positive.
 [[nodiscard]] std::vector<Rect> layout(std::span<const double> values, const Rect& area);
 
 /// The rectangles of the nodes in a view of that size.
 [[nodiscard]] std::vector<Rect> layout(std::span<const TreeNode> nodes, Size view);
 
-/// Number of the node under a point of the view.
+/// Index of the node at a point of the view.
 [[nodiscard]] std::optional<std::size_t> hit(std::span<const TreeNode> nodes, Point point, Size view);
 
 } // namespace orlen::Treemap

@@ -12,11 +12,11 @@ using Mark = PathTrie::Mark;
 /// "m" when the path is marked, "c" when its contents are, "mc" for both, "-" for neither.
 std::string answer(const PathTrie& trie, std::string_view path)
 {
-    PathTrie::Walk walk(trie);
+    PathTrie::Cursor cursor(trie);
     for (const std::string_view component : PathText::components(path))
-        walk.enter(component);
-    std::string text = walk.isMarked() ? "m" : "";
-    text += walk.areContentsMarked() ? "c" : "";
+        cursor.enter(component);
+    std::string text = cursor.isMarked() ? "m" : "";
+    text += cursor.areContentsMarked() ? "c" : "";
     return text.empty() ? "-" : text;
 }
 

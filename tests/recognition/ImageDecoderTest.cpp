@@ -135,7 +135,7 @@ TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
     };
     for (int orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(orientation);
-        const bool isLying = orientation > 4;
+        const bool isSideways = orientation > 4;
         const auto picture = decoded(encoded({.width = 800,
                                               .height = 600,
                                               .quarters = stored[orientation - 1],
@@ -144,9 +144,9 @@ TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
         ASSERT_TRUE(picture);
         EXPECT_EQ(picture->width, 800) << "as it is stored";
         EXPECT_EQ(picture->height, 600);
-        EXPECT_EQ(picture->upright(), (isLying ? PixelSize{600, 800} : PixelSize{800, 600}));
-        EXPECT_EQ(picture->small.width, isLying ? 384 : 512);
-        EXPECT_EQ(picture->small.height, isLying ? 512 : 384);
+        EXPECT_EQ(picture->upright(), (isSideways ? PixelSize{600, 800} : PixelSize{800, 600}));
+        EXPECT_EQ(picture->small.width, isSideways ? 384 : 512);
+        EXPECT_EQ(picture->small.height, isSideways ? 512 : 384);
         EXPECT_LE(difference(quartersOf(picture->small), kFour), kLossy);
     }
 }
@@ -161,20 +161,20 @@ TEST_F(ImageDecoderTest, aPictureIsCutToTheShapeThatIsWanted)
         std::optional<Quarters> quarters;
     };
     const Options wide{.width = 600, .height = 200, .format = ".jpg[Q=95]"};
-    Options lying = wide;
-    lying.orientation = 6;
+    Options sideways = wide;
+    sideways.orientation = 6;
     const Case cases[] = {
         {"a square of a wide one", encoded(wide), {50, 50}, {50, 50}, kFour},
         {"a wide one of a wide one", encoded(wide), {90, 20}, {90, 20}, kFour},
         {"an upright one of a wide one", encoded(wide), {20, 90}, {20, 90}, kFour},
         {"a square of one that is turned",
-         encoded(lying),
+         encoded(sideways),
          {60, 60},
          {60, 60},
          {{kBlue, kRed, kWhite, kGreen}}},
         {"the shape of what is wanted, not its size", encoded(wide), {1000, 2000}, {100, 200}, kFour},
         {"the same, as wide as it is",
-         encoded(lying),
+         encoded(sideways),
          {2000, 1000},
          {200, 100},
          {{kBlue, kRed, kWhite, kGreen}}},

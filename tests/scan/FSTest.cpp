@@ -43,7 +43,8 @@ TEST(FSTest, lastOpenedIsTheLaterOfAccessAndVisit)
     EXPECT_EQ(FS::lastOpened(home.path("missing"), RecentDocuments(), keeping), std::nullopt);
 
     const std::string number = std::to_string(statusOf(path).value().mount);
-    const MountTable noatime = MountTable::parse(number + " 0 0:1 / / rw,noatime - ext4 /dev/a rw\n");
+    const MountTable noatime =
+        MountTable::read(home.file("mountinfo", number + " 0 0:1 / / rw,noatime - ext4 /dev/a rw\n"));
     EXPECT_EQ(FS::lastOpened(path, RecentDocuments(), noatime), day - 240h) << "the modification time";
     EXPECT_EQ(FS::lastOpened(path, visited("2024-06-10T00:00:00Z"), noatime), day - 120h) << "the visit";
 }

@@ -3,10 +3,10 @@
 #include "clean/trash/TrashName.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/FolderEntries.h"
+#include "platform/text/LineText.h"
 #include "platform/text/PercentCoding.h"
 #include "platform/values/Uuid.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <optional>
 #include <string>
@@ -16,11 +16,11 @@ namespace orlen::DirectorySizes {
 namespace {
 
 constexpr const char* kFile = "directorysizes";
-/// What the file is called with a random identity behind it until it is whole.
+/// Until it is complete, the file has this name and a random suffix.
 constexpr std::string_view kBeside = "directorysizes.";
 constexpr std::size_t kLimit = 16'000'000;
 
-/// The file's text, empty when there is no file; nothing when it must be left alone.
+/// The file's text, empty if there is no file; nothing if it must be left alone.
 std::optional<std::string> read(int trash)
 {
     if (const auto status = statusAt(trash, kFile); !status.ok())
@@ -33,7 +33,7 @@ std::optional<std::string> read(int trash)
     return text;
 }
 
-/// The name at the end of a line; empty when the line is malformed.
+/// The name at the end of a line; empty if the line is malformed.
 std::string nameOf(std::string_view line)
 {
     const std::size_t space = line.rfind(' ');
@@ -59,7 +59,7 @@ void write(int trash, std::string_view text)
         (void)removeFileAt(trash, beside.c_str());
 }
 
-/// The lines whose items are still there, but for those of `leftOut`.
+/// The lines whose items still exist, except those of `leftOut`.
 std::string current(std::string_view text, int info, std::string_view leftOut)
 {
     return linesOf(text, [&](const std::string& name) { return name != leftOut && hasInfo(info, name); });
@@ -76,9 +76,8 @@ std::string linesOf(std::string_view text, const std::function<bool(const std::s
 {
     std::string kept;
     while (!text.empty()) {
-        const std::string_view line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
-        // Programs differ in what they encode, so names are compared as decoded.
+        const std::string_view line = LineText::takeLine(text);
+        // Programs differ in what they encode, so compare decoded names.
         if (isKept(nameOf(line)))
             kept.append(line).push_back('\n');
     }

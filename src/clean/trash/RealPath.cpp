@@ -24,7 +24,7 @@ bool isHidden(const std::string& folder)
     return text.find("/.") != std::string::npos;
 }
 
-/// Moves the components that do not exist from `folder` to `missing`, until `folder` does.
+/// Moves components from `folder` to `missing` until `folder` exists.
 Result<void> findExisting(std::string& folder, std::vector<std::string>& missing)
 {
     for (auto status = statusOf(folder); !status.ok(); status = statusOf(folder)) {
@@ -53,7 +53,7 @@ std::string RealPath::text() const
 
 Result<RealPath> RealPath::of(const std::string& path)
 {
-    // The kernel would read a path only up to its first zero byte, the safety rules read it all.
+    // The kernel would stop at the first NUL, the safety rules would not.
     if (path.find('\0') != std::string::npos)
         return Errno{EINVAL};
     if (!Places::current().isHomeUsable || Safety::isProtected(path))

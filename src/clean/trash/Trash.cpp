@@ -19,7 +19,7 @@ namespace orlen::Trash {
 
 namespace {
 
-/// Records tell whole seconds, cut towards the past, and file systems keep their own clock.
+/// Records have whole seconds, rounded down, and file systems have their own clock.
 constexpr std::chrono::seconds kClockSlack{2};
 
 std::vector<std::string> homeTrashes()
@@ -42,7 +42,7 @@ bool isInVolumeTrash(std::string_view path)
                        [](std::string_view part) { return part == ".Trash" || part.starts_with(".Trash-"); });
 }
 
-/// Whether the path lies in a Trash, is one, or holds the home Trash.
+/// Whether the path is inside a Trash, is one, or contains the home Trash.
 bool touchesTrash(const std::string& path)
 {
     const auto trashes = homeTrashes();
@@ -52,7 +52,7 @@ bool touchesTrash(const std::string& path)
            });
 }
 
-/// An item's name in the open Trash that holds it.
+/// An item's name and the open Trash that contains it.
 struct Location {
     TrashFolder trash;
     std::string name;
@@ -63,7 +63,7 @@ Result<Location> locate(const std::string& trashed)
     const std::string path = PathText::standardized(trashed);
     const std::string_view files = PathText::parent(path);
     const std::string_view trash = PathText::parent(files);
-    // A zero byte would end the path for the kernel, but not for the comparisons here.
+    // The kernel would stop at a NUL, the comparisons here would not.
     if (!path.starts_with('/') || path.find('\0') != std::string::npos ||
         PathText::lastComponent(files) != "files" || trash == "/")
         return Errno{EINVAL};
@@ -73,8 +73,8 @@ Result<Location> locate(const std::string& trashed)
     return Location{std::move(opened).value(), std::string(PathText::lastComponent(path))};
 }
 
-/// Whether the item under this name is the one that was moved there. The date in its info file is local time
-/// and means nothing to somebody who has travelled since: the file system's own times do.
+/// Whether the item with this name is the one that was moved there. The date in its info file is local time
+/// and useless after a trip across time zones, so the file system's own times are used.
 bool isSameItem(const Location& item, const std::string& original, const RealPath& real,
                 const Trash::Recognition& recognition)
 {
@@ -88,20 +88,19 @@ bool isSameItem(const Location& item, const std::string& original, const RealPat
     }
     if (recognition.identity)
         return found.value().lasting() == *recognition.identity;
-    // Whoever takes the name later also writes the info file later; without one, the move itself is dated.
+    // Whoever reuses the name also writes the info file later; without one, the move itself is dated.
     const TimePoint moved = item.trash.infoTime(item.name).value_or(found.value().changed);
     return moved <= recognition.noLaterThan + kClockSlack;
 }
 
-/// In whatever room is left, and then in the room that the program keeps back for this.
+/// First in the free space, then in the space reserved for this.
 Result<std::string> moveInto(const TrashFolder& trash, const TrashFolder::Incoming& entry)
 {
     return Reserve::withRoom(Reserve::Use::items,
                              [&] { return trash.moveIn(entry, std::chrono::system_clock::now()); });
 }
 
-/// The items whose places an info file may name: by their own path, or by the one their folders really lead
-/// to.
+/// The items an info file may refer to: by their own path, or by where their folders really lead.
 std::string placeNamedBy(const TrashInfo& info, const std::map<std::string, Trash::Sought>& items)
 {
     if (items.contains(info.path))
@@ -122,7 +121,7 @@ void findIn(const Result<TrashFolder>& trash, std::map<std::string, Trash::Sough
     trash.value().removeUnfinishedSizes();
     for (const std::string& name : trash.value().namesWithInfo()) {
         const auto info = trash.value().infoOf(name);
-        // The kill may have come between the making of the file and the writing of its text.
+        // The process may have been killed between creating the file and writing it.
         if (!info && trash.value().infoTime(name) >= begun - kClockSlack)
             trash.value().removeEmptyInfo(name);
         const auto item = info ? items.find(placeNamedBy(*info, items)) : items.end();
@@ -142,7 +141,7 @@ Result<TrashFolder> openHome()
     auto home = Reserve::withRoom(Reserve::Use::items, [] {
         return TrashFolder::open(Trash::homeFolder(), TrashFolder::Missing::make);
     });
-    // Somebody else's Trash, or something that is no folder: there is none that can be used.
+    // Somebody else's Trash, or not a folder: unusable.
     if (home.error() == EPERM || home.error() == ENOTDIR)
         return Errno{EXDEV};
     return home;
@@ -159,7 +158,7 @@ Result<std::string> moveIn(const std::string& path, std::optional<std::int64_t> 
     const std::string standard = PathText::standardized(path);
     if (touchesTrash(standard) || touchesTrash(real.value().text()))
         return Errno{EPERM};
-    // The history is text and could not tell where the item went.
+    // The history is text and could not hold where the item went.
     if (!PathText::isValidUtf8(homeFolder()) || !PathText::isValidUtf8(real.value().text()))
         return Errno{EILSEQ};
     const auto folder = real.value().openParent();

@@ -19,13 +19,12 @@ namespace {
 constexpr const char* kFiles = "files";
 constexpr const char* kInfo = "info";
 constexpr unsigned kPrivate = 0700;
-/// So many items of one name are refused rather than counted on: finding a free number takes longer each
-/// time.
+/// Most items of one name: finding a free number takes longer each time.
 constexpr int kAttempts = 100'000;
-/// A path has at most 4,096 bytes, three characters each when encoded; other programs may add lines.
+/// A path has at most 4,096 bytes, up to three characters each when encoded; other programs may add lines.
 constexpr std::size_t kInfoLimit = 64'000;
 
-/// The top folder of the volume whose Trash this is; empty for the home Trash.
+/// The top folder of this Trash's volume; empty for the home Trash.
 std::string topOf(std::string_view trash)
 {
     if (PathText::lastComponent(trash).starts_with(".Trash-"))
@@ -34,13 +33,13 @@ std::string topOf(std::string_view trash)
     return PathText::lastComponent(above) == ".Trash" ? std::string(PathText::parent(above)) : std::string();
 }
 
-/// Whether the entry is still what was shown, as far as that is known.
+/// Whether the entry is still what was shown, as far as known.
 bool isAsShown(const TrashFolder::Incoming& entry, const FileStatus& status)
 {
     return !entry.stamp || *entry.stamp == FileStamp::of(status);
 }
 
-/// Keeps writers off a file while it moves; a folder's contents move with it as they are.
+/// Keeps others from writing to a file while it moves. A folder's contents just move along.
 Result<FileLease> leaseOf(const TrashFolder::Incoming& entry, const FileStatus& status)
 {
     if (status.type != FileType::regular)
@@ -72,7 +71,7 @@ Result<UniqueFd> openPart(int trash, const char* name, TrashFolder::Missing miss
     return openUnlinkedFolderAt(trash, name);
 }
 
-/// Removes an info file that was just written, unless the name has come to stand for another one.
+/// Removes an info file that was just written, unless the name now belongs to another one.
 void takeBack(int folder, const std::string& infoName, int file)
 {
     const auto named = statusAt(folder, infoName.c_str());
@@ -81,8 +80,8 @@ void takeBack(int folder, const std::string& infoName, int file)
         (void)removeFileAt(folder, infoName.c_str());
 }
 
-/// Whether a rename that was answered with an error took place all the same: a network file system repeats a
-/// request whose answer was lost, and then finds nothing to rename.
+/// Whether a rename that reported an error happened anyway: a network file system repeats a request whose
+/// reply was lost, and then finds nothing to rename.
 bool hasMoved(const TrashFolder::Incoming& entry, const FileIdentity& identity, int files,
               const std::string& name)
 {
@@ -144,7 +143,7 @@ std::string TrashFolder::placeText(const Incoming& entry) const
 {
     if (m_top.empty())
         return entry.path;
-    // The volume may be mounted elsewhere tomorrow: its places are told from its top folder.
+    // The volume may be mounted elsewhere tomorrow, so places are relative to its top folder.
     return entry.realPath.substr(m_top.size() + 1);
 }
 
@@ -153,7 +152,7 @@ Result<std::string> TrashFolder::moveIn(const Incoming& entry, TimePoint now) co
     const auto folder = statusOfOpen(entry.folder);
     if (!folder.ok())
         return Errno{folder.error()};
-    // No rename crosses mounts; knowing it first spares an info file that would flash up in other programs.
+    // No rename crosses mounts; checking first avoids an info file that would flash up in other programs.
     if (folder.value().mount != m_filesStatus.mount)
         return Errno{EXDEV};
     const auto before = statusAt(entry.folder, entry.name.c_str());
@@ -164,7 +163,7 @@ Result<std::string> TrashFolder::moveIn(const Incoming& entry, TimePoint now) co
         return Errno{lease.error()};
     for (int attempt = 1; attempt <= kAttempts; ++attempt) {
         const std::string name = TrashName::candidate(entry.name, attempt);
-        // An item whose info file was lost still has its name.
+        // An item without its info file still has its name.
         if (holds(name))
             continue;
         const auto moved = moveAs(name, entry, now);
@@ -204,7 +203,7 @@ Result<void> TrashFolder::moveAs(const std::string& name, const Incoming& entry,
     return {};
 }
 
-/// The rename itself, of nothing but what was looked at before.
+/// The rename itself, of exactly what was checked before.
 Result<void> TrashFolder::renameIn(const std::string& name, const Incoming& entry,
                                    const FileStatus& before) const
 {
@@ -217,19 +216,19 @@ Result<void> TrashFolder::renameIn(const std::string& name, const Incoming& entr
     if (!moved.ok()) {
         if (hasMoved(entry, before.identity, m_files.get(), name))
             return {};
-        // EPERM is the word for what the rules forbid.
+        // EPERM is reserved for what the rules forbid.
         return Errno{moved.error() == EPERM ? EACCES : moved.error()};
     }
     const auto arrived = statusAt(m_files.get(), name.c_str());
     if (!arrived.ok() || arrived.value().identity == before.identity)
         return {};
-    // Somebody put another entry under the name in the last moment: it goes back to where it was.
+    // Somebody replaced the entry at the last moment: put it back.
     const auto back = renameNoReplaceAt(m_files.get(), name.c_str(), entry.folder, entry.name.c_str());
     return back.ok() ? Result<void>(Errno{ESTALE}) : Result<void>();
 }
 
-/// Whether the open folders still have the names under which the item's new path will be told. They have not
-/// when somebody removed the Trash as a whole or put another one in its place.
+/// Whether the open folders still have the names reported in the item's new path. They do not if somebody
+/// removed or replaced the whole Trash.
 bool TrashFolder::isStillNamed() const
 {
     const auto files = statusOf(PathText::join(m_path, kFiles));
@@ -320,7 +319,7 @@ Result<void> TrashFolder::moveOut(const std::string& name, int folder, const std
 {
     if (auto moved = renameNoReplaceAt(m_files.get(), name.c_str(), folder, newName.c_str()); !moved.ok())
         return moved;
-    // Nobody else takes the name while its info file is there, so what is removed is the item's own.
+    // Nobody else uses the name while its info file exists, so what is removed is the item's own.
     (void)removeFileAt(m_info.get(), TrashName::infoName(name).c_str());
     DirectorySizes::remove(m_trash.get(), m_info.get(), name);
     return {};

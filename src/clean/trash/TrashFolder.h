@@ -12,56 +12,56 @@
 
 namespace orlen {
 
-/// One Trash, its folders "files" and "info" held open: whatever happens to the names meanwhile, an item and
-/// its info file stay in the folders that were looked at. Any thread; blocks on the disk.
+/// One Trash with its folders "files" and "info" held open: whatever happens to their names, an item and its
+/// info file stay in the folders that were checked. Any thread; blocks on the disk.
 class TrashFolder {
 public:
-    /// An entry about to be moved in: a name in an open folder.
+    /// An entry to be moved in: a name in an open folder.
     struct Incoming {
         int folder = -1;
         std::string name;
-        std::string path;                  ///< where the info file says it was, absolute
-        std::string realPath;              ///< the same with the links among its folders resolved
-        std::optional<std::int64_t> bytes; ///< what it occupies; nothing when not known
-        std::optional<FileStamp> stamp;    ///< what must still stand there; nothing: whatever does
+        std::string path;                  ///< the original place for the info file, absolute
+        std::string realPath;              ///< the same with links among its folders resolved
+        std::optional<std::int64_t> bytes; ///< size on disk; nothing if unknown
+        std::optional<FileStamp> stamp;    ///< what must still be there; nothing: anything
     };
 
     enum class Missing { make, refuse };
 
-    /// The Trash whose folder `trash` was opened; `path` is how it is named to others. Folders that are
-    /// missing are made for the user alone. EPERM when any of the three belongs to somebody else, ENOTDIR
-    /// when "files" or "info" is anything but a folder.
+    /// The Trash in the open folder `trash`; `path` is its name for others. Missing folders are created
+    /// private. EPERM if any of the three belongs to somebody else, ENOTDIR if "files" or "info" is not a
+    /// folder.
     [[nodiscard]] static Result<TrashFolder> open(UniqueFd trash, std::string path, Missing missing);
-    /// By path, following a link of the user's that stands for the Trash itself.
+    /// By path, following a link of the user's in place of the Trash.
     [[nodiscard]] static Result<TrashFolder> open(const std::string& path, Missing missing);
 
-    /// Moves the entry in and returns its new path. EXDEV: it lies on another file system. ESTALE: something
-    /// else stands there than `stamp` tells. EBUSY: a program is writing to it. EACCES: the system refuses.
-    /// After a failure the entry is where it was and no info file of it is left.
+    /// Moves the entry in and returns its new path. EXDEV: other file system. ESTALE: not what `stamp`
+    /// describes. EBUSY: a program is writing to it. EACCES: the system refuses. On failure the entry stays
+    /// where it was, without an info file.
     [[nodiscard]] Result<std::string> moveIn(const Incoming& entry, TimePoint now) const;
 
-    /// The item's info with its place made absolute; nothing when there is none or it is not legible.
+    /// The item's info with an absolute path; nothing if it is missing or unreadable.
     [[nodiscard]] std::optional<TrashInfo> infoOf(const std::string& name) const;
-    /// Whether anything stands where the item's info file belongs.
+    /// Whether there is anything at the place of the item's info file.
     [[nodiscard]] bool hasInfo(const std::string& name) const;
     [[nodiscard]] bool holds(const std::string& name) const;
-    /// What stands under an item's name; ENOENT when nothing does.
+    /// The status of an item; ENOENT if there is none.
     [[nodiscard]] Result<FileStatus> statusOfItem(const std::string& name) const;
-    /// When the item's info file was written: by the file system's clock, whatever the file says. Nothing
-    /// when there is none.
+    /// When the item's info file was written, by the file system's clock, not by its content. Nothing if
+    /// there is none.
     [[nodiscard]] std::optional<TimePoint> infoTime(const std::string& name) const;
-    /// The names of all items that have an info file, whether they are there or not; in listing order.
+    /// The names of all items with an info file, existing or not, in listing order.
     [[nodiscard]] std::vector<std::string> namesWithInfo() const;
     [[nodiscard]] std::string pathOf(const std::string& name) const;
 
-    /// Removes an info file whose item is not there; does nothing when it is.
+    /// Removes an info file, but only if its item is missing.
     void removeInfoWithoutItem(const std::string& name) const;
-    /// The same for an info file that nothing was ever written to.
+    /// The same for an empty info file.
     void removeEmptyInfo(const std::string& name) const;
-    /// Removes what a killed rewriting of the sizes left behind.
+    /// Removes what an interrupted rewrite of the sizes left behind.
     void removeUnfinishedSizes() const;
 
-    /// Moves an item out to a free name in an open folder and removes its info file.
+    /// Moves an item to a free name in an open folder and removes its info file.
     [[nodiscard]] Result<void> moveOut(const std::string& name, int folder, const std::string& newName) const;
 
     /// Device of the folder that items are moved into.
@@ -78,7 +78,7 @@ private:
     void noteSize(const std::string& name, const Incoming& entry, TimePoint infoTime) const;
 
     std::string m_path;
-    std::string m_top; ///< top folder of the volume; empty for the home Trash, whose places are absolute
+    std::string m_top; ///< top folder of the volume; empty for the home Trash, which stores absolute paths
     UniqueFd m_trash;
     UniqueFd m_files;
     UniqueFd m_info;

@@ -1,5 +1,6 @@
 #include "clean/trash/TrashInfo.h"
 
+#include "platform/text/KeyFile.h"
 #include "platform/text/PercentCoding.h"
 
 #include <array>
@@ -10,9 +11,9 @@ namespace orlen {
 
 namespace {
 
-constexpr std::string_view kHeading = "[Trash Info]";
+constexpr std::string_view kGroup = "Trash Info";
 
-/// The number that the digits in `[at, at + length)` stand for; nothing when another character is among them.
+/// The number in `[at, at + length)`; nothing if any character is not a digit.
 std::optional<int> number(std::string_view text, std::size_t at, std::size_t length, int base)
 {
     int value = 0;
@@ -35,7 +36,7 @@ std::string localText(TimePoint time)
     return {text.data(), length};
 }
 
-/// Reads the form that `localText` writes; what other programs append to it (fractions, a zone) is ignored.
+/// Parses what `localText` writes; ignores what other programs append (fractions, a zone).
 std::optional<TimePoint> timeFromLocal(std::string_view text)
 {
     if (text.size() < 19 || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':' ||
@@ -47,7 +48,7 @@ std::optional<TimePoint> timeFromLocal(std::string_view text)
     const auto hour = number(text, 11, 2, 10);
     const auto minute = number(text, 14, 2, 10);
     const auto second = number(text, 17, 2, 10);
-    // Farther apart, the nanoseconds between two times would not fit into 64 bits.
+    // Times further apart would overflow 64 bits of nanoseconds.
     if (!year || !month || !day || !hour || !minute || !second || *year < 1900 || *year > 2190)
         return std::nullopt;
     if (*month < 1 || *month > 12 || *day < 1 || *day > 31 || *hour > 23 || *minute > 59 || *second > 59)
@@ -63,29 +64,11 @@ std::optional<TimePoint> timeFromLocal(std::string_view text)
     return std::chrono::system_clock::from_time_t(std::mktime(&local));
 }
 
-std::string_view nextLine(std::string_view& rest)
-{
-    const std::size_t end = rest.find('\n');
-    std::string_view line = rest.substr(0, end);
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
-
-/// The value of a "Key=Value" line of this key.
-std::optional<std::string_view> valueOf(std::string_view line, std::string_view key)
-{
-    if (!line.starts_with(key) || line.size() == key.size() || line[key.size()] != '=')
-        return std::nullopt;
-    return line.substr(key.size() + 1);
-}
-
 } // namespace
 
 std::string TrashInfo::text(std::string_view path, TimePoint deleted)
 {
-    std::string text(kHeading);
+    std::string text = "[" + std::string(kGroup) + "]";
     text += "\nPath=" + PercentCoding::encoded(path);
     text += "\nDeletionDate=" + localText(deleted) + "\n";
     return text;
@@ -93,21 +76,19 @@ std::string TrashInfo::text(std::string_view path, TimePoint deleted)
 
 std::optional<TrashInfo> TrashInfo::parse(std::string_view text)
 {
-    while (!text.empty() && nextLine(text) != kHeading) {
-    }
     std::optional<std::string_view> path;
     std::optional<std::string_view> date;
-    while (!text.empty()) {
-        const std::string_view line = nextLine(text);
-        if (line.starts_with('['))
-            break;
-        if (!path)
-            path = valueOf(line, "Path");
-        if (!date)
-            date = valueOf(line, "DeletionDate");
+    KeyFile file(text, KeyFile::Spaces::kept);
+    while (const auto line = file.next()) {
+        if (line->group != kGroup)
+            continue;
+        if (line->key == "Path" && !path)
+            path = line->value;
+        if (line->key == "DeletionDate" && !date)
+            date = line->value;
     }
     auto decoded = PercentCoding::decoded(path.value_or(""));
-    // The kernel would read a path only up to its first zero byte.
+    // The kernel would stop at the first NUL.
     if (!decoded || decoded->empty() || decoded->find('\0') != std::string::npos)
         return std::nullopt;
     return TrashInfo{*std::move(decoded), date ? timeFromLocal(*date) : std::nullopt};

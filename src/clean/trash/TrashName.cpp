@@ -9,7 +9,7 @@ namespace orlen::TrashName {
 namespace {
 
 constexpr std::string_view kInfoSuffix = ".trashinfo";
-/// Bytes that a name in a folder may have on the usual file systems.
+/// Longest name on common file systems, in bytes.
 constexpr std::size_t kLongestName = 255;
 
 bool isInsideCharacter(char byte)
@@ -21,7 +21,7 @@ std::string_view cutBetweenCharacters(std::string_view text, std::size_t limit)
 {
     if (text.size() <= limit)
         return text;
-    // A character has at most three bytes behind its first; more of them are no text at all.
+    // A character has at most three continuation bytes; more are not text at all.
     std::size_t cut = limit;
     while (limit - cut < 3 && isInsideCharacter(text[cut]))
         --cut;
@@ -34,7 +34,7 @@ std::string shortened(std::string_view name, std::size_t limit)
         return std::string(name);
     const std::size_t extension = PathText::extension(name).size();
     const std::size_t dotted = extension == 0 ? 0 : extension + 1;
-    // An "extension" that fills half the name is a sentence with a dot in it.
+    // An "extension" longer than half the name is a sentence with a dot in it.
     if (dotted > limit / 2)
         return std::string(cutBetweenCharacters(name, limit));
     const std::string_view ending = name.substr(name.size() - dotted);

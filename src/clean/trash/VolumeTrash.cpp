@@ -11,18 +11,18 @@ namespace orlen::VolumeTrash {
 
 namespace {
 
-/// The permission bit that keeps users of a shared folder from touching each other's entries.
+/// The sticky bit keeps users of a shared folder from touching each other's entries.
 constexpr std::uint32_t kSticky = 01000;
 constexpr unsigned kPrivate = 0700;
 
-/// By device and mount: a btrfs subvolume that is not mounted has a device of its own, a bind mount has not,
-/// and a rename passes neither border.
+/// By device and mount: an unmounted btrfs subvolume has its own device, a bind mount does not, and a rename
+/// crosses neither.
 bool isSameVolume(const FileStatus& a, const FileStatus& b)
 {
     return a.identity.device == b.identity.device && a.mount == b.mount;
 }
 
-/// The highest folder on the way up that lies on the same volume.
+/// The topmost ancestor on the same volume.
 std::string topFolder(std::string path, const FileStatus& entryFolder)
 {
     while (path != "/") {
@@ -39,7 +39,7 @@ std::string topFolder(std::string path, const FileStatus& entryFolder)
 Result<TrashFolder> adopt(int parent, const std::string& name, const std::string& path,
                           const FileStatus& volume, TrashFolder::Missing missing)
 {
-    // An item must stay where the program may find it, and put it back from.
+    // Items must end up where the program is allowed to find them and put them back from.
     if (Safety::isProtected(PathText::join(path, "files/item")))
         return Errno{EXDEV};
     auto trash = missing == TrashFolder::Missing::make ? openOrMakeFolderAt(parent, name.c_str(), kPrivate)

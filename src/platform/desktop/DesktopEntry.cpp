@@ -1,7 +1,7 @@
 #include "platform/desktop/DesktopEntry.h"
 
 #include "platform/files/FileContent.h"
-#include "platform/text/LineText.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -10,17 +10,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::string_view kGroup = "[Desktop Entry]";
-
-std::string_view nextLine(std::string_view& text)
-{
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return LineText::trimmed(line);
-}
-
-/// What a letter behind a backslash stands for; the backslash stays before any other.
+/// What an escaped letter means; nothing if the backslash is literal.
 std::optional<char> escaped(char letter)
 {
     switch (letter) {
@@ -53,13 +43,13 @@ std::string withoutEscapes(std::string_view raw)
     return text;
 }
 
-/// Splits a command line into words. Double quotes are what the rules know; single ones are common all the
-/// same, and launchers that use them work on most desktops.
+/// Splits a command line into words. The standard only has double quotes; single ones are common and work on
+/// most desktops.
 class WordSplitter {
 public:
     explicit WordSplitter(std::string_view line) : m_line(line) {}
 
-    /// Empty when a quote is left open.
+    /// Empty if a quote is unclosed.
     std::vector<std::string> words()
     {
         for (m_at = 0; m_at < m_line.size(); ++m_at)
@@ -81,7 +71,7 @@ private:
             m_quote = c;
             m_hasWord = true;
         } else {
-            // Of "%%" one stands for itself; what other field codes stand for is left to the caller.
+            // "%%" is a literal percent sign; other field codes are left to the caller.
             if (isEscape(c) || (c == '%' && next() == '%'))
                 c = m_line[++m_at];
             m_word.push_back(c);
@@ -115,7 +105,7 @@ private:
     std::vector<std::string> m_words;
 };
 
-/// How many words at the start only prepare the environment of the program behind them.
+/// Number of words at the start that only set up the environment of the program.
 std::size_t preparingWords(const std::vector<std::string>& words)
 {
     if (words.empty() || PathText::lastComponent(words.front()) != "env")
@@ -136,23 +126,15 @@ std::size_t preparingWords(const std::vector<std::string>& words)
 std::optional<DesktopEntry> DesktopEntry::parsed(std::string_view text)
 {
     DesktopEntry entry;
-    bool isInGroup = false;
     bool hasGroup = false;
-    while (!text.empty()) {
-        const std::string_view line = nextLine(text);
-        if (line.starts_with('[') && line.ends_with(']')) {
-            isInGroup = line == kGroup;
-            hasGroup = hasGroup || isInGroup;
+    KeyFile file(text);
+    while (const auto line = file.next()) {
+        if (line->group != kGroup)
             continue;
-        }
-        const std::size_t equals = line.find('=');
-        // A byte 0 would end a path early wherever one is made of the value.
-        if (!isInGroup || line.starts_with('#') || equals == std::string_view::npos ||
-            line.find('\0') != std::string_view::npos)
-            continue;
-        const std::string_view key = LineText::trimmed(line.substr(0, equals));
-        if (!key.empty())
-            entry.m_values.emplace(key, LineText::trimmed(line.substr(equals + 1)));
+        hasGroup = true;
+        // A NUL would cut off a path made from the value.
+        if (!line->key.empty() && line->raw.find('\0') == std::string_view::npos)
+            entry.m_values.emplace(line->key, line->value);
     }
     return hasGroup ? std::optional(std::move(entry)) : std::nullopt;
 }

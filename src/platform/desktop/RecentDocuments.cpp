@@ -16,14 +16,14 @@ namespace {
 /// Parsing takes up to 16 times as much memory; real lists have a few megabytes.
 constexpr std::size_t kRecentListLimit = 16UL * 1024 * 1024;
 
-/// The path of "file:///p" or "file://localhost/p"; nothing for other machines and other schemes.
+/// The path of "file:///p" or "file://localhost/p"; nothing for other hosts and schemes.
 std::optional<std::string> pathOf(std::string_view reference, const Places& places)
 {
     for (const std::string_view start : {"file://", "file://localhost"}) {
         if (!reference.starts_with(start) || !reference.substr(start.size()).starts_with('/'))
             continue;
         const auto path = PercentCoding::decoded(reference.substr(start.size()));
-        // No path holds a zero byte.
+        // Paths contain no NUL.
         if (path && path->find('\0') == std::string::npos)
             return places.normalized(*path);
     }

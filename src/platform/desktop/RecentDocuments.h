@@ -11,19 +11,18 @@ namespace orlen {
 
 struct Places;
 
-/// When programs of the desktop last opened files, from the list "recently-used.xbel". Immutable after it was
-/// read; any thread.
+/// When files were last opened, according to the desktop's "recently-used.xbel". Immutable; any thread.
 class RecentDocuments {
 public:
     RecentDocuments() = default;
 
-    /// Reads the list; empty when it is missing, malformed or unreasonably large.
+    /// Reads the list; empty if it is missing, malformed or unreasonably large.
     [[nodiscard]] static RecentDocuments read(const std::string& file);
-    /// The user's list: in the data folder in force, or in its default place when there is none.
+    /// The user's list, from the data folder in use or else its default.
     [[nodiscard]] static RecentDocuments ofUser(const Places& places);
     [[nodiscard]] static RecentDocuments parse(std::string_view xml);
 
-    /// When the file was last opened by a program that tells the desktop; nothing when none did.
+    /// When a program last reported opening the file; nothing if none did.
     [[nodiscard]] std::optional<TimePoint> lastVisit(const std::string& path) const;
 
 private:

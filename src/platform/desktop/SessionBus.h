@@ -2,16 +2,16 @@
 
 #include <string_view>
 
-/// How this process finds the desktop's bus.
+/// How this process finds the session bus.
 namespace orlen::SessionBus {
 
 inline constexpr const char* kVariable = "DBUS_SESSION_BUS_ADDRESS";
-/// The address of no bus.
+/// An address that connects to no bus.
 inline constexpr std::string_view kNowhere = "disabled:";
 
-/// Where the session has no bus, keeps the libraries of this process from starting one, which would run on
-/// when the program has ended. Only this process is told: programs that it starts find their bus as they
-/// always do. Call it before any other thread runs and before the application object is made.
+/// If the session has no bus, keeps libraries in this process from starting one that would outlive the
+/// program. Programs it starts are not affected. Call it while there is only one thread and no application
+/// object.
 void startNone();
 
 /// Whether that was necessary.

@@ -1,16 +1,12 @@
 #include "platform/files/FileContent.h"
 
-#include "platform/files/Folder.h"
-#include "platform/files/FolderEntries.h"
 #include "platform/files/Reachability.h"
 #include "platform/files/Retrying.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <climits>
-#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -20,47 +16,6 @@ namespace orlen {
 namespace {
 
 constexpr int kReadFlags = O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-constexpr unsigned kPrivate = 0600;
-
-Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode)
-{
-    if (auto written = writeAll(file.get(), bytes); !written.ok())
-        return written;
-    // Not every file system knows modes: where none is asked for, none is set.
-    if (mode != kPrivate && ::fchmod(file.get(), mode) != 0)
-        return Errno{errno};
-    return syncFile(file.get());
-}
-
-/// Writes the bytes beside the path and lets `place(beside)` give the file its name.
-template <typename Place>
-Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
-{
-    if (auto reachable = Reachability::check(path); !reachable.ok())
-        return reachable;
-    // Two threads may write the same file: each writes its own.
-    static std::atomic<unsigned> counter{0};
-    const std::string beside =
-        path + std::string(kUnfinishedMark) + std::to_string(::getpid()) + "-" + std::to_string(++counter);
-    // A left-over of a killed process with the same number is the program's own and may go.
-    ::unlink(beside.c_str());
-    auto file = retriedFd([&] {
-        return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kPrivate);
-    });
-    if (!file.ok())
-        return Errno{file.error()};
-    auto written = writeSyncClose(std::move(file).value(), bytes, mode);
-    if (written.ok())
-        written = place(beside);
-    if (!written.ok()) {
-        ::unlink(beside.c_str());
-        return written;
-    }
-    // The rename itself must survive a power cut; where the folder cannot be synced the file is still whole.
-    if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
-        (void)::fsync(parent.value().get());
-    return {};
-}
 
 /// At most the first `limit` bytes.
 Result<std::string> readHead(int folder, const char* name, std::size_t limit)
@@ -96,8 +51,8 @@ Result<UniqueFd> openFile(const std::string& path)
 
 Result<UniqueFd> openFileAt(int folder, const char* name)
 {
-    // Opening a device can already start something (a tape rewinds): look first, then make sure that what was
-    // opened is what was looked at.
+    // Opening a device can have effects (a tape rewinds): check first, then verify that what was opened is
+    // what was checked.
     const auto before = statusAt(folder, name);
     if (!before.ok())
         return Errno{before.error()};
@@ -195,34 +150,6 @@ Result<std::string> linkEnd(const std::string& path)
 void announceSequentialRead(int file)
 {
     ::posix_fadvise(file, 0, 0, POSIX_FADV_SEQUENTIAL);
-}
-
-Result<void> replaceFile(const std::string& path, const std::string& bytes, unsigned mode)
-{
-    return writePlaced(path, bytes, mode, [&](const std::string& beside) -> Result<void> {
-        if (::rename(beside.c_str(), path.c_str()) != 0)
-            return Errno{errno};
-        return {};
-    });
-}
-
-Result<void> writeNewFile(const std::string& path, const std::string& bytes, unsigned mode)
-{
-    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
-        return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
-    });
-}
-
-Result<void> renameOwnFile(const std::string& path, const std::string& newPath)
-{
-    return renameNoReplaceAt(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str());
-}
-
-Result<void> removeOwnFile(const std::string& path)
-{
-    if (auto reachable = Reachability::check(path); !reachable.ok())
-        return reachable;
-    return removeFileAt(AT_FDCWD, path.c_str());
 }
 
 } // namespace orlen

@@ -13,55 +13,38 @@
 
 namespace orlen {
 
-/// Opens a regular file for reading: links are not followed, a FIFO or device is refused without waiting for
-/// it, and where the system allows it the access time stays. EINVAL for what is no regular file.
-/// Blocks on the disk; any thread.
+/// Opens a regular file for reading. Links are not followed, FIFOs and devices are refused without blocking
+/// on them, and the access time is kept where the system allows. EINVAL if it is not a regular file. Blocks
+/// on the disk; any thread.
 [[nodiscard]] Result<UniqueFd> openFile(const std::string& path);
 [[nodiscard]] Result<UniqueFd> openFileAt(int folder, const char* name);
 
 /// Reads up to `buffer.size()` bytes at `offset`; fewer only at the end of the file.
 [[nodiscard]] Result<std::size_t> readAt(int file, std::int64_t offset, std::span<std::byte> buffer);
 
-/// A run of bytes of a file.
+/// A range of bytes in a file.
 struct FileRange {
     std::int64_t start = 0;
-    std::int64_t end = 0; ///< the first byte behind it
+    std::int64_t end = 0; ///< one past the last byte
     friend bool operator==(const FileRange&, const FileRange&) = default;
 };
 
-/// The first run of bytes at or behind `offset` and before `length` that may hold anything but zeros; nothing
-/// when the rest is a hole. A file system that does not know holes takes all for data. `length` is the
-/// file's.
+/// The first range at or after `offset` that may hold anything but zeros; nothing when the rest of the file
+/// is a hole. A file system without holes reports everything as data. `length` is the length of the file.
 [[nodiscard]] Result<std::optional<FileRange>> nextData(int file, std::int64_t offset, std::int64_t length);
 
-/// The whole content of a file of at most `limit` bytes; EFBIG when it is longer.
+/// The whole content of a file of at most `limit` bytes; EFBIG if it is longer.
 [[nodiscard]] Result<std::string> readWholeFile(const std::string& path, std::size_t limit);
-/// The same; nothing when it cannot be read or is longer.
+/// The same; nothing if it cannot be read or is longer.
 [[nodiscard]] std::optional<std::string> readSmallFile(const std::string& path, std::size_t limit);
-/// At most the first `limit` bytes of a file relative to an open folder; nothing when it cannot be read.
+/// At most the first `limit` bytes of a file in an open folder; nothing if it cannot be read.
 [[nodiscard]] std::optional<std::string> readHeadAt(int folder, const char* name, std::size_t limit);
 
-/// Where the links lead that a name of the program's own may have been made; the path itself when it is no
-/// link, or missing. The result may not exist either. ELOOP for links in a circle.
+/// Follows a link, or a chain of them, to where it ends; the path itself if it is not a link or is missing.
+/// The result need not exist. ELOOP for a cycle.
 [[nodiscard]] Result<std::string> linkEnd(const std::string& path);
 
-/// Tells the system that the file will be read once from front to back.
+/// Tells the system that the file will be read once, front to back.
 void announceSequentialRead(int file);
-
-/// Between a file's name and the numbers of the process and the writing, until the file is whole.
-inline constexpr std::string_view kUnfinishedMark = ".new-";
-
-/// Replaces the program's own file `path` by `bytes`: written beside it, synced, renamed over it, so that a
-/// reader never sees half of it. The new file has `mode`. On failure the old file stays as it was.
-[[nodiscard]] Result<void> replaceFile(const std::string& path, const std::string& bytes,
-                                       unsigned mode = 0600);
-/// The same for a name that nothing has yet. EEXIST when it is taken, by a dangling link too.
-[[nodiscard]] Result<void> writeNewFile(const std::string& path, const std::string& bytes,
-                                        unsigned mode = 0600);
-/// Gives the program's own file a name that nothing has yet, in the same file system. EEXIST when it is
-/// taken.
-[[nodiscard]] Result<void> renameOwnFile(const std::string& path, const std::string& newPath);
-/// Removes the program's own file, or a link in its place; never a folder. ENOENT when there is none.
-[[nodiscard]] Result<void> removeOwnFile(const std::string& path);
 
 } // namespace orlen

@@ -15,7 +15,7 @@ Result<FileLease> FileLease::take(int folder, const char* name)
     if (!file.ok())
         return lease;
     lease.m_file = std::move(file).value();
-    // Somebody who waits for the file makes the kernel send a signal: one that is ignored by default.
+    // When somebody else opens the file the kernel sends a signal; choose one that is ignored by default.
     (void)::fcntl(lease.m_file.get(), F_SETSIG, SIGURG);
     if (::fcntl(lease.m_file.get(), F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN)
         return Errno{EBUSY};

@@ -5,12 +5,12 @@
 
 namespace orlen {
 
-/// Keeps others from opening a regular file for writing while it is held. Whoever tries waits until it is let
-/// go, so hold it for one rename and no longer. Only for files of the user's own on a local disk.
+/// While held, nobody can open the file for writing. Whoever tries waits until it is released, so hold it for
+/// one rename and no longer. Only for the user's own files on a local disk.
 class FileLease {
 public:
-    /// EBUSY: a program has the file open for writing. Where the file cannot be opened, or the file system
-    /// knows no leases, an empty lease that keeps nobody off. A link is not followed. Any thread.
+    /// EBUSY: a program has the file open for writing. If the file cannot be opened or the file system has no
+    /// leases, returns an empty lease that blocks nobody. A link is not followed. Any thread.
     [[nodiscard]] static Result<FileLease> take(int folder, const char* name);
     [[nodiscard]] static FileLease none() { return {}; }
 

@@ -8,12 +8,12 @@
 
 namespace orlen {
 
-/// An advisory lock on an empty file, held until destroyed. The file is made when it is missing and stays
-/// behind: to remove it would let two processes each hold a file of that name.
+/// An advisory lock on an empty file, held until destroyed. The file is created if missing and left behind:
+/// removing it would let two processes each lock a file of that name.
 class FileLock {
 public:
-    /// Takes the lock without waiting. EWOULDBLOCK when another process holds it; anything else tells why the
-    /// file cannot be made. A link in the last component is not followed.
+    /// Takes the lock without waiting. EWOULDBLOCK if another process holds it; any other errno says why the
+    /// file cannot be created. A link in the last component is not followed.
     [[nodiscard]] static Result<FileLock> take(const std::string& path);
 
 private:

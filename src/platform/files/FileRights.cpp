@@ -13,7 +13,7 @@ namespace orlen::FileRights {
 
 namespace {
 
-/// What is given up, as the kernel takes it. Headers are often older than the kernel that runs.
+/// What is given up, in the kernel's form. Headers are often older than the running kernel.
 struct Rights {
     std::uint64_t files = 0;
     std::uint64_t network = 0;
@@ -67,7 +67,7 @@ int giveUp(Exception exception)
     if (version < 1)
         return 0;
     const Rights rights = known(version);
-    // An older kernel takes a longer description whose end is zero.
+    // An older kernel accepts a longer structure if its end is zero.
     const UniqueFd rules(static_cast<int>(::syscall(SYS_landlock_create_ruleset, &rights, sizeof rights, 0)));
     if (!rules.isOpen() || (exception == Exception::processTable && !allowReading(rules, "/proc")))
         return 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Giving up the right to touch files by name. Descriptors that are open stay as they are.
+/// Gives up the right to touch files by name. Open descriptors keep working.
 namespace orlen::FileRights {
 
 enum class Exception {
@@ -8,9 +8,9 @@ enum class Exception {
     processTable, ///< reading below /proc stays allowed
 };
 
-/// From now on this thread, and each that it starts, can open, run, make, rename or remove nothing, cannot
-/// use TCP, and cannot signal other processes, each as far as this system's Landlock goes. Back comes the
-/// version of its Landlock; 0: nothing holds.
+/// From now on this thread, and any it starts, cannot open, run, create, rename or remove files, use TCP, or
+/// signal other processes, as far as this system's Landlock supports it. Returns the Landlock version; 0:
+/// nothing is enforced.
 [[nodiscard]] int giveUp(Exception exception = Exception::none);
 
 } // namespace orlen::FileRights

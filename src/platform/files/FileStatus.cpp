@@ -15,17 +15,17 @@ namespace orlen {
 
 namespace {
 
-// What the file system keeps in memory must do: no refresh from a server, no automount.
+// Cached attributes must do: no refresh from a server, no automount.
 constexpr int kFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
-/// Of the counts that the system gives, whatever the file system's own blocks are.
+/// The unit of the system's block counts, independent of the file system's own blocks.
 constexpr std::uint64_t kBlockSize = 512;
 constexpr unsigned kFields = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
 
 TimePoint toTimePoint(const statx_timestamp& stamp)
 {
     using namespace std::chrono;
-    // A file system's wilder dates are cut to the years 1900 to 2191: farther apart, the nanoseconds between
-    // two of them would not fit into 64 bits.
+    // Dates are capped to the years 1900 to 2191: further apart, their difference in nanoseconds would
+    // overflow 64 bits.
     constexpr std::int64_t kEarliest = -2'200'000'000;
     constexpr std::int64_t kLatest = 7'000'000'000;
     const std::int64_t whole = std::clamp<std::int64_t>(stamp.tv_sec, kEarliest, kLatest);

@@ -11,7 +11,7 @@ namespace orlen {
 
 enum class FileType { regular, folder, link, other };
 
-/// Device and file number: two names with the same identity are the same file.
+/// Device and inode number: two names with the same identity are the same file.
 struct FileIdentity {
     std::uint64_t device = 0;
     std::uint64_t number = 0;
@@ -27,34 +27,34 @@ struct FileIdentityHash {
     }
 };
 
-/// What identifies a file on its disk for good: file numbers are given to new files once the old are gone,
-/// and device numbers change with a restart.
+/// What identifies a file across restarts: inode numbers are reused once a file is gone, and device numbers
+/// change at boot.
 struct LastingIdentity {
     std::uint64_t number = 0;
-    std::optional<TimePoint> born; ///< when it was created, where the file system knows
+    std::optional<TimePoint> born; ///< creation time, where the file system keeps it
     friend bool operator==(const LastingIdentity&, const LastingIdentity&) = default;
 };
 
-/// What the file system tells of one name; a link is described itself, never what it points to.
+/// What the file system says about one name. A link is described itself, not its target.
 struct FileStatus {
     FileType type = FileType::other;
     std::int64_t allocatedBytes = 0; ///< bytes occupied on disk, at most `kMostBytes`
     std::int64_t length = 0;         ///< bytes of content
     FileIdentity identity;
-    std::uint64_t mount = 0; ///< number of the mount it was reached through, see MountTable
-    std::uint32_t links = 1; ///< names this file has
+    std::uint64_t mount = 0; ///< id of the mount it was reached through, see MountTable
+    std::uint32_t links = 1; ///< hard links to this file
     std::uint32_t mode = 0;  ///< permission bits
-    std::uint32_t owner = 0; ///< user number
+    std::uint32_t owner = 0; ///< user id
     TimePoint modified;
     TimePoint accessed;
-    TimePoint changed;             ///< last change of content, name or permissions; no program can set it
-    std::optional<TimePoint> born; ///< nothing where the file system does not keep it
+    TimePoint changed;             ///< last change of content, name or permissions; programs cannot set it
+    std::optional<TimePoint> born; ///< nothing where the file system does not record it
 
     [[nodiscard]] LastingIdentity lasting() const { return {identity.number, born}; }
 };
 
-/// What a name stood for at one moment, kept to tell later whether it still stands for the same: a folder by
-/// its identity, anything else also by its length and its time of change.
+/// What a name referred to at one moment, to tell later whether it still does: a folder by its identity,
+/// anything else also by length and time of change.
 struct FileStamp {
     FileType type = FileType::other;
     FileIdentity identity;
@@ -66,22 +66,22 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-/// Blocks on the disk; any thread. Links are not followed in the last component. ETIMEDOUT for a place on a
-/// mount that does not answer, here and wherever this folder takes a path: see Reachability.
+/// Blocks on the disk; any thread. A link in the last component is not followed. Like every function of this
+/// folder that takes a path: ETIMEDOUT if it lies on a mount that does not answer, see Reachability.
 [[nodiscard]] Result<FileStatus> statusOf(const std::string& path);
 /// The same for a name relative to an open folder.
 [[nodiscard]] Result<FileStatus> statusAt(int folder, const char* name);
 [[nodiscard]] Result<FileStatus> statusOfOpen(int fd);
 
-/// Whether the name itself exists, whatever a link of that name points to.
+/// Whether the name exists, even if it is a dangling link.
 [[nodiscard]] bool exists(const std::string& path);
 [[nodiscard]] bool isRealFolder(const std::string& path);
 
-/// Whether the user may move this entry to another folder: the parent is writable and searchable; in a sticky
-/// parent the user owns the entry or the parent; a folder must itself be writable, since moving it rewrites
-/// its ".."; the entry is no mount point. False for what is missing.
+/// Whether the user may move this entry to another folder: the parent is writable and searchable; if the
+/// parent is sticky, the user owns it or the entry; a folder is itself writable, since moving it rewrites its
+/// ".."; and the entry is not a mount point. False if it is missing.
 [[nodiscard]] bool isDeletable(const std::string& path);
-/// Whether the user may write to what the path names (links are followed, as when writing).
+/// Whether the user may write to the path; links are followed.
 [[nodiscard]] bool isWritable(const std::string& path);
 
 } // namespace orlen

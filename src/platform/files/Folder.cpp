@@ -46,7 +46,7 @@ Result<UniqueFd> openFolder(const std::string& path)
 Result<UniqueFd> openFolderAt(int parent, const char* name)
 {
     auto folder = retriedFd([&] { return ::openat(parent, name, kFolderFlags | O_NOATIME); });
-    // Only the owner may read without leaving a trace.
+    // Only the owner may read without updating the access time.
     if (!folder.ok() && folder.error() == EPERM)
         return retriedFd([&] { return ::openat(parent, name, kFolderFlags); });
     return folder;
@@ -104,7 +104,7 @@ Result<void> makeFolders(const std::string& path, unsigned mode)
     for (std::size_t slash = whole.find('/', 1);; slash = whole.find('/', slash + 1)) {
         const std::string folder = whole.substr(0, slash);
         if (::mkdir(folder.c_str(), mode) != 0 && errno != EEXIST) {
-            // A parent on a read-only or foreign file system may exist all the same.
+            // A parent on a read-only or foreign file system may exist anyway.
             const int error = errno;
             struct stat status {};
             if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))

@@ -12,20 +12,20 @@
 
 namespace orlen {
 
-/// Opens a folder for listing without following a link in the last component and, where the system allows it,
-/// without changing its access time. ENOTDIR or ELOOP for a link. Blocks on the disk; any thread.
+/// Opens a folder for listing. A link in the last component is not followed: ENOTDIR or ELOOP. The access
+/// time is kept where the system allows. Blocks on the disk; any thread.
 [[nodiscard]] Result<UniqueFd> openFolder(const std::string& path);
 [[nodiscard]] Result<UniqueFd> openFolderAt(int parent, const char* name);
 
-/// What a listing tells of a name without asking for more. `unknown`: the file system does not say.
+/// What a listing says about a name without a further call. `unknown`: the file system does not say.
 enum class EntryType { regular, folder, link, other, unknown };
 
 struct FolderEntry {
-    const char* name; ///< ends in a zero byte; lives as long as the chunk it came from
+    const char* name; ///< zero-terminated; lives as long as its chunk
     EntryType type;
 };
 
-/// One buffer full of a folder's entries, as the kernel packed them. "." and ".." are left out when reading.
+/// One buffer of a folder's entries, as packed by the kernel. "." and ".." are skipped.
 class FolderChunk {
 public:
     /// Calls `visit(FolderEntry)` for each entry in listing order.
@@ -46,14 +46,14 @@ private:
     std::size_t m_used = 0;
 };
 
-/// Reads an open folder chunk by chunk. The descriptor must outlive it.
+/// Reads an open folder chunk by chunk. The descriptor must outlive the reader.
 class FolderReader {
 public:
     explicit FolderReader(int folder) : m_folder(folder) {}
 
-    /// The next chunk; nothing at the end or when reading fails.
+    /// The next chunk; nothing at the end or on failure.
     [[nodiscard]] std::optional<FolderChunk> next();
-    /// Why reading failed; 0 when it did not.
+    /// The errno if reading failed, else 0.
     [[nodiscard]] int error() const { return m_error; }
 
 private:
@@ -61,17 +61,17 @@ private:
     int m_error = 0;
 };
 
-/// The names directly inside a folder, in listing order, without "." and ".."; empty when it cannot be read.
-/// A link in the last component is not followed.
+/// The names directly inside a folder, in listing order, without "." and ".."; empty if it cannot be read. A
+/// link in the last component is not followed.
 [[nodiscard]] std::vector<std::string> listNames(const std::string& folder);
 
 /// Whether the folder can be opened and listed.
 [[nodiscard]] bool isListable(const std::string& folder);
 
-/// Creates the folder and its missing parents, the new ones with `mode`. Ok when it exists already.
+/// Creates the folder and its missing parents with `mode`. Ok if it exists already.
 [[nodiscard]] Result<void> makeFolders(const std::string& path, unsigned mode);
 
-/// The path with all links resolved; empty when it does not exist.
+/// The path with all links resolved; empty if it does not exist.
 [[nodiscard]] std::string resolved(const std::string& path);
 
 } // namespace orlen

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kPlaceFlags = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
-/// The answer of a call that gives 0 or -1.
+/// The result of a call that returns 0 or -1.
 Result<void> outcome(int answer)
 {
     if (answer != 0)
@@ -32,7 +32,7 @@ Result<UniqueFd> openUnlinkedFolder(const std::string& path)
         return Errno{EINVAL};
     if (const auto reachable = Reachability::check(path); !reachable.ok())
         return Errno{reachable.error()};
-    // O_NOFOLLOW only speaks of the last component, so each is opened as the last one.
+    // O_NOFOLLOW only covers the last component, so open each component in turn.
     auto folder = openUnlinkedFolderAt(AT_FDCWD, "/");
     for (const std::string_view part : PathText::components(path)) {
         if (!folder.ok())
@@ -51,7 +51,7 @@ Result<UniqueFd> openOrMakeFolderAt(int parent, const char* name, unsigned mode)
 {
     if (::mkdirat(parent, name, mode) != 0 && errno != EEXIST) {
         const int error = errno;
-        // In a folder that nobody may write to, the name may exist all the same.
+        // The name may exist even in a folder nobody may write to.
         auto existing = openUnlinkedFolderAt(parent, name);
         return existing.ok() ? std::move(existing) : Result<UniqueFd>(Errno{error});
     }

@@ -10,7 +10,7 @@ namespace orlen {
 
 Result<FolderLock> FolderLock::take(const std::string& folder)
 {
-    // The user may have put the folder elsewhere with a link: "." opens what the link points to.
+    // The user may have moved the folder and left a link: "." opens its target.
     auto opened = openFolder(PathText::join(folder, "."));
     if (!opened.ok())
         return Errno{opened.error()};

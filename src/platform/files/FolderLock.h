@@ -8,11 +8,11 @@
 
 namespace orlen {
 
-/// An advisory lock on a folder itself, held until destroyed; no extra file is made.
+/// An advisory lock on the folder itself, without an extra file; held until destroyed.
 class FolderLock {
 public:
-    /// Takes the lock without waiting. EWOULDBLOCK when another process holds it, and only then; anything
-    /// else tells why the folder cannot be opened or its file system has no locks.
+    /// Takes the lock without waiting. EWOULDBLOCK only if another process holds it; any other errno says why
+    /// the folder cannot be opened or locked.
     [[nodiscard]] static Result<FolderLock> take(const std::string& folder);
 
 private:

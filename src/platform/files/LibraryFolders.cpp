@@ -13,7 +13,7 @@ namespace orlen::LibraryFolders {
 
 namespace {
 
-/// A folder that cannot be made: every call below it fails at once.
+/// A folder that cannot exist: every call below it fails at once.
 constexpr const char* kNowhere = "/dev/null";
 constexpr const char* kRuntime = "XDG_RUNTIME_DIR";
 
@@ -23,7 +23,7 @@ struct Base {
     std::vector<const char*> parts; ///< sub-folders that libraries use, which may be links or mounts
 };
 
-/// In a sandbox the libraries use other folders than the user's programs do.
+/// In a sandbox, libraries use other folders than the user's programs.
 std::string folderOf(const Base& base, const Places& places)
 {
     const char* value = std::getenv(base.variable);

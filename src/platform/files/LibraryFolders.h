@@ -4,13 +4,13 @@ namespace orlen {
 
 struct Places;
 
-/// The base folders as the libraries of this process see them: the toolkit, the fonts and the desktop's bus
-/// read and write there by themselves, and would wait for ever where nobody answers.
+/// The base folders as the libraries in this process see them. The toolkit, the fonts and the session bus
+/// read and write there on their own, and would hang on a mount that does not answer.
 namespace LibraryFolders {
 
-/// Points the variable of each base folder that does not answer, or whose parts that libraries use do not,
-/// to where nothing can be. What this process starts inherits that. Before any library looks and any thread
-/// is started, and after the places were read; waits as long as a probe at most for each folder.
+/// Redirects the variable of each base folder that does not answer, or whose parts used by libraries do not,
+/// to a place that cannot exist. Child processes inherit this. Call it after the places were read and before
+/// any library looks and any thread starts. Waits for at most one probe per folder.
 void leaveOutSilent(const Places& places);
 
 } // namespace LibraryFolders

@@ -21,22 +21,22 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// What the new process does: system calls only, as it is the copy of one thread among others.
+/// Runs in the new process, a copy of one thread among several: system calls only.
 [[noreturn]] void askAndEnd(const char* folder, pid_t parent)
 {
-    // Nobody is to be left behind that waits for ever, nor to hold a lock or a pipe of this program's.
+    // Leave nobody behind waiting forever or holding a lock or pipe of this program.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
         ::_exit(1);
     ::syscall(SYS_close_range, 0U, ~0U, 0U);
     struct statx status {};
-    // What the kernel remembers of a server says nothing of the server.
+    // What the kernel has cached says nothing about the server.
     (void)::statx(AT_FDCWD, folder, AT_STATX_FORCE_SYNC, STATX_BASIC_STATS, &status);
     (void)::open(folder, O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC);
     ::_exit(0);
 }
 
-/// Whether the folder answered. Waits for that as long as it takes.
+/// Whether the folder answered. Waits as long as it takes.
 bool isAnswered(const std::string& folder)
 {
     const pid_t self = ::getpid();
@@ -47,7 +47,7 @@ bool isAnswered(const std::string& folder)
         return false;
     int status = 0;
     const pid_t ended = retried([&] { return ::waitpid(child, &status, 0); });
-    // Where this process was told to leave its children alone, it learns of the end only.
+    // If this process ignores SIGCHLD, it only learns that the child ended.
     return ended != child || WIFEXITED(status);
 }
 
@@ -66,7 +66,7 @@ struct MountProbe::Question {
 
 MountProbe::MountProbe(std::string folder) : m_question(std::make_shared<Question>(std::move(folder))) {}
 
-/// Under the question's lock.
+/// Holds the question's lock.
 void MountProbe::putQuestion(const std::shared_ptr<Question>& question)
 {
     if (question->isAsked)
@@ -74,8 +74,8 @@ void MountProbe::putQuestion(const std::shared_ptr<Question>& question)
     question->isAsked = true;
     question->deadline = Clock::now() + kPatience;
     try {
-        // Of its own, since nothing may wait for a process without end. The process ends with the thread that
-        // started it, and so at the latest with the program.
+        // A separate thread, since nothing else may wait for a process indefinitely. The process ends with
+        // the thread that started it, so at the latest with the program.
         std::thread([question] {
             const bool hasAnswered = isAnswered(question->folder);
             const std::lock_guard guard(question->lock);

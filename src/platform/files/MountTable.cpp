@@ -1,25 +1,23 @@
 #include "platform/files/MountTable.h"
 
-#include "platform/files/FileContent.h"
 #include "platform/text/PathText.h"
 
+#include <libmount.h>
+
 #include <algorithm>
-#include <charconv>
-#include <fcntl.h>
-#include <optional>
+#include <memory>
 #include <span>
+#include <utility>
 
 namespace orlen {
 
 namespace {
 
-constexpr std::size_t kTableLimit = 16UL * 1024 * 1024;
-
-// A trailing star stands for any further text.
+// A trailing star matches any suffix.
 constexpr std::string_view kLocalTypes[] = {"ext2", "ext3",     "ext4", "xfs",    "btrfs",   "zfs",
                                             "f2fs", "bcachefs", "jfs",  "nilfs2", "reiserfs"};
 constexpr std::string_view kRemovableTypes[] = {"vfat", "exfat", "msdos", "ntfs*", "fuseblk", "hfs*", "udf"};
-/// Foreign, but nobody else has to answer for them.
+/// Foreign, but no server or program is behind them.
 constexpr std::string_view kAnsweringTypes[] = {
     "binder",   "binfmt_misc", "bpf",    "cgroup*", "configfs",  "debugfs", "devpts",     "devtmpfs",
     "ecryptfs", "efivarfs",    "erofs",  "fusectl", "hugetlbfs", "iso9660", "mqueue",     "nsfs",
@@ -35,67 +33,27 @@ bool isAmong(std::string_view type, std::span<const std::string_view> forms)
     });
 }
 
-bool isOctal(char c)
+struct TableDeleter {
+    void operator()(libmnt_table* table) const { mnt_unref_table(table); }
+};
+struct IteratorDeleter {
+    void operator()(libmnt_iter* iterator) const { mnt_free_iter(iterator); }
+};
+
+std::string textOrEmpty(const char* text)
 {
-    return c >= '0' && c <= '7';
+    return text == nullptr ? std::string() : std::string(text);
 }
 
-/// The kernel writes spaces, tabs, newlines and backslashes as a backslash and three octal digits.
-std::string unescaped(std::string_view text)
+Mount mountFrom(libmnt_fs* entry)
 {
-    std::string plain;
-    plain.reserve(text.size());
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const std::string_view digits = text.substr(at + 1, 3);
-        const bool isEscape = text[at] == '\\' && digits.size() == 3 && digits[0] <= '3' &&
-                              std::all_of(digits.begin(), digits.end(), isOctal);
-        if (!isEscape) {
-            plain.push_back(text[at]);
-            continue;
-        }
-        plain.push_back(
-            static_cast<char>((digits[0] - '0') * 64 + (digits[1] - '0') * 8 + (digits[2] - '0')));
-        at += digits.size();
-    }
-    return plain;
-}
-
-/// The pieces between the separators, empty ones included: a file system may have an empty source.
-std::vector<std::string_view> split(std::string_view text, char separator)
-{
-    std::vector<std::string_view> parts;
-    for (std::size_t start = 0;;) {
-        const std::size_t end = text.find(separator, start);
-        parts.push_back(text.substr(start, end - start));
-        if (end == std::string_view::npos)
-            return parts;
-        start = end + 1;
-    }
-}
-
-/// "36 35 98:0 /subtree /point rw,noatime master:1 - ext3 /dev/root rw": any number of fields before the
-/// dash.
-std::optional<Mount> parseLine(std::string_view line)
-{
-    constexpr std::size_t kFixedFields = 6;
-    const auto fields = split(line, ' ');
-    if (fields.size() < kFixedFields + 3)
-        return std::nullopt;
-    const auto dash = std::find(fields.begin() + kFixedFields, fields.end(), "-");
-    if (fields.end() - dash < 3)
-        return std::nullopt;
-
     Mount mount;
-    const std::string_view number = fields[0];
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), mount.id);
-    if (error != std::errc() || end != number.data() + number.size() || !fields[4].starts_with('/'))
-        return std::nullopt;
-    mount.subtree = unescaped(fields[3]);
-    mount.point = unescaped(fields[4]);
-    mount.type = unescaped(dash[1]);
-    mount.source = unescaped(dash[2]);
-    const auto options = split(fields[5], ',');
-    mount.keepsAccessTimes = std::find(options.begin(), options.end(), "noatime") == options.end();
+    mount.id = static_cast<std::uint64_t>(mnt_fs_get_id(entry));
+    mount.point = textOrEmpty(mnt_fs_get_target(entry));
+    mount.type = textOrEmpty(mnt_fs_get_fstype(entry));
+    mount.source = textOrEmpty(mnt_fs_get_source(entry));
+    const std::string options = textOrEmpty(mnt_fs_get_vfs_options(entry));
+    mount.keepsAccessTimes = mnt_optstr_get_option(options.c_str(), "noatime", nullptr, nullptr) != 0;
     mount.kind = MountTable::classify(mount.type);
     return mount;
 }
@@ -104,22 +62,18 @@ std::optional<Mount> parseLine(std::string_view line)
 
 MountTable MountTable::read(const std::string& file)
 {
-    // Relative to no folder: by path it would first be judged by the very table that is about to be read.
-    const auto text = readHeadAt(AT_FDCWD, file.c_str(), kTableLimit);
-    return text ? parse(*text) : MountTable();
-}
-
-MountTable MountTable::parse(std::string_view text)
-{
     MountTable table;
-    for (const std::string_view line : split(text, '\n')) {
-        auto mount = parseLine(line);
-        if (!mount)
+    const std::unique_ptr<libmnt_table, TableDeleter> entries(mnt_new_table_from_file(file.c_str()));
+    const std::unique_ptr<libmnt_iter, IteratorDeleter> place(mnt_new_iter(MNT_ITER_FORWARD));
+    libmnt_fs* entry = nullptr;
+    while (entries && place && mnt_table_next_fs(entries.get(), place.get(), &entry) == 0) {
+        Mount mount = mountFrom(entry);
+        if (!mount.point.starts_with('/'))
             continue;
-        const std::size_t place = table.m_mounts.size();
-        table.m_visible[mount->point] = place;
-        table.m_byId[mount->id] = place;
-        table.m_mounts.push_back(std::move(*mount));
+        const std::size_t index = table.m_mounts.size();
+        table.m_visible[mount.point] = index;
+        table.m_byId[mount.id] = index;
+        table.m_mounts.push_back(std::move(mount));
     }
     return table;
 }
@@ -159,7 +113,7 @@ bool MountTable::isSameFileSystem(std::string_view a, std::string_view b) const
         return false;
     if (first == second)
         return true;
-    // The source of a pseudo file system is only a word: every tmpfs may be called "tmpfs".
+    // The source of a pseudo file system is just a word: every tmpfs may be called "tmpfs".
     return first->kind != MountClass::foreign && first->type == second->type &&
            first->source == second->source;
 }
@@ -173,7 +127,7 @@ MountClass MountTable::classify(std::string_view type)
 
 bool MountTable::mayNotAnswer(std::string_view type)
 {
-    // A program of this machine serves this one, and may hang like any other.
+    // Served by a program on this machine, which may hang like any other.
     if (type == "fuseblk")
         return true;
     return classify(type) == MountClass::foreign && !isAmong(type, kAnsweringTypes);

@@ -8,50 +8,46 @@
 
 namespace orlen {
 
-/// What a mounted file system is to a clean-up.
+/// How a clean-up treats a mounted file system.
 enum class MountClass {
-    local,     ///< a disk of this machine: ext4, btrfs, xfs and their like
-    removable, ///< vfat, exfat, ntfs, fuseblk: measured when asked for, never walked
-    foreign,   ///< network, FUSE or pseudo: never entered; a dead server blocks every call
+    local,     ///< a disk of this machine: ext4, btrfs, xfs and so on
+    removable, ///< vfat, exfat, ntfs, fuseblk: measured on request, never walked
+    foreign,   ///< network, FUSE or pseudo: never entered, since a dead server blocks every call
 };
 
 struct Mount {
-    std::uint64_t id = 0; ///< as in FileStatus::mount
-    std::string point;    ///< absolute path, octal escapes decoded
-    std::string type;     ///< "ext4", "nfs4", "fuse.sshfs", …
-    std::string source;   ///< device or server, escapes decoded
-    std::string
-        subtree; ///< the part of the file system that is mounted: "/", or a btrfs subvolume, or a bind
+    std::uint64_t id = 0;         ///< as in FileStatus::mount
+    std::string point;            ///< absolute path
+    std::string type;             ///< "ext4", "nfs4", "fuse.sshfs", …
+    std::string source;           ///< device or server
     bool keepsAccessTimes = true; ///< false on a mount with "noatime"
     MountClass kind = MountClass::local;
 
     friend bool operator==(const Mount&, const Mount&) = default;
 };
 
-/// The mounted file systems at one moment. Immutable after it was read; any thread.
+/// The mounted file systems at one moment. Immutable; any thread.
 class MountTable {
 public:
-    /// Reads the kernel's table; empty when it cannot be read. Blocks only on that file.
+    /// Reads a table in the form of "/proc/self/mountinfo"; malformed lines are skipped. Empty if it cannot
+    /// be read.
     [[nodiscard]] static MountTable read(const std::string& file);
-    /// The same from the text of such a table; malformed lines are skipped.
-    [[nodiscard]] static MountTable parse(std::string_view text);
 
-    /// In the kernel's order: of two mounts on one point the later hides the earlier.
+    /// In the kernel's order: a later mount hides an earlier one on the same point.
     [[nodiscard]] const std::vector<Mount>& mounts() const { return m_mounts; }
-    /// The mount with this number; null when unknown.
+    /// The mount with this id; null if unknown.
     [[nodiscard]] const Mount* byId(std::uint64_t id) const;
-    /// The mount that holds a path by its text: the visible one with the longest point; null when there is
-    /// none.
+    /// The visible mount a path lies on, judged by its text; null if there is none.
     [[nodiscard]] const Mount* holding(std::string_view path) const;
-    /// The visible mounts strictly below a folder, by point.
+    /// The visible mounts strictly below a folder, sorted by point.
     [[nodiscard]] std::vector<const Mount*> below(std::string_view folder) const;
-    /// Whether two paths lie on the same file system: same type and source, so that the subvolumes of one
-    /// btrfs count as one although their device numbers differ.
+    /// Whether two paths lie on the same file system. Compares type and source, since the subvolumes of one
+    /// btrfs have different device numbers.
     [[nodiscard]] bool isSameFileSystem(std::string_view a, std::string_view b) const;
 
     [[nodiscard]] static MountClass classify(std::string_view type);
-    /// Whether a call on a file system of this type may wait for a server or a program that is gone. True for
-    /// what is not known: the disks of this machine and what the kernel itself makes up are.
+    /// Whether a call on a file system of this type may wait for a server or program that is gone. True for
+    /// unknown types; false for local disks and what the kernel itself provides.
     [[nodiscard]] static bool mayNotAnswer(std::string_view type);
 
 private:

@@ -1,19 +1,22 @@
 #include "platform/files/OwnFile.h"
 
-#include "platform/files/FileContent.h"
 #include "platform/files/Folder.h"
 #include "platform/files/FolderEntries.h"
+#include "platform/files/Reachability.h"
 #include "platform/files/Retrying.h"
+#include "platform/files/UniqueFd.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <charconv>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <random>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,6 +25,8 @@ namespace orlen::OwnFile {
 namespace {
 
 constexpr unsigned kMode = 0600;
+/// Between a file's name and the process and counter numbers, until the file is complete.
+constexpr std::string_view kUnfinishedMark = ".new-";
 
 Result<UniqueFd> openForWriting(const std::string& path, int flags)
 {
@@ -33,10 +38,48 @@ Result<UniqueFd> openForWriting(const std::string& path, int flags)
     return file;
 }
 
+Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode)
+{
+    if (auto written = writeAll(file.get(), bytes); !written.ok())
+        return written;
+    // Not every file system has modes: set one only if asked for.
+    if (mode != kMode && ::fchmod(file.get(), mode) != 0)
+        return Errno{errno};
+    return syncFile(file.get());
+}
+
+/// Writes the bytes beside the path, then has `place(beside)` rename the file.
+template <typename Place>
+Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    // Two threads may write the same file: each uses its own name.
+    static std::atomic<unsigned> counter{0};
+    const std::string beside =
+        path + std::string(kUnfinishedMark) + std::to_string(::getpid()) + "-" + std::to_string(++counter);
+    // A leftover of a killed process with the same number is the program's own.
+    ::unlink(beside.c_str());
+    auto file = retriedFd(
+        [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode); });
+    if (!file.ok())
+        return Errno{file.error()};
+    auto written = writeSyncClose(std::move(file).value(), bytes, mode);
+    if (written.ok())
+        written = place(beside);
+    if (!written.ok()) {
+        ::unlink(beside.c_str());
+        return written;
+    }
+    // The rename itself must survive a power cut. If the folder cannot be synced, the file is still intact.
+    if (const auto parent = openFolder(std::string(PathText::parent(path))); parent.ok())
+        (void)::fsync(parent.value().get());
+    return {};
+}
+
 constexpr std::string_view kDigits = "0123456789";
 
-/// Whether a name is one that a file has until it is whole, "NAME.new-PROCESS-NUMBER", and that process is no
-/// more.
+/// Whether this is the name of an incomplete file, "NAME.new-PROCESS-NUMBER", whose process is gone.
 bool isLeftOver(std::string_view name)
 {
     const std::size_t mark = name.rfind(kUnfinishedMark);
@@ -52,14 +95,55 @@ bool isLeftOver(std::string_view name)
     return isOurs && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
+std::string besideOf(const std::string& path, const std::string& name)
+{
+    return PathText::join(PathText::parent(path), name);
+}
+
 } // namespace
+
+Result<void> replace(const std::string& path, const std::string& bytes, unsigned mode)
+{
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+        return renameReplacingAt(AT_FDCWD, beside.c_str(), path.c_str());
+    });
+}
+
+Result<void> writeNew(const std::string& path, const std::string& bytes, unsigned mode)
+{
+    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+        return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
+    });
+}
+
+Result<void> rename(const std::string& path, const std::string& newName)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    const std::string newPath = besideOf(path, newName);
+    return renameNoReplaceAt(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str());
+}
+
+Result<void> renameOver(const std::string& path, const std::string& newName)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    return renameReplacingAt(AT_FDCWD, path.c_str(), besideOf(path, newName).c_str());
+}
+
+Result<void> remove(const std::string& path)
+{
+    if (auto reachable = Reachability::check(path); !reachable.ok())
+        return reachable;
+    return removeFileAt(AT_FDCWD, path.c_str());
+}
 
 Result<void> fill(const std::string& path, std::int64_t length)
 {
     const auto file = openForWriting(path, O_CREAT | O_APPEND);
     if (!file.ok())
         return Errno{file.error()};
-    // Zeros, or a hole, would take no room on a file system that compresses.
+    // Zeros or a hole would take no space on a compressing file system.
     std::mt19937_64 random(std::random_device{}());
     std::array<std::uint64_t, 8192> words{};
     std::array<char, sizeof(words)> bytes{};
@@ -85,25 +169,16 @@ Result<void> shorten(const std::string& path, std::int64_t length)
         return Errno{file.error()};
     if (retried([&] { return ::ftruncate(file.value().get(), length); }) != 0)
         return Errno{errno};
-    // Some file systems free the room only with their next commit.
+    // Some file systems free the space only at their next commit.
     (void)::fsync(file.value().get());
     return {};
-}
-
-Result<void> rename(const std::string& path, const std::string& newName)
-{
-    const auto folder = openUnlinkedFolder(std::string(PathText::parent(path)));
-    if (!folder.ok())
-        return Errno{folder.error()};
-    const std::string name(PathText::lastComponent(path));
-    return renameReplacingAt(folder.value().get(), name.c_str(), newName.c_str());
 }
 
 void removeUnfinished(const std::string& folder)
 {
     for (const std::string& name : listNames(folder)) {
         if (isLeftOver(name))
-            (void)removeOwnFile(PathText::join(folder, name));
+            (void)remove(PathText::join(folder, name));
     }
 }
 

@@ -41,7 +41,7 @@ std::string absoluteVariable(const char* name)
 std::string homeFolder(unsigned user)
 {
     std::string home = absoluteVariable("HOME");
-    // A home folder that does not answer is still the user's: no other one is looked for.
+    // A home folder that does not answer is still the user's: no other is looked for.
     if (!home.empty() && (!Reachability::admit(home).ok() || isListable(home + "/.")))
         return home;
     const passwd* entry = ::getpwuid(user);
@@ -56,7 +56,7 @@ bool isUsable(const std::string& home, const std::string& resolvedHome, unsigned
     return status.ok() && status.value().type == FileType::folder && status.value().owner == user;
 }
 
-/// Whether the folder is the user's own and holds the home folder.
+/// Whether the folder belongs to the user and contains the home folder.
 bool isPreparedRoot(const std::string& root, const Places& places)
 {
     const std::string real = resolved(root);
@@ -72,19 +72,18 @@ void moveSystemInto(const std::string& root, Places& places)
         path->insert(0, places.systemRoot);
     for (std::string* path : {&places.applications, &places.library})
         path->insert(0, root);
-    // Anything else would be moved about in what nobody has prepared.
+    // Otherwise files outside what was prepared would be moved.
     places.isHomeUsable = places.isHomeUsable && isPreparedRoot(root, places);
 }
 
-/// The folder that the variable names, in the form that rules compare; empty unless it lies below the home
-/// folder.
+/// The folder a variable names, in the form rules compare; empty unless it is below the home folder.
 std::string folderBelowHome(const char* name, const Places& places)
 {
     const std::string named = places.normalized(absoluteVariable(name));
     return named != places.home && PathText::isAtOrBelow(named, places.home) ? named : std::string();
 }
 
-/// The user's own folders, set or by default.
+/// The user's own folders, configured or default.
 Paths ownFolders(const Places& places)
 {
     Paths folders = places.userFolders();
@@ -94,8 +93,8 @@ Paths ownFolders(const Places& places)
     return folders;
 }
 
-/// Whether a moved folder equals one of the user's own, holds one or lies in one: what lies there is the
-/// user's, whatever a variable says.
+/// Whether a moved folder is one of the user's own, contains one or is inside one: then its contents are the
+/// user's, whatever the variable says.
 bool meetsOwnFolder(const std::string& path, const Places& places)
 {
     Paths spellings{path};
@@ -108,19 +107,19 @@ bool meetsOwnFolder(const std::string& path, const Places& places)
     });
 }
 
-/// The folder that the variable names when it lies below the home folder, then the default.
+/// The folder a variable names, if below the home folder, then the default.
 Paths baseFolders(const char* name, const Places& places, std::string_view standard)
 {
     Paths folders;
     const std::string moved = folderBelowHome(name, places);
-    // In a sandbox the variables point to the sandbox's own folders, not to the user's.
+    // In a sandbox the variables name the sandbox's folders, not the user's.
     if (!moved.empty() && !exists(places.systemRoot + "/.flatpak-info") && !meetsOwnFolder(moved, places))
         appendOnce(folders, moved);
     appendOnce(folders, PathText::join(places.home, standard));
     return folders;
 }
 
-/// The absolute folders of a list between colons.
+/// The absolute folders of a colon-separated list.
 Paths folderList(const char* name)
 {
     Paths folders;
@@ -144,7 +143,7 @@ void readSharedFolders(Places& places)
         places.sharedData = {places.systemRoot + "/usr/local/share", places.systemRoot + "/usr/share"};
 }
 
-/// "de_AT" of "de_AT.UTF-8@euro"; nothing for the locales that name no language.
+/// "de_AT" for "de_AT.UTF-8@euro"; nothing for locales without a language.
 std::optional<std::string> languageTag(std::string locale)
 {
     locale = locale.substr(0, locale.find_first_of(".@"));
@@ -178,7 +177,7 @@ void readUserFolders(Places& places)
         (void)Reachability::admit(config);
         if (const auto text = readSmallFile(config + "/user-dirs.dirs", kLimit)) {
             folders = UserDirs::parse(*text, places.home);
-            // Entries may spell the home folder with its links resolved.
+            // Entries may contain the resolved home folder.
             for (const auto& [key, folder] : UserDirs::parse(*text, places.resolvedHome))
                 folders.emplace(key, places.normalized(folder));
             break;
@@ -294,7 +293,7 @@ Places Places::fromEnvironment()
         moveSystemInto(root, places);
     places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
     readUserFolders(places);
-    // Once more, now that it is known which folders are the user's own.
+    // Again, now that the user's own folders are known.
     places.configs = baseFolders("XDG_CONFIG_HOME", places, ".config");
     places.caches = baseFolders("XDG_CACHE_HOME", places, ".cache");
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
@@ -303,7 +302,6 @@ Places Places::fromEnvironment()
     for (const Paths* folders : {&places.configs, &places.data})
         Reachability::askAhead(folders->front());
     places.languages = preferredLanguages();
-    places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     return places;
 }
 

@@ -19,7 +19,7 @@ namespace orlen::Reachability {
 namespace {
 
 constexpr const char* kKernelTable = "/proc/self/mountinfo";
-/// As many links as the kernel follows in one path.
+/// The kernel's own limit per path.
 constexpr int kMostLinks = 40;
 
 enum class Asking { whenNeeded, always, ahead };
@@ -45,7 +45,7 @@ struct Doubtful {
     }
 };
 
-/// By mount point. Usually small: a desktop mounts two or three such things outside the home folder.
+/// By mount point. Usually few: a desktop has two or three of these outside the home folder.
 using DoubtfulMounts = std::map<std::string, std::shared_ptr<Doubtful>, std::less<>>;
 
 std::shared_ptr<Doubtful> judgedLater(const Mount& mount, const std::string& home,
@@ -69,7 +69,7 @@ DoubtfulMounts doubtfulAmong(const MountTable& table, const std::string& home, c
 {
     DoubtfulMounts found;
     for (const Mount& mount : table.mounts()) {
-        // Of two mounts on one point the later one hides the earlier.
+        // A later mount hides an earlier one on the same point.
         found.erase(mount.point);
         if (MountTable::mayNotAnswer(mount.type))
             found.emplace(mount.point, judgedLater(mount, home, before));
@@ -77,7 +77,7 @@ DoubtfulMounts doubtfulAmong(const MountTable& table, const std::string& home, c
     return found;
 }
 
-/// The mounts of the last refresh. They are looked at for every path, so each thread keeps its own reference
+/// The mounts of the last refresh. They are consulted for every path, so each thread keeps its own reference
 /// and takes the lock only after a refresh.
 class Current {
 public:
@@ -120,8 +120,8 @@ Current& current()
 
 enum class Way { leads, breaksOff, isSilent };
 
-/// What a thread knows of the mounts, and the last folder that it has found reachable: paths come in runs
-/// from the same folder.
+/// A thread's copy of the mounts, and the last folder it found reachable: paths come in runs from the same
+/// folder.
 class Judge {
 public:
     Result<void> judge(const std::string& path, LastLink last, Asking asking)
@@ -156,7 +156,7 @@ private:
     {
         if (path.starts_with('/'))
             return path;
-        // The kernel knows this by heart: nothing is asked.
+        // The kernel answers this from memory.
         std::array<char, PATH_MAX> folder{};
         const char* here = ::getcwd(folder.data(), folder.size());
         return PathText::join(here == nullptr ? "/" : here, path);
@@ -168,7 +168,7 @@ private:
         return mount == m_mounts->end() || mount->second->mayEnter(asking);
     }
 
-    /// Goes along the path and puts where it leads, without links, into `place`.
+    /// Follows the path and puts its link-free form into `place`.
     Way follow(std::string_view path, Asking asking, std::string& place)
     {
         std::string_view rest = path;
@@ -207,7 +207,7 @@ private:
             std::array<char, PATH_MAX> target; // NOLINT(cppcoreguidelines-pro-type-member-init)
             const auto length = ::readlink(next.c_str(), target.data(), target.size());
             if (length < 0) {
-                // The kernel will come to the same end, and ask nobody on the way.
+                // The kernel will fail the same way without asking anybody.
                 if (errno != EINVAL)
                     return Way::breaksOff;
                 place = std::move(next);

@@ -7,7 +7,7 @@
 
 namespace orlen {
 
-/// Repeats a system call that a signal interrupted. The call answers -1 on failure.
+/// Repeats a system call while signals interrupt it. The call returns -1 on failure.
 template <typename Call>
 [[nodiscard]] auto retried(Call&& call)
 {
@@ -17,7 +17,7 @@ template <typename Call>
     return answer;
 }
 
-/// The same for calls that give a descriptor.
+/// The same for calls that return a descriptor.
 template <typename Call>
 [[nodiscard]] Result<UniqueFd> retriedFd(Call&& call)
 {

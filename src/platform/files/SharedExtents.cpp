@@ -16,13 +16,13 @@ namespace orlen {
 
 namespace {
 
-/// Lists the extents of an open file, a bounded number per system call. Nothing is written back first: an
-/// extent that is still on its way to the disk is not shared.
+/// Lists the extents of an open file, a bounded number per system call. Does not flush first: an extent still
+/// on its way to the disk is not shared.
 class ExtentReader {
 public:
     ExtentReader(int file, std::int64_t length) : m_file(file), m_end(static_cast<std::uint64_t>(length)) {}
 
-    /// The next extent that holds content; nothing behind the last one or when the file system cannot tell.
+    /// The next extent with content; nothing at the end or if the file system cannot tell.
     std::optional<fiemap_extent> next()
     {
         if (m_taken == m_listed.size() && !refill())
@@ -32,17 +32,17 @@ public:
         m_isLast = (extent.fe_flags & FIEMAP_EXTENT_LAST) != 0;
         return extent;
     }
-    /// Whether the listing ended because there is no more, not because of a failure.
+    /// Whether the listing ended because it was complete rather than failed.
     [[nodiscard]] bool isComplete() const { return !m_hasFailed; }
 
 private:
     static constexpr std::uint32_t kAtOnce = 128;
-    // No file in use has more; a map that never ends would be a defect of the file system.
+    // No real file has more; an endless map would be a bug of the file system.
     static constexpr int kMostCalls = 1 << 16;
 
     bool refill()
     {
-        // Blocks reserved behind the end of the content say nothing about the content.
+        // Blocks reserved past the end say nothing about the content.
         if (m_isLast || m_start >= m_end)
             return false;
         auto* map = new (m_buffer.data()) fiemap{};
@@ -70,7 +70,7 @@ private:
     alignas(fiemap) std::array<std::byte, sizeof(fiemap) + kAtOnce * sizeof(fiemap_extent)> m_buffer{};
 };
 
-/// Whether both tell a place on disk, and the same one.
+/// Whether both are at a known place on disk, and at the same one.
 bool isSamePlace(const fiemap_extent& a, const fiemap_extent& b)
 {
     constexpr std::uint32_t kNowhere = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DATA_INLINE;
@@ -84,7 +84,7 @@ bool haveSameExtents(ExtentReader& a, ExtentReader& b)
     for (bool isAnyShared = false;; isAnyShared = true) {
         const auto ofA = a.next();
         const auto ofB = b.next();
-        // Files without any extent occupy nothing that they could share.
+        // Files without extents have nothing to share.
         if (!ofA && !ofB)
             return isAnyShared && a.isComplete() && b.isComplete();
         if (!ofA || !ofB || !isSamePlace(*ofA, *ofB))
@@ -102,7 +102,7 @@ bool shareAllExtents(const std::string& a, const std::string& b)
         return false;
     const auto statusA = statusOfOpen(fileA.value().get());
     const auto statusB = statusOfOpen(fileB.value().get());
-    // Physical offsets count from the start of a disk: those of two disks may be equal by accident.
+    // Physical offsets are per disk: on two disks they may be equal by accident.
     if (!statusA.ok() || !statusB.ok() || statusA.value().length != statusB.value().length ||
         statusA.value().identity.device != statusB.value().identity.device)
         return false;

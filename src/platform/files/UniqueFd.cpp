@@ -7,7 +7,7 @@ namespace orlen {
 void UniqueFd::reset()
 {
     if (m_fd >= 0) {
-        // Not repeated on EINTR: Linux has given the number back by then, another thread may own it.
+        // Not retried on EINTR: Linux has already released the number, and another thread may own it.
         ::close(m_fd);
         m_fd = -1;
     }

@@ -4,7 +4,7 @@
 
 namespace orlen {
 
-/// Owns one file descriptor and closes it. Movable, not copyable; may be handed between threads.
+/// Owns a file descriptor and closes it. Movable, not copyable; may be passed between threads.
 class UniqueFd {
 public:
     UniqueFd() = default;
@@ -22,7 +22,7 @@ public:
     UniqueFd& operator=(const UniqueFd&) = delete;
     ~UniqueFd() { reset(); }
 
-    /// -1: owns nothing.
+    /// -1 if it owns none.
     [[nodiscard]] int get() const { return m_fd; }
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
     void reset();

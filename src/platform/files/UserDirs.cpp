@@ -1,6 +1,6 @@
 #include "platform/files/UserDirs.h"
 
-#include "platform/text/LineText.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
 
 #include <optional>
@@ -9,7 +9,7 @@ namespace orlen::UserDirs {
 
 namespace {
 
-/// The text between the quotes with backslashes taken out, as a shell would read it.
+/// The text between the quotes without backslashes, as a shell would read it.
 std::optional<std::string> unquoted(std::string_view text)
 {
     if (text.empty() || text.front() != '"')
@@ -28,8 +28,7 @@ std::optional<std::string> unquoted(std::string_view text)
 std::optional<std::string> folderOf(std::string_view quoted, std::string_view home)
 {
     const auto value = unquoted(quoted);
-    // No path holds a zero byte: the system would read one only up to it, which may be the home folder
-    // itself.
+    // The system would stop at a NUL, perhaps at the home folder itself.
     if (!value || value->find('\0') != std::string::npos)
         return std::nullopt;
     constexpr std::string_view kHome = "$HOME";
@@ -51,19 +50,14 @@ std::map<std::string, std::string> parse(std::string_view text, std::string_view
     constexpr std::string_view kStart = "XDG_";
     constexpr std::string_view kEnd = "_DIR";
     std::map<std::string, std::string> folders;
-    while (!text.empty()) {
-        const std::size_t lineEnd = text.find('\n');
-        const std::string_view line = LineText::trimmed(text.substr(0, lineEnd));
-        text.remove_prefix(lineEnd == std::string_view::npos ? text.size() : lineEnd + 1);
-        const std::size_t equals = line.find('=');
-        if (equals == std::string_view::npos)
-            continue;
-        const std::string_view key = LineText::trimmed(line.substr(0, equals));
+    KeyFile file(text);
+    while (const auto line = file.next()) {
+        const std::string_view key = line->key;
         if (!key.starts_with(kStart) || !key.ends_with(kEnd) || key.size() <= kStart.size() + kEnd.size())
             continue;
         const std::string name(key.substr(kStart.size(), key.size() - kStart.size() - kEnd.size()));
         folders.erase(name);
-        if (auto folder = folderOf(LineText::trimmed(line.substr(equals + 1)), home))
+        if (auto folder = folderOf(line->value, home))
             folders[name] = std::move(*folder);
     }
     return folders;

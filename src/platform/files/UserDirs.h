@@ -7,9 +7,9 @@
 /// The file "user-dirs.dirs", in which a desktop names the user's folders.
 namespace orlen::UserDirs {
 
-/// Key (for example "DOWNLOAD") to absolute path without a trailing slash. Lines that are not of the form
-/// XDG_KEY_DIR="$HOME/rel" or ="/abs" are ignored, as are entries equal to `home` (switched off) and entries
-/// outside it. A later line for a key replaces an earlier one.
+/// Maps keys such as "DOWNLOAD" to absolute paths without a trailing slash. Only lines of the form
+/// XDG_KEY_DIR="$HOME/rel" or ="/abs" count. Folders outside `home` are ignored, and so is `home` itself,
+/// which means switched off. The last line for a key wins.
 [[nodiscard]] std::map<std::string, std::string> parse(std::string_view text, std::string_view home);
 
 } // namespace orlen::UserDirs

@@ -7,17 +7,17 @@
 
 namespace orlen {
 
-/// What keeps a recognizer in, as it found by trying to get out.
+/// How well a recognizer is locked in, found by having it try to break out.
 struct CageReport {
     enum class Wall {
-        files,       ///< opening any
+        files,       ///< opening files
         calls,       ///< system calls that decoding does not need
         network,     ///< sockets of any kind
-        processes,   ///< starting others
-        others,      ///< looking into others, or ending them
-        code,        ///< running code that was not there when it started
-        environment, ///< variables it was given
-        memory,      ///< others that look into it, or keep what it held
+        processes,   ///< starting processes
+        others,      ///< inspecting or killing other processes
+        code,        ///< running code that was not loaded at start
+        environment, ///< inherited variables
+        memory,      ///< being inspected, or its memory outliving it
     };
     struct Attempt {
         Wall wall;
@@ -25,20 +25,20 @@ struct CageReport {
         bool isRefused = false;
     };
 
-    int landlock = 0; ///< version of the system's own; 0: none
+    int landlock = 0; ///< version of the system's Landlock; 0: none
     std::vector<Attempt> attempts;
 
-    /// Whether everything that was tried was refused.
+    /// Whether every attempt was refused.
     [[nodiscard]] bool holds(Wall wall) const;
 
-    /// As the recognizer prints it.
+    /// In the form the recognizer prints.
     [[nodiscard]] std::string encoded() const;
     [[nodiscard]] static std::optional<CageReport> decoded(std::string_view text);
 
-    /// Starts a recognizer that tries. Nothing when it cannot be started. Blocks; any thread.
+    /// Starts a recognizer that tries. Nothing if it cannot be started. Blocks; any thread.
     [[nodiscard]] static std::optional<CageReport> ask(const std::string& program);
 
-    /// The only argument of a recognizer that tries, prints this and ends.
+    /// The command-line argument that makes a recognizer try, print this and exit.
     static constexpr const char* kArgument = "--try";
 };
 

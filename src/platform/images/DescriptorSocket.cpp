@@ -11,7 +11,7 @@ namespace orlen::DescriptorSocket {
 
 namespace {
 
-/// A system's message whose bytes lie elsewhere, with room for descriptors.
+/// A system message that points to its bytes, with room for descriptors.
 struct SystemMessage {
     SystemMessage(char* bytes, std::size_t length) : part{bytes, length}
     {
@@ -43,7 +43,7 @@ std::vector<UniqueFd> filesOf(msghdr& header)
     return files;
 }
 
-/// A message of no bytes is the end; its length is told whatever fits into the buffer.
+/// An empty message means the end. The length is reported even if the buffer is too small.
 bool fits(ssize_t length, const std::string& buffer)
 {
     return length > 0 && static_cast<std::size_t>(length) <= buffer.size();
@@ -96,7 +96,7 @@ std::optional<std::string> receive(int socket, std::size_t limit)
 std::optional<Message> receiveWithFiles(int socket, std::size_t limit, std::chrono::milliseconds patience)
 {
     pollfd waiting{socket, POLLIN, 0};
-    // What came in the last moment is still read.
+    // Read what arrived at the last moment.
     if (retried([&] { return ::poll(&waiting, 1, static_cast<int>(patience.count())); }) == 0)
         ::shutdown(socket, SHUT_RD);
     std::string bytes(limit, '\0');

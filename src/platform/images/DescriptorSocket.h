@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-/// Messages and open files between two processes, over a socket that keeps messages apart.
+/// Exchanges messages and open files with another process, over a socket that preserves message boundaries.
 namespace orlen::DescriptorSocket {
 
 struct Pair {
@@ -21,13 +21,13 @@ struct Pair {
 
 [[nodiscard]] Result<Pair> makePair();
 
-/// Sends a message; waits while the other side is slow to read. False when nobody is there to read it.
+/// Sends a message; waits while the other side is slow to read. False if the other end is closed.
 [[nodiscard]] bool send(int socket, std::string_view message);
-/// Sends a message and open files with it. Never waits; false when nobody is there to take it.
+/// Sends a message with open files. Never waits; false if it cannot be delivered.
 [[nodiscard]] bool sendWithFiles(int socket, std::string_view message, std::span<const int> files);
 
-/// The message that is there. Nothing when there is none, the other end is closed, or it is longer than
-/// `limit` bytes. Never waits; files that come with it are dropped.
+/// The next message, without waiting. Nothing if there is none, the other end is closed, or it exceeds
+/// `limit` bytes. Files that come with it are dropped.
 [[nodiscard]] std::optional<std::string> receive(int socket, std::size_t limit);
 
 struct Message {
@@ -35,12 +35,11 @@ struct Message {
     std::vector<UniqueFd> files;
 };
 
-/// More of them are refused.
+/// Messages with more files are refused.
 inline constexpr std::size_t kMostFiles = 2;
 
-/// The message that comes next, with its files. Nothing when the other end is closed or it is longer than
-/// `limit` bytes. When none came for as long as the patience lasts, nothing either, and no further message
-/// can be sent to this end.
+/// The next message with its files. Nothing if the other end is closed or the message exceeds `limit` bytes;
+/// also after waiting for `patience`, and then this end accepts no further message.
 [[nodiscard]] std::optional<Message> receiveWithFiles(int socket, std::size_t limit,
                                                       std::chrono::milliseconds patience);
 

@@ -6,11 +6,11 @@
 
 namespace orlen {
 
-/// What a picture looks like, for telling how alike two of them are. Pure; any thread.
+/// Describes what a picture looks like, to tell how similar two pictures are. Pure; any thread.
 ///
-/// Two stages: a short vector of layout, colour and edge directions that survives re-encoding, resizing,
-/// cropping and light, and a high-passed grey tile in which the fine structure of one picture is looked up in
-/// the other. The second tells two receipts or two pages apart that share their layout.
+/// It has two parts: a short vector of layout, colour and edge directions, which survives re-encoding,
+/// resizing, cropping and changes of light; and a high-passed grey tile, used to look up the fine structure
+/// of one picture in another. The tile tells apart two receipts or pages that share a layout.
 class FeaturePrint {
 public:
     static constexpr int kTileSide = 128; ///< pixels
@@ -25,8 +25,8 @@ public:
     [[nodiscard]] const Tile& tile() const { return m_tile; }
 
 private:
-    Vector m_vector; ///< of length 1
-    Tile m_tile;     ///< 128 is no structure
+    Vector m_vector; ///< a unit vector
+    Tile m_tile;     ///< 128 means no structure
 };
 
 } // namespace orlen

@@ -41,7 +41,7 @@ void IdleWorkers::watch(const std::stop_token& stop)
         {
             const std::lock_guard lock(m_lock);
             waiting.push_back({m_changed.get(), POLLIN, 0});
-            // One that is taken, and its number given to something else, only wakes this for nothing.
+            // If a worker was taken and its descriptor number reused, this only wakes up for nothing.
             for (const Worker& worker : m_workers)
                 waiting.push_back({worker->socket(), 0, 0});
         }

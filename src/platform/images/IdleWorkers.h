@@ -11,14 +11,14 @@
 
 namespace orlen {
 
-/// Workers that wait for a picture. One that ends meanwhile leaves at once, so that nothing of it stays in
-/// the system's list of processes. Any thread; the first worker starts one that sleeps while they do.
+/// Workers waiting for a picture. One that exits meanwhile is removed at once, so that it does not stay
+/// behind as a zombie. Any thread; the first worker starts a thread that watches them.
 class IdleWorkers {
 public:
     using Worker = std::unique_ptr<ImageWorker>;
 
     void add(Worker worker);
-    /// The one that came last, which may have ended a moment ago; null when there is none.
+    /// The most recently added one, which may have just exited; null if there is none.
     [[nodiscard]] Worker take();
 
 private:

@@ -8,9 +8,9 @@
 
 namespace orlen {
 
-/// All that the photo analysis wants to know about one picture.
+/// What the photo analysis needs to know about a picture.
 struct ImageAnalysis {
-    int width = 0;  ///< pixels of the whole picture; 0 when unknown
+    int width = 0;  ///< pixels of the whole picture; 0 if unknown
     int height = 0; ///< as width
     std::optional<FeaturePrint> print;
     double sharpness = 0;           ///< see Sharpness

@@ -4,7 +4,7 @@
 
 namespace orlen {
 
-/// A word for what a picture shows.
+/// A label for what a picture shows.
 struct ImageLabel {
     std::string identifier;
     float confidence = 0; ///< 0 to 1

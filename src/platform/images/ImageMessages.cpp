@@ -19,7 +19,7 @@ constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
-/// The numbers of a print lie between -1 and 1, give or take an error of rounding.
+/// The numbers of a print are between -1 and 1, give or take a rounding error.
 constexpr float kLargestComponent = 1.01F;
 
 static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 2 + sizeof(FeaturePrint::Vector) +
@@ -47,7 +47,7 @@ private:
     std::string m_bytes;
 };
 
-/// Once something was missing or out of range, all that follows is.
+/// Once anything was missing or out of range, everything after it is.
 class Reader {
 public:
     explicit Reader(std::string_view bytes) : m_bytes(bytes) {}
@@ -76,7 +76,7 @@ public:
     }
     void require(bool holds) { m_isValid = m_isValid && holds; }
     [[nodiscard]] bool isValid() const { return m_isValid; }
-    /// Whether nothing was missing or out of range, and nothing is left.
+    /// Whether everything was valid and nothing is left over.
     [[nodiscard]] bool isValidWhole() const { return m_isValid && m_bytes.empty(); }
 
 private:
@@ -202,7 +202,7 @@ std::optional<Answer> decodedAnswer(std::string_view bytes)
         answer.analysis.emplace();
         answer.analysis->width = reader.get<std::int32_t>(0, kLongestWholeSide);
         answer.analysis->height = reader.get<std::int32_t>(0, kLongestWholeSide);
-        // The steepest picture there is stays far below.
+        // The sharpest possible picture stays far below.
         answer.analysis->sharpness = reader.get(0.0, 1e9);
         answer.analysis->print = print(reader);
         answer.analysis->labels = labels(reader);

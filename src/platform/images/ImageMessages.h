@@ -9,24 +9,24 @@
 #include <string>
 #include <string_view>
 
-/// What is asked of a recognizer, and what it says, as bytes. Both sides are the same build on the same
-/// machine, so numbers stand in memory order; but the recognizer reads untrusted pictures, so nothing that
-/// comes from it is believed unchecked. Pure; any thread.
+/// The messages to and from a recognizer, as bytes. Both sides are the same build on the same machine, so
+/// numbers are in native byte order. But the recognizer handles untrusted pictures, so its replies are fully
+/// checked. Pure; any thread.
 namespace orlen::ImageMessages {
 
-/// The first message: the recognizer has started. The number changes with the form of the messages.
+/// The first message: the recognizer is ready. The number changes with the message format.
 inline constexpr std::string_view kReady = "orlen-recognizer 3";
 
-/// No answer is longer, in bytes.
+/// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 32UL * 1024;
 inline constexpr std::size_t kMostLabels = 32;
 inline constexpr std::size_t kLongestIdentifier = 64; ///< bytes
-/// Of a picture that is asked for, in pixels.
+/// Of a requested picture, in pixels.
 inline constexpr int kLongestSide = 4096;
 
-/// Comes with the file of a picture. One that asks for a small picture brings a buffer for the pixels along.
+/// Accompanies the file of a picture. A request for a small picture also passes a buffer for its pixels.
 struct Question {
-    std::optional<PictureBound> bound; ///< of the small picture; absent: what the picture shows
+    std::optional<PictureBound> bound; ///< of the small picture; absent: analyse the picture instead
     /// Of the small picture. An icon lies inside its bound.
     PictureUse use = PictureUse::photo;
 };
@@ -34,29 +34,28 @@ struct Question {
 [[nodiscard]] std::string encoded(const Question& question);
 [[nodiscard]] std::optional<Question> decodedQuestion(std::string_view bytes);
 
-/// What a picture shows.
+/// The result of an analysis.
 struct Answer {
-    std::optional<ImageAnalysis> analysis; ///< absent: no picture that can be read
+    std::optional<ImageAnalysis> analysis; ///< absent: not a readable picture
 };
 
-/// Labels past the limits are left out.
+/// Labels beyond the limits are left out.
 [[nodiscard]] std::string encoded(const Answer& answer);
-/// Nothing for bytes that no recognizer writes: wrong lengths, numbers that are none or out of range, words
-/// that are not UTF-8.
+/// Nothing for bytes that no recognizer would send: wrong lengths, numbers that are NaN or out of range, text
+/// that is not UTF-8.
 [[nodiscard]] std::optional<Answer> decodedAnswer(std::string_view bytes);
 
-/// A small picture, whose pixels lie at the beginning of the buffer; the alpha of an icon follows them.
+/// A small picture. Its pixels are at the start of the buffer, followed by the alpha channel of an icon.
 struct PictureAnswer {
     struct Sizes {
         PixelSize whole; ///< the picture in the file, upright
         PixelSize small;
     };
-    std::optional<Sizes> sizes; ///< absent: no picture that can be read
+    std::optional<Sizes> sizes; ///< absent: not a readable picture
 };
 
 [[nodiscard]] std::string encoded(const PictureAnswer& answer);
-/// Nothing for bytes that no recognizer writes, or when the small picture is larger than what it was shrunk
-/// into.
+/// Nothing for bytes that no recognizer would send, or if the small picture is larger than requested.
 [[nodiscard]] std::optional<PictureAnswer> decodedPictureAnswer(std::string_view bytes, PixelSize most);
 
 } // namespace orlen::ImageMessages

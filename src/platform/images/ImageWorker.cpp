@@ -20,7 +20,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-/// Waits until the socket can be read. False when the time is over or the work is stopped.
+/// Waits until the socket is readable. False if it timed out or was stopped.
 bool becomesReadable(int socket, Clock::time_point deadline, const std::stop_token& stop)
 {
     const UniqueFd stopped(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
@@ -57,12 +57,12 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
     auto sockets = DescriptorSocket::makePair();
     if (!sockets.ok())
         return nullptr;
-    // The process watches its own time as well: when this program is killed nobody else does.
+    // The process also limits its own time, in case this program is killed.
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(limits.limit) + std::chrono::seconds(1);
     ChildProcess::Call call{{program, std::to_string(limits.memory), std::to_string(seconds.count()),
                              std::to_string(limits.idle.count())},
                             {}};
-    // What stands in variables is nobody's business who reads pictures.
+    // Environment variables are none of a picture reader's business.
     call.variables = ChildProcess::Variables::given;
     const std::optional<pid_t> process =
         ProcessStart::start(call, ProcessStart::Belonging::ownGroup, {.input = sockets.value().theirs.get()});

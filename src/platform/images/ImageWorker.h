@@ -16,26 +16,26 @@
 
 namespace orlen {
 
-/// One recognizer process, which ends with this object. One call at a time.
+/// One recognizer process, which is killed with this object. One call at a time.
 class ImageWorker {
 public:
     enum class End {
         answered,
-        unreachable, ///< it had ended before it was asked; the picture had no part in it
-        failed,      ///< it died, said nonsense, was too slow or was stopped: it has to go
+        unreachable, ///< it had exited before the question; not the picture's fault
+        failed,      ///< it crashed, sent garbage, was too slow or was stopped: discard it
     };
     template <typename Answer>
     struct Outcome {
         End end = End::failed;
-        std::optional<Answer> answer; ///< present only when answered, and not for what is no picture
+        std::optional<Answer> answer; ///< only if answered, and the file is a picture
     };
     struct Limits {
         std::size_t memory;              ///< bytes of address space
         std::chrono::milliseconds limit; ///< for starting, and for one picture
-        std::chrono::milliseconds idle;  ///< without a picture it ends itself
+        std::chrono::milliseconds idle;  ///< exits by itself after this long without a picture
     };
 
-    /// Starts one and waits until it is ready; nothing when it is not.
+    /// Starts one and waits until it is ready; nothing on failure.
     [[nodiscard]] static std::unique_ptr<ImageWorker>
     started(const std::string& program, const Limits& limits, const std::stop_token& stop);
 
@@ -44,13 +44,13 @@ public:
     ImageWorker(const ImageWorker&) = delete;
     ImageWorker& operator=(const ImageWorker&) = delete;
 
-    /// What an open file shows; at once when stopped.
+    /// Analyses an open file. Returns at once when stopped.
     [[nodiscard]] Outcome<ImageAnalysis> analyze(int file, const std::stop_token& stop);
-    /// The picture in an open file made small; at once when stopped.
+    /// The picture in an open file, made small. Returns at once when stopped.
     [[nodiscard]] Outcome<SmallPicture> smallPicture(int file, const PictureBound& bound, PictureUse use,
                                                      const std::stop_token& stop);
 
-    /// Hangs up when the process ends. Only to wait for that.
+    /// Hangs up when the process exits. Only for waiting on that.
     [[nodiscard]] int socket() const { return m_socket.get(); }
     [[nodiscard]] bool hasEnded() const;
 

@@ -18,7 +18,7 @@ namespace orlen {
 namespace {
 
 constexpr unsigned kMostWorkers = 16;
-/// After that many failed starts in a row the recognizer is taken to be unusable.
+/// After this many failed starts in a row the recognizer is considered broken.
 constexpr int kMostFailedStarts = 3;
 
 } // namespace
@@ -31,7 +31,7 @@ public:
     {
     }
 
-    /// What a worker says when it is its turn; `ask` puts the question to one.
+    /// Waits for a turn and has `ask` put the question to a worker.
     template <typename Ask>
     [[nodiscard]] auto answer(const Ask& ask, const std::stop_token& stop)
         -> decltype(ask(std::declval<ImageWorker&>()).answer)
@@ -46,7 +46,7 @@ public:
 private:
     using Worker = IdleWorkers::Worker;
 
-    /// Asks idle workers until one takes the question, else a new one.
+    /// Asks idle workers until one takes the question, else starts one.
     template <typename Ask>
     [[nodiscard]] auto answered(const Ask& ask, const std::stop_token& stop)
         -> std::pair<Worker, decltype(ask(std::declval<ImageWorker&>()))>
@@ -63,7 +63,7 @@ private:
         return {std::move(worker), std::move(outcome)};
     }
 
-    /// False when stopped before there was a turn.
+    /// False if stopped before its turn.
     bool takeTurn(const std::stop_token& stop)
     {
         std::unique_lock lock(m_lock);
@@ -75,7 +75,7 @@ private:
 
     void endTurn(Worker worker)
     {
-        // First of all: whoever has its turn next finds it.
+        // First, so that whoever is next finds it.
         if (worker)
             m_idle.add(std::move(worker));
         {

@@ -12,7 +12,7 @@ int share(int length, int of, int all)
     return std::max(1, static_cast<int>(std::lround(static_cast<double>(length) * of / all)));
 }
 
-/// Whether one is wider for its height than the other.
+/// Whether one has a wider aspect ratio than the other.
 bool isWider(PixelSize one, PixelSize other)
 {
     return static_cast<double>(one.width) * other.height > static_cast<double>(other.width) * one.height;

@@ -9,21 +9,21 @@ struct PixelSize {
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
 };
 
-/// How large a picture is wanted. A picture is made smaller for it, never larger. Pure; any thread.
+/// The size a picture is wanted in. Pictures are scaled down, never up. Pure; any thread.
 struct PictureBound {
     enum class Fit {
-        inside, ///< the whole picture, at most of the size
-        cover,  ///< the middle of the picture, in the shape of the size
+        inside, ///< the whole picture, fitted into the size
+        cover,  ///< the middle of the picture, filling the size
     };
 
     PixelSize size;
     Fit fit = Fit::inside;
 
-    /// The same for a picture that lies on its side.
+    /// The same for a picture stored sideways.
     [[nodiscard]] PictureBound turned() const { return {{size.height, size.width}, fit}; }
-    /// The size that all of a picture has to be shrunk into.
+    /// The size the whole picture must be shrunk to fit into.
     [[nodiscard]] PixelSize box(PixelSize picture) const;
-    /// How much of the middle of a picture that has been shrunk is wanted.
+    /// How much of the middle of a shrunk picture is shown.
     [[nodiscard]] PixelSize shown(PixelSize shrunk) const;
 };
 

@@ -23,7 +23,7 @@ bool write(int buffer, std::span<const std::uint8_t> pixels)
     struct stat status = {};
     if (pixels.empty() || ::fstat(buffer, &status) != 0 || status.st_size < static_cast<off_t>(pixels.size()))
         return false;
-    // Through memory: whoever fills it may not be allowed to write to files.
+    // Through memory, since the writer may not be allowed to write to files.
     void* const place = ::mmap(nullptr, pixels.size(), PROT_READ | PROT_WRITE, MAP_SHARED, buffer, 0);
     if (place == MAP_FAILED)
         return false;

@@ -9,16 +9,16 @@
 #include <span>
 #include <vector>
 
-/// Memory that one process fills with pixels and another reads, behind a descriptor. Any thread.
+/// Shared memory for pixels, written by one process and read by another, behind a descriptor. Any thread.
 namespace orlen::PixelBuffer {
 
-/// Takes memory only for what is written.
+/// Uses memory only once it is written.
 [[nodiscard]] Result<UniqueFd> ofSize(std::size_t bytes);
 
-/// Fills the beginning. False when the buffer is too small or cannot be written.
+/// Writes to the beginning. False if the buffer is too small or cannot be written.
 [[nodiscard]] bool write(int buffer, std::span<const std::uint8_t> pixels);
 
-/// The first `length` bytes; nothing when there are fewer: the other process may have shortened it.
+/// The first `length` bytes; nothing if there are fewer, since the other process may have truncated it.
 [[nodiscard]] std::optional<std::vector<std::uint8_t>> read(int buffer, std::size_t length);
 
 } // namespace orlen::PixelBuffer

@@ -6,13 +6,13 @@
 
 namespace orlen {
 
-/// A small picture in memory: 8-bit sRGB, red, green, blue, rows from the top without gaps.
+/// A small picture in memory: 8-bit sRGB, rows from the top without padding.
 struct RgbImage {
     int width = 0;  ///< pixels
     int height = 0; ///< pixels
     std::vector<std::uint8_t> pixels;
 
-    /// What the pixels of a picture take.
+    /// Bytes of the pixels of such a picture.
     [[nodiscard]] static constexpr std::size_t byteCount(int width, int height)
     {
         return static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3;

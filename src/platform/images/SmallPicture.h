@@ -6,15 +6,15 @@
 namespace orlen {
 
 enum class PictureUse {
-    photo, ///< see-through parts over white
-    icon,  ///< drawings in lines are pictures too and grow; see-through parts stay
+    photo, ///< transparent parts over white
+    icon,  ///< vector graphics are allowed and scaled up; transparency is kept
 };
 
-/// A picture made small for showing it.
+/// A picture made small for display.
 struct SmallPicture {
     PixelSize whole; ///< the picture in the file, upright
     RgbImage image;  ///< upright, the first frame
-    /// Of an icon: how little of what lies behind each pixel shows through, 255 nothing; else empty.
+    /// Opacity of each pixel of an icon, 255 is opaque; empty for a photo.
     std::vector<std::uint8_t> alpha;
 };
 

@@ -8,18 +8,18 @@ namespace orlen::BinaryPlist {
 
 namespace {
 
-// The form: a header of 8 bytes, the objects, a table of their offsets, and a trailer of 32 bytes that tells
-// how wide offsets and references are, how many objects there are, which one is the root and where the table
-// lies. An object begins with a byte whose upper half is its type and whose lower half is a count; 15 says
-// that the count follows as a number object. Arrays and sets hold references to their members, dictionaries
-// those to all keys, then all values.
+// The format: a header of 8 bytes, the objects, a table of their offsets, and a trailer of 32 bytes with the
+// widths of offsets and references, the number of objects, the root, and the place of the table. An object
+// starts with a byte: its upper half is the type, its lower half a count, where 15 means that the count
+// follows as a number object. Arrays and sets contain references to their members; dictionaries to all keys,
+// then all values.
 constexpr std::string_view kMagic = "bplist00";
 constexpr std::size_t kTrailer = 32;
 
-/// Bytes of all texts and data together, each counted as often as it is referred to.
+/// Bytes of all strings and data, counted once per reference.
 constexpr std::uint64_t kUnfoldedLimit = 16UL * 1024 * 1024;
 
-/// The big-endian number in `width` bytes; nothing when it does not lie wholly in the list.
+/// The big-endian number in `width` bytes; nothing if it is not fully inside the list.
 std::optional<std::uint64_t> number(std::string_view bytes, std::uint64_t at, unsigned width)
 {
     if (width == 0 || width > 8 || at > bytes.size() || bytes.size() - at < width)
@@ -60,7 +60,7 @@ struct Object {
     std::uint64_t count = 0; ///< how many there are
 };
 
-/// The library ends the program when a key turns out to end early.
+/// The library aborts if a key is cut short.
 bool holdsZeroCharacter(std::string_view text, std::size_t width)
 {
     for (std::size_t at = 0; at + width <= text.size(); at += width) {
@@ -70,14 +70,14 @@ bool holdsZeroCharacter(std::string_view text, std::size_t width)
     return false;
 }
 
-/// Nothing when the object is broken.
+/// Nothing if the object is broken.
 std::optional<Object> objectAt(std::string_view bytes, std::uint64_t offset)
 {
     const auto marker = number(bytes, offset, 1);
     if (!marker)
         return std::nullopt;
     const std::uint64_t type = *marker >> 4U;
-    // Numbers, dates and the like: a few bytes, whatever their lower half means.
+    // Numbers, dates and so on: a few bytes, whatever their lower half means.
     if (type < 0x4 || type == 0x8)
         return Object{};
     Object object{type >= 0xA, offset + 1, *marker & 0xFU};
@@ -116,7 +116,7 @@ std::optional<std::vector<Object>> objectsOf(std::string_view bytes, const Trail
             return std::nullopt;
         references += object->isContainer ? object->count : 0;
         containers += object->isContainer ? 1 : 0;
-        // Each takes at least a byte of its own, unless containers overlap.
+        // Each takes at least one byte, unless containers overlap.
         if (references > bytes.size() || containers > kMostContainers)
             return std::nullopt;
         objects.push_back(*object);

@@ -2,11 +2,11 @@
 
 #include <string>
 
-/// Property lists of application bundles (XML and binary), untrusted input.
+/// Property lists of application bundles (XML or binary). Untrusted input.
 namespace orlen::BundleInfo {
 
-/// The text behind "CFBundleIdentifier" of the bundle's "Contents/Info.plist"; empty when there is none, or
-/// the list is broken or unreasonably large. Blocks on the disk; any thread.
+/// "CFBundleIdentifier" in the bundle's "Contents/Info.plist"; empty if there is none, or the list is broken
+/// or unreasonably large. Blocks on the disk; any thread.
 [[nodiscard]] std::string identifier(const std::string& bundle);
 
 } // namespace orlen::BundleInfo

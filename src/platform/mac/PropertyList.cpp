@@ -17,8 +17,8 @@ namespace {
 /// Real lists have a few kilobytes.
 constexpr std::size_t kListLimit = 512UL * 1024;
 
-/// The library nests calls as deep as lists nest. However arrays and dictionaries close, they cannot nest
-/// deeper than there are of them.
+/// The library recurses as deep as the list nests, which cannot be deeper than its number of arrays and
+/// dictionaries.
 constexpr std::size_t kMostContainers = BinaryPlist::kMostContainers;
 
 struct FreePlist {
@@ -46,7 +46,7 @@ Plist parsed(std::string_view bytes)
 {
     const auto length = static_cast<std::uint32_t>(bytes.size());
     plist_t list = nullptr;
-    // The library copies what a binary list refers to once for each reference.
+    // The library copies an object of a binary list once per reference.
     if (BinaryPlist::isBinary(bytes) && BinaryPlist::isSafeToUnfold(bytes))
         plist_from_bin(bytes.data(), length, &list);
     else if (!BinaryPlist::isBinary(bytes) && hasFewContainers(bytes))
@@ -59,13 +59,13 @@ bool isOfType(plist_t node, plist_type type)
     return node != nullptr && plist_get_node_type(node) == type;
 }
 
-/// Whether the text can be shown and be part of a path.
+/// Whether the text can be displayed and be part of a path.
 bool isUsable(std::string_view text)
 {
     return PathText::isValidUtf8(text) && text.find('\0') == std::string_view::npos;
 }
 
-/// Nothing for what is no usable text.
+/// Nothing if it is not usable text.
 std::optional<std::string> textOf(plist_t node)
 {
     if (!isOfType(node, PLIST_STRING))

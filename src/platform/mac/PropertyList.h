@@ -8,18 +8,18 @@
 
 namespace orlen {
 
-/// The top level of a property list file (XML or binary), as far as it is text. Untrusted input.
+/// The strings at the top level of a property list (XML or binary). Untrusted input.
 struct PropertyList {
     std::map<std::string, std::string, std::less<>> texts;
-    /// Arrays: their elements that are text, in order.
+    /// Arrays: their string elements, in order.
     std::map<std::string, std::vector<std::string>, std::less<>> textLists;
 
-    /// Nothing when the bytes are broken, unreasonably many or deep, or no dictionary. Any thread.
+    /// Nothing if the bytes are broken, unreasonably many or deep, or not a dictionary. Any thread.
     [[nodiscard]] static std::optional<PropertyList> parsed(std::string_view bytes);
-    /// The same of a file; nothing when it is missing. Blocks on the disk.
+    /// The same for a file; nothing if it is missing. Blocks on the disk.
     [[nodiscard]] static std::optional<PropertyList> read(const std::string& path);
 
-    /// Empty when there is no such text.
+    /// Empty if there is no such string.
     [[nodiscard]] std::string text(std::string_view key) const;
 };
 

@@ -13,7 +13,7 @@ namespace orlen::ChildEnd {
 
 UniqueFd descriptorOf(pid_t child)
 {
-    // Debian 12's header of the C library's own wrapper is not fit for C++.
+    // Debian 12's header for the C library's own wrapper does not compile as C++.
     return UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
 }
 

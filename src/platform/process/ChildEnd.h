@@ -6,25 +6,24 @@
 #include <optional>
 #include <sys/types.h>
 
-/// Takes note of the ends of processes that this one has started, so that none stays behind as a name without
-/// a life. Any thread.
+/// Reaps child processes, so that none is left behind as a zombie. Any thread.
 namespace orlen::ChildEnd {
 
-/// How long a killed process is waited for: it ends at once, or hangs where not even a signal reaches it.
+/// How long to wait for a killed process: it ends at once or hangs where no signal reaches it.
 inline constexpr std::chrono::milliseconds kKilledPatience{200};
 
-/// A descriptor that is readable when the process has ended.
+/// A descriptor that becomes readable when the process has ended.
 [[nodiscard]] UniqueFd descriptorOf(pid_t child);
 
-/// Waits as long as it takes. The wait status; nothing when this process was told to leave its children alone
-/// and so never hears of it.
+/// Waits as long as it takes. Returns the wait status; nothing if this process ignores SIGCHLD and so is
+/// never told.
 std::optional<int> await(pid_t child);
 
-/// Returns at once: a thread waits instead. False when there is none to be had; the entry then stays until
+/// Returns at once; a thread does the waiting. False if no thread can be started: the zombie then stays until
 /// this process ends.
 bool awaitAside(pid_t child);
 
-/// For a process that has just been killed: waits for a moment, and aside for what then still hangs.
+/// For a process that was just killed: waits briefly, and leaves one that still hangs to a thread.
 void awaitKilled(pid_t child);
 
 } // namespace orlen::ChildEnd

@@ -27,7 +27,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr const char* kUsualPath = "/usr/local/bin:/usr/bin:/bin";
 
-/// A started program, from which output is taken until it has ended.
+/// A started program whose output is collected until it exits.
 class Running {
 public:
     Running(pid_t child, UniqueFd output)
@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// The exit status and all output. After a failure the program has been killed.
+    /// The exit status and all output. On failure the program has been killed.
     std::optional<Outcome> finish(Clock::time_point deadline)
     {
         if (!m_end.isOpen() || !collect(deadline)) {
@@ -50,7 +50,7 @@ public:
     }
 
 private:
-    /// False when a limit was reached first.
+    /// False if a limit was reached first.
     bool collect(Clock::time_point deadline)
     {
         while (true) {
@@ -63,7 +63,7 @@ private:
                 return ::poll(waiting.data(), waiting.size(),
                               static_cast<int>(std::min(left.count(), kLongest)));
             });
-            // The end is looked at before the last reading, which then sees everything.
+            // Check for the end before the last read, which then gets everything.
             const bool hasEnded = waiting[0].revents != 0;
             if (ready < 0 || !readWhatIsThere())
                 return false;
@@ -72,7 +72,7 @@ private:
         }
     }
 
-    /// False when the output is too long.
+    /// False if the output is too long.
     bool readWhatIsThere()
     {
         std::array<char, 64UL * 1024> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init)
@@ -113,7 +113,7 @@ std::optional<Outcome> run(const Call& call)
         return std::nullopt;
     UniqueFd reading(ends[0]);
     UniqueFd writing(ends[1]);
-    // This end alone: the program may not expect such an output.
+    // Only this end: the program may not expect such an output.
     if (::fcntl(reading.get(), F_SETFL, O_NONBLOCK) != 0)
         return std::nullopt;
     const Clock::time_point deadline = Clock::now() + call.limit;
@@ -129,7 +129,7 @@ bool startDetached(const std::vector<std::string>& arguments)
         ProcessStart::start({arguments, {}}, ProcessStart::Belonging::ownSession, {});
     if (!child)
         return false;
-    // The program may outlive this one; until then somebody has to take note of its end.
+    // The program may outlive this one; until then somebody has to reap it.
     ChildEnd::awaitAside(*child);
     return true;
 }
@@ -144,7 +144,7 @@ std::string programPath(const std::string& name)
         const std::size_t colon = std::min(path.find(':'), path.size());
         const std::string_view folder = path.substr(0, colon);
         path.remove_prefix(std::min(colon + 1, path.size()));
-        // What lies in the folder that the user happens to stand in was not installed by anybody.
+        // Nobody installed what happens to be in the current folder.
         if (!folder.starts_with('/'))
             continue;
         std::string candidate = PathText::join(folder, name);

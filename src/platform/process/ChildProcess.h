@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
-/// Runs another program for its output: by argument vector, never through a shell. Blocks until it has ended
-/// or the time is over; any thread.
+/// Runs another program for its output, with an argument vector and no shell. Blocks until it has ended or
+/// timed out; any thread.
 namespace orlen::ChildProcess {
 
-/// What the new process finds in its environment.
+/// The environment of the new process.
 enum class Variables {
-    added, ///< this process's, and those that are given beside or in place of them
-    given, ///< those that are given and no other
+    added, ///< this process's, with the given ones added or replaced
+    given, ///< only the given ones
 };
 
 struct Call {
-    /// The program, absolute or looked for in PATH, and its arguments.
+    /// The program, absolute or found in PATH, and its arguments.
     std::vector<std::string> arguments;
     std::vector<std::string> environment; ///< "NAME=value"
     std::chrono::milliseconds limit{5000};
@@ -29,19 +29,19 @@ struct Outcome {
     std::string output; ///< standard output, valid UTF-8
 };
 
-/// More output than this ends the program, in bytes.
+/// A program that writes more than this is killed; bytes.
 inline constexpr std::size_t kOutputLimit = 8UL * 1024 * 1024;
 
-/// Standard input is empty and standard error is dropped. Nothing when the program cannot be started, is
-/// ended by a signal or by the limits (it is killed then, with the processes of its group), or its output is
-/// not UTF-8. What the program itself started and left running is neither waited for nor ended.
+/// Standard input is empty and standard error is discarded. Nothing if the program cannot be started, is
+/// ended by a signal, exceeds a limit (then its process group is killed), or its output is not UTF-8.
+/// Processes it left running in the background are neither waited for nor killed.
 [[nodiscard]] std::optional<Outcome> run(const Call& call);
 
-/// Starts a program and lets it run by itself, in its own session. Whether it could be started.
+/// Starts a program in its own session and leaves it running. Whether it could be started.
 bool startDetached(const std::vector<std::string>& arguments);
 
-/// The file that a name stands for: itself with a slash in it, else the first of that name in the absolute
-/// folders of PATH. Empty when there is none that the user may execute.
+/// Resolves a program name: itself if it contains a slash, else the first match in the absolute folders of
+/// PATH. Empty if the user may execute none.
 [[nodiscard]] std::string programPath(const std::string& name);
 
 } // namespace orlen::ChildProcess

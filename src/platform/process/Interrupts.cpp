@@ -18,7 +18,7 @@ extern "C" void noteSignal(int /*number*/)
 {
     const int before = errno;
     const std::uint64_t one = 1;
-    // Nothing can be done about a failure here, and a full counter is readable all the same.
+    // A failure cannot be handled here, and a full counter is readable anyway.
     [[maybe_unused]] const auto written = ::write(receiver.load(), &one, sizeof one);
     errno = before;
 }
@@ -39,7 +39,7 @@ Interrupts::Interrupts() : m_counter(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
         if (m_before[i].sa_handler != SIG_IGN)
             ::sigaction(kSignals[i], &action, nullptr);
     }
-    // A caller may have started the program with signals held back; one that came meanwhile arrives now.
+    // The program may have been started with blocked signals; one that arrived meanwhile is delivered now.
     ::pthread_sigmask(SIG_UNBLOCK, &heard, nullptr);
 }
 

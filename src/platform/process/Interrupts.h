@@ -7,10 +7,10 @@
 
 namespace orlen {
 
-/// Turns the signals that ask a program to end (interrupt, terminate, hang-up) into something readable, so
-/// that work in progress can end in its own time. While one exists these signals end nothing by themselves. A
-/// signal that was ignored when it was made, as `nohup` does, stays ignored. At most one at a time; made and
-/// destroyed on the main thread.
+/// Turns the signals that ask a program to end (SIGINT, SIGTERM, SIGHUP) into a readable descriptor, so that
+/// work in progress can finish properly. While the object exists, they end nothing by themselves. A signal
+/// that was already ignored, as under `nohup`, stays ignored. At most one object at a time; create and
+/// destroy it on the main thread.
 class Interrupts {
 public:
     Interrupts();
@@ -18,9 +18,9 @@ public:
     Interrupts(const Interrupts&) = delete;
     Interrupts& operator=(const Interrupts&) = delete;
 
-    /// Becomes readable when a signal has arrived; -1 when the system could not give one.
+    /// Readable once a signal has arrived; -1 if the system could not provide one.
     [[nodiscard]] int descriptor() const { return m_counter.get(); }
-    /// How many arrived since the last call; does not wait.
+    /// How many arrived since the last call. Does not wait.
     [[nodiscard]] int take();
 
 private:

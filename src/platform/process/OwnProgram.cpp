@@ -33,7 +33,7 @@ std::string path()
     const std::string own = executable();
     const std::string image = absoluteVariable("APPIMAGE");
     const std::string mounted = absoluteVariable("APPDIR");
-    // Both are handed down to whatever an AppImage starts: a terminal's are not ours.
+    // An AppImage passes both on to everything it starts: those of a terminal are not ours.
     const bool isInherited = !mounted.empty() && !PathText::isAtOrBelow(own, resolved(mounted));
     return image.empty() || isInherited ? own : image;
 }

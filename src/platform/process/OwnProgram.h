@@ -3,17 +3,16 @@
 #include <string>
 #include <string_view>
 
-/// What this program is among the installed ones. Any thread.
+/// This program's identity among the installed ones. Any thread.
 namespace orlen::OwnProgram {
 
-/// The reverse-DNS name that its desktop entry, its Flatpak and its bundle carry.
+/// The reverse-DNS name used by its desktop entry, Flatpak and bundle.
 [[nodiscard]] std::string_view identifier();
 
-/// The file of the running executable; empty when the system does not tell.
+/// The running executable; empty if the system does not say.
 [[nodiscard]] std::string executable();
 
-/// What starts it again: the AppImage that it runs from, else the executable. Absolute, or empty when
-/// unknown.
+/// What to start to run it again: the AppImage it runs from, else the executable. Absolute; empty if unknown.
 [[nodiscard]] std::string path();
 
 } // namespace orlen::OwnProgram

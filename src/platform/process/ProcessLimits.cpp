@@ -21,7 +21,7 @@ bool limit(__rlimit_resource resource, rlim_t most)
 
 bool apply(const Limits& limits)
 {
-    // Libraries try to write where they can do without: that has to fail, not to end the process.
+    // Libraries try to write where they need not: that must fail, not kill the process.
     (void)::signal(SIGXFSZ, SIG_IGN);
     return (limits.memory == 0 || limit(RLIMIT_AS, limits.memory)) &&
            limit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorTime.count())) && limit(RLIMIT_CORE, 0) &&

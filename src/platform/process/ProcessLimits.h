@@ -3,25 +3,25 @@
 #include <chrono>
 #include <cstddef>
 
-/// What a process that reads untrusted data allows itself.
+/// Limits for a process that reads untrusted data.
 namespace orlen::ProcessLimits {
 
 struct Limits {
-    std::size_t memory = 0;                ///< bytes of address space; 0: without limit
-    std::chrono::seconds processorTime{0}; ///< over all its life; ends the process
+    std::size_t memory = 0;                ///< bytes of address space; 0: unlimited
+    std::chrono::seconds processorTime{0}; ///< total for the process; ends it
 };
 
-/// From now on: the limits, no growing file, no core file, no more rights by starting another program.
-/// Whether all of it holds.
+/// Applies the limits, and forbids growing files, core dumps and gaining privileges by exec. Whether all of
+/// it is in force.
 [[nodiscard]] bool apply(const Limits& limits);
 
-/// From now on no other process of this user can look into this one.
+/// From now on no other process of this user can inspect this one.
 void hideMemory();
 
-/// Ends the process as soon as nobody holds the other end of a socket, whatever it is doing. Starts a thread.
+/// Ends the process as soon as the other end of a socket is closed, whatever it is doing. Starts a thread.
 void endWithOther(int socket);
 
-/// Ends the process when that much time has passed; a new call replaces the last, 0 takes it back.
+/// Ends the process after that time. A new call replaces the last; 0 cancels.
 void endAfter(std::chrono::seconds time);
 
 } // namespace orlen::ProcessLimits

@@ -17,16 +17,15 @@ namespace {
 
 constexpr const char* kNothing = "/dev/null";
 
-/// What a new process starts with: none of this one's descriptors, signal settings and group. The system's
-/// own call is used because a copy of a process with threads may do next to nothing before it becomes
-/// another.
+/// The state of a new process: none of this one's descriptors, signal settings and group. Uses the system's
+/// own call because a forked copy of a threaded process may do almost nothing before exec.
 class Start {
 public:
     Start(Belonging belonging, const Streams& streams)
     {
         ::posix_spawn_file_actions_init(&m_files);
         ::posix_spawnattr_init(&m_attributes);
-        // First of all: the descriptor may have one of the numbers that are opened next.
+        // First, since the descriptor may have a number that is about to be opened.
         if (streams.input >= 0)
             note(::posix_spawn_file_actions_adddup2(&m_files, streams.input, STDIN_FILENO));
         if (streams.output >= 0)
@@ -55,7 +54,7 @@ public:
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
 
-    /// The number of the new process.
+    /// The new process's id.
     [[nodiscard]] std::optional<pid_t> operator()(const std::string& program, char* const* arguments,
                                                   char* const* environment) const
     {
@@ -80,7 +79,7 @@ bool hasZeroByte(const std::vector<std::string>& texts)
                        [](const std::string& text) { return text.find('\0') != std::string::npos; });
 }
 
-/// Ends in a null pointer, as the system wants it.
+/// Null-terminated, as the system expects.
 std::vector<char*> pointers(const std::vector<std::string>& texts)
 {
     std::vector<char*> list;
@@ -91,7 +90,7 @@ std::vector<char*> pointers(const std::vector<std::string>& texts)
     return list;
 }
 
-/// This process's variables but for those that are given and what is meant for this process alone.
+/// This process's variables, except the given ones and those meant for this process only.
 std::vector<std::string> environmentWith(const std::vector<std::string>& given)
 {
     std::vector<std::string> variables = given;

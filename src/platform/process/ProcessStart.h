@@ -5,21 +5,21 @@
 #include <optional>
 #include <sys/types.h>
 
-/// Starts a process that has nothing of this one but what it is given: no descriptors, no signal settings, a
+/// Starts a process that inherits nothing: no descriptors but those given, no signal settings, and a process
 /// group of its own. Any thread.
 namespace orlen::ProcessStart {
 
 enum class Belonging { ownGroup, ownSession };
 
-/// Descriptors that become standard input or output, one of them at most; -1: empty, and dropped. Standard
-/// error is dropped.
+/// Descriptors for standard input or output, at most one of them; -1: empty or discarded. Standard error is
+/// discarded.
 struct Streams {
     int input = -1;
     int output = -1;
 };
 
-/// The number of the new process, whose end the caller has to wait for. Nothing when it cannot be started.
-/// The limit of the call is not looked at.
+/// The new process's id, which the caller must wait for; nothing if it cannot be started. Ignores the time
+/// limit of the call.
 [[nodiscard]] std::optional<pid_t> start(const ChildProcess::Call& call, Belonging belonging,
                                          const Streams& streams);
 

@@ -15,7 +15,7 @@ namespace orlen::RunningPrograms {
 
 namespace {
 
-/// Empty for processes of the kernel, those of others, and those that have ended meanwhile.
+/// Empty for kernel threads, other users' processes, and those that have ended meanwhile.
 std::string executableOf(const std::string& process)
 {
     std::array<char, PATH_MAX> target{};
@@ -24,7 +24,7 @@ std::string executableOf(const std::string& process)
     if (length <= 0 || target.front() != '/')
         return {};
     std::string path(target.data(), static_cast<std::size_t>(length));
-    // The kernel's words for a name that is gone; a file may also really be called that.
+    // The kernel's suffix for a deleted file; a real file may also be called that.
     constexpr std::string_view kGone = " (deleted)";
     if (path.ends_with(kGone) && !exists(path))
         path.resize(path.size() - kGone.size());

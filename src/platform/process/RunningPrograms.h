@@ -3,14 +3,14 @@
 #include <string>
 #include <vector>
 
-/// Which programs run, as the system's process table tells. Any thread.
+/// Which programs are running, from the process table. Any thread.
 namespace orlen::RunningPrograms {
 
-/// The executable files of this user's processes as absolute paths with all links resolved, sorted, each
-/// once. Of a program whose file was replaced or removed since it started, the path that it had.
+/// The executables of this user's processes as absolute, resolved paths, sorted and without duplicates. If a
+/// program's file was replaced or removed since it started, its original path.
 [[nodiscard]] std::vector<std::string> executables();
 
-/// The one of this process; empty when the system does not tell.
+/// The executable of this process; empty if the system does not say.
 [[nodiscard]] std::string ownExecutable();
 
 } // namespace orlen::RunningPrograms

@@ -27,8 +27,8 @@ int descriptor(Stream stream)
     return -1;
 }
 
-/// The terminal of standard input once more, for reading that never waits: Ctrl-C drops what was typed, also
-/// between seeing it and reading it. The mode of the given one is not ours to change, the shell uses it too.
+/// The terminal of standard input, opened again for non-blocking reads: Ctrl-C drops what was typed, even
+/// between polling and reading. The mode of the original descriptor is shared with the shell.
 UniqueFd openInput()
 {
     const char* name = ::ttyname(STDIN_FILENO);
@@ -37,7 +37,7 @@ UniqueFd openInput()
     return UniqueFd(::open(name, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
 }
 
-/// Waits for input; false when the interrupt came first.
+/// Waits for input; false if the interrupt came first.
 bool awaitInput(int input, int interrupt)
 {
     std::array<pollfd, 2> watched{{{input, POLLIN, 0}, {interrupt, POLLIN, 0}}};
@@ -65,7 +65,7 @@ std::optional<std::string> readLine(int interrupt)
     const int input = own.isOpen() ? own.get() : STDIN_FILENO;
     std::string line;
     for (char next = 0; awaitInput(input, interrupt);) {
-        // One byte at a time, so that nothing behind the line is taken from whoever reads next.
+        // One byte at a time, to leave everything after the line to the next reader.
         const auto count = retried([&] { return ::read(input, &next, 1); });
         if (count < 0 && errno == EAGAIN)
             continue;

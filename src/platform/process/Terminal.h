@@ -3,18 +3,18 @@
 #include <optional>
 #include <string>
 
-/// The terminal that the program was called from, if it was.
+/// The terminal the program was started from, if any.
 namespace orlen::Terminal {
 
 enum class Stream { input, output, error };
 
 [[nodiscard]] bool isTerminal(Stream stream);
 
-/// Columns of the terminal; nothing when the stream is none or does not tell.
+/// Width in columns; nothing if the stream is not a terminal or does not say.
 [[nodiscard]] std::optional<int> width(Stream stream);
 
-/// One line of standard input without its end; nothing at the end of input, or as soon as the descriptor
-/// `interrupt` is readable. Waits.
+/// Waits for one line of standard input and returns it without its newline; nothing at the end of input or
+/// once the descriptor `interrupt` is readable.
 [[nodiscard]] std::optional<std::string> readLine(int interrupt);
 
 } // namespace orlen::Terminal

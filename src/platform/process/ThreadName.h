@@ -4,7 +4,7 @@
 
 namespace orlen {
 
-/// Names the calling thread for debuggers and process listings; at most 15 bytes, a longer name is not taken.
+/// Names the calling thread for debuggers and process listings. A name longer than 15 bytes has no effect.
 inline void nameThisThread(const char* name)
 {
     ::pthread_setname_np(::pthread_self(), name);

@@ -2,8 +2,8 @@
 
 namespace orlen::ThreadPriority {
 
-/// From now on the calling thread, and all threads and processes that it starts, give way to the others when
-/// the processor is busy: a window stays quick beside them. Cannot be taken back. Any thread.
+/// Lowers the priority of the calling thread, and of all threads and processes it starts, so that a busy
+/// processor keeps windows responsive. Cannot be undone. Any thread.
 void giveWay();
 
 } // namespace orlen::ThreadPriority

@@ -9,20 +9,21 @@ struct UCollator;
 
 namespace orlen {
 
-/// The order in which a language sorts names, whatever their case. One thread at a time.
+/// The sort order of names in a language, ignoring case. One thread at a time.
 class Collation {
 public:
-    /// Of the first language (a tag such as "de_AT"); the order that suits most languages when there is none.
+    /// For the first of these languages (tags such as "de_AT"); a default that suits most languages if there
+    /// is none.
     explicit Collation(std::span<const std::string> languages);
 
-    /// Whether `a` comes before `b`. Names that differ in case alone come in no order.
+    /// Whether `a` sorts before `b`. Names that differ only in case are equal.
     [[nodiscard]] bool comesBefore(std::string_view a, std::string_view b) const;
 
 private:
     struct Close {
         void operator()(UCollator* collator) const;
     };
-    std::unique_ptr<UCollator, Close> m_collator; ///< null where the library has no data: by bytes then
+    std::unique_ptr<UCollator, Close> m_collator; ///< null if the library has no data; then by bytes
 };
 
 } // namespace orlen

@@ -25,7 +25,7 @@ int columnsOf(UChar32 character)
     return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
 }
 
-/// A character with the place where it begins.
+/// A character and where it starts.
 struct Piece {
     std::size_t start;
     int columns;
@@ -45,7 +45,7 @@ std::vector<Piece> pieces(std::string_view text)
     return all;
 }
 
-/// The longest beginning of at most `limit` columns.
+/// The longest prefix of at most `limit` columns.
 std::string_view head(std::string_view text, int limit)
 {
     for (const Piece& piece : pieces(text)) {
@@ -56,7 +56,7 @@ std::string_view head(std::string_view text, int limit)
     return text;
 }
 
-/// The longest end of at most `limit` columns.
+/// The longest suffix of at most `limit` columns.
 std::string_view tail(std::string_view text, int limit)
 {
     const std::vector<Piece> all = pieces(text);

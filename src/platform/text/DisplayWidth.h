@@ -3,17 +3,16 @@
 #include <string>
 #include <string_view>
 
-/// How much room a text takes on a terminal: wide characters take two columns, combining marks none. Pure,
-/// any thread. Texts are valid UTF-8 without control characters, as PathText::forDisplay makes them.
+/// How many columns text takes on a terminal: wide characters two, combining marks none. Pure; any thread.
+/// Expects valid UTF-8 without control characters, as PathText::forDisplay returns it.
 namespace orlen::DisplayWidth {
 
 [[nodiscard]] int columns(std::string_view text);
 
-/// The text itself when it fits, else its beginning and "…", together at most `limit` columns.
+/// The text if it fits, else its beginning and "…" in at most `limit` columns.
 [[nodiscard]] std::string elidedEnd(std::string_view text, int limit);
 
-/// The text itself when it fits, else its beginning, "…" and its end. The end gets the larger part: in a path
-/// it tells more.
+/// The text if it fits, else its beginning, "…" and its end. The end gets more room: in a path it says more.
 [[nodiscard]] std::string elidedMiddle(std::string_view text, int limit);
 
 } // namespace orlen::DisplayWidth

@@ -5,7 +5,7 @@
 
 namespace orlen {
 
-/// A language model that runs on this machine. Each request stands alone: nothing is remembered between two.
+/// A language model on this machine. Requests are independent of each other.
 class LanguageModel {
 public:
     LanguageModel() = default;
@@ -13,13 +13,13 @@ public:
     LanguageModel& operator=(const LanguageModel&) = delete;
     virtual ~LanguageModel() = default;
 
-    /// Whether it can be asked now. Quick, any thread.
+    /// Whether it can be asked now. Quick; any thread.
     [[nodiscard]] virtual bool isAvailable() const = 0;
-    /// What it writes; nothing when it fails. Blocks for seconds: never call from the window's main thread.
+    /// Its reply; nothing on failure. Blocks for seconds: never call from the main thread.
     [[nodiscard]] virtual std::optional<std::string> respond(const std::string& instructions,
                                                              const std::string& prompt) const = 0;
 
-    /// The one that the operating system offers. Linux offers none: never available, fails when asked.
+    /// The operating system's model. Linux has none: never available, and fails when asked.
     [[nodiscard]] static const LanguageModel& ofSystem();
 };
 

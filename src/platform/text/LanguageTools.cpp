@@ -24,8 +24,8 @@ namespace {
 
 using BreakIterator = std::unique_ptr<icu::BreakIterator>;
 
-/// An iterator of the caller's own, because they are not for sharing; copying one is thirty times as fast as
-/// making one. Null when the library has no data for it.
+/// A private copy of an iterator, since they cannot be shared; copying is thirty times as fast as creating.
+/// Null if the library lacks the data.
 BreakIterator wordBreaks()
 {
     static const BreakIterator original = [] {
@@ -51,7 +51,7 @@ LetterCase caseOf(UChar32 character)
     return u_isULowercase(character) != 0 ? LetterCase::lower : LetterCase::none;
 }
 
-/// Whether it only adds to the character before it, as the accents of decomposed letters do.
+/// Whether it only modifies the character before it, such as the accent of a decomposed letter.
 bool isMark(UChar32 character)
 {
     return (U_GET_GC_MASK(character) & U_GC_M_MASK) != 0;

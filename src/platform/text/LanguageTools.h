@@ -5,28 +5,28 @@
 #include <string_view>
 #include <vector>
 
-/// What natural-language libraries tell of English words. Any thread; the dictionary is loaded on first use.
+/// Natural-language processing of English words. Any thread; the dictionary is loaded on first use.
 namespace orlen::LanguageTools {
 
-/// The words of a text in order, by Unicode's word-boundary rules (UAX 29), as they stand in it; spaces and
-/// punctuation are no words. Bytes that are not UTF-8 separate words.
+/// The words of a text in order, by Unicode's word boundaries (UAX 29); spaces and punctuation are not words.
+/// Invalid UTF-8 separates words.
 [[nodiscard]] std::vector<std::string> words(std::string_view text);
 
-/// The base form of an English word ("leases" gives "lease"); nothing when the word or the dictionary is
-/// unknown.
+/// The base form of an English word ("leases" gives "lease"); nothing if the word is unknown or there is no
+/// dictionary.
 [[nodiscard]] std::optional<std::string> lemma(const std::string& word);
 
 /// Lower case by Unicode's default rules, independent of the locale.
 [[nodiscard]] std::string lowerCase(std::string_view text);
 
-/// The text with a space before each upper-case letter that follows a lower-case one, by Unicode's character
-/// properties: "myTaxReturn" gives "my Tax Return", "PDFInvoice" stays. Other bytes are kept as they are.
+/// Inserts a space before each upper-case letter that follows a lower-case one: "myTaxReturn" gives "my Tax
+/// Return", "PDFInvoice" stays. Other bytes are unchanged.
 [[nodiscard]] std::string splitCamelCase(std::string_view text);
 
-/// Whether a character of the text is a decimal digit of any script.
+/// Whether the text contains a decimal digit of any script.
 [[nodiscard]] bool hasDecimalDigit(std::string_view text);
 
-/// Whether word vectors are there. They are not yet: `distance` then never has a value.
+/// Whether word vectors are installed. Currently never: `distance` then has no value.
 [[nodiscard]] bool hasEmbedding();
 /// Cosine distance of two English words (0: same direction, 2: opposite); nothing without vectors or for an
 /// unknown word.

@@ -38,16 +38,16 @@ std::unique_ptr<Hunspell> loadFirst(const std::vector<std::string>& folders)
     return nullptr;
 }
 
-/// Letters and apostrophes only, in reasonable number. English inflects no other words, and nothing else
-/// (other scripts, broken encodings, control characters) has to reach the library.
+/// Letters and apostrophes only, up to a limit. English inflects no other words, and nothing else (other
+/// scripts, broken encodings, control characters) should reach the library.
 bool isPlainWord(std::string_view word)
 {
     const auto isPlain = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '\''; };
     return !word.empty() && word.size() <= kLongestWord && std::ranges::all_of(word, isPlain);
 }
 
-/// The stem with the word's prefix before it again: the library takes prefixes off as well, so that "returns"
-/// has the stem "turn" and "deeds" has "ed".
+/// The stem with the word's prefix restored, since the library removes prefixes too: for it, "returns" has
+/// the stem "turn" and "deeds" has "ed".
 std::string withPrefix(std::string_view word, std::string_view stem)
 {
     std::size_t prefix = word.find(stem);
@@ -97,8 +97,8 @@ std::optional<std::string> Lemmatizer::lemma(const std::string& word) const
     const std::vector<std::string> found = stems(word);
     if (found.empty())
         return std::nullopt;
-    // Of several stems, the first that an inflection leads back to is the lemma. The others undo derivations
-    // and lead to another word: "statement" is no form of "state", nor "medically" of "medical".
+    // Of several stems, the lemma is the first one that an inflection leads to. The others undo derivations
+    // and are different words: "statement" is not a form of "state", nor "medically" of "medical".
     for (const std::string& stem : found) {
         std::string base = withPrefix(word, stem);
         if (isInflected(word, base))

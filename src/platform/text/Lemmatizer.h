@@ -10,23 +10,23 @@ class Hunspell;
 
 namespace orlen {
 
-/// Base forms of English words by the spelling dictionary "en_US". Any thread.
+/// Base forms of English words, from the spelling dictionary "en_US". Any thread.
 class Lemmatizer {
 public:
-    /// Reads the dictionary from the first of the folders that has one. Blocks on the disk.
+    /// Reads the dictionary from the first folder that has one. Blocks on the disk.
     explicit Lemmatizer(const std::vector<std::string>& folders);
     ~Lemmatizer();
     Lemmatizer(const Lemmatizer&) = delete;
     Lemmatizer& operator=(const Lemmatizer&) = delete;
 
-    /// The word with its inflection undone ("leases" and "leasing" give "lease"), the word itself when it has
-    /// none; nothing for a word that the dictionary does not know, and for every word without a dictionary.
+    /// The word without its inflection ("leases" and "leasing" give "lease"), or the word itself if it has
+    /// none. Nothing if the dictionary is missing or does not know the word.
     [[nodiscard]] std::optional<std::string> lemma(const std::string& word) const;
 
 private:
     [[nodiscard]] std::vector<std::string> stems(const std::string& word) const;
 
-    mutable std::mutex m_mutex; ///< the library is not made for several threads
+    mutable std::mutex m_mutex; ///< the library is not thread-safe
     std::unique_ptr<Hunspell> m_dictionary;
 };
 

@@ -6,7 +6,7 @@ namespace orlen::NamePattern {
 
 bool matches(std::string_view pattern, std::string_view name)
 {
-    // Only the last "*" ever needs another try: what earlier ones swallowed was the shortest that fits.
+    // Only the last "*" ever needs another try: earlier ones have matched as little as possible.
     std::size_t star = std::string_view::npos;
     std::size_t retry = 0;
     std::size_t p = 0;

@@ -2,10 +2,10 @@
 
 #include <string_view>
 
-/// Patterns for one name, in which "*" stands for any run of bytes, also an empty one.
+/// Patterns for one name, in which "*" matches any number of bytes.
 namespace orlen::NamePattern {
 
-/// Whether the whole name fits the pattern. Pure.
+/// Whether the pattern matches the whole name. Pure.
 [[nodiscard]] bool matches(std::string_view pattern, std::string_view name);
 
 } // namespace orlen::NamePattern

@@ -16,14 +16,14 @@ std::string_view withoutTrailingSlashes(std::string_view path)
     return path;
 }
 
-/// Where the extension's dot stands in a name, or npos.
+/// Position of the extension's dot in a name, or npos.
 std::size_t extensionDot(std::string_view name)
 {
     const std::size_t dot = name.rfind('.');
     return dot == 0 ? std::string_view::npos : dot;
 }
 
-/// The code point at `at`, which is moved behind it; negative when the bytes are not UTF-8.
+/// The code point at `at`, which is advanced past it; negative if the bytes are not UTF-8.
 std::int32_t nextCodePoint(std::string_view text, std::size_t& at)
 {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
@@ -40,7 +40,7 @@ constexpr std::int32_t kKeycap = 0x20E3;
 constexpr std::int32_t kTextForm = 0xFE0E;
 constexpr std::int32_t kPictureForm = 0xFE0F;
 
-/// Of characters that are not seen, or that turn the text around them.
+/// Whether the character is invisible or changes the direction of the text.
 bool isUnsafeToShow(std::int32_t c)
 {
     switch (u_charType(c)) {
@@ -61,11 +61,11 @@ bool isPicture(std::int32_t c)
     return u_hasBinaryProperty(c, UCHAR_EXTENDED_PICTOGRAPHIC);
 }
 
-/// Follows a text and tells which of its unseen characters hold an emoji together.
+/// Tracks which invisible characters of a text hold an emoji together.
 class EmojiSequence {
 public:
-    /// Whether the character may stay although it is not seen. For each character in turn, with the one that
-    /// comes next; negative for none.
+    /// Whether an invisible character may stay. Call it for each character in turn, with the next one;
+    /// negative for none.
     bool holds(std::int32_t c, std::int32_t next)
     {
         const bool isVariation = c == kTextForm || c == kPictureForm;
@@ -78,7 +78,7 @@ public:
     }
 
 private:
-    bool m_isPicture = false; ///< what was passed ends with a picture, perhaps varied
+    bool m_isPicture = false; ///< the text so far ends in a picture, perhaps with a variation
     bool m_isVaried = false;
 };
 

@@ -14,7 +14,7 @@ bool isPlain(char c)
            c == '.' || c == '_' || c == '~' || c == '/';
 }
 
-/// The byte that the two digits at `at` stand for.
+/// The byte written as the two digits at `at`.
 std::optional<char> byteAt(std::string_view text, std::size_t at)
 {
     if (at + 2 > text.size())

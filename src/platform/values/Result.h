@@ -5,14 +5,14 @@
 
 namespace orlen {
 
-/// The errno of a system call that failed.
+/// The errno of a failed system call.
 struct Errno {
     int code = 0;
     friend bool operator==(const Errno&, const Errno&) = default;
 };
 
-/// The outcome of a system call: a value, or the errno that says why there is none. Stays in platform and
-/// with the few callers that must tell "missing" from "denied" from "other device".
+/// The result of a system call: a value, or the errno that explains why there is none. Used inside platform
+/// and by the few callers that must tell "missing" from "denied" from "other device".
 template <typename T>
 class [[nodiscard]] Result {
 public:
@@ -20,10 +20,10 @@ public:
     Result(Errno error) : m_error(error) {}
 
     [[nodiscard]] bool ok() const { return m_value.has_value(); }
-    /// 0 when ok.
+    /// 0 if ok.
     [[nodiscard]] int error() const { return m_error.code; }
 
-    /// Only when ok.
+    /// Only if ok.
     [[nodiscard]] T& value() & { return *m_value; }
     [[nodiscard]] const T& value() const& { return *m_value; }
     [[nodiscard]] T&& value() && { return *std::move(m_value); }

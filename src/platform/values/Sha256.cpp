@@ -13,14 +13,14 @@ struct Release {
     void operator()(EVP_MD_CTX* context) const { EVP_MD_CTX_free(context); }
 };
 
-/// Looked up once: asking the library for it by name at every start costs more than hashing a small file.
+/// Looked up once: fetching it by name each time costs more than hashing a small file.
 const EVP_MD* method()
 {
     static const std::unique_ptr<EVP_MD, Release> fetched(EVP_MD_fetch(nullptr, "SHA256", nullptr));
     return fetched.get();
 }
 
-/// A crypto library without SHA-256 is a broken installation; going on would call different files identical.
+/// A crypto library without SHA-256 is broken; continuing would call different files identical.
 void require(int outcome)
 {
     if (outcome != 1)

@@ -9,7 +9,7 @@ namespace orlen {
 
 using Digest = std::array<std::byte, 32>;
 
-/// Streaming SHA-256 (FIPS 180-4) by the crypto library. One object per thread; reusable after `finish`.
+/// Streaming SHA-256 (FIPS 180-4). One object per thread; reusable after `finish`.
 class Sha256 {
 public:
     Sha256();
@@ -18,7 +18,7 @@ public:
     Sha256& operator=(const Sha256&) = delete;
 
     void update(std::span<const std::byte> bytes);
-    /// The digest of everything since the start or the last `finish`; begins afresh.
+    /// The digest of everything since the start or the last `finish`; then starts over.
     [[nodiscard]] Digest finish();
 
 private:

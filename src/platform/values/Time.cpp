@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-/// The number that fills all of `digits`; nothing when another character is among them.
+/// The number in `digits`; nothing if any character is not a digit.
 std::optional<int> number(std::string_view digits)
 {
     int value = 0;
@@ -56,7 +56,7 @@ std::optional<TimePoint> timeFromIso(std::string_view text)
     if (!y || !mo || !d || !h || !mi || !s || *h > 23 || *mi > 59 || *s > 59)
         return std::nullopt;
     const year_month_day date(year(*y), month(static_cast<unsigned>(*mo)), day(static_cast<unsigned>(*d)));
-    // Farther apart, the nanoseconds between two times would not fit into 64 bits.
+    // Times further apart would overflow 64 bits of nanoseconds.
     if (!date.ok() || *y < 1900 || *y > 2190)
         return std::nullopt;
     return TimePoint(sys_days(date)) + hours(*h) + minutes(*mi) + seconds(*s);

@@ -7,14 +7,14 @@
 
 namespace orlen {
 
-/// A point in time of the wall clock. Rules that depend on "now" take it as a parameter.
+/// A wall-clock time. Rules that depend on "now" take it as a parameter.
 using TimePoint = std::chrono::system_clock::time_point;
 
-/// "2025-03-01T09:30:00Z": UTC, whole seconds (earlier fractions are cut towards the past).
+/// "2025-03-01T09:30:00Z": UTC, whole seconds, rounded down.
 [[nodiscard]] std::string isoText(TimePoint time);
 
-/// Reads exactly the form that `isoText` writes; nothing for any other text, an impossible date or a
-/// year outside 1900 to 2190.
+/// Parses exactly what `isoText` writes; nothing for any other text, an impossible date, or a year outside
+/// 1900 to 2190.
 [[nodiscard]] std::optional<TimePoint> timeFromIso(std::string_view text);
 
 } // namespace orlen

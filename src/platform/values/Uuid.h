@@ -8,15 +8,15 @@
 
 namespace orlen {
 
-/// A 128-bit identity.
+/// A UUID.
 struct Uuid {
     std::array<std::uint8_t, 16> bytes{};
 
-    /// A fresh random one (version 4) from the system's generator. Any thread.
+    /// A new random one (version 4) from the system's generator. Any thread.
     [[nodiscard]] static Uuid random();
-    /// Reads the hyphenated form, letters of either case; nothing for any other text.
+    /// Parses the hyphenated form in either case; nothing for any other text.
     [[nodiscard]] static std::optional<Uuid> parse(std::string_view text);
-    /// The hyphenated form in capital letters.
+    /// The hyphenated form in upper case.
     [[nodiscard]] std::string text() const;
 
     friend bool operator==(const Uuid&, const Uuid&) = default;

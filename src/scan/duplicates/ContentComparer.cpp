@@ -53,7 +53,7 @@ std::vector<ContentComparer::Same> ContentComparer::identical(std::span<const Su
     return groups;
 }
 
-/// Also drops the files that do not tell where their data lies.
+/// Also drops files whose data ranges cannot be read.
 FileRange ContentComparer::nextBlock(std::vector<Same>& groups, std::int64_t offset, std::int64_t length)
 {
     FileRange next{length, length};
@@ -63,7 +63,7 @@ FileRange ContentComparer::nextBlock(std::vector<Same>& groups, std::int64_t off
             next.start = std::min(next.start, std::max(offset, m_files[i].data.start));
     }
     dropLone(groups);
-    // No further than the data that begins here: what lies in a gap of all is not read.
+    // Up to the end of the data that starts here: gaps common to all are not read.
     next.end = next.start;
     for (const Same& group : groups) {
         for (const std::size_t i : group) {

@@ -11,22 +11,22 @@
 
 namespace orlen {
 
-/// Compares a few files of one length side by side, block by block. It says the same as comparing their full
-/// hashes would, in a fraction of the time: hashing costs several times as much as reading, and files that
-/// differ early are read no further. Where no file holds data, nothing is read: holes are equal, and a hole
-/// equals written zeros. One object per thread; blocks on the disk.
+/// Compares a few files of equal length block by block, in parallel. The result is the same as comparing full
+/// hashes, in a fraction of the time: hashing costs several times as much as reading, and files that differ
+/// early are not read further. Where no file has data, nothing is read: holes are equal to each other and to
+/// written zeros. One object per thread; blocks on the disk.
 class ContentComparer {
 public:
-    /// So many files at most are open and have a block in memory.
+    /// Most files open at once, each with a block in memory.
     static constexpr std::size_t kMostFiles = 16;
 
-    /// Indices of files with the same content, two at least.
+    /// Indices of files with the same content, at least two.
     using Same = std::vector<std::size_t>;
 
     explicit ContentComparer(std::stop_token stop) : m_stop(std::move(stop)) {}
 
-    /// The groups of identical files; a file that cannot be read or changed since it was seen is in none.
-    /// Empty when stopped.
+    /// Groups of identical files. A file that cannot be read or has changed since it was seen is in none.
+    /// Empty if stopped.
     [[nodiscard]] std::vector<Same> identical(std::span<const Suspect> suspects);
 
     [[nodiscard]] std::int64_t bytesRead() const { return m_bytesRead; }
@@ -34,10 +34,10 @@ public:
 private:
     struct Open {
         UniqueFd fd;
-        FileRange data; ///< the first run of data that ends behind what was compared
+        FileRange data; ///< the first data range ending after what was compared
     };
 
-    /// The next bytes to compare: where any of the files holds data.
+    /// The next range to compare: where any of the files has data.
     [[nodiscard]] FileRange nextBlock(std::vector<Same>& groups, std::int64_t offset, std::int64_t length);
     [[nodiscard]] bool findData(Open& file, std::int64_t offset, std::int64_t length) const;
     [[nodiscard]] std::byte* block(std::size_t index);

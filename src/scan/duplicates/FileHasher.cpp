@@ -8,9 +8,9 @@ namespace orlen {
 
 namespace {
 
-// Read at once; a stop is looked for between two blocks.
+// Read in one go; a stop is checked between blocks.
 constexpr std::int64_t kReadLength = 1'048'576;
-// Holes begin and end at multiples of this, or of a multiple of it.
+// Holes start and end at multiples of this.
 constexpr std::int64_t kPage = 4'096;
 
 bool isZero(std::span<const std::byte> bytes)
@@ -21,7 +21,7 @@ bool isZero(std::span<const std::byte> bytes)
 
 } // namespace
 
-/// Fills the block from the file; false when stopped or when the file has become shorter.
+/// Fills the block from the file; false if stopped or if the file has become shorter.
 bool FileHasher::read(const UniqueFd& file, std::int64_t offset, std::span<std::byte> block)
 {
     if (m_stop.stop_requested())
@@ -33,7 +33,7 @@ bool FileHasher::read(const UniqueFd& file, std::int64_t offset, std::span<std::
     return true;
 }
 
-/// Hashes the pages of a run of data that are not all zeros, with their places.
+/// Hashes the pages of a data range that are not all zeros, with their positions.
 bool FileHasher::addPages(const UniqueFd& file, FileRange data)
 {
     m_buffer.resize(std::max(m_buffer.size(), static_cast<std::size_t>(kReadLength)));
@@ -54,7 +54,7 @@ bool FileHasher::addPages(const UniqueFd& file, FileRange data)
     return true;
 }
 
-/// Reads and hashes a range; false when stopped or when the file has become shorter.
+/// Reads and hashes a range; false if stopped or if the file has become shorter.
 bool FileHasher::add(const UniqueFd& file, std::int64_t offset, std::int64_t length)
 {
     const auto wanted = static_cast<std::size_t>(std::min(length, kReadLength));
@@ -77,9 +77,8 @@ std::optional<Digest> FileHasher::quick(const Suspect& suspect)
     if (!file)
         return std::nullopt;
     ++m_filesOpened;
-    // The tail is found by the length of the content, not by the allocated bytes that files are grouped by:
-    // these end elsewhere, in front of the tail of a file with holes and behind that of one with reserved
-    // blocks.
+    // The tail is located by the file's length, not by the allocated bytes files are grouped by: these end
+    // before the tail of a file with holes and after that of one with reserved blocks.
     const std::int64_t length = suspect.seen.length;
     bool isRead = add(*file, 0, std::min(length, kPiece));
     if (length > 2 * kPiece)
@@ -103,7 +102,7 @@ std::optional<Digest> FileHasher::full(const Suspect& suspect)
         isRead = data.ok();
         if (!isRead || !data.value())
             break;
-        // From the start of the page, so that a page is hashed the same whatever holes are around it.
+        // From the start of the page, so that its hash does not depend on the holes around it.
         const std::int64_t start = std::max(offset, data.value()->start / kPage * kPage);
         const std::int64_t end = std::min(length, (data.value()->end + kPage - 1) / kPage * kPage);
         isRead = addPages(*file, {start, end});

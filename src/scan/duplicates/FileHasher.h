@@ -13,21 +13,20 @@
 
 namespace orlen {
 
-/// Hashes files, one after the other, with one buffer and one hash state. One object per thread; blocks on
-/// the disk. Nothing comes back for a file that cannot be read, that changed since it was seen, or when
-/// stopped.
+/// Hashes files one after another with one buffer and one hash state. One object per thread; blocks on the
+/// disk. No result for a file that cannot be read or has changed since it was seen, or if stopped.
 class FileHasher {
 public:
-    /// Length of a piece that a quick hash reads. A file of at most one piece is read whole.
+    /// Length of the pieces a quick hash reads. A file of at most one piece is read whole.
     static constexpr std::int64_t kPiece = 65'536;
 
     explicit FileHasher(std::stop_token stop) : m_stop(std::move(stop)) {}
 
-    /// SHA-256 of the first piece, and of the last one when the content is longer than two pieces.
+    /// SHA-256 of the first piece, and of the last if the file is longer than two pieces.
     [[nodiscard]] std::optional<Digest> quick(const Suspect& suspect);
 
-    /// A digest of the whole content: SHA-256 of those pages that are not all zeros, each with its place.
-    /// Holes are not read, and a hole counts as the zeros that it stands for.
+    /// A digest of the whole content: SHA-256 of all pages that are not zeros, with their positions. Holes
+    /// are not read and count as zeros.
     [[nodiscard]] std::optional<Digest> full(const Suspect& suspect);
 
     [[nodiscard]] std::int64_t filesOpened() const { return m_filesOpened; }

@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-/// Characters of a UTF-8 text: every byte but those that continue one.
+/// Characters of UTF-8 text: all bytes but continuation bytes.
 std::ptrdiff_t characters(const std::string& text)
 {
     return std::ranges::count_if(text,

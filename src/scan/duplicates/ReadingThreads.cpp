@@ -10,8 +10,8 @@ namespace orlen {
 
 namespace {
 
-// More threads than cores on purpose: most of them wait for the disk, and a cold disk answers several
-// requests at once faster than one after the other.
+// More threads than cores on purpose: most wait for the disk, and a cold disk serves several requests at once
+// faster than one after another.
 constexpr unsigned kFewestThreads = 8;
 constexpr unsigned kMostThreads = 16;
 

@@ -12,11 +12,11 @@
 
 namespace orlen {
 
-/// Does the pieces of a search on several threads at once. They are the search's own: a piece may read for
-/// seconds, and the shared disk workers' small pieces should not wait behind it.
+/// Runs the tasks of a search on several threads. They are the search's own: a task may read for seconds, and
+/// the small pieces of the disk workers should not wait behind it.
 class ReadingThreads {
 public:
-    /// What a thread reads with; its buffers are kept from step to step.
+    /// What a thread reads with. Its buffers are kept between steps.
     struct Reader {
         explicit Reader(const std::stop_token& stop) : hasher(stop), comparer(stop) {}
         FileHasher hasher;
@@ -26,8 +26,8 @@ public:
 
     explicit ReadingThreads(const std::stop_token& stop);
 
-    /// Calls the task with 0 to `count` - 1, each once, begun in this order, and returns when all are done;
-    /// when stopped, the remaining ones are not begun.
+    /// Calls the task with 0 to `count` - 1, each once and started in this order, and returns when all are
+    /// done. If stopped, starts no more.
     void forEach(std::size_t count, const Task& task);
 
     [[nodiscard]] std::int64_t filesOpened() const;
@@ -35,7 +35,7 @@ public:
 
 private:
     std::stop_token m_stop;
-    std::deque<Reader> m_readers; ///< one for each thread; they cannot move
+    std::deque<Reader> m_readers; ///< one per thread; they cannot move
 };
 
 } // namespace orlen

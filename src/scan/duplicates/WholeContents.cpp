@@ -31,7 +31,7 @@ std::vector<Portion> portionsOf(std::span<const std::span<Suspect>> groups)
             rest = rest.subspan(files);
         }
     }
-    // The longest first: one that is begun last would keep one thread busy and the others waiting.
+    // Longest first: one started last would keep one thread busy and the others waiting.
     std::ranges::stable_sort(portions, std::ranges::greater(), [](const Portion& portion) {
         return portion.files.front().seen.length * static_cast<std::int64_t>(portion.files.size());
     });
@@ -50,15 +50,15 @@ void compare(Reader& reader, Portion& portion)
     }
     if (portion.isWholeGroup)
         return;
-    // A file without its like here may find it in another portion.
+    // A file unique here may have a duplicate in another portion.
     for (std::size_t i = 0; i < isPlaced.size(); ++i) {
         if (!isPlaced[i])
             portion.identical.push_back({portion.files[i]});
     }
 }
 
-/// Gives the first file its full hash; a file that can no longer be read is dropped and leaves that to the
-/// next.
+/// Computes the full hash of the first file; if it can no longer be read it is dropped and the next takes its
+/// place.
 void hashFirst(Reader& reader, Suspects& alike)
 {
     while (!alike.empty()) {
@@ -70,7 +70,7 @@ void hashFirst(Reader& reader, Suspects& alike)
     }
 }
 
-/// Joins those lists of identical files that have one content.
+/// Joins lists of identical files that have the same content.
 std::vector<Suspects> join(ReadingThreads& threads, std::vector<Suspects> lists)
 {
     threads.forEach(lists.size(), [&](Reader& reader, std::size_t i) { hashFirst(reader, lists[i]); });

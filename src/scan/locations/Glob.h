@@ -8,21 +8,20 @@ namespace orlen {
 class UnreadableFolders;
 }
 
-/// Patterns in which "*" stands for any run of bytes within one component.
+/// Patterns in which "*" matches any number of bytes within one component.
 namespace orlen::Glob {
 
-/// Whether the name fits any of the patterns. Pure.
+/// Whether any of the patterns matches the name. Pure.
 [[nodiscard]] bool matchesAny(const std::vector<std::string_view>& patterns, std::string_view name);
 
 struct Match {
     std::string path;
-    std::vector<std::string> names; ///< what the components with a "*" stand for, in order
+    std::vector<std::string> names; ///< what the components with a "*" matched, in order
 };
 
-/// The paths that a pattern below a folder stands for, by name; the folder's own path is taken literally. A
-/// component with a "*" stands for each folder there is that is no link; other components are taken as they
-/// are, whether they exist or not. `unreadable`, when not null, is told of folders that could not be listed.
-/// Blocks on the disk.
+/// The paths matched by a pattern below a folder, sorted by name; the folder's own path is literal. A
+/// component with a "*" matches existing folders that are not links; others are taken as they are, existing
+/// or not. `unreadable`, if not null, collects folders that could not be listed. Blocks on the disk.
 [[nodiscard]] std::vector<Match> paths(const std::string& folder, std::string_view pattern,
                                        UnreadableFolders* unreadable = nullptr);
 

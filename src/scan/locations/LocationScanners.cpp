@@ -1,8 +1,8 @@
 #include "scan/locations/LocationScanners.h"
 
-#include "scan/locations/LanguagePacks.h"
 #include "scan/locations/OldDownloads.h"
 #include "scan/locations/SourceReader.h"
+#include "scan/locations/mac/LanguagePacks.h"
 
 namespace orlen {
 

@@ -14,12 +14,12 @@ class RecentDocuments;
 class ScanProgress;
 class UnreadableFolders;
 
-/// The seven scanners that look only at known places. Each blocks on the disk and returns one finding per
-/// kind that it covers, possibly without entries; what cannot be listed contributes nothing. They may all run
-/// at once. A stopped scanner returns what it has.
+/// The seven scanners of known places. Each blocks on the disk and returns one finding per kind it covers,
+/// possibly empty; what cannot be listed is skipped. All may run at once. A stopped scanner returns what it
+/// has.
 class LocationScanners {
 public:
-    /// `unreadable`, when not null, is told of folders that could not be read.
+    /// `unreadable`, if not null, collects folders that could not be read.
     LocationScanners(ScanProgress& progress, std::stop_token stop, UnreadableFolders* unreadable = nullptr)
         : m_progress(progress), m_stop(std::move(stop)), m_unreadable(unreadable)
     {
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::vector<Finding> packageCaches() const;
     [[nodiscard]] std::vector<Finding> trashAndMail() const;
     [[nodiscard]] std::vector<Finding> languagePacks() const;
-    /// Items of the Downloads folders not touched for 30 days before `now`.
+    /// Items of the Downloads folders not touched in the 30 days before `now`.
     [[nodiscard]] std::vector<Finding> downloads(TimePoint now, const RecentDocuments& recent) const;
 
 private:

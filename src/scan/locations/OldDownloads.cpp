@@ -23,7 +23,7 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
     const auto mounts = CurrentMounts::table();
     std::vector<std::string> paths;
     std::vector<FS::LastUse> uses;
-    // Dating comes first: what is young need not be measured. What has no date is gone, and never old.
+    // Check dates first: young items need not be measured. Items without a date are gone, and never old.
     for (std::string& path : reader.paths(FindingKind::oldDownloads)) {
         if (stop.stop_requested())
             break;

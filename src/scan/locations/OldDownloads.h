@@ -12,12 +12,12 @@ class SourceReader;
 class UnreadableFolders;
 } // namespace orlen
 
-/// What has been lying in the Downloads folders.
+/// Old items in the Downloads folders.
 namespace orlen::OldDownloads {
 
-/// The items last opened (else last changed) more than 30 days before `now`, with the
-/// date of the opening, if there was one. Blocks on the disk; any thread. A stopped search returns what it
-/// has. `unreadable`, when not null, is told of folders that could not be read.
+/// The items last opened, or else changed, more than 30 days before `now`, with the date of opening if known.
+/// Blocks on the disk; any thread. If stopped, returns what it has. `unreadable`, if not null, collects
+/// folders that could not be read.
 [[nodiscard]] std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now,
                                              const RecentDocuments& recent, UnreadableFolders* unreadable,
                                              const std::stop_token& stop);

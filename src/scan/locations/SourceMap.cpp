@@ -7,11 +7,18 @@
 
 #include <algorithm>
 
+// Who offers what. Every row's patterns are expanded to sources, and the map keeps each source's path and all
+// folders above it. A folder's child is then offered by at most one source:
+// - by none, if another source is at the child or below it: that source offers it, or part of it;
+// - by none, if any row reading the folder excludes it;
+// - otherwise by the first row reading the folder whose names and test accept it.
+// A source that is an entry itself is offered unless another source is below it or reads it as a folder, and
+// if several rows have it, by the first.
 namespace orlen {
 
 namespace {
 
-/// "Google/AndroidStudio*" says that a folder "Google" is meant only when it holds something of that name.
+/// "Google/AndroidStudio*" excludes a folder "Google" only if it contains a match.
 bool isExcluded(const SourceRow& row, const std::string& child)
 {
     const std::string_view name = PathText::lastComponent(child);
@@ -46,7 +53,7 @@ bool isLeftOut(const SourceRow& row, const Glob::Match& match)
                        [&](const std::string& name) { return Glob::matchesAny(row.exceptFolders, name); });
 }
 
-/// Where the components with a "*" begin; the whole length when there are none.
+/// Where the components with a "*" start; the whole length if there are none.
 std::size_t firstStar(std::string_view pattern)
 {
     const std::size_t star = pattern.find('*');
@@ -120,7 +127,7 @@ bool SourceMap::isOfferedBy(const Source& source, const std::string& child) cons
 {
     if (m_above.contains(child) || m_byPath.contains(child))
         return false;
-    // What one row of the folder never offers, no other may: it is left alone for what it is.
+    // What one row of the folder never offers, no other may: it is excluded for what it is.
     const std::vector<const Source*> readers = at(source.path);
     if (std::any_of(readers.begin(), readers.end(),
                     [&](const Source* reader) { return isExcluded(*reader->row, child); }))

@@ -12,28 +12,27 @@ namespace orlen {
 struct Places;
 class UnreadableFolders;
 
-/// One path that a row stands for.
+/// One path a row stands for.
 struct Source {
     const SourceRow* row;
     std::string path;
     std::string note; ///< the row's, filled in
 };
 
-/// Where all rows lead in this home folder. Variables may put one known place into another or make two the
-/// same; the map knows, so that nothing is offered twice, neither by itself nor within a larger entry.
-/// Immutable; any thread.
+/// Where all rows lead in this home folder. Variables may nest one known place inside another or make two the
+/// same; the map takes care that nothing is offered twice, by itself or as part of a larger entry. Immutable;
+/// any thread.
 class SourceMap {
 public:
-    /// Blocks on the disk to see what "*" stands for; `unreadable`, when not null, is told of folders where
-    /// that failed. Without sources when the home folder cannot be used.
+    /// Blocks on the disk to expand "*"; `unreadable`, if not null, collects folders where that failed. Empty
+    /// if the home folder is unusable.
     explicit SourceMap(const Places& places, UnreadableFolders* unreadable = nullptr);
 
     /// The sources of a row, in order.
     [[nodiscard]] std::vector<const Source*> of(const SourceRow& row) const;
 
-    /// Whether a child of the source's folder is this source's to offer: its names and test allow it, no
-    /// earlier row reads the same folder and takes it, and no other source lies at or below it. May block on
-    /// the disk.
+    /// Whether this source offers a child of its folder: its name and test allow it, no earlier row offers it
+    /// from the same folder, and no other source is at or below it. May block on the disk.
     [[nodiscard]] bool isOfferedBy(const Source& source, const std::string& child) const;
     /// The same for a source that is an entry itself.
     [[nodiscard]] bool isOffered(const Source& single) const;
@@ -45,8 +44,8 @@ private:
     [[nodiscard]] std::vector<const Source*> at(const std::string& path) const;
 
     std::vector<Source> m_sources;
-    std::unordered_map<std::string, std::vector<std::size_t>> m_byPath; ///< places in m_sources, in order
-    std::unordered_set<std::string> m_above; ///< all folders in which a source lies
+    std::unordered_map<std::string, std::vector<std::size_t>> m_byPath; ///< indices into m_sources, in order
+    std::unordered_set<std::string> m_above;                            ///< all folders that contain a source
 };
 
 } // namespace orlen

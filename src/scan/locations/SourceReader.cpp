@@ -20,8 +20,8 @@ namespace orlen {
 
 namespace {
 
-/// The folder, unless it or a folder on the way to it from the home folder is a link. The home folder itself,
-/// and what it lies in, may be one.
+/// The folder, unless it or a folder between it and the home folder is a link. The home folder itself and its
+/// parents may be links.
 Result<UniqueFd> openWithoutLinks(const std::string& path)
 {
     const std::string& home = Places::current().home;
@@ -51,7 +51,7 @@ bool isLink(int folder, const FolderEntry& entry)
     return !status.ok() || status.value().type == FileType::link;
 }
 
-/// Names that are never entries of a row, whatever they are.
+/// Names that are never entries of a row.
 bool isSkipped(const SourceRow& row, std::string_view name)
 {
     if (row.reading == Reading::children && (name == ".DS_Store" || name == ".localized"))
@@ -126,7 +126,7 @@ std::vector<std::string> SourceReader::paths(FindingKind kind) const
 
 std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
 {
-    // All folders of the row are measured together: the disk is kept busy by the largest of them all.
+    // All folders of the row are measured together, which keeps the disk busy.
     std::vector<std::string> found;
     std::vector<const Source*> origins;
     for (const Source* source : m_map.of(row)) {
@@ -154,10 +154,10 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
     return entries;
 }
 
-/// Drops from the end as many entries as the row's places that other rows offer would have pushed out.
+/// Drops as many entries from the end as the places offered by other rows would have displaced.
 void SourceReader::leaveRoomForOthers(const SourceRow& row, std::vector<FileEntry>& entries) const
 {
-    // They are measured by their own rows; here they count only when there are too many entries.
+    // They are measured by their own rows; here they count only if there are too many entries.
     if (entries.size() + row.exceptAfterLimit.size() <= row.limit)
         return;
     std::vector<std::string> others;
@@ -174,7 +174,7 @@ void SourceReader::leaveRoomForOthers(const SourceRow& row, std::vector<FileEntr
     for (const FileEntry& other : measured) {
         const auto larger =
             std::ranges::count_if(entries, [&](const FileEntry& entry) { return entry.size >= other.size; });
-        // Its place among the largest: behind those of its size, and behind the others already counted.
+        // Its rank among the largest: after those of its size, and after the others already counted.
         room -= static_cast<std::size_t>(larger) < room ? 1 : 0;
     }
     entries.resize(std::min(entries.size(), room));
@@ -225,7 +225,7 @@ std::vector<std::string> SourceReader::pathsIn(const Source& folder) const
     return found;
 }
 
-/// Notes the path, or the first folder on the way to it that lets nobody through.
+/// Notes the path, or the first folder on the way to it that denies access.
 void SourceReader::noteUnreachable(std::string path, int error) const
 {
     if (m_unreadable == nullptr || !UnreadableFolders::isUnreadable(error))

@@ -12,18 +12,17 @@ namespace orlen {
 class ScanProgress;
 class UnreadableFolders;
 
-/// Lists and measures what the rows of the table lead to. Reads nothing but the disk and the map: several
-/// readers may work at once. A stopped one returns what it has.
+/// Lists and measures what the rows of the table lead to. It changes nothing, so several may work at once. A
+/// stopped one returns what it has.
 class SourceReader {
 public:
-    /// `unreadable`, when not null, is told of folders that could not be read.
+    /// `unreadable`, if not null, collects folders that could not be read.
     SourceReader(ScanProgress& progress, std::stop_token stop, UnreadableFolders* unreadable = nullptr);
 
-    /// The measured entries of all rows of a kind, row after row, each row's largest first. Blocks on the
-    /// disk.
+    /// The measured entries of all rows of a kind, row by row, each row's largest first. Blocks on the disk.
     [[nodiscard]] std::vector<FileEntry> entries(FindingKind kind) const;
 
-    /// The paths that the rows of a kind may offer, not measured, in listing order. Blocks on the disk.
+    /// The paths that rows of a kind may offer, unmeasured, in listing order. Blocks on the disk.
     [[nodiscard]] std::vector<std::string> paths(FindingKind kind) const;
 
 private:

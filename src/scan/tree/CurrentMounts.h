@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// The mount table for measuring, read again when the last one is older than a second: many small
-/// measurements in a row share one reading. Any thread.
+/// The mount table for measuring, reread when older than a second, so that many small measurements share one
+/// reading. Any thread.
 namespace orlen::CurrentMounts {
 
 [[nodiscard]] std::shared_ptr<const MountTable> table();

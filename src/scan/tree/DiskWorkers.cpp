@@ -8,10 +8,10 @@ namespace orlen {
 
 namespace {
 
-// Between 8 and 16 a cold disk gains nothing more from further threads, and a warm one loses nothing.
+// Between 8 and 16 threads a cold disk stops gaining, and a warm one does not lose.
 constexpr unsigned kFewestThreads = 8;
 constexpr unsigned kMostThreads = 16;
-// Pieces done before a thread looks at the other jobs again.
+// Pieces done before a thread checks the other jobs again.
 constexpr int kPiecesInTurn = 16;
 
 } // namespace
@@ -26,7 +26,7 @@ DiskWorkers::DiskWorkers()
 {
     const unsigned wanted = std::clamp(std::thread::hardware_concurrency() * 4, kFewestThreads, kMostThreads);
     for (unsigned i = 0; i < wanted; ++i) {
-        // A job's owner does all that nobody else does, also where no thread can be had.
+        // A job's owner does whatever nobody else does, so it works without any threads.
         auto thread = Threads::start("orlen-disk", [this](const std::stop_token& stop) { work(stop); });
         if (!thread)
             break;
@@ -46,8 +46,8 @@ void DiskWorkers::Job::announce(int pieces)
 {
     m_unfinished.fetch_add(pieces);
     m_waiting.fetch_add(pieces);
-    // A thread that is about to sleep says so before it looks for work a last time, and the work is counted
-    // before it is asked who sleeps: one of the two sees the other.
+    // A thread going to sleep says so before its last look for work, and work is counted before checking who
+    // sleeps: one of the two always sees the other.
     DiskWorkers& pool = shared();
     if (m_isOwnerIdle.load() || pool.m_idle.load() > 0)
         pool.wakeFor(*this, pieces);
@@ -70,8 +70,8 @@ void DiskWorkers::wakeOwner(Job& job)
     job.m_ownerWoken.notify_one();
 }
 
-/// A job with waiting pieces: the first of user priority, else the first of the others. It goes to the end of
-/// the line. Called under the lock.
+/// A job with waiting pieces: the first of user priority, else the first of the others. It moves to the end
+/// of the line. Call under the lock.
 DiskWorkers::Job* DiskWorkers::nextJob()
 {
     auto found = m_jobs.end();
@@ -144,7 +144,7 @@ void DiskWorkers::run(Job& job)
         job.m_ownerWoken.wait(lock, [&] { return job.m_waiting.load() > 0 || job.m_unfinished.load() == 0; });
         job.m_isOwnerIdle.store(false);
     }
-    // A helper may still be on its way out: the job must not go before it.
+    // A helper may still be leaving: the job must outlive it.
     std::unique_lock lock(m_lock);
     std::erase(m_jobs, &job);
     job.m_ownerWoken.wait(lock, [&] { return job.m_helpers == 0; });

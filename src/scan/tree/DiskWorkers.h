@@ -8,16 +8,16 @@
 
 namespace orlen {
 
-/// The one pool of threads for disk work. More threads than cores on purpose: most of them wait for the disk,
-/// and a cold disk answers many requests at once several times as fast as two.
+/// The thread pool for disk work. It has more threads than cores on purpose: most wait for the disk, and a
+/// cold disk serves many requests at once several times faster than two.
 ///
-/// Work comes as jobs that are shared out piece by piece. Threads go round the jobs that have pieces, those
-/// of user priority first, so that a small job does not wait behind a large one.
+/// Work comes as jobs made of pieces. Threads take turns among the jobs with pieces waiting, user priority
+/// first, so that a small job does not wait behind a large one.
 class DiskWorkers {
 public:
     enum class Priority { user, utility };
 
-    /// One operation's work. Lives in `run` of the thread that wants it done.
+    /// One operation's work. Lives in the calling thread's `run`.
     class Job {
     public:
         explicit Job(Priority priority) : m_priority(priority) {}
@@ -26,16 +26,16 @@ public:
         virtual ~Job() = default;
 
     protected:
-        /// Takes one waiting piece and does it; there is always one. Called by several threads at once.
+        /// Takes and does one waiting piece; there always is one. Called by several threads at once.
         virtual void doPiece() = 0;
-        /// Tells that `pieces` more are waiting to be taken.
+        /// Announces `pieces` more waiting pieces.
         void announce(int pieces);
 
     private:
         friend class DiskWorkers;
         const Priority m_priority;
-        std::atomic<int> m_waiting{0};    ///< pieces announced and not yet taken
-        std::atomic<int> m_unfinished{0}; ///< pieces announced and not yet done
+        std::atomic<int> m_waiting{0};    ///< announced but not taken
+        std::atomic<int> m_unfinished{0}; ///< announced but not done
         std::atomic<bool> m_isOwnerIdle{false};
         int m_helpers = 0; ///< pool threads inside; guarded by the pool's lock
         std::condition_variable m_ownerWoken;
@@ -44,7 +44,7 @@ public:
     /// The process's pool, started on first use.
     [[nodiscard]] static DiskWorkers& shared();
 
-    /// Has the job done and returns when no piece is left. The calling thread takes its share of the work.
+    /// Does the job and returns when no piece is left. The calling thread helps.
     void run(Job& job);
 
     [[nodiscard]] std::size_t threads() const { return m_threads.size(); }
@@ -60,9 +60,9 @@ private:
 
     std::mutex m_lock;
     std::condition_variable m_workAnnounced;
-    std::vector<Job*> m_jobs; ///< running jobs in turn order
+    std::vector<Job*> m_jobs; ///< running jobs, in turn
     std::atomic<int> m_idle{0};
-    std::vector<std::jthread> m_threads; ///< last: ends before what it uses
+    std::vector<std::jthread> m_threads; ///< last: joined before the rest is destroyed
 };
 
 } // namespace orlen

@@ -9,18 +9,18 @@
 
 namespace orlen {
 
-/// Marks on a few absolute paths, laid out as a tree of components, so that a scan that goes down with it
-/// knows a marked folder by its name alone: no path text is built for the many folders that nobody marked.
-/// Built first, then read by any number of threads.
+/// Marks on a few absolute paths, as a tree of components, so that a scan descending in step recognises a
+/// marked folder by name alone: no path is built for the many unmarked folders. Built first, then read by any
+/// number of threads.
 class PathMarks {
 public:
-    /// The bit that makes a scan leave a path out without touching it. Other bits are the user's own.
+    /// The bit that makes a scan skip a path without touching it. Callers may use the other bits.
     static constexpr std::uint32_t kSkip = 1;
 
     class Node {
     public:
         [[nodiscard]] std::uint32_t marks() const { return m_marks; }
-        /// Null when nothing at or below that child is marked.
+        /// Null if nothing at or below that child is marked.
         [[nodiscard]] const Node* child(std::string_view name) const;
 
     private:
@@ -33,7 +33,7 @@ public:
 
     /// Adds bits to the marks of a path.
     void mark(std::string_view path, std::uint32_t bits);
-    /// The node of a path; null when nothing at or below it is marked.
+    /// The node of a path; null if nothing at or below it is marked.
     [[nodiscard]] const Node* at(std::string_view path) const;
 
 private:

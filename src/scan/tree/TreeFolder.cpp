@@ -9,9 +9,9 @@ namespace orlen {
 
 TreeFolder::~TreeFolder()
 {
-    // A long chain is let go of one link after the other: left to itself it would recurse once per level and
-    // run out of stack in a tree that somebody nested very deep. A link that goes while another one is being
-    // let go of only leaves its parent here.
+    // Release a long chain link by link: left to itself, destruction would recurse once per level and
+    // overflow the stack in a very deep tree. A link released during another release only hands over its
+    // parent here.
     thread_local std::vector<std::shared_ptr<const TreeFolder>> parents;
     thread_local bool isLettingGo = false;
     if (!m_parent)

@@ -10,12 +10,11 @@
 
 namespace orlen {
 
-/// One folder on the way of a scan. Knows its name and its parent; the path is put together only when asked
-/// for, or kept where the visitor asks for most of them. Immutable once its contents are visited; any thread.
+/// One folder met by a scan. Knows its name and parent; the path is built only on request, or stored if the
+/// visitor asks for most paths. Immutable once its contents are visited; any thread.
 class TreeFolder {
 public:
-    /// So long a path, its end counted, is the longest that the kernel takes; what lies deeper has no path
-    /// that anybody could use.
+    /// The longest path the kernel accepts, with its terminator. Anything deeper has no usable path.
     static constexpr std::size_t kLongestPath = 4'096;
 
     TreeFolder(std::shared_ptr<const TreeFolder> parent, std::string name, std::uint32_t tag)
@@ -29,15 +28,15 @@ public:
 
     /// Null for a root of the scan.
     [[nodiscard]] const TreeFolder* parent() const { return m_parent.get(); }
-    /// The last component; for a root the path it was given by.
+    /// The last component; for a root, the path it was given as.
     [[nodiscard]] const std::string& name() const { return m_name; }
-    /// What the visitor gave when the folder was entered; for a root what its scan was given.
+    /// The tag the visitor returned when the folder was entered; for a root, the given one.
     [[nodiscard]] std::uint32_t tag() const { return m_tag; }
     [[nodiscard]] const FileIdentity& identity() const { return m_identity; }
-    /// Number of the mount it lies on.
+    /// Id of its mount.
     [[nodiscard]] std::uint64_t mount() const { return m_mount; }
 
-    /// Whether a child of this name has a path that the kernel takes.
+    /// Whether the path of a child with this name would be short enough for the kernel.
     [[nodiscard]] bool canName(std::string_view name) const
     {
         return m_pathLength + 1 + name.size() < kLongestPath;
@@ -52,9 +51,9 @@ private:
     std::string m_name;
     std::uint32_t m_tag;
     std::size_t m_pathLength;                      ///< bytes
-    std::string m_path;                            ///< empty: not kept, to be put together
+    std::string m_path;                            ///< empty if not stored
     const PathMarks::Node* m_marks = nullptr;      ///< the caller's marks at and below this folder
-    const PathMarks::Node* m_mountMarks = nullptr; ///< mounts not to be touched
+    const PathMarks::Node* m_mountMarks = nullptr; ///< mounts that must not be touched
     FileIdentity m_identity;
     std::uint64_t m_mount = 0;
 };

@@ -13,15 +13,15 @@ namespace orlen {
 
 class UnreadableFolders;
 
-/// Allocated bytes of each path: of the file itself, or of all regular files below a folder. 0 for what is
-/// missing or cannot be read. All paths are one shared-out job; a stopped one returns what it has.
-/// `unreadable` is told of folders that could not be read.
+/// Allocated bytes of each path: of a file, or of all regular files below a folder. 0 if it is missing or
+/// cannot be read. All paths form one job for the pool; if stopped, returns what it has. `unreadable`
+/// collects folders that could not be read.
 [[nodiscard]] std::vector<std::int64_t>
 measureTrees(std::span<const std::string> paths, const std::stop_token& stop,
              DiskWorkers::Priority priority = DiskWorkers::Priority::user,
              UnreadableFolders* unreadable = nullptr);
 
-/// Adds to a sum that several threads add to; stops the program on overflow.
+/// Adds to a sum shared by several threads; aborts on overflow.
 void addTo(std::atomic<std::int64_t>& sum, std::int64_t bytes);
 
 } // namespace orlen

@@ -19,18 +19,18 @@ namespace orlen {
 
 class UnreadableFolders;
 
-/// What is asked of a file, no more.
+/// One regular file of a folder.
 struct TreeFile {
-    const char* name; ///< ends in a zero byte; not necessarily UTF-8; lives during the call
+    const char* name; ///< zero-terminated, not necessarily UTF-8; valid during the call
     FileStatus status;
 };
 
-/// A folder's names, for deciding about it before it is entered.
+/// A folder's listing, for deciding about it before it is entered.
 class TreeListing {
 public:
     TreeListing(int folder, std::span<const FolderChunk> chunks) : m_folder(folder), m_chunks(chunks) {}
 
-    /// The open folder itself, for looking at a file by name.
+    /// The open folder, for looking at a file by name.
     [[nodiscard]] int descriptor() const { return m_folder; }
     /// Calls `visit(FolderEntry)` for each entry.
     template <typename Visit>
@@ -45,8 +45,7 @@ private:
     std::span<const FolderChunk> m_chunks;
 };
 
-/// What to do on the way. All calls come from several threads at once; calls about one folder come in the
-/// order below.
+/// What to do during a scan. Called from several threads at once; for any one folder, in the order below.
 class TreeVisitor {
 public:
     virtual ~TreeVisitor() = default;
@@ -54,16 +53,16 @@ public:
     /// Whether to enter the child folder `name`, and with which tag. Asked before it is touched.
     virtual std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                                std::uint32_t marks) = 0;
-    /// Whether most folders will be asked for their path: it is then kept instead of put together each time,
-    /// unless it is longer than the kernel takes.
+    /// Whether the paths of most folders will be needed: then they are stored instead of built on request,
+    /// unless too long for the kernel.
     [[nodiscard]] virtual bool asksForPaths() const { return false; }
-    /// Whether `accept` wants to see every folder's names.
+    /// Whether `accept` needs every folder's listing.
     [[nodiscard]] virtual bool looksAtListings() const { return false; }
-    /// Whether to go on with a folder after a look at its names; false leaves out all of it.
+    /// Whether to continue with a folder, given its listing; false skips all of it.
     virtual bool accept(const TreeFolder& folder, const TreeListing& listing);
-    /// The regular files of one bufferful of the folder's listing.
+    /// The regular files in one buffer of the folder's listing.
     virtual void files(const TreeFolder& folder, std::span<const TreeFile> files) = 0;
-    /// Told once for each bufferful: its entries of any type.
+    /// Called once per buffer with its entries of all types.
     virtual void listed(const TreeFolder& folder, const FolderChunk& entries);
 };
 
@@ -72,29 +71,28 @@ struct TreeRoot {
     std::uint32_t tag = 0;
 };
 
-/// What may lie behind a mount point.
+/// Which mount points may be crossed.
 enum class Crossing {
-    anyDisk,        ///< local and removable disks, no network or pseudo file system
+    anyDisk,        ///< local and removable disks, but no network or pseudo file system
     localDisks,     ///< disks of this machine only
-    sameFileSystem, ///< only another mount or subvolume of the root's own file system
+    sameFileSystem, ///< only mounts or subvolumes of the root's own file system
 };
 
 struct TreeScanOptions {
     Crossing crossing = Crossing::anyDisk;
     DiskWorkers::Priority priority = DiskWorkers::Priority::user;
-    /// Folders to leave out or to know by name; null for none. Mounted network and pseudo file systems below
-    /// a root are always left out, before they are touched: a dead server would block.
+    /// Folders to skip or recognise; may be null. Mounted network and pseudo file systems below a root are
+    /// always skipped untouched, since a dead server would block.
     const PathMarks* marks = nullptr;
-    /// Told of each folder that could not be opened or listed; null when nobody asks.
+    /// Collects folders that could not be opened or listed; may be null.
     UnreadableFolders* unreadable = nullptr;
 };
 
-/// Goes through folder trees: relative to open folders, never following a link, one metadata call per regular
-/// file and none for folders and links, folders and large listings shared out to the pool of disk workers, a
-/// bounded number of open descriptors however wide or deep the tree. A folder that cannot be read is passed
-/// over, one that lies deeper than a path may be long is not. Roots that are no folders are passed over too.
-/// Returns when all is visited, or soon after a stop request. A folder that is reached twice through mounts
-/// is visited once.
+/// Scans folder trees: relative to open folders, never following a link, with one metadata call per regular
+/// file and none for folders and links. Folders and large listings are shared among the disk workers, and the
+/// number of open descriptors is bounded however wide or deep the tree. Unreadable folders, and roots that
+/// are not folders, are skipped; folders deeper than a path may be long are not. A folder reachable twice
+/// through mounts is visited once. Returns when everything is visited, or soon after a stop request.
 void scanTrees(std::span<const TreeRoot> roots, TreeVisitor& visitor, const MountTable& mounts,
                const TreeScanOptions& options, const std::stop_token& stop);
 

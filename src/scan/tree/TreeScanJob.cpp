@@ -12,9 +12,9 @@ namespace orlen {
 
 namespace {
 
-// Descriptors that waiting folders may hold at once over all jobs; the usual limit of a process is 1,024.
+// Most descriptors held by waiting folders over all jobs; the usual limit of a process is 1,024.
 constexpr int kMostHeldFolders = 256;
-// Bufferfuls of large listings that may wait in one job before the lister does the work itself: 4 MB.
+// Most buffers of large listings waiting in one job before the lister processes them itself: 4 MB.
 constexpr std::size_t kMostWaitingChunks = 128;
 
 std::atomic<int> heldFolders{0};
@@ -29,8 +29,8 @@ std::uint32_t marksOf(const PathMarks::Node* node)
     return node == nullptr ? 0 : node->marks();
 }
 
-/// The path as the kernel spells it in its mount table. Below a root no link is followed, so only the home
-/// folder's own links count.
+/// The path as spelled in the kernel's mount table. No link is followed below a root, so only the home
+/// folder's own links matter.
 std::string inKernelsForm(const std::string& path)
 {
     const Places& places = Places::current();
@@ -197,7 +197,7 @@ bool TreeScanJob::mayCross(const TreeFolder& from, std::uint64_t mount) const
         return true;
     const Mount* behind = m_mounts.byId(mount);
     const Mount* before = m_mounts.byId(from.mount());
-    // Mounted since the table was read: nothing is known of it.
+    // Mounted since the table was read: unknown.
     if (behind == nullptr || behind->kind == MountClass::foreign)
         return false;
     switch (m_options.crossing) {
@@ -217,8 +217,8 @@ bool TreeScanJob::isFirstVisit(const FileIdentity& identity)
     return m_visited.insert(identity).second;
 }
 
-/// Reads the folder's names. When nobody wants to see them all, every bufferful but the last is shared out or
-/// done at once; otherwise all are kept.
+/// Reads the folder's names. If nobody needs them all at once, every buffer but the last is shared out or
+/// processed right away; otherwise all are kept.
 void TreeScanJob::list(const std::shared_ptr<OpenFolder>& folder, Listing& listing)
 {
     FolderReader reader(folder->fd().get());
@@ -237,7 +237,7 @@ void TreeScanJob::list(const std::shared_ptr<OpenFolder>& folder, Listing& listi
     noteUnreadable(folder->folder()->parent(), folder->folder()->name(), reader.error());
 }
 
-/// Only folders that have a path can be told.
+/// Only folders with a usable path can be reported.
 void TreeScanJob::noteUnreadable(const TreeFolder* parent, const std::string& name, int error) const
 {
     if (m_options.unreadable == nullptr || !UnreadableFolders::isUnreadable(error))
@@ -252,7 +252,7 @@ void TreeScanJob::noteFolders(const OpenFolder& folder, const FolderChunk& chunk
 {
     const PathMarks::Node* mountMarks = folder.folder()->m_mountMarks;
     chunk.forEach([&](const FolderEntry& entry) {
-        // Not even a look at what may never answer.
+        // Do not even look at what may never answer.
         if (marksOf(childOf(mountMarks, entry.name)) != 0)
             return;
         if (entry.type == EntryType::unknown) {
@@ -267,7 +267,7 @@ void TreeScanJob::noteFolders(const OpenFolder& folder, const FolderChunk& chunk
     });
 }
 
-/// Leaves a bufferful to whoever is free. False when enough wait already.
+/// Leaves a buffer to whoever is free. False if enough are waiting already.
 bool TreeScanJob::shareOut(const std::shared_ptr<OpenFolder>& folder, FolderChunk& chunk)
 {
     {
@@ -301,7 +301,7 @@ void TreeScanJob::askAbout(OpenFolder& folder, const FolderChunk& chunk)
 
 void TreeScanJob::waitWith(const std::shared_ptr<OpenFolder>& folder, Listing& listing)
 {
-    // Bufferfuls that still wait use the descriptor; then it stays whatever the number held.
+    // Waiting buffers use the descriptor, so it stays open regardless of the number.
     if (heldFolders.load() > kMostHeldFolders && folder.use_count() == 1)
         folder->giveUpDescriptor();
     listing.folders.shrink_to_fit();
@@ -312,7 +312,7 @@ void TreeScanJob::waitWith(const std::shared_ptr<OpenFolder>& folder, Listing& l
     announce(listing.folderCount);
 }
 
-/// Opens a folder again from its root, component by component, and makes sure that it is still the same one.
+/// Reopens a folder from its root, component by component, and verifies that it is the same one.
 Result<UniqueFd> TreeScanJob::reopen(const TreeFolder& folder)
 {
     std::vector<const TreeFolder*> chain;

@@ -11,11 +11,10 @@ namespace orlen {
 
 /// The work of one `scanTrees`.
 ///
-/// A piece is one folder to open and list, or one bufferful of a large folder's listing to ask about. Folders
-/// wait as names packed behind the open folder that they lie in, the newest taken first: that goes down
-/// before it goes wide, so few folders are open at a time and what waits stays small. Should too many be open
-/// all the same, a folder's descriptor is given up after listing, and each of its children finds the way
-/// again from the root.
+/// A piece is one folder to open and list, or one buffer of a large folder's listing to process. Folders wait
+/// as packed names behind their open parent, and the newest is taken first: going deep before wide keeps few
+/// folders open and the queue short. If too many are open nevertheless, a folder's descriptor is closed after
+/// listing, and its children are reopened from the root.
 class TreeScanJob : public DiskWorkers::Job {
 public:
     TreeScanJob(std::span<const TreeRoot> roots, TreeVisitor& visitor, const MountTable& mounts,
@@ -25,11 +24,11 @@ protected:
     void doPiece() override;
 
 private:
-    /// A folder with its descriptor, shared by what still waits inside it.
+    /// A folder with its descriptor, shared by everything waiting inside it.
     class OpenFolder;
     struct WaitingFolders {
         std::shared_ptr<OpenFolder> parent;
-        std::string names; ///< each ended by a zero byte
+        std::string names; ///< zero-terminated, one after another
         std::size_t next = 0;
     };
     struct WaitingChunk {
@@ -38,7 +37,7 @@ private:
     };
     struct Listing {
         std::vector<FolderChunk> chunks;
-        std::string folders; ///< names, each ended by a zero byte
+        std::string folders; ///< names, zero-terminated, one after another
         int folderCount = 0;
     };
 
@@ -63,7 +62,7 @@ private:
     PathMarks m_foreignMounts; ///< below the roots, spelled as those are
     bool m_remembersFolders = false;
 
-    std::mutex m_lock; ///< guards what waits
+    std::mutex m_lock; ///< guards the queues
     std::vector<WaitingChunk> m_chunks;
     std::vector<WaitingFolders> m_folders;
     std::span<const TreeRoot> m_roots;

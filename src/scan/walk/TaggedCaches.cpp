@@ -23,7 +23,7 @@ constexpr std::int64_t kSmallest = 1'000'000;
 constexpr std::size_t kLimit = 600;
 constexpr std::string_view kNote = "Marked as a cache";
 
-/// Adds up every file and notes the large ones that do not lie in what a walk leaves out by its name.
+/// Adds up all files and collects the large ones, except where a walk would skip by name.
 class Visitor : public TreeVisitor {
 public:
     struct Large {
@@ -75,10 +75,10 @@ private:
     std::vector<Large> m_large;
 };
 
-/// Knows which folders a walk would have left out for what they hold. Few large files lie in few folders.
+/// Knows which folders a walk would have skipped for their contents. Few large files lie in few folders.
 class Natures {
 public:
-    /// Whether any folder from the file's own up to the tagged one is a single thing to its user.
+    /// Whether any folder from the file's own up to the tagged one is a single unit to its user.
     bool areLeftOutBetween(std::string_view folder, std::string_view file)
     {
         for (std::string_view at = PathText::parent(file); at.size() > folder.size();

@@ -12,20 +12,19 @@ namespace orlen {
 
 class UnreadableFolders;
 
-/// Folders that mark themselves as caches: programs do so with what they can make again, and people with what
-/// they keep out of their backups.
+/// Folders tagged as caches: programs tag what they can recreate, and people what they keep out of backups.
 namespace TaggedCaches {
 
 struct Found {
     /// Folders of at least 1,000,000 bytes that may be moved, largest first, at most 600, rated `review`.
     std::vector<FileEntry> entries;
-    /// Files in the folders, whether these are offered or not, that a walk would have met and that have at
-    /// least the bytes asked for; by path, of the names of one file only the first.
+    /// Files of at least the given size in the folders, offered or not, that a walk would have found; sorted
+    /// by path, one name per file.
     std::vector<Cand> largeFiles;
 };
 
-/// Measures the folders and looks through them for large files in one go. Blocks on the disk. A stopped
-/// measurement returns what it has. `unreadable`, when not null, is told of folders that could not be read.
+/// Measures the folders and finds their large files in one pass. Blocks on the disk. If stopped, returns what
+/// it has. `unreadable`, if not null, collects folders that could not be read.
 [[nodiscard]] Found measure(const std::vector<std::string>& folders, std::int64_t largeBytes,
                             UnreadableFolders* unreadable, const std::stop_token& stop);
 

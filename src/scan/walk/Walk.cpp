@@ -17,7 +17,7 @@ namespace orlen::Walk {
 
 namespace {
 
-/// Drops the files that have another name among the candidates.
+/// Drops files that have another name among the candidates.
 void dropKnown(std::vector<Cand>& files, const std::vector<Cand>& cands)
 {
     std::unordered_set<FileIdentity, FileIdentityHash> known;
@@ -47,7 +47,7 @@ Found walk(WalkVisitor::Scope scope, const std::vector<TreeRoot>& roots, ScanPro
     return found;
 }
 
-/// The folders in path order, without those that lie in another one.
+/// The folders in path order, without those inside another.
 std::vector<std::string> outermost(std::vector<std::string> folders)
 {
     std::sort(folders.begin(), folders.end());

@@ -13,39 +13,39 @@ namespace orlen {
 class ScanProgress;
 class UnreadableFolders;
 
-/// One walk over the user's files, which feeds large, old and duplicate files and the photo analysis. Blocks
-/// on the disk; the folders are shared out to the pool of disk workers. A stopped walk returns what it has.
+/// The one walk over the user's files that feeds large, old and duplicate files and the photo analysis.
+/// Blocks on the disk; folders are shared among the disk workers. A stopped walk returns what it has.
 namespace Walk {
 
 struct Found {
-    /// Regular files of at least 1,000,000 allocated bytes, by path; of the names of one file only the first.
+    /// Regular files of at least 1,000,000 allocated bytes, sorted by path, one name per file.
     std::vector<Cand> cands;
-    /// Image files of at least 20,000 bytes in the image folders, by path, at most 1,500; a large one is in
-    /// both.
+    /// Image files of at least 20,000 bytes in the image folders, sorted by path, at most 1,500. Large ones
+    /// are also in `cands`.
     std::vector<Cand> images;
-    /// Folders that mark themselves as caches of at least 1,000,000 bytes, largest first, at most 600; each
-    /// is rated `review` and carries its note.
+    /// Folders of at least 1,000,000 bytes tagged as caches, largest first, at most 600, each rated `review`
+    /// with a note.
     std::vector<FileEntry> taggedCaches;
-    /// Large files in folders that mark themselves as caches, by path. They are large files like others, but
-    /// not compared with anything: people tag folders of virtual machines to keep them out of backups.
+    /// Large files in folders tagged as caches, sorted by path. They count as large files but are not
+    /// compared with others: people tag folders of virtual machines to exclude them from backups.
     std::vector<Cand> largeInCaches;
 };
 
 struct Options {
-    std::int64_t largeBytes = 500'000'000;   ///< from which a file in a tagged folder is a large one
-    UnreadableFolders* unreadable = nullptr; ///< told of folders that could not be read; null: nobody asks
+    std::int64_t largeBytes = 500'000'000;   ///< smallest large file in a tagged folder
+    UnreadableFolders* unreadable = nullptr; ///< collects folders that could not be read; may be null
 };
 
-/// Walks the home folder: no hidden items, no top-level Library, Applications, Public or snap, no packages,
-/// no "node_modules", nothing whose contents are protected or mirrored by a sync program.
+/// Walks the home folder except hidden items, top-level Library, Applications, Public and snap, packages,
+/// "node_modules", and everything whose contents are protected or mirrored by a sync program.
 [[nodiscard]] Found home(ScanProgress& progress, const std::stop_token& stop, const Options& options = {});
 
-/// Walks the given folders by the same rules but without those for top-level names, and collects images
-/// wherever they lie.
+/// Walks the given folders by the same rules, except those for top-level names, and collects images
+/// everywhere.
 [[nodiscard]] Found folders(const std::vector<std::string>& roots, ScanProgress& progress,
                             const std::stop_token& stop, const Options& options = {});
 
-/// What a search for duplicates looks at: the candidates and the images that are too small to be among them.
+/// The input of the duplicate search: the candidates, and the images too small to be among them.
 [[nodiscard]] std::vector<Cand> duplicateInput(const Found& found);
 
 } // namespace Walk

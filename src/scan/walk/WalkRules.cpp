@@ -37,7 +37,7 @@ bool contains(const std::array<std::string_view, Size>& names, std::string_view 
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// The names that tell what a folder is.
+/// The names that reveal what a folder is.
 struct Telltales {
     bool appRun = false;
     bool headFile = false;
@@ -106,7 +106,7 @@ FolderNature natureOf(const TreeListing& listing)
     listing.forEach([&](const FolderEntry& entry) { found.look(entry); });
     if (found.syncMarker)
         return FolderNature::mirrored;
-    // An environment is in use, tagged or not: its makers tag it to keep it out of backups.
+    // An environment is in use even if tagged: its tools tag it to keep it out of backups.
     if (found.environment)
         return FolderNature::package;
     if (found.cacheTag && !found.workTree &&

@@ -35,7 +35,7 @@ std::optional<std::uint32_t> WalkVisitor::enter(const TreeFolder& parent, std::s
 
 bool WalkVisitor::accept(const TreeFolder& folder, const TreeListing& listing)
 {
-    // What the walk was asked for is walked, whatever lies in it.
+    // The given folders themselves are always walked, whatever they contain.
     if (folder.parent() == nullptr)
         return true;
     switch (WalkRules::natureOf(listing)) {
@@ -82,7 +82,7 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
     }
 }
 
-/// Keeps the images that come first by path.
+/// Keeps the first images by path.
 void WalkVisitor::addImages(std::vector<Cand> images)
 {
     const std::lock_guard lock(m_lock);
@@ -96,7 +96,7 @@ void WalkVisitor::addImages(std::vector<Cand> images)
     }
 }
 
-/// Hidden items and the top-level folders that are never walked are not met at all.
+/// Hidden items and skipped top-level folders never get here.
 bool WalkVisitor::isCounted(const TreeFolder& folder, std::string_view name) const
 {
     const bool isTop = m_scope == Scope::homeFolder && folder.parent() == nullptr;

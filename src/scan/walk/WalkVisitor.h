@@ -8,15 +8,15 @@
 
 namespace orlen {
 
-/// Collects candidates on the way of a walk. Its results depend on the files alone, not on which thread met
-/// which folder first: what is limited in number is chosen by path.
+/// Collects candidates during a walk. The result depends on the files only, not on which thread meets which
+/// folder first: where a number is limited, paths decide.
 class WalkVisitor : public TreeVisitor {
 public:
     enum class Scope { homeFolder, givenFolders };
 
-    /// Tag of a folder in which images are collected.
+    /// Tag of folders in which images are collected.
     static constexpr std::uint32_t kImages = 1;
-    /// Smallest general candidate, allocated bytes.
+    /// Smallest general candidate, in allocated bytes.
     static constexpr std::int64_t kCandBytes = 1'000'000;
 
     WalkVisitor(Scope scope, ScanProgress& progress) : m_scope(scope), m_progress(progress) {}
@@ -29,10 +29,10 @@ public:
     void files(const TreeFolder& folder, std::span<const TreeFile> files) override;
     void listed(const TreeFolder& folder, const FolderChunk& entries) override;
 
-    /// After the scan: the candidates in path order, each file once.
+    /// After the scan: the candidates sorted by path, each file once.
     [[nodiscard]] std::vector<Cand> takeCands();
     [[nodiscard]] std::vector<Cand> takeImages();
-    /// The folders that mark themselves as caches, whether they may be offered or not.
+    /// The folders tagged as caches, whether they may be offered or not.
     [[nodiscard]] std::vector<std::string> takeTaggedCaches();
 
 private:
@@ -49,7 +49,7 @@ private:
     ScanProgress& m_progress;
     std::mutex m_lock;
     std::vector<Walked> m_cands;
-    std::vector<Cand> m_images; ///< a heap, the last path on top
+    std::vector<Cand> m_images; ///< a heap with the last path on top
     std::vector<std::string> m_taggedCaches;
 };
 

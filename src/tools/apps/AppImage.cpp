@@ -25,7 +25,7 @@ bool endsWord(std::string_view text, std::size_t at)
     return at >= text.size() || std::string_view("-_. ").find(text[at]) != std::string_view::npos;
 }
 
-/// An architecture that stands as a word of its own becomes a blank.
+/// An architecture that is a word of its own becomes a blank.
 void blankArchitectures(std::string& name)
 {
     const std::string lower = PathText::asciiLower(name);
@@ -39,7 +39,7 @@ void blankArchitectures(std::string& name)
     }
 }
 
-/// "1.2.3", "v2", and what builders hang on: "1.2.3+git".
+/// "1.2.3", "v2", and suffixes such as "1.2.3+git".
 bool isVersion(std::string_view word)
 {
     if (word.starts_with('v') || word.starts_with('V'))
@@ -86,7 +86,7 @@ std::string nameFromFile(std::string_view fileName)
     blankArchitectures(text);
     std::string name;
     for (const std::string_view word : wordsOf(text)) {
-        // A program may be called "2048": a name must not begin with its version.
+        // A program may be called "2048": a name cannot start with its version.
         if (!name.empty() && isVersion(word))
             break;
         name += (name.empty() ? "" : " ") + std::string(word);

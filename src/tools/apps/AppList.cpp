@@ -10,8 +10,9 @@
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
 #include "tools/apps/Launchers.h"
-#include "tools/apps/OwnApps.h"
+#include "tools/apps/RemovableApps.h"
 #include "tools/apps/Snaps.h"
+#include "tools/apps/mac/Bundles.h"
 
 #include <algorithm>
 #include <atomic>
@@ -22,7 +23,7 @@ namespace orlen::AppList {
 
 namespace {
 
-/// Enough to keep the disk busy; each measurement is itself shared out to the pool of disk workers.
+/// Enough to keep the disk busy; each measurement is itself spread over the disk workers.
 constexpr std::size_t kMeasuredAtOnce = 4;
 
 void append(std::vector<AppInfo>& apps, std::vector<AppInfo> more)
@@ -58,9 +59,9 @@ std::vector<AppInfo> list(const std::stop_token& stop)
     if (!Places::current().isHomeUsable)
         return {};
     const std::vector<Launcher> launchers = Launchers::ofUser();
-    std::vector<AppInfo> apps = OwnApps::bundles(launchers);
-    std::vector<AppInfo> images = OwnApps::appImages(launchers, stop);
-    std::vector<AppInfo> folders = OwnApps::folders(launchers, images);
+    std::vector<AppInfo> apps = Bundles::installed(launchers);
+    std::vector<AppInfo> images = RemovableApps::appImages(launchers, stop);
+    std::vector<AppInfo> folders = RemovableApps::folders(launchers, images);
     append(apps, std::move(images));
     append(apps, std::move(folders));
     append(apps, Flatpaks::installed());
@@ -78,7 +79,7 @@ void measure(std::span<const AppInfo> apps, const Measured& measured, const std:
     Threads::runOn("orlen-apps", std::min(kMeasuredAtOnce, apps.size()), [&](std::size_t) {
         for (std::size_t i = next++; i < apps.size(); i = next++) {
             const std::int64_t bytes = FS::allocatedSize(apps[i].path, stop);
-            // What a stopped measurement returns is not the whole.
+            // A stopped measurement is incomplete.
             const std::lock_guard guard(telling);
             if (stop.stop_requested())
                 return;

@@ -5,7 +5,7 @@
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
-#include "platform/text/LineText.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
 #include "tools/apps/AppNames.h"
 #include "tools/apps/Launcher.h"
@@ -31,20 +31,17 @@ bool isPlain(std::string_view identifier)
            !identifier.starts_with('.') && !identifier.starts_with('-');
 }
 
-/// The folders of the installations that an administrator has set up beside the usual ones.
+/// Further installations set up by an administrator.
 std::vector<std::string> furtherFolders(const std::string& settings)
 {
     constexpr std::size_t kLimit = 64UL * 1024;
-    constexpr std::string_view kPath = "Path=";
     std::vector<std::string> folders;
     for (const std::string& name : listNames(settings)) {
         const auto text = readSmallFile(PathText::join(settings, name), kLimit);
-        for (std::size_t at = 0; text && at < text->size();) {
-            const std::size_t end = std::min(text->find('\n', at), text->size());
-            const std::string_view line = LineText::trimmed(std::string_view(*text).substr(at, end - at));
-            if (line.starts_with(kPath))
-                folders.emplace_back(line.substr(kPath.size()));
-            at = end + 1;
+        KeyFile file(text ? std::string_view(*text) : std::string_view());
+        while (const auto line = file.next()) {
+            if (line->key == "Path")
+                folders.emplace_back(line->value);
         }
     }
     return folders;

@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
-/// Applications that Flatpak keeps, and the data of those that it no longer does. Blocks on the disk.
+/// Applications managed by Flatpak, and the data of removed ones. Blocks on the disk.
 namespace orlen::Flatpaks {
 
 [[nodiscard]] std::vector<AppInfo> installed();
 
-/// Data folders of applications that no installation has.
+/// Data folders of applications that are no longer installed.
 [[nodiscard]] std::vector<AppInfo> removed();
 
-/// Whether any installation has the application, or cannot be asked.
+/// Whether any installation has the application, or cannot be read.
 [[nodiscard]] bool isInstalled(const std::string& identifier);
 
 } // namespace orlen::Flatpaks

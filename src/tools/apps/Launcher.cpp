@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-/// Managers of AppImages name the launchers that they write after themselves.
+/// AppImage managers prefix the launchers they write with their name.
 std::string_view withoutManager(std::string_view stem)
 {
     constexpr std::string_view kGearLever = "gearlever_";
@@ -28,7 +28,7 @@ std::string_view withoutManager(std::string_view stem)
     return isKit ? stem.substr(dash + 1) : stem;
 }
 
-/// A bare name among the user's own programs; a system program of that name is nothing that could be removed.
+/// Looks up a bare name among the user's own programs; a system program of that name is not removable.
 std::string located(const std::string& word)
 {
     if (word.find('/') != std::string::npos)
@@ -64,7 +64,7 @@ std::vector<std::string> programsOf(const DesktopEntry& entry)
         if (!words.empty())
             addProgram(programs, words.front());
     }
-    // By the rules this one is a path as it stands, blanks and all.
+    // By the standard this is a literal path, spaces included.
     addProgram(programs, entry.text("TryExec"));
     return programs;
 }

@@ -13,7 +13,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-/// Sub-folders of the menus: old desktops and emulators keep theirs there.
+/// Sub-folders of the menus, used by old desktops and emulators.
 constexpr int kDeepest = 3;
 
 bool isLauncherName(std::string_view name)
@@ -99,6 +99,22 @@ std::vector<const Launcher*> starting(const std::vector<Launcher>& launchers, co
             found.push_back(&launcher);
     }
     return found;
+}
+
+void describe(AppInfo& app, const std::vector<const Launcher*>& launchers)
+{
+    const auto take = [](std::string& field, const std::string& value) {
+        if (field.empty())
+            field = value;
+    };
+    for (const Launcher* launcher : launchers) {
+        app.launchers.push_back(launcher->path);
+        take(app.bundleID, launcher->identifier);
+        take(app.icon, launcher->icon);
+        take(app.name, launcher->name);
+    }
+    for (const Launcher* launcher : launchers)
+        take(app.name, launcher->imageName);
 }
 
 } // namespace orlen::Launchers

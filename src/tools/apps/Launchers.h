@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/apps/AppInfo.h"
 #include "tools/apps/Launcher.h"
 
 #include <functional>
@@ -7,18 +8,22 @@
 #include <string>
 #include <vector>
 
-/// Where launchers lie. Blocks on the disk.
+/// Finds launchers. Blocks on the disk.
 namespace orlen::Launchers {
 
-/// All of the user's own: of the menus, on the desktop, and those started at login. In the order of these
-/// folders, and by path in each. Links are no launchers.
+/// The user's own: from the menus, the desktop and autostart, folder by folder, sorted by path. Links are
+/// skipped.
 [[nodiscard]] std::vector<Launcher> ofUser();
 
-/// Those for all users, of the distribution's packages and of what else puts its menus there, links followed.
+/// Those for all users, from packages and everything else that adds to the menus. Links are followed.
 [[nodiscard]] std::vector<Launcher> ofSystem(const std::stop_token& stop);
 
-/// Those of the list that start the application at the path.
+/// Those that start the application at this path.
 [[nodiscard]] std::vector<const Launcher*> starting(const std::vector<Launcher>& launchers,
                                                     const std::string& app);
+
+/// Fills in an application from its launchers. The first non-empty value counts, and only where the
+/// application has none yet.
+void describe(AppInfo& app, const std::vector<const Launcher*>& launchers);
 
 } // namespace orlen::Launchers

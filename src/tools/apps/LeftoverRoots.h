@@ -8,20 +8,20 @@
 
 namespace orlen {
 
-/// A folder in which applications leave something.
+/// A folder in which applications leave files.
 struct LeftoverRoot {
     std::string folder;
-    std::string_view label; ///< for the reader
+    std::string_view label; ///< shown to the user
     LeftoverRules::Kind kind = LeftoverRules::Kind::library;
 };
 
 namespace LeftoverRoots {
 
-/// All of them in the order in which they are searched. Blocks on the disk.
+/// All roots in search order. Blocks on the disk.
 [[nodiscard]] std::vector<LeftoverRoot> all();
 
 inline constexpr std::string_view kPortableLabel = "Portable data";
-/// What portable mode and updates put beside an AppImage: its path with one of these behind it.
+/// Suffixes of what portable mode and updates put beside an AppImage.
 inline constexpr std::string_view kPortableSuffixes[] = {".home", ".config", ".zsync"};
 
 } // namespace LeftoverRoots

@@ -18,7 +18,7 @@ bool contains(std::string_view entry, std::string_view identifier)
     return entry.find(identifier) != std::string_view::npos;
 }
 
-/// A short identifier, or one of few parts, is a part of many names that have nothing to do with it.
+/// A short identifier, or one with few parts, is part of many unrelated names.
 bool isDistinct(std::string_view identifier)
 {
     constexpr std::size_t kShortest = 10;

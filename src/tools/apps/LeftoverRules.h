@@ -4,35 +4,35 @@
 #include <string_view>
 #include <vector>
 
-/// Which file names belong to an application. All texts in lower case; pure, any thread.
+/// Which file names belong to an application. All text is lower-case. Pure; any thread.
 namespace orlen::LeftoverRules {
 
-/// How the names in one folder are judged.
+/// How names in a folder are matched.
 enum class Kind {
-    library,      ///< of the Library: by identifier
+    library,      ///< in the Library: by identifier
     namedLibrary, ///< the same, and by the application's name
-    agents,       ///< the same as `library`, and property lists by their label
-    settings,     ///< of the base directories: by identifier and name
+    agents,       ///< as `library`, and property lists by their label
+    settings,     ///< in the base directories: by identifier and name
     container,    ///< exactly the identifier
-    metadata,     ///< by the beginning of the name
+    metadata,     ///< by a prefix of the name
     launchers,    ///< by what they start
     units,        ///< by what they start
 };
 
-/// What is known of the application.
+/// What is known about the application.
 struct Subject {
     std::string identifier; ///< empty: nothing matches by it
-    bool isApple = false;   ///< then a name must begin with the identifier
+    bool isApple = false;   ///< then names must start with the identifier
     std::string name;
-    std::vector<std::string> forms; ///< spellings of the name that are its alone
+    std::vector<std::string> forms; ///< spellings of the name that no other application uses
 };
 
 enum class Match { none, identifier, nameOnly };
 
-/// By name alone: nothing is a match where the kind asks for contents.
+/// Matches by name only; kinds that depend on contents never match.
 [[nodiscard]] Match match(std::string_view entry, Kind kind, const Subject& subject);
 
-/// Whether the name is the identifier, with or without an extension, or begins with it and a "." or "-".
+/// Whether the name is the identifier, with or without an extension, or starts with it and "." or "-".
 [[nodiscard]] bool isNamedAfter(std::string_view entry, std::string_view identifier);
 
 } // namespace orlen::LeftoverRules

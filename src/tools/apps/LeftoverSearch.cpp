@@ -10,7 +10,7 @@
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
 #include "tools/apps/Leftovers.h"
-#include "tools/apps/OtherApps.h"
+#include "tools/apps/RemainingApps.h"
 #include "tools/startup/UnitFile.h"
 
 #include <algorithm>
@@ -41,8 +41,9 @@ std::string noteOf(const LeftoverRoot& root, Match match)
 
 } // namespace
 
-LeftoverSearch::LeftoverSearch(LeftoverRules::Subject subject, const OtherApps& others, const AppInfo* app)
-    : m_subject(std::move(subject)), m_others(others), m_app(app)
+LeftoverSearch::LeftoverSearch(LeftoverRules::Subject subject, const RemainingApps& remaining,
+                               const AppInfo* app)
+    : m_subject(std::move(subject)), m_remaining(remaining), m_app(app)
 {
 }
 
@@ -94,7 +95,7 @@ Match LeftoverSearch::judged(const LeftoverRoot& root, const std::string& name) 
         return match;
     if (match == Match::identifier) {
         const bool isInUse = root.kind == Kind::container && Flatpaks::isInstalled(name);
-        return isInUse || m_others.claims(entry, m_subject.identifier) ? Match::none : match;
+        return isInUse || m_remaining.claims(entry, m_subject.identifier) ? Match::none : match;
     }
     const std::string path = PathText::join(root.folder, name);
     const bool isOwn = (root.kind == Kind::agents && isLabelled(path)) ||
@@ -103,7 +104,7 @@ Match LeftoverSearch::judged(const LeftoverRoot& root, const std::string& name) 
     return isOwn ? Match::identifier : Match::none;
 }
 
-/// A property list that is named otherwise may say that it is the application's.
+/// A property list with another name may still be labelled as the application's.
 bool LeftoverSearch::isLabelled(const std::string& path) const
 {
     if (m_subject.identifier.empty() || PathText::extension(path) != "plist")
@@ -144,12 +145,12 @@ bool LeftoverSearch::isOffered(const std::string& path) const
     });
 }
 
-/// The gate that every candidate passes. Links stay: what they stand for lies elsewhere.
+/// Every candidate passes through here. Links are kept: their targets are elsewhere.
 void LeftoverSearch::offer(std::string path, std::string note)
 {
     const auto status = statusOf(path);
     if (!status.ok() || status.value().type == FileType::link || Safety::isProtected(path) ||
-        m_others.lieIn(path) || overlapsApp(path) || isOffered(path))
+        m_remaining.lieIn(path) || overlapsApp(path) || isOffered(path))
         return;
     std::erase_if(m_found, [&](const Candidate& inside) { return PathText::isAtOrBelow(inside.path, path); });
     m_found.push_back({std::move(path), std::move(note)});

@@ -11,15 +11,15 @@
 
 namespace orlen {
 
-class OtherApps;
+class RemainingApps;
 
-/// One search through the folders in which applications leave something. Blocks on the disk.
+/// One search through the folders in which applications leave files. Blocks on the disk.
 class LeftoverSearch {
 public:
-    /// Without an application (null) only what names tell is found. Both must outlive the search.
-    LeftoverSearch(LeftoverRules::Subject subject, const OtherApps& others, const AppInfo* app);
+    /// Without an application (null), only names are matched. Both must outlive the search.
+    LeftoverSearch(LeftoverRules::Subject subject, const RemainingApps& remaining, const AppInfo* app);
 
-    /// Root by root, by name in each. A path is told once, and nothing that lies inside another one.
+    /// Root by root, sorted by name. Each path once, and nothing inside another result.
     [[nodiscard]] std::vector<FileEntry> run(const std::stop_token& stop);
 
 private:
@@ -39,7 +39,7 @@ private:
     void offer(std::string path, std::string note);
 
     LeftoverRules::Subject m_subject;
-    const OtherApps& m_others;
+    const RemainingApps& m_remaining;
     const AppInfo* m_app;
     std::vector<Candidate> m_found;
 };

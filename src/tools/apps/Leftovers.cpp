@@ -6,7 +6,7 @@
 #include "tools/apps/AppNames.h"
 #include "tools/apps/LeftoverRoots.h"
 #include "tools/apps/LeftoverSearch.h"
-#include "tools/apps/OtherApps.h"
+#include "tools/apps/RemainingApps.h"
 
 #include <algorithm>
 
@@ -24,16 +24,17 @@ LeftoverRules::Subject subjectOf(const std::string& bundleID, const std::string&
     return subject;
 }
 
-/// Takes out the spellings of the name that may be something else's.
-void keepOwnForms(LeftoverRules::Subject& subject, const OtherApps& others, std::vector<std::string> words)
+/// Removes spellings of the name that may belong to something else.
+void keepOwnForms(LeftoverRules::Subject& subject, const RemainingApps& remaining,
+                  std::vector<std::string> words)
 {
     words.insert(words.end(), subject.forms.begin(), subject.forms.end());
     if (!subject.identifier.empty())
         words.push_back(subject.identifier);
     const auto& forms = subject.forms;
-    const bool isShared = others.hasAnyOf(words) ||
+    const bool isShared = remaining.hasAnyOf(words) ||
                           std::any_of(forms.begin(), forms.end(),
-                                      [&](const std::string& form) { return others.hasProgram(form); });
+                                      [&](const std::string& form) { return remaining.hasProgram(form); });
     if (isShared)
         subject.forms.clear();
     std::erase_if(subject.forms, AppNames::isAmbiguous);
@@ -71,16 +72,16 @@ std::vector<FileEntry> find(const std::string& bundleID, const std::string& name
 {
     if (!Places::current().isHomeUsable)
         return {};
-    const OtherApps others = OtherApps::besideAny(stop);
+    const RemainingApps remaining = RemainingApps::all(stop);
     LeftoverRules::Subject subject = subjectOf(bundleID, name);
-    keepOwnForms(subject, others, {});
-    return LeftoverSearch(std::move(subject), others, nullptr).run(stop);
+    keepOwnForms(subject, remaining, {});
+    return LeftoverSearch(std::move(subject), remaining, nullptr).run(stop);
 }
 
 Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
 {
     Finding finding;
-    // What a manager has installed it also cleans up, and the data of a removed Flatpak is the whole of it.
+    // Managers clean up what they installed, and the data of a removed Flatpak is all there is.
     if (!Places::current().isHomeUsable || !app.isRemovable() || app.source == AppSource::removedFlatpak)
         return finding;
     finding.isOtherCopyInstalled = std::any_of(listed.begin(), listed.end(), [&](const AppInfo& other) {
@@ -88,11 +89,11 @@ Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::sto
     });
     if (finding.isOtherCopyInstalled)
         return finding;
-    const OtherApps others = OtherApps::beside(app, listed, stop);
+    const RemainingApps remaining = RemainingApps::without(app, listed, stop);
     LeftoverRules::Subject subject = subjectOf(app.bundleID, app.name);
     const std::string file = LanguageTools::lowerCase(PathText::lastComponent(app.path));
-    keepOwnForms(subject, others, {file});
-    finding.entries = LeftoverSearch(std::move(subject), others, &app).run(stop);
+    keepOwnForms(subject, remaining, {file});
+    finding.entries = LeftoverSearch(std::move(subject), remaining, &app).run(stop);
     return finding;
 }
 

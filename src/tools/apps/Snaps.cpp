@@ -20,7 +20,7 @@ bool isPlain(std::string_view name)
            name.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-") == std::string_view::npos;
 }
 
-/// The launchers of each snap: they are named "snap_application.desktop".
+/// The launchers of each snap, named "snap_application.desktop".
 std::map<std::string, std::vector<std::string>> launchersBySnap(const std::string& folder)
 {
     std::map<std::string, std::vector<std::string>> snaps;
@@ -33,7 +33,7 @@ std::map<std::string, std::vector<std::string>> launchersBySnap(const std::strin
     return snaps;
 }
 
-/// The newest image of the snap, which is what takes its space; empty when there is none.
+/// The newest image of the snap, which is what occupies space; empty if there is none.
 std::string imageOf(const std::string& snap, const std::string& folder)
 {
     std::string newest;
@@ -59,7 +59,7 @@ std::vector<AppInfo> installed()
     const std::string folder = root + "/desktop/applications";
     std::vector<AppInfo> apps;
     for (auto& [snap, files] : launchersBySnap(folder)) {
-        // Of several the one named like the snap itself is the main one.
+        // Of several, the one named like the snap itself is the main one.
         const std::string main = std::string(snap).append("_").append(snap).append(".desktop");
         const bool hasMain = std::find(files.begin(), files.end(), main) != files.end();
         const std::string file =

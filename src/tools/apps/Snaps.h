@@ -4,10 +4,10 @@
 
 #include <vector>
 
-/// Applications that Snap keeps. Blocks on the disk.
+/// Applications managed by Snap. Blocks on the disk.
 namespace orlen::Snaps {
 
-/// One for each snap with a launcher.
+/// One per snap with a launcher.
 [[nodiscard]] std::vector<AppInfo> installed();
 
 } // namespace orlen::Snaps

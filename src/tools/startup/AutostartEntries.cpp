@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::string_view kEntrySuffix = ".desktop";
 
-/// The file that counts for each name: the first in the order of the folders.
+/// The file in effect for each name: the first in folder order.
 std::map<std::string, std::string> entryFiles(const Places& places)
 {
     std::map<std::string, std::string> files;
@@ -45,7 +45,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
         return std::nullopt;
     LaunchItem item;
     item.label = name.substr(0, name.size() - kEntrySuffix.size());
-    // A copy of this program's own is but the switch of the entry that it covers.
+    // An override made by this program is just the switch of the entry it hides.
     item.path = AutostartRules::isOverride(*entry)
                     ? AutostartFolders::find(AutostartFolders::ofEverybody(places), name)
                     : path;
@@ -67,7 +67,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
     return item;
 }
 
-/// Ends what the session's service manager started from the entry; what others started goes on.
+/// Stops what the session's systemd started from the entry; what others started keeps running.
 void stop(const std::string& label)
 {
     const std::string unit = SessionUnitName::ofEntry(label);

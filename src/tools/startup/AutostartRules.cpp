@@ -12,7 +12,7 @@ namespace orlen::AutostartRules {
 
 namespace {
 
-/// The names of the desktop in use, the most exact first; none where there is no desktop.
+/// The names of the current desktop, most specific first; none without a desktop.
 std::vector<std::string> currentDesktop()
 {
     std::vector<std::string> names;
@@ -30,7 +30,7 @@ std::vector<std::string> currentDesktop()
 bool isForThisDesktop(const DesktopEntry& entry)
 {
     const std::vector<std::string> desktop = currentDesktop();
-    // Away from any desktop, every one that might be logged in to counts.
+    // Without a desktop, every desktop the user might log in to counts.
     if (desktop.empty())
         return true;
     const std::vector<std::string> only = entry.list("OnlyShowIn");

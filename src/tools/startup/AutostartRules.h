@@ -6,17 +6,17 @@ namespace orlen {
 class DesktopEntry;
 }
 
-/// How the keys of an autostart entry are understood. Any thread.
+/// Interprets the keys of an autostart entry. Any thread.
 namespace orlen::AutostartRules {
 
-/// Marks a copy that this program made to keep an entry of all users from starting.
+/// Marks a copy made by this program to keep a system-wide entry from starting.
 inline constexpr std::string_view kOverrideKey = "X-Orlen-Override";
 
 [[nodiscard]] bool isEnabled(const DesktopEntry& entry);
 [[nodiscard]] bool isOverride(const DesktopEntry& entry);
 
-/// Whether the entry is one that the user decides about: not a step of the session's own start, meant for the
-/// desktop in use, and of a program that is installed. Blocks on the disk.
+/// Whether the entry is the user's to decide: not a step of session start-up, meant for the current desktop,
+/// and of an installed program. Blocks on the disk.
 [[nodiscard]] bool isForUser(const DesktopEntry& entry);
 
 } // namespace orlen::AutostartRules

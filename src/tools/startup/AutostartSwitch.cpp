@@ -4,6 +4,7 @@
 #include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "tools/startup/AutostartFolders.h"
@@ -25,7 +26,7 @@ using DesktopEntryEdit::Setting;
 constexpr unsigned kFolderMode = 0700;
 constexpr unsigned kFileMode = 0644;
 
-/// Nothing when the change would not come across.
+/// Nothing if the change would not take effect.
 std::optional<std::string> edited(const std::string& text, std::span<const Setting> settings)
 {
     auto changed = DesktopEntryEdit::withSettings(text, settings);
@@ -47,10 +48,10 @@ bool editOwn(const std::string& path, std::span<const Setting> settings)
     const auto changed = text ? edited(*text, settings) : std::nullopt;
     if (!changed)
         return false;
-    return *changed == *text || replaceFile(path, *changed, status.value().mode).ok();
+    return *changed == *text || OwnFile::replace(path, *changed, status.value().mode).ok();
 }
 
-/// Whether a copy with these settings stands before an entry of all users now.
+/// Whether an override with these settings hides a system-wide entry now.
 bool cover(const std::string& shared, const std::string& name, std::vector<Setting> settings)
 {
     settings.push_back({AutostartRules::kOverrideKey, "true"});
@@ -58,7 +59,7 @@ bool cover(const std::string& shared, const std::string& name, std::vector<Setti
     const auto changed = text ? edited(*text, settings) : std::nullopt;
     const std::string folder = AutostartFolders::ofUser(Places::current()).front();
     return changed && makeFolders(folder, kFolderMode).ok() &&
-           writeNewFile(PathText::join(folder, name), *changed, kFileMode).ok();
+           OwnFile::writeNew(PathText::join(folder, name), *changed, kFileMode).ok();
 }
 
 std::string ownPath(const std::string& name)
@@ -93,9 +94,9 @@ bool turn(const std::string& name, bool enabled)
     const auto entry = DesktopEntry::read(own);
     if (!entry)
         return false;
-    // Without the copy all is as it should be: the entry behind it has this value by itself, or is gone.
+    // Without the override everything is right: the entry behind it has this value itself, or is gone.
     if (AutostartRules::isOverride(*entry) && (isSoByItself || !shared))
-        return removeOwnFile(own).ok();
+        return OwnFile::remove(own).ok();
     return editOwn(own, settingsFor(*entry, enabled));
 }
 

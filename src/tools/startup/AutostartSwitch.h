@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-/// Switches autostart entries by their files. The user's own entry gets other values of its switches and is
-/// otherwise left as it is; one of all users is covered by a copy in the user's folder with the other value,
-/// which is taken away again. Links are never written through or replaced: who made one wants the file behind
-/// it left alone. Blocks on the disk; any thread.
+/// Turns autostart entries on and off by their files. In the user's own entry only the relevant keys change.
+/// A system-wide entry is overridden by a copy in the user's folder, and turned on again by removing the
+/// copy. Links are never written through or replaced: whoever made one wants its target left alone. Blocks on
+/// the disk; any thread.
 namespace orlen::AutostartSwitch {
 
 /// Whether the entry of this file name is off now.
@@ -14,8 +14,7 @@ bool turnOff(const std::string& name);
 /// Whether the entry of this file name is on now.
 bool turnOn(const std::string& name);
 
-/// Why the entry of this file name cannot be switched, as one sentence; empty when nothing is known that
-/// would hinder it.
+/// Why the entry of this file name cannot be switched, as one sentence; empty if it probably can.
 [[nodiscard]] std::string_view obstacle(const std::string& name);
 
 } // namespace orlen::AutostartSwitch

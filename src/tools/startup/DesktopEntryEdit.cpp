@@ -1,6 +1,7 @@
 #include "tools/startup/DesktopEntryEdit.h"
 
-#include "platform/text/LineText.h"
+#include "platform/desktop/DesktopEntry.h"
+#include "platform/text/KeyFile.h"
 
 #include <algorithm>
 #include <vector>
@@ -9,8 +10,6 @@ namespace orlen::DesktopEntryEdit {
 
 namespace {
 
-constexpr std::string_view kGroup = "[Desktop Entry]";
-
 std::string_view endingOf(std::string_view line)
 {
     if (line.ends_with("\r\n"))
@@ -18,34 +17,31 @@ std::string_view endingOf(std::string_view line)
     return line.ends_with('\n') ? "\n" : "";
 }
 
-/// Takes the first line with its ending off the text.
-std::string_view takeLine(std::string_view& text)
+std::string lineOf(const Setting& setting)
 {
-    const std::size_t end = text.find('\n');
-    const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
-    text.remove_prefix(line.size());
-    return line;
+    return std::string(setting.key).append("=").append(setting.value);
 }
 
 class Edit {
 public:
     explicit Edit(std::span<const Setting> settings) : m_settings(settings), m_isDone(settings.size()) {}
 
-    void take(std::string_view line)
+    void take(const KeyFile::Line& line)
     {
-        const std::string_view ending = endingOf(line);
-        const std::string_view content = LineText::trimmed(line.substr(0, line.size() - ending.size()));
-        if (content.starts_with('[') && content.ends_with(']')) {
-            m_isInGroup = content == kGroup;
-            m_text += line;
-            if (m_isInGroup && !m_place) {
-                m_place = m_text.size();
-                m_ending = ending;
-            }
-        } else if (const std::string replaced = replacement(content); !replaced.empty()) {
-            m_text.append(replaced).append(ending);
+        const bool isInGroup = line.group == DesktopEntry::kGroup;
+        const auto setting = std::find_if(m_settings.begin(), m_settings.end(), [&](const Setting& each) {
+            return isInGroup && each.key == line.key;
+        });
+        if (setting == m_settings.end()) {
+            m_text += line.raw;
         } else {
-            m_text += line;
+            // If a key is there twice, some desktops use the first line and some the last.
+            m_isDone[static_cast<std::size_t>(setting - m_settings.begin())] = true;
+            m_text.append(lineOf(*setting)).append(endingOf(line.raw));
+        }
+        if (line.isHeading && isInGroup && !m_place) {
+            m_place = m_text.size();
+            m_ending = endingOf(line.raw);
         }
     }
 
@@ -58,7 +54,7 @@ public:
             if (!m_isDone[i])
                 added.append(lineOf(m_settings[i])).append(m_ending.empty() ? "\n" : m_ending);
         }
-        // The heading may be the last line of the file, and unfinished.
+        // The heading may be the file's last line, without a newline.
         if (m_ending.empty() && !added.empty())
             added.insert(0, 1, '\n');
         m_text.insert(*m_place, added);
@@ -66,32 +62,10 @@ public:
     }
 
 private:
-    static std::string lineOf(const Setting& setting)
-    {
-        return std::string(setting.key).append("=").append(setting.value);
-    }
-
-    /// What stands in place of a line that sets one of the keys; empty for all others.
-    std::string replacement(std::string_view content)
-    {
-        const std::size_t equals = content.find('=');
-        if (!m_isInGroup || equals == std::string_view::npos)
-            return {};
-        const std::string_view key = LineText::trimmed(content.substr(0, equals));
-        const auto found = std::find_if(m_settings.begin(), m_settings.end(),
-                                        [&](const Setting& setting) { return setting.key == key; });
-        if (found == m_settings.end())
-            return {};
-        // Of a key that stands twice some desktops take the first line and some the last.
-        m_isDone[static_cast<std::size_t>(found - m_settings.begin())] = true;
-        return lineOf(*found);
-    }
-
     std::span<const Setting> m_settings;
     std::vector<bool> m_isDone;
     std::string m_text;
-    bool m_isInGroup = false;
-    std::optional<std::size_t> m_place; ///< behind the group's first heading
+    std::optional<std::size_t> m_place; ///< after the group's first heading
     std::string_view m_ending;          ///< of that heading
 };
 
@@ -100,8 +74,9 @@ private:
 std::optional<std::string> withSettings(std::string_view text, std::span<const Setting> settings)
 {
     Edit edit(settings);
-    while (!text.empty())
-        edit.take(takeLine(text));
+    KeyFile file(text);
+    while (const auto line = file.next())
+        edit.take(*line);
     return std::move(edit).finish();
 }
 

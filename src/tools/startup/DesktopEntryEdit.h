@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-/// Changes the text of a desktop entry file that somebody else wrote. Untrusted input; pure.
+/// Edits the text of somebody else's desktop entry file. Untrusted input; pure.
 namespace orlen::DesktopEntryEdit {
 
 struct Setting {
@@ -13,9 +13,9 @@ struct Setting {
     std::string_view value;
 };
 
-/// The text with these keys of the group [Desktop Entry] set: their lines are replaced wherever they stand in
-/// it, missing ones are added below its heading, and every other line is kept byte for byte. Nothing when the
-/// text has no such group.
+/// The text with these keys set in the group [Desktop Entry]: existing lines are replaced wherever they are
+/// in it, missing ones are added below its heading, and all other lines stay as they are. Nothing if there is
+/// no such group.
 [[nodiscard]] std::optional<std::string> withSettings(std::string_view text,
                                                       std::span<const Setting> settings);
 

@@ -27,7 +27,7 @@ constexpr std::string_view kStarts[] = {
     "org.gnome.SettingsDaemon",
 };
 
-/// Short enough to begin the names of other programs.
+/// Short enough to be prefixes of other programs' names.
 constexpr std::string_view kNames[] = {"xfce4-notifyd", "mako", "waybar"};
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
-#include "tools/startup/Launchctl.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupTexts.h"
 
@@ -29,12 +28,6 @@ std::unique_ptr<ServiceManager> managerOf(LaunchSource source)
 
 } // namespace
 
-std::optional<std::string> run(const std::vector<std::string>& arguments)
-{
-    auto outcome = Launchctl::call(arguments);
-    return outcome ? std::optional(std::move(outcome->output)) : std::nullopt;
-}
-
 std::vector<LaunchItem> load()
 {
     std::vector<LaunchItem> items;
@@ -42,7 +35,7 @@ std::vector<LaunchItem> load()
     for (const LaunchSource source :
          {LaunchSource::launchAgent, LaunchSource::systemdUnit, LaunchSource::autostartEntry}) {
         for (LaunchItem& item : managerOf(source)->items()) {
-            // Neither a screen nor a document could name it.
+            // It could not be shown on a screen or in JSON.
             if (!PathText::isValidUtf8(item.path))
                 continue;
             const bool isOwn = item.scope == StartupTexts::kYourAccount;
@@ -55,7 +48,7 @@ std::vector<LaunchItem> load()
 
 bool set(const LaunchItem& item, bool enabled)
 {
-    // In somebody else's home folder the changes would belong to the wrong user.
+    // In somebody else's home folder the change would affect the wrong user.
     return item.isSwitchable && Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
 }
 

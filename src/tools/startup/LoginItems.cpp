@@ -1,9 +1,9 @@
 #include "tools/startup/LoginItems.h"
 
 #include "platform/desktop/DesktopEntry.h"
-#include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/process/ChildProcess.h"
 #include "platform/process/OwnProgram.h"
@@ -40,7 +40,7 @@ bool isAnyFolderListable(const std::vector<std::string>& folders)
                        [](const std::string& path) { return isListable(path + "/."); });
 }
 
-/// What keeps this program from changing its entry, whichever way.
+/// What prevents this program from changing its entry in either direction.
 std::optional<std::string> obstacle()
 {
     const Places& places = Places::current();
@@ -58,7 +58,7 @@ Result<void> writeEntry(const std::string& text)
 {
     if (auto made = makeFolders(folder(), kFolderMode); !made.ok())
         return made;
-    return replaceFile(entryPath(), text, kFileMode);
+    return OwnFile::replace(entryPath(), text, kFileMode);
 }
 
 } // namespace
@@ -106,7 +106,7 @@ std::optional<std::string> setRegistered(bool registered)
     if (auto reason = obstacle())
         return reason;
     if (!registered) {
-        const bool isGone = !exists(entryPath()) || removeOwnFile(entryPath()).ok();
+        const bool isGone = !exists(entryPath()) || OwnFile::remove(entryPath()).ok();
         return isGone ? std::nullopt : std::optional(std::string(StartupTexts::kUnwritableFolder));
     }
     const auto text = OwnEntry::text(OwnProgram::path());

@@ -11,7 +11,7 @@ namespace orlen::OwnEntry {
 
 namespace {
 
-/// One word of a command line, in quotes.
+/// One word of a command line, quoted.
 std::string quotedWord(std::string_view word)
 {
     std::string quoted = "\"";
@@ -25,7 +25,7 @@ std::string quotedWord(std::string_view word)
     return quoted + '"';
 }
 
-/// The value as it stands in a file: escapes of its own, on top of those of the command line.
+/// The value as written in a file: with escapes of its own, on top of those of the command line.
 std::string fileValue(std::string_view value)
 {
     constexpr std::string_view kSpecial = "\\\n\t\r";

@@ -7,8 +7,8 @@
 
 namespace orlen {
 
-/// One of the services that start things at login. Calls block, on child processes of at most five seconds
-/// each; any thread.
+/// One of the services that start things at login. Calls block on child processes, at most five seconds each;
+/// any thread.
 class ServiceManager {
 public:
     ServiceManager() = default;
@@ -16,22 +16,21 @@ public:
     ServiceManager& operator=(const ServiceManager&) = delete;
     virtual ~ServiceManager() = default;
 
-    /// Its items: those of the user's own account first, then those of all users, each by name. Empty where
-    /// the service does not exist; files that cannot be read are left out.
+    /// Its items: the user's own first, then those for all users, each sorted by name. Empty if the service
+    /// does not exist; unreadable files are left out.
     [[nodiscard]] virtual std::vector<LaunchItem> items() const = 0;
 
-    /// Switches one of its items on or off. Off stops it now as well; on starts nothing before the next
-    /// login. Whether the change was made.
+    /// Turns one of its items on or off. Off also stops it now; on takes effect at the next login. Whether it
+    /// worked.
     [[nodiscard]] virtual bool set(const LaunchItem& item, bool enabled) const = 0;
 };
 
 /// Launch agents: property lists in the two "Library/LaunchAgents" folders, switched by the tool at
 /// `Places::launchctl`.
 [[nodiscard]] std::unique_ptr<ServiceManager> makeLaunchAgents();
-/// Units of the user's own service manager, through `systemctl --user`, or through the files where it does
-/// not answer.
+/// The user's systemd units, through `systemctl --user`, or through the files if it does not answer.
 [[nodiscard]] std::unique_ptr<ServiceManager> makeSystemdUnits();
-/// Entries of the desktop's autostart folders.
+/// Entries in the desktop's autostart folders.
 [[nodiscard]] std::unique_ptr<ServiceManager> makeAutostartEntries();
 
 } // namespace orlen

@@ -1,5 +1,5 @@
-#include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "tools/startup/DesktopNames.h"
@@ -18,7 +18,7 @@ namespace orlen {
 
 namespace {
 
-/// What the words of the manager mean for a switch; units in other states have none.
+/// What systemd's words mean for a switch; units in other states have none.
 struct State {
     std::string_view word;
     enum class Meaning { on, off, masked } meaning;
@@ -27,7 +27,7 @@ constexpr State kStates[] = {
     {"enabled", State::Meaning::on},
     {"enabled-runtime", State::Meaning::on},
     {"disabled", State::Meaning::off},
-    // The manager knows it, and nothing starts it.
+    // systemd knows the unit, and nothing starts it.
     {"linked", State::Meaning::off},
     {"linked-runtime", State::Meaning::off},
     {"masked", State::Meaning::masked},
@@ -38,7 +38,7 @@ std::vector<ListedUnit> listed(const Places& places)
 {
     if (auto units = Systemctl::services())
         return *std::move(units);
-    // Packages bring unit files along where nothing will ever read them.
+    // Packages also install unit files where nothing will ever read them.
     const bool isThere = Systemctl::isInstalled() || exists(places.systemRoot + "/run/systemd/system");
     return isThere ? UnitLinks::listed(places) : std::vector<ListedUnit>();
 }
@@ -51,7 +51,7 @@ std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
         return std::nullopt;
     const std::string path = UnitFolders::find(places, unit.name);
     const bool isOwn = PathText::isAtOrBelow(path, places.home);
-    // Of what packages bring along, only what is or was on is anybody's business.
+    // Of units from packages, only those that were on are of interest.
     if (!isOwn && state->meaning == State::Meaning::off)
         return std::nullopt;
     const auto file = UnitFile::read(path, places.home);
@@ -72,11 +72,11 @@ std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
     return item;
 }
 
-/// Takes away what starts a unit and leaves the user's link to its file, which the tool would take with it.
+/// Removes what starts a unit but keeps the user's link to its file, which systemctl would remove too.
 std::optional<Systemctl::Way> removeLinks(const Places& places, const std::string& unit)
 {
     for (const std::string& link : UnitLinks::ofUser(places, unit)) {
-        if (!removeOwnFile(link).ok())
+        if (!OwnFile::remove(link).ok())
             return std::nullopt;
     }
     return Systemctl::call({"daemon-reload"}) ? Systemctl::Way::throughManager : Systemctl::Way::onFiles;
@@ -95,11 +95,11 @@ std::optional<Systemctl::Way> turnOff(const LaunchItem& item, const Places& plac
         const bool isStillOn = UnitLinks::isStartedForEverybody(places, unit);
         if (!way || !isStillOn)
             return way;
-        // No mask can be put where a file of the user's stands.
+        // A file of the user's leaves no place for a mask.
         if (isTaken)
             return std::nullopt;
     }
-    // "disable" only takes the user's own links away: what is on for everybody has to be masked.
+    // "disable" only removes the user's own links: what is on for everybody has to be masked.
     return Systemctl::change("mask", unit);
 }
 
@@ -135,7 +135,7 @@ public:
             return Systemctl::change(UnitFolders::isMaskedByUser(places, unit) ? "unmask" : "enable", unit)
                 .has_value();
         const auto way = turnOff(item, places);
-        // Only a manager that answers can stop it; one that does not run it has nothing to stop.
+        // Only a running systemd can stop it; otherwise there is nothing to stop.
         if (way == Systemctl::Way::throughManager)
             Systemctl::call({"stop", unit});
         return way.has_value();

@@ -2,6 +2,7 @@
 
 #include "platform/files/FileContent.h"
 #include "platform/files/Folder.h"
+#include "platform/text/KeyFile.h"
 #include "platform/text/LineText.h"
 #include "platform/text/PathText.h"
 
@@ -17,50 +18,29 @@ namespace {
 constexpr std::size_t kSizeLimit = 256UL * 1024;
 constexpr std::array<std::string_view, 4> kInstallKeys = {"WantedBy", "RequiredBy", "UpheldBy", "Alias"};
 
-/// Takes a file apart into lines as they are meant: those that end in a backslash go on in the next, between
-/// which comments may stand.
-class Lines {
-public:
-    explicit Lines(std::string_view text) : m_rest(text) {}
+bool endsInBackslash(std::string_view line)
+{
+    const std::size_t last = line.find_last_not_of('\\');
+    const std::size_t count = line.size() - (last == std::string_view::npos ? 0 : last + 1);
+    return count % 2 == 1;
+}
 
-    /// Without spaces at both ends; nothing at the end of the text.
-    std::optional<std::string> next()
-    {
-        std::string line;
-        bool goesOn = false;
-        while (!m_rest.empty()) {
-            const std::string_view physical = LineText::trimmed(takeLine());
-            if (physical.starts_with('#') || physical.starts_with(';'))
-                continue;
-            goesOn = endsInBackslash(physical);
-            line += goesOn ? physical.substr(0, physical.size() - 1) : physical;
-            if (!goesOn)
-                return line;
-            line += ' ';
-        }
-        return goesOn ? std::optional(line) : std::nullopt;
+/// The text without comments, with each line that ends in a backslash joined to the next. Comments may come
+/// in between.
+std::string withLinesJoined(std::string_view text)
+{
+    std::string joined;
+    while (!text.empty()) {
+        const std::string_view line = LineText::trimmed(LineText::takeLine(text));
+        if (line.starts_with('#') || line.starts_with(';'))
+            continue;
+        const bool goesOn = endsInBackslash(line);
+        joined.append(goesOn ? line.substr(0, line.size() - 1) : line).append(goesOn ? " " : "\n");
     }
+    return joined;
+}
 
-private:
-    std::string_view takeLine()
-    {
-        const std::size_t end = std::min(m_rest.find('\n'), m_rest.size());
-        const std::string_view line = m_rest.substr(0, end);
-        m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
-        return line;
-    }
-
-    static bool endsInBackslash(std::string_view line)
-    {
-        const std::size_t last = line.find_last_not_of('\\');
-        const std::size_t count = line.size() - (last == std::string_view::npos ? 0 : last + 1);
-        return count % 2 == 1;
-    }
-
-    std::string_view m_rest;
-};
-
-/// Takes what stands behind a backslash off the text.
+/// Removes an escaped character, without its backslash, from the text.
 char takeEscaped(std::string_view& text)
 {
     const char letter = text.front();
@@ -77,7 +57,7 @@ char takeEscaped(std::string_view& text)
     return static_cast<char>(value);
 }
 
-/// The first word with its quotes and escapes resolved; empty when a quote is left open.
+/// The first word without quotes and escapes; empty if a quote is unclosed.
 std::string firstWord(std::string_view line)
 {
     std::string word;
@@ -121,7 +101,7 @@ std::string textOrNothing(std::string text)
     return isText ? std::move(text) : std::string();
 }
 
-/// An empty list takes back all words before it.
+/// An empty list discards all earlier words.
 void addWords(std::string_view list, std::vector<std::string>& words)
 {
     if (list.empty())
@@ -137,7 +117,7 @@ void addWords(std::string_view list, std::vector<std::string>& words)
 std::string programOf(std::string_view command, std::string_view home)
 {
     const std::string word = firstWord(command);
-    // How the manager is to start the command stands before it.
+    // Prefixes that say how to start the command.
     const std::size_t start = word.find_first_not_of("-@:+!");
     return start == std::string::npos ? "" : textOrNothing(withSpecifiers(word.substr(start), home));
 }
@@ -147,28 +127,23 @@ std::string programOf(std::string_view command, std::string_view home)
 UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
 {
     UnitFile unit;
-    Lines lines(text);
-    std::string section;
-    std::string command;
-    while (const auto line = lines.next()) {
-        const std::size_t equals = line->find('=');
-        if (line->starts_with('[') && line->ends_with(']')) {
-            section = *line;
-        } else if (equals != std::string::npos) {
-            const std::string_view key = LineText::trimmed(std::string_view(*line).substr(0, equals));
-            const std::string_view value = LineText::trimmed(std::string_view(*line).substr(equals + 1));
-            // An empty value takes back all commands before it.
-            if (section == "[Service]" && key == "ExecStart" && (command.empty() || value.empty()))
-                command = value;
-            if (section == "[Unit]" && key == "Description")
-                unit.description = textOrNothing(std::string(value));
-            if (section == "[Install]" && key == "Alias")
-                addWords(value, unit.aliases);
-            const bool isInstallKey =
-                std::find(kInstallKeys.begin(), kInstallKeys.end(), key) != kInstallKeys.end();
-            if (section == "[Install]" && isInstallKey && !value.empty())
-                unit.isInstallable = true;
-        }
+    const std::string joined = withLinesJoined(text);
+    std::string_view command;
+    KeyFile file(joined);
+    while (const auto line = file.next()) {
+        const auto& [raw, section, isHeading, key, value] = *line;
+        // An empty value discards all earlier commands.
+        if (section == "Service" && key == "ExecStart" && (command.empty() || value.empty()))
+            command = value;
+        if (section == "Unit" && key == "Description")
+            unit.description = textOrNothing(std::string(value));
+        if (section != "Install" || key.empty())
+            continue;
+        if (key == "Alias")
+            addWords(value, unit.aliases);
+        const bool isInstallKey =
+            std::find(kInstallKeys.begin(), kInstallKeys.end(), key) != kInstallKeys.end();
+        unit.isInstallable = unit.isInstallable || (isInstallKey && !value.empty());
     }
     unit.program = programOf(command, home);
     return unit;

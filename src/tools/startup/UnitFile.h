@@ -7,16 +7,16 @@
 
 namespace orlen {
 
-/// What a unit file of the user's service manager tells about a service. Untrusted input.
+/// A service's unit file of the user's systemd. Untrusted input.
 struct UnitFile {
-    std::string program; ///< what the first start command runs; empty when there is none
+    std::string program; ///< the program of the first start command; empty if there is none
     std::string description;
-    std::vector<std::string> aliases; ///< further names that it is known by while it is switched on
-    bool isInstallable = false; ///< says what it is to be started with, so it can be switched on and off
+    std::vector<std::string> aliases; ///< its other names while enabled
+    bool isInstallable = false;       ///< has an [Install] section, so it can be enabled and disabled
 
-    /// `home` is what "%h" in a command stands for. Pure.
+    /// `home` replaces "%h" in a command. Pure.
     [[nodiscard]] static UnitFile parsed(std::string_view text, std::string_view home);
-    /// A link is followed. Nothing when the file cannot be read or is unreasonably long. Blocks on the disk;
+    /// Links are followed. Nothing if the file cannot be read or is unreasonably long. Blocks on the disk;
     /// any thread.
     [[nodiscard]] static std::optional<UnitFile> read(const std::string& path, std::string_view home);
 };

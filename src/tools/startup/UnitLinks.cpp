@@ -23,7 +23,7 @@ bool isLink(const std::string& path)
     return status.ok() && status.value().type == FileType::link;
 }
 
-/// Folders that hold links to what something starts.
+/// Folders of links to what a unit starts.
 std::vector<std::string> startingFolders(const std::vector<std::string>& folders)
 {
     std::vector<std::string> starting;
@@ -48,7 +48,7 @@ Names startedUnits(const std::vector<std::string>& folders)
     return started;
 }
 
-/// Units that have been given another name, which is how some are switched on.
+/// Units with further names, which is how some are enabled.
 Names renamedUnits(const std::vector<std::string>& folders)
 {
     Names renamed;
@@ -76,7 +76,7 @@ std::map<std::string, std::string> services(const Places& places)
     return paths;
 }
 
-/// Of a unit that nothing starts.
+/// For a unit that nothing starts.
 const char* idleState(const std::string& name, const std::string& path, const Places& places)
 {
     if (isLink(path))
@@ -97,7 +97,7 @@ std::vector<ListedUnit> listed(const Places& places)
         std::string state = "masked";
         if (!UnitFolders::isMask(path)) {
             state = idleState(name, path, places);
-            // A package may start a unit in a way that is nobody's choice and has no switch.
+            // A package may start a unit in a way that nobody chose and that cannot be switched.
             const bool isStarted = started.contains(name) && state != "alias";
             if (startedBySettings.contains(name) || (isStarted && state != "static"))
                 state = "enabled";

@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
-/// What the service manager would list, read from its files, for where it does not answer. Blocks on the
-/// disk; any thread.
+/// What systemd would report, read from its files for when it does not answer. Blocks on the disk; any
+/// thread.
 namespace orlen::UnitLinks {
 
-/// The services of all folders by name, with the manager's words for their states.
+/// All services by name, with systemd's words for their states.
 [[nodiscard]] std::vector<ListedUnit> listed(const Places& places);
 
-/// The links by which the settings of the user start the unit: those of its name in the folders of what
-/// starts others, and those of its further names. The one that stands for the unit itself is not among them.
+/// The links in the user's configuration that start the unit: those of its name in other units' folders, and
+/// those of its other names, but not the unit's own link.
 [[nodiscard]] std::vector<std::string> ofUser(const Places& places, const std::string& unit);
 
-/// Whether the unit starts without any of these links, for everybody.
+/// Whether the unit starts for everybody even without these links.
 [[nodiscard]] bool isStartedForEverybody(const Places& places, const std::string& unit);
 
 } // namespace orlen::UnitLinks

@@ -10,7 +10,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-/// Takes the units while the text is read, so that a long or deep document costs no memory of its own.
+/// Collects the units during parsing, so that a long or deep document costs no memory of its own.
 class Reader final : public nlohmann::json_sax<Json> {
 public:
     [[nodiscard]] std::vector<ListedUnit> units() && { return std::move(m_units); }
@@ -37,7 +37,7 @@ public:
             m_place = &m_unit.name;
         else if (isInUnit() && name == "state")
             m_place = &m_unit.state;
-        // Of a key that stands twice the last one counts, whatever its value is.
+        // If a key occurs twice the last one counts, whatever its type.
         if (m_place != nullptr)
             m_place->clear();
         return true;
@@ -79,9 +79,9 @@ private:
     [[nodiscard]] bool isInList() const { return !m_levels.empty(); }
     [[nodiscard]] bool isInUnit() const { return m_levels.size() == 2 && m_levels[1] == Level::object; }
 
-    std::vector<Level> m_levels; ///< what is open, outermost first
+    std::vector<Level> m_levels; ///< open levels, outermost first
     ListedUnit m_unit;
-    std::string* m_place = nullptr; ///< of the value that comes next, where it is wanted
+    std::string* m_place = nullptr; ///< where to put the next value, if it is wanted
     std::vector<ListedUnit> m_units;
 };
 

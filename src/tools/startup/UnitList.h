@@ -7,18 +7,18 @@
 
 namespace orlen {
 
-/// A unit file as the service manager lists it.
+/// A unit file as systemd lists it.
 struct ListedUnit {
     std::string name;
-    std::string state; ///< the manager's word: "enabled", "masked", "static" …
+    std::string state; ///< systemd's word: "enabled", "masked", "static" …
     friend bool operator==(const ListedUnit&, const ListedUnit&) = default;
 };
 
-/// The manager's list of unit files as a JSON document. Untrusted input; pure.
+/// systemd's list of unit files as JSON. Untrusted input; pure.
 namespace UnitList {
 
-/// The units in the document's order; elements that are no unit are left out. Nothing when the text is not
-/// JSON, is no array or nests deeper than any such list.
+/// The units in document order; elements that are not units are left out. Nothing if the text is not JSON,
+/// not an array, or nests too deep.
 [[nodiscard]] std::optional<std::vector<ListedUnit>> parsed(std::string_view text);
 
 } // namespace UnitList

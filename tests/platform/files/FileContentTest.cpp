@@ -3,7 +3,6 @@
 #include "platform/files/Folder.h"
 #include "support/TempHome.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -11,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
-#include <thread>
 
 namespace orlen {
 namespace {
@@ -83,60 +81,6 @@ TEST(FileContentTest, partsAreReadAtTheirPlace)
     EXPECT_EQ(readAt(-1, 0, buffer).error(), EBADF);
 }
 
-TEST(FileContentTest, replacingLeavesOnlyTheNewFile)
-{
-    const TempHome home;
-    const std::string path = home.file("data/file", "old");
-    EXPECT_TRUE(replaceFile(path, "new").ok());
-    EXPECT_EQ(TempHome::content(path), "new");
-    EXPECT_TRUE(replaceFile(home.path("data/fresh"), "").ok());
-    EXPECT_THAT(listNames(home.path("data")), testing::UnorderedElementsAre("file", "fresh"));
-}
-
-TEST(FileContentTest, failedReplacementLeavesTheOldFile)
-{
-    const TempHome home;
-    const std::string path = home.file("data/file", "old");
-    TempHome::setMode(home.path("data"), 0500);
-    EXPECT_EQ(replaceFile(path, "new").error(), EACCES);
-    EXPECT_EQ(TempHome::content(path), "old");
-    EXPECT_EQ(replaceFile(home.path("missing/file"), "new").error(), ENOENT);
-
-    home.file("target/inside");
-    EXPECT_FALSE(replaceFile(home.path("target"), "new").ok()) << "a folder is not replaced";
-    EXPECT_THAT(listNames(home.path()), testing::UnorderedElementsAre("data", "target"));
-}
-
-TEST(FileContentTest, replacedLinkDoesNotTouchItsTarget)
-{
-    const TempHome home;
-    const std::string target = home.file("target", "old");
-    const std::string link = home.link("link", target);
-    EXPECT_TRUE(replaceFile(link, "new").ok());
-    EXPECT_EQ(TempHome::content(target), "old");
-    EXPECT_EQ(TempHome::content(link), "new");
-}
-
-TEST(FileContentTest, aNewFileNeverTakesAName)
-{
-    const TempHome home;
-    const std::string path = home.path("file");
-    EXPECT_TRUE(writeNewFile(path, "first", 0644).ok());
-    EXPECT_EQ(writeNewFile(path, "second").error(), EEXIST);
-    EXPECT_EQ(TempHome::content(path), "first");
-    const std::string link = home.link("link", home.path("missing"));
-    EXPECT_EQ(writeNewFile(link, "second").error(), EEXIST);
-    EXPECT_FALSE(TempHome::exists(home.path("missing")));
-    EXPECT_EQ(statusOf(path).value().mode, 0644U);
-    EXPECT_TRUE(replaceFile(path, "third", 0440).ok());
-    EXPECT_EQ(statusOf(path).value().mode, 0440U);
-
-    EXPECT_TRUE(removeOwnFile(path).ok());
-    EXPECT_EQ(removeOwnFile(path).error(), ENOENT);
-    EXPECT_FALSE(removeOwnFile(home.folder("folder")).ok());
-    EXPECT_THAT(listNames(home.path()), testing::UnorderedElementsAre("folder", "link"));
-}
-
 TEST(FileContentTest, holesAreToldFromData)
 {
     const TempHome home;
@@ -156,27 +100,6 @@ TEST(FileContentTest, holesAreToldFromData)
     EXPECT_EQ(at(4 * kFar), std::nullopt);
     EXPECT_EQ(nextData(file.value().get(), 0, 100).value(), (FileRange{0, 100}));
     EXPECT_FALSE(nextData(-1, 0, 1).ok());
-}
-
-TEST(FileContentTest, readersNeverSeeHalfAFile)
-{
-    const TempHome home;
-    const std::string first(300'000, 'a');
-    const std::string second(200'000, 'b');
-    const std::string path = home.file("file", first);
-    const auto write = [&](const std::string& content) {
-        for (int i = 0; i < 20; ++i)
-            EXPECT_TRUE(replaceFile(path, content).ok());
-    };
-    std::jthread one(write, first);
-    std::jthread two(write, second);
-    for (int i = 0; i < 40; ++i) {
-        const auto seen = readSmallFile(path, 1'000'000);
-        EXPECT_TRUE(seen == first || seen == second);
-    }
-    one.join();
-    two.join();
-    EXPECT_THAT(listNames(home.path()), testing::ElementsAre("file"));
 }
 
 } // namespace

@@ -52,7 +52,6 @@ TEST(PlacesTest, homeFolderBehindALinkKeepsItsName)
     const std::string linked = home.link(home.outside("linked"), home.path());
     TempHome::setVariable("HOME", linked);
     TempHome::setVariable("XDG_DATA_HOME", home.path("data"));
-    TempHome::setVariable("ANDROID_AVD_HOME", home.path("avd"));
 
     const Places places = Places::fromEnvironment();
     EXPECT_EQ(places.home, linked);
@@ -62,7 +61,6 @@ TEST(PlacesTest, homeFolderBehindALinkKeepsItsName)
     EXPECT_EQ(places.normalized(home.path()), linked);
     EXPECT_EQ(places.normalized(home.outside("homes")), home.outside("homes"));
     EXPECT_EQ(places.data.front(), linked + "/data") << "variables may spell the resolved home folder";
-    EXPECT_EQ(places.androidDevices, linked + "/avd");
     EXPECT_EQ(places.music, linked + "/Music");
 }
 

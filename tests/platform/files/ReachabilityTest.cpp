@@ -6,6 +6,7 @@
 #include "platform/files/Folder.h"
 #include "platform/files/FolderEntries.h"
 #include "platform/files/MountProbe.h"
+#include "platform/files/OwnFile.h"
 #include "platform/files/Volume.h"
 #include "platform/process/ChildEnd.h"
 #include "support/TempHome.h"
@@ -103,9 +104,9 @@ TEST_F(ReachabilityTest, noFunctionTouchesWhatIsLeftOut)
     EXPECT_EQ(openFolder(home.path("nas")).error(), ETIMEDOUT);
     EXPECT_EQ(openUnlinkedFolder(home.path("nas")).error(), ETIMEDOUT);
     EXPECT_EQ(makeFolders(other, 0700).error(), ETIMEDOUT);
-    EXPECT_EQ(replaceFile(file, "y").error(), ETIMEDOUT);
-    EXPECT_EQ(writeNewFile(other, "y").error(), ETIMEDOUT);
-    EXPECT_EQ(removeOwnFile(file).error(), ETIMEDOUT);
+    EXPECT_EQ(OwnFile::replace(file, "y").error(), ETIMEDOUT);
+    EXPECT_EQ(OwnFile::writeNew(other, "y").error(), ETIMEDOUT);
+    EXPECT_EQ(OwnFile::remove(file).error(), ETIMEDOUT);
     EXPECT_EQ(FileLock::take(other).error(), ETIMEDOUT);
     EXPECT_EQ(volumeSpace(file).error(), ETIMEDOUT);
     EXPECT_EQ(readSmallFile(file, 10), std::nullopt);

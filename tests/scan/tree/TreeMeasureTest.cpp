@@ -66,7 +66,7 @@ TEST(TreeMeasureTest, answersForEveryKindOfPath)
         EXPECT_EQ(FS::allocatedSize(home.path(c.path)), c.bytes);
         paths.push_back(home.path(c.path));
     }
-    const auto together = FS::allocatedSizes(paths);
+    const auto together = measureTrees(paths, {});
     for (std::size_t i = 0; i < paths.size(); ++i)
         EXPECT_EQ(together[i], cases[i].bytes) << cases[i].name;
     EXPECT_EQ(FS::allocatedSize(home.path("link")), blocksOf(home.path("link")));
@@ -146,7 +146,7 @@ TEST(TreeMeasureTest, measuresManyChildrenTogetherAndEachForItself)
         paths.push_back(home.path(name));
         expected.push_back(blocksOf(home.path(name + "/f")));
     }
-    EXPECT_EQ(FS::allocatedSizes(paths), expected);
+    EXPECT_EQ(measureTrees(paths, {}), expected);
 }
 
 TEST(TreeMeasureTest, stoppedMeasurementEndsAtOnce)

@@ -61,9 +61,10 @@ TEST(TreeScanTest, leavesOutMarkedFoldersAndForeignMountsWithoutTouchingThem)
     home.file("r/skipped/x");
     home.file("r/server/x");
     home.file("r/disk/x");
-    const MountTable mounts = MountTable::parse("1 0 0:1 / / rw - ext4 /dev/a rw\n2 1 0:2 / " +
-                                                home.path("r/server") + " rw - nfs4 host:/x rw\n3 1 0:3 / " +
-                                                home.path("r/disk") + " rw - xfs /dev/b rw\n");
+    const MountTable mounts = MountTable::read(
+        home.file("mountinfo", "1 0 0:1 / / rw - ext4 /dev/a rw\n2 1 0:2 / " + home.path("r/server") +
+                                   " rw - nfs4 host:/x rw\n3 1 0:3 / " + home.path("r/disk") +
+                                   " rw - xfs /dev/b rw\n"));
     PathMarks marks;
     marks.mark(home.path("r/skipped"), PathMarks::kSkip);
     TreeScanOptions options;

@@ -80,7 +80,6 @@ TEST(LaunchAgentsTest, withoutTheToolEveryAgentIsOnAndNoneCanBeSwitched)
     ASSERT_THAT(loaded(), ElementsAre("own  Your account on"));
     EXPECT_FALSE(LaunchControl::load().front().isSwitchable);
     EXPECT_FALSE(LaunchControl::set(LaunchControl::load().front(), false));
-    EXPECT_EQ(LaunchControl::run({"print-disabled"}), std::nullopt);
 }
 
 TEST(LaunchAgentsTest, switchingRunsTheToolAsItsOrderSays)
@@ -98,15 +97,6 @@ TEST(LaunchAgentsTest, switchingRunsTheToolAsItsOrderSays)
     EXPECT_FALSE(LaunchControl::set(item, true));
     EXPECT_FALSE(LaunchControl::set(item, false));
     EXPECT_FALSE(LaunchControl::set(LaunchItem(), false)); // would name every agent of the login
-}
-
-TEST(LaunchAgentsTest, runReturnsTheOutputWhateverTheStatus)
-{
-    const StartupHome home;
-    home.tool("launchctl", "echo \"said $2\"; exit 7");
-    EXPECT_EQ(LaunchControl::run({"print", "it all"}), "said it all\n");
-    home.tool("launchctl", "printf '\\377'");
-    EXPECT_EQ(LaunchControl::run({}), std::nullopt);
 }
 
 } // namespace orlen

@@ -1,6 +1,6 @@
-#include "tools/startup/PrintDisabled.h"
+#include "tools/startup/mac/PrintDisabled.h"
 
-#include <algorithm>
+#include "platform/text/LineText.h"
 
 namespace orlen::PrintDisabled {
 
@@ -18,7 +18,7 @@ std::string_view without(std::string_view characters, std::string_view text)
 
 bool meansDisabled(std::string_view state)
 {
-    // Older systems answer whether the label is disabled, newer ones say in which state it is.
+    // Older systems print whether the label is disabled, newer ones its state.
     return state.starts_with("disabled") || state.find("true") != std::string_view::npos;
 }
 
@@ -28,9 +28,7 @@ Labels labels(std::string_view text)
 {
     Labels disabled;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::string_view line = LineText::takeLine(text);
         const std::size_t arrow = line.find(kArrow);
         if (arrow == std::string_view::npos)
             continue;

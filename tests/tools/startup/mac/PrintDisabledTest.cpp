@@ -1,4 +1,4 @@
-#include "tools/startup/PrintDisabled.h"
+#include "tools/startup/mac/PrintDisabled.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "tools/apps/OtherApps.h"
+#include "tools/apps/RemainingApps.h"
 
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
@@ -15,10 +15,10 @@ namespace orlen {
 
 namespace {
 
-/// Every AppImage has one of that name inside.
+/// Every AppImage contains one of that name.
 constexpr std::string_view kCommonProgram = "AppRun";
 
-/// A prepared root has programs of its own, which files in it name as on any system.
+/// A prepared root has its own programs, which its files name as on any system.
 bool isProgramThere(const std::string& program)
 {
     const Places& places = Places::current();
@@ -33,41 +33,42 @@ bool hasExistingProgram(const Launcher& launcher)
 
 } // namespace
 
-OtherApps OtherApps::besideAny(const std::stop_token& stop)
+RemainingApps RemainingApps::all(const std::stop_token& stop)
 {
-    OtherApps others;
+    RemainingApps remaining;
     for (const Launcher& launcher : Launchers::ofSystem(stop))
-        others.add(launcher);
-    return others;
+        remaining.add(launcher);
+    return remaining;
 }
 
-OtherApps OtherApps::beside(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
+RemainingApps RemainingApps::without(const AppInfo& app, std::span<const AppInfo> listed,
+                                     const std::stop_token& stop)
 {
-    OtherApps others;
-    others.m_app = app.path;
+    RemainingApps remaining;
+    remaining.m_app = app.path;
     for (const Launcher& launcher : Launchers::ofSystem(stop)) {
         if (!launcher.starts(app.path))
-            others.add(launcher);
+            remaining.add(launcher);
     }
-    // Launchers of an older copy often stay behind: those of what is gone count for nothing.
+    // Launchers of an older copy often stay behind; ignore those whose program is gone.
     for (const Launcher& launcher : Launchers::ofUser()) {
         if (!launcher.starts(app.path) && hasExistingProgram(launcher))
-            others.add(launcher);
+            remaining.add(launcher);
     }
     for (const AppInfo& other : listed) {
         if (other.path != app.path && other.source != AppSource::removedFlatpak)
-            others.add(other);
+            remaining.add(other);
     }
-    return others;
+    return remaining;
 }
 
-bool OtherApps::hasAnyOf(const std::vector<std::string>& words) const
+bool RemainingApps::hasAnyOf(const std::vector<std::string>& words) const
 {
     return std::any_of(words.begin(), words.end(),
                        [&](const std::string& word) { return m_words.contains(word); });
 }
 
-bool OtherApps::hasProgram(const std::string& name) const
+bool RemainingApps::hasProgram(const std::string& name) const
 {
     const Places& places = Places::current();
     for (const std::string& folder : {places.systemRoot + "/usr/local/bin", places.systemRoot + "/usr/bin",
@@ -80,20 +81,20 @@ bool OtherApps::hasProgram(const std::string& name) const
     return false;
 }
 
-bool OtherApps::claims(std::string_view entry, std::string_view identifier) const
+bool RemainingApps::claims(std::string_view entry, std::string_view identifier) const
 {
     return std::any_of(m_identifiers.begin(), m_identifiers.end(), [&](const std::string& other) {
         return other.size() > identifier.size() && LeftoverRules::isNamedAfter(entry, other);
     });
 }
 
-bool OtherApps::lieIn(std::string_view path) const
+bool RemainingApps::lieIn(std::string_view path) const
 {
     return std::any_of(m_paths.begin(), m_paths.end(),
                        [&](const std::string& app) { return PathText::isAtOrBelow(app, path); });
 }
 
-void OtherApps::add(const Launcher& launcher)
+void RemainingApps::add(const Launcher& launcher)
 {
     addWords(launcher.name);
     addWords(launcher.plainName);
@@ -107,7 +108,7 @@ void OtherApps::add(const Launcher& launcher)
     }
 }
 
-void OtherApps::add(const AppInfo& app)
+void RemainingApps::add(const AppInfo& app)
 {
     addWords(app.name);
     addWords(PathText::lastComponent(app.path));
@@ -115,13 +116,13 @@ void OtherApps::add(const AppInfo& app)
     m_paths.push_back(app.path);
 }
 
-void OtherApps::addWords(std::string_view name)
+void RemainingApps::addWords(std::string_view name)
 {
     for (std::string& form : AppNames::forms(name))
         m_words.insert(std::move(form));
 }
 
-void OtherApps::addIdentifier(std::string_view identifier)
+void RemainingApps::addIdentifier(std::string_view identifier)
 {
     if (!AppNames::isIdentifier(identifier))
         return;

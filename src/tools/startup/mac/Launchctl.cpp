@@ -1,4 +1,4 @@
-#include "tools/startup/Launchctl.h"
+#include "tools/startup/mac/Launchctl.h"
 
 #include "platform/files/Places.h"
 

@@ -1,23 +1,21 @@
-#include "tools/apps/OwnApps.h"
+#include "tools/apps/RemovableApps.h"
 
 #include "clean/Safety.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
-#include "platform/mac/BundleInfo.h"
 #include "platform/text/PathText.h"
 #include "tools/apps/AppImage.h"
 #include "tools/apps/Launchers.h"
+#include "tools/apps/mac/Bundles.h"
 
 #include <algorithm>
 
-namespace orlen::OwnApps {
+namespace orlen::RemovableApps {
 
 namespace {
 
 using Paths = std::vector<std::string>;
-
-constexpr std::string_view kBundleSuffix = ".app";
 
 Paths sortedNames(const std::string& folder)
 {
@@ -46,27 +44,9 @@ Paths imageFolders()
     addOnce(folders, places.desktop);
     addOnce(folders, places.home + "/Downloads");
     addOnce(folders, places.downloads);
-    // What a server or a sync program keeps there is not the user's to remove here, and may take long to
-    // read.
+    // What a server or sync program keeps there is not the user's to remove here, and may be slow to read.
     std::erase_if(folders, [](const std::string& folder) { return Safety::protectsContents(folder); });
     return folders;
-}
-
-/// What launchers tell of the application; the first that tells something counts.
-void describe(AppInfo& app, const std::vector<const Launcher*>& launchers)
-{
-    const auto take = [](std::string& field, const std::string& value) {
-        if (field.empty())
-            field = value;
-    };
-    for (const Launcher* launcher : launchers) {
-        app.launchers.push_back(launcher->path);
-        take(app.bundleID, launcher->identifier);
-        take(app.icon, launcher->icon);
-        take(app.name, launcher->name);
-    }
-    for (const Launcher* launcher : launchers)
-        take(app.name, launcher->imageName);
 }
 
 bool isExecutableFile(const std::string& path)
@@ -93,7 +73,7 @@ bool holdsProgram(const std::string& folder)
            holdsProgramNamed(folder + "/bin", name);
 }
 
-/// A folder of several programs is called after none of them.
+/// A folder with several programs is named after none of them.
 bool agreeOnName(const std::vector<const Launcher*>& launchers)
 {
     return std::all_of(launchers.begin(), launchers.end(),
@@ -107,25 +87,6 @@ bool startsAnyOf(const Launcher& launcher, const std::vector<AppInfo>& apps)
 }
 
 } // namespace
-
-std::vector<AppInfo> bundles(const std::vector<Launcher>& launchers)
-{
-    const Places& places = Places::current();
-    std::vector<AppInfo> apps;
-    for (const std::string& folder : {places.applications, places.home + "/Applications"}) {
-        for (const std::string& file : sortedNames(folder)) {
-            if (!file.ends_with(kBundleSuffix))
-                continue;
-            AppInfo app;
-            app.path = PathText::join(folder, file);
-            describe(app, Launchers::starting(launchers, app.path));
-            app.name = file.substr(0, file.size() - kBundleSuffix.size());
-            app.bundleID = BundleInfo::identifier(app.path);
-            apps.push_back(std::move(app));
-        }
-    }
-    return apps;
-}
 
 std::vector<AppInfo> appImages(const std::vector<Launcher>& launchers, const std::stop_token& stop)
 {
@@ -142,7 +103,7 @@ std::vector<AppInfo> appImages(const std::vector<Launcher>& launchers, const std
             AppInfo app;
             app.path = PathText::join(folder, file);
             app.source = AppSource::appImage;
-            describe(app, Launchers::starting(launchers, app.path));
+            Launchers::describe(app, Launchers::starting(launchers, app.path));
             if (app.name.empty())
                 app.name = AppImage::nameFromFile(file);
             apps.push_back(std::move(app));
@@ -159,14 +120,14 @@ std::vector<AppInfo> folders(const std::vector<Launcher>& launchers, const std::
         for (const std::string& name : sortedNames(parent)) {
             AppInfo app;
             app.path = PathText::join(parent, name);
-            if (name.ends_with(kBundleSuffix) || !isRealFolder(app.path))
+            if (name.ends_with(Bundles::kSuffix) || !isRealFolder(app.path))
                 continue;
             std::vector<const Launcher*> own = Launchers::starting(launchers, app.path);
             std::erase_if(own, [&](const Launcher* launcher) { return startsAnyOf(*launcher, images); });
             if (own.empty() && !holdsProgram(app.path))
                 continue;
             app.source = AppSource::folder;
-            describe(app, own);
+            Launchers::describe(app, own);
             if (app.name.empty() || !agreeOnName(own))
                 app.name = name;
             apps.push_back(std::move(app));
@@ -175,4 +136,4 @@ std::vector<AppInfo> folders(const std::vector<Launcher>& launchers, const std::
     return apps;
 }
 
-} // namespace orlen::OwnApps
+} // namespace orlen::RemovableApps

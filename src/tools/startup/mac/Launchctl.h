@@ -9,7 +9,7 @@
 /// The tool that switches launch agents. Blocks on a child process; any thread.
 namespace orlen::Launchctl {
 
-/// Nothing where there is no such tool; else as ChildProcess::run.
+/// Nothing if the tool does not exist; else as ChildProcess::run.
 [[nodiscard]] std::optional<ChildProcess::Outcome> call(const std::vector<std::string>& arguments);
 
 } // namespace orlen::Launchctl

@@ -1,4 +1,4 @@
-#include "scan/locations/LanguagePacks.h"
+#include "scan/locations/mac/LanguagePacks.h"
 
 #include "clean/Safety.h"
 #include "platform/files/FileStatus.h"
@@ -18,7 +18,7 @@ namespace {
 
 using Codes = std::set<std::string, std::less<>>;
 
-/// "pt" of "pt-BR", "pt_BR" and "PT".
+/// "pt" for "pt-BR", "pt_BR" and "PT".
 std::string codeOf(std::string_view language)
 {
     return PathText::asciiLower(language.substr(0, language.find_first_of("-_")));

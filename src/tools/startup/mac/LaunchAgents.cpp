@@ -3,10 +3,10 @@
 #include "platform/mac/PropertyList.h"
 #include "platform/process/ChildProcess.h"
 #include "platform/text/PathText.h"
-#include "tools/startup/Launchctl.h"
-#include "tools/startup/PrintDisabled.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupTexts.h"
+#include "tools/startup/mac/Launchctl.h"
+#include "tools/startup/mac/PrintDisabled.h"
 
 #include <algorithm>
 #include <optional>
@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view kAgentSuffix = ".plist";
 
-/// What the tool calls the logins of the user.
+/// The tool's name for the user's logins.
 std::string loginDomain()
 {
     return "gui/" + std::to_string(Places::current().user);
@@ -60,7 +60,7 @@ std::optional<LaunchItem> itemAt(const std::string& path)
 void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std::string_view scope,
                  const PrintDisabled::Labels& disabled)
 {
-    // Where the user made the folder a link to another, that one is meant.
+    // The folder may be a link of the user's: list its target.
     std::vector<std::string> names = listNames(folder + "/.");
     std::sort(names.begin(), names.end());
     for (const std::string& name : names) {
@@ -93,7 +93,7 @@ public:
             return false;
         const std::string target = loginDomain() + "/" + item.label;
         const auto outcome = Launchctl::call({enabled ? "enable" : "disable", target});
-        // Stopping what does not run fails, which is as good.
+        // Stopping something that is not running fails, which is fine.
         if (!enabled)
             (void)Launchctl::call({"bootout", target});
         return outcome && outcome->status == 0;
