@@ -1,8 +1,9 @@
-# Every target of the project links orlen_flags: language level, warnings, sanitizers.
+# Every target of the project links orlen_flags: language level, warnings, sanitizers. That warnings are errors is for
+# the presets to say: a compiler that is newer than the project knows more of them.
 add_library(orlen_flags INTERFACE)
 target_compile_features(orlen_flags INTERFACE cxx_std_20)
 target_compile_options(orlen_flags INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Werror)
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast)
 # Plain structs initialise every field where it is declared, so naming some of them is enough.
 target_compile_options(orlen_flags INTERFACE -Wno-missing-field-initializers)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
@@ -28,6 +29,6 @@ if(ORLEN_SANITIZE)
 endif()
 
 find_program(ORLEN_CCACHE ccache)
-if(ORLEN_CCACHE)
+if(ORLEN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${ORLEN_CCACHE})
 endif()
