@@ -9,12 +9,10 @@ Column {
 
     spacing: 16
 
-    Text {
+    Paragraph {
         width: root.width
         text: root.detail.advice
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        lineHeight: 1.2
         color: Theme.text
         font.pixelSize: Theme.bodySize
     }

@@ -49,27 +49,21 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 3
 
-        Text {
+        BodyText {
             width: parent.width
             text: root.name
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Medium
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.origin
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: hover.hovered ? Theme.secondary : Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 
-    Text {
+    BodyText {
         id: bytes
 
         anchors.right: chevron.left
@@ -78,9 +72,6 @@ Item {
         width: Math.max(implicitWidth, 56)
         horizontalAlignment: Text.AlignRight
         text: root.size
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
     }
 

@@ -84,7 +84,7 @@ Sheet {
                 onClicked: root.detail.toggleAll()
             }
 
-            Text {
+            SmallText {
                 id: heading
 
                 anchors.left: all.visible ? all.right : parent.left
@@ -93,14 +93,12 @@ Sheet {
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.detail.heading
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
             }
 
-            Text {
+            CaptionText {
                 id: figures
 
                 anchors.right: parent.right
@@ -108,9 +106,7 @@ Sheet {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.detail.count > 0
                 text: root.detail.chosenText
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
             }
         }
 
@@ -164,27 +160,22 @@ Sheet {
             spacing: 8
             visible: root.detail.removable && root.detail.count === 0
 
-            Text {
+            LeadText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
                 text: root.detail.loading ? Strings.lookingForLeftovers
                                           : root.detail.otherCopy ? Strings.otherCopy : Strings.noLeftovers
-                textFormat: Text.PlainText
                 color: root.detail.otherCopy ? Theme.text : Theme.secondary
-                font.pixelSize: Theme.headlineSize
                 font.weight: root.detail.otherCopy ? Font.DemiBold : Font.Normal
             }
 
-            Text {
+            BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 visible: root.detail.otherCopy
                 text: Strings.otherCopyNote
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
             }
         }
 

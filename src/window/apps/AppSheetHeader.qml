@@ -31,37 +31,24 @@ Column {
             anchors.verticalCenter: picture.verticalCenter
             spacing: 3
 
-            Text {
+            TitleText {
                 width: parent.width
                 text: root.detail.name
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 wrapMode: Text.Wrap
                 maximumLineCount: 2
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: root.detail.name
             }
 
-            Text {
+            SmallText {
                 width: parent.width
                 text: root.detail.size === "" ? root.detail.origin : root.detail.size + " · " + root.detail.origin
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            CaptionText {
                 width: parent.width
                 visible: root.detail.identifier !== ""
                 text: root.detail.identifier
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
             }
         }
 

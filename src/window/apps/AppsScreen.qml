@@ -82,7 +82,7 @@ Item {
 
         readonly property real room: root.height - card.y - Theme.pageMargin
 
-        Text {
+        CaptionText {
             id: summary
 
             anchors.left: parent.left
@@ -92,10 +92,7 @@ Item {
             anchors.verticalCenter: orders.verticalCenter
             visible: apps.count > 0
             text: apps.summary
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.Medium
         }
 

@@ -63,23 +63,18 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Text {
+        BodyText {
             width: parent.width
             text: root.name
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Medium
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.folder
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: pointer.containsMouse || mark.hovered ? Theme.secondary : Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 
@@ -94,7 +89,7 @@ Item {
         symbol: "eye.fill"
     }
 
-    Text {
+    BodyText {
         id: bytes
 
         anchors.right: parent.right
@@ -103,9 +98,6 @@ Item {
         width: Math.max(implicitWidth, 64)
         horizontalAlignment: Text.AlignRight
         text: root.size
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
     }
 }

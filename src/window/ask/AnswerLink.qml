@@ -33,30 +33,24 @@ T.AbstractButton {
             size: 24
         }
 
-        Text {
+        SmallText {
             anchors.left: badge.right
             anchors.leftMargin: 10
             anchors.right: amount.left
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
         }
 
-        Text {
+        SmallText {
             id: amount
 
             anchors.right: chevron.left
             anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
         Symbol {

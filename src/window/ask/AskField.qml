@@ -40,19 +40,16 @@ T.TextField {
     }
 
     // Fields would take their font from the desktop, texts take it from the program.
-    Text {
+    BodyText {
         id: hint
 
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding
         anchors.rightMargin: root.rightPadding
         verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText
-        textFormat: Text.PlainText
         color: root.placeholderTextColor
-        font.pixelSize: Theme.bodySize
         Accessible.ignored: true
     }
 

@@ -41,15 +41,12 @@ Item {
             size: 64
         }
 
-        Text {
+        LeadText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             topPadding: 8
             bottomPadding: 4
             text: Strings.tryOneOfThese
-            textFormat: Text.PlainText
-            color: Theme.secondary
-            font.pixelSize: Theme.headlineSize
         }
 
         Repeater {

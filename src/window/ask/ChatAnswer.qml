@@ -23,12 +23,10 @@ Card {
         width: root.width - 40
         spacing: 14
 
-        Text {
+        Paragraph {
             width: parent.width
             text: root.text
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            lineHeight: 1.3
             color: Theme.text
             font.pixelSize: Theme.bodySize
             Accessible.ignored: true
@@ -55,16 +53,12 @@ Card {
             width: parent.width
             height: copy.height
 
-            Text {
+            CaptionText {
                 anchors.left: parent.left
                 anchors.right: copy.left
                 anchors.rightMargin: 8
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.usedModel ? Strings.modelFooter : Strings.matcherFooter
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
             }
 
             IconButton {

@@ -19,14 +19,12 @@ T.AbstractButton {
     Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
-        Text {
+        BodyText {
             id: label
 
             anchors.centerIn: parent
             width: Math.min(implicitWidth, root.width - 24)
             text: root.text
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: !root.enabled ? Theme.tertiary : root.quiet ? Theme.secondary : Theme.text
             font.pixelSize: root.quiet ? Theme.captionSize : Theme.bodySize
             font.weight: Font.Medium

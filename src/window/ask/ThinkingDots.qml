@@ -53,12 +53,9 @@ Row {
         }
     }
 
-    Text {
+    SmallText {
         anchors.verticalCenter: parent.verticalCenter
         text: Strings.thinking
-        textFormat: Text.PlainText
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 }

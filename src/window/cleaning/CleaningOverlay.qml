@@ -94,41 +94,30 @@ Sheet {
                 }
             }
 
-            Text {
+            TitleText {
                 objectName: "cleaningTitle"
                 width: parent.width
                 topPadding: 10
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: root.title
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
-            Text {
+            BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: cleaning.finished ? cleaning.planTitle + " · " + cleaning.freedText : cleaning.progressText
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
             }
 
-            Text {
+            BodyText {
                 objectName: "cleaningFailed"
                 width: parent.width
                 visible: cleaning.finished && cleaning.failed > 0
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.couldNotBeMoved.arg(cleaning.failedText)
-                textFormat: Text.PlainText
                 color: Theme.reviewText
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.Medium
             }
         }
@@ -160,41 +149,30 @@ Sheet {
             width: head.width
             spacing: head.spacing
 
-            Text {
+            SmallText {
                 width: parent.width
                 visible: !cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
                 text: cleaning.current
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.tertiary
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            Paragraph {
                 width: parent.width
                 topPadding: 4
                 visible: cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 text: Strings.nothingDeleted
-                textFormat: Text.PlainText
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            Paragraph {
                 objectName: "notRecorded"
                 width: parent.width
                 visible: cleaning.finished && !cleaning.recorded
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 text: Strings.notRecorded
-                textFormat: Text.PlainText
                 color: Theme.reviewText
-                font.pixelSize: Theme.smallSize
             }
 
             Item {

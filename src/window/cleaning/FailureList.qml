@@ -44,50 +44,41 @@ KeyedList {
         Accessible.role: Accessible.ListItem
         Accessible.name: row.name + ", " + row.folder + ", " + row.reason + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
 
-        Text {
+        SmallText {
             objectName: "failureReason"
             width: row.width - 32
             bottomPadding: row.remedy === "" ? 6 : 0
             visible: row.startsReason
             text: row.reason.charAt(0).toUpperCase() + row.reason.slice(1)
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.reviewText
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             objectName: "failureRemedy"
             width: row.width - 32
             bottomPadding: 6
             visible: row.startsReason && row.remedy !== ""
             text: row.remedy
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        SmallText {
             width: row.width - 32
             text: row.name
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: row.width - 32
             text: row.folder
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }

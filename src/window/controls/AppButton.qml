@@ -54,12 +54,10 @@ T.Button {
                 size: 16
             }
 
-            Text {
+            BodyText {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.text
-                textFormat: Text.PlainText
                 color: root.ink
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
             }
         }

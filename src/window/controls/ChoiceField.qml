@@ -20,12 +20,10 @@ T.ComboBox {
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()
 
-    contentItem: Text {
+    contentItem: SmallText {
         text: root.displayText
-        textFormat: Text.PlainText
         verticalAlignment: Text.AlignVCenter
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
         Accessible.ignored: true
     }
@@ -62,13 +60,11 @@ T.ComboBox {
         text: choice.modelData
         Accessible.name: choice.modelData
 
-        contentItem: Text {
+        contentItem: SmallText {
             leftPadding: 26
             text: choice.modelData
-            textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: root.currentIndex === choice.index ? Font.DemiBold : Font.Normal
             Accessible.ignored: true
         }

@@ -33,12 +33,10 @@ Rectangle {
             size: 12
         }
 
-        Text {
+        CaptionText {
             anchors.verticalCenter: parent.verticalCenter
             text: root.label
-            textFormat: Text.PlainText
             color: Theme.ratingText(root.rating)
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }

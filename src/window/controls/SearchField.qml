@@ -33,17 +33,14 @@ T.TextField {
         border.color: root.activeFocus ? Theme.accent : Theme.stroke
     }
 
-    Text {
+    BodyText {
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding
         anchors.rightMargin: root.rightPadding
         verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText
-        textFormat: Text.PlainText
         color: root.placeholderTextColor
-        font: root.font
         Accessible.ignored: true
     }
 

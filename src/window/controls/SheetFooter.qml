@@ -40,7 +40,7 @@ Item {
         ink: root.noteInk
     }
 
-    Text {
+    HeadlineText {
         id: total
 
         objectName: root.figureName
@@ -48,10 +48,8 @@ Item {
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         text: root.figure
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.headlineSize
         font.weight: Font.Bold
+        Accessible.role: Accessible.StaticText
     }
 
     Row {

@@ -45,18 +45,11 @@ Item {
             width: parent.width
             height: Math.max(heading.height, chip.height)
 
-            Text {
+            TitleText {
                 id: heading
 
                 width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
                 text: root.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: root.title
             }
 
             RatingChip {

@@ -21,15 +21,13 @@ T.Button {
     Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
-        Text {
+        SmallText {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
             x: 8
             text: root.text
-            textFormat: Text.PlainText
             color: root.active ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.smallSize
             font.weight: root.active ? Font.DemiBold : Font.Medium
         }
 

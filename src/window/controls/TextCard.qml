@@ -31,18 +31,15 @@ Card {
             size: 36
         }
 
-        Text {
+        HeadlineText {
             width: parent.width
             height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
             leftPadding: root.beside ? 44 : 0
             topPadding: root.beside ? 0 : 4
             verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideNone
             text: root.title
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.headlineSize
-            font.weight: Font.DemiBold
             Accessible.ignored: true
 
             Badge {
@@ -54,13 +51,9 @@ Card {
             }
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             text: root.body
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
-            color: Theme.secondary
             font.pixelSize: Theme.bodySize
             Accessible.ignored: true
         }

@@ -18,11 +18,9 @@ T.ToolTip {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-    contentItem: Text {
+    contentItem: CaptionText {
         text: root.text
-        textFormat: Text.PlainText
         color: Theme.window
-        font.pixelSize: Theme.captionSize
     }
 
     background: Rectangle {

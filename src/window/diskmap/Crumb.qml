@@ -38,7 +38,7 @@ T.AbstractButton {
             colour: Theme.tertiary
         }
 
-        Text {
+        BodyText {
             id: label
 
             anchors.left: arrow.right
@@ -46,10 +46,8 @@ T.AbstractButton {
             anchors.verticalCenter: parent.verticalCenter
             width: root.width - arrow.width - 2 * Theme.controlRadius
             text: root.isGap ? "…" : root.text
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: root.isLast ? Theme.text : Theme.accent
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
         }
     }

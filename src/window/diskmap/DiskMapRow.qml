@@ -46,17 +46,14 @@ Item {
         size: 16
     }
 
-    Text {
+    BodyText {
         anchors.left: icon.right
         anchors.leftMargin: 12
         anchors.right: bar.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
-        textFormat: Text.PlainText
         elide: Text.ElideMiddle
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         Accessible.ignored: true
     }
 
@@ -71,7 +68,7 @@ Item {
         Accessible.ignored: true
     }
 
-    Text {
+    CaptionText {
         id: percent
 
         anchors.right: amount.left
@@ -80,13 +77,10 @@ Item {
         width: Math.round(46 * Theme.textScale)
         horizontalAlignment: Text.AlignRight
         text: root.shareText
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         Accessible.ignored: true
     }
 
-    Text {
+    SmallText {
         id: amount
 
         anchors.right: chevron.left
@@ -95,9 +89,7 @@ Item {
         width: Math.round(82 * Theme.textScale)
         horizontalAlignment: Text.AlignRight
         text: root.size
-        textFormat: Text.PlainText
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 

@@ -52,12 +52,10 @@ FocusScope {
             opacity: theMap.loading ? 1 : 0
             visible: opacity > 0
 
-            Text {
+            BodyText {
                 anchors.centerIn: parent
                 text: Strings.measuring
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
                 Accessible.ignored: !theMap.loading
             }
 
@@ -103,7 +101,7 @@ FocusScope {
         }
     }
 
-    Text {
+    SmallText {
         id: status
 
         readonly property int row: theMap.hoverRow >= 0 && !root.asList ? theMap.hoverRow
@@ -115,10 +113,7 @@ FocusScope {
         anchors.bottomMargin: 16
         width: root.width - 2 * Theme.pageMargin
         text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
-        textFormat: Text.PlainText
         elide: Text.ElideMiddle
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
     }
 
     Shortcut {

@@ -65,7 +65,7 @@ Rectangle {
         }
     }
 
-    Text {
+    SmallText {
         id: title
 
         x: 8
@@ -73,22 +73,17 @@ Rectangle {
         width: root.width - 16
         visible: root.isLabelled
         text: root.name
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.ink
-        font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
         Accessible.ignored: true
     }
 
-    Text {
+    CaptionText {
         x: 8
         y: title.y + title.height + 1
         visible: root.isLabelled && x + width <= root.width - 6 && y + height <= root.height - 3
         text: root.size
-        textFormat: Text.PlainText
         color: root.quietInk
-        font.pixelSize: Theme.captionSize
         Accessible.ignored: true
     }
 

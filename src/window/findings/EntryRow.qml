@@ -91,35 +91,26 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Text {
+        BodyText {
             width: parent.width
             text: root.name
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Medium
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.folder
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             visible: root.note !== ""
             text: root.note
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }
@@ -183,26 +174,19 @@ Item {
         width: Math.round(136 * Theme.textScale)
         spacing: 2
 
-        Text {
+        BodyText {
             width: parent.width
             horizontalAlignment: Text.AlignRight
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             visible: root.date !== ""
             horizontalAlignment: Text.AlignRight
             text: root.date
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }

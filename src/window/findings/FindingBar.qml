@@ -47,7 +47,7 @@ Rectangle {
         Keys.onReturnPressed: root.entries.toggleShown()
     }
 
-    Text {
+    SmallText {
         id: label
 
         objectName: "selectedText"
@@ -55,10 +55,7 @@ Rectangle {
         x: all.visible ? all.x + all.width + 8 : 24
         width: Math.min(implicitWidth, root.width - x - 16)
         text: root.entries.selectedText
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
         Accessible.role: Accessible.StaticText
         Accessible.name: text

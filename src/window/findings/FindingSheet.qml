@@ -54,15 +54,17 @@ Sheet {
         ratingSymbol: contents.header.ratingSymbol
         onCloseRequested: root.close()
 
-        SheetText {
+        Paragraph {
             width: parent.width
             text: contents.header.explanation
+            maximumLineCount: 3
         }
 
-        SheetText {
+        Paragraph {
             width: parent.width
             visible: text !== ""
             text: contents.header.reason
+            maximumLineCount: 3
             color: Theme.tertiary
         }
     }

@@ -76,26 +76,17 @@ Card {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 4
 
-            Text {
+            HeadlineText {
                 width: parent.width
                 text: root.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
-                font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
 
-            Text {
+            SmallText {
                 width: parent.width
                 text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
-                textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
-                elide: Text.ElideRight
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
                 Accessible.ignored: true
             }
         }
@@ -108,14 +99,11 @@ Card {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 8
 
-            Text {
+            HeadlineText {
                 anchors.verticalCenter: parent.verticalCenter
                 rightPadding: 12
                 visible: !root.isNarrow
                 text: root.freed
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
                 font.weight: Font.Bold
                 Accessible.ignored: true
             }

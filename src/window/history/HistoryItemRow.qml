@@ -46,35 +46,26 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Text {
+        BodyText {
             width: parent.width
             text: root.name
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Medium
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.folder
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             visible: root.isNarrow
             text: root.statusText
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: root.statusInk
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }
@@ -87,24 +78,20 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 10
 
-        Text {
+        CaptionText {
             anchors.verticalCenter: parent.verticalCenter
             visible: !root.isNarrow
             text: root.statusText
-            textFormat: Text.PlainText
             color: root.statusInk
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        SmallText {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.round(78 * Theme.textScale)
             horizontalAlignment: Text.AlignRight
             text: root.size
-            textFormat: Text.PlainText
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }

@@ -23,26 +23,15 @@ Card {
         width: root.width - 40 - (root.besides ? buttons.width + 32 : 0)
         spacing: 6
 
-        Text {
+        HeadlineText {
             width: parent.width
             text: Strings.accessTitle
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.headlineSize
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             text: Strings.accessBody
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
         Note {
@@ -66,18 +55,16 @@ Card {
                 radius: 6
                 color: Theme.inset
 
-                Text {
+                CaptionText {
                     id: command
 
                     x: 10
                     anchors.verticalCenter: parent.verticalCenter
                     width: parent.width - 20
                     text: root.access.command
-                    textFormat: Text.PlainText
                     wrapMode: Text.WrapAnywhere
                     color: Theme.text
                     font.family: "monospace"
-                    font.pixelSize: Theme.captionSize
                 }
             }
 
@@ -91,13 +78,10 @@ Card {
             }
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             visible: !root.access.granted
             text: Strings.accessHint
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
             color: Theme.tertiary
             font.pixelSize: Theme.captionSize
         }

@@ -48,7 +48,7 @@ T.AbstractButton {
             Accessible.ignored: true
         }
 
-        Text {
+        BodyText {
             id: name
 
             anchors.left: parent.left
@@ -57,32 +57,24 @@ T.AbstractButton {
             anchors.bottom: figure.top
             anchors.bottomMargin: 3
             text: root.title
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             maximumLineCount: 2
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        TitleText {
             id: figure
 
             x: 16
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 15
             text: root.size
-            textFormat: Text.PlainText
             color: root.cleanable ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.titleSize
-            font.weight: Font.Bold
-            font.letterSpacing: -0.3
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             anchors.left: figure.right
             anchors.leftMargin: 10
             anchors.right: parent.right
@@ -91,10 +83,7 @@ T.AbstractButton {
             horizontalAlignment: Text.AlignRight
             // The word goes where it would be cut off; the colour and the sign say it too.
             text: root.selected === "" || wording.advanceWidth < width ? root.amount : "✓ " + root.selected
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: root.selected === "" ? Theme.tertiary : Theme.accent
-            font.pixelSize: Theme.captionSize
             font.weight: root.selected === "" ? Font.Normal : Font.DemiBold
             Accessible.ignored: true
 

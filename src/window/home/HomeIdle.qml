@@ -64,31 +64,22 @@ Item {
                         room: parent.width
                     }
 
-                    Text {
+                    SmallText {
                         id: looking
 
                         anchors.centerIn: parent
                         visible: !root.storage.ready
                         text: Strings.lookingAtStorage
-                        textFormat: Text.PlainText
                         color: Theme.tertiary
-                        font.pixelSize: Theme.smallSize
                     }
                 }
 
-                Text {
+                TitleText {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.homeLead
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.text
-                    font.pixelSize: Theme.titleSize
-                    font.weight: Font.Bold
-                    font.letterSpacing: -0.3
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
                 }
 
                 Item {
@@ -119,12 +110,9 @@ Item {
                     anchors.horizontalCenter: parent.horizontalCenter
                     spacing: 8
 
-                    Text {
+                    SmallText {
                         anchors.verticalCenter: parent.verticalCenter
                         text: Strings.largeFilesFrom
-                        textFormat: Text.PlainText
-                        color: Theme.secondary
-                        font.pixelSize: Theme.smallSize
                         Accessible.ignored: true
                     }
 
@@ -149,7 +137,7 @@ Item {
                 }
             }
 
-            Text {
+            Paragraph {
                 id: footer
 
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -158,9 +146,6 @@ Item {
                 width: Math.min(parent.width - 2 * Theme.pageMargin, 760 * Theme.textScale)
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.homeFooter
-                textFormat: Text.PlainText
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 color: Theme.tertiary
                 font.pixelSize: Theme.captionSize
             }

@@ -74,30 +74,24 @@ Item {
         }
     }
 
-    Text {
+    BodyText {
         anchors.left: mark.right
         anchors.leftMargin: 12
         anchors.right: time.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.isRunning || root.isDone ? Theme.text : Theme.tertiary
-        font.pixelSize: Theme.bodySize
         font.weight: root.isRunning ? Font.DemiBold : Font.Medium
         Accessible.ignored: true
     }
 
-    Text {
+    CaptionText {
         id: time
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         text: root.duration
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         Accessible.ignored: true
     }
 }

@@ -41,26 +41,21 @@ Grid {
                 color: row.colour
             }
 
-            Text {
+            CaptionText {
                 id: name
 
                 x: 16
                 text: row.label
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
 
-            Text {
+            CaptionText {
                 anchors.left: name.right
                 anchors.leftMargin: 6
                 anchors.right: parent.right
                 text: row.size
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 color: Theme.text
-                font.pixelSize: Theme.captionSize
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }

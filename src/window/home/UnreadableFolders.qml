@@ -26,15 +26,13 @@ Column {
         onClicked: root.open = !root.open
     }
 
-    Text {
+    CaptionText {
         objectName: "unreadableFolders"
         leftPadding: 22
         width: parent.width
         visible: root.open
         text: root.folders
-        textFormat: Text.PlainText
         wrapMode: Text.WrapAnywhere
         color: Theme.secondary
-        font.pixelSize: Theme.captionSize
     }
 }

@@ -44,31 +44,22 @@ Item {
                     size: root.height < 660 ? 56 : 72
                 }
 
-                Text {
+                TitleText {
                     width: parent.width
                     topPadding: 14
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeTitle
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.text
                     font.pixelSize: Theme.heroSize
-                    font.weight: Font.Bold
                     font.letterSpacing: -1
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
                 }
 
-                Text {
+                LeadText {
                     width: parent.width
                     topPadding: 4
                     bottomPadding: root.height < 660 ? 18 : 28
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeSubtitle
-                    textFormat: Text.PlainText
-                    wrapMode: Text.WordWrap
-                    color: Theme.secondary
-                    font.pixelSize: Theme.headlineSize
                 }
 
                 TextCardGrid {

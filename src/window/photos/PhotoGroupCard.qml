@@ -74,18 +74,11 @@ Card {
                 width: parent.width
                 spacing: 10
 
-                Text {
+                HeadlineText {
                     height: Math.max(implicitHeight, chip.height)
                     verticalAlignment: Text.AlignVCenter
                     width: Math.min(implicitWidth, parent.width)
                     text: root.title
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
-                    color: Theme.text
-                    font.pixelSize: Theme.headlineSize
-                    font.weight: Font.DemiBold
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: root.title
                 }
 
                 RatingChip {
@@ -97,13 +90,9 @@ Card {
                 }
             }
 
-            Text {
+            SmallText {
                 width: parent.width
                 text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
         }
 

@@ -78,18 +78,11 @@ Item {
                     width: parent.width
                     spacing: 10
 
-                    Text {
+                    TitleText {
                         height: Math.max(implicitHeight, chip.height)
                         verticalAlignment: Text.AlignVCenter
                         width: Math.min(implicitWidth, parent.width)
                         text: root.title
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
-                        color: Theme.text
-                        font.pixelSize: Theme.titleSize
-                        font.weight: Font.Bold
-                        Accessible.role: Accessible.Heading
-                        Accessible.name: root.title
                     }
 
                     RatingChip {
@@ -101,13 +94,10 @@ Item {
                     }
                 }
 
-                Text {
+                SmallText {
                     width: parent.width
                     text: root.reason === "" ? root.explanation : root.explanation + " " + root.reason
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.secondary
-                    font.pixelSize: Theme.smallSize
                 }
             }
         }
@@ -128,14 +118,11 @@ Item {
                 onClicked: root.groups.toggleAll(root.findingId)
             }
 
-            Text {
+            SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
                 text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
             }
         }

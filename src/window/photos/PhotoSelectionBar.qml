@@ -18,7 +18,7 @@ Rectangle {
         color: Theme.stroke
     }
 
-    Text {
+    BodyText {
         id: label
 
         anchors.left: parent.left
@@ -27,10 +27,7 @@ Rectangle {
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         text: root.selectedText === "" ? Strings.noPhotoSelected : root.selectedText
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.selectedText === "" ? Theme.secondary : Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
     }
 

@@ -119,14 +119,12 @@ Item {
             radius: height / 2
             color: Qt.rgba(0, 0, 0, 0.6)
 
-            Text {
+            CaptionText {
                 id: label
 
                 anchors.centerIn: parent
                 text: root.size
-                textFormat: Text.PlainText
                 color: "white"
-                font.pixelSize: Math.round(11 * Theme.textScale)
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
@@ -155,11 +153,9 @@ Item {
                     size: 11
                 }
 
-                Text {
+                CaptionText {
                     text: Strings.kept
-                    textFormat: Text.PlainText
                     color: "white"
-                    font.pixelSize: Math.round(11 * Theme.textScale)
                     font.weight: Font.DemiBold
                     Accessible.ignored: true
                 }

@@ -33,32 +33,21 @@ Card {
                 size: 20
             }
 
-            Text {
+            TitleText {
                 id: headline
 
                 objectName: "forecastHeadline"
                 x: sign.visible ? sign.width + 10 : 0
                 width: parent.width - x
                 text: root.prediction.headline
-                textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 color: root.prediction.warn ? Theme.reviewText : Theme.text
-                font.pixelSize: Math.round(24 * Theme.textScale)
-                font.weight: Font.Bold
-                font.letterSpacing: -0.4
-                Accessible.role: Accessible.Heading
-                Accessible.name: root.prediction.headline
             }
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             text: root.prediction.detail
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.2
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
         Item {
@@ -83,27 +72,22 @@ Card {
                                    .arg(root.prediction.detail)
                              : Strings.noForecast.arg(root.prediction.detail)
 
-            Text {
+            SmallText {
                 x: Math.min(chart.now.x + 12, chart.width - width)
                 y: Math.max(0, chart.now.y - height - 8)
                 visible: root.prediction.enoughData
                 text: Strings.free.arg(root.prediction.freeText)
-                textFormat: Text.PlainText
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
 
             // On the line that it names, where the curve does not come before it means it.
-            Text {
+            CaptionText {
                 anchors.right: parent.right
                 anchors.bottom: parent.bottom
                 anchors.bottomMargin: 8
                 text: Strings.diskFull
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
         }
@@ -112,24 +96,18 @@ Card {
             width: parent.width
             height: since.height
 
-            Text {
+            CaptionText {
                 id: since
 
                 visible: root.prediction.enoughData
                 text: root.prediction.firstDate
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
 
-            Text {
+            CaptionText {
                 x: Math.min(chart.now.x - width / 2, parent.width - width)
                 visible: root.prediction.enoughData
                 text: root.prediction.lastDate
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
         }

@@ -26,7 +26,7 @@ Item {
         color: root.colour
     }
 
-    Text {
+    BodyText {
         id: title
 
         anchors.left: dot.right
@@ -34,10 +34,6 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         width: Math.round(104 * Theme.textScale)
         text: root.label
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.Medium
         Accessible.ignored: true
     }
@@ -71,7 +67,7 @@ Item {
         }
     }
 
-    Text {
+    SmallText {
         id: amount
 
         anchors.right: parent.right
@@ -80,10 +76,6 @@ Item {
         width: Math.round(128 * Theme.textScale)
         horizontalAlignment: Text.AlignRight
         text: root.rate
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 }

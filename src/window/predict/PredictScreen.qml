@@ -19,16 +19,10 @@ ScreenPage {
         prediction: thePrediction
     }
 
-    Text {
+    HeadlineText {
         width: parent.width
         topPadding: 8
         text: Strings.growthByCategory
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.headlineSize
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-        Accessible.name: Strings.growthByCategory
     }
 
     Card {
@@ -53,7 +47,7 @@ ScreenPage {
             }
         }
 
-        Text {
+        SmallText {
             id: later
 
             x: 20
@@ -61,10 +55,7 @@ ScreenPage {
             width: parent.width - 40
             visible: thePrediction.empty
             text: Strings.growthLater
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
     }
 

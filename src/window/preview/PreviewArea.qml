@@ -68,7 +68,7 @@ Rectangle {
             Accessible.name: root.preview.name
         }
 
-        Text {
+        CaptionText {
             id: cut
 
             anchors.top: text.bottom
@@ -76,9 +76,6 @@ Rectangle {
             topPadding: 12
             visible: root.preview.cut
             text: Strings.beginningOnly
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 
@@ -117,29 +114,24 @@ Rectangle {
                 name: row.symbol
             }
 
-            Text {
+            SmallText {
                 anchors.left: icon.right
                 anchors.leftMargin: 10
                 anchors.right: size.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.name
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            SmallText {
                 id: size
 
                 anchors.right: parent.right
                 anchors.rightMargin: 24
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.size
-                textFormat: Text.PlainText
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
         }
 
@@ -147,16 +139,13 @@ Rectangle {
             height: root.preview.cut ? remark.height : 0
             visible: root.preview.cut
 
-            Text {
+            CaptionText {
                 id: remark
 
                 x: 24
                 topPadding: 8
                 bottomPadding: 8
                 text: Strings.firstNamesOnly
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
             }
         }
     }
@@ -175,16 +164,14 @@ Rectangle {
             grows: false
         }
 
-        Text {
+        BodyText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
                                                             : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
                                                                                                          : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
-            textFormat: Text.PlainText
             color: Theme.secondary
-            font.pixelSize: Theme.bodySize
         }
     }
 

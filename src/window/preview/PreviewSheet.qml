@@ -56,13 +56,11 @@ Sheet {
             title: model.name
             onCloseRequested: root.close()
 
-            SheetText {
+            SmallText {
                 width: parent.width
                 text: model.folder
-                maximumLineCount: 1
                 elide: Text.ElideMiddle
                 color: Theme.tertiary
-                wrapMode: Text.NoWrap
             }
         }
 
@@ -91,23 +89,16 @@ Sheet {
                 width: buttons.x - x - 16
                 spacing: 2
 
-                Text {
+                SmallText {
                     width: parent.width
                     text: model.kind === PreviewModel.Folder && root.size !== "" ? model.facts + " · " + root.size : model.facts
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
                     color: Theme.text
-                    font.pixelSize: Theme.smallSize
                     font.weight: Font.DemiBold
                 }
 
-                Text {
+                CaptionText {
                     width: parent.width
                     text: model.dates
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
-                    color: Theme.tertiary
-                    font.pixelSize: Theme.captionSize
                 }
             }
 

@@ -73,7 +73,7 @@ Item {
             size: 28
         }
 
-        Text {
+        BodyText {
             id: heading
 
             anchors.left: badge.right
@@ -81,37 +81,27 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, parent.width - x - selected.implicitWidth - total.implicitWidth - 100)
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             id: selected
 
             anchors.left: heading.right
             anchors.leftMargin: 10
             anchors.baseline: heading.baseline
             text: root.count
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        BodyText {
             id: total
 
             anchors.right: arrow.left
             anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Bold
             Accessible.ignored: true
         }

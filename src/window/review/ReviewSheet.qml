@@ -57,19 +57,19 @@ Sheet {
         title: Strings.reviewTitle
         onCloseRequested: root.close()
 
-        SheetText {
+        SmallText {
             objectName: "planTitle"
             width: parent.width
             visible: text !== ""
             text: plan.title
-            maximumLineCount: 1
             color: Theme.accent
             font.weight: Font.DemiBold
         }
 
-        SheetText {
+        Paragraph {
             objectName: "reviewLead"
             width: parent.width
+            maximumLineCount: 3
             text: Strings.reviewLead.arg(plan.checkedCountText)
         }
     }

@@ -24,15 +24,13 @@ Rectangle {
         color: Theme.stroke
     }
 
-    Text {
+    CaptionText {
         id: label
 
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -1
         text: root.text
-        textFormat: Text.PlainText
         color: Theme.text
-        font.pixelSize: Theme.captionSize
         font.weight: Font.DemiBold
     }
 }

@@ -84,7 +84,7 @@ T.Popup {
             size: 16
         }
 
-        Text {
+        BodyText {
             id: line
 
             objectName: "notice"
@@ -93,12 +93,8 @@ T.Popup {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(Math.ceil(implicitWidth), 620, root.roomForText)
             text: root.shownText
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             maximumLineCount: 4
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             Accessible.ignored: true
         }
 

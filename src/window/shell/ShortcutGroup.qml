@@ -11,13 +11,10 @@ Column {
 
     spacing: 0
 
-    Text {
+    CaptionText {
         width: parent.width
         bottomPadding: 6
         text: root.title
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
         Accessible.name: text
@@ -43,16 +40,12 @@ Column {
                 color: Theme.stroke
             }
 
-            Text {
+            BodyText {
                 anchors.left: parent.left
                 anchors.right: strokes.left
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.modelData.text
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
                 Accessible.ignored: true
             }
 

@@ -34,7 +34,7 @@ Rectangle {
         Keys.onDownPressed: root.selected(Math.min(list.count - 1, root.currentScreen + 1))
 
         section.property: "section"
-        section.delegate: Text {
+        section.delegate: CaptionText {
             required property string section
 
             height: Math.round(34 * Math.max(1, Theme.textScale * 0.85))
@@ -42,9 +42,6 @@ Rectangle {
             bottomPadding: 6
             verticalAlignment: Text.AlignBottom
             text: section
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
         }
 
@@ -71,13 +68,10 @@ Rectangle {
         anchors.margins: 22
         spacing: 8
 
-        Text {
+        CaptionText {
             width: parent.width
             text: Strings.free.arg(root.freeText)
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
         }
 

@@ -30,17 +30,14 @@ T.ItemDelegate {
             size: 24
         }
 
-        Text {
+        BodyText {
             anchors.left: badge.right
             anchors.leftMargin: 10
             anchors.right: parent.right
             anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: root.isCurrent ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.bodySize
             font.weight: root.isCurrent ? Font.DemiBold : Font.Medium
         }
     }

@@ -21,24 +21,17 @@ Card {
             width: parent.width
             spacing: 4
 
-            Text {
+            BodyText {
                 width: parent.width
                 text: Strings.loginItems
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
                 Accessible.name: Strings.loginItems
             }
 
-            Text {
+            Paragraph {
                 width: parent.width
                 text: Strings.loginItemsLead
-                textFormat: Text.PlainText
-                wrapMode: Text.WordWrap
-                lineHeight: 1.2
-                color: Theme.secondary
                 font.pixelSize: Theme.captionSize
             }
         }
@@ -91,17 +84,14 @@ Card {
                 Repeater {
                     model: root.items
 
-                    Text {
+                    SmallText {
                         required property string name
 
                         width: names.width
                         height: Math.round(28 * Theme.textScale)
                         verticalAlignment: Text.AlignVCenter
                         text: name
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
                         color: Theme.text
-                        font.pixelSize: Theme.smallSize
                     }
                 }
             }

@@ -29,23 +29,18 @@ Card {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
 
-        Text {
+        BodyText {
             width: parent.width
             text: Strings.openAtLogin
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: Strings.openAtLoginNote
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
         }
 
         Note {

@@ -24,7 +24,7 @@ Card {
         pageHeight: root.pageHeight
         model: root.items
         section.property: "scope"
-        section.delegate: Text {
+        section.delegate: CaptionText {
             required property string section
 
             width: ListView.view.width
@@ -33,9 +33,6 @@ Card {
             bottomPadding: 2
             verticalAlignment: Text.AlignBottom
             text: section
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
             Accessible.name: section

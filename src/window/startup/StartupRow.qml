@@ -72,16 +72,12 @@ Item {
             width: parent.width
             height: Math.max(title.height, chip.visible ? chip.height : 0)
 
-            Text {
+            BodyText {
                 id: title
 
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
                 text: root.name
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.Medium
             }
 
@@ -97,23 +93,17 @@ Item {
             }
         }
 
-        Text {
+        SmallText {
             width: parent.width
             visible: root.program !== ""
             text: root.program
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.path
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 

@@ -53,29 +53,20 @@ Window {
             anchors.margins: root.margin
             spacing: 16
 
-            Text {
+            HeadlineText {
                 width: parent.width
                 text: Strings.appName
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
-                font.weight: Font.DemiBold
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
             Column {
                 width: parent.width
                 spacing: 8
 
-                Text {
+                BodyText {
                     width: parent.width
                     visible: !storage.ready
                     text: Strings.lookingAtStorage
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
                     color: Theme.secondary
-                    font.pixelSize: Theme.bodySize
                 }
 
                 Item {
@@ -85,18 +76,14 @@ Window {
                     Accessible.role: Accessible.StaticText
                     Accessible.name: freeSpace.text + " " + ofTotal.text
 
-                    Text {
+                    TitleText {
                         id: freeSpace
 
                         text: storage.freeText
-                        textFormat: Text.PlainText
-                        color: Theme.text
-                        font.pixelSize: Theme.titleSize
-                        font.weight: Font.Bold
                         Accessible.ignored: true
                     }
 
-                    Text {
+                    SmallText {
                         id: ofTotal
 
                         anchors.left: freeSpace.right
@@ -104,10 +91,6 @@ Window {
                         anchors.right: parent.right
                         anchors.baseline: freeSpace.baseline
                         text: Strings.freeOf.arg(storage.totalText)
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
-                        color: Theme.secondary
-                        font.pixelSize: Theme.smallSize
                         Accessible.ignored: true
                     }
                 }
@@ -134,13 +117,11 @@ Window {
                 color: Theme.stroke
             }
 
-            Text {
+            CaptionText {
                 width: parent.width
                 text: Strings.trayNote
-                textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
             }
 
             Row {
