@@ -2,33 +2,19 @@ import QtQuick
 import Orlen.App
 
 /// One application in the list.
-Item {
+ListRow {
     id: root
 
     required property string name
     required property string origin
     required property string icon
     required property string size
-    property bool focusShown: false
     signal activated
 
     implicitHeight: Math.max(60, texts.height + 22)
-    Accessible.role: Accessible.ListItem
     Accessible.name: root.name
     Accessible.description: root.size === "" ? root.origin : root.origin + ", " + root.size
-    Accessible.focusable: true
     Accessible.onPressAction: root.activated()
-
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: hover.hovered ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.focusShown
-            gap: 0
-        }
-    }
 
     AppIcon {
         id: picture
@@ -39,7 +25,7 @@ Item {
         size: 40
     }
 
-    Column {
+    RowTexts {
         id: texts
 
         anchors.left: picture.right
@@ -47,20 +33,9 @@ Item {
         anchors.right: bytes.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
-
-        BodyText {
-            width: parent.width
-            text: root.name
-            font.weight: Font.Medium
-        }
-
-        CaptionText {
-            width: parent.width
-            text: root.origin
-            elide: Text.ElideMiddle
-            color: hover.hovered ? Theme.secondary : Theme.tertiary
-        }
+        name: root.name
+        place: root.origin
+        placeInk: root.hovered ? Theme.secondary : Theme.tertiary
     }
 
     BodyText {
@@ -94,10 +69,6 @@ Item {
         name: "chevron.right"
         colour: Theme.tertiary
         size: 12
-    }
-
-    HoverHandler {
-        id: hover
     }
 
     TapHandler {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One application: what it left as a checklist, and the way to the review.
@@ -17,13 +16,9 @@ Sheet {
     onClosed: root.detail.close()
     onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
 
-    Behavior on wantedHeight {
+    Ease on wantedHeight {
         enabled: root.opened
-
-        NumberAnimation {
-            duration: Theme.sheetInDuration
-            easing.type: Easing.OutCubic
-        }
+        duration: Theme.sheetInDuration
     }
 
     Connections {
@@ -124,11 +119,9 @@ Sheet {
             topMargin: 8
             bottomMargin: 8
             visible: root.detail.removable
-            clip: true
             reuseItems: true
             model: root.detail
             Accessible.name: heading.text
-            T.ScrollBar.vertical: ScrollHandle {}
 
             onActiveFocusChanged: {
                 if (!list.activeFocus)
@@ -144,7 +137,7 @@ Sheet {
                 required property int index
 
                 width: ListView.view.width - 10
-                focusShown: ListView.isCurrentItem && list.showsFocus
+                ringed: ListView.isCurrentItem && list.showsFocus
                 onToggled: {
                     list.pointed = true;
                     list.currentIndex = row.index;

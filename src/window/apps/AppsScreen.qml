@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Applications: a list to search in; choosing one opens its detail.
@@ -120,7 +119,7 @@ Item {
             }
         }
 
-        Rectangle {
+        Divider {
             id: line
 
             anchors.left: parent.left
@@ -128,8 +127,6 @@ Item {
             anchors.top: orders.bottom
             anchors.margins: 1
             anchors.topMargin: 10
-            height: 1
-            color: Theme.stroke
         }
 
         KeyedList {
@@ -150,12 +147,10 @@ Item {
             anchors.bottomMargin: 1
             topMargin: 8
             bottomMargin: 8
-            clip: true
             reuseItems: true
             activeFocusOnTab: true
             model: ordered
             Accessible.name: Strings.apps
-            T.ScrollBar.vertical: ScrollHandle {}
 
             // The sheet gives the focus back, and a click is no reason to show it then.
             onActiveFocusChanged: {
@@ -172,7 +167,7 @@ Item {
                 required property int index
 
                 width: ListView.view.width - 7
-                focusShown: ListView.isCurrentItem && list.showsFocus
+                ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     list.forceActiveFocus(Qt.MouseFocusReason);
                     list.pointed = true;

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One leftover with its check box.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -10,7 +10,6 @@ Item {
     required property string size
     required property string note
     required property bool checked
-    property bool focusShown: false
     signal toggled
 
     implicitHeight: Math.round(52 * Theme.textScale)
@@ -19,28 +18,11 @@ Item {
     Accessible.description: root.folder + ", " + root.size + (root.note === "" ? "" : ", " + root.note)
     Accessible.checkable: true
     Accessible.checked: root.checked
-    Accessible.focusable: true
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
 
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: pointer.containsMouse || mark.hovered ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.focusShown
-            gap: 0
-        }
-    }
-
-    // Pointer handlers of a row get no events in a popup of Qt 6.4; a mouse area does.
-    MouseArea {
-        id: pointer
-
-        anchors.fill: parent
-        hoverEnabled: true
-        onClicked: root.toggled()
+    TapHandler {
+        onTapped: root.toggled()
     }
 
     CheckMark {
@@ -55,27 +37,15 @@ Item {
         onClicked: root.toggled()
     }
 
-    Column {
+    RowTexts {
         anchors.left: mark.right
         anchors.leftMargin: 10
         anchors.right: chip.visible ? chip.left : bytes.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        BodyText {
-            width: parent.width
-            text: root.name
-            elide: Text.ElideMiddle
-            font.weight: Font.Medium
-        }
-
-        CaptionText {
-            width: parent.width
-            text: root.folder
-            elide: Text.ElideMiddle
-            color: pointer.containsMouse || mark.hovered ? Theme.secondary : Theme.tertiary
-        }
+        name: root.name
+        place: root.folder
+        placeInk: root.hovered ? Theme.secondary : Theme.tertiary
     }
 
     RatingChip {

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// A finding that an answer is about; opens its detail.
-T.AbstractButton {
+Pressable {
     id: root
 
     required property string findingId
@@ -14,13 +13,10 @@ T.AbstractButton {
 
     objectName: "answerLink-" + root.findingId
     implicitHeight: Math.round(44 * Theme.textScale)
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    fill: root.hovered || root.down ? Theme.hover : Theme.inset
+    ringGap: 2
     text: root.title
     Accessible.name: root.title + ", " + root.size
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Badge {
@@ -62,16 +58,6 @@ T.AbstractButton {
             name: "chevron.right"
             colour: Theme.tertiary
             size: 12
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: root.hovered || root.down ? Theme.hover : Theme.inset
-
-        FocusRing {
-            shown: root.visualFocus
-            gap: 2
         }
     }
 }

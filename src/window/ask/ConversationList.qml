@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The messages of a conversation, the newest in view.
-ListView {
+ScrollList {
     id: root
 
     required property ConversationModel conversation
@@ -15,14 +14,10 @@ ListView {
 
     objectName: "conversation"
     model: root.conversation
-    clip: true
-    boundsBehavior: Flickable.StopAtBounds
     spacing: 14
     cacheBuffer: 2000
     activeFocusOnTab: true
-    Accessible.role: Accessible.List
     Accessible.name: Strings.conversation
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Keys.onPressed: event => {
         if (event.matches(StandardKey.Copy)) {

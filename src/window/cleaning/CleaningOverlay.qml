@@ -19,11 +19,9 @@ Sheet {
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
 
-    Behavior on swell {
-        SpringMotion {
-            response: 0.6
-            damping: 0.8
-        }
+    Spring on swell {
+        response: 0.6
+        damping: 0.8
     }
 
     CleaningModel {
@@ -67,11 +65,9 @@ Sheet {
                     Accessible.role: Accessible.ProgressBar
                     Accessible.name: cleaning.progressText
 
-                    Behavior on value {
-                        SpringMotion {
-                            response: 0.6
-                            damping: 0.8
-                        }
+                    Spring on value {
+                        response: 0.6
+                        damping: 0.8
                     }
                 }
 

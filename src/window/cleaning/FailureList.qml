@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// What a clean-up could not move: the items, under each reason with what can be done about it.
@@ -9,11 +8,9 @@ KeyedList {
     required property FailureListModel failures
 
     model: root.failures
-    clip: true
     currentIndex: 0
     cacheBuffer: 400
     Accessible.name: Strings.notMoved
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Rectangle {
         anchors.fill: parent

@@ -23,10 +23,8 @@ Item {
     height: root.shown ? Math.ceil(Math.max(Theme.mainControlHeight, remark.height)) + 28 : 12
     visible: root.shown
 
-    Rectangle {
+    Divider {
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
     Note {

@@ -41,27 +41,12 @@ Item {
         y: Math.round(Math.max(22, 24 + (close.height - height) / 2))
         spacing: 6
 
-        Item {
+        RatedTitle {
             width: parent.width
-            height: Math.max(heading.height, chip.height)
-
-            TitleText {
-                id: heading
-
-                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
-                text: root.title
-            }
-
-            RatingChip {
-                id: chip
-
-                anchors.left: heading.right
-                anchors.leftMargin: 10
-                anchors.verticalCenter: heading.verticalCenter
-                rating: root.rating
-                label: root.ratingLabel
-                symbol: root.ratingSymbol
-            }
+            title: root.title
+            rating: root.rating
+            ratingLabel: root.ratingLabel
+            ratingSymbol: root.ratingSymbol
         }
     }
 

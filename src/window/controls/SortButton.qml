@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One way to sort a list; pressed again it turns the order round.
-T.Button {
+Pressable {
     id: root
 
     required property bool active
@@ -11,14 +10,10 @@ T.Button {
 
     implicitWidth: label.implicitWidth + 16 + 14
     implicitHeight: Theme.controlHeight
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    ringGap: 0
     Accessible.name: Strings.sortBy.arg(root.text)
     Accessible.checkable: true
     Accessible.checked: root.active
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         SmallText {
@@ -39,16 +34,6 @@ T.Button {
             name: root.reversed ? "chevron.up" : "chevron.down"
             colour: Theme.text
             size: 10
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: root.down || root.hovered ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.visualFocus
-            gap: 0
         }
     }
 }

@@ -16,6 +16,8 @@ QtObject {
     /// What stands out of an inset: the chosen part of a switch.
     readonly property color raised: root.dark ? "#3b434f" : "#ffffff"
     readonly property color hover: root.dark ? "#2b313a" : "#e6e9ee"
+    /// No ground: what fades to the colour of hovering from plain transparent would pass through grey.
+    readonly property color clear: Qt.rgba(root.hover.r, root.hover.g, root.hover.b, 0)
     readonly property color stroke: root.appearance.highContrast ? root.tertiary
                                                                  : (root.dark ? "#2c323b" : "#e2e5ea")
     readonly property color text: root.dark ? "#f2f4f7" : "#14171c"

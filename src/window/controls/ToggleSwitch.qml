@@ -12,7 +12,6 @@ T.Switch {
     hoverEnabled: true
     Accessible.name: root.text
 
-
     indicator: Rectangle {
         y: (root.height - height) / 2
         width: 42
@@ -23,11 +22,7 @@ T.Switch {
         border.color: Theme.tertiary
         opacity: root.enabled ? 1 : 0.5
 
-        Behavior on color {
-            ColorAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
+        Ease on color {}
 
         Rectangle {
             x: root.checked ? parent.width - width - 3 : 3
@@ -39,11 +34,7 @@ T.Switch {
             border.width: root.checked ? 0 : 1
             border.color: Theme.tertiary
 
-            Behavior on x {
-                NumberAnimation {
-                    duration: Theme.hoverDuration
-                }
-            }
+            Ease on x {}
         }
 
         FocusRing {

@@ -1,27 +1,22 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The disk map as a list, largest first.
-ListView {
+ScrollList {
     id: root
 
     required property DiskMapView map
 
     objectName: "diskMapList"
     model: root.map
-    clip: true
     topMargin: 6
     bottomMargin: 6
-    boundsBehavior: Flickable.StopAtBounds
     activeFocusOnTab: true
     keyNavigationEnabled: false
     currentIndex: root.map.currentRow
     highlightFollowsCurrentItem: true
     highlightMoveDuration: 0
-    Accessible.role: Accessible.List
     Accessible.name: Strings.contentsOf.arg(root.map.folderName)
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Keys.onPressed: event => {
         event.accepted = true;

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One item of the disk map as a row of its list form.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -17,24 +17,11 @@ Item {
     signal revealRequested
 
     implicitHeight: Math.round(44 * Theme.textScale)
-    Accessible.role: Accessible.ListItem
+    sideGap: 4
+    ringed: root.isCurrent
     Accessible.name: root.spoken + ", " + root.shareText
-    Accessible.focusable: true
     Accessible.selected: root.isCurrent
     Accessible.onPressAction: root.pressed()
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 4
-        anchors.rightMargin: 4
-        radius: Theme.controlRadius
-        color: pointer.containsMouse ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.isCurrent
-            gap: 0
-        }
-    }
 
     Symbol {
         id: icon
@@ -106,10 +93,7 @@ Item {
     }
 
     MouseArea {
-        id: pointer
-
         anchors.fill: parent
-        hoverEnabled: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         cursorShape: root.kind === DiskMapView.Folder ? Qt.PointingHandCursor : Qt.ArrowCursor
         onClicked: mouse => mouse.button === Qt.RightButton ? root.revealRequested() : root.pressed()

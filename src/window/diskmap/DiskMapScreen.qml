@@ -59,10 +59,8 @@ FocusScope {
                 Accessible.ignored: !theMap.loading
             }
 
-            Behavior on opacity {
-                NumberAnimation {
-                    duration: Theme.screenDuration
-                }
+            Ease on opacity {
+                duration: Theme.screenDuration
             }
         }
 

@@ -36,33 +36,17 @@ Rectangle {
     Accessible.name: root.spoken
     Accessible.onPressAction: root.pressed()
 
-    Behavior on x {
+    Spring on x {
         enabled: root.moving
-        SpringMotion {
-            response: 0.55
-            damping: 0.85
-        }
     }
-    Behavior on y {
+    Spring on y {
         enabled: root.moving
-        SpringMotion {
-            response: 0.55
-            damping: 0.85
-        }
     }
-    Behavior on width {
+    Spring on width {
         enabled: root.moving
-        SpringMotion {
-            response: 0.55
-            damping: 0.85
-        }
     }
-    Behavior on height {
+    Spring on height {
         enabled: root.moving
-        SpringMotion {
-            response: 0.55
-            damping: 0.85
-        }
     }
 
     SmallText {

@@ -3,7 +3,7 @@ import Orlen.App
 
 /// One file or folder of a list: check box, picture, name and place, note, advice, size and date, and what can
 /// be done with it while the pointer or the keyboard is on it.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -19,8 +19,6 @@ Item {
     property int checkState: Qt.Unchecked
     property bool checkable: true
     property bool isCurrent: false
-    /// Whether the keyboard is on this row.
-    property bool showsFocus: false
     /// Room at the left for rows that belong to a heading.
     property int indent: 0
     signal toggled
@@ -35,25 +33,10 @@ Item {
     Accessible.selected: root.isCurrent
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
-        anchors.topMargin: 1
-        anchors.bottomMargin: 1
-        radius: Theme.controlRadius
-        color: root.isCurrent ? Theme.accentSoft : hover.hovered ? Theme.inset : "transparent"
-
-        FocusRing {
-            shown: root.showsFocus
-            gap: 0
-        }
-    }
-
-    HoverHandler {
-        id: hover
-    }
+    fill: root.isCurrent ? Theme.accentSoft : root.hovered ? Theme.inset : "transparent"
+    sideGap: 12
+    topGap: 1
+    bottomGap: 1
 
     TapHandler {
         onPressedChanged: if (pressed) root.pressed()
@@ -83,52 +66,28 @@ Item {
         thumbnail: root.thumbnail
     }
 
-    Column {
+    RowTexts {
         anchors.left: picture.right
         anchors.leftMargin: 12
         anchors.right: actions.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        BodyText {
-            width: parent.width
-            text: root.name
-            elide: Text.ElideMiddle
-            font.weight: Font.Medium
-            Accessible.ignored: true
-        }
-
-        CaptionText {
-            width: parent.width
-            text: root.folder
-            elide: Text.ElideMiddle
-            Accessible.ignored: true
-        }
-
-        CaptionText {
-            width: parent.width
-            visible: root.note !== ""
-            text: root.note
-            color: Theme.secondary
-            Accessible.ignored: true
-        }
+        name: root.name
+        place: root.folder
+        note: root.note
     }
 
     Row {
         id: actions
 
-        readonly property bool isWanted: hover.hovered || root.isCurrent
-
         anchors.right: chip.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
+        opacity: root.hovered || root.isCurrent ? 1 : 0
 
         IconButton {
             objectName: "look"
-            width: 32
-            height: 32
-            opacity: actions.isWanted ? 1 : 0
+            side: 32
             focusPolicy: Qt.NoFocus
             symbol: "eye"
             text: Strings.preview
@@ -136,9 +95,7 @@ Item {
         }
 
         IconButton {
-            width: 32
-            height: 32
-            opacity: actions.isWanted ? 1 : 0
+            side: 32
             focusPolicy: Qt.NoFocus
             symbol: "reveal"
             text: Strings.reveal

@@ -76,12 +76,7 @@ Rectangle {
             objectName: "entryFilter"
             width: Math.round(170 * Math.max(1, Theme.textScale * 0.9))
             placeholderText: Strings.filter
-            background: Rectangle {
-                radius: Theme.controlRadius
-                color: Theme.card
-                border.width: filter.activeFocus ? 2 : 1
-                border.color: filter.activeFocus ? Theme.accent : Theme.stroke
-            }
+            fill: Theme.card
             onTextChanged: root.entries.filter = text
         }
 

@@ -104,7 +104,7 @@ Sheet {
             checkable: contents.header.cleanable
             checkState: marked ? Qt.Checked : Qt.Unchecked
             isCurrent: list.currentIndex === index && list.activeFocus
-            showsFocus: isCurrent && list.showsFocus
+            ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(index)
             onToggled: contents.toggle(index)
             onPreviewRequested: root.preview(index)

@@ -30,11 +30,7 @@ Card {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.title + ", " + root.date + ", " + root.summary + ", " + root.freed
 
-    Behavior on border.color {
-        ColorAnimation {
-            duration: Theme.hoverDuration
-        }
-    }
+    Ease on border.color {}
 
     FocusRing {
         shown: root.ringed
@@ -133,10 +129,8 @@ Card {
                 focusPolicy: root.tabPolicy
                 onClicked: root.toggled()
 
-                Behavior on rotation {
-                    NumberAnimation {
-                        duration: Theme.screenDuration
-                    }
+                Ease on rotation {
+                    duration: Theme.screenDuration
                 }
             }
         }
@@ -150,11 +144,8 @@ Card {
         height: root.open ? loader.height : 0
         clip: true
 
-        Behavior on height {
-            NumberAnimation {
-                duration: Theme.screenDuration
-                easing.type: Easing.OutCubic
-            }
+        Ease on height {
+            duration: Theme.screenDuration
         }
 
         Loader {

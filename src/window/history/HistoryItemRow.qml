@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One item of a past clean-up.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -12,7 +12,6 @@ Item {
     required property string statusText
 
     property bool isNarrow: false
-    property bool ringed: false
 
     readonly property bool isRestored: root.status === RecordItemsModel.Restored
     readonly property color statusInk: root.isRestored ? Theme.safeText
@@ -20,54 +19,19 @@ Item {
 
     signal revealRequested
 
-    Accessible.role: Accessible.ListItem
+    fill: root.hovered ? Theme.inset : "transparent"
     Accessible.name: root.name + ", " + root.folder + ", " + root.size + ", " + root.statusText
 
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: hover.hovered ? Theme.inset : "transparent"
-
-        FocusRing {
-            shown: root.ringed
-            gap: -2
-        }
-    }
-
-    HoverHandler {
-        id: hover
-    }
-
-    Column {
+    RowTexts {
         anchors.left: parent.left
         anchors.leftMargin: 12
         anchors.right: trailing.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        BodyText {
-            width: parent.width
-            text: root.name
-            elide: Text.ElideMiddle
-            font.weight: Font.Medium
-            Accessible.ignored: true
-        }
-
-        CaptionText {
-            width: parent.width
-            text: root.folder
-            elide: Text.ElideMiddle
-            Accessible.ignored: true
-        }
-
-        CaptionText {
-            width: parent.width
-            visible: root.isNarrow
-            text: root.statusText
-            color: root.statusInk
-            Accessible.ignored: true
-        }
+        name: root.name
+        place: root.folder
+        note: root.isNarrow ? root.statusText : ""
+        noteInk: root.statusInk
     }
 
     Row {
@@ -103,8 +67,7 @@ Item {
             IconButton {
                 id: reveal
 
-                width: 32
-                height: 32
+                side: 32
                 visible: root.isRestored
                 symbol: "reveal"
                 text: Strings.reveal

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import QtQuick.Window
 import Orlen.App
 
@@ -24,14 +23,12 @@ Item {
         recordId: root.recordId
     }
 
-    Rectangle {
+    Divider {
         x: 18
         width: parent.width - 36
-        height: 1
-        color: Theme.stroke
     }
 
-    ListView {
+    ScrollList {
         id: list
 
         objectName: "recordItems"
@@ -40,15 +37,11 @@ Item {
         anchors.bottomMargin: 8
         anchors.leftMargin: 6
         anchors.rightMargin: 8
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
         reuseItems: true
         activeFocusOnTab: true
         highlightMoveDuration: 0
         model: items
-        Accessible.role: Accessible.List
         Accessible.name: Strings.itemsOf.arg(root.title)
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Keys.onReturnPressed: items.reveal(list.currentIndex)
         Keys.onEnterPressed: items.reveal(list.currentIndex)

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import QtQuick.Window
 import Orlen.App
 
@@ -19,7 +18,7 @@ Item {
         onRestored: message => root.notices.say(message)
     }
 
-    ListView {
+    ScrollList {
         id: list
 
         objectName: "historyList"
@@ -27,16 +26,12 @@ Item {
         anchors.leftMargin: root.sideMargin
         topMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
         spacing: 12
         model: history
         currentIndex: 0
         highlightMoveDuration: Theme.hoverDuration
         activeFocusOnTab: history.count > 0
-        Accessible.role: Accessible.List
         Accessible.name: Strings.pastCleanUps
-        T.ScrollBar.vertical: ScrollHandle {}
 
         header: Column {
             width: list.width - root.sideMargin

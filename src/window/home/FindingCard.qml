@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One finding: what it is, how much it holds, how it is rated, how much of it is selected.
-T.AbstractButton {
+Pressable {
     id: root
 
     required property string findingId
@@ -21,13 +20,12 @@ T.AbstractButton {
     readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
 
     implicitHeight: Math.round(92 * Theme.textScale) + 40
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    fill: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
+    edge: root.hovered ? Theme.accent : Theme.stroke
+    edgeWidth: 1
+    corner: Theme.cardRadius
     text: root.title
     Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.ratingLabel
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Badge {
@@ -95,24 +93,6 @@ T.AbstractButton {
                 font.weight: Font.DemiBold
                 text: root.amount
             }
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.cardRadius
-        color: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
-        border.width: 1
-        border.color: root.hovered ? Theme.accent : Theme.stroke
-
-        Behavior on border.color {
-            ColorAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
-
-        FocusRing {
-            shown: root.visualFocus
-            shape: Theme.cardRadius
         }
     }
 }

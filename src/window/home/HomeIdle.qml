@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Smart Scan before a scan: the storage as a ring, and the button that starts one.
@@ -13,14 +12,11 @@ Item {
     readonly property alias ringSlot: slot
     readonly property alias mainButton: start
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Item {
             id: page

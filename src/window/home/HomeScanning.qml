@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Smart Scan during a scan: its steps, what it is looking at, and the way to end it.
@@ -16,14 +15,11 @@ Item {
         app: AppModel
     }
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Item {
             id: page

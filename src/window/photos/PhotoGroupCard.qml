@@ -70,24 +70,14 @@ Card {
             anchors.verticalCenter: badge.verticalCenter
             spacing: 3
 
-            Flow {
+            RatedTitle {
                 width: parent.width
-                spacing: 10
-
-                HeadlineText {
-                    height: Math.max(implicitHeight, chip.height)
-                    verticalAlignment: Text.AlignVCenter
-                    width: Math.min(implicitWidth, parent.width)
-                    text: root.title
-                }
-
-                RatingChip {
-                    id: chip
-
-                    rating: root.rating
-                    label: root.ratingLabel
-                    symbol: root.ratingSymbol
-                }
+                title: root.title
+                size: Theme.headlineSize
+                weight: Font.DemiBold
+                rating: root.rating
+                ratingLabel: root.ratingLabel
+                ratingSymbol: root.ratingSymbol
             }
 
             SmallText {

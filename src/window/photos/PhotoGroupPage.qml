@@ -74,24 +74,12 @@ Item {
                 anchors.right: parent.right
                 spacing: 4
 
-                Flow {
+                RatedTitle {
                     width: parent.width
-                    spacing: 10
-
-                    TitleText {
-                        height: Math.max(implicitHeight, chip.height)
-                        verticalAlignment: Text.AlignVCenter
-                        width: Math.min(implicitWidth, parent.width)
-                        text: root.title
-                    }
-
-                    RatingChip {
-                        id: chip
-
-                        rating: root.rating
-                        label: root.ratingLabel
-                        symbol: root.ratingSymbol
-                    }
+                    title: root.title
+                    rating: root.rating
+                    ratingLabel: root.ratingLabel
+                    ratingSymbol: root.ratingSymbol
                 }
 
                 SmallText {

@@ -12,10 +12,8 @@ Rectangle {
     implicitHeight: Math.max(review.implicitHeight, label.implicitHeight) + 28
     color: Theme.window
 
-    Rectangle {
+    Divider {
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
     BodyText {

@@ -83,11 +83,7 @@ Item {
             opacity: picture.isDrawn ? 1 : 0
             Accessible.ignored: true
 
-            Behavior on opacity {
-                NumberAnimation {
-                    duration: Theme.hoverDuration
-                }
-            }
+            Ease on opacity {}
         }
 
         // Rounds the picture's corners by what surrounds it: a mask would need a shader.
@@ -193,8 +189,7 @@ Item {
         anchors.right: frame.right
         anchors.top: frame.top
         anchors.margins: 5
-        width: 28
-        height: 28
+        side: 28
         visible: root.source !== "" && (area.containsMouse || hovered)
         framed: true
         symbol: "eye"

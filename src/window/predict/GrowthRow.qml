@@ -38,33 +38,18 @@ Item {
         Accessible.ignored: true
     }
 
-    Rectangle {
-        id: track
-
+    ProgressBar {
         anchors.left: title.right
         anchors.leftMargin: 12
         anchors.right: amount.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         height: 6
-        radius: 3
         color: Theme.inset
-
-        Rectangle {
-            x: Math.min(track.width - width, Math.round(track.width * root.start))
-            width: root.extent > 0 ? Math.max(track.height, Math.round(track.width * root.extent)) : 0
-            height: track.height
-            radius: track.radius
-            color: root.colour
-
-            Behavior on width {
-                enabled: Theme.moves
-                SpringMotion {
-                    response: 0.9
-                    damping: 0.85
-                }
-            }
-        }
+        tone: root.colour
+        start: root.start
+        value: root.extent
+        Accessible.ignored: true
     }
 
     SmallText {

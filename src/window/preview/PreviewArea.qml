@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// What a preview shows: the picture, the text, the names, or an icon with a sentence.
@@ -33,20 +32,13 @@ Rectangle {
         Accessible.name: root.preview.name
     }
 
-    Flickable {
+    ScrollArea {
         id: page
 
         objectName: "previewText"
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Text
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         contentHeight: text.height + (cut.visible ? cut.height : 0) + 32
-        T.ScrollBar.vertical: ScrollHandle {
-            id: pageHandle
-
-            stepSize: pageHandle.size * 0.9
-        }
 
         TextEdit {
             id: text
@@ -79,22 +71,16 @@ Rectangle {
         }
     }
 
-    ListView {
+    ScrollList {
         id: names
 
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Folder
-        clip: true
         topMargin: 8
         bottomMargin: 8
         reuseItems: true
-        boundsBehavior: Flickable.StopAtBounds
         model: root.preview
-        T.ScrollBar.vertical: ScrollHandle {
-            id: namesHandle
-
-            stepSize: namesHandle.size * 0.9
-        }
+        Accessible.name: root.preview.name
 
         delegate: Item {
             id: row
@@ -177,7 +163,8 @@ Rectangle {
 
     /// Scrolls by about a page; by -1 or 1.
     function turnPage(by: int) {
-        const handle = names.visible ? namesHandle : pageHandle;
+        const handle = names.visible ? names.handle : page.handle;
+        handle.stepSize = handle.size * 0.9;
         if (by > 0)
             handle.increase();
         else

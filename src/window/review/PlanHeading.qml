@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// The heading of a plan's section: all or none of its entries, what is checked, and hide or show them.
-Item {
+ListRow {
     id: root
 
     required property string title
@@ -13,7 +13,6 @@ Item {
     required property int checkState
     required property bool folded
     property bool isCurrent: false
-    property bool showsFocus: false
     signal toggled
     signal folding
     signal pressed
@@ -25,19 +24,9 @@ Item {
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
 
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
-        anchors.topMargin: 6
-        radius: Theme.controlRadius
-        color: root.isCurrent ? Theme.accentSoft : Theme.inset
-
-        FocusRing {
-            shown: root.showsFocus
-            gap: 0
-        }
-    }
+    fill: root.isCurrent ? Theme.accentSoft : Theme.inset
+    sideGap: 12
+    topGap: 6
 
     TapHandler {
         onPressedChanged: if (pressed) root.pressed()
@@ -112,8 +101,7 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: 18
             anchors.verticalCenter: parent.verticalCenter
-            width: 28
-            height: 28
+            side: 28
             focusPolicy: Qt.NoFocus
             symbol: root.folded ? "chevron.right" : "chevron.down"
             symbolSize: 12

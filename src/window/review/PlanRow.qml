@@ -22,7 +22,7 @@ Item {
     required property int mark
     required property bool folded
     property bool isCurrent: false
-    property bool showsFocus: false
+    property bool ringed: false
     signal toggled
     signal folding
     signal pressed
@@ -41,7 +41,7 @@ Item {
             checkState: root.mark
             folded: root.folded
             isCurrent: root.isCurrent
-            showsFocus: root.showsFocus
+            ringed: root.ringed
             onToggled: root.toggled()
             onFolding: root.folding()
             onPressed: root.pressed()
@@ -65,7 +65,7 @@ Item {
             checkState: root.mark
             indent: 24
             isCurrent: root.isCurrent
-            showsFocus: root.showsFocus
+            ringed: root.ringed
             onToggled: root.toggled()
             onPressed: root.pressed()
             onPreviewRequested: root.previewRequested()

@@ -74,11 +74,9 @@ Sheet {
         }
     }
 
-    Rectangle {
+    Divider {
         anchors.bottom: list.top
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
     EntryList {
@@ -108,7 +106,7 @@ Sheet {
             width: ListView.view.width
             height: heading ? Math.round(50 * Theme.textScale) : list.rowHeight
             isCurrent: list.currentIndex === index && list.activeFocus
-            showsFocus: isCurrent && list.showsFocus
+            ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(row.index)
             onToggled: plan.toggle(row.index)
             onFolding: plan.fold(row.index)

@@ -34,10 +34,8 @@ Column {
             Accessible.role: Accessible.ListItem
             Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
 
-            Rectangle {
+            Divider {
                 width: parent.width
-                height: 1
-                color: Theme.stroke
             }
 
             BodyText {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The keys of the program.
@@ -23,41 +22,28 @@ Sheet {
             onCloseRequested: root.close()
         }
 
-        Rectangle {
+        Divider {
             y: header.height
             width: parent.width
-            height: 1
-            color: Theme.stroke
         }
 
-        Flickable {
-            id: flickable
+        ScrollArea {
+            id: area
 
             objectName: "shortcutKeys"
             anchors.fill: parent
             anchors.topMargin: header.height + 1
             anchors.bottomMargin: Theme.sheetRadius / 2
             contentHeight: groups.height + 36
-            boundsBehavior: Flickable.StopAtBounds
-            clip: true
             focus: true
-            activeFocusOnTab: contentHeight > height
-            Accessible.role: Accessible.Pane
-            Accessible.name: root.title
-            Keys.onUpPressed: handle.decrease()
-            Keys.onDownPressed: handle.increase()
-            T.ScrollBar.vertical: ScrollHandle {
-                id: handle
-
-                stepSize: 0.12
-            }
+            title: root.title
 
             Column {
                 id: groups
 
                 x: 24
                 y: 18
-                width: flickable.width - 48
+                width: area.width - 48
                 spacing: 20
 
                 Repeater {

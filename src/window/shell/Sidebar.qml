@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The list of screens, and the free space below it.
@@ -13,22 +12,18 @@ Rectangle {
 
     color: Theme.sidebar
 
-    ListView {
+    ScrollList {
         id: list
 
         anchors.fill: parent
         anchors.topMargin: 12
         anchors.bottomMargin: footer.height + 36
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         currentIndex: root.currentScreen
         activeFocusOnTab: true
         keyNavigationEnabled: false
         spacing: 2
         model: ScreenListModel {}
-        Accessible.role: Accessible.List
         Accessible.name: Strings.screens
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Keys.onUpPressed: root.selected(Math.max(0, root.currentScreen - 1))
         Keys.onDownPressed: root.selected(Math.min(list.count - 1, root.currentScreen + 1))
@@ -82,10 +77,8 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    Divider {
         anchors.right: parent.right
-        width: 1
         height: parent.height
-        color: Theme.stroke
     }
 }

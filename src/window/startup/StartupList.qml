@@ -55,7 +55,7 @@ Card {
 
             width: ListView.view.width
             lineShown: ListView.previousSection === ListView.section
-            focusShown: ListView.isCurrentItem && list.showsFocus
+            ringed: ListView.isCurrentItem && list.showsFocus
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 list.pointed = true;

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One startup item with its switch.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -15,29 +15,20 @@ Item {
     required property bool isSwitchable
     required property string reason
     property bool lineShown: false
-    property bool focusShown: false
     signal toggled
 
     implicitHeight: texts.height + 24
-    Accessible.role: Accessible.ListItem
+    fill: "transparent"
+    sideGap: 6
+    topGap: 3
+    bottomGap: 2
     Accessible.name: root.name
     Accessible.description: root.isSwitchable ? root.program : root.reason
 
-    Rectangle {
+    Divider {
         x: 64
         width: parent.width - x - 18
-        height: 1
         visible: root.lineShown
-        color: Theme.stroke
-    }
-
-    FocusRing {
-        shown: root.focusShown
-        anchors.leftMargin: 6
-        anchors.rightMargin: 6
-        anchors.topMargin: 3
-        anchors.bottomMargin: 2
-        gap: 0
     }
 
     Rectangle {
@@ -68,29 +59,15 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Item {
+        RatedTitle {
             width: parent.width
-            height: Math.max(title.height, chip.visible ? chip.height : 0)
-
-            BodyText {
-                id: title
-
-                anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
-                text: root.name
-                font.weight: Font.Medium
-            }
-
-            RatingChip {
-                id: chip
-
-                anchors.left: title.right
-                anchors.leftMargin: 10
-                anchors.verticalCenter: parent.verticalCenter
-                rating: root.isPartOfDesktop ? "review" : ""
-                label: Strings.partOfDesktop
-                symbol: "exclamationmark.triangle.fill"
-            }
+            title: root.name
+            size: Theme.bodySize
+            weight: Font.Medium
+            role: Accessible.StaticText
+            rating: root.isPartOfDesktop ? "review" : ""
+            ratingLabel: Strings.partOfDesktop
+            ratingSymbol: "exclamationmark.triangle.fill"
         }
 
         SmallText {
@@ -125,14 +102,10 @@ Item {
     }
 
     // A switch that is off-limits hears no pointer of its own.
-    HoverHandler {
-        id: hover
-    }
-
     ToolTipBubble {
         parent: toggle
         x: toggle.width - implicitWidth
         text: root.reason
-        shown: !root.isSwitchable && (hover.hovered || root.focusShown)
+        shown: !root.isSwitchable && (root.hovered || root.ringed)
     }
 }

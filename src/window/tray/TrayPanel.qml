@@ -111,10 +111,8 @@ Window {
                 ink: Theme.text
             }
 
-            Rectangle {
+            Divider {
                 width: parent.width
-                height: 1
-                color: Theme.stroke
             }
 
             CaptionText {

@@ -1,0 +1,45 @@
+import QtQuick
+import Orlen.App
+
+/// A name with the advice about it, which goes below where it has no room behind.
+Flow {
+    id: root
+
+    required property string title
+    property int size: Theme.titleSize
+    property int weight: Font.Bold
+    property int role: Accessible.Heading
+    property string rating: ""
+    property string ratingLabel: ""
+    property string ratingSymbol: ""
+
+    spacing: 10
+
+    TitleText {
+        id: name
+
+        width: Math.min(implicitWidth, root.width)
+        height: Math.max(implicitHeight, root.rating !== "" ? chip.height : 0)
+        verticalAlignment: Text.AlignVCenter
+        text: root.title
+        font.pixelSize: root.size
+        font.weight: root.weight
+        font.letterSpacing: root.size === Theme.titleSize ? -0.3 : 0
+        Accessible.role: root.role
+    }
+
+    Item {
+        width: chip.width
+        height: name.height
+        visible: root.rating !== ""
+
+        RatingChip {
+            id: chip
+
+            anchors.verticalCenter: parent.verticalCenter
+            rating: root.rating
+            label: root.ratingLabel
+            symbol: root.ratingSymbol
+        }
+    }
+}
