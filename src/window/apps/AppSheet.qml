@@ -9,10 +9,10 @@ Sheet {
 
     objectName: "appSheet"
     title: root.detail.name
-    wantedWidth: Math.round(760 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(760)
     wantedHeight: root.detail.removable
-                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 72))
-                  : header.height + advice.height + 76
+                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 28))
+                  : header.height + advice.height + 32
     onClosed: root.detail.close()
     onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
 
@@ -35,10 +35,7 @@ Sheet {
         AppSheetHeader {
             id: header
 
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.top: parent.top
-            anchors.margins: 24
+            width: parent.width
             detail: root.detail
             onCloseRequested: root.close()
         }
@@ -49,7 +46,8 @@ Sheet {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            anchors.margins: 24
+            anchors.leftMargin: 24
+            anchors.rightMargin: 24
             visible: !root.detail.removable
             detail: root.detail
         }
@@ -60,9 +58,8 @@ Sheet {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            anchors.topMargin: 20
             visible: root.detail.removable
-            height: Math.round(44 * Theme.textScale)
+            height: Theme.grown(44)
             color: Theme.inset
 
             CheckMark {

@@ -189,7 +189,7 @@ Item {
             width: Math.min(list.width - 48, 460)
             visible: !apps.loading && list.count === 0
             symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
-            tone: "#5b5fe0"
+            tone: Theme.appsTone
             text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
             action: search.text === "" ? "" : Strings.clearFilter
             onTriggered: {

@@ -12,7 +12,7 @@ ListRow {
     required property bool checked
     signal toggled
 
-    implicitHeight: Math.round(52 * Theme.textScale)
+    implicitHeight: Theme.grown(52)
     Accessible.role: Accessible.CheckBox
     Accessible.name: root.name
     Accessible.description: root.folder + ", " + root.size + (root.note === "" ? "" : ", " + root.note)

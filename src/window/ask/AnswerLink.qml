@@ -12,7 +12,7 @@ Pressable {
     required property string size
 
     objectName: "answerLink-" + root.findingId
-    implicitHeight: Math.round(44 * Theme.textScale)
+    implicitHeight: Theme.grown(44)
     fill: root.hovered || root.down ? Theme.hover : Theme.inset
     ringGap: 2
     text: root.title

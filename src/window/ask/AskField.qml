@@ -9,7 +9,7 @@ InputField {
     signal asked(question: string)
 
     objectName: "askField"
-    implicitHeight: Math.round(48 * Math.max(1, Theme.textScale * 0.9))
+    implicitHeight: Theme.widened(48)
     leftPadding: 18
     rightPadding: 54
     fill: Theme.card

@@ -37,7 +37,7 @@ Item {
         Badge {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "bubble.left.and.text.bubble.right.fill"
-            tone: "#9257e8"
+            tone: Theme.askTone
             size: 64
         }
 
@@ -90,7 +90,7 @@ Item {
             }
             GradientStop {
                 position: 1
-                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+                color: Theme.tint(Theme.window, 0)
             }
         }
     }

@@ -77,7 +77,7 @@ ScrollList {
 
     footer: Item {
         width: root.width
-        height: root.isWaiting ? Math.round(44 * Theme.textScale) : 12
+        height: root.isWaiting ? Theme.grown(44) : 12
 
         ThinkingDots {
             x: Math.round((parent.width - root.columnWidth) / 2) + 20

@@ -9,7 +9,7 @@ Pressable {
     property bool quiet: false
 
     implicitWidth: label.implicitWidth + (root.quiet ? 26 : 36)
-    implicitHeight: Math.round((root.quiet ? 30 : 38) * Theme.textScale)
+    implicitHeight: Theme.grown(root.quiet ? 30 : 38)
     fill: root.hovered || root.down ? Theme.hover : root.quiet ? Theme.clear : Theme.card
     edge: root.hovered && !root.quiet ? Theme.accent : Theme.stroke
     edgeWidth: 1

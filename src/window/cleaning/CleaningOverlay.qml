@@ -9,7 +9,7 @@ Sheet {
 
     objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
-    wantedWidth: Math.round((list.isWanted ? 520 : 440) * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
     closable: false
 

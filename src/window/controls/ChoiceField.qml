@@ -10,7 +10,7 @@ T.ComboBox {
     required property string label
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: Math.round(28 * Math.max(1, Theme.textScale * 0.9))
+    implicitHeight: Theme.widened(28)
     leftPadding: 10
     rightPadding: 26
     hoverEnabled: true
@@ -55,7 +55,7 @@ T.ComboBox {
         required property string modelData
 
         width: ListView.view ? ListView.view.width : 0
-        implicitHeight: Math.round(30 * Math.max(1, Theme.textScale * 0.9))
+        implicitHeight: Theme.widened(30)
         highlighted: root.highlightedIndex === choice.index
         text: choice.modelData
         Accessible.name: choice.modelData

@@ -9,6 +9,8 @@ Flow {
     property int size: Theme.titleSize
     property int weight: Font.Bold
     property int role: Accessible.Heading
+    /// Lines that a long name may take.
+    property int lines: 1
     property string rating: ""
     property string ratingLabel: ""
     property string ratingSymbol: ""
@@ -22,6 +24,8 @@ Flow {
         height: Math.max(implicitHeight, root.rating !== "" ? chip.height : 0)
         verticalAlignment: Text.AlignVCenter
         text: root.title
+        wrapMode: root.lines > 1 ? Text.Wrap : Text.NoWrap
+        maximumLineCount: root.lines
         font.pixelSize: root.size
         font.weight: root.weight
         font.letterSpacing: root.size === Theme.titleSize ? -0.3 : 0

@@ -13,9 +13,9 @@ Rectangle {
     readonly property color base: Theme.ratingBase(root.rating)
 
     implicitWidth: row.implicitWidth + 18
-    implicitHeight: Math.round(22 * Theme.textScale)
+    implicitHeight: Theme.grown(22)
     radius: height / 2
-    color: Qt.rgba(root.base.r, root.base.g, root.base.b, Theme.chipOpacity)
+    color: Theme.tint(root.base, Theme.chipOpacity)
     visible: root.rating !== ""
     Accessible.role: Accessible.StaticText
     Accessible.name: root.label

@@ -6,35 +6,43 @@ Item {
     id: root
 
     required property string title
+    property int titleLines: 1
     property string symbol: ""
     property color tone: Theme.accent
     property string rating: ""
     property string ratingLabel: ""
     property string ratingSymbol: ""
     property string closeName: "closeSheet"
+    /// Stands in place of the badge.
+    property alias picture: slot.data
     default property alias lines: texts.data
     signal closeRequested
 
     // Whole, as lines of text are not always: the edge below must not lie between two rows of pixels.
-    implicitHeight: Math.ceil(Math.max(texts.height, badge.height)) + 24 + 18
+    implicitHeight: Math.ceil(Math.max(texts.height, slot.height)) + 24 + 18
 
-    Badge {
-        id: badge
+    Item {
+        id: slot
 
         x: 24
         y: 24
-        visible: root.symbol !== ""
-        width: root.symbol === "" ? 0 : badge.size
-        name: root.symbol
-        tone: root.tone
-        size: 44
+        width: childrenRect.width
+        height: childrenRect.height
+
+        Badge {
+            visible: root.symbol !== ""
+            width: root.symbol === "" ? 0 : size
+            name: root.symbol
+            tone: root.tone
+            size: 44
+        }
     }
 
     Column {
         id: texts
 
-        anchors.left: badge.right
-        anchors.leftMargin: root.symbol === "" ? 0 : 14
+        anchors.left: slot.right
+        anchors.leftMargin: slot.width > 0 ? 14 : 0
         anchors.right: close.left
         anchors.rightMargin: 16
         // A title alone stands beside the button.
@@ -44,6 +52,7 @@ Item {
         RatedTitle {
             width: parent.width
             title: root.title
+            lines: root.titleLines
             rating: root.rating
             ratingLabel: root.ratingLabel
             ratingSymbol: root.ratingSymbol

@@ -30,7 +30,7 @@ T.Switch {
             width: 18
             height: 18
             radius: 9
-            color: root.checked ? "#ffffff" : Theme.dark ? Theme.secondary : "#ffffff"
+            color: root.checked ? Theme.overAccent : Theme.knob
             border.width: root.checked ? 0 : 1
             border.color: Theme.tertiary
 

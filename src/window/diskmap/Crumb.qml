@@ -12,7 +12,7 @@ Pressable {
     readonly property int arrowWidth: root.step === 0 ? 0 : 18
 
     implicitWidth: root.arrowWidth + Math.ceil(label.implicitWidth) + 2 * Theme.controlRadius
-    implicitHeight: Math.round(30 * Theme.textScale)
+    implicitHeight: Theme.grown(30)
     leftInset: root.arrowWidth
     enabled: !root.isLast
     fill: root.isLast ? Theme.inset : root.hovered ? Theme.hover : Theme.clear

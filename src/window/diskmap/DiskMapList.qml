@@ -27,24 +27,8 @@ ScrollList {
         case Qt.Key_Down:
             root.map.currentRow = Math.min(root.count - 1, root.currentIndex + 1);
             break;
-        case Qt.Key_Home:
-            root.map.currentRow = 0;
-            break;
         case Qt.Key_End:
             root.map.currentRow = root.count - 1;
-            break;
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Space:
-            root.map.open(root.currentIndex);
-            break;
-        case Qt.Key_Menu:
-            root.map.reveal(root.currentIndex);
-            break;
-        case Qt.Key_F10:
-            event.accepted = event.modifiers & Qt.ShiftModifier;
-            if (event.accepted)
-                root.map.reveal(root.currentIndex);
             break;
         default:
             event.accepted = false;

@@ -16,7 +16,7 @@ ListRow {
     signal pressed
     signal revealRequested
 
-    implicitHeight: Math.round(44 * Theme.textScale)
+    implicitHeight: Theme.grown(44)
     sideGap: 4
     ringed: root.isCurrent
     Accessible.name: root.spoken + ", " + root.shareText
@@ -61,7 +61,7 @@ ListRow {
         anchors.right: amount.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(46 * Theme.textScale)
+        width: Theme.grown(46)
         horizontalAlignment: Text.AlignRight
         text: root.shareText
         Accessible.ignored: true
@@ -73,7 +73,7 @@ ListRow {
         anchors.right: chevron.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(82 * Theme.textScale)
+        width: Theme.grown(82)
         horizontalAlignment: Text.AlignRight
         text: root.size
         color: Theme.text

@@ -45,6 +45,31 @@ FocusScope {
         anchors.topMargin: bar.y + bar.height + 12
         anchors.bottomMargin: status.height + 28
 
+        // What the keys do in both forms.
+        Keys.onPressed: event => {
+            event.accepted = true;
+            switch (event.key) {
+            case Qt.Key_Home:
+                theMap.currentRow = 0;
+                break;
+            case Qt.Key_Return:
+            case Qt.Key_Enter:
+            case Qt.Key_Space:
+                theMap.open(theMap.currentRow);
+                break;
+            case Qt.Key_Menu:
+                theMap.reveal(theMap.currentRow);
+                break;
+            case Qt.Key_F10:
+                event.accepted = event.modifiers & Qt.ShiftModifier;
+                if (event.accepted)
+                    theMap.reveal(theMap.currentRow);
+                break;
+            default:
+                event.accepted = false;
+            }
+        }
+
         Rectangle {
             anchors.fill: parent
             radius: Theme.cardRadius
@@ -91,7 +116,7 @@ FocusScope {
                 anchors.centerIn: parent
                 width: parent.width - 48
                 symbol: theMap.locked ? "lock.fill" : "folder.fill"
-                tone: "#1fa3a8"
+                tone: Theme.diskMapTone
                 text: theMap.locked ? Strings.lockedMap : Strings.emptyMap
                 action: theMap.atStart ? "" : Strings.goUp
                 onTriggered: theMap.up()

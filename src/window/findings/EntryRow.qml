@@ -109,7 +109,7 @@ ListRow {
         anchors.right: figures.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(82 * Theme.textScale)
+        width: Theme.grown(82)
         height: 22
 
         RatingChip {
@@ -128,7 +128,7 @@ ListRow {
         anchors.right: parent.right
         anchors.rightMargin: 24
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(136 * Theme.textScale)
+        width: Theme.grown(136)
         spacing: 2
 
         BodyText {

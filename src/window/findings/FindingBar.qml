@@ -74,7 +74,7 @@ Rectangle {
             id: filter
 
             objectName: "entryFilter"
-            width: Math.round(170 * Math.max(1, Theme.textScale * 0.9))
+            width: Theme.widened(170)
             placeholderText: Strings.filter
             fill: Theme.card
             onTextChanged: root.entries.filter = text

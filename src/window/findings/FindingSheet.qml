@@ -19,8 +19,8 @@ Sheet {
 
     objectName: "findingSheet"
     title: contents.header.title
-    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
-    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(820)
+    wantedHeight: Theme.widened(680)
 
     onWantedIdChanged: if (root.wantedId !== "") contents.findingId = root.wantedId
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
@@ -86,7 +86,7 @@ Sheet {
         width: parent.width
         topMargin: 6
         bottomMargin: 6
-        rowHeight: Math.round((contents.hasNotes ? 68 : 56) * Theme.textScale)
+        rowHeight: Theme.grown(contents.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: contents
         Accessible.name: contents.header.title

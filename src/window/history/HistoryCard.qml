@@ -108,7 +108,7 @@ Card {
                 id: restore
 
                 objectName: "restoreButton"
-                width: Math.max(implicitWidth, Math.round(112 * Theme.textScale))
+                width: Math.max(implicitWidth, Theme.grown(112))
                 quiet: root.status === HistoryModel.Restored
                 enabled: root.writable && root.status === HistoryModel.Restorable
                 symbol: root.status === HistoryModel.Restored ? "checkmark" : ""

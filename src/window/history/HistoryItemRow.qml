@@ -52,7 +52,7 @@ ListRow {
 
         SmallText {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.round(78 * Theme.textScale)
+            width: Theme.grown(78)
             horizontalAlignment: Text.AlignRight
             text: root.size
             color: Theme.text

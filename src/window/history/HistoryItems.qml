@@ -10,7 +10,7 @@ Item {
     required property string title
     property bool isNarrow: false
 
-    readonly property int rowHeight: Math.round((root.isNarrow ? 64 : 48) * Theme.textScale)
+    readonly property int rowHeight: Theme.grown(root.isNarrow ? 64 : 48)
     /// The half row tells that there is more.
     readonly property real rowsShown: Math.min(items.count, 6.5)
 

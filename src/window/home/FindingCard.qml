@@ -19,7 +19,7 @@ Pressable {
 
     readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
 
-    implicitHeight: Math.round(92 * Theme.textScale) + 40
+    implicitHeight: Theme.grown(92) + 40
     fill: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
     edge: root.hovered ? Theme.accent : Theme.stroke
     edgeWidth: 1

@@ -12,7 +12,7 @@ Item {
     readonly property bool isRunning: root.state === ScanProgressModel.Running
     readonly property bool isDone: root.state === ScanProgressModel.Done
 
-    implicitHeight: Math.round(32 * Theme.textScale)
+    implicitHeight: Theme.grown(32)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label
     Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration) : root.isRunning ? Strings.stepRunning : Strings.stepPending

@@ -10,7 +10,7 @@ Grid {
     required property real room
 
     readonly property real narrowest: 140 * Theme.textScale
-    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Math.round(168 * Theme.textScale))
+    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Theme.grown(168))
 
     columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
     columnSpacing: 4

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// All photos of one clean-up.
+/// All photos of one clean-up, while it is open.
 Item {
     id: root
 
@@ -20,17 +20,23 @@ Item {
     required property string selection
     required property int checkState
 
+    readonly property bool isOpen: root.groups.shownGroup === root.findingId
     signal closed
     signal previewRequested(grid: PhotoGrid, row: int)
 
+    visible: root.isOpen
+    onIsOpenChanged: {
+        if (root.isOpen)
+            grid.forceActiveFocus();
+    }
+
     Keys.onEscapePressed: root.closed()
-    Component.onCompleted: grid.forceActiveFocus()
 
     PhotoTilesModel {
         id: all
 
         groups: root.groups
-        findingId: root.findingId
+        findingId: root.isOpen ? root.findingId : ""
     }
 
     Column {

@@ -102,7 +102,7 @@ Item {
             color: "transparent"
             border.width: root.selected ? 3 : 1
             border.color: root.selected ? Theme.accentFill
-                          : root.kept ? Theme.safeBase : Qt.rgba(0, 0, 0, Theme.dark ? 0 : 0.08)
+                          : root.kept ? Theme.safeBase : Theme.photoEdge
         }
 
         Rectangle {
@@ -113,14 +113,14 @@ Item {
             width: label.implicitWidth + 12
             height: label.implicitHeight + 4
             radius: height / 2
-            color: Qt.rgba(0, 0, 0, 0.6)
+            color: Theme.photoShade
 
             CaptionText {
                 id: label
 
                 anchors.centerIn: parent
                 text: root.size
-                color: "white"
+                color: Theme.overPhoto
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
@@ -134,7 +134,7 @@ Item {
             width: keptRow.implicitWidth + 14
             height: keptRow.implicitHeight + 6
             radius: height / 2
-            color: "#12713d"
+            color: Theme.keptFill
 
             Row {
                 id: keptRow
@@ -145,13 +145,13 @@ Item {
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     name: "checkmark"
-                    colour: "white"
+                    colour: Theme.overPhoto
                     size: 11
                 }
 
                 CaptionText {
                     text: Strings.kept
-                    color: "white"
+                    color: Theme.overPhoto
                     font.weight: Font.DemiBold
                     Accessible.ignored: true
                 }

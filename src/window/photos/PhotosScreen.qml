@@ -81,42 +81,12 @@ Item {
     Repeater {
         model: groups
 
-        Loader {
-            id: loader
-
-            required property string findingId
-            required property string title
-            required property string explanation
-            required property string reason
-            required property string symbol
-            required property color tone
-            required property string rating
-            required property string ratingLabel
-            required property string ratingSymbol
-            required property string summary
-            required property string selection
-            required property int checkState
-
+        PhotoGroupPage {
             anchors.fill: parent
             anchors.bottomMargin: bar.height
-            active: groups.shownGroup === loader.findingId
-            sourceComponent: PhotoGroupPage {
-                groups: root.model
-                findingId: loader.findingId
-                title: loader.title
-                explanation: loader.explanation
-                reason: loader.reason
-                symbol: loader.symbol
-                tone: loader.tone
-                rating: loader.rating
-                ratingLabel: loader.ratingLabel
-                ratingSymbol: loader.ratingSymbol
-                summary: loader.summary
-                selection: loader.selection
-                checkState: loader.checkState
-                onClosed: groups.shownGroup = ""
-                onPreviewRequested: (grid, row) => root.preview(grid, row)
-            }
+            groups: root.model
+            onClosed: groups.shownGroup = ""
+            onPreviewRequested: (grid, row) => root.preview(grid, row)
         }
     }
 

@@ -11,7 +11,7 @@ Item {
     required property real start
     required property real extent
 
-    implicitHeight: Math.round(38 * Theme.textScale)
+    implicitHeight: Theme.grown(38)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label + ", " + root.rate
 
@@ -32,7 +32,7 @@ Item {
         anchors.left: dot.right
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(104 * Theme.textScale)
+        width: Theme.grown(104)
         text: root.label
         font.weight: Font.Medium
         Accessible.ignored: true
@@ -58,7 +58,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(128 * Theme.textScale)
+        width: Theme.grown(128)
         horizontalAlignment: Text.AlignRight
         text: root.rate
         Accessible.ignored: true

@@ -90,7 +90,7 @@ Rectangle {
             required property string symbol
 
             width: ListView.view.width
-            height: Math.round(32 * Theme.textScale)
+            height: Theme.grown(32)
 
             Symbol {
                 id: icon

@@ -27,8 +27,8 @@ Sheet {
 
     objectName: "reviewSheet"
     title: Strings.reviewTitle
-    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
-    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(820)
+    wantedHeight: Theme.widened(680)
 
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: {
@@ -87,7 +87,7 @@ Sheet {
         anchors.bottom: footer.top
         width: parent.width
         bottomMargin: 6
-        rowHeight: Math.round((plan.hasNotes ? 68 : 56) * Theme.textScale)
+        rowHeight: Theme.grown(plan.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: plan
         Accessible.name: plan.title
@@ -104,7 +104,7 @@ Sheet {
             id: row
 
             width: ListView.view.width
-            height: heading ? Math.round(50 * Theme.textScale) : list.rowHeight
+            height: heading ? Theme.grown(50) : list.rowHeight
             isCurrent: list.currentIndex === index && list.activeFocus
             ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(row.index)

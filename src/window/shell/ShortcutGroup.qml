@@ -30,7 +30,7 @@ Column {
             required property var modelData
 
             width: root.width
-            height: Math.round(36 * Theme.textScale)
+            height: Theme.grown(36)
             Accessible.role: Accessible.ListItem
             Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
 

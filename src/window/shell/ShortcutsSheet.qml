@@ -7,8 +7,8 @@ Sheet {
 
     objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
-    wantedWidth: Math.round(560 * Theme.textScale)
-    wantedHeight: Math.round(660 * Theme.textScale)
+    wantedWidth: Theme.grown(560)
+    wantedHeight: Theme.grown(660)
 
     contentItem: FocusScope {
         focus: true

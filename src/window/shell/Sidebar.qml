@@ -32,7 +32,7 @@ Rectangle {
         section.delegate: CaptionText {
             required property string section
 
-            height: Math.round(34 * Math.max(1, Theme.textScale * 0.85))
+            height: Theme.widened(34)
             leftPadding: 22
             bottomPadding: 6
             verticalAlignment: Text.AlignBottom

@@ -12,7 +12,7 @@ T.ItemDelegate {
     required property int screen
     property bool isCurrent: false
 
-    implicitHeight: Math.round(38 * Math.max(1, Theme.textScale * 0.8))
+    implicitHeight: Theme.widened(38)
     hoverEnabled: true
     highlighted: root.isCurrent
     text: root.title

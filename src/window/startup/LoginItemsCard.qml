@@ -88,7 +88,7 @@ Card {
                         required property string name
 
                         width: names.width
-                        height: Math.round(28 * Theme.textScale)
+                        height: Theme.grown(28)
                         verticalAlignment: Text.AlignVCenter
                         text: name
                         color: Theme.text

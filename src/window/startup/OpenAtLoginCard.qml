@@ -15,7 +15,7 @@ Card {
         x: 18
         anchors.verticalCenter: parent.verticalCenter
         name: "sparkles"
-        tone: "#3b7bf7"
+        tone: Theme.welcomeTone
         size: 32
     }
 

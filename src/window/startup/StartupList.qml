@@ -28,7 +28,7 @@ Card {
             required property string section
 
             width: ListView.view.width
-            height: Math.round(40 * Theme.textScale)
+            height: Theme.grown(40)
             leftPadding: 18
             bottomPadding: 2
             verticalAlignment: Text.AlignBottom
@@ -81,7 +81,7 @@ Card {
         width: parent.width - 48
         visible: root.items.count === 0 && !root.items.loading
         symbol: "power.circle.fill"
-        tone: "#e5484d"
+        tone: Theme.startupTone
         text: Strings.noLaunchAgents
     }
 }

@@ -11,7 +11,7 @@ Window {
     signal openRequested
     signal quitRequested
 
-    width: Math.round(320 * Math.max(1, Theme.textScale * 0.9))
+    width: Theme.widened(320)
     height: content.implicitHeight + 2 * root.margin
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     title: Strings.appName
