@@ -29,9 +29,9 @@ ListRow {
         id: texts
 
         anchors.left: picture.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: bytes.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.origin
@@ -42,7 +42,7 @@ ListRow {
         id: bytes
 
         anchors.right: chevron.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(implicitWidth, 56)
         horizontalAlignment: Text.AlignRight
@@ -64,7 +64,7 @@ ListRow {
         id: chevron
 
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.right"
         colour: Theme.tertiary

@@ -46,8 +46,8 @@ Sheet {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            anchors.leftMargin: 24
-            anchors.rightMargin: 24
+            anchors.leftMargin: Theme.spaceXl
+            anchors.rightMargin: Theme.spaceXl
             visible: !root.detail.removable
             detail: root.detail
         }
@@ -82,7 +82,7 @@ Sheet {
                 anchors.left: all.visible ? all.right : parent.left
                 anchors.leftMargin: all.visible ? 10 : 24
                 anchors.right: figures.left
-                anchors.rightMargin: 16
+                anchors.rightMargin: Theme.spaceL
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.detail.heading
                 elide: Text.ElideMiddle
@@ -94,7 +94,7 @@ Sheet {
                 id: figures
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.detail.count > 0
                 text: root.detail.chosenText
@@ -111,10 +111,10 @@ Sheet {
             anchors.right: parent.right
             anchors.top: strip.bottom
             anchors.bottom: footer.top
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.rightMargin: 2
-            topMargin: 8
-            bottomMargin: 8
+            topMargin: Theme.spaceS
+            bottomMargin: Theme.spaceS
             visible: root.detail.removable
             reuseItems: true
             model: root.detail
@@ -147,7 +147,7 @@ Sheet {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.verticalCenter: list.verticalCenter
             width: parent.width - 96
-            spacing: 8
+            spacing: Theme.spaceS
             visible: root.detail.removable && root.detail.count === 0
 
             LeadText {

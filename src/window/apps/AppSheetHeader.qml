@@ -9,7 +9,7 @@ Column {
     signal closeRequested
 
     bottomPadding: root.detail.apple || root.detail.quitFirst !== "" ? 16 : 0
-    spacing: 8
+    spacing: Theme.spaceS
 
     component Warning: Note {
         x: 24

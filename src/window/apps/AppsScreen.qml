@@ -51,7 +51,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: Theme.pageMargin
         anchors.leftMargin: root.sideMargin
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         title: Strings.apps
         subtitle: Strings.appsLead
     }
@@ -76,7 +76,7 @@ Item {
         anchors.top: header.bottom
         anchors.leftMargin: root.sideMargin
         anchors.rightMargin: root.sideMargin
-        anchors.topMargin: 20
+        anchors.topMargin: Theme.spaceXl
         height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
 
         readonly property real room: root.height - card.y - Theme.pageMargin
@@ -85,9 +85,9 @@ Item {
             id: summary
 
             anchors.left: parent.left
-            anchors.leftMargin: 20
+            anchors.leftMargin: Theme.cardMargin
             anchors.right: orders.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: orders.verticalCenter
             visible: apps.count > 0
             text: apps.summary
@@ -99,9 +99,9 @@ Item {
             id: orders
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             y: 10
-            spacing: 4
+            spacing: Theme.spaceXs
             enabled: apps.count > 0
 
             SortButton {
@@ -126,7 +126,7 @@ Item {
             anchors.right: parent.right
             anchors.top: orders.bottom
             anchors.margins: 1
-            anchors.topMargin: 10
+            anchors.topMargin: Theme.spaceS
         }
 
         KeyedList {
@@ -142,11 +142,11 @@ Item {
             anchors.right: parent.right
             anchors.top: line.bottom
             anchors.bottom: parent.bottom
-            anchors.leftMargin: 8
+            anchors.leftMargin: Theme.spaceS
             anchors.rightMargin: 1
             anchors.bottomMargin: 1
-            topMargin: 8
-            bottomMargin: 8
+            topMargin: Theme.spaceS
+            bottomMargin: Theme.spaceS
             reuseItems: true
             activeFocusOnTab: true
             model: ordered
@@ -180,7 +180,7 @@ Item {
             anchors.left: list.left
             anchors.right: list.right
             anchors.top: list.top
-            anchors.topMargin: 8
+            anchors.topMargin: Theme.spaceS
             visible: apps.loading && apps.count === 0
         }
 

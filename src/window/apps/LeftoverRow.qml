@@ -39,9 +39,9 @@ ListRow {
 
     RowTexts {
         anchors.left: mark.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: Theme.spaceS
         anchors.right: chip.visible ? chip.left : bytes.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.folder
@@ -52,7 +52,7 @@ ListRow {
         id: chip
 
         anchors.right: bytes.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         rating: root.note === "" ? "" : "review"
         label: root.note
@@ -63,7 +63,7 @@ ListRow {
         id: bytes
 
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(implicitWidth, 64)
         horizontalAlignment: Text.AlignRight

@@ -31,9 +31,9 @@ Pressable {
 
         SmallText {
             anchors.left: badge.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: amount.left
-            anchors.rightMargin: 10
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
             color: Theme.text
@@ -44,7 +44,7 @@ Pressable {
             id: amount
 
             anchors.right: chevron.left
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
         }
@@ -53,7 +53,7 @@ Pressable {
             id: chevron
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             name: "chevron.right"
             colour: Theme.tertiary

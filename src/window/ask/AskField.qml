@@ -10,7 +10,7 @@ InputField {
 
     objectName: "askField"
     implicitHeight: Theme.widened(48)
-    leftPadding: 18
+    leftPadding: Theme.spaceL
     rightPadding: 54
     fill: Theme.card
     corner: Math.min(24, root.height / 2)
@@ -25,7 +25,7 @@ InputField {
 
         objectName: "sendQuestion"
         anchors.right: parent.right
-        anchors.rightMargin: 7
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         width: root.height - 14
         height: width

@@ -32,7 +32,7 @@ Item {
                     Math.round((header.y + header.height + foot.y - height) / 2))
         width: root.columnWidth
         visible: theConversation.empty
-        spacing: 10
+        spacing: Theme.spaceS
 
         Badge {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -44,8 +44,8 @@ Item {
         LeadText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            topPadding: 8
-            bottomPadding: 4
+            topPadding: Theme.spaceS
+            bottomPadding: Theme.spaceXs
             text: Strings.tryOneOfThese
         }
 
@@ -100,9 +100,9 @@ Item {
 
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
+        anchors.bottomMargin: Theme.spaceXl
         width: root.columnWidth
-        spacing: 12
+        spacing: Theme.spaceM
 
         SuggestionRow {
             width: parent.width

@@ -14,7 +14,7 @@ ScrollList {
 
     objectName: "conversation"
     model: root.conversation
-    spacing: 14
+    spacing: Theme.spaceM
     cacheBuffer: 2000
     activeFocusOnTab: true
     Accessible.name: Strings.conversation
@@ -80,7 +80,7 @@ ScrollList {
         height: root.isWaiting ? Theme.grown(44) : 12
 
         ThinkingDots {
-            x: Math.round((parent.width - root.columnWidth) / 2) + 20
+            x: Math.round((parent.width - root.columnWidth) / 2) + Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             visible: root.isWaiting
             active: root.isWaiting

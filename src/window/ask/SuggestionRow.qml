@@ -17,7 +17,7 @@ Item {
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        spacing: 8
+        spacing: Theme.spaceS
         keyNavigationEnabled: false
         cacheBuffer: 4000
         model: root.conversation.suggestions

@@ -7,13 +7,13 @@ Row {
 
     property bool active: false
 
-    spacing: 10
+    spacing: Theme.spaceS
     Accessible.role: Accessible.StaticText
     Accessible.name: Strings.thinking
 
     Row {
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 5
+        spacing: Theme.spaceXs
 
         Repeater {
             model: 3

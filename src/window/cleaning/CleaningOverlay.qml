@@ -46,7 +46,7 @@ Sheet {
             x: 32
             y: 32
             width: parent.width - 64
-            spacing: 10
+            spacing: Theme.spaceS
 
             Item {
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -93,7 +93,7 @@ Sheet {
             TitleText {
                 objectName: "cleaningTitle"
                 width: parent.width
-                topPadding: 10
+                topPadding: Theme.spaceS
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: root.title
@@ -156,7 +156,7 @@ Sheet {
 
             Paragraph {
                 width: parent.width
-                topPadding: 4
+                topPadding: Theme.spaceXs
                 visible: cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.nothingDeleted

@@ -34,8 +34,8 @@ KeyedList {
         required property string remedy
 
         width: ListView.view ? ListView.view.width : 0
-        leftPadding: 14
-        rightPadding: 18
+        leftPadding: Theme.spaceM
+        rightPadding: Theme.spaceL
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
@@ -56,7 +56,7 @@ KeyedList {
         CaptionText {
             objectName: "failureRemedy"
             width: row.width - 32
-            bottomPadding: 6
+            bottomPadding: Theme.spaceS
             visible: row.startsReason && row.remedy !== ""
             text: row.remedy
             wrapMode: Text.WordWrap

@@ -38,7 +38,7 @@ Pressable {
             id: row
 
             anchors.centerIn: parent
-            spacing: 8
+            spacing: Theme.spaceS
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter

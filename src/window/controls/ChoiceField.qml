@@ -11,7 +11,7 @@ T.ComboBox {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.widened(28)
-    leftPadding: 10
+    leftPadding: Theme.spaceS
     rightPadding: 26
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
@@ -88,7 +88,7 @@ T.ComboBox {
         y: root.height + 4
         width: Math.max(root.width, 112)
         implicitHeight: contentHeight + topPadding + bottomPadding
-        margins: 8
+        margins: Theme.spaceS
         padding: 4
 
         contentItem: ListView {

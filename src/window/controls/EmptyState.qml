@@ -11,7 +11,7 @@ Column {
     property string action: ""
     signal triggered
 
-    spacing: 16
+    spacing: Theme.spaceL
 
     Badge {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -9,7 +9,7 @@ Row {
     property string symbol: "info.circle"
     property color ink: Theme.secondary
 
-    spacing: 8
+    spacing: Theme.spaceS
 
     Symbol {
         id: sign

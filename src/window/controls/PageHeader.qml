@@ -8,7 +8,7 @@ Column {
     required property string title
     property string subtitle: ""
 
-    spacing: 6
+    spacing: Theme.spaceXs
 
     TitleText {
         width: root.width

@@ -15,7 +15,7 @@ Flow {
     property string ratingLabel: ""
     property string ratingSymbol: ""
 
-    spacing: 10
+    spacing: Theme.spaceS
 
     TitleText {
         id: name

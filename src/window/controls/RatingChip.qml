@@ -24,7 +24,7 @@ Rectangle {
         id: row
 
         anchors.centerIn: parent
-        spacing: 5
+        spacing: Theme.spaceXs
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter

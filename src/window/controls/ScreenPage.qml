@@ -31,7 +31,7 @@ Item {
             x: Theme.sideMargin(area.width)
             y: Theme.pageMargin
             width: area.width - 2 * x
-            spacing: 20
+            spacing: Theme.spaceXl
 
             Item {
                 width: parent.width
@@ -49,7 +49,7 @@ Item {
                     id: toolRow
 
                     anchors.right: parent.right
-                    spacing: 8
+                    spacing: Theme.spaceS
                 }
             }
         }

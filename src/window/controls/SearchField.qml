@@ -24,7 +24,7 @@ InputField {
         id: clear
 
         anchors.right: parent.right
-        anchors.rightMargin: 4
+        anchors.rightMargin: Theme.spaceXs
         anchors.verticalCenter: parent.verticalCenter
         side: 26
         visible: root.length > 0

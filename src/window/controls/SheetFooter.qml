@@ -43,7 +43,7 @@ Item {
 
         objectName: root.figureName
         anchors.right: buttons.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.figure
         font.weight: Font.Bold
@@ -54,9 +54,9 @@ Item {
         id: buttons
 
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 8
+        spacing: Theme.spaceS
 
         AppButton {
             visible: root.cancel !== ""

@@ -19,13 +19,13 @@ Item {
     signal closeRequested
 
     // Whole, as lines of text are not always: the edge below must not lie between two rows of pixels.
-    implicitHeight: Math.ceil(Math.max(texts.height, slot.height)) + 24 + 18
+    implicitHeight: Math.ceil(Math.max(texts.height, slot.height)) + Theme.spaceXl + Theme.spaceL
 
     Item {
         id: slot
 
-        x: 24
-        y: 24
+        x: Theme.spaceXl
+        y: Theme.spaceXl
         width: childrenRect.width
         height: childrenRect.height
 
@@ -44,10 +44,10 @@ Item {
         anchors.left: slot.right
         anchors.leftMargin: slot.width > 0 ? 14 : 0
         anchors.right: close.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         // A title alone stands beside the button.
         y: Math.round(Math.max(22, 24 + (close.height - height) / 2))
-        spacing: 6
+        spacing: Theme.spaceXs
 
         RatedTitle {
             width: parent.width
@@ -64,8 +64,8 @@ Item {
 
         objectName: root.closeName
         anchors.right: parent.right
-        anchors.rightMargin: 24
-        y: 24
+        anchors.rightMargin: Theme.spaceXl
+        y: Theme.spaceXl
         framed: true
         symbol: "xmark"
         text: Strings.close

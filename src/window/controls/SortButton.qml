@@ -29,7 +29,7 @@ Pressable {
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
             anchors.left: label.right
-            anchors.leftMargin: 4
+            anchors.leftMargin: Theme.spaceXs
             visible: root.active
             name: root.reversed ? "chevron.up" : "chevron.down"
             colour: Theme.text

@@ -83,6 +83,13 @@ QtObject {
     readonly property int smallSize: root.grown(13)
     readonly property int captionSize: root.grown(12)
 
+    /// Spaces between what stands side by side or below each other, and around what is in a card or on a page.
+    readonly property int spaceXs: 4
+    readonly property int spaceS: 8
+    readonly property int spaceM: 12
+    readonly property int spaceL: 16
+    readonly property int spaceXl: 24
+    readonly property int cardMargin: 20
     readonly property int pageMargin: 32
     /// What a page is wide at most; beyond it stands in the middle.
     readonly property int contentWidth: root.widened(1320)

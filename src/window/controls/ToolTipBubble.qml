@@ -12,7 +12,7 @@ T.ToolTip {
     x: parent ? (parent.width - implicitWidth) / 2 : 0
     visible: root.shown
     delay: 600
-    margins: 6
+    margins: Theme.spaceS
     padding: 8
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding

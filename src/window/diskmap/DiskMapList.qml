@@ -9,8 +9,8 @@ ScrollList {
 
     objectName: "diskMapList"
     model: root.map
-    topMargin: 6
-    bottomMargin: 6
+    topMargin: Theme.spaceS
+    bottomMargin: Theme.spaceS
     activeFocusOnTab: true
     keyNavigationEnabled: false
     currentIndex: root.map.currentRow

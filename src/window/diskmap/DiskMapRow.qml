@@ -26,7 +26,7 @@ ListRow {
     Symbol {
         id: icon
 
-        x: 20
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary
@@ -35,9 +35,9 @@ ListRow {
 
     BodyText {
         anchors.left: icon.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: bar.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
         elide: Text.ElideMiddle
@@ -48,7 +48,7 @@ ListRow {
         id: bar
 
         anchors.right: percent.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(220, root.width * 0.26)
         value: root.share
@@ -59,7 +59,7 @@ ListRow {
         id: percent
 
         anchors.right: amount.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(46)
         horizontalAlignment: Text.AlignRight
@@ -71,7 +71,7 @@ ListRow {
         id: amount
 
         anchors.right: chevron.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(82)
         horizontalAlignment: Text.AlignRight
@@ -84,7 +84,7 @@ ListRow {
         id: chevron
 
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         opacity: root.kind === DiskMapView.Folder ? 1 : 0
         name: "chevron.right"

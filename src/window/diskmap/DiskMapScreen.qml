@@ -133,7 +133,7 @@ FocusScope {
         objectName: "diskMapStatus"
         x: Theme.pageMargin
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 16
+        anchors.bottomMargin: Theme.spaceL
         width: root.width - 2 * Theme.pageMargin
         text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
         elide: Text.ElideMiddle

@@ -68,9 +68,9 @@ ListRow {
 
     RowTexts {
         anchors.left: picture.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: actions.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.folder
@@ -81,7 +81,7 @@ ListRow {
         id: actions
 
         anchors.right: chip.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         opacity: root.hovered || root.isCurrent ? 1 : 0
 
@@ -107,7 +107,7 @@ ListRow {
         id: chip
 
         anchors.right: figures.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(82)
         height: 22
@@ -126,7 +126,7 @@ ListRow {
         id: figures
 
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(136)
         spacing: 2

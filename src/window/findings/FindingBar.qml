@@ -67,7 +67,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8
+        anchors.bottomMargin: Theme.spaceS
         spacing: 2
 
         SearchField {

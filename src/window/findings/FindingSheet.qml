@@ -84,8 +84,8 @@ Sheet {
         anchors.top: bar.bottom
         anchors.bottom: footer.top
         width: parent.width
-        topMargin: 6
-        bottomMargin: 6
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceS
         rowHeight: Theme.grown(contents.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: contents

@@ -55,7 +55,7 @@ Card {
         Badge {
             id: badge
 
-            x: 18
+            x: Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
@@ -66,11 +66,11 @@ Card {
             id: labels
 
             anchors.left: badge.right
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.spaceM
             anchors.right: trailing.left
-            anchors.rightMargin: 16
+            anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: Theme.spaceXs
 
             HeadlineText {
                 width: parent.width
@@ -91,13 +91,13 @@ Card {
             id: trailing
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 8
+            spacing: Theme.spaceS
 
             HeadlineText {
                 anchors.verticalCenter: parent.verticalCenter
-                rightPadding: 12
+                rightPadding: Theme.spaceM
                 visible: !root.isNarrow
                 text: root.freed
                 font.weight: Font.Bold

@@ -24,9 +24,9 @@ ListRow {
 
     RowTexts {
         anchors.left: parent.left
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: trailing.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.folder
@@ -38,9 +38,9 @@ ListRow {
         id: trailing
 
         anchors.right: parent.right
-        anchors.rightMargin: 6
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 10
+        spacing: Theme.spaceS
 
         CaptionText {
             anchors.verticalCenter: parent.verticalCenter

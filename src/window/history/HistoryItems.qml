@@ -24,8 +24,8 @@ Item {
     }
 
     Divider {
-        x: 18
-        width: parent.width - 36
+        x: Theme.cardMargin
+        width: parent.width - 2 * Theme.cardMargin
     }
 
     ScrollList {
@@ -33,10 +33,10 @@ Item {
 
         objectName: "recordItems"
         anchors.fill: parent
-        anchors.topMargin: 9
-        anchors.bottomMargin: 8
-        anchors.leftMargin: 6
-        anchors.rightMargin: 8
+        anchors.topMargin: Theme.spaceS
+        anchors.bottomMargin: Theme.spaceS
+        anchors.leftMargin: Theme.spaceS
+        anchors.rightMargin: Theme.spaceS
         reuseItems: true
         activeFocusOnTab: true
         highlightMoveDuration: 0

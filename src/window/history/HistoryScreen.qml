@@ -26,7 +26,7 @@ Item {
         anchors.leftMargin: root.sideMargin
         topMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
-        spacing: 12
+        spacing: Theme.spaceM
         model: history
         currentIndex: 0
         highlightMoveDuration: Theme.hoverDuration
@@ -35,8 +35,8 @@ Item {
 
         header: Column {
             width: list.width - root.sideMargin
-            bottomPadding: 20
-            spacing: 14
+            bottomPadding: Theme.spaceXl
+            spacing: Theme.spaceM
 
             PageHeader {
                 width: parent.width

@@ -13,15 +13,16 @@ Card {
     property bool isCommandShown: false
     readonly property bool besides: root.width > 640 * Theme.textScale
 
-    implicitHeight: (root.besides ? Math.max(words.height, buttons.height) : words.height + 16 + buttons.height) + 40
+    implicitHeight: (root.besides ? Math.max(words.height, buttons.height) : words.height + Theme.spaceL + buttons.height)
+                    + 2 * Theme.cardMargin
 
     Column {
         id: words
 
-        x: 20
-        y: root.besides ? Math.round((root.height - height) / 2) : 20
-        width: root.width - 40 - (root.besides ? buttons.width + 32 : 0)
-        spacing: 6
+        x: Theme.cardMargin
+        y: root.besides ? Math.round((root.height - height) / 2) : Theme.cardMargin
+        width: root.width - 2 * Theme.cardMargin - (root.besides ? buttons.width + 32 : 0)
+        spacing: Theme.spaceXs
 
         HeadlineText {
             width: parent.width
@@ -36,7 +37,7 @@ Card {
 
         Note {
             width: parent.width
-            topPadding: 4
+            topPadding: Theme.spaceXs
             visible: root.access.granted
             symbol: "checkmark.circle.fill"
             ink: Theme.safeText
@@ -46,7 +47,7 @@ Card {
         Row {
             width: parent.width
             visible: root.isCommandShown
-            spacing: 8
+            spacing: Theme.spaceS
 
             Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
@@ -91,10 +92,10 @@ Card {
         id: buttons
 
         anchors.right: root.besides ? parent.right : undefined
-        anchors.rightMargin: 20
-        x: 20
-        y: root.besides ? Math.round((root.height - height) / 2) : root.height - height - 20
-        spacing: 10
+        anchors.rightMargin: Theme.cardMargin
+        x: Theme.cardMargin
+        y: root.besides ? Math.round((root.height - height) / 2) : root.height - height - Theme.cardMargin
+        spacing: Theme.spaceS
 
         AppButton {
             id: settings

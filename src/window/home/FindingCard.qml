@@ -38,7 +38,7 @@ Pressable {
 
         RatingChip {
             anchors.right: parent.right
-            anchors.rightMargin: 14
+            anchors.rightMargin: Theme.spaceM
             y: 16
             rating: root.rating
             label: root.ratingLabel
@@ -51,9 +51,9 @@ Pressable {
 
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.margins: 16
+            anchors.margins: Theme.spaceL
             anchors.bottom: figure.top
-            anchors.bottomMargin: 3
+            anchors.bottomMargin: Theme.spaceXs
             text: root.title
             wrapMode: Text.WordWrap
             maximumLineCount: 2
@@ -66,7 +66,7 @@ Pressable {
 
             x: 16
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 15
+            anchors.bottomMargin: Theme.spaceL
             text: root.size
             color: root.cleanable ? Theme.text : Theme.secondary
             Accessible.ignored: true
@@ -74,9 +74,9 @@ Pressable {
 
         CaptionText {
             anchors.left: figure.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: parent.right
-            anchors.rightMargin: 16
+            anchors.rightMargin: Theme.spaceL
             anchors.baseline: figure.baseline
             horizontalAlignment: Text.AlignRight
             // The word goes where it would be cut off; the colour and the sign say it too.

@@ -90,8 +90,8 @@ Item {
                     anchors.horizontalCenter: parent.horizontalCenter
                     primary: true
                     large: true
-                    leftPadding: 24
-                    rightPadding: 24
+                    leftPadding: Theme.spaceXl
+                    rightPadding: Theme.spaceXl
                     symbol: "sparkles"
                     text: Strings.startScan
                     onClicked: AppModel.startScan()
@@ -104,7 +104,7 @@ Item {
 
                 Row {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    spacing: 8
+                    spacing: Theme.spaceS
 
                     SmallText {
                         anchors.verticalCenter: parent.verticalCenter
@@ -138,7 +138,7 @@ Item {
 
                 anchors.horizontalCenter: parent.horizontalCenter
                 anchors.bottom: parent.bottom
-                anchors.bottomMargin: 24
+                anchors.bottomMargin: Theme.spaceXl
                 width: Math.min(parent.width - 2 * Theme.pageMargin, 760 * Theme.textScale)
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.homeFooter

@@ -25,7 +25,7 @@ Item {
             x: Theme.sideMargin(flickable.width)
             y: Theme.pageMargin
             width: flickable.width - 2 * x
-            spacing: 24
+            spacing: Theme.spaceXl
 
             HomeResultsHeader {
                 id: header
@@ -57,7 +57,7 @@ Item {
 
             Column {
                 width: parent.width
-                spacing: 8
+                spacing: Theme.spaceS
 
                 Note {
                     width: Math.min(parent.width, 760 * Theme.textScale)

@@ -48,7 +48,7 @@ Item {
 
         LeadText {
             width: parent.width
-            topPadding: 4
+            topPadding: Theme.spaceXs
             text: Strings.reviewInTotal.arg(root.home.totalText)
             font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
         }
@@ -60,7 +60,7 @@ Item {
 
         Flow {
             width: parent.width
-            spacing: 10
+            spacing: Theme.spaceS
 
             AppButton {
                 id: review
@@ -83,7 +83,7 @@ Item {
 
             CaptionText {
                 height: Theme.controlHeight
-                leftPadding: 4
+                leftPadding: Theme.spaceXs
                 verticalAlignment: Text.AlignVCenter
                 visible: root.home.hasFindings && !root.narrow
                 text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected

@@ -34,7 +34,7 @@ Item {
 
                 x: Math.round((page.width - page.inner) / 2)
                 y: Math.round((flickable.height - height) / 2)
-                spacing: 24
+                spacing: Theme.spaceXl
 
                 Item {
                     id: slot
@@ -89,7 +89,7 @@ Item {
                 anchors.leftMargin: Math.round(page.inner * 0.07)
                 width: Math.round(page.inner * 0.93 - slot.width)
                 y: Math.max(24, Math.round((page.height - height) / 2))
-                spacing: 14
+                spacing: Theme.spaceM
 
                 TitleText {
                     width: parent.width

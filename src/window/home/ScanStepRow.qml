@@ -76,9 +76,9 @@ Item {
 
     BodyText {
         anchors.left: mark.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: time.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
         color: root.isRunning || root.isDone ? Theme.text : Theme.tertiary

@@ -13,8 +13,8 @@ Grid {
     readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Theme.grown(168))
 
     columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
-    columnSpacing: 4
-    rowSpacing: 8
+    columnSpacing: Theme.spaceXs
+    rowSpacing: Theme.spaceS
     Accessible.role: Accessible.List
     Accessible.name: Strings.usedSpace
 
@@ -52,7 +52,7 @@ Grid {
 
             CaptionText {
                 anchors.left: name.right
-                anchors.leftMargin: 6
+                anchors.leftMargin: Theme.spaceS
                 anchors.right: parent.right
                 text: row.size
                 color: Theme.text

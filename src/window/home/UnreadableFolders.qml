@@ -11,7 +11,7 @@ Column {
 
     property bool open: false
 
-    spacing: 4
+    spacing: Theme.spaceXs
 
     Note {
         width: parent.width

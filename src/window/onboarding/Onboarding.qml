@@ -42,7 +42,7 @@ Item {
 
                 TitleText {
                     width: parent.width
-                    topPadding: 14
+                    topPadding: Theme.spaceM
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeTitle
                     wrapMode: Text.WordWrap
@@ -52,8 +52,8 @@ Item {
 
                 LeadText {
                     width: parent.width
-                    topPadding: 4
-                    bottomPadding: root.height < 660 ? 18 : 28
+                    topPadding: Theme.spaceXs
+                    bottomPadding: root.height < 660 ? Theme.spaceL : Theme.spaceXl
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeSubtitle
                 }

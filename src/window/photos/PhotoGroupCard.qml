@@ -18,7 +18,7 @@ Card {
     required property string summary
     required property string selection
 
-    readonly property int padding: 18
+    readonly property int padding: Theme.cardMargin
 
     property bool wasOpened: false
 
@@ -64,11 +64,11 @@ Card {
             id: labels
 
             anchors.left: badge.right
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.spaceM
             anchors.right: showAll.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: badge.verticalCenter
-            spacing: 3
+            spacing: Theme.spaceXs
 
             RatedTitle {
                 width: parent.width

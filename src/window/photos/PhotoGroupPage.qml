@@ -45,7 +45,7 @@ Item {
         x: Theme.sideMargin(parent.width)
         y: Theme.pageMargin
         width: parent.width - 2 * x
-        spacing: 16
+        spacing: Theme.spaceL
 
         Item {
             width: parent.width
@@ -66,7 +66,7 @@ Item {
                 id: badge
 
                 anchors.left: back.right
-                anchors.leftMargin: 14
+                anchors.leftMargin: Theme.spaceM
                 name: root.symbol
                 tone: root.tone
                 size: 44
@@ -76,9 +76,9 @@ Item {
                 id: labels
 
                 anchors.left: badge.right
-                anchors.leftMargin: 14
+                anchors.leftMargin: Theme.spaceM
                 anchors.right: parent.right
-                spacing: 4
+                spacing: Theme.spaceXs
 
                 RatedTitle {
                     width: parent.width
@@ -99,7 +99,7 @@ Item {
         Row {
             x: -mark.leftPadding
             width: parent.width
-            spacing: 4
+            spacing: Theme.spaceXs
 
             CheckMark {
                 id: mark
@@ -127,11 +127,11 @@ Item {
 
         objectName: "photoGrid"
         anchors.top: head.bottom
-        anchors.topMargin: 10
+        anchors.topMargin: Theme.spaceS
         anchors.bottom: parent.bottom
         x: head.x - 4
         width: parent.width - 2 * x
-        bottomMargin: 16
+        bottomMargin: Theme.spaceL
         clip: true
         reuseItems: true
         tiles: all

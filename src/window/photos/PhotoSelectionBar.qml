@@ -22,7 +22,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.leftMargin: Theme.sideMargin(root.width)
         anchors.right: review.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.selectedText === "" ? Strings.noPhotoSelected : root.selectedText
         color: root.selectedText === "" ? Theme.secondary : Theme.text

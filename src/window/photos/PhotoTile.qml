@@ -108,7 +108,7 @@ Item {
         Rectangle {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            anchors.margins: 7
+            anchors.margins: Theme.spaceS
             visible: root.size !== ""
             width: label.implicitWidth + 12
             height: label.implicitHeight + 4
@@ -129,7 +129,7 @@ Item {
         Rectangle {
             anchors.left: parent.left
             anchors.bottom: parent.bottom
-            anchors.margins: 7
+            anchors.margins: Theme.spaceS
             visible: root.kept
             width: keptRow.implicitWidth + 14
             height: keptRow.implicitHeight + 6
@@ -140,7 +140,7 @@ Item {
                 id: keptRow
 
                 anchors.centerIn: parent
-                spacing: 4
+                spacing: Theme.spaceXs
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
@@ -176,7 +176,7 @@ Item {
     CheckMark {
         anchors.left: frame.left
         anchors.top: frame.top
-        anchors.margins: 4
+        anchors.margins: Theme.spaceXs
         visible: !root.kept
         checkState: root.selected ? Qt.Checked : Qt.Unchecked
         nextCheckState: () => checkState
@@ -188,7 +188,7 @@ Item {
     IconButton {
         anchors.right: frame.right
         anchors.top: frame.top
-        anchors.margins: 5
+        anchors.margins: Theme.spaceXs
         side: 28
         visible: root.source !== "" && (area.containsMouse || hovered)
         framed: true

@@ -73,7 +73,7 @@ Item {
         x: Theme.sideMargin(parent.width)
         width: parent.width - 2 * x
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
+        anchors.bottomMargin: Theme.spaceXl
         visible: !root.hasGroups
         text: Strings.photosFooter
     }

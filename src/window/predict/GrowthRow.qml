@@ -18,7 +18,7 @@ Item {
     Rectangle {
         id: dot
 
-        x: 20
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10
@@ -30,7 +30,7 @@ Item {
         id: title
 
         anchors.left: dot.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(104)
         text: root.label
@@ -40,9 +40,9 @@ Item {
 
     ProgressBar {
         anchors.left: title.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: amount.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         height: 6
         color: Theme.inset
@@ -56,7 +56,7 @@ Item {
         id: amount
 
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(128)
         horizontalAlignment: Text.AlignRight

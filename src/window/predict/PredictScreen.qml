@@ -21,13 +21,13 @@ ScreenPage {
 
     HeadlineText {
         width: parent.width
-        topPadding: 8
+        topPadding: Theme.spaceS
         text: Strings.growthByCategory
     }
 
     Card {
         width: parent.width
-        height: thePrediction.empty ? later.height + 40 : rows.height + 12
+        height: thePrediction.empty ? later.height + 2 * Theme.cardMargin : rows.height + 12
 
         Column {
             id: rows
@@ -50,9 +50,9 @@ ScreenPage {
         SmallText {
             id: later
 
-            x: 20
-            y: 20
-            width: parent.width - 40
+            x: Theme.cardMargin
+            y: Theme.cardMargin
+            width: parent.width - 2 * Theme.cardMargin
             visible: thePrediction.empty
             text: Strings.growthLater
             wrapMode: Text.WordWrap

@@ -18,7 +18,7 @@ Rectangle {
     Image {
         objectName: "previewPicture"
         anchors.fill: parent
-        anchors.margins: 16
+        anchors.margins: Theme.spaceL
         visible: root.preview.kind === PreviewModel.Picture
         asynchronous: true
         cache: false
@@ -65,7 +65,7 @@ Rectangle {
 
             anchors.top: text.bottom
             x: 24
-            topPadding: 12
+            topPadding: Theme.spaceM
             visible: root.preview.cut
             text: Strings.beginningOnly
         }
@@ -76,8 +76,8 @@ Rectangle {
 
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Folder
-        topMargin: 8
-        bottomMargin: 8
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceS
         reuseItems: true
         model: root.preview
         Accessible.name: root.preview.name
@@ -102,9 +102,9 @@ Rectangle {
 
             SmallText {
                 anchors.left: icon.right
-                anchors.leftMargin: 10
+                anchors.leftMargin: Theme.spaceS
                 anchors.right: size.left
-                anchors.rightMargin: 16
+                anchors.rightMargin: Theme.spaceL
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.name
                 elide: Text.ElideMiddle
@@ -115,7 +115,7 @@ Rectangle {
                 id: size
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.size
             }
@@ -129,8 +129,8 @@ Rectangle {
                 id: remark
 
                 x: 24
-                topPadding: 8
-                bottomPadding: 8
+                topPadding: Theme.spaceS
+                bottomPadding: Theme.spaceS
                 text: Strings.firstNamesOnly
             }
         }
@@ -140,7 +140,7 @@ Rectangle {
         anchors.centerIn: parent
         width: parent.width - 64
         visible: root.isBare
-        spacing: 16
+        spacing: Theme.spaceL
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter

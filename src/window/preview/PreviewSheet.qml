@@ -106,9 +106,9 @@ Sheet {
                 id: buttons
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 8
+                spacing: Theme.spaceS
 
                 AppButton {
                     symbol: "reveal"

@@ -35,7 +35,7 @@ ListRow {
 
     Item {
         anchors.fill: parent
-        anchors.topMargin: 6
+        anchors.topMargin: Theme.spaceS
 
         CheckMark {
             id: check
@@ -56,7 +56,7 @@ ListRow {
 
             anchors.verticalCenter: parent.verticalCenter
             anchors.left: check.right
-            anchors.leftMargin: 8
+            anchors.leftMargin: Theme.spaceS
             name: root.symbol
             tone: root.tone
             size: 28
@@ -66,7 +66,7 @@ ListRow {
             id: heading
 
             anchors.left: badge.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, parent.width - x - selected.implicitWidth - total.implicitWidth - 100)
             text: root.title
@@ -78,7 +78,7 @@ ListRow {
             id: selected
 
             anchors.left: heading.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.baseline: heading.baseline
             text: root.count
             Accessible.ignored: true
@@ -88,7 +88,7 @@ ListRow {
             id: total
 
             anchors.right: arrow.left
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
             font.weight: Font.Bold
@@ -99,7 +99,7 @@ ListRow {
             id: arrow
 
             anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
             side: 28
             focusPolicy: Qt.NoFocus

@@ -86,7 +86,7 @@ Sheet {
         anchors.top: header.bottom
         anchors.bottom: footer.top
         width: parent.width
-        bottomMargin: 6
+        bottomMargin: Theme.spaceS
         rowHeight: Theme.grown(plan.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: plan

@@ -23,7 +23,7 @@ T.Popup {
     width: sign.width + line.width + buttons.width + 52
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
-    leftPadding: 16
+    leftPadding: Theme.spaceL
     modal: false
     visible: root.text !== ""
     closePolicy: T.Popup.CloseOnEscape
@@ -89,7 +89,7 @@ T.Popup {
 
             objectName: "notice"
             anchors.left: sign.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(Math.ceil(implicitWidth), 620, root.roomForText)
             text: root.shownText
@@ -103,7 +103,7 @@ T.Popup {
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: Theme.spaceXs
 
             AppButton {
                 id: copy

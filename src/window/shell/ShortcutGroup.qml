@@ -13,7 +13,7 @@ Column {
 
     CaptionText {
         width: parent.width
-        bottomPadding: 6
+        bottomPadding: Theme.spaceS
         text: root.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
@@ -41,7 +41,7 @@ Column {
             BodyText {
                 anchors.left: parent.left
                 anchors.right: strokes.left
-                anchors.rightMargin: 12
+                anchors.rightMargin: Theme.spaceM
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.modelData.text
                 Accessible.ignored: true
@@ -52,7 +52,7 @@ Column {
 
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 10
+                spacing: Theme.spaceS
 
                 Repeater {
                     model: row.modelData.keys
@@ -62,7 +62,7 @@ Column {
 
                         required property var modelData
 
-                        spacing: 4
+                        spacing: Theme.spaceXs
 
                         Repeater {
                             model: stroke.modelData

@@ -34,7 +34,7 @@ Sheet {
             anchors.fill: parent
             anchors.topMargin: header.height + 1
             anchors.bottomMargin: Theme.sheetRadius / 2
-            contentHeight: groups.height + 36
+            contentHeight: groups.height + 2 * Theme.spaceL
             focus: true
             title: root.title
 
@@ -42,9 +42,9 @@ Sheet {
                 id: groups
 
                 x: 24
-                y: 18
+                y: Theme.spaceL
                 width: area.width - 48
-                spacing: 20
+                spacing: Theme.spaceXl
 
                 Repeater {
                     model: Strings.shortcutGroups

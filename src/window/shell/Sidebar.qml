@@ -10,13 +10,16 @@ Rectangle {
     required property real usedFraction
     signal selected(screen: int)
 
+    /// Where the badges of the rows begin.
+    readonly property int inset: Theme.spaceM + Theme.spaceS
+
     color: Theme.sidebar
 
     ScrollList {
         id: list
 
         anchors.fill: parent
-        anchors.topMargin: 12
+        anchors.topMargin: Theme.spaceM
         anchors.bottomMargin: footer.height + 36
         currentIndex: root.currentScreen
         activeFocusOnTab: true
@@ -33,8 +36,8 @@ Rectangle {
             required property string section
 
             height: Theme.widened(34)
-            leftPadding: 22
-            bottomPadding: 6
+            leftPadding: root.inset
+            bottomPadding: Theme.spaceS
             verticalAlignment: Text.AlignBottom
             text: section
             font.weight: Font.DemiBold
@@ -60,8 +63,8 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        anchors.margins: 22
-        spacing: 8
+        anchors.margins: root.inset
+        spacing: Theme.spaceS
 
         CaptionText {
             width: parent.width

@@ -32,9 +32,9 @@ T.ItemDelegate {
 
         BodyText {
             anchors.left: badge.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: parent.right
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
             color: root.isCurrent ? Theme.text : Theme.secondary

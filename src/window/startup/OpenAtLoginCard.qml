@@ -7,12 +7,12 @@ Card {
 
     required property LoginItemModel items
 
-    implicitHeight: texts.height + 36
+    implicitHeight: texts.height + 2 * Theme.cardMargin
 
     Badge {
         id: badge
 
-        x: 18
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: "sparkles"
         tone: Theme.welcomeTone
@@ -23,11 +23,11 @@ Card {
         id: texts
 
         anchors.left: badge.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: toggle.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 4
+        spacing: Theme.spaceXs
 
         BodyText {
             width: parent.width
@@ -57,7 +57,7 @@ Card {
 
         objectName: "openAtLogin"
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         text: Strings.openAtLogin
         checkable: !root.items.busy

@@ -29,7 +29,7 @@ Card {
 
             width: ListView.view.width
             height: Theme.grown(40)
-            leftPadding: 18
+            leftPadding: Theme.cardMargin
             bottomPadding: 2
             verticalAlignment: Text.AlignBottom
             text: section

@@ -27,14 +27,14 @@ ListRow {
 
     Divider {
         x: 64
-        width: parent.width - x - 18
+        width: parent.width - x - Theme.cardMargin
         visible: root.lineShown
     }
 
     Rectangle {
         id: tile
 
-        x: 18
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 32
         height: 32
@@ -53,9 +53,9 @@ ListRow {
         id: texts
 
         anchors.left: tile.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: toggle.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
@@ -89,7 +89,7 @@ ListRow {
 
         objectName: "switch"
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
         enabled: root.isSwitchable

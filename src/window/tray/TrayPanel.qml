@@ -6,13 +6,12 @@ import Orlen.App
 Window {
     id: root
 
-    readonly property int margin: 20
 
     signal openRequested
     signal quitRequested
 
     width: Theme.widened(320)
-    height: content.implicitHeight + 2 * root.margin
+    height: content.implicitHeight + 2 * Theme.cardMargin
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     title: Strings.appName
     color: "transparent"
@@ -50,8 +49,8 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: parent.top
-            anchors.margins: root.margin
-            spacing: 16
+            anchors.margins: Theme.cardMargin
+            spacing: Theme.spaceL
 
             HeadlineText {
                 width: parent.width
@@ -60,7 +59,7 @@ Window {
 
             Column {
                 width: parent.width
-                spacing: 8
+                spacing: Theme.spaceS
 
                 BodyText {
                     width: parent.width
@@ -87,7 +86,7 @@ Window {
                         id: ofTotal
 
                         anchors.left: freeSpace.right
-                        anchors.leftMargin: 6
+                        anchors.leftMargin: Theme.spaceS
                         anchors.right: parent.right
                         anchors.baseline: freeSpace.baseline
                         text: Strings.freeOf.arg(storage.totalText)
@@ -124,7 +123,7 @@ Window {
 
             Row {
                 anchors.right: parent.right
-                spacing: 8
+                spacing: Theme.spaceS
 
                 AppButton {
                     objectName: "trayQuit"
