@@ -31,7 +31,7 @@ Column {
 
         SmallText {
             width: parent.width
-            text: root.detail.size === "" ? root.detail.origin : root.detail.size + " · " + root.detail.origin
+            text: root.detail.size === "" ? root.detail.origin : root.detail.size + Strings.joint + root.detail.origin
             elide: Text.ElideMiddle
         }
 

@@ -102,7 +102,8 @@ Sheet {
             BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.finished ? cleaning.planTitle + " · " + cleaning.freedText : cleaning.progressText
+                text: cleaning.finished ? cleaning.planTitle + Strings.joint + cleaning.freedText
+                                        : cleaning.progressText
                 color: Theme.secondary
                 font.weight: Font.DemiBold
             }
@@ -123,7 +124,8 @@ Sheet {
 
             readonly property bool isWanted: cleaning.finished && list.count > 0
             /// What the other texts leave of the window.
-            readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing - head.implicitHeight - foot.implicitHeight
+            readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing
+                                         - head.implicitHeight - foot.implicitHeight
             readonly property int taken: list.isWanted ? list.height + head.spacing : 0
 
             objectName: "failureList"

@@ -39,7 +39,8 @@ KeyedList {
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.name + ", " + row.folder + ", " + row.reason + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
+        Accessible.name: row.name + ", " + row.folder + ", " + row.reason
+                         + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
 
         SmallText {
             objectName: "failureReason"

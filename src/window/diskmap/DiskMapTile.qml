@@ -19,7 +19,7 @@ Rectangle {
     signal pressed
 
     readonly property real inset: Math.min(8, Math.round(root.height / 6))
-    readonly property bool isLabelled: root.area.width >= 54 * Theme.textScale && root.area.height >= 24 * Theme.textScale
+    readonly property bool isLabelled: root.area.width >= Theme.grown(54) && root.area.height >= Theme.grown(24)
 
     x: root.area.x
     y: root.area.y

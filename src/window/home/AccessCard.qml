@@ -12,9 +12,10 @@ Card {
 
     property bool isCommandShown: false
     readonly property bool besides: root.width > 640 * Theme.textScale
+    readonly property real contentHeight: root.besides ? Math.max(words.height, buttons.height)
+                                                       : words.height + Theme.spaceL + buttons.height
 
-    implicitHeight: (root.besides ? Math.max(words.height, buttons.height) : words.height + Theme.spaceL + buttons.height)
-                    + 2 * Theme.cardMargin
+    implicitHeight: root.contentHeight + 2 * Theme.cardMargin
 
     Column {
         id: words

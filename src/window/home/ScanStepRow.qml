@@ -15,7 +15,8 @@ Item {
     implicitHeight: Theme.grown(32)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label
-    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration) : root.isRunning ? Strings.stepRunning : Strings.stepPending
+    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration)
+                            : root.isRunning ? Strings.stepRunning : Strings.stepPending
 
     Item {
         id: mark

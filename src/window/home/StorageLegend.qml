@@ -10,9 +10,11 @@ Grid {
     required property real room
 
     readonly property real narrowest: 140 * Theme.textScale
-    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Theme.grown(168))
+    readonly property real roomForCells: root.room - (root.columns - 1) * root.columnSpacing
+    readonly property int cellWidth: Math.min(Math.floor(root.roomForCells / root.columns), Theme.grown(168))
 
-    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
+    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing)
+                                                / (root.narrowest + root.columnSpacing))))
     columnSpacing: Theme.spaceXs
     rowSpacing: Theme.spaceS
     Accessible.role: Accessible.List

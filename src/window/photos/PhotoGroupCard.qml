@@ -8,7 +8,6 @@ Card {
     required property PhotoGroupsModel groups
     required property string findingId
     required property string title
-    required property string explanation
     required property string symbol
     required property color tone
     required property string rating

@@ -155,8 +155,8 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
-                                                            : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
-                                                                                                         : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
+                  : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
+                  : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
             color: Theme.secondary
         }
     }

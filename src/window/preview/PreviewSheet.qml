@@ -91,7 +91,8 @@ Sheet {
 
                 SmallText {
                     width: parent.width
-                    text: model.kind === PreviewModel.Folder && root.size !== "" ? model.facts + " · " + root.size : model.facts
+                    text: model.facts
+                          + (model.kind === PreviewModel.Folder && root.size !== "" ? Strings.joint + root.size : "")
                     color: Theme.text
                     font.weight: Font.DemiBold
                 }

@@ -11,7 +11,8 @@ Card {
     /// The keyboard has come to this row.
     signal reached(row: Item)
 
-    implicitHeight: root.items.count > 0 ? list.height + 2 : root.items.loading ? placeholder.height + 16 : empty.height + 64
+    implicitHeight: root.items.count > 0 ? list.height + 2
+                    : root.items.loading ? placeholder.height + 16 : empty.height + 64
 
     KeyedList {
         id: list
