@@ -7,14 +7,12 @@ Column {
 
     required property AppDetailModel detail
 
-    spacing: 16
+    spacing: Theme.spaceL
 
-    Text {
+    Paragraph {
         width: root.width
         text: root.detail.advice
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        lineHeight: 1.2
         color: Theme.text
         font.pixelSize: Theme.bodySize
     }
@@ -29,9 +27,9 @@ Column {
             id: command
 
             anchors.left: parent.left
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.spaceM
             anchors.right: copy.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             readOnly: true
             selectByMouse: true
@@ -52,7 +50,7 @@ Column {
 
             objectName: "copyCommand"
             anchors.right: parent.right
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             symbol: copied.running ? "checkmark" : "copy"
             text: copied.running ? Strings.copied : Strings.copyCommand

@@ -2,33 +2,19 @@ import QtQuick
 import Orlen.App
 
 /// One application in the list.
-Item {
+ListRow {
     id: root
 
     required property string name
     required property string origin
     required property string icon
     required property string size
-    property bool focusShown: false
     signal activated
 
     implicitHeight: Math.max(60, texts.height + 22)
-    Accessible.role: Accessible.ListItem
     Accessible.name: root.name
     Accessible.description: root.size === "" ? root.origin : root.origin + ", " + root.size
-    Accessible.focusable: true
     Accessible.onPressAction: root.activated()
-
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: hover.hovered ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.focusShown
-            gap: 0
-        }
-    }
 
     AppIcon {
         id: picture
@@ -39,48 +25,28 @@ Item {
         size: 40
     }
 
-    Column {
+    RowTexts {
         id: texts
 
         anchors.left: picture.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: bytes.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
-
-        Text {
-            width: parent.width
-            text: root.name
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
-            font.weight: Font.Medium
-        }
-
-        Text {
-            width: parent.width
-            text: root.origin
-            textFormat: Text.PlainText
-            elide: Text.ElideMiddle
-            color: hover.hovered ? Theme.secondary : Theme.tertiary
-            font.pixelSize: Theme.captionSize
-        }
+        name: root.name
+        place: root.origin
+        placeInk: root.hovered ? Theme.secondary : Theme.tertiary
     }
 
-    Text {
+    BodyText {
         id: bytes
 
         anchors.right: chevron.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(implicitWidth, 56)
         horizontalAlignment: Text.AlignRight
         text: root.size
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
     }
 
@@ -98,15 +64,11 @@ Item {
         id: chevron
 
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.right"
         colour: Theme.tertiary
         size: 12
-    }
-
-    HoverHandler {
-        id: hover
     }
 
     TapHandler {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One application: what it left as a checklist, and the way to the review.
@@ -10,20 +9,16 @@ Sheet {
 
     objectName: "appSheet"
     title: root.detail.name
-    wantedWidth: Math.round(760 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(760)
     wantedHeight: root.detail.removable
-                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 72))
-                  : header.height + advice.height + 76
+                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 28))
+                  : header.height + advice.height + 32
     onClosed: root.detail.close()
     onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
 
-    Behavior on wantedHeight {
+    Ease on wantedHeight {
         enabled: root.opened
-
-        NumberAnimation {
-            duration: Theme.sheetInDuration
-            easing.type: Easing.OutCubic
-        }
+        duration: Theme.sheetInDuration
     }
 
     Connections {
@@ -40,10 +35,7 @@ Sheet {
         AppSheetHeader {
             id: header
 
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.top: parent.top
-            anchors.margins: 24
+            width: parent.width
             detail: root.detail
             onCloseRequested: root.close()
         }
@@ -54,7 +46,8 @@ Sheet {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            anchors.margins: 24
+            anchors.leftMargin: Theme.spaceXl
+            anchors.rightMargin: Theme.spaceXl
             visible: !root.detail.removable
             detail: root.detail
         }
@@ -65,9 +58,8 @@ Sheet {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            anchors.topMargin: 20
             visible: root.detail.removable
-            height: Math.round(44 * Theme.textScale)
+            height: Theme.grown(44)
             color: Theme.inset
 
             CheckMark {
@@ -84,33 +76,29 @@ Sheet {
                 onClicked: root.detail.toggleAll()
             }
 
-            Text {
+            SmallText {
                 id: heading
 
                 anchors.left: all.visible ? all.right : parent.left
                 anchors.leftMargin: all.visible ? 10 : 24
                 anchors.right: figures.left
-                anchors.rightMargin: 16
+                anchors.rightMargin: Theme.spaceL
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.detail.heading
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
             }
 
-            Text {
+            CaptionText {
                 id: figures
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.detail.count > 0
                 text: root.detail.chosenText
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
             }
         }
 
@@ -123,16 +111,14 @@ Sheet {
             anchors.right: parent.right
             anchors.top: strip.bottom
             anchors.bottom: footer.top
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.rightMargin: 2
-            topMargin: 8
-            bottomMargin: 8
+            topMargin: Theme.spaceS
+            bottomMargin: Theme.spaceS
             visible: root.detail.removable
-            clip: true
             reuseItems: true
             model: root.detail
             Accessible.name: heading.text
-            T.ScrollBar.vertical: ScrollHandle {}
 
             onActiveFocusChanged: {
                 if (!list.activeFocus)
@@ -148,7 +134,7 @@ Sheet {
                 required property int index
 
                 width: ListView.view.width - 10
-                focusShown: ListView.isCurrentItem && list.showsFocus
+                ringed: ListView.isCurrentItem && list.showsFocus
                 onToggled: {
                     list.pointed = true;
                     list.currentIndex = row.index;
@@ -161,30 +147,25 @@ Sheet {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.verticalCenter: list.verticalCenter
             width: parent.width - 96
-            spacing: 8
+            spacing: Theme.spaceS
             visible: root.detail.removable && root.detail.count === 0
 
-            Text {
+            LeadText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
                 text: root.detail.loading ? Strings.lookingForLeftovers
                                           : root.detail.otherCopy ? Strings.otherCopy : Strings.noLeftovers
-                textFormat: Text.PlainText
                 color: root.detail.otherCopy ? Theme.text : Theme.secondary
-                font.pixelSize: Theme.headlineSize
                 font.weight: root.detail.otherCopy ? Font.DemiBold : Font.Normal
             }
 
-            Text {
+            BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 visible: root.detail.otherCopy
                 text: Strings.otherCopyNote
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
             }
         }
 

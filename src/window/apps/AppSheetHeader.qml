@@ -8,88 +8,48 @@ Column {
     required property AppDetailModel detail
     signal closeRequested
 
-    spacing: 16
+    bottomPadding: root.detail.apple || root.detail.quitFirst !== "" ? 16 : 0
+    spacing: Theme.spaceS
 
-    Item {
+    component Warning: Note {
+        x: 24
+        width: root.width - 48
+        symbol: "exclamationmark.triangle.fill"
+        ink: Theme.reviewText
+    }
+
+    SheetHeader {
         width: root.width
-        height: Math.max(picture.height, names.height)
-
-        AppIcon {
-            id: picture
-
+        title: root.detail.name
+        titleLines: 2
+        closeName: "appSheetClose"
+        picture: AppIcon {
             icon: root.detail.icon
             size: 56
         }
+        onCloseRequested: root.closeRequested()
 
-        Column {
-            id: names
-
-            anchors.left: picture.right
-            anchors.leftMargin: 16
-            anchors.right: close.left
-            anchors.rightMargin: 16
-            anchors.verticalCenter: picture.verticalCenter
-            spacing: 3
-
-            Text {
-                width: parent.width
-                text: root.detail.name
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                wrapMode: Text.Wrap
-                maximumLineCount: 2
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: root.detail.name
-            }
-
-            Text {
-                width: parent.width
-                text: root.detail.size === "" ? root.detail.origin : root.detail.size + " · " + root.detail.origin
-                textFormat: Text.PlainText
-                elide: Text.ElideMiddle
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
-            }
-
-            Text {
-                width: parent.width
-                visible: root.detail.identifier !== ""
-                text: root.detail.identifier
-                textFormat: Text.PlainText
-                elide: Text.ElideMiddle
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
-            }
+        SmallText {
+            width: parent.width
+            text: root.detail.size === "" ? root.detail.origin : root.detail.size + Strings.joint + root.detail.origin
+            elide: Text.ElideMiddle
         }
 
-        IconButton {
-            id: close
-
-            objectName: "appSheetClose"
-            anchors.right: parent.right
-            framed: true
-            symbol: "xmark"
-            text: Strings.close
-            onClicked: root.closeRequested()
+        CaptionText {
+            width: parent.width
+            visible: text !== ""
+            text: root.detail.identifier
+            elide: Text.ElideMiddle
         }
     }
 
-    Note {
-        width: root.width
+    Warning {
         visible: root.detail.apple
         text: Strings.appleApp
-        symbol: "exclamationmark.triangle.fill"
-        ink: Theme.reviewText
     }
 
-    Note {
-        width: root.width
+    Warning {
         visible: root.detail.quitFirst !== ""
         text: root.detail.quitFirst
-        symbol: "exclamationmark.triangle.fill"
-        ink: Theme.reviewText
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Applications: a list to search in; choosing one opens its detail.
@@ -49,7 +48,7 @@ Item {
         anchors.top: parent.top
         anchors.topMargin: Theme.pageMargin
         anchors.leftMargin: root.sideMargin
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         title: Strings.apps
         subtitle: Strings.appsLead
     }
@@ -74,25 +73,22 @@ Item {
         anchors.top: header.bottom
         anchors.leftMargin: root.sideMargin
         anchors.rightMargin: root.sideMargin
-        anchors.topMargin: 20
+        anchors.topMargin: Theme.spaceXl
         height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
 
         readonly property real room: root.height - card.y - Theme.pageMargin
 
-        Text {
+        CaptionText {
             id: summary
 
             anchors.left: parent.left
-            anchors.leftMargin: 20
+            anchors.leftMargin: Theme.cardMargin
             anchors.right: orders.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: orders.verticalCenter
             visible: apps.count > 0
             text: apps.summary
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.Medium
         }
 
@@ -100,9 +96,9 @@ Item {
             id: orders
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             y: 10
-            spacing: 4
+            spacing: Theme.spaceXs
             enabled: apps.count > 0
 
             SortButton {
@@ -120,16 +116,14 @@ Item {
             }
         }
 
-        Rectangle {
+        Divider {
             id: line
 
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: orders.bottom
             anchors.margins: 1
-            anchors.topMargin: 10
-            height: 1
-            color: Theme.stroke
+            anchors.topMargin: Theme.spaceS
         }
 
         KeyedList {
@@ -145,17 +139,15 @@ Item {
             anchors.right: parent.right
             anchors.top: line.bottom
             anchors.bottom: parent.bottom
-            anchors.leftMargin: 8
+            anchors.leftMargin: Theme.spaceS
             anchors.rightMargin: 1
             anchors.bottomMargin: 1
-            topMargin: 8
-            bottomMargin: 8
-            clip: true
+            topMargin: Theme.spaceS
+            bottomMargin: Theme.spaceS
             reuseItems: true
             activeFocusOnTab: true
             model: ordered
             Accessible.name: Strings.apps
-            T.ScrollBar.vertical: ScrollHandle {}
 
             // The sheet gives the focus back, and a click is no reason to show it then.
             onActiveFocusChanged: {
@@ -172,7 +164,7 @@ Item {
                 required property int index
 
                 width: ListView.view.width - 7
-                focusShown: ListView.isCurrentItem && list.showsFocus
+                ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     list.forceActiveFocus(Qt.MouseFocusReason);
                     list.pointed = true;
@@ -185,7 +177,7 @@ Item {
             anchors.left: list.left
             anchors.right: list.right
             anchors.top: list.top
-            anchors.topMargin: 8
+            anchors.topMargin: Theme.spaceS
             visible: apps.loading && apps.count === 0
         }
 
@@ -194,7 +186,7 @@ Item {
             width: Math.min(list.width - 48, 460)
             visible: !apps.loading && list.count === 0
             symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
-            tone: "#5b5fe0"
+            tone: Theme.appsTone
             text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
             action: search.text === "" ? "" : Strings.clearFilter
             onTriggered: {

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// A finding that an answer is about; opens its detail.
-T.AbstractButton {
+Pressable {
     id: root
 
     required property string findingId
@@ -13,14 +12,11 @@ T.AbstractButton {
     required property string size
 
     objectName: "answerLink-" + root.findingId
-    implicitHeight: Math.round(44 * Theme.textScale)
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    implicitHeight: Theme.grown(44)
+    fill: root.hovered || root.down ? Theme.hover : Theme.inset
+    ringGap: 2
     text: root.title
     Accessible.name: root.title + ", " + root.size
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Badge {
@@ -33,51 +29,35 @@ T.AbstractButton {
             size: 24
         }
 
-        Text {
+        SmallText {
             anchors.left: badge.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: amount.left
-            anchors.rightMargin: 10
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
         }
 
-        Text {
+        SmallText {
             id: amount
 
             anchors.right: chevron.left
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
         Symbol {
             id: chevron
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             name: "chevron.right"
             colour: Theme.tertiary
             size: 12
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: root.hovered || root.down ? Theme.hover : Theme.inset
-
-        FocusRing {
-            shown: root.visualFocus
-            gap: 2
         }
     }
 }

@@ -1,98 +1,48 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Where a question is typed. Enter sends it, the arrow keys bring back earlier ones.
-T.TextField {
+InputField {
     id: root
 
     required property ConversationModel conversation
     signal asked(question: string)
 
     objectName: "askField"
-    implicitHeight: Math.round(48 * Math.max(1, Theme.textScale * 0.9))
-    leftPadding: 18
+    implicitHeight: Theme.widened(48)
+    leftPadding: Theme.spaceL
     rightPadding: 54
-    verticalAlignment: TextInput.AlignVCenter
-    color: Theme.text
+    fill: Theme.card
+    corner: Math.min(24, root.height / 2)
     placeholderText: Strings.askPlaceholder
-    placeholderTextColor: Theme.tertiary
-    selectionColor: Theme.accentFill
-    selectedTextColor: Theme.overAccent
-    selectByMouse: true
     maximumLength: 500
-    font.family: hint.font.family
-    font.pixelSize: Theme.bodySize
-    Accessible.name: root.placeholderText
 
     Keys.onUpPressed: root.text = root.conversation.recall(ConversationModel.Earlier)
     Keys.onDownPressed: root.text = root.conversation.recall(ConversationModel.Later)
-    Keys.onEscapePressed: event => {
-        event.accepted = root.text !== "";
-        root.clear();
-    }
 
-    background: Rectangle {
-        radius: Math.min(24, height / 2)
-        color: Theme.card
-        border.width: root.activeFocus ? 2 : 1
-        border.color: root.activeFocus ? Theme.accent : Theme.stroke
-    }
-
-    // Fields would take their font from the desktop, texts take it from the program.
-    Text {
-        id: hint
-
-        anchors.fill: parent
-        anchors.leftMargin: root.leftPadding
-        anchors.rightMargin: root.rightPadding
-        verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
-        visible: root.length === 0 && root.preeditText === ""
-        text: root.placeholderText
-        textFormat: Text.PlainText
-        color: root.placeholderTextColor
-        font.pixelSize: Theme.bodySize
-        Accessible.ignored: true
-    }
-
-    T.AbstractButton {
+    Pressable {
         id: send
 
         objectName: "sendQuestion"
         anchors.right: parent.right
-        anchors.rightMargin: 7
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         width: root.height - 14
         height: width
         enabled: root.text.trim() !== "" && !root.conversation.thinking
         focusPolicy: Qt.TabFocus
-        hoverEnabled: true
+        corner: send.height / 2
+        ringGap: 2
+        fill: !send.enabled ? Theme.inset : send.down ? Theme.accentFillPressed
+                                                      : send.hovered ? Theme.accentFillHover : Theme.accentFill
         text: Strings.send
-        Accessible.name: send.text
         onClicked: root.asked(root.text)
-
-        Keys.onReturnPressed: send.clicked()
-        Keys.onEnterPressed: send.clicked()
 
         contentItem: Item {
             Symbol {
                 anchors.centerIn: parent
                 name: "arrow.up"
                 colour: send.enabled ? Theme.overAccent : Theme.tertiary
-                size: 16
-            }
-        }
-
-        background: Rectangle {
-            radius: height / 2
-            color: !send.enabled ? Theme.inset : send.down ? Theme.accentFillPressed
-                                                           : send.hovered ? Theme.accentFillHover : Theme.accentFill
-
-            FocusRing {
-                shown: send.visualFocus
-                shape: send.height / 2
-                gap: 2
             }
         }
     }

@@ -30,24 +30,21 @@ Item {
                     Math.round((header.y + header.height + foot.y - height) / 2))
         width: root.columnWidth
         visible: theConversation.count === 0
-        spacing: 10
+        spacing: Theme.spaceS
 
         Badge {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "bubble.left.and.text.bubble.right.fill"
-            tone: "#9257e8"
+            tone: Theme.askTone
             size: 64
         }
 
-        Text {
+        LeadText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            topPadding: 8
-            bottomPadding: 4
+            topPadding: Theme.spaceS
+            bottomPadding: Theme.spaceXs
             text: Strings.tryOneOfThese
-            textFormat: Text.PlainText
-            color: Theme.secondary
-            font.pixelSize: Theme.headlineSize
         }
 
         Repeater {
@@ -91,7 +88,7 @@ Item {
             }
             GradientStop {
                 position: 1
-                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+                color: Theme.tint(Theme.window, 0)
             }
         }
     }
@@ -101,9 +98,9 @@ Item {
 
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
+        anchors.bottomMargin: Theme.spaceXl
         width: root.columnWidth
-        spacing: 12
+        spacing: Theme.spaceM
 
         SuggestionRow {
             width: parent.width

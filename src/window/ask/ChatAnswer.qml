@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// What Orlen answered: the text, the findings it is about, and who wrote it.
-Card {
+ColumnCard {
     id: root
 
     required property string text
@@ -11,83 +11,68 @@ Card {
     signal findingRequested(id: string)
     signal copyRequested
 
-    implicitHeight: column.height + 32
+    spacing: Theme.spaceM
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 
+    Paragraph {
+        width: parent.width
+        text: root.text
+        wrapMode: Text.Wrap
+        color: Theme.text
+        font.pixelSize: Theme.bodySize
+        Accessible.ignored: true
+    }
+
     Column {
-        id: column
+        width: parent.width
+        visible: links.count > 0
+        spacing: Theme.spaceXs
 
-        x: 20
-        y: 18
-        width: root.width - 40
-        spacing: 14
+        Repeater {
+            id: links
 
-        Text {
-            width: parent.width
-            text: root.text
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            lineHeight: 1.3
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
-            Accessible.ignored: true
-        }
+            model: root.links
 
-        Column {
-            width: parent.width
-            visible: links.count > 0
-            spacing: 6
-
-            Repeater {
-                id: links
-
-                model: root.links
-
-                AnswerLink {
-                    width: parent ? parent.width : 0
-                    onClicked: root.findingRequested(findingId)
-                }
+            AnswerLink {
+                width: parent ? parent.width : 0
+                onClicked: root.findingRequested(findingId)
             }
         }
+    }
 
-        Item {
-            width: parent.width
-            height: copy.height
+    Item {
+        width: parent.width
+        height: copy.height
 
-            Text {
-                anchors.left: parent.left
-                anchors.right: copy.left
-                anchors.rightMargin: 8
-                anchors.verticalCenter: parent.verticalCenter
-                text: root.usedModel ? Strings.modelFooter : Strings.matcherFooter
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
+        CaptionText {
+            anchors.left: parent.left
+            anchors.right: copy.left
+            anchors.rightMargin: Theme.spaceS
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.usedModel ? Strings.modelFooter : Strings.matcherFooter
+        }
+
+        IconButton {
+            id: copy
+
+            objectName: "copyAnswer"
+            anchors.right: parent.right
+            anchors.rightMargin: -8
+            width: 30
+            height: 26
+            symbol: done.running ? "checkmark" : "copy"
+            symbolSize: 14
+            text: done.running ? Strings.copied : Strings.copy
+            onClicked: {
+                root.copyRequested();
+                done.restart();
             }
 
-            IconButton {
-                id: copy
+            Timer {
+                id: done
 
-                objectName: "copyAnswer"
-                anchors.right: parent.right
-                anchors.rightMargin: -8
-                width: 30
-                height: 26
-                symbol: done.running ? "checkmark" : "copy"
-                symbolSize: 14
-                text: done.running ? Strings.copied : Strings.copy
-                onClicked: {
-                    root.copyRequested();
-                    done.restart();
-                }
-
-                Timer {
-                    id: done
-
-                    interval: 1600
-                }
+                interval: 1600
             }
         }
     }

@@ -20,17 +20,15 @@ Item {
         radius: Math.min(18, height / 2)
         color: Theme.accentFill
 
-        Text {
+        BodyText {
             id: label
 
             x: 16
             y: 10
             width: parent.width - 32
             text: root.text
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             color: Theme.overAccent
-            font.pixelSize: Theme.bodySize
             Accessible.ignored: true
         }
     }

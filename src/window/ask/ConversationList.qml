@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The messages of a conversation, the newest in view.
-ListView {
+ScrollList {
     id: root
 
     required property ConversationModel conversation
@@ -15,14 +14,10 @@ ListView {
 
     objectName: "conversation"
     model: root.conversation
-    clip: true
-    boundsBehavior: Flickable.StopAtBounds
-    spacing: 14
+    spacing: Theme.spaceM
     cacheBuffer: 2000
     activeFocusOnTab: true
-    Accessible.role: Accessible.List
     Accessible.name: Strings.conversation
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Keys.onPressed: event => {
         if (event.matches(StandardKey.Copy)) {
@@ -82,10 +77,10 @@ ListView {
 
     footer: Item {
         width: root.width
-        height: root.isWaiting ? Math.round(44 * Theme.textScale) : 12
+        height: root.isWaiting ? Theme.grown(44) : 12
 
         ThinkingDots {
-            x: Math.round((parent.width - root.columnWidth) / 2) + 20
+            x: Math.round((parent.width - root.columnWidth) / 2) + Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             visible: root.isWaiting
             active: root.isWaiting

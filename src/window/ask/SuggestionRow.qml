@@ -8,7 +8,7 @@ Item {
     required property ConversationModel conversation
     signal asked(question: string)
 
-    implicitHeight: Math.round(30 * Theme.textScale) + 6
+    implicitHeight: Theme.grown(30) + 6
 
     ListView {
         id: list
@@ -17,7 +17,7 @@ Item {
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        spacing: 8
+        spacing: Theme.spaceS
         keyNavigationEnabled: false
         cacheBuffer: 4000
         model: root.conversation.suggestions
@@ -58,7 +58,7 @@ Item {
             orientation: Gradient.Horizontal
             GradientStop {
                 position: 0
-                color: Qt.rgba(Theme.window.r, Theme.window.g, Theme.window.b, 0)
+                color: Theme.tint(Theme.window, 0)
             }
             GradientStop {
                 position: 1

@@ -7,13 +7,13 @@ Row {
 
     property bool active: false
 
-    spacing: 10
+    spacing: Theme.spaceS
     Accessible.role: Accessible.StaticText
     Accessible.name: Strings.thinking
 
     Row {
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 5
+        spacing: Theme.spaceXs
 
         Repeater {
             model: 3
@@ -53,12 +53,9 @@ Row {
         }
     }
 
-    Text {
+    SmallText {
         anchors.verticalCenter: parent.verticalCenter
         text: Strings.thinking
-        textFormat: Text.PlainText
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 }

@@ -9,7 +9,7 @@ Sheet {
 
     objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
-    wantedWidth: Math.round((list.isWanted ? 520 : 440) * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
     closable: false
 
@@ -19,11 +19,9 @@ Sheet {
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
 
-    Behavior on swell {
-        SpringMotion {
-            response: 0.6
-            damping: 0.8
-        }
+    Spring on swell {
+        response: 0.6
+        damping: 0.8
     }
 
     CleaningModel {
@@ -46,7 +44,7 @@ Sheet {
             x: 32
             y: 32
             width: parent.width - 64
-            spacing: 10
+            spacing: Theme.spaceS
 
             Item {
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -65,11 +63,9 @@ Sheet {
                     Accessible.role: Accessible.ProgressBar
                     Accessible.name: cleaning.progressText
 
-                    Behavior on value {
-                        SpringMotion {
-                            response: 0.6
-                            damping: 0.8
-                        }
+                    Spring on value {
+                        response: 0.6
+                        damping: 0.8
                     }
                 }
 
@@ -92,41 +88,31 @@ Sheet {
                 }
             }
 
-            Text {
+            TitleText {
                 objectName: "cleaningTitle"
                 width: parent.width
-                topPadding: 10
+                topPadding: Theme.spaceS
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: root.title
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
-            Text {
+            BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.finished ? cleaning.planTitle + " · " + cleaning.freedText : cleaning.progressText
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
+                text: cleaning.finished ? cleaning.planTitle + Strings.joint + cleaning.freedText
+                                        : cleaning.progressText
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
             }
 
-            Text {
+            BodyText {
                 objectName: "cleaningFailed"
                 width: parent.width
                 visible: cleaning.finished && cleaning.failed > 0
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.couldNotBeMoved.arg(cleaning.failedText)
-                textFormat: Text.PlainText
                 color: Theme.reviewText
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.Medium
             }
         }
@@ -136,7 +122,8 @@ Sheet {
 
             readonly property bool isWanted: cleaning.finished && list.count > 0
             /// What the other texts leave of the window.
-            readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing - head.implicitHeight - foot.implicitHeight
+            readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing
+                                         - head.implicitHeight - foot.implicitHeight
             readonly property int taken: list.isWanted ? list.height + head.spacing : 0
 
             objectName: "failureList"
@@ -158,41 +145,30 @@ Sheet {
             width: head.width
             spacing: head.spacing
 
-            Text {
+            SmallText {
                 width: parent.width
                 visible: !cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
                 text: cleaning.current
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.tertiary
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            Paragraph {
                 width: parent.width
-                topPadding: 4
+                topPadding: Theme.spaceXs
                 visible: cleaning.finished
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 text: Strings.nothingDeleted
-                textFormat: Text.PlainText
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            Paragraph {
                 objectName: "notRecorded"
                 width: parent.width
                 visible: cleaning.finished && !cleaning.recorded
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 text: Strings.notRecorded
-                textFormat: Text.PlainText
                 color: Theme.reviewText
-                font.pixelSize: Theme.smallSize
             }
 
             Item {

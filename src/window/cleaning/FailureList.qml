@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// What a clean-up could not move: the items, under each reason with what can be done about it.
@@ -9,11 +8,9 @@ KeyedList {
     required property FailureListModel failures
 
     model: root.failures
-    clip: true
     currentIndex: 0
     cacheBuffer: 400
     Accessible.name: Strings.notMoved
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Rectangle {
         anchors.fill: parent
@@ -37,57 +34,49 @@ KeyedList {
         required property string remedy
 
         width: ListView.view ? ListView.view.width : 0
-        leftPadding: 14
-        rightPadding: 18
+        leftPadding: Theme.spaceM
+        rightPadding: Theme.spaceL
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.name + ", " + row.folder + ", " + row.reason + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
+        Accessible.name: row.name + ", " + row.folder + ", " + row.reason
+                         + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
 
-        Text {
+        SmallText {
             objectName: "failureReason"
             width: row.width - 32
             bottomPadding: row.remedy === "" ? 6 : 0
             visible: row.startsReason
             text: row.reason.charAt(0).toUpperCase() + row.reason.slice(1)
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.reviewText
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             objectName: "failureRemedy"
             width: row.width - 32
-            bottomPadding: 6
+            bottomPadding: Theme.spaceS
             visible: row.startsReason && row.remedy !== ""
             text: row.remedy
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        SmallText {
             width: row.width - 32
             text: row.name
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: row.width - 32
             text: row.folder
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }

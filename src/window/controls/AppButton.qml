@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// A push button. One of a view is the primary one.
-T.Button {
+Pressable {
     id: root
 
     property bool primary: false
@@ -15,26 +14,21 @@ T.Button {
     readonly property color ink: !root.enabled ? Theme.tertiary
                                                : root.primary ? Theme.overAccent
                                                               : root.quiet ? Theme.accent : Theme.text
-    readonly property color fill: {
-        if (root.primary)
-            return !root.enabled ? Theme.track : root.down ? Theme.accentFillPressed
-                                                           : root.hovered ? Theme.accentFillHover : Theme.accentFill;
-        if (root.down || root.hovered)
-            return Theme.hover;
-        return root.quiet ? "transparent" : Theme.inset;
-    }
 
     // Whole, or its edges are blurred where it stands at the right of something.
     implicitWidth: Math.ceil(Math.max(implicitContentWidth + leftPadding + rightPadding, 72))
     implicitHeight: root.large ? Theme.mainControlHeight : Theme.controlHeight
     leftPadding: root.quiet ? 10 : 16
     rightPadding: root.quiet ? 10 : 16
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
-    Accessible.name: root.text
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    edgeWidth: root.primary || root.quiet ? 0 : 1
+    fill: {
+        if (root.primary)
+            return !root.enabled ? Theme.track : root.down ? Theme.accentFillPressed
+                                                           : root.hovered ? Theme.accentFillHover : Theme.accentFill;
+        if (root.down || root.hovered)
+            return Theme.hover;
+        return root.quiet ? Theme.clear : Theme.inset;
+    }
 
     contentItem: Item {
         implicitWidth: row.implicitWidth
@@ -44,41 +38,21 @@ T.Button {
             id: row
 
             anchors.centerIn: parent
-            spacing: 8
+            spacing: Theme.spaceS
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.symbol !== ""
                 name: root.symbol
                 colour: root.ink
-                size: 16
             }
 
-            Text {
+            BodyText {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.text
-                textFormat: Text.PlainText
                 color: root.ink
-                font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
             }
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: root.fill
-        border.width: root.primary || root.quiet ? 0 : 1
-        border.color: Theme.stroke
-
-        Behavior on color {
-            ColorAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
-
-        FocusRing {
-            shown: root.visualFocus
         }
     }
 }

@@ -6,7 +6,7 @@ import Orlen.App
 T.CheckBox {
     id: root
 
-    readonly property int side: Math.round(18 * Theme.textScale)
+    readonly property int side: Theme.grown(18)
     readonly property bool isMarked: root.checkState !== Qt.Unchecked
 
     implicitWidth: root.side + leftPadding + rightPadding

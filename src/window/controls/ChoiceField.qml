@@ -10,8 +10,8 @@ T.ComboBox {
     required property string label
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: Math.round(28 * Math.max(1, Theme.textScale * 0.9))
-    leftPadding: 10
+    implicitHeight: Theme.widened(28)
+    leftPadding: Theme.spaceS
     rightPadding: 26
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
@@ -20,12 +20,10 @@ T.ComboBox {
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()
 
-    contentItem: Text {
+    contentItem: SmallText {
         text: root.displayText
-        textFormat: Text.PlainText
         verticalAlignment: Text.AlignVCenter
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
         Accessible.ignored: true
     }
@@ -57,18 +55,16 @@ T.ComboBox {
         required property string modelData
 
         width: ListView.view ? ListView.view.width : 0
-        implicitHeight: Math.round(30 * Math.max(1, Theme.textScale * 0.9))
+        implicitHeight: Theme.widened(30)
         highlighted: root.highlightedIndex === choice.index
         text: choice.modelData
         Accessible.name: choice.modelData
 
-        contentItem: Text {
+        contentItem: SmallText {
             leftPadding: 26
             text: choice.modelData
-            textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: root.currentIndex === choice.index ? Font.DemiBold : Font.Normal
             Accessible.ignored: true
         }
@@ -92,7 +88,7 @@ T.ComboBox {
         y: root.height + 4
         width: Math.max(root.width, 112)
         implicitHeight: contentHeight + topPadding + bottomPadding
-        margins: 8
+        margins: Theme.spaceS
         padding: 4
 
         contentItem: ListView {

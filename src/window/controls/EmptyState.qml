@@ -11,7 +11,7 @@ Column {
     property string action: ""
     signal triggered
 
-    spacing: 16
+    spacing: Theme.spaceL
 
     Badge {
         anchors.horizontalCenter: parent.horizontalCenter
@@ -20,15 +20,11 @@ Column {
         size: 84
     }
 
-    Text {
+    LeadText {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(root.width, 460)
         horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.WordWrap
         text: root.text
-        textFormat: Text.PlainText
-        color: Theme.secondary
-        font.pixelSize: Theme.headlineSize
     }
 
     AppButton {

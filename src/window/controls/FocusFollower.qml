@@ -6,7 +6,6 @@ Item {
     id: root
 
     required property Flickable view
-    property int margin: Theme.pageMargin
 
     readonly property Item focused: Window.activeFocusItem
 
@@ -23,8 +22,8 @@ Item {
     }
 
     function show(item: Item) {
-        const top = item.mapToItem(root.view.contentItem, 0, 0).y - root.margin;
-        const bottom = top + item.height + 2 * root.margin;
+        const top = item.mapToItem(root.view.contentItem, 0, 0).y - Theme.pageMargin;
+        const bottom = top + item.height + 2 * Theme.pageMargin;
         const lowest = Math.max(0, root.view.contentHeight - root.view.height);
         // Of what is higher than the page, the top is shown.
         const wanted = Math.min(top, Math.max(root.view.contentY, bottom - root.view.height));

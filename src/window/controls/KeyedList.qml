@@ -1,7 +1,8 @@
 import QtQuick
+import Orlen.App
 
 /// A list that the keyboard moves in by rows and by pages, and to its ends.
-ListView {
+ScrollList {
     id: root
 
     /// Whether the pointer, not the keyboard, was last here.
@@ -12,9 +13,7 @@ ListView {
 
     keyNavigationEnabled: true
     highlightMoveDuration: 0
-    boundsBehavior: Flickable.StopAtBounds
     activeFocusOnTab: root.count > 0
-    Accessible.role: Accessible.List
 
     Keys.onPressed: event => {
         root.pointed = false;

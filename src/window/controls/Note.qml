@@ -9,27 +9,24 @@ Row {
     property string symbol: "info.circle"
     property color ink: Theme.secondary
 
-    spacing: 8
+    spacing: Theme.spaceS
 
     Symbol {
         id: sign
 
-        y: Math.max(0, (label.font.pixelSize * 1.25 - height) / 2)
+        y: Math.max(0, (label.font.pixelSize * label.lineHeight - height) / 2)
         visible: root.symbol !== ""
         name: root.symbol
         colour: root.ink
         size: 14
     }
 
-    Text {
+    Paragraph {
         id: label
 
         width: root.width - (sign.visible ? sign.width + root.spacing : 0)
         text: root.text
-        textFormat: Text.PlainText
         color: root.ink
-        wrapMode: Text.WordWrap
-        lineHeight: 1.25
         font.pixelSize: Theme.captionSize
     }
 }

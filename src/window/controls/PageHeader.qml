@@ -8,27 +8,17 @@ Column {
     required property string title
     property string subtitle: ""
 
-    spacing: 6
+    spacing: Theme.spaceXs
 
-    Text {
+    TitleText {
         width: root.width
         text: root.title
-        textFormat: Text.PlainText
-        color: Theme.text
-        elide: Text.ElideRight
-        font.pixelSize: Theme.titleSize
-        font.weight: Font.Bold
-        Accessible.role: Accessible.Heading
-        Accessible.name: root.title
     }
 
-    Text {
+    SmallText {
         width: root.width
         visible: root.subtitle !== ""
         text: root.subtitle
-        textFormat: Text.PlainText
-        color: Theme.secondary
         wrapMode: Text.WordWrap
-        font.pixelSize: Theme.smallSize
     }
 }

@@ -1,12 +1,13 @@
 import QtQuick
 import Orlen.App
 
-/// A thin bar, filled from the left.
+/// A thin bar, filled from the left or from where it is told.
 Rectangle {
     id: root
 
     /// 0 to 1
     required property real value
+    property real start: 0
     property color tone: Theme.accent
 
     implicitHeight: 4
@@ -15,17 +16,15 @@ Rectangle {
     Accessible.role: Accessible.ProgressBar
 
     Rectangle {
-        width: Math.max(root.value > 0 ? root.height : 0, Math.round(parent.width * Math.min(1, root.value)))
+        x: Math.min(root.width - width, Math.round(root.width * root.start))
+        width: Math.max(root.value > 0 ? root.height : 0, Math.round(root.width * Math.min(1, root.value)))
         height: parent.height
         radius: parent.radius
         color: root.tone
 
-        Behavior on width {
+        Spring on width {
             enabled: Theme.moves
-            SpringMotion {
-                response: 0.9
-                damping: 0.85
-            }
+            response: 0.9
         }
     }
 }

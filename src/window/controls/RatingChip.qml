@@ -14,9 +14,9 @@ Rectangle {
     readonly property color base: Theme.ratingBase(root.name)
 
     implicitWidth: row.implicitWidth + 18
-    implicitHeight: Math.round(22 * Theme.textScale)
+    implicitHeight: Theme.grown(22)
     radius: height / 2
-    color: Qt.rgba(root.base.r, root.base.g, root.base.b, Theme.chipOpacity)
+    color: Theme.tint(root.base, Theme.chipOpacity)
     visible: root.name !== ""
     Accessible.role: Accessible.StaticText
     Accessible.name: root.label
@@ -25,7 +25,7 @@ Rectangle {
         id: row
 
         anchors.centerIn: parent
-        spacing: 5
+        spacing: Theme.spaceXs
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
@@ -34,12 +34,10 @@ Rectangle {
             size: 12
         }
 
-        Text {
+        CaptionText {
             anchors.verticalCenter: parent.verticalCenter
             text: root.label
-            textFormat: Text.PlainText
             color: Theme.ratingText(root.name)
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }

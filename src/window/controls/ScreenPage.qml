@@ -1,15 +1,16 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// A screen with a header whose content scrolls when it is higher than the window.
 Item {
     id: root
 
-    property string title: ""
-    property string subtitle: ""
+    required property string title
+    required property string subtitle
     /// What the page shows below the header; as wide as the page without its margins.
     default property alias content: column.data
+    /// What stands at the right of the header.
+    property alias tools: toolRow.data
     readonly property alias contentWidth: column.width
 
     /// Scrolls as little as shows an item of the page, so that the keyboard is never out of sight.
@@ -17,35 +18,39 @@ Item {
         follower.show(item);
     }
 
-    Flickable {
-        id: flickable
+    ScrollArea {
+        id: area
 
         anchors.fill: parent
         contentHeight: column.height + 2 * Theme.pageMargin
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        activeFocusOnTab: contentHeight > height
-        Accessible.role: Accessible.Pane
-        Accessible.name: root.title
-        Keys.onUpPressed: handle.decrease()
-        Keys.onDownPressed: handle.increase()
-        T.ScrollBar.vertical: ScrollHandle {
-            id: handle
-        }
+        title: root.title
 
         Column {
             id: column
 
-            x: Theme.sideMargin(flickable.width)
+            x: Theme.sideMargin(area.width)
             y: Theme.pageMargin
-            width: flickable.width - 2 * x
-            spacing: 20
+            width: area.width - 2 * x
+            spacing: Theme.spaceXl
 
-            PageHeader {
+            Item {
                 width: parent.width
-                visible: root.title !== ""
-                title: root.title
-                subtitle: root.subtitle
+                height: header.height
+
+                PageHeader {
+                    id: header
+
+                    width: parent.width - (toolRow.width > 0 ? toolRow.width + 16 : 0)
+                    title: root.title
+                    subtitle: root.subtitle
+                }
+
+                Row {
+                    id: toolRow
+
+                    anchors.right: parent.right
+                    spacing: Theme.spaceS
+                }
             }
         }
     }
@@ -53,6 +58,6 @@ Item {
     FocusFollower {
         id: follower
 
-        view: flickable
+        view: area
     }
 }

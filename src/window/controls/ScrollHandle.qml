@@ -20,10 +20,6 @@ T.ScrollBar {
         color: root.pressed || root.hovered ? Theme.secondary : Theme.tertiary
         opacity: root.pressed || root.hovered ? 0.9 : root.active ? 0.6 : 0.35
 
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
+        Ease on opacity {}
     }
 }

@@ -1,51 +1,14 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
-/// A field that narrows a list while one types; Escape empties it.
-T.TextField {
+/// A field that narrows a list while one types.
+InputField {
     id: root
 
     implicitWidth: 220
     implicitHeight: Theme.controlHeight
     leftPadding: glass.x + glass.width + 8
     rightPadding: clear.visible ? 34 : 12
-    verticalAlignment: TextInput.AlignVCenter
-    color: Theme.text
-    placeholderTextColor: Theme.tertiary
-    selectionColor: Theme.accentFill
-    selectedTextColor: Theme.overAccent
-    selectByMouse: true
-    // Text fields have a font of the desktop's own otherwise.
-    font.family: Theme.fontFamily
-    font.pixelSize: Theme.bodySize
-    Accessible.name: root.placeholderText
-
-    Keys.onEscapePressed: event => {
-        event.accepted = root.text !== "";
-        root.clear();
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: Theme.inset
-        border.width: root.activeFocus ? 2 : 1
-        border.color: root.activeFocus ? Theme.accent : Theme.stroke
-    }
-
-    Text {
-        anchors.fill: parent
-        anchors.leftMargin: root.leftPadding
-        anchors.rightMargin: root.rightPadding
-        verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
-        visible: root.length === 0 && root.preeditText === ""
-        text: root.placeholderText
-        textFormat: Text.PlainText
-        color: root.placeholderTextColor
-        font: root.font
-        Accessible.ignored: true
-    }
 
     Symbol {
         id: glass
@@ -61,10 +24,9 @@ T.TextField {
         id: clear
 
         anchors.right: parent.right
-        anchors.rightMargin: 4
+        anchors.rightMargin: Theme.spaceXs
         anchors.verticalCenter: parent.verticalCenter
-        width: 26
-        height: 26
+        side: 26
         visible: root.length > 0
         symbol: "xmark"
         symbolSize: 12

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Two ways to show the same thing, one of them chosen.
@@ -14,51 +13,25 @@ Rectangle {
     required property int current
     signal selected(index: int)
 
-    component Segment: T.AbstractButton {
+    component Segment: IconButton {
         id: segment
 
         required property int number
-        required property string symbol
+        readonly property bool isChosen: root.current === segment.number
 
         width: height + 6
         height: Theme.controlHeight - 6
-        checkable: false
-        focusPolicy: Qt.StrongFocus
-        hoverEnabled: true
-        Accessible.name: segment.text
-        Accessible.checked: root.current === segment.number
+        symbolSize: 15
+        ink: segment.isChosen ? Theme.text : Theme.tertiary
+        fill: segment.isChosen ? Theme.raised : Theme.clear
+        edgeWidth: segment.isChosen ? 1 : 0
+        corner: Theme.controlRadius - 2
+        ringGap: 1
+        Accessible.checked: segment.isChosen
         onClicked: root.selected(segment.number)
 
-        Keys.onReturnPressed: segment.clicked()
-        Keys.onEnterPressed: segment.clicked()
         Keys.onLeftPressed: root.selected(0)
         Keys.onRightPressed: root.selected(1)
-
-        contentItem: Item {
-            Symbol {
-                anchors.centerIn: parent
-                name: segment.symbol
-                colour: root.current === segment.number || segment.hovered ? Theme.text : Theme.tertiary
-                size: 15
-            }
-        }
-
-        background: Rectangle {
-            radius: Theme.controlRadius - 2
-            color: root.current === segment.number ? Theme.raised : "transparent"
-            border.width: root.current === segment.number ? 1 : 0
-            border.color: Theme.stroke
-
-            FocusRing {
-                shown: segment.visualFocus
-                gap: 1
-            }
-        }
-
-        ToolTipBubble {
-            shown: segment.hovered
-            text: segment.text
-        }
     }
 
     implicitWidth: row.width + 6

@@ -23,10 +23,8 @@ Item {
     height: root.shown ? Math.ceil(Math.max(Theme.mainControlHeight, remark.height)) + 28 : 12
     visible: root.shown
 
-    Rectangle {
+    Divider {
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
     Note {
@@ -40,27 +38,25 @@ Item {
         ink: root.noteInk
     }
 
-    Text {
+    HeadlineText {
         id: total
 
         objectName: root.figureName
         anchors.right: buttons.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.figure
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.headlineSize
         font.weight: Font.Bold
+        Accessible.role: Accessible.StaticText
     }
 
     Row {
         id: buttons
 
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 8
+        spacing: Theme.spaceS
 
         AppButton {
             visible: root.cancel !== ""

@@ -6,65 +6,52 @@ Item {
     id: root
 
     required property string title
+    property int titleLines: 1
     property string symbol: ""
     property color tone: Theme.accent
     property ratingValue rating
     property string closeName: "closeSheet"
+    /// Stands in place of the badge.
+    property alias picture: slot.data
     default property alias lines: texts.data
     signal closeRequested
 
     // Whole, as lines of text are not always: the edge below must not lie between two rows of pixels.
-    implicitHeight: Math.ceil(Math.max(texts.height, badge.height)) + 24 + 18
+    implicitHeight: Math.ceil(Math.max(texts.height, slot.height)) + Theme.spaceXl + Theme.spaceL
 
-    Badge {
-        id: badge
+    Item {
+        id: slot
 
-        x: 24
-        y: 24
-        visible: root.symbol !== ""
-        width: root.symbol === "" ? 0 : badge.size
-        name: root.symbol
-        tone: root.tone
-        size: 44
+        x: Theme.spaceXl
+        y: Theme.spaceXl
+        width: childrenRect.width
+        height: childrenRect.height
+
+        Badge {
+            visible: root.symbol !== ""
+            width: root.symbol === "" ? 0 : size
+            name: root.symbol
+            tone: root.tone
+            size: 44
+        }
     }
 
     Column {
         id: texts
 
-        anchors.left: badge.right
-        anchors.leftMargin: root.symbol === "" ? 0 : 14
+        anchors.left: slot.right
+        anchors.leftMargin: slot.width > 0 ? 14 : 0
         anchors.right: close.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         // A title alone stands beside the button.
         y: Math.round(Math.max(22, 24 + (close.height - height) / 2))
-        spacing: 6
+        spacing: Theme.spaceXs
 
-        Item {
+        RatedTitle {
             width: parent.width
-            height: Math.max(heading.height, chip.height)
-
-            Text {
-                id: heading
-
-                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
-                text: root.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.titleSize
-                font.weight: Font.Bold
-                Accessible.role: Accessible.Heading
-                Accessible.name: root.title
-            }
-
-            RatingChip {
-                id: chip
-
-                anchors.left: heading.right
-                anchors.leftMargin: 10
-                anchors.verticalCenter: heading.verticalCenter
-                rating: root.rating
-            }
+            title: root.title
+            lines: root.titleLines
+            rating: root.rating
         }
     }
 
@@ -73,8 +60,8 @@ Item {
 
         objectName: root.closeName
         anchors.right: parent.right
-        anchors.rightMargin: 24
-        y: 24
+        anchors.rightMargin: Theme.spaceXl
+        y: Theme.spaceXl
         framed: true
         symbol: "xmark"
         text: Strings.close

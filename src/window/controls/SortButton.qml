@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One way to sort a list; pressed again it turns the order round.
-T.Button {
+Pressable {
     id: root
 
     required property bool active
@@ -11,46 +10,30 @@ T.Button {
 
     implicitWidth: label.implicitWidth + 16 + 14
     implicitHeight: Theme.controlHeight
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    ringGap: 0
     Accessible.name: Strings.sortBy.arg(root.text)
     Accessible.checkable: true
     Accessible.checked: root.active
 
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
-
     contentItem: Item {
-        Text {
+        SmallText {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
             x: 8
             text: root.text
-            textFormat: Text.PlainText
             color: root.active ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.smallSize
             font.weight: root.active ? Font.DemiBold : Font.Medium
         }
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
             anchors.left: label.right
-            anchors.leftMargin: 4
+            anchors.leftMargin: Theme.spaceXs
             visible: root.active
             name: root.reversed ? "chevron.up" : "chevron.down"
             colour: Theme.text
             size: 10
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius
-        color: root.down || root.hovered ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.visualFocus
-            gap: 0
         }
     }
 }

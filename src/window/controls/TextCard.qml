@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// A headline with a badge and what there is to say about it.
-Card {
+ColumnCard {
     id: root
 
     required property string symbol
@@ -12,57 +12,41 @@ Card {
     /// Whether the headline stands beside the badge.
     property bool beside: false
 
-    implicitHeight: column.height + 36
+    spacing: root.beside ? 10 : 8
     Accessible.role: Accessible.StaticText
     Accessible.name: root.title + ". " + root.body
 
-    Column {
-        id: column
+    Badge {
+        visible: !root.beside
+        name: root.symbol
+        tone: root.tone
+        size: 36
+    }
 
-        x: 20
-        y: 18
-        width: root.width - 40
-        spacing: root.beside ? 10 : 8
+    HeadlineText {
+        width: parent.width
+        height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
+        leftPadding: root.beside ? 44 : 0
+        topPadding: root.beside ? 0 : 4
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideNone
+        text: root.title
+        wrapMode: Text.WordWrap
+        Accessible.ignored: true
 
         Badge {
-            visible: !root.beside
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.beside
             name: root.symbol
             tone: root.tone
-            size: 36
+            size: 32
         }
+    }
 
-        Text {
-            width: parent.width
-            height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
-            leftPadding: root.beside ? 44 : 0
-            topPadding: root.beside ? 0 : 4
-            verticalAlignment: Text.AlignVCenter
-            text: root.title
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.headlineSize
-            font.weight: Font.DemiBold
-            Accessible.ignored: true
-
-            Badge {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.beside
-                name: root.symbol
-                tone: root.tone
-                size: 32
-            }
-        }
-
-        Text {
-            width: parent.width
-            text: root.body
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
-            color: Theme.secondary
-            font.pixelSize: Theme.bodySize
-            Accessible.ignored: true
-        }
+    Paragraph {
+        width: parent.width
+        text: root.body
+        font.pixelSize: Theme.bodySize
+        Accessible.ignored: true
     }
 }

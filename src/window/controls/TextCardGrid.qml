@@ -16,8 +16,8 @@ GridLayout {
     property bool beside: false
 
     columns: Math.max(1, Math.min(root.most, Math.floor((root.width + 16) / (root.narrowest * Theme.textScale + 16))))
-    columnSpacing: 16
-    rowSpacing: 16
+    columnSpacing: Theme.spaceL
+    rowSpacing: Theme.spaceL
 
     Repeater {
         model: root.texts

@@ -16,6 +16,8 @@ QtObject {
     /// What stands out of an inset: the chosen part of a switch.
     readonly property color raised: root.dark ? "#3b434f" : "#ffffff"
     readonly property color hover: root.dark ? "#2b313a" : "#e6e9ee"
+    /// No ground: what fades to the colour of hovering from plain transparent would pass through grey.
+    readonly property color clear: root.tint(root.hover, 0)
     readonly property color stroke: root.appearance.highContrast ? root.tertiary
                                                                  : (root.dark ? "#2c323b" : "#e2e5ea")
     readonly property color text: root.dark ? "#f2f4f7" : "#14171c"
@@ -27,7 +29,7 @@ QtObject {
     readonly property color accentFillPressed: root.dark ? "#3060d2" : "#1f4cbd"
     readonly property color overAccent: "#ffffff"
     readonly property color accentSoft: root.dark ? "#243252" : "#e9f0fe"
-    readonly property color scrim: root.dark ? Qt.rgba(0, 0, 0, 0.65) : Qt.rgba(16 / 255, 24 / 255, 40 / 255, 0.35)
+    readonly property color scrim: root.dark ? "#a6000000" : "#59101828"
     readonly property color track: root.dark ? "#2b313a" : "#e2e5ea"
 
     readonly property color safeText: root.dark ? "#4fd08a" : "#12713d"
@@ -38,35 +40,66 @@ QtObject {
     readonly property color keepBase: "#3478f6"
     readonly property real chipOpacity: 0.14
 
+    /// The knob of a switch that is off.
+    readonly property color knob: root.dark ? root.secondary : "#ffffff"
+
     /// Badges of texts that belong to no category.
     readonly property color welcomeTone: "#3b7bf7"
+    /// Of the screens, as the sidebar's badges.
+    readonly property color photosTone: "#ee4c86"
+    readonly property color askTone: "#9257e8"
+    readonly property color diskMapTone: "#1fa3a8"
+    readonly property color appsTone: "#5b5fe0"
+    readonly property color startupTone: "#e5484d"
+    readonly property color historyTone: "#2ea05a"
+
+    /// Of the disk map: folders and files in six hues, what is too small to show, and the texts on them.
+    readonly property list<color> mapFolders: root.dark
+            ? ["#2e5399", "#5f3e98", "#2b694c", "#90475b", "#875826", "#1d6567"]
+            : ["#a3c0f5", "#cfbaf3", "#9fdbbf", "#f4b9c9", "#f6cb92", "#99d7db"]
+    readonly property list<color> mapFiles: root.dark
+            ? ["#293e65", "#463267", "#264a39", "#623743", "#5b4125", "#1e4748"]
+            : ["#cddcf8", "#e0d4f5", "#c9e8da", "#f6d3dd", "#f9dfbd", "#c4e5e7"]
+    readonly property color mapRest: root.dark ? "#3a404a" : "#d5dae1"
+    readonly property color mapInk: root.dark ? "#ffffff" : "#14171c"
+    readonly property color mapQuietInk: root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
+
+    /// On photos, whatever they show: the texts, and what lies below them.
+    readonly property color overPhoto: "#ffffff"
+    readonly property color photoShade: "#99000000"
+    readonly property color photoEdge: root.dark ? "transparent" : "#14000000"
+    readonly property color keptFill: "#12713d"
+
     readonly property list<color> promiseTones: ["#3b7bf7", "#22ae90", "#f08a24"]
     readonly property list<color> safetyTones: ["#3b7bf7", "#22ae90", "#5b5fe0", "#f08a24", "#e5484d", "#1fa3a8"]
 
     readonly property string fontFamily: root.appearance.fontFamily
-    /// Of the screens, as the sidebar's badges.
-    readonly property color photosTone: "#ee4c86"
-    readonly property color historyTone: "#2ea05a"
-
     /// Text sizes in pixels, grown with the desktop's own.
     readonly property real textScale: root.appearance.textScale
-    readonly property int heroSize: Math.round(34 * root.textScale)
-    readonly property int titleSize: Math.round(22 * root.textScale)
-    readonly property int headlineSize: Math.round(16 * root.textScale)
-    readonly property int bodySize: Math.round(14 * root.textScale)
-    readonly property int smallSize: Math.round(13 * root.textScale)
-    readonly property int captionSize: Math.round(12 * root.textScale)
+    readonly property int heroSize: root.grown(34)
+    readonly property int titleSize: root.grown(22)
+    readonly property int headlineSize: root.grown(16)
+    readonly property int bodySize: root.grown(14)
+    readonly property int smallSize: root.grown(13)
+    readonly property int captionSize: root.grown(12)
 
+    /// Spaces between what stands side by side or below each other, and around what is in a card or on a page.
+    readonly property int spaceXs: 4
+    readonly property int spaceS: 8
+    readonly property int spaceM: 12
+    readonly property int spaceL: 16
+    readonly property int spaceXl: 24
+    readonly property int cardMargin: 20
     readonly property int pageMargin: 32
     /// What a page is wide at most; beyond it stands in the middle.
-    readonly property int contentWidth: Math.round(1320 * Math.max(1, root.textScale * 0.9))
+    readonly property int contentWidth: root.widened(1320)
     readonly property int chipRadius: 5
     readonly property int controlRadius: 8
     readonly property int cardRadius: 12
     readonly property int sheetRadius: 16
-    readonly property int controlHeight: Math.round(36 * Math.max(1, root.textScale * 0.9))
-    readonly property int mainControlHeight: Math.round(42 * Math.max(1, root.textScale * 0.9))
-    readonly property int sidebarWidth: Math.round(232 * Math.max(1, root.textScale * 0.9))
+    readonly property int controlHeight: root.widened(36)
+    readonly property int mainControlHeight: root.widened(42)
+    readonly property int sidebarWidth: root.widened(232)
 
     /// Milliseconds; 0 when the desktop asks for no motion.
     readonly property bool moves: !root.appearance.reducedMotion
@@ -74,6 +107,20 @@ QtObject {
     readonly property int screenDuration: root.moves ? 160 : 0
     readonly property int sheetInDuration: root.moves ? 140 : 0
     readonly property int sheetOutDuration: root.moves ? 120 : 0
+
+    /// A length that grows with the texts in it.
+    function grown(pixels: real): int {
+        return Math.round(pixels * root.textScale);
+    }
+
+    /// A length that grows less than the texts, beside which there is room.
+    function widened(pixels: real): int {
+        return Math.round(pixels * Math.max(1, root.textScale * 0.9));
+    }
+
+    function tint(colour: color, opacity: real): color {
+        return Qt.rgba(colour.r, colour.g, colour.b, opacity);
+    }
 
     /// Between the edge of a screen of that width and its content.
     function sideMargin(width: real): real {

@@ -12,7 +12,6 @@ T.Switch {
     hoverEnabled: true
     Accessible.name: root.text
 
-
     indicator: Rectangle {
         y: (root.height - height) / 2
         width: 42
@@ -23,11 +22,7 @@ T.Switch {
         border.color: Theme.tertiary
         opacity: root.enabled ? 1 : 0.5
 
-        Behavior on color {
-            ColorAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
+        Ease on color {}
 
         Rectangle {
             x: root.checked ? parent.width - width - 3 : 3
@@ -35,15 +30,11 @@ T.Switch {
             width: 18
             height: 18
             radius: 9
-            color: root.checked ? "#ffffff" : Theme.dark ? Theme.secondary : "#ffffff"
+            color: root.checked ? Theme.overAccent : Theme.knob
             border.width: root.checked ? 0 : 1
             border.color: Theme.tertiary
 
-            Behavior on x {
-                NumberAnimation {
-                    duration: Theme.hoverDuration
-                }
-            }
+            Ease on x {}
         }
 
         FocusRing {

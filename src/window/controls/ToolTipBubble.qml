@@ -12,17 +12,15 @@ T.ToolTip {
     x: parent ? (parent.width - implicitWidth) / 2 : 0
     visible: root.shown
     delay: 600
-    margins: 6
+    margins: Theme.spaceS
     padding: 8
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-    contentItem: Text {
+    contentItem: CaptionText {
         text: root.text
-        textFormat: Text.PlainText
         color: Theme.window
-        font.pixelSize: Theme.captionSize
     }
 
     background: Rectangle {

@@ -1,71 +1,43 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One folder of a breadcrumb, and the arrow before it.
-T.AbstractButton {
+Pressable {
     id: root
 
     required property string name
     required property int step
     required property bool isGap
     required property bool isLast
+    readonly property int arrowWidth: root.step === 0 ? 0 : 18
 
-    readonly property bool isFirst: root.step === 0
-
-    implicitWidth: arrow.width + Math.ceil(label.implicitWidth) + 2 * Theme.controlRadius
-    implicitHeight: Math.round(30 * Theme.textScale)
+    implicitWidth: root.arrowWidth + Math.ceil(label.implicitWidth) + 2 * Theme.controlRadius
+    implicitHeight: Theme.grown(30)
+    leftInset: root.arrowWidth
     enabled: !root.isLast
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    fill: root.isLast ? Theme.inset : root.hovered ? Theme.hover : Theme.clear
+    ringGap: 1
     text: root.isGap ? Strings.foldersBetween : root.name
-    Accessible.name: root.text
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Symbol {
-            id: arrow
-
             anchors.verticalCenter: parent.verticalCenter
-            width: root.isFirst ? 0 : 18
-            size: 11
-            fillMode: Image.PreserveAspectFit
-            horizontalAlignment: Image.AlignLeft
-            visible: !root.isFirst
+            visible: root.arrowWidth > 0
             name: "chevron.right"
             colour: Theme.tertiary
+            size: 11
         }
 
-        Text {
+        BodyText {
             id: label
 
-            anchors.left: arrow.right
-            anchors.leftMargin: Theme.controlRadius
+            x: root.arrowWidth + Theme.controlRadius
             anchors.verticalCenter: parent.verticalCenter
-            width: root.width - arrow.width - 2 * Theme.controlRadius
+            width: root.width - root.arrowWidth - 2 * Theme.controlRadius
             text: root.isGap ? "…" : root.text
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
             color: root.isLast ? Theme.text : Theme.accent
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
-        }
-    }
-
-    background: Item {
-        Rectangle {
-            x: arrow.width
-            width: parent.width - arrow.width
-            height: parent.height
-            radius: Theme.controlRadius
-            color: root.isLast ? Theme.inset : root.hovered ? Theme.hover : "transparent"
-
-            FocusRing {
-                shown: root.visualFocus
-                gap: 1
-            }
         }
     }
 

@@ -38,7 +38,7 @@ Item {
         id: tools
 
         anchors.right: parent.right
-        spacing: 8
+        spacing: Theme.spaceS
 
         IconButton {
             objectName: "diskMapReload"

@@ -1,27 +1,22 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The disk map as a list, largest first.
-ListView {
+ScrollList {
     id: root
 
     required property DiskMapView map
 
     objectName: "diskMapList"
     model: root.map
-    clip: true
-    topMargin: 6
-    bottomMargin: 6
-    boundsBehavior: Flickable.StopAtBounds
+    topMargin: Theme.spaceS
+    bottomMargin: Theme.spaceS
     activeFocusOnTab: true
     keyNavigationEnabled: false
     currentIndex: root.map.currentRow
     highlightFollowsCurrentItem: true
     highlightMoveDuration: 0
-    Accessible.role: Accessible.List
     Accessible.name: Strings.contentsOf.arg(root.map.folderName)
-    T.ScrollBar.vertical: ScrollHandle {}
 
     Keys.onPressed: event => {
         event.accepted = true;
@@ -32,24 +27,8 @@ ListView {
         case Qt.Key_Down:
             root.map.currentRow = Math.min(root.count - 1, root.currentIndex + 1);
             break;
-        case Qt.Key_Home:
-            root.map.currentRow = 0;
-            break;
         case Qt.Key_End:
             root.map.currentRow = root.count - 1;
-            break;
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Space:
-            root.map.open(root.currentIndex);
-            break;
-        case Qt.Key_Menu:
-            root.map.reveal(root.currentIndex);
-            break;
-        case Qt.Key_F10:
-            event.accepted = event.modifiers & Qt.ShiftModifier;
-            if (event.accepted)
-                root.map.reveal(root.currentIndex);
             break;
         default:
             event.accepted = false;

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One item of the disk map as a row of its list form.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -16,47 +16,31 @@ Item {
     signal pressed
     signal revealRequested
 
-    implicitHeight: Math.round(44 * Theme.textScale)
-    Accessible.role: Accessible.ListItem
+    implicitHeight: Theme.grown(44)
+    sideGap: 4
+    ringed: root.isCurrent
     Accessible.name: root.spoken + ", " + root.shareText
-    Accessible.focusable: true
     Accessible.selected: root.isCurrent
     Accessible.onPressAction: root.pressed()
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 4
-        anchors.rightMargin: 4
-        radius: Theme.controlRadius
-        color: pointer.containsMouse ? Theme.hover : "transparent"
-
-        FocusRing {
-            shown: root.isCurrent
-            gap: 0
-        }
-    }
 
     Symbol {
         id: icon
 
-        x: 20
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary
         size: 16
     }
 
-    Text {
+    BodyText {
         anchors.left: icon.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: bar.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
-        textFormat: Text.PlainText
         elide: Text.ElideMiddle
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         Accessible.ignored: true
     }
 
@@ -64,40 +48,35 @@ Item {
         id: bar
 
         anchors.right: percent.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(220, root.width * 0.26)
         value: root.share
         Accessible.ignored: true
     }
 
-    Text {
+    CaptionText {
         id: percent
 
         anchors.right: amount.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(46 * Theme.textScale)
+        width: Theme.grown(46)
         horizontalAlignment: Text.AlignRight
         text: root.shareText
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         Accessible.ignored: true
     }
 
-    Text {
+    SmallText {
         id: amount
 
         anchors.right: chevron.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(82 * Theme.textScale)
+        width: Theme.grown(82)
         horizontalAlignment: Text.AlignRight
         text: root.size
-        textFormat: Text.PlainText
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 
@@ -105,7 +84,7 @@ Item {
         id: chevron
 
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         opacity: root.kind === DiskMapView.Folder ? 1 : 0
         name: "chevron.right"
@@ -114,10 +93,7 @@ Item {
     }
 
     MouseArea {
-        id: pointer
-
         anchors.fill: parent
-        hoverEnabled: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         cursorShape: root.kind === DiskMapView.Folder ? Qt.PointingHandCursor : Qt.ArrowCursor
         onClicked: mouse => mouse.button === Qt.RightButton ? root.revealRequested() : root.pressed()

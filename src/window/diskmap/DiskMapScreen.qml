@@ -45,6 +45,31 @@ FocusScope {
         anchors.topMargin: bar.y + bar.height + 12
         anchors.bottomMargin: status.height + 28
 
+        // What the keys do in both forms.
+        Keys.onPressed: event => {
+            event.accepted = true;
+            switch (event.key) {
+            case Qt.Key_Home:
+                theMap.currentRow = 0;
+                break;
+            case Qt.Key_Return:
+            case Qt.Key_Enter:
+            case Qt.Key_Space:
+                theMap.open(theMap.currentRow);
+                break;
+            case Qt.Key_Menu:
+                theMap.reveal(theMap.currentRow);
+                break;
+            case Qt.Key_F10:
+                event.accepted = event.modifiers & Qt.ShiftModifier;
+                if (event.accepted)
+                    theMap.reveal(theMap.currentRow);
+                break;
+            default:
+                event.accepted = false;
+            }
+        }
+
         Rectangle {
             anchors.fill: parent
             radius: Theme.cardRadius
@@ -52,19 +77,15 @@ FocusScope {
             opacity: theMap.loading ? 1 : 0
             visible: opacity > 0
 
-            Text {
+            BodyText {
                 anchors.centerIn: parent
                 text: Strings.measuring
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.bodySize
                 Accessible.ignored: !theMap.loading
             }
 
-            Behavior on opacity {
-                NumberAnimation {
-                    duration: Theme.screenDuration
-                }
+            Ease on opacity {
+                duration: Theme.screenDuration
             }
         }
 
@@ -95,7 +116,7 @@ FocusScope {
                 anchors.centerIn: parent
                 width: parent.width - 48
                 symbol: theMap.locked ? "lock.fill" : "folder.fill"
-                tone: "#1fa3a8"
+                tone: Theme.diskMapTone
                 text: theMap.locked ? Strings.lockedMap : Strings.emptyMap
                 action: theMap.atStart ? "" : Strings.goUp
                 onTriggered: theMap.up()
@@ -103,7 +124,7 @@ FocusScope {
         }
     }
 
-    Text {
+    SmallText {
         id: status
 
         readonly property int row: theMap.hoverRow >= 0 && !root.asList ? theMap.hoverRow
@@ -112,13 +133,10 @@ FocusScope {
         objectName: "diskMapStatus"
         x: Theme.pageMargin
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 16
+        anchors.bottomMargin: Theme.spaceL
         width: root.width - 2 * Theme.pageMargin
         text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
-        textFormat: Text.PlainText
         elide: Text.ElideMiddle
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
     }
 
     Shortcut {

@@ -38,22 +38,6 @@ T.Control {
         case Qt.Key_Down:
             root.map.step(DiskMapView.Down);
             break;
-        case Qt.Key_Home:
-            root.map.currentRow = 0;
-            break;
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Space:
-            root.map.open(root.map.currentRow);
-            break;
-        case Qt.Key_Menu:
-            root.map.reveal(root.map.currentRow);
-            break;
-        case Qt.Key_F10:
-            event.accepted = event.modifiers & Qt.ShiftModifier;
-            if (event.accepted)
-                root.map.reveal(root.map.currentRow);
-            break;
         default:
             event.accepted = false;
         }

@@ -3,7 +3,7 @@ import Orlen.App
 
 /// One file or folder of a list: check box, picture, name and place, note, advice, size and date, and what can
 /// be done with it while the pointer or the keyboard is on it.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -17,8 +17,6 @@ Item {
     property int checkState: Qt.Unchecked
     property bool checkable: true
     property bool isCurrent: false
-    /// Whether the keyboard is on this row.
-    property bool showsFocus: false
     /// Room at the left for rows that belong to a heading.
     property int indent: 0
     signal toggled
@@ -33,25 +31,10 @@ Item {
     Accessible.selected: root.isCurrent
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
-        anchors.topMargin: 1
-        anchors.bottomMargin: 1
-        radius: Theme.controlRadius
-        color: root.isCurrent ? Theme.accentSoft : hover.hovered ? Theme.inset : "transparent"
-
-        FocusRing {
-            shown: root.showsFocus
-            gap: 0
-        }
-    }
-
-    HoverHandler {
-        id: hover
-    }
+    fill: root.isCurrent ? Theme.accentSoft : root.hovered ? Theme.inset : "transparent"
+    sideGap: 12
+    topGap: 1
+    bottomGap: 1
 
     TapHandler {
         onPressedChanged: if (pressed) root.pressed()
@@ -81,61 +64,28 @@ Item {
         thumbnail: root.thumbnail
     }
 
-    Column {
+    RowTexts {
         anchors.left: picture.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: actions.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        Text {
-            width: parent.width
-            text: root.name
-            textFormat: Text.PlainText
-            elide: Text.ElideMiddle
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
-            font.weight: Font.Medium
-            Accessible.ignored: true
-        }
-
-        Text {
-            width: parent.width
-            text: root.folder
-            textFormat: Text.PlainText
-            elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
-            Accessible.ignored: true
-        }
-
-        Text {
-            width: parent.width
-            visible: root.note !== ""
-            text: root.note
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.secondary
-            font.pixelSize: Theme.captionSize
-            Accessible.ignored: true
-        }
+        name: root.name
+        place: root.folder
+        note: root.note
     }
 
     Row {
         id: actions
 
-        readonly property bool isWanted: hover.hovered || root.isCurrent
-
         anchors.right: chip.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
+        opacity: root.hovered || root.isCurrent ? 1 : 0
 
         IconButton {
             objectName: "look"
-            width: 32
-            height: 32
-            opacity: actions.isWanted ? 1 : 0
+            side: 32
             focusPolicy: Qt.NoFocus
             symbol: "eye"
             text: Strings.preview
@@ -143,9 +93,7 @@ Item {
         }
 
         IconButton {
-            width: 32
-            height: 32
-            opacity: actions.isWanted ? 1 : 0
+            side: 32
             focusPolicy: Qt.NoFocus
             symbol: "reveal"
             text: Strings.reveal
@@ -157,9 +105,9 @@ Item {
         id: chip
 
         anchors.right: figures.left
-        anchors.rightMargin: 8
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(82 * Theme.textScale)
+        width: Theme.grown(82)
         height: 22
 
         RatingChip {
@@ -174,31 +122,24 @@ Item {
         id: figures
 
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.spaceXl
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(136 * Theme.textScale)
+        width: Theme.grown(136)
         spacing: 2
 
-        Text {
+        BodyText {
             width: parent.width
             horizontalAlignment: Text.AlignRight
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             visible: root.date !== ""
             horizontalAlignment: Text.AlignRight
             text: root.date
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
     }

@@ -44,11 +44,7 @@ Item {
         source: root.thumbnail
         opacity: picture.hasPixels ? 1 : 0
 
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
+        Ease on opacity {}
     }
 
     Rectangle {

@@ -47,7 +47,7 @@ Rectangle {
         Keys.onReturnPressed: root.entries.toggleShown()
     }
 
-    Text {
+    SmallText {
         id: label
 
         objectName: "selectedText"
@@ -55,10 +55,7 @@ Rectangle {
         x: all.visible ? all.x + all.width + 8 : 24
         width: Math.min(implicitWidth, root.width - x - 16)
         text: root.entries.selectedText
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: Theme.text
-        font.pixelSize: Theme.smallSize
         font.weight: Font.DemiBold
         Accessible.role: Accessible.StaticText
         Accessible.name: text
@@ -70,21 +67,16 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8
+        anchors.bottomMargin: Theme.spaceS
         spacing: 2
 
         SearchField {
             id: filter
 
             objectName: "entryFilter"
-            width: Math.round(170 * Math.max(1, Theme.textScale * 0.9))
+            width: Theme.widened(170)
             placeholderText: Strings.filter
-            background: Rectangle {
-                radius: Theme.controlRadius
-                color: Theme.card
-                border.width: filter.activeFocus ? 2 : 1
-                border.color: filter.activeFocus ? Theme.accent : Theme.stroke
-            }
+            fill: Theme.card
             onTextChanged: root.entries.filter = text
         }
 

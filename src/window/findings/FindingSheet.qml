@@ -19,8 +19,8 @@ Sheet {
 
     objectName: "findingSheet"
     title: contents.header.title
-    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
-    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(820)
+    wantedHeight: Theme.widened(680)
 
     onWantedIdChanged: if (root.wantedId !== "") contents.findingId = root.wantedId
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
@@ -51,15 +51,17 @@ Sheet {
         rating: contents.header.rating
         onCloseRequested: root.close()
 
-        SheetText {
+        Paragraph {
             width: parent.width
             text: contents.header.explanation
+            maximumLineCount: 3
         }
 
-        SheetText {
+        Paragraph {
             width: parent.width
             visible: text !== ""
             text: contents.header.reason
+            maximumLineCount: 3
             color: Theme.tertiary
         }
     }
@@ -79,9 +81,9 @@ Sheet {
         anchors.top: bar.bottom
         anchors.bottom: footer.top
         width: parent.width
-        topMargin: 6
-        bottomMargin: 6
-        rowHeight: Math.round((contents.hasNotes ? 68 : 56) * Theme.textScale)
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceS
+        rowHeight: Theme.grown(contents.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: contents
         Accessible.name: contents.header.title
@@ -99,7 +101,7 @@ Sheet {
             checkable: contents.header.cleanable
             checkState: marked ? Qt.Checked : Qt.Unchecked
             isCurrent: list.currentIndex === index && list.activeFocus
-            showsFocus: isCurrent && list.showsFocus
+            ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(index)
             onToggled: contents.toggle(index)
             onPreviewRequested: root.preview(index)

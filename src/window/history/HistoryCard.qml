@@ -30,11 +30,7 @@ Card {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.title + ", " + root.date + ", " + root.summary + ", " + root.freed
 
-    Behavior on border.color {
-        ColorAnimation {
-            duration: Theme.hoverDuration
-        }
-    }
+    Ease on border.color {}
 
     FocusRing {
         shown: root.ringed
@@ -59,7 +55,7 @@ Card {
         Badge {
             id: badge
 
-            x: 18
+            x: Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
@@ -70,32 +66,23 @@ Card {
             id: labels
 
             anchors.left: badge.right
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.spaceM
             anchors.right: trailing.left
-            anchors.rightMargin: 16
+            anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: Theme.spaceXs
 
-            Text {
+            HeadlineText {
                 width: parent.width
                 text: root.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
-                font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
 
-            Text {
+            SmallText {
                 width: parent.width
                 text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
-                textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
-                elide: Text.ElideRight
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
                 Accessible.ignored: true
             }
         }
@@ -104,18 +91,15 @@ Card {
             id: trailing
 
             anchors.right: parent.right
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 8
+            spacing: Theme.spaceS
 
-            Text {
+            HeadlineText {
                 anchors.verticalCenter: parent.verticalCenter
-                rightPadding: 12
+                rightPadding: Theme.spaceM
                 visible: !root.isNarrow
                 text: root.freed
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
                 font.weight: Font.Bold
                 Accessible.ignored: true
             }
@@ -124,7 +108,7 @@ Card {
                 id: restore
 
                 objectName: "restoreButton"
-                width: Math.max(implicitWidth, Math.round(112 * Theme.textScale))
+                width: Math.max(implicitWidth, Theme.grown(112))
                 quiet: root.status === HistoryModel.Restored
                 enabled: root.writable && root.status === HistoryModel.Restorable
                 symbol: root.status === HistoryModel.Restored ? "checkmark" : ""
@@ -145,10 +129,8 @@ Card {
                 focusPolicy: root.tabPolicy
                 onClicked: root.toggled()
 
-                Behavior on rotation {
-                    NumberAnimation {
-                        duration: Theme.screenDuration
-                    }
+                Ease on rotation {
+                    duration: Theme.screenDuration
                 }
             }
         }
@@ -162,11 +144,8 @@ Card {
         height: root.open ? loader.height : 0
         clip: true
 
-        Behavior on height {
-            NumberAnimation {
-                duration: Theme.screenDuration
-                easing.type: Easing.OutCubic
-            }
+        Ease on height {
+            duration: Theme.screenDuration
         }
 
         Loader {

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One item of a past clean-up.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -12,7 +12,6 @@ Item {
     required property string statusText
 
     property bool isNarrow: false
-    property bool ringed: false
 
     readonly property bool isRestored: root.status === RecordItemsModel.Restored
     readonly property color statusInk: root.isRestored ? Theme.safeText
@@ -20,91 +19,43 @@ Item {
 
     signal revealRequested
 
-    Accessible.role: Accessible.ListItem
+    fill: root.hovered ? Theme.inset : "transparent"
     Accessible.name: root.name + ", " + root.folder + ", " + root.size + ", " + root.statusText
 
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: hover.hovered ? Theme.inset : "transparent"
-
-        FocusRing {
-            shown: root.ringed
-            gap: -2
-        }
-    }
-
-    HoverHandler {
-        id: hover
-    }
-
-    Column {
+    RowTexts {
         anchors.left: parent.left
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: trailing.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        Text {
-            width: parent.width
-            text: root.name
-            textFormat: Text.PlainText
-            elide: Text.ElideMiddle
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
-            font.weight: Font.Medium
-            Accessible.ignored: true
-        }
-
-        Text {
-            width: parent.width
-            text: root.folder
-            textFormat: Text.PlainText
-            elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
-            Accessible.ignored: true
-        }
-
-        Text {
-            width: parent.width
-            visible: root.isNarrow
-            text: root.statusText
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: root.statusInk
-            font.pixelSize: Theme.captionSize
-            Accessible.ignored: true
-        }
+        name: root.name
+        place: root.folder
+        note: root.isNarrow ? root.statusText : ""
+        noteInk: root.statusInk
     }
 
     Row {
         id: trailing
 
         anchors.right: parent.right
-        anchors.rightMargin: 6
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 10
+        spacing: Theme.spaceS
 
-        Text {
+        CaptionText {
             anchors.verticalCenter: parent.verticalCenter
             visible: !root.isNarrow
             text: root.statusText
-            textFormat: Text.PlainText
             color: root.statusInk
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        SmallText {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.round(78 * Theme.textScale)
+            width: Theme.grown(78)
             horizontalAlignment: Text.AlignRight
             text: root.size
-            textFormat: Text.PlainText
             color: Theme.text
-            font.pixelSize: Theme.smallSize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
@@ -116,8 +67,7 @@ Item {
             IconButton {
                 id: reveal
 
-                width: 32
-                height: 32
+                side: 32
                 visible: root.isRestored
                 symbol: "reveal"
                 text: Strings.reveal

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import QtQuick.Window
 import Orlen.App
 
@@ -11,7 +10,7 @@ Item {
     required property string title
     property bool isNarrow: false
 
-    readonly property int rowHeight: Math.round((root.isNarrow ? 64 : 48) * Theme.textScale)
+    readonly property int rowHeight: Theme.grown(root.isNarrow ? 64 : 48)
     /// The half row tells that there is more.
     readonly property real rowsShown: Math.min(items.count, 6.5)
 
@@ -23,31 +22,25 @@ Item {
         recordId: root.recordId
     }
 
-    Rectangle {
-        x: 18
-        width: parent.width - 36
-        height: 1
-        color: Theme.stroke
+    Divider {
+        x: Theme.cardMargin
+        width: parent.width - 2 * Theme.cardMargin
     }
 
-    ListView {
+    ScrollList {
         id: list
 
         objectName: "recordItems"
         anchors.fill: parent
-        anchors.topMargin: 9
-        anchors.bottomMargin: 8
-        anchors.leftMargin: 6
-        anchors.rightMargin: 8
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
+        anchors.topMargin: Theme.spaceS
+        anchors.bottomMargin: Theme.spaceS
+        anchors.leftMargin: Theme.spaceS
+        anchors.rightMargin: Theme.spaceS
         reuseItems: true
         activeFocusOnTab: true
         highlightMoveDuration: 0
         model: items
-        Accessible.role: Accessible.List
         Accessible.name: Strings.itemsOf.arg(root.title)
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Keys.onReturnPressed: items.reveal(list.currentIndex)
         Keys.onEnterPressed: items.reveal(list.currentIndex)

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import QtQuick.Window
 import Orlen.App
 
@@ -18,7 +17,7 @@ Item {
         onRestored: message => root.notices.say(message)
     }
 
-    ListView {
+    ScrollList {
         id: list
 
         objectName: "historyList"
@@ -26,21 +25,17 @@ Item {
         anchors.leftMargin: root.sideMargin
         topMargin: Theme.pageMargin
         bottomMargin: Theme.pageMargin
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        spacing: 12
+        spacing: Theme.spaceM
         model: history
         currentIndex: 0
         highlightMoveDuration: Theme.hoverDuration
         activeFocusOnTab: history.count > 0
-        Accessible.role: Accessible.List
         Accessible.name: Strings.pastCleanUps
-        T.ScrollBar.vertical: ScrollHandle {}
 
         header: Column {
             width: list.width - root.sideMargin
-            bottomPadding: 20
-            spacing: 14
+            bottomPadding: Theme.spaceXl
+            spacing: Theme.spaceM
 
             PageHeader {
                 width: parent.width

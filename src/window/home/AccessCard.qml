@@ -12,42 +12,33 @@ Card {
 
     property bool isCommandShown: false
     readonly property bool besides: root.width > 640 * Theme.textScale
+    readonly property real contentHeight: root.besides ? Math.max(words.height, buttons.height)
+                                                       : words.height + Theme.spaceL + buttons.height
 
-    implicitHeight: (root.besides ? Math.max(words.height, buttons.height) : words.height + 16 + buttons.height) + 40
+    implicitHeight: root.contentHeight + 2 * Theme.cardMargin
 
     Column {
         id: words
 
-        x: 20
-        y: root.besides ? Math.round((root.height - height) / 2) : 20
-        width: root.width - 40 - (root.besides ? buttons.width + 32 : 0)
-        spacing: 6
+        x: Theme.cardMargin
+        y: root.besides ? Math.round((root.height - height) / 2) : Theme.cardMargin
+        width: root.width - 2 * Theme.cardMargin - (root.besides ? buttons.width + 32 : 0)
+        spacing: Theme.spaceXs
 
-        Text {
+        HeadlineText {
             width: parent.width
             text: Strings.accessTitle
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.headlineSize
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             text: Strings.accessBody
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
         Note {
             width: parent.width
-            topPadding: 4
+            topPadding: Theme.spaceXs
             visible: root.access.granted
             symbol: "checkmark.circle.fill"
             ink: Theme.safeText
@@ -57,7 +48,7 @@ Card {
         Row {
             width: parent.width
             visible: root.isCommandShown
-            spacing: 8
+            spacing: Theme.spaceS
 
             Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
@@ -66,18 +57,16 @@ Card {
                 radius: 6
                 color: Theme.inset
 
-                Text {
+                CaptionText {
                     id: command
 
                     x: 10
                     anchors.verticalCenter: parent.verticalCenter
                     width: parent.width - 20
                     text: root.access.command
-                    textFormat: Text.PlainText
                     wrapMode: Text.WrapAnywhere
                     color: Theme.text
                     font.family: "monospace"
-                    font.pixelSize: Theme.captionSize
                 }
             }
 
@@ -91,13 +80,10 @@ Card {
             }
         }
 
-        Text {
+        Paragraph {
             width: parent.width
             visible: !root.access.granted
             text: Strings.accessHint
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            lineHeight: 1.25
             color: Theme.tertiary
             font.pixelSize: Theme.captionSize
         }
@@ -107,10 +93,10 @@ Card {
         id: buttons
 
         anchors.right: root.besides ? parent.right : undefined
-        anchors.rightMargin: 20
-        x: 20
-        y: root.besides ? Math.round((root.height - height) / 2) : root.height - height - 20
-        spacing: 10
+        anchors.rightMargin: Theme.cardMargin
+        x: Theme.cardMargin
+        y: root.besides ? Math.round((root.height - height) / 2) : root.height - height - Theme.cardMargin
+        spacing: Theme.spaceS
 
         AppButton {
             id: settings

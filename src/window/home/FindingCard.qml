@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// One finding: what it is, how much it holds, how it is rated, how much of it is selected.
-T.AbstractButton {
+Pressable {
     id: root
 
     required property string findingId
@@ -18,14 +17,13 @@ T.AbstractButton {
 
     readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
 
-    implicitHeight: Math.round(92 * Theme.textScale) + 40
-    focusPolicy: Qt.StrongFocus
-    hoverEnabled: true
+    implicitHeight: Theme.grown(92) + 40
+    fill: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
+    edge: root.hovered ? Theme.accent : Theme.stroke
+    edgeWidth: 1
+    corner: Theme.cardRadius
     text: root.title
     Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.rating.label
-
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     contentItem: Item {
         Badge {
@@ -38,59 +36,48 @@ T.AbstractButton {
 
         RatingChip {
             anchors.right: parent.right
-            anchors.rightMargin: 14
+            anchors.rightMargin: Theme.spaceM
             y: 16
             rating: root.rating
             Accessible.ignored: true
         }
 
-        Text {
+        BodyText {
             id: name
 
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.margins: 16
+            anchors.margins: Theme.spaceL
             anchors.bottom: figure.top
-            anchors.bottomMargin: 3
+            anchors.bottomMargin: Theme.spaceXs
             text: root.title
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             maximumLineCount: 2
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        TitleText {
             id: figure
 
             x: 16
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 15
+            anchors.bottomMargin: Theme.spaceL
             text: root.size
-            textFormat: Text.PlainText
             color: root.cleanable ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.titleSize
-            font.weight: Font.Bold
-            font.letterSpacing: -0.3
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             anchors.left: figure.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: parent.right
-            anchors.rightMargin: 16
+            anchors.rightMargin: Theme.spaceL
             anchors.baseline: figure.baseline
             horizontalAlignment: Text.AlignRight
             // The word goes where it would be cut off; the colour and the sign say it too.
             text: root.selected === "" || wording.advanceWidth < width ? root.amount : "✓ " + root.selected
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: root.selected === "" ? Theme.tertiary : Theme.accent
-            font.pixelSize: Theme.captionSize
             font.weight: root.selected === "" ? Font.Normal : Font.DemiBold
             Accessible.ignored: true
 
@@ -102,24 +89,6 @@ T.AbstractButton {
                 font.weight: Font.DemiBold
                 text: root.amount
             }
-        }
-    }
-
-    background: Rectangle {
-        radius: Theme.cardRadius
-        color: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
-        border.width: 1
-        border.color: root.hovered ? Theme.accent : Theme.stroke
-
-        Behavior on border.color {
-            ColorAnimation {
-                duration: Theme.hoverDuration
-            }
-        }
-
-        FocusRing {
-            shown: root.visualFocus
-            shape: Theme.cardRadius
         }
     }
 }

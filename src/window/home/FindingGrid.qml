@@ -13,7 +13,7 @@ Grid {
     property int current: 0
 
     columns: Math.max(1, Math.min(4, Math.floor((root.width + root.spacing) / (220 * Theme.textScale + root.spacing))))
-    spacing: 16
+    spacing: Theme.spaceL
     Accessible.role: Accessible.List
     Accessible.name: Strings.findings
 

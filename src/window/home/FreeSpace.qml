@@ -18,29 +18,22 @@ Column {
         size: root.large ? 44 : 28
     }
 
-    Text {
+    FittingText {
         width: parent.width
         visible: root.storage.ready
-        horizontalAlignment: Text.AlignHCenter
         text: root.storage.freeText
-        textFormat: Text.PlainText
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
-        color: Theme.text
-        font.pixelSize: Math.max(12, Math.min(root.large ? Theme.heroSize : Theme.titleSize, root.width * 0.22))
+        most: root.large ? Theme.heroSize : Theme.titleSize
+        share: 0.22
         font.weight: Font.Bold
         font.letterSpacing: root.large ? -0.8 : -0.3
     }
 
-    Text {
+    FittingText {
         width: parent.width
         visible: root.storage.ready
-        horizontalAlignment: Text.AlignHCenter
         text: Strings.freeOf.arg(root.storage.totalText)
-        textFormat: Text.PlainText
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
+        most: root.large ? Theme.bodySize : Theme.captionSize
+        share: 0.125
         color: Theme.secondary
-        font.pixelSize: Math.max(10, Math.min(root.large ? Theme.bodySize : Theme.captionSize, root.width * 0.125))
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Smart Scan before a scan: the storage as a ring, and the button that starts one.
@@ -13,14 +12,11 @@ Item {
     readonly property alias ringSlot: slot
     readonly property alias mainButton: start
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Item {
             id: page
@@ -64,31 +60,22 @@ Item {
                         room: parent.width
                     }
 
-                    Text {
+                    SmallText {
                         id: looking
 
                         anchors.centerIn: parent
                         visible: !root.storage.ready
                         text: Strings.lookingAtStorage
-                        textFormat: Text.PlainText
                         color: Theme.tertiary
-                        font.pixelSize: Theme.smallSize
                     }
                 }
 
-                Text {
+                TitleText {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.homeLead
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.text
-                    font.pixelSize: Theme.titleSize
-                    font.weight: Font.Bold
-                    font.letterSpacing: -0.3
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
                 }
 
                 Item {
@@ -103,8 +90,8 @@ Item {
                     anchors.horizontalCenter: parent.horizontalCenter
                     primary: true
                     large: true
-                    leftPadding: 24
-                    rightPadding: 24
+                    leftPadding: Theme.spaceXl
+                    rightPadding: Theme.spaceXl
                     symbol: "sparkles"
                     text: Strings.startScan
                     onClicked: AppModel.results.startScan()
@@ -117,14 +104,11 @@ Item {
 
                 Row {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    spacing: 8
+                    spacing: Theme.spaceS
 
-                    Text {
+                    SmallText {
                         anchors.verticalCenter: parent.verticalCenter
                         text: Strings.largeFilesFrom
-                        textFormat: Text.PlainText
-                        color: Theme.secondary
-                        font.pixelSize: Theme.smallSize
                         Accessible.ignored: true
                     }
 
@@ -149,18 +133,15 @@ Item {
                 }
             }
 
-            Text {
+            Paragraph {
                 id: footer
 
                 anchors.horizontalCenter: parent.horizontalCenter
                 anchors.bottom: parent.bottom
-                anchors.bottomMargin: 24
+                anchors.bottomMargin: Theme.spaceXl
                 width: Math.min(parent.width - 2 * Theme.pageMargin, 760 * Theme.textScale)
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.homeFooter
-                textFormat: Text.PlainText
-                wrapMode: Text.WordWrap
-                lineHeight: 1.25
                 color: Theme.tertiary
                 font.pixelSize: Theme.captionSize
             }

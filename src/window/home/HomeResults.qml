@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Smart Scan after a scan: what can be freed, and a card for each finding.
@@ -14,14 +13,11 @@ Item {
     readonly property alias ringSlot: header.ringSlot
     readonly property alias mainButton: header.mainButton
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height + 2 * Theme.pageMargin
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Column {
             id: page
@@ -29,7 +25,7 @@ Item {
             x: Theme.sideMargin(flickable.width)
             y: Theme.pageMargin
             width: flickable.width - 2 * x
-            spacing: 24
+            spacing: Theme.spaceXl
 
             HomeResultsHeader {
                 id: header
@@ -61,7 +57,7 @@ Item {
 
             Column {
                 width: parent.width
-                spacing: 8
+                spacing: Theme.spaceS
 
                 Note {
                     width: Math.min(parent.width, 760 * Theme.textScale)

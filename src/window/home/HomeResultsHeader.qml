@@ -37,27 +37,19 @@ Item {
         y: Math.max(0, Math.round((slot.height - height) / 2))
         spacing: 0
 
-        Text {
+        TitleText {
             objectName: "heroSentence"
             width: parent.width
             text: root.home.hasSafe ? Strings.safelyFree.arg(root.home.safeText) : Strings.nothingSafe
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
             font.pixelSize: root.narrow ? Theme.titleSize : Theme.heroSize
-            font.weight: Font.Bold
             font.letterSpacing: root.narrow ? -0.3 : -1
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
 
-        Text {
+        LeadText {
             width: parent.width
-            topPadding: 4
+            topPadding: Theme.spaceXs
             text: Strings.reviewInTotal.arg(root.home.totalText)
-            textFormat: Text.PlainText
-            wrapMode: Text.WordWrap
-            color: Theme.secondary
             font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
         }
 
@@ -68,7 +60,7 @@ Item {
 
         Flow {
             width: parent.width
-            spacing: 10
+            spacing: Theme.spaceS
 
             AppButton {
                 id: review
@@ -89,15 +81,12 @@ Item {
                 onClicked: AppModel.results.startScan()
             }
 
-            Text {
+            CaptionText {
                 height: Theme.controlHeight
-                leftPadding: 4
+                leftPadding: Theme.spaceXs
                 verticalAlignment: Text.AlignVCenter
                 visible: root.home.hasFindings && !root.narrow
                 text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
             }
         }
 

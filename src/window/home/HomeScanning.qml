@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// Smart Scan during a scan: its steps, what it is looking at, and the way to end it.
@@ -14,14 +13,11 @@ Item {
         id: progress
     }
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Item {
             id: page
@@ -36,7 +32,7 @@ Item {
 
                 x: Math.round((page.width - page.inner) / 2)
                 y: Math.round((flickable.height - height) / 2)
-                spacing: 24
+                spacing: Theme.spaceXl
 
                 Item {
                     id: slot
@@ -50,30 +46,23 @@ Item {
                         Accessible.role: Accessible.StaticText
                         Accessible.name: Strings.filesExamined.arg(progress.files)
 
-                        Text {
+                        FittingText {
                             objectName: "filesExamined"
                             width: parent.width
-                            horizontalAlignment: Text.AlignHCenter
                             text: progress.files
-                            textFormat: Text.PlainText
-                            fontSizeMode: Text.HorizontalFit
-                            minimumPixelSize: 12
-                            color: Theme.text
-                            font.pixelSize: Math.max(12, Math.min(Theme.titleSize + 6, parent.width * 0.2))
+                            most: Theme.titleSize + 6
+                            share: 0.2
                             font.weight: Font.Bold
                             font.letterSpacing: -0.5
                             Accessible.ignored: true
                         }
 
-                        Text {
+                        FittingText {
                             width: parent.width
-                            horizontalAlignment: Text.AlignHCenter
                             text: Strings.filesExaminedBelow
-                            textFormat: Text.PlainText
-                            fontSizeMode: Text.HorizontalFit
-                            minimumPixelSize: 10
+                            most: Theme.smallSize
+                            share: 0.12
                             color: Theme.secondary
-                            font.pixelSize: Math.max(10, Math.min(Theme.smallSize, parent.width * 0.12))
                             Accessible.ignored: true
                         }
                     }
@@ -98,19 +87,12 @@ Item {
                 anchors.leftMargin: Math.round(page.inner * 0.07)
                 width: Math.round(page.inner * 0.93 - slot.width)
                 y: Math.max(24, Math.round((page.height - height) / 2))
-                spacing: 14
+                spacing: Theme.spaceM
 
-                Text {
+                TitleText {
                     width: parent.width
                     text: progress.cancelling ? Strings.cancellingScan : Strings.scanning
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.text
-                    font.pixelSize: Theme.titleSize
-                    font.weight: Font.Bold
-                    font.letterSpacing: -0.3
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
                 }
 
                 Card {
@@ -137,14 +119,11 @@ Item {
                     }
                 }
 
-                Text {
+                CaptionText {
                     objectName: "currentPath"
                     width: parent.width
                     text: progress.cancelling ? Strings.nothingChanged : progress.current
-                    textFormat: Text.PlainText
                     elide: Text.ElideMiddle
-                    color: Theme.tertiary
-                    font.pixelSize: Theme.captionSize
                 }
 
                 Note {

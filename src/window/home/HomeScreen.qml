@@ -10,7 +10,8 @@ FocusScope {
 
     readonly property alias home: theHome
 
-    state: root.home.phase === HomeModel.Scanning ? "scanning" : root.home.phase === HomeModel.Results ? "results" : "idle"
+    state: root.home.phase === HomeModel.Scanning ? "scanning"
+           : root.home.phase === HomeModel.Results ? "results" : "idle"
 
     HomeModel {
         id: theHome

@@ -12,10 +12,11 @@ Item {
     readonly property bool isRunning: root.state === ScanProgressModel.Running
     readonly property bool isDone: root.state === ScanProgressModel.Done
 
-    implicitHeight: Math.round(32 * Theme.textScale)
+    implicitHeight: Theme.grown(32)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label
-    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration) : root.isRunning ? Strings.stepRunning : Strings.stepPending
+    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration)
+                            : root.isRunning ? Strings.stepRunning : Strings.stepPending
 
     Item {
         id: mark
@@ -74,30 +75,24 @@ Item {
         }
     }
 
-    Text {
+    BodyText {
         anchors.left: mark.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: time.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.isRunning || root.isDone ? Theme.text : Theme.tertiary
-        font.pixelSize: Theme.bodySize
         font.weight: root.isRunning ? Font.DemiBold : Font.Medium
         Accessible.ignored: true
     }
 
-    Text {
+    CaptionText {
         id: time
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         text: root.duration
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         Accessible.ignored: true
     }
 }

@@ -10,11 +10,13 @@ Grid {
     required property real room
 
     readonly property real narrowest: 140 * Theme.textScale
-    readonly property int cellWidth: Math.min(Math.floor((root.room - (root.columns - 1) * root.columnSpacing) / root.columns), Math.round(168 * Theme.textScale))
+    readonly property real roomForCells: root.room - (root.columns - 1) * root.columnSpacing
+    readonly property int cellWidth: Math.min(Math.floor(root.roomForCells / root.columns), Theme.grown(168))
 
-    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing) / (root.narrowest + root.columnSpacing))))
-    columnSpacing: 4
-    rowSpacing: 8
+    columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing)
+                                                / (root.narrowest + root.columnSpacing))))
+    columnSpacing: Theme.spaceXs
+    rowSpacing: Theme.spaceS
     Accessible.role: Accessible.List
     Accessible.name: Strings.usedSpace
 
@@ -41,26 +43,21 @@ Grid {
                 color: row.colour
             }
 
-            Text {
+            CaptionText {
                 id: name
 
                 x: 16
                 text: row.label
-                textFormat: Text.PlainText
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
                 Accessible.ignored: true
             }
 
-            Text {
+            CaptionText {
                 anchors.left: name.right
-                anchors.leftMargin: 6
+                anchors.leftMargin: Theme.spaceS
                 anchors.right: parent.right
                 text: row.size
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 color: Theme.text
-                font.pixelSize: Theme.captionSize
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }

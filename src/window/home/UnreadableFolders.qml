@@ -11,7 +11,7 @@ Column {
 
     property bool open: false
 
-    spacing: 4
+    spacing: Theme.spaceXs
 
     Note {
         width: parent.width
@@ -26,15 +26,13 @@ Column {
         onClicked: root.open = !root.open
     }
 
-    Text {
+    CaptionText {
         objectName: "unreadableFolders"
         leftPadding: 22
         width: parent.width
         visible: root.open
         text: root.folders
-        textFormat: Text.PlainText
         wrapMode: Text.WrapAnywhere
         color: Theme.secondary
-        font.pixelSize: Theme.captionSize
     }
 }

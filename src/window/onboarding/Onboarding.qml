@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// What a new user sees once: what the program is, what it promises, what it may see.
@@ -12,14 +11,11 @@ Item {
         id: access
     }
 
-    Flickable {
+    ScrollArea {
         id: flickable
 
         anchors.fill: parent
         contentHeight: page.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Item {
             id: page
@@ -42,31 +38,22 @@ Item {
                     size: root.height < 660 ? 56 : 72
                 }
 
-                Text {
+                TitleText {
                     width: parent.width
-                    topPadding: 14
+                    topPadding: Theme.spaceM
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeTitle
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.text
                     font.pixelSize: Theme.heroSize
-                    font.weight: Font.Bold
                     font.letterSpacing: -1
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
                 }
 
-                Text {
+                LeadText {
                     width: parent.width
-                    topPadding: 4
-                    bottomPadding: root.height < 660 ? 18 : 28
+                    topPadding: Theme.spaceXs
+                    bottomPadding: root.height < 660 ? Theme.spaceL : Theme.spaceXl
                     horizontalAlignment: Text.AlignHCenter
                     text: Strings.welcomeSubtitle
-                    textFormat: Text.PlainText
-                    wrapMode: Text.WordWrap
-                    color: Theme.secondary
-                    font.pixelSize: Theme.headlineSize
                 }
 
                 TextCardGrid {

@@ -12,7 +12,8 @@ GridView {
     /// What the photos lie on.
     property color ground: Theme.card
 
-    readonly property int columns: Math.max(3, Math.floor(root.width / (root.tileSize * Math.min(1.25, Theme.textScale))))
+    readonly property real wantedWidth: root.tileSize * Math.min(1.25, Theme.textScale)
+    readonly property int columns: Math.max(3, Math.floor(root.width / root.wantedWidth))
     /// The ring is for the keyboard alone.
     property bool isKeyed: false
 

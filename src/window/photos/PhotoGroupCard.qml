@@ -8,7 +8,6 @@ Card {
     required property PhotoGroupsModel groups
     required property string findingId
     required property string title
-    required property string explanation
     required property string symbol
     required property color tone
     required property ratingValue rating
@@ -16,7 +15,7 @@ Card {
     required property string summary
     required property string selection
 
-    readonly property int padding: 18
+    readonly property int padding: Theme.cardMargin
 
     property bool wasOpened: false
 
@@ -62,44 +61,23 @@ Card {
             id: labels
 
             anchors.left: badge.right
-            anchors.leftMargin: 14
+            anchors.leftMargin: Theme.spaceM
             anchors.right: showAll.left
-            anchors.rightMargin: 12
+            anchors.rightMargin: Theme.spaceM
             anchors.verticalCenter: badge.verticalCenter
-            spacing: 3
+            spacing: Theme.spaceXs
 
-            Flow {
+            RatedTitle {
                 width: parent.width
-                spacing: 10
-
-                Text {
-                    height: Math.max(implicitHeight, chip.height)
-                    verticalAlignment: Text.AlignVCenter
-                    width: Math.min(implicitWidth, parent.width)
-                    text: root.title
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
-                    color: Theme.text
-                    font.pixelSize: Theme.headlineSize
-                    font.weight: Font.DemiBold
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: root.title
-                }
-
-                RatingChip {
-                    id: chip
-
-                    rating: root.rating
-                }
+                title: root.title
+                size: Theme.headlineSize
+                weight: Font.DemiBold
+                rating: root.rating
             }
 
-            Text {
+            SmallText {
                 width: parent.width
                 text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
         }
 

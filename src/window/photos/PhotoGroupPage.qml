@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// All photos of one clean-up.
+/// All photos of one clean-up, while it is open.
 Item {
     id: root
 
@@ -18,17 +18,23 @@ Item {
     required property string selection
     required property int checkState
 
+    readonly property bool isOpen: root.groups.shownGroup === root.findingId
     signal closed
     signal previewRequested(grid: PhotoGrid, row: int)
 
+    visible: root.isOpen
+    onIsOpenChanged: {
+        if (root.isOpen)
+            grid.forceActiveFocus();
+    }
+
     Keys.onEscapePressed: root.closed()
-    Component.onCompleted: grid.forceActiveFocus()
 
     PhotoTilesModel {
         id: all
 
         groups: root.groups
-        findingId: root.findingId
+        findingId: root.isOpen ? root.findingId : ""
     }
 
     Column {
@@ -37,7 +43,7 @@ Item {
         x: Theme.sideMargin(parent.width)
         y: Theme.pageMargin
         width: parent.width - 2 * x
-        spacing: 16
+        spacing: Theme.spaceL
 
         Item {
             width: parent.width
@@ -58,7 +64,7 @@ Item {
                 id: badge
 
                 anchors.left: back.right
-                anchors.leftMargin: 14
+                anchors.leftMargin: Theme.spaceM
                 name: root.symbol
                 tone: root.tone
                 size: 44
@@ -68,42 +74,20 @@ Item {
                 id: labels
 
                 anchors.left: badge.right
-                anchors.leftMargin: 14
+                anchors.leftMargin: Theme.spaceM
                 anchors.right: parent.right
-                spacing: 4
+                spacing: Theme.spaceXs
 
-                Flow {
+                RatedTitle {
                     width: parent.width
-                    spacing: 10
-
-                    Text {
-                        height: Math.max(implicitHeight, chip.height)
-                        verticalAlignment: Text.AlignVCenter
-                        width: Math.min(implicitWidth, parent.width)
-                        text: root.title
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
-                        color: Theme.text
-                        font.pixelSize: Theme.titleSize
-                        font.weight: Font.Bold
-                        Accessible.role: Accessible.Heading
-                        Accessible.name: root.title
-                    }
-
-                    RatingChip {
-                        id: chip
-
-                        rating: root.rating
-                    }
+                    title: root.title
+                    rating: root.rating
                 }
 
-                Text {
+                SmallText {
                     width: parent.width
                     text: root.reason === "" ? root.explanation : root.explanation + " " + root.reason
-                    textFormat: Text.PlainText
                     wrapMode: Text.WordWrap
-                    color: Theme.secondary
-                    font.pixelSize: Theme.smallSize
                 }
             }
         }
@@ -111,7 +95,7 @@ Item {
         Row {
             x: -mark.leftPadding
             width: parent.width
-            spacing: 4
+            spacing: Theme.spaceXs
 
             CheckMark {
                 id: mark
@@ -124,14 +108,11 @@ Item {
                 onClicked: root.groups.toggleAll(root.findingId)
             }
 
-            Text {
+            SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
                 text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
                 font.weight: Font.DemiBold
             }
         }
@@ -142,11 +123,11 @@ Item {
 
         objectName: "photoGrid"
         anchors.top: head.bottom
-        anchors.topMargin: 10
+        anchors.topMargin: Theme.spaceS
         anchors.bottom: parent.bottom
         x: head.x - 4
         width: parent.width - 2 * x
-        bottomMargin: 16
+        bottomMargin: Theme.spaceL
         clip: true
         reuseItems: true
         tiles: all

@@ -12,25 +12,20 @@ Rectangle {
     implicitHeight: Math.max(review.implicitHeight, label.implicitHeight) + 28
     color: Theme.window
 
-    Rectangle {
+    Divider {
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
-    Text {
+    BodyText {
         id: label
 
         anchors.left: parent.left
         anchors.leftMargin: Theme.sideMargin(root.width)
         anchors.right: review.left
-        anchors.rightMargin: 16
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.selectedText === "" ? Strings.noPhotoSelected : root.selectedText
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         color: root.selectedText === "" ? Theme.secondary : Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.DemiBold
     }
 

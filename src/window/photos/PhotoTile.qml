@@ -83,11 +83,7 @@ Item {
             opacity: picture.isDrawn ? 1 : 0
             Accessible.ignored: true
 
-            Behavior on opacity {
-                NumberAnimation {
-                    duration: Theme.hoverDuration
-                }
-            }
+            Ease on opacity {}
         }
 
         // Rounds the picture's corners by what surrounds it: a mask would need a shader.
@@ -106,27 +102,25 @@ Item {
             color: "transparent"
             border.width: root.selected ? 3 : 1
             border.color: root.selected ? Theme.accentFill
-                          : root.kept ? Theme.safeBase : Qt.rgba(0, 0, 0, Theme.dark ? 0 : 0.08)
+                          : root.kept ? Theme.safeBase : Theme.photoEdge
         }
 
         Rectangle {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            anchors.margins: 7
+            anchors.margins: Theme.spaceS
             visible: root.size !== ""
             width: label.implicitWidth + 12
             height: label.implicitHeight + 4
             radius: height / 2
-            color: Qt.rgba(0, 0, 0, 0.6)
+            color: Theme.photoShade
 
-            Text {
+            CaptionText {
                 id: label
 
                 anchors.centerIn: parent
                 text: root.size
-                textFormat: Text.PlainText
-                color: "white"
-                font.pixelSize: Math.round(11 * Theme.textScale)
+                color: Theme.overPhoto
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
@@ -135,31 +129,29 @@ Item {
         Rectangle {
             anchors.left: parent.left
             anchors.bottom: parent.bottom
-            anchors.margins: 7
+            anchors.margins: Theme.spaceS
             visible: root.kept
             width: keptRow.implicitWidth + 14
             height: keptRow.implicitHeight + 6
             radius: height / 2
-            color: "#12713d"
+            color: Theme.keptFill
 
             Row {
                 id: keptRow
 
                 anchors.centerIn: parent
-                spacing: 4
+                spacing: Theme.spaceXs
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter
                     name: "checkmark"
-                    colour: "white"
+                    colour: Theme.overPhoto
                     size: 11
                 }
 
-                Text {
+                CaptionText {
                     text: Strings.kept
-                    textFormat: Text.PlainText
-                    color: "white"
-                    font.pixelSize: Math.round(11 * Theme.textScale)
+                    color: Theme.overPhoto
                     font.weight: Font.DemiBold
                     Accessible.ignored: true
                 }
@@ -184,7 +176,7 @@ Item {
     CheckMark {
         anchors.left: frame.left
         anchors.top: frame.top
-        anchors.margins: 4
+        anchors.margins: Theme.spaceXs
         visible: !root.kept
         checkState: root.selected ? Qt.Checked : Qt.Unchecked
         nextCheckState: () => checkState
@@ -196,9 +188,8 @@ Item {
     IconButton {
         anchors.right: frame.right
         anchors.top: frame.top
-        anchors.margins: 5
-        width: 28
-        height: 28
+        anchors.margins: Theme.spaceXs
+        side: 28
         visible: root.source !== "" && (area.containsMouse || hovered)
         framed: true
         symbol: "eye"

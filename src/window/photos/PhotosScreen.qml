@@ -72,7 +72,7 @@ Item {
         x: Theme.sideMargin(parent.width)
         width: parent.width - 2 * x
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
+        anchors.bottomMargin: Theme.spaceXl
         visible: !root.hasGroups
         text: Strings.photosFooter
     }
@@ -80,38 +80,12 @@ Item {
     Repeater {
         model: groups
 
-        Loader {
-            id: loader
-
-            required property string findingId
-            required property string title
-            required property string explanation
-            required property string reason
-            required property string symbol
-            required property color tone
-            required property ratingValue rating
-            required property string summary
-            required property string selection
-            required property int checkState
-
+        PhotoGroupPage {
             anchors.fill: parent
             anchors.bottomMargin: bar.height
-            active: groups.shownGroup === loader.findingId
-            sourceComponent: PhotoGroupPage {
-                groups: root.model
-                findingId: loader.findingId
-                title: loader.title
-                explanation: loader.explanation
-                reason: loader.reason
-                symbol: loader.symbol
-                tone: loader.tone
-                rating: loader.rating
-                summary: loader.summary
-                selection: loader.selection
-                checkState: loader.checkState
-                onClosed: groups.shownGroup = ""
-                onPreviewRequested: (grid, row) => root.preview(grid, row)
-            }
+            groups: root.model
+            onClosed: groups.shownGroup = ""
+            onPreviewRequested: (grid, row) => root.preview(grid, row)
         }
     }
 

@@ -11,14 +11,14 @@ Item {
     required property real start
     required property real extent
 
-    implicitHeight: Math.round(38 * Theme.textScale)
+    implicitHeight: Theme.grown(38)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label + ", " + root.rate
 
     Rectangle {
         id: dot
 
-        x: 20
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10
@@ -26,64 +26,41 @@ Item {
         color: root.colour
     }
 
-    Text {
+    BodyText {
         id: title
 
         anchors.left: dot.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(104 * Theme.textScale)
+        width: Theme.grown(104)
         text: root.label
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        color: Theme.text
-        font.pixelSize: Theme.bodySize
         font.weight: Font.Medium
         Accessible.ignored: true
     }
 
-    Rectangle {
-        id: track
-
+    ProgressBar {
         anchors.left: title.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.spaceM
         anchors.right: amount.left
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         height: 6
-        radius: 3
         color: Theme.inset
-
-        Rectangle {
-            x: Math.min(track.width - width, Math.round(track.width * root.start))
-            width: root.extent > 0 ? Math.max(track.height, Math.round(track.width * root.extent)) : 0
-            height: track.height
-            radius: track.radius
-            color: root.colour
-
-            Behavior on width {
-                enabled: Theme.moves
-                SpringMotion {
-                    response: 0.9
-                    damping: 0.85
-                }
-            }
-        }
+        tone: root.colour
+        start: root.start
+        value: root.extent
+        Accessible.ignored: true
     }
 
-    Text {
+    SmallText {
         id: amount
 
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.round(128 * Theme.textScale)
+        width: Theme.grown(128)
         horizontalAlignment: Text.AlignRight
         text: root.rate
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        color: Theme.secondary
-        font.pixelSize: Theme.smallSize
         Accessible.ignored: true
     }
 }

@@ -17,21 +17,15 @@ ScreenPage {
         prediction: thePrediction
     }
 
-    Text {
+    HeadlineText {
         width: parent.width
-        topPadding: 8
+        topPadding: Theme.spaceS
         text: Strings.growthByCategory
-        textFormat: Text.PlainText
-        color: Theme.text
-        font.pixelSize: Theme.headlineSize
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-        Accessible.name: Strings.growthByCategory
     }
 
     Card {
         width: parent.width
-        height: thePrediction.count === 0 ? later.height + 40 : rows.height + 12
+        height: thePrediction.count === 0 ? later.height + 2 * Theme.cardMargin : rows.height + 12
 
         Column {
             id: rows
@@ -51,18 +45,15 @@ ScreenPage {
             }
         }
 
-        Text {
+        SmallText {
             id: later
 
-            x: 20
-            y: 20
-            width: parent.width - 40
+            x: Theme.cardMargin
+            y: Theme.cardMargin
+            width: parent.width - 2 * Theme.cardMargin
             visible: thePrediction.count === 0
             text: Strings.growthLater
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
     }
 

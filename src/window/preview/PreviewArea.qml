@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// What a preview shows: the picture, the text, the names, or an icon with a sentence.
@@ -19,7 +18,7 @@ Rectangle {
     Image {
         objectName: "previewPicture"
         anchors.fill: parent
-        anchors.margins: 16
+        anchors.margins: Theme.spaceL
         visible: root.preview.kind === PreviewModel.Picture
         asynchronous: true
         cache: false
@@ -33,20 +32,13 @@ Rectangle {
         Accessible.name: root.preview.name
     }
 
-    Flickable {
+    ScrollArea {
         id: page
 
         objectName: "previewText"
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Text
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         contentHeight: text.height + (cut.visible ? cut.height : 0) + 32
-        T.ScrollBar.vertical: ScrollHandle {
-            id: pageHandle
-
-            stepSize: pageHandle.size * 0.9
-        }
 
         TextEdit {
             id: text
@@ -68,36 +60,27 @@ Rectangle {
             Accessible.name: root.preview.name
         }
 
-        Text {
+        CaptionText {
             id: cut
 
             anchors.top: text.bottom
             x: 24
-            topPadding: 12
+            topPadding: Theme.spaceM
             visible: root.preview.cut
             text: Strings.beginningOnly
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 
-    ListView {
+    ScrollList {
         id: names
 
         anchors.fill: parent
         visible: root.preview.kind === PreviewModel.Folder
-        clip: true
-        topMargin: 8
-        bottomMargin: 8
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceS
         reuseItems: true
-        boundsBehavior: Flickable.StopAtBounds
         model: root.preview
-        T.ScrollBar.vertical: ScrollHandle {
-            id: namesHandle
-
-            stepSize: namesHandle.size * 0.9
-        }
+        Accessible.name: root.preview.name
 
         delegate: Item {
             id: row
@@ -107,7 +90,7 @@ Rectangle {
             required property string symbol
 
             width: ListView.view.width
-            height: Math.round(32 * Theme.textScale)
+            height: Theme.grown(32)
 
             Symbol {
                 id: icon
@@ -117,29 +100,24 @@ Rectangle {
                 name: row.symbol
             }
 
-            Text {
+            SmallText {
                 anchors.left: icon.right
-                anchors.leftMargin: 10
+                anchors.leftMargin: Theme.spaceS
                 anchors.right: size.left
-                anchors.rightMargin: 16
+                anchors.rightMargin: Theme.spaceL
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.name
-                textFormat: Text.PlainText
                 elide: Text.ElideMiddle
                 color: Theme.text
-                font.pixelSize: Theme.smallSize
             }
 
-            Text {
+            SmallText {
                 id: size
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.size
-                textFormat: Text.PlainText
-                color: Theme.secondary
-                font.pixelSize: Theme.smallSize
             }
         }
 
@@ -147,16 +125,13 @@ Rectangle {
             height: root.preview.cut ? remark.height : 0
             visible: root.preview.cut
 
-            Text {
+            CaptionText {
                 id: remark
 
                 x: 24
-                topPadding: 8
-                bottomPadding: 8
+                topPadding: Theme.spaceS
+                bottomPadding: Theme.spaceS
                 text: Strings.firstNamesOnly
-                textFormat: Text.PlainText
-                color: Theme.tertiary
-                font.pixelSize: Theme.captionSize
             }
         }
     }
@@ -165,7 +140,7 @@ Rectangle {
         anchors.centerIn: parent
         width: parent.width - 64
         visible: root.isBare
-        spacing: 16
+        spacing: Theme.spaceL
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -175,22 +150,21 @@ Rectangle {
             grows: false
         }
 
-        Text {
+        BodyText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
-                                                            : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
-                                                                                                         : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
-            textFormat: Text.PlainText
+                  : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
+                  : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
             color: Theme.secondary
-            font.pixelSize: Theme.bodySize
         }
     }
 
     /// Scrolls by about a page; by -1 or 1.
     function turnPage(by: int) {
-        const handle = names.visible ? namesHandle : pageHandle;
+        const handle = names.visible ? names.handle : page.handle;
+        handle.stepSize = handle.size * 0.9;
         if (by > 0)
             handle.increase();
         else

@@ -56,13 +56,11 @@ Sheet {
             title: model.name
             onCloseRequested: root.close()
 
-            SheetText {
+            SmallText {
                 width: parent.width
                 text: model.folder
-                maximumLineCount: 1
                 elide: Text.ElideMiddle
                 color: Theme.tertiary
-                wrapMode: Text.NoWrap
             }
         }
 
@@ -91,23 +89,17 @@ Sheet {
                 width: buttons.x - x - 16
                 spacing: 2
 
-                Text {
+                SmallText {
                     width: parent.width
-                    text: model.kind === PreviewModel.Folder && root.size !== "" ? model.facts + " · " + root.size : model.facts
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
+                    text: model.facts
+                          + (model.kind === PreviewModel.Folder && root.size !== "" ? Strings.joint + root.size : "")
                     color: Theme.text
-                    font.pixelSize: Theme.smallSize
                     font.weight: Font.DemiBold
                 }
 
-                Text {
+                CaptionText {
                     width: parent.width
                     text: model.dates
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
-                    color: Theme.tertiary
-                    font.pixelSize: Theme.captionSize
                 }
             }
 
@@ -115,9 +107,9 @@ Sheet {
                 id: buttons
 
                 anchors.right: parent.right
-                anchors.rightMargin: 24
+                anchors.rightMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 8
+                spacing: Theme.spaceS
 
                 AppButton {
                     symbol: "reveal"

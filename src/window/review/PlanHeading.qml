@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// The heading of a plan's section: all or none of its entries, what is checked, and hide or show them.
-Item {
+ListRow {
     id: root
 
     required property string title
@@ -13,7 +13,6 @@ Item {
     required property int checkState
     required property bool folded
     property bool isCurrent: false
-    property bool showsFocus: false
     signal toggled
     signal folding
     signal pressed
@@ -25,19 +24,9 @@ Item {
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
 
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
-        anchors.topMargin: 6
-        radius: Theme.controlRadius
-        color: root.isCurrent ? Theme.accentSoft : Theme.inset
-
-        FocusRing {
-            shown: root.showsFocus
-            gap: 0
-        }
-    }
+    fill: root.isCurrent ? Theme.accentSoft : Theme.inset
+    sideGap: 12
+    topGap: 6
 
     TapHandler {
         onPressedChanged: if (pressed) root.pressed()
@@ -46,7 +35,7 @@ Item {
 
     Item {
         anchors.fill: parent
-        anchors.topMargin: 6
+        anchors.topMargin: Theme.spaceS
 
         CheckMark {
             id: check
@@ -67,51 +56,41 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             anchors.left: check.right
-            anchors.leftMargin: 8
+            anchors.leftMargin: Theme.spaceS
             name: root.symbol
             tone: root.tone
             size: 28
         }
 
-        Text {
+        BodyText {
             id: heading
 
             anchors.left: badge.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, parent.width - x - selected.implicitWidth - total.implicitWidth - 100)
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        Text {
+        CaptionText {
             id: selected
 
             anchors.left: heading.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.baseline: heading.baseline
             text: root.count
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             Accessible.ignored: true
         }
 
-        Text {
+        BodyText {
             id: total
 
             anchors.right: arrow.left
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.size
-            textFormat: Text.PlainText
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.Bold
             Accessible.ignored: true
         }
@@ -120,10 +99,9 @@ Item {
             id: arrow
 
             anchors.right: parent.right
-            anchors.rightMargin: 18
+            anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
-            width: 28
-            height: 28
+            side: 28
             focusPolicy: Qt.NoFocus
             symbol: root.folded ? "chevron.right" : "chevron.down"
             symbolSize: 12

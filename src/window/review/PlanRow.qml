@@ -20,7 +20,7 @@ Item {
     required property int mark
     required property bool folded
     property bool isCurrent: false
-    property bool showsFocus: false
+    property bool ringed: false
     signal toggled
     signal folding
     signal pressed
@@ -39,7 +39,7 @@ Item {
             checkState: root.mark
             folded: root.folded
             isCurrent: root.isCurrent
-            showsFocus: root.showsFocus
+            ringed: root.ringed
             onToggled: root.toggled()
             onFolding: root.folding()
             onPressed: root.pressed()
@@ -61,7 +61,7 @@ Item {
             checkState: root.mark
             indent: 24
             isCurrent: root.isCurrent
-            showsFocus: root.showsFocus
+            ringed: root.ringed
             onToggled: root.toggled()
             onPressed: root.pressed()
             onPreviewRequested: root.previewRequested()

@@ -27,8 +27,8 @@ Sheet {
 
     objectName: "reviewSheet"
     title: Strings.reviewTitle
-    wantedWidth: Math.round(820 * Math.max(1, Theme.textScale * 0.9))
-    wantedHeight: Math.round(680 * Math.max(1, Theme.textScale * 0.9))
+    wantedWidth: Theme.widened(820)
+    wantedHeight: Theme.widened(680)
 
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: {
@@ -55,28 +55,26 @@ Sheet {
         title: Strings.reviewTitle
         onCloseRequested: root.close()
 
-        SheetText {
+        SmallText {
             objectName: "planTitle"
             width: parent.width
             visible: text !== ""
             text: plan.title
-            maximumLineCount: 1
             color: Theme.accent
             font.weight: Font.DemiBold
         }
 
-        SheetText {
+        Paragraph {
             objectName: "reviewLead"
             width: parent.width
+            maximumLineCount: 3
             text: Strings.reviewLead.arg(plan.checkedCountText)
         }
     }
 
-    Rectangle {
+    Divider {
         anchors.bottom: list.top
         width: parent.width
-        height: 1
-        color: Theme.stroke
     }
 
     EntryList {
@@ -86,8 +84,8 @@ Sheet {
         anchors.top: header.bottom
         anchors.bottom: footer.top
         width: parent.width
-        bottomMargin: 6
-        rowHeight: Math.round((plan.hasNotes ? 68 : 56) * Theme.textScale)
+        bottomMargin: Theme.spaceS
+        rowHeight: Theme.grown(plan.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: plan
         Accessible.name: plan.title
@@ -104,9 +102,9 @@ Sheet {
             id: row
 
             width: ListView.view.width
-            height: heading ? Math.round(50 * Theme.textScale) : list.rowHeight
+            height: heading ? Theme.grown(50) : list.rowHeight
             isCurrent: list.currentIndex === index && list.activeFocus
-            showsFocus: isCurrent && list.showsFocus
+            ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(row.index)
             onToggled: plan.toggle(row.index)
             onFolding: plan.fold(row.index)

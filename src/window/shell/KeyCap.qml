@@ -8,7 +8,7 @@ Rectangle {
     required property string text
 
     implicitWidth: Math.max(label.implicitWidth + 14, implicitHeight)
-    implicitHeight: Math.round(24 * Theme.textScale)
+    implicitHeight: Theme.grown(24)
     radius: 6
     color: Theme.inset
     border.width: 1
@@ -24,15 +24,13 @@ Rectangle {
         color: Theme.stroke
     }
 
-    Text {
+    CaptionText {
         id: label
 
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -1
         text: root.text
-        textFormat: Text.PlainText
         color: Theme.text
-        font.pixelSize: Theme.captionSize
         font.weight: Font.DemiBold
     }
 }

@@ -44,10 +44,8 @@ Item {
                 sourceComponent: root.componentOf(loader.screen)
                 onLoaded: loader.wasShown = true
 
-                Behavior on opacity {
-                    NumberAnimation {
-                        duration: Theme.screenDuration
-                    }
+                Ease on opacity {
+                    duration: Theme.screenDuration
                 }
             }
         }

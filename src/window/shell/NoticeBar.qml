@@ -23,7 +23,7 @@ T.Popup {
     width: sign.width + line.width + buttons.width + 52
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
-    leftPadding: 16
+    leftPadding: Theme.spaceL
     modal: false
     visible: root.text !== ""
     closePolicy: T.Popup.CloseOnEscape
@@ -84,21 +84,17 @@ T.Popup {
             size: 16
         }
 
-        Text {
+        BodyText {
             id: line
 
             objectName: "notice"
             anchors.left: sign.right
-            anchors.leftMargin: 12
+            anchors.leftMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(Math.ceil(implicitWidth), 620, root.roomForText)
             text: root.shownText
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             maximumLineCount: 4
-            elide: Text.ElideRight
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             Accessible.ignored: true
         }
 
@@ -107,7 +103,7 @@ T.Popup {
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: Theme.spaceXs
 
             AppButton {
                 id: copy

@@ -11,13 +11,10 @@ Column {
 
     spacing: 0
 
-    Text {
+    CaptionText {
         width: parent.width
-        bottomPadding: 6
+        bottomPadding: Theme.spaceS
         text: root.title
-        textFormat: Text.PlainText
-        color: Theme.tertiary
-        font.pixelSize: Theme.captionSize
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
         Accessible.name: text
@@ -33,26 +30,20 @@ Column {
             required property var modelData
 
             width: root.width
-            height: Math.round(36 * Theme.textScale)
+            height: Theme.grown(36)
             Accessible.role: Accessible.ListItem
             Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
 
-            Rectangle {
+            Divider {
                 width: parent.width
-                height: 1
-                color: Theme.stroke
             }
 
-            Text {
+            BodyText {
                 anchors.left: parent.left
                 anchors.right: strokes.left
-                anchors.rightMargin: 12
+                anchors.rightMargin: Theme.spaceM
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.modelData.text
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
                 Accessible.ignored: true
             }
 
@@ -61,7 +52,7 @@ Column {
 
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 10
+                spacing: Theme.spaceS
 
                 Repeater {
                     model: row.modelData.keys
@@ -71,7 +62,7 @@ Column {
 
                         required property var modelData
 
-                        spacing: 4
+                        spacing: Theme.spaceXs
 
                         Repeater {
                             model: stroke.modelData

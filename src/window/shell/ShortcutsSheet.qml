@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The keys of the program.
@@ -8,8 +7,8 @@ Sheet {
 
     objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
-    wantedWidth: Math.round(560 * Theme.textScale)
-    wantedHeight: Math.round(660 * Theme.textScale)
+    wantedWidth: Theme.grown(560)
+    wantedHeight: Theme.grown(660)
 
     contentItem: FocusScope {
         focus: true
@@ -23,42 +22,29 @@ Sheet {
             onCloseRequested: root.close()
         }
 
-        Rectangle {
+        Divider {
             y: header.height
             width: parent.width
-            height: 1
-            color: Theme.stroke
         }
 
-        Flickable {
-            id: flickable
+        ScrollArea {
+            id: area
 
             objectName: "shortcutKeys"
             anchors.fill: parent
             anchors.topMargin: header.height + 1
             anchors.bottomMargin: Theme.sheetRadius / 2
-            contentHeight: groups.height + 36
-            boundsBehavior: Flickable.StopAtBounds
-            clip: true
+            contentHeight: groups.height + 2 * Theme.spaceL
             focus: true
-            activeFocusOnTab: contentHeight > height
-            Accessible.role: Accessible.Pane
-            Accessible.name: root.title
-            Keys.onUpPressed: handle.decrease()
-            Keys.onDownPressed: handle.increase()
-            T.ScrollBar.vertical: ScrollHandle {
-                id: handle
-
-                stepSize: 0.12
-            }
+            title: root.title
 
             Column {
                 id: groups
 
                 x: 24
-                y: 18
-                width: flickable.width - 48
-                spacing: 20
+                y: Theme.spaceL
+                width: area.width - 48
+                spacing: Theme.spaceXl
 
                 Repeater {
                     model: Strings.shortcutGroups

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
 /// The list of screens, and the free space below it.
@@ -11,40 +10,36 @@ Rectangle {
     required property real usedFraction
     signal selected(screen: int)
 
+    /// Where the badges of the rows begin.
+    readonly property int inset: Theme.spaceM + Theme.spaceS
+
     color: Theme.sidebar
 
-    ListView {
+    ScrollList {
         id: list
 
         anchors.fill: parent
-        anchors.topMargin: 12
+        anchors.topMargin: Theme.spaceM
         anchors.bottomMargin: footer.height + 36
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         currentIndex: root.currentScreen
         activeFocusOnTab: true
         keyNavigationEnabled: false
         spacing: 2
         model: ScreenListModel {}
-        Accessible.role: Accessible.List
         Accessible.name: Strings.screens
-        T.ScrollBar.vertical: ScrollHandle {}
 
         Keys.onUpPressed: root.selected(Math.max(0, root.currentScreen - 1))
         Keys.onDownPressed: root.selected(Math.min(list.count - 1, root.currentScreen + 1))
 
         section.property: "section"
-        section.delegate: Text {
+        section.delegate: CaptionText {
             required property string section
 
-            height: Math.round(34 * Math.max(1, Theme.textScale * 0.85))
-            leftPadding: 22
-            bottomPadding: 6
+            height: Theme.widened(34)
+            leftPadding: root.inset
+            bottomPadding: Theme.spaceS
             verticalAlignment: Text.AlignBottom
             text: section
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
         }
 
@@ -68,16 +63,13 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        anchors.margins: 22
-        spacing: 8
+        anchors.margins: root.inset
+        spacing: Theme.spaceS
 
-        Text {
+        CaptionText {
             width: parent.width
             text: Strings.free.arg(root.freeText)
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
         }
 
@@ -88,10 +80,8 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    Divider {
         anchors.right: parent.right
-        width: 1
         height: parent.height
-        color: Theme.stroke
     }
 }

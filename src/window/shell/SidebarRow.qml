@@ -12,7 +12,7 @@ T.ItemDelegate {
     required property int screen
     property bool isCurrent: false
 
-    implicitHeight: Math.round(38 * Math.max(1, Theme.textScale * 0.8))
+    implicitHeight: Theme.widened(38)
     hoverEnabled: true
     highlighted: root.isCurrent
     text: root.title
@@ -30,17 +30,14 @@ T.ItemDelegate {
             size: 24
         }
 
-        Text {
+        BodyText {
             anchors.left: badge.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: Theme.spaceS
             anchors.right: parent.right
-            anchors.rightMargin: 8
+            anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             color: root.isCurrent ? Theme.text : Theme.secondary
-            font.pixelSize: Theme.bodySize
             font.weight: root.isCurrent ? Font.DemiBold : Font.Medium
         }
     }

@@ -157,7 +157,6 @@ QtObject {
     readonly property string appsLead: "Uninstall an app with its leftovers."
     readonly property string reviewAndUninstall: "Review & Uninstall…"
     readonly property string noLeftovers: "No leftovers found."
-    readonly property string leftoversFound: "Leftovers found by bundle identifier (%1)"
     readonly property string appleApp: "This is an Apple app. Make sure you really want to remove it."
 
     readonly property string searchApps: "Search applications"

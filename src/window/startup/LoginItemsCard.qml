@@ -2,107 +2,88 @@ import QtQuick
 import Orlen.App
 
 /// What the desktop opens at login, told when asked.
-Card {
+ColumnCard {
     id: root
 
     required property LoginItemModel items
 
-    implicitHeight: column.height + 36
+    spacing: Theme.spaceM
 
     Column {
-        id: column
+        width: parent.width
+        spacing: Theme.spaceXs
 
-        x: 18
-        y: 18
-        width: root.width - 36
-        spacing: 14
+        BodyText {
+            width: parent.width
+            text: Strings.loginItems
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+            Accessible.name: Strings.loginItems
+        }
+
+        Paragraph {
+            width: parent.width
+            text: Strings.loginItemsLead
+            font.pixelSize: Theme.captionSize
+        }
+    }
+
+    Flow {
+        width: parent.width
+        spacing: Theme.spaceS
+
+        AppButton {
+            objectName: "showLoginItems"
+            text: Strings.showLoginItems
+            onClicked: root.items.ask()
+        }
+
+        AppButton {
+            objectName: "loginItemsSettings"
+            text: Strings.openLoginItemsSettings
+            onClicked: root.items.openSettings()
+        }
+    }
+
+    Note {
+        width: parent.width
+        visible: root.items.names === LoginItemModel.Unreadable
+        text: Strings.loginItemsFailed
+        symbol: "exclamationmark.triangle.fill"
+        ink: Theme.reviewText
+    }
+
+    Note {
+        width: parent.width
+        visible: root.items.names === LoginItemModel.Known && root.items.count === 0
+        text: Strings.noLoginItems
+    }
+
+    Rectangle {
+        width: parent.width
+        height: names.height + 16
+        visible: root.items.count > 0
+        radius: Theme.controlRadius
+        color: Theme.inset
 
         Column {
-            width: parent.width
-            spacing: 4
+            id: names
 
-            Text {
-                width: parent.width
-                text: Strings.loginItems
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
-                font.weight: Font.DemiBold
-                Accessible.role: Accessible.Heading
-                Accessible.name: Strings.loginItems
-            }
+            x: 14
+            y: 8
+            width: parent.width - 28
 
-            Text {
-                width: parent.width
-                text: Strings.loginItemsLead
-                textFormat: Text.PlainText
-                wrapMode: Text.WordWrap
-                lineHeight: 1.2
-                color: Theme.secondary
-                font.pixelSize: Theme.captionSize
-            }
-        }
+            Repeater {
+                model: root.items
 
-        Flow {
-            width: parent.width
-            spacing: 10
+                SmallText {
+                    required property string name
 
-            AppButton {
-                objectName: "showLoginItems"
-                text: Strings.showLoginItems
-                onClicked: root.items.ask()
-            }
-
-            AppButton {
-                objectName: "loginItemsSettings"
-                text: Strings.openLoginItemsSettings
-                onClicked: root.items.openSettings()
-            }
-        }
-
-        Note {
-            width: parent.width
-            visible: root.items.names === LoginItemModel.Unreadable
-            text: Strings.loginItemsFailed
-            symbol: "exclamationmark.triangle.fill"
-            ink: Theme.reviewText
-        }
-
-        Note {
-            width: parent.width
-            visible: root.items.names === LoginItemModel.Known && root.items.count === 0
-            text: Strings.noLoginItems
-        }
-
-        Rectangle {
-            width: parent.width
-            height: names.height + 16
-            visible: root.items.count > 0
-            radius: Theme.controlRadius
-            color: Theme.inset
-
-            Column {
-                id: names
-
-                x: 14
-                y: 8
-                width: parent.width - 28
-
-                Repeater {
-                    model: root.items
-
-                    Text {
-                        required property string name
-
-                        width: names.width
-                        height: Math.round(28 * Theme.textScale)
-                        verticalAlignment: Text.AlignVCenter
-                        text: name
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
-                        color: Theme.text
-                        font.pixelSize: Theme.smallSize
-                    }
+                    width: names.width
+                    height: Theme.grown(28)
+                    verticalAlignment: Text.AlignVCenter
+                    text: name
+                    color: Theme.text
                 }
             }
         }

@@ -7,15 +7,15 @@ Card {
 
     required property LoginItemModel items
 
-    implicitHeight: texts.height + 36
+    implicitHeight: texts.height + 2 * Theme.cardMargin
 
     Badge {
         id: badge
 
-        x: 18
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: "sparkles"
-        tone: "#3b7bf7"
+        tone: Theme.welcomeTone
         size: 32
     }
 
@@ -23,29 +23,24 @@ Card {
         id: texts
 
         anchors.left: badge.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: toggle.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 4
+        spacing: Theme.spaceXs
 
-        Text {
+        BodyText {
             width: parent.width
             text: Strings.openAtLogin
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
-            color: Theme.text
-            font.pixelSize: Theme.bodySize
             font.weight: Font.DemiBold
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: Strings.openAtLoginNote
-            textFormat: Text.PlainText
             wrapMode: Text.WordWrap
             color: Theme.secondary
-            font.pixelSize: Theme.captionSize
         }
 
         Note {
@@ -62,7 +57,7 @@ Card {
 
         objectName: "openAtLogin"
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         text: Strings.openAtLogin
         checkable: !root.items.busy

@@ -11,7 +11,8 @@ Card {
     /// The keyboard has come to this row.
     signal reached(row: Item)
 
-    implicitHeight: root.items.count > 0 ? list.height + 2 : root.items.loading ? placeholder.height + 16 : empty.height + 64
+    implicitHeight: root.items.count > 0 ? list.height + 2
+                    : root.items.loading ? placeholder.height + 16 : empty.height + 64
 
     KeyedList {
         id: list
@@ -24,18 +25,15 @@ Card {
         pageHeight: root.pageHeight
         model: root.items
         section.property: "scope"
-        section.delegate: Text {
+        section.delegate: CaptionText {
             required property string section
 
             width: ListView.view.width
-            height: Math.round(40 * Theme.textScale)
-            leftPadding: 18
+            height: Theme.grown(40)
+            leftPadding: Theme.cardMargin
             bottomPadding: 2
             verticalAlignment: Text.AlignBottom
             text: section
-            textFormat: Text.PlainText
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
             Accessible.name: section
@@ -58,7 +56,7 @@ Card {
 
             width: ListView.view.width
             lineShown: ListView.previousSection === ListView.section
-            focusShown: ListView.isCurrentItem && list.showsFocus
+            ringed: ListView.isCurrentItem && list.showsFocus
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 list.pointed = true;
@@ -84,7 +82,7 @@ Card {
         width: parent.width - 48
         visible: root.items.count === 0 && !root.items.loading
         symbol: "power.circle.fill"
-        tone: "#e5484d"
+        tone: Theme.startupTone
         text: Strings.noLaunchAgents
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// One startup item with its switch.
-Item {
+ListRow {
     id: root
 
     required property string name
@@ -15,35 +15,26 @@ Item {
     required property bool isSwitchable
     required property string reason
     property bool lineShown: false
-    property bool focusShown: false
     signal toggled
 
     implicitHeight: texts.height + 24
-    Accessible.role: Accessible.ListItem
+    fill: "transparent"
+    sideGap: 6
+    topGap: 3
+    bottomGap: 2
     Accessible.name: root.name
     Accessible.description: root.isSwitchable ? root.program : root.reason
 
-    Rectangle {
+    Divider {
         x: 64
-        width: parent.width - x - 18
-        height: 1
+        width: parent.width - x - Theme.cardMargin
         visible: root.lineShown
-        color: Theme.stroke
-    }
-
-    FocusRing {
-        shown: root.focusShown
-        anchors.leftMargin: 6
-        anchors.rightMargin: 6
-        anchors.topMargin: 3
-        anchors.bottomMargin: 2
-        gap: 0
     }
 
     Rectangle {
         id: tile
 
-        x: 18
+        x: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 32
         height: 32
@@ -62,58 +53,34 @@ Item {
         id: texts
 
         anchors.left: tile.right
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.spaceM
         anchors.right: toggle.left
-        anchors.rightMargin: 20
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Item {
+        RatedTitle {
             width: parent.width
-            height: Math.max(title.height, chip.visible ? chip.height : 0)
-
-            Text {
-                id: title
-
-                anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, parent.width - (chip.visible ? chip.width + 10 : 0))
-                text: root.name
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: Theme.text
-                font.pixelSize: Theme.bodySize
-                font.weight: Font.Medium
-            }
-
-            RatingChip {
-                id: chip
-
-                anchors.left: title.right
-                anchors.leftMargin: 10
-                anchors.verticalCenter: parent.verticalCenter
-                name: root.isPartOfDesktop ? "review" : ""
-                label: Strings.partOfDesktop
-                symbol: "exclamationmark.triangle.fill"
-            }
+            title: root.name
+            size: Theme.bodySize
+            weight: Font.Medium
+            role: Accessible.StaticText
+            chipName: root.isPartOfDesktop ? "review" : ""
+            chipLabel: Strings.partOfDesktop
+            chipSymbol: "exclamationmark.triangle.fill"
         }
 
-        Text {
+        SmallText {
             width: parent.width
             visible: root.program !== ""
             text: root.program
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.secondary
-            font.pixelSize: Theme.smallSize
         }
 
-        Text {
+        CaptionText {
             width: parent.width
             text: root.path
-            textFormat: Text.PlainText
             elide: Text.ElideMiddle
-            color: Theme.tertiary
-            font.pixelSize: Theme.captionSize
         }
     }
 
@@ -122,7 +89,7 @@ Item {
 
         objectName: "switch"
         anchors.right: parent.right
-        anchors.rightMargin: 18
+        anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
         enabled: root.isSwitchable
@@ -135,14 +102,10 @@ Item {
     }
 
     // A switch that is off-limits hears no pointer of its own.
-    HoverHandler {
-        id: hover
-    }
-
     ToolTipBubble {
         parent: toggle
         x: toggle.width - implicitWidth
         text: root.reason
-        shown: !root.isSwitchable && (hover.hovered || root.focusShown)
+        shown: !root.isSwitchable && (root.hovered || root.ringed)
     }
 }

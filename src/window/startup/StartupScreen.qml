@@ -40,29 +40,14 @@ Item {
         id: page
 
         anchors.fill: parent
-
-        Item {
-            width: parent.width
-            height: header.height
-
-            PageHeader {
-                id: header
-
-                width: parent.width - reload.width - 16
-                title: Strings.startup
-                subtitle: Strings.startupLead
-            }
-
-            IconButton {
-                id: reload
-
-                objectName: "reloadStartup"
-                anchors.right: parent.right
-                framed: true
-                symbol: "arrow.clockwise"
-                text: Strings.reload
-                onClicked: root.reload()
-            }
+        title: Strings.startup
+        subtitle: Strings.startupLead
+        tools: IconButton {
+            objectName: "reloadStartup"
+            framed: true
+            symbol: "arrow.clockwise"
+            text: Strings.reload
+            onClicked: root.reload()
         }
 
         OpenAtLoginCard {

@@ -6,13 +6,12 @@ import Orlen.App
 Window {
     id: root
 
-    readonly property int margin: 20
 
     signal openRequested
     signal quitRequested
 
-    width: Math.round(320 * Math.max(1, Theme.textScale * 0.9))
-    height: content.implicitHeight + 2 * root.margin
+    width: Theme.widened(320)
+    height: content.implicitHeight + 2 * Theme.cardMargin
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     title: Strings.appName
     color: "transparent"
@@ -46,32 +45,23 @@ Window {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: parent.top
-            anchors.margins: root.margin
-            spacing: 16
+            anchors.margins: Theme.cardMargin
+            spacing: Theme.spaceL
 
-            Text {
+            HeadlineText {
                 width: parent.width
                 text: Strings.appName
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.headlineSize
-                font.weight: Font.DemiBold
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
             Column {
                 width: parent.width
-                spacing: 8
+                spacing: Theme.spaceS
 
-                Text {
+                BodyText {
                     width: parent.width
                     visible: !storage.ready
                     text: Strings.lookingAtStorage
-                    textFormat: Text.PlainText
-                    elide: Text.ElideRight
                     color: Theme.secondary
-                    font.pixelSize: Theme.bodySize
                 }
 
                 Item {
@@ -81,29 +71,21 @@ Window {
                     Accessible.role: Accessible.StaticText
                     Accessible.name: freeSpace.text + " " + ofTotal.text
 
-                    Text {
+                    TitleText {
                         id: freeSpace
 
                         text: storage.freeText
-                        textFormat: Text.PlainText
-                        color: Theme.text
-                        font.pixelSize: Theme.titleSize
-                        font.weight: Font.Bold
                         Accessible.ignored: true
                     }
 
-                    Text {
+                    SmallText {
                         id: ofTotal
 
                         anchors.left: freeSpace.right
-                        anchors.leftMargin: 6
+                        anchors.leftMargin: Theme.spaceS
                         anchors.right: parent.right
                         anchors.baseline: freeSpace.baseline
                         text: Strings.freeOf.arg(storage.totalText)
-                        textFormat: Text.PlainText
-                        elide: Text.ElideRight
-                        color: Theme.secondary
-                        font.pixelSize: Theme.smallSize
                         Accessible.ignored: true
                     }
                 }
@@ -124,24 +106,20 @@ Window {
                 ink: Theme.text
             }
 
-            Rectangle {
+            Divider {
                 width: parent.width
-                height: 1
-                color: Theme.stroke
             }
 
-            Text {
+            CaptionText {
                 width: parent.width
                 text: Strings.trayNote
-                textFormat: Text.PlainText
                 wrapMode: Text.WordWrap
                 color: Theme.secondary
-                font.pixelSize: Theme.captionSize
             }
 
             Row {
                 anchors.right: parent.right
-                spacing: 8
+                spacing: Theme.spaceS
 
                 AppButton {
                     objectName: "trayQuit"

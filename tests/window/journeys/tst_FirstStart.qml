@@ -56,7 +56,8 @@ Journey {
     function test_5_theReviewShowsWhatTheDetailSelected() {
         test.clickOn("primaryAction");
         verify(test.item("reviewLead").text.startsWith("2 items will be moved to the Trash."));
-        compare([0, 1, 2, 3].map(number => test.row("planEntries", number).name), ["App caches", "spotify", "pip cache", "pip"]);
+        const names = [0, 1, 2, 3].map(number => test.row("planEntries", number).name);
+        compare(names, ["App caches", "spotify", "pip cache", "pip"]);
         verify(!test.isShown("findingEntries"));
         test.clickOn("check", test.row("planEntries", 0));
         verify(test.item("reviewLead").text.startsWith("1 items will be moved to the Trash."));

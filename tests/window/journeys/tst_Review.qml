@@ -23,6 +23,7 @@ Journey {
     /// The rows of the plan with this name, in sight.
     function planRow(name: string, time: int): Item {
         const list = test.item("planEntries");
+        list.forceLayout();
         for (let number = 0, found = 0; number < list.count; ++number) {
             list.positionViewAtIndex(number, ListView.Center);
             if (test.row("planEntries", number).name === name && ++found === time)

@@ -1,0 +1,12 @@
+import QtQuick
+import Orlen.App
+
+/// The heading of a part of a screen.
+BodyText {
+    id: root
+
+    font.pixelSize: Theme.headlineSize
+    font.weight: Font.DemiBold
+    Accessible.role: Accessible.Heading
+    Accessible.name: root.text
+}

@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// A field to type into. Escape empties it.
+T.TextField {
+    id: root
+
+    property color fill: Theme.inset
+    property real corner: Theme.controlRadius
+
+    verticalAlignment: TextInput.AlignVCenter
+    color: Theme.text
+    placeholderTextColor: Theme.tertiary
+    selectionColor: Theme.accentFill
+    selectedTextColor: Theme.overAccent
+    selectByMouse: true
+    // Text fields have a font of the desktop's own otherwise.
+    font.family: Theme.fontFamily
+    font.pixelSize: Theme.bodySize
+    Accessible.name: root.placeholderText
+
+    Keys.onEscapePressed: event => {
+        event.accepted = root.text !== "";
+        root.clear();
+    }
+
+    background: Rectangle {
+        radius: root.corner
+        color: root.fill
+        border.width: root.activeFocus ? 2 : 1
+        border.color: root.activeFocus ? Theme.accent : Theme.stroke
+    }
+
+    BodyText {
+        anchors.fill: parent
+        anchors.leftMargin: root.leftPadding
+        anchors.rightMargin: root.rightPadding
+        verticalAlignment: Text.AlignVCenter
+        visible: root.length === 0 && root.preeditText === ""
+        text: root.placeholderText
+        color: root.placeholderTextColor
+        Accessible.ignored: true
+    }
+}

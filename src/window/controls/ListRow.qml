@@ -1,0 +1,38 @@
+import QtQuick
+import Orlen.App
+
+/// A row of a list, on a ground that shows the pointer and the keyboard.
+Item {
+    id: root
+
+    /// Whether the keyboard is on this row.
+    property bool ringed: false
+    property color fill: root.hovered ? Theme.hover : "transparent"
+    readonly property alias hovered: hover.hovered
+    /// Room around the ground.
+    property int sideGap: 0
+    property int topGap: 0
+    property int bottomGap: 0
+
+    Accessible.role: Accessible.ListItem
+    Accessible.focusable: true
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: root.sideGap
+        anchors.rightMargin: root.sideGap
+        anchors.topMargin: root.topGap
+        anchors.bottomMargin: root.bottomGap
+        radius: Theme.controlRadius
+        color: root.fill
+
+        FocusRing {
+            shown: root.ringed
+            gap: 0
+        }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick
+import Orlen.App
+
+/// A name with the advice about it, which goes below where it has no room behind.
+Flow {
+    id: root
+
+    required property string title
+    property int size: Theme.titleSize
+    property int weight: Font.Bold
+    property int role: Accessible.Heading
+    /// Lines that a long name may take.
+    property int lines: 1
+    property ratingValue rating
+    /// What the chip shows, unless it is the rating; an empty name: there is none.
+    property string chipName: root.rating.name
+    property string chipLabel: root.rating.label
+    property string chipSymbol: root.rating.symbol
+
+    spacing: Theme.spaceS
+
+    TitleText {
+        id: name
+
+        width: Math.min(implicitWidth, root.width)
+        height: Math.max(implicitHeight, root.chipName !== "" ? chip.height : 0)
+        verticalAlignment: Text.AlignVCenter
+        text: root.title
+        wrapMode: root.lines > 1 ? Text.Wrap : Text.NoWrap
+        maximumLineCount: root.lines
+        font.pixelSize: root.size
+        font.weight: root.weight
+        font.letterSpacing: root.size === Theme.titleSize ? -0.3 : 0
+        Accessible.role: root.role
+    }
+
+    Item {
+        width: chip.width
+        height: name.height
+        visible: root.chipName !== ""
+
+        RatingChip {
+            id: chip
+
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.chipName
+            label: root.chipLabel
+            symbol: root.chipSymbol
+        }
+    }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import Orlen.App
+
+/// The name in a row, and its place and a remark below. The row itself tells them to a screen reader.
+Column {
+    id: root
+
+    required property string name
+    required property string place
+    property color placeInk: Theme.tertiary
+    property string note: ""
+    property color noteInk: Theme.secondary
+
+    spacing: 2
+
+    BodyText {
+        width: root.width
+        text: root.name
+        elide: Text.ElideMiddle
+        font.weight: Font.Medium
+        Accessible.ignored: true
+    }
+
+    CaptionText {
+        width: root.width
+        text: root.place
+        elide: Text.ElideMiddle
+        color: root.placeInk
+        Accessible.ignored: true
+    }
+
+    CaptionText {
+        width: root.width
+        visible: root.note !== ""
+        text: root.note
+        color: root.noteInk
+        Accessible.ignored: true
+    }
+}
