@@ -55,7 +55,7 @@ ListRow {
         anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         name: root.note === "" ? "" : "review"
-        label: root.note
+        text: root.note
         symbol: "eye.fill"
     }
 

@@ -10,6 +10,12 @@ Column {
 
     Accessible.ignored: true
 
+    component Bar: Rectangle {
+        height: 11
+        radius: height / 2
+        color: Theme.inset
+    }
+
     Repeater {
         model: root.rows
 
@@ -33,36 +39,28 @@ Column {
                 color: Theme.inset
             }
 
-            Rectangle {
+            Bar {
                 anchors.left: tile.right
                 anchors.leftMargin: 14
                 anchors.top: tile.top
                 anchors.topMargin: 5
                 width: 120 + row.index * 37 % 90
-                height: 11
-                radius: height / 2
-                color: Theme.inset
             }
 
-            Rectangle {
+            Bar {
                 anchors.left: tile.right
                 anchors.leftMargin: 14
                 anchors.bottom: tile.bottom
                 anchors.bottomMargin: 5
                 width: 180 + row.index * 53 % 110
                 height: 9
-                radius: height / 2
-                color: Theme.inset
             }
 
-            Rectangle {
+            Bar {
                 anchors.right: parent.right
                 anchors.rightMargin: 40
                 anchors.verticalCenter: parent.verticalCenter
                 width: 52
-                height: 11
-                radius: height / 2
-                color: Theme.inset
             }
         }
     }

@@ -44,7 +44,7 @@ Flow {
 
             anchors.verticalCenter: parent.verticalCenter
             name: root.chipName
-            label: root.chipLabel
+            text: root.chipLabel
             symbol: root.chipSymbol
         }
     }

@@ -105,57 +105,27 @@ Item {
                           : root.kept ? Theme.safeBase : Theme.photoEdge
         }
 
-        Rectangle {
+        Pill {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
             anchors.margins: Theme.spaceS
             visible: root.size !== ""
-            width: label.implicitWidth + 12
-            height: label.implicitHeight + 4
-            radius: height / 2
+            text: root.size
+            ink: Theme.overPhoto
             color: Theme.photoShade
-
-            CaptionText {
-                id: label
-
-                anchors.centerIn: parent
-                text: root.size
-                color: Theme.overPhoto
-                font.weight: Font.DemiBold
-                Accessible.ignored: true
-            }
+            Accessible.ignored: true
         }
 
-        Rectangle {
+        Pill {
             anchors.left: parent.left
             anchors.bottom: parent.bottom
             anchors.margins: Theme.spaceS
             visible: root.kept
-            width: keptRow.implicitWidth + 14
-            height: keptRow.implicitHeight + 6
-            radius: height / 2
+            symbol: "checkmark"
+            text: Strings.kept
+            ink: Theme.overPhoto
             color: Theme.keptFill
-
-            Row {
-                id: keptRow
-
-                anchors.centerIn: parent
-                spacing: Theme.spaceXs
-
-                Symbol {
-                    anchors.verticalCenter: parent.verticalCenter
-                    name: "checkmark"
-                    colour: Theme.overPhoto
-                    size: 11
-                }
-
-                CaptionText {
-                    text: Strings.kept
-                    color: Theme.overPhoto
-                    font.weight: Font.DemiBold
-                    Accessible.ignored: true
-                }
-            }
+            Accessible.ignored: true
         }
 
         FocusRing {

@@ -48,12 +48,8 @@ Rectangle {
             width: ListView.view.width - 24
             isCurrent: root.currentScreen === screen
             focusPolicy: Qt.NoFocus
+            ringed: isCurrent && list.activeFocus
             onClicked: root.selected(screen)
-
-            FocusRing {
-                shown: parent.isCurrent && list.activeFocus
-                gap: 1
-            }
         }
     }
 

@@ -11,6 +11,7 @@ T.ItemDelegate {
     required property color tone
     required property int screen
     property bool isCurrent: false
+    property bool ringed: false
 
     implicitHeight: Theme.widened(38)
     hoverEnabled: true
@@ -49,7 +50,7 @@ T.ItemDelegate {
         border.color: Theme.stroke
 
         FocusRing {
-            shown: root.visualFocus
+            shown: root.ringed
             gap: 1
         }
     }
