@@ -5,7 +5,9 @@ import Orlen.App
 ScreenPage {
     id: root
 
-    title: Strings.safetyTitle
+    required property MainView view
+
+    title: Screens.title(Screens.Safety)
     subtitle: Strings.safetyLead
 
     TextCardGrid {

@@ -5,7 +5,7 @@
 #include "window/apps/IconFiles.h"
 #include "window/controls/BadgeDrawing.h"
 #include "window/preview/PictureReader.h"
-#include "window/shell/ScreenTable.h"
+#include "window/shell/Screens.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -23,7 +23,7 @@ constexpr int kMemoryLimit = 64; ///< megabytes of one decoded icon
 
 QColor standInColour()
 {
-    return screenTable()[static_cast<std::size_t>(Screen::apps)].colour;
+    return Screens::at(Screens::Apps).colour;
 }
 
 /// A drawing of the system, here in this process. Null when it cannot be read.

@@ -5,6 +5,7 @@ import Orlen.App
 Item {
     id: root
 
+    required property MainView view
     readonly property real sideMargin: Theme.sideMargin(root.width)
 
     AppListModel {
@@ -49,7 +50,7 @@ Item {
         anchors.topMargin: Theme.pageMargin
         anchors.leftMargin: root.sideMargin
         anchors.rightMargin: Theme.spaceXl
-        title: Strings.apps
+        title: Screens.title(Screens.Apps)
         subtitle: Strings.appsLead
     }
 
@@ -147,7 +148,7 @@ Item {
             reuseItems: true
             activeFocusOnTab: true
             model: ordered
-            Accessible.name: Strings.apps
+            Accessible.name: Screens.title(Screens.Apps)
 
             // The sheet gives the focus back, and a click is no reason to show it then.
             onActiveFocusChanged: {

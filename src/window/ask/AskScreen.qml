@@ -6,7 +6,7 @@ import Orlen.App
 Item {
     id: root
 
-    required property Navigation navigation
+    required property MainView view
 
     readonly property int columnWidth: Math.min(660, root.width - 2 * Theme.pageMargin)
 
@@ -20,7 +20,7 @@ Item {
         x: Theme.sideMargin(root.width)
         y: Theme.pageMargin
         width: root.width - 2 * x
-        title: Strings.askTitle
+        title: Screens.title(Screens.Ask)
         subtitle: theConversation.introduction
     }
 
@@ -72,7 +72,7 @@ Item {
         visible: theConversation.count > 0
         conversation: theConversation
         columnWidth: root.columnWidth
-        onFindingRequested: id => root.navigation.showFinding(id)
+        onFindingRequested: id => root.view.navigation.showFinding(id)
     }
 
     // Messages fade away below the header.

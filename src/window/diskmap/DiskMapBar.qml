@@ -17,7 +17,7 @@ Item {
         width: Math.min(implicitWidth, tools.x - 16)
         spacing: 0
         Accessible.role: Accessible.List
-        Accessible.name: Strings.diskMapTitle
+        Accessible.name: Screens.title(Screens.DiskMap)
 
         Repeater {
             model: root.map.crumbs

@@ -5,6 +5,7 @@ import Orlen.App
 FocusScope {
     id: root
 
+    required property MainView view
     property bool asList: false
     readonly property bool showsRing: surface.showsRing && !root.asList
 
@@ -21,7 +22,7 @@ FocusScope {
         x: Theme.pageMargin
         y: Theme.pageMargin
         width: root.width - 2 * Theme.pageMargin
-        title: Strings.diskMapTitle
+        title: Screens.title(Screens.DiskMap)
         subtitle: Strings.diskMapLead
     }
 

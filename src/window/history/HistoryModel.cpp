@@ -2,7 +2,7 @@
 
 #include "app/AppTexts.h"
 #include "window/lists/DisplayText.h"
-#include "window/shell/ScreenTable.h"
+#include "window/shell/Screens.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,13 +20,11 @@ QString counted(int count, const QString& one, const QString& many)
 }
 
 /// The screen on which a clean-up of this title was put together.
-const ScreenMeta& originOf(std::string_view title)
+const Screens::Meta& originOf(std::string_view title)
 {
-    const bool isUninstall = title.starts_with("Uninstall ");
-    const Screen screen = title == AppTexts::kScanPlanTitle ? Screen::home
-                          : isUninstall                     ? Screen::apps
-                                                            : Screen::history;
-    return screenTable()[static_cast<std::size_t>(screen)];
+    if (title == AppTexts::kScanPlanTitle)
+        return Screens::at(Screens::Home);
+    return Screens::at(title.starts_with("Uninstall ") ? Screens::Apps : Screens::History);
 }
 
 } // namespace

@@ -6,7 +6,7 @@ import Orlen.App
 Item {
     id: root
 
-    required property Notices notices
+    required property MainView view
     /// Of the clean-up whose items are shown; at most one at a time.
     property string openRecord: ""
     readonly property real sideMargin: Theme.sideMargin(root.width)
@@ -14,7 +14,7 @@ Item {
     HistoryModel {
         id: history
 
-        onRestored: message => root.notices.say(message)
+        onRestored: message => root.view.notices.say(message)
     }
 
     ScrollList {
@@ -39,7 +39,7 @@ Item {
 
             PageHeader {
                 width: parent.width
-                title: Strings.historyTitle
+                title: Screens.title(Screens.History)
                 subtitle: Strings.historyLead
             }
 

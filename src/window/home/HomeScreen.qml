@@ -5,8 +5,7 @@ import Orlen.App
 FocusScope {
     id: root
 
-    required property Navigation navigation
-    required property StorageModel storage
+    required property MainView view
 
     readonly property alias home: theHome
 
@@ -25,7 +24,7 @@ FocusScope {
         visible: opacity > 0
         opacity: 0
         home: root.home
-        storage: root.storage
+        storage: root.view.storage
     }
 
     HomeScanning {
@@ -45,16 +44,16 @@ FocusScope {
         visible: opacity > 0
         opacity: 0
         home: root.home
-        storage: root.storage
-        onFindingChosen: id => root.navigation.showFinding(id)
+        storage: root.view.storage
+        onFindingChosen: id => root.view.navigation.showFinding(id)
     }
 
     StorageGauge {
         id: ring
 
         objectName: "storageRing"
-        storage: root.storage
-        breathing: root.state === "scanning" || !root.storage.ready
+        storage: root.view.storage
+        breathing: root.state === "scanning" || !root.view.storage.ready
     }
 
     // The linter of Qt 6.4 does not know that a parent change takes bindings.

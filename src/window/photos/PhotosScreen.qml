@@ -5,7 +5,7 @@ import Orlen.App
 Item {
     id: root
 
-    required property Navigation navigation
+    required property MainView view
 
     readonly property PhotoGroupsModel model: groups
     readonly property bool hasGroups: groups.stage === PhotoGroupsModel.Groups
@@ -65,7 +65,7 @@ Item {
         tone: Theme.photosTone
         text: groups.stage === PhotoGroupsModel.BeforeScan ? Strings.photosBeforeScan : Strings.noPhotos
         action: groups.stage === PhotoGroupsModel.BeforeScan ? Strings.goToSmartScan : ""
-        onTriggered: root.navigation.screen = Navigation.Home
+        onTriggered: root.view.navigation.screen = Screens.Home
     }
 
     Note {

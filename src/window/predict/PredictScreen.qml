@@ -5,7 +5,9 @@ import Orlen.App
 ScreenPage {
     id: root
 
-    title: Strings.predictTitle
+    required property MainView view
+
+    title: Screens.title(Screens.Predict)
     subtitle: Strings.predictLead
 
     PredictionModel {

@@ -6,14 +6,10 @@ Item {
     id: root
 
     required property Navigation navigation
-    /// F5 belongs to the screens whose contents it loads anew, wherever the keyboard is.
-    readonly property bool hasReload: root.navigation.screen === Navigation.DiskMap
-                                      || root.navigation.screen === Navigation.Apps
-                                      || root.navigation.screen === Navigation.Startup
     signal helpRequested
 
     Repeater {
-        model: ScreenListModel {}
+        model: Screens
 
         Item {
             id: entry
@@ -30,9 +26,9 @@ Item {
 
     Shortcut {
         enabled: root.enabled
-        sequences: root.hasReload ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
+        sequences: Screens.hasReload(root.navigation.screen) ? ["Ctrl+R"] : ["Ctrl+R", "F5"]
         onActivated: {
-            root.navigation.screen = Navigation.Home;
+            root.navigation.screen = Screens.Home;
             AppModel.results.startScan();
         }
     }

@@ -27,12 +27,13 @@ Item {
         anchors.leftMargin: sidebar.width
 
         Repeater {
-            model: ScreenListModel {}
+            model: Screens
 
             Loader {
                 id: loader
 
                 required property int screen
+                required property string component
                 readonly property bool isShown: root.navigation.screen === loader.screen
                 property bool wasShown: false
 
@@ -41,82 +42,13 @@ Item {
                 visible: loader.opacity > 0
                 enabled: loader.isShown
                 opacity: loader.isShown ? 1 : 0
-                sourceComponent: root.componentOf(loader.screen)
                 onLoaded: loader.wasShown = true
+                Component.onCompleted: loader.setSource(loader.component, { view: root })
 
                 Ease on opacity {
                     duration: Theme.screenDuration
                 }
             }
         }
-    }
-
-    Component {
-        id: home
-
-        HomeScreen {
-            navigation: root.navigation
-            storage: root.storage
-        }
-    }
-
-    Component {
-        id: photos
-
-        PhotosScreen {
-            navigation: root.navigation
-        }
-    }
-
-    Component {
-        id: ask
-
-        AskScreen {
-            navigation: root.navigation
-        }
-    }
-
-    Component {
-        id: predict
-
-        PredictScreen {}
-    }
-
-    Component {
-        id: diskMap
-
-        DiskMapScreen {}
-    }
-
-    Component {
-        id: apps
-
-        AppsScreen {}
-    }
-
-    Component {
-        id: startup
-
-        StartupScreen {
-            notices: root.notices
-        }
-    }
-
-    Component {
-        id: history
-
-        HistoryScreen {
-            notices: root.notices
-        }
-    }
-
-    Component {
-        id: safety
-
-        SafetyScreen {}
-    }
-
-    function componentOf(screen: int): Component {
-        return [home, photos, ask, predict, diskMap, apps, startup, history, safety][screen];
     }
 }

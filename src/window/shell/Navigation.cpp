@@ -1,7 +1,6 @@
 #include "window/shell/Navigation.h"
 
 #include "window/lists/DisplayText.h"
-#include "window/shell/ScreenTable.h"
 #include "window/shell/WindowState.h"
 
 #include <QSettings>
@@ -35,17 +34,12 @@ void Navigation::finishOnboarding()
     Q_EMIT onboardedChanged();
 }
 
-void Navigation::setScreen(Screen screen)
+void Navigation::setScreen(Screens::Screen screen)
 {
     if (m_screen == screen)
         return;
     m_screen = screen;
     Q_EMIT screenChanged();
-}
-
-QString Navigation::screenTitle() const
-{
-    return DisplayText::text(screenTable()[static_cast<std::size_t>(m_screen)].title);
 }
 
 Navigation::Sheet Navigation::sheet() const
@@ -84,7 +78,7 @@ void Navigation::closeSheet()
 void Navigation::followRequest()
 {
     if (const auto requested = WindowState::of(m_app).requestedScreen()) {
-        setScreen(static_cast<Screen>(*requested));
+        setScreen(*requested);
         WindowState::of(m_app).setRequestedScreen(std::nullopt);
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/shell/AppModelElement.h"
+#include "window/shell/Screens.h"
 
 #include <QObject>
 #include <QString>
@@ -14,8 +15,7 @@ class Navigation : public QObject {
     QML_ELEMENT
     /// Whether this user has finished onboarding; kept in the user's settings.
     Q_PROPERTY(bool onboarded READ isOnboarded NOTIFY onboardedChanged)
-    Q_PROPERTY(Screen screen READ screen WRITE setScreen NOTIFY screenChanged)
-    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenChanged)
+    Q_PROPERTY(orlen::Screens::Screen screen READ screen WRITE setScreen NOTIFY screenChanged)
     Q_PROPERTY(Sheet sheet READ sheet NOTIFY sheetChanged)
     /// Of the finding sheet: the finding's identity; else empty.
     Q_PROPERTY(QString findingId READ findingId NOTIFY sheetChanged)
@@ -23,18 +23,14 @@ class Navigation : public QObject {
     Q_PROPERTY(bool cleaning READ isCleaning NOTIFY cleaningChanged)
 
 public:
-    /// As `orlen::Screen`.
-    enum Screen { Home, Photos, Ask, Predict, DiskMap, Apps, Startup, History, Safety };
-    Q_ENUM(Screen)
     enum Sheet { NoSheet, FindingSheet, PlanSheet };
     Q_ENUM(Sheet)
 
     explicit Navigation(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] static bool isOnboarded();
-    [[nodiscard]] Screen screen() const { return m_screen; }
-    void setScreen(Screen screen);
-    [[nodiscard]] QString screenTitle() const;
+    [[nodiscard]] Screens::Screen screen() const { return m_screen; }
+    void setScreen(Screens::Screen screen);
     [[nodiscard]] Sheet sheet() const;
     [[nodiscard]] QString findingId() const;
     [[nodiscard]] bool isCleaning() const;
@@ -54,7 +50,7 @@ private:
     void followRequest();
 
     AppModel& m_app;
-    Screen m_screen = Home;
+    Screens::Screen m_screen = Screens::Home;
 };
 
 } // namespace orlen

@@ -25,7 +25,7 @@ Rectangle {
         activeFocusOnTab: true
         keyNavigationEnabled: false
         spacing: 2
-        model: ScreenListModel {}
+        model: Screens
         Accessible.name: Strings.screens
 
         Keys.onUpPressed: root.selected(Math.max(0, root.currentScreen - 1))

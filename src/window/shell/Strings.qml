@@ -121,7 +121,6 @@ QtObject {
     readonly property string tryOneOfThese: "Try one of these"
     readonly property string modelFooter: "Foundation Models · on device"
     readonly property string matcherFooter: "Built-in matcher · on device"
-    readonly property string askTitle: "Ask Orlen"
     readonly property string conversation: "Conversation"
     readonly property string send: "Send"
     readonly property string thinking: "Thinking…"
@@ -130,7 +129,6 @@ QtObject {
 
     // Predict
     readonly property string predictLead: "How fast each kind of data is growing, learned from your past scans."
-    readonly property string predictTitle: "Predict"
     readonly property string diskFull: "Disk full"
     readonly property string freeSpaceChart: "Free space from %1 to %2, now %3. %4. %5"
     readonly property string noForecast: "No forecast yet. %1"
@@ -141,7 +139,6 @@ QtObject {
     // Disk Map
     readonly property string diskMapLead: "Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up."
 
-    readonly property string diskMapTitle: "Disk Map"
     readonly property string measuring: "Measuring…"
     readonly property string emptyMap: "Nothing in this folder takes up space."
     readonly property string lockedMap: "Orlen may not look into this folder, or it is no longer there."
@@ -153,7 +150,6 @@ QtObject {
     readonly property string contentsOf: "Contents of %1"
 
     // Applications
-    readonly property string apps: "Applications"
     readonly property string appsLead: "Uninstall an app with its leftovers."
     readonly property string reviewAndUninstall: "Review & Uninstall…"
     readonly property string noLeftovers: "No leftovers found."
@@ -168,7 +164,6 @@ QtObject {
     readonly property string copyCommand: "Copy command"
 
     // Startup Items
-    readonly property string startup: "Startup Items"
     readonly property string startupLead: "What starts when you log in. Disabling takes effect now and stays off at the next login."
     readonly property string noLaunchAgents: "No launch agents found."
     readonly property string loginItemsLead: "macOS doesn't let apps list other apps' login items directly. Press the button to ask System Events (macOS will ask your permission), or manage them in System Settings."
@@ -188,7 +183,6 @@ QtObject {
 
     // History
     readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."
-    readonly property string historyTitle: "History"
     readonly property string nothingCleaned: "Nothing cleaned yet."
     readonly property string restore: "Restore"
     readonly property string restoring: "Restoring…"
@@ -199,7 +193,6 @@ QtObject {
     readonly property string readerOnly: "Another Orlen is open. Clean-ups can be restored from there."
 
     // How Orlen Works
-    readonly property string safetyTitle: "How Orlen Works"
     readonly property string safetyLead: "What it does, what it never does, and how far to trust it."
     readonly property var safetySections: [
         { symbol: "lock.fill", title: "Private by design", body: "Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time." },

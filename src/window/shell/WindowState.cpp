@@ -18,7 +18,7 @@ void WindowState::setSheet(std::optional<SheetKind> sheet)
     Q_EMIT sheetChanged();
 }
 
-void WindowState::setRequestedScreen(std::optional<Screen> screen)
+void WindowState::setRequestedScreen(std::optional<Screens::Screen> screen)
 {
     if (m_requestedScreen == screen)
         return;

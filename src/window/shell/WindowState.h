@@ -2,7 +2,7 @@
 
 #include "app/AppModel.h"
 #include "model/CleanPlan.h"
-#include "window/shell/Screen.h"
+#include "window/shell/Screens.h"
 
 #include <QObject>
 
@@ -39,8 +39,8 @@ public:
     void setSheet(std::optional<SheetKind> sheet);
 
     /// A screen that the main window is asked to show.
-    [[nodiscard]] std::optional<Screen> requestedScreen() const { return m_requestedScreen; }
-    void setRequestedScreen(std::optional<Screen> screen);
+    [[nodiscard]] std::optional<Screens::Screen> requestedScreen() const { return m_requestedScreen; }
+    void setRequestedScreen(std::optional<Screens::Screen> screen);
 
     /// A clean-up is shown at least this long, so that a short one can be seen.
     [[nodiscard]] std::chrono::milliseconds overlayMinimum() const { return m_overlayMinimum; }
@@ -54,7 +54,7 @@ private:
     using QObject::QObject;
 
     std::optional<SheetKind> m_sheet;
-    std::optional<Screen> m_requestedScreen;
+    std::optional<Screens::Screen> m_requestedScreen;
     std::chrono::milliseconds m_overlayMinimum{1800};
 };
 

@@ -5,18 +5,18 @@ import Orlen.App
 Item {
     id: root
 
-    required property Notices notices
+    required property MainView view
 
     StartupListModel {
         id: items
 
-        onFailed: message => root.notices.say(message)
+        onFailed: message => root.view.notices.say(message)
     }
 
     LoginItemModel {
         id: loginItems
 
-        onSettingsFailed: root.notices.say(Strings.settingsFailed)
+        onSettingsFailed: root.view.notices.say(Strings.settingsFailed)
     }
 
     Component.onCompleted: root.reload()
@@ -40,7 +40,7 @@ Item {
         id: page
 
         anchors.fill: parent
-        title: Strings.startup
+        title: Screens.title(Screens.Startup)
         subtitle: Strings.startupLead
         tools: IconButton {
             objectName: "reloadStartup"

@@ -44,7 +44,7 @@ Journey {
         compare(test.row("findingEntries", 0).name, "spotify");
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("findingEntries"));
-        compare(test.window.navigation.screen, Navigation.Ask);
+        compare(test.window.navigation.screen, Screens.Ask);
     }
 
     function test_4_enterSends() {

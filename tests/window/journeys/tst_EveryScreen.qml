@@ -29,7 +29,7 @@ Journey {
     }
 
     function test_2_afterAScan() {
-        test.window.navigation.screen = Navigation.Home;
+        test.window.navigation.screen = Screens.Home;
         AppModel.results.startScan();
         test.item("heroSentence");
         test.window.width = test.window.minimumWidth;
@@ -38,18 +38,18 @@ Journey {
     }
 
     function everyScreen() {
-        for (let screen = Navigation.Home; screen <= Navigation.Safety; ++screen) {
+        for (let screen = Screens.Home; screen <= Screens.Safety; ++screen) {
             test.window.navigation.screen = screen;
-            test.checkNames(test.window.navigation.screenTitle);
+            test.checkNames(Screens.title(screen));
         }
     }
 
     function test_3_whatUnfolds() {
-        test.window.navigation.screen = Navigation.Ask;
+        test.window.navigation.screen = Screens.Ask;
         test.clickOn("suggestion-0");
         test.item("copyAnswer");
         test.checkNames("an answer");
-        test.window.navigation.screen = Navigation.DiskMap;
+        test.window.navigation.screen = Screens.DiskMap;
         test.tabTo("diskMapForm");
         keyClick(Qt.Key_Right);
         test.row("diskMapList", 0);
@@ -57,7 +57,7 @@ Journey {
     }
 
     function test_4_sheets() {
-        test.window.navigation.screen = Navigation.Home;
+        test.window.navigation.screen = Screens.Home;
         test.clickOn("finding-caches");
         test.row("findingEntries", 1);
         test.checkNames("a finding");
@@ -80,11 +80,11 @@ Journey {
     }
 
     function test_5_sheetsOfOtherScreens() {
-        test.window.navigation.screen = Navigation.History;
+        test.window.navigation.screen = Screens.History;
         test.clickOn("unfoldButton");
         test.row("recordItems", 0);
         test.checkNames("a past clean-up");
-        test.window.navigation.screen = Navigation.Apps;
+        test.window.navigation.screen = Screens.Apps;
         test.clickOn("appSearch");
         test.type("sketch");
         tryCompare(test.item("appList"), "count", 1);

@@ -81,7 +81,7 @@ Journey {
 
     function test_7_historyPutsEverythingBack() {
         keyClick(Qt.Key_8, Qt.ControlModifier);
-        compare(test.window.navigation.screen, Navigation.History);
+        compare(test.window.navigation.screen, Screens.History);
         test.clickOn("unfoldButton");
         tryCompare(test.item("recordItems"), "count", 2);
         test.clickOn("restoreButton");

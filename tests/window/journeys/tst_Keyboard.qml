@@ -24,7 +24,7 @@ Journey {
     }
 
     function test_2_everyScreenHasItsKey() {
-        for (let screen = Navigation.Safety; screen >= Navigation.Home; --screen) {
+        for (let screen = Screens.Safety; screen >= Screens.Home; --screen) {
             keyClick(Qt.Key_1 + screen, Qt.ControlModifier);
             compare(test.window.navigation.screen, screen);
         }

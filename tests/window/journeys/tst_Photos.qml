@@ -28,7 +28,7 @@ Journey {
     function test_2_similarPhotosStandBesideTheOneThatIsKept() {
         test.clickOn("startScan");
         test.item("heroSentence");
-        test.window.navigation.screen = Navigation.Photos;
+        test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
         tryCompare(test.item("photoGrid"), "count", 2);
         compare(test.row("photoGrid", 0).name, "squares 200.bmp");
