@@ -211,7 +211,7 @@ int main(int argc, char** argv)
         return 1;
     const QStringList size = options.value("size").split('x');
     window->resize(size.value(0).toInt(), size.value(1).toInt());
-    WindowState::of(model).setRequestedScreen(static_cast<Screen>(options.value("screen").toInt()));
+    WindowState::of(model).setRequestedScreen(static_cast<Screens::Screen>(options.value("screen").toInt()));
     if (!options.isSet("at-once"))
         bringAbout(model, options);
     if (options.isSet("photos"))

@@ -2,7 +2,7 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/PreviewModel.h"
 
 #include <gtest/gtest.h>
@@ -79,22 +79,22 @@ TEST(FilePreviewTest, listsAFolderFoldersFirstAndNotWithoutEnd)
 TEST(PreviewModelTest, showsTheLatestOnly)
 {
     const TempHome home;
-    const int folder = PathTokens::tokenOf(home.path());
-    const int text = PathTokens::tokenOf(home.file("notes.txt", "words"));
+    const QString folder = PathCode::of(home.path());
+    const QString text = PathCode::of(home.file("notes.txt", "words"));
     PreviewModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setToken(folder);
+    model.setPath(folder);
     EXPECT_EQ(model.kind(), PreviewModel::Loading);
-    model.setToken(text);
+    model.setPath(text);
     EXPECT_EQ(model.name(), "notes.txt");
     ASSERT_TRUE(waitUntil([&] { return model.kind() != PreviewModel::Loading; }));
     EXPECT_EQ(model.kind(), PreviewModel::Text);
     EXPECT_EQ(model.text(), "words");
     EXPECT_EQ(model.facts(), "Plain text document · 4 KB");
-    model.setToken(folder);
+    model.setPath(folder);
     ASSERT_TRUE(waitUntil([&] { return model.kind() == PreviewModel::Folder; }));
     EXPECT_GE(model.rowCount(), 1);
-    model.setToken(0);
+    model.setPath({});
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_EQ(model.text(), "");
 }

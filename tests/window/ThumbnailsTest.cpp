@@ -2,7 +2,7 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/PictureReader.h"
 
 #include <gtest/gtest.h>
@@ -143,15 +143,10 @@ TEST(ThumbnailsTest, outlivesNobodyAndIsOutlivedByNone)
     QCoreApplication::processEvents();
 }
 
-TEST(PathTokensTest, givesEachPathOneNumber)
+TEST(PathCodeTest, keepsEveryByte)
 {
-    const std::string odd = "/home/sam/caf\xe9\n.png";
-    const int token = PathTokens::tokenOf(odd);
-    EXPECT_NE(PathTokens::tokenOf("/home/sam/other"), token);
-    EXPECT_EQ(PathTokens::tokenOf(odd), token);
-    EXPECT_EQ(PathTokens::path(token), odd);
-    for (const int unknown : {0, -1, 1'000'000})
-        EXPECT_EQ(PathTokens::path(unknown), "");
+    const std::string odd = "/home/sam/\xff%20/?#\xc3\xa9\n.png";
+    EXPECT_EQ(PathCode::path(PathCode::of(odd)), odd);
 }
 
 } // namespace orlen

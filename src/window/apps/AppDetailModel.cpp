@@ -3,7 +3,7 @@
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
-#include "window/apps/AppText.h"
+#include "window/apps/AppInfoTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/WindowState.h"
 
@@ -225,7 +225,7 @@ QString AppDetailModel::name() const
 
 QString AppDetailModel::origin() const
 {
-    return AppText::origin(m_info);
+    return AppInfoTexts::origin(m_info);
 }
 
 QString AppDetailModel::identifier() const
@@ -235,7 +235,7 @@ QString AppDetailModel::identifier() const
 
 QString AppDetailModel::icon() const
 {
-    return AppText::iconId(m_info);
+    return AppInfoTexts::iconId(m_info);
 }
 
 QString AppDetailModel::size() const
@@ -255,12 +255,12 @@ QString AppDetailModel::command() const
 
 QString AppDetailModel::heading() const
 {
-    return AppText::leftoversHeading(m_info);
+    return AppInfoTexts::leftoversHeading(m_info);
 }
 
 QString AppDetailModel::quitFirst() const
 {
-    return m_isRunning ? AppText::quitFirst(m_info) : QString();
+    return m_isRunning ? AppInfoTexts::quitFirst(m_info) : QString();
 }
 
 Qt::CheckState AppDetailModel::checkState() const
@@ -274,7 +274,7 @@ Qt::CheckState AppDetailModel::checkState() const
 
 QString AppDetailModel::chosenText() const
 {
-    return AppText::chosen(chosen().size(), m_rows.size());
+    return AppInfoTexts::chosen(chosen().size(), m_rows.size());
 }
 
 QString AppDetailModel::total() const

@@ -4,6 +4,7 @@
 #include "platform/files/Folder.h"
 #include "window/apps/IconFiles.h"
 #include "window/controls/BadgeDrawing.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/PictureReader.h"
 #include "window/shell/Screens.h"
 
@@ -64,14 +65,13 @@ QImage found(const std::string& icon, QSize size)
 
 QString AppIconProvider::id(const QString& symbol, const std::string& icon)
 {
-    // As digits, because a path may hold bytes that no text can.
-    return symbol + u'/' + QString::fromLatin1(QByteArray::fromStdString(icon).toHex());
+    return symbol + u'/' + PathCode::of(icon);
 }
 
 void AppIconProvider::draw(QImage& image, const QString& id) const
 {
-    const QByteArray icon = QByteArray::fromHex(id.section(u'/', 1, 1).toLatin1());
-    const QImage picture = icon.isEmpty() ? QImage() : found(icon.toStdString(), image.size());
+    const std::string icon = PathCode::path(id.section(u'/', 1, 1));
+    const QImage picture = icon.empty() ? QImage() : found(icon, image.size());
     QPainter painter(&image);
     if (picture.isNull()) {
         BadgeDrawing::draw(painter, id.section(u'/', 0, 0), standInColour(), QRectF(image.rect()));

@@ -2,7 +2,7 @@
 
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
-#include "window/apps/AppText.h"
+#include "window/apps/AppInfoTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <chrono>
@@ -54,7 +54,7 @@ QString AppListModel::summary() const
     std::int64_t bytes = 0;
     for (const AppInfo& app : m_apps)
         bytes = checkedAdd(bytes, app.size.value_or(0));
-    return AppText::summary(m_apps.size(), bytes);
+    return AppInfoTexts::summary(m_apps.size(), bytes);
 }
 
 void AppListModel::load()
@@ -111,7 +111,7 @@ void AppListModel::takeSizes()
     const Sizes::Known known = m_sizes->take();
     for (const auto& [row, bytes] : known) {
         m_apps[row].size = bytes;
-        rowChanged(row, Role::size, Role::bytes);
+        rowChanged(row, Role::size);
     }
     if (!known.empty())
         Q_EMIT summaryChanged();
@@ -132,13 +132,11 @@ QVariant AppListModel::value(std::size_t number, int role) const
     case Role::name:
         return DisplayText::path(app.name);
     case Role::origin:
-        return AppText::origin(app);
+        return AppInfoTexts::origin(app);
     case Role::icon:
-        return AppText::iconId(app);
+        return AppInfoTexts::iconId(app);
     case Role::size:
         return app.size ? DisplayText::size(*app.size) : QString();
-    case Role::bytes:
-        return app.size ? static_cast<double>(*app.size) : -1.0;
     }
     return {};
 }

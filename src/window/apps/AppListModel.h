@@ -29,7 +29,6 @@ public:
         origin,              ///< what kind of installation it is, and where
         icon,                ///< identity for `AppIconProvider`
         size,                ///< bytes as text; empty until measured
-        bytes,               ///< the same as a number, to sort by; -1 until measured
     };
     Q_ENUM(Role)
 

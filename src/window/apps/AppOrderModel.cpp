@@ -1,24 +1,13 @@
 #include "window/apps/AppOrderModel.h"
 
+#include "window/apps/AppInfoTexts.h"
+#include "window/lists/DisplayText.h"
+
 #include <QStringList>
 
 #include <algorithm>
 
 namespace orlen {
-
-namespace {
-
-QString textOf(const QModelIndex& index, AppListModel::Role role)
-{
-    return index.data(static_cast<int>(role)).toString();
-}
-
-double bytesOf(const QModelIndex& index)
-{
-    return index.data(static_cast<int>(AppListModel::Role::bytes)).toDouble();
-}
-
-} // namespace
 
 AppOrderModel::AppOrderModel(QObject* parent) : QSortFilterProxyModel(parent)
 {
@@ -57,23 +46,26 @@ int AppOrderModel::listRow(int row) const
     return mapToSource(index(row, 0)).row();
 }
 
-bool AppOrderModel::filterAcceptsRow(int row, const QModelIndex& parent) const
+bool AppOrderModel::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 {
-    if (m_query.isEmpty())
-        return true;
-    const QModelIndex index = sourceModel()->index(row, 0, parent);
-    const QString text =
-        textOf(index, AppListModel::Role::name) + u'\n' + textOf(index, AppListModel::Role::origin);
+    const AppInfo& app = appAt(row);
+    const QString text = DisplayText::path(app.name) + u'\n' + AppInfoTexts::origin(app);
     const QStringList words = m_query.split(u' ', Qt::SkipEmptyParts);
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
+const AppInfo& AppOrderModel::appAt(int listRow) const
+{
+    return m_list->apps()[static_cast<std::size_t>(listRow)];
+}
+
 /// The list's own order is by name.
 bool AppOrderModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    if (m_order == BySize && bytesOf(left) != bytesOf(right))
-        return bytesOf(left) > bytesOf(right);
+    const auto bytes = [this](const QModelIndex& index) { return appAt(index.row()).size.value_or(-1); };
+    if (m_order == BySize && bytes(left) != bytes(right))
+        return bytes(left) > bytes(right);
     return left.row() < right.row();
 }
 

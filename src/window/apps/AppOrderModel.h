@@ -47,6 +47,8 @@ protected:
     [[nodiscard]] bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:
+    [[nodiscard]] const AppInfo& appAt(int listRow) const;
+
     AppListModel* m_list = nullptr;
     QString m_query;
     Order m_order = ByName;

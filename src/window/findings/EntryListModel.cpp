@@ -3,7 +3,7 @@
 #include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
@@ -44,9 +44,9 @@ std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
 
 } // namespace
 
-EntryListModel::EntryListModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
+EntryListModel::EntryListModel(AppModel& app) : m_app(app), m_folders(new FolderLookup(this))
 {
-    connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
+    connect(m_folders, &FolderLookup::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
     connect(m_app.results(), &Results::findingsChanged, this, &EntryListModel::followFindings);
     connect(m_app.results(), &Results::selectionChanged, this, &EntryListModel::followSelection);
 }
@@ -319,15 +319,13 @@ QVariant EntryListModel::value(std::size_t number, int role) const
         return m_folders->isFolder(entry.path) ? QString() : Thumbnails::source(entry.path);
     case Role::marked:
         return static_cast<bool>(m_isSelected[entryIndex(row)]);
-    case Role::token:
-        return PathTokens::tokenOf(entry.path);
     }
     return {};
 }
 
-int EntryListModel::tokenAt(int row) const
+QString EntryListModel::pathAt(int row) const
 {
-    return hasRow(row) ? PathTokens::tokenOf(entryAt(row).path) : 0;
+    return hasRow(row) ? PathCode::of(entryAt(row).path) : QString();
 }
 
 QString EntryListModel::sizeAt(int row) const

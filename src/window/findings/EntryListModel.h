@@ -2,7 +2,7 @@
 
 #include "window/findings/EntryOrder.h"
 #include "window/findings/FindingHeader.h"
-#include "window/findings/FolderTest.h"
+#include "window/findings/FolderLookup.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -51,7 +51,6 @@ public:
         symbol,              ///< icon of the file
         thumbnail,           ///< source of a picture of it; empty for what is no picture
         marked,              ///< whether it is selected
-        token,               ///< number that stands for the path
     };
     Q_ENUM(Role)
 
@@ -79,8 +78,8 @@ public:
     Q_INVOKABLE void toggleShown();
     Q_INVOKABLE void selectShown();
     Q_INVOKABLE void deselectShown();
-    /// 0 for a row that is not there.
-    [[nodiscard]] Q_INVOKABLE int tokenAt(int row) const;
+    /// Its `PathCode`, for a preview.
+    [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
     /// Opens the review of everything that is selected, of other findings too.
@@ -124,7 +123,7 @@ private:
     std::int64_t m_selectedBytes = 0;
     bool m_hasNotes = false;
     bool m_isSelecting = false; ///< the selection is being changed by this model itself
-    FolderTest* m_folders;
+    FolderLookup* m_folders;
 };
 
 } // namespace orlen

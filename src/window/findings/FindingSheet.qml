@@ -14,7 +14,7 @@ Sheet {
         if (row < 0 || row >= list.count)
             return;
         list.moveTo(row);
-        look.show(contents.tokenAt(row), contents.sizeAt(row));
+        look.show(contents.pathAt(row), contents.sizeAt(row));
     }
 
     objectName: "findingSheet"

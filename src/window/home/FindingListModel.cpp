@@ -20,10 +20,8 @@ void FindingListModel::followFindings()
 {
     std::vector<Row> rows;
     for (const Finding& finding : m_app.results()->findings()) {
-        rows.push_back({finding.kind, finding.rating, finding.cleanable,
-                        finding.reason.empty() ? finding.explanation : finding.reason, finding.totalSize(),
-                        static_cast<std::int64_t>(finding.items.size()),
-                        m_app.results()->selectedSize(finding)});
+        rows.push_back({finding.kind, finding.rating, finding.cleanable, finding.totalSize(),
+                        static_cast<std::int64_t>(finding.items.size()), m_app.results()->selectedSize(finding)});
     }
     setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.kind); });
 }
@@ -64,8 +62,6 @@ QVariant FindingListModel::value(std::size_t number, int role) const
         return row.selectedSize > 0 ? DisplayText::size(row.selectedSize) : QString();
     case Role::cleanable:
         return row.isCleanable;
-    case Role::reason:
-        return DisplayText::text(row.reason);
     }
     return {};
 }

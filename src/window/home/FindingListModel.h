@@ -27,7 +27,6 @@ public:
         count,                    ///< "1 item", "12,345 items"
         selected,                 ///< bytes of the selected entries, as text; empty when there are none
         cleanable,                ///< false for what is only shown
-        reason,                   ///< a sentence that explains the rating, or what the finding is
     };
     Q_ENUM(Role)
 
@@ -43,7 +42,6 @@ private:
         FindingKind kind;
         Rating rating;
         bool isCleanable;
-        std::string reason;
         std::int64_t size;
         std::int64_t count;
         std::int64_t selectedSize;

@@ -20,8 +20,6 @@ void StorageModel::update()
             rows.push_back({category, bytes});
     }
     setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.category); });
-    // The parts change with the size of the whole, too.
-    allChanged(Role::fraction);
     Q_EMIT changed();
 }
 
@@ -71,8 +69,6 @@ QVariant StorageModel::value(std::size_t number, int role) const
         return DisplayText::colour(row.category);
     case Role::size:
         return DisplayText::size(row.bytes);
-    case Role::fraction:
-        return fraction(row.category);
     }
     return {};
 }

@@ -26,7 +26,6 @@ public:
         label = Qt::UserRole, ///< name of the category
         colour,               ///< of the category
         size,                 ///< its bytes as text
-        fraction,             ///< its part of the volume's capacity, 0 to 1
     };
     Q_ENUM(Role)
 

@@ -3,7 +3,7 @@
 #include "model/KeptSets.h"
 #include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 
@@ -136,11 +136,9 @@ void PhotoTilesModel::toggle(int row)
         m_app.results()->select(path);
 }
 
-int PhotoTilesModel::token(int row) const
+QString PhotoTilesModel::pathAt(int row) const
 {
-    if (!hasRow(row))
-        return 0;
-    return PathTokens::tokenOf(m_tiles[static_cast<std::size_t>(row)].path);
+    return hasRow(row) ? PathCode::of(m_tiles[static_cast<std::size_t>(row)].path) : QString();
 }
 
 void PhotoTilesModel::reveal(int row) const

@@ -46,8 +46,8 @@ public:
 
     /// Selects the row's photo, or takes it out of the selection; ignored for a kept one.
     Q_INVOKABLE void toggle(int row);
-    /// The photo's number for a preview; 0 when its place is not known.
-    Q_INVOKABLE [[nodiscard]] int token(int row) const;
+    /// The photo's `PathCode` for a preview; empty when its place is not known.
+    Q_INVOKABLE [[nodiscard]] QString pathAt(int row) const;
     /// Shows the row's photo in the desktop's file manager.
     Q_INVOKABLE void reveal(int row) const;
 

@@ -15,12 +15,12 @@ Item {
     property PhotoGrid previewed: null
 
     function preview(grid: PhotoGrid, row: int) {
-        const token = grid.tiles.token(row);
-        if (token === 0)
+        const path = grid.tiles.pathAt(row);
+        if (path === "")
             return;
         root.previewed = grid;
         grid.currentIndex = row;
-        look.show(token, "");
+        look.show(path, "");
     }
 
     PhotoGroupsModel {

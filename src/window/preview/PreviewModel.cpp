@@ -3,7 +3,6 @@
 #include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
-#include "window/lists/PathTokens.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 
@@ -34,12 +33,11 @@ PreviewModel::Kind kindOf(FilePreview::Kind kind)
 
 } // namespace
 
-void PreviewModel::setToken(int token)
+void PreviewModel::setPath(const QString& code)
 {
-    if (m_token == token)
+    if (path() == code)
         return;
-    m_token = token;
-    m_path = PathTokens::path(token);
+    m_path = PathCode::path(code);
     m_load.drop();
     show({}, Loading);
     if (m_path.empty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workers.h"
+#include "window/lists/PathCode.h"
 #include "window/lists/RowsModel.h"
 #include "window/preview/FilePreview.h"
 
@@ -11,12 +12,12 @@
 namespace orlen {
 
 /// The preview of one file: a picture, the beginning of a text, the names in a folder as rows, or its facts.
-/// Loaded on a worker; the latest token wins. Main thread.
+/// Loaded on a worker; the latest path wins. Main thread.
 class PreviewModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Number of the path; 0 shows nothing.
-    Q_PROPERTY(int token READ token WRITE setToken NOTIFY changed)
+    /// A `PathCode`; empty shows nothing.
+    Q_PROPERTY(QString path READ path WRITE setPath NOTIFY changed)
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
@@ -46,8 +47,8 @@ public:
 
     PreviewModel() : m_workers(*this) {}
 
-    [[nodiscard]] int token() const { return m_token; }
-    void setToken(int token);
+    [[nodiscard]] QString path() const { return PathCode::of(m_path); }
+    void setPath(const QString& code);
     [[nodiscard]] Kind kind() const { return m_kind; }
     [[nodiscard]] QString name() const;
     [[nodiscard]] QString folder() const;
@@ -72,7 +73,6 @@ private:
 
     void show(FilePreview preview, Kind kind);
 
-    int m_token = 0;
     std::string m_path;
     Kind m_kind = Loading;
     FilePreview m_preview;

@@ -10,8 +10,8 @@ Sheet {
     signal stepRequested(by: int)
 
     /// Of a path's number; the size is of a folder with all that is in it.
-    function show(token: int, size: string) {
-        model.token = token;
+    function show(path: string, size: string) {
+        model.path = path;
         root.size = size;
         root.open();
     }
@@ -23,7 +23,7 @@ Sheet {
     wantedWidth: 900
     wantedHeight: 760
     onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
-    onClosed: model.token = 0
+    onClosed: model.path = ""
 
     PreviewModel {
         id: model

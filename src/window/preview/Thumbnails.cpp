@@ -1,6 +1,6 @@
 #include "window/preview/Thumbnails.h"
 
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/preview/PictureReader.h"
 #include "window/preview/ThumbnailResponse.h"
 
@@ -37,7 +37,7 @@ private:
         const QString key = QStringLiteral("%1 %2x%3").arg(m_id).arg(m_size.width()).arg(m_size.height());
         QImage image = m_thumbnails.cached(key);
         if (image.isNull()) {
-            const std::string path = PathTokens::path(m_id.section(u'/', 0, 0).toInt());
+            const std::string path = PathCode::path(m_id.section(u'/', 0, 0));
             const bool isInside = m_id.section(u'/', 1, 1) == kInside;
             auto picture = PictureReader::read(
                 path, m_size, isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
@@ -71,7 +71,7 @@ QString Thumbnails::source(const std::string& path)
 {
     if (!PictureReader::looksReadable(path))
         return {};
-    return QStringLiteral("image://%1/%2").arg(QLatin1String(kName)).arg(PathTokens::tokenOf(path));
+    return QStringLiteral("image://%1/%2").arg(QLatin1String(kName), PathCode::of(path));
 }
 
 QQuickImageResponse* Thumbnails::requestImageResponse(const QString& id, const QSize& requestedSize)

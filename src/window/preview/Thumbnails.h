@@ -12,8 +12,8 @@
 namespace orlen {
 
 /// Small pictures of the user's pictures, decoded off the main thread at the size they are shown:
-/// "image://thumbnail/TOKEN" for the middle of the picture in exactly the shape of `sourceSize`,
-/// "image://thumbnail/TOKEN/inside" for the whole picture within it. TOKEN is of PathTokens. A request whose
+/// "image://thumbnail/PATH" for the middle of the picture in exactly the shape of `sourceSize`,
+/// "image://thumbnail/PATH/inside" for the whole picture within it. PATH is a `PathCode`. A request whose
 /// image item has gone is dropped. What cannot be read comes back without pixels: the item is then `Ready`
 /// with an `implicitWidth` of 0, and what lies below it shows. The latest 64 MB are kept.
 class Thumbnails : public QQuickAsyncImageProvider {

@@ -4,7 +4,7 @@
 #include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
-#include "window/lists/PathTokens.h"
+#include "window/lists/PathCode.h"
 #include "window/lists/RatingValue.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
@@ -32,9 +32,9 @@ QColor toneOf(const PlanSection& section)
 
 } // namespace
 
-PlanModel::PlanModel(AppModel& app) : m_app(app), m_folders(new FolderTest(this))
+PlanModel::PlanModel(AppModel& app) : m_app(app), m_folders(new FolderLookup(this))
 {
-    connect(m_folders, &FolderTest::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
+    connect(m_folders, &FolderLookup::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
     connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &PlanModel::follow);
     follow();
 }
@@ -211,8 +211,6 @@ QVariant PlanModel::value(std::size_t number, int role) const
         return state(row.section).isFolded;
     if (wanted == Role::tone)
         return toneOf(section(row.section));
-    if (wanted == Role::token)
-        return tokenAt(static_cast<int>(number));
     return isHeading ? sectionData(row.section, wanted) : entryData(row, wanted);
 }
 
@@ -253,10 +251,10 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
     return QVariant::fromValue(rating ? RatingValue(*rating) : RatingValue());
 }
 
-int PlanModel::tokenAt(int row) const
+QString PlanModel::pathAt(int row) const
 {
     const FileEntry* entry = entryAt(row);
-    return entry == nullptr ? 0 : PathTokens::tokenOf(entry->path);
+    return entry == nullptr ? QString() : PathCode::of(entry->path);
 }
 
 QString PlanModel::sizeAt(int row) const

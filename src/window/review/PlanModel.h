@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/PlanTicks.h"
-#include "window/findings/FolderTest.h"
+#include "window/findings/FolderLookup.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -25,7 +25,6 @@ class PlanModel : public orlen::RowsModel {
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
     Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
     /// What would move: each path once, and nothing that goes along with its folder.
-    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedCountText READ checkedCountText NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
     /// Whether something is checked and this program may move it.
@@ -45,7 +44,6 @@ public:
         thumbnail,              ///< source of a picture of it; empty for what is no picture
         mark,                   ///< Qt::CheckState
         folded,                 ///< whether the section's entries are hidden
-        token,                  ///< number that stands for the path; 0 for a section
     };
     Q_ENUM(Role)
 
@@ -70,8 +68,8 @@ public:
     Q_INVOKABLE void setFolded(int row, bool isFolded);
     /// The row of the heading over the row.
     [[nodiscard]] Q_INVOKABLE int headingOf(int row) const;
-    /// 0 for a section.
-    [[nodiscard]] Q_INVOKABLE int tokenAt(int row) const;
+    /// Its `PathCode`, for a preview; empty for a section.
+    [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
     /// Moves what is checked to the Trash. Only when `confirmable`.
@@ -113,7 +111,7 @@ private:
     std::vector<Row> m_rows;
     int m_entryCount = 0;
     bool m_hasNotes = false;
-    FolderTest* m_folders;
+    FolderLookup* m_folders;
 };
 
 } // namespace orlen

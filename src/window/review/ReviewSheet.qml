@@ -10,17 +10,17 @@ Sheet {
     readonly property bool isWanted: root.navigation.sheet === Navigation.PlanSheet
 
     function preview(row: int) {
-        const token = plan.tokenAt(row);
-        if (token === 0)
+        const path = plan.pathAt(row);
+        if (path === "")
             return;
         list.moveTo(row);
-        look.show(token, plan.sizeAt(row));
+        look.show(path, plan.sizeAt(row));
     }
 
     /// Goes on to the next file, over the headings.
     function step(by: int) {
         let row = list.currentIndex + by;
-        while (row >= 0 && row < list.count && plan.tokenAt(row) === 0)
+        while (row >= 0 && row < list.count && plan.pathAt(row) === "")
             row += by;
         root.preview(row);
     }
@@ -89,7 +89,7 @@ Sheet {
         cacheBuffer: 400
         model: plan
         Accessible.name: plan.title
-        onPreviewRequested: row => plan.tokenAt(row) === 0 ? plan.fold(row) : root.preview(row)
+        onPreviewRequested: row => plan.pathAt(row) === "" ? plan.fold(row) : root.preview(row)
         onToggleRequested: row => plan.toggle(row)
         onAllRequested: plan.checkAll()
         onNoneRequested: plan.uncheckAll()

@@ -12,11 +12,11 @@ namespace orlen {
 
 /// Tells folders from files without making the main thread wait for a disk: what is asked for is answered
 /// from memory, and looked at on a worker when it is not known yet. Main thread.
-class FolderTest : public QObject {
+class FolderLookup : public QObject {
     Q_OBJECT
 
 public:
-    explicit FolderTest(QObject* parent = nullptr) : QObject(parent), m_workers(*this) {}
+    explicit FolderLookup(QObject* parent = nullptr) : QObject(parent), m_workers(*this) {}
 
     /// False also while it is not known: `answered` tells when to ask again.
     [[nodiscard]] bool isFolder(const std::string& path);

@@ -8,7 +8,7 @@
 #include <cstdint>
 
 /// What the screens say of applications. Pure; any thread.
-namespace orlen::AppText {
+namespace orlen::AppInfoTexts {
 
 /// "12 applications · 4.2 GB"; without the bytes while they are 0.
 [[nodiscard]] QString summary(std::size_t applications, std::int64_t bytes);
@@ -23,4 +23,4 @@ namespace orlen::AppText {
 /// What to do first while the application runs.
 [[nodiscard]] QString quitFirst(const AppInfo& app);
 
-} // namespace orlen::AppText
+} // namespace orlen::AppInfoTexts

@@ -1,4 +1,4 @@
-#include "window/findings/FolderTest.h"
+#include "window/findings/FolderLookup.h"
 
 #include "platform/files/FileStatus.h"
 
@@ -6,7 +6,7 @@
 
 namespace orlen {
 
-bool FolderTest::isFolder(const std::string& path)
+bool FolderLookup::isFolder(const std::string& path)
 {
     const auto [known, isNew] = m_known.try_emplace(path, false);
     if (isNew) {
@@ -17,13 +17,13 @@ bool FolderTest::isFolder(const std::string& path)
 }
 
 /// Later, so that all rows of a page are looked at together.
-void FolderTest::lookSoon()
+void FolderLookup::lookSoon()
 {
     if (!std::exchange(m_isLooking, true))
-        QMetaObject::invokeMethod(this, &FolderTest::look, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &FolderLookup::look, Qt::QueuedConnection);
 }
 
-void FolderTest::look()
+void FolderLookup::look()
 {
     const auto work = [paths = std::exchange(m_waiting, {})](const std::stop_token& stop) {
         std::vector<std::string> folders;

@@ -1,9 +1,9 @@
-#include "window/apps/AppText.h"
+#include "window/apps/AppInfoTexts.h"
 
 #include "window/apps/AppIconProvider.h"
 #include "window/lists/DisplayText.h"
 
-namespace orlen::AppText {
+namespace orlen::AppInfoTexts {
 
 namespace {
 
@@ -83,4 +83,4 @@ QString quitFirst(const AppInfo& app)
     return QStringLiteral("Quit %1 first").arg(DisplayText::path(app.name));
 }
 
-} // namespace orlen::AppText
+} // namespace orlen::AppInfoTexts

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+
+/// Paths for QML, whose texts could not keep every byte: in hexadecimal digits. Pure; any thread.
+namespace orlen::PathCode {
+
+[[nodiscard]] inline QString of(const std::string& path)
+{
+    return QString::fromLatin1(QByteArray::fromStdString(path).toHex());
+}
+
+[[nodiscard]] inline std::string path(const QString& code)
+{
+    return QByteArray::fromHex(code.toLatin1()).toStdString();
+}
+
+} // namespace orlen::PathCode
