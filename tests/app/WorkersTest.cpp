@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QObject>
 
 #include <pthread.h>
+
+#include <vector>
 
 namespace orlen {
 
@@ -51,6 +54,25 @@ TEST(WorkersTest, workIsDoneEvenWhenNoThreadCanBeStarted)
         EXPECT_EQ(result, 0) << "the answer comes by the event loop as ever";
     }
     EXPECT_TRUE(waitUntil([&] { return result == 2; }));
+}
+
+TEST(WorkersTest, onlyTheLatestAnswerArrives)
+{
+    QObject owner;
+    Workers workers(owner);
+    Latest latest;
+    std::vector<int> answers;
+    for (const int number : {1, 2, 3})
+        workers.start(
+            latest, [number](const std::stop_token&) { return number; },
+            [&](int value) { answers.push_back(value); });
+    ASSERT_TRUE(waitUntil([&] { return !answers.empty(); }));
+    workers.start(
+        latest, [](const std::stop_token&) { return 4; }, [&](int value) { answers.push_back(value); });
+    latest.drop();
+    workers.finish();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(answers, std::vector<int>{3});
 }
 
 } // namespace orlen

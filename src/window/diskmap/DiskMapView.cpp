@@ -1,7 +1,6 @@
 #include "window/diskmap/DiskMapView.h"
 
 #include "platform/values/CheckedSum.h"
-#include "window/diskmap/TileStep.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/DiskMapModel.h"
 #include "window/diskmap/BreadcrumbModel.h"
+#include "window/diskmap/TileStep.h"
 #include "window/lists/RowsModel.h"
 
 #include <QPointF>
@@ -54,7 +55,12 @@ public:
     Q_ENUM(Role)
     enum Kind { Folder, File, Rest };
     Q_ENUM(Kind)
-    enum Direction { Left, Right, Up, Down };
+    enum Direction {
+        Left = static_cast<int>(TileStep::Direction::left),
+        Right = static_cast<int>(TileStep::Direction::right),
+        Up = static_cast<int>(TileStep::Direction::up),
+        Down = static_cast<int>(TileStep::Direction::down),
+    };
     Q_ENUM(Direction)
 
     DiskMapView();

@@ -38,7 +38,11 @@ class EntryListModel : public orlen::RowsModel {
     Q_PROPERTY(Qt::CheckState shownState READ shownState NOTIFY figuresChanged)
 
 public:
-    enum Key { BySize, ByName, ByDate };
+    enum Key {
+        BySize = static_cast<int>(EntryOrder::Key::size),
+        ByName = static_cast<int>(EntryOrder::Key::name),
+        ByDate = static_cast<int>(EntryOrder::Key::date),
+    };
     Q_ENUM(Key)
 
     enum class Role {

@@ -33,8 +33,11 @@ class HomeModel : public QObject {
     Q_PROPERTY(QString thresholdText READ thresholdText NOTIFY thresholdChanged)
 
 public:
-    /// As `orlen::Phase`.
-    enum Phase { Idle, Scanning, Results };
+    enum Phase {
+        Idle = static_cast<int>(orlen::Phase::idle),
+        Scanning = static_cast<int>(orlen::Phase::scanning),
+        Results = static_cast<int>(orlen::Phase::results),
+    };
     Q_ENUM(Phase)
 
     explicit HomeModel(AppModel& app = AppModelElement::model());

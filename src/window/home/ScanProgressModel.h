@@ -25,7 +25,11 @@ class ScanProgressModel : public orlen::RowsModel {
     Q_PROPERTY(bool cancelling READ isCancelling NOTIFY cancellingChanged)
 
 public:
-    enum State { Pending, Running, Done };
+    enum State {
+        Pending = static_cast<int>(StepState::pending),
+        Running = static_cast<int>(StepState::running),
+        Done = static_cast<int>(StepState::done),
+    };
     Q_ENUM(State)
 
     enum class Role {

@@ -114,12 +114,15 @@ void PhotoTilesModel::update()
 
 void PhotoTilesModel::followSelection()
 {
+    std::vector<int> changed;
     for (std::size_t row = 0; row < m_tiles.size(); ++row) {
         Tile& tile = m_tiles[row];
         const bool isSelected = !tile.isKept && m_app.results()->selection().contains(tile.path);
         if (std::exchange(tile.isSelected, isSelected) != isSelected)
-            rowChanged(row, Role::selected);
+            changed.push_back(static_cast<int>(row));
     }
+    if (!changed.empty())
+        rowsChanged(changed.front(), changed.back(), Role::selected);
 }
 
 void PhotoTilesModel::toggle(int row)

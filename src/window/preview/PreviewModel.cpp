@@ -10,29 +10,6 @@
 
 namespace orlen {
 
-namespace {
-
-PreviewModel::Kind kindOf(FilePreview::Kind kind)
-{
-    switch (kind) {
-    case FilePreview::Kind::picture:
-        return PreviewModel::Picture;
-    case FilePreview::Kind::text:
-        return PreviewModel::Text;
-    case FilePreview::Kind::folder:
-        return PreviewModel::Folder;
-    case FilePreview::Kind::other:
-        return PreviewModel::Other;
-    case FilePreview::Kind::locked:
-        return PreviewModel::Locked;
-    case FilePreview::Kind::missing:
-        return PreviewModel::Missing;
-    }
-    return PreviewModel::Missing;
-}
-
-} // namespace
-
 void PreviewModel::setPath(const QString& code)
 {
     if (path() == code)
@@ -45,7 +22,7 @@ void PreviewModel::setPath(const QString& code)
     m_workers.start(
         m_load, [path = m_path](const std::stop_token& stop) { return FilePreview::of(path, stop); },
         [this](FilePreview preview) {
-            const Kind kind = kindOf(preview.kind);
+            const Kind kind = static_cast<Kind>(preview.kind);
             show(std::move(preview), kind);
         });
 }

@@ -34,7 +34,15 @@ class PreviewModel : public orlen::RowsModel {
     Q_PROPERTY(bool cut READ isCut NOTIFY changed)
 
 public:
-    enum Kind { Loading, Picture, Text, Folder, Other, Locked, Missing };
+    enum Kind {
+        Picture = static_cast<int>(FilePreview::Kind::picture),
+        Text = static_cast<int>(FilePreview::Kind::text),
+        Folder = static_cast<int>(FilePreview::Kind::folder),
+        Other = static_cast<int>(FilePreview::Kind::other),
+        Locked = static_cast<int>(FilePreview::Kind::locked),
+        Missing = static_cast<int>(FilePreview::Kind::missing),
+        Loading,
+    };
     Q_ENUM(Kind)
 
     /// Rows are the names in a folder.
