@@ -21,7 +21,8 @@ void FindingListModel::followFindings()
     std::vector<Row> rows;
     for (const Finding& finding : m_app.results()->findings()) {
         rows.push_back({finding.kind, finding.rating, finding.cleanable, finding.totalSize(),
-                        static_cast<std::int64_t>(finding.items.size()), m_app.results()->selectedSize(finding)});
+                        static_cast<std::int64_t>(finding.items.size()),
+                        m_app.results()->selectedSize(finding)});
     }
     setRows(m_rows, std::move(rows), [](const Row& row) { return rawValue(row.kind); });
 }
