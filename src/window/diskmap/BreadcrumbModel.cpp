@@ -2,8 +2,6 @@
 
 #include "window/lists/DisplayText.h"
 
-#include <algorithm>
-
 namespace orlen {
 
 namespace {

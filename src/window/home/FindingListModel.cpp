@@ -4,8 +4,6 @@
 #include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
 
-#include <algorithm>
-
 namespace orlen {
 
 FindingListModel::FindingListModel(AppModel& app) : m_app(app)

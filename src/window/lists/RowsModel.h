@@ -6,7 +6,9 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
