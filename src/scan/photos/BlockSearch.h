@@ -24,7 +24,9 @@ struct BlockFind {
     float correlation = 0; ///< 0 to 1
 };
 
-/// A tile made ready for searching. Pure; any thread. Of some 100 kB.
+/// Finds blocks of one tile in another by normalised cross-correlation: both blocks are centred and divided
+/// by their standard deviation, so that brightness and contrast cancel out. Sums over all block positions are
+/// prepared once per tile, which leaves one dot product per place tried. About 100 kB. Pure; any thread.
 class BlockSearch {
 public:
     static constexpr int kSide = FeaturePrint::kTileSide;
@@ -32,10 +34,10 @@ public:
 
     explicit BlockSearch(const FeaturePrint::Tile& tile);
 
-    /// The blocks that have structure enough to be found again, most first.
+    /// The blocks with enough structure to be found again, the strongest first.
     [[nodiscard]] std::vector<TilePlace> texturedBlocks() const;
 
-    /// The best place of this tile's block in the other tile, at most `reach` pixels away to each side.
+    /// The best match of this tile's block in the other tile, at most `reach` pixels away in each direction.
     [[nodiscard]] BlockFind find(TilePlace block, const BlockSearch& other, int reach) const;
 
 private:

@@ -85,8 +85,8 @@ float between(const FeaturePrint::Tile& tile, float x, float y)
 CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
 {
     constexpr int kRounds = 6;
-    constexpr float kTolerance = 1.5F;  ///< pixels beside which a find counts half
-    constexpr double kStiffness = 0.02; ///< against turning and stretching, of the whole weight
+    constexpr float kTolerance = 1.5F;  ///< pixels off at which a match counts half
+    constexpr double kStiffness = 0.02; ///< ridge on rotation and stretch, relative to the total weight
     CommonMotion motion;
     for (int round = 0; round < kRounds; ++round) {
         Normals x;
@@ -134,7 +134,7 @@ float CommonMotion::squaredMiss(const BlockFind& find) const
     return x * x + y * y;
 }
 
-float CommonMotion::obedience(const BlockFind& find) const
+float CommonMotion::fit(const BlockFind& find) const
 {
     constexpr float kSquaredLimit = 2.0F * 2.0F;
     const float miss = squaredMiss(find) / kSquaredLimit;

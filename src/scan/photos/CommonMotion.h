@@ -7,23 +7,29 @@
 
 namespace orlen {
 
-/// One motion for a whole tile: shifted, turned, stretched. Pure; any thread.
+/// An affine motion of a whole tile: shift, rotation and stretch. Pure; any thread.
+///
+/// Two pictures of the same thing differ by one such motion, while blocks matched by chance scatter. The fit
+/// is iteratively reweighted least squares: a first fit over all matches, weighted by texture and
+/// correlation, then a few rounds in which a match counts less the further it lies from the last fit, so that
+/// outliers fade out. A small ridge on the rotation and stretch terms keeps few or collinear matches from
+/// bending the result.
 class CommonMotion {
 public:
-    /// The motion that most of the structure follows; blocks that went elsewhere hardly count.
+    /// The motion most of the structure follows.
     [[nodiscard]] static CommonMotion fitted(std::span<const BlockFind> finds);
 
-    /// How well a find fits in: 1 for exactly, a half at two pixels beside, towards 0.
-    [[nodiscard]] float obedience(const BlockFind& find) const;
+    /// How closely a match follows the motion: 1 exactly, one half at two pixels off, approaching 0.
+    [[nodiscard]] float fit(const BlockFind& find) const;
 
-    /// The tile taken from where this motion leads to: undoes the motion. Repeats the edge beyond it.
+    /// The tile with this motion undone. Pixels from outside repeat the edge.
     [[nodiscard]] FeaturePrint::Tile undone(const FeaturePrint::Tile& tile) const;
 
-    /// Whether all of the block still lies in the tile after the motion.
+    /// Whether the whole block is still inside the tile after the motion.
     [[nodiscard]] bool keepsInside(TilePlace block) const;
 
 private:
-    /// Pixels moved at the tile's middle, and more of them at its right and lower edges.
+    /// Pixels moved at the middle of the tile, and how many more at its right and lower edges.
     using Axis = std::array<float, 3>;
     struct Point {
         float x = 0;

@@ -47,16 +47,16 @@ public:
         m_motion = CommonMotion::fitted(m_finds);
     }
 
-    /// How much of the structure looked up so far obeys the motion.
-    [[nodiscard]] float obedientShare() const
+    /// The share of the structure found so far that follows the motion.
+    [[nodiscard]] float followingShare() const
     {
-        float obedient = 0;
+        float following = 0;
         float all = 0;
         for (const BlockFind& find : m_finds) {
-            obedient += find.texture * find.correlation * m_motion.obedience(find);
+            following += find.texture * find.correlation * m_motion.fit(find);
             all += find.texture;
         }
-        return all > 0 ? obedient / all : 0;
+        return all > 0 ? following / all : 0;
     }
 
     /// How much of the structure that should be in both tiles is in both; less when the motion leaves little.
@@ -80,7 +80,7 @@ public:
     [[nodiscard]] float agreement() const
     {
         constexpr float kObedienceWeight = 0.2F;
-        return kObedienceWeight * obedientShare() + (1 - kObedienceWeight) * commonShare();
+        return kObedienceWeight * followingShare() + (1 - kObedienceWeight) * commonShare();
     }
 
 private:
@@ -109,7 +109,7 @@ std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const F
         return 1.0F;
     forward.findBlocks(kFirstBlocks);
     backward.findBlocks(kFirstBlocks);
-    const float obedient = (forward.obedientShare() + backward.obedientShare()) / 2;
+    const float obedient = (forward.followingShare() + backward.followingShare()) / 2;
     if (obedient < kHopeless)
         return obedient;
     forward.findBlocks(kAllBlocks);

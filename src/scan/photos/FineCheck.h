@@ -4,14 +4,14 @@
 
 #include <optional>
 
-/// Looks up the fine structure of one picture in another: the second stage of `distance`. Pure;
-/// any thread.
+/// Compares the fine structure of two pictures: the second stage of `distance`. Blocks of one tile are
+/// searched in the other, one common motion is fitted to the matches, and what follows it counts. Pure; any
+/// thread.
 namespace orlen::FineCheck {
 
-/// How much of the structure of either tile is found in the other, all of it moved, turned and stretched by
-/// one common motion: 0 for none to 1 for everything. Symmetric. Takes a good part of a millisecond for
-/// pictures that agree, a quarter of it for most that do not. Nothing when neither
-/// has fine structure: out of focus, or a soft gradient.
+/// The share of either tile's structure that is found in the other under one common motion, 0 to 1.
+/// Symmetric. Just under a millisecond for pictures that agree, about a quarter of that for most others.
+/// Nothing when neither has fine structure: out of focus, or a soft gradient.
 [[nodiscard]] std::optional<float> agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other);
 
 } // namespace orlen::FineCheck

@@ -29,7 +29,7 @@ struct PhotoInfo {
 /// Turns image files into findings: near-duplicates, screenshots, receipts, memes and blurry photos.
 class PhotoAnalyzer {
 public:
-    /// Looks at one file; called on many threads at once.
+    /// Analyses one file; called from several threads at once.
     using Recognizer = std::function<std::optional<ImageAnalysis>(const std::string& path)>;
 
     PhotoAnalyzer(ScanProgress& progress, const ScanFlag& flag, Recognizer recognize)
@@ -37,14 +37,14 @@ public:
     {
     }
 
-    /// Five findings, empty ones included: `photoDuplicates`, `screenshots`, `receipts`, `memes`, `blurry`;
-    /// none for no images. Blocks; images are analysed on all cores.
+    /// Five findings, including empty ones: `photoDuplicates`, `screenshots`, `receipts`, `memes`, `blurry`.
+    /// None if there are no images. Blocks; uses all cores.
     [[nodiscard]] std::vector<Finding> run(const std::vector<Cand>& images) const;
 
-    /// The analysed pictures in the order of the input, without those that could not be read.
+    /// The pictures that could be read, in the order of the input.
     [[nodiscard]] std::vector<PhotoInfo> analyze(const std::vector<Cand>& images) const;
 
-    /// What `run` makes of analysed pictures; stopped, of some of their groups only. Pure.
+    /// The findings of analysed pictures; with some groups missing if stopped. Pure.
     [[nodiscard]] static std::vector<Finding> findings(const std::vector<PhotoInfo>& photos,
                                                        const std::stop_token& stop = {});
 

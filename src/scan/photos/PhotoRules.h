@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-/// Tells by its name, its labels and its sharpness what a single photo is. Pure; any thread.
+/// Classifies a single photo by its name, labels and sharpness. Pure; any thread.
 namespace orlen::PhotoRules {
 
 struct Verdict {
@@ -14,7 +14,7 @@ struct Verdict {
     std::string note;
 };
 
-/// The first rule that holds; nothing for a photo to leave alone.
+/// From the first rule that matches; nothing for an ordinary photo.
 [[nodiscard]] std::optional<Verdict> verdict(const PhotoInfo& photo);
 
 } // namespace orlen::PhotoRules
