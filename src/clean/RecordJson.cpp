@@ -228,7 +228,7 @@ struct Cursor {
 struct Reading {
     bool isSound = false;
     std::size_t reached = 0; ///< where reading ended
-    std::size_t taken = 0;   ///< behind the last complete record; 0 when there is none
+    std::size_t taken = 0;   ///< after the last complete record; 0 if none
 };
 
 template <typename Collector>

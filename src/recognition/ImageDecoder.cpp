@@ -128,7 +128,7 @@ Image asRgb(const Image& image, PictureUse use)
 }
 
 struct Wanted {
-    PixelSize box; ///< while it still lies as it is stored
+    PixelSize box; ///< in stored orientation
     PictureUse use;
     bool mayGrow;
 };

@@ -65,7 +65,7 @@ public:
     Number get(Number least, Number most)
     {
         const auto number = get<Number>();
-        require(number >= least && number <= most); // false for what is no number, too
+        require(number >= least && number <= most); // also false for NaN
         return m_isValid ? number : Number{};
     }
     std::string text(std::size_t longest)

@@ -36,7 +36,7 @@ void hideMemory()
 void endWithOther(int socket)
 {
     std::thread([socket] {
-        pollfd end{socket, 0, 0}; // which tells of nothing but the other end's close
+        pollfd end{socket, 0, 0}; // only reports that the other end was closed
         while ((end.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0)
             (void)::poll(&end, 1, -1);
         ::_exit(0);

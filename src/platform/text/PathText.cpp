@@ -48,7 +48,7 @@ bool isUnsafeToShow(std::int32_t c)
     case U_LINE_SEPARATOR:
     case U_PARAGRAPH_SEPARATOR:
         return true;
-    case U_FORMAT_CHAR: // those that stand before the digits they mark are drawn
+    case U_FORMAT_CHAR: // except those drawn before the digits they mark
         return !u_hasBinaryProperty(c, UCHAR_PREPENDED_CONCATENATION_MARK);
     default:
         return u_hasBinaryProperty(c, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) ||

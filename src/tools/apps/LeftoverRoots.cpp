@@ -10,7 +10,7 @@ namespace {
 using Kind = LeftoverRules::Kind;
 
 struct Row {
-    std::string_view pattern; ///< a word in braces that `Places::expand` knows, and what lies below it
+    std::string_view pattern; ///< a word of `Places::expand` and what is below it
     std::string_view label;
     Kind kind;
 };

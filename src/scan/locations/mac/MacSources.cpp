@@ -8,12 +8,12 @@ namespace {
 
 using Kind = FindingKind;
 
-SourceRow children(Kind kind, std::string_view from, std::int64_t minimum)
+SourceRow macChildren(Kind kind, std::string_view from, std::int64_t minimum)
 {
     return {.kind = kind, .layout = Layout::mac, .offered = Offered::all, .from = {from}, .minimum = minimum};
 }
 
-SourceRow single(Kind kind, std::string_view from, std::string_view note)
+SourceRow macSingle(Kind kind, std::string_view from, std::string_view note)
 {
     return {.kind = kind,
             .reading = Reading::single,
@@ -54,32 +54,34 @@ SourceRow shared(SourceRow row, std::string_view note)
 std::vector<SourceRow> macSources()
 {
     return {
-        leavingToOthers(children(Kind::caches, "{H}/Library/Caches", 100'000), {"Homebrew", "pip", "Yarn"}),
-        shared(children(Kind::caches, "{LIBRARY}/Caches", 500'000), "Shared cache"),
-        children(Kind::logs, "{H}/Library/Logs", 10'000),
-        shared(children(Kind::logs, "{LIBRARY}/Logs", 10'000), "Shared log"),
-        children(Kind::iosBackups, "{H}/Library/Application Support/MobileSync/Backup", 0),
-        children(Kind::softwareUpdates, "{H}/Library/iTunes/iPhone Software Updates", 0),
-        children(Kind::softwareUpdates, "{H}/Library/iTunes/iPad Software Updates", 0),
-        children(Kind::softwareUpdates, "{H}/Library/iTunes/iPod Software Updates", 0),
-        children(Kind::softwareUpdates, "{H}/Library/Updates", 0),
-        children(Kind::xcodeDerived, "{H}/Library/Developer/Xcode/DerivedData", 0),
-        children(Kind::xcodeArchives, "{H}/Library/Developer/Xcode/Archives", 0),
-        noted(children(Kind::simulators, "{H}/Library/Developer/CoreSimulator/Devices", 1'000'000),
+        leavingToOthers(macChildren(Kind::caches, "{H}/Library/Caches", 100'000),
+                        {"Homebrew", "pip", "Yarn"}),
+        shared(macChildren(Kind::caches, "{LIBRARY}/Caches", 500'000), "Shared cache"),
+        macChildren(Kind::logs, "{H}/Library/Logs", 10'000),
+        shared(macChildren(Kind::logs, "{LIBRARY}/Logs", 10'000), "Shared log"),
+        macChildren(Kind::iosBackups, "{H}/Library/Application Support/MobileSync/Backup", 0),
+        macChildren(Kind::softwareUpdates, "{H}/Library/iTunes/iPhone Software Updates", 0),
+        macChildren(Kind::softwareUpdates, "{H}/Library/iTunes/iPad Software Updates", 0),
+        macChildren(Kind::softwareUpdates, "{H}/Library/iTunes/iPod Software Updates", 0),
+        macChildren(Kind::softwareUpdates, "{H}/Library/Updates", 0),
+        macChildren(Kind::xcodeDerived, "{H}/Library/Developer/Xcode/DerivedData", 0),
+        macChildren(Kind::xcodeArchives, "{H}/Library/Developer/Xcode/Archives", 0),
+        noted(macChildren(Kind::simulators, "{H}/Library/Developer/CoreSimulator/Devices", 1'000'000),
               "Simulator device"),
-        single(Kind::simulators, "{H}/Library/Developer/CoreSimulator/Caches", "Simulator cache"),
-        children(Kind::deviceSupport, "{H}/Library/Developer/Xcode/iOS DeviceSupport", 0),
-        children(Kind::deviceSupport, "{H}/Library/Developer/Xcode/watchOS DeviceSupport", 0),
-        children(Kind::deviceSupport, "{H}/Library/Developer/Xcode/tvOS DeviceSupport", 0),
-        children(Kind::homebrew, "{H}/Library/Caches/Homebrew", 1'000'000),
-        single(Kind::npm, "{H}/.npm/_cacache", "npm cache"),
-        single(Kind::npm, "{H}/.npm/_logs", "npm logs"),
-        single(Kind::npm, "{H}/Library/Caches/Yarn", "Yarn cache"),
-        single(Kind::pip, "{H}/Library/Caches/pip", "pip cache"),
-        single(Kind::pip, "{H}/.cache/pip", "pip cache"),
-        single(Kind::gradle, "{H}/.gradle/caches", "Gradle cache"),
-        limited(children(Kind::trash, "{H}/.Trash", 0), 300),
-        children(Kind::mailDownloads, "{H}/Library/Containers/com.apple.mail/Data/Library/Mail Downloads", 0),
+        macSingle(Kind::simulators, "{H}/Library/Developer/CoreSimulator/Caches", "Simulator cache"),
+        macChildren(Kind::deviceSupport, "{H}/Library/Developer/Xcode/iOS DeviceSupport", 0),
+        macChildren(Kind::deviceSupport, "{H}/Library/Developer/Xcode/watchOS DeviceSupport", 0),
+        macChildren(Kind::deviceSupport, "{H}/Library/Developer/Xcode/tvOS DeviceSupport", 0),
+        macChildren(Kind::homebrew, "{H}/Library/Caches/Homebrew", 1'000'000),
+        macSingle(Kind::npm, "{H}/.npm/_cacache", "npm cache"),
+        macSingle(Kind::npm, "{H}/.npm/_logs", "npm logs"),
+        macSingle(Kind::npm, "{H}/Library/Caches/Yarn", "Yarn cache"),
+        macSingle(Kind::pip, "{H}/Library/Caches/pip", "pip cache"),
+        macSingle(Kind::pip, "{H}/.cache/pip", "pip cache"),
+        macSingle(Kind::gradle, "{H}/.gradle/caches", "Gradle cache"),
+        limited(macChildren(Kind::trash, "{H}/.Trash", 0), 300),
+        macChildren(Kind::mailDownloads, "{H}/Library/Containers/com.apple.mail/Data/Library/Mail Downloads",
+                    0),
         {.kind = Kind::oldDownloads,
          .reading = Reading::unusedChildren,
          .layout = Layout::mac,
