@@ -18,8 +18,8 @@ struct KeptFile {
     friend bool operator==(const KeptFile&, const KeptFile&) = default;
 };
 
-/// One file or folder that a finding lists. Identified by its path, which is always valid UTF-8: the history
-/// could not hold another one, so it could not be put back.
+/// One file or folder in a finding. Identified by its path, which is always valid UTF-8: the history could
+/// not store any other, so the item could not be put back.
 struct FileEntry {
     std::string path;
     std::int64_t size = 0; ///< bytes that moving this entry frees
@@ -27,10 +27,10 @@ struct FileEntry {
     std::optional<TimePoint> lastOpened;
     std::optional<Rating> rating; ///< absent: the finding's rating holds
     std::optional<std::string> note;
-    /// What stood under the path when it was looked at: only that may be moved. Absent: not known, and the
-    /// move compares nothing.
+    /// What was at the path when it was scanned: only that may be moved. Absent if unknown; then nothing is
+    /// compared.
     std::optional<FileStamp> stamp;
-    /// What makes this entry dispensable, when that is another file: it moves only while this one is there.
+    /// The other file that makes this entry redundant, if any: the entry moves only while that one is there.
     std::optional<KeptFile> kept;
 
     friend bool operator==(const FileEntry&, const FileEntry&) = default;

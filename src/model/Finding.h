@@ -12,9 +12,8 @@ namespace orlen {
 
 /// One group of entries of one kind. There is at most one finding of each kind in a result.
 struct Finding {
-    /// The one way to make a finding: texts from the catalogue, entries sorted largest first (equal sizes
-    /// keep their order), rating `review` without a reason until the Rater sets them, cleanable unless of
-    /// kind `trash`.
+    /// Takes its texts from the catalogue and sorts the entries largest first (equal sizes keep their order).
+    /// Rated `review` without a reason until the Rater decides; cleanable unless the kind is `trash`.
     Finding(FindingKind kind, std::vector<FileEntry> items);
 
     FindingKind kind;

@@ -9,28 +9,28 @@
 #include <string>
 #include <vector>
 
-/// What ticked paths move. A path has one tick, in however many lists it stands. A folder takes along what
-/// lies in it, so a ticked folder has everything ticked that is listed inside it: what is ticked is exactly
-/// what moves. Pure; any thread.
+/// The rules of ticking. A path has one tick, no matter how many lists show it. Moving a folder moves what is
+/// in it, so ticking a folder ticks everything listed inside: what is ticked is exactly what moves. Pure; any
+/// thread.
 namespace orlen::PathSelection {
 
-/// The entries that can be ticked: those of the cleanable findings, or all of a plan, in their order.
+/// The entries that can be ticked, in order: those of the cleanable findings, or all of a plan.
 [[nodiscard]] PathTree listedIn(const std::vector<Finding>& findings);
 [[nodiscard]] PathTree listedIn(const CleanPlan& plan);
 
 /// Ticks the paths, and with a folder what is listed inside it.
 void tick(std::set<std::string>& ticked, const PathTree& listed, const std::string& path);
-/// Takes the tick away, also from what is listed inside the path, and from the folders that hold it, which
-/// would take it along.
+/// Unticks the path, everything listed inside it, and the folders that contain it, since moving them would
+/// move it.
 void untick(std::set<std::string>& ticked, const PathTree& listed, const std::string& path);
-/// Ticks what is listed inside ticked folders.
+/// Ticks everything listed inside ticked folders.
 void addInside(std::set<std::string>& ticked, const PathTree& listed);
-/// Unticks the folders in which something listed is not ticked.
+/// Unticks folders that contain something unticked.
 void dropOpenFolders(std::set<std::string>& ticked, const PathTree& listed);
 
-/// The entries in path order, each path once and none that goes along with another one.
+/// The entries in path order, without repeated paths and without those inside another entry.
 [[nodiscard]] std::vector<FileEntry> outermost(std::vector<FileEntry> entries);
-/// What carrying out the plan moves: its entries as `outermost`.
+/// The entries that carrying out the plan moves, as `outermost`.
 [[nodiscard]] std::vector<FileEntry> moving(const CleanPlan& plan);
 
 struct Amount {
@@ -39,9 +39,9 @@ struct Amount {
 
     friend bool operator==(const Amount&, const Amount&) = default;
 };
-/// Of the entries that `outermost` leaves. Of a path listed with several sizes the first one counts.
+/// Of the entries `outermost` would leave. If a path is listed with several sizes, the first counts.
 [[nodiscard]] Amount amountOf(std::vector<const FileEntry*> entries);
-/// Bytes of different entries, all of them listed, by the same rule: quick where no listed path holds
+/// The same for bytes only, of distinct entries that are all listed. Fast unless listed paths contain one
 /// another.
 [[nodiscard]] std::int64_t sizeOf(std::vector<const FileEntry*> entries, const PathTree& listed);
 

@@ -9,7 +9,7 @@
 
 namespace orlen {
 
-/// The ticks of a plan's entries, under the rules of `PathSelection`: sections and entries are numbered as in
+/// The ticks of a plan's entries under the rules of `PathSelection`, with sections and entries numbered as in
 /// the plan. A change costs one pass over the entries. A plain value; any thread.
 class PlanTicks {
 public:
@@ -24,11 +24,11 @@ public:
 
     /// How many entries of the section are ticked.
     [[nodiscard]] int count(std::size_t section) const { return m_sections[section].count; }
-    /// Bytes of the section's entries that are ticked; what lies in another one of them counts once.
+    /// Bytes of the section's ticked entries; what is inside another of them counts once.
     [[nodiscard]] std::int64_t bytes(std::size_t section) const { return m_sections[section].bytes; }
     /// What would move.
     [[nodiscard]] const PathSelection::Amount& amount() const { return m_amount; }
-    /// The plan, which must be the one that this was made from, without what is not ticked.
+    /// The plan this was made from, without its unticked entries.
     [[nodiscard]] CleanPlan ticked(CleanPlan plan) const;
 
 private:

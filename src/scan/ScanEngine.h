@@ -17,14 +17,13 @@ struct ScanOptions {
     ImageWorkers::Options images;    ///< who looks at the photos
 };
 
-/// Runs one Smart Scan of the home folder. Made for each scan, run once.
+/// Runs one Smart Scan of the home folder. Use one engine per scan.
 class ScanEngine {
 public:
     explicit ScanEngine(ScanOptions options) : m_options(std::move(options)) {}
 
-    /// The findings of all steps in the order in which the steps finished, one for each kind that has
-    /// entries, not yet rated. Blocks until all steps have ended, soon after the flag is set: call it on a
-    /// worker.
+    /// The findings of all steps, in the order the steps finished: one per kind that has entries, not yet
+    /// rated. Blocks until all steps have ended, or soon after the flag is set: call it on a worker.
     [[nodiscard]] std::vector<Finding> run();
 
     [[nodiscard]] const ScanOptions& options() const { return m_options; }

@@ -40,18 +40,17 @@ struct ScanStep {
     friend bool operator==(const ScanStep&, const ScanStep&) = default;
 };
 
-/// What a scan is doing, shared by its workers and whoever shows it; all steps are pending at first. Any
-/// thread; every call holds the lock for one field access only.
+/// What a scan is doing, shared by its workers and whoever shows it. All steps start as pending. Any thread;
+/// each call holds the lock for a single field access.
 class ScanProgress {
 public:
     ScanProgress();
 
     void set(StepKind step, StepState state);
-    /// Counts one item; at every 48th the path becomes `current`.
+    /// Counts one item; every 48th path becomes `current`.
     void tick(std::string_view path);
-    /// Counts `items` at once. When that passes a multiple of 48, `path(i)`, the path of the item that did so
-    /// (the last one, counted from 0), becomes `current`; otherwise it is not called. Routines that look at
-    /// very many files count by the bufferful.
+    /// Counts `items` at once, for routines that see a great many. If a multiple of 48 is passed, `path(i)`
+    /// is called with the 0-based number of the last item to do so and becomes `current`.
     void tick(std::int64_t items, const std::function<std::string(std::int64_t)>& path);
     /// Sets `current` without counting.
     void show(std::string_view path);

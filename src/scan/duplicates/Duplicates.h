@@ -9,19 +9,18 @@
 
 namespace orlen {
 
-/// Finds files with exactly the same content. Blocks on the disk; reads several files at once on threads of
-/// its own. A file that cannot be read, or that changes while the search runs, is left out. A stopped search
-/// reports no sets.
+/// Finds files with identical content. Blocks on the disk; reads several files at once on its own threads. A
+/// file that cannot be read or changes during the search is left out. Returns no sets when stopped.
 namespace Duplicates {
 
-/// A file that the kept one makes superfluous.
+/// A file made redundant by the kept one.
 struct Copy {
     Cand file;
-    bool sharesData = false; ///< lies in the same place on disk as the kept one: removing it frees little
+    bool sharesData = false; ///< shares its blocks on disk with the kept one: removing it frees little
 };
 
-/// Files with identical content. The kept one is not listed for removal. Of several names of one file only
-/// the name preferred for keeping takes part: removing another name would free nothing.
+/// Files with identical content. Of several hard links to one file only the preferred name takes part, since
+/// removing another would free nothing.
 struct Set {
     Cand kept;
     std::vector<Copy> copies; ///< in the order of preference for keeping
@@ -34,10 +33,10 @@ struct Result {
     std::int64_t bytesHashed = 0;     ///< bytes read to hash and to compare
 };
 
-/// Sizes, then head and tail, then whole contents decide; a file is opened only when another has its size.
+/// Compares sizes, then head and tail, then whole contents. A file is opened only if another has its size.
 [[nodiscard]] Result find(const std::vector<Cand>& cands, const std::stop_token& stop);
 
-/// The `duplicates` finding: every copy but the kept one, with a note that names the kept one.
+/// The `duplicates` finding: every copy except the kept one, which its note names.
 [[nodiscard]] Finding finding(const Result& result);
 
 } // namespace Duplicates

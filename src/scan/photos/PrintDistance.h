@@ -4,8 +4,8 @@
 
 namespace orlen {
 
-/// How different two pictures look: 0 for the same picture; below 0.32 they are near-duplicates. Symmetric.
-/// The fine stage runs only where the coarse one leaves the question open. Pure; any thread.
+/// How different two pictures look: 0 for identical ones, below 0.32 for near-duplicates. Symmetric. The fine
+/// stage runs only if the coarse one is inconclusive. Pure; any thread.
 [[nodiscard]] float distance(const FeaturePrint& one, const FeaturePrint& other);
 
 } // namespace orlen

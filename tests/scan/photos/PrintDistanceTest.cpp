@@ -10,7 +10,7 @@
 #include <random>
 #include <vector>
 
-namespace orlen {
+namespace orlen::PrintDistanceTests {
 namespace {
 
 constexpr float kNearDuplicate = 0.32F;
@@ -173,4 +173,4 @@ TEST(PrintDistanceTest, extremeTilesDoNotOverflow)
 }
 
 } // namespace
-} // namespace orlen
+} // namespace orlen::PrintDistanceTests
