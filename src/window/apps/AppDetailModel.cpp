@@ -23,7 +23,7 @@ constexpr std::chrono::seconds kRunningInterval{2};
 
 } // namespace
 
-/// What a worker has found out about an application.
+/// What a worker found out about an application.
 struct AppDetailModel::Found {
     Leftovers::Finding leftovers;
     std::optional<std::int64_t> size;
@@ -119,7 +119,7 @@ void AppDetailModel::checkRunning()
         });
 }
 
-/// The size may arrive while the application is shown, and the application may be gone.
+/// The application's size may have arrived, or the application may be gone.
 void AppDetailModel::followList()
 {
     if (!m_isOpen || m_list->isLoading())
@@ -186,11 +186,11 @@ void AppDetailModel::followSheet()
     if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
         return;
     m_reviewed.reset();
-    // A confirmed review closes too, and only then does the clean-up begin.
+    // A confirmed review also closes, and the clean-up begins only after that.
     QMetaObject::invokeMethod(this, &AppDetailModel::resume, Qt::QueuedConnection);
 }
 
-/// Shows the application again as it was left.
+/// Reopens the application as it was.
 void AppDetailModel::resume()
 {
     if (m_isOpen || WindowState::of(m_app).sheet() || m_app.cleanUps()->cleaning())

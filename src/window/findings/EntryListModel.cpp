@@ -18,7 +18,7 @@ namespace orlen {
 
 namespace {
 
-/// From this many separate pieces on, to show the list anew is quicker than to take out piece by piece.
+/// With this many separate pieces, a reset is quicker than removing them one by one.
 constexpr std::size_t kMostPieces = 100;
 
 struct Piece {
@@ -26,7 +26,7 @@ struct Piece {
     int last = 0;
 };
 
-/// Which of the old entries are left, when the new ones are some of them in the same order.
+/// Marks the old entries that remain; nothing unless `now` is a subsequence of the old entries.
 std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
                                         const std::vector<FileEntry>& after)
 {
@@ -70,7 +70,7 @@ const Finding* EntryListModel::shownFinding() const
     return found == findings.end() ? nullptr : &*found;
 }
 
-/// A kind that the results do not hold has its texts all the same.
+/// A kind that is not in the results has texts, too.
 FindingHeader EntryListModel::headerOf(const Finding* finding) const
 {
     if (finding != nullptr)
@@ -129,7 +129,7 @@ void EntryListModel::removeRows(const std::vector<bool>& isKept)
         endResetModel();
         return;
     }
-    // From the end, so that the numbers before a piece stay true.
+    // From the end, so that the remaining row numbers stay valid.
     for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
         beginRemoveRows({}, piece->first, piece->last);
         m_rows.erase(m_rows.begin() + piece->first, m_rows.begin() + piece->last + 1);
@@ -137,7 +137,7 @@ void EntryListModel::removeRows(const std::vector<bool>& isKept)
     }
 }
 
-/// Takes out entries that no row shows any more.
+/// Removes entries that no row shows any more.
 void EntryListModel::dropEntries(const std::vector<bool>& isKept)
 {
     std::vector<int> newIndex(isKept.size());
@@ -244,7 +244,7 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
         m_isSelected[entryIndex(row)] = isSelected;
     }
     {
-        // Where folders are listed with what lies in them, other rows change too.
+        // When folders are listed with their contents, other rows change too.
         const QScopedValueRollback selecting(m_isSelecting, !m_app.results()->listed().isNested());
         if (isSelected)
             m_app.results()->select(paths);

@@ -13,7 +13,7 @@ namespace orlen {
 struct FileEntry;
 }
 
-/// The sentences of the sheets that hold figures. Pure; any thread.
+/// Sentences with figures for the sheets. Pure; any thread.
 namespace orlen::SheetTexts {
 
 /// "4,389 of 5,000 selected · 100 GB"
@@ -22,7 +22,7 @@ namespace orlen::SheetTexts {
 [[nodiscard]] QString items(std::int64_t count, std::int64_t bytes);
 /// "Why Safe: …"; empty without a reason.
 [[nodiscard]] QString why(Rating rating, std::string_view reason);
-/// "Opened 3/1/25", else "Modified 3/1/25", else nothing.
+/// "Opened 3/1/25", else "Modified 3/1/25", else empty.
 [[nodiscard]] QString dateOf(const FileEntry& entry);
 /// The date that `dateOf` shows.
 [[nodiscard]] std::optional<TimePoint> shownDate(const FileEntry& entry);

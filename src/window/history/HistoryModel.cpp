@@ -11,7 +11,7 @@ namespace orlen {
 
 namespace {
 
-/// A line breaks only after it.
+/// The only place where a line may break.
 const QString kJoint = QStringLiteral("\u00a0· ");
 
 QString counted(int count, const QString& one, const QString& many)
@@ -19,7 +19,7 @@ QString counted(int count, const QString& one, const QString& many)
     return DisplayText::number(count) + u' ' + (count == 1 ? one : many);
 }
 
-/// The screen on which a clean-up of this title was put together.
+/// The screen where a clean-up with this title was planned.
 const Screens::Meta& originOf(std::string_view title)
 {
     if (title == AppTexts::kScanPlanTitle)

@@ -42,7 +42,7 @@ void HomeModel::countResults()
 
 void HomeModel::countSelection()
 {
-    // A sheet covers the figure while its entries are checked one by one, perhaps in a list of 100,000.
+    // The figure is hidden behind a sheet while entries, perhaps 100,000, are checked one by one.
     if (WindowState::of(m_app).sheet())
         return;
     m_selectedCount = m_app.results()->selectedAmount().items;

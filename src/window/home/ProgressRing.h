@@ -10,7 +10,7 @@ namespace orlen {
 class ProgressRing : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// 0 to 1; values beyond, as a spring has them, are drawn as the nearest of these.
+    /// From 0 to 1; drawn clamped, as springs overshoot.
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
     Q_PROPERTY(double thickness MEMBER m_thickness WRITE setThickness NOTIFY lookChanged)
     Q_PROPERTY(QColor tone MEMBER m_tone WRITE setTone NOTIFY lookChanged)

@@ -9,8 +9,8 @@
 
 namespace orlen {
 
-/// The storage breakdown as rows, one for each category that takes space, in the order of the categories;
-/// beside them the figures of the whole volume. Main thread.
+/// The storage breakdown as rows, one per category that takes space, in category order, with the totals of
+/// the volume. Main thread.
 class StorageModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -18,14 +18,14 @@ class StorageModel : public orlen::RowsModel {
     Q_PROPERTY(bool ready READ isReady NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
     Q_PROPERTY(QString totalText READ totalText NOTIFY changed)
-    /// Used part of the volume, 0 to 1.
+    /// Used fraction of the volume, 0 to 1.
     Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)
 
 public:
     enum class Role {
         label = Qt::UserRole, ///< name of the category
         colour,               ///< of the category
-        size,                 ///< its bytes as text
+        size,                 ///< as text
     };
     Q_ENUM(Role)
 
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QString freeText() const;
     [[nodiscard]] QString totalText() const;
     [[nodiscard]] double usedFraction() const;
-    /// The category's part of the volume's capacity, 0 to 1.
+    /// The category's fraction of the volume's capacity, 0 to 1.
     [[nodiscard]] double fraction(OrlenCategory category) const;
 
 Q_SIGNALS:

@@ -81,7 +81,7 @@ QString date(TimePoint time)
 
 QString dateAndTime(TimePoint time)
 {
-    // The short form of a few languages has seconds, which say nothing to anyone here.
+    // The short form includes seconds in a few languages; nobody needs them here.
     const QLocale locale;
     return locale.toString(local(time), locale.dateTimeFormat(QLocale::ShortFormat).remove(":ss"));
 }

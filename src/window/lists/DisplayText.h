@@ -10,16 +10,16 @@
 #include <cstdint>
 #include <string_view>
 
-/// Values as the screens show them. Pure; any thread.
+/// Formats values for the screens. Pure; any thread.
 namespace orlen::DisplayText {
 
-/// Program texts, which are UTF-8.
+/// From the program's own UTF-8 texts.
 [[nodiscard]] QString text(std::string_view utf8);
-/// A file name or path made readable; never turned back into a path.
+/// A file name or path for display only: it may not convert back.
 [[nodiscard]] QString path(std::string_view bytes);
-/// The path with the home folder as "~".
+/// A path with "~" for the home folder.
 [[nodiscard]] QString shortPath(std::string_view bytes);
-/// The name of the folder that holds the path, as `shortPath`.
+/// The `shortPath` of the folder that contains the path.
 [[nodiscard]] QString folderOf(std::string_view bytes);
 /// The last component.
 [[nodiscard]] QString nameOf(std::string_view bytes);
@@ -30,9 +30,9 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString items(std::int64_t count);
 /// "< 0.1 s", "0.4 s", "12 s", "3 min 20 s".
 [[nodiscard]] QString duration(std::chrono::duration<double> time);
-/// A day, in the user's language and time zone.
+/// A date, in the user's language and time zone.
 [[nodiscard]] QString date(TimePoint time);
-/// A day and the time of the day.
+/// Date and time, likewise.
 [[nodiscard]] QString dateAndTime(TimePoint time);
 [[nodiscard]] QColor colour(OrlenCategory category);
 

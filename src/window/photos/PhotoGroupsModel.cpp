@@ -73,7 +73,7 @@ void PhotoGroupsModel::followSelection()
         if (std::exchange(m_rows[at].selected, selected) != selected)
             rowChanged(at, Role::selection, Role::checkState);
     }
-    // Also for equal figures: other photos may be selected.
+    // Even if the figures are equal: different photos may be selected.
     Q_EMIT selectedChanged();
 }
 

@@ -17,7 +17,7 @@ namespace orlen {
 namespace {
 
 constexpr int kHeading = -1;
-constexpr QRgb kUsualTone = 0xff5b5fe0; // of a section that is no kind of finding
+constexpr QRgb kUsualTone = 0xff5b5fe0; // for a section that matches no kind of finding
 
 std::size_t place(int number)
 {
@@ -108,7 +108,7 @@ void PlanModel::setAllChecked(bool isChecked)
     followTicks();
 }
 
-/// Rows of other sections may show the same path, or what lies in it.
+/// Rows in other sections may show the same path or one inside it.
 void PlanModel::followTicks()
 {
     allChanged(Role::mark, Role::folder, Role::size);
@@ -149,7 +149,7 @@ int PlanModel::headingOf(int row) const
 {
     if (!hasRow(row))
         return -1;
-    // The rows of a section follow its heading in their order.
+    // A section's rows follow its heading in order.
     return row - at(row).entry - 1;
 }
 

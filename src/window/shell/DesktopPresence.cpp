@@ -21,7 +21,7 @@ DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQml
     });
     connect(&m_tray, &Tray::quitRequested, QCoreApplication::instance(), &QCoreApplication::quit,
             Qt::QueuedConnection);
-    // The small window must not keep the program alive when the main one has been closed.
+    // The tray's panel must not keep the program alive after the main window is closed.
     connect(&window, &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (!isVisible)
             m_tray.hidePanel();

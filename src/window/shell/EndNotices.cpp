@@ -17,7 +17,7 @@ EndNotices::EndNotices(AppModel& app, DesktopNotices& notices, std::function<boo
 void EndNotices::followPhase()
 {
     const Phase before = std::exchange(m_phase, m_app.results()->phase());
-    // A cancelled scan, which ends in another phase, is no news.
+    // A cancelled scan ends in another phase and needs no notice.
     if (before == Phase::scanning && m_phase == Phase::results)
         show({WindowTexts::scanFinished(), WindowTexts::safelyFree(m_app.results()->safeBytes())});
 }

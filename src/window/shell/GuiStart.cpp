@@ -9,8 +9,8 @@ namespace orlen::GuiStart {
 
 namespace {
 
-/// Qt tells of a display that does not answer in many words and then aborts; there is no call to ask first.
-/// What it remarks before is about the same.
+/// Qt prints a long message about a display that does not answer and then aborts; it offers no way to ask
+/// first. Its earlier warnings say the same.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/)
 {
     if (type != QtFatalMsg)

@@ -15,10 +15,10 @@ namespace orlen {
 
 namespace {
 
-/// Between two sentences, so that the second one is seen, and told, to be another.
+/// Between two notices, so that eyes and screen readers notice the change.
 constexpr std::chrono::milliseconds kPause{300};
 constexpr std::chrono::milliseconds kPerCharacter{75};
-/// What can be copied has to be reached as well.
+/// A path also takes time to reach and copy.
 constexpr int kPathFactor = 2;
 
 } // namespace

@@ -4,8 +4,7 @@
 
 #include <cstdint>
 
-/// The sentences that stand for the window elsewhere, in the tray, in notices, in a terminal, and those that
-/// it says in passing. Pure.
+/// Texts for the tray, notices and the terminal. Pure.
 namespace orlen::WindowTexts {
 
 [[nodiscard]] QString name();
@@ -15,13 +14,13 @@ namespace orlen::WindowTexts {
 [[nodiscard]] QString quit();
 
 [[nodiscard]] QString scanFinished();
-/// What the scan found safe; nothing is also an answer.
+/// How much the scan found safe to remove, even if that is nothing.
 [[nodiscard]] QString safelyFree(std::int64_t safeBytes);
 [[nodiscard]] QString moved(int count);
 /// Empty for 0.
 [[nodiscard]] QString couldNotBeMoved(int count);
 
-/// Of a path that is ready to show.
+/// `path` is ready to show.
 [[nodiscard]] QString cannotReveal(const QString& path);
 
 [[nodiscard]] const char* alreadyOpen();

@@ -39,7 +39,7 @@ StartupListModel::~StartupListModel() = default;
 void StartupListModel::load()
 {
     setLoading(true);
-    // What is read now would not be what holds after the change.
+    // Reading now would miss the result of the change.
     if (!m_wanted.empty())
         return;
     m_workers.start(
@@ -60,7 +60,7 @@ void StartupListModel::toggle(int row)
         return;
     if (!m_wanted.emplace(item.path, isWanted).second)
         return;
-    // A list that is being read may hold the old value: it is read again afterwards.
+    // A list being read may contain the old value, so it is read again afterwards.
     m_load.drop();
     rowsChanged(row, row);
     m_workers.start([item, isWanted](const std::stop_token&) { return LaunchControl::set(item, isWanted); },

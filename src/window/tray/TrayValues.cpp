@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-/// The bus library finds the type of a slot's or signal's parameter by the name that is written there.
+/// Qt's D-Bus library finds a parameter's type by the name written in the slot or signal.
 template <typename List>
 void registerList(const char* name)
 {
@@ -22,7 +22,7 @@ TrayPixmap TrayPixmap::fromImage(const QImage& image)
 {
     const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
     TrayPixmap pixmap{argb.width(), argb.height(), QByteArray(argb.sizeInBytes(), Qt::Uninitialized)};
-    // Four bytes a pixel leave no gap at the end of a line.
+    // With four bytes per pixel, lines have no padding.
     qToBigEndian<quint32>(argb.constBits(), argb.sizeInBytes() / 4, pixmap.bytes.data());
     return pixmap;
 }

@@ -9,8 +9,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// The values that a tray item and its menu exchange with the desktop, with their form on the bus. Field
-/// names follow the two protocols.
+/// The values that a tray item and its menu exchange with the desktop, and their D-Bus encoding. Field names
+/// follow the two protocols.
 namespace orlen {
 
 /// (iiay): ARGB, the most significant byte first.
@@ -31,7 +31,7 @@ struct TrayToolTip {
     QString text;
 };
 
-/// (ia{sv}av): one entry of the menu with those below it.
+/// (ia{sv}av): a menu entry with its children.
 struct TrayMenuNode {
     int id = 0;
     QVariantMap properties;
@@ -74,7 +74,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNames& na
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuEvent& event);
 const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& event);
 
-/// Makes the values known to the bus library; before the first of them is sent or read.
+/// Registers the types with Qt's D-Bus library. Call before the first one is sent or read.
 void registerTrayValues();
 
 } // namespace orlen
