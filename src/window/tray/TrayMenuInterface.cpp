@@ -107,7 +107,7 @@ QList<int> TrayMenuInterface::EventGroup(const TrayMenuEvents& events)
     QList<int> unknown;
     for (const TrayMenuEvent& event : events) {
         if (isEntry(event.id))
-            Event(event.id, event.name, QDBusVariant(event.data), event.time);
+            Event(event.id, event.name, event.data, event.time);
         else
             unknown.append(event.id);
     }

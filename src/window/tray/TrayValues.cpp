@@ -27,38 +27,6 @@ TrayPixmap TrayPixmap::fromImage(const QImage& image)
     return pixmap;
 }
 
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayPixmap& pixmap)
-{
-    argument.beginStructure();
-    argument << pixmap.width << pixmap.height << pixmap.bytes;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayPixmap& pixmap)
-{
-    argument.beginStructure();
-    argument >> pixmap.width >> pixmap.height >> pixmap.bytes;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayToolTip& tip)
-{
-    argument.beginStructure();
-    argument << tip.icon << tip.pixmaps << tip.title << tip.text;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayToolTip& tip)
-{
-    argument.beginStructure();
-    argument >> tip.icon >> tip.pixmaps >> tip.title >> tip.text;
-    argument.endStructure();
-    return argument;
-}
-
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNode& node)
 {
     argument.beginStructure();
@@ -83,56 +51,6 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNode& nod
     }
     argument.endArray();
     argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuProperties& properties)
-{
-    argument.beginStructure();
-    argument << properties.id << properties.properties;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuProperties& properties)
-{
-    argument.beginStructure();
-    argument >> properties.id >> properties.properties;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNames& names)
-{
-    argument.beginStructure();
-    argument << names.id << names.names;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNames& names)
-{
-    argument.beginStructure();
-    argument >> names.id >> names.names;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuEvent& event)
-{
-    argument.beginStructure();
-    argument << event.id << event.name << QDBusVariant(event.data) << event.time;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& event)
-{
-    QDBusVariant data;
-    argument.beginStructure();
-    argument >> event.id >> event.name >> data >> event.time;
-    argument.endStructure();
-    event.data = data.variant();
     return argument;
 }
 
