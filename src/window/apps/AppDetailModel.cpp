@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <span>
 #include <utility>
 
@@ -37,8 +38,6 @@ AppDetailModel::AppDetailModel(AppModel& app) : m_app(app), m_workers(*this)
     m_runningTimer.setInterval(kRunningInterval);
     connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
 }
-
-AppDetailModel::~AppDetailModel() = default;
 
 void AppDetailModel::setList(AppListModel* list)
 {
@@ -202,10 +201,8 @@ void AppDetailModel::resume()
 
 void AppDetailModel::setOpen(bool isOpen)
 {
-    if (isOpen == m_isOpen)
-        return;
-    m_isOpen = isOpen;
-    Q_EMIT openChanged();
+    if (std::exchange(m_isOpen, isOpen) != isOpen)
+        Q_EMIT openChanged();
 }
 
 std::vector<FileEntry> AppDetailModel::chosen() const
@@ -218,63 +215,19 @@ std::vector<FileEntry> AppDetailModel::chosen() const
     return entries;
 }
 
-QString AppDetailModel::name() const
-{
-    return DisplayText::path(m_info.name);
-}
-
-QString AppDetailModel::origin() const
-{
-    return AppInfoTexts::origin(m_info);
-}
-
-QString AppDetailModel::identifier() const
-{
-    return DisplayText::path(m_info.bundleID);
-}
-
-QString AppDetailModel::icon() const
-{
-    return AppInfoTexts::iconId(m_info);
-}
-
-QString AppDetailModel::size() const
-{
-    return m_info.size ? DisplayText::size(*m_info.size) : QString();
-}
-
-QString AppDetailModel::advice() const
-{
-    return DisplayText::path(m_info.advice);
-}
-
-QString AppDetailModel::command() const
-{
-    return DisplayText::path(m_info.adviceCommand);
-}
-
-QString AppDetailModel::heading() const
-{
-    return AppInfoTexts::leftoversHeading(m_info);
-}
-
 QString AppDetailModel::quitFirst() const
 {
-    return m_isRunning ? AppInfoTexts::quitFirst(m_info) : QString();
+    return m_isRunning ? QStringLiteral("Quit %1 first").arg(name()) : QString();
 }
 
 Qt::CheckState AppDetailModel::checkState() const
 {
-    const auto checked =
-        std::count_if(m_rows.begin(), m_rows.end(), [](const Row& r) { return r.isChecked; });
-    if (checked == 0)
-        return Qt::Unchecked;
-    return static_cast<std::size_t>(checked) == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+    return checkStateOf(std::ranges::count(m_rows, true, &Row::isChecked), m_rows.size());
 }
 
 QString AppDetailModel::chosenText() const
 {
-    return AppInfoTexts::chosen(chosen().size(), m_rows.size());
+    return DisplayText::selectedOf(std::ssize(chosen()), length());
 }
 
 QString AppDetailModel::total() const
@@ -283,11 +236,6 @@ QString AppDetailModel::total() const
     for (const FileEntry& entry : chosen())
         bytes = checkedAdd(bytes, entry.size);
     return m_info.size ? DisplayText::size(bytes) : QString();
-}
-
-bool AppDetailModel::isReady() const
-{
-    return isRemovable() && !m_isLoading && m_info.size.has_value();
 }
 
 QVariant AppDetailModel::value(std::size_t number, int role) const

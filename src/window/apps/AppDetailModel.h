@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tools/apps/Leftovers.h"
+#include "window/apps/AppInfoTexts.h"
 #include "window/apps/AppListModel.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -59,29 +61,28 @@ public:
     Q_ENUM(Role)
 
     explicit AppDetailModel(AppModel& app = AppModelElement::model());
-    ~AppDetailModel() override;
 
     [[nodiscard]] AppListModel* list() const { return m_list; }
     void setList(AppListModel* list);
 
     [[nodiscard]] bool isOpen() const { return m_isOpen; }
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString origin() const;
-    [[nodiscard]] QString identifier() const;
-    [[nodiscard]] QString icon() const;
-    [[nodiscard]] QString size() const;
+    [[nodiscard]] QString name() const { return DisplayText::path(m_info.name); }
+    [[nodiscard]] QString origin() const { return AppInfoTexts::origin(m_info); }
+    [[nodiscard]] QString identifier() const { return DisplayText::path(m_info.bundleID); }
+    [[nodiscard]] QString icon() const { return AppInfoTexts::iconId(m_info); }
+    [[nodiscard]] QString size() const { return m_info.size ? DisplayText::size(*m_info.size) : QString(); }
     [[nodiscard]] bool isRemovable() const { return m_info.isRemovable(); }
-    [[nodiscard]] QString advice() const;
-    [[nodiscard]] QString command() const;
+    [[nodiscard]] QString advice() const { return DisplayText::path(m_info.advice); }
+    [[nodiscard]] QString command() const { return DisplayText::path(m_info.adviceCommand); }
     [[nodiscard]] bool isApple() const { return Leftovers::isApple(m_info.bundleID); }
-    [[nodiscard]] QString heading() const;
+    [[nodiscard]] QString heading() const { return AppInfoTexts::leftoversHeading(m_info); }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isOtherCopyInstalled() const { return m_isOtherCopyInstalled; }
     [[nodiscard]] QString quitFirst() const;
     [[nodiscard]] Qt::CheckState checkState() const;
     [[nodiscard]] QString chosenText() const;
     [[nodiscard]] QString total() const;
-    [[nodiscard]] bool isReady() const;
+    [[nodiscard]] bool isReady() const { return isRemovable() && !m_isLoading && m_info.size.has_value(); }
 
     /// Shows the application in this row of the list and searches for its leftovers.
     Q_INVOKABLE void show(int listRow);

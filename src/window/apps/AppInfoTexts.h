@@ -18,9 +18,5 @@ namespace orlen::AppInfoTexts {
 [[nodiscard]] QString iconId(const AppInfo& app);
 /// The heading over the leftovers.
 [[nodiscard]] QString leftoversHeading(const AppInfo& app);
-/// How many leftovers are checked.
-[[nodiscard]] QString chosen(std::size_t chosen, std::size_t leftovers);
-/// Asks to quit the running application first.
-[[nodiscard]] QString quitFirst(const AppInfo& app);
 
 } // namespace orlen::AppInfoTexts

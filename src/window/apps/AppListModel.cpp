@@ -47,8 +47,6 @@ AppListModel::AppListModel(AppModel& app) : m_workers(*this)
     load();
 }
 
-AppListModel::~AppListModel() = default;
-
 QString AppListModel::summary() const
 {
     std::int64_t bytes = 0;
@@ -119,10 +117,8 @@ void AppListModel::takeSizes()
 
 void AppListModel::setLoading(bool isLoading)
 {
-    if (isLoading == m_isLoading)
-        return;
-    m_isLoading = isLoading;
-    Q_EMIT loadingChanged();
+    if (std::exchange(m_isLoading, isLoading) != isLoading)
+        Q_EMIT loadingChanged();
 }
 
 QVariant AppListModel::value(std::size_t number, int role) const

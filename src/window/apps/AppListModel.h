@@ -33,7 +33,6 @@ public:
     Q_ENUM(Role)
 
     explicit AppListModel(AppModel& app = AppModelElement::model());
-    ~AppListModel() override;
 
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isMeasuring() const { return m_sizes != nullptr; }

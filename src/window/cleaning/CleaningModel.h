@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/cleaning/FailureListModel.h"
+#include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 #include "window/shell/WindowState.h"
 
@@ -42,14 +43,14 @@ public:
 
     [[nodiscard]] bool isFinished() const { return m_state.finished; }
     [[nodiscard]] double fraction() const;
-    [[nodiscard]] QString planTitle() const;
-    [[nodiscard]] QString current() const;
+    [[nodiscard]] QString planTitle() const { return DisplayText::path(m_state.planTitle); }
+    [[nodiscard]] QString current() const { return DisplayText::path(m_state.current); }
     [[nodiscard]] QString progressText() const;
     [[nodiscard]] int moved() const { return m_state.moved; }
-    [[nodiscard]] QString movedText() const;
+    [[nodiscard]] QString movedText() const { return DisplayText::number(m_state.moved); }
     [[nodiscard]] int failed() const { return m_state.failed; }
-    [[nodiscard]] QString failedText() const;
-    [[nodiscard]] QString freedText() const;
+    [[nodiscard]] QString failedText() const { return DisplayText::number(m_state.failed); }
+    [[nodiscard]] QString freedText() const { return DisplayText::size(m_state.freed); }
     [[nodiscard]] FailureListModel* failures() { return &m_failures; }
     [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }
     [[nodiscard]] bool isStopping() const { return m_isStopping && !m_state.finished; }

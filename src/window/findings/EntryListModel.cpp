@@ -1,6 +1,5 @@
 #include "window/findings/EntryListModel.h"
 
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathCode.h"
@@ -26,7 +25,7 @@ struct Piece {
     int last = 0;
 };
 
-/// Marks the old entries that remain; nothing unless `now` is a subsequence of the old entries.
+/// Marks the old entries that remain; nothing unless `after` is a subsequence of `before`.
 std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
                                         const std::vector<FileEntry>& after)
 {
@@ -275,20 +274,10 @@ void EntryListModel::count()
 QString EntryListModel::selectedText() const
 {
     if (!m_header.isCleanable)
-        return SheetTexts::items(entryCount(), sizeOf(m_entries));
-    return SheetTexts::selected(m_selectedCount, entryCount(), m_selectedBytes);
-}
-
-QString EntryListModel::selectedSizeText() const
-{
-    return DisplayText::size(m_selectedBytes);
-}
-
-Qt::CheckState EntryListModel::shownState() const
-{
-    if (m_shownCount == 0)
-        return Qt::Unchecked;
-    return m_shownCount == rowCount() ? Qt::Checked : Qt::PartiallyChecked;
+        return QStringLiteral("%1 · %2").arg(DisplayText::counted(entryCount(), "item"),
+                                             DisplayText::size(sizeOf(m_entries)));
+    return QStringLiteral("%1 · %2").arg(DisplayText::selectedOf(m_selectedCount, entryCount()),
+                                         DisplayText::size(m_selectedBytes));
 }
 
 std::size_t EntryListModel::entryIndex(int row) const
@@ -308,7 +297,7 @@ QVariant EntryListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(entry.size);
     case Role::date:
-        return SheetTexts::dateOf(entry);
+        return DisplayText::dateOf(entry);
     case Role::note:
         return DisplayText::path(entry.note.value_or(""));
     case Role::rating:

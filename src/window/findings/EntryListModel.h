@@ -3,6 +3,7 @@
 #include "window/findings/EntryOrder.h"
 #include "window/findings/FindingHeader.h"
 #include "window/findings/FolderLookup.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -71,8 +72,8 @@ public:
     [[nodiscard]] int entryCount() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int selectedCount() const { return m_selectedCount; }
     [[nodiscard]] QString selectedText() const;
-    [[nodiscard]] QString selectedSizeText() const;
-    [[nodiscard]] Qt::CheckState shownState() const;
+    [[nodiscard]] QString selectedSizeText() const { return DisplayText::size(m_selectedBytes); }
+    [[nodiscard]] Qt::CheckState shownState() const { return checkStateOf(m_shownCount, m_rows.size()); }
 
     /// Sorts by the key, or reverses the order if already sorted by it.
     Q_INVOKABLE void sortBy(orlen::EntryListModel::Key key);

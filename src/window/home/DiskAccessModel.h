@@ -20,7 +20,7 @@ class DiskAccessModel : public QObject {
 public:
     explicit DiskAccessModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] bool isGranted() const;
+    [[nodiscard]] bool isGranted() const { return m_app.results()->isFdaGranted(); }
     [[nodiscard]] QString command() const { return m_command; }
 
     /// Copies the command to the clipboard.

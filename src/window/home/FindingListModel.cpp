@@ -56,7 +56,7 @@ QVariant FindingListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(row.size);
     case Role::count:
-        return DisplayText::items(row.count);
+        return DisplayText::counted(row.count, "item");
     case Role::selected:
         return row.selectedSize > 0 ? DisplayText::size(row.selectedSize) : QString();
     case Role::cleanable:

@@ -49,26 +49,6 @@ void HomeModel::countSelection()
     Q_EMIT selectionChanged();
 }
 
-HomeModel::Phase HomeModel::phase() const
-{
-    return static_cast<Phase>(m_app.results()->phase());
-}
-
-bool HomeModel::hasFindings() const
-{
-    return !m_app.results()->findings().empty();
-}
-
-QString HomeModel::safeText() const
-{
-    return DisplayText::size(m_safeBytes);
-}
-
-QString HomeModel::totalText() const
-{
-    return DisplayText::size(m_totalBytes);
-}
-
 QString HomeModel::unreadableText() const
 {
     const std::int64_t count = m_app.results()->unreadableFolders().count;
@@ -82,16 +62,6 @@ QString HomeModel::unreadableFolders() const
     for (const std::string& path : m_app.results()->unreadableFolders().paths)
         lines << DisplayText::shortPath(path);
     return lines.join('\n');
-}
-
-bool HomeModel::hasSelection() const
-{
-    return !m_app.results()->selection().empty();
-}
-
-QString HomeModel::selectedText() const
-{
-    return DisplayText::items(m_selectedCount);
 }
 
 QStringList HomeModel::thresholds()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QObject>
@@ -43,15 +44,15 @@ public:
 
     explicit HomeModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] Phase phase() const;
-    [[nodiscard]] bool hasFindings() const;
+    [[nodiscard]] Phase phase() const { return static_cast<Phase>(m_app.results()->phase()); }
+    [[nodiscard]] bool hasFindings() const { return !m_app.results()->findings().empty(); }
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
-    [[nodiscard]] QString safeText() const;
-    [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString safeText() const { return DisplayText::size(m_safeBytes); }
+    [[nodiscard]] QString totalText() const { return DisplayText::size(m_totalBytes); }
     [[nodiscard]] QString unreadableText() const;
     [[nodiscard]] QString unreadableFolders() const;
-    [[nodiscard]] bool hasSelection() const;
-    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] bool hasSelection() const { return !m_app.results()->selection().empty(); }
+    [[nodiscard]] QString selectedText() const { return DisplayText::counted(m_selectedCount, "item"); }
     [[nodiscard]] static QStringList thresholds();
     [[nodiscard]] int threshold() const;
     void setThreshold(int index);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scan/ScanProgress.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -41,7 +42,7 @@ public:
 
     explicit ScanProgressModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] QString files() const;
+    [[nodiscard]] QString files() const { return DisplayText::number(m_files); }
     [[nodiscard]] QString current() const { return m_current; }
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
 

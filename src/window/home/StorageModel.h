@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -31,9 +32,9 @@ public:
 
     explicit StorageModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] bool isReady() const;
-    [[nodiscard]] QString freeText() const;
-    [[nodiscard]] QString totalText() const;
+    [[nodiscard]] bool isReady() const { return m_app.storage()->isBreakdownReady(); }
+    [[nodiscard]] QString freeText() const { return DisplayText::size(m_app.storage()->breakdown().free); }
+    [[nodiscard]] QString totalText() const { return DisplayText::size(m_app.storage()->breakdown().total); }
     [[nodiscard]] double usedFraction() const;
     /// The category's fraction of the volume's capacity, 0 to 1.
     [[nodiscard]] double fraction(OrlenCategory category) const;

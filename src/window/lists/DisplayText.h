@@ -10,6 +10,10 @@
 #include <cstdint>
 #include <string_view>
 
+namespace orlen {
+struct FileEntry;
+}
+
 /// Formats values for the screens. Pure; any thread.
 namespace orlen::DisplayText {
 
@@ -26,13 +30,21 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString size(std::int64_t bytes);
 /// A whole number with the separators of the user's language.
 [[nodiscard]] QString number(std::int64_t value);
-/// "1 item", "12,345 items".
-[[nodiscard]] QString items(std::int64_t count);
+/// "1 item", "12,345 items": with "s" for the plural.
+[[nodiscard]] QString counted(std::int64_t count, const char* noun);
+/// "12 of 340 selected"
+[[nodiscard]] QString selectedOf(std::int64_t count, std::int64_t total);
 /// "< 0.1 s", "0.4 s", "12 s", "3 min 20 s".
 [[nodiscard]] QString duration(std::chrono::duration<double> time);
 /// A date, in the user's language and time zone.
 [[nodiscard]] QString date(TimePoint time);
-/// Date and time, likewise.
+/// "Opened 3/1/25"
+[[nodiscard]] QString opened(TimePoint time);
+/// "Modified 3/1/25"
+[[nodiscard]] QString modified(TimePoint time);
+/// "Opened 3/1/25", else "Modified 3/1/25", else empty.
+[[nodiscard]] QString dateOf(const FileEntry& entry);
+/// Date and time, in the user's language and time zone.
 [[nodiscard]] QString dateAndTime(TimePoint time);
 [[nodiscard]] QColor colour(OrlenCategory category);
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -38,6 +39,9 @@ protected:
     [[nodiscard]] virtual QVariant value(std::size_t number, int role) const = 0;
 
     [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < length(); }
+
+    /// The state of a box that stands for `all` boxes, of which `checked` are checked.
+    [[nodiscard]] static Qt::CheckState checkStateOf(std::int64_t checked, std::size_t all);
 
     /// Signals that these roles of the rows changed; without roles, all of them.
     template <typename... Roles>

@@ -89,7 +89,6 @@ private:
     void replace(std::vector<Finding> findings);
     [[nodiscard]] const Row* rowOf(const QString& id) const;
     [[nodiscard]] Selected selectedOf(const Finding& finding) const;
-    [[nodiscard]] static Qt::CheckState checkStateOf(const Row& row);
 
     AppModel& m_app;
     std::vector<Row> m_rows;

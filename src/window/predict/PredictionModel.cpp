@@ -45,20 +45,10 @@ void PredictionModel::update()
     Q_EMIT changed();
 }
 
-QString PredictionModel::headline() const
-{
-    return DisplayText::text(m_prediction.headline);
-}
-
-QString PredictionModel::detail() const
-{
-    return DisplayText::text(m_prediction.detail);
-}
-
 QString PredictionModel::snapshotsText() const
 {
     const auto count = static_cast<std::int64_t>(m_app.storage()->snapshots().size());
-    return count == 1 ? QStringLiteral("1 snapshot") : DisplayText::number(count) + " snapshots";
+    return DisplayText::counted(count, "snapshot");
 }
 
 QString PredictionModel::firstDate() const

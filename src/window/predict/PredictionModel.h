@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/predict/ForecastCurve.h"
 #include "window/shell/AppModelElement.h"
@@ -37,8 +38,8 @@ public:
 
     explicit PredictionModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] QString headline() const;
-    [[nodiscard]] QString detail() const;
+    [[nodiscard]] QString headline() const { return DisplayText::text(m_prediction.headline); }
+    [[nodiscard]] QString detail() const { return DisplayText::text(m_prediction.detail); }
     [[nodiscard]] bool warns() const { return m_prediction.warn; }
     [[nodiscard]] bool hasEnoughData() const { return m_prediction.enoughData; }
     [[nodiscard]] QString snapshotsText() const;

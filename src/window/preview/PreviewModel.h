@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workers.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/RowsModel.h"
 #include "window/preview/FilePreview.h"
@@ -58,8 +59,8 @@ public:
     [[nodiscard]] QString path() const { return PathCode::of(m_path); }
     void setPath(const QString& code);
     [[nodiscard]] Kind kind() const { return m_kind; }
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString folder() const;
+    [[nodiscard]] QString name() const { return DisplayText::nameOf(m_path); }
+    [[nodiscard]] QString folder() const { return DisplayText::folderOf(m_path); }
     [[nodiscard]] QString symbol() const;
     [[nodiscard]] QString picture() const;
     [[nodiscard]] QString text() const { return m_preview.text; }

@@ -2,6 +2,7 @@
 
 #include "model/PlanTicks.h"
 #include "window/findings/FolderLookup.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -52,9 +53,9 @@ public:
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
     [[nodiscard]] int entryCount() const { return m_entryCount; }
     [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
-    [[nodiscard]] QString checkedCountText() const;
-    [[nodiscard]] QString checkedSizeText() const;
-    [[nodiscard]] bool isConfirmable() const;
+    [[nodiscard]] QString checkedCountText() const { return DisplayText::number(checkedCount()); }
+    [[nodiscard]] QString checkedSizeText() const { return DisplayText::size(m_ticks.amount().bytes); }
+    [[nodiscard]] bool isConfirmable() const { return checkedCount() > 0 && m_app.isWriter(); }
 
     /// Checks or unchecks the row's entry, or all entries of a section. Includes the entries inside it and,
     /// when unchecking, the folders that contain it. All functions that take a row ignore one that does not
@@ -86,9 +87,6 @@ private:
         int section = 0;
         int entry = 0; ///< -1: the section's heading
     };
-    struct SectionState {
-        bool isFolded = false;
-    };
 
     void follow();
     void show(const CleanPlan& plan);
@@ -96,8 +94,6 @@ private:
     void followTicks();
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     [[nodiscard]] const PlanSection& section(int number) const;
-    [[nodiscard]] SectionState& state(int number) { return m_states[static_cast<std::size_t>(number)]; }
-    [[nodiscard]] const SectionState& state(int number) const;
     [[nodiscard]] const FileEntry* entryAt(int row) const;
     [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
     [[nodiscard]] QVariant sectionData(int number, Role role) const;
@@ -106,7 +102,7 @@ private:
     AppModel& m_app;
     std::optional<CleanPlan> m_plan;
     PlanTicks m_ticks;
-    std::vector<SectionState> m_states; ///< of each section
+    std::vector<bool> m_isFolded; ///< of each section
     std::vector<Row> m_rows;
     int m_entryCount = 0;
     bool m_hasNotes = false;

@@ -1,7 +1,5 @@
 #include "window/shell/GuiStart.h"
 
-#include "window/shell/WindowTexts.h"
-
 #include <cstdio>
 #include <cstdlib>
 
@@ -15,7 +13,8 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 {
     if (type != QtFatalMsg)
         return;
-    std::fprintf(stderr, "orlen: %s\n", WindowTexts::noDisplay());
+    std::fputs("orlen: the window cannot be opened on this display; `orlen scan` works without one.\n",
+               stderr);
     std::_Exit(EXIT_FAILURE);
 }
 

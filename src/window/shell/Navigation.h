@@ -33,7 +33,7 @@ public:
     void setScreen(Screens::Screen screen);
     [[nodiscard]] Sheet sheet() const;
     [[nodiscard]] QString findingId() const;
-    [[nodiscard]] bool isCleaning() const;
+    [[nodiscard]] bool isCleaning() const { return m_app.cleanUps()->cleaning().has_value(); }
 
     Q_INVOKABLE void finishOnboarding();
     /// Opens the detail sheet of this finding; ignored if there is none.

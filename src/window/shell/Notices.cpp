@@ -2,7 +2,6 @@
 
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -29,7 +28,7 @@ Notices::Notices(AppModel& app)
     connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
     if (const Reveal* reveal = Reveal::current())
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
-            add({WindowTexts::cannotReveal(path), path});
+            add({QStringLiteral("No program could show this item: %1").arg(path), path});
         });
     for (const std::string& sentence : app.notices())
         say(DisplayText::text(sentence));

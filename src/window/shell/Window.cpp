@@ -14,7 +14,6 @@
 #include "window/shell/GuiStart.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/RunningInstance.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -134,7 +133,7 @@ int run(int argc, char** argv)
     case RunningInstance::Claim::raisedOther:
         return EXIT_SUCCESS;
     case RunningInstance::Claim::blocked:
-        std::fprintf(stderr, "orlen: %s\n", WindowTexts::alreadyOpen());
+        std::fputs("orlen: Orlen is open already.\n", stderr);
         return EXIT_FAILURE;
     }
     return EXIT_FAILURE;

@@ -16,8 +16,6 @@ struct LoginItemModel::Change {
 
 LoginItemModel::LoginItemModel() : m_workers(*this) {}
 
-LoginItemModel::~LoginItemModel() = default;
-
 void LoginItemModel::load()
 {
     m_workers.start([](const std::stop_token&) { return LoginItems::isRegistered(); },

@@ -32,7 +32,6 @@ public:
     Q_ENUM(Names)
 
     LoginItemModel();
-    ~LoginItemModel() override;
 
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }
     [[nodiscard]] bool isBusy() const { return m_isBusy; }

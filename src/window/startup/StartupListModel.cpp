@@ -34,8 +34,6 @@ QString failure(const LaunchItem& item)
 
 StartupListModel::StartupListModel() : m_workers(*this) {}
 
-StartupListModel::~StartupListModel() = default;
-
 void StartupListModel::load()
 {
     setLoading(true);
@@ -91,10 +89,8 @@ bool StartupListModel::isOn(const LaunchItem& item) const
 
 void StartupListModel::setLoading(bool isLoading)
 {
-    if (isLoading == m_isLoading)
-        return;
-    m_isLoading = isLoading;
-    Q_EMIT loadingChanged();
+    if (std::exchange(m_isLoading, isLoading) != isLoading)
+        Q_EMIT loadingChanged();
 }
 
 QVariant StartupListModel::value(std::size_t number, int role) const

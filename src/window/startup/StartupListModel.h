@@ -36,7 +36,6 @@ public:
     Q_ENUM(Role)
 
     StartupListModel();
-    ~StartupListModel() override;
 
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
 

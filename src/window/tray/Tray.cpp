@@ -1,7 +1,6 @@
 #include "window/tray/Tray.h"
 
 #include "window/controls/SymbolDrawing.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -38,8 +37,8 @@ TrayPixmaps pixmaps()
 
 TrayItem::Look look()
 {
-    return {WindowTexts::name(), QStringLiteral("drive-harddisk-symbolic"), pixmaps(), WindowTexts::open(),
-            WindowTexts::quit()};
+    return {QStringLiteral("Orlen"), QStringLiteral("drive-harddisk-symbolic"), pixmaps(), Tray::openLabel(),
+            QStringLiteral("Quit")};
 }
 
 /// Next to `place` and fully on its screen. Without a place, the corner where trays usually are.
