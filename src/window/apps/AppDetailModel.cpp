@@ -3,7 +3,6 @@
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
-#include "window/apps/AppInfoTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/WindowState.h"
 
