@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-/// What was loaded; of what went wrong a sentence is added to the notices.
+/// The loaded value. Adds a sentence to the notices if something went wrong.
 template <typename Record>
 std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFile& file,
                           std::vector<std::string>& notices)
@@ -53,7 +53,7 @@ void AppModel::lock(Access access)
 {
     if (access != Access::writer)
         return;
-    // Without a data folder, or locks on its file system, there is nothing to tell another Orlen by.
+    // Without a data folder, or on a file system without locks, another Orlen cannot be detected.
     const auto folder = Persist::makeDir();
     auto lock = folder.ok() ? FolderLock::take(folder.value()) : Errno{folder.error()};
     m_isWriter = lock.error() != EWOULDBLOCK;
@@ -65,11 +65,10 @@ std::vector<CleanRecord> AppModel::loadHistory()
 {
     const Persist::Loaded<CleanRecord> loaded = Persist::loadHistory();
     std::vector<CleanRecord> history = taken(loaded, AppTexts::kHistory, m_notices);
-    // What was begun belongs to records that cannot be seen now.
+    // An unfinished clean-up belongs to records that cannot be read now.
     if (loaded.problem == Persist::Problem::unreadable)
         return history;
-    // Who only reads wants to see what a killed clean-up moved all the same, unless that is at work
-    // elsewhere.
+    // A reader still wants to see what a killed clean-up moved, unless it is running in another process.
     const auto lock = !m_isWriter && History::isUnfinished() ? FolderLock::take(Persist::dir())
                                                              : Result<FolderLock>(Errno{EWOULDBLOCK});
     if (m_isWriter || lock.ok())

@@ -16,12 +16,12 @@ namespace orlen {
 
 struct AskContext;
 
-/// The one state of the program, in three parts: the results of the last Smart Scan, the clean-ups with their
+/// The state of the program, in three parts: the results of the last Smart Scan, the clean-ups and their
 /// history, and the storage with its snapshots. The window and the command line are both views of it.
 ///
-/// Belongs to the main thread, as everything here does, and needs its event loop: work that blocks runs on
-/// workers and its results arrive by signals. Destroying the model cancels what is in progress and waits for
-/// it; a clean-up or a restore finishes the item in hand and is recorded.
+/// Lives on the main thread, like everything in this folder, and needs its event loop: blocking work runs on
+/// workers and reports back by signals. Destroying the model cancels what is running and waits for it; a
+/// clean-up or restore finishes its current item and is recorded.
 class AppModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(orlen::Results* results READ results CONSTANT)
@@ -31,18 +31,19 @@ class AppModel : public QObject {
 
 public:
     enum class Startup {
-        full,      ///< for a window: also measures, records a stale snapshot, and keeps free space up to date
-        filesOnly, ///< for one command: loads the two files and probes the disk access
+        full,      ///< for a window: also measures the disk, takes a snapshot when one is due, and keeps free
+                   ///< space up to date
+        filesOnly, ///< for a single command: only loads the two files and checks disk access
     };
     enum class Access {
-        writer, ///< saves history and snapshots, if no other process does
+        writer, ///< saves history and snapshots, unless another process does
         reader, ///< never saves
     };
 
     struct Options {
         Startup startup = Startup::full;
         Access access = Access::writer;
-        ImageWorkers::Options images; ///< who looks at the photos
+        ImageWorkers::Options images; ///< how photos are analysed
     };
 
     explicit AppModel(const Options& options, QObject* parent = nullptr);
@@ -52,11 +53,11 @@ public:
     [[nodiscard]] CleanUps* cleanUps() const { return m_cleanUps.get(); }
     [[nodiscard]] Storage* storage() const { return m_storage.get(); }
 
-    /// Whether this model saves: it was asked to, and no other process holds the data folder.
+    /// Whether this model saves: it was asked to, and no other process has locked the data folder.
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
-    /// What the user should know of the program's own files since the start, one sentence each; mostly none.
+    /// Problems with the program's own files found at startup, one sentence each; usually none.
     [[nodiscard]] const std::vector<std::string>& notices() const { return m_notices; }
-    /// What a question about the storage is answered from.
+    /// The facts that questions about storage are answered from.
     [[nodiscard]] AskContext askContext() const;
 
 private:
@@ -68,7 +69,7 @@ private:
     std::vector<std::string> m_notices;
     std::unique_ptr<Storage> m_storage;
     std::unique_ptr<Results> m_results;
-    std::unique_ptr<CleanUps> m_cleanUps; ///< last: what it records is forgotten nowhere
+    std::unique_ptr<CleanUps> m_cleanUps; ///< last: destroyed first, while what it records into still exists
 };
 
 } // namespace orlen

@@ -6,27 +6,27 @@
 /// The sentences of the application model. Pure.
 namespace orlen::AppTexts {
 
-/// Where a command or the window ends before it has begun.
+/// For a command or window that gives up before it starts.
 inline constexpr std::string_view kSilentHome =
     "the home folder lies on a network disk that does not answer; try again when it does.";
 inline constexpr std::string_view kSilentTrash =
     "the Trash or the history lies on a network disk that does not answer, so nothing was moved.";
 inline constexpr std::string_view kScanPlanTitle = "Smart Scan clean-up";
 
-/// A file of the program's own in the words of a sentence.
+/// One of the program's own files, as a sentence names it.
 struct OwnFile {
     std::string_view subject; ///< "The history …"
-    std::string_view stem;    ///< of its name
+    std::string_view stem;    ///< of the file name
 };
 inline constexpr OwnFile kHistory{"The history of clean-ups", "history"};
 inline constexpr OwnFile kSnapshots{"The record of past scans", "scans"};
 
-/// Of a file that is not understood in full.
+/// For a file that could not be fully parsed.
 [[nodiscard]] std::string damaged(const OwnFile& file);
-/// Of a file that is there but cannot be read; `error` is the errno.
+/// For a file that exists but cannot be read; `error` is the errno.
 [[nodiscard]] std::string unreadable(const OwnFile& file, int error);
 
-/// What a restore tells the user.
+/// The outcome of a restore.
 [[nodiscard]] std::string restored(int restored, int failed);
 
 } // namespace orlen::AppTexts

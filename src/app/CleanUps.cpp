@@ -30,7 +30,7 @@ CleanUps::CleanUps(std::vector<CleanRecord> history, Access access, Results& res
 CleanUps::~CleanUps()
 {
     m_workers.finish();
-    // What was moved must not be forgotten because the window was closed meanwhile.
+    // Moved items must be recorded even if the window was closed in the meantime.
     for (const PendingCleanUp& pending : m_pending) {
         if (pending->has_value())
             (void)History::add(m_history, (*pending)->record);
@@ -74,7 +74,7 @@ void CleanUps::confirm(const CleanPlan& plan)
 
 Cleaner::Progress CleanUps::cleaningReport(int number)
 {
-    // Runs on the worker, which hands `show` on and never calls it.
+    // Runs on the worker, which passes `show` on but never calls it.
     const std::function<void(int, const std::string&)> show =
         [this, number](int done, const std::string& current) { showCleaning(number, done, current); };
     return [mainThread = m_workers.mainThread(), show,
@@ -125,7 +125,7 @@ bool CleanUps::keep(const CleanRecord& record)
     std::set<std::string> moved;
     for (const TrashedItem& item : record.items)
         moved.insert(item.original);
-    // What was listed inside a moved folder went along.
+    // Entries inside a moved folder moved with it.
     PathSelection::addInside(moved, m_results.listed());
     m_results.removeFromFindings(moved);
     return isSaved;

@@ -20,14 +20,14 @@ namespace {
 
 constexpr std::size_t kSandboxFileLimit = 65'536;
 
-/// What a link names counts, as it does for the programs that keep their data there.
+/// Follows links, as the programs that keep their data there do.
 std::string followed(const std::string& folder)
 {
     return folder + "/.";
 }
 
-/// Whether nothing is there: no entry of that name, no folder that could hold it, or a link to nothing. Not
-/// what is only out of reach; but a place that does not answer says nothing about what the program may do.
+/// Whether nothing is there: no such entry, no parent folder, or a dangling link. A path that is only out of
+/// reach does not count, but one that does not answer does: it says nothing about permissions.
 bool isMissing(const std::string& path)
 {
     const auto end = linkEnd(path);
@@ -51,7 +51,7 @@ bool grantsHome(const std::string& list)
     return false;
 }
 
-/// Reads the description that a Flatpak sandbox puts into itself.
+/// Reads the description file that Flatpak puts inside a sandbox.
 bool sandboxGrantsHome(const std::string& description)
 {
     constexpr std::string_view kKey = "filesystems=";

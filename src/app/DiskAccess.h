@@ -6,14 +6,14 @@ namespace orlen {
 
 struct Places;
 
-/// Whether the program may read what it would scan. Main thread; a listing of three folders at most.
+/// Whether the program may read what it would scan. Main thread; lists at most three folders.
 namespace DiskAccess {
 
-/// A protected folder of the home folder decides when it exists. Otherwise access is granted unless a sandbox
-/// withholds the home folder or the user's own folders cannot be listed; a missing folder counts as granted.
+/// If the home folder has a protected folder, that one decides. Otherwise access is granted unless a sandbox
+/// hides the home folder or the user's own folders cannot be listed; a missing folder counts as readable.
 [[nodiscard]] bool isGranted(const Places& places);
 
-/// The command that lets the program out of the sandbox it runs in; empty when it runs in none.
+/// The command that gives the sandboxed program access to the home folder; empty outside a sandbox.
 [[nodiscard]] std::string grantingCommand(const Places& places);
 
 } // namespace DiskAccess

@@ -35,7 +35,7 @@ void DiskMapModel::load()
     const int generation = ++m_generation;
     setLoading(true);
     setNodes({});
-    // Whoever heard of that may have started a newer load already.
+    // A slot may already have started a newer load.
     if (generation != m_generation)
         return;
     m_loadStop =
@@ -45,7 +45,7 @@ void DiskMapModel::load()
                                 return;
                             m_isReadable = contents.isReadable;
                             setNodes(std::move(contents.nodes));
-                            // The same again: a load that this led to is still running.
+                            // As above: a load started by a slot is still running.
                             if (generation == m_generation)
                                 setLoading(false);
                         });
@@ -138,7 +138,7 @@ void DiskMapModel::setPointer(std::optional<Pointer> pointer)
     updateHover();
 }
 
-/// Also when the nodes change under a pointer that rests: a number of the old ones means nothing any more.
+/// Also called when the nodes change under a resting pointer, as the old index is no longer valid.
 void DiskMapModel::updateHover()
 {
     const auto hover = m_pointer ? Treemap::hit(m_nodes, m_pointer->point, m_pointer->view) : std::nullopt;

@@ -15,16 +15,16 @@
 
 namespace orlen {
 
-/// The disk map: one folder shown at a time, the way down to it, and what the pointer does to the map.
+/// The disk map: the folder shown, the path down to it, and how the map reacts to the pointer.
 ///
-/// Belongs to the main thread and needs its event loop. Measuring runs on a worker; the latest load wins, an
-/// older one is stopped at once and its result dropped. Destroying the model stops what is in progress.
+/// Lives on the main thread and needs its event loop. Measuring runs on a worker. A new load stops the
+/// previous one and drops its result. Destroying the model stops a load in progress.
 class DiskMapModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
 
 public:
-    /// Shows nothing until the first load.
+    /// Empty until the first load.
     explicit DiskMapModel(std::string start = Places::current().home, QObject* parent = nullptr);
     ~DiskMapModel() override;
 
@@ -36,26 +36,27 @@ public:
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     /// Whether the folder shown could be read when it was last loaded.
     [[nodiscard]] bool isReadable() const { return m_isReadable; }
-    /// Number of the node under the pointer.
+    /// Index of the node under the pointer.
     [[nodiscard]] std::optional<std::size_t> hover() const { return m_hover; }
-    /// The node under the pointer, for its name and size and to reveal it; null when there is none.
+    /// The node under the pointer; null when there is none.
     [[nodiscard]] const TreeNode* hoveredNode() const;
 
-    /// Lists and measures the current folder anew.
+    /// Measures the current folder again.
     void load();
-    /// To the folder above, unless the start folder is shown.
+    /// Goes to the parent folder; ignored in the start folder.
     void up();
-    /// To a folder of the stack. An index beyond it stops the program.
+    /// Goes to a folder of the stack. An index out of range stops the program.
     void goTo(std::size_t index);
-    /// Into a node's folder; nothing happens for a file or for the grouped node.
+    /// Goes into a node's folder; ignored for a file and for the grouped node.
     void zoomInto(std::size_t node);
 
-    /// A click: zooms into what is under the point.
+    /// Zooms into the node under the point.
     void click(Treemap::Point point, Treemap::Size view);
     void movePointer(Treemap::Point point, Treemap::Size view);
     /// The pointer has left the map.
     void removePointer();
-    /// A piece of a pinch. Far enough out it goes up, far enough in it zooms into what is under the pointer.
+    /// One step of a pinch. Pinching out far enough goes up; pinching in far enough zooms into the node under
+    /// the pointer.
     void magnify(double magnification);
 
 Q_SIGNALS:
@@ -70,7 +71,7 @@ private:
         Treemap::Size view;
     };
 
-    /// What a load brings.
+    /// The result of a load.
     struct Contents {
         std::vector<TreeNode> nodes;
         bool isReadable = true;
@@ -89,8 +90,8 @@ private:
     bool m_isReadable = true;
     std::optional<Pointer> m_pointer;
     std::optional<std::size_t> m_hover;
-    double m_magnification = 0; ///< since the last time that it led to something
-    int m_generation = 0;       ///< number of the latest load
+    double m_magnification = 0; ///< since it last caused a move
+    int m_generation = 0;       ///< of the latest load
     std::stop_source m_loadStop{std::nostopstate};
 
     Workers m_workers; ///< last, so that no worker outlives what it shares

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-/// Values in the form that both the command line and the window show. Pure.
+/// Formats values for both the command line and the window. Pure.
 namespace orlen::Format {
 
 /// "1 item", "12,345 items".
@@ -15,11 +15,11 @@ namespace orlen::Format {
 [[nodiscard]] std::string grouped(std::int64_t number);
 /// "0.4 s", "12 s", "3 min 20 s"
 [[nodiscard]] std::string duration(double seconds);
-/// Day and time in the user's time zone.
+/// Date and time in the user's time zone.
 [[nodiscard]] std::string localTime(TimePoint time);
 /// A path on one line, with "~" for the home folder.
 [[nodiscard]] std::string shownPath(std::string_view path);
-/// A path as it was given, on one line, in quotation marks.
+/// The path as given, on one line, in quotation marks.
 [[nodiscard]] std::string quoted(std::string_view path);
 
 } // namespace orlen::Format

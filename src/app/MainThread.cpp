@@ -9,7 +9,7 @@ namespace orlen {
 
 void MainThread::post(std::function<void()> task) const
 {
-    // Only the main thread looks whether the receiver still lives: nowhere else would the answer hold.
+    // Checked on the main thread only: anywhere else the receiver could die right after the check.
     const auto deliver = [receiver = m_receiver, task = std::move(task)] {
         if (receiver)
             task();

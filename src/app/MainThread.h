@@ -8,15 +8,14 @@ class QObject;
 
 namespace orlen {
 
-/// The way back to the main thread for workers, which know none of its objects. Copyable; any thread. The
-/// application object, through which everything is posted, must outlive the workers.
+/// Lets workers post tasks to the main thread without touching its objects. Copyable; any thread. Tasks go
+/// through the application object, which must outlive the workers.
 class MainThread {
 public:
-    /// Made on the main thread, for an object that lives there.
+    /// Main thread only; `receiver` lives there.
     explicit MainThread(QObject& receiver) : m_receiver(&receiver) {}
 
-    /// Runs the task on the main thread, later, from its event loop; drops it when the receiver is gone by
-    /// then.
+    /// Runs the task later from the main thread's event loop, or drops it if the receiver is gone by then.
     void post(std::function<void()> task) const;
 
 private:

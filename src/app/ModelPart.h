@@ -6,8 +6,7 @@
 
 namespace orlen {
 
-/// What the parts of the application model have in common: they belong to one thread, and report a change of
-/// a value after it.
+/// Base of the application model's parts: bound to one thread, and signals a change once it is made.
 class ModelPart : public QObject {
     Q_OBJECT
 
@@ -15,7 +14,7 @@ public:
     using QObject::QObject;
 
 protected:
-    /// Ends the program on any other thread.
+    /// Stops the program when called on another thread.
     void checkThread() const;
 
     template <typename Part, typename T>

@@ -48,7 +48,7 @@ std::set<std::string> preselected(const std::vector<Finding>& findings)
                 paths.insert(entry.path);
         }
     }
-    // A folder would take along what is not to be chosen without a look.
+    // Moving a folder would also move entries that need a review first.
     PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
     return paths;
 }
@@ -64,7 +64,7 @@ Results::Results(Storage& storage, ImageWorkers::Options images, QObject* parent
     : ModelPart(parent), m_storage(storage), m_images(std::move(images)), m_isFdaGranted(checkFDA()),
       m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
 {
-    // Before anyone else hears of other findings.
+    // Before anyone is notified of the new findings.
     connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
 }
 

@@ -23,7 +23,7 @@ class ScanProgress;
 class Storage;
 struct StorageBreakdown;
 
-/// The Smart Scan and what the last one found, with what the user has selected of it. Main thread; the scan
+/// Runs the Smart Scan and holds the findings of the last one and the user's selection. Main thread; the scan
 /// runs on a worker.
 class Results : public ModelPart {
     Q_OBJECT
@@ -32,68 +32,69 @@ class Results : public ModelPart {
     Q_PROPERTY(bool fdaGranted READ isFdaGranted NOTIFY fdaGrantedChanged)
 
 public:
-    /// A scan hands its storage breakdown to `storage`, which outlives this; `images` is who looks at photos.
+    /// A scan passes its storage breakdown to `storage`, which outlives this. `images` says how photos are
+    /// analysed.
     Results(Storage& storage, ImageWorkers::Options images, QObject* parent = nullptr);
     ~Results() override;
 
     [[nodiscard]] Phase phase() const { return m_phase; }
     /// Of the last scan, in display order: most Safe bytes first, then most bytes.
     [[nodiscard]] const std::vector<Finding>& findings() const { return m_findings; }
-    /// Paths of the entries that the user has chosen to clean: with a folder also what the findings list
-    /// inside it, as that goes along.
+    /// Paths of the entries selected for cleaning. With a folder, also the entries listed inside it, because
+    /// they move with it.
     [[nodiscard]] const std::set<std::string>& selection() const { return m_selection; }
     /// Decimal megabytes from which a file counts as large.
     [[nodiscard]] double largeThresholdMB() const { return m_largeThresholdMB; }
     [[nodiscard]] bool isFdaGranted() const { return m_isFdaGranted; }
-    /// Of the current or last scan; an empty one before the first.
+    /// Of the current or last scan; empty before the first.
     [[nodiscard]] const ScanProgress& scanProgress() const { return *m_scanProgress; }
     [[nodiscard]] const std::optional<TimePoint>& lastScan() const { return m_lastScan; }
     struct Unreadable {
         std::int64_t count = 0;
         std::vector<std::string> paths; ///< in order, at most 1,000, valid UTF-8
     };
-    /// The folders that the last scan wanted to look into and could not; changes with `findings`.
+    /// The folders that the last scan could not read; changes with `findings`.
     [[nodiscard]] const Unreadable& unreadableFolders() const { return m_unreadable; }
 
     void setSelection(std::set<std::string> selection);
-    /// Adds paths to the selection, or takes them out together with the folders that would take them along,
-    /// at the cost of those paths alone. One `selectionChanged` tells of all of them, and none when nothing
-    /// changes.
+    /// Adds paths to the selection, or removes them and any selected folder that contains them. The cost
+    /// depends only on the number of paths given. Emits `selectionChanged` at most once.
     void select(std::span<const std::string> paths);
     void deselect(std::span<const std::string> paths);
-    /// A value that is not finite, or too large in bytes for 64 bits, stops the program at the next scan.
+    /// A value that is not finite, or does not fit into 64 bits as bytes, stops the program at the next scan.
     void setLargeThresholdMB(double megabytes);
 
     /// Whether the program may read protected folders.
     [[nodiscard]] static bool checkFDA();
-    /// Probes the disk access again: the user may have granted it meanwhile.
+    /// Checks disk access again: the user may have granted it in the meantime.
     Q_INVOKABLE void refreshAccess();
 
-    /// Starts a Smart Scan unless one is running. The phase turns to `results` at its end, or back to `idle`
-    /// with everything as it was before when it was cancelled.
+    /// Starts a Smart Scan unless one is running. The phase ends as `results`, or as `idle` with everything
+    /// unchanged if the scan was cancelled.
     Q_INVOKABLE void startScan();
-    /// Asks the scan to end soon; ignored when none is running.
+    /// Asks the scan to stop; ignored when none is running.
     Q_INVOKABLE void cancelScan();
     /// Leaves the results.
     Q_INVOKABLE void resetToIdle();
     /// Returns to the results of the last scan; ignored when there are none, or while a scan is running.
     Q_INVOKABLE void showResults();
 
-    /// Bytes of all entries of the cleanable findings.
+    /// Bytes of all entries in the cleanable findings.
     [[nodiscard]] std::int64_t totalFound() const;
     /// Bytes of the entries rated Safe in the cleanable findings.
     [[nodiscard]] std::int64_t safeBytes() const;
-    /// The findings of the category of photos.
+    /// The findings in the photos category.
     [[nodiscard]] std::vector<Finding> photoFindings() const;
-    /// Bytes of the finding's selected entries; what lies in another one of them counts once.
+    /// Bytes of the finding's selected entries; nested entries count once.
     [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
-    /// What a clean-up of the whole selection would move: each path once, in however many findings it is.
+    /// What cleaning up the whole selection would move; each path counts once, even if several findings list
+    /// it.
     [[nodiscard]] PathSelection::Amount selectedAmount() const;
-    /// The paths that can be selected.
+    /// The selectable paths.
     [[nodiscard]] const PathTree& listed() const;
-    /// The plan of the current selection: one section for each cleanable finding, without protected paths.
+    /// The plan for the current selection: a section for each cleanable finding, without protected paths.
     [[nodiscard]] CleanPlan scanPlan() const;
-    /// Takes entries out of the results and the selection.
+    /// Removes entries from the results and the selection.
     void removeFromFindings(const std::set<std::string>& paths);
 
 Q_SIGNALS:
@@ -116,7 +117,7 @@ private:
     const ImageWorkers::Options m_images;
     Phase m_phase = Phase::idle;
     std::vector<Finding> m_findings;
-    mutable std::optional<PathTree> m_listed; ///< of these findings; made when first needed
+    mutable std::optional<PathTree> m_listed; ///< of these findings; built when first needed
     std::set<std::string> m_selection;
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;

@@ -12,7 +12,7 @@ namespace orlen {
 namespace {
 
 constexpr std::chrono::hours kSnapshotAge{12};
-/// Scans in quick succession are one reading of the disk.
+/// Scans in quick succession count as one reading of the disk.
 constexpr std::chrono::hours kReplacedAge{1};
 constexpr std::size_t kSnapshotLimit = 400;
 constexpr std::chrono::seconds kVolumeInterval{60};
@@ -23,8 +23,8 @@ void keepNewest(std::vector<Snapshot>& snapshots)
         snapshots.erase(snapshots.begin(), snapshots.end() - kSnapshotLimit);
 }
 
-/// Whether a new snapshot takes the place of the newest. Not past midnight: a scan every half hour would
-/// never leave a second one.
+/// Whether a new snapshot replaces the newest. Never across midnight, or scanning every half hour would never
+/// leave a second one.
 bool isReplaced(const std::vector<Snapshot>& snapshots, TimePoint now)
 {
     using std::chrono::days;
@@ -60,7 +60,7 @@ void Storage::refreshBreakdown(Recording recording)
     checkThread();
     const auto measure = [saving = m_saving](const std::stop_token& stop) {
         Safety::refresh();
-        // The Trash may have been emptied meanwhile.
+        // The Trash may have been emptied in the meantime.
         if (saving == Saving::snapshots)
             Reserve::refill();
         return StorageBreakdown::compute(stop);
@@ -113,7 +113,7 @@ void Storage::recordSnapshot()
         m_snapshots.pop_back();
     m_snapshots.push_back(std::move(snapshot));
     keepNewest(m_snapshots);
-    // A lost snapshot costs only a little of the forecast.
+    // Losing a snapshot barely affects the forecast.
     if (m_saving == Saving::snapshots)
         (void)Persist::saveSnapshots(m_snapshots);
     Q_EMIT snapshotsChanged();

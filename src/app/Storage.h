@@ -13,8 +13,8 @@
 
 namespace orlen {
 
-/// How the disk is used: the storage breakdown, what earlier ones have read (the snapshots), and the space of
-/// the volume. Main thread.
+/// How the disk is used: the storage breakdown, its earlier readings (the snapshots), and the volume's space.
+/// Main thread.
 class Storage : public ModelPart {
     Q_OBJECT
     Q_PROPERTY(bool breakdownReady READ isBreakdownReady NOTIFY breakdownChanged)
@@ -25,7 +25,7 @@ public:
 
     Storage(std::vector<Snapshot> snapshots, Saving saving, QObject* parent = nullptr);
 
-    /// Empty until the first computation has finished.
+    /// Empty until first computed.
     [[nodiscard]] const StorageBreakdown& breakdown() const { return m_breakdown; }
     [[nodiscard]] bool isBreakdownReady() const { return m_isBreakdownReady; }
     /// Oldest first, at most 400.
@@ -36,17 +36,17 @@ public:
     /// Whether a snapshot is due: there is none, or the newest is more than 12 hours old.
     [[nodiscard]] static bool isStale(std::span<const Snapshot> snapshots, TimePoint now);
 
-    /// Measures now, records a snapshot if one is due, and keeps the volume's space up to date from then on.
+    /// Measures now, records a snapshot if one is due, and keeps the volume's space up to date from here on.
     void startUp();
-    /// Measures the storage breakdown anew; a snapshot is recorded after it when one is due and asked for.
+    /// Measures the storage breakdown again, then records a snapshot if requested and due.
     void refreshBreakdown(Recording recording);
-    /// Takes over a breakdown that was measured elsewhere; one that is being measured now is dropped.
+    /// Sets a breakdown measured elsewhere; a measurement in progress is dropped.
     void setBreakdown(StorageBreakdown breakdown);
     /// Reads the volume's total and free space again.
     void updateVolume();
-    /// After items have moved: the volume's space now, and the rest as well if it is kept up to date.
+    /// Call after items have moved. Reads the volume's space, and the breakdown too if it is kept up to date.
     void followMoves();
-    /// Appends a snapshot of the current breakdown in place of one of the past hour, drops the oldest beyond
+    /// Appends a snapshot of the current breakdown, replacing one from the past hour, drops the oldest beyond
     /// 400, and saves the list.
     void recordSnapshot();
 
@@ -63,7 +63,7 @@ private:
     bool m_isKeptUpToDate = false;
     std::vector<Snapshot> m_snapshots;
     int m_started = 0;
-    int m_stored = 0; ///< number of the one that is shown: an earlier one that ends later is dropped
+    int m_stored = 0; ///< of the one shown; an older one that finishes later is dropped
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

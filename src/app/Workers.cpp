@@ -23,7 +23,7 @@ std::stop_source Workers::launch(const std::function<void(std::stop_token)>& wor
         m_workers.push_back({ended, std::move(thread)});
         return stop;
     } catch (const std::system_error& error) {
-        // Slow is better than not at all, and a clean-up must end in the history.
+        // Slow is better than not at all, and a clean-up must reach the history.
         std::fprintf(stderr, "orlen: no thread could be started (%s); working without one.\n",
                      error.code().message().c_str());
     }
@@ -34,7 +34,7 @@ std::stop_source Workers::launch(const std::function<void(std::stop_token)>& wor
 
 void Workers::finish()
 {
-    // First all, then wait: so they end side by side.
+    // Stop all before waiting, so that they end in parallel.
     for (Worker& worker : m_workers)
         worker.thread.request_stop();
     m_workers.clear();

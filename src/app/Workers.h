@@ -11,10 +11,10 @@
 
 namespace orlen {
 
-/// Work of one purpose of which only the latest counts; belongs to the owner of the workers that do it.
+/// Work where only the latest run counts. Owned by whoever owns the workers.
 class Latest {
 public:
-    /// Asks the work to stop; its result will not arrive.
+    /// Asks the work to stop; its result is dropped.
     void drop()
     {
         m_stop.request_stop();
@@ -27,9 +27,9 @@ private:
     std::stop_source m_stop{std::nostopstate};
 };
 
-/// Threads that do the blocking work of an object of the main thread. Each piece of work has a thread of its
-/// own, so that none waits for another whatever the number of cores; when the system gives none, it is done
-/// before `start` returns. Used on the main thread.
+/// Threads for the blocking work of a main-thread object. Each piece of work gets its own thread, so none
+/// waits for another whatever the number of cores; if no thread can be created, it runs before `start`
+/// returns. Main thread only.
 class Workers {
 public:
     explicit Workers(QObject& owner) : m_mainThread(owner) {}
@@ -37,9 +37,8 @@ public:
     Workers& operator=(const Workers&) = delete;
     ~Workers() { finish(); }
 
-    /// Starts `work(stop)`, whose result `done(result)` gets on the main thread. When the owner is gone by
-    /// then, `done` is dropped uncalled; the worker itself never calls it. The stop source ends this piece of
-    /// work.
+    /// Runs `work(stop)` on a worker, then `done(result)` on the main thread unless the owner is gone by
+    /// then. The returned stop source stops this piece of work.
     template <typename Work, typename Done>
     std::stop_source start(Work work, Done done)
     {
@@ -50,7 +49,7 @@ public:
             });
     }
 
-    /// The same in place of the work that `latest` stands for, which is dropped.
+    /// The same, replacing the work of `latest`, which is dropped.
     template <typename Work, typename Done>
     void start(Latest& latest, Work work, Done done)
     {
@@ -65,11 +64,11 @@ public:
     /// Asks all work to stop and waits until it has.
     void finish();
 
-    /// For work that reports before it ends.
+    /// For work that reports progress.
     [[nodiscard]] const MainThread& mainThread() const { return m_mainThread; }
 
 private:
-    struct Ended; ///< set by a thread as the last thing it does
+    struct Ended; ///< set by a thread just before it ends
     struct Worker {
         std::shared_ptr<Ended> ended;
         std::jthread thread;

@@ -121,8 +121,9 @@ TEST_F(TrayItemTest, passesClicksOn)
     EXPECT_EQ(opened.count() + quit.count(), 0);
     chooseFromMenu(3);
     EXPECT_EQ(opened.count(), 1);
-    const QVariantList unknown = callMenu(
-        "EventGroup", {QVariant::fromValue(TrayMenuEvents{{4, "clicked", 0, 0}, {99, "clicked", 0, 0}})});
+    const QVariantList unknown =
+        callMenu("EventGroup", {QVariant::fromValue(TrayMenuEvents{{4, "clicked", QDBusVariant(0), 0},
+                                                                   {99, "clicked", QDBusVariant(0), 0}})});
     EXPECT_EQ(quit.count(), 1);
     EXPECT_EQ(qdbus_cast<QList<int>>(unknown.value(0)), QList<int>{99});
 }

@@ -3,7 +3,6 @@
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
-#include "window/apps/AppInfoTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/WindowState.h"
 
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <span>
 #include <utility>
 
@@ -23,7 +23,7 @@ constexpr std::chrono::seconds kRunningInterval{2};
 
 } // namespace
 
-/// What a worker has found out about an application.
+/// What a worker found out about an application.
 struct AppDetailModel::Found {
     Leftovers::Finding leftovers;
     std::optional<std::int64_t> size;
@@ -37,8 +37,6 @@ AppDetailModel::AppDetailModel(AppModel& app) : m_app(app), m_workers(*this)
     m_runningTimer.setInterval(kRunningInterval);
     connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
 }
-
-AppDetailModel::~AppDetailModel() = default;
 
 void AppDetailModel::setList(AppListModel* list)
 {
@@ -119,7 +117,7 @@ void AppDetailModel::checkRunning()
         });
 }
 
-/// The size may arrive while the application is shown, and the application may be gone.
+/// The application's size may have arrived, or the application may be gone.
 void AppDetailModel::followList()
 {
     if (!m_isOpen || m_list->isLoading())
@@ -186,11 +184,11 @@ void AppDetailModel::followSheet()
     if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
         return;
     m_reviewed.reset();
-    // A confirmed review closes too, and only then does the clean-up begin.
+    // A confirmed review also closes, and the clean-up begins only after that.
     QMetaObject::invokeMethod(this, &AppDetailModel::resume, Qt::QueuedConnection);
 }
 
-/// Shows the application again as it was left.
+/// Reopens the application as it was.
 void AppDetailModel::resume()
 {
     if (m_isOpen || WindowState::of(m_app).sheet() || m_app.cleanUps()->cleaning())
@@ -202,10 +200,8 @@ void AppDetailModel::resume()
 
 void AppDetailModel::setOpen(bool isOpen)
 {
-    if (isOpen == m_isOpen)
-        return;
-    m_isOpen = isOpen;
-    Q_EMIT openChanged();
+    if (std::exchange(m_isOpen, isOpen) != isOpen)
+        Q_EMIT openChanged();
 }
 
 std::vector<FileEntry> AppDetailModel::chosen() const
@@ -218,63 +214,19 @@ std::vector<FileEntry> AppDetailModel::chosen() const
     return entries;
 }
 
-QString AppDetailModel::name() const
-{
-    return DisplayText::path(m_info.name);
-}
-
-QString AppDetailModel::origin() const
-{
-    return AppInfoTexts::origin(m_info);
-}
-
-QString AppDetailModel::identifier() const
-{
-    return DisplayText::path(m_info.bundleID);
-}
-
-QString AppDetailModel::icon() const
-{
-    return AppInfoTexts::iconId(m_info);
-}
-
-QString AppDetailModel::size() const
-{
-    return m_info.size ? DisplayText::size(*m_info.size) : QString();
-}
-
-QString AppDetailModel::advice() const
-{
-    return DisplayText::path(m_info.advice);
-}
-
-QString AppDetailModel::command() const
-{
-    return DisplayText::path(m_info.adviceCommand);
-}
-
-QString AppDetailModel::heading() const
-{
-    return AppInfoTexts::leftoversHeading(m_info);
-}
-
 QString AppDetailModel::quitFirst() const
 {
-    return m_isRunning ? AppInfoTexts::quitFirst(m_info) : QString();
+    return m_isRunning ? QStringLiteral("Quit %1 first").arg(name()) : QString();
 }
 
 Qt::CheckState AppDetailModel::checkState() const
 {
-    const auto checked =
-        std::count_if(m_rows.begin(), m_rows.end(), [](const Row& r) { return r.isChecked; });
-    if (checked == 0)
-        return Qt::Unchecked;
-    return static_cast<std::size_t>(checked) == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+    return checkStateOf(std::ranges::count(m_rows, true, &Row::isChecked), m_rows.size());
 }
 
 QString AppDetailModel::chosenText() const
 {
-    return AppInfoTexts::chosen(chosen().size(), m_rows.size());
+    return DisplayText::selectedOf(std::ssize(chosen()), length());
 }
 
 QString AppDetailModel::total() const
@@ -283,11 +235,6 @@ QString AppDetailModel::total() const
     for (const FileEntry& entry : chosen())
         bytes = checkedAdd(bytes, entry.size);
     return m_info.size ? DisplayText::size(bytes) : QString();
-}
-
-bool AppDetailModel::isReady() const
-{
-    return isRemovable() && !m_isLoading && m_info.size.has_value();
 }
 
 QVariant AppDetailModel::value(std::size_t number, int role) const

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tools/apps/Leftovers.h"
+#include "window/apps/AppInfoTexts.h"
 #include "window/apps/AppListModel.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -13,9 +15,9 @@
 
 namespace orlen {
 
-/// One application of the list, with the files that it left as a checklist. Main thread, and needs its event
-/// loop; the disk is read on workers. Closes when its application is no longer listed. It closes for the
-/// review too, and is back when that ends without a clean-up.
+/// One application of the list, with its leftover files as a checklist. Main thread, and needs its event
+/// loop; workers read the disk. Closes when the application is no longer listed, and during the review; comes
+/// back if the review ends without a clean-up.
 class AppDetailModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,72 +28,71 @@ class AppDetailModel : public orlen::RowsModel {
     Q_PROPERTY(QString origin READ origin NOTIFY changed)
     Q_PROPERTY(QString identifier READ identifier NOTIFY changed)
     Q_PROPERTY(QString icon READ icon NOTIFY changed)
-    /// Of the application alone; empty until measured.
+    /// Of the application without leftovers; empty until measured.
     Q_PROPERTY(QString size READ size NOTIFY changed)
-    /// Whether the program itself can remove it; else `advice` says how it is done.
+    /// Whether Orlen can remove it; otherwise `advice` says how to.
     Q_PROPERTY(bool removable READ isRemovable NOTIFY changed)
     Q_PROPERTY(QString advice READ advice NOTIFY changed)
     Q_PROPERTY(QString command READ command NOTIFY changed)
-    /// Whether it is one of the system's own.
+    /// Whether it is part of the system.
     Q_PROPERTY(bool apple READ isApple NOTIFY changed)
     Q_PROPERTY(QString heading READ heading NOTIFY changed)
-    /// Whether the leftovers are still looked for.
+    /// Whether the search for leftovers is still running.
     Q_PROPERTY(bool loading READ isLoading NOTIFY changed)
-    /// Whether leftovers are withheld because another copy of the application uses them.
+    /// Whether leftovers are not offered because another copy of the application uses them.
     Q_PROPERTY(bool otherCopy READ isOtherCopyInstalled NOTIFY changed)
-    /// What to do first while the application runs; empty when it does not.
+    /// Asks to quit the application first; empty when it is not running.
     Q_PROPERTY(QString quitFirst READ quitFirst NOTIFY changed)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY selectionChanged)
     Q_PROPERTY(QString chosenText READ chosenText NOTIFY selectionChanged)
-    /// Of the application and the chosen leftovers.
+    /// Size of the application and the checked leftovers.
     Q_PROPERTY(QString total READ total NOTIFY selectionChanged)
-    /// Whether all is known that a review shows.
+    /// Whether everything the review shows is known.
     Q_PROPERTY(bool ready READ isReady NOTIFY changed)
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< last component of the path
-        folder,              ///< that holds it
+        name = Qt::UserRole, ///< last path component
+        folder,              ///< that contains it
         size,                ///< bytes as text
-        note,                ///< why one should look twice; often empty
-        checked,             ///< whether it goes with the application
+        note,                ///< why to look twice; often empty
+        checked,             ///< whether it is removed with the application
     };
     Q_ENUM(Role)
 
     explicit AppDetailModel(AppModel& app = AppModelElement::model());
-    ~AppDetailModel() override;
 
     [[nodiscard]] AppListModel* list() const { return m_list; }
     void setList(AppListModel* list);
 
     [[nodiscard]] bool isOpen() const { return m_isOpen; }
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString origin() const;
-    [[nodiscard]] QString identifier() const;
-    [[nodiscard]] QString icon() const;
-    [[nodiscard]] QString size() const;
+    [[nodiscard]] QString name() const { return DisplayText::path(m_info.name); }
+    [[nodiscard]] QString origin() const { return AppInfoTexts::origin(m_info); }
+    [[nodiscard]] QString identifier() const { return DisplayText::path(m_info.bundleID); }
+    [[nodiscard]] QString icon() const { return AppInfoTexts::iconId(m_info); }
+    [[nodiscard]] QString size() const { return m_info.size ? DisplayText::size(*m_info.size) : QString(); }
     [[nodiscard]] bool isRemovable() const { return m_info.isRemovable(); }
-    [[nodiscard]] QString advice() const;
-    [[nodiscard]] QString command() const;
+    [[nodiscard]] QString advice() const { return DisplayText::path(m_info.advice); }
+    [[nodiscard]] QString command() const { return DisplayText::path(m_info.adviceCommand); }
     [[nodiscard]] bool isApple() const { return Leftovers::isApple(m_info.bundleID); }
-    [[nodiscard]] QString heading() const;
+    [[nodiscard]] QString heading() const { return AppInfoTexts::leftoversHeading(m_info); }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isOtherCopyInstalled() const { return m_isOtherCopyInstalled; }
     [[nodiscard]] QString quitFirst() const;
     [[nodiscard]] Qt::CheckState checkState() const;
     [[nodiscard]] QString chosenText() const;
     [[nodiscard]] QString total() const;
-    [[nodiscard]] bool isReady() const;
+    [[nodiscard]] bool isReady() const { return isRemovable() && !m_isLoading && m_info.size.has_value(); }
 
-    /// Shows the application in a row of the list and looks for what it left.
+    /// Shows the application in this row of the list and searches for its leftovers.
     Q_INVOKABLE void show(int listRow);
     Q_INVOKABLE void close();
     Q_INVOKABLE void toggle(int row);
-    /// Chooses all, or none when all are chosen.
+    /// Checks all rows, or unchecks all if all are checked.
     Q_INVOKABLE void toggleAll();
-    /// Puts the command of the advice on the clipboard.
+    /// Copies the advice's command to the clipboard.
     Q_INVOKABLE void copyCommand() const;
-    /// Closes this and opens the review of what would be moved.
+    /// Closes this and opens the review.
     Q_INVOKABLE void review();
 
 Q_SIGNALS:
@@ -130,9 +131,9 @@ private:
     bool m_isLoading = false;
     bool m_isOtherCopyInstalled = false;
     bool m_isRunning = false;
-    Latest m_look;                  ///< at the application that is shown
-    std::optional<Uuid> m_reviewed; ///< plan whose review was opened from here and is not over
-    QTimer m_runningTimer;          ///< looks again whether the application still runs
+    Latest m_look;                  ///< search for leftovers
+    std::optional<Uuid> m_reviewed; ///< plan of a review opened from here and still open
+    QTimer m_runningTimer;          ///< polls whether the application is still running
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

@@ -27,7 +27,7 @@ QColor standInColour()
     return Screens::at(Screens::Apps).colour;
 }
 
-/// A drawing of the system, here in this process. Null when it cannot be read.
+/// Renders a system icon in this process. Null when it cannot be read.
 QImage rendered(const std::string& path, QSize size)
 {
     const std::optional<std::string> content = readSmallFile(path, kFileLimit);
@@ -44,7 +44,7 @@ QImage rendered(const std::string& path, QSize size)
     return reader.read();
 }
 
-/// At most `size` large, its shape kept. Null when it cannot be read.
+/// At most `size`, aspect ratio kept. Null when it cannot be read.
 QImage decoded(const std::string& path, QSize size)
 {
     // Themes and Flatpak are full of links.

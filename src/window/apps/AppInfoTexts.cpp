@@ -47,10 +47,7 @@ QString symbol(AppSource source)
 
 QString summary(std::size_t applications, std::int64_t bytes)
 {
-    const QString count = applications == 1
-                              ? QStringLiteral("1 application")
-                              : QStringLiteral("%1 applications")
-                                    .arg(DisplayText::number(static_cast<std::int64_t>(applications)));
+    const QString count = DisplayText::counted(static_cast<std::int64_t>(applications), "application");
     return bytes == 0 ? count : QStringLiteral("%1 · %2").arg(count, DisplayText::size(bytes));
 }
 
@@ -69,18 +66,6 @@ QString leftoversHeading(const AppInfo& app)
     if (app.bundleID.empty())
         return QStringLiteral("Leftovers found by name");
     return QStringLiteral("Leftovers found by bundle identifier (%1)").arg(DisplayText::path(app.bundleID));
-}
-
-QString chosen(std::size_t chosen, std::size_t leftovers)
-{
-    return QStringLiteral("%1 of %2 selected")
-        .arg(DisplayText::number(static_cast<std::int64_t>(chosen)),
-             DisplayText::number(static_cast<std::int64_t>(leftovers)));
-}
-
-QString quitFirst(const AppInfo& app)
-{
-    return QStringLiteral("Quit %1 first").arg(DisplayText::path(app.name));
 }
 
 } // namespace orlen::AppInfoTexts

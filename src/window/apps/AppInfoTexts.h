@@ -7,20 +7,16 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What the screens say of applications. Pure; any thread.
+/// Texts about applications. Pure; any thread.
 namespace orlen::AppInfoTexts {
 
-/// "12 applications · 4.2 GB"; without the bytes while they are 0.
+/// "12 applications · 4.2 GB"; no size while it is 0.
 [[nodiscard]] QString summary(std::size_t applications, std::int64_t bytes);
-/// What kind of installation it is, and where: "AppImage · ~/Applications".
+/// Kind and place of the installation: "AppImage · ~/Applications".
 [[nodiscard]] QString origin(const AppInfo& app);
-/// The application's icon as `AppIconProvider` takes it.
+/// The icon's id for `AppIconProvider`.
 [[nodiscard]] QString iconId(const AppInfo& app);
-/// What stands over the leftovers.
+/// The heading over the leftovers.
 [[nodiscard]] QString leftoversHeading(const AppInfo& app);
-/// How many of the leftovers are chosen.
-[[nodiscard]] QString chosen(std::size_t chosen, std::size_t leftovers);
-/// What to do first while the application runs.
-[[nodiscard]] QString quitFirst(const AppInfo& app);
 
 } // namespace orlen::AppInfoTexts

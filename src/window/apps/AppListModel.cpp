@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kTakeInterval{80};
 
 } // namespace
 
-/// Where the threads that measure leave what they find until the main thread looks.
+/// Collects measured sizes until the main thread takes them.
 class AppListModel::Sizes {
 public:
     using Known = std::vector<std::pair<std::size_t, std::int64_t>>;
@@ -47,8 +47,6 @@ AppListModel::AppListModel(AppModel& app) : m_workers(*this)
     load();
 }
 
-AppListModel::~AppListModel() = default;
-
 QString AppListModel::summary() const
 {
     std::int64_t bytes = 0;
@@ -68,7 +66,7 @@ void AppListModel::load()
 
 void AppListModel::show(std::vector<AppInfo> apps)
 {
-    // A size that was known is a better guess than none until it is measured again.
+    // Until measured again, the old size is a better guess than none.
     std::map<std::string, std::optional<std::int64_t>> known;
     for (const AppInfo& app : m_apps)
         known.emplace(app.path, app.size);
@@ -103,7 +101,7 @@ void AppListModel::measure()
 
 void AppListModel::takeSizes()
 {
-    // Stopped measurements have left their rows to other applications.
+    // The rows of stopped measurements belong to other applications now.
     if (m_sizes == nullptr) {
         m_takeTimer.stop();
         return;
@@ -119,10 +117,8 @@ void AppListModel::takeSizes()
 
 void AppListModel::setLoading(bool isLoading)
 {
-    if (isLoading == m_isLoading)
-        return;
-    m_isLoading = isLoading;
-    Q_EMIT loadingChanged();
+    if (std::exchange(m_isLoading, isLoading) != isLoading)
+        Q_EMIT loadingChanged();
 }
 
 QVariant AppListModel::value(std::size_t number, int role) const

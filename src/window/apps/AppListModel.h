@@ -12,35 +12,34 @@
 
 namespace orlen {
 
-/// The installed applications by name. Names are shown at once and sizes as they are measured. Loaded again
-/// after every clean-up. Main thread, and needs its event loop; the disk is read on workers.
+/// The installed applications by name. Names appear at once, sizes as they are measured. Reloads after every
+/// clean-up. Main thread, and needs its event loop; workers read the disk.
 class AppListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether the list is being read; the old one stands meanwhile.
+    /// Whether the list is being read; the old one stays until then.
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
     Q_PROPERTY(bool measuring READ isMeasuring NOTIFY summaryChanged)
-    /// How many there are and, as far as it is known, how much they take.
+    /// How many applications there are and, as far as known, their size.
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< of the application, as a person reads it
-        origin,              ///< what kind of installation it is, and where
-        icon,                ///< identity for `AppIconProvider`
+        name = Qt::UserRole, ///< display name
+        origin,              ///< kind and place of the installation
+        icon,                ///< id for `AppIconProvider`
         size,                ///< bytes as text; empty until measured
     };
     Q_ENUM(Role)
 
     explicit AppListModel(AppModel& app = AppModelElement::model());
-    ~AppListModel() override;
 
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isMeasuring() const { return m_sizes != nullptr; }
     [[nodiscard]] QString summary() const;
     [[nodiscard]] const std::vector<AppInfo>& apps() const { return m_apps; }
 
-    /// Reads the list anew and measures it. The latest load wins.
+    /// Reads the list and measures it again. The latest load wins.
     Q_INVOKABLE void load();
 
 Q_SIGNALS:

@@ -60,7 +60,7 @@ const AppInfo& AppOrderModel::appAt(int listRow) const
     return m_list->apps()[static_cast<std::size_t>(listRow)];
 }
 
-/// The list's own order is by name.
+/// The source list is already sorted by name.
 bool AppOrderModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     const auto bytes = [this](const QModelIndex& index) { return appAt(index.row()).size.value_or(-1); };

@@ -7,21 +7,20 @@
 
 namespace orlen {
 
-/// The applications that a search leaves, in the order that the user wants. Rows and roles are those of
-/// `AppListModel`. Main thread.
+/// The applications that match the search, sorted as the user wants. Roles are those of `AppListModel`. Main
+/// thread.
 class AppOrderModel : public QSortFilterProxyModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::AppListModel* list READ list WRITE setList NOTIFY listChanged REQUIRED)
-    /// Words that the name, the kind or the place of an application must hold, all of them, whatever the
-    /// case.
+    /// Words that must all appear in an application's name, kind or place; case is ignored.
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
     Q_PROPERTY(Order order READ order WRITE setOrder NOTIFY orderChanged)
 
 public:
     enum Order {
         ByName,
-        BySize, ///< largest first, those not yet measured last
+        BySize, ///< largest first, unmeasured ones last
     };
     Q_ENUM(Order)
 
@@ -34,7 +33,7 @@ public:
     [[nodiscard]] Order order() const { return m_order; }
     void setOrder(Order order);
 
-    /// The row of the list that a row shown here is.
+    /// The row of `list` that this row shows.
     Q_INVOKABLE [[nodiscard]] int listRow(int row) const;
 
 Q_SIGNALS:

@@ -14,7 +14,7 @@ namespace {
 constexpr std::array kSizes{16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256, 512};
 constexpr std::array<std::string_view, 3> kSuffixes{"svg", "png", "xpm"};
 
-/// Smallest first that need not grow, then those that must, the largest first.
+/// First those that need no enlarging, smallest first, then the others, largest first.
 std::vector<int> sizesFor(int pixels)
 {
     std::vector<int> sizes(kSizes.begin(), kSizes.end());
@@ -28,7 +28,7 @@ std::vector<std::string> dataFolders()
 {
     const Places& places = Places::current();
     std::vector<std::string> folders = places.data;
-    // Not every session names what Flatpak exports.
+    // Not every session's environment includes the folders Flatpak exports.
     for (const std::string& exports : places.expand("{DATA}/flatpak/exports/share"))
         folders.push_back(exports);
     folders.insert(folders.end(), places.sharedData.begin(), places.sharedData.end());
@@ -38,7 +38,7 @@ std::vector<std::string> dataFolders()
 
 std::string withoutSuffix(std::string_view icon)
 {
-    // A name of the theme may itself have dots.
+    // A theme name may itself contain dots.
     const bool isFileName = std::find(kSuffixes.begin(), kSuffixes.end(),
                                       PathText::asciiLower(PathText::extension(icon))) != kSuffixes.end();
     return std::string(isFileName ? PathText::stem(icon) : icon);

@@ -14,24 +14,24 @@
 
 namespace orlen {
 
-/// The exchange on the Ask screen, oldest message first; it lasts as long as the screen. Answers are written
-/// on a worker, one at a time. Main thread.
+/// The conversation on the Ask screen, oldest message first; it lasts as long as the screen. A worker writes
+/// the answers, one at a time. Main thread.
 class ConversationModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     /// Says who writes the answers.
     Q_PROPERTY(QString introduction READ introduction CONSTANT)
-    /// Questions to begin with.
+    /// Questions to start with.
     Q_PROPERTY(QStringList suggestions READ suggestions CONSTANT)
-    /// Whether an answer is being written; another question has to wait.
+    /// Whether an answer is being written; no further question can be asked until then.
     Q_PROPERTY(bool thinking READ isThinking NOTIFY thinkingChanged)
 
 public:
     enum class Role {
-        fromUser = Qt::UserRole, ///< a question, else an answer
+        fromUser = Qt::UserRole, ///< true: a question; false: an answer
         text,                    ///< may have several lines
         usedModel,               ///< whether a language model wrote the answer
-        links,                   ///< of an answer: its FindingLinks
+        links,                   ///< an answer's FindingLinks; null for a question
     };
     Q_ENUM(Role)
     enum Recall { Earlier, Later };
@@ -43,12 +43,12 @@ public:
     [[nodiscard]] static QStringList suggestions();
     [[nodiscard]] bool isThinking() const { return m_isThinking; }
 
-    /// Adds the question and has it answered. False, and nothing happens, when it is blank or an answer is
+    /// Adds the question and starts answering it. False, without adding it, when it is blank or an answer is
     /// still being written.
     Q_INVOKABLE bool ask(const QString& question);
-    /// A past question, one step from the last one recalled; after the latest comes an empty text.
+    /// The previous or next question relative to the last one recalled; empty after the latest.
     Q_INVOKABLE QString recall(Recall step);
-    /// Puts a message's text on the clipboard.
+    /// Copies a message to the clipboard.
     Q_INVOKABLE void copy(int row) const;
 
 Q_SIGNALS:
@@ -70,7 +70,7 @@ private:
     std::vector<Row> m_rows;
     bool m_isThinking = false;
     std::vector<QString> m_asked;
-    std::size_t m_recalled = 0; ///< number of the question recalled last; their count for none
+    std::size_t m_recalled = 0; ///< index of the question recalled last; the number of questions for none
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

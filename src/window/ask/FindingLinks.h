@@ -11,8 +11,8 @@
 
 namespace orlen {
 
-/// The findings that an answer is about, as far as they are still among the results: a clean-up or another
-/// scan takes rows away. Main thread.
+/// The findings that an answer is about, as long as they are in the results: a clean-up or another scan
+/// removes rows. Main thread.
 class FindingLinks : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,7 @@ public:
         title,
         symbol, ///< icon of the finding's kind
         tone,   ///< colour of its category
-        size,   ///< bytes of its entries as text
+        size,   ///< of its entries, as text
     };
     Q_ENUM(Role)
 
@@ -35,7 +35,7 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    /// What a row shows of its finding.
+    /// The parts of a finding that its row shows.
     struct Row {
         FindingKind kind;
         std::int64_t bytes = 0;

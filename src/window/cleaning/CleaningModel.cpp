@@ -1,6 +1,5 @@
 #include "window/cleaning/CleaningModel.h"
 
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <utility>
@@ -49,34 +48,10 @@ double CleaningModel::fraction() const
     return m_state.total <= 0 ? 0 : static_cast<double>(m_state.done) / m_state.total;
 }
 
-QString CleaningModel::planTitle() const
-{
-    return DisplayText::path(m_state.planTitle);
-}
-
-QString CleaningModel::current() const
-{
-    return DisplayText::path(m_state.current);
-}
-
 QString CleaningModel::progressText() const
 {
-    return SheetTexts::progress(m_state.done, m_state.total);
-}
-
-QString CleaningModel::movedText() const
-{
-    return DisplayText::number(m_state.moved);
-}
-
-QString CleaningModel::failedText() const
-{
-    return DisplayText::number(m_state.failed);
-}
-
-QString CleaningModel::freedText() const
-{
-    return DisplayText::size(m_state.freed);
+    return QStringLiteral("%1 of %2")
+        .arg(DisplayText::number(m_state.done), DisplayText::number(m_state.total));
 }
 
 } // namespace orlen

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/cleaning/FailureListModel.h"
+#include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 #include "window/shell/WindowState.h"
 
@@ -12,16 +13,16 @@
 
 namespace orlen {
 
-/// The clean-up that runs or has just ended, ready to show. Keeps its last state while the overlay closes.
-/// Main thread.
+/// The running or just finished clean-up, ready to show. Keeps its last state while the overlay closes. Main
+/// thread.
 class CleaningModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(bool finished READ isFinished NOTIFY changed)
-    /// Handled part, 0 to 1; 1 at the end.
+    /// Progress from 0 to 1; 1 at the end.
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString planTitle READ planTitle NOTIFY changed)
-    /// Name of the item in hand.
+    /// Name of the current item.
     Q_PROPERTY(QString current READ current NOTIFY changed)
     /// "12 of 340"
     Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
@@ -30,11 +31,11 @@ class CleaningModel : public QObject {
     Q_PROPERTY(int failed READ failed NOTIFY changed)
     Q_PROPERTY(QString failedText READ failedText NOTIFY changed)
     Q_PROPERTY(QString freedText READ freedText NOTIFY changed)
-    /// What could not be moved; known when finished.
+    /// What could not be moved; empty until finished.
     Q_PROPERTY(orlen::FailureListModel* failures READ failures CONSTANT)
-    /// Whether the history holds the clean-up.
+    /// Whether the clean-up is in the history.
     Q_PROPERTY(bool recorded READ isRecorded NOTIFY changed)
-    /// Whether the user has asked for the end.
+    /// Whether the user has asked to stop.
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
 
 public:
@@ -42,19 +43,19 @@ public:
 
     [[nodiscard]] bool isFinished() const { return m_state.finished; }
     [[nodiscard]] double fraction() const;
-    [[nodiscard]] QString planTitle() const;
-    [[nodiscard]] QString current() const;
+    [[nodiscard]] QString planTitle() const { return DisplayText::path(m_state.planTitle); }
+    [[nodiscard]] QString current() const { return DisplayText::path(m_state.current); }
     [[nodiscard]] QString progressText() const;
     [[nodiscard]] int moved() const { return m_state.moved; }
-    [[nodiscard]] QString movedText() const;
+    [[nodiscard]] QString movedText() const { return DisplayText::number(m_state.moved); }
     [[nodiscard]] int failed() const { return m_state.failed; }
-    [[nodiscard]] QString failedText() const;
-    [[nodiscard]] QString freedText() const;
+    [[nodiscard]] QString failedText() const { return DisplayText::number(m_state.failed); }
+    [[nodiscard]] QString freedText() const { return DisplayText::size(m_state.freed); }
     [[nodiscard]] FailureListModel* failures() { return &m_failures; }
     [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }
     [[nodiscard]] bool isStopping() const { return m_isStopping && !m_state.finished; }
 
-    /// Ends the clean-up after the item in hand.
+    /// Stops the clean-up after the current item.
     Q_INVOKABLE void stop();
 
 Q_SIGNALS:
@@ -70,7 +71,7 @@ private:
     bool m_isShown = false;
     bool m_isStopping = false;
     QElapsedTimer m_sinceShown;
-    QTimer m_end; ///< until the end of a short clean-up is shown
+    QTimer m_end; ///< delays showing the end of a short clean-up
 };
 
 } // namespace orlen

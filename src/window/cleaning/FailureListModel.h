@@ -9,24 +9,24 @@
 
 namespace orlen {
 
-/// The items that a clean-up or a restore left where they were, reason by reason. Main thread.
+/// The items that a clean-up or restore could not move, grouped by reason. Main thread.
 class FailureListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< last component
-        folder,              ///< where it lies
-        reason,              ///< why, in a few words
-        startsReason,        ///< whether the row before has another reason
-        remedy,              ///< what to do about all of this reason; may be empty
+        name = Qt::UserRole, ///< last path component
+        folder,              ///< that contains it
+        reason,              ///< in a few words
+        startsReason,        ///< whether the row above has another reason
+        remedy,              ///< what to do about this group; may be empty
     };
     Q_ENUM(Role)
 
     using RowsModel::RowsModel;
 
-    /// In each reason the order stays.
+    /// Keeps the order within each reason.
     void setFailures(std::vector<CleanFailure> failures);
 
 private:

@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-/// Qt 6.4 writes past its buffer with more than ten.
+/// With more than ten, Qt 6.4 writes past its buffer.
 constexpr int kSegments = 8;
 /// A spring of these damping fractions is within a thousandth of its end after this many responses.
 constexpr double kDurationInResponses = 1.4;
@@ -43,7 +43,7 @@ QVariantList SpringCurve::curve() const
     const double total = m_response * kDurationInResponses;
     const double step = total / kSegments;
     for (int segment = 0; segment < kSegments; ++segment) {
-        // A Hermite segment as a Bézier one: the inner points lie a third of the way along the tangents.
+        // Converts a Hermite segment to Bézier: the inner points are a third of the way along the tangents.
         const double start = segment * step;
         const Motion from = motionAt(start, m_response, m_damping);
         const Motion to = motionAt(start + step, m_response, m_damping);

@@ -10,7 +10,8 @@ class QPainter;
 /// Draws the program's icons. Any thread.
 namespace orlen::SymbolDrawing {
 
-/// Draws the symbol into the rectangle, its shape kept. An unknown name draws nothing and warns.
+/// Draws the symbol into the rectangle, keeping its aspect ratio. An unknown name draws nothing and logs a
+/// warning.
 void draw(QPainter& painter, const QString& name, const QColor& colour, const QRectF& place);
 
 } // namespace orlen::SymbolDrawing

@@ -7,8 +7,7 @@
 
 namespace orlen {
 
-/// Draws small pictures for the screens, each of them once. The size is what the image asks for, in pixels.
-/// Any thread.
+/// Draws small images and caches them. The image item's source size sets the size in pixels. Any thread.
 class DrawnImageProvider : public QQuickImageProvider {
 public:
     DrawnImageProvider() : QQuickImageProvider(QQuickImageProvider::Image) {}
@@ -16,12 +15,12 @@ public:
     QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
 
 protected:
-    /// `image` is transparent.
+    /// `image` starts out transparent.
     virtual void draw(QImage& image, const QString& id) const = 0;
 
 private:
     QMutex m_lock;
-    QHash<QString, QImage> m_drawn; ///< by name and size; a few hundred small images at most
+    QHash<QString, QImage> m_drawn; ///< by id and size; at most a few hundred small images
 };
 
 /// Icons: "image://symbol/NAME/RRGGBB".

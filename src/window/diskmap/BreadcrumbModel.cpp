@@ -8,7 +8,7 @@ namespace {
 
 /// More folders than these get a gap.
 constexpr int kShown = 4;
-/// How many folders follow a gap.
+/// Number of folders after a gap.
 constexpr int kAfterGap = 2;
 
 } // namespace

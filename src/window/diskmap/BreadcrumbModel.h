@@ -11,8 +11,8 @@
 
 namespace orlen {
 
-/// The way from the start folder down to the one that the disk map shows. Of a long way the first folder and
-/// the last ones remain, with a gap between that stands for the folder just above them. Main thread.
+/// The path from the start folder to the one the disk map shows. A long path is cut to its first and last
+/// folders, with a gap between them that links to the folder just above the last ones. Main thread.
 class BreadcrumbModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +21,7 @@ class BreadcrumbModel : public orlen::RowsModel {
 public:
     enum class Role {
         name = Qt::UserRole, ///< of the folder
-        step,                ///< number of the folder, for going to it
+        step,                ///< index of the folder, for `DiskMapView.goTo`
         isGap,               ///< stands for folders that are not shown
         isLast,              ///< the folder shown
     };
@@ -29,10 +29,10 @@ public:
 
     using RowsModel::RowsModel;
 
-    /// What the last of the folders is called: the start folder is "Home", whatever its name.
+    /// Display name of the last folder: the start folder is "Home", whatever its real name.
     [[nodiscard]] static QString nameOfLast(std::span<const std::string> folders);
 
-    /// From the start folder on; never empty.
+    /// Starts with the start folder; never empty.
     void setFolders(const std::vector<std::string>& folders);
 
 private:

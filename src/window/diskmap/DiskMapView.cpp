@@ -15,16 +15,16 @@ namespace {
 
 constexpr double kTileGap = 2;
 constexpr int kHues = 6;
-/// Two notches of a common wheel, 120 each, are enough of a pinch to lead somewhere.
+/// Two notches of a common wheel, 120 each, zoom by one folder.
 constexpr double kMagnificationPerEighth = 0.2 / 120;
 
-/// Without the gap; what would be nothing but gap keeps a hair that can be seen.
+/// Leaves out the gap, but keeps at least a visible sliver.
 double withoutGap(double length)
 {
     return std::max(length - kTileGap, std::min(length, 1.0));
 }
 
-/// Edges are rounded, not widths, so that all gaps are equally wide.
+/// Rounds edges, not widths, so that all gaps are equally wide.
 QRectF placed(const Treemap::Rect& rect)
 {
     const double left = std::round(rect.x);
@@ -175,7 +175,7 @@ void DiskMapView::revealAt(QPointF point)
 
 void DiskMapView::pinch(double scale)
 {
-    // A new pinch starts at 1 again.
+    // Each pinch starts at 1 again.
     if (scale != 1)
         m_map.magnify(scale - m_pinchScale);
     m_pinchScale = scale;
@@ -225,7 +225,7 @@ void DiskMapView::arrange()
     Q_EMIT currentRowChanged();
 }
 
-/// On the way up, the folder that one comes from.
+/// When going up, the folder one came from.
 int DiskMapView::rowAfterArrival() const
 {
     const std::size_t depth = m_map.stack().size();
@@ -244,7 +244,7 @@ void DiskMapView::placeTiles()
     allChanged();
 }
 
-/// Tiles of what is still there keep their rows' identity and can move to their new place.
+/// Rows of remaining items keep their identity, so that their tiles can move to the new place.
 void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
 {
     const auto rects = Treemap::layout(nodes, m_view);
@@ -257,7 +257,7 @@ void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
     }
     setRows(m_tiles, std::move(tiles),
             [](const Tile& tile) { return tile.node.path + (tile.node.isOther ? "/" : ""); });
-    // What a tile shows depends on its number and on the others.
+    // A tile's roles depend on its index and on the other tiles.
     allChanged();
 }
 

@@ -14,18 +14,18 @@
 
 namespace orlen {
 
-/// The disk map as tiles of a view of a given size, largest first, at most 61. While a folder is measured the
-/// tiles of the one before remain as rows, so that the screen can let them go; they answer to nothing. Main
-/// thread.
+/// The disk map as tiles for a view of a given size, largest first, at most 61. While a folder is being
+/// measured, the previous folder's tiles remain as rows so that the screen can animate them out; they do not
+/// react to input. Main thread.
 class DiskMapView : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double viewWidth READ viewWidth WRITE setViewWidth NOTIFY viewChanged)
     Q_PROPERTY(double viewHeight READ viewHeight WRITE setViewHeight NOTIFY viewChanged)
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
-    /// Whether the folder shown was measured and has nothing to show.
+    /// Whether the folder was measured and has nothing to show.
     Q_PROPERTY(bool empty READ isEmpty NOTIFY loadingChanged)
-    /// Whether there is nothing to show because the folder may not be read, or is gone.
+    /// Whether it is empty because the folder cannot be read or is gone.
     Q_PROPERTY(bool locked READ isLocked NOTIFY loadingChanged)
     /// Whether the start folder is shown.
     Q_PROPERTY(bool atStart READ isAtStart NOTIFY stackChanged)
@@ -34,22 +34,22 @@ class DiskMapView : public orlen::RowsModel {
     Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
     /// Tile under the pointer, -1 for none.
     Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
-    /// Tile that the keyboard acts on, -1 for none.
+    /// Tile with the keyboard focus, -1 for none.
     Q_PROPERTY(int currentRow READ currentRow WRITE setCurrentRow NOTIFY currentRowChanged)
-    /// Whether tiles change place because other things are shown, not because the view changes its size.
+    /// Whether tiles move because the content changed, not because the view was resized.
     Q_PROPERTY(bool rearranging READ isRearranging NOTIFY rearrangingChanged)
-    /// The middle of the tile that the map went into last.
+    /// The centre of the last tile the map zoomed into.
     Q_PROPERTY(QPointF zoomOrigin READ zoomOrigin NOTIFY arrived)
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< file name, or what the grouped node stands for
+        name = Qt::UserRole, ///< file name, or the grouped node's label
         size,                ///< bytes as text
         kind,                ///< Kind
         hue,                 ///< 0 to 5; neighbours mostly differ
-        area,                ///< the tile in the view, in whole points, without the gap to the next one
+        area,                ///< the tile in the view, in whole points, without the gap
         share,               ///< part of the folder, 0 to 1
-        shareText,           ///< the same in per cent
+        shareText,           ///< the same as a percentage
         spoken,              ///< name, size and kind for a screen reader
     };
     Q_ENUM(Role)
@@ -83,25 +83,25 @@ public:
 
     Q_INVOKABLE void load();
     Q_INVOKABLE void up();
-    /// To a folder of the breadcrumb, by its step.
+    /// Goes to a folder of the breadcrumb.
     Q_INVOKABLE void goTo(int step);
-    /// Into the tile's folder.
+    /// Goes into the tile's folder.
     Q_INVOKABLE void open(int row);
     /// Shows the tile's item in the file manager.
     Q_INVOKABLE void reveal(int row);
-    /// To the next tile on that side.
+    /// Makes the next tile in that direction current.
     Q_INVOKABLE void step(Direction direction);
-    /// "name · size" of a tile; of the whole folder for -1.
+    /// "name · size" of a tile, or of the whole folder for -1.
     [[nodiscard]] Q_INVOKABLE QString describe(int row) const;
 
     Q_INVOKABLE void click(QPointF point);
     Q_INVOKABLE void movePointer(QPointF point);
     Q_INVOKABLE void removePointer();
-    /// Shows the item under the point in the file manager, whatever the pointer was over before.
+    /// Shows the item under the point in the file manager.
     Q_INVOKABLE void revealAt(QPointF point);
-    /// `scale` of the whole pinch so far, 1 at its beginning.
+    /// `scale` is that of the whole pinch so far, starting at 1.
     Q_INVOKABLE void pinch(double scale);
-    /// A turn of the wheel in eighths of a degree, which acts as a pinch.
+    /// Wheel movement in eighths of a degree; acts like a pinch.
     Q_INVOKABLE void turnWheel(double eighths);
 
 Q_SIGNALS:
@@ -111,8 +111,8 @@ Q_SIGNALS:
     void hoverChanged();
     void currentRowChanged();
     void rearrangingChanged();
-    /// Another folder's tiles are there. `levels`: how much deeper it lies than the one before; 0 for the
-    /// same.
+    /// Another folder's tiles have arrived. `levels`: how much deeper it is than the one before; 0 when it is
+    /// the same folder.
     void arrived(int levels);
 
 private:
@@ -140,12 +140,12 @@ private:
     Treemap::Size m_view;
     std::vector<Tile> m_tiles;
     std::int64_t m_total = 0;                ///< bytes of all tiles
-    std::vector<std::string> m_shownFolders; ///< the way to the folder whose tiles these are
-    bool m_isMeasured = false;               ///< some folder has been
+    std::vector<std::string> m_shownFolders; ///< path to the folder these tiles belong to
+    bool m_isMeasured = false;               ///< at least one load has finished
     bool m_isRearranging = false;
     int m_currentRow = -1;
     QPointF m_zoomOrigin;
-    double m_pinchScale = 1; ///< of the pinch in progress, as far as it has been told
+    double m_pinchScale = 1; ///< last scale of the pinch in progress
 };
 
 } // namespace orlen

@@ -7,9 +7,9 @@ namespace orlen::TileStep {
 
 namespace {
 
-/// Rounding may let neighbours overlap by a hair.
+/// Rounding may make neighbours overlap slightly.
 constexpr double kTolerance = 0.01;
-/// A tile that is aslant must be this much nearer to win over one that is level.
+/// How much nearer a diagonal tile must be to win over a level one.
 constexpr double kAslant = 3;
 
 /// A rectangle as seen in the direction of the step: `along` it, and `across`.

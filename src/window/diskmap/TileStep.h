@@ -6,13 +6,13 @@
 #include <optional>
 #include <span>
 
-/// Where the arrow keys lead on the disk map. Pure; any thread.
+/// Arrow key navigation on the disk map. Pure; any thread.
 namespace orlen::TileStep {
 
 enum class Direction { left, right, up, down };
 
-/// Number of the rectangle that lies nearest on that side, with one that is level with `from` before one that
-/// lies aslant; nothing at the edge of the map.
+/// Index of the nearest rectangle in that direction, preferring those level with `from` to diagonal ones;
+/// none at the edge of the map.
 [[nodiscard]] std::optional<std::size_t> neighbour(std::span<const Treemap::Rect> rects, std::size_t from,
                                                    Direction direction);
 

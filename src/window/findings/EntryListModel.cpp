@@ -1,6 +1,5 @@
 #include "window/findings/EntryListModel.h"
 
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathCode.h"
@@ -18,7 +17,7 @@ namespace orlen {
 
 namespace {
 
-/// From this many separate pieces on, to show the list anew is quicker than to take out piece by piece.
+/// With this many separate pieces, a reset is quicker than removing them one by one.
 constexpr std::size_t kMostPieces = 100;
 
 struct Piece {
@@ -26,7 +25,7 @@ struct Piece {
     int last = 0;
 };
 
-/// Which of the old entries are left, when the new ones are some of them in the same order.
+/// Marks the old entries that remain; nothing unless `after` is a subsequence of `before`.
 std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
                                         const std::vector<FileEntry>& after)
 {
@@ -70,7 +69,7 @@ const Finding* EntryListModel::shownFinding() const
     return found == findings.end() ? nullptr : &*found;
 }
 
-/// A kind that the results do not hold has its texts all the same.
+/// A kind that is not in the results has texts, too.
 FindingHeader EntryListModel::headerOf(const Finding* finding) const
 {
     if (finding != nullptr)
@@ -129,7 +128,7 @@ void EntryListModel::removeRows(const std::vector<bool>& isKept)
         endResetModel();
         return;
     }
-    // From the end, so that the numbers before a piece stay true.
+    // From the end, so that the remaining row numbers stay valid.
     for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
         beginRemoveRows({}, piece->first, piece->last);
         m_rows.erase(m_rows.begin() + piece->first, m_rows.begin() + piece->last + 1);
@@ -137,7 +136,7 @@ void EntryListModel::removeRows(const std::vector<bool>& isKept)
     }
 }
 
-/// Takes out entries that no row shows any more.
+/// Removes entries that no row shows any more.
 void EntryListModel::dropEntries(const std::vector<bool>& isKept)
 {
     std::vector<int> newIndex(isKept.size());
@@ -244,7 +243,7 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
         m_isSelected[entryIndex(row)] = isSelected;
     }
     {
-        // Where folders are listed with what lies in them, other rows change too.
+        // When folders are listed with their contents, other rows change too.
         const QScopedValueRollback selecting(m_isSelecting, !m_app.results()->listed().isNested());
         if (isSelected)
             m_app.results()->select(paths);
@@ -275,20 +274,10 @@ void EntryListModel::count()
 QString EntryListModel::selectedText() const
 {
     if (!m_header.isCleanable)
-        return SheetTexts::items(entryCount(), sizeOf(m_entries));
-    return SheetTexts::selected(m_selectedCount, entryCount(), m_selectedBytes);
-}
-
-QString EntryListModel::selectedSizeText() const
-{
-    return DisplayText::size(m_selectedBytes);
-}
-
-Qt::CheckState EntryListModel::shownState() const
-{
-    if (m_shownCount == 0)
-        return Qt::Unchecked;
-    return m_shownCount == rowCount() ? Qt::Checked : Qt::PartiallyChecked;
+        return QStringLiteral("%1 · %2").arg(DisplayText::counted(entryCount(), "item"),
+                                             DisplayText::size(sizeOf(m_entries)));
+    return QStringLiteral("%1 · %2").arg(DisplayText::selectedOf(m_selectedCount, entryCount()),
+                                         DisplayText::size(m_selectedBytes));
 }
 
 std::size_t EntryListModel::entryIndex(int row) const
@@ -308,7 +297,7 @@ QVariant EntryListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(entry.size);
     case Role::date:
-        return SheetTexts::dateOf(entry);
+        return DisplayText::dateOf(entry);
     case Role::note:
         return DisplayText::path(entry.note.value_or(""));
     case Role::rating:

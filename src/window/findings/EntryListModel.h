@@ -3,6 +3,7 @@
 #include "window/findings/EntryOrder.h"
 #include "window/findings/FindingHeader.h"
 #include "window/findings/FolderLookup.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -14,27 +15,27 @@
 
 namespace orlen {
 
-/// The entries of one finding as rows, sorted and narrowed as the user wants, checked as they are selected;
-/// beside them the finding's texts and the figures of its selection. Follows the results: what was moved
-/// leaves the list, and when the finding is gone its texts stay over an empty list. Main thread.
+/// The entries of one finding as rows, sorted, filtered and checked as the user wants, with the finding's
+/// texts and the totals of its selection. Follows the results: moved entries leave the list, and when the
+/// finding is gone its texts stay above an empty list. Main thread.
 class EntryListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Identity of the finding that is shown; empty for none.
+    /// Id of the finding shown; empty for none.
     Q_PROPERTY(QString findingId READ findingId WRITE setFindingId NOTIFY findingChanged)
-    /// Stays when the finding has gone from the results.
+    /// Kept when the finding leaves the results.
     Q_PROPERTY(orlen::FindingHeader header READ header NOTIFY findingChanged)
     /// Whether any entry has a note.
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY figuresChanged)
     Q_PROPERTY(Key key READ key NOTIFY orderChanged)
     Q_PROPERTY(bool reversed READ isReversed NOTIFY orderChanged)
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY orderChanged)
-    /// Entries of the finding, whatever the filter.
+    /// Number of entries, ignoring the filter.
     Q_PROPERTY(int entryCount READ entryCount NOTIFY figuresChanged)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY figuresChanged)
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY figuresChanged)
     Q_PROPERTY(QString selectedSizeText READ selectedSizeText NOTIFY figuresChanged)
-    /// Of the rows that are shown: all, some or none are selected.
+    /// Whether all, some or none of the filtered rows are selected.
     Q_PROPERTY(Qt::CheckState shownState READ shownState NOTIFY figuresChanged)
 
 public:
@@ -46,14 +47,14 @@ public:
     Q_ENUM(Key)
 
     enum class Role {
-        name = Qt::UserRole, ///< last component
-        folder,              ///< where it lies
+        name = Qt::UserRole, ///< last path component
+        folder,              ///< that contains it
         size,                ///< text
         date,                ///< "Opened …" or "Modified …"; may be empty
         note,                ///< may be empty
         rating,              ///< a `RatingValue`
         symbol,              ///< icon of the file
-        thumbnail,           ///< source of a picture of it; empty for what is no picture
+        thumbnail,           ///< image source; empty unless it is a picture
         marked,              ///< whether it is selected
     };
     Q_ENUM(Role)
@@ -71,22 +72,22 @@ public:
     [[nodiscard]] int entryCount() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int selectedCount() const { return m_selectedCount; }
     [[nodiscard]] QString selectedText() const;
-    [[nodiscard]] QString selectedSizeText() const;
-    [[nodiscard]] Qt::CheckState shownState() const;
+    [[nodiscard]] QString selectedSizeText() const { return DisplayText::size(m_selectedBytes); }
+    [[nodiscard]] Qt::CheckState shownState() const { return checkStateOf(m_shownCount, m_rows.size()); }
 
-    /// Sorts by the key; in the other direction when it is sorted by it already.
+    /// Sorts by the key, or reverses the order if already sorted by it.
     Q_INVOKABLE void sortBy(orlen::EntryListModel::Key key);
-    /// Selects the row's entry, or takes it out. As the following ones, nothing for a row that is not there.
+    /// Selects or deselects the row's entry. All functions that take a row ignore one that does not exist.
     Q_INVOKABLE void toggle(int row);
-    /// Selects all rows that are shown, or none of them when all are selected.
+    /// Selects all filtered rows, or deselects them if all are selected.
     Q_INVOKABLE void toggleShown();
     Q_INVOKABLE void selectShown();
     Q_INVOKABLE void deselectShown();
-    /// Its `PathCode`, for a preview.
+    /// The entry's `PathCode`, for a preview.
     [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
-    /// Opens the review of everything that is selected, of other findings too.
+    /// Opens the review of the whole selection, including other findings.
     Q_INVOKABLE void review();
 
 Q_SIGNALS:
@@ -116,17 +117,17 @@ private:
     AppModel& m_app;
     QString m_findingId;
     FindingHeader m_header;
-    Rating m_rating = Rating::review; ///< of entries without one of their own
+    Rating m_rating = Rating::review; ///< for entries without their own
     EntryOrder::Wish m_wish;
     std::vector<FileEntry> m_entries;       ///< in the finding's order
     std::vector<bool> m_isSelected;         ///< of each entry
-    std::vector<EntryOrder::Words> m_words; ///< of each entry; made when first needed
-    std::vector<int> m_rows;                ///< index of each row's entry
+    std::vector<EntryOrder::Words> m_words; ///< of each entry; built when first needed
+    std::vector<int> m_rows;                ///< each row's index into `m_entries`
     int m_selectedCount = 0;
-    int m_shownCount = 0; ///< selected rows
+    int m_shownCount = 0; ///< number of selected rows
     std::int64_t m_selectedBytes = 0;
     bool m_hasNotes = false;
-    bool m_isSelecting = false; ///< the selection is being changed by this model itself
+    bool m_isSelecting = false; ///< while this model changes the selection itself
     FolderLookup* m_folders;
 };
 

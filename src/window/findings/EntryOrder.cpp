@@ -1,6 +1,5 @@
 #include "window/findings/EntryOrder.h"
 
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <QStringList>
@@ -29,7 +28,10 @@ void sort(std::vector<int>& rows, Direction direction, Before before)
 
 void sortByDate(std::vector<int>& rows, std::span<const FileEntry> entries, Direction direction)
 {
-    const auto date = [&](int row) { return SheetTexts::shownDate(entries[static_cast<std::size_t>(row)]); };
+    const auto date = [&](int row) {
+        const FileEntry& entry = entries[static_cast<std::size_t>(row)];
+        return entry.lastOpened ? entry.lastOpened : entry.modified;
+    };
     const auto undated =
         std::stable_partition(rows.begin(), rows.end(), [&](int row) { return date(row).has_value(); });
     std::vector<int> dated(rows.begin(), undated);

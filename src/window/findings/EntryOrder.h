@@ -7,13 +7,13 @@
 #include <span>
 #include <vector>
 
-/// Which entries of a list are shown, and in which order. Pure; any thread.
+/// Filters and sorts entries. Pure; any thread.
 namespace orlen::EntryOrder {
 
 enum class Key { size, name, date };
 enum class Direction { usual, reversed };
 
-/// Of each entry, name and folder in the form in which they are compared and searched.
+/// An entry's name and folder, normalised for comparing and searching.
 struct Words {
     QString name;
     QString folder;
@@ -23,11 +23,11 @@ struct Words {
 struct Wish {
     Key key = Key::size;
     Direction direction = Direction::usual;
-    QString filter; ///< every word of it must stand in the name or the folder; letters' case is ignored
+    QString filter; ///< each word must appear in the name or the folder; case is ignored
 };
 
-/// Indices of the entries to show: largest first, by name, or latest first; those without a date last, and
-/// equal ones as they were given.
+/// Indices of the matching entries: largest first, by name, or latest first with undated ones last. The sort
+/// is stable.
 [[nodiscard]] std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words,
                                     const Wish& wish);
 

@@ -1,7 +1,6 @@
 #include "window/findings/FindingHeader.h"
 
 #include "model/Finding.h"
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 
 namespace orlen {
@@ -11,7 +10,9 @@ FindingHeader FindingHeader::of(const Finding& finding)
     FindingHeader header;
     header.title = DisplayText::text(finding.title);
     header.explanation = DisplayText::text(finding.explanation);
-    header.reason = SheetTexts::why(finding.rating, finding.reason);
+    if (!finding.reason.empty())
+        header.reason = QStringLiteral("Why %1: %2")
+                            .arg(DisplayText::text(label(finding.rating)), DisplayText::text(finding.reason));
     header.symbol = DisplayText::text(finding.symbol);
     header.tone = DisplayText::colour(finding.category);
     header.rating = RatingValue(finding.rating);

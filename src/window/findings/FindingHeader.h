@@ -11,7 +11,7 @@ namespace orlen {
 
 struct Finding;
 
-/// What stands over the entries of a finding: its texts and its rating, ready to show.
+/// The heading above a finding's entries: its texts and rating, ready to show.
 class FindingHeader {
     Q_GADGET
     QML_VALUE_TYPE(findingHeader)
@@ -32,7 +32,7 @@ public:
     QString symbol;
     QColor tone; ///< of the category
     RatingValue rating;
-    bool isCleanable = false; ///< whether the entries may be selected at all
+    bool isCleanable = false; ///< whether its entries can be selected at all
 
     friend bool operator==(const FindingHeader&, const FindingHeader&) = default;
 };

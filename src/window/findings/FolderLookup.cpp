@@ -16,7 +16,7 @@ bool FolderLookup::isFolder(const std::string& path)
     return known->second;
 }
 
-/// Later, so that all rows of a page are looked at together.
+/// Deferred, so that all rows of a page are looked up together.
 void FolderLookup::lookSoon()
 {
     if (!std::exchange(m_isLooking, true))

@@ -10,26 +10,26 @@
 
 namespace orlen {
 
-/// Tells folders from files without making the main thread wait for a disk: what is asked for is answered
-/// from memory, and looked at on a worker when it is not known yet. Main thread.
+/// Tells folders from files without blocking the main thread on the disk: answers come from a cache, and
+/// unknown paths are looked up on a worker. Main thread.
 class FolderLookup : public QObject {
     Q_OBJECT
 
 public:
     explicit FolderLookup(QObject* parent = nullptr) : QObject(parent), m_workers(*this) {}
 
-    /// False also while it is not known: `answered` tells when to ask again.
+    /// Also false while unknown; `answered` says when to ask again.
     [[nodiscard]] bool isFolder(const std::string& path);
 
 Q_SIGNALS:
-    /// Paths that were asked for have turned out to be folders.
+    /// Some of the requested paths have turned out to be folders.
     void answered();
 
 private:
     void lookSoon();
     void look();
 
-    std::unordered_map<std::string, bool> m_known; ///< false also for what is waiting
+    std::unordered_map<std::string, bool> m_known; ///< also false while waiting
     std::vector<std::string> m_waiting;
     bool m_isLooking = false;
 

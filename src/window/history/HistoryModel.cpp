@@ -11,15 +11,10 @@ namespace orlen {
 
 namespace {
 
-/// A line breaks only after it.
+/// The only place where a line may break.
 const QString kJoint = QStringLiteral("\u00a0· ");
 
-QString counted(int count, const QString& one, const QString& many)
-{
-    return DisplayText::number(count) + u' ' + (count == 1 ? one : many);
-}
-
-/// The screen on which a clean-up of this title was put together.
+/// The screen where a clean-up with this title was planned.
 const Screens::Meta& originOf(std::string_view title)
 {
     if (title == AppTexts::kScanPlanTitle)
@@ -82,7 +77,7 @@ HistoryModel::State HistoryModel::stateOf(const Row& row)
 
 QString HistoryModel::summaryOf(const Row& row)
 {
-    QString summary = counted(row.items, QStringLiteral("item"), QStringLiteral("items"));
+    QString summary = DisplayText::counted(row.items, "item");
     if (row.restored > 0)
         summary += kJoint + DisplayText::number(row.restored) + QStringLiteral(" restored");
     if (row.failed > 0)

@@ -9,35 +9,35 @@
 
 namespace orlen {
 
-/// The past clean-ups as rows, newest first, and the way back from each of them. Main thread.
+/// The past clean-ups as rows, newest first, each of which can be restored. Main thread.
 class HistoryModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
 
 public:
     enum State {
-        Restorable, ///< holds items that were not put back
+        Restorable, ///< has items that are not back
         Restoring,  ///< is being put back
         Restored,   ///< every item is back
     };
     Q_ENUM(State)
 
     enum class Role {
-        title = Qt::UserRole, ///< of the plan that was carried out
+        title = Qt::UserRole, ///< of the plan
         symbol,               ///< icon name
         tone,                 ///< colour of the badge
         date,                 ///< when it finished, as text
-        summary,              ///< numbers of items, of restored ones and of those that could not be moved
-        freed,                ///< bytes of all items as text
+        summary,              ///< numbers of items: all, restored and failed
+        freed,                ///< size of all items, as text
         status,               ///< a `State`
-        recordId,             ///< identity, for `RecordItemsModel.recordId`
+        recordId,             ///< id, for `RecordItemsModel.recordId`
     };
     Q_ENUM(Role)
 
     explicit HistoryModel(AppModel& app = AppModelElement::model());
 
-    /// Starts to put the row's items back; `restored` follows. Ignored unless the row is restorable and the
-    /// program may write.
+    /// Starts putting the row's items back; `restored` follows. Ignored unless the row is restorable and the
+    /// program may write the history.
     Q_INVOKABLE void restore(int row);
 
 Q_SIGNALS:

@@ -63,7 +63,7 @@ void RecordItemsModel::update()
     const bool isSame =
         std::equal(rows.begin(), rows.end(), m_rows.begin(), m_rows.end(),
                    [](const Row& a, const Row& b) { return a.item.original == b.item.original; });
-    // Of the same items the states stay until they have been looked up again.
+    // The same items keep their states until looked up again.
     for (std::size_t row = 0; isSame && row < rows.size(); ++row)
         rows[row].state = m_rows[row].state;
     if (isSame)

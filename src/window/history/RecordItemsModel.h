@@ -11,29 +11,29 @@
 
 namespace orlen {
 
-/// The items of one past clean-up as rows, in the order in which they were moved. Whether they still lie in
-/// the Trash is looked up on a worker and arrives later. Main thread.
+/// The items of one past clean-up as rows, in the order they were moved. Whether they are still in the Trash
+/// is looked up on a worker and shown later. Main thread.
 class RecordItemsModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// `HistoryModel`'s role of that name; no rows while it is empty.
+    /// From `HistoryModel`'s role of that name; no rows while empty.
     Q_PROPERTY(QString recordId READ recordId WRITE setRecordId NOTIFY recordIdChanged)
 
 public:
     enum State {
         Unknown,  ///< not looked up yet
-        InTrash,  ///< lies in the Trash
+        InTrash,  ///< still in the Trash
         Restored, ///< was put back
-        Gone,     ///< neither: its Trash was emptied, or somebody else moved it
+        Gone,     ///< neither: the Trash was emptied, or the item was moved
     };
     Q_ENUM(State)
 
     enum class Role {
-        name = Qt::UserRole, ///< last component of its place
-        folder,              ///< where it was
+        name = Qt::UserRole, ///< last component of the original path
+        folder,              ///< original folder
         size,                ///< bytes as text
         status,              ///< a `State`
-        statusText,          ///< the same in words
+        statusText,          ///< the state in words
     };
     Q_ENUM(Role)
 
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] QString recordId() const { return m_recordId; }
     void setRecordId(const QString& id);
 
-    /// Shows a restored item in the desktop's file manager; ignored for any other.
+    /// Shows a restored item in the file manager; ignored for others.
     Q_INVOKABLE void reveal(int row) const;
 
 Q_SIGNALS:

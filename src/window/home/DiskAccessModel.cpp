@@ -19,11 +19,6 @@ DiskAccessModel::DiskAccessModel(AppModel& app)
     });
 }
 
-bool DiskAccessModel::isGranted() const
-{
-    return m_app.results()->isFdaGranted();
-}
-
 void DiskAccessModel::copyCommand() const
 {
     QGuiApplication::clipboard()->setText(m_command);

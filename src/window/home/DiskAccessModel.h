@@ -8,22 +8,22 @@
 
 namespace orlen {
 
-/// How the program may come to read protected folders. Probes again whenever the user comes back to the
-/// window, perhaps from granting it. Main thread.
+/// Whether the program may read protected folders, and how to allow it. Checks again whenever the user
+/// returns to the window, perhaps after granting access. Main thread.
 class DiskAccessModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(bool granted READ isGranted NOTIFY grantedChanged)
-    /// The command that grants access; empty where there is nothing to grant.
+    /// The command that grants access; empty when there is nothing to grant.
     Q_PROPERTY(QString command READ command CONSTANT)
 
 public:
     explicit DiskAccessModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] bool isGranted() const;
+    [[nodiscard]] bool isGranted() const { return m_app.results()->isFdaGranted(); }
     [[nodiscard]] QString command() const { return m_command; }
 
-    /// Puts the command onto the clipboard.
+    /// Copies the command to the clipboard.
     Q_INVOKABLE void copyCommand() const;
 
 Q_SIGNALS:

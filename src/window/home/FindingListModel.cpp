@@ -27,7 +27,7 @@ void FindingListModel::followFindings()
 
 void FindingListModel::followSelection()
 {
-    // A sheet covers the cards while its entries are checked one by one, perhaps in a list of 100,000.
+    // The cards are hidden behind a sheet while entries, perhaps 100,000, are checked one by one.
     if (WindowState::of(m_app).sheet() || m_rows.size() != m_app.results()->findings().size())
         return;
     for (std::size_t at = 0; at < m_rows.size(); ++at) {
@@ -56,7 +56,7 @@ QVariant FindingListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(row.size);
     case Role::count:
-        return DisplayText::items(row.count);
+        return DisplayText::counted(row.count, "item");
     case Role::selected:
         return row.selectedSize > 0 ? DisplayText::size(row.selectedSize) : QString();
     case Role::cleanable:

@@ -9,24 +9,23 @@
 
 namespace orlen {
 
-/// The findings of the last scan as cards, in display order. Findings that vanish or shrink in a clean-up
-/// change only their own rows. While a sheet covers the cards they keep the
-/// selection they had. Main thread.
+/// The findings of the last scan as cards, in display order. A clean-up changes only the rows of the findings
+/// it touches. While a sheet covers the cards, their selection is not updated. Main thread.
 class FindingListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
 
 public:
     enum class Role {
-        findingId = Qt::UserRole, ///< identity, which `Navigation.showFinding` takes
-        title,                    ///< text
-        symbol,                   ///< icon name
-        tone,                     ///< colour of its category
-        rating,                   ///< a `RatingValue`
-        size,                     ///< bytes of all entries, as text
-        count,                    ///< "1 item", "12,345 items"
-        selected,                 ///< bytes of the selected entries, as text; empty when there are none
-        cleanable,                ///< false for what is only shown
+        findingId = Qt::UserRole, ///< id for `Navigation.showFinding`
+        title,
+        symbol,
+        tone,      ///< colour of its category
+        rating,    ///< a `RatingValue`
+        size,      ///< of all entries, as text
+        count,     ///< "1 item", "12,345 items"
+        selected,  ///< of the selected entries, as text; empty when there are none
+        cleanable, ///< false if it is only shown
     };
     Q_ENUM(Role)
 

@@ -42,31 +42,11 @@ void HomeModel::countResults()
 
 void HomeModel::countSelection()
 {
-    // A sheet covers the figure while its entries are checked one by one, perhaps in a list of 100,000.
+    // The figure is hidden behind a sheet while entries, perhaps 100,000, are checked one by one.
     if (WindowState::of(m_app).sheet())
         return;
     m_selectedCount = m_app.results()->selectedAmount().items;
     Q_EMIT selectionChanged();
-}
-
-HomeModel::Phase HomeModel::phase() const
-{
-    return static_cast<Phase>(m_app.results()->phase());
-}
-
-bool HomeModel::hasFindings() const
-{
-    return !m_app.results()->findings().empty();
-}
-
-QString HomeModel::safeText() const
-{
-    return DisplayText::size(m_safeBytes);
-}
-
-QString HomeModel::totalText() const
-{
-    return DisplayText::size(m_totalBytes);
 }
 
 QString HomeModel::unreadableText() const
@@ -82,16 +62,6 @@ QString HomeModel::unreadableFolders() const
     for (const std::string& path : m_app.results()->unreadableFolders().paths)
         lines << DisplayText::shortPath(path);
     return lines.join('\n');
-}
-
-bool HomeModel::hasSelection() const
-{
-    return !m_app.results()->selection().empty();
-}
-
-QString HomeModel::selectedText() const
-{
-    return DisplayText::items(m_selectedCount);
 }
 
 QStringList HomeModel::thresholds()

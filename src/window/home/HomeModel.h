@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QObject>
@@ -9,25 +10,26 @@
 
 namespace orlen {
 
-/// What Smart Scan shows beside the lists: its state, the figures of the results, the setting for large
+/// What Smart Scan shows besides the lists: its state, the totals of the results, and the setting for large
 /// files. Main thread.
 class HomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
-    /// Whether the last scan left findings.
+    /// Whether there are findings from the last scan.
     Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY resultsChanged)
     Q_PROPERTY(bool hasSafe READ hasSafe NOTIFY resultsChanged)
-    /// Bytes rated Safe, and of everything that could be reviewed.
+    /// Size of everything rated Safe, and of everything that can be cleaned.
     Q_PROPERTY(QString safeText READ safeText NOTIFY resultsChanged)
     Q_PROPERTY(QString totalText READ totalText NOTIFY resultsChanged)
-    /// "12 folders could not be read", empty when all could; and the first of them, one on each line.
+    /// "12 folders could not be read", empty when all could be; and the first of them, one per line.
     Q_PROPERTY(QString unreadableText READ unreadableText NOTIFY resultsChanged)
     Q_PROPERTY(QString unreadableFolders READ unreadableFolders NOTIFY resultsChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
-    /// "12 items", each path once; stands still behind a sheet.
+    /// "12 items", counting each path once; not updated behind a sheet.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
-    /// Sizes from which a file may count as large, and which of them does; -1 for another one.
+    /// The choices of size from which a file counts as large, and the index of the current one; -1 if it is
+    /// none of them.
     Q_PROPERTY(QStringList thresholds READ thresholds CONSTANT)
     Q_PROPERTY(int threshold READ threshold WRITE setThreshold NOTIFY thresholdChanged)
     Q_PROPERTY(QString thresholdText READ thresholdText NOTIFY thresholdChanged)
@@ -42,21 +44,21 @@ public:
 
     explicit HomeModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] Phase phase() const;
-    [[nodiscard]] bool hasFindings() const;
+    [[nodiscard]] Phase phase() const { return static_cast<Phase>(m_app.results()->phase()); }
+    [[nodiscard]] bool hasFindings() const { return !m_app.results()->findings().empty(); }
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
-    [[nodiscard]] QString safeText() const;
-    [[nodiscard]] QString totalText() const;
+    [[nodiscard]] QString safeText() const { return DisplayText::size(m_safeBytes); }
+    [[nodiscard]] QString totalText() const { return DisplayText::size(m_totalBytes); }
     [[nodiscard]] QString unreadableText() const;
     [[nodiscard]] QString unreadableFolders() const;
-    [[nodiscard]] bool hasSelection() const;
-    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] bool hasSelection() const { return !m_app.results()->selection().empty(); }
+    [[nodiscard]] QString selectedText() const { return DisplayText::counted(m_selectedCount, "item"); }
     [[nodiscard]] static QStringList thresholds();
     [[nodiscard]] int threshold() const;
     void setThreshold(int index);
     [[nodiscard]] QString thresholdText() const;
 
-    /// Opens the review of everything that is selected.
+    /// Opens the review of the whole selection.
     Q_INVOKABLE void review();
 
 Q_SIGNALS:

@@ -17,36 +17,7 @@ constexpr int kFull = 360 * 16;
 ProgressRing::ProgressRing(QQuickItem* parent) : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-}
-
-void ProgressRing::setValue(double value)
-{
-    if (value == m_value)
-        return;
-    m_value = value;
-    update();
-    Q_EMIT valueChanged();
-}
-
-void ProgressRing::setThickness(double thickness)
-{
-    m_thickness = thickness;
-    update();
-    Q_EMIT lookChanged();
-}
-
-void ProgressRing::setTone(const QColor& tone)
-{
-    m_tone = tone;
-    update();
-    Q_EMIT lookChanged();
-}
-
-void ProgressRing::setTrack(const QColor& track)
-{
-    m_track = track;
-    update();
-    Q_EMIT lookChanged();
+    connect(this, &ProgressRing::changed, this, [this] { update(); });
 }
 
 void ProgressRing::paint(QPainter* painter)

@@ -10,26 +10,19 @@ namespace orlen {
 class ProgressRing : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// 0 to 1; values beyond, as a spring has them, are drawn as the nearest of these.
-    Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
-    Q_PROPERTY(double thickness MEMBER m_thickness WRITE setThickness NOTIFY lookChanged)
-    Q_PROPERTY(QColor tone MEMBER m_tone WRITE setTone NOTIFY lookChanged)
-    Q_PROPERTY(QColor track MEMBER m_track WRITE setTrack NOTIFY lookChanged)
+    /// From 0 to 1; drawn clamped, as springs overshoot.
+    Q_PROPERTY(double value MEMBER m_value NOTIFY changed)
+    Q_PROPERTY(double thickness MEMBER m_thickness NOTIFY changed)
+    Q_PROPERTY(QColor tone MEMBER m_tone NOTIFY changed)
+    Q_PROPERTY(QColor track MEMBER m_track NOTIFY changed)
 
 public:
     explicit ProgressRing(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] double value() const { return m_value; }
-    void setValue(double value);
-    void setThickness(double thickness);
-    void setTone(const QColor& tone);
-    void setTrack(const QColor& track);
-
     void paint(QPainter* painter) override;
 
 Q_SIGNALS:
-    void valueChanged();
-    void lookChanged();
+    void changed();
 
 private:
     double m_value = 0;

@@ -54,11 +54,6 @@ void ScanProgressModel::setSteps(const Steps& steps)
     }
 }
 
-QString ScanProgressModel::files() const
-{
-    return DisplayText::number(m_files);
-}
-
 void ScanProgressModel::cancel()
 {
     if (m_isCancelling || m_app.results()->phase() != Phase::scanning)

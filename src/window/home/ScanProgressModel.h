@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scan/ScanProgress.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -12,8 +13,8 @@
 
 namespace orlen {
 
-/// The steps of the running scan, one row each, and what it is looking at. Looks at the scan's progress
-/// several times a second while one runs. Main thread.
+/// The steps of the running scan, one row each, and what it is examining. Polls the scan's progress several
+/// times a second. Main thread.
 class ScanProgressModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +22,7 @@ class ScanProgressModel : public orlen::RowsModel {
     Q_PROPERTY(QString files READ files NOTIFY changed)
     /// What is being examined; empty at the start.
     Q_PROPERTY(QString current READ current NOTIFY changed)
-    /// Whether the user has asked this scan to end.
+    /// Whether the user has asked to stop this scan.
     Q_PROPERTY(bool cancelling READ isCancelling NOTIFY cancellingChanged)
 
 public:
@@ -35,17 +36,17 @@ public:
     enum class Role {
         label = Qt::UserRole, ///< name of the step
         state,                ///< a `State`
-        duration,             ///< of a step that is done, as text; else empty
+        duration,             ///< of a finished step, as text; else empty
     };
     Q_ENUM(Role)
 
     explicit ScanProgressModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] QString files() const;
+    [[nodiscard]] QString files() const { return DisplayText::number(m_files); }
     [[nodiscard]] QString current() const { return m_current; }
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
 
-    /// Asks the running scan to end.
+    /// Asks the running scan to stop.
     Q_INVOKABLE void cancel();
 
 Q_SIGNALS:

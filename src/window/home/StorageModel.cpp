@@ -23,21 +23,6 @@ void StorageModel::update()
     Q_EMIT changed();
 }
 
-bool StorageModel::isReady() const
-{
-    return m_app.storage()->isBreakdownReady();
-}
-
-QString StorageModel::freeText() const
-{
-    return DisplayText::size(m_app.storage()->breakdown().free);
-}
-
-QString StorageModel::totalText() const
-{
-    return DisplayText::size(m_app.storage()->breakdown().total);
-}
-
 double StorageModel::usedFraction() const
 {
     if (m_app.storage()->breakdown().total <= 0)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -9,8 +10,8 @@
 
 namespace orlen {
 
-/// The storage breakdown as rows, one for each category that takes space, in the order of the categories;
-/// beside them the figures of the whole volume. Main thread.
+/// The storage breakdown as rows, one per category that takes space, in category order, with the totals of
+/// the volume. Main thread.
 class StorageModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -18,24 +19,24 @@ class StorageModel : public orlen::RowsModel {
     Q_PROPERTY(bool ready READ isReady NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
     Q_PROPERTY(QString totalText READ totalText NOTIFY changed)
-    /// Used part of the volume, 0 to 1.
+    /// Used fraction of the volume, 0 to 1.
     Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)
 
 public:
     enum class Role {
         label = Qt::UserRole, ///< name of the category
         colour,               ///< of the category
-        size,                 ///< its bytes as text
+        size,                 ///< as text
     };
     Q_ENUM(Role)
 
     explicit StorageModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] bool isReady() const;
-    [[nodiscard]] QString freeText() const;
-    [[nodiscard]] QString totalText() const;
+    [[nodiscard]] bool isReady() const { return m_app.storage()->isBreakdownReady(); }
+    [[nodiscard]] QString freeText() const { return DisplayText::size(m_app.storage()->breakdown().free); }
+    [[nodiscard]] QString totalText() const { return DisplayText::size(m_app.storage()->breakdown().total); }
     [[nodiscard]] double usedFraction() const;
-    /// The category's part of the volume's capacity, 0 to 1.
+    /// The category's fraction of the volume's capacity, 0 to 1.
     [[nodiscard]] double fraction(OrlenCategory category) const;
 
 Q_SIGNALS:

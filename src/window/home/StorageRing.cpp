@@ -16,8 +16,8 @@ namespace {
 
 constexpr double kArcGap = 3;     // between neighbours, pixels
 constexpr double kCorner = 2.5;   // radius, pixels
-constexpr double kShortest = 4;   // of what takes little space, pixels along the band
-constexpr double kLeast = 0.0005; // what takes less of the volume is left out
+constexpr double kShortest = 4;   // of a visible segment, pixels along the band
+constexpr double kLeast = 0.0005; // smallest fraction of the volume that is drawn
 constexpr double kTop = 90;       // degrees, as QPainterPath counts them
 constexpr double kWholeTurn = 360;
 
@@ -26,7 +26,7 @@ double degrees(double pixels, double radius)
     return pixels / radius * 180 / std::numbers::pi;
 }
 
-/// Gives what takes little space the least part that can be seen, at the cost of the rest.
+/// Enlarges segments too small to see at the cost of the others.
 template <typename Fractions>
 Fractions withLeast(Fractions fractions, double least)
 {
@@ -99,15 +99,15 @@ StorageRing::Fractions StorageRing::shown() const
     Fractions fractions{};
     for (std::size_t at = 0; at < fractions.size(); ++at)
         fractions[at] = std::max(0.0, m_from[at] + (m_to[at] - m_from[at]) * m_progress);
-    // The measured folders may hold more than the used space, and a spring overshoots.
+    // Measured folders may add up to more than the used space, and a spring overshoots.
     const double sum = std::accumulate(fractions.begin(), fractions.end(), 0.0);
     if (sum > 1)
         std::for_each(fractions.begin(), fractions.end(), [sum](double& fraction) { fraction /= sum; });
     return fractions;
 }
 
-/// An arc of the band, in degrees clockwise from the top. It is drawn smaller by `corner` all around: a pen
-/// of twice that width with round joins gives it its size back, with rounded corners.
+/// An arc of the band, in degrees clockwise from the top. Inset by `corner` on all sides: stroking it with a
+/// pen of twice that width and round joins restores its size, with rounded corners.
 QPainterPath StorageRing::segment(double start, double length, double corner) const
 {
     const double outer = std::min(width(), height()) / 2 - corner;

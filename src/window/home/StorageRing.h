@@ -13,14 +13,14 @@ class QPainterPath;
 
 namespace orlen {
 
-/// The storage breakdown as a ring: a segment for each category, clockwise from the top, and a pale rest that
-/// is free. When the breakdown changes the ring keeps showing the old one and says `retargeted`; moving
-/// `progress` from 0 to 1 then turns it into the new one. A progress beyond 1 overshoots. Main thread.
+/// The storage breakdown as a ring: a segment per category, clockwise from the top, and a pale rest for free
+/// space. When the breakdown changes, the ring keeps showing the old one and emits `retargeted`; moving
+/// `progress` from 0 to 1 then turns it into the new one. Progress may overshoot 1. Main thread.
 class StorageRing : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::StorageModel* storage READ storage WRITE setStorage NOTIFY storageChanged REQUIRED)
-    /// Of the band, as a part of the ring's diameter.
+    /// Width of the band as a fraction of the ring's diameter.
     Q_PROPERTY(double thickness MEMBER m_thickness NOTIFY styleChanged)
     /// Colour of the free part.
     Q_PROPERTY(QColor track MEMBER m_track NOTIFY styleChanged)
@@ -43,7 +43,7 @@ Q_SIGNALS:
     void retargeted();
 
 private:
-    /// Parts of the whole volume, by category.
+    /// Fractions of the volume, by category.
     using Fractions = std::array<double, kAllCategories.size()>;
 
     void retarget();

@@ -2,6 +2,7 @@
 
 #include "app/Format.h"
 #include "model/ByteCount.h"
+#include "model/FileEntry.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -62,9 +63,14 @@ QString number(std::int64_t value)
     return QLocale().toString(static_cast<qlonglong>(value));
 }
 
-QString items(std::int64_t count)
+QString counted(std::int64_t count, const char* noun)
 {
-    return text(Format::counted(count, "item"));
+    return number(count) + u' ' + QLatin1String(noun) + (count == 1 ? "" : "s");
+}
+
+QString selectedOf(std::int64_t count, std::int64_t total)
+{
+    return QStringLiteral("%1 of %2 selected").arg(number(count), number(total));
 }
 
 QString duration(std::chrono::duration<double> time)
@@ -79,9 +85,26 @@ QString date(TimePoint time)
     return QLocale().toString(local(time).date(), QLocale::ShortFormat);
 }
 
+QString opened(TimePoint time)
+{
+    return QStringLiteral("Opened %1").arg(date(time));
+}
+
+QString modified(TimePoint time)
+{
+    return QStringLiteral("Modified %1").arg(date(time));
+}
+
+QString dateOf(const FileEntry& entry)
+{
+    if (entry.lastOpened)
+        return opened(*entry.lastOpened);
+    return entry.modified ? modified(*entry.modified) : QString();
+}
+
 QString dateAndTime(TimePoint time)
 {
-    // The short form of a few languages has seconds, which say nothing to anyone here.
+    // The short form includes seconds in a few languages; nobody needs them here.
     const QLocale locale;
     return locale.toString(local(time), locale.dateTimeFormat(QLocale::ShortFormat).remove(":ss"));
 }

@@ -5,7 +5,7 @@
 
 #include <string>
 
-/// Paths for QML, whose texts could not keep every byte: in hexadecimal digits. Pure; any thread.
+/// Paths as hexadecimal text for QML, whose strings cannot hold arbitrary bytes. Pure; any thread.
 namespace orlen::PathCode {
 
 [[nodiscard]] inline QString of(const std::string& path)

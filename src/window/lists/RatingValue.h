@@ -8,7 +8,7 @@
 
 namespace orlen {
 
-/// A rating as a chip shows it; all empty where there is no advice.
+/// A rating as a chip shows it; all empty when there is none.
 class RatingValue {
     Q_GADGET
     QML_VALUE_TYPE(ratingValue)
@@ -20,8 +20,8 @@ public:
     RatingValue() = default;
     explicit RatingValue(Rating rating);
 
-    QString name;   ///< raw value: "safe", "review", "keep"
-    QString label;  ///< its word
+    QString name; ///< raw value: "safe", "review", "keep"
+    QString label;
     QString symbol; ///< icon name
 
     friend bool operator==(const RatingValue&, const RatingValue&) = default;

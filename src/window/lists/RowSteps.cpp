@@ -18,14 +18,14 @@ Counts countsOf(std::span<const std::string> keys)
     return counts;
 }
 
-/// Takes one of the key's rows; false when none is left.
+/// Uses up one row with this key; false when none is left.
 bool takeOne(Counts& counts, std::string_view key)
 {
     const auto count = counts.find(key);
     return count != counts.end() && count->second-- > 0;
 }
 
-/// The keys of `shown` that `wanted` has as well; what goes is added to the steps, from the end.
+/// The keys of `shown` that are also in `wanted`. Adds steps that remove the others, from the end.
 std::vector<std::string_view> kept(std::span<const std::string> shown, std::span<const std::string> wanted,
                                    std::vector<RowStep>& steps)
 {
@@ -53,7 +53,7 @@ std::vector<RowStep> between(std::span<const std::string> shown, std::span<const
     Counts left;
     for (const std::string_view key : keys)
         ++left[key];
-    auto next = keys.begin(); // stands in the row that is looked at; all above is as wanted already
+    auto next = keys.begin(); // the current row; everything above it is already as wanted
     for (std::size_t at = 0; at < wanted.size(); ++at) {
         const int row = static_cast<int>(at);
         if (!takeOne(left, wanted[at])) {

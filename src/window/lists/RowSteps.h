@@ -6,27 +6,27 @@
 
 namespace orlen {
 
-/// One change of a list, counted in the list as the steps before it have left it.
+/// One change of a list; row numbers refer to the list as earlier steps left it.
 struct RowStep {
     enum class Kind {
-        remove, ///< `count` rows from `row` on go
-        insert, ///< `count` rows come to stand from `row` on: those of the same numbers in the wanted list
-        move,   ///< the row goes to `to`, further up
+        remove, ///< removes `count` rows starting at `row`
+        insert, ///< inserts the wanted list's rows of the same numbers, `count` from `row` on
+        move,   ///< moves the row up to `to`
     };
 
     Kind kind = Kind::remove;
     int row = 0;
     int count = 1;
-    int to = 0; ///< of a move
+    int to = 0;
 
     friend bool operator==(const RowStep&, const RowStep&) = default;
 };
 
-/// How a list becomes another one while the rows that both have stay themselves, so that a view keeps its
-/// place, its focus and what is open in it. Pure; any thread.
+/// Turns one list into another without replacing the rows they share, so that a view keeps its scroll
+/// position, focus and open rows. Pure; any thread.
 namespace RowSteps {
 
-/// Takes the rows' keys. A key that stands twice in a list counts as two rows.
+/// Takes the rows' keys. A repeated key counts as separate rows.
 [[nodiscard]] std::vector<RowStep> between(std::span<const std::string> shown,
                                            std::span<const std::string> wanted);
 

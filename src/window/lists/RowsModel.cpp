@@ -2,6 +2,8 @@
 
 #include <QMetaEnum>
 
+#include <utility>
+
 namespace orlen {
 
 RowsModel::RowsModel(QObject* parent) : QAbstractListModel(parent)
@@ -31,6 +33,13 @@ QHash<int, QByteArray> RowsModel::roleNames() const
     for (int role = 0; role < roles.keyCount(); ++role)
         names.insert(roles.value(role), roles.key(role));
     return names;
+}
+
+Qt::CheckState RowsModel::checkStateOf(std::int64_t checked, std::size_t all)
+{
+    if (checked == 0)
+        return Qt::Unchecked;
+    return std::cmp_equal(checked, all) ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 } // namespace orlen

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -14,8 +15,8 @@
 
 namespace orlen {
 
-/// What all lists for QML have in common. A model names its roles in an `enum class Role` with Q_ENUM, from
-/// `Qt::UserRole` on; QML knows them by the same names. Main thread.
+/// Base of all list models for QML. A model lists its roles in an `enum class Role` with Q_ENUM, starting at
+/// `Qt::UserRole`; QML uses the same names. Main thread.
 class RowsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
@@ -29,17 +30,20 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const final;
 
 Q_SIGNALS:
-    /// Also when as many rows came as went.
+    /// Also emitted when as many rows were added as removed.
     void countChanged();
 
 protected:
     [[nodiscard]] virtual int length() const = 0;
-    /// Of a row that there is. `role` is a `Role` of the model, or one of Qt's own, which have no value.
+    /// For an existing row. `role` is a `Role` of the model, or one of Qt's own, which have no value.
     [[nodiscard]] virtual QVariant value(std::size_t number, int role) const = 0;
 
     [[nodiscard]] bool hasRow(int row) const { return row >= 0 && row < length(); }
 
-    /// Tells that rows show something else, in these roles or, without any, in all of them.
+    /// The state of a box that stands for `all` boxes, of which `checked` are checked.
+    [[nodiscard]] static Qt::CheckState checkStateOf(std::int64_t checked, std::size_t all);
+
+    /// Signals that these roles of the rows changed; without roles, all of them.
     template <typename... Roles>
     void rowsChanged(int first, int last, Roles... roles)
     {
@@ -57,8 +61,8 @@ protected:
             rowsChanged(0, length() - 1, roles...);
     }
 
-    /// Makes the rows the wanted ones, row by row: those with the same `key`, a text, stay themselves. When
-    /// that takes too many steps, all are shown anew.
+    /// Turns `rows` into `wanted` step by step; rows with the same `key`, a string, keep their identity.
+    /// Resets the model when that takes too many steps.
     template <typename Row, typename Key>
     void setRows(std::vector<Row>& rows, std::vector<Row> wanted, Key key)
     {

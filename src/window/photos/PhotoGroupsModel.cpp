@@ -14,15 +14,11 @@ namespace {
 
 const QString kJoint = QStringLiteral("\u00a0· ");
 
-QString photosText(int count)
-{
-    return DisplayText::number(count) + (count == 1 ? QStringLiteral(" photo") : QStringLiteral(" photos"));
-}
-
 QString selectedPhotos(int count, std::int64_t bytes)
 {
     return count == 0 ? QString()
-                      : photosText(count) + QStringLiteral(" selected") + kJoint + DisplayText::size(bytes);
+                      : DisplayText::counted(count, "photo") + QStringLiteral(" selected") + kJoint +
+                            DisplayText::size(bytes);
 }
 
 } // namespace
@@ -73,7 +69,7 @@ void PhotoGroupsModel::followSelection()
         if (std::exchange(m_rows[at].selected, selected) != selected)
             rowChanged(at, Role::selection, Role::checkState);
     }
-    // Also for equal figures: other photos may be selected.
+    // Even if the figures are equal: different photos may be selected.
     Q_EMIT selectedChanged();
 }
 
@@ -129,7 +125,7 @@ void PhotoGroupsModel::toggleAll(const QString& findingId)
     paths.reserve(wanted->finding.items.size());
     for (const FileEntry& entry : wanted->finding.items)
         paths.push_back(entry.path);
-    if (checkStateOf(*wanted) == Qt::Checked)
+    if (checkStateOf(wanted->selected.count, paths.size()) == Qt::Checked)
         m_app.results()->deselect(paths);
     else
         m_app.results()->select(paths);
@@ -158,14 +154,6 @@ const Finding* PhotoGroupsModel::finding(const QString& id) const
     return row == nullptr ? nullptr : &row->finding;
 }
 
-Qt::CheckState PhotoGroupsModel::checkStateOf(const Row& row)
-{
-    const auto count = static_cast<std::size_t>(row.selected.count);
-    if (count == 0)
-        return Qt::Unchecked;
-    return count == row.finding.items.size() ? Qt::Checked : Qt::PartiallyChecked;
-}
-
 QVariant PhotoGroupsModel::value(std::size_t number, int role) const
 {
     const Row& row = m_rows[number];
@@ -189,14 +177,14 @@ QVariant PhotoGroupsModel::value(std::size_t number, int role) const
     case Role::photosText:
         return DisplayText::number(photos);
     case Role::summary:
-        return photosText(photos) + kJoint + DisplayText::size(finding.totalSize());
+        return DisplayText::counted(photos, "photo") + kJoint + DisplayText::size(finding.totalSize());
     case Role::selection:
         return row.selected.count == 0
                    ? QString()
                    : DisplayText::number(row.selected.count) + QStringLiteral(" selected") + kJoint +
                          DisplayText::size(row.selected.bytes);
     case Role::checkState:
-        return checkStateOf(row);
+        return checkStateOf(row.selected.count, finding.items.size());
     }
     return {};
 }

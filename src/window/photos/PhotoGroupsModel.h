@@ -9,43 +9,42 @@
 
 namespace orlen {
 
-/// The photo clean-ups of the last scan as rows, one for each finding, with what is selected of them. Main
-/// thread.
+/// The photo findings of the last scan as rows, with what is selected of each. Main thread.
 class PhotoGroupsModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
-    /// Identity of the group that is shown whole; empty: all of them are shown. Turns empty with its group.
+    /// Id of the group shown on its own; empty while all are shown. Cleared when the group goes.
     Q_PROPERTY(QString shownGroup READ shownGroup WRITE setShownGroup NOTIFY shownGroupChanged)
-    /// How many photos of all groups are selected and what they take; empty when none is.
+    /// Number and size of the selected photos in all groups; empty when none is selected.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectedChanged)
 
 public:
     enum Stage {
-        BeforeScan, ///< there was no scan yet
-        Nothing,    ///< the last scan found nothing, or all of it is cleaned
+        BeforeScan, ///< no scan yet
+        Nothing,    ///< the last scan found nothing, or everything is cleaned
         Groups,     ///< there are rows
     };
     Q_ENUM(Stage)
 
     enum class Role {
-        findingId = Qt::UserRole, ///< identity of the finding
-        title,                    ///< text
-        explanation,              ///< what these photos are
-        reason,                   ///< why they are rated so
-        symbol,                   ///< icon name
-        tone,                     ///< colour of the badge
-        rating,                   ///< a `RatingValue`
-        photosText,               ///< number of photos as text
-        summary,                  ///< number of photos and their bytes as text
-        selection,                ///< how many of them are selected, as text
-        checkState,               ///< `Qt::CheckState` of all together
+        findingId = Qt::UserRole, ///< id of the finding
+        title,
+        explanation,
+        reason,     ///< why they have this rating
+        symbol,     ///< icon name
+        tone,       ///< colour of the badge
+        rating,     ///< a `RatingValue`
+        photosText, ///< number of photos, as text
+        summary,    ///< number and size of the photos, as text
+        selection,  ///< how many are selected, as text
+        checkState, ///< a `Qt::CheckState`
     };
     Q_ENUM(Role)
 
     explicit PhotoGroupsModel(AppModel& app = AppModelElement::model());
 
-    /// Shows these findings, until those of the application model change.
+    /// Shows these findings until those of the application model change.
     void setFindings(std::vector<Finding> findings);
 
     [[nodiscard]] Stage stage() const;
@@ -53,7 +52,7 @@ public:
     void setShownGroup(const QString& findingId);
     [[nodiscard]] QString selectedText() const;
 
-    /// Selects all photos of a group, or none of them when all are selected.
+    /// Selects all photos of a group, or deselects them if all are selected.
     Q_INVOKABLE void toggleAll(const QString& findingId);
     /// Opens the review of the selected photos.
     Q_INVOKABLE void review();
@@ -65,7 +64,7 @@ Q_SIGNALS:
     void stageChanged();
     void shownGroupChanged();
     void selectedChanged();
-    /// The photos of a group, or its sets, are others now.
+    /// A group's photos or sets have changed.
     void photosChanged(const QString& findingId);
 
 private:
@@ -90,12 +89,11 @@ private:
     void replace(std::vector<Finding> findings);
     [[nodiscard]] const Row* rowOf(const QString& id) const;
     [[nodiscard]] Selected selectedOf(const Finding& finding) const;
-    [[nodiscard]] static Qt::CheckState checkStateOf(const Row& row);
 
     AppModel& m_app;
     std::vector<Row> m_rows;
     QString m_shownGroup;
-    bool m_wasFed = false; ///< by `setFindings`: counts as a scan
+    bool m_wasFed = false; ///< `setFindings` was called; counts as a scan
 };
 
 } // namespace orlen

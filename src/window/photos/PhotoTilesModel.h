@@ -11,27 +11,27 @@
 
 namespace orlen {
 
-/// The photos of one group as rows, largest first. Similar photos stand set by set, each set beginning with
-/// the photo that is kept; that one cannot be selected. Main thread.
+/// The photos of one group as rows, largest first. Similar photos come set by set, each starting with the
+/// kept photo, which cannot be selected. Main thread.
 class PhotoTilesModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::PhotoGroupsModel* groups READ groups WRITE setGroups NOTIFY groupsChanged REQUIRED)
-    /// Which of the groups; no rows while it is none.
+    /// Id of the group; no rows while it matches none.
     Q_PROPERTY(QString findingId READ findingId WRITE setFindingId NOTIFY findingIdChanged)
-    /// Rows at most; 0: all.
+    /// Maximum number of rows; 0: no limit.
     Q_PROPERTY(int limit READ limit WRITE setLimit NOTIFY limitChanged)
 
 public:
     enum class Role {
         name = Qt::UserRole, ///< file name
-        details,             ///< folder and note, a line each
+        details,             ///< folder and note, one per line
         size,                ///< bytes as text; empty for a kept photo
-        source,              ///< of an image item; empty when there is nothing to draw
-        selected,            ///< whether it is in the selection
-        kept,                ///< whether it is the photo that its set keeps
-        joinsPrevious,       ///< whether the row before is of the same set
-        joinsNext,           ///< whether the row after is of the same set
+        source,              ///< image source; empty when there is nothing to draw
+        selected,
+        kept,          ///< whether it is the photo its set keeps
+        joinsPrevious, ///< whether the previous row is in the same set
+        joinsNext,     ///< whether the next row is in the same set
     };
     Q_ENUM(Role)
 
@@ -44,11 +44,11 @@ public:
     [[nodiscard]] int limit() const { return m_limit; }
     void setLimit(int limit);
 
-    /// Selects the row's photo, or takes it out of the selection; ignored for a kept one.
+    /// Selects or deselects the row's photo; ignored for a kept one.
     Q_INVOKABLE void toggle(int row);
-    /// The photo's `PathCode` for a preview; empty when its place is not known.
+    /// The photo's `PathCode`, for a preview; empty when its path is unknown.
     Q_INVOKABLE [[nodiscard]] QString pathAt(int row) const;
-    /// Shows the row's photo in the desktop's file manager.
+    /// Shows the row's photo in the file manager.
     Q_INVOKABLE void reveal(int row) const;
 
 Q_SIGNALS:

@@ -12,12 +12,12 @@ namespace orlen {
 namespace {
 
 constexpr double kLineWidth = 2.5;
-/// Room at the bottom for the line that lies on the full disk.
+/// Room at the bottom for the full-disk line.
 constexpr double kBottom = 4;
 constexpr int kScaleLines = 3;
 
-/// Tangents of a curve that goes through all points and rises and falls only where they do (Fritsch and
-/// Carlson, 1980): a plain spline would show free space that never was.
+/// Tangents of a curve through all points that rises and falls only where they do (Fritsch and Carlson,
+/// 1980): a plain spline would show free space that never existed.
 std::vector<double> tangents(const std::vector<QPointF>& points)
 {
     const std::size_t last = points.size() - 1;

@@ -9,15 +9,14 @@
 
 namespace orlen {
 
-/// Draws the free space of the past as a solid line, its forecast as a dotted one and the full disk as a
-/// dashed line at the bottom; only the dashed line while there is no forecast. Texts are put beside it by
-/// QML. Main thread.
+/// Draws past free space as a solid line, its forecast as a dotted one, and the full disk as a dashed line at
+/// the bottom; only the latter while there is no forecast. QML adds the labels. Main thread.
 class ForecastChart : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::PredictionModel* model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
     Q_PROPERTY(QColor tone MEMBER m_tone NOTIFY coloursChanged)
-    /// Of the full disk and the lines of the scale.
+    /// For the full disk and the grid lines.
     Q_PROPERTY(QColor rule MEMBER m_rule NOTIFY coloursChanged)
     Q_PROPERTY(QColor faint MEMBER m_faint NOTIFY coloursChanged)
     /// The newest known point, in the item's coordinates.

@@ -14,7 +14,7 @@ using Days = std::chrono::duration<double, std::chrono::days::period>;
 
 /// Room above the highest point.
 constexpr double kHeadroom = 1.2;
-/// Part of the width that the past takes: as much as this when the disk is soon full, as little when not.
+/// Fraction of the width for the past: at most this when the disk fills up soon, at least that when not.
 constexpr double kLargestPast = 0.8;
 constexpr double kSmallestPast = 0.55;
 
@@ -24,7 +24,7 @@ std::vector<Predictor::Point> usedOverTime(const std::vector<Snapshot>& sorted)
     std::vector<Predictor::Point> points;
     points.reserve(sorted.size());
     for (const Snapshot& snapshot : sorted) {
-        // As doubles, because in nanoseconds the span of two arbitrary dates may not fit into 64 bits.
+        // As doubles, because the nanoseconds between two arbitrary dates may not fit into 64 bits.
         const Days x = Days(snapshot.date.time_since_epoch()) - Days(sorted.front().date.time_since_epoch());
         points.push_back(
             {x.count(), static_cast<double>(snapshot.total) - static_cast<double>(snapshot.free)});
@@ -38,7 +38,7 @@ double mean(const std::vector<Predictor::Point>& points, double Predictor::Point
     return std::accumulate(points.begin(), points.end(), 0.0, add) / static_cast<double>(points.size());
 }
 
-/// What stands on the axes: days from left to right, free bytes from bottom to top.
+/// The axes: days from left to right, free bytes from bottom to top.
 struct Scale {
     double days = 1;
     double bytes = 1;
@@ -49,7 +49,7 @@ struct Scale {
     }
 };
 
-/// Time is to scale on both sides of now, so a forecast that is far away goes beyond the edge.
+/// Time is to scale on both sides of now, so a distant end of the forecast lies beyond the edge.
 double shownDays(double past, double free, double growth)
 {
     const double least = past / kLargestPast;

@@ -12,7 +12,7 @@ namespace orlen {
 namespace {
 
 constexpr double kDaysPerWeek = 7;
-/// Beyond what any disk holds, and far inside 64 bits.
+/// More than any disk holds, yet far below 64 bits.
 constexpr double kLargestRate = 1e18;
 
 QString rateText(double bytesPerDay)
@@ -39,26 +39,16 @@ void PredictionModel::update()
     setRows(m_prediction.perCategory, prediction.perCategory,
             [](const auto& growth) { return rawValue(growth.first); });
     m_prediction = std::move(prediction);
-    // Each bar is drawn against all the others.
+    // Each bar is scaled to all the others.
     allChanged();
     m_curve = m_prediction.enoughData ? ForecastCurve::of(m_app.storage()->snapshots()) : ForecastCurve{};
     Q_EMIT changed();
 }
 
-QString PredictionModel::headline() const
-{
-    return DisplayText::text(m_prediction.headline);
-}
-
-QString PredictionModel::detail() const
-{
-    return DisplayText::text(m_prediction.detail);
-}
-
 QString PredictionModel::snapshotsText() const
 {
     const auto count = static_cast<std::int64_t>(m_app.storage()->snapshots().size());
-    return count == 1 ? QStringLiteral("1 snapshot") : DisplayText::number(count) + " snapshots";
+    return DisplayText::counted(count, "snapshot");
 }
 
 QString PredictionModel::firstDate() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/predict/ForecastCurve.h"
 #include "window/shell/AppModelElement.h"
@@ -8,7 +9,7 @@
 
 namespace orlen {
 
-/// The growth forecast: its sentences, and how fast each category grows as rows, fastest first. Main thread.
+/// The growth forecast in sentences, with each category's growth as rows, fastest first. Main thread.
 class PredictionModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -20,7 +21,7 @@ class PredictionModel : public orlen::RowsModel {
     Q_PROPERTY(bool enoughData READ hasEnoughData NOTIFY changed)
     /// "12 snapshots"
     Q_PROPERTY(QString snapshotsText READ snapshotsText NOTIFY changed)
-    /// Days of the oldest and the newest snapshot, and the free space at the latter; empty without one.
+    /// Dates of the oldest and newest snapshot, and the free space at the newest; empty without snapshots.
     Q_PROPERTY(QString firstDate READ firstDate NOTIFY changed)
     Q_PROPERTY(QString lastDate READ lastDate NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
@@ -29,23 +30,23 @@ public:
     enum class Role {
         label = Qt::UserRole, ///< name of the category
         colour,               ///< of the category
-        rate,                 ///< its growth per week as text, with a sign
-        start,                ///< of the bar, 0 to 1; what shrinks lies left of what grows
+        rate,                 ///< growth per week as text, with a sign
+        start,                ///< of the bar, 0 to 1; shrinking categories extend to the left
         extent,               ///< length of the bar, 0 to 1
     };
     Q_ENUM(Role)
 
     explicit PredictionModel(AppModel& app = AppModelElement::model());
 
-    [[nodiscard]] QString headline() const;
-    [[nodiscard]] QString detail() const;
+    [[nodiscard]] QString headline() const { return DisplayText::text(m_prediction.headline); }
+    [[nodiscard]] QString detail() const { return DisplayText::text(m_prediction.detail); }
     [[nodiscard]] bool warns() const { return m_prediction.warn; }
     [[nodiscard]] bool hasEnoughData() const { return m_prediction.enoughData; }
     [[nodiscard]] QString snapshotsText() const;
     [[nodiscard]] QString firstDate() const;
     [[nodiscard]] QString lastDate() const;
     [[nodiscard]] QString freeText() const;
-    /// For the chart; without points while there is too little data.
+    /// For the chart; empty while there is too little data.
     [[nodiscard]] const ForecastCurve& curve() const { return m_curve; }
 
 Q_SIGNALS:
@@ -55,7 +56,7 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_prediction.perCategory.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    /// The rates around which all bars are drawn, bytes per day.
+    /// The range of rates that the bars are scaled to, in bytes per day.
     struct Range {
         double least = 0;
         double most = 0;

@@ -40,7 +40,7 @@ bool isTextCharacter(char character)
                         : byte == '\t' || byte == '\n' || byte == '\r' || byte == '\f' || byte == 0x1b;
 }
 
-/// The text without what was cut off in the middle of its last character; nothing when it is no text.
+/// The text without a truncated last character; nothing when it is not text.
 std::optional<std::string_view> validText(std::string_view bytes, bool isCut)
 {
     if (!std::all_of(bytes.begin(), bytes.end(), isTextCharacter))
@@ -73,7 +73,7 @@ void readText(FilePreview& preview, const UniqueFd& file, std::int64_t length)
 void readFile(FilePreview& preview, const std::string& path, std::int64_t length, const std::stop_token& stop)
 {
     if (PictureReader::looksReadable(path)) {
-        // Only the size of the whole is wanted, which is told with the smallest picture of it.
+        // Only the full size is needed, which comes with the smallest thumbnail too.
         if (const auto picture = PictureReader::read(path, {1, 1}, PictureReader::Fit::inside, stop)) {
             preview.kind = FilePreview::Kind::picture;
             preview.pixels = picture->whole;

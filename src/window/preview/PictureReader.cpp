@@ -30,7 +30,7 @@ QImage imageOf(const RgbImage& pixels)
     constexpr qsizetype kBytes = 3;
     const QImage shared(pixels.pixels.data(), pixels.width, pixels.height, pixels.width * kBytes,
                         QImage::Format_RGB888);
-    return shared.convertToFormat(QImage::Format_RGB32); // Its own pixels, as they are drawn.
+    return shared.convertToFormat(QImage::Format_RGB32); // a deep copy, in the format that is drawn
 }
 
 } // namespace

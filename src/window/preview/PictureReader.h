@@ -8,34 +8,33 @@
 #include <string>
 #include <string_view>
 
-/// Reads the user's pictures and the icons of programs for showing them, told apart by their content and not
-/// by their name. They are decoded by processes of their own (see ImageWorkers), so none of them can crash
-/// the window or take its memory. Links are not followed. Any thread; all but `looksReadable` block.
+/// Reads pictures and program icons for display. The format is detected from the content, not the name.
+/// Separate processes decode them (see ImageWorkers), so none can crash the window or use up its memory. Does
+/// not follow links. Any thread; all but `looksReadable` and `setRecognizer` block.
 namespace orlen::PictureReader {
 
 enum class Fit {
-    inside, ///< the whole picture, at most as large as asked for
-    cover,  ///< the middle of the picture, in the shape that is asked for
+    inside, ///< the whole picture, at most the requested size
+    cover,  ///< the middle of the picture, cropped to the requested shape
 };
 
 struct Picture {
     QImage image; ///< upright, never enlarged
-    QSize whole;  ///< pixels of the picture in the file, upright
+    QSize whole;  ///< size of the original in pixels, upright
 };
 
-/// Whether the name is that of a picture. Says nothing of the content.
+/// Whether the name looks like a picture's. The content may differ.
 [[nodiscard]] bool looksReadable(std::string_view path);
 
-/// The picture made small enough for `bound` pixels. Nothing when it cannot be read; at once when stopped.
+/// The picture scaled down to `bound` pixels. Nothing when it cannot be read, or at once when stopped.
 [[nodiscard]] std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit,
                                           const std::stop_token& stop);
 
-/// The icon of a program, its see-through parts kept, made to fit; it grows only if it is drawn in lines.
-/// Null when it cannot be read.
+/// The icon with its transparency, scaled to fit; enlarged only if it is a vector drawing. Null when it
+/// cannot be read.
 [[nodiscard]] QImage icon(const std::string& path, const QSize& size);
 
-/// The program that decodes, in place of the one that was built or installed with this program. Before the
-/// first picture.
+/// Replaces the decoding program that was built or installed with this one. Call before the first picture.
 void setRecognizer(const std::string& program);
 
 } // namespace orlen::PictureReader

@@ -1,6 +1,5 @@
 #include "window/preview/PreviewModel.h"
 
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/preview/Thumbnails.h"
@@ -36,16 +35,6 @@ void PreviewModel::show(FilePreview preview, Kind kind)
     Q_EMIT changed();
 }
 
-QString PreviewModel::name() const
-{
-    return DisplayText::nameOf(m_path);
-}
-
-QString PreviewModel::folder() const
-{
-    return DisplayText::folderOf(m_path);
-}
-
 QString PreviewModel::symbol() const
 {
     return m_kind == Folder ? FileSymbol::ofFolder() : FileSymbol::ofName(m_path);
@@ -62,9 +51,10 @@ QString PreviewModel::facts() const
     if (!m_preview.type.isEmpty())
         facts << m_preview.type;
     if (m_kind == Picture)
-        facts << SheetTexts::pixels(m_preview.pixels.width(), m_preview.pixels.height());
+        facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
+                                               DisplayText::number(m_preview.pixels.height()));
     if (m_kind == Folder)
-        facts << SheetTexts::itemCount(m_preview.nameCount);
+        facts << DisplayText::counted(m_preview.nameCount, "item");
     if (m_preview.bytes)
         facts << DisplayText::size(*m_preview.bytes);
     return facts.join(QStringLiteral(" · "));
@@ -74,9 +64,9 @@ QString PreviewModel::dates() const
 {
     QStringList dates;
     if (m_preview.modified)
-        dates << SheetTexts::modified(*m_preview.modified);
+        dates << DisplayText::modified(*m_preview.modified);
     if (m_preview.opened)
-        dates << SheetTexts::opened(*m_preview.opened);
+        dates << DisplayText::opened(*m_preview.opened);
     return dates.join(QStringLiteral(" · "));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Workers.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/RowsModel.h"
 #include "window/preview/FilePreview.h"
@@ -11,26 +12,26 @@
 
 namespace orlen {
 
-/// The preview of one file: a picture, the beginning of a text, the names in a folder as rows, or its facts.
+/// The preview of one file: a picture, the beginning of a text, a folder's names as rows, or just facts.
 /// Loaded on a worker; the latest path wins. Main thread.
 class PreviewModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// A `PathCode`; empty shows nothing.
+    /// A `PathCode`; nothing is shown while empty.
     Q_PROPERTY(QString path READ path WRITE setPath NOTIFY changed)
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
     /// Icon of the file.
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
-    /// Source of the picture, whole; empty for what is no picture.
+    /// Source of the whole picture; empty unless it is one.
     Q_PROPERTY(QString picture READ picture NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// "PNG image · 4,032 × 3,024 · 2.1 MB"
     Q_PROPERTY(QString facts READ facts NOTIFY changed)
     /// "Modified … · Opened …"
     Q_PROPERTY(QString dates READ dates NOTIFY changed)
-    /// Whether the text or the names go on beyond what is shown.
+    /// Whether the text or the names are incomplete.
     Q_PROPERTY(bool cut READ isCut NOTIFY changed)
 
 public:
@@ -45,7 +46,7 @@ public:
     };
     Q_ENUM(Kind)
 
-    /// Rows are the names in a folder.
+    /// Of the names in a folder.
     enum class Role {
         name = Qt::UserRole, ///< readable
         size,                ///< text; empty for a folder
@@ -58,8 +59,8 @@ public:
     [[nodiscard]] QString path() const { return PathCode::of(m_path); }
     void setPath(const QString& code);
     [[nodiscard]] Kind kind() const { return m_kind; }
-    [[nodiscard]] QString name() const;
-    [[nodiscard]] QString folder() const;
+    [[nodiscard]] QString name() const { return DisplayText::nameOf(m_path); }
+    [[nodiscard]] QString folder() const { return DisplayText::folderOf(m_path); }
     [[nodiscard]] QString symbol() const;
     [[nodiscard]] QString picture() const;
     [[nodiscard]] QString text() const { return m_preview.text; }
@@ -67,9 +68,9 @@ public:
     [[nodiscard]] QString dates() const;
     [[nodiscard]] bool isCut() const { return m_preview.isCut; }
 
-    /// Shows the file in its folder.
+    /// Shows the file in the file manager.
     Q_INVOKABLE void reveal() const;
-    /// Opens the file with the program that the desktop has for it.
+    /// Opens the file with its default program.
     Q_INVOKABLE void openWith() const;
 
 Q_SIGNALS:

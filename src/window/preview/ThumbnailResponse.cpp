@@ -17,7 +17,7 @@ void ThumbnailResponse::Ticket::deliver(const QImage& image)
     if (m_response == nullptr)
         return;
     m_response->m_image = image;
-    // Later, so that nothing of the engine runs under the lock, nor before it has connected.
+    // Queued, so that no engine code runs under the lock or before the engine has connected.
     QMetaObject::invokeMethod(m_response, &QQuickImageResponse::finished, Qt::QueuedConnection);
 }
 

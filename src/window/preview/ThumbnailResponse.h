@@ -8,20 +8,20 @@
 
 namespace orlen {
 
-/// The answer to one request of an image item. Made and destroyed by the engine, at any time; whoever decodes
-/// holds only a ticket.
+/// The answer to one request of an image item. The engine may destroy it at any time, so a decoder holds only
+/// a ticket.
 class ThumbnailResponse : public QQuickImageResponse {
     Q_OBJECT
 
 public:
-    /// What a decoder keeps of the response. Any thread.
+    /// A decoder's handle to the response. Any thread.
     class Ticket {
     public:
         explicit Ticket(ThumbnailResponse& response) : m_response(&response) {}
 
-        /// False once nobody waits for the picture any more.
+        /// False once nobody is waiting for the picture.
         [[nodiscard]] bool isWanted();
-        /// Ends the response. Nothing happens when it is gone.
+        /// Finishes the response; ignored when it is gone.
         void deliver(const QImage& image);
 
     private:

@@ -77,7 +77,7 @@ QString Thumbnails::source(const std::string& path)
 QQuickImageResponse* Thumbnails::requestImageResponse(const QString& id, const QSize& requestedSize)
 {
     const QSize wanted = (requestedSize.isEmpty() ? kUsualThumbnail : requestedSize).boundedTo(kLargest);
-    auto* response = new ThumbnailResponse; // the engine's from here on
+    auto* response = new ThumbnailResponse; // owned by the engine
     m_pool.start(new Job(*this, id, wanted, response->ticket()));
     return response;
 }

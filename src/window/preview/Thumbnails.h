@@ -11,11 +11,11 @@
 
 namespace orlen {
 
-/// Small pictures of the user's pictures, decoded off the main thread at the size they are shown:
-/// "image://thumbnail/PATH" for the middle of the picture in exactly the shape of `sourceSize`,
-/// "image://thumbnail/PATH/inside" for the whole picture within it. PATH is a `PathCode`. A request whose
-/// image item has gone is dropped. What cannot be read comes back without pixels: the item is then `Ready`
-/// with an `implicitWidth` of 0, and what lies below it shows. The latest 64 MB are kept.
+/// Thumbnails of the user's pictures, decoded off the main thread at the size they are shown:
+/// "image://thumbnail/PATH" crops the middle of the picture to the shape of `sourceSize`,
+/// "image://thumbnail/PATH/inside" fits the whole picture into it. PATH is a `PathCode`. A request whose
+/// image item is gone is dropped. An unreadable picture has no pixels: the item is then `Ready` with an
+/// `implicitWidth` of 0, and whatever is below it shows through. The latest 64 MB are cached.
 class Thumbnails : public QQuickAsyncImageProvider {
 public:
     static constexpr const char* kName = "thumbnail";
@@ -23,8 +23,8 @@ public:
     Thumbnails();
     ~Thumbnails() override;
 
-    /// What a list model gives as the source of an image item; empty when the name is not that of a picture.
-    /// Any thread; does not touch the disk.
+    /// The source for an image item; empty when the name is not a picture's. Any thread; does not touch the
+    /// disk.
     [[nodiscard]] static QString source(const std::string& path);
 
     QQuickImageResponse* requestImageResponse(const QString& id, const QSize& requestedSize) override;
@@ -36,7 +36,7 @@ private:
     void keep(const QString& key, const QImage& image);
 
     QMutex m_lock;
-    QCache<QString, QImage> m_images; ///< by identity and size, at the cost of their kilobytes
+    QCache<QString, QImage> m_images; ///< by id and size; cost in kilobytes
     std::stop_source m_stop;
     QThreadPool m_pool; ///< last, so that no job outlives what it uses
 };

@@ -1,7 +1,6 @@
 #include "window/review/PlanModel.h"
 
 #include "model/FindingKind.h"
-#include "window/findings/SheetTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathCode.h"
@@ -17,7 +16,7 @@ namespace orlen {
 namespace {
 
 constexpr int kHeading = -1;
-constexpr QRgb kUsualTone = 0xff5b5fe0; // of a section that is no kind of finding
+constexpr QRgb kUsualTone = 0xff5b5fe0; // for a section that matches no kind of finding
 
 std::size_t place(int number)
 {
@@ -54,15 +53,14 @@ void PlanModel::show(const CleanPlan& plan)
     m_plan = plan;
     m_ticks = PlanTicks(plan);
     m_rows.clear();
-    m_states.clear();
+    m_isFolded.assign(plan.sections.size(), false);
     m_entryCount = 0;
     m_hasNotes = false;
-    for (const PlanSection& section : m_plan->sections) {
-        const int number = static_cast<int>(m_states.size());
+    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
+        const PlanSection& section = m_plan->sections[place(number)];
         const int entries = static_cast<int>(section.entries.size());
         for (int entry = kHeading; entry < entries; ++entry)
             m_rows.push_back({number, entry});
-        m_states.push_back({});
         m_entryCount += entries;
         m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
                                                [](const FileEntry& entry) { return entry.note.has_value(); });
@@ -108,7 +106,7 @@ void PlanModel::setAllChecked(bool isChecked)
     followTicks();
 }
 
-/// Rows of other sections may show the same path, or what lies in it.
+/// Rows in other sections may show the same path or one inside it.
 void PlanModel::followTicks()
 {
     allChanged(Role::mark, Role::folder, Role::size);
@@ -121,9 +119,8 @@ void PlanModel::fold(int row)
         return;
     const int number = at(row).section;
     const int entries = static_cast<int>(section(number).entries.size());
-    SectionState& folded = state(number);
     const auto after = m_rows.begin() + row + 1;
-    if (folded.isFolded) {
+    if (m_isFolded[place(number)]) {
         std::vector<Row> shown(place(entries));
         for (int entry = 0; entry < entries; ++entry)
             shown[place(entry)] = {number, entry};
@@ -135,13 +132,13 @@ void PlanModel::fold(int row)
         m_rows.erase(after, after + entries);
         endRemoveRows();
     }
-    folded.isFolded = !folded.isFolded;
+    m_isFolded[place(number)].flip();
     rowsChanged(row, row, Role::folded);
 }
 
 void PlanModel::setFolded(int row, bool isFolded)
 {
-    if (hasRow(row) && state(at(row).section).isFolded != isFolded)
+    if (hasRow(row) && m_isFolded[place(at(row).section)] != isFolded)
         fold(row);
 }
 
@@ -149,33 +146,13 @@ int PlanModel::headingOf(int row) const
 {
     if (!hasRow(row))
         return -1;
-    // The rows of a section follow its heading in their order.
+    // A section's rows follow its heading in order.
     return row - at(row).entry - 1;
-}
-
-QString PlanModel::checkedCountText() const
-{
-    return DisplayText::number(checkedCount());
-}
-
-QString PlanModel::checkedSizeText() const
-{
-    return DisplayText::size(m_ticks.amount().bytes);
-}
-
-bool PlanModel::isConfirmable() const
-{
-    return checkedCount() > 0 && m_app.isWriter();
 }
 
 const PlanSection& PlanModel::section(int number) const
 {
     return m_plan->sections[place(number)];
-}
-
-const PlanModel::SectionState& PlanModel::state(int number) const
-{
-    return m_states[place(number)];
 }
 
 const FileEntry* PlanModel::entryAt(int row) const
@@ -190,10 +167,7 @@ Qt::CheckState PlanModel::checkState(const Row& row) const
     const std::size_t number = place(row.section);
     if (row.entry != kHeading)
         return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
-    const int checked = m_ticks.count(number);
-    if (checked == 0)
-        return Qt::Unchecked;
-    return place(checked) == section(row.section).entries.size() ? Qt::Checked : Qt::PartiallyChecked;
+    return checkStateOf(m_ticks.count(number), section(row.section).entries.size());
 }
 
 QVariant PlanModel::value(std::size_t number, int role) const
@@ -208,7 +182,7 @@ QVariant PlanModel::value(std::size_t number, int role) const
     if (wanted == Role::mark)
         return checkState(row);
     if (wanted == Role::folded)
-        return state(row.section).isFolded;
+        return bool{m_isFolded[place(row.section)]};
     if (wanted == Role::tone)
         return toneOf(section(row.section));
     return isHeading ? sectionData(row.section, wanted) : entryData(row, wanted);
@@ -220,8 +194,8 @@ QVariant PlanModel::sectionData(int number, Role role) const
     if (role == Role::name)
         return DisplayText::path(shown.title);
     if (role == Role::folder)
-        return SheetTexts::selectedCount(m_ticks.count(place(number)),
-                                         static_cast<std::int64_t>(shown.entries.size()));
+        return DisplayText::selectedOf(m_ticks.count(place(number)),
+                                       static_cast<std::int64_t>(shown.entries.size()));
     if (role == Role::size)
         return DisplayText::size(m_ticks.bytes(place(number)));
     if (role == Role::symbol)
@@ -239,7 +213,7 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
     if (role == Role::size)
         return DisplayText::size(entry.size);
     if (role == Role::date)
-        return SheetTexts::dateOf(entry);
+        return DisplayText::dateOf(entry);
     if (role == Role::note)
         return DisplayText::path(entry.note.value_or(""));
     const bool isFolder = m_folders->isFolder(entry.path);

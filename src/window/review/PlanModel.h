@@ -2,6 +2,7 @@
 
 #include "model/PlanTicks.h"
 #include "window/findings/FolderLookup.h"
+#include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -13,35 +14,34 @@
 
 namespace orlen {
 
-/// The plan that waits for confirmation, as rows: each section's heading, followed by its entries unless it
-/// is folded up. All entries are checked at first; one that stands in several sections has the same check in
-/// each of them. Keeps the plan until the next one, so that a sheet that closes still shows it. Main thread.
+/// The plan awaiting confirmation as rows: each section's heading, followed by its entries unless folded. All
+/// entries are checked at first; one listed in several sections is checked in all or none of them. Keeps the
+/// plan until the next one, so that a closing sheet still shows it. Main thread.
 class PlanModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Heading of the plan.
     Q_PROPERTY(QString title READ title NOTIFY planChanged)
     /// Whether any entry has a note.
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
     Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
-    /// What would move: each path once, and nothing that goes along with its folder.
+    /// What would move, counting each path once and entries inside a checked folder not at all.
     Q_PROPERTY(QString checkedCountText READ checkedCountText NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
-    /// Whether something is checked and this program may move it.
+    /// Whether something is checked and the program may move it.
     Q_PROPERTY(bool confirmable READ isConfirmable NOTIFY figuresChanged)
 
 public:
     enum class Role {
-        heading = Qt::UserRole, ///< whether the row is a section's
-        name,                   ///< of the section, or the last component of the entry
-        folder,                 ///< where the entry lies; "12 of 15 selected" of a section
-        size,                   ///< of the entry, or what is checked in the section, as text
+        heading = Qt::UserRole, ///< whether the row is a section heading
+        name,                   ///< of the section, or the entry's last path component
+        folder,                 ///< that contains the entry; "12 of 15 selected" for a section
+        size,                   ///< of the entry, or of what is checked in the section, as text
         date,                   ///< "Opened …" or "Modified …"; may be empty
         note,                   ///< may be empty
         rating,                 ///< a `RatingValue`
         symbol,                 ///< icon of the file or the section
         tone,                   ///< colour of the section's badge
-        thumbnail,              ///< source of a picture of it; empty for what is no picture
+        thumbnail,              ///< image source; empty unless it is a picture
         mark,                   ///< Qt::CheckState
         folded,                 ///< whether the section's entries are hidden
     };
@@ -53,26 +53,26 @@ public:
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
     [[nodiscard]] int entryCount() const { return m_entryCount; }
     [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
-    [[nodiscard]] QString checkedCountText() const;
-    [[nodiscard]] QString checkedSizeText() const;
-    [[nodiscard]] bool isConfirmable() const;
+    [[nodiscard]] QString checkedCountText() const { return DisplayText::number(checkedCount()); }
+    [[nodiscard]] QString checkedSizeText() const { return DisplayText::size(m_ticks.amount().bytes); }
+    [[nodiscard]] bool isConfirmable() const { return checkedCount() > 0 && m_app.isWriter(); }
 
-    /// Checks the row's entry or takes the check away, for what lies in it and, when it is taken away, for
-    /// the folders that hold it too; for a section, all of its entries. As the following ones, nothing for a
-    /// row that is not there.
+    /// Checks or unchecks the row's entry, or all entries of a section. Includes the entries inside it and,
+    /// when unchecking, the folders that contain it. All functions that take a row ignore one that does not
+    /// exist.
     Q_INVOKABLE void toggle(int row);
     Q_INVOKABLE void checkAll();
     Q_INVOKABLE void uncheckAll();
-    /// Hides the entries of a section's row, or shows them again.
+    /// Hides or shows the entries of a section's row.
     Q_INVOKABLE void fold(int row);
     Q_INVOKABLE void setFolded(int row, bool isFolded);
-    /// The row of the heading over the row.
+    /// The heading row of the section that the row is in.
     [[nodiscard]] Q_INVOKABLE int headingOf(int row) const;
-    /// Its `PathCode`, for a preview; empty for a section.
+    /// The entry's `PathCode`, for a preview; empty for a section.
     [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
-    /// Moves what is checked to the Trash. Only when `confirmable`.
+    /// Moves the checked entries to the Trash. Only when `confirmable`.
     Q_INVOKABLE void confirm();
 
 Q_SIGNALS:
@@ -87,9 +87,6 @@ private:
         int section = 0;
         int entry = 0; ///< -1: the section's heading
     };
-    struct SectionState {
-        bool isFolded = false;
-    };
 
     void follow();
     void show(const CleanPlan& plan);
@@ -97,8 +94,6 @@ private:
     void followTicks();
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     [[nodiscard]] const PlanSection& section(int number) const;
-    [[nodiscard]] SectionState& state(int number) { return m_states[static_cast<std::size_t>(number)]; }
-    [[nodiscard]] const SectionState& state(int number) const;
     [[nodiscard]] const FileEntry* entryAt(int row) const;
     [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
     [[nodiscard]] QVariant sectionData(int number, Role role) const;
@@ -107,7 +102,7 @@ private:
     AppModel& m_app;
     std::optional<CleanPlan> m_plan;
     PlanTicks m_ticks;
-    std::vector<SectionState> m_states; ///< of each section
+    std::vector<bool> m_isFolded; ///< of each section
     std::vector<Row> m_rows;
     int m_entryCount = 0;
     bool m_hasNotes = false;

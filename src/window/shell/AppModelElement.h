@@ -9,7 +9,7 @@ class QQmlEngine;
 
 namespace orlen {
 
-/// Makes the application model known to QML as the singleton `AppModel`. The engine never owns it.
+/// Exposes the application model to QML as the singleton `AppModel`. The engine never owns it.
 struct AppModelElement {
     Q_GADGET
     QML_FOREIGN(orlen::AppModel)
@@ -17,14 +17,14 @@ struct AppModelElement {
     QML_SINGLETON
 
 public:
-    /// The model that QML is to see; before the first component is loaded, and again before it is destroyed.
+    /// Sets the model that QML sees. Call before the first component is loaded.
     static void setModel(AppModel* model);
-    /// The same, for what QML makes. There must be one.
+    /// For objects created by QML. A model must be set.
     [[nodiscard]] static AppModel& model();
     static AppModel* create(QQmlEngine* engine, QJSEngine* scripts);
 };
 
-/// The parts of the application model, as its properties.
+/// The parts of the application model, which are its properties.
 struct ResultsElement {
     Q_GADGET
     QML_FOREIGN(orlen::Results)

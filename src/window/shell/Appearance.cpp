@@ -38,7 +38,7 @@ Appearance::Appearance(QObject* parent) : QObject(parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    // Without the type's name the slot below is not found, and no change arrives.
+    // Without the registered type the slot is not found, and no change arrives.
     qRegisterMetaType<QDBusVariant>();
     bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(applySetting(QString, QString, QDBusVariant)));

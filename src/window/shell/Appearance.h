@@ -7,7 +7,7 @@
 
 namespace orlen {
 
-/// How the desktop wants programs to look: dark or light, with or without motion. Follows its changes. Main
+/// How the desktop wants programs to look: dark or light, with or without motion. Follows changes. Main
 /// thread.
 class Appearance : public QObject {
     Q_OBJECT
@@ -15,9 +15,8 @@ class Appearance : public QObject {
     Q_PROPERTY(bool dark READ isDark NOTIFY changed)
     Q_PROPERTY(bool highContrast READ isHighContrast NOTIFY changed)
     Q_PROPERTY(bool reducedMotion READ isReducedMotion NOTIFY changed)
-    /// Of the program's texts.
     Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
-    /// Size of the desktop's usual text against the common 10 points, at least 1.
+    /// The desktop's text size relative to the usual 10 points, at least 1.
     Q_PROPERTY(double textScale READ textScale CONSTANT)
 
 public:
@@ -31,7 +30,7 @@ public:
     [[nodiscard]] static QString fontFamily();
     [[nodiscard]] double textScale() const;
 
-    /// For pictures and tests: what all that are made afterwards show, whatever the desktop says.
+    /// For screenshots and tests: overrides the desktop for all instances created afterwards.
     static void setScheme(Scheme scheme);
     static void setReducedMotion(bool isReduced);
     static void setTextScale(double scale);
@@ -43,7 +42,7 @@ private:
     Q_SLOT void applySetting(const QString& group, const QString& key, const QDBusVariant& value);
     void ask(const QString& group, const QString& key);
 
-    int m_colourScheme = 0; ///< as the portal counts: 0 no preference, 1 dark, 2 light
+    int m_colourScheme = 0; ///< the portal's value: 0 no preference, 1 dark, 2 light
     bool m_isHighContrast = false;
     bool m_areAnimationsOff = false;
 };

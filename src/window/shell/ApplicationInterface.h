@@ -11,21 +11,21 @@
 
 namespace orlen {
 
-/// The bus face of a program that the desktop starts by name: "org.freedesktop.Application".
+/// The D-Bus interface of a program that the desktop starts by name: "org.freedesktop.Application".
 class ApplicationInterface : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    /// A function and no signal: each signal of such an object goes out on the bus.
+    /// A function, not a signal: signals of an adaptor are sent on the bus.
     using Activated = std::function<void(const LaunchToken&)>;
 
     ApplicationInterface(Activated activated, QObject* parent);
 
     Q_SLOT void Activate(const QVariantMap& platformData);
-    /// Orlen opens no documents: the window comes to the front, and that is all.
+    /// Orlen opens no documents, so this only brings the window to the front.
     Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
-    /// The desktop entry names no actions; what an older or newer entry names opens the window.
+    /// The desktop entry has no actions; any that another version has just opens the window.
     Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
                                const QVariantMap& platformData);
 

@@ -31,7 +31,7 @@ DesktopNotices::DesktopNotices(QDBusConnection bus, const QString& openLabel, QO
 {
     if (!m_bus.isConnected())
         return;
-    // The token, where the desktop has one, comes before the action.
+    // The token, if the desktop sends one, arrives before the action.
     m_bus.connect(kService, kPath, kService, QStringLiteral("ActivationToken"), this,
                   SLOT(keepToken(uint, QString)));
     m_bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this,

@@ -10,8 +10,8 @@ class QDBusPendingCallWatcher;
 
 namespace orlen {
 
-/// Shows one notice at a time through the desktop's notification service; a new one replaces the last. All
-/// calls are asynchronous, and where there is no such service nothing happens. Main thread.
+/// Shows one notice at a time through the desktop's notification service; a new one replaces the last. Calls
+/// are asynchronous and do nothing without such a service. Main thread.
 class DesktopNotices : public QObject {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
         QString text; ///< plain
     };
 
-    /// `openLabel` names what a click does.
+    /// `openLabel` describes what a click does.
     DesktopNotices(QDBusConnection bus, const QString& openLabel, QObject* parent = nullptr);
 
     void show(const Notice& notice);
@@ -38,7 +38,7 @@ private:
 
     QDBusConnection m_bus;
     const QString m_openLabel;
-    uint m_id = 0; ///< of the last notice; 0: there is none
+    uint m_id = 0; ///< of the last notice; 0: none
     LaunchToken m_token;
 };
 

@@ -1,7 +1,5 @@
 #include "window/shell/DesktopPresence.h"
 
-#include "window/shell/WindowTexts.h"
-
 #include <QGuiApplication>
 #include <QQuickWindow>
 
@@ -9,7 +7,7 @@ namespace orlen {
 
 DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine,
                                  QQuickWindow& window)
-    : m_notices(bus, WindowTexts::open()),
+    : m_notices(bus, Tray::openLabel()),
       m_endNotices(app, m_notices, [&window] { return window.isExposed() && window.isActive(); }),
       m_tray(bus, app, engine)
 {
@@ -21,7 +19,7 @@ DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQml
     });
     connect(&m_tray, &Tray::quitRequested, QCoreApplication::instance(), &QCoreApplication::quit,
             Qt::QueuedConnection);
-    // The small window must not keep the program alive when the main one has been closed.
+    // The tray's panel must not keep the program alive after the main window is closed.
     connect(&window, &QWindow::visibleChanged, this, [this](bool isVisible) {
         if (!isVisible)
             m_tray.hidePanel();

@@ -12,14 +12,13 @@ class QQuickWindow;
 
 namespace orlen {
 
-/// What the desktop shows of the program beside its window: the tray item and notices. All of it is optional:
-/// nothing happens where the desktop has no place for it, and closing the window ends the program always.
-/// Main thread.
+/// The program's presence on the desktop besides its window: the tray item and notices. Both are optional:
+/// they do nothing on a desktop without them, and closing the window always ends the program. Main thread.
 class DesktopPresence : public QObject {
     Q_OBJECT
 
 public:
-    /// All outlive this.
+    /// All arguments outlive this.
     DesktopPresence(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine, QQuickWindow& window);
 
     /// Brings the window to the front.

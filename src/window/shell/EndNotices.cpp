@@ -1,7 +1,8 @@
 #include "window/shell/EndNotices.h"
 
-#include "window/shell/WindowTexts.h"
+#include "window/lists/DisplayText.h"
 
+#include <iterator>
 #include <utility>
 
 namespace orlen {
@@ -17,15 +18,20 @@ EndNotices::EndNotices(AppModel& app, DesktopNotices& notices, std::function<boo
 void EndNotices::followPhase()
 {
     const Phase before = std::exchange(m_phase, m_app.results()->phase());
-    // A cancelled scan, which ends in another phase, is no news.
-    if (before == Phase::scanning && m_phase == Phase::results)
-        show({WindowTexts::scanFinished(), WindowTexts::safelyFree(m_app.results()->safeBytes())});
+    // A cancelled scan ends in another phase and needs no notice.
+    if (before != Phase::scanning || m_phase != Phase::results)
+        return;
+    const std::int64_t safe = m_app.results()->safeBytes();
+    show({QStringLiteral("Smart Scan finished"),
+          safe > 0 ? QStringLiteral("You can safely free %1").arg(DisplayText::size(safe))
+                   : QStringLiteral("Nothing is rated Safe right now")});
 }
 
 void EndNotices::showCleaning(const CleanRecord& record)
 {
-    show({WindowTexts::moved(static_cast<int>(record.items.size())),
-          WindowTexts::couldNotBeMoved(record.failed)});
+    const QString failed = QStringLiteral("%1 couldn't be moved").arg(DisplayText::number(record.failed));
+    show({QStringLiteral("%1 moved to the Trash").arg(DisplayText::number(std::ssize(record.items))),
+          record.failed == 0 ? QString() : failed});
 }
 
 void EndNotices::show(const DesktopNotices::Notice& notice)

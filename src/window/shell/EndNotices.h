@@ -9,13 +9,12 @@
 
 namespace orlen {
 
-/// Tells the user through the desktop that a scan or a clean-up has ended, when the window cannot. Main
-/// thread.
+/// Shows a desktop notice when a scan or clean-up ends while the user is not at the window. Main thread.
 class EndNotices : public QObject {
     Q_OBJECT
 
 public:
-    /// `isSeen` answers whether the user is at the window anyway. The others outlive this.
+    /// `isSeen` says whether the user is looking at the window. The other arguments outlive this.
     EndNotices(AppModel& app, DesktopNotices& notices, std::function<bool()> isSeen,
                QObject* parent = nullptr);
 

@@ -1,7 +1,5 @@
 #include "window/shell/GuiStart.h"
 
-#include "window/shell/WindowTexts.h"
-
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,13 +7,14 @@ namespace orlen::GuiStart {
 
 namespace {
 
-/// Qt tells of a display that does not answer in many words and then aborts; there is no call to ask first.
-/// What it remarks before is about the same.
+/// Qt prints a long message about a display that does not answer and then aborts; it offers no way to ask
+/// first. Its earlier warnings say the same.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/)
 {
     if (type != QtFatalMsg)
         return;
-    std::fprintf(stderr, "orlen: %s\n", WindowTexts::noDisplay());
+    std::fputs("orlen: the window cannot be opened on this display; `orlen scan` works without one.\n",
+               stderr);
     std::_Exit(EXIT_FAILURE);
 }
 

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-/// Makes the application object on a display that may not answer.
+/// Creates the application object on a display that may not answer.
 namespace orlen::GuiStart {
 
 /// Ends the program with a sentence and exit status 1 when there is no display to open a window on. The

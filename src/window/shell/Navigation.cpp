@@ -6,6 +6,7 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <utility>
 
 namespace orlen {
 
@@ -36,10 +37,8 @@ void Navigation::finishOnboarding()
 
 void Navigation::setScreen(Screens::Screen screen)
 {
-    if (m_screen == screen)
-        return;
-    m_screen = screen;
-    Q_EMIT screenChanged();
+    if (std::exchange(m_screen, screen) != screen)
+        Q_EMIT screenChanged();
 }
 
 Navigation::Sheet Navigation::sheet() const
@@ -55,11 +54,6 @@ QString Navigation::findingId() const
     if (sheet() != FindingSheet)
         return {};
     return DisplayText::text(std::get<orlen::FindingSheet>(*WindowState::of(m_app).sheet()).findingId);
-}
-
-bool Navigation::isCleaning() const
-{
-    return m_app.cleanUps()->cleaning().has_value();
 }
 
 void Navigation::showFinding(const QString& id)

@@ -9,7 +9,7 @@
 
 namespace orlen {
 
-/// What the main window shows: onboarding or a screen, a sheet over it, the clean-up overlay. Main thread.
+/// What the main window shows: onboarding or a screen, a sheet over it, or the clean-up overlay. Main thread.
 class Navigation : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,9 +17,9 @@ class Navigation : public QObject {
     Q_PROPERTY(bool onboarded READ isOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(orlen::Screens::Screen screen READ screen WRITE setScreen NOTIFY screenChanged)
     Q_PROPERTY(Sheet sheet READ sheet NOTIFY sheetChanged)
-    /// Of the finding sheet: the finding's identity; else empty.
+    /// Id of the finding sheet's finding; else empty.
     Q_PROPERTY(QString findingId READ findingId NOTIFY sheetChanged)
-    /// Whether the overlay of a clean-up stands over everything.
+    /// Whether the clean-up overlay covers everything.
     Q_PROPERTY(bool cleaning READ isCleaning NOTIFY cleaningChanged)
 
 public:
@@ -33,10 +33,10 @@ public:
     void setScreen(Screens::Screen screen);
     [[nodiscard]] Sheet sheet() const;
     [[nodiscard]] QString findingId() const;
-    [[nodiscard]] bool isCleaning() const;
+    [[nodiscard]] bool isCleaning() const { return m_app.cleanUps()->cleaning().has_value(); }
 
     Q_INVOKABLE void finishOnboarding();
-    /// Opens the detail of the finding with this identity, if there is one.
+    /// Opens the detail sheet of this finding; ignored if there is none.
     Q_INVOKABLE void showFinding(const QString& id);
     Q_INVOKABLE void closeSheet();
 

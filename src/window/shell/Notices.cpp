@@ -2,7 +2,6 @@
 
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -15,10 +14,10 @@ namespace orlen {
 
 namespace {
 
-/// Between two sentences, so that the second one is seen, and told, to be another.
+/// Between two notices, so that eyes and screen readers notice the change.
 constexpr std::chrono::milliseconds kPause{300};
 constexpr std::chrono::milliseconds kPerCharacter{75};
-/// What can be copied has to be reached as well.
+/// A path also takes time to reach and copy.
 constexpr int kPathFactor = 2;
 
 } // namespace
@@ -29,7 +28,7 @@ Notices::Notices(AppModel& app)
     connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
     if (const Reveal* reveal = Reveal::current())
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
-            add({WindowTexts::cannotReveal(path), path});
+            add({QStringLiteral("No program could show this item: %1").arg(path), path});
         });
     for (const std::string& sentence : app.notices())
         say(DisplayText::text(sentence));

@@ -12,22 +12,22 @@
 
 namespace orlen {
 
-/// What the window says in passing: one sentence after the other, each until it was read. Hears by itself of
-/// files that could not be shown in the file manager. Main thread.
+/// Short notices in the window, shown one after another, each long enough to be read. Also reports files that
+/// could not be shown in the file manager. Main thread.
 class Notices : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// The sentence that is shown; empty for none.
+    /// The notice shown; empty for none.
     Q_PROPERTY(QString text READ text NOTIFY changed)
-    /// Whether the sentence tells of a path, which can be copied.
+    /// Whether the notice is about a path, which can be copied.
     Q_PROPERTY(bool hasPath READ hasPath NOTIFY changed)
-    /// Whether the user is at the sentence, with the pointer or the keyboard: then it stays.
+    /// Whether the pointer or the keyboard focus is on the notice, which keeps it open.
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
-    /// Milliseconds that a short sentence is shown.
+    /// Milliseconds a short notice is shown.
     Q_PROPERTY(int shortest MEMBER m_shortest NOTIFY shortestChanged)
 
 public:
-    /// Begins with what the application model has to say of its start.
+    /// Starts with the application model's startup notices.
     explicit Notices(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] QString text() const { return m_shown.text; }
@@ -35,13 +35,13 @@ public:
     [[nodiscard]] bool isHeld() const { return m_isHeld; }
     void setHeld(bool isHeld);
 
-    /// Shows the sentence, when those that came before were read. One that is shown is only shown longer.
+    /// Queues the notice. If it is the one being shown, only its time starts again.
     Q_INVOKABLE void say(const QString& text);
-    /// Goes on to the next sentence; nothing when none is shown.
+    /// Goes on to the next notice; ignored when none is shown.
     Q_INVOKABLE void dismiss();
-    /// Puts the path on the clipboard.
+    /// Copies the path to the clipboard.
     Q_INVOKABLE void copyPath() const;
-    /// Lets screen readers read out the item that shows the sentence.
+    /// Makes screen readers announce the item that shows the notice.
     Q_INVOKABLE static void announce(QObject* item);
 
 Q_SIGNALS:
@@ -52,7 +52,7 @@ Q_SIGNALS:
 private:
     struct Notice {
         QString text;
-        QString path; ///< empty when it tells of none
+        QString path; ///< empty for none
 
         friend bool operator==(const Notice&, const Notice&) = default;
     };
@@ -64,7 +64,7 @@ private:
 
     Notice m_shown;
     std::deque<Notice> m_waiting;
-    QTimer m_timer; ///< until the shown sentence was read, or until the next one comes
+    QTimer m_timer; ///< until the notice has been read, or until the next one appears
     bool m_isHeld = false;
     int m_shortest = 6000;
 };

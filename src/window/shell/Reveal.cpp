@@ -87,7 +87,7 @@ void Reveal::askFileManager(const std::string& path)
     call(message, this, [this, path] { askPortal(path); });
 }
 
-/// The portal takes the open folder itself, which is opened on a worker: the folder may be far away.
+/// The portal takes an open folder. A worker opens it, as it may be on a slow network.
 void Reveal::askPortal(const std::string& path)
 {
     if (!QDBusConnection::sessionBus().isConnected()) {
@@ -119,7 +119,7 @@ void Reveal::openFolder(const std::string& path)
 
 void Reveal::runOpener(const std::string& target, const Failure& failure)
 {
-    // Without a parent: to destroy it would end the program it has started, which is the user's from now on.
+    // No parent: destroying it would kill the started program, which now belongs to the user.
     auto* process = new QProcess;
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());

@@ -10,11 +10,11 @@
 
 namespace orlen {
 
-/// Shows files in the desktop's file manager and opens them with other programs. Nothing here waits: the
-/// file manager is asked over the session bus, then the desktop portal, then `xdg-open` for the folder.
+/// Shows files in the file manager and opens them with other programs. Never blocks: tries the file manager
+/// over the session bus, then the desktop portal, then `xdg-open` for the folder.
 ///
-/// Main thread. The window makes the one instance and C++ of any screen calls `Reveal::show(path)`; a failure
-/// is shown by the window.
+/// Main thread. The window creates the only instance and reports failures; any screen's C++ code calls
+/// `Reveal::show(path)`.
 class Reveal : public QObject {
     Q_OBJECT
 
@@ -22,16 +22,16 @@ public:
     explicit Reveal(QObject* parent = nullptr);
     ~Reveal() override;
 
-    /// The one instance; null while there is no window.
+    /// The only instance; null while there is no window.
     [[nodiscard]] static Reveal* current();
 
-    /// Shows the path in its folder, through the one instance; nothing without one.
+    /// Shows the path in its folder; ignored without an instance.
     static void show(const std::string& path);
-    /// Opens the file or folder itself with the program that the desktop has for it.
+    /// Opens the file or folder itself with its default program; ignored without an instance.
     static void open(const std::string& path);
 
 Q_SIGNALS:
-    /// Nothing could show the path, or open it. The text is for display and for the clipboard.
+    /// Nothing could show or open the path. The text is for display and the clipboard.
     void failed(const QString& path);
 
 private:

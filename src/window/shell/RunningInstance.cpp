@@ -24,7 +24,7 @@ const QString& busName()
     return name;
 }
 
-/// The object path that belongs to the name by the desktop entry rules.
+/// The object path that the desktop entry rules derive from the name.
 QString objectPath()
 {
     return u'/' + QString(busName()).replace(u'.', u'/');
@@ -52,12 +52,12 @@ RunningInstance::Claim RunningInstance::claim(const LaunchToken& token)
 
 RunningInstance::Claim RunningInstance::claimName(const LaunchToken& token)
 {
-    // The object comes first: whoever sees the name may call it at once.
+    // Register the object first: whoever sees the name may call it at once.
     m_bus.registerObject(objectPath(), this, QDBusConnection::ExportAdaptors);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
         m_bus.interface()->registerService(busName());
     m_hasName = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
-    // A bus that gives out no names, as a sandbox may have, must not keep the window from opening.
+    // A bus that grants no names, as in some sandboxes, must not keep the window from opening.
     if (m_hasName || !reply.isValid())
         return Claim::ours;
     m_bus.unregisterObject(objectPath());
@@ -79,7 +79,7 @@ RunningInstance::Claim RunningInstance::claimLock()
     if (!folder.starts_with('/'))
         return Claim::ours;
     auto lock = FileLock::take(PathText::join(folder, std::string(OwnProgram::identifier()) + ".lock"));
-    // Where no lock can be made there is nothing to go by, and two windows are better than none.
+    // If the lock fails, nothing is known, and two windows are better than none.
     if (!lock.ok())
         return lock.error() == EWOULDBLOCK ? Claim::blocked : Claim::ours;
     m_lock = std::move(lock).value();

@@ -10,29 +10,28 @@
 
 namespace orlen {
 
-/// Sees to it that a session has one Orlen window: by the program's name on the session bus, which also lets
-/// the desktop bring it to the front; without a bus by a lock file in the user's run-time folder. Main
-/// thread.
+/// Ensures that a session has only one Orlen window: by owning a name on the session bus, which also lets the
+/// desktop activate it, or by a lock file in the user's runtime folder when there is no bus. Main thread.
 class RunningInstance : public QObject {
     Q_OBJECT
 
 public:
     enum class Claim {
-        ours,        ///< this process is the one
-        raisedOther, ///< there is another, which has been asked to come to the front
-        blocked,     ///< there is another, which does not answer
+        ours,        ///< this process is the only one
+        raisedOther, ///< another one was asked to come to the front
+        blocked,     ///< another one exists but does not answer
     };
 
     explicit RunningInstance(QDBusConnection bus, QObject* parent = nullptr);
-    /// Gives the place up.
+    /// Releases the claim.
     ~RunningInstance() override;
 
-    /// Takes the place, or asks the process that has it to show itself. Waits for the other's answer, for a
-    /// few seconds at most.
+    /// Claims to be the only instance, or asks the existing one to show itself, waiting at most a few seconds
+    /// for its answer.
     [[nodiscard]] Claim claim(const LaunchToken& token);
 
 Q_SIGNALS:
-    /// Somebody wants to see the window.
+    /// Another process or the desktop asks for the window.
     void activated(const orlen::LaunchToken& token);
 
 private:

@@ -12,7 +12,7 @@ namespace {
 using Reload = Screens::Reload;
 
 // clang-format off
-/// All that the program knows of a screen beside its own folder.
+/// Everything the program knows about a screen outside its own folder.
 constexpr auto kScreens = std::to_array<Screens::Meta>({
     {Screens::Home, "Smart Scan", "sparkles", 0xff3b7bf7, "Clean", "HomeScreen"},
     {Screens::Photos, "Smart Photos", "photo.stack.fill", 0xffee4c86, "Clean", "PhotosScreen"},

@@ -23,15 +23,15 @@ public:
         title = Qt::UserRole, ///< text
         symbol,               ///< icon name
         tone,                 ///< colour of the badge
-        section,              ///< heading of its group, the same for neighbours of one group
-        screen,               ///< a `Screen`, which is also the number of its row
+        section,              ///< heading of its group
+        screen,               ///< a `Screen`, which equals the row
         component,            ///< QML file of its component, which takes a `view`: the MainView
     };
     Q_ENUM(Role)
 
     enum class Reload {
         none,
-        ownKey, ///< F5 loads what the screen shows anew
+        ownKey, ///< F5 reloads the screen
     };
 
     struct Meta {

@@ -14,7 +14,6 @@
 #include "window/shell/GuiStart.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/RunningInstance.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -34,7 +33,7 @@ namespace orlen::Window {
 namespace {
 
 constexpr int kTextPixels = 14;
-/// Exit status, as that of a command.
+/// Exit status, as for commands.
 constexpr int kRefused = 2;
 
 bool isSet(const char* name)
@@ -43,7 +42,7 @@ bool isSet(const char* name)
     return value != nullptr && *value != '\0';
 }
 
-/// Lets the desktop end a session, and Ctrl-C the program, as closing the window does.
+/// Makes the end of the session and Ctrl-C close the program as closing the window does.
 void quitOnInterrupt(Interrupts& interrupts, QObject* parent)
 {
     auto* notifier = new QSocketNotifier(interrupts.descriptor(), QSocketNotifier::Read, parent);
@@ -63,12 +62,12 @@ int show(const QDBusConnection& bus, RunningInstance& instance, Interrupts& inte
     quitOnInterrupt(interrupts, &engine);
     QObject::connect(&instance, &RunningInstance::activated, window,
                      [window](const LaunchToken& token) { DesktopPresence::present(*window, token); });
-    // Long before everything is destroyed, so that whatever still runs ends meanwhile.
+    // Well before everything is destroyed, so that running work can end in the meantime.
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &model, [&model] {
         model.results()->cancelScan();
         model.cleanUps()->cancelCleaning();
     });
-    // The window first: the rest is of no use before it.
+    // Deferred until the window is up, as nothing here is needed before.
     std::optional<DesktopPresence> presence;
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &engine, [&] { presence.emplace(bus, model, engine, *window); },
@@ -134,7 +133,7 @@ int run(int argc, char** argv)
     case RunningInstance::Claim::raisedOther:
         return EXIT_SUCCESS;
     case RunningInstance::Claim::blocked:
-        std::fprintf(stderr, "orlen: %s\n", WindowTexts::alreadyOpen());
+        std::fputs("orlen: Orlen is open already.\n", stderr);
         return EXIT_FAILURE;
     }
     return EXIT_FAILURE;

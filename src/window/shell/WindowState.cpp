@@ -20,10 +20,8 @@ void WindowState::setSheet(std::optional<SheetKind> sheet)
 
 void WindowState::setRequestedScreen(std::optional<Screens::Screen> screen)
 {
-    if (m_requestedScreen == screen)
-        return;
-    m_requestedScreen = screen;
-    Q_EMIT requestedScreenChanged();
+    if (std::exchange(m_requestedScreen, screen) != screen)
+        Q_EMIT requestedScreenChanged();
 }
 
 } // namespace orlen

@@ -13,13 +13,13 @@
 
 namespace orlen {
 
-/// The detail of the finding with this id stands over the main window.
+/// The detail sheet of a finding.
 struct FindingSheet {
     std::string findingId;
     friend bool operator==(const FindingSheet&, const FindingSheet&) = default;
 };
 
-/// The confirmation of a plan stands over the main window.
+/// The sheet that asks to confirm a plan.
 struct PlanSheet {
     CleanPlan plan;
     friend bool operator==(const PlanSheet&, const PlanSheet&) = default;
@@ -27,22 +27,22 @@ struct PlanSheet {
 
 using SheetKind = std::variant<FindingSheet, PlanSheet>;
 
-/// What the main window shows beside its screen, set from anywhere in it. Main thread.
+/// What the main window shows besides its screen; any screen may set it. Main thread.
 class WindowState : public QObject {
     Q_OBJECT
 
 public:
-    /// The one that belongs to the application model and lives as long.
+    /// The application model's state, which lives as long as the model.
     [[nodiscard]] static WindowState& of(AppModel& app);
 
     [[nodiscard]] const std::optional<SheetKind>& sheet() const { return m_sheet; }
     void setSheet(std::optional<SheetKind> sheet);
 
-    /// A screen that the main window is asked to show.
+    /// The screen that the main window is asked to show.
     [[nodiscard]] std::optional<Screens::Screen> requestedScreen() const { return m_requestedScreen; }
     void setRequestedScreen(std::optional<Screens::Screen> screen);
 
-    /// A clean-up is shown at least this long, so that a short one can be seen.
+    /// How long a clean-up is shown at least, so that a short one can be seen.
     [[nodiscard]] std::chrono::milliseconds overlayMinimum() const { return m_overlayMinimum; }
     void setOverlayMinimum(std::chrono::milliseconds time) { m_overlayMinimum = time; }
 

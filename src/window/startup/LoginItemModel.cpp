@@ -16,13 +16,11 @@ struct LoginItemModel::Change {
 
 LoginItemModel::LoginItemModel() : m_workers(*this) {}
 
-LoginItemModel::~LoginItemModel() = default;
-
 void LoginItemModel::load()
 {
     m_workers.start([](const std::stop_token&) { return LoginItems::isRegistered(); },
                     [this](bool isRegistered) {
-                        // A change that has begun meanwhile knows better.
+                        // A change that started in the meantime is newer.
                         if (!m_isBusy)
                             setRegistered(isRegistered, m_obstacle);
                     });

@@ -10,15 +10,15 @@
 
 namespace orlen {
 
-/// Login items: the names of those that the desktop opens, asked for by the user, and whether this program is
-/// among them. Main thread, and needs its event loop; the disk and child processes are left to workers.
+/// Login items: whether Orlen opens at login and, when the user asks, the names of all that do. Main thread,
+/// and needs its event loop; workers handle the disk and child processes.
 class LoginItemModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether this program opens at login; while a change is made, the value that it will have.
+    /// Whether Orlen opens at login; during a change, the new value.
     Q_PROPERTY(bool registered READ isRegistered NOTIFY registeredChanged)
     Q_PROPERTY(bool busy READ isBusy NOTIFY registeredChanged)
-    /// Why the last change could not be made; empty when it could.
+    /// Why the last change failed; empty when it succeeded.
     Q_PROPERTY(QString obstacle READ obstacle NOTIFY registeredChanged)
     Q_PROPERTY(Names names READ names NOTIFY namesChanged)
 
@@ -27,23 +27,22 @@ public:
         name = Qt::UserRole, ///< of a login item
     };
     Q_ENUM(Role)
-    /// Where the names stand.
+    /// State of the list of names.
     enum Names { NotAsked, Asking, Known, Unreadable };
     Q_ENUM(Names)
 
     LoginItemModel();
-    ~LoginItemModel() override;
 
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }
     [[nodiscard]] bool isBusy() const { return m_isBusy; }
     [[nodiscard]] QString obstacle() const { return m_obstacle; }
     [[nodiscard]] Names names() const { return m_names; }
 
-    /// Looks whether this program opens at login.
+    /// Checks whether Orlen opens at login.
     Q_INVOKABLE void load();
-    /// Switches that. The real value shows again when it fails.
+    /// Switches whether it does. Shows the real value again on failure.
     Q_INVOKABLE void toggleRegistered();
-    /// Asks for the names.
+    /// Asks the desktop for the names.
     Q_INVOKABLE void ask();
     /// Opens the desktop's own settings page.
     Q_INVOKABLE void openSettings();

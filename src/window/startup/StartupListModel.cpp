@@ -34,12 +34,10 @@ QString failure(const LaunchItem& item)
 
 StartupListModel::StartupListModel() : m_workers(*this) {}
 
-StartupListModel::~StartupListModel() = default;
-
 void StartupListModel::load()
 {
     setLoading(true);
-    // What is read now would not be what holds after the change.
+    // Reading now would miss the result of the change.
     if (!m_wanted.empty())
         return;
     m_workers.start(
@@ -60,7 +58,7 @@ void StartupListModel::toggle(int row)
         return;
     if (!m_wanted.emplace(item.path, isWanted).second)
         return;
-    // A list that is being read may hold the old value: it is read again afterwards.
+    // A list being read may contain the old value, so it is read again afterwards.
     m_load.drop();
     rowsChanged(row, row);
     m_workers.start([item, isWanted](const std::stop_token&) { return LaunchControl::set(item, isWanted); },
@@ -91,10 +89,8 @@ bool StartupListModel::isOn(const LaunchItem& item) const
 
 void StartupListModel::setLoading(bool isLoading)
 {
-    if (isLoading == m_isLoading)
-        return;
-    m_isLoading = isLoading;
-    Q_EMIT loadingChanged();
+    if (std::exchange(m_isLoading, isLoading) != isLoading)
+        Q_EMIT loadingChanged();
 }
 
 QVariant StartupListModel::value(std::size_t number, int role) const

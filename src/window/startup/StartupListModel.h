@@ -12,43 +12,42 @@
 
 namespace orlen {
 
-/// What starts when the user logs in, with a switch for each. Main thread, and needs its event loop; child
-/// processes and the disk are left to workers.
+/// What starts when the user logs in, with a switch for each item. Main thread, and needs its event loop;
+/// workers handle the disk and child processes.
 class StartupListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether the list is being read; the old one stands meanwhile.
+    /// Whether the list is being read; the old one stays until then.
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
 
 public:
     enum class Role {
-        name = Qt::UserRole, ///< for people
+        name = Qt::UserRole, ///< display name
         program,             ///< what it runs; empty when unknown
-        path,                ///< of the file that describes it
-        scope,               ///< whose logins it belongs to; the same for neighbours of one group
-        symbol,              ///< icon name of what kind of item it is
-        isOn,                ///< whether it starts; while a change is made, the value that it will have
-        isBusy,              ///< whether a change is being made
-        isPartOfDesktop,     ///< whether the desktop may miss it
+        path,                ///< of its configuration file
+        scope,               ///< whose logins it belongs to; the list is grouped by it
+        symbol,              ///< icon for the kind of item
+        isOn,                ///< whether it starts; during a change, the new value
+        isBusy,              ///< whether it is being changed
+        isPartOfDesktop,     ///< whether the desktop may need it
         isSwitchable,        ///< whether its switch can work
-        reason,              ///< why not, in one sentence; empty when it can
+        reason,              ///< why it cannot, in one sentence; empty when it can
     };
     Q_ENUM(Role)
 
     StartupListModel();
-    ~StartupListModel() override;
 
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
 
-    /// Reads the list anew; while a change is made, after it.
+    /// Reads the list again, after any change in progress.
     Q_INVOKABLE void load();
-    /// Switches an item, which shows the new value at once and goes back to the old one when that fails.
-    /// Nothing happens while a change of the same item is being made, and to what is not switchable.
+    /// Switches an item. It shows the new value at once and the old one again on failure. Ignored while the
+    /// item is being changed or when it is not switchable.
     Q_INVOKABLE void toggle(int row);
 
 Q_SIGNALS:
     void loadingChanged();
-    /// A change could not be made.
+    /// A change failed.
     void failed(const QString& message);
 
 private:
@@ -60,7 +59,7 @@ private:
     void setLoading(bool isLoading);
 
     std::vector<LaunchItem> m_items;
-    std::map<std::string, bool> m_wanted; ///< by path: changes that are being made
+    std::map<std::string, bool> m_wanted; ///< changes in progress, by path
     bool m_isLoading = false;
     Latest m_load;
 

@@ -1,7 +1,6 @@
 #include "window/tray/Tray.h"
 
 #include "window/controls/SymbolDrawing.h"
-#include "window/shell/WindowTexts.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -17,7 +16,7 @@ namespace orlen {
 
 namespace {
 
-/// Readable on a dark bar and on a light one: nobody tells which it is. Themed icons follow the bar.
+/// Readable on a dark and a light bar, as there is no way to know which it is. Themed icons follow the bar.
 constexpr QColor kPixmapColour(0x80, 0x88, 0x94);
 constexpr int kPanelGap = 8;
 constexpr int kClickMilliseconds = 250;
@@ -38,11 +37,11 @@ TrayPixmaps pixmaps()
 
 TrayItem::Look look()
 {
-    return {WindowTexts::name(), QStringLiteral("drive-harddisk-symbolic"), pixmaps(), WindowTexts::open(),
-            WindowTexts::quit()};
+    return {QStringLiteral("Orlen"), QStringLiteral("drive-harddisk-symbolic"), pixmaps(), Tray::openLabel(),
+            QStringLiteral("Quit")};
 }
 
-/// Beside the place and wholly on its screen. Desktops that tell no place get the usual corner of a tray.
+/// Next to `place` and fully on its screen. Without a place, the corner where trays usually are.
 QPoint corner(const QPoint& place, const QSize& size)
 {
     const QScreen* screen = QGuiApplication::screenAt(place);
@@ -79,7 +78,8 @@ void Tray::togglePanel(const QPoint& place)
         m_panel = makePanel();
     if (!m_panel)
         return;
-    // The click on the icon that is to close the small window took the focus from it, which hid it already.
+    // The click on the icon that is meant to close the panel also took its focus, which has already hidden
+    // it.
     const bool wasJustHidden = m_sinceHidden.isValid() && m_sinceHidden.elapsed() < kClickMilliseconds;
     if (m_panel->isVisible())
         m_panel->hide();
@@ -116,7 +116,7 @@ QQuickWindow* Tray::makePanel()
         if (!isVisible)
             m_sinceHidden.start();
     });
-    (void)made.release(); // the small window belongs to this object from here
+    (void)made.release(); // the panel is now owned by this object
     return panel;
 }
 

@@ -12,18 +12,21 @@ class QQuickWindow;
 
 namespace orlen {
 
-/// The item in the desktop's tray, with its small window. Main thread.
+/// The item in the desktop's tray, with its panel. Main thread.
 class Tray : public QObject {
     Q_OBJECT
 
 public:
-    /// All three outlive the tray.
+    /// All arguments outlive the tray.
     Tray(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine, QObject* parent = nullptr);
     ~Tray() override;
 
-    /// Shows the small window near this place of the screen, or hides it when it is shown.
+    /// Shows the panel near this point of the screen, or hides it.
     void togglePanel(const QPoint& place);
     void hidePanel();
+
+    /// The label for bringing the window to the front.
+    [[nodiscard]] static QString openLabel() { return QStringLiteral("Open Orlen"); }
 
 Q_SIGNALS:
     void openRequested();
@@ -36,7 +39,7 @@ private:
     QQmlEngine& m_engine;
     TrayModel m_model;
     TrayItem m_item;
-    QPointer<QQuickWindow> m_panel; ///< made when it is first asked for
+    QPointer<QQuickWindow> m_panel; ///< created on first use
     QElapsedTimer m_sinceHidden;
 };
 

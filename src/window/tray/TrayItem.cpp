@@ -10,7 +10,7 @@ namespace orlen {
 
 namespace {
 
-// Where desktops look when they are told no path.
+// The default path where desktops look.
 const QString kItemPath = QStringLiteral("/StatusNotifierItem");
 const QString kMenuPath = QStringLiteral("/MenuBar");
 

@@ -13,15 +13,14 @@ class TrayItemInterface;
 class TrayMenuInterface;
 class TrayRegistration;
 
-/// An item in the desktop's tray: an icon with a title, and a menu of one quiet line, "open" and "quit". It
-/// is there while the desktop has a tray, comes back when the tray restarts, and without one nothing happens.
-/// Nothing may depend on it. Main thread.
+/// An item in the desktop's tray: an icon with a title, and a menu with one disabled line, "open" and "quit".
+/// Comes back when the tray restarts and does nothing on a desktop without one, so nothing may depend on it.
+/// Main thread.
 class TrayItem : public QObject {
     Q_OBJECT
 
 public:
-    /// What does not change. `iconName` is an icon of the desktop's theme, `pixmaps` are shown where the
-    /// theme has none.
+    /// The constant parts. `iconName` is an icon of the desktop's theme; `pixmaps` are the fallback.
     struct Look {
         QString name; ///< of the program
         QString iconName;
@@ -33,11 +32,11 @@ public:
     TrayItem(QDBusConnection bus, const Look& look, QObject* parent = nullptr);
     ~TrayItem() override;
 
-    /// The title, the tool tip and the quiet line of the menu; until it is set the program's name.
+    /// Sets the title, the tool tip and the menu's disabled line; the program's name until then.
     void setTitle(const QString& title);
 
 Q_SIGNALS:
-    /// The icon was clicked, at this place of the screen where the desktop tells it, else at (0, 0).
+    /// The icon was clicked at this point of the screen; (0, 0) when the desktop does not say where.
     void activated(const QPoint& place);
     void openRequested();
     void quitRequested();
@@ -46,7 +45,7 @@ private:
     QDBusConnection m_bus;
     QObject m_itemObject;
     QObject m_menuObject;
-    TrayItemInterface* m_item; ///< owned by its object, as the next
+    TrayItemInterface* m_item; ///< these two are owned by their objects
     TrayMenuInterface* m_menu;
     TrayRegistration* m_registration;
 };

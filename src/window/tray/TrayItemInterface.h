@@ -10,7 +10,7 @@
 
 namespace orlen {
 
-/// The bus face of a tray item: "org.kde.StatusNotifierItem". The capital letters are the protocol's.
+/// The D-Bus interface of a tray item: "org.kde.StatusNotifierItem". Capitalisation follows the protocol.
 class TrayItemInterface : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -24,7 +24,7 @@ class TrayItemInterface : public QDBusAbstractAdaptor {
     Q_PROPERTY(orlen::TrayToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
     Q_PROPERTY(QDBusObjectPath Menu READ menu CONSTANT)
-    /// A text beside the icon, where the desktop shows one; and the longest that it may become.
+    /// A label next to the icon on some desktops, and its longest possible text.
     Q_PROPERTY(QString XAyatanaLabel READ title)
     Q_PROPERTY(QString XAyatanaLabelGuide READ labelGuide CONSTANT)
 
@@ -36,10 +36,10 @@ public:
         QString menuPath;
     };
 
-    /// Functions and no signals: each signal of such an object goes out on the bus.
+    /// Functions, not signals: signals of an adaptor are sent on the bus.
     struct Clicks {
         std::function<void(const QPoint& place)> first;
-        std::function<void()> second; ///< of the middle button
+        std::function<void()> second; ///< middle button
     };
 
     TrayItemInterface(const Look& look, Clicks clicks, QObject* parent);
@@ -56,7 +56,7 @@ public:
     [[nodiscard]] QString iconName() const { return m_look.iconName; }
     [[nodiscard]] TrayPixmaps iconPixmap() const { return m_look.pixmaps; }
     [[nodiscard]] TrayToolTip toolTip() const;
-    /// A click activates; the menu is for the other button.
+    /// A click activates; the other button opens the menu.
     [[nodiscard]] bool itemIsMenu() const { return false; }
     [[nodiscard]] QDBusObjectPath menu() const { return QDBusObjectPath(m_look.menuPath); }
     [[nodiscard]] QString labelGuide() const { return QStringLiteral("999.9 GB free"); }

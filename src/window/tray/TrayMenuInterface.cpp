@@ -15,7 +15,7 @@ constexpr uint kRevision = 1;
 
 QString label(QString text)
 {
-    return text.replace(u'_', QStringLiteral("__")); // one alone marks the next letter as a shortcut
+    return text.replace(u'_', QStringLiteral("__")); // a single one marks the next letter as a shortcut
 }
 
 } // namespace
@@ -76,7 +76,7 @@ uint TrayMenuInterface::GetLayout(int parentId, int depth, const QStringList& na
 
 TrayMenuPropertiesList TrayMenuInterface::GetGroupProperties(const QList<int>& ids, const QStringList& names)
 {
-    // None means all.
+    // No names means all.
     const QList<int> wanted = ids.isEmpty() ? QList<int>{menu, line, separator, open, quit} : ids;
     TrayMenuPropertiesList list;
     for (const int id : wanted) {
@@ -107,7 +107,7 @@ QList<int> TrayMenuInterface::EventGroup(const TrayMenuEvents& events)
     QList<int> unknown;
     for (const TrayMenuEvent& event : events) {
         if (isEntry(event.id))
-            Event(event.id, event.name, QDBusVariant(event.data), event.time);
+            Event(event.id, event.name, event.data, event.time);
         else
             unknown.append(event.id);
     }
@@ -116,7 +116,7 @@ QList<int> TrayMenuInterface::EventGroup(const TrayMenuEvents& events)
 
 bool TrayMenuInterface::AboutToShow(int /*id*/)
 {
-    return false; // the menu is up to date as it is
+    return false; // the menu is always up to date
 }
 
 QList<int> TrayMenuInterface::AboutToShowGroup(const QList<int>& ids, QList<int>& unknown)

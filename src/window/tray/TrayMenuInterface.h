@@ -9,9 +9,8 @@
 
 namespace orlen {
 
-/// The bus face of the tray item's menu: "com.canonical.dbusmenu". A line that cannot be chosen, "open" and
-/// "quit". The capital letters are the protocol's, and so are the reference arguments, which are further
-/// answers of a call.
+/// The D-Bus interface of the tray item's menu, "com.canonical.dbusmenu": a disabled line, "open" and "quit".
+/// Capitalisation follows the protocol. Non-const reference arguments are further return values of a call.
 class TrayMenuInterface : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -25,7 +24,7 @@ public:
         QString open;
         QString quit;
     };
-    /// Functions and no signals: each signal of such an object goes out on the bus.
+    /// Functions, not signals: signals of an adaptor are sent on the bus.
     struct Choices {
         std::function<void()> open;
         std::function<void()> quit;
@@ -40,12 +39,12 @@ public:
     [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
     [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
-    /// The number of the menu's present form; `layout` gets the entry with what is below it.
+    /// Returns the revision of the menu; `layout` receives the entry and its children.
     Q_SLOT uint GetLayout(int parentId, int depth, const QStringList& names, orlen::TrayMenuNode& layout);
     Q_SLOT orlen::TrayMenuPropertiesList GetGroupProperties(const QList<int>& ids, const QStringList& names);
     Q_SLOT QDBusVariant GetProperty(int id, const QString& name);
     Q_SLOT void Event(int id, const QString& name, const QDBusVariant& data, uint time);
-    /// The entries that there are not.
+    /// Returns the ids that do not exist.
     Q_SLOT QList<int> EventGroup(const orlen::TrayMenuEvents& events);
     Q_SLOT bool AboutToShow(int id);
     Q_SLOT QList<int> AboutToShowGroup(const QList<int>& ids, QList<int>& unknown);
@@ -56,7 +55,7 @@ Q_SIGNALS:
                                 const orlen::TrayMenuNamesList& removed);
 
 private:
-    /// Numbers of the entries. 0 is the menu itself by the protocol.
+    /// Ids of the entries. In the protocol, 0 is the menu itself.
     enum Entry : int { menu, line, separator, open, quit };
 
     [[nodiscard]] static bool isEntry(int id) { return id >= menu && id <= quit; }

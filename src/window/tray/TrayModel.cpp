@@ -1,7 +1,6 @@
 #include "window/tray/TrayModel.h"
 
 #include "window/lists/DisplayText.h"
-#include "window/shell/WindowTexts.h"
 
 namespace orlen {
 
@@ -15,15 +14,16 @@ TrayModel::TrayModel(AppModel& app) : m_app(app)
 QString TrayModel::title() const
 {
     if (!m_app.storage()->isBreakdownReady())
-        return WindowTexts::name();
-    return WindowTexts::freeSpace(DisplayText::size(m_app.storage()->breakdown().free));
+        return QStringLiteral("Orlen");
+    return QStringLiteral("%1 free").arg(DisplayText::size(m_app.storage()->breakdown().free));
 }
 
 QString TrayModel::lastScanText() const
 {
     if (!m_app.results()->lastScan())
         return {};
-    return WindowTexts::lastScan(DisplayText::size(m_app.results()->safeBytes()));
+    return QStringLiteral("Last scan: you can safely free %1")
+        .arg(DisplayText::size(m_app.results()->safeBytes()));
 }
 
 } // namespace orlen

@@ -8,11 +8,11 @@
 
 namespace orlen {
 
-/// What the tray item and its small window tell. Main thread.
+/// The texts of the tray item and its panel. Main thread.
 class TrayModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// Free space in words, or the program's name as long as it is not known.
+    /// Free space in words, or the program's name until it is known.
     Q_PROPERTY(QString title READ title NOTIFY changed)
     /// What the last scan found safe to remove; empty before a scan.
     Q_PROPERTY(QString lastScanText READ lastScanText NOTIFY changed)

@@ -14,7 +14,7 @@ namespace {
 const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-/// A call must not start a tray where the user has none.
+/// A call must not start a tray the user does not have.
 QDBusMessage callToWatcher(const QString& interface, const QString& method)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(kWatcher, kWatcherPath, interface, method);
@@ -56,7 +56,7 @@ void TrayRegistration::look()
 
 void TrayRegistration::registerItem()
 {
-    // The connection's own name: a sandbox gives out no others, and every watcher takes it.
+    // The connection's own name: a sandbox grants no others, and every watcher accepts it.
     QDBusMessage call = callToWatcher(kWatcher, QStringLiteral("RegisterStatusNotifierItem"));
     call << m_bus.baseService();
     m_bus.asyncCall(call);

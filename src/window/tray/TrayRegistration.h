@@ -6,15 +6,15 @@
 
 namespace orlen {
 
-/// Tells the desktop's tray of this process's item, now and whenever a tray comes up. All calls are
-/// asynchronous; a desktop without a tray is never bothered. Main thread.
+/// Registers this process's tray item with the desktop's tray, now and whenever a tray starts. Calls are
+/// asynchronous; without a tray nothing is sent. Main thread.
 class TrayRegistration : public QObject {
     Q_OBJECT
 
 public:
     explicit TrayRegistration(QDBusConnection bus, QObject* parent = nullptr);
 
-    /// When the item's objects are on the bus.
+    /// Call once the item's objects are on the bus.
     void start();
 
 private:

@@ -8,7 +8,7 @@ namespace orlen {
 
 namespace {
 
-/// The bus library finds the type of a slot's or signal's parameter by the name that is written there.
+/// Qt's D-Bus library finds a parameter's type by the name written in the slot or signal.
 template <typename List>
 void registerList(const char* name)
 {
@@ -22,41 +22,9 @@ TrayPixmap TrayPixmap::fromImage(const QImage& image)
 {
     const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
     TrayPixmap pixmap{argb.width(), argb.height(), QByteArray(argb.sizeInBytes(), Qt::Uninitialized)};
-    // Four bytes a pixel leave no gap at the end of a line.
+    // With four bytes per pixel, lines have no padding.
     qToBigEndian<quint32>(argb.constBits(), argb.sizeInBytes() / 4, pixmap.bytes.data());
     return pixmap;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayPixmap& pixmap)
-{
-    argument.beginStructure();
-    argument << pixmap.width << pixmap.height << pixmap.bytes;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayPixmap& pixmap)
-{
-    argument.beginStructure();
-    argument >> pixmap.width >> pixmap.height >> pixmap.bytes;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayToolTip& tip)
-{
-    argument.beginStructure();
-    argument << tip.icon << tip.pixmaps << tip.title << tip.text;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayToolTip& tip)
-{
-    argument.beginStructure();
-    argument >> tip.icon >> tip.pixmaps >> tip.title >> tip.text;
-    argument.endStructure();
-    return argument;
 }
 
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNode& node)
@@ -83,56 +51,6 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNode& nod
     }
     argument.endArray();
     argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuProperties& properties)
-{
-    argument.beginStructure();
-    argument << properties.id << properties.properties;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuProperties& properties)
-{
-    argument.beginStructure();
-    argument >> properties.id >> properties.properties;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNames& names)
-{
-    argument.beginStructure();
-    argument << names.id << names.names;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNames& names)
-{
-    argument.beginStructure();
-    argument >> names.id >> names.names;
-    argument.endStructure();
-    return argument;
-}
-
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuEvent& event)
-{
-    argument.beginStructure();
-    argument << event.id << event.name << QDBusVariant(event.data) << event.time;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& event)
-{
-    QDBusVariant data;
-    argument.beginStructure();
-    argument >> event.id >> event.name >> data >> event.time;
-    argument.endStructure();
-    event.data = data.variant();
     return argument;
 }
 

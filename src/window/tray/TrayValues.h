@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDBusArgument>
+#include <QDBusVariant>
 #include <QImage>
 #include <QList>
 #include <QMetaType>
@@ -9,8 +10,10 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// The values that a tray item and its menu exchange with the desktop, with their form on the bus. Field
-/// names follow the two protocols.
+#include <tuple>
+
+/// The values that a tray item and its menu exchange with the desktop, and their D-Bus encoding. Field names
+/// follow the two protocols.
 namespace orlen {
 
 /// (iiay): ARGB, the most significant byte first.
@@ -20,6 +23,8 @@ struct TrayPixmap {
     QByteArray bytes;
 
     [[nodiscard]] static TrayPixmap fromImage(const QImage& image);
+
+    static auto fields(auto& value) { return std::tie(value.width, value.height, value.bytes); }
 };
 using TrayPixmaps = QList<TrayPixmap>;
 
@@ -29,9 +34,11 @@ struct TrayToolTip {
     TrayPixmaps pixmaps;
     QString title;
     QString text;
+
+    static auto fields(auto& value) { return std::tie(value.icon, value.pixmaps, value.title, value.text); }
 };
 
-/// (ia{sv}av): one entry of the menu with those below it.
+/// (ia{sv}av): a menu entry with its children.
 struct TrayMenuNode {
     int id = 0;
     QVariantMap properties;
@@ -42,6 +49,8 @@ struct TrayMenuNode {
 struct TrayMenuProperties {
     int id = 0;
     QVariantMap properties;
+
+    static auto fields(auto& value) { return std::tie(value.id, value.properties); }
 };
 using TrayMenuPropertiesList = QList<TrayMenuProperties>;
 
@@ -49,6 +58,8 @@ using TrayMenuPropertiesList = QList<TrayMenuProperties>;
 struct TrayMenuNames {
     int id = 0;
     QStringList names;
+
+    static auto fields(auto& value) { return std::tie(value.id, value.names); }
 };
 using TrayMenuNamesList = QList<TrayMenuNames>;
 
@@ -56,25 +67,42 @@ using TrayMenuNamesList = QList<TrayMenuNames>;
 struct TrayMenuEvent {
     int id = 0;
     QString name;
-    QVariant data;
+    QDBusVariant data;
     uint time = 0;
+
+    static auto fields(auto& value) { return std::tie(value.id, value.name, value.data, value.time); }
 };
 using TrayMenuEvents = QList<TrayMenuEvent>;
 
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayPixmap& pixmap);
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayPixmap& pixmap);
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayToolTip& tip);
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayToolTip& tip);
+/// A structure whose `fields` are sent one after another.
+template <typename T>
+concept TrayStructure = requires(T& value)
+{
+    T::fields(value);
+};
+
+template <TrayStructure T>
+QDBusArgument& operator<<(QDBusArgument& argument, const T& value)
+{
+    argument.beginStructure();
+    std::apply([&](const auto&... fields) { (argument << ... << fields); }, T::fields(value));
+    argument.endStructure();
+    return argument;
+}
+
+template <TrayStructure T>
+const QDBusArgument& operator>>(const QDBusArgument& argument, T& value)
+{
+    argument.beginStructure();
+    std::apply([&](auto&... fields) { (argument >> ... >> fields); }, T::fields(value));
+    argument.endStructure();
+    return argument;
+}
+
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNode& node);
 const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNode& node);
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuProperties& properties);
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuProperties& properties);
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNames& names);
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuNames& names);
-QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuEvent& event);
-const QDBusArgument& operator>>(const QDBusArgument& argument, TrayMenuEvent& event);
 
-/// Makes the values known to the bus library; before the first of them is sent or read.
+/// Registers the types with Qt's D-Bus library. Call before the first one is sent or read.
 void registerTrayValues();
 
 } // namespace orlen
