@@ -43,7 +43,7 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        // A question is no reading of the disk for the forecast to keep.
+        // A question must not add a snapshot to the forecast, so this only reads.
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;

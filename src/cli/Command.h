@@ -25,18 +25,18 @@ public:
     };
     [[nodiscard]] virtual Description description() const = 0;
 
-    /// Adds what only this command takes. The options are filled when `run` is called.
+    /// Adds this command's own options, which are set before `run` is called.
     virtual void addOptions(CLI::App& app) = 0;
     [[nodiscard]] virtual ExitStatus run(Session& session) = 0;
 
-    /// Whether one JSON document is wanted instead of text.
+    /// Whether to print a JSON document instead of text.
     [[nodiscard]] bool& wantsJson() { return m_wantsJson; }
 
 private:
     bool m_wantsJson = false;
 };
 
-/// Each command is a file of its own, which nothing else knows but by its line here.
+/// Each command lives in its own source file, and these are the only way to it.
 std::unique_ptr<Command> makeScanCommand();
 std::unique_ptr<Command> makeCleanCommand();
 std::unique_ptr<Command> makeHistoryCommand();

@@ -27,7 +27,7 @@ const std::string kVersion = std::string("orlen ") + ORLEN_VERSION;
 
 struct Registered {
     std::unique_ptr<Command> command;
-    CLI::App* parser; ///< owned by the parser of the whole line
+    CLI::App* parser; ///< owned by the main parser
 };
 
 std::vector<std::unique_ptr<Command>> allCommands()

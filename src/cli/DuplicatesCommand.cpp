@@ -25,7 +25,7 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr std::int64_t kSmallestCandidate = 1'000'000;
 
-/// Images from that size on are among the candidates already.
+/// Larger images are already among the candidates.
 std::vector<Cand> input(Walk::Found found)
 {
     std::vector<Cand> cands = std::move(found.cands);
@@ -50,7 +50,7 @@ Search search(const std::vector<std::string>& folders, ScanProgress& progress, c
     return search;
 }
 
-/// Rated as it would be in a scan.
+/// Rated as in a scan.
 Finding rated(const Duplicates::Result& result)
 {
     return Rater::rate({Duplicates::finding(result)}).front();

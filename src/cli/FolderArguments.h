@@ -8,11 +8,11 @@ namespace orlen {
 
 class Session;
 
-/// Folders to look into, as they are typed.
+/// Folders given on the command line.
 namespace FolderArguments {
 
-/// The folders that are meant; nothing when one of them is none that may be read, which has been said. Blocks
-/// on the disk.
+/// Resolves the folders. Prints a complaint and returns nothing if one is unreadable or protected. Blocks on
+/// the disk.
 [[nodiscard]] std::optional<std::vector<std::string>> checked(Session& session,
                                                               const std::vector<std::string>& arguments);
 

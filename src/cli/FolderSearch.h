@@ -14,18 +14,17 @@
 #include <utility>
 #include <vector>
 
-/// What the commands have in common that search through folders. Main thread, unless told otherwise.
+/// Shared by the commands that search folders. Main thread unless noted.
 namespace orlen::FolderSearch {
 
-/// What lies in the folders; in the home folder when there are none. Any thread.
+/// Walks the folders, or the home folder if none are given. Any thread.
 [[nodiscard]] inline Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
                                         const std::stop_token& stop)
 {
     return folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
 }
 
-/// Calls `search(progress, stop)` on a worker and returns what it found; its progress is shown meanwhile, and
-/// Ctrl-C stops it.
+/// Calls `search(progress, stop)` on a worker, shows its progress and returns its result. Ctrl-C stops it.
 template <typename Search>
 [[nodiscard]] auto run(Session& session, Search search)
 {

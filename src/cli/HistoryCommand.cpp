@@ -16,7 +16,7 @@ namespace orlen {
 
 namespace {
 
-/// Enough of an identity to name a record to `orlen restore`.
+/// Enough of an ID for `orlen restore`.
 constexpr std::size_t kShownId = 8;
 
 std::string state(const CleanRecord& record)

@@ -16,11 +16,11 @@
 
 namespace orlen {
 
-/// What the commands about applications share.
+/// Shared by the commands about applications.
 namespace InstalledApps {
 
-/// Does `work(stop)` beside the event loop, with a live line, and returns its result; nothing when Ctrl-C
-/// stopped it, which has been said.
+/// Runs `work(stop)` on a worker, shows `status` and returns the result. Prints a note and returns nothing if
+/// Ctrl-C stopped it.
 template <typename Work>
 [[nodiscard]] auto inBackground(Session& session, std::string_view status, Work work)
     -> std::optional<decltype(work(std::stop_token()))>
@@ -39,10 +39,10 @@ template <typename Work>
 }
 
 enum class Sizes { absent, measured };
-/// The applications, with their sizes when asked for. Blocks on the disk.
+/// The installed applications, with sizes on request. Blocks on the disk.
 [[nodiscard]] std::vector<AppInfo> list(Sizes sizes, const std::stop_token& stop);
 
-/// What an application is, in a word or two.
+/// The kind of application, in a word or two.
 [[nodiscard]] std::string_view kindOf(AppSource source);
 
 } // namespace InstalledApps

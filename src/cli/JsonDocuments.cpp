@@ -11,13 +11,13 @@ namespace orlen::JsonDocuments {
 
 namespace {
 
-/// Milliseconds are as exact as a measured duration gets.
+/// Measured durations are no more precise than milliseconds.
 double rounded(Seconds duration)
 {
     return std::round(duration.count() * 1000) / 1000;
 }
 
-/// Without the digits that only the change of the number's form adds.
+/// Drops the digits that only the conversion to double adds.
 double shortened(float number)
 {
     return std::round(static_cast<double>(number) * 1e6) / 1e6;

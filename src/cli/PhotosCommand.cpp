@@ -28,7 +28,7 @@ using Seconds = std::chrono::duration<double>;
 
 struct PhotoSearch {
     std::vector<PhotoInfo> photos;
-    std::vector<Finding> findings; ///< all five, rated as they would be in a scan
+    std::vector<Finding> findings; ///< all five, rated as in a scan
     Seconds duration{0};
     bool wasStopped = false;
 };

@@ -28,7 +28,7 @@ std::string status(const AppModel& model)
            Format::grouped(state.total) + " · " + PathText::forDisplay(state.current);
 }
 
-/// The clean-up itself. Ctrl-C lets it finish the item in hand; the record tells what was moved by then.
+/// The clean-up itself. On Ctrl-C it finishes the current item; the record lists what was moved so far.
 PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
 {
     std::optional<CleanRecord> record;
@@ -38,7 +38,7 @@ PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& p
     session.run({[&] { return record.has_value(); }, [&] { model.cleanUps()->cancelCleaning(); },
                  [&] { return status(model); }, Session::Work::Nature::moving});
     QObject::disconnect(heard);
-    // The display of the clean-up stays until it is dismissed.
+    // The model keeps the clean-up's state until it is dismissed.
     return {*std::move(record), *model.cleanUps()->cleaning()};
 }
 

@@ -10,18 +10,18 @@ namespace orlen {
 
 class AppModel;
 
-/// Carries a plan out: the full list, the question, the clean-up, the outcome. One way for every command that
-/// moves something.
+/// Carries out a plan: shows the full list, asks, cleans up and reports. Every command that moves files to
+/// the Trash goes through here.
 struct PlanCarrier {
     Confirmation::Asking asking = Confirmation::Asking::onTerminal;
-    /// With a document that is what standard output gets, and everything else goes to standard error.
+    /// If a document is printed, it goes to standard output and everything else to standard error.
     ItemList::Beside beside = ItemList::Beside::nothing;
 
     [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan) const;
 
     struct Outcome {
         CleanRecord record;
-        CleaningState end; ///< as the model showed it last
+        CleaningState end; ///< the model's last state
     };
 
 private:

@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-/// Growth with its sign; the size format itself knows no negative sizes.
+/// Growth with its sign, since `byteCount` takes no negative sizes.
 std::string perDay(double bytes)
 {
     constexpr double kMost = 9e18;

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::size_t kShortestId = 4;
 
-/// The records whose identity begins so, letters of either case.
+/// The records whose ID starts with this, ignoring case.
 std::vector<CleanRecord> matching(const std::vector<CleanRecord>& history, const std::string& id)
 {
     std::vector<CleanRecord> records;

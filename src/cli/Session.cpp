@@ -39,7 +39,7 @@ void Session::interrupt(const Work& work)
     if (!isInterrupted() || m_interrupted == before)
         return;
     if (before > 0 && work.nature == Work::Nature::harmless) {
-        // The work hangs, perhaps on a server that is gone: it has nothing to lose.
+        // The work is stuck, perhaps on a dead server; it has nothing to lose.
         m_progress.erase();
         std::_Exit(static_cast<int>(ExitStatus::interrupted));
     }

@@ -13,10 +13,10 @@ namespace orlen::SmartScan {
 
 namespace {
 
-/// A million of these fit into 64 bits of bytes with room to spare.
+/// In bytes this fits in 64 bits with room to spare.
 constexpr double kMostMegabytes = 1e12;
 
-/// Not a range check of the parser's: that lets pass what is no number at all.
+/// The parser's own range check accepts text that is not a number.
 std::string checkedMegabytes(const std::string& text)
 {
     double value = 0;
@@ -52,7 +52,7 @@ void addThresholdOption(CLI::App& app, double& megabytes)
 
 std::string status(const ScanProgress& progress)
 {
-    // The storage is measured beside the steps, and may take longer than they do.
+    // The storage is measured alongside the steps and may take longer.
     const std::string step = runningStep(progress);
     std::string line = step.empty() ? std::string(Texts::kMeasuring) : step;
     line += " · " + Format::counted(progress.files(), "file") + " examined";

@@ -22,7 +22,7 @@ namespace {
 
 using Items = std::vector<LaunchItem>;
 
-/// Does the work on a thread of its own, so that Ctrl-C is heard meanwhile.
+/// Runs the work on its own thread, so that Ctrl-C is noticed meanwhile.
 template <typename Work>
 auto inBackground(Session& session, Session::Work::Nature nature, Work work) -> decltype(work())
 {
@@ -64,7 +64,7 @@ void printItems(const Items& items)
                    colours.styled(Style::dim, Texts::kHowToSwitch) + '\n');
 }
 
-/// The items of this path, else those of this label.
+/// The item at this path, or else the items with this label.
 Items named(const Items& items, const std::string& name)
 {
     Items found;
@@ -130,7 +130,7 @@ private:
         }
         const LaunchItem& item = found.front();
         const bool isWanted = m_enable->parsed();
-        // What is on already stays as it is; what is off may still have something to stop.
+        // An item already on is left alone; one that is off may still be running.
         const bool isDone =
             (item.enabled && isWanted) || inBackground(session, Session::Work::Nature::moving,
                                                        [&] { return LaunchControl::set(item, isWanted); });
@@ -156,7 +156,7 @@ private:
     }
 
     std::string m_name;
-    CLI::App* m_disable = nullptr; ///< owned by the parser of the whole line
+    CLI::App* m_disable = nullptr; ///< owned by the main parser
     CLI::App* m_enable = nullptr;
 };
 

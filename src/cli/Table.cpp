@@ -17,7 +17,7 @@ std::string spaces(int count)
     return std::string(static_cast<std::size_t>(std::max(count, 0)), ' ');
 }
 
-/// Columns of the terminal with the gap behind; a column in which nothing stands takes none.
+/// A column's width including the gap after it; an empty column takes none.
 int taken(int width)
 {
     return width == 0 ? 0 : width + kGap;
@@ -73,7 +73,7 @@ Table::Widths Table::widths(std::optional<int> limit) const
 std::string Table::rowText(const std::vector<Cell>& cells, const Widths& widths, const Colours& colours) const
 {
     std::string line;
-    int owed = 0; // spaces that only a further cell makes necessary
+    int owed = 0; // spaces needed only if another cell follows
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const std::string shown = DisplayWidth::elidedMiddle(cells[i].text, widths[i]);
         const int free = widths[i] - DisplayWidth::columns(shown);

@@ -27,7 +27,7 @@ namespace {
 
 using Apps = std::vector<AppInfo>;
 
-/// The one at this path, else those of this name, whatever its case.
+/// The app at this path, or else the apps with this name, ignoring case.
 Apps named(const Apps& apps, const std::string& argument)
 {
     const std::string path = PathArgument::absolute(argument);
@@ -42,7 +42,7 @@ Apps named(const Apps& apps, const std::string& argument)
     return found;
 }
 
-/// The application to be removed with what else goes with it.
+/// The application to remove and its leftovers.
 struct Prepared {
     AppInfo app;
     Leftovers::Finding leftovers;
@@ -100,8 +100,7 @@ public:
     }
 
 private:
-    /// Nothing when the argument names none or several, or one that something else has to remove; that has
-    /// been said.
+    /// Prints a complaint and returns nothing if no app or several match, or if another program manages it.
     [[nodiscard]] std::optional<AppInfo> chosen(Session& session, const Apps& apps) const
     {
         const Apps found = named(apps, m_argument);

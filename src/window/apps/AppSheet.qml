@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One application: what it left as a checklist, and the way to the review.
+/// One application: a checklist of its leftovers, and the button to review them.
 Sheet {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A clean-up while it runs, and what came of it.
+/// A running clean-up, then its outcome.
 Sheet {
     id: root
 
@@ -121,7 +121,7 @@ Sheet {
             id: list
 
             readonly property bool isWanted: cleaning.finished && list.count > 0
-            /// What the other texts leave of the window.
+            /// Height that the other texts leave free in the window.
             readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing
                                          - head.implicitHeight - foot.implicitHeight
             readonly property int taken: list.isWanted ? list.height + head.spacing : 0

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Scrolls a page so that what has the keyboard is in view.
+/// Scrolls a page to keep the focused item in view.
 Item {
     id: root
 
@@ -25,7 +25,7 @@ Item {
         const top = item.mapToItem(root.view.contentItem, 0, 0).y - Theme.pageMargin;
         const bottom = top + item.height + 2 * Theme.pageMargin;
         const lowest = Math.max(0, root.view.contentHeight - root.view.height);
-        // Of what is higher than the page, the top is shown.
+        // If the item is taller than the page, show its top.
         const wanted = Math.min(top, Math.max(root.view.contentY, bottom - root.view.height));
         root.view.contentY = Math.max(0, Math.min(lowest, wanted));
     }

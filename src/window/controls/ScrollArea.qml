@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// What scrolls where it is higher than its place.
+/// An area that scrolls if its content is too tall.
 Flickable {
     id: root
 
-    /// Named where the keyboard comes to the area itself to scroll it.
+    /// If set, the area takes the focus and scrolls with the arrow keys.
     property string title: ""
     readonly property alias handle: bar
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One item of the disk map as a row of its list form.
+/// One item of the disk map as a list row.
 ListRow {
     id: root
 

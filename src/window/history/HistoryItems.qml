@@ -11,7 +11,7 @@ Item {
     property bool isNarrow: false
 
     readonly property int rowHeight: Theme.grown(root.isNarrow ? 64 : 48)
-    /// The half row tells that there is more.
+    /// The half row hints that there is more.
     readonly property real rowsShown: Math.min(items.count, 6.5)
 
     implicitHeight: Math.round(root.rowsShown * root.rowHeight) + 17

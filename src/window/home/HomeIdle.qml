@@ -8,7 +8,7 @@ Item {
     required property HomeModel home
     required property StorageModel storage
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property alias mainButton: start
 

@@ -9,7 +9,7 @@ Item {
     required property StorageModel storage
     signal findingChosen(id: string)
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: header.ringSlot
     readonly property alias mainButton: header.mainButton
 
@@ -88,7 +88,7 @@ Item {
             easing.type: Easing.OutCubic
         }
 
-        /// Scrolls as far as needed for the item to stand free of the edges.
+        /// Scrolls just enough to keep the item clear of the edges.
         function show(item: Item) {
             const top = item.mapToItem(flickable.contentItem, 0, 0).y - 16;
             const bottom = top + item.height + 32;

@@ -8,7 +8,7 @@ Item {
     required property HomeModel home
     required property StorageModel storage
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property Item mainButton: review.enabled ? review : again
     readonly property bool narrow: root.width < 640 * Theme.textScale

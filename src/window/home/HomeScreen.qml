@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Smart Scan: before, during and after a scan. One storage ring goes with the phase from place to place.
+/// Smart Scan: before, during and after a scan. A single storage ring moves from phase to phase.
 FocusScope {
     id: root
 
@@ -56,7 +56,7 @@ FocusScope {
         breathing: root.state === "scanning" || !root.view.storage.ready
     }
 
-    // The linter of Qt 6.4 does not know that a parent change takes bindings.
+    // Qt 6.4's linter does not know that ParentChange accepts bindings.
     // qmllint disable
     states: [
         State {
@@ -134,7 +134,7 @@ FocusScope {
         }
     ]
 
-    // The button that was pressed is gone: the keyboard goes on with the one that counts now.
+    // The pressed button is gone, so the new phase's main button takes the focus.
     onStateChanged: {
         const button = [idle.mainButton, scanning.mainButton, results.mainButton][root.home.phase];
         button.focus = true;

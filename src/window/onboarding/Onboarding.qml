@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What a new user sees once: what the program is, what it promises, what it may see.
+/// Shown once to a new user: what the program is, what it promises and what it may access.
 Item {
     id: root
 

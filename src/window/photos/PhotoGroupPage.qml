@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// All photos of one clean-up, while it is open.
+/// All photos of one clean-up; visible while it is open.
 Item {
     id: root
 
@@ -139,7 +139,7 @@ Item {
         onPreviewRequested: row => root.previewRequested(grid, row)
     }
 
-    // Beside the grid, in the page's margin.
+    // Next to the grid, in the page's margin.
     ScrollHandle {
         id: handle
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The forecast: its sentence, and free space as a line that goes on into the future.
+/// The forecast in words, and free space as a line into the future.
 ColumnCard {
     id: root
 
@@ -74,7 +74,7 @@ ColumnCard {
             Accessible.ignored: true
         }
 
-        // On the line that it names, where the curve does not come before it means it.
+        // On the line it names, where the curve only comes if the disk fills up.
         CaptionText {
             anchors.right: parent.right
             anchors.bottom: parent.bottom

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The keys of the program.
+/// Lists the keyboard shortcuts.
 Sheet {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What the desktop opens at login, told when asked.
+/// What the desktop opens at login, listed on request.
 ColumnCard {
     id: root
 

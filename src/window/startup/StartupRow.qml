@@ -101,7 +101,7 @@ ListRow {
         onToggled: root.toggled()
     }
 
-    // A switch that is off-limits hears no pointer of its own.
+    // A disabled switch gets no hover events itself.
     ToolTipBubble {
         parent: toggle
         x: toggle.width - implicitWidth

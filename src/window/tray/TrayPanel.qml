@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Window
 import Orlen.App
 
-/// The small window of the tray item: free space at a glance, and the way to the main window.
+/// The tray item's small window: free space at a glance, and a button for the main window.
 Window {
     id: root
 
@@ -16,7 +16,7 @@ Window {
     title: Strings.appName
     color: "transparent"
 
-    // As a menu does it: whatever else is clicked, it goes.
+    // Closes like a menu on a click anywhere else.
     onActiveChanged: {
         if (!root.active)
             root.hide();
