@@ -27,10 +27,7 @@ void printAnswer(const Answer& answer)
 
 class AskCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"ask", "Run a Smart Scan and answer a question about the storage"};
-    }
+    AskCommand() : Command({"ask", "Run a Smart Scan and answer a question about the storage"}) {}
 
     void addOptions(CLI::App& app) override
     {

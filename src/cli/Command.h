@@ -14,25 +14,26 @@ namespace orlen {
 /// One command of the command line.
 class Command {
 public:
-    Command() = default;
-    Command(const Command&) = delete;
-    Command& operator=(const Command&) = delete;
-    virtual ~Command() = default;
-
     struct Description {
         const char* name;
         const char* summary;
     };
-    [[nodiscard]] virtual Description description() const = 0;
+    explicit Command(Description description) : m_description(description) {}
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+    virtual ~Command() = default;
+
+    [[nodiscard]] Description description() const { return m_description; }
 
     /// Adds this command's own options, which are set before `run` is called.
-    virtual void addOptions(CLI::App& app) = 0;
+    virtual void addOptions(CLI::App& /*app*/) {}
     [[nodiscard]] virtual ExitStatus run(Session& session) = 0;
 
     /// Whether to print a JSON document instead of text.
     [[nodiscard]] bool& wantsJson() { return m_wantsJson; }
 
 private:
+    const Description m_description;
     bool m_wantsJson = false;
 };
 

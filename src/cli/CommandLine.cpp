@@ -86,10 +86,8 @@ ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vecto
     for (const Registered& candidate : commands) {
         if (!candidate.parser->parsed())
             continue;
-        if (Places::current().isHomeSilent) {
-            session.complain(AppTexts::kSilentHome);
-            return ExitStatus::wrongCall;
-        }
+        if (Places::current().isHomeSilent)
+            return session.refuse(AppTexts::kSilentHome);
         const ExitStatus status = candidate.command->run(session);
         tellOfSilence(session);
         return status;

@@ -7,7 +7,6 @@
 #include "model/ByteCount.h"
 #include "platform/text/PathText.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -56,12 +55,7 @@ void printHistory(const std::vector<CleanRecord>& history)
 
 class HistoryCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"history", "List the clean-ups made so far, newest first"};
-    }
-
-    void addOptions(CLI::App& /*app*/) override {}
+    HistoryCommand() : Command({"history", "List the clean-ups made so far, newest first"}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {

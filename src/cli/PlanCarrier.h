@@ -1,10 +1,12 @@
 #pragma once
 
-#include "clean/CleanRecord.h"
-#include "cli/Confirmation.h"
 #include "cli/ItemList.h"
 #include "cli/Session.h"
-#include "model/ModelState.h"
+#include "model/CleanPlan.h"
+
+namespace CLI {
+class App;
+}
 
 namespace orlen {
 
@@ -12,20 +14,21 @@ class AppModel;
 
 /// Carries out a plan: shows the full list, asks, cleans up and reports. Every command that moves files to
 /// the Trash goes through here.
-struct PlanCarrier {
-    Confirmation::Asking asking = Confirmation::Asking::onTerminal;
+class PlanCarrier {
+public:
+    /// Adds `--dry-run` and `--yes`.
+    void addOptions(CLI::App& app);
+
+    /// Whether the model can record a clean-up, or need not because of `--dry-run`.
+    [[nodiscard]] bool isReady(const AppModel& model) const;
+
     /// If a document is printed, it goes to standard output and everything else to standard error.
-    ItemList::Beside beside = ItemList::Beside::nothing;
-
-    [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan) const;
-
-    struct Outcome {
-        CleanRecord record;
-        CleaningState end; ///< the model's last state
-    };
+    [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan,
+                                      ItemList::Beside beside) const;
 
 private:
-    void printOutcome(Session& session, const CleanPlan& plan, const Outcome& carriedOut) const;
+    bool m_isDryRun = false;
+    bool m_isConfirmed = false;
 };
 
 } // namespace orlen

@@ -1,5 +1,7 @@
 #include "cli/Session.h"
 
+#include "cli/Texts.h"
+
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -78,6 +80,18 @@ void Session::complain(std::span<const std::string> sentences)
 {
     for (const std::string& sentence : sentences)
         complain(std::string_view(sentence));
+}
+
+ExitStatus Session::refuse(std::string_view sentence)
+{
+    complain(sentence);
+    return ExitStatus::wrongCall;
+}
+
+ExitStatus Session::cancelled()
+{
+    complain(Texts::kCancelled);
+    return ExitStatus::interrupted;
 }
 
 } // namespace orlen

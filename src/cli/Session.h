@@ -50,6 +50,10 @@ public:
     void complain(std::string_view sentence);
     /// One per line.
     void complain(std::span<const std::string> sentences);
+    /// Complains, for a command that ends as a wrong call.
+    [[nodiscard]] ExitStatus refuse(std::string_view sentence);
+    /// Says so, for a command that ends because of Ctrl-C before anything was moved.
+    [[nodiscard]] ExitStatus cancelled();
 
     /// For text on standard output.
     [[nodiscard]] static Colours colours() { return Colours(Terminal::Stream::output); }

@@ -40,16 +40,6 @@ std::string runningStep(const ScanProgress& progress)
     return others == 0 ? first : first + " +" + std::to_string(others);
 }
 
-} // namespace
-
-void addThresholdOption(CLI::App& app, double& megabytes)
-{
-    app.add_option("--large-mb", megabytes, "Megabytes from which a file counts as large")
-        ->type_name("N")
-        ->check(checkedMegabytes)
-        ->capture_default_str();
-}
-
 std::string status(const ScanProgress& progress)
 {
     // The storage is measured alongside the steps and may take longer.
@@ -59,6 +49,16 @@ std::string status(const ScanProgress& progress)
     if (const std::string current = progress.current(); !current.empty())
         line += " · " + Format::shownPath(current);
     return line;
+}
+
+} // namespace
+
+void addThresholdOption(CLI::App& app, double& megabytes)
+{
+    app.add_option("--large-mb", megabytes, "Megabytes from which a file counts as large")
+        ->type_name("N")
+        ->check(checkedMegabytes)
+        ->capture_default_str();
 }
 
 std::optional<std::chrono::duration<double>> run(Session& session, AppModel& model, double thresholdMB)

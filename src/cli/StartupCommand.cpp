@@ -1,5 +1,5 @@
 #include "app/Format.h"
-#include "app/Workers.h"
+#include "cli/Background.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
@@ -8,10 +8,8 @@
 #include "tools/startup/LaunchControl.h"
 
 #include <CLI/CLI.hpp>
-#include <QObject>
 #include <nlohmann/json.hpp>
 
-#include <optional>
 #include <stop_token>
 #include <utility>
 #include <vector>
@@ -22,18 +20,9 @@ namespace {
 
 using Items = std::vector<LaunchItem>;
 
-/// Runs the work on its own thread, so that Ctrl-C is noticed meanwhile.
-template <typename Work>
-auto inBackground(Session& session, Session::Work::Nature nature, Work work) -> decltype(work())
+std::string status()
 {
-    std::optional<decltype(work())> result;
-    QObject receiver;
-    Workers workers(receiver);
-    workers.start([&](const std::stop_token& /*stop*/) { return work(); },
-                  [&](decltype(work()) value) { result = std::move(value); });
-    session.run({[&] { return result.has_value(); }, [] {},
-                 [] { return std::string(Texts::kAskingServices); }, nature});
-    return *std::move(result);
+    return std::string(Texts::kAskingServices);
 }
 
 void printItems(const Items& items)
@@ -79,10 +68,7 @@ Items named(const Items& items, const std::string& name)
 
 class StartupCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"startup", "Show what starts when you log in; switch it off and on"};
-    }
+    StartupCommand() : Command({"startup", "Show what starts when you log in; switch it off and on"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -94,18 +80,16 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        const Items items =
-            inBackground(session, Session::Work::Nature::harmless, [] { return LaunchControl::load(); });
-        if (session.isInterrupted()) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
+        const auto items = Background::resultUnlessCancelled(
+            session, status, [](const std::stop_token& /*stop*/) { return LaunchControl::load(); });
+        if (!items)
+            return session.cancelled();
         if (m_disable->parsed() || m_enable->parsed())
-            return runSwitch(session, items);
+            return runSwitch(session, *items);
         if (wantsJson())
-            Session::printDocument(JsonDocuments::startup(items));
+            Session::printDocument(JsonDocuments::startup(*items));
         else
-            printItems(items);
+            printItems(*items);
         return ExitStatus::done;
     }
 
@@ -131,9 +115,9 @@ private:
         const LaunchItem& item = found.front();
         const bool isWanted = m_enable->parsed();
         // An item already on is left alone; one that is off may still be running.
-        const bool isDone =
-            (item.enabled && isWanted) || inBackground(session, Session::Work::Nature::moving,
-                                                       [&] { return LaunchControl::set(item, isWanted); });
+        const auto set = [&](const std::stop_token& /*stop*/) { return LaunchControl::set(item, isWanted); };
+        const bool isDone = (item.enabled && isWanted) ||
+                            Background::result(session, status, set, Session::Work::Nature::moving);
         report(session, item, isDone);
         return isDone ? ExitStatus::done : ExitStatus::someFailed;
     }

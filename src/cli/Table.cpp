@@ -3,12 +3,14 @@
 #include "platform/text/DisplayWidth.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace orlen {
 
 namespace {
 
+constexpr long kBarLength = 30;
 constexpr int kGap = 2;
 constexpr int kNarrowestPath = 16;
 
@@ -24,6 +26,18 @@ int taken(int width)
 }
 
 } // namespace
+
+std::string Table::bar(std::int64_t part, std::int64_t whole)
+{
+    if (part <= 0 || whole <= 0)
+        return {};
+    const double share = static_cast<double>(part) / static_cast<double>(whole);
+    const long length = std::clamp(std::lround(share * kBarLength), 1L, kBarLength);
+    std::string bar;
+    for (long i = 0; i < length; ++i)
+        bar += "█";
+    return bar;
+}
 
 void Table::addRow(std::vector<Cell> cells)
 {

@@ -2,6 +2,7 @@
 
 #include "cli/Colours.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +26,10 @@ public:
         std::string text;
         Style style = Style::plain;
     };
+
+    /// A bar as long as the part's share of the whole; empty for nothing, at least one block for anything
+    /// else.
+    [[nodiscard]] static std::string bar(std::int64_t part, std::int64_t whole);
 
     explicit Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
 
