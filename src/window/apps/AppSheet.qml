@@ -7,7 +7,6 @@ Sheet {
 
     required property AppDetailModel detail
 
-    objectName: "appSheet"
     title: root.detail.name
     wantedWidth: Theme.widened(760)
     wantedHeight: root.detail.removable

@@ -22,7 +22,6 @@ Column {
         width: root.width
         title: root.detail.name
         titleLines: 2
-        closeName: "appSheetClose"
         picture: AppIcon {
             icon: root.detail.icon
             size: 56

@@ -103,14 +103,12 @@ Item {
             enabled: apps.count > 0
 
             SortButton {
-                objectName: "appsByName"
                 text: Strings.byName
                 active: ordered.order === AppOrderModel.ByName
                 onClicked: ordered.order = AppOrderModel.ByName
             }
 
             SortButton {
-                objectName: "appsBySize"
                 text: Strings.bySize
                 active: ordered.order === AppOrderModel.BySize
                 onClicked: ordered.order = AppOrderModel.BySize

@@ -7,7 +7,6 @@ Sheet {
 
     required property Navigation navigation
 
-    objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
     wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
@@ -52,8 +51,6 @@ Sheet {
                 height: 92
 
                 ProgressRing {
-                    id: ring
-
                     anchors.fill: parent
                     thickness: 8
                     value: cleaning.fraction
@@ -163,7 +160,6 @@ Sheet {
             }
 
             Paragraph {
-                objectName: "notRecorded"
                 width: parent.width
                 visible: cleaning.finished && !cleaning.recorded
                 horizontalAlignment: Text.AlignHCenter
@@ -186,7 +182,6 @@ Sheet {
             }
 
             AppButton {
-                objectName: "cleaningStop"
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: !cleaning.finished
                 enabled: !cleaning.stopping

@@ -12,10 +12,11 @@ Item {
     /// Shown to the right of the header.
     property alias tools: toolRow.data
     readonly property alias contentWidth: column.width
+    readonly property Item focused: Window.activeFocusItem
 
     /// Scrolls just enough to show an item, so that the keyboard focus is never out of sight.
     function show(item: Item) {
-        follower.show(item);
+        area.show(item, Theme.pageMargin);
     }
 
     ScrollArea {
@@ -55,9 +56,14 @@ Item {
         }
     }
 
-    FocusFollower {
-        id: follower
+    onFocusedChanged: {
+        if (root.isContent(root.focused))
+            root.show(root.focused);
+    }
 
-        view: area
+    function isContent(item: Item): bool {
+        while (item !== null && item !== column)
+            item = item.parent;
+        return item !== null;
     }
 }

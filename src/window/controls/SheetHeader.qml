@@ -10,7 +10,6 @@ Item {
     property string symbol: ""
     property color tone: Theme.accent
     property ratingValue rating
-    property string closeName: "closeSheet"
     /// Shown instead of the badge.
     property alias picture: slot.data
     default property alias lines: texts.data
@@ -58,7 +57,7 @@ Item {
     IconButton {
         id: close
 
-        objectName: root.closeName
+        objectName: "closeSheet"
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceXl
         y: Theme.spaceXl

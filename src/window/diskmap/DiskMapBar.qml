@@ -41,7 +41,6 @@ Item {
         spacing: Theme.spaceS
 
         IconButton {
-            objectName: "diskMapReload"
             framed: true
             symbol: "arrow.clockwise"
             text: Strings.measureAgain

@@ -38,8 +38,6 @@ FocusScope {
     }
 
     Item {
-        id: frame
-
         anchors.fill: parent
         anchors.leftMargin: Theme.pageMargin
         anchors.rightMargin: Theme.pageMargin

@@ -17,7 +17,6 @@ Sheet {
         look.show(contents.pathAt(row), contents.sizeAt(row));
     }
 
-    objectName: "findingSheet"
     title: contents.header.title
     wantedWidth: Theme.widened(820)
     wantedHeight: Theme.widened(680)

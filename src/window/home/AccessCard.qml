@@ -101,7 +101,6 @@ Card {
         AppButton {
             id: settings
 
-            objectName: "openPrivacySettings"
             width: go.width
             visible: !root.access.granted && root.access.command !== ""
             text: Strings.openPrivacySettings

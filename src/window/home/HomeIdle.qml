@@ -74,13 +74,9 @@ Item {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
                     horizontalAlignment: Text.AlignHCenter
+                    bottomPadding: 20
                     text: Strings.homeLead
                     wrapMode: Text.WordWrap
-                }
-
-                Item {
-                    width: 1
-                    height: 20
                 }
 
                 AppButton {

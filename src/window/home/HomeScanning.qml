@@ -120,7 +120,6 @@ Item {
                 }
 
                 CaptionText {
-                    objectName: "currentPath"
                     width: parent.width
                     text: progress.cancelling ? Strings.nothingChanged : progress.current
                     elide: Text.ElideMiddle

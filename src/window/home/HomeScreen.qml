@@ -51,7 +51,6 @@ FocusScope {
     StorageGauge {
         id: ring
 
-        objectName: "storageRing"
         storage: root.view.storage
         breathing: root.state === "scanning" || !root.view.storage.ready
     }

@@ -46,8 +46,6 @@ Item {
         }
 
         Rectangle {
-            id: dot
-
             anchors.centerIn: parent
             visible: root.isRunning
             width: 8

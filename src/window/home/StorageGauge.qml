@@ -26,8 +26,6 @@ StorageRing {
     }
 
     SequentialAnimation {
-        id: breath
-
         running: root.breathing && Theme.moves && root.visible
         loops: Animation.Infinite
         onStopped: root.opacity = 1

@@ -20,7 +20,6 @@ Column {
 
     AppButton {
         x: 12
-        objectName: "showUnreadable"
         quiet: true
         text: root.open ? Strings.hideFolders : Strings.showFolders
         onClicked: root.open = !root.open

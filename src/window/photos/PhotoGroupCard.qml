@@ -99,7 +99,6 @@ Card {
     PhotoGrid {
         id: strip
 
-        objectName: "photoStrip"
         x: root.padding - 4
         anchors.top: head.bottom
         anchors.topMargin: root.padding - 4

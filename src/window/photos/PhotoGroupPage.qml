@@ -52,7 +52,6 @@ Item {
             IconButton {
                 id: back
 
-                objectName: "backToPhotos"
                 framed: true
                 y: (badge.height - height) / 2
                 symbol: "chevron.left"
@@ -100,7 +99,6 @@ Item {
             CheckMark {
                 id: mark
 
-                objectName: "selectAllPhotos"
                 anchors.verticalCenter: parent.verticalCenter
                 checkState: root.checkState
                 nextCheckState: () => root.checkState

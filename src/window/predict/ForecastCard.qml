@@ -28,7 +28,6 @@ ColumnCard {
         TitleText {
             id: headline
 
-            objectName: "forecastHeadline"
             x: sign.visible ? sign.width + 10 : 0
             width: parent.width - x
             text: root.prediction.headline
@@ -39,18 +38,13 @@ ColumnCard {
 
     Paragraph {
         width: parent.width
+        bottomPadding: 14 + root.spacing
         text: root.prediction.detail
-    }
-
-    Item {
-        width: 1
-        height: 14
     }
 
     ForecastChart {
         id: chart
 
-        objectName: "forecastChart"
         width: parent.width
         height: root.prediction.enoughData ? 164 : 96
         model: root.prediction

@@ -32,7 +32,6 @@ ScreenPage {
         Column {
             id: rows
 
-            objectName: "growthRows"
             y: 6
             width: parent.width
             Accessible.role: Accessible.List

@@ -18,7 +18,6 @@ Sheet {
 
     property string size: ""
 
-    objectName: "previewSheet"
     title: model.name
     wantedWidth: 900
     wantedHeight: 760

@@ -25,7 +25,6 @@ Sheet {
         root.preview(row);
     }
 
-    objectName: "reviewSheet"
     title: Strings.reviewTitle
     wantedWidth: Theme.widened(820)
     wantedHeight: Theme.widened(680)

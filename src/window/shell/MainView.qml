@@ -21,8 +21,6 @@ Item {
     }
 
     Item {
-        id: detail
-
         anchors.fill: parent
         anchors.leftMargin: sidebar.width
 

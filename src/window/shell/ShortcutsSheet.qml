@@ -5,7 +5,6 @@ import Orlen.App
 Sheet {
     id: root
 
-    objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
     wantedWidth: Theme.grown(560)
     wantedHeight: Theme.grown(660)
@@ -18,7 +17,6 @@ Sheet {
 
             width: parent.width
             title: root.title
-            closeName: "closeShortcuts"
             onCloseRequested: root.close()
         }
 

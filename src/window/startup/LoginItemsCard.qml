@@ -33,13 +33,11 @@ ColumnCard {
         spacing: Theme.spaceS
 
         AppButton {
-            objectName: "showLoginItems"
             text: Strings.showLoginItems
             onClicked: root.items.ask()
         }
 
         AppButton {
-            objectName: "loginItemsSettings"
             text: Strings.openLoginItemsSettings
             onClicked: root.items.openSettings()
         }

@@ -6,7 +6,6 @@ import Orlen.App
 Window {
     id: root
 
-
     signal openRequested
     signal quitRequested
 
@@ -122,7 +121,6 @@ Window {
                 spacing: Theme.spaceS
 
                 AppButton {
-                    objectName: "trayQuit"
                     text: Strings.quit
                     onClicked: root.quitRequested()
                 }
