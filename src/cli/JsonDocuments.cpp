@@ -78,8 +78,6 @@ const char* kindOf(LaunchSource source)
     return "";
 }
 
-} // namespace
-
 Json finding(const Finding& finding)
 {
     return {
@@ -97,17 +95,6 @@ Json finding(const Finding& finding)
     };
 }
 
-Json breakdown(const StorageBreakdown& breakdown)
-{
-    Json categories = Json::object();
-    for (const OrlenCategory category : kAllCategories) {
-        const auto bytes = breakdown.cats.find(category);
-        categories[std::string(orlen::rawValue(category))] =
-            bytes == breakdown.cats.end() ? 0 : bytes->second;
-    }
-    return {{"total", breakdown.total}, {"free", breakdown.free}, {"cats", std::move(categories)}};
-}
-
 Json plan(const CleanPlan& plan)
 {
     const auto encodeSection = [](const PlanSection& section) -> Json {
@@ -117,6 +104,19 @@ Json plan(const CleanPlan& plan)
                 {"entries", entries(section.entries)}};
     };
     return {{"title", plan.title}, {"sections", array(plan.sections, encodeSection)}};
+}
+
+} // namespace
+
+Json breakdown(const StorageBreakdown& breakdown)
+{
+    Json categories = Json::object();
+    for (const OrlenCategory category : kAllCategories) {
+        const auto bytes = breakdown.cats.find(category);
+        categories[std::string(orlen::rawValue(category))] =
+            bytes == breakdown.cats.end() ? 0 : bytes->second;
+    }
+    return {{"total", breakdown.total}, {"free", breakdown.free}, {"cats", std::move(categories)}};
 }
 
 Json scan(const AppModel& model, Seconds duration)

@@ -27,9 +27,7 @@ namespace JsonDocuments {
 using Json = nlohmann::ordered_json;
 using Seconds = std::chrono::duration<double>;
 
-[[nodiscard]] Json finding(const Finding& finding);
 [[nodiscard]] Json breakdown(const StorageBreakdown& breakdown);
-[[nodiscard]] Json plan(const CleanPlan& plan);
 
 /// Needs a finished scan.
 [[nodiscard]] Json scan(const AppModel& model, Seconds duration);
