@@ -26,7 +26,6 @@ Pressable {
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
-            size: 24
         }
 
         SmallText {

@@ -32,7 +32,6 @@ T.ComboBox {
         x: root.width - width - 10
         y: (root.height - height) / 2
         name: "chevron.down"
-        colour: Theme.secondary
         size: 10
     }
 

@@ -30,7 +30,6 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary
-        size: 16
     }
 
     BodyText {

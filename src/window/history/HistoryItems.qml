@@ -32,10 +32,7 @@ Item {
 
         objectName: "recordItems"
         anchors.fill: parent
-        anchors.topMargin: Theme.spaceS
-        anchors.bottomMargin: Theme.spaceS
-        anchors.leftMargin: Theme.spaceS
-        anchors.rightMargin: Theme.spaceS
+        anchors.margins: Theme.spaceS
         reuseItems: true
         activeFocusOnTab: true
         highlightMoveDuration: 0

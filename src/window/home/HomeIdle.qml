@@ -30,7 +30,6 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 y: Math.max(24, Math.round((page.height - footer.height - 48 - height) / 2))
                 width: page.width - 2 * Theme.pageMargin
-                spacing: 0
 
                 Item {
                     id: slot

@@ -57,54 +57,41 @@ FocusScope {
 
     // Qt 6.4's linter does not know that ParentChange accepts bindings.
     // qmllint disable
+    component Phase: State {
+        id: phase
+
+        required property Item screen
+        required property Item slot
+
+        PropertyChanges {
+            target: phase.screen
+            opacity: 1
+        }
+        ParentChange {
+            target: ring
+            parent: phase.slot
+            x: 0
+            y: 0
+            width: phase.slot.width
+            height: phase.slot.height
+        }
+    }
+
     states: [
-        State {
+        Phase {
             name: "idle"
-
-            PropertyChanges {
-                target: idle
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: idle.ringSlot
-                x: 0
-                y: 0
-                width: idle.ringSlot.width
-                height: idle.ringSlot.height
-            }
+            screen: idle
+            slot: idle.ringSlot
         },
-        State {
+        Phase {
             name: "scanning"
-
-            PropertyChanges {
-                target: scanning
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: scanning.ringSlot
-                x: 0
-                y: 0
-                width: scanning.ringSlot.width
-                height: scanning.ringSlot.height
-            }
+            screen: scanning
+            slot: scanning.ringSlot
         },
-        State {
+        Phase {
             name: "results"
-
-            PropertyChanges {
-                target: results
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: results.ringSlot
-                x: 0
-                y: 0
-                width: results.ringSlot.width
-                height: results.ringSlot.height
-            }
+            screen: results
+            slot: results.ringSlot
         }
     ]
     // qmllint enable

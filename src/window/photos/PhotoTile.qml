@@ -130,7 +130,6 @@ Item {
 
         FocusRing {
             shown: root.ringed
-            gap: 3
         }
     }
 

@@ -24,7 +24,6 @@ T.Popup {
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
     leftPadding: Theme.spaceL
-    modal: false
     visible: root.text !== ""
     closePolicy: T.Popup.CloseOnEscape
     onTextChanged: {
@@ -80,8 +79,6 @@ T.Popup {
 
             anchors.verticalCenter: parent.verticalCenter
             name: "info.circle"
-            colour: Theme.secondary
-            size: 16
         }
 
         BodyText {

@@ -9,8 +9,6 @@ Column {
     /// For each: `text`, what it does, and `keys`, a list of keys for each alternative.
     required property var shortcuts
 
-    spacing: 0
-
     CaptionText {
         width: parent.width
         bottomPadding: Theme.spaceS

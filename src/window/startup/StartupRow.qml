@@ -45,7 +45,6 @@ ListRow {
             anchors.centerIn: parent
             name: root.symbol
             colour: root.isOn ? Theme.secondary : Theme.tertiary
-            size: 16
         }
     }
 
