@@ -1,20 +1,51 @@
 #include "app/Format.h"
 #include "clean/Safety.h"
+#include "cli/Background.h"
 #include "cli/Command.h"
-#include "cli/InstalledApps.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
+#include "tools/apps/AppList.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace orlen {
 
 namespace {
+
+std::vector<AppInfo> measuredApps(const std::stop_token& stop)
+{
+    std::vector<AppInfo> apps = AppList::list(stop);
+    std::vector<std::int64_t> bytes(apps.size());
+    AppList::measure(
+        apps, [&](std::size_t index, std::int64_t size) { bytes[index] = size; }, stop);
+    for (std::size_t i = 0; i < apps.size(); ++i)
+        apps[i].size = bytes[i];
+    return apps;
+}
+
+/// In a word or two.
+std::string_view kindOf(AppSource source)
+{
+    switch (source) {
+    case AppSource::bundle:
+        return "App bundle";
+    case AppSource::appImage:
+        return "AppImage";
+    case AppSource::folder:
+        return "Folder";
+    case AppSource::flatpak:
+        return "Flatpak";
+    case AppSource::snap:
+        return "Snap";
+    case AppSource::removedFlatpak:
+        return "App data";
+    }
+    return {};
+}
 
 void printApps(const std::vector<AppInfo>& apps)
 {
@@ -29,7 +60,7 @@ void printApps(const std::vector<AppInfo>& apps)
         total = checkedAdd(total, app.size.value_or(0));
         table.addRow({{PathText::forDisplay(app.name), Style::bold},
                       {byteCount(app.size.value_or(0))},
-                      {std::string(InstalledApps::kindOf(app.source)), Style::dim},
+                      {std::string(kindOf(app.source)), Style::dim},
                       {Format::shownPath(app.path)}});
     }
     const Colours colours = Session::colours();
@@ -40,22 +71,15 @@ void printApps(const std::vector<AppInfo>& apps)
 
 class AppsCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"apps", "Show the installed applications with their sizes"};
-    }
-
-    void addOptions(CLI::App& /*app*/) override {}
+    AppsCommand() : Command({"apps", "Show the installed applications with their sizes"}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
-        const auto apps =
-            InstalledApps::inBackground(session, Texts::kMeasuringApps, [](const std::stop_token& stop) {
-                return InstalledApps::list(InstalledApps::Sizes::measured, stop);
-            });
+        const auto apps = Background::resultUnlessCancelled(
+            session, [] { return std::string(Texts::kMeasuringApps); }, measuredApps);
         if (!apps)
-            return ExitStatus::interrupted;
+            return session.cancelled();
         if (wantsJson())
             Session::printDocument(JsonDocuments::apps(*apps));
         else

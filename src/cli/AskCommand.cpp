@@ -27,10 +27,7 @@ void printAnswer(const Answer& answer)
 
 class AskCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"ask", "Run a Smart Scan and answer a question about the storage"};
-    }
+    AskCommand() : Command({"ask", "Run a Smart Scan and answer a question about the storage"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -43,7 +40,7 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        // A question is no reading of the disk for the forecast to keep.
+        // A question must not add a snapshot to the forecast, so this only reads.
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;

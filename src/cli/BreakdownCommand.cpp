@@ -1,12 +1,10 @@
 #include "app/AppModel.h"
-#include "cli/Bar.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace orlen {
@@ -22,10 +20,10 @@ void printBreakdown(const StorageBreakdown& breakdown)
         const std::int64_t size = bytes == breakdown.cats.end() ? 0 : bytes->second;
         table.addRow({{std::string(label(category))},
                       {byteCount(size)},
-                      {Bar::text(size, breakdown.total), Style::blue}});
+                      {Table::bar(size, breakdown.total), Style::blue}});
     }
     table.addRow(
-        {{"Free"}, {byteCount(breakdown.free)}, {Bar::text(breakdown.free, breakdown.total), Style::green}});
+        {{"Free"}, {byteCount(breakdown.free)}, {Table::bar(breakdown.free, breakdown.total), Style::green}});
     Session::print(
         colours.styled(Style::bold, byteCount(breakdown.free) + " free of " + byteCount(breakdown.total)) +
         "\n\n" + table.text(colours, Session::width()));
@@ -33,12 +31,7 @@ void printBreakdown(const StorageBreakdown& breakdown)
 
 class BreakdownCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"breakdown", "Measure how the storage of the start-up volume is used"};
-    }
-
-    void addOptions(CLI::App& /*app*/) override {}
+    BreakdownCommand() : Command({"breakdown", "Measure how the storage of the start-up volume is used"}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
@@ -46,10 +39,8 @@ public:
         model.storage()->refreshBreakdown(Storage::Recording::none);
         session.run({[&] { return model.storage()->isBreakdownReady() || session.isInterrupted(); }, [] {},
                      [] { return std::string(Texts::kMeasuring); }});
-        if (!model.storage()->isBreakdownReady()) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
+        if (!model.storage()->isBreakdownReady())
+            return session.cancelled();
         if (wantsJson())
             Session::printDocument(JsonDocuments::breakdown(model.storage()->breakdown()));
         else

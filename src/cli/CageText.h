@@ -7,7 +7,7 @@
 
 namespace orlen::Texts {
 
-/// What keeps the recognizer in, one line each. Absent: it could not be asked.
+/// The walls around the recognizer, one per line. No report means that it could not be asked.
 [[nodiscard]] std::string cage(const std::optional<CageReport>& report);
 
 } // namespace orlen::Texts

@@ -2,15 +2,11 @@
 #include "app/Format.h"
 #include "cli/CleanChoice.h"
 #include "cli/Command.h"
-#include "cli/Confirmation.h"
-#include "cli/ItemList.h"
-#include "cli/JsonDocuments.h"
 #include "cli/PlanCarrier.h"
 #include "cli/SmartScan.h"
 #include "cli/Texts.h"
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 namespace orlen {
 
@@ -26,9 +22,9 @@ std::string checkedKind(const std::string& raw)
 
 class CleanCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
+    CleanCommand()
+        : Command({"clean", "Run a Smart Scan, show what is selected, and move it to the Trash after a yes"})
     {
-        return {"clean", "Run a Smart Scan, show what is selected, and move it to the Trash after a yes"};
     }
 
     void addOptions(CLI::App& app) override
@@ -47,49 +43,30 @@ public:
             ->allow_extra_args(false)
             ->excludes(kind)
             ->excludes(all);
-        app.add_flag("--dry-run", m_isDryRun, "Print the plan and move nothing");
-        app.add_flag("--yes", m_isConfirmed, "Move without asking");
+        m_carrier.addOptions(app);
     }
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
-        if (!m_isDryRun && !model.isWriter()) {
-            session.complain(Texts::kOtherWriter);
-            return ExitStatus::wrongCall;
-        }
+        if (!m_carrier.isReady(model))
+            return session.refuse(Texts::kOtherWriter);
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
         CleanChoice::Result chosen =
             m_choice.apply(model.results()->findings(), model.results()->selection());
-        if (!chosen.objection.empty()) {
-            session.complain(chosen.objection);
-            return ExitStatus::wrongCall;
-        }
+        if (!chosen.objection.empty())
+            return session.refuse(chosen.objection);
         model.results()->setSelection(std::move(chosen.paths));
         const CleanPlan plan = m_choice.limited(model.results()->scanPlan());
-        if (m_isDryRun)
-            return shown(session, plan);
-        const PlanCarrier carrier{m_isConfirmed ? Confirmation::Asking::unneeded
-                                                : Confirmation::Asking::onTerminal,
-                                  wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing};
-        return carrier.carryOut(session, model, plan);
+        return m_carrier.carryOut(session, model, plan,
+                                  wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing);
     }
 
 private:
-    [[nodiscard]] ExitStatus shown(Session& session, const CleanPlan& plan)
-    {
-        if (wantsJson())
-            Session::printDocument(JsonDocuments::dryRun(plan));
-        else
-            ItemList::toClean(plan, ItemList::Beside::nothing).show(session);
-        return ExitStatus::done;
-    }
-
     double m_thresholdMB = 500;
     CleanChoice m_choice;
-    bool m_isDryRun = false;
-    bool m_isConfirmed = false;
+    PlanCarrier m_carrier;
 };
 
 } // namespace

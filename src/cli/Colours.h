@@ -9,10 +9,10 @@ namespace orlen {
 
 enum class Style { plain, bold, dim, green, orange, blue };
 
-/// Emphasis on a terminal; none elsewhere.
+/// Emphasis on a terminal, plain text elsewhere.
 class Colours {
 public:
-    /// For a stream: only on a terminal that can show colours, and never when NO_COLOR is set.
+    /// Colours are used only if the stream is a terminal that supports them and NO_COLOR is not set.
     explicit Colours(Terminal::Stream stream);
 
     [[nodiscard]] std::string styled(Style style, std::string_view text) const;

@@ -14,29 +14,30 @@ namespace orlen {
 /// One command of the command line.
 class Command {
 public:
-    Command() = default;
-    Command(const Command&) = delete;
-    Command& operator=(const Command&) = delete;
-    virtual ~Command() = default;
-
     struct Description {
         const char* name;
         const char* summary;
     };
-    [[nodiscard]] virtual Description description() const = 0;
+    explicit Command(Description description) : m_description(description) {}
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+    virtual ~Command() = default;
 
-    /// Adds what only this command takes. The options are filled when `run` is called.
-    virtual void addOptions(CLI::App& app) = 0;
+    [[nodiscard]] Description description() const { return m_description; }
+
+    /// Adds this command's own options, which are set before `run` is called.
+    virtual void addOptions(CLI::App& /*app*/) {}
     [[nodiscard]] virtual ExitStatus run(Session& session) = 0;
 
-    /// Whether one JSON document is wanted instead of text.
+    /// Whether to print a JSON document instead of text.
     [[nodiscard]] bool& wantsJson() { return m_wantsJson; }
 
 private:
+    const Description m_description;
     bool m_wantsJson = false;
 };
 
-/// Each command is a file of its own, which nothing else knows but by its line here.
+/// Each command lives in its own source file, and these are the only way to it.
 std::unique_ptr<Command> makeScanCommand();
 std::unique_ptr<Command> makeCleanCommand();
 std::unique_ptr<Command> makeHistoryCommand();

@@ -27,7 +27,7 @@ const std::string kVersion = std::string("orlen ") + ORLEN_VERSION;
 
 struct Registered {
     std::unique_ptr<Command> command;
-    CLI::App* parser; ///< owned by the parser of the whole line
+    CLI::App* parser; ///< owned by the main parser
 };
 
 std::vector<std::unique_ptr<Command>> allCommands()
@@ -86,10 +86,8 @@ ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vecto
     for (const Registered& candidate : commands) {
         if (!candidate.parser->parsed())
             continue;
-        if (Places::current().isHomeSilent) {
-            session.complain(AppTexts::kSilentHome);
-            return ExitStatus::wrongCall;
-        }
+        if (Places::current().isHomeSilent)
+            return session.refuse(AppTexts::kSilentHome);
         const ExitStatus status = candidate.command->run(session);
         tellOfSilence(session);
         return status;

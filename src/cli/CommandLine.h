@@ -1,10 +1,10 @@
 #pragma once
 
-/// What the program does when it is called from a terminal or script.
+/// The program as run from a terminal or script.
 namespace orlen::CommandLine {
 
-/// Runs the command that the arguments name and returns the exit status. Main thread, with the application
-/// object made.
+/// Runs the command named by the arguments and returns the exit status. Main thread; needs the application
+/// object.
 [[nodiscard]] int run(int argc, char** argv);
 
 } // namespace orlen::CommandLine

@@ -8,37 +8,24 @@
 
 namespace orlen::Confirmation {
 
-namespace {
-
-ExitStatus interrupted(Session& session)
-{
-    session.complain(Texts::kCancelled);
-    return ExitStatus::interrupted;
-}
-
-} // namespace
-
 std::optional<ExitStatus> refusal(Session& session, Asking asking, std::string_view question)
 {
     if (session.isInterrupted())
-        return interrupted(session);
+        return session.cancelled();
     if (asking == Asking::unneeded)
         return std::nullopt;
-    if (!Terminal::isTerminal(Terminal::Stream::input)) {
-        session.complain(Texts::kNoTerminal);
-        return ExitStatus::wrongCall;
-    }
+    if (!Terminal::isTerminal(Terminal::Stream::input))
+        return session.refuse(Texts::kNoTerminal);
     session.note(std::string(question).append(" [y/N] "));
     const auto line = Terminal::readLine(session.interruptDescriptor());
     if (!line)
         session.note("\n");
     if (session.isInterrupted())
-        return interrupted(session);
+        return session.cancelled();
     const std::string answer = PathText::asciiLower(line.value_or(""));
     if (answer == "y" || answer == "yes")
         return std::nullopt;
-    session.complain(Texts::kRefused);
-    return ExitStatus::wrongCall;
+    return session.refuse(Texts::kRefused);
 }
 
 } // namespace orlen::Confirmation

@@ -5,16 +5,16 @@
 #include <optional>
 #include <string_view>
 
-/// The question before anything moves.
+/// Asks before anything moves.
 namespace orlen::Confirmation {
 
 enum class Asking {
     onTerminal,
-    unneeded, ///< the call said yes
+    unneeded, ///< --yes was given
 };
 
-/// Asks on the terminal; anything but a yes is a no, and without a terminal nobody is asked. Nothing on a
-/// yes, else how the command ends, which has been said.
+/// Asks on the terminal; anything but yes means no, and so does having no terminal. Returns nothing on yes,
+/// otherwise the exit status, with the reason already printed.
 [[nodiscard]] std::optional<ExitStatus> refusal(Session& session, Asking asking, std::string_view question);
 
 } // namespace orlen::Confirmation

@@ -1,7 +1,6 @@
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/Command.h"
-#include "cli/FolderArguments.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
@@ -25,7 +24,7 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr std::int64_t kSmallestCandidate = 1'000'000;
 
-/// Images from that size on are among the candidates already.
+/// Larger images are already among the candidates.
 std::vector<Cand> input(Walk::Found found)
 {
     std::vector<Cand> cands = std::move(found.cands);
@@ -37,7 +36,6 @@ std::vector<Cand> input(Walk::Found found)
 struct Search {
     Duplicates::Result result;
     Seconds duration{0};
-    bool wasStopped = false;
 };
 
 Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
@@ -46,11 +44,10 @@ Search search(const std::vector<std::string>& folders, ScanProgress& progress, c
     const Walk::Found found = FolderSearch::walked(folders, progress, stop);
     Search search{Duplicates::find(input(found), stop)};
     search.duration = std::chrono::steady_clock::now() - started;
-    search.wasStopped = stop.stop_requested();
     return search;
 }
 
-/// Rated as it would be in a scan.
+/// Rated as in a scan.
 Finding rated(const Duplicates::Result& result)
 {
     return Rater::rate({Duplicates::finding(result)}).front();
@@ -81,9 +78,9 @@ void printSets(const Search& found, const Finding& finding)
 
 class DuplicatesCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
+    DuplicatesCommand()
+        : Command({"duplicates", "Find files with the same content below folders, or in the home folder"})
     {
-        return {"duplicates", "Find files with the same content below folders, or in the home folder"};
     }
 
     void addOptions(CLI::App& app) override
@@ -94,22 +91,20 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
-        const auto folders = FolderArguments::checked(session, m_arguments);
+        const auto folders = FolderSearch::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
-        const Search found =
+        const auto found =
             FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
                 return search(*folders, progress, stop);
             });
-        if (found.wasStopped) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
-        const Finding finding = rated(found.result);
+        if (!found)
+            return session.cancelled();
+        const Finding finding = rated(found->result);
         if (wantsJson())
-            Session::printDocument(JsonDocuments::duplicates(finding, found.result, found.duration));
+            Session::printDocument(JsonDocuments::duplicates(finding, found->result, found->duration));
         else
-            printSets(found, finding);
+            printSets(*found, finding);
         return ExitStatus::done;
     }
 

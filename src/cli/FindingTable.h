@@ -6,10 +6,10 @@
 #include <cstddef>
 #include <vector>
 
-/// Findings for a reader: what they are, how much, and their largest entries.
+/// Findings as a table: titles, sizes and the largest entries.
 namespace orlen::FindingTable {
 
-/// At most `entries` of each finding; those left out are counted.
+/// Lists at most `entries` entries per finding and says how many more there are.
 [[nodiscard]] Table of(const std::vector<Finding>& findings, std::size_t entries);
 
 [[nodiscard]] Style style(Rating rating);

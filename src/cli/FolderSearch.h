@@ -1,48 +1,40 @@
 #pragma once
 
 #include "app/Format.h"
-#include "app/Workers.h"
-#include "cli/Session.h"
+#include "cli/Background.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/Walk.h"
-
-#include <QObject>
 
 #include <optional>
 #include <stop_token>
 #include <string>
-#include <utility>
 #include <vector>
 
-/// What the commands have in common that search through folders. Main thread, unless told otherwise.
+/// Shared by the commands that search folders. Main thread unless noted.
 namespace orlen::FolderSearch {
 
-/// What lies in the folders; in the home folder when there are none. Any thread.
-[[nodiscard]] inline Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
-                                        const std::stop_token& stop)
-{
-    return folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
-}
+/// Resolves the folders given on the command line. Prints a complaint and returns nothing if one is
+/// unreadable or protected. Blocks on the disk.
+[[nodiscard]] std::optional<std::vector<std::string>> checked(Session& session,
+                                                              const std::vector<std::string>& arguments);
 
-/// Calls `search(progress, stop)` on a worker and returns what it found; its progress is shown meanwhile, and
-/// Ctrl-C stops it.
+/// Walks the folders, or the home folder if none are given. Any thread.
+[[nodiscard]] Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
+                                 const std::stop_token& stop);
+
+/// Calls `search(progress, stop)` on a worker, shows its progress and returns its result, or nothing if
+/// Ctrl-C stopped it.
 template <typename Search>
 [[nodiscard]] auto run(Session& session, Search search)
 {
-    using Found = decltype(search(std::declval<ScanProgress&>(), std::stop_token()));
-    std::optional<Found> found;
     ScanProgress progress;
-    QObject receiver;
-    Workers workers(receiver);
-    std::stop_source stop =
-        workers.start([&](const std::stop_token& token) { return search(progress, token); },
-                      [&](Found result) { found = std::move(result); });
-    session.run({[&] { return found.has_value(); }, [&] { stop.request_stop(); },
-                 [&] {
-                     return Format::counted(progress.files(), "file") + " examined · " +
-                            Format::shownPath(progress.current());
-                 }});
-    return *std::move(found);
+    return Background::resultUnlessCancelled(
+        session,
+        [&] {
+            return Format::counted(progress.files(), "file") + " examined · " +
+                   Format::shownPath(progress.current());
+        },
+        [&](const std::stop_token& stop) { return search(progress, stop); });
 }
 
 } // namespace orlen::FolderSearch

@@ -7,7 +7,6 @@
 #include "model/ByteCount.h"
 #include "platform/text/PathText.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -16,7 +15,7 @@ namespace orlen {
 
 namespace {
 
-/// Enough of an identity to name a record to `orlen restore`.
+/// Enough of an ID for `orlen restore`.
 constexpr std::size_t kShownId = 8;
 
 std::string state(const CleanRecord& record)
@@ -56,12 +55,7 @@ void printHistory(const std::vector<CleanRecord>& history)
 
 class HistoryCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"history", "List the clean-ups made so far, newest first"};
-    }
-
-    void addOptions(CLI::App& /*app*/) override {}
+    HistoryCommand() : Command({"history", "List the clean-ups made so far, newest first"}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {

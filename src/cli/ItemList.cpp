@@ -28,7 +28,7 @@ void addEntry(Table& table, const FileEntry& entry)
     Table::Cell chip;
     if (entry.rating)
         chip = {std::string(label(*entry.rating)), FindingTable::style(*entry.rating)};
-    // The chip stands before the path, which may be longer than the terminal is wide.
+    // The chip comes before the path, which may be wider than the terminal.
     table.addRow({{byteCount(entry.size)}, chip, {Format::shownPath(entry.path)}});
     if (entry.note)
         table.addLine(kPathColumn + 1, {"  " + PathText::forDisplay(*entry.note), Style::dim});

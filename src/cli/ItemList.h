@@ -11,18 +11,18 @@ namespace orlen {
 
 class Session;
 
-/// The full list that is shown before anything moves: every item, no path shortened.
+/// The full list shown before anything moves: every item, with its whole path.
 class ItemList {
 public:
-    /// Where the list goes: beside a document on standard output there is room for nothing else.
+    /// What else is printed: a document takes standard output for itself, so the list goes to standard error.
     enum class Beside { nothing, document };
 
     [[nodiscard]] static ItemList toClean(const CleanPlan& plan, Beside beside);
-    /// The items that are not yet back.
+    /// The items that have not been put back yet.
     [[nodiscard]] static ItemList toRestore(const CleanRecord& record, Beside beside);
 
     [[nodiscard]] bool isEmpty() const { return m_count == 0; }
-    /// "12 items (3.1 GB)"; an item that is listed twice, or lies in another one, counts once.
+    /// "12 items (3.1 GB)". Items listed twice, or inside another item, count once.
     [[nodiscard]] std::string summary() const;
     void show(Session& session) const;
 

@@ -11,24 +11,30 @@ namespace orlen::JsonDocuments {
 
 namespace {
 
-/// Milliseconds are as exact as a measured duration gets.
+/// Measured durations are no more precise than milliseconds.
 double rounded(Seconds duration)
 {
     return std::round(duration.count() * 1000) / 1000;
 }
 
-/// Without the digits that only the change of the number's form adds.
+/// Drops the digits that only the conversion to double adds.
 double shortened(float number)
 {
     return std::round(static_cast<double>(number) * 1e6) / 1e6;
 }
 
-Json entries(const std::vector<FileEntry>& list)
+template <typename List, typename Encode>
+Json array(const List& list, Encode encode)
 {
     Json array = Json::array();
-    for (const FileEntry& entry : list)
-        array.push_back(RecordJson::encode(entry));
+    for (const auto& element : list)
+        array.push_back(encode(element));
     return array;
+}
+
+Json entries(const std::vector<FileEntry>& list)
+{
+    return array(list, [](const FileEntry& entry) { return RecordJson::encode(entry); });
 }
 
 std::string_view rawValue(StepState state)
@@ -46,23 +52,31 @@ std::string_view rawValue(StepState state)
 
 Json steps(const ScanProgress& progress)
 {
-    Json array = Json::array();
-    for (const ScanStep& step : progress.steps())
-        array.push_back({{"label", label(step.kind)},
-                         {"state", rawValue(step.state)},
-                         {"seconds", rounded(step.elapsed)}});
-    return array;
+    return array(progress.steps(), [](const ScanStep& step) -> Json {
+        return {
+            {"label", label(step.kind)}, {"state", rawValue(step.state)}, {"seconds", rounded(step.elapsed)}};
+    });
 }
 
 Json failures(const std::vector<CleanFailure>& stayed)
 {
-    Json array = Json::array();
-    for (const CleanFailure& failure : stayed)
-        array.push_back({{"path", failure.path}, {"reason", orlen::rawValue(failure.reason)}});
-    return array;
+    return array(stayed, [](const CleanFailure& failure) -> Json {
+        return {{"path", failure.path}, {"reason", orlen::rawValue(failure.reason)}};
+    });
 }
 
-} // namespace
+const char* kindOf(LaunchSource source)
+{
+    switch (source) {
+    case LaunchSource::launchAgent:
+        return "agent";
+    case LaunchSource::systemdUnit:
+        return "service";
+    case LaunchSource::autostartEntry:
+        return "autostart";
+    }
+    return "";
+}
 
 Json finding(const Finding& finding)
 {
@@ -81,6 +95,19 @@ Json finding(const Finding& finding)
     };
 }
 
+Json plan(const CleanPlan& plan)
+{
+    const auto encodeSection = [](const PlanSection& section) -> Json {
+        return {{"id", section.id},
+                {"title", section.title},
+                {"symbol", section.symbol},
+                {"entries", entries(section.entries)}};
+    };
+    return {{"title", plan.title}, {"sections", array(plan.sections, encodeSection)}};
+}
+
+} // namespace
+
 Json breakdown(const StorageBreakdown& breakdown)
 {
     Json categories = Json::object();
@@ -92,25 +119,10 @@ Json breakdown(const StorageBreakdown& breakdown)
     return {{"total", breakdown.total}, {"free", breakdown.free}, {"cats", std::move(categories)}};
 }
 
-Json plan(const CleanPlan& plan)
-{
-    Json sections = Json::array();
-    for (const PlanSection& section : plan.sections) {
-        sections.push_back({{"id", section.id},
-                            {"title", section.title},
-                            {"symbol", section.symbol},
-                            {"entries", entries(section.entries)}});
-    }
-    return {{"title", plan.title}, {"sections", std::move(sections)}};
-}
-
 Json scan(const AppModel& model, Seconds duration)
 {
-    Json findings = Json::array();
-    for (const Finding& found : model.results()->findings())
-        findings.push_back(finding(found));
     return {
-        {"findings", std::move(findings)},
+        {"findings", array(model.results()->findings(), finding)},
         {"unreadable", Json(model.results()->unreadableFolders().paths)},
         {"selection", Json(model.results()->selection())},
         {"totalFound", model.results()->totalFound()},
@@ -139,13 +151,11 @@ Json clean(const CleanPlan& carriedOut, const CleanRecord& record, const std::ve
 
 Json history(const std::vector<CleanRecord>& history)
 {
-    Json array = Json::array();
-    for (const CleanRecord& record : history) {
+    return array(history, [](const CleanRecord& record) {
         Json document = RecordJson::encode(record);
         document["freed"] = record.freed();
-        array.push_back(std::move(document));
-    }
-    return array;
+        return document;
+    });
 }
 
 Json restore(const Cleaner::Restored& outcome, const std::string& message)
@@ -180,16 +190,13 @@ Json answer(const Answer& answer)
 
 Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds duration)
 {
-    Json sets = Json::array();
-    for (const Duplicates::Set& set : result.sets) {
-        Json copies = Json::array();
-        for (const Duplicates::Copy& copy : set.copies)
-            copies.push_back(copy.file.path);
-        sets.push_back({{"kept", set.kept.path}, {"copies", std::move(copies)}});
-    }
+    const auto encodeSet = [](const Duplicates::Set& set) -> Json {
+        const auto path = [](const Duplicates::Copy& copy) { return copy.file.path; };
+        return {{"kept", set.kept.path}, {"copies", array(set.copies, path)}};
+    };
     return {
         {"finding", finding(found)},
-        {"sets", std::move(sets)},
+        {"sets", array(result.sets, encodeSet)},
         {"filesConsidered", result.filesConsidered},
         {"filesHashed", result.filesHashed},
         {"bytesHashed", result.bytesHashed},
@@ -199,69 +206,47 @@ Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds 
 
 Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos, Seconds duration)
 {
-    Json found = Json::array();
-    for (const Finding& one : findings)
-        found.push_back(finding(one));
-    Json analyzed = Json::array();
-    for (const PhotoInfo& photo : photos) {
-        Json labels = Json::array();
-        for (const ImageLabel& label : photo.labels)
-            labels.push_back({{"label", label.identifier}, {"confidence", shortened(label.confidence)}});
-        analyzed.push_back({{"path", photo.cand.path},
-                            {"width", photo.width},
-                            {"height", photo.height},
-                            {"sharpness", photo.sharpness},
-                            {"labels", std::move(labels)}});
-    }
-    return {{"findings", std::move(found)}, {"photos", std::move(analyzed)}, {"seconds", rounded(duration)}};
+    const auto encodeLabel = [](const ImageLabel& label) -> Json {
+        return {{"label", label.identifier}, {"confidence", shortened(label.confidence)}};
+    };
+    const auto encodePhoto = [&](const PhotoInfo& photo) -> Json {
+        return {{"path", photo.cand.path},
+                {"width", photo.width},
+                {"height", photo.height},
+                {"sharpness", photo.sharpness},
+                {"labels", array(photo.labels, encodeLabel)}};
+    };
+    return {{"findings", array(findings, finding)},
+            {"photos", array(photos, encodePhoto)},
+            {"seconds", rounded(duration)}};
 }
 
 Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration)
 {
-    Json array = Json::array();
-    for (const TreeNode& node : nodes) {
-        array.push_back({{"name", node.name},
-                         {"path", node.path},
-                         {"size", node.size},
-                         {"isDir", node.isDir},
-                         {"isOther", node.isOther}});
-    }
-    return {{"path", folder}, {"nodes", std::move(array)}, {"seconds", rounded(duration)}};
+    const auto encodeNode = [](const TreeNode& node) -> Json {
+        return {{"name", node.name},
+                {"path", node.path},
+                {"size", node.size},
+                {"isDir", node.isDir},
+                {"isOther", node.isOther}};
+    };
+    return {{"path", folder}, {"nodes", array(nodes, encodeNode)}, {"seconds", rounded(duration)}};
 }
 
 Json apps(const std::vector<AppInfo>& apps)
 {
-    Json array = Json::array();
-    for (const AppInfo& app : apps) {
+    return array(apps, [](const AppInfo& app) {
         Json document = {{"path", app.path}, {"name", app.name}, {"bundleID", app.bundleID}};
         if (app.size)
             document["size"] = *app.size;
-        array.push_back(std::move(document));
-    }
-    return array;
+        return document;
+    });
 }
 
 Json leftovers(const std::vector<FileEntry>& leftovers)
 {
     return entries(leftovers);
 }
-
-namespace {
-
-const char* kindOf(LaunchSource source)
-{
-    switch (source) {
-    case LaunchSource::launchAgent:
-        return "agent";
-    case LaunchSource::systemdUnit:
-        return "service";
-    case LaunchSource::autostartEntry:
-        return "autostart";
-    }
-    return "";
-}
-
-} // namespace
 
 Json startupItem(const LaunchItem& item)
 {
@@ -277,10 +262,7 @@ Json startupItem(const LaunchItem& item)
 
 Json startup(const std::vector<LaunchItem>& items)
 {
-    Json array = Json::array();
-    for (const LaunchItem& item : items)
-        array.push_back(startupItem(item));
-    return array;
+    return array(items, startupItem);
 }
 
 } // namespace orlen::JsonDocuments

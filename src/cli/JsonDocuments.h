@@ -21,20 +21,17 @@ namespace orlen {
 
 class AppModel;
 
-/// What the commands print with `--json`. Records have their persisted form; sizes are plain numbers of
-/// bytes.
+/// What the commands print with `--json`. Records look as they do on disk; sizes are in bytes.
 namespace JsonDocuments {
 
 using Json = nlohmann::ordered_json;
 using Seconds = std::chrono::duration<double>;
 
-[[nodiscard]] Json finding(const Finding& finding);
 [[nodiscard]] Json breakdown(const StorageBreakdown& breakdown);
-[[nodiscard]] Json plan(const CleanPlan& plan);
 
-/// After a scan.
+/// Needs a finished scan.
 [[nodiscard]] Json scan(const AppModel& model, Seconds duration);
-/// Of a plan that was only shown.
+/// For a plan that was shown but not carried out.
 [[nodiscard]] Json dryRun(const CleanPlan& plan);
 [[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record,
                          const std::vector<CleanFailure>& failures);

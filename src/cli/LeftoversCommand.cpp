@@ -1,7 +1,7 @@
 #include "app/Format.h"
 #include "clean/Safety.h"
+#include "cli/Background.h"
 #include "cli/Command.h"
-#include "cli/InstalledApps.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
@@ -38,10 +38,7 @@ void printLeftovers(const std::string& heading, const std::vector<FileEntry>& le
 
 class LeftoversCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"leftovers", "Show what an application left in your folders"};
-    }
+    LeftoversCommand() : Command({"leftovers", "Show what an application left in your folders"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -52,18 +49,14 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        if (m_identifier.empty() && m_name.empty()) {
-            session.complain(Texts::kNobodysLeftovers);
-            return ExitStatus::wrongCall;
-        }
+        if (m_identifier.empty() && m_name.empty())
+            return session.refuse(Texts::kNobodysLeftovers);
         Safety::refresh();
-        const auto leftovers =
-            InstalledApps::inBackground(session, Texts::kLookingForLeftovers,
-                                        [id = m_identifier, name = m_name](const std::stop_token& stop) {
-                                            return Leftovers::find(id, name, stop);
-                                        });
+        const auto leftovers = Background::resultUnlessCancelled(
+            session, [] { return std::string(Texts::kLookingForLeftovers); },
+            [&](const std::stop_token& stop) { return Leftovers::find(m_identifier, m_name, stop); });
         if (!leftovers)
-            return ExitStatus::interrupted;
+            return session.cancelled();
         if (wantsJson())
             Session::printDocument(JsonDocuments::leftovers(*leftovers));
         else

@@ -1,6 +1,5 @@
 #include "app/DiskMapModel.h"
 #include "app/Format.h"
-#include "cli/Bar.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/PathArgument.h"
@@ -36,7 +35,7 @@ void printMap(const DiskMapModel& model, JsonDocuments::Seconds duration)
         total = checkedAdd(total, node.size);
     Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"Name", Table::Kind::path}});
     for (const TreeNode& node : model.nodes())
-        table.addRow({{byteCount(node.size)}, {Bar::text(node.size, total), Style::blue}, nameCell(node)});
+        table.addRow({{byteCount(node.size)}, {Table::bar(node.size, total), Style::blue}, nameCell(node)});
     const Colours colours = Session::colours();
     const std::string heading = byteCount(total) + " in " + Format::shownPath(model.current());
     Session::print(colours.styled(Style::bold, heading) + '\n' +
@@ -47,10 +46,7 @@ void printMap(const DiskMapModel& model, JsonDocuments::Seconds duration)
 
 class MapCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"map", "Show what the items of a folder take on disk, largest first"};
-    }
+    MapCommand() : Command({"map", "Show what the items of a folder take on disk, largest first"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -61,20 +57,16 @@ public:
     {
         const std::string argument = m_argument.value_or(Places::current().home);
         const std::string folder = PathArgument::readableFolder(argument);
-        if (folder.empty() || (wantsJson() && !PathText::isValidUtf8(folder))) {
-            session.complain(Format::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
-                                                                            : Texts::kNoTextInDocument));
-            return ExitStatus::wrongCall;
-        }
+        if (folder.empty() || (wantsJson() && !PathText::isValidUtf8(folder)))
+            return session.refuse(Format::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
+                                                                                 : Texts::kNoTextInDocument));
         const auto started = std::chrono::steady_clock::now();
         DiskMapModel model(folder);
         model.load();
         session.run({[&] { return !model.isLoading() || session.isInterrupted(); }, [] {},
                      [&] { return std::string(Texts::kMeasuringFolder) + Format::shownPath(folder); }});
-        if (model.isLoading()) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
+        if (model.isLoading())
+            return session.cancelled();
         const JsonDocuments::Seconds duration = std::chrono::steady_clock::now() - started;
         if (wantsJson())
             Session::printDocument(JsonDocuments::map(folder, model.nodes(), duration));

@@ -2,13 +2,13 @@
 
 #include <string>
 
-/// Paths as they are typed. Blocks on the disk.
+/// Paths given on the command line. Blocks on the disk.
 namespace orlen::PathArgument {
 
-/// The absolute path in the form that all rules compare; links are not looked at.
+/// The absolute path in the form that all rules compare; links are not followed.
 [[nodiscard]] std::string absolute(const std::string& argument);
 
-/// The folder that is meant, a link followed; empty when there is no such folder or it cannot be listed.
+/// The folder with links resolved; empty if it does not exist or cannot be listed.
 [[nodiscard]] std::string readableFolder(const std::string& argument);
 
 } // namespace orlen::PathArgument

@@ -2,7 +2,6 @@
 #include "clean/Safety.h"
 #include "cli/Command.h"
 #include "cli/FindingTable.h"
-#include "cli/FolderArguments.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
@@ -28,9 +27,8 @@ using Seconds = std::chrono::duration<double>;
 
 struct PhotoSearch {
     std::vector<PhotoInfo> photos;
-    std::vector<Finding> findings; ///< all five, rated as they would be in a scan
+    std::vector<Finding> findings; ///< all five, rated as in a scan
     Seconds duration{0};
-    bool wasStopped = false;
 };
 
 PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& progress,
@@ -44,10 +42,8 @@ PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& 
     const PhotoAnalyzer analyzer(
         progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
     PhotoSearch search{analyzer.analyze(found.images)};
-    std::vector<Finding> findings = PhotoAnalyzer::findings(search.photos, stop);
-    search.wasStopped = stop.stop_requested();
-    if (!search.wasStopped)
-        search.findings = Rater::rate(std::move(findings));
+    if (!stop.stop_requested())
+        search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
     search.duration = std::chrono::steady_clock::now() - started;
     return search;
 }
@@ -80,9 +76,8 @@ void printFindings(const PhotoSearch& found)
 
 class PhotosCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
+    PhotosCommand() : Command({"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"})
     {
-        return {"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"};
     }
 
     void addOptions(CLI::App& app) override
@@ -94,21 +89,19 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
-        const auto folders = FolderArguments::checked(session, m_arguments);
+        const auto folders = FolderSearch::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
-        const PhotoSearch found =
+        const auto found =
             FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
                 return searchPhotos(*folders, progress, stop);
             });
-        if (found.wasStopped) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
+        if (!found)
+            return session.cancelled();
         if (wantsJson())
-            Session::printDocument(JsonDocuments::photos(found.findings, found.photos, found.duration));
+            Session::printDocument(JsonDocuments::photos(found->findings, found->photos, found->duration));
         else
-            printFindings(found);
+            printFindings(*found);
         if (!ImageWorkers::recognizer().empty())
             return ExitStatus::done;
         session.complain(Texts::kNoRecognizer);

@@ -3,14 +3,18 @@
 #include "app/AppModel.h"
 #include "app/AppTexts.h"
 #include "app/Format.h"
+#include "clean/CleanRecord.h"
 #include "clean/Persist.h"
 #include "clean/trash/Trash.h"
+#include "cli/Confirmation.h"
 #include "cli/FailureList.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
+#include "model/ModelState.h"
 #include "platform/text/PathText.h"
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <optional>
@@ -18,6 +22,11 @@
 namespace orlen {
 
 namespace {
+
+struct Outcome {
+    CleanRecord record;
+    CleaningState end; ///< the model's last state
+};
 
 std::string status(const AppModel& model)
 {
@@ -28,8 +37,8 @@ std::string status(const AppModel& model)
            Format::grouped(state.total) + " · " + PathText::forDisplay(state.current);
 }
 
-/// The clean-up itself. Ctrl-C lets it finish the item in hand; the record tells what was moved by then.
-PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
+/// The clean-up itself. On Ctrl-C it finishes the current item; the record lists what was moved so far.
+Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
 {
     std::optional<CleanRecord> record;
     const auto heard = QObject::connect(model.cleanUps(), &CleanUps::cleaningFinished, &model,
@@ -38,11 +47,11 @@ PlanCarrier::Outcome moved(Session& session, AppModel& model, const CleanPlan& p
     session.run({[&] { return record.has_value(); }, [&] { model.cleanUps()->cancelCleaning(); },
                  [&] { return status(model); }, Session::Work::Nature::moving});
     QObject::disconnect(heard);
-    // The display of the clean-up stays until it is dismissed.
+    // The model keeps the clean-up's state until it is dismissed.
     return {*std::move(record), *model.cleanUps()->cleaning()};
 }
 
-std::string outcome(const CleanRecord& record)
+std::string summary(const CleanRecord& record)
 {
     std::string text = Format::counted(static_cast<std::int64_t>(record.items.size()), "item") + " (" +
                        byteCount(record.freed()) + ") moved to the Trash\n";
@@ -53,45 +62,63 @@ std::string outcome(const CleanRecord& record)
     return text;
 }
 
+void print(Session& session, const CleanPlan& plan, const Outcome& outcome, ItemList::Beside beside)
+{
+    if (beside == ItemList::Beside::document)
+        Session::printDocument(JsonDocuments::clean(plan, outcome.record, outcome.end.failures));
+    else if (plan.sections.empty())
+        Session::print(std::string(Texts::kNothingToClean) + '\n');
+    else
+        Session::print(summary(outcome.record));
+    FailureList::show(session, outcome.end.failures, outcome.end.refusal, Texts::kNotBegun);
+}
+
 } // namespace
 
-ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanPlan& plan) const
+void PlanCarrier::addOptions(CLI::App& app)
 {
+    app.add_flag("--dry-run", m_isDryRun, "Print the plan and move nothing");
+    app.add_flag("--yes", m_isConfirmed, "Move without asking");
+}
+
+bool PlanCarrier::isReady(const AppModel& model) const
+{
+    return m_isDryRun || model.isWriter();
+}
+
+ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanPlan& plan,
+                                 ItemList::Beside beside) const
+{
+    if (m_isDryRun && beside == ItemList::Beside::document) {
+        Session::printDocument(JsonDocuments::dryRun(plan));
+        return ExitStatus::done;
+    }
     const ItemList list = ItemList::toClean(plan, beside);
+    if (m_isDryRun) {
+        list.show(session);
+        return ExitStatus::done;
+    }
     if (list.isEmpty()) {
-        printOutcome(session, plan,
-                     {{Uuid::random(), std::chrono::system_clock::now(), plan.title, {}, 0}, {}});
+        print(session, plan, {{Uuid::random(), std::chrono::system_clock::now(), plan.title, {}, 0}, {}},
+              beside);
         return ExitStatus::done;
     }
     list.show(session);
-    if (!Trash::isReachable() || !Persist::isReachable()) {
-        session.complain(AppTexts::kSilentTrash);
-        return ExitStatus::wrongCall;
-    }
+    if (!Trash::isReachable() || !Persist::isReachable())
+        return session.refuse(AppTexts::kSilentTrash);
+    const auto asking = m_isConfirmed ? Confirmation::Asking::unneeded : Confirmation::Asking::onTerminal;
     if (const auto refused =
             Confirmation::refusal(session, asking, "Move " + list.summary() + " to the Trash?"))
         return *refused;
-    const Outcome carriedOut = moved(session, model, plan);
-    printOutcome(session, plan, carriedOut);
-    if (!carriedOut.end.isRecorded)
+    const Outcome outcome = moved(session, model, plan);
+    print(session, plan, outcome, beside);
+    if (!outcome.end.isRecorded)
         session.complain(Texts::kNotRecorded);
     if (session.isInterrupted()) {
         session.complain(Texts::kCancelledCleaning);
         return ExitStatus::interrupted;
     }
-    return carriedOut.record.failed > 0 || !carriedOut.end.isRecorded ? ExitStatus::someFailed
-                                                                      : ExitStatus::done;
-}
-
-void PlanCarrier::printOutcome(Session& session, const CleanPlan& plan, const Outcome& carriedOut) const
-{
-    if (beside == ItemList::Beside::document)
-        Session::printDocument(JsonDocuments::clean(plan, carriedOut.record, carriedOut.end.failures));
-    else if (plan.sections.empty())
-        Session::print(std::string(Texts::kNothingToClean) + '\n');
-    else
-        Session::print(outcome(carriedOut.record));
-    FailureList::show(session, carriedOut.end.failures, carriedOut.end.refusal, Texts::kNotBegun);
+    return outcome.record.failed > 0 || !outcome.end.isRecorded ? ExitStatus::someFailed : ExitStatus::done;
 }
 
 } // namespace orlen

@@ -1,31 +1,34 @@
 #pragma once
 
-#include "clean/CleanRecord.h"
-#include "cli/Confirmation.h"
 #include "cli/ItemList.h"
 #include "cli/Session.h"
-#include "model/ModelState.h"
+#include "model/CleanPlan.h"
+
+namespace CLI {
+class App;
+}
 
 namespace orlen {
 
 class AppModel;
 
-/// Carries a plan out: the full list, the question, the clean-up, the outcome. One way for every command that
-/// moves something.
-struct PlanCarrier {
-    Confirmation::Asking asking = Confirmation::Asking::onTerminal;
-    /// With a document that is what standard output gets, and everything else goes to standard error.
-    ItemList::Beside beside = ItemList::Beside::nothing;
+/// Carries out a plan: shows the full list, asks, cleans up and reports. Every command that moves files to
+/// the Trash goes through here.
+class PlanCarrier {
+public:
+    /// Adds `--dry-run` and `--yes`.
+    void addOptions(CLI::App& app);
 
-    [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan) const;
+    /// Whether the model can record a clean-up, or need not because of `--dry-run`.
+    [[nodiscard]] bool isReady(const AppModel& model) const;
 
-    struct Outcome {
-        CleanRecord record;
-        CleaningState end; ///< as the model showed it last
-    };
+    /// If a document is printed, it goes to standard output and everything else to standard error.
+    [[nodiscard]] ExitStatus carryOut(Session& session, AppModel& model, const CleanPlan& plan,
+                                      ItemList::Beside beside) const;
 
 private:
-    void printOutcome(Session& session, const CleanPlan& plan, const Outcome& carriedOut) const;
+    bool m_isDryRun = false;
+    bool m_isConfirmed = false;
 };
 
 } // namespace orlen

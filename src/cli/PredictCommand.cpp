@@ -5,7 +5,6 @@
 #include "cli/Table.h"
 #include "model/ByteCount.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include <cmath>
@@ -14,7 +13,7 @@ namespace orlen {
 
 namespace {
 
-/// Growth with its sign; the size format itself knows no negative sizes.
+/// Growth with its sign, since `byteCount` takes no negative sizes.
 std::string perDay(double bytes)
 {
     constexpr double kMost = 9e18;
@@ -39,12 +38,7 @@ void printPrediction(const Prediction& prediction, std::size_t snapshots)
 
 class PredictCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"predict", "Forecast the growth from the snapshots of past scans"};
-    }
-
-    void addOptions(CLI::App& /*app*/) override {}
+    PredictCommand() : Command({"predict", "Forecast the growth from the snapshots of past scans"}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {

@@ -25,7 +25,7 @@ void ProgressLine::show(std::string_view text)
 {
     if (!m_isShown)
         return;
-    // One column less than there is: some terminals wrap as soon as the last one is written.
+    // One column short, since some terminals wrap as soon as the last one is written.
     const int width = Terminal::width(Terminal::Stream::error).value_or(kUsualWidth) - 1;
     std::cerr << kEraseLine << DisplayWidth::elidedEnd(text, width) << std::flush;
     m_isDirty = true;

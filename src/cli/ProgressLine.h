@@ -4,7 +4,7 @@
 
 namespace orlen {
 
-/// One live line on standard error, when that is a terminal. Nothing otherwise. Erased at the end.
+/// One live line on standard error if that is a terminal, nothing otherwise. Erased at the end.
 class ProgressLine {
 public:
     ProgressLine();
@@ -12,9 +12,9 @@ public:
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
-    /// Whether anybody sees it.
+    /// Whether standard error is a terminal.
     [[nodiscard]] bool isShown() const { return m_isShown; }
-    /// Replaces the line by displayable text, cut to the terminal's width.
+    /// Replaces the line with displayable text, cut to the terminal's width.
     void show(std::string_view text);
     void erase();
 

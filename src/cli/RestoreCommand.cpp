@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::size_t kShortestId = 4;
 
-/// The records whose identity begins so, letters of either case.
+/// The records whose ID starts with this, ignoring case.
 std::vector<CleanRecord> matching(const std::vector<CleanRecord>& history, const std::string& id)
 {
     std::vector<CleanRecord> records;
@@ -34,10 +34,7 @@ std::vector<CleanRecord> matching(const std::vector<CleanRecord>& history, const
 
 class RestoreCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"restore", "Put the items of one clean-up back where they were"};
-    }
+    RestoreCommand() : Command({"restore", "Put the items of one clean-up back where they were"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -51,15 +48,12 @@ public:
         AppModel model({AppModel::Startup::filesOnly});
         session.complain(model.notices());
         const std::vector<CleanRecord> records = matching(model.cleanUps()->history(), m_id);
-        if (records.size() != 1) {
-            session.complain(records.empty() ? "there is no clean-up " + Format::quoted(m_id) + '.'
-                                             : "several clean-ups begin with " + Format::quoted(m_id) + '.');
-            return ExitStatus::wrongCall;
-        }
-        if (!model.isWriter()) {
-            session.complain(Texts::kOtherWriter);
-            return ExitStatus::wrongCall;
-        }
+        if (records.size() != 1)
+            return session.refuse(records.empty()
+                                      ? "there is no clean-up " + Format::quoted(m_id) + '.'
+                                      : "several clean-ups begin with " + Format::quoted(m_id) + '.');
+        if (!model.isWriter())
+            return session.refuse(Texts::kOtherWriter);
         if (const auto refused = refusal(session, records.front()))
             return *refused;
         return restored(session, model, records.front());

@@ -72,10 +72,7 @@ void printResults(const AppModel& model, Seconds duration)
 
 class ScanCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"scan", "Run a Smart Scan of the home folder and print the rated findings"};
-    }
+    ScanCommand() : Command({"scan", "Run a Smart Scan of the home folder and print the rated findings"}) {}
 
     void addOptions(CLI::App& app) override { SmartScan::addThresholdOption(app, m_thresholdMB); }
 

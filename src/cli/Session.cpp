@@ -1,5 +1,7 @@
 #include "cli/Session.h"
 
+#include "cli/Texts.h"
+
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -39,7 +41,7 @@ void Session::interrupt(const Work& work)
     if (!isInterrupted() || m_interrupted == before)
         return;
     if (before > 0 && work.nature == Work::Nature::harmless) {
-        // The work hangs, perhaps on a server that is gone: it has nothing to lose.
+        // The work is stuck, perhaps on a dead server; it has nothing to lose.
         m_progress.erase();
         std::_Exit(static_cast<int>(ExitStatus::interrupted));
     }
@@ -78,6 +80,18 @@ void Session::complain(std::span<const std::string> sentences)
 {
     for (const std::string& sentence : sentences)
         complain(std::string_view(sentence));
+}
+
+ExitStatus Session::refuse(std::string_view sentence)
+{
+    complain(sentence);
+    return ExitStatus::wrongCall;
+}
+
+ExitStatus Session::cancelled()
+{
+    complain(Texts::kCancelled);
+    return ExitStatus::interrupted;
 }
 
 } // namespace orlen

@@ -17,28 +17,28 @@ namespace orlen {
 enum class ExitStatus {
     done = 0,
     someFailed = 1,    ///< done, but at least one item could not be moved or restored
-    wrongCall = 2,     ///< or refused
+    wrongCall = 2,     ///< wrong arguments, or refused
     interrupted = 130, ///< by Ctrl-C
 };
 
-/// One call of the program from a terminal or script: what it prints, and the wish to end it.
+/// One run of the program from a terminal or script: its output and its interruption.
 class Session {
 public:
-    /// Work that goes on in the event loop.
+    /// Work done while the event loop runs.
     struct Work {
         std::function<bool()> isDone;
-        std::function<void()> cancel;        ///< called at Ctrl-C; the work then ends by itself
-        std::function<std::string()> status; ///< for the live line; asked only when that is shown
-        /// Whether a second Ctrl-C may end the program at once: never while something is moved.
+        std::function<void()> cancel;        ///< called on Ctrl-C; the work then ends on its own
+        std::function<std::string()> status; ///< text of the live line; called only if it is shown
+        /// Whether a second Ctrl-C may end the program at once: never while files are moved.
         enum class Nature { harmless, moving } nature = Nature::harmless;
     };
 
     /// Runs the event loop until the work is done.
     void run(const Work& work);
 
-    /// Whether Ctrl-C was pressed up to now.
+    /// Whether Ctrl-C has been pressed.
     [[nodiscard]] bool isInterrupted();
-    /// Readable when Ctrl-C was pressed and nobody has asked yet.
+    /// Readable once Ctrl-C is pressed, until `isInterrupted` is called.
     [[nodiscard]] int interruptDescriptor() const { return m_interrupts.descriptor(); }
 
     /// To standard output.
@@ -48,10 +48,14 @@ public:
     void note(std::string_view text);
     /// One sentence to standard error, with the program's name.
     void complain(std::string_view sentence);
-    /// Each on a line of its own.
+    /// One per line.
     void complain(std::span<const std::string> sentences);
+    /// Complains, for a command that ends as a wrong call.
+    [[nodiscard]] ExitStatus refuse(std::string_view sentence);
+    /// Says so, for a command that ends because of Ctrl-C before anything was moved.
+    [[nodiscard]] ExitStatus cancelled();
 
-    /// Where human output goes, and so how it looks.
+    /// For text on standard output.
     [[nodiscard]] static Colours colours() { return Colours(Terminal::Stream::output); }
     [[nodiscard]] static std::optional<int> width() { return Terminal::width(Terminal::Stream::output); }
 

@@ -13,10 +13,10 @@ namespace orlen::SmartScan {
 
 namespace {
 
-/// A million of these fit into 64 bits of bytes with room to spare.
+/// In bytes this fits in 64 bits with room to spare.
 constexpr double kMostMegabytes = 1e12;
 
-/// Not a range check of the parser's: that lets pass what is no number at all.
+/// The parser's own range check accepts text that is not a number.
 std::string checkedMegabytes(const std::string& text)
 {
     double value = 0;
@@ -40,6 +40,17 @@ std::string runningStep(const ScanProgress& progress)
     return others == 0 ? first : first + " +" + std::to_string(others);
 }
 
+std::string status(const ScanProgress& progress)
+{
+    // The storage is measured alongside the steps and may take longer.
+    const std::string step = runningStep(progress);
+    std::string line = step.empty() ? std::string(Texts::kMeasuring) : step;
+    line += " · " + Format::counted(progress.files(), "file") + " examined";
+    if (const std::string current = progress.current(); !current.empty())
+        line += " · " + Format::shownPath(current);
+    return line;
+}
+
 } // namespace
 
 void addThresholdOption(CLI::App& app, double& megabytes)
@@ -48,17 +59,6 @@ void addThresholdOption(CLI::App& app, double& megabytes)
         ->type_name("N")
         ->check(checkedMegabytes)
         ->capture_default_str();
-}
-
-std::string status(const ScanProgress& progress)
-{
-    // The storage is measured beside the steps, and may take longer than they do.
-    const std::string step = runningStep(progress);
-    std::string line = step.empty() ? std::string(Texts::kMeasuring) : step;
-    line += " · " + Format::counted(progress.files(), "file") + " examined";
-    if (const std::string current = progress.current(); !current.empty())
-        line += " · " + Format::shownPath(current);
-    return line;
 }
 
 std::optional<std::chrono::duration<double>> run(Session& session, AppModel& model, double thresholdMB)

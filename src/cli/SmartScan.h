@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <optional>
-#include <string>
 
 namespace CLI {
 class App;
@@ -11,21 +10,17 @@ class App;
 namespace orlen {
 
 class AppModel;
-class ScanProgress;
 class Session;
 
-/// What the commands that begin with a Smart Scan share.
+/// Shared by the commands that start with a Smart Scan.
 namespace SmartScan {
 
-/// `--large-mb`; the value is checked, so that the model takes it.
+/// Adds `--large-mb`, checked so that the model accepts it.
 void addThresholdOption(CLI::App& app, double& megabytes);
 
-/// Scans with a live line and returns how long that took; nothing when it was cancelled.
+/// Scans with a live line and returns how long it took; nothing if it was cancelled.
 [[nodiscard]] std::optional<std::chrono::duration<double>> run(Session& session, AppModel& model,
                                                                double thresholdMB);
-
-/// The live line of a scan.
-[[nodiscard]] std::string status(const ScanProgress& progress);
 
 } // namespace SmartScan
 } // namespace orlen

@@ -1,5 +1,5 @@
 #include "app/Format.h"
-#include "app/Workers.h"
+#include "cli/Background.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
@@ -8,10 +8,8 @@
 #include "tools/startup/LaunchControl.h"
 
 #include <CLI/CLI.hpp>
-#include <QObject>
 #include <nlohmann/json.hpp>
 
-#include <optional>
 #include <stop_token>
 #include <utility>
 #include <vector>
@@ -22,18 +20,9 @@ namespace {
 
 using Items = std::vector<LaunchItem>;
 
-/// Does the work on a thread of its own, so that Ctrl-C is heard meanwhile.
-template <typename Work>
-auto inBackground(Session& session, Session::Work::Nature nature, Work work) -> decltype(work())
+std::string status()
 {
-    std::optional<decltype(work())> result;
-    QObject receiver;
-    Workers workers(receiver);
-    workers.start([&](const std::stop_token& /*stop*/) { return work(); },
-                  [&](decltype(work()) value) { result = std::move(value); });
-    session.run({[&] { return result.has_value(); }, [] {},
-                 [] { return std::string(Texts::kAskingServices); }, nature});
-    return *std::move(result);
+    return std::string(Texts::kAskingServices);
 }
 
 void printItems(const Items& items)
@@ -64,7 +53,7 @@ void printItems(const Items& items)
                    colours.styled(Style::dim, Texts::kHowToSwitch) + '\n');
 }
 
-/// The items of this path, else those of this label.
+/// The item at this path, or else the items with this label.
 Items named(const Items& items, const std::string& name)
 {
     Items found;
@@ -79,10 +68,7 @@ Items named(const Items& items, const std::string& name)
 
 class StartupCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
-    {
-        return {"startup", "Show what starts when you log in; switch it off and on"};
-    }
+    StartupCommand() : Command({"startup", "Show what starts when you log in; switch it off and on"}) {}
 
     void addOptions(CLI::App& app) override
     {
@@ -94,18 +80,16 @@ public:
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
-        const Items items =
-            inBackground(session, Session::Work::Nature::harmless, [] { return LaunchControl::load(); });
-        if (session.isInterrupted()) {
-            session.complain(Texts::kCancelled);
-            return ExitStatus::interrupted;
-        }
+        const auto items = Background::resultUnlessCancelled(
+            session, status, [](const std::stop_token& /*stop*/) { return LaunchControl::load(); });
+        if (!items)
+            return session.cancelled();
         if (m_disable->parsed() || m_enable->parsed())
-            return runSwitch(session, items);
+            return runSwitch(session, *items);
         if (wantsJson())
-            Session::printDocument(JsonDocuments::startup(items));
+            Session::printDocument(JsonDocuments::startup(*items));
         else
-            printItems(items);
+            printItems(*items);
         return ExitStatus::done;
     }
 
@@ -130,10 +114,10 @@ private:
         }
         const LaunchItem& item = found.front();
         const bool isWanted = m_enable->parsed();
-        // What is on already stays as it is; what is off may still have something to stop.
-        const bool isDone =
-            (item.enabled && isWanted) || inBackground(session, Session::Work::Nature::moving,
-                                                       [&] { return LaunchControl::set(item, isWanted); });
+        // An item already on is left alone; one that is off may still be running.
+        const auto set = [&](const std::stop_token& /*stop*/) { return LaunchControl::set(item, isWanted); };
+        const bool isDone = (item.enabled && isWanted) ||
+                            Background::result(session, status, set, Session::Work::Nature::moving);
         report(session, item, isDone);
         return isDone ? ExitStatus::done : ExitStatus::someFailed;
     }
@@ -156,7 +140,7 @@ private:
     }
 
     std::string m_name;
-    CLI::App* m_disable = nullptr; ///< owned by the parser of the whole line
+    CLI::App* m_disable = nullptr; ///< owned by the main parser
     CLI::App* m_enable = nullptr;
 };
 

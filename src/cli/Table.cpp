@@ -3,12 +3,14 @@
 #include "platform/text/DisplayWidth.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace orlen {
 
 namespace {
 
+constexpr long kBarLength = 30;
 constexpr int kGap = 2;
 constexpr int kNarrowestPath = 16;
 
@@ -17,13 +19,25 @@ std::string spaces(int count)
     return std::string(static_cast<std::size_t>(std::max(count, 0)), ' ');
 }
 
-/// Columns of the terminal with the gap behind; a column in which nothing stands takes none.
+/// A column's width including the gap after it; an empty column takes none.
 int taken(int width)
 {
     return width == 0 ? 0 : width + kGap;
 }
 
 } // namespace
+
+std::string Table::bar(std::int64_t part, std::int64_t whole)
+{
+    if (part <= 0 || whole <= 0)
+        return {};
+    const double share = static_cast<double>(part) / static_cast<double>(whole);
+    const long length = std::clamp(std::lround(share * kBarLength), 1L, kBarLength);
+    std::string bar;
+    for (long i = 0; i < length; ++i)
+        bar += "█";
+    return bar;
+}
 
 void Table::addRow(std::vector<Cell> cells)
 {
@@ -73,7 +87,7 @@ Table::Widths Table::widths(std::optional<int> limit) const
 std::string Table::rowText(const std::vector<Cell>& cells, const Widths& widths, const Colours& colours) const
 {
     std::string line;
-    int owed = 0; // spaces that only a further cell makes necessary
+    int owed = 0; // spaces needed only if another cell follows
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const std::string shown = DisplayWidth::elidedMiddle(cells[i].text, widths[i]);
         const int free = widths[i] - DisplayWidth::columns(shown);

@@ -2,19 +2,20 @@
 
 #include "cli/Colours.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace orlen {
 
-/// Rows of text in aligned columns, by the room that characters take on a terminal.
+/// Rows of text in aligned columns, measured by the width of characters on a terminal.
 class Table {
 public:
     enum class Kind {
-        text,   ///< to the left
-        number, ///< to the right
-        path,   ///< to the left, shortened in the middle when the table would be too wide; one column at most
+        text,   ///< left-aligned
+        number, ///< right-aligned
+        path,   ///< left-aligned, shortened in the middle if the table is too wide; at most one column
     };
     struct Column {
         std::string heading;
@@ -26,15 +27,19 @@ public:
         Style style = Style::plain;
     };
 
+    /// A bar as long as the part's share of the whole; empty for nothing, at least one block for anything
+    /// else.
+    [[nodiscard]] static std::string bar(std::int64_t part, std::int64_t whole);
+
     explicit Table(std::vector<Column> columns) : m_columns(std::move(columns)) {}
 
-    /// Missing cells at the end are empty.
+    /// Missing cells at the end are left empty.
     void addRow(std::vector<Cell> cells);
-    /// A line below the row, starting at a column and shortened at its end when it would be too wide.
+    /// A line below the row, starting at a column and cut at the end if it is too wide.
     void addLine(std::size_t column, Cell cell);
     void addGap();
 
-    /// All lines, headings first when any column has one; unlimited in width without a limit.
+    /// All lines, with headings if any column has one. No `width` means no limit.
     [[nodiscard]] std::string text(const Colours& colours, std::optional<int> width) const;
 
 private:

@@ -1,11 +1,8 @@
 #include "app/AppModel.h"
 #include "app/Format.h"
 #include "clean/Safety.h"
+#include "cli/Background.h"
 #include "cli/Command.h"
-#include "cli/Confirmation.h"
-#include "cli/InstalledApps.h"
-#include "cli/ItemList.h"
-#include "cli/JsonDocuments.h"
 #include "cli/PathArgument.h"
 #include "cli/PlanCarrier.h"
 #include "cli/Texts.h"
@@ -17,7 +14,6 @@
 #include "tools/apps/Uninstall.h"
 
 #include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 
@@ -27,7 +23,7 @@ namespace {
 
 using Apps = std::vector<AppInfo>;
 
-/// The one at this path, else those of this name, whatever its case.
+/// The app at this path, or else the apps with this name, ignoring case.
 Apps named(const Apps& apps, const std::string& argument)
 {
     const std::string path = PathArgument::absolute(argument);
@@ -42,7 +38,7 @@ Apps named(const Apps& apps, const std::string& argument)
     return found;
 }
 
-/// The application to be removed with what else goes with it.
+/// The application to remove and its leftovers.
 struct Prepared {
     AppInfo app;
     Leftovers::Finding leftovers;
@@ -60,48 +56,44 @@ Prepared prepared(AppInfo app, const Apps& listed, const std::stop_token& stop)
 
 class UninstallCommand final : public Command {
 public:
-    [[nodiscard]] Description description() const override
+    UninstallCommand()
+        : Command({"uninstall", "Move an application and its leftovers to the Trash after a yes"})
     {
-        return {"uninstall", "Move an application and its leftovers to the Trash after a yes"};
     }
 
     void addOptions(CLI::App& app) override
     {
         app.add_option("NAME", m_argument, "Name or path of the application")->required();
-        app.add_flag("--dry-run", m_isDryRun, "Print the plan and move nothing");
-        app.add_flag("--yes", m_isConfirmed, "Move without asking");
+        m_carrier.addOptions(app);
     }
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
-        if (!m_isDryRun && !model.isWriter()) {
-            session.complain(Texts::kOtherWriter);
-            return ExitStatus::wrongCall;
-        }
+        if (!m_carrier.isReady(model))
+            return session.refuse(Texts::kOtherWriter);
         session.complain(model.notices());
         Safety::refresh();
-        const auto apps =
-            InstalledApps::inBackground(session, Texts::kLookingForApps, [](const std::stop_token& stop) {
-                return InstalledApps::list(InstalledApps::Sizes::absent, stop);
-            });
+        const auto apps = Background::resultUnlessCancelled(
+            session, [] { return std::string(Texts::kLookingForApps); },
+            [](const std::stop_token& stop) { return AppList::list(stop); });
         if (!apps)
-            return ExitStatus::interrupted;
+            return session.cancelled();
         const auto app = chosen(session, *apps);
         if (!app)
             return ExitStatus::wrongCall;
-        const auto ready = InstalledApps::inBackground(
-            session, Texts::kLookingForLeftovers,
+        const auto ready = Background::resultUnlessCancelled(
+            session, [] { return std::string(Texts::kLookingForLeftovers); },
             [&](const std::stop_token& stop) { return prepared(*app, *apps, stop); });
         if (!ready)
-            return ExitStatus::interrupted;
+            return session.cancelled();
         warn(session, *ready);
-        return carriedOut(session, model, Uninstall::plan(ready->app, ready->leftovers.entries));
+        return m_carrier.carryOut(session, model, Uninstall::plan(ready->app, ready->leftovers.entries),
+                                  wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing);
     }
 
 private:
-    /// Nothing when the argument names none or several, or one that something else has to remove; that has
-    /// been said.
+    /// Prints a complaint and returns nothing if no app or several match, or if another program manages it.
     [[nodiscard]] std::optional<AppInfo> chosen(Session& session, const Apps& apps) const
     {
         const Apps found = named(apps, m_argument);
@@ -132,23 +124,8 @@ private:
             session.complain(Texts::kOtherCopy);
     }
 
-    [[nodiscard]] ExitStatus carriedOut(Session& session, AppModel& model, const CleanPlan& plan)
-    {
-        const auto beside = wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing;
-        if (m_isDryRun) {
-            if (wantsJson())
-                Session::printDocument(JsonDocuments::dryRun(plan));
-            else
-                ItemList::toClean(plan, beside).show(session);
-            return ExitStatus::done;
-        }
-        const auto asking = m_isConfirmed ? Confirmation::Asking::unneeded : Confirmation::Asking::onTerminal;
-        return PlanCarrier{asking, beside}.carryOut(session, model, plan);
-    }
-
     std::string m_argument;
-    bool m_isDryRun = false;
-    bool m_isConfirmed = false;
+    PlanCarrier m_carrier;
 };
 
 } // namespace

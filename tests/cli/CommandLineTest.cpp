@@ -279,7 +279,7 @@ TEST(CommandLineTest, whatVanishesBeforeItMovesCountsAsFailed)
 TEST(CommandLineTest, ctrlCEndsAnyWorkWithoutAResult)
 {
     const CommandHome home;
-    for (const char* command : {"scan", "breakdown", "duplicates"}) {
+    for (const char* command : {"scan", "breakdown", "duplicates", "photos", "map"}) {
         SCOPED_TRACE(command);
         const Process::Outcome outcome = Process{{command, "--json"}}.runInterrupted();
         EXPECT_EQ(outcome.status, 130);

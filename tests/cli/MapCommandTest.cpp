@@ -84,12 +84,4 @@ TEST(MapCommandTest, whatIsNoReadableFolderIsAWrongCall)
     EXPECT_EQ(map({home.path("\xff")}).status, 0);
 }
 
-TEST(MapCommandTest, ctrlCEndsItWithoutAResult)
-{
-    const OddHome home;
-    const Process::Outcome outcome = Process{{"map", "--json"}}.runInterrupted();
-    EXPECT_EQ(outcome.status, 130);
-    EXPECT_THAT(outcome.out, IsEmpty());
-}
-
 } // namespace orlen

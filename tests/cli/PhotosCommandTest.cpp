@@ -84,12 +84,4 @@ TEST(PhotosCommandTest, withoutPicturesAllFindingsAreEmpty)
     EXPECT_THAT(photos({}).out, HasSubstr("No photos to review were found."));
 }
 
-TEST(PhotosCommandTest, ctrlCEndsItWithoutAResult)
-{
-    const PhotoHome home;
-    const Process::Outcome outcome = Process{{"photos", "--json"}}.runInterrupted();
-    EXPECT_EQ(outcome.status, 130);
-    EXPECT_THAT(outcome.out, IsEmpty());
-}
-
 } // namespace orlen

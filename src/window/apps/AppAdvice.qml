@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// How an application goes that another program keeps.
+/// How to remove an application that another program manages.
 Column {
     id: root
 

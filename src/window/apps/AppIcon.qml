@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// The icon of another program, read in the background.
+/// Another program's icon, loaded in the background.
 Image {
     id: root
 
-    /// As the models of applications give it.
+    /// Icon name as given by the application models.
     required property string icon
     property int size: 40
 

@@ -22,7 +22,6 @@ ListRow {
         x: 12
         anchors.verticalCenter: parent.verticalCenter
         icon: root.icon
-        size: 40
     }
 
     RowTexts {

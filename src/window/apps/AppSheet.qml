@@ -1,13 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// One application: what it left as a checklist, and the way to the review.
+/// One application: a checklist of its leftovers, and the button to review them.
 Sheet {
     id: root
 
     required property AppDetailModel detail
 
-    objectName: "appSheet"
     title: root.detail.name
     wantedWidth: Theme.widened(760)
     wantedHeight: root.detail.removable

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What is known of an application, and what to mind before it goes.
+/// Facts about an application, and warnings before it is removed.
 Column {
     id: root
 
@@ -22,7 +22,6 @@ Column {
         width: root.width
         title: root.detail.name
         titleLines: 2
-        closeName: "appSheetClose"
         picture: AppIcon {
             icon: root.detail.icon
             size: 56

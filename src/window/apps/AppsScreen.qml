@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Applications: a list to search in; choosing one opens its detail.
+/// Applications: a searchable list; choosing one opens its sheet.
 Item {
     id: root
 
@@ -103,14 +103,12 @@ Item {
             enabled: apps.count > 0
 
             SortButton {
-                objectName: "appsByName"
                 text: Strings.byName
                 active: ordered.order === AppOrderModel.ByName
                 onClicked: ordered.order = AppOrderModel.ByName
             }
 
             SortButton {
-                objectName: "appsBySize"
                 text: Strings.bySize
                 active: ordered.order === AppOrderModel.BySize
                 onClicked: ordered.order = AppOrderModel.BySize
@@ -150,7 +148,7 @@ Item {
             model: ordered
             Accessible.name: Screens.title(Screens.Apps)
 
-            // The sheet gives the focus back, and a click is no reason to show it then.
+            // The sheet hands the focus back, which should not be shown after a click.
             onActiveFocusChanged: {
                 if (!list.activeFocus && !chosen.open)
                     list.pointed = false;

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A finding that an answer is about; opens its detail.
+/// A finding mentioned in an answer; opens its details.
 Pressable {
     id: root
 
@@ -26,7 +26,6 @@ Pressable {
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
-            size: 24
         }
 
         SmallText {

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Where a question is typed. Enter sends it, the arrow keys bring back earlier ones.
+/// The field for questions. Enter sends; Up and Down recall earlier questions.
 InputField {
     id: root
 

@@ -75,7 +75,7 @@ Item {
         onFindingRequested: id => root.view.navigation.showFinding(id)
     }
 
-    // Messages fade away below the header.
+    // Messages fade out below the header.
     Rectangle {
         y: list.y
         width: list.width - 14
@@ -128,7 +128,7 @@ Item {
         field.forceActiveFocus();
     }
 
-    /// Typing may begin at once, unless the keyboard is at work elsewhere, in the sidebar above all.
+    /// Lets the user type right away, unless the keyboard is in use elsewhere, such as in the sidebar.
     function takeFocus() {
         if (root.enabled && !(Window.activeFocusItem && Window.activeFocusItem.activeFocusOnTab))
             field.forceActiveFocus();

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What Orlen answered: the text, the findings it is about, and who wrote it.
+/// Orlen's answer: the text, the findings it mentions, and who wrote it.
 ColumnCard {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What the user asked, at the right of the conversation.
+/// The user's question, on the right of the conversation.
 Item {
     id: root
 

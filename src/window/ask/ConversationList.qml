@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The messages of a conversation, the newest in view.
+/// The messages of a conversation, scrolled to the newest.
 ScrollList {
     id: root
 
@@ -9,7 +9,7 @@ ScrollList {
     required property int columnWidth
     signal findingRequested(id: string)
 
-    /// Not for the moment that the built-in matcher takes.
+    /// False for the moment the built-in matcher takes, so the dots don't flash.
     readonly property bool isWaiting: root.conversation.thinking && !patience.running
 
     objectName: "conversation"
@@ -69,7 +69,7 @@ ScrollList {
         }
     }
 
-    // Not margins, which the end of the view does not include.
+    // Not margins, since positionViewAtEnd leaves those out.
     header: Item {
         width: root.width
         height: 12
@@ -104,7 +104,7 @@ ScrollList {
     onHeightChanged: follow.restart()
     onWidthChanged: follow.restart()
 
-    // Once the messages have got their sizes.
+    // Waits until the messages have been laid out.
     Timer {
         id: follow
 

@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// A question that one may ask by pressing it.
+/// A suggested question; pressing it asks it.
 Pressable {
     id: root
 
-    /// Beside a conversation, where it must not draw the eye.
+    /// Less prominent, for use below a conversation.
     property bool quiet: false
 
     implicitWidth: label.implicitWidth + (root.quiet ? 26 : 36)

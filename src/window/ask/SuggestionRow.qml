@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The questions to begin with, in one quiet line that scrolls sideways.
+/// Suggested questions in a quiet line that scrolls sideways.
 Item {
     id: root
 

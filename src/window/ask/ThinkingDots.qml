@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Says that an answer is being written.
+/// Shows that an answer is being written.
 Row {
     id: root
 

@@ -1,13 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// A clean-up while it runs, and what came of it.
+/// A running clean-up, then its outcome.
 Sheet {
     id: root
 
     required property Navigation navigation
 
-    objectName: "cleaningOverlay"
     title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
     wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
@@ -52,8 +51,6 @@ Sheet {
                 height: 92
 
                 ProgressRing {
-                    id: ring
-
                     anchors.fill: parent
                     thickness: 8
                     value: cleaning.fraction
@@ -121,7 +118,7 @@ Sheet {
             id: list
 
             readonly property bool isWanted: cleaning.finished && list.count > 0
-            /// What the other texts leave of the window.
+            /// Height that the other texts leave free in the window.
             readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing
                                          - head.implicitHeight - foot.implicitHeight
             readonly property int taken: list.isWanted ? list.height + head.spacing : 0
@@ -163,7 +160,6 @@ Sheet {
             }
 
             Paragraph {
-                objectName: "notRecorded"
                 width: parent.width
                 visible: cleaning.finished && !cleaning.recorded
                 horizontalAlignment: Text.AlignHCenter
@@ -186,7 +182,6 @@ Sheet {
             }
 
             AppButton {
-                objectName: "cleaningStop"
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: !cleaning.finished
                 enabled: !cleaning.stopping

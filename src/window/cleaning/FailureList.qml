@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What a clean-up could not move: the items, under each reason with what can be done about it.
+/// What a clean-up could not move, grouped by reason with a remedy for each.
 KeyedList {
     id: root
 

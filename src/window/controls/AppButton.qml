@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// A push button. One of a view is the primary one.
+/// A push button. Each view has at most one primary button.
 Pressable {
     id: root
 
     property bool primary: false
-    /// Without a frame until the pointer is over it.
+    /// Has no background until hovered.
     property bool quiet: false
     property bool large: false
     property string symbol: ""
@@ -15,7 +15,7 @@ Pressable {
                                                : root.primary ? Theme.overAccent
                                                               : root.quiet ? Theme.accent : Theme.text
 
-    // Whole, or its edges are blurred where it stands at the right of something.
+    // Rounded up, or the edges blur when the button is right-aligned.
     implicitWidth: Math.ceil(Math.max(implicitContentWidth + leftPadding + rightPadding, 72))
     implicitHeight: root.large ? Theme.mainControlHeight : Theme.controlHeight
     leftPadding: root.quiet ? 10 : 16

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Text of the usual size. Always plain: the name of a file must never be read as markup.
+/// Text of normal size. Always plain, so that a file name is never parsed as markup.
 Text {
     textFormat: Text.PlainText
     elide: Text.ElideRight

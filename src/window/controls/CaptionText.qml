@@ -1,6 +1,6 @@
 import Orlen.App
 
-/// The smallest text: places, dates and remarks.
+/// The smallest text, for paths, dates and notes.
 BodyText {
     color: Theme.tertiary
     font.pixelSize: Theme.captionSize

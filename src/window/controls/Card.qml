@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A white area with a thin edge, on which a view puts what belongs together.
+/// A bordered area that groups related content.
 Rectangle {
     radius: Theme.cardRadius
     color: Theme.card

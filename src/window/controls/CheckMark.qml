@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// A check box; partially checked shows a dash.
+/// A check box; shows a dash when partially checked.
 T.CheckBox {
     id: root
 

@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// A quiet field that offers a few values in a list below it.
+/// A drop-down field with a few values.
 T.ComboBox {
     id: root
 
-    /// What is chosen here, for a screen reader.
+    /// What the values are for, read before the value by screen readers.
     required property string label
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -32,7 +32,6 @@ T.ComboBox {
         x: root.width - width - 10
         y: (root.height - height) / 2
         name: "chevron.down"
-        colour: Theme.secondary
         size: 10
     }
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A card with its content in one column, as high as that takes.
+/// A card with its content in a column.
 Card {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A thin line between two parts.
+/// A thin separating line.
 Rectangle {
     implicitWidth: 1
     implicitHeight: 1

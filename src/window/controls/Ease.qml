@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Lets a colour, an opacity or a place change in a short moment instead of at once.
+/// Animates changes of colour, opacity or position briefly.
 Behavior {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What a screen shows while it has nothing: a tile, a sentence, at most one button.
+/// What a screen shows when it is empty: a badge, a sentence and at most one button.
 Column {
     id: root
 

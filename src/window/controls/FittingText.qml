@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// A line in the middle of a ring, as large as has room there.
+/// A centred line sized to fit inside a ring.
 BodyText {
     id: root
 
-    /// Pixels at most, and of the line's width.
+    /// Maximum size in pixels, and as a share of the width.
     required property int most
     required property real share
 

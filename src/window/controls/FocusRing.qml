@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Shows where the keyboard is, around its parent.
+/// Marks its parent as having the keyboard focus.
 Rectangle {
     id: root
 

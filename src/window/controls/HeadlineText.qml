@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The heading of a part of a screen.
+/// The heading of a section.
 BodyText {
     id: root
 

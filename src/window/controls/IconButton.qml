@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A button that is an icon only; its text is what a screen reader says and the tool tip shows.
+/// A button with only an icon; its text is read by screen readers and shown as a tool tip.
 Pressable {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// A field to type into. Escape empties it.
+/// A text field. Escape clears it.
 T.TextField {
     id: root
 
@@ -15,7 +15,7 @@ T.TextField {
     selectionColor: Theme.accentFill
     selectedTextColor: Theme.overAccent
     selectByMouse: true
-    // Text fields have a font of the desktop's own otherwise.
+    // Text fields would otherwise use the desktop's font.
     font.family: Theme.fontFamily
     font.pixelSize: Theme.bodySize
     Accessible.name: root.placeholderText

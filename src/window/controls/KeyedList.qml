@@ -1,13 +1,13 @@
 import QtQuick
 import Orlen.App
 
-/// A list that the keyboard moves in by rows and by pages, and to its ends.
+/// A list with keyboard navigation by row, by page and to the ends.
 ScrollList {
     id: root
 
-    /// Whether the pointer, not the keyboard, was last here.
+    /// Whether the list was last used with the pointer rather than the keyboard.
     property bool pointed: false
-    /// How much of the list is seen at once.
+    /// The visible height, for paging.
     property real pageHeight: root.height
     readonly property bool showsFocus: root.activeFocus && !root.pointed
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A sentence in large type below a heading or a picture.
+/// A large sentence below a heading or picture.
 BodyText {
     wrapMode: Text.WordWrap
     color: Theme.secondary

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A row of a list, on a ground that shows the pointer and the keyboard.
+/// A list row whose background shows hover and keyboard focus.
 Item {
     id: root
 
@@ -9,7 +9,7 @@ Item {
     property bool ringed: false
     property color fill: root.hovered ? Theme.hover : "transparent"
     readonly property alias hovered: hover.hovered
-    /// Room around the ground.
+    /// Margins around the background.
     property int sideGap: 0
     property int topGap: 0
     property int bottomGap: 0

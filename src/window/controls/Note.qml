@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A quiet remark with an icon before it.
+/// A small note with an icon.
 Row {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Title of a screen and the sentence below it.
+/// A screen's title and the sentence below it.
 Column {
     id: root
 

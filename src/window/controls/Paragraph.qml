@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A sentence or more, over as many lines as it takes.
+/// Wrapped text of a sentence or more.
 SmallText {
     wrapMode: Text.WordWrap
     lineHeight: 1.2

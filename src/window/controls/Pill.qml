@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A word or two on a round ground, with an icon before them.
+/// A word or two on a rounded background, with an optional icon.
 Rectangle {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The outline of a list whose rows are not known yet.
+/// Placeholder rows for a list that is still loading.
 Column {
     id: root
 

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// What can be pressed, by the pointer, Space or Enter: a ground with a focus ring. What stands on it is its content;
-/// its text is what a screen reader says.
+/// The base of all buttons: a background with a focus ring, pressed by pointer, Space or Enter. Its text is
+/// read by screen readers, not drawn.
 T.AbstractButton {
     id: root
 
@@ -11,7 +11,7 @@ T.AbstractButton {
     property color edge: Theme.stroke
     property int edgeWidth: 0
     property real corner: Theme.controlRadius
-    /// Between the edge and the focus ring.
+    /// Gap between the edge and the focus ring.
     property int ringGap: 3
 
     focusPolicy: Qt.StrongFocus

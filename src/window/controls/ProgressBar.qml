@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// A thin bar, filled from the left or from where it is told.
+/// A thin bar, filled from the left or from `start`.
 Rectangle {
     id: root
 
-    /// 0 to 1
+    /// Both from 0 to 1.
     required property real value
     property real start: 0
     property color tone: Theme.accent

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A name with the advice about it, which goes below where it has no room behind.
+/// A title followed by its rating, which wraps below if there is no room.
 Flow {
     id: root
 
@@ -9,10 +9,10 @@ Flow {
     property int size: Theme.titleSize
     property int weight: Font.Bold
     property int role: Accessible.Heading
-    /// Lines that a long name may take.
+    /// Maximum number of lines.
     property int lines: 1
     property ratingValue rating
-    /// What the chip shows, unless it is the rating; an empty name: there is none.
+    /// What the chip shows if not the rating; no chip if the name is empty.
     property string chipName: root.rating.name
     property string chipLabel: root.rating.label
     property string chipSymbol: root.rating.symbol

@@ -5,7 +5,7 @@ Pill {
     id: root
 
     property ratingValue rating
-    /// Raw value of a rating, for the colours; empty: nothing is shown.
+    /// Raw value of the rating that sets the colours; hidden if empty.
     property string name: root.rating.name
 
     text: root.rating.label

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The name in a row, and its place and a remark below. The row itself tells them to a screen reader.
+/// A row's name, with its folder and an optional note below. The row itself names them for screen readers.
 Column {
     id: root
 

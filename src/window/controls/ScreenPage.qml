@@ -1,21 +1,22 @@
 import QtQuick
 import Orlen.App
 
-/// A screen with a header whose content scrolls when it is higher than the window.
+/// A screen with a header and content that scrolls if it is taller than the window.
 Item {
     id: root
 
     required property string title
     required property string subtitle
-    /// What the page shows below the header; as wide as the page without its margins.
+    /// The content below the header, as wide as the page without margins.
     default property alias content: column.data
-    /// What stands at the right of the header.
+    /// Shown to the right of the header.
     property alias tools: toolRow.data
     readonly property alias contentWidth: column.width
+    readonly property Item focused: Window.activeFocusItem
 
-    /// Scrolls as little as shows an item of the page, so that the keyboard is never out of sight.
+    /// Scrolls just enough to show an item, so that the keyboard focus is never out of sight.
     function show(item: Item) {
-        follower.show(item);
+        area.show(item, Theme.pageMargin);
     }
 
     ScrollArea {
@@ -55,9 +56,14 @@ Item {
         }
     }
 
-    FocusFollower {
-        id: follower
+    onFocusedChanged: {
+        if (root.isContent(root.focused))
+            root.show(root.focused);
+    }
 
-        view: area
+    function isContent(item: Item): bool {
+        while (item !== null && item !== column)
+            item = item.parent;
+        return item !== null;
     }
 }

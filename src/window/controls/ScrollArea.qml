@@ -2,12 +2,14 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// What scrolls where it is higher than its place.
+/// An area that scrolls if its content is too tall.
 Flickable {
     id: root
 
-    /// Named where the keyboard comes to the area itself to scroll it.
+    /// If set, the area takes the focus and scrolls with the arrow keys.
     property string title: ""
+    /// How long `show` takes, in milliseconds.
+    property int showDuration: 0
     readonly property alias handle: bar
 
     boundsBehavior: Flickable.StopAtBounds
@@ -23,4 +25,23 @@ Flickable {
     Keys.enabled: root.title !== ""
     Keys.onUpPressed: root.handle.decrease()
     Keys.onDownPressed: root.handle.increase()
+
+    NumberAnimation {
+        id: scrolling
+
+        target: root
+        property: "contentY"
+        duration: root.showDuration
+        easing.type: Easing.OutCubic
+    }
+
+    /// Scrolls just enough to show an item with its margin, or its top if it is taller than the area.
+    function show(item: Item, margin: real) {
+        const top = item.mapToItem(root.contentItem, 0, 0).y - margin;
+        const bottom = top + item.height + 2 * margin;
+        const last = Math.max(0, root.contentHeight - root.height);
+        const goal = Math.min(top, Math.max(root.contentY, bottom - root.height));
+        scrolling.to = Math.max(0, Math.min(last, goal));
+        scrolling.restart();
+    }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// The scroll bar of a list: thin, and wider under the pointer.
+/// A thin scroll bar that stands out under the pointer.
 T.ScrollBar {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A field that narrows a list while one types.
+/// A field that filters a list as the user types.
 InputField {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Two ways to show the same thing, one of them chosen.
+/// Switches between two ways to show the same thing.
 Rectangle {
     id: root
 
@@ -9,7 +9,7 @@ Rectangle {
     required property string firstText
     required property string secondSymbol
     required property string secondText
-    /// 0 or 1
+    /// The chosen segment: 0 or 1.
     required property int current
     signal selected(index: int)
 

@@ -2,15 +2,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// A panel over the whole window, with the focus kept inside. Escape closes it.
+/// A modal panel over the window that keeps the focus inside. Escape closes it.
 T.Popup {
     id: root
 
-    /// What a screen reader says of the panel.
+    /// The panel's name for screen readers.
     required property string title
     property int wantedWidth: 760
     property int wantedHeight: 620
-    /// False for a panel that ends by itself.
+    /// False if only the program closes the panel.
     property bool closable: true
 
     parent: T.Overlay.overlay

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The foot of a sheet: a remark, what it comes to, and the button that goes on.
+/// The bottom of a sheet: a note, a total and the main button.
 Item {
     id: root
 
@@ -9,11 +9,11 @@ Item {
     required property string figure
     required property string action
     property bool shown: true
-    /// Whether the button can be pressed.
+    /// Whether the main button is enabled.
     property bool ready: true
     property string noteSymbol: "trash"
     property color noteInk: Theme.secondary
-    /// Of a second button; none when empty.
+    /// Text of a second button; none if empty.
     property string cancel: ""
     property string figureName: ""
     property string actionName: "primaryAction"

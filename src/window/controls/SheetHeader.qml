@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The head of a sheet: badge, title, what stands below them, and the button that closes it.
+/// The top of a sheet: badge, title, lines below it and the close button.
 Item {
     id: root
 
@@ -10,13 +10,12 @@ Item {
     property string symbol: ""
     property color tone: Theme.accent
     property ratingValue rating
-    property string closeName: "closeSheet"
-    /// Stands in place of the badge.
+    /// Shown instead of the badge.
     property alias picture: slot.data
     default property alias lines: texts.data
     signal closeRequested
 
-    // Whole, as lines of text are not always: the edge below must not lie between two rows of pixels.
+    // Rounded up, since text heights can be fractional and the edge below must be on a pixel.
     implicitHeight: Math.ceil(Math.max(texts.height, slot.height)) + Theme.spaceXl + Theme.spaceL
 
     Item {
@@ -43,7 +42,7 @@ Item {
         anchors.leftMargin: slot.width > 0 ? 14 : 0
         anchors.right: close.left
         anchors.rightMargin: Theme.spaceL
-        // A title alone stands beside the button.
+        // A lone title is level with the button.
         y: Math.round(Math.max(22, 24 + (close.height - height) / 2))
         spacing: Theme.spaceXs
 
@@ -58,7 +57,7 @@ Item {
     IconButton {
         id: close
 
-        objectName: root.closeName
+        objectName: "closeSheet"
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceXl
         y: Theme.spaceXl

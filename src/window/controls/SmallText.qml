@@ -1,6 +1,6 @@
 import Orlen.App
 
-/// What stands below or beside the text that counts.
+/// Secondary text.
 BodyText {
     color: Theme.secondary
     font.pixelSize: Theme.smallSize

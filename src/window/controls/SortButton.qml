@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One way to sort a list; pressed again it turns the order round.
+/// One way to sort a list; pressing it again reverses the order.
 Pressable {
     id: root
 

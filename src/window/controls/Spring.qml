@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// Lets a place or a size change as a damped spring does.
+/// Animates changes of position or size like a damped spring.
 Behavior {
     id: root
 
-    /// Seconds, and the damping fraction.
+    /// In seconds; `damping` is the damping fraction.
     property real response: 0.55
     property real damping: 0.85
 

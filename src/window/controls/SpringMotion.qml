@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// An animation that moves as a damped spring does; at once when the desktop asks for no motion.
+/// An animation like a damped spring; instant if the desktop asks for no motion.
 NumberAnimation {
     id: root
 
-    /// Seconds, and the damping fraction.
+    /// In seconds; `damping` is the damping fraction.
     required property real response
     required property real damping
 

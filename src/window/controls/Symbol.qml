@@ -1,14 +1,14 @@
 import QtQuick
 import Orlen.App
 
-/// One icon in one colour.
+/// An icon in one colour.
 Image {
     id: root
 
     required property string name
     property color colour: Theme.secondary
     property int size: 16
-    /// Whether it grows with the texts, beside which most icons stand.
+    /// Whether it scales with the text size, as most icons do.
     property bool grows: true
 
     readonly property int side: root.grows ? Math.round(root.size * Theme.textScale) : root.size

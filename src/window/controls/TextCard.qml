@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A headline with a badge and what there is to say about it.
+/// A card with a badge, a headline and a paragraph.
 ColumnCard {
     id: root
 
@@ -9,7 +9,7 @@ ColumnCard {
     required property color tone
     required property string title
     required property string body
-    /// Whether the headline stands beside the badge.
+    /// Whether the headline is beside the badge rather than below it.
     property bool beside: false
 
     spacing: root.beside ? 10 : 8

@@ -2,17 +2,17 @@ import QtQuick
 import QtQuick.Layouts
 import Orlen.App
 
-/// Cards with a text each, side by side and as high as their neighbours.
+/// A grid of text cards, all in a row equally tall.
 GridLayout {
     id: root
 
-    /// Symbol, title and body of each.
+    /// Symbol, title and body of each card.
     required property var texts
     required property list<color> tones
-    /// Columns at most, and how narrow one may get.
+    /// Maximum number of columns; `narrowest` is their minimum width.
     property int most: 2
     property int narrowest: 320
-    /// Whether the headlines stand beside their badges.
+    /// Whether headlines are beside their badges.
     property bool beside: false
 
     columns: Math.max(1, Math.min(root.most, Math.floor((root.width + 16) / (root.narrowest * Theme.textScale + 16))))

@@ -2,7 +2,7 @@ pragma Singleton
 import QtQuick
 import Orlen.App
 
-/// Colours, type, spaces and motion of every screen. Follows the desktop.
+/// Colours, type, spacing and motion of every screen. Follows the desktop.
 QtObject {
     id: root
 
@@ -13,10 +13,10 @@ QtObject {
     readonly property color sidebar: root.dark ? "#181b20" : "#eceef2"
     readonly property color card: root.dark ? "#1d2127" : "#ffffff"
     readonly property color inset: root.dark ? "#252a32" : "#f0f2f5"
-    /// What stands out of an inset: the chosen part of a switch.
+    /// Raised above an inset, such as the chosen part of a switch.
     readonly property color raised: root.dark ? "#3b434f" : "#ffffff"
     readonly property color hover: root.dark ? "#2b313a" : "#e6e9ee"
-    /// No ground: what fades to the colour of hovering from plain transparent would pass through grey.
+    /// Transparent form of the hover colour: fading from plain transparent would pass through grey.
     readonly property color clear: root.tint(root.hover, 0)
     readonly property color stroke: root.appearance.highContrast ? root.tertiary
                                                                  : (root.dark ? "#2c323b" : "#e2e5ea")
@@ -43,9 +43,9 @@ QtObject {
     /// The knob of a switch that is off.
     readonly property color knob: root.dark ? root.secondary : "#ffffff"
 
-    /// Badges of texts that belong to no category.
+    /// For badges of texts without a category.
     readonly property color welcomeTone: "#3b7bf7"
-    /// Of the screens, as the sidebar's badges.
+    /// Each screen's colour, as in the sidebar.
     readonly property color photosTone: "#ee4c86"
     readonly property color askTone: "#9257e8"
     readonly property color diskMapTone: "#1fa3a8"
@@ -53,7 +53,7 @@ QtObject {
     readonly property color startupTone: "#e5484d"
     readonly property color historyTone: "#2ea05a"
 
-    /// Of the disk map: folders and files in six hues, what is too small to show, and the texts on them.
+    /// The disk map: folders and files in six hues, the rest, and the text on them.
     readonly property list<color> mapFolders: root.dark
             ? ["#2e5399", "#5f3e98", "#2b694c", "#90475b", "#875826", "#1d6567"]
             : ["#a3c0f5", "#cfbaf3", "#9fdbbf", "#f4b9c9", "#f6cb92", "#99d7db"]
@@ -64,7 +64,7 @@ QtObject {
     readonly property color mapInk: root.dark ? "#ffffff" : "#14171c"
     readonly property color mapQuietInk: root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
 
-    /// On photos, whatever they show: the texts, and what lies below them.
+    /// On top of photos: text and the shade behind it.
     readonly property color overPhoto: "#ffffff"
     readonly property color photoShade: "#99000000"
     readonly property color photoEdge: root.dark ? "transparent" : "#14000000"
@@ -74,7 +74,7 @@ QtObject {
     readonly property list<color> safetyTones: ["#3b7bf7", "#22ae90", "#5b5fe0", "#f08a24", "#e5484d", "#1fa3a8"]
 
     readonly property string fontFamily: root.appearance.fontFamily
-    /// Text sizes in pixels, grown with the desktop's own.
+    /// Text sizes in pixels, scaled with the desktop's.
     readonly property real textScale: root.appearance.textScale
     readonly property int heroSize: root.grown(34)
     readonly property int titleSize: root.grown(22)
@@ -83,7 +83,7 @@ QtObject {
     readonly property int smallSize: root.grown(13)
     readonly property int captionSize: root.grown(12)
 
-    /// Spaces between what stands side by side or below each other, and around what is in a card or on a page.
+    /// Spacing between items, and margins of cards and pages.
     readonly property int spaceXs: 4
     readonly property int spaceS: 8
     readonly property int spaceM: 12
@@ -91,7 +91,7 @@ QtObject {
     readonly property int spaceXl: 24
     readonly property int cardMargin: 20
     readonly property int pageMargin: 32
-    /// What a page is wide at most; beyond it stands in the middle.
+    /// Maximum width of a page, which is centred beyond that.
     readonly property int contentWidth: root.widened(1320)
     readonly property int chipRadius: 5
     readonly property int controlRadius: 8
@@ -101,19 +101,19 @@ QtObject {
     readonly property int mainControlHeight: root.widened(42)
     readonly property int sidebarWidth: root.widened(232)
 
-    /// Milliseconds; 0 when the desktop asks for no motion.
+    /// In milliseconds; 0 if the desktop asks for no motion.
     readonly property bool moves: !root.appearance.reducedMotion
     readonly property int hoverDuration: root.moves ? 120 : 0
     readonly property int screenDuration: root.moves ? 160 : 0
     readonly property int sheetInDuration: root.moves ? 140 : 0
     readonly property int sheetOutDuration: root.moves ? 120 : 0
 
-    /// A length that grows with the texts in it.
+    /// A length that scales with the text.
     function grown(pixels: real): int {
         return Math.round(pixels * root.textScale);
     }
 
-    /// A length that grows less than the texts, beside which there is room.
+    /// A length that scales less than the text, where there is room to spare.
     function widened(pixels: real): int {
         return Math.round(pixels * Math.max(1, root.textScale * 0.9));
     }
@@ -122,12 +122,12 @@ QtObject {
         return Qt.rgba(colour.r, colour.g, colour.b, opacity);
     }
 
-    /// Between the edge of a screen of that width and its content.
+    /// Side margin of a screen of this width.
     function sideMargin(width: real): real {
         return Math.max(root.pageMargin, Math.round((width - root.contentWidth) / 2));
     }
 
-    /// Colours of a rating, by its raw value.
+    /// A rating's colours, by its raw value.
     function ratingText(rating: string): color {
         return rating === "safe" ? root.safeText : rating === "keep" ? root.keepText : root.reviewText;
     }
@@ -136,7 +136,7 @@ QtObject {
         return rating === "safe" ? root.safeBase : rating === "keep" ? root.keepBase : root.reviewBase;
     }
 
-    /// A colour as the image providers take it.
+    /// A colour in the form image providers expect.
     function hex(colour: color): string {
         return colour.toString().slice(-6);
     }

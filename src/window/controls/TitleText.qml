@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The heading of a screen or a sheet.
+/// The title of a screen or sheet.
 BodyText {
     id: root
 

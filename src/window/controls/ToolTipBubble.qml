@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// A line of help beside what the pointer rests on.
+/// A tool tip.
 T.ToolTip {
     id: root
 

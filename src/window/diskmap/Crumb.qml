@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One folder of a breadcrumb, and the arrow before it.
+/// One folder of the breadcrumb, with the arrow before it.
 Pressable {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Orlen.App
 
-/// The way to the folder shown, and how it is shown.
+/// The path to the shown folder, and the switch between map and list.
 Item {
     id: root
 
@@ -41,7 +41,6 @@ Item {
         spacing: Theme.spaceS
 
         IconButton {
-            objectName: "diskMapReload"
             framed: true
             symbol: "arrow.clockwise"
             text: Strings.measureAgain

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One item of the disk map as a row of its list form.
+/// One item of the disk map as a list row.
 ListRow {
     id: root
 
@@ -30,7 +30,6 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary
-        size: 16
     }
 
     BodyText {

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Disk Map: what takes the space of one folder, as a map or as a list.
+/// Disk Map: what takes up space in a folder, as a map or a list.
 FocusScope {
     id: root
 
@@ -38,15 +38,13 @@ FocusScope {
     }
 
     Item {
-        id: frame
-
         anchors.fill: parent
         anchors.leftMargin: Theme.pageMargin
         anchors.rightMargin: Theme.pageMargin
         anchors.topMargin: bar.y + bar.height + 12
         anchors.bottomMargin: status.height + 28
 
-        // What the keys do in both forms.
+        // Keys shared by the map and the list.
         Keys.onPressed: event => {
             event.accepted = true;
             switch (event.key) {

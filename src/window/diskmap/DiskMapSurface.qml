@@ -2,16 +2,16 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// The tiles of the disk map, and what pointer, fingers and keys do to them.
+/// The tiles of the disk map, with their pointer, touch and keyboard input.
 T.Control {
     id: root
 
     required property DiskMapView map
 
-    /// The map is 12 points narrower and lower than its view, and its last tiles end with a gap of 2.
+    /// The map is 12 points smaller than its view each way, and its last tiles end in a gap of 2.
     readonly property int mapWidth: Math.max(0, root.width) + 14
     readonly property int mapHeight: Math.max(0, root.height) + 14
-    /// Whether the keyboard is at work here.
+    /// Whether the map is used with the keyboard.
     readonly property bool showsRing: root.activeFocus && (root.visualFocus || root.isKeyed)
     property bool isKeyed: false
 
@@ -70,7 +70,7 @@ T.Control {
         }
     }
 
-    // The left button acts when it goes down; clicks belong to lists and buttons.
+    // The left button acts on press, unlike in lists and buttons.
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One item of the disk map. The map itself handles the pointer.
+/// One item of the disk map. The map handles the pointer.
 Rectangle {
     id: root
 
@@ -12,7 +12,7 @@ Rectangle {
     required property rect area
     required property string spoken
     required property int index
-    /// Whether a change of place is shown as a movement.
+    /// Whether changes of position are animated.
     property bool moving: false
     property bool isHovered: false
     property bool isCurrent: false

@@ -1,25 +1,25 @@
 import QtQuick
 import Orlen.App
 
-/// A list of files that the keyboard moves in: arrows and pages, Space looks, Enter checks. Its rows show their
-/// focus while `showsFocus`.
+/// A list of files with keyboard control: arrows and page keys move, Space previews, Enter checks. Rows show
+/// the focus while `showsFocus` is set.
 KeyedList {
     id: root
 
     property int rowHeight: 54
-    /// Whether the focus comes by the pointer just now.
+    /// Whether the pointer is giving the list the focus right now.
     property bool byPointer: false
     signal previewRequested(row: int)
     signal toggleRequested(row: int)
-    /// Ctrl+A, and with Shift.
+    /// Ctrl+A; with Shift, `noneRequested`.
     signal allRequested
     signal noneRequested
-    /// A key that only some lists know: Left and Right.
+    /// Left and Right, for lists that fold.
     signal foldRequested(row: int, fold: bool)
 
     reuseItems: true
     activeFocusOnTab: true
-    // The list does not scroll to a row that is pressed.
+    // The list must not scroll to a pressed row.
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     currentIndex: -1
@@ -53,7 +53,7 @@ KeyedList {
             event.accepted = false;
     }
 
-    /// A press of the pointer on a row, or on none with -1: the keyboard goes on from there.
+    /// Takes the focus on a pointer press, on a row or on none (-1); the keyboard continues from there.
     function takeFocus(row: int) {
         root.byPointer = true;
         root.currentIndex = row;

@@ -1,8 +1,8 @@
 import QtQuick
 import Orlen.App
 
-/// One file or folder of a list: check box, picture, name and place, note, advice, size and date, and what can
-/// be done with it while the pointer or the keyboard is on it.
+/// One file or folder: check box, thumbnail, name, folder, note, rating, size and date, with actions shown
+/// while it is hovered or current.
 ListRow {
     id: root
 
@@ -17,7 +17,7 @@ ListRow {
     property int checkState: Qt.Unchecked
     property bool checkable: true
     property bool isCurrent: false
-    /// Room at the left for rows that belong to a heading.
+    /// Indent for rows below a heading.
     property int indent: 0
     signal toggled
     signal pressed

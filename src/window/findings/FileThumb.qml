@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// The picture of a file where there is one, else the icon of its kind.
+/// A file's thumbnail, or an icon for its type if it has none.
 Item {
     id: root
 
     required property string symbol
-    /// Source of the picture; may be empty.
+    /// Image source; may be empty.
     required property string thumbnail
     property int size: 36
 

@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// Over the entries of a finding: how much is selected, the filter and the order.
+/// Above a finding's entries: how much is selected, the filter and the sort order.
 Rectangle {
     id: root
 
     required property EntryListModel entries
-    /// On two lines where one has no room.
+    /// Whether one line is too narrow, so that there are two.
     readonly property bool isTall: all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
 
     function clearFilter() {

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The entries of one finding, to choose among.
+/// The entries of one finding, to choose from.
 Sheet {
     id: root
 
@@ -17,7 +17,6 @@ Sheet {
         look.show(contents.pathAt(row), contents.sizeAt(row));
     }
 
-    objectName: "findingSheet"
     title: contents.header.title
     wantedWidth: Theme.widened(820)
     wantedHeight: Theme.widened(680)
@@ -26,7 +25,7 @@ Sheet {
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: list.takeFocus(-1)
     onAboutToHide: if (root.isWanted) root.navigation.closeSheet()
-    // Only now, so that the sheet does not empty itself while it fades.
+    // Only now, so that the sheet does not go empty while it fades out.
     onClosed: if (!root.isWanted) contents.findingId = ""
 
     EntryListModel {

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One past clean-up; its items unfold below it.
+/// One past clean-up, which unfolds to show its items.
 Card {
     id: root
 

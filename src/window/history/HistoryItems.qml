@@ -11,7 +11,7 @@ Item {
     property bool isNarrow: false
 
     readonly property int rowHeight: Theme.grown(root.isNarrow ? 64 : 48)
-    /// The half row tells that there is more.
+    /// The half row hints that there is more.
     readonly property real rowsShown: Math.min(items.count, 6.5)
 
     implicitHeight: Math.round(root.rowsShown * root.rowHeight) + 17
@@ -32,10 +32,7 @@ Item {
 
         objectName: "recordItems"
         anchors.fill: parent
-        anchors.topMargin: Theme.spaceS
-        anchors.bottomMargin: Theme.spaceS
-        anchors.leftMargin: Theme.spaceS
-        anchors.rightMargin: Theme.spaceS
+        anchors.margins: Theme.spaceS
         reuseItems: true
         activeFocusOnTab: true
         highlightMoveDuration: 0

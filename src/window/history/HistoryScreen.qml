@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Window
 import Orlen.App
 
-/// History: every clean-up, and the way back from it.
+/// History: every clean-up, and how to undo it.
 Item {
     id: root
 
     required property MainView view
-    /// Of the clean-up whose items are shown; at most one at a time.
+    /// The clean-up whose items are shown; at most one at a time.
     property string openRecord: ""
     readonly property real sideMargin: Theme.sideMargin(root.width)
 
@@ -63,7 +63,7 @@ Item {
             onPressed: list.currentIndex = card.index
             onToggled: root.openRecord = card.open ? "" : card.recordId
             onRestoreRequested: fromKeyboard => {
-                // The button goes out of use, and must not take the keyboard with it.
+                // The button gets disabled and must not take the focus with it.
                 if (fromKeyboard)
                     card.forceActiveFocus();
                 history.restore(card.index);

@@ -1,13 +1,13 @@
 import QtQuick
 import Orlen.App
 
-/// What Full Disk Access is for, how to give it, and the way on with or without it.
+/// Explains Full Disk Access and how to grant it; the user can go on without it.
 Card {
     id: root
 
     required property DiskAccessModel access
     signal finished
-    /// The keyboard has come to the way on.
+    /// Emitted when the keyboard reaches the continue button.
     signal reached
 
     property bool isCommandShown: false
@@ -101,7 +101,6 @@ Card {
         AppButton {
             id: settings
 
-            objectName: "openPrivacySettings"
             width: go.width
             visible: !root.access.granted && root.access.command !== ""
             text: Strings.openPrivacySettings

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One finding: what it is, how much it holds, how it is rated, how much of it is selected.
+/// One finding: its title, size, rating and how much of it is selected.
 Pressable {
     id: root
 
@@ -75,7 +75,7 @@ Pressable {
             anchors.rightMargin: Theme.spaceL
             anchors.baseline: figure.baseline
             horizontalAlignment: Text.AlignRight
-            // The word goes where it would be cut off; the colour and the sign say it too.
+            // Drops the word if it does not fit; the colour and the tick say the same.
             text: root.selected === "" || wording.advanceWidth < width ? root.amount : "✓ " + root.selected
             color: root.selected === "" ? Theme.tertiary : Theme.accent
             font.weight: root.selected === "" ? Font.Normal : Font.DemiBold

@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// The findings as a grid of cards, one stop of the Tab key; the arrow keys move between the cards.
+/// The findings as a grid of cards. Tab stops once; the arrow keys move between cards.
 Grid {
     id: root
 
     signal chosen(id: string)
-    /// The keyboard has come to a card.
+    /// Emitted when the keyboard reaches a card.
     signal reached(card: Item)
 
     readonly property real cardWidth: (root.width - (root.columns - 1) * root.spacing) / root.columns

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The free space of the volume, for the middle of the storage ring.
+/// The volume's free space, for the middle of the storage ring.
 Column {
     id: root
 

@@ -8,7 +8,7 @@ Item {
     required property HomeModel home
     required property StorageModel storage
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property alias mainButton: start
 
@@ -30,7 +30,6 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 y: Math.max(24, Math.round((page.height - footer.height - 48 - height) / 2))
                 width: page.width - 2 * Theme.pageMargin
-                spacing: 0
 
                 Item {
                     id: slot
@@ -74,13 +73,9 @@ Item {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: Math.min(parent.width, (parent.width < 560 * Theme.textScale ? 360 : 560) * Theme.textScale)
                     horizontalAlignment: Text.AlignHCenter
+                    bottomPadding: 20
                     text: Strings.homeLead
                     wrapMode: Text.WordWrap
-                }
-
-                Item {
-                    width: 1
-                    height: 20
                 }
 
                 AppButton {

@@ -9,7 +9,7 @@ Item {
     required property StorageModel storage
     signal findingChosen(id: string)
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: header.ringSlot
     readonly property alias mainButton: header.mainButton
 
@@ -18,6 +18,7 @@ Item {
 
         anchors.fill: parent
         contentHeight: page.height + 2 * Theme.pageMargin
+        showDuration: Theme.screenDuration
 
         Column {
             id: page
@@ -36,13 +37,11 @@ Item {
             }
 
             FindingGrid {
-                id: grid
-
                 objectName: "findings"
                 width: parent.width
                 visible: root.home.hasFindings
                 onChosen: id => root.findingChosen(id)
-                onReached: card => flickable.show(card)
+                onReached: card => flickable.show(card, Theme.spaceL)
             }
 
             EmptyState {
@@ -77,25 +76,6 @@ Item {
                     text: Strings.resultsFooter
                 }
             }
-        }
-
-        NumberAnimation {
-            id: scrolling
-
-            target: flickable
-            property: "contentY"
-            duration: Theme.screenDuration
-            easing.type: Easing.OutCubic
-        }
-
-        /// Scrolls as far as needed for the item to stand free of the edges.
-        function show(item: Item) {
-            const top = item.mapToItem(flickable.contentItem, 0, 0).y - 16;
-            const bottom = top + item.height + 32;
-            const last = Math.max(0, flickable.contentHeight - flickable.height);
-            const goal = top < flickable.contentY ? top : Math.max(flickable.contentY, bottom - flickable.height);
-            scrolling.to = Math.max(0, Math.min(last, goal));
-            scrolling.restart();
         }
     }
 }

@@ -8,7 +8,7 @@ Item {
     required property HomeModel home
     required property StorageModel storage
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property Item mainButton: review.enabled ? review : again
     readonly property bool narrow: root.width < 640 * Theme.textScale
@@ -35,7 +35,7 @@ Item {
         anchors.leftMargin: root.narrow ? 20 : 32
         anchors.right: parent.right
         y: Math.max(0, Math.round((slot.height - height) / 2))
-        spacing: 0
+        bottomPadding: root.narrow ? 0 : legend.height + 16
 
         TitleText {
             objectName: "heroSentence"
@@ -49,13 +49,9 @@ Item {
         LeadText {
             width: parent.width
             topPadding: Theme.spaceXs
+            bottomPadding: Theme.spaceL
             text: Strings.reviewInTotal.arg(root.home.totalText)
             font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
-        }
-
-        Item {
-            width: 1
-            height: 16
         }
 
         Flow {
@@ -75,7 +71,6 @@ Item {
             AppButton {
                 id: again
 
-                objectName: "scanAgain"
                 symbol: "arrow.clockwise"
                 text: Strings.scanAgain
                 onClicked: AppModel.results.startScan()
@@ -88,11 +83,6 @@ Item {
                 visible: root.home.hasFindings && !root.narrow
                 text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
             }
-        }
-
-        Item {
-            width: 1
-            height: root.narrow ? 0 : legend.height + 16
         }
     }
 

@@ -1,11 +1,11 @@
 import QtQuick
 import Orlen.App
 
-/// Smart Scan during a scan: its steps, what it is looking at, and the way to end it.
+/// Smart Scan during a scan: its steps, the current file and the cancel button.
 Item {
     id: root
 
-    /// Where the storage ring belongs.
+    /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property alias mainButton: cancel
 
@@ -120,7 +120,6 @@ Item {
                 }
 
                 CaptionText {
-                    objectName: "currentPath"
                     width: parent.width
                     text: progress.cancelling ? Strings.nothingChanged : progress.current
                     elide: Text.ElideMiddle

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Smart Scan: before, during and after a scan. One storage ring goes with the phase from place to place.
+/// Smart Scan: before, during and after a scan. A single storage ring moves from phase to phase.
 FocusScope {
     id: root
 
@@ -51,61 +51,47 @@ FocusScope {
     StorageGauge {
         id: ring
 
-        objectName: "storageRing"
         storage: root.view.storage
         breathing: root.state === "scanning" || !root.view.storage.ready
     }
 
-    // The linter of Qt 6.4 does not know that a parent change takes bindings.
+    // Qt 6.4's linter does not know that ParentChange accepts bindings.
     // qmllint disable
+    component Phase: State {
+        id: phase
+
+        required property Item screen
+        required property Item slot
+
+        PropertyChanges {
+            target: phase.screen
+            opacity: 1
+        }
+        ParentChange {
+            target: ring
+            parent: phase.slot
+            x: 0
+            y: 0
+            width: phase.slot.width
+            height: phase.slot.height
+        }
+    }
+
     states: [
-        State {
+        Phase {
             name: "idle"
-
-            PropertyChanges {
-                target: idle
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: idle.ringSlot
-                x: 0
-                y: 0
-                width: idle.ringSlot.width
-                height: idle.ringSlot.height
-            }
+            screen: idle
+            slot: idle.ringSlot
         },
-        State {
+        Phase {
             name: "scanning"
-
-            PropertyChanges {
-                target: scanning
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: scanning.ringSlot
-                x: 0
-                y: 0
-                width: scanning.ringSlot.width
-                height: scanning.ringSlot.height
-            }
+            screen: scanning
+            slot: scanning.ringSlot
         },
-        State {
+        Phase {
             name: "results"
-
-            PropertyChanges {
-                target: results
-                opacity: 1
-            }
-            ParentChange {
-                target: ring
-                parent: results.ringSlot
-                x: 0
-                y: 0
-                width: results.ringSlot.width
-                height: results.ringSlot.height
-            }
+            screen: results
+            slot: results.ringSlot
         }
     ]
     // qmllint enable
@@ -134,7 +120,7 @@ FocusScope {
         }
     ]
 
-    // The button that was pressed is gone: the keyboard goes on with the one that counts now.
+    // The pressed button is gone, so the new phase's main button takes the focus.
     onStateChanged: {
         const button = [idle.mainButton, scanning.mainButton, results.mainButton][root.home.phase];
         button.focus = true;

@@ -1,13 +1,13 @@
 import QtQuick
 import Orlen.App
 
-/// The way from one phase of a scan to the next: what changes place glides there above the rest, which fades.
+/// From one phase of a scan to the next: what moves glides above the rest, which fades.
 Transition {
     id: root
 
-    /// Where the way leads over: the item around all places.
+    /// The item containing both ends of the move.
     required property Item over
-    /// What comes into sight; the rest is gone before it is there.
+    /// The item that appears; the others have faded out by then.
     required property Item arriving
     required property real response
     required property real damping

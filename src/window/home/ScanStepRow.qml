@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One step of a scan: to come, at work, or done after a time.
+/// One step of a scan: pending, running, or done with its duration.
 Item {
     id: root
 
@@ -46,8 +46,6 @@ Item {
         }
 
         Rectangle {
-            id: dot
-
             anchors.centerIn: parent
             visible: root.isRunning
             width: 8

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The storage ring in motion: it turns into a new breakdown as a spring does, and breathes while work is done.
+/// The animated storage ring: springs to a new breakdown and pulses during work.
 StorageRing {
     id: root
 
@@ -26,8 +26,6 @@ StorageRing {
     }
 
     SequentialAnimation {
-        id: breath
-
         running: root.breathing && Theme.moves && root.visible
         loops: Animation.Infinite
         onStopped: root.opacity = 1

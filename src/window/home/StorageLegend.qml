@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// What the colours of the storage ring mean, in columns of one width.
+/// The legend of the storage ring, in columns of equal width.
 Grid {
     id: root
 
     required property StorageModel storage
-    /// Room for the legend; it takes as many columns as fit.
+    /// Available width, which sets the number of columns.
     required property real room
 
     readonly property real narrowest: 140 * Theme.textScale

@@ -1,12 +1,12 @@
 import QtQuick
 import Orlen.App
 
-/// How many folders a scan could not read, and which on request.
+/// How many folders a scan could not read, and which ones on request.
 Column {
     id: root
 
     required property string text
-    /// One on each line.
+    /// One per line.
     required property string folders
 
     property bool open: false
@@ -20,7 +20,6 @@ Column {
 
     AppButton {
         x: 12
-        objectName: "showUnreadable"
         quiet: true
         text: root.open ? Strings.hideFolders : Strings.showFolders
         onClicked: root.open = !root.open

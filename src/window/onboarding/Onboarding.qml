@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What a new user sees once: what the program is, what it promises, what it may see.
+/// Shown once to a new user: what the program is, what it promises and what it may access.
 Item {
     id: root
 
@@ -29,7 +29,6 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 y: Math.max(28, Math.round((page.height - height) / 2))
                 width: Math.min(page.width - 2 * Theme.pageMargin, Math.round(940 * Math.min(1.2, Theme.textScale)))
-                spacing: 0
 
                 Badge {
                     anchors.horizontalCenter: parent.horizontalCenter

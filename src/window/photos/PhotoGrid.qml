@@ -2,19 +2,19 @@ import QtQuick
 import QtQuick.Window
 import Orlen.App
 
-/// Photos in rows and columns. The arrows move, Enter selects, Space looks into a photo, Ctrl+A takes all.
+/// A grid of photos. Arrows move, Enter selects, Space previews, Ctrl+A selects all.
 GridView {
     id: root
 
     required property PhotoTilesModel tiles
-    /// Pixels that a photo is wide, about.
+    /// Approximate width of a photo in pixels.
     required property int tileSize
-    /// What the photos lie on.
+    /// Colour behind the photos.
     property color ground: Theme.card
 
     readonly property real wantedWidth: root.tileSize * Math.min(1.25, Theme.textScale)
     readonly property int columns: Math.max(3, Math.floor(root.width / root.wantedWidth))
-    /// The ring is for the keyboard alone.
+    /// Whether the keyboard was used last: only then is there a focus ring.
     property bool isKeyed: false
 
     signal allRequested

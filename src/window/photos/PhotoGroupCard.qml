@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One photo clean-up: what it is, how much, and its first photos.
+/// One photo clean-up: its title, size and first photos.
 Card {
     id: root
 
@@ -24,7 +24,7 @@ Card {
 
     height: head.height + strip.height + 3 * root.padding - 4
 
-    // The keyboard goes on where it was when the whole group was opened.
+    // Restores the focus after the whole group was open.
     onVisibleChanged: {
         if (!root.visible || !root.wasOpened)
             return;
@@ -99,7 +99,6 @@ Card {
     PhotoGrid {
         id: strip
 
-        objectName: "photoStrip"
         x: root.padding - 4
         anchors.top: head.bottom
         anchors.topMargin: root.padding - 4

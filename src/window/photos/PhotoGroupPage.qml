@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// All photos of one clean-up, while it is open.
+/// All photos of one clean-up; visible while it is open.
 Item {
     id: root
 
@@ -52,7 +52,6 @@ Item {
             IconButton {
                 id: back
 
-                objectName: "backToPhotos"
                 framed: true
                 y: (badge.height - height) / 2
                 symbol: "chevron.left"
@@ -100,7 +99,6 @@ Item {
             CheckMark {
                 id: mark
 
-                objectName: "selectAllPhotos"
                 anchors.verticalCenter: parent.verticalCenter
                 checkState: root.checkState
                 nextCheckState: () => root.checkState
@@ -139,7 +137,7 @@ Item {
         onPreviewRequested: row => root.previewRequested(grid, row)
     }
 
-    // Beside the grid, in the page's margin.
+    // Next to the grid, in the page's margin.
     ScrollHandle {
         id: handle
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What is selected of all photos, and the way on.
+/// How many photos are selected, and the button to review them.
 Rectangle {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One photo with its check mark. Photos of one set stand on one ground, the kept one first.
+/// One photo with its check box. Photos of a set share a background, the kept one first.
 Item {
     id: root
 
@@ -15,7 +15,7 @@ Item {
     required property bool joinsNext
 
     property bool ringed: false
-    /// What the tile lies on.
+    /// Colour behind the tile.
     property color ground: Theme.card
 
     readonly property int gap: 8
@@ -86,7 +86,7 @@ Item {
             Ease on opacity {}
         }
 
-        // Rounds the picture's corners by what surrounds it: a mask would need a shader.
+        // Rounds the picture's corners by painting over them: a mask would need a shader.
         Rectangle {
             anchors.fill: parent
             anchors.margins: -4
@@ -130,7 +130,6 @@ Item {
 
         FocusRing {
             shown: root.ringed
-            gap: 3
         }
     }
 

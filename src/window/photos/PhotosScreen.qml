@@ -11,7 +11,7 @@ Item {
     readonly property bool hasGroups: groups.stage === PhotoGroupsModel.Groups
     readonly property bool isWhole: groups.shownGroup !== ""
 
-    /// Whose photo the preview shows.
+    /// The grid whose photo is previewed.
     property PhotoGrid previewed: null
 
     function preview(grid: PhotoGrid, row: int) {

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The forecast: its sentence, and free space as a line that goes on into the future.
+/// The forecast in words, and free space as a line into the future.
 ColumnCard {
     id: root
 
@@ -28,7 +28,6 @@ ColumnCard {
         TitleText {
             id: headline
 
-            objectName: "forecastHeadline"
             x: sign.visible ? sign.width + 10 : 0
             width: parent.width - x
             text: root.prediction.headline
@@ -39,18 +38,13 @@ ColumnCard {
 
     Paragraph {
         width: parent.width
+        bottomPadding: 14 + root.spacing
         text: root.prediction.detail
-    }
-
-    Item {
-        width: 1
-        height: 14
     }
 
     ForecastChart {
         id: chart
 
-        objectName: "forecastChart"
         width: parent.width
         height: root.prediction.enoughData ? 164 : 96
         model: root.prediction
@@ -74,7 +68,7 @@ ColumnCard {
             Accessible.ignored: true
         }
 
-        // On the line that it names, where the curve does not come before it means it.
+        // On the line it names, where the curve only comes if the disk fills up.
         CaptionText {
             anchors.right: parent.right
             anchors.bottom: parent.bottom

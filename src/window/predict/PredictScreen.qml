@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Predict: when the disk will be full, and what makes it so.
+/// Predict: when the disk will be full, and what is filling it.
 ScreenPage {
     id: root
 
@@ -32,7 +32,6 @@ ScreenPage {
         Column {
             id: rows
 
-            objectName: "growthRows"
             y: 6
             width: parent.width
             Accessible.role: Accessible.List

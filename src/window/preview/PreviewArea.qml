@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What a preview shows: the picture, the text, the names, or an icon with a sentence.
+/// A preview's content: a picture, text, a folder's names, or an icon with a sentence.
 Rectangle {
     id: root
 
@@ -161,7 +161,7 @@ Rectangle {
         }
     }
 
-    /// Scrolls by about a page; by -1 or 1.
+    /// Scrolls by about a page, up (-1) or down (1).
     function turnPage(by: int) {
         const handle = names.visible ? names.handle : page.handle;
         handle.stepSize = handle.size * 0.9;

@@ -1,15 +1,15 @@
 import QtQuick
 import Orlen.App
 
-/// Looks into one file without another program. Space and Escape close it; the arrows go on to the next one,
-/// the page keys scroll.
+/// Previews a file without another program. Space and Escape close it, arrows move to the next file and page
+/// keys scroll.
 Sheet {
     id: root
 
-    /// Up or down in the list that opened it: -1 or 1.
+    /// Asks for the previous (-1) or next (1) file of the list that opened it.
     signal stepRequested(by: int)
 
-    /// Of a path's number; the size is of a folder with all that is in it.
+    /// Shows the file with this path number. `size` is shown for folders, and counts everything inside.
     function show(path: string, size: string) {
         model.path = path;
         root.size = size;
@@ -18,7 +18,6 @@ Sheet {
 
     property string size: ""
 
-    objectName: "previewSheet"
     title: model.name
     wantedWidth: 900
     wantedHeight: 760

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The heading of a plan's section: all or none of its entries, what is checked, and hide or show them.
+/// The heading of a plan's section: checks all or none of its entries, shows how much is checked, and folds them.
 ListRow {
     id: root
 

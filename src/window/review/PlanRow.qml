@@ -16,7 +16,7 @@ Item {
     required property string symbol
     required property color tone
     required property string thumbnail
-    // Named `state` by the model, which every item has already.
+    // Not `state`, which every item already has.
     required property int mark
     required property bool folded
     property bool isCurrent: false

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The confirmation of a plan: everything that would move, to look through once more.
+/// Confirms a plan: everything that would move, for a last look.
 Sheet {
     id: root
 
@@ -17,7 +17,7 @@ Sheet {
         look.show(path, plan.sizeAt(row));
     }
 
-    /// Goes on to the next file, over the headings.
+    /// Moves to the next file, skipping headings.
     function step(by: int) {
         let row = list.currentIndex + by;
         while (row >= 0 && row < list.count && plan.pathAt(row) === "")
@@ -25,7 +25,6 @@ Sheet {
         root.preview(row);
     }
 
-    objectName: "reviewSheet"
     title: Strings.reviewTitle
     wantedWidth: Theme.widened(820)
     wantedHeight: Theme.widened(680)

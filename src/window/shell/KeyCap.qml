@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A key of the keyboard.
+/// A key, drawn as on a keyboard.
 Rectangle {
     id: root
 

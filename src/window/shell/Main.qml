@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import QtQuick.Window
 import Orlen.App
 
-/// The main window: onboarding, or the sidebar with the selected screen; sheets and the clean-up overlay over it.
+/// The main window: onboarding or the main view, with the sheets and the clean-up overlay on top.
 T.ApplicationWindow {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The keys that work everywhere in the main window.
+/// Keyboard shortcuts that work everywhere in the main window.
 Item {
     id: root
 

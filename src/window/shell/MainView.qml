@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The sidebar and the selected screen. A screen is made when it is first shown and then kept.
+/// The sidebar and the selected screen. A screen is created when first shown, then kept.
 Item {
     id: root
 
@@ -21,8 +21,6 @@ Item {
     }
 
     Item {
-        id: detail
-
         anchors.fill: parent
         anchors.leftMargin: sidebar.width
 

@@ -2,15 +2,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Orlen.App
 
-/// The one place of the window, at its bottom and above all sheets, where sentences appear in passing.
+/// Shows passing notices at the bottom of the window, above all sheets.
 T.Popup {
     id: root
 
     required property Notices notices
-    /// What stands beside the screen: the bar keeps to the screen's middle.
+    /// Width of the sidebar, since the bar is centred on the screen beside it.
     required property real besideScreen
 
-    /// Stays while the bar fades.
+    /// Kept while the bar fades out.
     property string shownText: ""
     property bool shownPath: false
     readonly property string text: root.notices.text
@@ -24,7 +24,6 @@ T.Popup {
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
     leftPadding: Theme.spaceL
-    modal: false
     visible: root.text !== ""
     closePolicy: T.Popup.CloseOnEscape
     onTextChanged: {
@@ -80,8 +79,6 @@ T.Popup {
 
             anchors.verticalCenter: parent.verticalCenter
             name: "info.circle"
-            colour: Theme.secondary
-            size: 16
         }
 
         BodyText {

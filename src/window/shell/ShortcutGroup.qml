@@ -1,15 +1,13 @@
 import QtQuick
 import Orlen.App
 
-/// Some keys and what they do, below a heading.
+/// A group of keyboard shortcuts under a heading.
 Column {
     id: root
 
     required property string title
-    /// What each does, and its keys: those of one stroke, then perhaps those of another.
+    /// For each: `text`, what it does, and `keys`, a list of keys for each alternative.
     required property var shortcuts
-
-    spacing: 0
 
     CaptionText {
         width: parent.width

@@ -1,11 +1,10 @@
 import QtQuick
 import Orlen.App
 
-/// The keys of the program.
+/// Lists the keyboard shortcuts.
 Sheet {
     id: root
 
-    objectName: "shortcutsSheet"
     title: Strings.shortcutsTitle
     wantedWidth: Theme.grown(560)
     wantedHeight: Theme.grown(660)
@@ -18,7 +17,6 @@ Sheet {
 
             width: parent.width
             title: root.title
-            closeName: "closeShortcuts"
             onCloseRequested: root.close()
         }
 

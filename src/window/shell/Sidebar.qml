@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// The list of screens, and the free space below it.
+/// The list of screens, with the free space below.
 Rectangle {
     id: root
 
@@ -10,7 +10,7 @@ Rectangle {
     required property real usedFraction
     signal selected(screen: int)
 
-    /// Where the badges of the rows begin.
+    /// Left edge of the rows' badges.
     readonly property int inset: Theme.spaceM + Theme.spaceS
 
     color: Theme.sidebar

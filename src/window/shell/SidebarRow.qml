@@ -28,7 +28,6 @@ T.ItemDelegate {
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
-            size: 24
         }
 
         BodyText {

@@ -1,7 +1,7 @@
 pragma Singleton
 import QtQuick
 
-/// Every sentence of the window that is not made by a model, by the screen that shows it.
+/// Every sentence of the window that no model provides, grouped by screen.
 QtObject {
     // Common
     readonly property string appName: "Orlen"
@@ -9,7 +9,7 @@ QtObject {
     readonly property string freeOf: "free of %1"
     readonly property string usedSpace: "Used space"
     readonly property string screens: "Screens"
-    /// Between facts of one line, which breaks only after it.
+    /// Separates facts on one line, which breaks only after it.
     readonly property string joint: "\u00a0· "
     readonly property string clear: "Clear"
     readonly property string close: "Close"

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// What the desktop opens at login, told when asked.
+/// What the desktop opens at login, listed on request.
 ColumnCard {
     id: root
 
@@ -33,13 +33,11 @@ ColumnCard {
         spacing: Theme.spaceS
 
         AppButton {
-            objectName: "showLoginItems"
             text: Strings.showLoginItems
             onClicked: root.items.ask()
         }
 
         AppButton {
-            objectName: "loginItemsSettings"
             text: Strings.openLoginItemsSettings
             onClicked: root.items.openSettings()
         }

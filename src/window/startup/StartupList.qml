@@ -1,14 +1,14 @@
 import QtQuick
 import Orlen.App
 
-/// What starts at login, grouped by whose logins it belongs to. As high as its rows: the page scrolls.
+/// What starts at login, grouped by whose login starts it. As tall as its rows: the page scrolls.
 Card {
     id: root
 
     required property StartupListModel items
-    /// How much of the page is seen at once.
+    /// The visible height of the page, for paging.
     property real pageHeight: 480
-    /// The keyboard has come to this row.
+    /// Emitted when the keyboard reaches a row.
     signal reached(row: Item)
 
     implicitHeight: root.items.count > 0 ? list.height + 2

@@ -45,7 +45,6 @@ ListRow {
             anchors.centerIn: parent
             name: root.symbol
             colour: root.isOn ? Theme.secondary : Theme.tertiary
-            size: 16
         }
     }
 
@@ -101,7 +100,7 @@ ListRow {
         onToggled: root.toggled()
     }
 
-    // A switch that is off-limits hears no pointer of its own.
+    // A disabled switch gets no hover events itself.
     ToolTipBubble {
         parent: toggle
         x: toggle.width - implicitWidth

@@ -2,10 +2,9 @@ import QtQuick
 import QtQuick.Window
 import Orlen.App
 
-/// The small window of the tray item: free space at a glance, and the way to the main window.
+/// The tray item's small window: free space at a glance, and a button for the main window.
 Window {
     id: root
-
 
     signal openRequested
     signal quitRequested
@@ -16,7 +15,7 @@ Window {
     title: Strings.appName
     color: "transparent"
 
-    // As a menu does it: whatever else is clicked, it goes.
+    // Closes like a menu on a click anywhere else.
     onActiveChanged: {
         if (!root.active)
             root.hide();
@@ -122,7 +121,6 @@ Window {
                 spacing: Theme.spaceS
 
                 AppButton {
-                    objectName: "trayQuit"
                     text: Strings.quit
                     onClicked: root.quitRequested()
                 }

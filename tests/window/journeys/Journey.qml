@@ -21,6 +21,16 @@ TestCase {
         failOnWarning(/.?/);
     }
 
+    function initTestCase() {
+        test.open();
+    }
+
+    function cleanupTestCase() {
+        test.parent = null;
+        test.window.destroy();
+        wait(0);
+    }
+
     function open() {
         failOnWarning(/.?/);
         test.window = main.createObject(null);
@@ -28,12 +38,6 @@ TestCase {
         test.window.requestActivate();
         tryVerify(() => test.window.active);
         verify(waitForRendering(test.window.contentItem));
-    }
-
-    function shut() {
-        test.parent = null;
-        test.window.destroy();
-        wait(0);
     }
 
     /// Begins where a user is after the first start.

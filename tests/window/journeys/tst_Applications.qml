@@ -13,10 +13,6 @@ Journey {
         keyClick(Qt.Key_6, Qt.ControlModifier);
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function test_1_theSearchFindsIt() {
         test.clickOn("appSearch");
         test.type("sketch");

@@ -13,10 +13,6 @@ Journey {
         keyClick(Qt.Key_3, Qt.ControlModifier);
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function test_1_aSuggestionIsAQuestion() {
         test.clickOn("suggestion-2");
         tryCompare(test.item("conversation"), "count", 2);

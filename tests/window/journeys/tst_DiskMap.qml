@@ -14,10 +14,6 @@ Journey {
         test.folder(".cache");
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     /// Waits until the map is drawn with this name as the tile of the largest item.
     function folder(largest: string) {
         tryVerify(() => test.isShown("tile-0") && stage.find(test.window, "tile-0").name === largest, 10000,

@@ -8,14 +8,6 @@ Journey {
 
     name: "EveryScreen"
 
-    function initTestCase() {
-        test.open();
-    }
-
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function checkNames(where: string) {
         waitForRendering(test.window.contentItem, 500);
         compare(stage.nameless(test.window).join("\n"), "", where);

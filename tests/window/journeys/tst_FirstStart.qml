@@ -8,14 +8,6 @@ Journey {
 
     name: "FirstStart"
 
-    function initTestCase() {
-        test.open();
-    }
-
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function test_1_onboardingIsShownOnce() {
         compare(test.window.navigation.onboarded, false);
         test.clickOn("continue");

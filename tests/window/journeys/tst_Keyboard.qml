@@ -8,14 +8,6 @@ Journey {
 
     name: "Keyboard"
 
-    function initTestCase() {
-        test.open();
-    }
-
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function test_1_onboarding() {
         test.tabTo("continue");
         keyClick(Qt.Key_Return);

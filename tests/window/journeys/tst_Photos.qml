@@ -12,10 +12,6 @@ Journey {
         test.openOnboarded();
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     function test_1_aScanThatHangsOnAPhotoIsGivenUpAtOnce() {
         stage.setRecognizing(false);
         test.clickOn("startScan");

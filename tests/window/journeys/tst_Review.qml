@@ -16,10 +16,6 @@ Journey {
         test.item("heroSentence");
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     /// The rows of the plan with this name, in sight.
     function planRow(name: string, time: int): Item {
         const list = test.item("planEntries");

@@ -15,10 +15,6 @@ Journey {
         keyClick(Qt.Key_7, Qt.ControlModifier);
     }
 
-    function cleanupTestCase() {
-        test.shut();
-    }
-
     /// The row of the agent, wherever the agents of the system put it.
     function agent(): Item {
         tryVerify(() => test.item("startupList").count > 0);

@@ -1,12 +1,10 @@
-#include "cli/FolderArguments.h"
+#include "cli/FolderSearch.h"
 
-#include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/PathArgument.h"
-#include "cli/Session.h"
 #include "cli/Texts.h"
 
-namespace orlen::FolderArguments {
+namespace orlen::FolderSearch {
 
 std::optional<std::vector<std::string>> checked(Session& session, const std::vector<std::string>& arguments)
 {
@@ -23,4 +21,10 @@ std::optional<std::vector<std::string>> checked(Session& session, const std::vec
     return folders;
 }
 
-} // namespace orlen::FolderArguments
+Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
+                   const std::stop_token& stop)
+{
+    return folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+}
+
+} // namespace orlen::FolderSearch
