@@ -1,5 +1,7 @@
 #include "app/AppTexts.h"
 
+#include "app/Format.h"
+
 #include <system_error>
 
 namespace orlen::AppTexts {
@@ -26,6 +28,11 @@ std::string unreadable(const OwnFile& file, int error)
     return std::string(file.subject) + " could not be read (" + std::generic_category().message(error) +
            "). " + std::string(file.stem) +
            ".json is left as it is, and nothing is added to it until it can be.";
+}
+
+std::string unreadableFolders(std::int64_t count)
+{
+    return Format::counted(count, "folder") + " could not be read";
 }
 
 } // namespace orlen::AppTexts

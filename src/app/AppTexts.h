@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -28,5 +29,8 @@ inline constexpr OwnFile kSnapshots{"The record of past scans", "scans"};
 
 /// The outcome of a restore.
 [[nodiscard]] std::string restored(int restored, int failed);
+
+/// "2 folders could not be read"
+[[nodiscard]] std::string unreadableFolders(std::int64_t count);
 
 } // namespace orlen::AppTexts

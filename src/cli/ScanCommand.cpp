@@ -1,4 +1,5 @@
 #include "app/AppModel.h"
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "cli/Command.h"
 #include "cli/FindingTable.h"
@@ -44,7 +45,7 @@ std::string unreadableLines(const AppModel& model, const Colours& colours)
     const Results::Unreadable& unreadable = model.results()->unreadableFolders();
     if (unreadable.count == 0)
         return {};
-    std::string text = '\n' + Format::counted(unreadable.count, "folder").append(Texts::kUnreadable) + '\n';
+    std::string text = '\n' + AppTexts::unreadableFolders(unreadable.count) + '\n';
     const std::size_t shown = std::min(kFoldersShown, unreadable.paths.size());
     for (std::size_t i = 0; i < shown; ++i)
         text += colours.styled(Style::dim, "  " + Format::shownPath(unreadable.paths[i])) + '\n';

@@ -20,7 +20,7 @@ namespace {
 
 using Items = std::vector<LaunchItem>;
 
-std::string status()
+std::string asking()
 {
     return std::string(Texts::kAskingServices);
 }
@@ -81,7 +81,7 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         const auto items = Background::resultUnlessCancelled(
-            session, status, [](const std::stop_token& /*stop*/) { return LaunchControl::load(); });
+            session, asking, [](const std::stop_token& /*stop*/) { return LaunchControl::load(); });
         if (!items)
             return session.cancelled();
         if (m_disable->parsed() || m_enable->parsed())
@@ -117,7 +117,7 @@ private:
         // An item already on is left alone; one that is off may still be running.
         const auto set = [&](const std::stop_token& /*stop*/) { return LaunchControl::set(item, isWanted); };
         const bool isDone = (item.enabled && isWanted) ||
-                            Background::result(session, status, set, Session::Work::Nature::moving);
+                            Background::result(session, asking, set, Session::Work::Nature::moving);
         report(session, item, isDone);
         return isDone ? ExitStatus::done : ExitStatus::someFailed;
     }

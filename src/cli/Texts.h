@@ -15,7 +15,6 @@ inline constexpr std::string_view kNothingSafe = "Nothing is rated Safe right no
 inline constexpr std::string_view kNothingFound = "Nothing was found.";
 inline constexpr std::string_view kNoFullAccess =
     "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned.";
-inline constexpr std::string_view kUnreadable = " could not be read";
 inline constexpr std::string_view kHowToClean =
     "`orlen clean` lists the Safe entries and moves them to the Trash when you say yes.";
 inline constexpr std::string_view kNoSnapshot =

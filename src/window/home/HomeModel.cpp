@@ -1,7 +1,6 @@
 #include "window/home/HomeModel.h"
 
-#include "app/Format.h"
-#include "cli/Texts.h"
+#include "app/AppTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/WindowState.h"
 
@@ -52,8 +51,7 @@ void HomeModel::countSelection()
 QString HomeModel::unreadableText() const
 {
     const std::int64_t count = m_app.results()->unreadableFolders().count;
-    return count == 0 ? QString()
-                      : DisplayText::text(Format::counted(count, "folder").append(Texts::kUnreadable));
+    return count == 0 ? QString() : DisplayText::text(AppTexts::unreadableFolders(count));
 }
 
 QString HomeModel::unreadableFolders() const
