@@ -16,6 +16,10 @@ class TrayRegistration;
 /// An item in the desktop's tray: an icon with a title, and a menu with one disabled line, "open" and "quit".
 /// Comes back when the tray restarts and does nothing on a desktop without one, so nothing may depend on it.
 /// Main thread.
+///
+/// Qt's own tray item would not do: it looks for a tray only once, reports a click without its position, and
+/// (as of Qt 6.4) passes on no activation token, without which Wayland does not bring the window to the
+/// front.
 class TrayItem : public QObject {
     Q_OBJECT
 
