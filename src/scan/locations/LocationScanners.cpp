@@ -4,6 +4,9 @@
 #include "scan/locations/SourceReader.h"
 #include "scan/locations/mac/LanguagePacks.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace orlen {
 
 std::vector<Finding> LocationScanners::read(std::initializer_list<FindingKind> kinds) const
@@ -43,7 +46,10 @@ std::vector<Finding> LocationScanners::trashAndMail() const
 
 std::vector<Finding> LocationScanners::languagePacks() const
 {
-    return {Finding(FindingKind::languagePacks, LanguagePacks::entries(m_unreadable, m_stop))};
+    const SourceReader reader(m_progress, m_stop, m_unreadable);
+    std::vector<FileEntry> entries = LanguagePacks::entries(m_unreadable, m_stop);
+    std::ranges::move(reader.entries(FindingKind::languagePacks), std::back_inserter(entries));
+    return {Finding(FindingKind::languagePacks, std::move(entries))};
 }
 
 std::vector<Finding> LocationScanners::downloads(TimePoint now, const RecentDocuments& recent) const

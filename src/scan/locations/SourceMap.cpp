@@ -1,8 +1,10 @@
 #include "scan/locations/SourceMap.h"
 
+#include "model/FileEntry.h"
 #include "platform/files/Places.h"
 #include "platform/text/NamePattern.h"
 #include "platform/text/PathText.h"
+#include "scan/locations/AppFolders.h"
 #include "scan/locations/Glob.h"
 
 #include <algorithm>
@@ -18,11 +20,18 @@ namespace orlen {
 
 namespace {
 
+bool isNamed(const SourceRow& row, std::string_view name)
+{
+    return row.only.empty() || Glob::matchesAny(row.only, name);
+}
+
 /// "Google/AndroidStudio*" excludes a folder "Google" only if it contains a match.
 bool isExcluded(const SourceRow& row, const std::string& child)
 {
     const std::string_view name = PathText::lastComponent(child);
     if (std::ranges::find(row.exceptAfterLimit, name) != row.exceptAfterLimit.end())
+        return true;
+    if (row.reading == Reading::never && isNamed(row, name))
         return true;
     return std::any_of(row.except.begin(), row.except.end(), [&](std::string_view pattern) {
         const std::size_t slash = pattern.find('/');
@@ -34,17 +43,23 @@ bool isExcluded(const SourceRow& row, const std::string& child)
 
 bool isTaken(const SourceRow& row, const std::string& child)
 {
-    return (row.only.empty() || Glob::matchesAny(row.only, PathText::lastComponent(child))) &&
+    return row.reading != Reading::never && isNamed(row, PathText::lastComponent(child)) &&
            (row.accepts == nullptr || row.accepts(child));
 }
 
-std::string filledIn(std::string_view note, const Glob::Match& match)
+/// Whose folder it is and what the row says.
+std::string noteOf(const SourceRow& row, const std::string& owner, const Glob::Match& match)
 {
     constexpr std::string_view kMatched = "{1}";
-    std::string text(note);
+    std::string text(row.note);
     if (const std::size_t at = text.find(kMatched); at != std::string::npos && !match.names.empty())
         text.replace(at, kMatched.size(), match.names.front());
-    return text;
+    FileEntry noted;
+    for (const std::string& part : {owner, text}) {
+        if (!part.empty())
+            addNote(noted, part);
+    }
+    return noted.note.value_or("");
 }
 
 bool isLeftOut(const SourceRow& row, const Glob::Match& match)
@@ -66,25 +81,35 @@ SourceMap::SourceMap(const Places& places, UnreadableFolders* unreadable)
 {
     if (!places.isHomeUsable)
         return;
+    const AppFolders folders(places);
     for (const SourceRow& row : sourceRows())
-        add(row, places, unreadable);
+        add(row, places, folders, unreadable);
 }
 
-void SourceMap::add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable)
+void SourceMap::add(const SourceRow& row, const Places& places, const AppFolders& folders,
+                    UnreadableFolders* unreadable)
 {
     for (const std::string_view pattern : row.from) {
         const std::size_t star = firstStar(pattern);
-        for (const std::string& start : places.expand(pattern.substr(0, star))) {
-            for (Glob::Match& match : Glob::paths(start, pattern.substr(star), unreadable)) {
-                // What one source of the row offers as an entry is not opened by the next.
-                const bool isEntry = !match.names.empty() &&
-                                     isKnown(row, std::string(PathText::parent(match.path))) &&
-                                     isTaken(row, match.path);
-                if (!isEntry && !isLeftOut(row, match) && !isKnown(row, match.path))
-                    add({&row, match.path, filledIn(row.note, match)});
+        for (const AppFolder& start : folders.expand(places, pattern.substr(0, star))) {
+            for (const Glob::Match& match : Glob::paths(start.path, pattern.substr(star), unreadable)) {
+                if (isLeftOut(row, match) || (row.within != nullptr && !row.within(match.path)))
+                    continue;
+                const std::string note = noteOf(row, start.owner, match);
+                for (Glob::Match& below : Glob::paths(match.path, row.below, unreadable))
+                    addOnce({&row, std::move(below.path), note});
             }
         }
     }
+}
+
+void SourceMap::addOnce(Source source)
+{
+    // What one source of the row offers as an entry is not opened by the next.
+    const std::string parent(PathText::parent(source.path));
+    const bool isEntry = isKnown(*source.row, parent) && isTaken(*source.row, source.path);
+    if (!isEntry && !isKnown(*source.row, source.path))
+        add(std::move(source));
 }
 
 void SourceMap::add(Source source)
@@ -141,7 +166,7 @@ bool SourceMap::isOffered(const Source& single) const
 {
     const std::vector<const Source*> same = at(single.path);
     const bool isReadAsFolder = std::any_of(same.begin(), same.end(), [](const Source* source) {
-        return source->row->reading != Reading::single;
+        return source->row->reading != Reading::single && source->row->reading != Reading::never;
     });
     return !m_above.contains(single.path) && !isReadAsFolder && same.front()->row == single.row;
 }

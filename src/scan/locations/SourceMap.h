@@ -9,6 +9,7 @@
 
 namespace orlen {
 
+class AppFolders;
 struct Places;
 class UnreadableFolders;
 
@@ -16,7 +17,7 @@ class UnreadableFolders;
 struct Source {
     const SourceRow* row;
     std::string path;
-    std::string note; ///< the row's, filled in
+    std::string note; ///< whose folder it is, then the row's note, filled in
 };
 
 /// Where all rows lead in this home folder. Variables may nest one known place inside another or make two the
@@ -38,7 +39,9 @@ public:
     [[nodiscard]] bool isOffered(const Source& single) const;
 
 private:
-    void add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable);
+    void add(const SourceRow& row, const Places& places, const AppFolders& folders,
+             UnreadableFolders* unreadable);
+    void addOnce(Source source);
     void add(Source source);
     [[nodiscard]] bool isKnown(const SourceRow& row, const std::string& path) const;
     [[nodiscard]] std::vector<const Source*> at(const std::string& path) const;

@@ -63,7 +63,7 @@ bool mayBeOffered(const SourceRow& row, const std::string& path)
 {
     return PathText::isValidUtf8(path) && !Safety::isProtected(path) &&
            (row.offered == Offered::all || isDeletable(path)) &&
-           (row.kind != FindingKind::caches || !WalkRules::isEnvironment(path));
+           (row.kind != FindingKind::caches || row.maybeEnvironment || !WalkRules::isEnvironment(path));
 }
 
 bool isLinkFree(const Source& single)
@@ -146,12 +146,24 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
     leaveRoomForOthers(row, entries);
     if (entries.size() > row.limit)
         entries.resize(row.limit);
-    for (FileEntry& entry : entries) {
-        if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
-            !note.empty())
-            addNote(entry, note);
-    }
+    for (FileEntry& entry : entries)
+        describe(row, entry);
     return entries;
+}
+
+/// What the row says of an entry that has its source's note.
+void SourceReader::describe(const SourceRow& row, FileEntry& entry) const
+{
+    entry.rating = row.rating;
+    if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
+        !note.empty())
+        addNote(entry, note);
+    if (!row.caution.empty())
+        addNote(entry, row.caution);
+    if (!row.isOwnedByProgram)
+        return;
+    if (const std::string program = m_owners.running(PathText::lastComponent(entry.path)); !program.empty())
+        addNote(entry, "Quit " + program + " first");
 }
 
 /// Drops as many entries from the end as the places offered by other rows would have displaced.
@@ -192,6 +204,7 @@ std::vector<FileEntry> SourceReader::single(const Source& source) const
     FileEntry entry = FS::entry(source.path, source.note, m_stop, m_unreadable);
     if (!isLargeEnough(*source.row, entry))
         return {};
+    describe(*source.row, entry);
     return {std::move(entry)};
 }
 

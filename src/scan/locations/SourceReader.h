@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/FileEntry.h"
+#include "scan/locations/CacheOwners.h"
 #include "scan/locations/SourceMap.h"
 
 #include <stop_token>
@@ -30,12 +31,14 @@ private:
     [[nodiscard]] std::vector<FileEntry> single(const Source& source) const;
     [[nodiscard]] std::vector<std::string> pathsIn(const Source& folder) const;
     void leaveRoomForOthers(const SourceRow& row, std::vector<FileEntry>& entries) const;
+    void describe(const SourceRow& row, FileEntry& entry) const;
     void noteUnreachable(std::string path, int error) const;
 
     ScanProgress& m_progress;
     std::stop_token m_stop;
     UnreadableFolders* m_unreadable;
     SourceMap m_map;
+    CacheOwners m_owners;
 };
 
 } // namespace orlen
