@@ -89,6 +89,11 @@ bool protectsContents(std::string_view path)
     return table().judge(path).areContentsProtected;
 }
 
+Protection protection(std::string_view path)
+{
+    return table().judge(path).protection;
+}
+
 void refresh()
 {
     const std::uint64_t ticket = publisher().drawTicket();

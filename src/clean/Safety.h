@@ -1,5 +1,7 @@
 #pragma once
 
+#include "clean/Protection.h"
+
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,9 @@ namespace orlen::Safety {
 /// True if the path and everything below it is protected, so a walk can skip it. A kept folder (Documents,
 /// Pictures and so on) is protected itself, but not its contents.
 [[nodiscard]] bool protectsContents(std::string_view path);
+
+/// Which rule protects the path, for showing why; `none` exactly if `isProtected` is false.
+[[nodiscard]] Protection protection(std::string_view path);
 
 /// Reads mounts and sync folders again. Called at start and before every scan, clean-up and restore. Blocks
 /// on the disk.
