@@ -102,9 +102,9 @@ void refresh()
     publisher().publish(std::make_shared<const SafetyTable>(places), ticket);
 }
 
-bool isSyncMarker(std::string_view name)
+bool isSyncMarker(int folder, const FolderEntry& entry)
 {
-    return SyncRoots::isMarker(name);
+    return SyncRoots::isMarker(folder, entry);
 }
 
 } // namespace orlen::Safety

@@ -5,6 +5,10 @@
 #include <string>
 #include <string_view>
 
+namespace orlen {
+struct FolderEntry;
+}
+
 /// The single gate for every path that is offered, entered, moved or restored. Any thread.
 ///
 /// Fixed rules come from tables. Mounts, sync folders and the parents of protected places are read by
@@ -28,7 +32,7 @@ namespace orlen::Safety {
 /// on the disk.
 void refresh();
 
-/// Whether a file or folder of this name shows that a sync program mirrors the folder around it.
-[[nodiscard]] bool isSyncMarker(std::string_view name);
+/// Whether this entry of an open folder shows that a sync program mirrors the folder. Blocks on the disk.
+[[nodiscard]] bool isSyncMarker(int folder, const FolderEntry& entry);
 
 } // namespace orlen::Safety
