@@ -49,7 +49,7 @@ struct Telltales {
     bool syncMarker = false;
     bool cacheTag = false;
 
-    void look(const FolderEntry& entry)
+    void look(int folder, const FolderEntry& entry)
     {
         const std::string_view name = entry.name;
         const bool isFile = entry.type == EntryType::regular || entry.type == EntryType::unknown;
@@ -62,7 +62,7 @@ struct Telltales {
         environment |= (isFile && name == "pyvenv.cfg") || (isFolder && name == "conda-meta");
         workTree |= name == ".git";
         cacheTag |= isFile && name == "CACHEDIR.TAG";
-        syncMarker |= Safety::isSyncMarker(name);
+        syncMarker |= Safety::isSyncMarker(folder, entry);
     }
 };
 
@@ -103,7 +103,7 @@ void markImageFolders(const Places& places, PathMarks& marks)
 FolderNature natureOf(const TreeListing& listing)
 {
     Telltales found;
-    listing.forEach([&](const FolderEntry& entry) { found.look(entry); });
+    listing.forEach([&](const FolderEntry& entry) { found.look(listing.descriptor(), entry); });
     if (found.syncMarker)
         return FolderNature::mirrored;
     // An environment is in use even if tagged: its tools tag it to keep it out of backups.
