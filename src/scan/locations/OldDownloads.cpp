@@ -43,4 +43,10 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
     return found;
 }
 
+bool isOld(const std::string& path, TimePoint now, const RecentDocuments& recent)
+{
+    const auto use = FS::lastUse(path, recent, *CurrentMounts::table());
+    return use && use->date < now - kUnused;
+}
+
 } // namespace orlen::OldDownloads

@@ -171,4 +171,17 @@ bool SourceMap::isOffered(const Source& single) const
     return !m_above.contains(single.path) && !isReadAsFolder && same.front()->row == single.row;
 }
 
+const Source* SourceMap::offering(const std::string& entry) const
+{
+    for (const Source* source : at(entry)) {
+        if (source->row->reading == Reading::single && isOffered(*source))
+            return source;
+    }
+    for (const Source* source : at(std::string(PathText::parent(entry)))) {
+        if (source->row->reading != Reading::single && isOfferedBy(*source, entry))
+            return source;
+    }
+    return nullptr;
+}
+
 } // namespace orlen

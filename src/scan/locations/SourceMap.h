@@ -38,6 +38,9 @@ public:
     /// The same for a source that is an entry itself.
     [[nodiscard]] bool isOffered(const Source& single) const;
 
+    /// The source that offers exactly this path as an entry; null if none does. May block on the disk.
+    [[nodiscard]] const Source* offering(const std::string& entry) const;
+
 private:
     void add(const SourceRow& row, const Places& places, const AppFolders& folders,
              UnreadableFolders* unreadable);

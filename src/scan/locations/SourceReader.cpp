@@ -75,6 +75,15 @@ bool isLinkFree(const Source& single)
            openWithoutLinks(std::string(PathText::parent(single.path))).ok();
 }
 
+/// Whether the folder would be listed, and the name in it.
+bool isReadable(const Source& folder, const std::string& child)
+{
+    const std::string_view name = PathText::lastComponent(child);
+    const auto status = statusOf(child);
+    return !isSkipped(*folder.row, name) && openToRead(folder).ok() && status.ok() &&
+           (folder.row->layout == Layout::mac || status.value().type != FileType::link);
+}
+
 bool isLargeEnough(const SourceRow& row, const FileEntry& entry)
 {
     return entry.size >= std::max<std::int64_t>(row.minimum, 1);
@@ -122,6 +131,27 @@ std::vector<std::string> SourceReader::paths(FindingKind kind) const
         }
     }
     return all;
+}
+
+std::optional<SourceReader::Holding> SourceReader::holding(const std::string& path) const
+{
+    const std::string& home = Places::current().home;
+    for (std::string at = path; at.size() > 1 && at != home; at = std::string(PathText::parent(at))) {
+        const Source* source = m_map.offering(at);
+        if (source == nullptr)
+            continue;
+        const SourceRow& row = *source->row;
+        const bool isReachable =
+            row.reading == Reading::single ? isLinkFree(*source) : isReadable(*source, at);
+        if (!isReachable || !mayBeOffered(row, at))
+            return std::nullopt;
+        FileEntry entry = FS::entry(at, source->note, m_stop, m_unreadable);
+        if (!isLargeEnough(row, entry))
+            return std::nullopt;
+        describe(row, entry);
+        return Holding{row.kind, std::move(entry)};
+    }
+    return std::nullopt;
 }
 
 std::vector<FileEntry> SourceReader::children(const SourceRow& row) const

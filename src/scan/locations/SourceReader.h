@@ -4,6 +4,7 @@
 #include "scan/locations/CacheOwners.h"
 #include "scan/locations/SourceMap.h"
 
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -25,6 +26,14 @@ public:
 
     /// The paths that rows of a kind may offer, unmeasured, in listing order. Blocks on the disk.
     [[nodiscard]] std::vector<std::string> paths(FindingKind kind) const;
+
+    struct Holding {
+        FindingKind kind;
+        FileEntry entry;
+    };
+    /// The measured entry that is or contains the path; nothing if no row offers one. Whether a download is
+    /// old enough is not considered. Blocks on the disk.
+    [[nodiscard]] std::optional<Holding> holding(const std::string& path) const;
 
 private:
     [[nodiscard]] std::vector<FileEntry> children(const SourceRow& row) const;
