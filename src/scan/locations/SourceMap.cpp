@@ -8,6 +8,7 @@
 #include "scan/locations/Glob.h"
 
 #include <algorithm>
+#include <map>
 
 // Who offers what. Every row's patterns are expanded to sources, and the map keeps each source's path and all
 // folders above it. A folder's child is then offered by at most one source:
@@ -77,27 +78,65 @@ std::size_t firstStar(std::string_view pattern)
 
 } // namespace
 
+/// Several rows read the same folders, which are listed and tested once.
+class SourceMap::Expansion {
+public:
+    Expansion(const Places& places, UnreadableFolders* unreadable)
+        : m_places(places), m_folders(places), m_unreadable(unreadable)
+    {
+    }
+
+    [[nodiscard]] std::vector<AppFolder> starts(std::string_view pattern) const
+    {
+        return m_folders.expand(m_places, pattern);
+    }
+
+    const std::vector<Glob::Match>& paths(const std::string& folder, std::string_view pattern)
+    {
+        const auto [at, isNew] = m_paths.try_emplace(folder + '\0' + std::string(pattern));
+        if (isNew)
+            at->second = Glob::paths(folder, pattern, m_unreadable);
+        return at->second;
+    }
+
+    bool passes(bool (*test)(const std::string&), const std::string& folder)
+    {
+        if (test == nullptr)
+            return true;
+        const auto [at, isNew] = m_tests[test].try_emplace(folder, false);
+        if (isNew)
+            at->second = test(folder);
+        return at->second;
+    }
+
+private:
+    const Places& m_places;
+    const AppFolders m_folders;
+    UnreadableFolders* const m_unreadable;
+    std::unordered_map<std::string, std::vector<Glob::Match>> m_paths;
+    std::map<bool (*)(const std::string&), std::unordered_map<std::string, bool>> m_tests;
+};
+
 SourceMap::SourceMap(const Places& places, UnreadableFolders* unreadable)
 {
     if (!places.isHomeUsable)
         return;
-    const AppFolders folders(places);
+    Expansion expansion(places, unreadable);
     for (const SourceRow& row : sourceRows())
-        add(row, places, folders, unreadable);
+        add(row, expansion);
 }
 
-void SourceMap::add(const SourceRow& row, const Places& places, const AppFolders& folders,
-                    UnreadableFolders* unreadable)
+void SourceMap::add(const SourceRow& row, Expansion& expansion)
 {
     for (const std::string_view pattern : row.from) {
         const std::size_t star = firstStar(pattern);
-        for (const AppFolder& start : folders.expand(places, pattern.substr(0, star))) {
-            for (const Glob::Match& match : Glob::paths(start.path, pattern.substr(star), unreadable)) {
-                if (isLeftOut(row, match) || (row.within != nullptr && !row.within(match.path)))
+        for (const AppFolder& start : expansion.starts(pattern.substr(0, star))) {
+            for (const Glob::Match& match : expansion.paths(start.path, pattern.substr(star))) {
+                if (isLeftOut(row, match) || !expansion.passes(row.within, match.path))
                     continue;
                 const std::string note = noteOf(row, start.owner, match);
-                for (Glob::Match& below : Glob::paths(match.path, row.below, unreadable))
-                    addOnce({&row, std::move(below.path), note});
+                for (const Glob::Match& below : expansion.paths(match.path, row.below))
+                    addOnce({&row, below.path, note});
             }
         }
     }

@@ -9,7 +9,6 @@
 
 namespace orlen {
 
-class AppFolders;
 struct Places;
 class UnreadableFolders;
 
@@ -42,8 +41,9 @@ public:
     [[nodiscard]] const Source* offering(const std::string& entry) const;
 
 private:
-    void add(const SourceRow& row, const Places& places, const AppFolders& folders,
-             UnreadableFolders* unreadable);
+    class Expansion;
+
+    void add(const SourceRow& row, Expansion& expansion);
     void addOnce(Source source);
     void add(Source source);
     [[nodiscard]] bool isKnown(const SourceRow& row, const std::string& path) const;
