@@ -38,7 +38,7 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
         if (uses[i].isOpening)
             found[i].lastOpened = uses[i].date;
         if (exists(found[i].path + "/.git"))
-            found[i].note = "Contains a repository";
+            addNoteBefore(found[i], "Contains a repository");
     }
     return found;
 }

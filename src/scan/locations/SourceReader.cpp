@@ -166,10 +166,8 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
         }
     }
     std::vector<FileEntry> entries = FS::entries(found, {}, m_stop, m_unreadable);
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (!origins[i]->note.empty())
-            entries[i].note = origins[i]->note;
-    }
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        addNoteBefore(entries[i], origins[i]->note);
     std::erase_if(entries, [&](const FileEntry& entry) { return !isLargeEnough(row, entry); });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
