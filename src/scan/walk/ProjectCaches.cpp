@@ -12,7 +12,7 @@ namespace orlen::ProjectCaches {
 
 namespace {
 
-// What stands beside a cache, unless it is the name of a file there.
+// Evidence other than a file beside the cache.
 constexpr std::string_view kTagInside = "tag";
 constexpr std::string_view kFilmsAround = "films";
 
@@ -23,7 +23,7 @@ constexpr std::string_view kEdited = "Open projects use these";
 
 struct Rule {
     std::string_view name;
-    std::string_view evidence; ///< a file beside it, where "*" at the start stands for any text
+    std::string_view evidence; ///< one of the above, or a file beside it; "*" at its start matches any text
     std::string_view note;
 };
 
