@@ -22,6 +22,7 @@ namespace {
 /// Whether the walk of the home folder comes across the path.
 bool isWalked(const std::string& path)
 {
+    using WalkRules::FolderNature;
     const std::string& home = Places::current().home;
     if (!PathText::isAtOrBelow(path, home) || Safety::protectsContents(path))
         return false;
@@ -31,8 +32,10 @@ bool isWalked(const std::string& path)
     std::string folder = home;
     for (std::size_t i = 0; i + 1 < names.size(); ++i) {
         folder = PathText::join(folder, names[i]);
-        if (WalkRules::isLeftOut(names[i]) || !isRealFolder(folder) || Safety::protectsContents(folder) ||
-            WalkRules::natureOf(folder) != WalkRules::FolderNature::plain)
+        if (WalkRules::isLeftOut(names[i]) || !isRealFolder(folder) || Safety::protectsContents(folder))
+            return false;
+        const FolderNature nature = WalkRules::natureOf(folder);
+        if (nature != FolderNature::plain && nature != FolderNature::workTree)
             return false;
     }
     return true;

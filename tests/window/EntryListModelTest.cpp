@@ -16,6 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::SizeIs;
 
 const AppModel::Options kCommand{AppModel::Startup::filesOnly, AppModel::Access::writer, {}};

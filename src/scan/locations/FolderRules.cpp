@@ -67,6 +67,26 @@ bool areOnlyLogs(const std::string& folder, int& budget)
     return true;
 }
 
+bool isProgram(const std::string& path)
+{
+    constexpr std::uint32_t kExecutable = 0111;
+    const auto status = statusOf(path);
+    return status.ok() && status.value().type == FileType::regular &&
+           (status.value().mode & kExecutable) != 0;
+}
+
+/// Whether it is certain that nothing is there: the nearest folder above that exists is in use. An empty one
+/// may be where a disk is mounted at other times.
+bool isGone(const std::string& path, const std::string& home)
+{
+    if (exists(path))
+        return false;
+    std::string above(PathText::parent(path));
+    while (above != home && !exists(above))
+        above = std::string(PathText::parent(above));
+    return above == home || !listNames(above).empty();
+}
+
 bool isRunFrom(const std::string& folder)
 {
     const std::string real = resolved(folder);
@@ -156,6 +176,20 @@ bool holdsOnlyLogs(const std::string& folder)
     return isRealFolder(folder) && areOnlyLogs(folder, budget);
 }
 
+bool isSelfContainedApp(const std::string& folder)
+{
+    if (isProgram(folder + "/AppRun"))
+        return true;
+    const std::string own = PathText::asciiLower(PathText::lastComponent(folder));
+    for (const std::string& inside : {folder, folder + "/bin"}) {
+        for (const std::string& name : listNames(inside)) {
+            if (PathText::asciiLower(name) == own && isProgram(PathText::join(inside, name)))
+                return true;
+        }
+    }
+    return false;
+}
+
 bool isOlderBuild(const std::string& folder)
 {
     const auto own = statusOf(folder);
@@ -171,13 +205,11 @@ bool isOlderBuild(const std::string& folder)
 
 bool isEnvironmentOfGoneProject(const std::string& folder)
 {
-    if (!isRealFolder(folder) || !WalkRules::isEnvironment(folder))
+    if (!isRealFolder(folder))
         return false;
     const std::string& home = Places::current().home;
     const std::string project = Places::current().normalized(projectOf(folder));
-    // A project on a disk that is not there now is not gone.
-    return project != home && PathText::isAtOrBelow(project, home) && !exists(project) &&
-           isListable(std::string(PathText::parent(project)));
+    return project != home && PathText::isAtOrBelow(project, home) && isGone(project, home);
 }
 
 bool isSteamIdle(const std::string& /*path*/)

@@ -25,6 +25,10 @@ namespace orlen::FolderRules {
 /// than a few thousand entries counts as something else.
 [[nodiscard]] bool holdsOnlyLogs(const std::string& folder);
 
+/// Whether the folder is a whole application: it has an "AppRun", or a program with the folder's name in it
+/// or in its "bin".
+[[nodiscard]] bool isSelfContainedApp(const std::string& folder);
+
 /// Whether a build with a later date lies beside it, and no program runs from it.
 [[nodiscard]] bool isOlderBuild(const std::string& folder);
 

@@ -85,19 +85,13 @@ std::vector<SourceRow> games()
 std::vector<SourceRow> models()
 {
     return {
-        {.from = {"{H}/.lmstudio/models/*", "{DATAS}/Jan/data/llamacpp/models", "{H}/.keras/models",
-                  "{H}/.keras/datasets"},
-         .minimum = 1'000'000,
+        {.from = {"{H}/.lmstudio/models/*", "{DATAS}/Jan/data/llamacpp/models"},
          .rating = review,
          .note = kLargeDownload},
-        {.from = {"{DATAS}/nomic.ai/GPT4All"},
-         .minimum = 1'000'000,
-         .rating = review,
-         .note = kLargeDownload,
-         .only = {"*.gguf"}},
-        forReview(
-            single({}, {"{H}/.u2net", "{H}/.EasyOCR/model", "{H}/.insightface/models", "{H}/nltk_data"}),
-            kLargeDownload),
+        {.from = {"{DATAS}/nomic.ai/GPT4All"}, .rating = review, .note = kLargeDownload, .only = {"*.gguf"}},
+        forReview(single({}, {"{H}/.keras/models", "{H}/.keras/datasets", "{H}/.u2net", "{H}/.EasyOCR/model",
+                              "{H}/.insightface/models", "{H}/nltk_data"}),
+                  kLargeDownload),
     };
 }
 

@@ -57,7 +57,7 @@ const Names& chatPrograms()
 std::vector<SourceRow> logs()
 {
     return {
-        single({}, {"{H}/.xsession-errors", "{H}/.xsession-errors.old", "{CACHE}/gdm/session.log"}),
+        single({}, {"{H}/.xsession-errors", "{H}/.xsession-errors.old", "{CACHES}/gdm/session.log"}),
         accepting(children({}, {"{DATA}/xorg", "{DATA}/sddm"}), EntryRules::isNamedLikeLog),
         // Nothing else of these folders is ever offered: editors keep what can be undone there, programs
         // their keys and databases.
@@ -66,7 +66,7 @@ std::vector<SourceRow> logs()
         inWebViews(children("{1}", {"{CONFIGS}/*"}, {"logs", "Crashpad", "Crash Reports"})),
         exceptChats(accepting(children("{1}", {"{DATAS}/*"}, {"log", "logs"}), FolderRules::holdsOnlyLogs)),
         accepting(children("Steam", {"{STEAM}/logs"}), EntryRules::isNamedLikeLog),
-        children("Steam", {"{STEAM}/dumps"}),
+        single("Steam", {"{STEAM}/dumps"}),
         accepting(
             children("Crash dump", {"{H}"}, {"hs_err_pid*.log", "java_error_in_*.log", "core", "core.*"}),
             EntryRules::isCrashDump),

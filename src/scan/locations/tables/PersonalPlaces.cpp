@@ -15,6 +15,7 @@ SourceRow translations(std::string_view below, Names only)
             .from = {"{H}/Applications/*", "{H}/opt/*", "{H}/.local/opt/*"},
             .below = below,
             .only = std::move(only),
+            .within = FolderRules::isSelfContainedApp,
             .accepts = EntryRules::isUnusedTranslation};
 }
 
