@@ -50,7 +50,7 @@ std::vector<std::string> manyFiles(const TempHome& home, int count)
 TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
 {
     const TempHome home;
-    home.fileOfSize(".cache/viewer/pages", 400 * kKiB);
+    home.fileOfSize(".cache/chromium/pages", 400 * kKiB);
     home.fileOfSize(".xsession-errors", 64 * kKiB);
     AppModel model(kCommand);
     scan(model);
@@ -65,7 +65,7 @@ TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
     EXPECT_EQ(model.cleanUps()->cleaning()->moved, 1);
     EXPECT_EQ(model.cleanUps()->cleaning()->failed, 0);
     EXPECT_EQ(model.cleanUps()->cleaning()->freed, 400 * kKiB);
-    EXPECT_FALSE(TempHome::exists(home.path(".cache/viewer")));
+    EXPECT_FALSE(TempHome::exists(home.path(".cache/chromium")));
     ASSERT_THAT(model.results()->findings(), SizeIs(1));
     EXPECT_EQ(model.results()->findings().front().kind, FindingKind::logs);
     EXPECT_THAT(model.results()->selection(), ElementsAre(home.path(".xsession-errors")));

@@ -27,8 +27,8 @@ TimePoint now()
 struct UsedHome : TempHome {
     UsedHome()
     {
-        fileOfSize(".cache/viewer/pages", 400 * kKiB);
-        fileOfSize(".cache/player/covers", 800 * kKiB);
+        fileOfSize(".cache/chromium/pages", 400 * kKiB);
+        fileOfSize(".cache/mozilla/covers", 800 * kKiB);
         fileOfSize(".xsession-errors", 64 * kKiB);
         fileOfSize(".local/share/Trash/files/thrown", 3'000 * kKiB);
         const std::string old = fileOfSize("Downloads/paper.pdf", 300 * kKiB);
@@ -130,9 +130,9 @@ TEST(AppModelTest, aScanSortsItsFindingsAndSelectsTheSafeEntries)
     EXPECT_THAT(
         kinds(model.results()->findings()),
         ElementsAre(FindingKind::caches, FindingKind::logs, FindingKind::trash, FindingKind::oldDownloads));
-    EXPECT_THAT(
-        model.results()->selection(),
-        ElementsAre(home.path(".cache/player"), home.path(".cache/viewer"), home.path(".xsession-errors")));
+    EXPECT_THAT(model.results()->selection(),
+                ElementsAre(home.path(".cache/mozilla"), home.path(".cache/chromium"),
+                            home.path(".xsession-errors")));
     const std::int64_t safe = (400 + 800 + 64) * kKiB;
     EXPECT_EQ(model.results()->safeBytes(), safe);
     EXPECT_EQ(model.results()->totalFound(), safe + 300 * kKiB);
@@ -205,7 +205,7 @@ TEST(AppModelTest, thePlanHoldsTheSelectedEntriesThatMayMove)
     // What lies in the Trash is never planned, nor is what is no entry.
     model.results()->setSelection({home.path(".local/share/Trash/files/thrown"),
                                    home.path("Downloads/paper.pdf"), home.path("Downloads"),
-                                   home.path(".cache/viewer")});
+                                   home.path(".cache/chromium")});
     const CleanPlan plan = model.results()->scanPlan();
     ASSERT_THAT(plan.sections, SizeIs(2));
     EXPECT_EQ(plan.sections[0].id, "caches");

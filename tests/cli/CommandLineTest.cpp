@@ -33,15 +33,15 @@ std::vector<std::string> keys(const Json& object)
 struct CommandHome : TempHome {
     CommandHome()
     {
-        fileOfSize(".cache/viewer/pages", 400 * kKiB);
-        fileOfSize(".cache/player/covers", 800 * kKiB);
+        fileOfSize(".cache/chromium/pages", 400 * kKiB);
+        fileOfSize(".cache/mozilla/covers", 800 * kKiB);
         fileOfSize(".xsession-errors", 64 * kKiB);
         fileOfSize("Videos/film.mkv", 1200 * kKiB, 7);
         fileOfSize("Downloads/film.mkv", 1200 * kKiB, 7);
     }
     [[nodiscard]] bool isUntouched() const
     {
-        return exists(path(".cache/viewer")) && exists(path(".cache/player")) &&
+        return exists(path(".cache/chromium")) && exists(path(".cache/mozilla")) &&
                exists(path(".xsession-errors")) && exists(path("Downloads/film.mkv")) &&
                !exists(path(".local/share/Trash"));
     }
@@ -135,10 +135,10 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
                 ElementsAre("kind", "title", "explanation", "symbol", "category", "rating", "reason",
                             "cleanable", "size", "safeSize", "items"));
     EXPECT_EQ(scan["findings"][0]["kind"], "caches");
-    EXPECT_EQ(scan["findings"][0]["items"][0]["path"], home.path(".cache/player"));
+    EXPECT_EQ(scan["findings"][0]["items"][0]["path"], home.path(".cache/mozilla"));
     EXPECT_EQ(scan["findings"][0]["items"][0]["size"], 800 * kKiB);
-    EXPECT_EQ(scan["selection"],
-              Json({home.path(".cache/player"), home.path(".cache/viewer"), home.path(".xsession-errors")}));
+    EXPECT_EQ(scan["selection"], Json({home.path(".cache/mozilla"), home.path(".cache/chromium"),
+                                       home.path(".xsession-errors")}));
     EXPECT_EQ(scan["safeBytes"], (800 + 400 + 64) * kKiB);
     EXPECT_EQ(scan["steps"].size(), 10U);
     EXPECT_EQ(scan["steps"][9]["state"], "done");
@@ -162,7 +162,7 @@ TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
 TEST(CommandLineTest, oddNamesAreHarmless)
 {
     const TempHome home;
-    const std::string odd = ".cache/line\nbreak \"quoted\" \x1b[31mred";
+    const std::string odd = ".cache/cargo-line\nbreak \"quoted\" \x1b[31mred";
     home.fileOfSize(odd + "/x", 400 * kKiB);
     home.fileOfSize(".cache/\xff\xfe/x", 300 * kKiB);
     const Json scan = orlen({"scan", "--json"}).document();
@@ -170,7 +170,7 @@ TEST(CommandLineTest, oddNamesAreHarmless)
     EXPECT_EQ(scan["selection"], Json({home.path(odd)}));
 
     const Process::Outcome shown = orlen({"scan"});
-    EXPECT_THAT(shown.out, HasSubstr("~/.cache/line?break \"quoted\" ?[31mred"));
+    EXPECT_THAT(shown.out, HasSubstr("~/.cache/cargo-line?break \"quoted\" ?[31mred"));
     EXPECT_EQ(shown.out.find('\x1b'), std::string::npos);
     EXPECT_EQ(orlen({"clean", "--yes"}).status, 0);
     EXPECT_FALSE(TempHome::exists(home.path(odd)));
@@ -187,7 +187,7 @@ TEST(CommandLineTest, aDryRunShowsThePlanAndMovesNothing)
     EXPECT_EQ(shown["plan"]["title"], "Smart Scan clean-up");
     ASSERT_EQ(shown["plan"]["sections"].size(), 1U);
     EXPECT_EQ(shown["plan"]["sections"][0]["entries"].size(), 2U);
-    EXPECT_THAT(orlen({"clean", "--dry-run"}).out, HasSubstr("~/.cache/player"));
+    EXPECT_THAT(orlen({"clean", "--dry-run"}).out, HasSubstr("~/.cache/mozilla"));
     EXPECT_TRUE(home.isUntouched());
     EXPECT_THAT(Persist::loadHistory().records, IsEmpty());
 }
@@ -204,7 +204,7 @@ TEST(CommandLineTest, whatWasCleanedIsInTheHistoryAndComesBack)
     EXPECT_EQ(cleaned["record"]["items"][0]["original"], copy);
     EXPECT_EQ(cleaned["freed"], 1200 * kKiB);
     EXPECT_FALSE(TempHome::exists(copy));
-    EXPECT_TRUE(TempHome::exists(home.path(".cache/viewer")));
+    EXPECT_TRUE(TempHome::exists(home.path(".cache/chromium")));
 
     const Json history = orlen({"history", "--json"}).document();
     ASSERT_EQ(history.size(), 1U);
@@ -258,7 +258,7 @@ TEST(CommandLineTest, theUserIsAskedOnTheTerminal)
         const Process::Outcome outcome = Process{{"clean"}}.runOnTerminal("[y/N]", typed);
         EXPECT_EQ(outcome.status, c.status) << outcome.out;
         EXPECT_THAT(outcome.out, HasSubstr("3 items"));
-        EXPECT_EQ(!TempHome::exists(home.path(".cache/viewer")), c.isMoved);
+        EXPECT_EQ(!TempHome::exists(home.path(".cache/chromium")), c.isMoved);
         EXPECT_EQ(Persist::loadHistory().records.size(), c.isMoved ? 1U : 0U);
     }
 }
@@ -295,13 +295,13 @@ TEST(CommandLineTest, ctrlCDuringACleanUpRecordsWhatWasMoved)
     const TempHome home;
     constexpr int kItems = 600;
     for (int i = 0; i < kItems; ++i)
-        home.fileOfSize(".cache/app" + std::to_string(i), 100 * kKiB);
+        home.fileOfSize(".cache/cargo-" + std::to_string(i), 100 * kKiB);
     // Typed in one go: the terminal delivers the answer, then the interrupt while the items move.
     const Process::Outcome outcome =
         Process{{"clean"}}.runOnTerminal("[y/N]", [] { return std::string("y\n\x03\x03\x03"); });
     std::size_t left = 0;
     for (int i = 0; i < kItems; ++i)
-        left += TempHome::exists(home.path(".cache/app" + std::to_string(i))) ? 1 : 0;
+        left += TempHome::exists(home.path(".cache/cargo-" + std::to_string(i))) ? 1 : 0;
     const std::vector<CleanRecord> history = Persist::loadHistory().records;
     const std::size_t moved = history.empty() ? 0 : history.front().items.size();
     EXPECT_EQ(outcome.status, 130);
@@ -328,7 +328,7 @@ TEST(CommandLineTest, whileAnotherOrlenIsOpenNothingIsWritten)
     }
     EXPECT_EQ(orlen({"history"}).status, 0);
     EXPECT_EQ(orlen({"clean", "--dry-run"}).status, 0);
-    EXPECT_TRUE(TempHome::exists(home.path(".cache/viewer")));
+    EXPECT_TRUE(TempHome::exists(home.path(".cache/chromium")));
     EXPECT_FALSE(TempHome::exists(home.path(".xsession-errors")));
     EXPECT_EQ(Persist::loadSnapshots().records.size(), snapshots);
 }

@@ -26,13 +26,13 @@ class EntryListModelTest : public testing::Test {
 protected:
     EntryListModelTest() : m_app(kCommand)
     {
-        m_home.fileOfSize(".cache/Zebra", 400 * 1024);
-        m_home.fileOfSize(".cache/apple/pages", 300 * 1024);
+        m_home.fileOfSize(".cache/zig", 400 * 1024);
+        m_home.fileOfSize(".cache/babl/pages", 300 * 1024);
         m_home.fileOfSize(".cache/spotify", 200 * 1024);
-        m_home.fileOfSize(".cache/pear", 100 * 1024);
+        m_home.fileOfSize(".cache/GIMP", 100 * 1024);
         const TimePoint now = std::chrono::system_clock::now();
-        TempHome::setTimes(m_home.path(".cache/pear"), now - 24h, now - 24h);
-        TempHome::setTimes(m_home.path(".cache/Zebra"), now - 48h, now - 48h);
+        TempHome::setTimes(m_home.path(".cache/GIMP"), now - 24h, now - 24h);
+        TempHome::setTimes(m_home.path(".cache/zig"), now - 48h, now - 48h);
         m_app.results()->startScan();
         EXPECT_TRUE(waitUntil([&] { return m_app.results()->phase() == Phase::results; }));
         m_list.setFindingId("caches");
@@ -62,7 +62,7 @@ protected:
 
 TEST_F(EntryListModelTest, showsTheFindingLargestFirst)
 {
-    EXPECT_EQ(names(), QStringList({"Zebra", "apple", "spotify", "pear"}));
+    EXPECT_EQ(names(), QStringList({"zig", "babl", "spotify", "GIMP"}));
     EXPECT_EQ(marks(), QStringList({"true", "true", "false", "true"}));
     EXPECT_EQ(ratingAt(1).name, "safe");
     EXPECT_EQ(ratingAt(2).name, "review");
@@ -76,21 +76,21 @@ TEST_F(EntryListModelTest, showsTheFindingLargestFirst)
 TEST_F(EntryListModelTest, sortsAndTurnsRound)
 {
     m_list.sortBy(EntryListModel::ByName);
-    EXPECT_EQ(names(), QStringList({"apple", "pear", "spotify", "Zebra"}));
+    EXPECT_EQ(names(), QStringList({"babl", "GIMP", "spotify", "zig"}));
     m_list.sortBy(EntryListModel::ByName);
-    EXPECT_EQ(names(), QStringList({"Zebra", "spotify", "pear", "apple"}));
+    EXPECT_EQ(names(), QStringList({"zig", "spotify", "GIMP", "babl"}));
     EXPECT_EQ(marks(), QStringList({"true", "false", "true", "true"}));
     m_list.sortBy(EntryListModel::BySize);
     EXPECT_FALSE(m_list.isReversed());
-    EXPECT_EQ(names().first(), "Zebra");
+    EXPECT_EQ(names().first(), "zig");
     m_list.sortBy(EntryListModel::ByDate);
-    EXPECT_LT(names().indexOf("pear"), names().indexOf("Zebra"));
+    EXPECT_LT(names().indexOf("GIMP"), names().indexOf("zig"));
 }
 
 TEST_F(EntryListModelTest, filtersAndSelectsOnlyWhatIsShown)
 {
-    m_list.setFilter("  PE ");
-    EXPECT_EQ(names(), QStringList({"pear"}));
+    m_list.setFilter("  Im ");
+    EXPECT_EQ(names(), QStringList({"GIMP"}));
     EXPECT_EQ(m_list.shownState(), Qt::Checked);
     m_list.toggleShown();
     EXPECT_EQ(m_list.shownState(), Qt::Unchecked);
@@ -109,7 +109,7 @@ TEST_F(EntryListModelTest, selectsWithOneWordToTheApplication)
 {
     const QSignalSpy changes(m_app.results(), &Results::selectionChanged);
     m_list.toggle(0);
-    EXPECT_FALSE(m_app.results()->selection().contains(m_home.path(".cache/Zebra")));
+    EXPECT_FALSE(m_app.results()->selection().contains(m_home.path(".cache/zig")));
     m_list.selectShown();
     EXPECT_THAT(m_app.results()->selection(), SizeIs(4));
     EXPECT_EQ(changes.size(), 2);
@@ -117,7 +117,7 @@ TEST_F(EntryListModelTest, selectsWithOneWordToTheApplication)
     m_list.toggle(-1);
     m_list.toggle(4);
     EXPECT_EQ(changes.size(), 2);
-    m_app.results()->setSelection({m_home.path(".cache/pear")});
+    m_app.results()->setSelection({m_home.path(".cache/GIMP")});
     EXPECT_EQ(marks(), QStringList({"false", "false", "false", "true"}));
     EXPECT_EQ(m_list.selectedSizeText(), "102 KB");
 }
@@ -127,12 +127,12 @@ TEST_F(EntryListModelTest, losesWhatWasMovedRowByRowAndKeepsItsTexts)
     m_list.sortBy(EntryListModel::ByName);
     const QSignalSpy removed(&m_list, &QAbstractItemModel::rowsRemoved);
     const QSignalSpy reset(&m_list, &QAbstractItemModel::modelReset);
-    m_app.results()->removeFromFindings({m_home.path(".cache/pear"), m_home.path(".cache/Zebra")});
-    EXPECT_EQ(names(), QStringList({"apple", "spotify"}));
+    m_app.results()->removeFromFindings({m_home.path(".cache/GIMP"), m_home.path(".cache/zig")});
+    EXPECT_EQ(names(), QStringList({"babl", "spotify"}));
     EXPECT_EQ(marks(), QStringList({"true", "false"}));
     EXPECT_EQ(removed.size(), 2);
     EXPECT_EQ(m_list.selectedText(), "1 of 2 selected · 307 KB");
-    m_app.results()->removeFromFindings({m_home.path(".cache/apple"), m_home.path(".cache/spotify")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/babl"), m_home.path(".cache/spotify")});
     EXPECT_EQ(m_list.rowCount(), 0);
     EXPECT_EQ(m_list.header().title, "App caches");
     EXPECT_TRUE(reset.isEmpty());

@@ -26,8 +26,8 @@ AppModel::Options quick()
 /// Safe: two caches and a log. Review: an old download. Shown only: what lies in the Trash.
 void fill(const TempHome& home)
 {
-    home.fileOfSize(".cache/alpha/data", 40'960'000);
-    home.fileOfSize(".cache/beta/data", 20'480'000);
+    home.fileOfSize(".cache/mozilla/data", 40'960'000);
+    home.fileOfSize(".cache/chromium/data", 20'480'000);
     home.fileOfSize(".npm/_cacache/content/a", 8'192'000);
     home.fileOfSize(".local/share/Trash/files/old", 4'096'000);
 }
@@ -93,7 +93,7 @@ TEST_F(FindingListModelTest, aSelectionTouchesOnlyTheCardItBelongsTo)
     const QSignalSpy changes(&m_cards, &QAbstractItemModel::dataChanged);
     const QSignalSpy resets(&m_cards, &QAbstractItemModel::modelReset);
     std::set<std::string> selection = m_app.results()->selection();
-    ASSERT_EQ(selection.erase(m_home.path(".cache/beta")), 1);
+    ASSERT_EQ(selection.erase(m_home.path(".cache/chromium")), 1);
     m_app.results()->setSelection(selection);
     ASSERT_EQ(changes.count(), 1);
     EXPECT_EQ(changes.at(0).at(0).toModelIndex().row(), rowOf("caches"));
@@ -118,7 +118,7 @@ TEST_F(FindingListModelTest, whatIsCleanedTakesOnlyItsOwnCardAway)
     ASSERT_GE(npm, 0);
     const QSignalSpy removals(&m_cards, &QAbstractItemModel::rowsRemoved);
     const QSignalSpy resets(&m_cards, &QAbstractItemModel::modelReset);
-    std::set<std::string> gone{m_home.path(".cache/alpha")};
+    std::set<std::string> gone{m_home.path(".cache/mozilla")};
     for (const FileEntry& entry : m_app.results()->findings()[static_cast<std::size_t>(npm)].items)
         gone.insert(entry.path);
     m_app.results()->removeFromFindings(gone);
@@ -127,13 +127,13 @@ TEST_F(FindingListModelTest, whatIsCleanedTakesOnlyItsOwnCardAway)
     EXPECT_EQ(m_cards.rowCount(), cards - 1);
     EXPECT_EQ(value(rowOf("caches"), FindingListModel::Role::size).toString(), "20.5 MB");
     EXPECT_EQ(resets.count(), 0);
-    m_app.results()->removeFromFindings({m_home.path(".cache/beta")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/chromium")});
     EXPECT_EQ(rowOf("caches"), -1);
 }
 
 TEST_F(FindingListModelTest, anotherScanShowsItsOwnFindings)
 {
-    m_app.results()->removeFromFindings({m_home.path(".cache/alpha"), m_home.path(".cache/beta")});
+    m_app.results()->removeFromFindings({m_home.path(".cache/mozilla"), m_home.path(".cache/chromium")});
     ASSERT_EQ(rowOf("caches"), -1);
     m_app.results()->resetToIdle();
     scan(m_app);
@@ -180,7 +180,7 @@ TEST(HomeModelTest, reviewsOnlyWhatIsSelected)
     EXPECT_FALSE(model.hasSelection());
     model.review();
     EXPECT_FALSE(WindowState::of(app).sheet().has_value());
-    app.results()->setSelection({home.path(".cache/alpha")});
+    app.results()->setSelection({home.path(".cache/mozilla")});
     model.review();
     ASSERT_TRUE(WindowState::of(app).sheet().has_value());
     const CleanPlan& plan = std::get<PlanSheet>(*WindowState::of(app).sheet()).plan;
