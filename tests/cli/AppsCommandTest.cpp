@@ -74,6 +74,7 @@ TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
     EXPECT_THAT(orlen({"leftovers", "--name", "Nobody's"}).out, HasSubstr("No leftovers found.\n"));
     EXPECT_EQ(orlen({"leftovers"}).status, 2);
     EXPECT_EQ(orlen({"leftovers", "--id", ""}).status, 2);
+    EXPECT_EQ(orlen({"leftovers", "--name", "", "--json"}).status, 2);
 }
 
 TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
@@ -86,11 +87,12 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     ASSERT_EQ(plan["sections"].size(), 2U);
     EXPECT_EQ(plan["sections"][0]["entries"][0]["path"], home.installed);
     EXPECT_EQ(plan["sections"][0]["entries"][0]["size"], 4 * kKiB);
-    EXPECT_EQ(plan["sections"][1]["entries"].size(), 3U);
+    EXPECT_EQ(plan["sections"][1]["entries"].size(), 2U);
+    EXPECT_THAT(shown.err, HasSubstr("--by-name takes them along:\n  ~/.cache/foo-qux (16 KB)\n"));
     EXPECT_EQ(orlen({"uninstall", "Foo Qux"}).status, 2);
     EXPECT_TRUE(home.isUntouched());
 
-    const Process::Outcome outcome = orlen({"uninstall", home.installed, "--yes"});
+    const Process::Outcome outcome = orlen({"uninstall", home.installed, "--by-name", "--yes"});
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_THAT(outcome.out, HasSubstr("~/.cache/foo-qux\n"));
     EXPECT_FALSE(TempHome::exists(home.installed));
