@@ -15,6 +15,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 /// An AppImage with settings, and a folder of settings that is nobody's.
 struct InstalledHome : AppHome {
@@ -102,6 +103,30 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     EXPECT_EQ(Persist::loadHistory().records.front().title, "Uninstall Foo Qux");
     EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
     EXPECT_TRUE(home.isUntouched());
+}
+
+TEST(AppsCommandTest, aServiceOfTheApplicationIsSwitchedOffFirst)
+{
+    const InstalledHome home;
+    const std::string calls = home.outside("calls");
+    home.script(home.outside("bin/systemctl"), "echo \"$*\" >> '" + calls + "'\n[ \"$2\" = disable ]\n");
+    const std::string unit =
+        home.file(".config/systemd/user/fooqux.service", "[Service]\nExecStart=" + home.installed + "\n");
+    const Process::Outcome stopped = orlen({"uninstall", "Foo Qux", "--yes"});
+    EXPECT_EQ(stopped.status, 0) << stopped.err;
+    EXPECT_FALSE(TempHome::exists(unit));
+    EXPECT_TRUE(TempHome::exists(home.path(".cache/foo-qux")));
+    EXPECT_THAT(TempHome::content(calls),
+                HasSubstr("--user disable fooqux.service\n--user stop fooqux.service\n"));
+    EXPECT_THAT(stopped.err, Not(HasSubstr("switched off")));
+
+    EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
+    home.script(home.outside("bin/systemctl"), "exit 1\n");
+    const Process::Outcome failed = orlen({"uninstall", "Foo Qux", "--yes"});
+    EXPECT_EQ(failed.status, 0);
+    EXPECT_FALSE(TempHome::exists(unit));
+    EXPECT_THAT(failed.err,
+                HasSubstr("fooqux.service couldn't be switched off; it may run until you log out."));
 }
 
 TEST(AppsCommandTest, whatCannotBeUninstalledIsAWrongCall)
