@@ -59,6 +59,7 @@ inline constexpr std::string_view kLeftoversBy = "Leftovers found by bundle iden
 inline constexpr std::string_view kLeftoversByName = "Leftovers found by name (";
 inline constexpr std::string_view kNoLeftovers = "No leftovers found.";
 inline constexpr std::string_view kNobodysLeftovers = "leftovers are found by --id, --name or both.";
+inline constexpr std::string_view kNothingLeftBehind = "Nothing was left behind by apps that are gone.";
 inline constexpr std::string_view kByNameLeft =
     "Matched by name only, so they stay; --by-name takes them along:";
 inline constexpr std::string_view kAppleApp = "This is an Apple app. Make sure you really want to remove it.";

@@ -1,6 +1,7 @@
 #include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "cli/Process.h"
+#include "platform/values/Time.h"
 #include "tools/apps/AppHome.h"
 
 #include <nlohmann/json.hpp>
@@ -73,9 +74,29 @@ TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
     EXPECT_THAT(orlen({"leftovers", "--id", "org.fooqux.Fooqux"}).out,
                 HasSubstr("Leftovers found by bundle identifier (org.fooqux.Fooqux)\n"));
     EXPECT_THAT(orlen({"leftovers", "--name", "Nobody's"}).out, HasSubstr("No leftovers found.\n"));
-    EXPECT_EQ(orlen({"leftovers"}).status, 2);
     EXPECT_EQ(orlen({"leftovers", "--id", ""}).status, 2);
     EXPECT_EQ(orlen({"leftovers", "--name", "", "--json"}).status, 2);
+}
+
+TEST(AppsCommandTest, withoutAnApplicationTheLeftoversOfAllThatAreGoneAreListed)
+{
+    const InstalledHome home;
+    EXPECT_THAT(orlen({"leftovers"}).out, HasSubstr("Nothing was left behind by apps that are gone.\n"));
+    const TimePoint longAgo = *timeFromIso("2024-05-01T10:00:00Z");
+    for (const char* name : {".config/Barquux", ".cache/Barquux"}) {
+        TempHome::setTimes(home.fileOfSize(std::string(name) + "/a", 8 * kKiB), longAgo, longAgo);
+        TempHome::setTimes(home.path(name), longAgo, longAgo);
+    }
+    const Json entries = orlen({"leftovers", "--json"}).document();
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[0]["path"], home.path(".config/Barquux"));
+    EXPECT_EQ(entries[0]["size"], 8 * kKiB);
+    EXPECT_EQ(entries[0]["modified"], "2024-05-01T10:00:00Z");
+    EXPECT_EQ(entries[0]["rating"], "review");
+    EXPECT_EQ(entries[0]["note"], "No program named Barquux is installed; not changed since 2024");
+    const std::string shown = orlen({"leftovers"}).out;
+    EXPECT_THAT(shown, HasSubstr("Left behind by apps that are gone: 2 folders, 16 KB\n"));
+    EXPECT_THAT(shown, HasSubstr("~/.cache/Barquux\n"));
 }
 
 TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
