@@ -207,7 +207,7 @@ void addLauncher(InstalledNames& names, const Launcher& launcher)
           &launcher.imageName, &launcher.flatpak})
         names.add(*name);
     for (const std::string& program : launcher.programs)
-        names.add(PathText::lastComponent(program));
+        names.addProgram(PathText::lastComponent(program));
 }
 
 /// Crates are often named otherwise than the programs they install.
@@ -299,6 +299,18 @@ void InstalledNames::add(std::string_view name)
         if (name.starts_with(beginning))
             m_names.insert(plain(name.substr(beginning.size())));
     }
+}
+
+void InstalledNames::addProgram(std::string_view name)
+{
+    add(name);
+    m_programs.insert(plain(name));
+}
+
+bool InstalledNames::isInMenus(std::string_view program) const
+{
+    const std::string name = plain(program);
+    return name.size() >= kShortest && m_programs.contains(name);
 }
 
 bool InstalledNames::mayOwn(std::string_view folder) const

@@ -27,10 +27,15 @@ public:
     /// identifier's parts, is a name, begins with one, or begins one. Pure.
     [[nodiscard]] bool mayOwn(std::string_view folder) const;
 
+    void addProgram(std::string_view name);
+    /// Whether something in the menus starts a program of exactly this name. Pure.
+    [[nodiscard]] bool isInMenus(std::string_view program) const;
+
 private:
     [[nodiscard]] bool has(std::string_view plainWord) const;
 
-    std::set<std::string, std::less<>> m_names; ///< plain
+    std::set<std::string, std::less<>> m_names;    ///< plain
+    std::set<std::string, std::less<>> m_programs; ///< that launchers start; plain
 };
 
 } // namespace orlen

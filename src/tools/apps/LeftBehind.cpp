@@ -28,83 +28,38 @@ namespace {
 
 /// In lower case: the desktop's parts, libraries and their vendors, programming tools, and what games are
 /// made with. No single program has these names, or it runs from where nobody can look.
-const std::vector<std::string_view> kNobodys = {"gtk*",           "qt*",
-                                                "kde*",           "plasma*",
-                                                "kwin*",          "kscreen*",
-                                                "kactivit*",      "baloo*",
-                                                "akonadi*",       "gnome*",
-                                                "gvfs*",          "goa-*",
-                                                "evolution*",     "tracker*",
-                                                "localsearch*",   "nautilus*",
-                                                "mutter*",        "xfce*",
-                                                "lxqt*",          "lxde*",
-                                                "mate*",          "cinnamon*",
-                                                "nemo*",          "budgie*",
-                                                "cosmic*",        "hypr*",
-                                                "sway*",          "i3*",
-                                                "ibus*",          "fcitx*",
-                                                "pulse*",         "pipewire*",
-                                                "wireplumber*",   "alsa*",
-                                                "dconf*",         "dbus*",
-                                                "systemd*",       "fontconfig*",
-                                                "font*",          "icon*",
-                                                "theme*",         "menus",
-                                                "mime*",          "sounds",
-                                                "backgrounds",    "wallpaper*",
-                                                "color*",         "icc",
-                                                "applications",   "desktop-directories",
-                                                "user-*",         "autostart*",
-                                                "environment.d",  "session*",
-                                                "xsettings*",     "xdg-*",
-                                                "xorg*",          "wayland*",
-                                                "gegl*",          "babl*",
-                                                "gstreamer*",     "enchant*",
-                                                "hunspell*",      "aspell*",
-                                                "mesa*",          "nvidia*",
-                                                "vulkan*",        "dxvk*",
-                                                "vkd3d*",         "recently-used*",
-                                                "keyrings",       "kwallet*",
-                                                "thumbnails",     "flatpak*",
-                                                "snap*",          "appimage*",
-                                                "containers",     "docker*",
-                                                "libvirt*",       "qemu*",
-                                                "trash*",         "orlen*",
-                                                "matplotlib*",    "jupyter*",
-                                                "ipython*",       "python*",
-                                                "pip*",           "conda*",
-                                                "mamba*",         "virtualenv*",
-                                                "nltk*",          "hugging*",
-                                                "torch*",         "keras*",
-                                                "tensorflow*",    "node*",
-                                                "npm*",           "yarn*",
-                                                "pnpm*",          "configstore",
-                                                "go-*",           "cargo*",
-                                                "rust*",          "ruby*",
-                                                "gem*",           "perl*",
-                                                "php*",           "composer*",
-                                                "java*",          "gradle*",
-                                                "maven*",         "dotnet*",
-                                                "nuget*",         "mono*",
-                                                "git*",           "vim*",
-                                                "nvim*",          "emacs*",
-                                                "zsh*",           "bash*",
-                                                "fish*",          "tmux*",
-                                                "nix*",           "guix*",
-                                                "google*",        "mozilla*",
-                                                "microsoft*",     "jetbrains*",
-                                                "adobe*",         "apple*",
-                                                "amazon*",        "unity*",
-                                                "unreal*",        "epic*",
-                                                "godot*",         "love*",
-                                                "renpy*",         "ren'py*",
-                                                "steam*",         "valve*",
-                                                "lutris*",        "heroic*",
-                                                "bottles*",       "wine*",
-                                                "proton*",        "umu*",
-                                                "feral*",         "paradox*",
-                                                "larian*",        "retroarch*",
-                                                "libretro*",      "minecraft*",
-                                                "prismlauncher*", "multimc*"};
+const std::vector<std::string_view> kNobodys = {
+    "gtk*",       "qt*",        "kde*",          "plasma*",        "kwin*",
+    "kscreen*",   "kactivit*",  "baloo*",        "akonadi*",       "gnome*",
+    "gvfs*",      "goa-*",      "evolution*",    "tracker*",       "localsearch*",
+    "nautilus*",  "mutter*",    "xfce*",         "lxqt*",          "lxde*",
+    "mate*",      "cinnamon*",  "nemo*",         "budgie*",        "cosmic*",
+    "hypr*",      "sway*",      "i3*",           "ibus*",          "fcitx*",
+    "pulse*",     "pipewire*",  "wireplumber*",  "alsa*",          "dconf*",
+    "dbus*",      "systemd*",   "fontconfig*",   "font*",          "icon*",
+    "theme*",     "menus",      "mime*",         "sounds",         "backgrounds",
+    "wallpaper*", "color*",     "icc",           "applications",   "desktop-directories",
+    "user-*",     "autostart*", "environment.d", "session*",       "xsettings*",
+    "xdg-*",      "xorg*",      "wayland*",      "gegl*",          "babl*",
+    "gstreamer*", "enchant*",   "hunspell*",     "aspell*",        "mesa*",
+    "nvidia*",    "vulkan*",    "dxvk*",         "vkd3d*",         "recently-used*",
+    "keyrings",   "kwallet*",   "thumbnails",    "flatpak*",       "snap*",
+    "appimage*",  "containers", "docker*",       "libvirt*",       "qemu*",
+    "trash*",     "orlen*",     "matplotlib*",   "jupyter*",       "ipython*",
+    "python*",    "pip*",       "conda*",        "mamba*",         "virtualenv*",
+    "nltk*",      "hugging*",   "torch*",        "keras*",         "tensorflow*",
+    "node*",      "npm*",       "yarn*",         "pnpm*",          "configstore",
+    "go-*",       "cargo*",     "rust*",         "ruby*",          "gem*",
+    "perl*",      "php*",       "composer*",     "java*",          "gradle*",
+    "maven*",     "dotnet*",    "nuget*",        "mono*",          "git*",
+    "vim*",       "nvim*",      "emacs*",        "zsh*",           "bash*",
+    "fish*",      "tmux*",      "nix*",          "guix*",          "google*",
+    "mozilla*",   "microsoft*", "jetbrains*",    "adobe*",         "apple*",
+    "amazon*",    "unity*",     "unreal*",       "epic*",          "godot*",
+    "love*",      "renpy*",     "ren'py*",       "steam*",         "valve*",
+    "unknown*",   "lutris*",    "heroic*",       "bottles*",       "wine*",
+    "proton*",    "umu*",       "feral*",        "paradox*",       "larian*",
+    "retroarch*", "libretro*",  "minecraft*",    "prismlauncher*", "multimc*"};
 
 /// The folders of one name, wherever they are.
 struct Candidate {
@@ -205,6 +160,8 @@ public:
         bool wasApp = AppNames::isIdentifier(name) || candidate.words.size() > 1 || m_traces.has(name);
         std::vector<Found> folders;
         for (const std::string& path : candidate.paths) {
+            if (isVendorsOfInstalled(path))
+                return;
             const FolderLook look = FolderLook::at(path, m_stop);
             // One folder in use, or one that cannot be judged, speaks for all of the name.
             if (!look.isComplete || look.newest > m_now - kQuietDays)
@@ -244,6 +201,15 @@ public:
     }
 
 private:
+    /// Some applications keep their folder in one that has the name of their maker.
+    [[nodiscard]] bool isVendorsOfInstalled(const std::string& path) const
+    {
+        const std::vector<std::string> names = listNames(path);
+        return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+            return m_installed.isInMenus(name) || m_installed.isInMenus(PathText::stem(name));
+        });
+    }
+
     TimePoint m_now;
     const std::stop_token& m_stop;
     InstalledNames m_installed;

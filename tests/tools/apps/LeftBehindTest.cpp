@@ -141,6 +141,8 @@ TEST(LeftBehindTest, anyTraceOfAProgramKeepsItsFolders)
         {"a unit",
          [](const LeftHome& h) { h.file(h.outside("system/usr/lib/systemd/user/fooqux.service")); }},
         {"a folder of a package", [](const LeftHome& h) { h.folder(h.outside("system/usr/share/fooqux")); }},
+        {"a launcher of what has a folder in it",
+         [](const LeftHome& h) { h.sharedLauncher("x.desktop", "Deep", "/usr/bin/deep --x"); }},
         {"an AppImage", [](const LeftHome& h) { h.image("Applications/Fooqux-1.AppImage"); }},
         {"a Flatpak", [](const LeftHome& h) { h.folder(".local/share/flatpak/app/org.x.Fooqux"); }},
         {"a Snap", [](const LeftHome& h) { h.file(h.outside("system/var/lib/snapd/snaps/fooqux_12.snap")); }},
