@@ -88,10 +88,11 @@ void AppTraces::addHistory(std::span<const CleanRecord> history)
 void AppTraces::addEntriesNamedIn(std::string_view text)
 {
     constexpr std::string_view kSuffix = ".desktop";
+    constexpr std::size_t kLongestName = 255;
     for (std::size_t at = text.find(kSuffix); at != std::string_view::npos;
          at = text.find(kSuffix, at + kSuffix.size())) {
         std::size_t start = at;
-        while (start > 0 && isNameCharacter(text[start - 1]))
+        while (start > 0 && at - start < kLongestName && isNameCharacter(text[start - 1]))
             --start;
         add(text.substr(start, at - start));
     }

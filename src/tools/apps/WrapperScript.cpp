@@ -14,6 +14,10 @@ namespace {
 
 /// Longer scripts do more than start a program.
 constexpr std::size_t kSizeLimit = 16UL * 1024;
+/// No path is longer, and a variable that is set to itself twice would grow without end.
+constexpr std::size_t kLongestWord = 4096;
+/// Stands for what cannot be known; no path has it.
+constexpr char kUnknown = '\0';
 
 using Variables = std::map<std::string, std::string, std::less<>>;
 
@@ -30,8 +34,7 @@ std::string_view takeName(std::string_view& text)
     return name;
 }
 
-/// Removes the rest of "$NAME" or "${NAME}" from the text. Nothing known becomes a character that no path
-/// has.
+/// Removes the rest of "$NAME" or "${NAME}" from the text and returns the value.
 std::string takeVariable(std::string_view& text, const Variables& variables)
 {
     const bool isBraced = text.starts_with('{');
@@ -41,7 +44,7 @@ std::string takeVariable(std::string_view& text, const Variables& variables)
     const bool isPlain = !isBraced || text.starts_with('}');
     if (isBraced && isPlain)
         text.remove_prefix(1);
-    return isPlain && known != variables.end() ? known->second : std::string(1, '\0');
+    return isPlain && known != variables.end() ? known->second : std::string(1, kUnknown);
 }
 
 /// Removes the first word from the line and returns it without quotes, its variables replaced.
@@ -67,6 +70,10 @@ std::string takeWord(std::string_view& line, const Variables& variables)
             line.remove_prefix(1);
         } else {
             word += c;
+        }
+        if (word.size() > kLongestWord) {
+            line = {};
+            return std::string(1, kUnknown);
         }
     }
     return isInHome ? variables.find("HOME")->second + word.substr(1) : word;
@@ -101,7 +108,7 @@ std::string programOf(std::string_view line, const Variables& variables)
             word = takeWord(line, variables);
         while (!word.empty() && !word.starts_with('/') && word.find('=') != std::string::npos);
     }
-    return word.starts_with('/') && word.find('\0') == std::string::npos ? word : std::string();
+    return word.starts_with('/') && word.find(kUnknown) == std::string::npos ? word : std::string();
 }
 
 } // namespace

@@ -36,4 +36,12 @@ TEST(WrapperScriptTest, tellsTheProgramItHandsOverTo)
     }
 }
 
+TEST(WrapperScriptTest, aVariableDoesNotGrowWithoutEnd)
+{
+    std::string text = "#!/bin/sh\nA=/opt\n";
+    for (int line = 0; line < 200; ++line)
+        text += "A=$A$A\n";
+    EXPECT_EQ(WrapperScript::targetIn(text + "exec $A\n", "/h"), "");
+}
+
 } // namespace orlen
