@@ -30,6 +30,11 @@ std::string unreadable(const OwnFile& file, int error)
            ".json is left as it is, and nothing is added to it until it can be.";
 }
 
+std::string stillOn(const std::string& service)
+{
+    return service + " couldn't be switched off; it may run until you log out.";
+}
+
 std::string unreadableFolders(std::int64_t count)
 {
     return Format::counted(count, "folder") + " could not be read";

@@ -30,6 +30,9 @@ inline constexpr OwnFile kSnapshots{"The record of past scans", "scans"};
 /// The outcome of a restore.
 [[nodiscard]] std::string restored(int restored, int failed);
 
+/// For a service that a clean-up could not switch off before moving its file.
+[[nodiscard]] std::string stillOn(const std::string& service);
+
 /// "2 folders could not be read"
 [[nodiscard]] std::string unreadableFolders(std::int64_t count);
 

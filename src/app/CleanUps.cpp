@@ -6,6 +6,7 @@
 #include "clean/History.h"
 #include "model/PathSelection.h"
 #include "platform/values/CheckedSum.h"
+#include "tools/apps/UnitShutdown.h"
 
 #include <algorithm>
 #include <utility>
@@ -63,13 +64,17 @@ void CleanUps::confirm(const CleanPlan& plan)
     const int number = ++m_number;
     const auto pending = std::make_shared<std::optional<Cleaner::Cleaned>>();
     m_pending.push_back(pending);
+    const auto stillOn = std::make_shared<std::vector<std::string>>();
     m_stop = m_workers.start(
-        [entries = std::move(entries), title = plan.title, report = cleaningReport(number),
-         pending](const std::stop_token& stop) {
+        [entries = std::move(entries), title = plan.title, report = cleaningReport(number), pending,
+         stillOn](const std::stop_token& stop) {
+            *stillOn = UnitShutdown::run(entries);
             *pending = Cleaner::run(entries, title, report, stop);
             return PendingCleanUp(pending);
         },
-        [this, number](const PendingCleanUp& cleaned) { finishCleaning(number, cleaned); });
+        [this, number, stillOn](const PendingCleanUp& cleaned) {
+            finishCleaning(number, cleaned, std::move(*stillOn));
+        });
 }
 
 Cleaner::Progress CleanUps::cleaningReport(int number)
@@ -96,7 +101,7 @@ void CleanUps::showCleaning(int number, int done, const std::string& current)
     Q_EMIT cleaningChanged();
 }
 
-void CleanUps::finishCleaning(int number, const PendingCleanUp& pending)
+void CleanUps::finishCleaning(int number, const PendingCleanUp& pending, std::vector<std::string> stillOn)
 {
     const Cleaner::Cleaned cleaned = **pending;
     const CleanRecord& record = cleaned.record;
@@ -110,6 +115,7 @@ void CleanUps::finishCleaning(int number, const PendingCleanUp& pending)
         m_cleaning->failures = cleaned.failures;
         m_cleaning->refusal = cleaned.refusal;
         m_cleaning->isRecorded = isRecorded;
+        m_cleaning->servicesStillOn = std::move(stillOn);
         Q_EMIT cleaningChanged();
     }
     m_storage.followMoves();

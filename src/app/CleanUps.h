@@ -79,7 +79,7 @@ private:
 
     [[nodiscard]] Cleaner::Progress cleaningReport(int number);
     void showCleaning(int number, int done, const std::string& current);
-    void finishCleaning(int number, const PendingCleanUp& pending);
+    void finishCleaning(int number, const PendingCleanUp& pending, std::vector<std::string> stillOn);
     /// Whether the history could be saved.
     bool keep(const CleanRecord& record);
     [[nodiscard]] Restoration finishRestore(Cleaner::Restored outcome);

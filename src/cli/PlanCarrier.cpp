@@ -112,6 +112,8 @@ ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanP
         return *refused;
     const Outcome outcome = moved(session, model, plan);
     print(session, plan, outcome, beside);
+    for (const std::string& service : outcome.end.servicesStillOn)
+        session.complain(AppTexts::stillOn(PathText::forDisplay(service)));
     if (!outcome.end.isRecorded)
         session.complain(Texts::kNotRecorded);
     if (session.isInterrupted()) {

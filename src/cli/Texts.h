@@ -62,6 +62,9 @@ inline constexpr std::string_view kLeftoversBy = "Leftovers found by bundle iden
 inline constexpr std::string_view kLeftoversByName = "Leftovers found by name (";
 inline constexpr std::string_view kNoLeftovers = "No leftovers found.";
 inline constexpr std::string_view kNobodysLeftovers = "leftovers are found by --id, --name or both.";
+inline constexpr std::string_view kNothingLeftBehind = "Nothing was left behind by apps that are gone.";
+inline constexpr std::string_view kByNameLeft =
+    "Matched by name only, so they stay; --by-name takes them along:";
 inline constexpr std::string_view kAppleApp = "This is an Apple app. Make sure you really want to remove it.";
 inline constexpr std::string_view kOtherCopy = "Another copy is installed";
 inline constexpr std::string_view kNoApp = "there is no installed application ";

@@ -6,6 +6,7 @@
 #include "cli/PathArgument.h"
 #include "cli/PlanCarrier.h"
 #include "cli/Texts.h"
+#include "model/ByteCount.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 #include "scan/FS.h"
@@ -64,6 +65,7 @@ public:
     void addOptions(CLI::App& app) override
     {
         app.add_option("NAME", m_argument, "Name or path of the application")->required();
+        app.add_flag("--by-name", m_isByNameTaken, "Take leftovers along that are matched by name only");
         m_carrier.addOptions(app);
     }
 
@@ -88,7 +90,13 @@ public:
         if (!ready)
             return session.cancelled();
         warn(session, *ready);
-        return m_carrier.carryOut(session, model, Uninstall::plan(ready->app, ready->leftovers.entries),
+        std::vector<FileEntry> leftovers = ready->leftovers.entries;
+        const std::vector<FileEntry>& byName = ready->leftovers.byName;
+        if (m_isByNameTaken)
+            leftovers.insert(leftovers.end(), byName.begin(), byName.end());
+        else
+            showLeft(session, byName);
+        return m_carrier.carryOut(session, model, Uninstall::plan(ready->app, leftovers),
                                   wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing);
     }
 
@@ -124,7 +132,17 @@ private:
             session.complain(Texts::kOtherCopy);
     }
 
+    static void showLeft(Session& session, const std::vector<FileEntry>& byName)
+    {
+        if (byName.empty())
+            return;
+        session.complain(Texts::kByNameLeft);
+        for (const FileEntry& entry : byName)
+            session.note("  " + Format::shownPath(entry.path) + " (" + byteCount(entry.size) + ")\n");
+    }
+
     std::string m_argument;
+    bool m_isByNameTaken = false;
     PlanCarrier m_carrier;
 };
 

@@ -25,6 +25,8 @@ struct CleaningState {
     std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known once finished
     std::optional<FailureReason> refusal; ///< why nothing was started: the plan could not be written down
     bool isRecorded = true; ///< false: the history could not be saved; the next start will do it
+    /// Units among the items that could not be switched off before they moved; known once finished.
+    std::vector<std::string> servicesStillOn;
 
     friend bool operator==(const CleaningState&, const CleaningState&) = default;
 };

@@ -1,6 +1,7 @@
 #include "app/Sizes.h"
 #include "clean/Persist.h"
 #include "cli/Process.h"
+#include "platform/values/Time.h"
 #include "tools/apps/AppHome.h"
 
 #include <nlohmann/json.hpp>
@@ -15,6 +16,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 /// An AppImage with settings, and a folder of settings that is nobody's.
 struct InstalledHome : AppHome {
@@ -72,8 +74,29 @@ TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
     EXPECT_THAT(orlen({"leftovers", "--id", "org.fooqux.Fooqux"}).out,
                 HasSubstr("Leftovers found by bundle identifier (org.fooqux.Fooqux)\n"));
     EXPECT_THAT(orlen({"leftovers", "--name", "Nobody's"}).out, HasSubstr("No leftovers found.\n"));
-    EXPECT_EQ(orlen({"leftovers"}).status, 2);
     EXPECT_EQ(orlen({"leftovers", "--id", ""}).status, 2);
+    EXPECT_EQ(orlen({"leftovers", "--name", "", "--json"}).status, 2);
+}
+
+TEST(AppsCommandTest, withoutAnApplicationTheLeftoversOfAllThatAreGoneAreListed)
+{
+    const InstalledHome home;
+    EXPECT_THAT(orlen({"leftovers"}).out, HasSubstr("Nothing was left behind by apps that are gone.\n"));
+    const TimePoint longAgo = *timeFromIso("2024-05-01T10:00:00Z");
+    for (const char* name : {".config/Barquux", ".cache/Barquux"}) {
+        TempHome::setTimes(home.fileOfSize(std::string(name) + "/a", 8 * kKiB), longAgo, longAgo);
+        TempHome::setTimes(home.path(name), longAgo, longAgo);
+    }
+    const Json entries = orlen({"leftovers", "--json"}).document();
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_EQ(entries[0]["path"], home.path(".config/Barquux"));
+    EXPECT_EQ(entries[0]["size"], 8 * kKiB);
+    EXPECT_EQ(entries[0]["modified"], "2024-05-01T10:00:00Z");
+    EXPECT_EQ(entries[0]["rating"], "review");
+    EXPECT_EQ(entries[0]["note"], "No program named Barquux is installed; not changed since 2024");
+    const std::string shown = orlen({"leftovers"}).out;
+    EXPECT_THAT(shown, HasSubstr("Left behind by apps that are gone: 2 folders, 16 KB\n"));
+    EXPECT_THAT(shown, HasSubstr("~/.cache/Barquux\n"));
 }
 
 TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
@@ -86,11 +109,12 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     ASSERT_EQ(plan["sections"].size(), 2U);
     EXPECT_EQ(plan["sections"][0]["entries"][0]["path"], home.installed);
     EXPECT_EQ(plan["sections"][0]["entries"][0]["size"], 4 * kKiB);
-    EXPECT_EQ(plan["sections"][1]["entries"].size(), 3U);
+    EXPECT_EQ(plan["sections"][1]["entries"].size(), 2U);
+    EXPECT_THAT(shown.err, HasSubstr("--by-name takes them along:\n  ~/.cache/foo-qux (16 KB)\n"));
     EXPECT_EQ(orlen({"uninstall", "Foo Qux"}).status, 2);
     EXPECT_TRUE(home.isUntouched());
 
-    const Process::Outcome outcome = orlen({"uninstall", home.installed, "--yes"});
+    const Process::Outcome outcome = orlen({"uninstall", home.installed, "--by-name", "--yes"});
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_THAT(outcome.out, HasSubstr("~/.cache/foo-qux\n"));
     EXPECT_FALSE(TempHome::exists(home.installed));
@@ -100,6 +124,30 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     EXPECT_EQ(Persist::loadHistory().records.front().title, "Uninstall Foo Qux");
     EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
     EXPECT_TRUE(home.isUntouched());
+}
+
+TEST(AppsCommandTest, aServiceOfTheApplicationIsSwitchedOffFirst)
+{
+    const InstalledHome home;
+    const std::string calls = home.outside("calls");
+    home.script(home.outside("bin/systemctl"), "echo \"$*\" >> '" + calls + "'\n[ \"$2\" = disable ]\n");
+    const std::string unit =
+        home.file(".config/systemd/user/fooqux.service", "[Service]\nExecStart=" + home.installed + "\n");
+    const Process::Outcome stopped = orlen({"uninstall", "Foo Qux", "--yes"});
+    EXPECT_EQ(stopped.status, 0) << stopped.err;
+    EXPECT_FALSE(TempHome::exists(unit));
+    EXPECT_TRUE(TempHome::exists(home.path(".cache/foo-qux")));
+    EXPECT_THAT(TempHome::content(calls),
+                HasSubstr("--user disable fooqux.service\n--user stop fooqux.service\n"));
+    EXPECT_THAT(stopped.err, Not(HasSubstr("switched off")));
+
+    EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
+    home.script(home.outside("bin/systemctl"), "exit 1\n");
+    const Process::Outcome failed = orlen({"uninstall", "Foo Qux", "--yes"});
+    EXPECT_EQ(failed.status, 0);
+    EXPECT_FALSE(TempHome::exists(unit));
+    EXPECT_THAT(failed.err,
+                HasSubstr("fooqux.service couldn't be switched off; it may run until you log out."));
 }
 
 TEST(AppsCommandTest, whatCannotBeUninstalledIsAWrongCall)

@@ -51,23 +51,27 @@ TEST(AppDetailModelTest, leadsFromTheChosenLeftoversToTheReview)
     const std::string path = AppsOnDisk::image(home, "Applications/Kite.AppImage");
     AppsOnDisk::launcher(home, "org.example.Kite", "Kite", path);
     home.fileOfSize(".config/org.example.Kite/a", 8'192);
+    home.fileOfSize(".cache/org.example.Kite/b", 4'096);
     home.fileOfSize(".cache/kite/b", 4'096);
     Detail d;
     ASSERT_TRUE(d.show("Kite"));
     EXPECT_EQ(d.detail.heading(), "Leftovers found by bundle identifier (org.example.Kite)");
-    ASSERT_EQ(d.detail.rowCount(), 3);
+    ASSERT_EQ(d.detail.rowCount(), 4);
     EXPECT_EQ(d.text(0, AppDetailModel::Role::folder), "~/.config");
     EXPECT_EQ(d.text(0, AppDetailModel::Role::note), "");
-    EXPECT_EQ(d.text(1, AppDetailModel::Role::note), "Matched by name only");
-    EXPECT_EQ(d.detail.checkState(), Qt::Checked);
+    EXPECT_EQ(d.text(3, AppDetailModel::Role::note), "Matched by name only");
+    EXPECT_EQ(d.detail.chosenText(), "3 of 4 selected");
+    EXPECT_EQ(d.text(3, AppDetailModel::Role::checked), "false");
 
+    d.detail.toggleAll();
+    EXPECT_EQ(d.detail.checkState(), Qt::Checked);
     d.detail.toggleAll();
     EXPECT_EQ(d.detail.checkState(), Qt::Unchecked);
     EXPECT_EQ(d.detail.total(), "41 KB");
     d.detail.toggle(0);
     d.detail.toggle(7);
     EXPECT_EQ(d.detail.checkState(), Qt::PartiallyChecked);
-    EXPECT_EQ(d.detail.chosenText(), "1 of 3 selected");
+    EXPECT_EQ(d.detail.chosenText(), "1 of 4 selected");
 
     ASSERT_TRUE(d.detail.isReady());
     d.detail.review();

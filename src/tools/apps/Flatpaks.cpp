@@ -103,6 +103,9 @@ std::vector<AppInfo> installed()
 
 std::vector<AppInfo> removed()
 {
+    // From inside a sandbox the installations of the system cannot be seen: everything would seem removed.
+    if (exists(Places::current().systemRoot + "/.flatpak-info"))
+        return {};
     const std::string folder = Places::current().home + "/.var/app";
     std::vector<AppInfo> apps;
     for (const std::string& identifier : sortedFolders(folder)) {

@@ -17,8 +17,8 @@ struct Launcher {
     std::string icon;        ///< absolute path or theme name; may be empty
     std::string windowClass; ///< of its windows; may be empty
     std::string flatpak;     ///< identifier of the Flatpak it starts; else empty
-    /// The programs in `Exec` and `TryExec`: absolute paths, with and without links resolved, or a bare name
-    /// that is not one of the user's own programs.
+    /// The programs in `Exec` and `TryExec`: absolute paths, with and without links resolved, and what a
+    /// wrapper script there starts; or a bare name that is not one of the user's own programs.
     std::vector<std::string> programs;
 
     enum class Links { refused, followed };
@@ -27,6 +27,13 @@ struct Launcher {
 
     /// Whether it starts this file, or something inside this folder.
     [[nodiscard]] bool starts(const std::string& app) const;
+
+    /// Whether any of its programs is installed. Blocks on the disk.
+    [[nodiscard]] bool isProgramThere() const;
+
+    /// What an AppImage manager put before the name of this launcher's icon files, such as "gearlever_x_1";
+    /// empty if no manager made it.
+    [[nodiscard]] static std::string_view iconPrefix(std::string_view path);
 };
 
 } // namespace orlen

@@ -23,6 +23,8 @@ namespace LeftoverRoots {
 inline constexpr std::string_view kPortableLabel = "Portable data";
 /// Suffixes of what portable mode and updates put beside an AppImage.
 inline constexpr std::string_view kPortableSuffixes[] = {".home", ".config", ".zsync"};
+/// The folder beside AppImages in which their manager keeps icons.
+inline constexpr std::string_view kIconFolder = ".icons";
 
 } // namespace LeftoverRoots
 } // namespace orlen

@@ -47,24 +47,61 @@ bool matchesIdentifier(std::string_view entry, Kind kind, const Subject& subject
     case Kind::agents:
         return matchesLibrary(entry, subject);
     case Kind::settings:
+    case Kind::configs:
         return matchesSettings(entry, subject);
     case Kind::container:
         return entry == subject.identifier; // what is longer is another application
     case Kind::metadata:
         return isNamedAfter(entry, subject.identifier);
+    case Kind::home:
     case Kind::launchers:
     case Kind::units:
+    case Kind::links:
         return false;
     }
     return false;
 }
 
+bool isForm(std::string_view entry, const Subject& subject)
+{
+    return std::find(subject.forms.begin(), subject.forms.end(), entry) != subject.forms.end();
+}
+
+bool isFormWithRc(std::string_view entry, const Subject& subject)
+{
+    return entry.ends_with("rc") && isForm(entry.substr(0, entry.size() - 2), subject);
+}
+
+/// Hidden names in the home folder that many programs read, whoever made them.
+bool isEverybodys(std::string_view name)
+{
+    constexpr std::string_view kNames[] = {"profile", "login", "session", "screen", "wine"};
+    return std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames);
+}
+
 bool matchesName(std::string_view entry, Kind kind, const Subject& subject)
 {
-    if (kind == Kind::namedLibrary)
+    switch (kind) {
+    case Kind::namedLibrary:
         return !subject.name.empty() && entry == subject.name;
-    return kind == Kind::settings &&
-           std::find(subject.forms.begin(), subject.forms.end(), entry) != subject.forms.end();
+    case Kind::settings:
+        return isForm(entry, subject);
+    case Kind::configs:
+        return isForm(entry, subject) || isFormWithRc(entry, subject);
+    case Kind::home: {
+        const std::string_view name = entry.starts_with('.') ? entry.substr(1) : std::string_view();
+        return !isEverybodys(name) && (isForm(name, subject) || isFormWithRc(name, subject));
+    }
+    case Kind::library:
+    case Kind::agents:
+    case Kind::container:
+    case Kind::metadata:
+    case Kind::launchers:
+    case Kind::units:
+    case Kind::links:
+        return false;
+    }
+    return false;
 }
 
 } // namespace

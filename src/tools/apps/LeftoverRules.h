@@ -13,10 +13,13 @@ enum class Kind {
     namedLibrary, ///< the same, and by the application's name
     agents,       ///< as `library`, and property lists by their label
     settings,     ///< in the base directories: by identifier and name
+    configs,      ///< the same, and files called "<name>rc"
+    home,         ///< hidden names in the home folder: by name, also with "rc" at the end
     container,    ///< exactly the identifier
     metadata,     ///< by a prefix of the name
     launchers,    ///< by what they start
     units,        ///< by what they start
+    links,        ///< links to programs: by where they lead
 };
 
 /// What is known about the application.

@@ -1,6 +1,7 @@
 #include "tools/apps/LeftoverSearch.h"
 
 #include "clean/Safety.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
@@ -9,8 +10,11 @@
 #include "platform/text/PathText.h"
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
+#include "tools/apps/FolderLook.h"
+#include "tools/apps/Launcher.h"
 #include "tools/apps/Leftovers.h"
 #include "tools/apps/RemainingApps.h"
+#include "tools/apps/WrapperScript.h"
 #include "tools/startup/UnitFile.h"
 
 #include <algorithm>
@@ -30,10 +34,13 @@ std::string noteOf(const LeftoverRoot& root, Match match)
     case Kind::agents:
         return std::string(root.label);
     case Kind::settings:
+    case Kind::configs:
+    case Kind::home:
     case Kind::container:
     case Kind::metadata:
     case Kind::launchers:
     case Kind::units:
+    case Kind::links:
         break;
     }
     return match == Match::nameOnly ? std::string(Leftovers::kByNameOnly) : std::string();
@@ -47,7 +54,7 @@ LeftoverSearch::LeftoverSearch(LeftoverRules::Subject subject, const RemainingAp
 {
 }
 
-std::vector<FileEntry> LeftoverSearch::run(const std::stop_token& stop)
+std::vector<Leftover> LeftoverSearch::run(const std::stop_token& stop)
 {
     m_found.clear();
     for (const LeftoverRoot& root : LeftoverRoots::all()) {
@@ -57,15 +64,18 @@ std::vector<FileEntry> LeftoverSearch::run(const std::stop_token& stop)
     }
     if (m_app != nullptr && m_app->source == AppSource::appImage)
         lookBeside(m_app->path);
+    lookForIcon();
     std::vector<std::string> paths;
     for (const Candidate& candidate : m_found)
         paths.push_back(candidate.path);
     std::vector<FileEntry> entries = FS::entries(paths, {}, stop);
+    std::vector<Leftover> leftovers;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!m_found[i].note.empty())
             entries[i].note = m_found[i].note;
+        leftovers.push_back({std::move(entries[i]), m_found[i].isByNameOnly});
     }
-    return entries;
+    return leftovers;
 }
 
 void LeftoverSearch::lookInto(const LeftoverRoot& root)
@@ -77,14 +87,25 @@ void LeftoverSearch::lookInto(const LeftoverRoot& root)
             continue;
         const Match match = judged(root, name);
         if (match != Match::none)
-            offer(PathText::join(root.folder, name), noteOf(root, match));
+            offer({PathText::join(root.folder, name), noteOf(root, match),
+                   match == Match::nameOnly && root.kind != Kind::namedLibrary, root.kind == Kind::links});
     }
 }
 
 void LeftoverSearch::lookBeside(const std::string& image)
 {
     for (const std::string_view suffix : LeftoverRoots::kPortableSuffixes)
-        offer(image + std::string(suffix), {});
+        offer({image + std::string(suffix), {}});
+}
+
+/// A manager keeps the icon beside the application, where no root is.
+void LeftoverSearch::lookForIcon()
+{
+    if (m_app == nullptr || !m_app->icon.starts_with('/'))
+        return;
+    const std::string icon = Places::current().normalized(m_app->icon);
+    if (PathText::parent(icon) == PathText::join(PathText::parent(m_app->path), LeftoverRoots::kIconFolder))
+        offer({icon, {}});
 }
 
 Match LeftoverSearch::judged(const LeftoverRoot& root, const std::string& name) const
@@ -100,7 +121,9 @@ Match LeftoverSearch::judged(const LeftoverRoot& root, const std::string& name) 
     const std::string path = PathText::join(root.folder, name);
     const bool isOwn = (root.kind == Kind::agents && isLabelled(path)) ||
                        (root.kind == Kind::launchers && isLauncher(path)) ||
-                       (root.kind == Kind::units && isUnit(path));
+                       (root.kind == Kind::units && isUnit(path)) ||
+                       (root.kind == Kind::links && isLinkToApp(path)) ||
+                       (root.kind == Kind::metadata && isManagersIcon(name));
     return isOwn ? Match::identifier : Match::none;
 }
 
@@ -121,14 +144,41 @@ bool LeftoverSearch::isLauncher(const std::string& path) const
 
 bool LeftoverSearch::isUnit(const std::string& path) const
 {
-    const Places& places = Places::current();
     if (m_app == nullptr || PathText::extension(path) != "service")
         return false;
-    const auto unit = UnitFile::read(path, places.home);
+    const auto unit = UnitFile::read(path, Places::current().home);
     if (!unit || !unit->program.starts_with('/'))
         return false;
-    const std::string target = resolved(unit->program);
-    return PathText::isAtOrBelow(places.normalized(unit->program), m_app->path) ||
+    const std::string wrapped = WrapperScript::target(resolved(unit->program));
+    return isApps(unit->program) || (!wrapped.empty() && isApps(wrapped));
+}
+
+/// Leads nowhere once the application is gone.
+bool LeftoverSearch::isLinkToApp(const std::string& path) const
+{
+    if (m_app == nullptr)
+        return false;
+    const auto end = linkEnd(path);
+    return end.ok() && end.value() != path && isApps(end.value());
+}
+
+bool LeftoverSearch::isManagersIcon(const std::string& name) const
+{
+    if (m_app == nullptr)
+        return false;
+    return std::any_of(m_app->launchers.begin(), m_app->launchers.end(), [&](const std::string& launcher) {
+        const std::string_view prefix = Launcher::iconPrefix(launcher);
+        return !prefix.empty() && name.starts_with(prefix) &&
+               (name.size() == prefix.size() || name.find_first_of("_-.", prefix.size()) == prefix.size());
+    });
+}
+
+/// Whether the path is the application or lies inside it, with or without links resolved.
+bool LeftoverSearch::isApps(const std::string& program) const
+{
+    const Places& places = Places::current();
+    const std::string target = resolved(program);
+    return PathText::isAtOrBelow(places.normalized(program), m_app->path) ||
            (!target.empty() && PathText::isAtOrBelow(places.normalized(target), m_app->path));
 }
 
@@ -145,15 +195,19 @@ bool LeftoverSearch::isOffered(const std::string& path) const
     });
 }
 
-/// Every candidate passes through here. Links are kept: their targets are elsewhere.
-void LeftoverSearch::offer(std::string path, std::string note)
+/// Every candidate passes through here. Links are kept unless they are programs: their targets are elsewhere.
+void LeftoverSearch::offer(Candidate candidate)
 {
+    const std::string& path = candidate.path;
     const auto status = statusOf(path);
-    if (!status.ok() || status.value().type == FileType::link || Safety::isProtected(path) ||
-        m_remaining.lieIn(path) || overlapsApp(path) || isOffered(path))
+    if (!status.ok() || (status.value().type == FileType::link) != candidate.isLink ||
+        Safety::isProtected(path) || m_remaining.lieIn(path) || overlapsApp(path) || isOffered(path))
+        return;
+    // A name alone is too little to offer saved games and the like.
+    if (candidate.isByNameOnly && FolderLook::at(path, {}).isPersonal)
         return;
     std::erase_if(m_found, [&](const Candidate& inside) { return PathText::isAtOrBelow(inside.path, path); });
-    m_found.push_back({std::move(path), std::move(note)});
+    m_found.push_back(std::move(candidate));
 }
 
 } // namespace orlen

@@ -57,15 +57,19 @@ bool isApple(std::string_view bundleID)
 
 std::string_view label(std::string_view path)
 {
+    using Kind = LeftoverRules::Kind;
+    const bool isPortable =
+        std::any_of(std::begin(LeftoverRoots::kPortableSuffixes), std::end(LeftoverRoots::kPortableSuffixes),
+                    [&](std::string_view suffix) { return path.ends_with(suffix); });
+    const bool isHidden = PathText::lastComponent(path).starts_with('.');
     for (const LeftoverRoot& root : LeftoverRoots::all()) {
-        if (root.folder == PathText::parent(path))
+        // An AppImage may itself be where launchers are.
+        const bool isAmongPrograms = root.kind == Kind::launchers || root.kind == Kind::links;
+        if (root.folder == PathText::parent(path) && !(isPortable && isAmongPrograms) &&
+            (isHidden || root.kind != Kind::home))
             return root.label;
     }
-    for (const std::string_view suffix : LeftoverRoots::kPortableSuffixes) {
-        if (path.ends_with(suffix))
-            return LeftoverRoots::kPortableLabel;
-    }
-    return {};
+    return isPortable ? LeftoverRoots::kPortableLabel : std::string_view();
 }
 
 std::vector<FileEntry> find(const std::string& bundleID, const std::string& name, const std::stop_token& stop)
@@ -75,7 +79,10 @@ std::vector<FileEntry> find(const std::string& bundleID, const std::string& name
     const RemainingApps remaining = RemainingApps::all(stop);
     LeftoverRules::Subject subject = subjectOf(bundleID, name);
     keepOwnForms(subject, remaining, {});
-    return LeftoverSearch(std::move(subject), remaining, nullptr).run(stop);
+    std::vector<FileEntry> entries;
+    for (Leftover& leftover : LeftoverSearch(std::move(subject), remaining, nullptr).run(stop))
+        entries.push_back(std::move(leftover.entry));
+    return entries;
 }
 
 Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
@@ -93,7 +100,8 @@ Finding find(const AppInfo& app, std::span<const AppInfo> listed, const std::sto
     LeftoverRules::Subject subject = subjectOf(app.bundleID, app.name);
     const std::string file = LanguageTools::lowerCase(PathText::lastComponent(app.path));
     keepOwnForms(subject, remaining, {file});
-    finding.entries = LeftoverSearch(std::move(subject), remaining, &app).run(stop);
+    for (Leftover& leftover : LeftoverSearch(std::move(subject), remaining, &app).run(stop))
+        (leftover.isByNameOnly ? finding.byName : finding.entries).push_back(std::move(leftover.entry));
     return finding;
 }
 

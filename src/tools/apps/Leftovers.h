@@ -28,7 +28,8 @@ inline constexpr std::string_view kByNameOnly = "Matched by name only";
 
 /// The leftovers of one application of the list.
 struct Finding {
-    std::vector<FileEntry> entries;
+    std::vector<FileEntry> entries; ///< surely the application's
+    std::vector<FileEntry> byName;  ///< may belong to something else of that name: never chosen beforehand
     /// Another copy is installed and still uses the files: none are offered.
     bool isOtherCopyInstalled = false;
 };

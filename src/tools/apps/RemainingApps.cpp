@@ -1,6 +1,5 @@
 #include "tools/apps/RemainingApps.h"
 
-#include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/text/LanguageTools.h"
@@ -8,6 +7,7 @@
 #include "tools/apps/AppNames.h"
 #include "tools/apps/Launchers.h"
 #include "tools/apps/LeftoverRules.h"
+#include "tools/apps/WrapperScript.h"
 
 #include <algorithm>
 
@@ -17,19 +17,6 @@ namespace {
 
 /// Every AppImage contains one of that name.
 constexpr std::string_view kCommonProgram = "AppRun";
-
-/// A prepared root has its own programs, which its files name as on any system.
-bool isProgramThere(const std::string& program)
-{
-    const Places& places = Places::current();
-    const bool isInRoot = PathText::isAtOrBelow(program, PathText::parent(places.systemRoot));
-    return program.starts_with('/') && exists(isInRoot ? program : places.systemRoot + program);
-}
-
-bool hasExistingProgram(const Launcher& launcher)
-{
-    return std::any_of(launcher.programs.begin(), launcher.programs.end(), isProgramThere);
-}
 
 } // namespace
 
@@ -52,7 +39,7 @@ RemainingApps RemainingApps::without(const AppInfo& app, std::span<const AppInfo
     }
     // Launchers of an older copy often stay behind; ignore those whose program is gone.
     for (const Launcher& launcher : Launchers::ofUser()) {
-        if (!launcher.starts(app.path) && hasExistingProgram(launcher))
+        if (!launcher.starts(app.path) && launcher.isProgramThere())
             remaining.add(launcher);
     }
     for (const AppInfo& other : listed) {
@@ -74,11 +61,20 @@ bool RemainingApps::hasProgram(const std::string& name) const
     for (const std::string& folder : {places.systemRoot + "/usr/local/bin", places.systemRoot + "/usr/bin",
                                       places.systemRoot + "/usr/games", places.systemRoot + "/snap/bin",
                                       places.home + "/.local/bin", places.home + "/bin"}) {
-        const std::string target = places.normalized(resolved(PathText::join(folder, name)));
-        if (target.starts_with('/') && (m_app.empty() || !PathText::isAtOrBelow(target, m_app)))
+        const std::string program = resolved(PathText::join(folder, name));
+        if (!program.empty() && !isAppItself(program) && !isAppItself(WrapperScript::target(program)))
             return true;
     }
     return false;
+}
+
+/// Whether the program is the application left out, or a part of it.
+bool RemainingApps::isAppItself(const std::string& program) const
+{
+    const Places& places = Places::current();
+    return !m_app.empty() && !program.empty() &&
+           (PathText::isAtOrBelow(places.normalized(program), m_app) ||
+            PathText::isAtOrBelow(places.normalized(resolved(program)), m_app));
 }
 
 bool RemainingApps::claims(std::string_view entry, std::string_view identifier) const

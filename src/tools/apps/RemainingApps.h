@@ -38,6 +38,7 @@ private:
     void add(const AppInfo& app);
     void addWords(std::string_view name);
     void addIdentifier(std::string_view identifier);
+    [[nodiscard]] bool isAppItself(const std::string& program) const;
 
     std::string m_app; ///< path of the application left out; may be empty
     std::set<std::string, std::less<>> m_words;

@@ -51,7 +51,50 @@ std::string imageOf(const std::string& snap, const std::string& folder)
     return newest;
 }
 
+/// Whether the snap is installed, or may be. A second instance of one is called "name_key".
+bool mayBeInstalled(const std::string& name)
+{
+    const std::string& root = Places::current().systemRoot;
+    const std::string images = root + "/var/lib/snapd/snaps";
+    // Without the folder there is no Snap; one that cannot be read tells nothing.
+    if (exists(images) && !isListable(images))
+        return true;
+    return !imageOf(name, images).empty() || exists(PathText::join(root + "/snap", name)) ||
+           exists(PathText::join(root + "/var/lib/snapd/snap", name));
+}
+
+std::vector<std::string> realFolders(const std::string& folder)
+{
+    std::vector<std::string> names = listNames(folder);
+    std::erase_if(names, [&](const std::string& name) {
+        return !PathText::isValidUtf8(name) || !isRealFolder(PathText::join(folder, name));
+    });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 } // namespace
+
+std::vector<Removed> removed()
+{
+    const std::string& home = Places::current().home;
+    std::vector<Removed> snaps;
+    for (const std::string& name : realFolders(home + "/snap")) {
+        if (!isPlain(name.substr(0, name.find('_'))) || mayBeInstalled(name))
+            continue;
+        Removed snap{name, {}};
+        const std::string folder = PathText::join(home + "/snap", name);
+        for (const std::string& part : realFolders(folder))
+            snap.folders.push_back(PathText::join(folder, part));
+        snaps.push_back(std::move(snap));
+    }
+    const std::string hidden = home + "/.snap/data";
+    for (const std::string& name : realFolders(hidden)) {
+        if (isPlain(name.substr(0, name.find('_'))) && !mayBeInstalled(name))
+            snaps.push_back({name, {PathText::join(hidden, name)}});
+    }
+    return snaps;
+}
 
 std::vector<AppInfo> installed()
 {

@@ -4,14 +4,12 @@
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
 #include "window/lists/DisplayText.h"
-#include "window/shell/WindowState.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 
 #include <algorithm>
 #include <chrono>
-#include <iterator>
 #include <span>
 #include <utility>
 
@@ -30,9 +28,8 @@ struct AppDetailModel::Found {
     bool isRunning = false;
 };
 
-AppDetailModel::AppDetailModel(AppModel& app) : m_app(app), m_workers(*this)
+AppDetailModel::AppDetailModel(AppModel& app) : LeftoverListModel(app), m_workers(*this)
 {
-    connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &AppDetailModel::followSheet);
     m_runningTimer.setSingleShot(true);
     m_runningTimer.setInterval(kRunningInterval);
     connect(&m_runningTimer, &QTimer::timeout, this, &AppDetailModel::checkRunning);
@@ -56,14 +53,12 @@ void AppDetailModel::show(int listRow)
         return;
     m_look.drop();
     m_runningTimer.stop();
-    resetRows(m_rows, {});
     m_info = m_list->apps()[static_cast<std::size_t>(listRow)];
     m_isOtherCopyInstalled = false;
     m_isRunning = false;
     m_isLoading = m_info.isRemovable();
+    showRows({});
     setOpen(true);
-    Q_EMIT changed();
-    Q_EMIT selectionChanged();
     if (!m_info.isRemovable())
         return;
     m_workers.start(
@@ -90,10 +85,10 @@ AppDetailModel::Found AppDetailModel::look(const AppInfo& app, const std::vector
 void AppDetailModel::take(Found found)
 {
     std::vector<Row> rows;
-    rows.reserve(found.leftovers.entries.size());
     for (FileEntry& entry : found.leftovers.entries)
         rows.push_back({std::move(entry), true});
-    resetRows(m_rows, std::move(rows));
+    for (FileEntry& entry : found.leftovers.byName)
+        rows.push_back({std::move(entry), false});
     m_isOtherCopyInstalled = found.leftovers.isOtherCopyInstalled;
     m_isRunning = found.isRunning;
     if (found.size)
@@ -101,8 +96,7 @@ void AppDetailModel::take(Found found)
     m_isLoading = false;
     if (m_isRunning)
         m_runningTimer.start();
-    Q_EMIT changed();
-    Q_EMIT selectionChanged();
+    showRows(std::move(rows));
 }
 
 void AppDetailModel::checkRunning()
@@ -120,7 +114,7 @@ void AppDetailModel::checkRunning()
 /// The application's size may have arrived, or the application may be gone.
 void AppDetailModel::followList()
 {
-    if (!m_isOpen || m_list->isLoading())
+    if (!isOpen() || m_list->isLoading())
         return;
     const auto& apps = m_list->apps();
     const auto same =
@@ -138,28 +132,7 @@ void AppDetailModel::close()
 {
     m_look.drop();
     m_runningTimer.stop();
-    setOpen(false);
-}
-
-void AppDetailModel::toggle(int row)
-{
-    if (!hasRow(row))
-        return;
-    bool& isChecked = m_rows[static_cast<std::size_t>(row)].isChecked;
-    isChecked = !isChecked;
-    rowsChanged(row, row, Role::checked);
-    Q_EMIT selectionChanged();
-}
-
-void AppDetailModel::toggleAll()
-{
-    if (m_rows.empty())
-        return;
-    const bool isChecked = checkState() != Qt::Checked;
-    for (Row& row : m_rows)
-        row.isChecked = isChecked;
-    allChanged(Role::checked);
-    Q_EMIT selectionChanged();
+    LeftoverListModel::close();
 }
 
 void AppDetailModel::copyCommand() const
@@ -167,66 +140,20 @@ void AppDetailModel::copyCommand() const
     QGuiApplication::clipboard()->setText(command());
 }
 
-void AppDetailModel::review()
+CleanPlan AppDetailModel::plan() const
 {
-    if (!m_isOpen || !isReady())
-        return;
-    CleanPlan plan = Uninstall::plan(m_info, chosen());
-    close();
-    m_reviewed = plan.id;
-    WindowState::of(m_app).setSheet(PlanSheet{std::move(plan)});
+    return Uninstall::plan(m_info, chosen());
 }
 
-void AppDetailModel::followSheet()
+void AppDetailModel::resumed()
 {
-    const auto* review =
-        WindowState::of(m_app).sheet() ? std::get_if<PlanSheet>(&*WindowState::of(m_app).sheet()) : nullptr;
-    if (!m_reviewed || (review != nullptr && review->plan.id == *m_reviewed))
-        return;
-    m_reviewed.reset();
-    // A confirmed review also closes, and the clean-up begins only after that.
-    QMetaObject::invokeMethod(this, &AppDetailModel::resume, Qt::QueuedConnection);
-}
-
-/// Reopens the application as it was.
-void AppDetailModel::resume()
-{
-    if (m_isOpen || WindowState::of(m_app).sheet() || m_app.cleanUps()->cleaning())
-        return;
-    setOpen(true);
     checkRunning();
     followList();
-}
-
-void AppDetailModel::setOpen(bool isOpen)
-{
-    if (std::exchange(m_isOpen, isOpen) != isOpen)
-        Q_EMIT openChanged();
-}
-
-std::vector<FileEntry> AppDetailModel::chosen() const
-{
-    std::vector<FileEntry> entries;
-    for (const Row& row : m_rows) {
-        if (row.isChecked)
-            entries.push_back(row.entry);
-    }
-    return entries;
 }
 
 QString AppDetailModel::quitFirst() const
 {
     return m_isRunning ? QStringLiteral("Quit %1 first").arg(name()) : QString();
-}
-
-Qt::CheckState AppDetailModel::checkState() const
-{
-    return checkStateOf(std::ranges::count(m_rows, true, &Row::isChecked), m_rows.size());
-}
-
-QString AppDetailModel::chosenText() const
-{
-    return DisplayText::selectedOf(std::ssize(chosen()), length());
 }
 
 QString AppDetailModel::total() const
@@ -235,24 +162,6 @@ QString AppDetailModel::total() const
     for (const FileEntry& entry : chosen())
         bytes = checkedAdd(bytes, entry.size);
     return m_info.size ? DisplayText::size(bytes) : QString();
-}
-
-QVariant AppDetailModel::value(std::size_t number, int role) const
-{
-    const auto& [entry, isChecked] = m_rows[number];
-    switch (static_cast<Role>(role)) {
-    case Role::name:
-        return DisplayText::nameOf(entry.path);
-    case Role::folder:
-        return DisplayText::folderOf(entry.path);
-    case Role::size:
-        return DisplayText::size(entry.size);
-    case Role::note:
-        return DisplayText::path(entry.note.value_or(""));
-    case Role::checked:
-        return isChecked;
-    }
-    return {};
 }
 
 } // namespace orlen

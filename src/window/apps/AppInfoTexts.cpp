@@ -51,6 +51,12 @@ QString summary(std::size_t applications, std::int64_t bytes)
     return bytes == 0 ? count : QStringLiteral("%1 · %2").arg(count, DisplayText::size(bytes));
 }
 
+QString foldersSummary(std::size_t folders, std::int64_t bytes)
+{
+    return QStringLiteral("%1 · %2").arg(DisplayText::counted(static_cast<std::int64_t>(folders), "folder"),
+                                         DisplayText::size(bytes));
+}
+
 QString origin(const AppInfo& app)
 {
     return QStringLiteral("%1 · %2").arg(kindName(app.source), DisplayText::folderOf(app.path));

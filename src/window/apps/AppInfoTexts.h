@@ -12,6 +12,8 @@ namespace orlen::AppInfoTexts {
 
 /// "12 applications · 4.2 GB"; no size while it is 0.
 [[nodiscard]] QString summary(std::size_t applications, std::int64_t bytes);
+/// "3 folders · 4.2 MB", of what applications left behind.
+[[nodiscard]] QString foldersSummary(std::size_t folders, std::int64_t bytes);
 /// Kind and place of the installation: "AppImage · ~/Applications".
 [[nodiscard]] QString origin(const AppInfo& app);
 /// The icon's id for `AppIconProvider`.

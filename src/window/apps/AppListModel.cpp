@@ -66,6 +66,8 @@ void AppListModel::load()
 
 void AppListModel::show(std::vector<AppInfo> apps)
 {
+    // Data of removed Flatpaks is shown with what other applications left behind.
+    std::erase_if(apps, [](const AppInfo& app) { return app.source == AppSource::removedFlatpak; });
     // Until measured again, the old size is a better guess than none.
     std::map<std::string, std::optional<std::int64_t>> known;
     for (const AppInfo& app : m_apps)

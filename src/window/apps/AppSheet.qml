@@ -10,7 +10,7 @@ Sheet {
     title: root.detail.name
     wantedWidth: Theme.widened(760)
     wantedHeight: root.detail.removable
-                  ? Math.max(440, Math.min(640, header.height + strip.height + list.contentHeight + footer.height + 28))
+                  ? Math.max(440, Math.min(640, header.height + list.contentHeight + footer.height))
                   : header.height + advice.height + 32
     onClosed: root.detail.close()
     onOpened: list.forceActiveFocus(Qt.PopupFocusReason)
@@ -51,100 +51,21 @@ Sheet {
             detail: root.detail
         }
 
-        Rectangle {
-            id: strip
+        LeftoverChecklist {
+            id: list
 
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: header.bottom
-            visible: root.detail.removable
-            height: Theme.grown(44)
-            color: Theme.inset
-
-            CheckMark {
-                id: all
-
-                objectName: "leftoversAll"
-                x: 20
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.detail.count > 0
-                checkState: root.detail.checkState
-                nextCheckState: () => root.detail.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
-                text: heading.text
-                Accessible.name: heading.text
-                onClicked: root.detail.toggleAll()
-            }
-
-            SmallText {
-                id: heading
-
-                anchors.left: all.visible ? all.right : parent.left
-                anchors.leftMargin: all.visible ? 10 : 24
-                anchors.right: figures.left
-                anchors.rightMargin: Theme.spaceL
-                anchors.verticalCenter: parent.verticalCenter
-                text: root.detail.heading
-                elide: Text.ElideMiddle
-                color: Theme.text
-                font.weight: Font.DemiBold
-            }
-
-            CaptionText {
-                id: figures
-
-                anchors.right: parent.right
-                anchors.rightMargin: Theme.spaceXl
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.detail.count > 0
-                text: root.detail.chosenText
-                color: Theme.secondary
-            }
-        }
-
-        KeyedList {
-            id: list
-
-            pointed: true
-            objectName: "leftoverList"
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.top: strip.bottom
             anchors.bottom: footer.top
-            anchors.leftMargin: Theme.spaceM
-            anchors.rightMargin: 2
-            topMargin: Theme.spaceS
-            bottomMargin: Theme.spaceS
             visible: root.detail.removable
-            reuseItems: true
-            model: root.detail
-            Accessible.name: heading.text
-
-            onActiveFocusChanged: {
-                if (!list.activeFocus)
-                    list.pointed = false;
-            }
-            Keys.onSpacePressed: root.detail.toggle(list.currentIndex)
-            Keys.onReturnPressed: root.detail.review()
-            Keys.onEnterPressed: root.detail.review()
-
-            delegate: LeftoverRow {
-                id: row
-
-                required property int index
-
-                width: ListView.view.width - 10
-                ringed: ListView.isCurrentItem && list.showsFocus
-                onToggled: {
-                    list.pointed = true;
-                    list.currentIndex = row.index;
-                    root.detail.toggle(row.index);
-                }
-            }
+            leftovers: root.detail
         }
 
         Column {
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.verticalCenter: list.verticalCenter
+            anchors.verticalCenterOffset: list.stripHeight / 2
             width: parent.width - 96
             spacing: Theme.spaceS
             visible: root.detail.removable && root.detail.count === 0

@@ -7,6 +7,7 @@ Item {
 
     required property MainView view
     readonly property real sideMargin: Theme.sideMargin(root.width)
+    readonly property bool isCovered: chosen.open || behind.open || root.view.navigation.sheet !== Navigation.NoSheet
 
     AppListModel {
         id: apps
@@ -25,8 +26,18 @@ Item {
         list: apps
     }
 
+    LeftBehindModel {
+        id: behind
+
+        list: apps
+    }
+
     AppSheet {
         detail: chosen
+    }
+
+    LeftBehindSheet {
+        leftovers: behind
     }
 
     Shortcut {
@@ -78,6 +89,7 @@ Item {
         height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
 
         readonly property real room: root.height - card.y - Theme.pageMargin
+                                     - (left.visible ? left.height + Theme.spaceM : 0)
 
         CaptionText {
             id: summary
@@ -165,6 +177,9 @@ Item {
                 width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
+                    // Taps on a sheet reach the rows below it.
+                    if (root.isCovered)
+                        return;
                     list.forceActiveFocus(Qt.MouseFocusReason);
                     list.pointed = true;
                     list.openRow(row.index);
@@ -193,5 +208,16 @@ Item {
                 search.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
+    }
+
+    LeftBehindCard {
+        id: left
+
+        anchors.left: card.left
+        anchors.right: card.right
+        anchors.top: card.bottom
+        anchors.topMargin: Theme.spaceM
+        visible: behind.count > 0 && search.text === ""
+        leftovers: behind
     }
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// One leftover with its check box.
+/// One leftover with its check box, and a button to look at it while it is hovered or current.
 ListRow {
     id: root
 
@@ -10,7 +10,9 @@ ListRow {
     required property string size
     required property string note
     required property bool checked
+    property bool isCurrent: false
     signal toggled
+    signal revealRequested
 
     implicitHeight: Theme.grown(52)
     Accessible.role: Accessible.CheckBox
@@ -40,12 +42,27 @@ ListRow {
     RowTexts {
         anchors.left: mark.right
         anchors.leftMargin: Theme.spaceS
-        anchors.right: chip.visible ? chip.left : bytes.left
-        anchors.rightMargin: Theme.spaceL
+        anchors.right: look.left
+        anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.folder
         placeInk: root.hovered ? Theme.secondary : Theme.tertiary
+    }
+
+    IconButton {
+        id: look
+
+        objectName: "revealLeftover"
+        anchors.right: chip.visible ? chip.left : bytes.left
+        anchors.rightMargin: Theme.spaceS
+        anchors.verticalCenter: parent.verticalCenter
+        opacity: root.hovered || root.isCurrent ? 1 : 0
+        side: 32
+        focusPolicy: Qt.NoFocus
+        symbol: "reveal"
+        text: Strings.reveal
+        onClicked: root.revealRequested()
     }
 
     RatingChip {

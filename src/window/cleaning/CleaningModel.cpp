@@ -1,6 +1,9 @@
 #include "window/cleaning/CleaningModel.h"
 
+#include "app/AppTexts.h"
 #include "window/lists/DisplayText.h"
+
+#include <QStringList>
 
 #include <utility>
 
@@ -46,6 +49,14 @@ double CleaningModel::fraction() const
     if (m_state.finished)
         return 1;
     return m_state.total <= 0 ? 0 : static_cast<double>(m_state.done) / m_state.total;
+}
+
+QString CleaningModel::stillOn() const
+{
+    QStringList sentences;
+    for (const std::string& service : m_state.servicesStillOn)
+        sentences << DisplayText::path(AppTexts::stillOn(service));
+    return sentences.join(u'\n');
 }
 
 QString CleaningModel::progressText() const

@@ -35,6 +35,8 @@ class CleaningModel : public QObject {
     Q_PROPERTY(orlen::FailureListModel* failures READ failures CONSTANT)
     /// Whether the clean-up is in the history.
     Q_PROPERTY(bool recorded READ isRecorded NOTIFY changed)
+    /// What is told of services that could not be switched off; usually empty.
+    Q_PROPERTY(QString stillOn READ stillOn NOTIFY changed)
     /// Whether the user has asked to stop.
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
 
@@ -53,6 +55,7 @@ public:
     [[nodiscard]] QString freedText() const { return DisplayText::size(m_state.freed); }
     [[nodiscard]] FailureListModel* failures() { return &m_failures; }
     [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }
+    [[nodiscard]] QString stillOn() const;
     [[nodiscard]] bool isStopping() const { return m_isStopping && !m_state.finished; }
 
     /// Stops the clean-up after the current item.

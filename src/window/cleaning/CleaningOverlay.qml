@@ -167,6 +167,14 @@ Sheet {
                 color: Theme.reviewText
             }
 
+            Paragraph {
+                width: parent.width
+                visible: cleaning.finished && cleaning.stillOn !== ""
+                horizontalAlignment: Text.AlignHCenter
+                text: cleaning.stillOn
+                color: Theme.reviewText
+            }
+
             Item {
                 width: 1
                 height: 4

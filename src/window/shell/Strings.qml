@@ -162,6 +162,8 @@ QtObject {
     readonly property string otherCopy: "Another copy is installed"
     readonly property string otherCopyNote: "It still uses the files of this one, so they stay."
     readonly property string copyCommand: "Copy command"
+    readonly property string leftBehind: "Left behind by apps that are gone"
+    readonly property string leftBehindLead: "No program of these names was found. Look inside first: only you know what you still need."
 
     // Startup Items
     readonly property string startupLead: "What starts when you log in. Disabling takes effect now and stays off at the next login."

@@ -34,6 +34,13 @@ struct AppHome : TempHome {
         return launcher(outside("system/usr/share/applications/" + std::string(name)), title, command);
     }
 
+    std::string script(std::string_view name, std::string_view commands) const
+    {
+        const std::string path = file(name, "#!/bin/sh\n" + std::string(commands));
+        setMode(path, 0755);
+        return path;
+    }
+
     std::string executable(std::string_view name) const
     {
         std::string path = file(name);

@@ -107,6 +107,13 @@ TEST(LeftoversTest, theBaseFoldersAreSearchedByTheirOwnRules)
         {".cache/my_foo", true, true},
         {".local/state/MyFoo", true, true},
         {".cache/my foo.log", false, false},
+        {".config/my-foorc", true, true},
+        {".local/share/my-foorc", false, false},
+        {".my_foo", true, true},
+        {".myfoorc", true, true},
+        {".my foo.conf", false, false},
+        {"my foo", false, false},
+        {".org.foo.Foo", false, false},
         {".cache/foo", false, false},
         {".cache/org.foo", false, false},
         {".var/app/org.foo.Foo/x", true, false},
@@ -156,11 +163,14 @@ TEST(LeftoversTest, linksOddNamesAndProtectedPathsAreNeverOffered)
     home.link(".config/Fooapp", home.folder("Documents/settings"));
     home.folder(".cache/fooapp\xFF");
     home.file(".local/share/Fooapp/nested");
+    home.file(".fooapp/saves/one");
     home.link(".local/state", home.folder("states"));
     home.folder("states/fooapp");
     home.folder(".config/BraveSoftware");
     home.file(".ssh/key");
     EXPECT_THAT(names(home, Leftovers::find("", "Fooapp")), ElementsAre(".local/share/Fooapp"));
+    home.file(".profile");
+    EXPECT_THAT(Leftovers::find("", "Profile"), IsEmpty());
     EXPECT_THAT(Leftovers::find("", "BraveSoftware"), IsEmpty());
     EXPECT_THAT(Leftovers::find("", ".ssh"), IsEmpty());
 }
@@ -198,13 +208,50 @@ TEST(LeftoversTest, whatStartsTheApplicationGoesWithIt)
     home.folder("Applications/Foo Bar.AppImage.config");
     home.folder("Applications/Foo Bar.AppImage.other");
     home.folder(".cache/foo-bar");
+    home.link(".local/bin/foo", image);
+    home.link(".local/bin/again", home.path(".local/bin/foo"));
+    home.link(".local/bin/other", home.file("Applications/other"));
     const Leftovers::Finding finding = found("Foo Bar");
     EXPECT_FALSE(finding.isOtherCopyInstalled);
     EXPECT_THAT(names(home, finding.entries),
-                ElementsAre(".cache/foo-bar", ".config/autostart/x.desktop",
-                            ".local/share/applications/x.desktop", ".config/systemd/user/foo.service",
-                            "Applications/Foo Bar.AppImage.home", "Applications/Foo Bar.AppImage.config"));
+                ElementsAre(".config/autostart/x.desktop", ".local/share/applications/x.desktop",
+                            "Desktop/x.desktop", ".local/bin/again", ".local/bin/foo",
+                            ".config/systemd/user/foo.service", "Applications/Foo Bar.AppImage.home",
+                            "Applications/Foo Bar.AppImage.config"));
+    EXPECT_THAT(names(home, finding.byName), ElementsAre(".cache/foo-bar"));
     EXPECT_EQ(Leftovers::label(finding.entries.back().path), "Portable data");
+    EXPECT_EQ(Leftovers::label(home.path("Desktop/x.desktop")), "Launchers");
+    EXPECT_EQ(Leftovers::label(home.path("Desktop/X.AppImage.home")), "Portable data");
+}
+
+TEST(LeftoversTest, linksIntoAFolderThatAreDeadAlreadyGoWithIt)
+{
+    const AppHome home;
+    home.executable("opt/fooapp/bin/fooapp");
+    home.link("bin/old", home.path("opt/fooapp/bin/gone"));
+    home.link("bin/dead", home.path("opt/fooapp2/bin/gone"));
+    EXPECT_THAT(names(home, found("fooapp").entries), ElementsAre("bin/old"));
+}
+
+TEST(LeftoversTest, managersIconsGoWithTheirLauncher)
+{
+    const AppHome home;
+    const std::string image = home.image("AppImages/foo.appimage");
+    const std::string kit = "appimagekit_0123456789abcdef0123456789abcdef";
+    home.launcher(".local/share/applications/" + kit + "-Foo.desktop", "Foo App", image);
+    home.launcher(".local/share/applications/gearlever_foo_12ab.desktop", "Foo App", image,
+                  "Icon=" + home.path("AppImages/.icons/foo_12ab") + "\n");
+    const std::string apps = ".local/share/icons/hicolor/64x64/apps/";
+    for (const std::string& name :
+         {kit + "_foo.png", std::string("gearlever_foo_12ab.svg"), std::string("gearlever_foo_12abc.svg"),
+          std::string("appimagekit_foo.png")})
+        home.file(apps + name);
+    home.file("AppImages/.icons/foo_12ab");
+    home.file("AppImages/.icons/bar");
+    EXPECT_THAT(names(home, found("Foo App").entries),
+                ElementsAre(".local/share/applications/" + kit + "-Foo.desktop",
+                            ".local/share/applications/gearlever_foo_12ab.desktop", apps + kit + "_foo.png",
+                            apps + "gearlever_foo_12ab.svg", "AppImages/.icons/foo_12ab"));
 }
 
 TEST(LeftoversTest, whileAnotherCopyIsListedNothingIsOffered)
@@ -230,7 +277,7 @@ TEST(LeftoversTest, whileAnotherCopyIsListedNothingIsOffered)
         const AppInfo own = app.path == home.path("Applications/Fooapp-1.0.AppImage") ? app : apps[0];
         const Leftovers::Finding finding = Leftovers::find(own, apps);
         EXPECT_EQ(finding.isOtherCopyInstalled, c.isCopy);
-        EXPECT_EQ(finding.entries.empty(), c.isCopy);
+        EXPECT_EQ(finding.byName.empty(), c.isCopy);
     }
 }
 
@@ -261,6 +308,20 @@ TEST(LeftoversTest, aNameThatSomethingElseHasMatchesNothing)
              home.link(home.outside("system/usr/bin/fooapp"), home.path("Applications/Fooapp.AppImage"));
          },
          false},
+        {"a script for the shell that starts the application",
+         [](const AppHome& home) {
+             home.script(".local/bin/fooapp", "exec \"$HOME/Applications/Fooapp.AppImage\" \"$@\"\n");
+         },
+         false},
+        {"a script for the shell that starts something else",
+         [](const AppHome& home) { home.script(".local/bin/fooapp", "exec /usr/lib/fooapp/run\n"); }, true},
+        {"a launcher that starts the application through a script",
+         [](const AppHome& home) {
+             const std::string script = home.script(
+                 "src/start", "cd /tmp\nexec '" + home.path("Applications/Fooapp.AppImage") + "'\n");
+             home.sharedLauncher("fooapp.desktop", "Fooapp", script);
+         },
+         false},
         {"another application of the user in the menu",
          [](const AppHome& home) {
              home.launcher(".local/share/applications/y.desktop", "Fooapp", home.executable("src/y"));
@@ -280,11 +341,11 @@ TEST(LeftoversTest, aNameThatSomethingElseHasMatchesNothing)
         home.folder(".cache/Fooapp");
         home.folder(".config/org.x.Fooapp");
         c.prepare(home);
-        std::vector<std::string> expected = {".config/org.x.Fooapp",
-                                             ".local/share/applications/org.x.Fooapp.desktop"};
-        if (!c.isShared)
-            expected.insert(expected.begin() + 1, ".cache/Fooapp");
-        EXPECT_EQ(names(home, found("Fooapp").entries), expected);
+        const Leftovers::Finding finding = found("Fooapp");
+        EXPECT_THAT(names(home, finding.entries),
+                    ElementsAre(".config/org.x.Fooapp", ".local/share/applications/org.x.Fooapp.desktop"));
+        EXPECT_EQ(names(home, finding.byName),
+                  c.isShared ? std::vector<std::string>() : std::vector<std::string>{".cache/Fooapp"});
     }
 }
 

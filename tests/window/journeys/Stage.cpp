@@ -163,6 +163,15 @@ void Stage::fillHome() const
     AppsOnDisk::launcher(*m_home, "org.example.Sketcher", "Sketcher", program);
     m_home->fileOfSize(".config/org.example.Sketcher/settings", 8'192);
     m_home->fileOfSize(".cache/org.example.Sketcher/pictures", 4'096);
+    // As many as fill the list, so that one lies below whatever is clicked in a sheet.
+    for (const char* name : {"Alder", "Birch", "Cedar", "Dogwood", "Elder", "Fir"})
+        m_home->file(std::string("Applications/") + name + "/AppRun");
+    const TimePoint longAgo = *timeFromIso("2024-05-01T10:00:00Z");
+    for (const auto& [folder, bytes] :
+         {std::pair(".config/Barquux", 12'288), std::pair(".local/share/Barquux", 8'192)}) {
+        TempHome::setTimes(m_home->fileOfSize(folder + std::string("/a"), bytes), longAgo, longAgo);
+        TempHome::setTimes(m_home->path(folder), longAgo, longAgo);
+    }
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
 }

@@ -17,7 +17,7 @@ Journey {
         test.clickOn("appSearch");
         test.type("sketch");
         tryCompare(test.item("appList"), "count", 1);
-        compare(test.row("appList", 0).name, "Sketcher");
+        tryVerify(() => test.row("appList", 0).name === "Sketcher");
     }
 
     function test_2_itsLeftoversAreListed() {
@@ -48,5 +48,34 @@ Journey {
         verify(stage.isInTrash("Sketcher-2.1-x86_64.AppImage"));
         test.clickOn("cleaningDone");
         tryCompare(test.item("appList"), "count", 0);
+    }
+
+    function test_5_whatAppsThatAreGoneLeftIsListedUnchecked() {
+        test.clickOn("appSearch");
+        keyClick(Qt.Key_A, Qt.ControlModifier);
+        keyClick(Qt.Key_Delete);
+        test.tabTo("leftBehind");
+        keyClick(Qt.Key_Return);
+        tryCompare(test.item("leftoverList"), "count", 2);
+        compare(test.item("leftoversAll").checkState, Qt.Unchecked);
+        verify(!test.item("reviewLeftBehind").enabled);
+        verify(test.row("leftoverList", 0).folder.startsWith("No program named Barquux is installed"));
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("leftoverList"));
+        verify(test.isFocused("leftBehind"));
+    }
+
+    function test_6_andGoesToTheTrashByWayOfTheReview() {
+        test.clickOn("leftBehind");
+        test.click(test.row("leftoverList", 1));
+        wait(50);
+        verify(!test.isShown("reviewUninstall"));
+        test.clickOn("reviewLeftBehind");
+        verify(test.item("reviewLead").text.startsWith("1 items will be moved to the Trash."));
+        test.clickOn("primaryAction");
+        test.clickOn("cleaningDone");
+        verify(!stage.exists(".local/share/Barquux"));
+        verify(stage.exists(".config/Barquux"));
+        tryCompare(test.item("leftBehind").leftovers, "count", 1);
     }
 }

@@ -80,6 +80,7 @@ Journey {
         test.clickOn("appSearch");
         test.type("sketch");
         tryCompare(test.item("appList"), "count", 1);
+        tryVerify(() => test.row("appList", 0).name === "Sketcher");
         test.click(test.row("appList", 0));
         test.row("leftoverList", 2);
         test.checkNames("an application");

@@ -1,0 +1,104 @@
+import QtQuick
+import Orlen.App
+
+/// Leftovers with a check box each, below a strip that names them and checks all.
+FocusScope {
+    id: root
+
+    required property LeftoverListModel leftovers
+    readonly property real stripHeight: strip.height
+    /// Of all rows, with the strip and the margins.
+    readonly property real contentHeight: strip.height + list.contentHeight + 28
+
+    Rectangle {
+        id: strip
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: Theme.grown(44)
+        color: Theme.inset
+
+        CheckMark {
+            id: all
+
+            objectName: "leftoversAll"
+            x: 20
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.leftovers.count > 0
+            checkState: root.leftovers.checkState
+            nextCheckState: () => root.leftovers.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
+            text: heading.text
+            Accessible.name: heading.text
+            onClicked: root.leftovers.toggleAll()
+        }
+
+        SmallText {
+            id: heading
+
+            anchors.left: all.visible ? all.right : parent.left
+            anchors.leftMargin: all.visible ? 10 : 24
+            anchors.right: figures.left
+            anchors.rightMargin: Theme.spaceL
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.leftovers.heading
+            elide: Text.ElideMiddle
+            color: Theme.text
+            font.weight: Font.DemiBold
+        }
+
+        CaptionText {
+            id: figures
+
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.spaceXl
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.leftovers.count > 0
+            text: root.leftovers.chosenText
+            color: Theme.secondary
+        }
+    }
+
+    KeyedList {
+        id: list
+
+        focus: true
+        pointed: true
+        objectName: "leftoverList"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: strip.bottom
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: Theme.spaceM
+        anchors.rightMargin: 2
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceS
+        reuseItems: true
+        model: root.leftovers
+        Accessible.name: heading.text
+
+        onActiveFocusChanged: {
+            if (!list.activeFocus)
+                list.pointed = false;
+        }
+        Keys.onSpacePressed: root.leftovers.toggle(list.currentIndex)
+        Keys.onReturnPressed: root.leftovers.review()
+        Keys.onEnterPressed: root.leftovers.review()
+
+        delegate: LeftoverRow {
+            id: row
+
+            required property int index
+
+            width: ListView.view.width - 10
+            ringed: row.isCurrent && list.showsFocus
+            isCurrent: ListView.isCurrentItem && list.activeFocus
+            onRevealRequested: root.leftovers.reveal(row.index)
+            onToggled: {
+                list.pointed = true;
+                list.currentIndex = row.index;
+                root.leftovers.toggle(row.index);
+            }
+        }
+    }
+}
