@@ -105,6 +105,7 @@ inline constexpr std::string_view kRowsNotYetMet[] = {
     "{CONFIG}/{falkon,qutebrowser,thorium,net.imput.helium,yandex-browser}/bookmarks",
     "{CONFIG}/{mozilla,librewolf,zen,waterfox,floorp,thunderbird}/x7.default/places.sqlite",
     "{CONFIG}/{retroarch,Standard Notes}/key",
+    "{DATA}/bottles/bottles/Tax/drive_c/users/ada/Temp",
     "{DATA}/Acme/Viewer/Cache",
     "{DATA}/Almanac/webengine/GPUCache",
     "{DATA}/Feedreader/QtWebEngine/Default/GPUCache",

@@ -90,6 +90,7 @@ Strings foldersOf(std::string_view word, Layout layout)
             continue;
         switch (layout) {
         case Layout::plain:
+        case Layout::misled:
             return {base.standard};
         case Layout::moved:
             return {movedFolder(base), base.standard};
@@ -148,7 +149,7 @@ bool isIn(const Row& row, Layout layout)
 {
     if (row.only && *row.only != layout)
         return false;
-    if (layout == Layout::plain || layout == Layout::moved)
+    if (layout != Layout::flatpak && layout != Layout::snap)
         return true;
     return row.place.starts_with("{CACHE}/") || row.isEveryAppsOwn;
 }
@@ -408,6 +409,10 @@ Row Row::onlyIn(Layout layout) const
 
 std::vector<std::pair<std::string, std::string>> variables(const std::string& home, Layout layout)
 {
+    if (layout == Layout::misled)
+        return {{"XDG_CACHE_HOME", firstPlace(home, "{DOCUMENTS}", layout)},
+                {"XDG_DATA_HOME", firstPlace(home, "{PICTURES}", layout) + "/share"},
+                {"XDG_STATE_HOME", home}};
     std::vector<std::pair<std::string, std::string>> all;
     if (layout == Layout::moved) {
         for (const BaseFolder& base : kBaseFolders)
