@@ -21,6 +21,8 @@ std::string nameOf(const testing::TestParamInfo<Layout>& layout)
         return "defaultFolders";
     case Layout::moved:
         return "movedFolders";
+    case Layout::misled:
+        return "defaultFoldersDespiteVariables";
     case Layout::flatpak:
         return "aFlatpaksFolders";
     case Layout::snap:
@@ -55,7 +57,8 @@ TEST_P(SampleHomeTest, aScanMakesOfEveryPlaceWhatItsRowSays)
 }
 
 INSTANTIATE_TEST_SUITE_P(, SampleHomeTest,
-                         testing::Values(Layout::plain, Layout::moved, Layout::flatpak, Layout::snap),
+                         testing::Values(Layout::plain, Layout::moved, Layout::misled, Layout::flatpak,
+                                         Layout::snap),
                          nameOf);
 
 } // namespace

@@ -90,6 +90,7 @@ Strings foldersOf(std::string_view word, Layout layout)
             continue;
         switch (layout) {
         case Layout::plain:
+        case Layout::misled:
             return {base.standard};
         case Layout::moved:
             return {movedFolder(base), base.standard};
@@ -148,7 +149,7 @@ bool isIn(const Row& row, Layout layout)
 {
     if (row.only && *row.only != layout)
         return false;
-    if (layout == Layout::plain || layout == Layout::moved)
+    if (layout != Layout::flatpak && layout != Layout::snap)
         return true;
     return row.place.starts_with("{CACHE}/") || row.isEveryAppsOwn;
 }
@@ -185,17 +186,23 @@ void write(const std::string& path, std::string_view content)
         check(::chmod(path.c_str(), 0755) == 0, path);
 }
 
-/// A file that takes its room on the disk without being written whole.
-void reserve(const std::string& path, const Row& row, const std::string& seed)
+/// A file that takes its room on the disk.
+void fill(const std::string& path, const Row& row, const std::string& seed)
 {
+    // Small ones are written: on some disks, room that was only reserved takes long to be given back.
+    constexpr std::size_t kMostWritten = 5'000'000;
     constexpr std::size_t kBlock = 4'096;
-    std::string first = row.head;
-    while (first.size() < kBlock)
-        first += seed + '\n';
-    first.resize(kBlock);
-    write(path, first);
+    const std::size_t size = static_cast<std::size_t>(row.kilobytes) * 1'024;
+    const std::size_t written = size <= kMostWritten ? std::max(size, kBlock) : kBlock;
+    std::string content = row.head;
+    while (content.size() < written)
+        content += seed + '\n';
+    content.resize(written);
+    write(path, content);
+    if (written >= size)
+        return;
     const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    check(file >= 0 && ::posix_fallocate(file, 0, static_cast<off_t>(row.kilobytes) * 1'024) == 0, path);
+    check(file >= 0 && ::posix_fallocate(file, 0, static_cast<off_t>(size)) == 0, path);
     ::close(file);
 }
 
@@ -222,7 +229,7 @@ void makeFolder(const std::string& home, const Placed& placed, Layout layout)
     fs::create_directories(placed.path);
     const std::string filler = placed.path + "/" + row.filler;
     if (row.kilobytes > 0)
-        reserve(filler, row, row.seed.empty() ? placed.path : row.seed);
+        fill(filler, row, row.seed.empty() ? placed.path : row.seed);
     if (!row.alsoAt.empty() && row.kilobytes > 0) {
         const std::string second = firstPlace(home, row.alsoAt, layout);
         fs::create_directories(fs::path(second).parent_path());
@@ -248,7 +255,7 @@ void makeOne(const std::string& home, const Placed& placed, Layout layout)
     else if (row.isFolder)
         makeFolder(home, placed, layout);
     else
-        reserve(placed.path, row, row.seed.empty() ? placed.path : row.seed);
+        fill(placed.path, row, row.seed.empty() ? placed.path : row.seed);
 }
 
 } // namespace
@@ -402,6 +409,10 @@ Row Row::onlyIn(Layout layout) const
 
 std::vector<std::pair<std::string, std::string>> variables(const std::string& home, Layout layout)
 {
+    if (layout == Layout::misled)
+        return {{"XDG_CACHE_HOME", firstPlace(home, "{DOCUMENTS}", layout)},
+                {"XDG_DATA_HOME", firstPlace(home, "{PICTURES}", layout) + "/share"},
+                {"XDG_STATE_HOME", home}};
     std::vector<std::pair<std::string, std::string>> all;
     if (layout == Layout::moved) {
         for (const BaseFolder& base : kBaseFolders)

@@ -47,6 +47,7 @@ struct Expectation {
 enum class Layout {
     plain,   ///< the defaults
     moved,   ///< below ".moved", as the XDG variables say, and in the default places as well
+    misled,  ///< the defaults, while variables name the user's own folders, which has no effect
     flatpak, ///< those of one Flatpak app; only rows that hold for every app
     snap,    ///< likewise, of one Snap
 };

@@ -506,6 +506,8 @@ Rows games()
                review(caches, "Temporary files of a Windows program")),
         folder("{DATA}/wineprefixes/tax/drive_c/users/ada/Temp", 130,
                review(caches, "Temporary files of a Windows program")),
+        folder("{DATA}/bottles/bottles/Tax/drive_c/users/ada/Temp", 130,
+               review(caches, "Temporary files of a Windows program")),
         folder("{H}/.wine/drive_c/users/ada/Documents", 130, never()),
         folder("{DATA}/TelegramDesktop/tdata/user_data/{cache,media_cache}", 130,
                review(caches, "Fetched again from the server; quit Telegram first")),
