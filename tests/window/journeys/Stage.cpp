@@ -163,6 +163,8 @@ void Stage::fillHome() const
     AppsOnDisk::launcher(*m_home, "org.example.Sketcher", "Sketcher", program);
     m_home->fileOfSize(".config/org.example.Sketcher/settings", 8'192);
     m_home->fileOfSize(".cache/org.example.Sketcher/pictures", 4'096);
+    m_home->file(m_home->outside("system/usr/bin/apt"));
+    m_home->fileOfSize(m_home->outside("system/var/cache/apt/archives/editor.deb"), 2 * kMegabyte);
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
 }
