@@ -26,7 +26,7 @@ Rectangle {
         selectByMouse: true
         text: root.command
         textFormat: TextEdit.PlainText
-        wrapMode: TextEdit.WrapAnywhere
+        wrapMode: TextEdit.Wrap
         color: Theme.text
         selectionColor: Theme.accentFill
         selectedTextColor: Theme.overAccent
@@ -39,12 +39,17 @@ Rectangle {
     AppButton {
         id: copy
 
+        /// So that the command does not move when the text changes.
+        property real widest: 0
+
         objectName: "copyCommand"
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(copy.implicitWidth, copy.widest)
         symbol: copied.running ? "checkmark" : "copy"
         text: copied.running ? Strings.copied : Strings.copyCommand
+        onImplicitWidthChanged: copy.widest = Math.max(copy.widest, copy.implicitWidth)
         onClicked: {
             root.copyRequested();
             copied.restart();

@@ -23,11 +23,19 @@ constexpr double kLeast = 0.0005; // smallest fraction of the volume that is dra
 constexpr double kTop = 90;       // degrees, as QPainterPath counts them
 constexpr double kWholeTurn = 360;
 constexpr double kReach = 8;      // how far from the band a point still means it, pixels
-constexpr double kPaleness = 0.4; // of all segments but the one that stands out
+constexpr float kPaleness = 0.6F; // of all segments but the one that stands out
 
 double degrees(double pixels, double radius)
 {
     return pixels / radius * 180 / std::numbers::pi;
+}
+
+/// Opaque, since a segment is drawn twice where its border lies.
+QColor paler(const QColor& colour, const QColor& track)
+{
+    const auto mixed = [](float own, float other) { return own + (other - own) * kPaleness; };
+    return QColor::fromRgbF(mixed(colour.redF(), track.redF()), mixed(colour.greenF(), track.greenF()),
+                            mixed(colour.blueF(), track.blueF()));
 }
 
 /// Enlarges segments too small to see at the cost of the others.
@@ -201,7 +209,7 @@ void StorageRing::paint(QPainter* painter)
     for (std::size_t at = 0; at < fractions.size(); ++at) {
         QColor colour = DisplayText::colour(kAllCategories[at]);
         if (m_current >= 0 && std::cmp_not_equal(m_current, at))
-            colour.setAlphaF(static_cast<float>(kPaleness));
+            colour = paler(colour, m_track);
         draw(fractions[at], colour);
     }
     draw(1 - used, m_track);
