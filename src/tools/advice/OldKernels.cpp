@@ -7,6 +7,8 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace orlen::OldKernels {
 
@@ -21,6 +23,23 @@ std::string runningRelease(const Places& places)
     return release;
 }
 
+/// The release stands between the two parts of a name.
+struct BootFile {
+    std::string_view start;
+    std::string_view end;
+};
+
+constexpr BootFile kKernel{"vmlinuz-", ""};
+constexpr BootFile kBootFiles[] = {
+    kKernel,        {"initrd.img-", ""}, {"initrd-", ""}, {"initramfs-", ".img"}, {"System.map-", ""},
+    {"config-", ""}};
+
+std::string pathOf(const BootFile& file, const std::string& release, const Places& places)
+{
+    std::string path = places.systemRoot + "/boot/";
+    return path.append(file.start).append(release).append(file.end);
+}
+
 } // namespace
 
 AdviceFound find(const Places& places)
@@ -33,15 +52,13 @@ AdviceFound find(const Places& places)
         modules = places.systemRoot + "/lib/modules";
     AdviceFound found;
     for (const std::string& release : listNames(modules)) {
-        const std::string own = PathText::join(modules, release);
-        const std::string boot = places.systemRoot + "/boot/";
+        std::string own = PathText::join(modules, release);
         // A folder without a kernel is what a removed one left behind, and no command knows of it.
-        if (release == running || (!exists(boot + "vmlinuz-" + release) && !exists(own + "/vmlinuz")))
+        if (release == running || (!exists(pathOf(kKernel, release, places)) && !exists(own + "/vmlinuz")))
             continue;
-        for (std::string path : {own, boot + "vmlinuz-" + release, boot + "initrd.img-" + release,
-                                 boot + "initrd-" + release, boot + "initramfs-" + release + ".img",
-                                 boot + "System.map-" + release, boot + "config-" + release}) {
-            if (exists(path))
+        found.paths.push_back(std::move(own));
+        for (const BootFile& file : kBootFiles) {
+            if (std::string path = pathOf(file, release, places); exists(path))
                 found.paths.push_back(std::move(path));
         }
     }

@@ -77,9 +77,9 @@ AdviceFound find(const Places& places)
             if (revision == all.back() || revision == current)
                 continue;
             const std::string number = std::to_string(revision);
-            found.paths.push_back(PathText::join(folder, name + '_' + number + ".snap"));
-            found.command += found.command.empty() ? "" : " && ";
-            found.command += "sudo snap remove " + name + " --revision=" + number;
+            found.paths.push_back(PathText::join(folder, name).append("_").append(number).append(".snap"));
+            found.command.append(found.command.empty() ? "" : " && ");
+            found.command.append("sudo snap remove ").append(name).append(" --revision=").append(number);
         }
     }
     return found;
