@@ -17,7 +17,7 @@ namespace orlen {
 
 namespace {
 
-using Role = CategoryFolderModel::Role;
+using FolderRole = CategoryFolderModel::Role;
 
 struct CategoryModelTest : testing::Test {
     CategoryModelTest()
@@ -39,14 +39,14 @@ struct CategoryModelTest : testing::Test {
     {
         return waitUntil([&] { return !category.isMeasuring() && !category.isCollecting(); });
     }
-    [[nodiscard]] QVariant value(int row, Role role)
+    [[nodiscard]] QVariant value(int row, FolderRole role)
     {
         return category.folders()->data(category.folders()->index(row), static_cast<int>(role));
     }
     [[nodiscard]] int rowOf(const QString& name)
     {
         for (int row = 0; row < category.folders()->rowCount(); ++row) {
-            if (value(row, Role::name) == name)
+            if (value(row, FolderRole::name) == name)
                 return row;
         }
         return -1;
@@ -61,7 +61,7 @@ struct CategoryModelTest : testing::Test {
                                                 QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-int number(OrlenCategory category)
+int orderOf(OrlenCategory category)
 {
     return static_cast<int>(category);
 }
@@ -73,14 +73,15 @@ TEST_F(CategoryModelTest, showsTheFoldersOfACategoryWithWhatIsInThem)
     measure();
     category.show(99);
     EXPECT_FALSE(category.isOpen());
-    category.show(number(OrlenCategory::media));
+    category.show(orderOf(OrlenCategory::media));
     EXPECT_TRUE(category.isOpen());
     EXPECT_TRUE(category.summary().startsWith("33 KB · ")) << qPrintable(category.summary());
     ASSERT_EQ(category.folders()->rowCount(), 2);
-    EXPECT_EQ(value(0, Role::name), "Videos");
-    EXPECT_EQ(value(0, Role::place), "~/Videos");
-    EXPECT_EQ(value(0, Role::shareText), "75 %");
-    EXPECT_EQ(value(0, Role::items).toString().replace(QChar(0xA0), ' '), "series 16 KB  ·  film.mkv 8 KB");
+    EXPECT_EQ(value(0, FolderRole::name), "Videos");
+    EXPECT_EQ(value(0, FolderRole::place), "~/Videos");
+    EXPECT_EQ(value(0, FolderRole::shareText), "75 %");
+    EXPECT_EQ(value(0, FolderRole::items).toString().replace(QChar(0xA0), ' '),
+              "series 16 KB  ·  film.mkv 8 KB");
     ASSERT_TRUE(settles());
     EXPECT_EQ(category.advice()->rowCount(), 0);
 }
@@ -88,14 +89,14 @@ TEST_F(CategoryModelTest, showsTheFoldersOfACategoryWithWhatIsInThem)
 TEST_F(CategoryModelTest, systemIsMeasuredWhenItIsOpenedAndComesWithAdvice)
 {
     measure();
-    category.show(number(OrlenCategory::system));
+    category.show(orderOf(OrlenCategory::system));
     EXPECT_TRUE(category.isMeasuring());
     ASSERT_TRUE(settles());
     EXPECT_GE(rowOf("The rest of your home folder"), 0);
     EXPECT_GE(rowOf("var"), 0);
     const int last = category.folders()->rowCount() - 1;
-    EXPECT_EQ(value(last, Role::name), "Not visible to Orlen");
-    EXPECT_EQ(value(last, Role::isSeen), false);
+    EXPECT_EQ(value(last, FolderRole::name), "Not visible to Orlen");
+    EXPECT_EQ(value(last, FolderRole::isSeen), false);
     ASSERT_EQ(category.advice()->rowCount(), 1);
     const QModelIndex advice = category.advice()->index(0);
     EXPECT_EQ(category.advice()->data(advice, static_cast<int>(AdviceModel::Role::size)), "1 MB");
@@ -103,7 +104,7 @@ TEST_F(CategoryModelTest, systemIsMeasuredWhenItIsOpenedAndComesWithAdvice)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "sudo apt clean");
     category.advice()->copy(7);
 
-    category.show(number(OrlenCategory::media));
+    category.show(orderOf(OrlenCategory::media));
     EXPECT_EQ(category.folders()->rowCount(), 2) << "nothing of the category before";
     EXPECT_EQ(category.advice()->rowCount(), 0);
 }
@@ -112,13 +113,13 @@ TEST_F(CategoryModelTest, onlyFoldersOfTheHomeFolderLeadToTheDiskMap)
 {
     measure();
     const QSignalSpy chosen(&category, &CategoryModel::folderChosen);
-    category.show(number(OrlenCategory::apps));
+    category.show(orderOf(OrlenCategory::apps));
     ASSERT_EQ(category.folders()->rowCount(), 1);
-    EXPECT_EQ(value(0, Role::isInHome), false);
+    EXPECT_EQ(value(0, FolderRole::isInHome), false);
     category.openFolder(0);
     EXPECT_TRUE(chosen.isEmpty());
     EXPECT_TRUE(category.isOpen());
-    category.show(number(OrlenCategory::media));
+    category.show(orderOf(OrlenCategory::media));
     category.openFolder(8);
     EXPECT_TRUE(chosen.isEmpty());
     category.openFolder(0);
@@ -141,8 +142,8 @@ TEST_F(CategoryModelTest, theRingTellsWhereACategoryIsDrawn)
     app.storage()->setBreakdown(breakdown);
     ring.setProgress(1);
 
-    const int photos = number(OrlenCategory::photos);
-    const int system = number(OrlenCategory::system);
+    const int photos = orderOf(OrlenCategory::photos);
+    const int system = orderOf(OrlenCategory::system);
     EXPECT_EQ(ring.categoryAt({164, 36}), photos) << "the upper right";
     EXPECT_EQ(ring.categoryAt({164, 164}), system);
     EXPECT_EQ(ring.categoryAt({36, 36}), -1) << "free space";

@@ -131,16 +131,18 @@ PathMarks marksOf(const std::vector<Present>& all)
     return marks;
 }
 
-AdviceItem::Known knownOf(const Present& present, std::int64_t size, const UnreadableFolders& unreadable)
+AdviceItem::Known knownOf(AdviceTopic::Count count, const std::vector<TreeRoot>& roots,
+                          const UnreadableFolders& unreadable)
 {
     using Known = AdviceItem::Known;
-    const bool isForeignIgnored = present.topic->count == AdviceTopic::Count::oldOwnFiles;
-    if (present.topic->count == AdviceTopic::Count::nothing)
+    if (count == AdviceTopic::Count::nothing)
         return Known::shared;
     // What others keep beside the user's own files does not count.
-    if (unreadable.count() == 0 || isForeignIgnored)
+    if (unreadable.count() == 0 || count == AdviceTopic::Count::oldOwnFiles)
         return Known::all;
-    return size > 0 ? Known::part : Known::nothing;
+    const bool isAnyOpen =
+        std::ranges::any_of(roots, [](const TreeRoot& root) { return isListable(root.path); });
+    return isAnyOpen ? Known::part : Known::nothing;
 }
 
 /// Measures what counts for a topic, into its advice.
@@ -168,7 +170,7 @@ AdviceItem measured(Present present, AdviceSums& sums, const PathMarks& marks, c
     item.title = present.topic->title;
     item.places = std::move(present.places);
     item.size = sums.sum();
-    item.known = knownOf(present, item.size, unreadable);
+    item.known = knownOf(present.topic->count, roots, unreadable);
     item.isOnHomeDisk = present.isOnHomeDisk;
     item.text = present.topic->text;
     item.command = std::move(present.command);

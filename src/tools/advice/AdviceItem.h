@@ -12,7 +12,7 @@ struct AdviceItem {
     enum class Known {
         all,
         part,    ///< some of it could not be read: the size is at least `size`
-        nothing, ///< none of it could be read
+        nothing, ///< the folders could not be looked into at all
         shared,  ///< it shares its blocks with other files, so that no size would be true
     };
 

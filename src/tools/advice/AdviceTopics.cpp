@@ -203,7 +203,7 @@ constexpr AdviceTopic kTopics[] = {
      "podman system prune"},
     {"podman-system",
      "Podman containers of the system",
-     {"{ROOT}/var/lib/containers"},
+     {"{ROOT}/var/lib/containers/storage"},
      Count::everything,
      "podman",
      kSome,

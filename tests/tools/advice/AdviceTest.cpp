@@ -163,6 +163,11 @@ TEST(AdviceTest, whatMayNotBeReadIsSaid)
     TempHome::setMode(machine.system("var/lib/docker"), 0);
     TempHome::setMode(machine.path(".local/share/containers/storage/locked"), 0);
 
+    machine.filler("var/log/private/a.gz", kLarge);
+    TempHome::setMode(machine.system("var/log/private"), 0);
+    EXPECT_EQ(Machine::topics().size(), 2U)
+        << "the logs can be looked into, and none that can be seen was put away";
+
     const AdviceItem docker = Machine::named("docker-system");
     EXPECT_EQ(docker.known, AdviceItem::Known::nothing);
     EXPECT_EQ(docker.size, 0);
