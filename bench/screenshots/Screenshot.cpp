@@ -81,7 +81,7 @@ void bringAbout(AppModel& model, const QCommandLineParser& options)
     if (options.isSet("review"))
         WindowState::of(model).setSheet(PlanSheet{model.results()->scanPlan()});
     if (options.isSet("clean"))
-        model.cleanUps()->confirm(model.results()->scanPlan(), model.results()->selection());
+        model.cleanUps()->confirm(model.results()->scanPlan());
 }
 
 /// Delegates are no children of what shows them, but they are its child items.

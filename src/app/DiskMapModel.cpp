@@ -1,6 +1,7 @@
 #include "app/DiskMapModel.h"
 
 #include "platform/files/Folder.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "tools/DiskMap.h"
 
@@ -70,6 +71,20 @@ void DiskMapModel::goTo(std::size_t index)
     if (index >= m_stack.size())
         fatalError("the disk map was asked for a folder beyond the one shown");
     m_stack.resize(index + 1);
+    Q_EMIT stackChanged();
+    load();
+}
+
+void DiskMapModel::show(const std::string& folder)
+{
+    checkThread();
+    const std::string& start = m_stack.front();
+    if (!PathText::isAtOrBelow(folder, start))
+        return;
+    std::vector<std::string> stack{start};
+    for (const std::string_view name : PathText::components(std::string_view(folder).substr(start.size())))
+        stack.push_back(PathText::join(stack.back(), name));
+    m_stack = std::move(stack);
     Q_EMIT stackChanged();
     load();
 }

@@ -47,6 +47,9 @@ public:
     void up();
     /// Goes to a folder of the stack. An index out of range stops the program.
     void goTo(std::size_t index);
+    /// Goes to a folder at or below the start folder, as if one had zoomed into each on the way; ignored for
+    /// any other.
+    void show(const std::string& folder);
     /// Goes into a node's folder; ignored for a file and for the grouped node.
     void zoomInto(std::size_t node);
 

@@ -53,5 +53,6 @@ std::unique_ptr<Command> makeLeftoversCommand();
 std::unique_ptr<Command> makeUninstallCommand();
 std::unique_ptr<Command> makeStartupCommand();
 std::unique_ptr<Command> makeExplainCommand();
+std::unique_ptr<Command> makeAdviceCommand();
 
 } // namespace orlen

@@ -36,7 +36,7 @@ std::vector<std::unique_ptr<Command>> allCommands()
     for (const auto make : {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand,
                             makeBreakdownCommand, makePredictCommand, makeAskCommand, makeDuplicatesCommand,
                             makePhotosCommand, makeMapCommand, makeAppsCommand, makeLeftoversCommand,
-                            makeUninstallCommand, makeStartupCommand, makeExplainCommand})
+                            makeUninstallCommand, makeStartupCommand, makeExplainCommand, makeAdviceCommand})
         commands.push_back(make());
     return commands;
 }

@@ -269,6 +269,20 @@ Json leftovers(const std::vector<FileEntry>& leftovers)
     return entries(leftovers);
 }
 
+Json advice(const std::vector<AdviceItem>& advice)
+{
+    return array(advice, [](const AdviceItem& item) {
+        Json document = {{"topic", item.topic},
+                         {"path", item.places.front()},
+                         {"size", item.size},
+                         {"complete", item.known == AdviceItem::Known::all},
+                         {"text", item.text}};
+        if (!item.command.empty())
+            document["command"] = item.command;
+        return document;
+    });
+}
+
 Json startupItem(const LaunchItem& item)
 {
     Json json = {{"label", item.label}, {"path", item.path},       {"program", item.program},

@@ -10,6 +10,7 @@
 #include "scan/duplicates/Duplicates.h"
 #include "scan/photos/PhotoAnalyzer.h"
 #include "tools/TreeNode.h"
+#include "tools/advice/AdviceItem.h"
 #include "tools/apps/AppInfo.h"
 #include "tools/startup/LaunchItem.h"
 
@@ -48,6 +49,7 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json apps(const std::vector<AppInfo>& apps);
 [[nodiscard]] Json leftovers(const std::vector<FileEntry>& leftovers);
 [[nodiscard]] Json startupItem(const LaunchItem& item);
+[[nodiscard]] Json advice(const std::vector<AdviceItem>& advice);
 [[nodiscard]] Json startup(const std::vector<LaunchItem>& items);
 
 } // namespace JsonDocuments

@@ -69,6 +69,11 @@ inline constexpr std::string_view kAppleApp = "This is an Apple app. Make sure y
 inline constexpr std::string_view kOtherCopy = "Another copy is installed";
 inline constexpr std::string_view kNoApp = "there is no installed application ";
 inline constexpr std::string_view kSeveralApps = " names several applications; name one by its path:";
+inline constexpr std::string_view kLookingForAdvice = "Looking at what others keep on the disk";
+inline constexpr std::string_view kNoAdvice = "Nothing outside Orlen's reach takes up much space.";
+inline constexpr std::string_view kBeyondOrlen = " outside Orlen's reach";
+inline constexpr std::string_view kOtherDisk = "It is on another disk than your home folder.";
+inline constexpr std::string_view kAdviceIsForYou = "Orlen runs none of these commands.";
 inline constexpr std::string_view kStartupItems =
     "What starts when you log in. Disabling takes effect now and stays off at the next login.";
 inline constexpr std::string_view kNoStartupItems = "No launch agents found.";

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "model/OrlenCategory.h"
+#include "scan/CategoryFolder.h"
 
 #include <cstdint>
 #include <map>
 #include <stop_token>
+#include <vector>
 
 namespace orlen {
 
@@ -13,6 +15,9 @@ struct StorageBreakdown {
     std::int64_t total = 0; ///< capacity, bytes
     std::int64_t free = 0;  ///< available, bytes
     std::map<OrlenCategory, std::int64_t> cats;
+    /// What the categories consist of, largest first: folders that take up space. None for `system`, which is
+    /// not measured; see `SystemFolders`.
+    std::vector<CategoryFolder> folders;
 
     struct Space {
         std::int64_t total = 0;

@@ -199,4 +199,22 @@ TEST(DiskMapModelTest, aModelMayGoAwayWhileItMeasures)
     EXPECT_EQ(changes, 0);
 }
 
+TEST(DiskMapModelTest, showsAFolderBelowTheStartAsIfZoomedInto)
+{
+    const MappedHome home;
+    DiskMapModel model;
+    model.show(home.outside());
+    model.show(home.outside("homeless"));
+    EXPECT_FALSE(model.isLoading()) << "not below the start folder";
+    model.show(home.path("outer/inner"));
+    finishLoad(model);
+    EXPECT_THAT(model.stack(), ElementsAre(home.path(), home.path("outer"), home.path("outer/inner")));
+    EXPECT_THAT(names(model), ElementsAre("leaf"));
+    model.up();
+    finishLoad(model);
+    model.show(home.path());
+    finishLoad(model);
+    EXPECT_THAT(model.stack(), ElementsAre(home.path()));
+}
+
 } // namespace orlen

@@ -1,6 +1,7 @@
 #include "scan/StorageBreakdown.h"
 
 #include "platform/files/Volume.h"
+#include "scan/SystemFolders.h"
 #include "support/TempHome.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,66 @@ TEST(StorageBreakdownTest, everyFolderCountsInItsOwnCategoryOnce)
     for (const auto& [category, bytes] : breakdown.cats)
         sum += bytes;
     EXPECT_EQ(sum, breakdown.total - breakdown.free) << "the categories add up to the used space";
+}
+
+TEST(StorageBreakdownTest, foldersAreKeptWithTheirLargestItems)
+{
+    const TempHome home;
+    const std::int64_t block = 4096;
+    home.fileOfSize("Videos/film.mkv", 9 * block);
+    home.fileOfSize("Videos/series/one/a", 4 * block);
+    home.fileOfSize("Videos/series/two/b", 3 * block);
+    home.fileOfSize("Videos/bad\xff/c", 2 * block);
+    for (const char* name : {"e", "f", "g", "h"})
+        home.fileOfSize("Videos/" + std::string(name), block);
+    home.folder("Music");
+    home.fileOfSize(".var/app/org.a.App/data/x", block);
+    home.fileOfSize(".var/app/org.a.App/cache/x", 30 * block);
+
+    const std::vector<CategoryFolder> folders = StorageBreakdown::compute().folders;
+    ASSERT_EQ(folders.size(), 3U) << "largest first, without the empty one";
+    EXPECT_EQ(folders[0].path, home.path(".var/app/org.a.App/cache"));
+    EXPECT_EQ(folders[2].bytes, block) << "without the cache in it";
+    const CategoryFolder videos{media,
+                                home.path("Videos"),
+                                22 * block,
+                                {{"film.mkv", 9 * block, false},
+                                 {"series", 7 * block},
+                                 {"e", block, false},
+                                 {"f", block, false},
+                                 {"g", block, false}},
+                                true};
+    EXPECT_EQ(folders[1], videos);
+}
+
+TEST(StorageBreakdownTest, systemConsistsOfWhatIsLeft)
+{
+    const TempHome home;
+    const std::int64_t block = 4096;
+    home.fileOfSize("Videos/film.mkv", 9 * block);
+    home.fileOfSize("projects/a", 5 * block);
+    home.fileOfSize(".local/share/Trash/files/b", 4 * block);
+    home.fileOfSize(home.outside("system/opt/app"), block); // an application
+    home.fileOfSize(home.outside("system/usr/lib/c"), 3 * block);
+    home.fileOfSize(home.outside("system/swapfile"), 2 * block);
+    home.fileOfSize(home.outside("system/var/locked/d"), block);
+    home.fileOfSize(home.outside("system/var/e"), block);
+    TempHome::setMode(home.outside("system/var/locked"), 0);
+
+    const std::vector<CategoryFolder> folders = SystemFolders::measure();
+    ASSERT_EQ(folders.size(), 5U);
+    const auto is = [&](std::size_t at, const std::string& path, std::int64_t bytes) {
+        EXPECT_EQ(folders[at].path, path);
+        EXPECT_EQ(folders[at].bytes, bytes);
+    };
+    is(0, home.path(), 5 * block);
+    is(1, home.path(".local/share/Trash"), 4 * block);
+    is(2, home.outside("system/usr"), 3 * block);
+    is(3, home.outside("system"), 2 * block);
+    EXPECT_EQ(folders[3].largest, (std::vector<CategoryFolder::Item>{{"swapfile", 2 * block, false}}));
+    is(4, home.outside("system/var"), block);
+    EXPECT_FALSE(folders[4].isComplete);
+    EXPECT_TRUE(folders[2].isComplete);
 }
 
 TEST(StorageBreakdownTest, fileWithSeveralNamesCountsOncePerCategory)

@@ -17,53 +17,9 @@ Column {
         font.pixelSize: Theme.bodySize
     }
 
-    Rectangle {
+    CommandBox {
         width: root.width
-        height: Math.max(command.height, copy.height) + 16
-        radius: Theme.controlRadius
-        color: Theme.inset
-
-        TextEdit {
-            id: command
-
-            anchors.left: parent.left
-            anchors.leftMargin: Theme.spaceM
-            anchors.right: copy.left
-            anchors.rightMargin: Theme.spaceM
-            anchors.verticalCenter: parent.verticalCenter
-            readOnly: true
-            selectByMouse: true
-            text: root.detail.command
-            textFormat: TextEdit.PlainText
-            wrapMode: TextEdit.WrapAnywhere
-            color: Theme.text
-            selectionColor: Theme.accentFill
-            selectedTextColor: Theme.overAccent
-            font.family: "monospace"
-            font.pixelSize: Theme.smallSize
-            Accessible.role: Accessible.StaticText
-            Accessible.name: command.text
-        }
-
-        AppButton {
-            id: copy
-
-            objectName: "copyCommand"
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.spaceS
-            anchors.verticalCenter: parent.verticalCenter
-            symbol: copied.running ? "checkmark" : "copy"
-            text: copied.running ? Strings.copied : Strings.copyCommand
-            onClicked: {
-                root.detail.copyCommand();
-                copied.restart();
-            }
-        }
-    }
-
-    Timer {
-        id: copied
-
-        interval: 2000
+        command: root.detail.command
+        onCopyRequested: root.detail.copyCommand()
     }
 }

@@ -150,5 +150,20 @@ FocusScope {
             theMap.up();
     }
 
-    Component.onCompleted: theMap.load()
+    Connections {
+        target: root.view.navigation
+        function onFolderRequested() {
+            root.show(root.view.navigation.takeFolder());
+        }
+    }
+
+    Component.onCompleted: {
+        theMap.load();
+        root.show(root.view.navigation.takeFolder());
+    }
+
+    function show(folder: string) {
+        if (folder !== "")
+            theMap.show(folder);
+    }
 }

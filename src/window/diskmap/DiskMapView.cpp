@@ -2,6 +2,7 @@
 
 #include "platform/values/CheckedSum.h"
 #include "window/lists/DisplayText.h"
+#include "window/lists/PathCode.h"
 #include "window/shell/Reveal.h"
 
 #include <QLocale>
@@ -106,6 +107,11 @@ void DiskMapView::setCurrentRow(int row)
 void DiskMapView::load()
 {
     m_map.load();
+}
+
+void DiskMapView::show(const QString& code)
+{
+    m_map.show(PathCode::path(code));
 }
 
 void DiskMapView::up()

@@ -82,6 +82,8 @@ public:
     [[nodiscard]] QPointF zoomOrigin() const { return m_zoomOrigin; }
 
     Q_INVOKABLE void load();
+    /// Goes to a folder below the start folder, a `PathCode`.
+    Q_INVOKABLE void show(const QString& code);
     Q_INVOKABLE void up();
     /// Goes to a folder of the breadcrumb.
     Q_INVOKABLE void goTo(int step);

@@ -7,6 +7,7 @@ Item {
 
     required property HomeModel home
     required property StorageModel storage
+    signal categoryChosen(category: int)
 
     /// Where the storage ring goes.
     readonly property alias ringSlot: slot
@@ -57,6 +58,7 @@ Item {
                         visible: root.storage.ready
                         storage: root.storage
                         room: parent.width
+                        onChosen: category => root.categoryChosen(category)
                     }
 
                     SmallText {

@@ -8,6 +8,7 @@ Item {
     required property HomeModel home
     required property StorageModel storage
     signal findingChosen(id: string)
+    signal categoryChosen(category: int)
 
     /// Where the storage ring goes.
     readonly property alias ringSlot: header.ringSlot
@@ -34,6 +35,7 @@ Item {
                 width: parent.width
                 home: root.home
                 storage: root.storage
+                onCategoryChosen: category => root.categoryChosen(category)
             }
 
             FindingGrid {

@@ -7,6 +7,7 @@ Item {
 
     required property HomeModel home
     required property StorageModel storage
+    signal categoryChosen(category: int)
 
     /// Where the storage ring goes.
     readonly property alias ringSlot: slot
@@ -93,5 +94,6 @@ Item {
         anchors.bottom: root.narrow ? parent.bottom : words.bottom
         storage: root.storage
         room: root.narrow ? root.width : words.width
+        onChosen: category => root.categoryChosen(category)
     }
 }

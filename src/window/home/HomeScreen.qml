@@ -16,6 +16,16 @@ FocusScope {
         id: theHome
     }
 
+    CategoryModel {
+        id: theCategory
+
+        onFolderChosen: code => root.view.navigation.showFolder(code)
+    }
+
+    CategorySheet {
+        category: theCategory
+    }
+
     HomeIdle {
         id: idle
 
@@ -25,6 +35,7 @@ FocusScope {
         opacity: 0
         home: root.home
         storage: root.view.storage
+        onCategoryChosen: chosen => theCategory.show(chosen)
     }
 
     HomeScanning {
@@ -46,6 +57,7 @@ FocusScope {
         home: root.home
         storage: root.view.storage
         onFindingChosen: id => root.view.navigation.showFinding(id)
+        onCategoryChosen: chosen => theCategory.show(chosen)
     }
 
     StorageGauge {
@@ -53,6 +65,8 @@ FocusScope {
 
         storage: root.view.storage
         breathing: root.state === "scanning" || !root.view.storage.ready
+        selectable: root.state !== "scanning"
+        onChosen: chosen => theCategory.show(chosen)
     }
 
     // Qt 6.4's linter does not know that ParentChange accepts bindings.

@@ -44,6 +44,16 @@ double StorageModel::fraction(OrlenCategory category) const
     return std::clamp(part, 0.0, 1.0);
 }
 
+QString StorageModel::describe(int category) const
+{
+    const auto row = std::ranges::find_if(
+        m_rows, [&](const Row& shown) { return static_cast<int>(shown.category) == category; });
+    if (row == m_rows.end())
+        return {};
+    return QStringLiteral("%1, %2").arg(DisplayText::text(label(row->category)),
+                                        DisplayText::size(row->bytes));
+}
+
 QVariant StorageModel::value(std::size_t number, int role) const
 {
     const Row& row = m_rows[number];
@@ -54,6 +64,8 @@ QVariant StorageModel::value(std::size_t number, int role) const
         return DisplayText::colour(row.category);
     case Role::size:
         return DisplayText::size(row.bytes);
+    case Role::category:
+        return static_cast<int>(row.category);
     }
     return {};
 }

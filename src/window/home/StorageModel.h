@@ -27,6 +27,7 @@ public:
         label = Qt::UserRole, ///< name of the category
         colour,               ///< of the category
         size,                 ///< as text
+        category,             ///< its place in the order of categories
     };
     Q_ENUM(Role)
 
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] double usedFraction() const;
     /// The category's fraction of the volume's capacity, 0 to 1.
     [[nodiscard]] double fraction(OrlenCategory category) const;
+    /// "System, 120 GB", by its place in the order of categories; empty if there is none.
+    Q_INVOKABLE [[nodiscard]] QString describe(int category) const;
 
 Q_SIGNALS:
     void changed();

@@ -25,6 +25,8 @@ class StorageRing : public QQuickPaintedItem {
     /// Colour of the free part.
     Q_PROPERTY(QColor track MEMBER m_track NOTIFY styleChanged)
     Q_PROPERTY(double progress READ progress WRITE setProgress NOTIFY progressChanged)
+    /// The category that stands out, by its place in the order of categories; -1 for none.
+    Q_PROPERTY(int current MEMBER m_current NOTIFY styleChanged)
 
 public:
     explicit StorageRing(QQuickItem* parent = nullptr);
@@ -33,6 +35,12 @@ public:
     void setStorage(StorageModel* storage);
     [[nodiscard]] double progress() const { return m_progress; }
     void setProgress(double progress);
+
+    /// The category drawn at a point; -1 if there is none, as for free space.
+    Q_INVOKABLE [[nodiscard]] int categoryAt(QPointF point) const;
+    /// The category after this one, or before it for a `step` of -1, round the ring as it will be drawn; the
+    /// first or last for -1. -1 if there is none.
+    Q_INVOKABLE [[nodiscard]] int neighbour(int category, int step) const;
 
     void paint(QPainter* painter) override;
 
@@ -48,12 +56,17 @@ private:
 
     void retarget();
     [[nodiscard]] Fractions shown() const;
+    /// As `shown`, with small ones large enough to see.
+    [[nodiscard]] Fractions drawn() const;
+    /// Radius of the middle of the band, pixels.
+    [[nodiscard]] double radius() const;
     [[nodiscard]] QPainterPath segment(double start, double length, double corner) const;
 
     QPointer<StorageModel> m_storage;
     double m_thickness = 0.1;
     QColor m_track = Qt::lightGray;
     double m_progress = 1;
+    int m_current = -1;
     Fractions m_from{};
     Fractions m_to{};
 };

@@ -69,6 +69,13 @@ void Navigation::closeSheet()
     WindowState::of(m_app).setSheet(std::nullopt);
 }
 
+void Navigation::showFolder(const QString& code)
+{
+    m_folder = code;
+    setScreen(Screens::DiskMap);
+    Q_EMIT folderRequested();
+}
+
 void Navigation::followRequest()
 {
     if (const auto requested = WindowState::of(m_app).requestedScreen()) {

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <utility>
+
 namespace orlen {
 
 /// What the main window shows: onboarding or a screen, a sheet over it, or the clean-up overlay. Main thread.
@@ -39,18 +41,25 @@ public:
     /// Opens the detail sheet of this finding; ignored if there is none.
     Q_INVOKABLE void showFinding(const QString& id);
     Q_INVOKABLE void closeSheet();
+    /// Shows the disk map, which is to show this folder: a `PathCode`.
+    Q_INVOKABLE void showFolder(const QString& code);
+    /// The folder that the disk map is to show, once; empty if there is none.
+    Q_INVOKABLE [[nodiscard]] QString takeFolder() { return std::exchange(m_folder, {}); }
 
 Q_SIGNALS:
     void onboardedChanged();
     void screenChanged();
     void sheetChanged();
     void cleaningChanged();
+    /// There is a folder to take.
+    void folderRequested();
 
 private:
     void followRequest();
 
     AppModel& m_app;
     Screens::Screen m_screen = Screens::Home;
+    QString m_folder;
 };
 
 } // namespace orlen

@@ -65,6 +65,15 @@ QtObject {
     readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
     readonly property string findings: "Findings"
 
+    // Storage categories
+    readonly property string chooseCategory: "Shows what fills this category"
+    readonly property string largestFolders: "Largest folders"
+    readonly property string opensInDiskMap: "Opens in the disk map"
+    readonly property string showFewer: "Show fewer"
+    readonly property string beyondOrlen: "What you can free yourself"
+    readonly property string beyondOrlenLead: "Orlen does not touch these. The commands are for a terminal; Orlen runs none of them."
+    readonly property string lookingForAdvice: "Looking at what other programs keep…"
+
     // Finding, review and clean-up
     readonly property string nothingLeft: "Nothing left here."
     readonly property string reviewTitle: "Review before cleaning"

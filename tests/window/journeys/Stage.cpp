@@ -172,6 +172,8 @@ void Stage::fillHome() const
         TempHome::setTimes(m_home->fileOfSize(folder + std::string("/a"), bytes), longAgo, longAgo);
         TempHome::setTimes(m_home->path(folder), longAgo, longAgo);
     }
+    m_home->file(m_home->outside("system/usr/bin/apt"));
+    m_home->fileOfSize(m_home->outside("system/var/cache/apt/archives/editor.deb"), 2 * kMegabyte);
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
 }

@@ -1,0 +1,64 @@
+import QtQuick
+import Orlen.App
+
+/// The largest folders of a category, and all of them on request.
+Column {
+    id: root
+
+    required property CategoryModel category
+    /// Emitted when the keyboard reaches a row.
+    signal reached(row: Item)
+
+    readonly property int few: 5
+    property bool all: false
+
+    Accessible.role: Accessible.List
+    Accessible.name: Strings.largestFolders
+
+    HeadlineText {
+        bottomPadding: Theme.spaceXs
+        visible: root.category.folders.count > 0 || root.category.measuring
+        text: Strings.largestFolders
+    }
+
+    SmallText {
+        visible: root.category.measuring
+        text: Strings.measuring
+        color: Theme.tertiary
+    }
+
+    Repeater {
+        model: root.category.folders
+
+        CategoryFolderRow {
+            id: row
+
+            required property int index
+
+            objectName: "categoryFolder-" + row.index
+            width: root.width
+            visible: root.all || row.index < root.few || !row.isSeen
+            tone: root.category.colour
+            onClicked: root.category.openFolder(row.index)
+            onRevealRequested: root.category.reveal(row.index)
+            onVisualFocusChanged: {
+                if (row.visualFocus)
+                    root.reached(row);
+            }
+        }
+    }
+
+    AppButton {
+        visible: root.category.folders.count > root.few + 1
+        quiet: true
+        text: root.all ? Strings.showFewer : Strings.showAllNumber.arg(root.category.folders.count)
+        onClicked: root.all = !root.all
+    }
+
+    Connections {
+        target: root.category
+        function onOpenChanged() {
+            root.all = false;
+        }
+    }
+}
