@@ -14,7 +14,7 @@ namespace orlen {
 
 namespace {
 
-constexpr std::size_t kSizeLimit = 4UL * 1024 * 1024;
+constexpr std::size_t kTraceLimit = 4UL * 1024 * 1024;
 
 /// Files of desktops that name desktop entries.
 constexpr std::string_view kLists[] = {
@@ -38,7 +38,7 @@ AppTraces AppTraces::read(std::span<const CleanRecord> history)
     AppTraces traces;
     for (const std::string_view pattern : kLists) {
         for (const std::string& path : Places::current().expand(pattern)) {
-            if (const auto text = readSmallFile(path, kSizeLimit))
+            if (const auto text = readSmallFile(path, kTraceLimit))
                 traces.addEntriesNamedIn(*text);
         }
     }

@@ -213,8 +213,8 @@ void addLauncher(InstalledNames& names, const Launcher& launcher)
 /// Crates are often named otherwise than the programs they install.
 void addCrates(InstalledNames& names)
 {
-    constexpr std::size_t kSizeLimit = 1024UL * 1024;
-    const auto list = readSmallFile(Places::current().home + "/.cargo/.crates.toml", kSizeLimit);
+    constexpr std::size_t kCratesLimit = 1024UL * 1024;
+    const auto list = readSmallFile(Places::current().home + "/.cargo/.crates.toml", kCratesLimit);
     for (std::string_view text = list ? std::string_view(*list) : std::string_view(); !text.empty();) {
         std::string_view line = LineText::takeLine(text);
         if (!line.starts_with('"'))

@@ -13,7 +13,7 @@ namespace orlen::WrapperScript {
 namespace {
 
 /// Longer scripts do more than start a program.
-constexpr std::size_t kSizeLimit = 16UL * 1024;
+constexpr std::size_t kScriptLimit = 16UL * 1024;
 /// No path is longer, and a variable that is set to itself twice would grow without end.
 constexpr std::size_t kLongestWord = 4096;
 /// Stands for what cannot be known; no path has it.
@@ -134,7 +134,7 @@ std::string targetIn(std::string_view text, std::string_view home)
 
 std::string target(const std::string& path)
 {
-    const auto text = readSmallFile(path, kSizeLimit);
+    const auto text = readSmallFile(path, kScriptLimit);
     return text ? targetIn(*text, Places::current().home) : std::string();
 }
 
