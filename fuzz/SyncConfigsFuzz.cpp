@@ -54,6 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireNotLonger(SyncConfigs::fromDropbox(text), size);
     requireNotLonger(SyncConfigs::fromNextcloud(text), size);
     requireNotLonger(SyncConfigs::fromOneDrive(text), size);
+    requireNotLonger(SyncConfigs::fromMaestral(text), size);
     // The reader may take the text for UTF-16 and turn two bytes into three.
     requireNotLonger(SyncConfigs::fromSyncthing(text), 2 * size);
     for (const std::string& folder : SyncConfigs::fromDropbox(text))

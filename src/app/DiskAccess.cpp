@@ -5,6 +5,7 @@
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/process/OwnProgram.h"
+#include "platform/text/KeyFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -54,14 +55,10 @@ bool grantsHome(const std::string& list)
 /// Reads the description file that Flatpak puts inside a sandbox.
 bool sandboxGrantsHome(const std::string& description)
 {
-    constexpr std::string_view kKey = "filesystems=";
-    std::istringstream lines(description);
-    bool isInContext = false;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with('['))
-            isInContext = line == "[Context]";
-        else if (isInContext && line.starts_with(kKey))
-            return grantsHome(line.substr(kKey.size()));
+    KeyFile file(description);
+    while (const auto line = file.next()) {
+        if (line->group == "Context" && line->key == "filesystems")
+            return grantsHome(std::string(line->value));
     }
     return false;
 }

@@ -89,6 +89,11 @@ bool protectsContents(std::string_view path)
     return table().judge(path).areContentsProtected;
 }
 
+Protection protection(std::string_view path)
+{
+    return table().judge(path).protection;
+}
+
 void refresh()
 {
     const std::uint64_t ticket = publisher().drawTicket();
@@ -97,9 +102,9 @@ void refresh()
     publisher().publish(std::make_shared<const SafetyTable>(places), ticket);
 }
 
-bool isSyncMarker(std::string_view name)
+bool isSyncMarker(int folder, const FolderEntry& entry)
 {
-    return SyncRoots::isMarker(name);
+    return SyncRoots::isMarker(folder, entry);
 }
 
 } // namespace orlen::Safety

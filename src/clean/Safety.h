@@ -1,7 +1,13 @@
 #pragma once
 
+#include "clean/Protection.h"
+
 #include <string>
 #include <string_view>
+
+namespace orlen {
+struct FolderEntry;
+}
 
 /// The single gate for every path that is offered, entered, moved or restored. Any thread.
 ///
@@ -19,11 +25,14 @@ namespace orlen::Safety {
 /// Pictures and so on) is protected itself, but not its contents.
 [[nodiscard]] bool protectsContents(std::string_view path);
 
+/// Which rule protects the path, for showing why; `none` exactly if `isProtected` is false.
+[[nodiscard]] Protection protection(std::string_view path);
+
 /// Reads mounts and sync folders again. Called at start and before every scan, clean-up and restore. Blocks
 /// on the disk.
 void refresh();
 
-/// Whether a file or folder of this name shows that a sync program mirrors the folder around it.
-[[nodiscard]] bool isSyncMarker(std::string_view name);
+/// Whether this entry of an open folder shows that a sync program mirrors the folder. Blocks on the disk.
+[[nodiscard]] bool isSyncMarker(int folder, const FolderEntry& entry);
 
 } // namespace orlen::Safety

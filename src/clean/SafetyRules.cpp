@@ -1,6 +1,8 @@
 #include "clean/SafetyRules.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace orlen::SafetyRules {
 
@@ -11,119 +13,188 @@ constexpr auto contents = PathTrie::Mark::contents;
 constexpr auto closed = PathTrie::Mark::closed;
 constexpr auto opened = PathTrie::Mark::opened;
 
+using enum Protection;
+
 constexpr PathRule kPlaceRules[] = {
     // Only what is below these three may be touched.
-    {"/", closed},
-    {"{H}", opened},
-    {"{APPLICATIONS}", opened},
-    {"{LIBRARY}", opened},
+    {"/", closed, outside},
+    {"{H}", opened, none},
+    {"{APPLICATIONS}", opened, none},
+    {"{LIBRARY}", opened, none},
 
-    {"{ROOT}/(System|usr|bin|sbin|dev|cores|etc)", contents},
-    {"{ROOT}/private/(var/db|etc)", contents},
-    {"{ROOT}/var/db", contents},
+    {"{ROOT}/(System|usr|bin|sbin|dev|cores|etc)", contents, systemFolders},
+    {"{ROOT}/private/(var/db|etc)", contents, systemFolders},
+    {"{ROOT}/var/db", contents, systemFolders},
 
-    {"{H}", itself},
-    {"{H}/(Library|Documents|Desktop|Pictures|Downloads|Movies|Music)", itself},
-    {"{APPLICATIONS}", itself},
-    {"{LIBRARY}", itself},
-    // Cloud stores. To be careful, everything whose name starts that way is included.
-    {"{H}/Library/Mobile Documents*", contents},
-    {"{H}/Library/CloudStorage*", contents},
+    {"{H}", itself, mainFolders},
+    {"{H}/(Library|Documents|Desktop|Pictures|Downloads|Movies|Music)", itself, mainFolders},
+    {"{APPLICATIONS}", itself, mainFolders},
+    {"{LIBRARY}", itself, mainFolders},
+    // To be careful, everything whose name starts that way is included.
+    {"{H}/Library/Mobile Documents*", contents, cloudStores},
+    {"{H}/Library/CloudStorage*", contents, cloudStores},
 
-    {"{H}/(.cache|.config|.local|bin|opt|.var|snap|Applications|AppImages|Videos|Public|Templates)", itself},
-    {"{H}/.local/(share|state|bin|lib|opt)", itself},
-    {"{H}/.var/app", itself},
-    {"({CACHE}|{CONFIG}|{DATA}|{STATE})", itself},
-    {"({DESKTOP}|{DOWNLOAD}|{DOCUMENTS}|{MUSIC}|{PICTURES}|{VIDEOS}|{TEMPLATES}|{PUBLICSHARE})", itself},
-    {"{CONFIG}/(autostart|systemd|systemd/user)", itself},
-    {"{DATA}/(applications|icons)", itself},
+    {"{H}/(.cache|.config|.local|bin|opt|.var|snap|Applications|AppImages|Videos|Public|Templates)", itself,
+     mainFolders},
+    {"{H}/.local/(share|state|bin|lib|opt)", itself, mainFolders},
+    {"{H}/.var/app", itself, mainFolders},
+    {"({CACHE}|{CONFIG}|{DATA}|{STATE})", itself, mainFolders},
+    {"({DESKTOP}|{DOWNLOAD}|{DOCUMENTS}|{MUSIC}|{PICTURES}|{VIDEOS}|{TEMPLATES}|{PUBLICSHARE})", itself,
+     mainFolders},
+    {"{CONFIG}/(autostart|systemd|systemd/user)", itself, mainFolders},
+    {"{DATA}/(applications|icons)", itself, mainFolders},
 
-    // Settings or live data beside caches. An app's folder below ".var/app" stays free: once the app is gone,
-    // the uninstaller offers it.
-    {"{H}/.var/app/*/(cache|config|data)", itself},
-    {"{H}/snap/*", itself},
-    {"{H}/(.gradle|.npm|.cargo|.rustup|.android|.android/avd|.m2|go|go/pkg|.mozilla)", itself},
-    {"{STEAM}", itself},
-    {"{STEAM}/steamapps", itself},
+    // An app's folder below ".var/app" stays free: once the app is gone, the uninstaller offers it.
+    {"{H}/.var/app/*/(cache|config|data)", itself, settingsBesideCaches},
+    {"{H}/snap/*", itself, settingsBesideCaches},
+    {"{H}/(.gradle|.npm|.cargo|.rustup|.android|.android/avd|.m2|go|go/pkg|.mozilla)", itself,
+     settingsBesideCaches},
+    {"({STEAM}|{H}/.steam|{H}/.steam/*)", itself, settingsBesideCaches},
+    {"({STEAM}|{H}/.steam/*)/steamapps", itself, settingsBesideCaches},
 };
 
 constexpr PathRule kTreasureRules[] = {
-    // Keys and credentials.
-    {"{H}/(.ssh|.gnupg|.pki|.password-store|.aws|.azure|.kube|.docker|.terraform.d)", contents},
-    {"{CONFIG}/(gcloud|gh|rclone|borg|op|Bitwarden|sops)", contents},
-    {"{H}/.cargo/credentials.toml", contents},
-    {"{H}/.gradle/gradle.properties", contents},
-    {"{H}/.m2/(settings.xml|settings-security.xml)", contents},
+    {"{H}/(.ssh|.gnupg|.pki|.password-store|.aws|.azure|.kube|.docker|.terraform.d)", contents, credentials},
+    {"{H}/(.step|.oci)", contents, credentials},
+    {"{H}/.minikube", closed, credentials},
+    {"{H}/.minikube/cache", opened, none},
+    {"{CONFIG}/(gcloud|gh|rclone|borg|op|Bitwarden|sops|1Password|keepassxc|age|Proton)", contents,
+     credentials},
+    {"{H}/.cargo/credentials.toml", contents, credentials},
+    {"{H}/.gradle/gradle.properties", contents, credentials},
+    {"{H}/.m2/(settings.xml|settings-security.xml)", contents, credentials},
     {"{H}/(.netrc|.git-credentials|.authinfo|.authinfo.gpg|.npmrc|.pypirc|.Xauthority|.ICEauthority)",
-     contents},
+     contents, credentials},
 
-    // Keyrings, accounts, the settings database, wallets.
-    {"{DATA}/(keyrings|kwalletd|gnome-keyring)", contents},
-    {"{CONFIG}/(goa-1.0|dconf)", contents},
-    {"{H}/(.electrum|.bitcoin|.monero|.ethereum)", contents},
+    {"{DATA}/(keyrings|kwalletd|gnome-keyring)", contents, keyrings},
+    {"{CONFIG}/(goa-1.0|dconf|solana|feather)", contents, keyrings},
+    {"{H}/(.electrum|.bitcoin|.monero|.ethereum)", contents, keyrings},
 
-    // Browser profiles: passwords, history, open tabs.
-    {"{H}/(.mozilla/firefox|.librewolf|.waterfox|.zen)", contents},
-    {"{CONFIG}/google-chrome*", contents},
-    {"{CONFIG}/chromium*", contents},
-    {"{CONFIG}/BraveSoftware", contents},
-    {"{CONFIG}/microsoft-edge*", contents},
-    {"{CONFIG}/vivaldi*", contents},
-    {"{CONFIG}/opera*", contents},
+    {"{H}/(.mozilla/firefox|.librewolf|.waterfox|.zen|.floorp)", contents, browserProfiles},
+    {"{CONFIG}/(mozilla|librewolf|zen|waterfox|floorp)", contents, browserProfiles},
     {"{H}/.var/app/"
-     "(org.mozilla.firefox|io.gitlab.librewolf-community|net.waterfox.waterfox|app.zen_browser.zen|"
-     "com.google.Chrome|org.chromium.Chromium|com.brave.Browser|com.microsoft.Edge|com.vivaldi.Vivaldi|"
-     "com.opera.Opera)/(config|data|.mozilla)",
-     contents},
+     "(org.mozilla.firefox|io.gitlab.librewolf-community|net.waterfox.waterfox|app.zen_browser.zen)/"
+     "(config|data|.mozilla)",
+     contents, browserProfiles},
+    // Browsers whose engine keeps its caches in the profile: only those are let through, by exact name.
+    {"{CONFIG}/(google-chrome*|chromium*|microsoft-edge*|vivaldi*|opera*|BraveSoftware)", closed,
+     browserProfiles},
+    {"{CONFIG}/(thorium|net.imput.helium|yandex-browser)", closed, browserProfiles},
+    {"{CONFIG}/(google-chrome*|chromium*|microsoft-edge*|vivaldi*|opera*|BraveSoftware/*){PROFILE}/{ENGINE}",
+     opened, none},
+    {"{CONFIG}/(thorium|net.imput.helium|yandex-browser){PROFILE}/{ENGINE}", opened, none},
+    {"({CONFIG}|{DATA})/(falkon|qutebrowser)", closed, browserProfiles},
+    {"({CONFIG}|{DATA})/(falkon|qutebrowser)/(webengine|QtWebEngine/*|profiles/*)/{ENGINE}", opened, none},
+    {"{DATA}/epiphany", contents, browserProfiles},
+    {"{H}/.var/app/(com.google.Chrome|org.chromium.Chromium|com.brave.Browser|com.microsoft.Edge|"
+     "com.vivaldi.Vivaldi|com.opera.Opera)/(config|data|.mozilla)",
+     closed, browserProfiles},
+    {"{H}/.var/app/(com.google.Chrome|org.chromium.Chromium|com.brave.Browser|com.microsoft.Edge|"
+     "com.vivaldi.Vivaldi|com.opera.Opera)/config/(*|BraveSoftware/*){PROFILE}/{ENGINE}",
+     opened, none},
     // Beside "common" are "current", a link, and the numbered folders it points to.
-    {"{H}/snap/(firefox|chromium|brave|opera)/*", closed},
-    {"{H}/snap/(firefox|chromium|brave|opera)/*/.cache", opened},
+    {"{H}/snap/(firefox|chromium|brave|opera)/*", closed, browserProfiles},
+    {"{H}/snap/(firefox|chromium|brave|opera)/*/.cache", opened, none},
+    {"{H}/snap/chromium/*/chromium{PROFILE}/{ENGINE}", opened, none},
+    {"{H}/snap/(brave|opera)/*/.config/(opera*|BraveSoftware/*){PROFILE}/{ENGINE}", opened, none},
 
-    // Mail stores.
-    {"{H}/(.thunderbird|.icedove|Mail|Maildir|.mail|.maildir|.mutt)", contents},
-    {"{DATA}/(evolution|geary|akonadi|local-mail|kmail2|mail)", contents},
-    {"{CONFIG}/(evolution|akonadi)", contents},
-    {"{H}/.claws-mail", closed},
-    {"{H}/.claws-mail/mimetmp", opened},
+    {"{H}/(.thunderbird|.icedove|Mail|Maildir|.mail|.maildir|.mutt)", contents, mail},
+    {"{DATA}/(evolution|geary|akonadi|local-mail|kmail2|mail)", contents, mail},
+    {"{CONFIG}/(evolution|akonadi|thunderbird)", contents, mail},
+    {"{H}/.claws-mail", closed, mail},
+    {"{H}/.claws-mail/mimetmp", opened, none},
+    {"{H}/.var/app/(org.mozilla.Thunderbird|org.mozilla.thunderbird|eu.betterbird.Betterbird)/"
+     "(.thunderbird|config|data)",
+     contents, mail},
+    {"{H}/snap/(thunderbird|betterbird)/*", closed, mail},
+    {"{H}/snap/(thunderbird|betterbird)/*/.cache", opened, none},
 
-    // Stores that only their own program may change.
-    {"{DATA}/(containers|docker|flatpak|libvirt|gnome-boxes|waydroid)", contents},
-    {"{H}/(.ollama|.steam)", contents},
-    {"{STEAM}/(steamapps/common|steamapps/compatdata|userdata)", contents},
+    {"{CONFIG}/Signal", contents, conversations},
+    {"({DATA}|{H}/.var/app/org.telegram.desktop/data|{H}/snap/telegram-desktop/*/.local/share)/"
+     "TelegramDesktop",
+     closed, conversations},
+    {"({DATA}|{H}/.var/app/org.telegram.desktop/data|{H}/snap/telegram-desktop/*/.local/share)/"
+     "TelegramDesktop/tdata/user_data*/(cache|media_cache)",
+     opened, none},
+    {"{H}/(.claude|.codex|.gemini)", contents, conversations},
+    {"{DATA}/(opencode|zed)", contents, conversations},
+    {"{H}/.lmstudio", closed, conversations},
+    {"{H}/.lmstudio/models/*/*", opened, none},
 
-    // The Trash and its bookkeeping; the items in it are free.
-    {"({DATA}/Trash|{H}/.Trash-{UID})", itself},
-    {"({DATA}/Trash|{H}/.Trash-{UID})/files", itself},
-    {"{DATA}/Trash/(info|expunged|directorysizes)", contents},
-    {"{H}/.Trash-{UID}/info", contents},
+    {"{CONFIG}/(retroarch|Standard Notes|Nextcloud)", contents, savedState},
+    {"{DATA}/(yuzu|dolphin-emu|PCSX2|rpcs3|Anki2)", contents, savedState},
+    {"{H}/.dropbox", contents, savedState},
 
-    // History and snapshots of this program.
-    {"{DATA}/Orlen", contents},
+    {"{DATA}/(containers|docker|flatpak|libvirt|gnome-boxes|waydroid|baloo)", contents, managedStores},
+    {"{H}/.ollama", contents, managedStores},
+    {"({STEAM}|{H}/.steam/*)/(steamapps/common|steamapps/compatdata|steamapps/downloading|userdata)",
+     contents, managedStores},
+
+    // The items in it are free.
+    {"({DATA}/Trash|{H}/.Trash-{UID})", itself, trash},
+    {"({DATA}/Trash|{H}/.Trash-{UID})/files", itself, trash},
+    {"{DATA}/Trash/(info|expunged|directorysizes)", contents, trash},
+    {"{H}/.Trash-{UID}/info", contents, trash},
+
+    {"{DATA}/Orlen", contents, ownData},
 };
 
-/// Version control stores, encryption metadata, snapshot trees.
-constexpr std::string_view kSealedNames[] = {".git",   ".hg",      ".svn",        ".bzr",      ".jj",
-                                             "_darcs", ".fscrypt", ".encfs6.xml", ".snapshots"};
+/// What the words stand for that only this table knows: the profiles in a browser's folder beside the folder
+/// itself, and the caches of its engine.
+constexpr std::pair<std::string_view, std::string_view> kWords[] = {
+    {"{PROFILE}", "(|/Default|/Profile *)"},
+    {"{ENGINE}", "(GPUCache|ShaderCache|GrShaderCache|GraphiteDawnCache|DawnGraphiteCache|DawnWebGPUCache|"
+                 "GPUPersistentCache|component_crx_cache|extensions_crx_cache|OptGuideOnDeviceModel|"
+                 "optimization_guide_model_store)"},
+};
+
+struct NameRule {
+    std::string_view text;
+    Protection protection;
+};
+
+constexpr NameRule kSealedNames[] = {
+    {".git", repositories},   {".hg", repositories},       {".svn", repositories},
+    {".bzr", repositories},   {".jj", repositories},       {"_darcs", repositories},
+    {".fscrypt", encryption}, {".encfs6.xml", encryption}, {".snapshots", encryption},
+};
+
+struct SealedPair {
+    std::string_view parent;
+    std::string_view name;
+    Protection protection;
+};
+
+/// The mail store of whichever Library, and the games of whichever Steam library.
+constexpr SealedPair kSealedPairs[] = {{"Library", "Mail", mail},
+                                       {"steamapps", "common", managedStores},
+                                       {"steamapps", "compatdata", managedStores},
+                                       {"steamapps", "downloading", managedStores}};
 
 /// Libraries that a program keeps as one bundle.
-constexpr std::string_view kSealedEndings[] = {".photoslibrary", ".lrdata",        ".lrlibrary", ".aplibrary",
-                                               ".fcpbundle",     ".imovielibrary", ".dtBase2"};
+constexpr NameRule kSealedEndings[] = {
+    {".photoslibrary", mediaLibraries}, {".lrdata", mediaLibraries},    {".lrlibrary", mediaLibraries},
+    {".aplibrary", mediaLibraries},     {".fcpbundle", mediaLibraries}, {".imovielibrary", mediaLibraries},
+    {".dtBase2", mediaLibraries},
+};
 
-/// Placeholders for files that exist only on a server.
-constexpr std::string_view kProtectedEndings[] = {".icloud", ".nextcloud", ".owncloud"};
+constexpr NameRule kProtectedEndings[] = {
+    {".icloud", placeholders}, {".nextcloud", placeholders}, {".owncloud", placeholders}};
 
-/// Databases of photo managers, and the marker of a synchronised folder.
-constexpr std::string_view kProtectedNames[] = {"digikam4.db", "recognition.db", ".stfolder"};
+constexpr NameRule kProtectedNames[] = {
+    {"digikam4.db", catalogues}, {"recognition.db", catalogues}, {".stfolder", catalogues}};
 
-bool isAmong(std::string_view name, std::span<const std::string_view> names)
+Protection ofName(std::string_view name, std::span<const NameRule> rules)
 {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    const auto found = std::ranges::find(rules, name, &NameRule::text);
+    return found == rules.end() ? none : found->protection;
 }
 
-bool endsWithOneOf(std::string_view name, std::span<const std::string_view> endings)
+Protection ofEnding(std::string_view name, std::span<const NameRule> rules)
 {
-    return std::any_of(endings.begin(), endings.end(),
-                       [&](std::string_view ending) { return name.ends_with(ending); });
+    const auto found =
+        std::ranges::find_if(rules, [&](const NameRule& rule) { return name.ends_with(rule.text); });
+    return found == rules.end() ? none : found->protection;
 }
 
 } // namespace
@@ -140,6 +211,10 @@ std::span<const PathRule> treasureRules()
 
 std::vector<std::string> spelledOut(std::string_view pattern)
 {
+    for (const auto& [word, texts] : kWords) {
+        if (const std::size_t at = pattern.find(word); at != std::string_view::npos)
+            return spelledOut(std::string(pattern).replace(at, word.size(), texts));
+    }
     const std::size_t open = pattern.find('(');
     const std::size_t close = pattern.find(')', open);
     if (open == std::string_view::npos || close == std::string_view::npos)
@@ -157,22 +232,23 @@ std::vector<std::string> spelledOut(std::string_view pattern)
     return patterns;
 }
 
-bool isSealedName(std::string_view component)
+Protection ofSealedName(std::string_view parent, std::string_view component)
 {
-    if (isAmong(component, kSealedNames))
-        return true;
-    // Most folder names have no dot, and every suffix starts with one.
-    return component.find('.') != std::string_view::npos && endsWithOneOf(component, kSealedEndings);
+    if (const auto pair = std::ranges::find_if(
+            kSealedPairs,
+            [&](const SealedPair& rule) { return component == rule.name && parent == rule.parent; });
+        pair != std::end(kSealedPairs))
+        return pair->protection;
+    if (const Protection protection = ofName(component, kSealedNames); protection != none)
+        return protection;
+    // Most folder names have no dot, and every ending starts with one.
+    return component.find('.') == std::string_view::npos ? none : ofEnding(component, kSealedEndings);
 }
 
-bool isSealedPair(std::string_view parent, std::string_view component)
+Protection ofProtectedName(std::string_view lastComponent)
 {
-    return component == "Mail" && parent == "Library"; // the mail store, in whichever Library
-}
-
-bool isProtectedName(std::string_view lastComponent)
-{
-    return isAmong(lastComponent, kProtectedNames) || endsWithOneOf(lastComponent, kProtectedEndings);
+    const Protection protection = ofName(lastComponent, kProtectedNames);
+    return protection != none ? protection : ofEnding(lastComponent, kProtectedEndings);
 }
 
 } // namespace orlen::SafetyRules

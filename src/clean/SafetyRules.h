@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clean/PathTrie.h"
+#include "clean/Protection.h"
 
 #include <span>
 #include <string>
@@ -10,11 +11,13 @@
 /// What is always protected, as tables: to add a rule, add a line. Pure; any thread.
 namespace orlen::SafetyRules {
 
-/// A pattern for `Places::expand`. In addition, "(a|b)" matches either text, a component "*" matches any
-/// component, and a trailing "*" matches all names that start that way.
+/// A pattern for `Places::expand`. In addition, "(a|b)" matches either text, and a component that ends in "*"
+/// matches all names that start with the text before it. {PROFILE} stands for a browser's folder and the
+/// profiles in it, {ENGINE} for the caches of its engine.
 struct PathRule {
     std::string_view pattern;
     PathTrie::Mark mark;
+    Protection protection; ///< `none` for a rule that opens
 };
 
 /// System roots, the three trees in which anything may be touched, and folders that only group others: their
@@ -25,16 +28,13 @@ struct PathRule {
 /// one of these exists, its parents must not be moved either.
 [[nodiscard]] std::span<const PathRule> treasureRules();
 
-/// The pattern expanded for each choice of its "(a|b)" groups.
+/// The pattern expanded for each choice of its "(a|b)" groups and words of this table.
 [[nodiscard]] std::vector<std::string> spelledOut(std::string_view pattern);
 
-/// Whether a folder of this name is protected with its contents wherever it is.
-[[nodiscard]] bool isSealedName(std::string_view component);
+/// What protects a folder of this name, directly inside one named `parent`, with its contents wherever it is.
+[[nodiscard]] Protection ofSealedName(std::string_view parent, std::string_view component);
 
-/// The same for a folder directly inside another.
-[[nodiscard]] bool isSealedPair(std::string_view parent, std::string_view component);
-
-/// Whether an entry of this name is protected wherever it is, but not what is below it.
-[[nodiscard]] bool isProtectedName(std::string_view lastComponent);
+/// What protects an entry of this name wherever it is, but not what is below it.
+[[nodiscard]] Protection ofProtectedName(std::string_view lastComponent);
 
 } // namespace orlen::SafetyRules

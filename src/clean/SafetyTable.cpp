@@ -68,34 +68,43 @@ SafetyTable::SafetyTable(Places places) : m_places(std::move(places))
     addFound(mounts);
 }
 
+void SafetyTable::mark(std::string_view folder, std::string_view pattern, Mark mark, Protection protection)
+{
+    m_marks.add(folder, pattern, mark, static_cast<PathTrie::Label>(protection));
+}
+
 void SafetyTable::addRules(const HomeMounts& mounts)
 {
     for (const auto& rule : SafetyRules::placeRules()) {
         forEachPath(rule, m_places, [&](const std::string& folder, const std::string& rest) {
-            m_marks.add(folder, rest, rule.mark);
+            mark(folder, rest, rule.mark, rule.protection);
         });
     }
+    std::vector<std::string> treasures;
     for (const auto& rule : SafetyRules::treasureRules()) {
         forEachPath(rule, m_places, [&](const std::string& folder, const std::string& rest) {
-            m_marks.add(folder, rest, rule.mark);
-            const std::string fixed = folder + std::string(fixedStart(rest));
+            mark(folder, rest, rule.mark, rule.protection);
+            std::string fixed = folder + std::string(fixedStart(rest));
             if (rule.mark != Mark::opened && mayExist(fixed, m_places, mounts))
-                guardParents(fixed);
+                treasures.push_back(std::move(fixed));
         });
     }
+    // Only now, so that a rule of its own explains a folder better than what it holds.
+    for (const std::string& treasure : treasures)
+        guardParents(treasure);
 }
 
 void SafetyTable::addFound(const HomeMounts& mounts)
 {
-    const auto mark = [this](const std::vector<std::string>& paths, Mark kind) {
+    const auto markAll = [this](const std::vector<std::string>& paths, Mark kind, Protection protection) {
         for (const std::string& path : paths) {
-            m_marks.add(path, {}, kind);
+            mark(path, {}, kind, protection);
             guardParents(path);
         }
     };
-    mark(SyncRoots::find(m_places, mounts), Mark::contents);
-    mark(mounts.points, Mark::itself);
-    mark(mounts.foreign, Mark::contents);
+    markAll(SyncRoots::find(m_places, mounts), Mark::contents, Protection::syncFolders);
+    markAll(mounts.foreign, Mark::contents, Protection::otherFileSystems);
+    markAll(mounts.points, Mark::itself, Protection::mountPoints);
 }
 
 void SafetyTable::guardParents(std::string_view path)
@@ -103,14 +112,16 @@ void SafetyTable::guardParents(std::string_view path)
     for (path = PathText::parent(path); path.size() > m_places.home.size(); path = PathText::parent(path)) {
         if (!PathText::isAtOrBelow(path, m_places.home))
             return;
-        m_marks.add(path, {}, Mark::itself);
+        mark(path, {}, Mark::itself, Protection::holdsProtected);
     }
 }
 
 SafetyTable::Verdict SafetyTable::judge(std::string_view path) const
 {
+    if (!m_places.isHomeUsable)
+        return {true, true, Protection::outside};
     // The kernel would stop at a NUL, the rules would not.
-    if (!m_places.isHomeUsable || !path.starts_with('/') || path.find('\0') != std::string_view::npos)
+    if (!path.starts_with('/') || path.find('\0') != std::string_view::npos)
         return {};
     const bool isResolvedForm =
         m_places.resolvedHome != m_places.home && PathText::isAtOrBelow(path, m_places.resolvedHome);
@@ -133,12 +144,17 @@ SafetyTable::Verdict SafetyTable::judgeNormal(std::string_view path) const
         parent = component;
         component = path.substr(at, end - at);
         cursor.enter(component);
-        if (cursor.isSealed() || SafetyRules::isSealedName(component) ||
-            SafetyRules::isSealedPair(parent, component))
-            return {};
+        if (cursor.isSealed())
+            return {true, true, static_cast<Protection>(cursor.label())};
+        if (const Protection sealed = SafetyRules::ofSealedName(parent, component);
+            sealed != Protection::none)
+            return {true, true, sealed};
         at = end + 1;
     }
-    return {cursor.isMarked() || SafetyRules::isProtectedName(component), cursor.areContentsMarked()};
+    if (cursor.isMarked())
+        return {true, cursor.areContentsMarked(), static_cast<Protection>(cursor.label())};
+    const Protection named = SafetyRules::ofProtectedName(component);
+    return {named != Protection::none, cursor.areContentsMarked(), named};
 }
 
 } // namespace orlen

@@ -2,6 +2,7 @@
 
 #include "clean/HomeMounts.h"
 #include "clean/PathTrie.h"
+#include "clean/Protection.h"
 
 #include <string>
 #include <string_view>
@@ -19,6 +20,7 @@ public:
     struct Verdict {
         bool isProtected = true;
         bool areContentsProtected = true;
+        Protection protection = Protection::unclearPath; ///< which rule decided
         friend bool operator==(const Verdict&, const Verdict&) = default;
     };
     [[nodiscard]] Verdict judge(std::string_view path) const;
@@ -28,6 +30,7 @@ private:
     void addFound(const HomeMounts& mounts);
     /// Marks every parent of the path below the home folder, so that none can be moved with the path inside.
     void guardParents(std::string_view path);
+    void mark(std::string_view folder, std::string_view pattern, PathTrie::Mark mark, Protection protection);
 
     [[nodiscard]] Verdict judgeNormal(std::string_view path) const;
 

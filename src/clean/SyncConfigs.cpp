@@ -61,6 +61,18 @@ bool isShallow(int depth, nlohmann::json::parse_event_t /*event*/, const nlohman
     return depth <= kDeepest;
 }
 
+/// The values of a key in whichever group, without quotes.
+std::vector<std::string> valuesOf(std::string_view key, std::string_view text)
+{
+    std::vector<std::string> values;
+    KeyFile file(text);
+    while (const auto line = file.next()) {
+        if (line->key == key)
+            values.emplace_back(withoutQuotes(line->value));
+    }
+    return values;
+}
+
 } // namespace
 
 std::vector<std::string> fromDropbox(std::string_view text)
@@ -104,15 +116,14 @@ std::vector<std::string> fromSyncthing(std::string_view text)
     return folders;
 }
 
+std::vector<std::string> fromMaestral(std::string_view text)
+{
+    return valuesOf("path", text);
+}
+
 std::vector<std::string> fromOneDrive(std::string_view text)
 {
-    std::vector<std::string> folders;
-    KeyFile file(text);
-    while (const auto line = file.next()) {
-        if (line->key == "sync_dir")
-            folders.emplace_back(withoutQuotes(line->value));
-    }
-    return folders;
+    return valuesOf("sync_dir", text);
 }
 
 } // namespace orlen::SyncConfigs

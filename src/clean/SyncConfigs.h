@@ -11,6 +11,9 @@ namespace orlen::SyncConfigs {
 /// Dropbox's "info.json": the "path" of each account.
 [[nodiscard]] std::vector<std::string> fromDropbox(std::string_view text);
 
+/// Maestral's configuration files: "path".
+[[nodiscard]] std::vector<std::string> fromMaestral(std::string_view text);
+
 /// "nextcloud.cfg" and "owncloud.cfg": every "localPath", unescaped.
 [[nodiscard]] std::vector<std::string> fromNextcloud(std::string_view text);
 

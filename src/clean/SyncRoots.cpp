@@ -1,12 +1,15 @@
 #include "clean/SyncRoots.h"
 
+#include "clean/SafetyRules.h"
 #include "clean/SyncConfigs.h"
 #include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
+#include "platform/text/NamePattern.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace orlen::SyncRoots {
@@ -19,28 +22,36 @@ constexpr std::size_t kPathLimit = 4096;
 /// Most listings while searching for markers: plenty for a normal home, a bound for an unusual one.
 constexpr std::size_t kListingLimit = 20'000;
 
-constexpr std::string_view kDefaultFolders[] = {"Dropbox", "Nextcloud", "ownCloud",    "OneDrive",
-                                                "MEGA",    "Insync",    "pCloudDrive", "GoogleDrive",
-                                                "Seafile", "kDrive",    "Google Drive"};
+constexpr std::string_view kDefaultFolders[] = {"Dropbox",       "Dropbox (Maestral)",
+                                                "Nextcloud",     "ownCloud",
+                                                "OneDrive",      "MEGA",
+                                                "Insync",        "pCloudDrive",
+                                                "GoogleDrive",   "Google Drive",
+                                                "Seafile",       "kDrive",
+                                                "Filen",         "Koofr",
+                                                "koofr",         "Proton Drive",
+                                                "ProtonDrive",   "Jottacloud",
+                                                "Tresorit",      "Internxt",
+                                                "Internxt Drive"};
+
+/// Files and folders that a sync program puts into the folders it mirrors.
+constexpr std::string_view kMarkers[] = {".stfolder",   ".nextcloudsync.log", ".owncloudsync.log", ".debris",
+                                         ".megaignore", ".sync.ffs_db",       "sync.ffs_db"};
 
 struct Config {
-    std::string_view pattern; ///< as `Places::expand` reads it
+    std::string_view pattern; ///< as in `SafetyRules::PathRule`; a star may stand anywhere in a name
     std::vector<std::string> (*read)(std::string_view text);
 };
 
 constexpr Config kConfigs[] = {
     {"{H}/.dropbox/info.json", SyncConfigs::fromDropbox},
-    {"{CONFIG}/Nextcloud/nextcloud.cfg", SyncConfigs::fromNextcloud},
-    {"{CONFIG}/ownCloud/owncloud.cfg", SyncConfigs::fromNextcloud},
-    {"{STATE}/syncthing/config.xml", SyncConfigs::fromSyncthing},
-    {"{CONFIG}/syncthing/config.xml", SyncConfigs::fromSyncthing},
-    {"{CONFIG}/onedrive/config", SyncConfigs::fromOneDrive},
-};
-
-/// The same files of sandboxed programs, below ".var/app/<id>".
-constexpr Config kSandboxedConfigs[] = {
-    {"/config/Nextcloud/nextcloud.cfg", SyncConfigs::fromNextcloud},
-    {"/config/ownCloud/owncloud.cfg", SyncConfigs::fromNextcloud},
+    {"{CONFIG}/maestral/*.ini", SyncConfigs::fromMaestral},
+    {"({CONFIG}|{H}/.var/app/*/config)/(Nextcloud/nextcloud|ownCloud/owncloud).cfg",
+     SyncConfigs::fromNextcloud},
+    {"({STATE}|{CONFIG}|{H}/.var/app/*/config|{H}/.var/app/*/data|{H}/.var/app/*/.local/state)/syncthing/"
+     "config.xml",
+     SyncConfigs::fromSyncthing},
+    {"{CONFIG}/(onedrive|onedrive-*|onedrive/accounts/*)/config", SyncConfigs::fromOneDrive},
 };
 
 class Search {
@@ -81,15 +92,28 @@ private:
     void readConfigs()
     {
         for (const Config& config : kConfigs) {
-            for (const std::string& file : m_places.expand(config.pattern))
-                readConfig(file, config);
+            for (const std::string& pattern : SafetyRules::spelledOut(config.pattern)) {
+                const std::size_t end = pattern.find('}') + 1;
+                for (const std::string& folder : m_places.expand(pattern.substr(0, end)))
+                    readConfigs(folder, std::string_view(pattern).substr(end), config);
+            }
         }
-        const std::string apps = m_places.home + "/.var/app";
-        if (m_mounts.isForeign(apps))
+    }
+
+    /// `rest` is a pattern below the folder, which is taken literally.
+    void readConfigs(const std::string& folder, std::string_view rest, const Config& config)
+    {
+        const std::size_t star = rest.find('*');
+        if (star == std::string_view::npos)
+            return readConfig(folder + std::string(rest), config);
+        const std::size_t start = rest.rfind('/', star);
+        const std::size_t end = std::min(rest.find('/', star), rest.size());
+        const std::string above = folder + std::string(rest.substr(0, start));
+        if (m_mounts.isForeign(above))
             return;
-        for (const std::string& id : listNames(apps)) {
-            for (const Config& config : kSandboxedConfigs)
-                readConfig(PathText::join(apps, id).append(config.pattern), config);
+        for (const std::string& name : listNames(above)) {
+            if (NamePattern::matches(rest.substr(start + 1, end - start - 1), name))
+                readConfigs(PathText::join(above, name), rest.substr(end), config);
         }
     }
 
@@ -120,7 +144,7 @@ private:
         FolderReader reader(fd.value().get());
         while (const auto chunk = reader.next()) {
             chunk->forEach([&](const FolderEntry& entry) {
-                hasMarker |= isMarker(entry.name);
+                hasMarker |= isMarker(fd.value().get(), entry);
                 if (entry.type == EntryType::folder || entry.type == EntryType::unknown)
                     below.push_back(PathText::join(folder, entry.name));
             });
@@ -158,11 +182,14 @@ std::vector<std::string> find(const Places& places, const HomeMounts& mounts)
     return Search(places, mounts).run();
 }
 
-bool isMarker(std::string_view name)
+bool isMarker(int folder, const FolderEntry& entry)
 {
+    const std::string_view name = entry.name;
     if (name.ends_with(".db"))
         return name.starts_with(".sync_") || name.starts_with("._sync_");
-    return name == ".stfolder" || name == ".nextcloudsync.log" || name == ".owncloudsync.log";
+    if (name == ".sync")
+        return entry.type != EntryType::link && statusAt(folder, ".sync/ID").ok();
+    return std::ranges::find(kMarkers, name) != std::end(kMarkers);
 }
 
 } // namespace orlen::SyncRoots

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "clean/HomeMounts.h"
+#include "platform/files/Folder.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// Finds the folders that sync programs mirror: what is moved out of them is deleted on the server and on the
@@ -16,7 +16,8 @@ namespace orlen::SyncRoots {
 /// Blocks on the disk; any thread.
 [[nodiscard]] std::vector<std::string> find(const Places& places, const HomeMounts& mounts);
 
-/// Whether a file or folder of this name shows that the folder around it is mirrored.
-[[nodiscard]] bool isMarker(std::string_view name);
+/// Whether this entry of an open folder shows that the folder is mirrored. Looks at the disk only for names
+/// that do not say it all.
+[[nodiscard]] bool isMarker(int folder, const FolderEntry& entry);
 
 } // namespace orlen::SyncRoots

@@ -59,8 +59,9 @@ CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
             continue;
         for (const FileEntry& entry : finding.items) {
             candidates.push_back(entry.path);
-            const bool isChosen = allOfKinds ? finding.effectiveRating(entry) != Rating::keep
-                                             : preselected.contains(entry.path);
+            const bool isChosen = allOfKinds
+                                      ? finding.effectiveRating(entry) != Rating::keep && !entry.isTickedAlone
+                                      : preselected.contains(entry.path);
             if (isChosen)
                 result.paths.insert(entry.path);
         }

@@ -52,5 +52,6 @@ std::unique_ptr<Command> makeAppsCommand();
 std::unique_ptr<Command> makeLeftoversCommand();
 std::unique_ptr<Command> makeUninstallCommand();
 std::unique_ptr<Command> makeStartupCommand();
+std::unique_ptr<Command> makeExplainCommand();
 
 } // namespace orlen

@@ -33,10 +33,10 @@ struct Registered {
 std::vector<std::unique_ptr<Command>> allCommands()
 {
     std::vector<std::unique_ptr<Command>> commands;
-    for (const auto make :
-         {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand, makeBreakdownCommand,
-          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makePhotosCommand, makeMapCommand,
-          makeAppsCommand, makeLeftoversCommand, makeUninstallCommand, makeStartupCommand})
+    for (const auto make : {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand,
+                            makeBreakdownCommand, makePredictCommand, makeAskCommand, makeDuplicatesCommand,
+                            makePhotosCommand, makeMapCommand, makeAppsCommand, makeLeftoversCommand,
+                            makeUninstallCommand, makeStartupCommand, makeExplainCommand})
         commands.push_back(make());
     return commands;
 }

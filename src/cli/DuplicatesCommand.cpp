@@ -1,6 +1,4 @@
 #include "app/Format.h"
-#include "clean/Safety.h"
-#include "cli/Command.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
@@ -10,9 +8,6 @@
 #include "scan/ScanProgress.h"
 #include "scan/duplicates/Duplicates.h"
 #include "scan/walk/Walk.h"
-
-#include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 
@@ -37,15 +32,6 @@ struct Search {
     Duplicates::Result result;
     Seconds duration{0};
 };
-
-Search search(const std::vector<std::string>& folders, ScanProgress& progress, const std::stop_token& stop)
-{
-    const auto started = std::chrono::steady_clock::now();
-    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
-    Search search{Duplicates::find(input(found), stop)};
-    search.duration = std::chrono::steady_clock::now() - started;
-    return search;
-}
 
 /// Rated as in a scan.
 Finding rated(const Duplicates::Result& result)
@@ -76,40 +62,32 @@ void printSets(const Search& found, const Finding& finding)
         "\n\n" + table.text(colours, Session::width()));
 }
 
-class DuplicatesCommand final : public Command {
+class DuplicatesCommand final : public FolderCommand<Search> {
 public:
     DuplicatesCommand()
-        : Command({"duplicates", "Find files with the same content below folders, or in the home folder"})
+        : FolderCommand(
+              {"duplicates", "Find files with the same content below folders, or in the home folder"},
+              "Folders to look into; the home folder when there are none")
     {
-    }
-
-    void addOptions(CLI::App& app) override
-    {
-        app.add_option("DIR", m_arguments, "Folders to look into; the home folder when there are none");
-    }
-
-    [[nodiscard]] ExitStatus run(Session& session) override
-    {
-        Safety::refresh();
-        const auto folders = FolderSearch::checked(session, m_arguments);
-        if (!folders)
-            return ExitStatus::wrongCall;
-        const auto found =
-            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
-                return search(*folders, progress, stop);
-            });
-        if (!found)
-            return session.cancelled();
-        const Finding finding = rated(found->result);
-        if (wantsJson())
-            Session::printDocument(JsonDocuments::duplicates(finding, found->result, found->duration));
-        else
-            printSets(*found, finding);
-        return ExitStatus::done;
     }
 
 private:
-    std::vector<std::string> m_arguments;
+    [[nodiscard]] Search search(const std::vector<std::string>& folders, ScanProgress& progress,
+                                const std::stop_token& stop) override
+    {
+        const auto started = std::chrono::steady_clock::now();
+        const Walk::Found found = FolderSearch::walked(folders, progress, stop);
+        Search search{Duplicates::find(input(found), stop)};
+        search.duration = std::chrono::steady_clock::now() - started;
+        return search;
+    }
+
+    [[nodiscard]] nlohmann::json document(const Search& found) const override
+    {
+        return JsonDocuments::duplicates(rated(found.result), found.result, found.duration);
+    }
+
+    void print(const Search& found) const override { printSets(found, rated(found.result)); }
 };
 
 } // namespace

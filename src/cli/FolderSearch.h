@@ -1,9 +1,14 @@
 #pragma once
 
 #include "app/Format.h"
+#include "clean/Safety.h"
 #include "cli/Background.h"
+#include "cli/Command.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/Walk.h"
+
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include <optional>
 #include <stop_token>
@@ -22,19 +27,55 @@ namespace orlen::FolderSearch {
 [[nodiscard]] Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
                                  const std::stop_token& stop);
 
-/// Calls `search(progress, stop)` on a worker, shows its progress and returns its result, or nothing if
-/// Ctrl-C stopped it.
-template <typename Search>
-[[nodiscard]] auto run(Session& session, Search search)
-{
-    ScanProgress progress;
-    return Background::resultUnlessCancelled(
-        session,
-        [&] {
-            return Format::counted(progress.files(), "file") + " examined · " +
-                   Format::shownPath(progress.current());
-        },
-        [&](const std::stop_token& stop) { return search(progress, stop); });
-}
-
 } // namespace orlen::FolderSearch
+
+namespace orlen {
+
+/// A command that searches the folders given on the command line, or in the home folder if none are given.
+template <typename Found>
+class FolderCommand : public Command {
+public:
+    FolderCommand(Description description, std::string argumentHelp)
+        : Command(description), m_argumentHelp(std::move(argumentHelp))
+    {
+    }
+
+    void addOptions(CLI::App& app) override { app.add_option("DIR", m_arguments, m_argumentHelp); }
+
+    [[nodiscard]] ExitStatus run(Session& session) override
+    {
+        Safety::refresh();
+        const auto folders = FolderSearch::checked(session, m_arguments);
+        if (!folders)
+            return ExitStatus::wrongCall;
+        ScanProgress progress;
+        const std::optional<Found> found = Background::resultUnlessCancelled(
+            session,
+            [&] {
+                return Format::counted(progress.files(), "file") + " examined · " +
+                       Format::shownPath(progress.current());
+            },
+            [&](const std::stop_token& stop) { return search(*folders, progress, stop); });
+        if (!found)
+            return session.cancelled();
+        if (wantsJson())
+            Session::printDocument(document(*found));
+        else
+            print(*found);
+        return ended(session);
+    }
+
+private:
+    /// Runs on a worker.
+    [[nodiscard]] virtual Found search(const std::vector<std::string>& folders, ScanProgress& progress,
+                                       const std::stop_token& stop) = 0;
+    [[nodiscard]] virtual nlohmann::json document(const Found& found) const = 0;
+    virtual void print(const Found& found) const = 0;
+    /// What is said after the result.
+    [[nodiscard]] virtual ExitStatus ended(Session& /*session*/) const { return ExitStatus::done; }
+
+    const std::string m_argumentHelp;
+    std::vector<std::string> m_arguments;
+};
+
+} // namespace orlen

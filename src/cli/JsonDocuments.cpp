@@ -233,6 +233,27 @@ Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds 
     return {{"path", folder}, {"nodes", array(nodes, encodeNode)}, {"seconds", rounded(duration)}};
 }
 
+Json explanation(const Explanation& explanation)
+{
+    Json json = {{"path", explanation.path},
+                 {"exists", explanation.exists},
+                 {"protected", explanation.protection != Protection::none}};
+    if (explanation.protection != Protection::none)
+        json["rule"] = label(explanation.protection);
+    json["findings"] = array(explanation.findings, [](const Finding& finding) {
+        const FileEntry& entry = finding.items.front();
+        Json offer = {{"kind", orlen::rawValue(finding.kind)},
+                      {"rating", orlen::rawValue(finding.effectiveRating(entry))},
+                      {"reason", finding.reason},
+                      {"path", entry.path}};
+        if (entry.note)
+            offer["note"] = *entry.note;
+        return offer;
+    });
+    json["size"] = explanation.size;
+    return json;
+}
+
 Json apps(const std::vector<AppInfo>& apps)
 {
     return array(apps, [](const AppInfo& app) {

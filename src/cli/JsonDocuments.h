@@ -5,6 +5,7 @@
 #include "insight/Predictor.h"
 #include "model/CleanPlan.h"
 #include "model/Finding.h"
+#include "scan/Explanation.h"
 #include "scan/StorageBreakdown.h"
 #include "scan/duplicates/Duplicates.h"
 #include "scan/photos/PhotoAnalyzer.h"
@@ -43,6 +44,7 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos,
                           Seconds duration);
 [[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
+[[nodiscard]] Json explanation(const Explanation& explanation);
 [[nodiscard]] Json apps(const std::vector<AppInfo>& apps);
 [[nodiscard]] Json leftovers(const std::vector<FileEntry>& leftovers);
 [[nodiscard]] Json startupItem(const LaunchItem& item);

@@ -1,6 +1,4 @@
 #include "app/Format.h"
-#include "clean/Safety.h"
-#include "cli/Command.h"
 #include "cli/FindingTable.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
@@ -13,9 +11,6 @@
 #include "scan/ScanProgress.h"
 #include "scan/photos/PhotoAnalyzer.h"
 #include "scan/walk/Walk.h"
-
-#include <CLI/CLI.hpp>
-#include <nlohmann/json.hpp>
 
 #include <limits>
 
@@ -30,23 +25,6 @@ struct PhotoSearch {
     std::vector<Finding> findings; ///< all five, rated as in a scan
     Seconds duration{0};
 };
-
-PhotoSearch searchPhotos(const std::vector<std::string>& folders, ScanProgress& progress,
-                         const std::stop_token& stop)
-{
-    const auto started = std::chrono::steady_clock::now();
-    ScanFlag flag;
-    const std::stop_callback cancel(stop, [&] { flag.cancel(); });
-    const Walk::Found found = FolderSearch::walked(folders, progress, stop);
-    ImageWorkers workers({});
-    const PhotoAnalyzer analyzer(
-        progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
-    PhotoSearch search{analyzer.analyze(found.images)};
-    if (!stop.stop_requested())
-        search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
-    search.duration = std::chrono::steady_clock::now() - started;
-    return search;
-}
 
 void printFindings(const PhotoSearch& found)
 {
@@ -74,42 +52,46 @@ void printFindings(const PhotoSearch& found)
             FindingTable::of(shown, std::numeric_limits<std::size_t>::max()).text(colours, Session::width()));
 }
 
-class PhotosCommand final : public Command {
+class PhotosCommand final : public FolderCommand<PhotoSearch> {
 public:
-    PhotosCommand() : Command({"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"})
+    PhotosCommand()
+        : FolderCommand({"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"},
+                        "Folders to look into; the image folders of the home folder when there are none")
     {
     }
 
-    void addOptions(CLI::App& app) override
+private:
+    [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, ScanProgress& progress,
+                                     const std::stop_token& stop) override
     {
-        app.add_option("DIR", m_arguments,
-                       "Folders to look into; the image folders of the home folder when there are none");
+        const auto started = std::chrono::steady_clock::now();
+        ScanFlag flag;
+        const std::stop_callback cancel(stop, [&] { flag.cancel(); });
+        const Walk::Found found = FolderSearch::walked(folders, progress, stop);
+        ImageWorkers workers({});
+        const PhotoAnalyzer analyzer(
+            progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
+        PhotoSearch search{analyzer.analyze(found.images)};
+        if (!stop.stop_requested())
+            search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
+        search.duration = std::chrono::steady_clock::now() - started;
+        return search;
     }
 
-    [[nodiscard]] ExitStatus run(Session& session) override
+    [[nodiscard]] nlohmann::json document(const PhotoSearch& found) const override
     {
-        Safety::refresh();
-        const auto folders = FolderSearch::checked(session, m_arguments);
-        if (!folders)
-            return ExitStatus::wrongCall;
-        const auto found =
-            FolderSearch::run(session, [&](ScanProgress& progress, const std::stop_token& stop) {
-                return searchPhotos(*folders, progress, stop);
-            });
-        if (!found)
-            return session.cancelled();
-        if (wantsJson())
-            Session::printDocument(JsonDocuments::photos(found->findings, found->photos, found->duration));
-        else
-            printFindings(*found);
+        return JsonDocuments::photos(found.findings, found.photos, found.duration);
+    }
+
+    void print(const PhotoSearch& found) const override { printFindings(found); }
+
+    [[nodiscard]] ExitStatus ended(Session& session) const override
+    {
         if (!ImageWorkers::recognizer().empty())
             return ExitStatus::done;
         session.complain(Texts::kNoRecognizer);
         return ExitStatus::someFailed;
     }
-
-private:
-    std::vector<std::string> m_arguments;
 };
 
 } // namespace

@@ -51,6 +51,9 @@ inline constexpr std::string_view kNoRecognizer =
 inline constexpr std::string_view kMeasuringFolder = "Measuring ";
 inline constexpr std::string_view kNoReadableFolder = " is not a folder that can be read.";
 inline constexpr std::string_view kNoTextInDocument = " is not UTF-8, so no document can hold it.";
+inline constexpr std::string_view kNotThere = "nothing there";
+inline constexpr std::string_view kOfferedNowhere = "Not protected, and no known place offers it. Whether it "
+                                                    "is a duplicate or a photo to review, a scan tells.";
 inline constexpr std::string_view kNoApps = "No applications found.";
 inline constexpr std::string_view kLookingForApps = "Looking for applications";
 inline constexpr std::string_view kMeasuringApps = "Measuring applications";

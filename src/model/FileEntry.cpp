@@ -1,5 +1,7 @@
 #include "model/FileEntry.h"
 
+#include <utility>
+
 namespace orlen {
 
 void addNote(FileEntry& entry, std::string_view note)
@@ -8,6 +10,16 @@ void addNote(FileEntry& entry, std::string_view note)
         entry.note->append(" · ").append(note);
     else
         entry.note = note;
+}
+
+void addNoteBefore(FileEntry& entry, std::string_view note)
+{
+    if (note.empty())
+        return;
+    std::optional<std::string> after = std::move(entry.note);
+    entry.note = note;
+    if (after)
+        addNote(entry, *after);
 }
 
 } // namespace orlen

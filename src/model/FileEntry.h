@@ -22,7 +22,9 @@ struct KeptFile {
 /// not store any other, so the item could not be put back.
 struct FileEntry {
     std::string path;
-    std::int64_t size = 0; ///< bytes that moving this entry frees
+    /// Bytes that moving this entry frees once the Trash is emptied: a file that has another name elsewhere
+    /// counts nothing.
+    std::int64_t size = 0;
     std::optional<TimePoint> modified;
     std::optional<TimePoint> lastOpened;
     std::optional<Rating> rating; ///< absent: the finding's rating holds
@@ -32,11 +34,14 @@ struct FileEntry {
     std::optional<FileStamp> stamp;
     /// The other file that makes this entry redundant, if any: the entry moves only while that one is there.
     std::optional<KeptFile> kept;
+    bool isTickedAlone = false; ///< never ticked along with others by "select all"
 
     friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
 
 /// Appends to an entry's note; several notes are joined by " · ".
 void addNote(FileEntry& entry, std::string_view note);
+/// The same in front of it. An empty note changes nothing.
+void addNoteBefore(FileEntry& entry, std::string_view note);
 
 } // namespace orlen

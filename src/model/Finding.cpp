@@ -33,6 +33,12 @@ std::int64_t Finding::totalSize() const
     return sizeOf(items);
 }
 
+bool Finding::isNotable() const
+{
+    constexpr std::int64_t kSmallest = 1'000'000;
+    return !isFromPlaces(kind) || totalSize() >= kSmallest;
+}
+
 std::int64_t sizeOf(const std::vector<FileEntry>& entries)
 {
     std::int64_t sum = 0;

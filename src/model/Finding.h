@@ -38,6 +38,9 @@ struct Finding {
     /// Bytes of all entries.
     [[nodiscard]] std::int64_t totalSize() const;
 
+    /// Whether it deserves a card: what known places hold does only from 1 MB.
+    [[nodiscard]] bool isNotable() const;
+
     friend bool operator==(const Finding&, const Finding&) = default;
 };
 

@@ -136,6 +136,11 @@ const KindMeta& meta(FindingKind kind)
     return row(kind).meta;
 }
 
+bool isFromPlaces(FindingKind kind)
+{
+    return kind <= languagePacks || kind == oldDownloads;
+}
+
 std::string_view rawValue(FindingKind kind)
 {
     return row(kind).raw;

@@ -52,6 +52,9 @@ struct KindMeta {
 
 [[nodiscard]] const KindMeta& meta(FindingKind kind);
 
+/// Whether findings of this kind come from known places rather than from a walk of the home folder.
+[[nodiscard]] bool isFromPlaces(FindingKind kind);
+
 /// The case's name, which is also the identity of the finding of this kind.
 [[nodiscard]] std::string_view rawValue(FindingKind kind);
 /// The case with exactly this raw value; nothing for any other text.

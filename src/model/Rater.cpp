@@ -1,8 +1,6 @@
 #include "model/Rater.h"
 
-#include "model/KnownPlaces.h"
 #include "model/RaterTables.h"
-#include "platform/files/Places.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 
@@ -112,25 +110,18 @@ Rating moreCareful(Rating a, Rating b)
     return std::max(a, b);
 }
 
-/// What only the path reveals. A text that occurs in it, or a known place, can make an entry's rating more
-/// cautious than its scanner's, never less; if the scanner did not rate it, it starts with the finding's
-/// rating.
-bool rateByLocation(FileEntry& entry, Rating ofFinding, const KnownPlaces& places)
+/// What only the path reveals. A text that occurs in it can make an entry's rating more cautious than its
+/// scanner's, never less.
+bool rateByLocation(FileEntry& entry)
 {
     const auto texts = RaterTables::knownTexts();
     const auto text = std::ranges::find_if(texts, [&](const RaterTables::KnownLocation& location) {
         return entry.path.find(location.where) != std::string::npos;
     });
-    if (text != texts.end()) {
-        entry.rating = moreCareful(entry.rating.value_or(text->rating), text->rating);
-        addNote(entry, text->note);
-        return true;
-    }
-    const RaterTables::KnownLocation* place = places.holding(entry.path);
-    if (place == nullptr)
+    if (text == texts.end())
         return false;
-    entry.rating = moreCareful(entry.rating.value_or(ofFinding), place->rating);
-    addNote(entry, place->note);
+    entry.rating = moreCareful(entry.rating.value_or(text->rating), text->rating);
+    addNote(entry, text->note);
     return true;
 }
 
@@ -152,19 +143,19 @@ void rateInstaller(FileEntry& entry, FindingKind kind)
     entry.note = kInstallerNote; // says all there is to say, so it takes the place of earlier notes
 }
 
-void rateEntry(FileEntry& entry, const Finding& finding, const KnownPlaces& places)
+void rateEntry(FileEntry& entry, FindingKind kind)
 {
-    if (!rateByLocation(entry, finding.rating, places) && !rateByName(entry, finding.kind))
-        rateInstaller(entry, finding.kind);
+    if (!rateByLocation(entry) && !rateByName(entry, kind))
+        rateInstaller(entry, kind);
 }
 
-void rateFinding(Finding& finding, const KnownPlaces& places)
+void rateFinding(Finding& finding)
 {
     const RaterTables::KindRule& rule = RaterTables::rule(finding.kind);
     finding.rating = rule.rating;
     finding.reason = rule.reason;
     for (FileEntry& entry : finding.items)
-        rateEntry(entry, finding, places);
+        rateEntry(entry, finding.kind);
     const auto isKept = [](const FileEntry& entry) { return entry.rating == Rating::keep; };
     if (finding.items.empty() || !std::ranges::all_of(finding.items, isKept))
         return;
@@ -176,8 +167,7 @@ void rateFinding(Finding& finding, const KnownPlaces& places)
 
 std::vector<Finding> rate(std::vector<Finding> findings)
 {
-    const KnownPlaces places(Places::current());
-    std::ranges::for_each(findings, [&](Finding& finding) { rateFinding(finding, places); });
+    std::ranges::for_each(findings, rateFinding);
     return findings;
 }
 

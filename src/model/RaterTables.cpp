@@ -44,59 +44,17 @@ constexpr std::array<KindRule, kFindingKinds> kRules{{
 
 constexpr KindRule kOtherKinds{caches, review, "Check before cleaning."};
 
-// Notes shared by several rows.
-constexpr std::string_view kBrowserCache = "Browser cache, rebuilt as you browse.";
-constexpr std::string_view kOfflineSongs = "May hold songs you downloaded for offline use.";
-constexpr std::string_view kLargeDownload = "Large download; needed again by programs that use it.";
-constexpr std::string_view kTestBrowsers = "Run the browser install command again before the next test.";
-constexpr std::string_view kLinkedStore =
-    "Projects link to these files; 'pnpm store prune' frees unused ones.";
-constexpr std::string_view kUsedInPlace = "Projects use these packages in place.";
-constexpr std::string_view kLostInstallers = "Some installers can no longer be downloaded.";
-constexpr std::string_view kBuiltPackages = "Built packages kept for going back to an older version.";
-
 // One row a line; the order is the order of testing, and an earlier row wins over a later one.
 // clang-format off
 constexpr auto kKnownTexts = std::to_array<KnownLocation>({
     {"/Library/Caches/CloudKit", keep, "Used for iCloud sync. Removing it can force a slow re-sync."},
     {"/Library/Caches/com.apple.bird", keep, "Used by iCloud Drive."},
     {"/Library/Caches/com.apple.Safari", safe, "Safari rebuilds its web cache."},
-    {"/Library/Caches/Google", safe, kBrowserCache},
+    {"/Library/Caches/Google", safe, "Browser cache, rebuilt as you browse."},
     {"/Library/Caches/com.spotify", safe, "Cached audio; it downloads again when played."},
     {"/Xcode/DerivedData/ModuleCache", safe, "Rebuilt by Xcode automatically."},
-});
-
-constexpr auto kKnownPlaces = std::to_array<KnownLocation>({
-    {"*/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
-    {"{CACHE}/spotify*", review, kOfflineSongs},
-    {"{CACHE}/huggingface", review, kLargeDownload},
-    {"{CACHE}/torch", review, kLargeDownload},
-    {"{CACHE}/whisper*", review, kLargeDownload},
-    {"{CACHE}/gpt4all", review, kLargeDownload},
-    {"{CACHE}/ms-playwright*", review, kTestBrowsers},
-    {"{CACHE}/puppeteer", review, kTestBrowsers},
-    {"{CACHE}/Cypress", review, "Run the install command again before the next test."},
-    {"{DATA}/pnpm/store", review, kLinkedStore},
-    {"{H}/.pnpm-store", review, kLinkedStore},
-    {"{H}/.m2/repository", review, "May hold builds that you installed yourself."},
-    {"{H}/.nuget/packages", review, kUsedInPlace},
-    {"{H}/.pub-cache", review, kUsedInPlace},
-    {"{H}/.yarn/berry/cache", review, kUsedInPlace},
-    {"{CACHE}/bazel", review, "Stop the Bazel server first."},
-    {"{CACHE}/winetricks", review, kLostInstallers},
-    {"{CACHE}/lutris", review, kLostInstallers},
-    {"{CACHE}/yay", review, kBuiltPackages},
-    {"{CACHE}/paru", review, kBuiltPackages},
-    {"{CACHE}/restic", review, "Backup index; reading it again can take long."},
-    {"{CACHE}/pre-commit", review, "Hook environments; installed again on the next commit."},
-    {"{CACHE}/flatpak", safe, "Download cache of Flatpak."},
-    {"{CACHE}/thumbnails", safe, "Previews; made again when you open a folder."},
-    {"{CACHE}/mozilla", safe, kBrowserCache},
-    {"{CACHE}/google-chrome*", safe, kBrowserCache},
-    {"{CACHE}/chromium", safe, kBrowserCache},
-    {"{STEAM}/steamapps/shadercache", safe, "Rebuilt when the game runs; the first start is slower."},
-    {"{CACHE}/mesa_shader_cache*", safe, "Rebuilt when a program draws again."},
-    {"*.kdbx*", keep, "Password database."},
+    {"/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
+    {".kdbx", keep, "Password database."},
 });
 // clang-format on
 
@@ -130,11 +88,6 @@ const KindRule& rule(FindingKind kind)
 std::span<const KnownLocation> knownTexts()
 {
     return kKnownTexts;
-}
-
-std::span<const KnownLocation> knownPlaces()
-{
-    return kKnownPlaces;
 }
 
 bool holdsDocuments(FindingKind kind)

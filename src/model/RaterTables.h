@@ -24,12 +24,8 @@ struct KnownLocation {
     std::string_view note;
 };
 
-// The first row that matches a path applies, texts before places.
-
-/// `where` may occur anywhere in the path, case-sensitive.
+/// The first row that matches a path applies; `where` may occur anywhere in it, case-sensitive.
 [[nodiscard]] std::span<const KnownLocation> knownTexts();
-/// `where` is a place, as KnownPlaces reads it.
-[[nodiscard]] std::span<const KnownLocation> knownPlaces();
 
 /// Whether entries of this kind are the user's own files, whose names deserve a look.
 [[nodiscard]] bool holdsDocuments(FindingKind kind);

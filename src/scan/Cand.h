@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace orlen {
 
@@ -16,12 +17,17 @@ struct Cand {
     std::int64_t size = 0; ///< allocated bytes
     TimePoint modified;
     std::optional<FileStamp> stamp; ///< what the path referred to then
+    bool hasOtherNames = false;     ///< further hard links to the file, wherever they are
+    bool isInRepository = false;    ///< below a folder with ".git"
 
     friend bool operator==(const Cand&, const Cand&) = default;
 };
 
-/// The file as an entry of a finding.
-[[nodiscard]] FileEntry toEntry(const Cand& cand);
+/// The file as an entry of a finding; `note` comes before what is to be said about any file.
+[[nodiscard]] FileEntry toEntry(const Cand& cand, std::string_view note = {});
+/// The same for a file chosen by its content: part of a repository is noted as such, and never ticked along
+/// with others.
+[[nodiscard]] FileEntry toEntryByContent(const Cand& cand, std::string_view note);
 /// The file as the kept one of a set; nothing without a stamp.
 [[nodiscard]] std::optional<KeptFile> toKept(const Cand& cand);
 

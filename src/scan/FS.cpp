@@ -1,5 +1,6 @@
 #include "scan/FS.h"
 
+#include "model/ByteCount.h"
 #include "platform/desktop/RecentDocuments.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/MountTable.h"
@@ -11,7 +12,7 @@ namespace orlen::FS {
 
 std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop)
 {
-    return measureTrees(std::span(&path, 1), stop).front();
+    return measureTrees(std::span(&path, 1), stop).front().held;
 }
 
 std::optional<LastUse> lastUse(const std::string& path, const RecentDocuments& recent,
@@ -34,6 +35,16 @@ std::optional<TimePoint> lastOpened(const std::string& path, const RecentDocumen
     return use ? std::optional(use->date) : std::nullopt;
 }
 
+void setSize(FileEntry& entry, const TreeSize& size)
+{
+    entry.size = size.freed;
+    const bool isFile = entry.stamp && entry.stamp->type == FileType::regular;
+    if (isFile && size.freed < size.held)
+        addNote(entry, "Frees nothing: the file has another name elsewhere");
+    else if (size.held - size.freed > size.held / 10)
+        addNote(entry, "Frees " + byteCount(size.freed) + ": the rest is linked into projects");
+}
+
 FileEntry entry(const std::string& path, std::string_view note, const std::stop_token& stop,
                 UnreadableFolders* unreadable)
 {
@@ -51,14 +62,13 @@ std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_v
             entries[i].stamp = FileStamp::of(status.value());
         }
     }
-    const std::vector<std::int64_t> sizes =
-        measureTrees(paths, stop, DiskWorkers::Priority::user, unreadable);
+    const std::vector<TreeSize> sizes = measureTrees(paths, stop, DiskWorkers::Priority::user, unreadable);
     for (std::size_t i = 0; i < paths.size(); ++i) {
         FileEntry& entry = entries[i];
         entry.path = paths[i];
-        entry.size = sizes[i];
         if (!note.empty())
             entry.note = std::string(note);
+        setSize(entry, sizes[i]);
     }
     return entries;
 }

@@ -15,13 +15,14 @@ namespace orlen {
 class MountTable;
 class RecentDocuments;
 class UnreadableFolders;
+struct TreeSize;
 
 /// Measures and dates paths. Stateless; any thread. Blocks on the disk: never call from the main thread. The
 /// shared disk workers measure trees; a stopped measurement returns what it has.
 namespace FS {
 
-/// Allocated bytes of a file, or of all regular files below a folder. Links are not followed; mounted network
-/// and pseudo file systems are not entered. 0 if it is missing or cannot be read.
+/// Allocated bytes of a file, or of all regular files below a folder, each counted once. Links are not
+/// followed; mounted network and pseudo file systems are not entered. 0 if it is missing or cannot be read.
 [[nodiscard]] std::int64_t allocatedSize(const std::string& path, const std::stop_token& stop = {});
 
 /// When the user last opened a file: the later of the desktop's list of recent documents and the access time,
@@ -38,7 +39,11 @@ struct LastUse {
 [[nodiscard]] std::optional<LastUse> lastUse(const std::string& path, const RecentDocuments& recent,
                                              const MountTable& mounts);
 
-/// The path with its allocated size, modification date (absent if unreadable) and note, unless empty.
+/// Gives the entry the bytes it frees, and a note if that is less than it holds because other names lead to
+/// its files: for a folder when over a tenth is missing, for a file always.
+void setSize(FileEntry& entry, const TreeSize& size);
+
+/// The path with the bytes it frees, modification date (absent if unreadable) and note, unless empty.
 [[nodiscard]] FileEntry entry(const std::string& path, std::string_view note,
                               const std::stop_token& stop = {}, UnreadableFolders* unreadable = nullptr);
 

@@ -69,7 +69,7 @@ Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptio
         return asStep(progress, StepKind::photos, [&] { return findPhotos(found, options, progress, flag); });
     });
     Findings findings = group.collect();
-    findings.emplace_back(FindingKind::caches, std::move(found.taggedCaches));
+    findings.emplace_back(FindingKind::caches, std::move(found.caches));
     noteOtherDisks(findings);
     return findings;
 }

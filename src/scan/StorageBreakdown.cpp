@@ -5,8 +5,8 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/BreakdownFolders.h"
 #include "scan/tree/CurrentMounts.h"
-#include "scan/tree/TreeMeasure.h"
 #include "scan/tree/TreeScan.h"
+#include "scan/tree/TreeSum.h"
 
 #include <algorithm>
 #include <array>

@@ -12,6 +12,7 @@
 #include <mutex>
 #include <span>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace orlen::DiskMap {
@@ -41,26 +42,58 @@ public:
     {
         if (isRoot(folder)) {
             const std::lock_guard guard(m_lock);
-            for (const TreeFile& file : files)
-                m_nodes.push_back({file.name, {}, file.status.allocatedBytes, false, false});
+            for (const TreeFile& file : files) {
+                m_nodes.push_back({file.name, {}, 0, false, false});
+                add(file.status, m_nodes.size() - 1);
+            }
             return;
         }
         std::int64_t bytes = 0;
         for (const TreeFile& file : files)
-            bytes = cappedAdd(bytes, file.status.allocatedBytes);
+            bytes = cappedAdd(bytes, file.status.links < 2 ? file.status.allocatedBytes : 0);
         const std::lock_guard guard(m_lock);
-        TreeNode& child = m_nodes[folder.tag()];
-        child.size = cappedAdd(child.size, bytes);
+        grow(folder.tag(), bytes);
+        for (const TreeFile& file : files) {
+            if (file.status.links > 1)
+                add(file.status, folder.tag());
+        }
     }
 
     /// After the scan; the nodes have no paths yet.
-    [[nodiscard]] std::vector<TreeNode> take() { return std::move(m_nodes); }
+    [[nodiscard]] std::vector<TreeNode> take()
+    {
+        for (const auto& [identity, file] : m_linked)
+            grow(file.node, file.bytes);
+        return std::move(m_nodes);
+    }
 
 private:
+    struct Linked {
+        std::size_t node = 0;
+        std::int64_t bytes = 0;
+    };
+
     static bool isRoot(const TreeFolder& folder) { return folder.parent() == nullptr; }
+
+    /// A file with several names counts for the child that comes first by name, whichever thread meets which
+    /// name first.
+    void add(const FileStatus& file, std::size_t node)
+    {
+        if (file.links < 2)
+            return grow(node, file.allocatedBytes);
+        const auto [known, isNew] = m_linked.try_emplace(file.identity, Linked{node, file.allocatedBytes});
+        if (!isNew && m_nodes[node].name < m_nodes[known->second.node].name)
+            known->second.node = node;
+    }
+
+    void grow(std::size_t node, std::int64_t bytes)
+    {
+        m_nodes[node].size = cappedAdd(m_nodes[node].size, bytes);
+    }
 
     std::mutex m_lock;
     std::vector<TreeNode> m_nodes;
+    std::unordered_map<FileIdentity, Linked, FileIdentityHash> m_linked;
 };
 
 bool comesBefore(const TreeNode& a, const TreeNode& b)

@@ -22,7 +22,6 @@ namespace orlen {
 namespace {
 
 using std::chrono::microseconds;
-using testing::IsEmpty;
 
 constexpr int kItems = WatchedItems::kCount;
 

@@ -34,13 +34,13 @@ FileEntry entry(const std::string& path, std::int64_t size = 10)
 
 class CleanerTest : public testing::Test {
 protected:
-    CleanRecord clean(std::vector<FileEntry> entries, std::stop_token stop = {})
+    CleanRecord clean(std::vector<FileEntry> entries, const std::stop_token& stop = {})
     {
         steps.clear();
         Cleaner::Cleaned cleaned = Cleaner::run(
             std::move(entries), "Test",
             [this](int index, int total, const std::string& name) { steps.emplace_back(index, total, name); },
-            std::move(stop));
+            stop);
         failures = std::move(cleaned.failures);
         EXPECT_EQ(failures.size(), static_cast<std::size_t>(cleaned.record.failed));
         Journals::settle(cleaned.record.id);

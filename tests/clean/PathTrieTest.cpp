@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace orlen {
 namespace {
 
@@ -83,7 +88,7 @@ TEST(PathTrieTest, folderIsTakenLiterally)
     EXPECT_EQ(answer(trie, "/b"), "-");
 }
 
-TEST(PathTrieTest, textBeforeAStarSealsEveryNameThatBeginsSo)
+TEST(PathTrieTest, textBeforeAStarStandsForEveryNameThatStartsSo)
 {
     PathTrie trie;
     trie.add("/a", "/chrome*", Mark::contents);
@@ -92,6 +97,55 @@ TEST(PathTrieTest, textBeforeAStarSealsEveryNameThatBeginsSo)
         EXPECT_EQ(answer(trie, path), "mc") << path;
     EXPECT_EQ(answer(trie, "/a/chrom"), "-");
     EXPECT_EQ(answer(trie, "/a/b/chrome"), "-");
+}
+
+TEST(PathTrieTest, rulesForNamesStartsAndAnyNameMeetInWhateverOrderTheyCame)
+{
+    struct Rule {
+        const char* pattern;
+        Mark mark;
+    };
+    std::vector<Rule> rules{{"/chrome*", Mark::closed},
+                            {"/chrome*/User */GPU", Mark::opened},
+                            {"/chrome-beta/Keys", Mark::contents},
+                            {"/*/Trash", Mark::itself},
+                            {"/ch*/Lock", Mark::contents}};
+    const auto byPattern = [](const Rule& a, const Rule& b) {
+        return std::string_view(a.pattern) < std::string_view(b.pattern);
+    };
+    std::ranges::sort(rules, byPattern);
+    do {
+        PathTrie trie;
+        for (const Rule& rule : rules)
+            trie.add("/a", rule.pattern, rule.mark);
+        const std::pair<const char*, const char*> cases[] = {
+            {"/a/chrome/User 1", "m"},     {"/a/chrome/User 1/GPU/x", "-"},
+            {"/a/chrome/User 1/x", "mc"},  {"/a/chrome-beta/User 2/GPU", "-"},
+            {"/a/chrome-beta/Keys", "mc"}, {"/a/chrome-beta/Lock", "mc"},
+            {"/a/chest/Lock/x", "mc"},     {"/a/chest/Trash", "m"},
+            {"/a/other/Trash", "m"},       {"/a/other/Lock", "-"}};
+        for (const auto& [path, expected] : cases)
+            ASSERT_EQ(answer(trie, path), expected) << path << ", first rule " << rules.front().pattern;
+    } while (std::next_permutation(rules.begin(), rules.end(), byPattern));
+}
+
+TEST(PathTrieTest, theLabelIsThatOfTheMarkThatDecides)
+{
+    PathTrie trie;
+    trie.add("/", {}, Mark::closed, 1);
+    trie.add("/a", {}, Mark::opened, 2);
+    trie.add("/a", {}, Mark::itself, 3);
+    trie.add("/a", {}, Mark::itself, 4);
+    trie.add("/a", "/b*", Mark::closed, 5);
+    trie.add("/a", "/b/c", Mark::contents, 6);
+    const std::pair<const char*, int> cases[] = {{"/x/y", 1},    {"/a", 3},       {"/a/x", 0},
+                                                 {"/a/bx/y", 5}, {"/a/b/c/d", 6}, {"/a/b", 5}};
+    for (const auto& [path, expected] : cases) {
+        PathTrie::Cursor cursor(trie);
+        for (const std::string_view component : PathText::components(path))
+            cursor.enter(component);
+        EXPECT_EQ(int{cursor.label()}, expected) << path;
+    }
 }
 
 } // namespace

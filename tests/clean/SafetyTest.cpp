@@ -152,6 +152,91 @@ TEST_F(SafetyTest, privateAndManagedPlaces)
     EXPECT_FALSE(Safety::isProtected(home.path(trash + "/files/x")));
 }
 
+TEST_F(SafetyTest, ofABrowserProfileOnlyTheCachesOfItsEngineAreFree)
+{
+    for (const char* browser :
+         {".config/google-chrome-beta", ".config/chromium", ".config/BraveSoftware/Brave-Browser",
+          ".config/yandex-browser", ".var/app/com.google.Chrome/config/google-chrome",
+          ".var/app/com.brave.Browser/config/BraveSoftware/Brave-Browser", "snap/chromium/common/chromium"}) {
+        SCOPED_TRACE(browser);
+        const auto in = [&](std::string_view name) { return browser + std::string(name); };
+        for (const char* free :
+             {"/ShaderCache", "/Default/GPUCache", "/Profile 7/DawnWebGPUCache/x", "/OptGuideOnDeviceModel"})
+            EXPECT_FALSE(Safety::isProtected(home.path(in(free)))) << free;
+        for (const char* kept :
+             {"", "/Default", "/Default/Cookies", "/Default/GPUCache2", "/Default/Storage/GPUCache",
+              "/Profile/GPUCache", "/Default/IndexedDB/x", "/Default/Service Worker/CacheStorage"})
+            EXPECT_EQ(Safety::protection(home.path(in(kept))), Protection::browserProfiles) << kept;
+    }
+    expect({{".config/mozilla/firefox/p/GPUCache", true, true},
+            {".local/share/qutebrowser/webengine/GPUCache/x", false, false},
+            {".local/share/qutebrowser/webengine/Cookies", true, true},
+            {".local/share/falkon/QtWebEngine/Default/ShaderCache", false, false},
+            {".local/share/epiphany/x", true, true},
+            {".var/app/com.brave.Browser/data/x", true, true},
+            {".var/app/com.brave.Browser/cache/x", false, false}});
+}
+
+TEST_F(SafetyTest, whatProgramsLetGoOfInsideTheirProtectedFolders)
+{
+    expect({{".minikube", true, false},
+            {".minikube/certs/ca.pem", true, true},
+            {".minikube/cache/x", false, false},
+            {".lmstudio/conversations/1.json", true, true},
+            {".lmstudio/models/maker", true, false},
+            {".lmstudio/models/maker/model", false, false},
+            {".local/share/TelegramDesktop/tdata/key_datas", true, true},
+            {".local/share/TelegramDesktop/tdata/user_data#2/media_cache", false, false},
+            {"snap/telegram-desktop/12/.local/share/TelegramDesktop/tdata/user_data/x", true, true},
+            {".steam", true, false},
+            {".steam/steam/steamapps/common/Game", true, true},
+            {".steam/steam/userdata/1", true, true},
+            {".steam/steam/steamapps/shadercache/1", false, false},
+            {"Games/Library/steamapps/compatdata/1", true, true},
+            {"Games/Library/steamapps/common-x", false, false},
+            {".var/app/eu.betterbird.Betterbird/.thunderbird/p/Mail", true, true},
+            {".var/app/eu.betterbird.Betterbird/cache/tmp/x", false, false},
+            {"snap/thunderbird/common/.thunderbird", true, true},
+            {"snap/thunderbird/common/.cache/x", false, false},
+            {".claude/x", true, true},
+            {".config/Standard Notes/x", true, true},
+            {".local/share/baloo/index", true, true}});
+}
+
+TEST_F(SafetyTest, everyProtectedPathHasAReason)
+{
+    home.folder("Dropbox");
+    home.file(".config/Signal/x");
+    mount({{"Projects/nas", "nfs4"}, {"disk", "ext4"}});
+    const std::pair<const char*, Protection> cases[] = {
+        {"/usr/bin/x", Protection::outside},
+        {"Documents", Protection::mainFolders},
+        {".config", Protection::mainFolders},
+        {".cargo", Protection::settingsBesideCaches},
+        {".ssh/id", Protection::credentials},
+        {".thunderbird/x", Protection::mail},
+        {".config/Signal/x", Protection::conversations},
+        {"p/.git/config", Protection::repositories},
+        {"Pictures/a.photoslibrary/x", Protection::mediaLibraries},
+        {"a/Library/Mail/x", Protection::mail},
+        {"a.pdf.nextcloud", Protection::placeholders},
+        {"Dropbox/x", Protection::syncFolders},
+        {"disk", Protection::mountPoints},
+        {"Projects/nas/x", Protection::otherFileSystems},
+        {"Projects", Protection::holdsProtected},
+        {"Projects/x", Protection::none},
+        {".cache/x", Protection::none}};
+    for (const auto& [name, expected] : cases) {
+        const std::string path = *name == '/' ? name : home.path(name);
+        EXPECT_EQ(Safety::protection(path), expected) << name;
+        EXPECT_EQ(Safety::isProtected(path), expected != Protection::none) << name;
+    }
+    EXPECT_EQ(Safety::protection("relative"), Protection::unclearPath);
+    for (const Protection protection : allProtections())
+        EXPECT_TRUE(!label(protection).empty() && reason(protection).ends_with('.')) << label(protection);
+    EXPECT_EQ(allProtections().size(), static_cast<std::size_t>(Protection::unclearPath));
+}
+
 TEST_F(SafetyTest, namesThatAreProtectedAnywhere)
 {
     expect({{"src/p/.git", true, true},
@@ -194,6 +279,7 @@ TEST_F(SafetyTest, movedBaseFoldersAndUserFoldersAreNamedToo)
     Safety::refresh();
     expect({{"conf", true, false},
             {"conf/chromium/x", true, true},
+            {"conf/chromium/Default/GPUCache", false, false},
             {".config/chromium/x", true, true},
             {"d*ta", true, false},
             {"d*ta/keyrings", true, true},

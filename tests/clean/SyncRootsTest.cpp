@@ -58,14 +58,30 @@ TEST_F(SyncRootsTest, syncthingFoldersAreRead)
         "<defaults><folder path='~'/><folder path='~/template'/></defaults></configuration>");
     home.file(".config/syncthing/config.xml",
               "<configuration><folder path='" + home.path("old") + "'/></configuration>");
-    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Notes & more"), home.path("b"), home.path("old")));
+    home.file(".var/app/org.x.Sync/config/syncthing/config.xml",
+              "<configuration><folder path='~/boxed'/></configuration>");
+    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Notes & more"), home.path("b"), home.path("old"),
+                                              home.path("boxed")));
 }
 
 TEST_F(SyncRootsTest, oneDriveFolderIsRead)
 {
     home.file(".config/onedrive/config",
               "# sync_dir = \"~/no\"\nsync_dir = \"~/Meine Wolke\"\nskip_dir = \"x\"\nsync_dir=~/bare\n");
-    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Meine Wolke"), home.path("bare")));
+    home.file(".config/onedrive-business/config", "sync_dir = \"~/Firm\"\n");
+    home.file(".config/onedrive/accounts/second/config", "sync_dir = \"~/Second\"\n");
+    home.file(".config/onedriver/config", "sync_dir = \"~/no\"\n");
+    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Meine Wolke"), home.path("bare"), home.path("Firm"),
+                                              home.path("Second")));
+}
+
+TEST_F(SyncRootsTest, maestralFoldersAreRead)
+{
+    home.file(".config/maestral/maestral.ini",
+              "[main]\nversion = 1\n\n[sync]\npath = " + home.path("Dropbox (Private)") + "\nreindex = 2\n");
+    home.file(".config/maestral/work.ini", "[sync]\npath = ~/Firm\nexcluded_items = ['/no']\n");
+    home.file(".config/maestral/work.state", "[sync]\npath = ~/no\n");
+    EXPECT_THAT(found(), UnorderedElementsAre(home.path("Dropbox (Private)"), home.path("Firm")));
 }
 
 TEST_F(SyncRootsTest, uselessPathsAreDropped)
@@ -150,11 +166,19 @@ TEST_F(SyncRootsTest, foreignMountsAreNotLookedInto)
 
 TEST_F(SyncRootsTest, namesOfMarkers)
 {
-    for (const char* name :
-         {".stfolder", ".sync_.db", "._sync_ab.db", ".nextcloudsync.log", ".owncloudsync.log"})
-        EXPECT_TRUE(SyncRoots::isMarker(name)) << name;
-    for (const char* name : {"", ".db", "sync_a.db", ".sync_a.db2", ".syncx.db", ".stfolder2", "x.stfolder"})
-        EXPECT_FALSE(SyncRoots::isMarker(name)) << name;
+    std::vector<std::string> expected;
+    for (const char* name : {".stfolder", ".sync_.db", "._sync_ab.db", ".nextcloudsync.log",
+                             ".owncloudsync.log", ".megaignore", ".debris", ".sync.ffs_db", ".sync/ID"}) {
+        expected.push_back(home.path("yes" + std::to_string(expected.size())));
+        home.file(expected.back() + "/" + name);
+    }
+    int count = 0;
+    for (const char* name : {".db", "sync_a.db", ".sync_a.db2", ".syncx.db", ".stfolder2", "x.stfolder",
+                             ".sync/other", "ID", "debris", "a.ffs_db"})
+        home.file("no" + std::to_string(++count) + "/" + name);
+    home.file("elsewhere/deep/er/ID");
+    home.link("no0/.sync", home.path("elsewhere/deep/er"));
+    EXPECT_THAT(found(), testing::ElementsAreArray(expected));
 }
 
 } // namespace

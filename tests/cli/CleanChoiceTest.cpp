@@ -30,7 +30,8 @@ std::vector<Finding> findings(const TempHome& home)
     caches.rating = Rating::safe;
     Finding downloads(FindingKind::oldDownloads, {entry(home, "Downloads/both"), entry(home, "Downloads/d")});
     Finding large(FindingKind::largeFiles, {entry(home, "f"), entry(home, "f/kept", Rating::keep)});
-    Finding duplicates(FindingKind::duplicates, {entry(home, "Downloads/both")});
+    Finding duplicates(FindingKind::duplicates, {entry(home, "Downloads/both"), entry(home, "src/p/copy")});
+    duplicates.items[1].isTickedAlone = true;
     Finding trash(FindingKind::trash, {entry(home, ".local/share/Trash/files/t")});
     return {caches, downloads, duplicates, large, trash};
 }
@@ -54,6 +55,7 @@ TEST(CleanChoiceTest, kindsLimitWhatTheScanSelected)
         {"all of two kinds", {{"duplicates", "oldDownloads"}, true, {}}, {"Downloads/both", "Downloads/d"}},
         {"a folder would take along what is rated Keep", {{"largeFiles"}, true, {}}, {}},
         {"all of what never moves", {{"trash"}, true, {}}, {}},
+        {"a path that is part of a repository", {{}, false, {home.path("src/p/copy")}}, {"src/p/copy"}},
         {"a path, whatever its rating", {{}, false, {home.path(".cache/c")}}, {".cache/c"}},
         {"a path in another spelling", {{}, false, {home.path(".cache/x/..//c/")}}, {".cache/c"}},
     };

@@ -13,7 +13,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 /// Two that look alike, one with a telling name, and one that is no picture.
 struct PhotoHome : TempHome {

@@ -27,7 +27,7 @@ const QString kNotices = QStringLiteral("org.freedesktop.Notifications");
 
 } // namespace
 
-QDBusMessage answered(QDBusConnection bus, const QDBusMessage& call)
+QDBusMessage answered(const QDBusConnection& bus, const QDBusMessage& call)
 {
     const QDBusPendingCallWatcher watcher(bus.asyncCall(call));
     (void)waitUntil([&] { return watcher.isFinished(); });

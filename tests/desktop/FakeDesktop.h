@@ -11,7 +11,7 @@
 namespace orlen {
 
 /// Calls over the bus and waits for the answer with the event loop running, so that both sides may live here.
-[[nodiscard]] QDBusMessage answered(QDBusConnection bus, const QDBusMessage& call);
+[[nodiscard]] QDBusMessage answered(const QDBusConnection& bus, const QDBusMessage& call);
 
 /// The signals that came over the bus.
 class SignalLog : public QObject {

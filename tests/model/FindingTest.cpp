@@ -80,5 +80,17 @@ TEST(FindingDeathTest, sumThatDoesNotFitStopsTheProgram)
     EXPECT_DEATH((void)finding.safeSize(), "does not fit");
 }
 
+TEST(FindingTest, littleFromKnownPlacesIsNotNotable)
+{
+    const auto finding = [](FindingKind kind, std::int64_t size) {
+        return Finding(kind, {{.path = "/h/a", .size = size}});
+    };
+    EXPECT_FALSE(finding(FindingKind::logs, 999'999).isNotable());
+    EXPECT_FALSE(finding(FindingKind::oldDownloads, 1).isNotable());
+    EXPECT_TRUE(finding(FindingKind::logs, 1'000'000).isNotable());
+    EXPECT_TRUE(finding(FindingKind::screenshots, 1).isNotable());
+    EXPECT_TRUE(finding(FindingKind::duplicates, 1).isNotable());
+}
+
 } // namespace
 } // namespace orlen

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <unistd.h>
 
 namespace orlen {
 namespace {
@@ -24,6 +25,28 @@ TEST(FSTest, entryHasSizeDateAndNote)
                                 FileStamp::of(statusOf(path).value())}));
     EXPECT_EQ(FS::entry(home.path("missing"), "").modified, std::nullopt);
     EXPECT_EQ(FS::entry(path, "").note, std::nullopt);
+}
+
+TEST(FSTest, aFolderThatFreesNoticeablyLessThanItHoldsSaysSo)
+{
+    const TempHome home;
+    for (const char* folder : {"most", "some"})
+        home.fileOfSize(folder + std::string("/own"), 1'003'520);
+    home.fileOfSize("most/linked", 98'304);
+    home.fileOfSize("some/linked", 122'880);
+    home.folder("project");
+    for (const char* folder : {"most", "some"})
+        ASSERT_EQ(::link(home.path(folder + std::string("/linked")).c_str(),
+                         home.path(std::string("project/") + folder).c_str()),
+                  0);
+    const std::vector<std::string> paths{home.path("most"), home.path("some"), home.path("some/linked")};
+    const std::vector<FileEntry> entries = FS::entries(paths, "a note");
+    EXPECT_EQ(entries[0].size, 1'003'520);
+    EXPECT_EQ(entries[0].note, "a note") << "a tenth less is not worth a word";
+    EXPECT_EQ(entries[1].size, 1'003'520);
+    EXPECT_EQ(entries[1].note, "a note · Frees 1 MB: the rest is linked into projects");
+    EXPECT_EQ(entries[2].size, 0);
+    EXPECT_EQ(entries[2].note, "a note · Frees nothing: the file has another name elsewhere");
 }
 
 TEST(FSTest, lastOpenedIsTheLaterOfAccessAndVisit)

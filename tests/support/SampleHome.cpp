@@ -440,6 +440,8 @@ void make(const std::string& home, Layout layout)
         makeOne(home, placed, layout);
     if (layout == Layout::snap)
         fs::create_directory_symlink("9", home + "/snap/" + kSnap + "/current");
+    // Environments are made for it, in whichever cache folder they lie.
+    fs::create_directories(home + "/Projects/atlas");
     // Last: making something in a folder makes the folder new, and a folder may be closed.
     for (const Placed& placed : all) {
         if (placed.row->days > 0)

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 namespace orlen {
 
 namespace {
@@ -44,6 +46,20 @@ TEST(DiskMapTest, childrenAreMeasuredWholeAndLargestFirst)
                             TreeNode{"file", map + "/file", 44 * kKiB, false, false},
                             TreeNode{".hidden", map + "/.hidden", 20 * kKiB, true, false}));
     TempHome::setMode(home.path("map/denied"), 0700);
+}
+
+TEST(DiskMapTest, aFileWithSeveralNamesCountsOnceForTheFirstChild)
+{
+    const TempHome home;
+    home.fileOfSize("map/store/linked", 40 * kKiB);
+    home.fileOfSize("map/store/own", 8 * kKiB);
+    home.folder("map/project");
+    for (const char* name : {"map/project/linked", "map/store/again", "map/zfile"})
+        ASSERT_EQ(::link(home.path("map/store/linked").c_str(), home.path(name).c_str()), 0);
+    const std::string map = home.path("map");
+    EXPECT_THAT(DiskMap::children(map),
+                ElementsAre(TreeNode{"project", map + "/project", 40 * kKiB, true, false},
+                            TreeNode{"store", map + "/store", 8 * kKiB, true, false}));
 }
 
 TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)

@@ -162,6 +162,27 @@ TEST_F(EntryListModelTest, theTrashCannotBeSelected)
     EXPECT_EQ(m_list.rowCount(), 0);
 }
 
+TEST(SelectionTest, partsOfARepositoryAreTickedOnlyOneByOne)
+{
+    const TempHome home;
+    home.fileOfSize("a", 2'048'000);
+    const std::string loose = home.fileOfSize("longer name", 2'048'000);
+    const std::string tracked = home.fileOfSize("src/project/assets/a", 2'048'000);
+    home.folder("src/project/.git");
+    AppModel app(kCommand);
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
+    EntryListModel list(app);
+    list.setFindingId("duplicates");
+    ASSERT_EQ(list.rowCount(), 2);
+    list.toggleShown();
+    EXPECT_THAT(app.results()->selection(), ElementsAre(loose));
+    list.toggleShown();
+    EXPECT_THAT(app.results()->selection(), IsEmpty());
+    list.toggle(1);
+    EXPECT_THAT(app.results()->selection(), ElementsAre(tracked));
+}
+
 TEST(SelectionTest, whatIsTickedIsWhatMoves)
 {
     const TempHome home;

@@ -76,6 +76,20 @@ TEST(PhotoGroupsModelTest, aPhotoOfTwoGroupsCountsOnce)
     EXPECT_TRUE(stage.groups.selectedText().startsWith("1 photo selected"));
 }
 
+TEST(PhotoGroupsModelTest, selectingAllLeavesOutWhatIsTickedAlone)
+{
+    const TempHome home;
+    Finding finding = shots(3);
+    finding.items[1].isTickedAlone = true;
+    Stage stage({finding}, kShots);
+    stage.groups.toggleAll(kShots);
+    EXPECT_THAT(stage.app.results()->selection(), ElementsAre("/p/shot0.png", "/p/shot2.png"));
+    stage.tiles.toggle(1);
+    EXPECT_EQ(stage.app.results()->selection().size(), 3U) << "by itself it can be ticked";
+    stage.groups.toggleAll(kShots);
+    EXPECT_TRUE(stage.app.results()->selection().empty());
+}
+
 TEST(PhotoGroupsModelTest, tellsTheStages)
 {
     const TempHome home;

@@ -197,13 +197,48 @@ void readUserFolders(Places& places)
     places.publicShare = take("PUBLICSHARE");
 }
 
+/// The paths in a list of game libraries, whose lines are of the form `"path"  "/home/user/Games"`.
+Paths namedLibraries(const std::string& list)
+{
+    constexpr std::string_view kKey = "\"path\"";
+    Paths paths;
+    for (std::size_t at = list.find(kKey); at != std::string::npos; at = list.find(kKey, at)) {
+        at += kKey.size();
+        const std::size_t open = list.find('"', at);
+        const std::size_t close = open == std::string::npos ? open : list.find('"', open + 1);
+        if (close == std::string::npos)
+            break;
+        const std::string path = list.substr(open + 1, close - open - 1);
+        if (path.starts_with('/'))
+            appendOnce(paths, PathText::standardized(path));
+        at = close;
+    }
+    return paths;
+}
+
 Paths steamFolders(const Places& places)
 {
+    constexpr std::size_t kLimit = 64UL * 1024;
     Paths folders;
     for (const std::string& data : places.data)
         appendOnce(folders, data + "/Steam");
-    appendOnce(folders, places.home + "/.var/app/com.valvesoftware.Steam/.local/share/Steam");
-    appendOnce(folders, places.home + "/snap/steam/common/.local/share/Steam");
+    for (const char* folder :
+         {"/.var/app/com.valvesoftware.Steam/.local/share/Steam", "/snap/steam/common/.local/share/Steam"})
+        appendOnce(folders, places.home + folder);
+    // Usually links to the one above.
+    for (const char* folder : {"/.steam/debian-installation", "/.steam/steam"}) {
+        if (isRealFolder(places.home + folder))
+            appendOnce(folders, places.home + folder);
+    }
+    const Paths installed = folders;
+    for (const std::string& folder : installed) {
+        const auto list = readSmallFile(folder + "/steamapps/libraryfolders.vdf", kLimit);
+        for (const std::string& library : namedLibraries(list.value_or(""))) {
+            const std::string path = places.normalized(library);
+            if (path != places.home && PathText::isAtOrBelow(path, places.home))
+                appendOnce(folders, path);
+        }
+    }
     return folders;
 }
 
@@ -220,12 +255,12 @@ Paths foldersOf(const Places& p, std::string_view word)
     if (word == "STATE")
         return p.states;
     if (word == "STEAM")
-        return steamFolders(p);
+        return p.steam;
     const std::pair<std::string_view, const std::string*> singles[] = {
-        {"APPLICATIONS", &p.applications}, {"LIBRARY", &p.library},     {"DESKTOP", &p.desktop},
-        {"DOWNLOAD", &p.downloads},        {"DOCUMENTS", &p.documents}, {"MUSIC", &p.music},
-        {"PICTURES", &p.pictures},         {"VIDEOS", &p.videos},       {"TEMPLATES", &p.templates},
-        {"PUBLICSHARE", &p.publicShare},
+        {"AVD", &p.androidDevices},  {"APPLICATIONS", &p.applications}, {"LIBRARY", &p.library},
+        {"DESKTOP", &p.desktop},     {"DOWNLOAD", &p.downloads},        {"DOCUMENTS", &p.documents},
+        {"MUSIC", &p.music},         {"PICTURES", &p.pictures},         {"VIDEOS", &p.videos},
+        {"TEMPLATES", &p.templates}, {"PUBLICSHARE", &p.publicShare},
     };
     for (const auto& [name, folder] : singles) {
         if (word == name)
@@ -298,6 +333,8 @@ Places Places::fromEnvironment()
     places.caches = baseFolders("XDG_CACHE_HOME", places, ".cache");
     places.data = baseFolders("XDG_DATA_HOME", places, ".local/share");
     places.states = baseFolders("XDG_STATE_HOME", places, ".local/state");
+    places.steam = steamFolders(places);
+    places.androidDevices = folderBelowHome("ANDROID_AVD_HOME", places);
     readSharedFolders(places);
     for (const Paths* folders : {&places.configs, &places.data})
         Reachability::askAhead(folders->front());

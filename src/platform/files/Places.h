@@ -25,6 +25,12 @@ struct Places {
     std::vector<std::string> data;
     std::vector<std::string> states;
 
+    /// Folders of Steam and of its game libraries, below the home folder.
+    std::vector<std::string> steam;
+    /// The folder of Android virtual devices that `$ANDROID_AVD_HOME` names; empty unless below the home
+    /// folder.
+    std::string androidDevices;
+
     /// System-wide settings: "/etc/xdg", which always counts, then `$XDG_CONFIG_DIRS`.
     std::vector<std::string> sharedConfigs;
     /// System-wide data: `$XDG_DATA_DIRS` or its defaults, most important first.

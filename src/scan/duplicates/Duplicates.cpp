@@ -99,6 +99,7 @@ Cand asCompared(const Suspect& suspect)
 {
     Cand cand = *suspect.cand;
     cand.stamp = FileStamp::of(suspect.seen);
+    cand.hasOtherNames = suspect.seen.links > 1;
     return cand;
 }
 
@@ -224,11 +225,11 @@ Finding finding(const Result& result)
     std::vector<FileEntry> entries;
     for (const Set& set : result.sets) {
         for (const Copy& copy : set.copies) {
-            FileEntry& entry = entries.emplace_back(toEntry(copy.file));
-            entry.kept = toKept(set.kept);
-            addNote(entry, noteNaming(set.kept));
+            std::string note = noteNaming(set.kept);
             if (copy.sharesData)
-                addNote(entry, kSharesNote);
+                note.append(" · ").append(kSharesNote);
+            FileEntry& entry = entries.emplace_back(toEntryByContent(copy.file, note));
+            entry.kept = toKept(set.kept);
         }
     }
     return Finding(FindingKind::duplicates, std::move(entries));

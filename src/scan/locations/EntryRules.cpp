@@ -1,11 +1,14 @@
 #include "scan/locations/EntryRules.h"
 
 #include "clean/trash/Trash.h"
+#include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/text/PathText.h"
+#include "scan/locations/KeptLanguages.h"
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace orlen::EntryRules {
 
@@ -27,6 +30,42 @@ bool isRotated(std::string_view name)
             return true;
     }
     return false;
+}
+
+bool isRegular(const std::string& path)
+{
+    const auto status = statusOf(path);
+    return status.ok() && status.value().type == FileType::regular;
+}
+
+bool startsLikeProgram(const std::string& path)
+{
+    constexpr std::string_view kMagic = "\x7F"
+                                        "ELF";
+    const auto file = openFile(path);
+    std::array<std::byte, kMagic.size()> head{};
+    if (!file.ok())
+        return false;
+    const auto length = readAt(file.value().get(), 0, head);
+    return length.ok() && length.value() == head.size() &&
+           std::ranges::equal(head, kMagic, {}, [](std::byte b) { return static_cast<char>(b); });
+}
+
+/// Two or three letters, perhaps with a region or a variant.
+bool isLanguageCode(std::string_view code)
+{
+    const std::string language = KeptLanguages::languageOf(code);
+    return (language.size() == 2 || language.size() == 3) &&
+           std::ranges::all_of(language, [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+/// The code in "de.pak", "de.pak.info", "qtbase_pt_BR.qm", or the whole name of a folder.
+std::string_view translationCode(std::string_view name)
+{
+    if (name.ends_with(".qm"))
+        return name.substr(name.find('_') + 1,
+                           name.size() - name.find('_') - std::string_view("_.qm").size());
+    return name.substr(0, name.find('.'));
 }
 
 } // namespace
@@ -52,6 +91,26 @@ bool isLogFileOrLogsFolder(const std::string& path)
         return false;
     const auto status = statusOf(path);
     return status.ok() && status.value().type == (mayBeFolder ? FileType::folder : FileType::regular);
+}
+
+bool isCrashDump(const std::string& path)
+{
+    const std::string_view name = PathText::lastComponent(path);
+    if (name.ends_with(".log"))
+        return isRegular(path);
+    const std::string_view number = name.substr(std::min(name.size(), std::string_view("core.").size()));
+    return std::ranges::all_of(number, [](char c) { return c >= '0' && c <= '9'; }) && name != "core." &&
+           startsLikeProgram(path);
+}
+
+bool isUnusedTranslation(const std::string& path)
+{
+    const std::string_view name = PathText::lastComponent(path);
+    const std::string_view code = translationCode(name);
+    if (!isLanguageCode(code) || KeptLanguages::contains(code))
+        return false;
+    return name.ends_with(".qm") || name.find(".pak") != std::string_view::npos ? isRegular(path)
+                                                                                : isRealFolder(path);
 }
 
 std::string trashNote(const std::string& trashed)

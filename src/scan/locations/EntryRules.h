@@ -16,6 +16,14 @@ namespace orlen::EntryRules {
 /// Whether it is a regular file named like a log, or a folder named "log" or "logs".
 [[nodiscard]] bool isLogFileOrLogsFolder(const std::string& path);
 
+/// Whether it is a regular file left by a crashed program: a report of the Java runtime, or a memory image
+/// named "core" or "core.1234".
+[[nodiscard]] bool isCrashDump(const std::string& path);
+
+/// Whether the name is that of a translation into a language this person does not use: "locales/de.pak",
+/// "locale/pt_BR", "translations/qtbase_fr.qm".
+[[nodiscard]] bool isUnusedTranslation(const std::string& path);
+
 /// "Deleted from" and the original folder of an item in the Trash; empty if its info file does not say, or
 /// cannot be displayed.
 [[nodiscard]] std::string trashNote(const std::string& trashed);

@@ -1,17 +1,24 @@
 #include "scan/locations/LocationScanners.h"
 
 #include "scan/locations/OldDownloads.h"
-#include "scan/locations/SourceReader.h"
 #include "scan/locations/mac/LanguagePacks.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace orlen {
 
+const SourceReader& LocationScanners::reader() const
+{
+    std::call_once(m_isRead, [this] { m_reader.emplace(m_progress, m_stop, m_unreadable); });
+    return *m_reader;
+}
+
 std::vector<Finding> LocationScanners::read(std::initializer_list<FindingKind> kinds) const
 {
-    const SourceReader reader(m_progress, m_stop, m_unreadable);
     std::vector<Finding> findings;
     for (const FindingKind kind : kinds)
-        findings.emplace_back(kind, reader.entries(kind));
+        findings.emplace_back(kind, reader().entries(kind));
     return findings;
 }
 
@@ -43,14 +50,15 @@ std::vector<Finding> LocationScanners::trashAndMail() const
 
 std::vector<Finding> LocationScanners::languagePacks() const
 {
-    return {Finding(FindingKind::languagePacks, LanguagePacks::entries(m_unreadable, m_stop))};
+    std::vector<FileEntry> entries = LanguagePacks::entries(m_unreadable, m_stop);
+    std::ranges::move(reader().entries(FindingKind::languagePacks), std::back_inserter(entries));
+    return {Finding(FindingKind::languagePacks, std::move(entries))};
 }
 
 std::vector<Finding> LocationScanners::downloads(TimePoint now, const RecentDocuments& recent) const
 {
-    const SourceReader reader(m_progress, m_stop, m_unreadable);
-    return {
-        Finding(FindingKind::oldDownloads, OldDownloads::entries(reader, now, recent, m_unreadable, m_stop))};
+    return {Finding(FindingKind::oldDownloads,
+                    OldDownloads::entries(reader(), now, recent, m_unreadable, m_stop))};
 }
 
 } // namespace orlen

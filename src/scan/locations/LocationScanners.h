@@ -2,8 +2,11 @@
 
 #include "model/Finding.h"
 #include "platform/values/Time.h"
+#include "scan/locations/SourceReader.h"
 
 #include <initializer_list>
+#include <mutex>
+#include <optional>
 #include <stop_token>
 #include <utility>
 #include <vector>
@@ -35,11 +38,15 @@ public:
     [[nodiscard]] std::vector<Finding> downloads(TimePoint now, const RecentDocuments& recent) const;
 
 private:
+    [[nodiscard]] const SourceReader& reader() const;
     [[nodiscard]] std::vector<Finding> read(std::initializer_list<FindingKind> kinds) const;
 
     ScanProgress& m_progress;
     std::stop_token m_stop;
     UnreadableFolders* m_unreadable;
+    /// Made by the first scanner that runs, for all of them.
+    mutable std::once_flag m_isRead;
+    mutable std::optional<SourceReader> m_reader;
 };
 
 } // namespace orlen

@@ -38,9 +38,15 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
         if (uses[i].isOpening)
             found[i].lastOpened = uses[i].date;
         if (exists(found[i].path + "/.git"))
-            found[i].note = "Contains a repository";
+            addNoteBefore(found[i], "Contains a repository");
     }
     return found;
+}
+
+bool isOld(const std::string& path, TimePoint now, const RecentDocuments& recent)
+{
+    const auto use = FS::lastUse(path, recent, *CurrentMounts::table());
+    return use && use->date < now - kUnused;
 }
 
 } // namespace orlen::OldDownloads

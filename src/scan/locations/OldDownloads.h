@@ -4,6 +4,7 @@
 #include "platform/values/Time.h"
 
 #include <stop_token>
+#include <string>
 #include <vector>
 
 namespace orlen {
@@ -21,5 +22,8 @@ namespace orlen::OldDownloads {
 [[nodiscard]] std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now,
                                              const RecentDocuments& recent, UnreadableFolders* unreadable,
                                              const std::stop_token& stop);
+
+/// Whether an item of a Downloads folder is old in this sense. Blocks on the disk.
+[[nodiscard]] bool isOld(const std::string& path, TimePoint now, const RecentDocuments& recent);
 
 } // namespace orlen::OldDownloads

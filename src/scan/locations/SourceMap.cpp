@@ -1,11 +1,14 @@
 #include "scan/locations/SourceMap.h"
 
+#include "model/FileEntry.h"
 #include "platform/files/Places.h"
 #include "platform/text/NamePattern.h"
 #include "platform/text/PathText.h"
+#include "scan/locations/AppFolders.h"
 #include "scan/locations/Glob.h"
 
 #include <algorithm>
+#include <map>
 
 // Who offers what. Every row's patterns are expanded to sources, and the map keeps each source's path and all
 // folders above it. A folder's child is then offered by at most one source:
@@ -18,11 +21,18 @@ namespace orlen {
 
 namespace {
 
+bool isNamed(const SourceRow& row, std::string_view name)
+{
+    return row.only.empty() || Glob::matchesAny(row.only, name);
+}
+
 /// "Google/AndroidStudio*" excludes a folder "Google" only if it contains a match.
 bool isExcluded(const SourceRow& row, const std::string& child)
 {
     const std::string_view name = PathText::lastComponent(child);
     if (std::ranges::find(row.exceptAfterLimit, name) != row.exceptAfterLimit.end())
+        return true;
+    if (row.reading == Reading::never && isNamed(row, name))
         return true;
     return std::any_of(row.except.begin(), row.except.end(), [&](std::string_view pattern) {
         const std::size_t slash = pattern.find('/');
@@ -34,17 +44,23 @@ bool isExcluded(const SourceRow& row, const std::string& child)
 
 bool isTaken(const SourceRow& row, const std::string& child)
 {
-    return (row.only.empty() || Glob::matchesAny(row.only, PathText::lastComponent(child))) &&
+    return row.reading != Reading::never && isNamed(row, PathText::lastComponent(child)) &&
            (row.accepts == nullptr || row.accepts(child));
 }
 
-std::string filledIn(std::string_view note, const Glob::Match& match)
+/// Whose folder it is and what the row says.
+std::string noteOf(const SourceRow& row, const std::string& owner, const Glob::Match& match)
 {
     constexpr std::string_view kMatched = "{1}";
-    std::string text(note);
+    std::string text(row.note);
     if (const std::size_t at = text.find(kMatched); at != std::string::npos && !match.names.empty())
         text.replace(at, kMatched.size(), match.names.front());
-    return text;
+    FileEntry noted;
+    for (const std::string& part : {owner, text}) {
+        if (!part.empty())
+            addNote(noted, part);
+    }
+    return noted.note.value_or("");
 }
 
 bool isLeftOut(const SourceRow& row, const Glob::Match& match)
@@ -62,29 +78,77 @@ std::size_t firstStar(std::string_view pattern)
 
 } // namespace
 
+/// Several rows read the same folders, which are listed and tested once.
+class SourceMap::Expansion {
+public:
+    Expansion(const Places& places, UnreadableFolders* unreadable)
+        : m_places(places), m_folders(places), m_unreadable(unreadable)
+    {
+    }
+
+    [[nodiscard]] std::vector<AppFolder> starts(std::string_view pattern) const
+    {
+        return m_folders.expand(m_places, pattern);
+    }
+
+    const std::vector<Glob::Match>& paths(const std::string& folder, std::string_view pattern)
+    {
+        const auto [at, isNew] = m_paths.try_emplace(folder + '\0' + std::string(pattern));
+        if (isNew)
+            at->second = Glob::paths(folder, pattern, m_unreadable);
+        return at->second;
+    }
+
+    bool passes(bool (*test)(const std::string&), const std::string& folder)
+    {
+        if (test == nullptr)
+            return true;
+        const auto [at, isNew] = m_tests[test].try_emplace(folder, false);
+        if (isNew)
+            at->second = test(folder);
+        return at->second;
+    }
+
+private:
+    const Places& m_places;
+    const AppFolders m_folders;
+    UnreadableFolders* const m_unreadable;
+    std::unordered_map<std::string, std::vector<Glob::Match>> m_paths;
+    std::map<bool (*)(const std::string&), std::unordered_map<std::string, bool>> m_tests;
+};
+
 SourceMap::SourceMap(const Places& places, UnreadableFolders* unreadable)
 {
     if (!places.isHomeUsable)
         return;
+    Expansion expansion(places, unreadable);
     for (const SourceRow& row : sourceRows())
-        add(row, places, unreadable);
+        add(row, expansion);
 }
 
-void SourceMap::add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable)
+void SourceMap::add(const SourceRow& row, Expansion& expansion)
 {
     for (const std::string_view pattern : row.from) {
         const std::size_t star = firstStar(pattern);
-        for (const std::string& start : places.expand(pattern.substr(0, star))) {
-            for (Glob::Match& match : Glob::paths(start, pattern.substr(star), unreadable)) {
-                // What one source of the row offers as an entry is not opened by the next.
-                const bool isEntry = !match.names.empty() &&
-                                     isKnown(row, std::string(PathText::parent(match.path))) &&
-                                     isTaken(row, match.path);
-                if (!isEntry && !isLeftOut(row, match) && !isKnown(row, match.path))
-                    add({&row, match.path, filledIn(row.note, match)});
+        for (const AppFolder& start : expansion.starts(pattern.substr(0, star))) {
+            for (const Glob::Match& match : expansion.paths(start.path, pattern.substr(star))) {
+                if (isLeftOut(row, match) || !expansion.passes(row.within, match.path))
+                    continue;
+                const std::string note = noteOf(row, start.owner, match);
+                for (const Glob::Match& below : expansion.paths(match.path, row.below))
+                    addOnce({&row, below.path, note});
             }
         }
     }
+}
+
+void SourceMap::addOnce(Source source)
+{
+    // What one source of the row offers as an entry is not opened by the next.
+    const std::string parent(PathText::parent(source.path));
+    const bool isEntry = isKnown(*source.row, parent) && isTaken(*source.row, source.path);
+    if (!isEntry && !isKnown(*source.row, source.path))
+        add(std::move(source));
 }
 
 void SourceMap::add(Source source)
@@ -141,9 +205,22 @@ bool SourceMap::isOffered(const Source& single) const
 {
     const std::vector<const Source*> same = at(single.path);
     const bool isReadAsFolder = std::any_of(same.begin(), same.end(), [](const Source* source) {
-        return source->row->reading != Reading::single;
+        return source->row->reading != Reading::single && source->row->reading != Reading::never;
     });
     return !m_above.contains(single.path) && !isReadAsFolder && same.front()->row == single.row;
+}
+
+const Source* SourceMap::offering(const std::string& entry) const
+{
+    for (const Source* source : at(entry)) {
+        if (source->row->reading == Reading::single && isOffered(*source))
+            return source;
+    }
+    for (const Source* source : at(std::string(PathText::parent(entry)))) {
+        if (source->row->reading != Reading::single && isOfferedBy(*source, entry))
+            return source;
+    }
+    return nullptr;
 }
 
 } // namespace orlen

@@ -16,7 +16,7 @@ class UnreadableFolders;
 struct Source {
     const SourceRow* row;
     std::string path;
-    std::string note; ///< the row's, filled in
+    std::string note; ///< whose folder it is, then the row's note, filled in
 };
 
 /// Where all rows lead in this home folder. Variables may nest one known place inside another or make two the
@@ -37,8 +37,14 @@ public:
     /// The same for a source that is an entry itself.
     [[nodiscard]] bool isOffered(const Source& single) const;
 
+    /// The source that offers exactly this path as an entry; null if none does. May block on the disk.
+    [[nodiscard]] const Source* offering(const std::string& entry) const;
+
 private:
-    void add(const SourceRow& row, const Places& places, UnreadableFolders* unreadable);
+    class Expansion;
+
+    void add(const SourceRow& row, Expansion& expansion);
+    void addOnce(Source source);
     void add(Source source);
     [[nodiscard]] bool isKnown(const SourceRow& row, const std::string& path) const;
     [[nodiscard]] std::vector<const Source*> at(const std::string& path) const;

@@ -63,7 +63,7 @@ bool mayBeOffered(const SourceRow& row, const std::string& path)
 {
     return PathText::isValidUtf8(path) && !Safety::isProtected(path) &&
            (row.offered == Offered::all || isDeletable(path)) &&
-           (row.kind != FindingKind::caches || !WalkRules::isEnvironment(path));
+           (row.kind != FindingKind::caches || row.maybeEnvironment || !WalkRules::isEnvironment(path));
 }
 
 bool isLinkFree(const Source& single)
@@ -73,6 +73,15 @@ bool isLinkFree(const Source& single)
     const auto status = statusOf(single.path);
     return status.ok() && status.value().type != FileType::link &&
            openWithoutLinks(std::string(PathText::parent(single.path))).ok();
+}
+
+/// Whether the folder would be listed, and the name in it.
+bool isReadable(const Source& folder, const std::string& child)
+{
+    const std::string_view name = PathText::lastComponent(child);
+    const auto status = statusOf(child);
+    return !isSkipped(*folder.row, name) && openToRead(folder).ok() && status.ok() &&
+           (folder.row->layout == Layout::mac || status.value().type != FileType::link);
 }
 
 bool isLargeEnough(const SourceRow& row, const FileEntry& entry)
@@ -124,6 +133,27 @@ std::vector<std::string> SourceReader::paths(FindingKind kind) const
     return all;
 }
 
+std::optional<SourceReader::Holding> SourceReader::holding(const std::string& path) const
+{
+    const std::string& home = Places::current().home;
+    for (std::string at = path; at.size() > 1 && at != home; at = std::string(PathText::parent(at))) {
+        const Source* source = m_map.offering(at);
+        if (source == nullptr)
+            continue;
+        const SourceRow& row = *source->row;
+        const bool isReachable =
+            row.reading == Reading::single ? isLinkFree(*source) : isReadable(*source, at);
+        if (!isReachable || !mayBeOffered(row, at))
+            return std::nullopt;
+        FileEntry entry = FS::entry(at, source->note, m_stop, m_unreadable);
+        if (!isLargeEnough(row, entry))
+            return std::nullopt;
+        describe(row, entry);
+        return Holding{row.kind, std::move(entry)};
+    }
+    return std::nullopt;
+}
+
 std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
 {
     // All folders of the row are measured together, which keeps the disk busy.
@@ -136,22 +166,32 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
         }
     }
     std::vector<FileEntry> entries = FS::entries(found, {}, m_stop, m_unreadable);
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (!origins[i]->note.empty())
-            entries[i].note = origins[i]->note;
-    }
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        addNoteBefore(entries[i], origins[i]->note);
     std::erase_if(entries, [&](const FileEntry& entry) { return !isLargeEnough(row, entry); });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
     leaveRoomForOthers(row, entries);
     if (entries.size() > row.limit)
         entries.resize(row.limit);
-    for (FileEntry& entry : entries) {
-        if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
-            !note.empty())
-            addNote(entry, note);
-    }
+    for (FileEntry& entry : entries)
+        describe(row, entry);
     return entries;
+}
+
+/// What the row says of an entry that has its source's note.
+void SourceReader::describe(const SourceRow& row, FileEntry& entry) const
+{
+    entry.rating = row.rating;
+    if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
+        !note.empty())
+        addNote(entry, note);
+    if (!row.caution.empty())
+        addNote(entry, row.caution);
+    if (!row.isOwnedByProgram)
+        return;
+    if (const std::string program = m_owners.running(PathText::lastComponent(entry.path)); !program.empty())
+        addNote(entry, "Quit " + program + " first");
 }
 
 /// Drops as many entries from the end as the places offered by other rows would have displaced.
@@ -192,6 +232,7 @@ std::vector<FileEntry> SourceReader::single(const Source& source) const
     FileEntry entry = FS::entry(source.path, source.note, m_stop, m_unreadable);
     if (!isLargeEnough(*source.row, entry))
         return {};
+    describe(*source.row, entry);
     return {std::move(entry)};
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "model/FileEntry.h"
+#include "scan/locations/CacheOwners.h"
 #include "scan/locations/SourceMap.h"
 
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -25,17 +27,27 @@ public:
     /// The paths that rows of a kind may offer, unmeasured, in listing order. Blocks on the disk.
     [[nodiscard]] std::vector<std::string> paths(FindingKind kind) const;
 
+    struct Holding {
+        FindingKind kind;
+        FileEntry entry;
+    };
+    /// The measured entry that is or contains the path; nothing if no row offers one. Whether a download is
+    /// old enough is not considered. Blocks on the disk.
+    [[nodiscard]] std::optional<Holding> holding(const std::string& path) const;
+
 private:
     [[nodiscard]] std::vector<FileEntry> children(const SourceRow& row) const;
     [[nodiscard]] std::vector<FileEntry> single(const Source& source) const;
     [[nodiscard]] std::vector<std::string> pathsIn(const Source& folder) const;
     void leaveRoomForOthers(const SourceRow& row, std::vector<FileEntry>& entries) const;
+    void describe(const SourceRow& row, FileEntry& entry) const;
     void noteUnreachable(std::string path, int error) const;
 
     ScanProgress& m_progress;
     std::stop_token m_stop;
     UnreadableFolders* m_unreadable;
     SourceMap m_map;
+    CacheOwners m_owners;
 };
 
 } // namespace orlen

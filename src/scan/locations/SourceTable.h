@@ -1,9 +1,11 @@
 #pragma once
 
 #include "model/FindingKind.h"
+#include "model/Rating.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +17,7 @@ enum class Reading {
     children,       ///< each item directly in the folder, measured
     single,         ///< the path itself, regardless of limits
     unusedChildren, ///< each item directly in the folder not opened for a while, of any size and number
+    never,          ///< nothing: what the row names in the folder, no other row may offer either
 };
 
 /// Whose conventions a source follows. A home folder may come from a Mac or be shared with one.
@@ -35,20 +38,28 @@ struct SourceRow {
     Reading reading = Reading::children;
     Layout layout = Layout::freedesktop;
     Offered offered = Offered::deletable;
-    /// Patterns for `Places::expand`, in which "*" matches part or all of a folder's name.
+    /// Patterns for `AppFolders::expand`, in which "*" matches part or all of a folder's name.
     std::vector<std::string_view> from = {};
-    std::int64_t minimum = 1;   ///< smallest entry, in bytes; empty ones are never offered
-    std::size_t limit = 600;    ///< most entries from all folders of the row
-    std::string_view note = {}; ///< "{1}" is replaced by what the first "*" matched; empty: no note
+    std::string_view below = {};       ///< pattern below each of them, starting with "/"
+    std::int64_t minimum = 1;          ///< smallest entry, in bytes; empty ones are never offered
+    std::size_t limit = 600;           ///< most entries from all folders of the row
+    std::optional<Rating> rating = {}; ///< of each entry; absent: that of the finding
+    /// Says what an entry is. "{1}" is replaced by what the first "*" matched; empty: no note.
+    std::string_view note = {};
+    std::string_view caution = {};           ///< says what to consider before removing it; follows the note
     std::vector<std::string_view> only = {}; ///< names of entries, may use "*"; empty: any
     /// Names that are never entries, may use "*". "Name/Sub*" excludes a "Name" that contains a match.
     std::vector<std::string_view> except = {};
     /// Names that are not entries either, but count among the largest: other rows offer them.
     std::vector<std::string_view> exceptAfterLimit = {};
-    std::vector<std::string_view> exceptFolders = {};   ///< names that "*" in `from` does not match
+    std::vector<std::string_view> exceptFolders = {}; ///< names that "*" in `from` does not match
+    /// Test of a folder `from` leads to, above `below`; may read the disk.
+    bool (*within)(const std::string& folder) = nullptr;
     bool (*accepts)(const std::string& path) = nullptr; ///< additional test of the entry; may read the disk
     /// A note for a single entry; may read the disk.
     std::string (*noteOf)(const std::string& path) = nullptr;
+    bool isOwnedByProgram = false; ///< entries are named after the program that writes them
+    bool maybeEnvironment = false; ///< offered even if programs are installed in it
 };
 
 /// All rows. Within a kind they are in display order; an entry that two rows could offer belongs to the

@@ -29,13 +29,6 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
     return photo;
 }
 
-FileEntry entry(const PhotoInfo& photo, std::string note)
-{
-    FileEntry entry = toEntry(photo.cand);
-    entry.note = std::move(note);
-    return entry;
-}
-
 std::string similarNote(const PhotoInfo& keeper)
 {
     return "Similar to " + std::string(PathText::lastComponent(keeper.cand.path)) + " — keeping the sharpest";
@@ -83,18 +76,18 @@ std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photo
     for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
         for (const std::size_t other : group.others) {
             isListed[other] = true;
-            FileEntry& similar =
-                entries.front().emplace_back(entry(photos[other], similarNote(photos[group.keeper])));
+            FileEntry& similar = entries.front().emplace_back(
+                toEntryByContent(photos[other].cand, similarNote(photos[group.keeper])));
             similar.kept = toKept(photos[group.keeper].cand);
         }
     }
     for (std::size_t i = 0; i < photos.size(); ++i) {
-        auto verdict = isListed[i] ? std::nullopt : PhotoRules::verdict(photos[i]);
+        const auto verdict = isListed[i] ? std::nullopt : PhotoRules::verdict(photos[i]);
         if (!verdict)
             continue;
         const auto kind = std::find(kKinds.begin(), kKinds.end(), verdict->kind);
         entries[static_cast<std::size_t>(kind - kKinds.begin())].push_back(
-            entry(photos[i], std::move(verdict->note)));
+            toEntryByContent(photos[i].cand, verdict->note));
     }
     std::vector<Finding> findings;
     for (std::size_t i = 0; i < kKinds.size(); ++i)

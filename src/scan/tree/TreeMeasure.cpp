@@ -1,6 +1,5 @@
 #include "scan/tree/TreeMeasure.h"
 
-#include "platform/values/CheckedSum.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeScan.h"
 
@@ -20,31 +19,26 @@ public:
 
     void files(const TreeFolder& folder, std::span<const TreeFile> files) override
     {
-        std::int64_t bytes = 0;
-        for (const TreeFile& file : files)
-            bytes = cappedAdd(bytes, file.status.allocatedBytes);
-        addTo(m_sums[folder.tag()], bytes);
+        m_sums[folder.tag()].add(files);
     }
 
-    [[nodiscard]] std::int64_t sum(std::size_t root) const { return m_sums[root].load(); }
+    [[nodiscard]] TreeSize size(std::size_t root) const { return m_sums[root].size(); }
 
 private:
-    std::vector<std::atomic<std::int64_t>> m_sums;
+    std::vector<TreeSum> m_sums;
 };
+
+TreeSize sizeOf(const FileStatus& file)
+{
+    return {file.allocatedBytes, file.links > 1 ? 0 : file.allocatedBytes};
+}
 
 } // namespace
 
-void addTo(std::atomic<std::int64_t>& sum, std::int64_t bytes)
+std::vector<TreeSize> measureTrees(std::span<const std::string> paths, const std::stop_token& stop,
+                                   DiskWorkers::Priority priority, UnreadableFolders* unreadable)
 {
-    std::int64_t before = sum.load();
-    while (!sum.compare_exchange_weak(before, cappedAdd(before, bytes))) {
-    }
-}
-
-std::vector<std::int64_t> measureTrees(std::span<const std::string> paths, const std::stop_token& stop,
-                                       DiskWorkers::Priority priority, UnreadableFolders* unreadable)
-{
-    std::vector<std::int64_t> sizes(paths.size());
+    std::vector<TreeSize> sizes(paths.size());
     std::vector<TreeRoot> folders;
     for (std::size_t i = 0; i < paths.size() && !stop.stop_requested(); ++i) {
         const auto status = statusOf(paths[i]);
@@ -53,7 +47,7 @@ std::vector<std::int64_t> measureTrees(std::span<const std::string> paths, const
         if (status.value().type == FileType::folder)
             folders.push_back({paths[i], static_cast<std::uint32_t>(i)});
         else if (status.value().type == FileType::regular)
-            sizes[i] = status.value().allocatedBytes;
+            sizes[i] = sizeOf(status.value());
     }
     Measure measure(paths.size());
     TreeScanOptions options;
@@ -61,7 +55,7 @@ std::vector<std::int64_t> measureTrees(std::span<const std::string> paths, const
     options.unreadable = unreadable;
     scanTrees(folders, measure, *CurrentMounts::table(), options, stop);
     for (const TreeRoot& folder : folders)
-        sizes[folder.tag] = measure.sum(folder.tag);
+        sizes[folder.tag] = measure.size(folder.tag);
     return sizes;
 }
 

@@ -4,9 +4,10 @@
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "scan/tree/CurrentMounts.h"
-#include "scan/walk/TaggedCaches.h"
 #include "scan/walk/WalkRules.h"
 #include "scan/walk/WalkVisitor.h"
+#include "scan/walk/WalkedCaches.h"
+#include "scan/walk/WorkTrees.h"
 
 #include <algorithm>
 #include <iterator>
@@ -32,18 +33,21 @@ Found walk(WalkVisitor::Scope scope, const std::vector<TreeRoot>& roots, ScanPro
            const std::stop_token& stop, const Options& asked)
 {
     PathMarks marks;
-    WalkRules::markImageFolders(Places::current(), marks);
+    WalkRules::markMediaFolders(Places::current(), marks);
     WalkVisitor visitor(scope, progress);
     TreeScanOptions options;
     options.crossing = Crossing::localDisks;
     options.marks = &marks;
     options.unreadable = asked.unreadable;
     scanTrees(roots, visitor, *CurrentMounts::table(), options, stop);
-    TaggedCaches::Found tagged =
-        TaggedCaches::measure(visitor.takeTaggedCaches(), asked.largeBytes, asked.unreadable, stop);
-    Found found{visitor.takeCands(), visitor.takeImages(), std::move(tagged.entries),
-                std::move(tagged.largeFiles)};
+    WalkedCaches::Found caches =
+        WalkedCaches::measure(visitor.takeCaches(), asked.largeBytes, asked.unreadable, stop);
+    Found found{visitor.takeCands(), visitor.takeImages(), std::move(caches.entries),
+                std::move(caches.largeFiles)};
     dropKnown(found.largeInCaches, found.cands);
+    const WorkTrees workTrees(visitor.takeWorkTrees(), roots);
+    workTrees.mark(found.cands);
+    workTrees.mark(found.images);
     return found;
 }
 

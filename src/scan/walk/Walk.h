@@ -23,16 +23,16 @@ struct Found {
     /// Image files of at least 20,000 bytes in the image folders, sorted by path, at most 1,500. Large ones
     /// are also in `cands`.
     std::vector<Cand> images;
-    /// Folders of at least 1,000,000 bytes tagged as caches, largest first, at most 600, each rated `review`
-    /// with a note.
-    std::vector<FileEntry> taggedCaches;
-    /// Large files in folders tagged as caches, sorted by path. They count as large files but are not
+    /// Caches of at least 1,000,000 bytes, tagged as such or parts of a project, largest first, at most 600,
+    /// each rated `review` with a note.
+    std::vector<FileEntry> caches;
+    /// Large files in such folders, sorted by path. They count as large files but are not
     /// compared with others: people tag folders of virtual machines to exclude them from backups.
     std::vector<Cand> largeInCaches;
 };
 
 struct Options {
-    std::int64_t largeBytes = 500'000'000;   ///< smallest large file in a tagged folder
+    std::int64_t largeBytes = 500'000'000;   ///< smallest large file in a cache
     UnreadableFolders* unreadable = nullptr; ///< collects folders that could not be read; may be null
 };
 

@@ -29,6 +29,7 @@ constexpr std::array<std::string_view, 10> kImageExtensions{"jpg",  "jpeg", "png
 constexpr std::array<std::string_view, 8> kImageFolders{"{H}/Pictures",  "{H}/Desktop", "{H}/Downloads",
                                                         "{H}/Documents", "{PICTURES}",  "{DESKTOP}",
                                                         "{DOWNLOAD}",    "{DOCUMENTS}"};
+constexpr std::array<std::string_view, 2> kFilmFolders{"{H}/Videos", "{VIDEOS}"};
 constexpr std::string_view kCacheTag = "Signature: 8a477f597d28d172789f06886806bc55";
 
 template <std::size_t Size>
@@ -49,7 +50,7 @@ struct Telltales {
     bool syncMarker = false;
     bool cacheTag = false;
 
-    void look(const FolderEntry& entry)
+    void look(int folder, const FolderEntry& entry)
     {
         const std::string_view name = entry.name;
         const bool isFile = entry.type == EntryType::regular || entry.type == EntryType::unknown;
@@ -62,7 +63,7 @@ struct Telltales {
         environment |= (isFile && name == "pyvenv.cfg") || (isFolder && name == "conda-meta");
         workTree |= name == ".git";
         cacheTag |= isFile && name == "CACHEDIR.TAG";
-        syncMarker |= Safety::isSyncMarker(name);
+        syncMarker |= Safety::isSyncMarker(folder, entry);
     }
 };
 
@@ -92,31 +93,39 @@ bool isImageName(std::string_view name)
     return contains(kImageExtensions, PathText::asciiLower(PathText::extension(name)));
 }
 
-void markImageFolders(const Places& places, PathMarks& marks)
+void markMediaFolders(const Places& places, PathMarks& marks)
 {
-    for (const std::string_view pattern : kImageFolders) {
+    const auto mark = [&](std::string_view pattern, unsigned bits) {
         for (const std::string& folder : places.expand(pattern))
-            marks.mark(folder, kImageFolder);
-    }
+            marks.mark(folder, bits);
+    };
+    for (const std::string_view pattern : kImageFolders)
+        mark(pattern, kImageFolder);
+    for (const std::string_view pattern : kFilmFolders)
+        mark(pattern, kFilmFolder);
+}
+
+bool hasCacheTag(int folder, const std::string& file)
+{
+    return readHeadAt(folder, file.c_str(), kCacheTag.size()) == kCacheTag;
 }
 
 FolderNature natureOf(const TreeListing& listing)
 {
     Telltales found;
-    listing.forEach([&](const FolderEntry& entry) { found.look(entry); });
+    listing.forEach([&](const FolderEntry& entry) { found.look(listing.descriptor(), entry); });
     if (found.syncMarker)
         return FolderNature::mirrored;
     // An environment is in use even if tagged: its tools tag it to keep it out of backups.
     if (found.environment)
         return FolderNature::package;
-    if (found.cacheTag && !found.workTree &&
-        readHeadAt(listing.descriptor(), "CACHEDIR.TAG", kCacheTag.size()) == kCacheTag)
+    if (found.cacheTag && !found.workTree && hasCacheTag(listing.descriptor(), "CACHEDIR.TAG"))
         return FolderNature::taggedCache;
     const bool isRepository =
         found.objectsFolder && (found.configFile || (found.headFile && found.refsFolder));
     if (isRepository || (found.appRun && isExecutable(listing.descriptor(), "AppRun")))
         return FolderNature::package;
-    return FolderNature::plain;
+    return found.workTree ? FolderNature::workTree : FolderNature::plain;
 }
 
 FolderNature natureOf(const std::string& folder)

@@ -3,6 +3,7 @@
 #include "clean/Safety.h"
 #include "platform/text/PathText.h"
 #include "scan/ScanProgress.h"
+#include "scan/walk/ProjectCaches.h"
 #include "scan/walk/WalkRules.h"
 
 #include <algorithm>
@@ -28,28 +29,65 @@ std::optional<std::uint32_t> WalkVisitor::enter(const TreeFolder& parent, std::s
     const bool isTop = m_scope == Scope::homeFolder && parent.parent() == nullptr;
     if (WalkRules::isLeftOut(name) || (isTop && WalkRules::isLeftOutAtTop(name)))
         return std::nullopt;
-    if (!parent.canName(name) || Safety::protectsContents(parent.pathOf(name)))
+    if (!parent.canName(name) || Safety::protectsContents(parent.pathOf(name)) || isCollected(parent, name))
         return std::nullopt;
-    return parent.tag() | ((marks & WalkRules::kImageFolder) != 0 ? kImages : 0);
+    std::uint32_t tag = parent.tag() & kImages;
+    if ((marks & WalkRules::kImageFolder) != 0)
+        tag |= kImages;
+    if ((marks & WalkRules::kFilmFolder) != 0)
+        tag |= kFilms;
+    else if ((parent.tag() & kFilms) != 0)
+        tag |= kInFilms;
+    return tag;
+}
+
+/// Whether its parent's listing showed that it is a cache.
+bool WalkVisitor::isCollected(const TreeFolder& parent, std::string_view name)
+{
+    if (!ProjectCaches::isKnownName(name))
+        return false;
+    const std::lock_guard lock(m_lock);
+    return m_projectCaches.contains(parent.pathOf(name));
 }
 
 bool WalkVisitor::accept(const TreeFolder& folder, const TreeListing& listing)
 {
     // The given folders themselves are always walked, whatever they contain.
-    if (folder.parent() == nullptr)
-        return true;
-    switch (WalkRules::natureOf(listing)) {
+    const auto nature =
+        folder.parent() == nullptr ? WalkRules::FolderNature::plain : WalkRules::natureOf(listing);
+    switch (nature) {
     case WalkRules::FolderNature::plain:
-        return true;
+    case WalkRules::FolderNature::workTree:
+        break;
     case WalkRules::FolderNature::package:
     case WalkRules::FolderNature::mirrored:
         return false;
-    case WalkRules::FolderNature::taggedCache:
-        break;
+    case WalkRules::FolderNature::taggedCache: {
+        const std::lock_guard lock(m_lock);
+        m_caches.push_back({folder.path(), WalkedCaches::kTagged});
+        return false;
     }
-    const std::lock_guard lock(m_lock);
-    m_taggedCaches.push_back(folder.path());
-    return false;
+    }
+    if (nature == WalkRules::FolderNature::workTree) {
+        const std::lock_guard lock(m_lock);
+        m_workTrees.insert(folder.path());
+    }
+    collectCachesIn(folder, listing);
+    return true;
+}
+
+void WalkVisitor::collectCachesIn(const TreeFolder& folder, const TreeListing& listing)
+{
+    const auto films =
+        (folder.tag() & (kFilms | kInFilms)) != 0 ? ProjectCaches::Films::yes : ProjectCaches::Films::no;
+    for (const ProjectCaches::Cache& cache : ProjectCaches::in(listing, films)) {
+        if (!folder.canName(cache.name))
+            continue;
+        const std::string path = folder.pathOf(cache.name);
+        const std::lock_guard lock(m_lock);
+        m_caches.push_back({path, cache.note});
+        m_projectCaches.insert(path);
+    }
 }
 
 void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> files)
@@ -66,13 +104,14 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
             continue;
         if (!folder.canName(name))
             continue;
-        Cand cand{folder.pathOf(name), size, file.status.modified, FileStamp::of(file.status)};
+        Cand cand{folder.pathOf(name), size, file.status.modified, FileStamp::of(file.status),
+                  file.status.links > 1};
         if (!PathText::isValidUtf8(cand.path) || Safety::isProtected(cand.path))
             continue;
         if (isImage)
             images.push_back(cand);
         if (isCand)
-            cands.push_back({std::move(cand), file.status.identity, file.status.links > 1});
+            cands.push_back({std::move(cand), file.status.identity});
     }
     if (!images.empty())
         addImages(std::move(images));
@@ -125,7 +164,7 @@ std::vector<Cand> WalkVisitor::takeCands()
     std::vector<Cand> cands;
     cands.reserve(m_cands.size());
     for (Walked& walked : m_cands) {
-        if (!walked.hasOtherNames || seen.insert(walked.identity).second)
+        if (!walked.cand.hasOtherNames || seen.insert(walked.identity).second)
             cands.push_back(std::move(walked.cand));
     }
     m_cands.clear();
@@ -138,10 +177,15 @@ std::vector<Cand> WalkVisitor::takeImages()
     return std::move(m_images);
 }
 
-std::vector<std::string> WalkVisitor::takeTaggedCaches()
+std::vector<WalkedCaches::Folder> WalkVisitor::takeCaches()
 {
-    std::sort(m_taggedCaches.begin(), m_taggedCaches.end());
-    return std::move(m_taggedCaches);
+    std::ranges::sort(m_caches, {}, &WalkedCaches::Folder::path);
+    return std::move(m_caches);
+}
+
+std::set<std::string, std::less<>> WalkVisitor::takeWorkTrees()
+{
+    return std::move(m_workTrees);
 }
 
 } // namespace orlen

@@ -2,8 +2,11 @@
 
 #include "scan/tree/TreeScan.h"
 #include "scan/walk/Walk.h"
+#include "scan/walk/WalkedCaches.h"
 
 #include <mutex>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace orlen {
@@ -16,6 +19,9 @@ public:
 
     /// Tag of folders in which images are collected.
     static constexpr std::uint32_t kImages = 1;
+    /// Tags of a folder of films, and of the folders directly in it.
+    static constexpr std::uint32_t kFilms = 2;
+    static constexpr std::uint32_t kInFilms = 4;
     /// Smallest general candidate, in allocated bytes.
     static constexpr std::int64_t kCandBytes = 1'000'000;
 
@@ -32,17 +38,20 @@ public:
     /// After the scan: the candidates sorted by path, each file once.
     [[nodiscard]] std::vector<Cand> takeCands();
     [[nodiscard]] std::vector<Cand> takeImages();
-    /// The folders tagged as caches, whether they may be offered or not.
-    [[nodiscard]] std::vector<std::string> takeTaggedCaches();
+    /// The caches, whether they may be offered or not, in path order.
+    [[nodiscard]] std::vector<WalkedCaches::Folder> takeCaches();
+    /// The folders below the roots that hold a repository.
+    [[nodiscard]] std::set<std::string, std::less<>> takeWorkTrees();
 
 private:
     struct Walked {
         Cand cand;
         FileIdentity identity;
-        bool hasOtherNames = false;
     };
 
     [[nodiscard]] bool isCounted(const TreeFolder& folder, std::string_view name) const;
+    [[nodiscard]] bool isCollected(const TreeFolder& parent, std::string_view name);
+    void collectCachesIn(const TreeFolder& folder, const TreeListing& listing);
     void addImages(std::vector<Cand> images);
 
     const Scope m_scope;
@@ -50,7 +59,9 @@ private:
     std::mutex m_lock;
     std::vector<Walked> m_cands;
     std::vector<Cand> m_images; ///< a heap with the last path on top
-    std::vector<std::string> m_taggedCaches;
+    std::vector<WalkedCaches::Folder> m_caches;
+    std::set<std::string, std::less<>> m_projectCaches; ///< those not to be entered
+    std::set<std::string, std::less<>> m_workTrees;
 };
 
 } // namespace orlen

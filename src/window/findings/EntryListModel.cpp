@@ -211,7 +211,10 @@ void EntryListModel::toggle(int row)
 
 void EntryListModel::toggleShown()
 {
-    setShown(shownState() != Qt::Checked);
+    setShown(std::ranges::any_of(m_rows, [this](int row) {
+        const auto entry = static_cast<std::size_t>(row);
+        return !m_isSelected[entry] && !m_entries[entry].isTickedAlone;
+    }));
 }
 
 void EntryListModel::selectShown()
@@ -228,7 +231,9 @@ void EntryListModel::setShown(bool isSelected)
 {
     std::vector<int> rows(m_rows.size());
     std::iota(rows.begin(), rows.end(), 0);
-    std::erase_if(rows, [&](int row) { return m_isSelected[entryIndex(row)] == isSelected; });
+    std::erase_if(rows, [&](int row) {
+        return m_isSelected[entryIndex(row)] == isSelected || (isSelected && entryAt(row).isTickedAlone);
+    });
     setSelected(rows, isSelected);
 }
 

@@ -4,6 +4,8 @@
 #include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
 
+#include <algorithm>
+
 namespace orlen {
 
 FindingListModel::FindingListModel(AppModel& app) : m_app(app)
@@ -18,6 +20,8 @@ void FindingListModel::followFindings()
 {
     std::vector<Row> rows;
     for (const Finding& finding : m_app.results()->findings()) {
+        if (!finding.isNotable())
+            continue;
         rows.push_back({finding.kind, finding.rating, finding.cleanable, finding.totalSize(),
                         static_cast<std::int64_t>(finding.items.size()),
                         m_app.results()->selectedSize(finding)});
@@ -28,10 +32,14 @@ void FindingListModel::followFindings()
 void FindingListModel::followSelection()
 {
     // The cards are hidden behind a sheet while entries, perhaps 100,000, are checked one by one.
-    if (WindowState::of(m_app).sheet() || m_rows.size() != m_app.results()->findings().size())
+    if (WindowState::of(m_app).sheet())
         return;
+    const auto& findings = m_app.results()->findings();
     for (std::size_t at = 0; at < m_rows.size(); ++at) {
-        const std::int64_t size = m_app.results()->selectedSize(m_app.results()->findings()[at]);
+        const auto finding = std::ranges::find(findings, m_rows[at].kind, &Finding::kind);
+        if (finding == findings.end())
+            continue;
+        const std::int64_t size = m_app.results()->selectedSize(*finding);
         if (m_rows[at].selectedSize == size)
             continue;
         m_rows[at].selectedSize = size;

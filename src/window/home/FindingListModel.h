@@ -9,8 +9,8 @@
 
 namespace orlen {
 
-/// The findings of the last scan as cards, in display order. A clean-up changes only the rows of the findings
-/// it touches. While a sheet covers the cards, their selection is not updated. Main thread.
+/// The notable findings of the last scan as cards, in display order. A clean-up changes only the rows of the
+/// findings it touches. While a sheet covers the cards, their selection is not updated. Main thread.
 class FindingListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -30,8 +30,6 @@ public:
     Q_ENUM(Role)
 
     explicit FindingListModel(AppModel& app = AppModelElement::model());
-
-Q_SIGNALS:
 
 private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }

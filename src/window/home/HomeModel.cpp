@@ -32,6 +32,11 @@ HomeModel::HomeModel(AppModel& app) : m_app(app)
     countSelection();
 }
 
+bool HomeModel::hasFindings() const
+{
+    return std::ranges::any_of(m_app.results()->findings(), &Finding::isNotable);
+}
+
 void HomeModel::countResults()
 {
     m_safeBytes = m_app.results()->safeBytes();

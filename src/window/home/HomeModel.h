@@ -16,7 +16,7 @@ class HomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged)
-    /// Whether there are findings from the last scan.
+    /// Whether there are notable findings from the last scan.
     Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY resultsChanged)
     Q_PROPERTY(bool hasSafe READ hasSafe NOTIFY resultsChanged)
     /// Size of everything rated Safe, and of everything that can be cleaned.
@@ -45,7 +45,7 @@ public:
     explicit HomeModel(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] Phase phase() const { return static_cast<Phase>(m_app.results()->phase()); }
-    [[nodiscard]] bool hasFindings() const { return !m_app.results()->findings().empty(); }
+    [[nodiscard]] bool hasFindings() const;
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
     [[nodiscard]] QString safeText() const { return DisplayText::size(m_safeBytes); }
     [[nodiscard]] QString totalText() const { return DisplayText::size(m_totalBytes); }

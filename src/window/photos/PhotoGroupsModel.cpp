@@ -121,14 +121,17 @@ void PhotoGroupsModel::toggleAll(const QString& findingId)
     const Row* wanted = rowOf(findingId);
     if (wanted == nullptr)
         return;
-    std::vector<std::string> paths;
-    paths.reserve(wanted->finding.items.size());
-    for (const FileEntry& entry : wanted->finding.items)
-        paths.push_back(entry.path);
-    if (checkStateOf(wanted->selected.count, paths.size()) == Qt::Checked)
-        m_app.results()->deselect(paths);
+    std::vector<std::string> all;
+    std::vector<std::string> missing;
+    for (const FileEntry& entry : wanted->finding.items) {
+        all.push_back(entry.path);
+        if (!entry.isTickedAlone && !m_app.results()->selection().contains(entry.path))
+            missing.push_back(entry.path);
+    }
+    if (missing.empty())
+        m_app.results()->deselect(all);
     else
-        m_app.results()->select(paths);
+        m_app.results()->select(missing);
 }
 
 void PhotoGroupsModel::review()

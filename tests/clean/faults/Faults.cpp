@@ -58,12 +58,14 @@ Function* real(const char* name)
 // What the program calls, in the forms that the headers give these names with 64-bit offsets.
 extern "C" {
 
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define ORLEN_FAULT(name, parameters, arguments)                                                             \
     int name parameters                                                                                      \
     {                                                                                                        \
         static auto* const next = orlen::Faults::real<int parameters>(#name);                                \
         return orlen::Faults::fails() ? -1 : next arguments;                                                 \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 ORLEN_FAULT(mkdir, (const char* path, mode_t mode), (path, mode))
 ORLEN_FAULT(mkdirat, (int folder, const char* name, mode_t mode), (folder, name, mode))

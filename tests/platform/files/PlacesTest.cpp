@@ -169,9 +169,24 @@ TEST(PlacesTest, patternsStandForEveryFolderOfTheirWord)
     EXPECT_THAT(places.expand("/plain"), ElementsAre("/plain"));
     EXPECT_THAT(places.expand("{PICTURES}/x"), IsEmpty());
     EXPECT_THAT(places.expand("{UNKNOWN}/x"), IsEmpty());
+}
+
+TEST(PlacesTest, gameLibrariesBelowTheHomeFolderAreSteamFolders)
+{
+    const TempHome home;
+    home.file(".local/share/Steam/steamapps/libraryfolders.vdf",
+              "\"libraryfolders\"\n{\n\"0\"\n{\n\t\"path\"\t\t\"" + home.path(".local/share/Steam") +
+                  "\"\n}\n\"1\"\n{\n\t\"path\"\t\t\"" + home.path("Games/Library") +
+                  "/\"\n}\n\"2\" { \"path\" \"/mnt/games\" }\n\"3\" { \"path\" \"" + home.path() +
+                  "\" }\n\"path\" \"" + home.path("cut"));
+    home.folder(".steam/debian-installation");
+    home.link(".steam/steam", home.path(".local/share/Steam"));
+    const Places places = Places::fromEnvironment();
     EXPECT_THAT(places.expand("{STEAM}"),
-                ElementsAre("/h/.local/share/Steam", "/h/.var/app/com.valvesoftware.Steam/.local/share/Steam",
-                            "/h/snap/steam/common/.local/share/Steam"));
+                ElementsAre(home.path(".local/share/Steam"),
+                            home.path(".var/app/com.valvesoftware.Steam/.local/share/Steam"),
+                            home.path("snap/steam/common/.local/share/Steam"),
+                            home.path(".steam/debian-installation"), home.path("Games/Library")));
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace orlen {
 namespace {
@@ -340,6 +341,26 @@ TEST(DuplicatesTest, aStopInsideLongFilesIsFeltAtOnceAndLeavesNoSets)
         // The set that was complete before the stop is not reported either.
         EXPECT_THAT(result.sets, IsEmpty());
     }
+}
+
+TEST(DuplicatesTest, entriesTellWhenRemovingThemFreesLittleOrTouchesARepository)
+{
+    const TempHome home;
+    home.fileOfSize("a", 8192);
+    const std::string linked = home.fileOfSize("b/linked", 8192);
+    const std::string tracked = home.fileOfSize("b/tracked", 8192);
+    ASSERT_EQ(::link(linked.c_str(), home.path(".other-name").c_str()), 0);
+    std::vector<Cand> cands = candsOf({home.path("a"), linked, tracked});
+    cands[2].isInRepository = true;
+    const Finding finding = Duplicates::finding(Duplicates::find(cands, {}));
+    ASSERT_EQ(finding.items.size(), 2U);
+    EXPECT_EQ(finding.items[0].size, 8192);
+    EXPECT_EQ(finding.items[0].note, "Identical to a — Orlen keeps that copy · Part of a repository");
+    EXPECT_TRUE(finding.items[0].isTickedAlone);
+    EXPECT_EQ(finding.items[1].size, 0);
+    EXPECT_EQ(finding.items[1].note,
+              "Identical to a — Orlen keeps that copy · Frees nothing: the file has another name elsewhere");
+    EXPECT_FALSE(finding.items[1].isTickedAlone);
 }
 
 TEST(DuplicatesTest, theFindingListsAllCopiesButTheKeptOneAndNamesIt)

@@ -75,7 +75,8 @@ TEST_F(LocationScannersTest, entriesBelowTheMinimumOfTheirPlaceAreLeftOut)
     constexpr Case cases[] = {
         {FindingKind::caches, "home/Library/Caches", 24 * kBlock, 25 * kBlock, ""},
         {FindingKind::caches, "Library/Caches", 122 * kBlock, 123 * kBlock, "Shared cache"},
-        {FindingKind::caches, "home/.cache", 24 * kBlock, 25 * kBlock, ""},
+        {FindingKind::caches, "home/.cache", 24 * kBlock, 25 * kBlock,
+         "Orlen does not know this cache. Most can go; look inside first."},
         {FindingKind::logs, "home/Library/Logs", 2 * kBlock, 3 * kBlock, ""},
         {FindingKind::logs, "Library/Logs", 2 * kBlock, 3 * kBlock, "Shared log"},
         {FindingKind::iosBackups, "home/Library/Application Support/MobileSync/Backup", 0, kBlock, ""},
@@ -127,7 +128,8 @@ TEST_F(LocationScannersTest, singlePlacesCarryTheirNotesAndNeedContents)
         {FindingKind::npm, "Library/Caches/Yarn", "Yarn cache"},
         {FindingKind::npm, ".cache/yarn", "Yarn cache"},
         {FindingKind::npm, ".cache/node/corepack", "Corepack cache"},
-        {FindingKind::npm, ".local/share/pnpm/store", "pnpm store"},
+        {FindingKind::npm, ".local/share/pnpm/store",
+         "pnpm store · Projects link to these files; 'pnpm store prune' frees unused ones."},
         {FindingKind::pip, "Library/Caches/pip", "pip cache"},
         {FindingKind::pip, ".cache/pip", "pip cache"},
         {FindingKind::pip, ".cache/pypoetry/artifacts", "Poetry cache"},
@@ -273,6 +275,87 @@ TEST_F(LocationScannersTest, protectedPlacesAreNotListed)
     TempHome::setVariable("XDG_STATE_HOME", home.path(".cache/sub"));
     reload();
     EXPECT_THAT(names(FindingKind::caches), ElementsAre("home/Library/Caches/repository"));
+}
+
+TEST_F(LocationScannersTest, everySandboxHasACacheFolderOfItsOwn)
+{
+    home.fileOfSize(".var/app/org.x.App/cache/mozilla/a", 30 * kBlock);
+    home.fileOfSize(".var/app/org.x.App/cache/tmp/a", 30 * kBlock);
+    home.fileOfSize(".var/app/org.x.App/cache/yarn/a", 30 * kBlock);
+    home.fileOfSize("snap/app/42/.cache/unknown/a", 30 * kBlock);
+    home.fileOfSize("snap/app/41/.cache/older/a", 30 * kBlock);
+    home.link("snap/app/current", "42");
+    home.fileOfSize("snap/other/7/.cache/elsewhere/a", 30 * kBlock);
+    home.link("snap/other/current", "/etc");
+    const std::vector<FileEntry> entries = scan(FindingKind::caches);
+    ASSERT_THAT(names(FindingKind::caches), UnorderedElementsAre("home/.var/app/org.x.App/cache/mozilla",
+                                                                 "home/snap/app/42/.cache/unknown"));
+    for (const FileEntry& entry : entries) {
+        const bool isFlatpak = entry.path.ends_with("mozilla");
+        EXPECT_EQ(entry.rating, isFlatpak ? std::nullopt : std::optional(Rating::review));
+        EXPECT_EQ(entry.note, isFlatpak ? "Flatpak app org.x.App · Browser cache, rebuilt as you browse."
+                                        : "Snap app app · Orlen does not know this cache. Most can go; look "
+                                          "inside first.");
+    }
+    EXPECT_THAT(names(FindingKind::npm), ElementsAre("home/.var/app/org.x.App/cache/yarn"));
+}
+
+TEST_F(LocationScannersTest, applicationsWithWebViewsGiveUpTheirCachesOnly)
+{
+    for (const char* name : {"Cache/a", "GPUCache/a", "IndexedDB/a", "User/a", "Service Worker/ScriptCache/a",
+                             "Service Worker/Database/a", "Partitions/main/Code Cache/a"})
+        home.fileOfSize(std::string(".config/Chat/") + name, 30 * kBlock);
+    home.fileOfSize(".config/NoWebView/Cache/a", 30 * kBlock);
+    home.file(".config/Chat/Partitions/main/Preferences");
+    EXPECT_THAT(names(FindingKind::caches), ElementsAre("home/.config/Chat/Partitions/main/Code Cache"));
+    home.file(".config/Chat/Local State");
+    EXPECT_THAT(names(FindingKind::caches),
+                UnorderedElementsAre("home/.config/Chat/Cache", "home/.config/Chat/GPUCache",
+                                     "home/.config/Chat/Service Worker/ScriptCache",
+                                     "home/.config/Chat/Partitions/main/Code Cache"));
+    EXPECT_EQ(scan(FindingKind::caches).front().note, "Chat cache — quit the app first");
+}
+
+TEST_F(LocationScannersTest, contentsTellWhatANameCannot)
+{
+    const std::string backup = "Documents/" + std::string(40, 'a');
+    home.fileOfSize(backup + "/Manifest.db", 30 * kBlock);
+    EXPECT_THAT(names(FindingKind::iosBackups), IsEmpty());
+    home.file(backup + "/Manifest.plist");
+    EXPECT_THAT(names(FindingKind::iosBackups), ElementsAre("home/" + backup));
+
+    home.fileOfSize(".android/avd/Pixel.avd/userdata", 300 * kBlock);
+    home.fileOfSize(".android/avd/Running.avd/userdata", 300 * kBlock);
+    home.file(".android/avd/Running.avd/hardware-qemu.ini.lock");
+    EXPECT_THAT(names(FindingKind::simulators), ElementsAre("home/.android/avd/Pixel.avd"));
+
+    home.fileOfSize(".cache/pypoetry/virtualenvs/gone/a", 30 * kBlock);
+    home.file(".cache/pypoetry/virtualenvs/gone/pyvenv.cfg");
+    home.file(".cache/pypoetry/virtualenvs/gone/lib/python3.11/site-packages/x.pth", home.path("code/gone"));
+    home.fileOfSize(".local/share/virtualenvs/live/a", 30 * kBlock);
+    home.file(".local/share/virtualenvs/live/pyvenv.cfg");
+    home.file(".local/share/virtualenvs/live/.project", home.path("code/live"));
+    home.folder("code/live");
+    EXPECT_THAT(names(FindingKind::caches), ElementsAre("home/.cache/pypoetry/virtualenvs/gone"));
+
+    home.fileOfSize(".local/share/app/logs/a.log", 4 * kBlock);
+    home.fileOfSize(".local/share/mixed/logs/a.log", 4 * kBlock);
+    home.file(".local/share/mixed/logs/talk.txt");
+    home.fileOfSize("core.1234", 4 * kBlock);
+    home.file("core.99", "\x7F"
+                         "ELF" +
+                             std::string(16'384, 'x'));
+    EXPECT_THAT(names(FindingKind::logs), UnorderedElementsAre("home/.local/share/app/logs", "home/core.99"));
+}
+
+TEST_F(LocationScannersTest, runningProgramsAreToQuitFirst)
+{
+    home.fileOfSize(".cache/mozilla/a", 30 * kBlock);
+    const std::string process = home.outside("system/proc/4242");
+    home.folder(process);
+    home.link(process + "/exe", "/usr/lib/firefox/firefox");
+    EXPECT_EQ(scan(FindingKind::caches).front().note,
+              "Browser cache, rebuilt as you browse. · Quit firefox first");
 }
 
 TEST_F(LocationScannersTest, onlyLogsOfDisplayServersAreOffered)

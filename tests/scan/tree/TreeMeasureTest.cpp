@@ -7,6 +7,7 @@
 #include "scan/walk/Walk.h"
 #include "support/TempHome.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -68,9 +69,32 @@ TEST(TreeMeasureTest, answersForEveryKindOfPath)
     }
     const auto together = measureTrees(paths, {});
     for (std::size_t i = 0; i < paths.size(); ++i)
-        EXPECT_EQ(together[i], cases[i].bytes) << cases[i].name;
+        EXPECT_EQ(together[i], (TreeSize{cases[i].bytes, cases[i].bytes})) << cases[i].name;
     EXPECT_EQ(FS::allocatedSize(home.path("link")), blocksOf(home.path("link")));
     TempHome::setMode(home.path("denied"), 0700);
+}
+
+TEST(TreeMeasureTest, onlyFilesWithAllTheirNamesInATreeAreFreedWithIt)
+{
+    const TempHome home;
+    const auto link = [&](const char* from, const char* to) {
+        ASSERT_EQ(::link(home.path(from).c_str(), home.path(to).c_str()), 0);
+    };
+    home.fileOfSize("store/plain", 4096);
+    home.fileOfSize("store/inside", 8192);
+    home.fileOfSize("store/outside", 16'384);
+    home.fileOfSize("store/deep/three", 32'768);
+    home.folder("project");
+    link("store/inside", "store/deep/inside");
+    link("store/outside", "project/outside");
+    link("store/outside", "store/outside2");
+    link("store/deep/three", "store/three");
+    link("store/deep/three", "project/three");
+    const std::vector<std::string> paths{home.path("store"), home.path("project"), home.path("store/inside"),
+                                         home.path("store/plain")};
+    EXPECT_THAT(measureTrees(paths, {}), testing::ElementsAre(TreeSize{61'440, 12'288}, TreeSize{49'152, 0},
+                                                              TreeSize{8192, 0}, TreeSize{4096, 4096}));
+    EXPECT_EQ(FS::allocatedSize(home.path("store")), 61'440);
 }
 
 TEST(TreeMeasureTest, measuresAVeryDeepTreeWithBranchesAtEveryLevel)
@@ -139,12 +163,13 @@ TEST(TreeMeasureTest, measuresManyChildrenTogetherAndEachForItself)
 {
     const TempHome home;
     std::vector<std::string> paths;
-    std::vector<std::int64_t> expected;
+    std::vector<TreeSize> expected;
     for (int i = 0; i < 300; ++i) {
         const std::string name = "many/" + std::to_string(i);
         home.fileOfSize(name + "/f", 4096 * (1 + i % 3));
         paths.push_back(home.path(name));
-        expected.push_back(blocksOf(home.path(name + "/f")));
+        const std::int64_t bytes = blocksOf(home.path(name + "/f"));
+        expected.push_back({bytes, bytes});
     }
     EXPECT_EQ(measureTrees(paths, {}), expected);
 }
@@ -172,7 +197,7 @@ TEST(TreeMeasureTest, manyMeasurementsAtOnceDoNotDisturbEachOther)
                 const auto priority =
                     i % 2 == 0 ? DiskWorkers::Priority::user : DiskWorkers::Priority::utility;
                 const std::string path = home.path("r");
-                if (measureTrees(std::span(&path, 1), {}, priority).front() != 400 * 4096)
+                if (measureTrees(std::span(&path, 1), {}, priority).front().held != 400 * 4096)
                     ++wrong;
             }
         });

@@ -167,8 +167,8 @@ TEST_F(WalkTest, taggedCachesAreOfferedWholeForReview)
     home.fileOfSize("linked/x", kJustCand);
     const auto found = walk();
     EXPECT_THAT(names(found.cands), ElementsAre("forged/x", "linked/x"));
-    ASSERT_EQ(found.taggedCaches.size(), 1);
-    const FileEntry& entry = found.taggedCaches.front();
+    ASSERT_EQ(found.caches.size(), 1);
+    const FileEntry& entry = found.caches.front();
     EXPECT_EQ(entry.path, home.path("p/target"));
     EXPECT_EQ(entry.size, kJustCand + 4096);
     EXPECT_EQ(entry.rating, Rating::review);
@@ -197,10 +197,84 @@ TEST_F(WalkTest, taggedFoldersInUseAreLeftAloneAndLargeFilesInAnyStayVisible)
     const auto found = Walk::home(progress, {}, {.largeBytes = 2 * kJustCand});
     EXPECT_THAT(names(found.cands), ElementsAre("elsewhere", "repo/x"));
     EXPECT_THAT(names(found.largeInCaches), ElementsAre("locked/x", "machines/a/disk.img"));
-    ASSERT_EQ(found.taggedCaches.size(), 2U) << "neither what is in use nor what cannot be moved";
-    EXPECT_EQ(found.taggedCaches[0].path, home.path("machines"));
-    EXPECT_GT(found.taggedCaches[0].size, 12 * kJustCand) << "all of it";
-    EXPECT_EQ(found.taggedCaches[1].path, home.path("linked"));
+    ASSERT_EQ(found.caches.size(), 1U) << "neither what is in use, cannot be moved nor would free nothing";
+    EXPECT_EQ(found.caches[0].path, home.path("machines"));
+    EXPECT_GT(found.caches[0].size, 12 * kJustCand) << "all of it";
+}
+
+TEST_F(WalkTest, hiddenCachesAreCollectedWhenTheyOrTheirProjectSaySo)
+{
+    const std::string tag = "Signature: 8a477f597d28d172789f06886806bc55";
+    for (const char* folder : {"a/.mypy_cache", "a/.tox", "b/.tox", "c/.nox", "d/.terragrunt-cache", "e/.nox",
+                               "f/.ruff_cache", "g/.pytest_cache", "h/.tox"})
+        home.fileOfSize(folder + std::string("/x"), kJustCand);
+    home.file("a/.mypy_cache/CACHEDIR.TAG", tag);
+    home.file("a/pyproject.toml");
+    home.file("b/tox.ini");
+    home.file("c/noxfile.py");
+    home.file("d/terragrunt.hcl");
+    home.file("e/tox.ini");
+    home.file("f/.ruff_cache/CACHEDIR.TAG", "Signature: 0");
+    home.file("g/.pytest_cache/CACHEDIR.TAG", tag);
+    home.folder("g/.pytest_cache/.git");
+    home.link("i/.mypy_cache", home.path("a/.mypy_cache"));
+    std::vector<std::pair<std::string, std::string>> caches;
+    for (const FileEntry& entry : walk().caches) {
+        EXPECT_EQ(entry.rating, Rating::review);
+        caches.emplace_back(entry.path.substr(home.path().size() + 1), entry.note.value_or(""));
+    }
+    const std::string again = "Downloaded or built again";
+    EXPECT_THAT(caches, testing::UnorderedElementsAre(std::pair("a/.mypy_cache", "Marked as a cache"),
+                                                      std::pair("a/.tox", again), std::pair("b/.tox", again),
+                                                      std::pair("c/.nox", again),
+                                                      std::pair("d/.terragrunt-cache", again)));
+}
+
+TEST_F(WalkTest, cachesOfProjectsAreCollectedAndNotWalked)
+{
+    const char* const caches[] = {"Videos/CacheClip", "Videos/film/ProxyMedia",  "game/.godot",
+                                  "town/Library",     "unreal/DerivedDataCache", "unreal/Intermediate"};
+    const char* const walked[] = {"Videos/film/cut/ProxyMedia", "elsewhere/CacheClip", "other/Intermediate",
+                                  "other/Library", "unity/Library"};
+    for (const char* folder : caches)
+        home.fileOfSize(folder + std::string("/x"), kJustCand);
+    for (const char* folder : walked)
+        home.fileOfSize(folder + std::string("/x"), kJustCand);
+    home.file("game/project.godot");
+    home.file("town/ProjectSettings/ProjectVersion.txt");
+    home.file("unreal/Town.uproject");
+    home.file("other/uproject");
+    home.file("unity/ProjectSettings/ProjectVersion.txt");
+    home.folder("unity/Library/.git");
+    Safety::refresh();
+    const auto found = Walk::home(progress, {}, {.largeBytes = kJustCand});
+    std::vector<std::string> collected;
+    for (const FileEntry& entry : found.caches)
+        collected.push_back(entry.path.substr(home.path().size() + 1));
+    EXPECT_THAT(collected, testing::UnorderedElementsAreArray(caches));
+    std::vector<std::string> expected;
+    for (const char* folder : walked)
+        expected.push_back(folder + std::string("/x"));
+    EXPECT_THAT(names(found.cands), testing::UnorderedElementsAreArray(expected));
+    EXPECT_EQ(found.largeInCaches.size(), std::size(caches)) << "large files stay visible";
+}
+
+TEST_F(WalkTest, filesOfRepositoriesAreMarkedButNotThoseOfARepositoryOfTheHomeFolder)
+{
+    home.folder(".git");
+    home.folder("src/p/.git");
+    home.file("src/linked/.git", "gitdir: elsewhere");
+    for (const char* name : {"src/p/deep/x", "src/linked/x", "src/p-x", "loose"})
+        home.fileOfSize(name, kJustCand);
+    std::vector<std::string> marked;
+    for (const Cand& cand : walk().cands) {
+        if (cand.isInRepository)
+            marked.push_back(cand.path);
+    }
+    EXPECT_THAT(marked, ElementsAre(home.path("src/linked/x"), home.path("src/p/deep/x")));
+    const auto inside = Walk::folders({home.path("src/p/deep")}, progress, {});
+    ASSERT_EQ(inside.cands.size(), 1U);
+    EXPECT_TRUE(inside.cands.front().isInRepository) << "the repository begins above";
 }
 
 TEST_F(WalkTest, givenFoldersAreWalkedWithoutTheTopLevelRules)

@@ -36,7 +36,7 @@ struct AppHome : TempHome {
 
     std::string executable(std::string_view name) const
     {
-        const std::string path = file(name);
+        std::string path = file(name);
         setMode(path, 0755);
         return path;
     }

@@ -17,8 +17,6 @@ namespace orlen {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr std::int64_t kKibibyte = 1024;
 

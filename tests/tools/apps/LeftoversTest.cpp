@@ -16,7 +16,6 @@ using testing::ElementsAre;
 using testing::Eq;
 using testing::IsEmpty;
 using testing::Optional;
-using testing::UnorderedElementsAre;
 
 std::vector<std::string> paths(const std::vector<FileEntry>& entries)
 {

@@ -7,8 +7,8 @@
 #include "platform/mac/BundleInfo.h"
 #include "platform/text/PathText.h"
 #include "scan/FS.h"
+#include "scan/locations/KeptLanguages.h"
 
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -16,35 +16,19 @@ namespace orlen::LanguagePacks {
 
 namespace {
 
-using Codes = std::set<std::string, std::less<>>;
-
-/// "pt" for "pt-BR", "pt_BR" and "PT".
-std::string codeOf(std::string_view language)
-{
-    return PathText::asciiLower(language.substr(0, language.find_first_of("-_")));
-}
-
-Codes keptCodes()
-{
-    Codes codes{"en", "base"};
-    for (const std::string& language : Places::current().languages)
-        codes.insert(codeOf(language));
-    return codes;
-}
-
 bool isExaminable(const std::string& bundle)
 {
     return isWritable(bundle) && !BundleInfo::identifier(bundle).starts_with("com.apple.");
 }
 
-std::vector<std::string> translationsIn(const std::string& bundle, const Codes& kept)
+std::vector<std::string> translationsIn(const std::string& bundle)
 {
     constexpr std::string_view kSuffix = ".lproj";
     std::vector<std::string> paths;
     const std::string resources = bundle + "/Contents/Resources";
     for (const std::string& name : listNames(resources + "/.")) {
         if (!name.ends_with(kSuffix) ||
-            kept.contains(codeOf(std::string_view(name).substr(0, name.size() - kSuffix.size()))))
+            KeptLanguages::contains(std::string_view(name).substr(0, name.size() - kSuffix.size())))
             continue;
         std::string path = PathText::join(resources, name);
         if (isRealFolder(path) && PathText::isValidUtf8(path) && !Safety::isProtected(path))
@@ -60,7 +44,6 @@ std::vector<FileEntry> entries(UnreadableFolders* unreadable, const std::stop_to
     const Places& places = Places::current();
     if (!places.isHomeUsable)
         return {};
-    const Codes kept = keptCodes();
     std::vector<std::string> paths;
     for (const std::string& name : listNames(places.applications + "/.")) {
         if (stop.stop_requested())
@@ -68,7 +51,7 @@ std::vector<FileEntry> entries(UnreadableFolders* unreadable, const std::stop_to
         const std::string bundle = PathText::join(places.applications, name);
         if (!name.ends_with(".app") || !isExaminable(bundle))
             continue;
-        for (std::string& path : translationsIn(bundle, kept))
+        for (std::string& path : translationsIn(bundle))
             paths.push_back(std::move(path));
     }
     std::vector<FileEntry> found = FS::entries(paths, {}, stop, unreadable);

@@ -6,14 +6,23 @@
 #include <cstdint>
 #include <stop_token>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orlen {
 
 class UnreadableFolders;
 
-/// Folders tagged as caches: programs tag what they can recreate, and people what they keep out of backups.
-namespace TaggedCaches {
+/// The caches that a walk meets: folders tagged as such, and the caches of projects. Programs tag what they
+/// can recreate, and people what they keep out of backups.
+namespace WalkedCaches {
+
+inline constexpr std::string_view kTagged = "Marked as a cache";
+
+struct Folder {
+    std::string path;
+    std::string_view note; ///< for its entry
+};
 
 struct Found {
     /// Folders of at least 1,000,000 bytes that may be moved, largest first, at most 600, rated `review`.
@@ -25,8 +34,8 @@ struct Found {
 
 /// Measures the folders and finds their large files in one pass. Blocks on the disk. If stopped, returns what
 /// it has. `unreadable`, if not null, collects folders that could not be read.
-[[nodiscard]] Found measure(const std::vector<std::string>& folders, std::int64_t largeBytes,
+[[nodiscard]] Found measure(const std::vector<Folder>& folders, std::int64_t largeBytes,
                             UnreadableFolders* unreadable, const std::stop_token& stop);
 
-} // namespace TaggedCaches
+} // namespace WalkedCaches
 } // namespace orlen

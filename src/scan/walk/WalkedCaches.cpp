@@ -1,27 +1,25 @@
-#include "scan/walk/TaggedCaches.h"
+#include "scan/walk/WalkedCaches.h"
 
 #include "clean/Safety.h"
 #include "platform/text/PathText.h"
-#include "platform/values/CheckedSum.h"
+#include "scan/FS.h"
 #include "scan/tree/CurrentMounts.h"
-#include "scan/tree/TreeMeasure.h"
 #include "scan/tree/TreeScan.h"
+#include "scan/tree/TreeSum.h"
 #include "scan/walk/WalkRules.h"
 
 #include <algorithm>
-#include <atomic>
 #include <functional>
 #include <mutex>
 #include <unordered_map>
 #include <unordered_set>
 
-namespace orlen::TaggedCaches {
+namespace orlen::WalkedCaches {
 
 namespace {
 
 constexpr std::int64_t kSmallest = 1'000'000;
 constexpr std::size_t kLimit = 600;
-constexpr std::string_view kNote = "Marked as a cache";
 
 /// Adds up all files and collects the large ones, except where a walk would skip by name.
 class Visitor : public TreeVisitor {
@@ -29,10 +27,10 @@ public:
     struct Large {
         Cand cand;
         FileIdentity identity;
-        std::string folder; ///< the tagged folder
+        std::string folder; ///< the cache
     };
 
-    Visitor(const std::vector<std::string>& folders, std::int64_t largeBytes)
+    Visitor(const std::vector<Folder>& folders, std::int64_t largeBytes)
         : m_folders(folders), m_largeBytes(largeBytes), m_sums(folders.size())
     {
     }
@@ -46,31 +44,29 @@ public:
     void files(const TreeFolder& folder, std::span<const TreeFile> files) override
     {
         const std::size_t root = folder.tag() & ~kLeftOut;
-        std::int64_t bytes = 0;
+        m_sums[root].add(files);
         for (const TreeFile& file : files) {
-            bytes = checkedAdd(bytes, file.status.allocatedBytes);
             if (file.status.allocatedBytes < m_largeBytes || (folder.tag() & kLeftOut) != 0 ||
                 file.name[0] == '.' || !folder.canName(file.name))
                 continue;
             Cand cand{folder.pathOf(file.name), file.status.allocatedBytes, file.status.modified,
-                      FileStamp::of(file.status)};
+                      FileStamp::of(file.status), file.status.links > 1};
             if (!PathText::isValidUtf8(cand.path) || Safety::isProtected(cand.path))
                 continue;
             const std::lock_guard lock(m_lock);
-            m_large.push_back({std::move(cand), file.status.identity, m_folders[root]});
+            m_large.push_back({std::move(cand), file.status.identity, m_folders[root].path});
         }
-        addTo(m_sums[root], bytes);
     }
 
-    [[nodiscard]] std::int64_t bytes(std::size_t root) const { return m_sums[root].load(); }
+    [[nodiscard]] TreeSize size(std::size_t root) const { return m_sums[root].size(); }
     [[nodiscard]] std::vector<Large> takeLarge() { return std::move(m_large); }
 
 private:
     static constexpr std::uint32_t kLeftOut = 1U << 31U;
 
-    const std::vector<std::string>& m_folders;
+    const std::vector<Folder>& m_folders;
     const std::int64_t m_largeBytes;
-    std::vector<std::atomic<std::int64_t>> m_sums;
+    std::vector<TreeSum> m_sums;
     std::mutex m_lock;
     std::vector<Large> m_large;
 };
@@ -78,7 +74,7 @@ private:
 /// Knows which folders a walk would have skipped for their contents. Few large files lie in few folders.
 class Natures {
 public:
-    /// Whether any folder from the file's own up to the tagged one is a single unit to its user.
+    /// Whether any folder from the file's own up to the cache is a single unit to its user.
     bool areLeftOutBetween(std::string_view folder, std::string_view file)
     {
         for (std::string_view at = PathText::parent(file); at.size() > folder.size();
@@ -123,20 +119,22 @@ bool mayBeOffered(const std::string& folder)
     return PathText::isValidUtf8(folder) && !Safety::isProtected(folder) && isDeletable(folder);
 }
 
-std::vector<FileEntry> entriesOf(const std::vector<std::string>& folders, const Visitor& visitor)
+std::vector<FileEntry> entriesOf(const std::vector<Folder>& folders, const Visitor& visitor)
 {
     std::vector<FileEntry> entries;
     for (std::size_t i = 0; i < folders.size(); ++i) {
-        const auto status = statusOf(folders[i]);
-        if (visitor.bytes(i) < kSmallest || !status.ok() || !mayBeOffered(folders[i]))
+        const auto& [path, note] = folders[i];
+        const TreeSize size = visitor.size(i);
+        const auto status = statusOf(path);
+        if (size.freed < kSmallest || !status.ok() || !mayBeOffered(path))
             continue;
         FileEntry& entry = entries.emplace_back();
-        entry.path = folders[i];
-        entry.size = visitor.bytes(i);
+        entry.path = path;
         entry.modified = status.value().modified;
         entry.stamp = FileStamp::of(status.value());
         entry.rating = Rating::review;
-        addNote(entry, kNote);
+        addNote(entry, note);
+        FS::setSize(entry, size);
     }
     std::ranges::stable_sort(entries, std::ranges::greater(), &FileEntry::size);
     if (entries.size() > kLimit)
@@ -146,13 +144,13 @@ std::vector<FileEntry> entriesOf(const std::vector<std::string>& folders, const 
 
 } // namespace
 
-Found measure(const std::vector<std::string>& folders, std::int64_t largeBytes, UnreadableFolders* unreadable,
+Found measure(const std::vector<Folder>& folders, std::int64_t largeBytes, UnreadableFolders* unreadable,
               const std::stop_token& stop)
 {
     Visitor visitor(folders, largeBytes);
     std::vector<TreeRoot> roots;
     for (std::size_t i = 0; i < folders.size(); ++i)
-        roots.push_back({folders[i], static_cast<std::uint32_t>(i)});
+        roots.push_back({folders[i].path, static_cast<std::uint32_t>(i)});
     TreeScanOptions options;
     options.crossing = Crossing::localDisks;
     options.unreadable = unreadable;
@@ -160,4 +158,4 @@ Found measure(const std::vector<std::string>& folders, std::int64_t largeBytes, 
     return {entriesOf(folders, visitor), walkable(visitor.takeLarge())};
 }
 
-} // namespace orlen::TaggedCaches
+} // namespace orlen::WalkedCaches

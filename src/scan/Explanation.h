@@ -1,0 +1,29 @@
+#pragma once
+
+#include "clean/Protection.h"
+#include "model/Finding.h"
+
+#include <cstdint>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+namespace orlen {
+
+/// What this program would do with one path, and why.
+struct Explanation {
+    std::string path;
+    bool exists = false;
+    std::int64_t size = 0; ///< allocated bytes of the path and what is below it; 0 if it is missing
+    Protection protection = Protection::none;
+    /// Rated findings of one entry each: the path itself, or what contains it and would move with it.
+    /// Duplicates and photos are not among them: whether a file is one, only a whole scan knows.
+    std::vector<Finding> findings;
+};
+
+/// `path` is in the form all rules compare. A file of at least `largeThreshold` bytes is a large one. Blocks
+/// on the disk; any thread.
+[[nodiscard]] Explanation explain(const std::string& path, std::int64_t largeThreshold,
+                                  const std::stop_token& stop = {});
+
+} // namespace orlen
