@@ -82,7 +82,7 @@ private:
         return search;
     }
 
-    [[nodiscard]] nlohmann::json document(const Search& found) const override
+    [[nodiscard]] JsonDocuments::Json document(const Search& found) const override
     {
         return JsonDocuments::duplicates(rated(found.result), found.result, found.duration);
     }

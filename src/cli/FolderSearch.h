@@ -4,6 +4,7 @@
 #include "clean/Safety.h"
 #include "cli/Background.h"
 #include "cli/Command.h"
+#include "cli/JsonDocuments.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/Walk.h"
 
@@ -69,7 +70,7 @@ private:
     /// Runs on a worker.
     [[nodiscard]] virtual Found search(const std::vector<std::string>& folders, ScanProgress& progress,
                                        const std::stop_token& stop) = 0;
-    [[nodiscard]] virtual nlohmann::json document(const Found& found) const = 0;
+    [[nodiscard]] virtual JsonDocuments::Json document(const Found& found) const = 0;
     virtual void print(const Found& found) const = 0;
     /// What is said after the result.
     [[nodiscard]] virtual ExitStatus ended(Session& /*session*/) const { return ExitStatus::done; }

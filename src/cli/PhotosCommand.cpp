@@ -78,7 +78,7 @@ private:
         return search;
     }
 
-    [[nodiscard]] nlohmann::json document(const PhotoSearch& found) const override
+    [[nodiscard]] JsonDocuments::Json document(const PhotoSearch& found) const override
     {
         return JsonDocuments::photos(found.findings, found.photos, found.duration);
     }

@@ -131,7 +131,7 @@ TEST(AppModelTest, aScanSortsItsFindingsAndSelectsTheSafeEntries)
         kinds(model.results()->findings()),
         ElementsAre(FindingKind::caches, FindingKind::logs, FindingKind::trash, FindingKind::oldDownloads));
     EXPECT_THAT(model.results()->selection(),
-                ElementsAre(home.path(".cache/mozilla"), home.path(".cache/chromium"),
+                ElementsAre(home.path(".cache/chromium"), home.path(".cache/mozilla"),
                             home.path(".xsession-errors")));
     const std::int64_t safe = (400 + 800 + 64) * kKiB;
     EXPECT_EQ(model.results()->safeBytes(), safe);

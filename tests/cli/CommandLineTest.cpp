@@ -137,7 +137,7 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
     EXPECT_EQ(scan["findings"][0]["kind"], "caches");
     EXPECT_EQ(scan["findings"][0]["items"][0]["path"], home.path(".cache/mozilla"));
     EXPECT_EQ(scan["findings"][0]["items"][0]["size"], 800 * kKiB);
-    EXPECT_EQ(scan["selection"], Json({home.path(".cache/mozilla"), home.path(".cache/chromium"),
+    EXPECT_EQ(scan["selection"], Json({home.path(".cache/chromium"), home.path(".cache/mozilla"),
                                        home.path(".xsession-errors")}));
     EXPECT_EQ(scan["safeBytes"], (800 + 400 + 64) * kKiB);
     EXPECT_EQ(scan["steps"].size(), 10U);

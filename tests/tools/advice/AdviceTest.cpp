@@ -234,7 +234,8 @@ TEST(AdviceTest, logsAndJournalCountApart)
     machine.filler("var/log/journal/id/system.journal", 300 * kMiB);
     machine.filler("var/log/journal/id/system.gz");
     EXPECT_EQ(Machine::named("rotated-logs").size, 2 * kLarge);
-    EXPECT_EQ(Machine::named("journal").size, 304 * kMiB);
+    // A large file may need a block or two of its own for where its parts lie.
+    EXPECT_NEAR(static_cast<double>(Machine::named("journal").size), 304.0 * kMiB, 0.1 * kMiB);
 }
 
 TEST(AdviceTest, onlyOldTemporaryFilesCount)

@@ -132,6 +132,7 @@ std::vector<SourceRow> safe()
                                                      "gegl-*",
                                                      "babl",
                                                      "GIMP",
+                                                     "gimp",
                                                      "blender",
                                                      "darktable",
                                                      "rawtherapee",
