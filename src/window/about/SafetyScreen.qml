@@ -17,4 +17,8 @@ ScreenPage {
         tones: Theme.safetyTones
         beside: true
     }
+
+    ProtectionCard {
+        width: root.contentWidth
+    }
 }

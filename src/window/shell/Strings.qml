@@ -205,6 +205,7 @@ QtObject {
 
     // How Orlen Works
     readonly property string safetyLead: "What it does, what it never does, and how far to trust it."
+    readonly property string alwaysLeftAlone: "Always left alone"
     readonly property var safetySections: [
         { symbol: "lock.fill", title: "Private by design", body: "Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time." },
         { symbol: "trash.fill", title: "Nothing is permanently deleted", body: "Orlen never deletes anything permanently. It uses the system's Move to Trash, shows you the full list with checkboxes and Quick Look first, and records each clean-up in History so you can restore it." },
