@@ -3,6 +3,7 @@
 #include "platform/text/PathText.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/photos/KeeperChoice.h"
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PhotoGroups.h"
 #include "scan/photos/PhotoRules.h"
@@ -21,7 +22,8 @@ constexpr float kLeastConfidence = 0.15F;
 
 PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
 {
-    PhotoInfo photo{cand, analysis.print, analysis.sharpness, {}, analysis.width, analysis.height};
+    PhotoInfo photo{cand,           analysis.print,  analysis.sharpness, {},
+                    analysis.width, analysis.height, analysis.traits};
     for (const ImageLabel& label : analysis.labels) {
         if (label.confidence > kLeastConfidence)
             photo.labels.push_back({PathText::asciiLower(label.identifier), label.confidence});
@@ -29,9 +31,13 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
     return photo;
 }
 
-std::string similarNote(const PhotoInfo& keeper)
+std::string similarNote(const PhotoInfo& photo, const PhotoInfo& keeper)
 {
-    return "Similar to " + std::string(PathText::lastComponent(keeper.cand.path)) + " — keeping the sharpest";
+    std::string note = "Similar to ";
+    note += PathText::lastComponent(keeper.cand.path);
+    note += " — keeping the sharpest · ";
+    note += KeeperChoice::reason(photo, keeper);
+    return note;
 }
 
 } // namespace
@@ -76,9 +82,10 @@ std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photo
     for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
         for (const std::size_t other : group.others) {
             isListed[other] = true;
+            const PhotoInfo& keeper = photos[group.keeper];
             FileEntry& similar = entries.front().emplace_back(
-                toEntryByContent(photos[other].cand, similarNote(photos[group.keeper])));
-            similar.kept = toKept(photos[group.keeper].cand);
+                toEntryByContent(photos[other].cand, similarNote(photos[other], keeper)));
+            similar.kept = toKept(keeper.cand);
         }
     }
     for (std::size_t i = 0; i < photos.size(); ++i) {

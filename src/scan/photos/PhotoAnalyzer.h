@@ -24,6 +24,7 @@ struct PhotoInfo {
         labels;     ///< lower-cased, with a confidence above 0.15, in the order of the recogniser
     int width = 0;  ///< pixels of the whole picture; 0 when unknown
     int height = 0; ///< as width
+    PictureTraits traits;
 };
 
 /// Turns image files into findings: near-duplicates, screenshots, receipts, memes and blurry photos.
