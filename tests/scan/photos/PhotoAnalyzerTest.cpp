@@ -313,19 +313,20 @@ TEST(PhotoAnalyzerTest, whatCannotBeReadIsLeftOutAndTheOthersKeepTheirOrder)
             return std::nullopt;
         return ImageAnalysis{640, 480, {}, 50, {{"MEME", 0.9F}, {"Floor", 0.15F}, {"Above", 0.151F}}};
     });
-    const auto photos = analyzer.analyze(images);
+    const auto [photos, coverage] = analyzer.analyze(images);
     ASSERT_EQ(photos.size(), 180U);
+    EXPECT_EQ(coverage, (PhotoCoverage{200, 200}));
     EXPECT_EQ(progress.files(), 200);
     for (std::size_t i = 1; i < photos.size(); ++i)
         ASSERT_LT(photos[i - 1].cand.path, photos[i].cand.path);
     EXPECT_THAT(photos[0].labels, ElementsAre(ImageLabel{"meme", 0.9F}, ImageLabel{"above", 0.151F}));
     EXPECT_EQ(photos[0].width, 640);
 
-    const auto findings = analyzer.run(images);
+    const auto findings = analyzer.run(images).findings;
     ASSERT_EQ(findings.size(), 5U);
     EXPECT_EQ(findings[3].kind, FindingKind::memes);
     EXPECT_EQ(findings[3].items.size(), 180U);
-    EXPECT_THAT(analyzer.run({}), IsEmpty());
+    EXPECT_THAT(analyzer.run({}).findings, IsEmpty());
 }
 
 TEST(PhotoAnalyzerTest, aCancelledScanLooksAtNothingMore)
@@ -339,11 +340,11 @@ TEST(PhotoAnalyzerTest, aCancelledScanLooksAtNothingMore)
             flag.cancel();
         return ImageAnalysis{640, 480};
     });
-    const auto photos = analyzer.analyze(images);
+    const auto photos = analyzer.analyze(images).photos;
     EXPECT_EQ(photos.size(), static_cast<std::size_t>(looked));
     EXPECT_EQ(progress.files(), looked);
     EXPECT_LT(looked, 500);
-    EXPECT_EQ(analyzer.run(images).size(), 5U);
+    EXPECT_EQ(analyzer.run(images).findings.size(), 5U);
 }
 
 } // namespace orlen
