@@ -81,7 +81,7 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
         ++decodedCount;
         const auto start = std::chrono::steady_clock::now();
         const Labels labels =
-            ImageClassifier::labels(decoded->small, {.isFromCamera = decoded->isFromCamera});
+            ImageClassifier::labels(decoded->small, {.isFromCamera = decoded->traits.isFromCamera});
         seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         const std::string finding =
             findingOf(labels, Sharpness::laplacianVariance(decoded->small), decoded->width);

@@ -10,6 +10,7 @@
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 #include "scan/photos/PhotoAnalyzer.h"
+#include "scan/photos/PictureMemory.h"
 #include "scan/walk/Walk.h"
 
 #include <limits>
@@ -69,9 +70,11 @@ private:
         const std::stop_callback cancel(stop, [&] { flag.cancel(); });
         const Walk::Found found = FolderSearch::walked(folders, progress, stop);
         ImageWorkers workers({});
+        PictureMemory memory;
         const PhotoAnalyzer analyzer(
-            progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
-        PhotoSearch search{analyzer.analyze(found.images)};
+            progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); },
+            &memory);
+        PhotoSearch search{analyzer.analyze(found.images).photos};
         if (!stop.stop_requested())
             search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
         search.duration = std::chrono::steady_clock::now() - started;

@@ -238,7 +238,9 @@ std::optional<Picture> read(const ByteSource& source, const PictureBound& bound)
         readPlain(*header, source, rows);
     if (header->height - rows.added() > ImageLimits::kLargestMissingShare * header->height)
         return std::nullopt;
-    return Picture{header->width, header->height, shrinker.image()};
+    constexpr int kMostPaletteBits = 8;
+    return Picture{header->width, header->height, shrinker.image(), rows.isComplete(),
+                   header->bits <= kMostPaletteBits};
 }
 
 } // namespace orlen::BmpReader

@@ -14,6 +14,8 @@ struct Picture {
     int width = 0;  ///< pixels of the whole picture
     int height = 0; ///< as width
     RgbImage small;
+    bool isComplete = true; ///< no row is missing
+    bool hasPalette = false;
 };
 
 /// The picture shrunk into the bound's box. Nothing if it is not such a file or too much of it is missing.

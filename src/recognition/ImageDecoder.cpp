@@ -11,6 +11,7 @@
 #include <limits>
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vips/vips.h>
 
 #if VIPS_MAJOR_VERSION == 8 && VIPS_MINOR_VERSION < 15
@@ -64,18 +65,6 @@ bool isBmp(const Start& start)
     return start[0] == 'B' && start[1] == 'M';
 }
 
-std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound, PictureUse use)
-{
-    auto picture = BmpReader::read(bytesOf(descriptor), bound);
-    if (!picture)
-        return std::nullopt;
-    Decoded decoded{picture->width, picture->height, false, false, std::move(picture->small), {}};
-    if (use == PictureUse::icon)
-        decoded.alpha.assign(decoded.small.pixels.size() / kColours,
-                             std::numeric_limits<std::uint8_t>::max());
-    return decoded;
-}
-
 /// Whether the picture's metadata has this field.
 bool tells(const Image& header, const char* name)
 {
@@ -95,11 +84,32 @@ bool isFromCamera(const Image& header)
            tells(header, "exif-ifd2-FocalLength");
 }
 
-bool isDrawnInLines(const Image& header)
+std::string_view loaderOf(const Image& header)
 {
     const char* loader = nullptr;
-    return vips_image_get_string(header.get(), VIPS_META_LOADER, &loader) == 0 &&
-           std::string_view(loader).starts_with("svg");
+    return vips_image_get_string(header.get(), VIPS_META_LOADER, &loader) == 0 ? loader : "";
+}
+
+bool isDrawnInLines(const Image& header)
+{
+    return loaderOf(header).starts_with("svg");
+}
+
+PictureTraits traitsOf(const Image& header)
+{
+    constexpr std::pair<std::string_view, PictureFormat> kLoaders[] = {
+        {"jpeg", PictureFormat::jpeg}, {"heif", PictureFormat::heif}, {"webp", PictureFormat::webp},
+        {"png", PictureFormat::png},   {"tiff", PictureFormat::tiff}, {"gif", PictureFormat::gif},
+    };
+    PictureTraits traits{.isFromCamera = isFromCamera(header)};
+    for (const auto& [loader, format] : kLoaders) {
+        if (loaderOf(header).starts_with(loader))
+            traits.format = format;
+    }
+    // The second is the name since libvips 8.15.
+    for (const char* field : {"palette-bit-depth", "palette"})
+        traits.hasPalette = traits.hasPalette || vips_image_get_typeof(header.get(), field) != 0;
+    return traits;
 }
 
 /// Any colour space and depth as 8-bit sRGB: a photo over white, an icon with its alpha.
@@ -168,26 +178,46 @@ bool lacksItsEnd(const Image& image)
 }
 
 /// Many damaged files are complete except for a few rows or spots, and deserve a second, lenient try.
-Image bestEffort(VipsSource* source, const Wanted& wanted)
+Image bestEffort(VipsSource* source, const Wanted& wanted, bool& isDamaged)
 {
     if (Image whole = shrunk(source, wanted, "[fail_on=truncated]"))
         return whole;
+    isDamaged = true;
     Image damaged = shrunk(source, wanted, "");
     return damaged && !lacksItsEnd(damaged) ? std::move(damaged) : nullptr;
+}
+
+/// Of an image in memory, in three bands.
+RgbImage pixelsOf(const Image& image)
+{
+    const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
+    return {vips_image_get_width(image.get()),
+            vips_image_get_height(image.get()),
+            {start, start + VIPS_IMAGE_SIZEOF_IMAGE(image.get())}};
+}
+
+/// Borrows the pixels.
+Image imageOf(const RgbImage& picture)
+{
+    const Image bare(vips_image_new_from_memory(picture.pixels.data(), picture.pixels.size(), picture.width,
+                                                picture.height, kColours, VIPS_FORMAT_UCHAR));
+    return applied(bare, [](VipsImage* in, VipsImage** out) {
+        return vips_copy(in, out, "interpretation", VIPS_INTERPRETATION_sRGB, nullptr);
+    });
 }
 
 /// The pixels, and their alpha if they have it.
 void store(Decoded& decoded, const Image& image)
 {
+    const int bands = vips_image_get_bands(image.get());
+    if (bands == kColours) {
+        decoded.small = pixelsOf(image);
+        return;
+    }
     const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
     const auto* const end = start + VIPS_IMAGE_SIZEOF_IMAGE(image.get());
     decoded.small = {vips_image_get_width(image.get()), vips_image_get_height(image.get()), {}};
     std::vector<std::uint8_t>& pixels = decoded.small.pixels;
-    const int bands = vips_image_get_bands(image.get());
-    if (bands == kColours) {
-        pixels.assign(start, end);
-        return;
-    }
     for (const std::uint8_t* pixel = start; pixel != end; pixel += bands) {
         pixels.insert(pixels.end(), pixel, pixel + kColours);
         decoded.alpha.push_back(pixel[kColours]);
@@ -209,6 +239,43 @@ void cutToMiddle(RgbImage& image, PixelSize size)
     image = std::move(middle);
 }
 
+/// Room for the filter that most formats are shrunk with. The mean over pixels, which the readers of BMP and
+/// WebP take, is softer: the same picture would look less sharp.
+PictureBound enlarged(const PictureBound& bound)
+{
+    constexpr int kFactor = 4;
+    constexpr int kLongest = 2048; // it has to fit into memory
+    const auto larger = [=](int side) { return std::max(side, std::min(side * kFactor, kLongest)); };
+    return {{larger(bound.size.width), larger(bound.size.height)}, bound.fit};
+}
+
+Image scaledDown(const Image& image, PixelSize box)
+{
+    const Image small = applied(image, [box](VipsImage* in, VipsImage** out) {
+        return vips_thumbnail_image(in, out, box.width, "height", box.height, "size", VIPS_SIZE_DOWN,
+                                    "no_rotate", TRUE, nullptr);
+    });
+    return small ? Image(vips_image_copy_memory(small.get())) : nullptr;
+}
+
+std::optional<Decoded> decodeBmp(int descriptor, const PictureBound& bound, PictureUse use)
+{
+    auto picture = BmpReader::read(bytesOf(descriptor), enlarged(bound));
+    if (!picture)
+        return std::nullopt;
+    Decoded decoded{.width = picture->width, .height = picture->height};
+    decoded.traits = {
+        .format = PictureFormat::bmp, .isDamaged = !picture->isComplete, .hasPalette = picture->hasPalette};
+    const Image small = scaledDown(imageOf(picture->small), bound.box({picture->width, picture->height}));
+    if (!small)
+        return std::nullopt;
+    decoded.small = pixelsOf(small);
+    if (use == PictureUse::icon)
+        decoded.alpha.assign(decoded.small.pixels.size() / kColours,
+                             std::numeric_limits<std::uint8_t>::max());
+    return decoded;
+}
+
 /// The size a picture is shrunk to in stored orientation.
 PixelSize boxOf(const Decoded& picture, const PictureBound& bound)
 {
@@ -227,12 +294,16 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
         decoded.width = vips_image_get_width(header.get());
         decoded.height = vips_image_get_height(header.get());
         decoded.isSideways = vips_image_get_orientation_swap(header.get()) != 0;
-        decoded.isFromCamera = isFromCamera(header);
+        decoded.traits = traitsOf(header);
         isDrawing = isDrawnInLines(header);
     }
     if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
         return std::nullopt;
-    const Image stored = bestEffort(source.get(), {boxOf(decoded, bound), use, isDrawing});
+    const bool isShrunkSoftly = decoded.traits.format == PictureFormat::webp;
+    const PixelSize box = boxOf(decoded, isShrunkSoftly ? enlarged(bound) : bound);
+    Image stored = bestEffort(source.get(), {box, use, isDrawing}, decoded.traits.isDamaged);
+    if (isShrunkSoftly)
+        stored = scaledDown(stored, boxOf(decoded, bound));
     Image upright =
         applied(stored, [](VipsImage* in, VipsImage** out) { return vips_autorot(in, out, nullptr); });
     if (upright)

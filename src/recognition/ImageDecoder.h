@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/PictureBound.h"
+#include "platform/images/PictureTraits.h"
 #include "platform/images/SmallPicture.h"
 
 #include <optional>
@@ -17,8 +18,8 @@ struct Decoded {
     int height = 0; ///< as width
     /// Whether it is stored sideways: upright, width and height are swapped.
     bool isSideways = false;
-    /// Whether the file names a camera or an exposure time.
-    bool isFromCamera = false;
+    /// As far as the file tells; the pixels tell the rest.
+    PictureTraits traits;
     /// Upright, the first frame, never enlarged unless it is vector graphics.
     RgbImage small;
     std::vector<std::uint8_t> alpha; ///< as in SmallPicture

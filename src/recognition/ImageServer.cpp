@@ -6,6 +6,7 @@
 #include "platform/process/ProcessLimits.h"
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
+#include "recognition/PlainPicture.h"
 #include "recognition/PrintMaker.h"
 #include "recognition/Sharpness.h"
 
@@ -49,10 +50,15 @@ std::optional<ImageAnalysis> analysis(int file)
         return std::nullopt;
     const RgbImage& thumbnail = decoded->small;
     ImageAnalysis analysis{decoded->width, decoded->height};
+    analysis.traits = decoded->traits;
+    analysis.traits.isGrey = PlainPicture::isGrey(thumbnail);
+    analysis.traits.isFlat = PlainPicture::isFlat(thumbnail);
     analysis.sharpness = Sharpness::laplacianVariance(thumbnail);
     try {
-        std::vector<ImageLabel> labels = ImageClassifier::labels(thumbnail, {decoded->isFromCamera});
-        analysis.print = PrintMaker::printOf(thumbnail);
+        std::vector<ImageLabel> labels = ImageClassifier::labels(thumbnail, {decoded->traits.isFromCamera});
+        // What a decoder fills in for missing rows would be compared as well.
+        if (!analysis.traits.isDamaged)
+            analysis.print = PrintMaker::printOf(thumbnail);
         analysis.labels = std::move(labels);
     } catch (const std::exception&) { // The libraries below throw when memory is short.
         return analysis;

@@ -8,7 +8,7 @@
 #include "scan/StepGroup.h"
 #include "scan/duplicates/Duplicates.h"
 #include "scan/locations/LocationScanners.h"
-#include "scan/photos/PhotoAnalyzer.h"
+#include "scan/photos/PictureMemory.h"
 #include "scan/walk/Walk.h"
 
 #include <algorithm>
@@ -39,16 +39,19 @@ Findings findDuplicates(const Walk::Found& found, const std::stop_token& stop)
 }
 
 Findings findPhotos(const Walk::Found& found, const ScanOptions& options, ScanProgress& progress,
-                    const ScanFlag& flag)
+                    const ScanFlag& flag, PhotoCoverage& coverage)
 {
     ImageWorkers workers(options.images);
     const auto recognize = [&](const std::string& path) { return workers.analyze(path, flag.token()); };
-    return PhotoAnalyzer(progress, flag, recognize).run(found.images);
+    PictureMemory memory;
+    PhotoAnalyzer::Found photos = PhotoAnalyzer(progress, flag, recognize, &memory).run(found.images);
+    coverage = photos.coverage;
+    return std::move(photos.findings);
 }
 
 /// The steps that share one walk of the home folder.
 Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptions& options,
-                   const RecentDocuments& recent, UnreadableFolders& unreadable)
+                   const RecentDocuments& recent, UnreadableFolders& unreadable, PhotoCoverage& coverage)
 {
     const std::stop_token stop = flag.token();
     progress.set(StepKind::largeAndOld, StepState::running);
@@ -66,7 +69,8 @@ Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptio
         return asStep(progress, StepKind::duplicates, [&] { return findDuplicates(found, stop); });
     });
     group.add("photos", [&] {
-        return asStep(progress, StepKind::photos, [&] { return findPhotos(found, options, progress, flag); });
+        return asStep(progress, StepKind::photos,
+                      [&] { return findPhotos(found, options, progress, flag, coverage); });
     });
     Findings findings = group.collect();
     findings.emplace_back(FindingKind::caches, std::move(found.caches));
@@ -112,7 +116,9 @@ std::vector<Finding> ScanEngine::run()
     addLocations(StepKind::trashAndMail, [&] { return scanners.trashAndMail(); });
     addLocations(StepKind::languagePacks, [&] { return scanners.languagePacks(); });
     addLocations(StepKind::downloads, [&] { return scanners.downloads(Clock::now(), recent); });
-    group.add("files", [&] { return fileBased(m_progress, m_flag, m_options, recent, m_unreadable); });
+    group.add("files", [&] {
+        return fileBased(m_progress, m_flag, m_options, recent, m_unreadable, m_photoCoverage);
+    });
     std::vector<Finding> findings = mergedByKind(group.collect());
     for (const Reachability::LeftOut& mount : Reachability::leftOut()) {
         if (mount.reason == Reachability::LeftOut::Reason::silent)

@@ -5,6 +5,7 @@
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 #include "scan/UnreadableFolders.h"
+#include "scan/photos/PhotoAnalyzer.h"
 
 #include <cstdint>
 #include <utility>
@@ -32,12 +33,15 @@ public:
     [[nodiscard]] ScanFlag& flag() { return m_flag; }
     /// Grows while the scan runs.
     [[nodiscard]] const UnreadableFolders& unreadable() const { return m_unreadable; }
+    /// Valid once `run` has returned.
+    [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
 
 private:
     ScanOptions m_options;
     ScanProgress m_progress;
     ScanFlag m_flag;
     UnreadableFolders m_unreadable;
+    PhotoCoverage m_photoCoverage;
 };
 
 } // namespace orlen

@@ -47,7 +47,7 @@ TEST(PhotosCommandTest, theFindingsAndThePhotosComeAsOneDocument)
     const Json& alike = document["findings"][0]["items"];
     ASSERT_EQ(alike.size(), 1U);
     EXPECT_EQ(alike[0]["path"], home.path("Pictures/b.bmp"));
-    EXPECT_EQ(alike[0]["note"], "Similar to a.bmp — keeping the sharpest");
+    EXPECT_EQ(alike[0]["note"], "Similar to a.bmp — keeping the sharpest · Identical picture");
     EXPECT_EQ(document["findings"][1]["items"][0]["path"], home.path("Pictures/Screenshot.bmp"));
 
     ASSERT_EQ(document["photos"].size(), 3U) << "without what is no picture, nor what lies elsewhere";

@@ -1,6 +1,7 @@
 #include "recognition/ImageDecoder.h"
 
 #include "recognition/Pictures.h"
+#include "recognition/Sharpness.h"
 #include "support/TestBmp.h"
 
 #include <gtest/gtest.h>
@@ -235,10 +236,45 @@ TEST_F(ImageDecoderTest, aCameraIsToldByItsNotes)
 {
     for (const char* format : {".jpg", ".webp"}) {
         SCOPED_TRACE(format);
-        EXPECT_TRUE(decoded(encoded({.format = format, .cameraMake = "Maker"}))->isFromCamera);
-        EXPECT_FALSE(decoded(encoded({.orientation = 3, .format = format}))->isFromCamera);
-        EXPECT_FALSE(decoded(encoded({.format = format, .cameraMake = "  "}))->isFromCamera);
+        EXPECT_TRUE(decoded(encoded({.format = format, .cameraMake = "Maker"}))->traits.isFromCamera);
+        EXPECT_FALSE(decoded(encoded({.orientation = 3, .format = format}))->traits.isFromCamera);
+        EXPECT_FALSE(decoded(encoded({.format = format, .cameraMake = "  "}))->traits.isFromCamera);
     }
+}
+
+TEST_F(ImageDecoderTest, traitsOfTheFileAreTold)
+{
+    struct Case {
+        const char* format;
+        PictureTraits traits;
+    };
+    const Case cases[] = {
+        {".jpg", {.format = PictureFormat::jpeg}},
+        {".webp", {.format = PictureFormat::webp}},
+        {".png", {.format = PictureFormat::png}},
+        {".png[palette]", {.format = PictureFormat::png, .hasPalette = true}},
+        {".gif", {.format = PictureFormat::gif, .hasPalette = true}},
+        {".tif", {.format = PictureFormat::tiff}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.format);
+        EXPECT_EQ(decoded(encoded({.format = c.format}))->traits, c.traits);
+    }
+    EXPECT_EQ(decoded(testBmp(64, 48))->traits, (PictureTraits{.format = PictureFormat::bmp}));
+}
+
+TEST_F(ImageDecoderTest, theSamePixelsAreAsSharpInEveryFormat)
+{
+    // As large as a camera's picture, so that each format takes its own way down to the small one.
+    const Options picture{.width = 1500, .height = 1100, .isNoisy = true, .format = ".png[compression=1]"};
+    const double sharpness = Sharpness::laplacianVariance(decoded(encoded(picture))->small);
+    for (const char* format : {".webp[lossless,effort=0]", ".webp[Q=98,effort=0]", ".jpg[Q=98]", ".tif"}) {
+        SCOPED_TRACE(format);
+        Options other = picture;
+        other.format = format;
+        EXPECT_NEAR(Sharpness::laplacianVariance(decoded(encoded(other))->small) / sharpness, 1, 0.03);
+    }
+    EXPECT_NEAR(Sharpness::laplacianVariance(decoded(Pictures::bmp(picture))->small) / sharpness, 1, 0.03);
 }
 
 TEST_F(ImageDecoderTest, otherFormatsAreNoPicturesWhateverTheyLookLike)
@@ -290,7 +326,10 @@ TEST_F(ImageDecoderTest, aPictureWithoutItsEndIsKeptOnlyWhenLittleIsMissing)
         EXPECT_FALSE(decoded(whole.substr(0, whole.size() / 3)));
     }
     const std::string photo = encoded({.width = 640, .height = 480, .isNoisy = true, .format = ".jpg[Q=90]"});
-    EXPECT_TRUE(decoded(photo.substr(0, photo.size() * 97 / 100)));
+    EXPECT_FALSE(decoded(photo)->traits.isDamaged);
+    const auto cut = decoded(photo.substr(0, photo.size() * 97 / 100));
+    ASSERT_TRUE(cut);
+    EXPECT_TRUE(cut->traits.isDamaged);
     EXPECT_TRUE(decoded(photo.substr(0, photo.size() - 2))) << "only the mark of the end is missing";
 }
 

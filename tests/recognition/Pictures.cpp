@@ -97,6 +97,26 @@ std::string encoded(const Options& options)
     return saved(image, options.format);
 }
 
+std::string bmp(const Options& options)
+{
+    const auto little = [](std::uint32_t number, unsigned bytes) {
+        std::string text;
+        for (unsigned i = 0; i < bytes; ++i)
+            text += static_cast<char>(number >> 8 * i & 0xFFU);
+        return text;
+    };
+    const Pixels all = pixels(options);
+    std::string file = "BM" + little(0, 8) + little(54, 4) + little(40, 4) +
+                       little(static_cast<std::uint32_t>(options.width), 4) +
+                       little(static_cast<std::uint32_t>(-options.height), 4) + little(1, 2) + little(24, 2) +
+                       std::string(24, '\0');
+    for (std::size_t i = 0; i < all.size(); i += 3) {
+        for (const std::size_t channel : {2U, 1U, 0U})
+            file += static_cast<char>(all[i + channel]);
+    }
+    return file;
+}
+
 std::string animated(const std::string& format)
 {
     Options first;

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <type_traits>
 
 namespace orlen::ImageMessages {
@@ -22,7 +23,7 @@ constexpr std::int32_t kLongestWholeSide = 1'000'000;
 /// The numbers of a print are between -1 and 1, give or take a rounding error.
 constexpr float kLargestComponent = 1.01F;
 
-static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 2 + sizeof(FeaturePrint::Vector) +
+static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Vector) +
                   sizeof(FeaturePrint::Tile) + kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
               kLongest);
 
@@ -135,6 +136,31 @@ std::optional<FeaturePrint> print(Reader& reader)
     return FeaturePrint(vector, tile);
 }
 
+/// The traits that a picture has or has not, one bit each.
+constexpr bool PictureTraits::*kTraits[] = {&PictureTraits::isDamaged, &PictureTraits::isFlat,
+                                            &PictureTraits::isGrey, &PictureTraits::hasPalette,
+                                            &PictureTraits::isFromCamera};
+
+void put(Writer& writer, const PictureTraits& traits)
+{
+    writer.put(static_cast<std::uint8_t>(traits.format));
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < std::size(kTraits); ++i)
+        bits |= (traits.*kTraits[i] ? 1U : 0U) << i;
+    writer.put(static_cast<std::uint8_t>(bits));
+}
+
+PictureTraits traits(Reader& reader)
+{
+    constexpr auto kLastFormat = static_cast<std::uint8_t>(PictureFormat::bmp);
+    constexpr std::uint8_t kAllBits = (1U << std::size(kTraits)) - 1;
+    PictureTraits traits{.format = static_cast<PictureFormat>(reader.get<std::uint8_t>(0, kLastFormat))};
+    const auto bits = reader.get<std::uint8_t>(0, kAllBits);
+    for (std::size_t i = 0; i < std::size(kTraits); ++i)
+        traits.*kTraits[i] = (bits >> i & 1U) != 0;
+    return traits;
+}
+
 void put(Writer& writer, PixelSize size)
 {
     writer.put(std::int32_t{size.width});
@@ -185,6 +211,7 @@ std::string encoded(const Answer& answer)
     writer.put(std::int32_t{analysis.width});
     writer.put(std::int32_t{analysis.height});
     writer.put(analysis.sharpness);
+    put(writer, analysis.traits);
     writer.put(static_cast<std::uint8_t>(analysis.print.has_value()));
     if (analysis.print) {
         writer.put(analysis.print->vector());
@@ -204,6 +231,7 @@ std::optional<Answer> decodedAnswer(std::string_view bytes)
         answer.analysis->height = reader.get<std::int32_t>(0, kLongestWholeSide);
         // The sharpest possible picture stays far below.
         answer.analysis->sharpness = reader.get(0.0, 1e9);
+        answer.analysis->traits = traits(reader);
         answer.analysis->print = print(reader);
         answer.analysis->labels = labels(reader);
     }

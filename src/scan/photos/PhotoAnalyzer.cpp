@@ -3,12 +3,15 @@
 #include "platform/text/PathText.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/photos/KeeperChoice.h"
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PhotoGroups.h"
 #include "scan/photos/PhotoRules.h"
+#include "scan/photos/PictureMemory.h"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <iterator>
 #include <mutex>
 #include <utility>
@@ -21,7 +24,8 @@ constexpr float kLeastConfidence = 0.15F;
 
 PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
 {
-    PhotoInfo photo{cand, analysis.print, analysis.sharpness, {}, analysis.width, analysis.height};
+    PhotoInfo photo{cand,           analysis.print,  analysis.sharpness, {},
+                    analysis.width, analysis.height, analysis.traits};
     for (const ImageLabel& label : analysis.labels) {
         if (label.confidence > kLeastConfidence)
             photo.labels.push_back({PathText::asciiLower(label.identifier), label.confidence});
@@ -29,41 +33,87 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
     return photo;
 }
 
-std::string similarNote(const PhotoInfo& keeper)
+std::string similarNote(const PhotoInfo& photo, const PhotoInfo& keeper)
 {
-    return "Similar to " + std::string(PathText::lastComponent(keeper.cand.path)) + " — keeping the sharpest";
+    std::string note = "Similar to ";
+    note += PathText::lastComponent(keeper.cand.path);
+    note += " — keeping the sharpest · ";
+    note += KeeperChoice::reason(photo, keeper);
+    return note;
 }
 
 } // namespace
 
-std::vector<Finding> PhotoAnalyzer::run(const std::vector<Cand>& images) const
+PhotoAnalyzer::Found PhotoAnalyzer::run(const std::vector<Cand>& images) const
 {
     if (images.empty())
         return {};
-    return findings(analyze(images), m_flag.token());
+    const Analyzed analyzed = analyze(images);
+    return {findings(analyzed.photos, m_flag.token()), analyzed.coverage};
 }
 
-std::vector<PhotoInfo> PhotoAnalyzer::analyze(const std::vector<Cand>& images) const
+PhotoAnalyzer::Analyzed PhotoAnalyzer::analyze(const std::vector<Cand>& images) const
+{
+    AllKnown known = recall(images);
+    std::vector<std::size_t> chosen;
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        if (known[i])
+            m_progress.tick(images[i].path);
+        else if (chosen.size() < kMostNew)
+            chosen.push_back(i);
+    }
+    look(images, chosen, known);
+    remember(images, chosen, known);
+    Analyzed analyzed{.photos = {}, .coverage = {.all = static_cast<std::int64_t>(images.size())}};
+    analyzed.photos.reserve(
+        static_cast<std::size_t>(std::ranges::count_if(known, [](const auto& one) { return one && *one; })));
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        analyzed.coverage.lookedAt += known[i] ? 1 : 0;
+        if (known[i] && *known[i])
+            analyzed.photos.push_back(photoInfo(images[i], **known[i]));
+        known[i].reset();
+    }
+    return analyzed;
+}
+
+PhotoAnalyzer::AllKnown PhotoAnalyzer::recall(const std::vector<Cand>& images) const
+{
+    if (m_memory == nullptr)
+        return AllKnown(images.size());
+    return m_memory->recall(images, std::chrono::system_clock::now());
+}
+
+void PhotoAnalyzer::look(const std::vector<Cand>& images, const std::vector<std::size_t>& chosen,
+                         AllKnown& known) const
 {
     std::mutex lock;
-    std::vector<std::optional<PhotoInfo>> analyzed(images.size());
-    onAllCores(images.size(), [&](std::size_t i) {
+    onAllCores(chosen.size(), [&](std::size_t i) {
         if (m_flag.isCancelled())
             return;
-        m_progress.tick(images[i].path);
-        std::optional<ImageAnalysis> analysis = m_recognize(images[i].path);
-        if (!analysis)
+        const Cand& image = images[chosen[i]];
+        m_progress.tick(image.path);
+        auto analysis = std::make_unique<std::optional<ImageAnalysis>>(m_recognize(image.path));
+        // A call that was cancelled says nothing about the picture.
+        if (!*analysis && m_flag.isCancelled())
             return;
-        PhotoInfo photo = photoInfo(images[i], *analysis);
         const std::lock_guard held(lock);
-        analyzed[i] = std::move(photo);
+        known[chosen[i]] = std::move(analysis);
     });
-    std::vector<PhotoInfo> photos;
-    for (std::optional<PhotoInfo>& photo : analyzed) {
-        if (photo)
-            photos.push_back(std::move(*photo));
+}
+
+void PhotoAnalyzer::remember(const std::vector<Cand>& images, const std::vector<std::size_t>& looked,
+                             const AllKnown& known) const
+{
+    if (m_memory == nullptr)
+        return;
+    // If nothing at all could be read, the recognizer is to blame, not the pictures.
+    const bool isWorking = std::ranges::any_of(looked, [&](std::size_t i) { return known[i] && *known[i]; });
+    std::vector<PictureMemory::Learned> learned;
+    for (const std::size_t i : looked) {
+        if (isWorking && known[i] && images[i].stamp)
+            learned.emplace_back(*images[i].stamp, *known[i]);
     }
-    return photos;
+    m_memory->remember(learned, std::chrono::system_clock::now());
 }
 
 std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photos,
@@ -76,9 +126,10 @@ std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photo
     for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
         for (const std::size_t other : group.others) {
             isListed[other] = true;
+            const PhotoInfo& keeper = photos[group.keeper];
             FileEntry& similar = entries.front().emplace_back(
-                toEntryByContent(photos[other].cand, similarNote(photos[group.keeper])));
-            similar.kept = toKept(photos[group.keeper].cand);
+                toEntryByContent(photos[other].cand, similarNote(photos[other], keeper)));
+            similar.kept = toKept(keeper.cand);
         }
     }
     for (std::size_t i = 0; i < photos.size(); ++i) {

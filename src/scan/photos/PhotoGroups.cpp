@@ -1,11 +1,11 @@
 #include "scan/photos/PhotoGroups.h"
 
+#include "scan/photos/KeeperChoice.h"
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 
 namespace orlen::PhotoGroups {
@@ -15,7 +15,12 @@ namespace {
 using Members = std::vector<std::size_t>;
 
 constexpr float kNearDuplicate = 0.32F;
-constexpr double kSharpnessTie = 1.0;
+
+/// What is missing in a damaged picture would be filled with anything.
+bool takesPart(const PhotoInfo& photo)
+{
+    return photo.print && !photo.traits.isDamaged;
+}
 
 /// Of the groups from `first` on, the first whose first member the photo resembles. What is no number
 /// resembles nothing.
@@ -42,10 +47,10 @@ std::vector<Members> clusters(const std::vector<PhotoInfo>& photos, const std::s
         const std::size_t end = std::min(start + kBatch, photos.size());
         onAllCores(end - start, [&](std::size_t i) {
             const PhotoInfo& photo = photos[start + i];
-            found[i] = photo.print ? groupOf(photo, photos, groups, 0, stop) : std::nullopt;
+            found[i] = takesPart(photo) ? groupOf(photo, photos, groups, 0, stop) : std::nullopt;
         });
         for (std::size_t i = start; i < end; ++i) {
-            if (!photos[i].print)
+            if (!takesPart(photos[i]))
                 continue;
             const auto earlier = found[i - start];
             const auto group = earlier ? earlier : groupOf(photos[i], photos, groups, known, stop);
@@ -60,20 +65,9 @@ std::vector<Members> clusters(const std::vector<PhotoInfo>& photos, const std::s
     return groups;
 }
 
-bool isBetter(const PhotoInfo& photo, const PhotoInfo& keeper)
-{
-    if (std::abs(photo.sharpness - keeper.sharpness) > kSharpnessTie)
-        return photo.sharpness > keeper.sharpness;
-    return photo.cand.size > keeper.cand.size;
-}
-
 Group withKeeper(const std::vector<PhotoInfo>& photos, Members members)
 {
-    std::size_t keeper = members.front();
-    for (const std::size_t member : members) {
-        if (isBetter(photos[member], photos[keeper]))
-            keeper = member;
-    }
+    const std::size_t keeper = KeeperChoice::keeper(photos, members);
     std::erase(members, keeper);
     return {keeper, std::move(members)};
 }

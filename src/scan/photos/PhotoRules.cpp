@@ -76,7 +76,8 @@ std::optional<Verdict> verdict(const PhotoInfo& photo)
         return Verdict{FindingKind::receipts, "Looks like a receipt or document — check before removing"};
     if (isMeme(photo))
         return Verdict{FindingKind::memes, "Looks like a meme or captioned image"};
-    if (photo.sharpness < kSharpEnough && photo.width >= kNarrowestBlurry)
+    const bool showsFocus = !photo.traits.isFlat && !photo.traits.isDamaged;
+    if (showsFocus && photo.sharpness < kSharpEnough && photo.width >= kNarrowestBlurry)
         return Verdict{FindingKind::blurry, blurryNote(photo.sharpness)};
     return std::nullopt;
 }

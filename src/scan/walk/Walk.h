@@ -20,8 +20,8 @@ namespace Walk {
 struct Found {
     /// Regular files of at least 1,000,000 allocated bytes, sorted by path, one name per file.
     std::vector<Cand> cands;
-    /// Image files of at least 20,000 bytes in the image folders, sorted by path, at most 1,500. Large ones
-    /// are also in `cands`.
+    /// Image files of at least 20,000 bytes in the image folders, sorted by path. Large ones are also in
+    /// `cands`.
     std::vector<Cand> images;
     /// Caches of at least 1,000,000 bytes, tagged as such or parts of a project, largest first, at most 600,
     /// each rated `review` with a note.

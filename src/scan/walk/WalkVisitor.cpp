@@ -14,7 +14,6 @@ namespace orlen {
 namespace {
 
 constexpr std::int64_t kImageBytes = 20'000;
-constexpr std::size_t kImageLimit = 1'500;
 
 bool comesBefore(const Cand& a, const Cand& b)
 {
@@ -113,26 +112,11 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
         if (isCand)
             cands.push_back({std::move(cand), file.status.identity});
     }
-    if (!images.empty())
-        addImages(std::move(images));
-    if (!cands.empty()) {
-        const std::lock_guard lock(m_lock);
-        std::move(cands.begin(), cands.end(), std::back_inserter(m_cands));
-    }
-}
-
-/// Keeps the first images by path.
-void WalkVisitor::addImages(std::vector<Cand> images)
-{
+    if (images.empty() && cands.empty())
+        return;
     const std::lock_guard lock(m_lock);
-    for (Cand& image : images) {
-        m_images.push_back(std::move(image));
-        std::push_heap(m_images.begin(), m_images.end(), comesBefore);
-        if (m_images.size() > kImageLimit) {
-            std::pop_heap(m_images.begin(), m_images.end(), comesBefore);
-            m_images.pop_back();
-        }
-    }
+    std::move(images.begin(), images.end(), std::back_inserter(m_images));
+    std::move(cands.begin(), cands.end(), std::back_inserter(m_cands));
 }
 
 /// Hidden items and skipped top-level folders never get here.

@@ -52,13 +52,12 @@ private:
     [[nodiscard]] bool isCounted(const TreeFolder& folder, std::string_view name) const;
     [[nodiscard]] bool isCollected(const TreeFolder& parent, std::string_view name);
     void collectCachesIn(const TreeFolder& folder, const TreeListing& listing);
-    void addImages(std::vector<Cand> images);
 
     const Scope m_scope;
     ScanProgress& m_progress;
     std::mutex m_lock;
     std::vector<Walked> m_cands;
-    std::vector<Cand> m_images; ///< a heap with the last path on top
+    std::vector<Cand> m_images;
     std::vector<WalkedCaches::Folder> m_caches;
     std::set<std::string, std::less<>> m_projectCaches; ///< those not to be entered
     std::set<std::string, std::less<>> m_workTrees;

@@ -22,8 +22,10 @@ using ImageMessages::Question;
 constexpr std::size_t kHasPicture = 0;
 constexpr std::size_t kWidth = 1;
 constexpr std::size_t kSharpness = 9;
-constexpr std::size_t kHasPrint = 17;
-constexpr std::size_t kVector = 18;
+constexpr std::size_t kFormat = 17;
+constexpr std::size_t kTraits = 18;
+constexpr std::size_t kHasPrint = 19;
+constexpr std::size_t kVector = 20;
 constexpr std::size_t kLabelCount = kVector + sizeof(FeaturePrint::Vector) + sizeof(FeaturePrint::Tile);
 constexpr std::size_t kIdentifier = kLabelCount + 2;
 
@@ -35,7 +37,12 @@ Answer picture()
     FeaturePrint::Tile tile{};
     tile.front() = 1;
     tile.back() = 255;
-    return {ImageAnalysis{4000, 3000, FeaturePrint(vector, tile), 21.9, {{"receipt", 0.7F}, {"text", 0.1F}}}};
+    return {ImageAnalysis{4000,
+                          3000,
+                          FeaturePrint(vector, tile),
+                          21.9,
+                          {{"receipt", 0.7F}, {"text", 0.1F}},
+                          {.format = PictureFormat::gif, .isGrey = true, .isFromCamera = true}}};
 }
 
 template <typename Number>
@@ -58,6 +65,7 @@ TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
     EXPECT_EQ(heard->analysis->print->vector(), picture().analysis->print->vector());
     EXPECT_EQ(heard->analysis->print->tile(), picture().analysis->print->tile());
     EXPECT_EQ(heard->analysis->labels, picture().analysis->labels);
+    EXPECT_EQ(heard->analysis->traits, picture().analysis->traits);
 
     const auto plain = decodedAnswer(encoded(Answer{ImageAnalysis{}}));
     ASSERT_TRUE(plain && plain->analysis);
@@ -147,6 +155,8 @@ TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
         {"negative sharpness", replaced(kSharpness, -0.1)},
         {"endless sharpness", replaced(kSharpness, kInfinity)},
         {"sharpness that is no number", replaced(kSharpness, std::nan(""))},
+        {"a format that nobody knows", replaced(kFormat, std::uint8_t{8})},
+        {"traits that nobody knows", replaced(kTraits, std::uint8_t{32})},
         {"a print or not", replaced(kHasPrint, std::uint8_t{255})},
         {"a print without its bytes", replaced(kHasPrint, std::uint8_t{0})},
         {"no number in the print", replaced(kVector + 5 * sizeof(float), kNan)},

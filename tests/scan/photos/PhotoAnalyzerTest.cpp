@@ -19,13 +19,15 @@ namespace orlen {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 constexpr std::int64_t kMB = 1'000'000;
 constexpr int kWide = 4000;
 
-/// Prints of the same number are alike, others are not.
-FeaturePrint printOf(std::size_t number)
+/// Prints of the same number are alike, others are not. In one place each shot shows something else.
+FeaturePrint printOf(std::size_t number, std::size_t shot = 0)
 {
     FeaturePrint::Vector vector{};
     vector[number] = 1;
@@ -34,6 +36,12 @@ FeaturePrint printOf(std::size_t number)
     for (std::uint8_t& value : tile) {
         noise = noise * 1'664'525U + 1'013'904'223U;
         value = static_cast<std::uint8_t>(noise >> 24U);
+    }
+    constexpr std::size_t kPlace = 16;
+    for (std::size_t i = 0; shot > 0 && i < kPlace * kPlace; ++i) {
+        const std::size_t x = i % kPlace + kPlace * (shot - 1);
+        std::uint8_t& value = tile[i / kPlace * FeaturePrint::kTileSide + x];
+        value = static_cast<std::uint8_t>(255 - value);
     }
     return {vector, tile};
 }
@@ -45,13 +53,16 @@ struct Photo {
     int width = kWide;
     std::int64_t size = kMB;
     std::optional<std::size_t> print;
+    std::size_t shot = 0;
+    PictureTraits traits;
 };
 
 PhotoInfo info(const Photo& photo)
 {
-    PhotoInfo info{{photo.path, photo.size, {}}, {}, photo.sharpness, photo.labels, photo.width, 10};
+    PhotoInfo info{
+        {photo.path, photo.size, {}}, {}, photo.sharpness, photo.labels, photo.width, 10, photo.traits};
     if (photo.print)
-        info.print = printOf(*photo.print);
+        info.print = printOf(*photo.print, photo.shot);
     return info;
 }
 
@@ -126,7 +137,8 @@ TEST(PhotoAnalyzerTest, theFirstRuleThatHoldsDecides)
         {"blurry", {"/p/a.jpg", {}, 21.9, 301}, "blurry: Sharpness score 22 — likely out of focus"},
         {"blurry but small", {"/p/a.jpg", {}, 21.9, 300}, ""},
         {"sharp enough", {"/p/a.jpg", {}, 22.0, 301}, ""},
-        {"of one colour", {"/p/a.jpg", {}, 0, 301}, "blurry: Sharpness score 0 — likely out of focus"},
+        {"of one colour", {.path = "/p/a.jpg", .sharpness = 0, .traits = {.isFlat = true}}, ""},
+        {"read in part", {.path = "/p/a.jpg", .sharpness = 5, .traits = {.isDamaged = true}}, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -134,7 +146,7 @@ TEST(PhotoAnalyzerTest, theFirstRuleThatHoldsDecides)
     }
 }
 
-TEST(PhotoAnalyzerTest, theKeeperIsTheSharpestOrOfTwoAlikeTheLargest)
+TEST(PhotoAnalyzerTest, ofDifferentShotsTheSharpestIsKeptOrOfTwoAlikeTheLargest)
 {
     struct Case {
         const char* name;
@@ -148,20 +160,89 @@ TEST(PhotoAnalyzerTest, theKeeperIsTheSharpestOrOfTwoAlikeTheLargest)
         {"less sharp by exactly one, larger", {{41.0, 1}, {40.0, 9}}, 1},
         {"less sharp by more than one, larger", {{41.1, 1}, {40.0, 9}}, 0},
         {"a full tie", {{40.0, 2}, {40.5, 2}, {40.0, 2}}, 0},
+        {"within a fortieth, smaller", {{400.0, 9}, {409.0, 1}}, 0},
+        {"beyond a fortieth, smaller", {{400.0, 9}, {411.0, 1}}, 1},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         std::vector<Photo> photos;
         for (const auto& [sharpness, megabytes] : c.sharpnessAndMB)
-            photos.push_back(
-                {"/p/" + std::to_string(photos.size()) + ".jpg", {}, sharpness, kWide, megabytes * kMB, 1});
+            photos.push_back({"/p/" + std::to_string(photos.size()) + ".jpg",
+                              {},
+                              sharpness,
+                              kWide,
+                              megabytes * kMB,
+                              1,
+                              photos.size()});
         const Finding alike = findingsOf(photos).front();
         EXPECT_EQ(alike.items.size(), photos.size() - 1);
         for (const FileEntry& entry : alike.items) {
             EXPECT_NE(entry.path, photos[c.keeper].path);
-            EXPECT_EQ(entry.note, "Similar to " + std::to_string(c.keeper) + ".jpg — keeping the sharpest");
+            EXPECT_THAT(entry.note.value_or(""), StartsWith("Similar to " + std::to_string(c.keeper) +
+                                                            ".jpg — keeping the sharpest · Similar shot"));
         }
     }
+}
+
+TEST(PhotoAnalyzerTest, ofCopiesTheOneThatLostLeastIsKeptAndTheOthersSayWhatTheyLack)
+{
+    using enum PictureFormat;
+    const PictureTraits camera{.format = jpeg, .isFromCamera = true};
+    const PictureTraits plain{.format = jpeg};
+    const Photo original{"/p/o.jpg", {}, 100, kWide, 5'000, 1, 0, camera};
+    struct Case {
+        const char* name;
+        Photo copy;
+        const char* lacks;
+    };
+    const Case cases[] = {
+        {"smaller, though sharper and heavier", {"/p/c", {}, 900, 3999, 9'000, 1, 0, camera}, "smaller"},
+        {"grey",
+         {"/p/c", {}, 900, kWide, 9'000, 1, 0, {.format = png, .isGrey = true, .isFromCamera = true}},
+         "without colours"},
+        {"dithered",
+         {"/p/c", {}, 900, kWide, 90'000, 1, 0, {.format = gif, .hasPalette = true}},
+         "fewer colours"},
+        {"stripped", {"/p/c", {}, 900, kWide, 9'000, 1, 0, {.format = png}}, "without camera data"},
+        {"of a lower quality", {"/p/c", {}, 900, kWide, 4'999, 1, 0, camera}, "more compressed"},
+        {"in another format",
+         {"/p/c", {}, 90, kWide, 4'999, 1, 0, {.format = webp, .isFromCamera = true}},
+         "smaller file"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Finding alike = findingsOf({c.copy, original}).front();
+        ASSERT_EQ(alike.items.size(), 1U);
+        EXPECT_EQ(alike.items[0].path, "/p/c");
+        EXPECT_EQ(alike.items[0].note,
+                  "Similar to o.jpg — keeping the sharpest · Identical picture, " + std::string(c.lacks));
+    }
+    const Photo drawing{"/p/drawing.png", {}, 10, kWide, 2'000, 1, 0, {.format = png}};
+    const Photo sent{"/p/sent.jpg", {}, 10, kWide, 9'000, 1, 0, plain};
+    EXPECT_THAT(pathsOf(findingsOf({sent, drawing}).front()), ElementsAre("/p/sent.jpg"));
+}
+
+TEST(PhotoAnalyzerTest, aShotIsKeptInItsBestCopy)
+{
+    const Finding alike = findingsOf({
+                                         {"/p/soft.jpg", {}, 50, kWide, 9 * kMB, 1},
+                                         {"/p/sharp, sent.jpg", {}, 120, 1000, kMB, 1, 2},
+                                         {"/p/sharp.jpg", {}, 100, kWide, 4 * kMB, 1, 2},
+                                     })
+                              .front();
+    EXPECT_THAT(pathsOf(alike), ElementsAre("/p/soft.jpg", "/p/sharp, sent.jpg"));
+    EXPECT_THAT(alike.items[0].note.value_or(""), EndsWith("Similar shot, softer"));
+    EXPECT_THAT(alike.items[1].note.value_or(""), EndsWith("Identical picture, smaller"));
+}
+
+TEST(PhotoAnalyzerTest, aDamagedPictureIsInNoSet)
+{
+    const auto findings = findingsOf({
+        {"/p/cut.jpg", {}, 900, kWide, 9 * kMB, 1, 0, {.isDamaged = true}},
+        {"/p/a.jpg", {}, 100, kWide, kMB, 1},
+        {"/p/b.jpg", {}, 100, kWide, kMB, 1},
+    });
+    EXPECT_THAT(pathsOf(findings.front()), ElementsAre("/p/b.jpg"));
 }
 
 TEST(PhotoGroupsTest, manyPhotosAreGroupedAsIfTheyCameOneByOne)
@@ -232,19 +313,20 @@ TEST(PhotoAnalyzerTest, whatCannotBeReadIsLeftOutAndTheOthersKeepTheirOrder)
             return std::nullopt;
         return ImageAnalysis{640, 480, {}, 50, {{"MEME", 0.9F}, {"Floor", 0.15F}, {"Above", 0.151F}}};
     });
-    const auto photos = analyzer.analyze(images);
+    const auto [photos, coverage] = analyzer.analyze(images);
     ASSERT_EQ(photos.size(), 180U);
+    EXPECT_EQ(coverage, (PhotoCoverage{200, 200}));
     EXPECT_EQ(progress.files(), 200);
     for (std::size_t i = 1; i < photos.size(); ++i)
         ASSERT_LT(photos[i - 1].cand.path, photos[i].cand.path);
     EXPECT_THAT(photos[0].labels, ElementsAre(ImageLabel{"meme", 0.9F}, ImageLabel{"above", 0.151F}));
     EXPECT_EQ(photos[0].width, 640);
 
-    const auto findings = analyzer.run(images);
+    const auto findings = analyzer.run(images).findings;
     ASSERT_EQ(findings.size(), 5U);
     EXPECT_EQ(findings[3].kind, FindingKind::memes);
     EXPECT_EQ(findings[3].items.size(), 180U);
-    EXPECT_THAT(analyzer.run({}), IsEmpty());
+    EXPECT_THAT(analyzer.run({}).findings, IsEmpty());
 }
 
 TEST(PhotoAnalyzerTest, aCancelledScanLooksAtNothingMore)
@@ -258,11 +340,11 @@ TEST(PhotoAnalyzerTest, aCancelledScanLooksAtNothingMore)
             flag.cancel();
         return ImageAnalysis{640, 480};
     });
-    const auto photos = analyzer.analyze(images);
+    const auto photos = analyzer.analyze(images).photos;
     EXPECT_EQ(photos.size(), static_cast<std::size_t>(looked));
     EXPECT_EQ(progress.files(), looked);
     EXPECT_LT(looked, 500);
-    EXPECT_EQ(analyzer.run(images).size(), 5U);
+    EXPECT_EQ(analyzer.run(images).findings.size(), 5U);
 }
 
 } // namespace orlen

@@ -1,0 +1,144 @@
+#include "scan/photos/KeeperChoice.h"
+
+#include "scan/photos/SamePicture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace orlen {
+
+namespace {
+
+std::int64_t pixels(const PhotoInfo& photo)
+{
+    return std::int64_t{photo.width} * photo.height;
+}
+
+std::int64_t bytes(const PhotoInfo& photo)
+{
+    return photo.cand.stamp ? photo.cand.stamp->length : photo.cand.size;
+}
+
+std::int64_t hasColours(const PhotoInfo& photo)
+{
+    return photo.traits.isGrey ? 0 : 1;
+}
+
+/// A drawing needs no more than a palette. Of a photo that was forced into one, the dithering shows: it does
+/// not compress.
+std::int64_t hasAllColours(const PhotoInfo& photo)
+{
+    constexpr std::int64_t kDrawnPixels = 4; // per byte, at least
+    return photo.traits.hasPalette && bytes(photo) * kDrawnPixels > pixels(photo) ? 0 : 1;
+}
+
+std::int64_t isFromCamera(const PhotoInfo& photo)
+{
+    return photo.traits.isFromCamera ? 1 : 0;
+}
+
+std::int64_t isLossless(const PhotoInfo& photo)
+{
+    const PictureFormat format = photo.traits.format;
+    const bool losesNothing = format == PictureFormat::png || format == PictureFormat::bmp;
+    return losesNothing && !photo.traits.hasPalette ? 1 : 0;
+}
+
+/// What a copy may have lost, the worst loss first.
+struct Loss {
+    std::int64_t (*value)(const PhotoInfo& photo); ///< more is better
+    std::string_view note;
+};
+constexpr Loss kLosses[] = {
+    {pixels, "Identical picture, smaller"},
+    {hasColours, "Identical picture, without colours"},
+    {hasAllColours, "Identical picture, fewer colours"},
+    {isFromCamera, "Identical picture, without camera data"},
+    {isLossless, "Identical picture, more compressed"},
+    {bytes, "Identical picture, smaller file"},
+};
+
+bool lostLess(const PhotoInfo& copy, const PhotoInfo& than)
+{
+    for (const Loss& loss : kLosses) {
+        const std::int64_t one = loss.value(copy);
+        const std::int64_t other = loss.value(than);
+        if (one != other)
+            return one > other;
+    }
+    return false;
+}
+
+/// How far two shots of one sharpness may be apart: the measure itself is not more exact.
+double margin(double sharpness)
+{
+    constexpr double kLeast = 1.0;
+    constexpr double kShare = 0.025;
+    return std::max(kLeast, kShare * sharpness);
+}
+
+bool isSofter(const PhotoInfo& shot, const PhotoInfo& than)
+{
+    return than.sharpness - shot.sharpness > margin(than.sharpness);
+}
+
+bool isBetterShot(const PhotoInfo& shot, const PhotoInfo& than)
+{
+    if (isSofter(than, shot))
+        return true;
+    return !isSofter(shot, than) && shot.cand.size > than.cand.size;
+}
+
+/// A copy of the first of its set, and the best of them.
+struct Copies {
+    std::size_t first = 0;
+    std::size_t best = 0;
+};
+
+std::string_view reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
+{
+    const auto* const lost = std::find_if(std::begin(kLosses), std::end(kLosses), [&](const Loss& loss) {
+        return loss.value(copy) < loss.value(keeper);
+    });
+    if (lost == std::end(kLosses))
+        return "Identical picture";
+    // Fewer bytes for as many pixels in the same format are a coarser encoding.
+    const bool isCoarser = lost->value == bytes && copy.traits.format == keeper.traits.format &&
+                           copy.traits.format != PictureFormat::other && isLossless(copy) == 0;
+    return isCoarser ? "Identical picture, more compressed" : lost->note;
+}
+
+} // namespace
+
+std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
+                                 const std::vector<std::size_t>& members)
+{
+    std::vector<Copies> shots;
+    for (const std::size_t member : members) {
+        const auto same = std::find_if(shots.begin(), shots.end(), [&](const Copies& copies) {
+            return SamePicture::isCopy(photos[copies.first], photos[member]);
+        });
+        if (same == shots.end())
+            shots.push_back({member, member});
+        else if (lostLess(photos[member], photos[same->best]))
+            same->best = member;
+    }
+    std::size_t keeper = shots.front().best;
+    for (const Copies& shot : shots) {
+        if (isBetterShot(photos[shot.best], photos[keeper]))
+            keeper = shot.best;
+    }
+    return keeper;
+}
+
+std::string_view KeeperChoice::reason(const PhotoInfo& other, const PhotoInfo& keeper)
+{
+    if (SamePicture::isCopy(other, keeper))
+        return reasonOfCopy(other, keeper);
+    if (isSofter(other, keeper))
+        return "Similar shot, softer";
+    return bytes(other) < bytes(keeper) ? "Similar shot, smaller file" : "Similar shot";
+}
+
+} // namespace orlen

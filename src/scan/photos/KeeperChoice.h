@@ -1,0 +1,21 @@
+#pragma once
+
+#include "scan/photos/PhotoAnalyzer.h"
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+/// Which of several pictures that look alike is kept. Of different shots of one scene it is the sharpest. Of
+/// copies of one picture, whose sharpness says nothing because scaling and re-encoding change it, it is the
+/// one that lost least. Pure; any thread.
+namespace orlen::KeeperChoice {
+
+/// One of the members, which are indices into the photos, at least one, and have prints.
+[[nodiscard]] std::size_t keeper(const std::vector<PhotoInfo>& photos,
+                                 const std::vector<std::size_t>& members);
+
+/// What the other picture lacks, as a note.
+[[nodiscard]] std::string_view reason(const PhotoInfo& other, const PhotoInfo& keeper);
+
+} // namespace orlen::KeeperChoice

@@ -1,0 +1,128 @@
+#include "scan/photos/SamePicture.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace orlen {
+
+namespace {
+
+constexpr std::size_t kSide = FeaturePrint::kTileSide;
+constexpr std::size_t kCell = 4;
+constexpr std::size_t kCells = kSide / kCell; ///< along a side
+
+/// Sums of products over some pixels of two tiles.
+struct Products {
+    std::int32_t oneOne = 0;
+    std::int32_t otherOther = 0;
+    std::int32_t oneOther = 0;
+
+    Products& operator+=(const Products& more)
+    {
+        oneOne += more.oneOne;
+        otherOther += more.otherOther;
+        oneOther += more.oneOther;
+        return *this;
+    }
+};
+
+using Cells = std::array<Products, kCells * kCells>;
+
+/// A tile around 0, in squares of `step` pixels that are taken for one.
+std::vector<std::int32_t> levelsOf(const FeaturePrint::Tile& tile, std::size_t step)
+{
+    constexpr std::int32_t kMiddle = 128;
+    std::vector<std::int32_t> levels(tile.size());
+    for (std::size_t y = 0; y < kSide; ++y) {
+        for (std::size_t x = 0; x < kSide; ++x)
+            levels[y / step * step * kSide + x / step * step] += tile[y * kSide + x] - kMiddle;
+    }
+    return levels;
+}
+
+/// The sums of the squares are left in one pixel each; the others are 0 and add nothing.
+Cells cellsOf(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other, std::size_t step)
+{
+    const std::vector<std::int32_t> ones = levelsOf(one, step);
+    const std::vector<std::int32_t> others = levelsOf(other, step);
+    Cells cells{};
+    for (std::size_t y = 0; y < kSide; ++y) {
+        for (std::size_t x = 0; x < kSide; ++x) {
+            const std::int32_t a = ones[y * kSide + x];
+            const std::int32_t b = others[y * kSide + x];
+            cells[y / kCell * kCells + x / kCell] += {a * a, b * b, a * b};
+        }
+    }
+    return cells;
+}
+
+/// The share of a place's structure that is left when one tile is subtracted from the other. `noise` may come
+/// and go in a plain area.
+float leftOver(const Products& place, double contrast, double noise)
+{
+    const double one = place.oneOne * contrast;
+    const double other = place.otherOther / contrast;
+    return static_cast<float>((one + other - 2.0 * place.oneOther) / ((one + other) / 2 + noise));
+}
+
+float worstLeftOver(const Cells& cells, std::size_t step)
+{
+    // Of the encoders: some levels in each pixel of a place.
+    const double noise = 6.0 * 6.0 * 4 * kCell * kCell * static_cast<double>(step * step);
+    constexpr float kNothingInCommon = 2;
+    Products all;
+    for (const Products& cell : cells)
+        all += cell;
+    if (all.oneOne == 0 || all.otherOther == 0)
+        return all.oneOne == all.otherOther ? 0 : kNothingInCommon;
+    const double contrast = std::sqrt(static_cast<double>(all.otherOther) / all.oneOne);
+    float worst = 0;
+    // Places of two by two cells, half over each other.
+    for (std::size_t y = 0; y + 1 < kCells; ++y) {
+        for (std::size_t x = 0; x + 1 < kCells; ++x) {
+            Products place = cells[y * kCells + x];
+            place += cells[y * kCells + x + 1];
+            place += cells[(y + 1) * kCells + x];
+            place += cells[(y + 1) * kCells + x + 1];
+            worst = std::max(worst, leftOver(place, contrast, noise));
+        }
+    }
+    return worst;
+}
+
+std::int64_t pixels(const PhotoInfo& photo)
+{
+    return std::int64_t{photo.width} * photo.height;
+}
+
+} // namespace
+
+float SamePicture::difference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+{
+    return worstLeftOver(cellsOf(one, other, 1), 1);
+}
+
+float SamePicture::coarseDifference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+{
+    return worstLeftOver(cellsOf(one, other, 2), 2);
+}
+
+bool SamePicture::isCopy(const PhotoInfo& one, const PhotoInfo& other)
+{
+    constexpr float kFromEncoding = 0.25F;
+    constexpr float kFromScaling = 0.5F; ///< or from turning colours into greys
+    constexpr int kCoarseSide = 2 * FeaturePrint::kTileSide;
+    if (!one.print || !other.print)
+        return false;
+    const bool isCoarse =
+        std::max(one.width, one.height) < kCoarseSide || std::max(other.width, other.height) < kCoarseSide;
+    const float apart = (isCoarse ? coarseDifference : difference)(one.print->tile(), other.print->tile());
+    const bool isEncodedOnly = pixels(one) == pixels(other) && one.traits.isGrey == other.traits.isGrey;
+    return apart <= (isEncodedOnly ? kFromEncoding : kFromScaling);
+}
+
+} // namespace orlen

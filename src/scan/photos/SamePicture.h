@@ -1,0 +1,19 @@
+#pragma once
+
+#include "scan/photos/PhotoAnalyzer.h"
+
+/// Tells copies of one picture from different shots of one scene. Pure; any thread.
+namespace orlen::SamePicture {
+
+/// How much of the structure of one picture is not in the other at the place where they differ most: 0 for
+/// the same picture, up to 2 where they have nothing in common. Scaling, re-encoding, sharpening and the loss
+/// of colours change little everywhere; a caption, or something that moved, changes a place completely.
+/// Symmetric. Some 20 microseconds.
+[[nodiscard]] float difference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other);
+/// The same without the finest structure, which a very small copy cannot have.
+[[nodiscard]] float coarseDifference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other);
+
+/// Whether both are the same frame, apart from such changes. False for a picture without a print.
+[[nodiscard]] bool isCopy(const PhotoInfo& one, const PhotoInfo& other);
+
+} // namespace orlen::SamePicture
