@@ -33,7 +33,7 @@ struct Candidate {
 std::vector<Candidate> candidates(const PhotoInfo& photo, const std::vector<PhotoInfo>& photos,
                                   const std::vector<Members>& groups, std::size_t first)
 {
-    constexpr std::size_t kMost = 24;
+    constexpr std::size_t kMost = 8;
     std::vector<Candidate> all;
     for (std::size_t group = first; group < groups.size(); ++group) {
         if (const auto coarse = coarseDistance(*photos[groups[group].front()].print, *photo.print))
