@@ -22,15 +22,42 @@ bool takesPart(const PhotoInfo& photo)
     return photo.print && !photo.traits.isDamaged;
 }
 
+/// A group whose first member has a layout like that of a photo.
+struct Candidate {
+    float coarse = 0;
+    std::size_t group = 0;
+};
+
+/// Of the groups from `first` on, those that may be worth a close look, in order. Many pages have one layout,
+/// and to look closely at all of them would take minutes; what is really alike is among the nearest.
+std::vector<Candidate> candidates(const PhotoInfo& photo, const std::vector<PhotoInfo>& photos,
+                                  const std::vector<Members>& groups, std::size_t first)
+{
+    constexpr std::size_t kMost = 8;
+    std::vector<Candidate> all;
+    for (std::size_t group = first; group < groups.size(); ++group) {
+        if (const auto coarse = coarseDistance(*photos[groups[group].front()].print, *photo.print))
+            all.push_back({*coarse, group});
+    }
+    if (all.size() > kMost) {
+        std::ranges::nth_element(all, all.begin() + kMost, {}, &Candidate::coarse);
+        all.resize(kMost);
+        std::ranges::sort(all, {}, &Candidate::group);
+    }
+    return all;
+}
+
 /// Of the groups from `first` on, the first whose first member the photo resembles. What is no number
 /// resembles nothing.
 std::optional<std::size_t> groupOf(const PhotoInfo& photo, const std::vector<PhotoInfo>& photos,
                                    const std::vector<Members>& groups, std::size_t first,
                                    const std::stop_token& stop)
 {
-    for (std::size_t group = first; group < groups.size() && !stop.stop_requested(); ++group) {
-        if (distance(*photos[groups[group].front()].print, *photo.print) < kNearDuplicate)
-            return group;
+    for (const Candidate& candidate : candidates(photo, photos, groups, first)) {
+        if (stop.stop_requested())
+            break;
+        if (distance(*photos[groups[candidate.group].front()].print, *photo.print) < kNearDuplicate)
+            return candidate.group;
     }
     return std::nullopt;
 }

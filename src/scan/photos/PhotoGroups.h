@@ -16,7 +16,8 @@ struct Group {
 };
 
 /// Groups of two or more, ordered by their first members. Each photo is compared with the first member of
-/// each earlier group and joins the first one it resembles. Pictures without a print and damaged ones are in
+/// each earlier group and joins the first one it resembles; where very many have nearly its layout, with the
+/// nearest of them. Pictures without a print and damaged ones are in
 /// none. Returns what it has when stopped.
 [[nodiscard]] std::vector<Group> of(const std::vector<PhotoInfo>& photos, const std::stop_token& stop);
 

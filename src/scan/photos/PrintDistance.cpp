@@ -46,4 +46,10 @@ float distance(const FeaturePrint& one, const FeaturePrint& other)
     return kNearDuplicate * std::max(coarse / kCoarseLimit, fine);
 }
 
+std::optional<float> coarseDistance(const FeaturePrint& one, const FeaturePrint& other)
+{
+    const float coarse = between(one.vector(), other.vector());
+    return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
+}
+
 } // namespace orlen
