@@ -94,7 +94,7 @@ float worstLeftOver(const Cells& cells, std::size_t step)
     return worst;
 }
 
-std::int64_t pixels(const PhotoInfo& photo)
+std::int64_t pixelCount(const PhotoInfo& photo)
 {
     return std::int64_t{photo.width} * photo.height;
 }
@@ -121,7 +121,8 @@ bool SamePicture::isCopy(const PhotoInfo& one, const PhotoInfo& other)
     const bool isCoarse =
         std::max(one.width, one.height) < kCoarseSide || std::max(other.width, other.height) < kCoarseSide;
     const float apart = (isCoarse ? coarseDifference : difference)(one.print->tile(), other.print->tile());
-    const bool isEncodedOnly = pixels(one) == pixels(other) && one.traits.isGrey == other.traits.isGrey;
+    const bool isEncodedOnly =
+        pixelCount(one) == pixelCount(other) && one.traits.isGrey == other.traits.isGrey;
     return apart <= (isEncodedOnly ? kFromEncoding : kFromScaling);
 }
 
