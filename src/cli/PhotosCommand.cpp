@@ -26,6 +26,16 @@ struct PhotoSearch {
     Seconds duration{0};
 };
 
+/// All findings without what is excluded, even if nothing is left of one.
+std::vector<Finding> offered(std::vector<Finding> findings, const Exclusions& exclusions)
+{
+    for (Finding& finding : findings) {
+        std::erase_if(finding.items,
+                      [&](const FileEntry& entry) { return exclusions.excludes(entry.path) != nullptr; });
+    }
+    return findings;
+}
+
 void printFindings(const PhotoSearch& found)
 {
     std::vector<Finding> shown;
@@ -61,8 +71,8 @@ public:
     }
 
 private:
-    [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, ScanProgress& progress,
-                                     const std::stop_token& stop) override
+    [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, const Exclusions& exclusions,
+                                     ScanProgress& progress, const std::stop_token& stop) override
     {
         const auto started = std::chrono::steady_clock::now();
         ScanFlag flag;
@@ -73,7 +83,7 @@ private:
             progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); });
         PhotoSearch search{analyzer.analyze(found.images)};
         if (!stop.stop_requested())
-            search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
+            search.findings = Rater::rate(offered(PhotoAnalyzer::findings(search.photos, stop), exclusions));
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
     }
