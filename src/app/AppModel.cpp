@@ -36,10 +36,13 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
         OwnFile::removeUnfinished(folder);
     m_storage = std::make_unique<Storage>(taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices),
                                           m_isWriter ? Storage::Saving::snapshots : Storage::Saving::none);
-    m_results = std::make_unique<Results>(*m_storage, options.images);
+    m_exclusions = std::make_unique<ExclusionList>(
+        taken(Persist::loadExclusions(), AppTexts::kExclusions, m_notices),
+        m_isWriter ? ExclusionList::Access::writer : ExclusionList::Access::reader);
+    m_results = std::make_unique<Results>(*m_storage, *m_exclusions, options.images);
     m_cleanUps = std::make_unique<CleanUps>(std::move(history),
                                             m_isWriter ? CleanUps::Access::writer : CleanUps::Access::reader,
-                                            *m_results, *m_storage);
+                                            *m_results, *m_exclusions, *m_storage);
     if (options.startup == Startup::full)
         m_storage->startUp();
 }

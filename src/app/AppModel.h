@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/CleanUps.h"
+#include "app/ExclusionList.h"
 #include "app/Results.h"
 #include "app/Storage.h"
 #include "platform/files/FolderLock.h"
@@ -16,8 +17,9 @@ namespace orlen {
 
 struct AskContext;
 
-/// The state of the program, in three parts: the results of the last Smart Scan, the clean-ups and their
-/// history, and the storage with its snapshots. The window and the command line are both views of it.
+/// The state of the program, in four parts: the results of the last Smart Scan, what is excluded from them,
+/// the clean-ups and their history, and the storage with its snapshots. The window and the command line are
+/// both views of it.
 ///
 /// Lives on the main thread, like everything in this folder, and needs its event loop: blocking work runs on
 /// workers and reports back by signals. Destroying the model cancels what is running and waits for it; a
@@ -25,6 +27,7 @@ struct AskContext;
 class AppModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(orlen::Results* results READ results CONSTANT)
+    Q_PROPERTY(orlen::ExclusionList* exclusions READ exclusions CONSTANT)
     Q_PROPERTY(orlen::CleanUps* cleanUps READ cleanUps CONSTANT)
     Q_PROPERTY(orlen::Storage* storage READ storage CONSTANT)
     Q_PROPERTY(bool writer READ isWriter CONSTANT)
@@ -33,10 +36,10 @@ public:
     enum class Startup {
         full,      ///< for a window: also measures the disk, takes a snapshot when one is due, and keeps free
                    ///< space up to date
-        filesOnly, ///< for a single command: only loads the two files and checks disk access
+        filesOnly, ///< for a single command: only loads the three files and checks disk access
     };
     enum class Access {
-        writer, ///< saves history and snapshots, unless another process does
+        writer, ///< saves history, exclusions and snapshots, unless another process does
         reader, ///< never saves
     };
 
@@ -50,6 +53,7 @@ public:
     ~AppModel() override;
 
     [[nodiscard]] Results* results() const { return m_results.get(); }
+    [[nodiscard]] ExclusionList* exclusions() const { return m_exclusions.get(); }
     [[nodiscard]] CleanUps* cleanUps() const { return m_cleanUps.get(); }
     [[nodiscard]] Storage* storage() const { return m_storage.get(); }
 
@@ -68,6 +72,7 @@ private:
     bool m_isWriter = false;
     std::vector<std::string> m_notices;
     std::unique_ptr<Storage> m_storage;
+    std::unique_ptr<ExclusionList> m_exclusions;
     std::unique_ptr<Results> m_results;
     std::unique_ptr<CleanUps> m_cleanUps; ///< last: destroyed first, while what it records into still exists
 };

@@ -20,6 +20,7 @@ struct OwnFile {
     std::string_view stem;    ///< of the file name
 };
 inline constexpr OwnFile kHistory{"The history of clean-ups", "history"};
+inline constexpr OwnFile kExclusions{"The list of exclusions", "exclusions"};
 inline constexpr OwnFile kSnapshots{"The record of past scans", "scans"};
 
 /// For a file that could not be fully parsed.

@@ -1,6 +1,7 @@
 #include "app/CleanUps.h"
 
 #include "app/AppTexts.h"
+#include "app/ExclusionList.h"
 #include "app/Results.h"
 #include "app/Storage.h"
 #include "clean/History.h"
@@ -21,9 +22,9 @@ constexpr std::chrono::milliseconds kReportInterval{66};
 
 } // namespace
 
-CleanUps::CleanUps(std::vector<CleanRecord> history, Access access, Results& results, Storage& storage,
-                   QObject* parent)
-    : ModelPart(parent), m_access(access), m_results(results), m_storage(storage),
+CleanUps::CleanUps(std::vector<CleanRecord> history, Access access, Results& results,
+                   const ExclusionList& exclusions, Storage& storage, QObject* parent)
+    : ModelPart(parent), m_access(access), m_results(results), m_exclusions(exclusions), m_storage(storage),
       m_history(std::move(history)), m_workers(*this)
 {
 }
@@ -66,10 +67,10 @@ void CleanUps::confirm(const CleanPlan& plan)
     m_pending.push_back(pending);
     const auto stillOn = std::make_shared<std::vector<std::string>>();
     m_stop = m_workers.start(
-        [entries = std::move(entries), title = plan.title, report = cleaningReport(number), pending,
-         stillOn](const std::stop_token& stop) {
+        [entries = std::move(entries), title = plan.title, report = cleaningReport(number), pending, stillOn,
+         exclusions = m_exclusions.current()](const std::stop_token& stop) {
             *stillOn = UnitShutdown::run(entries);
-            *pending = Cleaner::run(entries, title, report, stop);
+            *pending = Cleaner::run(entries, title, report, stop, exclusions);
             return PendingCleanUp(pending);
         },
         [this, number, stillOn](const PendingCleanUp& cleaned) {

@@ -15,6 +15,7 @@
 
 namespace orlen {
 
+class ExclusionList;
 class Results;
 class Storage;
 
@@ -27,9 +28,10 @@ public:
     /// Whether moves can be recorded. A reader must not start any.
     enum class Access { reader, writer };
 
-    /// Moved items are removed from `results`, and `storage` is updated afterwards; both outlive this.
-    CleanUps(std::vector<CleanRecord> history, Access access, Results& results, Storage& storage,
-             QObject* parent = nullptr);
+    /// Moved items are removed from `results`, what `exclusions` lists is not moved, and `storage` is updated
+    /// afterwards; all outlive this.
+    CleanUps(std::vector<CleanRecord> history, Access access, Results& results,
+             const ExclusionList& exclusions, Storage& storage, QObject* parent = nullptr);
     ~CleanUps() override;
 
     /// Empty while no clean-up is shown.
@@ -87,6 +89,7 @@ private:
 
     const Access m_access;
     Results& m_results;
+    const ExclusionList& m_exclusions;
     Storage& m_storage;
     std::optional<CleaningState> m_cleaning;
     std::vector<CleanRecord> m_history;

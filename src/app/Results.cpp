@@ -2,6 +2,7 @@
 
 #include "app/AppTexts.h"
 #include "app/DiskAccess.h"
+#include "app/ExclusionList.h"
 #include "app/Storage.h"
 #include "clean/Safety.h"
 #include "model/Rater.h"
@@ -12,6 +13,8 @@
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <utility>
 
 namespace orlen {
@@ -53,6 +56,20 @@ std::set<std::string> preselected(const std::vector<Finding>& findings)
     return paths;
 }
 
+/// Puts the entries back among the findings that they were taken from.
+void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)
+{
+    for (Finding& finding : taken) {
+        const auto same = std::ranges::find(findings, finding.kind, &Finding::kind);
+        if (same == findings.end()) {
+            findings.push_back(std::move(finding));
+            continue;
+        }
+        std::ranges::move(finding.items, std::back_inserter(same->items));
+        std::ranges::stable_sort(same->items, std::greater(), &FileEntry::size);
+    }
+}
+
 } // namespace
 
 struct Results::ScanResult {
@@ -60,10 +77,16 @@ struct Results::ScanResult {
     StorageBreakdown breakdown;
 };
 
-Results::Results(Storage& storage, ImageWorkers::Options images, QObject* parent)
-    : ModelPart(parent), m_storage(storage), m_images(std::move(images)), m_isFdaGranted(checkFDA()),
-      m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
+Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers::Options images,
+                 QObject* parent)
+    : ModelPart(parent), m_storage(storage), m_exclusions(exclusions), m_images(std::move(images)),
+      m_isFdaGranted(checkFDA()), m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
 {
+    connect(&exclusions, &ExclusionList::changed, this, [this] {
+        std::set<std::string> selection = m_selection;
+        selection.merge(m_excludedSelection);
+        applyExclusions(std::move(selection));
+    });
     // Before anyone is notified of the new findings.
     connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
 }
@@ -125,16 +148,34 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
         setPhase(Phase::idle);
         return;
     }
-    std::stable_sort(result.findings.begin(), result.findings.end(), comesBefore);
     m_findings = std::move(result.findings);
+    m_excluded.clear();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
-    Q_EMIT findingsChanged();
-    setSelection(preselected(m_findings));
+    applyExclusions(preselected(m_findings));
     m_storage.setBreakdown(std::move(result.breakdown));
     m_lastScan = std::chrono::system_clock::now();
     Q_EMIT lastScanChanged();
     m_storage.recordSnapshot();
     setPhase(Phase::results);
+}
+
+void Results::applyExclusions(std::set<std::string> selection)
+{
+    giveBack(m_findings, std::exchange(m_excluded, {}));
+    m_excluded = m_exclusions.current().takeFrom(m_findings);
+    std::ranges::stable_sort(m_findings, comesBefore);
+    Q_EMIT findingsChanged();
+
+    m_excludedSelection.clear();
+    for (const Finding& finding : m_excluded) {
+        for (const FileEntry& entry : finding.items) {
+            if (auto path = selection.extract(entry.path))
+                m_excludedSelection.insert(std::move(path));
+        }
+    }
+    // Something inside a folder may have been deselected while the folder was excluded.
+    PathSelection::dropOpenFolders(selection, listed());
+    setSelection(std::move(selection));
 }
 
 void Results::cancelScan()

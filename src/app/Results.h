@@ -18,6 +18,7 @@
 
 namespace orlen {
 
+class ExclusionList;
 class ScanEngine;
 class ScanProgress;
 class Storage;
@@ -32,9 +33,10 @@ class Results : public ModelPart {
     Q_PROPERTY(bool fdaGranted READ isFdaGranted NOTIFY fdaGrantedChanged)
 
 public:
-    /// A scan passes its storage breakdown to `storage`, which outlives this. `images` says how photos are
-    /// analysed.
-    Results(Storage& storage, ImageWorkers::Options images, QObject* parent = nullptr);
+    /// A scan passes its storage breakdown to `storage`. What `exclusions` lists is no result, and is one
+    /// again when it is removed from that list. Both outlive this. `images` says how photos are analysed.
+    Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers::Options images,
+            QObject* parent = nullptr);
     ~Results() override;
 
     [[nodiscard]] Phase phase() const { return m_phase; }
@@ -111,14 +113,19 @@ private:
 
     void setPhase(Phase phase);
     [[nodiscard]] static ScanResult scanned(ScanEngine& engine);
+    /// Divides what was found into what is offered and what is not, and selects of it what is offered.
+    void applyExclusions(std::set<std::string> selection);
     void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
 
     Storage& m_storage;
+    const ExclusionList& m_exclusions;
     const ImageWorkers::Options m_images;
     Phase m_phase = Phase::idle;
     std::vector<Finding> m_findings;
     mutable std::optional<PathTree> m_listed; ///< of these findings; built when first needed
     std::set<std::string> m_selection;
+    std::vector<Finding> m_excluded;           ///< found, but not offered
+    std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;
     std::shared_ptr<ScanEngine> m_engine;

@@ -4,8 +4,10 @@
 #include "clean/Journal.h"
 #include "clean/Reserve.h"
 #include "clean/Safety.h"
+#include "clean/trash/RealPath.h"
 #include "clean/trash/Trash.h"
 #include "model/PathSelection.h"
+#include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -19,16 +21,38 @@ namespace {
 
 using Journals::State;
 
+/// Whether the path, or where it really leads, is excluded.
+bool isExcluded(const std::string& path, const Exclusions& exclusions)
+{
+    if (exclusions.isEmpty())
+        return false;
+    if (exclusions.excludes(path) != nullptr)
+        return true;
+    const auto real = RealPath::of(path);
+    return real.ok() && exclusions.excludes(Places::current().normalized(real.value().text())) != nullptr;
+}
+
+/// Why the path must stay whatever lies there.
+std::optional<FailureReason> objection(const std::string& path, const Exclusions& exclusions)
+{
+    // The history is text: an item with a name it cannot hold could never be put back.
+    if (!PathText::isValidUtf8(path) || Safety::isProtected(path))
+        return FailureReason::isProtected;
+    return isExcluded(path, exclusions) ? std::optional(FailureReason::excluded) : std::nullopt;
+}
+
 /// Moves entries one by one and keeps track of what its own moves have changed.
 class Mover {
 public:
-    explicit Mover(const std::vector<FileEntry>& entries) : m_entries(entries) {}
+    Mover(const std::vector<FileEntry>& entries, const Exclusions& exclusions)
+        : m_entries(entries), m_exclusions(exclusions)
+    {
+    }
 
     [[nodiscard]] std::variant<TrashedItem, FailureReason> move(const FileEntry& entry)
     {
-        // The history is text: an item with a name it cannot hold could never be put back.
-        if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
-            return FailureReason::isProtected;
+        if (const auto reason = objection(entry.path, m_exclusions))
+            return *reason;
         if (entry.kept && !stays(*entry.kept))
             return FailureReason::changed;
         const auto stamp = entry.stamp ? std::optional(today(*entry.stamp)) : std::nullopt;
@@ -70,16 +94,17 @@ private:
         FileStamp after;
     };
     const std::vector<FileEntry>& m_entries;
+    const Exclusions& m_exclusions;
     std::map<FileIdentity, Change> m_moved;
 };
 
 /// What the clean-up is going to move. An entry without a stamp gets the current one, so that what moves
 /// matches the journal.
-Journal planned(std::vector<FileEntry>& entries, const std::string& title)
+Journal planned(std::vector<FileEntry>& entries, const std::string& title, const Exclusions& exclusions)
 {
     Journal journal{Uuid::random(), std::chrono::system_clock::now(), title, {}};
     for (FileEntry& entry : entries) {
-        if (!PathText::isValidUtf8(entry.path) || Safety::isProtected(entry.path))
+        if (objection(entry.path, exclusions))
             continue;
         const auto status = statusOf(entry.path);
         if (!status.ok())
@@ -159,12 +184,12 @@ Restored refusedRestore(CleanRecord record, FailureReason reason)
 } // namespace
 
 Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
-            const std::stop_token& stop)
+            const std::stop_token& stop, const Exclusions& exclusions)
 {
     Safety::refresh();
     Reserve::refill();
     std::vector<FileEntry> kept = PathSelection::outermost(std::move(entries));
-    const Journal journal = planned(kept, title);
+    const Journal journal = planned(kept, title, exclusions);
     Cleaned cleaned;
     cleaned.record.id = journal.id;
     cleaned.record.title = title;
@@ -175,7 +200,7 @@ Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Prog
             return refused(std::move(cleaned), kept, FailureReasons::ofCleaning(written.error()));
         }
     }
-    Mover mover(kept);
+    Mover mover(kept, exclusions);
     for (int index = 0; index < total && !stop.stop_requested(); ++index) {
         const FileEntry& entry = kept[static_cast<std::size_t>(index)];
         progress(index, total, std::string(PathText::lastComponent(entry.path)));

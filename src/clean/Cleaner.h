@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clean/CleanRecord.h"
+#include "clean/Exclusions.h"
 #include "model/CleanFailure.h"
 #include "model/FileEntry.h"
 
@@ -26,11 +27,12 @@ struct Cleaned {
 };
 
 /// Moves the entries in path order, skipping those inside another entry. An entry fails if it is protected,
-/// missing, refused by the system, or no longer what was shown: something else has its name, it was written
-/// to or is open for writing, or it is a duplicate whose kept copy has changed, is gone or is about to go as
-/// well. A stop request lets the current item finish; the rest is neither moved nor counted as failed.
+/// excluded, missing, refused by the system, or no longer what was shown: something else has its name, it was
+/// written to or is open for writing, or it is a duplicate whose kept copy has changed, is gone or is about
+/// to go as well. A stop request lets the current item finish; the rest is neither moved nor counted as
+/// failed.
 [[nodiscard]] Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
-                          const std::stop_token& stop = {});
+                          const std::stop_token& stop = {}, const Exclusions& exclusions = {});
 
 struct Restored {
     CleanRecord record; ///< with `restored` set on each item put back

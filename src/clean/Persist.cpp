@@ -1,5 +1,6 @@
 #include "clean/Persist.h"
 
+#include "clean/ExclusionJson.h"
 #include "clean/RecordJson.h"
 #include "clean/Reserve.h"
 #include "platform/files/FileContent.h"
@@ -24,6 +25,8 @@ namespace {
 
 /// More than a lifetime's history; reading it takes little more memory than this.
 constexpr std::size_t kLimit = 32'000'000;
+/// Thousands of long paths.
+constexpr std::size_t kExclusionsLimit = 4'000'000;
 /// How many unreadable files of each kind are kept.
 constexpr std::size_t kKeptAside = 3;
 
@@ -31,10 +34,16 @@ template <typename Record>
 struct Kind {
     std::string_view stem; ///< of the file's name
     RecordJson::Decoded<Record> (*decode)(std::string text);
+    nlohmann::ordered_json (*encode)(const Record& record);
+    std::string_view gap; ///< before each record and after the last
+    std::size_t limit;    ///< bytes of the file
 };
 
-constexpr Kind<CleanRecord> kHistory{"history", RecordJson::decodeHistory};
-constexpr Kind<Snapshot> kSnapshots{"scans", RecordJson::decodeSnapshots};
+constexpr Kind<CleanRecord> kHistory{"history", RecordJson::decodeHistory, RecordJson::encode, "", kLimit};
+constexpr Kind<Snapshot> kSnapshots{"scans", RecordJson::decodeSnapshots, RecordJson::encode, "", kLimit};
+/// One to a line: this file is meant to be read by people as well.
+constexpr Kind<Exclusion> kExclusions{"exclusions", ExclusionJson::decode, ExclusionJson::encode, "\n",
+                                      kExclusionsLimit};
 
 std::string fileName(std::string_view stem)
 {
@@ -50,12 +59,12 @@ std::map<std::string, int>& failedLoads()
 
 /// ENOENT if the file does not exist. ENOTDIR if it is a link into a missing folder, such as a disk that is
 /// not plugged in today.
-Result<std::string> readLinked(const std::string& path)
+Result<std::string> readLinked(const std::string& path, std::size_t limit)
 {
     const auto end = linkEnd(path);
     if (!end.ok())
         return Errno{end.error()};
-    auto text = readWholeFile(end.value(), kLimit);
+    auto text = readWholeFile(end.value(), limit);
     if (text.error() != ENOENT && text.error() != ENOTDIR)
         return text;
     const bool isHidden =
@@ -70,7 +79,7 @@ Loaded<Record> load(const Kind<Record>& kind)
     failedLoads().erase(path);
     // Probes a network disk that holds the folder; reading then finds it answering or not.
     (void)Reachability::admit(dir());
-    auto text = readLinked(path);
+    auto text = readLinked(path, kind.limit);
     if (text.error() == EFBIG)
         return {{}, Problem::damaged};
     if (text.error() == ENOENT)
@@ -117,7 +126,7 @@ Result<void> makeReplaceable(const std::string& path, const std::string& file, c
         return {};
     if (const auto failed = failedLoads().find(path); failed != failedLoads().end())
         return Errno{failed->second};
-    auto text = readWholeFile(file, kLimit);
+    auto text = readWholeFile(file, kind.limit);
     if (!text.ok() && text.error() != EFBIG)
         return Errno{text.error()};
     if (text.ok() && kind.decode(std::move(text).value()).isWhole)
@@ -126,16 +135,16 @@ Result<void> makeReplaceable(const std::string& path, const std::string& file, c
 }
 
 template <typename Record>
-std::string encoded(const std::vector<Record>& records)
+std::string encoded(const std::vector<Record>& records, const Kind<Record>& kind)
 {
     using Json = nlohmann::ordered_json;
     std::string text = "[";
     for (const Record& record : records) {
-        text.append(text.size() > 1 ? "," : "");
+        text.append(text.size() > 1 ? "," : "").append(kind.gap);
         // Invalid UTF-8 becomes U+FFFD: one unreadable name must not cost the whole file.
-        text += RecordJson::encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
+        text += kind.encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
     }
-    return text + ']';
+    return text.append(kind.gap) + ']';
 }
 
 template <typename Record>
@@ -148,9 +157,9 @@ Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
     const auto file = linkEnd(path);
     if (!file.ok())
         return Errno{file.error()};
-    const std::string text = encoded(records);
+    const std::string text = encoded(records, kind);
     // It could not be read again.
-    if (text.size() > kLimit)
+    if (text.size() > kind.limit)
         return Errno{EFBIG};
     if (auto ready = makeReplaceable(path, file.value(), kind); !ready.ok())
         return ready;
@@ -203,6 +212,16 @@ Loaded<CleanRecord> loadHistory()
 Loaded<Snapshot> loadSnapshots()
 {
     return load(kSnapshots);
+}
+
+Result<void> saveExclusions(const std::vector<Exclusion>& exclusions)
+{
+    return exclusions.size() > ExclusionJson::kMost ? Errno{EFBIG} : save(exclusions, kExclusions);
+}
+
+Loaded<Exclusion> loadExclusions()
+{
+    return load(kExclusions);
 }
 
 } // namespace orlen::Persist

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "clean/CleanRecord.h"
+#include "clean/Exclusion.h"
 #include "clean/Snapshot.h"
 #include "platform/values/Result.h"
 
 #include <string>
 #include <vector>
 
-/// The two files of the program's data, in the data folder "Orlen". A file that is a link stays one; its
+/// The three files of the program's data, in the data folder "Orlen". A file that is a link stays one; its
 /// target is read and written. Main thread; calls are synchronous and small.
 namespace orlen::Persist {
 
@@ -37,6 +38,8 @@ struct Loaded {
 [[nodiscard]] Loaded<CleanRecord> loadHistory();
 /// "scans.json", oldest first.
 [[nodiscard]] Loaded<Snapshot> loadSnapshots();
+/// "exclusions.json", in the order they were added.
+[[nodiscard]] Loaded<Exclusion> loadExclusions();
 
 /// Replaces the file. On failure, such as ENOSPC, the old file stays. A file that could not be read when last
 /// loaded, or cannot be read now, is not overwritten; the errno is that of reading. A file that cannot be
@@ -44,5 +47,7 @@ struct Loaded {
 [[nodiscard]] Result<void> saveHistory(const std::vector<CleanRecord>& history);
 /// The same for "scans.json".
 [[nodiscard]] Result<void> saveSnapshots(const std::vector<Snapshot>& snapshots);
+/// The same for "exclusions.json". EFBIG for more than can be read again.
+[[nodiscard]] Result<void> saveExclusions(const std::vector<Exclusion>& exclusions);
 
 } // namespace orlen::Persist

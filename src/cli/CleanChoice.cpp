@@ -48,10 +48,11 @@ bool CleanChoice::isWanted(std::string_view kind) const
 }
 
 CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
-                                       const std::set<std::string>& preselected) const
+                                       const std::set<std::string>& preselected,
+                                       const Exclusions& exclusions) const
 {
     if (!paths.empty())
-        return exactPaths(findings);
+        return exactPaths(findings, exclusions);
     Result result;
     std::vector<std::string_view> candidates;
     for (const Finding& finding : findings) {
@@ -70,11 +71,14 @@ CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
     return result;
 }
 
-CleanChoice::Result CleanChoice::exactPaths(const std::vector<Finding>& findings) const
+CleanChoice::Result CleanChoice::exactPaths(const std::vector<Finding>& findings,
+                                            const Exclusions& exclusions) const
 {
     Result result;
     for (const std::string& argument : paths) {
         const std::string path = PathArgument::absolute(argument);
+        if (exclusions.excludes(path) != nullptr)
+            return {{}, Format::quoted(argument).append(Texts::kExcludedStays)};
         std::string problem = objection(standing(findings, path), argument, path);
         if (!problem.empty())
             return {{}, std::move(problem)};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clean/Exclusions.h"
 #include "model/CleanPlan.h"
 #include "model/Finding.h"
 
@@ -19,16 +20,17 @@ struct CleanChoice {
         std::set<std::string> paths;
         std::string objection; ///< what is wrong with the choice; if set, nothing may move
     };
-    /// Applies the choice to the findings and to what the scan pre-selected.
-    [[nodiscard]] Result apply(const std::vector<Finding>& findings,
-                               const std::set<std::string>& preselected) const;
+    /// Applies the choice to the findings and to what the scan pre-selected. The findings are already without
+    /// what `exclusions` lists.
+    [[nodiscard]] Result apply(const std::vector<Finding>& findings, const std::set<std::string>& preselected,
+                               const Exclusions& exclusions = {}) const;
 
     /// The plan without sections of other kinds, since one path can be in several findings.
     [[nodiscard]] CleanPlan limited(CleanPlan plan) const;
 
 private:
     [[nodiscard]] bool isWanted(std::string_view kind) const;
-    [[nodiscard]] Result exactPaths(const std::vector<Finding>& findings) const;
+    [[nodiscard]] Result exactPaths(const std::vector<Finding>& findings, const Exclusions& exclusions) const;
 };
 
 } // namespace orlen

@@ -53,8 +53,8 @@ public:
             return session.refuse(Texts::kOtherWriter);
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
-        CleanChoice::Result chosen =
-            m_choice.apply(model.results()->findings(), model.results()->selection());
+        CleanChoice::Result chosen = m_choice.apply(model.results()->findings(), model.results()->selection(),
+                                                    model.exclusions()->current());
         if (!chosen.objection.empty())
             return session.refuse(chosen.objection);
         model.results()->setSelection(std::move(chosen.paths));

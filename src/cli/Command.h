@@ -53,6 +53,7 @@ std::unique_ptr<Command> makeLeftoversCommand();
 std::unique_ptr<Command> makeUninstallCommand();
 std::unique_ptr<Command> makeStartupCommand();
 std::unique_ptr<Command> makeExplainCommand();
+std::unique_ptr<Command> makeExcludeCommand();
 std::unique_ptr<Command> makeAdviceCommand();
 
 } // namespace orlen

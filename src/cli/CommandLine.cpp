@@ -33,10 +33,11 @@ struct Registered {
 std::vector<std::unique_ptr<Command>> allCommands()
 {
     std::vector<std::unique_ptr<Command>> commands;
-    for (const auto make : {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand,
-                            makeBreakdownCommand, makePredictCommand, makeAskCommand, makeDuplicatesCommand,
-                            makePhotosCommand, makeMapCommand, makeAppsCommand, makeLeftoversCommand,
-                            makeUninstallCommand, makeStartupCommand, makeExplainCommand, makeAdviceCommand})
+    for (const auto make :
+         {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand, makeBreakdownCommand,
+          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makePhotosCommand, makeMapCommand,
+          makeAppsCommand, makeLeftoversCommand, makeUninstallCommand, makeStartupCommand, makeExplainCommand,
+          makeExcludeCommand, makeAdviceCommand})
         commands.push_back(make());
     return commands;
 }

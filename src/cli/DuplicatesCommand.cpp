@@ -28,6 +28,17 @@ std::vector<Cand> input(Walk::Found found)
     return cands;
 }
 
+/// An excluded file is no copy to remove, but may be the one that is kept.
+void dropCopies(Duplicates::Result& result, const Exclusions& exclusions)
+{
+    for (Duplicates::Set& set : result.sets) {
+        std::erase_if(set.copies, [&](const Duplicates::Copy& copy) {
+            return exclusions.excludes(copy.file.path) != nullptr;
+        });
+    }
+    std::erase_if(result.sets, [](const Duplicates::Set& set) { return set.copies.empty(); });
+}
+
 struct Search {
     Duplicates::Result result;
     Seconds duration{0};
@@ -72,12 +83,13 @@ public:
     }
 
 private:
-    [[nodiscard]] Search search(const std::vector<std::string>& folders, ScanProgress& progress,
-                                const std::stop_token& stop) override
+    [[nodiscard]] Search search(const std::vector<std::string>& folders, const Exclusions& exclusions,
+                                ScanProgress& progress, const std::stop_token& stop) override
     {
         const auto started = std::chrono::steady_clock::now();
         const Walk::Found found = FolderSearch::walked(folders, progress, stop);
         Search search{Duplicates::find(input(found), stop)};
+        dropCopies(search.result, exclusions);
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
     }

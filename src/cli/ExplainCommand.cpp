@@ -5,6 +5,7 @@
 #include "cli/FindingTable.h"
 #include "cli/JsonDocuments.h"
 #include "cli/PathArgument.h"
+#include "cli/SavedExclusions.h"
 #include "cli/Texts.h"
 #include "model/ByteCount.h"
 #include "platform/text/PathText.h"
@@ -32,6 +33,15 @@ std::string offer(const Finding& finding, const std::string& path, const Colours
     return text;
 }
 
+/// Which line excludes the path. With findings, it leads over to what they would do otherwise.
+std::string exclusionText(const Exclusion& exclusion, bool isAll)
+{
+    const bool isPath = exclusion.kind == Exclusion::Kind::path;
+    return std::string(Texts::kExcludedBy) + (isPath ? "" : "the name ") +
+           (isPath ? Format::shownPath(exclusion.text) : Format::quoted(exclusion.text)) +
+           std::string(isAll ? Texts::kNeitherOfferedNorMoved : Texts::kOfferedOtherwise) + '\n';
+}
+
 void print(const Explanation& told)
 {
     const Colours colours = Session::colours();
@@ -41,9 +51,11 @@ void print(const Explanation& told)
     if (told.protection != Protection::none)
         text += "Protected, " + std::string(label(told.protection)) + ": " +
                 std::string(reason(told.protection)) + '\n';
+    if (told.exclusion)
+        text += exclusionText(*told.exclusion, told.findings.empty());
     for (const Finding& finding : told.findings)
         text += offer(finding, told.path, colours);
-    if (told.findings.empty() && told.protection == Protection::none)
+    if (told.findings.empty() && told.protection == Protection::none && !told.exclusion)
         text += std::string(Texts::kOfferedNowhere) + '\n';
     Session::print(text);
 }
@@ -63,9 +75,10 @@ public:
         if (path.empty() || (wantsJson() && !PathText::isValidUtf8(path)))
             return session.refuse(Format::quoted(m_argument).append(Texts::kNoTextInDocument));
         Safety::refresh();
+        const Exclusions exclusions = SavedExclusions::load(session);
         const auto told = Background::resultUnlessCancelled(
             session, [&] { return std::string(Texts::kMeasuringFolder) + Format::shownPath(path); },
-            [&](const std::stop_token& stop) { return explain(path, kLargeFile, stop); });
+            [&](const std::stop_token& stop) { return explain(path, kLargeFile, exclusions, stop); });
         if (!told)
             return session.cancelled();
         if (wantsJson())

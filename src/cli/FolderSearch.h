@@ -1,10 +1,12 @@
 #pragma once
 
 #include "app/Format.h"
+#include "clean/Exclusions.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
+#include "cli/SavedExclusions.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/Walk.h"
 
@@ -49,6 +51,7 @@ public:
         const auto folders = FolderSearch::checked(session, m_arguments);
         if (!folders)
             return ExitStatus::wrongCall;
+        const Exclusions exclusions = SavedExclusions::load(session);
         ScanProgress progress;
         const std::optional<Found> found = Background::resultUnlessCancelled(
             session,
@@ -56,7 +59,7 @@ public:
                 return Format::counted(progress.files(), "file") + " examined · " +
                        Format::shownPath(progress.current());
             },
-            [&](const std::stop_token& stop) { return search(*folders, progress, stop); });
+            [&](const std::stop_token& stop) { return search(*folders, exclusions, progress, stop); });
         if (!found)
             return session.cancelled();
         if (wantsJson())
@@ -67,9 +70,9 @@ public:
     }
 
 private:
-    /// Runs on a worker.
-    [[nodiscard]] virtual Found search(const std::vector<std::string>& folders, ScanProgress& progress,
-                                       const std::stop_token& stop) = 0;
+    /// Runs on a worker. What is excluded is not among what is found.
+    [[nodiscard]] virtual Found search(const std::vector<std::string>& folders, const Exclusions& exclusions,
+                                       ScanProgress& progress, const std::stop_token& stop) = 0;
     [[nodiscard]] virtual JsonDocuments::Json document(const Found& found) const = 0;
     virtual void print(const Found& found) const = 0;
     /// What is said after the result.

@@ -1,6 +1,7 @@
 #include "cli/JsonDocuments.h"
 
 #include "app/AppModel.h"
+#include "clean/ExclusionJson.h"
 #include "clean/RecordJson.h"
 #include "scan/ScanProgress.h"
 
@@ -240,6 +241,9 @@ Json explanation(const Explanation& explanation)
                  {"protected", explanation.protection != Protection::none}};
     if (explanation.protection != Protection::none)
         json["rule"] = label(explanation.protection);
+    json["excluded"] = explanation.exclusion.has_value();
+    if (explanation.exclusion)
+        json["exclusion"] = ExclusionJson::encode(*explanation.exclusion);
     json["findings"] = array(explanation.findings, [](const Finding& finding) {
         const FileEntry& entry = finding.items.front();
         Json offer = {{"kind", orlen::rawValue(finding.kind)},
@@ -252,6 +256,11 @@ Json explanation(const Explanation& explanation)
     });
     json["size"] = explanation.size;
     return json;
+}
+
+Json exclusions(const std::vector<Exclusion>& exclusions)
+{
+    return array(exclusions, ExclusionJson::encode);
 }
 
 Json apps(const std::vector<AppInfo>& apps)

@@ -46,6 +46,7 @@ using Seconds = std::chrono::duration<double>;
                           Seconds duration);
 [[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
 [[nodiscard]] Json explanation(const Explanation& explanation);
+[[nodiscard]] Json exclusions(const std::vector<Exclusion>& exclusions);
 [[nodiscard]] Json apps(const std::vector<AppInfo>& apps);
 [[nodiscard]] Json leftovers(const std::vector<FileEntry>& leftovers);
 [[nodiscard]] Json startupItem(const LaunchItem& item);

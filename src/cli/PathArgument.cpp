@@ -15,6 +15,18 @@ std::string absolute(const std::string& argument)
     return Places::current().normalized(path);
 }
 
+std::string located(const std::string& argument)
+{
+    std::string path = absolute(argument);
+    const std::string parent(PathText::parent(path));
+    if (parent.empty() || !Reachability::admit(parent).ok())
+        return path;
+    const std::string folder = resolved(parent);
+    return folder.empty()
+               ? path
+               : Places::current().normalized(PathText::join(folder, PathText::lastComponent(path)));
+}
+
 std::string readableFolder(const std::string& argument)
 {
     if (!Reachability::admit(argument).ok())

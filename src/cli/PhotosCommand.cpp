@@ -27,6 +27,16 @@ struct PhotoSearch {
     Seconds duration{0};
 };
 
+/// All findings without what is excluded, even if nothing is left of one.
+std::vector<Finding> offered(std::vector<Finding> findings, const Exclusions& exclusions)
+{
+    for (Finding& finding : findings) {
+        std::erase_if(finding.items,
+                      [&](const FileEntry& entry) { return exclusions.excludes(entry.path) != nullptr; });
+    }
+    return findings;
+}
+
 void printFindings(const PhotoSearch& found)
 {
     std::vector<Finding> shown;
@@ -62,8 +72,8 @@ public:
     }
 
 private:
-    [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, ScanProgress& progress,
-                                     const std::stop_token& stop) override
+    [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, const Exclusions& exclusions,
+                                     ScanProgress& progress, const std::stop_token& stop) override
     {
         const auto started = std::chrono::steady_clock::now();
         ScanFlag flag;
@@ -76,7 +86,7 @@ private:
             &memory);
         PhotoSearch search{analyzer.analyze(found.images).photos};
         if (!stop.stop_requested())
-            search.findings = Rater::rate(PhotoAnalyzer::findings(search.photos, stop));
+            search.findings = Rater::rate(offered(PhotoAnalyzer::findings(search.photos, stop), exclusions));
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
     }

@@ -54,6 +54,24 @@ inline constexpr std::string_view kNoTextInDocument = " is not UTF-8, so no docu
 inline constexpr std::string_view kNotThere = "nothing there";
 inline constexpr std::string_view kOfferedNowhere = "Not protected, and no known place offers it. Whether it "
                                                     "is a duplicate or a photo to review, a scan tells.";
+inline constexpr std::string_view kNothingExcluded = "Nothing is excluded.";
+inline constexpr std::string_view kHowToExclude = "`orlen exclude add PATH` and `orlen exclude remove PATH` "
+                                                  "change this list; --name takes every entry of a name.";
+inline constexpr std::string_view kPathOrName = "give a path, or a name with --name.";
+inline constexpr std::string_view kNoName = " is no name that a file or folder can have.";
+inline constexpr std::string_view kNowExcluded = " is excluded: it is neither offered nor moved.";
+inline constexpr std::string_view kNameNowExcluded =
+    " is excluded: no entry of this name is offered or moved; a folder that only holds one may be.";
+inline constexpr std::string_view kNoLongerExcluded = " is no longer excluded.";
+inline constexpr std::string_view kExcludedStays = " is excluded and stays where it is.";
+inline constexpr std::string_view kNotExcluded = " is not in the list of exclusions.";
+inline constexpr std::string_view kExclusionNotThere =
+    " is not there now; it stays excluded in case it comes.";
+inline constexpr std::string_view kTooManyExclusions = "the list of exclusions is full.";
+inline constexpr std::string_view kExclusionsNotSaved = "the list of exclusions could not be saved: ";
+inline constexpr std::string_view kExcludedBy = "Excluded by ";
+inline constexpr std::string_view kNeitherOfferedNorMoved = ": neither offered nor moved.";
+inline constexpr std::string_view kOfferedOtherwise = ": neither offered nor moved. Otherwise it would be:";
 inline constexpr std::string_view kNoApps = "No applications found.";
 inline constexpr std::string_view kLookingForApps = "Looking for applications";
 inline constexpr std::string_view kMeasuringApps = "Measuring applications";

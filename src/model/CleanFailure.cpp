@@ -6,6 +6,7 @@ std::string_view rawValue(FailureReason reason)
 {
     switch (reason) {
     case FailureReason::isProtected:
+    case FailureReason::excluded:
         return "protected";
     case FailureReason::missing:
         return "missing";
@@ -34,6 +35,8 @@ std::string_view reasonText(FailureReason reason)
     switch (reason) {
     case FailureReason::isProtected:
         return "protected";
+    case FailureReason::excluded:
+        return "excluded by you";
     case FailureReason::missing:
         return "no longer there";
     case FailureReason::changed:
@@ -59,6 +62,8 @@ std::string_view reasonText(FailureReason reason)
 std::string_view remedyText(FailureReason reason)
 {
     switch (reason) {
+    case FailureReason::excluded:
+        return "Remove it from the exclusions first.";
     case FailureReason::changed:
         return "Scan again to see what is there now.";
     case FailureReason::permission:

@@ -9,6 +9,7 @@ namespace orlen {
 /// Why an item was not moved to the Trash or back.
 enum class FailureReason {
     isProtected, ///< the rules forbid it
+    excluded,    ///< the user forbids it
     missing,     ///< nothing is there
     changed,     ///< not what was shown: replaced, written to, or the copy to be kept is gone
     permission,  ///< the system refuses
@@ -20,7 +21,7 @@ enum class FailureReason {
     other,
 };
 
-/// The name used in JSON: "protected", "missing", "changed" and so on.
+/// The name used in JSON: "protected" (also for what is excluded), "missing", "changed" and so on.
 [[nodiscard]] std::string_view rawValue(FailureReason reason);
 /// The reason in a few words, shown after a path.
 [[nodiscard]] std::string_view reasonText(FailureReason reason);

@@ -13,6 +13,7 @@
 #include "scan/walk/WalkRules.h"
 
 #include <chrono>
+#include <optional>
 #include <utility>
 
 namespace orlen {
@@ -51,13 +52,27 @@ std::vector<Finding> walkedFindings(const std::string& path, std::int64_t largeT
                        std::chrono::system_clock::now(), recent, stop);
 }
 
+/// The line that excludes the path, or else an entry of the findings.
+std::optional<Exclusion> exclusionOf(const std::string& path, const std::vector<Finding>& findings,
+                                     const Exclusions& exclusions)
+{
+    const Exclusion* line = exclusions.excludes(path);
+    for (const Finding& finding : findings) {
+        if (line == nullptr)
+            line = exclusions.excludes(finding.items.front().path);
+    }
+    return line == nullptr ? std::nullopt : std::optional(*line);
+}
+
 } // namespace
 
-Explanation explain(const std::string& path, std::int64_t largeThreshold, const std::stop_token& stop)
+Explanation explain(const std::string& path, std::int64_t largeThreshold, const Exclusions& exclusions,
+                    const std::stop_token& stop)
 {
     Explanation told{.path = path};
     told.exists = exists(path);
     told.protection = Safety::protection(path);
+    told.exclusion = exclusionOf(path, {}, exclusions);
     if (!told.exists)
         return told;
     told.size = FS::entry(path, {}, stop).size;
@@ -76,6 +91,7 @@ Explanation explain(const std::string& path, std::int64_t largeThreshold, const 
         }
     }
     told.findings = Rater::rate(std::move(findings));
+    told.exclusion = exclusionOf(path, told.findings, exclusions);
     return told;
 }
 

@@ -125,6 +125,21 @@ TEST_F(CleanerTest, countsWhatItMayNotOrCannotMove)
     EXPECT_EQ(clean({entry(home.path()), entry(home.path("locked/file"))}).failed, 1);
 }
 
+TEST_F(CleanerTest, whatIsExcludedStaysUnderWhateverName)
+{
+    (void)home.file("a/kept");
+    (void)home.file("b/x");
+    (void)home.link("link", home.path("a"));
+    const Exclusions exclusions({{Exclusion::Kind::path, home.path("a/kept")}}, home.path());
+    const auto cleaned = Cleaner::run(
+        {entry(home.path("a")), entry(home.path("link/kept")), entry(home.path("b"))}, "Test",
+        [](int, int, const std::string&) {}, {}, exclusions);
+    EXPECT_THAT(cleaned.failures, ElementsAre(CleanFailure{home.path("a"), FailureReason::excluded},
+                                              CleanFailure{home.path("link/kept"), FailureReason::excluded}));
+    EXPECT_TRUE(TempHome::exists(home.path("a/kept")));
+    EXPECT_FALSE(TempHome::exists(home.path("b")));
+}
+
 TEST_F(CleanerTest, movesNothingWithoutAUsableHome)
 {
     const std::string path = home.file("a");
