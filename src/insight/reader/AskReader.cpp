@@ -142,13 +142,16 @@ std::optional<Answer> answer(std::string_view text, const AskContext& context)
     if (text.size() > kLongestQuestion || !PathText::isValidUtf8(text) || isSuggested(text))
         return std::nullopt;
     const auto isKnownName = [&](std::string_view each) { return isWordOfName(context, each); };
-    if (auto found = firstReply(read(text, context.now, isKnownName), context))
-        return found;
-    // What looked like a typing error may have been meant as it stands.
-    const Question asTyped = read(text, context.now, [](std::string_view) { return true; });
-    if (auto found = firstReply(asTyped, context))
-        return found;
-    return isAboutSomethingElse(asTyped) ? std::optional(unknownAnswer()) : std::nullopt;
+    Question question = read(text, context.now, isKnownName);
+    std::optional<Answer> found = firstReply(question, context);
+    if (!found && question.isCorrected) {
+        // What looked like a typing error may have been meant as it stands.
+        question = read(text, context.now, [](std::string_view) { return true; });
+        found = firstReply(question, context);
+    }
+    if (!found && isAboutSomethingElse(question))
+        return unknownAnswer();
+    return found;
 }
 
 } // namespace orlen::AskReader

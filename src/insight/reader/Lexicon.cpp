@@ -165,8 +165,9 @@ bool isOneLetterApart(std::string_view a, std::string_view b)
         std::swap(a, b);
     if (b.size() - a.size() > 1)
         return false;
-    const auto [inA, inB] = std::ranges::mismatch(a, b);
-    const auto at = static_cast<std::size_t>(inA - a.begin());
+    std::size_t at = 0;
+    while (at < a.size() && a[at] == b[at])
+        ++at;
     if (a.size() < b.size())
         return a.substr(at) == b.substr(at + 1);
     if (at == a.size())

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
-#include <unordered_set>
 #include <utility>
 
 namespace orlen::AskReader {
@@ -197,14 +196,13 @@ bool fits(const Request& request, const Finding& finding, const FileEntry& entry
 std::vector<Hit> fitting(const Request& request, const AskContext& context)
 {
     std::vector<Hit> hits;
-    std::unordered_set<std::string_view> seen;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            if (fits(request, finding, entry) && seen.insert(entry.path).second)
+            if (fits(request, finding, entry))
                 hits.push_back({&finding, &entry});
         }
     }
-    return hits;
+    return eachOnce(std::move(hits));
 }
 
 void sortFirst(std::vector<Hit>& hits, Order order, std::size_t count)

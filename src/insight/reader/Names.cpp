@@ -7,21 +7,34 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <unordered_set>
+#include <utility>
 
 namespace orlen::AskReader {
 
 namespace {
 
-bool isAscii(std::string_view text)
+/// Writes the text in lower case to `lower`, whose memory is used again. Most names are ASCII and need no
+/// library.
+void lowerInto(std::string& lower, std::string_view text)
 {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    lower.assign(text);
+    unsigned char all = 0;
+    for (char& c : lower) {
+        all |= static_cast<unsigned char>(c);
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    if (all >= 0x80)
+        lower = LanguageTools::lowerCase(text);
 }
 
-/// Whole texts take a library call; most names are ASCII.
 std::string lowered(std::string_view text)
 {
-    return isAscii(text) ? PathText::asciiLower(text) : LanguageTools::lowerCase(text);
+    std::string lower;
+    lowerInto(lower, text);
+    return lower;
 }
 
 bool isWordByte(char c)
@@ -33,14 +46,16 @@ bool isWordByte(char c)
 template <typename Visit>
 bool anyWord(std::string_view text, Visit visit)
 {
-    while (!text.empty()) {
-        const auto start = std::ranges::find_if(text, isWordByte);
-        const auto end = std::find_if_not(start, text.end(), isWordByte);
-        if (start == text.end())
-            return false;
-        if (visit(std::string_view(start, end)))
+    for (std::size_t at = 0; at < text.size();) {
+        if (!isWordByte(text[at])) {
+            ++at;
+            continue;
+        }
+        const std::size_t start = at;
+        while (at < text.size() && isWordByte(text[at]))
+            ++at;
+        if (visit(text.substr(start, at - start)))
             return true;
-        text = std::string_view(end, text.end());
     }
     return false;
 }
@@ -72,21 +87,21 @@ public:
     }
 
     /// `path` as the kernel gave it. A fit below `least` is not looked for.
-    [[nodiscard]] Fit fit(std::string_view path, Fit least) const
+    [[nodiscard]] Fit fit(std::string_view path, Fit least)
     {
-        const std::string lower = lowered(path);
         if (!m_path.empty())
-            return lower == m_path ? Fit::whole : Fit::none;
-        const std::string_view name = PathText::lastComponent(lower);
+            return path.size() == m_path.size() && lowered(path) == m_path ? Fit::whole : Fit::none;
+        lowerInto(m_lower, PathText::lastComponent(path));
+        const std::string_view name = m_lower;
         if (name == m_name)
             return Fit::whole;
-        if (PathText::stem(name) == m_name)
+        if (name.starts_with(m_name) && PathText::stem(name) == m_name)
             return Fit::stem;
         if (m_words.empty() || least > Fit::words)
             return Fit::none;
         if (holdsWords(name))
             return Fit::words;
-        if (least <= Fit::folder && holdsWords(belowHome(lower)))
+        if (least <= Fit::folder && isInFolderNamed(path))
             return Fit::folder;
         if (least <= Fit::part && m_mayBePart && holdsParts(name))
             return Fit::part;
@@ -94,13 +109,13 @@ public:
     }
 
 private:
-    /// The last folders of the path, which say whose it is.
-    static std::string_view belowHome(std::string_view path)
+    /// Whether the folders below the home folder say whose the path is.
+    [[nodiscard]] bool isInFolderNamed(std::string_view path)
     {
-        const std::string& home = Places::current().home;
-        if (PathText::isAtOrBelow(path, lowered(home)))
-            path.remove_prefix(home.size());
-        return path;
+        if (PathText::isAtOrBelow(path, m_home))
+            path.remove_prefix(m_home.size());
+        lowerInto(m_lowerFolders, path);
+        return holdsWords(m_lowerFolders);
     }
 
     [[nodiscard]] bool holdsWords(std::string_view text) const
@@ -130,6 +145,9 @@ private:
     std::string m_name;
     std::string m_path;
     std::vector<std::string> m_words;
+    const std::string& m_home = Places::current().home;
+    std::string m_lower;
+    std::string m_lowerFolders;
     bool m_mayBePart;
     bool m_mayBeMistyped;
 };
@@ -137,7 +155,7 @@ private:
 /// Keeps what fits best.
 class Best {
 public:
-    explicit Best(const Wanted& wanted) : m_wanted(wanted) {}
+    explicit Best(std::string_view name) : m_wanted(name) {}
 
     /// Whether the path belongs to the best so far; a better one drops the others.
     bool take(std::string_view path)
@@ -155,7 +173,7 @@ public:
     Found& found() { return m_found; }
 
 private:
-    const Wanted& m_wanted;
+    Wanted m_wanted;
     Found m_found;
 };
 
@@ -194,9 +212,11 @@ void lookInHistory(const std::vector<CleanRecord>& history, Best& best)
     }
 }
 
-/// Several findings may list a path; the first one speaks for it.
-void keepEachOnce(Found& found)
+/// Several findings may list a path: the most careful rating speaks for it.
+void tidy(Found& found)
 {
+    std::ranges::stable_sort(found.hits, std::greater{},
+                             [](const Hit& hit) { return hit.finding->effectiveRating(*hit.entry); });
     std::unordered_set<std::string_view> paths;
     std::erase_if(found.hits, [&](const Hit& hit) { return !paths.insert(hit.entry->path).second; });
     std::erase_if(found.measured, [&](const Measured& each) { return !paths.insert(each.path).second; });
@@ -208,22 +228,42 @@ void keepEachOnce(Found& found)
 
 Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
 {
-    const Wanted wanted(name);
-    Best best(wanted);
+    Best best(name);
     lookInFindings(context.findings, kinds, best);
     if (kinds.empty()) {
         lookInBreakdown(context.breakdown, best);
         lookInHistory(context.history, best);
     }
-    keepEachOnce(best.found());
+    tidy(best.found());
     return std::move(best.found());
+}
+
+std::vector<Hit> eachOnce(std::vector<Hit> hits)
+{
+    std::map<const Finding*, std::size_t> counts;
+    for (const Hit& hit : hits)
+        ++counts[hit.finding];
+    if (counts.size() < 2)
+        return hits;
+    // What the finding with the most hits lists is only looked up, never remembered: that is most of the
+    // time.
+    const Finding* const most =
+        std::ranges::max_element(counts, {}, &std::pair<const Finding* const, std::size_t>::second)->first;
+    std::unordered_set<std::string_view> others;
+    std::erase_if(
+        hits, [&](const Hit& hit) { return hit.finding != most && !others.insert(hit.entry->path).second; });
+    std::erase_if(hits,
+                  [&](const Hit& hit) { return hit.finding == most && others.contains(hit.entry->path); });
+    return hits;
 }
 
 bool isWordOfName(const AskContext& context, std::string_view word)
 {
+    std::string lower;
     const auto has = [&](std::string_view path) {
-        return anyWord(lowered(PathText::lastComponent(path)),
-                       [&](std::string_view each) { return each == word; });
+        lowerInto(lower, PathText::lastComponent(path));
+        return lower.find(word) != std::string::npos &&
+               anyWord(lower, [&](std::string_view each) { return each == word; });
     };
     const auto isNamed = [&](const Finding& finding) {
         return std::ranges::any_of(finding.items, has, &FileEntry::path);

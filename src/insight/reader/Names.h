@@ -38,6 +38,10 @@ struct Found {
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
 
+/// Each path once: several findings may list it, a single one never does twice. `hits` in the order of the
+/// findings.
+[[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);
+
 /// Whether the word, in lower case, stands in the name of an entry of the scan.
 [[nodiscard]] bool isWordOfName(const AskContext& context, std::string_view word);
 

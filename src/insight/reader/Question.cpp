@@ -160,10 +160,12 @@ private:
     {
         const std::string& word = m_words.lower[m_at];
         const Lexicon::Entry* const meant = Lexicon::findMistyped(word);
-        if (meant == nullptr || m_isName(word))
+        if (meant == nullptr || m_isName(word)) {
             take({}, 1);
-        else
-            take({meant->sense, {}, meant->subject, 0, {}}, 1);
+            return;
+        }
+        m_question.isCorrected = true;
+        take({meant->sense, {}, meant->subject, 0, {}}, 1);
     }
 
     Words m_words;

@@ -26,6 +26,7 @@ struct Phrase {
 struct Question {
     std::vector<Phrase> phrases; ///< in order, without those that say nothing
     SenseSet senses;             ///< of all phrases
+    bool isCorrected = false;    ///< whether a word was taken for a typing error
 
     [[nodiscard]] const Phrase* first(Sense sense) const;
     /// The first subject; null if there is none.

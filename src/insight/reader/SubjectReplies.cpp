@@ -7,7 +7,7 @@
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <utility>
 
 namespace orlen::AskReader {
 
@@ -40,15 +40,17 @@ std::string counted(const Amount& amount)
 /// The files of a kind that the scan lists, each once.
 Amount listedFiles(const Subject& subject, const AskContext& context)
 {
-    Amount amount;
-    std::unordered_set<std::string_view> seen;
+    std::vector<Hit> hits;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            if (!hasExtensionOf(subject, entry.path) || !seen.insert(entry.path).second)
-                continue;
-            ++amount.count;
-            amount.bytes = checkedAdd(amount.bytes, entry.size);
+            if (hasExtensionOf(subject, entry.path))
+                hits.push_back({&finding, &entry});
         }
+    }
+    Amount amount;
+    for (const Hit& hit : eachOnce(std::move(hits))) {
+        ++amount.count;
+        amount.bytes = checkedAdd(amount.bytes, hit.entry->size);
     }
     return amount;
 }
