@@ -3,11 +3,13 @@
 #include "app/AppTexts.h"
 #include "clean/History.h"
 #include "clean/Persist.h"
+#include "clean/Safety.h"
 #include "insight/AskContext.h"
 #include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace orlen {
@@ -81,7 +83,8 @@ std::vector<CleanRecord> AppModel::loadHistory()
 
 AskContext AppModel::askContext() const
 {
-    return {m_results->findings(), m_storage->breakdown(), m_storage->prediction()};
+    return {m_results->findings(), m_storage->breakdown(),           m_storage->prediction(),
+            m_cleanUps->history(), std::chrono::system_clock::now(), Safety::protection};
 }
 
 } // namespace orlen

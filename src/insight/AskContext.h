@@ -1,9 +1,14 @@
 #pragma once
 
+#include "clean/CleanRecord.h"
+#include "clean/Protection.h"
 #include "insight/Predictor.h"
 #include "model/Finding.h"
+#include "platform/values/Time.h"
 #include "scan/StorageBreakdown.h"
 
+#include <functional>
+#include <string_view>
 #include <vector>
 
 namespace orlen {
@@ -13,6 +18,10 @@ struct AskContext {
     std::vector<Finding> findings; ///< of the last scan, in display order; empty before the first
     StorageBreakdown breakdown;
     Prediction prediction;
+    std::vector<CleanRecord> history; ///< past clean-ups, newest first
+    TimePoint now;                    ///< when the question is asked
+    /// Which rule protects a path, without touching the disk; empty if nobody knows. Any thread.
+    std::function<Protection(std::string_view)> protection;
 };
 
 } // namespace orlen

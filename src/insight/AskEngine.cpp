@@ -1,6 +1,7 @@
 #include "insight/AskEngine.h"
 
 #include "insight/AskText.h"
+#include "insight/reader/AskReader.h"
 #include "model/ByteCount.h"
 #include "platform/files/Places.h"
 
@@ -60,7 +61,7 @@ Answer answer(const std::string& question, const AskContext& context, const Lang
 {
     Answer answer = fallback(question, context);
     if (!model.isAvailable())
-        return answer;
+        return AskReader::answer(question, context).value_or(std::move(answer));
     if (std::optional<std::string> text = model.respond(kInstructions, promptFor(question, context))) {
         answer.text = *std::move(text);
         answer.usedModel = true;

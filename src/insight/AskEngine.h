@@ -31,8 +31,8 @@ inline constexpr std::array<std::string_view, 5> kSuggestions{
 /// Says who writes the answers.
 [[nodiscard]] std::string_view introduction(const LanguageModel& model = LanguageModel::ofSystem());
 
-/// Lets the language model answer; if there is none or it fails, uses the built-in matcher. Blocks while the
-/// model writes.
+/// Lets the language model answer. If there is none, the reader answers what it is sure of; what it leaves,
+/// and what the model fails to answer, the built-in matcher does. Blocks while the model writes.
 [[nodiscard]] Answer answer(const std::string& question, const AskContext& context,
                             const LanguageModel& model = LanguageModel::ofSystem());
 

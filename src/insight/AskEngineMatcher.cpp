@@ -79,7 +79,7 @@ std::vector<std::string> idsOfHolding(const std::vector<Finding>& findings, Pred
 
 Answer noScan()
 {
-    return {"I don't have scan results yet. Run a Smart Scan from the Home screen and ask me again.", {}};
+    return {std::string(AskText::kNoScan), {}};
 }
 
 Answer aboutDownloads(const AskContext& context)
@@ -106,22 +106,10 @@ Answer forecast(const AskContext& context)
     return {context.prediction.headline + ". " + context.prediction.detail, {}};
 }
 
-std::string largestCategories(const StorageBreakdown& breakdown)
-{
-    constexpr std::size_t kNamed = 4;
-    using Category = std::pair<OrlenCategory, std::int64_t>;
-    std::vector<Category> categories(breakdown.cats.begin(), breakdown.cats.end());
-    std::ranges::stable_sort(categories, std::greater{}, &Category::second);
-    std::vector<std::string> parts;
-    for (std::size_t i = 0; i < std::min(categories.size(), kNamed); ++i)
-        parts.push_back(AskText::sized(categories[i]));
-    return AskText::joined(parts, ", ");
-}
-
 Answer largest(const AskContext& context)
 {
     constexpr std::size_t kNamed = 3;
-    const std::string categories = "By category: " + largestCategories(context.breakdown) + '.';
+    const std::string categories = "By category: " + AskText::largestCategories(context.breakdown) + '.';
     if (context.findings.empty())
         return {categories + " Run a Smart Scan for a detailed breakdown.", {}};
     const auto findings = largestBy(&Finding::totalSize, context.findings, kNamed);

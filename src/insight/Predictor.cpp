@@ -90,6 +90,7 @@ void describeGrowth(Prediction& prediction, double bytesPerDay, std::int64_t fre
     prediction.headline = "Disk nearly full in " + duration(daysLeft);
     prediction.detail = "Used space is growing by about " + byteCount(checkedInteger(bytesPerDay)) +
                         " per day, and " + byteCount(free) + " is free.";
+    prediction.daysLeft = daysLeft;
     prediction.warn = daysLeft < kWarningDays;
 }
 

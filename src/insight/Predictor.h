@@ -3,6 +3,7 @@
 #include "clean/Snapshot.h"
 #include "model/OrlenCategory.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -15,7 +16,8 @@ struct Prediction {
     bool enoughData = false; ///< false while the history is too short for an estimate
     std::string headline;
     std::string detail;
-    bool warn = false; ///< the disk is expected to be full within 60 days
+    bool warn = false;              ///< the disk is expected to be full within 60 days
+    std::optional<double> daysLeft; ///< from the last scan until the disk is full; absent if it isn't growing
     std::vector<std::pair<OrlenCategory, double>> perCategory; ///< bytes per day, fastest first
     std::vector<double> freeSeries;                            ///< free bytes of every snapshot, oldest first
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+
+/// Answers about past clean-ups. Each gives nothing when it is not sure of the question.
+/// Pure; any thread.
+namespace orlen::AskReader {
+
+/// When the last one was and what it moved.
+[[nodiscard]] std::optional<Answer> lastCleanUp(const Question& question, const AskContext& context);
+
+/// How many there were and what they moved in all.
+[[nodiscard]] std::optional<Answer> allCleanUps(const Question& question, const AskContext& context);
+
+/// How to put things back.
+[[nodiscard]] std::optional<Answer> howToUndo(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

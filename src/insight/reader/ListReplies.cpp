@@ -1,0 +1,271 @@
+#include "insight/reader/ListReplies.h"
+
+#include "insight/AskText.h"
+#include "insight/reader/Names.h"
+#include "model/ByteCount.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <utility>
+
+namespace orlen::AskReader {
+
+namespace {
+
+constexpr std::int64_t kUsualCount = 5;
+constexpr std::int64_t kMostShown = 20;
+
+enum class Order { biggest, smallest, oldest, newest };
+
+/// What a list is to hold, and how the answer says so.
+struct Request {
+    const Subject* subject = nullptr; ///< null: files of every kind
+    std::string folder;               ///< empty: anywhere
+    std::int64_t leastBytes = 0;
+    std::int64_t mostBytes = std::numeric_limits<std::int64_t>::max();
+    TimePoint changedFrom = TimePoint::min();
+    TimePoint changedTo = TimePoint::max();
+    TimePoint openedTo = TimePoint::max();
+    Order order = Order::biggest;
+    std::int64_t count = kUsualCount;
+    std::string conditions; ///< " over 1 GB in ~/Downloads"
+};
+
+std::string_view word(Order order)
+{
+    switch (order) {
+    case Order::biggest:
+        return "biggest";
+    case Order::smallest:
+        return "smallest";
+    case Order::oldest:
+        return "oldest";
+    case Order::newest:
+        return "newest";
+    }
+    return {};
+}
+
+Order orderIn(const Question& question)
+{
+    if (question.senses.has(Sense::oldest))
+        return Order::oldest;
+    if (question.senses.has(Sense::newest))
+        return Order::newest;
+    return question.senses.has(Sense::smallest) ? Order::smallest : Order::biggest;
+}
+
+/// A kind to list: files by extension or finding, or every file.
+bool isKind(const Subject& subject)
+{
+    return subject.isAnyFile || !subject.extensions.empty() ||
+           (!subject.kinds.empty() && subject.folder.empty());
+}
+
+/// Sizes follow the word that compares. False if a size stands alone.
+bool takeSizes(const Question& question, Request& request)
+{
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Phrase& phrase = question.phrases[i];
+        if (phrase.sense != Sense::size)
+            continue;
+        const Sense before = i == 0 ? Sense::unknown : question.phrases[i - 1].sense;
+        if (before == Sense::above) {
+            request.leastBytes = phrase.amount + 1;
+            request.conditions += " over " + byteCount(phrase.amount);
+        } else if (before == Sense::below) {
+            request.mostBytes = phrase.amount - 1;
+            request.conditions += " under " + byteCount(phrase.amount);
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The one date and the word it belongs to. False if that is unclear.
+bool takeDate(const Question& question, Request& request)
+{
+    const Phrase* const phrase = question.first(Sense::period);
+    if (phrase == nullptr)
+        return !question.senses.meets({Sense::before, Sense::after, Sense::since, Sense::unopened});
+    const Period& period = *phrase->period;
+    if (question.senses.has(Sense::unopened)) {
+        request.openedTo = period.from;
+        request.conditions += " last opened before " + dateText(period.from);
+    } else if (question.senses.has(Sense::before)) {
+        request.changedTo = period.from;
+        request.conditions += " last changed before " + dateText(period.from);
+    } else if (question.senses.has(Sense::after)) {
+        request.changedFrom = period.to;
+        request.conditions += " changed since " + dateText(period.to);
+    } else if (question.senses.has(Sense::since)) {
+        request.changedFrom = period.from;
+        request.conditions += " changed since " + dateText(period.from);
+    } else {
+        request.changedFrom = period.from;
+        request.changedTo = period.to;
+        request.conditions += " last changed from " + dateText(period.from) + " to " + dateText(period.to);
+    }
+    return true;
+}
+
+/// Sorts the subjects into what is listed and where. False if one is neither, or there are two of a sort.
+bool takeSubjects(const Question& question, Request& request)
+{
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Subject* const subject = question.phrases[i].subject;
+        if (subject == nullptr)
+            continue;
+        const bool isAfterInside = i > 0 && question.phrases[i - 1].sense == Sense::inside;
+        const std::string folder = folderOf(*subject);
+        const bool isPlace = !folder.empty() && (isAfterInside || !isKind(*subject));
+        if (isPlace && request.folder.empty())
+            request.folder = folder;
+        else if (!isPlace && isKind(*subject) && (request.subject == nullptr || request.subject->isAnyFile))
+            request.subject = subject;
+        else
+            return subject->isAnyFile || (subject->folder == "{H}" && !request.folder.empty());
+    }
+    return true;
+}
+
+/// A folder given by its path or its name below the home folder. False if unknown words are none.
+bool takeFolder(const Question& question, const AskContext& context, Request& request)
+{
+    const Phrase* const unknown = question.first(Sense::unknown);
+    const Phrase* const named = unknown != nullptr ? unknown : question.first(Sense::quoted);
+    if (named == nullptr)
+        return true;
+    if (!request.folder.empty() || question.position(named->sense) == 0 ||
+        question.phrases[question.position(named->sense) - 1].sense != Sense::inside ||
+        std::ranges::count(question.phrases, Sense::unknown, &Phrase::sense) > 1)
+        return false;
+    request.folder = pathIn(named->text);
+    if (!request.folder.empty())
+        return true;
+    const Found found = findNamed(context, named->text);
+    if (found.fit == Fit::whole && !found.measured.empty())
+        request.folder = found.measured.front().path;
+    return !request.folder.empty();
+}
+
+std::optional<Request> requestIn(const Question& question, const AskContext& context)
+{
+    Request request;
+    request.order = orderIn(question);
+    if (!takeSubjects(question, request) || !takeFolder(question, context, request) ||
+        !takeSizes(question, request) || !takeDate(question, request))
+        return std::nullopt;
+    if (const Phrase* const number = question.first(Sense::number))
+        request.count = std::min(number->amount, kMostShown);
+    if (!request.folder.empty())
+        request.conditions += " in " + tilde(request.folder);
+    return request;
+}
+
+bool fits(const Request& request, const Finding& finding, const FileEntry& entry)
+{
+    if (entry.size < request.leastBytes || entry.size > request.mostBytes)
+        return false;
+    const bool isByDate = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
+                          request.order == Order::oldest || request.order == Order::newest;
+    if (isByDate &&
+        (!entry.modified || *entry.modified < request.changedFrom || *entry.modified >= request.changedTo))
+        return false;
+    if (request.openedTo != TimePoint::max()) {
+        const auto& opened = entry.lastOpened ? entry.lastOpened : entry.modified;
+        if (!opened || *opened >= request.openedTo)
+            return false;
+    }
+    if (!request.folder.empty() &&
+        (entry.path == request.folder || !PathText::isAtOrBelow(entry.path, request.folder)))
+        return false;
+    const Subject* const subject = request.subject;
+    if (subject == nullptr || subject->isAnyFile)
+        return true;
+    return subject->extensions.empty()
+               ? std::ranges::find(subject->kinds, finding.kind) != subject->kinds.end()
+               : hasExtensionOf(*subject, entry.path);
+}
+
+/// What fits, each path once.
+std::vector<Hit> fitting(const Request& request, const AskContext& context)
+{
+    std::vector<Hit> hits;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (fits(request, finding, entry))
+                hits.push_back({&finding, &entry});
+        }
+    }
+    return eachOnce(std::move(hits));
+}
+
+void sortFirst(std::vector<Hit>& hits, Order order, std::size_t count)
+{
+    const auto isBefore = [order](const Hit& a, const Hit& b) {
+        if (order == Order::oldest || order == Order::newest) {
+            const auto changedA = a.entry->modified;
+            const auto changedB = b.entry->modified;
+            if (changedA != changedB)
+                return order == Order::oldest ? changedA < changedB : changedA > changedB;
+        } else if (a.entry->size != b.entry->size) {
+            return order == Order::biggest ? a.entry->size > b.entry->size : a.entry->size < b.entry->size;
+        }
+        return a.entry->path < b.entry->path;
+    };
+    std::ranges::partial_sort(hits, hits.begin() + static_cast<std::ptrdiff_t>(count), isBefore);
+}
+
+std::string lineFor(const Request& request, const Hit& hit)
+{
+    const FileEntry& entry = *hit.entry;
+    std::string line = "\n• " + AskText::sized(tilde(entry.path), entry.size);
+    if (request.openedTo != TimePoint::max() && entry.lastOpened)
+        line += ", opened " + dateText(*entry.lastOpened);
+    else if (entry.modified)
+        line += ", changed " + dateText(*entry.modified);
+    return line + " — " + std::string(label(hit.finding->effectiveRating(entry)));
+}
+
+Answer noneFits(const Request& request, const std::string& name)
+{
+    return {"The last scan lists no " + name + request.conditions +
+                ". It lists only what may be worth a look: large, old, duplicate and similar files.",
+            {}};
+}
+
+} // namespace
+
+std::optional<Answer> listOfFiles(const Question& question, const AskContext& context)
+{
+    const std::optional<Request> request = requestIn(question, context);
+    if (!request)
+        return std::nullopt;
+    if (context.findings.empty())
+        return Answer{std::string(AskText::kNoScan), {}};
+    const std::string name(request->subject == nullptr ? "files" : request->subject->name);
+    std::vector<Hit> hits = fitting(*request, context);
+    if (hits.empty())
+        return noneFits(*request, name);
+    std::int64_t bytes = 0;
+    for (const Hit& hit : hits)
+        bytes = checkedAdd(bytes, hit.entry->size);
+    const std::size_t shown = std::min(hits.size(), static_cast<std::size_t>(request->count));
+    sortFirst(hits, request->order, shown);
+    Answer answer;
+    answer.text = "Of " + name + request->conditions + " the last scan lists " + std::to_string(hits.size()) +
+                  ", " + byteCount(bytes) + " in all. The " + std::string(word(request->order)) + ":";
+    for (std::size_t i = 0; i < shown; ++i) {
+        answer.text += lineFor(*request, hits[i]);
+        if (std::ranges::find(answer.findingIDs, hits[i].finding->id()) == answer.findingIDs.end())
+            answer.findingIDs.emplace_back(hits[i].finding->id());
+    }
+    return answer;
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+
+/// Lists of files. Each gives nothing when it is not sure of the question.
+/// Pure; any thread.
+namespace orlen::AskReader {
+
+/// The files that fit the kind, sizes, dates and folder in the question: a few of them, and how many there
+/// are.
+[[nodiscard]] std::optional<Answer> listOfFiles(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

@@ -1,0 +1,294 @@
+#include "insight/reader/Names.h"
+
+#include "insight/reader/Lexicon.h"
+#include "platform/files/Places.h"
+#include "platform/text/LanguageTools.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <unordered_set>
+#include <utility>
+
+namespace orlen::AskReader {
+
+namespace {
+
+/// Writes the text in lower case to `lower`, whose memory is used again. Most names are ASCII and need no
+/// library.
+void lowerInto(std::string& lower, std::string_view text)
+{
+    lower.assign(text);
+    unsigned char all = 0;
+    for (char& c : lower) {
+        all |= static_cast<unsigned char>(c);
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    if (all >= 0x80)
+        lower = LanguageTools::lowerCase(text);
+}
+
+std::string lowered(std::string_view text)
+{
+    std::string lower;
+    lowerInto(lower, text);
+    return lower;
+}
+
+bool isWordByte(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// Calls `visit` with each word of a text in lower case until it returns true; whether it did.
+template <typename Visit>
+bool anyWord(std::string_view text, Visit visit)
+{
+    for (std::size_t at = 0; at < text.size();) {
+        if (!isWordByte(text[at])) {
+            ++at;
+            continue;
+        }
+        const std::size_t start = at;
+        while (at < text.size() && isWordByte(text[at]))
+            ++at;
+        if (visit(text.substr(start, at - start)))
+            return true;
+    }
+    return false;
+}
+
+std::vector<std::string> wordsIn(std::string_view text)
+{
+    std::vector<std::string> words;
+    anyWord(text, [&](std::string_view word) {
+        words.emplace_back(word);
+        return false;
+    });
+    return words;
+}
+
+/// Parts of words shorter than this stand in too many names.
+constexpr std::size_t kShortestPart = 4;
+constexpr std::size_t kShortestMistypedName = 5;
+
+/// The name that is looked for.
+class Wanted {
+public:
+    explicit Wanted(std::string_view name)
+        : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsIn(m_name)),
+          m_mayBePart(std::ranges::all_of(
+              m_words, [](const std::string& word) { return word.size() >= kShortestPart; })),
+          m_mayBeMistyped(std::ranges::any_of(
+              m_words, [](const std::string& word) { return word.size() >= kShortestMistypedName; }))
+    {
+    }
+
+    /// `path` as the kernel gave it. A fit below `least` is not looked for.
+    [[nodiscard]] Fit fit(std::string_view path, Fit least)
+    {
+        if (!m_path.empty())
+            return path.size() == m_path.size() && lowered(path) == m_path ? Fit::whole : Fit::none;
+        lowerInto(m_lower, PathText::lastComponent(path));
+        const std::string_view name = m_lower;
+        if (name == m_name)
+            return Fit::whole;
+        if (name.starts_with(m_name) && PathText::stem(name) == m_name)
+            return Fit::stem;
+        if (m_words.empty() || least > Fit::words)
+            return Fit::none;
+        if (holdsWords(name))
+            return Fit::words;
+        if (least <= Fit::folder && isInFolderNamed(path))
+            return Fit::folder;
+        if (least <= Fit::part && m_mayBePart && holdsParts(name))
+            return Fit::part;
+        return least <= Fit::mistyped && m_mayBeMistyped && holdsMistyped(name) ? Fit::mistyped : Fit::none;
+    }
+
+private:
+    /// Whether the folders below the home folder say whose the path is.
+    [[nodiscard]] bool isInFolderNamed(std::string_view path)
+    {
+        if (PathText::isAtOrBelow(path, m_home))
+            path.remove_prefix(m_home.size());
+        lowerInto(m_lowerFolders, path);
+        return holdsWords(m_lowerFolders);
+    }
+
+    [[nodiscard]] bool holdsWords(std::string_view text) const
+    {
+        return std::ranges::all_of(m_words, [&](const std::string& word) {
+            return text.find(word) != std::string_view::npos &&
+                   anyWord(text, [&](std::string_view each) { return each == word; });
+        });
+    }
+
+    [[nodiscard]] bool holdsParts(std::string_view text) const
+    {
+        return std::ranges::all_of(
+            m_words, [&](const std::string& word) { return text.find(word) != std::string_view::npos; });
+    }
+
+    [[nodiscard]] bool holdsMistyped(std::string_view text) const
+    {
+        return std::ranges::all_of(m_words, [&](const std::string& word) {
+            return anyWord(text, [&](std::string_view each) {
+                return each == word ||
+                       (word.size() >= kShortestMistypedName && Lexicon::isOneLetterApart(word, each));
+            });
+        });
+    }
+
+    std::string m_name;
+    std::string m_path;
+    std::vector<std::string> m_words;
+    const std::string& m_home = Places::current().home;
+    std::string m_lower;
+    std::string m_lowerFolders;
+    bool m_mayBePart;
+    bool m_mayBeMistyped;
+};
+
+/// Keeps what fits best.
+class Best {
+public:
+    explicit Best(std::string_view name) : m_wanted(name) {}
+
+    /// Whether the path belongs to the best so far; a better one drops the others.
+    bool take(std::string_view path)
+    {
+        const Fit fit = m_wanted.fit(path, m_found.fit);
+        if (fit == Fit::none || fit < m_found.fit)
+            return false;
+        if (fit > m_found.fit) {
+            m_found = {};
+            m_found.fit = fit;
+        }
+        return true;
+    }
+
+    Found& found() { return m_found; }
+
+private:
+    Wanted m_wanted;
+    Found m_found;
+};
+
+void lookInFindings(const std::vector<Finding>& findings, const std::vector<FindingKind>& kinds, Best& best)
+{
+    for (const Finding& finding : findings) {
+        if (!kinds.empty() && std::ranges::find(kinds, finding.kind) == kinds.end())
+            continue;
+        for (const FileEntry& entry : finding.items) {
+            if (best.take(entry.path))
+                best.found().hits.push_back({&finding, &entry});
+        }
+    }
+}
+
+void lookInBreakdown(const StorageBreakdown& breakdown, Best& best)
+{
+    for (const CategoryFolder& folder : breakdown.folders) {
+        if (best.take(folder.path))
+            best.found().measured.push_back({folder.path, folder.bytes, folder.category});
+        for (const CategoryFolder::Item& item : folder.largest) {
+            std::string path = PathText::join(folder.path, item.name);
+            if (best.take(path))
+                best.found().measured.push_back({std::move(path), item.bytes, folder.category});
+        }
+    }
+}
+
+void lookInHistory(const std::vector<CleanRecord>& history, Best& best)
+{
+    for (const CleanRecord& record : history) {
+        for (const TrashedItem& item : record.items) {
+            if (!item.restored && best.take(item.original))
+                best.found().trashed.push_back(&item);
+        }
+    }
+}
+
+/// Several findings may list a path: the most careful rating speaks for it.
+void tidy(Found& found)
+{
+    std::ranges::stable_sort(found.hits, std::greater{},
+                             [](const Hit& hit) { return hit.finding->effectiveRating(*hit.entry); });
+    std::unordered_set<std::string_view> paths;
+    std::erase_if(found.hits, [&](const Hit& hit) { return !paths.insert(hit.entry->path).second; });
+    std::erase_if(found.measured, [&](const Measured& each) { return !paths.insert(each.path).second; });
+    std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
+    std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
+}
+
+} // namespace
+
+Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
+{
+    Best best(name);
+    lookInFindings(context.findings, kinds, best);
+    if (kinds.empty()) {
+        lookInBreakdown(context.breakdown, best);
+        lookInHistory(context.history, best);
+    }
+    tidy(best.found());
+    return std::move(best.found());
+}
+
+std::vector<Hit> eachOnce(std::vector<Hit> hits)
+{
+    std::map<const Finding*, std::size_t> counts;
+    for (const Hit& hit : hits)
+        ++counts[hit.finding];
+    if (counts.size() < 2)
+        return hits;
+    // What the finding with the most hits lists is only looked up, never remembered: that is most of the
+    // time.
+    const Finding* const most =
+        std::ranges::max_element(counts, {}, &std::pair<const Finding* const, std::size_t>::second)->first;
+    std::unordered_set<std::string_view> others;
+    std::erase_if(
+        hits, [&](const Hit& hit) { return hit.finding != most && !others.insert(hit.entry->path).second; });
+    std::erase_if(hits,
+                  [&](const Hit& hit) { return hit.finding == most && others.contains(hit.entry->path); });
+    return hits;
+}
+
+bool isWordOfName(const AskContext& context, std::string_view word)
+{
+    std::string lower;
+    const auto has = [&](std::string_view path) {
+        lowerInto(lower, PathText::lastComponent(path));
+        return lower.find(word) != std::string::npos &&
+               anyWord(lower, [&](std::string_view each) { return each == word; });
+    };
+    const auto isNamed = [&](const Finding& finding) {
+        return std::ranges::any_of(finding.items, has, &FileEntry::path);
+    };
+    return std::ranges::any_of(context.findings, isNamed) ||
+           std::ranges::any_of(context.breakdown.folders, [&](const CategoryFolder& folder) {
+               return has(folder.path) ||
+                      std::ranges::any_of(folder.largest, has, &CategoryFolder::Item::name);
+           });
+}
+
+std::string pathIn(std::string_view text)
+{
+    const std::string& home = Places::current().home;
+    if (text == "~" || text.starts_with("~/"))
+        return Places::current().normalized(home + std::string(text.substr(1)));
+    return text.size() > 1 && text.starts_with("/") ? Places::current().normalized(text) : std::string();
+}
+
+std::string tilde(std::string_view path)
+{
+    const std::string& home = Places::current().home;
+    if (home.size() > 1 && PathText::isAtOrBelow(path, home))
+        return PathText::forDisplay("~" + std::string(path.substr(home.size())));
+    return PathText::forDisplay(path);
+}
+
+} // namespace orlen::AskReader

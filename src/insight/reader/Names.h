@@ -1,0 +1,54 @@
+#pragma once
+
+#include "insight/AskContext.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Finds what the last scan knows by name. Pure; any thread.
+namespace orlen::AskReader {
+
+/// An entry together with its finding.
+struct Hit {
+    const Finding* finding = nullptr;
+    const FileEntry* entry = nullptr;
+};
+
+/// A folder, or a file in one, that takes up space and that no finding lists.
+struct Measured {
+    std::string path;
+    std::int64_t bytes = 0;
+    OrlenCategory category = OrlenCategory::system;
+};
+
+/// How well a name fits, from not at all to exactly. Only hits that fit best are of interest.
+enum class Fit : std::uint8_t { none, mistyped, part, folder, words, stem, whole };
+
+struct Found {
+    Fit fit = Fit::none;   ///< of everything below
+    std::vector<Hit> hits; ///< each path once, largest first
+    std::vector<Measured> measured;
+    std::vector<const TrashedItem*> trashed; ///< moved by a clean-up and not put back
+};
+
+/// Everything the scan, the breakdown and the history know by this name, which may be a path, a file name or
+/// some words of one. If `kinds` is not empty, only findings of these kinds.
+[[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
+                              const std::vector<FindingKind>& kinds = {});
+
+/// Each path once: several findings may list it, a single one never does twice. `hits` in the order of the
+/// findings.
+[[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);
+
+/// Whether the word, in lower case, stands in the name of an entry of the scan.
+[[nodiscard]] bool isWordOfName(const AskContext& context, std::string_view word);
+
+/// The path that a text names, in the form all rules compare; empty if it is not written as a path.
+[[nodiscard]] std::string pathIn(std::string_view text);
+
+/// The path on one line, with "~" for the home folder.
+[[nodiscard]] std::string tilde(std::string_view path);
+
+} // namespace orlen::AskReader

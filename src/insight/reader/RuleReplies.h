@@ -1,0 +1,21 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+
+/// Answers about Orlen itself. Each gives nothing when it is not sure of the question.
+/// Pure; any thread.
+namespace orlen::AskReader {
+
+/// Nothing leaves this computer.
+[[nodiscard]] std::optional<Answer> privacy(const Question& question, const AskContext& context);
+
+/// What is never moved.
+[[nodiscard]] std::optional<Answer> whatIsNeverTouched(const Question& question, const AskContext& context);
+
+/// What the ratings named in the question mean; all if it names none.
+[[nodiscard]] std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

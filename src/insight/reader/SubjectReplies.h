@@ -1,0 +1,27 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+
+/// Answers about a kind of finding, a category or a folder. Each gives nothing when it is not sure of the
+/// question. Pure; any thread.
+namespace orlen::AskReader {
+
+/// Its size, and how many items of it the scan lists.
+[[nodiscard]] std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& context);
+
+/// What it is, and what the scan lists of it.
+[[nodiscard]] std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& context);
+
+/// Whether it may be removed: its ratings, or why it is protected.
+[[nodiscard]] std::optional<Answer> removingSubject(const Question& question, const AskContext& context);
+
+/// How much removing it would free.
+[[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
+
+/// What the scan lists of one kind of photo, named alone.
+[[nodiscard]] std::optional<Answer> onePhotoKind(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

@@ -1,0 +1,334 @@
+#include "insight/reader/AskReader.h"
+#include "support/TempHome.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace orlen {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr std::int64_t kBytesInMB = 1'000'000;
+constexpr std::int64_t kBytesInGB = 1'000 * kBytesInMB;
+
+TimePoint on(const std::string& date)
+{
+    return *timeFromIso(date + "T12:00:00Z");
+}
+
+/// A home with something of everything that questions are about.
+class AskReaderTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        for (const char* folder : {"Downloads", "Documents", "Pictures", "Videos", "Music", "Desktop"})
+            home.folder(folder);
+        home.file(".config/user-dirs.dirs",
+                  "XDG_DOWNLOAD_DIR=\"$HOME/Downloads\"\nXDG_DOCUMENTS_DIR=\"$HOME/Documents\"\n"
+                  "XDG_PICTURES_DIR=\"$HOME/Pictures\"\nXDG_VIDEOS_DIR=\"$HOME/Videos\"\n"
+                  "XDG_MUSIC_DIR=\"$HOME/Music\"\nXDG_DESKTOP_DIR=\"$HOME/Desktop\"\n");
+        TempHome::reloadPlaces();
+        addFindings();
+        context.now = on("2026-06-01");
+        context.breakdown.total = 500 * kBytesInGB;
+        context.breakdown.free = 120 * kBytesInGB;
+        context.breakdown.cats = {{OrlenCategory::photos, 34 * kBytesInGB},
+                                  {OrlenCategory::media, 90 * kBytesInGB},
+                                  {OrlenCategory::caches, 7 * kBytesInGB},
+                                  {OrlenCategory::apps, 55 * kBytesInGB},
+                                  {OrlenCategory::system, 21 * kBytesInGB}};
+        context.breakdown.folders = {
+            {OrlenCategory::media, home.path("Videos"), 80 * kBytesInGB, {{"Projects", 41 * kBytesInGB}}},
+            {OrlenCategory::documents, home.path("Downloads"), 12 * kBytesInGB, {}},
+            {OrlenCategory::documents, home.path("Downloads/Torrents"), 3 * kBytesInGB, {}}};
+        context.prediction = {true,
+                              "Disk nearly full in about 3 months",
+                              "Growing by 1 GB per day.",
+                              false,
+                              90.0,
+                              {{OrlenCategory::media, 8e8}},
+                              {}};
+        context.history = {
+            {{},
+             on("2026-05-20"),
+             "Clean-up",
+             {{home.path("Downloads/gone.zip"), "/t/gone.zip", kBytesInGB}}},
+            {{}, on("2026-01-02"), "Clean-up", {{home.path("b"), "/t/b", 2 * kBytesInGB, true}}}};
+        context.protection = [this](std::string_view path) {
+            if (path == home.path(".ssh"))
+                return Protection::credentials;
+            return path == home.path("Documents") ? Protection::mainFolders : Protection::none;
+        };
+    }
+
+    void add(FindingKind kind, Rating rating, const std::string& reason, std::vector<FileEntry> items)
+    {
+        Finding finding(kind, std::move(items));
+        finding.rating = rating;
+        finding.reason = reason;
+        context.findings.push_back(std::move(finding));
+    }
+
+    [[nodiscard]] FileEntry entry(const std::string& name, std::int64_t size,
+                                  const std::string& date = "2024-03-04",
+                                  std::optional<Rating> rating = {}) const
+    {
+        return {home.path(name), size, on(date), on(date), rating, {}};
+    }
+
+    void addFindings()
+    {
+        add(FindingKind::caches, Rating::safe, "Apps make them again.",
+            {entry(".cache/slack", 3 * kBytesInGB), entry(".cache/mozilla", kBytesInGB)});
+        add(FindingKind::logs, Rating::safe, "Only for troubleshooting.",
+            {entry(".local/app.log", 20 * kBytesInMB)});
+        add(FindingKind::largeFiles, Rating::review, "Large but maybe wanted.",
+            {entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05"),
+             entry("Videos/holiday.mkv", 4 * kBytesInGB, "2025-07-01"),
+             entry("Videos/Projects/cut.mov", 2 * kBytesInGB, "2022-02-02"),
+             entry("Downloads/debian.iso", 3 * kBytesInGB, "2023-01-05")});
+        add(FindingKind::oldFiles, Rating::review, "Not opened for long.",
+            {entry("Documents/contract-2021.docx", 2 * kBytesInMB, "2021-08-08", Rating::keep),
+             entry("Documents/report.pdf", 5 * kBytesInMB, "2022-01-01"),
+             entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05")});
+        add(FindingKind::oldDownloads, Rating::review, "Lying around.",
+            {entry("Downloads/report-final.pdf", 7 * kBytesInMB, "2025-12-24"),
+             entry("Downloads/setup.deb", 80 * kBytesInMB, "2025-11-11")});
+        add(FindingKind::duplicates, Rating::safe, "A copy stays.",
+            {entry("Music/a (1).flac", 40 * kBytesInMB)});
+        add(FindingKind::photoDuplicates, Rating::review, "Similar shots.",
+            {entry("Pictures/sea2.jpg", 6 * kBytesInMB), entry("Pictures/sea3.jpg", 5 * kBytesInMB)});
+        add(FindingKind::screenshots, Rating::review, "Screen captures.",
+            {entry("Pictures/Screenshot 1.png", 2 * kBytesInMB)});
+    }
+
+    TempHome home;
+    AskContext context;
+};
+
+/// What an answer must hold, and what not; parts are separated by "|".
+struct Row {
+    const char* question;
+    const char* must;
+    const char* mustNot = "";
+};
+
+std::vector<std::string> parts(std::string_view text)
+{
+    std::vector<std::string> found;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('|'), text.size());
+        found.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return found;
+}
+
+constexpr Row kNamed[] = {
+    {"can I delete contract-2021.docx", "contract-2021.docx|2 MB|Keep|Not opened for long.|~/Documents",
+     "7 GB"},
+    {"Can I delete contract-2021.docx?", "Keep|History could|Better leave", "moves it"},
+    {"is contract-2021 safe to delete?", "contract-2021.docx|rated Keep"},
+    {"what is \"contract-2021.docx\"", "contract-2021.docx|rated Keep"},
+    {"what is wedding.mp4", "9 GB|Review|Large files", "items fit"},
+    {"how big is wedding.mp4?", "9 GB"},
+    {"is the weding.mp4 file safe", "wedding.mp4|9 GB|Review"},
+    {"how big is ~/Videos/holiday.mkv", "4 GB|holiday.mkv", "wedding"},
+    {"can I remove the slack cache?", "slack|3 GB|rated Safe|Apps make them again.", "mozilla"},
+    {"what's mozilla?", "~/.cache|1 GB|Safe"},
+    {"can I delete report", "report.pdf", "final"},
+    {"may I delete debain.iso", "debian.iso|3 GB|Review"},
+    {"should I keep holiday.mkv", "holiday.mkv|Review"},
+    {"can i delete ~/.ssh", "~/.ssh is protected, because|They sign you in", "Safe"},
+    {"can I delete my ssh keys", "protected, because|Keys and credentials"},
+    {"can I delete my Documents folder?", "~/Documents|protected, because", "could free"},
+    {"can I delete taxes-1999.ods", "taxes-1999.ods|not in the results", "could free"},
+    {"what is gone.zip", "gone.zip|1 GB|Trash|History", "rated"},
+    {"how big is Projects", "~/Videos/Projects|41 GB"},
+    {"how big is the folder Torrents", "Downloads/Torrents|3 GB"},
+    {"can I delete my taxes", "I don't know that", "could free"},
+    {"can I delete bananas", "I don't know that", "could free"},
+    {"can i remove the cut.mov video", "cut.mov|2 GB"},
+};
+
+constexpr Row kSpace[] = {
+    {"how much free space do I have left", "120 GB is free of 500 GB|380 GB is used", "could free"},
+    {"how much space is left?", "120 GB is free"},
+    {"How much disk space is available", "120 GB is free"},
+    {"how much storage is used", "380 GB is used"},
+    {"how full is my disk", "76 %"},
+    {"how big is my disk?", "of 500 GB"},
+    {"what is the total capacity of my drive", "500 GB"},
+    {"free space", "120 GB is free"},
+    {"how much sapce is availabe", "120 GB"},
+    {"do I have 20 GB free", "Yes.|120 GB", "To free"},
+    {"is there 200 gb of space left", "No.|120 GB"},
+    {"why is my disk full", "120 GB is free|Media 90 GB|Large files (18 GB)|Media grows"},
+    {"Why is my hard drive so full?", "By category|largest findings"},
+    {"why am I running out of space", "By category|largest findings"},
+    {"why is there no space left", "By category"},
+    {"what is filling my disk", "By category|Media 90 GB"},
+    {"when does my drive run out of space", "30 August 2026"},
+    {"on what date will my disk be full?", "30 August 2026"},
+    {"will my disk be full before december 2026", "Probably yes.|30 August 2026"},
+    {"will the disk be full by july 2026", "Probably not.|30 August 2026"},
+    {"free 4 GB", "rated Safe is enough|App caches|4 GB in all", "Large files"},
+    {"how can I free up 10 GB?", "Everything rated Safe|App caches|Review|Large files"},
+    {"free 900 GB", "less than 900 GB"},
+    {"I need to make room for 500 MB", "rated Safe is enough|App caches"},
+};
+
+constexpr Row kLists[] = {
+    {"biggest videos", "Of videos the last scan lists 3, 15 GB in all|wedding.mp4 (9 GB)|holiday.mkv|cut.mov",
+     "debian|By category"},
+    {"what are my two biggest videos?", "wedding.mp4|holiday.mkv", "cut.mov"},
+    {"show me the 3 largest files", "wedding.mp4|holiday.mkv|slack", "debian|cut.mov"},
+    {"oldest files", "wedding.mp4 (9 GB), changed 2019-05-05"},
+    {"the newest download", "~/Downloads/report-final.pdf|2025-12-24", "wedding"},
+    {"biggest file in Downloads", "in ~/Downloads|debian.iso", "wedding"},
+    {"what are the biggest files in ~/Videos/Projects", "cut.mov", "wedding"},
+    {"biggest files in Projects", "cut.mov", "wedding"},
+    {"videos over 3 GB", "Of videos over 3 GB the last scan lists 2|wedding|holiday", "cut.mov"},
+    {"files larger than 8gb", "Of files over 8 GB the last scan lists 1|wedding", "holiday"},
+    {"files over 1 GB in Downloads", "debian.iso", "wedding|setup.deb"},
+    {"pdfs in downloads", "report-final.pdf", "report.pdf"},
+    {"PDFs under 6 MB", "report.pdf", "final"},
+    {"videos older than 2 years", "wedding|cut.mov|last changed before 2024-06-01", "holiday"},
+    {"files from 2022", "cut.mov|report.pdf", "wedding|debian"},
+    {"videos not opened since 2023", "wedding|cut.mov|before 2023-01-01", "holiday"},
+    {"which files haven't I opened in 3 years", "wedding|last opened before 2023-06-01", "holiday"},
+    {"movies since 2025", "holiday.mkv", "wedding"},
+    {"videos newer than 2 years", "holiday", "wedding"},
+    {"biggest photos", "sea2.jpg", "wedding"},
+    {"largest archives", "lists no archives"},
+    {"smallest video", "cut.mov"},
+};
+
+constexpr Row kSubjects[] = {
+    {"how big are my photos", "Photos takes 34 GB"},
+    {"how much space do my apps take?", "Apps takes 55 GB"},
+    {"how big is the Downloads folder", "~/Downloads takes 15 GB"},
+    {"size of videos folder", "~/Videos takes 80 GB"},
+    {"how many screenshots do I have", "Screenshots: 2 MB|1 item", "Similar"},
+    {"how many duplicates are there", "Duplicate files: 40 MB|1 item"},
+    {"are there duplicate photos", "Similar photos: 11 MB|2 items", "Duplicate files"},
+    {"show me duplicate pictures", "Similar photos", "Duplicate files|Screenshots"},
+    {"how many blurry photos", "found no blurry shots", "Similar|Screenshots"},
+    {"how big are the caches?", "App caches: 4 GB"},
+    {"can I delete the caches", "App caches: 4 GB — rated Safe", "Log files"},
+    {"is it safe to delete screenshots", "Screenshots: 2 MB — rated Review"},
+    {"can I delete system files", "protected"},
+    {"how much would I free if I delete the logs", "20 MB|rated Safe", "App caches"},
+    {"what are caches", "create it again|App caches"},
+};
+
+constexpr Row kAbout[] = {
+    {"when was my last clean-up", "20 May 2026|1 item|1 GB|restore"},
+    {"what did the last cleanup remove", "20 May 2026", "could free"},
+    {"how do I undo the last clean-up", "20 May 2026|History|restore"},
+    {"undo", "History|restore"},
+    {"how much have I freed so far", "2 clean-ups|3 GB", "could free"},
+    {"does Orlen upload my files?", "Nothing leaves this computer"},
+    {"is my data private", "Nothing leaves this computer"},
+    {"do you send anything to the internet", "Nothing leaves"},
+    {"what does Orlen never touch?", "keys, passwords|Trash"},
+    {"which folders are protected", "never touches"},
+    {"what does safe mean", "Safe:", "Review:|Keep:"},
+    {"what do Safe, Review and Keep mean?", "Safe:|Review:|Keep:"},
+    {"what does the rating keep mean", "Keep:|warning", "Review:"},
+    {"what does System mean", "no other category counts", "Keep:"},
+    {"difference between safe and review", "Safe:|Review:", "Keep:"},
+    {"what is the weather in Graz", "I don't know that", "GB"},
+    {"delete my ex", "I don't know that", "could free"},
+};
+
+/// Left to the matcher.
+constexpr const char* kLeft[] = {
+    "What is using the most space?",
+    "What can I delete from my Downloads folder?",
+    "what can i safely free up",
+    "Are there duplicate files?",
+    "When will my disk be full?",
+    "logs",
+    "What about my old mail attachment",
+    "hello",
+    "",
+    "   ",
+    "?!?",
+    "\xff\xfe safe",
+    "can I delete \xc3",
+};
+
+} // namespace
+
+TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
+{
+    for (const auto& rows :
+         {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
+          std::span<const Row>(kSubjects), std::span<const Row>(kAbout)}) {
+        for (const Row& row : rows) {
+            SCOPED_TRACE(row.question);
+            const Answer answer = AskEngine::answer(row.question, context);
+            EXPECT_FALSE(answer.usedModel);
+            for (const std::string& part : parts(row.must))
+                EXPECT_THAT(answer.text, HasSubstr(part));
+            for (const std::string& part : parts(row.mustNot))
+                EXPECT_THAT(answer.text, Not(HasSubstr(part)));
+        }
+    }
+}
+
+TEST_F(AskReaderTest, whatIsNotCertainIsLeftToTheMatcher)
+{
+    for (const char* question : kLeft) {
+        EXPECT_EQ(AskReader::answer(question, context), std::nullopt) << question;
+        EXPECT_EQ(AskEngine::answer(question, context), AskEngine::fallback(question, context)) << question;
+    }
+}
+
+TEST_F(AskReaderTest, hostileTextGetsAnAnswerAndStaysOnItsLine)
+{
+    const std::string names[] = {
+        std::string(100'000, '"'),
+        std::string(400, '.') + "/" + std::string(50, '~'),
+        "can I delete ../../../etc/passwd",
+        "can I delete \"\"\"",
+        "free 99999999999999999999 TB",
+        "videos over 9e99 GB",
+        "files from 0000-00-00",
+        "files older than 999999999 years",
+        "biggest 999999999 files",
+        "can I delete %s%n{}",
+        "what is ~",
+    };
+    for (const std::string& question : names)
+        EXPECT_FALSE(AskEngine::answer(question, context).text.empty()) << question.substr(0, 50);
+
+    add(FindingKind::memes, Rating::review, "Reason.", {entry("Pictures/evil\n• fake.png", 1)});
+    EXPECT_THAT(AskEngine::answer("what is evil", context).text, HasSubstr("evil?• fake.png (1 byte)"));
+}
+
+TEST_F(AskReaderTest, namesLinkToTheirFindings)
+{
+    EXPECT_THAT(AskEngine::answer("can I delete debian.iso", context).findingIDs, ElementsAre("largeFiles"));
+    EXPECT_THAT(AskEngine::answer("free 1 GB", context).findingIDs, ElementsAre("caches"));
+}
+
+TEST_F(AskReaderTest, withoutAScanNothingIsInvented)
+{
+    context = {};
+    for (const char* question : {"five biggest videos", "free 5 GB", "how many duplicates are there"})
+        EXPECT_THAT(AskEngine::answer(question, context).text, HasSubstr("scan results yet")) << question;
+    EXPECT_THAT(AskEngine::answer("how do I undo", context).text, HasSubstr("hasn't been a clean-up"));
+    EXPECT_THAT(AskEngine::answer("how much space is left", context).text, Not(HasSubstr("is free of")));
+}
+
+} // namespace orlen
