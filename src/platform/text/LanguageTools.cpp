@@ -1,7 +1,10 @@
 #include "platform/text/LanguageTools.h"
 
 #include "platform/files/Places.h"
+#include "platform/process/OwnProgram.h"
 #include "platform/text/Lemmatizer.h"
+#include "platform/text/PathText.h"
+#include "platform/text/WordVectors.h"
 
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
@@ -55,6 +58,28 @@ LetterCase caseOf(UChar32 character)
 bool isMark(UChar32 character)
 {
     return (U_GET_GC_MASK(character) & U_GC_M_MASK) != 0;
+}
+
+/// The installed word vectors. The folder of shared data lies beside that of the program, in a build as well.
+const std::optional<WordVectors>& embedding()
+{
+    static const std::optional<WordVectors> english = []() -> std::optional<WordVectors> {
+        const std::string program = OwnProgram::executable();
+        if (program.empty())
+            return std::nullopt;
+        return WordVectors::load(PathText::standardized(
+            PathText::join(PathText::parent(program), "../share/orlen/english.vectors")));
+    }();
+    return english;
+}
+
+/// The word if it has a vector, else its base form.
+std::string knownForm(std::string_view word)
+{
+    std::string form(word);
+    if (embedding()->contains(form))
+        return form;
+    return lemma(form).value_or(form);
 }
 
 } // namespace
@@ -137,12 +162,14 @@ bool hasDecimalDigit(std::string_view text)
 
 bool hasEmbedding()
 {
-    return false;
+    return embedding().has_value();
 }
 
-std::optional<double> distance(std::string_view /*a*/, std::string_view /*b*/)
+std::optional<double> distance(std::string_view a, std::string_view b)
 {
-    return std::nullopt;
+    if (!hasEmbedding())
+        return std::nullopt;
+    return embedding()->distance(knownForm(a), knownForm(b));
 }
 
 } // namespace orlen::LanguageTools

@@ -5,7 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// Natural-language processing of English words. Any thread; the dictionary is loaded on first use.
+/// Natural-language processing of English words. Any thread; the dictionary and the word vectors are loaded
+/// on first use.
 namespace orlen::LanguageTools {
 
 /// The words of a text in order, by Unicode's word boundaries (UAX 29); spaces and punctuation are not words.
@@ -26,10 +27,10 @@ namespace orlen::LanguageTools {
 /// Whether the text contains a decimal digit of any script.
 [[nodiscard]] bool hasDecimalDigit(std::string_view text);
 
-/// Whether word vectors are installed. Currently never: `distance` then has no value.
+/// Whether word vectors are installed. Reads them on first use.
 [[nodiscard]] bool hasEmbedding();
-/// Cosine distance of two English words (0: same direction, 2: opposite); nothing without vectors or for an
-/// unknown word.
+/// Cosine distance of two English words in lower case (0: same direction, at most 2), where related words are
+/// less than 0.62 apart. A word without a vector stands for its base form. Nothing if that has none either.
 [[nodiscard]] std::optional<double> distance(std::string_view a, std::string_view b);
 
 } // namespace orlen::LanguageTools
