@@ -28,6 +28,17 @@ std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFil
     return std::move(loaded.records);
 }
 
+/// While nobody can tell what is excluded, everything is: nothing may move that the user once ruled out.
+std::vector<Exclusion> loadExclusions(std::vector<std::string>& notices)
+{
+    Persist::Loaded<Exclusion> loaded = Persist::loadExclusions();
+    const bool isUnknown = loaded.problem == Persist::Problem::unreadable;
+    std::vector<Exclusion> lines = taken(std::move(loaded), AppTexts::kExclusions, notices);
+    if (isUnknown)
+        lines = {{Exclusion::Kind::path, "/"}};
+    return lines;
+}
+
 } // namespace
 
 AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
@@ -38,9 +49,9 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
         OwnFile::removeUnfinished(folder);
     m_storage = std::make_unique<Storage>(taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices),
                                           m_isWriter ? Storage::Saving::snapshots : Storage::Saving::none);
-    m_exclusions = std::make_unique<ExclusionList>(
-        taken(Persist::loadExclusions(), AppTexts::kExclusions, m_notices),
-        m_isWriter ? ExclusionList::Access::writer : ExclusionList::Access::reader);
+    m_exclusions = std::make_unique<ExclusionList>(loadExclusions(m_notices),
+                                                   m_isWriter ? ExclusionList::Access::writer
+                                                              : ExclusionList::Access::reader);
     m_results = std::make_unique<Results>(*m_storage, *m_exclusions, options.images);
     m_cleanUps = std::make_unique<CleanUps>(std::move(history),
                                             m_isWriter ? CleanUps::Access::writer : CleanUps::Access::reader,

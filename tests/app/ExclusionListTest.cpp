@@ -135,7 +135,10 @@ TEST_F(ExclusionListTest, whatCannotBeSavedChangesNothing)
     AppModel model(kCommand);
     EXPECT_THAT(model.notices(), SizeIs(1));
     EXPECT_EQ(model.exclusions()->add(named("a")).error(), EACCES);
-    EXPECT_THAT(model.exclusions()->current().lines(), IsEmpty());
+    // Nobody can tell what is excluded, so nothing is offered.
+    EXPECT_THAT(model.exclusions()->current().lines(), ElementsAre(path("/")));
+    scan(model);
+    EXPECT_THAT(offered(model), IsEmpty());
     TempHome::setMode(file, 0600);
     EXPECT_EQ(TempHome::content(file), "[{\"name\":\"mozilla\"}]");
 }

@@ -27,9 +27,9 @@ Journey {
         test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
         tryCompare(test.item("photoGrid"), "count", 2);
-        compare(test.row("photoGrid", 0).name, "squares 200.bmp");
+        compare(test.row("photoGrid", 0).name, "squares 240.bmp");
         verify(test.row("photoGrid", 0).kept);
-        compare(test.row("photoGrid", 1).name, "squares 240.bmp");
+        compare(test.row("photoGrid", 1).name, "squares 200.bmp");
         verify(!test.row("photoGrid", 1).kept);
     }
 
@@ -37,7 +37,7 @@ Journey {
         test.click(test.row("photoGrid", 1));
         verify(test.row("photoGrid", 1).selected);
         keyClick(Qt.Key_Space);
-        tryCompare(test.item("previewPicture"), "implicitWidth", 240);
+        tryCompare(test.item("previewPicture"), "implicitWidth", 200);
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("previewPicture"));
     }
@@ -47,8 +47,8 @@ Journey {
         test.row("planEntries", 1);
         test.clickOn("primaryAction");
         test.clickOn("cleaningDone");
-        verify(stage.isInTrash("squares 240.bmp"));
-        verify(stage.exists("Pictures/squares 200.bmp"));
+        verify(stage.isInTrash("squares 200.bmp"));
+        verify(stage.exists("Pictures/squares 240.bmp"));
         tryVerify(() => !test.isShown("photoGrid"));
     }
 }
