@@ -28,11 +28,12 @@ std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFil
     return std::move(loaded.records);
 }
 
-/// While nobody can tell what is excluded, everything is: nothing may move that the user once ruled out.
+/// While nobody can tell what is excluded, everything is: nothing may move that the user once ruled out. On a
+/// disk that does not answer no clean-up begins anyway, and the results may be shown.
 std::vector<Exclusion> loadExclusions(std::vector<std::string>& notices)
 {
     Persist::Loaded<Exclusion> loaded = Persist::loadExclusions();
-    const bool isUnknown = loaded.problem == Persist::Problem::unreadable;
+    const bool isUnknown = loaded.problem == Persist::Problem::unreadable && Persist::isReachable();
     std::vector<Exclusion> lines = taken(std::move(loaded), AppTexts::kExclusions, notices);
     if (isUnknown)
         lines = {{Exclusion::Kind::path, "/"}};
