@@ -145,8 +145,11 @@ void put(Writer& writer, const PictureTraits& traits)
 {
     writer.put(static_cast<std::uint8_t>(traits.format));
     unsigned bits = 0;
-    for (std::size_t i = 0; i < std::size(kTraits); ++i)
-        bits |= (traits.*kTraits[i] ? 1U : 0U) << i;
+    unsigned bit = 1;
+    for (const auto trait : kTraits) {
+        bits |= traits.*trait ? bit : 0U;
+        bit <<= 1U;
+    }
     writer.put(static_cast<std::uint8_t>(bits));
 }
 
@@ -155,9 +158,11 @@ PictureTraits traits(Reader& reader)
     constexpr auto kLastFormat = static_cast<std::uint8_t>(PictureFormat::bmp);
     constexpr std::uint8_t kAllBits = (1U << std::size(kTraits)) - 1;
     PictureTraits traits{.format = static_cast<PictureFormat>(reader.get<std::uint8_t>(0, kLastFormat))};
-    const auto bits = reader.get<std::uint8_t>(0, kAllBits);
-    for (std::size_t i = 0; i < std::size(kTraits); ++i)
-        traits.*kTraits[i] = (bits >> i & 1U) != 0;
+    unsigned bits = reader.get<std::uint8_t>(0, kAllBits);
+    for (const auto trait : kTraits) {
+        traits.*trait = (bits & 1U) != 0;
+        bits >>= 1U;
+    }
     return traits;
 }
 
