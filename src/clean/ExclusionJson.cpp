@@ -86,6 +86,8 @@ nlohmann::ordered_json encode(const Exclusion& exclusion)
     return {{exclusion.kind == Exclusion::Kind::path ? "path" : "name", exclusion.text}};
 }
 
+// The files of the data folder are all decoded in this form.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 RecordJson::Decoded<Exclusion> decode(std::string text)
 {
     Collector collector;

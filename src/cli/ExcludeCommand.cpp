@@ -111,7 +111,7 @@ private:
     /// A line is removed by the path it shows, even if links lead elsewhere by now.
     [[nodiscard]] std::optional<Exclusion> pathLine(const Lines& lines) const
     {
-        const auto asGiven = Exclusion::ofPath(PathArgument::absolute(m_path));
+        auto asGiven = Exclusion::ofPath(PathArgument::absolute(m_path));
         if (m_remove->parsed() && asGiven && std::ranges::find(lines, *asGiven) != lines.end())
             return asGiven;
         return Exclusion::ofPath(PathArgument::located(m_path));

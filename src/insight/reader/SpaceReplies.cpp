@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -44,7 +45,7 @@ std::string percentUsed(const StorageBreakdown& breakdown)
 {
     const double share =
         100.0 * static_cast<double>(usedOf(breakdown)) / static_cast<double>(breakdown.total);
-    return std::to_string(static_cast<int>(share + 0.5)) + " %";
+    return std::to_string(std::lround(share)) + " %";
 }
 
 std::string volumeText(const StorageBreakdown& breakdown)

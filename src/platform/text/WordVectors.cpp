@@ -34,7 +34,7 @@ std::int64_t product(std::span<const char> a, std::span<const char> b)
 {
     std::int64_t sum = 0;
     for (std::size_t i = 0; i < a.size(); ++i)
-        sum += static_cast<signed char>(a[i]) * static_cast<signed char>(b[i]);
+        sum += std::int64_t{static_cast<signed char>(a[i])} * static_cast<signed char>(b[i]);
     return sum;
 }
 
