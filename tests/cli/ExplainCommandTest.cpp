@@ -19,6 +19,11 @@ Json explained(const std::string& path)
     return Process{{"explain", "--json", path}}.run().document();
 }
 
+std::string shown(const std::string& path)
+{
+    return Process{{"explain", path}}.run().out;
+}
+
 } // namespace
 
 TEST(ExplainCommandTest, aPathIsProtectedOfferedOrNeither)
@@ -59,10 +64,10 @@ TEST(ExplainCommandTest, textSaysWhatWouldMove)
     const TempHome home;
     home.fileOfSize(".cache/mozilla/firefox/x", 200 * kKiB);
     EXPECT_THAT(
-        Process({"explain", home.path(".cache/mozilla/firefox")}).run().out,
+        shown(home.path(".cache/mozilla/firefox")),
         HasSubstr("App caches, Safe: Browser cache, rebuilt as you browse.\nMoves with ~/.cache/mozilla"));
-    EXPECT_THAT(Process({"explain", home.path(".ssh")}).run().out, HasSubstr("Protected, "));
-    EXPECT_EQ(Process({"explain"}).run().status, 2);
+    EXPECT_THAT(shown(home.path(".ssh")), HasSubstr("Protected, "));
+    EXPECT_EQ((Process{{"explain"}}.run().status), 2);
 }
 
 } // namespace orlen

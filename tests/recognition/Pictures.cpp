@@ -99,7 +99,7 @@ std::string encoded(const Options& options)
 
 std::string bmp(const Options& options)
 {
-    const auto little = [](std::uint32_t number, unsigned bytes) {
+    const auto little = [](std::uint64_t number, unsigned bytes) {
         std::string text;
         for (unsigned i = 0; i < bytes; ++i)
             text += static_cast<char>(number >> 8 * i & 0xFFU);
