@@ -29,7 +29,7 @@ void dropPowers()
     std::array<__user_cap_data_struct, 2> powers{};
     if (::syscall(SYS_capget, &header, powers.data()) != 0)
         return;
-    for (const unsigned power : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH, CAP_FOWNER})
+    for (const int power : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH, CAP_FOWNER})
         powers[0].effective &= ~(1U << power);
     ::syscall(SYS_capset, &header, powers.data());
 }

@@ -81,7 +81,7 @@ TEST(DuplicatesTest, everyByteDecides)
         {"long, last byte", 5'000'000, 4'999'999},
     };
     // Few files are compared all with one another, many in portions that are joined by their hashes.
-    for (const std::size_t copies : {1, 16, 40}) {
+    for (const std::size_t copies : {1U, 16U, 40U}) {
         for (const Case& c : cases) {
             SCOPED_TRACE(testing::Message() << c.name << ", " << copies + 1 << " files");
             const TempHome home;

@@ -36,7 +36,7 @@ struct AppHome : TempHome {
 
     std::string script(std::string_view name, std::string_view commands) const
     {
-        const std::string path = file(name, "#!/bin/sh\n" + std::string(commands));
+        std::string path = file(name, "#!/bin/sh\n" + std::string(commands));
         setMode(path, 0755);
         return path;
     }
