@@ -27,7 +27,7 @@ struct Machine : TempHome {
     /// A file of which nothing but the size matters: room is set aside for it.
     std::string room(const std::string& name, std::int64_t bytes) const
     {
-        const std::string path = file(name);
+        std::string path = file(name);
         const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
         EXPECT_EQ(::posix_fallocate(fd, 0, bytes), 0);
         ::close(fd);
