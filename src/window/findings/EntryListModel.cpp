@@ -106,12 +106,12 @@ void EntryListModel::followFindings()
     }
     if (entries.size() == m_entries.size())
         return;
-    removeRows(*isKept);
+    takeOutRows(*isKept);
     dropEntries(*isKept);
     count();
 }
 
-void EntryListModel::removeRows(const std::vector<bool>& isKept)
+void EntryListModel::takeOutRows(const std::vector<bool>& isKept)
 {
     std::vector<Piece> pieces;
     for (int row = 0; row < rowCount(); ++row) {

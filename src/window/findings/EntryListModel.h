@@ -106,7 +106,7 @@ private:
     void followSelection();
     void readSelection();
     void arrange();
-    void removeRows(const std::vector<bool>& isKept);
+    void takeOutRows(const std::vector<bool>& isKept);
     void dropEntries(const std::vector<bool>& isKept);
     void setShown(bool isSelected);
     void setSelected(const std::vector<int>& rows, bool isSelected);
