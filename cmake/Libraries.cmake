@@ -2,6 +2,8 @@
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 find_package(OpenSSL REQUIRED COMPONENTS Crypto)
+find_package(Boost 1.74 REQUIRED COMPONENTS locale)
+find_package(Gettext REQUIRED)
 find_package(nlohmann_json REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(Qt6 REQUIRED COMPONENTS Core DBus Gui Qml Quick QuickControls2 Svg)

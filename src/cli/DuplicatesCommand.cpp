@@ -3,7 +3,7 @@
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "model/Rater.h"
 #include "scan/ScanProgress.h"
 #include "scan/duplicates/Duplicates.h"

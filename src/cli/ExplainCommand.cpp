@@ -7,7 +7,7 @@
 #include "cli/PathArgument.h"
 #include "cli/SavedExclusions.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "scan/Explanation.h"
 

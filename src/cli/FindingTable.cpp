@@ -1,7 +1,7 @@
 #include "cli/FindingTable.h"
 
 #include "app/Format.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>

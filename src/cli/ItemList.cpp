@@ -4,7 +4,7 @@
 #include "cli/FindingTable.h"
 #include "cli/Session.h"
 #include "cli/Table.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "model/PathSelection.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"

@@ -6,7 +6,7 @@
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"

@@ -3,7 +3,7 @@
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "model/Rater.h"
 #include "platform/images/ImageWorkers.h"
 #include "platform/values/CheckedSum.h"

@@ -10,7 +10,7 @@
 #include "cli/FailureList.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "model/ModelState.h"
 #include "platform/text/PathText.h"
 

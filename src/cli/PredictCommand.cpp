@@ -3,7 +3,7 @@
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 
 #include <nlohmann/json.hpp>
 

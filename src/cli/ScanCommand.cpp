@@ -6,7 +6,7 @@
 #include "cli/JsonDocuments.h"
 #include "cli/SmartScan.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "scan/ScanProgress.h"
 
 #include <CLI/CLI.hpp>

@@ -6,7 +6,7 @@
 #include "cli/PathArgument.h"
 #include "cli/PlanCarrier.h"
 #include "cli/Texts.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 #include "scan/FS.h"

@@ -2,7 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/reader/AskReader.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/files/Places.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "insight/AskEngine.h"
 
 #include "insight/AskText.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/values/CheckedSum.h"
 

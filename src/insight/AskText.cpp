@@ -1,6 +1,6 @@
 #include "insight/AskText.h"
 
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>

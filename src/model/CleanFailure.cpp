@@ -30,59 +30,59 @@ std::string_view rawValue(FailureReason reason)
     return "other";
 }
 
-std::string_view reasonText(FailureReason reason)
+Text reasonText(FailureReason reason)
 {
     switch (reason) {
     case FailureReason::isProtected:
-        return "protected";
+        return message("protected");
     case FailureReason::excluded:
-        return "excluded by you";
+        return message("excluded by you");
     case FailureReason::missing:
-        return "no longer there";
+        return message("no longer there");
     case FailureReason::changed:
-        return "changed since the scan";
+        return message("changed since the scan");
     case FailureReason::permission:
-        return "no permission";
+        return message("no permission");
     case FailureReason::full:
-        return "disk full";
+        return message("disk full");
     case FailureReason::noTrash:
-        return "no Trash on that disk";
+        return message("no Trash on that disk");
     case FailureReason::inUse:
-        return "in use";
+        return message("in use");
     case FailureReason::occupied:
-        return "something is at the original place";
+        return message("something is at the original place");
     case FailureReason::replaced:
-        return "something else has this name in the Trash";
+        return message("something else has this name in the Trash");
     case FailureReason::other:
-        return "the system refused";
+        return message("the system refused");
     }
-    return "";
+    return {};
 }
 
-std::string_view remedyText(FailureReason reason)
+Text remedyText(FailureReason reason)
 {
     switch (reason) {
     case FailureReason::excluded:
-        return "Remove it from the exclusions first.";
+        return message("Remove it from the exclusions first.");
     case FailureReason::changed:
-        return "Scan again to see what is there now.";
+        return message("Scan again to see what is there now.");
     case FailureReason::permission:
-        return "It belongs to another user, or its folder may not be changed.";
+        return message("It belongs to another user, or its folder may not be changed.");
     case FailureReason::full:
-        return "Empty the Trash to make room, then try again.";
+        return message("Empty the Trash to make room, then try again.");
     case FailureReason::noTrash:
-        return "Move it by hand if you no longer need it.";
+        return message("Move it by hand if you no longer need it.");
     case FailureReason::inUse:
-        return "Quit the program that uses it, then try again.";
+        return message("Quit the program that uses it, then try again.");
     case FailureReason::occupied:
-        return "Move or rename what is there, then try again.";
+        return message("Move or rename what is there, then try again.");
     case FailureReason::isProtected:
     case FailureReason::missing:
     case FailureReason::replaced:
     case FailureReason::other:
-        return "";
+        return {};
     }
-    return "";
+    return {};
 }
 
 } // namespace orlen

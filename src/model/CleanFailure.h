@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,9 +26,9 @@ enum class FailureReason {
 /// The name used in JSON: "protected" (also for what is excluded), "missing", "changed" and so on.
 [[nodiscard]] std::string_view rawValue(FailureReason reason);
 /// The reason in a few words, shown after a path.
-[[nodiscard]] std::string_view reasonText(FailureReason reason);
+[[nodiscard]] Text reasonText(FailureReason reason);
 /// What the user can do about it, as a sentence; empty if nothing.
-[[nodiscard]] std::string_view remedyText(FailureReason reason);
+[[nodiscard]] Text remedyText(FailureReason reason);
 
 /// An item that a clean-up or restore did not move.
 struct CleanFailure {

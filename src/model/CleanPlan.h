@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/FileEntry.h"
+#include "model/Message.h"
 #include "platform/values/Uuid.h"
 
 #include <optional>
@@ -12,7 +13,7 @@ namespace orlen {
 /// One section of a clean-up plan, identified by `id` (a finding's kind, or a name of the tool that made it).
 struct PlanSection {
     std::string id;
-    std::string title;
+    Message title;
     std::string symbol; ///< icon name
     std::vector<FileEntry> entries;
     std::optional<Rating> rating; ///< of entries without one of their own; absent: they are not rated
@@ -23,7 +24,7 @@ struct PlanSection {
 /// What a clean-up will move to the Trash.
 struct CleanPlan {
     Uuid id = Uuid::random();
-    std::string title; ///< heading of the plan, recorded as the title of the clean-up
+    Message title; ///< heading of the plan, recorded as the title of the clean-up, in English
     std::vector<PlanSection> sections;
 
     friend bool operator==(const CleanPlan&, const CleanPlan&) = default;

@@ -4,22 +4,21 @@
 
 namespace orlen {
 
-void addNote(FileEntry& entry, std::string_view note)
+void addNote(FileEntry& entry, Message note)
 {
-    if (entry.note)
-        entry.note->append(" · ").append(note);
-    else
-        entry.note = note;
+    if (!note.empty())
+        entry.notes.push_back(std::move(note));
 }
 
-void addNoteBefore(FileEntry& entry, std::string_view note)
+void addNoteBefore(FileEntry& entry, Message note)
 {
-    if (note.empty())
-        return;
-    std::optional<std::string> after = std::move(entry.note);
-    entry.note = note;
-    if (after)
-        addNote(entry, *after);
+    if (!note.empty())
+        entry.notes.insert(entry.notes.begin(), std::move(note));
+}
+
+Message noteOf(const FileEntry& entry)
+{
+    return Message::joined(entry.notes, Several::Joint::facts);
 }
 
 } // namespace orlen

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Message.h"
 #include "model/Rating.h"
 #include "platform/files/FileStatus.h"
 #include "platform/values/Time.h"
@@ -7,7 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace orlen {
 
@@ -28,7 +29,7 @@ struct FileEntry {
     std::optional<TimePoint> modified;
     std::optional<TimePoint> lastOpened;
     std::optional<Rating> rating; ///< absent: the finding's rating holds
-    std::optional<std::string> note;
+    std::vector<Message> notes; ///< what to know about it, most important first
     /// What was at the path when it was scanned: only that may be moved. Absent if unknown; then nothing is
     /// compared.
     std::optional<FileStamp> stamp;
@@ -39,9 +40,10 @@ struct FileEntry {
     friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
 
-/// Appends to an entry's note; several notes are joined by " · ".
-void addNote(FileEntry& entry, std::string_view note);
-/// The same in front of it. An empty note changes nothing.
-void addNoteBefore(FileEntry& entry, std::string_view note);
+/// Adds to an entry's notes, behind or before the others. An empty note changes nothing.
+void addNote(FileEntry& entry, Message note);
+void addNoteBefore(FileEntry& entry, Message note);
+/// All notes in one, joined by " · "; empty if there are none.
+[[nodiscard]] Message noteOf(const FileEntry& entry);
 
 } // namespace orlen

@@ -17,12 +17,12 @@ struct Finding {
     Finding(FindingKind kind, std::vector<FileEntry> items);
 
     FindingKind kind;
-    std::string title;
-    std::string explanation;
+    Text title;
+    Text explanation;
     std::string symbol;
     OrlenCategory category;
     Rating rating = Rating::review;
-    std::string reason;
+    Text reason;
     std::vector<FileEntry> items;
     bool cleanable = true; ///< whether its entries may be moved to the Trash at all
 

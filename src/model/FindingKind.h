@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/OrlenCategory.h"
+#include "model/Text.h"
 
 #include <array>
 #include <cstddef>
@@ -44,8 +45,8 @@ inline constexpr std::size_t kFindingKinds = 24;
 
 /// The fixed texts of a kind.
 struct KindMeta {
-    std::string_view title;
-    std::string_view explanation;
+    Text title;
+    Text explanation;
     std::string_view symbol; ///< icon name
     OrlenCategory category;
 };

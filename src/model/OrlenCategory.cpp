@@ -8,19 +8,19 @@ namespace {
 
 struct CategoryRow {
     std::string_view raw;
-    std::string_view label;
+    Text label;
     CategoryColour colour;
 };
 
 /// In the order of the enumeration.
 constexpr std::array kCategoryRows{
-    CategoryRow{"apps", "Apps", {0.25, 0.52, 1.0}},
-    CategoryRow{"photos", "Photos", {1.0, 0.38, 0.55}},
-    CategoryRow{"media", "Media", {0.68, 0.4, 0.95}},
-    CategoryRow{"documents", "Documents", {1.0, 0.62, 0.2}},
-    CategoryRow{"developer", "Developer", {0.2, 0.78, 0.5}},
-    CategoryRow{"system", "System", {0.55, 0.58, 0.64}},
-    CategoryRow{"caches", "Caches", {0.22, 0.76, 0.86}},
+    CategoryRow{"apps", message("Apps"), {0.25, 0.52, 1.0}},
+    CategoryRow{"photos", message("Photos"), {1.0, 0.38, 0.55}},
+    CategoryRow{"media", message("Media"), {0.68, 0.4, 0.95}},
+    CategoryRow{"documents", message("Documents"), {1.0, 0.62, 0.2}},
+    CategoryRow{"developer", message("Developer"), {0.2, 0.78, 0.5}},
+    CategoryRow{"system", message("System"), {0.55, 0.58, 0.64}},
+    CategoryRow{"caches", message("Caches"), {0.22, 0.76, 0.86}},
 };
 static_assert(kCategoryRows.size() == kAllCategories.size());
 
@@ -36,7 +36,7 @@ std::string_view rawValue(OrlenCategory category)
     return row(category).raw;
 }
 
-std::string_view label(OrlenCategory category)
+Text label(OrlenCategory category)
 {
     return row(category).label;
 }

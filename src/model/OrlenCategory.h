@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <array>
 #include <string_view>
 
@@ -21,7 +23,7 @@ struct CategoryColour {
 
 /// The case's name as stored on disk.
 [[nodiscard]] std::string_view rawValue(OrlenCategory category);
-[[nodiscard]] std::string_view label(OrlenCategory category);
+[[nodiscard]] Text label(OrlenCategory category);
 [[nodiscard]] CategoryColour colour(OrlenCategory category);
 
 } // namespace orlen

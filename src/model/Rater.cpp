@@ -23,9 +23,9 @@ constexpr std::ptrdiff_t kMeaningLength = 5;
 /// Cosine distance below which two words are close in meaning.
 constexpr double kCloseDistance = 0.62;
 
-constexpr std::string_view kImportantReason = "Every item here looks important.";
-constexpr std::string_view kDocumentNote = "Name suggests an important document (invoice, tax, contract…)";
-constexpr std::string_view kInstallerNote = "Installer — you can download it again";
+constexpr Text kImportantReason = message("Every item here looks important.");
+constexpr Text kDocumentNote = message("Name suggests an important document (invoice, tax, contract…)");
+constexpr Text kInstallerNote = message("Installer — you can download it again");
 
 /// Which words are close in meaning to an anchor word. Comparing is slow and names repeat words, so this
 /// cache only grows. Two threads may compute the same word at once; they store the same result.
@@ -140,7 +140,7 @@ void rateInstaller(FileEntry& entry, FindingKind kind)
         !RaterTables::isInstallerExtension(PathText::asciiLower(PathText::extension(entry.path))))
         return;
     entry.rating = Rating::safe;
-    entry.note = kInstallerNote; // says all there is to say, so it takes the place of earlier notes
+    entry.notes = {kInstallerNote}; // says all there is to say, so it takes the place of earlier notes
 }
 
 void rateEntry(FileEntry& entry, FindingKind kind)

@@ -11,50 +11,50 @@ using enum FindingKind;
 using enum Rating;
 
 constexpr std::array<KindRule, kFindingKinds> kRules{{
-    {caches, safe, "Apps rebuild their caches automatically. They may open a little slower the first time."},
-    {logs, safe, "Old logs are only needed for troubleshooting and are written again as needed."},
+    {caches, safe, message("Apps rebuild their caches automatically. They may open a little slower the first time.")},
+    {logs, safe, message("Old logs are only needed for troubleshooting and are written again as needed.")},
     {iosBackups, review,
-     "These may be the only copy of data from a device. Remove them only if you no longer need to restore "
-     "from them."},
-    {softwareUpdates, safe, "Downloaded update files are fetched again if you ever need them."},
-    {xcodeDerived, safe, "Rebuilt automatically the next time you build the project."},
-    {xcodeArchives, review, "Archives may be needed to symbolicate crash reports from released versions."},
-    {simulators, review, "Xcode can recreate simulators, but the apps and data inside them would be lost."},
-    {deviceSupport, safe, "Recreated the next time you connect that device to Xcode."},
-    {homebrew, safe, "Homebrew downloads packages again if it needs them."},
-    {npm, safe, "Node tools re-download packages when needed; the next install is slower."},
-    {pip, safe, "pip re-downloads packages when needed."},
-    {gradle, safe, "Gradle rebuilds this cache; your next build will be slower."},
-    {trash, review, "Already in the Trash. Empty it yourself in Finder when you're sure."},
-    {mailDownloads, review, "These are copies, but you may have opened them for a reason."},
+     message("These may be the only copy of data from a device. Remove them only if you no longer need to restore "
+     "from them.")},
+    {softwareUpdates, safe, message("Downloaded update files are fetched again if you ever need them.")},
+    {xcodeDerived, safe, message("Rebuilt automatically the next time you build the project.")},
+    {xcodeArchives, review, message("Archives may be needed to symbolicate crash reports from released versions.")},
+    {simulators, review, message("Xcode can recreate simulators, but the apps and data inside them would be lost.")},
+    {deviceSupport, safe, message("Recreated the next time you connect that device to Xcode.")},
+    {homebrew, safe, message("Homebrew downloads packages again if it needs them.")},
+    {npm, safe, message("Node tools re-download packages when needed; the next install is slower.")},
+    {pip, safe, message("pip re-downloads packages when needed.")},
+    {gradle, safe, message("Gradle rebuilds this cache; your next build will be slower.")},
+    {trash, review, message("Already in the Trash. Empty it yourself in Finder when you're sure.")},
+    {mailDownloads, review, message("These are copies, but you may have opened them for a reason.")},
     {languagePacks, review,
-     "Changes app bundles, which can invalidate an app's code signature or be undone by updates."},
-    {largeFiles, review, "Only you know whether you still need these. Check each one."},
-    {oldFiles, review, "Not opened for over a year, but 'old' doesn't mean 'unneeded'."},
+     message("Changes app bundles, which can invalidate an app's code signature or be undone by updates.")},
+    {largeFiles, review, message("Only you know whether you still need these. Check each one.")},
+    {oldFiles, review, message("Not opened for over a year, but 'old' doesn't mean 'unneeded'.")},
     {oldDownloads, review,
-     "Downloads you haven't touched in a month. Installers are usually safe; documents may not be."},
+     message("Downloads you haven't touched in a month. Installers are usually safe; documents may not be.")},
     {duplicates, review,
-     "Identical content exists elsewhere, but apps or projects may refer to a specific path."},
-    {photoDuplicates, review, "Orlen suggests keeping the sharpest of each set; look before you decide."},
-    {screenshots, review, "Screenshots are often disposable, but some hold information you meant to keep."},
-    {receipts, review, "Receipts and paperwork may be needed for returns or taxes."},
-    {memes, review, "Looks like a meme or captioned image; the guess may be wrong."},
-    {blurry, review, "Looks out of focus to a sharpness test, which can also flag intentional blur."},
+     message("Identical content exists elsewhere, but apps or projects may refer to a specific path.")},
+    {photoDuplicates, review, message("Orlen suggests keeping the sharpest of each set; look before you decide.")},
+    {screenshots, review, message("Screenshots are often disposable, but some hold information you meant to keep.")},
+    {receipts, review, message("Receipts and paperwork may be needed for returns or taxes.")},
+    {memes, review, message("Looks like a meme or captioned image; the guess may be wrong.")},
+    {blurry, review, message("Looks out of focus to a sharpness test, which can also flag intentional blur.")},
 }};
 
-constexpr KindRule kOtherKinds{caches, review, "Check before cleaning."};
+constexpr KindRule kOtherKinds{caches, review, message("Check before cleaning.")};
 
 // One row a line; the order is the order of testing, and an earlier row wins over a later one.
 // clang-format off
 constexpr auto kKnownTexts = std::to_array<KnownLocation>({
-    {"/Library/Caches/CloudKit", keep, "Used for iCloud sync. Removing it can force a slow re-sync."},
-    {"/Library/Caches/com.apple.bird", keep, "Used by iCloud Drive."},
-    {"/Library/Caches/com.apple.Safari", safe, "Safari rebuilds its web cache."},
-    {"/Library/Caches/Google", safe, "Browser cache, rebuilt as you browse."},
-    {"/Library/Caches/com.spotify", safe, "Cached audio; it downloads again when played."},
-    {"/Xcode/DerivedData/ModuleCache", safe, "Rebuilt by Xcode automatically."},
-    {"/Service Worker/CacheStorage", review, "May hold offline data of a web app."},
-    {".kdbx", keep, "Password database."},
+    {"/Library/Caches/CloudKit", keep, message("Used for iCloud sync. Removing it can force a slow re-sync.")},
+    {"/Library/Caches/com.apple.bird", keep, message("Used by iCloud Drive.")},
+    {"/Library/Caches/com.apple.Safari", safe, message("Safari rebuilds its web cache.")},
+    {"/Library/Caches/Google", safe, message("Browser cache, rebuilt as you browse.")},
+    {"/Library/Caches/com.spotify", safe, message("Cached audio; it downloads again when played.")},
+    {"/Xcode/DerivedData/ModuleCache", safe, message("Rebuilt by Xcode automatically.")},
+    {"/Service Worker/CacheStorage", review, message("May hold offline data of a web app.")},
+    {".kdbx", keep, message("Password database.")},
 });
 // clang-format on
 

@@ -12,7 +12,7 @@ namespace orlen::RaterTables {
 struct KindRule {
     FindingKind kind;
     Rating rating;
-    std::string_view reason; ///< shown as the finding's reason
+    Text reason; ///< shown as the finding's reason
 };
 
 /// The rule for a kind; a kind without a row gets `review` and a general reason.
@@ -21,7 +21,7 @@ struct KindRule {
 struct KnownLocation {
     std::string_view where;
     Rating rating;
-    std::string_view note;
+    Text note;
 };
 
 /// The first row that matches a path applies; `where` may occur anywhere in it, case-sensitive.

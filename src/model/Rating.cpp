@@ -9,15 +9,15 @@ namespace {
 
 struct RatingRow {
     std::string_view raw;
-    std::string_view label;
+    Text label;
     std::string_view symbol;
 };
 
 /// In the order of the enumeration.
 constexpr std::array kRatingRows{
-    RatingRow{"safe", "Safe", "checkmark.shield.fill"},
-    RatingRow{"review", "Review", "eye.fill"},
-    RatingRow{"keep", "Keep", "lock.fill"},
+    RatingRow{"safe", message("Safe"), "checkmark.shield.fill"},
+    RatingRow{"review", message("Review"), "eye.fill"},
+    RatingRow{"keep", message("Keep"), "lock.fill"},
 };
 
 const RatingRow& row(Rating rating)
@@ -32,7 +32,7 @@ std::string_view rawValue(Rating rating)
     return row(rating).raw;
 }
 
-std::string_view label(Rating rating)
+Text label(Rating rating)
 {
     return row(rating).label;
 }

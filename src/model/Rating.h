@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <string_view>
 
 namespace orlen {
@@ -11,7 +13,7 @@ enum class Rating { safe, review, keep };
 [[nodiscard]] std::string_view rawValue(Rating rating);
 
 /// The word on the rating chip: "Safe", "Review", "Keep".
-[[nodiscard]] std::string_view label(Rating rating);
+[[nodiscard]] Text label(Rating rating);
 /// Symbol name of the rating chip.
 [[nodiscard]] std::string_view symbol(Rating rating);
 

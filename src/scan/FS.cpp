@@ -1,6 +1,6 @@
 #include "scan/FS.h"
 
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/desktop/RecentDocuments.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/MountTable.h"

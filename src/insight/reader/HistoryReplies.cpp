@@ -1,6 +1,6 @@
 #include "insight/reader/HistoryReplies.h"
 
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/reader/Names.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 

@@ -1,7 +1,7 @@
 #include "insight/reader/SpaceReplies.h"
 
 #include "insight/AskText.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>

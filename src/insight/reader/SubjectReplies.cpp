@@ -2,7 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/reader/Names.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 

@@ -38,4 +38,13 @@ std::string path()
     return image.empty() || isInherited ? own : image;
 }
 
+std::string sharedFolder(std::string_view name)
+{
+    const std::string program = executable();
+    if (program.empty())
+        return {};
+    return PathText::standardized(
+        PathText::join(PathText::join(PathText::parent(program), "../share"), name));
+}
+
 } // namespace orlen::OwnProgram

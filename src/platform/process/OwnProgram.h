@@ -15,4 +15,8 @@ namespace orlen::OwnProgram {
 /// What to start to run it again: the AppImage it runs from, else the executable. Absolute; empty if unknown.
 [[nodiscard]] std::string path();
 
+/// A folder of the program's read-only data, which lies beside that of the programs: ../share/NAME, installed
+/// and in a build. It need not exist; empty if the system does not say where the program is.
+[[nodiscard]] std::string sharedFolder(std::string_view name);
+
 } // namespace orlen::OwnProgram

@@ -60,15 +60,12 @@ bool isMark(UChar32 character)
     return (U_GET_GC_MASK(character) & U_GC_M_MASK) != 0;
 }
 
-/// The installed word vectors. The folder of shared data lies beside that of the program, in a build as well.
+/// The installed word vectors.
 const std::optional<WordVectors>& embedding()
 {
     static const std::optional<WordVectors> english = []() -> std::optional<WordVectors> {
-        const std::string program = OwnProgram::executable();
-        if (program.empty())
-            return std::nullopt;
-        return WordVectors::load(PathText::standardized(
-            PathText::join(PathText::parent(program), "../share/orlen/english.vectors")));
+        const std::string folder = OwnProgram::sharedFolder("orlen");
+        return folder.empty() ? std::nullopt : WordVectors::load(PathText::join(folder, "english.vectors"));
     }();
     return english;
 }

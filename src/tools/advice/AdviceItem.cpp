@@ -1,6 +1,6 @@
 #include "tools/advice/AdviceItem.h"
 
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 
 namespace orlen {
 

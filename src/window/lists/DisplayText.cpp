@@ -1,7 +1,7 @@
 #include "window/lists/DisplayText.h"
 
 #include "app/Format.h"
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 #include "model/FileEntry.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"

@@ -1,4 +1,4 @@
-#include "model/ByteCount.h"
+#include "platform/text/ByteCount.h"
 
 #include <gtest/gtest.h>
 

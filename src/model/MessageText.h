@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/Message.h"
+
+#include <functional>
+#include <string>
+
+namespace orlen {
+class Figures;
+}
+
+/// Fills the places of messages. Pure, as far as the functions it is given are.
+namespace orlen::MessageText {
+
+/// How a message is said.
+struct Voice {
+    /// The text to fill, for this number of things.
+    std::function<std::string(const Text& text, std::int64_t count)> words;
+    const Figures& figures;
+};
+
+/// A place that the message does not fill stays as it is, in its braces.
+[[nodiscard]] std::string filled(const Message& message, const Voice& voice);
+
+} // namespace orlen::MessageText
