@@ -1,9 +1,9 @@
 #include "window/lists/DisplayText.h"
 
 #include "app/Format.h"
-#include "platform/text/ByteCount.h"
 #include "model/FileEntry.h"
 #include "platform/files/Places.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <QDateTime>
