@@ -32,9 +32,9 @@ private:
     friend consteval Text messages(const char* one, const char* many);
 
     // All end in a zero byte.
-    std::string_view m_context = "";
-    std::string_view m_one = "";
-    std::string_view m_many = "";
+    std::string_view m_context{"", 0};
+    std::string_view m_one{"", 0};
+    std::string_view m_many{"", 0};
 };
 
 /// A text, in which "{name}" stands for what `Message` puts there.

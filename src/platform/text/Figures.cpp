@@ -31,10 +31,11 @@ std::string utf8(const icu::UnicodeString& text)
     return bytes;
 }
 
-LocalizedNumberFormatter withUnit(const icu::Locale& locale, icu::MeasureUnit unit, UNumberUnitWidth width)
+LocalizedNumberFormatter withUnit(const icu::Locale& locale, const icu::MeasureUnit& unit,
+                                  UNumberUnitWidth width)
 {
     return NumberFormatter::withLocale(locale)
-        .unit(std::move(unit))
+        .unit(unit)
         .unitWidth(width)
         .precision(Precision::maxFraction(1));
 }
@@ -176,7 +177,8 @@ std::string Figures::duration(std::chrono::duration<double> time) const
         return written(&Formats::seconds, static_cast<double>(tenths) / 10, " s");
     if (whole < 60)
         return written(&Formats::seconds, static_cast<double>(whole), " s");
-    return written(&Formats::minutes, static_cast<double>(whole / 60), " min") + ' ' +
+    const auto minutes = whole / 60;
+    return written(&Formats::minutes, static_cast<double>(minutes), " min") + ' ' +
            written(&Formats::seconds, static_cast<double>(whole % 60), " s");
 }
 
