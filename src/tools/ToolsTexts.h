@@ -13,6 +13,7 @@ inline constexpr Text kSmallerItems = messages("{count} smaller items", "{count}
 
 // How much space something takes, which stands alone in a column or card
 
+// TRANSLATORS: The space that something takes is this or more.
 inline constexpr Text kAtLeast = message("at least {size}");
 inline constexpr Text kNeedsAdministrator = message("needs administrator rights");
 // TRANSLATORS: The space that something takes cannot be told.
@@ -20,8 +21,8 @@ inline constexpr Text kCannotBeTold = message("cannot be told");
 
 // Applications that Orlen does not remove
 
-// TRANSLATORS: {command} is a command to type, "flatpak uninstall" and so on.
 inline constexpr Text kInstalledByFlatpak =
+    // TRANSLATORS: {command} is a command to type, "flatpak uninstall" and so on.
     message("Installed by Flatpak. Remove it in your software centre or with: {command}");
 inline constexpr Text kInstalledBySnap =
     message("Installed by Snap. Remove it in your software centre or with: {command}");
@@ -64,8 +65,8 @@ inline constexpr Text kPortableData = messageIn("place of leftovers", "Portable 
 
 // TRANSLATORS: Only the name of a file suggests that it is the application's.
 inline constexpr Text kByNameOnly = message("Matched by name only");
-// TRANSLATORS: {name} is the name of a folder, and likely of a program.
 inline constexpr Text kNoProgramSince =
+    // TRANSLATORS: {name} is the name of a folder, and likely of a program. {year} is a number.
     message("No program named {name} is installed; not changed since {year}");
 inline constexpr Text kNoProgramFor =
     messages("No program named {name} is installed; not changed for {count} day",
@@ -86,7 +87,9 @@ inline constexpr Text kNoSnapFor =
 
 // What starts at login: whose it is
 
+// TRANSLATORS: It starts for the person who reads this.
 inline constexpr Text kYourAccount = message("Your account");
+// TRANSLATORS: It starts for everybody who logs in.
 inline constexpr Text kAllUsers = message("All users");
 
 // Why an item cannot be switched
@@ -97,15 +100,17 @@ inline constexpr Text kOthersEntry = message("Its file belongs to another user."
 inline constexpr Text kMaskedElsewhere = message("It is masked in a place that Orlen doesn't change.");
 inline constexpr Text kNoAgentTool = message("This system does not run launch agents.");
 
-// Why opening at login could not be switched, after a colon
+// Why opening at login could not be switched
 
-// TRANSLATORS: This and the next four stand after a colon.
 inline constexpr Text kSandboxed =
-    message("in this sandbox it can only be set in the desktop's own settings.");
-inline constexpr Text kUnusableHome = message("the home folder is missing or belongs to somebody else.");
+    messageIn("after a colon", "in this sandbox it can only be set in the desktop's own settings.");
+inline constexpr Text kUnusableHome =
+    messageIn("after a colon", "the home folder is missing or belongs to somebody else.");
 inline constexpr Text kForeignEntry =
-    message("something that Orlen didn't make stands in place of its autostart entry.");
-inline constexpr Text kUnwritablePath = message("no autostart entry can hold the path of the program.");
-inline constexpr Text kUnwritableFolder = message("the autostart folder can't be written to.");
+    messageIn("after a colon", "something that Orlen didn't make stands in place of its autostart entry.");
+inline constexpr Text kUnwritablePath =
+    messageIn("after a colon", "no autostart entry can hold the path of the program.");
+inline constexpr Text kUnwritableFolder =
+    messageIn("after a colon", "the autostart folder can't be written to.");
 
 } // namespace orlen::ToolsTexts

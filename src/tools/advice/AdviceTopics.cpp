@@ -19,6 +19,7 @@ constexpr std::int64_t kJournal = 220'000'000;
 
 // Texts of several rows
 constexpr Text kDownloads = message("Downloaded packages");
+// TRANSLATORS: Of Linux, beside the one that runs.
 constexpr Text kOtherKernels = message("Other kernels");
 constexpr Text kKernels =
     message("Updates add kernels beside the one that runs. The command removes those no longer needed.");
