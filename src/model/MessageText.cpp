@@ -50,6 +50,8 @@ std::string written(const Moment& moment, const Figures& figures)
         return figures.longDate(moment.value);
     case Moment::Form::minute:
         return figures.dateAndTime(moment.value);
+    case Moment::Form::year:
+        return figures.year(moment.value);
     }
     return {};
 }

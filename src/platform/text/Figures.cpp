@@ -79,6 +79,13 @@ icu::DateFormat* longDateFormat(const icu::Locale& locale)
     return icu::DateFormat::createInstanceForSkeleton("yMMMd", locale, status);
 }
 
+/// The number alone: the words around it are the message's.
+DateFormat yearFormat(const icu::Locale& locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return DateFormat(new icu::SimpleDateFormat(icu::UnicodeString(u"y"), locale, status));
+}
+
 } // namespace
 
 struct Figures::Formats {
@@ -93,7 +100,8 @@ struct Figures::Formats {
           minutes(withUnit(locale, icu::MeasureUnit::getMinute(), UNUM_UNIT_WIDTH_SHORT)),
           date(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)),
           longDate(longDateFormat(locale)), dateAndTime(icu::DateFormat::createDateTimeInstance(
-                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale))
+                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale)),
+          year(yearFormat(locale))
     {
         UErrorCode status = U_ZERO_ERROR;
         list.reset(icu::ListFormatter::createInstance(locale, status));
@@ -115,6 +123,7 @@ struct Figures::Formats {
     DateFormat date;
     DateFormat longDate;
     DateFormat dateAndTime;
+    DateFormat year;
     std::unique_ptr<icu::ListFormatter> list;
 };
 
@@ -195,6 +204,11 @@ std::string Figures::longDate(TimePoint time) const
 std::string Figures::dateAndTime(TimePoint time) const
 {
     return m_formats ? m_formats->dateAndTime.text(time) : isoText(time).substr(0, 16);
+}
+
+std::string Figures::year(TimePoint time) const
+{
+    return m_formats ? m_formats->year.text(time) : isoText(time).substr(0, 4);
 }
 
 std::string Figures::list(std::span<const std::string> parts) const

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::string longDate(TimePoint time) const;
     /// Day and minute in the person's time zone, short.
     [[nodiscard]] std::string dateAndTime(TimePoint time) const;
+    /// The year in the person's time zone, a number without separators: "2025".
+    [[nodiscard]] std::string year(TimePoint time) const;
     /// "a, b and c"
     [[nodiscard]] std::string list(std::span<const std::string> parts) const;
 
