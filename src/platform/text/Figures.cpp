@@ -34,10 +34,8 @@ std::string utf8(const icu::UnicodeString& text)
 LocalizedNumberFormatter withUnit(const icu::Locale& locale, const icu::MeasureUnit& unit,
                                   UNumberUnitWidth width)
 {
-    return NumberFormatter::withLocale(locale)
-        .unit(unit)
-        .unitWidth(width)
-        .precision(Precision::maxFraction(1));
+    return NumberFormatter::withLocale(locale).unit(unit).unitWidth(width).precision(
+        Precision::maxFraction(1));
 }
 
 /// In the order of `ByteAmount::Unit`.
@@ -84,6 +82,18 @@ DateFormat yearFormat(const icu::Locale& locale)
 {
     UErrorCode status = U_ZERO_ERROR;
     return DateFormat(new icu::SimpleDateFormat(icu::UnicodeString(u"y"), locale, status));
+}
+
+/// "1 March 2025", in UTC.
+std::string englishDate(TimePoint time)
+{
+    constexpr std::array<std::string_view, 12> kMonths{"January",   "February", "March",    "April",
+                                                       "May",       "June",     "July",     "August",
+                                                       "September", "October",  "November", "December"};
+    const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(time));
+    return std::to_string(static_cast<unsigned>(date.day())) + ' ' +
+           std::string(kMonths[static_cast<unsigned>(date.month()) - 1]) + ' ' +
+           std::to_string(static_cast<int>(date.year()));
 }
 
 } // namespace
@@ -198,7 +208,7 @@ std::string Figures::date(TimePoint time) const
 
 std::string Figures::longDate(TimePoint time) const
 {
-    return m_formats ? m_formats->longDate.text(time) : isoText(time).substr(0, 10);
+    return m_formats ? m_formats->longDate.text(time) : englishDate(time);
 }
 
 std::string Figures::dateAndTime(TimePoint time) const

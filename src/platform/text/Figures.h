@@ -14,7 +14,7 @@ namespace orlen {
 class Figures {
 public:
     /// For what machines read, and for texts that are kept: digits without separators, English, dates as in
-    /// ISO 8601 without the time zone.
+    /// ISO 8601, and all of it in UTC.
     [[nodiscard]] static const Figures& plain();
 
     /// As the locale (an ICU identifier such as "pt_BR") does; an unknown one gives a default of ICU's.
