@@ -176,10 +176,10 @@ constexpr Row kSpace[] = {
     {"why am I running out of space", "By category|largest findings"},
     {"why is there no space left", "By category"},
     {"what is filling my disk", "By category|Media 90 GB"},
-    {"when does my drive run out of space", "2026-08-30"},
-    {"on what date will my disk be full?", "2026-08-30"},
-    {"will my disk be full before december 2026", "Probably yes.|2026-08-30"},
-    {"will the disk be full by july 2026", "Probably not.|2026-08-30"},
+    {"when does my drive run out of space", "30 August 2026"},
+    {"on what date will my disk be full?", "30 August 2026"},
+    {"will my disk be full before december 2026", "Probably yes.|30 August 2026"},
+    {"will the disk be full by july 2026", "Probably not.|30 August 2026"},
     {"free 4 GB", "rated Safe is enough|App caches|4 GB in all", "Large files"},
     {"how can I free up 10 GB?", "Everything rated Safe|App caches|Review|Large files"},
     {"free 900 GB", "less than 900 GB"},
@@ -231,9 +231,9 @@ constexpr Row kSubjects[] = {
 };
 
 constexpr Row kAbout[] = {
-    {"when was my last clean-up", "2026-05-20|1 item|1 GB|restore"},
-    {"what did the last cleanup remove", "2026-05-20", "could free"},
-    {"how do I undo the last clean-up", "2026-05-20|History|restore"},
+    {"when was my last clean-up", "20 May 2026|1 item|1 GB|restore"},
+    {"what did the last cleanup remove", "20 May 2026", "could free"},
+    {"how do I undo the last clean-up", "20 May 2026|History|restore"},
     {"undo", "History|restore"},
     {"how much have I freed so far", "2 clean-ups|3 GB", "could free"},
     {"does Orlen upload my files?", "Nothing leaves this computer"},
