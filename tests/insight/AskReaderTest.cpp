@@ -100,7 +100,7 @@ protected:
              entry("Documents/report.pdf", 5 * kBytesInMB, "2022-01-01"),
              entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05")});
         add(FindingKind::oldDownloads, Rating::review, message("Lying around."),
-            {entry("Downloads/report-final.pdf", 7 * kBytesInMB, "24 December 2025"),
+            {entry("Downloads/report-final.pdf", 7 * kBytesInMB, "2025-12-24"),
              entry("Downloads/setup.deb", 80 * kBytesInMB, "2025-11-11")});
         add(FindingKind::duplicates, Rating::safe, message("A copy stays."),
             {entry("Music/a (1).flac", 40 * kBytesInMB)});
@@ -192,7 +192,7 @@ constexpr Row kLists[] = {
     {"what are my two biggest videos?", "wedding.mp4|holiday.mkv", "cut.mov"},
     {"show me the 3 largest files", "wedding.mp4|holiday.mkv|slack", "debian|cut.mov"},
     {"oldest files", "wedding.mp4 (9 GB), changed 5 May 2019"},
-    {"the newest download", "~/Downloads/report-final.pdf|2025-12-24", "wedding"},
+    {"the newest download", "~/Downloads/report-final.pdf|24 December 2025", "wedding"},
     {"biggest file in Downloads", "in ~/Downloads|debian.iso", "wedding"},
     {"what are the biggest files in ~/Videos/Projects", "cut.mov", "wedding"},
     {"biggest files in Projects", "cut.mov", "wedding"},
