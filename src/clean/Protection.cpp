@@ -12,40 +12,50 @@ using enum Protection;
 
 struct Texts {
     Protection protection;
-    std::string_view label;
-    std::string_view reason;
+    Text label;
+    Text reason;
 };
 
 constexpr std::array kTexts{
-    Texts{outside, "Outside your folders",
-          "Orlen works in your home folder and in the folders for applications, nowhere else."},
-    Texts{systemFolders, "System folders", "The system needs them to run."},
-    Texts{mainFolders, "Main folders", "They stay; only what is in them may be moved."},
-    Texts{settingsBesideCaches, "Folders of programs", "Settings or live data are kept beside the caches."},
-    Texts{cloudStores, "Cloud stores", "What is removed here is removed on your other devices."},
-    Texts{credentials, "Keys and credentials", "They sign you in, and nothing can recreate them."},
-    Texts{keyrings, "Keyrings and wallets", "Passwords, accounts, money and the desktop's settings."},
-    Texts{browserProfiles, "Browser profiles", "Passwords, history and open tabs."},
-    Texts{mail, "Mail", "Messages and address books that may exist nowhere else."},
-    Texts{conversations, "Conversations", "Your chats, also those with assistants."},
-    Texts{savedState, "Saved games and work", "Only the program that saved them can bring them back."},
-    Texts{managedStores, "Managed stores", "Only the program that manages them can tidy them."},
-    Texts{trash, "The Trash", "The Trash itself and its notes on where things came from."},
-    Texts{ownData, "Orlen's own data", "The history, which knows how to put things back."},
-    Texts{repositories, "Repositories", "The history of a project, damaged when a part is missing."},
-    Texts{encryption, "Encryption and snapshots",
-          "Without them, other files cannot be read or brought back."},
-    Texts{mediaLibraries, "Photo and film libraries",
-          "A program keeps them as one; a missing part damages the rest."},
-    Texts{placeholders, "Files kept on a server", "Removing the placeholder removes the file on the server."},
-    Texts{catalogues, "Catalogues", "Tags and albums of a photo manager, or the mark of a synced folder."},
-    Texts{syncFolders, "Synced folders",
-          "What is removed here is removed on the server and on other devices."},
-    Texts{mountPoints, "Mount points", "Another disk is attached here."},
-    Texts{otherFileSystems, "Other file systems",
-          "A server, an archive or memory, not this computer's disk."},
-    Texts{holdsProtected, "Folders around something protected", "What is protected inside would move along."},
-    Texts{unclearPath, "Unclear paths", "Orlen moves only what it can name exactly."},
+    Texts{outside, message("Outside your folders"),
+          message("Orlen works in your home folder and in the folders for applications, nowhere else.")},
+    Texts{systemFolders, message("System folders"), message("The system needs them to run.")},
+    Texts{mainFolders, message("Main folders"), message("They stay; only what is in them may be moved.")},
+    Texts{settingsBesideCaches, message("Folders of programs"),
+          message("Settings or live data are kept beside the caches.")},
+    Texts{cloudStores, message("Cloud stores"),
+          message("What is removed here is removed on your other devices.")},
+    Texts{credentials, message("Keys and credentials"),
+          message("They sign you in, and nothing can recreate them.")},
+    Texts{keyrings, message("Keyrings and wallets"),
+          message("Passwords, accounts, money and the desktop's settings.")},
+    Texts{browserProfiles, message("Browser profiles"), message("Passwords, history and open tabs.")},
+    Texts{mail, message("Mail"), message("Messages and address books that may exist nowhere else.")},
+    Texts{conversations, message("Conversations"), message("Your chats, also those with assistants.")},
+    Texts{savedState, message("Saved games and work"),
+          message("Only the program that saved them can bring them back.")},
+    Texts{managedStores, message("Managed stores"),
+          message("Only the program that manages them can tidy them.")},
+    Texts{trash, message("The Trash"), message("The Trash itself and its notes on where things came from.")},
+    Texts{ownData, message("Orlen's own data"), message("The history, which knows how to put things back.")},
+    Texts{repositories, message("Repositories"),
+          message("The history of a project, damaged when a part is missing.")},
+    Texts{encryption, message("Encryption and snapshots"),
+          message("Without them, other files cannot be read or brought back.")},
+    Texts{mediaLibraries, message("Photo and film libraries"),
+          message("A program keeps them as one; a missing part damages the rest.")},
+    Texts{placeholders, message("Files kept on a server"),
+          message("Removing the placeholder removes the file on the server.")},
+    Texts{catalogues, message("Catalogues"),
+          message("Tags and albums of a photo manager, or the mark of a synced folder.")},
+    Texts{syncFolders, message("Synced folders"),
+          message("What is removed here is removed on the server and on other devices.")},
+    Texts{mountPoints, message("Mount points"), message("Another disk is attached here.")},
+    Texts{otherFileSystems, message("Other file systems"),
+          message("A server, an archive or memory, not this computer's disk.")},
+    Texts{holdsProtected, message("Folders around something protected"),
+          message("What is protected inside would move along.")},
+    Texts{unclearPath, message("Unclear paths"), message("Orlen moves only what it can name exactly.")},
 };
 
 constexpr auto kAll = [] {
@@ -64,12 +74,12 @@ const Texts& textsOf(Protection protection)
 
 } // namespace
 
-std::string_view label(Protection protection)
+Text label(Protection protection)
 {
     return textsOf(protection).label;
 }
 
-std::string_view reason(Protection protection)
+Text reason(Protection protection)
 {
     return textsOf(protection).reason;
 }

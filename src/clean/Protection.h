@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -36,9 +38,9 @@ enum class Protection : std::uint8_t {
 };
 
 /// What is protected, as a heading: "Browser profiles". Empty for `none`.
-[[nodiscard]] std::string_view label(Protection protection);
+[[nodiscard]] Text label(Protection protection);
 /// One sentence that says why: "Passwords, history and open tabs." Empty for `none`.
-[[nodiscard]] std::string_view reason(Protection protection);
+[[nodiscard]] Text reason(Protection protection);
 
 /// All but `none`, in the order of the enumeration.
 [[nodiscard]] std::span<const Protection> allProtections();

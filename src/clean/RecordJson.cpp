@@ -304,8 +304,8 @@ nlohmann::ordered_json encode(const FileEntry& entry)
         object["lastOpened"] = isoText(*entry.lastOpened);
     if (entry.rating)
         object["rating"] = rawValue(*entry.rating);
-    if (entry.note)
-        object["note"] = *entry.note;
+    if (!entry.notes.empty())
+        object["note"] = noteOf(entry).base();
     return object;
 }
 

@@ -4,8 +4,8 @@
 #include "cli/FindingTable.h"
 #include "cli/Session.h"
 #include "cli/Table.h"
-#include "platform/text/ByteCount.h"
 #include "model/PathSelection.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 

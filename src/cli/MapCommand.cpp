@@ -5,8 +5,8 @@
 #include "cli/PathArgument.h"
 #include "cli/Table.h"
 #include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
 #include "platform/files/Places.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 

@@ -10,8 +10,8 @@
 #include "cli/FailureList.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
 #include "model/ModelState.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>

@@ -2,8 +2,8 @@
 
 #include "insight/AskText.h"
 #include "insight/reader/AskReader.h"
-#include "platform/text/ByteCount.h"
 #include "platform/files/Places.h"
+#include "platform/text/ByteCount.h"
 
 #include <algorithm>
 #include <cstddef>

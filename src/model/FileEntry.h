@@ -29,7 +29,7 @@ struct FileEntry {
     std::optional<TimePoint> modified;
     std::optional<TimePoint> lastOpened;
     std::optional<Rating> rating; ///< absent: the finding's rating holds
-    std::vector<Message> notes; ///< what to know about it, most important first
+    std::vector<Message> notes;   ///< what to know about it, most important first
     /// What was at the path when it was scanned: only that may be moved. Absent if unknown; then nothing is
     /// compared.
     std::optional<FileStamp> stamp;

@@ -55,8 +55,8 @@ struct Several {
 };
 
 /// What stands in a place of a message: a name as it is, a whole number, and so on.
-using Value = std::variant<std::string, std::int64_t, Bytes, Share, Moment, std::chrono::duration<double>,
-                           Several>;
+using Value =
+    std::variant<std::string, std::int64_t, Bytes, Share, Moment, std::chrono::duration<double>, Several>;
 
 /// A place of a message and what stands there.
 struct Place {

@@ -100,7 +100,8 @@ std::string filled(const Message& message, const Voice& voice)
             result.append(text, open);
             break;
         }
-        const Value* const value = valueOf(message, std::string_view(text).substr(open + 1, close - open - 1));
+        const Value* const value =
+            valueOf(message, std::string_view(text).substr(open + 1, close - open - 1));
         if (value == nullptr)
             result.append(text, open, close + 1 - open);
         else

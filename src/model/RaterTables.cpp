@@ -11,15 +11,19 @@ using enum FindingKind;
 using enum Rating;
 
 constexpr std::array<KindRule, kFindingKinds> kRules{{
-    {caches, safe, message("Apps rebuild their caches automatically. They may open a little slower the first time.")},
+    {caches, safe,
+     message("Apps rebuild their caches automatically. They may open a little slower the first time.")},
     {logs, safe, message("Old logs are only needed for troubleshooting and are written again as needed.")},
     {iosBackups, review,
-     message("These may be the only copy of data from a device. Remove them only if you no longer need to restore "
-     "from them.")},
+     message("These may be the only copy of data from a device. Remove them only if you no longer need to "
+             "restore "
+             "from them.")},
     {softwareUpdates, safe, message("Downloaded update files are fetched again if you ever need them.")},
     {xcodeDerived, safe, message("Rebuilt automatically the next time you build the project.")},
-    {xcodeArchives, review, message("Archives may be needed to symbolicate crash reports from released versions.")},
-    {simulators, review, message("Xcode can recreate simulators, but the apps and data inside them would be lost.")},
+    {xcodeArchives, review,
+     message("Archives may be needed to symbolicate crash reports from released versions.")},
+    {simulators, review,
+     message("Xcode can recreate simulators, but the apps and data inside them would be lost.")},
     {deviceSupport, safe, message("Recreated the next time you connect that device to Xcode.")},
     {homebrew, safe, message("Homebrew downloads packages again if it needs them.")},
     {npm, safe, message("Node tools re-download packages when needed; the next install is slower.")},
@@ -35,11 +39,14 @@ constexpr std::array<KindRule, kFindingKinds> kRules{{
      message("Downloads you haven't touched in a month. Installers are usually safe; documents may not be.")},
     {duplicates, review,
      message("Identical content exists elsewhere, but apps or projects may refer to a specific path.")},
-    {photoDuplicates, review, message("Orlen suggests keeping the sharpest of each set; look before you decide.")},
-    {screenshots, review, message("Screenshots are often disposable, but some hold information you meant to keep.")},
+    {photoDuplicates, review,
+     message("Orlen suggests keeping the sharpest of each set; look before you decide.")},
+    {screenshots, review,
+     message("Screenshots are often disposable, but some hold information you meant to keep.")},
     {receipts, review, message("Receipts and paperwork may be needed for returns or taxes.")},
     {memes, review, message("Looks like a meme or captioned image; the guess may be wrong.")},
-    {blurry, review, message("Looks out of focus to a sharpness test, which can also flag intentional blur.")},
+    {blurry, review,
+     message("Looks out of focus to a sharpness test, which can also flag intentional blur.")},
 }};
 
 constexpr KindRule kOtherKinds{caches, review, message("Check before cleaning.")};

@@ -60,8 +60,9 @@ struct Speech {
             if (!*catalogue)
                 continue;
             const char* const context = text.context().data();
-            const char* const found = text.hasPlural() ? (*catalogue)->find(context, text.base().data(), count)
-                                                       : (*catalogue)->find(context, text.base().data());
+            const char* const found = text.hasPlural()
+                                          ? (*catalogue)->find(context, text.base().data(), count)
+                                          : (*catalogue)->find(context, text.base().data());
             if (found != nullptr)
                 return found;
         }

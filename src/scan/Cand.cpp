@@ -1,28 +1,30 @@
 #include "scan/Cand.h"
 
 #include "scan/FS.h"
+#include "scan/ScanTexts.h"
 #include "scan/tree/TreeSum.h"
+
+#include <utility>
 
 namespace orlen {
 
-FileEntry toEntry(const Cand& cand, std::string_view note)
+FileEntry toEntry(const Cand& cand, Message note)
 {
     FileEntry entry;
     entry.path = cand.path;
     entry.modified = cand.modified;
     entry.stamp = cand.stamp;
-    if (!note.empty())
-        addNote(entry, note);
+    addNote(entry, std::move(note));
     FS::setSize(entry, {cand.size, cand.hasOtherNames ? 0 : cand.size});
     return entry;
 }
 
-FileEntry toEntryByContent(const Cand& cand, std::string_view note)
+FileEntry toEntryByContent(const Cand& cand, Message note)
 {
-    FileEntry entry = toEntry(cand, note);
+    FileEntry entry = toEntry(cand, std::move(note));
     entry.isTickedAlone = cand.isInRepository;
     if (cand.isInRepository)
-        addNote(entry, "Part of a repository");
+        addNote(entry, ScanTexts::kInRepository);
     return entry;
 }
 

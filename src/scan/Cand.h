@@ -24,10 +24,10 @@ struct Cand {
 };
 
 /// The file as an entry of a finding; `note` comes before what is to be said about any file.
-[[nodiscard]] FileEntry toEntry(const Cand& cand, std::string_view note = {});
+[[nodiscard]] FileEntry toEntry(const Cand& cand, Message note = {});
 /// The same for a file chosen by its content: part of a repository is noted as such, and never ticked along
 /// with others.
-[[nodiscard]] FileEntry toEntryByContent(const Cand& cand, std::string_view note);
+[[nodiscard]] FileEntry toEntryByContent(const Cand& cand, Message note);
 /// The file as the kept one of a set; nothing without a stamp.
 [[nodiscard]] std::optional<KeptFile> toKept(const Cand& cand);
 

@@ -1,9 +1,9 @@
 #include "scan/FS.h"
 
-#include "platform/text/ByteCount.h"
 #include "platform/desktop/RecentDocuments.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/MountTable.h"
+#include "scan/ScanTexts.h"
 #include "scan/tree/TreeMeasure.h"
 
 #include <algorithm>
@@ -40,18 +40,18 @@ void setSize(FileEntry& entry, const TreeSize& size)
     entry.size = size.freed;
     const bool isFile = entry.stamp && entry.stamp->type == FileType::regular;
     if (isFile && size.freed < size.held)
-        addNote(entry, "Frees nothing: the file has another name elsewhere");
+        addNote(entry, ScanTexts::kFreesNothing);
     else if (size.held - size.freed > size.held / 10)
-        addNote(entry, "Frees " + byteCount(size.freed) + ": the rest is linked into projects");
+        addNote(entry, Message{ScanTexts::kFreesPart, {{"size", Bytes{size.freed}}}});
 }
 
-FileEntry entry(const std::string& path, std::string_view note, const std::stop_token& stop,
+FileEntry entry(const std::string& path, const std::vector<Message>& notes, const std::stop_token& stop,
                 UnreadableFolders* unreadable)
 {
-    return std::move(entries(std::span(&path, 1), note, stop, unreadable).front());
+    return std::move(entries(std::span(&path, 1), notes, stop, unreadable).front());
 }
 
-std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
+std::vector<FileEntry> entries(std::span<const std::string> paths, const std::vector<Message>& notes,
                                const std::stop_token& stop, UnreadableFolders* unreadable)
 {
     std::vector<FileEntry> entries(paths.size());
@@ -66,8 +66,7 @@ std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_v
     for (std::size_t i = 0; i < paths.size(); ++i) {
         FileEntry& entry = entries[i];
         entry.path = paths[i];
-        if (!note.empty())
-            entry.note = std::string(note);
+        entry.notes = notes;
         setSize(entry, sizes[i]);
     }
     return entries;

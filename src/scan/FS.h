@@ -43,13 +43,14 @@ struct LastUse {
 /// its files: for a folder when over a tenth is missing, for a file always.
 void setSize(FileEntry& entry, const TreeSize& size);
 
-/// The path with the bytes it frees, modification date (absent if unreadable) and note, unless empty.
-[[nodiscard]] FileEntry entry(const std::string& path, std::string_view note,
+/// The path with the bytes it frees, modification date (absent if unreadable) and notes.
+[[nodiscard]] FileEntry entry(const std::string& path, const std::vector<Message>& notes,
                               const std::stop_token& stop = {}, UnreadableFolders* unreadable = nullptr);
 
 /// The same for many paths, in order, measured together. `unreadable` collects folders that could not be
 /// read.
-[[nodiscard]] std::vector<FileEntry> entries(std::span<const std::string> paths, std::string_view note,
+[[nodiscard]] std::vector<FileEntry> entries(std::span<const std::string> paths,
+                                             const std::vector<Message>& notes,
                                              const std::stop_token& stop = {},
                                              UnreadableFolders* unreadable = nullptr);
 

@@ -2,6 +2,7 @@
 
 #include "platform/files/MountTable.h"
 #include "platform/files/Places.h"
+#include "scan/ScanTexts.h"
 #include "scan/tree/CurrentMounts.h"
 
 namespace orlen {
@@ -16,7 +17,7 @@ void noteOtherDisks(std::vector<Finding>& findings)
         for (FileEntry& entry : finding.items) {
             const Mount* mount = mounts->holding(entry.path);
             if (mount != nullptr && !mounts->isSameFileSystem(entry.path, home))
-                addNote(entry, "On another disk (" + mount->point + ")");
+                addNote(entry, Message{ScanTexts::kOnOtherDisk, {{"folder", mount->point}}});
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "scan/ScanProgress.h"
 
 #include "platform/values/CheckedSum.h"
+#include "scan/ScanTexts.h"
 
 #include <utility>
 
@@ -11,15 +12,12 @@ namespace {
 /// The shown path changes only with every 48th item, so that it can be read.
 constexpr std::int64_t kItemsPerPath = 48;
 
-constexpr std::array<std::string_view, kScanSteps> kLabels{
-    "Caches & logs",  "Backups & updates", "Developer tools",   "Package caches",  "Trash & mail",
-    "Language packs", "Downloads",         "Large & old files", "Duplicate files", "Photos"};
-
 } // namespace
 
-std::string_view label(StepKind step)
+Text label(StepKind step)
 {
-    return kLabels[static_cast<std::size_t>(step)];
+    static_assert(std::size(ScanTexts::kSteps) == kScanSteps);
+    return ScanTexts::kSteps[static_cast<std::size_t>(step)];
 }
 
 ScanProgress::ScanProgress()

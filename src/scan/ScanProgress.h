@@ -28,7 +28,7 @@ enum class StepKind {
 inline constexpr std::size_t kScanSteps = 10;
 
 /// The step's name on the screen.
-[[nodiscard]] std::string_view label(StepKind step);
+[[nodiscard]] Text label(StepKind step);
 
 enum class StepState { pending, running, done };
 

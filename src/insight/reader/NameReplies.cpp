@@ -2,8 +2,8 @@
 
 #include "insight/AskText.h"
 #include "insight/reader/Names.h"
-#include "platform/text/ByteCount.h"
 #include "platform/files/Places.h"
+#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>

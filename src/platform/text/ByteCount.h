@@ -18,7 +18,8 @@ struct ByteAmount {
     [[nodiscard]] static ByteAmount of(std::int64_t bytes);
 };
 
-/// Sizes in English, and in what machines read: "0 bytes", "1 byte", "999 bytes", "12 KB", "1.2 GB", "500 MB".
+/// Sizes in English, and in what machines read: "0 bytes", "1 byte", "999 bytes", "12 KB", "1.2 GB", "500
+/// MB".
 [[nodiscard]] std::string byteCount(std::int64_t bytes);
 
 } // namespace orlen

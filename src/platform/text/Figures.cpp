@@ -91,9 +91,8 @@ struct Figures::Formats {
           seconds(withUnit(locale, icu::MeasureUnit::getSecond(), UNUM_UNIT_WIDTH_SHORT)),
           minutes(withUnit(locale, icu::MeasureUnit::getMinute(), UNUM_UNIT_WIDTH_SHORT)),
           date(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)),
-          longDate(longDateFormat(locale)),
-          dateAndTime(icu::DateFormat::createDateTimeInstance(icu::DateFormat::kShort,
-                                                              icu::DateFormat::kShort, locale))
+          longDate(longDateFormat(locale)), dateAndTime(icu::DateFormat::createDateTimeInstance(
+                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale))
     {
         UErrorCode status = U_ZERO_ERROR;
         list.reset(icu::ListFormatter::createInstance(locale, status));
@@ -162,7 +161,8 @@ std::string Figures::duration(std::chrono::duration<double> time) const
     const double seconds = time.count();
     const auto tenths = std::llround(seconds * 10);
     const auto whole = std::llround(seconds);
-    const auto written = [&](const LocalizedNumberFormatter Formats::*format, double value, const char* unit) {
+    const auto written = [&](const LocalizedNumberFormatter Formats::*format, double value,
+                             const char* unit) {
         if (m_formats && !m_formats->isEnglish)
             return m_formats->amount((*m_formats).*format, value);
         std::string text = std::to_string(static_cast<std::int64_t>(value));

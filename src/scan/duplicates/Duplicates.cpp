@@ -3,6 +3,7 @@
 #include "platform/files/Places.h"
 #include "platform/files/SharedExtents.h"
 #include "platform/text/PathText.h"
+#include "scan/ScanTexts.h"
 #include "scan/duplicates/KeepOrder.h"
 #include "scan/duplicates/ReadingThreads.h"
 #include "scan/duplicates/Suspect.h"
@@ -33,10 +34,6 @@ namespace {
 
 using Suspects = std::vector<Suspect>;
 using Reader = ReadingThreads::Reader;
-
-constexpr std::string_view kNoteBefore = "Identical to ";
-constexpr std::string_view kNoteAfter = " — Orlen keeps that copy";
-constexpr std::string_view kSharesNote = "Shares its data on disk; removing it frees little";
 
 auto size(const Suspect& suspect)
 {
@@ -207,10 +204,9 @@ private:
     std::vector<Set> m_sets;
 };
 
-std::string noteNaming(const Cand& kept)
+Message noteNaming(const Cand& kept)
 {
-    std::string note(kNoteBefore);
-    return note.append(PathText::lastComponent(kept.path)).append(kNoteAfter);
+    return {ScanTexts::kIdentical, {{"name", std::string(PathText::lastComponent(kept.path))}}};
 }
 
 } // namespace
@@ -225,10 +221,10 @@ Finding finding(const Result& result)
     std::vector<FileEntry> entries;
     for (const Set& set : result.sets) {
         for (const Copy& copy : set.copies) {
-            std::string note = noteNaming(set.kept);
+            Message note = noteNaming(set.kept);
             if (copy.sharesData)
-                note.append(" · ").append(kSharesNote);
-            FileEntry& entry = entries.emplace_back(toEntryByContent(copy.file, note));
+                note = Message::joined({std::move(note), ScanTexts::kSharesData}, Several::Joint::facts);
+            FileEntry& entry = entries.emplace_back(toEntryByContent(copy.file, std::move(note)));
             entry.kept = toKept(set.kept);
         }
     }

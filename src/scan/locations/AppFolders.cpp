@@ -5,6 +5,7 @@
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "scan/ScanTexts.h"
 
 #include <utility>
 
@@ -44,7 +45,7 @@ void AppFolders::addFlatpaks(const std::string& apps)
 {
     for (const std::string& id : listNames(apps)) {
         const std::string app = PathText::join(apps, id);
-        const std::string owner = "Flatpak app " + id;
+        const Message owner{ScanTexts::kFlatpakApp, {{"name", id}}};
         m_caches.push_back({app + "/cache", owner});
         m_configs.push_back({app + "/config", owner});
         m_data.push_back({app + "/data", owner});
@@ -55,7 +56,7 @@ void AppFolders::addSnaps(const std::string& snaps)
 {
     for (const std::string& name : listNames(snaps)) {
         const std::string snap = PathText::join(snaps, name);
-        const std::string owner = "Snap app " + name;
+        const Message owner{ScanTexts::kSnapApp, {{"name", name}}};
         for (const std::string& folder : {snap + "/common", currentRevision(snap)}) {
             if (folder.empty())
                 continue;

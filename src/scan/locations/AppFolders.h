@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Message.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +13,7 @@ struct Places;
 /// A folder in which programs keep their data.
 struct AppFolder {
     std::string path;
-    std::string owner; ///< "Flatpak app org.gimp.GIMP" or "Snap app gimp"; empty for the user's own
+    Message owner; ///< "Flatpak app org.gimp.GIMP" or "Snap app gimp"; empty for the user's own
 };
 
 /// The cache, settings and data folders of this home folder: the user's own, and those that Flatpak and Snap

@@ -4,6 +4,7 @@
 #include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/text/PathText.h"
+#include "scan/ScanTexts.h"
 #include "scan/locations/KeptLanguages.h"
 
 #include <algorithm>
@@ -113,13 +114,13 @@ bool isUnusedTranslation(const std::string& path)
                                                                                 : isRealFolder(path);
 }
 
-std::string trashNote(const std::string& trashed)
+Message trashNote(const std::string& trashed)
 {
     const std::string original = Trash::originalPath(trashed);
     const std::string_view folder = PathText::parent(original);
     if (folder.empty() || !PathText::isValidUtf8(folder))
         return {};
-    return "Deleted from " + std::string(folder);
+    return {ScanTexts::kDeletedFrom, {{"folder", std::string(folder)}}};
 }
 
 } // namespace orlen::EntryRules

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Message.h"
+
 #include <string>
 #include <string_view>
 
@@ -26,6 +28,6 @@ namespace orlen::EntryRules {
 
 /// "Deleted from" and the original folder of an item in the Trash; empty if its info file does not say, or
 /// cannot be displayed.
-[[nodiscard]] std::string trashNote(const std::string& trashed);
+[[nodiscard]] Message trashNote(const std::string& trashed);
 
 } // namespace orlen::EntryRules

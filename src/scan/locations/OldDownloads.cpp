@@ -2,6 +2,7 @@
 
 #include "platform/files/FileStatus.h"
 #include "scan/FS.h"
+#include "scan/ScanTexts.h"
 #include "scan/locations/SourceReader.h"
 #include "scan/tree/CurrentMounts.h"
 
@@ -38,7 +39,7 @@ std::vector<FileEntry> entries(const SourceReader& reader, TimePoint now, const 
         if (uses[i].isOpening)
             found[i].lastOpened = uses[i].date;
         if (exists(found[i].path + "/.git"))
-            addNoteBefore(found[i], "Contains a repository");
+            addNoteBefore(found[i], ScanTexts::kHoldsRepository);
     }
     return found;
 }

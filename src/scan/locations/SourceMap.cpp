@@ -1,6 +1,5 @@
 #include "scan/locations/SourceMap.h"
 
-#include "model/FileEntry.h"
 #include "platform/files/Places.h"
 #include "platform/text/NamePattern.h"
 #include "platform/text/PathText.h"
@@ -9,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 // Who offers what. Every row's patterns are expanded to sources, and the map keeps each source's path and all
 // folders above it. A folder's child is then offered by at most one source:
@@ -48,19 +48,23 @@ bool isTaken(const SourceRow& row, const std::string& child)
            (row.accepts == nullptr || row.accepts(child));
 }
 
-/// Whose folder it is and what the row says.
-std::string noteOf(const SourceRow& row, const std::string& owner, const Glob::Match& match)
+/// What the row says of what it offers there.
+Message noteOf(const SourceRow& row, const Glob::Match& match)
 {
-    constexpr std::string_view kMatched = "{1}";
-    std::string text(row.note);
-    if (const std::size_t at = text.find(kMatched); at != std::string::npos && !match.names.empty())
-        text.replace(at, kMatched.size(), match.names.front());
-    FileEntry noted;
-    for (const std::string& part : {owner, text}) {
-        if (!part.empty())
-            addNote(noted, part);
-    }
-    return noted.note.value_or("");
+    std::string name(row.noteName);
+    if (name == "*")
+        name = match.names.empty() ? std::string() : match.names.front();
+    if (row.note.empty())
+        return Message::verbatim(std::move(name));
+    return name.empty() ? Message(row.note) : Message(row.note, {{"name", std::move(name)}});
+}
+
+/// Whose folder it is and what the row says.
+std::vector<Message> notesOf(const SourceRow& row, const Message& owner, const Glob::Match& match)
+{
+    std::vector<Message> notes{owner, noteOf(row, match)};
+    std::erase_if(notes, [](const Message& note) { return note.empty(); });
+    return notes;
 }
 
 bool isLeftOut(const SourceRow& row, const Glob::Match& match)
@@ -134,9 +138,9 @@ void SourceMap::add(const SourceRow& row, Expansion& expansion)
             for (const Glob::Match& match : expansion.paths(start.path, pattern.substr(star))) {
                 if (isLeftOut(row, match) || !expansion.passes(row.within, match.path))
                     continue;
-                const std::string note = noteOf(row, start.owner, match);
+                const std::vector<Message> notes = notesOf(row, start.owner, match);
                 for (const Glob::Match& below : expansion.paths(match.path, row.below))
-                    addOnce({&row, below.path, note});
+                    addOnce({&row, below.path, notes});
             }
         }
     }

@@ -16,7 +16,7 @@ class UnreadableFolders;
 struct Source {
     const SourceRow* row;
     std::string path;
-    std::string note; ///< whose folder it is, then the row's note, filled in
+    std::vector<Message> notes; ///< whose folder it is, then the row's note, filled in
 };
 
 /// Where all rows lead in this home folder. Variables may nest one known place inside another or make two the

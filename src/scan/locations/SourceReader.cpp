@@ -8,6 +8,7 @@
 #include "platform/text/PathText.h"
 #include "scan/FS.h"
 #include "scan/ScanProgress.h"
+#include "scan/ScanTexts.h"
 #include "scan/UnreadableFolders.h"
 #include "scan/walk/WalkRules.h"
 
@@ -145,7 +146,7 @@ std::optional<SourceReader::Holding> SourceReader::holding(const std::string& pa
             row.reading == Reading::single ? isLinkFree(*source) : isReadable(*source, at);
         if (!isReachable || !mayBeOffered(row, at))
             return std::nullopt;
-        FileEntry entry = FS::entry(at, source->note, m_stop, m_unreadable);
+        FileEntry entry = FS::entry(at, source->notes, m_stop, m_unreadable);
         if (!isLargeEnough(row, entry))
             return std::nullopt;
         describe(row, entry);
@@ -167,7 +168,7 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
     }
     std::vector<FileEntry> entries = FS::entries(found, {}, m_stop, m_unreadable);
     for (std::size_t i = 0; i < entries.size(); ++i)
-        addNoteBefore(entries[i], origins[i]->note);
+        entries[i].notes.insert(entries[i].notes.begin(), origins[i]->notes.begin(), origins[i]->notes.end());
     std::erase_if(entries, [&](const FileEntry& entry) { return !isLargeEnough(row, entry); });
     std::stable_sort(entries.begin(), entries.end(),
                      [](const FileEntry& a, const FileEntry& b) { return a.size > b.size; });
@@ -183,15 +184,13 @@ std::vector<FileEntry> SourceReader::children(const SourceRow& row) const
 void SourceReader::describe(const SourceRow& row, FileEntry& entry) const
 {
     entry.rating = row.rating;
-    if (const std::string note = row.noteOf != nullptr ? row.noteOf(entry.path) : std::string();
-        !note.empty())
-        addNote(entry, note);
-    if (!row.caution.empty())
-        addNote(entry, row.caution);
+    if (row.noteOf != nullptr)
+        addNote(entry, row.noteOf(entry.path));
+    addNote(entry, row.caution);
     if (!row.isOwnedByProgram)
         return;
     if (const std::string program = m_owners.running(PathText::lastComponent(entry.path)); !program.empty())
-        addNote(entry, "Quit " + program + " first");
+        addNote(entry, Message{ScanTexts::kQuitFirst, {{"name", program}}});
 }
 
 /// Drops as many entries from the end as the places offered by other rows would have displaced.
@@ -229,7 +228,7 @@ std::vector<FileEntry> SourceReader::single(const Source& source) const
     if (!isLinkFree(source) || !m_map.isOffered(source) || !mayBeOffered(*source.row, source.path))
         return {};
     m_progress.show(source.path);
-    FileEntry entry = FS::entry(source.path, source.note, m_stop, m_unreadable);
+    FileEntry entry = FS::entry(source.path, source.notes, m_stop, m_unreadable);
     if (!isLargeEnough(*source.row, entry))
         return {};
     describe(*source.row, entry);

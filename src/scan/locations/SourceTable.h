@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/FindingKind.h"
+#include "model/Message.h"
 #include "model/Rating.h"
 
 #include <cstddef>
@@ -44,9 +45,11 @@ struct SourceRow {
     std::int64_t minimum = 1;          ///< smallest entry, in bytes; empty ones are never offered
     std::size_t limit = 600;           ///< most entries from all folders of the row
     std::optional<Rating> rating = {}; ///< of each entry; absent: that of the finding
-    /// Says what an entry is. "{1}" is replaced by what the first "*" matched; empty: no note.
-    std::string_view note = {};
-    std::string_view caution = {};           ///< says what to consider before removing it; follows the note
+    Text note = {};                    ///< says what an entry is
+    /// What stands in the note's place "name", or is the note when there is no text: "*" is what the first
+    /// "*" of the pattern matched.
+    std::string_view noteName = {};
+    Text caution = {};                       ///< says what to consider before removing it; follows the note
     std::vector<std::string_view> only = {}; ///< names of entries, may use "*"; empty: any
     /// Names that are never entries, may use "*". "Name/Sub*" excludes a "Name" that contains a match.
     std::vector<std::string_view> except = {};
@@ -57,7 +60,7 @@ struct SourceRow {
     bool (*within)(const std::string& folder) = nullptr;
     bool (*accepts)(const std::string& path) = nullptr; ///< additional test of the entry; may read the disk
     /// A note for a single entry; may read the disk.
-    std::string (*noteOf)(const std::string& path) = nullptr;
+    Message (*noteOf)(const std::string& path) = nullptr;
     bool isOwnedByProgram = false; ///< entries are named after the program that writes them
     bool maybeEnvironment = false; ///< offered even if programs are installed in it
 };

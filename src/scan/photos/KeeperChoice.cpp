@@ -1,5 +1,6 @@
 #include "scan/photos/KeeperChoice.h"
 
+#include "scan/ScanTexts.h"
 #include "scan/photos/SamePicture.h"
 
 #include <algorithm>
@@ -48,15 +49,12 @@ std::int64_t isLossless(const PhotoInfo& photo)
 /// What a copy may have lost, the worst loss first.
 struct Loss {
     std::int64_t (*value)(const PhotoInfo& photo); ///< more is better
-    std::string_view note;
+    Text note;
 };
 constexpr Loss kLosses[] = {
-    {pixels, "Identical picture, smaller"},
-    {hasColours, "Identical picture, without colours"},
-    {hasAllColours, "Identical picture, fewer colours"},
-    {isFromCamera, "Identical picture, without camera data"},
-    {isLossless, "Identical picture, more compressed"},
-    {bytes, "Identical picture, smaller file"},
+    {pixels, ScanTexts::kSmallerPicture},      {hasColours, ScanTexts::kColourlessPicture},
+    {hasAllColours, ScanTexts::kFewerColours}, {isFromCamera, ScanTexts::kNoCameraData},
+    {isLossless, ScanTexts::kMoreCompressed},  {bytes, ScanTexts::kSmallerFile},
 };
 
 bool lostLess(const PhotoInfo& copy, const PhotoInfo& than)
@@ -96,17 +94,17 @@ struct Copies {
     std::size_t best = 0;
 };
 
-std::string_view reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
+Text reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
 {
     const auto* const lost = std::find_if(std::begin(kLosses), std::end(kLosses), [&](const Loss& loss) {
         return loss.value(copy) < loss.value(keeper);
     });
     if (lost == std::end(kLosses))
-        return "Identical picture";
+        return ScanTexts::kIdenticalPicture;
     // Fewer bytes for as many pixels in the same format are a coarser encoding.
     const bool isCoarser = lost->value == bytes && copy.traits.format == keeper.traits.format &&
                            copy.traits.format != PictureFormat::other && isLossless(copy) == 0;
-    return isCoarser ? "Identical picture, more compressed" : lost->note;
+    return isCoarser ? ScanTexts::kMoreCompressed : lost->note;
 }
 
 } // namespace
@@ -132,13 +130,13 @@ std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
     return keeper;
 }
 
-std::string_view KeeperChoice::reason(const PhotoInfo& other, const PhotoInfo& keeper)
+Text KeeperChoice::reason(const PhotoInfo& other, const PhotoInfo& keeper)
 {
     if (SamePicture::isCopy(other, keeper))
         return reasonOfCopy(other, keeper);
     if (isSofter(other, keeper))
-        return "Similar shot, softer";
-    return bytes(other) < bytes(keeper) ? "Similar shot, smaller file" : "Similar shot";
+        return ScanTexts::kSofterShot;
+    return bytes(other) < bytes(keeper) ? ScanTexts::kSmallerShot : ScanTexts::kSimilarShot;
 }
 
 } // namespace orlen

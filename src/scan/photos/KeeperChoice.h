@@ -16,6 +16,6 @@ namespace orlen::KeeperChoice {
                                  const std::vector<std::size_t>& members);
 
 /// What the other picture lacks, as a note.
-[[nodiscard]] std::string_view reason(const PhotoInfo& other, const PhotoInfo& keeper);
+[[nodiscard]] Text reason(const PhotoInfo& other, const PhotoInfo& keeper);
 
 } // namespace orlen::KeeperChoice

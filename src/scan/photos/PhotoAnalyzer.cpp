@@ -3,6 +3,7 @@
 #include "platform/text/PathText.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/ScanTexts.h"
 #include "scan/photos/KeeperChoice.h"
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PhotoGroups.h"
@@ -33,13 +34,10 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
     return photo;
 }
 
-std::string similarNote(const PhotoInfo& photo, const PhotoInfo& keeper)
+Message similarNote(const PhotoInfo& photo, const PhotoInfo& keeper)
 {
-    std::string note = "Similar to ";
-    note += PathText::lastComponent(keeper.cand.path);
-    note += " — keeping the sharpest · ";
-    note += KeeperChoice::reason(photo, keeper);
-    return note;
+    Message similar{ScanTexts::kSimilar, {{"name", std::string(PathText::lastComponent(keeper.cand.path))}}};
+    return Message::joined({std::move(similar), KeeperChoice::reason(photo, keeper)}, Several::Joint::facts);
 }
 
 } // namespace

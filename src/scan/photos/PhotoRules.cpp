@@ -2,10 +2,11 @@
 
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
+#include "scan/ScanTexts.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <initializer_list>
 #include <string_view>
 
@@ -58,27 +59,20 @@ bool isMeme(const PhotoInfo& photo)
             shows(photo, {"cartoon", "illustration", "comic", "poster", "people"}, 0.3F));
 }
 
-std::string blurryNote(double sharpness)
-{
-    std::array<char, 32> digits{};
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), sharpness, std::chars_format::fixed, 0);
-    return "Sharpness score " + std::string(digits.data(), end.ptr) + " — likely out of focus";
-}
-
 } // namespace
 
 std::optional<Verdict> verdict(const PhotoInfo& photo)
 {
     if (isNamedScreenshot(photo.cand.path) || shows(photo, {"screenshot"}, 0.3F))
-        return Verdict{FindingKind::screenshots, "Looks like a screenshot"};
+        return Verdict{FindingKind::screenshots, ScanTexts::kScreenshot};
     if (isReceipt(photo))
-        return Verdict{FindingKind::receipts, "Looks like a receipt or document — check before removing"};
+        return Verdict{FindingKind::receipts, ScanTexts::kReceipt};
     if (isMeme(photo))
-        return Verdict{FindingKind::memes, "Looks like a meme or captioned image"};
+        return Verdict{FindingKind::memes, ScanTexts::kMeme};
     const bool showsFocus = !photo.traits.isFlat && !photo.traits.isDamaged;
     if (showsFocus && photo.sharpness < kSharpEnough && photo.width >= kNarrowestBlurry)
-        return Verdict{FindingKind::blurry, blurryNote(photo.sharpness)};
+        return Verdict{FindingKind::blurry,
+                       Message{ScanTexts::kBlurry, {{"score", std::int64_t{std::llround(photo.sharpness)}}}}};
     return std::nullopt;
 }
 

@@ -11,7 +11,7 @@ namespace orlen::PhotoRules {
 
 struct Verdict {
     FindingKind kind; ///< `screenshots`, `receipts`, `memes` or `blurry`
-    std::string note;
+    Message note;
 };
 
 /// From the first rule that matches; nothing for an ordinary photo.

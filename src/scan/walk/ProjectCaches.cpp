@@ -1,6 +1,7 @@
 #include "scan/walk/ProjectCaches.h"
 
 #include "platform/files/FileStatus.h"
+#include "scan/ScanTexts.h"
 #include "scan/tree/TreeScan.h"
 #include "scan/walk/WalkRules.h"
 
@@ -16,34 +17,29 @@ namespace {
 constexpr std::string_view kTagInside = "tag";
 constexpr std::string_view kFilmsAround = "films";
 
-constexpr std::string_view kTagged = "Marked as a cache";
-constexpr std::string_view kBuiltAgain = "Downloaded or built again";
-constexpr std::string_view kRebuilt = "Rebuilt when the project opens";
-constexpr std::string_view kEdited = "Open projects use these";
-
 struct Rule {
     std::string_view name;
     std::string_view evidence; ///< one of the above, or a file beside it; "*" at its start matches any text
-    std::string_view note;
+    Text note;
 };
 
 constexpr Rule kRules[] = {
-    {".mypy_cache", kTagInside, kTagged},
-    {".pytest_cache", kTagInside, kTagged},
-    {".ruff_cache", kTagInside, kTagged},
-    {".tox", kTagInside, kTagged},
-    {".tox", "tox.ini", kBuiltAgain},
-    {".tox", "pyproject.toml", kBuiltAgain},
-    {".nox", kTagInside, kTagged},
-    {".nox", "noxfile.py", kBuiltAgain},
-    {".terragrunt-cache", kTagInside, kTagged},
-    {".terragrunt-cache", "terragrunt.hcl", kBuiltAgain},
-    {".godot", "project.godot", kRebuilt},
-    {"Library", "ProjectSettings/ProjectVersion.txt", kRebuilt},
-    {"DerivedDataCache", "*.uproject", kRebuilt},
-    {"Intermediate", "*.uproject", kRebuilt},
-    {"CacheClip", kFilmsAround, kEdited},
-    {"ProxyMedia", kFilmsAround, kEdited},
+    {".mypy_cache", kTagInside, ScanTexts::kMarkedAsCache},
+    {".pytest_cache", kTagInside, ScanTexts::kMarkedAsCache},
+    {".ruff_cache", kTagInside, ScanTexts::kMarkedAsCache},
+    {".tox", kTagInside, ScanTexts::kMarkedAsCache},
+    {".tox", "tox.ini", ScanTexts::kBuiltAgain},
+    {".tox", "pyproject.toml", ScanTexts::kBuiltAgain},
+    {".nox", kTagInside, ScanTexts::kMarkedAsCache},
+    {".nox", "noxfile.py", ScanTexts::kBuiltAgain},
+    {".terragrunt-cache", kTagInside, ScanTexts::kMarkedAsCache},
+    {".terragrunt-cache", "terragrunt.hcl", ScanTexts::kBuiltAgain},
+    {".godot", "project.godot", ScanTexts::kRebuiltOnOpening},
+    {"Library", "ProjectSettings/ProjectVersion.txt", ScanTexts::kRebuiltOnOpening},
+    {"DerivedDataCache", "*.uproject", ScanTexts::kRebuiltOnOpening},
+    {"Intermediate", "*.uproject", ScanTexts::kRebuiltOnOpening},
+    {"CacheClip", kFilmsAround, ScanTexts::kUsedByProjects},
+    {"ProxyMedia", kFilmsAround, ScanTexts::kUsedByProjects},
 };
 
 bool isOfType(int folder, const std::string& name, FileType type)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,8 +15,8 @@ class TreeListing;
 namespace ProjectCaches {
 
 struct Cache {
-    std::string name;      ///< of a real folder in the listing
-    std::string_view note; ///< for its entry
+    std::string name; ///< of a real folder in the listing
+    Text note;        ///< for its entry
     friend bool operator==(const Cache&, const Cache&) = default;
 };
 

@@ -3,6 +3,7 @@
 #include "clean/Safety.h"
 #include "platform/text/PathText.h"
 #include "scan/ScanProgress.h"
+#include "scan/ScanTexts.h"
 #include "scan/walk/ProjectCaches.h"
 #include "scan/walk/WalkRules.h"
 
@@ -63,7 +64,7 @@ bool WalkVisitor::accept(const TreeFolder& folder, const TreeListing& listing)
         return false;
     case WalkRules::FolderNature::taggedCache: {
         const std::lock_guard lock(m_lock);
-        m_caches.push_back({folder.path(), WalkedCaches::kTagged});
+        m_caches.push_back({folder.path(), ScanTexts::kMarkedAsCache});
         return false;
     }
     }

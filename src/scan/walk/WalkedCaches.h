@@ -17,11 +17,9 @@ class UnreadableFolders;
 /// can recreate, and people what they keep out of backups.
 namespace WalkedCaches {
 
-inline constexpr std::string_view kTagged = "Marked as a cache";
-
 struct Folder {
     std::string path;
-    std::string_view note; ///< for its entry
+    Text note; ///< for its entry
 };
 
 struct Found {

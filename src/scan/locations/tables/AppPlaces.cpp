@@ -17,12 +17,13 @@ SourceRow inWebViews(Names names, std::string_view below = {})
                      "{DATAS}/*/webengine", "{DATAS}/*/QtWebEngine/*", "{DATAS}/*/*"},
             .below = below,
             .minimum = 100'000,
-            .note = "{1} cache — quit the app first",
+            .note = message("{name} cache — quit the app first"),
+            .noteName = "*",
             .only = std::move(names),
             .within = FolderRules::holdsWebView};
 }
 
-SourceRow forReview(SourceRow row, std::string_view caution)
+SourceRow forReview(SourceRow row, Text caution)
 {
     row.rating = review;
     row.caution = caution;
@@ -41,43 +42,43 @@ std::vector<SourceRow> webViews()
         inWebViews({"cache"}, "/Shared Dictionary"),
         // Every path like this gets the same caution, whoever lists it.
         forReview(inWebViews({"CacheStorage"}, "/Service Worker"), {}),
-        forReview(inWebViews({"CacheStorage"}, "/WebStorage/*"), kOfflineData),
+        forReview(inWebViews({"CacheStorage"}, "/WebStorage/*"), ScanTexts::kOfflineData),
         forReview(inWebViews({"OptGuideOnDeviceModel", "optimization_guide_model_store"}),
-                  "The browser's own model; it downloads again"),
+                  message("The browser's own model; it downloads again")),
     };
 }
 
-SourceRow single(std::string_view note, Names from)
+SourceRow single(Text note, Names from)
 {
     return {.reading = Reading::single, .from = std::move(from), .note = note};
 }
 
 std::vector<SourceRow> games()
 {
-    SourceRow package = single("Steam downloads", {"{STEAM}/package"});
+    SourceRow package = single(message("Steam downloads"), {"{STEAM}/package"});
     package.accepts = FolderRules::isSteamIdle;
     return {
         {.from = {"{STEAM}/steamapps/shadercache"},
          .minimum = 1'000'000,
-         .note = "Steam shader cache",
-         .caution = "Rebuilt when the game runs; the first start is slower."},
-        single("Steam web cache", {"{STEAM}/appcache/httpcache", "{STEAM}/config/htmlcache"}),
-        single("Steam downloads", {"{STEAM}/depotcache"}),
+         .note = message("Steam shader cache"),
+         .caution = message("Rebuilt when the game runs; the first start is slower.")},
+        single(message("Steam web cache"), {"{STEAM}/appcache/httpcache", "{STEAM}/config/htmlcache"}),
+        single(message("Steam downloads"), {"{STEAM}/depotcache"}),
         package,
         {.from = {"{STEAM}/compatibilitytools.d", "{CONFIGS}/heroic/tools/wine",
                   "{CONFIGS}/heroic/tools/proton", "{DATAS}/lutris/runners/*", "{DATAS}/bottles/runners"},
          .minimum = kLarge,
          .rating = review,
-         .note = "A game may be set to use it."},
+         .note = message("A game may be set to use it.")},
         {.from = {"{H}/.wine", "{DATAS}/wineprefixes/*", "{DATAS}/bottles/bottles/*"},
          .below = "/drive_c/users/*",
          .rating = review,
-         .note = "Temporary files of a Windows program",
+         .note = ScanTexts::kWindowsTemporary,
          .only = {"Temp"}},
         {.from = {"{H}/.wine", "{DATAS}/wineprefixes/*", "{DATAS}/bottles/bottles/*"},
          .below = "/drive_c/users/*/AppData/Local",
          .rating = review,
-         .note = "Temporary files of a Windows program",
+         .note = ScanTexts::kWindowsTemporary,
          .only = {"Temp", "CrashDumps"}},
     };
 }
@@ -87,11 +88,14 @@ std::vector<SourceRow> models()
     return {
         {.from = {"{H}/.lmstudio/models/*", "{DATAS}/Jan/data/llamacpp/models"},
          .rating = review,
-         .note = kLargeDownload},
-        {.from = {"{DATAS}/nomic.ai/GPT4All"}, .rating = review, .note = kLargeDownload, .only = {"*.gguf"}},
+         .note = ScanTexts::kLargeDownload},
+        {.from = {"{DATAS}/nomic.ai/GPT4All"},
+         .rating = review,
+         .note = ScanTexts::kLargeDownload,
+         .only = {"*.gguf"}},
         forReview(single({}, {"{H}/.keras/models", "{H}/.keras/datasets", "{H}/.u2net", "{H}/.EasyOCR/model",
                               "{H}/.insightface/models", "{H}/nltk_data"}),
-                  kLargeDownload),
+                  ScanTexts::kLargeDownload),
     };
 }
 
@@ -102,10 +106,10 @@ std::vector<SourceRow> media()
          .from = {"{DATAS}/TelegramDesktop/tdata/user_data*/cache",
                   "{DATAS}/TelegramDesktop/tdata/user_data*/media_cache"},
          .rating = review,
-         .note = "Fetched again from the server; quit Telegram first"},
+         .note = message("Fetched again from the server; quit Telegram first")},
         forReview(single({}, {"{DATAS}/Meltytech/Shotcut/proxies", "{H}/.openshot_qt/thumbnail",
                               "{H}/.openshot_qt/preview-cache", "{H}/.kodi/userdata/Thumbnails"}),
-                  "Open projects use these"),
+                  ScanTexts::kUsedByProjects),
     };
 }
 

@@ -9,7 +9,7 @@ namespace orlen::SourceTables {
 namespace {
 
 constexpr std::int64_t kSmallest = 100'000;
-constexpr std::string_view kBrowserCache = "Browser cache, rebuilt as you browse.";
+constexpr Text kBrowserCache = message("Browser cache, rebuilt as you browse.");
 
 /// Nothing of these names is offered, whichever row would.
 SourceRow never(Names names)
@@ -17,7 +17,7 @@ SourceRow never(Names names)
     return {.reading = Reading::never, .from = {"{CACHES}"}, .only = std::move(names)};
 }
 
-SourceRow named(std::string_view note, Names names)
+SourceRow named(Text note, Names names)
 {
     return {.from = {"{CACHES}"},
             .minimum = kSmallest,
@@ -26,7 +26,7 @@ SourceRow named(std::string_view note, Names names)
             .isOwnedByProgram = true};
 }
 
-SourceRow forReview(std::string_view note, Names names)
+SourceRow forReview(Text note, Names names)
 {
     SourceRow row = named(note, std::move(names));
     row.rating = Rating::review;
@@ -39,7 +39,7 @@ SourceRow downloads(Names from, Names only, Names except)
     return {.from = std::move(from),
             .minimum = 1'000'000,
             .rating = Rating::review,
-            .note = kLargeDownload,
+            .note = ScanTexts::kLargeDownload,
             .only = std::move(only),
             .except = std::move(except)};
 }
@@ -86,12 +86,12 @@ std::vector<SourceRow> neverOffered()
 std::vector<SourceRow> careful()
 {
     return {
-        forReview("May hold songs you downloaded for offline use.", {"spotify*"}),
-        forReview("Stop the Bazel server first.", {"bazel"}),
-        forReview("Some installers can no longer be downloaded.", {"winetricks", "lutris"}),
-        forReview("Built packages kept for going back to an older version.", {"yay", "paru"}),
-        forReview("Backup index; reading it again can take long.", {"restic"}),
-        forReview("Hook environments; installed again on the next commit.", {"pre-commit"}),
+        forReview(message("May hold songs you downloaded for offline use."), {"spotify*"}),
+        forReview(message("Stop the Bazel server first."), {"bazel"}),
+        forReview(message("Some installers can no longer be downloaded."), {"winetricks", "lutris"}),
+        forReview(message("Built packages kept for going back to an older version."), {"yay", "paru"}),
+        forReview(message("Backup index; reading it again can take long."), {"restic"}),
+        forReview(message("Hook environments; installed again on the next commit."), {"pre-commit"}),
 
         downloads({"{CACHES}/huggingface/hub"}, {"models--*", "datasets--*", "spaces--*"}, {}),
         downloads({"{CACHES}/huggingface", "{CACHES}/torch"}, {}, {}),
@@ -105,15 +105,15 @@ std::vector<SourceRow> careful()
 std::vector<SourceRow> safe()
 {
     return {
-        named("Download cache of Flatpak.", {"flatpak"}),
-        named("Previews; made again when you open a folder.", {"thumbnails"}),
+        named(message("Download cache of Flatpak."), {"flatpak"}),
+        named(message("Previews; made again when you open a folder."), {"thumbnails"}),
         named(kBrowserCache, {"mozilla", "google-chrome*", "chromium", "BraveSoftware", "vivaldi*", "opera*",
                               "microsoft-edge*", "librewolf", "waterfox", "zen", "floorp", "thorium",
                               "falkon", "qutebrowser", "konqueror", "thunderbird", "geary"}),
-        named("The next build is slower",
+        named(message("The next build is slower"),
               {"go-build", "ccache", "sccache", "clangd", "zig", "nim", "ghcide", "hls-*", "gopls",
                "golangci-lint", "rust-analyzer", "bazelisk", "cargo-*", "swiftpm", "dub", "crystal", "elm"}),
-        named("Downloaded or built again",
+        named(ScanTexts::kBuiltAgain,
               {"typescript", "eslint",     "prettier",     "turbo",      "parcel",
                "vite",       "mypy",       "ruff",         "black",      "pylint",
                "pytest",     "ty",         "helm",         "trivy",      "gh",
@@ -122,38 +122,38 @@ std::vector<SourceRow> safe()
                "mandb",      "org.octave", "R-pkgs",       "matplotlib", "jedi",
                "parso",      "numba",      "pocketsphinx", "vscode-*",   "lua-language-server",
                "tree-sitter"}),
-        named("Rebuilt when a program draws again", {"mesa_shader_cache*",
-                                                     "mesa_shader_cache_sf",
-                                                     "nvidia",
-                                                     "AMD",
-                                                     "radv_builtin_shaders*",
-                                                     "qtshadercache*",
-                                                     "gstreamer-1.0",
-                                                     "gegl-*",
-                                                     "babl",
-                                                     "GIMP",
-                                                     "gimp",
-                                                     "blender",
-                                                     "darktable",
-                                                     "rawtherapee",
-                                                     "fontconfig",
-                                                     "fontforge",
-                                                     "event-sound-cache.*",
-                                                     "vlc",
-                                                     "mpv",
-                                                     "totem",
-                                                     "rhythmbox",
-                                                     "shotwell",
-                                                     "gthumb",
-                                                     "gwenview",
-                                                     "digikam",
-                                                     "obs-studio"}),
-        named("Made again by the desktop",
+        named(message("Rebuilt when a program draws again"), {"mesa_shader_cache*",
+                                                              "mesa_shader_cache_sf",
+                                                              "nvidia",
+                                                              "AMD",
+                                                              "radv_builtin_shaders*",
+                                                              "qtshadercache*",
+                                                              "gstreamer-1.0",
+                                                              "gegl-*",
+                                                              "babl",
+                                                              "GIMP",
+                                                              "gimp",
+                                                              "blender",
+                                                              "darktable",
+                                                              "rawtherapee",
+                                                              "fontconfig",
+                                                              "fontforge",
+                                                              "event-sound-cache.*",
+                                                              "vlc",
+                                                              "mpv",
+                                                              "totem",
+                                                              "rhythmbox",
+                                                              "shotwell",
+                                                              "gthumb",
+                                                              "gwenview",
+                                                              "digikam",
+                                                              "obs-studio"}),
+        named(message("Made again by the desktop"),
               {"gnome-software", "gnome-desktop-thumbnailer", "gnome-maps", "gnome-weather", "libgweather",
                "gnome-calculator", "gnome-screenshot", "discover", "appstream*", "PackageKit", "kio_http",
                "krunner*", "plasma-systemmonitor", "khelpcenter", "bookmarksrunner", "qmlcache", "*.qmlc",
                "mate-*", "cinnamon*"}),
-        named("Rebuilt when the game runs",
+        named(message("Rebuilt when the game runs"),
               {"heroic", "legendary", "dxvk*", "vkd3d*", "umu", "PrismLauncher"}),
     };
 }
@@ -167,7 +167,7 @@ std::vector<SourceRow> webViews()
     const SourceRow any{.from = {"{CACHES}/*"},
                         .minimum = kSmallest,
                         .rating = Rating::review,
-                        .note = kUnknownCache,
+                        .note = ScanTexts::kUnknownCache,
                         .exceptFolders = neverOpened,
                         .within = FolderRules::holdsWebKitCache};
     SourceRow settings = any;
@@ -178,7 +178,7 @@ std::vector<SourceRow> webViews()
     pages.note = kBrowserCache;
     pages.only = {"WebKitCache"};
     SourceRow offline = any;
-    offline.note = kOfflineData;
+    offline.note = ScanTexts::kOfflineData;
     offline.only = {"CacheStorage"};
     return {settings, pages, offline, any};
 }
@@ -186,9 +186,9 @@ std::vector<SourceRow> webViews()
 /// Folders that say themselves what they are, and those this program does not know.
 std::vector<SourceRow> others()
 {
-    SourceRow tagged = named("Marked as a cache", {});
+    SourceRow tagged = named(ScanTexts::kMarkedAsCache, {});
     tagged.accepts = FolderRules::isTaggedCache;
-    return {tagged, forReview(kUnknownCache, {})};
+    return {tagged, forReview(ScanTexts::kUnknownCache, {})};
 }
 
 void append(std::vector<SourceRow>& rows, std::vector<SourceRow> more)

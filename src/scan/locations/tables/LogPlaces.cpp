@@ -8,21 +8,21 @@ namespace {
 
 constexpr std::int64_t kSmallest = 10'000;
 
-SourceRow single(std::string_view note, Names from)
+SourceRow single(std::string_view program, Names from)
 {
     return {.kind = FindingKind::logs,
             .reading = Reading::single,
             .from = std::move(from),
             .minimum = kSmallest,
-            .note = note};
+            .noteName = program};
 }
 
-SourceRow children(std::string_view note, Names from, Names only = {})
+SourceRow children(std::string_view program, Names from, Names only = {})
 {
     return {.kind = FindingKind::logs,
             .from = std::move(from),
             .minimum = kSmallest,
-            .note = note,
+            .noteName = program,
             .only = std::move(only)};
 }
 
@@ -44,6 +44,15 @@ SourceRow inWebViews(SourceRow row)
     return row;
 }
 
+SourceRow crashDumps()
+{
+    SourceRow row =
+        accepting(children({}, {"{H}"}, {"hs_err_pid*.log", "java_error_in_*.log", "core", "core.*"}),
+                  EntryRules::isCrashDump);
+    row.note = message("Crash dump");
+    return row;
+}
+
 } // namespace
 
 const Names& chatPrograms()
@@ -62,14 +71,12 @@ std::vector<SourceRow> logs()
         // Nothing else of these folders is ever offered: editors keep what can be undone there, programs
         // their keys and databases.
         exceptChats(
-            accepting(children("{1}", {"{STATE}/*", "{STATE}/*/*"}), EntryRules::isLogFileOrLogsFolder)),
-        inWebViews(children("{1}", {"{CONFIGS}/*"}, {"logs", "Crashpad", "Crash Reports"})),
-        exceptChats(accepting(children("{1}", {"{DATAS}/*"}, {"log", "logs"}), FolderRules::holdsOnlyLogs)),
+            accepting(children("*", {"{STATE}/*", "{STATE}/*/*"}), EntryRules::isLogFileOrLogsFolder)),
+        inWebViews(children("*", {"{CONFIGS}/*"}, {"logs", "Crashpad", "Crash Reports"})),
+        exceptChats(accepting(children("*", {"{DATAS}/*"}, {"log", "logs"}), FolderRules::holdsOnlyLogs)),
         accepting(children("Steam", {"{STEAM}/logs"}), EntryRules::isNamedLikeLog),
         single("Steam", {"{STEAM}/dumps"}),
-        accepting(
-            children("Crash dump", {"{H}"}, {"hs_err_pid*.log", "java_error_in_*.log", "core", "core.*"}),
-            EntryRules::isCrashDump),
+        crashDumps(),
         single("obs-studio", {"{CONFIGS}/obs-studio/logs", "{CONFIGS}/obs-studio/crashes",
                               "{CONFIGS}/obs-studio/profiler_data"}),
         single("HandBrake", {"{CONFIGS}/ghb/EncodeLogs"}),
@@ -77,14 +84,14 @@ std::vector<SourceRow> logs()
         single("pm2", {"{H}/.pm2/logs"}),
         children("VNC", {"{H}/.vnc"}, {"*.log"}),
         single("Minecraft", {"{H}/.minecraft/logs", "{H}/.minecraft/crash-reports"}),
-        single("{1}", {"{DATAS}/PrismLauncher/instances/*/minecraft/logs",
-                       "{DATAS}/PrismLauncher/instances/*/minecraft/crash-reports",
-                       "{DATAS}/PrismLauncher/instances/*/.minecraft/logs",
-                       "{DATAS}/PrismLauncher/instances/*/.minecraft/crash-reports",
-                       "{DATAS}/multimc/instances/*/minecraft/logs",
-                       "{DATAS}/multimc/instances/*/minecraft/crash-reports",
-                       "{DATAS}/multimc/instances/*/.minecraft/logs",
-                       "{DATAS}/multimc/instances/*/.minecraft/crash-reports"}),
+        single("*", {"{DATAS}/PrismLauncher/instances/*/minecraft/logs",
+                     "{DATAS}/PrismLauncher/instances/*/minecraft/crash-reports",
+                     "{DATAS}/PrismLauncher/instances/*/.minecraft/logs",
+                     "{DATAS}/PrismLauncher/instances/*/.minecraft/crash-reports",
+                     "{DATAS}/multimc/instances/*/minecraft/logs",
+                     "{DATAS}/multimc/instances/*/minecraft/crash-reports",
+                     "{DATAS}/multimc/instances/*/.minecraft/logs",
+                     "{DATAS}/multimc/instances/*/.minecraft/crash-reports"}),
         single("VirtualBox", {"{H}/VirtualBox VMs/*/Logs"}),
         single("npm", {"{H}/npm-debug.log"}),
         single("JetBrains Toolbox", {"{DATA}/JetBrains/Toolbox/logs"}),

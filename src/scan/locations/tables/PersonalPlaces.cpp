@@ -30,7 +30,7 @@ std::vector<SourceRow> personal()
                   "{H}/Documents/Backup", "{H}/Documents/Backups", "{DOCUMENTS}", "{DOCUMENTS}/Backup",
                   "{DOCUMENTS}/Backups",
                   "{H}/.wine/drive_c/users/*/AppData/Roaming/Apple Computer/MobileSync/Backup"},
-         .note = "Device backup",
+         .note = message("Device backup"),
          .accepts = FolderRules::isDeviceBackup},
         {.kind = Kind::trash,
          .offered = Offered::all,

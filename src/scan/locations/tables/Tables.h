@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scan/ScanTexts.h"
 #include "scan/locations/SourceTable.h"
 
 /// The parts of the table of known places on Linux desktops, one per concern.
@@ -17,12 +18,6 @@ namespace orlen::SourceTables {
 
 // Shared by the parts.
 using Names = std::vector<std::string_view>;
-
-inline constexpr std::string_view kUsedInPlace = "Projects use these packages in place.";
-inline constexpr std::string_view kLargeDownload = "Large download; needed again by programs that use it.";
-inline constexpr std::string_view kOfflineData = "May hold offline data of a web app.";
-inline constexpr std::string_view kUnknownCache =
-    "Orlen does not know this cache. Most can go; look inside first.";
 
 /// Programs whose "logs" are the user's conversations.
 [[nodiscard]] const Names& chatPrograms();
