@@ -8,8 +8,8 @@ namespace orlen {
 
 /// A sentence or word of the program. The English one stands in the code; it is also its key in the
 /// catalogues, what JSON holds, and what is shown when no catalogue has it. Only literals become texts, by
-/// the functions below: that is where the tools that collect the texts find them. The screens are not compiled;
-/// their texts are literals there.
+/// the functions below: that is where the tools that collect the texts find them. The screens are not
+/// compiled; their texts are literals there.
 class Text {
 public:
     constexpr Text() = default;

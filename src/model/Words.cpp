@@ -168,9 +168,9 @@ std::string shown(const Text& text)
 std::string shown(const Message& message)
 {
     const Speech& used = speech();
-    return MessageText::filled(
-        message, {[&](const Text& text, std::int64_t count) { return used.words(text, count); },
-                  *used.figures, [](const std::string& name) { return isolated(name); }});
+    return MessageText::filled(message,
+                               {[&](const Text& text, std::int64_t count) { return used.words(text, count); },
+                                *used.figures, [](const std::string& name) { return isolated(name); }});
 }
 
 std::string shown(std::string_view base)

@@ -24,8 +24,8 @@ void useInstalled();
 /// Numbers, sizes and dates as that language writes them, with the habits of the person's region.
 [[nodiscard]] const Figures& figures();
 
-/// A name or path that stands among words: marked so that it keeps its own direction if those are written from
-/// right to left, and so that it changes none of theirs.
+/// A name or path that stands among words: marked so that it keeps its own direction if those are written
+/// from right to left, and so that it changes none of theirs.
 [[nodiscard]] std::string isolated(std::string_view name);
 
 /// A text with its places as they are.

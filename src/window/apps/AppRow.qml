@@ -13,7 +13,7 @@ ListRow {
 
     implicitHeight: Math.max(60, texts.height + 22)
     Accessible.name: root.name
-    Accessible.description: root.size === "" ? root.origin : root.origin + ", " + root.size
+    Accessible.description: Strings.spoken([root.origin, root.size])
     Accessible.onPressAction: root.activated()
 
     AppIcon {

@@ -201,7 +201,7 @@ Item {
             visible: !apps.loading && list.count === 0
             symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
             tone: Theme.appsTone
-            text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
+            text: search.text === "" ? Strings.noApps : Strings.noAppMatches(search.text)
             action: search.text === "" ? "" : Strings.clearFilter
             onTriggered: {
                 search.clear();

@@ -16,7 +16,7 @@ Pressable {
     fill: root.hovered || root.down ? Theme.hover : Theme.inset
     ringGap: 2
     text: root.title
-    Accessible.name: root.title + ", " + root.size
+    Accessible.name: Strings.spoken([root.title, root.size])
 
     contentItem: Item {
         Badge {

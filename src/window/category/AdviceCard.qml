@@ -15,7 +15,7 @@ Card {
 
     implicitHeight: content.height + 2 * Theme.spaceL
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title + ", " + root.size + ". " + root.text
+    Accessible.name: Strings.spokenText(Strings.spoken([root.title, root.size]), root.text)
 
     Column {
         id: content

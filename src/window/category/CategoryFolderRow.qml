@@ -20,7 +20,7 @@ Pressable {
     enabled: root.isSeen
     fill: root.isSeen && (root.hovered || root.down) ? Theme.hover : Theme.clear
     ringGap: 0
-    text: root.name + ", " + root.size + ", " + root.shareText
+    text: Strings.spoken([root.name, root.size, root.shareText])
     Accessible.description: root.isInHome ? Strings.opensInDiskMap : root.isSeen ? Strings.reveal : ""
 
     Keys.onMenuPressed: root.revealRequested()

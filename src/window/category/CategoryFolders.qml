@@ -51,7 +51,7 @@ Column {
     AppButton {
         visible: root.category.folders.count > root.few + 1
         quiet: true
-        text: root.all ? Strings.showFewer : Strings.showAllNumber.arg(root.category.folders.count)
+        text: root.all ? Strings.showFewer : Strings.showAllNumber(root.category.folders.count)
         onClicked: root.all = !root.all
     }
 

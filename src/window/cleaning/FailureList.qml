@@ -32,6 +32,7 @@ KeyedList {
         required property string reason
         required property bool startsReason
         required property string remedy
+        readonly property string facts: Strings.spoken([row.name, row.folder, row.reason])
 
         width: ListView.view ? ListView.view.width : 0
         leftPadding: Theme.spaceM
@@ -39,8 +40,7 @@ KeyedList {
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.name + ", " + row.folder + ", " + row.reason
-                         + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
+        Accessible.name: row.startsReason && row.remedy !== "" ? Strings.spokenText(row.facts, row.remedy) : row.facts
 
         SmallText {
             objectName: "failureReason"

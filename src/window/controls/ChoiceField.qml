@@ -15,7 +15,7 @@ T.ComboBox {
     rightPadding: 26
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.name: root.label + " " + root.displayText
+    Accessible.name: Strings.spoken([root.label, root.displayText])
 
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()

@@ -11,7 +11,7 @@ Pressable {
     implicitWidth: label.implicitWidth + 16 + 14
     implicitHeight: Theme.controlHeight
     ringGap: 0
-    Accessible.name: Strings.sortBy.arg(root.text)
+    Accessible.name: Strings.sortBy(root.text)
     Accessible.checkable: true
     Accessible.checked: root.active
 

@@ -14,7 +14,7 @@ ColumnCard {
 
     spacing: root.beside ? 10 : 8
     Accessible.role: Accessible.StaticText
-    Accessible.name: root.title + ". " + root.body
+    Accessible.name: Strings.spokenText(root.title, root.body)
 
     Badge {
         visible: !root.beside

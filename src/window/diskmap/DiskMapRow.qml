@@ -19,7 +19,7 @@ ListRow {
     implicitHeight: Theme.grown(44)
     sideGap: 4
     ringed: root.isCurrent
-    Accessible.name: root.spoken + ", " + root.shareText
+    Accessible.name: Strings.spoken([root.spoken, root.shareText])
     Accessible.selected: root.isCurrent
     Accessible.onPressAction: root.pressed()
 

@@ -20,7 +20,7 @@ T.Control {
     focus: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.List
-    Accessible.name: Strings.contentsOf.arg(root.map.folderName)
+    Accessible.name: Strings.contentsOf(root.map.folderName)
 
     Keys.onPressed: event => {
         root.isKeyed = true;

@@ -25,7 +25,7 @@ ListRow {
     signal revealRequested
 
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
-    Accessible.name: root.name + ", " + root.size + ", " + root.rating.label + ", " + root.note + ", " + root.folder
+    Accessible.name: Strings.spoken([root.name, root.size, root.rating.label, root.note, root.folder])
     Accessible.checkable: root.checkable
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.selected: root.isCurrent

@@ -28,7 +28,7 @@ Card {
     height: head.height + unfolded.height
     border.color: area.containsMouse ? Theme.accent : Theme.stroke
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title + ", " + root.date + ", " + root.summary + ", " + root.freed
+    Accessible.name: Strings.spoken([root.title, root.date, root.summary, root.freed])
 
     Ease on border.color {}
 
@@ -80,7 +80,7 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
+                text: Strings.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
                 Accessible.ignored: true
@@ -116,7 +116,7 @@ Card {
                       : root.status === HistoryModel.Restoring ? Strings.restoring : Strings.restore
                 focusPolicy: root.tabPolicy
                 Accessible.name: root.status === HistoryModel.Restorable
-                                 ? Strings.restoreOf.arg(root.title).arg(root.date) : restore.text
+                                 ? Strings.restoreOf(root.title, root.date) : restore.text
                 onClicked: root.restoreRequested(restore.visualFocus)
             }
 

@@ -1,6 +1,7 @@
 #include "window/history/HistoryModel.h"
 
 #include "app/AppTexts.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Screens.h"
 
@@ -10,9 +11,6 @@
 namespace orlen {
 
 namespace {
-
-/// The only place where a line may break.
-const QString kJoint = QStringLiteral("\u00a0· ");
 
 /// The screen where a clean-up with this title was planned.
 const Screens::Meta& originOf(std::string_view title)
@@ -77,12 +75,12 @@ HistoryModel::State HistoryModel::stateOf(const Row& row)
 
 QString HistoryModel::summaryOf(const Row& row)
 {
-    QString summary = DisplayText::counted(row.items, "item");
+    QStringList facts{DisplayText::counted(row.items, WindowTexts::kItems)};
     if (row.restored > 0)
-        summary += kJoint + DisplayText::number(row.restored) + QStringLiteral(" restored");
+        facts << DisplayText::counted(row.restored, WindowTexts::kRestoredCount);
     if (row.failed > 0)
-        summary += kJoint + DisplayText::number(row.failed) + QStringLiteral(" couldn't be moved");
-    return summary;
+        facts << DisplayText::counted(row.failed, WindowTexts::kNotMoved);
+    return DisplayText::facts(facts);
 }
 
 QVariant HistoryModel::value(std::size_t number, int role) const
@@ -90,7 +88,7 @@ QVariant HistoryModel::value(std::size_t number, int role) const
     const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::title:
-        return DisplayText::path(row.title);
+        return DisplayText::kept(row.title);
     case Role::symbol:
         return DisplayText::text(originOf(row.title).symbol);
     case Role::tone:

@@ -15,7 +15,7 @@ Pressable {
     required property string selected
     required property bool cleanable
 
-    readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
+    readonly property string amount: root.selected === "" ? root.count : Strings.selected(root.selected)
 
     implicitHeight: Theme.grown(92) + 40
     fill: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
@@ -23,7 +23,7 @@ Pressable {
     edgeWidth: 1
     corner: Theme.cardRadius
     text: root.title
-    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.rating.label
+    Accessible.name: Strings.spoken([root.title, root.size, root.amount, root.rating.label])
 
     contentItem: Item {
         Badge {

@@ -41,7 +41,7 @@ Item {
         TitleText {
             objectName: "heroSentence"
             width: parent.width
-            text: root.home.hasSafe ? Strings.safelyFree.arg(root.home.safeText) : Strings.nothingSafe
+            text: root.home.heroText
             wrapMode: Text.WordWrap
             font.pixelSize: root.narrow ? Theme.titleSize : Theme.heroSize
             font.letterSpacing: root.narrow ? -0.3 : -1
@@ -51,7 +51,7 @@ Item {
             width: parent.width
             topPadding: Theme.spaceXs
             bottomPadding: Theme.spaceL
-            text: Strings.reviewInTotal.arg(root.home.totalText)
+            text: Strings.reviewInTotal(root.home.totalText)
             font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
         }
 
@@ -82,7 +82,7 @@ Item {
                 leftPadding: Theme.spaceXs
                 verticalAlignment: Text.AlignVCenter
                 visible: root.home.hasFindings && !root.narrow
-                text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
+                text: root.home.hasSelection ? Strings.selected(root.home.selectedText) : Strings.nothingSelected
             }
         }
     }

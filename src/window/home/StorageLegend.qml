@@ -48,7 +48,7 @@ Grid {
             height: name.height + Theme.spaceS
             leftInset: -6
             ringGap: 0
-            text: row.label + " " + row.size
+            text: Strings.spoken([row.label, row.size])
             Accessible.description: Strings.chooseCategory
             activeFocusOnTab: row.index === Math.min(root.current, rows.count - 1)
             onClicked: root.chosen(row.category)

@@ -109,7 +109,7 @@ Item {
             SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
-                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
+                text: Strings.facts([root.summary, root.selection])
                 color: Theme.text
                 font.weight: Font.DemiBold
             }

@@ -29,7 +29,7 @@ Item {
     Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
     Accessible.checkable: !root.kept
     Accessible.checked: root.selected
-    Accessible.name: root.name + ", " + (root.kept ? Strings.kept : root.size)
+    Accessible.name: Strings.spoken([root.name, root.kept ? Strings.kept : root.size])
     Accessible.description: root.details
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()

@@ -53,16 +53,15 @@ ColumnCard {
         faint: Theme.dark ? Theme.stroke : Theme.inset
         Accessible.role: Accessible.Chart
         Accessible.name: root.prediction.enoughData
-                         ? Strings.freeSpaceChart.arg(root.prediction.firstDate).arg(root.prediction.lastDate)
-                               .arg(root.prediction.freeText).arg(root.prediction.headline)
-                               .arg(root.prediction.detail)
-                         : Strings.noForecast.arg(root.prediction.detail)
+                         ? Strings.freeSpaceChart(root.prediction.firstDate, root.prediction.lastDate, root.prediction.freeText)
+                           + " " + Strings.spokenText(root.prediction.headline, root.prediction.detail)
+                         : Strings.noForecast + " " + root.prediction.detail
 
         SmallText {
             x: Math.min(chart.now.x + 12, chart.width - width)
             y: Math.max(0, chart.now.y - height - 8)
             visible: root.prediction.enoughData
-            text: Strings.free.arg(root.prediction.freeText)
+            text: root.prediction.freeSentence
             color: Theme.text
             font.weight: Font.DemiBold
             Accessible.ignored: true

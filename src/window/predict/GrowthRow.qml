@@ -13,7 +13,7 @@ Item {
 
     implicitHeight: Theme.grown(38)
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.label + ", " + root.rate
+    Accessible.name: Strings.spoken([root.label, root.rate])
 
     Rectangle {
         id: dot

@@ -90,8 +90,7 @@ Sheet {
 
                 SmallText {
                     width: parent.width
-                    text: model.facts
-                          + (model.kind === PreviewModel.Folder && root.size !== "" ? Strings.joint + root.size : "")
+                    text: Strings.facts([model.facts, model.kind === PreviewModel.Folder ? root.size : ""])
                     color: Theme.text
                     font.weight: Font.DemiBold
                 }

@@ -18,7 +18,7 @@ ListRow {
     signal pressed
 
     Accessible.role: Accessible.CheckBox
-    Accessible.name: root.title + ", " + root.count + ", " + root.size
+    Accessible.name: Strings.spoken([root.title, root.count, root.size])
     Accessible.checkable: true
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.onToggleAction: root.toggled()

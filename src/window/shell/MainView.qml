@@ -15,7 +15,7 @@ Item {
         width: Theme.sidebarWidth
         height: parent.height
         currentScreen: root.navigation.screen
-        freeText: root.storage.freeText
+        freeSentence: root.storage.freeSentence
         usedFraction: root.storage.usedFraction
         onSelected: screen => root.navigation.screen = screen
     }

@@ -30,7 +30,7 @@ Column {
             width: root.width
             height: Theme.grown(36)
             Accessible.role: Accessible.ListItem
-            Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
+            Accessible.name: Strings.spoken([row.modelData.text].concat(row.modelData.keys.map(stroke => stroke.join(" + "))))
 
             Divider {
                 width: parent.width

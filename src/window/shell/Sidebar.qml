@@ -6,7 +6,7 @@ Rectangle {
     id: root
 
     required property int currentScreen
-    required property string freeText
+    required property string freeSentence
     required property real usedFraction
     signal selected(screen: int)
 
@@ -64,7 +64,7 @@ Rectangle {
 
         CaptionText {
             width: parent.width
-            text: Strings.free.arg(root.freeText)
+            text: root.freeSentence
             color: Theme.secondary
             font.weight: Font.DemiBold
         }

@@ -1,11 +1,13 @@
 #include "window/shell/Window.h"
 
 #include "app/AppTexts.h"
+#include "model/Words.h"
 #include "platform/desktop/SessionBus.h"
 #include "platform/files/LibraryFolders.h"
 #include "platform/files/Places.h"
 #include "platform/process/Interrupts.h"
 #include "platform/process/OwnProgram.h"
+#include "window/WindowTexts.h"
 #include "window/apps/AppIconProvider.h"
 #include "window/controls/SymbolProvider.h"
 #include "window/preview/Thumbnails.h"
@@ -133,7 +135,7 @@ int run(int argc, char** argv)
     case RunningInstance::Claim::raisedOther:
         return EXIT_SUCCESS;
     case RunningInstance::Claim::blocked:
-        std::fputs("orlen: Orlen is open already.\n", stderr);
+        std::fprintf(stderr, "orlen: %s\n", shown(WindowTexts::kIsOpen).c_str());
         return EXIT_FAILURE;
     }
     return EXIT_FAILURE;

@@ -7,9 +7,9 @@
 
 namespace orlen {
 
-/// Looks up the texts of the screens, as the singleton `Words`. Its arguments are literals, as in model/Text.h:
-/// the tools that collect the texts find them by these names. In `places` numbers are whole numbers, written as
-/// the language does; strings stand as they are.
+/// Looks up the texts of the screens, as the singleton `Words`. Its arguments are literals, as in
+/// model/Text.h: the tools that collect the texts find them by these names. In `places` numbers are whole
+/// numbers, written as the language does; strings stand as they are.
 class WordsElement : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Words)

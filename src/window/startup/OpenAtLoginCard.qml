@@ -46,7 +46,7 @@ Card {
         Note {
             width: parent.width
             visible: root.items.obstacle !== ""
-            text: Strings.openAtLoginFailed.arg(root.items.obstacle)
+            text: Strings.openAtLoginFailed(root.items.obstacle)
             symbol: "exclamationmark.triangle.fill"
             ink: Theme.reviewText
         }

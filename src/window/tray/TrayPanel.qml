@@ -68,7 +68,7 @@ Window {
                     height: freeSpace.implicitHeight
                     visible: storage.ready
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: freeSpace.text + " " + ofTotal.text
+                    Accessible.name: Strings.spoken([freeSpace.text, ofTotal.text])
 
                     TitleText {
                         id: freeSpace
@@ -84,7 +84,7 @@ Window {
                         anchors.leftMargin: Theme.spaceS
                         anchors.right: parent.right
                         anchors.baseline: freeSpace.baseline
-                        text: Strings.freeOf.arg(storage.totalText)
+                        text: Strings.freeOf(storage.totalText)
                         Accessible.ignored: true
                     }
                 }
@@ -121,13 +121,13 @@ Window {
                 spacing: Theme.spaceS
 
                 AppButton {
-                    text: Strings.quit
+                    text: tray.quitLabel
                     onClicked: root.quitRequested()
                 }
 
                 AppButton {
                     objectName: "trayOpen"
-                    text: Strings.openOrlen
+                    text: tray.openLabel
                     primary: true
                     focus: true
                     onClicked: root.openRequested()
