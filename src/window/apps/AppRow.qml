@@ -19,7 +19,8 @@ ListRow {
     AppIcon {
         id: picture
 
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         icon: root.icon
     }

@@ -174,7 +174,8 @@ Item {
 
                 required property int index
 
-                width: ListView.view.width - 7
+                x: Theme.mirrored ? 7 : 0
+            width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     // Taps on a sheet reach the rows below it.

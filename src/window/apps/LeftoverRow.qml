@@ -31,7 +31,8 @@ ListRow {
         id: mark
 
         objectName: "check"
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         checked: root.checked
         focusPolicy: Qt.NoFocus

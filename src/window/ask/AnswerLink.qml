@@ -22,7 +22,8 @@ Pressable {
         Badge {
             id: badge
 
-            x: 10
+            anchors.left: parent.left
+            anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone

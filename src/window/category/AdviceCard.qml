@@ -32,6 +32,7 @@ Card {
             BodyText {
                 id: title
 
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, parent.width - amount.width - Theme.spaceM)
                 text: root.title
                 font.weight: Font.DemiBold

@@ -16,12 +16,14 @@ Column {
     Accessible.name: Strings.largestFolders
 
     HeadlineText {
+        width: parent.width
         bottomPadding: Theme.spaceXs
         visible: root.category.folders.count > 0 || root.category.measuring
         text: Strings.largestFolders
     }
 
     SmallText {
+        width: parent.width
         visible: root.category.measuring
         text: Strings.measuring
         color: Theme.tertiary
@@ -49,6 +51,7 @@ Column {
     }
 
     AppButton {
+        anchors.left: parent.left
         visible: root.category.folders.count > root.few + 1
         quiet: true
         text: root.all ? Strings.showFewer : Strings.showAllNumber(root.category.folders.count)

@@ -35,7 +35,7 @@ KeyedList {
         readonly property string facts: Strings.spoken([row.name, row.folder, row.reason])
 
         width: ListView.view ? ListView.view.width : 0
-        leftPadding: Theme.spaceM
+        leftPadding: Theme.spaceL
         rightPadding: Theme.spaceL
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6

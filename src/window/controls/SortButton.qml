@@ -20,7 +20,8 @@ Pressable {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             text: root.text
             color: root.active ? Theme.text : Theme.secondary
             font.weight: root.active ? Font.DemiBold : Font.Medium

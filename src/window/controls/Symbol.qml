@@ -11,8 +11,11 @@ Image {
     /// Whether it scales with the text size, as most icons do.
     property bool grows: true
 
+    /// Whether it points along the line, so that it turns with the language.
+    readonly property bool isDirected: ["chevron.right", "chevron.left", "arrow.right", "list.bullet"].includes(root.name)
     readonly property int side: root.grows ? Math.round(root.size * Theme.textScale) : root.size
 
+    mirror: root.isDirected && Theme.mirrored
     width: root.side
     height: root.side
     sourceSize.width: root.side

@@ -7,6 +7,8 @@ QtObject {
     id: root
 
     readonly property Appearance appearance: Appearance {}
+    /// Whether everything stands the other way round, as the reader's language is written.
+    readonly property bool mirrored: Words.isRightToLeft
     readonly property bool dark: root.appearance.dark
 
     readonly property color window: root.dark ? "#131519" : "#f6f7f9"

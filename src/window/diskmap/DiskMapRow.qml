@@ -26,7 +26,8 @@ ListRow {
     Symbol {
         id: icon
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary

@@ -46,7 +46,8 @@ ListRow {
 
         objectName: "check"
         anchors.verticalCenter: parent.verticalCenter
-        x: 20 + root.indent
+        anchors.left: parent.left
+        anchors.leftMargin: 20 + root.indent
         visible: root.checkable
         checkState: root.checkState
         nextCheckState: () => check.checkState
@@ -59,7 +60,8 @@ ListRow {
         id: picture
 
         anchors.verticalCenter: parent.verticalCenter
-        x: root.checkable ? check.x + check.width + 8 : 24 + root.indent
+        anchors.left: parent.left
+        anchors.leftMargin: root.indent + (root.checkable ? 20 + check.width + 8 : 24)
         symbol: root.symbol
         thumbnail: root.thumbnail
     }

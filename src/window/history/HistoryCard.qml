@@ -55,7 +55,8 @@ Card {
         Badge {
             id: badge
 
-            x: Theme.cardMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
@@ -97,7 +98,8 @@ Card {
 
             HeadlineText {
                 anchors.verticalCenter: parent.verticalCenter
-                rightPadding: Theme.spaceM
+                leftPadding: Theme.mirrored ? Theme.spaceM : 0
+                rightPadding: Theme.mirrored ? 0 : Theme.spaceM
                 visible: !root.isNarrow
                 text: root.freed
                 font.weight: Font.Bold

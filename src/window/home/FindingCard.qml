@@ -27,7 +27,8 @@ Pressable {
 
     contentItem: Item {
         Badge {
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             y: 16
             name: root.symbol
             tone: root.tone
@@ -60,7 +61,8 @@ Pressable {
         TitleText {
             id: figure
 
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             anchors.bottom: parent.bottom
             anchors.bottomMargin: Theme.spaceL
             text: root.size

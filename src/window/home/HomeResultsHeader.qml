@@ -19,6 +19,7 @@ Item {
     Item {
         id: slot
 
+        anchors.left: parent.left
         width: root.narrow ? Math.round(112 * Math.min(1.25, Theme.textScale)) : 164
         height: width
 
@@ -80,6 +81,7 @@ Item {
             CaptionText {
                 height: Theme.controlHeight
                 leftPadding: Theme.spaceXs
+                rightPadding: Theme.spaceXs
                 verticalAlignment: Text.AlignVCenter
                 visible: root.home.hasFindings && !root.narrow
                 text: root.home.hasSelection ? Strings.selected(root.home.selectedText) : Strings.nothingSelected
@@ -90,7 +92,7 @@ Item {
     StorageLegend {
         id: legend
 
-        x: root.narrow ? 0 : words.x
+        anchors.left: root.narrow ? parent.left : words.left
         anchors.bottom: root.narrow ? parent.bottom : words.bottom
         storage: root.storage
         room: root.narrow ? root.width : words.width

@@ -33,7 +33,8 @@ Item {
             Column {
                 id: side
 
-                x: Math.round((page.width - page.inner) / 2)
+                anchors.left: parent.left
+                anchors.leftMargin: Math.round((page.width - page.inner) / 2)
                 y: Math.round((flickable.height - height) / 2)
                 spacing: Theme.spaceXl
 

@@ -21,6 +21,7 @@ Item {
     Item {
         id: mark
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: 18
         height: 18

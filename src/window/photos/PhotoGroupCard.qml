@@ -51,6 +51,7 @@ Card {
         Badge {
             id: badge
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone

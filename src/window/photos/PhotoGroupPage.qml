@@ -52,6 +52,7 @@ Item {
             IconButton {
                 id: back
 
+                anchors.left: parent.left
                 framed: true
                 y: (badge.height - height) / 2
                 symbol: "chevron.left"
@@ -92,7 +93,8 @@ Item {
         }
 
         Row {
-            x: -mark.leftPadding
+            anchors.left: parent.left
+            anchors.leftMargin: -mark.leftPadding
             width: parent.width
             spacing: Theme.spaceXs
 

@@ -40,9 +40,9 @@ Item {
 
         Rectangle {
             visible: root.isInSet
-            x: root.joinsPrevious ? -16 : 1
+            x: (Theme.mirrored ? root.joinsNext : root.joinsPrevious) ? -16 : 1
             y: 1
-            width: parent.width - x + (root.joinsNext ? 16 : -1)
+            width: parent.width - x + ((Theme.mirrored ? root.joinsPrevious : root.joinsNext) ? 16 : -1)
             height: parent.height - 2
             radius: Theme.controlRadius + 3
             color: Theme.track

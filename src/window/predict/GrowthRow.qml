@@ -18,7 +18,8 @@ Item {
     Rectangle {
         id: dot
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10

@@ -202,9 +202,9 @@ QtObject {
     readonly property string diskFull: Words.message("Disk full")
     function freeSpaceChart(first: string, last: string, size: string): string {
         // TRANSLATORS: {first} and {last} are dates, {size} is the free space at the last.
-        return Words.message("Free space from {first} to {last}, now {size}.", { first: first, last: last, size: size });
+        return Words.message("Free space from {first} to {last}, now {size}", { first: first, last: last, size: size });
     }
-    readonly property string noForecast: Words.message("No forecast yet.")
+    readonly property string noForecast: Words.message("No forecast yet")
     readonly property string growthLater: Words.message("How fast each kind of data grows appears here with the forecast.")
     readonly property string growthByCategory: Words.message("Growth by category")
 

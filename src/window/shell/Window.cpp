@@ -20,6 +20,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -95,6 +96,9 @@ void prepare()
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(kTextPixels);
     QGuiApplication::setFont(font);
+    QGuiApplication::setLayoutDirection(Words::isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    // For what the desktop names, such as types of files.
+    QLocale::setDefault(QLocale(QString::fromStdString(Words::language())));
 }
 
 void prepareEngine(QQmlEngine& engine, AppModel& model)

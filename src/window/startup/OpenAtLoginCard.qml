@@ -12,7 +12,8 @@ Card {
     Badge {
         id: badge
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: "sparkles"
         tone: Theme.welcomeTone

@@ -63,6 +63,7 @@ Item {
         }
 
         AppButton {
+            anchors.left: parent.left
             visible: loginItems.hasSettings
             text: Strings.openStartupSettings
             onClicked: loginItems.openSettings()

@@ -14,6 +14,8 @@ Window {
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     title: Strings.appName
     color: "transparent"
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     // Closes like a menu on a click anywhere else.
     onActiveChanged: {
@@ -73,6 +75,7 @@ Window {
                     TitleText {
                         id: freeSpace
 
+                        anchors.left: parent.left
                         text: storage.freeText
                         Accessible.ignored: true
                     }
