@@ -1,7 +1,9 @@
 #include "insight/AskEngine.h"
 
 #include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "insight/reader/AskReader.h"
+#include "model/Words.h"
 #include "platform/files/Places.h"
 #include "platform/text/ByteCount.h"
 
@@ -30,18 +32,38 @@ bool isBelow(std::string_view path, const std::string& folder)
     return !folder.empty() && path.starts_with(folder + "/");
 }
 
+std::string joined(const std::vector<std::string>& parts, std::string_view separator)
+{
+    std::string text;
+    for (const std::string& part : parts) {
+        if (&part != &parts.front())
+            text += separator;
+        text += part;
+    }
+    return text;
+}
+
 std::string categoriesLine(const StorageBreakdown& breakdown)
 {
     std::vector<std::string> categories;
     for (const auto& category : breakdown.cats)
-        categories.push_back(AskText::sized(category));
-    return "Categories: " + AskText::joined(categories, ", ");
+        categories.push_back(AskText::sized(category).base());
+    return "Categories: " + joined(categories, ", ");
 }
 
 std::string findingLine(const Finding& finding)
 {
-    return "- " + finding.title + ": " + byteCount(finding.totalSize()) + ", rated " +
-           std::string(label(finding.rating)) + ". " + finding.reason;
+    return "- " + std::string(finding.title.base()) + ": " + byteCount(finding.totalSize()) + ", rated " +
+           std::string(label(finding.rating).base()) + ". " + std::string(finding.reason.base());
+}
+
+/// A suggested question in the person's language becomes the English one, which the answers go by.
+std::string inEnglish(const std::string& question)
+{
+    const std::string plain = AskText::plainWords(question);
+    const auto suggested = std::ranges::find_if(
+        kSuggestions, [&](const Text& each) { return AskText::plainWords(shown(each)) == plain; });
+    return suggested == kSuggestions.end() || plain.empty() ? question : std::string(suggested->base());
 }
 
 std::string promptFor(const std::string& question, const AskContext& context)
@@ -51,19 +73,19 @@ std::string promptFor(const std::string& question, const AskContext& context)
 
 } // namespace
 
-std::string_view introduction(const LanguageModel& model)
+Text introduction(const LanguageModel& model)
 {
-    return model.isAvailable() ? "Answers come from your scan, written by Apple's on-device language model."
-                               : "Answers come from your scan, using Orlen's built-in on-device matcher.";
+    return model.isAvailable() ? InsightTexts::kByModel : InsightTexts::kByMatcher;
 }
 
 Answer answer(const std::string& question, const AskContext& context, const LanguageModel& model)
 {
-    Answer answer = fallback(question, context);
+    const std::string understood = inEnglish(question);
+    Answer answer = fallback(understood, context);
     if (!model.isAvailable())
-        return AskReader::answer(question, context).value_or(std::move(answer));
+        return AskReader::answer(understood, context).value_or(std::move(answer));
     if (std::optional<std::string> text = model.respond(kInstructions, promptFor(question, context))) {
-        answer.text = *std::move(text);
+        answer.text = Message::verbatim(*std::move(text));
         answer.usedModel = true;
     }
     return answer;
@@ -81,9 +103,9 @@ std::string contextText(const AskContext& context)
     lines.emplace_back("Items in Downloads:");
     const std::vector<FileEntry> downloads = downloadsItems(context.findings);
     for (std::size_t i = 0; i < std::min(downloads.size(), kDownloadsShown); ++i)
-        lines.push_back("- " + AskText::sized(AskText::fileName(downloads[i]), downloads[i].size));
-    lines.push_back("Prediction: " + context.prediction.headline + ". " + context.prediction.detail);
-    return AskText::joined(lines, "\n");
+        lines.push_back("- " + AskText::sized(AskText::fileName(downloads[i]), downloads[i].size).base());
+    lines.push_back("Prediction: " + AskText::forecast(context.prediction).base());
+    return joined(lines, "\n");
 }
 
 std::vector<FileEntry> downloadsItems(const std::vector<Finding>& findings)

@@ -2,6 +2,7 @@
 
 #include "insight/AskContext.h"
 #include "model/FileEntry.h"
+#include "model/Message.h"
 #include "platform/text/LanguageModel.h"
 
 #include <array>
@@ -13,7 +14,7 @@ namespace orlen {
 
 /// The reply to a question.
 struct Answer {
-    std::string text;                    ///< may have several lines
+    Message text;                        ///< may have several lines
     std::vector<std::string> findingIDs; ///< findings it is about, for links to them
     bool usedModel = false;              ///< whether a language model wrote the text
 
@@ -23,13 +24,14 @@ struct Answer {
 /// Answers questions about the last scan, using nothing else. Stateless; any thread.
 namespace AskEngine {
 
-/// Suggested questions.
-inline constexpr std::array<std::string_view, 5> kSuggestions{
-    "What is using the most space?", "What can I delete from my Downloads folder?",
-    "What can I safely free up?", "Are there duplicate files?", "When will my disk be full?"};
+/// Suggested questions. They are understood in the person's language as well.
+inline constexpr std::array<Text, 5> kSuggestions{
+    message("What is using the most space?"), message("What can I delete from my Downloads folder?"),
+    message("What can I safely free up?"), message("Are there duplicate files?"),
+    message("When will my disk be full?")};
 
 /// Says who writes the answers.
-[[nodiscard]] std::string_view introduction(const LanguageModel& model = LanguageModel::ofSystem());
+[[nodiscard]] Text introduction(const LanguageModel& model = LanguageModel::ofSystem());
 
 /// Lets the language model answer. If there is none, the reader answers what it is sure of; what it leaves,
 /// and what the model fails to answer, the built-in matcher does. Blocks while the model writes.
@@ -39,7 +41,7 @@ inline constexpr std::array<std::string_view, 5> kSuggestions{
 /// The built-in matcher: looks for keywords anywhere in the question and always has an answer.
 [[nodiscard]] Answer fallback(std::string_view question, const AskContext& context);
 
-/// The scan as presented to the language model.
+/// The scan as presented to the language model, in English.
 [[nodiscard]] std::string contextText(const AskContext& context);
 
 /// The entries in the user's Downloads folder, each path once, largest first.

@@ -1,7 +1,7 @@
 #include "insight/AskEngine.h"
 
 #include "insight/AskText.h"
-#include "platform/text/ByteCount.h"
+#include "insight/InsightTexts.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/values/CheckedSum.h"
 
@@ -47,13 +47,12 @@ std::vector<SizedFinding> largestBy(std::int64_t (Finding::*size)() const,
     return sized;
 }
 
-std::string listed(const std::vector<SizedFinding>& findings)
+Several listed(const std::vector<SizedFinding>& findings)
 {
-    std::vector<std::string> parts;
-    parts.reserve(findings.size());
+    Several list{{}, Several::Joint::commas};
     for (const auto& [finding, bytes] : findings)
-        parts.push_back(AskText::sized(finding->title, bytes));
-    return AskText::joined(parts, ", ");
+        list.messages.push_back(AskText::sized(within(finding->title), bytes));
+    return list;
 }
 
 std::vector<std::string> idsOf(const std::vector<SizedFinding>& findings)
@@ -79,7 +78,7 @@ std::vector<std::string> idsOfHolding(const std::vector<Finding>& findings, Pred
 
 Answer noScan()
 {
-    return {std::string(AskText::kNoScan), {}};
+    return {InsightTexts::kNoScan, {}};
 }
 
 Answer aboutDownloads(const AskContext& context)
@@ -87,33 +86,34 @@ Answer aboutDownloads(const AskContext& context)
     constexpr std::size_t kShown = 6;
     const std::vector<FileEntry> items = downloadsItems(context.findings);
     if (items.empty())
-        return {"I didn't find anything in Downloads that looks worth removing. Items there are only listed "
-                "if they're old or duplicated.",
-                {}};
-    std::string text = "Downloads has " + std::to_string(items.size()) + " item" +
-                       (items.size() == 1 ? "" : "s") + " you haven't touched in over a month, about " +
-                       byteCount(sizeOf(items)) + ":\n";
+        return {InsightTexts::kNoDownloads, {}};
+    std::vector<Message> lines{
+        {InsightTexts::kDownloads, {{"count", std::ssize(items)}, {"size", Bytes{sizeOf(items)}}}}};
     for (std::size_t i = 0; i < std::min(items.size(), kShown); ++i)
-        text += "• " + AskText::fileName(items[i]) + " — " + byteCount(items[i].size) + '\n';
-    text += "Installers (.dmg, .pkg) are usually safe to remove; check the rest first.";
-    return {std::move(text), idsOfHolding(context.findings, [](const Finding&, const FileEntry& entry) {
+        lines.push_back({InsightTexts::kDownload,
+                         {{"name", AskText::fileName(items[i])}, {"size", Bytes{items[i].size}}}});
+    lines.emplace_back(InsightTexts::kInstallersFirst);
+    return {AskText::lines(std::move(lines)),
+            idsOfHolding(context.findings, [](const Finding& /*finding*/, const FileEntry& entry) {
                 return isInDownloads(entry.path);
             })};
 }
 
 Answer forecast(const AskContext& context)
 {
-    return {context.prediction.headline + ". " + context.prediction.detail, {}};
+    return {AskText::forecast(context.prediction), {}};
 }
 
 Answer largest(const AskContext& context)
 {
     constexpr std::size_t kNamed = 3;
-    const std::string categories = "By category: " + AskText::largestCategories(context.breakdown) + '.';
-    if (context.findings.empty())
-        return {categories + " Run a Smart Scan for a detailed breakdown.", {}};
+    const Message categories{InsightTexts::kByCategory,
+                             {{"categories", AskText::largestCategories(context.breakdown)}}};
     const auto findings = largestBy(&Finding::totalSize, context.findings, kNamed);
-    return {categories + " The largest findings are " + listed(findings) + '.', idsOf(findings)};
+    const Message rest = findings.empty()
+                             ? Message{InsightTexts::kScanForBreakdown}
+                             : Message{InsightTexts::kLargestFindings, {{"findings", listed(findings)}}};
+    return {AskText::sentences({categories, rest}), idsOf(findings)};
 }
 
 Answer safeToFree(const AskContext& context)
@@ -123,31 +123,25 @@ Answer safeToFree(const AskContext& context)
     for (const Finding& finding : context.findings)
         total = checkedAdd(total, finding.safeSize());
     if (total == 0)
-        return {"Nothing is rated Safe right now. Look at the Review items, remembering these ratings are "
-                "suggestions.",
-                {}};
+        return {InsightTexts::kNoSafeItems, {}};
     const auto findings = largestBy(&Finding::safeSize, context.findings, kNamed);
-    return {
-        "You could free about " + byteCount(total) + " from items rated Safe: " + listed(findings) +
-            ". Ratings are suggestions, so you can look at every file before anything moves to the Trash.",
-        idsOf(findings)};
+    return {Message{InsightTexts::kCouldFree, {{"size", Bytes{total}}, {"findings", listed(findings)}}},
+            idsOf(findings)};
 }
 
-/// Answers with one line per finding of these kinds.
-Reply topic(std::string_view title, const std::vector<FindingKind>& kinds)
+/// Answers with one line per finding of these kinds, or that there is none.
+Reply topic(const Text& nothing, const std::vector<FindingKind>& kinds)
 {
-    return [title, kinds](const AskContext& context) -> Answer {
+    return [nothing, kinds](const AskContext& context) -> Answer {
         Answer answer;
-        std::vector<std::string> lines;
+        std::vector<Message> lines;
         for (const Finding& finding : context.findings) {
             if (std::ranges::find(kinds, finding.kind) == kinds.end())
                 continue;
-            lines.push_back(finding.title + ": " + byteCount(finding.totalSize()) + " — rated " +
-                            std::string(label(finding.rating)) + ". " + finding.reason);
+            lines.push_back(AskText::rated(finding));
             answer.findingIDs.emplace_back(finding.id());
         }
-        answer.text = lines.empty() ? std::string(title) + ": I found nothing in the last scan."
-                                    : AskText::joined(lines, "\n");
+        answer.text = lines.empty() ? nothing : AskText::lines(std::move(lines));
         return answer;
     };
 }
@@ -159,29 +153,24 @@ bool isKept(const Finding& finding, const FileEntry& entry)
 
 Answer kept(const AskContext& context)
 {
-    constexpr std::size_t kNamed = 3;
-    std::size_t count = 0;
-    std::vector<std::string> names;
+    constexpr std::int64_t kNamed = 3;
+    std::int64_t count = 0;
+    Several names{{}, Several::Joint::commas};
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
             if (isKept(finding, entry) && ++count <= kNamed)
-                names.push_back(AskText::fileName(entry));
+                names.messages.push_back(Message::verbatim(AskText::fileName(entry)));
         }
     }
     if (count == 0)
-        return {"Nothing in the last scan is rated Keep. Keep means a name looks like an invoice, tax, "
-                "contract or similar paperwork, or a known system-sync location.",
-                {}};
-    return {std::to_string(count) + " item(s) are rated Keep, such as " + AskText::joined(names, ", ") +
-                ". Their names or locations suggest they matter.",
+        return {InsightTexts::kNothingKept, {}};
+    return {Message{InsightTexts::kKept, {{"count", count}, {"names", std::move(names)}}},
             idsOfHolding(context.findings, isKept)};
 }
 
 Answer help()
 {
-    return {"I can answer questions about your scan, for example “what is using the most space?”, “what can "
-            "I delete from my Downloads folder?”, “are there duplicates?” or “when will my disk be full?”.",
-            {}};
+    return {InsightTexts::kHelp, {}};
 }
 
 const std::vector<Intent>& intents()
@@ -195,26 +184,35 @@ const std::vector<Intent>& intents()
          Needs::nothing,
          largest},
         {{"safe", "free up", "delete", "clean", "remove", "get rid", "space"}, Needs::scan, safeToFree},
-        {{"duplicate", "same file", "copies"}, Needs::scan, topic("Duplicate files", {duplicates})},
+        {{"duplicate", "same file", "copies"},
+         Needs::scan,
+         topic(message("Duplicate files: I found nothing in the last scan."), {duplicates})},
         {{"screenshot", "photo", "picture", "image", "meme", "blur", "receipt"},
          Needs::scan,
-         topic("Photo clean-ups", {photoDuplicates, screenshots, receipts, memes, blurry})},
+         topic(message("Photo clean-ups: I found nothing in the last scan."),
+               {photoDuplicates, screenshots, receipts, memes, blurry})},
         {{"xcode", "developer", "derived", "simulator", "build", "code"},
          Needs::scan,
-         topic("Developer data",
+         topic(message("Developer data: I found nothing in the last scan."),
                {xcodeDerived, xcodeArchives, simulators, deviceSupport, homebrew, npm, pip, gradle})},
-        {{"cache"}, Needs::scan, topic("Caches", {caches})},
-        {{"log"}, Needs::scan, topic("Logs", {logs})},
+        {{"cache"}, Needs::scan, topic(message("Caches: I found nothing in the last scan."), {caches})},
+        {{"log"}, Needs::scan, topic(message("Logs: I found nothing in the last scan."), {logs})},
         {{"backup", "iphone", "ipad", "ios"},
          Needs::scan,
-         topic("Device backups", {iosBackups, softwareUpdates})},
-        {{"language", "translation"}, Needs::scan, topic("Language packs", {languagePacks})},
-        {{"large", "big file", "video", "movie"}, Needs::scan, topic("Large files", {largeFiles})},
+         topic(message("Device backups: I found nothing in the last scan."), {iosBackups, softwareUpdates})},
+        {{"language", "translation"},
+         Needs::scan,
+         topic(message("Language packs: I found nothing in the last scan."), {languagePacks})},
+        {{"large", "big file", "video", "movie"},
+         Needs::scan,
+         topic(message("Large files: I found nothing in the last scan."), {largeFiles})},
         {{"old", "unused", "not opened", "haven't"},
          Needs::scan,
-         topic("Old files", {oldFiles, oldDownloads})},
-        {{"trash", "bin"}, Needs::scan, topic("Trash", {trash})},
-        {{"mail", "attachment"}, Needs::scan, topic("Mail attachments", {mailDownloads})},
+         topic(message("Old files: I found nothing in the last scan."), {oldFiles, oldDownloads})},
+        {{"trash", "bin"}, Needs::scan, topic(message("Trash: I found nothing in the last scan."), {trash})},
+        {{"mail", "attachment"},
+         Needs::scan,
+         topic(message("Mail attachments: I found nothing in the last scan."), {mailDownloads})},
         {{"keep", "important", "why"}, Needs::scan, kept},
     };
     return inOrder;

@@ -1,6 +1,7 @@
 #include "insight/AskText.h"
 
-#include "platform/text/ByteCount.h"
+#include "insight/InsightTexts.h"
+#include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -9,42 +10,63 @@
 
 namespace orlen::AskText {
 
-std::string joined(const std::vector<std::string>& parts, std::string_view separator)
-{
-    std::string text;
-    for (const std::string& part : parts) {
-        if (&part != &parts.front())
-            text += separator;
-        text += part;
-    }
-    return text;
-}
-
 std::string fileName(const FileEntry& entry)
 {
     return PathText::forDisplay(PathText::lastComponent(entry.path));
 }
 
-std::string largestCategories(const StorageBreakdown& breakdown)
+Several largestCategories(const StorageBreakdown& breakdown)
 {
     constexpr std::size_t kNamed = 4;
     using Category = std::pair<OrlenCategory, std::int64_t>;
     std::vector<Category> categories(breakdown.cats.begin(), breakdown.cats.end());
     std::ranges::stable_sort(categories, std::greater{}, &Category::second);
-    std::vector<std::string> parts;
+    Several largest{{}, Several::Joint::commas};
     for (std::size_t i = 0; i < std::min(categories.size(), kNamed); ++i)
-        parts.push_back(sized(categories[i]));
-    return joined(parts, ", ");
+        largest.messages.push_back(sized(categories[i]));
+    return largest;
 }
 
-std::string sized(const std::pair<const OrlenCategory, std::int64_t>& category)
+Message sized(const std::pair<const OrlenCategory, std::int64_t>& category)
 {
-    return std::string(label(category.first)) + ' ' + byteCount(category.second);
+    return {InsightTexts::kCategory,
+            {{"category", within(label(category.first))}, {"size", Bytes{category.second}}}};
 }
 
-std::string sized(std::string_view name, std::int64_t bytes)
+Message sized(Value name, std::int64_t bytes)
 {
-    return std::string(name) + " (" + byteCount(bytes) + ')';
+    return {InsightTexts::kNamed, {{"name", std::move(name)}, {"size", Bytes{bytes}}}};
+}
+
+Message rated(const Finding& finding)
+{
+    return sentences({Message{InsightTexts::kRated.of(finding.rating),
+                              {{"title", within(finding.title)}, {"size", Bytes{finding.totalSize()}}}},
+                      finding.reason});
+}
+
+Message forecast(const Prediction& prediction)
+{
+    return {InsightTexts::kForecast,
+            {{"headline", within(prediction.headline)}, {"detail", within(prediction.detail)}}};
+}
+
+Message sentences(std::vector<Message> messages)
+{
+    return Message::joined(std::move(messages), Several::Joint::sentences);
+}
+
+Message lines(std::vector<Message> messages)
+{
+    return Message::joined(std::move(messages), Several::Joint::lines);
+}
+
+std::string plainWords(std::string_view question)
+{
+    std::string plain;
+    for (const std::string& word : LanguageTools::words(LanguageTools::lowerCase(question)))
+        plain += word + ' ';
+    return plain;
 }
 
 } // namespace orlen::AskText

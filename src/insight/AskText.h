@@ -1,6 +1,9 @@
 #pragma once
 
+#include "insight/Predictor.h"
 #include "model/FileEntry.h"
+#include "model/Finding.h"
+#include "model/Message.h"
 #include "model/OrlenCategory.h"
 #include "scan/StorageBreakdown.h"
 
@@ -10,25 +13,33 @@
 #include <utility>
 #include <vector>
 
-/// Text formatting shared by answers and the language model's view of the scan. Pure; any thread.
+/// What several answers say. Any thread.
 namespace orlen::AskText {
-
-/// For a question about findings before the first scan.
-inline constexpr std::string_view kNoScan =
-    "I don't have scan results yet. Run a Smart Scan from the Home screen and ask me again.";
-
-[[nodiscard]] std::string joined(const std::vector<std::string>& parts, std::string_view separator);
 
 /// The last path component on one line, since a file name may contain line breaks.
 [[nodiscard]] std::string fileName(const FileEntry& entry);
 
 /// The largest categories, at most 4: "Apps 12 GB, Media 3 GB".
-[[nodiscard]] std::string largestCategories(const StorageBreakdown& breakdown);
+[[nodiscard]] Several largestCategories(const StorageBreakdown& breakdown);
 
 /// "Apps 12 GB"
-[[nodiscard]] std::string sized(const std::pair<const OrlenCategory, std::int64_t>& category);
+[[nodiscard]] Message sized(const std::pair<const OrlenCategory, std::int64_t>& category);
 
 /// "name (12 GB)"
-[[nodiscard]] std::string sized(std::string_view name, std::int64_t bytes);
+[[nodiscard]] Message sized(Value name, std::int64_t bytes);
+
+/// "Log files: 12 MB — rated Safe." and the finding's reason.
+[[nodiscard]] Message rated(const Finding& finding);
+
+/// Headline and detail.
+[[nodiscard]] Message forecast(const Prediction& prediction);
+
+/// One behind the other.
+[[nodiscard]] Message sentences(std::vector<Message> messages);
+/// One below the other.
+[[nodiscard]] Message lines(std::vector<Message> messages);
+
+/// The words of a question in lower case, without punctuation.
+[[nodiscard]] std::string plainWords(std::string_view question);
 
 } // namespace orlen::AskText

@@ -13,13 +13,13 @@ namespace orlen {
 struct ChatMessage {
     Uuid id = Uuid::random();
     bool fromUser = false;
-    std::string text;
+    Message text;
     std::vector<std::string> findingIDs; ///< findings a reply links to
     bool usedModel = false;
 
     [[nodiscard]] static ChatMessage question(std::string text)
     {
-        return {Uuid::random(), true, std::move(text), {}, false};
+        return {Uuid::random(), true, Message::verbatim(std::move(text)), {}, false};
     }
     [[nodiscard]] static ChatMessage reply(Answer answer)
     {

@@ -1,6 +1,6 @@
 #include "insight/Predictor.h"
 
-#include "platform/text/ByteCount.h"
+#include "insight/InsightTexts.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -78,26 +78,24 @@ std::vector<std::pair<OrlenCategory, double>> growthPerCategory(std::span<const 
 
 void describeTooLittle(Prediction& prediction)
 {
-    prediction.headline = "Still learning your Mac";
-    prediction.detail =
-        "Orlen needs scans taken at least several hours apart (ideally days) to estimate growth. "
-        "Each Smart Scan adds a data point, stored only on this Mac.";
+    prediction.headline = InsightTexts::kStillLearning;
+    prediction.detail = InsightTexts::kTooFewScans;
 }
 
 void describeGrowth(Prediction& prediction, double bytesPerDay, std::int64_t free)
 {
     const double daysLeft = static_cast<double>(free) / bytesPerDay;
-    prediction.headline = "Disk nearly full in " + duration(daysLeft);
-    prediction.detail = "Used space is growing by about " + byteCount(checkedInteger(bytesPerDay)) +
-                        " per day, and " + byteCount(free) + " is free.";
+    prediction.headline = {InsightTexts::kNearlyFull, {{"time", within(duration(daysLeft))}}};
+    prediction.detail = {InsightTexts::kGrowing,
+                         {{"size", Bytes{checkedInteger(bytesPerDay)}}, {"free", Bytes{free}}}};
     prediction.daysLeft = daysLeft;
     prediction.warn = daysLeft < kWarningDays;
 }
 
-void describeStability(Prediction& prediction, std::size_t scans)
+void describeStability(Prediction& prediction, std::int64_t scans)
 {
-    prediction.headline = "Your free space is stable";
-    prediction.detail = "Based on " + std::to_string(scans) + " scans, used space isn't growing.";
+    prediction.headline = InsightTexts::kStable;
+    prediction.detail = {InsightTexts::kNotGrowing, {{"count", scans}}};
 }
 
 } // namespace
@@ -118,7 +116,7 @@ Prediction predict(std::vector<Snapshot> snapshots)
     if (bytesPerDay > kStableGrowth)
         describeGrowth(prediction, bytesPerDay, snapshots.back().free);
     else
-        describeStability(prediction, snapshots.size());
+        describeStability(prediction, std::ssize(snapshots));
     return prediction;
 }
 
@@ -141,20 +139,20 @@ double slope(std::span<const Point> points)
     return sxx == 0 ? 0 : sxy / sxx;
 }
 
-std::string duration(double days)
+Message duration(double days)
 {
-    const auto about = [](double number, const char* unit) {
-        return "about " + std::to_string(std::llround(number)) + unit;
+    const auto about = [](const Text& text, double number) {
+        return Message{text, {{"count", std::int64_t{std::llround(number)}}}};
     };
     if (days < 1)
-        return "less than a day";
+        return InsightTexts::kLessThanADay;
     if (days < 14)
-        return about(days, std::llround(days) == 1 ? " day" : " days");
+        return about(InsightTexts::kAboutDays, days);
     if (days < 60)
-        return about(days / 7, " weeks");
+        return about(InsightTexts::kAboutWeeks, days / 7);
     if (days < 730)
-        return about(days / 30, " months");
-    return "more than 2 years";
+        return about(InsightTexts::kAboutMonths, days / 30);
+    return InsightTexts::kMoreThanTwoYears;
 }
 
 } // namespace orlen::Predictor

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "clean/Snapshot.h"
+#include "model/Message.h"
 #include "model/OrlenCategory.h"
 
 #include <optional>
 #include <span>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -14,8 +14,8 @@ namespace orlen {
 /// A forecast of how used space grows.
 struct Prediction {
     bool enoughData = false; ///< false while the history is too short for an estimate
-    std::string headline;
-    std::string detail;
+    Message headline;
+    Message detail;
     bool warn = false;              ///< the disk is expected to be full within 60 days
     std::optional<double> daysLeft; ///< from the last scan until the disk is full; absent if it isn't growing
     std::vector<std::pair<OrlenCategory, double>> perCategory; ///< bytes per day, fastest first
@@ -38,7 +38,7 @@ struct Point {
 [[nodiscard]] double slope(std::span<const Point> points);
 
 /// A number of days in words, as in the headline.
-[[nodiscard]] std::string duration(double days);
+[[nodiscard]] Message duration(double days);
 
 } // namespace Predictor
 } // namespace orlen

@@ -32,6 +32,7 @@ struct Moment {
         day,     ///< short, in numbers
         longDay, ///< with the month's name, as in a sentence
         minute,  ///< day and time of day
+        year,    ///< the year alone
     };
 
     TimePoint value;

@@ -30,11 +30,11 @@ std::string joined(const Several& several, const Voice& voice)
     case Several::Joint::list:
         return voice.figures.list(parts);
     case Several::Joint::commas:
-        return joinedBy(parts, ", ");
+        return joinedBy(parts, voice.words(messageIn("between the items of a list", ", "), 1));
     case Several::Joint::facts:
         return joinedBy(parts, " · ");
     case Several::Joint::sentences:
-        return joinedBy(parts, " ");
+        return joinedBy(parts, voice.words(messageIn("between two sentences", " "), 1));
     case Several::Joint::lines:
         return joinedBy(parts, "\n");
     }
@@ -50,6 +50,8 @@ std::string written(const Moment& moment, const Figures& figures)
         return figures.longDate(moment.value);
     case Moment::Form::minute:
         return figures.dateAndTime(moment.value);
+    case Moment::Form::year:
+        return figures.year(moment.value);
     }
     return {};
 }

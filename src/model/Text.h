@@ -35,9 +35,9 @@ private:
     friend Text screenText(const std::string& context, const std::string& one, const std::string& many);
 
     // All end in a zero byte.
-    std::string_view m_context = "";
-    std::string_view m_one = "";
-    std::string_view m_many = "";
+    std::string_view m_context{"", 0};
+    std::string_view m_one{"", 0};
+    std::string_view m_many{"", 0};
 };
 
 /// A text, in which "{name}" stands for what `Message` puts there.

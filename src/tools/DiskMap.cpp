@@ -20,7 +20,6 @@ namespace orlen::DiskMap {
 namespace {
 
 constexpr std::size_t kMostNodes = 60;
-constexpr std::string_view kSmallerItems = " smaller items";
 
 /// Adds up what is below each child of the one root. The whole map is a single scan, so that a child that is
 /// a mounted server is known and skipped untouched, and a hundred thousand children cost no more than their
@@ -103,7 +102,8 @@ bool comesBefore(const TreeNode& a, const TreeNode& b)
 
 TreeNode groupOf(std::span<const TreeNode> leftOut, const std::string& folder)
 {
-    TreeNode group{std::to_string(leftOut.size()).append(kSmallerItems), folder, 0, false, true};
+    TreeNode group{{}, folder, 0, false, true, static_cast<std::int64_t>(leftOut.size())};
+    group.name = group.title().base();
     for (const TreeNode& node : leftOut)
         group.size = cappedAdd(group.size, node.size);
     return group;

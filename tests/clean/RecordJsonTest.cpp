@@ -72,8 +72,12 @@ TEST(RecordJsonTest, anEntryHasOnlyTheOptionalKeysItNeeds)
 {
     FileEntry entry{"/a", 5, {}, {}, {}, {}};
     EXPECT_EQ(RecordJson::encode(entry).dump(), R"({"path":"/a","size":5})");
-    entry = {"/a",         5,  timeFromIso("2025-03-01T09:30:00Z"), timeFromIso("2025-03-02T09:30:00Z"),
-             Rating::keep, "N"};
+    entry = {"/a",
+             5,
+             timeFromIso("2025-03-01T09:30:00Z"),
+             timeFromIso("2025-03-02T09:30:00Z"),
+             Rating::keep,
+             {Message::verbatim("N")}};
     EXPECT_EQ(
         RecordJson::encode(entry).dump(),
         R"({"path":"/a","size":5,"modified":"2025-03-01T09:30:00Z","lastOpened":"2025-03-02T09:30:00Z",)"

@@ -233,7 +233,8 @@ TEST_F(SafetyTest, everyProtectedPathHasAReason)
     }
     EXPECT_EQ(Safety::protection("relative"), Protection::unclearPath);
     for (const Protection protection : allProtections())
-        EXPECT_TRUE(!label(protection).empty() && reason(protection).ends_with('.')) << label(protection);
+        EXPECT_TRUE(!label(protection).empty() && reason(protection).base().ends_with('.'))
+            << label(protection).base();
     EXPECT_EQ(allProtections().size(), static_cast<std::size_t>(Protection::unclearPath));
 }
 

@@ -53,7 +53,7 @@ ScanOfHome::ScanOfHome(const Results& results, std::string home) : m_home(std::m
         for (const FileEntry& entry : finding.items)
             m_listings.emplace(entry.path,
                                Listing{finding.kind, finding.effectiveRating(entry),
-                                       results.selection().contains(entry.path), entry.note.value_or("")});
+                                       results.selection().contains(entry.path), noteOf(entry).base()});
     }
 }
 

@@ -1,5 +1,7 @@
 #include "insight/AskEngine.h"
 #include "insight/ChatMessage.h"
+#include "model/Words.h"
+#include "support/Command.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -27,15 +29,15 @@ Finding finding(FindingKind kind, Rating rating, std::vector<FileEntry> items)
 {
     Finding made(kind, std::move(items));
     made.rating = rating;
-    made.reason = "Reason.";
+    made.reason = message("Reason.");
     return made;
 }
 
 AskContext unscanned()
 {
     AskContext context;
-    context.prediction.headline = "Headline";
-    context.prediction.detail = "Detail.";
+    context.prediction.headline = message("Headline");
+    context.prediction.detail = message("Detail.");
     return context;
 }
 
@@ -47,6 +49,18 @@ AskContext everything()
         context.findings.push_back(
             finding(kind, Rating::safe, {entry("/x/" + std::string(rawValue(kind)), kMB)}));
     return context;
+}
+
+/// What the program says in English, with links.
+Answer says(std::string text, std::vector<std::string> findingIDs = {})
+{
+    return {Message::verbatim(std::move(text)), std::move(findingIDs)};
+}
+
+Answer inEnglish(Answer answer)
+{
+    answer.text = Message::verbatim(answer.text.base());
+    return answer;
 }
 
 /// Answers as it is told to and keeps what it was asked.
@@ -121,7 +135,7 @@ TEST_F(AskEngineTest, theFirstIntentWithAWordInTheQuestionAnswers)
     const AskContext context = everything();
     for (const Case& c : cases) {
         const Answer answer = AskEngine::fallback(c.question, context);
-        EXPECT_THAT(answer.text, StartsWith(c.start)) << c.question;
+        EXPECT_THAT(answer.text.base(), StartsWith(c.start)) << c.question;
         EXPECT_FALSE(answer.usedModel);
     }
 }
@@ -152,7 +166,7 @@ TEST_F(AskEngineTest, beforeTheFirstScanOnlySomeQuestionsHaveAnAnswer)
                               {OrlenCategory::photos, -1},
                               {OrlenCategory::media, 4 * kGB}};
     for (const Case& c : cases)
-        EXPECT_EQ(AskEngine::fallback(c.question, context), (Answer{c.text, {}, false})) << c.question;
+        EXPECT_EQ(inEnglish(AskEngine::fallback(c.question, context)), says(c.text)) << c.question;
 }
 
 TEST_F(AskEngineTest, downloadsAreListedOnceLargestFirst)
@@ -164,23 +178,25 @@ TEST_F(AskEngineTest, downloadsAreListedOnceLargestFirst)
                                 {download("b.iso", 5 * kMB), entry(home.path("Downloads2/x"), kMB),
                                  entry(home.path("Docs/Downloads/x"), kMB)})};
     Answer answer = AskEngine::fallback("downloads", context);
-    EXPECT_EQ(answer.text, "Downloads has 1 item you haven't touched in over a month, about 5 MB:\n"
-                           "• b.iso — 5 MB\n"
-                           "Installers (.dmg, .pkg) are usually safe to remove; check the rest first.");
+    EXPECT_EQ(answer.text.base(),
+              "Downloads has 1 item you haven't touched in over a month, about 5 MB:\n"
+              "• b.iso — 5 MB\n"
+              "Installers (.dmg, .pkg) are usually safe to remove; check the rest first.");
     EXPECT_THAT(answer.findingIDs, ElementsAre("oldDownloads", "duplicates"));
 
     std::vector<FileEntry>& items = context.findings[1].items;
     for (const char* name : {"1", "2", "3", "4", "5\n• fake"})
         items.push_back(download(name, 7 * kMB));
     answer = AskEngine::fallback("downloads", context);
-    EXPECT_THAT(answer.text,
+    EXPECT_THAT(answer.text.base(),
                 HasSubstr("has 6 items you haven't touched in over a month, about 40 MB:\n• 1 — 7"));
-    EXPECT_THAT(answer.text, HasSubstr("• 5?• fake — 7 MB\n• b.iso — 5 MB\nInstallers"));
+    EXPECT_THAT(answer.text.base(), HasSubstr("• 5?• fake — 7 MB\n• b.iso — 5 MB\nInstallers"));
 
     items.push_back(download("6", 6 * kMB));
     answer = AskEngine::fallback("downloads", context);
-    EXPECT_THAT(answer.text, HasSubstr("has 7 items you haven't touched in over a month, about 46 MB:"));
-    EXPECT_THAT(answer.text, HasSubstr("• 6 — 6 MB\nInstallers"));
+    EXPECT_THAT(answer.text.base(),
+                HasSubstr("has 7 items you haven't touched in over a month, about 46 MB:"));
+    EXPECT_THAT(answer.text.base(), HasSubstr("• 6 — 6 MB\nInstallers"));
 }
 
 TEST_F(AskEngineTest, theDownloadsFolderOfTheSettingsCountsAsWell)
@@ -203,11 +219,10 @@ TEST_F(AskEngineTest, theLargestFindingsAreNamed)
                         finding(FindingKind::logs, Rating::safe, {entry("/b", 2 * kMB)}),
                         finding(FindingKind::trash, Rating::review, {entry("/c", kMB), entry("/d", 2 * kMB)}),
                         finding(FindingKind::largeFiles, Rating::review, {entry("/e", kMB)})};
-    EXPECT_EQ(
-        AskEngine::fallback("most", context),
-        (Answer{"By category: Documents 12 GB. The largest findings are Trash (3 MB), Log files (2 MB), "
-                "App caches (1 MB).",
-                {"trash", "logs", "caches"}}));
+    EXPECT_EQ(inEnglish(AskEngine::fallback("most", context)),
+              says("By category: Documents 12 GB. The largest findings are Trash (3 MB), Log files (2 MB), "
+                   "App caches (1 MB).",
+                   {"trash", "logs", "caches"}));
 }
 
 TEST_F(AskEngineTest, safeBytesAreThoseOfTheSafeEntriesOnly)
@@ -217,25 +232,25 @@ TEST_F(AskEngineTest, safeBytesAreThoseOfTheSafeEntriesOnly)
         finding(FindingKind::trash, Rating::safe, {entry("/t", kGB)}),
         finding(FindingKind::caches, Rating::safe, {entry("/a", 8 * kMB, Rating::review)}),
     };
-    EXPECT_THAT(AskEngine::fallback("clean", context).text,
+    EXPECT_THAT(AskEngine::fallback("clean", context).text.base(),
                 StartsWith("Nothing is rated Safe right now. Look"));
 
     context.findings[1].items.push_back(entry("/b", kMB));
     for (const FindingKind kind : {FindingKind::logs, FindingKind::npm, FindingKind::pip})
         context.findings.push_back(finding(kind, Rating::review, {entry("/c", 2 * kMB, Rating::safe)}));
-    EXPECT_EQ(
-        AskEngine::fallback("clean", context),
-        (Answer{"You could free about 7 MB from items rated Safe: Log files (2 MB), npm & Yarn cache (2 "
-                "MB), pip cache (2 MB), App caches (1 MB). Ratings are suggestions, so you can look at "
-                "every file before anything moves to the Trash.",
-                {"logs", "npm", "pip", "caches"}}));
+    EXPECT_EQ(inEnglish(AskEngine::fallback("clean", context)),
+              says("You could free about 7 MB from items rated Safe: Log files (2 MB), npm & Yarn cache (2 "
+                   "MB), pip cache (2 MB), App caches (1 MB). Ratings are suggestions, so you can look at "
+                   "every file before anything moves to the Trash.",
+                   {"logs", "npm", "pip", "caches"}));
 }
 
 TEST_F(AskEngineTest, aTopicWithoutFindingsSaysSo)
 {
     AskContext context = everything();
     std::erase_if(context.findings, [](const Finding& each) { return each.kind == FindingKind::logs; });
-    EXPECT_EQ(AskEngine::fallback("logs", context), (Answer{"Logs: I found nothing in the last scan.", {}}));
+    EXPECT_EQ(inEnglish(AskEngine::fallback("logs", context)),
+              says("Logs: I found nothing in the last scan."));
     EXPECT_THAT(AskEngine::fallback("photo", context).findingIDs,
                 ElementsAre("photoDuplicates", "screenshots", "receipts", "memes", "blurry"));
     EXPECT_THAT(AskEngine::fallback("code", context).findingIDs,
@@ -250,11 +265,10 @@ TEST_F(AskEngineTest, keptEntriesAreCountedAndThreeNamed)
         context.findings[3].items.push_back(entry(name, 1, Rating::keep));
     for (const char* name : {"/p/cv.pdf", "/p/other.pdf"})
         context.findings[5].items.push_back(entry(name, 1, Rating::keep));
-    EXPECT_EQ(
-        AskEngine::fallback("what is important", context),
-        (Answer{"4 item(s) are rated Keep, such as tax.pdf, lease.pdf, cv.pdf. Their names or locations "
-                "suggest they matter.",
-                {"softwareUpdates", "xcodeArchives"}}));
+    EXPECT_EQ(inEnglish(AskEngine::fallback("what is important", context)),
+              says("4 item(s) are rated Keep, such as tax.pdf, lease.pdf, cv.pdf. Their names or locations "
+                   "suggest they matter.",
+                   {"softwareUpdates", "xcodeArchives"}));
 }
 
 TEST_F(AskEngineTest, theModelSeesThisMuchOfTheScan)
@@ -279,13 +293,14 @@ TEST_F(AskEngineTest, anAvailableModelWritesTheText)
     const AskContext context = everything();
     const std::string question = "Where are my LOGS?";
     const FakeModel model(true, "In a forest.");
-    EXPECT_EQ(AskEngine::answer(question, context, model), (Answer{"In a forest.", {"logs"}, true}));
+    EXPECT_EQ(AskEngine::answer(question, context, model),
+              (Answer{Message::verbatim("In a forest."), {"logs"}, true}));
     ASSERT_EQ(model.asked.size(), 1U);
     EXPECT_THAT(model.asked[0].first,
                 StartsWith("You are Orlen, a careful Mac storage assistant. Answer using"));
     EXPECT_EQ(model.asked[0].second,
               "Scan data:\n" + AskEngine::contextText(context) + "\n\nQuestion: " + question);
-    EXPECT_THAT(AskEngine::introduction(model), HasSubstr("language model"));
+    EXPECT_THAT(AskEngine::introduction(model).base(), HasSubstr("language model"));
 }
 
 TEST_F(AskEngineTest, withoutAModelOrItsReplyTheMatcherAnswers)
@@ -299,14 +314,33 @@ TEST_F(AskEngineTest, withoutAModelOrItsReplyTheMatcherAnswers)
     EXPECT_EQ(AskEngine::answer("logs", context, failing), matched);
     EXPECT_EQ(failing.asked.size(), 1U);
     EXPECT_EQ(AskEngine::answer("logs", context), matched);
-    EXPECT_THAT(AskEngine::introduction(), HasSubstr("built-in on-device matcher"));
+    EXPECT_THAT(AskEngine::introduction().base(), HasSubstr("built-in on-device matcher"));
+}
+
+TEST_F(AskEngineTest, suggestedQuestionsAreUnderstoodInThePersonsLanguage)
+{
+    const std::string catalogue = home.path("words/de/LC_MESSAGES/orlen.mo");
+    home.folder("words/de/LC_MESSAGES");
+    const std::string source =
+        home.file("de.po", "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                           "msgid \"When will my disk be full?\"\nmsgstr \"Wann ist die Platte voll?\"\n");
+    ASSERT_EQ(runCommand({"msgfmt", "-o", catalogue, source}).status, 0);
+    const std::string german[] = {"de"};
+    Words::use(german, home.path("words"));
+    const AskContext context = everything();
+    const Answer english = AskEngine::answer("When will my disk be full?", context);
+    EXPECT_EQ(AskEngine::answer("Wann ist die Platte voll?", context), english);
+    EXPECT_EQ(AskEngine::answer(" wann ist die platte voll", context), english);
+    EXPECT_NE(AskEngine::answer("Wann ist die Platte leer?", context), english);
+    EXPECT_NE(AskEngine::answer("???", context), english);
+    Words::use({}, {});
 }
 
 TEST_F(AskEngineTest, aReplyIsAMessageOfItsOwn)
 {
-    const ChatMessage reply = ChatMessage::reply({"Text.", {"logs"}, true});
+    const ChatMessage reply = ChatMessage::reply({message("Text."), {"logs"}, true});
     EXPECT_FALSE(reply.fromUser);
-    EXPECT_EQ(reply.text, "Text.");
+    EXPECT_EQ(reply.text, message("Text."));
     EXPECT_THAT(reply.findingIDs, ElementsAre("logs"));
     EXPECT_TRUE(reply.usedModel);
     EXPECT_TRUE(ChatMessage::question("?").fromUser);

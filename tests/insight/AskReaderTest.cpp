@@ -50,8 +50,8 @@ protected:
             {OrlenCategory::documents, home.path("Downloads"), 12 * kBytesInGB, {}},
             {OrlenCategory::documents, home.path("Downloads/Torrents"), 3 * kBytesInGB, {}}};
         context.prediction = {true,
-                              "Disk nearly full in about 3 months",
-                              "Growing by 1 GB per day.",
+                              message("Disk nearly full in about 3 months"),
+                              message("Growing by 1 GB per day."),
                               false,
                               90.0,
                               {{OrlenCategory::media, 8e8}},
@@ -69,7 +69,7 @@ protected:
         };
     }
 
-    void add(FindingKind kind, Rating rating, const std::string& reason, std::vector<FileEntry> items)
+    void add(FindingKind kind, Rating rating, const Text& reason, std::vector<FileEntry> items)
     {
         Finding finding(kind, std::move(items));
         finding.rating = rating;
@@ -86,27 +86,27 @@ protected:
 
     void addFindings()
     {
-        add(FindingKind::caches, Rating::safe, "Apps make them again.",
+        add(FindingKind::caches, Rating::safe, message("Apps make them again."),
             {entry(".cache/slack", 3 * kBytesInGB), entry(".cache/mozilla", kBytesInGB)});
-        add(FindingKind::logs, Rating::safe, "Only for troubleshooting.",
+        add(FindingKind::logs, Rating::safe, message("Only for troubleshooting."),
             {entry(".local/app.log", 20 * kBytesInMB)});
-        add(FindingKind::largeFiles, Rating::review, "Large but maybe wanted.",
+        add(FindingKind::largeFiles, Rating::review, message("Large but maybe wanted."),
             {entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05"),
              entry("Videos/holiday.mkv", 4 * kBytesInGB, "2025-07-01"),
              entry("Videos/Projects/cut.mov", 2 * kBytesInGB, "2022-02-02"),
              entry("Downloads/debian.iso", 3 * kBytesInGB, "2023-01-05")});
-        add(FindingKind::oldFiles, Rating::review, "Not opened for long.",
+        add(FindingKind::oldFiles, Rating::review, message("Not opened for long."),
             {entry("Documents/contract-2021.docx", 2 * kBytesInMB, "2021-08-08", Rating::keep),
              entry("Documents/report.pdf", 5 * kBytesInMB, "2022-01-01"),
              entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05")});
-        add(FindingKind::oldDownloads, Rating::review, "Lying around.",
+        add(FindingKind::oldDownloads, Rating::review, message("Lying around."),
             {entry("Downloads/report-final.pdf", 7 * kBytesInMB, "2025-12-24"),
              entry("Downloads/setup.deb", 80 * kBytesInMB, "2025-11-11")});
-        add(FindingKind::duplicates, Rating::safe, "A copy stays.",
+        add(FindingKind::duplicates, Rating::safe, message("A copy stays."),
             {entry("Music/a (1).flac", 40 * kBytesInMB)});
-        add(FindingKind::photoDuplicates, Rating::review, "Similar shots.",
+        add(FindingKind::photoDuplicates, Rating::review, message("Similar shots."),
             {entry("Pictures/sea2.jpg", 6 * kBytesInMB), entry("Pictures/sea3.jpg", 5 * kBytesInMB)});
-        add(FindingKind::screenshots, Rating::review, "Screen captures.",
+        add(FindingKind::screenshots, Rating::review, message("Screen captures."),
             {entry("Pictures/Screenshot 1.png", 2 * kBytesInMB)});
     }
 
@@ -278,10 +278,11 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
             SCOPED_TRACE(row.question);
             const Answer answer = AskEngine::answer(row.question, context);
             EXPECT_FALSE(answer.usedModel);
+            const std::string text = answer.text.base();
             for (const std::string& part : parts(row.must))
-                EXPECT_THAT(answer.text, HasSubstr(part));
+                EXPECT_THAT(text, HasSubstr(part));
             for (const std::string& part : parts(row.mustNot))
-                EXPECT_THAT(answer.text, Not(HasSubstr(part)));
+                EXPECT_THAT(text, Not(HasSubstr(part)));
         }
     }
 }
@@ -310,10 +311,16 @@ TEST_F(AskReaderTest, hostileTextGetsAnAnswerAndStaysOnItsLine)
         "what is ~",
     };
     for (const std::string& question : names)
-        EXPECT_FALSE(AskEngine::answer(question, context).text.empty()) << question.substr(0, 50);
+        EXPECT_FALSE(AskEngine::answer(question, context).text.base().empty()) << question.substr(0, 50);
 
-    add(FindingKind::memes, Rating::review, "Reason.", {entry("Pictures/evil\n• fake.png", 1)});
-    EXPECT_THAT(AskEngine::answer("what is evil", context).text, HasSubstr("evil?• fake.png (1 byte)"));
+    add(FindingKind::memes, Rating::review, message("Reason."), {entry("Pictures/evil\n• fake.png", 1)});
+    EXPECT_THAT(AskEngine::answer("what is evil", context).text.base(),
+                HasSubstr("evil?• fake.png (1 byte)"));
+    FileEntry copy = entry("Pictures/copy.png", 1);
+    copy.notes = {message("First"), {message("Identical to {name}"), {{"name", "a\n• b.png"}}}};
+    add(FindingKind::duplicates, Rating::safe, message("Reason."), {copy});
+    EXPECT_THAT(AskEngine::answer("what is copy.png", context).text.base(),
+                HasSubstr("is rated Safe (First · Identical to a?• b.png). Reason."));
 }
 
 TEST_F(AskReaderTest, namesLinkToTheirFindings)
@@ -326,9 +333,11 @@ TEST_F(AskReaderTest, withoutAScanNothingIsInvented)
 {
     context = {};
     for (const char* question : {"five biggest videos", "free 5 GB", "how many duplicates are there"})
-        EXPECT_THAT(AskEngine::answer(question, context).text, HasSubstr("scan results yet")) << question;
-    EXPECT_THAT(AskEngine::answer("how do I undo", context).text, HasSubstr("hasn't been a clean-up"));
-    EXPECT_THAT(AskEngine::answer("how much space is left", context).text, Not(HasSubstr("is free of")));
+        EXPECT_THAT(AskEngine::answer(question, context).text.base(), HasSubstr("scan results yet"))
+            << question;
+    EXPECT_THAT(AskEngine::answer("how do I undo", context).text.base(), HasSubstr("hasn't been a clean-up"));
+    EXPECT_THAT(AskEngine::answer("how much space is left", context).text.base(),
+                Not(HasSubstr("is free of")));
 }
 
 } // namespace orlen

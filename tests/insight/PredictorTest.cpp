@@ -41,7 +41,7 @@ TEST(PredictorTest, tooShortAHistoryIsStillLearned)
         SCOPED_TRACE(c.name);
         const Prediction prediction = Predictor::predict(c.snapshots);
         EXPECT_EQ(prediction.enoughData, c.isEnough);
-        EXPECT_EQ(prediction.headline == "Still learning your Mac", !c.isEnough);
+        EXPECT_EQ(prediction.headline.base() == "Still learning your Mac", !c.isEnough);
         EXPECT_EQ(prediction.freeSeries.size(), c.snapshots.size());
         EXPECT_FALSE(prediction.warn);
     }
@@ -86,8 +86,8 @@ TEST(PredictorTest, verdictGoesByGrowthAndFreeSpace)
         const Prediction prediction =
             Predictor::predict({snapshot(0h, c.freeAtLast + 2 * c.perDay),
                                 snapshot(24h, c.freeAtLast + c.perDay), snapshot(48h, c.freeAtLast)});
-        EXPECT_EQ(prediction.headline, c.headline);
-        EXPECT_EQ(prediction.detail, c.detail);
+        EXPECT_EQ(prediction.headline.base(), c.headline);
+        EXPECT_EQ(prediction.detail.base(), c.detail);
         EXPECT_EQ(prediction.warn, c.warn);
         EXPECT_TRUE(prediction.enoughData);
     }
@@ -112,7 +112,7 @@ TEST(PredictorTest, datesCenturiesApartDoNotOverflow)
 {
     const Prediction prediction =
         Predictor::predict({{TimePoint::min(), 5, 10, {}}, {TimePoint::max(), 5, 10, {}}});
-    EXPECT_EQ(prediction.headline, "Your free space is stable");
+    EXPECT_EQ(prediction.headline.base(), "Your free space is stable");
 }
 
 TEST(PredictorDeathTest, usedSpaceThatDoesNotFitStopsTheProgram)
@@ -149,7 +149,7 @@ TEST(PredictorTest, durationIsSaidInRoundWords)
         {800, "more than 2 years"}, {std::numeric_limits<double>::infinity(), "more than 2 years"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(Predictor::duration(c.days), c.words) << c.days;
+        EXPECT_EQ(Predictor::duration(c.days).base(), c.words) << c.days;
 }
 
 } // namespace

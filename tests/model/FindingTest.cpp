@@ -30,9 +30,9 @@ TEST(FindingTest, startsAsReviewWithTheTextsOfItsKind)
 {
     const Finding finding(FindingKind::npm, {});
     EXPECT_EQ(finding.rating, Rating::review);
-    EXPECT_EQ(finding.reason, "");
+    EXPECT_TRUE(finding.reason.empty());
     EXPECT_EQ(finding.id(), "npm");
-    EXPECT_EQ(finding.title, "npm & Yarn cache");
+    EXPECT_EQ(finding.title.base(), "npm & Yarn cache");
     EXPECT_EQ(finding.category, OrlenCategory::developer);
     EXPECT_EQ(finding.totalSize(), 0);
     EXPECT_EQ(finding.safeSize(), 0);

@@ -7,12 +7,12 @@
 namespace orlen {
 namespace {
 
-FileEntry entry(std::string path, std::optional<std::string> note = std::nullopt)
+FileEntry entry(std::string path, const std::string& note = {})
 {
     FileEntry made;
     made.path = std::move(path);
     made.size = 1;
-    made.note = std::move(note);
+    addNote(made, Message::verbatim(note));
     return made;
 }
 
@@ -30,9 +30,9 @@ TEST(RaterTest, entryIsRatedByTheFirstRuleThatApplies)
         const char* name;
         FindingKind kind;
         const char* path;
-        std::optional<std::string> earlierNote;
+        std::string earlierNote;
         std::optional<Rating> rating;
-        std::optional<std::string> note;
+        std::string note;
     };
     using enum FindingKind;
     const std::string sync = "Used for iCloud sync. Removing it can force a slow re-sync.";
@@ -65,7 +65,7 @@ TEST(RaterTest, entryIsRatedByTheFirstRuleThatApplies)
         SCOPED_TRACE(c.name);
         const Finding finding = rated(c.kind, {entry(c.path, c.earlierNote)});
         EXPECT_EQ(finding.items.front().rating, c.rating);
-        EXPECT_EQ(finding.items.front().note, c.note);
+        EXPECT_EQ(noteOf(finding.items.front()).base(), c.note);
     }
 }
 
@@ -76,7 +76,7 @@ TEST(RaterTest, scannersRatingIsNeverMadeLessCareful)
         tagged.rating = Rating::review;
         const FileEntry result = rated(FindingKind::caches, {tagged}).items.front();
         EXPECT_EQ(result.rating, Rating::review) << path;
-        EXPECT_TRUE(result.note->starts_with("Marked as a cache")) << path;
+        EXPECT_TRUE(noteOf(result).base().starts_with("Marked as a cache")) << path;
     }
 }
 
@@ -85,11 +85,11 @@ TEST(RaterTest, findingOfKeptEntriesIsKept)
     const FileEntry bird = entry("/Library/Caches/com.apple.bird/a");
     const Finding kept = rated(FindingKind::caches, {bird, entry("/Library/Caches/CloudKit")});
     EXPECT_EQ(kept.rating, Rating::keep);
-    EXPECT_EQ(kept.reason, "Every item here looks important.");
+    EXPECT_EQ(kept.reason.base(), "Every item here looks important.");
 
     const Finding mixed = rated(FindingKind::caches, {bird, entry("/Library/Caches/other")});
     EXPECT_EQ(mixed.rating, Rating::safe);
-    EXPECT_TRUE(mixed.reason.starts_with("Apps rebuild their caches"));
+    EXPECT_TRUE(mixed.reason.base().starts_with("Apps rebuild their caches"));
 
     const Finding empty = rated(FindingKind::caches, {});
     EXPECT_EQ(empty.rating, Rating::safe);
@@ -108,7 +108,7 @@ TEST(RaterTest, listKeepsItsLengthOrderAndOtherFields)
         SCOPED_TRACE(findings[i].id());
         EXPECT_NE(result[i].rating, Rating::keep);
         EXPECT_FALSE(result[i].reason.empty());
-        EXPECT_NE(result[i].reason, "Check before cleaning.");
+        EXPECT_NE(result[i].reason.base(), "Check before cleaning.");
         findings[i].rating = result[i].rating;
         findings[i].reason = result[i].reason;
         EXPECT_EQ(result[i], findings[i]);

@@ -30,14 +30,14 @@ TEST(RawValuesTest, textThatNamesNoCaseGivesNothing)
 TEST(RawValuesTest, catalogueRowsBelongToTheirKinds)
 {
     // One kind of each category, so that a row that slipped shows.
-    EXPECT_EQ(meta(FindingKind::caches).title, "App caches");
+    EXPECT_EQ(meta(FindingKind::caches).title.base(), "App caches");
     EXPECT_EQ(meta(FindingKind::logs).category, OrlenCategory::system);
     EXPECT_EQ(meta(FindingKind::gradle).category, OrlenCategory::developer);
     EXPECT_EQ(meta(FindingKind::languagePacks).category, OrlenCategory::apps);
     EXPECT_EQ(meta(FindingKind::oldFiles).symbol, "clock.fill");
     EXPECT_EQ(meta(FindingKind::blurry).category, OrlenCategory::photos);
     for (const FindingKind kind : allKinds()) {
-        EXPECT_TRUE(meta(kind).explanation.ends_with('.')) << rawValue(kind);
+        EXPECT_TRUE(meta(kind).explanation.base().ends_with('.')) << rawValue(kind);
         EXPECT_FALSE(meta(kind).symbol.empty()) << rawValue(kind);
     }
 }

@@ -20,11 +20,16 @@ TEST(FSTest, entryHasSizeDateAndNote)
     const std::string path = home.fileOfSize("a", 4096);
     const TimePoint time = TimePoint(std::chrono::sys_days(std::chrono::year(2024) / 2 / 3)) + 4h;
     TempHome::setTimes(path, time, time);
-    const FileEntry entry = FS::entry(path, "a note");
-    EXPECT_EQ(entry, (FileEntry{path, 4096, time, std::nullopt, std::nullopt, "a note",
+    const FileEntry entry = FS::entry(path, {Message::verbatim("a note")});
+    EXPECT_EQ(entry, (FileEntry{path,
+                                4096,
+                                time,
+                                std::nullopt,
+                                std::nullopt,
+                                {Message::verbatim("a note")},
                                 FileStamp::of(statusOf(path).value())}));
-    EXPECT_EQ(FS::entry(home.path("missing"), "").modified, std::nullopt);
-    EXPECT_EQ(FS::entry(path, "").note, std::nullopt);
+    EXPECT_EQ(FS::entry(home.path("missing"), {}).modified, std::nullopt);
+    EXPECT_TRUE(FS::entry(path, {}).notes.empty());
 }
 
 TEST(FSTest, aFolderThatFreesNoticeablyLessThanItHoldsSaysSo)
@@ -40,13 +45,13 @@ TEST(FSTest, aFolderThatFreesNoticeablyLessThanItHoldsSaysSo)
                          home.path(std::string("project/") + folder).c_str()),
                   0);
     const std::vector<std::string> paths{home.path("most"), home.path("some"), home.path("some/linked")};
-    const std::vector<FileEntry> entries = FS::entries(paths, "a note");
+    const std::vector<FileEntry> entries = FS::entries(paths, {Message::verbatim("a note")});
     EXPECT_EQ(entries[0].size, 1'003'520);
-    EXPECT_EQ(entries[0].note, "a note") << "a tenth less is not worth a word";
+    EXPECT_EQ(noteOf(entries[0]).base(), "a note") << "a tenth less is not worth a word";
     EXPECT_EQ(entries[1].size, 1'003'520);
-    EXPECT_EQ(entries[1].note, "a note · Frees 1 MB: the rest is linked into projects");
+    EXPECT_EQ(noteOf(entries[1]).base(), "a note · Frees 1 MB: the rest is linked into projects");
     EXPECT_EQ(entries[2].size, 0);
-    EXPECT_EQ(entries[2].note, "a note · Frees nothing: the file has another name elsewhere");
+    EXPECT_EQ(noteOf(entries[2]).base(), "a note · Frees nothing: the file has another name elsewhere");
 }
 
 TEST(FSTest, lastOpenedIsTheLaterOfAccessAndVisit)

@@ -30,7 +30,7 @@ TEST(ScanEngineTest, emptyHomeYieldsNothingAndAllStepsEndDone)
     ScanEngine engine({500'000'000});
     EXPECT_TRUE(engine.run().empty());
     for (const ScanStep& step : engine.progress().steps())
-        EXPECT_EQ(step.state, StepState::done) << label(step.kind);
+        EXPECT_EQ(step.state, StepState::done) << label(step.kind).base();
 }
 
 TEST(ScanEngineTest, findingsOfOneKindAreOneFinding)

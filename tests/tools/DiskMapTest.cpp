@@ -76,7 +76,8 @@ TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)
             EXPECT_EQ(nodes[static_cast<std::size_t>(i)].name, numbered(i));
         if (count > 60) {
             const std::string name = std::to_string(count - 60) + " smaller items";
-            EXPECT_EQ(nodes.back(), (TreeNode{name, home.path("map"), kKiB * 4 * (count - 60), false, true}));
+            EXPECT_EQ(nodes.back(),
+                      (TreeNode{name, home.path("map"), kKiB * 4 * (count - 60), false, true, count - 60}));
         }
     }
 }
@@ -92,7 +93,7 @@ TEST(DiskMapTest, namesThatAreNotUtf8AreMeasuredButNotOffered)
     EXPECT_THAT(DiskMap::children(map),
                 ElementsAre(TreeNode{"outer", map + "/outer", 12 * kKiB, true, false},
                             TreeNode{"café", map + "/café", 4 * kKiB, false, false},
-                            TreeNode{"2 smaller items", map, 88 * kKiB, false, true}));
+                            TreeNode{"2 smaller items", map, 88 * kKiB, false, true, 2}));
 }
 
 TEST(DiskMapTest, whatIsNoReadableFolderHasNoChildren)

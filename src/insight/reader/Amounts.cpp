@@ -257,20 +257,11 @@ std::optional<Taken<Period>> periodAt(std::span<const std::string> words, TimePo
     return std::nullopt;
 }
 
-std::string dateText(TimePoint time)
+Moment dayOf(TimePoint bound)
 {
-    return isoText(time).substr(0, 10);
-}
-
-std::string longDate(TimePoint time)
-{
-    const year_month_day date(std::chrono::floor<days>(time));
-    const std::string_view month = kMonths[static_cast<unsigned>(date.month()) - 1];
-    std::string text = std::to_string(static_cast<unsigned>(date.day())) + ' ' + std::string(month) + ' ' +
-                       std::to_string(static_cast<int>(date.year()));
-    const std::size_t first = text.find(' ') + 1;
-    text[first] = static_cast<char>(text[first] - 'a' + 'A');
-    return text;
+    // A message shows days in the person's time zone. At this hour, nearly all of them have the same date.
+    constexpr std::chrono::hours kHour{10};
+    return {std::chrono::floor<days>(bound) + kHour};
 }
 
 } // namespace orlen::AskReader

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Message.h"
 #include "platform/values/Time.h"
 
 #include <cstddef>
@@ -35,9 +36,7 @@ struct Taken {
 /// month", "two years", "6 months ago". A stretch ends now.
 [[nodiscard]] std::optional<Taken<Period>> periodAt(std::span<const std::string> words, TimePoint now);
 
-/// "2026-05-31", in UTC.
-[[nodiscard]] std::string dateText(TimePoint time);
-/// "31 May 2026", in UTC.
-[[nodiscard]] std::string longDate(TimePoint time);
+/// The day, in UTC, that a period begins or ends with, for a message.
+[[nodiscard]] Moment dayOf(TimePoint bound);
 
 } // namespace orlen::AskReader

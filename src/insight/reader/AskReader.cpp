@@ -1,5 +1,7 @@
 #include "insight/reader/AskReader.h"
 
+#include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
@@ -7,10 +9,10 @@
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
 #include "insight/reader/SubjectReplies.h"
-#include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -107,32 +109,17 @@ std::optional<Answer> firstReply(const Question& question, const AskContext& con
 /// Longer texts are no questions, and not worth the time.
 constexpr std::size_t kLongestQuestion = 500;
 
-std::string plainWords(std::string_view text)
-{
-    std::string plain;
-    for (const std::string& each : LanguageTools::words(LanguageTools::lowerCase(text)))
-        plain += each + ' ';
-    return plain;
-}
-
 bool isSuggested(std::string_view text)
 {
-    const std::string plain = plainWords(text);
+    const std::string plain = AskText::plainWords(text);
     return std::ranges::any_of(AskEngine::kSuggestions,
-                               [&](std::string_view each) { return plainWords(each) == plain; });
+                               [&](const Text& each) { return AskText::plainWords(each.base()) == plain; });
 }
 
 /// The matcher would answer with the general figure of some word in it.
 bool isAboutSomethingElse(const Question& question)
 {
     return question.senses.meets({unknown, quoted}) && !question.senses.has(subject);
-}
-
-Answer unknownAnswer()
-{
-    return {"I don't know that. I can answer questions about a file or folder by name (“can I delete "
-            "report.pdf?”), lists (“the five biggest videos”), free space, clean-ups and ratings.",
-            {}};
 }
 
 } // namespace
@@ -150,7 +137,7 @@ std::optional<Answer> answer(std::string_view text, const AskContext& context)
         found = firstReply(question, context);
     }
     if (!found && isAboutSomethingElse(question))
-        return unknownAnswer();
+        return Answer{InsightTexts::kDontKnow, {}};
     return found;
 }
 

@@ -1,33 +1,30 @@
 #include "insight/reader/HistoryReplies.h"
 
-#include "platform/text/ByteCount.h"
+#include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
-#include <string_view>
+#include <cstdint>
+#include <iterator>
 
 namespace orlen::AskReader {
 
 namespace {
 
-constexpr std::string_view kHowToRestore =
-    "To put things back, open History, choose the clean-up and restore "
-    "it; or use “orlen history” and “orlen restore”.";
-constexpr std::string_view kNoCleanUp = "There hasn't been a clean-up yet.";
-
-std::string itemCount(std::size_t count)
+Message lastOf(const std::vector<CleanRecord>& history)
 {
-    return std::to_string(count) + (count == 1 ? " item" : " items");
-}
-
-std::string lastText(const CleanRecord& record)
-{
-    std::string text = "Your last clean-up was on " + longDate(record.date) + ": it moved " +
-                       itemCount(record.items.size()) + ", " + byteCount(record.freed()) + ", to the Trash.";
-    const auto restored = std::ranges::count(record.items, true, &TrashedItem::restored);
-    if (restored > 0)
-        text += ' ' + itemCount(static_cast<std::size_t>(restored)) + " of it has been put back.";
-    return text + ' ';
+    if (history.empty())
+        return InsightTexts::kNoCleanUp;
+    const CleanRecord& record = history.front();
+    Message moved{InsightTexts::kLastCleanUp,
+                  {{"date", Moment{record.date}},
+                   {"count", std::ssize(record.items)},
+                   {"size", Bytes{record.freed()}}}};
+    const std::int64_t restored = std::ranges::count(record.items, true, &TrashedItem::restored);
+    if (restored == 0)
+        return moved;
+    return AskText::sentences({moved, Message{InsightTexts::kPutBack, {{"count", restored}}}});
 }
 
 } // namespace
@@ -35,30 +32,28 @@ std::string lastText(const CleanRecord& record)
 std::optional<Answer> lastCleanUp(const Question& /*question*/, const AskContext& context)
 {
     if (context.history.empty())
-        return Answer{std::string(kNoCleanUp), {}};
-    return Answer{lastText(context.history.front()) + std::string(kHowToRestore), {}};
+        return Answer{InsightTexts::kNoCleanUp, {}};
+    return Answer{AskText::sentences({lastOf(context.history), InsightTexts::kHowToRestore}), {}};
 }
 
 std::optional<Answer> allCleanUps(const Question& /*question*/, const AskContext& context)
 {
     if (context.history.empty())
-        return Answer{std::string(kNoCleanUp), {}};
+        return Answer{InsightTexts::kNoCleanUp, {}};
     std::int64_t bytes = 0;
     for (const CleanRecord& record : context.history)
         bytes = checkedAdd(bytes, record.freed());
-    const std::size_t count = context.history.size();
-    return Answer{std::to_string(count) + (count == 1 ? " clean-up" : " clean-ups") + " since " +
-                      longDate(context.history.back().date) + " moved " + byteCount(bytes) +
-                      " to the Trash in all. " + lastText(context.history.front()) + "History lists them.",
-                  {}};
+    const Message all{InsightTexts::kCleanUps,
+                      {{"count", std::ssize(context.history)},
+                       {"date", Moment{context.history.back().date}},
+                       {"size", Bytes{bytes}}}};
+    return Answer{AskText::sentences({all, lastOf(context.history), InsightTexts::kHistoryListsThem}), {}};
 }
 
 std::optional<Answer> howToUndo(const Question& /*question*/, const AskContext& context)
 {
-    const std::string last =
-        context.history.empty() ? std::string(kNoCleanUp) + ' ' : lastText(context.history.front());
-    return Answer{last + std::string(kHowToRestore) +
-                      " It works until the Trash is emptied; nothing is deleted by Orlen.",
+    return Answer{AskText::sentences({lastOf(context.history), InsightTexts::kHowToRestore,
+                                      InsightTexts::kUntilTrashIsEmptied}),
                   {}};
 }
 

@@ -1,15 +1,18 @@
 #include "insight/reader/ListReplies.h"
 
 #include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
-#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
-#include <functional>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace orlen::AskReader {
 
@@ -31,20 +34,20 @@ struct Request {
     TimePoint openedTo = TimePoint::max();
     Order order = Order::biggest;
     std::int64_t count = kUsualCount;
-    std::string conditions; ///< " over 1 GB in ~/Downloads"
+    Message files; ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 };
 
-std::string_view word(Order order)
+Text heading(Order order)
 {
     switch (order) {
     case Order::biggest:
-        return "biggest";
+        return InsightTexts::kTheBiggest;
     case Order::smallest:
-        return "smallest";
+        return InsightTexts::kTheSmallest;
     case Order::oldest:
-        return "oldest";
+        return InsightTexts::kTheOldest;
     case Order::newest:
-        return "newest";
+        return InsightTexts::kTheNewest;
     }
     return {};
 }
@@ -65,6 +68,13 @@ bool isKind(const Subject& subject)
            (!subject.kinds.empty() && subject.folder.empty());
 }
 
+/// Says one more condition of the files.
+void narrow(Request& request, const Text& condition, std::vector<Place> places)
+{
+    places.push_back({"files", within(std::move(request.files))});
+    request.files = {condition, std::move(places)};
+}
+
 /// Sizes follow the word that compares. False if a size stands alone.
 bool takeSizes(const Question& question, Request& request)
 {
@@ -75,10 +85,10 @@ bool takeSizes(const Question& question, Request& request)
         const Sense before = i == 0 ? Sense::unknown : question.phrases[i - 1].sense;
         if (before == Sense::above) {
             request.leastBytes = phrase.amount + 1;
-            request.conditions += " over " + byteCount(phrase.amount);
+            narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{phrase.amount}}});
         } else if (before == Sense::below) {
             request.mostBytes = phrase.amount - 1;
-            request.conditions += " under " + byteCount(phrase.amount);
+            narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{phrase.amount}}});
         } else {
             return false;
         }
@@ -95,20 +105,21 @@ bool takeDate(const Question& question, Request& request)
     const Period& period = *phrase->period;
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;
-        request.conditions += " last opened before " + dateText(period.from);
+        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
     } else if (question.senses.has(Sense::before)) {
         request.changedTo = period.from;
-        request.conditions += " last changed before " + dateText(period.from);
+        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(period.from)}});
     } else if (question.senses.has(Sense::after)) {
         request.changedFrom = period.to;
-        request.conditions += " changed since " + dateText(period.to);
+        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});
     } else if (question.senses.has(Sense::since)) {
         request.changedFrom = period.from;
-        request.conditions += " changed since " + dateText(period.from);
+        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.from)}});
     } else {
         request.changedFrom = period.from;
         request.changedTo = period.to;
-        request.conditions += " last changed from " + dateText(period.from) + " to " + dateText(period.to);
+        narrow(request, InsightTexts::kFilesChangedBetween,
+               {{"first", dayOf(period.from)}, {"last", dayOf(period.to)}});
     }
     return true;
 }
@@ -157,13 +168,15 @@ std::optional<Request> requestIn(const Question& question, const AskContext& con
 {
     Request request;
     request.order = orderIn(question);
-    if (!takeSubjects(question, request) || !takeFolder(question, context, request) ||
-        !takeSizes(question, request) || !takeDate(question, request))
+    if (!takeSubjects(question, request) || !takeFolder(question, context, request))
+        return std::nullopt;
+    request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
+    if (!takeSizes(question, request) || !takeDate(question, request))
         return std::nullopt;
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
     if (!request.folder.empty())
-        request.conditions += " in " + tilde(request.folder);
+        narrow(request, InsightTexts::kFilesIn, {{"folder", tilde(request.folder)}});
     return request;
 }
 
@@ -221,22 +234,18 @@ void sortFirst(std::vector<Hit>& hits, Order order, std::size_t count)
     std::ranges::partial_sort(hits, hits.begin() + static_cast<std::ptrdiff_t>(count), isBefore);
 }
 
-std::string lineFor(const Request& request, const Hit& hit)
+Message lineFor(const Request& request, const Hit& hit)
 {
     const FileEntry& entry = *hit.entry;
-    std::string line = "\n• " + AskText::sized(tilde(entry.path), entry.size);
-    if (request.openedTo != TimePoint::max() && entry.lastOpened)
-        line += ", opened " + dateText(*entry.lastOpened);
-    else if (entry.modified)
-        line += ", changed " + dateText(*entry.modified);
-    return line + " — " + std::string(label(hit.finding->effectiveRating(entry)));
-}
-
-Answer noneFits(const Request& request, const std::string& name)
-{
-    return {"The last scan lists no " + name + request.conditions +
-                ". It lists only what may be worth a look: large, old, duplicate and similar files.",
-            {}};
+    std::vector<Place> places{{"path", tilde(entry.path)},
+                              {"size", Bytes{entry.size}},
+                              {"rating", within(label(hit.finding->effectiveRating(entry)))}};
+    const bool isByOpening = request.openedTo != TimePoint::max() && entry.lastOpened;
+    const auto& date = isByOpening ? entry.lastOpened : entry.modified;
+    if (!date)
+        return {InsightTexts::kFileUndated, std::move(places)};
+    places.push_back({"date", Moment{*date}});
+    return {isByOpening ? InsightTexts::kFileOpened : InsightTexts::kFileChanged, std::move(places)};
 }
 
 } // namespace
@@ -247,24 +256,26 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     if (!request)
         return std::nullopt;
     if (context.findings.empty())
-        return Answer{std::string(AskText::kNoScan), {}};
-    const std::string name(request->subject == nullptr ? "files" : request->subject->name);
+        return Answer{InsightTexts::kNoScan, {}};
+    const Place files{"files", within(request->files)};
     std::vector<Hit> hits = fitting(*request, context);
     if (hits.empty())
-        return noneFits(*request, name);
+        return Answer{Message{InsightTexts::kNoneListed, {files}}, {}};
     std::int64_t bytes = 0;
     for (const Hit& hit : hits)
         bytes = checkedAdd(bytes, hit.entry->size);
     const std::size_t shown = std::min(hits.size(), static_cast<std::size_t>(request->count));
     sortFirst(hits, request->order, shown);
+    const Message sum{InsightTexts::kFilesListed,
+                      {files, {"count", std::ssize(hits)}, {"size", Bytes{bytes}}}};
+    std::vector<Message> lines{AskText::sentences({sum, heading(request->order)})};
     Answer answer;
-    answer.text = "Of " + name + request->conditions + " the last scan lists " + std::to_string(hits.size()) +
-                  ", " + byteCount(bytes) + " in all. The " + std::string(word(request->order)) + ":";
     for (std::size_t i = 0; i < shown; ++i) {
-        answer.text += lineFor(*request, hits[i]);
+        lines.push_back(lineFor(*request, hits[i]));
         if (std::ranges::find(answer.findingIDs, hits[i].finding->id()) == answer.findingIDs.end())
             answer.findingIDs.emplace_back(hits[i].finding->id());
     }
+    answer.text = AskText::lines(std::move(lines));
     return answer;
 }
 

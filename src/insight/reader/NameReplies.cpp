@@ -1,18 +1,25 @@
 #include "insight/reader/NameReplies.h"
 
 #include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
 #include "platform/files/Places.h"
 #include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
+#include <span>
 #include <utility>
+#include <variant>
+#include <vector>
 
 namespace orlen::AskReader {
 
 namespace {
+
+using InsightTexts::RatedText;
 
 constexpr std::size_t kListed = 6;
 
@@ -50,38 +57,69 @@ Protection protectionOf(const AskContext& context, std::string_view path)
     return context.protection ? context.protection(path) : Protection::none;
 }
 
-std::string protectedText(std::string_view path, Protection protection)
+Message itIsProtected(Protection protection)
 {
-    return tilde(path) + " is protected, because it belongs to “" + std::string(label(protection)) +
-           "”: " + std::string(reason(protection)) + " Orlen never moves it.";
+    return {InsightTexts::kItIsProtected,
+            {{"group", within(label(protection))}, {"reason", within(reason(protection))}}};
 }
 
-std::string outcome(const AskContext& context, const Hit& hit)
+Answer protectedPlace(std::string_view path, Protection protection)
+{
+    return {Message{InsightTexts::kPathIsProtected,
+                    {{"path", tilde(path)},
+                     {"group", within(label(protection))},
+                     {"reason", within(reason(protection))}}},
+            {}};
+}
+
+/// What a clean-up does with it.
+Message outcome(const AskContext& context, const Hit& hit)
 {
     if (const Protection protection = protectionOf(context, hit.entry->path); protection != Protection::none)
-        return "It is protected, because it belongs to “" + std::string(label(protection)) +
-               "”: " + std::string(reason(protection));
+        return itIsProtected(protection);
     if (!hit.finding->cleanable)
-        return "It is already in the Trash; Orlen never empties it for you.";
-    if (hit.finding->effectiveRating(*hit.entry) == Rating::keep)
-        return "Better leave it where it is. A clean-up would move it to the Trash, and History could put it "
-               "back.";
-    return "A clean-up moves it to the Trash, and History can put it back.";
+        return InsightTexts::kInTrash;
+    return hit.finding->effectiveRating(*hit.entry) == Rating::keep ? InsightTexts::kBetterLeaveIt
+                                                                    : InsightTexts::kMovesIt;
 }
 
-std::string ratingText(const Hit& hit)
+/// File names in a note may have line breaks.
+Message onOneLine(Message note)
 {
-    std::string text = "rated " + std::string(label(hit.finding->effectiveRating(*hit.entry)));
-    if (hit.entry->note)
-        text += " (" + PathText::forDisplay(*hit.entry->note) + ")";
-    return text;
+    for (Place& place : note.places) {
+        if (auto* const name = std::get_if<std::string>(&place.value))
+            *name = PathText::forDisplay(*name);
+        else if (auto* const several = std::get_if<Several>(&place.value))
+            std::ranges::transform(several->messages, several->messages.begin(), onOneLine);
+    }
+    return note;
 }
 
-std::string described(const AskContext& context, const Hit& hit)
+/// What an entry is rated, with its note if it has one.
+Message rated(const Hit& hit, const RatedText& text, const RatedText& withNote, std::vector<Place> places)
 {
-    return AskText::sized(AskText::fileName(*hit.entry), hit.entry->size) + " in " +
-           tilde(PathText::parent(hit.entry->path)) + ", listed under “" + hit.finding->title + "”, is " +
-           ratingText(hit) + ". " + hit.finding->reason + ' ' + outcome(context, hit);
+    places.push_back({"size", Bytes{hit.entry->size}});
+    places.push_back({"title", within(hit.finding->title)});
+    Message note = onOneLine(noteOf(*hit.entry));
+    const RatedText& said = note.empty() ? text : withNote;
+    if (!note.empty())
+        places.push_back({"note", within(std::move(note))});
+    return {said.of(hit.finding->effectiveRating(*hit.entry)), std::move(places)};
+}
+
+Message described(const AskContext& context, const Hit& hit)
+{
+    const Message rating = rated(
+        hit, InsightTexts::kListedAs, InsightTexts::kListedWithNote,
+        {{"name", AskText::fileName(*hit.entry)}, {"folder", tilde(PathText::parent(hit.entry->path))}});
+    return AskText::sentences({rating, hit.finding->reason, outcome(context, hit)});
+}
+
+Message itemLine(const Hit& hit)
+{
+    const Message rating = rated(hit, InsightTexts::kFitting, InsightTexts::kFittingWithNote,
+                                 {{"path", tilde(hit.entry->path)}});
+    return AskText::sentences({rating, hit.finding->reason});
 }
 
 void addLink(std::vector<std::string>& ids, const Finding& finding)
@@ -92,47 +130,46 @@ void addLink(std::vector<std::string>& ids, const Finding& finding)
 
 Answer listedHits(const AskContext& context, const Found& found, std::string_view name)
 {
+    const std::span<const Hit> listed = std::span(found.hits).first(std::min(found.hits.size(), kListed));
     Answer answer;
+    for (const Hit& hit : listed)
+        addLink(answer.findingIDs, *hit.finding);
     if (found.hits.size() == 1) {
         answer.text = described(context, found.hits.front());
-    } else {
-        answer.text = std::to_string(found.hits.size()) + " items fit “" + std::string(name) + "”:";
-        for (std::size_t i = 0; i < std::min(found.hits.size(), kListed); ++i) {
-            const Hit& hit = found.hits[i];
-            answer.text += "\n• " + AskText::sized(tilde(hit.entry->path), hit.entry->size) + " — " +
-                           hit.finding->title + ", " + ratingText(hit) + ". " + hit.finding->reason;
-        }
-        if (found.hits.size() > kListed)
-            answer.text += "\n… and " + std::to_string(found.hits.size() - kListed) + " more.";
-        answer.text += "\nA clean-up moves what you tick to the Trash, and History can put it back.";
+        return answer;
     }
-    for (std::size_t i = 0; i < std::min(found.hits.size(), kListed); ++i)
-        addLink(answer.findingIDs, *found.hits[i].finding);
+    std::vector<Message> lines{
+        {InsightTexts::kItemsFit, {{"count", std::ssize(found.hits)}, {"name", std::string(name)}}}};
+    std::ranges::transform(listed, std::back_inserter(lines), itemLine);
+    if (const auto more = std::ssize(found.hits) - std::ssize(listed); more > 0)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    lines.emplace_back(InsightTexts::kMovesTicked);
+    answer.text = AskText::lines(std::move(lines));
     return answer;
 }
 
 Answer measuredOnly(const AskContext& context, const Found& found)
 {
-    Answer answer;
-    for (std::size_t i = 0; i < std::min(found.measured.size(), kListed); ++i) {
-        const Measured& each = found.measured[i];
+    std::vector<Message> lines;
+    for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
         const Protection protection = protectionOf(context, each.path);
-        answer.text += (i == 0 ? "" : "\n") + AskText::sized(tilde(each.path), each.bytes) + " counts for " +
-                       std::string(label(each.category)) + ". ";
-        answer.text += protection == Protection::none
-                           ? "The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it."
-                           : "It is protected, because it belongs to “" + std::string(label(protection)) +
-                                 "”: " + std::string(reason(protection));
+        const Message size{InsightTexts::kCountsFor,
+                           {{"path", tilde(each.path)},
+                            {"size", Bytes{each.bytes}},
+                            {"category", within(label(each.category))}}};
+        const Message rating =
+            protection == Protection::none ? InsightTexts::kNotSuggested : itIsProtected(protection);
+        lines.push_back(AskText::sentences({size, rating}));
     }
-    return answer;
+    return {AskText::lines(std::move(lines)), {}};
 }
 
 Answer inTrash(const Found& found)
 {
     const TrashedItem& item = *found.trashed.front();
-    return {AskText::sized(tilde(item.original), item.size) +
-                " was moved to the Trash by an earlier clean-up. History can put it back.",
-            {}};
+    return {
+        Message{InsightTexts::kTrashedEarlier, {{"path", tilde(item.original)}, {"size", Bytes{item.size}}}},
+        {}};
 }
 
 /// The words that may be a name, as typed.
@@ -179,11 +216,7 @@ bool isFileName(const Question& question, std::string_view name)
 
 Answer notListed(std::string_view name)
 {
-    return {
-        "“" + PathText::forDisplay(name) +
-            "” is not in the results of the last scan, so I have no rating for it. Check what it is before "
-            "you remove it; “orlen explain” with its path tells more.",
-        {}};
+    return {Message{InsightTexts::kNotListed, {{"name", PathText::forDisplay(name)}}}, {}};
 }
 
 } // namespace
@@ -200,7 +233,7 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         found = findNamed(context, name);
     const std::string guarded = protectedPath(question, context, name);
     if (!guarded.empty() && found.fit < Fit::whole)
-        return Answer{protectedText(guarded, protectionOf(context, guarded)), {}};
+        return protectedPlace(guarded, protectionOf(context, guarded));
     if (!found.hits.empty())
         return listedHits(context, found, PathText::forDisplay(name));
     if (!found.measured.empty())

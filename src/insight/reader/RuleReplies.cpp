@@ -1,8 +1,9 @@
 #include "insight/reader/RuleReplies.h"
 
 #include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 
-#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
@@ -11,38 +12,25 @@ namespace {
 
 struct Meaning {
     Sense sense;
-    std::string_view text;
+    Text text;
 };
 
 constexpr Meaning kMeanings[] = {
-    {Sense::safe,
-     "Safe: data that programs create again by themselves, or exact copies. It is ticked for you."},
-    {Sense::review, "Review: probably no longer needed, but only you can tell. Look before you tick it."},
-    {Sense::keep,
-     "Keep: a name or place suggests that it matters, such as an invoice, a contract or tax papers. It is a "
-     "warning, not a lock."},
+    {Sense::safe, InsightTexts::kSafeMeans},
+    {Sense::review, InsightTexts::kReviewMeans},
+    {Sense::keep, InsightTexts::kKeepMeans},
 };
-
-constexpr std::string_view kSystem =
-    "System: everything on the disk that no other category counts, mostly the operating system itself. Orlen "
-    "shows its size and leaves it alone.";
 
 } // namespace
 
 std::optional<Answer> privacy(const Question& /*question*/, const AskContext& /*context*/)
 {
-    return Answer{"Nothing leaves this computer. Orlen makes no network calls, has no accounts and uploads "
-                  "nothing; scanning, ratings and these answers all happen here.",
-                  {}};
+    return Answer{InsightTexts::kPrivacy, {}};
 }
 
 std::optional<Answer> whatIsNeverTouched(const Question& /*question*/, const AskContext& /*context*/)
 {
-    return Answer{"Orlen never touches what is protected: anything outside your home folder and the folders "
-                  "for applications; keys, passwords and keyrings; browser profiles, mail and chats; synced "
-                  "folders; and your own folders such as Documents and Pictures, though files in them may be "
-                  "suggested. It deletes nothing: what you tick moves to the Trash.",
-                  {}};
+    return Answer{InsightTexts::kNeverTouched, {}};
 }
 
 std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& /*context*/)
@@ -51,17 +39,14 @@ std::optional<Answer> meaningOfRatings(const Question& question, const AskContex
     const bool isSystem = subject != nullptr && subject->category == OrlenCategory::system;
     if (subject != nullptr && !isSystem)
         return std::nullopt;
-    std::vector<std::string> lines;
+    std::vector<Message> lines;
     const bool isAny = question.senses.meets({Sense::safe, Sense::review, Sense::keep}) || isSystem;
     for (const Meaning& meaning : kMeanings) {
         if (!isAny || question.senses.has(meaning.sense))
             lines.emplace_back(meaning.text);
     }
-    if (isSystem)
-        lines.emplace_back(kSystem);
-    else
-        lines.emplace_back("Ratings are suggestions; nothing moves before you say so.");
-    return Answer{AskText::joined(lines, "\n"), {}};
+    lines.emplace_back(isSystem ? InsightTexts::kSystemMeans : InsightTexts::kRatingsAreSuggestions);
+    return Answer{AskText::lines(std::move(lines)), {}};
 }
 
 } // namespace orlen::AskReader

@@ -1,14 +1,16 @@
 #include "insight/reader/SpaceReplies.h"
 
 #include "insight/AskText.h"
-#include "platform/text/ByteCount.h"
+#include "insight/InsightTexts.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace orlen::AskReader {
 
@@ -41,38 +43,36 @@ std::int64_t usedOf(const StorageBreakdown& breakdown)
     return std::max<std::int64_t>(0, checkedSubtract(breakdown.total, breakdown.free));
 }
 
-std::string percentUsed(const StorageBreakdown& breakdown)
+Message volume(const StorageBreakdown& breakdown)
 {
-    const double share =
-        100.0 * static_cast<double>(usedOf(breakdown)) / static_cast<double>(breakdown.total);
-    return std::to_string(std::lround(share)) + " %";
+    const std::int64_t used = usedOf(breakdown);
+    return {InsightTexts::kVolume,
+            {{"free", Bytes{breakdown.free}},
+             {"total", Bytes{breakdown.total}},
+             {"used", Bytes{used}},
+             {"share", Share{static_cast<double>(used) / static_cast<double>(breakdown.total)}}}};
 }
 
-std::string volumeText(const StorageBreakdown& breakdown)
-{
-    return byteCount(breakdown.free) + " is free of " + byteCount(breakdown.total) + "; " +
-           byteCount(usedOf(breakdown)) + " is used (" + percentUsed(breakdown) + ").";
-}
-
-/// "Media grows the fastest, by about 1.2 GB per day."
-std::string growthText(const Prediction& prediction)
+/// Which category grows the fastest; empty if none does notably.
+Message fastestGrowth(const Prediction& prediction)
 {
     if (!prediction.enoughData || prediction.perCategory.empty() ||
         prediction.perCategory.front().second < kNotableGrowth)
         return {};
     const auto& [category, rate] = prediction.perCategory.front();
-    return " " + std::string(label(category)) + " grows the fastest, by about " +
-           byteCount(checkedInteger(rate)) + " per day.";
+    return {InsightTexts::kGrowsFastest,
+            {{"category", within(label(category))}, {"size", Bytes{checkedInteger(rate)}}}};
 }
 
-std::string partList(const std::vector<Part>& parts, std::size_t most, Answer& answer)
+/// The first of the parts, which the answer then links to.
+Several listed(const std::vector<Part>& parts, std::size_t most, Answer& answer)
 {
-    std::vector<std::string> texts;
+    Several list{{}, Several::Joint::commas};
     for (std::size_t i = 0; i < std::min(parts.size(), most); ++i) {
-        texts.push_back(AskText::sized(parts[i].finding->title, parts[i].bytes));
+        list.messages.push_back(AskText::sized(within(parts[i].finding->title), parts[i].bytes));
         answer.findingIDs.emplace_back(parts[i].finding->id());
     }
-    return AskText::joined(texts, ", ");
+    return list;
 }
 
 /// Bytes of the entries rated Review.
@@ -105,6 +105,32 @@ std::vector<Part> reaching(std::vector<Part> parts, std::int64_t wanted)
     return parts;
 }
 
+/// Which findings together free `wanted` bytes, with links to them.
+std::vector<Message> proposal(const AskContext& context, std::int64_t wanted, Answer& answer)
+{
+    constexpr std::size_t kNamed = 6;
+    const Place goal{"wanted", Bytes{wanted}};
+    const auto safe = largestFirst(context, std::mem_fn(&Finding::safeSize));
+    const std::int64_t safeBytes = sumOf(safe);
+    if (safeBytes >= wanted) {
+        const auto chosen = reaching(safe, wanted);
+        return {{InsightTexts::kSafeIsEnough,
+                 {goal, {"findings", listed(chosen, kNamed, answer)}, {"size", Bytes{sumOf(chosen)}}}}};
+    }
+    std::vector<Message> said;
+    if (safeBytes == 0)
+        said.emplace_back(InsightTexts::kNothingSafe);
+    else
+        said.push_back({InsightTexts::kAllSafe,
+                        {{"size", Bytes{safeBytes}}, {"findings", listed(safe, kNamed, answer)}}});
+    const auto rest = reaching(largestFirst(context, reviewSize), wanted - safeBytes);
+    if (!rest.empty())
+        said.push_back({InsightTexts::kForTheRest, {goal, {"findings", listed(rest, kNamed, answer)}}});
+    if (checkedAdd(safeBytes, sumOf(rest)) < wanted)
+        said.push_back({InsightTexts::kTooLittle, {goal}});
+    return said;
+}
+
 } // namespace
 
 std::optional<Answer> spaceNow(const Question& question, const AskContext& context)
@@ -114,9 +140,10 @@ std::optional<Answer> spaceNow(const Question& question, const AskContext& conte
         return std::nullopt;
     if (const Phrase* const size = question.first(Sense::size)) {
         const bool isEnough = breakdown.free >= size->amount;
-        return Answer{std::string(isEnough ? "Yes. " : "No. ") + volumeText(breakdown), {}};
+        const Text verdict = isEnough ? InsightTexts::kYes : InsightTexts::kNo;
+        return Answer{AskText::sentences({verdict, volume(breakdown)}), {}};
     }
-    return Answer{volumeText(breakdown), {}};
+    return Answer{volume(breakdown), {}};
 }
 
 std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& context)
@@ -125,15 +152,18 @@ std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& co
     if (breakdown.total <= 0)
         return std::nullopt;
     Answer answer;
-    answer.text = volumeText(breakdown) + " By category: " + AskText::largestCategories(breakdown) + '.';
+    std::vector<Message> said{
+        volume(breakdown),
+        {InsightTexts::kByCategory, {{"categories", AskText::largestCategories(breakdown)}}}};
     if (context.findings.empty()) {
-        answer.text += " Run a Smart Scan to see what could go.";
+        said.emplace_back(InsightTexts::kScanForFindings);
     } else {
         constexpr std::size_t kNamed = 3;
         const auto parts = largestFirst(context, std::mem_fn(&Finding::totalSize));
-        answer.text += " The largest findings are " + partList(parts, kNamed, answer) + '.';
+        said.push_back({InsightTexts::kLargestFindings, {{"findings", listed(parts, kNamed, answer)}}});
     }
-    answer.text += growthText(context.prediction);
+    said.push_back(fastestGrowth(context.prediction));
+    answer.text = AskText::sentences(std::move(said));
     return answer;
 }
 
@@ -141,25 +171,25 @@ std::optional<Answer> fullWhen(const Question& question, const AskContext& conte
 {
     const Prediction& prediction = context.prediction;
     if (!prediction.daysLeft)
-        return Answer{prediction.headline + ". " + prediction.detail, {}};
+        return Answer{AskText::forecast(prediction), {}};
     if (*prediction.daysLeft > kFarAway)
-        return Answer{"Not for more than 20 years at the present pace. " + prediction.detail, {}};
+        return Answer{AskText::sentences({InsightTexts::kNotForLong, prediction.detail}), {}};
     const auto left = std::chrono::hours(static_cast<int>(*prediction.daysLeft * 24));
     const TimePoint full = context.now + left;
-    std::string text;
+    std::vector<Message> said;
     if (const Phrase* const period = question.first(Sense::period); period != nullptr) {
         if (period->period->to <= context.now)
             return std::nullopt;
-        text = full < period->period->to ? "Probably yes. " : "Probably not. ";
+        said.emplace_back(full < period->period->to ? InsightTexts::kProbablyYes
+                                                    : InsightTexts::kProbablyNot);
     }
-    return Answer{text + "At the present pace your disk will be full around " + longDate(full) + ". " +
-                      prediction.detail,
-                  {}};
+    said.push_back({InsightTexts::kFullAround, {{"date", Moment{full}}}});
+    said.push_back(prediction.detail);
+    return Answer{AskText::sentences(std::move(said)), {}};
 }
 
 std::optional<Answer> roomFor(const Question& question, const AskContext& context)
 {
-    constexpr std::size_t kNamed = 6;
     const Phrase* const size = question.first(Sense::size);
     if (size == nullptr || size->amount <= 0)
         return std::nullopt;
@@ -168,29 +198,11 @@ std::optional<Answer> roomFor(const Question& question, const AskContext& contex
         question.position(Sense::size) < question.position(Sense::free))
         return std::nullopt;
     if (context.findings.empty())
-        return Answer{std::string(AskText::kNoScan), {}};
-    const std::string wanted = byteCount(size->amount);
-    const auto safe = largestFirst(context, std::mem_fn(&Finding::safeSize));
-    const std::int64_t safeBytes = sumOf(safe);
+        return Answer{InsightTexts::kNoScan, {}};
     Answer answer;
-    if (safeBytes >= size->amount) {
-        const auto chosen = reaching(safe, size->amount);
-        answer.text = "To free " + wanted +
-                      ", what is rated Safe is enough: " + partList(chosen, kNamed, answer) + ", " +
-                      byteCount(sumOf(chosen)) + " in all.";
-    } else {
-        const auto rest = reaching(largestFirst(context, reviewSize), size->amount - safeBytes);
-        answer.text = safeBytes == 0 ? "Nothing is rated Safe."
-                                     : "Everything rated Safe frees " + byteCount(safeBytes) + ": " +
-                                           partList(safe, kNamed, answer) + '.';
-        if (!rest.empty())
-            answer.text += " For the rest of " + wanted +
-                           ", look through what is rated Review: " + partList(rest, kNamed, answer) + '.';
-        if (checkedAdd(safeBytes, sumOf(rest)) < size->amount)
-            answer.text += " Together that is less than " + wanted + '.';
-    }
-    answer.text +=
-        " Nothing moves before you have seen the list, and space comes back once you empty the Trash.";
+    std::vector<Message> said = proposal(context, size->amount, answer);
+    said.emplace_back(InsightTexts::kNothingMovesYet);
+    answer.text = AskText::sentences(std::move(said));
     return answer;
 }
 

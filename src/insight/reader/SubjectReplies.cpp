@@ -1,12 +1,14 @@
 #include "insight/reader/SubjectReplies.h"
 
 #include "insight/AskText.h"
+#include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
-#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <utility>
 
 namespace orlen::AskReader {
@@ -15,27 +17,21 @@ namespace {
 
 /// Lines with links to the findings they are about.
 struct Lines {
-    std::vector<std::string> texts;
+    std::vector<Message> texts;
     std::vector<std::string> ids;
 
     [[nodiscard]] std::optional<Answer> answer() const
     {
         if (texts.empty())
             return std::nullopt;
-        return Answer{AskText::joined(texts, "\n"), ids};
+        return Answer{AskText::lines(texts), ids};
     }
 };
 
 struct Amount {
-    std::size_t count = 0;
+    std::int64_t count = 0;
     std::int64_t bytes = 0;
 };
-
-std::string counted(const Amount& amount)
-{
-    return std::to_string(amount.count) + (amount.count == 1 ? " item, " : " items, ") +
-           byteCount(amount.bytes);
-}
 
 /// The files of a kind that the scan lists, each once.
 Amount listedFiles(const Subject& subject, const AskContext& context)
@@ -72,8 +68,8 @@ void addCategory(Lines& lines, OrlenCategory category, const StorageBreakdown& b
 {
     const auto found = breakdown.cats.find(category);
     if (found != breakdown.cats.end())
-        lines.texts.push_back("The category " + std::string(label(category)) + " takes " +
-                              byteCount(found->second) + '.');
+        lines.texts.push_back({InsightTexts::kCategoryTakes,
+                               {{"category", within(label(category))}, {"size", Bytes{found->second}}}});
 }
 
 void addFolder(Lines& lines, const Subject& subject, const StorageBreakdown& breakdown)
@@ -81,7 +77,8 @@ void addFolder(Lines& lines, const Subject& subject, const StorageBreakdown& bre
     const std::string folder = folderOf(subject);
     const auto bytes = folder.empty() ? std::nullopt : folderSize(breakdown, folder);
     if (bytes)
-        lines.texts.push_back("The folder " + tilde(folder) + " takes " + byteCount(*bytes) + '.');
+        lines.texts.push_back(
+            {InsightTexts::kFolderTakes, {{"folder", tilde(folder)}, {"size", Bytes{*bytes}}}});
 }
 
 std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
@@ -97,10 +94,8 @@ std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext&
 void addFindings(Lines& lines, const Subject& subject, const AskContext& context)
 {
     for (const Finding* const finding : findingsOf(subject, context)) {
-        lines.texts.push_back(finding->title + ": " + byteCount(finding->totalSize()) + " — rated " +
-                              std::string(label(finding->rating)) + ". " + finding->reason + " (" +
-                              std::to_string(finding->items.size()) +
-                              (finding->items.size() == 1 ? " item)" : " items)"));
+        const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding->items)}}};
+        lines.texts.push_back(AskText::sentences({AskText::rated(*finding), count}));
         lines.ids.emplace_back(finding->id());
     }
 }
@@ -110,18 +105,20 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
     if (subject.extensions.empty() || context.findings.empty())
         return;
     const Amount amount = listedFiles(subject, context);
-    const std::string name(subject.name);
-    lines.texts.push_back(amount.count == 0 ? "The last scan suggests no " + name + " for a clean-up."
-                                            : "Of " + name + " the last scan lists " + counted(amount) +
-                                                  "; it doesn't list those it sees no reason to move.");
+    const Place files{"files", within(subject.name)};
+    if (amount.count == 0)
+        lines.texts.push_back({InsightTexts::kNoneSuggested, {files}});
+    else
+        lines.texts.push_back(
+            {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
 }
 
 /// For kinds of which the scan has found nothing.
 Answer nothingFound(const Subject& subject, const AskContext& context)
 {
     if (context.findings.empty())
-        return {std::string(AskText::kNoScan), {}};
-    return {"The last scan found no " + std::string(subject.name) + " to clean up.", {}};
+        return {InsightTexts::kNoScan, {}};
+    return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
 }
 
 bool isOnlyKinds(const Subject& subject)
@@ -166,17 +163,19 @@ std::optional<Answer> removingSubject(const Question& question, const AskContext
     Lines lines;
     if (!folder.empty() && context.protection) {
         if (const Protection protection = context.protection(folder); protection != Protection::none)
-            lines.texts.push_back(tilde(folder) + " itself is protected, because it belongs to “" +
-                                  std::string(label(protection)) + "”: " + std::string(reason(protection)));
+            lines.texts.push_back({InsightTexts::kFolderIsProtected,
+                                   {{"folder", tilde(folder)},
+                                    {"group", within(label(protection))},
+                                    {"reason", within(reason(protection))}}});
     }
     if (subject.category == OrlenCategory::system)
-        lines.texts.push_back("System data is protected: " + std::string(reason(Protection::systemFolders)) +
-                              " Orlen leaves it alone.");
+        lines.texts.push_back(
+            {InsightTexts::kSystemIsProtected, {{"reason", within(reason(Protection::systemFolders))}}});
     addFindings(lines, subject, context);
     if (lines.texts.empty() && isOnlyKinds(subject))
         return nothingFound(subject, context);
     if (!lines.ids.empty())
-        lines.texts.emplace_back("A clean-up moves what you tick to the Trash, and History can put it back.");
+        lines.texts.emplace_back(InsightTexts::kMovesTicked);
     return lines.answer();
 }
 
@@ -192,14 +191,16 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
     Amount amount;
     std::int64_t safe = 0;
     for (const Finding* const finding : findings) {
-        amount.count += finding->items.size();
+        amount.count += std::ssize(finding->items);
         amount.bytes = checkedAdd(amount.bytes, finding->totalSize());
         safe = checkedAdd(safe, finding->safeSize());
         answer.findingIDs.emplace_back(finding->id());
     }
-    answer.text = "Without the " + std::string(subject.name) + " that the last scan lists you would have " +
-                  byteCount(amount.bytes) + " more (" + counted(amount) + "); " + byteCount(safe) +
-                  " of that is rated Safe. Space comes back once you empty the Trash.";
+    answer.text = {InsightTexts::kWithoutThem,
+                   {{"files", within(subject.name)},
+                    {"count", amount.count},
+                    {"size", Bytes{amount.bytes}},
+                    {"safe", Bytes{safe}}}};
     return answer;
 }
 

@@ -15,7 +15,7 @@ namespace orlen::AskReader {
 /// several at once: "photos" are files with certain extensions and a category.
 struct Subject {
     std::string_view words;      ///< the phrases for it, separated by commas
-    std::string_view name;       ///< as a sentence names several of them: "videos"
+    Text name;                   ///< as a sentence names several of them: "videos"; empty if none does
     std::string_view extensions; ///< of its files, lower case, separated by spaces; empty if no kind of file
     std::vector<FindingKind> kinds;
     std::optional<OrlenCategory> category;

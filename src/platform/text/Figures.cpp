@@ -31,12 +31,11 @@ std::string utf8(const icu::UnicodeString& text)
     return bytes;
 }
 
-LocalizedNumberFormatter withUnit(const icu::Locale& locale, icu::MeasureUnit unit, UNumberUnitWidth width)
+LocalizedNumberFormatter withUnit(const icu::Locale& locale, const icu::MeasureUnit& unit,
+                                  UNumberUnitWidth width)
 {
-    return NumberFormatter::withLocale(locale)
-        .unit(std::move(unit))
-        .unitWidth(width)
-        .precision(Precision::maxFraction(1));
+    return NumberFormatter::withLocale(locale).unit(unit).unitWidth(width).precision(
+        Precision::maxFraction(1));
 }
 
 /// In the order of `ByteAmount::Unit`.
@@ -78,6 +77,25 @@ icu::DateFormat* longDateFormat(const icu::Locale& locale)
     return icu::DateFormat::createInstanceForSkeleton("yMMMd", locale, status);
 }
 
+/// The number alone: the words around it are the message's.
+DateFormat yearFormat(const icu::Locale& locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return DateFormat(new icu::SimpleDateFormat(icu::UnicodeString(u"y"), locale, status));
+}
+
+/// "1 March 2025", in UTC.
+std::string englishDate(TimePoint time)
+{
+    constexpr std::array<std::string_view, 12> kMonths{"January",   "February", "March",    "April",
+                                                       "May",       "June",     "July",     "August",
+                                                       "September", "October",  "November", "December"};
+    const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(time));
+    return std::to_string(static_cast<unsigned>(date.day())) + ' ' +
+           std::string(kMonths[static_cast<unsigned>(date.month()) - 1]) + ' ' +
+           std::to_string(static_cast<int>(date.year()));
+}
+
 } // namespace
 
 struct Figures::Formats {
@@ -92,7 +110,8 @@ struct Figures::Formats {
           minutes(withUnit(locale, icu::MeasureUnit::getMinute(), UNUM_UNIT_WIDTH_SHORT)),
           date(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)),
           longDate(longDateFormat(locale)), dateAndTime(icu::DateFormat::createDateTimeInstance(
-                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale))
+                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale)),
+          year(yearFormat(locale))
     {
         UErrorCode status = U_ZERO_ERROR;
         list.reset(icu::ListFormatter::createInstance(locale, status));
@@ -114,6 +133,7 @@ struct Figures::Formats {
     DateFormat date;
     DateFormat longDate;
     DateFormat dateAndTime;
+    DateFormat year;
     std::unique_ptr<icu::ListFormatter> list;
 };
 
@@ -176,7 +196,8 @@ std::string Figures::duration(std::chrono::duration<double> time) const
         return written(&Formats::seconds, static_cast<double>(tenths) / 10, " s");
     if (whole < 60)
         return written(&Formats::seconds, static_cast<double>(whole), " s");
-    return written(&Formats::minutes, static_cast<double>(whole / 60), " min") + ' ' +
+    const auto minutes = whole / 60;
+    return written(&Formats::minutes, static_cast<double>(minutes), " min") + ' ' +
            written(&Formats::seconds, static_cast<double>(whole % 60), " s");
 }
 
@@ -187,12 +208,17 @@ std::string Figures::date(TimePoint time) const
 
 std::string Figures::longDate(TimePoint time) const
 {
-    return m_formats ? m_formats->longDate.text(time) : isoText(time).substr(0, 10);
+    return m_formats ? m_formats->longDate.text(time) : englishDate(time);
 }
 
 std::string Figures::dateAndTime(TimePoint time) const
 {
     return m_formats ? m_formats->dateAndTime.text(time) : isoText(time).substr(0, 16);
+}
+
+std::string Figures::year(TimePoint time) const
+{
+    return m_formats ? m_formats->year.text(time) : isoText(time).substr(0, 4);
 }
 
 std::string Figures::list(std::span<const std::string> parts) const

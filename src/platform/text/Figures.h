@@ -14,7 +14,7 @@ namespace orlen {
 class Figures {
 public:
     /// For what machines read, and for texts that are kept: digits without separators, English, dates as in
-    /// ISO 8601 without the time zone.
+    /// ISO 8601, and all of it in UTC.
     [[nodiscard]] static const Figures& plain();
 
     /// As the locale (an ICU identifier such as "pt_BR") does; an unknown one gives a default of ICU's.
@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::string longDate(TimePoint time) const;
     /// Day and minute in the person's time zone, short.
     [[nodiscard]] std::string dateAndTime(TimePoint time) const;
+    /// The year in the person's time zone, a number without separators: "2025".
+    [[nodiscard]] std::string year(TimePoint time) const;
     /// "a, b and c"
     [[nodiscard]] std::string list(std::span<const std::string> parts) const;
 

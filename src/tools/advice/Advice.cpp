@@ -64,6 +64,13 @@ std::string shellWord(const std::string& path)
     return word + '\'';
 }
 
+Message textOf(const AdviceTopic& topic)
+{
+    if (topic.furtherCommand.empty())
+        return topic.text;
+    return {topic.text, {{"command", std::string(topic.furtherCommand)}}};
+}
+
 void replace(std::string& text, std::string_view word, const std::string& with)
 {
     if (const std::size_t at = text.find(word); at != std::string::npos)
@@ -172,7 +179,7 @@ AdviceItem measured(Present present, AdviceSums& sums, const PathMarks& marks, c
     item.size = sums.sum();
     item.known = knownOf(present.topic->count, roots, unreadable);
     item.isOnHomeDisk = present.isOnHomeDisk;
-    item.text = present.topic->text;
+    item.text = textOf(*present.topic);
     item.command = std::move(present.command);
     return item;
 }

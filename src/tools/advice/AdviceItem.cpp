@@ -1,20 +1,20 @@
 #include "tools/advice/AdviceItem.h"
 
-#include "platform/text/ByteCount.h"
+#include "tools/ToolsTexts.h"
 
 namespace orlen {
 
-std::string AdviceItem::sizeText() const
+Message AdviceItem::sizeText() const
 {
     switch (known) {
     case Known::all:
-        return byteCount(size);
+        return {{}, {{"size", Bytes{size}}}};
     case Known::part:
-        return "at least " + byteCount(size);
+        return {ToolsTexts::kAtLeast, {{"size", Bytes{size}}}};
     case Known::nothing:
-        return "needs administrator rights";
+        return ToolsTexts::kNeedsAdministrator;
     case Known::shared:
-        return "cannot be told";
+        return ToolsTexts::kCannotBeTold;
     }
     return {};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Message.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -17,16 +19,16 @@ struct AdviceItem {
     };
 
     std::string topic;               ///< its name for scripts, such as "kernels"
-    std::string title;               ///< a few words
+    Message title;                   ///< a few words
     std::vector<std::string> places; ///< the folders it is about, in the form all rules compare; never empty
     std::int64_t size = 0;           ///< bytes that could be read
     Known known = Known::all;
     bool isOnHomeDisk = true; ///< whether this space and the home folder's are the same
-    std::string text;         ///< what it is, why it grows and what the command does
+    Message text;             ///< what it is, why it grows and what the command does
     std::string command;      ///< for the user to run in a terminal; empty if another program does it
 
     /// "1.2 GB", "at least 1.2 GB", "needs administrator rights"
-    [[nodiscard]] std::string sizeText() const;
+    [[nodiscard]] Message sizeText() const;
 
     friend bool operator==(const AdviceItem&, const AdviceItem&) = default;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <array>
 #include <cstdint>
 #include <span>
@@ -17,7 +19,7 @@ struct AdviceFound {
     std::string command;            ///< instead of the topic's; empty for that
 };
 
-/// One thing to advise on. All texts are what people read.
+/// One thing to advise on.
 struct AdviceTopic {
     /// What counts towards its size.
     enum class Count {
@@ -29,15 +31,17 @@ struct AdviceTopic {
     };
 
     std::string_view topic;
-    std::string_view title;
+    Text title;
     std::array<std::string_view, 3> places; ///< patterns, see Places::expand
     Count count = Count::everything;
     /// Only if this program is installed; empty for always.
     std::string_view program;
     std::int64_t least = 0; ///< smaller is not worth a word, bytes
-    std::string_view text;
+    Text text;
     /// {PLACES} stands for those that exist, {UID} for the user's number.
     std::string_view command;
+    /// A further command, which the text names at {command}; empty if there is no such place.
+    std::string_view furtherCommand;
     /// Finds what counts in the places; null to count the places themselves.
     AdviceFound (*find)(const Places& places) = nullptr;
 };

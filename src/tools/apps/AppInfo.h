@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Message.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,7 +27,7 @@ struct AppInfo {
     std::optional<std::int64_t> size; ///< bytes on disk in total; absent until measured
     AppSource source = AppSource::bundle;
     /// How to remove it another way, if the program does not; else empty.
-    std::string advice;
+    Message advice;
     /// The command in the advice, for copying; else empty.
     std::string adviceCommand;
     std::string icon;                   ///< absolute path or theme name from its launcher; may be empty

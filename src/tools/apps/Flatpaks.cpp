@@ -7,6 +7,7 @@
 #include "platform/files/Places.h"
 #include "platform/text/KeyFile.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/apps/AppNames.h"
 #include "tools/apps/Launcher.h"
 
@@ -77,7 +78,7 @@ AppInfo described(const Installation& installation, const std::string& identifie
     app.source = AppSource::flatpak;
     app.adviceCommand = std::string("flatpak uninstall --delete-data ") +
                         (installation.isOfUser ? "--user " : "") + identifier;
-    app.advice = "Installed by Flatpak. Remove it in your software centre or with: " + app.adviceCommand;
+    app.advice = {ToolsTexts::kInstalledByFlatpak, {{"command", app.adviceCommand}}};
     const std::string entry =
         app.path + "/current/active/export/share/applications/" + identifier + ".desktop";
     if (const auto launcher = Launcher::read(entry, Launcher::Links::followed)) {

@@ -72,7 +72,7 @@ using Candidates = std::map<std::string, Candidate, std::less<>>;
 /// What is known of one folder of the list.
 struct Found {
     std::string path;
-    std::string note;
+    Message note;
     TimePoint newest;
 };
 
@@ -125,22 +125,26 @@ bool hasSharedContainers()
     return isProgram("distrobox") || isProgram("toolbox");
 }
 
-/// "not changed since 2024", or in days within this year.
-std::string quietText(TimePoint newest, TimePoint now)
+/// What is said of a folder whose owner is gone.
+struct GoneTexts {
+    Text changedLately; ///< none if such folders are not listed
+    Text quietSinceYear;
+    Text quietForDays;
+};
+
+constexpr GoneTexts kPrograms{{}, ToolsTexts::kNoProgramSince, ToolsTexts::kNoProgramFor};
+constexpr GoneTexts kFlatpaks{ToolsTexts::kNoFlatpak, ToolsTexts::kNoFlatpakSince, ToolsTexts::kNoFlatpakFor};
+constexpr GoneTexts kSnaps{ToolsTexts::kNoSnap, ToolsTexts::kNoSnapSince, ToolsTexts::kNoSnapFor};
+
+Message noteOf(const GoneTexts& texts, const std::string& name, TimePoint newest, TimePoint now)
 {
     using namespace std::chrono;
-    const auto yearOf = [](TimePoint time) { return int(year_month_day(floor<days>(time)).year()); };
+    const auto yearOf = [](TimePoint time) { return year_month_day(floor<days>(time)).year(); };
+    if (newest > now - kQuietDays)
+        return {texts.changedLately, {{"name", name}}};
     if (yearOf(newest) < yearOf(now))
-        return "not changed since " + std::to_string(yearOf(newest));
-    return "not changed for " + std::to_string(floor<days>(now - newest).count()) + " days";
-}
-
-std::string noteOf(std::string_view kind, std::string_view name, TimePoint newest, TimePoint now)
-{
-    std::string note = "No " + std::string(kind) + " named " + std::string(name) + " is installed";
-    if (newest <= now - kQuietDays)
-        note += "; " + quietText(newest, now);
-    return note;
+        return {texts.quietSinceYear, {{"name", name}, {"year", Moment{newest, Moment::Form::year}}}};
+    return {texts.quietForDays, {{"name", name}, {"count", std::int64_t{floor<days>(now - newest).count()}}}};
 }
 
 class Search {
@@ -168,18 +172,18 @@ public:
                 return;
             wasApp = wasApp || look.isWebApp;
             if (!look.isPersonal)
-                folders.push_back({path, noteOf("program", name, look.newest, m_now), look.newest});
+                folders.push_back({path, noteOf(kPrograms, name, look.newest, m_now), look.newest});
         }
         if (wasApp)
             m_found.insert(m_found.end(), folders.begin(), folders.end());
     }
 
     /// The data that a manager of packages kept for one that is gone.
-    void lookAtData(std::string_view kind, std::string_view name, const std::string& path)
+    void lookAtData(const GoneTexts& texts, const std::string& name, const std::string& path)
     {
         const FolderLook look = FolderLook::at(path, m_stop);
         if (look.isComplete && !look.isPersonal && !Safety::isProtected(path))
-            m_found.push_back({path, noteOf(kind, name, look.newest, m_now), look.newest});
+            m_found.push_back({path, noteOf(texts, name, look.newest, m_now), look.newest});
     }
 
     /// Measured, without what frees nothing.
@@ -191,7 +195,7 @@ public:
         std::vector<FileEntry> entries = FS::entries(paths, {}, m_stop);
         for (std::size_t i = 0; i < entries.size(); ++i) {
             entries[i].modified = m_found[i].newest;
-            entries[i].note = m_found[i].note;
+            entries[i].notes = {m_found[i].note};
             entries[i].rating = Rating::review;
         }
         std::erase_if(entries, [](const FileEntry& entry) { return entry.size <= 0; });
@@ -232,10 +236,10 @@ std::vector<FileEntry> find(std::span<const AppInfo> listed, std::span<const Cle
         search.lookAt(candidate);
     }
     for (const AppInfo& app : Flatpaks::removed())
-        search.lookAtData("Flatpak", app.bundleID, app.path);
+        search.lookAtData(kFlatpaks, app.bundleID, app.path);
     for (const Snaps::Removed& snap : Snaps::removed()) {
         for (const std::string& path : snap.folders)
-            search.lookAtData("Snap", snap.name, path);
+            search.lookAtData(kSnaps, snap.name, path);
     }
     std::vector<FileEntry> entries = search.entries();
     return stop.stop_requested() ? std::vector<FileEntry>() : entries;
@@ -245,7 +249,8 @@ CleanPlan plan(std::vector<FileEntry> entries)
 {
     CleanPlan plan;
     plan.title = kTitle;
-    plan.sections.push_back({"left", "Leftovers", "folder.fill", std::move(entries), Rating::review});
+    plan.sections.push_back(
+        {"left", ToolsTexts::kLeftovers, "folder.fill", std::move(entries), Rating::review});
     return plan;
 }
 

@@ -3,11 +3,11 @@
 #include "clean/CleanRecord.h"
 #include "model/CleanPlan.h"
 #include "platform/values/Time.h"
+#include "tools/ToolsTexts.h"
 #include "tools/apps/AppInfo.h"
 
 #include <span>
 #include <stop_token>
-#include <string_view>
 #include <vector>
 
 /// Folders of applications that are gone. A folder counts only when it clearly was an application's, nothing
@@ -18,7 +18,7 @@ namespace orlen::LeftBehind {
 /// How long a folder must have been left alone; not asked of data that Flatpak or Snap keeps by its name.
 inline constexpr std::chrono::days kQuietDays{60};
 
-inline constexpr std::string_view kTitle = "Left behind by apps that are gone";
+inline constexpr Text kTitle = ToolsTexts::kLeftBehind;
 
 /// Rated Review, largest first, each with the reason as its note and the last change of anything inside it.
 /// `listed` are the installed applications, `history` the clean-ups made so far. Empty when stopped. Blocks

@@ -2,6 +2,7 @@
 
 #include "platform/files/Places.h"
 #include "scan/locations/Glob.h"
+#include "tools/ToolsTexts.h"
 
 namespace orlen::LeftoverRoots {
 
@@ -11,43 +12,43 @@ using Kind = LeftoverRules::Kind;
 
 struct Row {
     std::string_view pattern; ///< a word of `Places::expand` and what is below it
-    std::string_view label;
+    Text label;
     Kind kind;
 };
 
 constexpr Row kRows[] = {
-    {"{H}/Library/Preferences", "Preferences", Kind::library},
-    {"{H}/Library/Application Support", "Application Support", Kind::namedLibrary},
-    {"{H}/Library/Caches", "Caches", Kind::namedLibrary},
-    {"{H}/Library/Containers", "Containers", Kind::library},
-    {"{H}/Library/Group Containers", "Containers", Kind::library},
-    {"{H}/Library/Saved Application State", "Saved state", Kind::library},
-    {"{H}/Library/Logs", "Logs", Kind::namedLibrary},
-    {"{H}/Library/HTTPStorages", "Network storage", Kind::library},
-    {"{H}/Library/WebKit", "Web data", Kind::library},
-    {"{H}/Library/Cookies", "Cookies", Kind::library},
-    {"{H}/Library/LaunchAgents", "Launch Agents", Kind::agents},
-    {"{H}/Library/Application Scripts", "Scripts", Kind::library},
-    {"{LIBRARY}/LaunchAgents", "Launch Agents", Kind::agents},
-    {"{LIBRARY}/Application Support", "Application Support", Kind::library},
-    {"{LIBRARY}/Preferences", "Preferences", Kind::library},
-    {"{CONFIG}", "Preferences", Kind::configs},
-    {"{DATA}", "Application Support", Kind::settings},
-    {"{CACHE}", "Caches", Kind::settings},
-    {"{STATE}", "Saved state", Kind::settings},
-    {"{H}/.var/app", "Containers", Kind::container},
-    {"{CONFIG}/autostart", "Launch Agents", Kind::launchers},
-    {"{DATA}/applications", "Launchers", Kind::launchers},
-    {"{H}/Desktop", "Launchers", Kind::launchers},
-    {"{DESKTOP}", "Launchers", Kind::launchers},
-    {"{H}/.local/bin", "Launchers", Kind::links},
-    {"{H}/bin", "Launchers", Kind::links},
-    {"{CONFIG}/systemd/user", "Launch Agents", Kind::units},
-    {"{DATA}/icons/hicolor/*/apps", "Icons and metadata", Kind::metadata},
-    {"{DATA}/metainfo", "Icons and metadata", Kind::metadata},
-    {"{DATA}/appdata", "Icons and metadata", Kind::metadata},
-    {"{DATA}/mime/packages", "Icons and metadata", Kind::metadata},
-    {"{H}", "Preferences", Kind::home},
+    {"{H}/Library/Preferences", ToolsTexts::kPreferences, Kind::library},
+    {"{H}/Library/Application Support", ToolsTexts::kApplicationSupport, Kind::namedLibrary},
+    {"{H}/Library/Caches", ToolsTexts::kCaches, Kind::namedLibrary},
+    {"{H}/Library/Containers", ToolsTexts::kContainers, Kind::library},
+    {"{H}/Library/Group Containers", ToolsTexts::kContainers, Kind::library},
+    {"{H}/Library/Saved Application State", ToolsTexts::kSavedState, Kind::library},
+    {"{H}/Library/Logs", ToolsTexts::kLogs, Kind::namedLibrary},
+    {"{H}/Library/HTTPStorages", ToolsTexts::kNetworkStorage, Kind::library},
+    {"{H}/Library/WebKit", ToolsTexts::kWebData, Kind::library},
+    {"{H}/Library/Cookies", ToolsTexts::kCookies, Kind::library},
+    {"{H}/Library/LaunchAgents", ToolsTexts::kLaunchAgents, Kind::agents},
+    {"{H}/Library/Application Scripts", ToolsTexts::kScripts, Kind::library},
+    {"{LIBRARY}/LaunchAgents", ToolsTexts::kLaunchAgents, Kind::agents},
+    {"{LIBRARY}/Application Support", ToolsTexts::kApplicationSupport, Kind::library},
+    {"{LIBRARY}/Preferences", ToolsTexts::kPreferences, Kind::library},
+    {"{CONFIG}", ToolsTexts::kPreferences, Kind::configs},
+    {"{DATA}", ToolsTexts::kApplicationSupport, Kind::settings},
+    {"{CACHE}", ToolsTexts::kCaches, Kind::settings},
+    {"{STATE}", ToolsTexts::kSavedState, Kind::settings},
+    {"{H}/.var/app", ToolsTexts::kContainers, Kind::container},
+    {"{CONFIG}/autostart", ToolsTexts::kLaunchAgents, Kind::launchers},
+    {"{DATA}/applications", ToolsTexts::kLaunchers, Kind::launchers},
+    {"{H}/Desktop", ToolsTexts::kLaunchers, Kind::launchers},
+    {"{DESKTOP}", ToolsTexts::kLaunchers, Kind::launchers},
+    {"{H}/.local/bin", ToolsTexts::kLaunchers, Kind::links},
+    {"{H}/bin", ToolsTexts::kLaunchers, Kind::links},
+    {"{CONFIG}/systemd/user", ToolsTexts::kLaunchAgents, Kind::units},
+    {"{DATA}/icons/hicolor/*/apps", ToolsTexts::kIconsAndMetadata, Kind::metadata},
+    {"{DATA}/metainfo", ToolsTexts::kIconsAndMetadata, Kind::metadata},
+    {"{DATA}/appdata", ToolsTexts::kIconsAndMetadata, Kind::metadata},
+    {"{DATA}/mime/packages", ToolsTexts::kIconsAndMetadata, Kind::metadata},
+    {"{H}", ToolsTexts::kPreferences, Kind::home},
 };
 
 } // namespace

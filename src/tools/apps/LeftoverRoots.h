@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Text.h"
 #include "tools/apps/LeftoverRules.h"
 
 #include <string>
@@ -11,7 +12,7 @@ namespace orlen {
 /// A folder in which applications leave files.
 struct LeftoverRoot {
     std::string folder;
-    std::string_view label; ///< shown to the user
+    Text label; ///< shown to the user
     LeftoverRules::Kind kind = LeftoverRules::Kind::library;
 };
 
@@ -20,7 +21,6 @@ namespace LeftoverRoots {
 /// All roots in search order. Blocks on the disk.
 [[nodiscard]] std::vector<LeftoverRoot> all();
 
-inline constexpr std::string_view kPortableLabel = "Portable data";
 /// Suffixes of what portable mode and updates put beside an AppImage.
 inline constexpr std::string_view kPortableSuffixes[] = {".home", ".config", ".zsync"};
 /// The folder beside AppImages in which their manager keeps icons.

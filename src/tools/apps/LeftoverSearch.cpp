@@ -26,13 +26,13 @@ namespace {
 using Kind = LeftoverRules::Kind;
 using Match = LeftoverRules::Match;
 
-std::string noteOf(const LeftoverRoot& root, Match match)
+Text noteOf(const LeftoverRoot& root, Match match)
 {
     switch (root.kind) {
     case Kind::library:
     case Kind::namedLibrary:
     case Kind::agents:
-        return std::string(root.label);
+        return root.label;
     case Kind::settings:
     case Kind::configs:
     case Kind::home:
@@ -43,7 +43,7 @@ std::string noteOf(const LeftoverRoot& root, Match match)
     case Kind::links:
         break;
     }
-    return match == Match::nameOnly ? std::string(Leftovers::kByNameOnly) : std::string();
+    return match == Match::nameOnly ? Leftovers::kByNameOnly : Text();
 }
 
 } // namespace
@@ -72,7 +72,7 @@ std::vector<Leftover> LeftoverSearch::run(const std::stop_token& stop)
     std::vector<Leftover> leftovers;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!m_found[i].note.empty())
-            entries[i].note = m_found[i].note;
+            entries[i].notes = {m_found[i].note};
         leftovers.push_back({std::move(entries[i]), m_found[i].isByNameOnly});
     }
     return leftovers;

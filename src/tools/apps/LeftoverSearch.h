@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/FileEntry.h"
+#include "model/Text.h"
 #include "tools/apps/AppInfo.h"
 #include "tools/apps/LeftoverRoots.h"
 #include "tools/apps/LeftoverRules.h"
@@ -31,7 +32,7 @@ public:
 private:
     struct Candidate {
         std::string path;
-        std::string note;
+        Text note;
         bool isByNameOnly = false;
         bool isLink = false; ///< the link itself is meant; other links are kept
     };

@@ -55,7 +55,7 @@ bool isApple(std::string_view bundleID)
     return bundleID.starts_with("com.apple.");
 }
 
-std::string_view label(std::string_view path)
+Text label(std::string_view path)
 {
     using Kind = LeftoverRules::Kind;
     const bool isPortable =
@@ -69,7 +69,7 @@ std::string_view label(std::string_view path)
             (isHidden || root.kind != Kind::home))
             return root.label;
     }
-    return isPortable ? LeftoverRoots::kPortableLabel : std::string_view();
+    return isPortable ? ToolsTexts::kPortableData : Text();
 }
 
 std::vector<FileEntry> find(const std::string& bundleID, const std::string& name, const std::stop_token& stop)

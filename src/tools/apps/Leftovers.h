@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/FileEntry.h"
+#include "model/Text.h"
+#include "tools/ToolsTexts.h"
 #include "tools/apps/AppInfo.h"
 
 #include <span>
@@ -13,13 +15,14 @@
 /// their contents. Protected paths are never included. Blocks on the disk: never call from the main thread.
 namespace orlen::Leftovers {
 
-inline constexpr std::string_view kByNameOnly = "Matched by name only";
+/// A note of those entries that may belong to something else of that name.
+inline constexpr Text kByNameOnly = ToolsTexts::kByNameOnly;
 
 /// Whether the identifier belongs to the system vendor: a warning is shown then, and loose matching is off.
 [[nodiscard]] bool isApple(std::string_view bundleID);
 
 /// What is usually at a leftover's place, for example "Caches"; empty if the path is not one.
-[[nodiscard]] std::string_view label(std::string_view path);
+[[nodiscard]] Text label(std::string_view path);
 
 /// By identifier and name only: all that is known of a removed application. An empty identifier matches
 /// nothing. Root by root, sorted by name; each path once.

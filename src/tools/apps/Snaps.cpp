@@ -4,6 +4,7 @@
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/apps/Launcher.h"
 
 #include <algorithm>
@@ -114,7 +115,7 @@ std::vector<AppInfo> installed()
         app.bundleID = snap;
         app.source = AppSource::snap;
         app.adviceCommand = "snap remove " + snap;
-        app.advice = "Installed by Snap. Remove it in your software centre or with: " + app.adviceCommand;
+        app.advice = {ToolsTexts::kInstalledBySnap, {{"command", app.adviceCommand}}};
         if (const auto launcher = Launcher::read(file, Launcher::Links::followed)) {
             app.name = launcher->name;
             app.icon = launcher->icon;

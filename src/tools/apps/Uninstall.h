@@ -8,7 +8,7 @@
 /// The plan for removing an application. Pure; any thread.
 namespace orlen::Uninstall {
 
-/// Titled "Uninstall " and the name, with a section for the application and, if there are leftovers, one for
+/// Titled "Uninstall" with the name, with a section for the application and, if there are leftovers, one for
 /// them. For the data of a removed Flatpak the first section is "App data". The application must be
 /// removable.
 [[nodiscard]] CleanPlan plan(const AppInfo& app, std::span<const FileEntry> leftovers);

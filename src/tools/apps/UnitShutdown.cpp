@@ -2,8 +2,8 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/LaunchControl.h"
-#include "tools/startup/StartupTexts.h"
 #include "tools/startup/Systemctl.h"
 #include "tools/startup/UnitFolders.h"
 
@@ -25,7 +25,7 @@ bool switchOff(const std::string& path)
     LaunchItem item;
     item.label = PathText::lastComponent(path);
     item.path = path;
-    item.scope = StartupTexts::kYourAccount;
+    item.scope = ToolsTexts::kYourAccount;
     item.source = LaunchSource::systemdUnit;
     const bool isDisabled = LaunchControl::set(item, false);
     return isDisabled && !Systemctl::call({"is-active", "--quiet", item.label});

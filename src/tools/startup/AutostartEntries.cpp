@@ -2,13 +2,13 @@
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
 #include "tools/startup/AutostartSwitch.h"
 #include "tools/startup/DesktopNames.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/SessionUnitName.h"
-#include "tools/startup/StartupTexts.h"
 #include "tools/startup/Systemctl.h"
 
 #include <algorithm>
@@ -54,7 +54,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
     const std::vector<std::string> command = entry->command("Exec");
     item.program = command.empty() ? std::string() : command.front();
     const bool isOwn = PathText::isAtOrBelow(item.path, places.home);
-    item.scope = isOwn ? StartupTexts::kYourAccount : StartupTexts::kAllUsers;
+    item.scope = isOwn ? ToolsTexts::kYourAccount : ToolsTexts::kAllUsers;
     item.enabled = AutostartRules::isEnabled(*entry);
     item.source = LaunchSource::autostartEntry;
     item.name = entry->localizedText("Name", places.languages);
@@ -62,7 +62,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
         item.name = item.label;
     item.isPartOfDesktop = !isOwn && DesktopNames::isPartOfDesktop(item.label);
     item.description = entry->text("Comment");
-    if (const std::string_view why = AutostartSwitch::obstacle(name); !why.empty())
+    if (const Text why = AutostartSwitch::obstacle(name); !why.empty())
         item.forbid(why);
     return item;
 }
@@ -85,9 +85,8 @@ public:
             if (auto item = itemOf(name, path, places))
                 items.push_back(*std::move(item));
         }
-        std::stable_partition(items.begin(), items.end(), [](const LaunchItem& item) {
-            return item.scope == StartupTexts::kYourAccount;
-        });
+        std::stable_partition(items.begin(), items.end(),
+                              [](const LaunchItem& item) { return item.scope == ToolsTexts::kYourAccount; });
         return items;
     }
 

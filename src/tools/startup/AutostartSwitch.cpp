@@ -7,10 +7,10 @@
 #include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
 #include "tools/startup/DesktopEntryEdit.h"
-#include "tools/startup/StartupTexts.h"
 
 #include <algorithm>
 #include <optional>
@@ -112,15 +112,15 @@ bool turnOn(const std::string& name)
     return turn(name, true);
 }
 
-std::string_view obstacle(const std::string& name)
+Text obstacle(const std::string& name)
 {
     const std::string own = ownPath(name);
     const auto status = statusOf(own);
     if (own.empty() || !status.ok())
         return {};
     if (status.value().type == FileType::link)
-        return StartupTexts::kLinkedEntry;
-    return status.value().owner == Places::current().user ? std::string_view() : StartupTexts::kOthersEntry;
+        return ToolsTexts::kLinkedEntry;
+    return status.value().owner == Places::current().user ? Text() : ToolsTexts::kOthersEntry;
 }
 
 } // namespace orlen::AutostartSwitch

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <string>
-#include <string_view>
 
 /// Turns autostart entries on and off by their files. In the user's own entry only the relevant keys change.
 /// A system-wide entry is overridden by a copy in the user's folder, and turned on again by removing the
@@ -15,6 +16,6 @@ bool turnOff(const std::string& name);
 bool turnOn(const std::string& name);
 
 /// Why the entry of this file name cannot be switched, as one sentence; empty if it probably can.
-[[nodiscard]] std::string_view obstacle(const std::string& name);
+[[nodiscard]] Text obstacle(const std::string& name);
 
 } // namespace orlen::AutostartSwitch

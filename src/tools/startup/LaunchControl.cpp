@@ -2,8 +2,8 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/ServiceManager.h"
-#include "tools/startup/StartupTexts.h"
 
 #include <iterator>
 #include <memory>
@@ -38,7 +38,7 @@ std::vector<LaunchItem> load()
             // It could not be shown on a screen or in JSON.
             if (!PathText::isValidUtf8(item.path))
                 continue;
-            const bool isOwn = item.scope == StartupTexts::kYourAccount;
+            const bool isOwn = item.scope == ToolsTexts::kYourAccount;
             (isOwn ? items : ofEverybody).push_back(std::move(item));
         }
     }

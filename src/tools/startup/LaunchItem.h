@@ -1,7 +1,8 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <string>
-#include <string_view>
 
 namespace orlen {
 
@@ -13,7 +14,7 @@ struct LaunchItem {
     std::string label;
     std::string path;    ///< of the file that describes it
     std::string program; ///< what it runs; empty if unknown
-    std::string scope;   ///< "Your account" or "All users"
+    Text scope;          ///< "Your account" or "All users"
     bool enabled = false;
     LaunchSource source = LaunchSource::launchAgent;
     std::string name;             ///< shown to the user: the entry's name, else the label
@@ -21,10 +22,10 @@ struct LaunchItem {
     std::string description;      ///< its purpose in its maker's words; empty if unknown
     /// False if it cannot be switched; `reason` then says why, in one sentence, and is empty otherwise.
     bool isSwitchable = true;
-    std::string reason;
+    Text reason;
 
     /// Makes it unswitchable.
-    void forbid(std::string_view why)
+    void forbid(Text why)
     {
         isSwitchable = false;
         reason = why;

@@ -8,11 +8,11 @@
 #include "platform/process/ChildProcess.h"
 #include "platform/process/OwnProgram.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
 #include "tools/startup/OwnEntry.h"
 #include "tools/startup/ServiceManager.h"
-#include "tools/startup/StartupTexts.h"
 
 #include <algorithm>
 #include <string_view>
@@ -41,16 +41,16 @@ bool isAnyFolderListable(const std::vector<std::string>& folders)
 }
 
 /// What prevents this program from changing its entry in either direction.
-std::optional<std::string> obstacle()
+std::optional<Text> obstacle()
 {
     const Places& places = Places::current();
     if (exists(places.systemRoot + "/.flatpak-info"))
-        return std::string(StartupTexts::kSandboxed);
+        return ToolsTexts::kSandboxed;
     if (!places.isHomeUsable)
-        return std::string(StartupTexts::kUnusableHome);
+        return ToolsTexts::kUnusableHome;
     const auto status = statusOf(entryPath());
     if (status.ok() && status.value().type != FileType::regular)
-        return std::string(StartupTexts::kForeignEntry);
+        return ToolsTexts::kForeignEntry;
     return std::nullopt;
 }
 
@@ -100,19 +100,19 @@ bool isRegistered()
     return !command.empty() && !ChildProcess::programPath(command.front()).empty();
 }
 
-std::optional<std::string> setRegistered(bool registered)
+std::optional<Text> setRegistered(bool registered)
 {
     if (auto reason = obstacle())
         return reason;
     if (!registered) {
         const bool isGone = !exists(entryPath()) || OwnFile::remove(entryPath()).ok();
-        return isGone ? std::nullopt : std::optional(std::string(StartupTexts::kUnwritableFolder));
+        return isGone ? std::nullopt : std::optional(ToolsTexts::kUnwritableFolder);
     }
     const auto text = OwnEntry::text(OwnProgram::path());
     if (!text)
-        return std::string(StartupTexts::kUnwritablePath);
+        return ToolsTexts::kUnwritablePath;
     const bool isWritten = writeEntry(*text).ok();
-    return isWritten ? std::nullopt : std::optional(std::string(StartupTexts::kUnwritableFolder));
+    return isWritten ? std::nullopt : std::optional(ToolsTexts::kUnwritableFolder);
 }
 
 } // namespace orlen::LoginItems

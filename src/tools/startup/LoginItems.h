@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +20,6 @@ namespace orlen::LoginItems {
 
 /// Makes this program open at login, or stops it. Nothing on success, else what went wrong, as a phrase for
 /// the user.
-[[nodiscard]] std::optional<std::string> setRegistered(bool registered);
+[[nodiscard]] std::optional<Text> setRegistered(bool registered);
 
 } // namespace orlen::LoginItems

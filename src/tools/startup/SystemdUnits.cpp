@@ -2,9 +2,9 @@
 #include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/DesktopNames.h"
 #include "tools/startup/ServiceManager.h"
-#include "tools/startup/StartupTexts.h"
 #include "tools/startup/Systemctl.h"
 #include "tools/startup/UnitFile.h"
 #include "tools/startup/UnitFolders.h"
@@ -61,14 +61,14 @@ std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
     item.label = unit.name;
     item.path = path;
     item.program = file->program;
-    item.scope = isOwn ? StartupTexts::kYourAccount : StartupTexts::kAllUsers;
+    item.scope = isOwn ? ToolsTexts::kYourAccount : ToolsTexts::kAllUsers;
     item.enabled = state->meaning == State::Meaning::on;
     item.source = LaunchSource::systemdUnit;
     item.name = item.label;
     item.isPartOfDesktop = DesktopNames::isPartOfDesktop(item.label);
     item.description = file->description;
     if (state->meaning == State::Meaning::masked && !UnitFolders::isMaskedByUser(places, unit.name))
-        item.forbid(StartupTexts::kMaskedElsewhere);
+        item.forbid(ToolsTexts::kMaskedElsewhere);
     return item;
 }
 
@@ -88,7 +88,7 @@ std::optional<Systemctl::Way> turnOff(const LaunchItem& item, const Places& plac
     const std::string& unit = item.label;
     const bool isTaken = UnitFolders::isTakenByUser(places, unit);
     const bool isOwn =
-        item.scope == StartupTexts::kYourAccount || isTaken || !UnitLinks::ofUser(places, unit).empty();
+        item.scope == ToolsTexts::kYourAccount || isTaken || !UnitLinks::ofUser(places, unit).empty();
     if (isOwn) {
         const auto way = UnitFolders::isLinkedByUser(places, unit) ? removeLinks(places, unit)
                                                                    : Systemctl::change("disable", unit);
@@ -114,8 +114,8 @@ public:
                 items.push_back(*std::move(item));
         }
         std::sort(items.begin(), items.end(), [](const LaunchItem& left, const LaunchItem& right) {
-            const bool isLeftOwn = left.scope == StartupTexts::kYourAccount;
-            const bool isRightOwn = right.scope == StartupTexts::kYourAccount;
+            const bool isLeftOwn = left.scope == ToolsTexts::kYourAccount;
+            const bool isRightOwn = right.scope == ToolsTexts::kYourAccount;
             return isLeftOwn != isRightOwn ? isLeftOwn : left.label < right.label;
         });
         const auto isSame = [](const LaunchItem& left, const LaunchItem& right) {

@@ -151,7 +151,7 @@ TEST_F(ImageWorkersTest, aWorkerEndsWithTheProgramEvenInTheMiddleOfAPicture)
     const auto timeOfEnd = [&](auto&& end) {
         const UniqueFd file = std::move(openFile(large).value());
         auto sockets = DescriptorSocket::makePair();
-        ChildProcess::Call call{{ORLEN_RECOGNIZER, "1500000000", "60", "60000"}, {}};
+        ChildProcess::Call call{{ORLEN_RECOGNIZER, "1500000000", "60", "240000"}, {}};
         const auto process = ProcessStart::start(call, ProcessStart::Belonging::ownGroup,
                                                  {.input = sockets.value().theirs.get()});
         sockets.value().theirs.reset();
@@ -168,7 +168,7 @@ TEST_F(ImageWorkersTest, aWorkerEndsWithTheProgramEvenInTheMiddleOfAPicture)
     };
     const auto whole = timeOfEnd([](UniqueFd& socket) {
         pollfd answer{socket.get(), POLLIN, 0};
-        EXPECT_EQ(::poll(&answer, 1, 60'000), 1);
+        EXPECT_EQ(::poll(&answer, 1, 240'000), 1);
         socket.reset();
     });
     EXPECT_LT(timeOfEnd([](UniqueFd& socket) { socket.reset(); }), whole / 2);

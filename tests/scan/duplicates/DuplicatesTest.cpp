@@ -355,10 +355,11 @@ TEST(DuplicatesTest, entriesTellWhenRemovingThemFreesLittleOrTouchesARepository)
     const Finding finding = Duplicates::finding(Duplicates::find(cands, {}));
     ASSERT_EQ(finding.items.size(), 2U);
     EXPECT_EQ(finding.items[0].size, 8192);
-    EXPECT_EQ(finding.items[0].note, "Identical to a — Orlen keeps that copy · Part of a repository");
+    EXPECT_EQ(noteOf(finding.items[0]).base(),
+              "Identical to a — Orlen keeps that copy · Part of a repository");
     EXPECT_TRUE(finding.items[0].isTickedAlone);
     EXPECT_EQ(finding.items[1].size, 0);
-    EXPECT_EQ(finding.items[1].note,
+    EXPECT_EQ(noteOf(finding.items[1]).base(),
               "Identical to a — Orlen keeps that copy · Frees nothing: the file has another name elsewhere");
     EXPECT_FALSE(finding.items[1].isTickedAlone);
 }
@@ -374,13 +375,13 @@ TEST(DuplicatesTest, theFindingListsAllCopiesButTheKeptOneAndNamesIt)
     EXPECT_EQ(finding.kind, FindingKind::duplicates);
     ASSERT_EQ(finding.items.size(), 3U);
     EXPECT_EQ(finding.items[0].path, "/h/z");
-    EXPECT_EQ(finding.items[0].note, "Identical to ü — Orlen keeps that copy");
+    EXPECT_EQ(noteOf(finding.items[0]).base(), "Identical to ü — Orlen keeps that copy");
     EXPECT_EQ(finding.items[1].path, "/h/x");
     EXPECT_EQ(finding.items[1].size, 5000);
     EXPECT_EQ(finding.items[1].modified, kToday);
-    EXPECT_EQ(finding.items[1].note, "Identical to a b.txt — Orlen keeps that copy");
+    EXPECT_EQ(noteOf(finding.items[1]).base(), "Identical to a b.txt — Orlen keeps that copy");
     EXPECT_EQ(
-        finding.items[2].note,
+        noteOf(finding.items[2]).base(),
         "Identical to a b.txt — Orlen keeps that copy · Shares its data on disk; removing it frees little");
 }
 

@@ -110,7 +110,7 @@ TEST_F(LocationScannersTest, entriesBelowTheMinimumOfTheirPlaceAreLeftOut)
         EXPECT_EQ(entries[1].path, folder + "/enough");
         EXPECT_EQ(entries[1].size, c.enough);
         EXPECT_TRUE(entries[1].modified.has_value());
-        EXPECT_EQ(entries[1].note.value_or(""), c.note);
+        EXPECT_EQ(noteOf(entries[1]).base(), c.note);
     }
 }
 
@@ -146,7 +146,7 @@ TEST_F(LocationScannersTest, singlePlacesCarryTheirNotesAndNeedContents)
         ASSERT_EQ(entries.size(), 1U);
         EXPECT_EQ(entries[0].path, home.path(c.path));
         EXPECT_EQ(entries[0].size, kBlock);
-        EXPECT_EQ(entries[0].note, c.note);
+        EXPECT_EQ(noteOf(entries[0]).base(), c.note);
     }
 }
 
@@ -293,9 +293,10 @@ TEST_F(LocationScannersTest, everySandboxHasACacheFolderOfItsOwn)
     for (const FileEntry& entry : entries) {
         const bool isFlatpak = entry.path.ends_with("mozilla");
         EXPECT_EQ(entry.rating, isFlatpak ? std::nullopt : std::optional(Rating::review));
-        EXPECT_EQ(entry.note, isFlatpak ? "Flatpak app org.x.App · Browser cache, rebuilt as you browse."
-                                        : "Snap app app · Orlen does not know this cache. Most can go; look "
-                                          "inside first.");
+        EXPECT_EQ(noteOf(entry).base(),
+                  isFlatpak ? "Flatpak app org.x.App · Browser cache, rebuilt as you browse."
+                            : "Snap app app · Orlen does not know this cache. Most can go; look "
+                              "inside first.");
     }
     EXPECT_THAT(names(FindingKind::npm), ElementsAre("home/.var/app/org.x.App/cache/yarn"));
 }
@@ -313,7 +314,7 @@ TEST_F(LocationScannersTest, applicationsWithWebViewsGiveUpTheirCachesOnly)
                 UnorderedElementsAre("home/.config/Chat/Cache", "home/.config/Chat/GPUCache",
                                      "home/.config/Chat/Service Worker/ScriptCache",
                                      "home/.config/Chat/Partitions/main/Code Cache"));
-    EXPECT_EQ(scan(FindingKind::caches).front().note, "Chat cache — quit the app first");
+    EXPECT_EQ(noteOf(scan(FindingKind::caches).front()).base(), "Chat cache — quit the app first");
 }
 
 TEST_F(LocationScannersTest, contentsTellWhatANameCannot)
@@ -354,7 +355,7 @@ TEST_F(LocationScannersTest, runningProgramsAreToQuitFirst)
     const std::string process = home.outside("system/proc/4242");
     home.folder(process);
     home.link(process + "/exe", "/usr/lib/firefox/firefox");
-    EXPECT_EQ(scan(FindingKind::caches).front().note,
+    EXPECT_EQ(noteOf(scan(FindingKind::caches).front()).base(),
               "Browser cache, rebuilt as you browse. · Quit firefox first");
 }
 
@@ -383,7 +384,7 @@ TEST_F(LocationScannersTest, onlyLogsOfProgramStatesAreOffered)
                                      "home/.local/state/logs/own.log"));
     for (const FileEntry& entry : scan(FindingKind::logs)) {
         const std::string_view below = std::string_view(entry.path).substr(home.path(".local/state/").size());
-        EXPECT_EQ(entry.note, std::string(below.substr(0, below.find('/'))));
+        EXPECT_EQ(noteOf(entry).base(), std::string(below.substr(0, below.find('/'))));
     }
 }
 
@@ -422,7 +423,7 @@ TEST_F(LocationScannersTest, trashTellsWhereItemsWere)
         });
         ASSERT_NE(entry, entries.end());
         const std::string note = "Deleted from " + home.outside(c.note);
-        EXPECT_EQ(entry->note, *c.note == 0 ? std::nullopt : std::optional(note));
+        EXPECT_EQ(noteOf(*entry).base(), *c.note == 0 ? std::string() : note);
     }
 }
 

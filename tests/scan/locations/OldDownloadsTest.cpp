@@ -128,7 +128,7 @@ TEST_F(OldDownloadsTest, repositoriesAreNoted)
     ASSERT_EQ(entries.size(), 3U);
     for (const FileEntry& entry : entries) {
         const bool isNoted = !entry.path.ends_with("plain");
-        EXPECT_EQ(entry.note, isNoted ? std::optional<std::string>("Contains a repository") : std::nullopt);
+        EXPECT_EQ(noteOf(entry).base(), isNoted ? "Contains a repository" : "");
     }
 }
 

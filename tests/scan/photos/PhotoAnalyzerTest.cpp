@@ -80,7 +80,7 @@ std::string verdict(const Photo& photo)
 {
     for (const Finding& finding : findingsOf({photo})) {
         if (!finding.items.empty())
-            return std::string(finding.id()) + ": " + finding.items.front().note.value_or("");
+            return std::string(finding.id()) + ": " + noteOf(finding.items.front()).base();
     }
     return {};
 }
@@ -178,8 +178,8 @@ TEST(PhotoAnalyzerTest, ofDifferentShotsTheSharpestIsKeptOrOfTwoAlikeTheLargest)
         EXPECT_EQ(alike.items.size(), photos.size() - 1);
         for (const FileEntry& entry : alike.items) {
             EXPECT_NE(entry.path, photos[c.keeper].path);
-            EXPECT_THAT(entry.note.value_or(""), StartsWith("Similar to " + std::to_string(c.keeper) +
-                                                            ".jpg — keeping the sharpest · Similar shot"));
+            EXPECT_THAT(noteOf(entry).base(), StartsWith("Similar to " + std::to_string(c.keeper) +
+                                                         ".jpg — keeping the sharpest · Similar shot"));
         }
     }
 }
@@ -214,7 +214,7 @@ TEST(PhotoAnalyzerTest, ofCopiesTheOneThatLostLeastIsKeptAndTheOthersSayWhatThey
         const Finding alike = findingsOf({c.copy, original}).front();
         ASSERT_EQ(alike.items.size(), 1U);
         EXPECT_EQ(alike.items[0].path, "/p/c");
-        EXPECT_EQ(alike.items[0].note,
+        EXPECT_EQ(noteOf(alike.items[0]).base(),
                   "Similar to o.jpg — keeping the sharpest · Identical picture, " + std::string(c.lacks));
     }
     const Photo drawing{"/p/drawing.png", {}, 10, kWide, 2'000, 1, 0, {.format = png}};
@@ -231,8 +231,8 @@ TEST(PhotoAnalyzerTest, aShotIsKeptInItsBestCopy)
                                      })
                               .front();
     EXPECT_THAT(pathsOf(alike), ElementsAre("/p/soft.jpg", "/p/sharp, sent.jpg"));
-    EXPECT_THAT(alike.items[0].note.value_or(""), EndsWith("Similar shot, softer"));
-    EXPECT_THAT(alike.items[1].note.value_or(""), EndsWith("Identical picture, smaller"));
+    EXPECT_THAT(noteOf(alike.items[0]).base(), EndsWith("Similar shot, softer"));
+    EXPECT_THAT(noteOf(alike.items[1]).base(), EndsWith("Identical picture, smaller"));
 }
 
 TEST(PhotoAnalyzerTest, aDamagedPictureIsInNoSet)

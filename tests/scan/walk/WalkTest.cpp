@@ -172,7 +172,7 @@ TEST_F(WalkTest, taggedCachesAreOfferedWholeForReview)
     EXPECT_EQ(entry.path, home.path("p/target"));
     EXPECT_EQ(entry.size, kJustCand + 4096);
     EXPECT_EQ(entry.rating, Rating::review);
-    EXPECT_EQ(entry.note, "Marked as a cache");
+    EXPECT_EQ(noteOf(entry).base(), "Marked as a cache");
     EXPECT_EQ(entry.stamp, FileStamp::of(statusOf(entry.path).value()));
 }
 
@@ -221,7 +221,7 @@ TEST_F(WalkTest, hiddenCachesAreCollectedWhenTheyOrTheirProjectSaySo)
     std::vector<std::pair<std::string, std::string>> caches;
     for (const FileEntry& entry : walk().caches) {
         EXPECT_EQ(entry.rating, Rating::review);
-        caches.emplace_back(entry.path.substr(home.path().size() + 1), entry.note.value_or(""));
+        caches.emplace_back(entry.path.substr(home.path().size() + 1), noteOf(entry).base());
     }
     const std::string again = "Downloaded or built again";
     EXPECT_THAT(caches, testing::UnorderedElementsAre(std::pair("a/.mypy_cache", "Marked as a cache"),

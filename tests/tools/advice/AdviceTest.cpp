@@ -171,12 +171,12 @@ TEST(AdviceTest, whatMayNotBeReadIsSaid)
     const AdviceItem docker = Machine::named("docker-system");
     EXPECT_EQ(docker.known, AdviceItem::Known::nothing);
     EXPECT_EQ(docker.size, 0);
-    EXPECT_EQ(docker.sizeText(), "needs administrator rights");
+    EXPECT_EQ(docker.sizeText().base(), "needs administrator rights");
     EXPECT_EQ(docker.command, "sudo docker system prune");
     const AdviceItem podman = Machine::named("podman");
     EXPECT_EQ(podman.known, AdviceItem::Known::part);
     EXPECT_EQ(podman.size, kSize);
-    EXPECT_EQ(podman.sizeText(), "at least 4.2 MB");
+    EXPECT_EQ(podman.sizeText().base(), "at least 4.2 MB");
 }
 
 TEST(AdviceTest, unusedFlatpakRuntimesCount)
@@ -222,6 +222,7 @@ TEST(AdviceTest, olderRevisionsOfSnapsAreSpelledOut)
     const AdviceItem item = Machine::named("snap-revisions");
     EXPECT_EQ(item.size, 2 * kSize);
     EXPECT_EQ(item.command, "sudo snap remove core22 --revision=1 && sudo snap remove reverted --revision=7");
+    EXPECT_TRUE(item.text.base().ends_with(" See them with: snap list --all"));
 }
 
 TEST(AdviceTest, logsAndJournalCountApart)

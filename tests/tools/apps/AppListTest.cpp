@@ -214,9 +214,10 @@ TEST(AppListTest, managedApplicationsComeWithAdvice)
     home.fileOfSize(snaps + "snaps/baz_7.snap", 40 * kKibibyte);
     const std::vector<AppInfo> apps = AppList::list();
     ASSERT_THAT(names(apps), ElementsAre("Bar", "Baz", "Foo!"));
-    EXPECT_EQ(apps[0].advice, "Installed by Flatpak. Remove it in your software centre or with: flatpak "
-                              "uninstall --delete-data org.bar.Bar");
-    EXPECT_EQ(apps[1].advice,
+    EXPECT_EQ(apps[0].advice.base(),
+              "Installed by Flatpak. Remove it in your software centre or with: flatpak "
+              "uninstall --delete-data org.bar.Bar");
+    EXPECT_EQ(apps[1].advice.base(),
               "Installed by Snap. Remove it in your software centre or with: snap remove baz");
     EXPECT_EQ(apps[1].path, snaps + "snaps/baz_7.snap");
     EXPECT_EQ(apps[2].adviceCommand, "flatpak uninstall --delete-data --user org.foo.Foo");
@@ -244,7 +245,7 @@ TEST(AppListTest, onlyTheDataOfARemovedFlatpakIsListed)
     EXPECT_EQ(apps[0].source, AppSource::removedFlatpak);
     const CleanPlan plan = Uninstall::plan(apps[0], {});
     ASSERT_EQ(plan.sections.size(), 1U);
-    EXPECT_EQ(plan.sections[0].title, "App data");
+    EXPECT_EQ(plan.sections[0].title.base(), "App data");
 }
 
 TEST(AppListTest, theProgramItselfIsLeftOut)
@@ -312,12 +313,12 @@ TEST(UninstallTest, thePlanHoldsTheApplicationThenItsLeftovers)
     FileEntry left;
     left.path = "/home/x";
     const CleanPlan plan = Uninstall::plan(app, std::vector<FileEntry>{left});
-    EXPECT_EQ(plan.title, "Uninstall Foo");
+    EXPECT_EQ(plan.title.base(), "Uninstall Foo");
     ASSERT_EQ(plan.sections.size(), 2U);
-    EXPECT_EQ(plan.sections[0].id + plan.sections[0].title + plan.sections[0].symbol,
+    EXPECT_EQ(plan.sections[0].id + plan.sections[0].title.base() + plan.sections[0].symbol,
               "appApplicationapp.fill");
     EXPECT_EQ(plan.sections[0].entries[0].size, 4096);
-    EXPECT_EQ(plan.sections[1].id + plan.sections[1].title + plan.sections[1].symbol,
+    EXPECT_EQ(plan.sections[1].id + plan.sections[1].title.base() + plan.sections[1].symbol,
               "leftLeftoversfolder.fill");
     EXPECT_EQ(Uninstall::plan(app, {}).sections.size(), 1U);
 }

@@ -1,6 +1,7 @@
 #include "tools/apps/LeftBehind.h"
 
 #include "clean/Safety.h"
+#include "model/Words.h"
 #include "tools/apps/AppHome.h"
 #include "tools/apps/AppList.h"
 
@@ -14,7 +15,6 @@ namespace {
 
 using std::chrono::days;
 using testing::ElementsAre;
-using testing::Eq;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Optional;
@@ -65,9 +65,9 @@ TEST(LeftBehindTest, foldersOfAnAppThatIsGoneAreListedWithTheReason)
     EXPECT_EQ(entries[0].size, 40'960);
     EXPECT_THAT(entries[0].rating, Optional(Rating::review));
     EXPECT_THAT(entries[0].modified, Optional(*timeFromIso("2025-02-01T10:00:00Z")));
-    EXPECT_THAT(entries[1].note, Optional(HasSubstr("is installed; not changed since 2024")));
+    EXPECT_THAT(noteOf(entries[1]).base(), HasSubstr("is installed; not changed since 2024"));
     const CleanPlan plan = LeftBehind::plan(entries);
-    EXPECT_EQ(plan.title, "Left behind by apps that are gone");
+    EXPECT_EQ(plan.title.base(), "Left behind by apps that are gone");
     ASSERT_EQ(plan.sections.size(), 1U);
     EXPECT_EQ(plan.sections[0].entries, entries);
 }
@@ -167,7 +167,7 @@ TEST(LeftBehindTest, sixtyQuietDaysAreEnough)
     home.old(".config/Fooqux/a", kNow - days(60));
     home.old(".cache/Fooqux/a", kNow - days(61));
     ASSERT_EQ(home.found().size(), 2U);
-    EXPECT_THAT(LeftHome::entries()[0].note, Optional(HasSubstr("not changed for 6")));
+    EXPECT_THAT(noteOf(LeftHome::entries()[0]).base(), HasSubstr("not changed for 6"));
     home.old(".cache/Fooqux/a", kNow - days(60) + std::chrono::seconds(1));
     EXPECT_THAT(home.found(), IsEmpty());
 }
@@ -214,8 +214,9 @@ TEST(LeftBehindTest, dataOfRemovedFlatpaksAndSnapsIsListed)
     home.file(home.outside("system/var/lib/snapd/snaps/here_7.snap"));
     const std::vector<FileEntry> entries = LeftHome::entries();
     EXPECT_THAT(home.found(), ElementsAre(".var/app/org.fooqux.Gone", "snap/gone/12", "snap/gone/common"));
-    EXPECT_THAT(entries[0].note, Optional(Eq("No Flatpak named org.fooqux.Gone is installed")));
-    EXPECT_THAT(entries[2].note, Optional(Eq("No Snap named gone is installed; not changed since 2024")));
+    EXPECT_EQ(noteOf(entries[0]).base(), "No Flatpak named org.fooqux.Gone is installed");
+    EXPECT_EQ(noteOf(entries[2]).base(), "No Snap named gone is installed; not changed since 2024");
+    EXPECT_EQ(shown(noteOf(entries[2])), "No Snap named gone is installed; not changed since 2024");
     TempHome::setMode(home.outside("system/var/lib/snapd/snaps"), 0);
     EXPECT_THAT(home.found(), ElementsAre(".var/app/org.fooqux.Gone"));
 }

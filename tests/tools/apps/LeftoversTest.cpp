@@ -13,9 +13,7 @@ namespace orlen {
 namespace {
 
 using testing::ElementsAre;
-using testing::Eq;
 using testing::IsEmpty;
-using testing::Optional;
 
 std::vector<std::string> paths(const std::vector<FileEntry>& entries)
 {
@@ -72,10 +70,10 @@ TEST(LeftoversTest, aLibraryIsSearchedByIdentifierAndName)
     home.folder(library + "Application Support/Foo");
     const std::vector<FileEntry> entries = Leftovers::find("org.foo.Foo", "Foo");
     EXPECT_EQ(paths(entries), expected);
-    EXPECT_THAT(entries[0].note, Optional(Eq("Preferences")));
-    EXPECT_THAT(entries[3].note, Optional(Eq("Containers")));
-    EXPECT_EQ(Leftovers::label(expected[6]), "Launch Agents");
-    EXPECT_EQ(Leftovers::label(home.path("Library")), "");
+    EXPECT_EQ(noteOf(entries[0]).base(), "Preferences");
+    EXPECT_EQ(noteOf(entries[3]).base(), "Containers");
+    EXPECT_EQ(Leftovers::label(expected[6]).base(), "Launch Agents");
+    EXPECT_EQ(Leftovers::label(home.path("Library")).base(), "");
 }
 
 TEST(LeftoversTest, looseMatchesAreOffForApples)
@@ -131,7 +129,7 @@ TEST(LeftoversTest, theBaseFoldersAreSearchedByTheirOwnRules)
         home.file(c.path);
         const std::vector<FileEntry> entries = Leftovers::find("org.foo.Foo", "My Foo");
         ASSERT_EQ(entries.size(), c.isLeft ? 1U : 0U);
-        EXPECT_EQ(c.isLeft && entries[0].note == Leftovers::kByNameOnly, c.isByName);
+        EXPECT_EQ(c.isLeft && entries[0].notes == std::vector<Message>{Leftovers::kByNameOnly}, c.isByName);
         EXPECT_FALSE(c.isLeft && Leftovers::label(entries[0].path).empty());
     }
 }
@@ -219,9 +217,9 @@ TEST(LeftoversTest, whatStartsTheApplicationGoesWithIt)
                             ".config/systemd/user/foo.service", "Applications/Foo Bar.AppImage.home",
                             "Applications/Foo Bar.AppImage.config"));
     EXPECT_THAT(names(home, finding.byName), ElementsAre(".cache/foo-bar"));
-    EXPECT_EQ(Leftovers::label(finding.entries.back().path), "Portable data");
-    EXPECT_EQ(Leftovers::label(home.path("Desktop/x.desktop")), "Launchers");
-    EXPECT_EQ(Leftovers::label(home.path("Desktop/X.AppImage.home")), "Portable data");
+    EXPECT_EQ(Leftovers::label(finding.entries.back().path).base(), "Portable data");
+    EXPECT_EQ(Leftovers::label(home.path("Desktop/x.desktop")).base(), "Launchers");
+    EXPECT_EQ(Leftovers::label(home.path("Desktop/X.AppImage.home")).base(), "Portable data");
 }
 
 TEST(LeftoversTest, linksIntoAFolderThatAreDeadAlreadyGoWithIt)

@@ -1,5 +1,6 @@
 #include "platform/desktop/DesktopEntry.h"
 #include "platform/process/ChildProcess.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/DesktopNames.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/SessionUnitName.h"
@@ -45,7 +46,7 @@ std::vector<std::string> listedEntries()
 {
     std::vector<std::string> lines;
     for (const LaunchItem& item : items())
-        lines.push_back(item.label + " " + item.scope + (item.enabled ? " on" : " off"));
+        lines.push_back(item.label + " " + std::string(item.scope.base()) + (item.enabled ? " on" : " off"));
     return lines;
 }
 
@@ -69,9 +70,10 @@ TEST(AutostartEntriesTest, anItemDescribesItsEntry)
     home.settle();
     const std::string path = home.own("org.example.Chat.desktop");
     const std::string wide = home.shared("at-spi-dbus-bus.desktop", "[Desktop Entry]\nExec=env A=b spi\n");
-    EXPECT_THAT(items(), ElementsAre(LaunchItem{"org.example.Chat", path, "/opt/My Chat/chat", "Your account",
-                                                true, LaunchSource::autostartEntry, "Plausch", false},
-                                     LaunchItem{"at-spi-dbus-bus", wide, "spi", "All users", true,
+    EXPECT_THAT(items(), ElementsAre(LaunchItem{"org.example.Chat", path, "/opt/My Chat/chat",
+                                                ToolsTexts::kYourAccount, true, LaunchSource::autostartEntry,
+                                                "Plausch", false},
+                                     LaunchItem{"at-spi-dbus-bus", wide, "spi", ToolsTexts::kAllUsers, true,
                                                 LaunchSource::autostartEntry, "at-spi-dbus-bus", true}));
 }
 

@@ -1,4 +1,5 @@
 #include "platform/process/ChildProcess.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/StartupHome.h"
 #include "tools/startup/UnitFolders.h"
@@ -50,11 +51,11 @@ std::vector<std::string> listedUnits()
 {
     std::vector<std::string> items;
     for (const LaunchItem& item : makeSystemdUnits()->items())
-        items.push_back(item.label + " " + item.scope + (item.enabled ? " on" : " off"));
+        items.push_back(item.label + " " + std::string(item.scope.base()) + (item.enabled ? " on" : " off"));
     return items;
 }
 
-LaunchItem unit(const std::string& label, const std::string& scope)
+LaunchItem unit(const std::string& label, Text scope)
 {
     return {.label = label, .scope = scope, .source = LaunchSource::systemdUnit};
 }
@@ -98,9 +99,9 @@ TEST(SystemdUnitsTest, anItemDescribesItsUnit)
     const std::string path = home.shared("pipewire-pulse.service");
     home.link(".config/systemd/user/pipewire-pulse.service", "/dev/null");
     home.manager("[" + entry("pipewire-pulse.service", "masked") + "]");
-    const LaunchItem expected{
-        "pipewire-pulse.service", path, "/opt/run", "All users", false, LaunchSource::systemdUnit,
-        "pipewire-pulse.service", true};
+    const LaunchItem expected{"pipewire-pulse.service", path,  "/opt/run",
+                              ToolsTexts::kAllUsers,    false, LaunchSource::systemdUnit,
+                              "pipewire-pulse.service", true};
     EXPECT_THAT(makeSystemdUnits()->items(), ElementsAre(expected));
 }
 
@@ -156,12 +157,12 @@ TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
         std::vector<std::string> calls;
         bool isDone;
     };
-    const LaunchItem own = unit("a.service", "Your account");
-    const LaunchItem shared = unit("b.service", "All users");
-    const LaunchItem masked = unit("c.service", "All users");
-    const LaunchItem chosen = unit("e.service", "All users");
-    const LaunchItem twice = unit("f.service", "Your account");
-    const LaunchItem covered = unit("d.service", "All users");
+    const LaunchItem own = unit("a.service", ToolsTexts::kYourAccount);
+    const LaunchItem shared = unit("b.service", ToolsTexts::kAllUsers);
+    const LaunchItem masked = unit("c.service", ToolsTexts::kAllUsers);
+    const LaunchItem chosen = unit("e.service", ToolsTexts::kAllUsers);
+    const LaunchItem twice = unit("f.service", ToolsTexts::kYourAccount);
+    const LaunchItem covered = unit("d.service", ToolsTexts::kAllUsers);
     const auto live = [](const std::string& call) { return "systemctl: --user " + call; };
     const auto offline = [](const std::string& call) { return "systemctl offline: --user " + call; };
     const Case cases[] = {
@@ -180,8 +181,8 @@ TEST(SystemdUnitsTest, switchingRunsTheToolAsItsOrderSays)
          {live("disable f.service"), live("mask f.service"), live("stop f.service")},
          true},
         {"nothing works", own, false, "*", {live("disable a.service"), offline("disable a.service")}, false},
-        {"an option", unit("--now.service", "Your account"), false, "-", {}, false},
-        {"a path", unit("../a.service", "Your account"), true, "-", {}, false},
+        {"an option", unit("--now.service", ToolsTexts::kYourAccount), false, "-", {}, false},
+        {"a path", unit("../a.service", ToolsTexts::kYourAccount), true, "-", {}, false},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -202,7 +203,7 @@ TEST(SystemdUnitsTest, withoutABusTheFilesAreChangedAndNothingIsStopped)
 {
     const Units home;
     home.tool("systemctl", "[ -n \"$SYSTEMD_OFFLINE\" ]");
-    EXPECT_TRUE(makeSystemdUnits()->set(unit("b.service", "All users"), false));
+    EXPECT_TRUE(makeSystemdUnits()->set(unit("b.service", ToolsTexts::kAllUsers), false));
     EXPECT_THAT(home.changes(),
                 ElementsAre("systemctl: --user mask b.service", "systemctl offline: --user mask b.service"));
 }
@@ -216,7 +217,7 @@ TEST(SystemdUnitsTest, whatIsMaskedElsewhereHasNoSwitch)
     const std::vector<LaunchItem> items = makeSystemdUnits()->items();
     ASSERT_EQ(items.size(), 1U);
     EXPECT_FALSE(items[0].isSwitchable);
-    EXPECT_NE(items[0].reason, "");
+    EXPECT_FALSE(items[0].reason.empty());
 }
 
 TEST(SystemdUnitsTest, aLinkedUnitKeepsItsLink)
@@ -243,13 +244,13 @@ TEST(SystemdUnitsTest, aLinkedUnitKeepsItsLink)
         }
         ASSERT_THAT(listedUnits(), Contains("orlen-test.service Your account on"));
         const auto manager = makeSystemdUnits();
-        EXPECT_TRUE(manager->set(unit("orlen-test.service", "Your account"), false));
+        EXPECT_TRUE(manager->set(unit("orlen-test.service", ToolsTexts::kYourAccount), false));
         EXPECT_TRUE(TempHome::exists(link));
         EXPECT_FALSE(TempHome::exists(wants));
         EXPECT_FALSE(TempHome::exists(alias));
         EXPECT_EQ(TempHome::content(file), text);
         EXPECT_THAT(listedUnits(), ElementsAre("orlen-test.service Your account off"));
-        EXPECT_EQ(manager->set(unit("orlen-test.service", "Your account"), true), isReal);
+        EXPECT_EQ(manager->set(unit("orlen-test.service", ToolsTexts::kYourAccount), true), isReal);
         EXPECT_EQ(TempHome::exists(wants), isReal);
     }
 }
@@ -302,20 +303,20 @@ TEST(SystemdUnitsTest, theRealToolSwitchesOffAndOnAgain)
     const std::string link = home.path(".config/systemd/user/default.target.wants/orlen-test.service");
     (void)home.own("orlen-test.service");
     const auto manager = makeSystemdUnits();
-    const LaunchItem own = unit("orlen-test.service", "Your account");
+    const LaunchItem own = unit("orlen-test.service", ToolsTexts::kYourAccount);
     EXPECT_TRUE(manager->set(own, true));
     EXPECT_TRUE(TempHome::exists(link));
     EXPECT_TRUE(manager->set(own, false));
     EXPECT_FALSE(TempHome::exists(link));
     EXPECT_EQ(TempHome::content(home.path(".config/systemd/user/orlen-test.service")), kUnit);
 
-    const LaunchItem shared = unit("orlen-test-shared.service", "All users");
+    const LaunchItem shared = unit("orlen-test-shared.service", ToolsTexts::kAllUsers);
     const std::string mask = home.path(".config/systemd/user/orlen-test-shared.service");
     EXPECT_TRUE(manager->set(shared, false));
     EXPECT_TRUE(UnitFolders::isMaskedByUser(Places::current(), shared.label));
     EXPECT_TRUE(manager->set(shared, true));
     EXPECT_FALSE(TempHome::exists(mask));
-    EXPECT_FALSE(manager->set(unit("orlen-test-missing.service", "Your account"), true));
+    EXPECT_FALSE(manager->set(unit("orlen-test-missing.service", ToolsTexts::kYourAccount), true));
 }
 
 TEST(SystemdUnitsTest, theFoldersComeInTheOrderOfTheRealManager)

@@ -3,8 +3,8 @@
 #include "platform/mac/PropertyList.h"
 #include "platform/process/ChildProcess.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/ServiceManager.h"
-#include "tools/startup/StartupTexts.h"
 #include "tools/startup/mac/Launchctl.h"
 #include "tools/startup/mac/PrintDisabled.h"
 
@@ -57,7 +57,7 @@ std::optional<LaunchItem> itemAt(const std::string& path)
     return item;
 }
 
-void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std::string_view scope,
+void appendItems(std::vector<LaunchItem>& items, const std::string& folder, Text scope,
                  const PrintDisabled::Labels& disabled)
 {
     // The folder may be a link of the user's: list its target.
@@ -68,7 +68,7 @@ void appendItems(std::vector<LaunchItem>& items, const std::string& folder, std:
         if (!item)
             continue;
         if (ChildProcess::programPath(Places::current().launchctl).empty())
-            item->forbid(StartupTexts::kNoAgentTool);
+            item->forbid(ToolsTexts::kNoAgentTool);
         item->scope = scope;
         item->enabled = !disabled.contains(item->label);
         items.push_back(*std::move(item));
@@ -82,8 +82,8 @@ public:
         const Places& places = Places::current();
         const PrintDisabled::Labels disabled = disabledLabels();
         std::vector<LaunchItem> items;
-        appendItems(items, places.home + "/Library/LaunchAgents", StartupTexts::kYourAccount, disabled);
-        appendItems(items, places.library + "/LaunchAgents", StartupTexts::kAllUsers, disabled);
+        appendItems(items, places.home + "/Library/LaunchAgents", ToolsTexts::kYourAccount, disabled);
+        appendItems(items, places.library + "/LaunchAgents", ToolsTexts::kAllUsers, disabled);
         return items;
     }
 

@@ -102,7 +102,7 @@ TEST_F(LanguagePacksTest, entriesOfAllApplicationsAreLargestFirstWithSizeAndDate
     EXPECT_EQ(entries[0].path, resources("B.app") + "it.lproj");
     EXPECT_EQ(entries[0].size, 12'288);
     EXPECT_TRUE(entries[0].modified.has_value());
-    EXPECT_EQ(entries[0].note, std::nullopt);
+    EXPECT_TRUE(entries[0].notes.empty());
     EXPECT_EQ(entries[1].size, 4096);
 }
 

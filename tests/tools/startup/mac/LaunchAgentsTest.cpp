@@ -36,7 +36,8 @@ struct Agents : StartupHome {
 
 std::string shown(const LaunchItem& item)
 {
-    return item.label + " " + item.program + " " + item.scope + (item.enabled ? " on" : " off");
+    return item.label + " " + item.program + " " + std::string(item.scope.base()) +
+           (item.enabled ? " on" : " off");
 }
 
 std::vector<std::string> loaded()

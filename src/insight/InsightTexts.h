@@ -1,0 +1,292 @@
+#pragma once
+
+#include "model/Rating.h"
+#include "model/Text.h"
+
+/// What the forecast and the answers say. The names of what a question can be about stand in their table, and
+/// so do those of the matcher's topics.
+namespace orlen::InsightTexts {
+
+/// A sentence for each rating, since the word for it may change those around it.
+struct RatedText {
+    Text safe;
+    Text review;
+    Text keep;
+
+    [[nodiscard]] constexpr Text of(Rating rating) const
+    {
+        switch (rating) {
+        case Rating::safe:
+            return safe;
+        case Rating::review:
+            return review;
+        case Rating::keep:
+            return keep;
+        }
+        return {};
+    }
+};
+
+// The forecast. A headline has no full stop.
+inline constexpr Text kStillLearning = message("Still learning your Mac");
+inline constexpr Text kTooFewScans =
+    message("Orlen needs scans taken at least several hours apart (ideally days) to estimate growth. Each "
+            "Smart Scan adds a data point, stored only on this Mac.");
+// TRANSLATORS: {time} is one of the next five messages.
+inline constexpr Text kNearlyFull = message("Disk nearly full in {time}");
+inline constexpr Text kLessThanADay = message("less than a day");
+inline constexpr Text kAboutDays = messages("about {count} day", "about {count} days");
+inline constexpr Text kAboutWeeks = messages("about {count} week", "about {count} weeks");
+inline constexpr Text kAboutMonths = messages("about {count} month", "about {count} months");
+inline constexpr Text kMoreThanTwoYears = message("more than 2 years");
+// TRANSLATORS: {size} and {free} are sizes.
+inline constexpr Text kGrowing =
+    message("Used space is growing by about {size} per day, and {free} is free.");
+inline constexpr Text kStable = message("Your free space is stable");
+inline constexpr Text kNotGrowing = messages("Based on {count} scan, used space isn't growing.",
+                                             "Based on {count} scans, used space isn't growing.");
+// TRANSLATORS: a headline of the forecast, as a sentence, and the sentences below it.
+inline constexpr Text kForecast = message("{headline}. {detail}");
+
+// Who answers.
+inline constexpr Text kByModel =
+    message("Answers come from your scan, written by Apple's on-device language model.");
+inline constexpr Text kByMatcher =
+    message("Answers come from your scan, using Orlen's built-in on-device matcher.");
+
+// Parts of a list in a sentence.
+// TRANSLATORS: {name} is a file or folder, or a group of them such as "Log files".
+inline constexpr Text kNamed = message("{name} ({size})");
+// TRANSLATORS: {category} is "Apps", "Photos" and so on.
+inline constexpr Text kCategory = message("{category} {size}");
+
+// Of the whole disk.
+inline constexpr Text kNoScan =
+    message("I don't have scan results yet. Run a Smart Scan from the Home screen and ask me again.");
+// TRANSLATORS: {categories} is a list: "Apps 12 GB, Media 3 GB".
+inline constexpr Text kByCategory = message("By category: {categories}.");
+// TRANSLATORS: {findings} is a list: "Trash (3 GB), Log files (2 MB)".
+inline constexpr Text kLargestFindings = message("The largest findings are {findings}.");
+inline constexpr Text kScanForBreakdown = message("Run a Smart Scan for a detailed breakdown.");
+inline constexpr Text kScanForFindings = message("Run a Smart Scan to see what could go.");
+// TRANSLATORS: {free}, {total} and {used} are sizes; {share} is a number of per cent.
+inline constexpr Text kVolume = message("{free} is free of {total}; {used} is used ({share}).");
+// TRANSLATORS: the answer to "Do I have 20 GB free?"
+inline constexpr Text kYes = message("Yes.");
+// TRANSLATORS: the answer to "Do I have 20 GB free?"
+inline constexpr Text kNo = message("No.");
+// TRANSLATORS: {category} is "Apps", "Photos" and so on.
+inline constexpr Text kGrowsFastest = message("{category} grows the fastest, by about {size} per day.");
+// TRANSLATORS: the answer to "Will the disk be full by July?"
+inline constexpr Text kProbablyYes = message("Probably yes.");
+// TRANSLATORS: the answer to "Will the disk be full by July?"
+inline constexpr Text kProbablyNot = message("Probably not.");
+inline constexpr Text kFullAround = message("At the present pace your disk will be full around {date}.");
+// TRANSLATORS: the answer to "When will my disk be full?"
+inline constexpr Text kNotForLong = message("Not for more than 20 years at the present pace.");
+
+// What could be freed. {findings} is a list as above.
+inline constexpr Text kCouldFree =
+    message("You could free about {size} from items rated Safe: {findings}. Ratings are suggestions, so you "
+            "can look at every file before anything moves to the Trash.");
+inline constexpr Text kNoSafeItems = message("Nothing is rated Safe right now. Look at the Review items, "
+                                             "remembering these ratings are suggestions.");
+// TRANSLATORS: {wanted} is the size asked for; {size} is that of all the findings.
+inline constexpr Text kSafeIsEnough =
+    message("To free {wanted}, what is rated Safe is enough: {findings}, {size} in all.");
+inline constexpr Text kNothingSafe = message("Nothing is rated Safe.");
+inline constexpr Text kAllSafe = message("Everything rated Safe frees {size}: {findings}.");
+inline constexpr Text kForTheRest =
+    message("For the rest of {wanted}, look through what is rated Review: {findings}.");
+inline constexpr Text kTooLittle = message("Together that is less than {wanted}.");
+inline constexpr Text kNothingMovesYet =
+    message("Nothing moves before you have seen the list, and space comes back once you empty the Trash.");
+
+// The Downloads folder.
+inline constexpr Text kNoDownloads =
+    message("I didn't find anything in Downloads that looks worth removing. Items there are only listed if "
+            "they're old or duplicated.");
+// TRANSLATORS: a list of files follows.
+inline constexpr Text kDownloads =
+    messages("Downloads has {count} item you haven't touched in over a month, about {size}:",
+             "Downloads has {count} items you haven't touched in over a month, about {size}:");
+inline constexpr Text kDownload = message("• {name} — {size}");
+inline constexpr Text kInstallersFirst =
+    message("Installers (.dmg, .pkg) are usually safe to remove; check the rest first.");
+
+// Findings. {title} is that of one: "Log files".
+// TRANSLATORS: {title} is a group of files such as "Log files"; a sentence that says why follows.
+inline constexpr RatedText kRated{message("{title}: {size} — rated Safe."),
+                                  message("{title}: {size} — rated Review."),
+                                  message("{title}: {size} — rated Keep.")};
+// TRANSLATORS: stands behind the sentences about a group of files.
+inline constexpr Text kItemsOfIt = messages("({count} item)", "({count} items)");
+inline constexpr Text kNothingKept =
+    message("Nothing in the last scan is rated Keep. Keep means a name looks like an invoice, tax, contract "
+            "or similar paperwork, or a known system-sync location.");
+// TRANSLATORS: {names} is a list of up to three file names.
+inline constexpr Text kKept = messages("{count} item(s) are rated Keep, such as {names}. Their names or "
+                                       "locations suggest they matter.",
+                                       "{count} item(s) are rated Keep, such as {names}. Their names or "
+                                       "locations suggest they matter.");
+
+// Lists of files. {files} is the name of an `AskReader::Subject`, perhaps with conditions: "videos over 3 GB
+// in ~/Videos".
+inline constexpr Text kFiles = messageIn("files, within a sentence", "files");
+// TRANSLATORS: {files} is "videos" and the like, perhaps already with a condition such as this one.
+inline constexpr Text kFilesOver = message("{files} over {size}");
+inline constexpr Text kFilesUnder = message("{files} under {size}");
+inline constexpr Text kFilesOpenedBefore = message("{files} last opened before {date}");
+inline constexpr Text kFilesChangedBefore = message("{files} last changed before {date}");
+inline constexpr Text kFilesChangedSince = message("{files} changed since {date}");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kFilesChangedBetween = message("{files} last changed from {first} to {last}");
+inline constexpr Text kFilesIn = message("{files} in {folder}");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos". It cannot change its form: if it has
+// to, say it in another way, such as "{files}: the last scan lists …".
+inline constexpr Text kFilesListed = messages("Of {files} the last scan lists {count}, {size} in all.",
+                                              "Of {files} the last scan lists {count}, {size} in all.");
+// TRANSLATORS: a list of files follows.
+inline constexpr Text kTheBiggest = message("The biggest:");
+// TRANSLATORS: a list of files follows.
+inline constexpr Text kTheSmallest = message("The smallest:");
+// TRANSLATORS: a list of files follows.
+inline constexpr Text kTheOldest = message("The oldest:");
+// TRANSLATORS: a list of files follows.
+inline constexpr Text kTheNewest = message("The newest:");
+// TRANSLATORS: {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kFileChanged = message("• {path} ({size}), changed {date} — {rating}");
+inline constexpr Text kFileOpened = message("• {path} ({size}), opened {date} — {rating}");
+inline constexpr Text kFileUndated = message("• {path} ({size}) — {rating}");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
+inline constexpr Text kNoneListed =
+    message("The last scan lists no {files}. It lists only what may be worth a look: large, old, duplicate "
+            "and similar files.");
+// TRANSLATORS: {files} is "videos" and the like.
+inline constexpr Text kNoneSuggested = message("The last scan suggests no {files} for a clean-up.");
+// TRANSLATORS: {files} is "videos" and the like.
+inline constexpr Text kNoneFound = message("The last scan found no {files} to clean up.");
+// TRANSLATORS: {files} is "videos" and the like.
+inline constexpr Text kSomeListed = messages("Of {files} the last scan lists {count} item, {size}; it "
+                                             "doesn't list those it sees no reason to move.",
+                                             "Of {files} the last scan lists {count} items, {size}; it "
+                                             "doesn't list those it sees no reason to move.");
+// TRANSLATORS: {files} is "log files" and the like; {size} and {safe} are sizes.
+inline constexpr Text kWithoutThem =
+    messages("Without the {files} that the last scan lists you would have {size} more ({count} item, "
+             "{size}); {safe} of that is rated Safe. Space comes back once you empty the Trash.",
+             "Without the {files} that the last scan lists you would have {size} more ({count} items, "
+             "{size}); {safe} of that is rated Safe. Space comes back once you empty the Trash.");
+// TRANSLATORS: {category} is "Apps", "Photos" and so on.
+inline constexpr Text kCategoryTakes = message("The category {category} takes {size}.");
+inline constexpr Text kFolderTakes = message("The folder {folder} takes {size}.");
+
+// A file or folder by its name. {title} is that of a finding; {note} a few words or a sentence about it.
+// TRANSLATORS: {title} is a group of files such as "Log files".
+inline constexpr RatedText kListedAs{
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Safe."),
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Review."),
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Keep.")};
+// TRANSLATORS: {title} is a group of files such as "Log files"; {note} says more about this one.
+inline constexpr RatedText kListedWithNote{
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Safe ({note})."),
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Review ({note})."),
+    message("{name} ({size}) in {folder}, listed under “{title}”, is rated Keep ({note}).")};
+// TRANSLATORS: a list of these files follows.
+inline constexpr Text kItemsFit = messages("{count} item fits “{name}”:", "{count} items fit “{name}”:");
+// TRANSLATORS: {title} is a group of files such as "Log files".
+inline constexpr RatedText kFitting{message("• {path} ({size}) — {title}, rated Safe."),
+                                    message("• {path} ({size}) — {title}, rated Review."),
+                                    message("• {path} ({size}) — {title}, rated Keep.")};
+// TRANSLATORS: {title} is a group of files such as "Log files"; {note} says more about this one.
+inline constexpr RatedText kFittingWithNote{message("• {path} ({size}) — {title}, rated Safe ({note})."),
+                                            message("• {path} ({size}) — {title}, rated Review ({note})."),
+                                            message("• {path} ({size}) — {title}, rated Keep ({note}).")};
+// TRANSLATORS: the end of a list of files.
+inline constexpr Text kMoreFit = messages("… and {count} more.", "… and {count} more.");
+// TRANSLATORS: {category} is "Apps", "Photos" and so on.
+inline constexpr Text kCountsFor = message("{path} ({size}) counts for {category}.");
+inline constexpr Text kNotSuggested =
+    message("The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it.");
+inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
+                                                "clean-up. History can put it back.");
+// TRANSLATORS: "orlen explain" is a command.
+inline constexpr Text kNotListed =
+    message("“{name}” is not in the results of the last scan, so I have no rating for it. Check what it is "
+            "before you remove it; “orlen explain” with its path tells more.");
+
+// What a clean-up would do.
+inline constexpr Text kMovesIt = message("A clean-up moves it to the Trash, and History can put it back.");
+inline constexpr Text kMovesTicked =
+    message("A clean-up moves what you tick to the Trash, and History can put it back.");
+inline constexpr Text kBetterLeaveIt = message("Better leave it where it is. A clean-up would move it to the "
+                                               "Trash, and History could put it back.");
+inline constexpr Text kInTrash = message("It is already in the Trash; Orlen never empties it for you.");
+// TRANSLATORS: {group} is a heading such as "Browser profiles"; {reason} is a whole sentence.
+inline constexpr Text kItIsProtected = message("It is protected, because it belongs to “{group}”: {reason}");
+// TRANSLATORS: {group} is a heading such as "Browser profiles"; {reason} is a whole sentence.
+inline constexpr Text kPathIsProtected =
+    message("{path} is protected, because it belongs to “{group}”: {reason} Orlen never moves it.");
+// TRANSLATORS: {group} is a heading such as "Your main folders"; {reason} is a whole sentence.
+inline constexpr Text kFolderIsProtected =
+    message("{folder} itself is protected, because it belongs to “{group}”: {reason}");
+// TRANSLATORS: {reason} is a whole sentence.
+inline constexpr Text kSystemIsProtected =
+    message("System data is protected: {reason} Orlen leaves it alone.");
+
+// Past clean-ups.
+inline constexpr Text kNoCleanUp = message("There hasn't been a clean-up yet.");
+inline constexpr Text kLastCleanUp =
+    messages("Your last clean-up was on {date}: it moved {count} item, {size}, to the Trash.",
+             "Your last clean-up was on {date}: it moved {count} items, {size}, to the Trash.");
+// TRANSLATORS: follows the sentence about the last clean-up.
+inline constexpr Text kPutBack =
+    messages("{count} item of it has been put back.", "{count} items of it has been put back.");
+inline constexpr Text kCleanUps =
+    messages("{count} clean-up since {date} moved {size} to the Trash in all.",
+             "{count} clean-ups since {date} moved {size} to the Trash in all.");
+inline constexpr Text kHistoryListsThem = message("History lists them.");
+// TRANSLATORS: "orlen history" and "orlen restore" are commands.
+inline constexpr Text kHowToRestore =
+    message("To put things back, open History, choose the clean-up and restore it; or use “orlen history” "
+            "and “orlen restore”.");
+inline constexpr Text kUntilTrashIsEmptied =
+    message("It works until the Trash is emptied; nothing is deleted by Orlen.");
+
+// Orlen itself.
+inline constexpr Text kPrivacy =
+    message("Nothing leaves this computer. Orlen makes no network calls, has no accounts and uploads "
+            "nothing; scanning, ratings and these answers all happen here.");
+inline constexpr Text kNeverTouched =
+    message("Orlen never touches what is protected: anything outside your home folder and the folders for "
+            "applications; keys, passwords and keyrings; browser profiles, mail and chats; synced folders; "
+            "and your own folders such as Documents and Pictures, though files in them may be suggested. It "
+            "deletes nothing: what you tick moves to the Trash.");
+// TRANSLATORS: what the rating "Safe" means.
+inline constexpr Text kSafeMeans =
+    message("Safe: data that programs create again by themselves, or exact copies. It is ticked for you.");
+// TRANSLATORS: what the rating "Review" means.
+inline constexpr Text kReviewMeans =
+    message("Review: probably no longer needed, but only you can tell. Look before you tick it.");
+// TRANSLATORS: what the rating "Keep" means.
+inline constexpr Text kKeepMeans = message(
+    "Keep: a name or place suggests that it matters, such as an invoice, a contract or tax papers. It "
+    "is a warning, not a lock.");
+// TRANSLATORS: what the category "System" means.
+inline constexpr Text kSystemMeans =
+    message("System: everything on the disk that no other category counts, mostly the operating system "
+            "itself. Orlen shows its size and leaves it alone.");
+inline constexpr Text kRatingsAreSuggestions =
+    message("Ratings are suggestions; nothing moves before you say so.");
+
+// For what is not understood.
+// TRANSLATORS: the suggested questions are understood in every language: use their words for these.
+inline constexpr Text kHelp =
+    message("I can answer questions about your scan, for example “what is using the most space?”, “what can "
+            "I delete from my Downloads folder?”, “are there duplicates?” or “when will my disk be full?”.");
+// TRANSLATORS: questions such as these are understood in English only: leave what is in quotation marks.
+inline constexpr Text kDontKnow =
+    message("I don't know that. I can answer questions about a file or folder by name (“can I delete "
+            "report.pdf?”), lists (“the five biggest videos”), free space, clean-ups and ratings.");
+
+} // namespace orlen::InsightTexts
