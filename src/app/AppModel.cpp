@@ -19,7 +19,7 @@ namespace {
 /// The loaded value. Adds a sentence to the notices if something went wrong.
 template <typename Record>
 std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFile& file,
-                          std::vector<std::string>& notices)
+                          std::vector<Message>& notices)
 {
     if (loaded.problem == Persist::Problem::damaged)
         notices.push_back(AppTexts::damaged(file));
@@ -30,7 +30,7 @@ std::vector<Record> taken(Persist::Loaded<Record> loaded, const AppTexts::OwnFil
 
 /// While nobody can tell what is excluded, everything is: nothing may move that the user once ruled out. On a
 /// disk that does not answer no clean-up begins anyway, and the results may be shown.
-std::vector<Exclusion> loadExclusions(std::vector<std::string>& notices)
+std::vector<Exclusion> loadExclusions(std::vector<Message>& notices)
 {
     Persist::Loaded<Exclusion> loaded = Persist::loadExclusions();
     const bool isUnknown = loaded.problem == Persist::Problem::unreadable && Persist::isReachable();

@@ -4,13 +4,13 @@
 #include "app/ExclusionList.h"
 #include "app/Results.h"
 #include "app/Storage.h"
+#include "model/Message.h"
 #include "platform/files/FolderLock.h"
 
 #include <QObject>
 
 #include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace orlen {
@@ -60,7 +60,7 @@ public:
     /// Whether this model saves: it was asked to, and no other process has locked the data folder.
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
     /// Problems with the program's own files found at startup, one sentence each; usually none.
-    [[nodiscard]] const std::vector<std::string>& notices() const { return m_notices; }
+    [[nodiscard]] const std::vector<Message>& notices() const { return m_notices; }
     /// The facts that questions about storage are answered from.
     [[nodiscard]] AskContext askContext() const;
 
@@ -70,7 +70,7 @@ private:
 
     std::optional<FolderLock> m_lock;
     bool m_isWriter = false;
-    std::vector<std::string> m_notices;
+    std::vector<Message> m_notices;
     std::unique_ptr<Storage> m_storage;
     std::unique_ptr<ExclusionList> m_exclusions;
     std::unique_ptr<Results> m_results;

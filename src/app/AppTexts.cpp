@@ -1,43 +1,55 @@
 #include "app/AppTexts.h"
 
-#include "app/Format.h"
+#include "model/MessageText.h"
+#include "tools/ToolsTexts.h"
 
+#include <array>
 #include <system_error>
 
 namespace orlen::AppTexts {
 
-std::string restored(int restored, int failed)
+namespace {
+
+constexpr std::array kTitles{kScanPlanTitle, ToolsTexts::kLeftBehind, ToolsTexts::kUninstall};
+
+Message sentences(Message first, Message second)
 {
-    const std::string count = "Restored " + std::to_string(restored);
+    return Message::joined({std::move(first), std::move(second)}, Several::Joint::sentences);
+}
+
+} // namespace
+
+Message damaged(const OwnFile& file)
+{
+    return sentences(file.damaged, {kKeptAside, {{"name", std::string(file.stem)}}});
+}
+
+Message unreadable(const OwnFile& file, int error)
+{
+    return sentences({file.unreadable, {{"error", std::generic_category().message(error)}}},
+                     {kLeftAsItIs, {{"name", std::string(file.stem)}}});
+}
+
+Message restored(int restored, int failed)
+{
     if (failed == 0)
-        return count + (restored == 1 ? " item." : " items.");
-    return count + "; " + std::to_string(failed) +
-           " couldn't be restored (already emptied from the Trash, or something exists at the original "
-           "location).";
+        return {kRestored, {{"count", restored}}};
+    return {kPartlyRestored, {{"count", failed}, {"restored", restored}}};
 }
 
-std::string damaged(const OwnFile& file)
+Message stillOn(const std::string& service)
 {
-    const std::string name(file.stem);
-    return std::string(file.subject) + " is damaged, so only what is legible of it is used. " + name +
-           ".json is kept as " + name + ".unreadable-….json before a new one is written.";
+    return {kStillOn, {{"service", service}}};
 }
 
-std::string unreadable(const OwnFile& file, int error)
+Message unreadableFolders(std::int64_t count)
 {
-    return std::string(file.subject) + " could not be read (" + std::generic_category().message(error) +
-           "). " + std::string(file.stem) +
-           ".json is left as it is, and nothing is added to it until it can be.";
+    return {kUnreadableFolders, {{"count", count}}};
 }
 
-std::string stillOn(const std::string& service)
+Message titleOf(const std::string& kept)
 {
-    return service + " couldn't be switched off; it may run until you log out.";
-}
-
-std::string unreadableFolders(std::int64_t count)
-{
-    return Format::counted(count, "folder") + " could not be read";
+    return MessageText::recognized(kept, kTitles).value_or(Message::verbatim(kept));
 }
 
 } // namespace orlen::AppTexts

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Message.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,33 +10,62 @@
 namespace orlen::AppTexts {
 
 /// For a command or window that gives up before it starts.
-inline constexpr std::string_view kSilentHome =
-    "the home folder lies on a network disk that does not answer; try again when it does.";
-inline constexpr std::string_view kSilentTrash =
-    "the Trash or the history lies on a network disk that does not answer, so nothing was moved.";
-inline constexpr std::string_view kScanPlanTitle = "Smart Scan clean-up";
+inline constexpr Text kSilentHome =
+    message("the home folder lies on a network disk that does not answer; try again when it does.");
+inline constexpr Text kSilentTrash =
+    message("the Trash or the history lies on a network disk that does not answer, so nothing was moved.");
+inline constexpr Text kScanPlanTitle = message("Smart Scan clean-up");
 
-/// One of the program's own files, as a sentence names it.
+/// One of the program's own files.
 struct OwnFile {
-    std::string_view subject; ///< "The history …"
-    std::string_view stem;    ///< of the file name
+    Text damaged;          ///< that it could not be fully parsed
+    Text unreadable;       ///< that it could not be read, with the {error}
+    std::string_view stem; ///< of the file name
 };
-inline constexpr OwnFile kHistory{"The history of clean-ups", "history"};
-inline constexpr OwnFile kExclusions{"The list of exclusions", "exclusions"};
-inline constexpr OwnFile kSnapshots{"The record of past scans", "scans"};
+inline constexpr OwnFile kHistory{
+    message("The history of clean-ups is damaged, so only what is legible of it is used."),
+    message("The history of clean-ups could not be read ({error})."), "history"};
+inline constexpr OwnFile kExclusions{
+    message("The list of exclusions is damaged, so only what is legible of it is used."),
+    message("The list of exclusions could not be read ({error})."), "exclusions"};
+inline constexpr OwnFile kSnapshots{
+    message("The record of past scans is damaged, so only what is legible of it is used."),
+    message("The record of past scans could not be read ({error})."), "scans"};
+inline constexpr Text kKeptAside =
+    // TRANSLATORS: {name} is the name of a file; the dots stand for a number.
+    message("{name}.json is kept as {name}.unreadable-….json before a new one is written.");
+inline constexpr Text kLeftAsItIs =
+    // TRANSLATORS: {name} is the name of a file.
+    message("{name}.json is left as it is, and nothing is added to it until it can be.");
 
 /// For a file that could not be fully parsed.
-[[nodiscard]] std::string damaged(const OwnFile& file);
+[[nodiscard]] Message damaged(const OwnFile& file);
 /// For a file that exists but cannot be read; `error` is the errno.
-[[nodiscard]] std::string unreadable(const OwnFile& file, int error);
+[[nodiscard]] Message unreadable(const OwnFile& file, int error);
+
+inline constexpr Text kRestored = messages("Restored {count} item.", "Restored {count} items.");
+inline constexpr Text kPartlyRestored = messages(
+    // TRANSLATORS: {count} is how many items couldn't be restored, {restored} how many were.
+    "Restored {restored}; {count} couldn't be restored (already emptied from the Trash, or something exists "
+    "at the original location).",
+    "Restored {restored}; {count} couldn't be restored (already emptied from the Trash, or something exists "
+    "at the original location).");
 
 /// The outcome of a restore.
-[[nodiscard]] std::string restored(int restored, int failed);
+[[nodiscard]] Message restored(int restored, int failed);
 
 /// For a service that a clean-up could not switch off before moving its file.
-[[nodiscard]] std::string stillOn(const std::string& service);
+inline constexpr Text kStillOn =
+    // TRANSLATORS: {service} is the name of a unit, such as "sync.service".
+    message("{service} couldn't be switched off; it may run until you log out.");
+[[nodiscard]] Message stillOn(const std::string& service);
 
+inline constexpr Text kUnreadableFolders =
+    messages("{count} folder could not be read", "{count} folders could not be read");
 /// "2 folders could not be read"
-[[nodiscard]] std::string unreadableFolders(std::int64_t count);
+[[nodiscard]] Message unreadableFolders(std::int64_t count);
+
+/// The title of a clean-up in the history, which keeps it in English. One that no plan has is taken as it is.
+[[nodiscard]] Message titleOf(const std::string& kept);
 
 } // namespace orlen::AppTexts

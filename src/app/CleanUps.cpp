@@ -67,8 +67,8 @@ void CleanUps::confirm(const CleanPlan& plan)
     m_pending.push_back(pending);
     const auto stillOn = std::make_shared<std::vector<std::string>>();
     m_stop = m_workers.start(
-        [entries = std::move(entries), title = plan.title, report = cleaningReport(number), pending, stillOn,
-         exclusions = m_exclusions.current()](const std::stop_token& stop) {
+        [entries = std::move(entries), title = plan.title.base(), report = cleaningReport(number), pending,
+         stillOn, exclusions = m_exclusions.current()](const std::stop_token& stop) {
             *stillOn = UnitShutdown::run(entries);
             *pending = Cleaner::run(entries, title, report, stop, exclusions);
             return PendingCleanUp(pending);
@@ -162,7 +162,7 @@ CleanUps::Restoration CleanUps::finishRestore(Cleaner::Restored outcome)
     const bool isRecorded = History::update(m_history, outcome.record).ok();
     Q_EMIT historyChanged();
     m_storage.updateVolume();
-    std::string message = AppTexts::restored(outcome.restored, outcome.failed);
+    Message message = AppTexts::restored(outcome.restored, outcome.failed);
     return {std::move(outcome), std::move(message), isRecorded};
 }
 

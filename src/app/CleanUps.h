@@ -5,6 +5,7 @@
 #include "clean/CleanRecord.h"
 #include "clean/Cleaner.h"
 #include "model/CleanPlan.h"
+#include "model/Message.h"
 #include "model/ModelState.h"
 
 #include <memory>
@@ -48,7 +49,7 @@ public:
 
     struct Restoration {
         Cleaner::Restored outcome;
-        std::string message;    ///< one line for the user
+        Message message;        ///< one line for the user
         bool isRecorded = true; ///< false: the history could not be saved; the next start will
     };
     /// Puts a past clean-up back before returning. Blocks on the disk, so not for a window. Writers only, and

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace orlen::MessageText {
 
@@ -82,6 +84,30 @@ std::int64_t countOf(const Message& message)
     return count == nullptr ? 1 : *count;
 }
 
+/// What stands in the places of a text that reads like this; nothing if it reads otherwise.
+std::optional<std::vector<Place>> placesIn(std::string_view kept, std::string_view text)
+{
+    std::vector<Place> places;
+    for (;;) {
+        const std::size_t open = text.find('{');
+        const std::size_t close = text.find('}', open);
+        if (close == std::string_view::npos)
+            return kept == text ? std::optional(std::move(places)) : std::nullopt;
+        if (!kept.starts_with(text.substr(0, open)))
+            return std::nullopt;
+        const std::string_view place = text.substr(open + 1, close - open - 1);
+        kept.remove_prefix(open);
+        text.remove_prefix(close + 1);
+        // The last name goes as far as it can, in case the words behind it are in it too.
+        const std::string_view behind = text.substr(0, text.find('{'));
+        const std::size_t end = behind.size() == text.size() ? kept.rfind(behind) : kept.find(behind);
+        if (end == std::string_view::npos || end == 0)
+            return std::nullopt;
+        places.push_back({place, std::string(kept.substr(0, end))});
+        kept.remove_prefix(end);
+    }
+}
+
 } // namespace
 
 std::string filled(const Message& message, const Voice& voice)
@@ -111,6 +137,15 @@ std::string filled(const Message& message, const Voice& voice)
         at = close + 1;
     }
     return result;
+}
+
+std::optional<Message> recognized(std::string_view kept, std::span<const Text> texts)
+{
+    for (const Text& text : texts) {
+        if (auto places = placesIn(kept, text.base()))
+            return Message{text, *std::move(places)};
+    }
+    return std::nullopt;
 }
 
 } // namespace orlen::MessageText

@@ -3,7 +3,10 @@
 #include "model/Message.h"
 
 #include <functional>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace orlen {
 class Figures;
@@ -23,5 +26,9 @@ struct Voice {
 
 /// A place that the message does not fill stays as it is, in its braces.
 [[nodiscard]] std::string filled(const Message& message, const Voice& voice);
+
+/// The message whose English was kept, found again: the first of the texts that reads like it, with names in
+/// its places. Nothing if none does. For texts without a number.
+[[nodiscard]] std::optional<Message> recognized(std::string_view kept, std::span<const Text> texts);
 
 } // namespace orlen::MessageText

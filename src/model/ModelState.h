@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/CleanFailure.h"
+#include "model/Message.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,7 +22,7 @@ struct CleaningState {
     std::int64_t freed = 0; ///< bytes moved
     int moved = 0;
     int failed = 0;
-    std::string planTitle;
+    Message planTitle;
     std::vector<CleanFailure> failures;   ///< what could not be moved, in path order; known once finished
     std::optional<FailureReason> refusal; ///< why nothing was started: the plan could not be written down
     bool isRecorded = true; ///< false: the history could not be saved; the next start will do it
