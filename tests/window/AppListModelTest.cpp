@@ -52,7 +52,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     FileEntry entry;
     entry.path = gone;
     app.cleanUps()->confirm(
-        {Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
+        {Uuid::random(), Message::verbatim("Uninstall Lark"), {{"app", {}, "app.fill", {entry}, {}}}});
     ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 2 && isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);

@@ -22,10 +22,10 @@ protected:
     PlanModelTest()
     {
         CleanPlan plan;
-        plan.title = "Uninstall Viewer";
+        plan.title = Message::verbatim("Uninstall Viewer");
         plan.sections.push_back(
-            {"caches", "App caches", "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
-        plan.sections.push_back({"app", "Viewer", "app.fill", {entry("c", 12)}});
+            {"caches", Message::verbatim("App caches"), "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
+        plan.sections.push_back({"app", Message::verbatim("Viewer"), "app.fill", {entry("c", 12)}});
         WindowState::of(m_app).setSheet(PlanSheet{plan});
     }
 
@@ -100,8 +100,8 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
     const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
     const FileEntry inside = entry("f/inside", 16);
     CleanPlan plan;
-    plan.sections.push_back({"oldDownloads", "Old downloads", "", {folder, both}});
-    plan.sections.push_back({"duplicates", "Duplicate files", "", {inside, both}});
+    plan.sections.push_back({"oldDownloads", Message::verbatim("Old downloads"), "", {folder, both}});
+    plan.sections.push_back({"duplicates", Message::verbatim("Duplicate files"), "", {inside, both}});
     WindowState::of(m_app).setSheet(PlanSheet{plan});
     EXPECT_EQ(m_plan.checkedCount(), 2) << "the folder, and what is in both";
     EXPECT_EQ(m_plan.checkedSizeText(), "49 KB");
@@ -137,7 +137,7 @@ TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
     EXPECT_EQ(cleaning.planTitle(), "Uninstall Viewer");
     ASSERT_TRUE(waitUntil([&] { return cleaning.isFinished(); }));
     EXPECT_GE(std::chrono::steady_clock::now() - started, 299ms) << "so that a short one can be seen";
-    EXPECT_EQ(cleaning.movedText(), "2");
+    EXPECT_EQ(cleaning.moved(), 2);
     EXPECT_EQ(cleaning.freedText(), "20 KB");
     EXPECT_EQ(cleaning.failed(), 0);
     EXPECT_EQ(cleaning.fraction(), 1);

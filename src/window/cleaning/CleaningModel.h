@@ -48,7 +48,7 @@ public:
 
     [[nodiscard]] bool isFinished() const { return m_state.finished; }
     [[nodiscard]] double fraction() const;
-    [[nodiscard]] QString planTitle() const { return DisplayText::kept(m_state.planTitle); }
+    [[nodiscard]] QString planTitle() const { return DisplayText::text(m_state.planTitle); }
     [[nodiscard]] QString current() const { return DisplayText::path(m_state.current); }
     [[nodiscard]] QString progressText() const;
     [[nodiscard]] int moved() const { return m_state.moved; }

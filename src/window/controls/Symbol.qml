@@ -12,7 +12,8 @@ Image {
     property bool grows: true
 
     /// Whether it points along the line, so that it turns with the language.
-    readonly property bool isDirected: ["chevron.right", "chevron.left", "arrow.right", "list.bullet"].includes(root.name)
+    readonly property bool isDirected: root.name === "chevron.right" || root.name === "chevron.left"
+                                       || root.name === "list.bullet"
     readonly property int side: root.grows ? Math.round(root.size * Theme.textScale) : root.size
 
     mirror: root.isDirected && Theme.mirrored

@@ -1,6 +1,6 @@
 pragma Singleton
 import QtQuick
-import Orlen.App
+import Orlen.App 1.0
 
 /// Colours, type, spacing and motion of every screen. Follows the desktop.
 QtObject {

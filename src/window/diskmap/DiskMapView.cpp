@@ -43,7 +43,7 @@ DiskMapView::Kind kindOf(const TreeNode& node)
 
 QString spoken(const TreeNode& node)
 {
-    const std::vector<Place> places{{"name", node.name}, {"size", Bytes{node.size}}};
+    const std::vector<Place> places{{"name", within(node.title())}, {"size", Bytes{node.size}}};
     switch (kindOf(node)) {
     case DiskMapView::Folder:
         return DisplayText::text(Message(WindowTexts::kSpokenFolder, places));
@@ -52,7 +52,7 @@ QString spoken(const TreeNode& node)
     case DiskMapView::Rest:
         break;
     }
-    return DisplayText::facts({DisplayText::path(node.name), DisplayText::size(node.size)});
+    return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
 }
 
 } // namespace
@@ -148,7 +148,7 @@ void DiskMapView::step(Direction direction)
 
 QString DiskMapView::describe(int row) const
 {
-    const QString name = hasRow(row) ? DisplayText::path(node(row).name) : folderName();
+    const QString name = hasRow(row) ? DisplayText::text(node(row).title()) : folderName();
     return DisplayText::facts({name, DisplayText::size(hasRow(row) ? node(row).size : m_total)});
 }
 
@@ -274,7 +274,7 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
     switch (static_cast<Role>(role)) {
     case Role::name:
-        return DisplayText::path(node.name);
+        return DisplayText::text(node.title());
     case Role::size:
         return DisplayText::size(node.size);
     case Role::kind:

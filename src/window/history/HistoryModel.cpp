@@ -1,6 +1,7 @@
 #include "window/history/HistoryModel.h"
 
 #include "app/AppTexts.h"
+#include "tools/ToolsTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Screens.h"
@@ -13,11 +14,11 @@ namespace orlen {
 namespace {
 
 /// The screen where a clean-up with this title was planned.
-const Screens::Meta& originOf(std::string_view title)
+const Screens::Meta& originOf(const Message& title)
 {
-    if (title == AppTexts::kScanPlanTitle)
+    if (title.text == AppTexts::kScanPlanTitle)
         return Screens::at(Screens::Home);
-    return Screens::at(title.starts_with("Uninstall ") ? Screens::Apps : Screens::History);
+    return Screens::at(title.text == ToolsTexts::kUninstall ? Screens::Apps : Screens::History);
 }
 
 } // namespace
@@ -38,7 +39,7 @@ HistoryModel::Row HistoryModel::rowOf(const CleanRecord& record) const
                                         [](const TrashedItem& item) { return item.restored; });
     return {record.id,
             record.date,
-            record.title,
+            AppTexts::titleOf(record.title),
             record.freed(),
             static_cast<int>(record.items.size()),
             static_cast<int>(restored),
@@ -88,7 +89,7 @@ QVariant HistoryModel::value(std::size_t number, int role) const
     const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::title:
-        return DisplayText::kept(row.title);
+        return DisplayText::text(row.title);
     case Role::symbol:
         return DisplayText::text(originOf(row.title).symbol);
     case Role::tone:

@@ -1,44 +1,19 @@
 #include "window/lists/DisplayText.h"
 
+#include "app/Format.h"
 #include "model/FileEntry.h"
 #include "model/Words.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "window/WindowTexts.h"
 
-#include <sstream>
 #include <string>
-#include <utility>
 
 namespace orlen::DisplayText {
 
 namespace {
 
 constexpr double kLeastShare = 0.01;
-
-/// A text of several lines stays one, such as what a language model wrote.
-std::string printableLines(const std::string& text)
-{
-    std::string lines;
-    std::istringstream input(text);
-    for (std::string line; std::getline(input, line);)
-        lines += (lines.empty() ? "" : "\n") + PathText::forDisplay(line);
-    return lines;
-}
-
-Message printable(Message message)
-{
-    const bool isVerbatim = message.text.empty();
-    for (Place& place : message.places) {
-        if (auto* name = std::get_if<std::string>(&place.value))
-            *name = isVerbatim ? printableLines(*name) : PathText::forDisplay(*name);
-        if (auto* several = std::get_if<Several>(&place.value)) {
-            for (Message& part : several->messages)
-                part = printable(std::move(part));
-        }
-    }
-    return message;
-}
 
 } // namespace
 
@@ -54,12 +29,7 @@ QString text(const Text& words)
 
 QString text(const Message& message)
 {
-    return text(shown(printable(message)));
-}
-
-QString kept(std::string_view english)
-{
-    return text(shown(PathText::forDisplay(english)));
+    return text(shown(Format::displayable(message)));
 }
 
 QString facts(QStringList facts)

@@ -24,8 +24,6 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString text(const Text& words);
 /// Names in the message are shown as by `path`.
 [[nodiscard]] QString text(const Message& message);
-/// A text that was kept in English.
-[[nodiscard]] QString kept(std::string_view english);
 /// "a · b", without empty ones. A line breaks only after the separator.
 [[nodiscard]] QString facts(QStringList facts);
 

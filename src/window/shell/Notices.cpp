@@ -31,7 +31,7 @@ Notices::Notices(AppModel& app)
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
             add({DisplayText::text(Message(WindowTexts::kNoProgram, {{"path", path.toStdString()}})), path});
         });
-    for (const std::string& sentence : app.notices())
+    for (const Message& sentence : app.notices())
         say(DisplayText::text(sentence));
 }
 

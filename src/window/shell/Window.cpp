@@ -124,7 +124,7 @@ int run(int argc, char** argv)
     SessionBus::startNone();
     Interrupts interrupts;
     if (Places::current().isHomeSilent) {
-        std::fprintf(stderr, "orlen: %s\n", AppTexts::kSilentHome.data());
+        std::fprintf(stderr, "orlen: %s\n", shown(AppTexts::kSilentHome).c_str());
         return kRefused;
     }
     LibraryFolders::leaveOutSilent(Places::current());

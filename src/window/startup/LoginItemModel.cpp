@@ -17,7 +17,7 @@ struct LoginItemModel::Found {
 };
 
 struct LoginItemModel::Change {
-    std::optional<std::string> obstacle;
+    std::optional<Text> obstacle;
     bool isRegistered = false;
 };
 
@@ -57,7 +57,7 @@ void LoginItemModel::toggleRegistered()
         },
         [this](const Change& change) {
             m_isBusy = false;
-            setRegistered(change.isRegistered, DisplayText::path(change.obstacle.value_or("")));
+            setRegistered(change.isRegistered, change.obstacle ? DisplayText::text(*change.obstacle) : QString());
         });
 }
 
