@@ -62,7 +62,7 @@ std::string written(const Moment& moment, const Figures& figures)
 struct Writer {
     const Voice& voice;
 
-    std::string operator()(const std::string& name) const { return name; }
+    std::string operator()(const std::string& name) const { return voice.name ? voice.name(name) : name; }
     std::string operator()(std::int64_t number) const { return voice.figures.number(number); }
     std::string operator()(const Bytes& size) const { return voice.figures.bytes(size.value); }
     std::string operator()(const Share& share) const { return voice.figures.percent(share.value); }

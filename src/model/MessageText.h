@@ -20,6 +20,8 @@ struct Voice {
     /// The text to fill, for this number of things.
     std::function<std::string(const Text& text, std::int64_t count)> words;
     const Figures& figures;
+    /// What becomes of a name; without it, names stay as they are.
+    std::function<std::string(const std::string& name)> name = {};
 };
 
 /// A place that the message does not fill stays as it is, in its braces.

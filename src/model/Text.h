@@ -1,13 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace orlen {
 
 /// A sentence or word of the program. The English one stands in the code; it is also its key in the
 /// catalogues, what JSON holds, and what is shown when no catalogue has it. Only literals become texts, by
-/// the functions below: that is where the tools that collect the texts find them.
+/// the functions below: that is where the tools that collect the texts find them. The screens are not
+/// compiled; their texts are literals there.
 class Text {
 public:
     constexpr Text() = default;
@@ -30,6 +32,7 @@ private:
     friend consteval Text message(const char* text);
     friend consteval Text messageIn(const char* context, const char* text);
     friend consteval Text messages(const char* one, const char* many);
+    friend Text screenText(const std::string& context, const std::string& one, const std::string& many);
 
     // All end in a zero byte.
     std::string_view m_context{"", 0};
@@ -57,6 +60,18 @@ private:
 [[nodiscard]] consteval Text messages(const char* one, const char* many)
 {
     Text made = message(one);
+    made.m_many = many;
+    return made;
+}
+
+/// A text that stands in a screen as it would in the functions above; `context` and `many` may be empty. The
+/// strings must outlive it.
+[[nodiscard]] inline Text screenText(const std::string& context, const std::string& one,
+                                     const std::string& many)
+{
+    Text made;
+    made.m_context = context;
+    made.m_one = one;
     made.m_many = many;
     return made;
 }

@@ -17,6 +17,11 @@ namespace {
 
 constexpr std::string_view kEnglish = "en";
 
+// Characters without a width that set the direction of what stands between them and the last.
+constexpr std::string_view kLeftToRight = "\u2066";
+constexpr std::string_view kAsItBegins = "\u2068";
+constexpr std::string_view kEndOfDirection = "\u2069";
+
 std::string languageOf(std::string_view tag)
 {
     return std::string(tag.substr(0, tag.find('_')));
@@ -145,6 +150,16 @@ const Figures& figures()
     return *speech().figures;
 }
 
+std::string isolated(std::string_view name)
+{
+    const bool isMarked = name.starts_with(kLeftToRight) || name.starts_with(kAsItBegins);
+    if (!isRightToLeft() || name.empty() || isMarked)
+        return std::string(name);
+    // The folders of a path follow each other from the left, whatever their names are written in.
+    const std::string_view direction = name.find('/') == std::string_view::npos ? kAsItBegins : kLeftToRight;
+    return std::string(direction).append(name).append(kEndOfDirection);
+}
+
 std::string shown(const Text& text)
 {
     return speech().words(text, 1);
@@ -153,9 +168,9 @@ std::string shown(const Text& text)
 std::string shown(const Message& message)
 {
     const Speech& used = speech();
-    return MessageText::filled(
-        message,
-        {[&](const Text& text, std::int64_t count) { return used.words(text, count); }, *used.figures});
+    return MessageText::filled(message,
+                               {[&](const Text& text, std::int64_t count) { return used.words(text, count); },
+                                *used.figures, [](const std::string& name) { return isolated(name); }});
 }
 
 std::string shown(std::string_view base)

@@ -24,8 +24,13 @@ void useInstalled();
 /// Numbers, sizes and dates as that language writes them, with the habits of the person's region.
 [[nodiscard]] const Figures& figures();
 
+/// A name or path that stands among words: marked so that it keeps its own direction if those are written
+/// from right to left, and so that it changes none of theirs.
+[[nodiscard]] std::string isolated(std::string_view name);
+
 /// A text with its places as they are.
 [[nodiscard]] std::string shown(const Text& text);
+/// A message with its names `isolated`.
 [[nodiscard]] std::string shown(const Message& message);
 /// A text that was kept in English: translated if it is one of the program's own without places.
 [[nodiscard]] std::string shown(std::string_view base);

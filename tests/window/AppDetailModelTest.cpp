@@ -79,7 +79,7 @@ TEST(AppDetailModelTest, leadsFromTheChosenLeftoversToTheReview)
     ASSERT_TRUE(WindowState::of(d.app).sheet() &&
                 std::holds_alternative<PlanSheet>(*WindowState::of(d.app).sheet()));
     const CleanPlan& plan = std::get<PlanSheet>(*WindowState::of(d.app).sheet()).plan;
-    EXPECT_EQ(plan.title, "Uninstall Kite");
+    EXPECT_EQ(plan.title.base(), "Uninstall Kite");
     ASSERT_EQ(plan.sections.size(), 2);
     EXPECT_EQ(plan.sections[0].entries.at(0).path, path);
     EXPECT_EQ(plan.sections[0].entries.at(0).size, 40'960);
@@ -153,7 +153,7 @@ TEST(AppDetailModelTest, closesWhenItsApplicationIsGone)
     ASSERT_TRUE(d.show("Kite"));
     FileEntry entry;
     entry.path = path;
-    d.app.cleanUps()->confirm({Uuid::random(), "", {{"app", "", "", {entry}, {}}}});
+    d.app.cleanUps()->confirm({Uuid::random(), {}, {{"app", {}, "", {entry}, {}}}});
     EXPECT_TRUE(waitUntil([&] { return !d.detail.isOpen(); }));
     EXPECT_EQ(d.apps.rowCount(), 1);
 }

@@ -42,9 +42,9 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     const QAbstractItemModelTester tester(&apps, kFatal);
     ASSERT_TRUE(waitUntil([&] { return isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Lark", "Wren"}));
-    EXPECT_EQ(texts(apps, AppRole::origin).back(), "AppImage · ~/Downloads");
+    EXPECT_EQ(texts(apps, AppRole::origin).back(), "AppImage\u00a0· ~/Downloads");
     EXPECT_EQ(texts(apps, AppRole::size), (QStringList{"41 KB", "41 KB", "41 KB"}));
-    EXPECT_EQ(apps.summary(), "3 applications · 123 KB");
+    EXPECT_EQ(apps.summary(), "3 applications\u00a0· 123 KB");
 
     const QSignalSpy resets(&apps, &QAbstractItemModel::modelReset);
     const QSignalSpy removals(&apps, &QAbstractItemModel::rowsRemoved);
@@ -52,7 +52,7 @@ TEST(AppListModelTest, measuresWhatItListsAndReadsItAgainAfterACleanUp)
     FileEntry entry;
     entry.path = gone;
     app.cleanUps()->confirm(
-        {Uuid::random(), "Uninstall Lark", {{"app", "Application", "app.fill", {entry}, {}}}});
+        {Uuid::random(), Message::verbatim("Uninstall Lark"), {{"app", {}, "app.fill", {entry}, {}}}});
     ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 2 && isSettled(apps); }));
     EXPECT_EQ(texts(apps, AppRole::name), (QStringList{"Kite", "Wren"}));
     EXPECT_EQ(removals.count(), 1);

@@ -79,7 +79,7 @@ TEST_F(CategoryModelTest, showsTheFoldersOfACategoryWithWhatIsInThem)
     ASSERT_EQ(category.folders()->rowCount(), 2);
     EXPECT_EQ(value(0, FolderRole::name), "Videos");
     EXPECT_EQ(value(0, FolderRole::place), "~/Videos");
-    EXPECT_EQ(value(0, FolderRole::shareText), "75 %");
+    EXPECT_EQ(value(0, FolderRole::shareText), "75%");
     EXPECT_EQ(value(0, FolderRole::items).toString().replace(QChar(0xA0), ' '),
               "series 16 KB  ·  film.mkv 8 KB");
     ASSERT_TRUE(settles());

@@ -137,7 +137,7 @@ TEST_F(DiskMapViewTest, saysThatAFolderShowsNothing)
     view.step(DiskMapView::Down);
     view.open(-1);
     view.reveal(0);
-    EXPECT_EQ(view.describe(-1), "Music · 0 bytes");
+    EXPECT_EQ(view.describe(-1), "Music\u00a0· 0 bytes");
 
     TempHome::setMode(home.path("Music"), 0700);
     QFile::remove(QString::fromStdString(home.path("Music/song.ogg")));

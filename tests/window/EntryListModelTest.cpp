@@ -69,7 +69,7 @@ TEST_F(EntryListModelTest, showsTheFindingLargestFirst)
     EXPECT_EQ(shown(EntryListModel::Role::folder).first(), "~/.cache");
     EXPECT_EQ(m_list.header().title, "App caches");
     EXPECT_TRUE(m_list.header().reason.startsWith("Why Safe: Apps rebuild"));
-    EXPECT_EQ(m_list.selectedText(), "3 of 4 selected · 819 KB");
+    EXPECT_EQ(m_list.selectedText(), "3 of 4 selected\u00a0· 819 KB");
     EXPECT_EQ(m_list.shownState(), Qt::PartiallyChecked);
 }
 
@@ -131,7 +131,7 @@ TEST_F(EntryListModelTest, losesWhatWasMovedRowByRowAndKeepsItsTexts)
     EXPECT_EQ(names(), QStringList({"babl", "spotify"}));
     EXPECT_EQ(marks(), QStringList({"true", "false"}));
     EXPECT_EQ(removed.size(), 2);
-    EXPECT_EQ(m_list.selectedText(), "1 of 2 selected · 307 KB");
+    EXPECT_EQ(m_list.selectedText(), "1 of 2 selected\u00a0· 307 KB");
     m_app.results()->removeFromFindings({m_home.path(".cache/babl"), m_home.path(".cache/spotify")});
     EXPECT_EQ(m_list.rowCount(), 0);
     EXPECT_EQ(m_list.header().title, "App caches");
@@ -153,7 +153,7 @@ TEST_F(EntryListModelTest, theTrashCannotBeSelected)
     ASSERT_TRUE(waitUntil([&] { return m_app.results()->phase() == Phase::results; }));
     m_list.setFindingId("trash");
     EXPECT_FALSE(m_list.header().isCleanable);
-    EXPECT_EQ(m_list.selectedText(), "1 item · 4 KB");
+    EXPECT_EQ(m_list.selectedText(), "1 item\u00a0· 4 KB");
     const auto before = m_app.results()->selection();
     m_list.selectShown();
     EXPECT_EQ(m_app.results()->selection(), before);

@@ -90,7 +90,7 @@ TEST(PreviewModelTest, showsTheLatestOnly)
     ASSERT_TRUE(waitUntil([&] { return model.kind() != PreviewModel::Loading; }));
     EXPECT_EQ(model.kind(), PreviewModel::Text);
     EXPECT_EQ(model.text(), "words");
-    EXPECT_EQ(model.facts(), "Plain text document · 4 KB");
+    EXPECT_EQ(model.facts(), "Plain text document\u00a0· 4 KB");
     model.setPath(folder);
     ASSERT_TRUE(waitUntil([&] { return model.kind() == PreviewModel::Folder; }));
     EXPECT_GE(model.rowCount(), 1);

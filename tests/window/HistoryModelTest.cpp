@@ -22,8 +22,8 @@ const AppModel::Options kQuick{AppModel::Startup::filesOnly, AppModel::Access::w
 void clean(AppModel& app, const std::vector<std::string>& paths, const std::string& title)
 {
     CleanPlan plan;
-    plan.title = title;
-    plan.sections.push_back({"caches", "App caches", "internaldrive.fill", {}});
+    plan.title = Message::verbatim(title);
+    plan.sections.push_back({"caches", {}, "internaldrive.fill", {}});
     for (const std::string& path : paths)
         plan.sections.front().entries.push_back({path, 4096});
     app.cleanUps()->confirm(plan);

@@ -153,7 +153,7 @@ TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
     scan(app);
     EXPECT_EQ(model.phase(), HomeModel::Results);
     EXPECT_TRUE(model.hasSafe());
-    EXPECT_EQ(model.safeText(), "69.6 MB");
+    EXPECT_EQ(model.heroText(), "You can safely free 69.6 MB");
     EXPECT_EQ(model.totalText(), "69.6 MB") << "the Trash does not count";
     EXPECT_EQ(model.selectedText(), "3 items");
     EXPECT_EQ(model.unreadableText(), "");

@@ -48,7 +48,7 @@ TEST(LeftBehindModelTest, leadsFromWhatIsCheckedToTheReviewAndTheTrash)
     Behind b;
     ASSERT_TRUE(waitUntil([&] { return b.isSettled() && b.behind.rowCount() == 3; }));
     EXPECT_EQ(b.apps.rowCount(), 1);
-    EXPECT_EQ(b.behind.summary(), "3 folders · 53 KB");
+    EXPECT_EQ(b.behind.summary(), "3 folders\u00a0· 53 KB");
     EXPECT_EQ(b.text(0, LeftoverListModel::Role::name), "~/.cache/Fooqux");
     EXPECT_EQ(b.text(0, LeftoverListModel::Role::folder),
               "No program named Fooqux is installed; not changed since 2024");

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemModelTester>
-
 namespace orlen {
 
 class LoginItemModelTest : public testing::Test {
@@ -18,7 +16,6 @@ protected:
 
     const TempHome m_home;
     LoginItemModel m_items;
-    const QAbstractItemModelTester m_tester{&m_items, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
 TEST_F(LoginItemModelTest, opensTheProgramAtLoginAndNoLonger)
@@ -47,18 +44,6 @@ TEST_F(LoginItemModelTest, returnsToTheRealStateWhenThatFails)
     ASSERT_TRUE(settle());
     EXPECT_TRUE(m_items.isRegistered());
     EXPECT_EQ(m_items.obstacle(), "");
-}
-
-TEST_F(LoginItemModelTest, namesTheEnabledEntriesWhenAsked)
-{
-    m_home.file(".config/autostart/a.desktop", "[Desktop Entry]\nName=Alder\nExec=a\n");
-    m_home.file(".config/autostart/b.desktop", "[Desktop Entry]\nName=Birch\nExec=b\nHidden=true\n");
-    EXPECT_EQ(m_items.names(), LoginItemModel::NotAsked);
-    m_items.ask();
-    ASSERT_TRUE(waitUntil([&] { return m_items.names() == LoginItemModel::Known; }));
-    const int name = static_cast<int>(LoginItemModel::Role::name);
-    EXPECT_EQ(m_items.match(m_items.index(0), name, "Alder", -1, Qt::MatchExactly).size(), 1);
-    EXPECT_EQ(m_items.match(m_items.index(0), name, "Birch", -1, Qt::MatchExactly).size(), 0);
 }
 
 } // namespace orlen

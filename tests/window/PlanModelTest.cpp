@@ -22,10 +22,10 @@ protected:
     PlanModelTest()
     {
         CleanPlan plan;
-        plan.title = "Uninstall Viewer";
+        plan.title = Message::verbatim("Uninstall Viewer");
         plan.sections.push_back(
-            {"caches", "App caches", "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
-        plan.sections.push_back({"app", "Viewer", "app.fill", {entry("c", 12)}});
+            {"caches", Message::verbatim("App caches"), "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
+        plan.sections.push_back({"app", Message::verbatim("Viewer"), "app.fill", {entry("c", 12)}});
         WindowState::of(m_app).setSheet(PlanSheet{plan});
     }
 
@@ -56,7 +56,7 @@ TEST_F(PlanModelTest, showsEachSectionOverItsEntriesAllChecked)
     EXPECT_EQ(m_plan.title(), "Uninstall Viewer");
     EXPECT_EQ(names(), QStringList({"App caches", "a", "b", "Viewer", "c"}));
     EXPECT_EQ(marks(), QStringList({"2", "2", "2", "2", "2"}));
-    EXPECT_EQ(m_plan.checkedCountText(), "3");
+    EXPECT_EQ(m_plan.checkedCount(), 3);
     EXPECT_EQ(m_plan.checkedSizeText(), "25 KB");
 }
 
@@ -100,15 +100,15 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
     const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
     const FileEntry inside = entry("f/inside", 16);
     CleanPlan plan;
-    plan.sections.push_back({"oldDownloads", "Old downloads", "", {folder, both}});
-    plan.sections.push_back({"duplicates", "Duplicate files", "", {inside, both}});
+    plan.sections.push_back({"oldDownloads", Message::verbatim("Old downloads"), "", {folder, both}});
+    plan.sections.push_back({"duplicates", Message::verbatim("Duplicate files"), "", {inside, both}});
     WindowState::of(m_app).setSheet(PlanSheet{plan});
-    EXPECT_EQ(m_plan.checkedCountText(), "2") << "the folder, and what is in both";
+    EXPECT_EQ(m_plan.checkedCount(), 2) << "the folder, and what is in both";
     EXPECT_EQ(m_plan.checkedSizeText(), "49 KB");
     EXPECT_EQ(shown(PlanModel::Role::size).at(3), "25 KB") << "a section tells of its own";
     m_plan.toggle(5);
     EXPECT_EQ(marks(), QStringList({"1", "2", "0", "1", "2", "0"}));
-    EXPECT_EQ(m_plan.checkedCountText(), "1");
+    EXPECT_EQ(m_plan.checkedCount(), 1);
     m_plan.toggle(4);
     EXPECT_EQ(marks(), QStringList({"0", "0", "0", "0", "0", "0"})) << "the folder would take it along";
     m_plan.toggle(1);
@@ -137,7 +137,7 @@ TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
     EXPECT_EQ(cleaning.planTitle(), "Uninstall Viewer");
     ASSERT_TRUE(waitUntil([&] { return cleaning.isFinished(); }));
     EXPECT_GE(std::chrono::steady_clock::now() - started, 299ms) << "so that a short one can be seen";
-    EXPECT_EQ(cleaning.movedText(), "2");
+    EXPECT_EQ(cleaning.moved(), 2);
     EXPECT_EQ(cleaning.freedText(), "20 KB");
     EXPECT_EQ(cleaning.failed(), 0);
     EXPECT_EQ(cleaning.fraction(), 1);

@@ -50,7 +50,7 @@ TEST(PredictionModelTest, showsGrowthAndShrinkingOnOneScale)
     EXPECT_NEAR(value(model, 0, Role::extent).toDouble(), 0.75, 1e-6);
     EXPECT_NEAR(value(model, 2, Role::start).toDouble(), 0, 1e-6);
     EXPECT_NEAR(value(model, 2, Role::extent).toDouble(), 0.25, 1e-6);
-    EXPECT_EQ(model.snapshotsText(), "2 snapshots");
+    EXPECT_TRUE(model.snapshotsText().startsWith("2 snapshots are stored "));
     EXPECT_FALSE(model.curve().known.empty());
 }
 
@@ -62,7 +62,7 @@ TEST(PredictionModelTest, drawsNothingFromOneSnapshotAndFollowsTheNext)
     PredictionModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(model.headline(), "Still learning your Mac");
-    EXPECT_EQ(model.snapshotsText(), "1 snapshot");
+    EXPECT_TRUE(model.snapshotsText().startsWith("1 snapshot are stored "));
     EXPECT_TRUE(model.rowCount() == 0);
     EXPECT_TRUE(model.curve().known.empty());
 

@@ -88,8 +88,7 @@ std::vector<std::string> settingsCommand()
         if (!ChildProcess::programPath(page.front()).empty())
             return page;
     }
-    const bool canShow = !ChildProcess::programPath("xdg-open").empty() && isListable(folder() + "/.");
-    return canShow ? std::vector<std::string>{"xdg-open", folder()} : std::vector<std::string>();
+    return {};
 }
 
 bool isRegistered()

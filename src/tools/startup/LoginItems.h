@@ -12,8 +12,7 @@ namespace orlen::LoginItems {
 /// Names of the enabled entries; nothing if no autostart folder can be read.
 [[nodiscard]] std::optional<std::vector<std::string>> names();
 
-/// The command that opens the desktop's own settings page for them, or else the folder of the user's entries.
-/// Empty if neither is possible.
+/// The command that opens the desktop's own settings page for them. Empty if it has none.
 [[nodiscard]] std::vector<std::string> settingsCommand();
 
 /// Whether this program opens at login: its entry exists, is not hidden and starts an existing program.

@@ -34,7 +34,7 @@ ColumnCard {
                 Layout.alignment: Qt.AlignTop
                 spacing: 2
                 Accessible.role: Accessible.StaticText
-                Accessible.name: row.label + ". " + row.reason
+                Accessible.name: Strings.spokenText(row.label, row.reason)
 
                 BodyText {
                     width: parent.width

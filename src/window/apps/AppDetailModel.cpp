@@ -3,6 +3,7 @@
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <QClipboard>
@@ -153,7 +154,9 @@ void AppDetailModel::resumed()
 
 QString AppDetailModel::quitFirst() const
 {
-    return m_isRunning ? QStringLiteral("Quit %1 first").arg(name()) : QString();
+    if (!m_isRunning)
+        return {};
+    return DisplayText::text(Message(WindowTexts::kQuitFirst, {{"name", m_info.name}}));
 }
 
 QString AppDetailModel::total() const

@@ -30,8 +30,6 @@ class AppDetailModel : public orlen::LeftoverListModel {
     Q_PROPERTY(bool removable READ isRemovable NOTIFY changed)
     Q_PROPERTY(QString advice READ advice NOTIFY changed)
     Q_PROPERTY(QString command READ command NOTIFY changed)
-    /// Whether it is part of the system.
-    Q_PROPERTY(bool apple READ isApple NOTIFY changed)
     /// Whether leftovers are not offered because another copy of the application uses them.
     Q_PROPERTY(bool otherCopy READ isOtherCopyInstalled NOTIFY changed)
     /// Asks to quit the application first; empty when it is not running.
@@ -49,9 +47,8 @@ public:
     [[nodiscard]] QString icon() const { return AppInfoTexts::iconId(m_info); }
     [[nodiscard]] QString size() const { return m_info.size ? DisplayText::size(*m_info.size) : QString(); }
     [[nodiscard]] bool isRemovable() const { return m_info.isRemovable(); }
-    [[nodiscard]] QString advice() const { return DisplayText::path(m_info.advice); }
-    [[nodiscard]] QString command() const { return DisplayText::path(m_info.adviceCommand); }
-    [[nodiscard]] bool isApple() const { return Leftovers::isApple(m_info.bundleID); }
+    [[nodiscard]] QString advice() const { return DisplayText::text(m_info.advice); }
+    [[nodiscard]] QString command() const { return DisplayText::line(m_info.adviceCommand); }
     [[nodiscard]] QString heading() const override { return AppInfoTexts::leftoversHeading(m_info); }
     [[nodiscard]] bool isLoading() const override { return m_isLoading; }
     [[nodiscard]] bool isOtherCopyInstalled() const { return m_isOtherCopyInstalled; }

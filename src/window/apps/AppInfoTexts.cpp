@@ -1,5 +1,6 @@
 #include "window/apps/AppInfoTexts.h"
 
+#include "window/WindowTexts.h"
 #include "window/apps/AppIconProvider.h"
 #include "window/lists/DisplayText.h"
 
@@ -7,21 +8,22 @@ namespace orlen::AppInfoTexts {
 
 namespace {
 
-QString kindName(AppSource source)
+/// Some kinds are names, which no language changes.
+Message kindName(AppSource source)
 {
     switch (source) {
     case AppSource::bundle:
-        return QStringLiteral("App bundle");
+        return WindowTexts::kAppBundle;
     case AppSource::appImage:
-        return QStringLiteral("AppImage");
+        return Message::verbatim("AppImage");
     case AppSource::folder:
-        return QStringLiteral("App folder");
+        return WindowTexts::kAppFolder;
     case AppSource::flatpak:
-        return QStringLiteral("Flatpak");
+        return Message::verbatim("Flatpak");
     case AppSource::snap:
-        return QStringLiteral("Snap");
+        return Message::verbatim("Snap");
     case AppSource::removedFlatpak:
-        return QStringLiteral("Data of a removed Flatpak");
+        return WindowTexts::kRemovedFlatpak;
     }
     return {};
 }
@@ -47,19 +49,21 @@ QString symbol(AppSource source)
 
 QString summary(std::size_t applications, std::int64_t bytes)
 {
-    const QString count = DisplayText::counted(static_cast<std::int64_t>(applications), "application");
-    return bytes == 0 ? count : QStringLiteral("%1 · %2").arg(count, DisplayText::size(bytes));
+    const QString count =
+        DisplayText::counted(static_cast<std::int64_t>(applications), WindowTexts::kApplicationCount);
+    return DisplayText::facts({count, bytes == 0 ? QString() : DisplayText::size(bytes)});
 }
 
 QString foldersSummary(std::size_t folders, std::int64_t bytes)
 {
-    return QStringLiteral("%1 · %2").arg(DisplayText::counted(static_cast<std::int64_t>(folders), "folder"),
-                                         DisplayText::size(bytes));
+    return DisplayText::facts(
+        {DisplayText::counted(static_cast<std::int64_t>(folders), WindowTexts::kFolders),
+         DisplayText::size(bytes)});
 }
 
 QString origin(const AppInfo& app)
 {
-    return QStringLiteral("%1 · %2").arg(kindName(app.source), DisplayText::folderOf(app.path));
+    return DisplayText::facts({DisplayText::text(kindName(app.source)), DisplayText::folderOf(app.path)});
 }
 
 QString iconId(const AppInfo& app)
@@ -70,8 +74,8 @@ QString iconId(const AppInfo& app)
 QString leftoversHeading(const AppInfo& app)
 {
     if (app.bundleID.empty())
-        return QStringLiteral("Leftovers found by name");
-    return QStringLiteral("Leftovers found by bundle identifier (%1)").arg(DisplayText::path(app.bundleID));
+        return DisplayText::text(WindowTexts::kLeftoversByName);
+    return DisplayText::text(Message(WindowTexts::kLeftoversByIdentifier, {{"id", app.bundleID}}));
 }
 
 } // namespace orlen::AppInfoTexts

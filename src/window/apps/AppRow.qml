@@ -13,13 +13,14 @@ ListRow {
 
     implicitHeight: Math.max(60, texts.height + 22)
     Accessible.name: root.name
-    Accessible.description: root.size === "" ? root.origin : root.origin + ", " + root.size
+    Accessible.description: Strings.spoken([root.origin, root.size])
     Accessible.onPressAction: root.activated()
 
     AppIcon {
         id: picture
 
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         icon: root.icon
     }

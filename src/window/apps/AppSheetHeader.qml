@@ -1,22 +1,15 @@
 import QtQuick
 import Orlen.App
 
-/// Facts about an application, and warnings before it is removed.
+/// Facts about an application, and what to do before it is removed.
 Column {
     id: root
 
     required property AppDetailModel detail
     signal closeRequested
 
-    bottomPadding: root.detail.apple || root.detail.quitFirst !== "" ? 16 : 0
+    bottomPadding: root.detail.quitFirst !== "" ? 16 : 0
     spacing: Theme.spaceS
-
-    component Warning: Note {
-        x: 24
-        width: root.width - 48
-        symbol: "exclamationmark.triangle.fill"
-        ink: Theme.reviewText
-    }
 
     SheetHeader {
         width: root.width
@@ -30,7 +23,7 @@ Column {
 
         SmallText {
             width: parent.width
-            text: root.detail.size === "" ? root.detail.origin : root.detail.size + Strings.joint + root.detail.origin
+            text: Strings.facts([root.detail.size, root.detail.origin])
             elide: Text.ElideMiddle
         }
 
@@ -42,12 +35,11 @@ Column {
         }
     }
 
-    Warning {
-        visible: root.detail.apple
-        text: Strings.appleApp
-    }
-
-    Warning {
+    Note {
+        x: 24
+        width: root.width - 48
+        symbol: "exclamationmark.triangle.fill"
+        ink: Theme.reviewText
         visible: root.detail.quitFirst !== ""
         text: root.detail.quitFirst
     }

@@ -174,7 +174,8 @@ Item {
 
                 required property int index
 
-                width: ListView.view.width - 7
+                x: Theme.mirrored ? 7 : 0
+            width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     // Taps on a sheet reach the rows below it.
@@ -201,7 +202,7 @@ Item {
             visible: !apps.loading && list.count === 0
             symbol: search.text === "" ? "app.badge.fill" : "magnifyingglass"
             tone: Theme.appsTone
-            text: search.text === "" ? Strings.noApps : Strings.noAppMatches.arg(search.text)
+            text: search.text === "" ? Strings.noApps : Strings.noAppMatches(search.text)
             action: search.text === "" ? "" : Strings.clearFilter
             onTriggered: {
                 search.clear();

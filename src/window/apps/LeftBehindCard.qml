@@ -21,7 +21,8 @@ Pressable {
         Badge {
             id: badge
 
-            x: Theme.cardMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             name: "archivebox.fill"
             tone: Theme.appsTone

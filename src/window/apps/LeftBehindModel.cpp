@@ -95,7 +95,7 @@ QVariant LeftBehindModel::value(std::size_t number, int role) const
     if (role == static_cast<int>(Role::name))
         return DisplayText::shortPath(entry.path);
     if (role == static_cast<int>(Role::folder))
-        return DisplayText::path(entry.note.value_or(""));
+        return DisplayText::text(noteOf(entry));
     if (role == static_cast<int>(Role::note))
         return QString();
     return LeftoverListModel::value(number, role);

@@ -23,7 +23,8 @@ FocusScope {
             id: all
 
             objectName: "leftoversAll"
-            x: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 20
             anchors.verticalCenter: parent.verticalCenter
             visible: root.leftovers.count > 0
             checkState: root.leftovers.checkState
@@ -90,6 +91,7 @@ FocusScope {
 
             required property int index
 
+            x: Theme.mirrored ? 10 : 0
             width: ListView.view.width - 10
             ringed: row.isCurrent && list.showsFocus
             isCurrent: ListView.isCurrentItem && list.activeFocus

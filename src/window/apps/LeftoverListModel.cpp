@@ -120,7 +120,7 @@ QVariant LeftoverListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(entry.size);
     case Role::note:
-        return DisplayText::path(entry.note.value_or(""));
+        return DisplayText::text(noteOf(entry));
     case Role::checked:
         return isChecked;
     }

@@ -17,7 +17,7 @@ ListRow {
     implicitHeight: Theme.grown(52)
     Accessible.role: Accessible.CheckBox
     Accessible.name: root.name
-    Accessible.description: root.folder + ", " + root.size + (root.note === "" ? "" : ", " + root.note)
+    Accessible.description: Strings.spoken([root.folder, root.size, root.note])
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.onToggleAction: root.toggled()
@@ -31,7 +31,8 @@ ListRow {
         id: mark
 
         objectName: "check"
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         checked: root.checked
         focusPolicy: Qt.NoFocus

@@ -16,13 +16,14 @@ Pressable {
     fill: root.hovered || root.down ? Theme.hover : Theme.inset
     ringGap: 2
     text: root.title
-    Accessible.name: root.title + ", " + root.size
+    Accessible.name: Strings.spoken([root.title, root.size])
 
     contentItem: Item {
         Badge {
             id: badge
 
-            x: 10
+            anchors.left: parent.left
+            anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone

@@ -10,8 +10,8 @@ InputField {
 
     objectName: "askField"
     implicitHeight: Theme.widened(48)
-    leftPadding: Theme.spaceL
-    rightPadding: 54
+    leftPadding: Theme.mirrored ? 54 : Theme.spaceL
+    rightPadding: Theme.mirrored ? Theme.spaceL : 54
     fill: Theme.card
     corner: Math.min(24, root.height / 2)
     placeholderText: Strings.askPlaceholder

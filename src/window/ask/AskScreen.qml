@@ -77,6 +77,7 @@ Item {
 
     // Messages fade out below the header.
     Rectangle {
+        x: Theme.mirrored ? 14 : 0
         y: list.y
         width: list.width - 14
         height: 20

@@ -9,7 +9,7 @@ Item {
 
     implicitHeight: bubble.height
     Accessible.role: Accessible.StaticText
-    Accessible.name: Strings.yourQuestion.arg(root.text)
+    Accessible.name: Strings.yourQuestion(root.text)
 
     Rectangle {
         id: bubble

@@ -80,7 +80,8 @@ ScrollList {
         height: root.isWaiting ? Theme.grown(44) : 12
 
         ThinkingDots {
-            x: Math.round((parent.width - root.columnWidth) / 2) + Theme.cardMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Math.round((parent.width - root.columnWidth) / 2) + Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             visible: root.isWaiting
             active: root.isWaiting

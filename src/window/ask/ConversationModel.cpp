@@ -1,6 +1,7 @@
 #include "window/ask/ConversationModel.h"
 
 #include "insight/AskEngine.h"
+#include "model/Words.h"
 #include "window/lists/DisplayText.h"
 
 #include <QClipboard>
@@ -9,6 +10,20 @@
 #include <utility>
 
 namespace orlen {
+
+namespace {
+
+/// A suggested question is put to the engine in English, which it understands.
+std::string understood(const QString& question)
+{
+    for (const Text& suggestion : AskEngine::kSuggestions) {
+        if (DisplayText::text(suggestion) == question)
+            return std::string(suggestion.base());
+    }
+    return question.toStdString();
+}
+
+} // namespace
 
 ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this) {}
 
@@ -20,7 +35,7 @@ QString ConversationModel::introduction()
 QStringList ConversationModel::suggestions()
 {
     QStringList questions;
-    for (const std::string_view question : AskEngine::kSuggestions)
+    for (const Text& question : AskEngine::kSuggestions)
         questions << DisplayText::text(question);
     return questions;
 }
@@ -35,7 +50,7 @@ bool ConversationModel::ask(const QString& question)
     m_recalled = m_asked.size();
     append(ChatMessage::question(asked.toStdString()));
     setThinking(true);
-    m_workers.start([question = asked.toStdString(), context = m_app.askContext()](
+    m_workers.start([question = understood(asked), context = m_app.askContext()](
                         const std::stop_token& /*stop*/) { return AskEngine::answer(question, context); },
                     [this](Answer answer) {
                         setThinking(false);
@@ -57,7 +72,7 @@ void ConversationModel::copy(int row) const
 {
     if (hasRow(row))
         QGuiApplication::clipboard()->setText(
-            DisplayText::text(m_rows[static_cast<std::size_t>(row)].message.text));
+            DisplayText::text(shown(m_rows[static_cast<std::size_t>(row)].message.text)));
 }
 
 void ConversationModel::append(ChatMessage message)
@@ -82,7 +97,7 @@ QVariant ConversationModel::value(std::size_t number, int role) const
     case Role::fromUser:
         return message.fromUser;
     case Role::text:
-        return DisplayText::text(message.text);
+        return DisplayText::text(shown(message.text));
     case Role::usedModel:
         return message.usedModel;
     case Role::links:

@@ -44,7 +44,7 @@ Item {
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
             orientation: Qt.Vertical
             property: "contentX"
-            rotationScale: -1
+            rotationScale: Theme.mirrored ? 1 : -1
             onWheel: list.returnToBounds()
         }
     }
@@ -53,7 +53,8 @@ Item {
         anchors.right: parent.right
         width: 40
         height: parent.height
-        visible: !list.atXEnd
+        visible: Theme.mirrored ? !list.atXBeginning : !list.atXEnd
+        rotation: Theme.mirrored ? 180 : 0
         gradient: Gradient {
             orientation: Gradient.Horizontal
             GradientStop {

@@ -15,7 +15,7 @@ Card {
 
     implicitHeight: content.height + 2 * Theme.spaceL
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title + ", " + root.size + ". " + root.text
+    Accessible.name: Strings.spokenText(Strings.spoken([root.title, root.size]), root.text)
 
     Column {
         id: content
@@ -32,6 +32,7 @@ Card {
             BodyText {
                 id: title
 
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, parent.width - amount.width - Theme.spaceM)
                 text: root.title
                 font.weight: Font.DemiBold

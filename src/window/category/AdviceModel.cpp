@@ -1,5 +1,6 @@
 #include "window/category/AdviceModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <QClipboard>
@@ -8,6 +9,17 @@
 #include <utility>
 
 namespace orlen {
+
+namespace {
+
+Message textOf(const AdviceItem& item)
+{
+    if (item.isOnHomeDisk)
+        return item.text;
+    return Message::joined({item.text, WindowTexts::kOnOtherDisk}, Several::Joint::sentences);
+}
+
+} // namespace
 
 void AdviceModel::setAdvice(std::vector<AdviceItem> advice)
 {
@@ -32,9 +44,7 @@ QVariant AdviceModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::text(item.sizeText());
     case Role::text:
-        return DisplayText::text(item.text) +
-               (item.isOnHomeDisk ? QString()
-                                  : QStringLiteral(" It is on another disk than your home folder."));
+        return DisplayText::text(textOf(item));
     case Role::command:
         return DisplayText::text(item.command);
     }

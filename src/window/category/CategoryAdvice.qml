@@ -14,6 +14,7 @@ Column {
     Accessible.name: Strings.beyondOrlen
 
     HeadlineText {
+        width: parent.width
         visible: cards.count > 0 || root.category.collecting
         text: Strings.beyondOrlen
     }
@@ -26,6 +27,7 @@ Column {
     }
 
     SmallText {
+        width: parent.width
         visible: root.category.collecting && cards.count === 0
         text: Strings.lookingForAdvice
         color: Theme.tertiary

@@ -2,10 +2,10 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace orlen {
@@ -17,11 +17,6 @@ constexpr std::size_t kMostItems = 3;
 double shareOf(std::int64_t part, std::int64_t whole)
 {
     return whole > 0 ? std::clamp(static_cast<double>(part) / static_cast<double>(whole), 0.0, 1.0) : 0;
-}
-
-QString percentOf(double share)
-{
-    return share < 0.01 ? QStringLiteral("< 1 %") : QString::number(std::lround(share * 100)) + " %";
 }
 
 /// "Steam 62 GB · lutris 4 GB"
@@ -72,23 +67,26 @@ QVariant CategoryFolderModel::value(std::size_t number, int role) const
     switch (static_cast<Role>(role)) {
     case Role::name:
         if (!isSeen)
-            return QStringLiteral("Not visible to Orlen");
+            return DisplayText::text(WindowTexts::kNotVisible);
         if (folder.path == Places::current().home)
-            return QStringLiteral("The rest of your home folder");
-        return folder.path == "/" ? QStringLiteral("Files in /") : DisplayText::nameOf(folder.path);
+            return DisplayText::text(WindowTexts::kRestOfHome);
+        return folder.path == "/"
+                   ? DisplayText::text(Message(WindowTexts::kFilesIn, {{"folder", folder.path}}))
+                   : DisplayText::nameOf(folder.path);
     case Role::place:
         return DisplayText::shortPath(folder.path);
     case Role::items:
         if (!isSeen)
-            return QStringLiteral("For administrators only, or held in reserve");
+            return DisplayText::text(WindowTexts::kHeldBack);
         return itemsOf(folder);
     case Role::size:
-        return folder.isComplete ? DisplayText::size(folder.bytes)
-                                 : QStringLiteral("at least ") + DisplayText::size(folder.bytes);
+        return folder.isComplete
+                   ? DisplayText::size(folder.bytes)
+                   : DisplayText::text(Message(WindowTexts::kAtLeast, {{"size", Bytes{folder.bytes}}}));
     case Role::share:
         return share;
     case Role::shareText:
-        return percentOf(share);
+        return DisplayText::percent(share);
     case Role::isSeen:
         return isSeen;
     case Role::isInHome:

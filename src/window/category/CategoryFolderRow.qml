@@ -20,7 +20,7 @@ Pressable {
     enabled: root.isSeen
     fill: root.isSeen && (root.hovered || root.down) ? Theme.hover : Theme.clear
     ringGap: 0
-    text: root.name + ", " + root.size + ", " + root.shareText
+    text: Strings.spoken([root.name, root.size, root.shareText])
     Accessible.description: root.isInHome ? Strings.opensInDiskMap : root.isSeen ? Strings.reveal : ""
 
     Keys.onMenuPressed: root.revealRequested()
@@ -29,7 +29,8 @@ Pressable {
         Symbol {
             id: icon
 
-            x: Theme.spaceXs
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.spaceXs
             anchors.verticalCenter: parent.verticalCenter
             name: root.isSeen ? "folder.fill" : "lock.fill"
             colour: root.isSeen ? root.tone : Theme.tertiary
@@ -50,6 +51,7 @@ Pressable {
                 BodyText {
                     id: name
 
+                    anchors.left: parent.left
                     width: Math.min(implicitWidth, parent.width)
                     text: root.name
                     elide: Text.ElideMiddle

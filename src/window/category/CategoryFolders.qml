@@ -16,12 +16,14 @@ Column {
     Accessible.name: Strings.largestFolders
 
     HeadlineText {
+        width: parent.width
         bottomPadding: Theme.spaceXs
         visible: root.category.folders.count > 0 || root.category.measuring
         text: Strings.largestFolders
     }
 
     SmallText {
+        width: parent.width
         visible: root.category.measuring
         text: Strings.measuring
         color: Theme.tertiary
@@ -49,9 +51,10 @@ Column {
     }
 
     AppButton {
+        anchors.left: parent.left
         visible: root.category.folders.count > root.few + 1
         quiet: true
-        text: root.all ? Strings.showFewer : Strings.showAllNumber.arg(root.category.folders.count)
+        text: root.all ? Strings.showFewer : Strings.showAllNumber(root.category.folders.count)
         onClicked: root.all = !root.all
     }
 

@@ -3,12 +3,12 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/SystemFolders.h"
 #include "tools/advice/Advice.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/shell/Reveal.h"
 
 #include <chrono>
-#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -18,26 +18,26 @@ namespace {
 
 struct CategoryTexts {
     const char* symbol;
-    const char* explanation;
+    Text explanation;
 };
 
 CategoryTexts textsOf(OrlenCategory category)
 {
     switch (category) {
     case OrlenCategory::apps:
-        return {"app.fill", "Installed apps and games, with their data."};
+        return {"app.fill", WindowTexts::kApps};
     case OrlenCategory::photos:
-        return {"photo.stack.fill", "Your pictures, and what photo programs keep."};
+        return {"photo.stack.fill", WindowTexts::kPictures};
     case OrlenCategory::media:
-        return {"doc.movie", "Your music and videos."};
+        return {"doc.movie", WindowTexts::kMedia};
     case OrlenCategory::documents:
-        return {"doc.text.fill", "Your documents and downloads, and what lies on the desktop."};
+        return {"doc.text.fill", WindowTexts::kDocuments};
     case OrlenCategory::developer:
-        return {"hammer.fill", "Tools and packages for developing software."};
+        return {"hammer.fill", WindowTexts::kDeveloper};
     case OrlenCategory::system:
-        return {"gear", "Everything else: the system with its programs, and the rest of your home folder."};
+        return {"gear", WindowTexts::kSystem};
     case OrlenCategory::caches:
-        return {"archivebox.fill", "What programs keep to be faster. A Smart Scan shows what can go."};
+        return {"archivebox.fill", WindowTexts::kCaches};
     }
     return {};
 }
@@ -160,14 +160,14 @@ QString CategoryModel::summary() const
     const std::int64_t total = m_app.storage()->breakdown().total;
     if (total <= 0)
         return DisplayText::size(bytes());
-    const auto percent = std::lround(100 * static_cast<double>(bytes()) / static_cast<double>(total));
-    return QStringLiteral("%1 · %2 % of the disk")
-        .arg(DisplayText::size(bytes()), percent < 1 ? QStringLiteral("< 1") : QString::number(percent));
+    const double share = static_cast<double>(bytes()) / static_cast<double>(total);
+    return DisplayText::text(Message(WindowTexts::kShareOfDisk,
+                                     {{"size", Bytes{bytes()}}, {"share", DisplayText::percentOf(share)}}));
 }
 
 QString CategoryModel::explanation() const
 {
-    return QString::fromLatin1(textsOf(m_category).explanation);
+    return DisplayText::text(textsOf(m_category).explanation);
 }
 
 } // namespace orlen

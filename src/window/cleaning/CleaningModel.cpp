@@ -1,6 +1,7 @@
 #include "window/cleaning/CleaningModel.h"
 
 #include "app/AppTexts.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <QStringList>
@@ -55,14 +56,14 @@ QString CleaningModel::stillOn() const
 {
     QStringList sentences;
     for (const std::string& service : m_state.servicesStillOn)
-        sentences << DisplayText::path(AppTexts::stillOn(service));
+        sentences << DisplayText::text(AppTexts::stillOn(service));
     return sentences.join(u'\n');
 }
 
 QString CleaningModel::progressText() const
 {
-    return QStringLiteral("%1 of %2")
-        .arg(DisplayText::number(m_state.done), DisplayText::number(m_state.total));
+    return DisplayText::text(Message(WindowTexts::kDoneOf, {{"count", std::int64_t{m_state.done}},
+                                                            {"total", std::int64_t{m_state.total}}}));
 }
 
 } // namespace orlen

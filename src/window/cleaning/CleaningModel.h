@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/WindowTexts.h"
 #include "window/cleaning/FailureListModel.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
@@ -27,8 +28,10 @@ class CleaningModel : public QObject {
     /// "12 of 340"
     Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
     Q_PROPERTY(int moved READ moved NOTIFY changed)
+    /// "12 moved to the Trash"
     Q_PROPERTY(QString movedText READ movedText NOTIFY changed)
     Q_PROPERTY(int failed READ failed NOTIFY changed)
+    /// "1 couldn't be moved"
     Q_PROPERTY(QString failedText READ failedText NOTIFY changed)
     Q_PROPERTY(QString freedText READ freedText NOTIFY changed)
     /// What could not be moved; empty until finished.
@@ -45,13 +48,19 @@ public:
 
     [[nodiscard]] bool isFinished() const { return m_state.finished; }
     [[nodiscard]] double fraction() const;
-    [[nodiscard]] QString planTitle() const { return DisplayText::path(m_state.planTitle); }
+    [[nodiscard]] QString planTitle() const { return DisplayText::text(m_state.planTitle); }
     [[nodiscard]] QString current() const { return DisplayText::path(m_state.current); }
     [[nodiscard]] QString progressText() const;
     [[nodiscard]] int moved() const { return m_state.moved; }
-    [[nodiscard]] QString movedText() const { return DisplayText::number(m_state.moved); }
+    [[nodiscard]] QString movedText() const
+    {
+        return DisplayText::counted(m_state.moved, WindowTexts::kMoved);
+    }
     [[nodiscard]] int failed() const { return m_state.failed; }
-    [[nodiscard]] QString failedText() const { return DisplayText::number(m_state.failed); }
+    [[nodiscard]] QString failedText() const
+    {
+        return DisplayText::counted(m_state.failed, WindowTexts::kNotMoved);
+    }
     [[nodiscard]] QString freedText() const { return DisplayText::size(m_state.freed); }
     [[nodiscard]] FailureListModel* failures() { return &m_failures; }
     [[nodiscard]] bool isRecorded() const { return m_state.isRecorded; }

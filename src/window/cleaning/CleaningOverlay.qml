@@ -7,7 +7,7 @@ Sheet {
 
     required property Navigation navigation
 
-    title: cleaning.finished ? Strings.movedToTrash.arg(cleaning.movedText) : Strings.movingToTrash
+    title: cleaning.finished ? cleaning.movedText : Strings.movingToTrash
     wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
     closable: false
@@ -97,7 +97,7 @@ Sheet {
             BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.finished ? cleaning.planTitle + Strings.joint + cleaning.freedText
+                text: cleaning.finished ? Strings.facts([cleaning.planTitle, cleaning.freedText])
                                         : cleaning.progressText
                 color: Theme.secondary
                 font.weight: Font.DemiBold
@@ -108,7 +108,7 @@ Sheet {
                 width: parent.width
                 visible: cleaning.finished && cleaning.failed > 0
                 horizontalAlignment: Text.AlignHCenter
-                text: Strings.couldNotBeMoved.arg(cleaning.failedText)
+                text: cleaning.failedText
                 color: Theme.reviewText
                 font.weight: Font.Medium
             }

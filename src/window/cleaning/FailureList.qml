@@ -32,15 +32,15 @@ KeyedList {
         required property string reason
         required property bool startsReason
         required property string remedy
+        readonly property string facts: Strings.spoken([row.name, row.folder, row.reason])
 
         width: ListView.view ? ListView.view.width : 0
-        leftPadding: Theme.spaceM
+        leftPadding: Theme.spaceL
         rightPadding: Theme.spaceL
         topPadding: row.startsReason ? 12 : 0
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.name + ", " + row.folder + ", " + row.reason
-                         + (row.startsReason && row.remedy !== "" ? ". " + row.remedy : "")
+        Accessible.name: row.startsReason && row.remedy !== "" ? Strings.spokenText(row.facts, row.remedy) : row.facts
 
         SmallText {
             objectName: "failureReason"

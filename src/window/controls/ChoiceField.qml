@@ -11,11 +11,11 @@ T.ComboBox {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.widened(28)
-    leftPadding: Theme.spaceS
-    rightPadding: 26
+    leftPadding: root.mirrored ? 26 : Theme.spaceS
+    rightPadding: root.mirrored ? Theme.spaceS : 26
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.name: root.label + " " + root.displayText
+    Accessible.name: Strings.spoken([root.label, root.displayText])
 
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()
@@ -29,7 +29,7 @@ T.ComboBox {
     }
 
     indicator: Symbol {
-        x: root.width - width - 10
+        x: root.mirrored ? 10 : root.width - width - 10
         y: (root.height - height) / 2
         name: "chevron.down"
         size: 10
@@ -60,7 +60,8 @@ T.ComboBox {
         Accessible.name: choice.modelData
 
         contentItem: SmallText {
-            leftPadding: 26
+            leftPadding: root.mirrored ? 0 : 26
+            rightPadding: root.mirrored ? 26 : 0
             text: choice.modelData
             verticalAlignment: Text.AlignVCenter
             color: Theme.text
@@ -73,7 +74,8 @@ T.ComboBox {
             color: choice.highlighted ? Theme.hover : "transparent"
 
             Symbol {
-                x: 8
+                anchors.left: parent.left
+                anchors.leftMargin: 8
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.currentIndex === choice.index
                 name: "checkmark"
@@ -84,6 +86,7 @@ T.ComboBox {
     }
 
     popup: T.Popup {
+        x: root.mirrored ? root.width - width : 0
         y: root.height + 4
         width: Math.max(root.width, 112)
         implicitHeight: contentHeight + topPadding + bottomPadding

@@ -22,6 +22,8 @@ Rectangle {
         anchors.right: copy.left
         anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
+        // A command is read from the left in every language.
+        horizontalAlignment: Theme.mirrored ? TextEdit.AlignRight : TextEdit.AlignLeft
         readOnly: true
         selectByMouse: true
         text: root.command

@@ -31,7 +31,8 @@ Column {
             Rectangle {
                 id: tile
 
-                x: 12
+                anchors.left: parent.left
+                anchors.leftMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 width: 40
                 height: 40

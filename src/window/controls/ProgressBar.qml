@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// A thin bar, filled from the left or from `start`.
+/// A thin bar, filled from where the reader begins or from `start`.
 Rectangle {
     id: root
 
@@ -16,7 +16,9 @@ Rectangle {
     Accessible.role: Accessible.ProgressBar
 
     Rectangle {
-        x: Math.min(root.width - width, Math.round(root.width * root.start))
+        readonly property real gap: Math.min(root.width - width, Math.round(root.width * root.start))
+
+        x: Theme.mirrored ? root.width - width - gap : gap
         width: Math.max(root.value > 0 ? root.height : 0, Math.round(root.width * Math.min(1, root.value)))
         height: parent.height
         radius: parent.radius

@@ -41,6 +41,7 @@ Item {
                 PageHeader {
                     id: header
 
+                    anchors.left: parent.left
                     width: parent.width - (toolRow.width > 0 ? toolRow.width + 16 : 0)
                     title: root.title
                     subtitle: root.subtitle

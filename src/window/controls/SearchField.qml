@@ -5,15 +5,19 @@ import Orlen.App
 InputField {
     id: root
 
+    readonly property real beforeText: 12 + glass.width + 8
+    readonly property real afterText: clear.visible ? 34 : 12
+
     implicitWidth: 220
     implicitHeight: Theme.controlHeight
-    leftPadding: glass.x + glass.width + 8
-    rightPadding: clear.visible ? 34 : 12
+    leftPadding: Theme.mirrored ? root.afterText : root.beforeText
+    rightPadding: Theme.mirrored ? root.beforeText : root.afterText
 
     Symbol {
         id: glass
 
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         name: "magnifyingglass"
         colour: Theme.tertiary

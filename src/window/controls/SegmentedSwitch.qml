@@ -30,8 +30,8 @@ Rectangle {
         Accessible.checked: segment.isChosen
         onClicked: root.selected(segment.number)
 
-        Keys.onLeftPressed: root.selected(0)
-        Keys.onRightPressed: root.selected(1)
+        Keys.onLeftPressed: root.selected(Theme.mirrored ? 1 : 0)
+        Keys.onRightPressed: root.selected(Theme.mirrored ? 0 : 1)
     }
 
     implicitWidth: row.width + 6

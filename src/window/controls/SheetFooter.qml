@@ -31,8 +31,10 @@ Item {
         id: remark
 
         anchors.verticalCenter: parent.verticalCenter
-        x: 24
-        width: total.x - x - 16
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.spaceXl
+        anchors.right: total.left
+        anchors.rightMargin: Theme.spaceL
         text: root.note
         symbol: root.noteSymbol
         ink: root.noteInk

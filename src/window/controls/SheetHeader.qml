@@ -21,7 +21,8 @@ Item {
     Item {
         id: slot
 
-        x: Theme.spaceXl
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.spaceXl
         y: Theme.spaceXl
         width: childrenRect.width
         height: childrenRect.height

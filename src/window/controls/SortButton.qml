@@ -11,7 +11,7 @@ Pressable {
     implicitWidth: label.implicitWidth + 16 + 14
     implicitHeight: Theme.controlHeight
     ringGap: 0
-    Accessible.name: Strings.sortBy.arg(root.text)
+    Accessible.name: Strings.sortBy(root.text)
     Accessible.checkable: true
     Accessible.checked: root.active
 
@@ -20,7 +20,8 @@ Pressable {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             text: root.text
             color: root.active ? Theme.text : Theme.secondary
             font.weight: root.active ? Font.DemiBold : Font.Medium

@@ -14,9 +14,10 @@ ColumnCard {
 
     spacing: root.beside ? 10 : 8
     Accessible.role: Accessible.StaticText
-    Accessible.name: root.title + ". " + root.body
+    Accessible.name: Strings.spokenText(root.title, root.body)
 
     Badge {
+        anchors.left: parent.left
         visible: !root.beside
         name: root.symbol
         tone: root.tone
@@ -26,7 +27,8 @@ ColumnCard {
     HeadlineText {
         width: parent.width
         height: root.beside ? Math.max(32, implicitHeight) : implicitHeight
-        leftPadding: root.beside ? 44 : 0
+        leftPadding: root.beside && !Theme.mirrored ? 44 : 0
+        rightPadding: root.beside && Theme.mirrored ? 44 : 0
         topPadding: root.beside ? 0 : 4
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideNone
@@ -35,6 +37,7 @@ ColumnCard {
         Accessible.ignored: true
 
         Badge {
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             visible: root.beside
             name: root.symbol

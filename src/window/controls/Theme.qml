@@ -1,12 +1,14 @@
 pragma Singleton
 import QtQuick
-import Orlen.App
+import Orlen.App 1.0
 
 /// Colours, type, spacing and motion of every screen. Follows the desktop.
 QtObject {
     id: root
 
     readonly property Appearance appearance: Appearance {}
+    /// Whether everything stands the other way round, as the reader's language is written.
+    readonly property bool mirrored: Words.isRightToLeft
     readonly property bool dark: root.appearance.dark
 
     readonly property color window: root.dark ? "#131519" : "#f6f7f9"

@@ -25,7 +25,7 @@ T.Switch {
         Ease on color {}
 
         Rectangle {
-            x: root.checked ? parent.width - width - 3 : 3
+            x: root.checked === root.mirrored ? 3 : parent.width - width - 3
             y: 3
             width: 18
             height: 18

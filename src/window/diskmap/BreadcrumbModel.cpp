@@ -1,5 +1,6 @@
 #include "window/diskmap/BreadcrumbModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 namespace orlen {
@@ -15,7 +16,7 @@ constexpr int kAfterGap = 2;
 
 QString BreadcrumbModel::nameOfLast(std::span<const std::string> folders)
 {
-    return folders.size() == 1 ? QStringLiteral("Home") : DisplayText::nameOf(folders.back());
+    return folders.size() == 1 ? DisplayText::text(WindowTexts::kHome) : DisplayText::nameOf(folders.back());
 }
 
 std::vector<BreadcrumbModel::Row> BreadcrumbModel::rowsOf(const std::vector<std::string>& folders)

@@ -13,7 +13,8 @@ Pressable {
 
     implicitWidth: root.arrowWidth + Math.ceil(label.implicitWidth) + 2 * Theme.controlRadius
     implicitHeight: Theme.grown(30)
-    leftInset: root.arrowWidth
+    leftInset: root.mirrored ? 0 : root.arrowWidth
+    rightInset: root.mirrored ? root.arrowWidth : 0
     enabled: !root.isLast
     fill: root.isLast ? Theme.inset : root.hovered ? Theme.hover : Theme.clear
     ringGap: 1
@@ -21,6 +22,7 @@ Pressable {
 
     contentItem: Item {
         Symbol {
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             visible: root.arrowWidth > 0
             name: "chevron.right"
@@ -31,7 +33,8 @@ Pressable {
         BodyText {
             id: label
 
-            x: root.arrowWidth + Theme.controlRadius
+            anchors.left: parent.left
+            anchors.leftMargin: root.arrowWidth + Theme.controlRadius
             anchors.verticalCenter: parent.verticalCenter
             width: root.width - root.arrowWidth - 2 * Theme.controlRadius
             text: root.isGap ? "…" : root.text

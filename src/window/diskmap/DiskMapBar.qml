@@ -13,8 +13,9 @@ Item {
     implicitHeight: Theme.controlHeight
 
     RowLayout {
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, tools.x - 16)
+        width: Math.min(implicitWidth, root.width - tools.width - 16)
         spacing: 0
         Accessible.role: Accessible.List
         Accessible.name: Screens.title(Screens.DiskMap)

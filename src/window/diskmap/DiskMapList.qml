@@ -16,7 +16,7 @@ ScrollList {
     currentIndex: root.map.currentRow
     highlightFollowsCurrentItem: true
     highlightMoveDuration: 0
-    Accessible.name: Strings.contentsOf.arg(root.map.folderName)
+    Accessible.name: Strings.contentsOf(root.map.folderName)
 
     Keys.onPressed: event => {
         event.accepted = true;

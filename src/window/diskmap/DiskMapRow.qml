@@ -19,14 +19,15 @@ ListRow {
     implicitHeight: Theme.grown(44)
     sideGap: 4
     ringed: root.isCurrent
-    Accessible.name: root.spoken + ", " + root.shareText
+    Accessible.name: Strings.spoken([root.spoken, root.shareText])
     Accessible.selected: root.isCurrent
     Accessible.onPressAction: root.pressed()
 
     Symbol {
         id: icon
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary

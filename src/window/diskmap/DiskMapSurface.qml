@@ -18,9 +18,12 @@ T.Control {
     objectName: "diskMapSurface"
     clip: true
     focus: true
+    // The places of the tiles are the map's, and so are the keys that go from one to the next.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.List
-    Accessible.name: Strings.contentsOf.arg(root.map.folderName)
+    Accessible.name: Strings.contentsOf(root.map.folderName)
 
     Keys.onPressed: event => {
         root.isKeyed = true;

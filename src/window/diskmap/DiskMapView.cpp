@@ -1,11 +1,10 @@
 #include "window/diskmap/DiskMapView.h"
 
 #include "platform/values/CheckedSum.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/shell/Reveal.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -42,23 +41,18 @@ DiskMapView::Kind kindOf(const TreeNode& node)
     return node.isDir ? DiskMapView::Folder : DiskMapView::File;
 }
 
-QString percent(double share)
-{
-    return share < 0.01 ? QStringLiteral("< 1 %") : QString::number(std::lround(share * 100)) + " %";
-}
-
 QString spoken(const TreeNode& node)
 {
-    QString text = DisplayText::path(node.name) + ", " + DisplayText::size(node.size);
+    const std::vector<Place> places{{"name", within(node.title())}, {"size", Bytes{node.size}}};
     switch (kindOf(node)) {
     case DiskMapView::Folder:
-        return text + ", folder";
+        return DisplayText::text(Message(WindowTexts::kSpokenFolder, places));
     case DiskMapView::File:
-        return text + ", file";
+        return DisplayText::text(Message(WindowTexts::kSpokenFile, places));
     case DiskMapView::Rest:
-        return text;
+        break;
     }
-    return text;
+    return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
 }
 
 } // namespace
@@ -154,8 +148,8 @@ void DiskMapView::step(Direction direction)
 
 QString DiskMapView::describe(int row) const
 {
-    const QString name = hasRow(row) ? DisplayText::path(node(row).name) : folderName();
-    return name + QStringLiteral(" · ") + DisplayText::size(hasRow(row) ? node(row).size : m_total);
+    const QString name = hasRow(row) ? DisplayText::text(node(row).title()) : folderName();
+    return DisplayText::facts({name, DisplayText::size(hasRow(row) ? node(row).size : m_total)});
 }
 
 void DiskMapView::click(QPointF point)
@@ -280,7 +274,7 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
     switch (static_cast<Role>(role)) {
     case Role::name:
-        return DisplayText::path(node.name);
+        return DisplayText::text(node.title());
     case Role::size:
         return DisplayText::size(node.size);
     case Role::kind:
@@ -292,7 +286,7 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     case Role::share:
         return share;
     case Role::shareText:
-        return percent(share);
+        return DisplayText::percent(share);
     case Role::spoken:
         return spoken(node);
     }

@@ -14,7 +14,7 @@ KeyedList {
     /// Ctrl+A; with Shift, `noneRequested`.
     signal allRequested
     signal noneRequested
-    /// Left and Right, for lists that fold.
+    /// Towards the beginning of a line, or towards its end, for lists that fold.
     signal foldRequested(row: int, fold: bool)
 
     reuseItems: true
@@ -46,7 +46,7 @@ KeyedList {
         else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
             root.toggleRequested(root.currentIndex);
         else if (event.key === Qt.Key_Left || event.key === Qt.Key_Right)
-            root.foldRequested(root.currentIndex, event.key === Qt.Key_Left);
+            root.foldRequested(root.currentIndex, event.key === (Theme.mirrored ? Qt.Key_Right : Qt.Key_Left));
         else if (event.key === Qt.Key_A && event.modifiers & Qt.ControlModifier)
             event.modifiers & Qt.ShiftModifier ? root.noneRequested() : root.allRequested();
         else

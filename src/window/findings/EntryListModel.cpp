@@ -1,5 +1,6 @@
 #include "window/findings/EntryListModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathCode.h"
@@ -264,7 +265,7 @@ void EntryListModel::count()
     std::vector<const FileEntry*> selected;
     m_hasNotes = false;
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        m_hasNotes = m_hasNotes || m_entries[i].note.has_value();
+        m_hasNotes = m_hasNotes || !m_entries[i].notes.empty();
         if (m_isSelected[i])
             selected.push_back(&m_entries[i]);
     }
@@ -279,10 +280,10 @@ void EntryListModel::count()
 QString EntryListModel::selectedText() const
 {
     if (!m_header.isCleanable)
-        return QStringLiteral("%1 · %2").arg(DisplayText::counted(entryCount(), "item"),
-                                             DisplayText::size(sizeOf(m_entries)));
-    return QStringLiteral("%1 · %2").arg(DisplayText::selectedOf(m_selectedCount, entryCount()),
-                                         DisplayText::size(m_selectedBytes));
+        return DisplayText::facts(
+            {DisplayText::counted(entryCount(), WindowTexts::kItems), DisplayText::size(sizeOf(m_entries))});
+    return DisplayText::facts(
+        {DisplayText::selectedOf(m_selectedCount, entryCount()), DisplayText::size(m_selectedBytes)});
 }
 
 std::size_t EntryListModel::entryIndex(int row) const
@@ -304,7 +305,7 @@ QVariant EntryListModel::value(std::size_t number, int role) const
     case Role::date:
         return DisplayText::dateOf(entry);
     case Role::note:
-        return DisplayText::path(entry.note.value_or(""));
+        return DisplayText::text(noteOf(entry));
     case Role::rating:
         return QVariant::fromValue(RatingValue(entry.rating.value_or(m_rating)));
     case Role::symbol:

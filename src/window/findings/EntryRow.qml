@@ -25,7 +25,7 @@ ListRow {
     signal revealRequested
 
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
-    Accessible.name: root.name + ", " + root.size + ", " + root.rating.label + ", " + root.note + ", " + root.folder
+    Accessible.name: Strings.spoken([root.name, root.size, root.rating.label, root.note, root.folder])
     Accessible.checkable: root.checkable
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.selected: root.isCurrent
@@ -46,7 +46,8 @@ ListRow {
 
         objectName: "check"
         anchors.verticalCenter: parent.verticalCenter
-        x: 20 + root.indent
+        anchors.left: parent.left
+        anchors.leftMargin: 20 + root.indent
         visible: root.checkable
         checkState: root.checkState
         nextCheckState: () => check.checkState
@@ -59,7 +60,8 @@ ListRow {
         id: picture
 
         anchors.verticalCenter: parent.verticalCenter
-        x: root.checkable ? check.x + check.width + 8 : 24 + root.indent
+        anchors.left: parent.left
+        anchors.leftMargin: root.indent + (root.checkable ? 20 + check.width + 8 : 24)
         symbol: root.symbol
         thumbnail: root.thumbnail
     }

@@ -35,7 +35,8 @@ Rectangle {
         id: all
 
         objectName: "selectAll"
-        x: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         y: 8 + (Theme.controlHeight - height) / 2
         visible: root.entries.header.cleanable
         enabled: root.entries.entryCount > 0
@@ -50,10 +51,13 @@ Rectangle {
     SmallText {
         id: label
 
+        readonly property real start: all.visible ? 20 + all.width + 8 : 24
+
         objectName: "selectedText"
         anchors.verticalCenter: all.verticalCenter
-        x: all.visible ? all.x + all.width + 8 : 24
-        width: Math.min(implicitWidth, root.width - x - 16)
+        anchors.left: parent.left
+        anchors.leftMargin: label.start
+        width: Math.min(implicitWidth, root.width - label.start - 16)
         text: root.entries.selectedText
         color: Theme.text
         font.weight: Font.DemiBold

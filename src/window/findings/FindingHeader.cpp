@@ -1,9 +1,27 @@
 #include "window/findings/FindingHeader.h"
 
 #include "model/Finding.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 namespace orlen {
+
+namespace {
+
+Text whyText(Rating rating)
+{
+    switch (rating) {
+    case Rating::safe:
+        return WindowTexts::kWhySafe;
+    case Rating::review:
+        return WindowTexts::kWhyReview;
+    case Rating::keep:
+        return WindowTexts::kWhyKeep;
+    }
+    return {};
+}
+
+} // namespace
 
 FindingHeader FindingHeader::of(const Finding& finding)
 {
@@ -11,8 +29,8 @@ FindingHeader FindingHeader::of(const Finding& finding)
     header.title = DisplayText::text(finding.title);
     header.explanation = DisplayText::text(finding.explanation);
     if (!finding.reason.empty())
-        header.reason = QStringLiteral("Why %1: %2")
-                            .arg(DisplayText::text(label(finding.rating)), DisplayText::text(finding.reason));
+        header.reason =
+            DisplayText::text(Message(whyText(finding.rating), {{"reason", within(finding.reason)}}));
     header.symbol = DisplayText::text(finding.symbol);
     header.tone = DisplayText::colour(finding.category);
     header.rating = RatingValue(finding.rating);

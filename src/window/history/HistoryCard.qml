@@ -28,7 +28,7 @@ Card {
     height: head.height + unfolded.height
     border.color: area.containsMouse ? Theme.accent : Theme.stroke
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title + ", " + root.date + ", " + root.summary + ", " + root.freed
+    Accessible.name: Strings.spoken([root.title, root.date, root.summary, root.freed])
 
     Ease on border.color {}
 
@@ -55,7 +55,8 @@ Card {
         Badge {
             id: badge
 
-            x: Theme.cardMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.cardMargin
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
@@ -80,7 +81,7 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: root.date + Strings.joint + (root.isNarrow ? root.freed + Strings.joint : "") + root.summary
+                text: Strings.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
                 Accessible.ignored: true
@@ -97,7 +98,8 @@ Card {
 
             HeadlineText {
                 anchors.verticalCenter: parent.verticalCenter
-                rightPadding: Theme.spaceM
+                leftPadding: Theme.mirrored ? Theme.spaceM : 0
+                rightPadding: Theme.mirrored ? 0 : Theme.spaceM
                 visible: !root.isNarrow
                 text: root.freed
                 font.weight: Font.Bold
@@ -116,7 +118,7 @@ Card {
                       : root.status === HistoryModel.Restoring ? Strings.restoring : Strings.restore
                 focusPolicy: root.tabPolicy
                 Accessible.name: root.status === HistoryModel.Restorable
-                                 ? Strings.restoreOf.arg(root.title).arg(root.date) : restore.text
+                                 ? Strings.restoreOf(root.title, root.date) : restore.text
                 onClicked: root.restoreRequested(restore.visualFocus)
             }
 

@@ -20,7 +20,7 @@ ListRow {
     signal revealRequested
 
     fill: root.hovered ? Theme.inset : "transparent"
-    Accessible.name: root.name + ", " + root.folder + ", " + root.size + ", " + root.statusText
+    Accessible.name: Strings.spoken([root.name, root.folder, root.size, root.statusText])
 
     RowTexts {
         anchors.left: parent.left

@@ -37,7 +37,7 @@ Item {
         activeFocusOnTab: true
         highlightMoveDuration: 0
         model: items
-        Accessible.name: Strings.itemsOf.arg(root.title)
+        Accessible.name: Strings.itemsOf(root.title)
 
         Keys.onReturnPressed: items.reveal(list.currentIndex)
         Keys.onEnterPressed: items.reveal(list.currentIndex)

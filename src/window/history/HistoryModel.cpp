@@ -1,6 +1,8 @@
 #include "window/history/HistoryModel.h"
 
 #include "app/AppTexts.h"
+#include "tools/ToolsTexts.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Screens.h"
 
@@ -11,15 +13,12 @@ namespace orlen {
 
 namespace {
 
-/// The only place where a line may break.
-const QString kJoint = QStringLiteral("\u00a0· ");
-
 /// The screen where a clean-up with this title was planned.
-const Screens::Meta& originOf(std::string_view title)
+const Screens::Meta& originOf(const Message& title)
 {
-    if (title == AppTexts::kScanPlanTitle)
+    if (title.text == AppTexts::kScanPlanTitle)
         return Screens::at(Screens::Home);
-    return Screens::at(title.starts_with("Uninstall ") ? Screens::Apps : Screens::History);
+    return Screens::at(title.text == ToolsTexts::kUninstall ? Screens::Apps : Screens::History);
 }
 
 } // namespace
@@ -40,7 +39,7 @@ HistoryModel::Row HistoryModel::rowOf(const CleanRecord& record) const
                                         [](const TrashedItem& item) { return item.restored; });
     return {record.id,
             record.date,
-            record.title,
+            AppTexts::titleOf(record.title),
             record.freed(),
             static_cast<int>(record.items.size()),
             static_cast<int>(restored),
@@ -77,12 +76,12 @@ HistoryModel::State HistoryModel::stateOf(const Row& row)
 
 QString HistoryModel::summaryOf(const Row& row)
 {
-    QString summary = DisplayText::counted(row.items, "item");
+    QStringList facts{DisplayText::counted(row.items, WindowTexts::kItems)};
     if (row.restored > 0)
-        summary += kJoint + DisplayText::number(row.restored) + QStringLiteral(" restored");
+        facts << DisplayText::counted(row.restored, WindowTexts::kRestoredCount);
     if (row.failed > 0)
-        summary += kJoint + DisplayText::number(row.failed) + QStringLiteral(" couldn't be moved");
-    return summary;
+        facts << DisplayText::counted(row.failed, WindowTexts::kNotMoved);
+    return DisplayText::facts(facts);
 }
 
 QVariant HistoryModel::value(std::size_t number, int role) const
@@ -90,7 +89,7 @@ QVariant HistoryModel::value(std::size_t number, int role) const
     const Row& row = m_rows[number];
     switch (static_cast<Role>(role)) {
     case Role::title:
-        return DisplayText::path(row.title);
+        return DisplayText::text(row.title);
     case Role::symbol:
         return DisplayText::text(originOf(row.title).symbol);
     case Role::tone:

@@ -51,7 +51,7 @@ private:
     struct Row {
         Uuid id;
         TimePoint date;
-        std::string title;
+        Message title;
         std::int64_t freed = 0;
         int items = 0;
         int restored = 0;

@@ -33,6 +33,7 @@ Item {
         Accessible.name: Strings.pastCleanUps
 
         header: Column {
+            x: Theme.mirrored ? root.sideMargin : 0
             width: list.width - root.sideMargin
             bottomPadding: Theme.spaceXl
             spacing: Theme.spaceM
@@ -55,6 +56,7 @@ Item {
 
             required property int index
 
+            x: Theme.mirrored ? root.sideMargin : 0
             width: list.width - root.sideMargin
             current: ListView.isCurrentItem
             ringed: card.current && card.Window.activeFocusItem === card

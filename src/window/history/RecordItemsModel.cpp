@@ -1,6 +1,7 @@
 #include "window/history/RecordItemsModel.h"
 
 #include "platform/files/FileStatus.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
 
@@ -28,11 +29,11 @@ QString textOf(RecordItemsModel::State state)
     case RecordItemsModel::Unknown:
         return {};
     case RecordItemsModel::InTrash:
-        return QStringLiteral("In the Trash");
+        return DisplayText::text(WindowTexts::kInTrash);
     case RecordItemsModel::Restored:
-        return QStringLiteral("Restored");
+        return DisplayText::text(WindowTexts::kRestoredItem);
     case RecordItemsModel::Gone:
-        return QStringLiteral("No longer in the Trash");
+        return DisplayText::text(WindowTexts::kGone);
     }
     return {};
 }

@@ -15,7 +15,7 @@ Pressable {
     required property string selected
     required property bool cleanable
 
-    readonly property string amount: root.selected === "" ? root.count : Strings.selected.arg(root.selected)
+    readonly property string amount: root.selected === "" ? root.count : Strings.selected(root.selected)
 
     implicitHeight: Theme.grown(92) + 40
     fill: root.down ? Theme.inset : root.cleanable ? Theme.card : "transparent"
@@ -23,11 +23,12 @@ Pressable {
     edgeWidth: 1
     corner: Theme.cardRadius
     text: root.title
-    Accessible.name: root.title + ", " + root.size + ", " + root.amount + ", " + root.rating.label
+    Accessible.name: Strings.spoken([root.title, root.size, root.amount, root.rating.label])
 
     contentItem: Item {
         Badge {
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             y: 16
             name: root.symbol
             tone: root.tone
@@ -60,7 +61,8 @@ Pressable {
         TitleText {
             id: figure
 
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             anchors.bottom: parent.bottom
             anchors.bottomMargin: Theme.spaceL
             text: root.size

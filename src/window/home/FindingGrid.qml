@@ -25,8 +25,8 @@ Grid {
         }
     }
 
-    Keys.onLeftPressed: root.go(root.current - 1)
-    Keys.onRightPressed: root.go(root.current + 1)
+    Keys.onLeftPressed: root.go(root.current + (Theme.mirrored ? 1 : -1))
+    Keys.onRightPressed: root.go(root.current + (Theme.mirrored ? -1 : 1))
     Keys.onUpPressed: root.go(root.current - root.columns)
     Keys.onDownPressed: root.go(root.current + root.columns)
     Keys.onPressed: event => {

@@ -1,5 +1,6 @@
 #include "window/home/FindingListModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
@@ -64,7 +65,7 @@ QVariant FindingListModel::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(row.size);
     case Role::count:
-        return DisplayText::counted(row.count, "item");
+        return DisplayText::counted(row.count, WindowTexts::kItems);
     case Role::selected:
         return row.selectedSize > 0 ? DisplayText::size(row.selectedSize) : QString();
     case Role::cleanable:

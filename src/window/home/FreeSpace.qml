@@ -31,7 +31,7 @@ Column {
     FittingText {
         width: parent.width
         visible: root.storage.ready
-        text: Strings.freeOf.arg(root.storage.totalText)
+        text: Strings.freeOf(root.storage.totalText)
         most: root.large ? Theme.bodySize : Theme.captionSize
         share: 0.125
         color: Theme.secondary

@@ -53,6 +53,13 @@ void HomeModel::countSelection()
     Q_EMIT selectionChanged();
 }
 
+QString HomeModel::heroText() const
+{
+    if (!hasSafe())
+        return DisplayText::text(WindowTexts::kNothingSafe);
+    return DisplayText::text(Message(WindowTexts::kSafelyFree, {{"size", Bytes{m_safeBytes}}}));
+}
+
 QString HomeModel::unreadableText() const
 {
     const std::int64_t count = m_app.results()->unreadableFolders().count;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 
@@ -19,8 +20,9 @@ class HomeModel : public QObject {
     /// Whether there are notable findings from the last scan.
     Q_PROPERTY(bool hasFindings READ hasFindings NOTIFY resultsChanged)
     Q_PROPERTY(bool hasSafe READ hasSafe NOTIFY resultsChanged)
-    /// Size of everything rated Safe, and of everything that can be cleaned.
-    Q_PROPERTY(QString safeText READ safeText NOTIFY resultsChanged)
+    /// "You can safely free 12 GB"
+    Q_PROPERTY(QString heroText READ heroText NOTIFY resultsChanged)
+    /// Size of everything that can be cleaned.
     Q_PROPERTY(QString totalText READ totalText NOTIFY resultsChanged)
     /// "12 folders could not be read", empty when all could be; and the first of them, one per line.
     Q_PROPERTY(QString unreadableText READ unreadableText NOTIFY resultsChanged)
@@ -47,12 +49,15 @@ public:
     [[nodiscard]] Phase phase() const { return static_cast<Phase>(m_app.results()->phase()); }
     [[nodiscard]] bool hasFindings() const;
     [[nodiscard]] bool hasSafe() const { return m_safeBytes > 0; }
-    [[nodiscard]] QString safeText() const { return DisplayText::size(m_safeBytes); }
+    [[nodiscard]] QString heroText() const;
     [[nodiscard]] QString totalText() const { return DisplayText::size(m_totalBytes); }
     [[nodiscard]] QString unreadableText() const;
     [[nodiscard]] QString unreadableFolders() const;
     [[nodiscard]] bool hasSelection() const { return !m_app.results()->selection().empty(); }
-    [[nodiscard]] QString selectedText() const { return DisplayText::counted(m_selectedCount, "item"); }
+    [[nodiscard]] QString selectedText() const
+    {
+        return DisplayText::counted(m_selectedCount, WindowTexts::kItems);
+    }
     [[nodiscard]] static QStringList thresholds();
     [[nodiscard]] int threshold() const;
     void setThreshold(int index);

@@ -61,12 +61,14 @@ Item {
                 spacing: Theme.spaceS
 
                 Note {
+                    anchors.left: parent.left
                     width: Math.min(parent.width, 760 * Theme.textScale)
                     visible: !AppModel.results.fdaGranted
                     text: Strings.scannedWithoutAccess
                 }
 
                 UnreadableFolders {
+                    anchors.left: parent.left
                     width: Math.min(parent.width, 760 * Theme.textScale)
                     visible: root.home.unreadableText !== ""
                     text: root.home.unreadableText
@@ -74,6 +76,7 @@ Item {
                 }
 
                 Note {
+                    anchors.left: parent.left
                     width: Math.min(parent.width, 760 * Theme.textScale)
                     text: Strings.resultsFooter
                 }

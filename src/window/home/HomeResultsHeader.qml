@@ -19,6 +19,7 @@ Item {
     Item {
         id: slot
 
+        anchors.left: parent.left
         width: root.narrow ? Math.round(112 * Math.min(1.25, Theme.textScale)) : 164
         height: width
 
@@ -41,7 +42,7 @@ Item {
         TitleText {
             objectName: "heroSentence"
             width: parent.width
-            text: root.home.hasSafe ? Strings.safelyFree.arg(root.home.safeText) : Strings.nothingSafe
+            text: root.home.heroText
             wrapMode: Text.WordWrap
             font.pixelSize: root.narrow ? Theme.titleSize : Theme.heroSize
             font.letterSpacing: root.narrow ? -0.3 : -1
@@ -51,7 +52,7 @@ Item {
             width: parent.width
             topPadding: Theme.spaceXs
             bottomPadding: Theme.spaceL
-            text: Strings.reviewInTotal.arg(root.home.totalText)
+            text: Strings.reviewInTotal(root.home.totalText)
             font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
         }
 
@@ -80,9 +81,10 @@ Item {
             CaptionText {
                 height: Theme.controlHeight
                 leftPadding: Theme.spaceXs
+                rightPadding: Theme.spaceXs
                 verticalAlignment: Text.AlignVCenter
                 visible: root.home.hasFindings && !root.narrow
-                text: root.home.hasSelection ? Strings.selected.arg(root.home.selectedText) : Strings.nothingSelected
+                text: root.home.hasSelection ? Strings.selected(root.home.selectedText) : Strings.nothingSelected
             }
         }
     }
@@ -90,7 +92,7 @@ Item {
     StorageLegend {
         id: legend
 
-        x: root.narrow ? 0 : words.x
+        anchors.left: root.narrow ? parent.left : words.left
         anchors.bottom: root.narrow ? parent.bottom : words.bottom
         storage: root.storage
         room: root.narrow ? root.width : words.width

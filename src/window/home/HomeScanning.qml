@@ -5,6 +5,9 @@ import Orlen.App
 Item {
     id: root
 
+    /// Whether a sandbox decides what the program may see.
+    required property bool sandboxed
+
     /// Where the storage ring goes.
     readonly property alias ringSlot: slot
     readonly property alias mainButton: cancel
@@ -30,7 +33,8 @@ Item {
             Column {
                 id: side
 
-                x: Math.round((page.width - page.inner) / 2)
+                anchors.left: parent.left
+                anchors.leftMargin: Math.round((page.width - page.inner) / 2)
                 y: Math.round((flickable.height - height) / 2)
                 spacing: Theme.spaceXl
 
@@ -44,7 +48,7 @@ Item {
                         anchors.centerIn: parent
                         width: parent.width * 0.7
                         Accessible.role: Accessible.StaticText
-                        Accessible.name: Strings.filesExamined.arg(progress.files)
+                        Accessible.name: Strings.filesExamined(progress.fileCount)
 
                         FittingText {
                             objectName: "filesExamined"
@@ -59,7 +63,7 @@ Item {
 
                         FittingText {
                             width: parent.width
-                            text: Strings.filesExaminedBelow
+                            text: Strings.filesExaminedBelow(progress.fileCount)
                             most: Theme.smallSize
                             share: 0.12
                             color: Theme.secondary
@@ -128,7 +132,7 @@ Item {
                 Note {
                     width: parent.width
                     visible: !AppModel.results.fdaGranted
-                    text: Strings.scanningWithoutAccess
+                    text: root.sandboxed ? Strings.scanningInSandbox : Strings.scanningWithoutAccess
                 }
             }
         }

@@ -16,6 +16,10 @@ FocusScope {
         id: theHome
     }
 
+    DiskAccessModel {
+        id: theAccess
+    }
+
     CategoryModel {
         id: theCategory
 
@@ -41,6 +45,7 @@ FocusScope {
     HomeScanning {
         id: scanning
 
+        sandboxed: theAccess.command !== ""
         anchors.fill: parent
         enabled: root.state === "scanning"
         visible: opacity > 0

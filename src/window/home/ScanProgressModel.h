@@ -20,6 +20,7 @@ class ScanProgressModel : public orlen::RowsModel {
     QML_ELEMENT
     /// Number of files examined so far.
     Q_PROPERTY(QString files READ files NOTIFY changed)
+    Q_PROPERTY(int fileCount READ fileCount NOTIFY changed)
     /// What is being examined; empty at the start.
     Q_PROPERTY(QString current READ current NOTIFY changed)
     /// Whether the user has asked to stop this scan.
@@ -43,6 +44,7 @@ public:
     explicit ScanProgressModel(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] QString files() const { return DisplayText::number(m_files); }
+    [[nodiscard]] int fileCount() const { return static_cast<int>(m_files); }
     [[nodiscard]] QString current() const { return m_current; }
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
 

@@ -15,12 +15,13 @@ Item {
     implicitHeight: Theme.grown(32)
     Accessible.role: Accessible.ListItem
     Accessible.name: root.label
-    Accessible.description: root.isDone ? Strings.stepDone.arg(root.duration)
+    Accessible.description: root.isDone ? Strings.stepDone(root.duration)
                             : root.isRunning ? Strings.stepRunning : Strings.stepPending
 
     Item {
         id: mark
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: 18
         height: 18

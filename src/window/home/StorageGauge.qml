@@ -19,7 +19,7 @@ StorageRing {
     thickness: 0.095
     track: Theme.track
     Accessible.role: Accessible.Chart
-    Accessible.name: root.current >= 0 ? root.storage.describe(root.current) : Strings.free.arg(root.storage.freeText)
+    Accessible.name: root.current >= 0 ? root.storage.describe(root.current) : root.storage.freeSentence
     Accessible.description: root.isUsable ? Strings.chooseCategory : ""
     Accessible.focusable: root.isUsable
     Accessible.onPressAction: root.choose(root.keyed >= 0 ? root.keyed : root.neighbour(-1, 1))

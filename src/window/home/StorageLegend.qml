@@ -24,8 +24,8 @@ Grid {
     Accessible.role: Accessible.List
     Accessible.name: Strings.usedSpace
 
-    Keys.onLeftPressed: root.go(root.current - 1)
-    Keys.onRightPressed: root.go(root.current + 1)
+    Keys.onLeftPressed: root.go(root.current + (Theme.mirrored ? 1 : -1))
+    Keys.onRightPressed: root.go(root.current + (Theme.mirrored ? -1 : 1))
     Keys.onUpPressed: root.go(root.current - root.columns)
     Keys.onDownPressed: root.go(root.current + root.columns)
 
@@ -46,9 +46,10 @@ Grid {
             objectName: "legend-" + row.category
             width: root.cellWidth
             height: name.height + Theme.spaceS
-            leftInset: -6
+            leftInset: row.mirrored ? 0 : -6
+            rightInset: row.mirrored ? -6 : 0
             ringGap: 0
-            text: row.label + " " + row.size
+            text: Strings.spoken([row.label, row.size])
             Accessible.description: Strings.chooseCategory
             activeFocusOnTab: row.index === Math.min(root.current, rows.count - 1)
             onClicked: root.chosen(row.category)
@@ -59,6 +60,7 @@ Grid {
 
             contentItem: Item {
                 Rectangle {
+                    anchors.left: parent.left
                     anchors.verticalCenter: parent.verticalCenter
                     width: 8
                     height: 8
@@ -69,7 +71,8 @@ Grid {
                 CaptionText {
                     id: name
 
-                    x: 16
+                    anchors.left: parent.left
+                    anchors.leftMargin: 16
                     anchors.verticalCenter: parent.verticalCenter
                     text: row.label
                     color: Theme.secondary

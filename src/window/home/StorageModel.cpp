@@ -50,8 +50,7 @@ QString StorageModel::describe(int category) const
         m_rows, [&](const Row& shown) { return static_cast<int>(shown.category) == category; });
     if (row == m_rows.end())
         return {};
-    return QStringLiteral("%1, %2").arg(DisplayText::text(label(row->category)),
-                                        DisplayText::size(row->bytes));
+    return DisplayText::facts({DisplayText::text(label(row->category)), DisplayText::size(row->bytes)});
 }
 
 QVariant StorageModel::value(std::size_t number, int role) const

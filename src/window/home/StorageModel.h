@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
@@ -18,6 +19,8 @@ class StorageModel : public orlen::RowsModel {
     /// False until the first breakdown has been computed.
     Q_PROPERTY(bool ready READ isReady NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
+    /// "120 GB free"
+    Q_PROPERTY(QString freeSentence READ freeSentence NOTIFY changed)
     Q_PROPERTY(QString totalText READ totalText NOTIFY changed)
     /// Used fraction of the volume, 0 to 1.
     Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)
@@ -35,6 +38,11 @@ public:
 
     [[nodiscard]] bool isReady() const { return m_app.storage()->isBreakdownReady(); }
     [[nodiscard]] QString freeText() const { return DisplayText::size(m_app.storage()->breakdown().free); }
+    [[nodiscard]] QString freeSentence() const
+    {
+        return DisplayText::text(
+            Message(WindowTexts::kFree, {{"size", Bytes{m_app.storage()->breakdown().free}}}));
+    }
     [[nodiscard]] QString totalText() const { return DisplayText::size(m_app.storage()->breakdown().total); }
     [[nodiscard]] double usedFraction() const;
     /// The category's fraction of the volume's capacity, 0 to 1.

@@ -19,7 +19,8 @@ Column {
     }
 
     AppButton {
-        x: 12
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         quiet: true
         text: root.open ? Strings.hideFolders : Strings.showFolders
         onClicked: root.open = !root.open
@@ -28,6 +29,7 @@ Column {
     CaptionText {
         objectName: "unreadableFolders"
         leftPadding: 22
+        rightPadding: 22
         width: parent.width
         visible: root.open
         text: root.folders

@@ -2,12 +2,10 @@
 
 #include "app/Format.h"
 #include "model/FileEntry.h"
+#include "model/Words.h"
 #include "platform/files/Places.h"
-#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
-
-#include <QDateTime>
-#include <QLocale>
+#include "window/WindowTexts.h"
 
 #include <string>
 
@@ -15,13 +13,7 @@ namespace orlen::DisplayText {
 
 namespace {
 
-constexpr std::chrono::milliseconds kShortestTime{50};
-
-QDateTime local(TimePoint time)
-{
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time.time_since_epoch());
-    return QDateTime::fromSecsSinceEpoch(seconds.count());
-}
+constexpr double kLeastShare = 0.01;
 
 } // namespace
 
@@ -30,7 +22,28 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+QString text(const Text& words)
+{
+    return text(shown(words));
+}
+
+QString text(const Message& message)
+{
+    return text(shown(Format::displayable(message)));
+}
+
+QString facts(QStringList facts)
+{
+    facts.removeAll(QString());
+    return facts.join(QStringLiteral("\u00a0· "));
+}
+
 QString path(std::string_view bytes)
+{
+    return text(Words::isolated(PathText::forDisplay(bytes)));
+}
+
+QString line(std::string_view bytes)
 {
     return text(PathText::forDisplay(bytes));
 }
@@ -55,44 +68,56 @@ QString nameOf(std::string_view bytes)
 
 QString size(std::int64_t bytes)
 {
-    return text(byteCount(bytes));
+    return text(Words::figures().bytes(bytes));
 }
 
 QString number(std::int64_t value)
 {
-    return QLocale().toString(static_cast<qlonglong>(value));
+    return text(Words::figures().number(value));
 }
 
-QString counted(std::int64_t count, const char* noun)
+Value percentOf(double share)
 {
-    return number(count) + u' ' + QLatin1String(noun) + (count == 1 ? "" : "s");
+    if (share < kLeastShare)
+        return within(Message(WindowTexts::kLessThan, {{"share", Share{kLeastShare}}}));
+    return Share{share};
+}
+
+QString percent(double share)
+{
+    Message message;
+    message.places.push_back({"share", percentOf(share)});
+    return text(message);
+}
+
+QString counted(std::int64_t count, const Text& words)
+{
+    return text(Message(words, {{"count", count}}));
 }
 
 QString selectedOf(std::int64_t count, std::int64_t total)
 {
-    return QStringLiteral("%1 of %2 selected").arg(number(count), number(total));
+    return text(Message(WindowTexts::kSelectedOf, {{"count", count}, {"total", total}}));
 }
 
 QString duration(std::chrono::duration<double> time)
 {
-    if (time < kShortestTime)
-        return QStringLiteral("< 0.1 s");
-    return text(Format::duration(time.count()));
+    return text(Words::figures().duration(time));
 }
 
 QString date(TimePoint time)
 {
-    return QLocale().toString(local(time).date(), QLocale::ShortFormat);
+    return text(Words::figures().date(time));
 }
 
 QString opened(TimePoint time)
 {
-    return QStringLiteral("Opened %1").arg(date(time));
+    return text(Message(WindowTexts::kOpened, {{"date", Moment{time, Moment::Form::day}}}));
 }
 
 QString modified(TimePoint time)
 {
-    return QStringLiteral("Modified %1").arg(date(time));
+    return text(Message(WindowTexts::kModified, {{"date", Moment{time, Moment::Form::day}}}));
 }
 
 QString dateOf(const FileEntry& entry)
@@ -104,9 +129,7 @@ QString dateOf(const FileEntry& entry)
 
 QString dateAndTime(TimePoint time)
 {
-    // The short form includes seconds in a few languages; nobody needs them here.
-    const QLocale locale;
-    return locale.toString(local(time), locale.dateTimeFormat(QLocale::ShortFormat).remove(":ss"));
+    return text(Words::figures().dateAndTime(time));
 }
 
 QColor colour(OrlenCategory category)

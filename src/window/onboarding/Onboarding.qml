@@ -1,11 +1,14 @@
 import QtQuick
 import Orlen.App
 
-/// Shown once to a new user: what the program is, what it promises and what it may access.
+/// Shown once to a new user: what the program is, and what it promises.
 Item {
     id: root
 
     signal finished
+
+    /// Whether a sandbox hides the home folder.
+    readonly property bool isHidden: !access.granted && access.command !== ""
 
     DiskAccessModel {
         id: access
@@ -70,10 +73,34 @@ Item {
                 }
 
                 AccessCard {
+                    id: accessCard
+
                     width: parent.width
+                    visible: root.isHidden
                     access: access
-                    onFinished: root.finished()
-                    onReached: flickable.contentY = Math.max(0, flickable.contentHeight - flickable.height)
+                    onReached: flickable.show(accessCard, Theme.spaceL)
+                }
+
+                Item {
+                    width: 1
+                    height: 16
+                    visible: root.isHidden
+                }
+
+                AppButton {
+                    id: go
+
+                    objectName: "continue"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.max(implicitWidth, 168)
+                    primary: true
+                    large: true
+                    text: root.isHidden ? Strings.continueWithoutIt : Strings.continueOn
+                    onClicked: root.finished()
+                    onActiveFocusChanged: {
+                        if (go.activeFocus)
+                            flickable.show(go, Theme.spaceXl);
+                    }
                 }
             }
         }

@@ -11,7 +11,7 @@ Card {
     required property string symbol
     required property color tone
     required property ratingValue rating
-    required property string photosText
+    required property int photos
     required property string summary
     required property string selection
 
@@ -51,6 +51,7 @@ Card {
         Badge {
             id: badge
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone
@@ -77,7 +78,7 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
+                text: Strings.facts([root.summary, root.selection])
             }
         }
 
@@ -87,8 +88,8 @@ Card {
             objectName: "showAll"
             anchors.right: parent.right
             anchors.verticalCenter: badge.verticalCenter
-            text: Strings.showAllNumber.arg(root.photosText)
-            Accessible.name: Strings.showAllOf.arg(root.title)
+            text: Strings.showAllNumber(root.photos)
+            Accessible.name: Strings.showAllOf(root.title)
             onClicked: {
                 root.wasOpened = true;
                 root.opened();

@@ -52,6 +52,7 @@ Item {
             IconButton {
                 id: back
 
+                anchors.left: parent.left
                 framed: true
                 y: (badge.height - height) / 2
                 symbol: "chevron.left"
@@ -92,7 +93,8 @@ Item {
         }
 
         Row {
-            x: -mark.leftPadding
+            anchors.left: parent.left
+            anchors.leftMargin: -mark.leftPadding
             width: parent.width
             spacing: Theme.spaceXs
 
@@ -109,7 +111,7 @@ Item {
             SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
-                text: root.summary + (root.selection === "" ? "" : Strings.joint + root.selection)
+                text: Strings.facts([root.summary, root.selection])
                 color: Theme.text
                 font.weight: Font.DemiBold
             }

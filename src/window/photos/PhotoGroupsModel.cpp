@@ -1,6 +1,7 @@
 #include "window/photos/PhotoGroupsModel.h"
 
 #include "platform/values/CheckedSum.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
@@ -12,13 +13,10 @@ namespace orlen {
 
 namespace {
 
-const QString kJoint = QStringLiteral("\u00a0· ");
-
-QString selectedPhotos(int count, std::int64_t bytes)
+QString amountText(const Text& words, std::int64_t count, std::int64_t bytes)
 {
     return count == 0 ? QString()
-                      : DisplayText::counted(count, "photo") + QStringLiteral(" selected") + kJoint +
-                            DisplayText::size(bytes);
+                      : DisplayText::facts({DisplayText::counted(count, words), DisplayText::size(bytes)});
 }
 
 } // namespace
@@ -113,7 +111,7 @@ QString PhotoGroupsModel::selectedText() const
         }
     }
     const PathSelection::Amount amount = PathSelection::amountOf(std::move(selected));
-    return selectedPhotos(static_cast<int>(amount.items), amount.bytes);
+    return amountText(WindowTexts::kSelectedPhotos, amount.items, amount.bytes);
 }
 
 void PhotoGroupsModel::toggleAll(const QString& findingId)
@@ -177,15 +175,12 @@ QVariant PhotoGroupsModel::value(std::size_t number, int role) const
         return DisplayText::colour(finding.category);
     case Role::rating:
         return QVariant::fromValue(RatingValue(finding.rating));
-    case Role::photosText:
-        return DisplayText::number(photos);
+    case Role::photos:
+        return photos;
     case Role::summary:
-        return DisplayText::counted(photos, "photo") + kJoint + DisplayText::size(finding.totalSize());
+        return amountText(WindowTexts::kPhotos, photos, finding.totalSize());
     case Role::selection:
-        return row.selected.count == 0
-                   ? QString()
-                   : DisplayText::number(row.selected.count) + QStringLiteral(" selected") + kJoint +
-                         DisplayText::size(row.selected.bytes);
+        return amountText(WindowTexts::kSelected, row.selected.count, row.selected.bytes);
     case Role::checkState:
         return checkStateOf(row.selected.count, finding.items.size());
     }

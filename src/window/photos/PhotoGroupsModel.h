@@ -35,7 +35,7 @@ public:
         symbol,     ///< icon name
         tone,       ///< colour of the badge
         rating,     ///< a `RatingValue`
-        photosText, ///< number of photos, as text
+        photos,     ///< number of photos
         summary,    ///< number and size of the photos, as text
         selection,  ///< how many are selected, as text
         checkState, ///< a `Qt::CheckState`

@@ -29,7 +29,7 @@ Item {
     Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
     Accessible.checkable: !root.kept
     Accessible.checked: root.selected
-    Accessible.name: root.name + ", " + (root.kept ? Strings.kept : root.size)
+    Accessible.name: Strings.spoken([root.name, root.kept ? Strings.kept : root.size])
     Accessible.description: root.details
     Accessible.onToggleAction: root.toggled()
     Accessible.onPressAction: root.toggled()
@@ -40,9 +40,9 @@ Item {
 
         Rectangle {
             visible: root.isInSet
-            x: root.joinsPrevious ? -16 : 1
+            x: (Theme.mirrored ? root.joinsNext : root.joinsPrevious) ? -16 : 1
             y: 1
-            width: parent.width - x + (root.joinsNext ? 16 : -1)
+            width: parent.width - x + ((Theme.mirrored ? root.joinsPrevious : root.joinsNext) ? 16 : -1)
             height: parent.height - 2
             radius: Theme.controlRadius + 3
             color: Theme.track

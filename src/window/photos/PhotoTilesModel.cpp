@@ -59,7 +59,7 @@ PhotoTilesModel::Tile PhotoTilesModel::tileOf(const FileEntry& entry) const
     Tile tile;
     tile.path = entry.path;
     tile.name = PathText::lastComponent(entry.path);
-    tile.note = entry.note.value_or(std::string());
+    tile.note = noteOf(entry);
     tile.size = entry.size;
     tile.isSelected = m_app.results()->selection().contains(entry.path);
     return tile;
@@ -157,7 +157,7 @@ QVariant PhotoTilesModel::value(std::size_t number, int role) const
         return DisplayText::path(tile.name);
     case Role::details: {
         const QString folder = tile.path.empty() ? QString() : DisplayText::folderOf(tile.path);
-        return tile.note.empty() ? folder : folder + u'\n' + DisplayText::path(tile.note);
+        return tile.note.empty() ? folder : folder + u'\n' + DisplayText::text(tile.note);
     }
     case Role::size:
         return tile.isKept ? QString() : DisplayText::size(tile.size);

@@ -63,7 +63,7 @@ private:
     struct Tile {
         std::string path; ///< empty for a kept photo that was not found
         std::string name;
-        std::string note;
+        Message note;
         std::int64_t size = 0;
         bool isKept = false;
         bool joinsPrevious = false;

@@ -18,6 +18,7 @@ ColumnCard {
         Symbol {
             id: sign
 
+            anchors.left: parent.left
             y: Math.round((headline.font.pixelSize * 1.2 - height) / 2)
             visible: root.prediction.warn
             name: "exclamationmark.triangle.fill"
@@ -28,8 +29,9 @@ ColumnCard {
         TitleText {
             id: headline
 
-            x: sign.visible ? sign.width + 10 : 0
-            width: parent.width - x
+            anchors.left: sign.visible ? sign.right : parent.left
+            anchors.leftMargin: sign.visible ? 10 : 0
+            anchors.right: parent.right
             text: root.prediction.headline
             wrapMode: Text.WordWrap
             color: root.prediction.warn ? Theme.reviewText : Theme.text
@@ -45,6 +47,12 @@ ColumnCard {
     ForecastChart {
         id: chart
 
+        readonly property string span: Strings.freeSpaceChart(root.prediction.firstDate, root.prediction.lastDate,
+                                                              root.prediction.freeText)
+
+        // Time goes from left to right.
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
         width: parent.width
         height: root.prediction.enoughData ? 164 : 96
         model: root.prediction
@@ -53,16 +61,14 @@ ColumnCard {
         faint: Theme.dark ? Theme.stroke : Theme.inset
         Accessible.role: Accessible.Chart
         Accessible.name: root.prediction.enoughData
-                         ? Strings.freeSpaceChart.arg(root.prediction.firstDate).arg(root.prediction.lastDate)
-                               .arg(root.prediction.freeText).arg(root.prediction.headline)
-                               .arg(root.prediction.detail)
-                         : Strings.noForecast.arg(root.prediction.detail)
+                         ? Strings.spokenText(chart.span, Strings.spokenText(root.prediction.headline, root.prediction.detail))
+                         : Strings.spokenText(Strings.noForecast, root.prediction.detail)
 
         SmallText {
             x: Math.min(chart.now.x + 12, chart.width - width)
             y: Math.max(0, chart.now.y - height - 8)
             visible: root.prediction.enoughData
-            text: Strings.free.arg(root.prediction.freeText)
+            text: root.prediction.freeSentence
             color: Theme.text
             font.weight: Font.DemiBold
             Accessible.ignored: true
@@ -79,6 +85,8 @@ ColumnCard {
     }
 
     Item {
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
         width: parent.width
         height: since.height
 

@@ -13,12 +13,13 @@ Item {
 
     implicitHeight: Theme.grown(38)
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.label + ", " + root.rate
+    Accessible.name: Strings.spoken([root.label, root.rate])
 
     Rectangle {
         id: dot
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10

@@ -60,6 +60,6 @@ ScreenPage {
 
     Note {
         width: parent.width
-        text: Strings.snapshotsStored.arg(thePrediction.snapshotsText)
+        text: thePrediction.snapshotsText
     }
 }

@@ -1,5 +1,8 @@
 #include "window/predict/PredictionModel.h"
 
+#include "app/Format.h"
+#include "clean/Persist.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
@@ -20,9 +23,9 @@ QString rateText(double bytesPerDay)
     const double weekly = std::clamp(bytesPerDay * kDaysPerWeek, -kLargestRate, kLargestRate);
     const std::int64_t bytes = std::llround(weekly);
     if (bytes == 0)
-        return QStringLiteral("No change");
-    const QString sign = bytes > 0 ? QStringLiteral("+") : QStringLiteral("\u2212");
-    return sign + DisplayText::size(std::abs(bytes)) + QStringLiteral(" / week");
+        return DisplayText::text(WindowTexts::kNoChange);
+    return DisplayText::text(Message(bytes > 0 ? WindowTexts::kGrowth : WindowTexts::kDecline,
+                                     {{"size", Bytes{std::abs(bytes)}}}));
 }
 
 } // namespace
@@ -48,7 +51,8 @@ void PredictionModel::update()
 QString PredictionModel::snapshotsText() const
 {
     const auto count = static_cast<std::int64_t>(m_app.storage()->snapshots().size());
-    return DisplayText::counted(count, "snapshot");
+    return DisplayText::text(
+        Message(WindowTexts::kSnapshots, {{"count", count}, {"folder", Format::shownPath(Persist::dir())}}));
 }
 
 QString PredictionModel::firstDate() const
@@ -64,6 +68,14 @@ QString PredictionModel::lastDate() const
 QString PredictionModel::freeText() const
 {
     return hasSnapshots() ? DisplayText::size(m_app.storage()->snapshots().back().free) : QString();
+}
+
+QString PredictionModel::freeSentence() const
+{
+    if (!hasSnapshots())
+        return {};
+    return DisplayText::text(
+        Message(WindowTexts::kFree, {{"size", Bytes{m_app.storage()->snapshots().back().free}}}));
 }
 
 PredictionModel::Range PredictionModel::range() const

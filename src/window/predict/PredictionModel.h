@@ -19,12 +19,14 @@ class PredictionModel : public orlen::RowsModel {
     Q_PROPERTY(bool warn READ warns NOTIFY changed)
     /// False while the history is too short for a forecast.
     Q_PROPERTY(bool enoughData READ hasEnoughData NOTIFY changed)
-    /// "12 snapshots"
+    /// How many snapshots are kept, where, and what they are good for.
     Q_PROPERTY(QString snapshotsText READ snapshotsText NOTIFY changed)
     /// Dates of the oldest and newest snapshot, and the free space at the newest; empty without snapshots.
     Q_PROPERTY(QString firstDate READ firstDate NOTIFY changed)
     Q_PROPERTY(QString lastDate READ lastDate NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
+    /// "120 GB free", of the same.
+    Q_PROPERTY(QString freeSentence READ freeSentence NOTIFY changed)
 
 public:
     enum class Role {
@@ -46,6 +48,7 @@ public:
     [[nodiscard]] QString firstDate() const;
     [[nodiscard]] QString lastDate() const;
     [[nodiscard]] QString freeText() const;
+    [[nodiscard]] QString freeSentence() const;
     /// For the chart; empty while there is too little data.
     [[nodiscard]] const ForecastCurve& curve() const { return m_curve; }
 

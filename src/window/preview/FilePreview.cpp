@@ -4,6 +4,8 @@
 #include "platform/files/FileStatus.h"
 #include "platform/files/Folder.h"
 #include "platform/text/PathText.h"
+#include "window/WindowTexts.h"
+#include "window/lists/DisplayText.h"
 #include "window/preview/PictureReader.h"
 
 #include <QMimeDatabase>
@@ -22,7 +24,7 @@ constexpr std::size_t kLongestCharacter = 4;
 QString typeOf(const std::string& path, FileType type)
 {
     if (type == FileType::link)
-        return QStringLiteral("Link");
+        return DisplayText::text(WindowTexts::kLink);
     const QMimeDatabase database;
     const auto mime = type == FileType::folder ? database.mimeTypeForName(QStringLiteral("inode/directory"))
                                                : database.mimeTypeForFile(QString::fromStdString(path),

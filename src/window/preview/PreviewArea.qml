@@ -65,6 +65,7 @@ Rectangle {
 
             anchors.top: text.bottom
             x: 24
+            width: page.width - 48
             topPadding: Theme.spaceM
             visible: root.preview.cut
             text: Strings.beginningOnly
@@ -95,7 +96,8 @@ Rectangle {
             Symbol {
                 id: icon
 
-                x: 24
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.spaceXl
                 anchors.verticalCenter: parent.verticalCenter
                 name: row.symbol
             }
@@ -122,6 +124,7 @@ Rectangle {
         }
 
         footer: Item {
+            width: names.width
             height: root.preview.cut ? remark.height : 0
             visible: root.preview.cut
 
@@ -129,6 +132,7 @@ Rectangle {
                 id: remark
 
                 x: 24
+                width: parent.width - 48
                 topPadding: Theme.spaceS
                 bottomPadding: Theme.spaceS
                 text: Strings.firstNamesOnly

@@ -1,5 +1,6 @@
 #include "window/preview/PreviewModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/preview/Thumbnails.h"
@@ -54,10 +55,10 @@ QString PreviewModel::facts() const
         facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
                                                DisplayText::number(m_preview.pixels.height()));
     if (m_kind == Folder)
-        facts << DisplayText::counted(m_preview.nameCount, "item");
+        facts << DisplayText::counted(m_preview.nameCount, WindowTexts::kItems);
     if (m_preview.bytes)
         facts << DisplayText::size(*m_preview.bytes);
-    return facts.join(QStringLiteral(" · "));
+    return DisplayText::facts(facts);
 }
 
 QString PreviewModel::dates() const
@@ -67,7 +68,7 @@ QString PreviewModel::dates() const
         dates << DisplayText::modified(*m_preview.modified);
     if (m_preview.opened)
         dates << DisplayText::opened(*m_preview.opened);
-    return dates.join(QStringLiteral(" · "));
+    return DisplayText::facts(dates);
 }
 
 QVariant PreviewModel::value(std::size_t number, int role) const

@@ -38,9 +38,9 @@ Sheet {
             event.accepted = true;
             if (event.key === Qt.Key_Space)
                 root.close();
-            else if (event.key === Qt.Key_Down || event.key === Qt.Key_Right)
+            else if (event.key === Qt.Key_Down || event.key === (Theme.mirrored ? Qt.Key_Left : Qt.Key_Right))
                 root.stepRequested(1);
-            else if (event.key === Qt.Key_Up || event.key === Qt.Key_Left)
+            else if (event.key === Qt.Key_Up || event.key === (Theme.mirrored ? Qt.Key_Right : Qt.Key_Left))
                 root.stepRequested(-1);
             else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp)
                 area.turnPage(event.key === Qt.Key_PageDown ? 1 : -1);
@@ -84,14 +84,15 @@ Sheet {
                 id: facts
 
                 anchors.verticalCenter: parent.verticalCenter
-                x: 24
-                width: buttons.x - x - 16
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.spaceXl
+                anchors.right: buttons.left
+                anchors.rightMargin: Theme.spaceL
                 spacing: 2
 
                 SmallText {
                     width: parent.width
-                    text: model.facts
-                          + (model.kind === PreviewModel.Folder && root.size !== "" ? Strings.joint + root.size : "")
+                    text: Strings.facts([model.facts, model.kind === PreviewModel.Folder ? root.size : ""])
                     color: Theme.text
                     font.weight: Font.DemiBold
                 }

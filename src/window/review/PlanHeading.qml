@@ -18,7 +18,7 @@ ListRow {
     signal pressed
 
     Accessible.role: Accessible.CheckBox
-    Accessible.name: root.title + ", " + root.count + ", " + root.size
+    Accessible.name: Strings.spoken([root.title, root.count, root.size])
     Accessible.checkable: true
     Accessible.checked: root.checkState === Qt.Checked
     Accessible.onToggleAction: root.toggled()
@@ -42,7 +42,8 @@ ListRow {
 
             objectName: "check"
             anchors.verticalCenter: parent.verticalCenter
-            x: 20
+            anchors.left: parent.left
+            anchors.leftMargin: 20
             tristate: true
             checkState: root.checkState
             nextCheckState: () => check.checkState
@@ -65,10 +66,14 @@ ListRow {
         BodyText {
             id: heading
 
+            /// Its distance from where the line begins.
+            readonly property real start: 20 + check.width + Theme.spaceS + badge.width + Theme.spaceM
+
             anchors.left: badge.right
             anchors.leftMargin: Theme.spaceM
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, parent.width - x - selected.implicitWidth - total.implicitWidth - 100)
+            width: Math.min(implicitWidth, parent.width - heading.start - selected.implicitWidth
+                                           - total.implicitWidth - 100)
             text: root.title
             font.weight: Font.DemiBold
             Accessible.ignored: true

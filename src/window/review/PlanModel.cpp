@@ -63,7 +63,7 @@ void PlanModel::show(const CleanPlan& plan)
             m_rows.push_back({number, entry});
         m_entryCount += entries;
         m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
-                                               [](const FileEntry& entry) { return entry.note.has_value(); });
+                                               [](const FileEntry& entry) { return !entry.notes.empty(); });
     }
     endResetModel();
     Q_EMIT planChanged();
@@ -72,7 +72,7 @@ void PlanModel::show(const CleanPlan& plan)
 
 QString PlanModel::title() const
 {
-    return m_plan ? DisplayText::path(m_plan->title) : QString();
+    return m_plan ? DisplayText::text(m_plan->title) : QString();
 }
 
 void PlanModel::toggle(int row)
@@ -192,7 +192,7 @@ QVariant PlanModel::sectionData(int number, Role role) const
 {
     const PlanSection& shown = section(number);
     if (role == Role::name)
-        return DisplayText::path(shown.title);
+        return DisplayText::text(shown.title);
     if (role == Role::folder)
         return DisplayText::selectedOf(m_ticks.count(place(number)),
                                        static_cast<std::int64_t>(shown.entries.size()));
@@ -215,7 +215,7 @@ QVariant PlanModel::entryData(const Row& row, Role role) const
     if (role == Role::date)
         return DisplayText::dateOf(entry);
     if (role == Role::note)
-        return DisplayText::path(entry.note.value_or(""));
+        return DisplayText::text(noteOf(entry));
     const bool isFolder = m_folders->isFolder(entry.path);
     if (role == Role::symbol)
         return isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);

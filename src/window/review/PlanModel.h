@@ -25,7 +25,7 @@ class PlanModel : public orlen::RowsModel {
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
     Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
     /// What would move, counting each path once and entries inside a checked folder not at all.
-    Q_PROPERTY(QString checkedCountText READ checkedCountText NOTIFY figuresChanged)
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
     /// Whether something is checked and the program may move it.
     Q_PROPERTY(bool confirmable READ isConfirmable NOTIFY figuresChanged)
@@ -53,7 +53,6 @@ public:
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
     [[nodiscard]] int entryCount() const { return m_entryCount; }
     [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
-    [[nodiscard]] QString checkedCountText() const { return DisplayText::number(checkedCount()); }
     [[nodiscard]] QString checkedSizeText() const { return DisplayText::size(m_ticks.amount().bytes); }
     [[nodiscard]] bool isConfirmable() const { return checkedCount() > 0 && m_app.isWriter(); }
 

@@ -67,7 +67,7 @@ Sheet {
             objectName: "reviewLead"
             width: parent.width
             maximumLineCount: 3
-            text: Strings.reviewLead.arg(plan.checkedCountText)
+            text: Strings.reviewLead(plan.checkedCount)
         }
     }
 

@@ -7,7 +7,7 @@ namespace orlen {
 
 DesktopPresence::DesktopPresence(const QDBusConnection& bus, AppModel& app, QQmlEngine& engine,
                                  QQuickWindow& window)
-    : m_notices(bus, Tray::openLabel()),
+    : m_notices(bus, TrayModel::openLabel()),
       m_endNotices(app, m_notices, [&window] { return window.isExposed() && window.isActive(); }),
       m_tray(bus, app, engine)
 {

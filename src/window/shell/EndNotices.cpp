@@ -1,5 +1,6 @@
 #include "window/shell/EndNotices.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <iterator>
@@ -22,16 +23,15 @@ void EndNotices::followPhase()
     if (before != Phase::scanning || m_phase != Phase::results)
         return;
     const std::int64_t safe = m_app.results()->safeBytes();
-    show({QStringLiteral("Smart Scan finished"),
-          safe > 0 ? QStringLiteral("You can safely free %1").arg(DisplayText::size(safe))
-                   : QStringLiteral("Nothing is rated Safe right now")});
+    const Message outcome = safe > 0 ? Message(WindowTexts::kSafelyFree, {{"size", Bytes{safe}}})
+                                     : Message(WindowTexts::kNothingSafe);
+    show({DisplayText::text(WindowTexts::kScanFinished), DisplayText::text(outcome)});
 }
 
 void EndNotices::showCleaning(const CleanRecord& record)
 {
-    const QString failed = QStringLiteral("%1 couldn't be moved").arg(DisplayText::number(record.failed));
-    show({QStringLiteral("%1 moved to the Trash").arg(DisplayText::number(std::ssize(record.items))),
-          record.failed == 0 ? QString() : failed});
+    show({DisplayText::counted(std::ssize(record.items), WindowTexts::kMoved),
+          record.failed == 0 ? QString() : DisplayText::counted(record.failed, WindowTexts::kNotMoved)});
 }
 
 void EndNotices::show(const DesktopNotices::Notice& notice)

@@ -1,5 +1,8 @@
 #include "window/shell/GuiStart.h"
 
+#include "model/Words.h"
+#include "window/WindowTexts.h"
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -13,8 +16,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 {
     if (type != QtFatalMsg)
         return;
-    std::fputs("orlen: the window cannot be opened on this display; `orlen scan` works without one.\n",
-               stderr);
+    std::fprintf(stderr, "orlen: %s\n", shown(WindowTexts::kNoWindow).c_str());
     std::_Exit(EXIT_FAILURE);
 }
 

@@ -17,6 +17,8 @@ T.ApplicationWindow {
     visible: true
     title: Strings.appName
     color: Theme.window
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     Navigation {
         id: theNavigation

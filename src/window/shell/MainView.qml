@@ -12,10 +12,11 @@ Item {
     Sidebar {
         id: sidebar
 
+        anchors.left: parent.left
         width: Theme.sidebarWidth
         height: parent.height
         currentScreen: root.navigation.screen
-        freeText: root.storage.freeText
+        freeSentence: root.storage.freeSentence
         usedFraction: root.storage.usedFraction
         onSelected: screen => root.navigation.screen = screen
     }

@@ -18,12 +18,13 @@ T.Popup {
 
     parent: T.Overlay.overlay
     z: 100
-    x: parent ? Math.round((parent.width + root.besideScreen - width) / 2) : 0
+    x: parent ? Math.round((parent.width + (Theme.mirrored ? -1 : 1) * root.besideScreen - width) / 2) : 0
     y: parent ? parent.height - height - 24 : 0
     width: sign.width + line.width + buttons.width + 52
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
-    leftPadding: Theme.spaceL
+    leftPadding: Theme.mirrored ? padding : Theme.spaceL
+    rightPadding: Theme.mirrored ? Theme.spaceL : padding
     visible: root.text !== ""
     closePolicy: T.Popup.CloseOnEscape
     onTextChanged: {
@@ -77,6 +78,7 @@ T.Popup {
         Symbol {
             id: sign
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             name: "info.circle"
         }

@@ -1,5 +1,6 @@
 #include "window/shell/Notices.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
 
@@ -28,9 +29,9 @@ Notices::Notices(AppModel& app)
     connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
     if (const Reveal* reveal = Reveal::current())
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
-            add({QStringLiteral("No program could show this item: %1").arg(path), path});
+            add({DisplayText::text(Message(WindowTexts::kNoProgram, {{"path", path.toStdString()}})), path});
         });
-    for (const std::string& sentence : app.notices())
+    for (const Message& sentence : app.notices())
         say(DisplayText::text(sentence));
 }
 

@@ -144,7 +144,7 @@ void Reveal::runOpener(const std::string& target, const Failure& failure)
 
 Reveal::Failure Reveal::reportOf(const std::string& path)
 {
-    return [this, path] { Q_EMIT failed(DisplayText::path(path)); };
+    return [this, path] { Q_EMIT failed(DisplayText::line(path)); };
 }
 
 } // namespace orlen

@@ -1,5 +1,6 @@
 #include "window/shell/Screens.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
@@ -9,20 +10,21 @@ namespace orlen {
 
 namespace {
 
+using namespace WindowTexts;
 using Reload = Screens::Reload;
 
 // clang-format off
 /// Everything the program knows about a screen outside its own folder.
 constexpr auto kScreens = std::to_array<Screens::Meta>({
-    {Screens::Home, "Smart Scan", "sparkles", 0xff3b7bf7, "Clean", "HomeScreen"},
-    {Screens::Photos, "Smart Photos", "photo.stack.fill", 0xffee4c86, "Clean", "PhotosScreen"},
-    {Screens::Ask, "Ask Orlen", "bubble.left.and.text.bubble.right.fill", 0xff9257e8, "Insights", "AskScreen"},
-    {Screens::Predict, "Predict", "chart.line.uptrend.xyaxis", 0xfff08a24, "Insights", "PredictScreen"},
-    {Screens::DiskMap, "Disk Map", "square.grid.3x3.fill", 0xff1fa3a8, "Insights", "DiskMapScreen", Reload::ownKey},
-    {Screens::Apps, "Applications", "app.badge.fill", 0xff5b5fe0, "Manage", "AppsScreen", Reload::ownKey},
-    {Screens::Startup, "Startup Items", "power.circle.fill", 0xffe5484d, "Manage", "StartupScreen", Reload::ownKey},
-    {Screens::History, "History", "clock.arrow.circlepath", 0xff2ea05a, "Manage", "HistoryScreen"},
-    {Screens::Safety, "How Orlen Works", "checkmark.shield.fill", 0xff22ae90, "About", "SafetyScreen"},
+    {Screens::Home, kSmartScan, "sparkles", 0xff3b7bf7, kCleanScreens, "HomeScreen"},
+    {Screens::Photos, kSmartPhotos, "photo.stack.fill", 0xffee4c86, kCleanScreens, "PhotosScreen"},
+    {Screens::Ask, kAskOrlen, "bubble.left.and.text.bubble.right.fill", 0xff9257e8, kInsightScreens, "AskScreen"},
+    {Screens::Predict, kPredict, "chart.line.uptrend.xyaxis", 0xfff08a24, kInsightScreens, "PredictScreen"},
+    {Screens::DiskMap, kDiskMap, "square.grid.3x3.fill", 0xff1fa3a8, kInsightScreens, "DiskMapScreen", Reload::ownKey},
+    {Screens::Apps, kApplications, "app.badge.fill", 0xff5b5fe0, kManageScreens, "AppsScreen", Reload::ownKey},
+    {Screens::Startup, kStartupItems, "power.circle.fill", 0xffe5484d, kManageScreens, "StartupScreen", Reload::ownKey},
+    {Screens::History, kHistory, "clock.arrow.circlepath", 0xff2ea05a, kManageScreens, "HistoryScreen"},
+    {Screens::Safety, kHowOrlenWorks, "checkmark.shield.fill", 0xff22ae90, kAboutScreens, "SafetyScreen"},
 });
 // clang-format on
 static_assert(std::ranges::is_sorted(kScreens, {}, &Screens::Meta::screen) &&

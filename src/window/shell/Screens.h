@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Text.h"
 #include "window/lists/RowsModel.h"
 
 #include <QColor>
@@ -36,10 +37,10 @@ public:
 
     struct Meta {
         Screen screen;
-        std::string_view title;
+        Text title;
         std::string_view symbol;
         QRgb colour;
-        std::string_view section;
+        Text section;
         std::string_view component; ///< name of its QML type
         Reload reload = Reload::none;
     };

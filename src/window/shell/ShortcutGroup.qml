@@ -26,11 +26,12 @@ Column {
 
             required property int index
             required property var modelData
+            readonly property var strokes: row.modelData.keys.map(stroke => stroke.join(" + "))
 
             width: root.width
             height: Theme.grown(36)
             Accessible.role: Accessible.ListItem
-            Accessible.name: row.modelData.text + ": " + row.modelData.keys.map(stroke => stroke.join(" + ")).join(", ")
+            Accessible.name: Strings.spoken([row.modelData.text].concat(row.strokes))
 
             Divider {
                 width: parent.width
@@ -60,6 +61,8 @@ Column {
 
                         required property var modelData
 
+                        // Keys are pressed in this order, and written so in every language.
+                        LayoutMirroring.enabled: false
                         spacing: Theme.spaceXs
 
                         Repeater {

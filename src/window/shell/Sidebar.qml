@@ -6,11 +6,11 @@ Rectangle {
     id: root
 
     required property int currentScreen
-    required property string freeText
+    required property string freeSentence
     required property real usedFraction
     signal selected(screen: int)
 
-    /// Left edge of the rows' badges.
+    /// From the edge to the rows' badges.
     readonly property int inset: Theme.spaceM + Theme.spaceS
 
     color: Theme.sidebar
@@ -36,7 +36,9 @@ Rectangle {
             required property string section
 
             height: Theme.widened(34)
+            width: ListView.view.width
             leftPadding: root.inset
+            rightPadding: root.inset
             bottomPadding: Theme.spaceS
             verticalAlignment: Text.AlignBottom
             text: section
@@ -64,7 +66,7 @@ Rectangle {
 
         CaptionText {
             width: parent.width
-            text: Strings.free.arg(root.freeText)
+            text: root.freeSentence
             color: Theme.secondary
             font.weight: Font.DemiBold
         }

@@ -24,7 +24,8 @@ T.ItemDelegate {
         Badge {
             id: badge
 
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             tone: root.tone

@@ -1,250 +1,362 @@
 pragma Singleton
 import QtQuick
+import Orlen.App
 
-/// Every sentence of the window that no model provides, grouped by screen.
+/// The texts of the screens, grouped by screen. Those of the models are in WindowTexts.h.
 QtObject {
+    id: root
+
     // Common
     readonly property string appName: "Orlen"
-    readonly property string free: "%1 free"
-    readonly property string freeOf: "free of %1"
-    readonly property string usedSpace: "Used space"
-    readonly property string screens: "Screens"
-    /// Separates facts on one line, which breaks only after it.
-    readonly property string joint: "\u00a0· "
-    readonly property string clear: "Clear"
-    readonly property string close: "Close"
-    readonly property string cancel: "Cancel"
-    readonly property string done: "Done"
-    readonly property string copy: "Copy"
-    readonly property string reveal: "Reveal in Finder"
-    readonly property string preview: "Quick Look"
-    readonly property string showResults: "Show last results"
-    readonly property string trashPromise: "You'll see the full list first. Everything moves to the Trash and can be restored from History."
+    // TRANSLATORS: Stands below the size that is free.
+    function freeOf(size: string): string {
+        return Words.message("free of {size}", { size: size });
+    }
+    readonly property string usedSpace: Words.message("Used space")
+    readonly property string screens: Words.message("Screens")
+    readonly property string clear: Words.messageIn("a field", "Clear")
+    readonly property string close: Words.message("Close")
+    readonly property string cancel: Words.message("Cancel")
+    readonly property string done: Words.message("Done")
+    readonly property string copy: Words.message("Copy")
+    readonly property string reveal: Words.message("Reveal in Finder")
+    readonly property string preview: Words.message("Quick Look")
+    readonly property string showResults: Words.message("Show last results")
+    readonly property string trashPromise: Words.message("You'll see the full list first. Everything moves to the Trash and can be restored from History.")
+
+    /// Facts on one line, which breaks only after a separator.
+    function facts(facts: list<string>): string {
+        return facts.filter(fact => fact !== "").join("\u00a0· ");
+    }
+    /// Facts that a screen reader says one after the other.
+    function spoken(facts: list<string>): string {
+        // TRANSLATORS: Between names and sizes that a screen reader reads aloud.
+        return facts.filter(fact => fact !== "").join(Words.messageIn("read aloud", ", "));
+    }
+    function spokenText(title: string, text: string): string {
+        // TRANSLATORS: A heading and the sentences below it, read aloud by a screen reader.
+        return Words.messageIn("read aloud", "{title}. {text}", { title: title, text: text });
+    }
 
     // Onboarding
-    readonly property string welcomeTitle: "Welcome to Orlen"
-    readonly property string welcomeSubtitle: "A calm, careful way to see what's filling your Mac."
+    readonly property string welcomeTitle: Words.message("Welcome to Orlen")
+    readonly property string welcomeSubtitle: Words.message("A calm, careful way to see what's filling your Mac.")
+    readonly property string neverDeleted: Words.message("Nothing is permanently deleted")
     readonly property var promises: [
-        { symbol: "lock.fill", title: "Everything stays on this Mac", body: "All analysis and AI run on your device. Orlen makes no network calls and uploads nothing." },
-        { symbol: "trash.fill", title: "Nothing is permanently deleted", body: "Orlen only moves files to the Trash, after showing you the full list. History lets you put them back." },
-        { symbol: "hand.raised.fill", title: "Honest about its limits", body: "Safe, Review and Keep are suggestions, not guarantees. Orlen doesn't run in the background or hide anything." }
+        {
+            symbol: "lock.fill",
+            title: Words.message("Everything stays on this Mac"),
+            body: Words.message("All analysis and AI run on your device. Orlen makes no network calls and uploads nothing.")
+        },
+        {
+            symbol: "trash.fill",
+            title: root.neverDeleted,
+            body: Words.message("Orlen only moves files to the Trash, after showing you the full list. History lets you put them back.")
+        },
+        {
+            symbol: "hand.raised.fill",
+            title: Words.message("Honest about its limits"),
+            body: Words.message("Safe, Review and Keep are suggestions, not guarantees. Orlen doesn't run in the background or hide anything.")
+        }
     ]
-    readonly property string accessTitle: "Full Disk Access (optional)"
-    readonly property string accessBody: "macOS protects some folders, such as Mail downloads and parts of Library. Granting Full Disk Access lets Orlen see them. Without it, Orlen still works and simply scans what macOS allows."
-    readonly property string openPrivacySettings: "Open Privacy Settings"
-    readonly property string continueWithoutIt: "Continue without it"
-    readonly property string continueOn: "Continue"
-    readonly property string accessHint: "You may need to add and restart Orlen (or the app you launch it from) after enabling access."
-    readonly property string accessOn: "Full Disk Access is on"
+    // TRANSLATORS: Shown only in a sandbox that hides the home folder. Say "Access to your home folder (optional)".
+    readonly property string accessTitle: Words.message("Full Disk Access (optional)")
+    function accessBody(command: string): string {
+        // TRANSLATORS: Say instead: The sandbox hides some folders. Allow Orlen to see your home folder with:
+        // {command}. Without it, Orlen scans what it may see.
+        return Words.message("macOS protects some folders, such as Mail downloads and parts of Library. Granting Full Disk Access lets Orlen see them. Without it, Orlen still works and simply scans what macOS allows.", { command: command });
+    }
+    // TRANSLATORS: After the command was run that lets it see the home folder.
+    readonly property string accessHint: Words.message("Start Orlen again after that.")
+    readonly property string continueWithoutIt: Words.message("Continue without it")
+    readonly property string continueOn: Words.message("Continue")
 
     // Smart Scan
-    readonly property string homeLead: "Run a Smart Scan to see what you can safely free"
-    readonly property string lookingAtStorage: "Looking at your storage…"
-    readonly property string startScan: "Start Smart Scan"
-    readonly property string scanAgain: "Scan again"
-    readonly property string homeFooter: "Ratings are suggestions. Orlen only runs while it's open, uploads nothing, hides nothing, and only moves files to the Trash."
-    readonly property string filesExamined: "%1 files examined"
-    readonly property string filesExaminedBelow: "files examined"
-    readonly property string scanningWithoutAccess: "Full Disk Access isn't granted, so Orlen is scanning only what macOS allows."
-    readonly property string safelyFree: "You can safely free %1"
-    readonly property string nothingSafe: "Nothing is rated Safe right now"
-    readonly property string reviewInTotal: "%1 you could review in total"
-    readonly property string scannedWithoutAccess: "Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned."
-    readonly property string showFolders: "Show folders"
-    readonly property string hideFolders: "Hide folders"
-    readonly property string resultsFooter: "Safe, Review and Keep are suggestions from rules and on-device analysis. They can be wrong, so look before you clean. Nothing is permanently deleted: items move to the Trash and can be restored from History."
-    readonly property string reviewAndClean: "Review & Clean…"
-    readonly property string largeFilesFrom: "Large files from"
-    readonly property string scanning: "Smart Scan is looking around"
-    readonly property string cancellingScan: "Cancelling…"
-    readonly property string nothingChanged: "Nothing was changed."
-    readonly property string stepPending: "waiting"
-    readonly property string stepRunning: "running"
-    readonly property string stepDone: "done after %1"
-    readonly property string selected: "%1 selected"
-    readonly property string nothingFound: "There is nothing to clean up. Your home folder is tidy."
-    readonly property string findings: "Findings"
+    readonly property string homeLead: Words.message("Run a Smart Scan to see what you can safely free")
+    readonly property string lookingAtStorage: Words.message("Looking at your storage…")
+    readonly property string startScan: Words.message("Start Smart Scan")
+    readonly property string scanAgain: Words.message("Scan again")
+    readonly property string homeFooter: Words.message("Ratings are suggestions. Orlen only runs while it's open, uploads nothing, hides nothing, and only moves files to the Trash.")
+    function filesExamined(count: int): string {
+        return Words.messages("{count} files examined", "{count} files examined", { count: count });
+    }
+    function filesExaminedBelow(count: int): string {
+        // TRANSLATORS: Stands below the number.
+        return Words.messages("files examined", "files examined", { count: count });
+    }
+    // TRANSLATORS: Say instead: Orlen may not see all of your home folder, so it scans only what the sandbox allows.
+    readonly property string scanningInSandbox: Words.message("Full Disk Access isn't granted, so Orlen is scanning only what macOS allows.")
+    readonly property string scanningWithoutAccess: Words.message("Orlen may not see all of your home folder, so it scans only what it may see.")
+    function reviewInTotal(size: string): string {
+        return Words.message("{size} you could review in total", { size: size });
+    }
+    // TRANSLATORS: Say instead: Orlen may not see all of your home folder, so some folders weren't scanned.
+    readonly property string scannedWithoutAccess: Words.message("Full Disk Access isn't granted, so some folders (such as Mail downloads) weren't scanned.")
+    readonly property string showFolders: Words.message("Show folders")
+    readonly property string hideFolders: Words.message("Hide folders")
+    readonly property string resultsFooter: Words.message("Safe, Review and Keep are suggestions from rules and on-device analysis. They can be wrong, so look before you clean. Nothing is permanently deleted: items move to the Trash and can be restored from History.")
+    readonly property string reviewAndClean: Words.message("Review & Clean…")
+    // TRANSLATORS: A size follows, from which a file counts as large.
+    readonly property string largeFilesFrom: Words.message("Large files from")
+    readonly property string scanning: Words.message("Smart Scan is looking around")
+    readonly property string cancellingScan: Words.message("Cancelling…")
+    readonly property string nothingChanged: Words.message("Nothing was changed.")
+    // TRANSLATORS: The next three are states of a step of a scan, read aloud.
+    readonly property string stepPending: Words.messageIn("step", "waiting")
+    readonly property string stepRunning: Words.messageIn("step", "running")
+    function stepDone(duration: string): string {
+        return Words.message("done after {duration}", { duration: duration });
+    }
+    function selected(amount: string): string {
+        // TRANSLATORS: {amount} is a size or a number of items, such as "3 GB" or "12 items".
+        return Words.message("{amount} selected", { amount: amount });
+    }
+    readonly property string nothingFound: Words.message("There is nothing to clean up. Your home folder is tidy.")
+    readonly property string findings: Words.message("Findings")
 
     // Storage categories
-    readonly property string chooseCategory: "Shows what fills this category"
-    readonly property string largestFolders: "Largest folders"
-    readonly property string opensInDiskMap: "Opens in the disk map"
-    readonly property string showFewer: "Show fewer"
-    readonly property string beyondOrlen: "What you can free yourself"
-    readonly property string beyondOrlenLead: "Orlen does not touch these. The commands are for a terminal; Orlen runs none of them."
-    readonly property string lookingForAdvice: "Looking at what other programs keep…"
+    readonly property string chooseCategory: Words.message("Shows what fills this category")
+    readonly property string largestFolders: Words.message("Largest folders")
+    readonly property string opensInDiskMap: Words.message("Opens in the disk map")
+    readonly property string showFewer: Words.message("Show fewer")
+    readonly property string beyondOrlen: Words.message("What you can free yourself")
+    readonly property string beyondOrlenLead: Words.message("Orlen does not touch these. The commands are for a terminal; Orlen runs none of them.")
+    readonly property string lookingForAdvice: Words.message("Looking at what other programs keep…")
 
     // Finding, review and clean-up
-    readonly property string nothingLeft: "Nothing left here."
-    readonly property string reviewTitle: "Review before cleaning"
-    readonly property string reviewLead: "%1 items will be moved to the Trash. Nothing is permanently deleted, and you can restore them from History. Uncheck anything you want to keep."
-    readonly property string moveToTrash: "Move to Trash"
-    readonly property string movingToTrash: "Moving to the Trash…"
-    readonly property string movedToTrash: "%1 moved to the Trash"
-    readonly property string couldNotBeMoved: "%1 couldn't be moved"
-    readonly property string notRecorded: "The history could not be saved. Orlen finishes it when it starts again."
-    readonly property string notMoved: "What couldn't be moved"
-    readonly property string nothingDeleted: "Nothing was deleted. The space comes back when you empty the Trash in Finder, and you can put everything back from History until then."
-    readonly property string filter: "Filter"
-    readonly property string clearFilter: "Clear Filter"
-    readonly property string nothingMatches: "Nothing here matches the filter."
-    readonly property string nothingSelected: "Nothing is selected."
-    readonly property string selectAllShown: "Select all that are shown"
-    readonly property string sortBy: "Sort by %1"
-    readonly property string bySize: "Size"
-    readonly property string byName: "Name"
-    readonly property string byDate: "Date"
-    readonly property string showItems: "Show items"
-    readonly property string hideItems: "Hide items"
-    readonly property string trashKeeps: "Everything moves to the Trash and can be restored from History."
-    readonly property string anotherOrlen: "Another Orlen is open, so this one only looks. Close the other one to clean up here."
-    readonly property string stop: "Stop"
-    readonly property string stopping: "Stopping…"
+    readonly property string nothingLeft: Words.message("Nothing left here.")
+    readonly property string reviewTitle: Words.message("Review before cleaning")
+    function reviewLead(count: int): string {
+        return Words.messages("{count} items will be moved to the Trash. Nothing is permanently deleted, and you can restore them from History. Uncheck anything you want to keep.",
+                              "{count} items will be moved to the Trash. Nothing is permanently deleted, and you can restore them from History. Uncheck anything you want to keep.", { count: count });
+    }
+    readonly property string moveToTrash: Words.message("Move to Trash")
+    readonly property string movingToTrash: Words.message("Moving to the Trash…")
+    readonly property string notRecorded: Words.message("The history could not be saved. Orlen finishes it when it starts again.")
+    readonly property string notMoved: Words.message("What couldn't be moved")
+    readonly property string nothingDeleted: Words.message("Nothing was deleted. The space comes back when you empty the Trash in Finder, and you can put everything back from History until then.")
+    readonly property string filter: Words.messageIn("a field", "Filter")
+    readonly property string clearFilter: Words.message("Clear Filter")
+    readonly property string nothingMatches: Words.message("Nothing here matches the filter.")
+    readonly property string nothingSelected: Words.message("Nothing is selected.")
+    readonly property string selectAllShown: Words.message("Select all that are shown")
+    function sortBy(order: string): string {
+        // TRANSLATORS: {order} is one of the next three, as it stands there.
+        return Words.message("Sort by {order}", { order: order });
+    }
+    readonly property string bySize: Words.messageIn("order", "Size")
+    readonly property string byName: Words.messageIn("order", "Name")
+    readonly property string byDate: Words.messageIn("order", "Date")
+    readonly property string showItems: Words.message("Show items")
+    readonly property string hideItems: Words.message("Hide items")
+    readonly property string trashKeeps: Words.message("Everything moves to the Trash and can be restored from History.")
+    readonly property string anotherOrlen: Words.message("Another Orlen is open, so this one only looks. Close the other one to clean up here.")
+    readonly property string stop: Words.message("Stop")
+    readonly property string stopping: Words.message("Stopping…")
 
     // Preview and Reveal
-    readonly property string openWith: "Open With…"
-    readonly property string beginningOnly: "Only the beginning is shown."
-    readonly property string firstNamesOnly: "Only some of the names are shown."
-    readonly property string emptyFolder: "This folder is empty."
-    readonly property string noPreview: "There is no preview for this kind of item."
-    readonly property string previewLocked: "This item may not be read, so there is no preview."
-    readonly property string previewMissing: "This item is no longer there."
-    readonly property string copyPath: "Copy Path"
+    readonly property string openWith: Words.message("Open With…")
+    readonly property string beginningOnly: Words.message("Only the beginning is shown.")
+    readonly property string firstNamesOnly: Words.message("Only some of the names are shown.")
+    readonly property string emptyFolder: Words.message("This folder is empty.")
+    readonly property string noPreview: Words.message("There is no preview for this kind of item.")
+    readonly property string previewLocked: Words.message("This item may not be read, so there is no preview.")
+    readonly property string previewMissing: Words.message("This item is no longer there.")
+    readonly property string copyPath: Words.message("Copy Path")
 
     // Smart Photos
-    readonly property string photosTitle: "Smart Photo Cleanup"
-    readonly property string photosLead: "Screenshots, receipts, memes, blurry shots and near-duplicates in Pictures, Desktop, Downloads and Documents. Your Photos library is never touched."
-    readonly property string photosBeforeScan: "Run a Smart Scan to find photo clean-ups."
-    readonly property string goToSmartScan: "Go to Smart Scan"
-    readonly property string noPhotos: "No photo clean-ups were found."
-    readonly property string showAllNumber: "Show all %1"
-    readonly property string showAllOf: "Show all of %1"
-    readonly property string backToPhotos: "Back to Smart Photos"
-    readonly property string kept: "Kept"
-    readonly property string selectAllPhotos: "Select all photos"
-    readonly property string noPhotoSelected: "No photo selected"
-    readonly property string photosFooter: "Photos are analysed on this Mac with Apple's Vision framework: feature prints find similar shots, an image classifier spots screenshots and receipts, and a sharpness score picks the best photo of each set."
+    readonly property string photosTitle: Words.message("Smart Photo Cleanup")
+    readonly property string photosLead: Words.message("Screenshots, receipts, memes, blurry shots and near-duplicates in Pictures, Desktop, Downloads and Documents. Your Photos library is never touched.")
+    readonly property string photosBeforeScan: Words.message("Run a Smart Scan to find photo clean-ups.")
+    readonly property string goToSmartScan: Words.message("Go to Smart Scan")
+    readonly property string noPhotos: Words.message("No photo clean-ups were found.")
+    function showAllNumber(count: int): string {
+        // TRANSLATORS: A button: all photos of a group, or all folders.
+        return Words.messages("Show all {count}", "Show all {count}", { count: count });
+    }
+    function showAllOf(group: string): string {
+        return Words.message("Show all of {group}", { group: group });
+    }
+    readonly property string backToPhotos: Words.message("Back to Smart Photos")
+    // TRANSLATORS: On the photo of a set that is not moved.
+    readonly property string kept: Words.messageIn("a photo", "Kept")
+    readonly property string selectAllPhotos: Words.message("Select all photos")
+    readonly property string noPhotoSelected: Words.message("No photo selected")
+    readonly property string photosFooter: Words.message("Photos are analysed on this Mac with Apple's Vision framework: feature prints find similar shots, an image classifier spots screenshots and receipts, and a sharpness score picks the best photo of each set.")
 
     // Ask Orlen
-    readonly property string askPlaceholder: "Ask about your storage…"
-    readonly property string tryOneOfThese: "Try one of these"
-    readonly property string modelFooter: "Foundation Models · on device"
-    readonly property string matcherFooter: "Built-in matcher · on device"
-    readonly property string conversation: "Conversation"
-    readonly property string send: "Send"
-    readonly property string thinking: "Thinking…"
-    readonly property string yourQuestion: "Your question: %1"
-    readonly property string copied: "Copied"
+    readonly property string askPlaceholder: Words.message("Ask about your storage…")
+    readonly property string tryOneOfThese: Words.message("Try one of these")
+    readonly property string modelFooter: Words.message("Foundation Models · on device")
+    readonly property string matcherFooter: Words.message("Built-in matcher · on device")
+    readonly property string conversation: Words.message("Conversation")
+    readonly property string send: Words.message("Send")
+    readonly property string thinking: Words.message("Thinking…")
+    function yourQuestion(question: string): string {
+        return Words.message("Your question: {question}", { question: question });
+    }
+    readonly property string copied: Words.message("Copied")
 
     // Predict
-    readonly property string predictLead: "How fast each kind of data is growing, learned from your past scans."
-    readonly property string diskFull: "Disk full"
-    readonly property string freeSpaceChart: "Free space from %1 to %2, now %3. %4. %5"
-    readonly property string noForecast: "No forecast yet. %1"
-    readonly property string growthLater: "How fast each kind of data grows appears here with the forecast."
-    readonly property string growthByCategory: "Growth by category"
-    readonly property string snapshotsStored: "%1 are stored on this Mac in Application Support/Orlen. A snapshot is saved after each Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the background, so predictions improve the more you use it. They are estimates from a straight-line fit, not promises."
+    readonly property string predictLead: Words.message("How fast each kind of data is growing, learned from your past scans.")
+    readonly property string diskFull: Words.message("Disk full")
+    function freeSpaceChart(first: string, last: string, size: string): string {
+        // TRANSLATORS: {first} and {last} are dates, {size} is the free space at the last.
+        return Words.message("Free space from {first} to {last}, now {size}", { first: first, last: last, size: size });
+    }
+    readonly property string noForecast: Words.message("No forecast yet")
+    readonly property string growthLater: Words.message("How fast each kind of data grows appears here with the forecast.")
+    readonly property string growthByCategory: Words.message("Growth by category")
 
     // Disk Map
-    readonly property string diskMapLead: "Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up."
-
-    readonly property string measuring: "Measuring…"
-    readonly property string emptyMap: "Nothing in this folder takes up space."
-    readonly property string lockedMap: "Orlen may not look into this folder, or it is no longer there."
-    readonly property string goUp: "Go back up"
-    readonly property string foldersBetween: "Folders between"
-    readonly property string measureAgain: "Measure again"
-    readonly property string asMap: "Show as a map"
-    readonly property string asList: "Show as a list"
-    readonly property string contentsOf: "Contents of %1"
+    readonly property string diskMapLead: Words.message("Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up.")
+    readonly property string measuring: Words.message("Measuring…")
+    readonly property string emptyMap: Words.message("Nothing in this folder takes up space.")
+    readonly property string lockedMap: Words.message("Orlen may not look into this folder, or it is no longer there.")
+    readonly property string goUp: Words.message("Go back up")
+    readonly property string foldersBetween: Words.message("Folders between")
+    readonly property string measureAgain: Words.message("Measure again")
+    readonly property string asMap: Words.message("Show as a map")
+    readonly property string asList: Words.message("Show as a list")
+    function contentsOf(folder: string): string {
+        return Words.message("Contents of {folder}", { folder: folder });
+    }
 
     // Applications
-    readonly property string appsLead: "Uninstall an app with its leftovers."
-    readonly property string reviewAndUninstall: "Review & Uninstall…"
-    readonly property string noLeftovers: "No leftovers found."
-    readonly property string appleApp: "This is an Apple app. Make sure you really want to remove it."
-
-    readonly property string searchApps: "Search applications"
-    readonly property string noApps: "No applications found."
-    readonly property string noAppMatches: "No application matches “%1”."
-    readonly property string lookingForLeftovers: "Looking for leftovers…"
-    readonly property string otherCopy: "Another copy is installed"
-    readonly property string otherCopyNote: "It still uses the files of this one, so they stay."
-    readonly property string copyCommand: "Copy command"
-    readonly property string leftBehind: "Left behind by apps that are gone"
-    readonly property string leftBehindLead: "No program of these names was found. Look inside first: only you know what you still need."
+    readonly property string appsLead: Words.message("Uninstall an app with its leftovers.")
+    readonly property string reviewAndUninstall: Words.message("Review & Uninstall…")
+    readonly property string noLeftovers: Words.message("No leftovers found.")
+    readonly property string searchApps: Words.message("Search applications")
+    readonly property string noApps: Words.message("No applications found.")
+    function noAppMatches(text: string): string {
+        return Words.message("No application matches “{text}”.", { text: text });
+    }
+    readonly property string lookingForLeftovers: Words.message("Looking for leftovers…")
+    readonly property string otherCopy: Words.message("Another copy is installed")
+    readonly property string otherCopyNote: Words.message("It still uses the files of this one, so they stay.")
+    readonly property string copyCommand: Words.message("Copy command")
+    readonly property string leftBehind: Words.message("Left behind by apps that are gone")
+    readonly property string leftBehindLead: Words.message("No program of these names was found. Look inside first: only you know what you still need.")
 
     // Startup Items
-    readonly property string startupLead: "What starts when you log in. Disabling takes effect now and stays off at the next login."
-    readonly property string noLaunchAgents: "No launch agents found."
-    readonly property string loginItemsLead: "macOS doesn't let apps list other apps' login items directly. Press the button to ask System Events (macOS will ask your permission), or manage them in System Settings."
-    readonly property string showLoginItems: "Show Login Items"
-    readonly property string openLoginItemsSettings: "Open Login Items Settings"
-    readonly property string loginItemsFailed: "Couldn't read login items."
-    readonly property string openAtLogin: "Open Orlen at login"
-    readonly property string openAtLoginNote: "Off by default. If turned on, Orlen opens a normal visible window at login; it still does nothing in the background."
-    readonly property string openAtLoginFailed: "macOS couldn't change this (it works for the packaged app): %1"
-
-    readonly property string reload: "Reload"
-    readonly property string startupItems: "Startup items"
-    readonly property string partOfDesktop: "Part of your desktop"
-    readonly property string loginItems: "Login items"
-    readonly property string noLoginItems: "No login items."
-    readonly property string settingsFailed: "The login items settings couldn't be opened."
+    readonly property string startupLead: Words.message("What starts when you log in. Disabling takes effect now and stays off at the next login.")
+    readonly property string noLaunchAgents: Words.message("No launch agents found.")
+    readonly property string openStartupSettings: Words.message("Open your desktop's startup settings")
+    readonly property string settingsFailed: Words.message("Your desktop's startup settings couldn't be opened.")
+    readonly property string openAtLogin: Words.message("Open Orlen at login")
+    readonly property string openAtLoginNote: Words.message("Off by default. If turned on, Orlen opens a normal visible window at login; it still does nothing in the background.")
+    function openAtLoginFailed(reason: string): string {
+        // TRANSLATORS: Say instead: This couldn't be changed: {reason}
+        return Words.message("macOS couldn't change this (it works for the packaged app): {reason}", { reason: reason });
+    }
+    readonly property string reload: Words.message("Reload")
+    readonly property string startupItems: Words.message("Startup items")
+    readonly property string partOfDesktop: Words.message("Part of your desktop")
 
     // History
-    readonly property string historyLead: "Every clean-up, with a way back. Restore moves items out of the Trash to where they were."
-    readonly property string nothingCleaned: "Nothing cleaned yet."
-    readonly property string restore: "Restore"
-    readonly property string restoring: "Restoring…"
-    readonly property string restored: "Restored"
-    readonly property string restoreOf: "Restore %1, %2"
-    readonly property string pastCleanUps: "Clean-ups"
-    readonly property string itemsOf: "Items of %1"
-    readonly property string readerOnly: "Another Orlen is open. Clean-ups can be restored from there."
+    readonly property string historyLead: Words.message("Every clean-up, with a way back. Restore moves items out of the Trash to where they were.")
+    readonly property string nothingCleaned: Words.message("Nothing cleaned yet.")
+    readonly property string restore: Words.message("Restore")
+    readonly property string restoring: Words.message("Restoring…")
+    readonly property string restored: Words.messageIn("a clean-up", "Restored")
+    function restoreOf(title: string, date: string): string {
+        return Words.message("Restore {title}, {date}", { title: title, date: date });
+    }
+    readonly property string pastCleanUps: Words.message("Clean-ups")
+    function itemsOf(title: string): string {
+        // TRANSLATORS: {title} is that of a clean-up.
+        return Words.message("Items of {title}", { title: title });
+    }
+    readonly property string readerOnly: Words.message("Another Orlen is open. Clean-ups can be restored from there.")
 
     // How Orlen Works
-    readonly property string safetyLead: "What it does, what it never does, and how far to trust it."
-    readonly property string alwaysLeftAlone: "Always left alone"
+    readonly property string safetyLead: Words.message("What it does, what it never does, and how far to trust it.")
+    readonly property string alwaysLeftAlone: Words.message("Always left alone")
     readonly property var safetySections: [
-        { symbol: "lock.fill", title: "Private by design", body: "Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time." },
-        { symbol: "trash.fill", title: "Nothing is permanently deleted", body: "Orlen never deletes anything permanently. It uses the system's Move to Trash, shows you the full list with checkboxes and Quick Look first, and records each clean-up in History so you can restore it." },
-        { symbol: "checkmark.shield.fill", title: "Places it will not touch", body: "The system volume and anything under /System, /usr or /bin; your Photos library; the Mail database; and iCloud Drive and its placeholder files." },
-        { symbol: "eye.fill", title: "Ratings are suggestions", body: "Safe, Review and Keep come from a table of known locations plus on-device language analysis of file names. They can be wrong. Keep is a warning (for example an invoice, tax or contract name), not a lock. You decide what moves." },
-        { symbol: "power.circle.fill", title: "Nothing in the background", body: "Orlen only works while it's open. The menu bar item shows free space and does nothing else. It hides nothing: every file it will touch is listed first." },
-        { symbol: "internaldrive.fill", title: "Full Disk Access", body: "Optional. Without it Orlen scans only what macOS allows and says so. Moving items to the Trash frees space only once you empty the Trash in Finder." }
+        {
+            symbol: "lock.fill",
+            title: Words.message("Private by design"),
+            // TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write {folder},
+            // which is the true place.
+            body: Words.message("Scanning, photo analysis, ratings, Ask Orlen and predictions all run on this Mac. Orlen makes no network calls, has no accounts and uploads nothing. Scan history is a small file in Application Support/Orlen that you can delete any time.", { folder: Words.dataFolder })
+        },
+        {
+            symbol: "trash.fill",
+            title: root.neverDeleted,
+            body: Words.message("Orlen never deletes anything permanently. It uses the system's Move to Trash, shows you the full list with checkboxes and Quick Look first, and records each clean-up in History so you can restore it.")
+        },
+        {
+            symbol: "checkmark.shield.fill",
+            title: Words.message("Places it will not touch"),
+            body: Words.message("The system volume and anything under /System, /usr or /bin; your Photos library; the Mail database; and iCloud Drive and its placeholder files.")
+        },
+        {
+            symbol: "eye.fill",
+            title: Words.message("Ratings are suggestions"),
+            body: Words.message("Safe, Review and Keep come from a table of known locations plus on-device language analysis of file names. They can be wrong. Keep is a warning (for example an invoice, tax or contract name), not a lock. You decide what moves.")
+        },
+        {
+            symbol: "power.circle.fill",
+            title: Words.message("Nothing in the background"),
+            body: Words.message("Orlen only works while it's open. The menu bar item shows free space and does nothing else. It hides nothing: every file it will touch is listed first.")
+        },
+        {
+            symbol: "internaldrive.fill",
+            title: Words.message("Space comes back later"),
+            body: Words.message("Moving items to the Trash frees space only once you empty the Trash. Copies that share their blocks and snapshots may hold space longer.")
+        }
     ]
 
     // Keyboard shortcuts
-    readonly property string shortcutsTitle: "Keyboard shortcuts"
+    readonly property string shortcutsTitle: Words.message("Keyboard shortcuts")
+    // TRANSLATORS: The next ones are written on keys, short as there.
+    readonly property string ctrl: Words.messageIn("key", "Ctrl")
+    readonly property string shift: Words.messageIn("key", "Shift")
+    readonly property string tab: Words.messageIn("key", "Tab")
+    readonly property string esc: Words.messageIn("key", "Esc")
+    readonly property string enter: Words.messageIn("key", "Enter")
+    readonly property string space: Words.messageIn("key", "Space")
+    readonly property string backspace: Words.messageIn("key", "Backspace")
+    readonly property string homeKey: Words.messageIn("key", "Home")
+    readonly property string endKey: Words.messageIn("key", "End")
+    readonly property string pageUp: Words.messageIn("key", "PgUp")
+    readonly property string pageDown: Words.messageIn("key", "PgDn")
+    readonly property string wheel: Words.messageIn("key", "Wheel")
     readonly property var shortcutGroups: [
-        { title: "Everywhere", shortcuts: [
-            { text: "Show a screen", keys: [["Ctrl", "1 … 9"]] },
-            { text: "Start a Smart Scan", keys: [["Ctrl", "R"]] },
-            { text: "Filter the list", keys: [["Ctrl", "F"]] },
-            { text: "Next or previous control", keys: [["Tab"], ["Shift", "Tab"]] },
-            { text: "Close a sheet", keys: [["Esc"]] },
-            { text: "Show these shortcuts", keys: [["Ctrl", "?"], ["F1"]] },
-            { text: "Quit", keys: [["Ctrl", "Q"], ["Ctrl", "W"]] }
-        ] },
-        { title: "Lists and cards", shortcuts: [
-            { text: "Move", keys: [["←"], ["↑"], ["↓"], ["→"]] },
-            { text: "First or last", keys: [["Home"], ["End"]] },
-            { text: "A page up or down", keys: [["PgUp"], ["PgDn"]] },
-            { text: "Open", keys: [["Enter"]] },
-            { text: "Preview a file", keys: [["Space"]] },
-            { text: "Scroll a preview", keys: [["PgUp"], ["PgDn"]] },
-            { text: "Reload the map, apps or startup items", keys: [["F5"]] }
-        ] },
-        { title: "Disk Map", shortcuts: [
-            { text: "Zoom into a folder", keys: [["Enter"]] },
-            { text: "Go back up", keys: [["Backspace"]] },
-            { text: "Zoom with the wheel", keys: [["Ctrl", "Wheel"]] }
-        ] }
+        {
+            title: Words.message("Everywhere"),
+            shortcuts: [
+                { text: Words.message("Show a screen"), keys: [[root.ctrl, "1 … 9"]] },
+                { text: Words.message("Start a Smart Scan"), keys: [[root.ctrl, "R"]] },
+                { text: Words.message("Filter the list"), keys: [[root.ctrl, "F"]] },
+                { text: Words.message("Next or previous control"), keys: [[root.tab], [root.shift, root.tab]] },
+                { text: Words.message("Close a sheet"), keys: [[root.esc]] },
+                { text: Words.message("Show these shortcuts"), keys: [[root.ctrl, "?"], ["F1"]] },
+                { text: Words.messageIn("shortcut", "Quit"), keys: [[root.ctrl, "Q"], [root.ctrl, "W"]] }
+            ]
+        },
+        {
+            title: Words.message("Lists and cards"),
+            shortcuts: [
+                { text: Words.messageIn("shortcut", "Move"), keys: [["←"], ["↑"], ["↓"], ["→"]] },
+                { text: Words.message("First or last"), keys: [[root.homeKey], [root.endKey]] },
+                { text: Words.message("A page up or down"), keys: [[root.pageUp], [root.pageDown]] },
+                { text: Words.messageIn("shortcut", "Open"), keys: [[root.enter]] },
+                { text: Words.message("Preview a file"), keys: [[root.space]] },
+                { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] },
+                { text: Words.message("Reload the map, apps or startup items"), keys: [["F5"]] }
+            ]
+        },
+        {
+            title: Screens.title(Screens.DiskMap),
+            shortcuts: [
+                { text: Words.message("Zoom into a folder"), keys: [[root.enter]] },
+                { text: root.goUp, keys: [[root.backspace]] },
+                { text: Words.message("Zoom with the wheel"), keys: [[root.ctrl, root.wheel]] }
+            ]
+        }
     ]
 
     // Tray item
-    readonly property string trayNote: "Orlen only runs while it is open."
-    readonly property string openOrlen: "Open Orlen"
-    readonly property string quit: "Quit"
+    readonly property string trayNote: Words.message("Orlen only runs while it is open.")
 }

@@ -1,11 +1,13 @@
 #include "window/shell/Window.h"
 
 #include "app/AppTexts.h"
+#include "model/Words.h"
 #include "platform/desktop/SessionBus.h"
 #include "platform/files/LibraryFolders.h"
 #include "platform/files/Places.h"
 #include "platform/process/Interrupts.h"
 #include "platform/process/OwnProgram.h"
+#include "window/WindowTexts.h"
 #include "window/apps/AppIconProvider.h"
 #include "window/controls/SymbolProvider.h"
 #include "window/preview/Thumbnails.h"
@@ -18,6 +20,7 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -93,6 +96,9 @@ void prepare()
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(kTextPixels);
     QGuiApplication::setFont(font);
+    QGuiApplication::setLayoutDirection(Words::isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    // For what the desktop names, such as types of files.
+    QLocale::setDefault(QLocale(QString::fromStdString(Words::language())));
 }
 
 void prepareEngine(QQmlEngine& engine, AppModel& model)
@@ -118,7 +124,7 @@ int run(int argc, char** argv)
     SessionBus::startNone();
     Interrupts interrupts;
     if (Places::current().isHomeSilent) {
-        std::fprintf(stderr, "orlen: %s\n", AppTexts::kSilentHome.data());
+        std::fprintf(stderr, "orlen: %s\n", shown(AppTexts::kSilentHome).c_str());
         return kRefused;
     }
     LibraryFolders::leaveOutSilent(Places::current());
@@ -133,7 +139,7 @@ int run(int argc, char** argv)
     case RunningInstance::Claim::raisedOther:
         return EXIT_SUCCESS;
     case RunningInstance::Claim::blocked:
-        std::fputs("orlen: Orlen is open already.\n", stderr);
+        std::fprintf(stderr, "orlen: %s\n", shown(WindowTexts::kIsOpen).c_str());
         return EXIT_FAILURE;
     }
     return EXIT_FAILURE;

@@ -5,12 +5,19 @@
 #include "window/lists/DisplayText.h"
 
 #include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace orlen {
 
+struct LoginItemModel::Found {
+    bool isRegistered = false;
+    bool hasSettings = false;
+};
+
 struct LoginItemModel::Change {
-    std::optional<std::string> obstacle;
+    std::optional<Text> obstacle;
     bool isRegistered = false;
 };
 
@@ -18,12 +25,20 @@ LoginItemModel::LoginItemModel() : m_workers(*this) {}
 
 void LoginItemModel::load()
 {
-    m_workers.start([](const std::stop_token&) { return LoginItems::isRegistered(); },
-                    [this](bool isRegistered) {
-                        // A change that started in the meantime is newer.
-                        if (!m_isBusy)
-                            setRegistered(isRegistered, m_obstacle);
-                    });
+    m_workers.start(
+        [](const std::stop_token&) {
+            return Found{LoginItems::isRegistered(), !LoginItems::settingsCommand().empty()};
+        },
+        [this](const Found& found) { take(found); });
+}
+
+void LoginItemModel::take(const Found& found)
+{
+    // A change that started in the meantime is newer.
+    if (!m_isBusy)
+        setRegistered(found.isRegistered, m_obstacle);
+    if (std::exchange(m_hasSettings, found.hasSettings) != found.hasSettings)
+        Q_EMIT hasSettingsChanged();
 }
 
 void LoginItemModel::toggleRegistered()
@@ -42,21 +57,8 @@ void LoginItemModel::toggleRegistered()
         },
         [this](const Change& change) {
             m_isBusy = false;
-            setRegistered(change.isRegistered, DisplayText::path(change.obstacle.value_or("")));
+            setRegistered(change.isRegistered, change.obstacle ? DisplayText::text(*change.obstacle) : QString());
         });
-}
-
-void LoginItemModel::ask()
-{
-    if (m_names == Asking)
-        return;
-    m_names = Asking;
-    Q_EMIT namesChanged();
-    m_workers.start([](const std::stop_token&) { return LoginItems::names(); },
-                    [this](std::optional<std::vector<std::string>> names) {
-                        const Names state = names ? Known : Unreadable;
-                        setNames(state, std::move(names).value_or(std::vector<std::string>{}));
-                    });
 }
 
 void LoginItemModel::openSettings()
@@ -77,18 +79,6 @@ void LoginItemModel::setRegistered(bool isRegistered, QString obstacle)
     m_isRegistered = isRegistered;
     m_obstacle = std::move(obstacle);
     Q_EMIT registeredChanged();
-}
-
-void LoginItemModel::setNames(Names names, std::vector<std::string> items)
-{
-    resetRows(m_items, std::move(items));
-    m_names = names;
-    Q_EMIT namesChanged();
-}
-
-QVariant LoginItemModel::value(std::size_t number, int role) const
-{
-    return role == static_cast<int>(Role::name) ? DisplayText::path(m_items[number]) : QVariant();
 }
 
 } // namespace orlen

@@ -12,7 +12,8 @@ Card {
     Badge {
         id: badge
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         name: "sparkles"
         tone: Theme.welcomeTone
@@ -46,7 +47,7 @@ Card {
         Note {
             width: parent.width
             visible: root.items.obstacle !== ""
-            text: Strings.openAtLoginFailed.arg(root.items.obstacle)
+            text: Strings.openAtLoginFailed(root.items.obstacle)
             symbol: "exclamationmark.triangle.fill"
             ink: Theme.reviewText
         }

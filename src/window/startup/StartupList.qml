@@ -31,6 +31,7 @@ Card {
             width: ListView.view.width
             height: Theme.grown(40)
             leftPadding: Theme.cardMargin
+            rightPadding: Theme.cardMargin
             bottomPadding: 2
             verticalAlignment: Text.AlignBottom
             text: section

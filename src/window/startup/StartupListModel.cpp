@@ -1,6 +1,7 @@
 #include "window/startup/StartupListModel.h"
 
 #include "tools/startup/LaunchControl.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
@@ -25,9 +26,8 @@ QString symbol(LaunchSource source)
 
 QString failure(const LaunchItem& item)
 {
-    const QString text = item.enabled ? QStringLiteral("%1 couldn't be switched off. Nothing has changed.")
-                                      : QStringLiteral("%1 couldn't be switched on. Nothing has changed.");
-    return text.arg(DisplayText::path(item.name));
+    const Text text = item.enabled ? WindowTexts::kNotSwitchedOff : WindowTexts::kNotSwitchedOn;
+    return DisplayText::text(Message(text, {{"name", item.name}}));
 }
 
 } // namespace

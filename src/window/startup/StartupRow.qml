@@ -26,15 +26,18 @@ ListRow {
     Accessible.description: root.isSwitchable ? root.program : root.reason
 
     Divider {
-        x: 64
-        width: parent.width - x - Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: 64
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.cardMargin
         visible: root.lineShown
     }
 
     Rectangle {
         id: tile
 
-        x: Theme.cardMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 32
         height: 32
@@ -103,7 +106,7 @@ ListRow {
     // A disabled switch gets no hover events itself.
     ToolTipBubble {
         parent: toggle
-        x: toggle.width - implicitWidth
+        x: Theme.mirrored ? 0 : toggle.width - implicitWidth
         text: root.reason
         shown: !root.isSwitchable && (root.hovered || root.ringed)
     }

@@ -1,7 +1,7 @@
 import QtQuick
 import Orlen.App
 
-/// Startup Items: this program's own switch, everything else that starts at login, and the login items.
+/// Startup Items: this program's own switch, everything else that starts at login, and the desktop's settings.
 Item {
     id: root
 
@@ -62,9 +62,11 @@ Item {
             items: items
         }
 
-        LoginItemsCard {
-            width: parent.width
-            items: loginItems
+        AppButton {
+            anchors.left: parent.left
+            visible: loginItems.hasSettings
+            text: Strings.openStartupSettings
+            onClicked: loginItems.openSettings()
         }
     }
 }

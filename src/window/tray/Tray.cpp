@@ -37,8 +37,8 @@ TrayPixmaps pixmaps()
 
 TrayItem::Look look()
 {
-    return {QStringLiteral("Orlen"), QStringLiteral("drive-harddisk-symbolic"), pixmaps(), Tray::openLabel(),
-            QStringLiteral("Quit")};
+    return {QStringLiteral("Orlen"), QStringLiteral("drive-harddisk-symbolic"), pixmaps(),
+            TrayModel::openLabel(), TrayModel::quitLabel()};
 }
 
 /// Next to `place` and fully on its screen. Without a place, the corner where trays usually are.

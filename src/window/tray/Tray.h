@@ -25,9 +25,6 @@ public:
     void togglePanel(const QPoint& place);
     void hidePanel();
 
-    /// The label for bringing the window to the front.
-    [[nodiscard]] static QString openLabel() { return QStringLiteral("Open Orlen"); }
-
 Q_SIGNALS:
     void openRequested();
     void quitRequested();

@@ -1,5 +1,6 @@
 #include "window/tray/TrayModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 namespace orlen {
@@ -15,15 +16,26 @@ QString TrayModel::title() const
 {
     if (!m_app.storage()->isBreakdownReady())
         return QStringLiteral("Orlen");
-    return QStringLiteral("%1 free").arg(DisplayText::size(m_app.storage()->breakdown().free));
+    return DisplayText::text(
+        Message(WindowTexts::kFree, {{"size", Bytes{m_app.storage()->breakdown().free}}}));
 }
 
 QString TrayModel::lastScanText() const
 {
     if (!m_app.results()->lastScan())
         return {};
-    return QStringLiteral("Last scan: you can safely free %1")
-        .arg(DisplayText::size(m_app.results()->safeBytes()));
+    return DisplayText::text(
+        Message(WindowTexts::kLastScan, {{"size", Bytes{m_app.results()->safeBytes()}}}));
+}
+
+QString TrayModel::openLabel()
+{
+    return DisplayText::text(WindowTexts::kOpenOrlen);
+}
+
+QString TrayModel::quitLabel()
+{
+    return DisplayText::text(WindowTexts::kQuit);
 }
 
 } // namespace orlen

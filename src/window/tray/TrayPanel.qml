@@ -14,6 +14,8 @@ Window {
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     title: Strings.appName
     color: "transparent"
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     // Closes like a menu on a click anywhere else.
     onActiveChanged: {
@@ -68,11 +70,12 @@ Window {
                     height: freeSpace.implicitHeight
                     visible: storage.ready
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: freeSpace.text + " " + ofTotal.text
+                    Accessible.name: Strings.spoken([freeSpace.text, ofTotal.text])
 
                     TitleText {
                         id: freeSpace
 
+                        anchors.left: parent.left
                         text: storage.freeText
                         Accessible.ignored: true
                     }
@@ -84,7 +87,7 @@ Window {
                         anchors.leftMargin: Theme.spaceS
                         anchors.right: parent.right
                         anchors.baseline: freeSpace.baseline
-                        text: Strings.freeOf.arg(storage.totalText)
+                        text: Strings.freeOf(storage.totalText)
                         Accessible.ignored: true
                     }
                 }
@@ -121,13 +124,13 @@ Window {
                 spacing: Theme.spaceS
 
                 AppButton {
-                    text: Strings.quit
+                    text: tray.quitLabel
                     onClicked: root.quitRequested()
                 }
 
                 AppButton {
                     objectName: "trayOpen"
-                    text: Strings.openOrlen
+                    text: tray.openLabel
                     primary: true
                     focus: true
                     onClicked: root.openRequested()

@@ -149,10 +149,6 @@ TEST(LoginItemsTest, theDesktopsOwnSettingsAreOpened)
 {
     const StartupHome home;
     EXPECT_THAT(LoginItems::settingsCommand(), IsEmpty());
-    home.tool("xdg-open");
-    EXPECT_THAT(LoginItems::settingsCommand(), IsEmpty());
-    const std::string folder = home.folder(".config/autostart");
-    EXPECT_THAT(LoginItems::settingsCommand(), ElementsAre("xdg-open", folder));
     home.tool("systemsettings5");
     EXPECT_THAT(LoginItems::settingsCommand(), ElementsAre("systemsettings5", "kcm_autostart"));
     home.tool("gnome-session-properties");

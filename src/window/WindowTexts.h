@@ -1,0 +1,129 @@
+#pragma once
+
+#include "model/Text.h"
+
+/// The texts of the window's models. Those of its screens are in shell/Strings.qml.
+namespace orlen::WindowTexts {
+
+// Screens
+inline constexpr Text kSmartScan = message("Smart Scan");
+inline constexpr Text kSmartPhotos = message("Smart Photos");
+inline constexpr Text kAskOrlen = message("Ask Orlen");
+// TRANSLATORS: The screen that says when the disk will be full.
+inline constexpr Text kPredict = messageIn("screen", "Predict");
+inline constexpr Text kDiskMap = message("Disk Map");
+inline constexpr Text kApplications = messageIn("screen", "Applications");
+inline constexpr Text kStartupItems = messageIn("screen", "Startup Items");
+inline constexpr Text kHistory = messageIn("screen", "History");
+inline constexpr Text kHowOrlenWorks = message("How Orlen Works");
+// TRANSLATORS: The next four are headings in the list of screens.
+inline constexpr Text kCleanScreens = messageIn("screens", "Clean");
+inline constexpr Text kInsightScreens = messageIn("screens", "Insights");
+inline constexpr Text kManageScreens = messageIn("screens", "Manage");
+inline constexpr Text kAboutScreens = messageIn("screens", "About");
+
+// Amounts
+inline constexpr Text kItems = messages("{count} item", "{count} items");
+inline constexpr Text kApplicationCount = messages("{count} application", "{count} applications");
+inline constexpr Text kFolders = messages("{count} folder", "{count} folders");
+inline constexpr Text kPhotos = messages("{count} photo", "{count} photos");
+inline constexpr Text kSelectedPhotos = messages("{count} photo selected", "{count} photos selected");
+// TRANSLATORS: Of the photos of a group, whose number stands before this.
+inline constexpr Text kSelected = messages("{count} selected", "{count} selected");
+inline constexpr Text kSelectedOf = messages("{count} of {total} selected", "{count} of {total} selected");
+inline constexpr Text kDoneOf = messages("{count} of {total}", "{count} of {total}");
+// TRANSLATORS: {share} is 1 %.
+inline constexpr Text kLessThan = message("< {share}");
+inline constexpr Text kFree = message("{size} free");
+// TRANSLATORS: The size of a folder, of which not all could be seen.
+inline constexpr Text kAtLeast = message("at least {size}");
+
+// Dates of a file
+inline constexpr Text kOpened = message("Opened {date}");
+inline constexpr Text kModified = message("Modified {date}");
+
+// Findings
+inline constexpr Text kSafelyFree = message("You can safely free {size}");
+inline constexpr Text kNothingSafe = message("Nothing is rated Safe right now");
+inline constexpr Text kWhySafe = message("Why Safe: {reason}");
+inline constexpr Text kWhyReview = message("Why Review: {reason}");
+inline constexpr Text kWhyKeep = message("Why Keep: {reason}");
+
+// Storage categories
+inline constexpr Text kApps = message("Installed apps and games, with their data.");
+inline constexpr Text kPictures = message("Your pictures, and what photo programs keep.");
+inline constexpr Text kMedia = message("Your music and videos.");
+inline constexpr Text kDocuments = message("Your documents and downloads, and what lies on the desktop.");
+inline constexpr Text kDeveloper = message("Tools and packages for developing software.");
+inline constexpr Text kSystem =
+    message("Everything else: the system with its programs, and the rest of your home folder.");
+inline constexpr Text kCaches = message("What programs keep to be faster. A Smart Scan shows what can go.");
+inline constexpr Text kShareOfDisk = message("{size} · {share} of the disk");
+// TRANSLATORS: Stands for folders among the names of folders, as the next two do.
+inline constexpr Text kNotVisible = message("Not visible to Orlen");
+inline constexpr Text kRestOfHome = message("The rest of your home folder");
+inline constexpr Text kFilesIn = message("Files in {folder}");
+inline constexpr Text kHeldBack = message("For administrators only, or held in reserve");
+inline constexpr Text kOnOtherDisk = message("It is on another disk than your home folder.");
+
+// Disk map
+inline constexpr Text kHome = messageIn("the user's folder", "Home");
+// TRANSLATORS: The next two are read aloud by screen readers.
+inline constexpr Text kSpokenFolder = message("{name}, {size}, folder");
+inline constexpr Text kSpokenFile = message("{name}, {size}, file");
+
+// Clean-ups and their history
+inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");
+inline constexpr Text kNotMoved = messages("{count} couldn't be moved", "{count} couldn't be moved");
+inline constexpr Text kRestoredCount = messages("{count} restored", "{count} restored");
+inline constexpr Text kInTrash = message("In the Trash");
+inline constexpr Text kRestoredItem = messageIn("an item", "Restored");
+inline constexpr Text kGone = message("No longer in the Trash");
+
+// Applications
+// TRANSLATORS: What kind of application it is; the folder it is in follows.
+inline constexpr Text kAppBundle = message("App bundle");
+inline constexpr Text kAppFolder = message("App folder");
+inline constexpr Text kRemovedFlatpak = message("Data of a removed Flatpak");
+inline constexpr Text kLeftoversByName = message("Leftovers found by name");
+inline constexpr Text kLeftoversByIdentifier = message("Leftovers found by bundle identifier ({id})");
+// TRANSLATORS: {name} is an application that is running.
+inline constexpr Text kQuitFirst = message("Quit {name} first");
+
+// Forecast
+inline constexpr Text kNoChange = message("No change");
+inline constexpr Text kGrowth = message("+{size} / week");
+inline constexpr Text kDecline = message("\u2212{size} / week");
+// TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write {folder},
+// which is the true place.
+inline constexpr Text kSnapshots = messages(
+    "{count} snapshot are stored on this Mac in Application Support/Orlen. A snapshot is saved after each "
+    "Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the "
+    "background, so predictions improve the more you use it. They are estimates from a straight-line fit, "
+    "not "
+    "promises.",
+    "{count} snapshots are stored on this Mac in Application Support/Orlen. A snapshot is saved after each "
+    "Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the "
+    "background, so predictions improve the more you use it. They are estimates from a straight-line fit, "
+    "not "
+    "promises.");
+
+// Preview
+// TRANSLATORS: A type of file: a symbolic link.
+inline constexpr Text kLink = messageIn("type of file", "Link");
+inline constexpr Text kNoProgram = message("No program could show this item: {path}");
+
+// Startup items
+inline constexpr Text kNotSwitchedOff = message("{name} couldn't be switched off. Nothing has changed.");
+inline constexpr Text kNotSwitchedOn = message("{name} couldn't be switched on. Nothing has changed.");
+
+// Outside the window
+inline constexpr Text kScanFinished = message("Smart Scan finished");
+inline constexpr Text kLastScan = message("Last scan: you can safely free {size}");
+inline constexpr Text kOpenOrlen = message("Open Orlen");
+inline constexpr Text kQuit = messageIn("button", "Quit");
+inline constexpr Text kIsOpen = message("Orlen is open already.");
+inline constexpr Text kNoWindow =
+    message("the window cannot be opened on this display; `orlen scan` works without one.");
+
+} // namespace orlen::WindowTexts
