@@ -94,9 +94,9 @@ inline constexpr Text kQuitFirst = message("Quit {name} first");
 inline constexpr Text kNoChange = message("No change");
 inline constexpr Text kGrowth = message("+{size} / week");
 inline constexpr Text kDecline = message("\u2212{size} / week");
-// TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write {folder},
-// which is the true place.
 inline constexpr Text kSnapshots = messages(
+    // TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write
+    // {folder}, which is the true place.
     "{count} snapshot are stored on this Mac in Application Support/Orlen. A snapshot is saved after each "
     "Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the "
     "background, so predictions improve the more you use it. They are estimates from a straight-line fit, "
