@@ -1,3 +1,4 @@
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
@@ -33,7 +34,7 @@ Message explanationOf(const AdviceItem& item)
 {
     std::vector<Message> sentences{item.text};
     if (!item.isOnHomeDisk)
-        sentences.emplace_back(CliTexts::kOtherDisk);
+        sentences.emplace_back(AppTexts::kOnOtherDisk);
     return Message::joined(std::move(sentences), Several::Joint::sentences);
 }
 

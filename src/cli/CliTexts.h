@@ -169,8 +169,6 @@ inline constexpr Text kRunsHeading = messageIn("table heading", "Runs");
 inline constexpr Text kExcludedHeading = messageIn("table heading", "Excluded");
 
 // scan and what shows findings.
-inline constexpr Text kSafeToFree = message("You can safely free {size}");
-inline constexpr Text kNothingSafe = message("Nothing is rated Safe right now");
 inline constexpr Text kToReview = message("{size} you could review in total");
 inline constexpr Text kExaminedIn =
     messages("{count} file examined in {time}", "{count} files examined in {time}");
@@ -222,7 +220,6 @@ inline constexpr Text kHowToRestore = message("`orlen restore RECORD` puts the i
 // TRANSLATORS: every item of a clean-up is back where it was.
 inline constexpr Text kAllRestored = messageIn("state of a clean-up", "restored");
 // TRANSLATORS: so many items of a clean-up are back where they were.
-inline constexpr Text kSomeRestored = messages("{count} restored", "{count} restored");
 inline constexpr Text kNoCleanUp = message("there is no clean-up {id}.");
 // TRANSLATORS: {id} is the beginning of a record's name.
 inline constexpr Text kSeveralCleanUps = message("several clean-ups begin with {id}.");
@@ -269,7 +266,6 @@ inline constexpr Text kAppBundle = messageIn("kind of application", "App bundle"
 inline constexpr Text kAppFolder = messageIn("kind of application", "Folder");
 inline constexpr Text kNoApps = message("No applications found.");
 // TRANSLATORS: {id} is an identifier such as org.example.App.
-inline constexpr Text kLeftoversById = message("Leftovers found by bundle identifier ({id})");
 inline constexpr Text kLeftoversByName = message("Leftovers found by name ({name})");
 inline constexpr Text kNoLeftovers = message("No leftovers found.");
 inline constexpr Text kNobodysLeftovers = message("leftovers are found by --id, --name or both.");
@@ -347,7 +343,6 @@ inline constexpr Text kExclusionsNotSaved = message("the list of exclusions coul
 // TRANSLATORS: {size} may also be "at least 1.2 GB".
 inline constexpr Text kBeyondOrlen = message("{size} outside Orlen's reach");
 inline constexpr Text kNoAdvice = message("Nothing outside Orlen's reach takes up much space.");
-inline constexpr Text kOtherDisk = message("It is on another disk than your home folder.");
 inline constexpr Text kAdviceIsForYou = message("Orlen runs none of these commands.");
 
 } // namespace orlen::CliTexts

@@ -27,7 +27,7 @@ Message state(const CleanRecord& record)
         return {};
     if (static_cast<std::size_t>(restored) == record.items.size())
         return CliTexts::kAllRestored;
-    return {CliTexts::kSomeRestored, {{"count", restored}}};
+    return {AppTexts::kRestoredCount, {{"count", restored}}};
 }
 
 void printHistory(const std::vector<CleanRecord>& history)

@@ -1,3 +1,4 @@
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "clean/Persist.h"
 #include "clean/Safety.h"
@@ -114,7 +115,7 @@ private:
     {
         if (m_identifier.empty())
             return {CliTexts::kLeftoversByName, {{"name", PathText::forDisplay(m_name)}}};
-        return {CliTexts::kLeftoversById, {{"id", PathText::forDisplay(m_identifier)}}};
+        return {AppTexts::kLeftoversByIdentifier, {{"id", PathText::forDisplay(m_identifier)}}};
     }
 
     std::string m_identifier;

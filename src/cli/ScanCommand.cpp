@@ -27,10 +27,10 @@ std::string headline(const AppModel& model, const Colours& colours)
 {
     const std::int64_t safe = model.results()->safeBytes();
     if (safe == 0)
-        return colours.styled(Style::bold, shown(CliTexts::kNothingSafe)) + '\n';
+        return colours.styled(Style::bold, shown(AppTexts::kNothingSafe)) + '\n';
     // The size has a colour of its own, wherever the language puts it.
     const std::string size = Words::figures().bytes(safe);
-    const std::string sentence = shown(Message{CliTexts::kSafeToFree, {{"size", size}}});
+    const std::string sentence = shown(Message{AppTexts::kSafelyFree, {{"size", size}}});
     const std::size_t at = std::min(sentence.find(size), sentence.size());
     const std::size_t behind = std::min(at + size.size(), sentence.size());
     return colours.styled(Style::bold, sentence.substr(0, at)) +
