@@ -23,8 +23,10 @@ protected:
     {
         CleanPlan plan;
         plan.title = Message::verbatim("Uninstall Viewer");
-        plan.sections.push_back(
-            {"caches", Message::verbatim("App caches"), "internaldrive.fill", {entry("a", 8), entry("b", 4)}});
+        plan.sections.push_back({"caches",
+                                 Message::verbatim("App caches"),
+                                 "internaldrive.fill",
+                                 {entry("a", 8), entry("b", 4)}});
         plan.sections.push_back({"app", Message::verbatim("Viewer"), "app.fill", {entry("c", 12)}});
         WindowState::of(m_app).setSheet(PlanSheet{plan});
     }

@@ -57,7 +57,8 @@ void LoginItemModel::toggleRegistered()
         },
         [this](const Change& change) {
             m_isBusy = false;
-            setRegistered(change.isRegistered, change.obstacle ? DisplayText::text(*change.obstacle) : QString());
+            setRegistered(change.isRegistered,
+                          change.obstacle ? DisplayText::text(*change.obstacle) : QString());
         });
 }
 
