@@ -145,6 +145,8 @@ ListRow {
             visible: root.date !== ""
             horizontalAlignment: Text.AlignRight
             text: root.date
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             Accessible.ignored: true
         }
     }

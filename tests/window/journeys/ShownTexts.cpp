@@ -77,7 +77,8 @@ bool isInSidewaysList(const QQuickItem& item)
 /// Whether less of it is seen than there is.
 bool isCut(const QQuickItem& item)
 {
-    if (item.property("truncated").toBool())
+    if (item.property("truncated").toBool() ||
+        item.property("contentWidth").toDouble() > item.width() + kRounding)
         return true;
     if (isInSidewaysList(item))
         return false;
