@@ -72,7 +72,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.sideMargin
         anchors.verticalCenter: header.verticalCenter
-        width: Math.min(280, root.width * 0.42)
+        width: Math.min(300, root.width * 0.5)
         placeholderText: Strings.searchApps
         Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
     }

@@ -16,7 +16,7 @@ Pressable {
     required property color tone
     signal revealRequested
 
-    implicitHeight: Theme.grown(52)
+    implicitHeight: Math.max(Theme.grown(52), texts.height + 16)
     enabled: root.isSeen
     fill: root.isSeen && (root.hovered || root.down) ? Theme.hover : Theme.clear
     ringGap: 0
@@ -37,6 +37,8 @@ Pressable {
         }
 
         Column {
+            id: texts
+
             anchors.left: icon.right
             anchors.leftMargin: Theme.spaceM
             anchors.right: bar.left
@@ -75,6 +77,8 @@ Pressable {
                 width: parent.width
                 visible: text !== ""
                 text: root.items
+                wrapMode: Text.WordWrap
+                maximumLineCount: 2
                 color: Theme.secondary
                 Accessible.ignored: true
             }

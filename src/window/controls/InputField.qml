@@ -9,6 +9,7 @@ T.TextField {
     property color fill: Theme.inset
     property real corner: Theme.controlRadius
 
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.text
     placeholderTextColor: Theme.tertiary
@@ -34,8 +35,8 @@ T.TextField {
 
     BodyText {
         anchors.fill: parent
-        anchors.leftMargin: root.leftPadding
-        anchors.rightMargin: root.rightPadding
+        anchors.leftMargin: Theme.mirrored ? root.rightPadding : root.leftPadding
+        anchors.rightMargin: Theme.mirrored ? root.leftPadding : root.rightPadding
         verticalAlignment: Text.AlignVCenter
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText

@@ -13,6 +13,7 @@ Column {
     TitleText {
         width: root.width
         text: root.title
+        wrapMode: Text.WordWrap
     }
 
     SmallText {

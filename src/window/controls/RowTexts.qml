@@ -33,6 +33,8 @@ Column {
         width: root.width
         visible: root.note !== ""
         text: root.note
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
         color: root.noteInk
         Accessible.ignored: true
     }

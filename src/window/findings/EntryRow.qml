@@ -24,6 +24,7 @@ ListRow {
     signal previewRequested
     signal revealRequested
 
+    implicitHeight: texts.height + 16
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
     Accessible.name: Strings.spoken([root.name, root.size, root.rating.label, root.note, root.folder])
     Accessible.checkable: root.checkable
@@ -67,6 +68,8 @@ ListRow {
     }
 
     RowTexts {
+        id: texts
+
         anchors.left: picture.right
         anchors.leftMargin: Theme.spaceM
         anchors.right: actions.left
@@ -142,6 +145,8 @@ ListRow {
             visible: root.date !== ""
             horizontalAlignment: Text.AlignRight
             text: root.date
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             Accessible.ignored: true
         }
     }

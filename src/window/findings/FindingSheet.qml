@@ -96,7 +96,7 @@ Sheet {
             required property bool marked
 
             width: ListView.view.width
-            height: list.rowHeight
+            height: Math.max(list.rowHeight, implicitHeight)
             checkable: contents.header.cleanable
             checkState: marked ? Qt.Checked : Qt.Unchecked
             isCurrent: list.currentIndex === index && list.activeFocus

@@ -76,6 +76,8 @@ Card {
             HeadlineText {
                 width: parent.width
                 text: root.title
+                wrapMode: Text.WordWrap
+                maximumLineCount: 2
                 Accessible.ignored: true
             }
 

@@ -12,9 +12,12 @@ Grid {
     signal chosen(category: int)
 
     property int current: 0
-    readonly property real narrowest: 140 * Theme.textScale
+    /// Of what a cell holds.
+    property real widest: 0
+    readonly property real narrowest: Math.max(140 * Theme.textScale, root.widest)
     readonly property real roomForCells: root.room - (root.columns - 1) * root.columnSpacing
-    readonly property int cellWidth: Math.min(Math.floor(root.roomForCells / root.columns), Theme.grown(168))
+    readonly property int cellWidth: Math.min(Math.floor(root.roomForCells / root.columns),
+                                             Math.max(Theme.grown(168), Math.ceil(root.widest)))
 
     objectName: "storageLegend"
     columns: Math.max(1, Math.min(4, Math.floor((root.room + root.columnSpacing)
@@ -42,6 +45,7 @@ Grid {
             required property string size
             required property int category
             required property int index
+            readonly property real needed: 16 + name.implicitWidth + Theme.spaceS + amount.implicitWidth
 
             objectName: "legend-" + row.category
             width: root.cellWidth
@@ -52,6 +56,7 @@ Grid {
             text: Strings.spoken([row.label, row.size])
             Accessible.description: Strings.chooseCategory
             activeFocusOnTab: row.index === Math.min(root.current, rows.count - 1)
+            onNeededChanged: root.widest = Math.max(root.widest, row.needed)
             onClicked: root.chosen(row.category)
             onActiveFocusChanged: {
                 if (row.activeFocus)
@@ -80,6 +85,8 @@ Grid {
                 }
 
                 CaptionText {
+                    id: amount
+
                     anchors.left: name.right
                     anchors.leftMargin: Theme.spaceS
                     anchors.right: parent.right

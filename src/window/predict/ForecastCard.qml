@@ -49,6 +49,7 @@ ColumnCard {
 
         readonly property string span: Strings.freeSpaceChart(root.prediction.firstDate, root.prediction.lastDate,
                                                               root.prediction.freeText)
+        readonly property string outlook: Strings.spokenText(root.prediction.headline, root.prediction.detail)
 
         // Time goes from left to right.
         LayoutMirroring.enabled: false
@@ -61,7 +62,7 @@ ColumnCard {
         faint: Theme.dark ? Theme.stroke : Theme.inset
         Accessible.role: Accessible.Chart
         Accessible.name: root.prediction.enoughData
-                         ? Strings.spokenText(chart.span, Strings.spokenText(root.prediction.headline, root.prediction.detail))
+                         ? Strings.spokenText(chart.span, chart.outlook)
                          : Strings.spokenText(Strings.noForecast, root.prediction.detail)
 
         SmallText {

@@ -93,6 +93,7 @@ Sheet {
                 SmallText {
                     width: parent.width
                     text: Strings.facts([model.facts, model.kind === PreviewModel.Folder ? root.size : ""])
+                    wrapMode: Text.WordWrap
                     color: Theme.text
                     font.weight: Font.DemiBold
                 }
@@ -100,6 +101,7 @@ Sheet {
                 CaptionText {
                     width: parent.width
                     text: model.dates
+                    wrapMode: Text.WordWrap
                 }
             }
 

@@ -46,7 +46,11 @@ Item {
         }
     }
 
+    implicitHeight: entry.implicitHeight
+
     Loader {
+        id: entry
+
         anchors.fill: parent
         active: !root.heading
         sourceComponent: EntryRow {

@@ -101,7 +101,7 @@ Sheet {
             id: row
 
             width: ListView.view.width
-            height: heading ? Theme.grown(50) : list.rowHeight
+            height: heading ? Theme.grown(50) : Math.max(list.rowHeight, implicitHeight)
             isCurrent: list.currentIndex === index && list.activeFocus
             ringed: isCurrent && list.showsFocus
             onPressed: list.takeFocus(row.index)

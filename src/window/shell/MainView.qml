@@ -12,6 +12,7 @@ Item {
     Sidebar {
         id: sidebar
 
+        objectName: "sidebar"
         anchors.left: parent.left
         width: Theme.sidebarWidth
         height: parent.height

@@ -13,7 +13,7 @@ T.ItemDelegate {
     property bool isCurrent: false
     property bool ringed: false
 
-    implicitHeight: Theme.widened(38)
+    implicitHeight: Math.max(Theme.widened(38), label.height + 16)
     hoverEnabled: true
     highlighted: root.isCurrent
     text: root.title
@@ -32,12 +32,16 @@ T.ItemDelegate {
         }
 
         BodyText {
+            id: label
+
             anchors.left: badge.right
             anchors.leftMargin: Theme.spaceS
             anchors.right: parent.right
             anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             color: root.isCurrent ? Theme.text : Theme.secondary
             font.weight: root.isCurrent ? Font.DemiBold : Font.Medium
         }

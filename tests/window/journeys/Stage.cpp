@@ -1,5 +1,6 @@
 #include "journeys/Stage.h"
 
+#include "journeys/ShownTexts.h"
 #include "support/TestBmp.h"
 #include "window/AppsOnDisk.h"
 #include "window/shell/Appearance.h"
@@ -8,9 +9,11 @@
 
 #include <QAccessible>
 #include <QBuffer>
+#include <QDirIterator>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QMimeDatabase>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QSettings>
@@ -252,6 +255,39 @@ QStringList Stage::nameless(QObject* window) const
         return false;
     });
     return found;
+}
+
+/// What comes from the disk and from other programs, not from the catalogue.
+QStringList Stage::names() const
+{
+    QStringList names{"Orlen",      "AppImage", "Flatpak", "Snap", "Sketcher", "org.example.Sketcher",
+                      "Quick Notes"};
+    QDirIterator files(QString::fromStdString(m_home->outside("")),
+                       QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    const QMimeDatabase types;
+    const auto addType = [&](const QMimeType& type) {
+        QString words = type.comment();
+        names << words.replace(0, 1, words.left(1).toUpper());
+    };
+    addType(types.mimeTypeForName("inode/directory"));
+    while (files.hasNext()) {
+        files.next();
+        names << files.fileName();
+        addType(types.mimeTypeForFile(files.fileName(), QMimeDatabase::MatchExtension));
+    }
+    names.removeDuplicates();
+    names.removeAll(QString());
+    return names;
+}
+
+QStringList Stage::notLookedUp(QObject* window) const
+{
+    return ShownTexts::notLookedUp(*rootOf(window), names());
+}
+
+QStringList Stage::cut(QObject* window) const
+{
+    return ShownTexts::cut(*rootOf(window));
 }
 
 } // namespace orlen

@@ -48,6 +48,11 @@ public:
     /// What can be seen in the window and used, but has no name for a screen reader; a line for each.
     Q_INVOKABLE [[nodiscard]] QStringList nameless(QObject* window) const;
 
+    /// What can be seen in the window and was not looked up, or is cut off, in the language of the test
+    /// catalogue; a line for each.
+    Q_INVOKABLE [[nodiscard]] QStringList notLookedUp(QObject* window) const;
+    Q_INVOKABLE [[nodiscard]] QStringList cut(QObject* window) const;
+
     // What the test program calls at its stages.
     Q_INVOKABLE void applicationAvailable();
     Q_INVOKABLE void qmlEngineAvailable(QQmlEngine* engine);
@@ -55,6 +60,7 @@ public:
 
 private:
     void fillHome() const;
+    [[nodiscard]] QStringList names() const;
 
     std::optional<TempHome> m_home;
     std::unique_ptr<AppModel> m_model;
