@@ -112,10 +112,12 @@ ListRow {
         anchors.right: figures.left
         anchors.rightMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
-        width: Theme.grown(82)
+        width: Math.max(Theme.grown(82), mark.width)
         height: 22
 
         RatingChip {
+            id: mark
+
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             rating: root.rating
