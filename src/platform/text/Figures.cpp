@@ -50,26 +50,37 @@ std::array<LocalizedNumberFormatter, 5> byteFormats(const icu::Locale& locale)
             withUnit(locale, MeasureUnit::getTerabyte(), kShort)};
 }
 
-/// ICU's own date formats may be used by one thread at a time.
+/// A format of dates, which is made when it is first used: that takes a millisecond. ICU's own may be used by
+/// one thread at a time.
 class DateFormat {
 public:
-    DateFormat() = default;
-    explicit DateFormat(icu::DateFormat* format) : m_format(format) {}
+    using Make = icu::DateFormat* (*)(const icu::Locale& locale);
+
+    DateFormat(icu::Locale locale, Make make) : m_locale(std::move(locale)), m_make(make) {}
 
     [[nodiscard]] std::string text(TimePoint time) const
     {
+        const std::chrono::duration<double, std::milli> sinceEpoch = time.time_since_epoch();
+        const std::lock_guard lock(m_mutex);
+        if (!m_format)
+            m_format.reset(m_make(m_locale));
         if (!m_format)
             return isoText(time);
-        const std::chrono::duration<double, std::milli> sinceEpoch = time.time_since_epoch();
         icu::UnicodeString text;
-        const std::lock_guard lock(m_mutex);
         return utf8(m_format->format(sinceEpoch.count(), text));
     }
 
 private:
+    icu::Locale m_locale;
+    Make m_make;
     mutable std::mutex m_mutex;
-    std::unique_ptr<icu::DateFormat> m_format;
+    mutable std::unique_ptr<icu::DateFormat> m_format;
 };
+
+icu::DateFormat* dateFormat(const icu::Locale& locale)
+{
+    return icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale);
+}
 
 icu::DateFormat* longDateFormat(const icu::Locale& locale)
 {
@@ -77,11 +88,16 @@ icu::DateFormat* longDateFormat(const icu::Locale& locale)
     return icu::DateFormat::createInstanceForSkeleton("yMMMd", locale, status);
 }
 
+icu::DateFormat* dateAndTimeFormat(const icu::Locale& locale)
+{
+    return icu::DateFormat::createDateTimeInstance(icu::DateFormat::kShort, icu::DateFormat::kShort, locale);
+}
+
 /// The number alone: the words around it are the message's.
-DateFormat yearFormat(const icu::Locale& locale)
+icu::DateFormat* yearFormat(const icu::Locale& locale)
 {
     UErrorCode status = U_ZERO_ERROR;
-    return DateFormat(new icu::SimpleDateFormat(icu::UnicodeString(u"y"), locale, status));
+    return new icu::SimpleDateFormat(icu::UnicodeString(u"y"), locale, status);
 }
 
 /// "1 March 2025", in UTC.
@@ -108,10 +124,8 @@ struct Figures::Formats {
           milliseconds(withUnit(locale, icu::MeasureUnit::getMillisecond(), UNUM_UNIT_WIDTH_SHORT)),
           seconds(withUnit(locale, icu::MeasureUnit::getSecond(), UNUM_UNIT_WIDTH_SHORT)),
           minutes(withUnit(locale, icu::MeasureUnit::getMinute(), UNUM_UNIT_WIDTH_SHORT)),
-          date(icu::DateFormat::createDateInstance(icu::DateFormat::kShort, locale)),
-          longDate(longDateFormat(locale)), dateAndTime(icu::DateFormat::createDateTimeInstance(
-                                                icu::DateFormat::kShort, icu::DateFormat::kShort, locale)),
-          year(yearFormat(locale))
+          date(locale, dateFormat), longDate(locale, longDateFormat), dateAndTime(locale, dateAndTimeFormat),
+          year(locale, yearFormat)
     {
         UErrorCode status = U_ZERO_ERROR;
         list.reset(icu::ListFormatter::createInstance(locale, status));
