@@ -56,7 +56,8 @@ Pressable {
                     anchors.left: parent.left
                     width: Math.min(implicitWidth, parent.width)
                     text: root.name
-                    elide: Text.ElideMiddle
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 3
                     font.weight: Font.Medium
                     Accessible.ignored: true
                 }
@@ -78,7 +79,7 @@ Pressable {
                 visible: text !== ""
                 text: root.items
                 wrapMode: Text.WordWrap
-                maximumLineCount: 2
+                maximumLineCount: 4
                 color: Theme.secondary
                 Accessible.ignored: true
             }

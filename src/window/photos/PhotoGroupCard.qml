@@ -71,6 +71,7 @@ Card {
             RatedTitle {
                 width: parent.width
                 title: root.title
+                lines: 4
                 size: Theme.headlineSize
                 weight: Font.DemiBold
                 rating: root.rating
@@ -79,6 +80,7 @@ Card {
             SmallText {
                 width: parent.width
                 text: Strings.facts([root.summary, root.selection])
+                wrapMode: Text.WordWrap
             }
         }
 
