@@ -1,4 +1,5 @@
 #include "cli/CommandLine.h"
+#include "model/Words.h"
 #include "window/shell/Window.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,7 @@ int runCommand(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    orlen::Words::useInstalled();
     // Without a display the command line says so.
     if (argc == 1 && orlen::Window::canOpen())
         return orlen::Window::run(argc, argv);

@@ -68,4 +68,13 @@ inline constexpr Text kUnreadableFolders =
 /// The title of a clean-up in the history, which keeps it in English. One that no plan has is taken as it is.
 [[nodiscard]] Message titleOf(const std::string& kept);
 
+// What the command line and the window both say.
+inline constexpr Text kSafelyFree = message("You can safely free {size}");
+inline constexpr Text kNothingSafe = message("Nothing is rated Safe right now");
+inline constexpr Text kOnOtherDisk = message("It is on another disk than your home folder.");
+inline constexpr Text kRestoredCount = messages("{count} restored", "{count} restored");
+// TRANSLATORS: {id} is an identifier such as org.example.App.
+inline constexpr Text kLeftoversByIdentifier = message("Leftovers found by bundle identifier ({id})");
+inline constexpr Text kLeftoversByName = message("Leftovers found by name");
+
 } // namespace orlen::AppTexts

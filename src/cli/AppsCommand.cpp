@@ -1,16 +1,19 @@
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
+#include "tools/ToolsTexts.h"
 #include "tools/apps/AppList.h"
 
 #include <nlohmann/json.hpp>
+
+#include <iterator>
 
 namespace orlen {
 
@@ -28,21 +31,21 @@ std::vector<AppInfo> measuredApps(const std::stop_token& stop)
 }
 
 /// In a word or two.
-std::string_view kindOf(AppSource source)
+Message kindOf(AppSource source)
 {
     switch (source) {
     case AppSource::bundle:
-        return "App bundle";
+        return CliTexts::kAppBundle;
     case AppSource::appImage:
-        return "AppImage";
+        return Message::verbatim("AppImage");
     case AppSource::folder:
-        return "Folder";
+        return CliTexts::kAppFolder;
     case AppSource::flatpak:
-        return "Flatpak";
+        return Message::verbatim("Flatpak");
     case AppSource::snap:
-        return "Snap";
+        return Message::verbatim("Snap");
     case AppSource::removedFlatpak:
-        return "App data";
+        return ToolsTexts::kAppData;
     }
     return {};
 }
@@ -50,34 +53,37 @@ std::string_view kindOf(AppSource source)
 void printApps(const std::vector<AppInfo>& apps)
 {
     if (apps.empty()) {
-        Session::print(std::string(Texts::kNoApps) + '\n');
+        Session::print(CliTexts::kNoApps);
         return;
     }
     using Kind = Table::Kind;
-    Table table({{"Name", Kind::text}, {"Size", Kind::number}, {"Source", Kind::text}, {"Path", Kind::path}});
+    Table table({{shown(CliTexts::kNameHeading), Kind::text},
+                 {shown(CliTexts::kSizeHeading), Kind::number},
+                 {shown(CliTexts::kSourceHeading), Kind::text},
+                 {shown(CliTexts::kPathHeading), Kind::path}});
     std::int64_t total = 0;
     for (const AppInfo& app : apps) {
         total = checkedAdd(total, app.size.value_or(0));
         table.addRow({{PathText::forDisplay(app.name), Style::bold},
-                      {byteCount(app.size.value_or(0))},
-                      {std::string(kindOf(app.source)), Style::dim},
+                      {Words::figures().bytes(app.size.value_or(0))},
+                      {shown(kindOf(app.source)), Style::dim},
                       {Format::shownPath(app.path)}});
     }
     const Colours colours = Session::colours();
-    const std::string heading =
-        Format::counted(static_cast<std::int64_t>(apps.size()), "application") + ", " + byteCount(total);
-    Session::print(colours.styled(Style::bold, heading) + "\n\n" + table.text(colours, Session::width()));
+    const Message heading{CliTexts::kApps, {{"count", std::ssize(apps)}, {"size", Bytes{total}}}};
+    Session::print(colours.styled(Style::bold, shown(heading)) + "\n\n" +
+                   table.text(colours, Session::width()));
 }
 
 class AppsCommand final : public Command {
 public:
-    AppsCommand() : Command({"apps", "Show the installed applications with their sizes"}) {}
+    AppsCommand() : Command({"apps", CliTexts::kAppsSummary}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
         const auto apps = Background::resultUnlessCancelled(
-            session, [] { return std::string(Texts::kMeasuringApps); }, measuredApps);
+            session, [] { return CliTexts::kMeasuringApps; }, measuredApps);
         if (!apps)
             return session.cancelled();
         if (wantsJson())

@@ -1,8 +1,10 @@
 #include "app/AppModel.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/SmartScan.h"
 #include "insight/AskEngine.h"
+#include "model/Words.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
@@ -13,25 +15,25 @@ namespace {
 
 std::string suggestions()
 {
-    std::string text = "Questions to begin with:";
-    for (const std::string_view question : AskEngine::kSuggestions)
-        text.append("\n  ").append(question);
+    std::string text = shown(CliTexts::kQuestionsToBegin);
+    for (const Text& question : AskEngine::kSuggestions)
+        text.append("\n  ").append(shown(question));
     return text;
 }
 
 void printAnswer(const Answer& answer)
 {
-    const std::string introduction(AskEngine::introduction());
-    Session::print(answer.text + "\n\n" + Session::colours().styled(Style::dim, introduction) + '\n');
+    const std::string introduction = shown(AskEngine::introduction());
+    Session::print(shown(answer.text) + "\n\n" + Session::colours().styled(Style::dim, introduction) + '\n');
 }
 
 class AskCommand final : public Command {
 public:
-    AskCommand() : Command({"ask", "Run a Smart Scan and answer a question about the storage"}) {}
+    AskCommand() : Command({"ask", CliTexts::kAskSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        app.add_option("question", m_question, "The question, in quotation marks")
+        app.add_option("question", m_question, shown(CliTexts::kQuestionHelp))
             ->type_name("QUESTION")
             ->required();
         SmartScan::addThresholdOption(app, m_thresholdMB);

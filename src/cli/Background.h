@@ -8,7 +8,6 @@
 #include <functional>
 #include <optional>
 #include <stop_token>
-#include <string>
 #include <utility>
 
 /// Work done on a worker while the event loop runs, so that Ctrl-C is noticed. Main thread.
@@ -16,7 +15,7 @@ namespace orlen::Background {
 
 /// Runs `work(stop)`, shows `status()` meanwhile and returns the result. Ctrl-C requests the stop.
 template <typename Work>
-[[nodiscard]] auto result(Session& session, std::function<std::string()> status, Work work,
+[[nodiscard]] auto result(Session& session, std::function<Message()> status, Work work,
                           Session::Work::Nature nature = Session::Work::Nature::harmless)
 {
     std::optional<decltype(work(std::stop_token()))> result;
@@ -30,7 +29,7 @@ template <typename Work>
 
 /// The same, except that it returns nothing if Ctrl-C was pressed.
 template <typename Work>
-[[nodiscard]] auto resultUnlessCancelled(Session& session, std::function<std::string()> status, Work work)
+[[nodiscard]] auto resultUnlessCancelled(Session& session, std::function<Message()> status, Work work)
 {
     std::optional found(result(session, std::move(status), std::move(work)));
     if (session.isInterrupted())

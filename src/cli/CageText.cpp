@@ -1,46 +1,58 @@
 #include "cli/CageText.h"
 
-#include <string_view>
+#include "cli/CliTexts.h"
+#include "model/Words.h"
 
-namespace orlen::Texts {
+namespace orlen::CageText {
 
 namespace {
 
 struct Line {
     CageReport::Wall wall;
-    std::string_view holds;
-    std::string_view doesNot;
+    Text holds;
+    Text doesNot;
 };
 using Wall = CageReport::Wall;
 
+/// All but the wall around files, which names what it is made of.
 constexpr Line kLines[] = {
-    {Wall::files, "Files: none can be opened", "Files: not closed on this system"},
-    {Wall::calls, "System calls: only those that decoding needs", "System calls: not limited on this system"},
-    {Wall::network, "Network: none", "Network: not closed on this system"},
-    {Wall::processes, "New processes: none", "New processes: not prevented on this system"},
-    {Wall::others, "Other processes: out of reach", "Other processes: not out of reach on this system"},
-    {Wall::code, "New code in memory: none", "New code in memory: not prevented on this system"},
-    {Wall::environment, "Environment: empty", "Environment: not empty"},
-    {Wall::memory, "Its memory: never looked into or saved", "Its memory: not closed on this system"},
+    {Wall::calls, message("System calls: only those that decoding needs"),
+     message("System calls: not limited on this system")},
+    {Wall::network, message("Network: none"), message("Network: not closed on this system")},
+    {Wall::processes, message("New processes: none"), message("New processes: not prevented on this system")},
+    {Wall::others, message("Other processes: out of reach"),
+     message("Other processes: not out of reach on this system")},
+    {Wall::code, message("New code in memory: none"),
+     message("New code in memory: not prevented on this system")},
+    {Wall::environment, message("Environment: empty"), message("Environment: not empty")},
+    {Wall::memory, message("Its memory: never looked into or saved"),
+     message("Its memory: not closed on this system")},
 };
+
+Message files(const CageReport& report)
+{
+    const bool holds = report.holds(Wall::files);
+    if (report.landlock == 0)
+        return holds ? CliTexts::kFilesClosed : CliTexts::kFilesOpen;
+    return {holds ? CliTexts::kFilesClosedByLandlock : CliTexts::kFilesOpenDespiteLandlock,
+            {{"version", report.landlock}}};
+}
+
+std::string indented(const Message& line)
+{
+    return "  " + shown(line) + '\n';
+}
 
 } // namespace
 
-std::string cage(const std::optional<CageReport>& report)
+std::string of(const std::optional<CageReport>& report)
 {
     if (!report)
-        return "Recognizer: it could not be asked, so no picture is looked at.\n";
-    std::string text = "Recognizer, the process that reads pictures:\n";
-    for (const Line& line : kLines) {
-        const bool holds = report->holds(line.wall);
-        text += "  ";
-        text += holds ? line.holds : line.doesNot;
-        if (line.wall == Wall::files)
-            text += report->landlock > 0 ? " (Landlock " + std::to_string(report->landlock) + ')'
-                                         : " (no Landlock)";
-        text += '\n';
-    }
+        return shown(CliTexts::kRecognizerSilent) + '\n';
+    std::string text = shown(CliTexts::kRecognizer) + '\n' + indented(files(*report));
+    for (const Line& line : kLines)
+        text += indented(report->holds(line.wall) ? line.holds : line.doesNot);
     return text;
 }
 
-} // namespace orlen::Texts
+} // namespace orlen::CageText

@@ -5,9 +5,10 @@
 #include <optional>
 #include <string>
 
-namespace orlen::Texts {
+namespace orlen::CageText {
 
-/// The walls around the recognizer, one per line. No report means that it could not be asked.
-[[nodiscard]] std::string cage(const std::optional<CageReport>& report);
+/// The walls around the recognizer as the person reads them, one per line. No report means that it could not
+/// be asked.
+[[nodiscard]] std::string of(const std::optional<CageReport>& report);
 
-} // namespace orlen::Texts
+} // namespace orlen::CageText

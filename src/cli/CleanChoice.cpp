@@ -2,8 +2,8 @@
 
 #include "app/Format.h"
 #include "clean/Safety.h"
+#include "cli/CliTexts.h"
 #include "cli/PathArgument.h"
-#include "cli/Texts.h"
 #include "model/PathSelection.h"
 
 #include <algorithm>
@@ -27,17 +27,18 @@ Standing standing(const std::vector<Finding>& findings, const std::string& path)
     return best;
 }
 
-std::string objection(Standing standing, const std::string& argument, const std::string& path)
+Message objection(Standing standing, const std::string& argument, const std::string& path)
 {
+    const Place given{"path", Format::quoted(argument)};
     switch (standing) {
     case Standing::unknown:
-        return Format::quoted(argument) + " is not an entry of the scan.";
+        return {CliTexts::kNoEntry, {given}};
     case Standing::fixed:
-        return Format::quoted(argument) + ": " + std::string(Texts::kTrashIsKept);
+        return {CliTexts::kPathAndReason, {given, {"reason", within(CliTexts::kTrashIsKept)}}};
     case Standing::movable:
         break;
     }
-    return Safety::isProtected(path) ? Format::quoted(argument) + " is protected and stays where it is." : "";
+    return Safety::isProtected(path) ? Message{CliTexts::kProtectedStays, {given}} : Message();
 }
 
 } // namespace
@@ -78,8 +79,8 @@ CleanChoice::Result CleanChoice::exactPaths(const std::vector<Finding>& findings
     for (const std::string& argument : paths) {
         const std::string path = PathArgument::absolute(argument);
         if (exclusions.excludes(path) != nullptr)
-            return {{}, Format::quoted(argument).append(Texts::kExcludedStays)};
-        std::string problem = objection(standing(findings, path), argument, path);
+            return {{}, {CliTexts::kExcludedStays, {{"path", Format::quoted(argument)}}}};
+        Message problem = objection(standing(findings, path), argument, path);
         if (!problem.empty())
             return {{}, std::move(problem)};
         result.paths.insert(path);

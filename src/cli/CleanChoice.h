@@ -3,6 +3,7 @@
 #include "clean/Exclusions.h"
 #include "model/CleanPlan.h"
 #include "model/Finding.h"
+#include "model/Message.h"
 
 #include <set>
 #include <string>
@@ -18,7 +19,7 @@ struct CleanChoice {
 
     struct Result {
         std::set<std::string> paths;
-        std::string objection; ///< what is wrong with the choice; if set, nothing may move
+        Message objection; ///< what is wrong with the choice; if set, nothing may move
     };
     /// Applies the choice to the findings and to what the scan pre-selected. The findings are already without
     /// what `exclusions` lists.

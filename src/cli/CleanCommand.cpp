@@ -1,10 +1,11 @@
 #include "app/AppModel.h"
 #include "app/Format.h"
 #include "cli/CleanChoice.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/PlanCarrier.h"
 #include "cli/SmartScan.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 
 #include <CLI/CLI.hpp>
 
@@ -16,29 +17,23 @@ std::string checkedKind(const std::string& raw)
 {
     const auto kind = kindFromRaw(raw);
     if (!kind)
-        return "there is no kind " + Format::quoted(raw);
-    return Finding(*kind, {}).cleanable ? std::string() : std::string(Texts::kTrashIsKept);
+        return shown(Message{CliTexts::kNoKind, {{"word", Format::quoted(raw)}}});
+    return Finding(*kind, {}).cleanable ? std::string() : shown(CliTexts::kTrashIsKept);
 }
 
 class CleanCommand final : public Command {
 public:
-    CleanCommand()
-        : Command({"clean", "Run a Smart Scan, show what is selected, and move it to the Trash after a yes"})
-    {
-    }
+    CleanCommand() : Command({"clean", CliTexts::kCleanSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
         SmartScan::addThresholdOption(app, m_thresholdMB);
-        auto* kind =
-            app.add_option("--kind", m_choice.kinds, "Of the selected entries only those of this kind")
-                ->type_name("KIND")
-                ->allow_extra_args(false)
-                ->check(checkedKind);
-        auto* all =
-            app.add_flag("--all", m_choice.allOfKinds, "Every entry of these kinds except those rated Keep")
-                ->needs(kind);
-        app.add_option("--path", m_choice.paths, "Exactly this entry of the scan, whatever its rating")
+        auto* kind = app.add_option("--kind", m_choice.kinds, shown(CliTexts::kKindHelp))
+                         ->type_name("KIND")
+                         ->allow_extra_args(false)
+                         ->check(checkedKind);
+        auto* all = app.add_flag("--all", m_choice.allOfKinds, shown(CliTexts::kAllHelp))->needs(kind);
+        app.add_option("--path", m_choice.paths, shown(CliTexts::kEntryHelp))
             ->type_name("PATH")
             ->allow_extra_args(false)
             ->excludes(kind)
@@ -50,7 +45,7 @@ public:
     {
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
         if (!m_carrier.isReady(model))
-            return session.refuse(Texts::kOtherWriter);
+            return session.refuse(CliTexts::kOtherWriter);
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
         CleanChoice::Result chosen = m_choice.apply(model.results()->findings(), model.results()->selection(),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Session.h"
+#include "model/Text.h"
 
 #include <memory>
 #include <vector>
@@ -16,7 +17,7 @@ class Command {
 public:
     struct Description {
         const char* name;
-        const char* summary;
+        Text summary;
     };
     explicit Command(Description description) : m_description(description) {}
     Command(const Command&) = delete;

@@ -3,8 +3,10 @@
 #include "app/AppTexts.h"
 #include "app/Format.h"
 #include "cli/CageText.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
-#include "cli/Texts.h"
+#include "cli/HelpFormatter.h"
+#include "model/Words.h"
 #include "platform/files/Places.h"
 #include "platform/files/Reachability.h"
 #include "platform/images/ImageWorkers.h"
@@ -22,7 +24,6 @@ namespace orlen::CommandLine {
 
 namespace {
 
-const std::string kVerboseHelp = "With --version: print what keeps the recognizer of pictures in";
 const std::string kVersion = std::string("orlen ") + ORLEN_VERSION;
 
 struct Registered {
@@ -44,8 +45,8 @@ std::vector<std::unique_ptr<Command>> allCommands()
 
 void addCommonOptions(CLI::App& parser)
 {
-    parser.set_help_flag("-h,--help", "Print this help and exit");
-    parser.set_version_flag("--version", kVersion, "Print the version and exit");
+    parser.set_help_flag("-h,--help", shown(CliTexts::kPrintHelp));
+    parser.set_version_flag("--version", kVersion, shown(CliTexts::kPrintVersion));
 }
 
 std::vector<Registered> registerCommands(CLI::App& parser)
@@ -53,9 +54,9 @@ std::vector<Registered> registerCommands(CLI::App& parser)
     std::vector<Registered> registered;
     for (std::unique_ptr<Command>& command : allCommands()) {
         const auto [name, summary] = command->description();
-        CLI::App* own = parser.add_subcommand(name, summary);
+        CLI::App* own = parser.add_subcommand(name, shown(summary))->group(shown(CliTexts::kSubcommands));
         addCommonOptions(*own);
-        own->add_flag("--json", command->wantsJson(), "Print one JSON document and nothing else");
+        own->add_flag("--json", command->wantsJson(), shown(CliTexts::kPrintJson));
         command->addOptions(*own);
         registered.push_back({std::move(command), own});
     }
@@ -66,10 +67,10 @@ ExitStatus wrongCall(Session& session, const CLI::App& parser, const CLI::ParseE
 {
     const std::vector<std::string> unknown = parser.remaining();
     if (parser.get_subcommands().empty() && !unknown.empty())
-        session.complain("there is no command or option " + Format::quoted(unknown.front()) + '.');
+        session.complain({CliTexts::kNoSuchWord, {{"word", Format::quoted(unknown.front())}}});
     else
-        session.complain(PathText::forDisplay(error.what()));
-    session.note("Try `orlen --help`.\n");
+        session.complain(Message::verbatim(PathText::forDisplay(error.what())));
+    session.note(shown(CliTexts::kTryHelp) + '\n');
     return ExitStatus::wrongCall;
 }
 
@@ -77,8 +78,8 @@ void tellOfSilence(Session& session)
 {
     for (const Reachability::LeftOut& mount : Reachability::leftOut()) {
         if (mount.reason == Reachability::LeftOut::Reason::silent)
-            session.complain(
-                Format::shownPath(Places::current().normalized(mount.point)).append(Texts::kIsSilent));
+            session.complain({CliTexts::kSilentMount,
+                              {{"path", Format::shownPath(Places::current().normalized(mount.point))}}});
     }
 }
 
@@ -93,7 +94,7 @@ ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vecto
         tellOfSilence(session);
         return status;
     }
-    session.complain(Texts::kNoWindow);
+    session.complain(CliTexts::kNoWindow);
     session.note('\n' + parser.help());
     return ExitStatus::wrongCall;
 }
@@ -102,12 +103,14 @@ ExitStatus runCommand(Session& session, const CLI::App& parser, const std::vecto
 
 int run(int argc, char** argv)
 {
-    CLI::App parser{std::string(Texts::kDescription), "orlen"};
+    CLI::App parser{shown(CliTexts::kDescription), "orlen"};
+    parser.formatter(std::make_shared<HelpFormatter>()); // before the commands, which inherit it
     addCommonOptions(parser);
+    const std::string verboseHelp = shown(CliTexts::kVerboseHelp);
     const CLI::Option* const verbose =
-        parser.add_flag("--verbose", kVerboseHelp)->needs(parser.get_version_ptr());
+        parser.add_flag("--verbose", verboseHelp)->needs(parser.get_version_ptr());
     parser.require_subcommand(0, 1);
-    parser.footer(std::string(Texts::kWithoutCommand));
+    parser.footer(shown(CliTexts::kWithoutCommand));
     const std::vector<Registered> commands = registerCommands(parser);
     Session session;
     try {
@@ -115,7 +118,7 @@ int run(int argc, char** argv)
     } catch (const CLI::CallForVersion& version) {
         const int status = parser.exit(version);
         if (verbose->count() > 0)
-            Session::print(Texts::cage(CageReport::ask(ImageWorkers::recognizer())));
+            Session::print(CageText::of(CageReport::ask(ImageWorkers::recognizer())));
         return status;
     } catch (const CLI::Success& success) {
         return parser.exit(success); // help

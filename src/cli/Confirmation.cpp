@@ -1,31 +1,49 @@
 #include "cli/Confirmation.h"
 
-#include "cli/Texts.h"
+#include "cli/CliTexts.h"
+#include "model/Words.h"
 #include "platform/process/Terminal.h"
-#include "platform/text/PathText.h"
+#include "platform/text/LanguageTools.h"
 
+#include <sstream>
 #include <string>
 
 namespace orlen::Confirmation {
 
-std::optional<ExitStatus> refusal(Session& session, Asking asking, std::string_view question)
+namespace {
+
+bool isYes(const std::string& line)
+{
+    const std::string answer = LanguageTools::lowerCase(line);
+    if (answer == "y" || answer == "yes")
+        return true;
+    std::istringstream words(shown(CliTexts::kYesWords));
+    for (std::string word; words >> word;) {
+        if (answer == LanguageTools::lowerCase(word))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+std::optional<ExitStatus> refusal(Session& session, Asking asking, const Message& question)
 {
     if (session.isInterrupted())
         return session.cancelled();
     if (asking == Asking::unneeded)
         return std::nullopt;
     if (!Terminal::isTerminal(Terminal::Stream::input))
-        return session.refuse(Texts::kNoTerminal);
-    session.note(std::string(question).append(" [y/N] "));
+        return session.refuse(CliTexts::kNoTerminal);
+    session.note(shown(question) + ' ' + shown(CliTexts::kYesOrNo) + ' ');
     const auto line = Terminal::readLine(session.interruptDescriptor());
     if (!line)
         session.note("\n");
     if (session.isInterrupted())
         return session.cancelled();
-    const std::string answer = PathText::asciiLower(line.value_or(""));
-    if (answer == "y" || answer == "yes")
+    if (isYes(line.value_or("")))
         return std::nullopt;
-    return session.refuse(Texts::kRefused);
+    return session.refuse(CliTexts::kRefused);
 }
 
 } // namespace orlen::Confirmation

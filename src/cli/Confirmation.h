@@ -3,7 +3,6 @@
 #include "cli/Session.h"
 
 #include <optional>
-#include <string_view>
 
 /// Asks before anything moves.
 namespace orlen::Confirmation {
@@ -13,8 +12,8 @@ enum class Asking {
     unneeded, ///< --yes was given
 };
 
-/// Asks on the terminal; anything but yes means no, and so does having no terminal. Returns nothing on yes,
-/// otherwise the exit status, with the reason already printed.
-[[nodiscard]] std::optional<ExitStatus> refusal(Session& session, Asking asking, std::string_view question);
+/// Asks on the terminal; anything but yes, in English or in the person's language, means no, and so does
+/// having no terminal. Returns nothing on yes, otherwise the exit status, with the reason already printed.
+[[nodiscard]] std::optional<ExitStatus> refusal(Session& session, Asking asking, const Message& question);
 
 } // namespace orlen::Confirmation

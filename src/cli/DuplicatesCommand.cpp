@@ -1,15 +1,16 @@
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
 #include "model/Rater.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "scan/ScanProgress.h"
 #include "scan/duplicates/Duplicates.h"
 #include "scan/walk/Walk.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orlen {
 
@@ -54,31 +55,33 @@ void printSets(const Search& found, const Finding& finding)
 {
     const Colours colours = Session::colours();
     if (found.result.sets.empty()) {
-        Session::print(std::string(Texts::kNoDuplicates) + '\n');
+        Session::print(CliTexts::kNoDuplicates);
         return;
     }
-    Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"File", Table::Kind::path}});
+    Table table({{shown(CliTexts::kSizeHeading), Table::Kind::number},
+                 {"", Table::Kind::text},
+                 {shown(CliTexts::kFileHeading), Table::Kind::path}});
     for (const Duplicates::Set& set : found.result.sets) {
         table.addGap();
-        table.addRow({{byteCount(set.kept.size)}, {"keeps", Style::dim}, {Format::shownPath(set.kept.path)}});
+        table.addRow({{Words::figures().bytes(set.kept.size)},
+                      {shown(CliTexts::kKeeps), Style::dim},
+                      {Format::shownPath(set.kept.path)}});
         for (const Duplicates::Copy& copy : set.copies)
-            table.addRow({{}, {"copy", Style::orange}, {Format::shownPath(copy.file.path)}});
+            table.addRow({{}, {shown(CliTexts::kCopy), Style::orange}, {Format::shownPath(copy.file.path)}});
     }
-    const auto copies = static_cast<std::int64_t>(finding.items.size());
-    Session::print(
-        colours.styled(Style::bold, Format::counted(copies, "copy") + ", " + byteCount(finding.totalSize())) +
-        '\n' +
-        colours.styled(Style::dim, Format::counted(found.result.filesConsidered, "file") + " compared in " +
-                                       Format::duration(found.duration.count())) +
-        "\n\n" + table.text(colours, Session::width()));
+    const Message copies{CliTexts::kCopies,
+                         {{"count", std::ssize(finding.items)}, {"size", Bytes{finding.totalSize()}}}};
+    const Message compared{CliTexts::kComparedIn,
+                           {{"count", found.result.filesConsidered}, {"time", found.duration}}};
+    Session::print(colours.styled(Style::bold, shown(copies)) + '\n' +
+                   colours.styled(Style::dim, shown(compared)) + "\n\n" +
+                   table.text(colours, Session::width()));
 }
 
 class DuplicatesCommand final : public FolderCommand<Search> {
 public:
     DuplicatesCommand()
-        : FolderCommand(
-              {"duplicates", "Find files with the same content below folders, or in the home folder"},
-              "Folders to look into; the home folder when there are none")
+        : FolderCommand({"duplicates", CliTexts::kDuplicatesSummary}, CliTexts::kDuplicateFoldersHelp)
     {
     }
 

@@ -1,10 +1,11 @@
 #include "app/AppModel.h"
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/PathArgument.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 #include "platform/files/FileStatus.h"
 #include "platform/text/PathText.h"
 
@@ -27,31 +28,32 @@ bool isPath(const Exclusion& exclusion)
     return exclusion.kind == Exclusion::Kind::path;
 }
 
-std::string shown(const Exclusion& exclusion)
+/// The place of a sentence that names a path or a name.
+Place what(const Exclusion& exclusion)
 {
-    return isPath(exclusion) ? Format::shownPath(exclusion.text) : Format::quoted(exclusion.text);
+    return {"what", isPath(exclusion) ? Format::shownPath(exclusion.text) : Format::quoted(exclusion.text)};
 }
 
 void printLines(const Lines& lines)
 {
     const Colours colours = Session::colours();
-    Table table({{"", Table::Kind::text}, {"Excluded", Table::Kind::path}});
+    Table table({{"", Table::Kind::text}, {shown(CliTexts::kExcludedHeading), Table::Kind::path}});
     for (const Exclusion& line : lines)
-        table.addRow({{isPath(line) ? "Path" : "Name", Style::dim},
+        table.addRow({{shown(isPath(line) ? CliTexts::kPath : CliTexts::kName), Style::dim},
                       {isPath(line) ? Format::shownPath(line.text) : PathText::forDisplay(line.text)}});
-    Session::print((lines.empty() ? std::string(Texts::kNothingExcluded) + "\n"
-                                  : table.text(colours, Session::width())) +
-                   '\n' + colours.styled(Style::dim, Texts::kHowToExclude) + '\n');
+    Session::print(
+        (lines.empty() ? shown(CliTexts::kNothingExcluded) + '\n' : table.text(colours, Session::width())) +
+        '\n' + colours.styled(Style::dim, shown(CliTexts::kHowToExclude)) + '\n');
 }
 
 class ExcludeCommand final : public Command {
 public:
-    ExcludeCommand() : Command({"exclude", "Show and change what is never offered"}) {}
+    ExcludeCommand() : Command({"exclude", CliTexts::kExcludeSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        m_add = addChange(app, "add", "Never offer a path and what is below it, or any entry of a name");
-        m_remove = addChange(app, "remove", "Offer a path or a name again");
+        m_add = addChange(app, "add", CliTexts::kAddSummary);
+        m_remove = addChange(app, "remove", CliTexts::kRemoveSummary);
         app.require_subcommand(0, 1);
     }
 
@@ -65,7 +67,7 @@ public:
         const ExclusionList& list = *model.exclusions();
         if (isChange) {
             if (!model.isWriter())
-                return session.refuse(Texts::kOtherWriter);
+                return session.refuse(CliTexts::kOtherWriter);
             if (const ExitStatus status = change(session, *model.exclusions()); status != ExitStatus::done)
                 return status;
         }
@@ -77,11 +79,11 @@ public:
     }
 
 private:
-    CLI::App* addChange(CLI::App& app, const char* name, const char* summary)
+    CLI::App* addChange(CLI::App& app, const char* name, const Text& summary)
     {
-        CLI::App* own = app.add_subcommand(name, summary);
-        CLI::Option* path = own->add_option("PATH", m_path, "File or folder");
-        own->add_option("--name", m_name, "Every file or folder of this name")->excludes(path);
+        CLI::App* own = app.add_subcommand(name, shown(summary));
+        CLI::Option* path = own->add_option("PATH", m_path, shown(CliTexts::kPathHelp));
+        own->add_option("--name", m_name, shown(CliTexts::kEveryNameHelp))->excludes(path);
         own->fallthrough();
         return own;
     }
@@ -93,18 +95,18 @@ private:
             return session.refuse(problem());
         const auto done = m_add->parsed() ? list.add(*wanted) : list.remove(*wanted);
         if (done.error() == ENOENT && m_remove->parsed())
-            return session.refuse(shown(*wanted).append(Texts::kNotExcluded));
+            return session.refuse({CliTexts::kNotExcluded, {what(*wanted)}});
         if (done.error() == EFBIG)
-            return session.refuse(Texts::kTooManyExclusions);
+            return session.refuse(CliTexts::kTooManyExclusions);
         if (!done.ok()) {
-            session.complain(std::string(Texts::kExclusionsNotSaved) +
-                             std::generic_category().message(done.error()) + '.');
+            session.complain(
+                {CliTexts::kExclusionsNotSaved, {{"error", std::generic_category().message(done.error())}}});
             return ExitStatus::someFailed;
         }
         if (m_add->parsed() && isPath(*wanted) && !exists(wanted->text))
-            session.complain(shown(*wanted).append(Texts::kExclusionNotThere));
+            session.complain({CliTexts::kExclusionNotThere, {what(*wanted)}});
         if (!wantsJson())
-            Session::print(shown(*wanted).append(outcome(*wanted)) + '\n');
+            Session::print({outcome(*wanted), {what(*wanted)}});
         return ExitStatus::done;
     }
 
@@ -117,19 +119,20 @@ private:
         return Exclusion::ofPath(PathArgument::located(m_path));
     }
 
-    [[nodiscard]] std::string problem() const
+    [[nodiscard]] Message problem() const
     {
         if (!m_name.empty())
-            return Format::quoted(m_name).append(Texts::kNoName);
-        return m_path.empty() ? std::string(Texts::kPathOrName)
-                              : Format::quoted(m_path).append(Texts::kNoTextInDocument);
+            return {CliTexts::kNoName, {{"what", Format::quoted(m_name)}}};
+        if (m_path.empty())
+            return CliTexts::kPathOrName;
+        return {CliTexts::kNoTextInDocument, {{"path", Format::quoted(m_path)}}};
     }
 
-    [[nodiscard]] std::string_view outcome(const Exclusion& exclusion) const
+    [[nodiscard]] Text outcome(const Exclusion& exclusion) const
     {
         if (m_remove->parsed())
-            return Texts::kNoLongerExcluded;
-        return isPath(exclusion) ? Texts::kNowExcluded : Texts::kNameNowExcluded;
+            return CliTexts::kNoLongerExcluded;
+        return isPath(exclusion) ? CliTexts::kNowExcluded : CliTexts::kNameNowExcluded;
     }
 
     std::string m_path;

@@ -1,7 +1,9 @@
 #include "cli/FailureList.h"
 
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Session.h"
+#include "model/Words.h"
 
 #include <algorithm>
 #include <string>
@@ -15,7 +17,7 @@ std::string remedies(const std::vector<FailureReason>& reasons)
     std::string text;
     for (const FailureReason reason : reasons) {
         if (!remedyText(reason).empty())
-            text.append(remedyText(reason)).append("\n");
+            text += shown(remedyText(reason)) + '\n';
     }
     return text;
 }
@@ -23,18 +25,20 @@ std::string remedies(const std::vector<FailureReason>& reasons)
 } // namespace
 
 void show(Session& session, const std::vector<CleanFailure>& failures,
-          const std::optional<FailureReason>& refusal, std::string_view notBegun)
+          const std::optional<FailureReason>& refusal, const Text& notBegun)
 {
     if (refusal) {
-        session.complain(std::string(notBegun).append(reasonText(*refusal)) + '.');
+        session.complain({notBegun, {{"reason", within(reasonText(*refusal))}}});
         session.note(remedies({*refusal}));
         return;
     }
     std::string text;
     std::vector<FailureReason> reasons;
     for (const CleanFailure& failure : failures) {
-        text.append("  ").append(Format::shownPath(failure.path)).append(": ");
-        text.append(reasonText(failure.reason)).append("\n");
+        const Message line{
+            CliTexts::kPathAndReason,
+            {{"path", Format::shownPath(failure.path)}, {"reason", within(reasonText(failure.reason))}}};
+        text += "  " + shown(line) + '\n';
         if (std::ranges::find(reasons, failure.reason) == reasons.end())
             reasons.push_back(failure.reason);
     }

@@ -3,7 +3,6 @@
 #include "model/CleanFailure.h"
 
 #include <optional>
-#include <string_view>
 #include <vector>
 
 namespace orlen {
@@ -14,9 +13,9 @@ class Session;
 namespace FailureList {
 
 /// Prints each path with its reason to standard error, then one remedy per reason; nothing if there are no
-/// failures. If the whole operation was refused, prints `notBegun` and the shared reason instead of the list.
+/// failures. If the whole operation was refused, prints `notBegun` with the {reason} instead of the list.
 void show(Session& session, const std::vector<CleanFailure>& failures,
-          const std::optional<FailureReason>& refusal, std::string_view notBegun);
+          const std::optional<FailureReason>& refusal, const Text& notBegun);
 
 } // namespace FailureList
 } // namespace orlen

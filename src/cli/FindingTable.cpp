@@ -1,10 +1,11 @@
 #include "cli/FindingTable.h"
 
 #include "app/Format.h"
-#include "platform/text/ByteCount.h"
-#include "platform/text/PathText.h"
+#include "cli/CliTexts.h"
+#include "model/Words.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orlen::FindingTable {
 
@@ -17,25 +18,25 @@ void addEntry(Table& table, const Finding& finding, const FileEntry& entry)
     const Rating rating = finding.effectiveRating(entry);
     Table::Cell chip;
     if (rating != finding.rating)
-        chip = {std::string(label(rating)), style(rating)};
-    table.addRow({chip, {Format::shownPath(entry.path)}, {byteCount(entry.size)}});
-    if (entry.note)
-        table.addLine(kPathColumn, {"  " + PathText::forDisplay(*entry.note), Style::dim});
+        chip = {shown(label(rating)), style(rating)};
+    table.addRow({chip, {Format::shownPath(entry.path)}, {Words::figures().bytes(entry.size)}});
+    if (!entry.notes.empty())
+        table.addLine(kPathColumn, {"  " + shown(Format::displayable(noteOf(entry))), Style::dim});
 }
 
 void addFinding(Table& table, const Finding& finding, std::size_t limit)
 {
-    table.addRow({{std::string(label(finding.rating)), style(finding.rating)},
-                  {finding.title, Style::bold},
-                  {byteCount(finding.totalSize()), Style::bold},
-                  {finding.safeSize() > 0 ? byteCount(finding.safeSize()) : "", Style::green},
-                  {Format::grouped(static_cast<std::int64_t>(finding.items.size())), Style::dim}});
-    const std::size_t shown = std::min(limit, finding.items.size());
-    for (std::size_t i = 0; i < shown; ++i)
+    const Figures& figures = Words::figures();
+    table.addRow({{shown(label(finding.rating)), style(finding.rating)},
+                  {shown(finding.title), Style::bold},
+                  {figures.bytes(finding.totalSize()), Style::bold},
+                  {finding.safeSize() > 0 ? figures.bytes(finding.safeSize()) : "", Style::green},
+                  {figures.number(std::ssize(finding.items)), Style::dim}});
+    const std::size_t listed = std::min(limit, finding.items.size());
+    for (std::size_t i = 0; i < listed; ++i)
         addEntry(table, finding, finding.items[i]);
-    if (const std::size_t rest = finding.items.size() - shown; rest > 0)
-        table.addLine(kPathColumn,
-                      {"… and " + Format::grouped(static_cast<std::int64_t>(rest)) + " more", Style::dim});
+    if (const auto rest = static_cast<std::int64_t>(finding.items.size() - listed); rest > 0)
+        table.addLine(kPathColumn, {shown(Message{CliTexts::kMore, {{"count", rest}}}), Style::dim});
 }
 
 } // namespace
@@ -56,11 +57,11 @@ Style style(Rating rating)
 Table of(const std::vector<Finding>& findings, std::size_t entries)
 {
     using Kind = Table::Kind;
-    Table table({{"Rating", Kind::text},
-                 {"Finding", Kind::path},
-                 {"Size", Kind::number},
-                 {"Safe", Kind::number},
-                 {"Entries", Kind::number}});
+    Table table({{shown(CliTexts::kRatingHeading), Kind::text},
+                 {shown(CliTexts::kFindingHeading), Kind::path},
+                 {shown(CliTexts::kSizeHeading), Kind::number},
+                 {shown(CliTexts::kSafeHeading), Kind::number},
+                 {shown(CliTexts::kEntriesHeading), Kind::number}});
     for (const Finding& finding : findings) {
         table.addGap();
         addFinding(table, finding, entries);

@@ -1,8 +1,8 @@
 #include "cli/FolderSearch.h"
 
 #include "clean/Safety.h"
+#include "cli/CliTexts.h"
 #include "cli/PathArgument.h"
-#include "cli/Texts.h"
 
 namespace orlen::FolderSearch {
 
@@ -12,8 +12,8 @@ std::optional<std::vector<std::string>> checked(Session& session, const std::vec
     for (const std::string& argument : arguments) {
         std::string folder = PathArgument::readableFolder(argument);
         if (folder.empty() || Safety::protectsContents(folder)) {
-            session.complain(Format::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
-                                                                            : " is protected."));
+            session.complain({folder.empty() ? CliTexts::kNoReadableFolder : CliTexts::kProtectedFolder,
+                              {{"path", Format::quoted(argument)}}});
             return std::nullopt;
         }
         folders.push_back(std::move(folder));
@@ -25,6 +25,13 @@ Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progre
                    const std::stop_token& stop)
 {
     return folders.empty() ? Walk::home(progress, stop) : Walk::folders(folders, progress, stop);
+}
+
+Message status(const ScanProgress& progress)
+{
+    return Message::joined({{CliTexts::kExamined, {{"count", progress.files()}}},
+                            Message::verbatim(Format::shownPath(progress.current()))},
+                           Several::Joint::facts);
 }
 
 } // namespace orlen::FolderSearch

@@ -4,9 +4,11 @@
 #include "clean/Exclusions.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/SavedExclusions.h"
+#include "model/Words.h"
 #include "scan/ScanProgress.h"
 #include "scan/walk/Walk.h"
 
@@ -30,6 +32,9 @@ namespace orlen::FolderSearch {
 [[nodiscard]] Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
                                  const std::stop_token& stop);
 
+/// What a search is doing: files examined and the current path.
+[[nodiscard]] Message status(const ScanProgress& progress);
+
 } // namespace orlen::FolderSearch
 
 namespace orlen {
@@ -38,12 +43,12 @@ namespace orlen {
 template <typename Found>
 class FolderCommand : public Command {
 public:
-    FolderCommand(Description description, std::string argumentHelp)
-        : Command(description), m_argumentHelp(std::move(argumentHelp))
+    FolderCommand(Description description, const Text& argumentHelp)
+        : Command(description), m_argumentHelp(argumentHelp)
     {
     }
 
-    void addOptions(CLI::App& app) override { app.add_option("DIR", m_arguments, m_argumentHelp); }
+    void addOptions(CLI::App& app) override { app.add_option("DIR", m_arguments, shown(m_argumentHelp)); }
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {
@@ -54,11 +59,7 @@ public:
         const Exclusions exclusions = SavedExclusions::load(session);
         ScanProgress progress;
         const std::optional<Found> found = Background::resultUnlessCancelled(
-            session,
-            [&] {
-                return Format::counted(progress.files(), "file") + " examined · " +
-                       Format::shownPath(progress.current());
-            },
+            session, [&] { return FolderSearch::status(progress); },
             [&](const std::stop_token& stop) { return search(*folders, exclusions, progress, stop); });
         if (!found)
             return session.cancelled();
@@ -78,7 +79,7 @@ private:
     /// What is said after the result.
     [[nodiscard]] virtual ExitStatus ended(Session& /*session*/) const { return ExitStatus::done; }
 
-    const std::string m_argumentHelp;
+    const Text m_argumentHelp;
     std::vector<std::string> m_arguments;
 };
 

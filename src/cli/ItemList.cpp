@@ -1,12 +1,13 @@
 #include "cli/ItemList.h"
 
+#include "app/AppTexts.h"
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/FindingTable.h"
 #include "cli/Session.h"
 #include "cli/Table.h"
 #include "model/PathSelection.h"
-#include "platform/text/ByteCount.h"
-#include "platform/text/PathText.h"
+#include "model/Words.h"
 #include "platform/values/CheckedSum.h"
 
 #include <utility>
@@ -27,11 +28,11 @@ void addEntry(Table& table, const FileEntry& entry)
 {
     Table::Cell chip;
     if (entry.rating)
-        chip = {std::string(label(*entry.rating)), FindingTable::style(*entry.rating)};
+        chip = {shown(label(*entry.rating)), FindingTable::style(*entry.rating)};
     // The chip comes before the path, which may be wider than the terminal.
-    table.addRow({{byteCount(entry.size)}, chip, {Format::shownPath(entry.path)}});
-    if (entry.note)
-        table.addLine(kPathColumn + 1, {"  " + PathText::forDisplay(*entry.note), Style::dim});
+    table.addRow({{Words::figures().bytes(entry.size)}, chip, {Format::shownPath(entry.path)}});
+    if (!entry.notes.empty())
+        table.addLine(kPathColumn + 1, {"  " + shown(Format::displayable(noteOf(entry))), Style::dim});
 }
 
 } // namespace
@@ -49,7 +50,7 @@ ItemList ItemList::toClean(const CleanPlan& plan, Beside beside)
     std::vector<const FileEntry*> entries;
     for (const PlanSection& section : plan.sections) {
         table.addGap();
-        table.addLine(0, {section.title, Style::bold});
+        table.addLine(0, {shown(Format::displayable(section.title)), Style::bold});
         for (const FileEntry& entry : section.entries) {
             addEntry(table, entry);
             entries.push_back(&entry);
@@ -58,7 +59,7 @@ ItemList ItemList::toClean(const CleanPlan& plan, Beside beside)
     const PathSelection::Amount amount = PathSelection::amountOf(std::move(entries));
     list.m_count = amount.items;
     list.m_bytes = amount.bytes;
-    list.m_text = list.m_colours.styled(Style::bold, PathText::forDisplay(plan.title)) + '\n' +
+    list.m_text = list.m_colours.styled(Style::bold, shown(Format::displayable(plan.title))) + '\n' +
                   table.text(list.m_colours, std::nullopt);
     return list;
 }
@@ -70,23 +71,25 @@ ItemList ItemList::toRestore(const CleanRecord& record, Beside beside)
     for (const TrashedItem& item : record.items) {
         if (item.restored)
             continue;
-        table.addRow({{byteCount(item.size)}, {}, {Format::shownPath(item.original)}});
+        table.addRow({{Words::figures().bytes(item.size)}, {}, {Format::shownPath(item.original)}});
         ++list.m_count;
         list.m_bytes = checkedAdd(list.m_bytes, item.size);
     }
-    list.m_text = list.m_colours.styled(Style::bold, PathText::forDisplay(record.title)) + " · " +
-                  Format::localTime(record.date) + "\n\n" + table.text(list.m_colours, std::nullopt);
+    const std::string title = shown(Format::displayable(AppTexts::titleOf(record.title)));
+    list.m_text = list.m_colours.styled(Style::bold, title) + " · " +
+                  Words::figures().dateAndTime(record.date) + "\n\n" +
+                  table.text(list.m_colours, std::nullopt);
     return list;
 }
 
-std::string ItemList::summary() const
+Message ItemList::summary(const Text& text) const
 {
-    return Format::counted(m_count, "item") + " (" + byteCount(m_bytes) + ')';
+    return {text, {{"count", m_count}, {"size", Bytes{m_bytes}}}};
 }
 
 void ItemList::show(Session& session) const
 {
-    const std::string text = m_text + "\n" + summary() + "\n\n";
+    const std::string text = m_text + '\n' + shown(summary(CliTexts::kItemsOfSize)) + "\n\n";
     if (m_beside == Beside::nothing)
         Session::print(text);
     else

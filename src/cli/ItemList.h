@@ -3,6 +3,7 @@
 #include "clean/CleanRecord.h"
 #include "cli/Colours.h"
 #include "model/CleanPlan.h"
+#include "model/Message.h"
 
 #include <cstdint>
 #include <string>
@@ -22,8 +23,9 @@ public:
     [[nodiscard]] static ItemList toRestore(const CleanRecord& record, Beside beside);
 
     [[nodiscard]] bool isEmpty() const { return m_count == 0; }
-    /// "12 items (3.1 GB)". Items listed twice, or inside another item, count once.
-    [[nodiscard]] std::string summary() const;
+    /// A text with the {count} of the items and their {size}. Items listed twice, or inside another item,
+    /// count once.
+    [[nodiscard]] Message summary(const Text& text) const;
     void show(Session& session) const;
 
 private:

@@ -54,8 +54,9 @@ std::string_view rawValue(StepState state)
 Json steps(const ScanProgress& progress)
 {
     return array(progress.steps(), [](const ScanStep& step) -> Json {
-        return {
-            {"label", label(step.kind)}, {"state", rawValue(step.state)}, {"seconds", rounded(step.elapsed)}};
+        return {{"label", label(step.kind).base()},
+                {"state", rawValue(step.state)},
+                {"seconds", rounded(step.elapsed)}};
     });
 }
 
@@ -83,12 +84,12 @@ Json finding(const Finding& finding)
 {
     return {
         {"kind", orlen::rawValue(finding.kind)},
-        {"title", finding.title},
-        {"explanation", finding.explanation},
+        {"title", finding.title.base()},
+        {"explanation", finding.explanation.base()},
         {"symbol", finding.symbol},
         {"category", orlen::rawValue(finding.category)},
         {"rating", orlen::rawValue(finding.rating)},
-        {"reason", finding.reason},
+        {"reason", finding.reason.base()},
         {"cleanable", finding.cleanable},
         {"size", finding.totalSize()},
         {"safeSize", finding.safeSize()},
@@ -100,11 +101,11 @@ Json plan(const CleanPlan& plan)
 {
     const auto encodeSection = [](const PlanSection& section) -> Json {
         return {{"id", section.id},
-                {"title", section.title},
+                {"title", section.title.base()},
                 {"symbol", section.symbol},
                 {"entries", entries(section.entries)}};
     };
-    return {{"title", plan.title}, {"sections", array(plan.sections, encodeSection)}};
+    return {{"title", plan.title.base()}, {"sections", array(plan.sections, encodeSection)}};
 }
 
 } // namespace
@@ -159,12 +160,12 @@ Json history(const std::vector<CleanRecord>& history)
     });
 }
 
-Json restore(const Cleaner::Restored& outcome, const std::string& message)
+Json restore(const Cleaner::Restored& outcome, const Message& message)
 {
     return {{"record", RecordJson::encode(outcome.record)},
             {"restored", outcome.restored},
             {"failed", outcome.failed},
-            {"message", message},
+            {"message", message.base()},
             {"failures", failures(outcome.failures)}};
 }
 
@@ -175,8 +176,8 @@ Json prediction(const Prediction& prediction, std::size_t snapshots)
         rates.push_back({{"category", orlen::rawValue(category)}, {"bytesPerDay", rate}});
     return {
         {"enoughData", prediction.enoughData},
-        {"headline", prediction.headline},
-        {"detail", prediction.detail},
+        {"headline", prediction.headline.base()},
+        {"detail", prediction.detail.base()},
         {"warn", prediction.warn},
         {"perCategory", std::move(rates)},
         {"freeSeries", prediction.freeSeries},
@@ -186,7 +187,7 @@ Json prediction(const Prediction& prediction, std::size_t snapshots)
 
 Json answer(const Answer& answer)
 {
-    return {{"text", answer.text}, {"findingIDs", answer.findingIDs}, {"usedModel", answer.usedModel}};
+    return {{"text", answer.text.base()}, {"findingIDs", answer.findingIDs}, {"usedModel", answer.usedModel}};
 }
 
 Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds duration)
@@ -240,7 +241,7 @@ Json explanation(const Explanation& explanation)
                  {"exists", explanation.exists},
                  {"protected", explanation.protection != Protection::none}};
     if (explanation.protection != Protection::none)
-        json["rule"] = label(explanation.protection);
+        json["rule"] = label(explanation.protection).base();
     json["excluded"] = explanation.exclusion.has_value();
     if (explanation.exclusion)
         json["exclusion"] = ExclusionJson::encode(*explanation.exclusion);
@@ -248,10 +249,10 @@ Json explanation(const Explanation& explanation)
         const FileEntry& entry = finding.items.front();
         Json offer = {{"kind", orlen::rawValue(finding.kind)},
                       {"rating", orlen::rawValue(finding.effectiveRating(entry))},
-                      {"reason", finding.reason},
+                      {"reason", finding.reason.base()},
                       {"path", entry.path}};
-        if (entry.note)
-            offer["note"] = *entry.note;
+        if (!entry.notes.empty())
+            offer["note"] = noteOf(entry).base();
         return offer;
     });
     json["size"] = explanation.size;
@@ -285,7 +286,7 @@ Json advice(const std::vector<AdviceItem>& advice)
                          {"path", item.places.front()},
                          {"size", item.size},
                          {"complete", item.known == AdviceItem::Known::all},
-                         {"text", item.text}};
+                         {"text", item.text.base()}};
         if (!item.command.empty())
             document["command"] = item.command;
         return document;
@@ -294,13 +295,13 @@ Json advice(const std::vector<AdviceItem>& advice)
 
 Json startupItem(const LaunchItem& item)
 {
-    Json json = {{"label", item.label}, {"path", item.path},       {"program", item.program},
-                 {"scope", item.scope}, {"enabled", item.enabled}, {"kind", kindOf(item.source)}};
+    Json json = {{"label", item.label},        {"path", item.path},       {"program", item.program},
+                 {"scope", item.scope.base()}, {"enabled", item.enabled}, {"kind", kindOf(item.source)}};
     if (!item.description.empty())
         json["description"] = item.description;
     json["switchable"] = item.isSwitchable;
     if (!item.isSwitchable)
-        json["reason"] = item.reason;
+        json["reason"] = item.reason.base();
     return json;
 }
 

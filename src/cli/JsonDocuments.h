@@ -23,7 +23,8 @@ namespace orlen {
 
 class AppModel;
 
-/// What the commands print with `--json`. Records look as they do on disk; sizes are in bytes.
+/// What the commands print with `--json`, which is the same in every language. Records look as they do on
+/// disk; sizes are in bytes.
 namespace JsonDocuments {
 
 using Json = nlohmann::ordered_json;
@@ -38,7 +39,7 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json clean(const CleanPlan& plan, const CleanRecord& record,
                          const std::vector<CleanFailure>& failures);
 [[nodiscard]] Json history(const std::vector<CleanRecord>& history);
-[[nodiscard]] Json restore(const Cleaner::Restored& outcome, const std::string& message);
+[[nodiscard]] Json restore(const Cleaner::Restored& outcome, const Message& message);
 [[nodiscard]] Json answer(const Answer& answer);
 [[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);

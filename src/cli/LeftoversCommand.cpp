@@ -1,12 +1,13 @@
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "clean/Persist.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "tools/apps/AppList.h"
@@ -18,49 +19,53 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 
 namespace orlen {
 
 namespace {
 
-void printLeftovers(const std::string& heading, const std::vector<FileEntry>& leftovers)
+void printLeftovers(const Message& heading, const std::vector<FileEntry>& leftovers)
 {
     if (leftovers.empty()) {
-        Session::print(std::string(Texts::kNoLeftovers) + '\n');
+        Session::print(CliTexts::kNoLeftovers);
         return;
     }
     using Kind = Table::Kind;
-    Table table({{"Size", Kind::number}, {"", Kind::text}, {"Path", Kind::path}, {"", Kind::text}});
+    Table table({{shown(CliTexts::kSizeHeading), Kind::number},
+                 {"", Kind::text},
+                 {shown(CliTexts::kPathHeading), Kind::path},
+                 {"", Kind::text}});
     for (const FileEntry& entry : leftovers) {
-        const std::string label(Leftovers::label(entry.path));
-        const bool isByName = entry.note == Leftovers::kByNameOnly;
-        table.addRow({{byteCount(entry.size)},
-                      {label, Style::dim},
+        const Message byName = Leftovers::kByNameOnly;
+        const bool isByName = std::ranges::find(entry.notes, byName) != entry.notes.end();
+        table.addRow({{Words::figures().bytes(entry.size)},
+                      {shown(Leftovers::label(entry.path)), Style::dim},
                       {Format::shownPath(entry.path)},
-                      {isByName ? *entry.note : std::string(), Style::orange}});
+                      {isByName ? shown(byName) : std::string(), Style::orange}});
     }
     const Colours colours = Session::colours();
-    Session::print(colours.styled(Style::bold, heading) + "\n\n" + table.text(colours, Session::width()));
+    Session::print(colours.styled(Style::bold, shown(heading)) + "\n\n" +
+                   table.text(colours, Session::width()));
 }
 
 void printLeftBehind(const std::vector<FileEntry>& leftovers)
 {
     if (leftovers.empty()) {
-        Session::print(std::string(Texts::kNothingLeftBehind) + '\n');
+        Session::print(CliTexts::kNothingLeftBehind);
         return;
     }
     Table table({{"", Table::Kind::number}, {"", Table::Kind::path}});
     std::int64_t total = 0;
     for (const FileEntry& entry : leftovers) {
         total = checkedAdd(total, entry.size);
-        table.addRow({{byteCount(entry.size)}, {Format::shownPath(entry.path)}});
-        table.addLine(1, {"  " + PathText::forDisplay(entry.note.value_or("")), Style::dim});
+        table.addRow({{Words::figures().bytes(entry.size)}, {Format::shownPath(entry.path)}});
+        table.addLine(1, {"  " + shown(Format::displayable(noteOf(entry))), Style::dim});
     }
     const Colours colours = Session::colours();
-    const std::string heading = std::string(LeftBehind::kTitle) + ": " +
-                                Format::counted(static_cast<std::int64_t>(leftovers.size()), "folder") +
-                                ", " + byteCount(total);
-    Session::print(colours.styled(Style::bold, heading) + "\n\n" + table.text(colours, Session::width()));
+    const Message heading{CliTexts::kLeftBehind, {{"count", std::ssize(leftovers)}, {"size", Bytes{total}}}};
+    Session::print(colours.styled(Style::bold, shown(heading)) + "\n\n" +
+                   table.text(colours, Session::width()));
 }
 
 std::vector<FileEntry> leftBehind(const std::vector<CleanRecord>& history, const std::stop_token& stop)
@@ -70,18 +75,13 @@ std::vector<FileEntry> leftBehind(const std::vector<CleanRecord>& history, const
 
 class LeftoversCommand final : public Command {
 public:
-    LeftoversCommand()
-        : Command(
-              {"leftovers", "Show what an application left in your folders, or what all that are gone left"})
-    {
-    }
+    LeftoversCommand() : Command({"leftovers", CliTexts::kLeftoversSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
         m_options = {
-            app.add_option("--id", m_identifier, "Identifier of the application, such as org.example.App")
-                ->type_name("ID"),
-            app.add_option("--name", m_name, "Name of the application")->type_name("NAME"),
+            app.add_option("--id", m_identifier, shown(CliTexts::kAppIdHelp))->type_name("ID"),
+            app.add_option("--name", m_name, shown(CliTexts::kAppNameHelp))->type_name("NAME"),
         };
     }
 
@@ -90,11 +90,11 @@ public:
         const bool isOfOne = std::any_of(m_options.begin(), m_options.end(),
                                          [](const CLI::Option* option) { return option->count() > 0; });
         if (isOfOne && m_identifier.empty() && m_name.empty())
-            return session.refuse(Texts::kNobodysLeftovers);
+            return session.refuse(CliTexts::kNobodysLeftovers);
         Safety::refresh();
         const std::vector<CleanRecord> history = Persist::loadHistory().records;
         const auto leftovers = Background::resultUnlessCancelled(
-            session, [] { return std::string(Texts::kLookingForLeftovers); },
+            session, [] { return CliTexts::kLookingForLeftovers; },
             [&](const std::stop_token& stop) {
                 return isOfOne ? Leftovers::find(m_identifier, m_name, stop) : leftBehind(history, stop);
             });
@@ -111,11 +111,11 @@ public:
 
 private:
     std::vector<CLI::Option*> m_options; ///< that name an application; owned by the parser
-    [[nodiscard]] std::string heading() const
+    [[nodiscard]] Message heading() const
     {
-        const bool isByName = m_identifier.empty();
-        const std::string what(isByName ? Texts::kLeftoversByName : Texts::kLeftoversBy);
-        return what + PathText::forDisplay(isByName ? m_name : m_identifier) + ')';
+        if (m_identifier.empty())
+            return {CliTexts::kLeftoversByName, {{"name", PathText::forDisplay(m_name)}}};
+        return {AppTexts::kLeftoversByIdentifier, {{"id", PathText::forDisplay(m_identifier)}}};
     }
 
     std::string m_identifier;

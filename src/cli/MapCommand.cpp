@@ -1,12 +1,12 @@
 #include "app/DiskMapModel.h"
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/PathArgument.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 #include "platform/files/Places.h"
-#include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
@@ -22,7 +22,7 @@ namespace {
 
 Table::Cell nameCell(const TreeNode& node)
 {
-    std::string name = PathText::forDisplay(node.name);
+    std::string name = shown(Format::displayable(node.title()));
     if (node.isDir)
         name += '/';
     return {std::move(name), node.isOther ? Style::dim : Style::plain};
@@ -33,24 +33,30 @@ void printMap(const DiskMapModel& model, JsonDocuments::Seconds duration)
     std::int64_t total = 0;
     for (const TreeNode& node : model.nodes())
         total = checkedAdd(total, node.size);
-    Table table({{"Size", Table::Kind::number}, {"", Table::Kind::text}, {"Name", Table::Kind::path}});
+    Table table({{shown(CliTexts::kSizeHeading), Table::Kind::number},
+                 {"", Table::Kind::text},
+                 {shown(CliTexts::kNameHeading), Table::Kind::path}});
     for (const TreeNode& node : model.nodes())
-        table.addRow({{byteCount(node.size)}, {Table::bar(node.size, total), Style::blue}, nameCell(node)});
+        table.addRow({{Words::figures().bytes(node.size)},
+                      {Table::bar(node.size, total), Style::blue},
+                      nameCell(node)});
     const Colours colours = Session::colours();
-    const std::string heading = byteCount(total) + " in " + Format::shownPath(model.current());
-    Session::print(colours.styled(Style::bold, heading) + '\n' +
-                   colours.styled(Style::dim, "measured in " + Format::duration(duration.count())) + '\n');
+    const Message heading{CliTexts::kSizeInFolder,
+                          {{"size", Bytes{total}}, {"path", Format::shownPath(model.current())}}};
+    const Message measured{CliTexts::kMeasuredIn, {{"time", duration}}};
+    Session::print(colours.styled(Style::bold, shown(heading)) + '\n' +
+                   colours.styled(Style::dim, shown(measured)) + '\n');
     if (!model.nodes().empty())
         Session::print('\n' + table.text(colours, Session::width()));
 }
 
 class MapCommand final : public Command {
 public:
-    MapCommand() : Command({"map", "Show what the items of a folder take on disk, largest first"}) {}
+    MapCommand() : Command({"map", CliTexts::kMapSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        app.add_option("DIR", m_argument, "Folder to show; the home folder when there is none");
+        app.add_option("DIR", m_argument, shown(CliTexts::kMapFolderHelp));
     }
 
     [[nodiscard]] ExitStatus run(Session& session) override
@@ -58,13 +64,15 @@ public:
         const std::string argument = m_argument.value_or(Places::current().home);
         const std::string folder = PathArgument::readableFolder(argument);
         if (folder.empty() || (wantsJson() && !PathText::isValidUtf8(folder)))
-            return session.refuse(Format::quoted(argument).append(folder.empty() ? Texts::kNoReadableFolder
-                                                                                 : Texts::kNoTextInDocument));
+            return session.refuse({folder.empty() ? CliTexts::kNoReadableFolder : CliTexts::kNoTextInDocument,
+                                   {{"path", Format::quoted(argument)}}});
         const auto started = std::chrono::steady_clock::now();
         DiskMapModel model(folder);
         model.load();
         session.run({[&] { return !model.isLoading() || session.isInterrupted(); }, [] {},
-                     [&] { return std::string(Texts::kMeasuringFolder) + Format::shownPath(folder); }});
+                     [&] {
+                         return Message{CliTexts::kMeasuringFolder, {{"path", Format::shownPath(folder)}}};
+                     }});
         if (model.isLoading())
             return session.cancelled();
         const JsonDocuments::Seconds duration = std::chrono::steady_clock::now() - started;

@@ -1,11 +1,11 @@
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/FindingTable.h"
 #include "cli/FolderSearch.h"
 #include "cli/JsonDocuments.h"
-#include "cli/Texts.h"
 #include "model/Rater.h"
+#include "model/Words.h"
 #include "platform/images/ImageWorkers.h"
-#include "platform/text/ByteCount.h"
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
@@ -13,6 +13,7 @@
 #include "scan/photos/PictureMemory.h"
 #include "scan/walk/Walk.h"
 
+#include <iterator>
 #include <limits>
 
 namespace orlen {
@@ -28,7 +29,7 @@ struct PhotoSearch {
 };
 
 /// All findings without what is excluded, even if nothing is left of one.
-std::vector<Finding> offered(std::vector<Finding> findings, const Exclusions& exclusions)
+std::vector<Finding> allowed(std::vector<Finding> findings, const Exclusions& exclusions)
 {
     for (Finding& finding : findings) {
         std::erase_if(finding.items,
@@ -39,37 +40,33 @@ std::vector<Finding> offered(std::vector<Finding> findings, const Exclusions& ex
 
 void printFindings(const PhotoSearch& found)
 {
-    std::vector<Finding> shown;
+    std::vector<Finding> offered;
     std::int64_t entries = 0;
     std::int64_t bytes = 0;
     for (const Finding& finding : found.findings) {
         if (finding.items.empty())
             continue;
-        shown.push_back(finding);
+        offered.push_back(finding);
         entries += static_cast<std::int64_t>(finding.items.size());
         bytes = checkedAdd(bytes, finding.totalSize());
     }
     const Colours colours = Session::colours();
-    const std::string headline = shown.empty() ? std::string(Texts::kNoPhotos)
-                                               : Format::counted(entries, "photo") + ", " + byteCount(bytes);
-    const auto photos = static_cast<std::int64_t>(found.photos.size());
-    Session::print(colours.styled(Style::bold, headline) + '\n' +
-                   colours.styled(Style::dim, Format::counted(photos, "picture") + " looked at in " +
-                                                  Format::duration(found.duration.count())) +
-                   '\n');
-    if (!shown.empty())
-        Session::print(
-            '\n' +
-            FindingTable::of(shown, std::numeric_limits<std::size_t>::max()).text(colours, Session::width()));
+    const Message headline = offered.empty()
+                                 ? CliTexts::kNoPhotos
+                                 : Message{CliTexts::kPhotos, {{"count", entries}, {"size", Bytes{bytes}}}};
+    const Message lookedAt{CliTexts::kLookedAtIn,
+                           {{"count", std::ssize(found.photos)}, {"time", found.duration}}};
+    Session::print(colours.styled(Style::bold, shown(headline)) + '\n' +
+                   colours.styled(Style::dim, shown(lookedAt)) + '\n');
+    if (!offered.empty()) {
+        const Table table = FindingTable::of(offered, std::numeric_limits<std::size_t>::max());
+        Session::print('\n' + table.text(colours, Session::width()));
+    }
 }
 
 class PhotosCommand final : public FolderCommand<PhotoSearch> {
 public:
-    PhotosCommand()
-        : FolderCommand({"photos", "Find look-alikes, screenshots, receipts, memes and blurry photos"},
-                        "Folders to look into; the image folders of the home folder when there are none")
-    {
-    }
+    PhotosCommand() : FolderCommand({"photos", CliTexts::kPhotosSummary}, CliTexts::kPhotoFoldersHelp) {}
 
 private:
     [[nodiscard]] PhotoSearch search(const std::vector<std::string>& folders, const Exclusions& exclusions,
@@ -86,7 +83,7 @@ private:
             &memory);
         PhotoSearch search{analyzer.analyze(found.images).photos};
         if (!stop.stop_requested())
-            search.findings = Rater::rate(offered(PhotoAnalyzer::findings(search.photos, stop), exclusions));
+            search.findings = Rater::rate(allowed(PhotoAnalyzer::findings(search.photos, stop), exclusions));
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
     }
@@ -102,7 +99,7 @@ private:
     {
         if (!ImageWorkers::recognizer().empty())
             return ExitStatus::done;
-        session.complain(Texts::kNoRecognizer);
+        session.complain(CliTexts::kNoRecognizer);
         return ExitStatus::someFailed;
     }
 };

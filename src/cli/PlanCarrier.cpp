@@ -6,18 +6,21 @@
 #include "clean/CleanRecord.h"
 #include "clean/Persist.h"
 #include "clean/trash/Trash.h"
+#include "cli/CliTexts.h"
 #include "cli/Confirmation.h"
 #include "cli/FailureList.h"
 #include "cli/JsonDocuments.h"
-#include "cli/Texts.h"
 #include "model/ModelState.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
+#include <iterator>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace orlen {
 
@@ -28,13 +31,14 @@ struct Outcome {
     CleaningState end; ///< the model's last state
 };
 
-std::string status(const AppModel& model)
+Message status(const AppModel& model)
 {
     if (!model.cleanUps()->cleaning())
         return {};
     const CleaningState& state = *model.cleanUps()->cleaning();
-    return std::string(Texts::kMoving) + ' ' + Format::grouped(state.done) + " of " +
-           Format::grouped(state.total) + " · " + PathText::forDisplay(state.current);
+    return Message::joined({{CliTexts::kMoving, {{"done", state.done}, {"total", state.total}}},
+                            Message::verbatim(PathText::forDisplay(state.current))},
+                           Several::Joint::facts);
 }
 
 /// The clean-up itself. On Ctrl-C it finishes the current item; the record lists what was moved so far.
@@ -51,15 +55,15 @@ Outcome moved(Session& session, AppModel& model, const CleanPlan& plan)
     return {*std::move(record), *model.cleanUps()->cleaning()};
 }
 
-std::string summary(const CleanRecord& record)
+Message summary(const CleanRecord& record)
 {
-    std::string text = Format::counted(static_cast<std::int64_t>(record.items.size()), "item") + " (" +
-                       byteCount(record.freed()) + ") moved to the Trash\n";
+    std::vector<Message> lines{
+        {CliTexts::kMoved, {{"count", std::ssize(record.items)}, {"size", Bytes{record.freed()}}}}};
     if (record.failed > 0)
-        text += Format::counted(record.failed, "item") + " couldn't be moved\n";
+        lines.push_back({CliTexts::kNotMoved, {{"count", record.failed}}});
     if (!record.items.empty())
-        text.append(Texts::kNothingDeleted).append("\n");
-    return text;
+        lines.emplace_back(CliTexts::kNothingDeleted);
+    return Message::joined(std::move(lines), Several::Joint::lines);
 }
 
 void print(Session& session, const CleanPlan& plan, const Outcome& outcome, ItemList::Beside beside)
@@ -67,18 +71,18 @@ void print(Session& session, const CleanPlan& plan, const Outcome& outcome, Item
     if (beside == ItemList::Beside::document)
         Session::printDocument(JsonDocuments::clean(plan, outcome.record, outcome.end.failures));
     else if (plan.sections.empty())
-        Session::print(std::string(Texts::kNothingToClean) + '\n');
+        Session::print(CliTexts::kNothingToClean);
     else
         Session::print(summary(outcome.record));
-    FailureList::show(session, outcome.end.failures, outcome.end.refusal, Texts::kNotBegun);
+    FailureList::show(session, outcome.end.failures, outcome.end.refusal, CliTexts::kNotBegun);
 }
 
 } // namespace
 
 void PlanCarrier::addOptions(CLI::App& app)
 {
-    app.add_flag("--dry-run", m_isDryRun, "Print the plan and move nothing");
-    app.add_flag("--yes", m_isConfirmed, "Move without asking");
+    app.add_flag("--dry-run", m_isDryRun, shown(CliTexts::kDryRunHelp));
+    app.add_flag("--yes", m_isConfirmed, shown(CliTexts::kMoveYesHelp));
 }
 
 bool PlanCarrier::isReady(const AppModel& model) const
@@ -99,25 +103,24 @@ ExitStatus PlanCarrier::carryOut(Session& session, AppModel& model, const CleanP
         return ExitStatus::done;
     }
     if (list.isEmpty()) {
-        print(session, plan, {{Uuid::random(), std::chrono::system_clock::now(), plan.title, {}, 0}, {}},
-              beside);
+        print(session, plan,
+              {{Uuid::random(), std::chrono::system_clock::now(), plan.title.base(), {}, 0}, {}}, beside);
         return ExitStatus::done;
     }
     list.show(session);
     if (!Trash::isReachable() || !Persist::isReachable())
         return session.refuse(AppTexts::kSilentTrash);
     const auto asking = m_isConfirmed ? Confirmation::Asking::unneeded : Confirmation::Asking::onTerminal;
-    if (const auto refused =
-            Confirmation::refusal(session, asking, "Move " + list.summary() + " to the Trash?"))
+    if (const auto refused = Confirmation::refusal(session, asking, list.summary(CliTexts::kMoveItems)))
         return *refused;
     const Outcome outcome = moved(session, model, plan);
     print(session, plan, outcome, beside);
     for (const std::string& service : outcome.end.servicesStillOn)
         session.complain(AppTexts::stillOn(PathText::forDisplay(service)));
     if (!outcome.end.isRecorded)
-        session.complain(Texts::kNotRecorded);
+        session.complain(CliTexts::kNotRecorded);
     if (session.isInterrupted()) {
-        session.complain(Texts::kCancelledCleaning);
+        session.complain(CliTexts::kCancelledCleaning);
         return ExitStatus::interrupted;
     }
     return outcome.record.failed > 0 || !outcome.end.isRecorded ? ExitStatus::someFailed : ExitStatus::done;

@@ -1,9 +1,9 @@
 #include "app/AppModel.h"
-#include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,32 +13,36 @@ namespace orlen {
 
 namespace {
 
-/// Growth with its sign, since `byteCount` takes no negative sizes.
-std::string perDay(double bytes)
+/// Growth with its sign in the text, since a size is never negative.
+Message perDay(double bytes)
 {
     constexpr double kMost = 9e18;
     const auto size = static_cast<std::int64_t>(std::min(std::abs(bytes), kMost));
-    const char* sign = size == 0 ? "" : bytes < 0 ? "-" : "+";
-    return sign + byteCount(size) + " a day";
+    const Text& text = size == 0   ? CliTexts::kStaysTheSame
+                       : bytes < 0 ? CliTexts::kShrinks
+                                   : CliTexts::kGrows;
+    return {text, {{"size", Bytes{size}}}};
 }
 
 void printPrediction(const Prediction& prediction, std::size_t snapshots)
 {
     const Colours colours = Session::colours();
-    std::string text = colours.styled(Style::bold, prediction.headline) + '\n' + prediction.detail + '\n';
+    std::string text =
+        colours.styled(Style::bold, shown(prediction.headline)) + '\n' + shown(prediction.detail) + '\n';
     if (!prediction.perCategory.empty()) {
-        Table table({{"Category", Table::Kind::text}, {"Growth", Table::Kind::number}});
+        Table table({{shown(CliTexts::kCategoryHeading), Table::Kind::text},
+                     {shown(CliTexts::kGrowthHeading), Table::Kind::number}});
         for (const auto& [category, rate] : prediction.perCategory)
-            table.addRow({{std::string(label(category))}, {perDay(rate)}});
+            table.addRow({{shown(label(category))}, {shown(perDay(rate))}});
         text += '\n' + table.text(colours, Session::width());
     }
-    const std::string count = Format::counted(static_cast<std::int64_t>(snapshots), "snapshot");
-    Session::print(text + '\n' + colours.styled(Style::dim, count + " of past scans") + '\n');
+    const Message count{CliTexts::kSnapshots, {{"count", static_cast<std::int64_t>(snapshots)}}};
+    Session::print(text + '\n' + colours.styled(Style::dim, shown(count)) + '\n');
 }
 
 class PredictCommand final : public Command {
 public:
-    PredictCommand() : Command({"predict", "Forecast the growth from the snapshots of past scans"}) {}
+    PredictCommand() : Command({"predict", CliTexts::kPredictSummary}) {}
 
     [[nodiscard]] ExitStatus run(Session& session) override
     {

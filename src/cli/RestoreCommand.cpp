@@ -1,11 +1,12 @@
 #include "app/AppModel.h"
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/Confirmation.h"
 #include "cli/FailureList.h"
 #include "cli/ItemList.h"
 #include "cli/JsonDocuments.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 #include "platform/text/PathText.h"
 
 #include <CLI/CLI.hpp>
@@ -34,13 +35,12 @@ std::vector<CleanRecord> matching(const std::vector<CleanRecord>& history, const
 
 class RestoreCommand final : public Command {
 public:
-    RestoreCommand() : Command({"restore", "Put the items of one clean-up back where they were"}) {}
+    RestoreCommand() : Command({"restore", CliTexts::kRestoreSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        app.add_option("ID", m_id, "The record as `orlen history` names it, or its first characters")
-            ->required();
-        app.add_flag("--yes", m_isConfirmed, "Put back without asking");
+        app.add_option("ID", m_id, shown(CliTexts::kRecordHelp))->required();
+        app.add_flag("--yes", m_isConfirmed, shown(CliTexts::kRestoreYesHelp));
     }
 
     [[nodiscard]] ExitStatus run(Session& session) override
@@ -49,11 +49,10 @@ public:
         session.complain(model.notices());
         const std::vector<CleanRecord> records = matching(model.cleanUps()->history(), m_id);
         if (records.size() != 1)
-            return session.refuse(records.empty()
-                                      ? "there is no clean-up " + Format::quoted(m_id) + '.'
-                                      : "several clean-ups begin with " + Format::quoted(m_id) + '.');
+            return session.refuse({records.empty() ? CliTexts::kNoCleanUp : CliTexts::kSeveralCleanUps,
+                                   {{"id", Format::quoted(m_id)}}});
         if (!model.isWriter())
-            return session.refuse(Texts::kOtherWriter);
+            return session.refuse(CliTexts::kOtherWriter);
         if (const auto refused = refusal(session, records.front()))
             return *refused;
         return restored(session, model, records.front());
@@ -68,7 +67,7 @@ private:
             return std::nullopt;
         list.show(session);
         const auto asking = m_isConfirmed ? Confirmation::Asking::unneeded : Confirmation::Asking::onTerminal;
-        return Confirmation::refusal(session, asking, "Put back " + list.summary() + '?');
+        return Confirmation::refusal(session, asking, list.summary(CliTexts::kPutBackItems));
     }
 
     [[nodiscard]] ExitStatus restored(Session& session, AppModel& model, const CleanRecord& record)
@@ -77,11 +76,11 @@ private:
         if (wantsJson())
             Session::printDocument(JsonDocuments::restore(restoration.outcome, restoration.message));
         else
-            Session::print(restoration.message + '\n');
+            Session::print(restoration.message);
         const Cleaner::Restored& outcome = restoration.outcome;
-        FailureList::show(session, outcome.failures, outcome.refusal, Texts::kRestoreNotBegun);
+        FailureList::show(session, outcome.failures, outcome.refusal, CliTexts::kRestoreNotBegun);
         if (!restoration.isRecorded)
-            session.complain(Texts::kNotRecorded);
+            session.complain(CliTexts::kNotRecorded);
         return outcome.failed > 0 || !restoration.isRecorded ? ExitStatus::someFailed : ExitStatus::done;
     }
 

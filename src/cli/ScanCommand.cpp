@@ -1,12 +1,12 @@
 #include "app/AppModel.h"
 #include "app/AppTexts.h"
 #include "app/Format.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/FindingTable.h"
 #include "cli/JsonDocuments.h"
 #include "cli/SmartScan.h"
-#include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "scan/ScanProgress.h"
 
 #include <CLI/CLI.hpp>
@@ -27,16 +27,23 @@ std::string headline(const AppModel& model, const Colours& colours)
 {
     const std::int64_t safe = model.results()->safeBytes();
     if (safe == 0)
-        return colours.styled(Style::bold, Texts::kNothingSafe) + '\n';
-    return colours.styled(Style::bold, "You can safely free ") +
-           colours.styled(Style::green, byteCount(safe)) + '\n';
+        return colours.styled(Style::bold, shown(AppTexts::kNothingSafe)) + '\n';
+    // The size has a colour of its own, wherever the language puts it.
+    const std::string size = Words::figures().bytes(safe);
+    const std::string sentence = shown(Message{AppTexts::kSafelyFree, {{"size", size}}});
+    const std::size_t at = std::min(sentence.find(size), sentence.size());
+    const std::size_t behind = std::min(at + size.size(), sentence.size());
+    return colours.styled(Style::bold, sentence.substr(0, at)) +
+           colours.styled(Style::green, sentence.substr(at, behind - at)) +
+           colours.styled(Style::bold, sentence.substr(behind)) + '\n';
 }
 
-std::string figures(const AppModel& model, Seconds duration)
+Message amounts(const AppModel& model, Seconds duration)
 {
-    return byteCount(model.results()->totalFound()) + " you could review in total · " +
-           Format::counted(model.results()->scanProgress().files(), "file") + " examined in " +
-           Format::duration(duration.count());
+    return Message::joined(
+        {{CliTexts::kToReview, {{"size", Bytes{model.results()->totalFound()}}}},
+         {CliTexts::kExaminedIn, {{"count", model.results()->scanProgress().files()}, {"time", duration}}}},
+        Several::Joint::facts);
 }
 
 /// How many folders could not be read, and the first of them.
@@ -45,12 +52,12 @@ std::string unreadableLines(const AppModel& model, const Colours& colours)
     const Results::Unreadable& unreadable = model.results()->unreadableFolders();
     if (unreadable.count == 0)
         return {};
-    std::string text = '\n' + AppTexts::unreadableFolders(unreadable.count) + '\n';
-    const std::size_t shown = std::min(kFoldersShown, unreadable.paths.size());
-    for (std::size_t i = 0; i < shown; ++i)
+    std::string text = '\n' + shown(AppTexts::unreadableFolders(unreadable.count)) + '\n';
+    const std::size_t listed = std::min(kFoldersShown, unreadable.paths.size());
+    for (std::size_t i = 0; i < listed; ++i)
         text += colours.styled(Style::dim, "  " + Format::shownPath(unreadable.paths[i])) + '\n';
-    if (const std::int64_t left = unreadable.count - static_cast<std::int64_t>(shown); left > 0)
-        text += colours.styled(Style::dim, "  … and " + Format::grouped(left) + " more") + '\n';
+    if (const std::int64_t left = unreadable.count - static_cast<std::int64_t>(listed); left > 0)
+        text += colours.styled(Style::dim, "  " + shown(Message{CliTexts::kMore, {{"count", left}}})) + '\n';
     return text;
 }
 
@@ -58,22 +65,22 @@ void printResults(const AppModel& model, Seconds duration)
 {
     const Colours colours = Session::colours();
     std::string text =
-        headline(model, colours) + colours.styled(Style::dim, figures(model, duration)) + "\n\n";
+        headline(model, colours) + colours.styled(Style::dim, shown(amounts(model, duration))) + "\n\n";
     if (model.results()->findings().empty())
-        text.append(Texts::kNothingFound).append("\n");
+        text += shown(CliTexts::kNothingFound) + '\n';
     else
         text += FindingTable::of(model.results()->findings(), kEntriesShown).text(colours, Session::width());
     text += unreadableLines(model, colours);
     if (!model.results()->isFdaGranted())
-        text.append("\n").append(Texts::kNoFullAccess).append("\n");
+        text += '\n' + shown(CliTexts::kNoFullAccess) + '\n';
     if (model.results()->safeBytes() > 0)
-        text += '\n' + colours.styled(Style::dim, Texts::kHowToClean) + '\n';
+        text += '\n' + colours.styled(Style::dim, shown(CliTexts::kHowToClean)) + '\n';
     Session::print(text);
 }
 
 class ScanCommand final : public Command {
 public:
-    ScanCommand() : Command({"scan", "Run a Smart Scan of the home folder and print the rated findings"}) {}
+    ScanCommand() : Command({"scan", CliTexts::kScanSummary}) {}
 
     void addOptions(CLI::App& app) override { SmartScan::addThresholdOption(app, m_thresholdMB); }
 
@@ -88,7 +95,7 @@ public:
         else
             printResults(model, *duration);
         if (!model.isWriter())
-            session.complain(Texts::kNoSnapshot);
+            session.complain(CliTexts::kNoSnapshot);
         return ExitStatus::done;
     }
 

@@ -1,6 +1,7 @@
 #include "cli/Session.h"
 
-#include "cli/Texts.h"
+#include "cli/CliTexts.h"
+#include "model/Words.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -25,7 +26,7 @@ void Session::run(const Work& work)
     QSocketNotifier interrupted(m_interrupts.descriptor(), QSocketNotifier::Read);
     QObject::connect(&interrupted, &QSocketNotifier::activated, [&] { interrupt(work); });
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] { m_progress.show(work.status()); });
+    QObject::connect(&timer, &QTimer::timeout, [&] { m_progress.show(shown(work.status())); });
     if (m_progress.isShown())
         timer.start(kStatusInterval);
     if (isInterrupted())
@@ -59,6 +60,11 @@ void Session::print(std::string_view text)
     std::cout << text << std::flush;
 }
 
+void Session::print(const Message& message)
+{
+    print(shown(message) + '\n');
+}
+
 void Session::printDocument(const nlohmann::ordered_json& document)
 {
     using Json = nlohmann::ordered_json;
@@ -71,18 +77,18 @@ void Session::note(std::string_view text)
     std::cerr << text << std::flush;
 }
 
-void Session::complain(std::string_view sentence)
+void Session::complain(const Message& sentence)
 {
-    note(std::string("orlen: ").append(sentence) + '\n');
+    note("orlen: " + shown(sentence) + '\n');
 }
 
-void Session::complain(std::span<const std::string> sentences)
+void Session::complain(std::span<const Message> sentences)
 {
-    for (const std::string& sentence : sentences)
-        complain(std::string_view(sentence));
+    for (const Message& sentence : sentences)
+        complain(sentence);
 }
 
-ExitStatus Session::refuse(std::string_view sentence)
+ExitStatus Session::refuse(const Message& sentence)
 {
     complain(sentence);
     return ExitStatus::wrongCall;
@@ -90,7 +96,7 @@ ExitStatus Session::refuse(std::string_view sentence)
 
 ExitStatus Session::cancelled()
 {
-    complain(Texts::kCancelled);
+    complain(CliTexts::kCancelled);
     return ExitStatus::interrupted;
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/Colours.h"
 #include "cli/ProgressLine.h"
+#include "model/Message.h"
 #include "platform/process/Interrupts.h"
 
 #include <functional>
@@ -27,8 +28,8 @@ public:
     /// Work done while the event loop runs.
     struct Work {
         std::function<bool()> isDone;
-        std::function<void()> cancel;        ///< called on Ctrl-C; the work then ends on its own
-        std::function<std::string()> status; ///< text of the live line; called only if it is shown
+        std::function<void()> cancel;    ///< called on Ctrl-C; the work then ends on its own
+        std::function<Message()> status; ///< the live line; called only if it is shown
         /// Whether a second Ctrl-C may end the program at once: never while files are moved.
         enum class Nature { harmless, moving } nature = Nature::harmless;
     };
@@ -43,15 +44,17 @@ public:
 
     /// To standard output.
     static void print(std::string_view text);
+    /// One sentence, or several lines, to standard output.
+    static void print(const Message& message);
     static void printDocument(const nlohmann::ordered_json& document);
     /// To standard error.
     void note(std::string_view text);
     /// One sentence to standard error, with the program's name.
-    void complain(std::string_view sentence);
+    void complain(const Message& sentence);
     /// One per line.
-    void complain(std::span<const std::string> sentences);
+    void complain(std::span<const Message> sentences);
     /// Complains, for a command that ends as a wrong call.
-    [[nodiscard]] ExitStatus refuse(std::string_view sentence);
+    [[nodiscard]] ExitStatus refuse(const Message& sentence);
     /// Says so, for a command that ends because of Ctrl-C before anything was moved.
     [[nodiscard]] ExitStatus cancelled();
 

@@ -1,9 +1,10 @@
 #include "cli/SmartScan.h"
 
 #include "app/AppModel.h"
-#include "app/Format.h"
+#include "cli/CliTexts.h"
+#include "cli/FolderSearch.h"
 #include "cli/Session.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 #include "platform/files/Places.h"
 #include "scan/ScanProgress.h"
 
@@ -22,13 +23,13 @@ std::string checkedMegabytes(const std::string& text)
     double value = 0;
     if (CLI::detail::lexical_cast(text, value) && value >= 0 && value <= kMostMegabytes)
         return {};
-    return "must be a number of megabytes from 0 on";
+    return shown(CliTexts::kNoMegabytes);
 }
 
-std::string runningStep(const ScanProgress& progress)
+Message runningStep(const ScanProgress& progress)
 {
-    std::string first;
-    int others = 0;
+    Message first;
+    std::int64_t others = 0;
     for (const ScanStep& step : progress.steps()) {
         if (step.state != StepState::running)
             continue;
@@ -37,25 +38,24 @@ std::string runningStep(const ScanProgress& progress)
         else
             ++others;
     }
-    return others == 0 ? first : first + " +" + std::to_string(others);
+    if (others == 0)
+        return first;
+    return {CliTexts::kStepAndOthers, {{"step", within(first)}, {"others", others}}};
 }
 
-std::string status(const ScanProgress& progress)
+Message status(const ScanProgress& progress)
 {
     // The storage is measured alongside the steps and may take longer.
-    const std::string step = runningStep(progress);
-    std::string line = step.empty() ? std::string(Texts::kMeasuring) : step;
-    line += " · " + Format::counted(progress.files(), "file") + " examined";
-    if (const std::string current = progress.current(); !current.empty())
-        line += " · " + Format::shownPath(current);
-    return line;
+    const Message step = runningStep(progress);
+    return Message::joined({step.empty() ? CliTexts::kMeasuring : step, FolderSearch::status(progress)},
+                           Several::Joint::facts);
 }
 
 } // namespace
 
 void addThresholdOption(CLI::App& app, double& megabytes)
 {
-    app.add_option("--large-mb", megabytes, "Megabytes from which a file counts as large")
+    app.add_option("--large-mb", megabytes, shown(CliTexts::kLargeHelp))
         ->type_name("N")
         ->check(checkedMegabytes)
         ->capture_default_str();
@@ -64,7 +64,7 @@ void addThresholdOption(CLI::App& app, double& megabytes)
 std::optional<std::chrono::duration<double>> run(Session& session, AppModel& model, double thresholdMB)
 {
     if (!Places::current().isHomeUsable)
-        session.complain(Texts::kUnusableHome);
+        session.complain(CliTexts::kUnusableHome);
     session.complain(model.notices());
     const auto started = std::chrono::steady_clock::now();
     model.results()->setLargeThresholdMB(thresholdMB);
@@ -73,7 +73,7 @@ std::optional<std::chrono::duration<double>> run(Session& session, AppModel& mod
                  [&] { model.results()->cancelScan(); },
                  [&] { return status(model.results()->scanProgress()); }});
     if (model.results()->phase() == Phase::idle) {
-        session.complain(Texts::kCancelled);
+        session.complain(CliTexts::kCancelled);
         return std::nullopt;
     }
     return std::chrono::steady_clock::now() - started;

@@ -1,9 +1,10 @@
 #include "app/Format.h"
 #include "cli/Background.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/Table.h"
-#include "cli/Texts.h"
+#include "model/Words.h"
 #include "platform/text/PathText.h"
 #include "tools/startup/LaunchControl.h"
 
@@ -20,37 +21,46 @@ namespace {
 
 using Items = std::vector<LaunchItem>;
 
-std::string asking()
+Message asking()
 {
-    return std::string(Texts::kAskingServices);
+    return CliTexts::kAskingServices;
+}
+
+/// What is special about an item; often nothing.
+Message remark(const LaunchItem& item)
+{
+    std::vector<Message> remarks;
+    if (item.isPartOfDesktop)
+        remarks.emplace_back(CliTexts::kPartOfDesktop);
+    if (!item.isSwitchable)
+        remarks.emplace_back(item.reason);
+    return Message::joined(std::move(remarks), Several::Joint::facts);
 }
 
 void printItems(const Items& items)
 {
     const Colours colours = Session::colours();
     if (items.empty()) {
-        Session::print(std::string(Texts::kNoStartupItems) + '\n');
+        Session::print(CliTexts::kNoStartupItems);
         return;
     }
     using Kind = Table::Kind;
     Table table({{"", Kind::text},
-                 {"Item", Kind::text},
-                 {"For", Kind::text},
-                 {"Runs", Kind::path},
+                 {shown(CliTexts::kItemHeading), Kind::text},
+                 {shown(CliTexts::kForHeading), Kind::text},
+                 {shown(CliTexts::kRunsHeading), Kind::path},
                  {"", Kind::text}});
     for (const LaunchItem& item : items) {
-        std::string remark(item.isPartOfDesktop ? Texts::kPartOfDesktop : std::string_view());
-        if (!item.isSwitchable)
-            remark += (remark.empty() ? "" : " · ") + item.reason;
-        table.addRow({item.enabled ? Table::Cell{"On", Style::green} : Table::Cell{"Off", Style::dim},
+        table.addRow({item.enabled ? Table::Cell{shown(CliTexts::kOn), Style::green}
+                                   : Table::Cell{shown(CliTexts::kOff), Style::dim},
                       {PathText::forDisplay(item.label), Style::bold},
-                      {item.scope},
+                      {shown(item.scope)},
                       {Format::shownPath(item.program)},
-                      {std::move(remark), Style::orange}});
+                      {shown(remark(item)), Style::orange}});
     }
-    Session::print(colours.styled(Style::dim, Texts::kStartupItems) + "\n\n" +
+    Session::print(colours.styled(Style::dim, shown(CliTexts::kStartupItems)) + "\n\n" +
                    table.text(colours, Session::width()) + '\n' +
-                   colours.styled(Style::dim, Texts::kHowToSwitch) + '\n');
+                   colours.styled(Style::dim, shown(CliTexts::kHowToSwitch)) + '\n');
 }
 
 /// The item at this path, or else the items with this label.
@@ -68,13 +78,12 @@ Items named(const Items& items, const std::string& name)
 
 class StartupCommand final : public Command {
 public:
-    StartupCommand() : Command({"startup", "Show what starts when you log in; switch it off and on"}) {}
+    StartupCommand() : Command({"startup", CliTexts::kStartupSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        m_disable =
-            addSwitch(app, "disable", "Switch an item off: stop it now and keep it off at the next login");
-        m_enable = addSwitch(app, "enable", "Switch an item on again: it starts at the next login");
+        m_disable = addSwitch(app, "disable", CliTexts::kDisableSummary);
+        m_enable = addSwitch(app, "enable", CliTexts::kEnableSummary);
         app.require_subcommand(0, 1);
     }
 
@@ -94,10 +103,10 @@ public:
     }
 
 private:
-    CLI::App* addSwitch(CLI::App& app, const char* name, const char* summary)
+    CLI::App* addSwitch(CLI::App& app, const char* name, const Text& summary)
     {
-        CLI::App* own = app.add_subcommand(name, summary);
-        own->add_option("LABEL", m_name, "Label of the item, or the path of its file")->required();
+        CLI::App* own = app.add_subcommand(name, shown(summary));
+        own->add_option("LABEL", m_name, shown(CliTexts::kStartupItemHelp))->required();
         own->fallthrough();
         return own;
     }
@@ -106,8 +115,8 @@ private:
     {
         const Items found = named(items, m_name);
         if (found.size() != 1) {
-            session.complain(found.empty() ? std::string(Texts::kNoStartupItem) + Format::quoted(m_name) + '.'
-                                           : Format::quoted(m_name).append(Texts::kSeveralStartupItems));
+            session.complain({found.empty() ? CliTexts::kNoStartupItem : CliTexts::kSeveralStartupItems,
+                              {{"name", Format::quoted(m_name)}}});
             for (const LaunchItem& item : found)
                 session.note("  " + PathText::forDisplay(item.path) + '\n');
             return ExitStatus::wrongCall;
@@ -125,18 +134,19 @@ private:
     void report(Session& session, LaunchItem item, bool isDone)
     {
         const bool isWanted = m_enable->parsed();
-        const std::string name = Format::quoted(item.label);
+        const Place name{"name", Format::quoted(item.label)};
         if (isDone)
             item.enabled = isWanted;
         else
-            session.complain(name + std::string(isWanted ? Texts::kNotSwitchedOn : Texts::kNotSwitchedOff) +
-                             (item.isSwitchable ? "" : " " + item.reason));
+            session.complain(Message::joined(
+                {{isWanted ? CliTexts::kNotSwitchedOn : CliTexts::kNotSwitchedOff, {name}}, item.reason},
+                Several::Joint::sentences));
         if (wantsJson())
             Session::printDocument(JsonDocuments::startupItem(item));
         else if (isDone)
-            Session::print(name + std::string(isWanted ? Texts::kSwitchedOn : Texts::kSwitchedOff) + '\n');
+            Session::print({isWanted ? CliTexts::kSwitchedOn : CliTexts::kSwitchedOff, {name}});
         if (isDone && !isWanted && item.isPartOfDesktop)
-            session.complain(name + std::string(Texts::kMayBeMissed));
+            session.complain({CliTexts::kMayBeMissed, {name}});
     }
 
     std::string m_name;

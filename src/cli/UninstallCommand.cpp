@@ -2,14 +2,15 @@
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
+#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/PathArgument.h"
 #include "cli/PlanCarrier.h"
-#include "cli/Texts.h"
-#include "platform/text/ByteCount.h"
+#include "model/Words.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 #include "scan/FS.h"
+#include "scan/ScanTexts.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Leftovers.h"
 #include "tools/apps/Uninstall.h"
@@ -57,15 +58,12 @@ Prepared prepared(AppInfo app, const Apps& listed, const std::stop_token& stop)
 
 class UninstallCommand final : public Command {
 public:
-    UninstallCommand()
-        : Command({"uninstall", "Move an application and its leftovers to the Trash after a yes"})
-    {
-    }
+    UninstallCommand() : Command({"uninstall", CliTexts::kUninstallSummary}) {}
 
     void addOptions(CLI::App& app) override
     {
-        app.add_option("NAME", m_argument, "Name or path of the application")->required();
-        app.add_flag("--by-name", m_isByNameTaken, "Take leftovers along that are matched by name only");
+        app.add_option("NAME", m_argument, shown(CliTexts::kAppHelp))->required();
+        app.add_flag("--by-name", m_isByNameTaken, shown(CliTexts::kByNameHelp));
         m_carrier.addOptions(app);
     }
 
@@ -73,11 +71,11 @@ public:
     {
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::writer, {}});
         if (!m_carrier.isReady(model))
-            return session.refuse(Texts::kOtherWriter);
+            return session.refuse(CliTexts::kOtherWriter);
         session.complain(model.notices());
         Safety::refresh();
         const auto apps = Background::resultUnlessCancelled(
-            session, [] { return std::string(Texts::kLookingForApps); },
+            session, [] { return CliTexts::kLookingForApps; },
             [](const std::stop_token& stop) { return AppList::list(stop); });
         if (!apps)
             return session.cancelled();
@@ -85,7 +83,7 @@ public:
         if (!app)
             return ExitStatus::wrongCall;
         const auto ready = Background::resultUnlessCancelled(
-            session, [] { return std::string(Texts::kLookingForLeftovers); },
+            session, [] { return CliTexts::kLookingForLeftovers; },
             [&](const std::stop_token& stop) { return prepared(*app, *apps, stop); });
         if (!ready)
             return session.cancelled();
@@ -106,11 +104,11 @@ private:
     {
         const Apps found = named(apps, m_argument);
         if (found.empty()) {
-            session.complain(std::string(Texts::kNoApp) + Format::quoted(m_argument) + '.');
+            session.complain({CliTexts::kNoApp, {{"name", Format::quoted(m_argument)}}});
             return std::nullopt;
         }
         if (found.size() > 1) {
-            session.complain(Format::quoted(m_argument).append(Texts::kSeveralApps));
+            session.complain({CliTexts::kSeveralApps, {{"name", Format::quoted(m_argument)}}});
             for (const AppInfo& app : found)
                 session.note("  " + PathText::forDisplay(app.path) + '\n');
             return std::nullopt;
@@ -125,20 +123,23 @@ private:
     static void warn(Session& session, const Prepared& ready)
     {
         if (Leftovers::isApple(ready.app.bundleID))
-            session.complain(Texts::kAppleApp);
+            session.complain(CliTexts::kAppleApp);
         if (ready.isRunning)
-            session.complain("Quit " + PathText::forDisplay(ready.app.name) + " first");
+            session.complain({ScanTexts::kQuitFirst, {{"name", PathText::forDisplay(ready.app.name)}}});
         if (ready.leftovers.isOtherCopyInstalled)
-            session.complain(Texts::kOtherCopy);
+            session.complain(CliTexts::kOtherCopy);
     }
 
     static void showLeft(Session& session, const std::vector<FileEntry>& byName)
     {
         if (byName.empty())
             return;
-        session.complain(Texts::kByNameLeft);
-        for (const FileEntry& entry : byName)
-            session.note("  " + Format::shownPath(entry.path) + " (" + byteCount(entry.size) + ")\n");
+        session.complain(CliTexts::kByNameLeft);
+        for (const FileEntry& entry : byName) {
+            const Message line{CliTexts::kPathAndSize,
+                               {{"path", Format::shownPath(entry.path)}, {"size", Bytes{entry.size}}}};
+            session.note("  " + shown(line) + '\n');
+        }
     }
 
     std::string m_argument;

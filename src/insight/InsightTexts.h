@@ -39,8 +39,8 @@ inline constexpr Text kAboutDays = messages("about {count} day", "about {count} 
 inline constexpr Text kAboutWeeks = messages("about {count} week", "about {count} weeks");
 inline constexpr Text kAboutMonths = messages("about {count} month", "about {count} months");
 inline constexpr Text kMoreThanTwoYears = message("more than 2 years");
-// TRANSLATORS: {size} and {free} are sizes.
 inline constexpr Text kGrowing =
+    // TRANSLATORS: {size} and {free} are sizes.
     message("Used space is growing by about {size} per day, and {free} is free.");
 inline constexpr Text kStable = message("Your free space is stable");
 inline constexpr Text kNotGrowing = messages("Based on {count} scan, used space isn't growing.",
@@ -91,8 +91,8 @@ inline constexpr Text kCouldFree =
             "can look at every file before anything moves to the Trash.");
 inline constexpr Text kNoSafeItems = message("Nothing is rated Safe right now. Look at the Review items, "
                                              "remembering these ratings are suggestions.");
-// TRANSLATORS: {wanted} is the size asked for; {size} is that of all the findings.
 inline constexpr Text kSafeIsEnough =
+    // TRANSLATORS: {wanted} is the size asked for; {size} is that of all the findings.
     message("To free {wanted}, what is rated Safe is enough: {findings}, {size} in all.");
 inline constexpr Text kNothingSafe = message("Nothing is rated Safe.");
 inline constexpr Text kAllSafe = message("Everything rated Safe frees {size}: {findings}.");
@@ -106,8 +106,8 @@ inline constexpr Text kNothingMovesYet =
 inline constexpr Text kNoDownloads =
     message("I didn't find anything in Downloads that looks worth removing. Items there are only listed if "
             "they're old or duplicated.");
-// TRANSLATORS: a list of files follows.
 inline constexpr Text kDownloads =
+    // TRANSLATORS: a list of files follows.
     messages("Downloads has {count} item you haven't touched in over a month, about {size}:",
              "Downloads has {count} items you haven't touched in over a month, about {size}:");
 inline constexpr Text kDownload = message("• {name} — {size}");
@@ -158,8 +158,8 @@ inline constexpr Text kTheNewest = message("The newest:");
 inline constexpr Text kFileChanged = message("• {path} ({size}), changed {date} — {rating}");
 inline constexpr Text kFileOpened = message("• {path} ({size}), opened {date} — {rating}");
 inline constexpr Text kFileUndated = message("• {path} ({size}) — {rating}");
-// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
 inline constexpr Text kNoneListed =
+    // TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
     message("The last scan lists no {files}. It lists only what may be worth a look: large, old, duplicate "
             "and similar files.");
 // TRANSLATORS: {files} is "videos" and the like.
@@ -171,8 +171,8 @@ inline constexpr Text kSomeListed = messages("Of {files} the last scan lists {co
                                              "doesn't list those it sees no reason to move.",
                                              "Of {files} the last scan lists {count} items, {size}; it "
                                              "doesn't list those it sees no reason to move.");
-// TRANSLATORS: {files} is "log files" and the like; {size} and {safe} are sizes.
 inline constexpr Text kWithoutThem =
+    // TRANSLATORS: {files} is "log files" and the like; {size} and {safe} are sizes.
     messages("Without the {files} that the last scan lists you would have {size} more ({count} item, "
              "{size}); {safe} of that is rated Safe. Space comes back once you empty the Trash.",
              "Without the {files} that the last scan lists you would have {size} more ({count} items, "
@@ -182,13 +182,13 @@ inline constexpr Text kCategoryTakes = message("The category {category} takes {s
 inline constexpr Text kFolderTakes = message("The folder {folder} takes {size}.");
 
 // A file or folder by its name. {title} is that of a finding; {note} a few words or a sentence about it.
-// TRANSLATORS: {title} is a group of files such as "Log files".
 inline constexpr RatedText kListedAs{
+    // TRANSLATORS: {title} is a group of files such as "Log files".
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Safe."),
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Review."),
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Keep.")};
-// TRANSLATORS: {title} is a group of files such as "Log files"; {note} says more about this one.
 inline constexpr RatedText kListedWithNote{
+    // TRANSLATORS: {title} is a group of files such as "Log files"; {note} says more about this one.
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Safe ({note})."),
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Review ({note})."),
     message("{name} ({size}) in {folder}, listed under “{title}”, is rated Keep ({note}).")};
@@ -210,8 +210,8 @@ inline constexpr Text kNotSuggested =
     message("The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it.");
 inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
                                                 "clean-up. History can put it back.");
-// TRANSLATORS: "orlen explain" is a command.
 inline constexpr Text kNotListed =
+    // TRANSLATORS: "orlen explain" is a command.
     message("“{name}” is not in the results of the last scan, so I have no rating for it. Check what it is "
             "before you remove it; “orlen explain” with its path tells more.");
 
@@ -224,14 +224,14 @@ inline constexpr Text kBetterLeaveIt = message("Better leave it where it is. A c
 inline constexpr Text kInTrash = message("It is already in the Trash; Orlen never empties it for you.");
 // TRANSLATORS: {group} is a heading such as "Browser profiles"; {reason} is a whole sentence.
 inline constexpr Text kItIsProtected = message("It is protected, because it belongs to “{group}”: {reason}");
-// TRANSLATORS: {group} is a heading such as "Browser profiles"; {reason} is a whole sentence.
 inline constexpr Text kPathIsProtected =
+    // TRANSLATORS: {group} is a heading such as "Browser profiles"; {reason} is a whole sentence.
     message("{path} is protected, because it belongs to “{group}”: {reason} Orlen never moves it.");
-// TRANSLATORS: {group} is a heading such as "Your main folders"; {reason} is a whole sentence.
 inline constexpr Text kFolderIsProtected =
+    // TRANSLATORS: {group} is a heading such as "Your main folders"; {reason} is a whole sentence.
     message("{folder} itself is protected, because it belongs to “{group}”: {reason}");
-// TRANSLATORS: {reason} is a whole sentence.
 inline constexpr Text kSystemIsProtected =
+    // TRANSLATORS: {reason} is a whole sentence.
     message("System data is protected: {reason} Orlen leaves it alone.");
 
 // Past clean-ups.
@@ -239,15 +239,15 @@ inline constexpr Text kNoCleanUp = message("There hasn't been a clean-up yet.");
 inline constexpr Text kLastCleanUp =
     messages("Your last clean-up was on {date}: it moved {count} item, {size}, to the Trash.",
              "Your last clean-up was on {date}: it moved {count} items, {size}, to the Trash.");
-// TRANSLATORS: follows the sentence about the last clean-up.
 inline constexpr Text kPutBack =
+    // TRANSLATORS: follows the sentence about the last clean-up.
     messages("{count} item of it has been put back.", "{count} items of it has been put back.");
 inline constexpr Text kCleanUps =
     messages("{count} clean-up since {date} moved {size} to the Trash in all.",
              "{count} clean-ups since {date} moved {size} to the Trash in all.");
 inline constexpr Text kHistoryListsThem = message("History lists them.");
-// TRANSLATORS: "orlen history" and "orlen restore" are commands.
 inline constexpr Text kHowToRestore =
+    // TRANSLATORS: "orlen history" and "orlen restore" are commands.
     message("To put things back, open History, choose the clean-up and restore it; or use “orlen history” "
             "and “orlen restore”.");
 inline constexpr Text kUntilTrashIsEmptied =
@@ -262,30 +262,30 @@ inline constexpr Text kNeverTouched =
             "applications; keys, passwords and keyrings; browser profiles, mail and chats; synced folders; "
             "and your own folders such as Documents and Pictures, though files in them may be suggested. It "
             "deletes nothing: what you tick moves to the Trash.");
-// TRANSLATORS: what the rating "Safe" means.
 inline constexpr Text kSafeMeans =
+    // TRANSLATORS: what the rating "Safe" means.
     message("Safe: data that programs create again by themselves, or exact copies. It is ticked for you.");
-// TRANSLATORS: what the rating "Review" means.
 inline constexpr Text kReviewMeans =
+    // TRANSLATORS: what the rating "Review" means.
     message("Review: probably no longer needed, but only you can tell. Look before you tick it.");
-// TRANSLATORS: what the rating "Keep" means.
 inline constexpr Text kKeepMeans = message(
+    // TRANSLATORS: what the rating "Keep" means.
     "Keep: a name or place suggests that it matters, such as an invoice, a contract or tax papers. It "
     "is a warning, not a lock.");
-// TRANSLATORS: what the category "System" means.
 inline constexpr Text kSystemMeans =
+    // TRANSLATORS: what the category "System" means.
     message("System: everything on the disk that no other category counts, mostly the operating system "
             "itself. Orlen shows its size and leaves it alone.");
 inline constexpr Text kRatingsAreSuggestions =
     message("Ratings are suggestions; nothing moves before you say so.");
 
 // For what is not understood.
-// TRANSLATORS: the suggested questions are understood in every language: use their words for these.
 inline constexpr Text kHelp =
+    // TRANSLATORS: the suggested questions are understood in every language: use their words for these.
     message("I can answer questions about your scan, for example “what is using the most space?”, “what can "
             "I delete from my Downloads folder?”, “are there duplicates?” or “when will my disk be full?”.");
-// TRANSLATORS: questions such as these are understood in English only: leave what is in quotation marks.
 inline constexpr Text kDontKnow =
+    // TRANSLATORS: questions such as these are understood in English only: leave what is in quotation marks.
     message("I don't know that. I can answer questions about a file or folder by name (“can I delete "
             "report.pdf?”), lists (“the five biggest videos”), free space, clean-ups and ratings.");
 

@@ -1,5 +1,7 @@
 #include "model/RaterTables.h"
 
+#include "model/ModelTexts.h"
+
 #include <algorithm>
 #include <array>
 
@@ -57,10 +59,10 @@ constexpr auto kKnownTexts = std::to_array<KnownLocation>({
     {"/Library/Caches/CloudKit", keep, message("Used for iCloud sync. Removing it can force a slow re-sync.")},
     {"/Library/Caches/com.apple.bird", keep, message("Used by iCloud Drive.")},
     {"/Library/Caches/com.apple.Safari", safe, message("Safari rebuilds its web cache.")},
-    {"/Library/Caches/Google", safe, message("Browser cache, rebuilt as you browse.")},
+    {"/Library/Caches/Google", safe, ModelTexts::kBrowserCache},
     {"/Library/Caches/com.spotify", safe, message("Cached audio; it downloads again when played.")},
     {"/Xcode/DerivedData/ModuleCache", safe, message("Rebuilt by Xcode automatically.")},
-    {"/Service Worker/CacheStorage", review, message("May hold offline data of a web app.")},
+    {"/Service Worker/CacheStorage", review, ModelTexts::kOfflineData},
     {".kdbx", keep, message("Password database.")},
 });
 // clang-format on

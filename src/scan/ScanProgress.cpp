@@ -1,5 +1,6 @@
 #include "scan/ScanProgress.h"
 
+#include "model/FindingKind.h"
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanTexts.h"
 
@@ -16,8 +17,29 @@ constexpr std::int64_t kItemsPerPath = 48;
 
 Text label(StepKind step)
 {
-    static_assert(std::size(ScanTexts::kSteps) == kScanSteps);
-    return ScanTexts::kSteps[static_cast<std::size_t>(step)];
+    switch (step) {
+    case StepKind::cachesAndLogs:
+        return ScanTexts::kCachesAndLogs;
+    case StepKind::backups:
+        return ScanTexts::kBackupsAndUpdates;
+    case StepKind::developer:
+        return ScanTexts::kDeveloperTools;
+    case StepKind::packageCaches:
+        return ScanTexts::kPackageCaches;
+    case StepKind::trashAndMail:
+        return ScanTexts::kTrashAndMail;
+    case StepKind::languagePacks:
+        return meta(FindingKind::languagePacks).title;
+    case StepKind::downloads:
+        return ScanTexts::kDownloads;
+    case StepKind::largeAndOld:
+        return ScanTexts::kLargeAndOldFiles;
+    case StepKind::duplicates:
+        return meta(FindingKind::duplicates).title;
+    case StepKind::photos:
+        return orlen::label(OrlenCategory::photos);
+    }
+    return {};
 }
 
 ScanProgress::ScanProgress()

@@ -12,7 +12,6 @@ inline constexpr Text kRebuiltOnOpening = message("Rebuilt when the project open
 inline constexpr Text kUsedByProjects = message("Open projects use these");
 inline constexpr Text kUsedInPlace = message("Projects use these packages in place.");
 inline constexpr Text kLargeDownload = message("Large download; needed again by programs that use it.");
-inline constexpr Text kOfflineData = message("May hold offline data of a web app.");
 inline constexpr Text kUnknownCache =
     message("Orlen does not know this cache. Most can go; look inside first.");
 inline constexpr Text kWindowsTemporary = message("Temporary files of a Windows program");
@@ -61,11 +60,13 @@ inline constexpr Text kMeme = message("Looks like a meme or captioned image");
 // TRANSLATORS: {score} is a whole number; sharp photos have a hundred and more.
 inline constexpr Text kBlurry = message("Sharpness score {score} — likely out of focus");
 
-// The steps of a scan, in their order.
-inline constexpr Text kSteps[] = {message("Caches & logs"),   message("Backups & updates"),
-                                  message("Developer tools"), message("Package caches"),
-                                  message("Trash & mail"),    message("Language packs"),
-                                  message("Downloads"),       message("Large & old files"),
-                                  message("Duplicate files"), message("Photos")};
+// Steps of a scan that are not named after a kind of finding or a category.
+inline constexpr Text kCachesAndLogs = message("Caches & logs");
+inline constexpr Text kBackupsAndUpdates = message("Backups & updates");
+inline constexpr Text kDeveloperTools = message("Developer tools");
+inline constexpr Text kPackageCaches = message("Package caches");
+inline constexpr Text kTrashAndMail = message("Trash & mail");
+inline constexpr Text kDownloads = message("Downloads");
+inline constexpr Text kLargeAndOldFiles = message("Large & old files");
 
 } // namespace orlen::ScanTexts

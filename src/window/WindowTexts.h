@@ -35,16 +35,12 @@ inline constexpr Text kDoneOf = messages("{count} of {total}", "{count} of {tota
 // TRANSLATORS: {share} is 1 %.
 inline constexpr Text kLessThan = message("< {share}");
 inline constexpr Text kFree = message("{size} free");
-// TRANSLATORS: The size of a folder, of which not all could be seen.
-inline constexpr Text kAtLeast = message("at least {size}");
 
 // Dates of a file
 inline constexpr Text kOpened = message("Opened {date}");
 inline constexpr Text kModified = message("Modified {date}");
 
 // Findings
-inline constexpr Text kSafelyFree = message("You can safely free {size}");
-inline constexpr Text kNothingSafe = message("Nothing is rated Safe right now");
 inline constexpr Text kWhySafe = message("Why Safe: {reason}");
 inline constexpr Text kWhyReview = message("Why Review: {reason}");
 inline constexpr Text kWhyKeep = message("Why Keep: {reason}");
@@ -64,7 +60,6 @@ inline constexpr Text kNotVisible = message("Not visible to Orlen");
 inline constexpr Text kRestOfHome = message("The rest of your home folder");
 inline constexpr Text kFilesIn = message("Files in {folder}");
 inline constexpr Text kHeldBack = message("For administrators only, or held in reserve");
-inline constexpr Text kOnOtherDisk = message("It is on another disk than your home folder.");
 
 // Disk map
 inline constexpr Text kHome = messageIn("the user's folder", "Home");
@@ -75,7 +70,6 @@ inline constexpr Text kSpokenFile = message("{name}, {size}, file");
 // Clean-ups and their history
 inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");
 inline constexpr Text kNotMoved = messages("{count} couldn't be moved", "{count} couldn't be moved");
-inline constexpr Text kRestoredCount = messages("{count} restored", "{count} restored");
 inline constexpr Text kInTrash = message("In the Trash");
 inline constexpr Text kRestoredItem = messageIn("an item", "Restored");
 inline constexpr Text kGone = message("No longer in the Trash");
@@ -85,18 +79,14 @@ inline constexpr Text kGone = message("No longer in the Trash");
 inline constexpr Text kAppBundle = message("App bundle");
 inline constexpr Text kAppFolder = message("App folder");
 inline constexpr Text kRemovedFlatpak = message("Data of a removed Flatpak");
-inline constexpr Text kLeftoversByName = message("Leftovers found by name");
-inline constexpr Text kLeftoversByIdentifier = message("Leftovers found by bundle identifier ({id})");
-// TRANSLATORS: {name} is an application that is running.
-inline constexpr Text kQuitFirst = message("Quit {name} first");
 
 // Forecast
 inline constexpr Text kNoChange = message("No change");
 inline constexpr Text kGrowth = message("+{size} / week");
 inline constexpr Text kDecline = message("\u2212{size} / week");
-// TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write {folder},
-// which is the true place.
 inline constexpr Text kSnapshots = messages(
+    // TRANSLATORS: Instead of "Mac" say "computer", and instead of "Application Support/Orlen" write
+    // {folder}, which is the true place.
     "{count} snapshot are stored on this Mac in Application Support/Orlen. A snapshot is saved after each "
     "Smart Scan, and when Orlen opens if the last one is over 12 hours old. Orlen does not run in the "
     "background, so predictions improve the more you use it. They are estimates from a straight-line fit, "

@@ -23,8 +23,8 @@ using testing::SizeIs;
 CleanPlan planOf(std::vector<std::string> paths)
 {
     CleanPlan plan;
-    plan.title = "Some of it";
-    PlanSection section{"caches", "App caches", "internaldrive.fill", {}};
+    plan.title = Message::verbatim("Some of it");
+    PlanSection section{"caches", message("App caches"), "internaldrive.fill", {}};
     for (std::string& path : paths)
         section.entries.push_back({std::move(path), 4096});
     plan.sections.push_back(std::move(section));
@@ -60,7 +60,7 @@ TEST(AppModelCleanupTest, movedEntriesLeaveTheResultsAndEnterTheHistory)
     std::erase_if(plan.sections, [](const PlanSection& section) { return section.id == "logs"; });
     model.cleanUps()->confirm(plan);
     EXPECT_EQ(model.cleanUps()->cleaning()->total, 1);
-    EXPECT_EQ(model.cleanUps()->cleaning()->planTitle, "Smart Scan clean-up");
+    EXPECT_EQ(model.cleanUps()->cleaning()->planTitle.base(), "Smart Scan clean-up");
     ASSERT_TRUE(waitUntil([&] { return model.cleanUps()->cleaning()->finished; }));
     EXPECT_EQ(model.cleanUps()->cleaning()->moved, 1);
     EXPECT_EQ(model.cleanUps()->cleaning()->failed, 0);
@@ -220,7 +220,7 @@ TEST(AppModelCleanupTest, restoringTellsWhatCameBack)
         for (const std::string& name : c.recreated)
             home.file(".cache/" + name, "new");
         const CleanUps::Restoration first = model.cleanUps()->restore(model.cleanUps()->history().front());
-        EXPECT_EQ(first.message, c.message);
+        EXPECT_EQ(first.message.base(), c.message);
         EXPECT_EQ(first.outcome.failed, static_cast<int>(c.recreated.size()));
         EXPECT_EQ(TempHome::content(paths.front()), "content of a");
         EXPECT_EQ(Persist::loadHistory().records.front().items, first.outcome.record.items);
@@ -237,7 +237,7 @@ TEST(AppModelCleanupTest, aForgottenRecordIsRestoredButNotRemembered)
     ASSERT_TRUE(cleaned(model, planOf({home.file(".cache/a")})));
     CleanRecord stranger = model.cleanUps()->history().front();
     stranger.id = Uuid::random();
-    EXPECT_EQ(model.cleanUps()->restore(stranger).message, "Restored 1 item.");
+    EXPECT_EQ(model.cleanUps()->restore(stranger).message.base(), "Restored 1 item.");
     ASSERT_THAT(model.cleanUps()->history(), SizeIs(1));
     EXPECT_FALSE(model.cleanUps()->history().front().items.front().restored);
 }
@@ -253,7 +253,7 @@ TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne
     QObject::connect(model.cleanUps(), &CleanUps::restored, [&](const CleanUps::Restoration& restoration) {
         EXPECT_FALSE(model.cleanUps()->isRestoring(record.id));
         EXPECT_EQ(model.cleanUps()->history().front(), restoration.outcome.record);
-        messages.push_back(restoration.message);
+        messages.push_back(restoration.message.base());
     });
     EXPECT_TRUE(model.cleanUps()->startRestore(record));
     EXPECT_TRUE(model.cleanUps()->isRestoring(record.id));

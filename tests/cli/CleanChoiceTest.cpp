@@ -1,5 +1,6 @@
 #include "cli/CleanChoice.h"
 
+#include "cli/CliTexts.h"
 #include "cli/ItemList.h"
 
 #include "support/TempHome.h"
@@ -66,7 +67,7 @@ TEST(CleanChoiceTest, kindsLimitWhatTheScanSelected)
         for (const std::string& name : c.expected)
             expected.insert(home.path(name));
         EXPECT_EQ(result.paths, expected);
-        EXPECT_THAT(result.objection, IsEmpty());
+        EXPECT_EQ(result.objection, Message());
     }
 }
 
@@ -92,8 +93,8 @@ TEST(CleanChoiceTest, aPathThatMayNotMoveStopsEverything)
         SCOPED_TRACE(c.name);
         const CleanChoice choice{{}, false, {home.path(".cache/a"), c.path}};
         const CleanChoice::Result result = choice.apply(found, {});
-        EXPECT_THAT(result.objection, HasSubstr(c.objection));
-        EXPECT_EQ(result.objection.find('\n'), std::string::npos);
+        EXPECT_THAT(result.objection.base(), HasSubstr(c.objection));
+        EXPECT_EQ(result.objection.base().find('\n'), std::string::npos);
         EXPECT_THAT(result.paths, IsEmpty());
     }
 }
@@ -103,15 +104,16 @@ TEST(ItemListTest, countsWhatMovesOnce)
     const TempHome home;
     const FileEntry both = entry(home, "both");
     CleanPlan plan;
-    plan.sections = {{"oldDownloads", "", "", {both, entry(home, "f")}},
-                     {"duplicates", "", "", {both, entry(home, "f/inside")}}};
-    EXPECT_EQ(ItemList::toClean(plan, ItemList::Beside::nothing).summary(), "2 items (8 KB)");
+    plan.sections = {{"oldDownloads", {}, "", {both, entry(home, "f")}},
+                     {"duplicates", {}, "", {both, entry(home, "f/inside")}}};
+    const ItemList list = ItemList::toClean(plan, ItemList::Beside::nothing);
+    EXPECT_EQ(list.summary(CliTexts::kItemsOfSize).base(), "2 items (8 KB)");
 }
 
 TEST(CleanChoiceTest, aPathOfTwoFindingsIsPlannedOnlyForTheKindAskedFor)
 {
     CleanPlan plan;
-    plan.sections = {{"oldDownloads", "", "", {}}, {"duplicates", "", "", {}}};
+    plan.sections = {{"oldDownloads", {}, "", {}}, {"duplicates", {}, "", {}}};
     EXPECT_THAT((CleanChoice{{"duplicates"}, true, {}}.limited(plan).sections), SizeIs(1));
     EXPECT_THAT(CleanChoice{}.limited(plan).sections, SizeIs(2));
 }

@@ -15,13 +15,13 @@ namespace orlen {
 namespace {
 
 using testing::HasSubstr;
-using Words = std::vector<std::string>;
+using Arguments = std::vector<std::string>;
 
 /// A home folder, parts of which lie on a server that is gone.
 struct Stricken {
     const char* name;
     const char* runtime;        ///< folder of sockets, beside the home folder
-    Words dead;                 ///< mount points below the home folder; "." for itself
+    Arguments dead;             ///< mount points below the home folder; "." for itself
     const char* link = nullptr; ///< leads to a dead mount outside
     bool isNamedByLink = false; ///< the home folder itself is given through a link
     const char* told = nullptr; ///< what a look into the history says of it
@@ -71,19 +71,19 @@ protected:
     [[nodiscard]] std::string folderOf(const Stricken& stricken) const { return home.outside(stricken.name); }
 
     /// The program in that home folder; killed, which the status tells, when it hangs.
-    [[nodiscard]] CommandOutcome run(const Stricken& stricken, const Words& arguments,
-                                     const Words& around) const
+    [[nodiscard]] CommandOutcome run(const Stricken& stricken, const Arguments& arguments,
+                                     const Arguments& around) const
     {
-        Words words{"sh",
-                    "-c",
-                    "cd /; exec \"$@\" 2>&1",
-                    "sh",
-                    "env",
-                    "HOME=" + (stricken.isNamedByLink ? home.outside("home-link") : folderOf(stricken)),
-                    "QT_QPA_PLATFORM=offscreen",
-                    "XDG_RUNTIME_DIR=" + home.outside(stricken.runtime),
-                    "ASAN_OPTIONS=detect_leaks=0", // the window keeps what it has drawn
-                    "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
+        Arguments words{"sh",
+                        "-c",
+                        "cd /; exec \"$@\" 2>&1",
+                        "sh",
+                        "env",
+                        "HOME=" + (stricken.isNamedByLink ? home.outside("home-link") : folderOf(stricken)),
+                        "QT_QPA_PLATFORM=offscreen",
+                        "XDG_RUNTIME_DIR=" + home.outside(stricken.runtime),
+                        "ASAN_OPTIONS=detect_leaks=0", // the window keeps what it has drawn
+                        "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
         words.insert(words.end(), around.begin(), around.end());
         words.emplace_back(ORLEN_BINARY);
         words.insert(words.end(), arguments.begin(), arguments.end());
@@ -96,29 +96,29 @@ protected:
 
 TEST_F(DeadMountTest, nothingWaitsForAServerThatIsGone)
 {
-    const Words kill{"timeout", "-s", "KILL", "25"};
+    const Arguments kill{"timeout", "-s", "KILL", "25"};
     // Long enough to open the window, which then is closed as by the session.
-    const Words close{"timeout", "--preserve-status", "-k", "20", "5"};
-    const Words commands[] = {{},
-                              {"scan"},
-                              {"clean", "--dry-run"},
-                              {"history"},
-                              {"map"},
-                              {"apps"},
-                              {"breakdown"},
-                              {"startup"},
-                              {"ask", "What is taking up space?"},
-                              {"predict"},
-                              {"duplicates"}};
-    const Words moving{"clean", "--yes"};
+    const Arguments close{"timeout", "--preserve-status", "-k", "20", "5"};
+    const Arguments commands[] = {{},
+                                  {"scan"},
+                                  {"clean", "--dry-run"},
+                                  {"history"},
+                                  {"map"},
+                                  {"apps"},
+                                  {"breakdown"},
+                                  {"startup"},
+                                  {"ask", "What is taking up space?"},
+                                  {"predict"},
+                                  {"duplicates"}};
+    const Arguments moving{"clean", "--yes"};
     struct Run {
         const Stricken& stricken;
-        const Words& command;
+        const Arguments& command;
         CommandOutcome outcome;
     };
     std::vector<Run> runs;
     for (const Stricken& stricken : kHomes) {
-        for (const Words& command : commands)
+        for (const Arguments& command : commands)
             runs.push_back({stricken, command, {}});
     }
     // Without Trash and history a clean-up is refused.

@@ -15,7 +15,7 @@ namespace orlen {
 
 namespace {
 
-[[noreturn]] void become(const std::vector<std::string>& arguments)
+[[noreturn]] void become(const std::string& program, const std::vector<std::string>& arguments)
 {
     std::vector<char*> argv{const_cast<char*>("orlen")};
     for (const std::string& argument : arguments)
@@ -23,7 +23,7 @@ namespace {
     argv.push_back(nullptr);
     // A program started in the background may have been told to ignore Ctrl-C.
     std::signal(SIGINT, SIG_DFL);
-    ::execv(ORLEN_BINARY, argv.data());
+    ::execv(program.c_str(), argv.data());
     ::_exit(127);
 }
 
@@ -65,7 +65,7 @@ void holdBackAnInterrupt()
     ::raise(SIGINT);
 }
 
-Process::Outcome started(const std::vector<std::string>& arguments, void (*prepare)())
+Process::Outcome started(const Process& process, void (*prepare)())
 {
     Pipe out = makePipe();
     Pipe err = makePipe();
@@ -76,7 +76,7 @@ Process::Outcome started(const std::vector<std::string>& arguments, void (*prepa
         ::dup2(out.writing.get(), STDOUT_FILENO);
         ::dup2(err.writing.get(), STDERR_FILENO);
         prepare();
-        become(arguments);
+        become(process.program, process.arguments);
     }
     out.writing.reset();
     err.writing.reset();
@@ -92,12 +92,12 @@ Process::Outcome started(const std::vector<std::string>& arguments, void (*prepa
 
 Process::Outcome Process::run() const
 {
-    return started(arguments, [] {});
+    return started(*this, [] {});
 }
 
 Process::Outcome Process::runInterrupted() const
 {
-    return started(arguments, holdBackAnInterrupt);
+    return started(*this, holdBackAnInterrupt);
 }
 
 Process::Outcome Process::runOnTerminal(const std::string& prompt,
@@ -108,7 +108,7 @@ Process::Outcome Process::runOnTerminal(const std::string& prompt,
     const pid_t child = ::forkpty(&terminal, nullptr, nullptr, &size);
     if (child == 0) {
         ::setenv("TERM", "xterm", 1);
-        become(arguments);
+        become(program, arguments);
     }
     const UniqueFd owner(terminal);
     Outcome outcome;

@@ -24,6 +24,7 @@ struct Process {
     };
 
     std::vector<std::string> arguments;
+    std::string program = ORLEN_BINARY;
 
     /// Without a terminal; standard input is empty.
     [[nodiscard]] Outcome run() const;

@@ -82,24 +82,19 @@ TEST(DisplayWidthTest, elidedTextNeverExceedsItsRoom)
     EXPECT_EQ(DisplayWidth::elidedMiddle("abcdefghij", 7), "ab…ghij");
 }
 
-TEST(TextsTest, numbersAndDurationsReadWell)
-{
-    EXPECT_EQ(Format::counted(1, "entry"), "1 entry");
-    EXPECT_EQ(Format::counted(12'345, "entry"), "12,345 entries");
-    EXPECT_EQ(Format::grouped(999), "999");
-    EXPECT_EQ(Format::grouped(1'000'000), "1,000,000");
-    EXPECT_EQ(Format::duration(0.042), "42 ms");
-    EXPECT_EQ(Format::duration(9.94), "9.9 s");
-    EXPECT_EQ(Format::duration(9.96), "10 s");
-    EXPECT_EQ(Format::duration(59.6), "1 min 0 s");
-}
-
-TEST(TextsTest, aPathIsShownOnOneLineWithoutTheHomeFolder)
+TEST(FormatTest, aPathIsShownOnOneLineWithoutTheHomeFolder)
 {
     const TempHome home;
     EXPECT_EQ(Format::shownPath(home.path("a\nb")), "~/a?b");
     EXPECT_EQ(Format::shownPath(home.path()), "~");
     EXPECT_EQ(Format::shownPath(home.path() + "x"), home.path() + "x");
+}
+
+TEST(FormatTest, noNameInAMessageReachesTheTerminalAsItIs)
+{
+    const Message inside{message("{name} cache"), {{"name", "a\x1b[31mb"}}};
+    const Message line = Message::joined({Message::verbatim("x\ny"), inside}, Several::Joint::facts);
+    EXPECT_EQ(Format::displayable(line).base(), "x?y · a?[31mb cache");
 }
 
 } // namespace orlen

@@ -1,6 +1,7 @@
 #include "window/apps/AppDetailModel.h"
 
 #include "platform/values/CheckedSum.h"
+#include "scan/ScanTexts.h"
 #include "tools/apps/AppList.h"
 #include "tools/apps/Uninstall.h"
 #include "window/WindowTexts.h"
@@ -156,7 +157,7 @@ QString AppDetailModel::quitFirst() const
 {
     if (!m_isRunning)
         return {};
-    return DisplayText::text(Message(WindowTexts::kQuitFirst, {{"name", m_info.name}}));
+    return DisplayText::text(Message(ScanTexts::kQuitFirst, {{"name", m_info.name}}));
 }
 
 QString AppDetailModel::total() const

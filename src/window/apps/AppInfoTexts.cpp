@@ -1,5 +1,6 @@
 #include "window/apps/AppInfoTexts.h"
 
+#include "app/AppTexts.h"
 #include "window/WindowTexts.h"
 #include "window/apps/AppIconProvider.h"
 #include "window/lists/DisplayText.h"
@@ -74,8 +75,8 @@ QString iconId(const AppInfo& app)
 QString leftoversHeading(const AppInfo& app)
 {
     if (app.bundleID.empty())
-        return DisplayText::text(WindowTexts::kLeftoversByName);
-    return DisplayText::text(Message(WindowTexts::kLeftoversByIdentifier, {{"id", app.bundleID}}));
+        return DisplayText::text(AppTexts::kLeftoversByName);
+    return DisplayText::text(Message(AppTexts::kLeftoversByIdentifier, {{"id", app.bundleID}}));
 }
 
 } // namespace orlen::AppInfoTexts

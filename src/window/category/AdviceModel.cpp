@@ -1,5 +1,6 @@
 #include "window/category/AdviceModel.h"
 
+#include "app/AppTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
@@ -16,7 +17,7 @@ Message textOf(const AdviceItem& item)
 {
     if (item.isOnHomeDisk)
         return item.text;
-    return Message::joined({item.text, WindowTexts::kOnOtherDisk}, Several::Joint::sentences);
+    return Message::joined({item.text, AppTexts::kOnOtherDisk}, Several::Joint::sentences);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
@@ -82,7 +83,7 @@ QVariant CategoryFolderModel::value(std::size_t number, int role) const
     case Role::size:
         return folder.isComplete
                    ? DisplayText::size(folder.bytes)
-                   : DisplayText::text(Message(WindowTexts::kAtLeast, {{"size", Bytes{folder.bytes}}}));
+                   : DisplayText::text(Message(ToolsTexts::kAtLeast, {{"size", Bytes{folder.bytes}}}));
     case Role::share:
         return share;
     case Role::shareText:

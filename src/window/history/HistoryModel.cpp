@@ -78,7 +78,7 @@ QString HistoryModel::summaryOf(const Row& row)
 {
     QStringList facts{DisplayText::counted(row.items, WindowTexts::kItems)};
     if (row.restored > 0)
-        facts << DisplayText::counted(row.restored, WindowTexts::kRestoredCount);
+        facts << DisplayText::counted(row.restored, AppTexts::kRestoredCount);
     if (row.failed > 0)
         facts << DisplayText::counted(row.failed, WindowTexts::kNotMoved);
     return DisplayText::facts(facts);

@@ -56,8 +56,8 @@ void HomeModel::countSelection()
 QString HomeModel::heroText() const
 {
     if (!hasSafe())
-        return DisplayText::text(WindowTexts::kNothingSafe);
-    return DisplayText::text(Message(WindowTexts::kSafelyFree, {{"size", Bytes{m_safeBytes}}}));
+        return DisplayText::text(AppTexts::kNothingSafe);
+    return DisplayText::text(Message(AppTexts::kSafelyFree, {{"size", Bytes{m_safeBytes}}}));
 }
 
 QString HomeModel::unreadableText() const

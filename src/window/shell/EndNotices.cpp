@@ -1,5 +1,6 @@
 #include "window/shell/EndNotices.h"
 
+#include "app/AppTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
@@ -23,8 +24,8 @@ void EndNotices::followPhase()
     if (before != Phase::scanning || m_phase != Phase::results)
         return;
     const std::int64_t safe = m_app.results()->safeBytes();
-    const Message outcome = safe > 0 ? Message(WindowTexts::kSafelyFree, {{"size", Bytes{safe}}})
-                                     : Message(WindowTexts::kNothingSafe);
+    const Message outcome =
+        safe > 0 ? Message(AppTexts::kSafelyFree, {{"size", Bytes{safe}}}) : Message(AppTexts::kNothingSafe);
     show({DisplayText::text(WindowTexts::kScanFinished), DisplayText::text(outcome)});
 }
 

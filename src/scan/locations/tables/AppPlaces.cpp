@@ -1,3 +1,4 @@
+#include "model/ModelTexts.h"
 #include "scan/locations/FolderRules.h"
 #include "scan/locations/tables/Tables.h"
 
@@ -42,7 +43,7 @@ std::vector<SourceRow> webViews()
         inWebViews({"cache"}, "/Shared Dictionary"),
         // Every path like this gets the same caution, whoever lists it.
         forReview(inWebViews({"CacheStorage"}, "/Service Worker"), {}),
-        forReview(inWebViews({"CacheStorage"}, "/WebStorage/*"), ScanTexts::kOfflineData),
+        forReview(inWebViews({"CacheStorage"}, "/WebStorage/*"), ModelTexts::kOfflineData),
         forReview(inWebViews({"OptGuideOnDeviceModel", "optimization_guide_model_store"}),
                   message("The browser's own model; it downloads again")),
     };
@@ -55,7 +56,8 @@ SourceRow single(Text note, Names from)
 
 std::vector<SourceRow> games()
 {
-    SourceRow package = single(message("Steam downloads"), {"{STEAM}/package"});
+    constexpr Text kDownloads = message("Steam downloads");
+    SourceRow package = single(kDownloads, {"{STEAM}/package"});
     package.accepts = FolderRules::isSteamIdle;
     return {
         {.from = {"{STEAM}/steamapps/shadercache"},
@@ -63,7 +65,7 @@ std::vector<SourceRow> games()
          .note = message("Steam shader cache"),
          .caution = message("Rebuilt when the game runs; the first start is slower.")},
         single(message("Steam web cache"), {"{STEAM}/appcache/httpcache", "{STEAM}/config/htmlcache"}),
-        single(message("Steam downloads"), {"{STEAM}/depotcache"}),
+        single(kDownloads, {"{STEAM}/depotcache"}),
         package,
         {.from = {"{STEAM}/compatibilitytools.d", "{CONFIGS}/heroic/tools/wine",
                   "{CONFIGS}/heroic/tools/proton", "{DATAS}/lutris/runners/*", "{DATAS}/bottles/runners"},

@@ -1,3 +1,4 @@
+#include "model/ModelTexts.h"
 #include "scan/locations/EntryRules.h"
 #include "scan/locations/FolderRules.h"
 #include "scan/locations/tables/Tables.h"
@@ -9,7 +10,6 @@ namespace orlen::SourceTables {
 namespace {
 
 constexpr std::int64_t kSmallest = 100'000;
-constexpr Text kBrowserCache = message("Browser cache, rebuilt as you browse.");
 
 /// Nothing of these names is offered, whichever row would.
 SourceRow never(Names names)
@@ -107,9 +107,10 @@ std::vector<SourceRow> safe()
     return {
         named(message("Download cache of Flatpak."), {"flatpak"}),
         named(message("Previews; made again when you open a folder."), {"thumbnails"}),
-        named(kBrowserCache, {"mozilla", "google-chrome*", "chromium", "BraveSoftware", "vivaldi*", "opera*",
-                              "microsoft-edge*", "librewolf", "waterfox", "zen", "floorp", "thorium",
-                              "falkon", "qutebrowser", "konqueror", "thunderbird", "geary"}),
+        named(ModelTexts::kBrowserCache,
+              {"mozilla", "google-chrome*", "chromium", "BraveSoftware", "vivaldi*", "opera*",
+               "microsoft-edge*", "librewolf", "waterfox", "zen", "floorp", "thorium", "falkon",
+               "qutebrowser", "konqueror", "thunderbird", "geary"}),
         named(message("The next build is slower"),
               {"go-build", "ccache", "sccache", "clangd", "zig", "nim", "ghcide", "hls-*", "gopls",
                "golangci-lint", "rust-analyzer", "bazelisk", "cargo-*", "swiftpm", "dub", "crystal", "elm"}),
@@ -175,10 +176,10 @@ std::vector<SourceRow> webViews()
     settings.only = {"hsts-storage.sqlite"};
     SourceRow pages = any;
     pages.rating = Rating::safe;
-    pages.note = kBrowserCache;
+    pages.note = ModelTexts::kBrowserCache;
     pages.only = {"WebKitCache"};
     SourceRow offline = any;
-    offline.note = ScanTexts::kOfflineData;
+    offline.note = ModelTexts::kOfflineData;
     offline.only = {"CacheStorage"};
     return {settings, pages, offline, any};
 }

@@ -44,7 +44,7 @@ SourceRow forReview(Kind kind, Text note, Names from, Text caution = {})
 std::vector<SourceRow> downloads()
 {
     return {
-        cacheOf(Kind::caches, "Graphics", {"{H}/.nv/GLCache", "{H}/.nv/ComputeCache"}),
+        single(Kind::caches, message("Graphics cache"), {"{H}/.nv/GLCache", "{H}/.nv/ComputeCache"}),
         single(Kind::caches, message("Thumbnails"), {"{H}/.thumbnails"}),
         cacheOf(Kind::caches, "Java", {"{H}/.java/deployment/cache"}),
         {.from = {"{H}/.ccache"}, .note = message("Compiler cache"), .except = {"ccache.conf"}},
@@ -52,10 +52,10 @@ std::vector<SourceRow> downloads()
                     {"{H}/.cargo/registry/cache", "{H}/.cargo/registry/src", "{H}/.cargo/registry/index",
                      "{H}/.cargo/git/db", "{H}/.cargo/git/checkouts"}),
         downloadsOf(Kind::caches, "Rust", {"{H}/.rustup/downloads", "{H}/.rustup/tmp"}),
-        downloadsOf(Kind::caches, "Go module", {"{H}/go/pkg/mod/cache/download", "{H}/go/pkg/mod/cache/vcs"}),
+        downloadsOf(Kind::caches, "Go", {"{H}/go/pkg/mod/cache/download", "{H}/go/pkg/mod/cache/vcs"}),
         downloadsOf(Kind::caches, "NuGet", {"{DATA}/NuGet/v3-cache"}),
         downloadsOf(Kind::caches, "Cabal", {"{H}/.cabal/packages"}),
-        cacheOf(Kind::caches, "Julia build", {"{H}/.julia/compiled"}),
+        cacheOf(Kind::caches, "Julia", {"{H}/.julia/compiled"}),
         downloadsOf(Kind::caches, "PlatformIO", {"{H}/.platformio/.cache"}),
         downloadsOf(Kind::caches, "Arduino", {"{H}/.arduino15/staging"}),
         downloadsOf(Kind::caches, "Maven", {"{H}/.m2/wrapper/dists"}),
@@ -184,7 +184,7 @@ std::vector<SourceRow> devices()
         single(Kind::gradle, message("Gradle distributions"), {"{H}/.gradle/wrapper/dists"}),
         single(Kind::gradle, message("Gradle daemon logs"), {"{H}/.gradle/daemon"}),
         cacheOf(Kind::gradle, "Android", {"{H}/.android/cache"}),
-        cacheOf(Kind::gradle, "Android build", {"{H}/.android/build-cache"}),
+        cacheOf(Kind::gradle, "Android", {"{H}/.android/build-cache"}),
         cacheOf(Kind::gradle, "Kotlin", {"{H}/.konan/cache"}),
         // The small ".ini" beside a device stays, so that it works again once restored.
         {.kind = Kind::simulators,
