@@ -103,9 +103,11 @@ Pressable {
             anchors.right: amount.left
             anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
-            width: Theme.grown(40)
+            width: Theme.grown(48)
             horizontalAlignment: Text.AlignRight
             text: root.shareText
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             Accessible.ignored: true
         }
 

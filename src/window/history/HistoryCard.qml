@@ -85,7 +85,7 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: Strings.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
+                text: Words.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
                 wrapMode: Text.WordWrap
                 maximumLineCount: 6
                 Accessible.ignored: true

@@ -79,7 +79,7 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: Strings.facts([root.summary, root.selection])
+                text: Words.facts([root.summary, root.selection])
                 wrapMode: Text.WordWrap
             }
         }

@@ -112,7 +112,7 @@ Item {
             SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
-                text: Strings.facts([root.summary, root.selection])
+                text: Words.facts([root.summary, root.selection])
                 wrapMode: Text.WordWrap
                 color: Theme.text
                 font.weight: Font.DemiBold
