@@ -1,6 +1,7 @@
 #include "model/Rater.h"
 
 #include "model/RaterTables.h"
+#include "model/SensitiveWords.h"
 #include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 
@@ -173,10 +174,12 @@ std::vector<Finding> rate(std::vector<Finding> findings)
 
 bool isSensitiveName(std::string_view name)
 {
+    if (SensitiveWords::areIn(name))
+        return true;
     const std::vector<std::string> tokens = tokensOf(name);
     return std::ranges::any_of(tokens, [&](const std::string& token) {
-        return RaterTables::isSensitiveWord(token) || hasSensitiveLemma(token, tokens) ||
-               meansSomethingSensitive(token);
+        return RaterTables::isSensitiveWord(token) || SensitiveWords::contains(token) ||
+               hasSensitiveLemma(token, tokens) || meansSomethingSensitive(token);
     });
 }
 

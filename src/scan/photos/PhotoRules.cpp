@@ -21,10 +21,15 @@ constexpr double kSharpEnough = 22.0;
 constexpr int kNarrowestBlurry = 301;
 
 /// How the desktops name their screenshots, in small letters.
+// clang-format off
 constexpr std::string_view kScreenshotNames[] = {
-    "screenshot", "screen shot",  "bildschirmfoto", "capture d",    "captura de",    "captura desde",
-    "schermata",  "schermafdruk", "skjermbilde",    "zrzut ekranu", "снимок экрана", "スクリーンショット",
+    "screenshot", "screen shot", "bildschirmfoto", "capture d", "copie d", "captura de", "captura desde", "captura_de",
+    "capturas de", "pantallazo", "schermata", "cattura schermo", "cattura_schermo", "cattura dello schermo",
+    "schermafdruk", "skjermbilde", "zrzut ekranu", "zrzut_ekranu", "zrzut-ekranu", "zrzutekranu", "снимок экрана",
+    "لقطة شاشة", "لقطة_شاشة", "لقطة-شاشة", "لقطة الشاشة", "لقطة_الشاشة", "スクリーンショット", "スクリーンキャプチャ",
+    "画面キャプチャ", "截图", "截屏", "屏幕截图", "屏幕快照", "微信截图", "企业微信截图", "qq截图",
 };
+// clang-format on
 constexpr std::string_view kScreenshotFolder = "screenshots";
 
 /// Whether a label of that confidence at least has one of the words in it.

@@ -112,6 +112,7 @@ TEST(PhotoAnalyzerTest, theFirstRuleThatHoldsDecides)
         {"named in one word", {"/p/SCREENSHOT_1.jpg"}, kScreenshot},
         {"named in the middle", {"/p/my screenshot.jpg"}, ""},
         {"named in German", {"/p/Bildschirmfoto vom 2024.png"}, kScreenshot},
+        {"named in Chinese", {"/p/屏幕截图 2024-01-02.png"}, kScreenshot},
         {"named in Russian", {"/p/Снимок экрана от 2024.png"}, kScreenshot},
         {"named in Japanese", {"/p/スクリーンショット 1.png"}, kScreenshot},
         {"in the folder for them", {"/p/Screenshots/1.png"}, kScreenshot},
