@@ -1,5 +1,6 @@
 #include "model/MessageText.h"
 
+#include "model/ModelTexts.h"
 #include "platform/text/Figures.h"
 
 #include <algorithm>
@@ -34,7 +35,7 @@ std::string joined(const Several& several, const Voice& voice)
     case Several::Joint::commas:
         return joinedBy(parts, voice.words(messageIn("between the items of a list", ", "), 1));
     case Several::Joint::facts:
-        return joinedBy(parts, " · ");
+        return joinedBy(parts, voice.words(ModelTexts::kBetweenFacts, 1));
     case Several::Joint::sentences:
         return joinedBy(parts, voice.words(messageIn("between two sentences", " "), 1));
     case Several::Joint::lines:

@@ -32,7 +32,7 @@ inline constexpr Text kSelectedPhotos = messages("{count} photo selected", "{cou
 inline constexpr Text kSelected = messages("{count} selected", "{count} selected");
 inline constexpr Text kSelectedOf = messages("{count} of {total} selected", "{count} of {total} selected");
 inline constexpr Text kDoneOf = messages("{count} of {total}", "{count} of {total}");
-// TRANSLATORS: {share} is 1 %.
+// TRANSLATORS: {share} is 1 %. It stands in a narrow column: prefer a sign to words.
 inline constexpr Text kLessThan = message("< {share}");
 inline constexpr Text kFree = message("{size} free");
 

@@ -88,6 +88,20 @@ TEST_F(WordsTest, machinesReadTheTextsOfTheCodeWithPlainFigures)
     EXPECT_EQ((Message{kItems, {{"count", 1}}}.base()), "1 item in {name}") << "a place nobody fills stays";
 }
 
+TEST_F(WordsTest, namesKeepTheirDirectionAmongWordsFromTheRight)
+{
+    const Message message{kItems, {{"count", 2}, {"name", "~/a"}}};
+    TestCatalogue::write(home.path("locale"), "en", "nplurals=2; plural=(n != 1);", kEnglish);
+    speak({"en"});
+    EXPECT_EQ(shown(message), "2 items in ~/a");
+    TestCatalogue::write(home.path("locale"), "he", "nplurals=2; plural=(n != 1);", "");
+    speak({"he"});
+    EXPECT_EQ(shown(message), "2 items in \u2066~/a\u2069") << "a path is read from the left";
+    EXPECT_EQ(shown(Message::verbatim("a")), "\u2068a\u2069");
+    EXPECT_EQ(shown(Message{kItems, {{"name", Words::isolated("a")}}}), "{count} item in \u2068a\u2069") << "once";
+    EXPECT_EQ(message.base(), "2 items in ~/a");
+}
+
 TEST_F(WordsTest, messagesHoldOthers)
 {
     const std::vector<Message> names{

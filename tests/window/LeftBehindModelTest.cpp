@@ -50,7 +50,7 @@ TEST(LeftBehindModelTest, leadsFromWhatIsCheckedToTheReviewAndTheTrash)
     EXPECT_EQ(b.apps.rowCount(), 1);
     EXPECT_EQ(b.behind.summary(), "3 folders\u00a0· 53 KB");
     EXPECT_EQ(b.text(0, LeftoverListModel::Role::name), "~/.cache/Fooqux");
-    EXPECT_EQ(b.text(0, LeftoverListModel::Role::folder),
+    EXPECT_EQ(b.text(0, LeftoverListModel::Role::explanation),
               "No program named Fooqux is installed; not changed since 2024");
     EXPECT_EQ(b.behind.checkState(), Qt::Unchecked);
     EXPECT_FALSE(b.behind.isReady());

@@ -39,6 +39,7 @@ ColumnCard {
                 BodyText {
                     width: parent.width
                     text: row.label
+                    wrapMode: Text.WordWrap
                     font.weight: Font.DemiBold
                     Accessible.ignored: true
                 }

@@ -23,7 +23,7 @@ Column {
 
         SmallText {
             width: parent.width
-            text: Strings.facts([root.detail.size, root.detail.origin])
+            text: Words.facts([root.detail.size, root.detail.origin])
             elide: Text.ElideMiddle
         }
 

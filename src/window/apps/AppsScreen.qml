@@ -7,6 +7,8 @@ Item {
 
     required property MainView view
     readonly property real sideMargin: Theme.sideMargin(root.width)
+    /// Whether the search field is below the title rather than beside it.
+    readonly property bool isNarrow: root.width < 540 * Theme.textScale
     readonly property bool isCovered: chosen.open || behind.open || root.view.navigation.sheet !== Navigation.NoSheet
 
     AppListModel {
@@ -56,11 +58,11 @@ Item {
         id: header
 
         anchors.left: parent.left
-        anchors.right: search.left
+        anchors.right: root.isNarrow ? parent.right : search.left
         anchors.top: parent.top
         anchors.topMargin: Theme.pageMargin
         anchors.leftMargin: root.sideMargin
-        anchors.rightMargin: Theme.spaceXl
+        anchors.rightMargin: root.isNarrow ? root.sideMargin : Theme.spaceXl
         title: Screens.title(Screens.Apps)
         subtitle: Strings.appsLead
     }
@@ -71,8 +73,8 @@ Item {
         objectName: "appSearch"
         anchors.right: parent.right
         anchors.rightMargin: root.sideMargin
-        anchors.verticalCenter: header.verticalCenter
-        width: Math.min(300, root.width * 0.5)
+        y: root.isNarrow ? header.y + header.height + Theme.spaceM : header.y + (header.height - height) / 2
+        width: root.isNarrow ? root.width - 2 * root.sideMargin : Math.min(300, root.width * 0.5)
         placeholderText: Strings.searchApps
         Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -82,10 +84,10 @@ Item {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.top: header.bottom
+        anchors.top: root.isNarrow ? search.bottom : header.bottom
         anchors.leftMargin: root.sideMargin
         anchors.rightMargin: root.sideMargin
-        anchors.topMargin: Theme.spaceXl
+        anchors.topMargin: root.isNarrow ? Theme.spaceM : Theme.spaceXl
         height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
 
         readonly property real room: root.height - card.y - Theme.pageMargin
@@ -101,6 +103,8 @@ Item {
             anchors.verticalCenter: orders.verticalCenter
             visible: apps.count > 0
             text: apps.summary
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             color: Theme.secondary
             font.weight: Font.Medium
         }

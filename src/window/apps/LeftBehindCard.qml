@@ -29,7 +29,7 @@ Pressable {
             size: 40
         }
 
-        RowTexts {
+        Column {
             id: texts
 
             anchors.left: badge.right
@@ -37,9 +37,23 @@ Pressable {
             anchors.right: chevron.left
             anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
-            name: root.text
-            place: root.leftovers.summary
-            placeInk: Theme.secondary
+            spacing: 2
+
+            BodyText {
+                width: parent.width
+                text: root.text
+                wrapMode: Text.WordWrap
+                font.weight: Font.Medium
+                Accessible.ignored: true
+            }
+
+            CaptionText {
+                width: parent.width
+                text: root.leftovers.summary
+                wrapMode: Text.WordWrap
+                color: Theme.secondary
+                Accessible.ignored: true
+            }
         }
 
         Symbol {

@@ -94,9 +94,9 @@ QVariant LeftBehindModel::value(std::size_t number, int role) const
     const FileEntry& entry = rows()[number].entry;
     if (role == static_cast<int>(Role::name))
         return DisplayText::shortPath(entry.path);
-    if (role == static_cast<int>(Role::folder))
+    if (role == static_cast<int>(Role::explanation))
         return DisplayText::text(noteOf(entry));
-    if (role == static_cast<int>(Role::note))
+    if (role == static_cast<int>(Role::folder) || role == static_cast<int>(Role::note))
         return QString();
     return LeftoverListModel::value(number, role);
 }

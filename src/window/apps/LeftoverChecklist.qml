@@ -16,7 +16,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        height: Theme.grown(44)
+        height: Math.max(Theme.grown(44), heading.height + 16)
         color: Theme.inset
 
         CheckMark {
@@ -43,7 +43,7 @@ FocusScope {
             anchors.rightMargin: Theme.spaceL
             anchors.verticalCenter: parent.verticalCenter
             text: root.leftovers.heading
-            elide: Text.ElideMiddle
+            wrapMode: Text.Wrap
             color: Theme.text
             font.weight: Font.DemiBold
         }

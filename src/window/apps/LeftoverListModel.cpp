@@ -121,6 +121,8 @@ QVariant LeftoverListModel::value(std::size_t number, int role) const
         return DisplayText::size(entry.size);
     case Role::note:
         return DisplayText::text(noteOf(entry));
+    case Role::explanation:
+        return QString();
     case Role::checked:
         return isChecked;
     }

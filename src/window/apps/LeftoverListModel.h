@@ -33,9 +33,10 @@ class LeftoverListModel : public orlen::RowsModel {
 public:
     enum class Role {
         name = Qt::UserRole, ///< what is listed
-        folder,              ///< where it is, or why it is listed
+        folder,              ///< where it is; may be empty
         size,                ///< bytes as text
-        note,                ///< why to look twice; often empty
+        note,                ///< a few words on why to look twice; often empty
+        explanation,         ///< a sentence about it; often empty
         checked,             ///< whether it goes to the review
     };
     Q_ENUM(Role)

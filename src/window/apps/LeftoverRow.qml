@@ -9,15 +9,16 @@ ListRow {
     required property string folder
     required property string size
     required property string note
+    required property string explanation
     required property bool checked
     property bool isCurrent: false
     signal toggled
     signal revealRequested
 
-    implicitHeight: Theme.grown(52)
+    implicitHeight: Math.max(Theme.grown(52), texts.height + 16)
     Accessible.role: Accessible.CheckBox
     Accessible.name: root.name
-    Accessible.description: Strings.spoken([root.folder, root.size, root.note])
+    Accessible.description: Strings.spoken([root.folder, root.size, root.note, root.explanation])
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.onToggleAction: root.toggled()
@@ -41,6 +42,8 @@ ListRow {
     }
 
     RowTexts {
+        id: texts
+
         anchors.left: mark.right
         anchors.leftMargin: Theme.spaceS
         anchors.right: look.left
@@ -48,6 +51,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.folder
+        note: root.explanation
         placeInk: root.hovered ? Theme.secondary : Theme.tertiary
     }
 

@@ -43,14 +43,17 @@ ColumnCard {
 
     Item {
         width: parent.width
-        height: copy.height
+        height: Math.max(copy.height, author.height)
 
         CaptionText {
+            id: author
+
             anchors.left: parent.left
             anchors.right: copy.left
             anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
             text: root.usedModel ? Strings.modelFooter : Strings.matcherFooter
+            wrapMode: Text.WordWrap
         }
 
         IconButton {

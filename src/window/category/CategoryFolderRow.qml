@@ -56,7 +56,8 @@ Pressable {
                     anchors.left: parent.left
                     width: Math.min(implicitWidth, parent.width)
                     text: root.name
-                    elide: Text.ElideMiddle
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 3
                     font.weight: Font.Medium
                     Accessible.ignored: true
                 }
@@ -78,7 +79,7 @@ Pressable {
                 visible: text !== ""
                 text: root.items
                 wrapMode: Text.WordWrap
-                maximumLineCount: 2
+                maximumLineCount: 4
                 color: Theme.secondary
                 Accessible.ignored: true
             }
@@ -102,9 +103,11 @@ Pressable {
             anchors.right: amount.left
             anchors.rightMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
-            width: Theme.grown(40)
+            width: Theme.grown(48)
             horizontalAlignment: Text.AlignRight
             text: root.shareText
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             Accessible.ignored: true
         }
 

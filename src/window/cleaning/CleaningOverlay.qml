@@ -97,7 +97,7 @@ Sheet {
             BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.finished ? Strings.facts([cleaning.planTitle, cleaning.freedText])
+                text: cleaning.finished ? Words.facts([cleaning.planTitle, cleaning.freedText])
                                         : cleaning.progressText
                 color: Theme.secondary
                 font.weight: Font.DemiBold

@@ -40,6 +40,8 @@ T.TextField {
         verticalAlignment: Text.AlignVCenter
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
         color: root.placeholderTextColor
         Accessible.ignored: true
     }

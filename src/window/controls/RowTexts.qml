@@ -23,6 +23,7 @@ Column {
 
     CaptionText {
         width: root.width
+        visible: root.place !== ""
         text: root.place
         elide: Text.ElideMiddle
         color: root.placeInk
@@ -34,7 +35,7 @@ Column {
         visible: root.note !== ""
         text: root.note
         wrapMode: Text.Wrap
-        maximumLineCount: 2
+        maximumLineCount: 6
         color: root.noteInk
         Accessible.ignored: true
     }

@@ -64,6 +64,8 @@ ListRow {
         width: Theme.grown(46)
         horizontalAlignment: Text.AlignRight
         text: root.shareText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
         Accessible.ignored: true
     }
 

@@ -19,6 +19,8 @@ Card {
     property bool open: false
     property bool writable: true
     readonly property bool isNarrow: root.width < 600 * Theme.textScale
+    /// Whether the buttons stand below the texts rather than beside them.
+    readonly property bool isStacked: root.width < 460 * Theme.textScale
     readonly property int tabPolicy: root.current ? Qt.StrongFocus : Qt.ClickFocus
 
     signal pressed
@@ -50,7 +52,7 @@ Card {
         id: head
 
         width: parent.width
-        height: Math.max(76, labels.height + 32)
+        height: root.isStacked ? labels.height + trailing.height + 40 : Math.max(76, labels.height + 32)
 
         Badge {
             id: badge
@@ -68,24 +70,24 @@ Card {
 
             anchors.left: badge.right
             anchors.leftMargin: Theme.spaceM
-            anchors.right: trailing.left
+            anchors.right: root.isStacked ? parent.right : trailing.left
             anchors.rightMargin: Theme.spaceL
-            anchors.verticalCenter: parent.verticalCenter
+            y: root.isStacked ? Theme.spaceL : (parent.height - height) / 2
             spacing: Theme.spaceXs
 
             HeadlineText {
                 width: parent.width
                 text: root.title
                 wrapMode: Text.WordWrap
-                maximumLineCount: 2
+                maximumLineCount: 3
                 Accessible.ignored: true
             }
 
             SmallText {
                 width: parent.width
-                text: Strings.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
+                text: Words.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
                 wrapMode: Text.WordWrap
-                maximumLineCount: 3
+                maximumLineCount: 6
                 Accessible.ignored: true
             }
         }
@@ -95,7 +97,7 @@ Card {
 
             anchors.right: parent.right
             anchors.rightMargin: Theme.spaceM
-            anchors.verticalCenter: parent.verticalCenter
+            y: root.isStacked ? labels.y + labels.height + Theme.spaceS : (parent.height - height) / 2
             spacing: Theme.spaceS
 
             HeadlineText {

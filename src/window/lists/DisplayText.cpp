@@ -2,6 +2,7 @@
 
 #include "app/Format.h"
 #include "model/FileEntry.h"
+#include "model/ModelTexts.h"
 #include "model/Words.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
@@ -34,8 +35,12 @@ QString text(const Message& message)
 
 QString facts(QStringList facts)
 {
+    constexpr QChar kUnbroken(0xa0);
+    QString between = text(ModelTexts::kBetweenFacts);
+    if (between.startsWith(u' '))
+        between[0] = kUnbroken;
     facts.removeAll(QString());
-    return facts.join(QStringLiteral("\u00a0· "));
+    return facts.join(between);
 }
 
 QString path(std::string_view bytes)

@@ -71,6 +71,7 @@ Card {
             RatedTitle {
                 width: parent.width
                 title: root.title
+                lines: 4
                 size: Theme.headlineSize
                 weight: Font.DemiBold
                 rating: root.rating
@@ -78,7 +79,8 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: Strings.facts([root.summary, root.selection])
+                text: Words.facts([root.summary, root.selection])
+                wrapMode: Text.WordWrap
             }
         }
 

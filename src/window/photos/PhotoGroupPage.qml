@@ -81,6 +81,7 @@ Item {
                 RatedTitle {
                     width: parent.width
                     title: root.title
+                    lines: 2
                     rating: root.rating
                 }
 
@@ -111,7 +112,8 @@ Item {
             SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
-                text: Strings.facts([root.summary, root.selection])
+                text: Words.facts([root.summary, root.selection])
+                wrapMode: Text.WordWrap
                 color: Theme.text
                 font.weight: Font.DemiBold
             }

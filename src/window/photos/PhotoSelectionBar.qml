@@ -25,6 +25,7 @@ Rectangle {
         anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.selectedText === "" ? Strings.noPhotoSelected : root.selectedText
+        wrapMode: Text.WordWrap
         color: root.selectedText === "" ? Theme.secondary : Theme.text
         font.weight: Font.DemiBold
     }

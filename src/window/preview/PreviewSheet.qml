@@ -92,7 +92,7 @@ Sheet {
 
                 SmallText {
                     width: parent.width
-                    text: Strings.facts([model.facts, model.kind === PreviewModel.Folder ? root.size : ""])
+                    text: Words.facts([model.facts, model.kind === PreviewModel.Folder ? root.size : ""])
                     wrapMode: Text.WordWrap
                     color: Theme.text
                     font.weight: Font.DemiBold

@@ -66,7 +66,7 @@ Sheet {
         Paragraph {
             objectName: "reviewLead"
             width: parent.width
-            maximumLineCount: 3
+            maximumLineCount: 6
             text: Strings.reviewLead(plan.checkedCount)
         }
     }

@@ -24,10 +24,6 @@ QtObject {
     readonly property string showResults: Words.message("Show last results")
     readonly property string trashPromise: Words.message("You'll see the full list first. Everything moves to the Trash and can be restored from History.")
 
-    /// Facts on one line, which breaks only after a separator.
-    function facts(facts: list<string>): string {
-        return facts.filter(fact => fact !== "").join("\u00a0· ");
-    }
     /// Facts that a screen reader says one after the other.
     function spoken(facts: list<string>): string {
         // TRANSLATORS: Between names and sizes that a screen reader reads aloud.

@@ -44,6 +44,11 @@ QString WordsElement::dataFolder()
     return DisplayText::shortPath(Persist::dir());
 }
 
+QString WordsElement::facts(const QStringList& facts)
+{
+    return DisplayText::facts(facts);
+}
+
 QString WordsElement::message(const QString& text, const QVariantMap& places)
 {
     return shownText({}, text, {}, places);

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
@@ -22,6 +23,9 @@ class WordsElement : public QObject {
 public:
     [[nodiscard]] static bool isRightToLeft();
     [[nodiscard]] static QString dataFolder();
+
+    /// Facts on one line, without empty ones.
+    Q_INVOKABLE [[nodiscard]] static QString facts(const QStringList& facts);
 
     Q_INVOKABLE [[nodiscard]] static QString message(const QString& text, const QVariantMap& places = {});
     Q_INVOKABLE [[nodiscard]] static QString messageIn(const QString& context, const QString& text,

@@ -77,6 +77,10 @@ bool isInSidewaysList(const QQuickItem& item)
 /// Whether less of it is seen than there is.
 bool isCut(const QQuickItem& item)
 {
+    // A path may lose its middle.
+    const bool isPath = item.property("elide").toInt() == Qt::ElideMiddle && textOf(item).contains(u'/');
+    if (isPath)
+        return false;
     if (item.property("truncated").toBool() ||
         item.property("contentWidth").toDouble() > item.width() + kRounding)
         return true;

@@ -116,6 +116,7 @@ void Stage::applicationAvailable()
     Window::prepare();
     Appearance::setScheme(Appearance::Scheme::light);
     Appearance::setReducedMotion(true);
+    Appearance::setTextScale(m_textScale);
     QAccessible::setActive(true);
 }
 

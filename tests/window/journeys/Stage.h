@@ -21,6 +21,8 @@ class Stage : public QObject {
     Q_OBJECT
 
 public:
+    /// How large the texts are, as a factor; before the first window.
+    void setTextScale(double scale) { m_textScale = scale; }
     /// A new user's home folder, and a model over it.
     void prepare(QQmlEngine& engine);
 
@@ -62,6 +64,7 @@ private:
     void fillHome() const;
     [[nodiscard]] QStringList names() const;
 
+    double m_textScale = 1;
     std::optional<TempHome> m_home;
     std::unique_ptr<AppModel> m_model;
 };

@@ -59,7 +59,7 @@ Journey {
         tryCompare(test.item("leftoverList"), "count", 2);
         compare(test.item("leftoversAll").checkState, Qt.Unchecked);
         verify(!test.item("reviewLeftBehind").enabled);
-        verify(test.row("leftoverList", 0).folder.startsWith("No program named Barquux is installed"));
+        verify(test.row("leftoverList", 0).explanation.startsWith("No program named Barquux is installed"));
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("leftoverList"));
         verify(test.isFocused("leftBehind"));

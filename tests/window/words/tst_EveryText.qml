@@ -89,7 +89,7 @@ Journey {
         for (const kind of ["caches", "duplicates", "developer"]) {
             if (!test.isShown("finding-" + kind))
                 continue;
-            test.clickOn("finding-" + kind);
+            test.window.navigation.showFinding(kind);
             test.row("findingEntries", 0);
             test.check("finding " + kind);
             keyClick(Qt.Key_Down);
@@ -104,7 +104,7 @@ Journey {
     }
 
     function test_09_filterThatFindsNothing() {
-        test.clickOn("finding-caches");
+        test.window.navigation.showFinding("caches");
         test.clickOn("entryFilter");
         test.type("zzzz");
         tryCompare(test.item("findingEntries"), "count", 0);
