@@ -38,7 +38,7 @@ constexpr auto kSpanish = std::to_array<std::string_view>({
     "arrendamientos", "alquiler", "alquileres", "nómina", "nomina", "nóminas", "nominas", "salario",
     "salarios", "sueldo", "finiquito", "bancario", "bancaria", "bancarios", "bancarias", "extracto",
     "extractos", "currículum", "curriculum", "currículo", "curriculo", "testamento", "testamentos",
-    "escrituras", "notarial", "notaría", "notaria", "certificado", "certificados", "licencia",
+    "notarial", "notaría", "notaria", "certificado", "certificados", "licencia",
     "licencias", "visado", "visados", "médico", "medico", "médica", "medica", "médicos", "medicos",
     "médicas", "medicas", "recibo", "recibos", "diploma", "diplomas", "nacimiento", "garantía",
     "garantia", "garantías", "garantias", "declaración", "declaracion", "pensión", "pension",
@@ -52,7 +52,7 @@ constexpr auto kItalian = std::to_array<std::string_view>({
     "stipendi", "cedolino", "cedolini", "testamento", "rogito", "rogiti", "certificato",
     "certificati", "patente", "referto", "referti", "ricevuta", "ricevute", "scontrino",
     "scontrini", "laurea", "nascita", "garanzia", "garanzie", "pensione", "tribunale", "denuncia",
-    "denunce", "fiscale", "fiscali", "bolletta", "bollette", "bonifico", "bonifici", "notaio",
+    "denunce", "fiscale", "fiscali", "imposte", "tributi", "bolletta", "bollette", "bonifico", "bonifici", "notaio",
     "notarile"
 });
 
@@ -62,11 +62,11 @@ constexpr auto kPortuguese = std::to_array<std::string_view>({
     "apólices", "apolices", "hipoteca", "hipotecas", "aluguel", "aluguéis", "alugueis", "locação",
     "locacao", "holerite", "holerites", "contracheque", "contracheques", "salário", "salario",
     "salários", "salarios", "rescisão", "rescisao", "extrato", "extratos", "boleto", "boletos",
-    "currículo", "curriculo", "currículos", "curriculos", "testamento", "testamentos", "escritura",
-    "escrituras", "procuração", "procuracao", "certidão", "certidao", "certidões", "certidoes",
+    "currículo", "curriculo", "currículos", "curriculos", "testamento", "testamentos",
+    "procuração", "procuracao", "certidão", "certidao", "certidões", "certidoes",
     "certificado", "certificados", "licença", "licenca", "licenças", "licencas", "médico", "medico",
     "médica", "medica", "receituário", "receituario", "atestado", "atestados", "recibo", "recibos",
-    "diploma", "diplomas", "nascimento", "garantia", "garantias", "aposentadoria", "pensão",
+    "diploma", "diplomas", "garantia", "garantias", "aposentadoria", "pensão",
     "pensao"
 });
 
