@@ -307,6 +307,19 @@ TEST_F(LanguageTest, aPersonReadsTheirOwnLanguage)
                 AllOf(HasSubstr("Odinstaluj: Foo Qux"), HasSubstr("Porządki po skanowaniu")));
 }
 
+TEST_F(LanguageTest, namesKeepTheirDirectionAmongWordsFromRightToLeft)
+{
+    const FullHome home;
+    TestCatalogue::write(home.outside("locale"), "ar", "nplurals=2; plural=(n != 1);", R"(
+msgid "there is no kind {word}"
+msgstr "لا يوجد نوع باسم {word}"
+)");
+    Words::use(std::array<std::string, 1>{"ar"}, home.outside("locale"));
+    EXPECT_THAT(spoken({"clean", "--kind", "x\u202e"}).err,
+                HasSubstr("--kind: لا يوجد نوع باسم \u2068\"x?\"\u2069"));
+    EXPECT_THAT(spoken({"scan", "--\u202e"}).err, HasSubstr("--?"));
+}
+
 TEST_F(LanguageTest, theAnswerMayBeGivenInTheSameLanguage)
 {
     struct Case {
