@@ -72,6 +72,7 @@ inline constexpr Text kUnreadableFolders =
 inline constexpr Text kSafelyFree = message("You can safely free {size}");
 inline constexpr Text kNothingSafe = message("Nothing is rated Safe right now");
 inline constexpr Text kOnOtherDisk = message("It is on another disk than your home folder.");
+// TRANSLATORS: So many items of a clean-up are back where they were.
 inline constexpr Text kRestoredCount = messages("{count} restored", "{count} restored");
 // TRANSLATORS: {id} is an identifier such as org.example.App.
 inline constexpr Text kLeftoversByIdentifier = message("Leftovers found by bundle identifier ({id})");

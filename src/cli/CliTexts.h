@@ -2,8 +2,9 @@
 
 #include "model/Text.h"
 
-/// The sentences of the command line. Those that begin in lower case stand on standard error behind "orlen:
-/// ". What stands in backticks is for typing and stays as it is in every language.
+/// The sentences of the command line; those that the window's models say too are in `AppTexts`. Sentences
+/// that begin in lower case stand on standard error, behind "orlen: ". What stands in backticks is for
+/// typing: it stays as it is in every language.
 namespace orlen::CliTexts {
 
 // --help: the program.
@@ -219,7 +220,6 @@ inline constexpr Text kNothingCleaned = message("Nothing cleaned yet.");
 inline constexpr Text kHowToRestore = message("`orlen restore RECORD` puts the items of a clean-up back.");
 // TRANSLATORS: every item of a clean-up is back where it was.
 inline constexpr Text kAllRestored = messageIn("state of a clean-up", "restored");
-// TRANSLATORS: so many items of a clean-up are back where they were.
 inline constexpr Text kNoCleanUp = message("there is no clean-up {id}.");
 // TRANSLATORS: {id} is the beginning of a record's name.
 inline constexpr Text kSeveralCleanUps = message("several clean-ups begin with {id}.");
@@ -265,7 +265,6 @@ inline constexpr Text kAppBundle = messageIn("kind of application", "App bundle"
 // TRANSLATORS: an application that is a folder.
 inline constexpr Text kAppFolder = messageIn("kind of application", "Folder");
 inline constexpr Text kNoApps = message("No applications found.");
-// TRANSLATORS: {id} is an identifier such as org.example.App.
 inline constexpr Text kLeftoversByName = message("Leftovers found by name ({name})");
 inline constexpr Text kNoLeftovers = message("No leftovers found.");
 inline constexpr Text kNobodysLeftovers = message("leftovers are found by --id, --name or both.");

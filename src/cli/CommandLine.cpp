@@ -63,13 +63,13 @@ std::vector<Registered> registerCommands(CLI::App& parser)
     return registered;
 }
 
-ExitStatus wrongCall(Session& session, const CLI::App& parser, const CLI::ParseError& error)
+ExitStatus wrongCall(Session& session, const CLI::App& parser, const std::string& error)
 {
     const std::vector<std::string> unknown = parser.remaining();
     if (parser.get_subcommands().empty() && !unknown.empty())
         session.complain({CliTexts::kNoSuchWord, {{"word", Format::quoted(unknown.front())}}});
     else
-        session.complain(Message::verbatim(PathText::forDisplay(error.what())));
+        session.complain(Message::verbatim(error));
     session.note(shown(CliTexts::kTryHelp) + '\n');
     return ExitStatus::wrongCall;
 }
@@ -122,8 +122,11 @@ int run(int argc, char** argv)
         return status;
     } catch (const CLI::Success& success) {
         return parser.exit(success); // help
+    } catch (const CLI::ValidationError& error) {
+        // In words of our own, which are safe to show and may hold marks of direction.
+        return static_cast<int>(wrongCall(session, parser, error.what()));
     } catch (const CLI::ParseError& error) {
-        return static_cast<int>(wrongCall(session, parser, error));
+        return static_cast<int>(wrongCall(session, parser, PathText::forDisplay(error.what())));
     }
     return static_cast<int>(runCommand(session, parser, commands));
 }

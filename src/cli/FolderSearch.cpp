@@ -1,5 +1,6 @@
 #include "cli/FolderSearch.h"
 
+#include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/CliTexts.h"
 #include "cli/PathArgument.h"

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "app/Format.h"
 #include "clean/Exclusions.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
-#include "cli/CliTexts.h"
 #include "cli/Command.h"
 #include "cli/JsonDocuments.h"
 #include "cli/SavedExclusions.h"

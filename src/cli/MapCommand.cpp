@@ -22,7 +22,7 @@ namespace {
 
 Table::Cell nameCell(const TreeNode& node)
 {
-    std::string name = shown(Format::displayable(node.title()));
+    std::string name = node.isOther ? shown(node.title()) : PathText::forDisplay(node.name);
     if (node.isDir)
         name += '/';
     return {std::move(name), node.isOther ? Style::dim : Style::plain};

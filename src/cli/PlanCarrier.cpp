@@ -2,7 +2,6 @@
 
 #include "app/AppModel.h"
 #include "app/AppTexts.h"
-#include "app/Format.h"
 #include "clean/CleanRecord.h"
 #include "clean/Persist.h"
 #include "clean/trash/Trash.h"

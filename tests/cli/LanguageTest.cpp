@@ -17,7 +17,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -305,6 +304,19 @@ TEST_F(LanguageTest, aPersonReadsTheirOwnLanguage)
     EXPECT_EQ(history[0].title, "Uninstall Foo Qux") << "the history stays English";
     EXPECT_THAT(spoken({"history"}).out,
                 AllOf(HasSubstr("Odinstaluj: Foo Qux"), HasSubstr("Porządki po skanowaniu")));
+}
+
+TEST_F(LanguageTest, namesKeepTheirDirectionAmongWordsFromRightToLeft)
+{
+    const FullHome home;
+    TestCatalogue::write(home.outside("locale"), "ar", "nplurals=2; plural=(n != 1);", R"(
+msgid "there is no kind {word}"
+msgstr "لا يوجد نوع باسم {word}"
+)");
+    Words::use(std::array<std::string, 1>{"ar"}, home.outside("locale"));
+    EXPECT_THAT(spoken({"clean", "--kind", "x\u202e"}).err,
+                HasSubstr("--kind: لا يوجد نوع باسم \u2068\"x?\"\u2069"));
+    EXPECT_THAT(spoken({"scan", "--\u202e"}).err, HasSubstr("--?"));
 }
 
 TEST_F(LanguageTest, theAnswerMayBeGivenInTheSameLanguage)
