@@ -75,7 +75,7 @@ constexpr auto kPolish = std::to_array<std::string_view>({
     "polisa", "polisy", "ubezpieczenie", "ubezpieczenia", "podatkowy", "podatkowe", "hipoteka",
     "wypłata", "wyplata", "wynagrodzenie", "wyciąg", "wyciag", "życiorys", "zyciorys", "testament",
     "certyfikat", "certyfikaty", "świadectwo", "swiadectwo", "zaświadczenie", "zaswiadczenie",
-    "licencja", "recepta", "paragony", "dyplom", "gwarancja", "emerytura", "pełnomocnictwo",
+    "podatek", "podatki", "recepta", "paragony", "dyplom", "gwarancja", "emerytura", "pełnomocnictwo",
     "pelnomocnictwo", "zeznanie", "wyrok", "notarialny"
 });
 

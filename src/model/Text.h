@@ -34,10 +34,12 @@ private:
     friend consteval Text messages(const char* one, const char* many);
     friend Text screenText(const std::string& context, const std::string& one, const std::string& many);
 
+    static constexpr const char* kNothing = "";
+
     // All end in a zero byte.
-    std::string_view m_context{"", 0};
-    std::string_view m_one{"", 0};
-    std::string_view m_many{"", 0};
+    std::string_view m_context = kNothing;
+    std::string_view m_one = kNothing;
+    std::string_view m_many = kNothing;
 };
 
 /// A text, in which "{name}" stands for what `Message` puts there.

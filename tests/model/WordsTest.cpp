@@ -63,7 +63,7 @@ TEST_F(WordsTest, speaksTheFirstLanguageThereIsElseEnglish)
     EXPECT_EQ(items(1), "1 element w {count}") << "a name is no place";
     EXPECT_EQ(items(3), "3 elementy w {count}");
     EXPECT_EQ(items(12'345'612), "12\u00a0345\u00a0612 elementów w {count}");
-    EXPECT_EQ(shown(Message{kFreed, {{"size", Bytes{1'500'000}}}}), "Makes 1,5 MB free.")
+    EXPECT_EQ(shown(Message{kFreed, {{"size", Bytes{1'500'000}}}}), "Makes 1,5\u00a0MB free.")
         << "the English words where Polish has none, the figures as Polish writes them";
     EXPECT_EQ(shown(kVerb), "Otwórz");
     EXPECT_EQ(shown(kState), "Open");
@@ -98,7 +98,8 @@ TEST_F(WordsTest, namesKeepTheirDirectionAmongWordsFromTheRight)
     speak({"he"});
     EXPECT_EQ(shown(message), "2 items in \u2066~/a\u2069") << "a path is read from the left";
     EXPECT_EQ(shown(Message::verbatim("a")), "\u2068a\u2069");
-    EXPECT_EQ(shown(Message{kItems, {{"name", Words::isolated("a")}}}), "{count} item in \u2068a\u2069") << "once";
+    EXPECT_EQ(shown(Message{kItems, {{"name", Words::isolated("a")}}}), "{count} item in \u2068a\u2069")
+        << "once";
     EXPECT_EQ(message.base(), "2 items in ~/a");
 }
 

@@ -131,10 +131,15 @@ struct Figures::Formats {
         list.reset(icu::ListFormatter::createInstance(locale, status));
     }
 
+    /// A value with its unit, which a line break does not part.
     [[nodiscard]] std::string amount(const LocalizedNumberFormatter& format, double value) const
     {
+        constexpr char16_t kNoBreakSpace = u'\u00A0';
         UErrorCode status = U_ZERO_ERROR;
-        return utf8(format.formatDouble(value, status).toString(status));
+        icu::UnicodeString text = format.formatDouble(value, status).toString(status);
+        for (std::int32_t at = text.indexOf(u' '); at >= 0; at = text.indexOf(u' ', at))
+            text.setCharAt(at, kNoBreakSpace);
+        return utf8(text);
     }
 
     bool isEnglish;
