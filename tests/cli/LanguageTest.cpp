@@ -288,8 +288,8 @@ TEST_F(LanguageTest, aPersonReadsTheirOwnLanguage)
     TestCatalogue::write(home.outside("locale"), "pl", kPlurals, kPolish);
     Words::use(std::array<std::string, 1>{"pl_PL"}, home.outside("locale"));
     EXPECT_THAT(spoken({"scan"}).out,
-                AllOf(HasSubstr("1,3 MB można bezpiecznie zwolnić\n"), HasSubstr("Pamięci podręczne")));
-    EXPECT_THAT(spoken({"clean", "--dry-run"}).out, HasSubstr("\n3 elementy (1,3 MB)\n"));
+                AllOf(HasSubstr("1,3\u00a0MB można bezpiecznie zwolnić\n"), HasSubstr("Pamięci podręczne")));
+    EXPECT_THAT(spoken({"clean", "--dry-run"}).out, HasSubstr("\n3 elementy (1,3\u00a0MB)\n"));
     EXPECT_THAT(spoken({"clean", "--dry-run", "--kind", "logs"}).out, HasSubstr("\n1 element ("));
     EXPECT_THAT(spoken({"--help"}).out, AllOf(HasSubstr("Użycie: orlen"), HasSubstr("\nOpcje:\n"),
                                               HasSubstr("\nPolecenia:\n"), HasSubstr("Lista porządków")));
@@ -336,7 +336,7 @@ TEST_F(LanguageTest, theAnswerMayBeGivenInTheSameLanguage)
         TestCatalogue::write(home.outside("installed/share/locale"), "pl", kPlurals, kPolish);
         TempHome::setVariable("LANGUAGE", "pl_PL");
         const Process::Outcome outcome = process.runOnTerminal("[t/N]", [&] { return std::string(c.typed); });
-        EXPECT_THAT(outcome.out, HasSubstr("Przenieść 3 elementy (1,3 MB) do kosza?"));
+        EXPECT_THAT(outcome.out, HasSubstr("Przenieść 3 elementy (1,3\u00a0MB) do kosza?"));
         EXPECT_EQ(outcome.status, c.isMoved ? 0 : 2);
         EXPECT_EQ(TempHome::exists(home.path(".cache/chromium")), !c.isMoved);
     }
