@@ -275,7 +275,6 @@ inline constexpr Text kByNameLeft =
     // TRANSLATORS: a list of files and folders follows.
     message("Matched by name only, so they stay; --by-name takes them along:");
 inline constexpr Text kPathAndSize = message("{path} ({size})");
-inline constexpr Text kAppleApp = message("This is an Apple app. Make sure you really want to remove it.");
 inline constexpr Text kOtherCopy = message("Another copy is installed");
 inline constexpr Text kNoApp = message("there is no installed application {name}.");
 // TRANSLATORS: a list of paths follows.

@@ -6,6 +6,7 @@
 #include "cli/FindingTable.h"
 #include "cli/Session.h"
 #include "cli/Table.h"
+#include "model/ModelTexts.h"
 #include "model/PathSelection.h"
 #include "model/Words.h"
 #include "platform/values/CheckedSum.h"
@@ -76,7 +77,7 @@ ItemList ItemList::toRestore(const CleanRecord& record, Beside beside)
         list.m_bytes = checkedAdd(list.m_bytes, item.size);
     }
     const std::string title = shown(Format::displayable(AppTexts::titleOf(record.title)));
-    list.m_text = list.m_colours.styled(Style::bold, title) + " · " +
+    list.m_text = list.m_colours.styled(Style::bold, title) + shown(ModelTexts::kBetweenFacts) +
                   Words::figures().dateAndTime(record.date) + "\n\n" +
                   table.text(list.m_colours, std::nullopt);
     return list;

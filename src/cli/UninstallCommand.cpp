@@ -122,8 +122,6 @@ private:
 
     static void warn(Session& session, const Prepared& ready)
     {
-        if (Leftovers::isApple(ready.app.bundleID))
-            session.complain(CliTexts::kAppleApp);
         if (ready.isRunning)
             session.complain({ScanTexts::kQuitFirst, {{"name", PathText::forDisplay(ready.app.name)}}});
         if (ready.leftovers.isOtherCopyInstalled)
