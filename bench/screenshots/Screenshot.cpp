@@ -1,4 +1,5 @@
 #include "app/AppModel.h"
+#include "model/Words.h"
 #include "window/controls/SymbolProvider.h"
 #include "window/photos/PhotoGroupsModel.h"
 #include "window/preview/PictureReader.h"
@@ -191,6 +192,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication application(argc, argv);
+    Words::useInstalled();
     Window::prepare();
     QCommandLineParser options;
     addOptions(options);

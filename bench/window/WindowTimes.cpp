@@ -1,4 +1,5 @@
 #include "app/AppModel.h"
+#include "model/Words.h"
 #include "window/shell/DesktopPresence.h"
 #include "window/shell/RunningInstance.h"
 #include "window/shell/Window.h"
@@ -126,7 +127,8 @@ int once(int argc, char** argv)
     QElapsedTimer sinceClosing;
     {
         const QGuiApplication application(argc, argv);
-        Window::prepare();
+        Words::useInstalled();
+    Window::prepare();
         QSettings().setValue("onboarded", true);
         const QDBusConnection bus = QDBusConnection::sessionBus();
         RunningInstance instance(bus);
