@@ -128,7 +128,7 @@ int once(int argc, char** argv)
     {
         const QGuiApplication application(argc, argv);
         Words::useInstalled();
-    Window::prepare();
+        Window::prepare();
         QSettings().setValue("onboarded", true);
         const QDBusConnection bus = QDBusConnection::sessionBus();
         RunningInstance instance(bus);
