@@ -56,6 +56,9 @@ struct Speech {
     /// The translation; null if there is none.
     [[nodiscard]] const char* find(const Text& text, std::int64_t count) const
     {
+        // What a catalogue has for the empty text is its own header.
+        if (text.empty())
+            return nullptr;
         for (const auto* const catalogue : {&own, &english}) {
             if (!*catalogue)
                 continue;

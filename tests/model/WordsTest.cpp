@@ -69,6 +69,7 @@ TEST_F(WordsTest, speaksTheFirstLanguageThereIsElseEnglish)
     EXPECT_EQ(shown(kState), "Open");
     EXPECT_EQ(shown("Frees {size}."), "Makes {size} free.");
     EXPECT_EQ(shown(""), "");
+    EXPECT_EQ(shown(Text()), "") << "not the header of the catalogue";
 
     speak({"nl_NL"});
     EXPECT_EQ(Words::language(), "en");

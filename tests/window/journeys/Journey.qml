@@ -31,6 +31,27 @@ TestCase {
         wait(0);
     }
 
+    /// What a text of the program, or the one for a number of things, is in the language of the journey.
+    function said(text: string, places: var): string {
+        return Words.message(text, places ?? {});
+    }
+
+    function saidOf(count: int, one: string, many: string, places: var): string {
+        return Words.messages(one, many, Object.assign({ count: count }, places ?? {}));
+    }
+
+    function selectedOf(count: int, total: int): string {
+        return test.saidOf(count, "{count} of {total} selected", "{count} of {total} selected", { total: total });
+    }
+
+    function moved(count: int): string {
+        return test.saidOf(count, "{count} moved to the Trash", "{count} moved to the Trash");
+    }
+
+    function restored(count: int): string {
+        return test.saidOf(count, "Restored {count} item.", "Restored {count} items.");
+    }
+
     function open() {
         failOnWarning(/.?/);
         test.window = main.createObject(null);

@@ -1,5 +1,6 @@
 #include "journeys/Stage.h"
 #include "model/Words.h"
+#include "platform/process/OwnProgram.h"
 #include "window/preview/PictureReader.h"
 
 #include <QtQuickTest>
@@ -30,6 +31,8 @@ int main(int argc, char** argv)
     // The language of scripts/test-catalogue, and what to take it for.
     if (const std::string language = take("--words", argc, argv); !language.empty())
         orlen::Words::use(std::vector{language}, ORLEN_TEST_WORDS);
+    if (const std::string language = take("--language", argc, argv); !language.empty())
+        orlen::Words::use(std::vector{language}, orlen::OwnProgram::sharedFolder("locale"));
     const std::string scale = take("--scale", argc, argv);
     // NOLINTBEGIN(concurrency-mt-unsafe): nothing runs yet
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);

@@ -35,15 +35,15 @@ Journey {
 
     function test_3_theReviewListsAllOfIt() {
         test.clickOn("reviewUninstall");
-        compare(test.item("planTitle").text, "Uninstall Sketcher");
-        verify(test.item("reviewLead").text.startsWith("3 items will be moved to the Trash."));
+        compare(test.item("planTitle").text, test.said("Uninstall {name}", { name: "Sketcher" }));
+        compare(test.item("reviewLead").text, Strings.reviewLead(3));
         verify(stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
     }
 
     function test_4_theCleanUpMovesItToTheTrash() {
         test.clickOn("primaryAction");
         test.item("cleaningDone");
-        compare(test.item("cleaningTitle").text, "3 moved to the Trash");
+        compare(test.item("cleaningTitle").text, test.moved(3));
         verify(!stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
         verify(stage.isInTrash("Sketcher-2.1-x86_64.AppImage"));
         test.clickOn("cleaningDone");
@@ -59,7 +59,7 @@ Journey {
         tryCompare(test.item("leftoverList"), "count", 2);
         compare(test.item("leftoversAll").checkState, Qt.Unchecked);
         verify(!test.item("reviewLeftBehind").enabled);
-        verify(test.row("leftoverList", 0).explanation.startsWith("No program named Barquux is installed"));
+        verify(test.row("leftoverList", 0).explanation.includes("Barquux"));
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("leftoverList"));
         verify(test.isFocused("leftBehind"));
@@ -71,7 +71,7 @@ Journey {
         wait(50);
         verify(!test.isShown("reviewUninstall"));
         test.clickOn("reviewLeftBehind");
-        verify(test.item("reviewLead").text.startsWith("1 items will be moved to the Trash."));
+        compare(test.item("reviewLead").text, Strings.reviewLead(1));
         test.clickOn("primaryAction");
         test.clickOn("cleaningDone");
         verify(!stage.exists(".local/share/Barquux"));

@@ -60,7 +60,7 @@ Journey {
         tryVerify(() => !test.agent().isSwitchable);
         const toggle = stage.find(test.agent(), "switch");
         compare(toggle.enabled, false);
-        verify(toggle.Accessible.description.includes("link"));
+        verify(toggle.Accessible.description.includes(test.said("Its file is a link; change the file that the link points to.")));
         mouseClick(toggle);
         wait(50);
         compare(test.agent().isOn, false);
