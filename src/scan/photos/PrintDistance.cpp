@@ -11,8 +11,6 @@ namespace orlen {
 
 namespace {
 
-constexpr float kNearDuplicate = 0.32F;
-constexpr float kCoarseLimit = 0.80F;      ///< between vectors of length 1
 constexpr float kPlainCoarseLimit = 0.40F; ///< when there is nothing fine to compare
 constexpr float kLeastAgreement = 0.69F;
 
@@ -37,21 +35,26 @@ float between(const FeaturePrint::Direction& one, const FeaturePrint::Direction&
 
 } // namespace
 
+float fineDistance(float coarse, const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+{
+    const std::optional<float> agreement = FineCheck::agreement(one, other);
+    if (!agreement)
+        return kNearDuplicateLimit * coarse / kPlainCoarseLimit;
+    const float fine = (1 - *agreement) / (1 - kLeastAgreement);
+    return kNearDuplicateLimit * std::max(coarse / kCoarseLimit, fine);
+}
+
 float distance(const FeaturePrint& one, const FeaturePrint& other)
 {
     const float coarse = between(one.direction(), other.direction());
     if (coarse >= kCoarseLimit)
-        return kNearDuplicate * coarse / kCoarseLimit;
-    const std::optional<float> agreement = FineCheck::agreement(one.tile(), other.tile());
-    if (!agreement)
-        return kNearDuplicate * coarse / kPlainCoarseLimit;
-    const float fine = (1 - *agreement) / (1 - kLeastAgreement);
-    return kNearDuplicate * std::max(coarse / kCoarseLimit, fine);
+        return kNearDuplicateLimit * coarse / kCoarseLimit;
+    return fineDistance(coarse, one.tile(), other.tile());
 }
 
-std::optional<float> coarseDistance(const FeaturePrint& one, const FeaturePrint& other)
+std::optional<float> coarseDistance(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
 {
-    const float coarse = between(one.direction(), other.direction());
+    const float coarse = between(one, other);
     return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
 }
 
