@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Text.h"
+
 #include <array>
 #include <chrono>
 #include <cstddef>

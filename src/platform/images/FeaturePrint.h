@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/images/TileCode.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace orlen {
 
@@ -11,22 +14,34 @@ namespace orlen {
 /// It has two parts: a short vector of layout, colour and edge directions, which survives re-encoding,
 /// resizing, cropping and changes of light; and a high-passed grey tile, used to look up the fine structure
 /// of one picture in another. The tile tells apart two receipts or pages that share a layout.
+///
+/// A library has tens of thousands of pictures, so both parts are kept small: the vector's numbers in 8 bits,
+/// and the tile packed. At most 4 kB.
 class FeaturePrint {
 public:
-    static constexpr int kTileSide = 128; ///< pixels
+    static constexpr int kTileSide = TileCode::kSide; ///< pixels
     static constexpr std::size_t kLength = 128;
 
     using Vector = std::array<float, kLength>;
-    using Tile = std::array<std::uint8_t, static_cast<std::size_t>(kTileSide) * kTileSide>;
+    using Direction = std::array<std::int8_t, kLength>;
+    using Tile = TileCode::Tile;
 
-    FeaturePrint(const Vector& vector, const Tile& tile) : m_vector(vector), m_tile(tile) {}
+    /// The vector's length does not matter. In the tile 128 means no structure.
+    FeaturePrint(const Vector& vector, const Tile& tile);
+    FeaturePrint(const Direction& direction, std::vector<std::uint8_t> packedTile)
+        : m_direction(direction), m_packedTile(std::move(packedTile))
+    {
+    }
 
-    [[nodiscard]] const Vector& vector() const { return m_vector; }
-    [[nodiscard]] const Tile& tile() const { return m_tile; }
+    /// Of the vector; the largest number is 127. All zeros, which is no direction, if the vector had none.
+    [[nodiscard]] const Direction& direction() const { return m_direction; }
+    [[nodiscard]] const std::vector<std::uint8_t>& packedTile() const { return m_packedTile; }
+    /// Unpacks it, which takes some time.
+    [[nodiscard]] Tile tile() const { return TileCode::unpacked(m_packedTile); }
 
 private:
-    Vector m_vector; ///< a unit vector
-    Tile m_tile;     ///< 128 means no structure
+    Direction m_direction{};
+    std::vector<std::uint8_t> m_packedTile;
 };
 
 } // namespace orlen

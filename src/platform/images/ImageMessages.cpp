@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
+#include <limits>
 #include <type_traits>
 
 namespace orlen::ImageMessages {
@@ -20,11 +20,10 @@ constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
-/// The numbers of a print are between -1 and 1, give or take a rounding error.
-constexpr float kLargestComponent = 1.01F;
 
-static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Vector) +
-                  sizeof(FeaturePrint::Tile) + kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
+static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Direction) +
+                  sizeof(std::uint16_t) + TileCode::kMostBytes +
+                  kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
               kLongest);
 
 class Writer {
@@ -41,6 +40,11 @@ public:
     {
         put(static_cast<std::uint8_t>(text.size()));
         m_bytes += text;
+    }
+    void put(const std::vector<std::uint8_t>& bytes)
+    {
+        put(static_cast<std::uint16_t>(bytes.size()));
+        m_bytes.append(bytes.begin(), bytes.end());
     }
     [[nodiscard]] std::string bytes() { return std::move(m_bytes); }
 
@@ -74,6 +78,11 @@ public:
         const std::string_view bytes = take(get<std::uint8_t>());
         require(!bytes.empty() && bytes.size() <= longest && PathText::isValidUtf8(bytes));
         return m_isValid ? std::string(bytes) : std::string();
+    }
+    std::vector<std::uint8_t> bytes(std::uint16_t most)
+    {
+        const std::string_view bytes = take(get<std::uint16_t>(0, most));
+        return {bytes.begin(), bytes.end()};
     }
     void require(bool holds) { m_isValid = m_isValid && holds; }
     [[nodiscard]] bool isValid() const { return m_isValid; }
@@ -129,11 +138,11 @@ std::optional<FeaturePrint> print(Reader& reader)
 {
     if (reader.get<std::uint8_t>(0, 1) == 0)
         return std::nullopt;
-    const auto vector = reader.get<FeaturePrint::Vector>();
-    reader.require(std::all_of(vector.begin(), vector.end(),
-                               [](float number) { return std::abs(number) <= kLargestComponent; }));
-    const auto tile = reader.get<FeaturePrint::Tile>();
-    return FeaturePrint(vector, tile);
+    const auto direction = reader.get<FeaturePrint::Direction>();
+    reader.require(std::ranges::any_of(direction, [](std::int8_t number) { return number != 0; }));
+    constexpr auto kNever = std::numeric_limits<std::int8_t>::min();
+    reader.require(std::ranges::find(direction, kNever) == direction.end());
+    return FeaturePrint(direction, reader.bytes(TileCode::kMostBytes));
 }
 
 /// The traits that a picture has or has not, one bit each.
@@ -219,8 +228,8 @@ std::string encoded(const Answer& answer)
     put(writer, analysis.traits);
     writer.put(static_cast<std::uint8_t>(analysis.print.has_value()));
     if (analysis.print) {
-        writer.put(analysis.print->vector());
-        writer.put(analysis.print->tile());
+        writer.put(analysis.print->direction());
+        writer.put(analysis.print->packedTile());
     }
     putLabels(writer, analysis.labels);
     return writer.bytes();

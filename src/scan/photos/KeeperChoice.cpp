@@ -90,7 +90,7 @@ bool isBetterShot(const PhotoInfo& shot, const PhotoInfo& than)
 
 /// A copy of the first of its set, and the best of them.
 struct Copies {
-    std::size_t first = 0;
+    SamePicture::Frame first;
     std::size_t best = 0;
 };
 
@@ -114,11 +114,12 @@ std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
 {
     std::vector<Copies> shots;
     for (const std::size_t member : members) {
+        const SamePicture::Frame frame(photos[member]);
         const auto same = std::find_if(shots.begin(), shots.end(), [&](const Copies& copies) {
-            return SamePicture::isCopy(photos[copies.first], photos[member]);
+            return SamePicture::isCopy(copies.first, frame);
         });
         if (same == shots.end())
-            shots.push_back({member, member});
+            shots.push_back({frame, member});
         else if (lostLess(photos[member], photos[same->best]))
             same->best = member;
     }
@@ -130,9 +131,10 @@ std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
     return keeper;
 }
 
-Text KeeperChoice::reason(const PhotoInfo& other, const PhotoInfo& keeper)
+Text KeeperChoice::reason(const PhotoInfo& other, const SamePicture::Frame& keeperFrame)
 {
-    if (SamePicture::isCopy(other, keeper))
+    const PhotoInfo& keeper = *keeperFrame.photo;
+    if (SamePicture::isCopy(SamePicture::Frame(other), keeperFrame))
         return reasonOfCopy(other, keeper);
     if (isSofter(other, keeper))
         return ScanTexts::kSofterShot;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scan/photos/PhotoAnalyzer.h"
+#include "scan/photos/SamePicture.h"
 
 #include <cstddef>
 #include <string_view>
@@ -16,6 +17,6 @@ namespace orlen::KeeperChoice {
                                  const std::vector<std::size_t>& members);
 
 /// What the other picture lacks, as a note.
-[[nodiscard]] Text reason(const PhotoInfo& other, const PhotoInfo& keeper);
+[[nodiscard]] Text reason(const PhotoInfo& other, const SamePicture::Frame& keeper);
 
 } // namespace orlen::KeeperChoice

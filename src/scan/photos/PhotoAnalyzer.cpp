@@ -9,6 +9,7 @@
 #include "scan/photos/PhotoGroups.h"
 #include "scan/photos/PhotoRules.h"
 #include "scan/photos/PictureMemory.h"
+#include "scan/photos/SamePicture.h"
 
 #include <algorithm>
 #include <array>
@@ -23,10 +24,10 @@ namespace {
 
 constexpr float kLeastConfidence = 0.15F;
 
-PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
+PhotoInfo photoInfo(const Cand& cand, ImageAnalysis analysis)
 {
-    PhotoInfo photo{cand,           analysis.print,  analysis.sharpness, {},
-                    analysis.width, analysis.height, analysis.traits};
+    PhotoInfo photo{cand,           std::move(analysis.print), analysis.sharpness, {},
+                    analysis.width, analysis.height,           analysis.traits};
     for (const ImageLabel& label : analysis.labels) {
         if (label.confidence > kLeastConfidence)
             photo.labels.push_back({PathText::asciiLower(label.identifier), label.confidence});
@@ -34,9 +35,10 @@ PhotoInfo photoInfo(const Cand& cand, const ImageAnalysis& analysis)
     return photo;
 }
 
-Message similarNote(const PhotoInfo& photo, const PhotoInfo& keeper)
+Message similarNote(const PhotoInfo& photo, const SamePicture::Frame& keeper)
 {
-    Message similar{ScanTexts::kSimilar, {{"name", std::string(PathText::lastComponent(keeper.cand.path))}}};
+    Message similar{ScanTexts::kSimilar,
+                    {{"name", std::string(PathText::lastComponent(keeper.photo->cand.path))}}};
     return Message::joined({std::move(similar), KeeperChoice::reason(photo, keeper)}, Several::Joint::facts);
 }
 
@@ -68,7 +70,7 @@ PhotoAnalyzer::Analyzed PhotoAnalyzer::analyze(const std::vector<Cand>& images) 
     for (std::size_t i = 0; i < images.size(); ++i) {
         analyzed.coverage.lookedAt += known[i] ? 1 : 0;
         if (known[i] && *known[i])
-            analyzed.photos.push_back(photoInfo(images[i], **known[i]));
+            analyzed.photos.push_back(photoInfo(images[i], std::move(**known[i])));
         known[i].reset();
     }
     return analyzed;
@@ -122,12 +124,12 @@ std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photo
     std::array<std::vector<FileEntry>, kKinds.size()> entries;
     std::vector<bool> isListed(photos.size());
     for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
+        const SamePicture::Frame keeper(photos[group.keeper]);
         for (const std::size_t other : group.others) {
             isListed[other] = true;
-            const PhotoInfo& keeper = photos[group.keeper];
             FileEntry& similar = entries.front().emplace_back(
                 toEntryByContent(photos[other].cand, similarNote(photos[other], keeper)));
-            similar.kept = toKept(keeper.cand);
+            similar.kept = toKept(keeper.photo->cand);
         }
     }
     for (std::size_t i = 0; i < photos.size(); ++i) {

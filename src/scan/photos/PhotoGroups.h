@@ -15,10 +15,8 @@ struct Group {
     std::vector<std::size_t> others; ///< ascending
 };
 
-/// Groups of two or more, ordered by their first members. Each photo is compared with the first member of
-/// each earlier group and joins the first one it resembles; where very many have nearly its layout, with the
-/// nearest of them. Pictures without a print and damaged ones are in
-/// none. Returns what it has when stopped.
+/// The clusters of two or more photos, see PhotoClusters, ordered by their first members. Returns what it has
+/// when stopped.
 [[nodiscard]] std::vector<Group> of(const std::vector<PhotoInfo>& photos, const std::stop_token& stop);
 
 } // namespace orlen::PhotoGroups

@@ -4,51 +4,57 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 namespace orlen {
 
 namespace {
 
-constexpr float kNearDuplicate = 0.32F;
-constexpr float kCoarseLimit = 0.80F;      ///< between vectors of length 1
 constexpr float kPlainCoarseLimit = 0.40F; ///< when there is nothing fine to compare
-constexpr float kLeastAgreement = 0.70F;
+constexpr float kLeastAgreement = 0.69F;
 
-/// Eight sums side by side, which the compiler keeps in vector registers.
-float between(const FeaturePrint::Vector& one, const FeaturePrint::Vector& other)
+std::int32_t product(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
 {
-    constexpr std::size_t kLanes = 8;
-    std::array<float, kLanes> sums{};
-    for (std::size_t i = 0; i < FeaturePrint::kLength; i += kLanes) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            const float difference = one[i + lane] - other[i + lane];
-            sums[lane] += difference * difference;
-        }
-    }
-    float sum = 0;
-    for (const float lane : sums)
-        sum += lane;
-    return std::sqrt(sum);
+    std::int32_t sum = 0;
+    for (std::size_t i = 0; i < FeaturePrint::kLength; ++i)
+        sum += std::int32_t{one[i]} * other[i];
+    return sum;
+}
+
+/// Between unit vectors of these directions; as far as can be for what is no direction.
+float between(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
+{
+    constexpr float kOpposite = 2;
+    const std::int64_t squares = std::int64_t{product(one, one)} * product(other, other);
+    if (squares == 0)
+        return kOpposite;
+    const double cosine = product(one, other) / std::sqrt(static_cast<double>(squares));
+    return static_cast<float>(std::sqrt(std::max(2 - 2 * cosine, 0.0)));
 }
 
 } // namespace
 
-float distance(const FeaturePrint& one, const FeaturePrint& other)
+float fineDistance(float coarse, const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    const float coarse = between(one.vector(), other.vector());
-    if (coarse >= kCoarseLimit)
-        return kNearDuplicate * coarse / kCoarseLimit;
-    const std::optional<float> agreement = FineCheck::agreement(one.tile(), other.tile());
+    const std::optional<float> agreement = FineCheck::agreement(one, other);
     if (!agreement)
-        return kNearDuplicate * coarse / kPlainCoarseLimit;
+        return kNearDuplicateLimit * coarse / kPlainCoarseLimit;
     const float fine = (1 - *agreement) / (1 - kLeastAgreement);
-    return kNearDuplicate * std::max(coarse / kCoarseLimit, fine);
+    return kNearDuplicateLimit * std::max(coarse / kCoarseLimit, fine);
 }
 
-std::optional<float> coarseDistance(const FeaturePrint& one, const FeaturePrint& other)
+float distance(const FeaturePrint& one, const FeaturePrint& other)
 {
-    const float coarse = between(one.vector(), other.vector());
+    const float coarse = between(one.direction(), other.direction());
+    if (coarse >= kCoarseLimit)
+        return kNearDuplicateLimit * coarse / kCoarseLimit;
+    return fineDistance(coarse, one.tile(), other.tile());
+}
+
+std::optional<float> coarseDistance(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
+{
+    const float coarse = between(one, other);
     return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
 }
 

@@ -71,8 +71,8 @@ float leftOver(const Products& place, double contrast, double noise)
 
 float worstLeftOver(const Cells& cells, std::size_t step)
 {
-    // Of the encoders: some levels in each pixel of a place.
-    const double noise = 6.0 * 6.0 * 4 * kCell * kCell * static_cast<double>(step * step);
+    // Of the encoders and of the packing: some levels in each pixel of a place.
+    const double noise = 10.0 * 10.0 * 4 * kCell * kCell * static_cast<double>(step * step);
     constexpr float kNothingInCommon = 2;
     Products all;
     for (const Products& cell : cells)
@@ -111,19 +111,32 @@ float SamePicture::coarseDifference(const FeaturePrint::Tile& one, const Feature
     return worstLeftOver(cellsOf(one, other, 2), 2);
 }
 
-bool SamePicture::isCopy(const PhotoInfo& one, const PhotoInfo& other)
+SamePicture::Frame::Frame(const PhotoInfo& of) : photo(&of)
 {
-    constexpr float kFromEncoding = 0.25F;
+    if (of.print)
+        tile = of.print->tile();
+}
+
+bool SamePicture::isCopy(const Frame& one, const Frame& other)
+{
+    constexpr float kFromEncoding = 0.4F;
     constexpr float kFromScaling = 0.5F; ///< or from turning colours into greys
     constexpr int kCoarseSide = 2 * FeaturePrint::kTileSide;
-    if (!one.print || !other.print)
+    if (!one.tile || !other.tile)
         return false;
-    const bool isCoarse =
-        std::max(one.width, one.height) < kCoarseSide || std::max(other.width, other.height) < kCoarseSide;
-    const float apart = (isCoarse ? coarseDifference : difference)(one.print->tile(), other.print->tile());
-    const bool isEncodedOnly =
-        pixelCount(one) == pixelCount(other) && one.traits.isGrey == other.traits.isGrey;
+    const auto isCoarse = [](const PhotoInfo& photo) {
+        return std::max(photo.width, photo.height) < kCoarseSide;
+    };
+    const bool areCoarse = isCoarse(*one.photo) || isCoarse(*other.photo);
+    const float apart = (areCoarse ? coarseDifference : difference)(*one.tile, *other.tile);
+    const bool isEncodedOnly = pixelCount(*one.photo) == pixelCount(*other.photo) &&
+                               one.photo->traits.isGrey == other.photo->traits.isGrey;
     return apart <= (isEncodedOnly ? kFromEncoding : kFromScaling);
+}
+
+bool SamePicture::isCopy(const PhotoInfo& one, const PhotoInfo& other)
+{
+    return isCopy(Frame(one), Frame(other));
 }
 
 } // namespace orlen

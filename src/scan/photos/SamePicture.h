@@ -2,6 +2,8 @@
 
 #include "scan/photos/PhotoAnalyzer.h"
 
+#include <optional>
+
 /// Tells copies of one picture from different shots of one scene. Pure; any thread.
 namespace orlen::SamePicture {
 
@@ -13,7 +15,15 @@ namespace orlen::SamePicture {
 /// The same without the finest structure, which a very small copy cannot have.
 [[nodiscard]] float coarseDifference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other);
 
+/// A picture whose tile is unpacked once, for several comparisons. Borrows the photo.
+struct Frame {
+    explicit Frame(const PhotoInfo& of);
+    const PhotoInfo* photo;
+    std::optional<FeaturePrint::Tile> tile; ///< none without a print
+};
+
 /// Whether both are the same frame, apart from such changes. False for a picture without a print.
+[[nodiscard]] bool isCopy(const Frame& one, const Frame& other);
 [[nodiscard]] bool isCopy(const PhotoInfo& one, const PhotoInfo& other);
 
 } // namespace orlen::SamePicture

@@ -25,21 +25,20 @@ constexpr std::size_t kSharpness = 9;
 constexpr std::size_t kFormat = 17;
 constexpr std::size_t kTraits = 18;
 constexpr std::size_t kHasPrint = 19;
-constexpr std::size_t kVector = 20;
-constexpr std::size_t kLabelCount = kVector + sizeof(FeaturePrint::Vector) + sizeof(FeaturePrint::Tile);
+constexpr std::size_t kDirection = 20;
+constexpr std::size_t kTileLength = kDirection + sizeof(FeaturePrint::Direction);
+constexpr std::size_t kTileBytes = 5;
+constexpr std::size_t kLabelCount = kTileLength + sizeof(std::uint16_t) + kTileBytes;
 constexpr std::size_t kIdentifier = kLabelCount + 2;
 
 Answer picture()
 {
-    FeaturePrint::Vector vector{};
-    vector[3] = -0.6F;
-    vector[127] = 0.8F;
-    FeaturePrint::Tile tile{};
-    tile.front() = 1;
-    tile.back() = 255;
+    FeaturePrint::Direction direction{};
+    direction[3] = -95;
+    direction[127] = 127;
     return {ImageAnalysis{4000,
                           3000,
-                          FeaturePrint(vector, tile),
+                          FeaturePrint(direction, std::vector<std::uint8_t>(kTileBytes, 255)),
                           21.9,
                           {{"receipt", 0.7F}, {"text", 0.1F}},
                           {.format = PictureFormat::gif, .isGrey = true, .isFromCamera = true}}};
@@ -62,8 +61,8 @@ TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
     EXPECT_EQ(heard->analysis->width, 4000);
     EXPECT_EQ(heard->analysis->height, 3000);
     EXPECT_EQ(heard->analysis->sharpness, 21.9);
-    EXPECT_EQ(heard->analysis->print->vector(), picture().analysis->print->vector());
-    EXPECT_EQ(heard->analysis->print->tile(), picture().analysis->print->tile());
+    EXPECT_EQ(heard->analysis->print->direction(), picture().analysis->print->direction());
+    EXPECT_EQ(heard->analysis->print->packedTile(), picture().analysis->print->packedTile());
     EXPECT_EQ(heard->analysis->labels, picture().analysis->labels);
     EXPECT_EQ(heard->analysis->traits, picture().analysis->traits);
 
@@ -159,8 +158,10 @@ TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
         {"traits that nobody knows", replaced(kTraits, std::uint8_t{32})},
         {"a print or not", replaced(kHasPrint, std::uint8_t{255})},
         {"a print without its bytes", replaced(kHasPrint, std::uint8_t{0})},
-        {"no number in the print", replaced(kVector + 5 * sizeof(float), kNan)},
-        {"a long vector", replaced(kVector, -2.0F)},
+        {"a direction that no vector has", replaced(kDirection + 5, std::int8_t{-128})},
+        {"no direction", replaced(kDirection, FeaturePrint::Direction{})},
+        {"a tile with less bytes than there are", replaced(kTileLength, std::uint16_t{4})},
+        {"a tile with very many bytes", replaced(kTileLength, std::uint16_t{TileCode::kMostBytes + 1})},
         {"more labels than there are", replaced(kLabelCount, std::uint8_t{3})},
         {"fewer labels than there are", replaced(kLabelCount, std::uint8_t{1})},
         {"very many labels", replaced(kLabelCount, std::uint8_t{255})},

@@ -82,8 +82,8 @@ TEST_F(PictureMemoryTest, whatWasLearnedIsKnownWhileTheFileIsWhatItWas)
     PictureMemory memory(path);
     const auto known = memory.recall({{"/p", 1, {}, stampOf(2)}}, now);
     ASSERT_TRUE(known[0] && *known[0] && (*known[0])->print);
-    EXPECT_EQ((*known[0])->print->vector(), expected.print->vector());
-    EXPECT_EQ((*known[0])->print->tile(), expected.print->tile());
+    EXPECT_EQ((*known[0])->print->direction(), expected.print->direction());
+    EXPECT_EQ((*known[0])->print->packedTile(), expected.print->packedTile());
     EXPECT_EQ((*known[0])->labels, expected.labels);
     EXPECT_EQ((*known[0])->traits, expected.traits);
     EXPECT_EQ((*known[0])->sharpness, expected.sharpness);

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/images/FeaturePrint.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace orlen {
+
+/// Finds the near ones among very many directions, exactly as `coarseDistance` does. It still looks at all of
+/// them, but at a sketch first: the numbers in which pictures differ most, and the lengths of the rest. The
+/// product of two sketches is at least that of the directions, so most of them are out after a few cycles.
+/// About 200 bytes each. Any thread, while none adds.
+class PrintIndex {
+public:
+    using Direction = FeaturePrint::Direction;
+
+    struct Near {
+        float coarse = 0;       ///< see coarseDistance
+        std::size_t number = 0; ///< 0 for the first that was added
+        friend bool operator==(const Near&, const Near&) = default;
+    };
+
+    void add(const Direction& direction);
+
+    /// For each of some directions those that are near it, or the nearest `most` of them, nearest first. Many
+    /// at a time take less time than each alone.
+    [[nodiscard]] std::vector<std::vector<Near>> near(std::span<const Direction> directions,
+                                                      std::size_t most) const;
+
+private:
+    static constexpr std::size_t kHead = 32;
+    static constexpr std::size_t kRests = 4;
+    static constexpr std::size_t kNumbers = kHead + kRests;
+    static constexpr std::size_t kLanes = 8;
+    using Sketch = std::array<std::int16_t, kNumbers>;
+    /// Eight sketches, number by number, so that the compiler multiplies eight at a time.
+    using Bundle = std::array<std::array<std::int16_t, kLanes>, kNumbers>;
+
+    [[nodiscard]] static Sketch sketchOf(const Direction& direction);
+    [[nodiscard]] static std::array<std::int16_t, kLanes> products(const Bundle& bundle,
+                                                                   const Sketch& sketch);
+
+    std::vector<Bundle> m_bundles;
+    std::vector<Direction> m_directions;
+};
+
+} // namespace orlen
