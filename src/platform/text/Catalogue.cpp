@@ -55,8 +55,8 @@ std::optional<Catalogue> Catalogue::load(const std::string& folder, const std::s
     std::error_code error;
     if (!std::filesystem::is_regular_file(folder + '/' + language + "/LC_MESSAGES/" + kDomain + ".mo", error))
         return std::nullopt;
-    std::optional<std::locale> messages = messagesIn(folder, language);
-    return messages ? std::optional(Catalogue(*std::move(messages))) : std::nullopt;
+    const std::optional<std::locale> messages = messagesIn(folder, language);
+    return messages ? std::optional(Catalogue(*messages)) : std::nullopt;
 }
 
 const char* Catalogue::find(const char* context, const char* text) const

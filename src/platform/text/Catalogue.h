@@ -20,7 +20,7 @@ public:
     [[nodiscard]] const char* find(const char* context, const char* text, std::int64_t count) const;
 
 private:
-    explicit Catalogue(std::locale messages) : m_messages(std::move(messages)) {}
+    explicit Catalogue(const std::locale& messages) : m_messages(messages) {}
 
     std::locale m_messages; ///< owns the facet that reads the file
 };
