@@ -1,5 +1,7 @@
 #include "app/AppTexts.h"
 
+#include "app/Format.h"
+#include "clean/Exclusion.h"
 #include "model/MessageText.h"
 #include "tools/ToolsTexts.h"
 
@@ -15,6 +17,12 @@ constexpr std::array kTitles{kScanPlanTitle, ToolsTexts::kLeftBehind, ToolsTexts
 Message sentences(Message first, Message second)
 {
     return Message::joined({std::move(first), std::move(second)}, Several::Joint::sentences);
+}
+
+Place what(const Exclusion& exclusion)
+{
+    return {"what", exclusion.kind == Exclusion::Kind::path ? Format::shownPath(exclusion.text)
+                                                            : Format::quoted(exclusion.text)};
 }
 
 } // namespace
@@ -35,6 +43,17 @@ Message restored(int restored, int failed)
     if (failed == 0)
         return {kRestored, {{"count", restored}}};
     return {kPartlyRestored, {{"count", failed}, {"restored", restored}}};
+}
+
+Message nowExcluded(const Exclusion& exclusion)
+{
+    const bool isPath = exclusion.kind == Exclusion::Kind::path;
+    return {isPath ? kNowExcluded : kNameNowExcluded, {what(exclusion)}};
+}
+
+Message noLongerExcluded(const Exclusion& exclusion)
+{
+    return {kNoLongerExcluded, {what(exclusion)}};
 }
 
 Message stillOn(const std::string& service)

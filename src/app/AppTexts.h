@@ -6,6 +6,10 @@
 #include <string>
 #include <string_view>
 
+namespace orlen {
+struct Exclusion;
+}
+
 /// The sentences of the application model. Pure.
 namespace orlen::AppTexts {
 
@@ -67,6 +71,36 @@ inline constexpr Text kUnreadableFolders =
 
 /// The title of a clean-up in the history, which keeps it in English. One that no plan has is taken as it is.
 [[nodiscard]] Message titleOf(const std::string& kept);
+
+// What is excluded. {what} is a path or a quoted name.
+inline constexpr Text kPath = messageIn("kind of exclusion", "Path");
+inline constexpr Text kName = messageIn("kind of exclusion", "Name");
+inline constexpr Text kNothingExcluded = message("Nothing is excluded.");
+inline constexpr Text kNowExcluded = message("{what} is excluded: it is neither offered nor moved.");
+inline constexpr Text kNameNowExcluded =
+    message("{what} is excluded: no entry of this name is offered or moved; a folder that only holds one may "
+            "be.");
+inline constexpr Text kNoLongerExcluded = message("{what} is no longer excluded.");
+
+/// That the line was added to the list, and that it was removed.
+[[nodiscard]] Message nowExcluded(const Exclusion& exclusion);
+[[nodiscard]] Message noLongerExcluded(const Exclusion& exclusion);
+
+// What is done with a path, and why.
+inline constexpr Text kNotThere = message("nothing there");
+// TRANSLATORS: {what} is a heading such as "Browser profiles"; {why} is a sentence.
+inline constexpr Text kProtected = message("Protected, {what}: {why}");
+inline constexpr Text kExcludedByPath = message("Excluded by {path}: neither offered nor moved.");
+inline constexpr Text kExcludedByName = message("Excluded by the name {name}: neither offered nor moved.");
+// TRANSLATORS: follows the sentence that something is excluded; findings that would offer it follow.
+inline constexpr Text kOtherwise = message("Otherwise it would be:");
+// TRANSLATORS: "App caches, Safe: Browser cache, rebuilt as you browse."
+inline constexpr Text kOffer = message("{finding}, {rating}: {why}");
+// TRANSLATORS: {path} is the folder around what was asked for, {size} its size.
+inline constexpr Text kMovesWith = message("Moves with {path}, {size}.");
+inline constexpr Text kOfferedNowhere =
+    message("Not protected, and no known place offers it. Whether it is a duplicate or a photo to review, a "
+            "scan tells.");
 
 // What the command line and the window both say.
 inline constexpr Text kSafelyFree = message("You can safely free {size}");

@@ -112,7 +112,7 @@ void Results::startScan()
     if (m_phase == Phase::scanning)
         return;
     refreshAccess();
-    const ScanOptions options{checkedInteger(m_largeThresholdMB * kBytesPerMegabyte), m_images};
+    const ScanOptions options{largeThreshold(), m_images};
     const auto engine = std::make_shared<ScanEngine>(options);
     m_engine = engine;
     m_scanProgress = std::shared_ptr<const ScanProgress>(engine, &engine->progress());
@@ -286,6 +286,11 @@ const PathTree& Results::listed() const
     if (!m_listed)
         m_listed = PathSelection::listedIn(m_findings);
     return *m_listed;
+}
+
+std::int64_t Results::largeThreshold() const
+{
+    return checkedInteger(m_largeThresholdMB * kBytesPerMegabyte);
 }
 
 void Results::setLargeThresholdMB(double megabytes)

@@ -47,6 +47,8 @@ public:
     [[nodiscard]] const std::set<std::string>& selection() const { return m_selection; }
     /// Decimal megabytes from which a file counts as large.
     [[nodiscard]] double largeThresholdMB() const { return m_largeThresholdMB; }
+    /// The same in bytes. Stops the program if it does not fit.
+    [[nodiscard]] std::int64_t largeThreshold() const;
     [[nodiscard]] bool isFdaGranted() const { return m_isFdaGranted; }
     /// Of the current or last scan; empty before the first.
     [[nodiscard]] const ScanProgress& scanProgress() const { return *m_scanProgress; }

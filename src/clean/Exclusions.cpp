@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 #include <utility>
 
 namespace orlen {
@@ -24,6 +23,15 @@ void moveEntries(std::vector<FileEntry>& entries, std::vector<FileEntry>& taken,
                                              [&](const FileEntry& entry) { return !isTaken(entry); });
     std::move(first, entries.end(), std::back_inserter(taken));
     entries.erase(first, entries.end());
+}
+
+using Paths = std::set<std::string, std::less<>>;
+
+bool holdsOneOf(const Paths& paths, std::string_view path)
+{
+    const std::string folder = asFolder(path);
+    const auto next = paths.lower_bound(folder);
+    return next != paths.end() && next->starts_with(folder);
 }
 
 } // namespace
@@ -94,18 +102,14 @@ std::vector<Finding> Exclusions::takeFrom(std::vector<Finding>& findings) const
     if (isEmpty())
         return {};
     std::vector<std::vector<FileEntry>> taken(findings.size());
-    std::set<std::string, std::less<>> excluded;
+    Paths excluded;
     for (std::size_t i = 0; i < findings.size(); ++i) {
         moveEntries(findings[i].items, taken[i],
                     [&](const FileEntry& entry) { return excludes(entry.path) != nullptr; });
         for (const FileEntry& entry : taken[i])
             excluded.insert(entry.path);
     }
-    const auto holdsExcluded = [&](const FileEntry& entry) {
-        const std::string folder = asFolder(entry.path);
-        const auto next = excluded.lower_bound(folder);
-        return next != excluded.end() && next->starts_with(folder);
-    };
+    const auto holdsExcluded = [&](const FileEntry& entry) { return holdsOneOf(excluded, entry.path); };
     std::vector<Finding> result;
     for (std::size_t i = 0; i < findings.size(); ++i) {
         if (!excluded.empty())
@@ -118,6 +122,25 @@ std::vector<Finding> Exclusions::takeFrom(std::vector<Finding>& findings) const
     }
     std::erase_if(findings, [](const Finding& finding) { return finding.items.empty(); });
     return result;
+}
+
+std::set<std::string, std::less<>> Exclusions::excludedIn(const CleanPlan& plan) const
+{
+    Paths excluded;
+    if (isEmpty())
+        return excluded;
+    std::vector<std::string_view> others;
+    for (const PlanSection& section : plan.sections) {
+        for (const FileEntry& entry : section.entries) {
+            if (excludes(entry.path) != nullptr)
+                excluded.insert(entry.path);
+            else
+                others.push_back(entry.path);
+        }
+    }
+    std::erase_if(others, [&](std::string_view path) { return !holdsOneOf(excluded, path); });
+    excluded.insert(others.begin(), others.end());
+    return excluded;
 }
 
 } // namespace orlen

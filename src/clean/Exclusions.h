@@ -1,11 +1,13 @@
 #pragma once
 
 #include "clean/Exclusion.h"
+#include "model/CleanPlan.h"
 #include "model/Finding.h"
 
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +35,9 @@ public:
     /// Removes the excluded entries, and folders that contain one of those, and returns them in findings of
     /// their own. Findings that lose all their entries are removed.
     [[nodiscard]] std::vector<Finding> takeFrom(std::vector<Finding>& findings) const;
+
+    /// The paths of the plan's excluded entries, and of its folders that contain one of those.
+    [[nodiscard]] std::set<std::string, std::less<>> excludedIn(const CleanPlan& plan) const;
 
 private:
     using Index = std::map<std::string, std::size_t, std::less<>>; ///< indexes of the lines, by text

@@ -300,36 +300,12 @@ inline constexpr Text kNotSwitchedOff = message("{name} could not be switched of
 inline constexpr Text kMayBeMissed =
     message("{name} is part of your desktop; switch it on again if something is missing.");
 
-// explain.
-inline constexpr Text kNotThere = message("nothing there");
-// TRANSLATORS: {what} is a heading such as "Browser profiles"; {why} is a sentence.
-inline constexpr Text kProtected = message("Protected, {what}: {why}");
-inline constexpr Text kExcludedByPath = message("Excluded by {path}: neither offered nor moved.");
-inline constexpr Text kExcludedByName = message("Excluded by the name {name}: neither offered nor moved.");
-// TRANSLATORS: follows the sentence that something is excluded; findings that would offer it follow.
-inline constexpr Text kOtherwise = message("Otherwise it would be:");
-// TRANSLATORS: "App caches, Safe: Browser cache, rebuilt as you browse."
-inline constexpr Text kOffer = message("{finding}, {rating}: {why}");
-// TRANSLATORS: {path} is the folder around what was asked for, {size} its size.
-inline constexpr Text kMovesWith = message("Moves with {path}, {size}.");
-inline constexpr Text kOfferedNowhere =
-    message("Not protected, and no known place offers it. Whether it is a duplicate or a photo to review, a "
-            "scan tells.");
-
 // exclude. {what} is a path or a quoted name.
-inline constexpr Text kPath = messageIn("kind of exclusion", "Path");
-inline constexpr Text kName = messageIn("kind of exclusion", "Name");
-inline constexpr Text kNothingExcluded = message("Nothing is excluded.");
 inline constexpr Text kHowToExclude =
     message("`orlen exclude add PATH` and `orlen exclude remove PATH` change this list; --name takes every "
             "entry of a name.");
 inline constexpr Text kPathOrName = message("give a path, or a name with --name.");
 inline constexpr Text kNoName = message("{what} is no name that a file or folder can have.");
-inline constexpr Text kNowExcluded = message("{what} is excluded: it is neither offered nor moved.");
-inline constexpr Text kNameNowExcluded =
-    message("{what} is excluded: no entry of this name is offered or moved; a folder that only holds one may "
-            "be.");
-inline constexpr Text kNoLongerExcluded = message("{what} is no longer excluded.");
 inline constexpr Text kNotExcluded = message("{what} is not in the list of exclusions.");
 inline constexpr Text kExclusionNotThere =
     message("{what} is not there now; it stays excluded in case it comes.");

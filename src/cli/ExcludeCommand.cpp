@@ -1,4 +1,5 @@
 #include "app/AppModel.h"
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "cli/CliTexts.h"
 #include "cli/Command.h"
@@ -39,10 +40,10 @@ void printLines(const Lines& lines)
     const Colours colours = Session::colours();
     Table table({{"", Table::Kind::text}, {shown(CliTexts::kExcludedHeading), Table::Kind::path}});
     for (const Exclusion& line : lines)
-        table.addRow({{shown(isPath(line) ? CliTexts::kPath : CliTexts::kName), Style::dim},
+        table.addRow({{shown(isPath(line) ? AppTexts::kPath : AppTexts::kName), Style::dim},
                       {isPath(line) ? Format::shownPath(line.text) : PathText::forDisplay(line.text)}});
     Session::print(
-        (lines.empty() ? shown(CliTexts::kNothingExcluded) + '\n' : table.text(colours, Session::width())) +
+        (lines.empty() ? shown(AppTexts::kNothingExcluded) + '\n' : table.text(colours, Session::width())) +
         '\n' + colours.styled(Style::dim, shown(CliTexts::kHowToExclude)) + '\n');
 }
 
@@ -106,7 +107,8 @@ private:
         if (m_add->parsed() && isPath(*wanted) && !exists(wanted->text))
             session.complain({CliTexts::kExclusionNotThere, {what(*wanted)}});
         if (!wantsJson())
-            Session::print({outcome(*wanted), {what(*wanted)}});
+            Session::print(m_remove->parsed() ? AppTexts::noLongerExcluded(*wanted)
+                                              : AppTexts::nowExcluded(*wanted));
         return ExitStatus::done;
     }
 
@@ -126,13 +128,6 @@ private:
         if (m_path.empty())
             return CliTexts::kPathOrName;
         return {CliTexts::kNoTextInDocument, {{"path", Format::quoted(m_path)}}};
-    }
-
-    [[nodiscard]] Text outcome(const Exclusion& exclusion) const
-    {
-        if (m_remove->parsed())
-            return CliTexts::kNoLongerExcluded;
-        return isPath(exclusion) ? CliTexts::kNowExcluded : CliTexts::kNameNowExcluded;
     }
 
     std::string m_path;

@@ -1,3 +1,5 @@
+#include "app/AppTexts.h"
+#include "app/ExplanationText.h"
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/Background.h"
@@ -14,8 +16,7 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
-#include <utility>
-#include <vector>
+#include <string>
 
 namespace orlen {
 
@@ -23,56 +24,18 @@ namespace {
 
 constexpr std::int64_t kLargeFile = 500'000'000;
 
-/// "App caches, Safe: Browser cache, rebuilt as you browse." and what would move.
-std::string offer(const Finding& finding, const std::string& path, const Colours& colours)
-{
-    const FileEntry& entry = finding.items.front();
-    const Rating rating = finding.effectiveRating(entry);
-    const Message why = entry.notes.empty() ? finding.reason : Format::displayable(noteOf(entry));
-    std::string text =
-        shown(Message{CliTexts::kOffer,
-                      {{"finding", within(finding.title)},
-                       {"rating", colours.styled(FindingTable::style(rating), shown(label(rating)))},
-                       {"why", within(why)}}}) +
-        '\n';
-    if (entry.path != path)
-        text += shown(Message{CliTexts::kMovesWith,
-                              {{"path", Format::shownPath(entry.path)}, {"size", Bytes{entry.size}}}}) +
-                '\n';
-    return text;
-}
-
-/// Which line excludes the path. With findings, it leads over to what they would do otherwise.
-Message exclusionText(const Exclusion& exclusion, bool isAll)
-{
-    std::vector<Message> sentences;
-    if (exclusion.kind == Exclusion::Kind::path)
-        sentences.push_back({CliTexts::kExcludedByPath, {{"path", Format::shownPath(exclusion.text)}}});
-    else
-        sentences.push_back({CliTexts::kExcludedByName, {{"name", Format::quoted(exclusion.text)}}});
-    if (!isAll)
-        sentences.emplace_back(CliTexts::kOtherwise);
-    return Message::joined(std::move(sentences), Several::Joint::sentences);
-}
-
 void print(const Explanation& told)
 {
     const Colours colours = Session::colours();
     std::string text = colours.styled(Style::bold, Format::shownPath(told.path)) + '\n';
     text += colours.styled(Style::dim,
-                           told.exists ? Words::figures().bytes(told.size) : shown(CliTexts::kNotThere)) +
+                           told.exists ? Words::figures().bytes(told.size) : shown(AppTexts::kNotThere)) +
             "\n\n";
-    if (told.protection != Protection::none)
-        text += shown(Message{
-                    CliTexts::kProtected,
-                    {{"what", within(label(told.protection))}, {"why", within(reason(told.protection))}}}) +
-                '\n';
-    if (told.exclusion)
-        text += shown(exclusionText(*told.exclusion, told.findings.empty())) + '\n';
-    for (const Finding& finding : told.findings)
-        text += offer(finding, told.path, colours);
-    if (told.findings.empty() && told.protection == Protection::none && !told.exclusion)
-        text += shown(CliTexts::kOfferedNowhere) + '\n';
+    const auto ratingText = [&](Rating rating) {
+        return colours.styled(FindingTable::style(rating), shown(label(rating)));
+    };
+    for (const Message& sentence : ExplanationText::sentences(told, ratingText))
+        text += shown(sentence) + '\n';
     Session::print(text);
 }
 

@@ -66,12 +66,43 @@ void PlanTicks::setAll(bool isTicked)
     recount();
 }
 
+void PlanTicks::tick(std::span<const Place> places)
+{
+    for (const Place& place : places)
+        put(nodeOf(place), true);
+    recount();
+}
+
+void PlanTicks::leaveOut(std::span<const Place> places)
+{
+    for (const Place& place : places) {
+        m_isTicked[static_cast<std::size_t>(nodeOf(place))] = false;
+        untickHolders(nodeOf(place));
+    }
+    recount();
+}
+
+void PlanTicks::takeBack(std::span<const Place> places)
+{
+    for (const Place& place : places)
+        m_isTicked[static_cast<std::size_t>(nodeOf(place))] = true;
+    for (int node = 0; node < m_tree.size(); ++node) {
+        if (!isOn(node))
+            untickHolders(node);
+    }
+    recount();
+}
+
 void PlanTicks::put(int node, bool isTicked)
 {
     for (int inside = node; inside < m_tree.end(node); ++inside)
         m_isTicked[static_cast<std::size_t>(inside)] = isTicked;
-    if (isTicked)
-        return;
+    if (!isTicked)
+        untickHolders(node);
+}
+
+void PlanTicks::untickHolders(int node)
+{
     for (int folder = m_tree.holder(node); isOn(folder); folder = m_tree.holder(folder))
         m_isTicked[static_cast<std::size_t>(folder)] = false;
 }

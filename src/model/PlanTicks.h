@@ -4,7 +4,9 @@
 #include "model/PathSelection.h"
 #include "model/PathTree.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace orlen {
@@ -21,6 +23,17 @@ public:
     void set(std::size_t section, std::size_t entry, bool isTicked);
     void setSection(std::size_t section, bool isTicked);
     void setAll(bool isTicked);
+
+    /// An entry by the numbers of its section and itself.
+    struct Place {
+        std::size_t section = 0;
+        std::size_t entry = 0;
+    };
+    void tick(std::span<const Place> places);
+    /// Unticks these entries and the folders that contain them, but nothing inside them.
+    void leaveOut(std::span<const Place> places);
+    /// Ticks these entries and nothing inside them, except folders that contain an unticked entry.
+    void takeBack(std::span<const Place> places);
 
     /// How many entries of the section are ticked.
     [[nodiscard]] int count(std::size_t section) const { return m_sections[section].count; }
@@ -46,6 +59,11 @@ private:
     };
 
     void put(int node, bool isTicked);
+    void untickHolders(int node);
+    [[nodiscard]] int nodeOf(const Place& place) const
+    {
+        return m_sections[place.section].entries[place.entry].node;
+    }
     void findLeaders();
     void recount();
     [[nodiscard]] bool isOn(int node) const

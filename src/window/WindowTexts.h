@@ -61,6 +61,15 @@ inline constexpr Text kRestOfHome = message("The rest of your home folder");
 inline constexpr Text kFilesIn = message("Files in {folder}");
 inline constexpr Text kHeldBack = message("For administrators only, or held in reserve");
 
+// What is never offered
+inline constexpr Text kExclusionsElsewhere =
+    message("Another Orlen is open. What is never offered can be changed there.");
+inline constexpr Text kWholePath = message("That is no whole path: one begins with / or ~.");
+inline constexpr Text kExclusionsFull = message("The list of what is never offered is full.");
+// TRANSLATORS: {error} is what the system says.
+inline constexpr Text kExclusionsNotSaved =
+    message("The list of what is never offered could not be saved ({error}), so nothing changed.");
+
 // Disk map
 inline constexpr Text kHome = messageIn("the user's folder", "Home");
 // TRANSLATORS: The next two are read aloud by screen readers.

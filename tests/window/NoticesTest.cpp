@@ -1,6 +1,7 @@
 #include "window/shell/Notices.h"
 
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
@@ -54,6 +55,22 @@ TEST(NoticesTest, aSentenceStaysWhileItIsReadOrHeld)
     EXPECT_EQ(notices.text(), "b");
     notices.setHeld(false);
     ASSERT_TRUE(waitUntil([&] { return notices.text() == "c"; }));
+}
+
+TEST(NoticesTest, onlyTheLatestChangeCanBeUndone)
+{
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    Notices notices(app);
+    QStringList undone;
+    for (const char* text : {"a", "b", "c"})
+        WindowState::of(app).say(QString::fromLatin1(text), [&undone, text] { undone << text; });
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "c"; })) << notices.text().toStdString();
+    ASSERT_TRUE(notices.hasUndo());
+    notices.undo();
+    notices.undo();
+    EXPECT_EQ(undone, QStringList("c"));
+    EXPECT_EQ(notices.text(), "");
 }
 
 TEST(NoticesTest, tellsOfAPathThatCannotBeShown)

@@ -124,6 +124,38 @@ TEST_F(PlanModelTest, aPathHasOneCheckWhereverItStands)
     EXPECT_TRUE(TempHome::exists(inside.path));
 }
 
+TEST_F(PlanModelTest, whatIsExcludedLeavesAndComesBackAsItWas)
+{
+    const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
+    const FileEntry first = entry("f/first", 16);
+    const FileEntry second = entry("f/second", 16);
+    CleanPlan plan;
+    plan.sections.push_back({"caches", Message::verbatim("Caches"), "", {folder, entry("x", 8)}});
+    plan.sections.push_back({"logs", Message::verbatim("Logs"), "", {first, second}});
+    WindowState::of(m_app).setSheet(PlanSheet{plan});
+    ASSERT_EQ(m_plan.checkedCount(), 2);
+    const Exclusion line{Exclusion::Kind::name, "first"};
+    ASSERT_TRUE(m_app.exclusions()->add(line).ok());
+    EXPECT_EQ(names(), QStringList({"Caches", "x", "Logs", "second"})) << "the folder would take it along";
+    EXPECT_EQ(shown(PlanModel::Role::folder).at(2), "1 of 1 selected");
+    EXPECT_EQ(m_plan.entryCount(), 2);
+    m_plan.uncheckAll();
+    m_plan.checkAll();
+    EXPECT_EQ(m_plan.checkedCount(), 2) << "not what nobody sees";
+    m_plan.toggle(3);
+    m_plan.fold(0);
+    EXPECT_EQ(m_plan.headingOf(2), 1);
+
+    ASSERT_TRUE(m_app.exclusions()->remove(line).ok());
+    m_plan.fold(0);
+    EXPECT_EQ(names(), QStringList({"Caches", "f", "x", "Logs", "first", "second"}));
+    EXPECT_EQ(marks(), QStringList({"1", "0", "2", "1", "2", "0"}))
+        << "not with what was unchecked meanwhile";
+    ASSERT_TRUE(m_app.exclusions()->add({Exclusion::Kind::path, "/"}).ok());
+    EXPECT_EQ(m_plan.rowCount(), 0);
+    EXPECT_FALSE(m_plan.isConfirmable());
+}
+
 TEST_F(PlanModelTest, movesWhatIsCheckedAndTheOverlayFollows)
 {
     WindowState& window = WindowState::of(m_app);

@@ -21,4 +21,13 @@ ScreenPage {
     ProtectionCard {
         width: root.contentWidth
     }
+
+    ExclusionCard {
+        width: root.contentWidth
+    }
+
+    PathTestCard {
+        width: root.contentWidth
+        notices: root.view.notices
+    }
 }

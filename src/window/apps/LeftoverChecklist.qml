@@ -10,6 +10,16 @@ FocusScope {
     /// Of all rows, with the strip and the margins.
     readonly property real contentHeight: strip.height + list.contentHeight + 28
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     Rectangle {
         id: strip
 
@@ -75,6 +85,8 @@ FocusScope {
         topMargin: Theme.spaceS
         bottomMargin: Theme.spaceS
         reuseItems: true
+        // Also when the last row was excluded from here.
+        activeFocusOnTab: true
         model: root.leftovers
         Accessible.name: heading.text
 
@@ -82,6 +94,7 @@ FocusScope {
             if (!list.activeFocus)
                 list.pointed = false;
         }
+        onMenuRequested: menu.openBelow(root.leftovers, list.currentIndex, list.currentItem)
         Keys.onSpacePressed: root.leftovers.toggle(list.currentIndex)
         Keys.onReturnPressed: root.leftovers.review()
         Keys.onEnterPressed: root.leftovers.review()
@@ -96,6 +109,12 @@ FocusScope {
             ringed: row.isCurrent && list.showsFocus
             isCurrent: ListView.isCurrentItem && list.activeFocus
             onRevealRequested: root.leftovers.reveal(row.index)
+            onMenuRequested: (x, y) => {
+                list.pointed = true;
+                list.currentIndex = row.index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(root.leftovers, row.index, row, x, y);
+            }
             onToggled: {
                 list.pointed = true;
                 list.currentIndex = row.index;

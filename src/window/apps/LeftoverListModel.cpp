@@ -1,5 +1,6 @@
 #include "window/apps/LeftoverListModel.h"
 
+#include "platform/text/PathText.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
 
@@ -12,11 +13,33 @@ namespace orlen {
 LeftoverListModel::LeftoverListModel(AppModel& app) : m_app(app)
 {
     connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &LeftoverListModel::followSheet);
+    connect(m_app.exclusions(), &ExclusionList::changed, this, &LeftoverListModel::followExclusions);
+}
+
+std::vector<LeftoverListModel::Row> LeftoverListModel::offered() const
+{
+    const Exclusions& exclusions = m_app.exclusions()->current();
+    std::vector<Row> rows = m_all;
+    std::erase_if(rows, [&](const Row& row) { return exclusions.excludes(row.entry.path) != nullptr; });
+    return rows;
+}
+
+void LeftoverListModel::followExclusions()
+{
+    for (Row& row : m_all) {
+        const auto shown = std::ranges::find(m_rows, row.entry, &Row::entry);
+        if (shown != m_rows.end())
+            row.isChecked = shown->isChecked;
+    }
+    setRows(m_rows, offered(), [](const Row& row) { return row.entry.path; });
+    Q_EMIT changed();
+    Q_EMIT selectionChanged();
 }
 
 void LeftoverListModel::showRows(std::vector<Row> rows)
 {
-    resetRows(m_rows, std::move(rows));
+    m_all = std::move(rows);
+    resetRows(m_rows, offered());
     Q_EMIT changed();
     Q_EMIT selectionChanged();
 }
@@ -57,6 +80,23 @@ void LeftoverListModel::reveal(int row) const
 {
     if (hasRow(row))
         Reveal::show(m_rows[static_cast<std::size_t>(row)].entry.path);
+}
+
+std::optional<RowSubject> LeftoverListModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    return RowSubject{.path = m_rows[static_cast<std::size_t>(row)].entry.path, .isTickable = true};
+}
+
+void LeftoverListModel::tickIn(const std::string& folder)
+{
+    for (Row& row : m_rows) {
+        if (!row.entry.isTickedAlone && PathText::isAtOrBelow(row.entry.path, folder))
+            row.isChecked = true;
+    }
+    allChanged(Role::checked);
+    Q_EMIT selectionChanged();
 }
 
 void LeftoverListModel::review()

@@ -55,6 +55,8 @@ public:
     Q_INVOKABLE void toggleAll();
     /// Shows the row's file or folder in the file manager.
     Q_INVOKABLE void reveal(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
+    void tickIn(const std::string& folder) override;
     /// Closes the sheet and opens the review. Only when `ready`.
     Q_INVOKABLE void review();
 
@@ -75,6 +77,7 @@ protected:
 
     [[nodiscard]] AppModel& app() const { return m_app; }
     [[nodiscard]] const std::vector<Row>& rows() const { return m_rows; }
+    /// All but what is excluded.
     void showRows(std::vector<Row> rows);
     void setOpen(bool isOpen);
     [[nodiscard]] std::vector<FileEntry> chosen() const;
@@ -87,11 +90,14 @@ protected:
 
 private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] std::vector<Row> offered() const;
+    void followExclusions();
     void followSheet();
     void resume();
 
     AppModel& m_app;
     std::vector<Row> m_rows;
+    std::vector<Row> m_all; ///< also what is excluded; ticks as of the last change of what is
     bool m_isOpen = false;
     std::optional<Uuid> m_reviewed; ///< plan of a review opened from here and still open
 };

@@ -62,6 +62,14 @@ std::string CategoryFolderModel::path(int row) const
     return hasRow(row) ? m_rows[static_cast<std::size_t>(row)].folder.path : std::string();
 }
 
+std::optional<RowSubject> CategoryFolderModel::subject(int row) const
+{
+    const std::string shown = path(row);
+    if (shown.empty())
+        return std::nullopt;
+    return RowSubject{.path = shown, .isOffered = isInHome(row) && shown != Places::current().home};
+}
+
 QVariant CategoryFolderModel::value(std::size_t number, int role) const
 {
     const auto& [folder, share, isSeen] = m_rows[number];

@@ -37,6 +37,7 @@ public:
 
     /// Whether the row is a folder at or below the home folder.
     [[nodiscard]] bool isInHome(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
     /// Empty if the row is not a folder.
     [[nodiscard]] std::string path(int row) const;
 

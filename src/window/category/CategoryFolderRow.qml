@@ -14,7 +14,9 @@ Pressable {
     required property bool isSeen
     required property bool isInHome
     required property color tone
-    signal revealRequested
+    signal menuRequested(x: real, y: real)
+    /// The keyboard asks for the menu.
+    signal menuKeyPressed
 
     implicitHeight: Math.max(Theme.grown(52), texts.height + 16)
     enabled: root.isSeen
@@ -23,7 +25,11 @@ Pressable {
     text: Strings.spoken([root.name, root.size, root.shareText])
     Accessible.description: root.isInHome ? Strings.opensInDiskMap : root.isSeen ? Strings.reveal : ""
 
-    Keys.onMenuPressed: root.revealRequested()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        if (event.accepted)
+            root.menuKeyPressed();
+    }
 
     contentItem: Item {
         Symbol {
@@ -139,7 +145,7 @@ Pressable {
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.RightButton
-            onClicked: root.revealRequested()
+            onClicked: mouse => root.menuRequested(mouse.x, mouse.y)
         }
     }
 }

@@ -15,6 +15,16 @@ Column {
     Accessible.role: Accessible.List
     Accessible.name: Strings.largestFolders
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     HeadlineText {
         width: parent.width
         bottomPadding: Theme.spaceXs
@@ -42,7 +52,11 @@ Column {
             visible: root.all || row.index < root.few || !row.isSeen
             tone: root.category.colour
             onClicked: root.category.openFolder(row.index)
-            onRevealRequested: root.category.reveal(row.index)
+            onMenuRequested: (x, y) => {
+                row.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(root.category.folders, row.index, row, x, y);
+            }
+            onMenuKeyPressed: menu.openBelow(root.category.folders, row.index, row)
             onVisualFocusChanged: {
                 if (row.visualFocus)
                     root.reached(row);

@@ -10,6 +10,8 @@ ScrollList {
     /// The visible height, for paging.
     property real pageHeight: root.height
     readonly property bool showsFocus: root.activeFocus && !root.pointed
+    /// The keyboard asks for the menu of the current row.
+    signal menuRequested
 
     keyNavigationEnabled: true
     highlightMoveDuration: 0
@@ -26,6 +28,9 @@ ScrollList {
             root.moveTo(0);
         else if (event.key === Qt.Key_End)
             root.moveTo(root.count - 1);
+        else if (root.currentItem !== null && (event.key === Qt.Key_Menu
+                                               || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
+            root.menuRequested();
         else
             event.accepted = false;
     }

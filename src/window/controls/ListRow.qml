@@ -13,6 +13,8 @@ Item {
     property int sideGap: 0
     property int topGap: 0
     property int bottomGap: 0
+    /// A right click at this place asks for the menu of the row.
+    signal menuRequested(x: real, y: real)
 
     Accessible.role: Accessible.ListItem
     Accessible.focusable: true
@@ -34,5 +36,10 @@ Item {
 
     HoverHandler {
         id: hover
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: event => root.menuRequested(event.position.x, event.position.y)
     }
 }

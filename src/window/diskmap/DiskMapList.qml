@@ -31,8 +31,21 @@ ScrollList {
             root.map.currentRow = root.count - 1;
             break;
         default:
-            event.accepted = false;
+            event.accepted = root.currentItem !== null
+                    && (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier);
+            if (event.accepted)
+                menu.openBelow(root.map, root.currentIndex, root.currentItem);
         }
+    }
+
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
     }
 
     delegate: DiskMapRow {
@@ -45,6 +58,10 @@ ScrollList {
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.map.open(row.index);
         }
-        onRevealRequested: root.map.reveal(row.index)
+        onMenuRequested: (x, y) => {
+            root.map.currentRow = row.index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            menu.openAt(root.map, row.index, row, x, y);
+        }
     }
 }

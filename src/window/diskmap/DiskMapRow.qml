@@ -14,7 +14,6 @@ ListRow {
     required property int index
     property bool isCurrent: false
     signal pressed
-    signal revealRequested
 
     implicitHeight: Theme.grown(44)
     sideGap: 4
@@ -96,8 +95,7 @@ ListRow {
 
     MouseArea {
         anchors.fill: parent
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
         cursorShape: root.kind === DiskMapView.Folder ? Qt.PointingHandCursor : Qt.ArrowCursor
-        onClicked: mouse => mouse.button === Qt.RightButton ? root.revealRequested() : root.pressed()
+        onClicked: root.pressed()
     }
 }

@@ -131,6 +131,13 @@ void DiskMapView::reveal(int row)
         Reveal::show(node(row).path);
 }
 
+std::optional<RowSubject> DiskMapView::subject(int row) const
+{
+    if (isLoading() || !hasRow(row) || node(row).isOther)
+        return std::nullopt;
+    return RowSubject{.path = node(row).path};
+}
+
 void DiskMapView::step(Direction direction)
 {
     if (isLoading() || m_tiles.empty())

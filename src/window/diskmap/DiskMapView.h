@@ -91,6 +91,7 @@ public:
     Q_INVOKABLE void open(int row);
     /// Shows the tile's item in the file manager.
     Q_INVOKABLE void reveal(int row);
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
     /// Makes the next tile in that direction current.
     Q_INVOKABLE void step(Direction direction);
     /// "name · size" of a tile, or of the whole folder for -1.

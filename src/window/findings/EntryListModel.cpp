@@ -1,5 +1,6 @@
 #include "window/findings/EntryListModel.h"
 
+#include "platform/text/PathText.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
@@ -102,13 +103,35 @@ void EntryListModel::followFindings()
     const std::vector<FileEntry>& entries = finding == nullptr ? none : finding->items;
     const auto isKept = keptOf(m_entries, entries);
     if (!isKept) {
-        load();
+        const auto wasThere = m_entries.empty() ? std::nullopt : keptOf(entries, m_entries);
+        if (wasThere)
+            growTo(entries, *wasThere);
+        else
+            load();
         return;
     }
     if (entries.size() == m_entries.size())
         return;
     takeOutRows(*isKept);
     dropEntries(*isKept);
+    count();
+}
+
+/// Adds entries between those that are there already.
+void EntryListModel::growTo(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere)
+{
+    std::vector<int> newIndex;
+    for (std::size_t i = 0; i < wasThere.size(); ++i) {
+        if (wasThere[i])
+            newIndex.push_back(static_cast<int>(i));
+    }
+    m_entries = entries;
+    m_words.clear();
+    m_isSelected.assign(m_entries.size(), false);
+    readSelection();
+    for (int& row : m_rows)
+        row = newIndex[static_cast<std::size_t>(row)];
+    setRows(m_rows, wantedRows(), [](int entry) { return std::to_string(entry); });
     count();
 }
 
@@ -173,11 +196,16 @@ void EntryListModel::readSelection()
         m_isSelected[i] = m_app.results()->selection().contains(m_entries[i].path);
 }
 
-void EntryListModel::arrange()
+std::vector<int> EntryListModel::wantedRows()
 {
     if (m_words.empty() && (m_wish.key == EntryOrder::Key::name || !m_wish.filter.isEmpty()))
         m_words = EntryOrder::wordsOf(m_entries);
-    m_rows = EntryOrder::rows(m_entries, m_words, m_wish);
+    return EntryOrder::rows(m_entries, m_words, m_wish);
+}
+
+void EntryListModel::arrange()
+{
+    m_rows = wantedRows();
 }
 
 void EntryListModel::setFilter(const QString& filter)
@@ -236,6 +264,26 @@ void EntryListModel::setShown(bool isSelected)
         return m_isSelected[entryIndex(row)] == isSelected || (isSelected && entryAt(row).isTickedAlone);
     });
     setSelected(rows, isSelected);
+}
+
+void EntryListModel::tickIn(const std::string& folder)
+{
+    std::vector<int> rows(m_rows.size());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::erase_if(rows, [&](int row) {
+        const FileEntry& entry = entryAt(row);
+        return m_isSelected[entryIndex(row)] || entry.isTickedAlone ||
+               !PathText::isAtOrBelow(entry.path, folder);
+    });
+    setSelected(rows, true);
+}
+
+std::optional<RowSubject> EntryListModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    return RowSubject{
+        .path = entryAt(row).path, .isOffered = m_header.isCleanable, .isTickable = m_header.isCleanable};
 }
 
 void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)

@@ -87,6 +87,9 @@ public:
     [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
+    /// Of the filtered rows.
+    void tickIn(const std::string& folder) override;
     /// Opens the review of the whole selection, including other findings.
     Q_INVOKABLE void review();
 
@@ -105,6 +108,8 @@ private:
     void followFindings();
     void followSelection();
     void readSelection();
+    void growTo(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere);
+    [[nodiscard]] std::vector<int> wantedRows();
     void arrange();
     void takeOutRows(const std::vector<bool>& isKept);
     void dropEntries(const std::vector<bool>& isKept);

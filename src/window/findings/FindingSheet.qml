@@ -40,6 +40,12 @@ Sheet {
         onStepRequested: by => root.preview(list.currentIndex + by)
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: row => root.preview(row)
+    }
+
     SheetHeader {
         id: header
 
@@ -90,8 +96,11 @@ Sheet {
         onToggleRequested: row => contents.toggle(row)
         onAllRequested: contents.selectShown()
         onNoneRequested: contents.deselectShown()
+        onMenuRequested: menu.openBelow(contents, list.currentIndex, list.currentItem)
 
         delegate: EntryRow {
+            id: row
+
             required property int index
             required property bool marked
 
@@ -105,6 +114,10 @@ Sheet {
             onToggled: contents.toggle(index)
             onPreviewRequested: root.preview(index)
             onRevealRequested: contents.reveal(index)
+            onMenuRequested: (x, y) => {
+                list.takeFocus(row.index);
+                menu.openAt(contents, row.index, row, x, y);
+            }
         }
     }
 

@@ -22,6 +22,16 @@ Item {
         recordId: root.recordId
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     Divider {
         x: Theme.cardMargin
         width: parent.width - 2 * Theme.cardMargin
@@ -42,6 +52,12 @@ Item {
         Keys.onReturnPressed: items.reveal(list.currentIndex)
         Keys.onEnterPressed: items.reveal(list.currentIndex)
         Keys.onSpacePressed: items.reveal(list.currentIndex)
+        Keys.onPressed: event => {
+            event.accepted = list.currentItem !== null
+                    && (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier);
+            if (event.accepted)
+                menu.openBelow(items, list.currentIndex, list.currentItem);
+        }
 
         delegate: HistoryItemRow {
             id: row
@@ -53,6 +69,11 @@ Item {
             isNarrow: root.isNarrow
             ringed: ListView.isCurrentItem && row.Window.activeFocusItem === row
             onRevealRequested: items.reveal(row.index)
+            onMenuRequested: (x, y) => {
+                list.currentIndex = row.index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(items, row.index, row, x, y);
+            }
         }
     }
 }

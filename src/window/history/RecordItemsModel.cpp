@@ -112,6 +112,14 @@ void RecordItemsModel::reveal(int row) const
         Reveal::show(m_rows[static_cast<std::size_t>(row)].item.original);
 }
 
+std::optional<RowSubject> RecordItemsModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    const auto& [item, state] = m_rows[static_cast<std::size_t>(row)];
+    return RowSubject{.path = item.original, .isThere = state == Restored};
+}
+
 QVariant RecordItemsModel::value(std::size_t number, int role) const
 {
     const Row& row = m_rows[number];

@@ -44,6 +44,7 @@ public:
 
     /// Shows a restored item in the file manager; ignored for others.
     Q_INVOKABLE void reveal(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
 
 Q_SIGNALS:
     void recordIdChanged();

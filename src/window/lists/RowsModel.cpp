@@ -35,6 +35,13 @@ QHash<int, QByteArray> RowsModel::roleNames() const
     return names;
 }
 
+std::optional<RowSubject> RowsModel::subject(int /*row*/) const
+{
+    return std::nullopt;
+}
+
+void RowsModel::tickIn(const std::string& /*folder*/) {}
+
 Qt::CheckState RowsModel::checkStateOf(std::int64_t checked, std::size_t all)
 {
     if (checked == 0)

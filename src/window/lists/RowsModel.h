@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/lists/RowSteps.h"
+#include "window/lists/RowSubject.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
@@ -9,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,7 +21,8 @@ namespace orlen {
 /// `Qt::UserRole`; QML uses the same names. Main thread.
 class RowsModel : public QAbstractListModel {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("It is the base of all lists")
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
 
 public:
@@ -28,6 +31,11 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const final;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const final;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const final;
+
+    /// What the menu of a row is about. Nothing for a row that has no menu or does not exist.
+    [[nodiscard]] virtual std::optional<RowSubject> subject(int row) const;
+    /// Ticks the rows whose items lie in this folder, except those that are ticked alone.
+    virtual void tickIn(const std::string& folder);
 
 Q_SIGNALS:
     /// Also emitted when as many rows were added as removed.

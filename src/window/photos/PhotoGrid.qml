@@ -40,10 +40,19 @@ GridView {
             root.currentIndex = root.count - 1;
         else if (event.matches(StandardKey.SelectAll))
             root.allRequested();
+        else if (root.currentItem !== null && (event.key === Qt.Key_Menu
+                                               || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier))
+            menu.openBelow(root.tiles, root.currentIndex, root.currentItem);
         else
             event.accepted = false;
     }
     Keys.onReleased: root.isKeyed = true
+
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: row => root.previewRequested(row)
+    }
 
     delegate: PhotoTile {
         id: tile
@@ -60,6 +69,10 @@ GridView {
             root.forceActiveFocus();
         }
         onToggled: root.tiles.toggle(tile.index)
+        onMenuRequested: (x, y) => {
+            tile.pressed();
+            menu.openAt(root.tiles, tile.index, tile, x, y);
+        }
         onPreviewRequested: root.previewRequested(tile.index)
     }
 }

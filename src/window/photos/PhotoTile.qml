@@ -25,6 +25,7 @@ Item {
     signal pressed
     signal toggled
     signal previewRequested
+    signal menuRequested(x: real, y: real)
 
     Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
     Accessible.checkable: !root.kept
@@ -140,6 +141,11 @@ Item {
         hoverEnabled: true
         onPressed: root.pressed()
         onClicked: root.toggled()
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: event => root.menuRequested(event.position.x, event.position.y)
     }
 
     CheckMark {

@@ -149,6 +149,26 @@ void PhotoTilesModel::reveal(int row) const
         Reveal::show(m_tiles[static_cast<std::size_t>(row)].path);
 }
 
+std::optional<RowSubject> PhotoTilesModel::subject(int row) const
+{
+    if (!hasRow(row) || m_tiles[static_cast<std::size_t>(row)].path.empty())
+        return std::nullopt;
+    return RowSubject{.path = m_tiles[static_cast<std::size_t>(row)].path, .isTickable = true};
+}
+
+void PhotoTilesModel::tickIn(const std::string& folder)
+{
+    const Finding* finding = m_groups == nullptr ? nullptr : m_groups->finding(m_findingId);
+    if (finding == nullptr)
+        return;
+    std::vector<std::string> paths;
+    for (const FileEntry& entry : finding->items) {
+        if (!entry.isTickedAlone && PathText::isAtOrBelow(entry.path, folder))
+            paths.push_back(entry.path);
+    }
+    m_app.results()->select(paths);
+}
+
 QVariant PhotoTilesModel::value(std::size_t number, int role) const
 {
     const Tile& tile = m_tiles[number];

@@ -48,6 +48,9 @@ public:
     Q_INVOKABLE void toggle(int row);
     /// The photo's `PathCode`, for a preview; empty when its path is unknown.
     Q_INVOKABLE [[nodiscard]] QString pathAt(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
+    /// Of all photos of the group, whatever the limit.
+    void tickIn(const std::string& folder) override;
     /// Shows the row's photo in the file manager.
     Q_INVOKABLE void reveal(int row) const;
 

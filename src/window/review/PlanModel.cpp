@@ -1,6 +1,7 @@
 #include "window/review/PlanModel.h"
 
 #include "model/FindingKind.h"
+#include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
 #include "window/lists/PathCode.h"
@@ -10,6 +11,8 @@
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace orlen {
 
@@ -35,6 +38,7 @@ PlanModel::PlanModel(AppModel& app) : m_app(app), m_folders(new FolderLookup(thi
 {
     connect(m_folders, &FolderLookup::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
     connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &PlanModel::follow);
+    connect(m_app.exclusions(), &ExclusionList::changed, this, &PlanModel::followExclusions);
     follow();
 }
 
@@ -52,22 +56,94 @@ void PlanModel::show(const CleanPlan& plan)
     beginResetModel();
     m_plan = plan;
     m_ticks = PlanTicks(plan);
-    m_rows.clear();
     m_isFolded.assign(plan.sections.size(), false);
-    m_entryCount = 0;
-    m_hasNotes = false;
-    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
-        const PlanSection& section = m_plan->sections[place(number)];
-        const int entries = static_cast<int>(section.entries.size());
-        for (int entry = kHeading; entry < entries; ++entry)
-            m_rows.push_back({number, entry});
-        m_entryCount += entries;
-        m_hasNotes = m_hasNotes || std::any_of(section.entries.begin(), section.entries.end(),
-                                               [](const FileEntry& entry) { return !entry.notes.empty(); });
-    }
+    m_excluded.clear();
+    m_checkedBefore.clear();
+    exclude();
+    m_rows = wantedRows();
+    countEntries();
     endResetModel();
     Q_EMIT planChanged();
     Q_EMIT figuresChanged();
+}
+
+std::vector<PlanModel::Row> PlanModel::entriesOf(int number) const
+{
+    const std::vector<FileEntry>& entries = section(number).entries;
+    std::vector<Row> rows;
+    for (int entry = 0; entry < static_cast<int>(entries.size()); ++entry) {
+        if (!m_excluded.contains(entries[place(entry)].path))
+            rows.push_back({number, entry});
+    }
+    return rows;
+}
+
+std::vector<PlanModel::Row> PlanModel::wantedRows() const
+{
+    std::vector<Row> rows;
+    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
+        const std::vector<Row> entries = entriesOf(number);
+        if (entries.empty())
+            continue;
+        rows.push_back({number, kHeading});
+        if (!m_isFolded[place(number)])
+            rows.insert(rows.end(), entries.begin(), entries.end());
+    }
+    return rows;
+}
+
+void PlanModel::countEntries()
+{
+    m_entryCount = 0;
+    m_hasNotes = false;
+    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
+        for (const Row& row : entriesOf(number)) {
+            ++m_entryCount;
+            m_hasNotes = m_hasNotes || !section(number).entries[place(row.entry)].notes.empty();
+        }
+    }
+}
+
+std::vector<PlanTicks::Place> PlanModel::placesOf(const Paths& paths) const
+{
+    std::vector<PlanTicks::Place> places;
+    for (std::size_t number = 0; number < m_plan->sections.size(); ++number) {
+        const std::vector<FileEntry>& entries = m_plan->sections[number].entries;
+        for (std::size_t entry = 0; entry < entries.size(); ++entry) {
+            if (paths.contains(entries[entry].path))
+                places.push_back({number, entry});
+        }
+    }
+    return places;
+}
+
+/// Takes out of the ticks what is excluded now, and back what no longer is.
+void PlanModel::exclude()
+{
+    const Paths before = std::exchange(m_excluded, m_app.exclusions()->current().excludedIn(*m_plan));
+    Paths added;
+    Paths returned;
+    std::ranges::set_difference(m_excluded, before, std::inserter(added, added.end()));
+    std::ranges::set_difference(before, m_excluded, std::inserter(returned, returned.end()));
+    std::erase_if(returned, [this](const std::string& path) { return m_checkedBefore.erase(path) == 0; });
+    for (const PlanTicks::Place& at : placesOf(added)) {
+        if (m_ticks.isTicked(at.section, at.entry))
+            m_checkedBefore.insert(m_plan->sections[at.section].entries[at.entry].path);
+    }
+    m_ticks.leaveOut(placesOf(added));
+    m_ticks.takeBack(placesOf(returned));
+}
+
+void PlanModel::followExclusions()
+{
+    if (!m_plan)
+        return;
+    exclude();
+    setRows(m_rows, wantedRows(),
+            [](const Row& row) { return std::to_string(row.section) + ' ' + std::to_string(row.entry); });
+    countEntries();
+    Q_EMIT planChanged();
+    followTicks();
 }
 
 QString PlanModel::title() const
@@ -85,6 +161,7 @@ void PlanModel::toggle(int row)
         m_ticks.setSection(place(number), isChecked);
     else
         m_ticks.set(place(number), place(entry), isChecked);
+    m_ticks.leaveOut(placesOf(m_excluded));
     followTicks();
 }
 
@@ -103,6 +180,7 @@ void PlanModel::setAllChecked(bool isChecked)
     if (m_rows.empty())
         return;
     m_ticks.setAll(isChecked);
+    m_ticks.leaveOut(placesOf(m_excluded));
     followTicks();
 }
 
@@ -118,12 +196,10 @@ void PlanModel::fold(int row)
     if (!hasRow(row) || at(row).entry != kHeading)
         return;
     const int number = at(row).section;
-    const int entries = static_cast<int>(section(number).entries.size());
+    const std::vector<Row> shown = entriesOf(number);
+    const int entries = static_cast<int>(shown.size());
     const auto after = m_rows.begin() + row + 1;
     if (m_isFolded[place(number)]) {
-        std::vector<Row> shown(place(entries));
-        for (int entry = 0; entry < entries; ++entry)
-            shown[place(entry)] = {number, entry};
         beginInsertRows({}, row + 1, row + entries);
         m_rows.insert(after, shown.begin(), shown.end());
         endInsertRows();
@@ -146,8 +222,9 @@ int PlanModel::headingOf(int row) const
 {
     if (!hasRow(row))
         return -1;
-    // A section's rows follow its heading in order.
-    return row - at(row).entry - 1;
+    while (at(row).entry != kHeading)
+        --row;
+    return row;
 }
 
 const PlanSection& PlanModel::section(int number) const
@@ -167,7 +244,7 @@ Qt::CheckState PlanModel::checkState(const Row& row) const
     const std::size_t number = place(row.section);
     if (row.entry != kHeading)
         return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
-    return checkStateOf(m_ticks.count(number), section(row.section).entries.size());
+    return checkStateOf(m_ticks.count(number), entriesOf(row.section).size());
 }
 
 QVariant PlanModel::value(std::size_t number, int role) const
@@ -194,8 +271,7 @@ QVariant PlanModel::sectionData(int number, Role role) const
     if (role == Role::name)
         return DisplayText::text(shown.title);
     if (role == Role::folder)
-        return DisplayText::selectedOf(m_ticks.count(place(number)),
-                                       static_cast<std::int64_t>(shown.entries.size()));
+        return DisplayText::selectedOf(m_ticks.count(place(number)), std::ssize(entriesOf(number)));
     if (role == Role::size)
         return DisplayText::size(m_ticks.bytes(place(number)));
     if (role == Role::symbol)
@@ -241,6 +317,28 @@ void PlanModel::reveal(int row) const
 {
     if (const FileEntry* entry = entryAt(row))
         Reveal::show(entry->path);
+}
+
+std::optional<RowSubject> PlanModel::subject(int row) const
+{
+    const FileEntry* entry = entryAt(row);
+    if (entry == nullptr)
+        return std::nullopt;
+    return RowSubject{.path = entry->path, .isTickable = true};
+}
+
+void PlanModel::tickIn(const std::string& folder)
+{
+    std::vector<PlanTicks::Place> places;
+    for (int number = 0; m_plan && number < static_cast<int>(m_plan->sections.size()); ++number) {
+        for (const Row& row : entriesOf(number)) {
+            const FileEntry& entry = section(number).entries[place(row.entry)];
+            if (!entry.isTickedAlone && PathText::isAtOrBelow(entry.path, folder))
+                places.push_back({place(number), place(row.entry)});
+        }
+    }
+    m_ticks.tick(places);
+    followTicks();
 }
 
 void PlanModel::confirm()

@@ -8,7 +8,9 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,8 @@ namespace orlen {
 
 /// The plan awaiting confirmation as rows: each section's heading, followed by its entries unless folded. All
 /// entries are checked at first; one listed in several sections is checked in all or none of them. Keeps the
-/// plan until the next one, so that a closing sheet still shows it. Main thread.
+/// plan until the next one, so that a closing sheet still shows it. What is excluded meanwhile leaves the
+/// list and comes back as checked as it was. Main thread.
 class PlanModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -71,6 +74,8 @@ public:
     [[nodiscard]] Q_INVOKABLE QString pathAt(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
     Q_INVOKABLE void reveal(int row) const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
+    void tickIn(const std::string& folder) override;
     /// Moves the checked entries to the Trash. Only when `confirmable`.
     Q_INVOKABLE void confirm();
 
@@ -82,12 +87,23 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
+    using Paths = std::set<std::string, std::less<>>;
+
     struct Row {
         int section = 0;
         int entry = 0; ///< -1: the section's heading
+
+        friend bool operator==(const Row&, const Row&) = default;
     };
 
     void follow();
+    void exclude();
+    void followExclusions();
+    [[nodiscard]] std::vector<PlanTicks::Place> placesOf(const Paths& paths) const;
+    /// The section's entries that are shown unless it is folded.
+    [[nodiscard]] std::vector<Row> entriesOf(int number) const;
+    [[nodiscard]] std::vector<Row> wantedRows() const;
+    void countEntries();
     void show(const CleanPlan& plan);
     void setAllChecked(bool isChecked);
     void followTicks();
@@ -102,6 +118,8 @@ private:
     std::optional<CleanPlan> m_plan;
     PlanTicks m_ticks;
     std::vector<bool> m_isFolded; ///< of each section
+    Paths m_excluded;             ///< entries of the plan that are not shown
+    Paths m_checkedBefore;        ///< of those, the ones that were checked
     std::vector<Row> m_rows;
     int m_entryCount = 0;
     bool m_hasNotes = false;

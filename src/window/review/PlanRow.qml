@@ -26,6 +26,7 @@ Item {
     signal pressed
     signal previewRequested
     signal revealRequested
+    signal menuRequested(x: real, y: real)
 
     Loader {
         anchors.fill: parent
@@ -70,6 +71,7 @@ Item {
             onPressed: root.pressed()
             onPreviewRequested: root.previewRequested()
             onRevealRequested: root.revealRequested()
+            onMenuRequested: (x, y) => root.menuRequested(x, y)
         }
     }
 }

@@ -47,6 +47,12 @@ Sheet {
         onStepRequested: by => root.step(by)
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: row => root.preview(row)
+    }
+
     SheetHeader {
         id: header
 
@@ -92,6 +98,7 @@ Sheet {
         onToggleRequested: row => plan.toggle(row)
         onAllRequested: plan.checkAll()
         onNoneRequested: plan.uncheckAll()
+        onMenuRequested: menu.openBelow(plan, list.currentIndex, list.currentItem)
         onFoldRequested: (row, fold) => {
             list.moveTo(plan.headingOf(row));
             plan.setFolded(list.currentIndex, fold);
@@ -109,6 +116,10 @@ Sheet {
             onFolding: plan.fold(row.index)
             onPreviewRequested: root.preview(row.index)
             onRevealRequested: plan.reveal(row.index)
+            onMenuRequested: (x, y) => {
+                list.takeFocus(row.index);
+                menu.openAt(plan, row.index, row, x, y);
+            }
         }
     }
 

@@ -75,5 +75,6 @@ T.ApplicationWindow {
     NoticeBar {
         notices: theNotices
         besideScreen: root.navigation.onboarded ? Theme.sidebarWidth : 0
+        aboveFooter: root.navigation.sheet !== Navigation.NoSheet
     }
 }

@@ -9,17 +9,20 @@ T.Popup {
     required property Notices notices
     /// Width of the sidebar, since the bar is centred on the screen beside it.
     required property real besideScreen
+    /// Whether it leaves the buttons of a sheet free.
+    property bool aboveFooter: false
 
     /// Kept while the bar fades out.
     property string shownText: ""
     property bool shownPath: false
+    property bool shownUndo: false
     readonly property string text: root.notices.text
     readonly property real roomForText: (parent ? parent.width - root.besideScreen - 48 : 620) - buttons.width - 64
 
     parent: T.Overlay.overlay
     z: 100
     x: parent ? Math.round((parent.width + (Theme.mirrored ? -1 : 1) * root.besideScreen - width) / 2) : 0
-    y: parent ? parent.height - height - 24 : 0
+    y: parent ? parent.height - height - (root.aboveFooter ? Theme.widened(104) : 24) : 0
     width: sign.width + line.width + buttons.width + 52
     height: Math.max(Math.ceil(line.height), Theme.controlHeight) + 16
     padding: 8
@@ -32,6 +35,7 @@ T.Popup {
             return;
         root.shownText = root.text;
         root.shownPath = root.notices.hasPath;
+        root.shownUndo = root.notices.hasUndo;
         root.notices.announce(sheet);
     }
     onAboutToHide: root.notices.dismiss()
@@ -67,10 +71,17 @@ T.Popup {
     Binding {
         target: root.notices
         property: "held"
-        value: root.visible && (hover.hovered || copy.activeFocus || close.activeFocus)
+        value: root.visible && (hover.hovered || copy.activeFocus || undo.activeFocus || close.activeFocus)
     }
 
     contentItem: Item {
+        // Here, where no sheet is in its way.
+        Shortcut {
+            enabled: root.notices.hasUndo
+            sequences: [StandardKey.Undo]
+            onActivated: root.notices.undo()
+        }
+
         HoverHandler {
             id: hover
         }
@@ -103,6 +114,16 @@ T.Popup {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             spacing: Theme.spaceXs
+
+            AppButton {
+                id: undo
+
+                objectName: "undoNotice"
+                visible: root.shownUndo
+                quiet: true
+                text: Strings.undo
+                onClicked: root.notices.undo()
+            }
 
             AppButton {
                 id: copy

@@ -3,6 +3,7 @@
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -18,8 +19,8 @@ namespace {
 /// Between two notices, so that eyes and screen readers notice the change.
 constexpr std::chrono::milliseconds kPause{300};
 constexpr std::chrono::milliseconds kPerCharacter{75};
-/// A path also takes time to reach and copy.
-constexpr int kPathFactor = 2;
+/// A button also takes time to reach.
+constexpr int kButtonFactor = 2;
 
 } // namespace
 
@@ -29,24 +30,42 @@ Notices::Notices(AppModel& app)
     connect(&m_timer, &QTimer::timeout, this, &Notices::goOn);
     if (const Reveal* reveal = Reveal::current())
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
-            add({DisplayText::text(Message(WindowTexts::kNoProgram, {{"path", path.toStdString()}})), path});
+            add({DisplayText::text(Message(WindowTexts::kNoProgram, {{"path", path.toStdString()}})),
+                 path,
+                 {}});
         });
+    connect(&WindowState::of(app), &WindowState::said, this,
+            [this](const QString& text, const std::function<void()>& undo) {
+                add({text, {}, undo});
+            });
     for (const Message& sentence : app.notices())
         say(DisplayText::text(sentence));
 }
 
 void Notices::say(const QString& text)
 {
-    add({text, {}});
+    add({text, {}, {}});
+}
+
+bool Notices::isSame(const Notice& a, const Notice& b)
+{
+    return a.text == b.text && a.path == b.path;
 }
 
 void Notices::add(Notice notice)
 {
-    if (notice.text.isEmpty() || (!m_waiting.empty() && m_waiting.back() == notice))
+    if (notice.text.isEmpty() || (!m_waiting.empty() && isSame(m_waiting.back(), notice)))
         return;
-    if (notice == m_shown) {
+    if (isSame(notice, m_shown)) {
+        m_shown.undo = std::move(notice.undo);
         letRead();
         return;
+    }
+    // Only the latest change can be undone, so that nobody undoes another one.
+    if (notice.undo != nullptr) {
+        std::erase_if(m_waiting, [](const Notice& waiting) { return waiting.undo != nullptr; });
+        if (hasUndo())
+            goOn();
     }
     m_waiting.push_back(std::move(notice));
     if (m_shown.text.isEmpty() && !m_timer.isActive())
@@ -96,7 +115,16 @@ std::chrono::milliseconds Notices::readingTime() const
 {
     const std::chrono::milliseconds shortest(m_shortest);
     const std::chrono::milliseconds wanted = kPerCharacter * m_shown.text.size();
-    return std::max(shortest, wanted) * (hasPath() ? kPathFactor : 1);
+    return std::max(shortest, wanted) * (hasPath() || hasUndo() ? kButtonFactor : 1);
+}
+
+void Notices::undo()
+{
+    if (!hasUndo())
+        return;
+    const std::function<void()> undo = m_shown.undo;
+    goOn();
+    undo();
 }
 
 void Notices::copyPath() const

@@ -9,11 +9,13 @@
 
 #include <chrono>
 #include <deque>
+#include <functional>
 
 namespace orlen {
 
-/// Short notices in the window, shown one after another, each long enough to be read. Also reports files that
-/// could not be shown in the file manager. Main thread.
+/// Short notices in the window, shown one after another, each long enough to be read; only the latest of
+/// those that tell of a change to undo. Also reports files that could not be shown in the file manager. Main
+/// thread.
 class Notices : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,6 +23,8 @@ class Notices : public QObject {
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// Whether the notice is about a path, which can be copied.
     Q_PROPERTY(bool hasPath READ hasPath NOTIFY changed)
+    /// Whether what the notice tells of can be undone.
+    Q_PROPERTY(bool hasUndo READ hasUndo NOTIFY changed)
     /// Whether the pointer or the keyboard focus is on the notice, which keeps it open.
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
     /// Milliseconds a short notice is shown.
@@ -32,6 +36,7 @@ public:
 
     [[nodiscard]] QString text() const { return m_shown.text; }
     [[nodiscard]] bool hasPath() const { return !m_shown.path.isEmpty(); }
+    [[nodiscard]] bool hasUndo() const { return m_shown.undo != nullptr; }
     [[nodiscard]] bool isHeld() const { return m_isHeld; }
     void setHeld(bool isHeld);
 
@@ -41,6 +46,8 @@ public:
     Q_INVOKABLE void dismiss();
     /// Copies the path to the clipboard.
     Q_INVOKABLE void copyPath() const;
+    /// Undoes what the notice tells of and goes on to the next; ignored when there is nothing to undo.
+    Q_INVOKABLE void undo();
     /// Makes screen readers announce the item that shows the notice.
     Q_INVOKABLE static void announce(QObject* item);
 
@@ -52,11 +59,11 @@ Q_SIGNALS:
 private:
     struct Notice {
         QString text;
-        QString path; ///< empty for none
-
-        friend bool operator==(const Notice&, const Notice&) = default;
+        QString path;               ///< empty for none
+        std::function<void()> undo; ///< may be empty
     };
 
+    [[nodiscard]] static bool isSame(const Notice& a, const Notice& b);
     void add(Notice notice);
     void goOn();
     void letRead();

@@ -21,6 +21,7 @@ QtObject {
     readonly property string copy: Words.message("Copy")
     readonly property string reveal: Words.message("Reveal in Finder")
     readonly property string preview: Words.message("Quick Look")
+    readonly property string undo: Words.message("Undo")
     readonly property string showResults: Words.message("Show last results")
     readonly property string trashPromise: Words.message("You'll see the full list first. Everything moves to the Trash and can be restored from History.")
 
@@ -160,6 +161,18 @@ QtObject {
     readonly property string previewMissing: Words.message("This item is no longer there.")
     readonly property string copyPath: Words.message("Copy Path")
 
+    // The menu of a row
+    function actionsFor(name: string): string {
+        // TRANSLATORS: The name of a menu, read aloud; {name} is a file or folder.
+        return Words.message("What to do with {name}", { name: name });
+    }
+    readonly property string tickFolder: Words.message("Select all in this folder")
+    readonly property string neverOfferThis: Words.message("Never offer this")
+    readonly property string neverOfferFolder: Words.message("Never offer anything in this folder")
+    function neverOfferNamed(name: string): string {
+        return Words.message("Never offer anything named “{name}”", { name: name });
+    }
+
     // Smart Photos
     readonly property string photosTitle: Words.message("Smart Photo Cleanup")
     readonly property string photosLead: Words.message("Screenshots, receipts, memes, blurry shots and near-duplicates in Pictures, Desktop, Downloads and Documents. Your Photos library is never touched.")
@@ -268,6 +281,15 @@ QtObject {
     // How Orlen Works
     readonly property string safetyLead: Words.message("What it does, what it never does, and how far to trust it.")
     readonly property string alwaysLeftAlone: Words.message("Always left alone")
+    readonly property string neverOffered: Words.message("Never offered")
+    readonly property string howToExclude: Words.message("The menu of a file or folder in any list adds to this one. What is listed here is neither offered nor moved.")
+    function offerAgain(what: string): string {
+        // TRANSLATORS: A button; {what} is a path or a name.
+        return Words.message("Offer {what} again", { what: what });
+    }
+    readonly property string testPath: Words.message("Test a path")
+    readonly property string testPathLead: Words.message("Type or paste a file or folder to see what Orlen would do with it, and why.")
+    readonly property string pathToTest: Words.message("A path that begins with / or ~")
     readonly property var safetySections: [
         {
             symbol: "lock.fill",
@@ -317,6 +339,7 @@ QtObject {
     readonly property string endKey: Words.messageIn("key", "End")
     readonly property string pageUp: Words.messageIn("key", "PgUp")
     readonly property string pageDown: Words.messageIn("key", "PgDn")
+    readonly property string menuKey: Words.messageIn("key", "Menu")
     readonly property string wheel: Words.messageIn("key", "Wheel")
     readonly property var shortcutGroups: [
         {
@@ -327,6 +350,7 @@ QtObject {
                 { text: Words.message("Filter the list"), keys: [[root.ctrl, "F"]] },
                 { text: Words.message("Next or previous control"), keys: [[root.tab], [root.shift, root.tab]] },
                 { text: Words.message("Close a sheet"), keys: [[root.esc]] },
+                { text: Words.message("Undo what a notice tells of"), keys: [[root.ctrl, "Z"]] },
                 { text: Words.message("Show these shortcuts"), keys: [[root.ctrl, "?"], ["F1"]] },
                 { text: Words.messageIn("shortcut", "Quit"), keys: [[root.ctrl, "Q"], [root.ctrl, "W"]] }
             ]
@@ -339,6 +363,7 @@ QtObject {
                 { text: Words.message("A page up or down"), keys: [[root.pageUp], [root.pageDown]] },
                 { text: Words.messageIn("shortcut", "Open"), keys: [[root.enter]] },
                 { text: Words.message("Preview a file"), keys: [[root.space]] },
+                { text: Words.message("Menu of a file"), keys: [[root.shift, "F10"], [root.menuKey]] },
                 { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] },
                 { text: Words.message("Reload the map, apps or startup items"), keys: [["F5"]] }
             ]

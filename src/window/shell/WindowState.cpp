@@ -18,6 +18,11 @@ void WindowState::setSheet(std::optional<SheetKind> sheet)
     Q_EMIT sheetChanged();
 }
 
+void WindowState::say(const QString& text, const std::function<void()>& undo)
+{
+    Q_EMIT said(text, undo);
+}
+
 void WindowState::setRequestedScreen(std::optional<Screens::Screen> screen)
 {
     if (std::exchange(m_requestedScreen, screen) != screen)

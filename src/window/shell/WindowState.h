@@ -5,8 +5,10 @@
 #include "window/shell/Screens.h"
 
 #include <QObject>
+#include <QString>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <variant>
@@ -46,8 +48,12 @@ public:
     [[nodiscard]] std::chrono::milliseconds overlayMinimum() const { return m_overlayMinimum; }
     void setOverlayMinimum(std::chrono::milliseconds time) { m_overlayMinimum = time; }
 
+    /// Shows a notice. With `undo`, the user can take back what it tells of.
+    void say(const QString& text, const std::function<void()>& undo = {});
+
 Q_SIGNALS:
     void sheetChanged();
+    void said(const QString& text, const std::function<void()>& undo);
     void requestedScreenChanged();
 
 private:

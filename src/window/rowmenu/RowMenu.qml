@@ -1,0 +1,115 @@
+import QtQuick
+import QtQuick.Templates as T
+import Orlen.App
+
+/// The menu of a row of any list, opened by a right click or the keyboard. The focus returns to where it was.
+T.Menu {
+    id: root
+
+    property int row: -1
+    /// Of the row's item, for a preview.
+    readonly property string path: actions.path
+    /// Asks for a preview of the row.
+    signal previewRequested(row: int)
+
+    /// Opens at a place of the row's item.
+    function openAt(list: RowsModel, row: int, item: Item, x: real, y: real) {
+        root.row = row;
+        if (!actions.setSubject(list, row))
+            return;
+        root.currentIndex = -1;
+        root.popup(item, x, y);
+    }
+
+    /// Opens below the row, for the keyboard.
+    function openBelow(list: RowsModel, row: int, item: Item) {
+        root.openAt(list, row, item, Theme.mirrored ? item.width - root.width - Theme.spaceXl : Theme.spaceXl,
+                    item.height - Theme.spaceXs);
+        root.currentIndex = 0;
+    }
+
+    function label(action: int): string {
+        switch (action) {
+        case RowMenuModel.Preview:
+            return Strings.preview;
+        case RowMenuModel.Reveal:
+            return Strings.reveal;
+        case RowMenuModel.CopyPath:
+            return Strings.copyPath;
+        case RowMenuModel.TickFolder:
+            return Strings.tickFolder;
+        case RowMenuModel.ExcludePath:
+            return Strings.neverOfferThis;
+        case RowMenuModel.ExcludeFolder:
+            return Strings.neverOfferFolder;
+        default:
+            return Strings.neverOfferNamed(actions.name);
+        }
+    }
+
+    function symbol(action: int): string {
+        switch (action) {
+        case RowMenuModel.Preview:
+            return "eye";
+        case RowMenuModel.Reveal:
+            return "reveal";
+        case RowMenuModel.CopyPath:
+            return "copy";
+        case RowMenuModel.TickFolder:
+            return "checkmark";
+        default:
+            return action === RowMenuModel.ExcludePath ? "hand.raised.fill" : "";
+        }
+    }
+
+    implicitWidth: Theme.widened(330)
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    margins: Theme.spaceS
+    padding: Theme.spaceXs
+    modal: true
+    dim: false
+    title: Strings.actionsFor(actions.name)
+
+    RowMenuModel {
+        id: actions
+    }
+
+    Instantiator {
+        model: actions
+
+        RowMenuItem {
+            required property int choice
+
+            text: root.label(choice)
+            symbol: root.symbol(choice)
+            objectName: "menu-" + choice
+            onTriggered: {
+                if (choice === RowMenuModel.Preview)
+                    root.previewRequested(root.row);
+                else
+                    actions.choose(choice);
+            }
+        }
+
+        onObjectAdded: (index, object) => root.insertItem(index, object as RowMenuItem)
+        onObjectRemoved: (index, object) => root.removeItem(object as RowMenuItem)
+    }
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: root.contentModel
+        currentIndex: root.currentIndex
+        clip: true
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: root.title
+    }
+
+    background: Rectangle {
+        radius: Theme.controlRadius + Theme.spaceXs
+        color: Theme.raised
+        border.width: 1
+        border.color: Theme.tertiary
+    }
+}

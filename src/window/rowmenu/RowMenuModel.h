@@ -1,0 +1,71 @@
+#pragma once
+
+#include "clean/Exclusion.h"
+#include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
+
+#include <QPointer>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+#include <vector>
+
+namespace orlen {
+
+/// The menu of a row of any list: what can be done with the file or folder it stands for. Main thread.
+class RowMenuModel : public orlen::RowsModel {
+    Q_OBJECT
+    QML_ELEMENT
+    /// Last path component of the row's item.
+    Q_PROPERTY(QString name READ name NOTIFY subjectChanged)
+    /// Its `PathCode`, for a preview.
+    Q_PROPERTY(QString path READ path NOTIFY subjectChanged)
+
+public:
+    enum Action {
+        Preview,
+        Reveal,
+        CopyPath,
+        TickFolder,    ///< ticks all rows of the item's folder
+        ExcludePath,   ///< never offers the item
+        ExcludeFolder, ///< never offers anything in the item's folder
+        ExcludeName,   ///< never offers anything of the item's name
+    };
+    Q_ENUM(Action)
+
+    enum class Role {
+        choice = Qt::UserRole, ///< an `Action`
+        startsGroup,           ///< whether a line separates it from the action before
+    };
+    Q_ENUM(Role)
+
+    explicit RowMenuModel(AppModel& app = AppModelElement::model());
+
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] QString path() const;
+
+    /// Lists what can be done with a list's row. False if that is nothing.
+    [[nodiscard]] Q_INVOKABLE bool setSubject(orlen::RowsModel* list, int row);
+    /// Does it, except for `Preview`, which the screen does.
+    Q_INVOKABLE void choose(orlen::RowMenuModel::Action action);
+
+Q_SIGNALS:
+    void subjectChanged();
+
+private:
+    [[nodiscard]] int length() const override { return static_cast<int>(m_actions.size()); }
+    [[nodiscard]] QVariant value(std::size_t number, int role) const override;
+
+    [[nodiscard]] std::vector<Action> actions() const;
+    /// The line that the action adds to the exclusions; nothing if it adds none.
+    [[nodiscard]] std::optional<Exclusion> exclusionOf(Action action) const;
+    [[nodiscard]] bool isExcluded() const;
+
+    AppModel& m_app;
+    QPointer<RowsModel> m_list;
+    std::optional<RowSubject> m_subject;
+    std::vector<Action> m_actions;
+};
+
+} // namespace orlen
