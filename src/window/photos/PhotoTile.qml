@@ -25,6 +25,7 @@ Item {
     signal pressed
     signal toggled
     signal previewRequested
+    signal doubleClicked
 
     Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
     Accessible.checkable: !root.kept
@@ -140,6 +141,7 @@ Item {
         hoverEnabled: true
         onPressed: root.pressed()
         onClicked: root.toggled()
+        onDoubleClicked: root.doubleClicked()
     }
 
     CheckMark {
