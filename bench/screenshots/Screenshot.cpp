@@ -1,5 +1,7 @@
 #include "app/AppModel.h"
 #include "model/Words.h"
+#include "platform/files/FileStatus.h"
+#include "scan/ScanTexts.h"
 #include "window/controls/SymbolProvider.h"
 #include "window/photos/PhotoGroupsModel.h"
 #include "window/preview/PictureReader.h"
@@ -137,11 +139,17 @@ Finding photoFinding(FindingKind kind, const QFileInfoList& files)
     std::vector<FileEntry> entries;
     for (const QFileInfo& file : files) {
         FileEntry entry{file.filePath().toStdString(), file.size() * 9};
+        entry.stamp = FileStamp::of(statusOf(entry.path).value());
+        entry.modified = statusOf(entry.path).value().modified;
         if (kind == FindingKind::photoDuplicates) {
             const QString keeper = file.baseName().section('-', 0, 0) + "-keep." + file.suffix();
             if (keeper == file.fileName())
                 continue;
-            addNote(entry, "Similar to " + keeper.toStdString() + " — keeping the sharpest");
+            addNote(entry, Message::joined({{ScanTexts::kSimilar, {{"name", keeper.toStdString()}}},
+                                            ScanTexts::kSofterShot},
+                                           Several::Joint::facts));
+            const std::string path = file.dir().filePath(keeper).toStdString();
+            entry.kept = KeptFile{path, FileStamp::of(statusOf(path).value())};
         }
         entries.push_back(std::move(entry));
     }

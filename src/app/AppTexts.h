@@ -47,6 +47,11 @@ inline constexpr Text kLeftAsItIs =
 /// For a file that exists but cannot be read; `error` is the errno.
 [[nodiscard]] Message unreadable(const OwnFile& file, int error);
 
+/// On a photo of a set of similar ones, of which the user keeps another than the scan proposed.
+inline constexpr Text kYouKeep =
+    // TRANSLATORS: {name} is a file's.
+    message("Similar to {name} — the one you keep");
+
 inline constexpr Text kRestored = messages("Restored {count} item.", "Restored {count} items.");
 inline constexpr Text kPartlyRestored = messages(
     // TRANSLATORS: {count} is how many items couldn't be restored, {restored} how many were.

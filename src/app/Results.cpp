@@ -3,12 +3,14 @@
 #include "app/AppTexts.h"
 #include "app/DiskAccess.h"
 #include "app/ExclusionList.h"
+#include "app/NewKeeper.h"
 #include "app/Storage.h"
 #include "clean/Safety.h"
 #include "model/Rater.h"
 #include "platform/files/Places.h"
 #include "platform/process/ThreadPriority.h"
 #include "platform/process/Threads.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanEngine.h"
 
@@ -54,6 +56,16 @@ std::set<std::string> preselected(const std::vector<Finding>& findings)
     // Moving a folder would also move entries that need a review first.
     PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
     return paths;
+}
+
+/// Whether the path, or a folder that it is in, is one of these.
+bool isIn(const std::set<std::string>& paths, std::string_view path)
+{
+    for (; path.size() > 1; path = PathText::parent(path)) {
+        if (paths.contains(std::string(path)))
+            return true;
+    }
+    return false;
 }
 
 /// Puts the entries back among the findings that they were taken from.
@@ -151,6 +163,7 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_findings = std::move(result.findings);
     m_excluded.clear();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
+    m_photoCoverage = engine->photoCoverage();
     applyExclusions(preselected(m_findings));
     m_storage.setBreakdown(std::move(result.breakdown));
     m_lastScan = std::chrono::system_clock::now();
@@ -306,12 +319,52 @@ void Results::setPhase(Phase phase)
 void Results::removeFromFindings(const std::set<std::string>& paths)
 {
     checkThread();
-    for (Finding& finding : m_findings)
-        std::erase_if(finding.items, [&](const FileEntry& entry) { return paths.contains(entry.path); });
-    std::erase_if(m_findings, [](const Finding& finding) { return finding.items.empty(); });
-    Q_EMIT findingsChanged();
+    const auto goes = [&](const FileEntry& entry) {
+        return paths.contains(entry.path) || (entry.kept && isIn(paths, entry.kept->path));
+    };
     std::set<std::string> selection = m_selection;
+    for (std::vector<Finding>* findings : {&m_findings, &m_excluded}) {
+        for (Finding& finding : *findings) {
+            for (const FileEntry& entry : finding.items) {
+                if (goes(entry))
+                    selection.erase(entry.path);
+            }
+            std::erase_if(finding.items, goes);
+        }
+        std::erase_if(*findings, [](const Finding& finding) { return finding.items.empty(); });
+    }
+    Q_EMIT findingsChanged();
     std::erase_if(selection, [&](const std::string& path) { return paths.contains(path); });
+    setSelection(std::move(selection));
+}
+
+void Results::keepInstead(const std::string& path)
+{
+    checkThread();
+    auto exchange = NewKeeper::of(m_findings, path);
+    if (!exchange)
+        return;
+    m_workers.start([wanted = *exchange](const std::stop_token&) { return NewKeeper::listed(wanted); },
+                    [this, wanted = *exchange](const std::optional<FileEntry>& former) {
+                        if (former)
+                            this->exchange(wanted, *former);
+                        else
+                            Q_EMIT keeperRefused();
+                    });
+}
+
+void Results::exchange(const NewKeeper::Exchange& exchange, const FileEntry& former)
+{
+    // Meanwhile another scan may have ended, or another one been chosen.
+    if (NewKeeper::of(m_findings, exchange.chosen.path) != exchange)
+        return;
+    NewKeeper::apply(m_findings, exchange, former);
+    NewKeeper::apply(m_excluded, exchange, former);
+    std::set<std::string> selection = m_selection;
+    if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
+        selection.insert(former.path);
+    std::ranges::stable_sort(m_findings, comesBefore);
+    Q_EMIT findingsChanged();
     setSelection(std::move(selection));
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "app/ModelPart.h"
+#include "app/NewKeeper.h"
 #include "app/Workers.h"
 #include "model/Finding.h"
 #include "model/ModelState.h"
 #include "model/PathSelection.h"
 #include "platform/images/ImageWorkers.h"
 #include "platform/values/Time.h"
+#include "scan/photos/PhotoAnalyzer.h"
 
 #include <cstdint>
 #include <memory>
@@ -98,8 +100,14 @@ public:
     [[nodiscard]] const PathTree& listed() const;
     /// The plan for the current selection: a section for each cleanable finding, without protected paths.
     [[nodiscard]] CleanPlan scanPlan() const;
-    /// Removes entries from the results and the selection.
+    /// Removes entries from the results and the selection, and with them those whose kept file is removed.
     void removeFromFindings(const std::set<std::string>& paths);
+    /// Keeps this one of a set of similar photos, and lists the one that was kept instead, selected if this
+    /// one was. Looks at both on a worker first; emits `keeperRefused` if they have changed since the scan.
+    /// Ignored for a path that no set lists.
+    void keepInstead(const std::string& path);
+    /// How many of all photos were looked at, now or in earlier scans; changes with `findings`.
+    [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
 
 Q_SIGNALS:
     void phaseChanged();
@@ -109,6 +117,7 @@ Q_SIGNALS:
     void fdaGrantedChanged();
     void scanProgressChanged();
     void lastScanChanged();
+    void keeperRefused();
 
 private:
     struct ScanResult;
@@ -118,6 +127,7 @@ private:
     /// Divides what was found into what is offered and what is not, and selects of it what is offered.
     void applyExclusions(std::set<std::string> selection);
     void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
+    void exchange(const NewKeeper::Exchange& exchange, const FileEntry& former);
 
     Storage& m_storage;
     const ExclusionList& m_exclusions;
@@ -134,6 +144,7 @@ private:
     std::shared_ptr<const ScanProgress> m_scanProgress;
     std::optional<TimePoint> m_lastScan;
     Unreadable m_unreadable;
+    PhotoCoverage m_photoCoverage;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

@@ -35,8 +35,9 @@ struct Decoded {
 /// decoding will ever need.
 void prepare();
 
-/// The picture in an open file; its format is detected from the content. Nothing if it is not a known format,
-/// is damaged beyond use, or is larger than any picture should be. One thread.
+/// The picture in an open file, or the part of it that the bound names; its format is detected from the
+/// content. Nothing if it is not a known format, is damaged beyond use, or is larger than any picture should
+/// be. One thread.
 [[nodiscard]] std::optional<Decoded> decode(int descriptor, const PictureBound& bound,
                                             PictureUse use = PictureUse::photo);
 

@@ -85,6 +85,24 @@ void ScanProgress::show(std::string_view path)
     m_current = std::move(text);
 }
 
+void ScanProgress::expectPhotos(Photos photos)
+{
+    const std::lock_guard lock(m_lock);
+    m_photos = photos;
+}
+
+void ScanProgress::countPhoto()
+{
+    const std::lock_guard lock(m_lock);
+    ++m_photos.done;
+}
+
+ScanProgress::Photos ScanProgress::photos() const
+{
+    const std::lock_guard lock(m_lock);
+    return m_photos;
+}
+
 std::int64_t ScanProgress::files() const
 {
     const std::lock_guard lock(m_lock);

@@ -57,6 +57,16 @@ public:
     /// Sets `current` without counting.
     void show(std::string_view path);
 
+    /// How many photos the step for them looks at, and how many of them it has looked at.
+    struct Photos {
+        std::int64_t done = 0;
+        std::int64_t all = 0; ///< 0: not known yet
+        friend bool operator==(const Photos&, const Photos&) = default;
+    };
+    void expectPhotos(Photos photos);
+    void countPhoto();
+    [[nodiscard]] Photos photos() const;
+
     [[nodiscard]] std::int64_t files() const;
     [[nodiscard]] std::string current() const;
     [[nodiscard]] std::array<ScanStep, kScanSteps> steps() const;
@@ -71,6 +81,7 @@ private:
     mutable std::mutex m_lock;
     std::int64_t m_files = 0;
     std::string m_current;
+    Photos m_photos;
     std::array<Step, kScanSteps> m_steps; ///< by kind
 };
 

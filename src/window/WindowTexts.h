@@ -30,7 +30,20 @@ inline constexpr Text kPhotos = messages("{count} photo", "{count} photos");
 inline constexpr Text kSelectedPhotos = messages("{count} photo selected", "{count} photos selected");
 // TRANSLATORS: Of the photos of a group, whose number stands before this.
 inline constexpr Text kSelected = messages("{count} selected", "{count} selected");
+// Why a photo is the one that its set keeps: three words or so.
+inline constexpr Text kKeptByChoice = message("Kept: your choice");
+inline constexpr Text kKeptSharpest = message("Kept: sharpest shot");
+inline constexpr Text kKeptMostPixels = message("Kept: most pixels");
+inline constexpr Text kKeptInColour = message("Kept: in colour");
+inline constexpr Text kKeptAllColours = message("Kept: all colours");
+inline constexpr Text kKeptCameraData = message("Kept: camera data");
+inline constexpr Text kKeptLeastCompressed = message("Kept: least compressed");
+inline constexpr Text kKeptLargestFile = message("Kept: largest file");
+inline constexpr Text kKeptEqual = message("Kept: all alike");
 inline constexpr Text kSelectedOf = messages("{count} of {total} selected", "{count} of {total} selected");
+inline constexpr Text kPhotosLookedAt =
+    messages("{done} of {count} photo looked at so far. The next scans look at the rest.",
+             "{done} of {count} photos looked at so far. The next scans look at the rest.");
 inline constexpr Text kDoneOf = messages("{count} of {total}", "{count} of {total}");
 // TRANSLATORS: {share} is 1 %. It stands in a narrow column: prefer a sign to words.
 inline constexpr Text kLessThan = message("< {share}");
@@ -111,6 +124,14 @@ inline constexpr Text kSnapshots = messages(
 // TRANSLATORS: A type of file: a symbolic link.
 inline constexpr Text kLink = messageIn("type of file", "Link");
 inline constexpr Text kNoProgram = message("No program could show this item: {path}");
+
+// Photos of a set side by side
+inline constexpr Text kSetOf = message("Set {number} of {count}");
+// TRANSLATORS: {score} is a whole number; sharp photos have a hundred and more.
+inline constexpr Text kSharpness = message("Sharpness {score}");
+// TRANSLATORS: The file says which camera took the photo, or how.
+inline constexpr Text kCameraData = message("Camera data");
+inline constexpr Text kNoCameraData = message("No camera data");
 
 // Startup items
 inline constexpr Text kNotSwitchedOff = message("{name} couldn't be switched off. Nothing has changed.");

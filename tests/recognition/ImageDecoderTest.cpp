@@ -152,6 +152,51 @@ TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
     }
 }
 
+TEST_F(ImageDecoderTest, aPartOfAPictureIsReadWhereItIsSeen)
+{
+    // How the quarters lie in the file for the upright picture to show red, green, blue, white.
+    const Quarters stored[] = {
+        kFour,
+        {kGreen, kRed, kWhite, kBlue},
+        {kWhite, kBlue, kGreen, kRed},
+        {kBlue, kWhite, kRed, kGreen},
+        {kRed, kBlue, kGreen, kWhite},
+        {kGreen, kWhite, kRed, kBlue},
+        {kWhite, kGreen, kBlue, kRed},
+        {kBlue, kRed, kWhite, kGreen},
+    };
+    const auto all = [](const Pictures::Colour& colour) { return Quarters{colour, colour, colour, colour}; };
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        SCOPED_TRACE(orientation);
+        const PixelSize upright = orientation > 4 ? PixelSize{600, 800} : PixelSize{800, 600};
+        const std::string bytes = encoded({.width = 800,
+                                           .height = 600,
+                                           .quarters = stored[orientation - 1],
+                                           .orientation = orientation,
+                                           .format = ".jpg[Q=95]"});
+        const auto part = [&](const PixelRect& wanted, const PixelSize& size) {
+            return decoded(bytes, {size, PictureBound::Fit::inside, wanted});
+        };
+        const auto right = part({upright.width - 100, 20, 80, 40}, {500, 500});
+        ASSERT_TRUE(right);
+        EXPECT_EQ(right->upright(), upright);
+        EXPECT_EQ((PixelSize{right->small.width, right->small.height}), (PixelSize{80, 40}))
+            << "pixel by pixel";
+        EXPECT_LE(difference(quartersOf(right->small), all(kGreen)), kLossy);
+        const auto below = part({20, upright.height - 100, 160, 400}, {40, 40});
+        ASSERT_TRUE(below);
+        EXPECT_EQ((PixelSize{below->small.width, below->small.height}), (PixelSize{40, 25}))
+            << "cut and shrunk";
+        EXPECT_LE(difference(quartersOf(below->small), all(kBlue)), kLossy);
+        EXPECT_FALSE(part({upright.width, 0, 10, 10}, {40, 40})) << "beside it";
+    }
+    const auto bitmap = decoded(Pictures::bmp({.width = 300, .height = 200}),
+                                {{90, 90}, PictureBound::Fit::inside, PixelRect{160, 10, 100, 50}});
+    ASSERT_TRUE(bitmap);
+    EXPECT_EQ((PixelSize{bitmap->small.width, bitmap->small.height}), (PixelSize{90, 45}));
+    EXPECT_LE(difference(quartersOf(bitmap->small), all(kGreen)), kLossless);
+}
+
 TEST_F(ImageDecoderTest, aPictureIsCutToTheShapeThatIsWanted)
 {
     struct Case {

@@ -17,6 +17,7 @@ namespace {
 constexpr std::uint8_t kAnalysis = 0;
 constexpr std::uint8_t kSmallPicture = 1;
 constexpr std::uint8_t kIcon = 2;
+constexpr std::uint8_t kPart = 3; ///< a small picture of a part
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
@@ -188,16 +189,40 @@ PixelSize size(Reader& reader, PixelSize most)
     return {width, reader.get<std::int32_t>(1, most.height)};
 }
 
+PixelRect part(Reader& reader)
+{
+    PixelRect part;
+    part.x = reader.get<std::int32_t>(0, kLongestWholeSide);
+    part.y = reader.get<std::int32_t>(0, kLongestWholeSide);
+    part.width = reader.get<std::int32_t>(1, kLongestWholeSide);
+    part.height = reader.get<std::int32_t>(1, kLongestWholeSide);
+    return part;
+}
+
+std::uint8_t kindOf(const Question& question)
+{
+    if (!question.bound)
+        return kAnalysis;
+    if (question.use == PictureUse::icon)
+        return kIcon;
+    return question.bound->part ? kPart : kSmallPicture;
+}
+
 } // namespace
 
 std::string encoded(const Question& question)
 {
     Writer writer;
-    const std::uint8_t picture = question.use == PictureUse::icon ? kIcon : kSmallPicture;
-    writer.put(question.bound ? picture : kAnalysis);
+    const std::uint8_t kind = kindOf(question);
+    writer.put(kind);
     if (question.bound) {
         put(writer, question.bound->size);
         writer.put(static_cast<std::uint8_t>(question.bound->fit));
+    }
+    if (kind == kPart) {
+        const PixelRect& part = *question.bound->part;
+        put(writer, PixelSize{part.x, part.y});
+        put(writer, PixelSize{part.width, part.height});
     }
     return writer.bytes();
 }
@@ -206,11 +231,14 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 {
     Reader reader(bytes);
     Question question;
-    const auto kind = reader.get<std::uint8_t>(kAnalysis, kIcon);
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kPart);
     if (kind != kAnalysis) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
-        const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, kind == kIcon ? 0 : 1));
+        const std::uint8_t lastFit = kind == kSmallPicture ? 1 : 0;
+        const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, lastFit));
         question = {PictureBound{wanted, fit}, kind == kIcon ? PictureUse::icon : PictureUse::photo};
+        if (kind == kPart)
+            question.bound->part = part(reader);
     }
     return reader.isValidWhole() ? std::optional(question) : std::nullopt;
 }

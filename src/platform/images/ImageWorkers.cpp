@@ -164,7 +164,8 @@ std::optional<SmallPicture> ImageWorkers::read(const std::string& path, const Pi
         return std::nullopt;
     const PictureBound allowed{{std::min(bound.size.width, ImageMessages::kLongestSide),
                                 std::min(bound.size.height, ImageMessages::kLongestSide)},
-                               bound.fit};
+                               bound.fit,
+                               bound.part};
     return m_pool->answer(
         [&](ImageWorker& worker) { return worker.smallPicture(file.value().get(), allowed, use, stop); },
         stop);

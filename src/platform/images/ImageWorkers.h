@@ -38,8 +38,8 @@ public:
     /// picture, or gets no answer. Returns at once when stopped.
     [[nodiscard]] std::optional<ImageAnalysis> analyze(const std::string& path, const std::stop_token& stop);
 
-    /// The picture in a regular file, made small; likewise. Nothing for an empty bound; a side is limited to
-    /// 4,096 pixels.
+    /// The picture in a regular file, or a part of it, made small; likewise. Nothing for an empty bound or a
+    /// part that lies beside the picture; a side is limited to 4,096 pixels.
     [[nodiscard]] std::optional<SmallPicture> smallPicture(const std::string& path, const PictureBound& bound,
                                                            const std::stop_token& stop);
     /// The icon in a regular file, fitted into the size; likewise.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace orlen {
 
@@ -19,6 +20,16 @@ bool isWider(PixelSize one, PixelSize other)
 }
 
 } // namespace
+
+PixelRect PixelRect::within(PixelSize picture) const
+{
+    const auto end = [](int start, int length, int most) {
+        return static_cast<int>(std::clamp<std::int64_t>(std::int64_t{start} + length, 0, most));
+    };
+    const int left = std::clamp(x, 0, picture.width);
+    const int top = std::clamp(y, 0, picture.height);
+    return {left, top, end(x, width, picture.width) - left, end(y, height, picture.height) - top};
+}
 
 PixelSize PictureBound::box(PixelSize picture) const
 {

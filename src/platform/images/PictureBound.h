@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 namespace orlen {
 
 struct PixelSize {
@@ -7,6 +9,20 @@ struct PixelSize {
     int height = 0; ///< pixels
 
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
+};
+
+/// A part of a picture that is upright.
+struct PixelRect {
+    int x = 0; ///< pixels from the left
+    int y = 0; ///< pixels from the top
+    int width = 0;
+    int height = 0;
+
+    /// What of it lies in a picture of this size; empty if nothing does.
+    [[nodiscard]] PixelRect within(PixelSize picture) const;
+    [[nodiscard]] bool isEmpty() const { return width <= 0 || height <= 0; }
+
+    friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
 /// The size a picture is wanted in. Pictures are scaled down, never up. Pure; any thread.
@@ -18,9 +34,11 @@ struct PictureBound {
 
     PixelSize size;
     Fit fit = Fit::inside;
+    /// Only this part is wanted, fitted into the size; absent: all of the picture.
+    std::optional<PixelRect> part = std::nullopt;
 
     /// The same for a picture stored sideways.
-    [[nodiscard]] PictureBound turned() const { return {{size.height, size.width}, fit}; }
+    [[nodiscard]] PictureBound turned() const { return {{size.height, size.width}, fit, part}; }
     /// The size the whole picture must be shrunk to fit into.
     [[nodiscard]] PixelSize box(PixelSize picture) const;
     /// How much of the middle of a shrunk picture is shown.

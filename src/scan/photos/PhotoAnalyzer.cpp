@@ -62,6 +62,8 @@ PhotoAnalyzer::Analyzed PhotoAnalyzer::analyze(const std::vector<Cand>& images) 
         else if (chosen.size() < kMostNew)
             chosen.push_back(i);
     }
+    const auto recalled = std::ranges::count_if(known, [](const auto& one) { return one != nullptr; });
+    m_progress.expectPhotos({recalled, recalled + static_cast<std::int64_t>(chosen.size())});
     look(images, chosen, known);
     remember(images, chosen, known);
     Analyzed analyzed{.photos = {}, .coverage = {.all = static_cast<std::int64_t>(images.size())}};
@@ -96,6 +98,7 @@ void PhotoAnalyzer::look(const std::vector<Cand>& images, const std::vector<std:
         // A call that was cancelled says nothing about the picture.
         if (!*analysis && m_flag.isCancelled())
             return;
+        m_progress.countPhoto();
         const std::lock_guard held(lock);
         known[chosen[i]] = std::move(analysis);
     });

@@ -1,6 +1,9 @@
 #include "window/home/ScanProgressModel.h"
 
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
+
+#include <utility>
 
 namespace orlen {
 
@@ -36,6 +39,8 @@ void ScanProgressModel::poll()
 {
     const ScanProgress& progress = m_app.results()->scanProgress();
     setSteps(progress.steps());
+    if (std::exchange(m_photos, progress.photos()) != progress.photos())
+        allChanged(Role::amount);
     const QString current = DisplayText::shortPath(progress.current());
     if (m_files == progress.files() && m_current == current)
         return;
@@ -73,6 +78,11 @@ QVariant ScanProgressModel::value(std::size_t number, int role) const
         return static_cast<int>(step.state);
     case Role::duration:
         return step.state == StepState::done ? DisplayText::duration(step.elapsed) : QString();
+    case Role::amount:
+        if (step.kind != StepKind::photos || step.state != StepState::running || m_photos.all == 0)
+            return QString();
+        return DisplayText::text(
+            Message(WindowTexts::kDoneOf, {{"count", m_photos.done}, {"total", m_photos.all}}));
     }
     return {};
 }

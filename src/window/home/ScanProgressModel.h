@@ -38,6 +38,7 @@ public:
         label = Qt::UserRole, ///< name of the step
         state,                ///< a `State`
         duration,             ///< of a finished step, as text; else empty
+        amount,               ///< "40 of 1,200" while photos are looked at, as text; else empty
     };
     Q_ENUM(Role)
 
@@ -68,6 +69,7 @@ private:
     AppModel& m_app;
     QTimer m_timer;
     Steps m_steps;
+    ScanProgress::Photos m_photos;
     std::int64_t m_files = 0;
     QString m_current;
     bool m_isCancelling = false;

@@ -8,6 +8,7 @@ Item {
     required property string label
     required property int state
     required property string duration
+    required property string amount
 
     readonly property bool isRunning: root.state === ScanProgressModel.Running
     readonly property bool isDone: root.state === ScanProgressModel.Done
@@ -91,7 +92,7 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        text: root.duration
+        text: root.isDone ? root.duration : root.amount
         Accessible.ignored: true
     }
 }

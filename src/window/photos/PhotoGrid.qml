@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Window
 import Orlen.App
 
-/// A grid of photos. Arrows move, Enter selects, Space previews, Ctrl+A selects all.
+/// A grid of photos. Arrows move, Enter selects, Space previews, Ctrl+A selects all. Where photos can be
+/// compared, Enter and a double click do so, and Ctrl+Space selects.
 GridView {
     id: root
 
@@ -11,6 +12,7 @@ GridView {
     required property int tileSize
     /// Colour behind the photos.
     property color ground: Theme.card
+    property bool comparable: false
 
     readonly property real wantedWidth: root.tileSize * Math.min(1.25, Theme.textScale)
     readonly property int columns: Math.max(3, Math.floor(root.width / root.wantedWidth))
@@ -19,6 +21,7 @@ GridView {
 
     signal allRequested
     signal previewRequested(row: int)
+    signal compareRequested(row: int)
 
     cellWidth: Math.floor(root.width / root.columns)
     cellHeight: root.cellWidth
@@ -30,8 +33,12 @@ GridView {
     Keys.onPressed: event => {
         root.isKeyed = true;
         event.accepted = true;
-        if (event.key === Qt.Key_Space)
+        if (event.key === Qt.Key_Space && event.modifiers & Qt.ControlModifier)
+            root.tiles.toggle(root.currentIndex);
+        else if (event.key === Qt.Key_Space)
             root.previewRequested(root.currentIndex);
+        else if (root.comparable && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter))
+            root.compareRequested(root.currentIndex);
         else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
             root.tiles.toggle(root.currentIndex);
         else if (event.key === Qt.Key_Home)
@@ -74,5 +81,11 @@ GridView {
             menu.openAt(root.tiles, tile.index, tile, x, y);
         }
         onPreviewRequested: root.previewRequested(tile.index)
+        onDoubleClicked: {
+            // The first of the two clicks selected it.
+            root.tiles.toggle(tile.index);
+            if (root.comparable)
+                root.compareRequested(tile.index);
+        }
     }
 }

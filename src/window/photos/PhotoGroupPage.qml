@@ -17,15 +17,17 @@ Item {
     required property string summary
     required property string selection
     required property int checkState
+    required property bool inSets
 
     readonly property bool isOpen: root.groups.shownGroup === root.findingId
     signal closed
     signal previewRequested(grid: PhotoGrid, row: int)
+    signal compareRequested(sets: PhotoSetsModel, row: int, photo: string)
 
     visible: root.isOpen
     onIsOpenChanged: {
         if (root.isOpen)
-            grid.forceActiveFocus();
+            root.focusPhotos();
     }
 
     Keys.onEscapePressed: root.closed()
@@ -34,7 +36,14 @@ Item {
         id: all
 
         groups: root.groups
-        findingId: root.isOpen ? root.findingId : ""
+        findingId: root.isOpen && !root.inSets ? root.findingId : ""
+    }
+
+    PhotoSetsModel {
+        id: similar
+
+        groups: root.groups
+        findingId: root.isOpen && root.inSets ? root.findingId : ""
     }
 
     Column {
@@ -130,15 +139,32 @@ Item {
         x: head.x - 4
         width: parent.width - 2 * x
         bottomMargin: Theme.spaceL
+        visible: !root.inSets
         clip: true
         reuseItems: true
         tiles: all
         tileSize: 150
         ground: Theme.window
         Accessible.name: root.title
-        T.ScrollBar.vertical: handle
+        T.ScrollBar.vertical: root.inSets ? null : handle
         onAllRequested: root.groups.toggleAll(root.findingId)
         onPreviewRequested: row => root.previewRequested(grid, row)
+    }
+
+    PhotoSetList {
+        id: list
+
+        objectName: "photoSets"
+        anchors.fill: grid
+        bottomMargin: Theme.spaceL
+        visible: root.inSets
+        groups: root.groups
+        sets: similar
+        findingId: root.findingId
+        title: root.title
+        T.ScrollBar.vertical: root.inSets ? handle : null
+        onPreviewRequested: (shots, row) => root.previewRequested(shots, row)
+        onCompareRequested: (row, photo) => root.compareRequested(similar, row, photo)
     }
 
     // Next to the grid, in the page's margin.
@@ -149,5 +175,12 @@ Item {
         anchors.top: grid.top
         anchors.bottom: grid.bottom
         orientation: Qt.Vertical
+    }
+
+    function focusPhotos() {
+        if (root.inSets)
+            list.forceActiveFocus();
+        else
+            grid.forceActiveFocus();
     }
 }

@@ -1,5 +1,6 @@
 #include "window/photos/PhotoGroupsModel.h"
 
+#include "model/KeptSets.h"
 #include "platform/values/CheckedSum.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
@@ -7,6 +8,8 @@
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
+#include <ranges>
+#include <set>
 #include <utility>
 
 namespace orlen {
@@ -114,6 +117,15 @@ QString PhotoGroupsModel::selectedText() const
     return amountText(WindowTexts::kSelectedPhotos, amount.items, amount.bytes);
 }
 
+QString PhotoGroupsModel::coverage() const
+{
+    const PhotoCoverage& coverage = m_app.results()->photoCoverage();
+    if (coverage.lookedAt >= coverage.all)
+        return {};
+    return DisplayText::text(
+        Message(WindowTexts::kPhotosLookedAt, {{"done", coverage.lookedAt}, {"count", coverage.all}}));
+}
+
 void PhotoGroupsModel::toggleAll(const QString& findingId)
 {
     const Row* wanted = rowOf(findingId);
@@ -129,7 +141,29 @@ void PhotoGroupsModel::toggleAll(const QString& findingId)
     if (missing.empty())
         m_app.results()->deselect(all);
     else
-        m_app.results()->select(missing);
+        select(findingId, std::move(missing));
+}
+
+void PhotoGroupsModel::select(const QString& findingId, std::vector<std::string> paths)
+{
+    const Row* row = rowOf(findingId);
+    if (row == nullptr)
+        return;
+    const auto& selection = m_app.results()->selection();
+    const auto& entries = row->finding.items;
+    std::set<std::string> after = selection;
+    after.insert(paths.begin(), paths.end());
+    for (const KeptSet& set : keptSets(entries)) {
+        const auto goes = [&](std::size_t number) { return after.contains(entries[number].path); };
+        if (!selection.contains(set.kept) || !std::ranges::all_of(set.entries, goes))
+            continue;
+        // The kept photo goes by itself, so one of the others has to stay.
+        for (const std::size_t number : set.entries | std::views::reverse) {
+            if (std::erase(paths, entries[number].path) > 0)
+                break;
+        }
+    }
+    m_app.results()->select(paths);
 }
 
 void PhotoGroupsModel::review()
@@ -183,6 +217,8 @@ QVariant PhotoGroupsModel::value(std::size_t number, int role) const
         return amountText(WindowTexts::kSelected, row.selected.count, row.selected.bytes);
     case Role::checkState:
         return checkStateOf(row.selected.count, finding.items.size());
+    case Role::inSets:
+        return finding.kind == FindingKind::photoDuplicates;
     }
     return {};
 }

@@ -16,6 +16,8 @@ class PhotoGroupsModel : public orlen::RowsModel {
     Q_PROPERTY(Stage stage READ stage NOTIFY stageChanged)
     /// Id of the group shown on its own; empty while all are shown. Cleared when the group goes.
     Q_PROPERTY(QString shownGroup READ shownGroup WRITE setShownGroup NOTIFY shownGroupChanged)
+    /// How many photos were looked at so far; empty when it is all of them.
+    Q_PROPERTY(QString coverage READ coverage NOTIFY stageChanged)
     /// Number and size of the selected photos in all groups; empty when none is selected.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectedChanged)
 
@@ -39,6 +41,7 @@ public:
         summary,    ///< number and size of the photos, as text
         selection,  ///< how many are selected, as text
         checkState, ///< a `Qt::CheckState`
+        inSets,     ///< whether they are similar photos, set by set
     };
     Q_ENUM(Role)
 
@@ -51,9 +54,13 @@ public:
     [[nodiscard]] QString shownGroup() const { return m_shownGroup; }
     void setShownGroup(const QString& findingId);
     [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] QString coverage() const;
 
     /// Selects all photos of a group, or deselects them if all are selected.
     Q_INVOKABLE void toggleAll(const QString& findingId);
+    /// Selects these photos of a group, but never the last one of a set: its kept photo may be selected among
+    /// others.
+    void select(const QString& findingId, std::vector<std::string> paths);
     /// Opens the review of the selected photos.
     Q_INVOKABLE void review();
 

@@ -26,6 +26,7 @@ Item {
     signal toggled
     signal previewRequested
     signal menuRequested(x: real, y: real)
+    signal doubleClicked
 
     Accessible.role: root.kept ? Accessible.Graphic : Accessible.CheckBox
     Accessible.checkable: !root.kept
@@ -141,6 +142,7 @@ Item {
         hoverEnabled: true
         onPressed: root.pressed()
         onClicked: root.toggled()
+        onDoubleClicked: root.doubleClicked()
     }
 
     TapHandler {

@@ -4,6 +4,7 @@
 #include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
+#include "window/photos/PhotoSetsModel.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 
@@ -37,6 +38,15 @@ void PhotoTilesModel::setFindingId(const QString& findingId)
         return;
     m_findingId = findingId;
     Q_EMIT findingIdChanged();
+    update();
+}
+
+void PhotoTilesModel::setSet(const QString& set)
+{
+    if (m_set == set)
+        return;
+    m_set = set;
+    Q_EMIT setChanged();
     update();
 }
 
@@ -84,6 +94,8 @@ std::vector<PhotoTilesModel::Tile> PhotoTilesModel::tilesOfSets(const Finding& f
 {
     std::vector<Tile> tiles;
     for (const KeptSet& set : keptSets(finding.items)) {
+        if (!m_set.isEmpty() && m_set != PhotoSetsModel::idOf(set, finding.items))
+            continue;
         const std::size_t first = tiles.size();
         if (!set.kept.empty()) {
             Tile keeper;
@@ -129,13 +141,12 @@ void PhotoTilesModel::toggle(int row)
     if (!hasRow(row))
         return;
     const Tile& tile = m_tiles[static_cast<std::size_t>(row)];
-    const std::vector<std::string> path{tile.path};
     if (tile.isKept)
         return;
     if (tile.isSelected)
-        m_app.results()->deselect(path);
+        m_app.results()->deselect(std::vector{tile.path});
     else
-        m_app.results()->select(path);
+        m_groups->select(m_findingId, {tile.path});
 }
 
 QString PhotoTilesModel::pathAt(int row) const
@@ -145,7 +156,7 @@ QString PhotoTilesModel::pathAt(int row) const
 
 void PhotoTilesModel::reveal(int row) const
 {
-    if (hasRow(row) && !m_tiles[static_cast<std::size_t>(row)].path.empty())
+    if (hasRow(row))
         Reveal::show(m_tiles[static_cast<std::size_t>(row)].path);
 }
 
@@ -176,13 +187,13 @@ QVariant PhotoTilesModel::value(std::size_t number, int role) const
     case Role::name:
         return DisplayText::path(tile.name);
     case Role::details: {
-        const QString folder = tile.path.empty() ? QString() : DisplayText::folderOf(tile.path);
+        const QString folder = DisplayText::folderOf(tile.path);
         return tile.note.empty() ? folder : folder + u'\n' + DisplayText::text(tile.note);
     }
     case Role::size:
         return tile.isKept ? QString() : DisplayText::size(tile.size);
     case Role::source:
-        return tile.path.empty() ? QString() : Thumbnails::source(tile.path);
+        return Thumbnails::source(tile.path);
     case Role::selected:
         return tile.isSelected;
     case Role::kept:

@@ -19,6 +19,8 @@ class PhotoTilesModel : public orlen::RowsModel {
     Q_PROPERTY(orlen::PhotoGroupsModel* groups READ groups WRITE setGroups NOTIFY groupsChanged REQUIRED)
     /// Id of the group; no rows while it matches none.
     Q_PROPERTY(QString findingId READ findingId WRITE setFindingId NOTIFY findingIdChanged)
+    /// Shows only this set of similar photos, by the id that PhotoSetsModel gives it; empty: all of them.
+    Q_PROPERTY(QString set READ set WRITE setSet NOTIFY setChanged)
     /// Maximum number of rows; 0: no limit.
     Q_PROPERTY(int limit READ limit WRITE setLimit NOTIFY limitChanged)
 
@@ -41,10 +43,13 @@ public:
     void setGroups(PhotoGroupsModel* groups);
     [[nodiscard]] QString findingId() const { return m_findingId; }
     void setFindingId(const QString& findingId);
+    [[nodiscard]] QString set() const { return m_set; }
+    void setSet(const QString& set);
     [[nodiscard]] int limit() const { return m_limit; }
     void setLimit(int limit);
 
-    /// Selects or deselects the row's photo; ignored for a kept one.
+    /// Selects or deselects the row's photo. Ignored for a kept one, and for the last one of a set that would
+    /// be left.
     Q_INVOKABLE void toggle(int row);
     /// The photo's `PathCode`, for a preview; empty when its path is unknown.
     Q_INVOKABLE [[nodiscard]] QString pathAt(int row) const;
@@ -57,6 +62,7 @@ public:
 Q_SIGNALS:
     void groupsChanged();
     void findingIdChanged();
+    void setChanged();
     void limitChanged();
 
 private:
@@ -64,7 +70,7 @@ private:
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
     struct Tile {
-        std::string path; ///< empty for a kept photo that was not found
+        std::string path;
         std::string name;
         Message note;
         std::int64_t size = 0;
@@ -86,6 +92,7 @@ private:
     AppModel& m_app;
     PhotoGroupsModel* m_groups = nullptr;
     QString m_findingId;
+    QString m_set;
     int m_limit = 0;
     std::vector<Tile> m_tiles;
 };

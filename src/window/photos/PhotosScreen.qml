@@ -50,6 +50,13 @@ Item {
         }
 
         Note {
+            objectName: "photoCoverage"
+            width: overview.contentWidth
+            visible: root.hasGroups && groups.coverage !== ""
+            text: groups.coverage
+        }
+
+        Note {
             width: overview.contentWidth
             visible: root.hasGroups
             text: Strings.photosFooter
@@ -74,7 +81,7 @@ Item {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceXl
         visible: !root.hasGroups
-        text: Strings.photosFooter
+        text: groups.coverage === "" ? Strings.photosFooter : groups.coverage + "\n" + Strings.photosFooter
     }
 
     Repeater {
@@ -86,6 +93,7 @@ Item {
             groups: root.model
             onClosed: groups.shownGroup = ""
             onPreviewRequested: (grid, row) => root.preview(grid, row)
+            onCompareRequested: (sets, row, photo) => comparison.show(sets, row, photo)
         }
     }
 
@@ -97,6 +105,10 @@ Item {
         visible: root.hasGroups
         selectedText: groups.selectedText
         onReviewRequested: groups.review()
+    }
+
+    CompareSheet {
+        id: comparison
     }
 
     PreviewSheet {

@@ -53,6 +53,27 @@ std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit
     return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
 }
 
+std::optional<Picture> readPart(const std::string& path, const QRect& part, const QSize& bound,
+                                const std::stop_token& stop)
+{
+    const auto picture = workers().smallPicture(path,
+                                                {{bound.width(), bound.height()},
+                                                 PictureBound::Fit::inside,
+                                                 PixelRect{part.x(), part.y(), part.width(), part.height()}},
+                                                stop);
+    if (!picture)
+        return std::nullopt;
+    return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
+}
+
+std::optional<Traits> traits(const std::string& path, const std::stop_token& stop)
+{
+    const auto analysis = workers().analyze(path, stop);
+    if (!analysis)
+        return std::nullopt;
+    return Traits{{analysis->width, analysis->height}, analysis->sharpness, analysis->traits.isFromCamera};
+}
+
 QImage icon(const std::string& path, const QSize& size)
 {
     const auto picture = workers().icon(path, {size.width(), size.height()}, {});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 
 #include <optional>
@@ -29,6 +30,19 @@ struct Picture {
 /// The picture scaled down to `bound` pixels. Nothing when it cannot be read, or at once when stopped.
 [[nodiscard]] std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit,
                                           const std::stop_token& stop);
+
+/// A part of the picture, in its upright pixels, scaled down to fit into `bound` pixels. Likewise; nothing
+/// for a part that lies beside it.
+[[nodiscard]] std::optional<Picture> readPart(const std::string& path, const QRect& part, const QSize& bound,
+                                              const std::stop_token& stop);
+
+/// What tells similar photos apart. Nothing when it cannot be read, or at once when stopped.
+struct Traits {
+    QSize whole;          ///< upright
+    double sharpness = 0; ///< see Sharpness
+    bool isFromCamera = false;
+};
+[[nodiscard]] std::optional<Traits> traits(const std::string& path, const std::stop_token& stop);
 
 /// The icon with its transparency, scaled to fit; enlarged only if it is a vector drawing. Null when it
 /// cannot be read.

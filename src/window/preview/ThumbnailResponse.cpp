@@ -23,14 +23,20 @@ void ThumbnailResponse::Ticket::deliver(const QImage& image)
 
 void ThumbnailResponse::Ticket::forget()
 {
-    const QMutexLocker locker(&m_lock);
-    m_response = nullptr;
+    {
+        const QMutexLocker locker(&m_lock);
+        m_response = nullptr;
+    }
+    m_stop.request_stop();
 }
 
 void ThumbnailResponse::Ticket::refuse()
 {
-    const QMutexLocker locker(&m_lock);
-    m_isWanted = false;
+    {
+        const QMutexLocker locker(&m_lock);
+        m_isWanted = false;
+    }
+    m_stop.request_stop();
 }
 
 QQuickTextureFactory* ThumbnailResponse::textureFactory() const

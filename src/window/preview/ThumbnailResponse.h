@@ -5,6 +5,7 @@
 #include <QQuickImageResponse>
 
 #include <memory>
+#include <stop_token>
 
 namespace orlen {
 
@@ -21,6 +22,8 @@ public:
 
         /// False once nobody is waiting for the picture.
         [[nodiscard]] bool isWanted();
+        /// Asked to stop once nobody is waiting for the picture.
+        [[nodiscard]] std::stop_source stop() const { return m_stop; }
         /// Finishes the response; ignored when it is gone.
         void deliver(const QImage& image);
 
@@ -32,6 +35,7 @@ public:
         QMutex m_lock;
         ThumbnailResponse* m_response;
         bool m_isWanted = true;
+        std::stop_source m_stop;
     };
 
     ThumbnailResponse() : m_ticket(std::make_shared<Ticket>(*this)) {}

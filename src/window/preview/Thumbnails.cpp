@@ -17,6 +17,8 @@ constexpr int kThreads = 2;
 constexpr qsizetype kCacheKilobytes = 64'000;
 constexpr QSize kUsualThumbnail{96, 96};
 constexpr QSize kLargest{4096, 4096};
+constexpr int kPartAt = 2; ///< section of its first number
+const QString kPart = QStringLiteral("part");
 const QString kInside = QStringLiteral("inside");
 
 } // namespace
@@ -29,9 +31,27 @@ public:
     {
     }
 
-    void run() override { m_ticket->deliver(m_ticket->isWanted() ? picture() : QImage()); }
+    void run() override
+    {
+        if (!m_ticket->isWanted())
+            m_ticket->deliver(QImage());
+        else
+            m_ticket->deliver(m_id.section(u'/', 1, 1) == kPart ? part() : picture());
+    }
 
 private:
+    [[nodiscard]] QImage part() const
+    {
+        const auto number = [this](int at) { return m_id.section(u'/', at, at).toInt(); };
+        std::stop_source stop = m_ticket->stop();
+        const std::stop_callback atEnd(m_thumbnails.m_stop.get_token(), [&] { stop.request_stop(); });
+        const auto picture = PictureReader::readPart(
+            PathCode::path(m_id.section(u'/', 0, 0)),
+            {number(kPartAt), number(kPartAt + 1), number(kPartAt + 2), number(kPartAt + 3)}, m_size,
+            stop.get_token());
+        return picture ? picture->image : QImage();
+    }
+
     [[nodiscard]] QImage picture() const
     {
         const QString key = QStringLiteral("%1 %2x%3").arg(m_id).arg(m_size.width()).arg(m_size.height());
@@ -72,6 +92,18 @@ QString Thumbnails::source(const std::string& path)
     if (!PictureReader::looksReadable(path))
         return {};
     return QStringLiteral("image://%1/%2").arg(QLatin1String(kName), PathCode::of(path));
+}
+
+QString Thumbnails::sourceOfPart(const std::string& path, const QRect& part)
+{
+    const QString whole = source(path);
+    return whole.isEmpty() ? whole
+                           : QStringLiteral("%1/%2/%3/%4/%5/%6")
+                                 .arg(whole, kPart)
+                                 .arg(part.x())
+                                 .arg(part.y())
+                                 .arg(part.width())
+                                 .arg(part.height());
 }
 
 QQuickImageResponse* Thumbnails::requestImageResponse(const QString& id, const QSize& requestedSize)

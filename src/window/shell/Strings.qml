@@ -189,6 +189,33 @@ QtObject {
     readonly property string backToPhotos: Words.message("Back to Smart Photos")
     // TRANSLATORS: On the photo of a set that is not moved.
     readonly property string kept: Words.messageIn("a photo", "Kept")
+    // TRANSLATORS: A button: looks at the photos of a set side by side.
+    readonly property string compare: Words.messageIn("button", "Compare")
+    // TRANSLATORS: A button: keeps this photo of a set instead of another one.
+    readonly property string keep: Words.messageIn("button", "Keep")
+    function keepNumber(number: int): string {
+        // TRANSLATORS: The same, with the key that does it: 1 to 4.
+        return Words.messageIn("button", "Keep ({number})", { number: number });
+    }
+    readonly property string keepAll: Words.messageIn("button", "Keep all (X)")
+    // TRANSLATORS: A button: shows one of two photos in the place of the other; then, all beside each other again.
+    readonly property string flip: Words.messageIn("button", "Flip (F)")
+    readonly property string sideBySide: Words.messageIn("button", "Side by side (F)")
+    readonly property string fit: Words.messageIn("button", "Fit")
+    readonly property string zoomIn: Words.message("Zoom in")
+    readonly property string zoomOut: Words.message("Zoom out")
+    readonly property string previousSet: Words.message("Previous set")
+    readonly property string nextSet: Words.message("Next set")
+    readonly property string nextPhotos: Words.message("More of this set")
+    readonly property string photosChanged: Words.message("These photos have changed since the scan. Run a Smart Scan first.")
+    function trashNamed(name: string): string {
+        // TRANSLATORS: A check box at a photo.
+        return Words.message("Move {name} to the Trash", { name: name });
+    }
+    function differs(fact: string): string {
+        // TRANSLATORS: Read aloud: {fact} is a size, a date and so on, which is not the same for all photos.
+        return Words.messageIn("read aloud", "{fact}, differs", { fact: fact });
+    }
     readonly property string selectAllPhotos: Words.message("Select all photos")
     readonly property string noPhotoSelected: Words.message("No photo selected")
     readonly property string photosFooter: Words.message("Photos are analysed on this Mac with Apple's Vision framework: feature prints find similar shots, an image classifier spots screenshots and receipts, and a sharpness score picks the best photo of each set.")
@@ -366,6 +393,17 @@ QtObject {
                 { text: Words.message("Menu of a file"), keys: [[root.shift, "F10"], [root.menuKey]] },
                 { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] },
                 { text: Words.message("Reload the map, apps or startup items"), keys: [["F5"]] }
+            ]
+        },
+        {
+            title: Words.message("Similar photos"),
+            shortcuts: [
+                { text: Words.message("Compare a set"), keys: [[root.enter]] },
+                { text: Words.message("Select a photo"), keys: [[root.ctrl, root.space]] },
+                { text: Words.message("Keep one of a set, or all"), keys: [["1 … 4"], ["X"]] },
+                { text: Words.message("Flip between two"), keys: [[root.space]] },
+                { text: Words.message("Zoom in or out"), keys: [["+"], ["−"]] },
+                { text: Words.message("Previous or next set"), keys: [["←"], ["→"]] }
             ]
         },
         {

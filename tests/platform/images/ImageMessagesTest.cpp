@@ -89,6 +89,14 @@ TEST(ImageMessagesTest, aQuestionIsHeardAsItWasPut)
     ASSERT_TRUE(icon && icon->bound);
     EXPECT_EQ(icon->use, PictureUse::icon);
     EXPECT_FALSE(decodedQuestion(encoded(Question{{{{8, 8}, PictureBound::Fit::cover}}, PictureUse::icon})));
+    const auto part = [](const PixelRect& rect) {
+        return decodedQuestion(encoded(Question{PictureBound{{8, 8}, PictureBound::Fit::inside, rect}}));
+    };
+    ASSERT_TRUE(part({0, 7, 5000, 1}));
+    EXPECT_EQ(part({0, 7, 5000, 1})->bound->part, (PixelRect{0, 7, 5000, 1}));
+    for (const PixelRect& rect :
+         {PixelRect{-1, 0, 5, 5}, PixelRect{0, 0, 0, 5}, PixelRect{0, 0, 5, 2'000'000}})
+        EXPECT_FALSE(part(rect)) << rect.x << ' ' << rect.width << ' ' << rect.height;
     EXPECT_FALSE(decodedQuestion(""));
     EXPECT_FALSE(decodedQuestion(encoded(Question{}) + '\0'));
 }

@@ -80,8 +80,15 @@ Journey {
     function test_07_photos() {
         test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
-        test.item("photoGrid");
+        test.item("photoSet");
         test.check("a group of photos");
+        test.clickOn("compareSet");
+        tryVerify(() => test.item("comparePhoto2").facts.length === 6);
+        test.check("a set of photos side by side");
+        keyClick(Qt.Key_Space);
+        test.check("two photos in one place");
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("comparePhoto2"));
     }
 
     function test_08_findings() {

@@ -45,12 +45,16 @@ Journey {
     function test_4_photosToo() {
         test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
-        tryCompare(test.item("photoGrid"), "count", 2);
-        verify(test.middle(test.row("photoGrid", 0)) > test.middle(test.row("photoGrid", 1)));
+        tryCompare(test.item("photoSet"), "count", 2);
+        verify(test.middle(test.row("photoSet", 0)) > test.middle(test.row("photoSet", 1)));
         keyClick(Qt.Key_Left);
-        compare(test.item("photoGrid").currentIndex, 1);
+        compare(test.item("photoSet").currentIndex, 1);
         keyClick(Qt.Key_Right);
-        compare(test.item("photoGrid").currentIndex, 0);
+        compare(test.item("photoSet").currentIndex, 0);
+        keyClick(Qt.Key_Return);
+        verify(test.middle(test.item("comparePhoto1")) > test.middle(test.item("comparePhoto2")));
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("comparePhoto1"));
     }
 
     function test_5_theDiskMapStays() {

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Finding.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Keeps another photo of a set of similar ones. Photos are only exchanged after a look at both: what moves
+/// later moves only while the new one is there.
+namespace orlen::NewKeeper {
+
+/// An entry of a set, and the file that its set keeps.
+struct Exchange {
+    FileEntry chosen; ///< to be kept instead
+    KeptFile former;  ///< to be listed instead
+    friend bool operator==(const Exchange&, const Exchange&) = default;
+};
+
+/// Nothing if no finding of similar photos lists the path, or its set keeps no file. Pure.
+[[nodiscard]] std::optional<Exchange> of(const std::vector<Finding>& findings, const std::string& path);
+
+/// The former file as an entry that depends on the chosen one. Nothing if either file is no longer what the
+/// scan saw. Blocks on the disk; any thread.
+[[nodiscard]] std::optional<FileEntry> listed(const Exchange& exchange);
+
+/// Puts `former` into the place of the chosen one, and has all entries of the set depend on that. Pure.
+void apply(std::vector<Finding>& findings, const Exchange& exchange, const FileEntry& former);
+
+} // namespace orlen::NewKeeper
