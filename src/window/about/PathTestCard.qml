@@ -6,6 +6,8 @@ ColumnCard {
     id: root
 
     required property Notices notices
+    /// There is an answer, below the field.
+    signal answered
 
     spacing: Theme.spaceM
 
@@ -14,8 +16,10 @@ ColumnCard {
 
         text: field.text
         onChanged: {
-            if (tested.answer !== "")
-                root.notices.announce(result);
+            if (tested.answer === "")
+                return;
+            root.notices.announce(result);
+            Qt.callLater(root.answered);
         }
     }
 
