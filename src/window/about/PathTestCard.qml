@@ -19,8 +19,16 @@ ColumnCard {
             if (tested.answer === "")
                 return;
             root.notices.announce(result);
-            Qt.callLater(root.answered);
+            layout.restart();
         }
+    }
+
+    // Until the answer has its place.
+    Timer {
+        id: layout
+
+        interval: 0
+        onTriggered: root.answered()
     }
 
     HeadlineText {
