@@ -6,6 +6,8 @@ ColumnCard {
     id: root
 
     required property Notices notices
+    /// There is an answer, below the field.
+    signal answered
 
     spacing: Theme.spaceM
 
@@ -14,9 +16,19 @@ ColumnCard {
 
         text: field.text
         onChanged: {
-            if (tested.answer !== "")
-                root.notices.announce(result);
+            if (tested.answer === "")
+                return;
+            root.notices.announce(result);
+            layout.restart();
         }
+    }
+
+    // Until the answer has its place.
+    Timer {
+        id: layout
+
+        interval: 0
+        onTriggered: root.answered()
     }
 
     HeadlineText {

@@ -27,7 +27,10 @@ ScreenPage {
     }
 
     PathTestCard {
+        id: pathTest
+
         width: root.contentWidth
         notices: root.view.notices
+        onAnswered: root.show(pathTest)
     }
 }

@@ -74,7 +74,7 @@ T.ApplicationWindow {
 
     NoticeBar {
         notices: theNotices
-        besideScreen: root.navigation.onboarded ? Theme.sidebarWidth : 0
+        besideScreen: root.navigation.onboarded && root.navigation.sheet === Navigation.NoSheet ? Theme.sidebarWidth : 0
         aboveFooter: root.navigation.sheet !== Navigation.NoSheet
     }
 }

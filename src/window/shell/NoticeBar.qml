@@ -29,7 +29,8 @@ T.Popup {
     leftPadding: Theme.mirrored ? padding : Theme.spaceL
     rightPadding: Theme.mirrored ? Theme.spaceL : padding
     visible: root.text !== ""
-    closePolicy: T.Popup.CloseOnEscape
+    // A popup that closes on Escape by itself blocks the shortcuts of the window.
+    closePolicy: T.Popup.NoAutoClose
     onTextChanged: {
         if (root.text === "")
             return;
@@ -75,9 +76,16 @@ T.Popup {
     }
 
     contentItem: Item {
-        // Here, where no sheet is in its way.
+        Shortcut {
+            enabled: root.visible
+            sequences: [StandardKey.Cancel]
+            onActivated: root.notices.dismiss()
+        }
+
         Shortcut {
             enabled: root.notices.hasUndo
+            // Also while a sheet is open.
+            context: Qt.ApplicationShortcut
             sequences: [StandardKey.Undo]
             onActivated: root.notices.undo()
         }

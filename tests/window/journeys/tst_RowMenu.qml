@@ -102,6 +102,7 @@ Journey {
         compare(test.names("findingEntries"), "mesa_shader_cache");
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("findingEntries"));
+        tryVerify(() => test.isShown("undoNotice"));
         keyClick(Qt.Key_9, Qt.ControlModifier);
         test.tabTo("exclusions");
         const list = test.item("exclusions");
@@ -125,6 +126,9 @@ Journey {
         test.tabTo("testedPath");
         test.type("~/.cache/pip");
         tryVerify(() => test.item("testAnswer").text.includes("Safe: "), 5000, test.item("testAnswer").text);
+        if (test.isShown("undoNotice"))
+            keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("undoNotice"));
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("testAnswer"));
     }
