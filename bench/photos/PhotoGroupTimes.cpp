@@ -37,7 +37,7 @@ public:
             const FeaturePrint::Tile tile = isSet ? drawnTile() : FeaturePrint::Tile{};
             if (isSet)
                 m_last = FeaturePrint(vector, tile);
-            const FeaturePrint::Direction direction = FeaturePrint(vector, {}).direction();
+            const FeaturePrint::Direction direction = FeaturePrint::directionOf(vector);
             photos.emplace_back().print = FeaturePrint(direction, m_last->packedTile());
             for (int shot = 0; isSet && shot < 2; ++shot)
                 add(near(vector, 0.15F), noisy(tile));

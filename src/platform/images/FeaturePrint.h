@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace orlen {
@@ -26,14 +27,20 @@ public:
     using Direction = std::array<std::int8_t, kLength>;
     using Tile = TileCode::Tile;
 
-    /// The vector's length does not matter. In the tile 128 means no structure.
-    FeaturePrint(const Vector& vector, const Tile& tile);
+    /// In the tile 128 means no structure.
+    FeaturePrint(const Vector& vector, const Tile& tile)
+        : FeaturePrint(directionOf(vector), TileCode::packed(tile))
+    {
+    }
     FeaturePrint(const Direction& direction, std::vector<std::uint8_t> packedTile)
         : m_direction(direction), m_packedTile(std::move(packedTile))
     {
     }
 
-    /// Of the vector; the largest number is 127. All zeros, which is no direction, if the vector had none.
+    /// All zeros, which is no direction, of a vector that has none. Its length does not matter.
+    [[nodiscard]] static Direction directionOf(const Vector& vector);
+
+    /// Of the vector; the largest number is 127.
     [[nodiscard]] const Direction& direction() const { return m_direction; }
     [[nodiscard]] const std::vector<std::uint8_t>& packedTile() const { return m_packedTile; }
     /// Unpacks it, which takes some time.

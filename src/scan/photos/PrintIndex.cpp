@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <optional>
 
 namespace orlen {
@@ -69,12 +70,17 @@ void PrintIndex::add(const Direction& direction)
 
 std::array<std::int16_t, PrintIndex::kLanes> PrintIndex::products(const Bundle& bundle, const Sketch& sketch)
 {
-    std::array<std::int16_t, kLanes> sums{};
+    // Left to itself, the compiler takes four at a time.
+    using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
+    Lanes sums{};
     for (std::size_t i = 0; i < kNumbers; ++i) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
-            sums[lane] = static_cast<std::int16_t>(sums[lane] + bundle[i][lane] * sketch[i]);
+        Lanes numbers{};
+        std::memcpy(&numbers, bundle[i].data(), sizeof numbers);
+        sums += numbers * sketch[i];
     }
-    return sums;
+    std::array<std::int16_t, kLanes> result{};
+    std::memcpy(result.data(), &sums, sizeof sums);
+    return result;
 }
 
 std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,

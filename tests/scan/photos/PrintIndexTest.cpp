@@ -33,7 +33,7 @@ std::vector<Direction> directions(std::size_t count, std::size_t centres)
         const float share = static_cast<float>(i % 100) / 50;
         for (std::size_t n = 0; n < vector.size(); ++n)
             vector[n] += share * middles[i % centres][n];
-        all[i] = FeaturePrint(vector, FeaturePrint::Tile{}).direction();
+        all[i] = FeaturePrint::directionOf(vector);
     }
     return all;
 }
