@@ -87,6 +87,7 @@ ListView {
             width: parent.width
             height: contentHeight
             interactive: false
+            keyNavigationEnabled: true
             focus: true
             tiles: tiles
             tileSize: 150

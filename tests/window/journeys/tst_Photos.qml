@@ -44,6 +44,10 @@ Journey {
     }
 
     function test_4_aSetIsComparedByKeys() {
+        keyClick(Qt.Key_Left);
+        compare(test.item("photoSet").currentIndex, 0);
+        keyClick(Qt.Key_Right);
+        compare(test.item("photoSet").currentIndex, 1);
         keyClick(Qt.Key_Return);
         verify(test.item("comparePhoto1").kept);
         const other = test.item("comparePhoto2");
