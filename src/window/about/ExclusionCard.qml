@@ -24,7 +24,8 @@ ColumnCard {
     SmallText {
         objectName: "exclusionsLead"
         width: parent.width
-        text: exclusions.total === 0 ? exclusions.emptyText + " " + Strings.howToExclude : Strings.howToExclude
+        text: exclusions.total > 0 ? Strings.howToExclude
+                                   : exclusions.emptyText + Strings.betweenSentences + Strings.howToExclude
         wrapMode: Text.WordWrap
         elide: Text.ElideNone
     }

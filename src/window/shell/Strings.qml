@@ -14,6 +14,7 @@ QtObject {
     }
     readonly property string usedSpace: Words.message("Used space")
     readonly property string screens: Words.message("Screens")
+    readonly property string betweenSentences: Words.messageIn("between two sentences", " ")
     readonly property string clear: Words.messageIn("a field", "Clear")
     readonly property string close: Words.message("Close")
     readonly property string cancel: Words.message("Cancel")

@@ -45,21 +45,21 @@ Journey {
         compare(stage.nameless(test.window).join("\n"), "");
         test.choose(RowMenuModel.ExcludePath);
         compare(test.names("findingEntries"), "spotify");
-        verify(test.item("selectedText").text.startsWith("0 of 1 selected"), test.item("selectedText").text);
-        verify(test.item("notice").text.startsWith("~/.cache/mesa_shader_cache is excluded"), test.item("notice").text);
+        verify(test.item("selectedText").text.startsWith(test.selectedOf(0, 1)), test.item("selectedText").text);
+        verify(test.item("notice").text.includes("~/.cache/mesa_shader_cache"), test.item("notice").text);
         verify(test.isFocused("findingEntries"), "the keyboard is in the list again");
         keyClick(Qt.Key_Z, Qt.ControlModifier);
         tryCompare(test.item("findingEntries"), "count", 2);
         compare(test.names("findingEntries"), "spotify mesa_shader_cache");
-        verify(test.item("selectedText").text.startsWith("1 of 2 selected"), "as selected as it was");
-        tryVerify(() => test.item("notice").text.includes("no longer excluded"));
+        verify(test.item("selectedText").text.startsWith(test.selectedOf(1, 2)), "as selected as it was");
+        tryCompare(test.item("notice"), "text", test.said("{what} is no longer excluded.", { what: "~/.cache/mesa_shader_cache" }));
     }
 
     function test_2_theOtherActions() {
         const row = test.row("findingEntries", 1);
         mouseClick(row, 60, row.height / 2, Qt.RightButton);
         test.choose(RowMenuModel.TickFolder);
-        verify(test.item("selectedText").text.startsWith("2 of 2 selected"), test.item("selectedText").text);
+        verify(test.item("selectedText").text.startsWith(test.selectedOf(2, 2)), test.item("selectedText").text);
         keyClick(Qt.Key_F10, Qt.ShiftModifier);
         test.choose(RowMenuModel.Preview);
         compare(test.item("previewArea").preview.name, "mesa_shader_cache");
@@ -75,7 +75,7 @@ Journey {
     function test_3_theReviewFollows() {
         test.clickOn("primaryAction");
         const plan = test.item("planEntries");
-        compare(test.names("planEntries"), "App caches spotify mesa_shader_cache pip cache pip");
+        compare(test.names("planEntries"), [test.said("App caches"), "spotify mesa_shader_cache", test.said("pip cache"), "pip"].join(" "));
         const lead = test.item("reviewLead").text;
         keyClick(Qt.Key_Tab, Qt.ShiftModifier);
         test.tabTo("planEntries");
@@ -85,7 +85,7 @@ Journey {
         test.choose(RowMenuModel.ExcludeName);
         tryCompare(plan, "count", 4);
         verify(test.item("reviewLead").text !== lead);
-        tryVerify(() => test.item("notice").text.startsWith('"spotify" is excluded'), 5000, test.item("notice").text);
+        tryVerify(() => test.item("notice").text.includes("spotify"), 5000, test.item("notice").text);
         test.clickOn("undoNotice");
         tryCompare(plan, "count", 5);
         compare(test.item("reviewLead").text, lead);
@@ -96,7 +96,7 @@ Journey {
     function test_4_whatIsExcludedIsListedAndRemoved() {
         test.clickOn("finding-caches");
         tryVerify(() => test.isFocused("findingEntries"));
-        keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Home);
         keyClick(Qt.Key_Menu);
         test.choose(RowMenuModel.ExcludeName);
         compare(test.names("findingEntries"), "mesa_shader_cache");
@@ -125,7 +125,7 @@ Journey {
         keyClick(Qt.Key_9, Qt.ControlModifier);
         test.tabTo("testedPath");
         test.type("~/.cache/pip");
-        tryVerify(() => test.item("testAnswer").text.includes("Safe: "), 5000, test.item("testAnswer").text);
+        tryVerify(() => test.item("testAnswer").text.includes(test.said("pip cache")), 5000, test.item("testAnswer").text);
         if (test.isShown("undoNotice"))
             keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("undoNotice"));
