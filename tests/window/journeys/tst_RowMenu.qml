@@ -99,7 +99,7 @@ Journey {
         keyClick(Qt.Key_Home);
         keyClick(Qt.Key_Menu);
         test.choose(RowMenuModel.ExcludeName);
-        compare(test.names("findingEntries"), "mesa_shader_cache");
+        tryVerify(() => test.names("findingEntries") === "mesa_shader_cache");
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("findingEntries"));
         tryVerify(() => test.isShown("undoNotice"));
