@@ -9,8 +9,6 @@
 namespace orlen {
 namespace {
 
-using testing::ElementsAre;
-
 using Ticked = std::set<std::string>;
 
 FileEntry sized(const std::string& path, std::int64_t size = 1)

@@ -131,6 +131,7 @@ void Clusters::compare(std::vector<Newcomer>& newcomers) const
         }
     }
     std::vector<std::pair<const std::size_t, FeaturePrint::Tile>*> all;
+    all.reserve(tiles.size());
     for (auto& tile : tiles)
         all.push_back(&tile);
     onAllCores(all.size(), [&](std::size_t i) { all[i]->second = print(all[i]->first).tile(); });

@@ -110,11 +110,11 @@ void CompareModel::look(Photo& photo)
             }
             return told;
         },
-        [this, path = photo.path, stop = m_stop.get_token()](Told told) {
+        [this, path = photo.path, stop = m_stop.get_token()](const Told& told) {
             Photo* known = stop.stop_requested() ? nullptr : photoOf(path);
             if (known == nullptr)
                 return;
-            known->told = std::move(told);
+            known->told = told;
             // What is the same for all may be so no longer.
             allChanged(Role::pixels, Role::facts, Role::differing);
         });

@@ -44,7 +44,9 @@ bool says(const Message& message, const Text& note)
 Text of(const KeptSet& set, const std::vector<FileEntry>& entries)
 {
     for (const auto& [note, reason] : kRows) {
-        const auto isSaid = [&](std::size_t number) { return says(noteOf(entries[number]), note); };
+        const auto isSaid = [&entries, said = note](std::size_t number) {
+            return says(noteOf(entries[number]), said);
+        };
         if (std::ranges::any_of(set.entries, isSaid))
             return reason;
     }

@@ -158,8 +158,8 @@ void PhotoGroupsModel::select(const QString& findingId, std::vector<std::string>
         if (!selection.contains(set.kept) || !std::ranges::all_of(set.entries, goes))
             continue;
         // The kept photo goes by itself, so one of the others has to stay.
-        for (const std::size_t number : set.entries | std::views::reverse) {
-            if (std::erase(paths, entries[number].path) > 0)
+        for (auto number = set.entries.rbegin(); number != set.entries.rend(); ++number) {
+            if (std::erase(paths, entries[*number].path) > 0)
                 break;
         }
     }

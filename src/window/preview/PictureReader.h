@@ -41,6 +41,7 @@ struct Traits {
     QSize whole;          ///< upright
     double sharpness = 0; ///< see Sharpness
     bool isFromCamera = false;
+    friend bool operator==(const Traits&, const Traits&) = default;
 };
 [[nodiscard]] std::optional<Traits> traits(const std::string& path, const std::stop_token& stop);
 
