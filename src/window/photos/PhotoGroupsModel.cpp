@@ -8,7 +8,6 @@
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
-#include <ranges>
 #include <set>
 #include <utility>
 
