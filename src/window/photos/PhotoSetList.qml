@@ -59,7 +59,7 @@ ListView {
                 anchors.right: compare.left
                 anchors.rightMargin: Theme.spaceM
                 anchors.verticalCenter: parent.verticalCenter
-                text: Strings.facts([row.heading, row.reason])
+                text: Words.facts([row.heading, row.reason])
                 wrapMode: Text.WordWrap
                 color: Theme.text
                 font.weight: Font.DemiBold
