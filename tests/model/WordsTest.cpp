@@ -71,6 +71,8 @@ TEST_F(WordsTest, speaksTheFirstLanguageThereIsElseEnglish)
     EXPECT_EQ(shown(""), "");
     EXPECT_EQ(shown(Text()), "") << "not the header of the catalogue";
 
+    speak({"../locale/pl"});
+    EXPECT_EQ(Words::language(), "en") << "no language leads out of the folder";
     speak({"nl_NL"});
     EXPECT_EQ(Words::language(), "en");
     EXPECT_EQ(items(2), "2 items in {count}");

@@ -51,6 +51,9 @@ std::optional<std::locale> messagesIn(const std::string& folder, const std::stri
 
 std::optional<Catalogue> Catalogue::load(const std::string& folder, const std::string& language)
 {
+    // The language comes from the environment, and must not lead out of the folder.
+    if (language.find('/') != std::string::npos)
+        return std::nullopt;
     // The library would take another region's catalogue, and says nothing about a missing one.
     std::error_code error;
     if (!std::filesystem::is_regular_file(folder + '/' + language + "/LC_MESSAGES/" + kDomain + ".mo", error))
