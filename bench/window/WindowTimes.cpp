@@ -140,6 +140,7 @@ int once(int argc, char** argv)
         QQuickWindow* window = Window::load(engine, model);
         if (window == nullptr)
             return 1;
+        window->resize(1100, 720);
         bool isDrawn = false;
         QObject::connect(window, &QQuickWindow::frameSwapped, window, [&] { isDrawn = true; });
         wait(10'000, [&] { return isDrawn; });

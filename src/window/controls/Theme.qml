@@ -23,14 +23,15 @@ QtObject {
     readonly property color stroke: root.appearance.highContrast ? root.tertiary
                                                                  : (root.dark ? "#2c323b" : "#e2e5ea")
     readonly property color text: root.dark ? "#f2f4f7" : "#14171c"
-    readonly property color secondary: root.dark ? "#aeb6c2" : "#525b69"
-    readonly property color tertiary: root.dark ? "#8a93a1" : "#626b78"
-    readonly property color accent: root.dark ? "#7ea6ff" : "#2c62e6"
-    readonly property color accentFill: root.dark ? "#386ce6" : "#2c62e6"
-    readonly property color accentFillHover: root.dark ? "#4578ee" : "#2456d2"
-    readonly property color accentFillPressed: root.dark ? "#3060d2" : "#1f4cbd"
+    readonly property color secondary: root.appearance.highContrast ? root.text : (root.dark ? "#aeb6c2" : "#525b69")
+    readonly property color tertiary: root.appearance.highContrast ? (root.dark ? "#d4d9e0" : "#333a45")
+                                                                   : (root.dark ? "#8a93a1" : "#626b78")
+    readonly property color accent: root.accentOr(root.appearance.accentText, "#7ea6ff", "#2c62e6")
+    readonly property color accentFill: root.accentOr(root.appearance.accentFill, "#386ce6", "#2c62e6")
+    readonly property color accentFillHover: root.accentOr(root.appearance.accentHover, "#4578ee", "#2456d2")
+    readonly property color accentFillPressed: root.accentOr(root.appearance.accentPressed, "#3060d2", "#1f4cbd")
     readonly property color overAccent: "#ffffff"
-    readonly property color accentSoft: root.dark ? "#243252" : "#e9f0fe"
+    readonly property color accentSoft: root.accentOr(root.appearance.accentSoft, "#243252", "#e9f0fe")
     readonly property color scrim: root.dark ? "#a6000000" : "#59101828"
     readonly property color track: root.dark ? "#2b313a" : "#e2e5ea"
 
@@ -109,6 +110,11 @@ QtObject {
     readonly property int screenDuration: root.moves ? 160 : 0
     readonly property int sheetInDuration: root.moves ? 140 : 0
     readonly property int sheetOutDuration: root.moves ? 120 : 0
+
+    /// The desktop's accent, or our own.
+    function accentOr(desktop: color, inDark: color, inLight: color): color {
+        return root.appearance.hasAccent ? desktop : root.dark ? inDark : inLight;
+    }
 
     /// A length that scales with the text.
     function grown(pixels: real): int {

@@ -1,5 +1,6 @@
 #include "window/shell/Appearance.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -22,7 +23,12 @@ const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kDesktopInterface = QStringLiteral("org.gnome.desktop.interface");
 const QString kColourScheme = QStringLiteral("color-scheme");
 const QString kContrast = QStringLiteral("contrast");
+const QString kAccent = QStringLiteral("accent-color");
+const QString kReducedMotion = QStringLiteral("reduced-motion");
 const QString kAnimations = QStringLiteral("enable-animations");
+
+const QString kKdeInterface = QStringLiteral("org.kde.kdeglobals.KDE");
+const QString kKdeAnimations = QStringLiteral("AnimationDurationFactor");
 
 constexpr double kUsualPoints = 10;
 constexpr double kLargestScale = 2;
@@ -30,6 +36,34 @@ constexpr double kLargestScale = 2;
 Appearance::Scheme fixedScheme = Appearance::Scheme::system;
 bool isMotionFixedOff = false;
 double fixedTextScale = 0;
+
+/// The portal's colour: red, green and blue from 0 to 1. A channel out of range means that there is none.
+QColor colourOf(const QVariant& value)
+{
+    if (!value.canConvert<QDBusArgument>())
+        return {};
+    const auto channels = value.value<QDBusArgument>();
+    if (channels.currentSignature() != QLatin1String("(ddd)"))
+        return {};
+    double red = -1;
+    double green = -1;
+    double blue = -1;
+    channels.beginStructure();
+    channels >> red >> green >> blue;
+    channels.endStructure();
+    const auto isChannel = [](double channel) { return channel >= 0 && channel <= 1; };
+    if (!isChannel(red) || !isChannel(green) || !isChannel(blue))
+        return {};
+    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
+}
+
+/// Whether a setting, which may be a text, is the number zero.
+bool isZero(const QVariant& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber && number == 0;
+}
 
 } // namespace
 
@@ -44,7 +78,10 @@ Appearance::Appearance(QObject* parent) : QObject(parent)
                 SLOT(applySetting(QString, QString, QDBusVariant)));
     ask(kAppearance, kColourScheme);
     ask(kAppearance, kContrast);
+    ask(kAppearance, kAccent);
+    ask(kAppearance, kReducedMotion);
     ask(kDesktopInterface, kAnimations);
+    ask(kKdeInterface, kKdeAnimations);
 }
 
 void Appearance::ask(const QString& group, const QString& key)
@@ -70,10 +107,19 @@ void Appearance::applySetting(const QString& group, const QString& key, const QD
         m_colourScheme = plain.toInt();
     else if (group == kAppearance && key == kContrast)
         m_isHighContrast = plain.toInt() == 1;
+    else if (group == kAppearance && key == kAccent)
+        m_accent = colourOf(plain);
+    else if (group == kAppearance && key == kReducedMotion)
+        m_isMotionReduced = plain.toInt() == 1;
     else if (group == kDesktopInterface && key == kAnimations)
-        m_areAnimationsOff = !plain.toBool();
+        m_areGnomeAnimationsOff = !plain.toBool();
+    else if (group == kKdeInterface && key == kKdeAnimations)
+        m_areKdeAnimationsOff = isZero(plain);
     else
         return;
+    // Shades are those of the light or the dark.
+    if (m_accent.isValid())
+        m_shades = accentShades(m_accent, isDark());
     Q_EMIT changed();
 }
 
@@ -89,7 +135,7 @@ bool Appearance::isDark() const
 
 bool Appearance::isReducedMotion() const
 {
-    return isMotionFixedOff || m_areAnimationsOff;
+    return isMotionFixedOff || m_isMotionReduced || m_areGnomeAnimationsOff || m_areKdeAnimationsOff;
 }
 
 QString Appearance::fontFamily()

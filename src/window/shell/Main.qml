@@ -10,15 +10,22 @@ T.ApplicationWindow {
     readonly property alias navigation: theNavigation
     readonly property alias storage: theStorage
 
-    width: 1100
-    height: 720
-    minimumWidth: 800
-    minimumHeight: 600
+    width: place.size.width
+    height: place.size.height
+    minimumWidth: place.minimum.width
+    minimumHeight: place.minimum.height
     visible: true
+    visibility: place.maximized ? Window.Maximized : Window.AutomaticVisibility
     title: Strings.appName
     color: Theme.window
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
+
+    WindowPlace {
+        id: place
+
+        window: root
+    }
 
     Navigation {
         id: theNavigation

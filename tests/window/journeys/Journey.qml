@@ -54,7 +54,7 @@ TestCase {
 
     function open() {
         failOnWarning(/.?/);
-        test.window = main.createObject(null);
+        test.window = main.createObject(null, { width: 1100, height: 720 });
         test.parent = test.window.contentItem;
         test.window.requestActivate();
         tryVerify(() => test.window.active);

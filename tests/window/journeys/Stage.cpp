@@ -1,5 +1,6 @@
 #include "journeys/Stage.h"
 
+#include "journeys/FocusShown.h"
 #include "journeys/ShownTexts.h"
 #include "support/TestBmp.h"
 #include "window/AppsOnDisk.h"
@@ -256,6 +257,11 @@ QStringList Stage::nameless(QObject* window) const
         return false;
     });
     return found;
+}
+
+QString Stage::focusFault(QObject* window) const
+{
+    return FocusShown::fault(*qobject_cast<QQuickWindow*>(window));
 }
 
 /// What comes from the disk and from other programs, not from the catalogue.

@@ -49,6 +49,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QQuickItem* find(QObject* where, const QString& name) const;
     /// What can be seen in the window and used, but has no name for a screen reader; a line for each.
     Q_INVOKABLE [[nodiscard]] QStringList nameless(QObject* window) const;
+    /// What is wrong with the item that has the keyboard; empty if nothing.
+    Q_INVOKABLE [[nodiscard]] QString focusFault(QObject* window) const;
 
     /// What can be seen in the window and was not looked up, or is cut off, in the language of the test
     /// catalogue; a line for each.
