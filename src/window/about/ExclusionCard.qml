@@ -52,7 +52,7 @@ ColumnCard {
         // The half row hints that there is more.
         height: Math.round(Math.min(exclusions.count, 6.5) * root.rowHeight)
         // Even when the last row was removed, so that the keyboard goes on from here.
-        activeFocusOnTab: true
+        activeFocusOnTab: list.count > 0 || list.activeFocus
         model: exclusions
         Accessible.name: Strings.neverOffered
         Keys.onDeletePressed: exclusions.remove(list.currentIndex)

@@ -164,11 +164,6 @@ Item {
             model: ordered
             Accessible.name: Screens.title(Screens.Apps)
 
-            // The sheet hands the focus back, which should not be shown after a click.
-            onActiveFocusChanged: {
-                if (!list.activeFocus && !chosen.open)
-                    list.pointed = false;
-            }
             Keys.onReturnPressed: list.openRow(list.currentIndex)
             Keys.onEnterPressed: list.openRow(list.currentIndex)
             Keys.onSpacePressed: list.openRow(list.currentIndex)
@@ -179,14 +174,13 @@ Item {
                 required property int index
 
                 x: Theme.mirrored ? 7 : 0
-            width: ListView.view.width - 7
+                width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
                 onActivated: {
                     // Taps on a sheet reach the rows below it.
                     if (root.isCovered)
                         return;
                     list.forceActiveFocus(Qt.MouseFocusReason);
-                    list.pointed = true;
                     list.openRow(row.index);
                 }
             }

@@ -74,7 +74,6 @@ FocusScope {
         id: list
 
         focus: true
-        pointed: true
         objectName: "leftoverList"
         anchors.left: parent.left
         anchors.right: parent.right
@@ -90,10 +89,7 @@ FocusScope {
         model: root.leftovers
         Accessible.name: heading.text
 
-        onActiveFocusChanged: {
-            if (!list.activeFocus)
-                list.pointed = false;
-        }
+        onCountChanged: list.land()
         onMenuRequested: menu.openBelow(root.leftovers, list.currentIndex, list.currentItem)
         Keys.onSpacePressed: root.leftovers.toggle(list.currentIndex)
         Keys.onReturnPressed: root.leftovers.review()
@@ -110,13 +106,11 @@ FocusScope {
             isCurrent: ListView.isCurrentItem && list.activeFocus
             onRevealRequested: root.leftovers.reveal(row.index)
             onMenuRequested: (x, y) => {
-                list.pointed = true;
                 list.currentIndex = row.index;
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 menu.openAt(root.leftovers, row.index, row, x, y);
             }
             onToggled: {
-                list.pointed = true;
                 list.currentIndex = row.index;
                 root.leftovers.toggle(row.index);
             }

@@ -35,7 +35,7 @@ T.CheckBox {
         }
 
         FocusRing {
-            shown: root.visualFocus
+            shown: InputMode.keyed && root.activeFocus
             gap: 2
             shape: Theme.chipRadius
         }

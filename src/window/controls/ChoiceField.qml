@@ -42,7 +42,7 @@ T.ComboBox {
         border.color: Theme.stroke
 
         FocusRing {
-            shown: root.visualFocus
+            shown: InputMode.keyed && root.activeFocus
             gap: 2
         }
     }

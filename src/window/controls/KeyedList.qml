@@ -5,11 +5,11 @@ import Orlen.App
 ScrollList {
     id: root
 
-    /// Whether the list was last used with the pointer rather than the keyboard.
-    property bool pointed: false
+    /// Whether the pointer is giving the list the focus right now.
+    property bool byPointer: false
     /// The visible height, for paging.
     property real pageHeight: root.height
-    readonly property bool showsFocus: root.activeFocus && !root.pointed
+    readonly property bool showsFocus: InputMode.keyed && root.activeFocus
     /// The keyboard asks for the menu of the current row.
     signal menuRequested
 
@@ -17,8 +17,9 @@ ScrollList {
     highlightMoveDuration: 0
     activeFocusOnTab: root.count > 0
 
+    onActiveFocusChanged: root.land()
+
     Keys.onPressed: event => {
-        root.pointed = false;
         event.accepted = true;
         if (event.key === Qt.Key_PageDown)
             root.moveTo(root.currentIndex + root.pageRows());
@@ -33,6 +34,12 @@ ScrollList {
             root.menuRequested();
         else
             event.accepted = false;
+    }
+
+    /// Begins with the first row if the keyboard comes here and there is no current one.
+    function land() {
+        if (root.showsFocus && !root.byPointer && root.currentIndex < 0 && root.count > 0)
+            root.currentIndex = 0;
     }
 
     function pageRows(): int {

@@ -31,7 +31,7 @@ T.AbstractButton {
         Ease on border.color {}
 
         FocusRing {
-            shown: root.visualFocus
+            shown: InputMode.keyed && root.activeFocus
             gap: root.ringGap
             shape: root.corner
         }

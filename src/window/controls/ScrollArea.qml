@@ -26,6 +26,12 @@ Flickable {
     Keys.onUpPressed: root.handle.decrease()
     Keys.onDownPressed: root.handle.increase()
 
+    FocusRing {
+        parent: root
+        shown: InputMode.keyed && root.activeFocus
+        gap: -2
+    }
+
     NumberAnimation {
         id: scrolling
 

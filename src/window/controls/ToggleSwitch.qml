@@ -38,7 +38,7 @@ T.Switch {
         }
 
         FocusRing {
-            shown: root.visualFocus
+            shown: InputMode.keyed && root.activeFocus
             shape: 12
         }
     }

@@ -12,8 +12,7 @@ T.Control {
     readonly property int mapWidth: Math.max(0, root.width) + 14
     readonly property int mapHeight: Math.max(0, root.height) + 14
     /// Whether the map is used with the keyboard.
-    readonly property bool showsRing: root.activeFocus && (root.visualFocus || root.isKeyed)
-    property bool isKeyed: false
+    readonly property bool showsRing: InputMode.keyed && root.activeFocus
 
     objectName: "diskMapSurface"
     clip: true
@@ -26,7 +25,6 @@ T.Control {
     Accessible.name: Strings.contentsOf(root.map.folderName)
 
     Keys.onPressed: event => {
-        root.isKeyed = true;
         event.accepted = true;
         switch (event.key) {
         case Qt.Key_Left:
@@ -73,13 +71,17 @@ T.Control {
         }
     }
 
+    FocusRing {
+        shown: root.showsRing && root.map.currentRow < 0
+        gap: -2
+    }
+
     // The left button acts on press, unlike in lists and buttons.
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.BackButton
         onPressed: mouse => {
-            root.isKeyed = false;
             root.forceActiveFocus(Qt.MouseFocusReason);
             if (mouse.button === Qt.LeftButton)
                 root.map.click(Qt.point(mouse.x, mouse.y));

@@ -7,8 +7,6 @@ KeyedList {
     id: root
 
     property int rowHeight: 54
-    /// Whether the pointer is giving the list the focus right now.
-    property bool byPointer: false
     signal previewRequested(row: int)
     signal toggleRequested(row: int)
     /// Ctrl+A; with Shift, `noneRequested`.
@@ -24,14 +22,6 @@ KeyedList {
     highlightFollowsCurrentItem: false
     currentIndex: -1
     pixelAligned: true
-
-    onActiveFocusChanged: {
-        if (!root.activeFocus || root.byPointer)
-            return;
-        root.pointed = false;
-        if (root.currentIndex < 0 && root.count > 0)
-            root.currentIndex = 0;
-    }
 
     Keys.onPressed: event => {
         if (event.accepted)
@@ -59,6 +49,5 @@ KeyedList {
         root.currentIndex = row;
         root.forceActiveFocus(Qt.MouseFocusReason);
         root.byPointer = false;
-        root.pointed = true;
     }
 }

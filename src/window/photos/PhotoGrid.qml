@@ -16,8 +16,6 @@ GridView {
 
     readonly property real wantedWidth: root.tileSize * Math.min(1.25, Theme.textScale)
     readonly property int columns: Math.max(3, Math.floor(root.width / root.wantedWidth))
-    /// Whether the keyboard was used last: only then is there a focus ring.
-    property bool isKeyed: false
 
     signal allRequested
     signal previewRequested(row: int)
@@ -31,7 +29,6 @@ GridView {
     Accessible.role: Accessible.List
 
     Keys.onPressed: event => {
-        root.isKeyed = true;
         event.accepted = true;
         if (event.key === Qt.Key_Space && event.modifiers & Qt.ControlModifier)
             root.tiles.toggle(root.currentIndex);
@@ -53,7 +50,6 @@ GridView {
         else
             event.accepted = false;
     }
-    Keys.onReleased: root.isKeyed = true
 
     RowMenu {
         id: menu
@@ -69,9 +65,8 @@ GridView {
         width: root.cellWidth
         height: root.cellHeight
         ground: root.ground
-        ringed: root.isKeyed && tile.Window.activeFocusItem === tile
+        ringed: InputMode.keyed && tile.Window.activeFocusItem === tile
         onPressed: {
-            root.isKeyed = false;
             root.currentIndex = tile.index;
             root.forceActiveFocus();
         }

@@ -1,8 +1,9 @@
 import QtQuick
 import Orlen.App
 
-/// A row of a plan: the heading of a section, or one of its entries.
-Item {
+/// A row of a plan: the heading of a section, or one of its entries. The focus is with what it shows, which has a
+/// name for screen readers.
+FocusScope {
     id: root
 
     required property int index
@@ -31,7 +32,9 @@ Item {
     Loader {
         anchors.fill: parent
         active: root.heading
+        focus: root.heading
         sourceComponent: PlanHeading {
+            focus: true
             title: root.name
             count: root.folder
             size: root.size
@@ -54,7 +57,9 @@ Item {
 
         anchors.fill: parent
         active: !root.heading
+        focus: !root.heading
         sourceComponent: EntryRow {
+            focus: true
             name: root.name
             folder: root.folder
             size: root.size

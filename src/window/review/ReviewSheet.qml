@@ -32,8 +32,7 @@ Sheet {
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: {
         list.positionViewAtBeginning();
-        list.currentIndex = -1;
-        footer.forceActiveFocus(Qt.PopupFocusReason);
+        list.takeFocus(-1);
     }
     onAboutToHide: if (root.isWanted) root.navigation.closeSheet()
 

@@ -42,10 +42,6 @@ Card {
         Accessible.name: Strings.startupItems
         onCurrentItemChanged: if (list.showsFocus && list.currentItem !== null) root.reached(list.currentItem)
 
-        onActiveFocusChanged: {
-            if (!list.activeFocus)
-                list.pointed = false;
-        }
         Keys.onSpacePressed: root.items.toggle(list.currentIndex)
         Keys.onReturnPressed: root.items.toggle(list.currentIndex)
         Keys.onEnterPressed: root.items.toggle(list.currentIndex)
@@ -60,7 +56,6 @@ Card {
             ringed: ListView.isCurrentItem && list.showsFocus
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
-                list.pointed = true;
                 list.currentIndex = row.index;
                 root.items.toggle(row.index);
             }

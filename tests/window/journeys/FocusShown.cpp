@@ -39,6 +39,9 @@ const QQuickItem* ringed(const QQuickItem& item)
             continue;
         if (QString::fromUtf8(child->metaObject()->className()).startsWith(u"FocusRing"))
             return &item;
+        // A tile of the disk map has an edge.
+        if (child->property("isCurrent").toBool())
+            return child;
         if (const QQuickItem* found = ringed(*child))
             return found;
     }

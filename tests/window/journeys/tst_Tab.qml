@@ -1,0 +1,105 @@
+import QtQuick
+import QtTest
+import Orlen.App
+
+/// Tab leads through every screen and sheet and back again: what has the keyboard is seen, marked and named, and
+/// a sheet that closes gives it back.
+Journey {
+    id: test
+
+    name: "Tab"
+
+    function focused(): Item {
+        return test.window.activeFocusItem;
+    }
+
+    /// Presses Tab until it begins anew, then back.
+    function goAround(where: string) {
+        keyClick(Qt.Key_Tab);
+        const way = [test.focused()];
+        for (let presses = 0; presses < 80; ++presses) {
+            compare(stage.focusFault(test.window), "", where);
+            keyClick(Qt.Key_Tab);
+            if (test.focused() === way[0])
+                break;
+            way.push(test.focused());
+        }
+        verify(test.focused() === way[0], where + " has an end");
+        for (let step = way.length - 1; step >= 0; --step) {
+            keyClick(Qt.Key_Backtab, Qt.ShiftModifier);
+            verify(test.focused() === way[step], where + ": back to " + way[step] + ", not " + test.focused());
+            compare(stage.focusFault(test.window), "", where + ", back");
+        }
+    }
+
+    function everyScreen() {
+        for (let screen = Screens.Home; screen <= Screens.Safety; ++screen) {
+            keyClick(Qt.Key_1 + screen, Qt.ControlModifier);
+            waitForRendering(test.window.contentItem, 300);
+            test.goAround(Screens.title(screen));
+        }
+    }
+
+    /// A sheet that a key opened: around in it, and out again.
+    function goAroundSheet(list: string, where: string) {
+        const before = test.focused();
+        keyClick(Qt.Key_Return);
+        test.row(list, 0);
+        tryVerify(() => test.isFocused(list), 2000, where + " begins with its list");
+        test.goAround(where);
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => test.focused() === before, 2000, where + " gives the keyboard back to " + before);
+        compare(stage.focusFault(test.window), "", "after " + where);
+    }
+
+    function test_1_beforeAScan() {
+        test.item("continue");
+        test.goAround("onboarding");
+        test.window.navigation.finishOnboarding();
+        test.item("startScan");
+        test.window.width = test.window.minimumWidth;
+        test.window.height = test.window.minimumHeight;
+        test.everyScreen();
+    }
+
+    function test_2_afterAScan() {
+        keyClick(Qt.Key_R, Qt.ControlModifier);
+        test.item("heroSentence");
+        test.everyScreen();
+    }
+
+    function test_3_aFinding() {
+        keyClick(Qt.Key_1, Qt.ControlModifier);
+        test.tabTo("findings");
+        keyClick(Qt.Key_Home);
+        for (let steps = 0; steps < 10 && !test.isFocused("finding-caches"); ++steps)
+            keyClick(Qt.Key_Right);
+        test.goAroundSheet("findingEntries", "a finding");
+    }
+
+    function test_4_theReview() {
+        test.tabTo("reviewAndClean");
+        test.goAroundSheet("planEntries", "the review");
+    }
+
+    function test_5_theShortcuts() {
+        test.tabTo("reviewAndClean");
+        const before = test.focused();
+        keyClick(Qt.Key_F1);
+        tryVerify(() => test.isFocused("shortcutKeys"));
+        test.goAround("the shortcuts");
+        keyClick(Qt.Key_F1);
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => test.focused() === before);
+    }
+
+    function test_6_anApplication() {
+        keyClick(Qt.Key_6, Qt.ControlModifier);
+        test.row("appList", 0);
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        test.type("sketch");
+        tryVerify(() => test.row("appList", 0).name === "Sketcher");
+        test.tabTo("appList");
+        test.goAroundSheet("leftoverList", "an application");
+    }
+}
