@@ -51,8 +51,6 @@ ColumnCard {
         width: parent.width
         // The half row hints that there is more.
         height: Math.round(Math.min(exclusions.count, 6.5) * root.rowHeight)
-        // Even when the last row was removed, so that the keyboard goes on from here.
-        activeFocusOnTab: list.count > 0 || list.activeFocus
         model: exclusions
         Accessible.name: Strings.neverOffered
         Keys.onDeletePressed: exclusions.remove(list.currentIndex)

@@ -160,7 +160,6 @@ Item {
             topMargin: Theme.spaceS
             bottomMargin: Theme.spaceS
             reuseItems: true
-            activeFocusOnTab: true
             model: ordered
             Accessible.name: Screens.title(Screens.Apps)
 

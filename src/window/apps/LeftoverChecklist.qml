@@ -84,8 +84,6 @@ FocusScope {
         topMargin: Theme.spaceS
         bottomMargin: Theme.spaceS
         reuseItems: true
-        // Also when the last row was excluded from here.
-        activeFocusOnTab: true
         model: root.leftovers
         Accessible.name: heading.text
 

@@ -15,7 +15,14 @@ ScrollList {
 
     keyNavigationEnabled: true
     highlightMoveDuration: 0
-    activeFocusOnTab: root.count > 0
+    // A list that has the focus keeps it when its last row goes, so that the keyboard goes on from here.
+    activeFocusOnTab: root.count > 0 || root.activeFocus
+
+    FocusRing {
+        parent: root
+        shown: root.showsFocus && root.count === 0
+        gap: -2
+    }
 
     onActiveFocusChanged: root.land()
 

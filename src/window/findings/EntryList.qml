@@ -16,7 +16,6 @@ KeyedList {
     signal foldRequested(row: int, fold: bool)
 
     reuseItems: true
-    activeFocusOnTab: true
     // The list must not scroll to a pressed row.
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false

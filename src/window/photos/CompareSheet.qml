@@ -44,8 +44,11 @@ Sheet {
     FocusScope {
         id: content
 
+        objectName: "compareContent"
         anchors.fill: parent
         focus: true
+        Accessible.role: Accessible.Grouping
+        Accessible.name: Strings.spoken([model.title, panes.itemAt(root.shownRow)?.name ?? ""])
 
         Keys.onPressed: event => {
             event.accepted = true;
@@ -102,6 +105,10 @@ Sheet {
             anchors.right: parent.right
             anchors.leftMargin: Theme.spaceL
             anchors.rightMargin: Theme.spaceL
+
+            FocusRing {
+                shown: InputMode.keyed && content.Window.activeFocusItem === content
+            }
 
             Repeater {
                 id: panes

@@ -40,12 +40,12 @@ Journey {
         }
     }
 
-    /// A sheet that a key opened: around in it, and out again.
-    function goAroundSheet(list: string, where: string) {
+    /// A sheet that Enter opens: around in it, and out again.
+    function goAroundSheet(begin: string, where: string) {
         const before = test.focused();
         keyClick(Qt.Key_Return);
-        test.row(list, 0);
-        tryVerify(() => test.isFocused(list), 2000, where + " begins with its list");
+        test.item(begin);
+        tryVerify(() => test.isFocused(begin), 2000, where + " begins with " + begin);
         test.goAround(where);
         keyClick(Qt.Key_Escape);
         tryVerify(() => test.focused() === before, 2000, where + " gives the keyboard back to " + before);
@@ -101,5 +101,35 @@ Journey {
         tryVerify(() => test.row("appList", 0).name === "Sketcher");
         test.tabTo("appList");
         test.goAroundSheet("leftoverList", "an application");
+    }
+
+    function test_7_aCategory() {
+        keyClick(Qt.Key_1, Qt.ControlModifier);
+        test.tabTo("storageRing");
+        keyClick(Qt.Key_Right);
+        test.goAroundSheet("categoryContent", "a category");
+    }
+
+    function test_8_aSetOfPhotos() {
+        keyClick(Qt.Key_2, Qt.ControlModifier);
+        test.tabTo("showAll");
+        keyClick(Qt.Key_Return);
+        test.item("photoSets");
+        tryVerify(() => test.isShown("photoSet") && test.item("photoSet").itemAtIndex(1) !== null);
+        test.goAround("sets of photos");
+        test.tabTo("photoSet");
+        keyClick(Qt.Key_Right);
+        test.goAroundSheet("compareContent", "two photos");
+    }
+
+    function test_9_theEndOfACleanUp() {
+        keyClick(Qt.Key_1, Qt.ControlModifier);
+        test.tabTo("reviewAndClean");
+        keyClick(Qt.Key_Return);
+        test.tabTo("primaryAction");
+        keyClick(Qt.Key_Return);
+        test.item("cleaningDone");
+        test.goAround("the end of a clean-up");
+        keyClick(Qt.Key_Escape);
     }
 }
