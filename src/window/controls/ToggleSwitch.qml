@@ -6,17 +6,19 @@ import Orlen.App
 T.Switch {
     id: root
 
-    implicitWidth: 42
-    implicitHeight: 26
+    readonly property int gap: Theme.grown(3)
+
+    implicitWidth: Theme.grown(42)
+    implicitHeight: Theme.grown(26)
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     Accessible.name: root.text
 
     indicator: Rectangle {
         y: (root.height - height) / 2
-        width: 42
-        height: 24
-        radius: 12
+        width: root.implicitWidth
+        height: Theme.grown(24)
+        radius: height / 2
         color: root.checked ? Theme.accentFill : Theme.track
         border.width: root.checked ? 0 : 1
         border.color: Theme.tertiary
@@ -25,11 +27,11 @@ T.Switch {
         Ease on color {}
 
         Rectangle {
-            x: root.checked === root.mirrored ? 3 : parent.width - width - 3
-            y: 3
-            width: 18
-            height: 18
-            radius: 9
+            x: root.checked === root.mirrored ? root.gap : parent.width - width - root.gap
+            y: root.gap
+            width: parent.height - 2 * root.gap
+            height: width
+            radius: height / 2
             color: root.checked ? Theme.overAccent : Theme.knob
             border.width: root.checked ? 0 : 1
             border.color: Theme.tertiary
@@ -39,7 +41,7 @@ T.Switch {
 
         FocusRing {
             shown: InputMode.keyed && root.activeFocus
-            shape: 12
+            shape: parent.radius
         }
     }
 }

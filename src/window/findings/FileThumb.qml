@@ -8,7 +8,7 @@ Item {
     required property string symbol
     /// Image source; may be empty.
     required property string thumbnail
-    property int size: 36
+    property int size: Theme.grown(36)
 
     width: root.size
     height: root.size

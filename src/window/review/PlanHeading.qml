@@ -60,7 +60,7 @@ ListRow {
             anchors.leftMargin: Theme.spaceS
             name: root.symbol
             tone: root.tone
-            size: 28
+            size: Theme.grown(28)
         }
 
         BodyText {
