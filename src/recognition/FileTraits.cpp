@@ -39,6 +39,7 @@ PictureTraits FileTraits::of(const VipsPicture::Image& header)
     constexpr std::pair<std::string_view, PictureFormat> kLoaders[] = {
         {"jpeg", PictureFormat::jpeg}, {"heif", PictureFormat::heif}, {"webp", PictureFormat::webp},
         {"png", PictureFormat::png},   {"tiff", PictureFormat::tiff}, {"gif", PictureFormat::gif},
+        {"jxl", PictureFormat::jxl},
     };
     PictureTraits traits{.isFromCamera = isFromCamera(header)};
     for (const auto& [loader, format] : kLoaders) {

@@ -207,7 +207,7 @@ void prepare()
     vips_operation_block_set("VipsForeignLoad", TRUE);
     for (const char* loader :
          {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif", "VipsForeignLoadTiff",
-          "VipsForeignLoadWebp", "VipsForeignLoadNsgif", "VipsForeignLoadSvg"})
+          "VipsForeignLoadWebp", "VipsForeignLoadNsgif", "VipsForeignLoadJxl", "VipsForeignLoadSvg"})
         vips_operation_block_set(loader, FALSE);
     warmUp();
 }
