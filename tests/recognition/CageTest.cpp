@@ -63,7 +63,7 @@ TEST(CageTest, everyFormatIsReadInside)
     const TempHome home;
     ImageWorkers workers(ImageWorkers::Options{ORLEN_RECOGNIZER});
     for (const char* format : {".jpg", ".png", ".heic", ".avif", ".webp", ".tif", ".tif[compression=deflate]",
-                               ".tif[compression=jpeg]", ".gif", ".bmp"}) {
+                               ".tif[compression=jpeg]", ".gif", ".jxl", ".bmp"}) {
         SCOPED_TRACE(format);
         const bool isBmp = std::string_view(format) == ".bmp";
         Pictures::Options options;

@@ -94,6 +94,10 @@ TEST_F(ImageDecoderTest, everyFormatAndDepthGivesTheSameColours)
         {"tiff of tiles", {.format = ".tif[tile,tile-width=16,tile-height=16]"}, kLossless},
         {"webp", {.format = ".webp[lossless]"}, kLossless},
         {"gif", {.format = ".gif"}, kLossless},
+        {"avif", {.format = ".avif[Q=90,effort=1]"}, kLossy},
+        {"jpeg xl", {.format = ".jxl[Q=95]"}, kLossy},
+        {"lossless jpeg xl", {.format = ".jxl[lossless]"}, kLossless},
+        {"jpeg xl of 16 bit", {.format = ".jxl[lossless]", .interpretation = "16 bit"}, kLossless},
         {"opaque alpha", {.alpha = 255, .format = ".png"}, kLossless},
     };
     for (const Case& c : cases) {
@@ -110,7 +114,7 @@ TEST_F(ImageDecoderTest, everyFormatAndDepthGivesTheSameColours)
 
 TEST_F(ImageDecoderTest, greyIsTheSameInAllChannels)
 {
-    for (const char* format : {".png", ".jpg", ".tif", ".webp"}) {
+    for (const char* format : {".png", ".jpg", ".tif", ".webp", ".jxl"}) {
         SCOPED_TRACE(format);
         const auto picture = decoded(encoded({.format = format, .interpretation = "grey"}));
         ASSERT_TRUE(picture);
@@ -300,6 +304,8 @@ TEST_F(ImageDecoderTest, traitsOfTheFileAreTold)
         {".png[palette]", {.format = PictureFormat::png, .hasPalette = true}},
         {".gif", {.format = PictureFormat::gif, .hasPalette = true}},
         {".tif", {.format = PictureFormat::tiff}},
+        {".avif[effort=1]", {.format = PictureFormat::heif}},
+        {".jxl", {.format = PictureFormat::jxl}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.format);
@@ -313,7 +319,8 @@ TEST_F(ImageDecoderTest, theSamePixelsAreAsSharpInEveryFormat)
     // As large as a camera's picture, so that each format takes its own way down to the small one.
     const Options picture{.width = 1500, .height = 1100, .isNoisy = true, .format = ".png[compression=1]"};
     const double sharpness = Sharpness::laplacianVariance(decoded(encoded(picture))->small);
-    for (const char* format : {".webp[lossless,effort=0]", ".webp[Q=98,effort=0]", ".jpg[Q=98]", ".tif"}) {
+    for (const char* format : {".webp[lossless,effort=0]", ".webp[Q=98,effort=0]", ".jpg[Q=98]", ".tif",
+                               ".jxl[lossless,effort=3]"}) {
         SCOPED_TRACE(format);
         Options other = picture;
         other.format = format;
@@ -381,8 +388,9 @@ TEST_F(ImageDecoderTest, aPictureWithoutItsEndIsKeptOnlyWhenLittleIsMissing)
 TEST_F(ImageDecoderTest, damagedFilesAreReadOrRefused)
 {
     std::minstd_rand random(42); // NOLINT(cert-msc51-cpp): the same damage every time
-    for (const char* format : {".png", ".jpg", ".jpg[interlace]", ".tif[compression=lzw]",
-                               ".tif[compression=jpeg]", ".webp", ".gif"}) {
+    for (const char* format :
+         {".png", ".jpg", ".jpg[interlace]", ".tif[compression=lzw]", ".tif[compression=jpeg]", ".webp",
+          ".gif", ".avif[effort=1]", ".jxl[effort=3]"}) {
         SCOPED_TRACE(format);
         const std::string whole = encoded({.width = 160, .height = 120, .isNoisy = true, .format = format});
         for (int round = 0; round < 60; ++round) {

@@ -165,7 +165,7 @@ void put(Writer& writer, const PictureTraits& traits)
 
 PictureTraits traits(Reader& reader)
 {
-    constexpr auto kLastFormat = static_cast<std::uint8_t>(PictureFormat::bmp);
+    constexpr auto kLastFormat = static_cast<std::uint8_t>(PictureFormat::jxl);
     constexpr std::uint8_t kAllBits = (1U << std::size(kTraits)) - 1;
     PictureTraits traits{.format = static_cast<PictureFormat>(reader.get<std::uint8_t>(0, kLastFormat))};
     unsigned bits = reader.get<std::uint8_t>(0, kAllBits);

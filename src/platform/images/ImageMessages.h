@@ -15,7 +15,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 5";
+inline constexpr std::string_view kReady = "orlen-recognizer 6";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;

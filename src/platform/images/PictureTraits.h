@@ -4,7 +4,7 @@
 
 namespace orlen {
 
-enum class PictureFormat : std::uint8_t { other, jpeg, heif, webp, png, tiff, gif, bmp };
+enum class PictureFormat : std::uint8_t { other, jpeg, heif, webp, png, tiff, gif, bmp, jxl };
 
 /// What tells copies of one picture apart, besides their size.
 struct PictureTraits {

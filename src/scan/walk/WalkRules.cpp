@@ -24,8 +24,8 @@ constexpr std::array<std::string_view, 4> kLeftOut{"node_modules", "__pycache__"
 constexpr std::array<std::string_view, 9> kPackageEndings{".app",           ".framework", ".bundle",
                                                           ".photoslibrary", ".AppDir",    ".fcpbundle",
                                                           ".imovielibrary", ".lrdata",    ".xcodeproj"};
-constexpr std::array<std::string_view, 10> kImageExtensions{"jpg",  "jpeg", "png",  "heic", "heif",
-                                                            "tiff", "tif",  "webp", "bmp",  "gif"};
+constexpr std::array<std::string_view, 12> kImageExtensions{"jpg", "jpeg", "png", "heic", "heif", "tiff",
+                                                            "tif", "webp", "bmp", "gif",  "avif", "jxl"};
 constexpr std::array<std::string_view, 8> kImageFolders{"{H}/Pictures",  "{H}/Desktop", "{H}/Downloads",
                                                         "{H}/Documents", "{PICTURES}",  "{DESKTOP}",
                                                         "{DOWNLOAD}",    "{DOCUMENTS}"};

@@ -26,8 +26,8 @@ constexpr const char* kApp = "app.fill";
 // clang-format off
 constexpr auto kKinds = std::to_array<Kind>({
     {"avif", kImage}, {"bmp", kImage}, {"gif", kImage}, {"heic", kImage}, {"ico", kImage}, {"jpeg", kImage},
-    {"jpg", kImage}, {"png", kImage}, {"raw", kImage}, {"svg", kImage}, {"tif", kImage}, {"tiff", kImage},
-    {"webp", kImage}, {"xcf", kImage},
+    {"jpg", kImage}, {"jxl", kImage}, {"png", kImage}, {"raw", kImage}, {"svg", kImage}, {"tif", kImage},
+    {"tiff", kImage}, {"webp", kImage}, {"xcf", kImage},
     {"avi", kMovie}, {"flv", kMovie}, {"m4v", kMovie}, {"mkv", kMovie}, {"mov", kMovie}, {"mp4", kMovie},
     {"mpeg", kMovie}, {"mpg", kMovie}, {"ogv", kMovie}, {"webm", kMovie}, {"wmv", kMovie},
     {"aac", kMusic}, {"aiff", kMusic}, {"flac", kMusic}, {"m4a", kMusic}, {"mid", kMusic}, {"mp3", kMusic},

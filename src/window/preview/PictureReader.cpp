@@ -10,8 +10,8 @@ namespace orlen::PictureReader {
 
 namespace {
 
-constexpr std::array<std::string_view, 11> kExtensions{"avif", "bmp", "gif", "heic", "heif", "jpeg",
-                                                       "jpg",  "png", "tif", "tiff", "webp"};
+constexpr std::array<std::string_view, 12> kExtensions{"avif", "bmp", "gif", "heic", "heif", "jpeg",
+                                                       "jpg",  "jxl", "png", "tif",  "tiff", "webp"};
 
 ImageWorkers::Options& options()
 {

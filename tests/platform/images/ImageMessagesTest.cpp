@@ -162,7 +162,7 @@ TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
         {"negative sharpness", replaced(kSharpness, -0.1)},
         {"endless sharpness", replaced(kSharpness, kInfinity)},
         {"sharpness that is no number", replaced(kSharpness, std::nan(""))},
-        {"a format that nobody knows", replaced(kFormat, std::uint8_t{8})},
+        {"a format that nobody knows", replaced(kFormat, std::uint8_t{9})},
         {"traits that nobody knows", replaced(kTraits, std::uint8_t{32})},
         {"a print or not", replaced(kHasPrint, std::uint8_t{255})},
         {"a print without its bytes", replaced(kHasPrint, std::uint8_t{0})},

@@ -131,6 +131,8 @@ TEST_F(WalkTest, imagesAreCollectedInImageFoldersOnly)
 {
     home.fileOfSize("Pictures/on.PNG", kJustImage);
     home.fileOfSize("Pictures/deep/er/on.heic", kJustImage);
+    home.fileOfSize("Pictures/on.avif", kJustImage);
+    home.fileOfSize("Pictures/on.jxl", kJustImage);
     home.fileOfSize("Pictures/below.png", 16'384);
     home.fileOfSize("Pictures/not.txt", kJustImage);
     home.fileOfSize("project/icon.png", kJustImage);
@@ -139,10 +141,11 @@ TEST_F(WalkTest, imagesAreCollectedInImageFoldersOnly)
     home.file(".config/user-dirs.dirs", "XDG_PICTURES_DIR=\"$HOME/Bilder\"\n");
     TempHome::reloadPlaces();
     const auto found = walk();
-    EXPECT_THAT(names(found.images), ElementsAre("Bilder/in-bild.jpg", "Downloads/large.jpg",
-                                                 "Pictures/deep/er/on.heic", "Pictures/on.PNG"));
+    EXPECT_THAT(names(found.images),
+                ElementsAre("Bilder/in-bild.jpg", "Downloads/large.jpg", "Pictures/deep/er/on.heic",
+                            "Pictures/on.PNG", "Pictures/on.avif", "Pictures/on.jxl"));
     EXPECT_THAT(names(found.cands), ElementsAre("Downloads/large.jpg"));
-    EXPECT_EQ(Walk::duplicateInput(found).size(), 4) << "the large image once";
+    EXPECT_EQ(Walk::duplicateInput(found).size(), 6) << "the large image once";
 }
 
 TEST_F(WalkTest, allImagesAreFoundHoweverMany)
