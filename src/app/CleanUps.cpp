@@ -66,11 +66,14 @@ void CleanUps::confirm(const CleanPlan& plan)
     const auto pending = std::make_shared<std::optional<Cleaner::Cleaned>>();
     m_pending.push_back(pending);
     const auto stillOn = std::make_shared<std::vector<std::string>>();
+    const auto show = [this, number](int done, int, const std::string& current) {
+        showCleaning(number, done, current);
+    };
     m_stop = m_workers.start(
-        [entries = std::move(entries), title = plan.title.base(), report = cleaningReport(number), pending,
-         stillOn, exclusions = m_exclusions.current()](const std::stop_token& stop) {
+        [entries = std::move(entries), title = plan.title.base(), progress = report(show), pending, stillOn,
+         exclusions = m_exclusions.current()](const std::stop_token& stop) {
             *stillOn = UnitShutdown::run(entries);
-            *pending = Cleaner::run(entries, title, report, stop, exclusions);
+            *pending = Cleaner::run(entries, title, progress, stop, exclusions);
             return PendingCleanUp(pending);
         },
         [this, number, stillOn](const PendingCleanUp& cleaned) {
@@ -78,18 +81,16 @@ void CleanUps::confirm(const CleanPlan& plan)
         });
 }
 
-Cleaner::Progress CleanUps::cleaningReport(int number)
+Cleaner::Progress CleanUps::report(Show show) const
 {
     // Runs on the worker, which passes `show` on but never calls it.
-    const std::function<void(int, const std::string&)> show =
-        [this, number](int done, const std::string& current) { showCleaning(number, done, current); };
-    return [mainThread = m_workers.mainThread(), show,
+    return [mainThread = m_workers.mainThread(), show = std::move(show),
             last = Clock::time_point()](int index, int total, const std::string& name) mutable {
         const auto now = Clock::now();
         if (index < total && now - last < kReportInterval)
             return;
         last = now;
-        mainThread.post([show, index, name] { show(index, name); });
+        mainThread.post([show, index, total, name] { show(index, total, name); });
     };
 }
 
@@ -110,6 +111,7 @@ void CleanUps::finishCleaning(int number, const PendingCleanUp& pending, std::ve
     const bool isRecorded = keep(record);
     if (m_cleaning && number == m_number) {
         m_cleaning->finished = true;
+        m_cleaning->record = record.items.empty() ? std::nullopt : std::optional(record.id);
         m_cleaning->freed = record.freed();
         m_cleaning->moved = static_cast<int>(record.items.size());
         m_cleaning->failed = record.failed;
@@ -120,6 +122,7 @@ void CleanUps::finishCleaning(int number, const PendingCleanUp& pending, std::ve
         Q_EMIT cleaningChanged();
     }
     m_storage.followMoves();
+    m_results.updateTrash();
     Q_EMIT cleaningFinished(record);
 }
 
@@ -159,30 +162,54 @@ CleanUps::Restoration CleanUps::restore(const CleanRecord& record)
 
 CleanUps::Restoration CleanUps::finishRestore(Cleaner::Restored outcome)
 {
+    std::set<std::string> back;
+    if (const CleanRecord* before = recordOf(outcome.record.id)) {
+        const auto& after = outcome.record.items;
+        for (std::size_t item = 0; item < std::min(after.size(), before->items.size()); ++item) {
+            if (after[item].restored && !before->items[item].restored)
+                back.insert(after[item].original);
+        }
+    }
     const bool isRecorded = History::update(m_history, outcome.record).ok();
     Q_EMIT historyChanged();
-    m_storage.updateVolume();
+    m_storage.followMoves();
+    m_results.updateTrash();
+    m_results.returnToFindings(back);
     Message message = AppTexts::restored(outcome.restored, outcome.failed);
     return {std::move(outcome), std::move(message), isRecorded};
 }
 
-bool CleanUps::isRestoring(const Uuid& record) const
+const CleanRecord* CleanUps::recordOf(const Uuid& id) const
 {
-    return std::any_of(m_restores.begin(), m_restores.end(),
-                       [&](const PendingRestore& pending) { return pending.record == record; });
+    const auto found = std::ranges::find(m_history, id, &CleanRecord::id);
+    return found == m_history.end() ? nullptr : &*found;
 }
 
-bool CleanUps::startRestore(const CleanRecord& record)
+CleanUps::PendingRestore* CleanUps::pendingRestore(const Uuid& record)
+{
+    const auto found = std::ranges::find(m_restores, record, &PendingRestore::record);
+    return found == m_restores.end() ? nullptr : &*found;
+}
+
+const RestoreState* CleanUps::restoring(const Uuid& record) const
+{
+    const auto found = std::ranges::find(m_restores, record, &PendingRestore::record);
+    return found == m_restores.end() ? nullptr : &found->state;
+}
+
+bool CleanUps::startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted)
 {
     checkWriter();
     if (isRestoring(record.id))
         return false;
     const auto outcome = std::make_shared<std::optional<Cleaner::Restored>>();
-    m_restores.push_back({record.id, outcome});
-    Q_EMIT restoringChanged();
-    m_workers.start(
-        [record, outcome](const std::stop_token& stop) {
-            *outcome = Cleaner::restore(record, stop);
+    m_restores.push_back({record.id, outcome, {}});
+    const auto show = [this, id = record.id](int done, int total, const std::string& current) {
+        showRestore(id, {total, done, current});
+    };
+    const std::stop_source stop = m_workers.start(
+        [record, wanted, outcome, progress = report(show)](const std::stop_token& stopped) {
+            *outcome = Cleaner::restore(record, stopped, progress, wanted);
             return 0;
         },
         [this, id = record.id, outcome](int) {
@@ -191,7 +218,31 @@ bool CleanUps::startRestore(const CleanRecord& record)
             Q_EMIT restoringChanged();
             Q_EMIT restored(restoration);
         });
+    if (PendingRestore* pending = pendingRestore(record.id))
+        pending->stop = stop;
+    Q_EMIT restoringChanged();
     return true;
+}
+
+void CleanUps::showRestore(const Uuid& record, RestoreState state)
+{
+    PendingRestore* pending = pendingRestore(record);
+    if (pending == nullptr)
+        return;
+    state.isStopping = pending->state.isStopping;
+    pending->state = std::move(state);
+    Q_EMIT restoreProgressed(record);
+}
+
+void CleanUps::cancelRestore(const Uuid& record)
+{
+    checkThread();
+    PendingRestore* pending = pendingRestore(record);
+    if (pending == nullptr)
+        return;
+    pending->state.isStopping = true;
+    pending->stop.request_stop();
+    Q_EMIT restoreProgressed(record);
 }
 
 } // namespace orlen

@@ -8,6 +8,7 @@
 #include "model/Message.h"
 #include "model/ModelState.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -55,11 +56,16 @@ public:
     /// Puts a past clean-up back before returning. Blocks on the disk, so not for a window. Writers only, and
     /// not for a record that is being restored.
     Restoration restore(const CleanRecord& record);
-    /// Starts putting a past clean-up back; `restored` follows. False, without starting, while the same
-    /// record is being restored. Writers only.
-    bool startRestore(const CleanRecord& record);
-    /// Whether a `startRestore` of this record is running.
-    [[nodiscard]] bool isRestoring(const Uuid& record) const;
+    /// Starts putting a past clean-up back, or what is wanted of it; `restored` follows. False, without
+    /// starting, while the same record is being restored. Writers only.
+    bool startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted = {});
+    /// Stops a restore after its current item; ignored when none of this record is running.
+    void cancelRestore(const Uuid& record);
+    /// The restore of this record that is running; null if there is none. Valid until the next change.
+    [[nodiscard]] const RestoreState* restoring(const Uuid& record) const;
+    [[nodiscard]] bool isRestoring(const Uuid& record) const { return restoring(record) != nullptr; }
+    /// The record in the history; null if it is not there. Valid until the next change.
+    [[nodiscard]] const CleanRecord* recordOf(const Uuid& id) const;
 
 Q_SIGNALS:
     void cleaningChanged();
@@ -68,6 +74,8 @@ Q_SIGNALS:
     void cleaningFinished(const orlen::CleanRecord& record);
     /// The set of records being restored changed.
     void restoringChanged();
+    /// The state of a running restore changed.
+    void restoreProgressed(const orlen::Uuid& record);
     /// A restore started by `startRestore` has ended.
     void restored(const orlen::CleanUps::Restoration& restoration);
 
@@ -78,13 +86,19 @@ private:
     struct PendingRestore {
         Uuid record;
         std::shared_ptr<std::optional<Cleaner::Restored>> outcome;
+        RestoreState state;
+        std::stop_source stop{std::nostopstate};
     };
+    using Show = std::function<void(int done, int total, const std::string& current)>;
 
-    [[nodiscard]] Cleaner::Progress cleaningReport(int number);
+    /// For a worker: has `show` run on the main thread, not too often.
+    [[nodiscard]] Cleaner::Progress report(Show show) const;
     void showCleaning(int number, int done, const std::string& current);
     void finishCleaning(int number, const PendingCleanUp& pending, std::vector<std::string> stillOn);
     /// Whether the history could be saved.
     bool keep(const CleanRecord& record);
+    [[nodiscard]] PendingRestore* pendingRestore(const Uuid& record);
+    void showRestore(const Uuid& record, RestoreState state);
     [[nodiscard]] Restoration finishRestore(Cleaner::Restored outcome);
     void checkWriter() const;
 

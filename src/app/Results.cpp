@@ -10,12 +10,11 @@
 #include "platform/files/Places.h"
 #include "platform/process/ThreadPriority.h"
 #include "platform/process/Threads.h"
-#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanEngine.h"
+#include "scan/locations/SourceReader.h"
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -58,28 +57,15 @@ std::set<std::string> preselected(const std::vector<Finding>& findings)
     return paths;
 }
 
-/// Whether the path, or a folder that it is in, is one of these.
-bool isIn(const std::set<std::string>& paths, std::string_view path)
+/// The finding of what the Trash holds, none when it is empty.
+std::vector<Finding> trashNow(const std::stop_token& stop)
 {
-    for (; path.size() > 1; path = PathText::parent(path)) {
-        if (paths.contains(std::string(path)))
-            return true;
-    }
-    return false;
-}
-
-/// Puts the entries back among the findings that they were taken from.
-void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)
-{
-    for (Finding& finding : taken) {
-        const auto same = std::ranges::find(findings, finding.kind, &Finding::kind);
-        if (same == findings.end()) {
-            findings.push_back(std::move(finding));
-            continue;
-        }
-        std::ranges::move(finding.items, std::back_inserter(same->items));
-        std::ranges::stable_sort(same->items, std::greater(), &FileEntry::size);
-    }
+    ThreadPriority::giveWay();
+    ScanProgress progress;
+    std::vector<FileEntry> entries = SourceReader(progress, stop).entries(FindingKind::trash);
+    if (entries.empty())
+        return {};
+    return Rater::rate({Finding(FindingKind::trash, std::move(entries))});
 }
 
 } // namespace
@@ -94,11 +80,7 @@ Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers
     : ModelPart(parent), m_storage(storage), m_exclusions(exclusions), m_images(std::move(images)),
       m_isFdaGranted(checkFDA()), m_scanProgress(std::make_shared<ScanProgress>()), m_workers(*this)
 {
-    connect(&exclusions, &ExclusionList::changed, this, [this] {
-        std::set<std::string> selection = m_selection;
-        selection.merge(m_excludedSelection);
-        applyExclusions(std::move(selection));
-    });
+    connect(&exclusions, &ExclusionList::changed, this, [this] { applyExclusions(everythingSelected()); });
     // Before anyone is notified of the new findings.
     connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
 }
@@ -162,6 +144,8 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     }
     m_findings = std::move(result.findings);
     m_excluded.clear();
+    m_moved = {};
+    m_trashLook.drop();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     m_photoCoverage = engine->photoCoverage();
     applyExclusions(preselected(m_findings));
@@ -170,6 +154,13 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     Q_EMIT lastScanChanged();
     m_storage.recordSnapshot();
     setPhase(Phase::results);
+}
+
+std::set<std::string> Results::everythingSelected() const
+{
+    std::set<std::string> selection = m_selection;
+    selection.insert(m_excludedSelection.begin(), m_excludedSelection.end());
+    return selection;
 }
 
 void Results::applyExclusions(std::set<std::string> selection)
@@ -319,23 +310,53 @@ void Results::setPhase(Phase phase)
 void Results::removeFromFindings(const std::set<std::string>& paths)
 {
     checkThread();
-    const auto goes = [&](const FileEntry& entry) {
-        return paths.contains(entry.path) || (entry.kept && isIn(paths, entry.kept->path));
-    };
+    std::set<std::string> gone = paths;
+    gone.merge(m_moved.take(m_findings, m_selection, paths));
+    gone.merge(m_moved.take(m_excluded, m_excludedSelection, paths));
+    const auto isGone = [&](const std::string& path) { return gone.contains(path); };
+    std::erase_if(m_excludedSelection, isGone);
     std::set<std::string> selection = m_selection;
-    for (std::vector<Finding>* findings : {&m_findings, &m_excluded}) {
-        for (Finding& finding : *findings) {
-            for (const FileEntry& entry : finding.items) {
-                if (goes(entry))
-                    selection.erase(entry.path);
-            }
-            std::erase_if(finding.items, goes);
-        }
-        std::erase_if(*findings, [](const Finding& finding) { return finding.items.empty(); });
-    }
+    std::erase_if(selection, isGone);
     Q_EMIT findingsChanged();
-    std::erase_if(selection, [&](const std::string& path) { return paths.contains(path); });
     setSelection(std::move(selection));
+}
+
+void Results::returnToFindings(const std::set<std::string>& places)
+{
+    checkThread();
+    MovedEntries found = m_moved.about(places);
+    if (found.findings.empty())
+        return;
+    m_workers.start(
+        [found = std::move(found), places](const std::stop_token&) mutable {
+            found.keepUnchanged(places);
+            return std::move(found);
+        },
+        [this](MovedEntries unchanged) {
+            // Of another scan's results, nothing is missing; and another restore may have been quicker.
+            MovedEntries missing = m_moved.release(std::move(unchanged));
+            if (missing.findings.empty())
+                return;
+            giveBack(m_findings, std::move(missing.findings));
+            missing.selection.merge(everythingSelected());
+            applyExclusions(std::move(missing.selection));
+        });
+}
+
+void Results::updateTrash()
+{
+    checkThread();
+    if (!m_lastScan || !m_storage.isKeptUpToDate())
+        return;
+    const auto isTrash = [](const Finding& finding) { return finding.kind == FindingKind::trash; };
+    m_workers.start(
+        m_trashLook, [](const std::stop_token& stop) { return trashNow(stop); },
+        [this, isTrash](std::vector<Finding> trash) {
+            std::erase_if(m_findings, isTrash);
+            std::erase_if(m_excluded, isTrash);
+            giveBack(m_findings, std::move(trash));
+            applyExclusions(everythingSelected());
+        });
 }
 
 void Results::keepInstead(const std::string& path)
@@ -360,6 +381,7 @@ void Results::exchange(const NewKeeper::Exchange& exchange, const FileEntry& for
         return;
     NewKeeper::apply(m_findings, exchange, former);
     NewKeeper::apply(m_excluded, exchange, former);
+    NewKeeper::apply(m_moved.findings, exchange, former);
     std::set<std::string> selection = m_selection;
     if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
         selection.insert(former.path);

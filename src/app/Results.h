@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ModelPart.h"
+#include "app/MovedEntries.h"
 #include "app/NewKeeper.h"
 #include "app/Workers.h"
 #include "model/Finding.h"
@@ -102,6 +103,13 @@ public:
     [[nodiscard]] CleanPlan scanPlan() const;
     /// Removes entries from the results and the selection, and with them those whose kept file is removed.
     void removeFromFindings(const std::set<std::string>& paths);
+    /// Lists entries again that were removed since the last scan, after something was put back at these
+    /// places; selected as they were. Looks at each on a worker first: what is no longer what the scan saw
+    /// stays away.
+    void returnToFindings(const std::set<std::string>& places);
+    /// Looks on a worker at what the Trash holds now. Ignored before the first scan, and unless the storage
+    /// is kept up to date.
+    void updateTrash();
     /// Keeps this one of a set of similar photos, and lists the one that was kept instead, selected if this
     /// one was. Looks at both on a worker first; emits `keeperRefused` if they have changed since the scan.
     /// Ignored for a path that no set lists.
@@ -126,6 +134,8 @@ private:
     [[nodiscard]] static ScanResult scanned(ScanEngine& engine);
     /// Divides what was found into what is offered and what is not, and selects of it what is offered.
     void applyExclusions(std::set<std::string> selection);
+    /// The selection of what is offered and of what is not.
+    [[nodiscard]] std::set<std::string> everythingSelected() const;
     void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
     void exchange(const NewKeeper::Exchange& exchange, const FileEntry& former);
 
@@ -138,6 +148,8 @@ private:
     std::set<std::string> m_selection;
     std::vector<Finding> m_excluded;           ///< found, but not offered
     std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
+    MovedEntries m_moved;                      ///< since the last scan
+    Latest m_trashLook;
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;
     std::shared_ptr<ScanEngine> m_engine;

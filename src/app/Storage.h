@@ -38,6 +38,8 @@ public:
 
     /// Measures now, records a snapshot if one is due, and keeps the volume's space up to date from here on.
     void startUp();
+    /// Whether `startUp` was called.
+    [[nodiscard]] bool isKeptUpToDate() const { return m_isKeptUpToDate; }
     /// Measures the storage breakdown again, then records a snapshot if requested and due.
     void refreshBreakdown(Recording recording);
     /// Sets a breakdown measured elsewhere; a measurement in progress is dropped.

@@ -140,17 +140,27 @@ Identities notedItems(const Uuid& record)
     return noted;
 }
 
+/// The items of the record to put back, in its order; valid as long as the record's.
+std::vector<TrashedItem*> missing(CleanRecord& record, const Wanted& wanted)
+{
+    std::vector<TrashedItem*> items;
+    for (TrashedItem& item : record.items) {
+        if (!item.restored && (!wanted || wanted->contains(item.original)))
+            items.push_back(&item);
+    }
+    return items;
+}
+
 /// What the restore is going to move back.
-Journal plannedRestore(const CleanRecord& record, const Identities& noted)
+Journal plannedRestore(const CleanRecord& record, const std::vector<TrashedItem*>& items,
+                       const Identities& noted)
 {
     Journal journal{record.id, std::chrono::system_clock::now(), record.title, {}};
-    for (const TrashedItem& item : record.items) {
-        if (item.restored)
-            continue;
-        if (const auto found = noted.find(item.original); found != noted.end())
-            journal.items.push_back({item.original, item.size, 0, found->second});
-        else if (const auto identity = Trash::identityOf(item.trashed))
-            journal.items.push_back({item.original, item.size, 0, *identity});
+    for (const TrashedItem* item : items) {
+        if (const auto found = noted.find(item->original); found != noted.end())
+            journal.items.push_back({item->original, item->size, 0, found->second});
+        else if (const auto identity = Trash::identityOf(item->trashed))
+            journal.items.push_back({item->original, item->size, 0, *identity});
     }
     return journal;
 }
@@ -168,16 +178,33 @@ std::optional<FailureReason> putBack(const TrashedItem& item, const Identities& 
     return moved.ok() ? std::nullopt : std::optional(FailureReasons::ofRestoring(moved.error()));
 }
 
-Restored refusedRestore(CleanRecord record, FailureReason reason)
+Restored refusedRestore(const std::vector<TrashedItem*>& items, FailureReason reason)
 {
     Restored result;
-    for (const TrashedItem& item : record.items) {
-        if (!item.restored)
-            result.failures.push_back({item.original, reason});
-    }
-    result.failed = static_cast<int>(result.failures.size());
+    for (const TrashedItem* item : items)
+        result.failures.push_back({item->original, reason});
     result.refusal = reason;
-    result.record = std::move(record);
+    return result;
+}
+
+Restored putBack(const std::vector<TrashedItem*>& items, const Identities& noted, TimePoint cleaned,
+                 const std::stop_token& stop, const Progress& progress)
+{
+    Restored result;
+    const int total = static_cast<int>(items.size());
+    for (int index = 0; index < total && !stop.stop_requested(); ++index) {
+        TrashedItem& item = *items[static_cast<std::size_t>(index)];
+        if (progress)
+            progress(index, total, std::string(PathText::lastComponent(item.original)));
+        const auto failure = putBack(item, noted, cleaned);
+        item.restored = !failure;
+        if (failure)
+            result.failures.push_back({item.original, *failure});
+        else
+            ++result.restored;
+    }
+    if (progress)
+        progress(total, total, "");
     return result;
 }
 
@@ -216,30 +243,16 @@ Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Prog
     return cleaned;
 }
 
-Restored restore(CleanRecord record, const std::stop_token& stop, const Progress& progress)
+Restored restore(CleanRecord record, const std::stop_token& stop, const Progress& progress,
+                 const Wanted& wanted)
 {
     Safety::refresh();
+    const std::vector<TrashedItem*> items = missing(record, wanted);
     const Identities noted = notedItems(record.id);
-    const Journal journal = plannedRestore(record, noted);
-    if (!journal.items.empty()) {
-        if (const auto written = Journals::write(journal, State::restoring); !written.ok())
-            return refusedRestore(std::move(record), FailureReasons::ofCleaning(written.error()));
-    }
-    Restored result;
-    const int total = static_cast<int>(record.items.size());
-    for (int index = 0; index < total && !stop.stop_requested(); ++index) {
-        TrashedItem& item = record.items[static_cast<std::size_t>(index)];
-        if (item.restored)
-            continue;
-        if (progress)
-            progress(index, total, std::string(PathText::lastComponent(item.original)));
-        const auto failure = putBack(item, noted, record.date);
-        item.restored = !failure;
-        if (failure)
-            result.failures.push_back({item.original, *failure});
-        else
-            ++result.restored;
-    }
+    const Journal journal = plannedRestore(record, items, noted);
+    const auto written = journal.items.empty() ? Result<void>() : Journals::write(journal, State::restoring);
+    Restored result = written.ok() ? putBack(items, noted, record.date, stop, progress)
+                                   : refusedRestore(items, FailureReasons::ofCleaning(written.error()));
     result.failed = static_cast<int>(result.failures.size());
     result.record = std::move(record);
     return result;

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -42,10 +43,13 @@ struct Restored {
     std::optional<FailureReason> refusal; ///< as for Cleaned
 };
 
-/// Puts back the record's items that are not restored yet. An item fails and stays where it is if its
-/// original place is protected or taken, it is no longer in the Trash, or its name there now belongs to
-/// something else. Stopping works as for `run`.
+/// Original places of the items to put back; nothing: all of the record.
+using Wanted = std::optional<std::set<std::string>>;
+
+/// Puts back those of the record's items that are wanted and not restored yet. An item fails and stays where
+/// it is if its original place is protected or taken, it is no longer in the Trash, or its name there now
+/// belongs to something else. Stopping and progress work as for `run`.
 [[nodiscard]] Restored restore(CleanRecord record, const std::stop_token& stop = {},
-                               const Progress& progress = {});
+                               const Progress& progress = {}, const Wanted& wanted = {});
 
 } // namespace orlen::Cleaner

@@ -1,88 +1,62 @@
 #include "model/CleanFailure.h"
 
+#include <algorithm>
+#include <array>
+
 namespace orlen {
+
+namespace {
+
+struct Cause {
+    FailureReason reason;
+    std::string_view rawValue;
+    Text text;
+    Text remedy;
+};
+
+constexpr std::array<Cause, 11> kCauses{{
+    {FailureReason::isProtected, "protected", message("protected"),
+     message("Orlen leaves this alone, to be on the safe side.")},
+    {FailureReason::excluded, "protected", message("excluded by you"),
+     message("Remove it from the exclusions first.")},
+    {FailureReason::missing, "missing", message("no longer there"), {}},
+    {FailureReason::changed, "changed", message("changed since the scan"),
+     message("Scan again to see what is there now.")},
+    {FailureReason::permission, "permission", message("no permission"),
+     message("It belongs to another user, or its folder may not be changed.")},
+    {FailureReason::full, "full", message("disk full"),
+     message("Empty the Trash to make room, then try again.")},
+    {FailureReason::noTrash, "noTrash", message("no Trash on that disk"),
+     message("Move it by hand if you no longer need it.")},
+    {FailureReason::inUse, "inUse", message("in use"),
+     message("Quit the program that uses it, then try again.")},
+    {FailureReason::occupied, "occupied", message("something is at the original place"),
+     message("Move or rename what is there, then try again.")},
+    {FailureReason::replaced, "replaced", message("something else has this name in the Trash"), {}},
+    {FailureReason::other, "other", message("the system refused"), message("Try again, or move it by hand.")},
+}};
+
+const Cause& causeOf(FailureReason reason)
+{
+    const auto* found = std::ranges::find(kCauses, reason, &Cause::reason);
+    return found == kCauses.end() ? kCauses.back() : *found;
+}
+
+} // namespace
 
 std::string_view rawValue(FailureReason reason)
 {
-    switch (reason) {
-    case FailureReason::isProtected:
-    case FailureReason::excluded:
-        return "protected";
-    case FailureReason::missing:
-        return "missing";
-    case FailureReason::changed:
-        return "changed";
-    case FailureReason::permission:
-        return "permission";
-    case FailureReason::full:
-        return "full";
-    case FailureReason::noTrash:
-        return "noTrash";
-    case FailureReason::inUse:
-        return "inUse";
-    case FailureReason::occupied:
-        return "occupied";
-    case FailureReason::replaced:
-        return "replaced";
-    case FailureReason::other:
-        return "other";
-    }
-    return "other";
+    return causeOf(reason).rawValue;
 }
 
 Text reasonText(FailureReason reason)
 {
-    switch (reason) {
-    case FailureReason::isProtected:
-        return message("protected");
-    case FailureReason::excluded:
-        return message("excluded by you");
-    case FailureReason::missing:
-        return message("no longer there");
-    case FailureReason::changed:
-        return message("changed since the scan");
-    case FailureReason::permission:
-        return message("no permission");
-    case FailureReason::full:
-        return message("disk full");
-    case FailureReason::noTrash:
-        return message("no Trash on that disk");
-    case FailureReason::inUse:
-        return message("in use");
-    case FailureReason::occupied:
-        return message("something is at the original place");
-    case FailureReason::replaced:
-        return message("something else has this name in the Trash");
-    case FailureReason::other:
-        return message("the system refused");
-    }
-    return {};
+    return causeOf(reason).text;
 }
 
 Text remedyText(FailureReason reason)
 {
-    switch (reason) {
-    case FailureReason::excluded:
-        return message("Remove it from the exclusions first.");
-    case FailureReason::changed:
-        return message("Scan again to see what is there now.");
-    case FailureReason::permission:
-        return message("It belongs to another user, or its folder may not be changed.");
-    case FailureReason::full:
-        return message("Empty the Trash to make room, then try again.");
-    case FailureReason::noTrash:
-        return message("Move it by hand if you no longer need it.");
-    case FailureReason::inUse:
-        return message("Quit the program that uses it, then try again.");
-    case FailureReason::occupied:
-        return message("Move or rename what is there, then try again.");
-    case FailureReason::isProtected:
-    case FailureReason::missing:
-    case FailureReason::replaced:
-    case FailureReason::other:
-        return {};
-    }
-    return {};
+    return causeOf(reason).remedy;
 }
 
 } // namespace orlen

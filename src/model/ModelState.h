@@ -2,6 +2,7 @@
 
 #include "model/CleanFailure.h"
 #include "model/Message.h"
+#include "platform/values/Uuid.h"
 
 #include <cstdint>
 #include <optional>
@@ -13,13 +14,24 @@ namespace orlen {
 
 enum class Phase { idle, scanning, results };
 
+/// Progress of a restore.
+struct RestoreState {
+    int total = 0;       ///< items to put back; 0 until known
+    int done = 0;        ///< items handled so far
+    std::string current; ///< name of the item being put back
+    bool isStopping = false;
+
+    friend bool operator==(const RestoreState&, const RestoreState&) = default;
+};
+
 /// Progress of a clean-up.
 struct CleaningState {
     int total = 0;       ///< entries to move
     int done = 0;        ///< entries handled so far
     std::string current; ///< name of the entry being moved
     bool finished = false;
-    std::int64_t freed = 0; ///< bytes moved
+    std::optional<Uuid> record; ///< in the history, once finished; nothing if nothing moved
+    std::int64_t freed = 0;     ///< bytes moved
     int moved = 0;
     int failed = 0;
     Message planTitle;

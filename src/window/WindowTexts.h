@@ -92,6 +92,7 @@ inline constexpr Text kSpokenFile = message("{name}, {size}, file");
 // Clean-ups and their history
 inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");
 inline constexpr Text kNotMoved = messages("{count} couldn't be moved", "{count} couldn't be moved");
+inline constexpr Text kNotRestored = messages("{count} couldn't be restored", "{count} couldn't be restored");
 inline constexpr Text kInTrash = message("In the Trash");
 inline constexpr Text kRestoredItem = messageIn("an item", "Restored");
 inline constexpr Text kGone = message("No longer in the Trash");

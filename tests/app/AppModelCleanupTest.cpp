@@ -264,6 +264,113 @@ TEST(AppModelCleanupTest, aRestoreInTheBackgroundTellsItsEndAndRefusesASecondOne
     EXPECT_EQ(Persist::loadHistory().records.front().items, model.cleanUps()->history().front().items);
 }
 
+TEST(AppModelCleanupTest, whatIsPutBackIsListedAgainAsItWasAndMayMoveAgain)
+{
+    const TempHome home;
+    home.fileOfSize(".cache/chromium/pages", 400 * kKiB);
+    home.fileOfSize(".xsession-errors", 64 * kKiB);
+    home.fileOfSize(".xsession-errors.old", 32 * kKiB);
+    AppModel model(kCommand);
+    scan(model);
+    model.results()->deselect(std::vector{home.path(".xsession-errors.old")});
+    const std::vector<Finding> before = model.results()->findings();
+    const std::set<std::string> selection = model.results()->selection();
+    for (int round = 0; round < 2; ++round) {
+        SCOPED_TRACE(round);
+        ASSERT_TRUE(cleaned(model, model.results()->scanPlan()));
+        EXPECT_EQ(model.cleanUps()->cleaning()->moved, 2) << "what was put back is still what was shown";
+        EXPECT_EQ(model.results()->findings().size(), 1U);
+        ASSERT_TRUE(model.cleanUps()->startRestore(model.cleanUps()->history().front()));
+        ASSERT_TRUE(waitUntil([&] { return model.results()->findings().size() == before.size(); }));
+        EXPECT_EQ(model.results()->selection(), selection);
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            EXPECT_EQ(model.results()->findings()[i].kind, before[i].kind);
+            EXPECT_EQ(model.results()->findings()[i].items.size(), before[i].items.size());
+            EXPECT_EQ(model.results()->findings()[i].totalSize(), before[i].totalSize());
+        }
+    }
+}
+
+TEST(AppModelCleanupTest, onlyTheItemsThatArePutBackAndUnchangedAreListedAgain)
+{
+    const TempHome home;
+    home.fileOfSize(".xsession-errors", 64 * kKiB);
+    home.fileOfSize(".xsession-errors.old", 32 * kKiB);
+    home.fileOfSize(".cache/chromium/pages", 400 * kKiB);
+    AppModel model(kCommand);
+    scan(model);
+    ASSERT_TRUE(cleaned(model, model.results()->scanPlan()));
+    const CleanRecord record = model.cleanUps()->history().front();
+    for (const TrashedItem& item : record.items) {
+        if (item.original == home.path(".xsession-errors.old"))
+            home.file(item.trashed, std::string(32 * kKiB, 'x')); // written to in the Trash
+    }
+    const std::set logs{home.path(".xsession-errors"), home.path(".xsession-errors.old")};
+    ASSERT_TRUE(model.cleanUps()->startRestore(record, logs));
+    ASSERT_TRUE(waitUntil([&] { return !model.results()->findings().empty(); }));
+    ASSERT_THAT(model.results()->findings(), SizeIs(1));
+    ASSERT_THAT(model.results()->findings().front().items, SizeIs(1));
+    EXPECT_EQ(model.results()->findings().front().items.front().path, home.path(".xsession-errors"));
+    EXPECT_FALSE(TempHome::exists(home.path(".cache/chromium")));
+}
+
+TEST(AppModelCleanupTest, aDuplicateIsListedAgainOnceTheCopyToBeKeptIsBack)
+{
+    const TempHome home;
+    home.fileOfSize("Documents/report", 1200 * kKiB, 7);
+    home.fileOfSize("Downloads/report", 1200 * kKiB, 7);
+    AppModel model(kCommand);
+    scan(model);
+    ASSERT_THAT(model.results()->findings(), SizeIs(1));
+    const std::vector<Finding> before = model.results()->findings();
+    const std::string kept = before.front().items.front().kept->path;
+    ASSERT_TRUE(cleaned(model, planOf({kept})));
+    ASSERT_THAT(model.results()->findings(), IsEmpty());
+    ASSERT_TRUE(model.cleanUps()->startRestore(model.cleanUps()->history().front()));
+    ASSERT_TRUE(waitUntil([&] { return !model.results()->findings().empty(); }));
+    model.results()->select(std::vector{before.front().items.front().path});
+    ASSERT_TRUE(cleaned(model, model.results()->scanPlan()));
+    EXPECT_EQ(model.cleanUps()->cleaning()->failed, 0);
+}
+
+TEST(AppModelCleanupTest, aWindowsTrashCardFollowsCleanUpsAndRestores)
+{
+    const TempHome home;
+    home.fileOfSize(".cache/chromium/pages", 400 * kKiB);
+    AppModel model({.startup = AppModel::Startup::full});
+    scan(model);
+    const auto trashed = [&] {
+        const auto& findings = model.results()->findings();
+        const auto trash = std::ranges::find(findings, FindingKind::trash, &Finding::kind);
+        return trash == findings.end() ? 0 : trash->totalSize();
+    };
+    EXPECT_EQ(trashed(), 0);
+    ASSERT_TRUE(cleaned(model, planOf({home.path(".cache/chromium")})));
+    ASSERT_TRUE(waitUntil([&] { return trashed() >= 400 * kKiB; }));
+    ASSERT_TRUE(model.cleanUps()->startRestore(model.cleanUps()->history().front()));
+    ASSERT_TRUE(waitUntil([&] { return trashed() == 0; }));
+}
+
+TEST(AppModelCleanupTest, aStoppedRestoreRecordsWhatIsBack)
+{
+    const TempHome home;
+    const std::vector<std::string> paths = manyFiles(home, 300);
+    AppModel model(kCommand);
+    ASSERT_TRUE(cleaned(model, planOf(paths)));
+    const Uuid id = model.cleanUps()->history().front().id;
+    QObject::connect(model.cleanUps(), &CleanUps::restoreProgressed, [&] {
+        EXPECT_LE(model.cleanUps()->restoring(id)->done, 300);
+        EXPECT_TRUE(model.cleanUps()->restoring(id)->isStopping);
+    });
+    ASSERT_TRUE(model.cleanUps()->startRestore(model.cleanUps()->history().front()));
+    model.cleanUps()->cancelRestore(id);
+    ASSERT_TRUE(waitUntil([&] { return !model.cleanUps()->isRestoring(id); }));
+    const auto back = std::count_if(paths.begin(), paths.end(), TempHome::exists);
+    EXPECT_LT(back, 300);
+    const auto& items = model.cleanUps()->history().front().items;
+    EXPECT_EQ(std::ranges::count(items, true, &TrashedItem::restored), back);
+}
+
 TEST(AppModelCleanupTest, aModelThatGoesDuringARestoreRecordsWhatIsBack)
 {
     const TempHome home;

@@ -193,6 +193,21 @@ TEST_F(CleanerTest, restoresEachItemOnce)
     EXPECT_EQ(again.record, back.record);
 }
 
+TEST_F(CleanerTest, restoresWhatIsWantedAndTheRestLater)
+{
+    const CleanRecord cleaned = clean({entry(home.file("a")), entry(home.file("b")), entry(home.file("c"))});
+    std::vector<std::pair<int, int>> reports;
+    const auto report = [&](int done, int total, const std::string&) { reports.emplace_back(done, total); };
+    const auto one = Cleaner::restore(cleaned, {}, report, std::set{home.path("b"), home.path("elsewhere")});
+    EXPECT_EQ(one.restored, 1);
+    EXPECT_TRUE(TempHome::exists(home.path("b")));
+    EXPECT_FALSE(TempHome::exists(home.path("a")));
+    EXPECT_EQ(Cleaner::restore(one.record, {}, report, std::set<std::string>()).restored, 0);
+    EXPECT_EQ(Cleaner::restore(one.record, {}, report).restored, 2);
+    EXPECT_THAT(reports, ElementsAre(std::pair(0, 1), std::pair(1, 1), std::pair(0, 0), std::pair(0, 2),
+                                     std::pair(1, 2), std::pair(2, 2)));
+}
+
 TEST_F(CleanerTest, aRestoreThatFailsForSomeCanBeTriedAgain)
 {
     (void)home.file("a", "old");

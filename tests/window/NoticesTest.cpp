@@ -73,6 +73,37 @@ TEST(NoticesTest, onlyTheLatestChangeCanBeUndone)
     EXPECT_EQ(notices.text(), "");
 }
 
+TEST(NoticesTest, whatIsThereForLongLetsOthersPassAndIsTakenBack)
+{
+    const TempHome home;
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    Notices notices(app);
+    notices.setProperty("shortest", 30);
+    WindowState& window = WindowState::of(app);
+    bool isUndone = false;
+    window.say(
+        "long", [&] { isUndone = true; }, std::chrono::minutes(1));
+    ASSERT_TRUE(notices.isLasting() && notices.hasUndo());
+    notices.say(QStringLiteral("a"));
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "a"; }));
+    EXPECT_FALSE(notices.isLasting() || notices.hasUndo());
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "long"; })) << "it comes back";
+    notices.undo();
+    EXPECT_TRUE(isUndone);
+    EXPECT_EQ(notices.text(), "");
+    window.say(
+        "short", [] {}, std::chrono::milliseconds(50));
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "short"; }));
+    ASSERT_TRUE(waitUntil([&] { return notices.text().isEmpty(); })) << "it goes by itself";
+    window.say(
+        "again", [] {}, std::chrono::minutes(1));
+    ASSERT_TRUE(waitUntil([&] { return notices.text() == "again"; }));
+    window.unsay("other");
+    EXPECT_EQ(notices.text(), "again");
+    window.unsay("again");
+    EXPECT_EQ(notices.text(), "");
+}
+
 TEST(NoticesTest, tellsOfAPathThatCannotBeShown)
 {
     const TempHome home;

@@ -62,8 +62,7 @@ QString CleaningModel::stillOn() const
 
 QString CleaningModel::progressText() const
 {
-    return DisplayText::text(Message(WindowTexts::kDoneOf, {{"count", std::int64_t{m_state.done}},
-                                                            {"total", std::int64_t{m_state.total}}}));
+    return DisplayText::progress(m_state.done, m_state.total);
 }
 
 } // namespace orlen

@@ -1,30 +1,39 @@
 import QtQuick
 import Orlen.App
 
-/// A running clean-up, then its outcome.
+/// A running clean-up, then its outcome, which can be undone.
 Sheet {
     id: root
 
     required property Navigation navigation
 
-    title: cleaning.finished ? cleaning.movedText : Strings.movingToTrash
+    readonly property bool isWanted: root.navigation.cleaning || undo.returned
+    /// Whether something still moves, here or back.
+    readonly property bool isRunning: undo.running || !undo.ended && !cleaning.finished
+    readonly property bool isUndoing: undo.running || undo.ended
+    readonly property bool isStopping: undo.running ? undo.stopping : cleaning.stopping
+    readonly property int moved: root.isUndoing ? undo.restored : cleaning.moved
+    readonly property string progressText: undo.running ? undo.progressText : cleaning.progressText
+    readonly property string failedText: undo.ended ? undo.failedText : cleaning.failed > 0 ? cleaning.failedText : ""
+
+    title: undo.running ? Strings.restoring
+           : undo.ended ? undo.restoredText
+           : cleaning.finished ? cleaning.movedText : Strings.movingToTrash
     wantedWidth: Theme.widened(list.isWanted ? 520 : 440)
     wantedHeight: Math.ceil(head.implicitHeight + foot.implicitHeight) + list.taken + 64 + head.spacing
     closable: false
 
-    readonly property bool isWanted: root.navigation.cleaning
-    property real swell: cleaning.finished ? 1 : 0
-
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: content.forceActiveFocus(Qt.PopupFocusReason)
-
-    Spring on swell {
-        response: 0.6
-        damping: 0.8
-    }
+    // The button that started or stopped it is gone.
+    onIsRunningChanged: content.forceActiveFocus(Qt.OtherFocusReason)
 
     CleaningModel {
         id: cleaning
+    }
+
+    UndoModel {
+        id: undo
     }
 
     FocusScope {
@@ -33,9 +42,19 @@ Sheet {
         anchors.fill: parent
         focus: true
 
-        Keys.onEscapePressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
-        Keys.onReturnPressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
-        Keys.onEnterPressed: if (cleaning.finished) AppModel.cleanUps.dismissCleaning()
+        Keys.onEscapePressed: content.dismiss()
+        Keys.onReturnPressed: content.dismiss()
+        Keys.onEnterPressed: content.dismiss()
+        Keys.onPressed: event => {
+            event.accepted = event.matches(StandardKey.Undo);
+            if (event.accepted && !root.isRunning)
+                undo.undo();
+        }
+
+        function dismiss() {
+            if (!root.isRunning)
+                undo.dismiss();
+        }
 
         Column {
             id: head
@@ -45,44 +64,13 @@ Sheet {
             width: parent.width - 64
             spacing: Theme.spaceS
 
-            Item {
+            CleaningRing {
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: 92
-                height: 92
-
-                ProgressRing {
-                    anchors.fill: parent
-                    thickness: 8
-                    value: cleaning.fraction
-                    tone: cleaning.finished && cleaning.moved > 0 ? Theme.safeBase : Theme.accent
-                    track: Theme.track
-                    scale: 1 + 0.06 * root.swell * (1 - root.swell) * 4
-                    Accessible.role: Accessible.ProgressBar
-                    Accessible.name: cleaning.progressText
-
-                    Spring on value {
-                        response: 0.6
-                        damping: 0.8
-                    }
-                }
-
-                Symbol {
-                    anchors.centerIn: parent
-                    name: "trash"
-                    size: 30
-                    grows: false
-                    opacity: 1 - Math.min(1, root.swell * 2)
-                }
-
-                Symbol {
-                    anchors.centerIn: parent
-                    name: cleaning.moved > 0 ? "checkmark" : "exclamationmark.triangle.fill"
-                    colour: cleaning.moved > 0 ? Theme.safeText : Theme.reviewText
-                    size: 40
-                    grows: false
-                    scale: root.swell
-                    opacity: Math.min(1, Math.max(0, root.swell))
-                }
+                value: undo.running ? undo.fraction : undo.ended ? 1 : cleaning.fraction
+                progressText: root.progressText
+                symbol: root.isUndoing ? "arrow.uturn.backward" : "trash"
+                finished: !root.isRunning
+                successful: root.moved > 0
             }
 
             TitleText {
@@ -97,8 +85,8 @@ Sheet {
             BodyText {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.finished ? Words.facts([cleaning.planTitle, cleaning.freedText])
-                                        : cleaning.progressText
+                text: root.isRunning ? root.progressText
+                                     : Words.facts([cleaning.planTitle, undo.ended ? "" : cleaning.freedText])
                 color: Theme.secondary
                 font.weight: Font.DemiBold
             }
@@ -106,9 +94,9 @@ Sheet {
             BodyText {
                 objectName: "cleaningFailed"
                 width: parent.width
-                visible: cleaning.finished && cleaning.failed > 0
+                visible: !root.isRunning && root.failedText !== ""
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.failedText
+                text: root.failedText
                 color: Theme.reviewText
                 font.weight: Font.Medium
             }
@@ -117,7 +105,7 @@ Sheet {
         FailureList {
             id: list
 
-            readonly property bool isWanted: cleaning.finished && list.count > 0
+            readonly property bool isWanted: !root.isRunning && list.count > 0
             /// Height that the other texts leave free in the window.
             readonly property real room: (root.parent ? root.parent.height : 720) - 48 - 64 - 3 * head.spacing
                                          - head.implicitHeight - foot.implicitHeight
@@ -130,7 +118,8 @@ Sheet {
             anchors.right: head.right
             height: Math.floor(Math.max(80, Math.min(list.contentHeight, 260 * Theme.textScale, list.room)))
             visible: list.isWanted
-            failures: cleaning.failures
+            failures: undo.ended ? undo.failures : cleaning.failures
+            title: undo.ended ? Strings.notPutBack : Strings.notMoved
         }
 
         Column {
@@ -144,9 +133,9 @@ Sheet {
 
             SmallText {
                 width: parent.width
-                visible: !cleaning.finished
+                visible: root.isRunning
                 horizontalAlignment: Text.AlignHCenter
-                text: cleaning.current
+                text: undo.running ? undo.current : cleaning.current
                 elide: Text.ElideMiddle
                 color: Theme.tertiary
             }
@@ -154,14 +143,14 @@ Sheet {
             Paragraph {
                 width: parent.width
                 topPadding: Theme.spaceXs
-                visible: cleaning.finished
+                visible: !root.isRunning && !undo.ended
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.nothingDeleted
             }
 
             Paragraph {
                 width: parent.width
-                visible: cleaning.finished && !cleaning.recorded
+                visible: !root.isRunning && !(undo.ended ? undo.recorded : cleaning.recorded)
                 horizontalAlignment: Text.AlignHCenter
                 text: Strings.notRecorded
                 color: Theme.reviewText
@@ -169,7 +158,7 @@ Sheet {
 
             Paragraph {
                 width: parent.width
-                visible: cleaning.finished && cleaning.stillOn !== ""
+                visible: !root.isRunning && !undo.ended && cleaning.stillOn !== ""
                 horizontalAlignment: Text.AlignHCenter
                 text: cleaning.stillOn
                 color: Theme.reviewText
@@ -180,21 +169,24 @@ Sheet {
                 height: 4
             }
 
-            AppButton {
-                objectName: "cleaningDone"
+            CleaningButtons {
                 anchors.horizontalCenter: parent.horizontalCenter
-                visible: cleaning.finished
-                primary: true
-                text: Strings.done
-                onClicked: AppModel.cleanUps.dismissCleaning()
+                visible: !root.isRunning
+                room: foot.width
+                canUndo: undo.available
+                canOpenTrash: !undo.ended && cleaning.moved > 0
+                onUndoRequested: undo.undo()
+                onTrashRequested: undo.openTrash()
+                onDoneRequested: content.dismiss()
             }
 
             AppButton {
+                objectName: "cleaningStop"
                 anchors.horizontalCenter: parent.horizontalCenter
-                visible: !cleaning.finished
-                enabled: !cleaning.stopping
-                text: cleaning.stopping ? Strings.stopping : Strings.stop
-                onClicked: cleaning.stop()
+                visible: root.isRunning
+                enabled: !root.isStopping
+                text: root.isStopping ? Strings.stopping : Strings.stop
+                onClicked: undo.running ? undo.stop() : cleaning.stop()
             }
         }
     }

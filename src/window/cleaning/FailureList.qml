@@ -6,11 +6,12 @@ KeyedList {
     id: root
 
     required property FailureListModel failures
+    required property string title
 
     model: root.failures
     currentIndex: 0
     cacheBuffer: 400
-    Accessible.name: Strings.notMoved
+    Accessible.name: root.title
 
     Rectangle {
         anchors.fill: parent

@@ -48,7 +48,12 @@ Grid {
 
             objectName: "finding-" + card.findingId
             width: root.cardWidth
-            activeFocusOnTab: card.index === Math.min(root.current, cards.count - 1)
+            // Another card may come before the one that has the focus.
+            activeFocusOnTab: card.activeFocus || card.index === Math.min(root.current, cards.count - 1)
+            onIndexChanged: {
+                if (card.activeFocus)
+                    root.current = card.index;
+            }
             onClicked: root.chosen(card.findingId)
             onActiveFocusChanged: {
                 if (!card.activeFocus)

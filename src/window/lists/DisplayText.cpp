@@ -100,6 +100,11 @@ QString counted(std::int64_t count, const Text& words)
     return text(Message(words, {{"count", count}}));
 }
 
+QString progress(std::int64_t done, std::int64_t total)
+{
+    return text(Message(WindowTexts::kDoneOf, {{"count", done}, {"total", total}}));
+}
+
 QString selectedOf(std::int64_t count, std::int64_t total)
 {
     return text(Message(WindowTexts::kSelectedOf, {{"count", count}, {"total", total}}));

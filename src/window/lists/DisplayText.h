@@ -46,6 +46,8 @@ namespace orlen::DisplayText {
 [[nodiscard]] Value percentOf(double share);
 /// A text with the place "count".
 [[nodiscard]] QString counted(std::int64_t count, const Text& words);
+/// "12 of 340"
+[[nodiscard]] QString progress(std::int64_t done, std::int64_t total);
 /// "12 of 340 selected"
 [[nodiscard]] QString selectedOf(std::int64_t count, std::int64_t total);
 /// "34 ms", "0.4 s", "12 s", "3 min 20 s".

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import QtQuick.Window
 import Orlen.App
 
 /// Shows passing notices at the bottom of the window, above all sheets.
@@ -16,7 +17,10 @@ T.Popup {
     property string shownText: ""
     property bool shownPath: false
     property bool shownUndo: false
+    /// What had the keyboard before the bar.
+    property Item cameFrom: null
     readonly property string text: root.notices.text
+    readonly property bool isFocused: copy.activeFocus || undo.activeFocus || close.activeFocus
     readonly property real roomForText: (parent ? parent.width - root.besideScreen - 48 : 620) - buttons.width - 64
 
     parent: T.Overlay.overlay
@@ -39,7 +43,22 @@ T.Popup {
         root.shownUndo = root.notices.hasUndo;
         root.notices.announce(sheet);
     }
-    onAboutToHide: root.notices.dismiss()
+    onAboutToHide: {
+        root.giveFocusBack();
+        root.notices.dismiss();
+    }
+
+    function takeFocus() {
+        root.cameFrom = root.contentItem.Window.activeFocusItem;
+        const first = root.shownUndo ? undo : root.shownPath ? copy : close;
+        first.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
+    function giveFocusBack() {
+        if (root.isFocused && root.cameFrom !== null)
+            root.cameFrom.forceActiveFocus(Qt.ShortcutFocusReason);
+        root.cameFrom = null;
+    }
 
     enter: Transition {
         NumberAnimation {
@@ -66,18 +85,19 @@ T.Popup {
         border.width: 1
         border.color: Theme.tertiary
         Accessible.role: Accessible.AlertMessage
-        Accessible.name: root.shownText
+        Accessible.name: Strings.spoken([root.shownText, root.shownUndo ? Strings.undo : ""])
     }
 
     Binding {
         target: root.notices
         property: "held"
-        value: root.visible && (hover.hovered || copy.activeFocus || undo.activeFocus || close.activeFocus)
+        value: root.visible && (hover.hovered || root.isFocused)
     }
 
     contentItem: Item {
         Shortcut {
-            enabled: root.visible
+            // What is there for long leaves the key to others, unless the keyboard is on it.
+            enabled: root.visible && (!root.notices.lasting || root.isFocused)
             sequences: [StandardKey.Cancel]
             onActivated: root.notices.dismiss()
         }
@@ -88,6 +108,13 @@ T.Popup {
             context: Qt.ApplicationShortcut
             sequences: [StandardKey.Undo]
             onActivated: root.notices.undo()
+        }
+
+        Shortcut {
+            enabled: root.visible
+            context: Qt.ApplicationShortcut
+            sequence: "F6"
+            onActivated: root.isFocused ? root.giveFocusBack() : root.takeFocus()
         }
 
         HoverHandler {

@@ -32,19 +32,21 @@ Notices::Notices(AppModel& app)
         connect(reveal, &Reveal::failed, this, [this](const QString& path) {
             add({DisplayText::text(Message(WindowTexts::kNoProgram, {{"path", path.toStdString()}})),
                  path,
+                 {},
                  {}});
         });
     connect(&WindowState::of(app), &WindowState::said, this,
-            [this](const QString& text, const std::function<void()>& undo) {
-                add({text, {}, undo});
+            [this](const QString& text, const std::function<void()>& undo, std::chrono::milliseconds time) {
+                add({text, {}, undo, time});
             });
+    connect(&WindowState::of(app), &WindowState::unsaid, this, &Notices::takeBack);
     for (const Message& sentence : app.notices())
         say(DisplayText::text(sentence));
 }
 
 void Notices::say(const QString& text)
 {
-    add({text, {}, {}});
+    add({text, {}, {}, {}});
 }
 
 bool Notices::isSame(const Notice& a, const Notice& b)
@@ -57,7 +59,7 @@ void Notices::add(Notice notice)
     if (notice.text.isEmpty() || (!m_waiting.empty() && isSame(m_waiting.back(), notice)))
         return;
     if (isSame(notice, m_shown)) {
-        m_shown.undo = std::move(notice.undo);
+        m_shown = std::move(notice);
         letRead();
         return;
     }
@@ -68,8 +70,27 @@ void Notices::add(Notice notice)
             goOn();
     }
     m_waiting.push_back(std::move(notice));
+    if (isLasting())
+        giveWay();
     if (m_shown.text.isEmpty() && !m_timer.isActive())
         goOn();
+}
+
+/// Shows the others first, and what is left of the time afterwards.
+void Notices::giveWay()
+{
+    if (m_timer.isActive())
+        m_shown.time = m_timer.remainingTimeAsDuration() + std::chrono::milliseconds(1);
+    if (m_shown.time > std::chrono::milliseconds(m_shortest))
+        m_waiting.push_back(m_shown);
+    goOn();
+}
+
+void Notices::takeBack(const QString& text)
+{
+    std::erase_if(m_waiting, [&](const Notice& notice) { return notice.text == text; });
+    if (m_shown.text == text)
+        dismiss();
 }
 
 void Notices::dismiss()
@@ -113,6 +134,8 @@ void Notices::letRead()
 
 std::chrono::milliseconds Notices::readingTime() const
 {
+    if (isLasting())
+        return m_shown.time;
     const std::chrono::milliseconds shortest(m_shortest);
     const std::chrono::milliseconds wanted = kPerCharacter * m_shown.text.size();
     return std::max(shortest, wanted) * (hasPath() || hasUndo() ? kButtonFactor : 1);

@@ -14,8 +14,8 @@
 namespace orlen {
 
 /// Short notices in the window, shown one after another, each long enough to be read; only the latest of
-/// those that tell of a change to undo. Also reports files that could not be shown in the file manager. Main
-/// thread.
+/// those that tell of a change to undo. One with a time of its own lets others pass. Also reports files that
+/// could not be shown in the file manager. Main thread.
 class Notices : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -25,6 +25,8 @@ class Notices : public QObject {
     Q_PROPERTY(bool hasPath READ hasPath NOTIFY changed)
     /// Whether what the notice tells of can be undone.
     Q_PROPERTY(bool hasUndo READ hasUndo NOTIFY changed)
+    /// Whether the notice is shown for a long time, so that it must not be in the way.
+    Q_PROPERTY(bool lasting READ isLasting NOTIFY changed)
     /// Whether the pointer or the keyboard focus is on the notice, which keeps it open.
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
     /// Milliseconds a short notice is shown.
@@ -37,6 +39,7 @@ public:
     [[nodiscard]] QString text() const { return m_shown.text; }
     [[nodiscard]] bool hasPath() const { return !m_shown.path.isEmpty(); }
     [[nodiscard]] bool hasUndo() const { return m_shown.undo != nullptr; }
+    [[nodiscard]] bool isLasting() const { return m_shown.time.count() > 0; }
     [[nodiscard]] bool isHeld() const { return m_isHeld; }
     void setHeld(bool isHeld);
 
@@ -59,12 +62,15 @@ Q_SIGNALS:
 private:
     struct Notice {
         QString text;
-        QString path;               ///< empty for none
-        std::function<void()> undo; ///< may be empty
+        QString path;                     ///< empty for none
+        std::function<void()> undo;       ///< may be empty
+        std::chrono::milliseconds time{}; ///< to be shown for; 0: as long as it takes to read
     };
 
     [[nodiscard]] static bool isSame(const Notice& a, const Notice& b);
     void add(Notice notice);
+    void takeBack(const QString& text);
+    void giveWay();
     void goOn();
     void letRead();
     [[nodiscard]] std::chrono::milliseconds readingTime() const;

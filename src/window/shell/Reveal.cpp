@@ -1,5 +1,6 @@
 #include "window/shell/Reveal.h"
 
+#include "clean/trash/Trash.h"
 #include "platform/desktop/SessionBus.h"
 #include "platform/files/Folder.h"
 #include "platform/text/PathText.h"
@@ -75,7 +76,14 @@ void Reveal::show(const std::string& path)
 void Reveal::open(const std::string& path)
 {
     if (theReveal != nullptr)
-        theReveal->runOpener(path, theReveal->reportOf(path));
+        theReveal->runOpener(reference(path), theReveal->reportOf(path));
+}
+
+void Reveal::openTrash()
+{
+    if (theReveal != nullptr)
+        theReveal->runOpener(QStringLiteral("trash:///"),
+                             [] { open(PathText::join(Trash::homeFolder(), "files")); });
 }
 
 void Reveal::askFileManager(const std::string& path)
@@ -114,10 +122,10 @@ void Reveal::askPortal(const std::string& path)
 
 void Reveal::openFolder(const std::string& path)
 {
-    runOpener(std::string(PathText::parent(path)), reportOf(path));
+    runOpener(reference(std::string(PathText::parent(path))), reportOf(path));
 }
 
-void Reveal::runOpener(const std::string& target, const Failure& failure)
+void Reveal::runOpener(const QString& target, const Failure& failure)
 {
     // No parent: destroying it would kill the started program, which now belongs to the user.
     auto* process = new QProcess;
@@ -139,7 +147,7 @@ void Reveal::runOpener(const std::string& target, const Failure& failure)
         environment.remove(QString::fromUtf8(SessionBus::kVariable));
         process->setProcessEnvironment(environment);
     }
-    process->start(QStringLiteral("xdg-open"), {reference(target)});
+    process->start(QStringLiteral("xdg-open"), {target});
 }
 
 Reveal::Failure Reveal::reportOf(const std::string& path)

@@ -29,6 +29,8 @@ public:
     static void show(const std::string& path);
     /// Opens the file or folder itself with its default program; ignored without an instance.
     static void open(const std::string& path);
+    /// Shows the Trash, all volumes together where the file manager can; ignored without an instance.
+    static void openTrash();
 
 Q_SIGNALS:
     /// Nothing could show or open the path. The text is for display and the clipboard.
@@ -40,7 +42,7 @@ private:
     void askFileManager(const std::string& path);
     void askPortal(const std::string& path);
     void openFolder(const std::string& path);
-    void runOpener(const std::string& target, const Failure& failure);
+    void runOpener(const QString& target, const Failure& failure);
     [[nodiscard]] Failure reportOf(const std::string& path);
 
     Workers m_workers; ///< last, so that no worker outlives what it shares

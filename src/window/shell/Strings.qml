@@ -132,6 +132,9 @@ QtObject {
     readonly property string movingToTrash: Words.message("Moving to the Trash…")
     readonly property string notRecorded: Words.message("The history could not be saved. Orlen finishes it when it starts again.")
     readonly property string notMoved: Words.message("What couldn't be moved")
+    readonly property string notPutBack: Words.message("What couldn't be restored")
+    // TRANSLATORS: A button: shows the Trash in the file manager.
+    readonly property string openTrash: Words.message("Open Trash")
     readonly property string nothingDeleted: Words.message("Nothing was deleted. The space comes back when you empty the Trash in Finder, and you can put everything back from History until then.")
     readonly property string filter: Words.messageIn("a field", "Filter")
     readonly property string clearFilter: Words.message("Clear Filter")
@@ -379,6 +382,7 @@ QtObject {
                 { text: Words.message("Next or previous control"), keys: [[root.tab], [root.shift, root.tab]] },
                 { text: Words.message("Close a sheet"), keys: [[root.esc]] },
                 { text: Words.message("Undo what a notice tells of"), keys: [[root.ctrl, "Z"]] },
+                { text: Words.message("Go to a notice and back"), keys: [["F6"]] },
                 { text: Words.message("Show these shortcuts"), keys: [[root.ctrl, "?"], ["F1"]] },
                 { text: Words.messageIn("shortcut", "Quit"), keys: [[root.ctrl, "Q"], [root.ctrl, "W"]] }
             ]

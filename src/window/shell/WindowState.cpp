@@ -18,9 +18,14 @@ void WindowState::setSheet(std::optional<SheetKind> sheet)
     Q_EMIT sheetChanged();
 }
 
-void WindowState::say(const QString& text, const std::function<void()>& undo)
+void WindowState::say(const QString& text, const std::function<void()>& undo, std::chrono::milliseconds time)
 {
-    Q_EMIT said(text, undo);
+    Q_EMIT said(text, undo, time);
+}
+
+void WindowState::unsay(const QString& text)
+{
+    Q_EMIT unsaid(text);
 }
 
 void WindowState::setRequestedScreen(std::optional<Screens::Screen> screen)

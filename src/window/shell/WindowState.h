@@ -48,12 +48,21 @@ public:
     [[nodiscard]] std::chrono::milliseconds overlayMinimum() const { return m_overlayMinimum; }
     void setOverlayMinimum(std::chrono::milliseconds time) { m_overlayMinimum = time; }
 
-    /// Shows a notice. With `undo`, the user can take back what it tells of.
-    void say(const QString& text, const std::function<void()>& undo = {});
+    /// How long a clean-up can be undone from the notice about it.
+    [[nodiscard]] std::chrono::milliseconds undoTime() const { return m_undoTime; }
+    void setUndoTime(std::chrono::milliseconds time) { m_undoTime = time; }
+
+    /// Shows a notice. With `undo`, the user can take back what it tells of. With a time, it is there that
+    /// long, and gives way to others meanwhile.
+    void say(const QString& text, const std::function<void()>& undo = {},
+             std::chrono::milliseconds time = {});
+    /// Takes a notice back that is shown or waits.
+    void unsay(const QString& text);
 
 Q_SIGNALS:
     void sheetChanged();
-    void said(const QString& text, const std::function<void()>& undo);
+    void said(const QString& text, const std::function<void()>& undo, std::chrono::milliseconds time);
+    void unsaid(const QString& text);
     void requestedScreenChanged();
 
 private:
@@ -62,6 +71,7 @@ private:
     std::optional<SheetKind> m_sheet;
     std::optional<Screens::Screen> m_requestedScreen;
     std::chrono::milliseconds m_overlayMinimum{1800};
+    std::chrono::milliseconds m_undoTime{60'000};
 };
 
 } // namespace orlen

@@ -11,7 +11,6 @@
 #include <QAccessible>
 #include <QBuffer>
 #include <QDirIterator>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeDatabase>
@@ -219,6 +218,20 @@ void Stage::move(const QString& name, const QString& other) const
 {
     QFile::rename(QString::fromStdString(m_home->path(name.toStdString())),
                   QString::fromStdString(m_home->path(other.toStdString())));
+}
+
+void Stage::remove(const QString& name) const
+{
+    std::filesystem::remove_all(m_home->path(name.toStdString()));
+}
+
+void Stage::writeTo(const QString& name)
+{
+    m_written.close();
+    if (name.isEmpty())
+        return;
+    m_written.setFileName(QString::fromStdString(m_home->path(name.toStdString())));
+    m_written.open(QIODevice::Append);
 }
 
 void Stage::makeOldDownloads() const

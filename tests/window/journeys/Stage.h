@@ -4,6 +4,7 @@
 #include "support/TempHome.h"
 #include "window/cleaning/FailureListModel.h"
 
+#include <QFile>
 #include <QObject>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -38,6 +39,10 @@ public:
     Q_INVOKABLE void link(const QString& name, const QString& target) const;
     /// Renames a file or folder.
     Q_INVOKABLE void move(const QString& name, const QString& other) const;
+    /// Removes a file or folder.
+    Q_INVOKABLE void remove(const QString& name) const;
+    /// Has a program write to a file, or none if the name is empty.
+    Q_INVOKABLE void writeTo(const QString& name);
     /// Puts what was not used for months into Downloads: "old.txt", and a folder "papers" with a "paper.txt",
     /// both copies of the report in Documents.
     Q_INVOKABLE void makeOldDownloads() const;
@@ -67,6 +72,7 @@ private:
     [[nodiscard]] QStringList names() const;
 
     double m_textScale = 1;
+    QFile m_written; ///< by another program
     std::optional<TempHome> m_home;
     std::unique_ptr<AppModel> m_model;
 };
