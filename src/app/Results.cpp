@@ -3,6 +3,7 @@
 #include "app/AppTexts.h"
 #include "app/DiskAccess.h"
 #include "app/ExclusionList.h"
+#include "app/FindingLists.h"
 #include "app/NewKeeper.h"
 #include "app/Storage.h"
 #include "clean/Safety.h"
@@ -25,63 +26,6 @@ namespace {
 
 constexpr double kBytesPerMegabyte = 1'000'000;
 
-bool comesBefore(const Finding& a, const Finding& b)
-{
-    const std::pair left(a.safeSize(), a.totalSize());
-    const std::pair right(b.safeSize(), b.totalSize());
-    return left > right;
-}
-
-std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<std::string>& selection)
-{
-    std::vector<const FileEntry*> entries;
-    for (const FileEntry& entry : finding.items) {
-        if (selection.contains(entry.path))
-            entries.push_back(&entry);
-    }
-    return entries;
-}
-
-std::set<std::string> preselected(const std::vector<Finding>& findings)
-{
-    std::set<std::string> paths;
-    for (const Finding& finding : findings) {
-        if (finding.rating != Rating::safe || !finding.cleanable)
-            continue;
-        for (const FileEntry& entry : finding.items) {
-            if (finding.effectiveRating(entry) == Rating::safe)
-                paths.insert(entry.path);
-        }
-    }
-    // Moving a folder would also move entries that need a review first.
-    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
-    return paths;
-}
-
-/// Whether the path, or a folder that it is in, is one of these.
-bool isIn(const std::set<std::string>& paths, std::string_view path)
-{
-    for (; path.size() > 1; path = PathText::parent(path)) {
-        if (paths.contains(std::string(path)))
-            return true;
-    }
-    return false;
-}
-
-/// Puts the entries back among the findings that they were taken from.
-void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)
-{
-    for (Finding& finding : taken) {
-        const auto same = std::ranges::find(findings, finding.kind, &Finding::kind);
-        if (same == findings.end()) {
-            findings.push_back(std::move(finding));
-            continue;
-        }
-        std::ranges::move(finding.items, std::back_inserter(same->items));
-        std::ranges::stable_sort(same->items, std::greater(), &FileEntry::size);
-    }
-}
-
 } // namespace
 
 struct Results::ScanResult {
@@ -100,7 +44,10 @@ Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers
         applyExclusions(std::move(selection));
     });
     // Before anyone is notified of the new findings.
-    connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
+    connect(this, &Results::findingsChanged, this, [this] {
+        m_listed.reset();
+        m_safe.reset();
+    });
 }
 
 Results::~Results()
@@ -164,9 +111,11 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_excluded.clear();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     m_photoCoverage = engine->photoCoverage();
-    applyExclusions(preselected(m_findings));
+    applyExclusions(FindingLists::safePaths(m_findings));
     m_storage.setBreakdown(std::move(result.breakdown));
-    m_lastScan = std::chrono::system_clock::now();
+    m_scanned = moment(std::chrono::system_clock::now());
+    m_scanned->largeThreshold = engine->options().largeThreshold;
+    m_lastScan = m_scanned->time;
     Q_EMIT lastScanChanged();
     m_storage.recordSnapshot();
     setPhase(Phase::results);
@@ -174,9 +123,9 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
 
 void Results::applyExclusions(std::set<std::string> selection)
 {
-    giveBack(m_findings, std::exchange(m_excluded, {}));
+    FindingLists::giveBack(m_findings, std::exchange(m_excluded, {}));
     m_excluded = m_exclusions.current().takeFrom(m_findings);
-    std::ranges::stable_sort(m_findings, comesBefore);
+    std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     Q_EMIT findingsChanged();
 
     m_excludedSelection.clear();
@@ -237,7 +186,7 @@ std::vector<Finding> Results::photoFindings() const
 
 std::int64_t Results::selectedSize(const Finding& finding) const
 {
-    return PathSelection::sizeOf(selectedIn(finding, m_selection), listed());
+    return PathSelection::sizeOf(FindingLists::selectedIn(finding, m_selection), listed());
 }
 
 PathSelection::Amount Results::selectedAmount() const
@@ -245,7 +194,7 @@ PathSelection::Amount Results::selectedAmount() const
     std::vector<const FileEntry*> entries;
     for (const Finding& finding : m_findings) {
         if (finding.cleanable)
-            std::ranges::copy(selectedIn(finding, m_selection), std::back_inserter(entries));
+            std::ranges::copy(FindingLists::selectedIn(finding, m_selection), std::back_inserter(entries));
     }
     return PathSelection::amountOf(std::move(entries));
 }
@@ -294,6 +243,36 @@ void Results::deselect(std::span<const std::string> paths)
         Q_EMIT selectionChanged();
 }
 
+const std::set<std::string>& Results::safePaths() const
+{
+    if (!m_safe)
+        m_safe = FindingLists::safePaths(m_findings);
+    return *m_safe;
+}
+
+void Results::selectSafe()
+{
+    std::set<std::string> selection = m_selection;
+    selection.insert(safePaths().begin(), safePaths().end());
+    setSelection(std::move(selection));
+}
+
+bool Results::isSafeSelected() const
+{
+    return std::ranges::includes(m_selection, safePaths());
+}
+
+ScanMoment Results::moment(TimePoint now) const
+{
+    const StorageBreakdown& breakdown = m_storage.breakdown();
+    return {now, breakdown.free, breakdown.total, largeThreshold()};
+}
+
+Freshness Results::freshness(TimePoint now) const
+{
+    return m_scanned ? orlen::freshness(*m_scanned, moment(now)) : Freshness::fresh;
+}
+
 const PathTree& Results::listed() const
 {
     if (!m_listed)
@@ -320,7 +299,7 @@ void Results::removeFromFindings(const std::set<std::string>& paths)
 {
     checkThread();
     const auto goes = [&](const FileEntry& entry) {
-        return paths.contains(entry.path) || (entry.kept && isIn(paths, entry.kept->path));
+        return paths.contains(entry.path) || (entry.kept && FindingLists::isIn(paths, entry.kept->path));
     };
     std::set<std::string> selection = m_selection;
     for (std::vector<Finding>* findings : {&m_findings, &m_excluded}) {
@@ -363,7 +342,7 @@ void Results::exchange(const NewKeeper::Exchange& exchange, const FileEntry& for
     std::set<std::string> selection = m_selection;
     if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
         selection.insert(former.path);
-    std::ranges::stable_sort(m_findings, comesBefore);
+    std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     Q_EMIT findingsChanged();
     setSelection(std::move(selection));
 }
