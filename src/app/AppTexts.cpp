@@ -61,6 +61,14 @@ Message stillOn(const std::string& service)
     return {kStillOn, {{"service", service}}};
 }
 
+Message timeLeft(std::chrono::duration<double> time)
+{
+    using namespace std::chrono;
+    if (time < minutes(1))
+        return kNearlyDone;
+    return {kMinutesLeft, {{"count", std::int64_t{round<minutes>(time).count()}}}};
+}
+
 Message unreadableFolders(std::int64_t count)
 {
     return {kUnreadableFolders, {{"count", count}}};

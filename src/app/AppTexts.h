@@ -2,6 +2,7 @@
 
 #include "model/Message.h"
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -73,6 +74,11 @@ inline constexpr Text kUnreadableFolders =
     messages("{count} folder could not be read", "{count} folders could not be read");
 /// "2 folders could not be read"
 [[nodiscard]] Message unreadableFolders(std::int64_t count);
+
+// How long a step of a scan will still take.
+inline constexpr Text kMinutesLeft = messages("{count} minute left", "{count} minutes left");
+inline constexpr Text kNearlyDone = message("Less than a minute left");
+[[nodiscard]] Message timeLeft(std::chrono::duration<double> time);
 
 /// The title of a clean-up in the history, which keeps it in English. One that no plan has is taken as it is.
 [[nodiscard]] Message titleOf(const std::string& kept);

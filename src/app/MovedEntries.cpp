@@ -1,26 +1,14 @@
 #include "app/MovedEntries.h"
 
+#include "app/FindingLists.h"
 #include "platform/files/FileStatus.h"
-#include "platform/text/PathText.h"
 
 #include <algorithm>
-#include <functional>
-#include <iterator>
-#include <string_view>
 #include <utility>
 
 namespace orlen {
 
 namespace {
-
-bool isAtOrBelowOne(const std::set<std::string>& places, std::string_view path)
-{
-    for (; path.size() > 1; path = PathText::parent(path)) {
-        if (places.contains(std::string(path)))
-            return true;
-    }
-    return false;
-}
 
 /// Whether the stamp describes what is there today. Where something was put back, the time of change may
 /// differ, and is renewed.
@@ -58,7 +46,7 @@ void dropEmpty(std::vector<Finding>& findings)
 
 bool MovedEntries::isAbout(const FileEntry& entry, const std::set<std::string>& places)
 {
-    return isAtOrBelowOne(places, entry.path) || (entry.kept && isAtOrBelowOne(places, entry.kept->path));
+    return FindingLists::isIn(places, entry.path) || (entry.kept && FindingLists::isIn(places, entry.kept->path));
 }
 
 std::set<std::string> MovedEntries::take(std::vector<Finding>& from, const std::set<std::string>& selected,
@@ -79,7 +67,7 @@ std::set<std::string> MovedEntries::take(std::vector<Finding>& from, const std::
     }
     dropEmpty(from);
     dropEmpty(taken);
-    giveBack(findings, std::move(taken));
+    FindingLists::giveBack(findings, std::move(taken));
     for (const std::string& path : paths) {
         if (selected.contains(path))
             selection.insert(path);
@@ -121,19 +109,6 @@ MovedEntries MovedEntries::release(MovedEntries wanted)
     dropEmpty(findings);
     dropEmpty(wanted.findings);
     return wanted;
-}
-
-void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)
-{
-    for (Finding& finding : taken) {
-        const auto same = std::ranges::find(findings, finding.kind, &Finding::kind);
-        if (same == findings.end()) {
-            findings.push_back(std::move(finding));
-            continue;
-        }
-        std::ranges::move(finding.items, std::back_inserter(same->items));
-        std::ranges::stable_sort(same->items, std::greater(), &FileEntry::size);
-    }
 }
 
 } // namespace orlen

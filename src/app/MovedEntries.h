@@ -2,7 +2,6 @@
 
 #include "model/Finding.h"
 
-#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -33,8 +32,5 @@ struct MovedEntries {
     /// Forgets what is in `wanted` too, and returns those of its entries that were still here. Pure.
     [[nodiscard]] MovedEntries release(MovedEntries wanted);
 };
-
-/// Puts entries back among the findings that they were taken from, by size. Pure.
-void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken);
 
 } // namespace orlen

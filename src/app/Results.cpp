@@ -3,6 +3,7 @@
 #include "app/AppTexts.h"
 #include "app/DiskAccess.h"
 #include "app/ExclusionList.h"
+#include "app/FindingLists.h"
 #include "app/NewKeeper.h"
 #include "app/Storage.h"
 #include "clean/Safety.h"
@@ -23,39 +24,6 @@ namespace orlen {
 namespace {
 
 constexpr double kBytesPerMegabyte = 1'000'000;
-
-bool comesBefore(const Finding& a, const Finding& b)
-{
-    const std::pair left(a.safeSize(), a.totalSize());
-    const std::pair right(b.safeSize(), b.totalSize());
-    return left > right;
-}
-
-std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<std::string>& selection)
-{
-    std::vector<const FileEntry*> entries;
-    for (const FileEntry& entry : finding.items) {
-        if (selection.contains(entry.path))
-            entries.push_back(&entry);
-    }
-    return entries;
-}
-
-std::set<std::string> preselected(const std::vector<Finding>& findings)
-{
-    std::set<std::string> paths;
-    for (const Finding& finding : findings) {
-        if (finding.rating != Rating::safe || !finding.cleanable)
-            continue;
-        for (const FileEntry& entry : finding.items) {
-            if (finding.effectiveRating(entry) == Rating::safe)
-                paths.insert(entry.path);
-        }
-    }
-    // Moving a folder would also move entries that need a review first.
-    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
-    return paths;
-}
 
 /// The finding of what the Trash holds, none when it is empty.
 std::vector<Finding> trashNow(const std::stop_token& stop)
@@ -82,7 +50,10 @@ Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers
 {
     connect(&exclusions, &ExclusionList::changed, this, [this] { applyExclusions(everythingSelected()); });
     // Before anyone is notified of the new findings.
-    connect(this, &Results::findingsChanged, this, [this] { m_listed.reset(); });
+    connect(this, &Results::findingsChanged, this, [this] {
+        m_listed.reset();
+        m_safe.reset();
+    });
 }
 
 Results::~Results()
@@ -148,9 +119,11 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_trashLook.drop();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     m_photoCoverage = engine->photoCoverage();
-    applyExclusions(preselected(m_findings));
+    applyExclusions(FindingLists::safePaths(m_findings));
     m_storage.setBreakdown(std::move(result.breakdown));
-    m_lastScan = std::chrono::system_clock::now();
+    m_scanned = moment(std::chrono::system_clock::now());
+    m_scanned->largeThreshold = engine->options().largeThreshold;
+    m_lastScan = m_scanned->time;
     Q_EMIT lastScanChanged();
     m_storage.recordSnapshot();
     setPhase(Phase::results);
@@ -165,9 +138,9 @@ std::set<std::string> Results::everythingSelected() const
 
 void Results::applyExclusions(std::set<std::string> selection)
 {
-    giveBack(m_findings, std::exchange(m_excluded, {}));
+    FindingLists::giveBack(m_findings, std::exchange(m_excluded, {}));
     m_excluded = m_exclusions.current().takeFrom(m_findings);
-    std::ranges::stable_sort(m_findings, comesBefore);
+    std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     Q_EMIT findingsChanged();
 
     m_excludedSelection.clear();
@@ -228,7 +201,7 @@ std::vector<Finding> Results::photoFindings() const
 
 std::int64_t Results::selectedSize(const Finding& finding) const
 {
-    return PathSelection::sizeOf(selectedIn(finding, m_selection), listed());
+    return PathSelection::sizeOf(FindingLists::selectedIn(finding, m_selection), listed());
 }
 
 PathSelection::Amount Results::selectedAmount() const
@@ -236,7 +209,7 @@ PathSelection::Amount Results::selectedAmount() const
     std::vector<const FileEntry*> entries;
     for (const Finding& finding : m_findings) {
         if (finding.cleanable)
-            std::ranges::copy(selectedIn(finding, m_selection), std::back_inserter(entries));
+            std::ranges::copy(FindingLists::selectedIn(finding, m_selection), std::back_inserter(entries));
     }
     return PathSelection::amountOf(std::move(entries));
 }
@@ -283,6 +256,36 @@ void Results::deselect(std::span<const std::string> paths)
         PathSelection::untick(m_selection, listed(), path);
     if (m_selection.size() != before)
         Q_EMIT selectionChanged();
+}
+
+const std::set<std::string>& Results::safePaths() const
+{
+    if (!m_safe)
+        m_safe = FindingLists::safePaths(m_findings);
+    return *m_safe;
+}
+
+void Results::selectSafe()
+{
+    std::set<std::string> selection = m_selection;
+    selection.insert(safePaths().begin(), safePaths().end());
+    setSelection(std::move(selection));
+}
+
+bool Results::isSafeSelected() const
+{
+    return std::ranges::includes(m_selection, safePaths());
+}
+
+ScanMoment Results::moment(TimePoint now) const
+{
+    const StorageBreakdown& breakdown = m_storage.breakdown();
+    return {now, breakdown.free, breakdown.total, largeThreshold()};
+}
+
+Freshness Results::freshness(TimePoint now) const
+{
+    return m_scanned ? orlen::freshness(*m_scanned, moment(now)) : Freshness::fresh;
 }
 
 const PathTree& Results::listed() const
@@ -337,7 +340,7 @@ void Results::returnToFindings(const std::set<std::string>& places)
             MovedEntries missing = m_moved.release(std::move(unchanged));
             if (missing.findings.empty())
                 return;
-            giveBack(m_findings, std::move(missing.findings));
+            FindingLists::giveBack(m_findings, std::move(missing.findings));
             missing.selection.merge(everythingSelected());
             applyExclusions(std::move(missing.selection));
         });
@@ -354,7 +357,7 @@ void Results::updateTrash()
         [this, isTrash](std::vector<Finding> trash) {
             std::erase_if(m_findings, isTrash);
             std::erase_if(m_excluded, isTrash);
-            giveBack(m_findings, std::move(trash));
+            FindingLists::giveBack(m_findings, std::move(trash));
             applyExclusions(everythingSelected());
         });
 }
@@ -385,7 +388,7 @@ void Results::exchange(const NewKeeper::Exchange& exchange, const FileEntry& for
     std::set<std::string> selection = m_selection;
     if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
         selection.insert(former.path);
-    std::ranges::stable_sort(m_findings, comesBefore);
+    std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     Q_EMIT findingsChanged();
     setSelection(std::move(selection));
 }

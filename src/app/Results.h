@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Freshness.h"
 #include "app/ModelPart.h"
 #include "app/MovedEntries.h"
 #include "app/NewKeeper.h"
@@ -56,6 +57,9 @@ public:
     /// Of the current or last scan; empty before the first.
     [[nodiscard]] const ScanProgress& scanProgress() const { return *m_scanProgress; }
     [[nodiscard]] const std::optional<TimePoint>& lastScan() const { return m_lastScan; }
+    /// Whether the results still tell what there is; fresh before the first scan. Stops the program as
+    /// `largeThreshold` does.
+    [[nodiscard]] Freshness freshness(TimePoint now) const;
     struct Unreadable {
         std::int64_t count = 0;
         std::vector<std::string> paths; ///< in order, at most 1,000, valid UTF-8
@@ -68,6 +72,10 @@ public:
     /// depends only on the number of paths given. Emits `selectionChanged` at most once.
     void select(std::span<const std::string> paths);
     void deselect(std::span<const std::string> paths);
+    /// Adds everything Safe that can be cleaned to the selection.
+    Q_INVOKABLE void selectSafe();
+    /// Whether all of that is selected.
+    [[nodiscard]] bool isSafeSelected() const;
     /// A value that is not finite, or does not fit into 64 bits as bytes, stops the program at the next scan.
     void setLargeThresholdMB(double megabytes);
 
@@ -131,6 +139,8 @@ private:
     struct ScanResult;
 
     void setPhase(Phase phase);
+    [[nodiscard]] const std::set<std::string>& safePaths() const;
+    [[nodiscard]] ScanMoment moment(TimePoint now) const;
     [[nodiscard]] static ScanResult scanned(ScanEngine& engine);
     /// Divides what was found into what is offered and what is not, and selects of it what is offered.
     void applyExclusions(std::set<std::string> selection);
@@ -144,7 +154,8 @@ private:
     const ImageWorkers::Options m_images;
     Phase m_phase = Phase::idle;
     std::vector<Finding> m_findings;
-    mutable std::optional<PathTree> m_listed; ///< of these findings; built when first needed
+    mutable std::optional<PathTree> m_listed;            ///< of these findings; built when first needed
+    mutable std::optional<std::set<std::string>> m_safe; ///< likewise, what `selectSafe` adds
     std::set<std::string> m_selection;
     std::vector<Finding> m_excluded;           ///< found, but not offered
     std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
@@ -155,6 +166,7 @@ private:
     std::shared_ptr<ScanEngine> m_engine;
     std::shared_ptr<const ScanProgress> m_scanProgress;
     std::optional<TimePoint> m_lastScan;
+    std::optional<ScanMoment> m_scanned;
     Unreadable m_unreadable;
     PhotoCoverage m_photoCoverage;
 

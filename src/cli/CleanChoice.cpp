@@ -61,9 +61,8 @@ CleanChoice::Result CleanChoice::apply(const std::vector<Finding>& findings,
             continue;
         for (const FileEntry& entry : finding.items) {
             candidates.push_back(entry.path);
-            const bool isChosen = allOfKinds
-                                      ? finding.effectiveRating(entry) != Rating::keep && !entry.isTickedAlone
-                                      : preselected.contains(entry.path);
+            const bool isChosen =
+                allOfKinds ? isTickedAlong(entry, finding.rating) : preselected.contains(entry.path);
             if (isChosen)
                 result.paths.insert(entry.path);
         }

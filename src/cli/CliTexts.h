@@ -132,6 +132,8 @@ inline constexpr Text kLookingForAdvice = message("Looking at what others keep o
 inline constexpr Text kAskingServices = message("Asking what starts at login");
 inline constexpr Text kMoving = message("Moving to the Trash… {done} of {total}");
 inline constexpr Text kExamined = messages("{count} file examined", "{count} files examined");
+// TRANSLATORS: So many photos of all were looked at.
+inline constexpr Text kPhotosDone = messages("{count} of {total} photo", "{count} of {total} photos");
 // TRANSLATORS: {step} is a step of the scan that runs; {others} more run at the same time.
 inline constexpr Text kStepAndOthers = message("{step} +{others}");
 

@@ -1,9 +1,12 @@
 #include "cli/FolderSearch.h"
 
+#include "app/AppTexts.h"
 #include "app/Format.h"
 #include "clean/Safety.h"
 #include "cli/CliTexts.h"
 #include "cli/PathArgument.h"
+
+#include <utility>
 
 namespace orlen::FolderSearch {
 
@@ -30,9 +33,13 @@ Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progre
 
 Message status(const ScanProgress& progress)
 {
-    return Message::joined({{CliTexts::kExamined, {{"count", progress.files()}}},
-                            Message::verbatim(Format::shownPath(progress.current()))},
-                           Several::Joint::facts);
+    std::vector<Message> facts{{CliTexts::kExamined, {{"count", progress.files()}}}};
+    if (const ScanProgress::Photos photos = progress.photos(); photos.done < photos.all)
+        facts.push_back({CliTexts::kPhotosDone, {{"count", photos.done}, {"total", photos.all}}});
+    if (const auto left = progress.photosLeft())
+        facts.push_back(AppTexts::timeLeft(*left));
+    facts.push_back(Message::verbatim(Format::shownPath(progress.current())));
+    return Message::joined(std::move(facts), Several::Joint::facts);
 }
 
 } // namespace orlen::FolderSearch

@@ -39,6 +39,11 @@ bool Finding::isNotable() const
     return !isFromPlaces(kind) || totalSize() >= kSmallest;
 }
 
+bool isTickedAlong(const FileEntry& entry, Rating findingRating)
+{
+    return !entry.isTickedAlone && entry.rating.value_or(findingRating) != Rating::keep;
+}
+
 std::int64_t sizeOf(const std::vector<FileEntry>& entries)
 {
     std::int64_t sum = 0;

@@ -44,6 +44,10 @@ struct Finding {
     friend bool operator==(const Finding&, const Finding&) = default;
 };
 
+/// Whether ticking all entries of a finding with this rating ticks the entry: not if it is rated Keep, or
+/// only ever ticked alone.
+[[nodiscard]] bool isTickedAlong(const FileEntry& entry, Rating findingRating);
+
 /// Overflow-checked sum of the entries' sizes, bytes.
 [[nodiscard]] std::int64_t sizeOf(const std::vector<FileEntry>& entries);
 

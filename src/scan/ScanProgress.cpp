@@ -12,6 +12,8 @@ namespace {
 
 /// The shown path changes only with every 48th item, so that it can be read.
 constexpr std::int64_t kItemsPerPath = 48;
+/// Before this the pace of the photos says little.
+constexpr std::chrono::seconds kShortestPast{3};
 
 } // namespace
 
@@ -87,8 +89,11 @@ void ScanProgress::show(std::string_view path)
 
 void ScanProgress::expectPhotos(Photos photos)
 {
+    const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
     m_photos = photos;
+    m_photosRecalled = photos.done;
+    m_photosStarted = now;
 }
 
 void ScanProgress::countPhoto()
@@ -101,6 +106,30 @@ ScanProgress::Photos ScanProgress::photos() const
 {
     const std::lock_guard lock(m_lock);
     return m_photos;
+}
+
+std::optional<std::chrono::duration<double>> ScanProgress::photosLeft() const
+{
+    const auto now = Clock::now();
+    const std::lock_guard lock(m_lock);
+    const std::chrono::duration<double> past = now - m_photosStarted;
+    const std::int64_t lookedAt = m_photos.done - m_photosRecalled;
+    if (lookedAt <= 0 || m_photos.done >= m_photos.all || past < kShortestPast)
+        return std::nullopt;
+    return past / static_cast<double>(lookedAt) * static_cast<double>(m_photos.all - m_photos.done);
+}
+
+double ScanProgress::share() const
+{
+    const std::lock_guard lock(m_lock);
+    double steps = 0;
+    for (const Step& step : m_steps) {
+        if (step.shown.state == StepState::done)
+            steps += 1;
+        else if (step.shown.kind == StepKind::photos && m_photos.all > 0)
+            steps += static_cast<double>(m_photos.done) / static_cast<double>(m_photos.all);
+    }
+    return steps / static_cast<double>(kScanSteps);
 }
 
 std::int64_t ScanProgress::files() const

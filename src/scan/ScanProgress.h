@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -66,6 +67,11 @@ public:
     void expectPhotos(Photos photos);
     void countPhoto();
     [[nodiscard]] Photos photos() const;
+    /// How long the photos will still take at the pace so far; nothing while that cannot be said.
+    [[nodiscard]] std::optional<std::chrono::duration<double>> photosLeft() const;
+    /// How much of the scan is done, 0 to 1: each step counts alike, and a running one for photos by those
+    /// looked at.
+    [[nodiscard]] double share() const;
 
     [[nodiscard]] std::int64_t files() const;
     [[nodiscard]] std::string current() const;
@@ -82,6 +88,8 @@ private:
     std::int64_t m_files = 0;
     std::string m_current;
     Photos m_photos;
+    std::int64_t m_photosRecalled = 0; ///< done before the step began
+    Clock::time_point m_photosStarted;
     std::array<Step, kScanSteps> m_steps; ///< by kind
 };
 

@@ -58,6 +58,21 @@ inline constexpr Text kWhySafe = message("Why Safe: {reason}");
 inline constexpr Text kWhyReview = message("Why Review: {reason}");
 inline constexpr Text kWhyKeep = message("Why Keep: {reason}");
 
+// TRANSLATORS: After all entries of a list were ticked but these.
+inline constexpr Text kLeftUnticked = messages(
+    "{count} item stays unticked: it is rated Keep or part of a repository. Tick it by itself.",
+    "{count} items stay unticked: they are rated Keep or part of a repository. Tick them one by one.");
+
+// The age of the results
+inline constexpr Text kScannedNow = message("Scanned just now");
+inline constexpr Text kScannedMinutes = messages("Scanned {count} minute ago", "Scanned {count} minutes ago");
+inline constexpr Text kScannedHours = messages("Scanned {count} hour ago", "Scanned {count} hours ago");
+inline constexpr Text kScannedDays = messages("Scanned {count} day ago", "Scanned {count} days ago");
+// TRANSLATORS: The next three follow one of those, as what speaks for another scan.
+inline constexpr Text kOldResults = message("Much may have changed since.");
+inline constexpr Text kDiskChanged = message("The free space has changed much since.");
+inline constexpr Text kOtherThreshold = message("Scan again to find large files of the new size.");
+
 // Storage categories
 inline constexpr Text kApps = message("Installed apps and games, with their data.");
 inline constexpr Text kPictures = message("Your pictures, and what photo programs keep.");

@@ -1,4 +1,5 @@
 #include "window/findings/EntryListModel.h"
+#include "window/shell/WindowState.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
@@ -103,6 +104,37 @@ TEST_F(EntryListModelTest, filtersAndSelectsOnlyWhatIsShown)
     EXPECT_EQ(m_list.selectedCount(), 2);
     m_list.setFilter("");
     EXPECT_EQ(marks(), QStringList({"true", "true", "false", "false"}));
+}
+
+TEST(KeepRowsTest, areTickedOneByOneAndTheNoticeSaysSo)
+{
+    const TempHome home;
+    const TimePoint old = std::chrono::system_clock::now() - 24h * 90;
+    for (const char* name : {"Downloads/setup notes.txt", "Downloads/invoice 2023.pdf"})
+        TempHome::setTimes(home.fileOfSize(name, 100'000), old, old);
+    AppModel app(kCommand);
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
+    EntryListModel list(app);
+    list.setFindingId("oldDownloads");
+    ASSERT_EQ(list.entryCount(), 2);
+    const QSignalSpy notices(&WindowState::of(app), &WindowState::said);
+    list.toggleShown();
+    EXPECT_EQ(app.results()->selection().count(home.path("Downloads/setup notes.txt")), 1U);
+    EXPECT_EQ(app.results()->selection().count(home.path("Downloads/invoice 2023.pdf")), 0U);
+    ASSERT_EQ(notices.count(), 1);
+    EXPECT_TRUE(notices[0][0].toString().startsWith("1 item stays unticked"));
+    list.toggleShown();
+    EXPECT_EQ(list.selectedCount(), 0) << "all that can be is ticked, so this unticks";
+    list.setFilter("invoice");
+    list.toggleShown();
+    EXPECT_EQ(list.selectedCount(), 0);
+    EXPECT_EQ(notices.count(), 2) << "nothing happens, and the notice says why";
+    list.toggle(0);
+    EXPECT_EQ(list.selectedCount(), 1);
+    list.toggleShown();
+    EXPECT_EQ(list.selectedCount(), 0);
+    EXPECT_EQ(notices.count(), 2);
 }
 
 TEST_F(EntryListModelTest, selectsWithOneWordToTheApplication)

@@ -3,6 +3,7 @@
 
 #include "window/home/FindingListModel.h"
 #include "window/lists/RatingValue.h"
+#include "window/lists/Remembered.h"
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
@@ -155,7 +156,9 @@ TEST(HomeModelTest, followsAScanAndLeadsBackToItsResults)
     EXPECT_TRUE(model.hasSafe());
     EXPECT_EQ(model.heroText(), "You can safely free 69.6 MB");
     EXPECT_EQ(model.totalText(), "69.6 MB") << "the Trash does not count";
-    EXPECT_EQ(model.selectedText(), "3 items");
+    EXPECT_EQ(model.selectedText(), "3 items\u00a0· 69.6 MB");
+    EXPECT_EQ(model.ageText(), "Scanned just now");
+    EXPECT_EQ(model.outdatedText(), "");
     EXPECT_EQ(model.unreadableText(), "");
     for (const char* name : {"Documents/one", "Documents/two"})
         TempHome::setMode(home.folder(name), 0);
@@ -186,6 +189,41 @@ TEST(HomeModelTest, reviewsOnlyWhatIsSelected)
     const CleanPlan& plan = std::get<PlanSheet>(*WindowState::of(app).sheet()).plan;
     ASSERT_EQ(plan.sections.size(), 1);
     EXPECT_EQ(plan.sections[0].entries.size(), 1);
+}
+
+TEST(HomeModelTest, selectsEverythingSafeBesidesWhatIsSelected)
+{
+    const TempHome home;
+    fill(home);
+    AppModel app(quick());
+    HomeModel model(app);
+    scan(app);
+    EXPECT_TRUE(model.isSafeSelected());
+    const std::set<std::string> safe = app.results()->selection();
+    app.results()->setSelection({home.path(".cache/mozilla"), home.path("Documents/own")});
+    EXPECT_FALSE(model.isSafeSelected());
+    app.results()->selectSafe();
+    EXPECT_TRUE(model.isSafeSelected());
+    EXPECT_EQ(app.results()->selection().size(), safe.size() + 1) << "what was selected stays so";
+    app.results()->removeFromFindings({home.path(".cache/mozilla")});
+    EXPECT_TRUE(model.isSafeSelected());
+}
+
+TEST(HomeModelTest, asksForAnotherScanOnceAnotherThresholdIsChosen)
+{
+    const TempHome home;
+    fill(home);
+    AppModel app(quick());
+    HomeModel model(app);
+    scan(app);
+    model.setThreshold(0);
+    EXPECT_EQ(model.outdatedText(), "Scan again to find large files of the new size.");
+    EXPECT_EQ(Remembered::largeThresholdMB(), 100);
+    scan(app);
+    EXPECT_EQ(model.outdatedText(), "");
+    model.setThreshold(1);
+    model.setThreshold(0);
+    EXPECT_EQ(model.outdatedText(), "") << "that is what the scan looked for";
 }
 
 TEST(HomeModelTest, offersTheThresholdsOfLargeFiles)

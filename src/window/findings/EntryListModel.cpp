@@ -4,6 +4,7 @@
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
+#include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
@@ -240,10 +241,12 @@ void EntryListModel::toggle(int row)
 
 void EntryListModel::toggleShown()
 {
-    setShown(std::ranges::any_of(m_rows, [this](int row) {
+    const bool isOneMissing = std::ranges::any_of(m_rows, [this](int row) {
         const auto entry = static_cast<std::size_t>(row);
-        return !m_isSelected[entry] && !m_entries[entry].isTickedAlone;
-    }));
+        return !m_isSelected[entry] && isTickedAlong(m_entries[entry], m_rating);
+    });
+    // With none to untick either, this says why.
+    setShown(isOneMissing || m_shownCount == 0);
 }
 
 void EntryListModel::selectShown()
@@ -260,10 +263,22 @@ void EntryListModel::setShown(bool isSelected)
 {
     std::vector<int> rows(m_rows.size());
     std::iota(rows.begin(), rows.end(), 0);
-    std::erase_if(rows, [&](int row) {
-        return m_isSelected[entryIndex(row)] == isSelected || (isSelected && entryAt(row).isTickedAlone);
-    });
-    setSelected(rows, isSelected);
+    std::erase_if(rows, [&](int row) { return m_isSelected[entryIndex(row)] == isSelected; });
+    if (isSelected)
+        tickAlong(std::move(rows));
+    else
+        setSelected(rows, false);
+}
+
+/// Ticks the rows but those that have to be ticked by themselves, and says so.
+void EntryListModel::tickAlong(std::vector<int> rows)
+{
+    if (!m_header.isCleanable)
+        return;
+    const std::size_t left =
+        std::erase_if(rows, [&](int row) { return !isTickedAlong(entryAt(row), m_rating); });
+    setSelected(rows, true);
+    LeftUnticked::say(m_app, left);
 }
 
 void EntryListModel::tickIn(const std::string& folder)
@@ -271,11 +286,9 @@ void EntryListModel::tickIn(const std::string& folder)
     std::vector<int> rows(m_rows.size());
     std::iota(rows.begin(), rows.end(), 0);
     std::erase_if(rows, [&](int row) {
-        const FileEntry& entry = entryAt(row);
-        return m_isSelected[entryIndex(row)] || entry.isTickedAlone ||
-               !PathText::isAtOrBelow(entry.path, folder);
+        return m_isSelected[entryIndex(row)] || !PathText::isAtOrBelow(entryAt(row).path, folder);
     });
-    setSelected(rows, true);
+    tickAlong(std::move(rows));
 }
 
 std::optional<RowSubject> EntryListModel::subject(int row) const

@@ -79,7 +79,8 @@ public:
     Q_INVOKABLE void sortBy(orlen::EntryListModel::Key key);
     /// Selects or deselects the row's entry. All functions that take a row ignore one that does not exist.
     Q_INVOKABLE void toggle(int row);
-    /// Selects all filtered rows, or deselects them if all are selected.
+    /// Selects all filtered rows, or deselects them if all are selected. Like the next, leaves unselected
+    /// what is rated Keep or only ticked alone, and says so in a notice.
     Q_INVOKABLE void toggleShown();
     Q_INVOKABLE void selectShown();
     Q_INVOKABLE void deselectShown();
@@ -114,6 +115,7 @@ private:
     void takeOutRows(const std::vector<bool>& isKept);
     void dropEntries(const std::vector<bool>& isKept);
     void setShown(bool isSelected);
+    void tickAlong(std::vector<int> rows);
     void setSelected(const std::vector<int>& rows, bool isSelected);
     void count();
     [[nodiscard]] std::size_t entryIndex(int row) const;

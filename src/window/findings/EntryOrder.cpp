@@ -5,10 +5,13 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 
 namespace orlen::EntryOrder {
 
 namespace {
+
+constexpr std::array<std::string_view, 3> kRawKeys{"size", "name", "date"}; // in the order of the enum
 
 bool hasAll(const Words& words, const QStringList& wanted)
 {
@@ -40,6 +43,19 @@ void sortByDate(std::vector<int>& rows, std::span<const FileEntry> entries, Dire
 }
 
 } // namespace
+
+std::string_view rawValue(Key key)
+{
+    return kRawKeys.at(static_cast<std::size_t>(key));
+}
+
+std::optional<Key> keyFrom(std::string_view raw)
+{
+    const auto* const found = std::ranges::find(kRawKeys, raw);
+    if (found == kRawKeys.end())
+        return std::nullopt;
+    return static_cast<Key>(found - kRawKeys.begin());
+}
 
 std::vector<Words> wordsOf(std::span<const FileEntry> entries)
 {

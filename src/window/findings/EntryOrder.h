@@ -4,13 +4,18 @@
 
 #include <QString>
 
+#include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 /// Filters and sorts entries. Pure; any thread.
 namespace orlen::EntryOrder {
 
 enum class Key { size, name, date };
+/// As it is remembered: "size", "name" and so on.
+[[nodiscard]] std::string_view rawValue(Key key);
+[[nodiscard]] std::optional<Key> keyFrom(std::string_view raw);
 enum class Direction { usual, reversed };
 
 /// An entry's name and folder, normalised for comparing and searching.

@@ -99,25 +99,9 @@ Item {
                     height: 16
                 }
 
-                Row {
+                ThresholdField {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    spacing: Theme.spaceS
-
-                    SmallText {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: Strings.largeFilesFrom
-                        Accessible.ignored: true
-                    }
-
-                    ChoiceField {
-                        objectName: "largeThreshold"
-                        anchors.verticalCenter: parent.verticalCenter
-                        label: Strings.largeFilesFrom
-                        model: root.home.thresholds
-                        currentIndex: root.home.threshold
-                        displayText: root.home.thresholdText
-                        onActivated: index => root.home.threshold = index
-                    }
+                    home: root.home
                 }
 
                 AppButton {

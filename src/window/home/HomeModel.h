@@ -1,18 +1,18 @@
 #pragma once
 
-#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 namespace orlen {
 
-/// What Smart Scan shows besides the lists: its state, the totals of the results, and the setting for large
-/// files. Main thread.
+/// What Smart Scan shows besides the lists: its state, the totals and the age of the results, and the setting
+/// for large files, which is remembered. Main thread.
 class HomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,8 +28,14 @@ class HomeModel : public QObject {
     Q_PROPERTY(QString unreadableText READ unreadableText NOTIFY resultsChanged)
     Q_PROPERTY(QString unreadableFolders READ unreadableFolders NOTIFY resultsChanged)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
-    /// "12 items", counting each path once; not updated behind a sheet.
+    /// Whether everything Safe is selected; like the next, not updated behind a sheet.
+    Q_PROPERTY(bool safeSelected READ isSafeSelected NOTIFY selectionChanged)
+    /// "12 items · 3 GB", counting each path once.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
+    /// "Scanned 2 hours ago"
+    Q_PROPERTY(QString ageText READ ageText NOTIFY ageChanged)
+    /// Why another scan would be better; empty when nothing speaks for it.
+    Q_PROPERTY(QString outdatedText READ outdatedText NOTIFY ageChanged)
     /// The choices of size from which a file counts as large, and the index of the current one; -1 if it is
     /// none of them.
     Q_PROPERTY(QStringList thresholds READ thresholds CONSTANT)
@@ -54,10 +60,10 @@ public:
     [[nodiscard]] QString unreadableText() const;
     [[nodiscard]] QString unreadableFolders() const;
     [[nodiscard]] bool hasSelection() const { return !m_app.results()->selection().empty(); }
-    [[nodiscard]] QString selectedText() const
-    {
-        return DisplayText::counted(m_selectedCount, WindowTexts::kItems);
-    }
+    [[nodiscard]] bool isSafeSelected() const { return m_isSafeSelected; }
+    [[nodiscard]] QString selectedText() const;
+    [[nodiscard]] QString ageText() const { return m_ageText; }
+    [[nodiscard]] QString outdatedText() const { return m_outdatedText; }
     [[nodiscard]] static QStringList thresholds();
     [[nodiscard]] int threshold() const;
     void setThreshold(int index);
@@ -70,16 +76,22 @@ Q_SIGNALS:
     void phaseChanged();
     void resultsChanged();
     void selectionChanged();
+    void ageChanged();
     void thresholdChanged();
 
 private:
+    void updateAge();
     void countResults();
     void countSelection();
 
     AppModel& m_app;
     std::int64_t m_safeBytes = 0;
     std::int64_t m_totalBytes = 0;
-    std::int64_t m_selectedCount = 0;
+    PathSelection::Amount m_selected;
+    bool m_isSafeSelected = true;
+    QTimer m_aging;
+    QString m_ageText;
+    QString m_outdatedText;
 };
 
 } // namespace orlen

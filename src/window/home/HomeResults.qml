@@ -29,6 +29,11 @@ Item {
             width: flickable.width - 2 * x
             spacing: Theme.spaceXl
 
+            HomeResultsBar {
+                width: parent.width
+                home: root.home
+            }
+
             HomeResultsHeader {
                 id: header
 

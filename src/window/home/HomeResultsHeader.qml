@@ -11,7 +11,9 @@ Item {
 
     /// Where the storage ring goes.
     readonly property alias ringSlot: slot
-    readonly property Item mainButton: review.enabled ? review : again
+    /// Whether another scan is what to do next.
+    readonly property bool isOutdated: root.home.outdatedText !== ""
+    readonly property Item mainButton: review.enabled && !root.isOutdated ? review : again
     readonly property bool narrow: root.width < 640 * Theme.textScale
 
     implicitHeight: Math.max(slot.height, words.height) + (root.narrow ? legend.height + 20 : 0)
@@ -48,6 +50,20 @@ Item {
             font.letterSpacing: root.narrow ? -0.3 : -1
         }
 
+        BodyText {
+            objectName: "selectedTotal"
+            width: parent.width
+            topPadding: Theme.spaceXs
+            visible: root.home.hasFindings
+            text: root.home.hasSelection ? Strings.selected(root.home.selectedText) : Strings.nothingSelected
+            wrapMode: Text.WordWrap
+            color: root.home.hasSelection ? Theme.accent : Theme.secondary
+            font.pixelSize: root.narrow ? Theme.bodySize : Theme.headlineSize
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
         LeadText {
             width: parent.width
             topPadding: Theme.spaceXs
@@ -64,7 +80,7 @@ Item {
                 id: review
 
                 objectName: "reviewAndClean"
-                primary: true
+                primary: !root.isOutdated
                 enabled: root.home.hasSelection
                 text: Strings.reviewAndClean
                 onClicked: root.home.review()
@@ -73,18 +89,19 @@ Item {
             AppButton {
                 id: again
 
+                objectName: "scanAgain"
+                primary: root.isOutdated
                 symbol: "arrow.clockwise"
                 text: Strings.scanAgain
                 onClicked: AppModel.results.startScan()
             }
 
-            CaptionText {
-                height: Theme.controlHeight
-                leftPadding: Theme.spaceXs
-                rightPadding: Theme.spaceXs
-                verticalAlignment: Text.AlignVCenter
-                visible: root.home.hasFindings && !root.narrow
-                text: root.home.hasSelection ? Strings.selected(root.home.selectedText) : Strings.nothingSelected
+            AppButton {
+                objectName: "selectSafe"
+                visible: root.home.hasSafe && !root.home.safeSelected
+                quiet: true
+                text: Strings.selectSafe
+                onClicked: AppModel.results.selectSafe()
             }
         }
     }

@@ -44,6 +44,24 @@ Item {
                     width: Math.round(Math.max(128, Math.min(232, page.inner * 0.3)))
                     height: width
 
+                    // Around the ring that shows the storage.
+                    ProgressRing {
+                        objectName: "scanShare"
+                        anchors.centerIn: parent
+                        width: parent.width + 2 * (Theme.spaceS + thickness)
+                        height: width
+                        thickness: 4
+                        value: progress.cancelling ? 0 : progress.share
+                        tone: Theme.accent
+                        track: Theme.track
+                        Accessible.role: Accessible.ProgressBar
+                        Accessible.name: Strings.scanning
+
+                        Ease on value {
+                            duration: Theme.screenDuration
+                        }
+                    }
+
                     Column {
                         anchors.centerIn: parent
                         width: parent.width * 0.7
@@ -80,7 +98,6 @@ Item {
                     enabled: !progress.cancelling
                     text: Strings.cancel
                     onClicked: progress.cancel()
-                    Keys.onEscapePressed: progress.cancel()
                 }
             }
 

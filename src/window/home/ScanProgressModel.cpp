@@ -1,5 +1,6 @@
 #include "window/home/ScanProgressModel.h"
 
+#include "app/AppTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
@@ -39,12 +40,20 @@ void ScanProgressModel::poll()
 {
     const ScanProgress& progress = m_app.results()->scanProgress();
     setSteps(progress.steps());
-    if (std::exchange(m_photos, progress.photos()) != progress.photos())
+    const auto left = progress.photosLeft();
+    const QString photosLeft = left ? DisplayText::text(AppTexts::timeLeft(*left)) : QString();
+    const ScanProgress::Photos photos = progress.photos();
+    if (m_photos != photos || m_photosLeft != photosLeft) {
+        m_photos = photos;
+        m_photosLeft = photosLeft;
         allChanged(Role::amount);
+    }
     const QString current = DisplayText::shortPath(progress.current());
-    if (m_files == progress.files() && m_current == current)
+    const double share = progress.share();
+    if (m_files == progress.files() && m_current == current && m_share == share)
         return;
     m_files = progress.files();
+    m_share = share;
     m_current = current;
     Q_EMIT changed();
 }
@@ -81,8 +90,10 @@ QVariant ScanProgressModel::value(std::size_t number, int role) const
     case Role::amount:
         if (step.kind != StepKind::photos || step.state != StepState::running || m_photos.all == 0)
             return QString();
-        return DisplayText::text(
-            Message(WindowTexts::kDoneOf, {{"count", m_photos.done}, {"total", m_photos.all}}));
+        return DisplayText::facts(
+            {DisplayText::text(
+                 Message(WindowTexts::kDoneOf, {{"count", m_photos.done}, {"total", m_photos.all}})),
+             m_photosLeft});
     }
     return {};
 }

@@ -21,6 +21,8 @@ class ScanProgressModel : public orlen::RowsModel {
     /// Number of files examined so far.
     Q_PROPERTY(QString files READ files NOTIFY changed)
     Q_PROPERTY(int fileCount READ fileCount NOTIFY changed)
+    /// How much of the scan is done, 0 to 1.
+    Q_PROPERTY(double share READ share NOTIFY changed)
     /// What is being examined; empty at the start.
     Q_PROPERTY(QString current READ current NOTIFY changed)
     /// Whether the user has asked to stop this scan.
@@ -38,7 +40,7 @@ public:
         label = Qt::UserRole, ///< name of the step
         state,                ///< a `State`
         duration,             ///< of a finished step, as text; else empty
-        amount,               ///< "40 of 1,200" while photos are looked at, as text; else empty
+        amount,               ///< "40 of 1,200 · 3 minutes left" while photos are looked at; else empty
     };
     Q_ENUM(Role)
 
@@ -46,6 +48,7 @@ public:
 
     [[nodiscard]] QString files() const { return DisplayText::number(m_files); }
     [[nodiscard]] int fileCount() const { return static_cast<int>(m_files); }
+    [[nodiscard]] double share() const { return m_share; }
     [[nodiscard]] QString current() const { return m_current; }
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
 
@@ -71,6 +74,8 @@ private:
     Steps m_steps;
     ScanProgress::Photos m_photos;
     std::int64_t m_files = 0;
+    double m_share = 0;
+    QString m_photosLeft;
     QString m_current;
     bool m_isCancelling = false;
 };

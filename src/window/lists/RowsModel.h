@@ -34,7 +34,7 @@ public:
 
     /// What the menu of a row is about. Nothing for a row that has no menu or does not exist.
     [[nodiscard]] virtual std::optional<RowSubject> subject(int row) const;
-    /// Ticks the rows whose items lie in this folder, except those that are ticked alone.
+    /// Ticks the rows whose items lie in this folder, except those that are rated Keep or ticked alone.
     virtual void tickIn(const std::string& folder);
 
 Q_SIGNALS:

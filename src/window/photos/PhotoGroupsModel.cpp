@@ -4,6 +4,7 @@
 #include "platform/values/CheckedSum.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
+#include "window/lists/LeftUnticked.h"
 #include "window/lists/RatingValue.h"
 #include "window/shell/WindowState.h"
 
@@ -132,15 +133,23 @@ void PhotoGroupsModel::toggleAll(const QString& findingId)
         return;
     std::vector<std::string> all;
     std::vector<std::string> missing;
+    std::size_t left = 0;
     for (const FileEntry& entry : wanted->finding.items) {
         all.push_back(entry.path);
-        if (!entry.isTickedAlone && !m_app.results()->selection().contains(entry.path))
+        if (m_app.results()->selection().contains(entry.path))
+            continue;
+        if (isTickedAlong(entry, wanted->finding.rating))
             missing.push_back(entry.path);
+        else
+            ++left;
     }
-    if (missing.empty())
+    // With none to deselect either, the notice says why.
+    if (missing.empty() && left < all.size()) {
         m_app.results()->deselect(all);
-    else
-        select(findingId, std::move(missing));
+        return;
+    }
+    select(findingId, std::move(missing));
+    LeftUnticked::say(m_app, left);
 }
 
 void PhotoGroupsModel::select(const QString& findingId, std::vector<std::string> paths)

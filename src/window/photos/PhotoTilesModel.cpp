@@ -3,6 +3,7 @@
 #include "model/KeptSets.h"
 #include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
+#include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/photos/PhotoSetsModel.h"
 #include "window/preview/Thumbnails.h"
@@ -173,11 +174,17 @@ void PhotoTilesModel::tickIn(const std::string& folder)
     if (finding == nullptr)
         return;
     std::vector<std::string> paths;
+    std::size_t left = 0;
     for (const FileEntry& entry : finding->items) {
-        if (!entry.isTickedAlone && PathText::isAtOrBelow(entry.path, folder))
+        if (m_app.results()->selection().contains(entry.path) || !PathText::isAtOrBelow(entry.path, folder))
+            continue;
+        if (isTickedAlong(entry, finding->rating))
             paths.push_back(entry.path);
+        else
+            ++left;
     }
     m_app.results()->select(paths);
+    LeftUnticked::say(m_app, left);
 }
 
 QVariant PhotoTilesModel::value(std::size_t number, int role) const

@@ -1,9 +1,10 @@
 #include "window/review/PlanModel.h"
 
-#include "model/FindingKind.h"
+#include "model/Finding.h"
 #include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
+#include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/RatingValue.h"
 #include "window/preview/Thumbnails.h"
@@ -330,14 +331,21 @@ std::optional<RowSubject> PlanModel::subject(int row) const
 void PlanModel::tickIn(const std::string& folder)
 {
     std::vector<PlanTicks::Place> places;
+    Paths left;
     for (int number = 0; m_plan && number < static_cast<int>(m_plan->sections.size()); ++number) {
         for (const Row& row : entriesOf(number)) {
             const FileEntry& entry = section(number).entries[place(row.entry)];
-            if (!entry.isTickedAlone && PathText::isAtOrBelow(entry.path, folder))
+            if (m_ticks.isTicked(place(number), place(row.entry)) ||
+                !PathText::isAtOrBelow(entry.path, folder))
+                continue;
+            if (isTickedAlong(entry, section(number).rating.value_or(Rating::review)))
                 places.push_back({place(number), place(row.entry)});
+            else
+                left.insert(entry.path);
         }
     }
     m_ticks.tick(places);
+    LeftUnticked::say(m_app, left.size());
     followTicks();
 }
 

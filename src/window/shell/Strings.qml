@@ -74,6 +74,8 @@ QtObject {
     readonly property string lookingAtStorage: Words.message("Looking at your storage…")
     readonly property string startScan: Words.message("Start Smart Scan")
     readonly property string scanAgain: Words.message("Scan again")
+    readonly property string backToStart: Words.message("Back to the start")
+    readonly property string selectSafe: Words.message("Select everything Safe")
     readonly property string homeFooter: Words.message("Ratings are suggestions. Orlen only runs while it's open, uploads nothing, hides nothing, and only moves files to the Trash.")
     function filesExamined(count: int): string {
         return Words.messages("{count} files examined", "{count} files examined", { count: count });

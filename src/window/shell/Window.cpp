@@ -10,6 +10,7 @@
 #include "window/WindowTexts.h"
 #include "window/apps/AppIconProvider.h"
 #include "window/controls/SymbolProvider.h"
+#include "window/lists/Remembered.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/AppModelElement.h"
 #include "window/shell/DesktopPresence.h"
@@ -104,6 +105,8 @@ void prepare()
 void prepareEngine(QQmlEngine& engine, AppModel& model)
 {
     AppModelElement::setModel(&model);
+    if (const auto megabytes = Remembered::largeThresholdMB())
+        model.results()->setLargeThresholdMB(*megabytes);
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
     engine.addImageProvider(QLatin1String(AppIconProvider::kName), new AppIconProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);

@@ -1,0 +1,68 @@
+#include "app/FindingLists.h"
+
+#include "model/PathSelection.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <utility>
+
+namespace orlen::FindingLists {
+
+bool comesBefore(const Finding& a, const Finding& b)
+{
+    const std::pair left(a.safeSize(), a.totalSize());
+    const std::pair right(b.safeSize(), b.totalSize());
+    return left > right;
+}
+
+std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<std::string>& selection)
+{
+    std::vector<const FileEntry*> entries;
+    for (const FileEntry& entry : finding.items) {
+        if (selection.contains(entry.path))
+            entries.push_back(&entry);
+    }
+    return entries;
+}
+
+std::set<std::string> safePaths(const std::vector<Finding>& findings)
+{
+    std::set<std::string> paths;
+    for (const Finding& finding : findings) {
+        if (finding.rating != Rating::safe || !finding.cleanable)
+            continue;
+        for (const FileEntry& entry : finding.items) {
+            if (finding.effectiveRating(entry) == Rating::safe)
+                paths.insert(entry.path);
+        }
+    }
+    // Moving a folder would also move entries that need a review first.
+    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
+    return paths;
+}
+
+bool isIn(const std::set<std::string>& paths, std::string_view path)
+{
+    for (; path.size() > 1; path = PathText::parent(path)) {
+        if (paths.contains(std::string(path)))
+            return true;
+    }
+    return false;
+}
+
+void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)
+{
+    for (Finding& finding : taken) {
+        const auto same = std::ranges::find(findings, finding.kind, &Finding::kind);
+        if (same == findings.end()) {
+            findings.push_back(std::move(finding));
+            continue;
+        }
+        std::ranges::move(finding.items, std::back_inserter(same->items));
+        std::ranges::stable_sort(same->items, std::greater(), &FileEntry::size);
+    }
+}
+
+} // namespace orlen::FindingLists

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/Finding.h"
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What the results do with lists of findings. Pure; any thread.
+namespace orlen::FindingLists {
+
+/// The display order: most Safe bytes first, then most bytes.
+[[nodiscard]] bool comesBefore(const Finding& a, const Finding& b);
+/// The finding's entries with these paths.
+[[nodiscard]] std::vector<const FileEntry*> selectedIn(const Finding& finding,
+                                                       const std::set<std::string>& selection);
+/// Everything Safe that can be cleaned: what a scan selects. Without folders that hold an entry to review.
+[[nodiscard]] std::set<std::string> safePaths(const std::vector<Finding>& findings);
+/// Whether the path, or a folder that it is in, is one of these.
+[[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
+/// Puts the entries back among the findings that they were taken from.
+void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken);
+
+} // namespace orlen::FindingLists

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "window/findings/EntryOrder.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What the window remembers of the user's choices between starts, in its settings file. Main thread.
+namespace orlen::Remembered {
+
+/// Nothing when none was chosen yet, or the file holds nonsense.
+[[nodiscard]] std::optional<double> largeThresholdMB();
+void setLargeThresholdMB(double megabytes);
+
+/// The order of a list, by its name; the usual one when none was chosen yet. Without a filter.
+[[nodiscard]] EntryOrder::Wish order(const QString& list);
+void setOrder(const QString& list, const EntryOrder::Wish& wish);
+
+} // namespace orlen::Remembered
