@@ -49,7 +49,7 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
     for (const std::string& folder : Places::current().expand("{CONFIG}/autostart"))
         OwnFile::removeUnfinished(folder);
     m_storage = std::make_unique<Storage>(taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices),
-                                          m_isWriter ? Storage::Saving::snapshots : Storage::Saving::none);
+                                          m_isWriter ? Storage::Saving::all : Storage::Saving::none);
     m_exclusions = std::make_unique<ExclusionList>(loadExclusions(m_notices),
                                                    m_isWriter ? ExclusionList::Access::writer
                                                               : ExclusionList::Access::reader);
@@ -95,8 +95,9 @@ std::vector<CleanRecord> AppModel::loadHistory()
 
 AskContext AppModel::askContext() const
 {
-    return {m_results->findings(), m_storage->breakdown(),           m_storage->prediction(),
-            m_cleanUps->history(), std::chrono::system_clock::now(), Safety::protection};
+    return {m_results->findings(),          m_storage->breakdown(),           m_storage->prediction(),
+            m_cleanUps->history(),          std::chrono::system_clock::now(), Safety::protection,
+            m_storage->folders().readings()};
 }
 
 } // namespace orlen

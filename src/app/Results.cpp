@@ -12,6 +12,7 @@
 #include "platform/process/ThreadPriority.h"
 #include "platform/process/Threads.h"
 #include "platform/values/CheckedSum.h"
+#include "scan/FolderTotals.h"
 #include "scan/ScanEngine.h"
 #include "scan/locations/SourceReader.h"
 
@@ -41,6 +42,7 @@ std::vector<Finding> trashNow(const std::stop_token& stop)
 struct Results::ScanResult {
     std::vector<Finding> findings;
     StorageBreakdown breakdown;
+    FolderReading folders; ///< without its date
 };
 
 Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers::Options images,
@@ -93,7 +95,8 @@ Results::ScanResult Results::scanned(ScanEngine& engine)
     Safety::refresh();
     ScanResult result;
     const std::stop_token stop = engine.flag().token();
-    const auto measure = [&result, stop] { result.breakdown = StorageBreakdown::compute(stop); };
+    FolderTotals totals;
+    const auto measure = [&] { result.breakdown = StorageBreakdown::compute(stop, totals); };
     auto measuring = Threads::start("orlen-storage", [&](const std::stop_token&) { measure(); });
     std::vector<Finding> raw = engine.run();
     if (!stop.stop_requested())
@@ -102,6 +105,7 @@ Results::ScanResult Results::scanned(ScanEngine& engine)
         measuring->join();
     else
         measure();
+    result.folders = FolderTotals::reading(engine.folderTotals(), totals);
     return result;
 }
 
@@ -126,6 +130,7 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_lastScan = m_scanned->time;
     Q_EMIT lastScanChanged();
     m_storage.recordSnapshot();
+    m_storage.folders().record(std::move(result.folders), *m_lastScan);
     setPhase(Phase::results);
 }
 

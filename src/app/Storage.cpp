@@ -36,7 +36,8 @@ bool isReplaced(const std::vector<Snapshot>& snapshots, TimePoint now)
 } // namespace
 
 Storage::Storage(std::vector<Snapshot> snapshots, Saving saving, QObject* parent)
-    : ModelPart(parent), m_saving(saving), m_snapshots(std::move(snapshots)), m_workers(*this)
+    : ModelPart(parent), m_saving(saving), m_snapshots(std::move(snapshots)), m_folders(saving),
+      m_workers(*this)
 {
     keepNewest(m_snapshots);
 }
@@ -61,7 +62,7 @@ void Storage::refreshBreakdown(Recording recording)
     const auto measure = [saving = m_saving](const std::stop_token& stop) {
         Safety::refresh();
         // The Trash may have been emptied in the meantime.
-        if (saving == Saving::snapshots)
+        if (saving == Saving::all)
             Reserve::refill();
         return StorageBreakdown::compute(stop);
     };
@@ -114,7 +115,7 @@ void Storage::recordSnapshot()
     m_snapshots.push_back(std::move(snapshot));
     keepNewest(m_snapshots);
     // Losing a snapshot barely affects the forecast.
-    if (m_saving == Saving::snapshots)
+    if (m_saving == Saving::all)
         (void)Persist::saveSnapshots(m_snapshots);
     Q_EMIT snapshotsChanged();
 }

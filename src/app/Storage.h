@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FolderHistory.h"
 #include "app/ModelPart.h"
 #include "app/Workers.h"
 #include "clean/Persist.h"
@@ -21,7 +22,7 @@ class Storage : public ModelPart {
 
 public:
     enum class Recording { none, ifStale };
-    enum class Saving { none, snapshots };
+    using Saving = FolderHistory::Saving;
 
     Storage(std::vector<Snapshot> snapshots, Saving saving, QObject* parent = nullptr);
 
@@ -30,6 +31,9 @@ public:
     [[nodiscard]] bool isBreakdownReady() const { return m_isBreakdownReady; }
     /// Oldest first, at most 400.
     [[nodiscard]] const std::vector<Snapshot>& snapshots() const { return m_snapshots; }
+    /// What folders held at the end of past scans.
+    [[nodiscard]] FolderHistory& folders() { return m_folders; }
+    [[nodiscard]] const FolderHistory& folders() const { return m_folders; }
     /// The growth forecast from the snapshots.
     [[nodiscard]] Prediction prediction() const;
 
@@ -64,6 +68,7 @@ private:
     bool m_isBreakdownReady = false;
     bool m_isKeptUpToDate = false;
     std::vector<Snapshot> m_snapshots;
+    FolderHistory m_folders;
     int m_started = 0;
     int m_stored = 0; ///< of the one shown; an older one that finishes later is dropped
 

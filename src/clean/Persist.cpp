@@ -1,6 +1,7 @@
 #include "clean/Persist.h"
 
 #include "clean/ExclusionJson.h"
+#include "clean/FolderReadingJson.h"
 #include "clean/RecordJson.h"
 #include "clean/Reserve.h"
 #include "platform/files/FileContent.h"
@@ -27,23 +28,54 @@ namespace {
 constexpr std::size_t kLimit = 32'000'000;
 /// Thousands of long paths.
 constexpr std::size_t kExclusionsLimit = 4'000'000;
+/// Twice as much as all readings that are kept, of as many folders as a scan lists.
+constexpr std::size_t kFolderReadingsLimit = 8'000'000;
 /// How many unreadable files of each kind are kept.
 constexpr std::size_t kKeptAside = 3;
+
+/// An array of the records, with the gap before each and after the last.
+template <typename Record>
+std::string asArray(const std::vector<Record>& records, std::string_view gap,
+                    nlohmann::ordered_json (*encode)(const Record& record))
+{
+    using Json = nlohmann::ordered_json;
+    std::string text = "[";
+    for (const Record& record : records) {
+        text.append(text.size() > 1 ? "," : "").append(gap);
+        // Invalid UTF-8 becomes U+FFFD: one unreadable name must not cost the whole file.
+        text += encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
+    }
+    return text.append(gap) + ']';
+}
+
+template <typename Record>
+std::string asLine(const std::vector<Record>& records)
+{
+    return asArray<Record>(records, "", RecordJson::encode);
+}
+
+/// One to a line: this file is meant to be read by people as well.
+std::string asLines(const std::vector<Exclusion>& exclusions)
+{
+    return asArray<Exclusion>(exclusions, "\n", ExclusionJson::encode);
+}
+
+enum class Worth { record, comfort };
 
 template <typename Record>
 struct Kind {
     std::string_view stem; ///< of the file's name
     RecordJson::Decoded<Record> (*decode)(std::string text);
-    nlohmann::ordered_json (*encode)(const Record& record);
-    std::string_view gap; ///< before each record and after the last
-    std::size_t limit;    ///< bytes of the file
+    std::string (*encode)(const std::vector<Record>& records);
+    std::size_t limit; ///< bytes of the file
+    Worth worth = Worth::record;
 };
 
-constexpr Kind<CleanRecord> kHistory{"history", RecordJson::decodeHistory, RecordJson::encode, "", kLimit};
-constexpr Kind<Snapshot> kSnapshots{"scans", RecordJson::decodeSnapshots, RecordJson::encode, "", kLimit};
-/// One to a line: this file is meant to be read by people as well.
-constexpr Kind<Exclusion> kExclusions{"exclusions", ExclusionJson::decode, ExclusionJson::encode, "\n",
-                                      kExclusionsLimit};
+constexpr Kind<CleanRecord> kHistory{"history", RecordJson::decodeHistory, asLine<CleanRecord>, kLimit};
+constexpr Kind<Snapshot> kSnapshots{"scans", RecordJson::decodeSnapshots, asLine<Snapshot>, kLimit};
+constexpr Kind<Exclusion> kExclusions{"exclusions", ExclusionJson::decode, asLines, kExclusionsLimit};
+constexpr Kind<FolderReading> kFolderReadings{"folders", FolderReadingJson::decode, FolderReadingJson::encode,
+                                              kFolderReadingsLimit, Worth::comfort};
 
 std::string fileName(std::string_view stem)
 {
@@ -135,19 +167,6 @@ Result<void> makeReplaceable(const std::string& path, const std::string& file, c
 }
 
 template <typename Record>
-std::string encoded(const std::vector<Record>& records, const Kind<Record>& kind)
-{
-    using Json = nlohmann::ordered_json;
-    std::string text = "[";
-    for (const Record& record : records) {
-        text.append(text.size() > 1 ? "," : "").append(kind.gap);
-        // Invalid UTF-8 becomes U+FFFD: one unreadable name must not cost the whole file.
-        text += kind.encode(record).dump(-1, ' ', false, Json::error_handler_t::replace);
-    }
-    return text.append(kind.gap) + ']';
-}
-
-template <typename Record>
 Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
 {
     const auto folder = makeDir();
@@ -157,14 +176,14 @@ Result<void> save(const std::vector<Record>& records, const Kind<Record>& kind)
     const auto file = linkEnd(path);
     if (!file.ok())
         return Errno{file.error()};
-    const std::string text = encoded(records, kind);
+    const std::string text = kind.encode(records);
     // It could not be read again.
     if (text.size() > kind.limit)
         return Errno{EFBIG};
     if (auto ready = makeReplaceable(path, file.value(), kind); !ready.ok())
         return ready;
-    auto written =
-        Reserve::withRoom(Reserve::Use::record, [&] { return OwnFile::replace(file.value(), text); });
+    const auto write = [&] { return OwnFile::replace(file.value(), text); };
+    auto written = kind.worth == Worth::comfort ? write() : Reserve::withRoom(Reserve::Use::record, write);
     if (written.ok())
         failedLoads().erase(path);
     return written;
@@ -222,6 +241,16 @@ Result<void> saveExclusions(const std::vector<Exclusion>& exclusions)
 Loaded<Exclusion> loadExclusions()
 {
     return load(kExclusions);
+}
+
+Result<void> saveFolderReadings(const std::vector<FolderReading>& readings)
+{
+    return save(readings, kFolderReadings);
+}
+
+Loaded<FolderReading> loadFolderReadings()
+{
+    return load(kFolderReadings);
 }
 
 } // namespace orlen::Persist

@@ -2,13 +2,14 @@
 
 #include "clean/CleanRecord.h"
 #include "clean/Exclusion.h"
+#include "clean/FolderReading.h"
 #include "clean/Snapshot.h"
 #include "platform/values/Result.h"
 
 #include <string>
 #include <vector>
 
-/// The three files of the program's data, in the data folder "Orlen". A file that is a link stays one; its
+/// The files of the program's data, in the data folder "Orlen". A file that is a link stays one; its
 /// target is read and written. Main thread; calls are synchronous and small.
 namespace orlen::Persist {
 
@@ -40,6 +41,8 @@ struct Loaded {
 [[nodiscard]] Loaded<Snapshot> loadSnapshots();
 /// "exclusions.json", in the order they were added.
 [[nodiscard]] Loaded<Exclusion> loadExclusions();
+/// "folders.json", oldest first.
+[[nodiscard]] Loaded<FolderReading> loadFolderReadings();
 
 /// Replaces the file. On failure, such as ENOSPC, the old file stays. A file that could not be read when last
 /// loaded, or cannot be read now, is not overwritten; the errno is that of reading. A file that cannot be
@@ -49,5 +52,7 @@ struct Loaded {
 [[nodiscard]] Result<void> saveSnapshots(const std::vector<Snapshot>& snapshots);
 /// The same for "exclusions.json". EFBIG for more than can be read again.
 [[nodiscard]] Result<void> saveExclusions(const std::vector<Exclusion>& exclusions);
+/// The same for "folders.json", which is not worth giving up the `Reserve` for.
+[[nodiscard]] Result<void> saveFolderReadings(const std::vector<FolderReading>& readings);
 
 } // namespace orlen::Persist

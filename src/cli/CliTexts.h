@@ -50,6 +50,7 @@ inline constexpr Text kHistorySummary = message("List the clean-ups made so far,
 inline constexpr Text kRestoreSummary = message("Put the items of one clean-up back where they were");
 inline constexpr Text kBreakdownSummary = message("Measure how the storage of the start-up volume is used");
 inline constexpr Text kPredictSummary = message("Forecast the growth from the snapshots of past scans");
+inline constexpr Text kGrewSummary = message("Show the folders that grew most since an earlier scan");
 inline constexpr Text kAskSummary = message("Run a Smart Scan and answer a question about the storage");
 inline constexpr Text kDuplicatesSummary =
     message("Find files with the same content below folders, or in the home folder");
@@ -83,6 +84,8 @@ inline constexpr Text kMoveYesHelp = message("Move without asking");
 inline constexpr Text kRestoreYesHelp = message("Put back without asking");
 inline constexpr Text kRecordHelp =
     message("The record as `orlen history` names it, or its first characters");
+inline constexpr Text kSinceHelp =
+    message("Compare with the scan before this day (YYYY-MM-DD) instead of the one before the last");
 inline constexpr Text kQuestionHelp = message("The question, in quotation marks");
 inline constexpr Text kQuestionsToBegin = message("Questions to begin with:");
 inline constexpr Text kDuplicateFoldersHelp =
@@ -107,6 +110,7 @@ inline constexpr Text kTryHelp = message("Try `orlen --help`.");
 inline constexpr Text kNoMegabytes = message("must be a number of megabytes from 0 on");
 // TRANSLATORS: follows the name of an option and a colon.
 inline constexpr Text kNoKind = message("there is no kind {word}");
+inline constexpr Text kNoDate = message("{word} is no day, such as 2025-03-01.");
 inline constexpr Text kNoReadableFolder = message("{path} is not a folder that can be read.");
 inline constexpr Text kProtectedFolder = message("{path} is protected.");
 inline constexpr Text kNoTextInDocument = message("{path} is not UTF-8, so no document can hold it.");

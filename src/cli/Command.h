@@ -45,6 +45,7 @@ std::unique_ptr<Command> makeHistoryCommand();
 std::unique_ptr<Command> makeRestoreCommand();
 std::unique_ptr<Command> makeBreakdownCommand();
 std::unique_ptr<Command> makePredictCommand();
+std::unique_ptr<Command> makeGrewCommand();
 std::unique_ptr<Command> makeAskCommand();
 std::unique_ptr<Command> makeDuplicatesCommand();
 std::unique_ptr<Command> makePhotosCommand();

@@ -36,9 +36,9 @@ std::vector<std::unique_ptr<Command>> allCommands()
     std::vector<std::unique_ptr<Command>> commands;
     for (const auto make :
          {makeScanCommand, makeCleanCommand, makeHistoryCommand, makeRestoreCommand, makeBreakdownCommand,
-          makePredictCommand, makeAskCommand, makeDuplicatesCommand, makePhotosCommand, makeMapCommand,
-          makeAppsCommand, makeLeftoversCommand, makeUninstallCommand, makeStartupCommand, makeExplainCommand,
-          makeExcludeCommand, makeAdviceCommand})
+          makePredictCommand, makeGrewCommand, makeAskCommand, makeDuplicatesCommand, makePhotosCommand,
+          makeMapCommand, makeAppsCommand, makeLeftoversCommand, makeUninstallCommand, makeStartupCommand,
+          makeExplainCommand, makeExcludeCommand, makeAdviceCommand})
         commands.push_back(make());
     return commands;
 }

@@ -190,6 +190,20 @@ Json answer(const Answer& answer)
     return {{"text", answer.text.base()}, {"findingIDs", answer.findingIDs}, {"usedModel", answer.usedModel}};
 }
 
+Json growth(const std::optional<Growth>& growth)
+{
+    Json document = Json::object();
+    if (growth)
+        document["since"] = isoText(growth->since);
+    Json& folders = document["folders"] = Json::array();
+    for (const Growth::Folder& folder : growth.value_or(Growth{}).folders)
+        folders.push_back({{"path", folder.path},
+                           {"bytes", folder.bytes()},
+                           {"before", folder.before},
+                           {"now", folder.now}});
+    return document;
+}
+
 Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds duration)
 {
     const auto encodeSet = [](const Duplicates::Set& set) -> Json {

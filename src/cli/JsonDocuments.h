@@ -2,6 +2,7 @@
 
 #include "clean/Cleaner.h"
 #include "insight/AskEngine.h"
+#include "insight/Growth.h"
 #include "insight/Predictor.h"
 #include "model/CleanPlan.h"
 #include "model/Finding.h"
@@ -16,6 +17,7 @@
 
 #include <chrono>
 #include <nlohmann/json_fwd.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,6 +44,8 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json restore(const Cleaner::Restored& outcome, const Message& message);
 [[nodiscard]] Json answer(const Answer& answer);
 [[nodiscard]] Json prediction(const Prediction& prediction, std::size_t snapshots);
+/// Nothing: there are no two scans to compare.
+[[nodiscard]] Json growth(const std::optional<Growth>& growth);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
 [[nodiscard]] Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos,
                           Seconds duration);

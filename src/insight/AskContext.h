@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clean/CleanRecord.h"
+#include "clean/FolderReading.h"
 #include "clean/Protection.h"
 #include "insight/Predictor.h"
 #include "model/Finding.h"
@@ -22,6 +23,7 @@ struct AskContext {
     TimePoint now;                    ///< when the question is asked
     /// Which rule protects a path, without touching the disk; empty if nobody knows. Any thread.
     std::function<Protection(std::string_view)> protection;
+    std::vector<FolderReading> folders; ///< what folders held at the end of past scans, oldest first
 };
 
 } // namespace orlen

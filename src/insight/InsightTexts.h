@@ -85,6 +85,19 @@ inline constexpr Text kFullAround = message("At the present pace your disk will 
 // TRANSLATORS: the answer to "When will my disk be full?"
 inline constexpr Text kNotForLong = message("Not for more than 20 years at the present pace.");
 
+// What grew. {date}, {first} and {last} are those of scans.
+// TRANSLATORS: a list of folders follows.
+inline constexpr Text kGrewSince = message("Since {date} these folders grew the most:");
+// TRANSLATORS: {first} and {last} are dates; a list of folders follows.
+inline constexpr Text kGrewBetween = message("From {first} to {last} these folders grew the most:");
+// TRANSLATORS: {path} is a folder, {size} what it grew by, {now} its size.
+inline constexpr Text kGrewFolder = message("• {path}: {size} more, {now} in all");
+inline constexpr Text kNothingGrew = message("No folder has grown much since {date}.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kNothingGrewBetween = message("No folder grew much from {first} to {last}.");
+inline constexpr Text kNothingToCompare =
+    message("There are no two scans to compare yet. Each Smart Scan notes how big your folders are.");
+
 // What could be freed. {findings} is a list as above.
 inline constexpr Text kCouldFree =
     message("You could free about {size} from items rated Safe: {findings}. Ratings are suggestions, so you "

@@ -42,28 +42,17 @@ CategoryFolder* holderOf(std::vector<CategoryFolder>& folders, std::string_view 
 
 } // namespace
 
-CategorySums::CategorySums(const std::vector<BreakdownFolders::Folder>& folders)
-    : m_folders(folders), m_files(folders.size())
-{
-    for (std::size_t root = 0; root < folders.size(); ++root)
-        m_counters.push_back({root, {}});
-}
-
 std::optional<std::uint32_t> CategorySums::enter(const TreeFolder& parent, std::string_view name,
                                                  std::uint32_t /*marks*/)
 {
-    if (parent.parent() != nullptr)
-        return parent.tag();
-    const std::lock_guard guard(m_lock);
-    m_counters.push_back({parent.tag(), {std::string(name)}});
-    return static_cast<std::uint32_t>(m_counters.size() - 1);
+    return m_totals.child(parent.tag(), name);
 }
 
 /// The file's size; 0 for another name of a file that was counted already.
-std::int64_t CategorySums::newBytes(const TreeFile& file, std::size_t root)
+std::int64_t CategorySums::newBytes(const TreeFile& file, OrlenCategory category)
 {
     if (file.status.links > 1) {
-        Linked& linked = m_linked[static_cast<std::size_t>(m_folders[root].category)];
+        Linked& linked = m_linked[static_cast<std::size_t>(category)];
         const std::lock_guard guard(linked.lock);
         if (!linked.files.insert(file.status.identity).second)
             return 0;
@@ -74,57 +63,52 @@ std::int64_t CategorySums::newBytes(const TreeFile& file, std::size_t root)
 void CategorySums::files(const TreeFolder& folder, std::span<const TreeFile> files)
 {
     const bool isRoot = folder.parent() == nullptr;
-    std::size_t root = folder.tag();
-    if (!isRoot) {
-        const std::lock_guard guard(m_lock);
-        root = m_counters[folder.tag()].root;
-    }
+    const std::size_t root = m_totals.rootOf(folder.tag());
     std::int64_t sum = 0;
     std::vector<Item> largest;
     for (const TreeFile& file : files) {
-        const std::int64_t bytes = newBytes(file, root);
+        const std::int64_t bytes = newBytes(file, m_folders[root].category);
         sum = cappedAdd(sum, bytes);
         if (isRoot)
             offer(largest, {file.name, bytes, false});
     }
+    m_totals.add(folder.tag(), sum);
+    if (largest.empty())
+        return;
     const std::lock_guard guard(m_lock);
-    Item& counted = m_counters[folder.tag()].item;
-    counted.bytes = cappedAdd(counted.bytes, sum);
     for (Item& item : largest)
         offer(m_files[root], std::move(item));
 }
 
 std::vector<CategoryFolder> CategorySums::take()
 {
+    const std::vector<std::int64_t> bytes = m_totals.rootBytes();
     std::vector<CategoryFolder> measured(m_folders.size());
     for (std::size_t root = 0; root < m_folders.size(); ++root) {
         measured[root].category = m_folders[root].category;
         measured[root].path = Places::current().normalized(m_folders[root].path);
+        measured[root].bytes = bytes[root];
         measured[root].largest = std::move(m_files[root]);
     }
-    for (std::size_t tag = 0; tag < m_counters.size(); ++tag) {
-        auto& [root, item] = m_counters[tag];
-        measured[root].bytes = cappedAdd(measured[root].bytes, item.bytes);
-        if (tag >= m_folders.size())
-            offer(measured[root].largest, std::move(item));
-    }
+    for (FolderTotals::Item& item : m_totals.items())
+        offer(measured[item.root].largest, {std::move(item.name), item.bytes});
     return measured;
 }
 
 std::vector<CategoryFolder> CategorySums::measure(const std::vector<BreakdownFolders::Folder>& folders,
                                                   const PathMarks& marks, const MountTable& mounts,
-                                                  const std::stop_token& stop)
+                                                  const std::stop_token& stop, FolderTotals& totals)
 {
     std::vector<TreeRoot> roots;
-    for (std::size_t root = 0; root < folders.size(); ++root)
-        roots.push_back({folders[root].path, static_cast<std::uint32_t>(root)});
+    for (const BreakdownFolders::Folder& folder : folders)
+        roots.push_back({folder.path, totals.addRoot(Places::current().normalized(folder.path))});
     UnreadableFolders unreadable;
     TreeScanOptions options;
     options.crossing = Crossing::sameFileSystem;
     options.priority = DiskWorkers::Priority::utility;
     options.marks = &marks;
     options.unreadable = &unreadable;
-    CategorySums sums(folders);
+    CategorySums sums(folders, totals);
     scanTrees(roots, sums, mounts, options, stop);
 
     std::vector<CategoryFolder> measured = sums.take();

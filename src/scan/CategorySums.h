@@ -2,6 +2,7 @@
 
 #include "scan/BreakdownFolders.h"
 #include "scan/CategoryFolder.h"
+#include "scan/FolderTotals.h"
 #include "scan/UnreadableFolders.h"
 #include "scan/tree/TreeScan.h"
 
@@ -22,10 +23,11 @@ class MountTable;
 class CategorySums : public TreeVisitor {
 public:
     /// Measures the folders, which are the roots of the scan, and skips whatever is marked. Largest first;
-    /// those that take no space are left out. Blocks on the disk; a stopped measurement returns what it has.
+    /// those that take no space are left out. `totals`, which must be new, receives the folders as its roots.
+    /// Blocks on the disk; a stopped measurement returns what it has.
     [[nodiscard]] static std::vector<CategoryFolder>
     measure(const std::vector<BreakdownFolders::Folder>& folders, const PathMarks& marks,
-            const MountTable& mounts, const std::stop_token& stop);
+            const MountTable& mounts, const std::stop_token& stop, FolderTotals& totals);
 
     std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                        std::uint32_t marks) override;
@@ -34,25 +36,23 @@ public:
 private:
     using Item = CategoryFolder::Item;
 
-    /// Tags below the number of roots stand for these, the others for the folders directly in them.
-    struct Counter {
-        std::size_t root = 0;
-        Item item;
-    };
     struct Linked {
         std::mutex lock;
         std::unordered_set<FileIdentity, FileIdentityHash> files;
     };
 
-    explicit CategorySums(const std::vector<BreakdownFolders::Folder>& folders);
-    [[nodiscard]] std::int64_t newBytes(const TreeFile& file, std::size_t root);
+    CategorySums(const std::vector<BreakdownFolders::Folder>& folders, FolderTotals& totals)
+        : m_folders(folders), m_totals(totals), m_files(folders.size())
+    {
+    }
+    [[nodiscard]] std::int64_t newBytes(const TreeFile& file, OrlenCategory category);
     [[nodiscard]] std::vector<CategoryFolder> take();
 
     const std::vector<BreakdownFolders::Folder>& m_folders;
+    FolderTotals& m_totals;
     std::array<Linked, kAllCategories.size()> m_linked;
 
-    std::mutex m_lock; ///< guards what follows
-    std::vector<Counter> m_counters;
+    std::mutex m_lock;                      ///< guards what follows
     std::vector<std::vector<Item>> m_files; ///< the largest directly in each root
 };
 

@@ -51,11 +51,12 @@ Findings findPhotos(const Walk::Found& found, const ScanOptions& options, ScanPr
 
 /// The steps that share one walk of the home folder.
 Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptions& options,
-                   const RecentDocuments& recent, UnreadableFolders& unreadable, PhotoCoverage& coverage)
+                   const RecentDocuments& recent, UnreadableFolders& unreadable, FolderTotals& totals,
+                   PhotoCoverage& coverage)
 {
     const std::stop_token stop = flag.token();
     progress.set(StepKind::largeAndOld, StepState::running);
-    Walk::Found found = Walk::home(progress, stop, {options.largeThreshold, &unreadable});
+    Walk::Found found = Walk::home(progress, stop, {options.largeThreshold, &unreadable, &totals});
 
     StepGroup group;
     group.add("large", [&] {
@@ -117,7 +118,8 @@ std::vector<Finding> ScanEngine::run()
     addLocations(StepKind::languagePacks, [&] { return scanners.languagePacks(); });
     addLocations(StepKind::downloads, [&] { return scanners.downloads(Clock::now(), recent); });
     group.add("files", [&] {
-        return fileBased(m_progress, m_flag, m_options, recent, m_unreadable, m_photoCoverage);
+        return fileBased(m_progress, m_flag, m_options, recent, m_unreadable, m_folderTotals,
+                         m_photoCoverage);
     });
     std::vector<Finding> findings = mergedByKind(group.collect());
     for (const Reachability::LeftOut& mount : Reachability::leftOut()) {

@@ -2,6 +2,7 @@
 
 #include "model/Finding.h"
 #include "platform/images/ImageWorkers.h"
+#include "scan/FolderTotals.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 #include "scan/UnreadableFolders.h"
@@ -33,6 +34,9 @@ public:
     [[nodiscard]] ScanFlag& flag() { return m_flag; }
     /// Grows while the scan runs.
     [[nodiscard]] const UnreadableFolders& unreadable() const { return m_unreadable; }
+    /// What the folders of the home folder hold that the storage breakdown does not count. Valid once `run`
+    /// has returned.
+    [[nodiscard]] const FolderTotals& folderTotals() const { return m_folderTotals; }
     /// Valid once `run` has returned.
     [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
 
@@ -41,6 +45,7 @@ private:
     ScanProgress m_progress;
     ScanFlag m_flag;
     UnreadableFolders m_unreadable;
+    FolderTotals m_folderTotals;
     PhotoCoverage m_photoCoverage;
 };
 

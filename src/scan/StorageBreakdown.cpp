@@ -5,6 +5,7 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/BreakdownFolders.h"
 #include "scan/CategorySums.h"
+#include "scan/FolderTotals.h"
 #include "scan/tree/CurrentMounts.h"
 
 #include <algorithm>
@@ -23,6 +24,12 @@ StorageBreakdown::Space StorageBreakdown::volume()
 
 StorageBreakdown StorageBreakdown::compute(const std::stop_token& stop)
 {
+    FolderTotals totals;
+    return compute(stop, totals);
+}
+
+StorageBreakdown StorageBreakdown::compute(const std::stop_token& stop, FolderTotals& totals)
+{
     const auto mounts = CurrentMounts::table();
     const auto folders = BreakdownFolders::find(Places::current(), *mounts);
     PathMarks marks;
@@ -31,7 +38,7 @@ StorageBreakdown StorageBreakdown::compute(const std::stop_token& stop)
         marks.mark(folder.path, PathMarks::kSkip);
 
     StorageBreakdown breakdown;
-    breakdown.folders = CategorySums::measure(folders, marks, *mounts, stop);
+    breakdown.folders = CategorySums::measure(folders, marks, *mounts, stop, totals);
     const Space space = volume();
     breakdown.total = space.total;
     breakdown.free = space.free;

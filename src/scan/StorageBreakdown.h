@@ -10,6 +10,8 @@
 
 namespace orlen {
 
+class FolderTotals;
+
 /// How the space of the start-up volume is used. Empty until computed.
 struct StorageBreakdown {
     std::int64_t total = 0; ///< capacity, bytes
@@ -29,6 +31,8 @@ struct StorageBreakdown {
     /// Measures all categories; `system` is the rest, at least 0. Blocks on the disk: never call from the
     /// main thread. If stopped, the sums are too small and the caller discards them.
     [[nodiscard]] static StorageBreakdown compute(const std::stop_token& stop = {});
+    /// The same; `totals`, which must be new, receives what the folders hold.
+    [[nodiscard]] static StorageBreakdown compute(const std::stop_token& stop, FolderTotals& totals);
 
     friend bool operator==(const StorageBreakdown&, const StorageBreakdown&) = default;
 };

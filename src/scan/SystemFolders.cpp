@@ -7,6 +7,7 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/BreakdownFolders.h"
 #include "scan/CategorySums.h"
+#include "scan/FolderTotals.h"
 #include "scan/tree/CurrentMounts.h"
 
 #include <algorithm>
@@ -69,7 +70,8 @@ std::vector<CategoryFolder> measure(const std::stop_token& stop)
     for (const BreakdownFolders::Folder& folder : folders)
         marks.mark(folder.path, PathMarks::kSkip);
 
-    std::vector<CategoryFolder> measured = CategorySums::measure(folders, marks, *mounts, stop);
+    FolderTotals totals;
+    std::vector<CategoryFolder> measured = CategorySums::measure(folders, marks, *mounts, stop, totals);
     std::ranges::sort(top.largest, std::greater(), &CategoryFolder::Item::bytes);
     if (top.bytes > 0)
         measured.push_back(std::move(top));

@@ -3,6 +3,8 @@
 #include "app/ScannedModel.h"
 #include "app/Sizes.h"
 #include "clean/Persist.h"
+#include "insight/AskContext.h"
+#include "insight/Growth.h"
 #include "scan/ScanEngine.h"
 #include "support/TempHome.h"
 
@@ -67,6 +69,25 @@ TEST(AppModelTest, startUpRecordsASnapshotWhenOneIsDue)
         EXPECT_THAT(Persist::loadSnapshots().records, SizeIs(c.expected));
         EXPECT_EQ(model.storage()->breakdown().cats.size(), 7U);
     }
+}
+
+TEST(AppModelTest, eachScanNotesHowBigFoldersAreUnlessAnotherProgramWrites)
+{
+    const TempHome home;
+    home.fileOfSize("Videos/a", 12'000 * kKiB);
+    AppModel model(kCommand);
+    scan(model);
+    home.fileOfSize("Videos/series/b", 20'000 * kKiB);
+    AppModel reader({AppModel::Startup::filesOnly, AppModel::Access::writer});
+    ASSERT_FALSE(reader.isWriter());
+    scan(reader);
+    const auto growth = Growth::sinceLastScan(reader.askContext().folders);
+    ASSERT_TRUE(growth);
+    EXPECT_THAT(growth->folders, ElementsAre(Growth::Folder{home.path("Videos/series"), 0, 20'000 * kKiB}));
+    EXPECT_THAT(Persist::loadFolderReadings().records, SizeIs(1)) << "a reader saves nothing";
+    EXPECT_EQ(Persist::loadFolderReadings().records, model.storage()->folders().readings());
+    scan(model);
+    EXPECT_THAT(Persist::loadFolderReadings().records, SizeIs(2));
 }
 
 TEST(AppModelTest, aSnapshotIsStaleAfterTwelveHoursAndNotAtThem)

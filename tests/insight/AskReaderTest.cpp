@@ -62,11 +62,23 @@ protected:
              "Clean-up",
              {{home.path("Downloads/gone.zip"), "/t/gone.zip", kBytesInGB}}},
             {{}, on("2026-01-02"), "Clean-up", {{home.path("b"), "/t/b", 2 * kBytesInGB, true}}}};
+        context.folders = {reading("2026-04-28", 31, 0, 5), reading("2026-05-20", 61, 12, 5),
+                           reading("2026-05-30", 71, 12, 1), reading("2026-05-31", 80, 12, 3)};
         context.protection = [this](std::string_view path) {
             if (path == home.path(".ssh"))
                 return Protection::credentials;
             return path == home.path("Documents") ? Protection::mainFolders : Protection::none;
         };
+    }
+
+    [[nodiscard]] FolderReading reading(const std::string& date, std::int64_t videos, std::int64_t downloads,
+                                        std::int64_t cache) const
+    {
+        return {on(date),
+                kBytesInMB,
+                {{home.path(".cache"), cache * kBytesInGB},
+                 {home.path("Downloads"), downloads * kBytesInGB},
+                 {home.path("Videos"), videos * kBytesInGB}}};
     }
 
     void add(FindingKind kind, Rating rating, const Text& reason, std::vector<FileEntry> items)
@@ -186,6 +198,16 @@ constexpr Row kSpace[] = {
     {"I need to make room for 500 MB", "rated Safe is enough|App caches"},
 };
 
+constexpr Row kGrown[] = {
+    {"what grew", "Since 30 May 2026|~/Videos: 9 GB more, 80 GB in all|~/.cache: 2 GB", "By category"},
+    {"What has grown since the last scan?", "Since 30 May 2026|~/Videos: 9 GB", "~/Downloads"},
+    {"what grew since Monday", "Since 20 May 2026|~/Videos: 19 GB", "~/.cache"},
+    {"what grew last month", "From 28 April 2026 to 31 May 2026|~/Videos: 49 GB|~/Downloads: 12 GB"},
+    {"which folders have grown most since 2026-05-21", "Since 20 May 2026|19 GB"},
+    {"what grew on my disk since 2026-06-01", "no two scans"},
+    {"what grew in 2025", "no two scans"},
+};
+
 constexpr Row kLists[] = {
     {"biggest videos", "Of videos the last scan lists 3, 15 GB in all|wedding.mp4 (9 GB)|holiday.mkv|cut.mov",
      "debian|By category"},
@@ -273,7 +295,7 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kSubjects), std::span<const Row>(kAbout)}) {
+          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout)}) {
         for (const Row& row : rows) {
             SCOPED_TRACE(row.question);
             const Answer answer = AskEngine::answer(row.question, context);

@@ -62,6 +62,9 @@ constexpr std::string_view kMonths[] = {"january",   "february", "march",    "ap
                                         "may",       "june",     "july",     "august",
                                         "september", "october",  "november", "december"};
 
+constexpr std::string_view kWeekdays[] = {"sunday",   "monday", "tuesday", "wednesday",
+                                          "thursday", "friday", "saturday"};
+
 enum class Unit { day, week, month, year };
 
 struct NamedUnit {
@@ -188,6 +191,18 @@ std::optional<Taken<Period>> dateAt(std::span<const std::string> words)
     return year ? std::optional(Taken<Period>{wholeMonth(*year, *month), 2}) : std::nullopt;
 }
 
+/// The last such day before today.
+std::optional<Period> weekdayIn(std::string_view text, TimePoint now)
+{
+    const auto* const found = std::ranges::find(kWeekdays, text);
+    if (found == std::end(kWeekdays))
+        return std::nullopt;
+    const std::chrono::weekday day(static_cast<unsigned>(found - std::begin(kWeekdays)));
+    const auto yesterday = std::chrono::floor<days>(now) - days(1);
+    const TimePoint start = yesterday - (std::chrono::weekday(yesterday) - day);
+    return Period{start, start + days(1)};
+}
+
 /// "two years", "a month ago", "year" after "last" or "this".
 std::optional<Taken<Period>> stretchAt(std::span<const std::string> words, TimePoint now)
 {
@@ -243,6 +258,8 @@ std::optional<Taken<Period>> periodAt(std::span<const std::string> words, TimePo
         return std::nullopt;
     if (const auto date = dateAt(words))
         return date;
+    if (const auto weekday = weekdayIn(words[0], now))
+        return Taken<Period>{*weekday, 1};
     if (words[0] == "yesterday")
         return Taken<Period>{calendar(now, Unit::day, false), 1};
     if (const auto stretch = stretchAt(words, now))
@@ -252,6 +269,8 @@ std::optional<Taken<Period>> periodAt(std::span<const std::string> words, TimePo
         return std::nullopt;
     if (const NamedUnit* const unit = rowNamed(kTimeUnits, words[1]))
         return Taken<Period>{calendar(now, unit->unit, isThis), 2};
+    if (const auto weekday = weekdayIn(words[1], now))
+        return Taken<Period>{*weekday, 2};
     if (const auto stretch = stretchAt(words.subspan(1), now))
         return Taken<Period>{stretch->value, stretch->words + 1};
     return std::nullopt;

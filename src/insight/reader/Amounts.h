@@ -33,7 +33,7 @@ struct Taken {
 [[nodiscard]] std::optional<Taken<std::int64_t>> numberAt(std::span<const std::string> words);
 
 /// A date or a stretch of time at the start of the words, in UTC: "2023", "march 2024", "2024-05-31", "last
-/// month", "two years", "6 months ago". A stretch ends now.
+/// month", "monday", "two years", "6 months ago". A stretch ends now.
 [[nodiscard]] std::optional<Taken<Period>> periodAt(std::span<const std::string> words, TimePoint now);
 
 /// The day, in UTC, that a period begins or ends with, for a message.

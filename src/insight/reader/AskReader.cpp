@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/GrowthReplies.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
@@ -53,6 +54,7 @@ const std::vector<Rule>& rules()
          {what, when, howMuch, howBig, free, remove, makeRoom, general, space},
          lastCleanUp},
         {{{cleanUp}, {when}}, {general, last}, lastCleanUp},
+        {{{what}, {grow}}, kSpaceWords.with({grow, last, since, after, period, inside, general}), whatGrew},
         {{{why}, {full, used, space, free}},
          kSpaceWords.with({full, what, general, above, below, biggest}),
          whyFull},

@@ -78,6 +78,7 @@ constexpr Row kRows[] = {
     {Sense::smallest, "smallest,tiniest,lightest"},
     {Sense::oldest, "oldest,most ancient"},
     {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed"},
+    {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger"},
     {Sense::above,
      "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller than,heavier "
      "than"},
@@ -100,7 +101,7 @@ constexpr Row kRows[] = {
      "third party,third parties,account,offline"},
     {Sense::general,
      "most,using,use,uses,taking,take,takes,taking up,take up,takes up,hogging,hog,eating,eats,predict,"
-     "prediction,forecast,grow,grows,growing,grew,growth,xcode,derived,simulator,simulators,build,code,"
+     "prediction,forecast,xcode,derived,simulator,simulators,build,code,"
      "backup,"
      "backups,ios,language,languages,translation,large,big,huge,old,mail,attachment,important,copies,same "
      "file,long,scan,result,results,suggest,suggestion,suggestions,help,who are you,folder,folders,directory,"

@@ -32,6 +32,7 @@ enum class Sense : std::uint8_t {
     smallest,
     oldest,
     newest,
+    grow,
     above,
     below,
     inside,

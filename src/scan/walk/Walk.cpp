@@ -3,6 +3,8 @@
 #include "clean/Safety.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "scan/BreakdownFolders.h"
+#include "scan/FolderTotals.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/walk/WalkRules.h"
 #include "scan/walk/WalkVisitor.h"
@@ -29,19 +31,30 @@ void dropKnown(std::vector<Cand>& files, const std::vector<Cand>& cands)
     std::erase_if(files, [&](const Cand& file) { return known.contains(file.stamp->identity); });
 }
 
+/// The storage breakdown measures these, with all that a walk leaves out.
+void markCountedElsewhere(const MountTable& mounts, PathMarks& marks)
+{
+    const Places& places = Places::current();
+    for (const BreakdownFolders::Folder& folder : BreakdownFolders::find(places, mounts))
+        marks.mark(places.normalized(folder.path), WalkRules::kCountedElsewhere);
+}
+
 Found walk(WalkVisitor::Scope scope, const std::vector<TreeRoot>& roots, ScanProgress& progress,
            const std::stop_token& stop, const Options& asked)
 {
     PathMarks marks;
     WalkRules::markMediaFolders(Places::current(), marks);
-    WalkVisitor visitor(scope, progress);
+    const auto mounts = CurrentMounts::table();
+    if (asked.totals != nullptr)
+        markCountedElsewhere(*mounts, marks);
+    WalkVisitor visitor(scope, progress, asked.totals);
     TreeScanOptions options;
     options.crossing = Crossing::localDisks;
     options.marks = &marks;
     options.unreadable = asked.unreadable;
-    scanTrees(roots, visitor, *CurrentMounts::table(), options, stop);
+    scanTrees(roots, visitor, *mounts, options, stop);
     WalkedCaches::Found caches =
-        WalkedCaches::measure(visitor.takeCaches(), asked.largeBytes, asked.unreadable, stop);
+        WalkedCaches::measure(visitor.takeCaches(), asked.largeBytes, asked.unreadable, asked.totals, stop);
     Found found{visitor.takeCands(), visitor.takeImages(), std::move(caches.entries),
                 std::move(caches.largeFiles)};
     dropKnown(found.largeInCaches, found.cands);
@@ -72,7 +85,10 @@ Found home(ScanProgress& progress, const std::stop_token& stop, const Options& o
 {
     if (!Places::current().isHomeUsable)
         return {};
-    return walk(WalkVisitor::Scope::homeFolder, {{Safety::home(), 0}}, progress, stop, options);
+    const FolderTotals::Counter counter =
+        options.totals == nullptr ? FolderTotals::kNone : options.totals->addRoot(Safety::home());
+    return walk(WalkVisitor::Scope::homeFolder, {{Safety::home(), WalkVisitor::tagOf(counter)}}, progress,
+                stop, options);
 }
 
 Found folders(const std::vector<std::string>& roots, ScanProgress& progress, const std::stop_token& stop,
@@ -84,7 +100,7 @@ Found folders(const std::vector<std::string>& roots, ScanProgress& progress, con
         paths.push_back(Places::current().normalized(root));
     std::vector<TreeRoot> trees;
     for (std::string& path : outermost(std::move(paths)))
-        trees.push_back({std::move(path), WalkVisitor::kImages});
+        trees.push_back({std::move(path), WalkVisitor::kImages | WalkVisitor::tagOf(FolderTotals::kNone)});
     return walk(WalkVisitor::Scope::givenFolders, trees, progress, stop, options);
 }
 

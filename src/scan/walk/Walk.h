@@ -10,6 +10,7 @@
 
 namespace orlen {
 
+class FolderTotals;
 class ScanProgress;
 class UnreadableFolders;
 
@@ -34,6 +35,8 @@ struct Found {
 struct Options {
     std::int64_t largeBytes = 500'000'000;   ///< smallest large file in a cache
     UnreadableFolders* unreadable = nullptr; ///< collects folders that could not be read; may be null
+    /// Receives the home folder as a root, without the folders of the storage breakdown; may be null.
+    FolderTotals* totals = nullptr;
 };
 
 /// Walks the home folder except hidden items, top-level Library, Applications, Public and snap, packages,

@@ -16,6 +16,8 @@ namespace WalkRules {
 inline constexpr unsigned kImageFolder = 2;
 /// Marks the folders of the user's films.
 inline constexpr unsigned kFilmFolder = 4;
+/// Measured by the storage breakdown as well.
+inline constexpr unsigned kCountedElsewhere = 8;
 
 /// Top-level names of the home folder that are skipped.
 [[nodiscard]] bool isLeftOutAtTop(std::string_view name);

@@ -2,6 +2,7 @@
 
 #include "clean/Safety.h"
 #include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/ScanProgress.h"
 #include "scan/ScanTexts.h"
 #include "scan/walk/ProjectCaches.h"
@@ -38,7 +39,15 @@ std::optional<std::uint32_t> WalkVisitor::enter(const TreeFolder& parent, std::s
         tag |= kFilms;
     else if ((parent.tag() & kFilms) != 0)
         tag |= kInFilms;
-    return tag;
+    return tag | tagOf(counterIn(parent, name, marks));
+}
+
+FolderTotals::Counter WalkVisitor::counterIn(const TreeFolder& parent, std::string_view name,
+                                             std::uint32_t marks) const
+{
+    if (m_totals == nullptr || (marks & WalkRules::kCountedElsewhere) != 0)
+        return FolderTotals::kNone;
+    return m_totals->child(counterOf(parent), name);
 }
 
 /// Whether its parent's listing showed that it is a cache.
@@ -64,7 +73,7 @@ bool WalkVisitor::accept(const TreeFolder& folder, const TreeListing& listing)
         return false;
     case WalkRules::FolderNature::taggedCache: {
         const std::lock_guard lock(m_lock);
-        m_caches.push_back({folder.path(), ScanTexts::kMarkedAsCache});
+        m_caches.push_back({folder.path(), ScanTexts::kMarkedAsCache, counterOf(folder)});
         return false;
     }
     }
@@ -84,14 +93,16 @@ void WalkVisitor::collectCachesIn(const TreeFolder& folder, const TreeListing& l
         if (!folder.canName(cache.name))
             continue;
         const std::string path = folder.pathOf(cache.name);
+        const FolderTotals::Counter counter = counterIn(folder, cache.name, 0);
         const std::lock_guard lock(m_lock);
-        m_caches.push_back({path, cache.note});
+        m_caches.push_back({path, cache.note, counter});
         m_projectCaches.insert(path);
     }
 }
 
 void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> files)
 {
+    addToTotals(folder, files);
     std::vector<Walked> cands;
     std::vector<Cand> images;
     for (const TreeFile& file : files) {
@@ -118,6 +129,25 @@ void WalkVisitor::files(const TreeFolder& folder, std::span<const TreeFile> file
     const std::lock_guard lock(m_lock);
     std::move(images.begin(), images.end(), std::back_inserter(m_images));
     std::move(cands.begin(), cands.end(), std::back_inserter(m_cands));
+}
+
+void WalkVisitor::addToTotals(const TreeFolder& folder, std::span<const TreeFile> files)
+{
+    const FolderTotals::Counter counter = counterOf(folder);
+    if (counter == FolderTotals::kNone)
+        return;
+    std::int64_t sum = 0;
+    std::unique_lock lock(m_lock, std::defer_lock);
+    for (const TreeFile& file : files) {
+        if (file.status.links > 1) {
+            if (!lock.owns_lock())
+                lock.lock();
+            if (!m_linked.insert(file.status.identity).second)
+                continue;
+        }
+        sum = cappedAdd(sum, file.status.allocatedBytes);
+    }
+    m_totals->add(counter, sum);
 }
 
 /// Hidden items and skipped top-level folders never get here.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scan/FolderTotals.h"
 #include "scan/tree/TreeScan.h"
 #include "scan/walk/Walk.h"
 #include "scan/walk/WalkedCaches.h"
@@ -7,6 +8,7 @@
 #include <mutex>
 #include <set>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace orlen {
@@ -25,7 +27,17 @@ public:
     /// Smallest general candidate, in allocated bytes.
     static constexpr std::int64_t kCandBytes = 1'000'000;
 
-    WalkVisitor(Scope scope, ScanProgress& progress) : m_scope(scope), m_progress(progress) {}
+    /// The part of a tag that says where the folder counts.
+    [[nodiscard]] static constexpr std::uint32_t tagOf(FolderTotals::Counter counter)
+    {
+        return counter << kFlagBits;
+    }
+
+    /// `totals` receives the sizes of folders; may be null.
+    WalkVisitor(Scope scope, ScanProgress& progress, FolderTotals* totals)
+        : m_scope(scope), m_progress(progress), m_totals(totals)
+    {
+    }
 
     std::optional<std::uint32_t> enter(const TreeFolder& parent, std::string_view name,
                                        std::uint32_t marks) override;
@@ -44,23 +56,35 @@ public:
     [[nodiscard]] std::set<std::string, std::less<>> takeWorkTrees();
 
 private:
+    static constexpr int kFlagBits = 3;
+    static_assert(FolderTotals::kBits + kFlagBits <= 32);
+
     struct Walked {
         Cand cand;
         FileIdentity identity;
     };
 
+    [[nodiscard]] static FolderTotals::Counter counterOf(const TreeFolder& folder)
+    {
+        return folder.tag() >> kFlagBits;
+    }
+    [[nodiscard]] FolderTotals::Counter counterIn(const TreeFolder& parent, std::string_view name,
+                                                  std::uint32_t marks) const;
+    void addToTotals(const TreeFolder& folder, std::span<const TreeFile> files);
     [[nodiscard]] bool isCounted(const TreeFolder& folder, std::string_view name) const;
     [[nodiscard]] bool isCollected(const TreeFolder& parent, std::string_view name);
     void collectCachesIn(const TreeFolder& folder, const TreeListing& listing);
 
     const Scope m_scope;
     ScanProgress& m_progress;
+    FolderTotals* const m_totals;
     std::mutex m_lock;
     std::vector<Walked> m_cands;
     std::vector<Cand> m_images;
     std::vector<WalkedCaches::Folder> m_caches;
     std::set<std::string, std::less<>> m_projectCaches; ///< those not to be entered
     std::set<std::string, std::less<>> m_workTrees;
+    std::unordered_set<FileIdentity, FileIdentityHash> m_linked; ///< counted files with several names
 };
 
 } // namespace orlen

@@ -123,7 +123,7 @@ std::vector<FileEntry> entriesOf(const std::vector<Folder>& folders, const Visit
 {
     std::vector<FileEntry> entries;
     for (std::size_t i = 0; i < folders.size(); ++i) {
-        const auto& [path, note] = folders[i];
+        const auto& [path, note, counter] = folders[i];
         const TreeSize size = visitor.size(i);
         const auto status = statusOf(path);
         if (size.freed < kSmallest || !status.ok() || !mayBeOffered(path))
@@ -145,7 +145,7 @@ std::vector<FileEntry> entriesOf(const std::vector<Folder>& folders, const Visit
 } // namespace
 
 Found measure(const std::vector<Folder>& folders, std::int64_t largeBytes, UnreadableFolders* unreadable,
-              const std::stop_token& stop)
+              FolderTotals* totals, const std::stop_token& stop)
 {
     Visitor visitor(folders, largeBytes);
     std::vector<TreeRoot> roots;
@@ -155,6 +155,8 @@ Found measure(const std::vector<Folder>& folders, std::int64_t largeBytes, Unrea
     options.crossing = Crossing::localDisks;
     options.unreadable = unreadable;
     scanTrees(roots, visitor, *CurrentMounts::table(), options, stop);
+    for (std::size_t i = 0; i < folders.size() && totals != nullptr; ++i)
+        totals->add(folders[i].counter, visitor.size(i).held);
     return {entriesOf(folders, visitor), walkable(visitor.takeLarge())};
 }
 

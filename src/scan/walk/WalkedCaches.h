@@ -2,6 +2,7 @@
 
 #include "model/FileEntry.h"
 #include "scan/Cand.h"
+#include "scan/FolderTotals.h"
 
 #include <cstdint>
 #include <stop_token>
@@ -19,7 +20,8 @@ namespace WalkedCaches {
 
 struct Folder {
     std::string path;
-    Text note; ///< for its entry
+    Text note;                                           ///< for its entry
+    FolderTotals::Counter counter = FolderTotals::kNone; ///< where it counts
 };
 
 struct Found {
@@ -31,9 +33,10 @@ struct Found {
 };
 
 /// Measures the folders and finds their large files in one pass. Blocks on the disk. If stopped, returns what
-/// it has. `unreadable`, if not null, collects folders that could not be read.
+/// it has. `unreadable`, if not null, collects folders that could not be read; `totals`, if not null,
+/// receives what the folders hold.
 [[nodiscard]] Found measure(const std::vector<Folder>& folders, std::int64_t largeBytes,
-                            UnreadableFolders* unreadable, const std::stop_token& stop);
+                            UnreadableFolders* unreadable, FolderTotals* totals, const std::stop_token& stop);
 
 } // namespace WalkedCaches
 } // namespace orlen
