@@ -46,7 +46,8 @@ void dropEmpty(std::vector<Finding>& findings)
 
 bool MovedEntries::isAbout(const FileEntry& entry, const std::set<std::string>& places)
 {
-    return FindingLists::isIn(places, entry.path) || (entry.kept && FindingLists::isIn(places, entry.kept->path));
+    return FindingLists::isIn(places, entry.path) ||
+           (entry.kept && FindingLists::isIn(places, entry.kept->path));
 }
 
 std::set<std::string> MovedEntries::take(std::vector<Finding>& from, const std::set<std::string>& selected,
