@@ -27,8 +27,11 @@ Journey {
     /// Moves to an action of the open menu with the keyboard, and does it.
     function choose(action: int) {
         const wanted = test.action(action);
-        for (let presses = 0; presses < 10 && !wanted.highlighted; ++presses)
-            keyClick(Qt.Key_Down);
+        tryVerify(() => wanted.menu.opened);
+        for (const key of [Qt.Key_Down, Qt.Key_Up]) {
+            for (let presses = 0; presses < 10 && !wanted.highlighted; ++presses)
+                keyClick(key);
+        }
         verify(wanted.highlighted, "the action is reached");
         keyClick(Qt.Key_Return);
         tryVerify(() => !test.isShown("menu-" + action));
