@@ -12,7 +12,6 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <random>
 
 namespace orlen {
 
@@ -57,26 +56,6 @@ void timeScan(const std::vector<Cand>& images, const std::string& path)
                 secondsSince(start) - looked);
 }
 
-/// Pages of one layout with other words: the worst that grouping can meet.
-void timePages(std::size_t count)
-{
-    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same every time
-    std::vector<PhotoInfo> photos;
-    for (std::size_t i = 0; i < count; ++i) {
-        FeaturePrint::Vector vector{};
-        vector[0] = 0.9F;
-        vector[1 + random() % 127] = 0.43F;
-        FeaturePrint::Tile tile{};
-        for (std::uint8_t& level : tile)
-            level = static_cast<std::uint8_t>(random());
-        photos.emplace_back().print = FeaturePrint(vector, tile);
-    }
-    const auto start = Clock::now();
-    const auto findings = PhotoAnalyzer::findings(photos);
-    std::printf("%zu pages of one layout, %zu in sets: %.2f s\n", count, findings.front().items.size(),
-                secondsSince(start));
-}
-
 } // namespace
 
 } // namespace orlen
@@ -90,6 +69,5 @@ int main(int argc, char** argv)
     const std::vector<orlen::Cand> images = orlen::imagesIn(argv[1]);
     orlen::timeScan(images, argv[2]);
     orlen::timeScan(images, argv[2]);
-    orlen::timePages(1'500);
     return 0;
 }

@@ -108,26 +108,22 @@ void checkDifferent(benchmark::State& state)
 }
 BENCHMARK(checkDifferent)->Unit(benchmark::kMillisecond);
 
-/// As the photo analysis does it: each print against the first of every group so far. One in ten pictures is
-/// there twice.
-void groupPrints(benchmark::State& state)
+/// What most pairs of one layout take.
+void checkPreviews(benchmark::State& state)
 {
-    const auto count = static_cast<std::size_t>(state.range(0));
-    std::vector<FeaturePrint> prints = unlikePrints(count * 9 / 10);
-    for (std::size_t i = 0; prints.size() < count; ++i)
-        prints.push_back(prints[i]);
-    for (auto _ : state) {
-        std::vector<const FeaturePrint*> leaders;
-        for (const FeaturePrint& print : prints) {
-            const bool isKnown = std::any_of(leaders.begin(), leaders.end(), [&](const FeaturePrint* leader) {
-                return distance(*leader, print) < 0.32F;
-            });
-            if (!isKnown)
-                leaders.push_back(&print);
-        }
-        benchmark::DoNotOptimize(leaders);
-    }
+    const CoarseSearch one(FineCheck::previewOf(printOf(1).tile()));
+    const FineCheck::Preview other = FineCheck::previewOf(printOf(2).tile());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(FineCheck::mayAgree(one, CoarseSearch(other)));
 }
-BENCHMARK(groupPrints)->Arg(1'500)->Unit(benchmark::kMillisecond);
+BENCHMARK(checkPreviews)->Unit(benchmark::kMicrosecond);
+
+void unpackTile(benchmark::State& state)
+{
+    const FeaturePrint print = printOf(1);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(print.tile());
+}
+BENCHMARK(unpackTile)->Unit(benchmark::kMicrosecond);
 
 } // namespace

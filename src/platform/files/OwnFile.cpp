@@ -19,6 +19,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace orlen::OwnFile {
 
@@ -38,19 +39,29 @@ Result<UniqueFd> openForWriting(const std::string& path, int flags)
     return file;
 }
 
-Result<void> writeSyncClose(UniqueFd file, std::string_view bytes, unsigned mode)
+/// The pieces of a file, empty at the end.
+using Pieces = std::function<std::string_view()>;
+
+Pieces onePiece(std::string_view bytes)
 {
-    if (auto written = writeAll(file.get(), bytes); !written.ok())
-        return written;
+    return [bytes]() mutable { return std::exchange(bytes, {}); };
+}
+
+Result<void> writeSyncClose(UniqueFd file, const Pieces& next, unsigned mode)
+{
+    for (std::string_view piece = next(); !piece.empty(); piece = next()) {
+        if (auto written = writeAll(file.get(), piece); !written.ok())
+            return written;
+    }
     // Not every file system has modes: set one only if asked for.
     if (mode != kMode && ::fchmod(file.get(), mode) != 0)
         return Errno{errno};
     return syncFile(file.get());
 }
 
-/// Writes the bytes beside the path, then has `place(beside)` rename the file.
+/// Writes the pieces beside the path, then has `place(beside)` rename the file.
 template <typename Place>
-Result<void> writePlaced(const std::string& path, const std::string& bytes, unsigned mode, Place place)
+Result<void> writePlaced(const std::string& path, const Pieces& next, unsigned mode, Place place)
 {
     if (auto reachable = Reachability::check(path); !reachable.ok())
         return reachable;
@@ -64,7 +75,7 @@ Result<void> writePlaced(const std::string& path, const std::string& bytes, unsi
         [&] { return ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode); });
     if (!file.ok())
         return Errno{file.error()};
-    auto written = writeSyncClose(std::move(file).value(), bytes, mode);
+    auto written = writeSyncClose(std::move(file).value(), next, mode);
     if (written.ok())
         written = place(beside);
     if (!written.ok()) {
@@ -104,14 +115,19 @@ std::string besideOf(const std::string& path, const std::string& name)
 
 Result<void> replace(const std::string& path, const std::string& bytes, unsigned mode)
 {
-    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+    return replaceByPieces(path, onePiece(bytes), mode);
+}
+
+Result<void> replaceByPieces(const std::string& path, const Pieces& next, unsigned mode)
+{
+    return writePlaced(path, next, mode, [&](const std::string& beside) {
         return renameReplacingAt(AT_FDCWD, beside.c_str(), path.c_str());
     });
 }
 
 Result<void> writeNew(const std::string& path, const std::string& bytes, unsigned mode)
 {
-    return writePlaced(path, bytes, mode, [&](const std::string& beside) {
+    return writePlaced(path, onePiece(bytes), mode, [&](const std::string& beside) {
         return renameNoReplaceAt(AT_FDCWD, beside.c_str(), AT_FDCWD, path.c_str());
     });
 }

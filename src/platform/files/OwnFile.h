@@ -3,7 +3,9 @@
 #include "platform/values/Result.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
 /// Writes, renames and removes files of the program's own and nothing else: a file of the user's is never
 /// opened for writing. Links are not followed. Any thread; blocks on the disk.
@@ -12,6 +14,11 @@ namespace orlen::OwnFile {
 /// Replaces the file by `bytes`: written beside it, synced, renamed over it, so that a reader never sees half
 /// of it. The new file has `mode`. On failure the old file stays as it was.
 [[nodiscard]] Result<void> replace(const std::string& path, const std::string& bytes, unsigned mode = 0600);
+
+/// The same for a file too large to be held: `next` gives one piece after the other, each good until the next
+/// call, and an empty one at the end.
+[[nodiscard]] Result<void>
+replaceByPieces(const std::string& path, const std::function<std::string_view()>& next, unsigned mode = 0600);
 
 /// Writes a new file in the same way. EEXIST when the name is taken, even by a dangling link.
 [[nodiscard]] Result<void> writeNew(const std::string& path, const std::string& bytes, unsigned mode = 0600);

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <numbers>
 #include <numeric>
 #include <utility>
@@ -13,7 +14,8 @@
 // zeros and a few small numbers. How large they can be expected to be is known from two numbers of 4 bits
 // that are packed first: one of the block, since a page has text and margins, and one of the frequency. From
 // the expected size follows how likely each number is, and an entropy coder (asymmetric numeral systems,
-// which pack from the end) spends as many bits on it as its likelihood warrants.
+// which pack from the end) spends as many bits on it as its likelihood warrants. Its state is a chain of
+// multiplications, so four of them take turns, which a processor unpacks side by side.
 //
 // Packed tiles are kept on the disk, so unpacking must come to the same numbers in every build: all that the
 // bits depend on is whole numbers.
@@ -45,11 +47,21 @@ constexpr std::size_t bandOf(std::size_t number)
 
 constexpr unsigned kWholeBits = 12;
 constexpr std::uint32_t kWhole = 1U << kWholeBits;
-/// Numbers are told by how many bits they have, and then by those bits.
+/// How many bits numbers have.
 constexpr std::size_t kLengths = 10;
+/// A number of few bits has a symbol of its own. Others are told by how many they have, and then by those.
+constexpr unsigned kShort = 2;
+constexpr std::size_t kFirstLong = (2U << kShort) - 1;
+constexpr std::size_t kSymbols = kFirstLong + kLengths - 1 - kShort;
 
-/// Where each length starts in the whole, and the end.
-using Starts = std::array<std::uint32_t, kLengths + 1>;
+/// The symbols of numbers with fewer bits.
+constexpr std::size_t symbolsBelow(unsigned length)
+{
+    return length <= kShort ? (1U << length) - 1 : kFirstLong + length - 1 - kShort;
+}
+
+/// Where each symbol starts in the whole, and the end.
+using Starts = std::array<std::uint16_t, kSymbols + 1>;
 
 /// Of the numbers of one level, how many of 65,536 are not 0; and of those of some size, how many are larger.
 struct Decay {
@@ -66,17 +78,25 @@ constexpr Decay kDecays[kLevels] = {
 constexpr Starts startsOf(Decay decay)
 {
     constexpr std::uint64_t kOne = 65'536;
-    Starts starts{};
+    std::array<std::uint64_t, kLengths + 1> lengths{};
     std::uint64_t larger = decay.any;
     std::uint64_t power = decay.more;
-    for (std::size_t length = 1; length < kLengths; ++length) {
-        // At least one for each length that may still follow.
-        const std::uint64_t share = larger * (kWhole - kLengths) / kOne;
-        starts[length] = kWhole - static_cast<std::uint32_t>(share + kLengths - length);
+    for (unsigned length = 1; length < kLengths; ++length) {
+        // At least one for each symbol that may still follow.
+        lengths[length] = kWhole - larger * (kWhole - kSymbols) / kOne - (kSymbols - symbolsBelow(length));
         larger = larger * power / kOne;
         power = power * power / kOne;
     }
-    starts[kLengths] = kWhole;
+    lengths[kLengths] = kWhole;
+    Starts starts{};
+    for (unsigned length = 0; length < kLengths; ++length) {
+        // The symbols of one length are equally likely.
+        const std::size_t first = symbolsBelow(length);
+        const std::size_t count = symbolsBelow(length + 1) - first;
+        for (std::size_t i = 0; i <= count; ++i)
+            starts[first + i] = static_cast<std::uint16_t>(
+                lengths[length] + (lengths[length + 1] - lengths[length]) * i / count);
+    }
     return starts;
 }
 
@@ -93,9 +113,10 @@ struct Piece {
     std::uint32_t size;
 };
 
-constexpr Piece pieceOf(const Starts& starts, unsigned length)
+constexpr Piece pieceOf(std::size_t level, std::size_t symbol)
 {
-    return {starts[length], starts[length + 1] - starts[length]};
+    const Starts& starts = kStarts[level];
+    return {starts[symbol], std::uint32_t{starts[symbol + 1]} - starts[symbol]};
 }
 
 /// One of the numbers that `bits` bits can tell.
@@ -106,27 +127,41 @@ constexpr Piece pieceOfBits(unsigned bits, std::uint32_t value)
 
 // --- Entropy coding
 
-constexpr std::uint32_t kLeastState = 1U << 23U;
+constexpr std::size_t kStates = 4;
+constexpr unsigned kWordBits = 16;
+constexpr unsigned kByteBits = 8;
+constexpr std::uint32_t kLeastState = 1U << kWordBits;
 
 class Packer {
 public:
-    void put(Piece piece) { m_pieces.push_back(piece); }
+    /// `turn`: whose turn it is, of the states.
+    void put(std::size_t turn, Piece piece) { m_pieces.push_back({turn, piece}); }
 
     /// Empty if it would be longer than that.
     [[nodiscard]] std::vector<std::uint8_t> bytes(std::size_t most) const
     {
-        std::uint32_t state = kLeastState;
+        std::array<std::uint32_t, kStates> states{};
+        states.fill(kLeastState);
         std::vector<std::uint8_t> bytes;
-        for (auto piece = m_pieces.rbegin(); piece != m_pieces.rend(); ++piece) {
-            const std::uint64_t limit = std::uint64_t{kLeastState >> kWholeBits << 8U} * piece->size;
-            for (; state >= limit; state >>= 8U)
-                bytes.push_back(static_cast<std::uint8_t>(state));
-            state = (state / piece->size << kWholeBits) + state % piece->size + piece->start;
+        const auto putWord = [&bytes](std::uint32_t word) {
+            bytes.push_back(static_cast<std::uint8_t>(word >> kByteBits));
+            bytes.push_back(static_cast<std::uint8_t>(word));
+        };
+        for (auto next = m_pieces.rbegin(); next != m_pieces.rend(); ++next) {
+            const auto& [turn, piece] = *next;
+            std::uint32_t& state = states[turn];
+            if (state >> (2 * kWordBits - kWholeBits) >= piece.size) {
+                putWord(state);
+                state >>= kWordBits;
+            }
+            state = (state / piece.size << kWholeBits) + state % piece.size + piece.start;
             if (bytes.size() > most)
                 return {};
         }
-        for (unsigned i = 0; i < sizeof state; ++i, state >>= 8U)
-            bytes.push_back(static_cast<std::uint8_t>(state));
+        for (auto state = states.rbegin(); state != states.rend(); ++state) {
+            putWord(*state >> kWordBits);
+            putWord(*state);
+        }
         if (bytes.size() > most)
             return {};
         std::ranges::reverse(bytes);
@@ -134,48 +169,91 @@ public:
     }
 
 private:
-    std::vector<Piece> m_pieces;
+    struct Turn {
+        std::size_t turn;
+        Piece piece;
+    };
+    std::vector<Turn> m_pieces;
 };
 
-/// Takes zeros from behind the end. The state never falls so low that this would not get on.
-class Unpacker {
-public:
-    explicit Unpacker(std::span<const std::uint8_t> bytes) : m_bytes(bytes)
+/// The symbol at each place in the whole, for each level.
+using Symbols = std::array<std::array<std::uint8_t, kWhole>, kLevels>;
+const Symbols& symbols()
+{
+    static const Symbols all = [] {
+        Symbols made{};
+        for (std::size_t level = 0; level < kLevels; ++level) {
+            for (std::size_t symbol = 0; symbol < kSymbols; ++symbol)
+                std::fill_n(&made[level][pieceOf(level, symbol).start], pieceOf(level, symbol).size,
+                            static_cast<std::uint8_t>(symbol));
+        }
+        return made;
+    }();
+    return all;
+}
+
+/// Packed bytes, with zeros behind them.
+struct Padded {
+    explicit Padded(std::span<const std::uint8_t> of) : length(std::min(of.size(), kMostBytes))
     {
-        for (unsigned i = 0; i < sizeof m_state; ++i)
-            m_state = m_state << 8U | next();
-        m_state = std::max(m_state, kLeastState);
+        std::ranges::copy(of.first(length), bytes.begin());
     }
 
-    std::uint32_t bits(unsigned count)
+    std::array<std::uint8_t, kMostBytes + 2> bytes{};
+    std::size_t length;
+};
+
+/// Takes zeros from behind the end. Small, so that it can be copied into registers for a block. Borrows the
+/// bytes.
+class Unpacker {
+public:
+    explicit Unpacker(const Padded& packed)
+        : m_at(packed.bytes.data()), m_end(packed.bytes.data() + packed.length)
     {
-        const std::uint32_t value = (m_state & (kWhole - 1)) >> (kWholeBits - count);
-        take(pieceOfBits(count, value));
+        for (std::uint32_t& state : m_states) {
+            const std::uint32_t low = word();
+            skip(1);
+            state = std::max(word() << kWordBits | low, kLeastState);
+            skip(1);
+        }
+    }
+
+    std::uint32_t bits(std::size_t turn, unsigned count)
+    {
+        const std::uint32_t value = (m_states[turn] & (kWhole - 1)) >> (kWholeBits - count);
+        take(turn, pieceOfBits(count, value));
         return value;
     }
 
-    unsigned length(const Starts& starts)
+    std::size_t symbol(std::size_t turn, std::size_t level)
     {
-        const std::uint32_t place = m_state & (kWhole - 1);
-        unsigned length = 0;
-        while (place >= starts[length + 1])
-            ++length;
-        take(pieceOf(starts, length));
-        return length;
+        const std::size_t symbol = (*m_symbols)[level][m_states[turn] & (kWhole - 1)];
+        take(turn, pieceOf(level, symbol));
+        return symbol;
     }
 
 private:
-    void take(Piece piece)
+    /// A state never falls so low that one word would not bring it back. No branches, as nobody could guess
+    /// whether a word is needed.
+    void take(std::size_t turn, Piece piece)
     {
-        m_state = piece.size * (m_state >> kWholeBits) + (m_state & (kWhole - 1)) - piece.start;
-        while (m_state < kLeastState)
-            m_state = m_state << 8U | next();
+        const std::uint32_t state = m_states[turn];
+        const std::uint32_t left = piece.size * (state >> kWholeBits) + (state & (kWhole - 1)) - piece.start;
+        const std::uint32_t isLow = left < kLeastState ? 1 : 0;
+        const std::uint32_t filled = left << kWordBits | word();
+        m_states[turn] = isLow != 0 ? filled : left;
+        skip(isLow);
     }
-    std::uint32_t next() { return m_at < m_bytes.size() ? m_bytes[m_at++] : 0U; }
+    [[nodiscard]] std::uint32_t word() const
+    {
+        return std::uint32_t{m_at[0]} | std::uint32_t{m_at[1]} << kByteBits;
+    }
+    void skip(std::size_t words) { m_at = std::min(m_at + 2 * words, m_end); }
 
-    std::span<const std::uint8_t> m_bytes;
-    std::size_t m_at = 0;
-    std::uint32_t m_state = 0;
+    const Symbols* m_symbols = &symbols();
+    const std::uint8_t* m_at;
+    const std::uint8_t* m_end;
+    std::array<std::uint32_t, kStates> m_states{};
 };
 
 // --- Blocks and frequencies
@@ -202,14 +280,20 @@ const std::array<Block, 2>& waves()
 /// matrix * block * mirrored matrix, where `mirrored` is the other of `waves`.
 Block transformed(const Block& block, const Block& matrix, const Block& mirrored)
 {
+    // Left to itself, the compiler shuffles numbers more than it multiplies them.
+    using Row [[gnu::vector_size(kBlock * sizeof(float))]] = float;
     const auto product = [](const Block& one, const Block& other) {
-        Block result{};
+        std::array<Row, kBlock> rows{};
+        std::memcpy(rows.data(), other.data(), sizeof other);
+        std::array<Row, kBlock> sums{};
         for (std::size_t y = 0; y < kBlock; ++y) {
-            for (std::size_t i = 0; i < kBlock; ++i) {
-                for (std::size_t x = 0; x < kBlock; ++x)
-                    result[y * kBlock + x] += one[y * kBlock + i] * other[i * kBlock + x];
-            }
+            Row sum{};
+            for (std::size_t i = 0; i < kBlock; ++i)
+                sum += one[y * kBlock + i] * rows[i];
+            sums[y] = sum;
         }
+        Block result{};
+        std::memcpy(result.data(), sums.data(), sizeof result);
         return result;
     };
     return product(product(matrix, block), mirrored);
@@ -241,13 +325,17 @@ struct Sizes {
     std::array<std::uint8_t, kBlocks * kBlocks> blocks{};
     std::array<std::uint8_t, kBands> bands{};
 
-    /// How likely the lengths of a block's numbers are, for each band.
-    [[nodiscard]] std::array<const Starts*, kBands> startsOf(std::size_t block) const
+    /// Of a block's numbers.
+    [[nodiscard]] std::array<std::uint8_t, kBlock * kBlock> levelsOf(std::size_t block) const
     {
-        std::array<const Starts*, kBands> starts{};
-        for (std::size_t band = 0; band < kBands; ++band)
-            starts[band] = &kStarts[blocks[block] > bands[band] ? blocks[block] - bands[band] : 0];
-        return starts;
+        std::array<std::uint8_t, kBlock * kBlock> levels{};
+        for (std::size_t row = 0; row < kBlock; ++row) {
+            for (std::size_t x = 0; x < kBlock; ++x) {
+                const std::uint8_t band = bands[row + x];
+                levels[row * kBlock + x] = static_cast<std::uint8_t>(std::max(blocks[block], band) - band);
+            }
+        }
+        return levels;
     }
 };
 
@@ -296,24 +384,45 @@ Sizes sizesOf(const Blocks& blocks, double step)
 constexpr unsigned kSizeBits = 4;
 constexpr unsigned kStepBits = 5;
 
-void putNumber(Packer& packer, const Starts& starts, int number)
+/// A negative number is told by the numbers of its length that no positive one takes.
+constexpr std::uint32_t bitsOf(int number, unsigned length)
 {
-    const auto size = static_cast<unsigned>(std::abs(number));
-    const auto length = static_cast<unsigned>(std::bit_width(size));
-    packer.put(pieceOf(starts, length));
-    // A negative number is told by the numbers of its length that no positive one takes.
-    if (length > 0)
-        packer.put(pieceOfBits(length, number > 0 ? size : (1U << length) - 1 - size));
+    const auto size = static_cast<std::uint32_t>(number < 0 ? -number : number);
+    return number >= 0 ? size : (1U << length) - 1 - size;
+}
+constexpr int numberOf(std::uint32_t bits, unsigned length)
+{
+    const int whole = 1 << length;
+    return static_cast<int>(bits) - (2 * static_cast<int>(bits) < whole ? whole - 1 : 0);
 }
 
-int number(Unpacker& unpacker, const Starts& starts)
+/// Of symbols of their own.
+constexpr std::array<std::int8_t, kFirstLong> kShortNumbers = [] {
+    std::array<std::int8_t, kFirstLong> numbers{};
+    for (unsigned length = 1; length <= kShort; ++length) {
+        for (std::uint32_t bits = 0; bits < 1U << length; ++bits)
+            numbers[symbolsBelow(length) + bits] = static_cast<std::int8_t>(numberOf(bits, length));
+    }
+    return numbers;
+}();
+
+void putNumber(Packer& packer, std::size_t turn, std::size_t level, int number)
 {
-    const unsigned length = unpacker.length(starts);
-    if (length == 0)
-        return 0;
-    const auto bits = static_cast<int>(unpacker.bits(length));
-    const int half = 1 << (length - 1);
-    return bits >= half ? bits : bits - 2 * half + 1;
+    const auto length = static_cast<unsigned>(std::bit_width(static_cast<unsigned>(std::abs(number))));
+    const std::uint32_t bits = bitsOf(number, length);
+    const bool isShort = length <= kShort;
+    packer.put(turn, pieceOf(level, symbolsBelow(length) + (isShort && length > 0 ? bits : 0)));
+    if (!isShort)
+        packer.put(turn, pieceOfBits(length, bits));
+}
+
+int number(Unpacker& unpacker, std::size_t turn, std::size_t level)
+{
+    const std::size_t symbol = unpacker.symbol(turn, level);
+    if (symbol < kFirstLong)
+        return kShortNumbers[symbol];
+    const auto length = static_cast<unsigned>(symbol - kFirstLong + 1 + kShort);
+    return numberOf(unpacker.bits(turn, length), length);
 }
 
 std::vector<std::uint8_t> packedBy(const Blocks& blocks, std::size_t index)
@@ -322,26 +431,41 @@ std::vector<std::uint8_t> packedBy(const Blocks& blocks, std::size_t index)
     const float step = kSteps[index];
     const Sizes sizes = sizesOf(blocks, step);
     Packer packer;
-    packer.put(pieceOfBits(kStepBits, static_cast<std::uint32_t>(index)));
+    packer.put(0, pieceOfBits(kStepBits, static_cast<std::uint32_t>(index)));
     for (const std::uint8_t band : sizes.bands)
-        packer.put(pieceOfBits(kSizeBits, band));
+        packer.put(0, pieceOfBits(kSizeBits, band));
     for (std::size_t i = 0; i < blocks.size(); ++i) {
-        packer.put(pieceOfBits(kSizeBits, sizes.blocks[i]));
-        const auto starts = sizes.startsOf(i);
+        packer.put(0, pieceOfBits(kSizeBits, sizes.blocks[i]));
+        const auto levels = sizes.levelsOf(i);
         for (std::size_t at = 0; at < blocks[i].size(); ++at) {
             const long rounded = std::lround(std::clamp(blocks[i][at] / step, -kLargest, kLargest));
-            putNumber(packer, *starts[bandOf(at)], static_cast<int>(rounded));
+            putNumber(packer, at % kStates, levels[at], static_cast<int>(rounded));
         }
     }
     return packer.bytes(kMostBytes);
 }
 
+Block unpackedBlock(Unpacker& unpacker, const std::array<std::uint8_t, kBlock * kBlock>& levels, float step)
+{
+    Unpacker own = unpacker; // in registers
+    Block block{};
+    for (std::size_t at = 0; at < block.size(); at += kStates) {
+        for (std::size_t turn = 0; turn < kStates; ++turn)
+            block[at + turn] = step * static_cast<float>(number(own, turn, levels[at + turn]));
+    }
+    unpacker = own;
+    return block;
+}
+
 void place(const Block& pixels, std::size_t block, Tile& tile)
 {
     constexpr float kMiddle = 128.5F;
-    for (std::size_t at = 0; at < pixels.size(); ++at)
-        tile[placeOf(block) + at / kBlock * kSide + at % kBlock] =
-            static_cast<std::uint8_t>(std::clamp(pixels[at] + kMiddle, 0.0F, 255.0F));
+    std::uint8_t* row = &tile[placeOf(block)];
+    for (std::size_t y = 0; y < kBlock; ++y, row += kSide) {
+        for (std::size_t x = 0; x < kBlock; ++x)
+            row[x] = static_cast<std::uint8_t>(
+                static_cast<int>(std::clamp(pixels[y * kBlock + x] + kMiddle, 0.0F, 255.0F)));
+    }
 }
 
 } // namespace
@@ -369,20 +493,17 @@ std::vector<std::uint8_t> packed(const Tile& tile)
 
 Tile unpacked(std::span<const std::uint8_t> bytes)
 {
-    Unpacker unpacker(bytes);
-    const std::size_t index = std::min<std::size_t>(unpacker.bits(kStepBits), std::size(kSteps) - 1);
+    const Padded padded(bytes);
+    Unpacker unpacker(padded);
+    const std::size_t index = std::min<std::size_t>(unpacker.bits(0, kStepBits), std::size(kSteps) - 1);
     const float step = kSteps[index];
     Sizes sizes;
     for (std::uint8_t& band : sizes.bands)
-        band = static_cast<std::uint8_t>(unpacker.bits(kSizeBits));
+        band = static_cast<std::uint8_t>(unpacker.bits(0, kSizeBits));
     Tile tile{};
     for (std::size_t i = 0; i < sizes.blocks.size(); ++i) {
-        sizes.blocks[i] = static_cast<std::uint8_t>(unpacker.bits(kSizeBits));
-        const auto starts = sizes.startsOf(i);
-        Block block{};
-        for (std::size_t at = 0; at < block.size(); ++at)
-            block[at] = step * static_cast<float>(number(unpacker, *starts[bandOf(at)]));
-        place(transformed(block, waves()[1], waves()[0]), i, tile);
+        sizes.blocks[i] = static_cast<std::uint8_t>(unpacker.bits(0, kSizeBits));
+        place(transformed(unpackedBlock(unpacker, sizes.levelsOf(i), step), waves()[1], waves()[0]), i, tile);
     }
     return tile;
 }

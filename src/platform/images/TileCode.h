@@ -18,7 +18,7 @@ using Tile = std::array<std::uint8_t, kSide * kSide>;
 /// At most `kMostBytes`, almost as many for most pictures. About 1 ms.
 [[nodiscard]] std::vector<std::uint8_t> packed(const Tile& tile);
 
-/// Some 200 microseconds. Bytes that nobody packed give some tile or other.
+/// Some 100 microseconds. Bytes that nobody packed give some tile or other.
 [[nodiscard]] Tile unpacked(std::span<const std::uint8_t> bytes);
 
 } // namespace orlen::TileCode

@@ -49,33 +49,33 @@ struct Normals {
 /// From the tile's middle, -1 to 1 from side to side.
 float fromMiddle(float pixel)
 {
-    constexpr float kHalf = (BlockSearch::kSide - 1) / 2.0F;
+    constexpr float kHalf = (FineSearch::kSide - 1) / 2.0F;
     return pixel / kHalf - 1;
 }
 
 float middleOf(int block)
 {
-    return static_cast<float>(block) + (BlockSearch::kBlock - 1) / 2.0F;
+    return static_cast<float>(block) + (FineSearch::kBlock - 1) / 2.0F;
 }
 
 bool isInside(float at)
 {
-    return at >= 0 && at <= BlockSearch::kSide - 1;
+    return at >= 0 && at <= FineSearch::kSide - 1;
 }
 
 /// The four pixels around a point, each as much as the point is near.
 float between(const FeaturePrint::Tile& tile, float x, float y)
 {
-    constexpr int kLast = BlockSearch::kSide - 2;
+    constexpr int kLast = FineSearch::kSide - 2;
     x = std::clamp(x, 0.0F, kLast + 1.0F);
     y = std::clamp(y, 0.0F, kLast + 1.0F);
     const int left = std::min(static_cast<int>(x), kLast);
     const int top = std::min(static_cast<int>(y), kLast);
     const float right = x - static_cast<float>(left);
     const float down = y - static_cast<float>(top);
-    const std::uint8_t* at = tile.data() + (static_cast<std::ptrdiff_t>(top) * BlockSearch::kSide + left);
+    const std::uint8_t* at = tile.data() + (static_cast<std::ptrdiff_t>(top) * FineSearch::kSide + left);
     const float above = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
-    at += BlockSearch::kSide;
+    at += FineSearch::kSide;
     const float below = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
     return (1 - down) * above + down * below;
 }
@@ -146,11 +146,11 @@ FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
     constexpr float kRounding = 0.5F; // levels are never negative, and a cast is much faster than lround
     FeaturePrint::Tile result{};
     auto pixel = result.begin();
-    for (int y = 0; y < BlockSearch::kSide; ++y) {
+    for (int y = 0; y < FineSearch::kSide; ++y) {
         // The same step from each pixel of a row to the next.
         const Point first = target({0, y});
         const Point second = target({1, y});
-        for (int x = 0; x < BlockSearch::kSide; ++x) {
+        for (int x = 0; x < FineSearch::kSide; ++x) {
             const auto steps = static_cast<float>(x);
             const float fromX = first.x + steps * (second.x - first.x);
             const float fromY = first.y + steps * (second.y - first.y);
@@ -162,7 +162,7 @@ FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
 
 bool CommonMotion::keepsInside(TilePlace block) const
 {
-    constexpr int kFar = BlockSearch::kBlock - 1;
+    constexpr int kFar = FineSearch::kBlock - 1;
     // The motion keeps straight lines straight, so the corners tell.
     for (const TilePlace corner :
          {TilePlace{0, 0}, TilePlace{kFar, 0}, TilePlace{0, kFar}, TilePlace{kFar, kFar}}) {

@@ -1,12 +1,10 @@
 #include "scan/photos/FineCheck.h"
 
-#include "scan/photos/BlockSearch.h"
 #include "scan/photos/CommonMotion.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <vector>
 
 // Two pages of one layout, or two forms of one shop, agree in everything that is coarse. What tells them
@@ -16,19 +14,25 @@
 // motion is fitted to all the finds, and how well they obey it counts a little. Then the motion is undone and
 // the blocks are compared again where they must now be, which counts most: a turned copy agrees again,
 // another page does not.
+//
+// The search for the motion looks at many places, so it is made in the previews; only the comparison after it
+// needs all pixels. Most pairs are told apart by the strongest blocks of the previews alone.
 
 namespace orlen {
 
 namespace {
 
-constexpr int kSearchReach = 9; ///< pixels that pictures may have moved
+constexpr int kSearchReach = 9; ///< pixels of a tile that pictures may have moved
 constexpr int kBendReach = 2;   ///< pixels that parts may differ from the common motion
+constexpr std::size_t kFirstBlocks = 16;
+constexpr std::size_t kAllBlocks = std::numeric_limits<std::size_t>::max();
 
-/// The blocks of one tile looked up in another.
+/// The blocks of one picture looked up in another.
+template <typename Search>
 class LookUp {
 public:
-    LookUp(const BlockSearch& one, const BlockSearch& other, const FeaturePrint::Tile& otherTile)
-        : m_one(one), m_other(other), m_otherTile(otherTile), m_blocks(one.texturedBlocks())
+    LookUp(const Search& one, const Search& other)
+        : m_one(one), m_other(other), m_blocks(one.texturedBlocks())
     {
     }
 
@@ -42,79 +46,128 @@ public:
     /// Looks up the blocks with most structure until `count` are looked up, or all.
     void findBlocks(std::size_t count)
     {
+        constexpr int kReach = (kSearchReach + Search::kScale - 1) / Search::kScale;
         for (std::size_t i = m_finds.size(); i < std::min(count, m_blocks.size()); ++i)
-            m_finds.push_back(m_one.find(m_blocks[i], m_other, kSearchReach));
+            m_finds.push_back(m_one.find(m_blocks[i], m_other, kReach));
         m_motion = CommonMotion::fitted(m_finds);
     }
 
-    /// The share of the structure found so far that follows the motion.
+    [[nodiscard]] const CommonMotion& motion() const { return m_motion; }
+    [[nodiscard]] const std::vector<BlockFind>& finds() const { return m_finds; }
+
+    /// The share of the structure found that follows the motion.
     [[nodiscard]] float followingShare() const
     {
         float following = 0;
         float all = 0;
-        for (const BlockFind& find : m_finds) {
-            following += find.texture * find.correlation * m_motion.fit(find);
-            all += find.texture;
+        for (const BlockFind& found : m_finds) {
+            following += found.texture * found.correlation * m_motion.fit(found);
+            all += found.texture;
         }
         return all > 0 ? following / all : 0;
     }
 
-    /// How much of the structure that should be in both tiles is in both; less when the motion leaves little.
-    [[nodiscard]] float commonShare() const
-    {
-        constexpr float kLeastKept = 0.5F;
-        const BlockSearch undone(m_motion.undone(m_otherTile));
-        float common = 0;
-        float kept = 0;
-        float all = 0;
-        for (const BlockFind& find : m_finds) {
-            all += find.texture;
-            if (!m_motion.keepsInside(find.block))
-                continue;
-            kept += find.texture;
-            common += find.texture * m_one.find(find.block, undone, kBendReach).correlation;
-        }
-        return kept > 0 ? common / std::max(kept, kLeastKept * all) : 0;
-    }
-
-    [[nodiscard]] float agreement() const
-    {
-        constexpr float kObedienceWeight = 0.2F;
-        return kObedienceWeight * followingShare() + (1 - kObedienceWeight) * commonShare();
-    }
-
 private:
-    const BlockSearch& m_one;
-    const BlockSearch& m_other;
-    const FeaturePrint::Tile& m_otherTile;
+    const Search& m_one;
+    const Search& m_other;
     std::vector<TilePlace> m_blocks;
     std::vector<BlockFind> m_finds;
     CommonMotion m_motion;
 };
 
+/// Both ways.
+template <typename Search>
+struct LookUps {
+    LookUps(const Search& one, const Search& other) : forward(one, other), backward(other, one) {}
+
+    [[nodiscard]] bool haveStructure() const { return forward.hasStructure() || backward.hasStructure(); }
+    void findBlocks(std::size_t count)
+    {
+        forward.findBlocks(count);
+        backward.findBlocks(count);
+    }
+    [[nodiscard]] float followingShare() const
+    {
+        return (forward.followingShare() + backward.followingShare()) / 2;
+    }
+
+    LookUp<Search> forward;
+    LookUp<Search> backward;
+};
+
+/// How much the strongest blocks of previews obey one motion; nothing if they have too few.
+std::optional<float> obedience(const CoarseSearch& one, const CoarseSearch& other)
+{
+    LookUps<CoarseSearch> found(one, other);
+    if (!found.haveStructure())
+        return std::nullopt;
+    found.findBlocks(kFirstBlocks);
+    return found.followingShare();
+}
+constexpr float kHopelessPreview = 0.20F; ///< no changed copy's preview obeys less
+
+/// How much of the structure that should be in both tiles is in both, once the motion is undone; less when
+/// the motion leaves little.
+float commonShare(const FineSearch& one, const FeaturePrint::Tile& other, const LookUp<FineSearch>& found)
+{
+    constexpr float kLeastKept = 0.5F;
+    const FineSearch undone(found.motion().undone(other));
+    float common = 0;
+    float kept = 0;
+    float all = 0;
+    for (const BlockFind& find : found.finds()) {
+        all += find.texture;
+        if (!found.motion().keepsInside(find.block))
+            continue;
+        kept += find.texture;
+        common += find.texture * one.find(find.block, undone, kBendReach).correlation;
+    }
+    return kept > 0 ? common / std::max(kept, kLeastKept * all) : 0;
+}
+
 } // namespace
+
+FineCheck::Preview FineCheck::previewOf(const FeaturePrint::Tile& tile)
+{
+    constexpr std::size_t kTileSide = FeaturePrint::kTileSide;
+    constexpr std::size_t kSide = CoarseSearch::kSide;
+    Preview preview{};
+    for (std::size_t y = 0; y < kSide; ++y) {
+        for (std::size_t x = 0; x < kSide; ++x) {
+            const std::uint8_t* at = &tile[2 * y * kTileSide + 2 * x];
+            preview[y * kSide + x] =
+                static_cast<std::uint8_t>((at[0] + at[1] + at[kTileSide] + at[kTileSide + 1] + 2) / 4);
+        }
+    }
+    return preview;
+}
+
+bool FineCheck::mayAgree(const CoarseSearch& one, const CoarseSearch& other)
+{
+    return obedience(one, other).value_or(1) >= kHopelessPreview;
+}
 
 std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    constexpr std::size_t kFirstBlocks = 16;
     constexpr float kHopeless = 0.22F; ///< no changed copy's first blocks obey less
-    constexpr std::size_t kAllBlocks = std::numeric_limits<std::size_t>::max();
-    const BlockSearch first(one);
-    const BlockSearch second(other);
-    LookUp forward(first, second, other);
-    LookUp backward(second, first, one);
-    if (!forward.hasStructure() && !backward.hasStructure())
+    constexpr float kObedienceWeight = 0.2F;
+    const auto preview = obedience(CoarseSearch(previewOf(one)), CoarseSearch(previewOf(other)));
+    if (preview && *preview < kHopelessPreview)
+        return preview;
+    const FineSearch first(one);
+    const FineSearch second(other);
+    LookUps<FineSearch> found(first, second);
+    if (!found.haveStructure())
         return std::nullopt;
     if (one == other)
         return 1.0F;
-    forward.findBlocks(kFirstBlocks);
-    backward.findBlocks(kFirstBlocks);
-    const float obedient = (forward.followingShare() + backward.followingShare()) / 2;
-    if (obedient < kHopeless)
-        return obedient;
-    forward.findBlocks(kAllBlocks);
-    backward.findBlocks(kAllBlocks);
-    return (forward.agreement() + backward.agreement()) / 2;
+    found.findBlocks(kFirstBlocks);
+    if (found.followingShare() < kHopeless)
+        return found.followingShare();
+    found.findBlocks(kAllBlocks);
+    const float common =
+        (commonShare(first, other, found.forward) + commonShare(second, one, found.backward)) / 2;
+    return kObedienceWeight * found.followingShare() + (1 - kObedienceWeight) * common;
 }
 
 } // namespace orlen

@@ -3,19 +3,23 @@
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PrintDistance.h"
 #include "scan/photos/PrintIndex.h"
+#include "scan/photos/UnpackedPhotos.h"
 
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <optional>
+#include <ranges>
 #include <span>
 #include <utility>
 
 // One photo after the other would leave all cores but one idle. So a batch of them is looked up together in
 // the index of the first members so far, and among themselves as if each of them would become a first member.
-// Whom a photo has to be compared with closely is then known, but for the few cases in which one of the
-// nearest joins a cluster itself. These comparisons are made on all cores, and what came out is used when the
-// batch is gone through in order.
+// Whom a photo has to be compared with is then known, but for the few cases in which one of the nearest joins
+// a cluster itself. These comparisons are made on all cores, and what came out is used when the batch is gone
+// through in order.
+//
+// Of a crowd of pages with one layout each page has thousands of candidates, so what is done for one photo is
+// bounded: a quick look at the nearest, and a close one at the nearest of those that it leaves.
 
 namespace orlen {
 
@@ -23,9 +27,9 @@ namespace {
 
 using PhotoClusters::Members;
 
-/// Many pages have one layout, and to look closely at all of them would take minutes; what is really alike is
-/// among the nearest.
+/// What is really alike is among the nearest.
 constexpr std::size_t kMostCompared = 8;
+constexpr std::size_t kMostClosely = 4;
 constexpr std::size_t kBatch = 256;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 
@@ -39,7 +43,8 @@ bool takesPart(const PhotoInfo& photo)
 struct Candidate {
     float coarse = 0;
     std::size_t photo = 0;
-    std::optional<bool> isAlike; ///< if they were compared closely
+    std::optional<bool> mayBeAlike; ///< if the previews were compared
+    std::optional<bool> isAlike;    ///< if they were compared closely
 };
 
 /// A photo of a batch, and its candidates, nearest first.
@@ -51,7 +56,7 @@ struct Newcomer {
 class Clusters {
 public:
     Clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
-        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll)
+        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_unpacked(photos)
     {
     }
 
@@ -76,7 +81,9 @@ private:
     }
 
     [[nodiscard]] std::vector<Newcomer> lookedUp(std::span<const std::size_t> batch) const;
-    void compare(std::vector<Newcomer>& newcomers) const;
+    void compare(std::vector<Newcomer>& newcomers);
+    [[nodiscard]] std::vector<Candidate*> hopeful(Newcomer& newcomer) const;
+    [[nodiscard]] const Candidate* match(Newcomer& newcomer) const;
     void place(Newcomer& newcomer);
 
     const std::vector<PhotoInfo>& m_photos;
@@ -84,6 +91,7 @@ private:
     std::vector<Members> m_clusters;
     std::vector<std::size_t> m_clusterOf; ///< per photo
     PrintIndex m_firsts;                  ///< the first member of each cluster
+    UnpackedPhotos m_unpacked;
 };
 
 std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) const
@@ -105,10 +113,10 @@ std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) con
             Newcomer& newcomer = newcomers[first + i];
             newcomer.photo = batch[first + i];
             for (const PrintIndex::Near& near : earlier[i])
-                newcomer.candidates.push_back({near.coarse, m_clusters[near.number].front(), {}});
+                newcomer.candidates.push_back({near.coarse, m_clusters[near.number].front(), {}, {}});
             for (const PrintIndex::Near& near : beside[i]) {
                 if (near.number < first + i)
-                    newcomer.candidates.push_back({near.coarse, batch[near.number], {}});
+                    newcomer.candidates.push_back({near.coarse, batch[near.number], {}, {}});
             }
             std::ranges::sort(newcomer.candidates, {}, [](const Candidate& candidate) {
                 return std::pair(candidate.coarse, candidate.photo);
@@ -118,43 +126,70 @@ std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) con
     return newcomers;
 }
 
-void Clusters::compare(std::vector<Newcomer>& newcomers) const
+void Clusters::compare(std::vector<Newcomer>& newcomers)
 {
-    // Each tile is unpacked once.
-    std::map<std::size_t, FeaturePrint::Tile> tiles;
-    std::vector<std::pair<std::size_t, Candidate*>> pairs;
-    for (Newcomer& newcomer : newcomers) {
-        for (std::size_t i = 0; i < std::min(kMostCompared, newcomer.candidates.size()); ++i) {
-            pairs.emplace_back(newcomer.photo, &newcomer.candidates[i]);
-            tiles[newcomer.photo];
-            tiles[newcomer.candidates[i].photo];
-        }
+    std::vector<std::size_t> needed;
+    for (const Newcomer& newcomer : newcomers) {
+        if (newcomer.candidates.empty())
+            continue;
+        needed.push_back(newcomer.photo);
+        for (const Candidate& candidate : newcomer.candidates | std::views::take(kMostCompared))
+            needed.push_back(candidate.photo);
     }
-    std::vector<std::pair<const std::size_t, FeaturePrint::Tile>*> all;
-    all.reserve(tiles.size());
-    for (auto& tile : tiles)
-        all.push_back(&tile);
-    onAllCores(all.size(), [&](std::size_t i) { all[i]->second = print(all[i]->first).tile(); });
-    onAllCores(pairs.size(), [&](std::size_t i) {
-        const auto& [photo, candidate] = pairs[i];
+    std::ranges::sort(needed);
+    needed.erase(std::unique(needed.begin(), needed.end()), needed.end());
+    m_unpacked.prepare(needed);
+    onAllCores(newcomers.size(), [&](std::size_t i) {
         if (!m_stop.stop_requested())
-            candidate->isAlike = fineDistance(candidate->coarse, tiles.at(candidate->photo),
-                                              tiles.at(photo)) < kNearDuplicateLimit;
+            (void)match(newcomers[i]);
     });
+}
+
+/// The nearest candidates that the newcomer may be like, from their previews.
+std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
+{
+    std::optional<CoarseSearch> own;
+    std::vector<Candidate*> found;
+    for (Candidate& candidate : newcomer.candidates | std::views::take(kMostCompared)) {
+        if (found.size() == kMostClosely)
+            break;
+        if (!candidate.mayBeAlike) {
+            if (!own)
+                own.emplace(m_unpacked.preview(newcomer.photo));
+            candidate.mayBeAlike =
+                FineCheck::mayAgree(CoarseSearch(m_unpacked.preview(candidate.photo)), *own);
+        }
+        if (*candidate.mayBeAlike)
+            found.push_back(&candidate);
+    }
+    return found;
+}
+
+/// The earliest candidate that the newcomer is like; null for none. What it finds out it notes, for the next
+/// time when there are fewer candidates.
+const Candidate* Clusters::match(Newcomer& newcomer) const
+{
+    std::vector<Candidate*> candidates = hopeful(newcomer);
+    std::ranges::sort(candidates, {}, &Candidate::photo);
+    std::optional<FeaturePrint::Tile> own;
+    for (Candidate* candidate : candidates) {
+        if (!candidate->isAlike) {
+            if (!own)
+                own = m_unpacked.tile(newcomer.photo);
+            candidate->isAlike = fineDistance(candidate->coarse, m_unpacked.tile(candidate->photo), *own) <
+                                 kNearDuplicateLimit;
+        }
+        if (*candidate->isAlike)
+            return candidate;
+    }
+    return nullptr;
 }
 
 void Clusters::place(Newcomer& newcomer)
 {
-    std::vector<Candidate>& candidates = newcomer.candidates;
-    std::erase_if(candidates, [this](const Candidate& candidate) { return !isFirst(candidate.photo); });
-    candidates.resize(std::min(candidates.size(), kMostCompared));
-    std::ranges::sort(candidates, {}, &Candidate::photo);
-    const auto found = std::ranges::find_if(candidates, [&](const Candidate& candidate) {
-        return candidate.isAlike
-                   ? *candidate.isAlike
-                   : distance(print(candidate.photo), print(newcomer.photo)) < kNearDuplicateLimit;
-    });
-    if (found != candidates.end()) {
+    std::erase_if(newcomer.candidates,
+                  [this](const Candidate& candidate) { return !isFirst(candidate.photo); });
+    if (const Candidate* const found = match(newcomer)) {
         m_clusterOf[newcomer.photo] = m_clusterOf[found->photo];
         m_clusters[m_clusterOf[found->photo]].push_back(newcomer.photo);
         return;

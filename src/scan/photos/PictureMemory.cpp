@@ -1,16 +1,19 @@
 #include "scan/photos/PictureMemory.h"
 
-#include "platform/files/FileContent.h"
 #include "platform/files/FileLock.h"
 #include "platform/files/Folder.h"
 #include "platform/files/OwnFile.h"
 #include "platform/files/Places.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/text/PathText.h"
+#include "scan/photos/PictureFile.h"
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace orlen {
 
@@ -19,6 +22,7 @@ namespace {
 using PictureRecords::Key;
 using PictureRecords::KeyHash;
 using PictureRecords::Record;
+using Keys = std::unordered_set<Key, KeyHash>;
 
 /// How exactly the time of use is kept: so often an unchanged library is written again.
 constexpr std::chrono::hours kUseStep{24};
@@ -27,6 +31,78 @@ constexpr std::chrono::hours kDoubtful{7 * 24};
 
 constexpr unsigned kFolderMode = 0700;
 
+/// A record of the file that there is.
+struct Old {
+    TimePoint used;
+    PictureFile::Place place;
+};
+
+/// What the next file will hold, piece by piece.
+class NextFile {
+public:
+    /// `added`: encoded records.
+    NextFile(const PictureFile& file, std::vector<std::string> added, std::vector<Old> old)
+        : m_file(file), m_added(std::move(added)), m_old(std::move(old))
+    {
+    }
+
+    /// Leaves out what was not used for longest.
+    void shorten(std::size_t mostBytes)
+    {
+        std::size_t bytes = PictureRecords::header().size();
+        const auto takes = [&](std::size_t more) {
+            const bool fits = bytes + more <= mostBytes;
+            bytes = fits ? bytes + more : mostBytes;
+            return fits;
+        };
+        std::erase_if(m_added, [&](const std::string& record) { return !takes(record.size()); });
+        std::vector<const Old*> lastUsedFirst;
+        for (const Old& old : m_old)
+            lastUsedFirst.push_back(&old);
+        std::ranges::stable_sort(lastUsedFirst, std::ranges::greater(), &Old::used);
+        std::vector<bool> isKept(m_old.size());
+        for (const Old* const old : lastUsedFirst)
+            isKept[static_cast<std::size_t>(old - m_old.data())] = takes(old->place.length);
+        std::vector<Old> kept;
+        for (std::size_t i = 0; i < m_old.size(); ++i) {
+            if (isKept[i])
+                kept.push_back(m_old[i]);
+        }
+        m_old = std::move(kept);
+    }
+
+    /// Empty at the end; gone with the next call.
+    [[nodiscard]] std::string_view piece()
+    {
+        constexpr std::size_t kPiece = 1'000'000;
+        m_piece.clear();
+        if (!std::exchange(m_isStarted, true))
+            m_piece = PictureRecords::header();
+        for (; m_piece.size() < kPiece && m_next < m_added.size() + m_old.size(); ++m_next)
+            m_piece += m_next < m_added.size() ? m_added[m_next] : again(m_old[m_next - m_added.size()]);
+        return m_piece;
+    }
+
+private:
+    /// Nothing of one that can no longer be read.
+    [[nodiscard]] std::string again(const Old& old) const
+    {
+        const auto bytes = m_file.bytes(old.place);
+        auto record = bytes ? PictureRecords::next(*bytes).record : std::nullopt;
+        if (!record)
+            return {};
+        record->used = old.used;
+        return PictureRecords::encoded(*record);
+    }
+
+    const PictureFile& m_file;
+    std::vector<std::string> m_added;
+    std::vector<Old> m_old;
+    bool m_isStarted = false;
+    std::size_t m_next = 0; ///< of both, one after the other
+    std::string m_piece;
+};
+
 } // namespace
 
 std::string PictureMemory::standardPath()
@@ -34,33 +110,29 @@ std::string PictureMemory::standardPath()
     return PathText::join(Places::current().caches.front(), "Orlen/pictures");
 }
 
-std::string PictureMemory::content() const
-{
-    return readSmallFile(m_path, m_mostBytes).value_or(std::string());
-}
-
 std::vector<std::unique_ptr<PictureMemory::Known>> PictureMemory::recall(const std::vector<Cand>& images,
                                                                          TimePoint now)
 {
-    const std::string bytes = content();
-    std::unordered_map<Key, Record, KeyHash> records;
-    for (const Record& record : PictureRecords::decoded(bytes))
-        records.insert_or_assign(record.key, record);
-    std::vector<std::unique_ptr<Known>> known(images.size());
+    // One file may have several names.
+    std::unordered_multimap<Key, std::size_t, KeyHash> wanted;
     for (std::size_t i = 0; i < images.size(); ++i) {
-        const auto found = images[i].stamp ? records.find(Key::of(*images[i].stamp)) : records.end();
-        if (found == records.end())
-            continue;
-        auto answer = ImageMessages::decodedAnswer(found->second.answer);
-        if (!answer || (!answer->analysis && now - found->second.used > kDoubtful))
-            continue;
+        if (images[i].stamp)
+            wanted.emplace(Key::of(*images[i].stamp), i);
+    }
+    std::vector<std::unique_ptr<Known>> known(images.size());
+    PictureFile(m_path, m_mostBytes).visit([&](const Record& record, PictureFile::Place) {
+        const auto [first, last] = wanted.equal_range(record.key);
+        const auto answer = first == last ? std::nullopt : ImageMessages::decodedAnswer(record.answer);
+        if (!answer || (!answer->analysis && now - record.used > kDoubtful))
+            return;
         // The time at which a file was no picture stays the first one.
         if (answer->analysis) {
-            m_used.insert(found->first);
-            m_isStale = m_isStale || now - found->second.used > kUseStep;
+            m_used.insert(record.key);
+            m_isStale = m_isStale || now - record.used > kUseStep;
         }
-        known[i] = std::make_unique<Known>(std::move(answer->analysis));
-    }
+        for (auto image = first; image != last; ++image)
+            known[image->second] = std::make_unique<Known>(answer->analysis);
+    });
     return known;
 }
 
@@ -73,41 +145,25 @@ void PictureMemory::remember(const std::vector<Learned>& learned, TimePoint now)
     if (!lock.ok())
         return;
     OwnFile::removeUnfinished(folder);
-    std::vector<std::string> answers;
-    answers.reserve(learned.size());
-    Records added;
+    // One record for each file.
+    Keys seen;
+    std::vector<std::string> added;
     for (const auto& [stamp, analysis] : learned) {
-        answers.push_back(ImageMessages::encoded(ImageMessages::Answer{analysis}));
-        added.push_back({Key::of(stamp), now, answers.back()});
+        if (!seen.insert(Key::of(stamp)).second)
+            continue;
+        const std::string answer = ImageMessages::encoded(ImageMessages::Answer{analysis});
+        added.push_back(PictureRecords::encoded({Key::of(stamp), now, answer}));
     }
     // Once more, as another process may have written it since.
-    const std::string old = content();
-    std::string bytes(PictureRecords::header());
-    for (const Record& record : merged(PictureRecords::decoded(old), added, now)) {
-        const std::string next = PictureRecords::encoded(record);
-        if (bytes.size() + next.size() > m_mostBytes)
-            break;
-        bytes += next;
-    }
-    (void)OwnFile::replace(m_path, bytes);
-}
-
-/// One record for each file, the last used first.
-PictureMemory::Records PictureMemory::merged(const Records& old, const Records& added, TimePoint now) const
-{
-    Records all = added;
-    std::unordered_set<Key, KeyHash> seen;
-    for (const Record& record : added)
-        seen.insert(record.key);
-    for (Record record : old) {
-        if (!seen.insert(record.key).second)
-            continue;
-        if (m_used.contains(record.key))
-            record.used = now;
-        all.push_back(record);
-    }
-    std::ranges::stable_sort(all, std::ranges::greater(), &Record::used);
-    return all;
+    const PictureFile file(m_path, m_mostBytes);
+    std::vector<Old> old;
+    file.visit([&](const Record& record, PictureFile::Place place) {
+        if (seen.insert(record.key).second)
+            old.push_back({m_used.contains(record.key) ? now : record.used, place});
+    });
+    NextFile next(file, std::move(added), std::move(old));
+    next.shorten(m_mostBytes);
+    (void)OwnFile::replaceByPieces(m_path, [&next] { return next.piece(); });
 }
 
 } // namespace orlen

@@ -17,7 +17,8 @@ namespace orlen {
 
 /// Remembers what was learned of pictures, so that no scan looks at the same one twice. It is a comfort only:
 /// a file that is damaged, of other models or not there means looking again, and what cannot be written is
-/// not written. Blocks on the disk; one thread at a time.
+/// not written. The file is read and written piece by piece, and never held as a whole. Blocks on the disk;
+/// one thread at a time.
 class PictureMemory {
 public:
     /// What is known of one file; an empty analysis means that it is not a readable picture.
@@ -42,11 +43,7 @@ public:
     void remember(const std::vector<Learned>& learned, TimePoint now);
 
 private:
-    using Records = std::vector<PictureRecords::Record>;
     static constexpr std::size_t kMostBytes = 200'000'000;
-
-    [[nodiscard]] std::string content() const;
-    [[nodiscard]] Records merged(const Records& old, const Records& added, TimePoint now) const;
 
     std::string m_path;
     std::size_t m_mostBytes;

@@ -13,7 +13,7 @@ namespace orlen {
 namespace {
 
 /// The number grows when pictures are decoded or measured otherwise.
-constexpr std::string_view kHeader = "Orlen pictures 2 " ORLEN_MODELS "\n";
+constexpr std::string_view kHeader = "Orlen pictures 3 " ORLEN_MODELS "\n";
 
 /// What a record begins with, in front of the answer.
 struct Fixed {
@@ -95,23 +95,33 @@ std::string PictureRecords::encoded(const Record& record)
     return bytes + body;
 }
 
+PictureRecords::Next PictureRecords::next(std::string_view bytes)
+{
+    constexpr Next kDamaged{.record = {}, .isDamaged = true};
+    Frame frame{};
+    Fixed fixed{};
+    if (!take(bytes, frame))
+        return {};
+    if (frame.length < sizeof fixed || frame.length > sizeof fixed + ImageMessages::kLongest)
+        return kDamaged;
+    if (frame.length > bytes.size())
+        return {};
+    std::string_view body = bytes.substr(0, frame.length);
+    if (checksum(body) != frame.checksum || !take(body, fixed))
+        return kDamaged;
+    const Key key{{fixed.device, fixed.number}, fixed.length, timeOf(fixed.changed)};
+    return {.record = Record{key, timeOf(fixed.used), body}, .length = sizeof frame + frame.length};
+}
+
 std::vector<PictureRecords::Record> PictureRecords::decoded(std::string_view bytes)
 {
     std::vector<Record> records;
     if (!bytes.starts_with(kHeader))
         return records;
     bytes.remove_prefix(kHeader.size());
-    Frame frame{};
-    while (take(bytes, frame)) {
-        Fixed fixed{};
-        if (frame.length > bytes.size() || frame.length > sizeof fixed + ImageMessages::kLongest)
-            break;
-        std::string_view body = bytes.substr(0, frame.length);
-        bytes.remove_prefix(frame.length);
-        if (checksum(body) != frame.checksum || !take(body, fixed))
-            break;
-        records.push_back(
-            {{{fixed.device, fixed.number}, fixed.length, timeOf(fixed.changed)}, timeOf(fixed.used), body});
+    for (Next one = next(bytes); one.record; one = next(bytes)) {
+        records.push_back(*one.record);
+        bytes.remove_prefix(one.length);
     }
     return records;
 }

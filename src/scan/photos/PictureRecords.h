@@ -3,6 +3,9 @@
 #include "platform/files/FileStatus.h"
 #include "platform/values/Time.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,7 +47,16 @@ struct Record {
 
 [[nodiscard]] std::string encoded(const Record& record);
 
-/// The records, which borrow the bytes, up to the first damaged one. None of another recognition.
+/// What bytes begin with.
+struct Next {
+    std::optional<Record> record; ///< none if more bytes are needed, or damaged; borrows them
+    std::size_t length = 0;       ///< of the record, encoded
+    bool isDamaged = false;
+};
+[[nodiscard]] Next next(std::string_view bytes);
+
+/// The records of a whole file, which borrow the bytes, up to the first damaged one. None of another
+/// recognition.
 [[nodiscard]] std::vector<Record> decoded(std::string_view bytes);
 
 } // namespace orlen::PictureRecords

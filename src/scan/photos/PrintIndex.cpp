@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <optional>
 
 namespace orlen {
@@ -13,17 +14,40 @@ namespace {
 
 /// Numbers of a unit vector in whole steps. No sum of their products exceeds 16 bits, as no product of two
 /// such vectors exceeds the square of this, nor do its parts.
-constexpr float kSteps = 178;
+constexpr float kSteps = 177;
 
-/// What a product of sketches may be too low by because they are rounded: half a step in each of 36 numbers
+/// What a product of sketches may be too low by because they are rounded: half a step in each of 52 numbers
 /// of both, which are not longer than 1.
-constexpr float kRounding = 0.035F;
+constexpr float kRounding = 0.0415F;
 constexpr float kLeastCosine = 1 - kCoarseLimit * kCoarseLimit / 2;
-constexpr auto kLeastProduct = static_cast<std::int16_t>((kLeastCosine - kRounding) * kSteps * kSteps);
+/// More than what is lost when a cosine is computed in another order.
+constexpr float kNothing = 1e-5F;
 
 std::int16_t inSteps(float number)
 {
     return static_cast<std::int16_t>(std::lround(number * kSteps));
+}
+
+/// What sketches of directions with that cosine have in common, at least.
+std::int16_t leastProduct(float cosine)
+{
+    return static_cast<std::int16_t>((cosine - kRounding) * kSteps * kSteps);
+}
+
+float inCommon(const PrintIndex::Direction& one, const PrintIndex::Direction& other)
+{
+    std::int32_t sum = 0;
+    for (std::size_t i = 0; i < one.size(); ++i)
+        sum += std::int32_t{one[i]} * other[i];
+    return static_cast<float>(sum);
+}
+
+float lengthOf(std::span<const std::int8_t> numbers)
+{
+    float squares = 0;
+    for (const std::int8_t number : numbers)
+        squares += static_cast<float>(number) * static_cast<float>(number);
+    return std::sqrt(squares);
 }
 
 void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
@@ -38,14 +62,51 @@ void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 
 } // namespace
 
+/// A direction that is looked for.
+struct PrintIndex::Query {
+    // Left to itself, the compiler takes four at a time.
+    using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
+
+    Query(const Direction& of, std::size_t mostFound) : direction(&of), length(lengthOf(of)), most(mostFound)
+    {
+        const Sketch sketch = sketchOf(of);
+        for (std::size_t i = 0; i < kNumbers; ++i)
+            numbers[i] = Lanes{} + sketch[i];
+        setLeast(kLeastCosine);
+    }
+
+    void setLeast(float cosine)
+    {
+        leastCosine = cosine;
+        least = Lanes{} + leastProduct(cosine);
+    }
+
+    /// All bits set for each of the bundle that may be near.
+    [[nodiscard]] std::array<std::int16_t, kLanes> nearOnes(const Bundle& bundle) const
+    {
+        Lanes sums{};
+        for (std::size_t i = 0; i < kNumbers; ++i) {
+            Lanes lanes{};
+            std::memcpy(&lanes, bundle[i].data(), sizeof lanes);
+            sums += lanes * numbers[i];
+        }
+        const Lanes isNear = sums >= least;
+        std::array<std::int16_t, kLanes> result{};
+        std::memcpy(result.data(), &isNear, sizeof isNear);
+        return result;
+    }
+
+    const Direction* direction;
+    float length;
+    std::size_t most;
+    std::array<Lanes, kNumbers> numbers; ///< of the sketch, each as often as there are lanes
+    Lanes least;                         ///< for the sketches of near ones
+    float leastCosine = 0;
+    std::vector<Near> found;
+};
+
 PrintIndex::Sketch PrintIndex::sketchOf(const Direction& direction)
 {
-    const auto lengthOf = [](std::span<const std::int8_t> numbers) {
-        float squares = 0;
-        for (const std::int8_t number : numbers)
-            squares += static_cast<float>(number) * static_cast<float>(number);
-        return std::sqrt(squares);
-    };
     const float length = std::max(lengthOf(direction), 1.0F);
     const std::span<const std::int8_t> numbers(direction);
     Sketch sketch{};
@@ -66,54 +127,54 @@ void PrintIndex::add(const Direction& direction)
     for (std::size_t i = 0; i < kNumbers; ++i)
         m_bundles.back()[i][lane] = sketch[i];
     m_directions.push_back(direction);
+    m_lengths.push_back(lengthOf(direction));
 }
 
-std::array<std::int16_t, PrintIndex::kLanes> PrintIndex::products(const Bundle& bundle, const Sketch& sketch)
+void PrintIndex::look(Query& query, std::size_t number) const
 {
-    // Left to itself, the compiler takes four at a time.
-    using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
-    Lanes sums{};
-    for (std::size_t i = 0; i < kNumbers; ++i) {
-        Lanes numbers{};
-        std::memcpy(&numbers, bundle[i].data(), sizeof numbers);
-        sums += numbers * sketch[i];
-    }
-    std::array<std::int16_t, kLanes> result{};
-    std::memcpy(result.data(), &sums, sizeof sums);
-    return result;
+    const Direction& direction = m_directions[number];
+    const float least = (query.leastCosine - kNothing) * query.length * m_lengths[number];
+    if (inCommon(direction, *query.direction) < least)
+        return;
+    const std::optional<float> coarse = coarseDistance(direction, *query.direction);
+    if (!coarse)
+        return;
+    query.found.push_back({*coarse, number});
+    constexpr std::size_t kSlack = 4;
+    if (query.found.size() / kSlack <= query.most)
+        return;
+    // In a crowd, only few are nearer than the nearest so far.
+    keepNearest(query.found, query.most);
+    const float farthest = query.found.back().coarse;
+    query.setLeast(1 - farthest * farthest / 2);
 }
 
 std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,
                                                             std::size_t most) const
 {
-    std::vector<Sketch> sketches;
-    std::ranges::transform(directions, std::back_inserter(sketches), sketchOf);
-    std::vector<std::vector<Near>> found(directions.size());
-    const auto look = [&](std::size_t one, std::size_t number) {
-        const std::optional<float> coarse = coarseDistance(m_directions[number], directions[one]);
-        if (!coarse)
-            return;
-        found[one].push_back({*coarse, number});
-        constexpr std::size_t kSlack = 4;
-        if (found[one].size() / kSlack > most)
-            keepNearest(found[one], most);
-    };
+    std::vector<Query> queries;
+    queries.reserve(directions.size());
+    for (const Direction& direction : directions)
+        queries.emplace_back(direction, most);
     // Bundle by bundle, so that each is fetched from memory once.
     for (std::size_t first = 0; first < m_directions.size(); first += kLanes) {
         const Bundle& bundle = m_bundles[first / kLanes];
         const std::size_t lanes = std::min(kLanes, m_directions.size() - first);
-        for (std::size_t one = 0; one < directions.size(); ++one) {
-            const auto sums = products(bundle, sketches[one]);
-            if (*std::ranges::max_element(sums) < kLeastProduct)
+        for (Query& query : queries) {
+            const auto isNear = query.nearOnes(bundle);
+            if (isNear == std::array<std::int16_t, kLanes>{})
                 continue;
             for (std::size_t lane = 0; lane < lanes; ++lane) {
-                if (sums[lane] >= kLeastProduct)
-                    look(one, first + lane);
+                if (isNear[lane] != 0)
+                    look(query, first + lane);
             }
         }
     }
-    for (std::vector<Near>& all : found)
-        keepNearest(all, most);
+    std::vector<std::vector<Near>> found;
+    for (Query& query : queries) {
+        keepNearest(query.found, most);
+        found.push_back(std::move(query.found));
+    }
     return found;
 }
 

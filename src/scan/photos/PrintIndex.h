@@ -13,7 +13,7 @@ namespace orlen {
 /// Finds the near ones among very many directions, exactly as `coarseDistance` does. It still looks at all of
 /// them, but at a sketch first: the numbers in which pictures differ most, and the lengths of the rest. The
 /// product of two sketches is at least that of the directions, so most of them are out after a few cycles.
-/// About 200 bytes each. Any thread, while none adds.
+/// About 250 bytes each. Any thread, while none adds.
 class PrintIndex {
 public:
     using Direction = FeaturePrint::Direction;
@@ -32,20 +32,21 @@ public:
                                                       std::size_t most) const;
 
 private:
-    static constexpr std::size_t kHead = 32;
+    static constexpr std::size_t kHead = 48;
     static constexpr std::size_t kRests = 4;
     static constexpr std::size_t kNumbers = kHead + kRests;
     static constexpr std::size_t kLanes = 8;
     using Sketch = std::array<std::int16_t, kNumbers>;
-    /// Eight sketches, number by number, so that the compiler multiplies eight at a time.
+    /// Eight sketches, number by number, so that eight are multiplied at a time.
     using Bundle = std::array<std::array<std::int16_t, kLanes>, kNumbers>;
+    struct Query;
 
     [[nodiscard]] static Sketch sketchOf(const Direction& direction);
-    [[nodiscard]] static std::array<std::int16_t, kLanes> products(const Bundle& bundle,
-                                                                   const Sketch& sketch);
+    void look(Query& query, std::size_t number) const;
 
     std::vector<Bundle> m_bundles;
     std::vector<Direction> m_directions;
+    std::vector<float> m_lengths; ///< of the directions
 };
 
 } // namespace orlen
