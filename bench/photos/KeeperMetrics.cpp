@@ -1,5 +1,5 @@
-// Measures which of two copies of a picture is kept, on a folder of labelled ones: keeper_metrics FOLDER.
-// FOLDER is as for photo_metrics.
+// Measures which of two copies of a picture is kept, on a folder of labelled ones: keeper_metrics FOLDER
+// [PART]. FOLDER is as for photo_metrics; PART is one of the reports.
 
 #include "PhotoFolder.h"
 #include "PictureCopies.h"
@@ -11,6 +11,7 @@
 #include "scan/photos/SamePicture.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <map>
@@ -81,24 +82,34 @@ void judge(const PhotoInfo& original, const PhotoInfo& copy, bool isAsGood, Tall
     }
 }
 
-void reportKept(const std::vector<RgbImage>& images, Camera camera)
+/// What tells the original from its copies, besides the picture.
+struct Evidence {
+    const char* name;
+    Camera camera;
+    bool hasTimes; ///< a copy is younger
+};
+
+void reportKept(const std::vector<RgbImage>& images, const Evidence& evidence)
 {
     std::map<const Kind*, Tally> tallies;
     for (const RgbImage& image : images) {
-        const std::string bytes = PictureCopies::original(image, camera);
-        const auto original = analysed(bytes);
+        const std::string bytes = PictureCopies::original(image, evidence.camera);
+        auto original = analysed(bytes);
+        if (original && evidence.hasTimes)
+            original->cand.modified = TimePoint{std::chrono::hours{24}};
         for (const Kind& kind : PictureCopies::all()) {
-            const auto copy = analysed(PictureCopies::copied(bytes, kind));
+            auto copy = analysed(PictureCopies::copied(bytes, kind));
+            if (copy && evidence.hasTimes)
+                copy->cand.modified = TimePoint{std::chrono::hours{48}};
             Tally& tally = tallies[&kind];
             tally.made += 1;
             if (original && copy)
-                judge(*original, *copy, kind.isAsGood && camera == Camera::unknown, tally);
+                judge(*original, *copy, kind.isAsGood && evidence.camera == Camera::unknown, tally);
             else
                 tally.kept += 1; // What is no picture is never kept.
         }
     }
-    std::printf("\n%-28s kept joined copies  of   difference\n",
-                camera == Camera::noted ? "original with camera data" : "no camera data at all");
+    std::printf("\n%-28s kept joined copies  of   difference\n", evidence.name);
     int kept = 0;
     for (const Kind& kind : PictureCopies::all()) {
         const Tally& tally = tallies[&kind];
@@ -139,17 +150,27 @@ void reportSharpness(const std::vector<RgbImage>& images)
 
 void reportCaptions(const std::vector<RgbImage>& images)
 {
-    std::printf("\nTaken for copies in spite of a caption\n");
+    std::printf("\n%-28s plain kept  joined  copies  of\n", "with something drawn over it");
     for (const Kind& kind : PictureCopies::captioned()) {
-        int copies = 0;
+        Tally tally;
         for (const RgbImage& image : images) {
             const std::string bytes = PictureCopies::original(image, Camera::unknown);
             const auto original = analysed(bytes);
             const auto captioned = analysed(PictureCopies::copied(bytes, kind));
-            copies += original && captioned && SamePicture::isCopy(*original, *captioned) ? 1 : 0;
+            tally.made += 1;
+            if (original && captioned)
+                judge(*original, *captioned, false, tally);
         }
-        std::printf("%-28s %4d of %zu\n", kind.name, copies, images.size());
+        std::printf("%-28s %10d %7d %7d %3d\n", kind.name, tally.kept, tally.joined, tally.copies,
+                    tally.made);
     }
+}
+
+bool isAnyDrawnOver(const PhotoInfo& one, const PhotoInfo& other)
+{
+    const SamePicture::Frame first(one);
+    const SamePicture::Frame second(other);
+    return SamePicture::isDrawnOver(first, second) || SamePicture::isDrawnOver(second, first);
 }
 
 /// Frames of a burst, and a picture beside the one it was captioned from, are no copies.
@@ -172,8 +193,9 @@ void reportShots(const std::string& folder)
             const FeaturePrint& other = *all[j].second.print;
             const float difference = SamePicture::difference(one.tile(), other.tile());
             if (difference < 0.6F || distance(one, other) < 0.32F)
-                std::printf("%.3f %s %s\n", static_cast<double>(difference), all[i].first.c_str(),
-                            all[j].first.c_str());
+                std::printf("%.3f %s %s%s\n", static_cast<double>(difference), all[i].first.c_str(),
+                            all[j].first.c_str(),
+                            isAnyDrawnOver(all[i].second, all[j].second) ? ", drawn over" : "");
         }
     }
 }
@@ -184,8 +206,8 @@ void reportShots(const std::string& folder)
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: keeper_metrics FOLDER\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: keeper_metrics FOLDER [kept|sharpness|captions|shots]\n");
         return 2;
     }
     orlen::ImageDecoder::prepare();
@@ -194,10 +216,18 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "%s/labels.csv lists no pictures.\n", argv[1]);
         return 1;
     }
-    orlen::reportKept(images, orlen::PictureCopies::Camera::noted);
-    orlen::reportKept(images, orlen::PictureCopies::Camera::unknown);
-    orlen::reportSharpness(images);
-    orlen::reportCaptions(images);
-    orlen::reportShots(argv[1]);
+    const std::string_view part = argc == 3 ? argv[2] : "";
+    if (part.empty() || part == "kept") {
+        using orlen::PictureCopies::Camera;
+        orlen::reportKept(images, {"original with camera data", Camera::noted, false});
+        orlen::reportKept(images, {"no camera data at all", Camera::unknown, true});
+        orlen::reportKept(images, {"neither that nor times", Camera::unknown, false});
+    }
+    if (part.empty() || part == "sharpness")
+        orlen::reportSharpness(images);
+    if (part.empty() || part == "captions")
+        orlen::reportCaptions(images);
+    if (part.empty() || part == "shots")
+        orlen::reportShots(argv[1]);
     return 0;
 }

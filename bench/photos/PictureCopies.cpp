@@ -46,8 +46,10 @@ constexpr Kind kKinds[] = {
 };
 
 constexpr Kind kCaptioned[] = {
-    {"large caption", "caption 12", ".jpg[Q=92]"},
-    {"small caption", "caption 30", ".jpg[Q=92]"},
+    {"large caption", "caption 12", ".jpg[Q=92]"},         {"small caption", "caption 30", ".jpg[Q=92]"},
+    {"words across the middle", "words 10", ".jpg[Q=92]"}, {"caption bar over it", "bar 8", ".jpg[Q=92]"},
+    {"caption bar above it", "above 8", ".jpg[Q=92]"},     {"sticker", "sticker 6", ".jpg[Q=92]"},
+    {"signature", "signature 25", ".jpg[Q=92]"},
 };
 
 Image fromBytes(const std::string& bytes)
@@ -83,24 +85,93 @@ Image inked(const Image& image, const Image& mask, double level)
     });
 }
 
-/// White letters of that share of the picture's height, near its lower edge.
-Image captioned(const Image& image, int share)
+struct Place {
+    int x;
+    int y;
+};
+
+/// Letters of that height, white on a black picture as large as the image.
+Image lettering(const Image& image, const char* words, const char* font, int height, Place place)
 {
-    const int height = vips_image_get_height(image.get()) / share;
     const Image letters = applied(image, [&](VipsImage* in, VipsImage** out) {
-        return vips_text(out, "ONE DOES NOT SIMPLY", "font", "sans bold", "width",
-                         vips_image_get_width(in) * 3 / 4, "height", height, nullptr);
+        return vips_text(out, words, "font", font, "width", vips_image_get_width(in) * 3 / 4, "height",
+                         height, nullptr);
     });
-    const Image placed = applied(letters, [&](VipsImage* in, VipsImage** out) {
-        return vips_embed(in, out, vips_image_get_width(image.get()) / 8,
-                          vips_image_get_height(image.get()) - 2 * height, vips_image_get_width(image.get()),
+    return applied(letters, [&](VipsImage* in, VipsImage** out) {
+        return vips_embed(in, out, place.x, place.y, vips_image_get_width(image.get()),
                           vips_image_get_height(image.get()), nullptr);
     });
-    // With a dark rim, so that they show on white as well.
-    const Image rim = applied(placed, [&](VipsImage* in, VipsImage** out) {
+}
+
+/// White letters with a dark rim, so that they show on white as well.
+Image captioned(const Image& image, const Image& letters, int height)
+{
+    const Image rim = applied(letters, [&](VipsImage* in, VipsImage** out) {
         return vips_gaussblur(in, out, 1.0 + height / 20.0, nullptr);
     });
-    return inked(inked(image, rim, 0), placed, 255);
+    return inked(inked(image, rim, 0), letters, 255);
+}
+
+/// A white strip with black letters.
+Image barred(const Image& image, int height, int top)
+{
+    constexpr std::array kWhite{255.0, 255.0, 255.0};
+    const Image strip = applied(image, [&](VipsImage* in, VipsImage** out) {
+        return vips_draw_rect(in, const_cast<double*>(kWhite.data()), 3, 0, top, vips_image_get_width(in),
+                              2 * height, "fill", TRUE, nullptr) == 0
+                   ? vips_copy(in, out, nullptr)
+                   : -1;
+    });
+    const Place place{vips_image_get_width(image.get()) / 8, top + height / 2};
+    return inked(strip, lettering(strip, "when the weather is fine again", "sans", height, place), 0);
+}
+
+/// A face of a few circles.
+Image withSticker(const Image& image, int radius)
+{
+    constexpr std::array kYellow{250.0, 210.0, 40.0};
+    constexpr std::array kBlack{20.0, 20.0, 20.0};
+    const int x = vips_image_get_width(image.get()) * 2 / 3;
+    const int y = vips_image_get_height(image.get()) / 3;
+    return applied(image, [&](VipsImage* in, VipsImage** out) {
+        const auto circle = [&](const std::array<double, 3>& ink, int dx, int dy, int size) {
+            return vips_draw_circle(in, const_cast<double*>(ink.data()), 3, x + dx, y + dy, size, "fill",
+                                    TRUE, nullptr);
+        };
+        circle(kBlack, 0, 0, radius + radius / 12);
+        circle(kYellow, 0, 0, radius);
+        circle(kBlack, -radius / 3, -radius / 4, radius / 6);
+        circle(kBlack, radius / 3, -radius / 4, radius / 6);
+        circle(kBlack, 0, radius / 3, radius / 3);
+        return vips_copy(in, out, nullptr);
+    });
+}
+
+/// What the change is called, and the share of the picture's height that it is large.
+Image drawnOver(const Image& image, std::string_view change, int share)
+{
+    const int width = vips_image_get_width(image.get());
+    const int height = vips_image_get_height(image.get());
+    const int size = height / share;
+    const auto captionAt = [&](int y) {
+        return lettering(image, "ONE DOES NOT SIMPLY", "sans bold", size, {width / 8, y});
+    };
+    if (change == "caption")
+        return captioned(image, captionAt(height - 2 * size), size);
+    if (change == "words")
+        return captioned(image, captionAt(height / 2), size);
+    if (change == "bar")
+        return barred(image, size, height - 2 * size);
+    if (change == "sticker")
+        return withSticker(image, size);
+    if (change == "signature")
+        return captioned(
+            image, lettering(image, "A. Painter", "serif italic", size, {width * 3 / 4, height - 2 * size}),
+            size);
+    const Image larger = applied(image, [&](VipsImage* in, VipsImage** out) {
+        return vips_embed(in, out, 0, 2 * size, width, height + 2 * size, nullptr);
+    });
+    return barred(larger, size, 0);
 }
 
 Image changed(Image image, std::string_view change)
@@ -117,8 +188,10 @@ Image changed(Image image, std::string_view change)
         image = applied(image, [](VipsImage* in, VipsImage** out) {
             return vips_colourspace(in, out, VIPS_INTERPRETATION_B_W, nullptr);
         });
-    if (change.starts_with("caption "))
-        image = captioned(image, atoi(change.substr(8).data()));
+    const std::size_t space = change.find(' ');
+    if (space != std::string_view::npos && change.front() != '0')
+        image = drawnOver(Image(vips_image_copy_memory(image.get())), change.substr(0, space),
+                          std::atoi(change.substr(space + 1).data()));
     return image;
 }
 

@@ -3,6 +3,7 @@
 #include "ChangedCopies.h"
 #include "recognition/AreaScale.h"
 #include "recognition/PrintMaker.h"
+#include "scan/photos/PageCheck.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
@@ -42,6 +43,12 @@ RgbImage thumbnail(const RgbImage& image)
     return result;
 }
 
+/// Pages are looked at closely.
+bool isPage(const Photo& photo)
+{
+    return photo.kind == "receipt" || photo.kind == "document" || photo.kind == "screenshot";
+}
+
 /// Its print, and what its copies do to the recall. Every picture has a seed of its own.
 std::optional<Printed> printed(const std::string& folder, const Photo& photo, Recall& recall)
 {
@@ -53,10 +60,13 @@ std::optional<Printed> printed(const std::string& folder, const Photo& photo, Re
     }
     ChangedCopies::Random random(static_cast<unsigned>(image->width * 7919 + image->height));
     for (const ChangedCopies::Change& change : ChangedCopies::all()) {
-        const auto copy = PrintMaker::printOf(thumbnail(change.apply(*image, random)));
+        const RgbImage changed = change.apply(*image, random);
+        const auto copy = PrintMaker::printOf(thumbnail(changed));
         Share& share = recall[photo.kind][change.name];
         ++share.all;
-        share.found += copy && distance(*print, *copy) < kNearDuplicate ? 1 : 0;
+        const bool isFound = copy && distance(*print, *copy) < kNearDuplicate &&
+                             (!isPage(photo) || PageCheck::isSamePage(*image, changed));
+        share.found += isFound ? 1 : 0;
     }
     return Printed{.photo = photo, .print = *print};
 }
@@ -85,7 +95,16 @@ std::string pairKind(const Photo& one, const Photo& other)
     return group(one) == group(other) ? "one burst (should join)" : "two bursts of one camera";
 }
 
-void printPairs(const std::vector<Printed>& all)
+bool isSameCloselySeen(const std::string& folder, const Photo& one, const Photo& other)
+{
+    if (!isPage(one) && !isPage(other))
+        return true;
+    const auto first = PhotoFolder::read(folder + "/" + one.file);
+    const auto second = PhotoFolder::read(folder + "/" + other.file);
+    return first && second && PageCheck::isSamePage(*first, *second);
+}
+
+void printPairs(const std::string& folder, const std::vector<Printed>& all)
 {
     std::map<std::string, Share> shares;
     for (std::size_t i = 0; i < all.size(); ++i) {
@@ -93,7 +112,7 @@ void printPairs(const std::vector<Printed>& all)
             const float distance = orlen::distance(all[i].print, all[j].print);
             Share& share = shares[pairKind(all[i].photo, all[j].photo)];
             ++share.all;
-            if (distance >= kNearDuplicate)
+            if (distance >= kNearDuplicate || !isSameCloselySeen(folder, all[i].photo, all[j].photo))
                 continue;
             ++share.found;
             if (all[i].photo.kind != "burst" || all[j].photo.kind != "burst")
@@ -119,7 +138,7 @@ void PrintMetrics::report(const std::string& folder, const std::vector<Photo>& p
     }
     printRecall(recall);
     const auto start = std::chrono::steady_clock::now();
-    printPairs(all);
+    printPairs(folder, all);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     std::printf("all pairs of %zu prints: %.2f s\n", all.size(), took.count());
 }

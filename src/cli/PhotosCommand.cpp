@@ -9,12 +9,14 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
+#include "scan/photos/PageGroups.h"
 #include "scan/photos/PhotoAnalyzer.h"
 #include "scan/photos/PictureMemory.h"
 #include "scan/walk/Walk.h"
 
 #include <iterator>
 #include <limits>
+#include <utility>
 
 namespace orlen {
 
@@ -82,8 +84,11 @@ private:
             progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); },
             &memory);
         PhotoSearch search{analyzer.analyze(found.images).photos};
-        if (!stop.stop_requested())
-            search.findings = Rater::rate(allowed(PhotoAnalyzer::findings(search.photos, stop), exclusions));
+        if (!stop.stop_requested()) {
+            auto findings =
+                PhotoAnalyzer::findings(search.photos, stop, PageGroups::lookingThrough(workers, stop));
+            search.findings = Rater::rate(allowed(std::move(findings), exclusions));
+        }
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
     }

@@ -8,6 +8,7 @@
 #include "scan/StepGroup.h"
 #include "scan/duplicates/Duplicates.h"
 #include "scan/locations/LocationScanners.h"
+#include "scan/photos/PageGroups.h"
 #include "scan/photos/PictureMemory.h"
 #include "scan/walk/Walk.h"
 
@@ -44,7 +45,9 @@ Findings findPhotos(const Walk::Found& found, const ScanOptions& options, ScanPr
     ImageWorkers workers(options.images);
     const auto recognize = [&](const std::string& path) { return workers.analyze(path, flag.token()); };
     PictureMemory memory;
-    PhotoAnalyzer::Found photos = PhotoAnalyzer(progress, flag, recognize, &memory).run(found.images);
+    const PhotoAnalyzer analyzer(progress, flag, recognize, &memory,
+                                 PageGroups::lookingThrough(workers, flag.token()));
+    PhotoAnalyzer::Found photos = analyzer.run(found.images);
     coverage = photos.coverage;
     return std::move(photos.findings);
 }

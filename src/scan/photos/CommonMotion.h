@@ -16,6 +16,12 @@ namespace orlen {
 /// bending the result.
 class CommonMotion {
 public:
+    /// Pixels of the tile.
+    struct Point {
+        float x = 0;
+        float y = 0;
+    };
+
     /// The motion most of the structure follows.
     [[nodiscard]] static CommonMotion fitted(std::span<const BlockFind> finds);
 
@@ -25,18 +31,16 @@ public:
     /// The tile with this motion undone. Pixels from outside repeat the edge.
     [[nodiscard]] FeaturePrint::Tile undone(const FeaturePrint::Tile& tile) const;
 
+    /// How far what is at a point of the tile has moved.
+    [[nodiscard]] Point moveAt(float x, float y) const;
+
     /// Whether the whole block is still inside the tile after the motion.
     [[nodiscard]] bool keepsInside(TilePlace block) const;
 
 private:
     /// Pixels moved at the middle of the tile, and how many more at its right and lower edges.
     using Axis = std::array<float, 3>;
-    struct Point {
-        float x = 0;
-        float y = 0;
-    };
 
-    [[nodiscard]] Point moveAt(float x, float y) const;
     [[nodiscard]] Point target(TilePlace pixel) const;
     [[nodiscard]] float squaredMiss(const BlockFind& find) const;
 

@@ -57,9 +57,21 @@ constexpr Loss kLosses[] = {
     {isLossless, ScanTexts::kMoreCompressed},  {bytes, ScanTexts::kSmallerFile},
 };
 
+/// A picture that is saved again with more bytes, or sharpened, gets larger and no better. So of two files
+/// that say the same of themselves, the earlier one is what the other was made from, unless it is much
+/// smaller.
+bool isEarlier(const PhotoInfo& copy, const PhotoInfo& than)
+{
+    constexpr std::int64_t kMuch = 2;
+    return copy.cand.modified < than.cand.modified && copy.cand.modified != TimePoint{} &&
+           bytes(copy) * kMuch >= bytes(than);
+}
+
 bool lostLess(const PhotoInfo& copy, const PhotoInfo& than)
 {
     for (const Loss& loss : kLosses) {
+        if (loss.value == bytes && (isEarlier(copy, than) || isEarlier(than, copy)))
+            return isEarlier(copy, than);
         const std::int64_t one = loss.value(copy);
         const std::int64_t other = loss.value(than);
         if (one != other)
@@ -94,6 +106,16 @@ struct Copies {
     std::size_t best = 0;
 };
 
+std::vector<Copies>::iterator bestShot(const std::vector<PhotoInfo>& photos, std::vector<Copies>& shots)
+{
+    auto best = shots.begin();
+    for (auto shot = shots.begin(); shot != shots.end(); ++shot) {
+        if (isBetterShot(photos[shot->best], photos[best->best]))
+            best = shot;
+    }
+    return best;
+}
+
 Text reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
 {
     const auto* const lost = std::find_if(std::begin(kLosses), std::end(kLosses), [&](const Loss& loss) {
@@ -123,12 +145,15 @@ std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
         else if (lostLess(photos[member], photos[same->best]))
             same->best = member;
     }
-    std::size_t keeper = shots.front().best;
-    for (const Copies& shot : shots) {
-        if (isBetterShot(photos[shot.best], photos[keeper]))
-            keeper = shot.best;
+    // A caption is sharper than any picture.
+    auto best = bestShot(photos, shots);
+    while (std::ranges::any_of(shots, [&](const Copies& other) {
+        return &other != &*best && SamePicture::isDrawnOver(best->first, other.first);
+    })) {
+        shots.erase(best);
+        best = bestShot(photos, shots);
     }
-    return keeper;
+    return best->best;
 }
 
 Text KeeperChoice::reason(const PhotoInfo& other, const SamePicture::Frame& keeperFrame)

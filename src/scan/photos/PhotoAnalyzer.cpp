@@ -6,6 +6,7 @@
 #include "scan/ScanTexts.h"
 #include "scan/photos/KeeperChoice.h"
 #include "scan/photos/OnAllCores.h"
+#include "scan/photos/PageGroups.h"
 #include "scan/photos/PhotoGroups.h"
 #include "scan/photos/PhotoRules.h"
 #include "scan/photos/PictureMemory.h"
@@ -49,7 +50,7 @@ PhotoAnalyzer::Found PhotoAnalyzer::run(const std::vector<Cand>& images) const
     if (images.empty())
         return {};
     const Analyzed analyzed = analyze(images);
-    return {findings(analyzed.photos, m_flag.token()), analyzed.coverage};
+    return {findings(analyzed.photos, m_flag.token(), m_look), analyzed.coverage};
 }
 
 PhotoAnalyzer::Analyzed PhotoAnalyzer::analyze(const std::vector<Cand>& images) const
@@ -120,13 +121,16 @@ void PhotoAnalyzer::remember(const std::vector<Cand>& images, const std::vector<
 }
 
 std::vector<Finding> PhotoAnalyzer::findings(const std::vector<PhotoInfo>& photos,
-                                             const std::stop_token& stop)
+                                             const std::stop_token& stop, const CloserLook& look)
 {
     constexpr std::array kKinds{FindingKind::photoDuplicates, FindingKind::screenshots, FindingKind::receipts,
                                 FindingKind::memes, FindingKind::blurry};
     std::array<std::vector<FileEntry>, kKinds.size()> entries;
     std::vector<bool> isListed(photos.size());
-    for (const PhotoGroups::Group& group : PhotoGroups::of(photos, stop)) {
+    std::vector<PhotoGroups::Group> groups = PhotoGroups::of(photos, stop);
+    if (look)
+        groups = PageGroups::checked(photos, std::move(groups), look, stop);
+    for (const PhotoGroups::Group& group : groups) {
         const SamePicture::Frame keeper(photos[group.keeper]);
         for (const std::size_t other : group.others) {
             isListed[other] = true;

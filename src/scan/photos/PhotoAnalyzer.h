@@ -2,6 +2,7 @@
 
 #include "model/Finding.h"
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/RgbImage.h"
 #include "scan/Cand.h"
 
 #include <cstddef>
@@ -44,13 +45,17 @@ public:
     /// Analyses one file; called from several threads at once.
     using Recognizer = std::function<std::optional<ImageAnalysis>(const std::string& path)>;
 
+    /// Reads one file again, as large as PageCheck wants it; called from several threads at once.
+    using CloserLook = std::function<std::optional<RgbImage>(const std::string& path)>;
+
     /// What is not remembered is looked at, up to this many.
     static constexpr std::size_t kMostNew = 1'500;
 
     /// Without a memory every image is new.
     PhotoAnalyzer(ScanProgress& progress, const ScanFlag& flag, Recognizer recognize,
-                  PictureMemory* memory = nullptr)
-        : m_progress(progress), m_flag(flag), m_recognize(std::move(recognize)), m_memory(memory)
+                  PictureMemory* memory = nullptr, CloserLook look = {})
+        : m_progress(progress), m_flag(flag), m_recognize(std::move(recognize)), m_memory(memory),
+          m_look(std::move(look))
     {
     }
 
@@ -69,9 +74,11 @@ public:
     };
     [[nodiscard]] Analyzed analyze(const std::vector<Cand>& images) const;
 
-    /// The findings of analysed pictures; with some groups missing if stopped. Pure.
+    /// The findings of analysed pictures; with some groups missing if stopped. Without a closer look pages
+    /// that are laid out alike may be taken for copies.
     [[nodiscard]] static std::vector<Finding> findings(const std::vector<PhotoInfo>& photos,
-                                                       const std::stop_token& stop = {});
+                                                       const std::stop_token& stop = {},
+                                                       const CloserLook& look = {});
 
 private:
     /// Per image, null for one not looked at; without an analysis for one that cannot be read. A print is
@@ -87,6 +94,7 @@ private:
     const ScanFlag& m_flag;
     Recognizer m_recognize;
     PictureMemory* m_memory;
+    CloserLook m_look;
 };
 
 } // namespace orlen

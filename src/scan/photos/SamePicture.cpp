@@ -69,10 +69,25 @@ float leftOver(const Products& place, double contrast, double noise)
     return static_cast<float>((one + other - 2.0 * place.oneOther) / ((one + other) / 2 + noise));
 }
 
+/// Of the encoders and of the packing: some levels in each pixel of a place.
+double noiseOf(std::size_t step)
+{
+    return 10.0 * 10.0 * 4 * kCell * kCell * static_cast<double>(step * step);
+}
+
+/// Two by two cells.
+Products placeAt(const Cells& cells, std::size_t x, std::size_t y)
+{
+    Products place = cells[y * kCells + x];
+    place += cells[y * kCells + x + 1];
+    place += cells[(y + 1) * kCells + x];
+    place += cells[(y + 1) * kCells + x + 1];
+    return place;
+}
+
 float worstLeftOver(const Cells& cells, std::size_t step)
 {
-    // Of the encoders and of the packing: some levels in each pixel of a place.
-    const double noise = 10.0 * 10.0 * 4 * kCell * kCell * static_cast<double>(step * step);
+    const double noise = noiseOf(step);
     constexpr float kNothingInCommon = 2;
     Products all;
     for (const Products& cell : cells)
@@ -81,17 +96,41 @@ float worstLeftOver(const Cells& cells, std::size_t step)
         return all.oneOne == all.otherOther ? 0 : kNothingInCommon;
     const double contrast = std::sqrt(static_cast<double>(all.otherOther) / all.oneOne);
     float worst = 0;
-    // Places of two by two cells, half over each other.
+    // Places half over each other.
     for (std::size_t y = 0; y + 1 < kCells; ++y) {
         for (std::size_t x = 0; x + 1 < kCells; ++x) {
-            Products place = cells[y * kCells + x];
-            place += cells[y * kCells + x + 1];
-            place += cells[(y + 1) * kCells + x];
-            place += cells[(y + 1) * kCells + x + 1];
-            worst = std::max(worst, leftOver(place, contrast, noise));
+            worst = std::max(worst, leftOver(placeAt(cells, x, y), contrast, noise));
         }
     }
     return worst;
+}
+
+/// How one tile differs from another of the same frame.
+struct Overlay {
+    Products different; ///< the places that do not show the same
+    int kept = 0;       ///< places with structure in the other that show the same
+    int lost = 0;       ///< those that do not
+};
+
+/// What is drawn over one of the tiles would upset a contrast that all of it is asked for.
+Overlay overlayOf(const Cells& cells, double noise)
+{
+    constexpr float kStillAlike = 0.6F;
+    constexpr double kSameContrast = 1;
+    Overlay overlay;
+    for (std::size_t y = 0; y < kCells; y += 2) {
+        for (std::size_t x = 0; x < kCells; x += 2) {
+            const Products place = placeAt(cells, x, y);
+            if (std::max(place.oneOne, place.otherOther) < noise)
+                continue; // even in both
+            const bool isAlike = leftOver(place, kSameContrast, noise) <= kStillAlike;
+            if (place.otherOther >= noise)
+                (isAlike ? overlay.kept : overlay.lost) += 1;
+            if (!isAlike)
+                overlay.different += place;
+        }
+    }
+    return overlay;
 }
 
 std::int64_t pixelCount(const PhotoInfo& photo)
@@ -132,6 +171,24 @@ bool SamePicture::isCopy(const Frame& one, const Frame& other)
     const bool isEncodedOnly = pixelCount(*one.photo) == pixelCount(*other.photo) &&
                                one.photo->traits.isGrey == other.photo->traits.isGrey;
     return apart <= (isEncodedOnly ? kFromEncoding : kFromScaling);
+}
+
+bool SamePicture::isDrawnOver(const Frame& one, const Frame& other)
+{
+    constexpr int kFewest = 4; ///< places that show that it is the same frame
+    constexpr double kMoreStructure = 1.2;
+    // Of what the other shows there. Of a shot that is only softer, all would be left.
+    constexpr double kMostLeft = 0.85;
+    constexpr double kMostAlike = 0.5; ///< correlation, by chance
+    constexpr std::size_t kCoarse = 2;
+    if (!one.tile || !other.tile)
+        return false;
+    const Overlay overlay = overlayOf(cellsOf(*one.tile, *other.tile, kCoarse), noiseOf(kCoarse));
+    const Products& different = overlay.different;
+    const double ours = different.oneOne;
+    const double theirs = different.otherOther;
+    return overlay.kept >= std::max(overlay.lost, kFewest) && ours > 0 && ours >= kMoreStructure * theirs &&
+           different.oneOther <= std::max(kMostLeft * theirs, kMostAlike * std::sqrt(ours * theirs));
 }
 
 bool SamePicture::isCopy(const PhotoInfo& one, const PhotoInfo& other)

@@ -26,4 +26,9 @@ struct Frame {
 [[nodiscard]] bool isCopy(const Frame& one, const Frame& other);
 [[nodiscard]] bool isCopy(const PhotoInfo& one, const PhotoInfo& other);
 
+/// Whether the first is the second with something drawn over it, such as a caption, a sticker or a signature:
+/// most of the second is there unchanged, and in other places the first has more structure, and not that of
+/// the second.
+[[nodiscard]] bool isDrawnOver(const Frame& one, const Frame& other);
+
 } // namespace orlen::SamePicture

@@ -223,6 +223,48 @@ TEST(PhotoAnalyzerTest, ofCopiesTheOneThatLostLeastIsKeptAndTheOthersSayWhatThey
     EXPECT_THAT(pathsOf(findingsOf({sent, drawing}).front()), ElementsAre("/p/sent.jpg"));
 }
 
+TEST(PhotoAnalyzerTest, ofCopiesThatSayTheSameOfThemselvesTheEarlierOneIsKept)
+{
+    constexpr std::chrono::days kDay{1};
+    const auto kept = [&](std::int64_t earlierBytes, std::int64_t laterBytes) {
+        std::vector<PhotoInfo> photos{info({"/p/later.jpg", {}, 90, kWide, laterBytes, 1}),
+                                      info({"/p/earlier.jpg", {}, 50, kWide, earlierBytes, 1})};
+        photos[0].cand.modified = TimePoint{} + 9 * kDay;
+        photos[1].cand.modified = TimePoint{} + 8 * kDay;
+        return pathsOf(PhotoAnalyzer::findings(photos).front()) == std::vector<std::string>{"/p/later.jpg"};
+    };
+    EXPECT_TRUE(kept(5'000, 9'000)) << "saved again";
+    EXPECT_TRUE(kept(5'000, 4'000));
+    EXPECT_TRUE(kept(5'000, 10'000));
+    EXPECT_FALSE(kept(5'000, 10'001)) << "much coarser than the later one";
+}
+
+TEST(PhotoAnalyzerTest, pagesStayTogetherOnlyIfACloserLookAgrees)
+{
+    // What is written on them goes by the first letter of their name.
+    const auto look = [](const std::string& path) -> std::optional<RgbImage> {
+        if (path == "/p/unreadable.jpg")
+            return std::nullopt;
+        RgbImage image{.width = 256, .height = 256, .pixels = {}};
+        auto noise = static_cast<std::uint32_t>(path[3]);
+        for (int i = 0; i < 256 * 256; ++i) {
+            noise = noise * 1'664'525U + 1'013'904'223U;
+            image.pixels.insert(image.pixels.end(), 3, static_cast<std::uint8_t>(noise >> 24U));
+        }
+        return image;
+    };
+    const std::vector<ImageLabel> receipt{{"receipt", 0.9F}};
+    std::vector<PhotoInfo> photos;
+    for (const char* path :
+         {"/p/a1.jpg", "/p/b1.jpg", "/p/a2.jpg", "/p/b2.jpg", "/p/unreadable.jpg", "/p/c.jpg"})
+        photos.push_back(info({path, receipt, 50, kWide, kMB, 1}));
+    photos.push_back(info({"/p/photo1.jpg", {}, 50, kWide, kMB, 2}));
+    photos.push_back(info({"/p/photo2.jpg", {}, 50, kWide, kMB, 2}));
+    const auto findings = PhotoAnalyzer::findings(photos, {}, look);
+    EXPECT_THAT(pathsOf(findings[0]), ElementsAre("/p/a2.jpg", "/p/b2.jpg", "/p/photo2.jpg"));
+    EXPECT_THAT(pathsOf(findings[2]), ElementsAre("/p/a1.jpg", "/p/b1.jpg", "/p/unreadable.jpg", "/p/c.jpg"));
+}
+
 TEST(PhotoAnalyzerTest, aShotIsKeptInItsBestCopy)
 {
     const Finding alike = findingsOf({
