@@ -170,6 +170,7 @@ CleanUps::Restoration CleanUps::finishRestore(Cleaner::Restored outcome)
                 back.insert(after[item].original);
         }
     }
+    noteFailures(outcome);
     const bool isRecorded = History::update(m_history, outcome.record).ok();
     Q_EMIT historyChanged();
     m_storage.followMoves();
@@ -177,6 +178,23 @@ CleanUps::Restoration CleanUps::finishRestore(Cleaner::Restored outcome)
     m_results.returnToFindings(back);
     Message message = AppTexts::restored(outcome.restored, outcome.failed);
     return {std::move(outcome), std::move(message), isRecorded};
+}
+
+void CleanUps::noteFailures(const Cleaner::Restored& outcome)
+{
+    const std::string id = outcome.record.id.text();
+    for (const TrashedItem& item : outcome.record.items) {
+        if (item.restored)
+            m_restoreFailures.erase({id, item.original});
+    }
+    for (const CleanFailure& failure : outcome.failures)
+        m_restoreFailures.insert_or_assign({id, failure.path}, failure.reason);
+}
+
+std::optional<FailureReason> CleanUps::restoreFailure(const Uuid& record, const std::string& original) const
+{
+    const auto found = m_restoreFailures.find({record.text(), original});
+    return found == m_restoreFailures.end() ? std::nullopt : std::optional(found->second);
 }
 
 const CleanRecord* CleanUps::recordOf(const Uuid& id) const
@@ -197,7 +215,7 @@ const RestoreState* CleanUps::restoring(const Uuid& record) const
     return found == m_restores.end() ? nullptr : &found->state;
 }
 
-bool CleanUps::startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted)
+bool CleanUps::startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted, const Done& whenDone)
 {
     checkWriter();
     if (isRestoring(record.id))
@@ -212,11 +230,13 @@ bool CleanUps::startRestore(const CleanRecord& record, const Cleaner::Wanted& wa
             *outcome = Cleaner::restore(record, stopped, progress, wanted);
             return 0;
         },
-        [this, id = record.id, outcome](int) {
+        [this, id = record.id, outcome, whenDone](int) {
             std::erase_if(m_restores, [&](const PendingRestore& pending) { return pending.record == id; });
             const Restoration restoration = finishRestore(**outcome);
             Q_EMIT restoringChanged();
             Q_EMIT restored(restoration);
+            if (whenDone != nullptr)
+                whenDone(restoration);
         });
     if (PendingRestore* pending = pendingRestore(record.id))
         pending->stop = stop;

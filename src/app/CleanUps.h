@@ -9,10 +9,12 @@
 #include "model/ModelState.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stop_token>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orlen {
@@ -56,14 +58,19 @@ public:
     /// Puts a past clean-up back before returning. Blocks on the disk, so not for a window. Writers only, and
     /// not for a record that is being restored.
     Restoration restore(const CleanRecord& record);
-    /// Starts putting a past clean-up back, or what is wanted of it; `restored` follows. False, without
-    /// starting, while the same record is being restored. Writers only.
-    bool startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted = {});
+    using Done = std::function<void(const Restoration&)>;
+    /// Starts putting a past clean-up back, or what is wanted of it; `restored` follows, then `whenDone`.
+    /// False, without starting, while the same record is being restored. Writers only.
+    bool startRestore(const CleanRecord& record, const Cleaner::Wanted& wanted = {},
+                      const Done& whenDone = {});
     /// Stops a restore after its current item; ignored when none of this record is running.
     void cancelRestore(const Uuid& record);
     /// The restore of this record that is running; null if there is none. Valid until the next change.
     [[nodiscard]] const RestoreState* restoring(const Uuid& record) const;
     [[nodiscard]] bool isRestoring(const Uuid& record) const { return restoring(record) != nullptr; }
+    /// Why the last try to put this item back failed; nothing if it did not, or nobody tried since the start.
+    [[nodiscard]] std::optional<FailureReason> restoreFailure(const Uuid& record,
+                                                              const std::string& original) const;
     /// The record in the history; null if it is not there. Valid until the next change.
     [[nodiscard]] const CleanRecord* recordOf(const Uuid& id) const;
 
@@ -99,6 +106,7 @@ private:
     bool keep(const CleanRecord& record);
     [[nodiscard]] PendingRestore* pendingRestore(const Uuid& record);
     void showRestore(const Uuid& record, RestoreState state);
+    void noteFailures(const Cleaner::Restored& outcome);
     [[nodiscard]] Restoration finishRestore(Cleaner::Restored outcome);
     void checkWriter() const;
 
@@ -112,6 +120,8 @@ private:
     std::stop_source m_stop{std::nostopstate};
     std::vector<PendingCleanUp> m_pending; ///< clean-ups not yet in the history
     std::vector<PendingRestore> m_restores;
+    /// Of the last restores, by the record's id and the item's original place.
+    std::map<std::pair<std::string, std::string>, FailureReason> m_restoreFailures;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares
 };

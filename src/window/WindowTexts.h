@@ -108,6 +108,10 @@ inline constexpr Text kSpokenFile = message("{name}, {size}, file");
 inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");
 inline constexpr Text kNotMoved = messages("{count} couldn't be moved", "{count} couldn't be moved");
 inline constexpr Text kNotRestored = messages("{count} couldn't be restored", "{count} couldn't be restored");
+inline constexpr Text kFreedInAll = message("{size} freed in all.");
+// TRANSLATORS: {trash} is the size of what the Trash still holds.
+inline constexpr Text kFreedAndInTrash =
+    message("{size} freed in all. {trash} more once you empty the Trash.");
 inline constexpr Text kInTrash = message("In the Trash");
 inline constexpr Text kRestoredItem = messageIn("an item", "Restored");
 inline constexpr Text kGone = message("No longer in the Trash");

@@ -3,10 +3,6 @@
 #include "window/apps/AppInfoTexts.h"
 #include "window/lists/DisplayText.h"
 
-#include <QStringList>
-
-#include <algorithm>
-
 namespace orlen {
 
 AppOrderModel::AppOrderModel(QObject* parent) : QSortFilterProxyModel(parent)
@@ -28,6 +24,7 @@ void AppOrderModel::setQuery(const QString& query)
     if (m_query == query)
         return;
     m_query = query;
+    m_search = WordSearch(query);
     invalidateRowsFilter();
     Q_EMIT queryChanged();
 }
@@ -50,9 +47,7 @@ bool AppOrderModel::filterAcceptsRow(int row, const QModelIndex& /*parent*/) con
 {
     const AppInfo& app = appAt(row);
     const QString text = DisplayText::path(app.name) + u'\n' + AppInfoTexts::origin(app);
-    const QStringList words = m_query.split(u' ', Qt::SkipEmptyParts);
-    return std::all_of(words.begin(), words.end(),
-                       [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+    return m_search.fits(text);
 }
 
 const AppInfo& AppOrderModel::appAt(int listRow) const

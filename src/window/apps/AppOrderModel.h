@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/apps/AppListModel.h"
+#include "window/lists/WordSearch.h"
 
 #include <QSortFilterProxyModel>
 #include <QtQml/qqmlregistration.h>
@@ -50,6 +51,7 @@ private:
 
     AppListModel* m_list = nullptr;
     QString m_query;
+    WordSearch m_search;
     Order m_order = ByName;
 };
 

@@ -12,12 +12,18 @@ Card {
     required property string summary
     required property string freed
     required property int status
+    required property real progress
+    required property string progressText
+    required property bool stopping
     required property string recordId
 
     property bool current: false
     property bool ringed: false
     property bool open: false
     property bool writable: true
+    /// Which of the items are shown.
+    property string query: ""
+    readonly property bool isRestoring: root.status === HistoryModel.Restoring
     readonly property bool isNarrow: root.width < 600 * Theme.textScale
     /// Whether the buttons stand below the texts rather than beside them.
     readonly property bool isStacked: root.width < 460 * Theme.textScale
@@ -26,6 +32,13 @@ Card {
     signal pressed
     signal toggled
     signal restoreRequested(fromKeyboard: bool)
+    signal stopRequested(fromKeyboard: bool)
+
+    /// The button gets disabled and must not take the focus with it.
+    function keepFocus(fromKeyboard: bool) {
+        if (fromKeyboard)
+            root.forceActiveFocus();
+    }
 
     height: head.height + unfolded.height
     border.color: area.containsMouse ? Theme.accent : Theme.stroke
@@ -85,7 +98,8 @@ Card {
 
             SmallText {
                 width: parent.width
-                text: Words.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
+                text: root.isRestoring ? Words.facts([Strings.restoring, root.progressText])
+                                       : Words.facts([root.date, root.isNarrow ? root.freed : "", root.summary])
                 wrapMode: Text.WordWrap
                 maximumLineCount: 6
                 Accessible.ignored: true
@@ -115,15 +129,21 @@ Card {
 
                 objectName: "restoreButton"
                 width: Math.max(implicitWidth, Theme.grown(112))
+                visible: root.status !== HistoryModel.Gone
                 quiet: root.status === HistoryModel.Restored
-                enabled: root.writable && root.status === HistoryModel.Restorable
+                enabled: root.isRestoring ? !root.stopping : root.writable && root.status === HistoryModel.Restorable
                 symbol: root.status === HistoryModel.Restored ? "checkmark" : ""
                 text: root.status === HistoryModel.Restored ? Strings.restored
-                      : root.status === HistoryModel.Restoring ? Strings.restoring : Strings.restore
+                      : !root.isRestoring ? Strings.restore : root.stopping ? Strings.stopping : Strings.stop
                 focusPolicy: root.tabPolicy
                 Accessible.name: root.status === HistoryModel.Restorable
                                  ? Strings.restoreOf(root.title, root.date) : restore.text
-                onClicked: root.restoreRequested(restore.visualFocus)
+                onClicked: {
+                    if (root.isRestoring)
+                        root.stopRequested(restore.visualFocus);
+                    else
+                        root.restoreRequested(restore.visualFocus);
+                }
             }
 
             IconButton {
@@ -140,6 +160,17 @@ Card {
                 }
             }
         }
+    }
+
+    ProgressBar {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: head.bottom
+        anchors.leftMargin: Theme.cardMargin
+        anchors.rightMargin: Theme.cardMargin
+        visible: root.isRestoring
+        value: root.progress
+        Accessible.name: root.progressText
     }
 
     Item {
@@ -162,6 +193,7 @@ Card {
             sourceComponent: HistoryItems {
                 recordId: root.recordId
                 title: root.title
+                query: root.query
                 isNarrow: root.isNarrow
             }
         }

@@ -10,17 +10,28 @@ ListRow {
     required property string size
     required property int status
     required property string statusText
+    required property string remedy
+    required property bool restorable
 
     property bool isNarrow: false
 
     readonly property bool isRestored: root.status === RecordItemsModel.Restored
     readonly property color statusInk: root.isRestored ? Theme.safeText
-                                       : root.status === RecordItemsModel.Gone ? Theme.reviewText : Theme.secondary
+                                       : root.isOff ? Theme.reviewText : Theme.secondary
+    readonly property bool isOff: root.status === RecordItemsModel.Gone || root.status === RecordItemsModel.NotRestored
+    readonly property string facts: Strings.spoken([root.name, root.folder, root.size, root.statusText])
 
-    signal revealRequested
+    /// Restores the item, or shows one that is back in the file manager.
+    signal activated
 
     fill: root.hovered ? Theme.inset : "transparent"
-    Accessible.name: Strings.spoken([root.name, root.folder, root.size, root.statusText])
+    Accessible.name: root.remedy === "" ? root.facts : Strings.spokenText(root.facts, root.remedy)
+    Accessible.onPressAction: root.activated()
+
+    ToolTipBubble {
+        shown: root.hovered && root.remedy !== ""
+        text: root.remedy
+    }
 
     RowTexts {
         anchors.left: parent.left
@@ -44,8 +55,10 @@ ListRow {
 
         CaptionText {
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, root.width * 0.45)
             visible: !root.isNarrow
             text: root.statusText
+            elide: Text.ElideRight
             color: root.statusInk
             Accessible.ignored: true
         }
@@ -61,18 +74,20 @@ ListRow {
         }
 
         Item {
-            width: reveal.width
-            height: reveal.height
+            width: action.width
+            height: action.height
 
             IconButton {
-                id: reveal
+                id: action
 
+                objectName: "itemAction"
                 side: 32
-                visible: root.isRestored
-                symbol: "reveal"
-                text: Strings.reveal
+                visible: root.isRestored || root.restorable
+                symbol: root.isRestored ? "reveal" : "arrow.uturn.backward"
+                text: root.isRestored ? Strings.reveal : Strings.restore
                 focusPolicy: Qt.NoFocus
-                onClicked: root.revealRequested()
+                Accessible.name: root.isRestored ? action.text : Strings.restoreItem(root.name)
+                onClicked: root.activated()
             }
         }
     }

@@ -8,7 +8,9 @@ Item {
 
     required property string recordId
     required property string title
+    property string query: ""
     property bool isNarrow: false
+    readonly property bool isLookedAt: root.enabled && root.Window.active
 
     readonly property int rowHeight: Theme.grown(root.isNarrow ? 64 : 48)
     /// The half row hints that there is more.
@@ -16,10 +18,13 @@ Item {
 
     implicitHeight: Math.round(root.rowsShown * root.rowHeight) + 17
 
+    onIsLookedAtChanged: if (root.isLookedAt) items.lookUp()
+
     RecordItemsModel {
         id: items
 
         recordId: root.recordId
+        query: root.query
     }
 
     RowMenu {
@@ -49,8 +54,8 @@ Item {
         model: items
         Accessible.name: Strings.itemsOf(root.title)
 
-        Keys.onReturnPressed: items.reveal(list.currentIndex)
-        Keys.onEnterPressed: items.reveal(list.currentIndex)
+        Keys.onReturnPressed: items.activate(list.currentIndex)
+        Keys.onEnterPressed: items.activate(list.currentIndex)
         Keys.onSpacePressed: items.reveal(list.currentIndex)
         Keys.onPressed: event => {
             event.accepted = list.currentItem !== null
@@ -68,7 +73,7 @@ Item {
             height: root.rowHeight
             isNarrow: root.isNarrow
             ringed: ListView.isCurrentItem && row.Window.activeFocusItem === row
-            onRevealRequested: items.reveal(row.index)
+            onActivated: items.activate(row.index)
             onMenuRequested: (x, y) => {
                 list.currentIndex = row.index;
                 list.forceActiveFocus(Qt.MouseFocusReason);

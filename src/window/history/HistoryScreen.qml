@@ -10,46 +10,54 @@ Item {
     /// The clean-up whose items are shown; at most one at a time.
     property string openRecord: ""
     readonly property real sideMargin: Theme.sideMargin(root.width)
+    /// The Trash may have been emptied while somebody looked elsewhere.
+    readonly property bool isLookedAt: root.enabled && root.Window.active
+
+    onIsLookedAtChanged: if (root.isLookedAt) history.lookUp()
 
     HistoryModel {
         id: history
 
-        onRestored: message => root.view.notices.say(message)
+        onQueryChanged: if (history.query !== "") root.openRecord = history.idAt(0)
+    }
+
+    Shortcut {
+        enabled: root.enabled
+        sequences: [StandardKey.Find]
+        onActivated: header.find()
+    }
+
+    // Not in the list, which would take the keyboard from the search.
+    HistoryHeader {
+        id: header
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.leftMargin: root.sideMargin
+        anchors.rightMargin: root.sideMargin
+        anchors.topMargin: Theme.pageMargin
+        height: header.implicitHeight
+        records: history
     }
 
     ScrollList {
         id: list
 
         objectName: "historyList"
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
         anchors.leftMargin: root.sideMargin
-        topMargin: Theme.pageMargin
+        topMargin: Theme.spaceS
         bottomMargin: Theme.pageMargin
         spacing: Theme.spaceM
         model: history
         currentIndex: 0
         highlightMoveDuration: Theme.hoverDuration
-        activeFocusOnTab: history.count > 0
+        activeFocusOnTab: !history.empty
         Accessible.name: Strings.pastCleanUps
-
-        header: Column {
-            x: Theme.mirrored ? root.sideMargin : 0
-            width: list.width - root.sideMargin
-            bottomPadding: Theme.spaceXl
-            spacing: Theme.spaceM
-
-            PageHeader {
-                width: parent.width
-                title: Screens.title(Screens.History)
-                subtitle: Strings.historyLead
-            }
-
-            Note {
-                width: parent.width
-                visible: !AppModel.writer && history.count > 0
-                text: Strings.readerOnly
-            }
-        }
 
         delegate: HistoryCard {
             id: card
@@ -62,13 +70,16 @@ Item {
             ringed: card.current && card.Window.activeFocusItem === card
             open: root.openRecord === card.recordId
             writable: AppModel.writer
+            query: history.query
             onPressed: list.currentIndex = card.index
             onToggled: root.openRecord = card.open ? "" : card.recordId
             onRestoreRequested: fromKeyboard => {
-                // The button gets disabled and must not take the focus with it.
-                if (fromKeyboard)
-                    card.forceActiveFocus();
+                card.keepFocus(fromKeyboard);
                 history.restore(card.index);
+            }
+            onStopRequested: fromKeyboard => {
+                card.keepFocus(fromKeyboard);
+                history.stop(card.index);
             }
         }
 
@@ -87,8 +98,10 @@ Item {
         anchors.centerIn: parent
         width: parent.width - 2 * Theme.pageMargin
         visible: history.count === 0
-        symbol: "clock.arrow.circlepath"
+        symbol: history.empty ? "clock.arrow.circlepath" : "magnifyingglass"
         tone: Theme.historyTone
-        text: Strings.nothingCleaned
+        text: history.empty ? Strings.nothingCleaned : Strings.noCleanUpMatches(history.query)
+        action: history.empty ? "" : Strings.clearFilter
+        onTriggered: header.clear()
     }
 }

@@ -1,48 +1,63 @@
 #include "window/history/RecordItemsModel.h"
 
-#include "platform/files/FileStatus.h"
 #include "window/WindowTexts.h"
+#include "window/history/Whereabouts.h"
 #include "window/lists/DisplayText.h"
+#include "window/lists/WordSearch.h"
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <utility>
 
 namespace orlen {
 
 namespace {
 
-const CleanRecord* recordOf(const AppModel& app, const QString& id)
+RecordItemsModel::State stateOf(const TrashedItem& item)
 {
-    const auto wanted = Uuid::parse(id.toStdString());
-    if (!wanted)
-        return nullptr;
-    const auto& history = app.cleanUps()->history();
-    const auto found = std::find_if(history.begin(), history.end(),
-                                    [&](const CleanRecord& record) { return record.id == *wanted; });
-    return found == history.end() ? nullptr : &*found;
-}
-
-QString textOf(RecordItemsModel::State state)
-{
-    switch (state) {
-    case RecordItemsModel::Unknown:
-        return {};
-    case RecordItemsModel::InTrash:
-        return DisplayText::text(WindowTexts::kInTrash);
-    case RecordItemsModel::Restored:
-        return DisplayText::text(WindowTexts::kRestoredItem);
-    case RecordItemsModel::Gone:
-        return DisplayText::text(WindowTexts::kGone);
+    switch (Whereabouts::of(item)) {
+    case Whereabouts::Place::inTrash:
+        return RecordItemsModel::InTrash;
+    case Whereabouts::Place::restored:
+        return RecordItemsModel::Restored;
+    case Whereabouts::Place::gone:
+        return RecordItemsModel::Gone;
     }
-    return {};
+    return RecordItemsModel::Gone;
 }
 
 } // namespace
 
+const CleanRecord* RecordItemsModel::record() const
+{
+    const auto id = Uuid::parse(m_recordId.toStdString());
+    return id ? m_app.cleanUps()->recordOf(*id) : nullptr;
+}
+
+QString RecordItemsModel::textOf(const Row& row)
+{
+    switch (row.state) {
+    case Unknown:
+        return {};
+    case InTrash:
+        return DisplayText::text(WindowTexts::kInTrash);
+    case Restored:
+        return DisplayText::text(WindowTexts::kRestoredItem);
+    case Gone:
+        return DisplayText::text(WindowTexts::kGone);
+    case NotRestored:
+        return DisplayText::capitalized(DisplayText::text(reasonText(*row.failure)));
+    }
+    return {};
+}
+
 RecordItemsModel::RecordItemsModel(AppModel& app) : m_app(app), m_workers(*this)
 {
     connect(m_app.cleanUps(), &CleanUps::historyChanged, this, &RecordItemsModel::update);
+    connect(m_app.cleanUps(), &CleanUps::restoringChanged, this, [this] { allChanged(Role::restorable); });
 }
 
 void RecordItemsModel::setRecordId(const QString& id)
@@ -54,19 +69,40 @@ void RecordItemsModel::setRecordId(const QString& id)
     update();
 }
 
+void RecordItemsModel::setQuery(const QString& query)
+{
+    if (m_query == query)
+        return;
+    m_query = query;
+    Q_EMIT queryChanged();
+    update();
+}
+
+std::vector<TrashedItem> RecordItemsModel::foundItems() const
+{
+    const CleanRecord* record = this->record();
+    if (record == nullptr)
+        return {};
+    const WordSearch search(m_query);
+    std::vector<TrashedItem> items;
+    std::ranges::copy_if(record->items, std::back_inserter(items),
+                         [&](const TrashedItem& item) { return Whereabouts::isFound(item, search); });
+    return items.empty() ? record->items : items;
+}
+
 void RecordItemsModel::update()
 {
-    const CleanRecord* record = recordOf(m_app, m_recordId);
     std::vector<Row> rows;
-    if (record != nullptr)
-        std::transform(record->items.begin(), record->items.end(), std::back_inserter(rows),
-                       [](const TrashedItem& item) { return Row{item}; });
+    std::ranges::transform(foundItems(), std::back_inserter(rows),
+                           [](const TrashedItem& item) { return Row{item}; });
     const bool isSame =
         std::equal(rows.begin(), rows.end(), m_rows.begin(), m_rows.end(),
                    [](const Row& a, const Row& b) { return a.item.original == b.item.original; });
     // The same items keep their states until looked up again.
-    for (std::size_t row = 0; isSame && row < rows.size(); ++row)
+    for (std::size_t row = 0; isSame && row < rows.size(); ++row) {
         rows[row].state = m_rows[row].state;
+        rows[row].failure = m_rows[row].failure;
+    }
     if (isSame)
         m_rows = std::move(rows);
     else
@@ -91,8 +127,7 @@ void RecordItemsModel::lookUp()
             for (const TrashedItem& item : items) {
                 if (stop.stop_requested())
                     break;
-                const bool isThere = !item.restored && !item.trashed.empty() && exists(item.trashed);
-                states.push_back(item.restored ? Restored : isThere ? InTrash : Gone);
+                states.push_back(stateOf(item));
             }
             return states;
         },
@@ -101,9 +136,33 @@ void RecordItemsModel::lookUp()
 
 void RecordItemsModel::setStates(const std::vector<State>& states)
 {
-    for (std::size_t row = 0; row < states.size(); ++row)
-        m_rows[row].state = states[row];
-    allChanged(Role::status, Role::statusText);
+    const CleanRecord* record = this->record();
+    for (std::size_t number = 0; number < states.size(); ++number) {
+        Row& row = m_rows[number];
+        row.state = states[number];
+        row.failure = record == nullptr || row.state != InTrash
+                          ? std::nullopt
+                          : m_app.cleanUps()->restoreFailure(record->id, row.item.original);
+        if (row.failure)
+            row.state = NotRestored;
+    }
+    allChanged(Role::status, Role::statusText, Role::remedy, Role::restorable);
+}
+
+bool RecordItemsModel::isRestorable(const Row& row) const
+{
+    const CleanRecord* record = this->record();
+    return (row.state == InTrash || row.state == NotRestored) && m_app.isWriter() && record != nullptr &&
+           !m_app.cleanUps()->isRestoring(record->id);
+}
+
+void RecordItemsModel::activate(int row)
+{
+    reveal(row);
+    if (!hasRow(row) || !isRestorable(m_rows[static_cast<std::size_t>(row)]))
+        return;
+    m_app.cleanUps()->startRestore(*record(), std::set{m_rows[static_cast<std::size_t>(row)].item.original},
+                                   WindowState::of(m_app).outcomeNotice());
 }
 
 void RecordItemsModel::reveal(int row) const
@@ -116,8 +175,8 @@ std::optional<RowSubject> RecordItemsModel::subject(int row) const
 {
     if (!hasRow(row))
         return std::nullopt;
-    const auto& [item, state] = m_rows[static_cast<std::size_t>(row)];
-    return RowSubject{.path = item.original, .isThere = state == Restored};
+    const Row& shown = m_rows[static_cast<std::size_t>(row)];
+    return RowSubject{.path = shown.item.original, .isThere = shown.state == Restored};
 }
 
 QVariant RecordItemsModel::value(std::size_t number, int role) const
@@ -133,7 +192,11 @@ QVariant RecordItemsModel::value(std::size_t number, int role) const
     case Role::status:
         return row.state;
     case Role::statusText:
-        return textOf(row.state);
+        return textOf(row);
+    case Role::remedy:
+        return row.failure ? DisplayText::text(remedyText(*row.failure)) : QString();
+    case Role::restorable:
+        return isRestorable(row);
     }
     return {};
 }

@@ -100,6 +100,11 @@ QString counted(std::int64_t count, const Text& words)
     return text(Message(words, {{"count", count}}));
 }
 
+QString capitalized(const QString& text)
+{
+    return text.left(1).toUpper() + text.mid(1);
+}
+
 QString progress(std::int64_t done, std::int64_t total)
 {
     return text(Message(WindowTexts::kDoneOf, {{"count", done}, {"total", total}}));

@@ -24,6 +24,8 @@ namespace orlen::DisplayText {
 [[nodiscard]] QString text(const Text& words);
 /// Names in the message are shown as by `path`.
 [[nodiscard]] QString text(const Message& message);
+/// With its first letter as at the start of a sentence.
+[[nodiscard]] QString capitalized(const QString& text);
 /// "a · b", without empty ones. A line breaks only after the separator.
 [[nodiscard]] QString facts(QStringList facts);
 

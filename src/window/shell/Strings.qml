@@ -304,6 +304,14 @@ QtObject {
     function restoreOf(title: string, date: string): string {
         return Words.message("Restore {title}, {date}", { title: title, date: date });
     }
+    function restoreItem(name: string): string {
+        // TRANSLATORS: A button, read aloud; {name} is a file or folder.
+        return Words.message("Restore {name}", { name: name });
+    }
+    readonly property string searchHistory: Words.message("Search clean-ups")
+    function noCleanUpMatches(text: string): string {
+        return Words.message("No clean-up holds “{text}”.", { text: text });
+    }
     readonly property string pastCleanUps: Words.message("Clean-ups")
     function itemsOf(title: string): string {
         // TRANSLATORS: {title} is that of a clean-up.

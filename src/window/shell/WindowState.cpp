@@ -1,5 +1,9 @@
 #include "window/shell/WindowState.h"
 
+#include "window/lists/DisplayText.h"
+
+#include <QPointer>
+
 #include <utility>
 
 namespace orlen {
@@ -21,6 +25,14 @@ void WindowState::setSheet(std::optional<SheetKind> sheet)
 void WindowState::say(const QString& text, const std::function<void()>& undo, std::chrono::milliseconds time)
 {
     Q_EMIT said(text, undo, time);
+}
+
+CleanUps::Done WindowState::outcomeNotice()
+{
+    return [state = QPointer(this)](const CleanUps::Restoration& restoration) {
+        if (state)
+            state->say(DisplayText::text(restoration.message));
+    };
 }
 
 void WindowState::unsay(const QString& text)

@@ -56,6 +56,8 @@ public:
     /// long, and gives way to others meanwhile.
     void say(const QString& text, const std::function<void()>& undo = {},
              std::chrono::milliseconds time = {});
+    /// For a restore: shows a notice of how it ended.
+    [[nodiscard]] CleanUps::Done outcomeNotice();
     /// Takes a notice back that is shown or waits.
     void unsay(const QString& text);
 

@@ -242,6 +242,16 @@ void Stage::makeOldDownloads() const
     TempHome::setTimes(m_home->path("Downloads/papers"), old, old);
 }
 
+void Stage::cleanUp(const QString& folder) const
+{
+    CleanPlan plan;
+    plan.title = Message::verbatim("Many");
+    plan.sections.push_back({"caches", {}, "internaldrive.fill", {}});
+    for (const auto& file : std::filesystem::directory_iterator(m_home->path(folder.toStdString())))
+        plan.sections.front().entries.push_back({file.path().string(), 4096});
+    m_model->cleanUps()->confirm(plan);
+}
+
 void Stage::fill(FailureListModel* failures) const
 {
     std::vector<CleanFailure> list;

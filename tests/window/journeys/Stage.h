@@ -46,6 +46,8 @@ public:
     /// Puts what was not used for months into Downloads: "old.txt", and a folder "papers" with a "paper.txt",
     /// both copies of the report in Documents.
     Q_INVOKABLE void makeOldDownloads() const;
+    /// Starts to clean up all files of a folder, one by one.
+    Q_INVOKABLE void cleanUp(const QString& folder) const;
     /// Fills the list with items that were in use, and one that was gone.
     Q_INVOKABLE void fill(orlen::FailureListModel* failures) const;
 
