@@ -124,6 +124,13 @@ inline constexpr Text kRemovedFlatpak = message("Data of a removed Flatpak");
 
 // Forecast
 inline constexpr Text kNoChange = message("No change");
+inline constexpr Text kGrown = message("+{size}");
+// TRANSLATORS: {date} is that of the newest reading of the disk.
+inline constexpr Text kAsOf = message("As of {date}.");
+// TRANSLATORS: a point of a chart: {size} was free on {date}.
+inline constexpr Text kFreeOn = message("{date}: {size} free");
+// TRANSLATORS: a point of a forecast: about {size} will be free on {date}.
+inline constexpr Text kFreeAround = message("{date}: about {size} free");
 inline constexpr Text kGrowth = message("+{size} / week");
 inline constexpr Text kDecline = message("\u2212{size} / week");
 inline constexpr Text kSnapshots = messages(

@@ -44,6 +44,32 @@ TEST(ForecastCurveTest, reachesTheFullDiskOnItsDay)
     EXPECT_NEAR(curve.fitted->second.y, curve.known[2].y, 1e-9);
 }
 
+TEST(ForecastCurveTest, tellsDatesAndFiguresOfItsPoints)
+{
+    const ForecastCurve curve = ForecastCurve::of({reading(20, 20), reading(0, 60), reading(10, 40)});
+    const auto day = [](int number) { return reading(number, 0).date; };
+    const auto isOn = [&](std::optional<ForecastCurve::Point> point, int number, std::int64_t freeGB) {
+        ASSERT_TRUE(point);
+        EXPECT_LT(std::chrono::abs(curve.dateAt(point->x) - day(number)), 1s);
+        EXPECT_NEAR(static_cast<double>(curve.bytesAt(point->y)), static_cast<double>(freeGB * kGB), 1);
+    };
+    isOn(curve.pointAt(0.1), 0, 60);
+    isOn(curve.pointAt(0.3), 10, 40);
+    isOn(curve.pointAt(25.0 / 30), 25, 10);
+    isOn(curve.pointAt(9), 30, 0);
+    isOn(curve.pointBeside(curve.known[1].x, 1), 20, 20);
+    isOn(curve.pointBeside(curve.known[1].x, -1), 0, 60);
+    isOn(curve.pointBeside(curve.known[2].x, 1), 30, 0);
+    isOn(curve.pointBeside(1, -1), 20, 20);
+    EXPECT_FALSE(curve.pointBeside(0, -1));
+    EXPECT_FALSE(curve.pointBeside(1, 1));
+    EXPECT_FALSE(ForecastCurve::of({}).pointAt(0.5));
+    std::vector<std::int64_t> marks;
+    for (const ForecastCurve::Mark& mark : curve.scale)
+        marks.push_back(mark.bytes / kGB);
+    EXPECT_EQ(marks, (std::vector<std::int64_t>{20, 40, 60})) << "up to 72 GB";
+}
+
 TEST(ForecastCurveTest, leavesTheChartBeforeAFarAwayDay)
 {
     const ForecastCurve curve = ForecastCurve::of({reading(0, 201), reading(10, 200)});

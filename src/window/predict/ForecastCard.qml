@@ -40,8 +40,18 @@ ColumnCard {
 
     Paragraph {
         width: parent.width
-        bottomPadding: 14 + root.spacing
+        bottomPadding: asOf.visible ? 0 : 14 + root.spacing
         text: root.prediction.detail
+    }
+
+    SmallText {
+        id: asOf
+
+        width: parent.width
+        bottomPadding: 14 + root.spacing
+        visible: text !== ""
+        text: root.prediction.asOf
+        wrapMode: Text.WordWrap
     }
 
     ForecastChart {
@@ -60,24 +70,70 @@ ColumnCard {
         tone: root.tone
         rule: Theme.tertiary
         faint: Theme.dark ? Theme.stroke : Theme.inset
+        ink: Theme.tertiary
+        font.family: since.font.family
+        font.pixelSize: since.font.pixelSize
+        objectName: "forecastChart"
+        activeFocusOnTab: root.prediction.enoughData
+        Keys.onLeftPressed: chart.step(-1)
+        Keys.onRightPressed: chart.step(1)
+        onActiveFocusChanged: {
+            if (!chart.activeFocus)
+                chart.removeMark();
+        }
         Accessible.role: Accessible.Chart
         Accessible.name: root.prediction.enoughData
                          ? Strings.spokenText(chart.span, chart.outlook)
                          : Strings.spokenText(Strings.noForecast, root.prediction.detail)
+        Accessible.description: chart.markText
+
+        FocusRing {
+            shown: chart.activeFocus
+        }
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.NoButton
+            hoverEnabled: true
+            onMouseXChanged: chart.markAt(mouseX)
+            onExited: chart.removeMark()
+        }
+
+        Rectangle {
+            x: Math.max(0, Math.min(chart.mark.x + 8, chart.width - width))
+            y: 0
+            width: marked.implicitWidth + 2 * Theme.spaceS
+            height: marked.implicitHeight + Theme.spaceS
+            visible: chart.markText !== ""
+            radius: Theme.controlRadius
+            color: Theme.raised
+            border.width: 1
+            border.color: Theme.stroke
+
+            CaptionText {
+                id: marked
+
+                objectName: "forecastMark"
+                anchors.centerIn: parent
+                text: chart.markText
+                color: Theme.text
+                Accessible.ignored: true
+            }
+        }
 
         SmallText {
             x: Math.min(chart.now.x + 12, chart.width - width)
             y: Math.max(0, chart.now.y - height - 8)
-            visible: root.prediction.enoughData
+            visible: root.prediction.enoughData && chart.markText === ""
             text: root.prediction.freeSentence
             color: Theme.text
             font.weight: Font.DemiBold
             Accessible.ignored: true
         }
 
-        // On the line it names, where the curve only comes if the disk fills up.
+        // On the line it names, on the side where the curve does not come.
         CaptionText {
-            anchors.right: parent.right
+            x: chart.end.y > chart.height - 2 * height ? 0 : parent.width - width
             anchors.bottom: parent.bottom
             anchors.bottomMargin: Theme.spaceS
             text: Strings.diskFull
@@ -100,8 +156,19 @@ ColumnCard {
         }
 
         CaptionText {
-            x: Math.min(chart.now.x - width / 2, parent.width - width)
+            id: end
+
+            x: Math.min(chart.end.x - width / 2, parent.width - width)
             visible: root.prediction.enoughData
+            text: root.prediction.endDate
+            color: root.prediction.reachesFull ? root.prediction.warn ? Theme.reviewText : Theme.accent
+                                               : Theme.tertiary
+            Accessible.ignored: true
+        }
+
+        CaptionText {
+            x: Math.min(chart.now.x - width / 2, end.x - width - Theme.spaceS)
+            visible: root.prediction.enoughData && x > since.width
             text: root.prediction.lastDate
             Accessible.ignored: true
         }

@@ -1,5 +1,9 @@
 #include "window/predict/ForecastChart.h"
 
+#include "window/WindowTexts.h"
+#include "window/lists/DisplayText.h"
+
+#include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -14,7 +18,6 @@ namespace {
 constexpr double kLineWidth = 2.5;
 /// Room at the bottom for the full-disk line.
 constexpr double kBottom = 4;
-constexpr int kScaleLines = 3;
 
 /// Tangents of a curve through all points that rises and falls only where they do (Fritsch and Carlson,
 /// 1980): a plain spline would show free space that never existed.
@@ -62,6 +65,8 @@ ForecastChart::ForecastChart(QQuickItem* parent) : QQuickPaintedItem(parent)
     connect(this, &ForecastChart::coloursChanged, this, [this] { update(); });
     connect(this, &QQuickItem::widthChanged, this, &ForecastChart::nowChanged);
     connect(this, &QQuickItem::heightChanged, this, &ForecastChart::nowChanged);
+    connect(this, &ForecastChart::nowChanged, this, &ForecastChart::markChanged);
+    connect(this, &ForecastChart::markChanged, this, [this] { update(); });
 }
 
 void ForecastChart::setModel(PredictionModel* model)
@@ -72,12 +77,61 @@ void ForecastChart::setModel(PredictionModel* model)
         m_model->disconnect(this);
     m_model = model;
     if (m_model != nullptr) {
-        connect(m_model, &PredictionModel::changed, this, [this] { update(); });
-        connect(m_model, &PredictionModel::changed, this, &ForecastChart::nowChanged);
+        connect(m_model, &PredictionModel::changed, this, &ForecastChart::follow);
     }
     Q_EMIT modelChanged();
+    follow();
+}
+
+void ForecastChart::follow()
+{
+    m_mark.reset();
     Q_EMIT nowChanged();
     update();
+}
+
+QPointF ForecastChart::end() const
+{
+    const bool isThere = m_model != nullptr && m_model->curve().forecast;
+    return isThere ? place(m_model->curve().forecast->second) : now();
+}
+
+QString ForecastChart::markText() const
+{
+    if (!m_mark)
+        return {};
+    const ForecastCurve& curve = m_model->curve();
+    return DisplayText::text(
+        Message(m_mark->x > curve.known.back().x ? WindowTexts::kFreeAround : WindowTexts::kFreeOn,
+                {{"date", Moment{curve.dateAt(m_mark->x), Moment::Form::day}},
+                 {"size", Bytes{curve.bytesAt(m_mark->y)}}}));
+}
+
+void ForecastChart::markAt(double x)
+{
+    if (m_model != nullptr && width() > 2 * kBottom)
+        setMark(m_model->curve().pointAt((x - kBottom) / (width() - 2 * kBottom)));
+}
+
+void ForecastChart::step(int direction)
+{
+    if (m_model == nullptr || m_model->curve().known.empty())
+        return;
+    if (!m_mark)
+        setMark(m_model->curve().known.back());
+    else if (const auto beside = m_model->curve().pointBeside(m_mark->x, direction))
+        setMark(beside);
+}
+
+void ForecastChart::removeMark()
+{
+    setMark({});
+}
+
+void ForecastChart::setMark(std::optional<ForecastCurve::Point> mark)
+{
+    m_mark = mark;
+    Q_EMIT markChanged();
 }
 
 QPointF ForecastChart::now() const
@@ -99,19 +153,40 @@ void ForecastChart::paint(QPainter* painter)
         return;
     paintKnown(*painter, m_model->curve());
     paintLines(*painter, m_model->curve());
+    paintMark(*painter);
 }
 
 void ForecastChart::paintScale(QPainter& painter) const
 {
-    painter.setPen(QPen(m_faint, 1));
-    for (int line = 0; line < kScaleLines; ++line) {
-        const double y = std::round(line * (height() - kBottom) / kScaleLines) + 0.5;
+    painter.setFont(m_font);
+    const auto marks = m_model == nullptr ? std::vector<ForecastCurve::Mark>() : m_model->curve().scale;
+    for (const ForecastCurve::Mark& mark : marks) {
+        const double y = std::round(place({0, mark.y}).y()) + 0.5;
+        painter.setPen(QPen(m_faint, 1));
         painter.drawLine(QPointF(0, y), QPointF(width(), y));
+        painter.setPen(m_ink);
+        const double height = QFontMetricsF(painter.font()).height();
+        const QRectF room(0, y - height, width(), height);
+        // On the right, where free space is mostly lower. What would be cut at the top is left out.
+        if (room.top() >= 0)
+            painter.drawText(room, Qt::AlignRight | Qt::AlignBottom, DisplayText::size(mark.bytes));
     }
     QPen dashed(m_rule, 1.5, Qt::CustomDashLine, Qt::FlatCap);
     dashed.setDashPattern({4, 4});
     painter.setPen(dashed);
     painter.drawLine(QPointF(0, height() - kBottom), QPointF(width(), height() - kBottom));
+}
+
+void ForecastChart::paintMark(QPainter& painter) const
+{
+    if (!m_mark)
+        return;
+    const QPointF at = place(*m_mark);
+    painter.setPen(QPen(m_rule, 1));
+    painter.drawLine(QPointF(at.x(), 0), QPointF(at.x(), height() - kBottom));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_tone);
+    painter.drawEllipse(at, kBottom + 0.5, kBottom + 0.5);
 }
 
 void ForecastChart::paintKnown(QPainter& painter, const ForecastCurve& curve) const

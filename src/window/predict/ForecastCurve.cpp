@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <numeric>
 
 namespace orlen {
@@ -49,6 +50,23 @@ struct Scale {
     }
 };
 
+/// Two to four round amounts: 1, 2 or 5 of some power of ten.
+std::vector<ForecastCurve::Mark> marksUpTo(double bytes)
+{
+    const double power = std::pow(10, std::floor(std::log10(bytes)));
+    double step = power / 2;
+    for (const double times : {5.0, 2.0, 1.0}) {
+        if (2 * times * power <= bytes) {
+            step = times * power;
+            break;
+        }
+    }
+    std::vector<ForecastCurve::Mark> marks;
+    for (double at = step; at <= bytes; at += step)
+        marks.push_back({at / bytes, std::llround(at)});
+    return marks;
+}
+
 /// Time is to scale on both sides of now, so a distant end of the forecast lies beyond the edge.
 double shownDays(double past, double free, double growth)
 {
@@ -74,6 +92,10 @@ ForecastCurve ForecastCurve::of(std::vector<Snapshot> snapshots)
     const Scale scale{days, std::max(1.0, static_cast<double>(roomiest->free)) * kHeadroom};
 
     ForecastCurve curve;
+    curve.start = snapshots.front().date;
+    curve.days = scale.days;
+    curve.bytes = scale.bytes;
+    curve.scale = marksUpTo(scale.bytes);
     for (std::size_t i = 0; i < snapshots.size(); ++i)
         curve.known.push_back(scale.point(used[i].x, static_cast<double>(snapshots[i].free)));
     const double total = static_cast<double>(snapshots.back().total);
@@ -85,6 +107,45 @@ ForecastCurve ForecastCurve::of(std::vector<Snapshot> snapshots)
     const double end = std::min(fullAfter, days - past);
     curve.forecast = Line{scale.point(past, free), scale.point(past + end, free - growth * end)};
     return curve;
+}
+
+TimePoint ForecastCurve::dateAt(double x) const
+{
+    // Far less than the clock can hold, however odd the dates of the snapshots are.
+    constexpr double kMostDays = 50'000;
+    const Days after(std::clamp(x * days, 0.0, kMostDays));
+    return start + std::chrono::duration_cast<TimePoint::duration>(after);
+}
+
+std::int64_t ForecastCurve::bytesAt(double y) const
+{
+    return std::llround(std::clamp(y, 0.0, 1.0) * bytes);
+}
+
+std::optional<ForecastCurve::Point> ForecastCurve::pointAt(double x) const
+{
+    if (known.empty())
+        return std::nullopt;
+    if (forecast && x > known.back().x) {
+        const auto& [from, to] = *forecast;
+        const double part = to.x > from.x ? std::clamp((x - from.x) / (to.x - from.x), 0.0, 1.0) : 0;
+        return Point{std::lerp(from.x, to.x, part), std::lerp(from.y, to.y, part)};
+    }
+    return *std::ranges::min_element(known, {}, [x](const Point& point) { return std::abs(point.x - x); });
+}
+
+std::optional<ForecastCurve::Point> ForecastCurve::pointBeside(double x, int direction) const
+{
+    std::vector<Point> stops = known;
+    if (forecast && !known.empty())
+        stops.push_back(forecast->second);
+    std::optional<Point> beside;
+    for (const Point& stop : stops) {
+        const bool isBeside = direction > 0 ? stop.x > x : stop.x < x;
+        if (isBeside && (!beside || direction < 0))
+            beside = stop;
+    }
+    return beside;
 }
 
 } // namespace orlen

@@ -59,9 +59,11 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: Theme.grown(128)
+        width: Theme.grown(144)
         horizontalAlignment: Text.AlignRight
         text: root.rate
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
         Accessible.ignored: true
     }
 }

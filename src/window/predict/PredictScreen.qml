@@ -19,6 +19,11 @@ ScreenPage {
         prediction: thePrediction
     }
 
+    GrowthCard {
+        width: parent.width
+        onFolderChosen: code => root.view.navigation.showFolder(code)
+    }
+
     HeadlineText {
         width: parent.width
         topPadding: Theme.spaceS

@@ -2,19 +2,24 @@
 
 #include "app/Format.h"
 #include "clean/Persist.h"
+#include "insight/InsightTexts.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace orlen {
 
 namespace {
 
 constexpr double kDaysPerWeek = 7;
+/// A date further away says nothing.
+constexpr double kMostDaysTold = 2 * 365.0;
 /// More than any disk holds, yet far below 64 bits.
 constexpr double kLargestRate = 1e18;
 
@@ -53,6 +58,30 @@ QString PredictionModel::snapshotsText() const
     const auto count = static_cast<std::int64_t>(m_app.storage()->snapshots().size());
     return DisplayText::text(
         Message(WindowTexts::kSnapshots, {{"count", count}, {"folder", Format::shownPath(Persist::dir())}}));
+}
+
+QString PredictionModel::asOf() const
+{
+    if (!m_prediction.enoughData)
+        return {};
+    const TimePoint last = m_app.storage()->snapshots().back().date;
+    std::vector<Message> said{{WindowTexts::kAsOf, {{"date", Moment{last}}}}};
+    if (m_prediction.daysLeft && *m_prediction.daysLeft < kMostDaysTold) {
+        const std::chrono::duration<double, std::chrono::days::period> left(*m_prediction.daysLeft);
+        const TimePoint full = last + std::chrono::duration_cast<std::chrono::hours>(left);
+        said.push_back({InsightTexts::kFullAround, {{"date", Moment{full}}}});
+    }
+    return DisplayText::text(Message::joined(std::move(said), Several::Joint::sentences));
+}
+
+bool PredictionModel::reachesFull() const
+{
+    return m_curve.forecast && !(m_curve.forecast->second.y > 0);
+}
+
+QString PredictionModel::endDate() const
+{
+    return m_curve.forecast ? DisplayText::date(m_curve.dateAt(m_curve.forecast->second.x)) : QString();
 }
 
 QString PredictionModel::firstDate() const

@@ -21,6 +21,11 @@ class PredictionModel : public orlen::RowsModel {
     Q_PROPERTY(bool enoughData READ hasEnoughData NOTIFY changed)
     /// How many snapshots are kept, where, and what they are good for.
     Q_PROPERTY(QString snapshotsText READ snapshotsText NOTIFY changed)
+    /// When its figures are of, and when the disk will be full if that can be told; empty without a forecast.
+    Q_PROPERTY(QString asOf READ asOf NOTIFY changed)
+    /// Where the chart ends: the day the disk is full, if it shows that.
+    Q_PROPERTY(QString endDate READ endDate NOTIFY changed)
+    Q_PROPERTY(bool reachesFull READ reachesFull NOTIFY changed)
     /// Dates of the oldest and newest snapshot, and the free space at the newest; empty without snapshots.
     Q_PROPERTY(QString firstDate READ firstDate NOTIFY changed)
     Q_PROPERTY(QString lastDate READ lastDate NOTIFY changed)
@@ -45,6 +50,9 @@ public:
     [[nodiscard]] bool warns() const { return m_prediction.warn; }
     [[nodiscard]] bool hasEnoughData() const { return m_prediction.enoughData; }
     [[nodiscard]] QString snapshotsText() const;
+    [[nodiscard]] QString asOf() const;
+    [[nodiscard]] QString endDate() const;
+    [[nodiscard]] bool reachesFull() const;
     [[nodiscard]] QString firstDate() const;
     [[nodiscard]] QString lastDate() const;
     [[nodiscard]] QString freeText() const;

@@ -248,6 +248,10 @@ QtObject {
     }
     readonly property string noForecast: Words.message("No forecast yet")
     readonly property string growthLater: Words.message("How fast each kind of data grows appears here with the forecast.")
+    readonly property string whatGrew: Words.message("What grew")
+    readonly property string sinceLastScan: Words.message("Since the last scan")
+    readonly property string inAWeek: Words.message("In a week")
+    readonly property string inAMonth: Words.message("In a month")
     readonly property string growthByCategory: Words.message("Growth by category")
 
     // Disk Map

@@ -1,5 +1,6 @@
 #include "journeys/Stage.h"
 
+#include "clean/Persist.h"
 #include "journeys/FocusShown.h"
 #include "journeys/ShownTexts.h"
 #include "support/TestBmp.h"
@@ -140,6 +141,7 @@ void Stage::prepare(QQmlEngine& engine)
     TempHome::setMode(m_home->file(m_home->outside("bin/xdg-open"), "#!/bin/sh\nexit 3\n"), 0755);
     TempHome::setVariable("PATH", m_home->outside("bin") + ":/usr/bin:/bin");
     TempHome::reloadPlaces();
+    fillPast();
     QSettings().clear();
     AppModel::Options options;
     options.images.program = m_home->outside(kRecognizer);
@@ -180,6 +182,24 @@ void Stage::fillHome() const
     m_home->fileOfSize(m_home->outside("system/var/cache/apt/archives/editor.deb"), 2 * kMegabyte);
     m_home->file(".config/autostart/notes.desktop",
                  "[Desktop Entry]\nType=Application\nName=Quick Notes\nExec=/usr/bin/true --notes\n");
+}
+
+void Stage::fillPast() const
+{
+    constexpr std::int64_t kGigabyte = 1'000'000'000;
+    std::vector<Snapshot> snapshots;
+    std::vector<FolderReading> readings;
+    for (const int hours : {1'000, 200, 30, 2}) {
+        const TimePoint date = std::chrono::system_clock::now() - std::chrono::hours(hours);
+        snapshots.push_back(
+            {date, (100 + hours / 20) * kGigabyte, 500 * kGigabyte, {{"media", 1'000 - hours}}});
+        readings.push_back({date,
+                            kMegabyte,
+                            {{m_home->path(".cache"), hours > 500 ? kMegabyte : kGigabyte},
+                             {m_home->path("Videos"), (1'500 - hours) * kMegabyte}}});
+    }
+    (void)Persist::saveSnapshots(snapshots);
+    (void)Persist::saveFolderReadings(readings);
 }
 
 bool Stage::exists(const QString& name) const

@@ -71,6 +71,8 @@ public:
 
 private:
     void fillHome() const;
+    /// Scans of the past six weeks, the last one two hours ago.
+    void fillPast() const;
     [[nodiscard]] QStringList names() const;
 
     double m_textScale = 1;
