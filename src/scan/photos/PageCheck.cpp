@@ -116,11 +116,11 @@ private:
 Overlaid laidOver(GreyPicture other, const GreyPicture& page)
 {
     constexpr int kReaches[] = {13, 4}; ///< pixels of a tile
-    const BlockSearch search(tileOf(page));
+    const FineSearch search(tileOf(page));
     const std::vector<TilePlace> blocks = search.texturedBlocks();
     Overlaid overlaid(std::move(other));
     for (const int reach : kReaches) {
-        const BlockSearch there(tileOf(overlaid.seen()));
+        const FineSearch there(tileOf(overlaid.seen()));
         std::vector<BlockFind> finds;
         for (const TilePlace block : blocks)
             finds.push_back(search.find(block, there, reach));
