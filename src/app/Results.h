@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Freshness.h"
+#include "app/KeptCopies.h"
 #include "app/ModelPart.h"
 #include "app/NewKeeper.h"
 #include "app/Workers.h"
@@ -114,6 +115,11 @@ public:
     /// one was. Looks at both on a worker first; emits `keeperRefused` if they have changed since the scan.
     /// Ignored for a path that no set lists.
     void keepInstead(const std::string& path);
+    /// Which file of each set of duplicates is kept.
+    [[nodiscard]] const KeepRule& keepRule() const { return m_keepRule; }
+    /// Has the duplicates follow the rule, now and after later scans. Copies in its reference folders are not
+    /// offered while it holds. The findings change once a worker has looked at the files.
+    void setKeepRule(KeepRule rule);
     /// How many of all photos were looked at, now or in earlier scans; changes with `findings`.
     [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
 
@@ -126,6 +132,7 @@ Q_SIGNALS:
     void scanProgressChanged();
     void lastScanChanged();
     void keeperRefused();
+    void keepRuleChanged();
 
 private:
     struct ScanResult;
@@ -137,6 +144,10 @@ private:
     /// Divides what was found into what is offered and what is not, and selects of it what is offered.
     void applyExclusions(std::set<std::string> selection);
     void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
+    void applyKeepRule();
+    /// All copies of the sets of duplicates, whether they are offered or not.
+    [[nodiscard]] std::vector<FileEntry> copies() const;
+    void takeChosen(KeptCopies::Chosen chosen);
     void exchange(const NewKeeper::Exchange& exchange, const FileEntry& former);
 
     Storage& m_storage;
@@ -149,6 +160,9 @@ private:
     std::set<std::string> m_selection;
     std::vector<Finding> m_excluded;           ///< found, but not offered
     std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
+    std::vector<Finding> m_references;         ///< copies in reference folders
+    KeepRule m_keepRule;
+    Latest m_keeping;
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;
     std::shared_ptr<ScanEngine> m_engine;

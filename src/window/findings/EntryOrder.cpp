@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
+#include <utility>
 
 namespace orlen::EntryOrder {
 
@@ -89,6 +91,22 @@ std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Word
         sortByDate(rows, entries, wish.direction);
         break;
     }
+    return rows;
+}
+
+std::vector<int> inSets(std::vector<int> rows, std::span<const FileEntry> entries)
+{
+    std::unordered_map<std::string_view, std::size_t> places;
+    std::vector<std::pair<std::size_t, int>> placed;
+    placed.reserve(rows.size());
+    for (std::size_t at = 0; at < rows.size(); ++at) {
+        const auto& kept = entries[static_cast<std::size_t>(rows[at])].kept;
+        placed.emplace_back(kept ? places.try_emplace(kept->path, at).first->second : at, rows[at]);
+    }
+    if (places.empty())
+        return rows;
+    std::ranges::stable_sort(placed, {}, &std::pair<std::size_t, int>::first);
+    std::ranges::transform(placed, rows.begin(), &std::pair<std::size_t, int>::second);
     return rows;
 }
 

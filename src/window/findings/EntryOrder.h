@@ -36,4 +36,7 @@ struct Wish {
 [[nodiscard]] std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words,
                                     const Wish& wish);
 
+/// The same rows with those of a set together, where the first of them stands.
+[[nodiscard]] std::vector<int> inSets(std::vector<int> rows, std::span<const FileEntry> entries);
+
 } // namespace orlen::EntryOrder

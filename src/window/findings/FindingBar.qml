@@ -7,7 +7,8 @@ Rectangle {
 
     required property EntryListModel entries
     /// Whether one line is too narrow, so that there are two.
-    readonly property bool isTall: all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
+    readonly property bool isTall: rule.visible
+                                   || all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
 
     function clearFilter() {
         filter.clear();
@@ -57,12 +58,31 @@ Rectangle {
         anchors.verticalCenter: all.verticalCenter
         anchors.left: parent.left
         anchors.leftMargin: label.start
-        width: Math.min(implicitWidth, root.width - label.start - 16)
+        width: Math.min(implicitWidth, root.width - label.start - 16 - (rule.visible ? rule.width + 20 : 0))
         text: root.entries.selectedText
         color: Theme.text
         font.weight: Font.DemiBold
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+    }
+
+    ChoiceField {
+        id: rule
+
+        objectName: "keepRule"
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.verticalCenter: all.verticalCenter
+        visible: root.entries.findingId === "duplicates" && root.entries.entryCount > 0
+        label: Strings.whichToKeep
+        model: rules.choices
+        currentIndex: rules.current
+        displayText: rules.currentText
+        onActivated: index => rules.current = index
+
+        KeepRuleModel {
+            id: rules
+        }
     }
 
     Row {

@@ -94,7 +94,8 @@ QVariant PhotoSetsModel::value(std::size_t number, int role) const
     case Role::heading:
         return DisplayText::facts(
             {DisplayText::counted(static_cast<std::int64_t>(set.photos.size()), WindowTexts::kPhotos),
-             set.date ? DisplayText::date(*set.date) : QString()});
+             set.date ? DisplayText::date(*set.date) : QString(),
+             set.photos.front().isKept ? DisplayText::folderOf(set.photos.front().path) : QString()});
     case Role::reason:
         return DisplayText::text(set.reason);
     case Role::photos:

@@ -23,7 +23,7 @@ class PhotoSetsModel : public orlen::RowsModel {
 public:
     enum class Role {
         set = Qt::UserRole, ///< id of the set
-        heading,            ///< number of photos, and when they were taken or changed
+        heading,            ///< number of photos, when they were taken or changed, and the kept one's folder
         reason,             ///< why it is the kept one; empty when none is
         photos,             ///< number of photos, with the kept one
     };

@@ -124,6 +124,11 @@ QtObject {
     readonly property string lookingForAdvice: Words.message("Looking at what other programs keep…")
 
     // Finding, review and clean-up
+    function keptFile(path: string): string {
+        // TRANSLATORS: Above the copies of a file that stays; {path} is where it is.
+        return Words.message("Kept: {path}", { path: path });
+    }
+    readonly property string whichToKeep: Words.message("Which copy to keep")
     readonly property string nothingLeft: Words.message("Nothing left here.")
     readonly property string reviewTitle: Words.message("Review before cleaning")
     function reviewLead(count: int): string {
@@ -170,6 +175,7 @@ QtObject {
         return Words.message("What to do with {name}", { name: name });
     }
     readonly property string tickFolder: Words.message("Select all in this folder")
+    readonly property string keepFolder: Words.message("Keep the copies in this folder")
     readonly property string neverOfferThis: Words.message("Never offer this")
     readonly property string neverOfferFolder: Words.message("Never offer anything in this folder")
     function neverOfferNamed(name: string): string {
