@@ -200,9 +200,9 @@ void EntryListModel::readSelection()
 
 std::vector<int> EntryListModel::wantedRows()
 {
-    if (m_words.empty() && (m_wish.key == EntryOrder::Key::name || !m_wish.filter.isEmpty()))
+    if (m_words.empty() && EntryOrder::needsWords(m_wish))
         m_words = EntryOrder::wordsOf(m_entries);
-    return EntryOrder::inSets(EntryOrder::rows(m_entries, m_words, m_wish), m_entries);
+    return EntryOrder::inSets(EntryOrder::rows(m_entries, m_words, m_wish, m_rating), m_entries);
 }
 
 void EntryListModel::arrange()
@@ -224,11 +224,8 @@ void EntryListModel::setFilter(const QString& filter)
 
 void EntryListModel::sortBy(Key key)
 {
-    const bool isSame = m_wish.key == static_cast<EntryOrder::Key>(key);
     beginResetModel();
-    m_wish.key = static_cast<EntryOrder::Key>(key);
-    m_wish.direction =
-        isSame && !isReversed() ? EntryOrder::Direction::reversed : EntryOrder::Direction::usual;
+    m_wish = EntryOrder::pressed(m_wish, static_cast<EntryOrder::Key>(key));
     arrange();
     endResetModel();
     Remembered::setOrder(m_findingId, m_wish);

@@ -11,8 +11,7 @@ Rectangle {
                                    || all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
 
     function clearFilter() {
-        filter.clear();
-        filter.forceActiveFocus(Qt.OtherFocusReason);
+        tools.clear();
     }
 
     height: (root.isTall ? 2 : 1) * (Theme.controlHeight + 8) + 8
@@ -22,14 +21,14 @@ Rectangle {
         target: root.entries
 
         function onFindingChanged() {
-            filter.clear();
+            tools.forget();
         }
     }
 
     Shortcut {
         sequences: [StandardKey.Find]
         enabled: root.visible
-        onActivated: filter.forceActiveFocus(Qt.ShortcutFocusReason)
+        onActivated: tools.focusField()
     }
 
     CheckMark {
@@ -85,49 +84,19 @@ Rectangle {
         }
     }
 
-    Row {
+    ListTools {
         id: tools
 
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceS
-        spacing: 2
-
-        SearchField {
-            id: filter
-
-            objectName: "entryFilter"
-            width: Theme.widened(170)
-            placeholderText: Strings.filter
-            fill: Theme.card
-            onTextChanged: root.entries.filter = text
-        }
-
-        Item {
-            width: 8
-            height: 1
-        }
-
-        SortButton {
-            text: Strings.bySize
-            active: root.entries.key === EntryListModel.BySize
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.BySize)
-        }
-
-        SortButton {
-            text: Strings.byName
-            active: root.entries.key === EntryListModel.ByName
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.ByName)
-        }
-
-        SortButton {
-            text: Strings.byDate
-            active: root.entries.key === EntryListModel.ByDate
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.ByDate)
-        }
+        fieldName: "entryFilter"
+        // In the order of EntryListModel's keys.
+        orders: [Strings.bySize, Strings.byName, Strings.byDate]
+        current: root.entries.key
+        reversed: root.entries.reversed
+        onTextChanged: root.entries.filter = text
+        onSortRequested: order => root.entries.sortBy(order)
     }
 }

@@ -12,7 +12,7 @@
 
 namespace orlen {
 
-/// The sets of similar photos as rows, the one with the largest photo first. Main thread.
+/// The sets of similar photos as rows, in the order of their first photos. Main thread.
 class PhotoSetsModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -68,6 +68,7 @@ private:
         friend bool operator==(const Set&, const Set&) = default;
     };
 
+    [[nodiscard]] static Set setOf(const KeptSet& kept, const std::vector<FileEntry>& entries);
     void update();
 
     PhotoGroupsModel* m_groups = nullptr;

@@ -146,12 +146,14 @@ QtObject {
     readonly property string nothingSelected: Words.message("Nothing is selected.")
     readonly property string selectAllShown: Words.message("Select all that are shown")
     function sortBy(order: string): string {
-        // TRANSLATORS: {order} is one of the next three, as it stands there.
+        // TRANSLATORS: {order} is one of the next five, as it stands there.
         return Words.message("Sort by {order}", { order: order });
     }
     readonly property string bySize: Words.messageIn("order", "Size")
     readonly property string byName: Words.messageIn("order", "Name")
     readonly property string byDate: Words.messageIn("order", "Date")
+    readonly property string byFolder: Words.messageIn("order", "Folder")
+    readonly property string byRating: Words.messageIn("order", "Rating")
     readonly property string showItems: Words.message("Show items")
     readonly property string hideItems: Words.message("Hide items")
     readonly property string trashKeeps: Words.message("Everything moves to the Trash and can be restored from History.")
