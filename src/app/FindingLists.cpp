@@ -1,6 +1,7 @@
 #include "app/FindingLists.h"
 
 #include "model/PathSelection.h"
+#include "model/Rater.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -50,6 +51,16 @@ bool isIn(const std::set<std::string>& paths, std::string_view path)
             return true;
     }
     return false;
+}
+
+std::vector<Finding> duplicatesOf(std::vector<FileEntry> copies)
+{
+    if (copies.empty())
+        return {};
+    // The entries would be noted on a second time.
+    std::vector<Finding> finding = Rater::rate({Finding(FindingKind::duplicates, {})});
+    finding.front().items = Finding(FindingKind::duplicates, std::move(copies)).items;
+    return finding;
 }
 
 void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)

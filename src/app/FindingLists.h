@@ -19,6 +19,8 @@ namespace orlen::FindingLists {
 [[nodiscard]] std::set<std::string> safePaths(const std::vector<Finding>& findings);
 /// Whether the path, or a folder that it is in, is one of these.
 [[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
+/// The finding of these copies, which are rated already; none without copies.
+[[nodiscard]] std::vector<Finding> duplicatesOf(std::vector<FileEntry> copies);
 /// Puts the entries back among the findings that they were taken from.
 void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken);
 

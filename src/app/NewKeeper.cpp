@@ -24,12 +24,6 @@ Message noteNaming(const FileEntry& chosen)
     return {AppTexts::kYouKeep, {{"name", std::string(PathText::lastComponent(chosen.path))}}};
 }
 
-bool isStill(const std::string& path, const FileStamp& stamp)
-{
-    const auto status = statusOf(path);
-    return status.ok() && FileStamp::of(status.value()) == stamp;
-}
-
 bool isInRepository(const std::string& path)
 {
     for (std::string_view folder = PathText::parent(path); folder.size() > 1;
@@ -45,15 +39,24 @@ bool dependsOn(const FileEntry& entry, const KeptFile& kept)
     return entry.kept && entry.kept->path == kept.path;
 }
 
-/// Whether a note says what the entry is similar to.
+/// Whether a note says what the entry is similar or identical to.
 bool namesKept(const Message& note)
 {
-    if (note.text == AppTexts::kYouKeep || note.text == ScanTexts::kSimilar)
+    if (note.text == AppTexts::kYouKeep || note.text == ScanTexts::kSimilar ||
+        note.text == ScanTexts::kIdentical)
         return true;
     return std::ranges::any_of(note.places, [](const Place& place) {
         const auto* several = std::get_if<Several>(&place.value);
         return several != nullptr && std::ranges::any_of(several->messages, namesKept);
     });
+}
+
+} // namespace
+
+bool isStill(const std::string& path, const FileStamp& stamp)
+{
+    const auto status = statusOf(path);
+    return status.ok() && FileStamp::of(status.value()) == stamp;
 }
 
 void noteChoice(FileEntry& entry, Message note)
@@ -62,7 +65,23 @@ void noteChoice(FileEntry& entry, Message note)
     addNoteBefore(entry, std::move(note));
 }
 
-} // namespace
+std::optional<FileEntry> asEntry(const KeptFile& former, const KeptFile& kept, FindingKind kind, Message note)
+{
+    const auto status = statusOf(former.path);
+    if (!status.ok() || FileStamp::of(status.value()) != former.stamp)
+        return std::nullopt;
+    const Cand cand{.path = former.path,
+                    .size = status.value().allocatedBytes,
+                    .modified = status.value().modified,
+                    .stamp = former.stamp,
+                    .hasOtherNames = status.value().links > 1,
+                    .isInRepository = isInRepository(former.path)};
+    FileEntry entry = toEntryByContent(cand, std::move(note));
+    entry.kept = kept;
+    std::vector<Finding> alone{Finding(kind, {std::move(entry)})};
+    noteOtherDisks(alone);
+    return Rater::rate(std::move(alone)).front().items.front();
+}
 
 std::optional<Exchange> of(const std::vector<Finding>& findings, const std::string& path)
 {
@@ -78,20 +97,9 @@ std::optional<Exchange> of(const std::vector<Finding>& findings, const std::stri
 std::optional<FileEntry> listed(const Exchange& exchange)
 {
     const auto& [chosen, former] = exchange;
-    const auto status = statusOf(former.path);
-    if (!status.ok() || FileStamp::of(status.value()) != former.stamp || !isStill(chosen.path, *chosen.stamp))
+    if (!isStill(chosen.path, *chosen.stamp))
         return std::nullopt;
-    const Cand cand{.path = former.path,
-                    .size = status.value().allocatedBytes,
-                    .modified = status.value().modified,
-                    .stamp = former.stamp,
-                    .hasOtherNames = status.value().links > 1,
-                    .isInRepository = isInRepository(former.path)};
-    FileEntry entry = toEntryByContent(cand, noteNaming(chosen));
-    entry.kept = KeptFile{chosen.path, *chosen.stamp};
-    std::vector<Finding> alone{Finding(kKind, {std::move(entry)})};
-    noteOtherDisks(alone);
-    return Rater::rate(std::move(alone)).front().items.front();
+    return asEntry(former, {chosen.path, *chosen.stamp}, kKind, noteNaming(chosen));
 }
 
 void apply(std::vector<Finding>& findings, const Exchange& exchange, const FileEntry& former)

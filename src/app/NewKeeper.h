@@ -24,6 +24,15 @@ struct Exchange {
 /// scan saw. Blocks on the disk; any thread.
 [[nodiscard]] std::optional<FileEntry> listed(const Exchange& exchange);
 
+/// What a set kept until now, as an entry of a finding of this kind that depends on what it keeps instead.
+/// Nothing if the file is no longer what the scan saw. Blocks on the disk; any thread.
+[[nodiscard]] std::optional<FileEntry> asEntry(const KeptFile& former, const KeptFile& kept, FindingKind kind,
+                                               Message note);
+/// Whether the path still is what this stamp was made of. Blocks on the disk; any thread.
+[[nodiscard]] bool isStill(const std::string& path, const FileStamp& stamp);
+/// Notes what the entry is like now, in the place of what it was like before. Pure.
+void noteChoice(FileEntry& entry, Message note);
+
 /// Puts `former` into the place of the chosen one, and has all entries of the set depend on that. Pure.
 void apply(std::vector<Finding>& findings, const Exchange& exchange, const FileEntry& former);
 

@@ -121,6 +121,7 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_excluded.clear();
     m_moved = {};
     m_trashLook.drop();
+    m_references.clear();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     m_photoCoverage = engine->photoCoverage();
     applyExclusions(FindingLists::safePaths(m_findings));
@@ -132,6 +133,8 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult r
     m_storage.recordSnapshot();
     m_storage.folders().record(std::move(result.folders), *m_lastScan);
     setPhase(Phase::results);
+    if (m_keepRule != KeepRule())
+        applyKeepRule();
 }
 
 std::set<std::string> Results::everythingSelected() const
@@ -325,6 +328,10 @@ void Results::removeFromFindings(const std::set<std::string>& paths)
     std::erase_if(m_excludedSelection, isGone);
     std::set<std::string> selection = m_selection;
     std::erase_if(selection, isGone);
+    for (Finding& finding : m_references)
+        std::erase_if(finding.items,
+                      [&](const FileEntry& entry) { return MovedEntries::isAbout(entry, paths); });
+    std::erase_if(m_references, [](const Finding& finding) { return finding.items.empty(); });
     Q_EMIT findingsChanged();
     setSelection(std::move(selection));
 }
@@ -365,6 +372,64 @@ void Results::updateTrash()
             FindingLists::giveBack(m_findings, std::move(trash));
             applyExclusions(everythingSelected());
         });
+}
+
+void Results::setKeepRule(KeepRule rule)
+{
+    checkThread();
+    if (m_keepRule == rule)
+        return;
+    m_keepRule = std::move(rule);
+    Q_EMIT keepRuleChanged();
+    applyKeepRule();
+}
+
+std::vector<FileEntry> Results::copies() const
+{
+    std::vector<FileEntry> copies;
+    for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references}) {
+        const auto found = std::ranges::find(*findings, FindingKind::duplicates, &Finding::kind);
+        if (found != findings->end())
+            std::ranges::copy(found->items, std::back_inserter(copies));
+    }
+    return copies;
+}
+
+void Results::applyKeepRule()
+{
+    std::vector<FileEntry> before = copies();
+    if (before.empty())
+        return;
+    m_workers.start(
+        m_keeping,
+        [rule = m_keepRule, before](const std::stop_token& stop) {
+            return KeptCopies::by(rule, before, stop);
+        },
+        [this, before](std::optional<KeptCopies::Chosen> chosen) {
+            // Meanwhile some may have been moved, or found anew.
+            if (before != copies())
+                applyKeepRule();
+            else if (chosen)
+                takeChosen(std::move(*chosen));
+        });
+}
+
+void Results::takeChosen(KeptCopies::Chosen chosen)
+{
+    const auto isDuplicates = [](const Finding& finding) { return finding.kind == FindingKind::duplicates; };
+    std::vector<Finding> offered = FindingLists::duplicatesOf(std::move(chosen.copies));
+    for (std::vector<Finding>* findings : {&m_findings, &m_excluded})
+        std::erase_if(*findings, isDuplicates);
+    std::ranges::move(offered, std::back_inserter(m_findings));
+    std::set<std::string> selection = everythingSelected();
+    for (const KeptCopies::Chosen::Change& change : chosen.changes) {
+        if (selection.erase(change.kept) > 0 && !change.isTickedAlone)
+            selection.insert(change.former);
+    }
+    for (const FileEntry& reference : chosen.references)
+        selection.erase(reference.path);
+    m_references = FindingLists::duplicatesOf(std::move(chosen.references));
+    applyExclusions(std::move(selection));
 }
 
 void Results::keepInstead(const std::string& path)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Freshness.h"
+#include "app/KeptCopies.h"
 #include "app/ModelPart.h"
 #include "app/MovedEntries.h"
 #include "app/NewKeeper.h"
@@ -122,6 +123,11 @@ public:
     /// one was. Looks at both on a worker first; emits `keeperRefused` if they have changed since the scan.
     /// Ignored for a path that no set lists.
     void keepInstead(const std::string& path);
+    /// Which file of each set of duplicates is kept.
+    [[nodiscard]] const KeepRule& keepRule() const { return m_keepRule; }
+    /// Has the duplicates follow the rule, now and after later scans. Copies in its reference folders are not
+    /// offered while it holds. The findings change once a worker has looked at the files.
+    void setKeepRule(KeepRule rule);
     /// How many of all photos were looked at, now or in earlier scans; changes with `findings`.
     [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
 
@@ -134,6 +140,7 @@ Q_SIGNALS:
     void scanProgressChanged();
     void lastScanChanged();
     void keeperRefused();
+    void keepRuleChanged();
 
 private:
     struct ScanResult;
@@ -147,6 +154,10 @@ private:
     /// The selection of what is offered and of what is not.
     [[nodiscard]] std::set<std::string> everythingSelected() const;
     void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
+    void applyKeepRule();
+    /// All copies of the sets of duplicates, whether they are offered or not.
+    [[nodiscard]] std::vector<FileEntry> copies() const;
+    void takeChosen(KeptCopies::Chosen chosen);
     void exchange(const NewKeeper::Exchange& exchange, const FileEntry& former);
 
     Storage& m_storage;
@@ -161,6 +172,9 @@ private:
     std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
     MovedEntries m_moved;                      ///< since the last scan
     Latest m_trashLook;
+    std::vector<Finding> m_references;         ///< copies in reference folders
+    KeepRule m_keepRule;
+    Latest m_keeping;
     double m_largeThresholdMB = 500;
     bool m_isFdaGranted = false;
     std::shared_ptr<ScanEngine> m_engine;

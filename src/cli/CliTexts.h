@@ -90,6 +90,9 @@ inline constexpr Text kQuestionHelp = message("The question, in quotation marks"
 inline constexpr Text kQuestionsToBegin = message("Questions to begin with:");
 inline constexpr Text kDuplicateFoldersHelp =
     message("Folders to look into; the home folder when there are none");
+inline constexpr Text kKeepHelp = message("Which file of each set is kept");
+inline constexpr Text kReferenceHelp =
+    message("A folder whose files are kept and never listed as copies (repeatable)");
 inline constexpr Text kPhotoFoldersHelp =
     message("Folders to look into; the image folders of the home folder when there are none");
 inline constexpr Text kMapFolderHelp = message("Folder to show; the home folder when there is none");
@@ -108,6 +111,8 @@ inline constexpr Text kNoSuchWord = message("there is no command or option {word
 inline constexpr Text kTryHelp = message("Try `orlen --help`.");
 // TRANSLATORS: follows the name of an option and a colon.
 inline constexpr Text kNoMegabytes = message("must be a number of megabytes from 0 on");
+// TRANSLATORS: follows the name of an option and a colon; the three words stay as they are.
+inline constexpr Text kNoOrder = message("must be newest, oldest or shortest");
 // TRANSLATORS: follows the name of an option and a colon.
 inline constexpr Text kNoKind = message("there is no kind {word}");
 inline constexpr Text kNoDate = message("{word} is no day, such as 2025-03-01.");

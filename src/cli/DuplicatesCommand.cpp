@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 namespace orlen {
 
@@ -18,6 +19,9 @@ namespace {
 
 using Seconds = std::chrono::duration<double>;
 
+const std::map<std::string, KeepRule::Order> kOrders{{"newest", KeepRule::Order::newest},
+                                                     {"oldest", KeepRule::Order::oldest},
+                                                     {"shortest", KeepRule::Order::shortest}};
 constexpr std::int64_t kSmallestCandidate = 1'000'000;
 
 /// Larger images are already among the candidates.
@@ -85,13 +89,38 @@ public:
     {
     }
 
+    void addOptions(CLI::App& app) override
+    {
+        FolderCommand::addOptions(app);
+        app.add_option("--keep", m_keep, shown(CliTexts::kKeepHelp))
+            ->type_name("newest|oldest|shortest")
+            ->check([](const std::string& word) {
+                return kOrders.contains(word) ? std::string() : shown(CliTexts::kNoOrder);
+            });
+        app.add_option("--reference", m_references, shown(CliTexts::kReferenceHelp))->type_name("DIR");
+    }
+
 private:
+    [[nodiscard]] bool takeOptions(Session& session, std::vector<std::string>& folders) override
+    {
+        auto references = FolderSearch::checked(session, m_references);
+        if (!references)
+            return false;
+        m_rule.references = std::move(*references);
+        if (!m_keep.empty())
+            m_rule.order = kOrders.at(m_keep);
+        // Without folders the whole home folder is looked into.
+        if (!folders.empty())
+            folders.insert(folders.end(), m_rule.references.begin(), m_rule.references.end());
+        return true;
+    }
+
     [[nodiscard]] Search search(const std::vector<std::string>& folders, const Exclusions& exclusions,
                                 ScanProgress& progress, const std::stop_token& stop) override
     {
         const auto started = std::chrono::steady_clock::now();
         const Walk::Found found = FolderSearch::walked(folders, progress, stop);
-        Search search{Duplicates::find(input(found), stop)};
+        Search search{Duplicates::find(input(found), stop, m_rule)};
         dropCopies(search.result, exclusions);
         search.duration = std::chrono::steady_clock::now() - started;
         return search;
@@ -103,6 +132,10 @@ private:
     }
 
     void print(const Search& found) const override { printSets(found, rated(found.result)); }
+
+    std::string m_keep;
+    std::vector<std::string> m_references;
+    KeepRule m_rule;
 };
 
 } // namespace

@@ -51,8 +51,8 @@ public:
     [[nodiscard]] ExitStatus run(Session& session) override
     {
         Safety::refresh();
-        const auto folders = FolderSearch::checked(session, m_arguments);
-        if (!folders)
+        auto folders = FolderSearch::checked(session, m_arguments);
+        if (!folders || !takeOptions(session, *folders))
             return ExitStatus::wrongCall;
         const Exclusions exclusions = SavedExclusions::load(session);
         ScanProgress progress;
@@ -69,6 +69,12 @@ public:
     }
 
 private:
+    /// Checks the further options, and adds folders to look into unless there are none. False after a
+    /// complaint.
+    [[nodiscard]] virtual bool takeOptions(Session& /*session*/, std::vector<std::string>& /*folders*/)
+    {
+        return true;
+    }
     /// Runs on a worker. What is excluded is not among what is found.
     [[nodiscard]] virtual Found search(const std::vector<std::string>& folders, const Exclusions& exclusions,
                                        ScanProgress& progress, const std::stop_token& stop) = 0;

@@ -3,6 +3,7 @@
 #include "app/AppModel.h"
 #include "clean/ExclusionJson.h"
 #include "clean/RecordJson.h"
+#include "model/KeptSets.h"
 #include "scan/ScanProgress.h"
 
 #include <cmath>
@@ -97,6 +98,41 @@ Json finding(const Finding& finding)
     };
 }
 
+/// Of one finding: identical files as copies, similar photos with what tells them from the kept one.
+Json setsOf(const Finding& finding)
+{
+    Json sets = Json::array();
+    for (const KeptSet& set : keptSets(finding.items)) {
+        if (set.kept.empty())
+            continue;
+        Json members = Json::array();
+        for (const std::size_t number : set.entries) {
+            const FileEntry& entry = finding.items[number];
+            if (finding.kind == FindingKind::duplicates)
+                members.push_back(entry.path);
+            else
+                members.push_back({{"path", entry.path}, {"why", noteOf(entry).base()}});
+        }
+        const char* name = finding.kind == FindingKind::duplicates ? "copies" : "members";
+        sets.push_back({{"kept", set.kept}, {name, std::move(members)}});
+    }
+    return sets;
+}
+
+/// Of all findings, each with the kind of its finding.
+Json sets(const std::vector<Finding>& findings)
+{
+    Json all = Json::array();
+    for (const Finding& finding : findings) {
+        for (Json& set : setsOf(finding)) {
+            Json of = {{"kind", orlen::rawValue(finding.kind)}};
+            of.update(set);
+            all.push_back(std::move(of));
+        }
+    }
+    return all;
+}
+
 Json plan(const CleanPlan& plan)
 {
     const auto encodeSection = [](const PlanSection& section) -> Json {
@@ -125,6 +161,7 @@ Json scan(const AppModel& model, Seconds duration)
 {
     return {
         {"findings", array(model.results()->findings(), finding)},
+        {"sets", sets(model.results()->findings())},
         {"unreadable", Json(model.results()->unreadableFolders().paths)},
         {"selection", Json(model.results()->selection())},
         {"totalFound", model.results()->totalFound()},
@@ -220,7 +257,8 @@ Json duplicates(const Finding& found, const Duplicates::Result& result, Seconds 
     };
 }
 
-Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos, Seconds duration)
+Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos,
+            const PhotoCoverage& coverage, Seconds duration)
 {
     const auto encodeLabel = [](const ImageLabel& label) -> Json {
         return {{"label", label.identifier}, {"confidence", shortened(label.confidence)}};
@@ -232,9 +270,14 @@ Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& 
                 {"sharpness", photo.sharpness},
                 {"labels", array(photo.labels, encodeLabel)}};
     };
-    return {{"findings", array(findings, finding)},
-            {"photos", array(photos, encodePhoto)},
-            {"seconds", rounded(duration)}};
+    Json similar = Json::array();
+    for (const Finding& finding : findings) {
+        for (Json& set : setsOf(finding))
+            similar.push_back(std::move(set));
+    }
+    return {{"findings", array(findings, finding)}, {"sets", std::move(similar)},
+            {"looked", coverage.lookedAt},          {"total", coverage.all},
+            {"photos", array(photos, encodePhoto)}, {"seconds", rounded(duration)}};
 }
 
 Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration)

@@ -48,7 +48,7 @@ using Seconds = std::chrono::duration<double>;
 [[nodiscard]] Json growth(const std::optional<Growth>& growth);
 [[nodiscard]] Json duplicates(const Finding& finding, const Duplicates::Result& result, Seconds duration);
 [[nodiscard]] Json photos(const std::vector<Finding>& findings, const std::vector<PhotoInfo>& photos,
-                          Seconds duration);
+                          const PhotoCoverage& coverage, Seconds duration);
 [[nodiscard]] Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds duration);
 [[nodiscard]] Json explanation(const Explanation& explanation);
 [[nodiscard]] Json exclusions(const std::vector<Exclusion>& exclusions);

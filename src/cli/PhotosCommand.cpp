@@ -26,6 +26,7 @@ using Seconds = std::chrono::duration<double>;
 
 struct PhotoSearch {
     std::vector<PhotoInfo> photos;
+    PhotoCoverage coverage;
     std::vector<Finding> findings; ///< all five, rated as in a scan
     Seconds duration{0};
 };
@@ -83,7 +84,8 @@ private:
         const PhotoAnalyzer analyzer(
             progress, flag, [&](const std::string& path) { return workers.analyze(path, flag.token()); },
             &memory);
-        PhotoSearch search{analyzer.analyze(found.images).photos};
+        auto [photos, coverage] = analyzer.analyze(found.images);
+        PhotoSearch search{std::move(photos), coverage};
         if (!stop.stop_requested()) {
             auto findings =
                 PhotoAnalyzer::findings(search.photos, stop, PageGroups::lookingThrough(workers, stop));
@@ -95,7 +97,7 @@ private:
 
     [[nodiscard]] JsonDocuments::Json document(const PhotoSearch& found) const override
     {
-        return JsonDocuments::photos(found.findings, found.photos, found.duration);
+        return JsonDocuments::photos(found.findings, found.photos, found.coverage, found.duration);
     }
 
     void print(const PhotoSearch& found) const override { printFindings(found); }

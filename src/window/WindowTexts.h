@@ -63,6 +63,13 @@ inline constexpr Text kLeftUnticked = messages(
     "{count} item stays unticked: it is rated Keep or part of a repository. Tick it by itself.",
     "{count} items stay unticked: they are rated Keep or part of a repository. Tick them one by one.");
 
+// Which file of each set of duplicates is kept: short, in a drop-down field.
+inline constexpr Text kKeepUsual = message("Keep as proposed");
+inline constexpr Text kKeepNewest = message("Keep the newest");
+inline constexpr Text kKeepOldest = message("Keep the oldest");
+inline constexpr Text kKeepShortest = message("Keep the shortest path");
+inline constexpr Text kKeepIn = message("Keep those in {folder}");
+
 // The age of the results
 inline constexpr Text kScannedNow = message("Scanned just now");
 inline constexpr Text kScannedMinutes = messages("Scanned {count} minute ago", "Scanned {count} minutes ago");

@@ -128,8 +128,8 @@ TEST(CommandLineTest, theDocumentOfAScanHoldsItsResults)
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     const Json scan = outcome.document();
     EXPECT_THAT(keys(scan),
-                ElementsAre("findings", "unreadable", "selection", "totalFound", "safeBytes", "breakdown",
-                            "filesExamined", "steps", "fullDiskAccess", "date", "seconds"));
+                ElementsAre("findings", "sets", "unreadable", "selection", "totalFound", "safeBytes",
+                            "breakdown", "filesExamined", "steps", "fullDiskAccess", "date", "seconds"));
     EXPECT_EQ(scan["unreadable"], Json::array());
     EXPECT_THAT(keys(scan["findings"][0]),
                 ElementsAre("kind", "title", "explanation", "symbol", "category", "rating", "reason",
@@ -353,6 +353,34 @@ TEST(CommandLineTest, duplicatesAreSoughtInTheFoldersGiven)
     ASSERT_EQ(pictures["sets"].size(), 1U);
     EXPECT_EQ(pictures["sets"][0]["kept"], home.path("Pictures/small.png"));
     EXPECT_EQ(orlen({"duplicates", "--json", home.path("Empty")}).document()["sets"].size(), 0U);
+}
+
+TEST(CommandLineTest, aRuleSaysWhichOfTheDuplicatesIsKept)
+{
+    const TempHome home;
+    const TimePoint now = std::chrono::system_clock::now();
+    const std::string oldest = home.fileOfSize("Pictures/by year/oldest.bin", 2'000'000, 9);
+    const std::string newest = home.fileOfSize("Pictures/this/newest.bin", 2'000'000, 9);
+    const std::string brief = home.fileOfSize("Pictures/a/b.bin", 2'000'000, 9);
+    TempHome::setTimes(oldest, now - std::chrono::hours(72), now - std::chrono::hours(72));
+    TempHome::setTimes(brief, now - std::chrono::hours(48), now - std::chrono::hours(48));
+    const auto sets = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"duplicates", "--json", home.path("Pictures")});
+        return orlen(std::move(options)).document()["sets"];
+    };
+    EXPECT_EQ(sets({"--keep", "newest"})[0]["kept"], newest);
+    EXPECT_EQ(sets({"--keep", "oldest"})[0]["kept"], oldest);
+    EXPECT_EQ(sets({"--keep", "shortest"})[0]["kept"], brief);
+    const Json set = sets({"--keep", "newest", "--reference", home.path("Pictures/by year")})[0];
+    EXPECT_EQ(set["kept"], oldest);
+    EXPECT_EQ(set["copies"].size(), 2U);
+    EXPECT_TRUE(sets({"--reference", home.path("Pictures")}).empty()) << "none may go";
+    const Json two = sets({"--keep", "oldest", "--reference", home.path("Pictures/this"), "--reference",
+                           home.path("Pictures/a")})[0];
+    EXPECT_EQ(two["kept"], brief);
+    EXPECT_EQ(two["copies"], Json({oldest}));
+    EXPECT_EQ(orlen({"duplicates", "--keep", "largest"}).status, 2);
+    EXPECT_EQ(orlen({"duplicates", "--reference", home.path("Nowhere")}).status, 2);
 }
 
 TEST(CommandLineTest, breakdownAndForecastAreDocuments)

@@ -50,6 +50,13 @@ TEST(PhotosCommandTest, theFindingsAndThePhotosComeAsOneDocument)
     EXPECT_EQ(alike[0]["note"], "Similar to a.bmp — keeping the sharpest · Identical picture");
     EXPECT_EQ(document["findings"][1]["items"][0]["path"], home.path("Pictures/Screenshot.bmp"));
 
+    ASSERT_EQ(document["sets"].size(), 1U);
+    EXPECT_EQ(document["sets"][0]["kept"], home.path("Pictures/a.bmp"));
+    EXPECT_EQ(document["sets"][0]["members"],
+              Json({{{"path", alike[0]["path"]}, {"why", alike[0]["note"]}}}));
+    EXPECT_EQ(document["looked"], 4);
+    EXPECT_EQ(document["total"], 4);
+
     ASSERT_EQ(document["photos"].size(), 3U) << "without what is no picture, nor what lies elsewhere";
     const Json& first = document["photos"][0];
     EXPECT_EQ(first["path"], home.path("Pictures/Screenshot.bmp"));

@@ -9,6 +9,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
+#include <QSettings>
 #include <QSignalSpy>
 
 namespace orlen {
@@ -27,6 +28,7 @@ class EntryListModelTest : public testing::Test {
 protected:
     EntryListModelTest() : m_app(kCommand)
     {
+        QSettings().clear();
         m_home.fileOfSize(".cache/zig", 400 * 1024);
         m_home.fileOfSize(".cache/babl/pages", 300 * 1024);
         m_home.fileOfSize(".cache/spotify", 200 * 1024);
@@ -86,6 +88,14 @@ TEST_F(EntryListModelTest, sortsAndTurnsRound)
     EXPECT_EQ(names().first(), "zig");
     m_list.sortBy(EntryListModel::ByDate);
     EXPECT_LT(names().indexOf("GIMP"), names().indexOf("zig"));
+    m_list.sortBy(EntryListModel::ByName);
+    m_list.sortBy(EntryListModel::ByName);
+    EntryListModel later(m_app);
+    later.setFindingId("caches");
+    EXPECT_EQ(later.key(), EntryListModel::ByName);
+    EXPECT_TRUE(later.isReversed()) << "the order is remembered";
+    later.setFindingId("npm");
+    EXPECT_EQ(later.key(), EntryListModel::BySize) << "for each finding by itself";
 }
 
 TEST_F(EntryListModelTest, filtersAndSelectsOnlyWhatIsShown)

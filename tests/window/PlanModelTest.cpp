@@ -4,10 +4,12 @@
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
 #include "window/cleaning/CleaningModel.h"
+#include "window/lists/Remembered.h"
 
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
+#include <QSettings>
 #include <QSignalSpy>
 
 namespace orlen {
@@ -191,6 +193,36 @@ TEST_F(PlanModelTest, asksNothingOfAProgramThatOnlyReads)
     plan.confirm();
     EXPECT_FALSE(reader.cleanUps()->cleaning());
     EXPECT_TRUE(WindowState::of(reader).sheet());
+}
+
+TEST_F(PlanModelTest, filtersAndSortsWithinTheSections)
+{
+    QSettings().clear();
+    m_plan.sortBy(static_cast<int>(EntryOrder::Key::name));
+    m_plan.sortBy(static_cast<int>(EntryOrder::Key::name));
+    EXPECT_EQ(names(), QStringList({"App caches", "b", "a", "Viewer", "c"}));
+    EXPECT_TRUE(Remembered::order("review").direction == EntryOrder::Direction::reversed);
+    m_plan.setFilter("viewer");
+    EXPECT_EQ(names(), QStringList({"Viewer", "c"})) << "the title of a section counts for its entries";
+    EXPECT_EQ(m_plan.entryCount(), 3);
+    m_plan.setFilter("nothing like it");
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(PlanModelTest, tickingASectionTouchesOnlyWhatMatchesTheFilter)
+{
+    QSettings().clear();
+    m_plan.setFilter("b");
+    ASSERT_EQ(names(), QStringList({"App caches", "b"}));
+    m_plan.toggle(0);
+    EXPECT_EQ(m_plan.checkedCount(), 2);
+    m_plan.setFilter("");
+    EXPECT_EQ(marks(), QStringList({"1", "2", "0", "2", "2"}));
+    m_plan.setFilter("b");
+    m_plan.checkAll();
+    EXPECT_EQ(m_plan.checkedCount(), 3);
+    m_plan.uncheckAll();
+    EXPECT_EQ(m_plan.checkedCount(), 2);
 }
 
 } // namespace orlen

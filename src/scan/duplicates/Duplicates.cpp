@@ -102,8 +102,8 @@ Cand asCompared(const Suspect& suspect)
 
 class Search {
 public:
-    Search(const std::vector<Cand>& cands, const std::stop_token& stop)
-        : m_stop(stop), m_threads(stop), m_prefers(Places::current()), m_suspects(differentPaths(cands))
+    Search(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule)
+        : m_stop(stop), m_threads(stop), m_prefers(Places::current(), rule), m_suspects(differentPaths(cands))
     {
     }
 
@@ -183,9 +183,12 @@ private:
         std::ranges::sort(members,
                           [&](const Suspect& a, const Suspect& b) { return m_prefers(*a.cand, *b.cand); });
         Set set{.kept = asCompared(members.front()), .copies = {}};
-        for (const Suspect& member : std::span(members).subspan(1))
-            set.copies.push_back({.file = asCompared(member)});
-        m_sets.push_back(std::move(set));
+        for (const Suspect& member : std::span(members).subspan(1)) {
+            if (!m_prefers.isReference(member.cand->path))
+                set.copies.push_back({.file = asCompared(member)});
+        }
+        if (!set.copies.empty())
+            m_sets.push_back(std::move(set));
     }
 
     void noteSharedData()
@@ -204,16 +207,19 @@ private:
     std::vector<Set> m_sets;
 };
 
-Message noteNaming(const Cand& kept)
-{
-    return {ScanTexts::kIdentical, {{"name", std::string(PathText::lastComponent(kept.path))}}};
-}
-
 } // namespace
 
-Result find(const std::vector<Cand>& cands, const std::stop_token& stop)
+Result find(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule)
 {
-    return Search(cands, stop).run();
+    return Search(cands, stop, rule).run();
+}
+
+Message note(const std::string& kept, bool sharesData)
+{
+    Message note{ScanTexts::kIdentical, {{"name", std::string(PathText::lastComponent(kept))}}};
+    if (!sharesData)
+        return note;
+    return Message::joined({std::move(note), ScanTexts::kSharesData}, Several::Joint::facts);
 }
 
 Finding finding(const Result& result)
@@ -221,10 +227,8 @@ Finding finding(const Result& result)
     std::vector<FileEntry> entries;
     for (const Set& set : result.sets) {
         for (const Copy& copy : set.copies) {
-            Message note = noteNaming(set.kept);
-            if (copy.sharesData)
-                note = Message::joined({std::move(note), ScanTexts::kSharesData}, Several::Joint::facts);
-            FileEntry& entry = entries.emplace_back(toEntryByContent(copy.file, std::move(note)));
+            FileEntry& entry =
+                entries.emplace_back(toEntryByContent(copy.file, note(set.kept.path, copy.sharesData)));
             entry.kept = toKept(set.kept);
         }
     }

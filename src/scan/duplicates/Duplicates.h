@@ -2,9 +2,11 @@
 
 #include "model/Finding.h"
 #include "scan/Cand.h"
+#include "scan/duplicates/KeepRule.h"
 
 #include <cstdint>
 #include <stop_token>
+#include <string>
 #include <vector>
 
 namespace orlen {
@@ -34,7 +36,12 @@ struct Result {
 };
 
 /// Compares sizes, then head and tail, then whole contents. A file is opened only if another has its size.
-[[nodiscard]] Result find(const std::vector<Cand>& cands, const std::stop_token& stop);
+/// The rule says which of each set is kept; sets of which no copy may go are left out.
+[[nodiscard]] Result find(const std::vector<Cand>& cands, const std::stop_token& stop,
+                          const KeepRule& rule = {});
+
+/// What is noted on a copy of the file at this path.
+[[nodiscard]] Message note(const std::string& kept, bool sharesData);
 
 /// The `duplicates` finding: every copy except the kept one, which its note names.
 [[nodiscard]] Finding finding(const Result& result);

@@ -1,8 +1,10 @@
 #include "scan/duplicates/KeepOrder.h"
 
 #include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orlen {
 
@@ -17,7 +19,8 @@ std::ptrdiff_t characters(const std::string& text)
 
 } // namespace
 
-KeepOrder::KeepOrder(const Places& places) : m_downloads{places.home + "/Downloads/"}
+KeepOrder::KeepOrder(const Places& places, KeepRule rule)
+    : m_rule(std::move(rule)), m_downloads{places.home + "/Downloads/"}
 {
     if (!places.downloads.empty())
         m_downloads.push_back(places.downloads + "/");
@@ -29,8 +32,22 @@ bool KeepOrder::isDownload(const std::string& path) const
                                [&](const std::string& folder) { return path.starts_with(folder); });
 }
 
+bool KeepOrder::isReference(const std::string& path) const
+{
+    return std::ranges::any_of(
+        m_rule.references, [&](const std::string& folder) { return PathText::isAtOrBelow(path, folder); });
+}
+
 bool KeepOrder::operator()(const Cand& a, const Cand& b) const
 {
+    if (const bool isReferenceA = isReference(a.path); isReferenceA != isReference(b.path))
+        return isReferenceA;
+    if (m_rule.order == KeepRule::Order::newest && a.modified != b.modified)
+        return a.modified > b.modified;
+    if (m_rule.order == KeepRule::Order::oldest && a.modified != b.modified)
+        return a.modified < b.modified;
+    if (m_rule.order == KeepRule::Order::shortest && characters(a.path) != characters(b.path))
+        return characters(a.path) < characters(b.path);
     if (const bool isDownloadA = isDownload(a.path); isDownloadA != isDownload(b.path))
         return !isDownloadA;
     const auto lengthA = characters(a.path);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scan/Cand.h"
+#include "scan/duplicates/KeepRule.h"
 
 #include <string>
 #include <vector>
@@ -9,18 +10,22 @@ namespace orlen {
 
 struct Places;
 
-/// Which of several identical files to keep: preferably one outside the Downloads folders, then the shorter
-/// path in characters, then the earlier modification, then by the path's bytes, so that there are no ties.
+/// Which of several identical files to keep: first by the rule, then preferably one outside the Downloads
+/// folders, then the shorter path in characters, then the earlier modification, then by the path's bytes, so
+/// that there are no ties.
 class KeepOrder {
 public:
-    explicit KeepOrder(const Places& places);
+    explicit KeepOrder(const Places& places, KeepRule rule = {});
 
     /// Whether to keep `a` rather than `b`.
     [[nodiscard]] bool operator()(const Cand& a, const Cand& b) const;
+    /// Whether the path is in one of the rule's reference folders.
+    [[nodiscard]] bool isReference(const std::string& path) const;
 
 private:
     [[nodiscard]] bool isDownload(const std::string& path) const;
 
+    KeepRule m_rule;
     std::vector<std::string> m_downloads; ///< folders with a trailing slash
 };
 

@@ -6,6 +6,7 @@
 #include "window/lists/FileSymbol.h"
 #include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
+#include "window/lists/Remembered.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
@@ -58,7 +59,7 @@ void EntryListModel::setFindingId(const QString& id)
     if (m_findingId == id)
         return;
     m_findingId = id;
-    m_wish = {};
+    m_wish = Remembered::order(id);
     Q_EMIT orderChanged();
     load();
 }
@@ -199,9 +200,9 @@ void EntryListModel::readSelection()
 
 std::vector<int> EntryListModel::wantedRows()
 {
-    if (m_words.empty() && (m_wish.key == EntryOrder::Key::name || !m_wish.filter.isEmpty()))
+    if (m_words.empty() && EntryOrder::needsWords(m_wish))
         m_words = EntryOrder::wordsOf(m_entries);
-    return EntryOrder::rows(m_entries, m_words, m_wish);
+    return EntryOrder::inSets(EntryOrder::rows(m_entries, m_words, m_wish, m_rating), m_entries);
 }
 
 void EntryListModel::arrange()
@@ -223,13 +224,11 @@ void EntryListModel::setFilter(const QString& filter)
 
 void EntryListModel::sortBy(Key key)
 {
-    const bool isSame = m_wish.key == static_cast<EntryOrder::Key>(key);
     beginResetModel();
-    m_wish.key = static_cast<EntryOrder::Key>(key);
-    m_wish.direction =
-        isSame && !isReversed() ? EntryOrder::Direction::reversed : EntryOrder::Direction::usual;
+    m_wish = EntryOrder::pressed(m_wish, static_cast<EntryOrder::Key>(key));
     arrange();
     endResetModel();
+    Remembered::setOrder(m_findingId, m_wish);
     Q_EMIT orderChanged();
 }
 
@@ -295,8 +294,10 @@ std::optional<RowSubject> EntryListModel::subject(int row) const
 {
     if (!hasRow(row))
         return std::nullopt;
-    return RowSubject{
-        .path = entryAt(row).path, .isOffered = m_header.isCleanable, .isTickable = m_header.isCleanable};
+    return RowSubject{.path = entryAt(row).path,
+                      .isOffered = m_header.isCleanable,
+                      .isTickable = m_header.isCleanable,
+                      .isCopy = m_findingId == DisplayText::text(rawValue(FindingKind::duplicates))};
 }
 
 void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
@@ -325,6 +326,8 @@ void EntryListModel::count()
 {
     std::vector<const FileEntry*> selected;
     m_hasNotes = false;
+    m_isInSets =
+        std::ranges::any_of(m_entries, [](const FileEntry& entry) { return entry.kept.has_value(); });
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         m_hasNotes = m_hasNotes || !m_entries[i].notes.empty();
         if (m_isSelected[i])
@@ -375,6 +378,8 @@ QVariant EntryListModel::value(std::size_t number, int role) const
         return m_folders->isFolder(entry.path) ? QString() : Thumbnails::source(entry.path);
     case Role::marked:
         return static_cast<bool>(m_isSelected[entryIndex(row)]);
+    case Role::kept:
+        return entry.kept ? DisplayText::shortPath(entry.kept->path) : QString();
     }
     return {};
 }

@@ -16,8 +16,9 @@
 namespace orlen {
 
 /// The entries of one finding as rows, sorted, filtered and checked as the user wants, with the finding's
-/// texts and the totals of its selection. Follows the results: moved entries leave the list, and when the
-/// finding is gone its texts stay above an empty list. Main thread.
+/// texts and the totals of its selection. Copies and similar photos stand set by set. The order is
+/// remembered. Follows the results: moved entries leave the list, and when the finding is gone its texts stay
+/// above an empty list. Main thread.
 class EntryListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -27,6 +28,8 @@ class EntryListModel : public orlen::RowsModel {
     Q_PROPERTY(orlen::FindingHeader header READ header NOTIFY findingChanged)
     /// Whether any entry has a note.
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY figuresChanged)
+    /// Whether the entries stand set by set, each with the file that it keeps.
+    Q_PROPERTY(bool inSets READ isInSets NOTIFY figuresChanged)
     Q_PROPERTY(Key key READ key NOTIFY orderChanged)
     Q_PROPERTY(bool reversed READ isReversed NOTIFY orderChanged)
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY orderChanged)
@@ -56,6 +59,7 @@ public:
         symbol,              ///< icon of the file
         thumbnail,           ///< image source; empty unless it is a picture
         marked,              ///< whether it is selected
+        kept,                ///< path of the file that its set keeps; empty without one
     };
     Q_ENUM(Role)
 
@@ -65,6 +69,7 @@ public:
     void setFindingId(const QString& id);
     [[nodiscard]] const FindingHeader& header() const { return m_header; }
     [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
+    [[nodiscard]] bool isInSets() const { return m_isInSets; }
     [[nodiscard]] Key key() const { return static_cast<Key>(m_wish.key); }
     [[nodiscard]] bool isReversed() const { return m_wish.direction == EntryOrder::Direction::reversed; }
     [[nodiscard]] QString filter() const { return m_wish.filter; }
@@ -134,6 +139,7 @@ private:
     int m_shownCount = 0; ///< number of selected rows
     std::int64_t m_selectedBytes = 0;
     bool m_hasNotes = false;
+    bool m_isInSets = false;
     bool m_isSelecting = false; ///< while this model changes the selection itself
     FolderLookup* m_folders;
 };

@@ -6,12 +6,15 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
+#include <utility>
 
 namespace orlen::EntryOrder {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> kRawKeys{"size", "name", "date"}; // in the order of the enum
+constexpr std::array<std::string_view, 5> kRawKeys{"size", "name", "date", "folder",
+                                                   "rating"}; // in the order of the enum
 
 bool hasAll(const Words& words, const QStringList& wanted)
 {
@@ -67,7 +70,26 @@ std::vector<Words> wordsOf(std::span<const FileEntry> entries)
     return words;
 }
 
-std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words, const Wish& wish)
+bool needsWords(const Wish& wish)
+{
+    return wish.key == Key::name || wish.key == Key::folder || !wish.filter.isEmpty();
+}
+
+bool matches(const QString& text, const QString& filter)
+{
+    return hasAll({text.toCaseFolded(), {}}, filter.toCaseFolded().split(u' ', Qt::SkipEmptyParts));
+}
+
+Wish pressed(Wish wish, Key key)
+{
+    const bool isTurned = wish.key == key && wish.direction == Direction::usual;
+    wish.key = key;
+    wish.direction = isTurned ? Direction::reversed : Direction::usual;
+    return wish;
+}
+
+std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words, const Wish& wish,
+                      Rating rating)
 {
     const QStringList wanted = wish.filter.toCaseFolded().split(u' ', Qt::SkipEmptyParts);
     std::vector<int> rows;
@@ -88,7 +110,35 @@ std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Word
     case Key::date:
         sortByDate(rows, entries, wish.direction);
         break;
+    case Key::folder: {
+        const auto folder = [&](int row) -> const QString& {
+            return words[static_cast<std::size_t>(row)].folder;
+        };
+        sort(rows, wish.direction, [&](int a, int b) { return folder(a) < folder(b); });
+        break;
     }
+    case Key::rating: {
+        const auto rated = [&](int row) { return entry(row).rating.value_or(rating); };
+        sort(rows, wish.direction, [&](int a, int b) { return rated(a) < rated(b); });
+        break;
+    }
+    }
+    return rows;
+}
+
+std::vector<int> inSets(std::vector<int> rows, std::span<const FileEntry> entries)
+{
+    std::unordered_map<std::string_view, std::size_t> places;
+    std::vector<std::pair<std::size_t, int>> placed;
+    placed.reserve(rows.size());
+    for (std::size_t at = 0; at < rows.size(); ++at) {
+        const auto& kept = entries[static_cast<std::size_t>(rows[at])].kept;
+        placed.emplace_back(kept ? places.try_emplace(kept->path, at).first->second : at, rows[at]);
+    }
+    if (places.empty())
+        return rows;
+    std::ranges::stable_sort(placed, {}, &std::pair<std::size_t, int>::first);
+    std::ranges::transform(placed, rows.begin(), &std::pair<std::size_t, int>::second);
     return rows;
 }
 

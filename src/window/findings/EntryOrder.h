@@ -12,7 +12,7 @@
 /// Filters and sorts entries. Pure; any thread.
 namespace orlen::EntryOrder {
 
-enum class Key { size, name, date };
+enum class Key { size, name, date, folder, rating };
 /// As it is remembered: "size", "name" and so on.
 [[nodiscard]] std::string_view rawValue(Key key);
 [[nodiscard]] std::optional<Key> keyFrom(std::string_view raw);
@@ -31,9 +31,19 @@ struct Wish {
     QString filter; ///< each word must appear in the name or the folder; case is ignored
 };
 
-/// Indices of the matching entries: largest first, by name, or latest first with undated ones last. The sort
-/// is stable.
+/// Whether the words are needed to follow the wish.
+[[nodiscard]] bool needsWords(const Wish& wish);
+
+/// Indices of the matching entries: largest first, by name, latest first with undated ones last, by folder,
+/// or the safest first; `rating` is that of entries without their own. The sort is stable.
 [[nodiscard]] std::vector<int> rows(std::span<const FileEntry> entries, const std::vector<Words>& words,
-                                    const Wish& wish);
+                                    const Wish& wish, Rating rating = Rating::review);
+/// Whether a text has all words of a filter.
+[[nodiscard]] bool matches(const QString& text, const QString& filter);
+/// The order after a press on a key: by it, or the other way round if it is by that already.
+[[nodiscard]] Wish pressed(Wish wish, Key key);
+
+/// The same rows with those of a set together, where the first of them stands.
+[[nodiscard]] std::vector<int> inSets(std::vector<int> rows, std::span<const FileEntry> entries);
 
 } // namespace orlen::EntryOrder

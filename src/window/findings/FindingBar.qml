@@ -7,11 +7,11 @@ Rectangle {
 
     required property EntryListModel entries
     /// Whether one line is too narrow, so that there are two.
-    readonly property bool isTall: all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
+    readonly property bool isTall: rule.visible
+                                   || all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
 
     function clearFilter() {
-        filter.clear();
-        filter.forceActiveFocus(Qt.OtherFocusReason);
+        tools.clear();
     }
 
     height: (root.isTall ? 2 : 1) * (Theme.controlHeight + 8) + 8
@@ -21,14 +21,14 @@ Rectangle {
         target: root.entries
 
         function onFindingChanged() {
-            filter.clear();
+            tools.forget();
         }
     }
 
     Shortcut {
         sequences: [StandardKey.Find]
         enabled: root.visible
-        onActivated: filter.forceActiveFocus(Qt.ShortcutFocusReason)
+        onActivated: tools.focusField()
     }
 
     CheckMark {
@@ -57,7 +57,7 @@ Rectangle {
         anchors.verticalCenter: all.verticalCenter
         anchors.left: parent.left
         anchors.leftMargin: label.start
-        width: Math.min(implicitWidth, root.width - label.start - 16)
+        width: Math.min(implicitWidth, root.width - label.start - 16 - (rule.visible ? rule.width + 20 : 0))
         text: root.entries.selectedText
         color: Theme.text
         font.weight: Font.DemiBold
@@ -65,49 +65,38 @@ Rectangle {
         Accessible.name: text
     }
 
-    Row {
+    ChoiceField {
+        id: rule
+
+        objectName: "keepRule"
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        anchors.verticalCenter: all.verticalCenter
+        visible: root.entries.findingId === "duplicates" && root.entries.entryCount > 0
+        label: Strings.whichToKeep
+        model: rules.choices
+        currentIndex: rules.current
+        displayText: rules.currentText
+        onActivated: index => rules.current = index
+
+        KeepRuleModel {
+            id: rules
+        }
+    }
+
+    ListTools {
         id: tools
 
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceS
-        spacing: 2
-
-        SearchField {
-            id: filter
-
-            objectName: "entryFilter"
-            width: Theme.widened(170)
-            placeholderText: Strings.filter
-            fill: Theme.card
-            onTextChanged: root.entries.filter = text
-        }
-
-        Item {
-            width: 8
-            height: 1
-        }
-
-        SortButton {
-            text: Strings.bySize
-            active: root.entries.key === EntryListModel.BySize
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.BySize)
-        }
-
-        SortButton {
-            text: Strings.byName
-            active: root.entries.key === EntryListModel.ByName
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.ByName)
-        }
-
-        SortButton {
-            text: Strings.byDate
-            active: root.entries.key === EntryListModel.ByDate
-            reversed: root.entries.reversed
-            onClicked: root.entries.sortBy(EntryListModel.ByDate)
-        }
+        fieldName: "entryFilter"
+        // In the order of EntryListModel's keys.
+        orders: [Strings.bySize, Strings.byName, Strings.byDate]
+        current: root.entries.key
+        reversed: root.entries.reversed
+        onTextChanged: root.entries.filter = text
+        onSortRequested: order => root.entries.sortBy(order)
     }
 }

@@ -91,6 +91,8 @@ Sheet {
         rowHeight: Theme.grown(contents.hasNotes ? 68 : 56)
         cacheBuffer: 400
         model: contents
+        section.property: contents.inSets ? "kept" : ""
+        section.delegate: SetHeading {}
         Accessible.name: contents.header.title
         onPreviewRequested: row => root.preview(row)
         onToggleRequested: row => contents.toggle(row)

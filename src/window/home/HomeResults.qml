@@ -17,6 +17,7 @@ Item {
     ScrollArea {
         id: flickable
 
+        objectName: "resultsPage"
         anchors.fill: parent
         contentHeight: page.height + 2 * Theme.pageMargin
         showDuration: Theme.screenDuration

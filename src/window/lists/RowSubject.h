@@ -10,6 +10,7 @@ struct RowSubject {
     bool isThere = true;     ///< whether it can be previewed and shown in the file manager
     bool isOffered = true;   ///< whether Orlen may offer to move it
     bool isTickable = false; ///< whether the rows of its folder can be ticked
+    bool isCopy = false;     ///< whether it is one of identical files, of which another may be kept
 };
 
 } // namespace orlen

@@ -26,6 +26,9 @@ Item {
 
     visible: root.isOpen
     onIsOpenChanged: {
+        // The filter is that of one visit.
+        tools.forget();
+        root.groups.filter = "";
         if (root.isOpen)
             root.focusPhotos();
     }
@@ -127,6 +130,27 @@ Item {
                 font.weight: Font.DemiBold
             }
         }
+
+        ListTools {
+            id: tools
+
+            width: parent.width
+            // In large text a low window has room for little more than the photos.
+            visible: root.height > 380 * Theme.textScale
+            fieldName: "photoFilter"
+            // In the order of EntryOrder's keys.
+            orders: [Strings.bySize, Strings.byName, Strings.byDate, Strings.byFolder, Strings.byRating]
+            current: root.groups.key
+            reversed: root.groups.reversed
+            onTextChanged: if (root.isOpen) root.groups.filter = text
+            onSortRequested: order => root.groups.sortBy(order)
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: root.isOpen && root.enabled && tools.visible
+        onActivated: tools.focusField()
     }
 
     PhotoGrid {

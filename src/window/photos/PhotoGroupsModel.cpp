@@ -6,6 +6,7 @@
 #include "window/lists/DisplayText.h"
 #include "window/lists/LeftUnticked.h"
 #include "window/lists/RatingValue.h"
+#include "window/lists/Remembered.h"
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
@@ -16,6 +17,8 @@ namespace orlen {
 
 namespace {
 
+const QString kPhotoOrder = QStringLiteral("photos");
+
 QString amountText(const Text& words, std::int64_t count, std::int64_t bytes)
 {
     return count == 0 ? QString()
@@ -24,7 +27,7 @@ QString amountText(const Text& words, std::int64_t count, std::int64_t bytes)
 
 } // namespace
 
-PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app)
+PhotoGroupsModel::PhotoGroupsModel(AppModel& app) : m_app(app), m_wish(Remembered::order(kPhotoOrder))
 {
     connect(m_app.results(), &Results::findingsChanged, this, &PhotoGroupsModel::followFindings);
     connect(m_app.results(), &Results::selectionChanged, this, &PhotoGroupsModel::followSelection);
@@ -102,6 +105,29 @@ void PhotoGroupsModel::setShownGroup(const QString& findingId)
         return;
     m_shownGroup = finding(findingId) == nullptr ? QString() : findingId;
     Q_EMIT shownGroupChanged();
+}
+
+void PhotoGroupsModel::setFilter(const QString& filter)
+{
+    if (m_wish.filter == filter)
+        return;
+    m_wish.filter = filter;
+    Q_EMIT orderChanged();
+}
+
+void PhotoGroupsModel::sortBy(int key)
+{
+    m_wish = EntryOrder::pressed(m_wish, static_cast<EntryOrder::Key>(key));
+    Remembered::setOrder(kPhotoOrder, m_wish);
+    Q_EMIT orderChanged();
+}
+
+std::vector<int> PhotoGroupsModel::order(const Finding& finding) const
+{
+    std::vector<EntryOrder::Words> words;
+    if (EntryOrder::needsWords(m_wish))
+        words = EntryOrder::wordsOf(finding.items);
+    return EntryOrder::rows(finding.items, words, m_wish, finding.rating);
 }
 
 QString PhotoGroupsModel::selectedText() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/findings/EntryOrder.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -18,6 +19,10 @@ class PhotoGroupsModel : public orlen::RowsModel {
     Q_PROPERTY(QString shownGroup READ shownGroup WRITE setShownGroup NOTIFY shownGroupChanged)
     /// How many photos were looked at so far; empty when it is all of them.
     Q_PROPERTY(QString coverage READ coverage NOTIFY stageChanged)
+    /// The order of the group shown on its own, remembered for all, and its filter.
+    Q_PROPERTY(int key READ key NOTIFY orderChanged)
+    Q_PROPERTY(bool reversed READ isReversed NOTIFY orderChanged)
+    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY orderChanged)
     /// Number and size of the selected photos in all groups; empty when none is selected.
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectedChanged)
 
@@ -56,6 +61,15 @@ public:
     [[nodiscard]] QString selectedText() const;
     [[nodiscard]] QString coverage() const;
 
+    [[nodiscard]] int key() const { return static_cast<int>(m_wish.key); }
+    [[nodiscard]] bool isReversed() const { return m_wish.direction == EntryOrder::Direction::reversed; }
+    [[nodiscard]] QString filter() const { return m_wish.filter; }
+    void setFilter(const QString& filter);
+    /// Sorts by a key of `EntryOrder`, or reverses the order if already sorted by it.
+    Q_INVOKABLE void sortBy(int key);
+    /// The finding's entries as the group shows them on its own, by their numbers.
+    [[nodiscard]] std::vector<int> order(const Finding& finding) const;
+
     /// Selects all photos of a group, or deselects them if all are selected.
     Q_INVOKABLE void toggleAll(const QString& findingId);
     /// Selects these photos of a group, but never the last one of a set: its kept photo may be selected among
@@ -71,6 +85,7 @@ Q_SIGNALS:
     void stageChanged();
     void shownGroupChanged();
     void selectedChanged();
+    void orderChanged();
     /// A group's photos or sets have changed.
     void photosChanged(const QString& findingId);
 
@@ -100,6 +115,7 @@ private:
     AppModel& m_app;
     std::vector<Row> m_rows;
     QString m_shownGroup;
+    EntryOrder::Wish m_wish;
     bool m_wasFed = false; ///< `setFindings` was called; counts as a scan
 };
 

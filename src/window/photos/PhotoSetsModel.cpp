@@ -6,9 +6,33 @@
 #include "window/photos/KeptReason.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace orlen {
+
+namespace {
+
+/// The sets of which an entry is shown, where the first of them stands.
+std::vector<KeptSet> ordered(const std::vector<KeptSet>& sets, const std::vector<int>& entries)
+{
+    std::unordered_map<std::size_t, const KeptSet*> setOf;
+    for (const KeptSet& set : sets) {
+        for (const std::size_t number : set.entries)
+            setOf[number] = &set;
+    }
+    std::vector<KeptSet> shown;
+    std::unordered_set<const KeptSet*> met;
+    for (const int number : entries) {
+        const KeptSet* set = setOf.at(static_cast<std::size_t>(number));
+        if (met.insert(set).second)
+            shown.push_back(*set);
+    }
+    return shown;
+}
+
+} // namespace
 
 void PhotoSetsModel::setGroups(PhotoGroupsModel* groups)
 {
@@ -22,6 +46,7 @@ void PhotoSetsModel::setGroups(PhotoGroupsModel* groups)
             if (findingId == m_findingId)
                 update();
         });
+        connect(m_groups, &PhotoGroupsModel::orderChanged, this, &PhotoSetsModel::update);
     }
     Q_EMIT groupsChanged();
     update();
@@ -64,22 +89,26 @@ QString PhotoSetsModel::headingOf(int row) const
     return DisplayText::facts({part(Role::heading), part(Role::reason)});
 }
 
+PhotoSetsModel::Set PhotoSetsModel::setOf(const KeptSet& kept, const std::vector<FileEntry>& entries)
+{
+    const FileEntry& first = entries[kept.entries.front()];
+    Set set{.id = idOf(kept, entries).toStdString(), .photos = {}, .date = first.modified};
+    if (!kept.kept.empty()) {
+        set.photos.push_back({kept.kept, true});
+        set.reason = KeptReason::of(kept, entries);
+    }
+    for (const std::size_t number : kept.entries)
+        set.photos.push_back({entries[number].path, false});
+    return set;
+}
+
 void PhotoSetsModel::update()
 {
     std::vector<Set> sets;
     const Finding* finding = m_groups == nullptr ? nullptr : m_groups->finding(m_findingId);
     if (finding != nullptr) {
-        for (const KeptSet& kept : keptSets(finding->items)) {
-            const FileEntry& first = finding->items[kept.entries.front()];
-            Set set{.id = idOf(kept, finding->items).toStdString(), .photos = {}, .date = first.modified};
-            if (!kept.kept.empty()) {
-                set.photos.push_back({kept.kept, true});
-                set.reason = KeptReason::of(kept, finding->items);
-            }
-            for (const std::size_t number : kept.entries)
-                set.photos.push_back({finding->items[number].path, false});
-            sets.push_back(std::move(set));
-        }
+        for (const KeptSet& kept : ordered(keptSets(finding->items), m_groups->order(*finding)))
+            sets.push_back(setOf(kept, finding->items));
     }
     setRows(m_sets, std::move(sets), &Set::id);
     Q_EMIT setsChanged();
@@ -94,7 +123,8 @@ QVariant PhotoSetsModel::value(std::size_t number, int role) const
     case Role::heading:
         return DisplayText::facts(
             {DisplayText::counted(static_cast<std::int64_t>(set.photos.size()), WindowTexts::kPhotos),
-             set.date ? DisplayText::date(*set.date) : QString()});
+             set.date ? DisplayText::date(*set.date) : QString(),
+             set.photos.front().isKept ? DisplayText::folderOf(set.photos.front().path) : QString()});
     case Role::reason:
         return DisplayText::text(set.reason);
     case Role::photos:

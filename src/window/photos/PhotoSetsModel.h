@@ -12,7 +12,7 @@
 
 namespace orlen {
 
-/// The sets of similar photos as rows, the one with the largest photo first. Main thread.
+/// The sets of similar photos as rows, in the order of their first photos. Main thread.
 class PhotoSetsModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ class PhotoSetsModel : public orlen::RowsModel {
 public:
     enum class Role {
         set = Qt::UserRole, ///< id of the set
-        heading,            ///< number of photos, and when they were taken or changed
+        heading,            ///< number of photos, when they were taken or changed, and the kept one's folder
         reason,             ///< why it is the kept one; empty when none is
         photos,             ///< number of photos, with the kept one
     };
@@ -68,6 +68,7 @@ private:
         friend bool operator==(const Set&, const Set&) = default;
     };
 
+    [[nodiscard]] static Set setOf(const KeptSet& kept, const std::vector<FileEntry>& entries);
     void update();
 
     PhotoGroupsModel* m_groups = nullptr;

@@ -28,6 +28,10 @@ void PhotoTilesModel::setGroups(PhotoGroupsModel* groups)
                 update();
         });
         connect(m_groups, &PhotoGroupsModel::selectedChanged, this, &PhotoTilesModel::followSelection);
+        connect(m_groups, &PhotoGroupsModel::orderChanged, this, [this] {
+            if (isWhole())
+                update();
+        });
     }
     Q_EMIT groupsChanged();
     update();
@@ -84,6 +88,11 @@ std::vector<PhotoTilesModel::Tile> PhotoTilesModel::wanted() const
     if (finding->kind == FindingKind::photoDuplicates)
         return tilesOfSets(*finding);
     std::vector<Tile> tiles;
+    if (isWhole()) {
+        for (const int number : m_groups->order(*finding))
+            tiles.push_back(tileOf(finding->items[static_cast<std::size_t>(number)]));
+        return tiles;
+    }
     const std::size_t count = std::min(finding->items.size(), room());
     tiles.reserve(count);
     for (std::size_t number = 0; number < count; ++number)

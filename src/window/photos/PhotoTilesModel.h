@@ -82,6 +82,8 @@ private:
         friend bool operator==(const Tile&, const Tile&) = default;
     };
 
+    /// Whether it shows a group on its own, in the order and with the filter of that.
+    [[nodiscard]] bool isWhole() const { return m_limit == 0 && m_set.isEmpty(); }
     [[nodiscard]] std::vector<Tile> wanted() const;
     [[nodiscard]] std::vector<Tile> tilesOfSets(const Finding& finding) const;
     [[nodiscard]] Tile tileOf(const FileEntry& entry) const;

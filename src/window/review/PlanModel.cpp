@@ -7,6 +7,7 @@
 #include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/RatingValue.h"
+#include "window/lists/Remembered.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
@@ -20,6 +21,7 @@ namespace orlen {
 namespace {
 
 constexpr int kHeading = -1;
+const QString kReviewOrder = QStringLiteral("review");
 constexpr QRgb kUsualTone = 0xff5b5fe0; // for a section that matches no kind of finding
 
 std::size_t place(int number)
@@ -61,22 +63,29 @@ void PlanModel::show(const CleanPlan& plan)
     m_excluded.clear();
     m_checkedBefore.clear();
     exclude();
-    m_rows = wantedRows();
-    countEntries();
+    m_entries = PlanEntries(plan);
+    m_wish = Remembered::order(kReviewOrder);
+    arrange();
     endResetModel();
+    Q_EMIT orderChanged();
     Q_EMIT planChanged();
     Q_EMIT figuresChanged();
 }
 
 std::vector<PlanModel::Row> PlanModel::entriesOf(int number) const
 {
-    const std::vector<FileEntry>& entries = section(number).entries;
     std::vector<Row> rows;
-    for (int entry = 0; entry < static_cast<int>(entries.size()); ++entry) {
-        if (!m_excluded.contains(entries[place(entry)].path))
-            rows.push_back({number, entry});
-    }
+    for (const int entry : m_entries.shown(place(number)))
+        rows.push_back({number, entry});
     return rows;
+}
+
+std::vector<PlanTicks::Place> PlanModel::placesOf(int number) const
+{
+    std::vector<PlanTicks::Place> places;
+    for (const int entry : m_entries.shown(place(number)))
+        places.push_back({place(number), place(entry)});
+    return places;
 }
 
 std::vector<PlanModel::Row> PlanModel::wantedRows() const
@@ -93,16 +102,35 @@ std::vector<PlanModel::Row> PlanModel::wantedRows() const
     return rows;
 }
 
-void PlanModel::countEntries()
+void PlanModel::arrange()
 {
-    m_entryCount = 0;
-    m_hasNotes = false;
-    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
-        for (const Row& row : entriesOf(number)) {
-            ++m_entryCount;
-            m_hasNotes = m_hasNotes || !section(number).entries[place(row.entry)].notes.empty();
-        }
+    m_entries.arrange(*m_plan, m_excluded, m_wish);
+    m_rows = wantedRows();
+}
+
+void PlanModel::rearrange()
+{
+    if (m_plan) {
+        beginResetModel();
+        arrange();
+        endResetModel();
     }
+    Q_EMIT orderChanged();
+}
+
+void PlanModel::setFilter(const QString& filter)
+{
+    if (m_wish.filter == filter)
+        return;
+    m_wish.filter = filter;
+    rearrange();
+}
+
+void PlanModel::sortBy(int key)
+{
+    m_wish = EntryOrder::pressed(m_wish, static_cast<EntryOrder::Key>(key));
+    Remembered::setOrder(kReviewOrder, m_wish);
+    rearrange();
 }
 
 std::vector<PlanTicks::Place> PlanModel::placesOf(const Paths& paths) const
@@ -140,9 +168,9 @@ void PlanModel::followExclusions()
     if (!m_plan)
         return;
     exclude();
+    m_entries.arrange(*m_plan, m_excluded, m_wish);
     setRows(m_rows, wantedRows(),
             [](const Row& row) { return std::to_string(row.section) + ' ' + std::to_string(row.entry); });
-    countEntries();
     Q_EMIT planChanged();
     followTicks();
 }
@@ -158,8 +186,10 @@ void PlanModel::toggle(int row)
         return;
     const auto [number, entry] = at(row);
     const bool isChecked = checkState(at(row)) != Qt::Checked;
-    if (entry == kHeading)
+    if (entry == kHeading && m_wish.filter.isEmpty())
         m_ticks.setSection(place(number), isChecked);
+    else if (entry == kHeading)
+        setShown(number, isChecked);
     else
         m_ticks.set(place(number), place(entry), isChecked);
     m_ticks.leaveOut(placesOf(m_excluded));
@@ -180,9 +210,21 @@ void PlanModel::setAllChecked(bool isChecked)
 {
     if (m_rows.empty())
         return;
-    m_ticks.setAll(isChecked);
+    if (m_wish.filter.isEmpty())
+        m_ticks.setAll(isChecked);
+    for (int number = 0; !m_wish.filter.isEmpty() && number < static_cast<int>(m_isFolded.size()); ++number)
+        setShown(number, isChecked);
     m_ticks.leaveOut(placesOf(m_excluded));
     followTicks();
+}
+
+/// With a filter, only what matches it.
+void PlanModel::setShown(int number, bool isChecked)
+{
+    if (isChecked)
+        m_ticks.tick(placesOf(number));
+    else
+        m_ticks.leaveOut(placesOf(number));
 }
 
 /// Rows in other sections may show the same path or one inside it.
@@ -245,7 +287,11 @@ Qt::CheckState PlanModel::checkState(const Row& row) const
     const std::size_t number = place(row.section);
     if (row.entry != kHeading)
         return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
-    return checkStateOf(m_ticks.count(number), entriesOf(row.section).size());
+    const std::vector<int>& shown = m_entries.shown(number);
+    if (m_wish.filter.isEmpty())
+        return checkStateOf(m_ticks.count(number), shown.size());
+    const auto isTicked = [&](int entry) { return m_ticks.isTicked(number, place(entry)); };
+    return checkStateOf(std::ranges::count_if(shown, isTicked), shown.size());
 }
 
 QVariant PlanModel::value(std::size_t number, int role) const
@@ -272,7 +318,7 @@ QVariant PlanModel::sectionData(int number, Role role) const
     if (role == Role::name)
         return DisplayText::text(shown.title);
     if (role == Role::folder)
-        return DisplayText::selectedOf(m_ticks.count(place(number)), std::ssize(entriesOf(number)));
+        return DisplayText::selectedOf(m_ticks.count(place(number)), m_entries.count(place(number)));
     if (role == Role::size)
         return DisplayText::size(m_ticks.bytes(place(number)));
     if (role == Role::symbol)

@@ -4,6 +4,7 @@
 #include "window/findings/FolderLookup.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
+#include "window/review/PlanEntries.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -26,7 +27,12 @@ class PlanModel : public orlen::RowsModel {
     Q_PROPERTY(QString title READ title NOTIFY planChanged)
     /// Whether any entry has a note.
     Q_PROPERTY(bool hasNotes READ hasNotes NOTIFY planChanged)
+    /// Number of entries, ignoring the filter.
     Q_PROPERTY(int entryCount READ entryCount NOTIFY planChanged)
+    /// The order within each section; remembered.
+    Q_PROPERTY(int key READ key NOTIFY orderChanged)
+    Q_PROPERTY(bool reversed READ isReversed NOTIFY orderChanged)
+    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY orderChanged)
     /// What would move, counting each path once and entries inside a checked folder not at all.
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY figuresChanged)
     Q_PROPERTY(QString checkedSizeText READ checkedSizeText NOTIFY figuresChanged)
@@ -53,15 +59,21 @@ public:
     explicit PlanModel(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] QString title() const;
-    [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
-    [[nodiscard]] int entryCount() const { return m_entryCount; }
+    [[nodiscard]] bool hasNotes() const { return m_entries.hasNotes(); }
+    [[nodiscard]] int entryCount() const { return m_entries.count(); }
+    [[nodiscard]] int key() const { return static_cast<int>(m_wish.key); }
+    [[nodiscard]] bool isReversed() const { return m_wish.direction == EntryOrder::Direction::reversed; }
+    [[nodiscard]] QString filter() const { return m_wish.filter; }
+    void setFilter(const QString& filter);
     [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
     [[nodiscard]] QString checkedSizeText() const { return DisplayText::size(m_ticks.amount().bytes); }
     [[nodiscard]] bool isConfirmable() const { return checkedCount() > 0 && m_app.isWriter(); }
 
-    /// Checks or unchecks the row's entry, or all entries of a section. Includes the entries inside it and,
-    /// when unchecking, the folders that contain it. All functions that take a row ignore one that does not
-    /// exist.
+    /// Sorts by a key of `EntryOrder`, or reverses the order if already sorted by it.
+    Q_INVOKABLE void sortBy(int key);
+    /// Checks or unchecks the row's entry, or all shown entries of a section. Includes the entries inside it
+    /// and, when unchecking, the folders that contain it. All functions that take a row ignore one that does
+    /// not exist.
     Q_INVOKABLE void toggle(int row);
     Q_INVOKABLE void checkAll();
     Q_INVOKABLE void uncheckAll();
@@ -82,12 +94,13 @@ public:
 Q_SIGNALS:
     void planChanged();
     void figuresChanged();
+    void orderChanged();
 
 private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    using Paths = std::set<std::string, std::less<>>;
+    using Paths = PlanEntries::Paths;
 
     struct Row {
         int section = 0;
@@ -102,9 +115,12 @@ private:
     [[nodiscard]] std::vector<PlanTicks::Place> placesOf(const Paths& paths) const;
     /// The section's entries that are shown unless it is folded.
     [[nodiscard]] std::vector<Row> entriesOf(int number) const;
+    [[nodiscard]] std::vector<PlanTicks::Place> placesOf(int number) const;
     [[nodiscard]] std::vector<Row> wantedRows() const;
-    void countEntries();
+    void arrange();
+    void rearrange();
     void show(const CleanPlan& plan);
+    void setShown(int number, bool isChecked);
     void setAllChecked(bool isChecked);
     void followTicks();
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
@@ -121,8 +137,8 @@ private:
     Paths m_excluded;             ///< entries of the plan that are not shown
     Paths m_checkedBefore;        ///< of those, the ones that were checked
     std::vector<Row> m_rows;
-    int m_entryCount = 0;
-    bool m_hasNotes = false;
+    EntryOrder::Wish m_wish;
+    PlanEntries m_entries;
     FolderLookup* m_folders;
 };
 

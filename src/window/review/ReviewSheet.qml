@@ -31,6 +31,7 @@ Sheet {
 
     onIsWantedChanged: root.isWanted ? root.open() : root.close()
     onOpened: {
+        tools.forget();
         list.positionViewAtBeginning();
         list.takeFocus(-1);
     }
@@ -76,16 +77,41 @@ Sheet {
         }
     }
 
-    Divider {
-        anchors.bottom: list.top
+    Rectangle {
+        id: bar
+
+        anchors.top: header.bottom
         width: parent.width
+        height: tools.height + 2 * Theme.spaceS
+        color: Theme.inset
+
+        ListTools {
+            id: tools
+
+            x: Theme.spaceXl
+            y: Theme.spaceS
+            width: parent.width - 2 * x
+            fieldName: "planFilter"
+            // In the order of EntryOrder's keys.
+            orders: [Strings.bySize, Strings.byName, Strings.byDate, Strings.byFolder, Strings.byRating]
+            current: plan.key
+            reversed: plan.reversed
+            onTextChanged: plan.filter = text
+            onSortRequested: order => plan.sortBy(order)
+        }
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: bar.visible && root.opened
+        onActivated: tools.focusField()
     }
 
     EntryList {
         id: list
 
         objectName: "planEntries"
-        anchors.top: header.bottom
+        anchors.top: bar.bottom
         anchors.bottom: footer.top
         width: parent.width
         bottomMargin: Theme.spaceS
@@ -125,10 +151,12 @@ Sheet {
     EmptyState {
         anchors.centerIn: list
         width: list.width - 64
-        visible: plan.entryCount === 0
-        symbol: "checkmark"
+        visible: list.count === 0
+        symbol: plan.entryCount > 0 ? "magnifyingglass" : "checkmark"
         tone: Theme.accentFill
-        text: Strings.nothingSelected
+        text: plan.entryCount > 0 ? Strings.nothingMatches : Strings.nothingSelected
+        action: plan.entryCount > 0 ? Strings.clearFilter : ""
+        onTriggered: tools.clear()
     }
 
     SheetFooter {

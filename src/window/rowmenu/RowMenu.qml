@@ -38,6 +38,8 @@ T.Menu {
             return Strings.copyPath;
         case RowMenuModel.TickFolder:
             return Strings.tickFolder;
+        case RowMenuModel.KeepFolder:
+            return Strings.keepFolder;
         case RowMenuModel.ExcludePath:
             return Strings.neverOfferThis;
         case RowMenuModel.ExcludeFolder:

@@ -45,6 +45,8 @@ std::vector<RowMenuModel::Action> RowMenuModel::actions() const
     actions.push_back(CopyPath);
     if (m_subject->isTickable)
         actions.push_back(TickFolder);
+    if (m_subject->isCopy)
+        actions.push_back(KeepFolder);
     if (!m_subject->isOffered || isExcluded())
         return actions;
     std::ranges::copy_if(std::vector{ExcludePath, ExcludeFolder, ExcludeName}, std::back_inserter(actions),
@@ -77,6 +79,7 @@ std::optional<Exclusion> RowMenuModel::exclusionOf(Action action) const
     case Reveal:
     case CopyPath:
     case TickFolder:
+    case KeepFolder:
         break;
     }
     return std::nullopt;
@@ -98,6 +101,9 @@ void RowMenuModel::choose(Action action)
     case TickFolder:
         if (m_list != nullptr)
             m_list->tickIn(std::string(PathText::parent(m_subject->path)));
+        return;
+    case KeepFolder:
+        m_app.results()->setKeepRule({.references = {std::string(PathText::parent(m_subject->path))}});
         return;
     case ExcludePath:
     case ExcludeFolder:

@@ -28,6 +28,7 @@ public:
         Reveal,
         CopyPath,
         TickFolder,    ///< ticks all rows of the item's folder
+        KeepFolder,    ///< of each set of duplicates, keeps the file in the item's folder
         ExcludePath,   ///< never offers the item
         ExcludeFolder, ///< never offers anything in the item's folder
         ExcludeName,   ///< never offers anything of the item's name

@@ -124,6 +124,11 @@ QtObject {
     readonly property string lookingForAdvice: Words.message("Looking at what other programs keep…")
 
     // Finding, review and clean-up
+    function keptFile(path: string): string {
+        // TRANSLATORS: Above the copies of a file that stays; {path} is where it is.
+        return Words.message("Kept: {path}", { path: path });
+    }
+    readonly property string whichToKeep: Words.message("Which copy to keep")
     readonly property string nothingLeft: Words.message("Nothing left here.")
     readonly property string reviewTitle: Words.message("Review before cleaning")
     function reviewLead(count: int): string {
@@ -144,12 +149,14 @@ QtObject {
     readonly property string nothingSelected: Words.message("Nothing is selected.")
     readonly property string selectAllShown: Words.message("Select all that are shown")
     function sortBy(order: string): string {
-        // TRANSLATORS: {order} is one of the next three, as it stands there.
+        // TRANSLATORS: {order} is one of the next five, as it stands there.
         return Words.message("Sort by {order}", { order: order });
     }
     readonly property string bySize: Words.messageIn("order", "Size")
     readonly property string byName: Words.messageIn("order", "Name")
     readonly property string byDate: Words.messageIn("order", "Date")
+    readonly property string byFolder: Words.messageIn("order", "Folder")
+    readonly property string byRating: Words.messageIn("order", "Rating")
     readonly property string showItems: Words.message("Show items")
     readonly property string hideItems: Words.message("Hide items")
     readonly property string trashKeeps: Words.message("Everything moves to the Trash and can be restored from History.")
@@ -173,6 +180,7 @@ QtObject {
         return Words.message("What to do with {name}", { name: name });
     }
     readonly property string tickFolder: Words.message("Select all in this folder")
+    readonly property string keepFolder: Words.message("Keep the copies in this folder")
     readonly property string neverOfferThis: Words.message("Never offer this")
     readonly property string neverOfferFolder: Words.message("Never offer anything in this folder")
     function neverOfferNamed(name: string): string {

@@ -1,0 +1,98 @@
+#include "app/KeptCopies.h"
+
+#include "app/NewKeeper.h"
+#include "model/KeptSets.h"
+#include "platform/files/Places.h"
+#include "platform/files/SharedExtents.h"
+#include "scan/Cand.h"
+#include "scan/duplicates/Duplicates.h"
+#include "scan/duplicates/KeepOrder.h"
+
+#include <utility>
+
+namespace orlen::KeptCopies {
+
+namespace {
+
+Cand candOf(const FileEntry& entry)
+{
+    return {.path = entry.path, .modified = entry.modified.value_or(TimePoint())};
+}
+
+class Choice {
+public:
+    Choice(const KeepRule& rule, std::vector<FileEntry>& copies)
+        : m_prefers(Places::current(), rule), m_copies(copies)
+    {
+    }
+
+    /// The copy that is rather kept than the file that is; null when that is the best.
+    [[nodiscard]] FileEntry* betterOf(const KeptSet& set) const
+    {
+        const FileEntry& first = m_copies[set.entries.front()];
+        const auto status = first.kept ? statusOf(first.kept->path) : Result<FileStatus>(Errno{0});
+        if (!status.ok())
+            return nullptr;
+        Cand best{.path = set.kept, .modified = status.value().modified};
+        FileEntry* found = nullptr;
+        for (const std::size_t number : set.entries) {
+            const Cand cand = candOf(m_copies[number]);
+            if (m_copies[number].stamp && m_prefers(cand, best)) {
+                best = cand;
+                found = &m_copies[number];
+            }
+        }
+        return found;
+    }
+
+    void exchange(const KeptSet& set, FileEntry& chosen, std::vector<Chosen::Change>& changes) const
+    {
+        const KeptFile former = *chosen.kept;
+        const KeptFile kept{chosen.path, *chosen.stamp};
+        if (!NewKeeper::isStill(kept.path, kept.stamp))
+            return;
+        auto entry =
+            NewKeeper::asEntry(former, kept, FindingKind::duplicates, noteOn(former.path, kept.path));
+        if (!entry)
+            return;
+        changes.push_back({kept.path, former.path, entry->isTickedAlone});
+        chosen = std::move(*entry);
+        for (const std::size_t number : set.entries) {
+            FileEntry& copy = m_copies[number];
+            if (&copy == &chosen)
+                continue;
+            copy.kept = kept;
+            NewKeeper::noteChoice(copy, noteOn(copy.path, kept.path));
+        }
+    }
+
+    [[nodiscard]] bool isReference(const FileEntry& copy) const { return m_prefers.isReference(copy.path); }
+
+private:
+    [[nodiscard]] static Message noteOn(const std::string& copy, const std::string& kept)
+    {
+        return Duplicates::note(kept, shareAllExtents(kept, copy));
+    }
+
+    KeepOrder m_prefers;
+    std::vector<FileEntry>& m_copies;
+};
+
+} // namespace
+
+std::optional<Chosen> by(const KeepRule& rule, std::vector<FileEntry> copies, const std::stop_token& stop)
+{
+    const Choice choice(rule, copies);
+    Chosen chosen;
+    for (const KeptSet& set : keptSets(copies)) {
+        if (stop.stop_requested())
+            return std::nullopt;
+        if (FileEntry* better = choice.betterOf(set))
+            choice.exchange(set, *better, chosen.changes);
+    }
+    for (FileEntry& copy : copies)
+        (choice.isReference(copy) ? chosen.references : chosen.copies).push_back(std::move(copy));
+    return chosen;
+}
+
+} // namespace orlen::KeptCopies

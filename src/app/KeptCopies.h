@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/Finding.h"
+#include "scan/duplicates/KeepRule.h"
+
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+/// Keeps other files of the sets of duplicates than a scan proposed.
+namespace orlen::KeptCopies {
+
+struct Chosen {
+    /// The copies, with what is kept of each set as the rule says.
+    std::vector<FileEntry> copies;
+    /// Those that lie in a reference folder: they stay and are not offered.
+    std::vector<FileEntry> references;
+    /// Of each set that keeps another file: what it keeps now, and the copy that it kept before.
+    struct Change {
+        std::string kept;
+        std::string former;
+        bool isTickedAlone = false; ///< the former one
+    };
+    std::vector<Change> changes;
+};
+
+/// Takes all copies, those in reference folders of an earlier rule included. A set one of whose two files has
+/// changed since the scan stays as it is. Nothing when stopped. Blocks on the disk; any thread.
+[[nodiscard]] std::optional<Chosen> by(const KeepRule& rule, std::vector<FileEntry> copies,
+                                       const std::stop_token& stop);
+
+} // namespace orlen::KeptCopies
