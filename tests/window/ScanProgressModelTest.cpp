@@ -12,7 +12,7 @@ namespace orlen {
 
 namespace {
 
-AppModel::Options quick()
+AppModel::Options withoutScan()
 {
     AppModel::Options options;
     options.startup = AppModel::Startup::filesOnly;
@@ -36,7 +36,7 @@ TEST(ScanProgressModelTest, showsAllStepsBeforeDuringAndAfterAScan)
     const TempHome home;
     for (int file = 0; file < 100; ++file)
         home.file("Documents/" + std::to_string(file));
-    AppModel app(quick());
+    AppModel app(withoutScan());
     ScanProgressModel model(app);
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
@@ -57,7 +57,7 @@ TEST(ScanProgressModelTest, showsAllStepsBeforeDuringAndAfterAScan)
 TEST(ScanProgressModelTest, saysThatItIsBeingCancelledUntilItIs)
 {
     const TempHome home;
-    AppModel app(quick());
+    AppModel app(withoutScan());
     ScanProgressModel model(app);
     model.cancel();
     EXPECT_FALSE(model.isCancelling()) << "no scan is running";
