@@ -172,7 +172,7 @@ private:
     std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
     MovedEntries m_moved;                      ///< since the last scan
     Latest m_trashLook;
-    std::vector<Finding> m_references;         ///< copies in reference folders
+    std::vector<Finding> m_references; ///< copies in reference folders
     KeepRule m_keepRule;
     Latest m_keeping;
     double m_largeThresholdMB = 500;

@@ -30,13 +30,19 @@ TEST(AppearanceTest, showsWhatTheDesktopPrefers)
         {"light", {{kScheme, 2U}, {kAnimations, true}}, false, false},
         {"no preference", {{kScheme, 0U}, {kAnimations, true}}, false, false},
         {"without animations", {{kScheme, 1U}, {kAnimations, false}}, true, true},
+        {"without animations in KDE",
+         {{"org.kde.kdeglobals.KDE AnimationDurationFactor", QStringLiteral("0")}},
+         false,
+         true},
+        {"with less motion", {{"org.freedesktop.appearance reduced-motion", 1U}}, false, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         const FakePortal portal(c.settings);
         const Appearance appearance;
         QSignalSpy changes(&appearance, &Appearance::changed);
-        ASSERT_TRUE(waitUntil([&] { return changes.count() == 3; })) << "one answer for each setting";
+        ASSERT_TRUE(waitUntil([&] { return changes.count() == c.settings.size(); }))
+            << "one answer for each setting";
         EXPECT_EQ(appearance.isDark(), c.isDark);
         EXPECT_EQ(appearance.isReducedMotion(), c.isReducedMotion);
     }
@@ -51,6 +57,12 @@ TEST(AppearanceTest, followsAChange)
     EXPECT_TRUE(waitUntil([&] { return !appearance.isDark(); }));
     portal.change(kGroup, "contrast", 1U);
     EXPECT_TRUE(waitUntil([&] { return appearance.isHighContrast(); }));
+    EXPECT_FALSE(appearance.hasAccent());
+    portal.change(kGroup, "accent-color", PortalColour{0.2, 0.3, 0.1});
+    ASSERT_TRUE(waitUntil([&] { return appearance.hasAccent(); }));
+    EXPECT_EQ(appearance.accentFill(), QColor::fromRgbF(0.2F, 0.3F, 0.1F));
+    portal.change(kGroup, "accent-color", PortalColour{-1, 0, 0});
+    EXPECT_TRUE(waitUntil([&] { return !appearance.hasAccent(); })) << "out of range is none";
 }
 
 TEST(AppearanceTest, isLightAndMovesWithoutAPortal)

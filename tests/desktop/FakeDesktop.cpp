@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 #include "app/EventLoop.h"
 
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 
 namespace orlen {
@@ -50,6 +51,29 @@ void FakeTray::addHost()
     Q_EMIT StatusNotifierHostRegistered();
 }
 
+QDBusArgument& operator<<(QDBusArgument& argument, const PortalColour& colour)
+{
+    argument.beginStructure();
+    argument << colour.red << colour.green << colour.blue;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, PortalColour& colour)
+{
+    argument.beginStructure();
+    argument >> colour.red >> colour.green >> colour.blue;
+    argument.endStructure();
+    return argument;
+}
+
+PortalColour::operator QVariant() const
+{
+    static const QMetaType type = qDBusRegisterMetaType<PortalColour>();
+    (void)type;
+    return QVariant::fromValue(*this);
+}
+
 FakePortal::FakePortal(const Settings& settings)
     : m_bus(offered(this, kPortal, QStringLiteral("/org/freedesktop/portal/desktop"))), m_settings(settings)
 {
@@ -67,8 +91,13 @@ void FakePortal::change(const QString& group, const QString& key, const QVariant
 
 QDBusVariant FakePortal::Read(const QString& group, const QString& key)
 {
+    const auto setting = m_settings.constFind(group + ' ' + key);
+    if (setting == m_settings.constEnd()) {
+        sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"));
+        return {};
+    }
     // As the real one, which wraps the value once more.
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(m_settings.value(group + ' ' + key, 0U))));
+    return QDBusVariant(QVariant::fromValue(QDBusVariant(*setting)));
 }
 
 FakeNotices::FakeNotices() : m_bus(offered(this, kNotices, QStringLiteral("/org/freedesktop/Notifications")))

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDBusArgument>
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QMap>
@@ -54,8 +56,20 @@ private:
     QStringList m_items;
 };
 
-/// The desktop's settings, as sandboxed and other programs read them.
-class FakePortal : public QObject {
+/// A colour as the portal tells it: red, green and blue from 0 to 1.
+struct PortalColour {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+
+    operator QVariant() const; // NOLINT(google-explicit-constructor): as the settings' values
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const PortalColour& colour);
+const QDBusArgument& operator>>(const QDBusArgument& argument, PortalColour& colour);
+
+/// The desktop's settings, as sandboxed and other programs read them. What is not set is an error.
+class FakePortal : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 

@@ -6,6 +6,8 @@ Item {
     id: root
 
     required property HistoryModel records
+    /// Whether the room is better left to the list.
+    required property bool isBrief
     readonly property bool isNarrow: root.width < 540 * Theme.textScale
 
     implicitHeight: tools.y + (tools.visible ? tools.height : 0) + Theme.spaceS
@@ -30,7 +32,7 @@ Item {
         PageHeader {
             width: parent.width
             title: Screens.title(Screens.History)
-            subtitle: Strings.historyLead
+            subtitle: root.isBrief ? "" : Strings.historyLead
         }
 
         SmallText {

@@ -39,6 +39,7 @@ Item {
         anchors.topMargin: Theme.pageMargin
         height: header.implicitHeight
         records: history
+        isBrief: !history.empty && root.height < 480 * Theme.textScale
     }
 
     ScrollList {
