@@ -1,6 +1,7 @@
 #include "recognition/ImageClassifier.h"
 
 #include "recognition/ClassifierModels.h"
+#include "recognition/LineDirection.h"
 #include "recognition/PictureFeatures.h"
 #include "recognition/SmallNetwork.h"
 #include "recognition/TreeEnsemble.h"
@@ -82,8 +83,18 @@ Scores combined(const Probabilities& a, const Probabilities& b)
     return scores;
 }
 
-std::optional<Scores> scoresOf(const RgbImage& image, const std::vector<PictureFeature>& features)
+bool hasLetters(const std::vector<PictureFeature>& features)
 {
+    const float pairs = std::max(PictureFeatures::valueOf(features, "dark pairs"),
+                                 PictureFeatures::valueOf(features, "light pairs"));
+    return std::expm1(pairs) >= kLeastPairs;
+}
+
+std::optional<Scores> scoresOf(const RgbImage& image)
+{
+    const auto features = PictureFeatures::of(image);
+    if (features.empty())
+        return std::nullopt;
     const Models& both = models();
     if (!both.trees || !both.network)
         return std::nullopt;
@@ -95,14 +106,20 @@ std::optional<Scores> scoresOf(const RgbImage& image, const std::vector<PictureF
     const auto second = both.network->probabilities(image);
     if (!first || !second || first->size() != kindCount || second->size() != kindCount)
         return std::nullopt;
-    return combined(*first, *second);
+    Scores scores = combined(*first, *second);
+    if (!hasLetters(features))
+        scores.page = 0;
+    return scores;
 }
 
-bool hasLetters(const std::vector<PictureFeature>& features)
+/// A page is one whichever side is up; everything else is taken as it is.
+std::optional<Scores> scoresOfAnyTurn(const RgbImage& image)
 {
-    const float pairs = std::max(PictureFeatures::valueOf(features, "dark pairs"),
-                                 PictureFeatures::valueOf(features, "light pairs"));
-    return std::expm1(pairs) >= kLeastPairs;
+    auto scores = scoresOf(image);
+    if (!scores || scores->page >= kDocument.turningPoint || !LineDirection::isSideways(image))
+        return scores;
+    const auto turned = scoresOf(LineDirection::turned(image));
+    return turned && turned->page >= kDocument.turningPoint ? turned : scores;
 }
 
 ImageLabel labelOf(const Word& word, float score)
@@ -119,16 +136,13 @@ ImageLabel labelOf(const Word& word, float score)
 std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evidence& evidence)
 {
     try {
-        const auto features = PictureFeatures::of(image);
-        auto scores = features.empty() ? std::nullopt : scoresOf(image, features);
+        auto scores = scoresOfAnyTurn(image);
         if (!scores)
             return {};
         if (evidence.isFromCamera) {
             scores->screenshot = 0;
             scores->meme *= kCameraMeme;
         }
-        if (!hasLetters(features))
-            scores->page = 0;
         std::vector<ImageLabel> labels = {labelOf(kScreenshot, scores->screenshot),
                                           labelOf(scores->isReceipt ? kReceipt : kDocument, scores->page),
                                           labelOf(kMeme, scores->meme),
