@@ -8,7 +8,6 @@ import argparse
 import csv
 import os
 import random
-import sys
 
 import numpy as np
 from PIL import Image
