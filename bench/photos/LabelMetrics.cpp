@@ -2,14 +2,16 @@
 
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
+#include "recognition/LineDirection.h"
 #include "recognition/Sharpness.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
+#include <array>
 #include <cstdio>
+#include <ctime>
 #include <initializer_list>
 #include <map>
 #include <string_view>
@@ -59,6 +61,17 @@ struct Counts {
     int belonging = 0;
 };
 
+/// How many turned pages are still pages: a quarter, half and three quarters of a turn.
+using Turns = std::array<int, 3>;
+
+void countTurned(RgbImage page, double sharpness, int width, Turns& found)
+{
+    for (int& count : found) {
+        page = LineDirection::turned(page);
+        count += findingOf(ImageClassifier::labels(page, {}), sharpness, width) == "receipts" ? 1 : 0;
+    }
+}
+
 double share(int part, int whole)
 {
     return whole == 0 ? 0 : static_cast<double>(part) / whole;
@@ -70,6 +83,8 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
 {
     std::map<std::string, Counts> findings;
     std::map<std::string, std::map<std::string, int>> table;
+    std::vector<std::string> wrong;
+    Turns turned{};
     double seconds = 0;
     int decodedCount = 0;
     for (const Photo& photo : photos) {
@@ -79,17 +94,21 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
         if (!decoded)
             continue;
         ++decodedCount;
-        const auto start = std::chrono::steady_clock::now();
+        const std::clock_t start = std::clock(); // of the processor: others may be at work, too
         const Labels labels =
             ImageClassifier::labels(decoded->small, {.isFromCamera = decoded->traits.isFromCamera});
-        seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-        const std::string finding =
-            findingOf(labels, Sharpness::laplacianVariance(decoded->small), decoded->width);
+        seconds += static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        const double sharpness = Sharpness::laplacianVariance(decoded->small);
+        const std::string finding = findingOf(labels, sharpness, decoded->width);
         const std::string expected = expectedOf(photo.kind);
         ++findings[finding].put;
         ++findings[expected].belonging;
         findings[finding].right += finding == expected ? 1 : 0;
         ++table[photo.kind][finding];
+        if (expected == "receipts")
+            countTurned(decoded->small, sharpness, decoded->width, turned);
+        if (finding != expected && finding != "blurry")
+            wrong.push_back(photo.file + " " + finding);
     }
     std::printf("\nFindings of %d pictures, %.1f ms of labels each\n", decodedCount,
                 decodedCount == 0 ? 0 : 1000 * seconds / decodedCount);
@@ -105,6 +124,11 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
             std::printf(" %s %d", finding.c_str(), count);
         std::printf("\n");
     }
+    const int pages = findings["receipts"].belonging;
+    std::printf("pages turned by 90, 180, 270 degrees: recall %.3f %.3f %.3f\n", share(turned[0], pages),
+                share(turned[1], pages), share(turned[2], pages));
+    for (const std::string& line : wrong)
+        std::printf("wrong: %s\n", line.c_str());
 }
 
 } // namespace orlen

@@ -1,5 +1,5 @@
-// Measures the recognition of pictures on a folder of labelled ones: photo_metrics FOLDER. FOLDER holds
-// labels.csv, develop/KIND/ and sequences/.
+// Measures the recognition of pictures on a folder of labelled ones: photo_metrics FOLDER [labels]. FOLDER
+// holds labels.csv, develop/KIND/ and sequences/.
 
 #include "LabelMetrics.h"
 #include "PhotoFolder.h"
@@ -9,11 +9,13 @@
 #include <vips/vips.h>
 
 #include <cstdio>
+#include <string_view>
 
 int main(int argc, char** argv)
 {
-    if (argc != 2 || VIPS_INIT(argv[0]) != 0) {
-        std::fprintf(stderr, "usage: photo_metrics FOLDER\n");
+    const bool onlyLabels = argc == 3 && std::string_view(argv[2]) == "labels";
+    if ((argc != 2 && !onlyLabels) || VIPS_INIT(argv[0]) != 0) {
+        std::fprintf(stderr, "usage: photo_metrics FOLDER [labels]\n");
         return 2;
     }
     const std::string folder = argv[1];
@@ -22,7 +24,8 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "%s lists no pictures.\n", (folder + "/labels.csv").c_str());
         return 1;
     }
-    orlen::PrintMetrics::report(folder, photos);
+    if (!onlyLabels)
+        orlen::PrintMetrics::report(folder, photos);
     // Only now: it leaves few formats readable, and no other way to read a picture.
     orlen::ImageDecoder::prepare();
     orlen::LabelMetrics::report(folder, photos);

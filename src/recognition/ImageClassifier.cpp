@@ -1,6 +1,7 @@
 #include "recognition/ImageClassifier.h"
 
 #include "recognition/ClassifierModels.h"
+#include "recognition/LineDirection.h"
 #include "recognition/PictureFeatures.h"
 #include "recognition/SmallNetwork.h"
 #include "recognition/TreeEnsemble.h"
@@ -14,9 +15,11 @@
 
 // Two models that fail on different pictures judge each one: trees over hand-made features, and a small
 // network. Their geometric mean is high only if neither has doubts. The photo analysis treats receipts and
-// documents alike, so their scores are added up first. A score becomes a confidence along two line segments.
-// They meet at the turning point: the score from which a label was right often enough on pictures from
-// sources no model had seen. It maps to exactly the confidence at which the photo analysis decides.
+// documents alike, so their scores are added up first. Both models are surer that a picture is a screenshot
+// or a page than which of the two: other trees, which learnt nothing but that, have half the say. A score
+// becomes a confidence along two line segments. They meet at the turning point: the score from which a label
+// was right often enough on pictures from sources no model had seen. It maps to exactly the confidence at
+// which the photo analysis decides.
 
 namespace orlen {
 
@@ -40,9 +43,9 @@ struct Word {
     float turningPoint; ///< score from which on the word decides
     float decides;      ///< confidence from which on the photo analysis decides
 };
-constexpr Word kScreenshot{"screenshot", 0.58F, 0.3F};
-constexpr Word kReceipt{"receipt", 0.50F, 0.2F};
-constexpr Word kDocument{"document", 0.50F, 0.6F};
+constexpr Word kScreenshot{"screenshot", 0.50F, 0.3F};
+constexpr Word kReceipt{"receipt", 0.60F, 0.2F};
+constexpr Word kDocument{"document", 0.60F, 0.6F};
 constexpr Word kMeme{"meme", 0.80F, 0.2F};
 constexpr Word kIllustration{"illustration", 0.50F, 0.3F};
 
@@ -55,6 +58,7 @@ constexpr float kLeastShare = 1e-6F;
 struct Models {
     Models() { cv::setNumThreads(1); } // recognizers run side by side already
     std::optional<TreeEnsemble> trees = TreeEnsemble::read(ClassifierModels::trees());
+    std::optional<TreeEnsemble> pair = TreeEnsemble::read(ClassifierModels::pair());
     std::optional<SmallNetwork> network = SmallNetwork::read(ClassifierModels::network());
 };
 
@@ -82,27 +86,57 @@ Scores combined(const Probabilities& a, const Probabilities& b)
     return scores;
 }
 
-std::optional<Scores> scoresOf(const RgbImage& image, const std::vector<PictureFeature>& features)
-{
-    const Models& both = models();
-    if (!both.trees || !both.network)
-        return std::nullopt;
-    std::vector<float> values;
-    values.reserve(features.size());
-    for (const PictureFeature& feature : features)
-        values.push_back(feature.value);
-    const auto first = both.trees->probabilities(values);
-    const auto second = both.network->probabilities(image);
-    if (!first || !second || first->size() != kindCount || second->size() != kindCount)
-        return std::nullopt;
-    return combined(*first, *second);
-}
-
 bool hasLetters(const std::vector<PictureFeature>& features)
 {
     const float pairs = std::max(PictureFeatures::valueOf(features, "dark pairs"),
                                  PictureFeatures::valueOf(features, "light pairs"));
     return std::expm1(pairs) >= kLeastPairs;
+}
+
+/// Divides what the screenshot and the page have between them anew: the geometric mean of how it was divided
+/// and of what the pair's trees say.
+void divideAnew(Scores& scores, const Probabilities& pair)
+{
+    const float both = scores.screenshot + scores.page;
+    const float first = std::sqrt(std::max(scores.screenshot, kLeastShare) * std::max(pair[0], kLeastShare));
+    const float second = std::sqrt(std::max(scores.page, kLeastShare) * std::max(pair[1], kLeastShare));
+    scores.screenshot = both * first / (first + second);
+    scores.page = both - scores.screenshot;
+}
+
+std::optional<Scores> scoresOf(const RgbImage& image)
+{
+    const auto features = PictureFeatures::of(image);
+    if (features.empty())
+        return std::nullopt;
+    const Models& all = models();
+    if (!all.trees || !all.pair || !all.network)
+        return std::nullopt;
+    std::vector<float> values;
+    values.reserve(features.size());
+    for (const PictureFeature& feature : features)
+        values.push_back(feature.value);
+    const auto first = all.trees->probabilities(values);
+    const auto second = all.network->probabilities(image);
+    const auto pair = all.pair->probabilities(values);
+    if (!first || !second || !pair || first->size() != kindCount || second->size() != kindCount ||
+        pair->size() != 2)
+        return std::nullopt;
+    Scores scores = combined(*first, *second);
+    divideAnew(scores, *pair);
+    if (!hasLetters(features))
+        scores.page = 0;
+    return scores;
+}
+
+/// A page is one whichever side is up; everything else is taken as it is.
+std::optional<Scores> scoresOfAnyTurn(const RgbImage& image)
+{
+    auto scores = scoresOf(image);
+    if (!scores || scores->page >= kDocument.turningPoint || !LineDirection::isSideways(image))
+        return scores;
+    const auto turned = scoresOf(LineDirection::turned(image));
+    return turned && turned->page >= kDocument.turningPoint ? turned : scores;
 }
 
 ImageLabel labelOf(const Word& word, float score)
@@ -119,16 +153,13 @@ ImageLabel labelOf(const Word& word, float score)
 std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evidence& evidence)
 {
     try {
-        const auto features = PictureFeatures::of(image);
-        auto scores = features.empty() ? std::nullopt : scoresOf(image, features);
+        auto scores = scoresOfAnyTurn(image);
         if (!scores)
             return {};
         if (evidence.isFromCamera) {
             scores->screenshot = 0;
             scores->meme *= kCameraMeme;
         }
-        if (!hasLetters(features))
-            scores->page = 0;
         std::vector<ImageLabel> labels = {labelOf(kScreenshot, scores->screenshot),
                                           labelOf(scores->isReceipt ? kReceipt : kDocument, scores->page),
                                           labelOf(kMeme, scores->meme),

@@ -1,5 +1,6 @@
 #include "recognition/ImageClassifier.h"
 
+#include "recognition/LineDirection.h"
 #include "recognition/PixelDrawing.h"
 
 #include <gtest/gtest.h>
@@ -43,6 +44,35 @@ TEST(ImageClassifierTest, windowIsAScreenshot)
     EXPECT_EQ(decisions(terminal()), std::vector<std::string>{"screenshot"});
 }
 
+/// A light grey dialog with tabs, a framed table, a marked row and buttons.
+RgbImage dialog()
+{
+    RgbImage image = PixelDrawing::plain(512, 400, {239, 240, 241});
+    PixelDrawing::fill(image, 0, 0, 512, 26, {71, 80, 87});
+    PixelDrawing::word(image, 200, 9, 12, 8, {252, 252, 252});
+    for (int i = 0; i < 3; ++i) {
+        PixelDrawing::fill(image, 16 + i * 90, 40, 84, 24,
+                           i == 0 ? PixelDrawing::Colour{255, 255, 255}
+                                  : PixelDrawing::Colour{214, 216, 218});
+        PixelDrawing::word(image, 26 + i * 90, 48, 7, 8, {35, 38, 41});
+        PixelDrawing::fill(image, 240 + i * 88, 360, 80, 26, {252, 252, 252});
+        PixelDrawing::word(image, 254 + i * 88, 369, 6, 8, {35, 38, 41});
+    }
+    PixelDrawing::fill(image, 16, 72, 480, 272, {188, 192, 191});
+    PixelDrawing::fill(image, 17, 73, 478, 270, {255, 255, 255});
+    PixelDrawing::fill(image, 17, 115, 478, 20, {61, 174, 233});
+    for (int row = 0; row < 8; ++row)
+        for (int column = 0; column < 3; ++column)
+            PixelDrawing::word(image, 24 + column * 160, 80 + row * 20, 5 + (row + column) % 8, 8,
+                               {35, 38, 41});
+    return image;
+}
+
+TEST(ImageClassifierTest, dialogWithATableIsAScreenshotAndNoPage)
+{
+    EXPECT_EQ(decisions(dialog()), std::vector<std::string>{"screenshot"});
+}
+
 TEST(ImageClassifierTest, cameraTakesNoScreenshots)
 {
     EXPECT_TRUE(decisions(terminal(), {.isFromCamera = true}).empty());
@@ -54,13 +84,18 @@ TEST(ImageClassifierTest, textureOfAPhotoDecidesNothing)
     EXPECT_TRUE(decisions(PixelDrawing::scene(288, 384)).empty());
 }
 
-TEST(ImageClassifierTest, pageOfTextIsADocument)
+TEST(ImageClassifierTest, pageOfTextIsADocumentHoweverItIsTurned)
 {
     RgbImage page = PixelDrawing::plain(380, 512, {255, 255, 255});
     PixelDrawing::text(page, 40, 40, 30, 7, {40, 40, 40});
-    const auto words = decisions(page, {.isFromCamera = true});
-    ASSERT_EQ(words.size(), 1U);
-    EXPECT_TRUE(words.front() == "document" || words.front() == "receipt") << words.front();
+    for (int turn = 0; turn < 360; turn += 90) {
+        SCOPED_TRACE(turn);
+        const auto words = decisions(page, {.isFromCamera = true});
+        EXPECT_EQ(words.size(), 1U);
+        const std::string word = words.empty() ? "" : words.front();
+        EXPECT_TRUE(word == "document" || word == "receipt") << word;
+        page = LineDirection::turned(page);
+    }
 }
 
 TEST(ImageClassifierTest, pageWithoutLettersIsNone)

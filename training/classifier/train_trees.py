@@ -58,26 +58,26 @@ def table_of(bags, features):
     out = [b"OTRE", struct.pack("<4I", 1, features, len(CLASSES), len(trees)), start.astype("<f4").tobytes()]
     for seen, predictor in trees:
         nodes = []
-        append_branch(predictor.nodes, 0, seen, nodes)
+        append_branch(predictor.nodes, 0, seen, nodes, BAGS)
         out.append(struct.pack("<I", len(nodes)))
         out.extend(struct.pack("<HHf", *node) for node in nodes)
     return b"".join(out)
 
 
-def append_branch(nodes, at, seen, out):
-    """The left branch follows its node; the right one comes after it."""
+def append_branch(nodes, at, seen, out, bags):
+    """The left branch follows its node; the right one comes after it. The leaves are divided by the number of ensembles."""
     node = nodes[at]
     if node["is_leaf"]:
-        out.append((LEAF, 0, float(node["value"]) / BAGS))
+        out.append((LEAF, 0, float(node["value"]) / bags))
         return
     threshold = np.float32(node["num_threshold"])
     if threshold > node["num_threshold"]:  # rounding must not let more values pass
         threshold = np.nextafter(threshold, np.float32(-np.inf))
     mine = len(out)
     out.append(None)
-    append_branch(nodes, node["left"], seen, out)
+    append_branch(nodes, node["left"], seen, out, bags)
     out[mine] = (int(seen[node["feature_idx"]]), len(out), float(threshold))
-    append_branch(nodes, node["right"], seen, out)
+    append_branch(nodes, node["right"], seen, out, bags)
 
 
 def main():

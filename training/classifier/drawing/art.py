@@ -196,6 +196,51 @@ def _book_page(rng, numbers, photos):
     return noisy(page, numbers, rng.uniform(0.5, 4))
 
 
+def _spread(rng, numbers, photos):
+    """An open book: two cream pages, the gutter between them, text beside a plate."""
+    left, right = _book_page(rng, numbers, photos), _book_page(rng, numbers, photos)
+    high = rng.randint(560, 800)
+    wide = int(high * rng.uniform(0.62, 0.85))
+    tone = left.getpixel((3, 3))
+    if rng.random() < 0.5:  # one side is text alone
+        right = Image.new("RGB", (wide, high), tone)
+        paragraph(ImageDraw.Draw(right), Lettering(rng, "serif"), (wide * 0.14, high * 0.1, wide * 0.86, high * 0.9),
+                  rng.randint(13, 20), (60, 50, 40), 1.5, rng.randint(6, 20))
+    sides = [left.resize((wide, high)), right.resize((wide, high))]
+    if rng.random() < 0.5:
+        sides.reverse()
+    page = Image.new("RGB", (2 * wide, high), tone)
+    page.paste(sides[0], (0, 0))
+    page.paste(sides[1], (wide, 0))
+    away = np.abs(np.arange(2 * wide) - wide) / wide
+    fold = 1 - rng.uniform(0.1, 0.5) * np.exp(-away / rng.uniform(0.02, 0.1))
+    array = np.asarray(page, np.float32) * fold[None, :, None]
+    return noisy(Image.fromarray(np.clip(array, 0, 255).astype(np.uint8)), numbers, rng.uniform(0.5, 3))
+
+
+def _diagram(rng):
+    """A sheet of a drawing or a plan: boxes, circles and lines with a few words."""
+    width, height = rng.randint(460, 900), rng.randint(420, 800)
+    page = Image.new("RGB", (width, height), rng.choice(((255, 255, 255), (255, 255, 255), (250, 246, 232), (235, 240, 245))))
+    draw, hand, ink = ImageDraw.Draw(page), Lettering(rng, "sans"), _colour(rng, 0, 90)
+    step = rng.randint(14, 40)
+    if rng.random() < 0.4:
+        for at in range(0, max(width, height), step):
+            draw.line((at, 0, at, height), fill=(215, 220, 230))
+            draw.line((0, at, width, at), fill=(215, 220, 230))
+    points = [(rng.uniform(0.1, 0.9) * width, rng.uniform(0.1, 0.9) * height) for _ in range(rng.randint(4, 14))]
+    for a, b in zip(points, points[1:]):
+        middle = (b[0], a[1]) if rng.random() < 0.6 else a
+        draw.line((a, middle, b), fill=ink, width=rng.randint(1, 3))
+    for x, y in points:
+        w, h = rng.uniform(20, 90), rng.uniform(12, 50)
+        shape = draw.rectangle if rng.random() < 0.6 else draw.ellipse
+        shape((x - w, y - h, x + w, y + h), outline=ink, fill=rng.choice((None, (255, 255, 255), _colour(rng, 150))), width=rng.randint(1, 3))
+        if rng.random() < 0.7:
+            draw.text((x - w * 0.7, y - 7), hand.word(), font=hand.font(rng.randint(10, 18)), fill=ink)
+    return page
+
+
 def _wash(rng, numbers, width, height):
     """Water colour: soft stains with thin ink contours."""
     page = np.full((height, width, 3), 252, np.float32)
@@ -225,10 +270,14 @@ def illustration(rng, numbers, photos):
         base = photos.picture(rng)
         scale = 620 / max(base.size)
         return _painted(rng, numbers, base.resize((int(base.width * scale), int(base.height * scale))))
-    if chance < 0.62:
+    if chance < 0.58:
         return _line_art(rng, *size)
-    if chance < 0.78:
+    if chance < 0.65:
+        return _diagram(rng)
+    if chance < 0.76:
         return _comic_page(rng, numbers, photos)
-    if chance < 0.89:
+    if chance < 0.83:
         return _book_page(rng, numbers, photos)
+    if chance < 0.91:
+        return _spread(rng, numbers, photos)
     return _wash(rng, numbers, *size)

@@ -200,7 +200,18 @@ def _scanned(page, rng, numbers):
     return page
 
 
-def _presented(page, rng, numbers, photos, share):
+def _far_away(page, rng, numbers):
+    """Small on a large cloth, mostly a dark one."""
+    size = rng.choice(((768, 1024), (1024, 768), (800, 800)))
+    tone = numbers.uniform(8, 60, 3) if rng.random() < 0.7 else numbers.uniform(60, 200, 3)
+    field = fractal(numbers, *size, start=4, fall=rng.uniform(0.5, 0.9))
+    cloth = Image.fromarray(np.clip(tone + 18 * field[..., None], 0, 255).astype(np.uint8))
+    return laid_on(page, cloth, rng, numbers, (0.32, 0.72))
+
+
+def presented(page, rng, numbers, photos, share):
+    if rng.random() < share * 0.3:
+        return _far_away(page, rng, numbers)
     if rng.random() < share:
         if rng.random() < 0.25:  # so near that the page fills the picture
             size = (int(page.width * 0.9), int(page.height * 0.8))
@@ -216,16 +227,21 @@ def _presented(page, rng, numbers, photos, share):
     return page
 
 
+def _either_way_up(page, rng):
+    """Pages are photographed and scanned upside down as well. The program turns those that lie on their side."""
+    return page.transpose(Image.ROTATE_180) if rng.random() < 0.4 else page
+
+
 def receipt(rng, numbers, photos):
     page = _till_receipt(rng)
     if rng.random() < 0.12:
         wide = Image.new("RGB", (page.width * 2, page.height), (255, 255, 255))
         wide.paste(page, (rng.randint(0, page.width), 0))
         page = wide
-    return _presented(page, rng, numbers, photos, 0.5)
+    return _either_way_up(presented(page, rng, numbers, photos, 0.5), rng)
 
 
 def document(rng, numbers, photos):
     if rng.random() < 0.08:
-        return _presented(_card(rng), rng, numbers, photos, 0.8)
-    return _presented(_sheet(rng), rng, numbers, photos, 0.35)
+        return _either_way_up(presented(_card(rng), rng, numbers, photos, 0.8), rng)
+    return _either_way_up(presented(_sheet(rng), rng, numbers, photos, 0.35), rng)

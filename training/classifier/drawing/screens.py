@@ -1,265 +1,29 @@
-"""Screenshots: windows, terminals, editors, phones, web pages, dialogs, whole desktops."""
-from dataclasses import dataclass
-
+"""Screenshots: windows, phones, dialogs, whole desktops."""
 import numpy as np
 from PIL import Image, ImageDraw
 
-from .lettering import Lettering, amount, paragraph
+from .lettering import Lettering, paragraph
+from .looks import any_look, picture, title_bar, words
+from .programs import chat, editor, grid, settings, street_map, terminal, viewer, web
+from .sheets import cards, drawing_board, pages, table_dialog
 from .treatment import fractal, smooth_field
 
 
-@dataclass
-class Look:
-    """The colours of one program."""
-    paper: tuple
-    panel: tuple
-    ink: tuple
-    faint: tuple
-    accent: tuple
-
-
-def _look(rng, dark=None):
-    accent = tuple(rng.randint(20, 235) for _ in range(3))
-    if dark if dark is not None else rng.random() < 0.42:
-        base = rng.randint(0, 48)
-        tint = [rng.randint(0, 14) for _ in range(3)]
-        paper = tuple(base + t for t in tint)
-        panel = tuple(min(255, v + rng.randint(8, 28)) for v in paper)
-        return Look(paper, panel, (rng.randint(190, 255),) * 3, (rng.randint(110, 160),) * 3, accent)
-    base = rng.choice((255, 255, 255, 250, 245, 240, 230))
-    panel = tuple(max(0, base - rng.randint(4, 30)) for _ in range(3)) if rng.random() < 0.3 else (max(0, base - rng.randint(3, 26)),) * 3
-    return Look((base,) * 3, panel, (rng.randint(0, 60),) * 3, (rng.randint(90, 170),) * 3, accent)
-
-
-def _line(draw, hand, x, y, size, colour, width):
-    draw.text((x, y), hand.line(size, max(20, width)), font=hand.font(size), fill=colour)
-
-
-def _picture(image, rng, photos, box):
-    w, h = int(box[2] - box[0]), int(box[3] - box[1])
-    if w > 3 and h > 3:
-        image.paste(photos.picture(rng, drawn=0.25).resize((w, h)), (int(box[0]), int(box[1])))
-
-
-def _title_bar(draw, rng, look, width, high):
-    draw.rectangle((0, 0, width, high), fill=look.panel)
-    hand = Lettering(rng, "sans")
-    if rng.random() < 0.8:
-        _line(draw, hand, rng.choice((10, width * 0.4)), high * 0.25, high * 0.45, look.ink, width * 0.25)
-    for k in range(3):
-        x = width - high * (k + 1) if rng.random() < 0.95 else high * k
-        draw.ellipse((x + high * 0.3, high * 0.3, x + high * 0.7, high * 0.7), outline=look.ink, fill=rng.choice((None, look.accent)))
-    return high
-
-
-def _terminal(image, rng, photos, box):
-    draw, hand = ImageDraw.Draw(image), Lettering(rng, "mono", 0.05)
-    look = _look(rng, rng.random() < 0.85)
-    if rng.random() < 0.2:
-        look.paper = tuple(rng.randint(0, 110) for _ in range(3))
-    draw.rectangle(box, fill=look.paper)
-    size, y = rng.randint(11, 20), box[1] + 6
-    colours = [look.ink] * 3 + [tuple(rng.randint(60, 255) for _ in range(3)) for _ in range(3)]
-    stop = box[1] + (box[3] - box[1]) * rng.choice((0.15, 0.4, 0.7, 1, 1, 1))
-    while y + size < stop:
-        x, end = box[0] + 6, box[0] + (box[2] - box[0]) * rng.uniform(0.02, 0.9)
-        while x < end:
-            text = hand.words(1, 3)
-            draw.text((x, y), text, font=hand.font(size), fill=rng.choice(colours))
-            x += hand.font(size).getlength(text) + size * rng.choice((0.6, 0.6, 2))
-        y += size * 1.25
-
-
-def _editor(image, rng, photos, box):
-    draw, hand, look = ImageDraw.Draw(image), Lettering(rng, "mono", 0.04), _look(rng)
-    draw.rectangle(box, fill=look.paper)
-    left = box[0] + rng.choice((0, 120, 220))
-    draw.rectangle((box[0], box[1], left, box[3]), fill=look.panel)
-    size = rng.randint(11, 17)
-    if left > box[0]:
-        paragraph(draw, Lettering(rng, "sans"), (box[0] + 10, box[1] + 10, left - 10, box[3]), size, look.faint, 1.7)
-    y, indent, row = box[1] + 8, 0, 1
-    colours = [look.ink, look.ink, look.accent, look.faint, tuple(rng.randint(60, 220) for _ in range(3))]
-    while y + size < box[3] - 20:
-        draw.text((left + 6, y), str(row), font=hand.font(size), fill=look.faint)
-        x = left + size * 3 + indent * size * 1.6
-        for _ in range(rng.choice((0, 1, 2, 3, 4, 6))):
-            text = hand.word() + rng.choice(("", "(", ");", " =", ":", "{"))
-            if x > box[2] - 90:
-                break
-            draw.text((x, y), text, font=hand.font(size), fill=rng.choice(colours))
-            x += hand.font(size).getlength(text + " ")
-        indent = min(5, max(0, indent + rng.choice((-1, 0, 0, 1))))
-        y += size * 1.45
-        row += 1
-    draw.rectangle((box[0], box[3] - 20, box[2], box[3]), fill=look.accent)
-
-
-def _web(image, rng, photos, box):
-    draw, look = ImageDraw.Draw(image), _look(rng)
-    hand, heading = Lettering(rng, rng.choice(("sans", "sans", "serif"))), Lettering(rng, "bold")
-    draw.rectangle(box, fill=look.paper)
-    y = box[1]
-    if rng.random() < 0.7:  # tabs and the address
-        draw.rectangle((box[0], y, box[2], y + 62), fill=look.panel)
-        draw.rectangle((box[0] + 8, y + 6, box[0] + 190, y + 30), fill=look.paper)
-        _line(draw, hand, box[0] + 16, y + 10, 12, look.ink, 160)
-        draw.rounded_rectangle((box[0] + 90, y + 34, box[2] - 90, y + 56), 11, fill=look.paper)
-        _line(draw, hand, box[0] + 104, y + 38, 12, look.faint, 300)
-        y += 62
-    if rng.random() < 0.7:
-        draw.rectangle((box[0], y, box[2], y + 44), fill=rng.choice((look.accent, look.paper, look.panel)))
-        for k in range(rng.randint(3, 7)):
-            _line(draw, hand, box[0] + 20 + k * 110, y + 14, 14, look.ink, 70)
-        y += 44
-    side = rng.choice((0, 0, 180, 240))
-    if side:
-        paragraph(draw, hand, (box[0] + 14, y + 16, box[0] + side - 14, box[3]), 13, look.ink, 2)
-    left, columns = box[0] + side + 24, rng.randint(1, 4)
-    while y < box[3] - 60:
-        for k in range(columns):
-            a = left + (box[2] - left) * k / columns
-            b = left + (box[2] - left) * (k + 1) / columns - 20
-            at = y + 16
-            if rng.random() < 0.5:
-                _picture(image, rng, photos, (a, at, b, min(box[3], at + rng.randint(60, 220))))
-                at += 224 if columns > 1 else 230
-            if at < box[3] - 20:
-                _line(draw, heading, a, at, rng.randint(15, 28), look.ink, b - a)
-                paragraph(draw, hand, (a, at + 34, b, min(box[3], at + rng.randint(50, 190))), rng.randint(11, 16), look.ink, 1.5)
-            if rng.random() < 0.3:
-                draw.rounded_rectangle((a, at + 60, a + 110, at + 92), 6, fill=look.accent)
-        y += rng.randint(220, 430)
-
-
-def _grid(image, rng, photos, box):
-    """Icons or thumbnails in a file window, or the cells of a spreadsheet."""
-    draw, look, hand = ImageDraw.Draw(image), _look(rng), Lettering(rng, "sans")
-    draw.rectangle(box, fill=look.paper)
-    if rng.random() < 0.5:
-        step = rng.randint(80, 150)
-        for y in range(int(box[1]) + 14, int(box[3]) - step, step):
-            for x in range(int(box[0]) + 14, int(box[2]) - step, step):
-                at = (x, y, x + step * 0.7, y + step * 0.6)
-                if rng.random() < 0.45:
-                    _picture(image, rng, photos, at)
-                else:
-                    draw.rounded_rectangle(at, rng.choice((3, 14)), fill=tuple(rng.randint(30, 255) for _ in range(3)))
-                _line(draw, hand, x, y + step * 0.68, 12, look.ink, step * 0.7)
-        return
-    row, size = rng.randint(18, 34), rng.randint(11, 14)
-    columns = sorted(rng.uniform(box[0], box[2]) for _ in range(rng.randint(2, 10)))
-    draw.rectangle((box[0], box[1], box[2], box[1] + row), fill=look.panel)
-    for k, y in enumerate(range(int(box[1]), int(box[3]) - row, row)):
-        if rng.random() < 0.06:
-            draw.rectangle((box[0], y, box[2], y + row), fill=look.accent)
-        for a, b in zip([box[0]] + columns, columns + [box[2]]):
-            if b - a > 30 and rng.random() < 0.8:
-                text = amount(rng) if rng.random() < 0.4 else hand.line(size, b - a - 12)
-                draw.text((a + 6, y + (row - size) / 2), text, font=hand.font(size), fill=look.ink)
-        draw.line((box[0], y, box[2], y), fill=look.panel)
-    if rng.random() < 0.6:
-        for x in columns:
-            draw.line((x, box[1], x, box[3]), fill=look.panel)
-
-
-def _viewer(image, rng, photos, box):
-    """A picture or a film with controls around it."""
-    draw, look, hand = ImageDraw.Draw(image), _look(rng), Lettering(rng, "sans")
-    draw.rectangle(box, fill=look.paper)
-    right = box[2] - rng.choice((0, 0, 200, 300))
-    _picture(image, rng, photos, (box[0] + rng.choice((0, 30)), box[1] + 40, right - rng.choice((0, 30)), box[3] - 60))
-    for k in range(rng.randint(3, 8)):
-        draw.ellipse((box[0] + 20 + k * 40, box[3] - 44, box[0] + 44 + k * 40, box[3] - 20), fill=rng.choice((look.ink, look.faint)))
-    draw.line((box[0] + 20, box[3] - 54, right - 20, box[3] - 54), fill=look.accent, width=4)
-    _line(draw, hand, box[0] + 12, box[1] + 12, 15, look.ink, 300)
-    if right < box[2]:
-        paragraph(draw, hand, (right + 12, box[1] + 20, box[2] - 10, box[3]), 13, look.ink, 2)
-
-
-def _settings(image, rng, photos, box):
-    """Rows with switches, fields, check boxes and buttons."""
-    draw, look, hand = ImageDraw.Draw(image), _look(rng), Lettering(rng, "sans")
-    draw.rectangle(box, fill=look.panel if rng.random() < 0.5 else look.paper)
-    y, step, size = box[1] + 16, rng.randint(28, 62), rng.randint(12, 18)
-    right, left = box[2] - 24, box[0] + 20
-    if rng.random() < 0.4:
-        draw.rectangle((box[0], box[1], left + 150, box[3]), fill=look.panel)
-        paragraph(draw, hand, (left, y, left + 130, box[3]), size, look.ink, 2.2)
-        left += 175
-    while y + step < box[3] - 50:
-        kind = rng.random()
-        if right - left > 160:
-            _line(draw, hand, left + 26, y, size, look.ink, (right - left) * rng.uniform(0.2, 0.6))
-        if kind < 0.3:
-            on = rng.random() < 0.5
-            draw.rounded_rectangle((right - 40, y, right, y + 20), 10, fill=look.accent if on else look.faint)
-            draw.ellipse((right - (20 if on else 38), y + 2, right - (4 if on else 22), y + 18), fill=(255, 255, 255))
-        elif kind < 0.5:
-            draw.rectangle((left, y, left + 16, y + 16), outline=look.ink, fill=look.accent if rng.random() < 0.5 else None)
-        elif kind < 0.7:
-            draw.rectangle((right - 170, y - 4, right, y + size + 6), outline=look.faint, fill=look.paper)
-            _line(draw, hand, right - 160, y, size, look.ink, 120)
-        elif kind < 0.85:
-            draw.ellipse((left, y, left + 20, y + 20), fill=tuple(rng.randint(40, 240) for _ in range(3)))
-            _line(draw, hand, left + 26, y + size * 1.2, size * 0.8, look.faint, (right - left) * 0.5)
-        else:
-            draw.line((left, y + step - 8, right, y + step - 8), fill=look.faint)
-        y += step
-    for k in range(rng.randint(1, 3)):
-        x = right - 110 * (k + 1)
-        draw.rounded_rectangle((x, box[3] - 44, x + 96, box[3] - 14), rng.choice((0, 4, 15)), fill=look.accent if k == 0 else look.paper,
-                               outline=look.faint)
-        _line(draw, hand, x + 16, box[3] - 38, 14, look.ink, 60)
-
-
-def _chat(image, rng, photos, box):
-    draw, look, hand = ImageDraw.Draw(image), _look(rng), Lettering(rng, "sans")
-    draw.rectangle(box, fill=look.paper)
-    y, size = box[1] + 14, rng.randint(13, 22)
-    while y < box[3] - size * 4:
-        mine, width = rng.random() < 0.5, (box[2] - box[0]) * rng.uniform(0.25, 0.7)
-        high = size * rng.randint(2, 6)
-        x = box[2] - 14 - width if mine else box[0] + 14
-        draw.rounded_rectangle((x, y, x + width, y + high), 14, fill=look.accent if mine else look.panel)
-        if rng.random() < 0.1:
-            _picture(image, rng, photos, (x + 8, y + 8, x + width - 8, y + high))
-        else:
-            paragraph(draw, hand, (x + 12, y + 8, x + width - 12, y + high - 2), size, look.ink)
-        y += high + rng.randint(6, 26)
-    draw.rounded_rectangle((box[0] + 12, box[3] - 44, box[2] - 12, box[3] - 10), 16, fill=look.panel)
-
-
-def _map(image, rng, photos, box):
-    draw = ImageDraw.Draw(image)
-    land = rng.choice(((240, 236, 226), (228, 240, 220), (40, 44, 52)))
-    draw.rectangle(box, fill=land)
-    for _ in range(rng.randint(4, 10)):
-        x, y, s = rng.uniform(box[0], box[2]), rng.uniform(box[1], box[3]), rng.uniform(20, 160)
-        draw.ellipse((x, y, x + s, y + s * 0.7), fill=rng.choice(((190, 225, 180), (170, 210, 240), (215, 210, 200))))
-    for _ in range(rng.randint(8, 30)):
-        ends = [rng.uniform(box[i], box[i + 2]) for i in (0, 1, 0, 1)]
-        draw.line(ends, fill=rng.choice(((255, 255, 255), (250, 220, 130), (200, 200, 200))), width=rng.choice((2, 4, 7)))
-    hand = Lettering(rng, "sans")
-    for _ in range(rng.randint(5, 20)):
-        _line(draw, hand, rng.uniform(box[0], box[2] - 60), rng.uniform(box[1], box[3] - 14), 12, (90, 90, 90), 80)
-    draw.rectangle((box[0], box[1], box[2], box[1] + 1), fill=land)
-
-
-_CONTENTS = (_terminal, _terminal, _editor, _web, _web, _grid, _grid, _viewer, _settings, _settings, _chat, _map)
+_CONTENTS = (pages, pages, table_dialog, table_dialog, cards, drawing_board,
+             terminal, terminal, editor, web, web, grid, grid, viewer, settings, settings, chat, street_map)
 
 
 def _window(rng, photos, width, height):
     image = Image.new("RGB", (width, height))
-    look, top = _look(rng), 0
+    look, top = any_look(rng), 0
     draw = ImageDraw.Draw(image)
     if rng.random() < 0.75:
-        top = _title_bar(draw, rng, look, width, rng.randint(24, 42))
+        top = title_bar(draw, rng, look, width, rng.randint(24, 42))
     if rng.random() < 0.35:
         draw.rectangle((0, top, width, top + 28), fill=look.panel)
         hand = Lettering(rng, "sans")
         for k in range(rng.randint(3, 8)):
-            _line(draw, hand, 10 + k * 72, top + 7, 13, look.ink, 50)
+            words(draw, hand, 10 + k * 72, top + 7, 13, look.ink, 50)
         top += 28
     if rng.random() < 0.25 and width > 700:
         middle = int(width * rng.uniform(0.3, 0.7))
@@ -286,11 +50,11 @@ def _wallpaper(rng, numbers, photos, size):
 def _desktop(rng, numbers, photos):
     size = rng.choice(((1280, 720), (1366, 768), (1280, 800), (1440, 900), (1280, 1024), (1600, 700)))
     image = _wallpaper(rng, numbers, photos, size)
-    draw, look, hand = ImageDraw.Draw(image), _look(rng), Lettering(rng, "sans")
+    draw, look, hand = ImageDraw.Draw(image), any_look(rng), Lettering(rng, "sans")
     for k in range(rng.choice((0, 0, 4, 9))):
         x, y = 20 + k // 5 * 90, 20 + k % 5 * 100
         draw.rounded_rectangle((x, y, x + 48, y + 48), 8, fill=tuple(rng.randint(40, 255) for _ in range(3)))
-        _line(draw, hand, x - 8, y + 54, 12, (255, 255, 255), 70)
+        words(draw, hand, x - 8, y + 54, 12, (255, 255, 255), 70)
     for _ in range(rng.choice((0, 1, 1, 1, 2, 2, 3))):
         w, h = int(size[0] * rng.uniform(0.35, 0.9)), int(size[1] * rng.uniform(0.35, 0.85))
         x, y = rng.randint(0, size[0] - w), rng.randint(0, size[1] - h)
@@ -302,32 +66,32 @@ def _desktop(rng, numbers, photos):
     for k in range(rng.randint(3, 14)):
         draw.rounded_rectangle((12 + k * (bar + 6), top + 6, bar + k * (bar + 6), top + bar - 6), 5,
                                fill=tuple(rng.randint(30, 255) for _ in range(3)))
-    _line(draw, hand, size[0] - 120, top + bar * 0.3, 14, look.ink, 100)
+    words(draw, hand, size[0] - 120, top + bar * 0.3, 14, look.ink, 100)
     return image
 
 
 def _phone(rng, numbers, photos):
     size = rng.choice(((540, 1170), (540, 960), (600, 1300), (585, 1266), (640, 900), (960, 540)))
-    look = _look(rng)
+    look = any_look(rng)
     image = Image.new("RGB", size, look.paper)
     draw, hand, heading = ImageDraw.Draw(image), Lettering(rng, "sans"), Lettering(rng, "bold")
     top = 30
-    content = rng.choice((_settings, _settings, _chat, _web, _grid, _map, _viewer, None))
+    content = rng.choice((settings, settings, chat, web, grid, street_map, viewer, None))
     if content is None:  # cards in a list, perhaps with pictures
         y = top + 90
         while y < size[1] - 110:
             high = rng.randint(80, 320)
             draw.rounded_rectangle((16, y, size[0] - 16, y + high - 14), rng.choice((4, 20)), fill=look.panel)
             if high > 150:
-                _picture(image, rng, photos, (16, y, size[0] - 16, y + high - 90))
-            _line(draw, heading, 34, y + high - 76, 22, look.ink, size[0] - 120)
-            _line(draw, hand, 34, y + high - 44, 17, look.faint, size[0] - 90)
+                picture(image, rng, photos, (16, y, size[0] - 16, y + high - 90))
+            words(draw, heading, 34, y + high - 76, 22, look.ink, size[0] - 120)
+            words(draw, hand, 34, y + high - 44, 17, look.faint, size[0] - 90)
             y += high
     else:
         content(image, rng, photos, (0, top + rng.choice((0, 70)), *size))
     if rng.random() < 0.6:
         draw.rectangle((0, top, size[0], top + 64), fill=rng.choice((look.accent, look.paper, look.panel)))
-        _line(draw, heading, 70, top + 18, 26, look.ink, size[0] * 0.5)
+        words(draw, heading, 70, top + 18, 26, look.ink, size[0] * 0.5)
     draw.rectangle((0, 0, size[0], top), fill=rng.choice((look.paper, look.accent, (0, 0, 0))))
     draw.text((18, 6), "10:24", font=hand.font(17), fill=look.ink)
     for k in range(3):
@@ -345,12 +109,57 @@ def _phone(rng, numbers, photos):
     return image
 
 
+def _photo_phone(rng, photos):
+    """A phone that shows little but a photo: a gallery, a camera, a story, a locked screen."""
+    size = rng.choice(((540, 1170), (540, 960), (600, 1300), (585, 1266), (960, 540)))
+    image = Image.new("RGB", size, rng.choice(((0, 0, 0), (0, 0, 0), (255, 255, 255), (24, 24, 28))))
+    photo = photos.picture(rng)
+    scale = max(size[0] / photo.width, size[1] / photo.height) if rng.random() < 0.6 else size[0] / photo.width
+    photo = photo.resize((max(1, int(photo.width * scale)), max(1, int(photo.height * scale))))
+    image.paste(photo, ((size[0] - photo.width) // 2, (size[1] - photo.height) // 2))
+    draw, hand, bold = ImageDraw.Draw(image), Lettering(rng, "sans", 0.1), Lettering(rng, "bold", 0.1)
+    w, h = size
+    white, lines = (255, 255, 255), rng.randint(1, 3)
+    draw.text((20, 8), f"{rng.randint(0, 23)}:{rng.randint(10, 59)}", font=hand.font(18), fill=white)
+    for k in range(3):
+        draw.rectangle((w - 30 * (k + 1), 10, w - 30 * k - 12, 22), fill=white)
+    way = rng.randint(0, 3)
+    if way == 0:  # locked: a large clock, messages
+        draw.text((w * 0.25, h * 0.1), f"{rng.randint(10, 23)}:{rng.randint(10, 59)}", font=bold.font(w * 0.2), fill=white)
+        words(draw, hand, w * 0.3, h * 0.1 + w * 0.24, 22, white, w * 0.4)
+        for k in range(rng.randint(0, 3)):
+            y = h * 0.45 + k * 92
+            draw.rounded_rectangle((20, y, w - 20, y + 80), 20, fill=(235, 235, 240))
+            words(draw, bold, 40, y + 12, 18, (20, 20, 20), w * 0.5)
+            words(draw, hand, 40, y + 42, 16, (70, 70, 70), w * 0.8)
+    elif way == 1:  # a story or a film: words and buttons along the edges
+        for k in range(lines):
+            words(draw, hand, 24, h * 0.84 + k * 26, 18, white, w * 0.6)
+        for k in range(4):
+            y = h * 0.5 + k * 74
+            draw.ellipse((w - 64, y, w - 24, y + 40), fill=rng.choice((white, (230, 60, 80), (40, 40, 40))))
+            draw.text((w - 60, y + 44), str(rng.randint(1, 999)), font=hand.font(14), fill=white)
+    else:  # a gallery or a camera: bars at both ends
+        bar = rng.choice(((0, 0, 0), (20, 20, 24), white))
+        ink = (30, 30, 30) if bar == white else white
+        draw.rectangle((0, h - 110, w, h), fill=bar)
+        draw.rectangle((0, 0, w, 80), fill=bar)
+        words(draw, bold, 70, 44, 20, ink, w * 0.5)
+        for k in range(rng.randint(3, 5)):
+            x = w * (k + 0.5) / 5
+            draw.ellipse((x - 16, h - 84, x + 16, h - 52), outline=ink, width=3)
+            words(draw, hand, x - 20, h - 40, 13, ink, 40)
+        if way == 3:
+            draw.ellipse((w / 2 - 42, h - 190, w / 2 + 42, h - 106), fill=white, outline=(200, 200, 200), width=6)
+    return image
+
+
 def _dialog(rng, photos):
     """A small window, cut out exactly."""
     size = (rng.randint(260, 640), rng.randint(130, 460))
     if rng.random() < 0.5:
         return _window(rng, photos, *size)
-    look, hand = _look(rng), Lettering(rng, "sans")
+    look, hand = any_look(rng), Lettering(rng, "sans")
     image = Image.new("RGB", size, look.paper if rng.random() < 0.5 else look.panel)
     draw = ImageDraw.Draw(image)
     draw.text((20, 14), Lettering(rng, "bold").words(2, 4), font=Lettering(rng, "bold").font(20), fill=look.ink)
@@ -358,7 +167,7 @@ def _dialog(rng, photos):
     for k in range(rng.randint(1, 3)):
         x = size[0] - 120 * (k + 1)
         draw.rounded_rectangle((x, size[1] - 44, x + 104, size[1] - 12), 5, fill=look.accent if k == 0 else look.paper, outline=look.faint)
-        _line(draw, hand, x + 18, size[1] - 36, 14, look.ink, 60)
+        words(draw, hand, x + 18, size[1] - 36, 14, look.ink, 60)
     return image
 
 
@@ -368,8 +177,10 @@ def screenshot(rng, numbers, photos):
         image = _window(rng, photos, rng.randint(640, 1400), rng.randint(400, 900))
     elif chance < 0.56:
         image = _desktop(rng, numbers, photos)
-    elif chance < 0.83:
+    elif chance < 0.75:
         image = _phone(rng, numbers, photos)
+    elif chance < 0.83:
+        image = _photo_phone(rng, photos)
     else:
         image = _dialog(rng, photos)
     if rng.random() < 0.08:

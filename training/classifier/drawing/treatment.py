@@ -75,10 +75,10 @@ def lit(image, numbers, strength):
     return Image.fromarray(np.clip(array * field, 0, 255).astype(np.uint8))
 
 
-def laid_on(page, background, rng, numbers):
+def laid_on(page, background, rng, numbers, room=(0.72, 1.15)):
     """A page photographed on a background: perspective, a shadow, uneven light, noise."""
     width, height = background.size
-    scale = min(width / page.width, height / page.height) * rng.uniform(0.72, 1.15)
+    scale = min(width / page.width, height / page.height) * rng.uniform(*room)
     pw, ph = page.width * scale, page.height * scale
     x, y = (width - pw) / 2 + rng.uniform(-0.08, 0.08) * width, (height - ph) / 2 + rng.uniform(-0.08, 0.08) * height
     bend = 0.07 * min(pw, ph)
