@@ -31,6 +31,12 @@ constexpr std::chrono::hours kDoubtful{7 * 24};
 
 constexpr unsigned kFolderMode = 0700;
 
+/// So is a time that lies ahead: some clock was wrong.
+bool isLongAgo(TimePoint time, TimePoint now, std::chrono::hours most)
+{
+    return time < now - most || time > now + most;
+}
+
 /// A record of the file that there is.
 struct Old {
     TimePoint used;
@@ -123,12 +129,12 @@ std::vector<std::unique_ptr<PictureMemory::Known>> PictureMemory::recall(const s
     PictureFile(m_path, m_mostBytes).visit([&](const Record& record, PictureFile::Place) {
         const auto [first, last] = wanted.equal_range(record.key);
         const auto answer = first == last ? std::nullopt : ImageMessages::decodedAnswer(record.answer);
-        if (!answer || (!answer->analysis && now - record.used > kDoubtful))
+        if (!answer || (!answer->analysis && isLongAgo(record.used, now, kDoubtful)))
             return;
         // The time at which a file was no picture stays the first one.
         if (answer->analysis) {
             m_used.insert(record.key);
-            m_isStale = m_isStale || now - record.used > kUseStep;
+            m_isStale = m_isStale || isLongAgo(record.used, now, kUseStep);
         }
         for (auto image = first; image != last; ++image)
             known[image->second] = std::make_unique<Known>(answer->analysis);
@@ -159,7 +165,7 @@ void PictureMemory::remember(const std::vector<Learned>& learned, TimePoint now)
     std::vector<Old> old;
     file.visit([&](const Record& record, PictureFile::Place place) {
         if (seen.insert(record.key).second)
-            old.push_back({m_used.contains(record.key) ? now : record.used, place});
+            old.push_back({m_used.contains(record.key) ? now : std::min(record.used, now), place});
     });
     NextFile next(file, std::move(added), std::move(old));
     next.shorten(m_mostBytes);

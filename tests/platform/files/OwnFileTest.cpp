@@ -9,10 +9,43 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <csignal>
+#include <functional>
+#include <string_view>
+#include <sys/resource.h>
 #include <thread>
+#include <unistd.h>
 
 namespace orlen {
 namespace {
+
+/// One and the same piece, so many times.
+std::function<std::string_view()> pieces(std::string_view piece, int count)
+{
+    return [piece, count]() mutable { return count-- > 0 ? piece : std::string_view(); };
+}
+
+/// While it lives, no file can grow larger: as on a full disk, a write fails half way.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t mostBytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{.rlim_cur = mostBytes, .rlim_max = m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
 
 TEST(OwnFileTest, replacingLeavesOnlyTheNewFile)
 {
@@ -45,6 +78,47 @@ TEST(OwnFileTest, replacedLinkDoesNotTouchItsTarget)
     const std::string link = home.link("link", target);
     EXPECT_TRUE(OwnFile::replace(link, "new").ok());
     EXPECT_EQ(TempHome::content(target), "old");
+    EXPECT_EQ(TempHome::content(link), "new");
+}
+
+TEST(OwnFileTest, piecesBecomeOneFile)
+{
+    const TempHome home;
+    const std::string path = home.file("file", "old");
+    TempHome::setMode(path, 0644);
+    const std::string piece(100'000, 'p');
+    EXPECT_TRUE(OwnFile::replaceByPieces(path, pieces(piece, 30)).ok());
+    EXPECT_EQ(TempHome::content(path), std::string(3'000'000, 'p'));
+    EXPECT_EQ(statusOf(path).value().mode, 0600U);
+    EXPECT_TRUE(OwnFile::replaceByPieces(path, pieces(piece, 0)).ok());
+    EXPECT_EQ(TempHome::content(path), "");
+    EXPECT_THAT(listNames(home.path()), testing::ElementsAre("file"));
+}
+
+TEST(OwnFileTest, aFullDiskLeavesTheOldFile)
+{
+    const TempHome home;
+    const std::string path = home.file("file", "old");
+    const std::string piece(100'000, 'p');
+    for (const rlim_t most : {rlim_t{0}, rlim_t{1}, rlim_t{250'000}, rlim_t{2'999'999}}) {
+        const FullDisk full(most);
+        EXPECT_EQ(OwnFile::replaceByPieces(path, pieces(piece, 30)).error(), EFBIG) << most;
+    }
+    EXPECT_EQ(TempHome::content(path), "old");
+    EXPECT_THAT(listNames(home.path()), testing::ElementsAre("file")) << "nothing unfinished stays";
+}
+
+TEST(OwnFileTest, piecesGoThroughNoLink)
+{
+    const TempHome home;
+    const std::string target = home.file("target", "old");
+    const std::string link = home.link("link", target);
+    // Wherever the next unfinished file may be, someone was there first.
+    for (int number = 1; number < 500; ++number)
+        home.link("link.new-" + std::to_string(::getpid()) + "-" + std::to_string(number), target);
+    EXPECT_TRUE(OwnFile::replaceByPieces(link, pieces("new", 1)).ok());
+    EXPECT_EQ(TempHome::content(target), "old");
+    EXPECT_EQ(statusOf(link).value().type, FileType::regular);
     EXPECT_EQ(TempHome::content(link), "new");
 }
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <thread>
 
 namespace orlen {
 
@@ -159,11 +160,52 @@ TEST_F(PictureMemoryTest, whatOthersLearnedMeanwhileIsKept)
     EXPECT_EQ(remembered(now), "12-------") << "another process is writing";
 }
 
+TEST_F(PictureMemoryTest, twoProgramsThatWriteAtOnceLeaveAWholeFile)
+{
+    remember(1, 2, now);
+    std::atomic<bool> isDone{false};
+    const auto write = [&](std::uint64_t first) {
+        for (std::uint64_t round = 0; round < 20; ++round)
+            remember(first + round % 3, first + round % 3, now);
+    };
+    std::jthread one(write, 3);
+    std::jthread two(write, 6);
+    std::jthread reader([&] {
+        while (!isDone)
+            EXPECT_EQ(remembered(now).substr(0, 2), "12");
+    });
+    one.join();
+    two.join();
+    isDone = true;
+    reader.join();
+    const std::string whole = bytes();
+    std::size_t length = PictureRecords::header().size();
+    for (const PictureRecords::Record& record : PictureRecords::decoded(whole))
+        length += PictureRecords::encoded(record).size();
+    EXPECT_EQ(length, whole.size()) << "records to the end";
+    EXPECT_EQ(remembered(now).substr(0, 2), "12");
+}
+
 TEST_F(PictureMemoryTest, whatWasNoPictureIsTriedAgainAfterAWeek)
 {
     PictureMemory(path).remember({{stampOf(1), std::nullopt}}, now);
     EXPECT_EQ(remembered(now + 6 * 24h), "x--------");
     EXPECT_EQ(remembered(now + 8 * 24h), "---------");
+}
+
+TEST_F(PictureMemoryTest, aClockThatWasWrongOnceDoesNoLastingHarm)
+{
+    PictureMemory(path).remember({{stampOf(1), std::nullopt}}, now + 9'000h);
+    remember(4, 4, TimePoint::min());
+    remember(2, 3, TimePoint::max());
+    EXPECT_EQ(remembered(now), "-234-----") << "the first is tried again";
+    for (const TimePoint when : {now, now + 48h}) {
+        PictureMemory memory(path);
+        (void)memory.recall({{"/p", 1, {}, stampOf(3)}, {"/p", 1, {}, stampOf(4)}}, when);
+        memory.remember({}, when);
+    }
+    remember(5, 5, now + 48h, bytes().size());
+    EXPECT_EQ(remembered(now + 48h), "--345----");
 }
 
 TEST_F(PictureMemoryTest, aLargeLibraryIsCompleteAfterSomeScans)

@@ -1,5 +1,7 @@
 #include "scan/photos/PrintDistance.h"
+
 #include "platform/images/FeaturePrint.h"
+#include "scan/photos/FineCheck.h"
 
 #include <gtest/gtest.h>
 
@@ -144,6 +146,30 @@ TEST(PrintDistanceTest, fineStructureDecidesWhereTheLayoutIsTheSame)
         const FeaturePrint other = printOf(c.other);
         EXPECT_EQ(distance(one, other) < kNearDuplicate, c.isNearDuplicate) << distance(one, other);
         EXPECT_EQ(distance(one, other), distance(other, one));
+    }
+}
+
+TEST(PrintDistanceTest, aQuickLookLeavesHopeForEveryChangedCopy)
+{
+    const auto mayAgree = [](const FeaturePrint& one, const FeaturePrint& other) {
+        const CoarseSearch first(FineCheck::previewOf(one.tile()));
+        const CoarseSearch second(FineCheck::previewOf(other.tile()));
+        EXPECT_EQ(FineCheck::mayAgree(first, second), FineCheck::mayAgree(second, first));
+        return FineCheck::mayAgree(first, second);
+    };
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        const Structure pictures[] = {waves(seed), text(seed)};
+        for (const Structure& picture : pictures) {
+            const FeaturePrint print = printOf(picture);
+            for (const double scale : {0.92, 1.0, 1.08}) {
+                for (const double degrees : {-2.0, 0.0, 1.0}) {
+                    const Structure changed =
+                        moved(scaled(turned(picture, degrees, scale), 0.7), 2.5 * degrees, 3);
+                    EXPECT_TRUE(mayAgree(print, printOf(changed))) << seed << ' ' << scale << ' ' << degrees;
+                }
+            }
+            EXPECT_FALSE(mayAgree(print, printOf(waves(seed + 20)))) << seed;
+        }
     }
 }
 
