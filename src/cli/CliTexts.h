@@ -252,6 +252,9 @@ inline constexpr Text kSnapshots =
 
 // map, duplicates and photos.
 // TRANSLATORS: {path} is a folder.
+// TRANSLATORS: {name} is a folder of which Orlen may not read anything, or some of it.
+inline constexpr Text kUnreadFolder = message("{name} (not readable)");
+inline constexpr Text kPartlyReadFolder = message("{name} (not all readable)");
 inline constexpr Text kSizeInFolder = message("{size} in {path}");
 inline constexpr Text kMeasuredIn = message("measured in {time}");
 inline constexpr Text kCopies = messages("{count} copy, {size}", "{count} copies, {size}");

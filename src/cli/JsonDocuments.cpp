@@ -5,6 +5,7 @@
 #include "clean/RecordJson.h"
 #include "model/KeptSets.h"
 #include "scan/ScanProgress.h"
+#include "tools/DiskMap.h"
 
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -289,7 +290,9 @@ Json map(const std::string& folder, const std::vector<TreeNode>& nodes, Seconds 
                 {"isDir", node.isDir},
                 {"isOther", node.isOther}};
     };
-    return {{"path", folder}, {"nodes", array(nodes, encodeNode)}, {"seconds", rounded(duration)}};
+    return {{"path", folder},
+            {"nodes", array(DiskMap::nameable(nodes, folder), encodeNode)},
+            {"seconds", rounded(duration)}};
 }
 
 Json explanation(const Explanation& explanation)

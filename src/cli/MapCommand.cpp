@@ -25,6 +25,11 @@ Table::Cell nameCell(const TreeNode& node)
     std::string name = node.isOther ? shown(node.title()) : PathText::forDisplay(node.name);
     if (node.isDir)
         name += '/';
+    if (node.reading != TreeNode::Reading::whole) {
+        const bool isUnread = node.reading == TreeNode::Reading::none;
+        name = shown(
+            Message{isUnread ? CliTexts::kUnreadFolder : CliTexts::kPartlyReadFolder, {{"name", name}}});
+    }
     return {std::move(name), node.isOther ? Style::dim : Style::plain};
 }
 

@@ -4,10 +4,12 @@
 #include "platform/files/Reachability.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
+#include "scan/UnreadableFolders.h"
 #include "scan/tree/CurrentMounts.h"
 #include "scan/tree/TreeScan.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <mutex>
 #include <span>
@@ -33,7 +35,7 @@ public:
         if (!isRoot(parent))
             return parent.tag();
         const std::lock_guard guard(m_lock);
-        m_nodes.push_back({std::string(name), {}, 0, true, false});
+        m_nodes.push_back({.name = std::string(name), .path = {}, .isDir = true});
         return static_cast<std::uint32_t>(m_nodes.size() - 1);
     }
 
@@ -42,16 +44,22 @@ public:
         if (isRoot(folder)) {
             const std::lock_guard guard(m_lock);
             for (const TreeFile& file : files) {
-                m_nodes.push_back({file.name, {}, 0, false, false});
+                m_nodes.push_back({.name = file.name, .path = {}});
                 add(file.status, m_nodes.size() - 1);
+                note(m_nodes.back(), file.status.modified);
             }
             return;
         }
         std::int64_t bytes = 0;
-        for (const TreeFile& file : files)
+        std::optional<TimePoint> newest;
+        for (const TreeFile& file : files) {
             bytes = cappedAdd(bytes, file.status.links < 2 ? file.status.allocatedBytes : 0);
+            newest = std::max(newest, std::optional(file.status.modified));
+        }
         const std::lock_guard guard(m_lock);
         grow(folder.tag(), bytes);
+        if (newest)
+            note(m_nodes[folder.tag()], *newest);
         for (const TreeFile& file : files) {
             if (file.status.links > 1)
                 add(file.status, folder.tag());
@@ -90,6 +98,11 @@ private:
         m_nodes[node].size = cappedAdd(m_nodes[node].size, bytes);
     }
 
+    static void note(TreeNode& node, TimePoint modified)
+    {
+        node.newest = std::max(node.newest, std::optional(modified));
+    }
+
     std::mutex m_lock;
     std::vector<TreeNode> m_nodes;
     std::unordered_map<FileIdentity, Linked, FileIdentityHash> m_linked;
@@ -102,26 +115,56 @@ bool comesBefore(const TreeNode& a, const TreeNode& b)
 
 TreeNode groupOf(std::span<const TreeNode> leftOut, const std::string& folder)
 {
-    TreeNode group{{}, folder, 0, false, true, static_cast<std::int64_t>(leftOut.size())};
-    group.name = group.title().base();
-    for (const TreeNode& node : leftOut)
+    TreeNode group{.name = {}, .path = folder, .isOther = true};
+    for (const TreeNode& node : leftOut) {
+        group.smaller += node.isOther ? node.smaller : 1;
         group.size = cappedAdd(group.size, node.size);
+        group.newest = std::max(group.newest, node.newest);
+        if (node.reading != TreeNode::Reading::whole)
+            group.reading = TreeNode::Reading::partly;
+    }
+    group.name = group.title().base();
     return group;
+}
+
+/// Notes what could not be read on the children it is in. `root` is the folder without links.
+void markUnread(std::vector<TreeNode>& nodes, const UnreadableFolders& unreadable, const std::string& root)
+{
+    if (unreadable.count() == 0)
+        return;
+    std::unordered_map<std::string_view, TreeNode*> byName;
+    for (TreeNode& node : nodes) {
+        byName.emplace(node.name, &node);
+        // Such names are counted there, but not listed.
+        if (node.isDir && node.size < 1 && !node.isNameable() && !isListable(PathText::join(root, node.name)))
+            node.reading = TreeNode::Reading::none;
+    }
+    for (const std::string& path : unreadable.paths()) {
+        if (!PathText::isAtOrBelow(path, root) || path.size() == root.size())
+            continue;
+        const auto names = PathText::components(std::string_view(path).substr(root.size()));
+        const auto found = names.empty() ? byName.end() : byName.find(names.front());
+        if (found == byName.end() || found->second->reading == TreeNode::Reading::none)
+            continue;
+        found->second->reading = names.size() == 1 ? TreeNode::Reading::none : TreeNode::Reading::partly;
+    }
 }
 
 std::vector<TreeNode> arranged(std::vector<TreeNode> nodes, const std::string& folder)
 {
-    std::erase_if(nodes, [](const TreeNode& node) { return node.size < 1; });
-    const auto nameless = std::partition(
-        nodes.begin(), nodes.end(), [](const TreeNode& node) { return PathText::isValidUtf8(node.name); });
+    std::erase_if(
+        nodes, [](const TreeNode& node) { return node.size < 1 && node.reading != TreeNode::Reading::none; });
     const auto firstLeftOut =
-        nodes.begin() + std::min(static_cast<std::ptrdiff_t>(kMostNodes), nameless - nodes.begin());
-    std::partial_sort(nodes.begin(), firstLeftOut, nameless, comesBefore);
+        nodes.begin() + std::min(static_cast<std::ptrdiff_t>(kMostNodes), std::ssize(nodes));
+    std::partial_sort(nodes.begin(), firstLeftOut, nodes.end(), comesBefore);
 
     std::vector<TreeNode> shown(std::make_move_iterator(nodes.begin()),
                                 std::make_move_iterator(firstLeftOut));
-    for (TreeNode& node : shown)
+    for (TreeNode& node : shown) {
         node.path = PathText::join(folder, node.name);
+        if (const auto status = statusOf(node.path); status.ok())
+            node.stamp = FileStamp::of(status.value());
+    }
     if (firstLeftOut != nodes.end())
         shown.push_back(groupOf(std::span(firstLeftOut, nodes.end()), folder));
     return shown;
@@ -137,8 +180,23 @@ std::vector<TreeNode> children(const std::string& folder, const std::stop_token&
     if (root.path.empty())
         return {};
     ChildSums sums;
-    scanTrees(std::span(&root, 1), sums, *CurrentMounts::table(), {}, stop);
-    return arranged(sums.take(), folder);
+    UnreadableFolders unreadable;
+    scanTrees(std::span(&root, 1), sums, *CurrentMounts::table(), {.unreadable = &unreadable}, stop);
+    std::vector<TreeNode> nodes = sums.take();
+    markUnread(nodes, unreadable, root.path);
+    return arranged(std::move(nodes), folder);
+}
+
+std::vector<TreeNode> nameable(std::vector<TreeNode> nodes, const std::string& folder)
+{
+    const auto nameless = std::stable_partition(
+        nodes.begin(), nodes.end(), [](const TreeNode& node) { return node.isNameable() && !node.isOther; });
+    if (std::all_of(nameless, nodes.end(), std::mem_fn(&TreeNode::isNameable)))
+        return nodes;
+    const TreeNode group = groupOf(std::span(nameless, nodes.end()), folder);
+    nodes.erase(nameless, nodes.end());
+    nodes.push_back(group);
+    return nodes;
 }
 
 } // namespace orlen::DiskMap

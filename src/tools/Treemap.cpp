@@ -100,8 +100,15 @@ std::vector<Rect> layout(std::span<const TreeNode> nodes, Size view)
 {
     std::vector<double> sizes;
     sizes.reserve(nodes.size());
-    for (const TreeNode& node : nodes)
+    double sum = 0;
+    for (const TreeNode& node : nodes) {
         sizes.push_back(static_cast<double>(node.size));
+        sum += sizes.back();
+    }
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        if (nodes[i].size < 1)
+            sizes[i] = sum > 0 ? sum * kUnreadShare : 1;
+    }
     return layout(sizes, {0, 0, view.width - kInset, view.height - kInset});
 }
 

@@ -39,6 +39,9 @@ inline constexpr double kInset = 12;
 /// most one point in either direction or no value is positive.
 [[nodiscard]] std::vector<Rect> layout(std::span<const double> values, const Rect& area);
 
+/// What an unread folder takes of the map, as a part of what was measured: its size is not known.
+inline constexpr double kUnreadShare = 0.01;
+
 /// The rectangles of the nodes in a view of that size.
 [[nodiscard]] std::vector<Rect> layout(std::span<const TreeNode> nodes, Size view);
 

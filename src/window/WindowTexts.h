@@ -110,6 +110,9 @@ inline constexpr Text kHome = messageIn("the user's folder", "Home");
 // TRANSLATORS: The next two are read aloud by screen readers.
 inline constexpr Text kSpokenFolder = message("{name}, {size}, folder");
 inline constexpr Text kSpokenFile = message("{name}, {size}, file");
+// TRANSLATORS: The next two as well.
+inline constexpr Text kSpokenUnread = message("{name}, folder, could not be read");
+inline constexpr Text kSpokenPartlyRead = message("{name}, {size}, could not be read whole");
 
 // Clean-ups and their history
 inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");

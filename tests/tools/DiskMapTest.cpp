@@ -17,6 +17,24 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+/// The children without what depends on the moment they were made.
+std::vector<TreeNode> childrenOf(const std::string& folder)
+{
+    std::vector<TreeNode> nodes = DiskMap::children(folder);
+    for (TreeNode& node : nodes) {
+        EXPECT_EQ(node.stamp.has_value(), !node.isOther) << node.name;
+        node.stamp.reset();
+        node.newest.reset();
+    }
+    return nodes;
+}
+
+TreeNode unread(TreeNode node, TreeNode::Reading reading)
+{
+    node.reading = reading;
+    return node;
+}
+
 std::string numbered(int number)
 {
     return "file" + std::to_string(1000 + number);
@@ -41,10 +59,11 @@ TEST(DiskMapTest, childrenAreMeasuredWholeAndLargestFirst)
     TempHome::setMode(home.path("map/denied"), 0);
 
     const std::string map = home.path("map");
-    EXPECT_THAT(DiskMap::children(map),
+    EXPECT_THAT(childrenOf(map),
                 ElementsAre(TreeNode{"folder", map + "/folder", 48 * kKiB, true, false},
                             TreeNode{"file", map + "/file", 44 * kKiB, false, false},
-                            TreeNode{".hidden", map + "/.hidden", 20 * kKiB, true, false}));
+                            TreeNode{".hidden", map + "/.hidden", 20 * kKiB, true, false},
+                            unread({"denied", map + "/denied", 0, true, false}, TreeNode::Reading::none)));
     TempHome::setMode(home.path("map/denied"), 0700);
 }
 
@@ -57,9 +76,8 @@ TEST(DiskMapTest, aFileWithSeveralNamesCountsOnceForTheFirstChild)
     for (const char* name : {"map/project/linked", "map/store/again", "map/zfile"})
         ASSERT_EQ(::link(home.path("map/store/linked").c_str(), home.path(name).c_str()), 0);
     const std::string map = home.path("map");
-    EXPECT_THAT(DiskMap::children(map),
-                ElementsAre(TreeNode{"project", map + "/project", 40 * kKiB, true, false},
-                            TreeNode{"store", map + "/store", 8 * kKiB, true, false}));
+    EXPECT_THAT(childrenOf(map), ElementsAre(TreeNode{"project", map + "/project", 40 * kKiB, true, false},
+                                             TreeNode{"store", map + "/store", 8 * kKiB, true, false}));
 }
 
 TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)
@@ -70,7 +88,7 @@ TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)
         home.folder("map");
         for (int i = 0; i < count; ++i)
             home.fileOfSize("map/" + numbered(i), kKiB * (i < 60 ? 8 : 4));
-        const std::vector<TreeNode> nodes = DiskMap::children(home.path("map"));
+        const std::vector<TreeNode> nodes = childrenOf(home.path("map"));
         ASSERT_THAT(nodes, SizeIs(std::min(count, 61)));
         for (int i = 0; i < std::min(count, 60); ++i)
             EXPECT_EQ(nodes[static_cast<std::size_t>(i)].name, numbered(i));
@@ -82,7 +100,7 @@ TEST(DiskMapTest, beyondSixtyTheSmallerOnesAreGrouped)
     }
 }
 
-TEST(DiskMapTest, namesThatAreNotUtf8AreMeasuredButNotOffered)
+TEST(DiskMapTest, namesThatAreNotUtf8AreShownButNotInADocument)
 {
     const TempHome home;
     home.fileOfSize("map/\xff\xfe/inside", 80 * kKiB);
@@ -90,10 +108,30 @@ TEST(DiskMapTest, namesThatAreNotUtf8AreMeasuredButNotOffered)
     home.fileOfSize("map/café", 4 * kKiB);
     home.fileOfSize("map/outer/\xff", 12 * kKiB);
     const std::string map = home.path("map");
-    EXPECT_THAT(DiskMap::children(map),
-                ElementsAre(TreeNode{"outer", map + "/outer", 12 * kKiB, true, false},
-                            TreeNode{"café", map + "/café", 4 * kKiB, false, false},
-                            TreeNode{"2 smaller items", map, 88 * kKiB, false, true, 2}));
+    const TreeNode outer{"outer", map + "/outer", 12 * kKiB, true, false};
+    const TreeNode cafe{"café", map + "/café", 4 * kKiB, false, false};
+    const std::vector<TreeNode> nodes = childrenOf(map);
+    EXPECT_THAT(nodes, ElementsAre(TreeNode{"\xff\xfe", map + "/\xff\xfe", 80 * kKiB, true, false}, outer,
+                                   TreeNode{"caf\xe9", map + "/caf\xe9", 8 * kKiB, false, false}, cafe));
+    EXPECT_THAT(DiskMap::nameable(nodes, map),
+                ElementsAre(outer, cafe, TreeNode{"2 smaller items", map, 88 * kKiB, false, true, 2}));
+}
+
+TEST(DiskMapTest, whatCouldNotBeReadIsMarkedOnTheChildItIsIn)
+{
+    const TempHome home;
+    home.fileOfSize("map/partly/x", 8 * kKiB);
+    for (const char* path : {"map/partly/a/denied", "map/denied", "map/\xff"})
+        TempHome::setMode(home.folder(path), 0);
+    home.folder("map/empty");
+    std::vector<std::pair<std::string, TreeNode::Reading>> readings;
+    for (const TreeNode& node : DiskMap::children(home.path("map")))
+        readings.emplace_back(node.name, node.reading);
+    using enum TreeNode::Reading;
+    EXPECT_THAT(readings,
+                ElementsAre(std::pair("partly", partly), std::pair("denied", none), std::pair("\xff", none)));
+    for (const char* path : {"map/partly/a/denied", "map/denied", "map/\xff"})
+        TempHome::setMode(home.path(path), 0700);
 }
 
 TEST(DiskMapTest, whatIsNoReadableFolderHasNoChildren)
@@ -115,7 +153,7 @@ TEST(DiskMapTest, theFolderItselfMayBeALink)
     const TempHome home;
     home.fileOfSize("real/x", 4 * kKiB);
     const std::string link = home.link("link", home.path("real"));
-    EXPECT_THAT(DiskMap::children(link), ElementsAre(TreeNode{"x", link + "/x", 4 * kKiB, false, false}));
+    EXPECT_THAT(childrenOf(link), ElementsAre(TreeNode{"x", link + "/x", 4 * kKiB, false, false}));
 }
 
 TEST(DiskMapTest, aWideFolderLosesNothing)

@@ -1,7 +1,5 @@
 #include "window/diskmap/DiskMapView.h"
 
-#include "window/shell/Reveal.h"
-
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
 
@@ -46,7 +44,8 @@ protected:
     }
 
     const TempHome home;
-    DiskMapView view;
+    AppModel app{{AppModel::Startup::filesOnly, AppModel::Access::writer, {}}};
+    DiskMapView view{app};
     const QAbstractItemModelTester tester{&view, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -136,7 +135,6 @@ TEST_F(DiskMapViewTest, saysThatAFolderShowsNothing)
     EXPECT_EQ(view.currentRow(), -1);
     view.step(DiskMapView::Down);
     view.open(-1);
-    view.reveal(0);
     EXPECT_EQ(view.describe(-1), "Music\u00a0· 0 bytes");
 
     TempHome::setMode(home.path("Music"), 0700);
@@ -148,19 +146,59 @@ TEST_F(DiskMapViewTest, saysThatAFolderShowsNothing)
     EXPECT_FALSE(view.isLocked());
 }
 
-TEST_F(DiskMapViewTest, revealsWhatIsPressedAndNotWhatWasHovered)
+TEST_F(DiskMapViewTest, whatIsPressedMayMoveAsItWasMeasured)
 {
-    TempHome::setVariable("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
-    TempHome::setVariable("PATH", home.folder("bin"));
-    const Reveal reveal;
-    QSignalSpy failures(&reveal, &Reveal::failed);
     view.load();
     ASSERT_TRUE(settles());
     view.movePointer(value(0, DiskMapView::Role::area).toRectF().center());
-    view.revealAt(value(1, DiskMapView::Role::area).toRectF().center());
-    ASSERT_TRUE(waitUntil([&] { return !failures.isEmpty(); }));
-    EXPECT_EQ(failures.first().first().toString(), QString::fromStdString(home.path("Music")));
-    EXPECT_EQ(view.hoverRow(), 1);
+    const int pressed = view.rowAt(value(1, DiskMapView::Role::area).toRectF().center());
+    EXPECT_EQ(pressed, 1) << "not what was hovered";
+    const std::string music = home.path("Music");
+    const auto subject = view.subject(pressed);
+    ASSERT_TRUE(subject && subject->entry);
+    EXPECT_EQ(subject->entry->path, music);
+    EXPECT_EQ(subject->entry->size, 204'800);
+    EXPECT_EQ(subject->entry->stamp, FileStamp::of(statusOf(music).value()));
+    EXPECT_EQ(subject->entry->modified, statusOf(home.path("Music/song.ogg")).value().modified);
+}
+
+TEST_F(DiskMapViewTest, measuresAnewAfterACleanUpOnceItIsSeen)
+{
+    view.load();
+    ASSERT_TRUE(settles());
+    CleanPlan plan;
+    plan.sections.push_back({"map", {}, {}, {*view.subject(2)->entry}, {}});
+    app.cleanUps()->confirm(plan);
+    ASSERT_TRUE(waitUntil([&] { return app.cleanUps()->cleaning()->finished; }));
+    EXPECT_FALSE(view.isLoading());
+    view.setShown(true);
+    ASSERT_TRUE(view.isLoading());
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(names().contains("note.txt"));
+    ASSERT_EQ(app.cleanUps()->history().size(), 1);
+    app.cleanUps()->startRestore(app.cleanUps()->history().front());
+    ASSERT_TRUE(waitUntil([&] { return names().contains("note.txt"); }));
+}
+
+TEST_F(DiskMapViewTest, foldersThatCouldNotBeReadAreShown)
+{
+    home.folder("Locked/in");
+    home.folder("Music/\xff");
+    for (const char* path : {"Locked", "Music/\xff"})
+        TempHome::setMode(home.path(path), 0);
+    view.load();
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(names(), (QStringList{"Videos", "Music", "note.txt", "Locked"}));
+    EXPECT_FALSE(value(0, DiskMapView::Role::locked).toBool());
+    EXPECT_TRUE(value(3, DiskMapView::Role::unread).toBool());
+    EXPECT_FALSE(value(3, DiskMapView::Role::area).toRectF().isEmpty());
+    EXPECT_EQ(value(3, DiskMapView::Role::spoken), "Locked, folder, could not be read");
+    view.open(1);
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(names(), (QStringList{"song.ogg", "\uFFFD"}));
+    EXPECT_TRUE(value(1, DiskMapView::Role::locked).toBool());
+    for (const char* path : {"Locked", "Music/\xff"})
+        TempHome::setMode(home.path(path), 0700);
 }
 
 TEST_F(DiskMapViewTest, takesPinchesAndTheWheelAlike)

@@ -7,6 +7,9 @@ ScrollList {
 
     required property DiskMapView map
 
+    /// A right click at this place of a row's item asks for its menu.
+    signal menuRequested(row: int, item: Item, x: real, y: real)
+
     objectName: "diskMapList"
     model: root.map
     topMargin: Theme.spaceS
@@ -31,21 +34,8 @@ ScrollList {
             root.map.currentRow = root.count - 1;
             break;
         default:
-            event.accepted = root.currentItem !== null
-                    && (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier);
-            if (event.accepted)
-                menu.openBelow(root.map, root.currentIndex, root.currentItem);
+            event.accepted = false;
         }
-    }
-
-    RowMenu {
-        id: menu
-
-        onPreviewRequested: look.show(menu.path, "")
-    }
-
-    PreviewSheet {
-        id: look
     }
 
     delegate: DiskMapRow {
@@ -61,7 +51,7 @@ ScrollList {
         onMenuRequested: (x, y) => {
             root.map.currentRow = row.index;
             root.forceActiveFocus(Qt.MouseFocusReason);
-            menu.openAt(root.map, row.index, row, x, y);
+            root.menuRequested(row.index, row, x, y);
         }
     }
 }

@@ -11,6 +11,8 @@ ListRow {
     required property real share
     required property string shareText
     required property string spoken
+    required property bool unread
+    required property bool locked
     required property int index
     property bool isCurrent: false
     signal pressed
@@ -18,7 +20,7 @@ ListRow {
     implicitHeight: Theme.grown(44)
     sideGap: 4
     ringed: root.isCurrent
-    Accessible.name: Strings.spoken([root.spoken, root.shareText])
+    Accessible.name: root.unread ? root.spoken : Strings.spoken([root.spoken, root.shareText])
     Accessible.selected: root.isCurrent
     Accessible.onPressAction: root.pressed()
 
@@ -28,7 +30,7 @@ ListRow {
         anchors.left: parent.left
         anchors.leftMargin: Theme.cardMargin
         anchors.verticalCenter: parent.verticalCenter
-        name: root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
+        name: root.locked ? "lock.fill" : root.kind === DiskMapView.Folder ? "folder.fill" : root.kind === DiskMapView.File ? "doc" : "ellipsis"
         colour: root.kind === DiskMapView.Folder ? Theme.accent : Theme.tertiary
     }
 
@@ -62,7 +64,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(46)
         horizontalAlignment: Text.AlignRight
-        text: root.shareText
+        text: root.unread ? "" : root.shareText
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
         Accessible.ignored: true
@@ -76,7 +78,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.grown(82)
         horizontalAlignment: Text.AlignRight
-        text: root.size
+        text: root.unread ? "–" : root.size
         color: Theme.text
         Accessible.ignored: true
     }

@@ -12,6 +12,7 @@ FocusScope {
     DiskMapView {
         id: theMap
 
+        shown: root.enabled
         viewWidth: surface.mapWidth
         viewHeight: surface.mapHeight
     }
@@ -57,12 +58,12 @@ FocusScope {
                 theMap.open(theMap.currentRow);
                 break;
             case Qt.Key_Menu:
-                theMap.reveal(theMap.currentRow);
+                root.openMenu();
                 break;
             case Qt.Key_F10:
                 event.accepted = event.modifiers & Qt.ShiftModifier;
                 if (event.accepted)
-                    theMap.reveal(theMap.currentRow);
+                    root.openMenu();
                 break;
             default:
                 event.accepted = false;
@@ -94,6 +95,10 @@ FocusScope {
             anchors.fill: parent
             visible: !root.asList && !theMap.empty
             map: theMap
+            onMenuRequested: (row, x, y) => {
+                theMap.currentRow = row;
+                menu.openAt(theMap, row, surface, x, y);
+            }
         }
 
         Card {
@@ -101,9 +106,12 @@ FocusScope {
             visible: root.asList && !theMap.empty && !theMap.loading
 
             DiskMapList {
+                id: list
+
                 anchors.fill: parent
                 anchors.margins: 1
                 map: theMap
+                onMenuRequested: (row, item, x, y) => menu.openAt(theMap, row, item, x, y)
             }
         }
 
@@ -138,6 +146,16 @@ FocusScope {
         elide: Text.ElideMiddle
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: row => look.show(menu.path, theMap.sizeAt(row))
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     Shortcut {
         enabled: root.enabled
         sequence: "F5"
@@ -160,6 +178,16 @@ FocusScope {
     Component.onCompleted: {
         theMap.load();
         root.show(root.view.navigation.takeFolder());
+    }
+
+    /// The menu of the current tile or row, for the keyboard.
+    function openMenu() {
+        if (theMap.currentRow < 0)
+            return;
+        if (root.asList)
+            menu.openBelow(theMap, list.currentIndex, list.currentItem);
+        else
+            menu.openIn(theMap, theMap.currentRow, surface.tileAt(theMap.currentRow));
     }
 
     function show(folder: string) {

@@ -13,6 +13,13 @@ T.Control {
     readonly property int mapHeight: Math.max(0, root.height) + 14
     /// Whether the map is used with the keyboard.
     readonly property bool showsRing: InputMode.keyed && root.activeFocus
+    /// A right click at this place of the tiles asks for the menu of a row.
+    signal menuRequested(row: int, x: real, y: real)
+
+    /// The tile of a row; null if there is none.
+    function tileAt(row: int): Item {
+        return repeater.itemAt(row);
+    }
 
     objectName: "diskMapSurface"
     clip: true
@@ -57,6 +64,8 @@ T.Control {
         }
 
         Repeater {
+            id: repeater
+
             model: root.map
 
             DiskMapTile {
@@ -86,7 +95,7 @@ T.Control {
             if (mouse.button === Qt.LeftButton)
                 root.map.click(Qt.point(mouse.x, mouse.y));
             else if (mouse.button === Qt.RightButton)
-                root.map.revealAt(Qt.point(mouse.x, mouse.y));
+                root.menuRequested(root.map.rowAt(Qt.point(mouse.x, mouse.y)), mouse.x, mouse.y);
             else
                 root.map.up();
         }

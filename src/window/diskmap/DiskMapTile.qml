@@ -11,6 +11,8 @@ Rectangle {
     required property int hue
     required property rect area
     required property string spoken
+    required property bool unread
+    required property bool locked
     required property int index
     /// Whether changes of position are animated.
     property bool moving: false
@@ -26,7 +28,7 @@ Rectangle {
     width: root.area.width
     height: root.area.height
     radius: Math.min(6, root.area.width / 4, root.area.height / 4)
-    color: root.kind === DiskMapView.Rest ? Theme.mapRest
+    color: root.kind === DiskMapView.Rest || root.unread ? Theme.mapRest
            : root.kind === DiskMapView.Folder ? Theme.mapFolders[root.hue] : Theme.mapFiles[root.hue]
     border.width: root.isHovered || root.isCurrent ? 2 : 0
     border.color: Theme.dark ? Theme.mapInk : root.isCurrent ? Theme.accent : Qt.darker(root.color, 1.7)
@@ -47,12 +49,24 @@ Rectangle {
         enabled: root.moving
     }
 
+    Symbol {
+        id: lock
+
+        anchors.right: parent.right
+        anchors.margins: Theme.spaceXs
+        y: root.isLabelled ? root.inset + 2 : Math.round((root.height - height) / 2)
+        visible: root.locked && root.width >= size + 4 && root.height >= size + 4
+        name: "lock.fill"
+        colour: Theme.mapQuietInk
+        size: 12
+    }
+
     SmallText {
         id: title
 
         x: 8
         y: root.inset
-        width: root.width - 16
+        width: root.width - 16 - (lock.visible ? lock.width : 0)
         visible: root.isLabelled
         text: root.name
         color: Theme.mapInk
@@ -63,7 +77,7 @@ Rectangle {
     CaptionText {
         x: 8
         y: title.y + title.height + 1
-        visible: root.isLabelled && x + width <= root.width - 6 && y + height <= root.height - 3
+        visible: root.isLabelled && !root.unread && x + width <= root.width - 6 && y + height <= root.height - 3
         text: root.size
         color: Theme.mapQuietInk
         Accessible.ignored: true

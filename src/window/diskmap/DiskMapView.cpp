@@ -4,7 +4,6 @@
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
-#include "window/shell/Reveal.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,29 +40,55 @@ DiskMapView::Kind kindOf(const TreeNode& node)
     return node.isDir ? DiskMapView::Folder : DiskMapView::File;
 }
 
-QString spoken(const TreeNode& node)
+const Text& spokenText(const TreeNode& node)
 {
-    const std::vector<Place> places{{"name", within(node.title())}, {"size", Bytes{node.size}}};
-    switch (kindOf(node)) {
-    case DiskMapView::Folder:
-        return DisplayText::text(Message(WindowTexts::kSpokenFolder, places));
-    case DiskMapView::File:
-        return DisplayText::text(Message(WindowTexts::kSpokenFile, places));
-    case DiskMapView::Rest:
+    switch (node.reading) {
+    case TreeNode::Reading::none:
+        return WindowTexts::kSpokenUnread;
+    case TreeNode::Reading::partly:
+        return WindowTexts::kSpokenPartlyRead;
+    case TreeNode::Reading::whole:
         break;
     }
-    return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
+    return node.isDir ? WindowTexts::kSpokenFolder : WindowTexts::kSpokenFile;
+}
+
+QString spoken(const TreeNode& node)
+{
+    if (node.isOther)
+        return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
+    return DisplayText::text(
+        Message(spokenText(node), {{"name", within(node.title())}, {"size", Bytes{node.size}}}));
 }
 
 } // namespace
 
-DiskMapView::DiskMapView()
+DiskMapView::DiskMapView(AppModel& app)
 {
     m_crumbs.setFolders(m_map.stack());
     m_shownFolders = m_map.stack();
     connect(&m_map, &DiskMapModel::loadingChanged, this, &DiskMapView::followLoading);
     connect(&m_map, &DiskMapModel::stackChanged, this, &DiskMapView::followStack);
     connect(&m_map, &DiskMapModel::hoverChanged, this, &DiskMapView::hoverChanged);
+    connect(app.cleanUps(), &CleanUps::cleaningFinished, this, &DiskMapView::followMoves);
+    connect(app.cleanUps(), &CleanUps::restored, this, &DiskMapView::followMoves);
+}
+
+void DiskMapView::setShown(bool isShown)
+{
+    if (isShown == m_isShown)
+        return;
+    m_isShown = isShown;
+    Q_EMIT shownChanged();
+    if (m_isShown && m_isOutdated)
+        load();
+}
+
+void DiskMapView::followMoves()
+{
+    m_isOutdated = true;
+    if (m_isShown)
+        load();
 }
 
 void DiskMapView::setViewWidth(double width)
@@ -100,6 +125,7 @@ void DiskMapView::setCurrentRow(int row)
 
 void DiskMapView::load()
 {
+    m_isOutdated = false;
     m_map.load();
 }
 
@@ -125,17 +151,17 @@ void DiskMapView::open(int row)
         m_map.zoomInto(static_cast<std::size_t>(row));
 }
 
-void DiskMapView::reveal(int row)
-{
-    if (!isLoading() && hasRow(row))
-        Reveal::show(node(row).path);
-}
-
 std::optional<RowSubject> DiskMapView::subject(int row) const
 {
     if (isLoading() || !hasRow(row) || node(row).isOther)
         return std::nullopt;
-    return RowSubject{.path = node(row).path};
+    const TreeNode& shown = node(row);
+    RowSubject subject{.path = shown.path};
+    if (shown.stamp) {
+        subject.entry =
+            FileEntry{.path = shown.path, .size = shown.size, .modified = shown.newest, .stamp = shown.stamp};
+    }
+    return subject;
 }
 
 void DiskMapView::step(Direction direction)
@@ -159,6 +185,11 @@ QString DiskMapView::describe(int row) const
     return DisplayText::facts({name, DisplayText::size(hasRow(row) ? node(row).size : m_total)});
 }
 
+QString DiskMapView::sizeAt(int row) const
+{
+    return hasRow(row) ? DisplayText::size(node(row).size) : QString();
+}
+
 void DiskMapView::click(QPointF point)
 {
     m_map.click({point.x(), point.y()}, m_view);
@@ -174,10 +205,10 @@ void DiskMapView::removePointer()
     m_map.removePointer();
 }
 
-void DiskMapView::revealAt(QPointF point)
+int DiskMapView::rowAt(QPointF point)
 {
     movePointer(point);
-    reveal(hoverRow());
+    return hoverRow();
 }
 
 void DiskMapView::pinch(double scale)
@@ -296,6 +327,10 @@ QVariant DiskMapView::value(std::size_t number, int role) const
         return DisplayText::percent(share);
     case Role::spoken:
         return spoken(node);
+    case Role::unread:
+        return node.reading == TreeNode::Reading::none;
+    case Role::locked:
+        return node.reading != TreeNode::Reading::whole;
     }
     return {};
 }

@@ -4,6 +4,7 @@
 #include "window/diskmap/BreadcrumbModel.h"
 #include "window/diskmap/TileStep.h"
 #include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QPointF>
 #include <QRectF>
@@ -16,12 +17,14 @@ namespace orlen {
 
 /// The disk map as tiles for a view of a given size, largest first, at most 61. While a folder is being
 /// measured, the previous folder's tiles remain as rows so that the screen can animate them out; they do not
-/// react to input. Main thread.
+/// react to input. Measures anew after a clean-up or a restore, once it is shown. Main thread.
 class DiskMapView : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double viewWidth READ viewWidth WRITE setViewWidth NOTIFY viewChanged)
     Q_PROPERTY(double viewHeight READ viewHeight WRITE setViewHeight NOTIFY viewChanged)
+    /// Whether the user sees the map.
+    Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
     /// Whether the folder was measured and has nothing to show.
     Q_PROPERTY(bool empty READ isEmpty NOTIFY loadingChanged)
@@ -51,6 +54,8 @@ public:
         share,               ///< part of the folder, 0 to 1
         shareText,           ///< the same as a percentage
         spoken,              ///< name, size and kind for a screen reader
+        unread,              ///< whether it is a folder of which nothing could be read
+        locked,              ///< whether it, or something in it, could not be read
     };
     Q_ENUM(Role)
     enum Kind { Folder, File, Rest };
@@ -63,12 +68,14 @@ public:
     };
     Q_ENUM(Direction)
 
-    DiskMapView();
+    explicit DiskMapView(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] double viewWidth() const { return m_view.width; }
     void setViewWidth(double width);
     [[nodiscard]] double viewHeight() const { return m_view.height; }
     void setViewHeight(double height);
+    [[nodiscard]] bool isShown() const { return m_isShown; }
+    void setShown(bool isShown);
     [[nodiscard]] bool isLoading() const { return m_map.isLoading(); }
     [[nodiscard]] bool isEmpty() const { return m_isMeasured && !isLoading() && m_tiles.empty(); }
     [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
@@ -89,19 +96,18 @@ public:
     Q_INVOKABLE void goTo(int step);
     /// Goes into the tile's folder.
     Q_INVOKABLE void open(int row);
-    /// Shows the tile's item in the file manager.
-    Q_INVOKABLE void reveal(int row);
     [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
     /// Makes the next tile in that direction current.
     Q_INVOKABLE void step(Direction direction);
     /// "name · size" of a tile, or of the whole folder for -1.
     [[nodiscard]] Q_INVOKABLE QString describe(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
 
     Q_INVOKABLE void click(QPointF point);
     Q_INVOKABLE void movePointer(QPointF point);
     Q_INVOKABLE void removePointer();
-    /// Shows the item under the point in the file manager.
-    Q_INVOKABLE void revealAt(QPointF point);
+    /// Moves the pointer to the point and returns the tile there, -1 for none.
+    [[nodiscard]] Q_INVOKABLE int rowAt(QPointF point);
     /// `scale` is that of the whole pinch so far, starting at 1.
     Q_INVOKABLE void pinch(double scale);
     /// Wheel movement in eighths of a degree; acts like a pinch.
@@ -109,6 +115,7 @@ public:
 
 Q_SIGNALS:
     void viewChanged();
+    void shownChanged();
     void loadingChanged();
     void stackChanged();
     void hoverChanged();
@@ -131,6 +138,7 @@ private:
 
     void followLoading();
     void followStack();
+    void followMoves();
     void arrange();
     void placeTiles();
     void showTiles(const std::vector<TreeNode>& nodes);
@@ -144,7 +152,9 @@ private:
     std::vector<Tile> m_tiles;
     std::int64_t m_total = 0;                ///< bytes of all tiles
     std::vector<std::string> m_shownFolders; ///< path to the folder these tiles belong to
-    bool m_isMeasured = false;               ///< at least one load has finished
+    bool m_isShown = false;
+    bool m_isOutdated = false; ///< something was moved since the last load
+    bool m_isMeasured = false; ///< at least one load has finished
     bool m_isRearranging = false;
     int m_currentRow = -1;
     QPointF m_zoomOrigin;

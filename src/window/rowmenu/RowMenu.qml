@@ -28,6 +28,12 @@ T.Menu {
         root.currentIndex = 0;
     }
 
+    /// Opens in the middle of a tile, for the keyboard.
+    function openIn(list: RowsModel, row: int, item: Item) {
+        root.openAt(list, row, item, item.width / 2, item.height / 2);
+        root.currentIndex = 0;
+    }
+
     function label(action: int): string {
         switch (action) {
         case RowMenuModel.Preview:
@@ -40,6 +46,8 @@ T.Menu {
             return Strings.tickFolder;
         case RowMenuModel.KeepFolder:
             return Strings.keepFolder;
+        case RowMenuModel.MoveToTrash:
+            return Strings.moveToTrash;
         case RowMenuModel.ExcludePath:
             return Strings.neverOfferThis;
         case RowMenuModel.ExcludeFolder:
@@ -59,6 +67,8 @@ T.Menu {
             return "copy";
         case RowMenuModel.TickFolder:
             return "checkmark";
+        case RowMenuModel.MoveToTrash:
+            return actions.refusal === "" ? "trash" : "lock.fill";
         default:
             return action === RowMenuModel.ExcludePath ? "hand.raised.fill" : "";
         }
@@ -84,6 +94,7 @@ T.Menu {
 
             text: root.label(choice)
             symbol: root.symbol(choice)
+            refusal: choice === RowMenuModel.MoveToTrash ? actions.refusal : ""
             objectName: "menu-" + choice
             onTriggered: {
                 if (choice === RowMenuModel.Preview)

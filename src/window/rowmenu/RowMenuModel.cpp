@@ -1,11 +1,15 @@
 #include "window/rowmenu/RowMenuModel.h"
 
+#include "app/ExplanationText.h"
+#include "clean/Safety.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/rowmenu/ExclusionChange.h"
 #include "window/shell/Reveal.h"
+#include "window/shell/WindowState.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -24,6 +28,21 @@ QString RowMenuModel::name() const
 QString RowMenuModel::path() const
 {
     return m_subject ? PathCode::of(m_subject->path) : QString();
+}
+
+QString RowMenuModel::refusal() const
+{
+    if (!m_subject || !m_subject->entry)
+        return {};
+    Explanation told{.path = m_subject->path};
+    told.protection =
+        PathText::isValidUtf8(told.path) ? Safety::protection(told.path) : Protection::unclearPath;
+    if (const Exclusion* line = m_app.exclusions()->current().excludes(told.path))
+        told.exclusion = *line;
+    if (told.protection == Protection::none && !told.exclusion)
+        return {};
+    return DisplayText::text(
+        Message::joined(ExplanationText::sentences(told, {}), Several::Joint::sentences));
 }
 
 bool RowMenuModel::setSubject(RowsModel* list, int row)
@@ -47,6 +66,8 @@ std::vector<RowMenuModel::Action> RowMenuModel::actions() const
         actions.push_back(TickFolder);
     if (m_subject->isCopy)
         actions.push_back(KeepFolder);
+    if (m_subject->entry)
+        actions.push_back(MoveToTrash);
     if (!m_subject->isOffered || isExcluded())
         return actions;
     std::ranges::copy_if(std::vector{ExcludePath, ExcludeFolder, ExcludeName}, std::back_inserter(actions),
@@ -80,6 +101,7 @@ std::optional<Exclusion> RowMenuModel::exclusionOf(Action action) const
     case CopyPath:
     case TickFolder:
     case KeepFolder:
+    case MoveToTrash:
         break;
     }
     return std::nullopt;
@@ -105,6 +127,9 @@ void RowMenuModel::choose(Action action)
     case KeepFolder:
         m_app.results()->setKeepRule({.references = {std::string(PathText::parent(m_subject->path))}});
         return;
+    case MoveToTrash:
+        review();
+        return;
     case ExcludePath:
     case ExcludeFolder:
     case ExcludeName:
@@ -114,6 +139,20 @@ void RowMenuModel::choose(Action action)
     }
 }
 
+void RowMenuModel::review()
+{
+    WindowState& window = WindowState::of(m_app);
+    if (const QString reason = refusal(); !reason.isEmpty()) {
+        window.say(reason);
+        return;
+    }
+    CleanPlan plan;
+    plan.title = WindowTexts::kDiskMap;
+    plan.sections.push_back(
+        {"map", WindowTexts::kDiskMap, "square.grid.3x3.fill", {*m_subject->entry}, std::nullopt});
+    window.setSheet(PlanSheet{std::move(plan)});
+}
+
 QVariant RowMenuModel::value(std::size_t number, int role) const
 {
     const Action action = m_actions[number];
@@ -121,7 +160,8 @@ QVariant RowMenuModel::value(std::size_t number, int role) const
     case Role::choice:
         return action;
     case Role::startsGroup:
-        return action == TickFolder || (action >= ExcludePath && m_actions[number - 1] < ExcludePath);
+        return action == TickFolder || action == MoveToTrash ||
+               (action >= ExcludePath && m_actions[number - 1] < ExcludePath);
     }
     return {};
 }

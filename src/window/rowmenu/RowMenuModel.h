@@ -21,6 +21,8 @@ class RowMenuModel : public orlen::RowsModel {
     Q_PROPERTY(QString name READ name NOTIFY subjectChanged)
     /// Its `PathCode`, for a preview.
     Q_PROPERTY(QString path READ path NOTIFY subjectChanged)
+    /// Why it is not offered to be moved; empty if it is.
+    Q_PROPERTY(QString refusal READ refusal NOTIFY subjectChanged)
 
 public:
     enum Action {
@@ -29,6 +31,7 @@ public:
         CopyPath,
         TickFolder,    ///< ticks all rows of the item's folder
         KeepFolder,    ///< of each set of duplicates, keeps the file in the item's folder
+        MoveToTrash,   ///< opens the review of what moves; if the item may not move, says why
         ExcludePath,   ///< never offers the item
         ExcludeFolder, ///< never offers anything in the item's folder
         ExcludeName,   ///< never offers anything of the item's name
@@ -45,6 +48,7 @@ public:
 
     [[nodiscard]] QString name() const;
     [[nodiscard]] QString path() const;
+    [[nodiscard]] QString refusal() const;
 
     /// Lists what can be done with a list's row. False if that is nothing.
     [[nodiscard]] Q_INVOKABLE bool setSubject(orlen::RowsModel* list, int row);
@@ -62,6 +66,7 @@ private:
     /// The line that the action adds to the exclusions; nothing if it adds none.
     [[nodiscard]] std::optional<Exclusion> exclusionOf(Action action) const;
     [[nodiscard]] bool isExcluded() const;
+    void review();
 
     AppModel& m_app;
     QPointer<RowsModel> m_list;

@@ -263,7 +263,7 @@ QtObject {
     readonly property string growthByCategory: Words.message("Growth by category")
 
     // Disk Map
-    readonly property string diskMapLead: Words.message("Click a folder to zoom in. Right-click anything to reveal it in Finder. Pinch out to go back up.")
+    readonly property string diskMapLead: Words.message("Click a folder to zoom in. Right-click anything for what you can do with it. Pinch out to go back up.")
     readonly property string measuring: Words.message("Measuring…")
     readonly property string emptyMap: Words.message("Nothing in this folder takes up space.")
     readonly property string lockedMap: Words.message("Orlen may not look into this folder, or it is no longer there.")
