@@ -136,8 +136,7 @@ private:
     {
         return std::ranges::all_of(m_words, [&](const std::string& word) {
             return anyWord(text, [&](std::string_view each) {
-                return each == word ||
-                       (word.size() >= kShortestMistypedName && Lexicon::isOneLetterApart(word, each));
+                return each == word || (word.size() >= kShortestMistypedName && isOneLetterApart(word, each));
             });
         });
     }
@@ -202,6 +201,17 @@ void lookInBreakdown(const StorageBreakdown& breakdown, Best& best)
     }
 }
 
+/// What the last scan noted of larger folders.
+void lookInReadings(const std::vector<FolderReading>& readings, Best& best)
+{
+    if (readings.empty())
+        return;
+    for (const FolderSize& folder : readings.back().folders) {
+        if (best.take(folder.path))
+            best.found().measured.push_back({folder.path, folder.bytes, {}});
+    }
+}
+
 void lookInHistory(const std::vector<CleanRecord>& history, Best& best)
 {
     for (const CleanRecord& record : history) {
@@ -232,6 +242,7 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
     lookInFindings(context.findings, kinds, best);
     if (kinds.empty()) {
         lookInBreakdown(context.breakdown, best);
+        lookInReadings(context.folders, best);
         lookInHistory(context.history, best);
     }
     tidy(best.found());
