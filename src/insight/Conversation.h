@@ -18,15 +18,17 @@ struct Conversation {
     };
 
     Said last; ///< the last question that was understood
-    Said list; ///< the last one whose answer named several: "and the third?"
+    Said list; ///< the last one that was not about one file alone: "and the third?"
 
     [[nodiscard]] bool empty() const { return last.question.phrases.empty(); }
 
     /// The conversation with one more question and answer.
     [[nodiscard]] Conversation with(Said said) const
     {
-        const bool isList = said.findingIDs.size() > 1 || said.paths.size() > 1;
-        return {said, isList || list.question.phrases.empty() ? said : list};
+        const bool isOneThing =
+            said.paths.size() == 1 &&
+            said.question.senses.meets({AskReader::Sense::quoted, AskReader::Sense::unknown});
+        return {said, isOneThing && !list.question.phrases.empty() ? list : said};
     }
 };
 

@@ -138,6 +138,59 @@ constexpr Row kAbout[] = {
     {"delete my ex", "I don't know that", "could free"},
 };
 
+constexpr Row kEveryday[] = {
+    {"how many gigs have i got left", "120 GB is free"},
+    {"whats the biggest thing in my downloads", "in ~/Downloads|debian.iso", "wedding"},
+    {"show me everything bigger than 2 gigs", "Of files over 2 GB the last scan lists 4"},
+    {"did i really delete gone.zip", "gone.zip (1 GB) was moved to the Trash"},
+    {"which files haven't i touched since last year", "last opened before 1 January 2025"},
+    {"is it safe to delete the slack folder", "slack (3 GB)|rated Safe"},
+    {"how do i get something back that i threw away", "History"},
+    {"why does it say contract-2021 should be kept", "contract-2021.docx|rated Keep"},
+    {"when am i gonna run out of space", "30 August 2026"},
+    {"my laptop says it's almost full, what do i do", "120 GB is free|You could free about"},
+    {"what's in the downloads folder that i dont need", "Downloads has|debian.iso"},
+    {"how much room do my pictures take up", "Photos takes 34 GB"},
+    {"any near identical shots", "Similar photos: 11 MB"},
+    {"photos from 2024", "from 1 January 2024|sea2.jpg"},
+    {"pictures taken before 2025", "Of photos last changed before 1 January 2025", "Screen captures"},
+    {"can sea2.jpg go", "sea2.jpg (6 MB)|Review"},
+    {"what did the last clean up free", "20 May 2026"},
+    {"videos i have not watched since 2022", "before 1 January 2022|wedding", "cut.mov"},
+    {"are my photos uploaded anywhere", "Nothing leaves"},
+    {"size of ~/.cache", "~/.cache takes 3 GB"},
+    {"can i rm debian.iso", "debian.iso (3 GB)"},
+    {"is ~/.ssh protected", "~/.ssh is protected, because"},
+    {"docker images eating my disk?", "podman system df"},
+    {"how do i clear the npm cache", "found no npm"},
+    {"which directories use the most disk", "~/Videos — 80 GB"},
+    {"list startup services", "Nextcloud"},
+    {"how do i uninstall blender", "Blender takes 3 GB"},
+    {"uninstall Photoshop", "“Photoshop” is not among the applications"},
+    {"which apps do I not use", "doesn't know when"},
+    {"tar.gz files older than 6 months", "no archives"},
+    {"logs bigger than 10mb", "Of log files over 10 MB the last scan lists 1"},
+    {"what's eating my ssd", "By category: Media 90 GB"},
+    {"what may i throw away without worrying", "You could free about"},
+    {"will anything break if i clean up", "moves what you tick to the Trash"},
+    {"can somebody see my photos on the internet", "Nothing leaves"},
+    {"i deleted something by mistake, how can i get it back", "History"},
+    {"which programs start when i turn the computer on", "Nextcloud"},
+    {"how many files have been cleaned up so far", "2 clean-ups|3 GB", "could free"},
+    {"is there enough room for 50 gigabytes of photos", "Yes.|120 GB"},
+    {"how much space is free and what can I delete?", "120 GB is free|You could free about"},
+    {"how big are photos and videos", "Photos takes 34 GB|~/Videos takes 80 GB"},
+    {"what are caches and can I delete them", "create it again|App caches: 4 GB|moves what you tick"},
+    {"can I delete wedding.mp4 and holiday.mkv", "wedding.mp4 (9 GB)|holiday.mkv (4 GB)"},
+    {"What about my old mail attachment", "lists no mail attachments"},
+    {"where has all my space gone", "By category", "gone.zip"},
+    {"wedding.mp4", "wedding.mp4 (9 GB)|Review"},
+    {"how do I convert wedding.mp4 to avi", "I don't know that", "9 GB"},
+    {"who won the game between Spain and Italy", "I don't know that", "GB"},
+    {"does orlen delete my files by itself", "Nothing moves before you have seen"},
+    {"why is the documents folder protected", "~/Documents itself is protected"},
+};
+
 /// Left to the matcher.
 constexpr const char* kLeft[] = {
     "What is using the most space?",
@@ -159,7 +212,8 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout)})
+          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout),
+          std::span<const Row>(kEveryday)})
         expectAnswers(rows);
 }
 

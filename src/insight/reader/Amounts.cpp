@@ -55,8 +55,14 @@ std::optional<Leading> leadingNumber(std::string text)
     return Leading{value, text.substr(static_cast<std::size_t>(end - text.data()))};
 }
 
+/// "A gigabyte", in any of the languages.
+constexpr std::string_view kArticles[] = {"a",     "an", "one", "ein", "einem",
+                                          "einen", "un", "une", "uno", "una"};
+
 std::optional<Leading> numberBefore(const std::string& word, const Lexicon& lexicon)
 {
+    if (std::ranges::find(kArticles, word) != std::end(kArticles))
+        return Leading{1, {}};
     if (const auto named = lexicon.figure(Figure::number, word))
         return Leading{*named, {}};
     return leadingNumber(word);

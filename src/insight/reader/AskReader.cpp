@@ -248,9 +248,7 @@ bool isTopic(const Question& question)
 /// Asks what is not known, or says what is.
 Answer notUnderstood(const Question& question)
 {
-    const bool saysSomething =
-        std::ranges::any_of(question.phrases, [](const Phrase& phrase) { return phrase.sense != unknown; });
-    return {saysSomething ? InsightTexts::kDontKnow : InsightTexts::kHelp, {}};
+    return {question.pieces > question.count(unknown) ? InsightTexts::kDontKnow : InsightTexts::kHelp, {}};
 }
 
 /// Remembers what it was told: a question is read several times, and each look goes through the whole scan.

@@ -214,6 +214,9 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     if (isAboutIt && !senses.meets(kNames) && !senses.meets(kSorts) && !senses.has(inside) &&
         senses.meets({what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched}))
         return onSame(question, context, before.last);
+    // A name alone was looked for already.
+    if (senses.meets({unknown, quoted}) && !question.isContinued && !question.isBackward)
+        return std::nullopt;
     // "Only in Pictures" after a look at one file of a list means the list.
     const bool isOfList =
         question.isContinued && senses.meets(kSorts.with({inside, above, below, size, period}));

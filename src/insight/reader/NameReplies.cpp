@@ -276,4 +276,20 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     return isFileName(question, name) ? std::optional(notListed(name)) : std::nullopt;
 }
 
+std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
+{
+    const std::string name = nameIn(question);
+    const auto isElse = [&](const Phrase& phrase) {
+        return phrase.sense == Sense::unknown && name.find(phrase.text) == std::string::npos;
+    };
+    // "The mozilla cache"
+    const Subject* const subject = question.subject();
+    const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
+                          findNamed(context, name, subject->kinds).fit >= Fit::words;
+    if (name.empty() || std::ranges::any_of(question.phrases, isElse) ||
+        (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
+        return std::nullopt;
+    return aboutName(question, context);
+}
+
 } // namespace orlen::AskReader

@@ -114,8 +114,19 @@ private:
     {
         if (PathText::isAtOrBelow(path, m_home))
             path.remove_prefix(m_home.size());
-        lowerInto(m_lowerFolders, path);
-        return holdsWords(m_lowerFolders);
+        // Most entries lie in the folder of the one before, and most folders hold none of the words.
+        const std::string_view folder = path.substr(0, path.size() - PathText::lastComponent(path).size());
+        if (folder != m_folder) {
+            m_folder = folder;
+            lowerInto(m_lowerFolders, folder);
+            m_folderHoldsAny = std::ranges::any_of(m_words, [&](const std::string& word) {
+                return m_lowerFolders.find(word) != std::string::npos;
+            });
+        }
+        if (!m_folderHoldsAny)
+            return false;
+        lowerInto(m_lowerPath, path);
+        return holdsWords(m_lowerPath);
     }
 
     [[nodiscard]] bool holdsWords(std::string_view text) const
@@ -146,7 +157,10 @@ private:
     std::vector<std::string> m_words;
     const std::string& m_home = Places::current().home;
     std::string m_lower;
+    std::string m_folder; ///< the one looked at last
     std::string m_lowerFolders;
+    bool m_folderHoldsAny = false;
+    std::string m_lowerPath;
     bool m_mayBePart;
     bool m_mayBeMistyped;
 };
@@ -154,12 +168,13 @@ private:
 /// Keeps what fits best.
 class Best {
 public:
-    explicit Best(std::string_view name) : m_wanted(name) {}
+    /// Nothing that fits less than `least` counts.
+    Best(std::string_view name, Fit least) : m_wanted(name), m_least(least) {}
 
     /// Whether the path belongs to the best so far; a better one drops the others.
     bool take(std::string_view path)
     {
-        const Fit fit = m_wanted.fit(path, m_found.fit);
+        const Fit fit = m_wanted.fit(path, std::max(m_found.fit, m_least));
         if (fit == Fit::none || fit < m_found.fit)
             return false;
         if (fit > m_found.fit) {
@@ -173,6 +188,7 @@ public:
 
 private:
     Wanted m_wanted;
+    Fit m_least;
     Found m_found;
 };
 
@@ -234,11 +250,10 @@ void tidy(Found& found)
     std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
 }
 
-} // namespace
-
-Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
+Found bestFit(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds,
+              Fit least)
 {
-    Best best(name);
+    Best best(name, least);
     lookInFindings(context.findings, kinds, best);
     if (kinds.empty()) {
         lookInBreakdown(context.breakdown, best);
@@ -247,6 +262,15 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
     }
     tidy(best.found());
     return std::move(best.found());
+}
+
+} // namespace
+
+Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
+{
+    // Typing errors take most of the time to look for.
+    Found found = bestFit(context, name, kinds, Fit::part);
+    return found.fit == Fit::none ? bestFit(context, name, kinds, Fit::mistyped) : found;
 }
 
 std::vector<Hit> eachOnce(std::vector<Hit> hits)

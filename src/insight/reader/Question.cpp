@@ -145,10 +145,31 @@ private:
         return true;
     }
 
+    /// An English form that no row lists: "needed".
+    bool takeInflected(const std::string& word)
+    {
+        constexpr std::size_t kShortestStem = 4;
+        constexpr std::string_view kEndings[] = {"s", "es", "ed", "d", "ing"};
+        if (&m_lexicon != Lexicon::all().data() || m_isName(word))
+            return false;
+        for (const std::string_view ending : kEndings) {
+            if (!word.ends_with(ending) || word.size() < kShortestStem + ending.size())
+                continue;
+            const std::string stem = word.substr(0, word.size() - ending.size());
+            const Lexicon::Entry* const plain = m_lexicon.find(stem);
+            const Lexicon::Entry* const entry = plain != nullptr ? plain : m_lexicon.find(stem + "e");
+            if (entry != nullptr) {
+                take({entry->sense, {}, entry->subject, 0, {}}, 1);
+                return true;
+            }
+        }
+        return false;
+    }
+
     void takeUnknown()
     {
         const std::string word = m_plain[m_at];
-        if (takeCompound(word))
+        if (takeCompound(word) || takeInflected(word))
             return;
         const Lexicon::Entry* const meant =
             m_typos == Typos::corrected ? m_lexicon.findMistyped(word) : nullptr;

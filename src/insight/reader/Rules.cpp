@@ -9,6 +9,7 @@
 #include "insight/reader/SpaceReplies.h"
 #include "insight/reader/SubjectReplies.h"
 
+#include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
@@ -34,11 +35,43 @@ constexpr SenseSet kListWords{what,    howMany, howMuch, subject, size,   number
                               takes,   folder,  safe,    keep,    advise, makeRoom, used,   happens};
 constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
 constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
-constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,    remove, uninstall, unopened,
-                                 takes,   space,   general, inside,    disk,   why,    when,      negation,
-                                 used,    number,  biggest, untouched, keep,   safe,   advise,    full,
-                                 subject, folder,  most,    period,    newest, oldest, smallest,  makeRoom,
-                                 since,   ordinal, last,    total,     cleanUp};
+constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,
+                                 takes,   space,   general, inside,    disk,    why,     when,      negation,
+                                 used,    number,  biggest, untouched, keep,    safe,    advise,    full,
+                                 subject, folder,  most,    period,    newest,  oldest,  smallest,  makeRoom,
+                                 since,   ordinal, last,    total,     cleanUp, happens, negation};
+
+constexpr SenseSet everything()
+{
+    SenseSet all;
+    all.bits = ~all.bits;
+    return all;
+}
+
+bool isFor(const Rule& rule, SenseSet senses)
+{
+    SenseSet known = rule.allows;
+    for (const SenseSet need : rule.needs) {
+        if (!senses.meets(need))
+            return false;
+        known = known.with(need);
+    }
+    return senses.isWithin(known);
+}
+
+/// What is asked about a name is understood, or does not matter.
+std::optional<Answer> aboutAnyName(const Question& question, const AskContext& context)
+{
+    static const Rule usual{
+        {{unknown, quoted},
+         {what, howBig, howMuch, can, remove, safe, why, keep, undo, happens, untouched, takes, makeRoom}},
+        {unknown,   quoted,  what,     howBig,  howMuch, can,    remove,    safe,     why,  keep,
+         review,    mean,    undo,     subject, space,   used,   inside,    general,  disk, number,
+         period,    cleanUp, makeRoom, free,    folder,  takes,  happens,   negation, full, biggest,
+         uninstall, trust,   self,     ordinal, oldest,  newest, untouched, advise},
+        aboutName};
+    return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
+}
 
 /// In this order; the first whose senses fit and that has an answer gives it.
 const std::vector<Rule>& rules()
@@ -46,7 +79,7 @@ const std::vector<Rule>& rules()
     static const std::vector<Rule> inOrder{
         // Orlen itself
         {{{self}}, {what, can, general}, whatOrlenAnswers},
-        {{{trust}}, {what, can, general, privacy, safe, subject}, whyTrust},
+        {{{trust}}, {what, can, general, privacy, safe, subject, mean, review, remove, why}, whyTrust},
         {{{privacy}},
          {what, can, disk, subject, safe, keep, general, when, why, negation, trust, inside, remove, opened,
           takes},
@@ -65,6 +98,7 @@ const std::vector<Rule>& rules()
          {remove, cleanUp, what, can, subject, when, general, safe, undo, makeRoom, inside, privacy, before,
           after, space},
          whatHappens},
+        {{{undo}, {size}}, {general, space, can, what}, roomFor},
         {{{undo}},
          {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free},
          howToUndo},
@@ -74,11 +108,16 @@ const std::vector<Rule>& rules()
          allCleanUps},
         {{{cleanUp}, {howMany}}, {what, can, general, last, subject}, allCleanUps},
         {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
-         {space, cleanUp, remove, general},
+         {space, cleanUp, remove, general, what, can},
          allCleanUps},
         {{{cleanUp, remove, makeRoom}, {last}},
          {what, when, howMuch, howBig, howMany, free, remove, makeRoom, general, space, cleanUp, subject},
          lastCleanUp},
+        {{{what, howMuch, howMany}, {cleanUp, remove, makeRoom}, {period}},
+         {subject, cleanUp, inside, since, after, before, general, space},
+         allCleanUps},
+        {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
+        {{{soFar}}, {what, general, cleanUp}, allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         // The disk
         {{{grow}},
@@ -90,6 +129,7 @@ const std::vector<Rule>& rules()
          kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why}),
          whyFull},
         {{{full}, {when, period}}, kSpaceWords.with({what, can, before, general, inside, after}), fullWhen},
+        {{{when}, {space, disk}}, {full, last, takes, general, inside}, fullWhen},
         {{{full}, {can}}, kSpaceWords.with({before, general, when}), fullWhen},
         {{{what}, {full}}, kSpaceWords.with({general, most, what, biggest, inside}), whyFull},
         {{{makeRoom, free}, {size}},
@@ -108,6 +148,7 @@ const std::vector<Rule>& rules()
         {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside}), spaceNow},
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
+        {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
@@ -120,7 +161,7 @@ const std::vector<Rule>& rules()
          kRemoving.with({what, can, howMuch, howBig, howMany, general, space, disk, most, takes, full,
                          ordinal, subject, free, inside, biggest, why, happens}),
          whatMayGo},
-        {{{makeRoom, cleanUp, advise}}, {space, disk, general, can, subject, inside, free}, whatMayGo},
+        {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free}, whatMayGo},
         // Lists
         {{{folder}, {biggest, most, takes, howBig}},
          {what, inside, disk, subject, number, space, general, can, biggest, most, takes, used},
@@ -130,6 +171,7 @@ const std::vector<Rule>& rules()
          sizeOfSubject},
         {{kSorting, {subject, number, inside, size}}, kListing, listOfFiles},
         {{kComparing, {size, period}}, kListing, listOfFiles},
+        {{{subject}, {unopened}}, {what, howMany, general, can, remove, takes, folder}, neverOpened},
         {{{subject}, {inside}, {subject, unknown, period, folder}}, kListing, listOfFiles},
         {{{subject}, {period}}, kListing, listOfFiles},
         {{{biggest, most, takes}},
@@ -137,41 +179,22 @@ const std::vector<Rule>& rules()
          whatIsBiggest},
         // Kinds
         {{{howMany}, {subject}}, {what, space, used, total, disk, general, inside, takes}, sizeOfSubject},
-        {{{subject}, {can, remove, safe}},
+        {{{subject}, {can, remove, safe, untouched}},
          {what, can, remove, safe, inside, review, keep, happens, general, folder, disk, why, makeRoom,
           advise},
          removingSubject},
-        {{{subject}, {can, remove, safe, keep}}, kListing, listOfFiles},
+        {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
         {{{what}, {subject}}, {general}, whatSubjectIs},
         {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},
         // Names
-        {{{unknown, quoted},
-          {what, howBig, howMuch, can, remove, safe, why, keep, undo, happens, untouched, takes}},
-         {unknown,   quoted,  what,     howBig,  howMuch, can,    remove,    safe,     why,  keep,
-          review,    mean,    undo,     subject, space,   used,   inside,    general,  disk, number,
-          period,    cleanUp, makeRoom, free,    folder,  takes,  happens,   negation, full, biggest,
-          uninstall, trust,   self,     ordinal, oldest,  newest, untouched, advise},
-         aboutName},
+        {{{unknown, quoted}}, everything(), aboutAnyName},
     };
     return inOrder;
 }
 
-bool isFor(const Rule& rule, SenseSet senses)
-{
-    SenseSet known = rule.allows;
-    for (const SenseSet need : rule.needs) {
-        if (!senses.meets(need))
-            return false;
-        known = known.with(need);
-    }
-    return senses.isWithin(known);
-}
-
-} // namespace
-
-std::optional<Answer> replyByRule(const Question& question, const AskContext& context)
+std::optional<Answer> firstReply(const Question& question, const AskContext& context)
 {
     for (const Rule& rule : rules()) {
         if (!isFor(rule, question.senses))
@@ -180,6 +203,25 @@ std::optional<Answer> replyByRule(const Question& question, const AskContext& co
             return found;
     }
     return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Answer> replyByRule(const Question& question, const AskContext& context)
+{
+    if (std::optional<Answer> found = firstReply(question, context))
+        return found;
+    // These words decide nothing by themselves: no rule has to know them.
+    constexpr SenseSet kWeak{general, can, ordinal};
+    std::vector<Phrase> strong;
+    for (const Phrase& phrase : question.phrases) {
+        if (!kWeak.has(phrase.sense))
+            strong.push_back(phrase);
+    }
+    if (strong.empty() || strong.size() == question.phrases.size() ||
+        question.senses.meets({unknown, quoted}))
+        return std::nullopt;
+    return firstReply(withPhrases(question, std::move(strong)), context);
 }
 
 } // namespace orlen::AskReader

@@ -202,7 +202,10 @@ std::optional<Answer> biggestFolders(const Question& question, const AskContext&
 
 std::optional<Answer> whatMayGo(const Question& question, const AskContext& context)
 {
-    if (!hasNoKind(question))
+    // "Can I delete it?" and "did I clean up in May?" ask about something else.
+    const bool isElse = (question.isBackward && !question.senses.meets({Sense::what, Sense::howMuch})) ||
+                        (question.senses.has(Sense::inside) && question.subject() == nullptr);
+    if (isElse || !hasNoKind(question))
         return std::nullopt;
     return AskEngine::fallback("safe", context);
 }

@@ -223,6 +223,15 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
     return answer;
 }
 
+std::optional<Answer> neverOpened(const Question& question, const AskContext& context)
+{
+    Phrase old = *question.first(Sense::subject);
+    if (!old.subject->isAnyFile)
+        return std::nullopt;
+    old.subject = &subjectFor(SubjectID::oldFiles);
+    return sizeOfSubject(withPhrases(question, {std::move(old)}), context);
+}
+
 Answer aboutFinding(const Finding& finding)
 {
     Lines lines;

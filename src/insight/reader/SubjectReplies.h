@@ -21,6 +21,9 @@ namespace orlen::AskReader {
 /// How much removing it would free.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
+/// What has not been opened for long.
+[[nodiscard]] std::optional<Answer> neverOpened(const Question& question, const AskContext& context);
+
 /// What one finding is, its size and its rating.
 [[nodiscard]] Answer aboutFinding(const Finding& finding);
 

@@ -6,10 +6,12 @@ namespace english_words {
 
 constexpr WordRow kWords[] = {
     {Sense::self,
-     "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what "
-     "questions can i ask,who are you,what are you,help,help me,how does this work,how do you "
-     "work,what is orlen,what does orlen do,hello,hi,hey,good morning,good evening,thanks,thank "
-     "you,thx,what is this program,what does this program do,how do i use this,how do i use orlen"},
+     "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what questions "
+     "can i ask,who are you,what are you,help,help me,how does this work,how do you work,what is orlen,what "
+     "does orlen do,hello,hi,hey,good morning,good evening,thanks,thank you,thx,what is this program,what "
+     "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
+     "me,what can you do for me,how can you help,how can you help me,what are you able to do,what is this "
+     "app,what does this app do"},
     {Sense::advise, "recommend,recommended,suggest,suggested,suggestion,suggestions,recommendation,"
                     "recommendations,advise,advice,start with,begin with,get started,should start,do "
                     "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
@@ -20,7 +22,8 @@ constexpr WordRow kWords[] = {
     {Sense::happens, "what happens,what will happen,what would happen,happen,happens,where do they go,where "
                      "does it go,where do deleted files go,permanently,forever,for good,gone for good,for "
                      "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
-                     "something,breaking,destroy,consequences"},
+                     "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your "
+                     "own,without asking,automatically,without my permission,regret,lost,be lost"},
     {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
     {Sense::also, "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and "
                   "also"},
@@ -52,7 +55,13 @@ constexpr WordRow kWords[] = {
      "fix,solve,exist,exists,noticed,understand,explain me,remind,therefore,though,although,instead,yet,per "
      "se,anything like,whatever,where exactly,on disk,really do,meanwhile,taken by,i have,i "
      "got,pretty,quite,very,such as,honestly,literally,super,actually do,us both,pls help,finally,once,each "
-     "one,everywhere,anywhere at all,located on"},
+     "one,everywhere,anywhere at all,located "
+     "on,im,ive,id,between,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats "
+     "up,pls can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
+     "wise,whichever,these days,real,stuff like,sized,weird,strange,suddenly,oh no,ugh,damn,anywhere "
+     "else,dunno,idk,im not sure,not sure,unsure,curious about,regarding,concerning,related,related to,size "
+     "wise,by any chance,for me,to me,kids,grandchildren,way,ways,christmas eve,itself,done,doing,needs "
+     "to,as well as that,person,ordinary,first of all,away,date,dated"},
     {Sense::negation, "not,don't,dont,doesn't,doesnt,didn't,isn't,aren't,can't,cant,cannot,shouldn't,mustn't,"
                       "never,won't,haven't,"
                       "havent,hasn't,wasn't,weren't,no longer,without,couldn't,wouldn't,ain't"},
@@ -82,7 +91,9 @@ constexpr WordRow kWords[] = {
      "space,win,free some,make some room,make some space,more space,more room,get space,get more space,get "
      "more room,need space,need room,need more space,freeing up,need more room,create space,get rid of "
      "stuff,tidy up,declutter,get some space,need some space,save space,saving space,spare up,frees,freed "
-     "up,space back,find space,get space back,some space back,i need"},
+     "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
+     "things,trim,shrink,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
+     "full,emptier,lighten"},
     {Sense::untouched,
      "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never "
      "delete,never "
@@ -103,42 +114,42 @@ constexpr WordRow kWords[] = {
      "it,move to the trash,purge,kill,lose,empty,emptied,part with,live without,do without,chuck,toss,toss "
      "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
      "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
-     "want,dont want,no longer want,can go,may go,delete it,unneeded files,not need"},
-    {Sense::undo,
-     "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
-     "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them back,bring it "
-     "back,bring them back,put it back,put them back,changed my mind,by mistake,by accident,accidentally,get "
-     "my files back,undoing,rollback,want it back,want them back,come back,back"},
+     "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw"},
+    {Sense::undo, "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
+                  "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them "
+                  "back,bring it back,bring them back,put it back,put them back,changed my mind,by "
+                  "mistake,by accident,accidentally,get my files back,undoing,rollback,want it back,want "
+                  "them back,come back,back,recoverable,retrievable,retrieve"},
     {Sense::safe, "safe,safely,harmless,ok,dangerous,risky,safest,problem,problems,risk,risks,bad "
                   "idea,trouble,okay,without worrying,without worry,without risk,without problems,without a "
                   "problem,without fear,without danger"},
     {Sense::review, "review"},
-    {Sense::keep, "keep,kept,hang on to,hold on to"},
-    {Sense::mean,
-     "mean,means,meaning,stand for,stands for,difference between,the difference,ratings,rating,rated,meant,"
-     "colours,colors,labels,rate,rates,difference,categorise,definition"},
+    {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays"},
+    {Sense::mean, "mean,means,meaning,stand for,stands for,difference between,the "
+                  "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,"
+                  "categorise,definition,rules,rule,criteria,decide,judge,classified,classify,label"},
     {Sense::soFar,
      "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already freed,history,"
      "in the past,over the years,ever cleaned,since the beginning,since i started,all together"},
-    {Sense::used, "occupied,taken,in use,used up,how full,consumed,filled up so far,space used"},
+    {Sense::used, "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk "
+                  "usage,space usage,storage usage"},
     {Sense::handled, "used,accessed"},
     {Sense::opened, "opened,touched,open,touch,looked at,watched,viewed,read"},
     {Sense::full,
-     "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of space,"
-     "no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk space,"
-     "no free space,no more space,no disk space,so full,run out of space,running out of space,no space "
-     "left,no "
-     "free space left,run out of room,running low on space,running low,run out of disk space,running out of "
-     "disk "
-     "space,running out of storage,run out of storage,getting full,running out of room,used so much,so much "
-     "space gone,space gone,all my space,all the space,space go,space went,storage full,not enough "
-     "space,lost "
-     "space,losing space,no storage left,eaten up,where did my space,filling so fast,hit the limit,low on "
-     "disk"},
+     "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
+     "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
+     "space,no free space,no more space,no disk space,so full,run out of space,running out of space,no space "
+     "left,no free space left,run out of room,running low on space,running low,run out of disk space,running "
+     "out of disk space,running out of storage,run out of storage,getting full,running out of room,used so "
+     "much,so much space gone,space gone,all my space,all the space,space go,space went,storage full,not "
+     "enough space,lost space,losing space,no storage left,eaten up,where did my space,filling so fast,hit "
+     "the limit,low on disk,all my space gone,all my space go,my space gone,space disappear,space "
+     "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk space"},
     {Sense::free,
      "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty space,"
      "remains,vacant"},
-    {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total space"},
+    {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total "
+                   "space,status,overview,summary"},
     {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
                   "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,"
                   "mac,disc,my disk,harddrive,harddisk,notebook,nvme"},
@@ -164,8 +175,9 @@ constexpr WordRow kWords[] = {
      "enormous,massive,gigantic,bigest,sorted by size,by size"},
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated"},
-    {Sense::newest,
-     "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most recently"},
+    {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
+                    "recently,changed,modified,edited,altered,came in,appeared,were added,was "
+                    "added,added,arrived,last added"},
     {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
                   "bigger,increase,"
                   "gained,changed in size,swelled,swollen,ballooned"},
@@ -192,35 +204,36 @@ constexpr WordRow kWords[] = {
     {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
-    {Sense::privacy,
-     "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,tracking,"
-     "track,send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone "
-     "home,share,shares,shared,third party,third "
-     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,chatgpt,secret,spies,"
-     "see my files,see my photos,watching me,who can see,personal data,data "
-     "protection,hackers,hacker,ads,visible to others,see it,see them,snoop,third-party,safe from "
-     "hackers,data leaves,leave my computer,leaves my computer"},
+    {Sense::privacy, "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,"
+                     "telemetry,tracking,track,send,sends,sent,sending,spy,spying,leave,leaves,server,"
+                     "servers,phone home,share,shares,shared,third party,third "
+                     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,"
+                     "chatgpt,secret,spies,see my files,see my photos,watching me,who can see,personal "
+                     "data,data protection,hackers,hacker,ads,visible to others,see it,see "
+                     "them,snoop,third-party,safe from hackers,data leaves,leave my computer,leaves my "
+                     "computer,who can read,who has access,who sees,who reads,access to my"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
-    {Sense::general,
-     "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
-     "languages,translation,mail,attachment,important,copies,same "
-     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,faster,slow,cost,costs,category,"
-     "categories,else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,automatically,actually "
-     "do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
-     "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
-     "leftovers,remains,changed,modified,edited,altered,leftover files"},
+    {Sense::general, "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
+                     "backups,ios,language,languages,translation,mail,attachment,important,same "
+                     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,faster,slow,cost,"
+                     "costs,category,categories,else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,"
+                     "actually do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
+                     "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,"
+                     "location,live,lives,leftovers,remains,leftover files,last "
+                     "long,lasts,lasting,suffice,mess,messy,chaos,cluttered,disorder,clutterd"},
 };
 
 constexpr SubjectRow kSubjects[] = {
     {SubjectID::similarPhotos,
-     "similar photos,similar pictures,similar images,similar shots,duplicate photos,duplicate pictures,"
-     "duplicate images,duplicated photos,duplicated pictures,duplicate shots,near identical photos,"
-     "near-identical photos,photos twice,photo duplicates,copies of photos,copies of pictures,copies of my "
-     "photos,copies of my pictures,double photos,double pictures,identical photos,same photos,same "
-     "photo,same "
-     "picture,same pictures,pictures that look the same,photos that look the same,photos that look alike,"
-     "lookalike photos,similar looking photos,near duplicates,bursts,burst photos,pictures twice,photos more "
-     "than once,pictures more than once,near-duplicate photos"},
+     "similar photos,similar pictures,similar images,similar shots,duplicate photos,duplicate "
+     "pictures,duplicate images,duplicated photos,duplicated pictures,duplicate shots,near identical "
+     "photos,near-identical photos,photos twice,photo duplicates,copies of photos,copies of pictures,copies "
+     "of my photos,copies of my pictures,double photos,double pictures,identical photos,same photos,same "
+     "photo,same picture,same pictures,pictures that look the same,photos that look the same,photos that "
+     "look alike,lookalike photos,similar looking photos,near duplicates,bursts,burst photos,pictures "
+     "twice,photos more than once,pictures more than once,near-duplicate photos,look the same,look "
+     "alike,looks the same,similar,look similar,looking the same,alike,similar ones,look almost the "
+     "same,nearly the same,resemble"},
     {SubjectID::screenshots, "screenshot,screenshots,screen shots,screen shot,screen captures,screen "
                              "grabs,screengrabs,screen capture,"
                              "screencaps"},

@@ -7,11 +7,10 @@ namespace french_words {
 constexpr WordRow kWords[] = {
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "
-     "qui,aide,à "
-     "l aide,aide moi,bonjour,salut,bonsoir,coucou,merci,comment ça marche,c est quoi orlen,que fait "
-     "orlen,qu "
-     "est ce que orlen,comment fonctionne orlen,à quoi sert orlen,qu est ce que tu peux faire,que peux tu me "
-     "dire,tu sais faire quoi,à quoi sert ce programme,comment utiliser orlen"},
+     "qui,aide,à l aide,aide moi,bonjour,salut,bonsoir,coucou,merci,comment ça marche,c est quoi orlen,que "
+     "fait orlen,qu est ce que orlen,comment fonctionne orlen,à quoi sert orlen,qu est ce que tu peux "
+     "faire,que peux tu me dire,tu sais faire quoi,à quoi sert ce programme,comment utiliser orlen,comment "
+     "peux tu m aider,que peux tu faire pour moi"},
     {Sense::advise,
      "conseilles,conseiller,conseil,conseils,recommandes,recommander,recommandation,recommandations,suggères,"
      "suggestion,suggestions,suggérer,commencer,que faire,le mieux,en priorité,vaut la "
@@ -20,7 +19,8 @@ constexpr WordRow kWords[] = {
     {Sense::trust, "confiance,fiable,virus,malveillant,orlen est il sûr,sérieux"},
     {Sense::happens, "se passe,passe t il,arrive t il,que se passe t il,définitivement,pour "
                      "toujours,définitif,irréversible,arrive,se passera,se passerait,où vont,pour de "
-                     "bon,passe,casser,abîmer,casse,bugger,nuire,planter"},
+                     "bon,passe,casser,abîmer,casse,bugger,nuire,planter,tout seul,toute "
+                     "seule,automatiquement,sans demander,sans me demander,sans prévenir"},
     {Sense::only, "seulement,uniquement,juste,que dans,rien que,exclusivement"},
     {Sense::also,
      "et,aussi,ainsi que,qu en est il de,qu en est il des,et pour,et les,et le,et la,&,et qu en est il "
@@ -52,7 +52,9 @@ constexpr WordRow kWords[] = {
      "part,presque,assez,aurai,aurais,aura,ailleurs,souvent,parfois,tant,semble,voici,aimerai,moi même,peut "
      "être,afin,pendant,parce,comme,autant,vu que,dedans,gens,dit,crois,pense,elles,ils sont,ça fait,jamais "
      "vu,mettent,ranger,lieu,madame,monsieur,mon fils,puisque,plutôt,sous,encore une "
-     "fois,ayez,aie,aies,simple,rapide,quoi que,presque tout,serait il,actuel,présente"},
+     "fois,ayez,aie,aies,simple,rapide,quoi que,presque tout,serait "
+     "il,actuel,présente,entre,parmi,contre,via,hors,durant,selon,soudain,bizarre,enfants,aucune idée,à "
+     "propos,concernant,en fait,quasi,date,datent,datant,datés"},
     {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,sans,n ai pas,n est pas,ne pas"},
     {Sense::what,
      "quoi,que,qu est ce que,qu est ce que c est que,qu est ce qui,quel,quelle,quels,quelles,lequel,laquelle,"
@@ -86,7 +88,7 @@ constexpr WordRow kWords[] = {
      "espace,économiser,dégager,libérerait,libérerais,gagnerais,gagnerait,désencombrer,économise,libération,"
      "faire un peu de place,libérerai,gagnerai,avoir plus de place,manque de place pour,rendre de la "
      "place,besoin de place,besoin d espace,libérerons,récupérerais,de la place,j ai besoin de,il me faut,me "
-     "faut,j ai besoin d"},
+     "faut,j ai besoin d,alléger,moins plein,soulager"},
     {Sense::untouched, "jamais touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche "
                        "jamais,touches jamais,"
                        "supprime jamais,supprimes jamais,ne touche pas,protège,intact,laisse "
@@ -118,9 +120,9 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,à vérifier,vérifier,à examiner,à revoir,examiner"},
     {Sense::keep,
      "garder,conserver,garde,à garder,keep,à conserver,gardé,conservé,important,importants,gardez"},
-    {Sense::mean,
-     "veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence entre,note,"
-     "notes,évaluation,évaluations,évalué,couleurs,vouloir dire,classé,classés"},
+    {Sense::mean, "veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence "
+                  "entre,note,notes,évaluation,évaluations,évalué,couleurs,vouloir "
+                  "dire,classé,classés,règles,règle,critères,classement"},
     {Sense::soFar,
      "jusqu ici,jusqu à présent,jusqu à maintenant,en tout déjà,historique,au total déjà,depuis le "
      "début,en tout et pour tout,par le passé,jusque là"},
@@ -131,16 +133,15 @@ constexpr WordRow kWords[] = {
      "lus,vu,vus,vues,consultée,consultées,lancé,lancés,regarder,écouté,écoutés,joué"},
     {Sense::full,
      "plein,pleine,presque plein,rempli,remplit,saturé,saturée,plus de place,plus d espace,manque de "
-     "place,manque d "
-     "espace,à court de place,à court d espace,si plein,rempli si,se remplit,sera plein,plus assez de "
-     "place,plus "
-     "assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas assez de "
-     "place,sature,plus "
-     "aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer de place,aussi plein"},
+     "place,manque d espace,à court de place,à court d espace,si plein,rempli si,se remplit,sera plein,plus "
+     "assez de place,plus assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas "
+     "assez de place,sature,plus aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer "
+     "de place,aussi plein,où est passé,où est passée,est passé tout mon espace,où est partie,où est parti"},
     {Sense::free,
      "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il reste,restent,"
      "me reste,de libre,dispo,vacant"},
-    {Sense::total, "total,totale,capacité,au total,en tout,globale,taille totale,au totale"},
+    {Sense::total,
+     "total,totale,capacité,au total,en tout,globale,taille totale,au totale,aperçu,résumé,bilan,état"},
     {Sense::disk,
      "disque,disque dur,ssd,hdd,ordinateur,ordi,pc,machine,portable,partition,stockage,disques,le disk,"
      "disque système,mon mac,bécane"},
@@ -173,13 +174,14 @@ constexpr WordRow kWords[] = {
     {Sense::smallest,
      "plus petit,plus petits,plus petite,plus petites,les plus petits,le plus petit,les plus petites,"
      "la plus petite"},
-    {Sense::oldest,
-     "plus vieux,plus ancien,plus anciens,plus ancienne,plus anciennes,les plus vieux,le plus vieux,les "
-     "plus anciens,le plus ancien,les plus anciennes,la plus ancienne,vieux,vieille,vieilles,anciens,"
-     "anciennes,plus vieilles,plus vieille,ancien,les plus vieilles,la plus vieille,ancienne"},
+    {Sense::oldest, "plus vieux,plus ancien,plus anciens,plus ancienne,plus anciennes,les plus vieux,le plus "
+                    "vieux,les plus anciens,le plus ancien,les plus anciennes,la plus "
+                    "ancienne,vieux,vieille,vieilles,anciens,anciennes,plus vieilles,plus vieille,ancien,les "
+                    "plus vieilles,la plus vieille,ancienne,quel âge,âge"},
     {Sense::newest,
-     "plus récent,plus récents,plus récente,plus récentes,les plus récents,le plus récent,récent,récents,"
-     "les plus récentes,la plus récente,nouveaux,nouveau,nouvelles,récentes,récemment,plus récemment"},
+     "plus récent,plus récents,plus récente,plus récentes,les plus récents,le plus récent,récent,récents,les "
+     "plus récentes,la plus récente,nouveaux,nouveau,nouvelles,récentes,récemment,plus "
+     "récemment,changé,changés,modifié,modifiés,modifiées,ajouté,ajoutés,nouveautés"},
     {Sense::grow, "grossi,grossit,grandi,grandit,augmenté,augmente,croissance,pris du volume,pris de la "
                   "place,gonflé,enflé,a augmenté,agrandi"},
     {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
@@ -207,30 +209,27 @@ constexpr WordRow kWords[] = {
     {Sense::since, "depuis,plus récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
-    {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
-                     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,"
-                     "envoie,envoies,envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,"
-                     "partager,partage,partages,"
-                     "compte,hors ligne,téléverser,upload,collecte,collectes,données "
-                     "personnelles,transmet,transmises,transmet tu,"
-                     "tiers,google,wifi,quitte,quittent,mes données privées,rgpd,sur le net,espion,le "
-                     "web,transmettre,ia,sortent,"
-                     "pub,récolte"},
+    {Sense::privacy,
+     "internet,en ligne,réseau,privé,privées,vie "
+     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,envoyé,envoyées,"
+     "envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,partages,compte,hors "
+     "ligne,téléverser,upload,collecte,collectes,données personnelles,transmet,transmises,transmet "
+     "tu,tiers,google,wifi,quitte,quittent,mes données privées,rgpd,sur le net,espion,le "
+     "web,transmettre,ia,sortent,pub,récolte,qui peut voir,qui peut lire,qui a accès"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
-    {Sense::general, "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,"
-                     "catégories,mieux,autre,autres,premier,abord,premier "
-                     "lieu,automatiquement,long,longtemps,seul,bon,temps,jour,jours,mois,année,fois,vers "
-                     "quoi,plus,ordures,changé,changés,modifié,modifiés,modifiées,restes"},
+    {Sense::general,
+     "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
+     "autres,premier,abord,premier lieu,long,longtemps,seul,bon,temps,jour,jours,mois,année,fois,vers "
+     "quoi,plus,ordures,restes,tiendra,suffit,dure,durera,tient"},
 };
 
 constexpr SubjectRow kSubjects[] = {
-    {SubjectID::similarPhotos, "photos similaires,images similaires,photos en double,images en double,photos "
-                               "semblables,doublons de photos,"
-                               "photos identiques,images identiques,photos qui se ressemblent,images qui se "
-                               "ressemblent,doublons photos,photos "
-                               "doublons,photos ressemblantes,photos dupliquées,photos presque "
-                               "identiques,photos en doublon,mêmes photos,"
-                               "images semblables"},
+    {SubjectID::similarPhotos,
+     "photos similaires,images similaires,photos en double,images en double,photos semblables,doublons de "
+     "photos,photos identiques,images identiques,photos qui se ressemblent,images qui se "
+     "ressemblent,doublons photos,photos doublons,photos ressemblantes,photos dupliquées,photos presque "
+     "identiques,photos en doublon,mêmes photos,images semblables,se "
+     "ressemblent,ressemblent,similaires,semblables,ressemblants,similaire"},
     {SubjectID::screenshots,
      "capture d écran,captures d écran,captures écran,capture écran,screenshot,screenshots,"
      "copies d écran,copie d écran,captures"},

@@ -5,11 +5,11 @@ namespace orlen::AskReader {
 namespace german_words {
 
 constexpr WordRow kWords[] = {
-    {Sense::self,
-     "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist du,was bist du,"
-     "hilfe,hallo,hi,guten tag,guten morgen,moin,servus,danke,vielen dank,wie funktioniert das,was ist orlen,"
-     "was macht orlen,wie funktioniert orlen,was kann orlen,was macht dieses programm,was weißt du,grüß gott,"
-     "hilf mir"},
+    {Sense::self, "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist "
+                  "du,was bist du,hilfe,hallo,hi,guten tag,guten morgen,moin,servus,danke,vielen dank,wie "
+                  "funktioniert das,was ist orlen,was macht orlen,wie funktioniert orlen,was kann orlen,was "
+                  "macht dieses programm,was weißt du,grüß gott,hilf mir,was kannst du für mich tun,wie "
+                  "kannst du helfen,wie kannst du mir helfen,was kannst du tun"},
     {Sense::advise,
      "empfiehlst,empfehlen,empfehlung,empfehlungen,rätst,raten,vorschlag,vorschläge,vorschlagen,schlägst,"
      "anfangen,am besten,was tun,was jetzt,beginnen,lohnt sich,lohnt,was soll ich tun,was soll ich "
@@ -17,7 +17,8 @@ constexpr WordRow kWords[] = {
     {Sense::trust, "vertrauen,vertrauenswürdig,seriös,ist orlen sicher,virus,schadsoftware,trauen"},
     {Sense::happens,
      "passiert,passieren,was passiert,geschieht,endgültig,für "
-     "immer,unwiderruflich,dauerhaft,wohin,kaputt,schadet,schaden,kaputtgehen,geht kaputt,zerstört"},
+     "immer,unwiderruflich,dauerhaft,wohin,kaputt,schadet,schaden,kaputtgehen,geht kaputt,zerstört,von "
+     "allein,ohne zu fragen,ohne nachzufragen,eigenmächtig,automatisch,ungefragt,von sich aus"},
     {Sense::only, "nur,bloß,lediglich,ausschließlich"},
     {Sense::also,
      "und,auch,außerdem,und was ist mit,was ist mit,wie steht es mit,wie sieht es aus mit,wie sieht es "
@@ -49,7 +50,9 @@ constexpr WordRow kWords[] = {
      "irgendwohin,steht,stehen,her,hin,von,scheint,glaube,denke,meinst,meine "
      "ich,würdet,rauf,drüben,ebenfalls,trotzdem,erst,hallo "
      "du,mann,kind,wozu,deren,dessen,hättest,hätte,gibs,ziemlich,ob ich,da drin,gesamten "
-     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst"},
+     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,zwischen,durch,gegen,um,während,trotz,statt,"
+     "hinter,neben,beim,bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine "
+     "ahnung,im grunde,quasi,übers,ums,fürs,falls möglich"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,ohne,nichts,nirgends,keinesfalls"},
     {Sense::what,
      "was,was ist,was sind,welche,welcher,welches,welchen,welchem,wo,wo ist,wo sind,wer,was für,was für "
@@ -73,14 +76,14 @@ constexpr WordRow kWords[] = {
      "kann,können,könnte,darf,dürfen,soll,sollte,sollten,sollen,muss,müssen,brauche ich,brauch ich,ist es "
      "sicher,"
      "ist es okay,ist es ok,kann ich gefahrlos,ist es möglich,ist es in ordnung,kann man,könnten"},
-    {Sense::makeRoom,
-     "freigeben,freimachen,frei machen,platz schaffen,platz machen,frei bekommen,frei "
-     "kriegen,freibekommen,gewinnen,gewinne,sparen,spare,einsparen,freiräumen,platz gewinnen,platz "
-     "sparen,schaffen,mehr platz,frei räumen,freigegeben,freigemacht,frei "
-     "gemacht,gespart,gewonnen,freiwerden,frei werden,frei wird,zurückgewinnen,mehr speicher,mehr "
-     "speicherplatz,platz frei,frei würde,frei würden,bringt,bringen,bringen "
-     "würde,freischaufeln,entrümpeln,ausmisten,verschlanken,speicherplatz frei,platz bekommen,ich brauche "
-     "platz,brauche platz,ich brauche,brauche noch,ich bräuchte,bräuchte,benötige,ich benötige"},
+    {Sense::makeRoom, "freigeben,freimachen,frei machen,platz schaffen,platz machen,frei bekommen,frei "
+                      "kriegen,freibekommen,gewinnen,gewinne,sparen,spare,einsparen,freiräumen,platz "
+                      "gewinnen,platz sparen,schaffen,mehr platz,frei räumen,freigegeben,freigemacht,frei "
+                      "gemacht,gespart,gewonnen,freiwerden,frei werden,frei wird,zurückgewinnen,mehr "
+                      "speicher,mehr speicherplatz,platz frei,frei würde,frei würden,bringt,bringen,bringen "
+                      "würde,freischaufeln,entrümpeln,ausmisten,verschlanken,speicherplatz frei,platz "
+                      "bekommen,ich brauche platz,brauche platz,ich brauche,brauche noch,ich "
+                      "bräuchte,bräuchte,benötige,ich benötige,leerer,entlasten,weniger voll,erleichtern"},
     {Sense::untouched, "nie anfassen,fasst nie "
                        "an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie an,"
                        "nie an,niemals an,nie löschen,nie gelöscht,löscht nie,rührt nicht an,nie "
@@ -116,10 +119,11 @@ constexpr WordRow kWords[] = {
     {Sense::keep, "behalten,behalte,aufheben,keep,aufbewahren,wichtig,bleiben,behältst"},
     {Sense::mean,
      "bedeutet,bedeuten,bedeutung,heißen,unterschied,bewertung,bewertungen,meint,heisst,was heißt,was "
-     "bedeutet,eingestuft,einstufung,farben,bewertet"},
+     "bedeutet,eingestuft,einstufung,farben,bewertet,regeln,regel,kriterien,entscheidet,eingeteilt"},
     {Sense::soFar, "bisher,bislang,insgesamt schon,bis jetzt,bis heute,insgesamt bisher,jemals,verlauf,schon "
                    "insgesamt,alles in allem,in der vergangenheit,im laufe der zeit"},
-    {Sense::used, "belegt,besetzt,in gebrauch,wie voll,verbraucht,in benutzung,voll ist,weg ist"},
+    {Sense::used, "belegt,besetzt,in gebrauch,wie voll,verbraucht,in benutzung,voll ist,weg "
+                  "ist,speicherbelegung,belegung,auslastung"},
     {Sense::handled, "benutzt,verwendet,genutzt,gebraucht,benutze,verwende,nutze,gebrauche,benütze"},
     {Sense::opened, "geöffnet,öffne,öffnen,angefasst,angesehen,angeschaut,angerührt,aufgemacht,angeguckt,"
                     "berührt,geschaut,gehört,gelesen,aufgerufen,gesehen,geguckt,angehört,gespielt"},
@@ -136,7 +140,8 @@ constexpr WordRow kWords[] = {
      "speicherplatz aus,speicherplatz hin"},
     {Sense::free, "frei,freier,freien,freie,freies,verfügbar,verfügbarer,übrig,übriggeblieben,verbleibend,"
                   "ungenutzt,bleibt,unbelegt,leer,hab ich noch,habe ich noch,noch übrig,übrig hab"},
-    {Sense::total, "insgesamt,gesamt,kapazität,gesamtgröße,zusammen,gesamtkapazität,in summe,summe"},
+    {Sense::total, "insgesamt,gesamt,kapazität,gesamtgröße,zusammen,gesamtkapazität,in "
+                   "summe,summe,übersicht,überblick,status,zusammenfassung"},
     {Sense::disk, "festplatte,platte,laufwerk,ssd,hdd,rechner,computer,laptop,pc,datenträger,partition,kiste,"
                   "gerät,notebook,"
                   "speicher,speichers,festplatten,harddisk,systemlaufwerk"},
@@ -158,13 +163,15 @@ constexpr WordRow kWords[] = {
                      "größten,große,großen,großer,großes,riesige,"
                      "riesigen,fetteste,top,gross,nach größe,groß,grosse,dicke,dicken,umfangreichsten"},
     {Sense::smallest, "kleinste,kleinsten,am kleinsten,kleine,kleinen"},
-    {Sense::oldest, "älteste,ältesten,ältester,am ältesten,alte,alten,alter,uralte,altes,uralten,veraltete"},
-    {Sense::newest, "neueste,neuesten,neuester,jüngste,jüngsten,neuste,neusten,am "
-                    "neuesten,neue,neuen,kürzlich,aktuellste,frischeste,aktuellsten,zuletzt geändert,zuletzt "
-                    "geänderte,zuletzt geänderten,zuletzt hinzugefügt,zuletzt hinzugefügte,zuletzt "
-                    "bearbeitet,zuletzt heruntergeladen"},
+    {Sense::oldest,
+     "älteste,ältesten,ältester,am ältesten,alte,alten,alter,uralte,altes,uralten,veraltete,alt,uralt"},
+    {Sense::newest,
+     "neueste,neuesten,neuester,jüngste,jüngsten,neuste,neusten,am "
+     "neuesten,neue,neuen,kürzlich,aktuellste,frischeste,aktuellsten,zuletzt geändert,zuletzt "
+     "geänderte,zuletzt geänderten,zuletzt hinzugefügt,zuletzt hinzugefügte,zuletzt bearbeitet,zuletzt "
+     "heruntergeladen,geändert,geänderte,geänderten,verändert,bearbeitet,dazugekommen,hinzugekommen,neues"},
     {Sense::grow, "gewachsen,wachsen,wächst,wachstum,größer "
-                  "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden,dazugekommen"},
+                  "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
     {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
                    "als,größer,länger als,"
                    "minimum,>,und mehr,und größer"},
@@ -187,22 +194,23 @@ constexpr WordRow kWords[] = {
      "senden,sendet,gesendet,verschickt,server,ausspionieren,spioniert,teilen,teilt,konto,anmelden,offline,"
      "übertragen,übertragt,sammelt,daten ab,ins netz,wlan,google,verlässt,verlassen,wer "
      "sieht,überträgt,dritte,weitergegeben,ki,hoch,meine daten "
-     "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden"},
+     "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden,wer kann sehen,wer kann lesen,wer "
+     "hat zugriff,zugriff auf"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
      "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
      "unnötige,unnötigen,müll,kram,krempel,zeug,kategorie,kategorien,mehr,zuerst,als "
-     "erstes,besser,gut,lang,lange,länger,automatisch,funde,fund,andere,anderen,anderes,überflüssige,tag,"
-     "tage,woche,monat,jahr,male,dauert,geändert,verändert,bearbeitet,reste"},
+     "erstes,besser,gut,lang,lange,länger,funde,fund,andere,anderen,anderes,überflüssige,tag,tage,woche,"
+     "monat,jahr,male,dauert,reste,reicht,reichen,hält,genügt,chaos,durcheinander,unordnung"},
 };
 
 constexpr SubjectRow kSubjects[] = {
-    {SubjectID::similarPhotos, "ähnliche fotos,ähnliche bilder,doppelte fotos,doppelte bilder,doppelten "
-                               "fotos,doppelten bilder,ähnlichen "
-                               "fotos,ähnlichen bilder,fotos doppelt,bilder doppelt,fotoduplikate,ähnliche "
-                               "aufnahmen,gleiche fotos,gleiche "
-                               "bilder,identische fotos,identische bilder,serienbilder,fast gleiche "
-                               "fotos,fast gleiche bilder,mehrfache fotos"},
+    {SubjectID::similarPhotos,
+     "ähnliche fotos,ähnliche bilder,doppelte fotos,doppelte bilder,doppelten fotos,doppelten "
+     "bilder,ähnlichen fotos,ähnlichen bilder,fotos doppelt,bilder doppelt,fotoduplikate,ähnliche "
+     "aufnahmen,gleiche fotos,gleiche bilder,identische fotos,identische bilder,serienbilder,fast gleiche "
+     "fotos,fast gleiche bilder,mehrfache fotos,sehen gleich aus,gleich aus,gleich "
+     "aussehen,ähnlich,ähnliche,ähneln,ähnlich sehen,ähnlich aus,sich ähneln,fast identisch"},
     {SubjectID::screenshots, "screenshot,screenshots,bildschirmfoto,bildschirmfotos,bildschirmaufnahmen,"
                              "bildschirmabzüge,bildschirmfotografien"},
     {SubjectID::receipts, "kassenbon,kassenbons,quittung,quittungen,belege,beleg,rechnungsfotos,kassenzettel,"

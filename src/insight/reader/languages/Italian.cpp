@@ -7,10 +7,9 @@ namespace italian_words {
 constexpr WordRow kWords[] = {
     {Sense::self,
      "cosa puoi fare,cosa sai fare,che cosa puoi fare,cosa ti posso chiedere,cosa posso chiederti,chi "
-     "sei,cosa sei,"
-     "aiuto,aiutami,ciao,buongiorno,buonasera,salve,grazie,come funziona,cos è orlen,cosa fa orlen,che cos è "
-     "orlen,"
-     "come funziona orlen,a cosa serve orlen,cosa fa questo programma,a che serve orlen,come si usa orlen"},
+     "sei,cosa sei,aiuto,aiutami,ciao,buongiorno,buonasera,salve,grazie,come funziona,cos è orlen,cosa fa "
+     "orlen,che cos è orlen,come funziona orlen,a cosa serve orlen,cosa fa questo programma,a che serve "
+     "orlen,come si usa orlen,come puoi aiutarmi,cosa puoi fare per me"},
     {Sense::advise, "consigli,consigliare,consiglio,consiglieresti,suggerisci,suggerimento,suggerimenti,"
                     "suggerire,raccomandi,cominciare,iniziare,comincio,inizio da,cosa faccio,che "
                     "faccio,conviene,vale la pena,iniziamo,da dove parto,cosa devo fare,cosa posso fare,che "
@@ -19,7 +18,8 @@ constexpr WordRow kWords[] = {
     {Sense::happens,
      "succede,succederebbe,accade,cosa succede,per "
      "sempre,definitivamente,definitivo,permanentemente,succederà,dove finiscono,dove vanno,dove "
-     "finisce,irreversibile,rompere,rompo,danneggia,danni,danneggiare,rompe,rompersi"},
+     "finisce,irreversibile,rompere,rompo,danneggia,danni,danneggiare,rompe,rompersi,da "
+     "solo,automaticamente,senza chiedere,da sola,senza permesso,senza avvisare"},
     {Sense::only, "solo,soltanto,solamente,unicamente,esclusivamente"},
     {Sense::also,
      "e,ed,anche,inoltre,e per quanto riguarda,che mi dici di,e i,e le,e gli,e la,e il,e lo,cosa mi dici "
@@ -49,7 +49,8 @@ constexpr WordRow kWords[] = {
      "chiaro,tieni,sarebbe,sarebbero,guarda,forse,sarà,saranno,dal,qualcuno,quasi,abbastanza,da qualche "
      "parte,viene,vengono,sempre,a volte,poi,sembra,credo,dice,dici,gente,penso,figlio,anche se,mentre,così "
      "tanto,soprattutto,appena,probabilmente,chissà,ognuno,sono stati,sono state,è stato,facile,riguardo "
-     "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece"},
+     "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece,tra,fra,contro,durante,"
+     "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in pratica,ad"},
     {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,senza,n"},
     {Sense::what, "cosa,che cosa,cos,quale,quali,qual,dove,dov,chi,cos è,che cos è,cosa sono,qual è,quali "
                   "sono,cosa c è,che tipo "
@@ -77,7 +78,7 @@ constexpr WordRow kWords[] = {
      "spazio,libererebbe,guadagnerebbe,creare spazio,serve spazio,mi serve "
      "spazio,liberando,recupererei,avere più spazio,serve più spazio,liberarmi "
      "spazio,liberiamo,alleggerire,fare un po di posto,più posto,liberarsi,bisogno di spazio,mi serve,mi "
-     "servono,ho bisogno di,bisogno di,mi occorrono"},
+     "servono,ho bisogno di,bisogno di,mi occorrono,meno pieno"},
     {Sense::untouched,
      "mai tocca,non tocca,non tocca mai,non tocchi "
      "mai,protetto,protetti,protetta,protette,protegge,intoccabile,"
@@ -110,9 +111,9 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,controllare,da controllare,da rivedere,verificare,rivedere"},
     {Sense::keep,
      "tenere,conservare,mantenere,tengo,keep,importante,importanti,da conservare,da tenere,conservato"},
-    {Sense::mean,
-     "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza tra,valutazione,"
-     "valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole dire"},
+    {Sense::mean, "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
+                  "tra,valutazione,valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole "
+                  "dire,regole,regola,criteri,decide,classifica"},
     {Sense::soFar,
      "finora,fino ad ora,fino a oggi,fin qui,cronologia,fino a ora,fino adesso,fino ad adesso,dall "
      "inizio,nel tempo,in tutto finora,fino ad oggi"},
@@ -121,18 +122,18 @@ constexpr WordRow kWords[] = {
     {Sense::opened,
      "aperto,aperti,aperta,aperte,apro,toccato,toccati,visto,visti,guardato,guardati,consultato,aprire,"
      "guardate,viste,letto,letti,ascoltato,toccate,consultati,giocato,ascoltati,vedo da"},
-    {Sense::full, "pieno,piena,quasi pieno,così pieno,riempito,riempiendo,si riempie,riempirà,si "
-                  "riempirà,senza spazio,manca spazio,"
-                  "non ho spazio,non c è spazio,non ho più spazio,non c è più spazio,poco spazio,così poco "
-                  "spazio,esaurito,finito lo "
-                  "spazio,finendo lo spazio,finisce lo spazio,finirà lo spazio,strapieno,esaurirà,spazio è "
-                  "finito,esaurire,riempie,"
-                  "non c è più posto,tutto pieno,finire lo spazio,riempirsi,saturo,spazio "
-                  "insufficiente,pieni,esaurisce,finito"},
+    {Sense::full,
+     "pieno,piena,quasi pieno,così pieno,riempito,riempiendo,si riempie,riempirà,si riempirà,senza "
+     "spazio,manca spazio,non ho spazio,non c è spazio,non ho più spazio,non c è più spazio,poco spazio,così "
+     "poco spazio,esaurito,finito lo spazio,finendo lo spazio,finisce lo spazio,finirà lo "
+     "spazio,strapieno,esaurirà,spazio è finito,esaurire,riempie,non c è più posto,tutto pieno,finire lo "
+     "spazio,riempirsi,saturo,spazio insufficiente,pieni,esaurisce,finito,tutto il mio spazio,finito il mio "
+     "spazio"},
     {Sense::free,
      "libero,liberi,libera,disponibile,disponibili,resta,rimane,rimasto,mi resta,mi rimane,restano,rimangono,"
      "avanza,rimasti,residuo,restante,rimanente"},
-    {Sense::total, "totale,capacità,in totale,in tutto,complessiva,complessivo,capienza,dimensione totale"},
+    {Sense::total, "totale,capacità,in totale,in tutto,complessiva,complessivo,capienza,dimensione "
+                   "totale,riepilogo,stato,panoramica"},
     {Sense::disk,
      "disco,disco fisso,disco rigido,hard disk,ssd,hdd,computer,pc,portatile,macchina,partizione,memoria di "
      "massa,archiviazione,notebook,dischi,unità,memoria interna,harddisk"},
@@ -165,8 +166,9 @@ constexpr WordRow kWords[] = {
      "più vecchio,più vecchi,più vecchia,più vecchie,i più vecchi,il più vecchio,le più vecchie,più antico,"
      "più datati,vecchio,vecchi,vecchia,vecchie,meno recente,meno recenti,la più vecchia,datati"},
     {Sense::newest,
-     "più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più nuovi,recenti,"
-     "recente,nuovi,nuove,nuovo,più nuove,la più recente,più nuova,recentemente,nuova"},
+     "più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più "
+     "nuovi,recenti,recente,nuovi,nuove,nuovo,più nuove,la più recente,più "
+     "nuova,recentemente,nuova,cambiato,cambiati,modificato,modificati,modificate,aggiunto,aggiunti"},
     {Sense::grow, "cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
                   "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
     {Sense::above, "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
@@ -185,8 +187,8 @@ constexpr WordRow kWords[] = {
      "ho più "
      "aperto,non aperte,dimenticate,non ho mai aperto"},
     {Sense::before, "prima,prima di,prima del,prima della,più vecchio di,più vecchi di,precedente "
-                    "a,precedenti a,più vecchie "
-                    "di,entro,prima dell,entro la fine,anteriori a,anteriori al,precedenti al"},
+                    "a,precedenti a,più vecchie di,entro,prima dell,entro la fine,anteriori a,anteriori "
+                    "al,precedenti al,più vecchio del,più vecchi del,più vecchie del,più vecchia del"},
     {Sense::since, "dopo il,più recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
     {Sense::after, "dopo,successivo a,successivi a,dopo il,in seguito a"},
     {Sense::last, "ultimo,ultima,ultimi,ultime,scorsa volta,precedente,l ultima volta,ultima volta"},
@@ -194,20 +196,21 @@ constexpr WordRow kWords[] = {
                      "invia,invii,inviati,server,spia,spii,spiare,condividere,condivide,condividi,account,"
                      "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
                      "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
-                     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata"},
+                     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
+                     "vedere,chi può leggere,chi ha accesso"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
-    {Sense::general, "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,"
-                     "categorie,meglio,altro,altra,altri,primo luogo,per "
-                     "primo,automaticamente,lungo,giorno,giorni,settimana,mese,anno,volta,volte,bene,buona "
-                     "idea,verso,cambiato,cambiati,modificato,modificati,modificate,resti,residui"},
+    {Sense::general,
+     "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
+     "altra,altri,primo luogo,per primo,lungo,giorno,giorni,settimana,mese,anno,volta,volte,bene,buona "
+     "idea,verso,resti,residui,basta,dura,durerà,basterà,bastare"},
 };
 
 constexpr SubjectRow kSubjects[] = {
-    {SubjectID::similarPhotos, "foto simili,immagini simili,foto doppie,immagini doppie,foto "
-                               "duplicate,immagini duplicate,foto uguali,immagini "
-                               "uguali,foto identiche,foto quasi uguali,doppioni di foto,foto ripetute,foto "
-                               "che si somigliano,foto doppioni,"
-                               "duplicati di foto,foto quasi identiche"},
+    {SubjectID::similarPhotos,
+     "foto simili,immagini simili,foto doppie,immagini doppie,foto duplicate,immagini duplicate,foto "
+     "uguali,immagini uguali,foto identiche,foto quasi uguali,doppioni di foto,foto ripetute,foto che si "
+     "somigliano,foto doppioni,duplicati di foto,foto quasi identiche,si somigliano,somigliano,simili,si "
+     "assomigliano,assomigliano,sembrano uguali"},
     {SubjectID::screenshots,
      "schermata,schermate,screenshot,screenshots,istantanee schermo,catture schermo,catture dello "
      "schermo,cattura schermo,istantanee dello schermo"},

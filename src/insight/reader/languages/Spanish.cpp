@@ -5,21 +5,22 @@ namespace orlen::AskReader {
 namespace spanish_words {
 
 constexpr WordRow kWords[] = {
-    {Sense::self, "qué puedes hacer,qué sabes hacer,qué te puedo preguntar,qué puedo preguntar,quién "
-                  "eres,qué eres,ayuda,ayúdame,"
-                  "hola,buenos días,buenas tardes,buenas,gracias,cómo funciona esto,qué es orlen,qué hace "
-                  "orlen,cómo funciona "
-                  "orlen,para qué sirve orlen,qué puedes decirme,qué hace este programa,cómo se usa "
-                  "orlen,para qué sirves"},
+    {Sense::self,
+     "qué puedes hacer,qué sabes hacer,qué te puedo preguntar,qué puedo preguntar,quién eres,qué "
+     "eres,ayuda,ayúdame,hola,buenos días,buenas tardes,buenas,gracias,cómo funciona esto,qué es orlen,qué "
+     "hace orlen,cómo funciona orlen,para qué sirve orlen,qué puedes decirme,qué hace este programa,cómo se "
+     "usa orlen,para qué sirves,cómo puedes ayudarme,qué puedes hacer por mí"},
     {Sense::advise,
      "recomiendas,recomendar,recomendación,recomendaciones,aconsejas,consejo,consejos,sugieres,sugerencia,"
      "sugerencias,empezar,empiezo,qué hago,lo mejor,sugerir,conviene,conviene borrar,vale la "
      "pena,empezando,recomendarías,sugieres,qué debo hacer,qué puedo hacer,qué hago ahora,qué debería "
      "hacer,trucos,qué hacer"},
-    {Sense::trust, "confiar,confianza,fiable,virus,de fiar,confiable,es seguro orlen,orlen es seguro"},
+    {Sense::trust, "confiar,confianza,fiable,virus,de fiar,confiable,es seguro orlen,orlen es "
+                   "seguro,fiarme,fiar,fío,me fío"},
     {Sense::happens, "pasa,pasará,pasaría,ocurre,sucede,qué pasa,para "
                      "siempre,definitivamente,permanentemente,definitivo,adónde van,a dónde "
-                     "van,irreversible,romper,rompe,dañar,estropear,estropea,romperá,daña"},
+                     "van,irreversible,romper,rompe,dañar,estropear,estropea,romperá,daña,por su "
+                     "cuenta,automáticamente,sin preguntar,por sí solo,por tu cuenta,sin permiso,sin avisar"},
     {Sense::only, "solo,sólo,solamente,únicamente,nada más,nomás"},
     {Sense::also,
      "y,e,también,además,y qué hay de,qué hay de,qué tal,y qué tal,y los,y las,y el,y la,qué pasa con,y qué "
@@ -47,7 +48,9 @@ constexpr WordRow kWords[] = {
      "claro,tal,pero,tan,demasiado,tanto,tanta,alguien,casi,suficiente,bastante,alguna parte,siempre,a "
      "veces,luego,parece,creo,hagas,estén,haces,dice,gente,pienso,además de "
      "eso,hijo,aunque,mientras,entonces,así,sobre todo,apenas,casi todo,jamás visto,dónde exactamente,cosa "
-     "de,pone,ponen,exactos,quizás,tal vez,hubiera,sería,serían,fácil,rápida,acerca de,fueron,fue,cada uno"},
+     "de,pone,ponen,exactos,quizás,tal vez,hubiera,sería,serían,fácil,rápida,acerca de,fueron,fue,cada "
+     "uno,entre,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
+     "realidad,básicamente"},
     {Sense::negation, "no,nunca,jamás,sin,ningún,ninguno,ninguna,nada,tampoco"},
     {Sense::what, "qué,cuál,cuáles,dónde,dónde está,dónde están,quién,qué es,qué son,qué hay,cuál es,cuáles "
                   "son,hay algún,hay "
@@ -64,11 +67,12 @@ constexpr WordRow kWords[] = {
     {Sense::can, "puedo,puede,pueden,podría,podrían,podemos,debo,debería,deberían,se puede,se pueden,tengo "
                  "que,es posible,es "
                  "seguro,es buena idea,hay que,podré,poder,debemos,se podría"},
-    {Sense::makeRoom, "liberar,libero,libera,liberado,ganar,gano,hacer sitio,hacer espacio,hacer "
-                      "lugar,recuperar espacio,ahorrar,ahorro,despejar,liberaría,ganaría,liberé,conseguir "
-                      "espacio,obtener espacio,liberando,hacer hueco,necesito espacio,necesito más "
-                      "espacio,descongestionar,liberan,ahorraría,recuperaría,recuperar sitio,necesito "
-                      "sitio,gane,libere,necesito,me hacen falta,me hace falta"},
+    {Sense::makeRoom,
+     "liberar,libero,libera,liberado,ganar,gano,hacer sitio,hacer espacio,hacer lugar,recuperar "
+     "espacio,ahorrar,ahorro,despejar,liberaría,ganaría,liberé,conseguir espacio,obtener "
+     "espacio,liberando,hacer hueco,necesito espacio,necesito más "
+     "espacio,descongestionar,liberan,ahorraría,recuperaría,recuperar sitio,necesito "
+     "sitio,gane,libere,necesito,me hacen falta,me hace falta,menos lleno,aligerar,vaciar el disco"},
     {Sense::untouched, "nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
                        "tocas,protegido,protegidos,protegida,"
                        "protegidas,protege,intocable,intocables,jamás toca,jamás borra,no borra,nunca se "
@@ -98,9 +102,9 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,revisar,por revisar,repasar"},
     {Sense::keep,
      "conservar,guardar,mantener,conserva,keep,quedarme,importante,importantes,mantengo,conservo"},
-    {Sense::mean,
-     "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia entre,valoración,"
-     "valoraciones,calificación,calificaciones,clasificación,colores,calificado,marcado como"},
+    {Sense::mean, "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
+                  "entre,valoración,valoraciones,calificación,calificaciones,clasificación,colores,"
+                  "calificado,marcado como,reglas,regla,criterios,decide,clasifica"},
     {Sense::soFar,
      "hasta ahora,hasta el momento,hasta hoy,historial,en total ya,desde el principio,alguna vez,hasta la "
      "fecha,a lo largo del tiempo"},
@@ -108,18 +112,17 @@ constexpr WordRow kWords[] = {
     {Sense::handled, "usado,usados,utilizado,utilizados,uso,utilizo,usada,usadas,utilizadas,utilizada,uses"},
     {Sense::opened, "abierto,abiertos,abierta,abiertas,abro,abrí,tocado,tocados,visto,vistos,consultado,"
                     "abrir,vistas,tocadas,mirado,escuchado,leído,he visto,jugado,oído,veo"},
-    {Sense::full, "lleno,llena,casi lleno,tan lleno,llenando,se llena,llenará,llenarse,se llenará,sin "
-                  "espacio,falta espacio,no queda "
-                  "espacio,no tengo espacio,no hay espacio,poco espacio,tan poco espacio,llenado,sin "
-                  "sitio,quedarme sin espacio,"
-                  "quedaré sin espacio,quedo sin espacio,me quedo sin espacio,a tope,queda sin espacio,se me "
-                  "llena,me quedaré sin "
-                  "espacio,se acaba el espacio,acabando el espacio,lleno todo,llenar,no queda "
-                  "sitio,saturado,acabe el espacio,se "
-                  "llene,llene,acabará el espacio,petado,repleto,acaba el espacio"},
+    {Sense::full,
+     "lleno,llena,casi lleno,tan lleno,llenando,se llena,llenará,llenarse,se llenará,sin espacio,falta "
+     "espacio,no queda espacio,no tengo espacio,no hay espacio,poco espacio,tan poco espacio,llenado,sin "
+     "sitio,quedarme sin espacio,quedaré sin espacio,quedo sin espacio,me quedo sin espacio,a tope,queda sin "
+     "espacio,se me llena,me quedaré sin espacio,se acaba el espacio,acabando el espacio,lleno "
+     "todo,llenar,no queda sitio,saturado,acabe el espacio,se llene,llene,acabará el "
+     "espacio,petado,repleto,acaba el espacio,todo mi espacio,se fue mi espacio,se ha ido el espacio,se ha "
+     "ido mi espacio,se fue el espacio,se fue todo mi espacio"},
     {Sense::free,
      "libre,libres,disponible,disponibles,queda,quedan,me queda,sobrante,restante,sin usar,me quedan,resta"},
-    {Sense::total, "total,capacidad,en total,totales,tamaño total,capacidad total"},
+    {Sense::total, "total,capacidad,en total,totales,tamaño total,capacidad total,resumen,estado,panorama"},
     {Sense::disk,
      "disco,disco duro,ssd,hdd,ordenador,computadora,computador,pc,equipo,portátil,máquina,partición,"
      "almacenamiento,unidad,laptop,compu,discos,ordena,memoria interna"},
@@ -146,14 +149,15 @@ constexpr WordRow kWords[] = {
     {Sense::smallest,
      "más pequeño,más pequeños,más pequeña,más pequeñas,el más pequeño,los más pequeños,la más pequeña,"
      "menores,más chico,más chicos"},
-    {Sense::oldest,
-     "más antiguo,más antiguos,más antigua,más antiguas,los más antiguos,el más antiguo,las más antiguas,"
-     "más viejo,más viejos,más vieja,más viejas,los más viejos,las más viejas,viejo,viejos,viejas,"
-     "antiguos,antiguas,vieja,antiguo,la más antigua,el más viejo,la más vieja,antigua"},
+    {Sense::oldest, "más antiguo,más antiguos,más antigua,más antiguas,los más antiguos,el más antiguo,las "
+                    "más antiguas,más viejo,más viejos,más vieja,más viejas,los más viejos,las más "
+                    "viejas,viejo,viejos,viejas,antiguos,antiguas,vieja,antiguo,la más antigua,el más "
+                    "viejo,la más vieja,antigua,antigüedad"},
     {Sense::newest,
-     "más reciente,más recientes,los más recientes,el más reciente,las más recientes,más nuevo,más nuevos,"
-     "recientes,reciente,nuevos,nuevas,nuevo,más nuevas,último añadido,la más reciente,más nueva,"
-     "recientemente"},
+     "más reciente,más recientes,los más recientes,el más reciente,las más recientes,más nuevo,más "
+     "nuevos,recientes,reciente,nuevos,nuevas,nuevo,más nuevas,último añadido,la más reciente,más "
+     "nueva,recientemente,cambiado,cambiados,modificado,modificados,modificadas,añadido,añadidos,cambió,"
+     "agregado"},
     {Sense::grow, "crecido,crece,creció,creciendo,crecimiento,crecer,aumentado,aumentó,aumenta,engordado,han "
                   "crecido,ha crecido"},
     {Sense::above, "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior "
@@ -179,26 +183,26 @@ constexpr WordRow kWords[] = {
      "desde,más reciente que,más recientes que,a partir de,desde hace,más nuevos que,de hace menos de"},
     {Sense::after, "después,después de,posterior a,posteriores a,tras"},
     {Sense::last, "último,última,últimos,últimas,anterior,la última vez,última vez,pasada vez"},
-    {Sense::privacy,
-     "internet,en "
-     "línea,online,red,privado,privada,privacidad,privados,nube,telemetría,enviar,envía,envías,enviados,"
-     "servidor,servidores,espía,espías,compartir,comparte,compartes,cuenta,sin "
-     "conexión,subir,sube,subes,recopila,"
-     "recopilas,datos personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
-     "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos"},
+    {Sense::privacy, "internet,en "
+                     "línea,online,red,privado,privada,privacidad,privados,nube,telemetría,enviar,envía,"
+                     "envías,enviados,servidor,servidores,espía,espías,compartir,comparte,compartes,cuenta,"
+                     "sin conexión,subir,sube,subes,recopila,recopilas,datos "
+                     "personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
+                     "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
+                     "ver,quién puede leer,quién tiene acceso"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general, "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,"
                      "categoría,categorías,mejor,otro,otra,otros,primero,primer "
-                     "lugar,automáticamente,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa "
-                     "así,bien,mal,hacia,cambiado,cambiados,modificado,modificados,modificadas,restos"},
+                     "lugar,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa "
+                     "así,bien,mal,hacia,restos,dura,durará,alcanza,bastará"},
 };
 
 constexpr SubjectRow kSubjects[] = {
-    {SubjectID::similarPhotos, "fotos similares,imágenes similares,fotos parecidas,imágenes parecidas,fotos "
-                               "duplicadas,imágenes duplicadas,fotos "
-                               "repetidas,imágenes repetidas,fotos iguales,fotos idénticas,fotos casi "
-                               "iguales,duplicados de fotos,imágenes "
-                               "iguales,fotos que se parecen,fotos dobles"},
+    {SubjectID::similarPhotos,
+     "fotos similares,imágenes similares,fotos parecidas,imágenes parecidas,fotos duplicadas,imágenes "
+     "duplicadas,fotos repetidas,imágenes repetidas,fotos iguales,fotos idénticas,fotos casi "
+     "iguales,duplicados de fotos,imágenes iguales,fotos que se parecen,fotos dobles,se "
+     "parecen,parecidas,parecidos,similares,parecen iguales,que se parecen"},
     {SubjectID::screenshots,
      "captura de pantalla,capturas de pantalla,pantallazo,pantallazos,capturas pantalla,captura,"
      "capturas,screenshots,screenshot"},
