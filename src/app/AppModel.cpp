@@ -50,6 +50,7 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
         OwnFile::removeUnfinished(folder);
     m_storage = std::make_unique<Storage>(taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices),
                                           m_isWriter ? Storage::Saving::all : Storage::Saving::none);
+    m_programs = std::make_unique<Programs>();
     m_exclusions = std::make_unique<ExclusionList>(loadExclusions(m_notices),
                                                    m_isWriter ? ExclusionList::Access::writer
                                                               : ExclusionList::Access::reader);
@@ -95,9 +96,15 @@ std::vector<CleanRecord> AppModel::loadHistory()
 
 AskContext AppModel::askContext() const
 {
-    return {m_results->findings(),          m_storage->breakdown(),           m_storage->prediction(),
-            m_cleanUps->history(),          std::chrono::system_clock::now(), Safety::protection,
-            m_storage->folders().readings()};
+    return {m_results->findings(),
+            m_storage->breakdown(),
+            m_storage->prediction(),
+            m_cleanUps->history(),
+            std::chrono::system_clock::now(),
+            Safety::protection,
+            m_storage->folders().readings(),
+            m_programs->apps(),
+            m_programs->startupItems()};
 }
 
 } // namespace orlen

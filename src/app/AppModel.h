@@ -2,6 +2,7 @@
 
 #include "app/CleanUps.h"
 #include "app/ExclusionList.h"
+#include "app/Programs.h"
 #include "app/Results.h"
 #include "app/Storage.h"
 #include "model/Message.h"
@@ -56,6 +57,8 @@ public:
     [[nodiscard]] ExclusionList* exclusions() const { return m_exclusions.get(); }
     [[nodiscard]] CleanUps* cleanUps() const { return m_cleanUps.get(); }
     [[nodiscard]] Storage* storage() const { return m_storage.get(); }
+    /// Read only when asked to.
+    [[nodiscard]] Programs* programs() const { return m_programs.get(); }
 
     /// Whether this model saves: it was asked to, and no other process has locked the data folder.
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
@@ -72,6 +75,7 @@ private:
     bool m_isWriter = false;
     std::vector<Message> m_notices;
     std::unique_ptr<Storage> m_storage;
+    std::unique_ptr<Programs> m_programs;
     std::unique_ptr<ExclusionList> m_exclusions;
     std::unique_ptr<Results> m_results;
     std::unique_ptr<CleanUps> m_cleanUps; ///< last: destroyed first, while what it records into still exists

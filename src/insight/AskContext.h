@@ -5,14 +5,34 @@
 #include "clean/Protection.h"
 #include "insight/Predictor.h"
 #include "model/Finding.h"
+#include "model/Message.h"
 #include "platform/values/Time.h"
 #include "scan/StorageBreakdown.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace orlen {
+
+/// An installed application, as answers speak of it.
+struct KnownApp {
+    enum class Source { own, flatpak, snap };
+
+    std::string name;
+    std::optional<std::int64_t> bytes; ///< nothing until measured
+    Source source = Source::own;
+    Message advice; ///< how to remove it another way than with Orlen; empty if Orlen can
+};
+
+/// Something that starts when the person logs in.
+struct KnownStartupItem {
+    std::string name;
+    bool isEnabled = false;
+};
 
 /// Everything an answer may be based on.
 struct AskContext {
@@ -24,6 +44,9 @@ struct AskContext {
     /// Which rule protects a path, without touching the disk; empty if nobody knows. Any thread.
     std::function<Protection(std::string_view)> protection;
     std::vector<FolderReading> folders; ///< what folders held at the end of past scans, oldest first
+    /// Nothing until they have been read.
+    std::optional<std::vector<KnownApp>> apps{};
+    std::optional<std::vector<KnownStartupItem>> startupItems{};
 };
 
 } // namespace orlen

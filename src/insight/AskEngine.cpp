@@ -80,15 +80,25 @@ Text introduction(const LanguageModel& model)
 
 Answer answer(const std::string& question, const AskContext& context, const LanguageModel& model)
 {
+    return turn(question, context, {}, model).answer;
+}
+
+Turn turn(const std::string& question, const AskContext& context, const Conversation& before,
+          const LanguageModel& model)
+{
     const std::string understood = inEnglish(question);
     Answer answer = fallback(understood, context);
-    if (!model.isAvailable())
-        return AskReader::answer(understood, context).value_or(std::move(answer));
+    if (!model.isAvailable()) {
+        if (std::optional<Turn> read = AskReader::turn(understood, context, before))
+            return *std::move(read);
+        Conversation next = AskReader::conversationAfter(understood, context, answer, before);
+        return {std::move(answer), std::move(next)};
+    }
     if (std::optional<std::string> text = model.respond(kInstructions, promptFor(question, context))) {
         answer.text = Message::verbatim(*std::move(text));
         answer.usedModel = true;
     }
-    return answer;
+    return {std::move(answer), {}};
 }
 
 std::string contextText(const AskContext& context)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insight/AskContext.h"
+#include "insight/Conversation.h"
 #include "model/FileEntry.h"
 #include "model/Message.h"
 #include "platform/text/LanguageModel.h"
@@ -17,8 +18,15 @@ struct Answer {
     Message text;                        ///< may have several lines
     std::vector<std::string> findingIDs; ///< findings it is about, for links to them
     bool usedModel = false;              ///< whether a language model wrote the text
+    std::vector<std::string> paths{};    ///< files and folders it lists, in order, for questions that follow
 
     friend bool operator==(const Answer&, const Answer&) = default;
+};
+
+/// An answer, and what a question that follows it is asked with.
+struct Turn {
+    Answer answer;
+    Conversation next;
 };
 
 /// Answers questions about the last scan, using nothing else. Stateless; any thread.
@@ -37,6 +45,10 @@ inline constexpr std::array<Text, 5> kSuggestions{
 /// and what the model fails to answer, the built-in matcher does. Blocks while the model writes.
 [[nodiscard]] Answer answer(const std::string& question, const AskContext& context,
                             const LanguageModel& model = LanguageModel::ofSystem());
+
+/// The same within a conversation: the reader also understands what only makes sense after `before`.
+[[nodiscard]] Turn turn(const std::string& question, const AskContext& context, const Conversation& before,
+                        const LanguageModel& model = LanguageModel::ofSystem());
 
 /// The built-in matcher: looks for keywords anywhere in the question and always has an answer.
 [[nodiscard]] Answer fallback(std::string_view question, const AskContext& context);

@@ -247,6 +247,48 @@ inline constexpr Text kSystemIsProtected =
     // TRANSLATORS: {reason} is a whole sentence.
     message("System data is protected: {reason} Orlen leaves it alone.");
 
+// Applications and what belongs to them.
+inline constexpr Text kAppTakes = message("The application {name} takes {size}.");
+inline constexpr Text kAppUnmeasured =
+    message("The application {name} is installed; its size is not measured yet.");
+inline constexpr Text kAppRemoval =
+    // TRANSLATORS: "orlen uninstall" is a command.
+    message("The Applications screen removes it with what it leaves behind, and so does “orlen uninstall”; "
+            "everything moves to the Trash.");
+inline constexpr Text kAppUnknown = message(
+    "“{name}” is not among the applications that Orlen lists. What your distribution brought is removed "
+    "with its package manager.");
+// TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
+inline constexpr Text kBiggestApps = message("The biggest applications that Orlen lists are {apps}.");
+inline constexpr Text kUseIsUnknown = message("Orlen doesn't know when an application was last used.");
+inline constexpr Text kAppsScreen =
+    // TRANSLATORS: "orlen apps" is a command.
+    message("The Applications screen lists applications with their sizes, and so does “orlen apps”.");
+// TRANSLATORS: {names} is a list of programs.
+inline constexpr Text kStartingItems = messages("{count} item starts when you log in: {names}.",
+                                                "{count} items start when you log in: {names}.");
+inline constexpr Text kStartupScreen =
+    // TRANSLATORS: "orlen startup" is a command.
+    message(
+        "Startup Items lists what starts when you log in, with a switch for each; so does “orlen startup”.");
+inline constexpr Text kContainers =
+    // TRANSLATORS: what is in quotation marks are commands.
+    message(
+        "Orlen leaves containers alone. “podman system df” or “docker system df” shows what they take, and "
+        "“orlen advice” how to free it.");
+inline constexpr Text kFlatpaks =
+    // TRANSLATORS: what is in quotation marks are commands.
+    message(
+        "“flatpak uninstall” removes a Flatpak application, and “flatpak uninstall --unused” what none of "
+        "them needs any more; the Applications screen shows their sizes.");
+inline constexpr Text kSnaps =
+    // TRANSLATORS: what is in quotation marks are commands.
+    message("“snap remove” removes a Snap, and “snap list --all” shows old versions; the Applications screen "
+            "shows their sizes.");
+inline constexpr Text kGames = message(
+    "Games are best removed in the program that installed them. The disk map shows how much their folder "
+    "takes.");
+
 // Past clean-ups.
 inline constexpr Text kNoCleanUp = message("There hasn't been a clean-up yet.");
 inline constexpr Text kLastCleanUp =
@@ -298,7 +340,8 @@ inline constexpr Text kHelp =
     message("I can answer questions about your scan, for example “what is using the most space?”, “what can "
             "I delete from my Downloads folder?”, “are there duplicates?” or “when will my disk be full?”.");
 inline constexpr Text kDontKnow =
-    // TRANSLATORS: questions such as these are understood in English only: leave what is in quotation marks.
+    // TRANSLATORS: questions such as these are understood in English, German, French, Spanish and Italian;
+    // into another language, leave what is in quotation marks.
     message("I don't know that. I can answer questions about a file or folder by name (“can I delete "
             "report.pdf?”), lists (“the five biggest videos”), free space, clean-ups and ratings.");
 

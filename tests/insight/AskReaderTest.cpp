@@ -1,13 +1,5 @@
 #include "insight/reader/AskReader.h"
-#include "support/TempHome.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <span>
-#include <string>
-#include <vector>
+#include "insight/AskWorld.h"
 
 namespace orlen {
 namespace {
@@ -16,133 +8,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr std::int64_t kBytesInMB = 1'000'000;
-constexpr std::int64_t kBytesInGB = 1'000 * kBytesInMB;
-
-TimePoint on(const std::string& date)
-{
-    return *timeFromIso(date + "T12:00:00Z");
-}
-
-/// A home with something of everything that questions are about.
-class AskReaderTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        for (const char* folder : {"Downloads", "Documents", "Pictures", "Videos", "Music", "Desktop"})
-            home.folder(folder);
-        home.file(".config/user-dirs.dirs",
-                  "XDG_DOWNLOAD_DIR=\"$HOME/Downloads\"\nXDG_DOCUMENTS_DIR=\"$HOME/Documents\"\n"
-                  "XDG_PICTURES_DIR=\"$HOME/Pictures\"\nXDG_VIDEOS_DIR=\"$HOME/Videos\"\n"
-                  "XDG_MUSIC_DIR=\"$HOME/Music\"\nXDG_DESKTOP_DIR=\"$HOME/Desktop\"\n");
-        TempHome::reloadPlaces();
-        addFindings();
-        context.now = on("2026-06-01");
-        context.breakdown.total = 500 * kBytesInGB;
-        context.breakdown.free = 120 * kBytesInGB;
-        context.breakdown.cats = {{OrlenCategory::photos, 34 * kBytesInGB},
-                                  {OrlenCategory::media, 90 * kBytesInGB},
-                                  {OrlenCategory::caches, 7 * kBytesInGB},
-                                  {OrlenCategory::apps, 55 * kBytesInGB},
-                                  {OrlenCategory::system, 21 * kBytesInGB}};
-        context.breakdown.folders = {
-            {OrlenCategory::media, home.path("Videos"), 80 * kBytesInGB, {{"Projects", 41 * kBytesInGB}}},
-            {OrlenCategory::documents, home.path("Downloads"), 12 * kBytesInGB, {}},
-            {OrlenCategory::documents, home.path("Downloads/Torrents"), 3 * kBytesInGB, {}}};
-        context.prediction = {true,
-                              message("Disk nearly full in about 3 months"),
-                              message("Growing by 1 GB per day."),
-                              false,
-                              90.0,
-                              {{OrlenCategory::media, 8e8}},
-                              {}};
-        context.history = {
-            {{},
-             on("2026-05-20"),
-             "Clean-up",
-             {{home.path("Downloads/gone.zip"), "/t/gone.zip", kBytesInGB}}},
-            {{}, on("2026-01-02"), "Clean-up", {{home.path("b"), "/t/b", 2 * kBytesInGB, true}}}};
-        context.folders = {reading("2026-04-28", 31, 0, 5), reading("2026-05-20", 61, 12, 5),
-                           reading("2026-05-30", 71, 12, 1), reading("2026-05-31", 80, 12, 3)};
-        context.protection = [this](std::string_view path) {
-            if (path == home.path(".ssh"))
-                return Protection::credentials;
-            return path == home.path("Documents") ? Protection::mainFolders : Protection::none;
-        };
-    }
-
-    [[nodiscard]] FolderReading reading(const std::string& date, std::int64_t videos, std::int64_t downloads,
-                                        std::int64_t cache) const
-    {
-        return {on(date),
-                kBytesInMB,
-                {{home.path(".cache"), cache * kBytesInGB},
-                 {home.path("Downloads"), downloads * kBytesInGB},
-                 {home.path("Videos"), videos * kBytesInGB}}};
-    }
-
-    void add(FindingKind kind, Rating rating, const Text& reason, std::vector<FileEntry> items)
-    {
-        Finding finding(kind, std::move(items));
-        finding.rating = rating;
-        finding.reason = reason;
-        context.findings.push_back(std::move(finding));
-    }
-
-    [[nodiscard]] FileEntry entry(const std::string& name, std::int64_t size,
-                                  const std::string& date = "2024-03-04",
-                                  std::optional<Rating> rating = {}) const
-    {
-        return {home.path(name), size, on(date), on(date), rating, {}};
-    }
-
-    void addFindings()
-    {
-        add(FindingKind::caches, Rating::safe, message("Apps make them again."),
-            {entry(".cache/slack", 3 * kBytesInGB), entry(".cache/mozilla", kBytesInGB)});
-        add(FindingKind::logs, Rating::safe, message("Only for troubleshooting."),
-            {entry(".local/app.log", 20 * kBytesInMB)});
-        add(FindingKind::largeFiles, Rating::review, message("Large but maybe wanted."),
-            {entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05"),
-             entry("Videos/holiday.mkv", 4 * kBytesInGB, "2025-07-01"),
-             entry("Videos/Projects/cut.mov", 2 * kBytesInGB, "2022-02-02"),
-             entry("Downloads/debian.iso", 3 * kBytesInGB, "2023-01-05")});
-        add(FindingKind::oldFiles, Rating::review, message("Not opened for long."),
-            {entry("Documents/contract-2021.docx", 2 * kBytesInMB, "2021-08-08", Rating::keep),
-             entry("Documents/report.pdf", 5 * kBytesInMB, "2022-01-01"),
-             entry("Videos/wedding.mp4", 9 * kBytesInGB, "2019-05-05")});
-        add(FindingKind::oldDownloads, Rating::review, message("Lying around."),
-            {entry("Downloads/report-final.pdf", 7 * kBytesInMB, "2025-12-24"),
-             entry("Downloads/setup.deb", 80 * kBytesInMB, "2025-11-11")});
-        add(FindingKind::duplicates, Rating::safe, message("A copy stays."),
-            {entry("Music/a (1).flac", 40 * kBytesInMB)});
-        add(FindingKind::photoDuplicates, Rating::review, message("Similar shots."),
-            {entry("Pictures/sea2.jpg", 6 * kBytesInMB), entry("Pictures/sea3.jpg", 5 * kBytesInMB)});
-        add(FindingKind::screenshots, Rating::review, message("Screen captures."),
-            {entry("Pictures/Screenshot 1.png", 2 * kBytesInMB)});
-    }
-
-    TempHome home;
-    AskContext context;
-};
-
-/// What an answer must hold, and what not; parts are separated by "|".
-struct Row {
-    const char* question;
-    const char* must;
-    const char* mustNot = "";
-};
-
-std::vector<std::string> parts(std::string_view text)
-{
-    std::vector<std::string> found;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('|'), text.size());
-        found.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return found;
-}
+using AskReaderTest = AskWorld;
 
 constexpr Row kNamed[] = {
     {"can I delete contract-2021.docx", "contract-2021.docx|2 MB|Keep|Not opened for long.|~/Documents",
@@ -272,6 +138,59 @@ constexpr Row kAbout[] = {
     {"delete my ex", "I don't know that", "could free"},
 };
 
+constexpr Row kEveryday[] = {
+    {"how many gigs have i got left", "120 GB is free"},
+    {"whats the biggest thing in my downloads", "in ~/Downloads|debian.iso", "wedding"},
+    {"show me everything bigger than 2 gigs", "Of files over 2 GB the last scan lists 4"},
+    {"did i really delete gone.zip", "gone.zip (1 GB) was moved to the Trash"},
+    {"which files haven't i touched since last year", "last opened before 1 January 2025"},
+    {"is it safe to delete the slack folder", "slack (3 GB)|rated Safe"},
+    {"how do i get something back that i threw away", "History"},
+    {"why does it say contract-2021 should be kept", "contract-2021.docx|rated Keep"},
+    {"when am i gonna run out of space", "30 August 2026"},
+    {"my laptop says it's almost full, what do i do", "120 GB is free|You could free about"},
+    {"what's in the downloads folder that i dont need", "Downloads has|debian.iso"},
+    {"how much room do my pictures take up", "Photos takes 34 GB"},
+    {"any near identical shots", "Similar photos: 11 MB"},
+    {"photos from 2024", "from 1 January 2024|sea2.jpg"},
+    {"pictures taken before 2025", "Of photos last changed before 1 January 2025", "Screen captures"},
+    {"can sea2.jpg go", "sea2.jpg (6 MB)|Review"},
+    {"what did the last clean up free", "20 May 2026"},
+    {"videos i have not watched since 2022", "before 1 January 2022|wedding", "cut.mov"},
+    {"are my photos uploaded anywhere", "Nothing leaves"},
+    {"size of ~/.cache", "~/.cache takes 3 GB"},
+    {"can i rm debian.iso", "debian.iso (3 GB)"},
+    {"is ~/.ssh protected", "~/.ssh is protected, because"},
+    {"docker images eating my disk?", "podman system df"},
+    {"how do i clear the npm cache", "found no npm"},
+    {"which directories use the most disk", "~/Videos — 80 GB"},
+    {"list startup services", "Nextcloud"},
+    {"how do i uninstall blender", "Blender takes 3 GB"},
+    {"uninstall Photoshop", "“Photoshop” is not among the applications"},
+    {"which apps do I not use", "doesn't know when"},
+    {"tar.gz files older than 6 months", "no archives"},
+    {"logs bigger than 10mb", "Of log files over 10 MB the last scan lists 1"},
+    {"what's eating my ssd", "By category: Media 90 GB"},
+    {"what may i throw away without worrying", "You could free about"},
+    {"will anything break if i clean up", "moves what you tick to the Trash"},
+    {"can somebody see my photos on the internet", "Nothing leaves"},
+    {"i deleted something by mistake, how can i get it back", "History"},
+    {"which programs start when i turn the computer on", "Nextcloud"},
+    {"how many files have been cleaned up so far", "2 clean-ups|3 GB", "could free"},
+    {"is there enough room for 50 gigabytes of photos", "Yes.|120 GB"},
+    {"how much space is free and what can I delete?", "120 GB is free|You could free about"},
+    {"how big are photos and videos", "Photos takes 34 GB|~/Videos takes 80 GB"},
+    {"what are caches and can I delete them", "create it again|App caches: 4 GB|moves what you tick"},
+    {"can I delete wedding.mp4 and holiday.mkv", "wedding.mp4 (9 GB)|holiday.mkv (4 GB)"},
+    {"What about my old mail attachment", "lists no mail attachments"},
+    {"where has all my space gone", "By category", "gone.zip"},
+    {"wedding.mp4", "wedding.mp4 (9 GB)|Review"},
+    {"how do I convert wedding.mp4 to avi", "I don't know that", "9 GB"},
+    {"who won the game between Spain and Italy", "I don't know that", "GB"},
+    {"does orlen delete my files by itself", "Nothing moves before you have seen"},
+    {"why is the documents folder protected", "~/Documents itself is protected"},
+};
+
 /// Left to the matcher.
 constexpr const char* kLeft[] = {
     "What is using the most space?",
@@ -280,8 +199,6 @@ constexpr const char* kLeft[] = {
     "Are there duplicate files?",
     "When will my disk be full?",
     "logs",
-    "What about my old mail attachment",
-    "hello",
     "",
     "   ",
     "?!?",
@@ -295,24 +212,15 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout)}) {
-        for (const Row& row : rows) {
-            SCOPED_TRACE(row.question);
-            const Answer answer = AskEngine::answer(row.question, context);
-            EXPECT_FALSE(answer.usedModel);
-            const std::string text = answer.text.base();
-            for (const std::string& part : parts(row.must))
-                EXPECT_THAT(text, HasSubstr(part));
-            for (const std::string& part : parts(row.mustNot))
-                EXPECT_THAT(text, Not(HasSubstr(part)));
-        }
-    }
+          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout),
+          std::span<const Row>(kEveryday)})
+        expectAnswers(rows);
 }
 
 TEST_F(AskReaderTest, whatIsNotCertainIsLeftToTheMatcher)
 {
     for (const char* question : kLeft) {
-        EXPECT_EQ(AskReader::answer(question, context), std::nullopt) << question;
+        EXPECT_FALSE(AskReader::turn(question, context, {}).has_value()) << question;
         EXPECT_EQ(AskEngine::answer(question, context), AskEngine::fallback(question, context)) << question;
     }
 }

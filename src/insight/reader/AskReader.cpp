@@ -2,19 +2,18 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
-#include "insight/reader/GrowthReplies.h"
-#include "insight/reader/HistoryReplies.h"
-#include "insight/reader/ListReplies.h"
-#include "insight/reader/NameReplies.h"
+#include "insight/reader/FollowUps.h"
 #include "insight/reader/Names.h"
-#include "insight/reader/RuleReplies.h"
-#include "insight/reader/SpaceReplies.h"
-#include "insight/reader/SubjectReplies.h"
+#include "insight/reader/Rules.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <map>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
@@ -22,94 +21,13 @@ namespace orlen::AskReader {
 namespace {
 
 using enum Sense;
-using Responder = std::optional<Answer> (*)(const Question&, const AskContext&);
-
-/// A reply and the questions it is for.
-struct Rule {
-    std::vector<SenseSet> needs; ///< one sense of each set
-    SenseSet allows;             ///< may stand beside them; any other sense, and the rule is not for it
-    Responder reply;
-};
-
-constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch};
-constexpr SenseSet kSpaceWords{disk, space, total, used, free};
-constexpr SenseSet kSorting{biggest, smallest, oldest, newest};
-constexpr SenseSet kComparing{above, below, before, after, since, unopened};
-constexpr SenseSet kListWords{what, howMany, subject, size, number, period, inside,
-                              disk, unknown, quoted,  last, can,    remove, space};
-
-/// In this order; the first whose senses fit and that has an answer gives it.
-const std::vector<Rule>& rules()
-{
-    static const std::vector<Rule> inOrder{
-        {{{privacy}}, {what, can, disk, subject, safe, keep, general, when, why}, AskReader::privacy},
-        {{{untouched}}, {what, subject, can, remove, disk, inside, keep, general}, whatIsNeverTouched},
-        {{{mean}, {safe, review, keep, subject}}, {what, mean, can}, meaningOfRatings},
-        {{{what}, {review, keep}}, {safe, mean}, meaningOfRatings},
-        {{{mean}}, {what, why, general}, meaningOfRatings},
-        {{{undo}}, {cleanUp, last, can, what, subject, remove, inside, when, general}, howToUndo},
-        {{{cleanUp, remove, free, makeRoom}, {soFar}}, kAsking.with({cleanUp, space, remove}), allCleanUps},
-        {{{cleanUp}, {howMany}}, {what, can, general, last}, allCleanUps},
-        {{{cleanUp}, {last}},
-         {what, when, howMuch, howBig, free, remove, makeRoom, general, space},
-         lastCleanUp},
-        {{{cleanUp}, {when}}, {general, last}, lastCleanUp},
-        {{{what}, {grow}}, kSpaceWords.with({grow, last, since, after, period, inside, general}), whatGrew},
-        {{{why}, {full, used, space, free}},
-         kSpaceWords.with({full, what, general, above, below, biggest}),
-         whyFull},
-        {{{full}, {when, period}}, kSpaceWords.with({what, can, before, general}), fullWhen},
-        {{{what}, {full}, {disk, space}}, {general}, whyFull},
-        {{{makeRoom, free}, {size}}, kSpaceWords.with({makeRoom, what, can, remove, general}), roomFor},
-        {{{howMuch}, {free, makeRoom, remove}, {subject}},
-         {space, can, remove, general, disk, howBig},
-         freedBySubject},
-        {{{free}}, kSpaceWords.with({howMuch, howBig, what, general, size}), spaceNow},
-        {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general}), spaceNow},
-        {{{howBig, howMuch}, {disk}}, kSpaceWords.with({what}), spaceNow},
-        {{kSorting, {subject, number, inside, size}},
-         kSorting.with(kComparing).with(kListWords),
-         listOfFiles},
-        {{kComparing, {size, period}}, kSorting.with(kComparing).with(kListWords), listOfFiles},
-        {{{subject}, {inside}, {subject, unknown, period}}, {what}, listOfFiles},
-        {{{howBig, howMuch, howMany}, {subject}},
-         {what, space, used, total, disk, general, inside},
-         sizeOfSubject},
-        {{{subject}, {can, remove, safe}}, {what, can, remove, safe, inside, review, keep}, removingSubject},
-        {{{what}, {subject}}, {}, whatSubjectIs},
-        {{{subject}}, {what}, onePhotoKind},
-        {{{unknown, quoted}, {what, howBig, howMuch, can, remove, safe, why, keep, undo}},
-         {unknown, quoted,  what,  howBig, howMuch, can,     remove, safe,   why,    keep,    review,   mean,
-          undo,    subject, space, used,   inside,  general, disk,   number, period, cleanUp, makeRoom, free},
-         aboutName},
-    };
-    return inOrder;
-}
-
-bool isFor(const Rule& rule, SenseSet senses)
-{
-    SenseSet known = rule.allows;
-    for (const SenseSet need : rule.needs) {
-        if (!senses.meets(need))
-            return false;
-        known = known.with(need);
-    }
-    return senses.isWithin(known);
-}
-
-std::optional<Answer> firstReply(const Question& question, const AskContext& context)
-{
-    for (const Rule& rule : rules()) {
-        if (!isFor(rule, question.senses))
-            continue;
-        if (std::optional<Answer> found = rule.reply(question, context))
-            return found;
-    }
-    return std::nullopt;
-}
 
 /// Longer texts are no questions, and not worth the time.
 constexpr std::size_t kLongestQuestion = 500;
+/// Nobody asks more at once.
+constexpr std::size_t kMostParts = 4;
+
+constexpr SenseSet kQuestionWords{what, howBig, howMuch, howMany, can, when, why, undo, uninstall};
 
 bool isSuggested(std::string_view text)
 {
@@ -118,29 +36,281 @@ bool isSuggested(std::string_view text)
                                [&](const Text& each) { return AskText::plainWords(each.base()) == plain; });
 }
 
-/// The matcher would answer with the general figure of some word in it.
-bool isAboutSomethingElse(const Question& question)
+/// How far a reading is from knowing all words.
+std::size_t doubt(const Question& question)
 {
-    return question.senses.meets({unknown, quoted}) && !question.senses.has(subject);
+    return 2 * question.count(unknown) + question.corrected;
+}
+
+/// Of two readings that know all words, the one that knows longer phrases understands more.
+bool isSurer(const Question& a, const Question& b)
+{
+    return std::pair(doubt(a), a.pieces) < std::pair(doubt(b), b.pieces);
+}
+
+/// The question in the language that knows most of its words; the one of the conversation first, then
+/// English.
+Question bestReading(const std::vector<Word>& words, TimePoint now, const IsName& isName,
+                     const Conversation& before)
+{
+    const IsName nothingIs = [](std::string_view) { return false; };
+    std::vector<Question> readings;
+    const Lexicon* const spoken = before.last.question.lexicon;
+    if (spoken != nullptr)
+        readings.push_back(read(words, *spoken, now, nothingIs, Typos::asTheyStand));
+    for (const Lexicon& lexicon : Lexicon::all()) {
+        if (&lexicon != spoken)
+            readings.push_back(read(words, lexicon, now, nothingIs, Typos::asTheyStand));
+    }
+    const auto surest = std::ranges::min_element(readings, isSurer);
+    const std::size_t least = surest->count(unknown);
+    if (least == 0)
+        return *surest;
+    std::optional<Question> best;
+    for (const Question& reading : readings) {
+        if (reading.count(unknown) > least + 1)
+            continue;
+        Question corrected = read(words, *reading.lexicon, now, isName, Typos::corrected);
+        if (!best || isSurer(corrected, *best))
+            best = std::move(corrected);
+    }
+    return *std::move(best);
+}
+
+/// The phrases from one position to before another.
+Question part(const Question& question, std::size_t from, std::size_t to)
+{
+    const auto start = question.phrases.begin();
+    Question one = withPhrases(question, {std::next(start, static_cast<std::ptrdiff_t>(from)),
+                                          std::next(start, static_cast<std::ptrdiff_t>(to))});
+    // "… and can I delete them" follows on what stands before it.
+    one.isContinued = from == 0 && question.isContinued;
+    return one;
+}
+
+/// The questions in one, if each has a question word.
+std::vector<Question> partsOf(const Question& question)
+{
+    std::vector<Question> parts;
+    std::size_t from = 0;
+    for (std::size_t i = 1; i < question.phrases.size(); ++i) {
+        const bool isStart = question.phrases[i].isJoined && kQuestionWords.has(question.phrases[i].sense) &&
+                             part(question, from, i).senses.meets(kQuestionWords);
+        if (isStart) {
+            parts.push_back(part(question, from, i));
+            from = i;
+        }
+    }
+    parts.push_back(part(question, from, question.phrases.size()));
+    return parts;
+}
+
+bool isNamedFile(const Phrase& phrase)
+{
+    return phrase.sense == quoted ||
+           (phrase.sense == unknown && PathText::extension(phrase.text).size() >= 2);
+}
+
+/// "Photos and videos": the question once for each of them. One question if they are not alike.
+std::vector<Question> distributed(const Question& question)
+{
+    const auto isAlike = [&](std::size_t i) {
+        const Phrase& phrase = question.phrases[i];
+        const Phrase& previous = question.phrases[i - 1];
+        return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
+                                   (isNamedFile(phrase) && isNamedFile(previous)));
+    };
+    std::size_t from = 1;
+    while (from < question.phrases.size() && !isAlike(from))
+        ++from;
+    std::size_t to = from;
+    while (to < question.phrases.size() && isAlike(to))
+        ++to;
+    if (from == to)
+        return {question};
+    std::vector<Question> each;
+    for (std::size_t kept = from - 1; kept < to; ++kept) {
+        std::vector<Phrase> phrases = question.phrases;
+        for (std::size_t i = to; i-- > from - 1;) {
+            if (i != kept)
+                phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+        }
+        each.push_back(withPhrases(question, std::move(phrases)));
+    }
+    return each;
+}
+
+/// One answer below the other.
+Answer together(std::vector<Answer> answers)
+{
+    if (answers.size() == 1)
+        return std::move(answers.front());
+    Answer all;
+    std::vector<Message> texts;
+    for (Answer& answer : answers) {
+        texts.push_back(std::move(answer.text));
+        for (std::string& id : answer.findingIDs) {
+            if (std::ranges::find(all.findingIDs, id) == all.findingIDs.end())
+                all.findingIDs.push_back(std::move(id));
+        }
+        std::ranges::move(answer.paths, std::back_inserter(all.paths));
+    }
+    all.text = AskText::lines(std::move(texts));
+    return all;
+}
+
+std::optional<Reply> alone(const Question& question, const AskContext& context)
+{
+    std::vector<Answer> answers;
+    const std::vector<Question> each = distributed(question);
+    if (each.size() > kMostParts)
+        return std::nullopt;
+    for (const Question& one : each) {
+        std::optional<Answer> answer = replyByRule(one, context);
+        if (!answer)
+            return std::nullopt;
+        answers.push_back(*std::move(answer));
+    }
+    return Reply{together(std::move(answers)), question};
+}
+
+/// "Only in Pictures", "and why": means little without what was said before.
+bool pointsBack(const Question& question)
+{
+    constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe};
+    constexpr SenseSet kConditions{size,    above,  below,  period, Sense::before, Sense::after, since,
+                                   biggest, oldest, newest, number, smallest,      inside,       unopened};
+    constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
+    return question.isContinued || question.senses.isWithin(kConditions) ||
+           (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
+           (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
+           question.senses.isWithin(kNothingAlone);
+}
+
+std::optional<Reply> reply(const Question& question, const AskContext& context, const Conversation& before)
+{
+    if (pointsBack(question)) {
+        if (auto found = followUp(question, context, before))
+            return found;
+    }
+    if (auto found = alone(question, context))
+        return found;
+    return pointsBack(question) ? std::nullopt : followUp(question, context, before);
+}
+
+Turn turnOf(const Reply& reply, const Conversation& before)
+{
+    return {reply.answer, before.with({reply.question, reply.answer.findingIDs, reply.answer.paths})};
+}
+
+/// All parts answered, each after the one before it; nothing if one is not.
+std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
+                             const Conversation& before)
+{
+    Conversation conversation = before;
+    std::vector<Answer> answers;
+    for (const Question& one : parts) {
+        const std::optional<Reply> found = reply(one, context, conversation);
+        if (!found)
+            return std::nullopt;
+        conversation = turnOf(*found, conversation).next;
+        answers.push_back(found->answer);
+    }
+    return Turn{together(std::move(answers)), std::move(conversation)};
+}
+
+std::optional<Turn> answered(const Question& question, const AskContext& context, const Conversation& before)
+{
+    const std::vector<Question> parts = partsOf(question);
+    if (parts.size() > 1 && parts.size() <= kMostParts) {
+        if (std::optional<Turn> found = answered(parts, context, before))
+            return found;
+    }
+    return answered(std::vector{question}, context, before);
+}
+
+/// The matcher understands single English words: what is longer or says something else is not for it.
+bool isForMatcher(const Question& question)
+{
+    constexpr std::size_t kFewPhrases = 2;
+    constexpr std::size_t kFewWords = 4;
+    return question.lexicon == Lexicon::all().data() && !question.senses.meets({unknown, quoted}) &&
+           question.phrases.size() <= kFewPhrases && question.words <= kFewWords && !pointsBack(question);
+}
+
+/// A single word, which the matcher knows as a topic.
+bool isTopic(const Question& question)
+{
+    return question.words == 1 && question.lexicon == Lexicon::all().data() &&
+           question.subject() != nullptr && !question.subject()->isProgram;
+}
+
+/// Asks what is not known, or says what is.
+Answer notUnderstood(const Question& question)
+{
+    return {question.pieces > question.count(unknown) ? InsightTexts::kDontKnow : InsightTexts::kHelp, {}};
+}
+
+/// Remembers what it was told: a question is read several times, and each look goes through the whole scan.
+class KnownNames {
+public:
+    explicit KnownNames(const AskContext& context) : m_context(context) {}
+
+    bool operator()(std::string_view word)
+    {
+        // Past this, the text is no question.
+        constexpr std::size_t kMostLooks = 12;
+        const auto known = m_names.find(word);
+        if (known != m_names.end())
+            return known->second;
+        const bool isOne = m_names.size() >= kMostLooks || isWordOfName(m_context, word);
+        return m_names.emplace(word, isOne).first->second;
+    }
+
+private:
+    const AskContext& m_context;
+    std::map<std::string, bool, std::less<>> m_names;
+};
+
+bool isReadable(std::string_view text)
+{
+    return text.size() <= kLongestQuestion && PathText::isValidUtf8(text);
 }
 
 } // namespace
 
-std::optional<Answer> answer(std::string_view text, const AskContext& context)
+std::optional<Turn> turn(std::string_view text, const AskContext& context, const Conversation& before)
 {
-    if (text.size() > kLongestQuestion || !PathText::isValidUtf8(text) || isSuggested(text))
+    if (text.size() > kLongestQuestion)
+        return Turn{{InsightTexts::kHelp, {}}, before};
+    const std::vector<Word> words = isReadable(text) ? wordsOf(text) : std::vector<Word>();
+    if (words.empty() || isSuggested(text))
         return std::nullopt;
-    const auto isKnownName = [&](std::string_view each) { return isWordOfName(context, each); };
-    Question question = read(text, context.now, isKnownName);
-    std::optional<Answer> found = firstReply(question, context);
-    if (!found && question.isCorrected) {
+    KnownNames names(context);
+    const Question question = bestReading(
+        words, context.now, [&](std::string_view word) { return names(word); }, before);
+    if (before.empty() && isTopic(question))
+        return std::nullopt;
+    std::optional<Turn> found = answered(question, context, before);
+    if (!found && question.corrected > 0) {
         // What looked like a typing error may have been meant as it stands.
-        question = read(text, context.now, [](std::string_view) { return true; });
-        found = firstReply(question, context);
+        const Question typed = read(
+            words, *question.lexicon, context.now, [](std::string_view) { return true; }, Typos::asTheyStand);
+        found = answered(typed, context, before);
     }
-    if (!found && isAboutSomethingElse(question))
-        return Answer{InsightTexts::kDontKnow, {}};
+    if (!found && !isForMatcher(question))
+        return Turn{notUnderstood(question), before};
     return found;
+}
+
+Conversation conversationAfter(std::string_view text, const AskContext& context, const Answer& answer,
+                               const Conversation& before)
+{
+    if (!isReadable(text))
+        return {};
+    const Question question =
+        bestReading(wordsOf(text), context.now, [](std::string_view) { return false; }, {});
+    return before.with({question, answer.findingIDs, answer.paths});
 }
 
 } // namespace orlen::AskReader

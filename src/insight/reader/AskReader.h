@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insight/AskEngine.h"
+#include "insight/Conversation.h"
 
 #include <optional>
 #include <string_view>
@@ -8,12 +9,17 @@
 /// Reads a question word by word and answers only if it understands all of it; everything else is left to the
 /// matcher. Pure, deterministic; any thread.
 ///
-/// Words and phrases are looked up in a table (`Lexicon`, `Subjects`) and become senses. A second table says
-/// which senses a reply needs and which others it may stand beside. A word that neither table knows must be
-/// a name in the scan, or there is no answer.
+/// Words and phrases are looked up in the table of a language (`Language`) and become senses. A second table
+/// says which senses a reply needs and which others it may stand beside. A word that neither table knows must
+/// be a name in the scan, or there is no answer. Of the languages, that one counts which knows most words.
 namespace orlen::AskReader {
 
 /// Nothing for the suggested questions and for what the matcher is to answer.
-[[nodiscard]] std::optional<Answer> answer(std::string_view question, const AskContext& context);
+[[nodiscard]] std::optional<Turn> turn(std::string_view question, const AskContext& context,
+                                       const Conversation& before);
+
+/// The conversation after an answer of the matcher.
+[[nodiscard]] Conversation conversationAfter(std::string_view question, const AskContext& context,
+                                             const Answer& answer, const Conversation& before);
 
 } // namespace orlen::AskReader

@@ -1,163 +1,114 @@
 #include "insight/reader/Lexicon.h"
 
+#include "platform/text/LanguageTools.h"
+
 #include <algorithm>
-#include <unordered_map>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
-namespace orlen::AskReader::Lexicon {
+namespace orlen::AskReader {
 
 namespace {
 
-struct Row {
-    Sense sense;
-    std::string_view words; ///< phrases, separated by commas
+/// A word shorter than this differs from too many others by one letter; by two.
+constexpr std::size_t kShortestMistyped = 5;
+constexpr std::size_t kShortestTwice = 9;
+constexpr std::size_t kShortestMeant = 4;
+
+struct Fold {
+    std::string_view letters;
+    std::string_view plain;
 };
 
-/// A phrase that several rows list belongs to the first.
-constexpr Row kRows[] = {
-    {Sense::filler,
-     "a,an,the,my,mine,our,your,i,me,we,you,it,its,this,that,these,those,is,are,was,were,be,been,am,do,does,"
-     "did,have,has,had,will,would,of,on,to,for,at,by,and,or,please,pls,hi,hello,hey,thanks,thank,there,so,"
-     "just,now,right now,currently,today,tell,show,list,give,find,see,look,get,know,want,wondering,really,"
-     "actually,about,any,some,all,much,many,here,then,also,too,only,ever,still,already,exactly,"
-     "approximately,roughly,named,called,orlen,with,if,them,they,their,than,one,ones,i've,i'm,i'd,isn't,"
-     "aren't,kind,kinds,type,types,sort,like,let,let's,display,name,as,not,don't,doesn't,didn't,well,ok,"
-     "okay,us,how,go,goes,lying around,sitting,stored,there's,quick,quickly,again,myself,same"},
-    {Sense::what,
-     "what,what's,whats,what is,what are,which,where,where is,where are,explain,describe,tell me about,"
-     "who,what about,how about"},
-    {Sense::howBig,
-     "how big,how large,how heavy,how huge,size of,the size,how much space do,how much space does,"
-     "how much room do,how much room does,how much storage do,how much storage does,how much do,"
-     "how much does,how many gb,how many gigabytes,how many gigs,how many mb,size,how much is in,how many "
-     "bytes,weigh"},
-    {Sense::howMany, "how many,count,number of,how often,amount of"},
-    {Sense::can,
-     "can,could,may,should,shall,must,need,is it safe to,is it ok to,is it okay to,safe to,ok to,okay to,"
-     "allowed to,possible to,able to,is it fine to,fine to,is it alright to"},
-    {Sense::makeRoom, "free up,make room,make space,make room for,make space for,clear "
-                      "up,reclaim,regain,gain,save,saved,freed,freeing,"
-                      "clear out,get back space,need to free,recover space,win"},
-    {Sense::untouched,
-     "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never delete,"
-     "never deletes,never moves,not move,off limits,off-limits,leave alone,left alone,protected,protect,"
-     "never remove,never removes,does not touch,doesn't touch,won't move,won't delete,untouched"},
-    {Sense::cleanUp,
-     "clean-up,clean-ups,cleanup,cleanups,cleaning,cleanings,clean up,cleaned up,cleaned,clean,last clean"},
-    {Sense::remove,
-     "delete,deleted,deleting,remove,removed,removing,erase,throw away,throw out,get rid,discard,drop,move,"
-     "wipe,dump,clear,ditch,bin it,trash it,move to the trash,purge,kill,lose,deletes"},
-    {Sense::undo,
-     "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll back,undone,restored,"
-     "reverse"},
-    {Sense::safe, "safe,safely,harmless,ok,dangerous,risky"},
-    {Sense::review, "review"},
-    {Sense::keep, "keep"},
-    {Sense::mean, "mean,means,meaning,stand for,stands for,difference between,ratings,rating,rated,meant"},
-    {Sense::used, "used,occupied,taken,in use,used up,how full,consumed,filled up so far"},
-    {Sense::full,
-     "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of space,"
-     "no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk space,"
-     "no free space,no more space,no disk space,so full,run out of space,running out of space,"
-     "no space left,no free space left,run out of room,running low on space,running low,run out of disk "
-     "space,running out of disk space,running out of storage,run out of storage"},
-    {Sense::free, "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over"},
-    {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total space"},
-    {Sense::disk,
-     "disk,disks,drive,drives,hard drive,hard disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,"
-     "partition,mac,disc,my disk"},
-    {Sense::space, "space,room,disk space,storage space,place,drive space,gb of space"},
-    {Sense::howMuch, "how much"},
-    {Sense::why, "why,how come,what's the reason,what made,reason,what makes,why's"},
-    {Sense::when,
-     "when,how soon,how long,what date,which date,what day,which day,how many days,how many weeks,"
-     "how many months,by when,until when,what month,which month,when's,how long until"},
-    {Sense::biggest,
-     "biggest,largest,heaviest,top,most space,bulkiest,greatest,largest sized,fattest,longest"},
-    {Sense::smallest, "smallest,tiniest,lightest"},
-    {Sense::oldest, "oldest,most ancient"},
-    {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed"},
-    {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger"},
-    {Sense::above,
-     "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller than,heavier "
-     "than"},
-    {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to"},
-    {Sense::inside, "in,inside,within,from"},
-    {Sense::unopened,
-     "not opened,haven't opened,not used,haven't used,unopened,never opened,not touched,haven't touched,"
-     "unused,not been opened,haven't been opened,i haven't opened,didn't open,have not opened,not accessed,"
-     "havent opened,haven't i opened,not looked at,have not used,have i not opened,haven't i used"},
-    {Sense::before, "before,older than,earlier than,prior to,more than ago"},
-    {Sense::since, "since,newer than,younger than"},
-    {Sense::after, "after,later than"},
-    {Sense::last, "last,previous,most recent clean-up,past"},
-    {Sense::soFar, "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
-                   "freed,history"},
-    {Sense::privacy,
-     "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,tracking,"
-     "track,"
-     "send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone home,share,shares,shared,"
-     "third party,third parties,account,offline"},
-    {Sense::general,
-     "most,using,use,uses,taking,take,takes,taking up,take up,takes up,hogging,hog,eating,eats,predict,"
-     "prediction,forecast,xcode,derived,simulator,simulators,build,code,"
-     "backup,"
-     "backups,ios,language,languages,translation,large,big,huge,old,mail,attachment,important,copies,same "
-     "file,long,scan,result,results,suggest,suggestion,suggestions,help,who are you,folder,folders,directory,"
-     "directories,bigger,larger,smaller,older,newer,fast,faster,slow,cost,costs,category,categories,happen,"
-     "happens,else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,first,second"},
+constexpr Fold kFolds[] = {
+    {"àáâãäåā", "a"}, {"èéêëēě", "e"}, {"ìíîïī", "i"}, {"òóôõöōø", "o"}, {"ùúûüū", "u"}, {"ýÿ", "y"},
+    {"ñń", "n"},      {"çćč", "c"},    {"ß", "ss"},    {"œ", "oe"},      {"æ", "ae"},    {"š", "s"},
 };
 
-using Map = std::unordered_map<std::string, Entry>;
+std::size_t lengthOfLetter(char lead)
+{
+    const auto byte = static_cast<unsigned char>(lead);
+    return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+}
 
-void addPhrases(Map& map, std::string_view phrases, Entry entry)
+std::string_view folded(std::string_view letter)
+{
+    // Accents that follow their letter.
+    if (letter >= "\u0300" && letter <= "\u036F")
+        return {};
+    for (const Fold& fold : kFolds) {
+        if (fold.letters.find(letter) != std::string_view::npos)
+            return fold.plain;
+    }
+    return letter;
+}
+
+template <typename Visit>
+void eachPhrase(std::string_view phrases, Visit visit)
 {
     while (!phrases.empty()) {
         const std::size_t end = std::min(phrases.find(','), phrases.size());
-        map.try_emplace(std::string(phrases.substr(0, end)), entry);
+        visit(phrases.substr(0, end));
         phrases.remove_prefix(std::min(end + 1, phrases.size()));
     }
 }
 
-const Map& entries()
+/// The German way to write umlauts where a keyboard has none; empty if there are none.
+std::string withoutUmlauts(std::string_view phrase)
 {
-    static const Map all = [] {
-        Map map;
-        for (const Row& row : kRows)
-            addPhrases(map, row.words, {row.sense, nullptr});
-        for (const Subject& subject : subjects())
-            addPhrases(map, subject.words, {Sense::subject, &subject});
-        return map;
-    }();
-    return all;
+    constexpr Fold kUmlauts[] = {{"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}};
+    std::string text(phrase);
+    bool hasAny = false;
+    for (const Fold& umlaut : kUmlauts) {
+        for (std::size_t at = text.find(umlaut.letters); at != std::string::npos;
+             at = text.find(umlaut.letters)) {
+            text.replace(at, umlaut.letters.size(), umlaut.plain);
+            hasAny = true;
+        }
+    }
+    return hasAny ? text : std::string();
 }
 
-/// A word shorter than this differs from too many others by one letter.
-constexpr std::size_t kShortestMistyped = 5;
-constexpr std::size_t kShortestMeant = 4;
+/// Whether at most two letters too many, too few, wrong or swapped separate the words. A word of a question
+/// is short: the whole table of distances fits on the stack.
+bool isTwoLettersApart(std::string_view a, std::string_view b)
+{
+    constexpr std::size_t kLongest = 32;
+    if (a.size() > kLongest || b.size() > kLongest || a.size() > b.size() + 2 || b.size() > a.size() + 2 ||
+        a.front() != b.front() || b.size() + 1 < kShortestTwice)
+        return false;
+    std::array<std::array<std::uint8_t, kLongest + 1>, kLongest + 1> cost{};
+    for (std::size_t i = 0; i <= a.size(); ++i) {
+        for (std::size_t j = 0; j <= b.size(); ++j) {
+            if (i == 0 || j == 0) {
+                cost[i][j] = static_cast<std::uint8_t>(i + j);
+                continue;
+            }
+            const int change = cost[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            int least = std::min({change, cost[i - 1][j] + 1, cost[i][j - 1] + 1});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                least = std::min(least, cost[i - 2][j - 2] + 1);
+            cost[i][j] = static_cast<std::uint8_t>(least);
+        }
+    }
+    return cost[a.size()][b.size()] <= 2;
+}
 
 } // namespace
 
-const Entry* find(const std::string& phrase)
+std::string plainLetters(std::string_view text)
 {
-    const auto found = entries().find(phrase);
-    return found == entries().end() ? nullptr : &found->second;
-}
-
-const Entry* findMistyped(std::string_view word)
-{
-    if (word.size() < kShortestMistyped)
-        return nullptr;
-    const Entry* only = nullptr;
-    for (const auto& [known, entry] : entries()) {
-        if (known.size() < kShortestMeant || !isOneLetterApart(word, known))
-            continue;
-        if (only != nullptr && (only->sense != entry.sense || only->subject != entry.subject))
-            return nullptr;
-        only = &entry;
+    const std::string lower = LanguageTools::lowerCase(text);
+    if (std::ranges::all_of(lower, [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+        return lower;
+    std::string plain;
+    for (std::string_view rest = lower; !rest.empty();) {
+        const std::string_view letter = rest.substr(0, lengthOfLetter(rest.front()));
+        plain += letter.size() == 1 ? letter : folded(letter);
+        rest.remove_prefix(letter.size());
     }
-    return only;
+    return plain;
 }
 
 bool isOneLetterApart(std::string_view a, std::string_view b)
@@ -179,4 +130,92 @@ bool isOneLetterApart(std::string_view a, std::string_view b)
            a.substr(at + 2) == b.substr(at + 2);
 }
 
-} // namespace orlen::AskReader::Lexicon
+Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompounds)
+{
+    for (const WordRow& row : language.words)
+        add(row.words, {row.sense, nullptr});
+    for (const SubjectRow& row : language.subjects)
+        add(row.words, {Sense::subject, &subjectFor(row.subject)});
+    for (const FigureRow& row : language.figures)
+        add(row);
+    eachPhrase(language.elided, [&](std::string_view word) {
+        m_elided.emplace(word);
+        m_words.emplace(word);
+    });
+}
+
+std::span<const Lexicon> Lexicon::all()
+{
+    static const std::array lexicons{Lexicon(english()), Lexicon(german()), Lexicon(french()),
+                                     Lexicon(spanish()), Lexicon(italian())};
+    return lexicons;
+}
+
+void Lexicon::addWords(std::string_view phrase)
+{
+    while (!phrase.empty()) {
+        const std::size_t end = std::min(phrase.find(' '), phrase.size());
+        m_words.emplace(phrase.substr(0, end));
+        phrase.remove_prefix(std::min(end + 1, phrase.size()));
+    }
+}
+
+void Lexicon::add(std::string_view phrases, Entry entry)
+{
+    eachPhrase(phrases, [&](std::string_view phrase) {
+        const std::string plain = plainLetters(phrase);
+        m_phrases.try_emplace(plain, entry);
+        addWords(plain);
+        if (const std::string typed = withoutUmlauts(phrase); m_hasCompounds && !typed.empty())
+            m_phrases.try_emplace(plainLetters(typed), entry);
+    });
+}
+
+void Lexicon::add(const FigureRow& row)
+{
+    eachPhrase(row.words, [&](std::string_view phrase) {
+        auto& figures = m_figures[static_cast<std::size_t>(row.figure)];
+        const std::string plain = plainLetters(phrase);
+        figures.try_emplace(plain, row.value);
+        addWords(plain);
+        if (const std::string typed = withoutUmlauts(phrase); m_hasCompounds && !typed.empty())
+            figures.try_emplace(plainLetters(typed), row.value);
+    });
+}
+
+const Lexicon::Entry* Lexicon::find(const std::string& phrase) const
+{
+    const auto found = m_phrases.find(phrase);
+    return found == m_phrases.end() ? nullptr : &found->second;
+}
+
+const Lexicon::Entry* Lexicon::onlyOneLike(std::string_view word,
+                                           bool isLike(std::string_view, std::string_view)) const
+{
+    const Entry* only = nullptr;
+    for (const auto& [known, entry] : m_phrases) {
+        if (known.size() < kShortestMeant || !isLike(word, known))
+            continue;
+        if (only != nullptr && (only->sense != entry.sense || only->subject != entry.subject))
+            return nullptr;
+        only = &entry;
+    }
+    return only;
+}
+
+const Lexicon::Entry* Lexicon::findMistyped(std::string_view word) const
+{
+    if (word.size() < kShortestMistyped)
+        return nullptr;
+    const Entry* const near = onlyOneLike(word, isOneLetterApart);
+    return near != nullptr || word.size() < kShortestTwice ? near : onlyOneLike(word, isTwoLettersApart);
+}
+
+std::optional<double> Lexicon::figure(Figure figure, const std::string& word) const
+{
+    const auto& figures = m_figures[static_cast<std::size_t>(figure)];
+    const auto found = figures.find(word);
+    return found == figures.end() ? std::nullopt : std::optional(found->second);
+}
+
+} // namespace orlen::AskReader

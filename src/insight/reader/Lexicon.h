@@ -1,31 +1,66 @@
 #pragma once
 
-#include "insight/reader/Sense.h"
-#include "insight/reader/Subjects.h"
+#include "insight/reader/Language.h"
 
+#include <array>
 #include <cstddef>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 
-/// The words and phrases that the reader knows. Any thread.
-namespace orlen::AskReader::Lexicon {
+namespace orlen::AskReader {
 
-struct Entry {
-    Sense sense = Sense::unknown;
-    const Subject* subject = nullptr; ///< for `Sense::subject`
-};
-
-/// Words in the longest phrase.
-inline constexpr std::size_t kLongestPhrase = 5;
-
-/// The meaning of a phrase in lower case, words separated by one space; null if unknown.
-[[nodiscard]] const Entry* find(const std::string& phrase);
-
-/// The meaning of the known word that one typing error separates from this one. Only for words of five
-/// letters or more; null if there is none, or if several mean different things.
-[[nodiscard]] const Entry* findMistyped(std::string_view word);
+/// In lower case and without accents, as words are compared.
+[[nodiscard]] std::string plainLetters(std::string_view text);
 
 /// Whether one letter too many, too few, wrong or swapped with its neighbour separates the words.
 [[nodiscard]] bool isOneLetterApart(std::string_view a, std::string_view b);
 
-} // namespace orlen::AskReader::Lexicon
+/// The words and phrases of one language, looked up in plain letters. Immutable; any thread.
+class Lexicon {
+public:
+    struct Entry {
+        Sense sense = Sense::unknown;
+        const Subject* subject = nullptr; ///< for `Sense::subject`
+    };
+
+    /// Words in the longest phrase.
+    static constexpr std::size_t kLongestPhrase = 6;
+
+    explicit Lexicon(const Language& language);
+
+    /// English first.
+    [[nodiscard]] static std::span<const Lexicon> all();
+
+    /// The meaning of a phrase, words separated by one space; null if unknown.
+    [[nodiscard]] const Entry* find(const std::string& phrase) const;
+
+    /// The meaning of the known word that one typing error separates from this one, or two in a long word.
+    /// Only for words of five letters or more; null if there is none, or if several mean different things.
+    [[nodiscard]] const Entry* findMistyped(std::string_view word) const;
+
+    [[nodiscard]] std::optional<double> figure(Figure figure, const std::string& word) const;
+
+    /// Whether it stands in a phrase or is a figure.
+    [[nodiscard]] bool isWord(const std::string& word) const { return m_words.contains(word); }
+    [[nodiscard]] bool isElided(const std::string& word) const { return m_elided.contains(word); }
+    [[nodiscard]] bool hasCompounds() const { return m_hasCompounds; }
+
+private:
+    void add(std::string_view phrases, Entry entry);
+    void add(const FigureRow& row);
+    void addWords(std::string_view phrase);
+    [[nodiscard]] const Entry* onlyOneLike(std::string_view word,
+                                           bool isLike(std::string_view, std::string_view)) const;
+
+    std::unordered_map<std::string, Entry> m_phrases;
+    std::array<std::unordered_map<std::string, double>, kFigures> m_figures;
+    std::unordered_set<std::string> m_words;
+    std::unordered_set<std::string> m_elided;
+    bool m_hasCompounds = false;
+};
+
+} // namespace orlen::AskReader

@@ -26,6 +26,7 @@ enum class Order { biggest, smallest, oldest, newest };
 /// What a list is to hold, and how the answer says so.
 struct Request {
     const Subject* subject = nullptr; ///< null: files of every kind
+    const Subject* finding = nullptr; ///< only what is listed as this
     std::string folder;               ///< empty: anywhere
     std::int64_t leastBytes = 0;
     std::int64_t mostBytes = std::numeric_limits<std::int64_t>::max();
@@ -75,18 +76,28 @@ void narrow(Request& request, const Text& condition, std::vector<Place> places)
     request.files = {condition, std::move(places)};
 }
 
-/// Sizes follow the word that compares. False if a size stands alone.
+/// The word that compares stands before a size or behind it: "over 1 GB", "1 GB or more".
+Sense comparisonAt(const Question& question, std::size_t position)
+{
+    constexpr SenseSet kComparisons{Sense::above, Sense::below};
+    if (position > 0 && kComparisons.has(question.phrases[position - 1].sense))
+        return question.phrases[position - 1].sense;
+    const bool isLast = position + 1 >= question.phrases.size();
+    return isLast ? Sense::unknown : question.phrases[position + 1].sense;
+}
+
+/// False if a size stands alone.
 bool takeSizes(const Question& question, Request& request)
 {
     for (std::size_t i = 0; i < question.phrases.size(); ++i) {
         const Phrase& phrase = question.phrases[i];
         if (phrase.sense != Sense::size)
             continue;
-        const Sense before = i == 0 ? Sense::unknown : question.phrases[i - 1].sense;
-        if (before == Sense::above) {
+        const Sense comparison = comparisonAt(question, i);
+        if (comparison == Sense::above) {
             request.leastBytes = phrase.amount + 1;
             narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{phrase.amount}}});
-        } else if (before == Sense::below) {
+        } else if (comparison == Sense::below) {
             request.mostBytes = phrase.amount - 1;
             narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{phrase.amount}}});
         } else {
@@ -94,6 +105,17 @@ bool takeSizes(const Question& question, Request& request)
         }
     }
     return true;
+}
+
+/// "More than two years old"
+bool isOlderThan(const Question& question)
+{
+    return question.senses.has(Sense::above) && !question.senses.has(Sense::size);
+}
+
+bool isYoungerThan(const Question& question)
+{
+    return question.senses.has(Sense::below) && !question.senses.has(Sense::size);
 }
 
 /// The one date and the word it belongs to. False if that is unclear.
@@ -106,13 +128,13 @@ bool takeDate(const Question& question, Request& request)
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;
         narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
-    } else if (question.senses.has(Sense::before)) {
+    } else if (question.senses.has(Sense::before) || isOlderThan(question)) {
         request.changedTo = period.from;
         narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(period.from)}});
     } else if (question.senses.has(Sense::after)) {
         request.changedFrom = period.to;
         narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});
-    } else if (question.senses.has(Sense::since)) {
+    } else if (question.senses.has(Sense::since) || isYoungerThan(question)) {
         request.changedFrom = period.from;
         narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.from)}});
     } else {
@@ -121,6 +143,18 @@ bool takeDate(const Question& question, Request& request)
         narrow(request, InsightTexts::kFilesChangedBetween,
                {{"first", dayOf(period.from)}, {"last", dayOf(period.to)}});
     }
+    return true;
+}
+
+/// "Duplicate PDFs": one subject says of which finding, the other of which kind the files are.
+bool takeBoth(const Subject& subject, Request& request)
+{
+    const Subject* const other = request.subject;
+    if (other == nullptr || request.finding != nullptr ||
+        other->extensions.empty() == subject.extensions.empty())
+        return false;
+    request.finding = subject.extensions.empty() ? &subject : other;
+    request.subject = subject.extensions.empty() ? other : &subject;
     return true;
 }
 
@@ -138,8 +172,9 @@ bool takeSubjects(const Question& question, Request& request)
             request.folder = folder;
         else if (!isPlace && isKind(*subject) && (request.subject == nullptr || request.subject->isAnyFile))
             request.subject = subject;
-        else
-            return subject->isAnyFile || (subject->folder == "{H}" && !request.folder.empty());
+        else if (!subject->isAnyFile && !(subject->folder == "{H}" && !request.folder.empty()) &&
+                 (isPlace || !isKind(*subject) || !takeBoth(*subject, request)))
+            return false;
     }
     return true;
 }
@@ -197,12 +232,15 @@ bool fits(const Request& request, const Finding& finding, const FileEntry& entry
     if (!request.folder.empty() &&
         (entry.path == request.folder || !PathText::isAtOrBelow(entry.path, request.folder)))
         return false;
+    const auto isListedAs = [&](const Subject& subject) {
+        return std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end();
+    };
+    if (request.finding != nullptr && !isListedAs(*request.finding))
+        return false;
     const Subject* const subject = request.subject;
     if (subject == nullptr || subject->isAnyFile)
         return true;
-    return subject->extensions.empty()
-               ? std::ranges::find(subject->kinds, finding.kind) != subject->kinds.end()
-               : hasExtensionOf(*subject, entry.path);
+    return subject->extensions.empty() ? isListedAs(*subject) : hasExtensionOf(*subject, entry.path);
 }
 
 /// What fits, each path once.
@@ -272,11 +310,20 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     Answer answer;
     for (std::size_t i = 0; i < shown; ++i) {
         lines.push_back(lineFor(*request, hits[i]));
+        answer.paths.push_back(hits[i].entry->path);
         if (std::ranges::find(answer.findingIDs, hits[i].finding->id()) == answer.findingIDs.end())
             answer.findingIDs.emplace_back(hits[i].finding->id());
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
+}
+
+std::optional<Answer> listOfBoth(const Question& question, const AskContext& context)
+{
+    if (question.count(Sense::subject) != 2)
+        return std::nullopt;
+    const std::optional<Answer> answer = listOfFiles(question, context);
+    return answer && !answer->paths.empty() ? answer : std::nullopt;
 }
 
 } // namespace orlen::AskReader

@@ -13,4 +13,7 @@ namespace orlen::AskReader {
 /// are.
 [[nodiscard]] std::optional<Answer> listOfFiles(const Question& question, const AskContext& context);
 
+/// The files that two subjects fit, such as "duplicate PDFs".
+[[nodiscard]] std::optional<Answer> listOfBoth(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

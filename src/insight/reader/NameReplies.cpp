@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/ProgramReplies.h"
 #include "platform/files/Places.h"
 #include "platform/text/ByteCount.h"
 #include "platform/text/PathText.h"
@@ -30,13 +31,21 @@ struct KnownPlace {
 };
 
 constexpr KnownPlace kKnownPlaces[] = {
-    {"ssh,ssh keys,ssh key,.ssh", "{H}/.ssh"},
-    {"gpg,gpg keys,gpg key,pgp keys,.gnupg", "{H}/.gnupg"},
-    {"firefox,firefox profile,firefox profiles,firefox bookmarks,.mozilla", "{H}/.mozilla"},
+    {"ssh,ssh keys,ssh key,.ssh,ssh schlussel,ssh-schlussel,cles ssh,claves ssh,chiavi ssh", "{H}/.ssh"},
+    {"gpg,gpg keys,gpg key,pgp keys,.gnupg,gpg schlussel,cles gpg,claves gpg,chiavi gpg", "{H}/.gnupg"},
+    {"firefox,firefox profile,firefox profiles,firefox "
+     "bookmarks,.mozilla,bookmarks,lesezeichen,marque-pages,favoris,"
+     "marcadores,favoritos,segnalibri,preferiti,firefox profil",
+     "{H}/.mozilla"},
     {"chrome profile,chrome bookmarks", "{CONFIG}/google-chrome"},
     {"chromium profile,chromium bookmarks", "{CONFIG}/chromium"},
-    {"thunderbird,thunderbird mail,thunderbird profile,emails,email,mails", "{H}/.thunderbird"},
-    {"keyring,keyrings,passwords,saved passwords", "{DATA}/keyrings"},
+    {"thunderbird,thunderbird mail,thunderbird "
+     "profile,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
+     "{H}/.thunderbird"},
+    {"keyring,keyrings,passwords,saved passwords,password,passworter,kennworter,schlusselbund,mots "
+     "passe,contrasenas,"
+     "claves",
+     "{DATA}/keyrings"},
     {".config", "{CONFIG}"},
     {".local/share", "{DATA}"},
 };
@@ -69,7 +78,9 @@ Answer protectedPlace(std::string_view path, Protection protection)
                     {{"path", tilde(path)},
                      {"group", within(label(protection))},
                      {"reason", within(reason(protection))}}},
-            {}};
+            {},
+            false,
+            {std::string(path)}};
 }
 
 /// What a clean-up does with it.
@@ -132,8 +143,10 @@ Answer listedHits(const AskContext& context, const Found& found, std::string_vie
 {
     const std::span<const Hit> listed = std::span(found.hits).first(std::min(found.hits.size(), kListed));
     Answer answer;
-    for (const Hit& hit : listed)
+    for (const Hit& hit : listed) {
         addLink(answer.findingIDs, *hit.finding);
+        answer.paths.push_back(hit.entry->path);
+    }
     if (found.hits.size() == 1) {
         answer.text = described(context, found.hits.front());
         return answer;
@@ -151,17 +164,22 @@ Answer listedHits(const AskContext& context, const Found& found, std::string_vie
 Answer measuredOnly(const AskContext& context, const Found& found)
 {
     std::vector<Message> lines;
+    Answer answer;
     for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
         const Protection protection = protectionOf(context, each.path);
-        const Message size{InsightTexts::kCountsFor,
-                           {{"path", tilde(each.path)},
-                            {"size", Bytes{each.bytes}},
-                            {"category", within(label(each.category))}}};
+        const Place bytes{"size", Bytes{each.bytes}};
+        const Message size =
+            each.category
+                ? Message{InsightTexts::kCountsFor,
+                          {{"path", tilde(each.path)}, bytes, {"category", within(label(*each.category))}}}
+                : Message{InsightTexts::kFolderTakes, {{"folder", tilde(each.path)}, bytes}};
         const Message rating =
             protection == Protection::none ? InsightTexts::kNotSuggested : itIsProtected(protection);
         lines.push_back(AskText::sentences({size, rating}));
+        answer.paths.push_back(each.path);
     }
-    return {AskText::lines(std::move(lines)), {}};
+    answer.text = AskText::lines(std::move(lines));
+    return answer;
 }
 
 Answer inTrash(const Found& found)
@@ -172,11 +190,24 @@ Answer inTrash(const Found& found)
         {}};
 }
 
+/// Written like the name of a file.
+bool hasFileExtension(std::string_view name)
+{
+    const std::string_view extension = PathText::extension(name);
+    return extension.size() >= 2 && extension.size() <= 8 && extension.find(' ') == std::string_view::npos;
+}
+
 /// The words that may be a name, as typed.
 std::string nameIn(const Question& question)
 {
     if (const Phrase* const quoted = question.first(Sense::quoted))
         return quoted->text;
+    const auto isFile = [](const Phrase& phrase) {
+        return phrase.sense == Sense::unknown && hasFileExtension(phrase.text);
+    };
+    // What stands around the name of a file is no part of it.
+    if (std::ranges::count_if(question.phrases, isFile) == 1)
+        return std::ranges::find_if(question.phrases, isFile)->text;
     std::string name;
     for (const Phrase& phrase : question.phrases) {
         if (phrase.sense == Sense::unknown)
@@ -190,7 +221,7 @@ std::string protectedPath(const Question& question, const AskContext& context, c
 {
     std::vector<std::string> paths{pathIn(name)};
     if (paths.front().empty()) {
-        const std::string lower = PathText::asciiLower(name);
+        const std::string lower = plainLetters(name);
         for (const KnownPlace& place : kKnownPlaces) {
             if (isListed(place.words, lower))
                 std::ranges::move(Places::current().expand(place.pattern), std::back_inserter(paths));
@@ -209,9 +240,7 @@ std::string protectedPath(const Question& question, const AskContext& context, c
 /// Written like the name of a file, so it can be nothing else.
 bool isFileName(const Question& question, std::string_view name)
 {
-    const std::string_view extension = PathText::extension(name);
-    return question.first(Sense::quoted) != nullptr || !pathIn(name).empty() ||
-           (extension.size() >= 2 && extension.size() <= 8 && extension.find(' ') == std::string_view::npos);
+    return question.first(Sense::quoted) != nullptr || !pathIn(name).empty() || hasFileExtension(name);
 }
 
 Answer notListed(std::string_view name)
@@ -231,6 +260,10 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
         found = findNamed(context, name);
+    if (found.fit < Fit::stem && !isNarrowed) {
+        if (std::optional<Answer> app = aboutApp(context, name))
+            return app;
+    }
     const std::string guarded = protectedPath(question, context, name);
     if (!guarded.empty() && found.fit < Fit::whole)
         return protectedPlace(guarded, protectionOf(context, guarded));
@@ -241,6 +274,22 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     if (!found.trashed.empty())
         return inTrash(found);
     return isFileName(question, name) ? std::optional(notListed(name)) : std::nullopt;
+}
+
+std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
+{
+    const std::string name = nameIn(question);
+    const auto isElse = [&](const Phrase& phrase) {
+        return phrase.sense == Sense::unknown && name.find(phrase.text) == std::string::npos;
+    };
+    // "The mozilla cache"
+    const Subject* const subject = question.subject();
+    const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
+                          findNamed(context, name, subject->kinds).fit >= Fit::words;
+    if (name.empty() || std::ranges::any_of(question.phrases, isElse) ||
+        (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
+        return std::nullopt;
+    return aboutName(question, context);
 }
 
 } // namespace orlen::AskReader

@@ -11,4 +11,8 @@ namespace orlen::AskReader {
 /// size, what a clean-up would do, or why it is protected. Nothing if the question names nothing.
 [[nodiscard]] std::optional<Answer> aboutName(const Question& question, const AskContext& context);
 
+/// The same for a text that is the name of a file or a protected place, whatever is asked about it. Nothing
+/// if other words stand beside it that are not understood.
+[[nodiscard]] std::optional<Answer> aboutSureName(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

@@ -114,8 +114,19 @@ private:
     {
         if (PathText::isAtOrBelow(path, m_home))
             path.remove_prefix(m_home.size());
-        lowerInto(m_lowerFolders, path);
-        return holdsWords(m_lowerFolders);
+        // Most entries lie in the folder of the one before, and most folders hold none of the words.
+        const std::string_view folder = path.substr(0, path.size() - PathText::lastComponent(path).size());
+        if (folder != m_folder) {
+            m_folder = folder;
+            lowerInto(m_lowerFolders, folder);
+            m_folderHoldsAny = std::ranges::any_of(m_words, [&](const std::string& word) {
+                return m_lowerFolders.find(word) != std::string::npos;
+            });
+        }
+        if (!m_folderHoldsAny)
+            return false;
+        lowerInto(m_lowerPath, path);
+        return holdsWords(m_lowerPath);
     }
 
     [[nodiscard]] bool holdsWords(std::string_view text) const
@@ -136,8 +147,7 @@ private:
     {
         return std::ranges::all_of(m_words, [&](const std::string& word) {
             return anyWord(text, [&](std::string_view each) {
-                return each == word ||
-                       (word.size() >= kShortestMistypedName && Lexicon::isOneLetterApart(word, each));
+                return each == word || (word.size() >= kShortestMistypedName && isOneLetterApart(word, each));
             });
         });
     }
@@ -147,7 +157,10 @@ private:
     std::vector<std::string> m_words;
     const std::string& m_home = Places::current().home;
     std::string m_lower;
+    std::string m_folder; ///< the one looked at last
     std::string m_lowerFolders;
+    bool m_folderHoldsAny = false;
+    std::string m_lowerPath;
     bool m_mayBePart;
     bool m_mayBeMistyped;
 };
@@ -155,12 +168,13 @@ private:
 /// Keeps what fits best.
 class Best {
 public:
-    explicit Best(std::string_view name) : m_wanted(name) {}
+    /// Nothing that fits less than `least` counts.
+    Best(std::string_view name, Fit least) : m_wanted(name), m_least(least) {}
 
     /// Whether the path belongs to the best so far; a better one drops the others.
     bool take(std::string_view path)
     {
-        const Fit fit = m_wanted.fit(path, m_found.fit);
+        const Fit fit = m_wanted.fit(path, std::max(m_found.fit, m_least));
         if (fit == Fit::none || fit < m_found.fit)
             return false;
         if (fit > m_found.fit) {
@@ -174,6 +188,7 @@ public:
 
 private:
     Wanted m_wanted;
+    Fit m_least;
     Found m_found;
 };
 
@@ -202,6 +217,17 @@ void lookInBreakdown(const StorageBreakdown& breakdown, Best& best)
     }
 }
 
+/// What the last scan noted of larger folders.
+void lookInReadings(const std::vector<FolderReading>& readings, Best& best)
+{
+    if (readings.empty())
+        return;
+    for (const FolderSize& folder : readings.back().folders) {
+        if (best.take(folder.path))
+            best.found().measured.push_back({folder.path, folder.bytes, {}});
+    }
+}
+
 void lookInHistory(const std::vector<CleanRecord>& history, Best& best)
 {
     for (const CleanRecord& record : history) {
@@ -224,18 +250,27 @@ void tidy(Found& found)
     std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
 }
 
-} // namespace
-
-Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
+Found bestFit(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds,
+              Fit least)
 {
-    Best best(name);
+    Best best(name, least);
     lookInFindings(context.findings, kinds, best);
     if (kinds.empty()) {
         lookInBreakdown(context.breakdown, best);
+        lookInReadings(context.folders, best);
         lookInHistory(context.history, best);
     }
     tidy(best.found());
     return std::move(best.found());
+}
+
+} // namespace
+
+Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
+{
+    // Typing errors take most of the time to look for.
+    Found found = bestFit(context, name, kinds, Fit::part);
+    return found.fit == Fit::none ? bestFit(context, name, kinds, Fit::mistyped) : found;
 }
 
 std::vector<Hit> eachOnce(std::vector<Hit> hits)

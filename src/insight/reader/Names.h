@@ -3,6 +3,7 @@
 #include "insight/AskContext.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,7 +21,7 @@ struct Hit {
 struct Measured {
     std::string path;
     std::int64_t bytes = 0;
-    OrlenCategory category = OrlenCategory::system;
+    std::optional<OrlenCategory> category; ///< nothing if it counts for several
 };
 
 /// How well a name fits, from not at all to exactly. Only hits that fit best are of interest.

@@ -1,10 +1,9 @@
 #include "insight/reader/Question.h"
 
-#include "insight/reader/Lexicon.h"
+#include "insight/reader/Merging.h"
 #include "platform/text/LanguageTools.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 #include <utility>
 
@@ -12,107 +11,64 @@ namespace orlen::AskReader {
 
 namespace {
 
-/// The words of a question as typed and in lower case, side by side.
-struct Words {
-    std::vector<std::string> typed;
-    std::vector<std::string> lower;
-    std::vector<bool> isQuoted;
-
-    void add(std::string_view word, bool quoted)
-    {
-        typed.emplace_back(word);
-        lower.push_back(LanguageTools::lowerCase(word));
-        isQuoted.push_back(quoted);
-    }
-};
-
-constexpr std::string_view kSpaces = " \t\r\n";
-constexpr std::string_view kAround = "?!.,;:()[]{}<>'`\"";
-
-std::string_view withoutPunctuation(std::string_view word)
-{
-    // A leading dot marks a hidden name.
-    const std::size_t start = word.find_first_not_of("?!,;:()[]{}<>'`\"");
-    if (start == std::string_view::npos)
-        return {};
-    const std::size_t end = word.find_last_not_of(kAround);
-    return end == std::string_view::npos || end < start ? std::string_view()
-                                                        : word.substr(start, end - start + 1);
-}
-
-/// Typographic quotation marks and apostrophes as plain ones.
-std::string withPlainQuotes(std::string_view text)
-{
-    struct Mark {
-        std::string_view from;
-        char to;
-    };
-    constexpr std::array kMarks{Mark{"“", '"'}, Mark{"”", '"'},  Mark{"„", '"'}, Mark{"«", '"'},
-                                Mark{"»", '"'}, Mark{"’", '\''}, Mark{"‘", '\''}};
-    std::string plain;
-    while (!text.empty()) {
-        const auto* const mark =
-            std::ranges::find_if(kMarks, [&](const Mark& each) { return text.starts_with(each.from); });
-        plain += mark == kMarks.end() ? text.front() : mark->to;
-        text.remove_prefix(mark == kMarks.end() ? 1 : mark->from.size());
-    }
-    return plain;
-}
-
-Words wordsOf(std::string_view question)
-{
-    const std::string plain = withPlainQuotes(question);
-    std::string_view rest = plain;
-    Words words;
-    while (true) {
-        rest.remove_prefix(std::min(rest.find_first_not_of(kSpaces), rest.size()));
-        if (rest.empty())
-            return words;
-        const std::size_t close = rest.front() == '"' ? rest.find('"', 1) : std::string_view::npos;
-        const bool isQuoted = close != std::string_view::npos && close > 1;
-        const std::size_t end = isQuoted ? close + 1 : std::min(rest.find_first_of(kSpaces), rest.size());
-        const std::string_view word =
-            isQuoted ? rest.substr(1, close - 1) : withoutPunctuation(rest.substr(0, end));
-        if (!word.empty())
-            words.add(word, isQuoted);
-        rest.remove_prefix(end);
-    }
-}
-
 /// Takes phrases off the words, the longest known one first.
 class Reading {
 public:
-    Reading(Words words, TimePoint now, const IsName& isName)
-        : m_words(std::move(words)), m_now(now), m_isName(isName)
+    Reading(std::vector<Word> words, const Lexicon& lexicon, TimePoint now, const IsName& isName, Typos typos)
+        : m_words(std::move(words)), m_lexicon(lexicon), m_now(now), m_isName(isName), m_typos(typos)
     {
+        for (const Word& word : m_words)
+            m_plain.push_back(word.plain);
+        m_question.lexicon = &lexicon;
+        m_question.words = m_words.size();
     }
 
     Question question()
     {
-        while (m_at < m_words.lower.size()) {
-            if (!takeQuoted() && !takePeriod() && !takeSize() && !takeKnown() && !takeNumber())
+        while (m_at < m_words.size()) {
+            if (!takeQuoted() && !takePeriod() && !takeSize() && !takeKnown(2) && !takeOrdinal() &&
+                !takeKnown(1) && !takeNumber())
                 takeUnknown();
         }
         return std::move(m_question);
     }
 
 private:
-    [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_words.lower).subspan(m_at); }
+    [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_plain).subspan(m_at); }
 
     void take(Phrase phrase, std::size_t count)
     {
         for (std::size_t i = 0; i < count; ++i)
-            phrase.text += (i == 0 ? "" : " ") + m_words.typed[m_at + i];
+            phrase.text += (i == 0 ? "" : " ") + m_words[m_at + i].typed;
+        const bool endsClause = m_words[m_at + count - 1].endsClause;
         m_at += count;
-        if (phrase.sense == Sense::filler)
-            return;
-        m_question.senses.add(phrase.sense);
-        m_question.phrases.push_back(std::move(phrase));
+        ++m_question.pieces;
+        const bool isFirst = m_question.phrases.empty();
+        switch (phrase.sense) {
+        case Sense::filler:
+            break;
+        case Sense::also:
+            m_question.isContinued = m_question.isContinued || isFirst;
+            m_isJoined = true;
+            break;
+        case Sense::only:
+            m_question.isContinued = true;
+            break;
+        case Sense::backward:
+            m_question.isBackward = true;
+            break;
+        default:
+            phrase.isJoined = m_isJoined && !isFirst;
+            m_isJoined = false;
+            m_question.senses.add(phrase.sense);
+            m_question.phrases.push_back(std::move(phrase));
+        }
+        m_isJoined = m_isJoined || endsClause;
     }
 
     bool takeQuoted()
     {
-        if (!m_words.isQuoted[m_at])
+        if (!m_words[m_at].isQuoted)
             return false;
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);
         return true;
@@ -120,7 +76,7 @@ private:
 
     bool takePeriod()
     {
-        const auto period = periodAt(rest(), m_now);
+        const auto period = periodAt(rest(), m_lexicon, m_now);
         if (period)
             take({Sense::period, {}, nullptr, 0, period->value}, period->words);
         return period.has_value();
@@ -128,28 +84,82 @@ private:
 
     bool takeSize()
     {
-        const auto size = sizeAt(rest());
+        const auto size = sizeAt(rest(), m_lexicon);
         if (size)
             take({Sense::size, {}, nullptr, size->value, {}}, size->words);
         return size.has_value();
     }
 
+    bool takeOrdinal()
+    {
+        const auto number = m_lexicon.figure(Figure::ordinal, m_plain[m_at]);
+        if (number)
+            take({Sense::ordinal, {}, nullptr, static_cast<std::int64_t>(*number), {}}, 1);
+        return number.has_value();
+    }
+
     bool takeNumber()
     {
-        const auto number = numberAt(rest());
+        const auto number = numberAt(rest(), m_lexicon);
         if (number)
             take({Sense::number, {}, nullptr, number->value, {}}, number->words);
         return number.has_value();
     }
 
-    bool takeKnown()
+    /// The longest phrase of at least so many words.
+    bool takeKnown(std::size_t least)
     {
-        for (std::size_t count = std::min(Lexicon::kLongestPhrase, rest().size()); count > 0; --count) {
-            std::string phrase;
-            for (const std::string& word : rest().first(count))
-                phrase += (phrase.empty() ? "" : " ") + word;
-            if (const Lexicon::Entry* const entry = Lexicon::find(phrase)) {
+        for (std::size_t count = std::min(Lexicon::kLongestPhrase, rest().size()); count >= least; --count) {
+            std::string phrase = m_plain[m_at];
+            for (const std::string& word : rest().subspan(1, count - 1))
+                phrase += " " + word;
+            if (const Lexicon::Entry* const entry = m_lexicon.find(phrase)) {
                 take({entry->sense, {}, entry->subject, 0, {}}, count);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// Adverbs of manner never decide anything.
+    [[nodiscard]] bool isAdverb(const std::string& word) const
+    {
+        constexpr std::size_t kShortest = 7;
+        constexpr std::string_view kEndings[] = {"ally",  "ably",   "ously",  "ently", "antly",
+                                                 "ement", "amente", "emente", "lmente"};
+        return word.size() >= kShortest &&
+               std::ranges::any_of(kEndings, [&](std::string_view ending) { return word.ends_with(ending); });
+    }
+
+    bool takeCompound(const std::string& word)
+    {
+        const auto parts = compound(m_lexicon, word);
+        if (!parts || m_isName(word))
+            return false;
+        const auto at = static_cast<std::ptrdiff_t>(m_at);
+        m_plain[m_at] = parts->first;
+        m_plain.insert(m_plain.begin() + at + 1, parts->second);
+        const Word behind{{}, parts->second, false, m_words[m_at].endsClause};
+        m_words[m_at].endsClause = false;
+        m_words.insert(m_words.begin() + at + 1, behind);
+        return true;
+    }
+
+    /// An English form that no row lists: "needed".
+    bool takeInflected(const std::string& word)
+    {
+        constexpr std::size_t kShortestStem = 4;
+        constexpr std::string_view kEndings[] = {"s", "es", "ed", "d", "ing"};
+        if (&m_lexicon != Lexicon::all().data() || m_isName(word))
+            return false;
+        for (const std::string_view ending : kEndings) {
+            if (!word.ends_with(ending) || word.size() < kShortestStem + ending.size())
+                continue;
+            const std::string stem = word.substr(0, word.size() - ending.size());
+            const Lexicon::Entry* const plain = m_lexicon.find(stem);
+            const Lexicon::Entry* const entry = plain != nullptr ? plain : m_lexicon.find(stem + "e");
+            if (entry != nullptr) {
+                take({entry->sense, {}, entry->subject, 0, {}}, 1);
                 return true;
             }
         }
@@ -158,20 +168,34 @@ private:
 
     void takeUnknown()
     {
-        const std::string& word = m_words.lower[m_at];
-        const Lexicon::Entry* const meant = Lexicon::findMistyped(word);
-        if (meant == nullptr || m_isName(word)) {
-            take({}, 1);
+        const std::string word = m_plain[m_at];
+        if (takeCompound(word) || takeInflected(word))
+            return;
+        const Lexicon::Entry* const meant =
+            m_typos == Typos::corrected ? m_lexicon.findMistyped(word) : nullptr;
+        if (meant == nullptr || isRightAsItStands(word)) {
+            take({isAdverb(word) && !m_isName(word) ? Sense::filler : Sense::unknown, {}, nullptr, 0, {}}, 1);
             return;
         }
-        m_question.isCorrected = true;
+        ++m_question.corrected;
         take({meant->sense, {}, meant->subject, 0, {}}, 1);
     }
 
-    Words m_words;
+    /// An English word of the dictionary, or a name of the scan.
+    [[nodiscard]] bool isRightAsItStands(const std::string& word) const
+    {
+        const bool isEnglish = &m_lexicon == Lexicon::all().data();
+        return (isEnglish && LanguageTools::lemma(word).has_value()) || m_isName(word);
+    }
+
+    std::vector<Word> m_words;
+    const Lexicon& m_lexicon;
     TimePoint m_now;
     const IsName& m_isName;
+    Typos m_typos;
+    std::vector<std::string> m_plain;
     std::size_t m_at = 0;
+    bool m_isJoined = false;
     Question m_question;
 };
 
@@ -194,9 +218,25 @@ std::size_t Question::position(Sense sense) const
     return static_cast<std::size_t>(std::ranges::find(phrases, sense, &Phrase::sense) - phrases.begin());
 }
 
-Question read(std::string_view text, TimePoint now, const IsName& isName)
+std::size_t Question::count(Sense sense) const
 {
-    return Reading(wordsOf(text), now, isName).question();
+    return static_cast<std::size_t>(std::ranges::count(phrases, sense, &Phrase::sense));
+}
+
+Question withPhrases(const Question& question, std::vector<Phrase> phrases)
+{
+    Question other = question;
+    other.phrases = std::move(phrases);
+    other.senses = {};
+    for (const Phrase& phrase : other.phrases)
+        other.senses.add(phrase.sense);
+    return other;
+}
+
+Question read(const std::vector<Word>& words, const Lexicon& lexicon, TimePoint now, const IsName& isName,
+              Typos typos)
+{
+    return merged(Reading(wordsIn(lexicon, words), lexicon, now, isName, typos).question());
 }
 
 } // namespace orlen::AskReader

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "insight/reader/Amounts.h"
+#include "insight/reader/Lexicon.h"
+#include "insight/reader/Periods.h"
 #include "insight/reader/Sense.h"
 #include "insight/reader/Subjects.h"
+#include "insight/reader/Words.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -18,27 +21,40 @@ struct Phrase {
     Sense sense = Sense::unknown;
     std::string text;                 ///< as typed, without punctuation around it
     const Subject* subject = nullptr; ///< for `Sense::subject`
-    std::int64_t amount = 0;          ///< of a size, in bytes, or of a number
+    std::int64_t amount = 0;          ///< of a size, in bytes, of a number or of an ordinal
     std::optional<Period> period;     ///< for `Sense::period`
+    bool isJoined = false;            ///< "and" stands before it, or another sentence ends there
 };
 
 /// A question taken apart.
 struct Question {
     std::vector<Phrase> phrases; ///< in order, without those that say nothing
     SenseSet senses;             ///< of all phrases
-    bool isCorrected = false;    ///< whether a word was taken for a typing error
+    const Lexicon* lexicon = nullptr;
+    std::size_t corrected = 0; ///< words taken for typing errors
+    std::size_t words = 0;     ///< all that it has
+    std::size_t pieces = 0;    ///< words and phrases that it was taken apart into
+    bool isContinued = false;  ///< begins with "and", or says "only"
+    bool isBackward = false;   ///< says "it", "them" or "the one"
 
     [[nodiscard]] const Phrase* first(Sense sense) const;
     /// The first subject; null if there is none.
     [[nodiscard]] const Subject* subject() const;
     /// Where the first phrase of this sense stands; the number of phrases if there is none.
     [[nodiscard]] std::size_t position(Sense sense) const;
+    [[nodiscard]] std::size_t count(Sense sense) const;
 };
+
+/// The question with these phrases instead of its own.
+[[nodiscard]] Question withPhrases(const Question& question, std::vector<Phrase> phrases);
 
 /// Tells whether a word, in lower case, is part of a name in the scan, and so no typing error.
 using IsName = std::function<bool(std::string_view)>;
 
-/// Takes a question apart; what is neither known nor mistyped is `unknown`. Valid UTF-8 only.
-[[nodiscard]] Question read(std::string_view text, TimePoint now, const IsName& isName);
+enum class Typos { asTheyStand, corrected };
+
+/// Takes a question apart; what is neither known nor mistyped is `unknown`.
+[[nodiscard]] Question read(const std::vector<Word>& words, const Lexicon& lexicon, TimePoint now,
+                            const IsName& isName, Typos typos);
 
 } // namespace orlen::AskReader

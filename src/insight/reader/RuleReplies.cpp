@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -21,6 +22,14 @@ constexpr Meaning kMeanings[] = {
     {Sense::keep, InsightTexts::kKeepMeans},
 };
 
+/// About things of every kind, if about any.
+bool isGeneral(const Question& question)
+{
+    return std::ranges::all_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject == nullptr || phrase.subject->isAnyFile || phrase.subject->isProgram;
+    });
+}
+
 } // namespace
 
 std::optional<Answer> privacy(const Question& /*question*/, const AskContext& /*context*/)
@@ -28,9 +37,36 @@ std::optional<Answer> privacy(const Question& /*question*/, const AskContext& /*
     return Answer{InsightTexts::kPrivacy, {}};
 }
 
-std::optional<Answer> whatIsNeverTouched(const Question& /*question*/, const AskContext& /*context*/)
+std::optional<Answer> whatIsNeverTouched(const Question& question, const AskContext& /*context*/)
 {
+    if (!isGeneral(question))
+        return std::nullopt;
     return Answer{InsightTexts::kNeverTouched, {}};
+}
+
+std::optional<Answer> whatOrlenAnswers(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kHelp, {}};
+}
+
+std::optional<Answer> whyTrust(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{AskText::lines({InsightTexts::kPrivacy, InsightTexts::kNeverTouched}), {}};
+}
+
+std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)
+{
+    const Subject* const subject = question.subject();
+    if (!isGeneral(question) && subject->id != SubjectID::trash)
+        return std::nullopt;
+    return Answer{AskText::sentences({InsightTexts::kMovesTicked, InsightTexts::kUntilTrashIsEmptied,
+                                      InsightTexts::kNothingMovesYet}),
+                  {}};
+}
+
+std::optional<Answer> whatToKeep(const Question& question, const AskContext& context)
+{
+    return isGeneral(question) ? std::optional(AskEngine::fallback("keep", context)) : std::nullopt;
 }
 
 std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& /*context*/)

@@ -15,6 +15,18 @@ namespace orlen::AskReader {
 /// What is never moved.
 [[nodiscard]] std::optional<Answer> whatIsNeverTouched(const Question& question, const AskContext& context);
 
+/// What can be asked.
+[[nodiscard]] std::optional<Answer> whatOrlenAnswers(const Question& question, const AskContext& context);
+
+/// What Orlen keeps to.
+[[nodiscard]] std::optional<Answer> whyTrust(const Question& question, const AskContext& context);
+
+/// What a clean-up does with what is moved.
+[[nodiscard]] std::optional<Answer> whatHappens(const Question& question, const AskContext& context);
+
+/// What is rated Keep.
+[[nodiscard]] std::optional<Answer> whatToKeep(const Question& question, const AskContext& context);
+
 /// What the ratings named in the question mean; all if it names none.
 [[nodiscard]] std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& context);
 

@@ -8,26 +8,33 @@ namespace orlen::AskReader {
 /// What a word or phrase of a question says.
 enum class Sense : std::uint8_t {
     filler,  ///< says nothing that an answer depends on
-    general, ///< a known word that only the matcher understands
+    general, ///< a known word that decides nothing by itself
     what,
     howBig,
     howMuch,
     howMany,
     can,
     remove,
+    uninstall,
     safe,
     review,
     keep,
     mean,
+    happens, ///< "what happens when …"
+    advise,
+    trust,
+    self, ///< Orlen, or the conversation itself
     free,
     makeRoom,
     used,
+    takes,
     total,
     disk,
     space,
     why,
     full,
     when,
+    most,
     biggest,
     smallest,
     oldest,
@@ -39,6 +46,9 @@ enum class Sense : std::uint8_t {
     before,
     after,
     since,
+    negation,
+    opened,  ///< with a negation: not opened
+    handled, ///< "used" of a file or of space; with a negation: not opened
     unopened,
     last,
     cleanUp,
@@ -46,12 +56,18 @@ enum class Sense : std::uint8_t {
     soFar,
     privacy,
     untouched,
+    folder,  ///< the word itself
     subject, ///< a kind, category or folder; see `Subject`
     size,
     number,
+    ordinal,
     period,
     quoted,  ///< text in quotation marks
     unknown, ///< perhaps a name
+    // These stand beside the senses of a question: they tell how it hangs together.
+    also,     ///< "and", "what about"
+    only,     ///< "only", "just those"
+    backward, ///< "it", "them", "the one": what the last answer was about
 };
 
 /// A set of senses.

@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/Names.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -51,6 +53,15 @@ Message volume(const StorageBreakdown& breakdown)
              {"total", Bytes{breakdown.total}},
              {"used", Bytes{used}},
              {"share", Share{static_cast<double>(used) / static_cast<double>(breakdown.total)}}}};
+}
+
+/// Whether nothing but files of every kind, or the home folder, is asked about.
+bool hasNoKind(const Question& question)
+{
+    return std::ranges::all_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject == nullptr || phrase.subject->isAnyFile ||
+               phrase.subject->id == SubjectID::home;
+    });
 }
 
 /// Which category grows the fastest; empty if none does notably.
@@ -146,6 +157,74 @@ std::optional<Answer> spaceNow(const Question& question, const AskContext& conte
     return Answer{volume(breakdown), {}};
 }
 
+std::optional<Answer> fullNow(const Question& question, const AskContext& context)
+{
+    if (context.breakdown.total <= 0)
+        return std::nullopt;
+    // Whoever says that the disk is full wants to know what to do about it.
+    std::optional<Answer> answer = whyFull(question, context);
+    const Answer advice = AskEngine::fallback("safe", context);
+    answer->text = AskText::lines({answer->text, advice.text});
+    return answer;
+}
+
+std::optional<Answer> whatIsBiggest(const Question& question, const AskContext& context)
+{
+    if (!hasNoKind(question))
+        return std::nullopt;
+    return question.senses.has(Sense::folder) ? biggestFolders(question, context)
+                                              : AskEngine::fallback("most", context);
+}
+
+std::optional<Answer> biggestFolders(const Question& question, const AskContext& context)
+{
+    if (!hasNoKind(question))
+        return std::nullopt;
+    constexpr std::int64_t kNamed = 5;
+    constexpr std::int64_t kMost = 20;
+    const Phrase* const number = question.first(Sense::number);
+    std::vector<CategoryFolder> folders = context.breakdown.folders;
+    if (folders.empty())
+        return Answer{InsightTexts::kScanForBreakdown, {}};
+    std::ranges::stable_sort(folders, std::greater{}, &CategoryFolder::bytes);
+    folders.resize(
+        std::min(folders.size(),
+                 static_cast<std::size_t>(number == nullptr ? kNamed : std::min(number->amount, kMost))));
+    std::vector<Message> lines{InsightTexts::kTheBiggest};
+    for (const CategoryFolder& folder : folders)
+        lines.push_back(
+            {InsightTexts::kDownload, {{"name", tilde(folder.path)}, {"size", Bytes{folder.bytes}}}});
+    Answer answer{AskText::lines(std::move(lines)), {}};
+    for (const CategoryFolder& folder : folders)
+        answer.paths.push_back(folder.path);
+    return answer;
+}
+
+std::optional<Answer> whatMayGo(const Question& question, const AskContext& context)
+{
+    // "Can I delete it?" and "did I clean up in May?" ask about something else.
+    const bool isElse = (question.isBackward && !question.senses.meets({Sense::what, Sense::howMuch})) ||
+                        (question.senses.has(Sense::inside) && question.subject() == nullptr);
+    if (isElse || !hasNoKind(question))
+        return std::nullopt;
+    return AskEngine::fallback("safe", context);
+}
+
+std::optional<Answer> cleaningDownloads(const Question& question, const AskContext& context)
+{
+    const auto isOther = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && !phrase.subject->isAnyFile &&
+               phrase.subject->id != SubjectID::downloads;
+    };
+    const Subject* const downloads = &subjectFor(SubjectID::downloads);
+    const auto isDownloads = [&](const Phrase& phrase) { return phrase.subject == downloads; };
+    if (std::ranges::any_of(question.phrases, isOther) ||
+        std::ranges::none_of(question.phrases, isDownloads) ||
+        !question.senses.meets({Sense::what, Sense::inside, Sense::makeRoom, Sense::cleanUp, Sense::advise}))
+        return std::nullopt;
+    return AskEngine::fallback("download", context);
+}
+
 std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& context)
 {
     const StorageBreakdown& breakdown = context.breakdown;
@@ -177,11 +256,11 @@ std::optional<Answer> fullWhen(const Question& question, const AskContext& conte
     const auto left = std::chrono::hours(static_cast<int>(*prediction.daysLeft * 24));
     const TimePoint full = context.now + left;
     std::vector<Message> said;
-    if (const Phrase* const period = question.first(Sense::period); period != nullptr) {
-        if (period->period->to <= context.now)
+    if (const Phrase* const phrase = question.first(Sense::period); phrase != nullptr) {
+        const Period period = coming(*phrase->period, context.now);
+        if (period.to <= context.now)
             return std::nullopt;
-        said.emplace_back(full < period->period->to ? InsightTexts::kProbablyYes
-                                                    : InsightTexts::kProbablyNot);
+        said.emplace_back(full < period.to ? InsightTexts::kProbablyYes : InsightTexts::kProbablyNot);
     }
     said.push_back({InsightTexts::kFullAround, {{"date", Moment{full}}}});
     said.push_back(prediction.detail);
@@ -194,8 +273,9 @@ std::optional<Answer> roomFor(const Question& question, const AskContext& contex
     if (size == nullptr || size->amount <= 0)
         return std::nullopt;
     // "Do I have 5 GB free?" asks for no proposal.
-    if (!question.senses.has(Sense::makeRoom) &&
-        question.position(Sense::size) < question.position(Sense::free))
+    const auto behind = std::span(question.phrases).subspan(question.position(Sense::size));
+    if (!question.senses.meets({Sense::makeRoom, Sense::remove}) &&
+        std::ranges::find(behind, Sense::free, &Phrase::sense) != behind.end())
         return std::nullopt;
     if (context.findings.empty())
         return Answer{InsightTexts::kNoScan, {}};

@@ -18,6 +18,21 @@ namespace orlen::AskReader {
 /// The day when the disk will be full at the present pace, and whether that is before the date asked for.
 [[nodiscard]] std::optional<Answer> fullWhen(const Question& question, const AskContext& context);
 
+/// How full the disk is.
+[[nodiscard]] std::optional<Answer> fullNow(const Question& question, const AskContext& context);
+
+/// What takes the most space on the whole disk.
+[[nodiscard]] std::optional<Answer> whatIsBiggest(const Question& question, const AskContext& context);
+
+/// The folders that take the most space.
+[[nodiscard]] std::optional<Answer> biggestFolders(const Question& question, const AskContext& context);
+
+/// What a clean-up could free.
+[[nodiscard]] std::optional<Answer> whatMayGo(const Question& question, const AskContext& context);
+
+/// What could go from the Downloads folder.
+[[nodiscard]] std::optional<Answer> cleaningDownloads(const Question& question, const AskContext& context);
+
 /// Findings that together free the size asked for: what is rated Safe first.
 [[nodiscard]] std::optional<Answer> roomFor(const Question& question, const AskContext& context);
 

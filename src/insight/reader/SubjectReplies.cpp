@@ -121,6 +121,20 @@ Answer nothingFound(const Subject& subject, const AskContext& context)
     return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
 }
 
+/// What the question is about: not "files" if it says more. Null if it is about one kind within a folder.
+const Subject* mainSubject(const Question& question)
+{
+    const Subject* main = nullptr;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject == nullptr || phrase.subject->isAnyFile)
+            continue;
+        if (main != nullptr && main != phrase.subject)
+            return nullptr;
+        main = phrase.subject;
+    }
+    return main != nullptr ? main : question.subject();
+}
+
 bool isOnlyKinds(const Subject& subject)
 {
     return !subject.kinds.empty() && subject.folder.empty() && !subject.category;
@@ -130,7 +144,10 @@ bool isOnlyKinds(const Subject& subject)
 
 std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& context)
 {
-    const Subject& subject = *question.subject();
+    const Subject* const main = mainSubject(question);
+    if (main == nullptr)
+        return std::nullopt;
+    const Subject& subject = *main;
     Lines lines;
     addFolder(lines, subject, context.breakdown);
     if (subject.category)
@@ -156,6 +173,8 @@ std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& 
 std::optional<Answer> removingSubject(const Question& question, const AskContext& context)
 {
     const Subject& subject = *question.subject();
+    if (!subject.extensions.empty() || subject.isAnyFile)
+        return std::nullopt;
     const std::string folder = folderOf(subject);
     // What may go from a folder is another question than whether the folder may go.
     if (!folder.empty() && question.senses.meets({Sense::what, Sense::inside}))
@@ -204,12 +223,23 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
     return answer;
 }
 
-std::optional<Answer> onePhotoKind(const Question& question, const AskContext& context)
+std::optional<Answer> neverOpened(const Question& question, const AskContext& context)
 {
-    const Subject& subject = *question.subject();
-    if (subject.kinds.size() != 1 || meta(subject.kinds.front()).category != OrlenCategory::photos)
+    Phrase old = *question.first(Sense::subject);
+    if (!old.subject->isAnyFile)
         return std::nullopt;
-    return sizeOfSubject(question, context);
+    old.subject = &subjectFor(SubjectID::oldFiles);
+    return sizeOfSubject(withPhrases(question, {std::move(old)}), context);
+}
+
+Answer aboutFinding(const Finding& finding)
+{
+    Lines lines;
+    const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding.items)}}};
+    lines.texts.push_back(AskText::sentences({AskText::rated(finding), count}));
+    lines.texts.emplace_back(finding.explanation);
+    lines.ids.emplace_back(finding.id());
+    return *lines.answer();
 }
 
 } // namespace orlen::AskReader

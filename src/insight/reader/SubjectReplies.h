@@ -21,7 +21,10 @@ namespace orlen::AskReader {
 /// How much removing it would free.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
-/// What the scan lists of one kind of photo, named alone.
-[[nodiscard]] std::optional<Answer> onePhotoKind(const Question& question, const AskContext& context);
+/// What has not been opened for long.
+[[nodiscard]] std::optional<Answer> neverOpened(const Question& question, const AskContext& context);
+
+/// What one finding is, its size and its rating.
+[[nodiscard]] Answer aboutFinding(const Finding& finding);
 
 } // namespace orlen::AskReader

@@ -3,28 +3,82 @@
 #include "model/FindingKind.h"
 #include "model/OrlenCategory.h"
 
+#include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orlen::AskReader {
 
+enum class SubjectID : std::uint8_t {
+    similarPhotos,
+    screenshots,
+    receipts,
+    memes,
+    blurry,
+    duplicates,
+    largeFiles,
+    oldFiles,
+    oldDownloads,
+    logs,
+    trash,
+    deviceBackups,
+    mailAttachments,
+    languagePacks,
+    npm,
+    pip,
+    gradle,
+    homebrew,
+    caches,
+    developer,
+    system,
+    apps,
+    media,
+    downloads,
+    desktop,
+    documentsFolder,
+    picturesFolder,
+    videosFolder,
+    musicFolder,
+    home,
+    videos,
+    photos,
+    audio,
+    pdfs,
+    archives,
+    installers,
+    diskImages,
+    spreadsheets,
+    presentations,
+    ebooks,
+    documents,
+    files,
+    startup,
+    containers,
+    flatpak,
+    snap,
+    games,
+};
+
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often
-/// several at once: "photos" are files with certain extensions and a category.
+/// several at once: "photos" are files with certain extensions and a category. The words for it stand in the
+/// tables of the languages.
 struct Subject {
-    std::string_view words;      ///< the phrases for it, separated by commas
+    SubjectID id;
     Text name;                   ///< as a sentence names several of them: "videos"; empty if none does
     std::string_view extensions; ///< of its files, lower case, separated by spaces; empty if no kind of file
     std::vector<FindingKind> kinds;
     std::optional<OrlenCategory> category;
     std::string_view folder; ///< pattern as Places::expand reads it; empty if it is no folder
     bool isAnyFile = false;  ///< files of every kind
+    bool isProgram = false;  ///< applications and what belongs to them
 };
 
-/// All subjects. A phrase that several list belongs to the first.
-[[nodiscard]] std::span<const Subject> subjects();
+[[nodiscard]] const Subject& subjectFor(SubjectID id);
+
+/// The subject that is only the folder of this one: of photos, the pictures folder. Null if there is none.
+[[nodiscard]] const Subject* folderSubject(const Subject& subject);
 
 /// The folder in use that the subject stands for; empty if none.
 [[nodiscard]] std::string folderOf(const Subject& subject);

@@ -25,7 +25,10 @@ std::string understood(const QString& question)
 
 } // namespace
 
-ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this) {}
+ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this)
+{
+    app.programs()->load();
+}
 
 QString ConversationModel::introduction()
 {
@@ -50,12 +53,14 @@ bool ConversationModel::ask(const QString& question)
     m_recalled = m_asked.size();
     append(ChatMessage::question(asked.toStdString()));
     setThinking(true);
-    m_workers.start([question = understood(asked), context = m_app.askContext()](
-                        const std::stop_token& /*stop*/) { return AskEngine::answer(question, context); },
-                    [this](Answer answer) {
-                        setThinking(false);
-                        append(ChatMessage::reply(std::move(answer)));
-                    });
+    m_workers.start(
+        [question = understood(asked), context = m_app.askContext(), before = m_conversation](
+            const std::stop_token& /*stop*/) { return AskEngine::turn(question, context, before); },
+        [this](Turn turn) {
+            setThinking(false);
+            m_conversation = std::move(turn.next);
+            append(ChatMessage::reply(std::move(turn.answer)));
+        });
     return true;
 }
 

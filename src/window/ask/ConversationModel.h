@@ -69,6 +69,7 @@ private:
     AppModel& m_app;
     std::vector<Row> m_rows;
     bool m_isThinking = false;
+    Conversation m_conversation; ///< what a question may follow on
     std::vector<QString> m_asked;
     std::size_t m_recalled = 0; ///< index of the question recalled last; the number of questions for none
 

@@ -1,0 +1,55 @@
+#include "app/Programs.h"
+
+#include "tools/apps/AppList.h"
+#include "tools/startup/LaunchControl.h"
+
+#include <stop_token>
+#include <utility>
+
+namespace orlen {
+
+namespace {
+
+struct Found {
+    std::vector<KnownApp> apps;
+    std::vector<KnownStartupItem> items;
+};
+
+KnownApp::Source source(const AppInfo& app)
+{
+    if (app.source == AppSource::flatpak)
+        return KnownApp::Source::flatpak;
+    return app.source == AppSource::snap ? KnownApp::Source::snap : KnownApp::Source::own;
+}
+
+Found read(const std::stop_token& stop)
+{
+    std::vector<AppInfo> apps = AppList::list(stop);
+    std::erase_if(apps, [](const AppInfo& app) { return app.source == AppSource::removedFlatpak; });
+    AppList::measure(
+        apps, [&](std::size_t index, std::int64_t bytes) { apps[index].size = bytes; }, stop);
+    Found found;
+    for (AppInfo& app : apps)
+        found.apps.push_back({std::move(app.name), app.size, source(app), std::move(app.advice)});
+    if (stop.stop_requested())
+        return found;
+    for (LaunchItem& item : LaunchControl::load())
+        found.items.push_back({std::move(item.name), item.enabled});
+    return found;
+}
+
+} // namespace
+
+Programs::Programs(QObject* parent) : ModelPart(parent), m_workers(*this) {}
+
+void Programs::load()
+{
+    checkThread();
+    m_workers.start(m_work, read, [this](Found found) {
+        m_apps = std::move(found.apps);
+        m_items = std::move(found.items);
+        Q_EMIT loaded();
+    });
+}
+
+} // namespace orlen

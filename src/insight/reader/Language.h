@@ -1,0 +1,67 @@
+#pragma once
+
+#include "insight/reader/Sense.h"
+#include "insight/reader/Subjects.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+/// The words of the languages in which questions are understood, as tables. To teach a language another word,
+/// add it to a row; phrases are separated by commas, and a phrase that several rows list belongs to the
+/// first. Case and accents don't matter. A typing error, and so most endings, is forgiven in words of five
+/// letters or more: a row need not list every form.
+namespace orlen::AskReader {
+
+struct WordRow {
+    Sense sense;
+    std::string_view words;
+};
+
+struct SubjectRow {
+    SubjectID subject;
+    std::string_view words;
+};
+
+/// Single words of which numbers, sizes and dates are made.
+enum class Figure : std::uint8_t {
+    number,
+    ordinal,   ///< the value counts from 1
+    sizeUnit,  ///< the value is in bytes
+    timeUnit,  ///< the value is a `TimeUnit`
+    month,     ///< 1 to 12
+    weekday,   ///< 0: Sunday
+    daysAgo,   ///< "yesterday": 1
+    ago,       ///< stands behind: "two years ago"
+    agoBefore, ///< stands before: "vor zwei Jahren"
+    previous,  ///< "last" of "last month" or "le mois dernier"
+    current,   ///< "this" of "this month"
+    ofDate,    ///< may stand within a date: "3 de marzo de 2024"
+};
+inline constexpr std::size_t kFigures = 12;
+
+enum class TimeUnit : std::uint8_t { day, week, month, year };
+
+struct FigureRow {
+    Figure figure;
+    std::string_view words;
+    double value = 0;
+};
+
+struct Language {
+    std::span<const WordRow> words;
+    std::span<const SubjectRow> subjects;
+    std::span<const FigureRow> figures;
+    /// Words that lose their last vowel before another word: "l" of "l'espace".
+    std::string_view elided;
+    bool hasCompounds = false; ///< writes several words as one: "Downloadordner"
+};
+
+[[nodiscard]] const Language& english();
+[[nodiscard]] const Language& german();
+[[nodiscard]] const Language& french();
+[[nodiscard]] const Language& spanish();
+[[nodiscard]] const Language& italian();
+
+} // namespace orlen::AskReader

@@ -1,0 +1,131 @@
+#include "insight/reader/Merging.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
+namespace orlen::AskReader {
+
+namespace {
+
+using Phrases = std::vector<Phrase>;
+
+bool has(const Phrases& phrases, Sense sense)
+{
+    return std::ranges::find(phrases, sense, &Phrase::sense) != phrases.end();
+}
+
+void drop(Phrases& phrases, Sense sense)
+{
+    std::erase_if(phrases, [&](const Phrase& phrase) { return phrase.sense == sense; });
+}
+
+void rename(Phrases& phrases, Sense from, Sense to)
+{
+    for (Phrase& phrase : phrases) {
+        if (phrase.sense == from)
+            phrase.sense = to;
+    }
+}
+
+/// "Not … opened", "I never use": with whatever stands between.
+void mergeNegation(Phrases& phrases)
+{
+    const bool isNegated = has(phrases, Sense::negation);
+    // "Apps that I don't use": of a file, to use says little.
+    const bool isOfApps = std::ranges::any_of(
+        phrases, [](const Phrase& phrase) { return phrase.subject != nullptr && phrase.subject->isProgram; });
+    if (isNegated && isOfApps)
+        rename(phrases, Sense::takes, Sense::handled);
+    if (isNegated && (has(phrases, Sense::opened) || has(phrases, Sense::handled))) {
+        rename(phrases, Sense::opened, Sense::unopened);
+        rename(phrases, Sense::handled, Sense::unopened);
+        drop(phrases, Sense::negation);
+    }
+    const bool isOfFiles = has(phrases, Sense::period) && has(phrases, Sense::subject);
+    rename(phrases, Sense::opened, Sense::general);
+    rename(phrases, Sense::handled, isOfFiles ? Sense::general : Sense::used);
+    if (has(phrases, Sense::unopened))
+        drop(phrases, Sense::negation);
+}
+
+bool isPhotos(const Subject& subject)
+{
+    return subject.id == SubjectID::photos;
+}
+
+bool isOneOf(SubjectID id, std::initializer_list<SubjectID> ids)
+{
+    return std::ranges::find(ids, id) != ids.end();
+}
+
+/// What two subjects side by side mean; null if they are two.
+const Subject* together(const Subject& a, const Subject& b)
+{
+    using enum SubjectID;
+    if (&a == &b)
+        return &a;
+    if (isPhotos(b)) {
+        if (a.id == duplicates)
+            return &subjectFor(similarPhotos);
+        return isOneOf(a.id, {screenshots, receipts, memes, blurry, similarPhotos}) ? &a : nullptr;
+    }
+    if (b.isAnyFile)
+        return a.isAnyFile || a.kinds.empty() == a.extensions.empty() ? nullptr : &a;
+    if (b.id == apps)
+        return isOneOf(a.id, {caches, startup, flatpak, snap, games, containers}) ? &a : nullptr;
+    if (b.id == caches)
+        return isOneOf(a.id, {npm, pip, gradle, homebrew}) ? &a : nullptr;
+    if (b.id == downloads)
+        return a.id == oldDownloads ? &a : nullptr;
+    return nullptr;
+}
+
+/// What two phrases side by side say in one; nothing if they stay two.
+std::optional<Phrase> together(const Phrase& a, const Phrase& b)
+{
+    if (b.isJoined)
+        return std::nullopt;
+    Phrase one = a;
+    one.text += " " + b.text;
+    if (a.subject != nullptr && b.subject != nullptr) {
+        const Subject* const both = together(*a.subject, *b.subject);
+        one.subject = both != nullptr ? both : together(*b.subject, *a.subject);
+        return one.subject == nullptr ? std::nullopt : std::optional(std::move(one));
+    }
+    const Subject* const subject = a.subject != nullptr ? a.subject : b.subject;
+    if (subject == nullptr || (a.sense != Sense::folder && b.sense != Sense::folder))
+        return std::nullopt;
+    one.sense = Sense::subject;
+    one.subject = folderSubject(*subject);
+    if (one.subject == nullptr && !subject->folder.empty())
+        one.subject = subject;
+    return one.subject == nullptr ? std::nullopt : std::optional(std::move(one));
+}
+
+void mergeNeighbours(Phrases& phrases)
+{
+    for (std::size_t i = 0; i + 1 < phrases.size();) {
+        if (std::optional<Phrase> one = together(phrases[i], phrases[i + 1])) {
+            phrases[i] = *std::move(one);
+            phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1));
+        } else {
+            ++i;
+        }
+    }
+}
+
+} // namespace
+
+Question merged(const Question& question)
+{
+    Phrases phrases = question.phrases;
+    if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
+        drop(phrases, Sense::self);
+    mergeNegation(phrases);
+    mergeNeighbours(phrases);
+    return withPhrases(question, std::move(phrases));
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+#include <string_view>
+
+/// Answers about applications, what starts at login, containers and games: a line, and the screen or command
+/// for it. Pure; any thread.
+namespace orlen::AskReader {
+
+/// Nothing if the question is about no such subject.
+[[nodiscard]] std::optional<Answer> aboutPrograms(const Question& question, const AskContext& context);
+
+/// How to uninstall what the question names.
+[[nodiscard]] std::optional<Answer> uninstalling(const Question& question, const AskContext& context);
+
+/// The size of an application, and how to remove it; nothing if none is known by this name.
+[[nodiscard]] std::optional<Answer> aboutApp(const AskContext& context, std::string_view name);
+
+} // namespace orlen::AskReader

@@ -1,0 +1,227 @@
+#include "insight/reader/Rules.h"
+
+#include "insight/reader/GrowthReplies.h"
+#include "insight/reader/HistoryReplies.h"
+#include "insight/reader/ListReplies.h"
+#include "insight/reader/NameReplies.h"
+#include "insight/reader/ProgramReplies.h"
+#include "insight/reader/RuleReplies.h"
+#include "insight/reader/SpaceReplies.h"
+#include "insight/reader/SubjectReplies.h"
+
+#include <utility>
+#include <vector>
+
+namespace orlen::AskReader {
+
+namespace {
+
+using enum Sense;
+using Responder = std::optional<Answer> (*)(const Question&, const AskContext&);
+
+/// A reply and the questions it is for.
+struct Rule {
+    std::vector<SenseSet> needs; ///< one sense of each set
+    SenseSet allows;             ///< may stand beside them; any other sense, and the rule is not for it
+    Responder reply;
+};
+
+constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
+constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
+constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
+constexpr SenseSet kComparing{above, below, before, after, since, unopened};
+constexpr SenseSet kListWords{what,    howMany, howMuch, subject, size,   number,   period, inside,
+                              general, disk,    unknown, quoted,  last,   can,      remove, space,
+                              takes,   folder,  safe,    keep,    advise, makeRoom, used,   happens};
+constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
+constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
+constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,
+                                 takes,   space,   general, inside,    disk,    why,     when,      negation,
+                                 used,    number,  biggest, untouched, keep,    safe,    advise,    full,
+                                 subject, folder,  most,    period,    newest,  oldest,  smallest,  makeRoom,
+                                 since,   ordinal, last,    total,     cleanUp, happens, negation};
+
+constexpr SenseSet everything()
+{
+    SenseSet all;
+    all.bits = ~all.bits;
+    return all;
+}
+
+bool isFor(const Rule& rule, SenseSet senses)
+{
+    SenseSet known = rule.allows;
+    for (const SenseSet need : rule.needs) {
+        if (!senses.meets(need))
+            return false;
+        known = known.with(need);
+    }
+    return senses.isWithin(known);
+}
+
+/// What is asked about a name is understood, or does not matter.
+std::optional<Answer> aboutAnyName(const Question& question, const AskContext& context)
+{
+    static const Rule usual{
+        {{unknown, quoted},
+         {what, howBig, howMuch, can, remove, safe, why, keep, undo, happens, untouched, takes, makeRoom}},
+        {unknown,   quoted,  what,     howBig,  howMuch, can,    remove,    safe,     why,  keep,
+         review,    mean,    undo,     subject, space,   used,   inside,    general,  disk, number,
+         period,    cleanUp, makeRoom, free,    folder,  takes,  happens,   negation, full, biggest,
+         uninstall, trust,   self,     ordinal, oldest,  newest, untouched, advise},
+        aboutName};
+    return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
+}
+
+/// In this order; the first whose senses fit and that has an answer gives it.
+const std::vector<Rule>& rules()
+{
+    static const std::vector<Rule> inOrder{
+        // Orlen itself
+        {{{self}}, {what, can, general}, whatOrlenAnswers},
+        {{{trust}}, {what, can, general, privacy, safe, subject, mean, review, remove, why}, whyTrust},
+        {{{privacy}},
+         {what, can, disk, subject, safe, keep, general, when, why, negation, trust, inside, remove, opened,
+          takes},
+         AskReader::privacy},
+        {{{untouched}},
+         {what, subject, can, remove, disk, inside, keep, general, folder, negation, safe, why},
+         whatIsNeverTouched},
+        {{{negation}, {remove}},
+         {what, subject, can, folder, general, safe, keep, inside, disk},
+         whatIsNeverTouched},
+        {{{mean}, {safe, review, keep, subject}}, {what, mean, can, general}, meaningOfRatings},
+        {{{what}, {review, keep}}, {safe, mean, review}, meaningOfRatings},
+        {{{what, can}, {keep}}, {subject, folder, general, safe, advise}, whatToKeep},
+        {{{mean}}, {what, why, general, can}, meaningOfRatings},
+        {{{happens}},
+         {remove, cleanUp, what, can, subject, when, general, safe, undo, makeRoom, inside, privacy, before,
+          after, space},
+         whatHappens},
+        {{{undo}, {size}}, {general, space, can, what}, roomFor},
+        {{{undo}},
+         {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free},
+         howToUndo},
+        // Past clean-ups
+        {{{cleanUp, remove, free, makeRoom}, {soFar}},
+         kAsking.with({cleanUp, space, remove, total, subject, makeRoom}),
+         allCleanUps},
+        {{{cleanUp}, {howMany}}, {what, can, general, last, subject}, allCleanUps},
+        {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
+         {space, cleanUp, remove, general, what, can},
+         allCleanUps},
+        {{{cleanUp, remove, makeRoom}, {last}},
+         {what, when, howMuch, howBig, howMany, free, remove, makeRoom, general, space, cleanUp, subject},
+         lastCleanUp},
+        {{{what, howMuch, howMany}, {cleanUp, remove, makeRoom}, {period}},
+         {subject, cleanUp, inside, since, after, before, general, space},
+         allCleanUps},
+        {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
+        {{{soFar}}, {what, general, cleanUp}, allCleanUps},
+        {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
+        // The disk
+        {{{grow}},
+         kSpaceWords.with({what, howMuch, howBig, last, since, after, period, inside, general, folder, most,
+                           why, biggest, number, subject}),
+         whatGrew},
+        {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
+        {{{why}, {full, used, space, free, takes, disk}},
+         kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why}),
+         whyFull},
+        {{{full}, {when, period}}, kSpaceWords.with({what, can, before, general, inside, after}), fullWhen},
+        {{{when}, {space, disk}}, {full, last, takes, general, inside}, fullWhen},
+        {{{full}, {can}}, kSpaceWords.with({before, general, when}), fullWhen},
+        {{{what}, {full}}, kSpaceWords.with({general, most, what, biggest, inside}), whyFull},
+        {{{makeRoom, free}, {size}},
+         kSpaceWords.with({makeRoom, what, can, remove, general, above, howMuch, advise, cleanUp}),
+         roomFor},
+        {{{remove}, {size}},
+         {what, can, space, disk, general, advise, above, howMuch, takes, makeRoom},
+         roomFor},
+        {{{howMuch, howBig}, {free, makeRoom, remove, can}, {subject}},
+         {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what},
+         freedBySubject},
+        {{{free}},
+         kSpaceWords.with({howMuch, howBig, what, general, size, inside, negation, above}),
+         spaceNow},
+        {{{space, disk, free}, {size}}, kSpaceWords.with({can, what, general, inside, subject}), spaceNow},
+        {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside}), spaceNow},
+        {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
+        {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
+        {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
+        // Applications and what belongs to them
+        {{{subject}}, kProgramWords, aboutPrograms},
+        {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
+        // What may go
+        {{{subject}, {remove, makeRoom, cleanUp}},
+         kRemoving.with(
+             {what, can, inside, general, folder, disk, howMuch, free, space, subject, advise, ordinal}),
+         cleaningDownloads},
+        {{{what, howMuch, howBig, can, advise, safe, cleanUp, makeRoom, why}, kRemoving.with({free})},
+         kRemoving.with({what, can, howMuch, howBig, howMany, general, space, disk, most, takes, full,
+                         ordinal, subject, free, inside, biggest, why, happens}),
+         whatMayGo},
+        {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free}, whatMayGo},
+        // Lists
+        {{{folder}, {biggest, most, takes, howBig}},
+         {what, inside, disk, subject, number, space, general, can, biggest, most, takes, used},
+         biggestFolders},
+        {{{howBig, howMuch}, {subject}},
+         {what, space, used, total, disk, general, inside, takes, folder},
+         sizeOfSubject},
+        {{kSorting, {subject, number, inside, size}}, kListing, listOfFiles},
+        {{kComparing, {size, period}}, kListing, listOfFiles},
+        {{{subject}, {unopened}}, {what, howMany, general, can, remove, takes, folder}, neverOpened},
+        {{{subject}, {inside}, {subject, unknown, period, folder}}, kListing, listOfFiles},
+        {{{subject}, {period}}, kListing, listOfFiles},
+        {{{biggest, most, takes}},
+         {what, space, disk, general, subject, folder, takes, most, used},
+         whatIsBiggest},
+        // Kinds
+        {{{howMany}, {subject}}, {what, space, used, total, disk, general, inside, takes}, sizeOfSubject},
+        {{{subject}, {can, remove, safe, untouched}},
+         {what, can, remove, safe, inside, review, keep, happens, general, folder, disk, why, makeRoom,
+          advise},
+         removingSubject},
+        {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
+        {{{what}, {subject}}, {general}, whatSubjectIs},
+        {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
+        {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
+        {{{subject}}, kListing, listOfBoth},
+        // Names
+        {{{unknown, quoted}}, everything(), aboutAnyName},
+    };
+    return inOrder;
+}
+
+std::optional<Answer> firstReply(const Question& question, const AskContext& context)
+{
+    for (const Rule& rule : rules()) {
+        if (!isFor(rule, question.senses))
+            continue;
+        if (std::optional<Answer> found = rule.reply(question, context))
+            return found;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Answer> replyByRule(const Question& question, const AskContext& context)
+{
+    if (std::optional<Answer> found = firstReply(question, context))
+        return found;
+    // These words decide nothing by themselves: no rule has to know them.
+    constexpr SenseSet kWeak{general, can, ordinal};
+    std::vector<Phrase> strong;
+    for (const Phrase& phrase : question.phrases) {
+        if (!kWeak.has(phrase.sense))
+            strong.push_back(phrase);
+    }
+    if (strong.empty() || strong.size() == question.phrases.size() ||
+        question.senses.meets({unknown, quoted}))
+        return std::nullopt;
+    return firstReply(withPhrases(question, std::move(strong)), context);
+}
+
+} // namespace orlen::AskReader

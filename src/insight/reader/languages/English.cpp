@@ -1,0 +1,401 @@
+#include "insight/reader/Language.h"
+
+namespace orlen::AskReader {
+
+namespace english_words {
+
+constexpr WordRow kWords[] = {
+    {Sense::self,
+     "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what questions "
+     "can i ask,who are you,what are you,help,help me,how does this work,how do you work,what is orlen,what "
+     "does orlen do,hello,hi,hey,good morning,good evening,thanks,thank you,thx,what is this program,what "
+     "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
+     "me,what can you do for me,how can you help,how can you help me,what are you able to do,what is this "
+     "app,what does this app do"},
+    {Sense::advise, "recommend,recommended,suggest,suggested,suggestion,suggestions,recommendation,"
+                    "recommendations,advise,advice,start with,begin with,get started,should start,do "
+                    "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
+                    "removing,what to do,what do i do,what do i do now,what should i do,what can i do,what "
+                    "can i do about it,what to do now,what shall i do,do about it,tips,get it smaller"},
+    {Sense::trust,
+     "trust,trustworthy,is orlen safe,reliable,malware,virus,is this safe to use,is orlen legit"},
+    {Sense::happens, "what happens,what will happen,what would happen,happen,happens,where do they go,where "
+                     "does it go,where do deleted files go,permanently,forever,for good,gone for good,for "
+                     "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
+                     "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your "
+                     "own,without asking,automatically,without my permission,regret,lost,be lost"},
+    {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
+    {Sense::also, "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and "
+                  "also"},
+    {Sense::backward,
+     "it,them,they,that one,this one,those,these,ones,one,the one,it's,its,that's,they're,this,that,the "
+     "ones,of them,of those,theirs,these ones,those ones,him"},
+    {Sense::filler,
+     "a,an,the,my,mine,our,your,i,me,we,you,is,are,was,were,be,been,am,do,does,did,have,has,had,will,would,"
+     "of,on,to,for,at,by,or,please,pls,plz,there,so,now,right "
+     "now,currently,today,tell,show,list,give,find,see,look,looking,get,know,want,wondering,really,actually,"
+     "about,some,all,much,many,here,then,too,ever,still,already,exactly,approximately,roughly,named,called,"
+     "orlen,with,if,their,than,i've,i'm,i'd,kind,kinds,type,types,sort,like,let,let's,display,name,as,well,"
+     "ok,okay,us,how,go,goes,going,lying around,sitting,stored,there's,quick,quickly,again,myself,can you "
+     "tell me,can you show me,could you tell me,could you show me,do you know,i would like to know,i want to "
+     "know,i wonder,curious,just curious,hmm,um,uh,oh,dear,kindly,gonna,wanna,want to,would like,i'd like "
+     "to,like to,feel,think,guess,suppose,maybe,perhaps,basically,anyway,btw,lol,lot,lots,bunch,a lot "
+     "of,tons,tons of,own,on here,in here,around,anywhere,somewhere,on it,which "
+     "of,out,up,down,off,each,every,per,being,makes,make,made,come,comes,bit,little,kinda,sorta,ya,u,ur,need "
+     "to,have "
+     "to,got,gotten,having,you've,you're,he,she,his,her,try,trying,both,whole,entire,entirely,specific,"
+     "particular,certain,different,various,single,full list,list "
+     "of,details,detail,information,info,question,answer,that are,that i,that is,which are,that have,that "
+     "were,which were,that was,which is,which i,i can,we have,on my,in my own,happen to,supposed,currently "
+     "have,belongs,belonging,contain,contains,containing,hold,holds,keep track,laying around,ago,via,using "
+     "orlen,with orlen,in "
+     "orlen,say,says,said,almost,nearly,near,enough,somebody,someone,anyone,anybody,people,everyone,friend,"
+     "son,daughter,told,thought,hope,hear,heard,seems,seem,always,sometimes,usually,often,later,even,such,"
+     "through,while,because,into,onto,along,simple,nice,great,cool,wow,wondered,ask,asking,check,checking,"
+     "fix,solve,exist,exists,noticed,understand,explain me,remind,therefore,though,although,instead,yet,per "
+     "se,anything like,whatever,where exactly,on disk,really do,meanwhile,taken by,i have,i "
+     "got,pretty,quite,very,such as,honestly,literally,super,actually do,us both,pls help,finally,once,each "
+     "one,everywhere,anywhere at all,located "
+     "on,im,ive,id,between,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats "
+     "up,pls can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
+     "wise,whichever,these days,real,stuff like,sized,weird,strange,suddenly,oh no,ugh,damn,anywhere "
+     "else,dunno,idk,im not sure,not sure,unsure,curious about,regarding,concerning,related,related to,size "
+     "wise,by any chance,for me,to me,kids,grandchildren,way,ways,christmas eve,itself,done,doing,needs "
+     "to,as well as that,person,ordinary,first of all,away,date,dated"},
+    {Sense::negation, "not,don't,dont,doesn't,doesnt,didn't,isn't,aren't,can't,cant,cannot,shouldn't,mustn't,"
+                      "never,won't,haven't,"
+                      "havent,hasn't,wasn't,weren't,no longer,without,couldn't,wouldn't,ain't"},
+    {Sense::what,
+     "what,what's,whats,what is,what are,which,where,where is,where are,where's,explain,describe,tell me "
+     "about,"
+     "who,what kind of,what sort of,what type of,what else,are there,is there,do i have,have i got,any,got "
+     "any,"
+     "do you see,did you find,show me,list all,show all,wheres,wich,wat,how come there are,have you found"},
+    {Sense::howBig,
+     "how big,how large,how heavy,how huge,size of,the size,how much space do,how much space does,how much "
+     "room "
+     "do,how much room does,how much storage do,how much storage does,how much do,how much does,how many "
+     "gb,how "
+     "many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much space is "
+     "taken "
+     "by,how much space is used by,how much space are,big is,file size,total size of,how much disk space "
+     "do,how "
+     "much disk space does,hw big,sizes,how much memory does,how much memory do,how much gb,how bigg"},
+    {Sense::howMany, "how many,count,number of,how often,amount of,how many times,how mny,howmany"},
+    {Sense::can, "can,could,may,should,shall,must,need,is it safe to,is it ok to,is it okay to,safe to,ok "
+                 "to,okay to,allowed to,possible to,able to,is it fine to,fine to,is it alright to,alright "
+                 "to,ought,is it possible to,is it worth,do i need"},
+    {Sense::makeRoom,
+     "free up,make room,make space,make room for,make space for,clear "
+     "up,reclaim,regain,gain,save,saved,freed,freeing,clear out,get back space,need to free,recover "
+     "space,win,free some,make some room,make some space,more space,more room,get space,get more space,get "
+     "more room,need space,need room,need more space,freeing up,need more room,create space,get rid of "
+     "stuff,tidy up,declutter,get some space,need some space,save space,saving space,spare up,frees,freed "
+     "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
+     "things,trim,shrink,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
+     "full,emptier,lighten"},
+    {Sense::untouched,
+     "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never "
+     "delete,never "
+     "deletes,never moves,not move,off limits,off-limits,leave alone,left alone,protected,protect,never "
+     "remove,"
+     "never removes,does not touch,doesn't touch,won't move,won't delete,untouched,protects,never be deleted,"
+     "never be touched,never get deleted,doesn't move,doesn't delete,leaves alone,never ever delete,stay "
+     "away "
+     "from,hands off"},
+    {Sense::cleanUp, "clean-up,clean-ups,cleanup,cleanups,cleaning,cleanings,clean up,cleaned "
+                     "up,cleaned,clean,cleans,tidied"},
+    {Sense::uninstall,
+     "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove the "
+     "program,delete the program"},
+    {Sense::remove,
+     "delete,deleted,deleting,deletes,remove,removed,removing,removes,erase,erased,throw away,throw out,get "
+     "rid,get rid of,getting rid of,discard,drop,move,moved,wipe,dump,clear,cleared,ditch,bin it,trash "
+     "it,move to the trash,purge,kill,lose,empty,emptied,part with,live without,do without,chuck,toss,toss "
+     "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
+     "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
+     "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw"},
+    {Sense::undo, "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
+                  "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them "
+                  "back,bring it back,bring them back,put it back,put them back,changed my mind,by "
+                  "mistake,by accident,accidentally,get my files back,undoing,rollback,want it back,want "
+                  "them back,come back,back,recoverable,retrievable,retrieve"},
+    {Sense::safe, "safe,safely,harmless,ok,dangerous,risky,safest,problem,problems,risk,risks,bad "
+                  "idea,trouble,okay,without worrying,without worry,without risk,without problems,without a "
+                  "problem,without fear,without danger"},
+    {Sense::review, "review"},
+    {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays"},
+    {Sense::mean, "mean,means,meaning,stand for,stands for,difference between,the "
+                  "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,"
+                  "categorise,definition,rules,rule,criteria,decide,judge,classified,classify,label"},
+    {Sense::soFar,
+     "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already freed,history,"
+     "in the past,over the years,ever cleaned,since the beginning,since i started,all together"},
+    {Sense::used, "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk "
+                  "usage,space usage,storage usage"},
+    {Sense::handled, "used,accessed"},
+    {Sense::opened, "opened,touched,open,touch,looked at,watched,viewed,read"},
+    {Sense::full,
+     "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
+     "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
+     "space,no free space,no more space,no disk space,so full,run out of space,running out of space,no space "
+     "left,no free space left,run out of room,running low on space,running low,run out of disk space,running "
+     "out of disk space,running out of storage,run out of storage,getting full,running out of room,used so "
+     "much,so much space gone,space gone,all my space,all the space,space go,space went,storage full,not "
+     "enough space,lost space,losing space,no storage left,eaten up,where did my space,filling so fast,hit "
+     "the limit,low on disk,all my space gone,all my space go,my space gone,space disappear,space "
+     "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk space"},
+    {Sense::free,
+     "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty space,"
+     "remains,vacant"},
+    {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total "
+                   "space,status,overview,summary"},
+    {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
+                  "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,"
+                  "mac,disc,my disk,harddrive,harddisk,notebook,nvme"},
+    {Sense::space,
+     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space"},
+    {Sense::howMuch, "how much,how mutch,how mcuh,howmuch"},
+    {Sense::why, "why,how come,what's the reason,what made,reason,what makes,why's,for what reason,why "
+                 "so,why is that,why "
+                 "that,reasons"},
+    {Sense::when,
+     "when,how soon,how long,what date,which date,what day,which day,how many days,how many weeks,how many "
+     "months,by when,until when,what month,which month,when's,how long until,how long till,how long before,"
+     "when will,how many years,soon"},
+    {Sense::most, "most,the most,most space,most of,most room,most storage,most disk space,biggest chunk"},
+    {Sense::takes,
+     "takes,taking,take,takes up,taking up,take up,hogging,hog,hogs,eating,eats,eat,eating up,using,uses,use,"
+     "using up,uses up,use "
+     "up,wasting,wastes,occupy,occupies,occupying,consume,consumes,consuming,waste,space "
+     "hogs,space hog,need,needs,clogging,clogs,clog,clogging up,wasted,space eaters,heavy,gobbling "
+     "up,gobbling"},
+    {Sense::biggest,
+     "biggest,largest,heaviest,top,bulkiest,greatest,largest sized,fattest,longest,large,big,huge,giant,"
+     "enormous,massive,gigantic,bigest,sorted by size,by size"},
+    {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
+    {Sense::oldest, "oldest,most ancient,old,ancient,outdated"},
+    {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
+                    "recently,changed,modified,edited,altered,came in,appeared,were added,was "
+                    "added,added,arrived,last added"},
+    {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
+                  "bigger,increase,"
+                  "gained,changed in size,swelled,swollen,ballooned"},
+    {Sense::above,
+     "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller than,heavier "
+     "than,"
+     "or more,or larger,or bigger,and up,and above,and bigger,and larger,bigger then,larger then,more then,"
+     "minimum,upwards of,>"},
+    {Sense::below,
+     "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more than,"
+     "no larger than,no bigger than,smaller then,less then,maximum,<"},
+    {Sense::inside, "in,inside,within,from,in the folder,in my,under the folder"},
+    {Sense::unopened,
+     "not opened,haven't opened,not used,haven't used,unopened,never opened,not touched,haven't "
+     "touched,unused,"
+     "not been opened,haven't been opened,i haven't opened,didn't open,have not opened,not accessed,havent "
+     "opened,haven't i opened,not looked at,have not used,have i not opened,haven't i used,forgotten,not "
+     "been "
+     "used,hardly ever opened,no longer use,never open,never use,don't use,dont use,rarely use,rarely used,"
+     "don't open,haven't been used,haven't been touched,no longer used,haven't looked at,haven't watched,"
+     "untouched since,forgot about,i forgot,not watched,not in use"},
+    {Sense::before,
+     "before,older than,earlier than,prior to,more than ago,older then,till,until,by the end of"},
+    {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
+    {Sense::after, "after,later than"},
+    {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
+    {Sense::privacy, "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,"
+                     "telemetry,tracking,track,send,sends,sent,sending,spy,spying,leave,leaves,server,"
+                     "servers,phone home,share,shares,shared,third party,third "
+                     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,"
+                     "chatgpt,secret,spies,see my files,see my photos,watching me,who can see,personal "
+                     "data,data protection,hackers,hacker,ads,visible to others,see it,see "
+                     "them,snoop,third-party,safe from hackers,data leaves,leave my computer,leaves my "
+                     "computer,who can read,who has access,who sees,who reads,access to my"},
+    {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
+    {Sense::general, "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
+                     "backups,ios,language,languages,translation,mail,attachment,important,same "
+                     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,faster,slow,cost,"
+                     "costs,category,categories,else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,"
+                     "actually do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
+                     "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,"
+                     "location,live,lives,leftovers,remains,leftover files,last "
+                     "long,lasts,lasting,suffice,mess,messy,chaos,cluttered,disorder,clutterd"},
+};
+
+constexpr SubjectRow kSubjects[] = {
+    {SubjectID::similarPhotos,
+     "similar photos,similar pictures,similar images,similar shots,duplicate photos,duplicate "
+     "pictures,duplicate images,duplicated photos,duplicated pictures,duplicate shots,near identical "
+     "photos,near-identical photos,photos twice,photo duplicates,copies of photos,copies of pictures,copies "
+     "of my photos,copies of my pictures,double photos,double pictures,identical photos,same photos,same "
+     "photo,same picture,same pictures,pictures that look the same,photos that look the same,photos that "
+     "look alike,lookalike photos,similar looking photos,near duplicates,bursts,burst photos,pictures "
+     "twice,photos more than once,pictures more than once,near-duplicate photos,look the same,look "
+     "alike,looks the same,similar,look similar,looking the same,alike,similar ones,look almost the "
+     "same,nearly the same,resemble"},
+    {SubjectID::screenshots, "screenshot,screenshots,screen shots,screen shot,screen captures,screen "
+                             "grabs,screengrabs,screen capture,"
+                             "screencaps"},
+    {SubjectID::receipts,
+     "receipt,receipts,photos of receipts,pictures of receipts,receipt photos,photographed "
+     "receipts,photographed bills,pictures of bills"},
+    {SubjectID::memes, "meme,memes,text images,funny pictures,joke pictures,jokes"},
+    {SubjectID::blurry,
+     "blurry photos,blurry pictures,blurry images,blurry shots,blurry,blurred photos,blurred pictures,out of "
+     "focus photos,unsharp photos,blurred,out of focus,blurry ones,unsharp,shaky photos,bad photos,not "
+     "sharp,out "
+     "of focus pictures,fuzzy photos,fuzzy pictures,shaky pictures"},
+    {SubjectID::duplicates,
+     "duplicate,duplicates,duplicate files,duplicated files,identical files,same files,double files,copies "
+     "of "
+     "files,file duplicates,duplicate documents,duplicated,doubles,copies,files twice,file twice,twice,"
+     "duplicate copies,redundant files,same file twice,more than once,multiple copies,dupes,redundant copies,"
+     "identical,several times"},
+    {SubjectID::largeFiles, "large files,big files,huge files,large file,big file"},
+    {SubjectID::oldFiles, "old files,unused files,forgotten files,old file,old stuff,old things"},
+    {SubjectID::oldDownloads, "old downloads,forgotten downloads"},
+    {SubjectID::logs, "log,logs,log files,logfiles,log file,logfile"},
+    {SubjectID::trash,
+     "trash,bin,the bin,rubbish,recycle bin,waste basket,wastebasket,trash can,rubbish bin,trash "
+     "bin,recycling bin,trashcan,dustbin,deleted files,wastepaper basket"},
+    {SubjectID::deviceBackups,
+     "iphone backup,iphone backups,ipad backup,ipad backups,phone backups,phone backup,device backups,ios "
+     "backups,iphone,ipad,backup of my phone,backups of my phone"},
+    {SubjectID::mailAttachments,
+     "mail attachments,attachments,mail downloads,email attachments,e-mail attachments,mail attachment,email "
+     "attachment"},
+    {SubjectID::languagePacks, "language packs,translations,language files,language pack"},
+    {SubjectID::npm, "npm cache,npm,yarn cache,yarn,node cache,npm caches"},
+    {SubjectID::pip, "pip cache,pip,python cache,python packages,pip caches"},
+    {SubjectID::gradle, "gradle cache,gradle,gradle caches"},
+    {SubjectID::homebrew, "homebrew,homebrew cache,homebrew downloads"},
+    {SubjectID::caches,
+     "cache,caches,app caches,cache files,cached files,application caches,cached data,app cache,temporary "
+     "data,"
+     "temporary files,temp files,cache folder,cache folders,browser cache,tmp files,cache data,temp data"},
+    {SubjectID::developer,
+     "developer data,developer files,developer,dev files,developer tools,build files,build data,build "
+     "artifacts,development files,dev stuff,build output,build leftovers"},
+    {SubjectID::system, "system,system data,system files,the system,operating system,linux itself,os"},
+    {SubjectID::apps,
+     "app,apps,applications,programs,application,software,program,installed software,installed "
+     "programs,installed apps,packages installed"},
+    {SubjectID::media, "media,media files"},
+    {SubjectID::downloads,
+     "downloads,download folder,downloads folder,downloaded files,download,downloads "
+     "directory,downloaded,stuff i "
+     "downloaded,things i downloaded,files i downloaded,downloaded stuff,downlods,downloaded things"},
+    {SubjectID::desktop, "desktop,desktop folder"},
+    {SubjectID::documentsFolder, "documents folder,document folder,documents directory"},
+    {SubjectID::picturesFolder, "pictures folder,photos folder,photo folder,picture folder,images folder"},
+    {SubjectID::videosFolder, "videos folder,video folder,movies folder"},
+    {SubjectID::musicFolder, "music folder"},
+    {SubjectID::home, "home,home folder,home directory,my folders,user folder"},
+    {SubjectID::videos,
+     "video,videos,movie,movies,film,films,clip,clips,video files,recordings,footage,vids,video "
+     "clips,recording,"
+     "mp4s,mp4,mp4 files,mkv files,vid,screen recordings,mkvs,video recordings,home movies"},
+    {SubjectID::photos,
+     "photo,photos,picture,pictures,image,images,pic,pics,photographs,snapshots,shots,photograph,fotos,jpegs,"
+     "jpgs,raw files,raws,snaps of,photo files,image files,camera pictures,jpg files,jpeg,selfies"},
+    {SubjectID::audio,
+     "music,song,songs,audio,audio files,tracks,mp3s,podcasts,sound files,albums,mp3,mp3 files,"
+     "music files,audiobooks,podcast,sounds"},
+    {SubjectID::pdfs, "pdf,pdfs,pdf files,pdf documents,pdf file"},
+    {SubjectID::archives,
+     "archive,archives,zip,zips,zip files,compressed files,zip archives,tarballs,zip file,rar files,zipped "
+     "files,zip folders,tarball,tar.gz,tar,gz,rar,7z,tar files,gzip"},
+    {SubjectID::installers,
+     "installer,installers,installation files,setup files,packages,install files,deb files,debs,appimages,"
+     "installer files,setup file,setups"},
+    {SubjectID::diskImages,
+     "disk image,disk images,iso,isos,iso files,iso images,virtual disks,vm images,virtual "
+     "machine images,virtual machines,vms,iso file"},
+    {SubjectID::spreadsheets,
+     "spreadsheet,spreadsheets,tables,excel files,excel,excel sheets,csv files,csvs"},
+    {SubjectID::presentations, "presentation,presentations,slides,powerpoints,powerpoint,powerpoint files"},
+    {SubjectID::ebooks, "ebook,ebooks,e-books,books,e-book"},
+    {SubjectID::documents,
+     "document,documents,docs,text documents,papers,paperwork,word files,word documents,text files,letters,"
+     "essays,doc"},
+    {SubjectID::files,
+     "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
+    {SubjectID::startup,
+     "startup,startup items,startup programs,startup apps,start-up,start up,autostart,login items,starts "
+     "automatically,start automatically,starts by itself,start by themselves,start when i log in,starts when "
+     "i log in,boot,at login,on login,when i log in,start by itself,at boot,on boot,at startup,on "
+     "startup,launches automatically,launch at login,when i turn on,when i start,starts up,start at "
+     "login,when i switch on,slow start,starts with,opens by itself,open by themselves,startup "
+     "services,services,start when,starts when,start up when,turn the computer on,turn on,switch "
+     "on,autostarts,run at startup,runs at startup,start with,launch when,open when i log in,opens when i "
+     "log in"},
+    {SubjectID::containers,
+     "docker,podman,container,containers,docker images,container images,docker containers,"
+     "docker volumes,kubernetes,distrobox,toolbox"},
+    {SubjectID::flatpak, "flatpak,flatpaks,flatpak apps,flathub,flatpak runtimes"},
+    {SubjectID::snap, "snap,snaps,snap packages,snap apps,snapd,snap store"},
+    {SubjectID::games, "games,game,steam,steam games,video games,steam library,computer games,lutris,proton"},
+};
+
+constexpr FigureRow kFigureRows[] = {
+    {Figure::number, "two,couple,a couple of,pair", 2},
+    {Figure::number, "three,few", 3},
+    {Figure::number, "four", 4},
+    {Figure::number, "five", 5},
+    {Figure::number, "six", 6},
+    {Figure::number, "seven", 7},
+    {Figure::number, "eight", 8},
+    {Figure::number, "nine", 9},
+    {Figure::number, "ten", 10},
+    {Figure::number, "twelve,dozen", 12},
+    {Figure::number, "fifteen", 15},
+    {Figure::number, "twenty", 20},
+    {Figure::number, "fifty", 50},
+    {Figure::number, "hundred", 100},
+    {Figure::ordinal, "first,1st", 1},
+    {Figure::ordinal, "second,2nd", 2},
+    {Figure::ordinal, "third,3rd", 3},
+    {Figure::ordinal, "fourth,4th", 4},
+    {Figure::ordinal, "fifth,5th", 5},
+    {Figure::ordinal, "sixth,6th", 6},
+    {Figure::timeUnit, "day,days", 0},
+    {Figure::timeUnit, "week,weeks", 1},
+    {Figure::timeUnit, "month,months", 2},
+    {Figure::timeUnit, "year,years,yrs", 3},
+    {Figure::month, "january,jan", 1},
+    {Figure::month, "february,feb", 2},
+    {Figure::month, "march,mar", 3},
+    {Figure::month, "april,apr", 4},
+    {Figure::month, "may", 5},
+    {Figure::month, "june,jun", 6},
+    {Figure::month, "july,jul", 7},
+    {Figure::month, "august,aug", 8},
+    {Figure::month, "september,sep,sept", 9},
+    {Figure::month, "october,oct", 10},
+    {Figure::month, "november,nov", 11},
+    {Figure::month, "december,dec", 12},
+    {Figure::weekday, "sunday", 0},
+    {Figure::weekday, "monday", 1},
+    {Figure::weekday, "tuesday", 2},
+    {Figure::weekday, "wednesday", 3},
+    {Figure::weekday, "thursday", 4},
+    {Figure::weekday, "friday", 5},
+    {Figure::weekday, "saturday", 6},
+    {Figure::daysAgo, "yesterday", 1},
+    {Figure::ago, "ago,back,old"},
+    {Figure::previous, "last,past,previous"},
+    {Figure::current, "this"},
+    {Figure::ofDate, "of,the"},
+};
+
+} // namespace english_words
+
+const Language& english()
+{
+    static constexpr Language language{
+        english_words::kWords, english_words::kSubjects, english_words::kFigureRows, {}};
+    return language;
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,121 @@
+#include "insight/AskWorld.h"
+
+#include <chrono>
+
+namespace orlen {
+namespace {
+
+using testing::HasSubstr;
+using testing::Le;
+
+using AskFollowUpTest = AskWorld;
+
+/// Questions of one conversation.
+constexpr Row kAfterAList[] = {
+    {"five biggest videos", "wedding.mp4|holiday.mkv|cut.mov"},
+    {"and the second one?", "holiday.mkv (4 GB)|Review", "wedding"},
+    {"why?", "Large but maybe wanted."},
+    {"and the third?", "cut.mov (2 GB)", "holiday"},
+    {"can I delete it", "cut.mov|Trash", "could free"},
+    {"the oldest ones", "Of videos|The oldest:|wedding.mp4 (9 GB), changed 5 May 2019"},
+    {"over 3 GB", "Of videos over 3 GB the last scan lists 2", "cut.mov"},
+    {"and photos?", "photos over 3 GB"},
+};
+
+constexpr Row kNarrowed[] = {
+    {"biggest files", "wedding.mp4|slack"},
+    {"only in Downloads", "in ~/Downloads|debian.iso", "wedding"},
+    {"and in Pictures?", "in ~/Pictures|sea2.jpg", "debian"},
+    {"the newest", "The newest:|in ~/Pictures"},
+};
+
+constexpr Row kAfterFindings[] = {
+    {"What is using the most space?", "Large files (18 GB)"},
+    {"the second one", "Files you haven't opened|9 GB", "App caches"},
+    {"how many screenshots do I have", "Screenshots: 2 MB"},
+    {"and memes?", "found no memes"},
+    {"what about duplicates", "Duplicate files: 40 MB"},
+    {"can I delete them?", "Duplicate files: 40 MB — rated Safe"},
+    {"how much space is left", "120 GB is free"},
+    {"why so little?", "By category|largest findings"},
+};
+
+constexpr Row kInGerman[] = {
+    {"fünf größte videos", "wedding.mp4"},    {"und das zweite?", "holiday.mkv", "wedding"},
+    {"warum?", "Large but maybe wanted."},    {"kann ich das löschen", "holiday.mkv", "could free"},
+    {"nur über 3 GB", "Of videos over 3 GB"}, {"und fotos?", "photos over 3 GB"},
+};
+
+constexpr Row kInFrench[] = {
+    {"les cinq plus grosses vidéos", "wedding.mp4"},
+    {"et la deuxième ?", "holiday.mkv", "wedding"},
+    {"pourquoi ?", "Large but maybe wanted."},
+    {"seulement dans téléchargements", "videos in ~/Downloads"},
+    {"et les photos ?", "photos in ~/Downloads"},
+};
+
+constexpr Row kInSpanish[] = {
+    {"los cinco vídeos más grandes", "wedding.mp4"}, {"y el segundo?", "holiday.mkv", "wedding"},
+    {"por qué?", "Large but maybe wanted."},         {"solo en descargas", "videos in ~/Downloads"},
+    {"los más antiguos", "videos in ~/Downloads"},
+};
+
+constexpr Row kInItalian[] = {
+    {"i cinque video più grandi", "wedding.mp4"}, {"e il secondo?", "holiday.mkv", "wedding"},
+    {"perché?", "Large but maybe wanted."},       {"solo in download", "videos in ~/Downloads"},
+    {"e le foto?", "photos in ~/Downloads"},
+};
+
+} // namespace
+
+TEST_F(AskFollowUpTest, whatWasSaidBeforeCounts)
+{
+    for (const auto& rows : {std::span<const Row>(kAfterAList), std::span<const Row>(kNarrowed),
+                             std::span<const Row>(kAfterFindings), std::span<const Row>(kInGerman),
+                             std::span<const Row>(kInFrench), std::span<const Row>(kInSpanish),
+                             std::span<const Row>(kInItalian)}) {
+        Conversation conversation;
+        for (const Row& row : rows) {
+            Turn turn = AskEngine::turn(row.question, context, conversation);
+            conversation = std::move(turn.next);
+            expectAnswer(row, turn.answer);
+        }
+    }
+}
+
+TEST_F(AskFollowUpTest, withoutAnythingSaidBeforeNothingIsMadeUp)
+{
+    for (const char* question :
+         {"and the second one?", "why?", "und die zweite?", "can I delete it?", "only", "et ?"}) {
+        const std::string text = AskEngine::answer(question, context).text.base();
+        EXPECT_THAT(text, HasSubstr("I can answer")) << question;
+    }
+    const Turn list = AskEngine::turn("biggest videos", context, {});
+    EXPECT_THAT(AskEngine::turn("and the ninth?", context, list.next).answer.text.base(),
+                HasSubstr("I can answer"));
+    context.findings.clear();
+    EXPECT_FALSE(AskEngine::turn("and the second one?", context, list.next).answer.text.base().empty());
+}
+
+TEST_F(AskFollowUpTest, answersComeAtOnce)
+{
+    std::vector<FileEntry> items;
+    constexpr int kMany = 100'000;
+    for (int i = 0; i < kMany; ++i)
+        items.push_back(entry("Pictures/holiday " + std::to_string(i) + ".jpg", kBytesInMB + i));
+    add(FindingKind::photoDuplicates, Rating::review, message("Similar shots."), std::move(items));
+    Conversation conversation;
+    for (const char* question :
+         {"biggest photos", "and the second one?", "only over 1 MB", "can i delte holidy.mkv",
+          "wieviele bielder habe ich", "et pourqoi", "what is xyzzy plugh frobnicate quux wibble wobble",
+          "two questoins adn mroe tyops heer"}) {
+        const auto start = std::chrono::steady_clock::now();
+        conversation = AskEngine::turn(question, context, conversation).next;
+        const auto took = std::chrono::steady_clock::now() - start;
+        // Ten times what it takes, since tests run beside each other.
+        EXPECT_THAT(std::chrono::duration_cast<std::chrono::milliseconds>(took).count(), Le(1'000))
+            << question;
+    }
+}
+
+} // namespace orlen

@@ -1,0 +1,68 @@
+#include "insight/AskWorld.h"
+
+namespace orlen {
+namespace {
+
+using AskItalianTest = AskWorld;
+
+constexpr Row kItalian[] = {
+    {"quanto spazio libero mi resta", "120 GB is free"},
+    {"quanto spazio ho ancora", "120 GB is free"},
+    {"quanto è pieno il disco", "120 GB is free"},
+    {"ho 20 GB liberi", "Yes.|120 GB"},
+    {"perché il mio disco è così pieno", "By category"},
+    {"quando sarà pieno il disco", "30 August 2026"},
+    {"quando finisce lo spazio", "30 August 2026"},
+    {"cosa posso cancellare senza rischi", "You could free about|App caches"},
+    {"cosa posso eliminare", "You could free about|App caches"},
+    {"come libero spazio", "You could free about|App caches"},
+    {"cosa posso cancellare dai download", "Downloads has|debian.iso"},
+    {"posso cancellare wedding.mp4?", "wedding.mp4|9 GB|Review"},
+    {"cos'è holiday.mkv", "holiday.mkv|4 GB"},
+    {"quanto pesa holiday.mkv", "holiday.mkv|4 GB"},
+    {"posso buttare contract-2021.docx", "contract-2021.docx|rated Keep"},
+    {"posso eliminare ~/.ssh", "protected"},
+    {"i cinque video più grandi", "wedding.mp4 (9 GB)"},
+    {"file piu grandi", "wedding.mp4 (9 GB)"},
+    {"video più grandi di 3 GB", "Of videos over 3 GB the last scan lists 2"},
+    {"video oltre i 3 giga", "Of videos over 3 GB the last scan lists 2"},
+    {"pdf nella cartella download", "report-final.pdf"},
+    {"file che non apro dal 2023", "before 1 January 2023|wedding"},
+    {"video più vecchi di due anni", "last changed before 1 June 2024|cut.mov"},
+    {"i file più vecchi", "wedding.mp4 (9 GB), changed 5 May 2019"},
+    {"il download più recente", "report-final.pdf|24 December 2025"},
+    {"file di più di 1,5 GB", "Of files over 1.5 GB"},
+    {"quante schermate ho", "Screenshots: 2 MB"},
+    {"ci sono file duplicati", "Duplicate files: 40 MB"},
+    {"foto doppie", "Similar photos: 11 MB"},
+    {"quanto spazio occupano le mie foto", "Photos takes 34 GB"},
+    {"quanto è grande la cache", "App caches: 4 GB"},
+    {"dimensione della cartella video", "~/Videos takes 80 GB"},
+    {"quando è stata l'ultima pulizia", "20 May 2026"},
+    {"come annullo la pulizia", "History"},
+    {"quanto ho liberato finora", "2 clean-ups|3 GB"},
+    {"mandi i miei file su internet", "Nothing leaves"},
+    {"cosa non cancella mai orlen", "never touches"},
+    {"cosa significa tenere", "Keep:|warning"},
+    {"libera 4 GB", "rated Safe is enough|App caches"},
+    {"quanto occupa blender", "Blender takes 3 GB"},
+    {"disinstallare gimp", "GIMP|Flatpak"},
+    {"cosa si avvia all'avvio", "Nextcloud"},
+    {"quanto spazio usa docker", "podman system df"},
+    {"quali app non uso", "doesn't know when"},
+    {"quali cartelle occupano più spazio", "~/Videos — 80 GB"},
+    {"cosa è cresciuto da ieri", "~/Videos: 9 GB more"},
+    {"foto sfocate", "found no blurry"},
+    {"quanto spazio libero ho e cosa posso cancellare?", "120 GB is free|You could free about"},
+    {"che tempo farà domani", "I can answer"},
+    {"cosa succede se cancello qualcosa", "moves what you tick"},
+};
+
+} // namespace
+
+TEST_F(AskItalianTest, questionsAreUnderstood)
+{
+    expectAnswers(kItalian);
+}
+
+} // namespace orlen

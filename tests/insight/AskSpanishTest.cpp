@@ -1,0 +1,68 @@
+#include "insight/AskWorld.h"
+
+namespace orlen {
+namespace {
+
+using AskSpanishTest = AskWorld;
+
+constexpr Row kSpanish[] = {
+    {"cuánto espacio libre me queda", "120 GB is free"},
+    {"cuanto espacio tengo", "120 GB is free"},
+    {"cómo de lleno está el disco", "120 GB is free"},
+    {"tengo 20 GB libres", "Yes.|120 GB"},
+    {"por qué está tan lleno mi disco", "By category"},
+    {"cuándo se llenará el disco", "30 August 2026"},
+    {"cuando estara lleno mi disco duro", "30 August 2026"},
+    {"qué puedo borrar sin riesgo", "You could free about|App caches"},
+    {"que puedo eliminar", "You could free about|App caches"},
+    {"cómo libero espacio", "You could free about|App caches"},
+    {"qué puedo borrar de descargas", "Downloads has|debian.iso"},
+    {"puedo borrar wedding.mp4?", "wedding.mp4|9 GB|Review"},
+    {"qué es holiday.mkv", "holiday.mkv|4 GB"},
+    {"cuánto ocupa holiday.mkv", "holiday.mkv|4 GB"},
+    {"puedo tirar contract-2021.docx", "contract-2021.docx|rated Keep"},
+    {"puedo borrar ~/.ssh", "protected"},
+    {"los cinco vídeos más grandes", "wedding.mp4 (9 GB)"},
+    {"archivos mas grandes", "wedding.mp4 (9 GB)"},
+    {"vídeos de más de 3 GB", "Of videos over 3 GB the last scan lists 2"},
+    {"videos mayores de 3 gigas", "Of videos over 3 GB the last scan lists 2"},
+    {"pdf en la carpeta de descargas", "report-final.pdf"},
+    {"archivos que no he abierto desde 2023", "before 1 January 2023|wedding"},
+    {"vídeos de hace más de dos años", "last changed before 1 June 2024|cut.mov"},
+    {"los archivos más antiguos", "wedding.mp4 (9 GB), changed 5 May 2019"},
+    {"la descarga más reciente", "report-final.pdf|24 December 2025"},
+    {"archivos de más de 1,5 GB", "Of files over 1.5 GB"},
+    {"cuántas capturas de pantalla tengo", "Screenshots: 2 MB"},
+    {"hay archivos duplicados", "Duplicate files: 40 MB"},
+    {"fotos repetidas", "Similar photos: 11 MB"},
+    {"cuánto ocupan mis fotos", "Photos takes 34 GB"},
+    {"cuánto ocupa la caché", "App caches: 4 GB"},
+    {"tamaño de la carpeta de vídeos", "~/Videos takes 80 GB"},
+    {"cuándo fue la última limpieza", "20 May 2026"},
+    {"cómo deshago la limpieza", "History"},
+    {"cuánto he liberado hasta ahora", "2 clean-ups|3 GB"},
+    {"envías mis archivos a internet", "Nothing leaves"},
+    {"qué no borra nunca orlen", "never touches"},
+    {"qué significa conservar", "Keep:|warning"},
+    {"liberar 4 GB", "rated Safe is enough|App caches"},
+    {"cuánto ocupa blender", "Blender takes 3 GB"},
+    {"desinstalar gimp", "GIMP|Flatpak"},
+    {"qué se inicia automáticamente", "Nextcloud"},
+    {"cuánto espacio usa docker", "podman system df"},
+    {"qué aplicaciones no uso", "doesn't know when"},
+    {"qué carpetas ocupan más espacio", "~/Videos — 80 GB"},
+    {"qué ha crecido desde ayer", "~/Videos: 9 GB more"},
+    {"fotos borrosas", "found no blurry"},
+    {"cuánto espacio libre hay y qué puedo borrar?", "120 GB is free|You could free about"},
+    {"qué tiempo hará mañana", "I can answer"},
+    {"qué pasa si borro algo", "moves what you tick"},
+};
+
+} // namespace
+
+TEST_F(AskSpanishTest, questionsAreUnderstood)
+{
+    expectAnswers(kSpanish);
+}
+
+} // namespace orlen
