@@ -253,6 +253,25 @@ TEST_F(AskReaderTest, hostileTextGetsAnAnswerAndStaysOnItsLine)
                 HasSubstr("is rated Safe (First · Identical to a?• b.png). Reason."));
 }
 
+TEST_F(AskReaderTest, whatSaysNothingGetsAFriendlyHelp)
+{
+    const std::string texts[] = {"",
+                                 "   ",
+                                 "?!?",
+                                 "\U0001F600\U0001F4A9\U0001F600",
+                                 "\x01\x02\x1b[31m\x7f",
+                                 "Сколько места свободно?",
+                                 "空き容量はどれくらいですか",
+                                 "كم المساحة المتبقية",
+                                 "asdf qwer zxcv",
+                                 std::string(100'000, 'x'),
+                                 std::string(2'000, 'a') + " delete everything"};
+    for (const std::string& text : texts)
+        EXPECT_THAT(AskEngine::answer(text, context).text.base(),
+                    HasSubstr("for example “what is using the most"))
+            << text.substr(0, 50);
+}
+
 TEST_F(AskReaderTest, namesLinkToTheirFindings)
 {
     EXPECT_THAT(AskEngine::answer("can I delete debian.iso", context).findingIDs, ElementsAre("largeFiles"));

@@ -150,7 +150,7 @@ private:
     {
         constexpr std::size_t kShortestStem = 4;
         constexpr std::string_view kEndings[] = {"s", "es", "ed", "d", "ing"};
-        if (&m_lexicon != Lexicon::all().data() || m_isName(word))
+        if (&m_lexicon != Lexicon::all().data())
             return false;
         for (const std::string_view ending : kEndings) {
             if (!word.ends_with(ending) || word.size() < kShortestStem + ending.size())
@@ -158,7 +158,7 @@ private:
             const std::string stem = word.substr(0, word.size() - ending.size());
             const Lexicon::Entry* const plain = m_lexicon.find(stem);
             const Lexicon::Entry* const entry = plain != nullptr ? plain : m_lexicon.find(stem + "e");
-            if (entry != nullptr) {
+            if (entry != nullptr && !m_isName(word)) {
                 take({entry->sense, {}, entry->subject, 0, {}}, 1);
                 return true;
             }

@@ -30,9 +30,9 @@ constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
 constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
 constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kComparing{above, below, before, after, since, unopened};
-constexpr SenseSet kListWords{what,    howMany, howMuch, subject, size,   number,   period, inside,
-                              general, disk,    unknown, quoted,  last,   can,      remove, space,
-                              takes,   folder,  safe,    keep,    advise, makeRoom, used,   happens};
+constexpr SenseSet kListWords{what,    howBig, howMany, howMuch, subject,  size, number, period, inside,
+                              general, disk,   unknown, quoted,  last,     can,  remove, space,  takes,
+                              folder,  safe,   keep,    advise,  makeRoom, used, happens};
 constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
 constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
 constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,

@@ -19,11 +19,12 @@ constexpr WordRow kWords[] = {
                     "can i do about it,what to do now,what shall i do,do about it,tips,get it smaller"},
     {Sense::trust,
      "trust,trustworthy,is orlen safe,reliable,malware,virus,is this safe to use,is orlen legit"},
-    {Sense::happens, "what happens,what will happen,what would happen,happen,happens,where do they go,where "
-                     "does it go,where do deleted files go,permanently,forever,for good,gone for good,for "
-                     "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
-                     "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your "
-                     "own,without asking,automatically,without my permission,regret,lost,be lost"},
+    {Sense::happens,
+     "what happens,what will happen,what would happen,happen,happens,where do they go,where does it go,where "
+     "do deleted files go,permanently,forever,for good,gone for good,for "
+     "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
+     "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
+     "asking,automatically,without my permission,regret,lost,be lost,lose,losing"},
     {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
     {Sense::also, "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and "
                   "also"},
@@ -111,7 +112,7 @@ constexpr WordRow kWords[] = {
     {Sense::remove,
      "delete,deleted,deleting,deletes,remove,removed,removing,removes,erase,erased,throw away,throw out,get "
      "rid,get rid of,getting rid of,discard,drop,move,moved,wipe,dump,clear,cleared,ditch,bin it,trash "
-     "it,move to the trash,purge,kill,lose,empty,emptied,part with,live without,do without,chuck,toss,toss "
+     "it,move to the trash,purge,kill,empty,emptied,part with,live without,do without,chuck,toss,toss "
      "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
      "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
      "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw"},
