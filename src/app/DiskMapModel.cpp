@@ -4,6 +4,7 @@
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 #include "tools/DiskMap.h"
+#include "tools/MapPlaces.h"
 
 #include <QThread>
 
@@ -45,6 +46,7 @@ void DiskMapModel::load()
                             if (generation != m_generation)
                                 return;
                             m_isReadable = contents.isReadable;
+                            m_places = std::move(contents.places);
                             setNodes(std::move(contents.nodes));
                             // As above: a load started by a slot is still running.
                             if (generation == m_generation)
@@ -56,6 +58,7 @@ DiskMapModel::Contents DiskMapModel::measure(const std::string& folder, const st
 {
     Contents contents{DiskMap::children(folder, stop)};
     contents.isReadable = !contents.nodes.empty() || isListable(folder);
+    contents.places = MapPlaces::folders();
     return contents;
 }
 
@@ -70,23 +73,35 @@ void DiskMapModel::goTo(std::size_t index)
     checkThread();
     if (index >= m_stack.size())
         fatalError("the disk map was asked for a folder beyond the one shown");
-    m_stack.resize(index + 1);
+    std::vector<std::string> stack = m_stack;
+    stack.resize(index + 1);
+    setStack(std::move(stack));
+}
+
+void DiskMapModel::setStack(std::vector<std::string> stack)
+{
+    m_stack = std::move(stack);
     Q_EMIT stackChanged();
     load();
+}
+
+void DiskMapModel::startAt(const std::string& folder)
+{
+    checkThread();
+    setStack({folder});
 }
 
 void DiskMapModel::show(const std::string& folder)
 {
     checkThread();
-    const std::string& start = m_stack.front();
+    const std::string& home = Places::current().home;
+    const std::string start = PathText::isAtOrBelow(folder, m_stack.front()) ? m_stack.front() : home;
     if (!PathText::isAtOrBelow(folder, start))
         return;
     std::vector<std::string> stack{start};
     for (const std::string_view name : PathText::components(std::string_view(folder).substr(start.size())))
         stack.push_back(PathText::join(stack.back(), name));
-    m_stack = std::move(stack);
-    Q_EMIT stackChanged();
-    load();
+    setStack(std::move(stack));
 }
 
 void DiskMapModel::zoomInto(std::size_t node)
@@ -94,9 +109,9 @@ void DiskMapModel::zoomInto(std::size_t node)
     checkThread();
     if (node >= m_nodes.size() || !m_nodes[node].isEnterable())
         return;
-    m_stack.push_back(m_nodes[node].path);
-    Q_EMIT stackChanged();
-    load();
+    std::vector<std::string> stack = m_stack;
+    stack.push_back(m_nodes[node].path);
+    setStack(std::move(stack));
 }
 
 void DiskMapModel::click(Treemap::Point point, Treemap::Size view)

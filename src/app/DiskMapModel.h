@@ -31,6 +31,8 @@ public:
     /// The folders from the start folder down to the one shown; never empty.
     [[nodiscard]] const std::vector<std::string>& stack() const { return m_stack; }
     [[nodiscard]] const std::string& current() const { return m_stack.back(); }
+    /// Where the map may start, see MapPlaces; empty until the first load.
+    [[nodiscard]] const std::vector<std::string>& places() const { return m_places; }
     /// Children of the folder shown, largest first; empty while loading.
     [[nodiscard]] const std::vector<TreeNode>& nodes() const { return m_nodes; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
@@ -47,9 +49,11 @@ public:
     void up();
     /// Goes to a folder of the stack. An index out of range stops the program.
     void goTo(std::size_t index);
-    /// Goes to a folder at or below the start folder, as if one had zoomed into each on the way; ignored for
-    /// any other.
+    /// Goes to a folder at or below the start folder, or else the home folder, as if one had zoomed into each
+    /// on the way; ignored for any other.
     void show(const std::string& folder);
+    /// Starts in another folder.
+    void startAt(const std::string& folder);
     /// Goes into a node's folder; ignored for a file and for the grouped node.
     void zoomInto(std::size_t node);
 
@@ -78,9 +82,11 @@ private:
     struct Contents {
         std::vector<TreeNode> nodes;
         bool isReadable = true;
+        std::vector<std::string> places;
     };
 
     [[nodiscard]] static Contents measure(const std::string& folder, const std::stop_token& stop);
+    void setStack(std::vector<std::string> stack);
     void setNodes(std::vector<TreeNode> nodes);
     void setLoading(bool isLoading);
     void setPointer(std::optional<Pointer> pointer);
@@ -88,6 +94,7 @@ private:
     void checkThread() const;
 
     std::vector<std::string> m_stack;
+    std::vector<std::string> m_places;
     std::vector<TreeNode> m_nodes;
     bool m_isLoading = false;
     bool m_isReadable = true;

@@ -218,4 +218,19 @@ TEST(DiskMapModelTest, showsAFolderBelowTheStartAsIfZoomedInto)
     EXPECT_THAT(model.stack(), ElementsAre(home.path()));
 }
 
+TEST(DiskMapModelTest, startsElsewhereAndShowsTheHomeFolderFromThere)
+{
+    const MappedHome home;
+    DiskMapModel model;
+    model.startAt(home.path("outer/inner"));
+    finishLoad(model);
+    EXPECT_THAT(model.stack(), ElementsAre(home.path("outer/inner")));
+    EXPECT_EQ(model.places().front(), home.path());
+    model.up();
+    EXPECT_FALSE(model.isLoading());
+    model.show(home.path("outer"));
+    finishLoad(model);
+    EXPECT_THAT(model.stack(), ElementsAre(home.path(), home.path("outer")));
+}
+
 } // namespace orlen

@@ -1,5 +1,7 @@
 #include "window/diskmap/BreadcrumbModel.h"
 
+#include "platform/files/Places.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>
@@ -10,7 +12,7 @@ namespace {
 
 std::vector<std::string> way(int folders)
 {
-    std::vector<std::string> result{"/home/mina"};
+    std::vector<std::string> result{Places::current().home};
     while (static_cast<int>(result.size()) < folders)
         result.push_back(result.back() + "/f" + std::to_string(result.size()));
     return result;
@@ -54,6 +56,8 @@ TEST(BreadcrumbModelTest, keepsTheEndsOfALongWay)
         model.setFolders(way(c.folders));
         EXPECT_EQ(shown(model), c.line);
     }
+    model.setFolders({"/media/disk", "/media/disk/films"});
+    EXPECT_EQ(shown(model), "/media/disk:0 films:1*");
 }
 
 } // namespace orlen

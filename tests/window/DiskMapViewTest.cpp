@@ -201,6 +201,25 @@ TEST_F(DiskMapViewTest, foldersThatCouldNotBeReadAreShown)
         TempHome::setMode(home.path(path), 0700);
 }
 
+TEST_F(DiskMapViewTest, aDroppedFolderIsShown)
+{
+    view.load();
+    ASSERT_TRUE(settles());
+    EXPECT_FALSE(view.drop({QUrl("https://example.org/x")}));
+    ASSERT_TRUE(view.drop({QUrl::fromLocalFile(QString::fromStdString(home.path("Music")))}));
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(view.folderName(), "Music");
+    EXPECT_EQ(view.place(), 0) << "below the home folder";
+    const std::string outside = home.outside("elsewhere");
+    ASSERT_TRUE(view.drop({QUrl::fromLocalFile(QString::fromStdString(outside))}));
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(view.folderName().toStdString(), outside);
+    EXPECT_EQ(view.place(), view.places().size() - 1);
+    view.startAt(0);
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(names().front(), "Videos");
+}
+
 TEST_F(DiskMapViewTest, takesPinchesAndTheWheelAlike)
 {
     view.load();

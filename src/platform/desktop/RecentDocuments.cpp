@@ -3,7 +3,7 @@
 #include "platform/files/FileContent.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
-#include "platform/text/PercentCoding.h"
+#include "platform/text/FileUri.h"
 
 #include <pugixml.hpp>
 
@@ -16,18 +16,10 @@ namespace {
 /// Parsing takes up to 16 times as much memory; real lists have a few megabytes.
 constexpr std::size_t kRecentListLimit = 16UL * 1024 * 1024;
 
-/// The path of "file:///p" or "file://localhost/p"; nothing for other hosts and schemes.
 std::optional<std::string> pathOf(std::string_view reference, const Places& places)
 {
-    for (const std::string_view start : {"file://", "file://localhost"}) {
-        if (!reference.starts_with(start) || !reference.substr(start.size()).starts_with('/'))
-            continue;
-        const auto path = PercentCoding::decoded(reference.substr(start.size()));
-        // Paths contain no NUL.
-        if (path && path->find('\0') == std::string::npos)
-            return places.normalized(*path);
-    }
-    return std::nullopt;
+    const auto path = FileUri::path(reference);
+    return path ? std::optional(places.normalized(*path)) : std::nullopt;
 }
 
 /// "2025-03-01T09:30:00.123456Z": the fraction is dropped.

@@ -1,5 +1,6 @@
 #include "window/diskmap/BreadcrumbModel.h"
 
+#include "platform/files/Places.h"
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
@@ -16,7 +17,13 @@ constexpr int kAfterGap = 2;
 
 QString BreadcrumbModel::nameOfLast(std::span<const std::string> folders)
 {
-    return folders.size() == 1 ? DisplayText::text(WindowTexts::kHome) : DisplayText::nameOf(folders.back());
+    return folders.size() == 1 ? startName(folders.front()) : DisplayText::nameOf(folders.back());
+}
+
+QString BreadcrumbModel::startName(const std::string& folder)
+{
+    return folder == Places::current().home ? DisplayText::text(WindowTexts::kHome)
+                                            : DisplayText::shortPath(folder);
 }
 
 std::vector<BreadcrumbModel::Row> BreadcrumbModel::rowsOf(const std::vector<std::string>& folders)

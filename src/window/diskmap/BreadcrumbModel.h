@@ -29,7 +29,9 @@ public:
 
     using RowsModel::RowsModel;
 
-    /// Display name of the last folder: the start folder is "Home", whatever its real name.
+    /// Name of a start folder: "Home" for the home folder, the path of any other.
+    [[nodiscard]] static QString startName(const std::string& folder);
+    /// Display name of the last folder.
     [[nodiscard]] static QString nameOfLast(std::span<const std::string> folders);
 
     /// Starts with the start folder; never empty.

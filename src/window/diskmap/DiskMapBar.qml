@@ -41,6 +41,17 @@ Item {
         anchors.right: parent.right
         spacing: Theme.spaceS
 
+        ChoiceField {
+            objectName: "diskMapPlace"
+            height: Theme.controlHeight
+            width: Math.min(implicitWidth, Theme.widened(170))
+            visible: root.map.places.length > 1
+            label: Strings.startsAt
+            model: root.map.places
+            currentIndex: root.map.place
+            onActivated: index => root.map.startAt(index)
+        }
+
         IconButton {
             framed: true
             symbol: "arrow.clockwise"

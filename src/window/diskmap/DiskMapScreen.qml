@@ -111,6 +111,7 @@ FocusScope {
                 anchors.fill: parent
                 anchors.margins: 1
                 map: theMap
+                focus: root.asList
                 onMenuRequested: (row, item, x, y) => menu.openAt(theMap, row, item, x, y)
             }
         }
@@ -144,6 +145,12 @@ FocusScope {
         width: root.width - 2 * Theme.pageMargin
         text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
         elide: Text.ElideMiddle
+    }
+
+    DropArea {
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: drop => drop.accepted = theMap.drop(drop.urls)
     }
 
     RowMenu {
@@ -185,7 +192,7 @@ FocusScope {
         if (theMap.currentRow < 0)
             return;
         if (root.asList)
-            menu.openBelow(theMap, list.currentIndex, list.currentItem);
+            menu.openBelow(theMap, theMap.currentRow, list.currentItem);
         else
             menu.openIn(theMap, theMap.currentRow, surface.tileAt(theMap.currentRow));
     }

@@ -1,7 +1,10 @@
 #include "window/diskmap/DiskMapView.h"
 
+#include "platform/files/Places.h"
+#include "platform/text/FileUri.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
-#include "window/WindowTexts.h"
+#include "window/diskmap/TileText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 
@@ -38,27 +41,6 @@ DiskMapView::Kind kindOf(const TreeNode& node)
     if (node.isOther)
         return DiskMapView::Rest;
     return node.isDir ? DiskMapView::Folder : DiskMapView::File;
-}
-
-const Text& spokenText(const TreeNode& node)
-{
-    switch (node.reading) {
-    case TreeNode::Reading::none:
-        return WindowTexts::kSpokenUnread;
-    case TreeNode::Reading::partly:
-        return WindowTexts::kSpokenPartlyRead;
-    case TreeNode::Reading::whole:
-        break;
-    }
-    return node.isDir ? WindowTexts::kSpokenFolder : WindowTexts::kSpokenFile;
-}
-
-QString spoken(const TreeNode& node)
-{
-    if (node.isOther)
-        return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
-    return DisplayText::text(
-        Message(spokenText(node), {{"name", within(node.title())}, {"size", Bytes{node.size}}}));
 }
 
 } // namespace
@@ -132,6 +114,49 @@ void DiskMapView::load()
 void DiskMapView::show(const QString& code)
 {
     m_map.show(PathCode::path(code));
+}
+
+QStringList DiskMapView::places() const
+{
+    QStringList names;
+    for (const std::string& folder : m_places)
+        names << BreadcrumbModel::startName(folder);
+    return names;
+}
+
+int DiskMapView::place() const
+{
+    return static_cast<int>(std::ranges::find(m_places, m_map.stack().front()) - m_places.begin());
+}
+
+void DiskMapView::followPlaces()
+{
+    m_places = m_map.places();
+    if (std::ranges::find(m_places, m_map.stack().front()) == m_places.end())
+        m_places.push_back(m_map.stack().front());
+    Q_EMIT placesChanged();
+}
+
+void DiskMapView::startAt(int place)
+{
+    if (place >= 0 && static_cast<std::size_t>(place) < m_places.size())
+        m_map.startAt(m_places[static_cast<std::size_t>(place)]);
+}
+
+bool DiskMapView::drop(const QList<QUrl>& urls)
+{
+    for (const QUrl& url : urls) {
+        const auto path = FileUri::path(url.toEncoded().toStdString());
+        if (!path)
+            continue;
+        const std::string folder = PathText::standardized(*path);
+        if (PathText::isAtOrBelow(folder, Places::current().home))
+            m_map.show(folder);
+        else
+            m_map.startAt(folder);
+        return true;
+    }
+    return false;
 }
 
 void DiskMapView::up()
@@ -227,6 +252,7 @@ void DiskMapView::turnWheel(double eighths)
 void DiskMapView::followStack()
 {
     m_crumbs.setFolders(m_map.stack());
+    followPlaces();
     const int row = rowOf(m_map.current());
     m_zoomOrigin = hasRow(row) ? m_tiles[static_cast<std::size_t>(row)].area.center()
                                : QPointF(m_view.width / 2, m_view.height / 2);
@@ -240,6 +266,7 @@ void DiskMapView::followLoading()
         return;
     }
     m_isMeasured = true;
+    followPlaces();
     const int levels = static_cast<int>(m_map.stack().size()) - static_cast<int>(m_shownFolders.size());
     arrange();
     Q_EMIT loadingChanged();
@@ -326,7 +353,7 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     case Role::shareText:
         return DisplayText::percent(share);
     case Role::spoken:
-        return spoken(node);
+        return TileText::spoken(node);
     case Role::unread:
         return node.reading == TreeNode::Reading::none;
     case Role::locked:

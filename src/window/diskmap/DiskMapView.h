@@ -6,8 +6,11 @@
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
+#include <QList>
 #include <QPointF>
 #include <QRectF>
+#include <QStringList>
+#include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
 #include <string>
@@ -34,6 +37,9 @@ class DiskMapView : public orlen::RowsModel {
     Q_PROPERTY(bool atStart READ isAtStart NOTIFY stackChanged)
     /// Name of the folder shown.
     Q_PROPERTY(QString folderName READ folderName NOTIFY stackChanged)
+    /// The folders where the map may start, and which of them is its start.
+    Q_PROPERTY(QStringList places READ places NOTIFY placesChanged)
+    Q_PROPERTY(int place READ place NOTIFY placesChanged)
     Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
     /// Tile under the pointer, -1 for none.
     Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
@@ -81,16 +87,25 @@ public:
     [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
     [[nodiscard]] bool isAtStart() const { return m_map.stack().size() == 1; }
     [[nodiscard]] QString folderName() const;
+    [[nodiscard]] QStringList places() const;
+    [[nodiscard]] int place() const;
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
     [[nodiscard]] int hoverRow() const;
     [[nodiscard]] int currentRow() const { return m_currentRow; }
     void setCurrentRow(int row);
     [[nodiscard]] bool isRearranging() const { return m_isRearranging; }
     [[nodiscard]] QPointF zoomOrigin() const { return m_zoomOrigin; }
+    /// What an existing row stands for; valid until the next change.
+    [[nodiscard]] const TreeNode& node(int row) const { return m_tiles[static_cast<std::size_t>(row)].node; }
 
     Q_INVOKABLE void load();
     /// Goes to a folder below the start folder, a `PathCode`.
     Q_INVOKABLE void show(const QString& code);
+    /// Starts in one of the places.
+    Q_INVOKABLE void startAt(int place);
+    /// Goes to the first folder of what was dropped on the map, and starts there if the home folder does not
+    /// hold it. False if there is none.
+    Q_INVOKABLE bool drop(const QList<QUrl>& urls);
     Q_INVOKABLE void up();
     /// Goes to a folder of the breadcrumb.
     Q_INVOKABLE void goTo(int step);
@@ -115,6 +130,7 @@ public:
 
 Q_SIGNALS:
     void viewChanged();
+    void placesChanged();
     void shownChanged();
     void loadingChanged();
     void stackChanged();
@@ -139,17 +155,18 @@ private:
     void followLoading();
     void followStack();
     void followMoves();
+    void followPlaces();
     void arrange();
     void placeTiles();
     void showTiles(const std::vector<TreeNode>& nodes);
     [[nodiscard]] int rowAfterArrival() const;
-    [[nodiscard]] const TreeNode& node(int row) const { return m_tiles[static_cast<std::size_t>(row)].node; }
     [[nodiscard]] int rowOf(const std::string& path) const;
 
     DiskMapModel m_map;
     BreadcrumbModel m_crumbs;
     Treemap::Size m_view;
     std::vector<Tile> m_tiles;
+    std::vector<std::string> m_places;       ///< with the start folder, wherever that is
     std::int64_t m_total = 0;                ///< bytes of all tiles
     std::vector<std::string> m_shownFolders; ///< path to the folder these tiles belong to
     bool m_isShown = false;

@@ -269,6 +269,8 @@ QtObject {
     readonly property string lockedMap: Words.message("Orlen may not look into this folder, or it is no longer there.")
     readonly property string goUp: Words.message("Go back up")
     readonly property string foldersBetween: Words.message("Folders between")
+    // TRANSLATORS: Read aloud, before a folder: where the map starts.
+    readonly property string startsAt: Words.message("Starts at")
     readonly property string measureAgain: Words.message("Measure again")
     readonly property string asMap: Words.message("Show as a map")
     readonly property string asList: Words.message("Show as a list")

@@ -109,6 +109,32 @@ Journey {
         tryVerify(() => test.row("diskMapList", 0).name === ".cache");
     }
 
+    function test_7_filterAndSort() {
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        tryVerify(() => test.isFocused("diskMapFilter"));
+        test.type("vide");
+        tryCompare(test.item("diskMapList"), "count", 1);
+        compare(test.row("diskMapList", 0).name, "Videos");
+        keyClick(Qt.Key_Return);
+        wait(50);
+        compare(test.row("diskMapList", 0).name, "Videos", "Enter in the field opens nothing");
+        test.click(test.row("diskMapList", 0));
+        tryVerify(() => test.row("diskMapList", 0).name === "holidays", 5000, "it is the row that opens");
+        compare(test.item("diskMapFilter").text, "", "another folder, another filter");
+        test.clickOn("crumb-0");
+        tryVerify(() => test.row("diskMapList", 0).name === ".cache");
+        test.clickOn("sort-1");
+        tryVerify(() => test.row("diskMapList", 0).name !== ".cache" || test.row("diskMapList", 1).name.startsWith("."));
+        const first = test.row("diskMapList", 0).name;
+        test.clickOn("sort-1");
+        tryVerify(() => test.row("diskMapList", 0).name !== first, 2000, "the other way round");
+        test.tabTo("diskMapList");
+        keyClick(Qt.Key_End);
+        tryCompare(test.item("diskMapList"), "currentIndex", test.item("diskMapList").count - 1);
+        test.clickOn("sort-0");
+        tryVerify(() => test.row("diskMapList", 0).name === ".cache");
+    }
+
     function tile(name: string): Item {
         for (let number = 0; test.isShown("tile-" + number); ++number) {
             const tile = stage.find(test.window, "tile-" + number);
