@@ -20,6 +20,7 @@ T.ToolTip {
 
     contentItem: CaptionText {
         text: root.text
+        wrapMode: Text.Wrap
         color: Theme.window
     }
 
