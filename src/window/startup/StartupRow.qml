@@ -108,7 +108,7 @@ ListRow {
     ToolTipBubble {
         parent: texts
         x: Theme.mirrored ? texts.width - width : 0
-        width: Math.min(implicitWidth, texts.width)
+        widest: texts.width
         text: root.hint
         shown: root.hovered || root.ringed
     }
