@@ -307,8 +307,6 @@ inline constexpr Text kNoStartupItem = message("there is no startup item {name}.
 inline constexpr Text kSeveralStartupItems =
     // TRANSLATORS: a list of paths follows.
     message("{name} names several startup items; name one by its path:");
-inline constexpr Text kSwitchedOn = message("{name} is on: it starts at the next login.");
-inline constexpr Text kSwitchedOff = message("{name} is off now and stays off at the next login.");
 inline constexpr Text kNotSwitchedOn = message("{name} could not be switched on.");
 inline constexpr Text kNotSwitchedOff = message("{name} could not be switched off.");
 inline constexpr Text kMayBeMissed =

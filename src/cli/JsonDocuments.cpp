@@ -69,19 +69,6 @@ Json failures(const std::vector<CleanFailure>& stayed)
     });
 }
 
-const char* kindOf(LaunchSource source)
-{
-    switch (source) {
-    case LaunchSource::launchAgent:
-        return "agent";
-    case LaunchSource::systemdUnit:
-        return "service";
-    case LaunchSource::autostartEntry:
-        return "autostart";
-    }
-    return "";
-}
-
 Json finding(const Finding& finding)
 {
     return {
@@ -356,7 +343,7 @@ Json advice(const std::vector<AdviceItem>& advice)
 Json startupItem(const LaunchItem& item)
 {
     Json json = {{"label", item.label},        {"path", item.path},       {"program", item.program},
-                 {"scope", item.scope.base()}, {"enabled", item.enabled}, {"kind", kindOf(item.source)}};
+                 {"scope", item.scope.base()}, {"enabled", item.enabled}, {"kind", rawValue(item.kind())}};
     if (!item.description.empty())
         json["description"] = item.description;
     json["switchable"] = item.isSwitchable;

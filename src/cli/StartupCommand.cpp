@@ -6,6 +6,7 @@
 #include "cli/Table.h"
 #include "model/Words.h"
 #include "platform/text/PathText.h"
+#include "tools/ToolsTexts.h"
 #include "tools/startup/LaunchControl.h"
 
 #include <CLI/CLI.hpp>
@@ -144,7 +145,7 @@ private:
         if (wantsJson())
             Session::printDocument(JsonDocuments::startupItem(item));
         else if (isDone)
-            Session::print({isWanted ? CliTexts::kSwitchedOn : CliTexts::kSwitchedOff, {name}});
+            Session::print({isWanted ? ToolsTexts::kSwitchedOn : ToolsTexts::kSwitchedOff, {name}});
         if (isDone && !isWanted && item.isPartOfDesktop)
             session.complain({CliTexts::kMayBeMissed, {name}});
     }

@@ -92,12 +92,37 @@ inline constexpr Text kYourAccount = message("Your account");
 // TRANSLATORS: It starts for everybody who logs in.
 inline constexpr Text kAllUsers = message("All users");
 
+// What starts at login: what kind it is, and where it comes from
+
+inline constexpr Text kAgent = messageIn("kind of startup item", "Launch agent");
+inline constexpr Text kService = messageIn("kind of startup item", "Service");
+// TRANSLATORS: It starts something at set times.
+inline constexpr Text kTimer = messageIn("kind of startup item", "Timer");
+// TRANSLATORS: It starts something when another program connects.
+inline constexpr Text kSocket = messageIn("kind of startup item", "Socket");
+// TRANSLATORS: It starts something when a file or folder changes.
+inline constexpr Text kWatchedPath = messageIn("kind of startup item", "Watched path");
+inline constexpr Text kAutostart = messageIn("kind of startup item", "Autostart entry");
+// TRANSLATORS: {name} is a package of the distribution.
+inline constexpr Text kPackage = message("Package {name}");
+
+// What became of a startup item
+
+inline constexpr Text kSwitchedOn = message("{name} is on: it starts at the next login.");
+inline constexpr Text kSwitchedOff = message("{name} is off now and stays off at the next login.");
+
 // Why an item cannot be switched
 
 inline constexpr Text kLinkedEntry = message("Its file is a link; change the file that the link points to.");
 inline constexpr Text kOthersEntry = message("Its file belongs to another user.");
 // TRANSLATORS: A masked unit of systemd is one that nothing can start.
 inline constexpr Text kMaskedElsewhere = message("It is masked in a place that Orlen doesn't change.");
+inline constexpr Text kHeldByOwnFile =
+    message("It starts for everybody, and a file of yours with its name is in the way of switching it off.");
+inline constexpr Text kNeverStarts = message("Its file doesn't say when it should start.");
+inline constexpr Text kNoUnitTool = message("The tool that would switch it, systemctl, isn't installed.");
+inline constexpr Text kLockedFolder = message("The folder that holds its switch can't be written to.");
+inline constexpr Text kOthersHome = message("The home folder is missing or belongs to somebody else.");
 inline constexpr Text kNoAgentTool = message("This system does not run launch agents.");
 
 // Why opening at login could not be switched

@@ -2,6 +2,8 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/shell/WindowState.h"
+#include "window/startup/StartupOrderModel.h"
 
 #include <gtest/gtest.h>
 
@@ -48,7 +50,8 @@ int rowOf(const StartupListModel& items, const QString& name)
 class StartupListModelTest : public testing::Test {
 protected:
     const TempHome m_home;
-    StartupListModel m_items;
+    AppModel m_app{{}};
+    StartupListModel m_items{m_app};
     const QAbstractItemModelTester m_tester{&m_items, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -71,6 +74,53 @@ TEST_F(StartupListModelTest, switchesAnItemAndShowsItAtOnce)
     EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), false);
     EXPECT_TRUE(TempHome::content(m_home.path(kEntry)).find("Hidden=true") != std::string::npos);
     EXPECT_EQ(failures.count(), 0);
+}
+
+TEST_F(StartupListModelTest, aNoticeCanUndoTheChange)
+{
+    writeEntry(m_home, "kite.desktop", "Kite");
+    ASSERT_TRUE(load(m_items));
+    std::vector<std::function<void()>> undos;
+    QObject::connect(&WindowState::of(m_app), &WindowState::said,
+                     [&](const QString&, const std::function<void()>& undo) { undos.push_back(undo); });
+    m_items.toggle(rowOf(m_items, "Kite"));
+    ASSERT_TRUE(waitUntil([&] { return undos.size() == 1; }));
+    undos.front()();
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), true);
+    ASSERT_TRUE(waitUntil([&] { return undos.size() == 2; }));
+    EXPECT_TRUE(TempHome::content(m_home.path(kEntry)).find("Hidden=false") != std::string::npos);
+    EXPECT_EQ(value(m_items, "Kite", ItemRole::isOn), true);
+}
+
+TEST_F(StartupListModelTest, itIsFilteredAndSortedWithinEachGroup)
+{
+    writeEntry(m_home, "b.desktop", "Birch");
+    writeEntry(m_home, "a.desktop", "Alder");
+    m_home.file(".config/autostart/c.desktop",
+                "[Desktop Entry]\nName=Cedar\nExec=saw --fast\nComment=Cuts\n");
+    ASSERT_TRUE(load(m_items));
+    StartupOrderModel ordered;
+    ordered.setList(&m_items);
+    const auto names = [&] {
+        QStringList all;
+        for (int row = 0; row < ordered.rowCount(); ++row) {
+            if (ordered.index(row, 0).data(static_cast<int>(ItemRole::scope)) == "Your account")
+                all += ordered.index(row, 0).data(static_cast<int>(ItemRole::name)).toString();
+        }
+        return all.join(' ');
+    };
+    EXPECT_EQ(names(), "Alder Birch Cedar");
+    ordered.sortBy(StartupOrderModel::ByName);
+    EXPECT_EQ(names(), "Alder Birch Cedar");
+    ordered.sortBy(StartupOrderModel::ByName);
+    EXPECT_EQ(names(), "Cedar Birch Alder");
+    for (const char* words : {"--FAST", "cuts", "c.desktop cedar"}) {
+        ordered.setFilter(words);
+        EXPECT_EQ(names(), "Cedar") << words;
+    }
+    ordered.toggle(0);
+    EXPECT_EQ(value(m_items, "Cedar", ItemRole::isOn), false);
+    ASSERT_TRUE(waitUntil([&] { return !value(m_items, "Cedar", ItemRole::isBusy).toBool(); }));
 }
 
 TEST_F(StartupListModelTest, goesBackAndSaysSoWhenTheChangeFails)

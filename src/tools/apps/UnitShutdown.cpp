@@ -16,7 +16,7 @@ namespace {
 bool isUnit(const std::string& path, const std::vector<std::string>& folders)
 {
     return std::find(folders.begin(), folders.end(), PathText::parent(path)) != folders.end() &&
-           UnitFolders::isServiceName(PathText::lastComponent(path));
+           UnitFolders::isUnitName(PathText::lastComponent(path));
 }
 
 /// Whether it worked.

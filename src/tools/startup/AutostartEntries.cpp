@@ -2,6 +2,7 @@
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
+#include "scan/ScanTexts.h"
 #include "tools/ToolsTexts.h"
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
@@ -53,6 +54,7 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
         return std::nullopt;
     const std::vector<std::string> command = entry->command("Exec");
     item.program = command.empty() ? std::string() : command.front();
+    item.command = entry->text("Exec");
     const bool isOwn = PathText::isAtOrBelow(item.path, places.home);
     item.scope = isOwn ? ToolsTexts::kYourAccount : ToolsTexts::kAllUsers;
     item.enabled = AutostartRules::isEnabled(*entry);
@@ -61,7 +63,11 @@ std::optional<LaunchItem> itemOf(const std::string& name, const std::string& pat
     if (item.name.empty())
         item.name = item.label;
     item.isPartOfDesktop = !isOwn && DesktopNames::isPartOfDesktop(item.label);
-    item.description = entry->text("Comment");
+    item.description = entry->localizedText("Comment", places.languages);
+    if (const std::string id = entry->text("X-Flatpak"); !id.empty())
+        item.origin = {ScanTexts::kFlatpakApp, {{"name", id}}};
+    else if (const std::string snap = entry->text("X-SnapInstanceName"); !snap.empty())
+        item.origin = {ScanTexts::kSnapApp, {{"name", snap}}};
     if (const Text why = AutostartSwitch::obstacle(name); !why.empty())
         item.forbid(why);
     return item;

@@ -11,6 +11,7 @@
 #include "tools/startup/AutostartFolders.h"
 #include "tools/startup/AutostartRules.h"
 #include "tools/startup/DesktopEntryEdit.h"
+#include "tools/startup/OwnFolder.h"
 
 #include <algorithm>
 #include <optional>
@@ -116,6 +117,10 @@ Text obstacle(const std::string& name)
 {
     const std::string own = ownPath(name);
     const auto status = statusOf(own);
+    const std::string folder = own.empty() ? AutostartFolders::ofUser(Places::current()).front()
+                                           : std::string(PathText::parent(own));
+    if (!OwnFolder::canHold(folder))
+        return ToolsTexts::kLockedFolder;
     if (own.empty() || !status.ok())
         return {};
     if (status.value().type == FileType::link)

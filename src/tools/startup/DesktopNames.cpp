@@ -8,23 +8,13 @@ namespace orlen::DesktopNames {
 namespace {
 
 constexpr std::string_view kStarts[] = {
-    "pipewire",
-    "wireplumber",
-    "pulseaudio",
-    "xdg-",
-    "gnome-",
-    "plasma-",
-    "dbus",
-    "gvfs",
-    "at-spi",
-    "gpg-agent",
-    "ssh-agent",
-    "gcr-",
-    "kde-",
-    "tracker-",
-    "localsearch-",
-    "evolution-",
-    "org.gnome.SettingsDaemon",
+    "pipewire",     "wireplumber", "pulseaudio",
+    "xdg-",         "gnome-",      "plasma-",
+    "dbus",         "gvfs",        "at-spi",
+    "gpg-agent",    "ssh-agent",   "dirmngr",
+    "keyboxd",      "p11-kit-",    "systemd-",
+    "gcr-",         "kde-",        "tracker-",
+    "localsearch-", "evolution-",  "org.gnome.SettingsDaemon",
 };
 
 /// Short enough to be prefixes of other programs' names.
@@ -34,9 +24,11 @@ constexpr std::string_view kNames[] = {"xfce4-notifyd", "mako", "waybar"};
 
 bool isPartOfDesktop(std::string_view label)
 {
-    constexpr std::string_view kUnit = ".service";
-    const std::string_view name =
-        label.ends_with(kUnit) ? label.substr(0, label.size() - kUnit.size()) : label;
+    std::string_view name = label;
+    for (const std::string_view unit : {".service", ".timer", ".socket", ".path"}) {
+        if (name.ends_with(unit))
+            name.remove_suffix(unit.size());
+    }
     return std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames) ||
            std::any_of(std::begin(kStarts), std::end(kStarts),
                        [&](std::string_view start) { return label.starts_with(start); });

@@ -1,12 +1,17 @@
 #include "tools/startup/LaunchControl.h"
 
+#include "platform/files/Folder.h"
 #include "platform/files/Places.h"
+#include "platform/process/ChildProcess.h"
 #include "platform/text/PathText.h"
 #include "tools/ToolsTexts.h"
+#include "tools/startup/PackageNames.h"
 #include "tools/startup/ServiceManager.h"
 
 #include <iterator>
 #include <memory>
+#include <set>
+#include <string>
 #include <utility>
 
 namespace orlen::LaunchControl {
@@ -26,6 +31,29 @@ std::unique_ptr<ServiceManager> managerOf(LaunchSource source)
     return nullptr;
 }
 
+/// The file that tells where an item comes from: for one of the user's, what it runs.
+std::string fileOfOrigin(const LaunchItem& item, const Places& places)
+{
+    if (!PathText::isAtOrBelow(item.path, places.home))
+        return item.path;
+    const std::string program = item.program.empty() ? "" : ChildProcess::programPath(item.program);
+    return program.empty() ? program : resolved(program);
+}
+
+void findOrigins(std::vector<LaunchItem>& items)
+{
+    const Places& places = Places::current();
+    std::set<std::string> files;
+    for (const LaunchItem& item : items)
+        files.insert(fileOfOrigin(item, places));
+    const auto packages = PackageNames::of(places, files);
+    for (LaunchItem& item : items) {
+        const auto package = packages.find(fileOfOrigin(item, places));
+        if (item.origin.empty() && package != packages.end())
+            item.origin = {ToolsTexts::kPackage, {{"name", package->second}}};
+    }
+}
+
 } // namespace
 
 std::vector<LaunchItem> load()
@@ -43,12 +71,17 @@ std::vector<LaunchItem> load()
         }
     }
     std::move(ofEverybody.begin(), ofEverybody.end(), std::back_inserter(items));
+    findOrigins(items);
+    // In somebody else's home folder a change would affect the wrong user.
+    for (LaunchItem& item : items) {
+        if (!Places::current().isHomeUsable)
+            item.forbid(ToolsTexts::kOthersHome);
+    }
     return items;
 }
 
 bool set(const LaunchItem& item, bool enabled)
 {
-    // In somebody else's home folder the change would affect the wrong user.
     return item.isSwitchable && Places::current().isHomeUsable && managerOf(item.source)->set(item, enabled);
 }
 

@@ -27,10 +27,11 @@ bool isInstalled()
     return !ChildProcess::programPath(kTool).empty();
 }
 
-std::optional<std::vector<ListedUnit>> services()
+std::optional<std::vector<ListedUnit>> units()
 {
     const auto list =
-        outcome({"list-unit-files", "--type=service", "--output=json", "--no-pager"}, Way::throughManager);
+        outcome({"list-unit-files", "--type=service,timer,socket,path", "--output=json", "--no-pager"},
+                Way::throughManager);
     return list && list->status == 0 ? UnitList::parsed(list->output) : std::nullopt;
 }
 

@@ -12,8 +12,9 @@ namespace orlen::Systemctl {
 /// Whether systemctl is installed.
 [[nodiscard]] bool isInstalled();
 
-/// All services it knows; nothing if it does not answer.
-[[nodiscard]] std::optional<std::vector<ListedUnit>> services();
+/// All services, timers, sockets and paths it knows, but no instances of templates; nothing if it does not
+/// answer.
+[[nodiscard]] std::optional<std::vector<ListedUnit>> units();
 
 enum class Way {
     throughManager,

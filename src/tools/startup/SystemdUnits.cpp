@@ -4,6 +4,7 @@
 #include "platform/text/PathText.h"
 #include "tools/ToolsTexts.h"
 #include "tools/startup/DesktopNames.h"
+#include "tools/startup/OwnFolder.h"
 #include "tools/startup/ServiceManager.h"
 #include "tools/startup/Systemctl.h"
 #include "tools/startup/UnitFile.h"
@@ -36,39 +37,85 @@ constexpr State kStates[] = {
 
 std::vector<ListedUnit> listed(const Places& places)
 {
-    if (auto units = Systemctl::services())
-        return *std::move(units);
+    auto units = Systemctl::units();
     // Packages also install unit files where nothing will ever read them.
-    const bool isThere = Systemctl::isInstalled() || exists(places.systemRoot + "/run/systemd/system");
-    return isThere ? UnitLinks::listed(places) : std::vector<ListedUnit>();
+    if (!units && !Systemctl::isInstalled() && !exists(places.systemRoot + "/run/systemd/system"))
+        return {};
+    std::vector<ListedUnit> all = units ? *std::move(units) : UnitLinks::listed(places);
+    for (ListedUnit& instance : UnitLinks::instances(places)) {
+        if (std::ranges::find(all, instance.name, &ListedUnit::name) == all.end())
+            all.push_back(std::move(instance));
+    }
+    return all;
+}
+
+/// What identifies a unit: its file, or for one of several instances of a file what makes it one.
+std::string identifyingPath(const Places& places, const std::string& unit, const std::string& file)
+{
+    if (PathText::lastComponent(file) == unit)
+        return file;
+    const std::string link = UnitLinks::firstOf(places, unit);
+    return link.empty() ? PathText::join(UnitFolders::ofUser(places).front(), unit) : link;
+}
+
+/// The file of what a timer, socket or path starts.
+std::optional<UnitFile> startedBy(const Places& places, const std::string& unit, const UnitFile& file)
+{
+    const auto [stem, instance, suffix] = UnitFolders::partsOf(unit);
+    std::string started = file.started;
+    if (started.empty())
+        started = unit.substr(0, unit.size() - suffix.size()) + ".service";
+    if (!UnitFolders::isUnitName(started))
+        return std::nullopt;
+    return UnitFile::read(UnitFolders::find(places, started), places.home, instance);
+}
+
+/// Why it cannot be switched; empty if it probably can.
+Text obstacle(const Places& places, const ListedUnit& unit, State::Meaning meaning, const UnitFile& file)
+{
+    if (meaning == State::Meaning::masked && !UnitFolders::isMaskedByUser(places, unit.name))
+        return ToolsTexts::kMaskedElsewhere;
+    if (!Systemctl::isInstalled())
+        return ToolsTexts::kNoUnitTool;
+    if (!OwnFolder::canHold(UnitFolders::ofUser(places).front()))
+        return ToolsTexts::kLockedFolder;
+    if (meaning == State::Meaning::off && !file.isInstallable)
+        return ToolsTexts::kNeverStarts;
+    const bool isHeld = meaning == State::Meaning::on && UnitFolders::isTakenByUser(places, unit.name) &&
+                        UnitLinks::isStartedForEverybody(places, unit.name);
+    return isHeld ? ToolsTexts::kHeldByOwnFile : Text();
 }
 
 std::optional<LaunchItem> itemOf(const ListedUnit& unit, const Places& places)
 {
     const auto state = std::find_if(std::begin(kStates), std::end(kStates),
                                     [&](const State& known) { return known.word == unit.state; });
-    if (state == std::end(kStates) || !UnitFolders::isServiceName(unit.name))
+    if (state == std::end(kStates) || !UnitFolders::isUnitName(unit.name))
         return std::nullopt;
-    const std::string path = UnitFolders::find(places, unit.name);
+    const std::string found = UnitFolders::find(places, unit.name);
+    const std::string path = identifyingPath(places, unit.name, found);
     const bool isOwn = PathText::isAtOrBelow(path, places.home);
     // Of units from packages, only those that were on are of interest.
     if (!isOwn && state->meaning == State::Meaning::off)
         return std::nullopt;
-    const auto file = UnitFile::read(path, places.home);
+    const auto file = UnitFile::read(found, places.home, UnitFolders::partsOf(unit.name).instance);
     if (!file)
         return std::nullopt;
     LaunchItem item;
     item.label = unit.name;
     item.path = path;
-    item.program = file->program;
+    item.source = LaunchSource::systemdUnit;
+    const auto started =
+        item.kind() == LaunchKind::service ? std::nullopt : startedBy(places, unit.name, *file);
+    item.program = started ? started->program : file->program;
+    item.command = started ? started->command : file->command;
     item.scope = isOwn ? ToolsTexts::kYourAccount : ToolsTexts::kAllUsers;
     item.enabled = state->meaning == State::Meaning::on;
-    item.source = LaunchSource::systemdUnit;
     item.name = item.label;
     item.isPartOfDesktop = DesktopNames::isPartOfDesktop(item.label);
     item.description = file->description;
-    if (state->meaning == State::Meaning::masked && !UnitFolders::isMaskedByUser(places, unit.name))
-        item.forbid(ToolsTexts::kMaskedElsewhere);
+    if (const Text why = obstacle(places, unit, state->meaning, *file); !why.empty())
+        item.forbid(why);
     return item;
 }
 
@@ -128,7 +175,7 @@ public:
     [[nodiscard]] bool set(const LaunchItem& item, bool enabled) const override
     {
         const std::string& unit = item.label;
-        if (!UnitFolders::isServiceName(unit))
+        if (!UnitFolders::isUnitName(unit))
             return false;
         const Places& places = Places::current();
         if (enabled)

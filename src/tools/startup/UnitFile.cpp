@@ -77,13 +77,21 @@ std::string firstWord(std::string_view line)
     return quote == 0 ? word : std::string();
 }
 
-std::string withSpecifiers(std::string_view word, std::string_view home)
+/// What stands for the specifiers of a unit file.
+struct Specifiers {
+    std::string_view home;
+    std::string_view instance;
+};
+
+std::string withSpecifiers(std::string_view word, const Specifiers& known)
 {
     std::string text;
     for (std::size_t at = 0; at < word.size(); ++at) {
         const std::string_view specifier = word.substr(at, 2);
         if (specifier == "%h")
-            text += home;
+            text += known.home;
+        else if ((specifier == "%i" || specifier == "%I") && !known.instance.empty())
+            text += known.instance;
         else if (specifier == "%%")
             text += '%';
         else {
@@ -114,18 +122,27 @@ void addWords(std::string_view list, std::vector<std::string>& words)
     }
 }
 
-std::string programOf(std::string_view command, std::string_view home)
+// Prefixes that say how to start the command.
+constexpr std::string_view kPrefixes = "-@:+!";
+
+std::string programOf(std::string_view command, const Specifiers& known)
 {
     const std::string word = firstWord(command);
-    // Prefixes that say how to start the command.
-    const std::size_t start = word.find_first_not_of("-@:+!");
-    return start == std::string::npos ? "" : textOrNothing(withSpecifiers(word.substr(start), home));
+    const std::size_t start = word.find_first_not_of(kPrefixes);
+    return start == std::string::npos ? "" : textOrNothing(withSpecifiers(word.substr(start), known));
+}
+
+std::string commandOf(std::string_view command, const Specifiers& known)
+{
+    command.remove_prefix(std::min(command.find_first_not_of(kPrefixes), command.size()));
+    return textOrNothing(withSpecifiers(command, known));
 }
 
 } // namespace
 
-UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
+UnitFile UnitFile::parsed(std::string_view text, std::string_view home, std::string_view instance)
 {
+    const Specifiers known{home, instance};
     UnitFile unit;
     const std::string joined = withLinesJoined(text);
     std::string_view command;
@@ -136,7 +153,13 @@ UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
         if (section == "Service" && key == "ExecStart" && (command.empty() || value.empty()))
             command = value;
         if (section == "Unit" && key == "Description")
-            unit.description = textOrNothing(std::string(value));
+            unit.description =
+                textOrNothing(instance.empty() ? std::string(value) : withSpecifiers(value, known));
+        const bool isStarted = section == "Socket"
+                                   ? key == "Service"
+                                   : (section == "Timer" || section == "Path") && key == "Unit";
+        if (isStarted)
+            unit.started = textOrNothing(std::string(value));
         if (section != "Install" || key.empty())
             continue;
         if (key == "Alias")
@@ -145,14 +168,16 @@ UnitFile UnitFile::parsed(std::string_view text, std::string_view home)
             std::find(kInstallKeys.begin(), kInstallKeys.end(), key) != kInstallKeys.end();
         unit.isInstallable = unit.isInstallable || (isInstallKey && !value.empty());
     }
-    unit.program = programOf(command, home);
+    unit.program = programOf(command, known);
+    unit.command = commandOf(command, known);
     return unit;
 }
 
-std::optional<UnitFile> UnitFile::read(const std::string& path, std::string_view home)
+std::optional<UnitFile> UnitFile::read(const std::string& path, std::string_view home,
+                                       std::string_view instance)
 {
     const auto text = readSmallFile(resolved(path), kSizeLimit);
-    return text ? std::optional(parsed(*text, home)) : std::nullopt;
+    return text ? std::optional(parsed(*text, home, instance)) : std::nullopt;
 }
 
 } // namespace orlen

@@ -5,6 +5,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orlen::UnitFolders {
 
@@ -31,14 +32,28 @@ bool isLinkToNowhere(const std::string& path)
 
 } // namespace
 
-bool isServiceName(std::string_view name)
+bool isUnitName(std::string_view name)
 {
     constexpr std::string_view kLetters =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789:-_.\\@";
-    constexpr std::string_view kSuffix = ".service";
-    return name.ends_with(kSuffix) && name.size() > kSuffix.size() && name.size() <= kLongestName &&
-           !name.ends_with("@.service") && !name.starts_with('-') &&
+    constexpr std::string_view kSuffixes[] = {".service", ".timer", ".socket", ".path"};
+    const NameParts parts = partsOf(name);
+    const bool isTemplate = parts.stem.ends_with('@');
+    return std::ranges::find(kSuffixes, parts.suffix) != std::end(kSuffixes) && !parts.stem.empty() &&
+           !isTemplate && name.size() <= kLongestName && !name.starts_with('-') &&
            name.find_first_not_of(kLetters) == std::string_view::npos;
+}
+
+NameParts partsOf(std::string_view name)
+{
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    NameParts parts{name.substr(0, dot), {}, name.substr(dot)};
+    const std::size_t at = parts.stem.find('@');
+    if (at != std::string_view::npos && at > 0 && at + 1 < parts.stem.size()) {
+        parts.instance = parts.stem.substr(at + 1);
+        parts.stem = parts.stem.substr(0, at);
+    }
+    return parts;
 }
 
 std::vector<std::string> ofUser(const Places& places)
@@ -70,7 +85,9 @@ std::string find(const Places& places, const std::string& name)
         if (exists(path) && !isMask(path))
             return path;
     }
-    return {};
+    const NameParts parts = partsOf(name);
+    return parts.instance.empty() ? std::string()
+                                  : find(places, std::string(parts.stem) + '@' + std::string(parts.suffix));
 }
 
 bool isMask(const std::string& path)

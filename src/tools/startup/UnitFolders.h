@@ -9,9 +9,17 @@
 /// The folders of the user's systemd units. Blocks on the disk; any thread.
 namespace orlen::UnitFolders {
 
-/// Whether this is the name of a service that can be switched: not a template, and nothing a command line
-/// could mistake for an option. Pure.
-[[nodiscard]] bool isServiceName(std::string_view name);
+/// Whether this is the name of a service, timer, socket or path that can be switched: not a template, and
+/// nothing a command line could mistake for an option. Pure.
+[[nodiscard]] bool isUnitName(std::string_view name);
+
+/// The parts of a unit's name "stem@instance.suffix". Pure.
+struct NameParts {
+    std::string_view stem;
+    std::string_view instance; ///< empty for what is no instance of a template
+    std::string_view suffix;   ///< with its dot
+};
+[[nodiscard]] NameParts partsOf(std::string_view name);
 
 /// The user's own configuration, most important first. Pure.
 [[nodiscard]] std::vector<std::string> ofUser(const Places& places);
@@ -20,7 +28,8 @@ namespace orlen::UnitFolders {
 /// Those that hold configuration by the user or administrator rather than units of packages. Pure.
 [[nodiscard]] std::vector<std::string> ofSettings(const Places& places);
 
-/// The file that describes the unit: the first of that name that is not a mask. Empty if there is none.
+/// The file that describes the unit: the first of that name that is not a mask, for an instance else that of
+/// its template. Empty if there is none.
 [[nodiscard]] std::string find(const Places& places, const std::string& name);
 /// Whether the file at this path masks a unit: it is a link to nowhere or empty.
 [[nodiscard]] bool isMask(const std::string& path);

@@ -63,13 +63,13 @@ Names renamedUnits(const std::vector<std::string>& folders)
     return renamed;
 }
 
-/// The first file of each service, by name.
-std::map<std::string, std::string> services(const Places& places)
+/// The first file of each unit, by name.
+std::map<std::string, std::string> unitFiles(const Places& places)
 {
     std::map<std::string, std::string> paths;
     for (const std::string& folder : UnitFolders::all(places)) {
         for (const std::string& name : listNames(folder + "/.")) {
-            if (UnitFolders::isServiceName(name))
+            if (UnitFolders::isUnitName(name))
                 paths.emplace(name, PathText::join(folder, name));
         }
     }
@@ -93,7 +93,7 @@ std::vector<ListedUnit> listed(const Places& places)
     Names startedBySettings = startedUnits(UnitFolders::ofSettings(places));
     startedBySettings.merge(renamedUnits(UnitFolders::ofSettings(places)));
     std::vector<ListedUnit> units;
-    for (const auto& [name, path] : services(places)) {
+    for (const auto& [name, path] : unitFiles(places)) {
         std::string state = "masked";
         if (!UnitFolders::isMask(path)) {
             state = idleState(name, path, places);
@@ -105,6 +105,31 @@ std::vector<ListedUnit> listed(const Places& places)
         units.push_back({name, std::move(state)});
     }
     return units;
+}
+
+std::vector<ListedUnit> instances(const Places& places)
+{
+    const std::vector<std::string> folders = UnitFolders::all(places);
+    std::vector<ListedUnit> units;
+    for (const std::string& name : startedUnits(UnitFolders::ofSettings(places))) {
+        if (!UnitFolders::isUnitName(name) || UnitFolders::partsOf(name).instance.empty())
+            continue;
+        const auto isMasked = [&](const std::string& folder) {
+            return UnitFolders::isMask(PathText::join(folder, name));
+        };
+        units.push_back({name, std::ranges::any_of(folders, isMasked) ? "masked" : "enabled"});
+    }
+    return units;
+}
+
+std::string firstOf(const Places& places, const std::string& unit)
+{
+    for (const std::string& folder : startingFolders(UnitFolders::ofSettings(places))) {
+        std::string path = PathText::join(folder, unit);
+        if (isLink(path))
+            return path;
+    }
+    return {};
 }
 
 std::vector<std::string> ofUser(const Places& places, const std::string& unit)
@@ -122,7 +147,7 @@ std::vector<std::string> ofUser(const Places& places, const std::string& unit)
     for (const std::string& alias : described ? described->aliases : std::vector<std::string>()) {
         for (const std::string& folder : folders) {
             const std::string path = PathText::join(folder, alias);
-            if (alias != unit && UnitFolders::isServiceName(alias) && resolved(path) == file)
+            if (alias != unit && UnitFolders::isUnitName(alias) && resolved(path) == file)
                 addIfLink(path);
         }
     }

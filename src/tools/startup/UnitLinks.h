@@ -10,8 +10,14 @@
 /// thread.
 namespace orlen::UnitLinks {
 
-/// All services by name, with systemd's words for their states.
+/// All units that can be switched, by name, with systemd's words for their states.
 [[nodiscard]] std::vector<ListedUnit> listed(const Places& places);
+
+/// The instances of templates that somebody chose to start, which systemd's own list leaves out.
+[[nodiscard]] std::vector<ListedUnit> instances(const Places& places);
+
+/// The first link that starts the unit because somebody chose so; empty if there is none.
+[[nodiscard]] std::string firstOf(const Places& places, const std::string& unit);
 
 /// The links in the user's configuration that start the unit: those of its name in other units' folders, and
 /// those of its other names, but not the unit's own link.

@@ -19,7 +19,7 @@ T.Switch {
         width: root.implicitWidth
         height: Theme.grown(24)
         radius: height / 2
-        color: root.checked ? Theme.accentFill : Theme.track
+        color: !root.checked ? Theme.track : root.enabled ? Theme.accentFill : Theme.tertiary
         border.width: root.checked ? 0 : 1
         border.color: Theme.tertiary
         opacity: root.enabled ? 1 : 0.5

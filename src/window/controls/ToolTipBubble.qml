@@ -7,6 +7,8 @@ T.ToolTip {
     id: root
 
     required property bool shown
+    /// Its width is at most this; the text wraps then.
+    property real widest: 10000
 
     y: parent ? -implicitHeight - 6 : 0
     x: parent ? (parent.width - implicitWidth) / 2 : 0
@@ -14,13 +16,23 @@ T.ToolTip {
     delay: 600
     margins: Theme.spaceS
     padding: 8
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    contentWidth: Math.min(measure.implicitWidth, root.widest - leftPadding - rightPadding)
+    implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     contentItem: CaptionText {
         text: root.text
+        wrapMode: Text.Wrap
         color: Theme.window
+
+        // Its width does not depend on that of what is shown.
+        CaptionText {
+            id: measure
+
+            visible: false
+            text: root.text
+        }
     }
 
     background: Rectangle {

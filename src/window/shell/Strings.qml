@@ -149,9 +149,10 @@ QtObject {
     readonly property string nothingSelected: Words.message("Nothing is selected.")
     readonly property string selectAllShown: Words.message("Select all that are shown")
     function sortBy(order: string): string {
-        // TRANSLATORS: {order} is one of the next five, as it stands there.
+        // TRANSLATORS: {order} is one of the next six, as it stands there.
         return Words.message("Sort by {order}", { order: order });
     }
+    readonly property string byKind: Words.messageIn("order", "Kind")
     readonly property string bySize: Words.messageIn("order", "Size")
     readonly property string byName: Words.messageIn("order", "Name")
     readonly property string byDate: Words.messageIn("order", "Date")

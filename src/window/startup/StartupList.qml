@@ -6,12 +6,14 @@ Card {
     id: root
 
     required property StartupListModel items
+    required property StartupOrderModel ordered
     /// The visible height of the page, for paging.
     property real pageHeight: 480
     /// Emitted when the keyboard reaches a row.
     signal reached(row: Item)
+    signal filterCleared
 
-    implicitHeight: root.items.count > 0 ? list.height + 2
+    implicitHeight: list.count > 0 ? list.height + 2
                     : root.items.loading ? placeholder.height + 16 : empty.height + 64
 
     KeyedList {
@@ -23,7 +25,7 @@ Card {
         height: contentHeight
         interactive: false
         pageHeight: root.pageHeight
-        model: root.items
+        model: root.ordered
         section.property: "scope"
         section.delegate: CaptionText {
             required property string section
@@ -42,9 +44,9 @@ Card {
         Accessible.name: Strings.startupItems
         onCurrentItemChanged: if (list.showsFocus && list.currentItem !== null) root.reached(list.currentItem)
 
-        Keys.onSpacePressed: root.items.toggle(list.currentIndex)
-        Keys.onReturnPressed: root.items.toggle(list.currentIndex)
-        Keys.onEnterPressed: root.items.toggle(list.currentIndex)
+        Keys.onSpacePressed: root.ordered.toggle(list.currentIndex)
+        Keys.onReturnPressed: root.ordered.toggle(list.currentIndex)
+        Keys.onEnterPressed: root.ordered.toggle(list.currentIndex)
 
         delegate: StartupRow {
             id: row
@@ -57,7 +59,7 @@ Card {
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 list.currentIndex = row.index;
-                root.items.toggle(row.index);
+                root.ordered.toggle(row.index);
             }
         }
     }
@@ -76,9 +78,11 @@ Card {
 
         anchors.centerIn: parent
         width: parent.width - 48
-        visible: root.items.count === 0 && !root.items.loading
-        symbol: "power.circle.fill"
+        visible: list.count === 0 && !placeholder.visible
+        symbol: root.ordered.filter === "" ? "power.circle.fill" : "magnifyingglass"
         tone: Theme.startupTone
-        text: Strings.noLaunchAgents
+        text: root.ordered.filter === "" ? Strings.noLaunchAgents : Strings.nothingMatches
+        action: root.ordered.filter === "" ? "" : Strings.clearFilter
+        onTriggered: root.filterCleared()
     }
 }

@@ -3,6 +3,7 @@
 #include "app/Workers.h"
 #include "tools/startup/LaunchItem.h"
 #include "window/lists/RowsModel.h"
+#include "window/shell/AppModelElement.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -25,6 +26,8 @@ public:
         name = Qt::UserRole, ///< display name
         program,             ///< what it runs; empty when unknown
         path,                ///< of its configuration file
+        details,             ///< its kind, where it comes from and its purpose
+        hint,                ///< why it cannot be switched, its whole command and its file, in lines
         scope,               ///< whose logins it belongs to; the list is grouped by it
         symbol,              ///< icon for the kind of item
         isOn,                ///< whether it starts; during a change, the new value
@@ -35,14 +38,15 @@ public:
     };
     Q_ENUM(Role)
 
-    StartupListModel();
+    explicit StartupListModel(AppModel& app = AppModelElement::model());
 
+    [[nodiscard]] const std::vector<LaunchItem>& items() const { return m_items; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
 
     /// Reads the list again, after any change in progress.
     Q_INVOKABLE void load();
     /// Switches an item. It shows the new value at once and the old one again on failure. Ignored while the
-    /// item is being changed or when it is not switchable.
+    /// item is being changed or when it is not switchable. A notice tells what was done and can undo it.
     Q_INVOKABLE void toggle(int row);
 
 Q_SIGNALS:
@@ -54,10 +58,18 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_items.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    void finishChange(const LaunchItem& item, bool wasMade);
+    struct Change {
+        bool wasMade = false;
+        std::vector<LaunchItem> after; ///< all items after it: one switch may move others
+    };
+    /// Switches the item over.
+    void change(const LaunchItem& item);
+    void finishChange(const LaunchItem& item, const Change& change);
+    void tell(LaunchItem item);
     [[nodiscard]] bool isOn(const LaunchItem& item) const;
     void setLoading(bool isLoading);
 
+    AppModel& m_app;
     std::vector<LaunchItem> m_items;
     std::map<std::string, bool> m_wanted; ///< changes in progress, by path
     bool m_isLoading = false;

@@ -8,6 +8,8 @@ ListRow {
     required property string name
     required property string program
     required property string path
+    required property string details
+    required property string hint
     required property string symbol
     required property bool isOn
     required property bool isBusy
@@ -23,7 +25,7 @@ ListRow {
     topGap: 3
     bottomGap: 2
     Accessible.name: root.name
-    Accessible.description: root.isSwitchable ? root.program : root.reason
+    Accessible.description: root.details + "\n" + root.hint
 
     Divider {
         anchors.left: parent.left
@@ -74,14 +76,13 @@ ListRow {
 
         SmallText {
             width: parent.width
-            visible: root.program !== ""
-            text: root.program
-            elide: Text.ElideMiddle
+            text: root.details
+            elide: Text.ElideRight
         }
 
         CaptionText {
             width: parent.width
-            text: root.path
+            text: root.program !== "" ? root.program : root.path
             elide: Text.ElideMiddle
         }
     }
@@ -103,11 +104,12 @@ ListRow {
         onToggled: root.toggled()
     }
 
-    // A disabled switch gets no hover events itself.
+    // It belongs to the row, since a disabled switch gets no hover events itself.
     ToolTipBubble {
-        parent: toggle
-        x: Theme.mirrored ? 0 : toggle.width - implicitWidth
-        text: root.reason
-        shown: !root.isSwitchable && (root.hovered || root.ringed)
+        parent: texts
+        x: Theme.mirrored ? texts.width - width : 0
+        widest: texts.width
+        text: root.hint
+        shown: root.hovered || root.ringed
     }
 }

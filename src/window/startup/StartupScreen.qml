@@ -13,6 +13,13 @@ Item {
         onFailed: message => root.view.notices.say(message)
     }
 
+    StartupOrderModel {
+        id: ordered
+
+        list: items
+        filter: tools.text
+    }
+
     LoginItemModel {
         id: loginItems
 
@@ -36,6 +43,12 @@ Item {
         onActivated: root.reload()
     }
 
+    Shortcut {
+        enabled: root.enabled && tools.visible
+        sequences: [StandardKey.Find]
+        onActivated: tools.focusField()
+    }
+
     ScreenPage {
         id: page
 
@@ -55,11 +68,26 @@ Item {
             items: loginItems
         }
 
+        ListTools {
+            id: tools
+
+            width: parent.width
+            visible: items.count > 0
+            fieldName: "startupFilter"
+            // In the order of StartupOrderModel's orders.
+            orders: [Strings.byKind, Strings.byName]
+            current: ordered.order
+            reversed: ordered.reversed
+            onSortRequested: order => ordered.sortBy(order)
+        }
+
         StartupList {
             width: parent.width
             pageHeight: page.height
             onReached: row => page.show(row)
             items: items
+            ordered: ordered
+            onFilterCleared: tools.clear()
         }
 
         AppButton {

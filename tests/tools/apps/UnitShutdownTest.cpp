@@ -34,11 +34,13 @@ TEST(UnitShutdownTest, onlyUnitsAreStoppedAndDisabled)
     home.tool("systemctl", "case \"$*\" in *is-active*) exit 3;; esac");
     const std::vector<FileEntry> entries = {
         entryOf(unit(home, "foo.service")), entryOf(unit(home, "foo.timer")),
-        entryOf(unit(home, "-x.service")), entryOf(home.file(".config/foo.service"))};
+        entryOf(unit(home, "foo.mount")), entryOf(unit(home, "-x.service")),
+        entryOf(home.file(".config/foo.service"))};
     EXPECT_THAT(UnitShutdown::run(entries), IsEmpty());
     EXPECT_THAT(home.calls(),
                 ElementsAre(HasSubstr("--user disable foo.service"), HasSubstr("--user stop foo.service"),
-                            HasSubstr("is-active --quiet foo.service")));
+                            HasSubstr("is-active --quiet foo.service"), HasSubstr("--user disable foo.timer"),
+                            HasSubstr("--user stop foo.timer"), HasSubstr("is-active --quiet foo.timer")));
 }
 
 TEST(UnitShutdownTest, whatStaysOnIsTold)

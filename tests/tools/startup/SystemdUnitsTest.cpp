@@ -89,8 +89,9 @@ TEST(SystemdUnitsTest, theManagersListIsSortedAndSifted)
                     "own-enabled.service Your account on", "own-linked.service Your account off",
                     "own-masked.service Your account off", "shared-enabled-runtime.service All users on",
                     "shared-enabled.service All users on", "shared-masked.service All users off"));
-    EXPECT_THAT(home.calls(), ElementsAre("systemctl: --user list-unit-files --type=service --output=json "
-                                          "--no-pager"));
+    EXPECT_THAT(home.calls(),
+                ElementsAre("systemctl: --user list-unit-files --type=service,timer,socket,path "
+                            "--output=json --no-pager"));
 }
 
 TEST(SystemdUnitsTest, anItemDescribesItsUnit)
@@ -99,10 +100,77 @@ TEST(SystemdUnitsTest, anItemDescribesItsUnit)
     const std::string path = home.shared("pipewire-pulse.service");
     home.link(".config/systemd/user/pipewire-pulse.service", "/dev/null");
     home.manager("[" + entry("pipewire-pulse.service", "masked") + "]");
-    const LaunchItem expected{"pipewire-pulse.service", path,  "/opt/run",
-                              ToolsTexts::kAllUsers,    false, LaunchSource::systemdUnit,
-                              "pipewire-pulse.service", true};
+    LaunchItem expected{"pipewire-pulse.service", path,  "/opt/run",
+                        ToolsTexts::kAllUsers,    false, LaunchSource::systemdUnit,
+                        "pipewire-pulse.service", true};
+    expected.command = "/opt/run";
     EXPECT_THAT(makeSystemdUnits()->items(), ElementsAre(expected));
+}
+
+TEST(SystemdUnitsTest, timersSocketsAndPathsTellWhatTheyStart)
+{
+    const Units home;
+    const auto path = [&](const std::string& name, const std::string& section) {
+        return home.own(name, (section + "\n[Install]\nWantedBy=default.target\n").c_str());
+    };
+    (void)path("backup.timer", "[Unit]\nDescription=Nightly\n[Timer]\nOnCalendar=daily");
+    (void)path("mail.socket", "[Socket]\nService=post.service");
+    (void)path("inbox.path", "[Path]\nUnit=missing.service");
+    (void)home.own("backup.service", "[Service]\nExecStart=/opt/back up -q\n");
+    (void)home.own("post.service", "[Service]\nExecStart=-/opt/post --all\n");
+    home.manager("[" + entry("backup.timer", "enabled") + "," + entry("mail.socket", "disabled") + "," +
+                 entry("inbox.path", "enabled") + "," + entry("a.mount", "enabled") + "]");
+    std::vector<std::string> told;
+    for (const LaunchItem& item : makeSystemdUnits()->items())
+        told.push_back(item.label + " " + rawValue(item.kind()) + " " + item.command);
+    EXPECT_THAT(told, ElementsAre("backup.timer timer /opt/back up -q", "inbox.path path ",
+                                  "mail.socket socket /opt/post --all"));
+}
+
+TEST(SystemdUnitsTest, enabledInstancesOfTemplatesAreSwitchedOneByOne)
+{
+    const Units home;
+    (void)home.shared("sync@.service", "[Unit]\nDescription=Sync for %i\n[Service]\nExecStart=/opt/sync %i\n"
+                                       "[Install]\nWantedBy=default.target\n");
+    const std::string wants = ".config/systemd/user/default.target.wants/";
+    for (const char* name : {"sync@anna.service", "sync@bert.service", "gone@x.service"})
+        home.link(wants + name, "/usr/lib/systemd/user/sync@.service");
+    for (const bool isAnswering : {true, false}) {
+        SCOPED_TRACE(isAnswering ? "systemd answers" : "no answer");
+        isAnswering ? home.manager("[" + entry("sync@.service", "enabled") + "]")
+                    : home.tool("systemctl", "exit 1");
+        const std::vector<LaunchItem> items = makeSystemdUnits()->items();
+        ASSERT_EQ(items.size(), 2U);
+        EXPECT_EQ(items[1].label, "sync@bert.service");
+        EXPECT_EQ(items[1].path, home.path(wants + "sync@bert.service"));
+        EXPECT_EQ(items[1].command, "/opt/sync bert");
+        EXPECT_EQ(items[1].description, "Sync for bert");
+        EXPECT_EQ(items[1].scope, ToolsTexts::kYourAccount);
+        EXPECT_TRUE(items[1].enabled && items[1].isSwitchable);
+    }
+    home.manager("[]");
+    home.forgetCalls();
+    EXPECT_TRUE(makeSystemdUnits()->set(makeSystemdUnits()->items().front(), false));
+    EXPECT_THAT(home.changes(), ElementsAre("systemctl: --user disable sync@anna.service",
+                                            "systemctl: --user stop sync@anna.service"));
+}
+
+TEST(SystemdUnitsTest, aSwitchThatCannotWorkSaysWhy)
+{
+    const Units home;
+    (void)home.own("idle.service", kStaticUnit);
+    (void)home.own("held.service");
+    home.link(home.outside("system/etc/systemd/user/default.target.wants/held.service"), "/missing");
+    home.manager("[" + entry("idle.service", "linked") + "," + entry("held.service", "enabled") + "]");
+    const std::vector<LaunchItem> items = makeSystemdUnits()->items();
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].reason, ToolsTexts::kHeldByOwnFile);
+    EXPECT_EQ(items[1].reason, ToolsTexts::kNeverStarts);
+
+    std::remove(home.outside("bin/systemctl").c_str());
+    home.folder(home.outside("system/run/systemd/system"));
+    for (const LaunchItem& item : makeSystemdUnits()->items())
+        EXPECT_EQ(item.reason, ToolsTexts::kNoUnitTool) << item.label;
 }
 
 TEST(SystemdUnitsTest, withoutAnAnswerTheFilesAreRead)

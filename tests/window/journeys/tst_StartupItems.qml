@@ -35,6 +35,27 @@ Journey {
         compare(test.agent().isOn, false);
     }
 
+    function test_1b_theNoticeUndoesIt() {
+        test.clickOn("undoNotice");
+        tryVerify(() => !stage.content(test.entry).includes("Hidden=true"));
+        tryVerify(() => test.agent().isOn && !test.agent().isBusy);
+        test.clickOn("switch", test.agent());
+        tryVerify(() => stage.content(test.entry).includes("Hidden=true") && !test.agent().isBusy);
+    }
+
+    function test_1c_theFilterFindsItByItsCommand() {
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        verify(test.isFocused("startupFilter"));
+        test.type("bin/true");
+        tryCompare(test.item("startupList"), "count", 1);
+        verify(test.agent().Accessible.description.includes("/usr/bin/true"));
+        test.type("zzz");
+        tryCompare(test.item("startupList"), "count", 0);
+        keyClick(Qt.Key_A, Qt.ControlModifier);
+        keyClick(Qt.Key_Delete);
+        verify(test.agent() !== null);
+    }
+
     function test_2_theKeyboardSwitchesItOn() {
         test.tabTo("startupList");
         const list = test.item("startupList");
