@@ -1,11 +1,13 @@
 #include "scan/photos/KeeperChoice.h"
 
 #include "scan/ScanTexts.h"
+#include "scan/photos/PrintIndex.h"
 #include "scan/photos/SamePicture.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 
 namespace orlen {
 
@@ -100,21 +102,83 @@ bool isBetterShot(const PhotoInfo& shot, const PhotoInfo& than)
     return !isSofter(shot, than) && shot.cand.size > than.cand.size;
 }
 
-/// A copy of the first of its set, and the best of them.
-struct Copies {
-    SamePicture::Frame first;
-    std::size_t best = 0;
-};
+/// The different shots of a set, each in its best copy. A copy, and what is drawn over a picture, change the
+/// layout little, so each is compared with the nearest shots only: a set may have thousands.
+class Shots {
+public:
+    explicit Shots(const std::vector<PhotoInfo>& photos) : m_photos(photos) {}
 
-std::vector<Copies>::iterator bestShot(const std::vector<PhotoInfo>& photos, std::vector<Copies>& shots)
-{
-    auto best = shots.begin();
-    for (auto shot = shots.begin(); shot != shots.end(); ++shot) {
-        if (isBetterShot(photos[shot->best], photos[best->best]))
-            best = shot;
+    void add(std::size_t photo)
+    {
+        const SamePicture::Frame frame(m_photos[photo]);
+        for (const std::size_t near : nearTo(frame)) {
+            Copies& copies = m_shots[near];
+            if (SamePicture::isCopy(copies.first, frame)) {
+                if (lostLess(m_photos[photo], m_photos[copies.best]))
+                    copies.best = photo;
+                return;
+            }
+        }
+        m_index.add(frame.photo->print->direction());
+        m_shots.push_back({frame, photo});
     }
-    return best;
-}
+
+    /// A caption is sharper than any picture, so what is drawn over another shot is passed over.
+    [[nodiscard]] std::size_t best()
+    {
+        std::size_t best = sharpest();
+        while (isDrawnOverAnother(best)) {
+            m_shots[best].isPassedOver = true;
+            best = sharpest();
+        }
+        return m_shots[best].best;
+    }
+
+private:
+    struct Copies {
+        SamePicture::Frame first;
+        std::size_t best = 0; ///< photo
+        bool isPassedOver = false;
+    };
+
+    /// Ascending.
+    [[nodiscard]] std::vector<std::size_t> nearTo(const SamePicture::Frame& frame) const
+    {
+        constexpr std::size_t kMost = 16;
+        const auto found = m_index.near({&frame.photo->print->direction(), 1}, kMost);
+        std::vector<std::size_t> shots;
+        for (const PrintIndex::Near& near : found.front())
+            shots.push_back(near.number);
+        std::ranges::sort(shots);
+        return shots;
+    }
+
+    [[nodiscard]] bool isDrawnOverAnother(std::size_t shot) const
+    {
+        const SamePicture::Frame& frame = m_shots[shot].first;
+        return std::ranges::any_of(nearTo(frame), [&](std::size_t near) {
+            return near != shot && !m_shots[near].isPassedOver &&
+                   SamePicture::isDrawnOver(frame, m_shots[near].first);
+        });
+    }
+
+    /// There is always one that is not passed over: the last is drawn over none.
+    [[nodiscard]] std::size_t sharpest() const
+    {
+        std::optional<std::size_t> best;
+        for (std::size_t shot = 0; shot < m_shots.size(); ++shot) {
+            const Copies& copies = m_shots[shot];
+            if (!copies.isPassedOver &&
+                (!best || isBetterShot(m_photos[copies.best], m_photos[m_shots[*best].best])))
+                best = shot;
+        }
+        return *best;
+    }
+
+    const std::vector<PhotoInfo>& m_photos;
+    std::vector<Copies> m_shots;
+    PrintIndex m_index; ///< of their first copies
+};
 
 Text reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
 {
@@ -134,26 +198,10 @@ Text reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
 std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
                                  const std::vector<std::size_t>& members)
 {
-    std::vector<Copies> shots;
-    for (const std::size_t member : members) {
-        const SamePicture::Frame frame(photos[member]);
-        const auto same = std::find_if(shots.begin(), shots.end(), [&](const Copies& copies) {
-            return SamePicture::isCopy(copies.first, frame);
-        });
-        if (same == shots.end())
-            shots.push_back({frame, member});
-        else if (lostLess(photos[member], photos[same->best]))
-            same->best = member;
-    }
-    // A caption is sharper than any picture.
-    auto best = bestShot(photos, shots);
-    while (std::ranges::any_of(shots, [&](const Copies& other) {
-        return &other != &*best && SamePicture::isDrawnOver(best->first, other.first);
-    })) {
-        shots.erase(best);
-        best = bestShot(photos, shots);
-    }
-    return best->best;
+    Shots shots(photos);
+    for (const std::size_t member : members)
+        shots.add(member);
+    return shots.best();
 }
 
 Text KeeperChoice::reason(const PhotoInfo& other, const SamePicture::Frame& keeperFrame)
