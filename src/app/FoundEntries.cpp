@@ -103,7 +103,7 @@ void FoundEntries::replace(std::vector<Finding> findings, const Exclusions& excl
 {
     *this = {};
     m_findings = std::move(findings);
-    divide(exclusions, FindingLists::safePaths(m_findings));
+    divide(exclusions, FindingLists::proposed(m_findings));
 }
 
 void FoundEntries::divide(const Exclusions& exclusions)

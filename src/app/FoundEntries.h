@@ -41,7 +41,7 @@ public:
     /// The clean-up of the selection; looks at the disk for what is protected.
     [[nodiscard]] CleanPlan plan() const;
 
-    /// Takes what another scan found, and selects what of it is Safe.
+    /// Takes what another scan found, and selects what is Safe in Safe findings.
     void replace(std::vector<Finding> findings, const Exclusions& exclusions);
     /// Divides what was found into what is offered and what is excluded.
     void divide(const Exclusions& exclusions);
