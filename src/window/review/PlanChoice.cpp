@@ -6,13 +6,52 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace orlen {
 
 PlanChoice::PlanChoice(const CleanPlan& plan, const Exclusions& exclusions) : m_plan(plan), m_ticks(plan)
 {
+    findPairs();
     exclude(exclusions);
+}
+
+void PlanChoice::findPairs()
+{
+    std::unordered_map<std::string_view, std::vector<Place>> listed;
+    for (std::size_t number = 0; number < m_plan.sections.size(); ++number) {
+        for (std::size_t at = 0; at < m_plan.sections[number].entries.size(); ++at)
+            listed[entry({number, at}).path].push_back({number, at});
+    }
+    for (std::size_t number = 0; number < m_plan.sections.size(); ++number) {
+        for (std::size_t at = 0; at < m_plan.sections[number].entries.size(); ++at) {
+            const FileEntry& copy = entry({number, at});
+            std::string_view path = copy.kept ? std::string_view(copy.kept->path) : std::string_view();
+            // A folder with both in it moves as a whole, or not at all.
+            for (; path.size() > 1 && !PathText::isAtOrBelow(copy.path, path);
+                 path = PathText::parent(path)) {
+                if (const auto found = listed.find(path); found != listed.end())
+                    m_pairs.push_back({{number, at}, found->second.front()});
+            }
+        }
+    }
+}
+
+void PlanChoice::keepApart(Last last)
+{
+    std::vector<Place> gone;
+    for (const Pair& pair : m_pairs) {
+        if (isTicked(pair.copy) && isTicked(pair.kept))
+            gone.push_back(last == Last::one && pair.wasCopyTicked ? pair.copy : pair.kept);
+    }
+    if (!gone.empty()) {
+        m_ticks.leaveOut(gone);
+        ++m_keptApart;
+    }
+    for (Pair& pair : m_pairs)
+        pair.wasCopyTicked = isTicked(pair.copy);
 }
 
 void PlanChoice::exclude(const Exclusions& exclusions)
@@ -29,6 +68,7 @@ void PlanChoice::exclude(const Exclusions& exclusions)
     }
     m_ticks.leaveOut(placesOf(added));
     m_ticks.takeBack(placesOf(returned));
+    keepApart(Last::several);
 }
 
 std::vector<PlanChoice::Place> PlanChoice::placesOf(const Paths& paths) const
@@ -46,28 +86,29 @@ std::vector<PlanChoice::Place> PlanChoice::placesOf(const Paths& paths) const
     return places;
 }
 
-void PlanChoice::leaveOutExcluded()
+void PlanChoice::settle(Last last)
 {
     if (!m_excluded.empty())
         m_ticks.leaveOut(placesOf(m_excluded));
+    keepApart(last);
 }
 
 void PlanChoice::set(const Place& at, bool isTicked)
 {
     m_ticks.set(at.section, at.entry, isTicked);
-    leaveOutExcluded();
+    settle(Last::one);
 }
 
 void PlanChoice::setSection(std::size_t section, bool isTicked)
 {
     m_ticks.setSection(section, isTicked);
-    leaveOutExcluded();
+    settle(Last::several);
 }
 
 void PlanChoice::setAll(bool isTicked)
 {
     m_ticks.setAll(isTicked);
-    leaveOutExcluded();
+    settle(Last::several);
 }
 
 void PlanChoice::set(std::span<const Place> places, bool isTicked)
@@ -76,7 +117,7 @@ void PlanChoice::set(std::span<const Place> places, bool isTicked)
         m_ticks.tick(places);
     else
         m_ticks.leaveOut(places);
-    leaveOutExcluded();
+    settle(Last::several);
 }
 
 std::set<std::string> PlanChoice::tickAlong(std::span<const Place> places, const std::string& folder)

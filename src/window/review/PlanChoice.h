@@ -15,7 +15,8 @@ namespace orlen {
 class Exclusions;
 
 /// A plan under review: which of its entries are ticked, and which are excluded meanwhile. Those are never
-/// ticked, and come back as they were. A plain value; any thread.
+/// ticked, and come back as they were. Nor are a kept file and its copies ticked together: the
+/// one that is ticked by itself has the tick, otherwise the copies. A plain value; any thread.
 class PlanChoice {
 public:
     using Paths = std::set<std::string, std::less<>>;
@@ -47,14 +48,30 @@ public:
     /// Returns the paths of the unticked ones that it left.
     std::set<std::string> tickAlong(std::span<const Place> places, const std::string& folder);
 
+    /// How often ticks had to go for a kept file or its copies.
+    [[nodiscard]] int keptApart() const { return m_keptApart; }
+
 private:
+    /// A copy, and an entry that would take its kept file along.
+    struct Pair {
+        Place copy;
+        Place kept;
+        bool wasCopyTicked = false;
+    };
+
+    void findPairs();
+    enum class Last { one, several }; ///< entries that were ticked by themselves
+
+    void keepApart(Last last);
+    void settle(Last last);
     [[nodiscard]] std::vector<Place> placesOf(const Paths& paths) const;
-    void leaveOutExcluded();
 
     CleanPlan m_plan;
     PlanTicks m_ticks;
     Paths m_excluded;
     Paths m_tickedBefore; ///< of those, the ones that were ticked
+    std::vector<Pair> m_pairs;
+    int m_keptApart = 0;
 };
 
 } // namespace orlen

@@ -6,6 +6,7 @@
 #include "window/lists/PathCode.h"
 #include "window/lists/RatingValue.h"
 #include "window/lists/Remembered.h"
+#include "window/review/KeptApart.h"
 #include "window/review/PlanSectionCell.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
@@ -14,6 +15,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace orlen {
 
@@ -50,6 +52,7 @@ void PlanModel::show(const CleanPlan& plan)
 {
     beginResetModel();
     m_choice = PlanChoice(plan, m_app.exclusions()->current());
+    m_keptApart = m_choice.keptApart();
     m_isFolded.assign(plan.sections.size(), false);
     m_entries = PlanEntries(plan);
     m_wish = Remembered::order(kReviewOrder);
@@ -58,6 +61,8 @@ void PlanModel::show(const CleanPlan& plan)
     Q_EMIT orderChanged();
     Q_EMIT planChanged();
     Q_EMIT figuresChanged();
+    if (m_keptApart > 0)
+        KeptApart::say(m_app);
 }
 
 std::vector<PlanModel::Row> PlanModel::entriesOf(int number) const
@@ -157,6 +162,8 @@ void PlanModel::followTicks()
 {
     allChanged(Role::mark, Role::folder, Role::size);
     Q_EMIT figuresChanged();
+    if (std::exchange(m_keptApart, m_choice.keptApart()) != m_choice.keptApart())
+        KeptApart::say(m_app);
 }
 
 void PlanModel::fold(int row)

@@ -125,6 +125,7 @@ private:
 
     AppModel& m_app;
     PlanChoice m_choice;
+    int m_keptApart = 0;          ///< as it was said
     std::vector<bool> m_isFolded; ///< of each section
     std::vector<Row> m_rows;
     EntryOrder::Wish m_wish;
