@@ -50,6 +50,7 @@ Flow {
             required property string modelData
             required property int index
 
+            objectName: root.fieldName + "-" + index
             text: modelData
             active: root.current === index
             reversed: root.reversed
