@@ -11,6 +11,27 @@
 
 namespace orlen::FindingLists {
 
+namespace {
+
+template <typename Wanted>
+std::set<std::string> safeIn(const std::vector<Finding>& findings, Wanted isWanted)
+{
+    std::set<std::string> paths;
+    for (const Finding& finding : findings) {
+        if (!finding.cleanable || !isWanted(finding))
+            continue;
+        for (const FileEntry& entry : finding.items) {
+            if (finding.effectiveRating(entry) == Rating::safe)
+                paths.insert(entry.path);
+        }
+    }
+    // Moving a folder would also move entries that need a review first.
+    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
+    return paths;
+}
+
+} // namespace
+
 bool comesBefore(const Finding& a, const Finding& b)
 {
     const std::pair left(a.safeSize(), a.totalSize());
@@ -30,18 +51,12 @@ std::vector<const FileEntry*> selectedIn(const Finding& finding, const std::set<
 
 std::set<std::string> safePaths(const std::vector<Finding>& findings)
 {
-    std::set<std::string> paths;
-    for (const Finding& finding : findings) {
-        if (finding.rating != Rating::safe || !finding.cleanable)
-            continue;
-        for (const FileEntry& entry : finding.items) {
-            if (finding.effectiveRating(entry) == Rating::safe)
-                paths.insert(entry.path);
-        }
-    }
-    // Moving a folder would also move entries that need a review first.
-    PathSelection::dropOpenFolders(paths, PathSelection::listedIn(findings));
-    return paths;
+    return safeIn(findings, [](const Finding&) { return true; });
+}
+
+std::set<std::string> proposed(const std::vector<Finding>& findings)
+{
+    return safeIn(findings, [](const Finding& finding) { return finding.rating == Rating::safe; });
 }
 
 bool isIn(const std::set<std::string>& paths, std::string_view path)

@@ -15,8 +15,10 @@ namespace orlen::FindingLists {
 /// The finding's entries with these paths.
 [[nodiscard]] std::vector<const FileEntry*> selectedIn(const Finding& finding,
                                                        const std::set<std::string>& selection);
-/// Everything Safe that can be cleaned: what a scan selects. Without folders that hold an entry to review.
+/// Everything Safe that can be cleaned, without folders that hold an entry to review.
 [[nodiscard]] std::set<std::string> safePaths(const std::vector<Finding>& findings);
+/// What a scan selects of that: only in findings that are Safe as a whole.
+[[nodiscard]] std::set<std::string> proposed(const std::vector<Finding>& findings);
 /// Whether the path, or a folder that it is in, is one of these.
 [[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
 /// The finding of these copies, which are rated already; none without copies.

@@ -1,19 +1,20 @@
 #pragma once
 
+#include "app/FoundEntries.h"
 #include "app/Freshness.h"
-#include "app/KeptCopies.h"
 #include "app/ModelPart.h"
-#include "app/MovedEntries.h"
-#include "app/NewKeeper.h"
 #include "app/Workers.h"
+#include "model/CleanPlan.h"
 #include "model/Finding.h"
 #include "model/ModelState.h"
 #include "model/PathSelection.h"
 #include "platform/images/ImageWorkers.h"
 #include "platform/values/Time.h"
+#include "scan/duplicates/KeepRule.h"
 #include "scan/photos/PhotoAnalyzer.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -27,10 +28,12 @@ class ExclusionList;
 class ScanEngine;
 class ScanProgress;
 class Storage;
-struct StorageBreakdown;
+namespace SmartScan {
+struct Outcome;
+}
 
-/// Runs the Smart Scan and holds the findings of the last one and the user's selection. Main thread; the scan
-/// runs on a worker.
+/// Runs the Smart Scan and tells what the last one found, what is selected of it, and when either changes.
+/// Main thread; whatever looks at the disk runs on a worker.
 class Results : public ModelPart {
     Q_OBJECT
     Q_PROPERTY(double largeThresholdMB READ largeThresholdMB WRITE setLargeThresholdMB NOTIFY
@@ -46,10 +49,10 @@ public:
 
     [[nodiscard]] Phase phase() const { return m_phase; }
     /// Of the last scan, in display order: most Safe bytes first, then most bytes.
-    [[nodiscard]] const std::vector<Finding>& findings() const { return m_findings; }
+    [[nodiscard]] const std::vector<Finding>& findings() const { return m_found.findings(); }
     /// Paths of the entries selected for cleaning. With a folder, also the entries listed inside it, because
     /// they move with it.
-    [[nodiscard]] const std::set<std::string>& selection() const { return m_selection; }
+    [[nodiscard]] const std::set<std::string>& selection() const { return m_found.selection(); }
     /// Decimal megabytes from which a file counts as large.
     [[nodiscard]] double largeThresholdMB() const { return m_largeThresholdMB; }
     /// The same in bytes. Stops the program if it does not fit.
@@ -96,20 +99,23 @@ public:
     Q_INVOKABLE void showResults();
 
     /// Bytes of all entries in the cleanable findings.
-    [[nodiscard]] std::int64_t totalFound() const;
+    [[nodiscard]] std::int64_t totalFound() const { return m_found.totalFound(); }
     /// Bytes of the entries rated Safe in the cleanable findings.
-    [[nodiscard]] std::int64_t safeBytes() const;
+    [[nodiscard]] std::int64_t safeBytes() const { return m_found.safeBytes(); }
     /// The findings in the photos category.
-    [[nodiscard]] std::vector<Finding> photoFindings() const;
+    [[nodiscard]] std::vector<Finding> photoFindings() const { return m_found.photos(); }
     /// Bytes of the finding's selected entries; nested entries count once.
-    [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
+    [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const
+    {
+        return m_found.selectedSize(finding);
+    }
     /// What cleaning up the whole selection would move; each path counts once, even if several findings list
     /// it.
-    [[nodiscard]] PathSelection::Amount selectedAmount() const;
+    [[nodiscard]] PathSelection::Amount selectedAmount() const { return m_found.selectedAmount(); }
     /// The selectable paths.
-    [[nodiscard]] const PathTree& listed() const;
+    [[nodiscard]] const PathTree& listed() const { return m_found.listed(); }
     /// The plan for the current selection: a section for each cleanable finding, without protected paths.
-    [[nodiscard]] CleanPlan scanPlan() const;
+    [[nodiscard]] CleanPlan scanPlan() const { return m_found.plan(); }
     /// Removes entries from the results and the selection, and with them those whose kept file is removed.
     void removeFromFindings(const std::set<std::string>& paths);
     /// Lists entries again that were removed since the last scan, after something was put back at these
@@ -143,36 +149,19 @@ Q_SIGNALS:
     void keepRuleChanged();
 
 private:
-    struct ScanResult;
-
     void setPhase(Phase phase);
-    [[nodiscard]] const std::set<std::string>& safePaths() const;
     [[nodiscard]] ScanMoment moment(TimePoint now) const;
-    [[nodiscard]] static ScanResult scanned(ScanEngine& engine);
-    /// Divides what was found into what is offered and what is not, and selects of it what is offered.
-    void applyExclusions(std::set<std::string> selection);
-    /// The selection of what is offered and of what is not.
-    [[nodiscard]] std::set<std::string> everythingSelected() const;
-    void finishScan(const std::shared_ptr<ScanEngine>& engine, ScanResult result);
+    void finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome);
     void applyKeepRule();
-    /// All copies of the sets of duplicates, whether they are offered or not.
-    [[nodiscard]] std::vector<FileEntry> copies() const;
-    void takeChosen(KeptCopies::Chosen chosen);
-    void exchange(const NewKeeper::Exchange& exchange, const FileEntry& former);
+    /// Makes a change of what was found, and emits what came of it.
+    void change(const std::function<void()>& change);
 
     Storage& m_storage;
     const ExclusionList& m_exclusions;
     const ImageWorkers::Options m_images;
     Phase m_phase = Phase::idle;
-    std::vector<Finding> m_findings;
-    mutable std::optional<PathTree> m_listed;            ///< of these findings; built when first needed
-    mutable std::optional<std::set<std::string>> m_safe; ///< likewise, what `selectSafe` adds
-    std::set<std::string> m_selection;
-    std::vector<Finding> m_excluded;           ///< found, but not offered
-    std::set<std::string> m_excludedSelection; ///< of those, the ones selected when they are offered again
-    MovedEntries m_moved;                      ///< since the last scan
+    FoundEntries m_found;
     Latest m_trashLook;
-    std::vector<Finding> m_references; ///< copies in reference folders
     KeepRule m_keepRule;
     Latest m_keeping;
     double m_largeThresholdMB = 500;

@@ -209,6 +209,22 @@ TEST(HomeModelTest, selectsEverythingSafeBesidesWhatIsSelected)
     EXPECT_TRUE(model.isSafeSelected());
 }
 
+TEST(HomeModelTest, selectsWhatIsSafeAmongThingsToReview)
+{
+    const TempHome home;
+    const TimePoint old = std::chrono::system_clock::now() - std::chrono::days(90);
+    TempHome::setTimes(home.fileOfSize("Downloads/viewer.deb", 300 * 1024), old, old);
+    AppModel app(quick());
+    const HomeModel model(app);
+    scan(app);
+    ASSERT_GT(app.results()->safeBytes(), 0);
+    EXPECT_EQ(app.results()->selectedAmount().bytes, 0) << "not by itself";
+    EXPECT_FALSE(model.isSafeSelected());
+    app.results()->selectSafe();
+    EXPECT_EQ(app.results()->selectedAmount().bytes, app.results()->safeBytes());
+    EXPECT_TRUE(model.isSafeSelected());
+}
+
 TEST(HomeModelTest, asksForAnotherScanOnceAnotherThresholdIsChosen)
 {
     const TempHome home;

@@ -225,4 +225,28 @@ TEST_F(PlanModelTest, tickingASectionTouchesOnlyWhatMatchesTheFilter)
     EXPECT_EQ(m_plan.checkedCount(), 2);
 }
 
+TEST_F(PlanModelTest, aKeptFileAndItsCopiesAreNotTickedTogether)
+{
+    QSettings().clear();
+    FileEntry copy = entry("copy", 60);
+    const FileEntry kept = entry("kept", 60);
+    copy.kept = KeptFile{kept.path, {}};
+    const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
+    FileEntry inside = entry("f/inside", 16);
+    inside.kept = KeptFile{m_home.path(".cache/f/other"), {}};
+    CleanPlan plan;
+    plan.sections.push_back({"largeFiles", Message::verbatim("Large files"), "", {kept, folder}});
+    plan.sections.push_back({"duplicates", Message::verbatim("Duplicate files"), "", {copy, inside}});
+    WindowState::of(m_app).setSheet(PlanSheet{plan});
+    EXPECT_EQ(marks(), QStringList({"1", "0", "2", "2", "2", "2"})) << "a folder with both moves as a whole";
+    m_plan.toggle(1);
+    EXPECT_EQ(marks(), QStringList({"2", "2", "2", "1", "0", "2"})) << "what was ticked last";
+    m_plan.toggle(4);
+    EXPECT_EQ(marks(), QStringList({"1", "0", "2", "2", "2", "2"}));
+    m_plan.checkAll();
+    EXPECT_EQ(marks(), QStringList({"1", "0", "2", "2", "2", "2"}));
+    m_plan.uncheckAll();
+    EXPECT_EQ(m_plan.checkedCount(), 0);
+}
+
 } // namespace orlen

@@ -50,7 +50,7 @@ Flow {
             required property string modelData
             required property int index
 
-            objectName: "sort-" + index
+            objectName: root.fieldName + "-" + index
             text: modelData
             active: root.current === index
             reversed: root.reversed

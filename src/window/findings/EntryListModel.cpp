@@ -2,20 +2,19 @@
 
 #include "platform/text/PathText.h"
 #include "window/WindowTexts.h"
+#include "window/findings/EntryCell.h"
 #include "window/lists/DisplayText.h"
-#include "window/lists/FileSymbol.h"
 #include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/Remembered.h"
-#include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
 
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <numeric>
 #include <optional>
+#include <utility>
 
 namespace orlen {
 
@@ -23,27 +22,6 @@ namespace {
 
 /// With this many separate pieces, a reset is quicker than removing them one by one.
 constexpr std::size_t kMostPieces = 100;
-
-struct Piece {
-    int first = 0;
-    int last = 0;
-};
-
-/// Marks the old entries that remain; nothing unless `after` is a subsequence of `before`.
-std::optional<std::vector<bool>> keptOf(const std::vector<FileEntry>& before,
-                                        const std::vector<FileEntry>& after)
-{
-    std::vector<bool> isKept(before.size());
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        isKept[i] = next < after.size() && before[i] == after[next];
-        if (isKept[i])
-            ++next;
-    }
-    if (next < after.size())
-        return std::nullopt;
-    return isKept;
-}
 
 } // namespace
 
@@ -87,12 +65,9 @@ void EntryListModel::load()
     const Finding* finding = shownFinding();
     beginResetModel();
     m_header = headerOf(finding);
-    m_rating = finding == nullptr ? Rating::review : finding->rating;
-    m_entries = finding == nullptr ? std::vector<FileEntry>() : finding->items;
-    m_words.clear();
-    m_isSelected.assign(m_entries.size(), false);
+    m_rows = finding == nullptr ? EntryRows() : EntryRows(finding->items, finding->rating);
+    m_rows.readSelection(m_app.results()->selection());
     arrange();
-    readSelection();
     endResetModel();
     count();
     Q_EMIT findingChanged();
@@ -103,111 +78,61 @@ void EntryListModel::followFindings()
     const Finding* finding = shownFinding();
     const std::vector<FileEntry> none;
     const std::vector<FileEntry>& entries = finding == nullptr ? none : finding->items;
-    const auto isKept = keptOf(m_entries, entries);
+    const auto isKept = m_rows.keptIn(entries);
     if (!isKept) {
-        const auto wasThere = m_entries.empty() ? std::nullopt : keptOf(entries, m_entries);
+        const auto wasThere = m_rows.entries().empty() ? std::nullopt : m_rows.thoseIn(entries);
         if (wasThere)
-            growTo(entries, *wasThere);
+            grow(entries, *wasThere);
         else
             load();
         return;
     }
-    if (entries.size() == m_entries.size())
+    if (entries.size() == m_rows.entries().size())
         return;
     takeOutRows(*isKept);
-    dropEntries(*isKept);
+    m_rows.drop(*isKept);
     count();
 }
 
 /// Adds entries between those that are there already.
-void EntryListModel::growTo(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere)
+void EntryListModel::grow(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere)
 {
-    std::vector<int> newIndex;
-    for (std::size_t i = 0; i < wasThere.size(); ++i) {
-        if (wasThere[i])
-            newIndex.push_back(static_cast<int>(i));
-    }
-    m_entries = entries;
-    m_words.clear();
-    m_isSelected.assign(m_entries.size(), false);
-    readSelection();
-    for (int& row : m_rows)
-        row = newIndex[static_cast<std::size_t>(row)];
-    setRows(m_rows, wantedRows(), [](int entry) { return std::to_string(entry); });
+    m_rows.grow(entries, wasThere);
+    m_rows.readSelection(m_app.results()->selection());
+    setRows(m_rows.rows(), m_rows.wanted(m_wish), [](int entry) { return std::to_string(entry); });
     count();
 }
 
 void EntryListModel::takeOutRows(const std::vector<bool>& isKept)
 {
-    std::vector<Piece> pieces;
-    for (int row = 0; row < rowCount(); ++row) {
-        if (isKept[entryIndex(row)])
-            continue;
-        if (pieces.empty() || pieces.back().last != row - 1)
-            pieces.push_back({row, row});
-        else
-            pieces.back().last = row;
-    }
+    const std::vector<EntryRows::Piece> pieces = m_rows.goneRows(isKept);
+    std::vector<int>& rows = m_rows.rows();
     if (pieces.size() > kMostPieces) {
         beginResetModel();
-        std::erase_if(m_rows, [&](int entry) { return !isKept[static_cast<std::size_t>(entry)]; });
+        std::erase_if(rows, [&](int entry) { return !isKept[static_cast<std::size_t>(entry)]; });
         endResetModel();
         return;
     }
     // From the end, so that the remaining row numbers stay valid.
     for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
         beginRemoveRows({}, piece->first, piece->last);
-        m_rows.erase(m_rows.begin() + piece->first, m_rows.begin() + piece->last + 1);
+        rows.erase(rows.begin() + piece->first, rows.begin() + piece->last + 1);
         endRemoveRows();
     }
-}
-
-/// Removes entries that no row shows any more.
-void EntryListModel::dropEntries(const std::vector<bool>& isKept)
-{
-    std::vector<int> newIndex(isKept.size());
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < isKept.size(); ++i) {
-        if (!isKept[i])
-            continue;
-        newIndex[i] = static_cast<int>(next);
-        if (next != i)
-            m_entries[next] = std::move(m_entries[i]);
-        m_isSelected[next] = m_isSelected[i];
-        ++next;
-    }
-    m_entries.resize(next);
-    m_isSelected.resize(next);
-    m_words.clear();
-    for (int& row : m_rows)
-        row = newIndex[static_cast<std::size_t>(row)];
 }
 
 void EntryListModel::followSelection()
 {
     if (m_isSelecting)
         return;
-    readSelection();
+    m_rows.readSelection(m_app.results()->selection());
     allChanged(Role::marked);
     count();
 }
 
-void EntryListModel::readSelection()
-{
-    for (std::size_t i = 0; i < m_entries.size(); ++i)
-        m_isSelected[i] = m_app.results()->selection().contains(m_entries[i].path);
-}
-
-std::vector<int> EntryListModel::wantedRows()
-{
-    if (m_words.empty() && EntryOrder::needsWords(m_wish))
-        m_words = EntryOrder::wordsOf(m_entries);
-    return EntryOrder::inSets(EntryOrder::rows(m_entries, m_words, m_wish, m_rating), m_entries);
-}
-
 void EntryListModel::arrange()
 {
-    m_rows = wantedRows();
+    m_rows.rows() = m_rows.wanted(m_wish);
 }
 
 void EntryListModel::setFilter(const QString& filter)
@@ -235,17 +160,16 @@ void EntryListModel::sortBy(Key key)
 void EntryListModel::toggle(int row)
 {
     if (hasRow(row))
-        setSelected({row}, !m_isSelected[entryIndex(row)]);
+        setSelected({row}, !m_rows.isSelected(row));
 }
 
 void EntryListModel::toggleShown()
 {
-    const bool isOneMissing = std::ranges::any_of(m_rows, [this](int row) {
-        const auto entry = static_cast<std::size_t>(row);
-        return !m_isSelected[entry] && isTickedAlong(m_entries[entry], m_rating);
-    });
+    const std::vector<int> unticked = m_rows.rowsWithout(true);
+    const bool isOneMissing =
+        std::ranges::any_of(unticked, [this](int row) { return m_rows.isTickedAlong(row); });
     // With none to untick either, this says why.
-    setShown(isOneMissing || m_shownCount == 0);
+    setShown(isOneMissing || m_figures.shown == 0);
 }
 
 void EntryListModel::selectShown()
@@ -260,9 +184,7 @@ void EntryListModel::deselectShown()
 
 void EntryListModel::setShown(bool isSelected)
 {
-    std::vector<int> rows(m_rows.size());
-    std::iota(rows.begin(), rows.end(), 0);
-    std::erase_if(rows, [&](int row) { return m_isSelected[entryIndex(row)] == isSelected; });
+    std::vector<int> rows = m_rows.rowsWithout(isSelected);
     if (isSelected)
         tickAlong(std::move(rows));
     else
@@ -274,19 +196,15 @@ void EntryListModel::tickAlong(std::vector<int> rows)
 {
     if (!m_header.isCleanable)
         return;
-    const std::size_t left =
-        std::erase_if(rows, [&](int row) { return !isTickedAlong(entryAt(row), m_rating); });
+    const std::size_t left = std::erase_if(rows, [this](int row) { return !m_rows.isTickedAlong(row); });
     setSelected(rows, true);
     LeftUnticked::say(m_app, left);
 }
 
 void EntryListModel::tickIn(const std::string& folder)
 {
-    std::vector<int> rows(m_rows.size());
-    std::iota(rows.begin(), rows.end(), 0);
-    std::erase_if(rows, [&](int row) {
-        return m_isSelected[entryIndex(row)] || !PathText::isAtOrBelow(entryAt(row).path, folder);
-    });
+    std::vector<int> rows = m_rows.rowsWithout(true);
+    std::erase_if(rows, [&](int row) { return !PathText::isAtOrBelow(m_rows.at(row).path, folder); });
     tickAlong(std::move(rows));
 }
 
@@ -294,7 +212,7 @@ std::optional<RowSubject> EntryListModel::subject(int row) const
 {
     if (!hasRow(row))
         return std::nullopt;
-    return RowSubject{.path = entryAt(row).path,
+    return RowSubject{.path = m_rows.at(row).path,
                       .isOffered = m_header.isCleanable,
                       .isTickable = m_header.isCleanable,
                       .isCopy = m_findingId == DisplayText::text(rawValue(FindingKind::duplicates))};
@@ -307,8 +225,8 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
     std::vector<std::string> paths;
     paths.reserve(rows.size());
     for (const int row : rows) {
-        paths.push_back(entryAt(row).path);
-        m_isSelected[entryIndex(row)] = isSelected;
+        paths.push_back(m_rows.at(row).path);
+        m_rows.setSelected(row, isSelected);
     }
     {
         // When folders are listed with their contents, other rows change too.
@@ -324,80 +242,47 @@ void EntryListModel::setSelected(const std::vector<int>& rows, bool isSelected)
 
 void EntryListModel::count()
 {
-    std::vector<const FileEntry*> selected;
-    m_hasNotes = false;
-    m_isInSets =
-        std::ranges::any_of(m_entries, [](const FileEntry& entry) { return entry.kept.has_value(); });
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        m_hasNotes = m_hasNotes || !m_entries[i].notes.empty();
-        if (m_isSelected[i])
-            selected.push_back(&m_entries[i]);
-    }
-    m_selectedCount = static_cast<int>(selected.size());
-    m_selectedBytes =
-        selected.empty() ? 0 : PathSelection::sizeOf(std::move(selected), m_app.results()->listed());
-    const auto isSelected = [this](int entry) { return m_isSelected[static_cast<std::size_t>(entry)]; };
-    m_shownCount = static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isSelected));
+    m_figures = m_rows.figures(m_app.results()->listed());
     Q_EMIT figuresChanged();
 }
 
 QString EntryListModel::selectedText() const
 {
     if (!m_header.isCleanable)
-        return DisplayText::facts(
-            {DisplayText::counted(entryCount(), WindowTexts::kItems), DisplayText::size(sizeOf(m_entries))});
+        return DisplayText::facts({DisplayText::counted(entryCount(), WindowTexts::kItems),
+                                   DisplayText::size(sizeOf(m_rows.entries()))});
     return DisplayText::facts(
-        {DisplayText::selectedOf(m_selectedCount, entryCount()), DisplayText::size(m_selectedBytes)});
-}
-
-std::size_t EntryListModel::entryIndex(int row) const
-{
-    return static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)]);
+        {DisplayText::selectedOf(m_figures.selected, entryCount()), DisplayText::size(m_figures.bytes)});
 }
 
 QVariant EntryListModel::value(std::size_t number, int role) const
 {
     const int row = static_cast<int>(number);
-    const FileEntry& entry = entryAt(row);
-    switch (static_cast<Role>(role)) {
-    case Role::name:
-        return DisplayText::nameOf(entry.path);
-    case Role::folder:
-        return DisplayText::folderOf(entry.path);
-    case Role::size:
-        return DisplayText::size(entry.size);
-    case Role::date:
-        return DisplayText::dateOf(entry);
-    case Role::note:
-        return DisplayText::text(noteOf(entry));
-    case Role::rating:
-        return QVariant::fromValue(RatingValue(entry.rating.value_or(m_rating)));
-    case Role::symbol:
-        return m_folders->isFolder(entry.path) ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
-    case Role::thumbnail:
-        return m_folders->isFolder(entry.path) ? QString() : Thumbnails::source(entry.path);
-    case Role::marked:
-        return static_cast<bool>(m_isSelected[entryIndex(row)]);
-    case Role::kept:
+    const FileEntry& entry = m_rows.at(row);
+    const auto wanted = static_cast<Role>(role);
+    if (wanted == Role::rating)
+        return QVariant::fromValue(RatingValue(entry.rating.value_or(m_rows.rating())));
+    if (wanted == Role::marked)
+        return m_rows.isSelected(row);
+    if (wanted == Role::kept)
         return entry.kept ? DisplayText::shortPath(entry.kept->path) : QString();
-    }
-    return {};
+    return EntryCell::value(entry, wanted, *m_folders);
 }
 
 QString EntryListModel::pathAt(int row) const
 {
-    return hasRow(row) ? PathCode::of(entryAt(row).path) : QString();
+    return hasRow(row) ? PathCode::of(m_rows.at(row).path) : QString();
 }
 
 QString EntryListModel::sizeAt(int row) const
 {
-    return hasRow(row) ? DisplayText::size(entryAt(row).size) : QString();
+    return hasRow(row) ? DisplayText::size(m_rows.at(row).size) : QString();
 }
 
 void EntryListModel::reveal(int row) const
 {
     if (hasRow(row))
-        Reveal::show(entryAt(row).path);
+        Reveal::show(m_rows.at(row).path);
 }
 
 void EntryListModel::review()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/findings/EntryOrder.h"
+#include "window/findings/EntryRows.h"
 #include "window/findings/FindingHeader.h"
 #include "window/findings/FolderLookup.h"
 #include "window/lists/DisplayText.h"
@@ -68,17 +69,20 @@ public:
     [[nodiscard]] QString findingId() const { return m_findingId; }
     void setFindingId(const QString& id);
     [[nodiscard]] const FindingHeader& header() const { return m_header; }
-    [[nodiscard]] bool hasNotes() const { return m_hasNotes; }
-    [[nodiscard]] bool isInSets() const { return m_isInSets; }
+    [[nodiscard]] bool hasNotes() const { return m_figures.hasNotes; }
+    [[nodiscard]] bool isInSets() const { return m_figures.isInSets; }
     [[nodiscard]] Key key() const { return static_cast<Key>(m_wish.key); }
     [[nodiscard]] bool isReversed() const { return m_wish.direction == EntryOrder::Direction::reversed; }
     [[nodiscard]] QString filter() const { return m_wish.filter; }
     void setFilter(const QString& filter);
-    [[nodiscard]] int entryCount() const { return static_cast<int>(m_entries.size()); }
-    [[nodiscard]] int selectedCount() const { return m_selectedCount; }
+    [[nodiscard]] int entryCount() const { return static_cast<int>(m_rows.entries().size()); }
+    [[nodiscard]] int selectedCount() const { return m_figures.selected; }
     [[nodiscard]] QString selectedText() const;
-    [[nodiscard]] QString selectedSizeText() const { return DisplayText::size(m_selectedBytes); }
-    [[nodiscard]] Qt::CheckState shownState() const { return checkStateOf(m_shownCount, m_rows.size()); }
+    [[nodiscard]] QString selectedSizeText() const { return DisplayText::size(m_figures.bytes); }
+    [[nodiscard]] Qt::CheckState shownState() const
+    {
+        return checkStateOf(m_figures.shown, m_rows.rows().size());
+    }
 
     /// Sorts by the key, or reverses the order if already sorted by it.
     Q_INVOKABLE void sortBy(orlen::EntryListModel::Key key);
@@ -105,7 +109,7 @@ Q_SIGNALS:
     void figuresChanged();
 
 private:
-    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] int length() const override { return static_cast<int>(m_rows.rows().size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
     [[nodiscard]] const Finding* shownFinding() const;
@@ -113,33 +117,20 @@ private:
     void load();
     void followFindings();
     void followSelection();
-    void readSelection();
-    void growTo(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere);
-    [[nodiscard]] std::vector<int> wantedRows();
+    void grow(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere);
     void arrange();
     void takeOutRows(const std::vector<bool>& isKept);
-    void dropEntries(const std::vector<bool>& isKept);
     void setShown(bool isSelected);
     void tickAlong(std::vector<int> rows);
     void setSelected(const std::vector<int>& rows, bool isSelected);
     void count();
-    [[nodiscard]] std::size_t entryIndex(int row) const;
-    [[nodiscard]] const FileEntry& entryAt(int row) const { return m_entries[entryIndex(row)]; }
 
     AppModel& m_app;
     QString m_findingId;
     FindingHeader m_header;
-    Rating m_rating = Rating::review; ///< for entries without their own
     EntryOrder::Wish m_wish;
-    std::vector<FileEntry> m_entries;       ///< in the finding's order
-    std::vector<bool> m_isSelected;         ///< of each entry
-    std::vector<EntryOrder::Words> m_words; ///< of each entry; built when first needed
-    std::vector<int> m_rows;                ///< each row's index into `m_entries`
-    int m_selectedCount = 0;
-    int m_shownCount = 0; ///< number of selected rows
-    std::int64_t m_selectedBytes = 0;
-    bool m_hasNotes = false;
-    bool m_isInSets = false;
+    EntryRows m_rows;
+    EntryRows::Figures m_figures;
     bool m_isSelecting = false; ///< while this model changes the selection itself
     FolderLookup* m_folders;
 };

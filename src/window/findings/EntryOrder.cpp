@@ -1,5 +1,6 @@
 #include "window/findings/EntryOrder.h"
 
+#include "platform/text/PathText.h"
 #include "window/lists/DisplayText.h"
 
 #include <QStringList>
@@ -64,9 +65,14 @@ std::vector<Words> wordsOf(std::span<const FileEntry> entries)
 {
     std::vector<Words> words;
     words.reserve(entries.size());
-    for (const FileEntry& entry : entries)
-        words.push_back({DisplayText::nameOf(entry.path).toCaseFolded(),
-                         DisplayText::folderOf(entry.path).toCaseFolded()});
+    // Many entries share a folder; turning each path into a text takes most of the time.
+    std::unordered_map<std::string_view, QString> folders;
+    for (const FileEntry& entry : entries) {
+        const auto [folder, isNew] = folders.try_emplace(PathText::parent(entry.path));
+        if (isNew)
+            folder->second = DisplayText::folderOf(entry.path).toCaseFolded();
+        words.push_back({DisplayText::nameOf(entry.path).toCaseFolded(), folder->second});
+    }
     return words;
 }
 

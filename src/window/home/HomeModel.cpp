@@ -56,6 +56,7 @@ HomeModel::HomeModel(AppModel& app) : m_app(app)
 {
     connect(m_app.results(), &Results::phaseChanged, this, &HomeModel::phaseChanged);
     connect(m_app.results(), &Results::findingsChanged, this, &HomeModel::countResults);
+    connect(m_app.results(), &Results::findingsChanged, this, &HomeModel::countSelection);
     connect(m_app.results(), &Results::selectionChanged, this, &HomeModel::countSelection);
     connect(&WindowState::of(m_app), &WindowState::sheetChanged, this, &HomeModel::countSelection);
     connect(m_app.results(), &Results::largeThresholdMBChanged, this, &HomeModel::thresholdChanged);

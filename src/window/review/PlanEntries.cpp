@@ -7,12 +7,13 @@
 
 namespace orlen {
 
-void PlanEntries::arrange(const CleanPlan& plan, const Paths& excluded, const EntryOrder::Wish& wish)
+void PlanEntries::arrange(const PlanChoice& choice, const EntryOrder::Wish& wish)
 {
+    const PlanChoice::Paths& excluded = choice.excluded();
     m_hasNotes = false;
     for (std::size_t number = 0; number < m_sections.size(); ++number) {
         Section& section = m_sections[number];
-        const PlanSection& planned = plan.sections[number];
+        const PlanSection& planned = choice.plan().sections[number];
         if (section.words.empty() && EntryOrder::needsWords(wish))
             section.words = EntryOrder::wordsOf(planned.entries);
         EntryOrder::Wish here = wish;
@@ -31,6 +32,15 @@ void PlanEntries::arrange(const CleanPlan& plan, const Paths& excluded, const En
             m_hasNotes = m_hasNotes || !entry.notes.empty();
         }
     }
+}
+
+std::vector<PlanChoice::Place> PlanEntries::places(std::size_t section) const
+{
+    std::vector<PlanChoice::Place> places;
+    places.reserve(shown(section).size());
+    for (const int entry : shown(section))
+        places.push_back({section, static_cast<std::size_t>(entry)});
+    return places;
 }
 
 int PlanEntries::count() const

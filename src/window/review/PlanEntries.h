@@ -1,12 +1,9 @@
 #pragma once
 
-#include "model/CleanPlan.h"
 #include "window/findings/EntryOrder.h"
+#include "window/review/PlanChoice.h"
 
 #include <cstddef>
-#include <functional>
-#include <set>
-#include <string>
 #include <vector>
 
 namespace orlen {
@@ -15,19 +12,19 @@ namespace orlen {
 /// name, their folder or the title of their section. A plain value; main thread.
 class PlanEntries {
 public:
-    using Paths = std::set<std::string, std::less<>>;
-
     PlanEntries() = default;
     explicit PlanEntries(const CleanPlan& plan) : m_sections(plan.sections.size()) {}
 
     /// Of the plan that this was made for, without what is excluded.
-    void arrange(const CleanPlan& plan, const Paths& excluded, const EntryOrder::Wish& wish);
+    void arrange(const PlanChoice& choice, const EntryOrder::Wish& wish);
 
     /// The numbers of the section's entries that are shown.
     [[nodiscard]] const std::vector<int>& shown(std::size_t section) const
     {
         return m_sections[section].shown;
     }
+    /// The same as places in the plan.
+    [[nodiscard]] std::vector<PlanChoice::Place> places(std::size_t section) const;
     /// How many there are without the filter.
     [[nodiscard]] int count(std::size_t section) const { return m_sections[section].count; }
     [[nodiscard]] int count() const;

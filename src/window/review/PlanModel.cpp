@@ -1,19 +1,20 @@
 #include "window/review/PlanModel.h"
 
-#include "model/Finding.h"
-#include "platform/text/PathText.h"
+#include "window/findings/EntryCell.h"
 #include "window/lists/DisplayText.h"
-#include "window/lists/FileSymbol.h"
 #include "window/lists/LeftUnticked.h"
 #include "window/lists/PathCode.h"
 #include "window/lists/RatingValue.h"
 #include "window/lists/Remembered.h"
-#include "window/preview/Thumbnails.h"
+#include "window/review/KeptApart.h"
+#include "window/review/PlanSectionCell.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
 
 #include <algorithm>
-#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
 #include <utility>
 
 namespace orlen {
@@ -22,17 +23,10 @@ namespace {
 
 constexpr int kHeading = -1;
 const QString kReviewOrder = QStringLiteral("review");
-constexpr QRgb kUsualTone = 0xff5b5fe0; // for a section that matches no kind of finding
 
 std::size_t place(int number)
 {
     return static_cast<std::size_t>(number);
-}
-
-QColor toneOf(const PlanSection& section)
-{
-    const auto kind = kindFromRaw(section.id);
-    return kind ? DisplayText::colour(meta(*kind).category) : QColor(kUsualTone);
 }
 
 } // namespace
@@ -50,19 +44,16 @@ void PlanModel::follow()
     if (!WindowState::of(m_app).sheet())
         return;
     const auto* sheet = std::get_if<PlanSheet>(&*WindowState::of(m_app).sheet());
-    if (sheet != nullptr && (!m_plan || m_plan->id != sheet->plan.id))
+    if (sheet != nullptr && m_choice.plan().id != sheet->plan.id)
         show(sheet->plan);
 }
 
 void PlanModel::show(const CleanPlan& plan)
 {
     beginResetModel();
-    m_plan = plan;
-    m_ticks = PlanTicks(plan);
+    m_choice = PlanChoice(plan, m_app.exclusions()->current());
+    m_keptApart = m_choice.keptApart();
     m_isFolded.assign(plan.sections.size(), false);
-    m_excluded.clear();
-    m_checkedBefore.clear();
-    exclude();
     m_entries = PlanEntries(plan);
     m_wish = Remembered::order(kReviewOrder);
     arrange();
@@ -70,6 +61,8 @@ void PlanModel::show(const CleanPlan& plan)
     Q_EMIT orderChanged();
     Q_EMIT planChanged();
     Q_EMIT figuresChanged();
+    if (m_keptApart > 0)
+        KeptApart::say(m_app);
 }
 
 std::vector<PlanModel::Row> PlanModel::entriesOf(int number) const
@@ -80,18 +73,10 @@ std::vector<PlanModel::Row> PlanModel::entriesOf(int number) const
     return rows;
 }
 
-std::vector<PlanTicks::Place> PlanModel::placesOf(int number) const
-{
-    std::vector<PlanTicks::Place> places;
-    for (const int entry : m_entries.shown(place(number)))
-        places.push_back({place(number), place(entry)});
-    return places;
-}
-
 std::vector<PlanModel::Row> PlanModel::wantedRows() const
 {
     std::vector<Row> rows;
-    for (int number = 0; number < static_cast<int>(m_plan->sections.size()); ++number) {
+    for (int number = 0; number < static_cast<int>(m_choice.plan().sections.size()); ++number) {
         const std::vector<Row> entries = entriesOf(number);
         if (entries.empty())
             continue;
@@ -104,17 +89,15 @@ std::vector<PlanModel::Row> PlanModel::wantedRows() const
 
 void PlanModel::arrange()
 {
-    m_entries.arrange(*m_plan, m_excluded, m_wish);
+    m_entries.arrange(m_choice, m_wish);
     m_rows = wantedRows();
 }
 
 void PlanModel::rearrange()
 {
-    if (m_plan) {
-        beginResetModel();
-        arrange();
-        endResetModel();
-    }
+    beginResetModel();
+    arrange();
+    endResetModel();
     Q_EMIT orderChanged();
 }
 
@@ -133,42 +116,10 @@ void PlanModel::sortBy(int key)
     rearrange();
 }
 
-std::vector<PlanTicks::Place> PlanModel::placesOf(const Paths& paths) const
-{
-    std::vector<PlanTicks::Place> places;
-    for (std::size_t number = 0; number < m_plan->sections.size(); ++number) {
-        const std::vector<FileEntry>& entries = m_plan->sections[number].entries;
-        for (std::size_t entry = 0; entry < entries.size(); ++entry) {
-            if (paths.contains(entries[entry].path))
-                places.push_back({number, entry});
-        }
-    }
-    return places;
-}
-
-/// Takes out of the ticks what is excluded now, and back what no longer is.
-void PlanModel::exclude()
-{
-    const Paths before = std::exchange(m_excluded, m_app.exclusions()->current().excludedIn(*m_plan));
-    Paths added;
-    Paths returned;
-    std::ranges::set_difference(m_excluded, before, std::inserter(added, added.end()));
-    std::ranges::set_difference(before, m_excluded, std::inserter(returned, returned.end()));
-    std::erase_if(returned, [this](const std::string& path) { return m_checkedBefore.erase(path) == 0; });
-    for (const PlanTicks::Place& at : placesOf(added)) {
-        if (m_ticks.isTicked(at.section, at.entry))
-            m_checkedBefore.insert(m_plan->sections[at.section].entries[at.entry].path);
-    }
-    m_ticks.leaveOut(placesOf(added));
-    m_ticks.takeBack(placesOf(returned));
-}
-
 void PlanModel::followExclusions()
 {
-    if (!m_plan)
-        return;
-    exclude();
-    m_entries.arrange(*m_plan, m_excluded, m_wish);
+    m_choice.exclude(m_app.exclusions()->current());
+    m_entries.arrange(m_choice, m_wish);
     setRows(m_rows, wantedRows(),
             [](const Row& row) { return std::to_string(row.section) + ' ' + std::to_string(row.entry); });
     Q_EMIT planChanged();
@@ -177,7 +128,7 @@ void PlanModel::followExclusions()
 
 QString PlanModel::title() const
 {
-    return m_plan ? DisplayText::text(m_plan->title) : QString();
+    return m_choice.plan().sections.empty() ? QString() : DisplayText::text(m_choice.plan().title);
 }
 
 void PlanModel::toggle(int row)
@@ -187,23 +138,12 @@ void PlanModel::toggle(int row)
     const auto [number, entry] = at(row);
     const bool isChecked = checkState(at(row)) != Qt::Checked;
     if (entry == kHeading && m_wish.filter.isEmpty())
-        m_ticks.setSection(place(number), isChecked);
+        m_choice.setSection(place(number), isChecked);
     else if (entry == kHeading)
-        setShown(number, isChecked);
+        m_choice.set(m_entries.places(place(number)), isChecked); // only what matches the filter
     else
-        m_ticks.set(place(number), place(entry), isChecked);
-    m_ticks.leaveOut(placesOf(m_excluded));
+        m_choice.set({place(number), place(entry)}, isChecked);
     followTicks();
-}
-
-void PlanModel::checkAll()
-{
-    setAllChecked(true);
-}
-
-void PlanModel::uncheckAll()
-{
-    setAllChecked(false);
 }
 
 void PlanModel::setAllChecked(bool isChecked)
@@ -211,20 +151,10 @@ void PlanModel::setAllChecked(bool isChecked)
     if (m_rows.empty())
         return;
     if (m_wish.filter.isEmpty())
-        m_ticks.setAll(isChecked);
+        m_choice.setAll(isChecked);
     for (int number = 0; !m_wish.filter.isEmpty() && number < static_cast<int>(m_isFolded.size()); ++number)
-        setShown(number, isChecked);
-    m_ticks.leaveOut(placesOf(m_excluded));
+        m_choice.set(m_entries.places(place(number)), isChecked);
     followTicks();
-}
-
-/// With a filter, only what matches it.
-void PlanModel::setShown(int number, bool isChecked)
-{
-    if (isChecked)
-        m_ticks.tick(placesOf(number));
-    else
-        m_ticks.leaveOut(placesOf(number));
 }
 
 /// Rows in other sections may show the same path or one inside it.
@@ -232,6 +162,8 @@ void PlanModel::followTicks()
 {
     allChanged(Role::mark, Role::folder, Role::size);
     Q_EMIT figuresChanged();
+    if (std::exchange(m_keptApart, m_choice.keptApart()) != m_choice.keptApart())
+        KeptApart::say(m_app);
 }
 
 void PlanModel::fold(int row)
@@ -272,7 +204,7 @@ int PlanModel::headingOf(int row) const
 
 const PlanSection& PlanModel::section(int number) const
 {
-    return m_plan->sections[place(number)];
+    return m_choice.plan().sections[place(number)];
 }
 
 const FileEntry* PlanModel::entryAt(int row) const
@@ -286,11 +218,11 @@ Qt::CheckState PlanModel::checkState(const Row& row) const
 {
     const std::size_t number = place(row.section);
     if (row.entry != kHeading)
-        return m_ticks.isTicked(number, place(row.entry)) ? Qt::Checked : Qt::Unchecked;
+        return m_choice.isTicked({number, place(row.entry)}) ? Qt::Checked : Qt::Unchecked;
     const std::vector<int>& shown = m_entries.shown(number);
     if (m_wish.filter.isEmpty())
-        return checkStateOf(m_ticks.count(number), shown.size());
-    const auto isTicked = [&](int entry) { return m_ticks.isTicked(number, place(entry)); };
+        return checkStateOf(m_choice.ticks().count(number), shown.size());
+    const auto isTicked = [&](int entry) { return m_choice.isTicked({number, place(entry)}); };
     return checkStateOf(std::ranges::count_if(shown, isTicked), shown.size());
 }
 
@@ -308,42 +240,18 @@ QVariant PlanModel::value(std::size_t number, int role) const
     if (wanted == Role::folded)
         return bool{m_isFolded[place(row.section)]};
     if (wanted == Role::tone)
-        return toneOf(section(row.section));
-    return isHeading ? sectionData(row.section, wanted) : entryData(row, wanted);
-}
-
-QVariant PlanModel::sectionData(int number, Role role) const
-{
-    const PlanSection& shown = section(number);
-    if (role == Role::name)
-        return DisplayText::text(shown.title);
-    if (role == Role::folder)
-        return DisplayText::selectedOf(m_ticks.count(place(number)), m_entries.count(place(number)));
-    if (role == Role::size)
-        return DisplayText::size(m_ticks.bytes(place(number)));
-    if (role == Role::symbol)
-        return DisplayText::text(shown.symbol);
-    return role == Role::rating ? QVariant::fromValue(RatingValue()) : QString();
+        return PlanSectionCell::tone(section(row.section));
+    if (!isHeading)
+        return entryData(row, wanted);
+    const std::size_t at = place(row.section);
+    return PlanSectionCell::value(section(row.section), wanted, m_choice.ticks(), at, m_entries.count(at));
 }
 
 QVariant PlanModel::entryData(const Row& row, Role role) const
 {
     const FileEntry& entry = section(row.section).entries[place(row.entry)];
-    if (role == Role::name)
-        return DisplayText::nameOf(entry.path);
-    if (role == Role::folder)
-        return DisplayText::folderOf(entry.path);
-    if (role == Role::size)
-        return DisplayText::size(entry.size);
-    if (role == Role::date)
-        return DisplayText::dateOf(entry);
-    if (role == Role::note)
-        return DisplayText::text(noteOf(entry));
-    const bool isFolder = m_folders->isFolder(entry.path);
-    if (role == Role::symbol)
-        return isFolder ? FileSymbol::ofFolder() : FileSymbol::ofName(entry.path);
-    if (role == Role::thumbnail)
-        return isFolder ? QString() : Thumbnails::source(entry.path);
+    if (role != Role::rating)
+        return EntryCell::value(entry, role, *m_folders);
     const std::optional<Rating> rating = entry.rating ? entry.rating : section(row.section).rating;
     return QVariant::fromValue(rating ? RatingValue(*rating) : RatingValue());
 }
@@ -376,21 +284,9 @@ std::optional<RowSubject> PlanModel::subject(int row) const
 
 void PlanModel::tickIn(const std::string& folder)
 {
-    std::vector<PlanTicks::Place> places;
-    Paths left;
-    for (int number = 0; m_plan && number < static_cast<int>(m_plan->sections.size()); ++number) {
-        for (const Row& row : entriesOf(number)) {
-            const FileEntry& entry = section(number).entries[place(row.entry)];
-            if (m_ticks.isTicked(place(number), place(row.entry)) ||
-                !PathText::isAtOrBelow(entry.path, folder))
-                continue;
-            if (isTickedAlong(entry, section(number).rating.value_or(Rating::review)))
-                places.push_back({place(number), place(row.entry)});
-            else
-                left.insert(entry.path);
-        }
-    }
-    m_ticks.tick(places);
+    std::set<std::string> left;
+    for (int number = 0; number < static_cast<int>(m_isFolded.size()); ++number)
+        left.merge(m_choice.tickAlong(m_entries.places(place(number)), folder));
     LeftUnticked::say(m_app, left.size());
     followTicks();
 }
@@ -400,7 +296,7 @@ void PlanModel::confirm()
     if (!isConfirmable())
         return;
     WindowState::of(m_app).setSheet(std::nullopt);
-    m_app.cleanUps()->confirm(m_ticks.ticked(*m_plan));
+    m_app.cleanUps()->confirm(m_choice.ticked());
 }
 
 } // namespace orlen

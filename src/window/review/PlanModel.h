@@ -1,18 +1,15 @@
 #pragma once
 
-#include "model/PlanTicks.h"
 #include "window/findings/FolderLookup.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/RowsModel.h"
+#include "window/review/PlanChoice.h"
 #include "window/review/PlanEntries.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
 #include <optional>
-#include <set>
-#include <string>
 #include <vector>
 
 namespace orlen {
@@ -65,8 +62,11 @@ public:
     [[nodiscard]] bool isReversed() const { return m_wish.direction == EntryOrder::Direction::reversed; }
     [[nodiscard]] QString filter() const { return m_wish.filter; }
     void setFilter(const QString& filter);
-    [[nodiscard]] int checkedCount() const { return static_cast<int>(m_ticks.amount().items); }
-    [[nodiscard]] QString checkedSizeText() const { return DisplayText::size(m_ticks.amount().bytes); }
+    [[nodiscard]] int checkedCount() const { return static_cast<int>(m_choice.ticks().amount().items); }
+    [[nodiscard]] QString checkedSizeText() const
+    {
+        return DisplayText::size(m_choice.ticks().amount().bytes);
+    }
     [[nodiscard]] bool isConfirmable() const { return checkedCount() > 0 && m_app.isWriter(); }
 
     /// Sorts by a key of `EntryOrder`, or reverses the order if already sorted by it.
@@ -75,8 +75,8 @@ public:
     /// and, when unchecking, the folders that contain it. All functions that take a row ignore one that does
     /// not exist.
     Q_INVOKABLE void toggle(int row);
-    Q_INVOKABLE void checkAll();
-    Q_INVOKABLE void uncheckAll();
+    Q_INVOKABLE void checkAll() { setAllChecked(true); }
+    Q_INVOKABLE void uncheckAll() { setAllChecked(false); }
     /// Hides or shows the entries of a section's row.
     Q_INVOKABLE void fold(int row);
     Q_INVOKABLE void setFolded(int row, bool isFolded);
@@ -100,8 +100,6 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    using Paths = PlanEntries::Paths;
-
     struct Row {
         int section = 0;
         int entry = 0; ///< -1: the section's heading
@@ -110,32 +108,25 @@ private:
     };
 
     void follow();
-    void exclude();
     void followExclusions();
-    [[nodiscard]] std::vector<PlanTicks::Place> placesOf(const Paths& paths) const;
     /// The section's entries that are shown unless it is folded.
     [[nodiscard]] std::vector<Row> entriesOf(int number) const;
-    [[nodiscard]] std::vector<PlanTicks::Place> placesOf(int number) const;
     [[nodiscard]] std::vector<Row> wantedRows() const;
     void arrange();
     void rearrange();
     void show(const CleanPlan& plan);
-    void setShown(int number, bool isChecked);
     void setAllChecked(bool isChecked);
     void followTicks();
     [[nodiscard]] const Row& at(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
     [[nodiscard]] const PlanSection& section(int number) const;
     [[nodiscard]] const FileEntry* entryAt(int row) const;
     [[nodiscard]] Qt::CheckState checkState(const Row& row) const;
-    [[nodiscard]] QVariant sectionData(int number, Role role) const;
     [[nodiscard]] QVariant entryData(const Row& row, Role role) const;
 
     AppModel& m_app;
-    std::optional<CleanPlan> m_plan;
-    PlanTicks m_ticks;
+    PlanChoice m_choice;
+    int m_keptApart = 0;          ///< as it was said
     std::vector<bool> m_isFolded; ///< of each section
-    Paths m_excluded;             ///< entries of the plan that are not shown
-    Paths m_checkedBefore;        ///< of those, the ones that were checked
     std::vector<Row> m_rows;
     EntryOrder::Wish m_wish;
     PlanEntries m_entries;
