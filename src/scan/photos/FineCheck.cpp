@@ -142,9 +142,10 @@ FineCheck::Preview FineCheck::previewOf(const FeaturePrint::Tile& tile)
     return preview;
 }
 
-bool FineCheck::mayAgree(const CoarseSearch& one, const CoarseSearch& other)
+float FineCheck::hope(const CoarseSearch& one, const CoarseSearch& other)
 {
-    return obedience(one, other).value_or(1) >= kHopelessPreview;
+    const float found = obedience(one, other).value_or(1);
+    return found < kHopelessPreview ? 0 : found;
 }
 
 std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)

@@ -14,9 +14,9 @@ namespace orlen::FineCheck {
 using Preview = CoarseSearch::Pixels;
 [[nodiscard]] Preview previewOf(const FeaturePrint::Tile& tile);
 
-/// Whether a quick look at the previews leaves hope that `agreement` finds much. Symmetric. Some 20
-/// microseconds.
-[[nodiscard]] bool mayAgree(const CoarseSearch& one, const CoarseSearch& other);
+/// How much hope a quick look at the previews leaves that `agreement` finds much: 0 for none, up to 1.
+/// Symmetric. Some 20 microseconds.
+[[nodiscard]] float hope(const CoarseSearch& one, const CoarseSearch& other);
 
 /// The share of either tile's structure that is found in the other under one common motion, 0 to 1; much less
 /// than changed copies have if there is no hope. Symmetric. About half a millisecond for pictures that agree,

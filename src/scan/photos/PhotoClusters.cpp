@@ -6,6 +6,7 @@
 #include "scan/photos/UnpackedPhotos.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <optional>
 #include <ranges>
@@ -19,7 +20,9 @@
 // through in order.
 //
 // Of a crowd of pages with one layout each page has thousands of candidates, so what is done for one photo is
-// bounded: a quick look at the nearest, and a close one at the nearest of those that it leaves.
+// bounded: a quick look at the nearest, and a close one at the nearest of those that it leaves. A photo that
+// was looked at closely in vain again and again stands in a crowd; of all such candidates only the one that
+// the quick look found most like the newcomer gets a close look.
 
 namespace orlen {
 
@@ -30,6 +33,7 @@ using PhotoClusters::Members;
 /// What is really alike is among the nearest.
 constexpr std::size_t kMostCompared = 8;
 constexpr std::size_t kMostClosely = 4;
+constexpr std::uint8_t kCrowd = 4; ///< close looks in vain
 constexpr std::size_t kBatch = 256;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 
@@ -43,8 +47,8 @@ bool takesPart(const PhotoInfo& photo)
 struct Candidate {
     float coarse = 0;
     std::size_t photo = 0;
-    std::optional<bool> mayBeAlike; ///< if the previews were compared
-    std::optional<bool> isAlike;    ///< if they were compared closely
+    std::optional<float> hope;   ///< if the previews were compared
+    std::optional<bool> isAlike; ///< if they were compared closely
 };
 
 /// A photo of a batch, and its candidates, nearest first.
@@ -56,7 +60,8 @@ struct Newcomer {
 class Clusters {
 public:
     Clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
-        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_unpacked(photos)
+        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_inVain(photos.size()),
+          m_unpacked(photos)
     {
     }
 
@@ -69,6 +74,9 @@ public:
                 return;
             place(newcomer);
         }
+        // Only now, so that what was compared ahead is what is asked for.
+        for (const Newcomer& newcomer : newcomers)
+            count(newcomer);
     }
 
     [[nodiscard]] std::vector<Members> taken() { return std::move(m_clusters); }
@@ -85,12 +93,14 @@ private:
     [[nodiscard]] std::vector<Candidate*> hopeful(Newcomer& newcomer) const;
     [[nodiscard]] const Candidate* match(Newcomer& newcomer) const;
     void place(Newcomer& newcomer);
+    void count(const Newcomer& newcomer);
 
     const std::vector<PhotoInfo>& m_photos;
     const std::stop_token& m_stop;
     std::vector<Members> m_clusters;
     std::vector<std::size_t> m_clusterOf; ///< per photo
     PrintIndex m_firsts;                  ///< the first member of each cluster
+    std::vector<std::uint8_t> m_inVain;   ///< close looks at and for each photo, up to the limit
     UnpackedPhotos m_unpacked;
 };
 
@@ -145,23 +155,29 @@ void Clusters::compare(std::vector<Newcomer>& newcomers)
     });
 }
 
-/// The nearest candidates that the newcomer may be like, from their previews.
+/// The nearest candidates that the newcomer may be like, from their previews; of a crowd only the likeliest.
 std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
 {
     std::optional<CoarseSearch> own;
     std::vector<Candidate*> found;
+    Candidate* ofCrowd = nullptr;
     for (Candidate& candidate : newcomer.candidates | std::views::take(kMostCompared)) {
         if (found.size() == kMostClosely)
             break;
-        if (!candidate.mayBeAlike) {
+        if (!candidate.hope) {
             if (!own)
                 own.emplace(m_unpacked.preview(newcomer.photo));
-            candidate.mayBeAlike =
-                FineCheck::mayAgree(CoarseSearch(m_unpacked.preview(candidate.photo)), *own);
+            candidate.hope = FineCheck::hope(CoarseSearch(m_unpacked.preview(candidate.photo)), *own);
         }
-        if (*candidate.mayBeAlike)
+        if (*candidate.hope <= 0)
+            continue;
+        if (m_inVain[candidate.photo] < kCrowd)
             found.push_back(&candidate);
+        else if (ofCrowd == nullptr || *candidate.hope > *ofCrowd->hope)
+            ofCrowd = &candidate;
     }
+    if (ofCrowd != nullptr)
+        found.push_back(ofCrowd);
     return found;
 }
 
@@ -197,6 +213,25 @@ void Clusters::place(Newcomer& newcomer)
     m_clusterOf[newcomer.photo] = m_clusters.size();
     m_clusters.push_back({newcomer.photo});
     m_firsts.add(print(newcomer.photo).direction());
+}
+
+/// Counts for both what was looked at closely in vain; whoever is beside a crowd stands in it too. Where
+/// there is nothing fine to compare, which leaves all hope, such a look costs nothing.
+void Clusters::count(const Newcomer& newcomer)
+{
+    std::uint8_t& own = m_inVain[newcomer.photo];
+    for (const Candidate& candidate : newcomer.candidates) {
+        if (candidate.isAlike != false || candidate.hope >= 1.0F)
+            continue;
+        std::uint8_t& other = m_inVain[candidate.photo];
+        if (std::max(own, other) < kCrowd) {
+            ++own;
+            ++other;
+        } else {
+            own = kCrowd;
+            other = kCrowd;
+        }
+    }
 }
 
 } // namespace
