@@ -33,7 +33,7 @@ using PhotoClusters::Members;
 /// What is really alike is among the nearest.
 constexpr std::size_t kMostCompared = 8;
 constexpr std::size_t kMostClosely = 4;
-constexpr std::uint8_t kCrowd = 16; ///< close looks in vain
+constexpr std::uint8_t kCrowd = 4; ///< close looks in vain
 constexpr std::size_t kBatch = 256;
 constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
 
@@ -100,7 +100,7 @@ private:
     std::vector<Members> m_clusters;
     std::vector<std::size_t> m_clusterOf; ///< per photo
     PrintIndex m_firsts;                  ///< the first member of each cluster
-    std::vector<std::uint8_t> m_inVain;   ///< close looks at each photo, up to the limit
+    std::vector<std::uint8_t> m_inVain;   ///< close looks at and for each photo, up to the limit
     UnpackedPhotos m_unpacked;
 };
 
@@ -215,13 +215,22 @@ void Clusters::place(Newcomer& newcomer)
     m_firsts.add(print(newcomer.photo).direction());
 }
 
-/// Where there is nothing fine to compare, which leaves all hope, a close look costs nothing.
+/// Counts for both what was looked at closely in vain; whoever is beside a crowd stands in it too. Where
+/// there is nothing fine to compare, which leaves all hope, such a look costs nothing.
 void Clusters::count(const Newcomer& newcomer)
 {
+    std::uint8_t& own = m_inVain[newcomer.photo];
     for (const Candidate& candidate : newcomer.candidates) {
-        std::uint8_t& inVain = m_inVain[candidate.photo];
-        if (candidate.isAlike == false && candidate.hope < 1.0F && inVain < kCrowd)
-            ++inVain;
+        if (candidate.isAlike != false || candidate.hope >= 1.0F)
+            continue;
+        std::uint8_t& other = m_inVain[candidate.photo];
+        if (std::max(own, other) < kCrowd) {
+            ++own;
+            ++other;
+        } else {
+            own = kCrowd;
+            other = kCrowd;
+        }
     }
 }
 

@@ -8,6 +8,8 @@ T.ComboBox {
 
     /// What the values are for, read before the value by screen readers.
     required property string label
+    /// Whether the release of Enter opens the list.
+    property bool isAwaited: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.widened(28)
@@ -17,8 +19,21 @@ T.ComboBox {
     focusPolicy: Qt.StrongFocus
     Accessible.name: Strings.spoken([root.label, root.displayText])
 
-    Keys.onReturnPressed: root.popup.open()
-    Keys.onEnterPressed: root.popup.open()
+    // The list would close again on the release of the key that opened it.
+    Keys.onReturnPressed: event => root.awaitRelease(event)
+    Keys.onEnterPressed: event => root.awaitRelease(event)
+    Keys.onReleased: event => {
+        event.accepted = root.isAwaited && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter);
+        if (!event.accepted)
+            return;
+        root.isAwaited = false;
+        root.popup.open();
+    }
+
+    function awaitRelease(event: KeyEvent) {
+        event.accepted = !root.popup.visible;
+        root.isAwaited = event.accepted;
+    }
 
     contentItem: SmallText {
         text: root.displayText
