@@ -156,7 +156,7 @@ TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
     EXPECT_EQ(answer["findingIDs"], Json({"logs"}));
     EXPECT_EQ(answer["usedModel"], false);
     EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty()) << "a question is no scan of its own";
-    EXPECT_THAT(orlen({"ask", "--large-mb", "1", "what is large"}).out, HasSubstr("Large files: "));
+    EXPECT_THAT(orlen({"ask", "--large-mb", "1", "what is large"}).out, HasSubstr("Large files ("));
 }
 
 TEST(CommandLineTest, oddNamesAreHarmless)
