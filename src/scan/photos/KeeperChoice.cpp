@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 #include <optional>
 
 namespace orlen {
@@ -141,10 +142,15 @@ private:
         bool isPassedOver = false;
     };
 
-    /// Ascending.
+    /// All of a usual set, of a large one the nearest; ascending.
     [[nodiscard]] std::vector<std::size_t> nearTo(const SamePicture::Frame& frame) const
     {
         constexpr std::size_t kMost = 16;
+        if (m_shots.size() <= kMost) {
+            std::vector<std::size_t> all(m_shots.size());
+            std::iota(all.begin(), all.end(), std::size_t{0});
+            return all;
+        }
         const auto found = m_index.near({&frame.photo->print->direction(), 1}, kMost);
         std::vector<std::size_t> shots;
         for (const PrintIndex::Near& near : found.front())

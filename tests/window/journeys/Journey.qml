@@ -119,6 +119,8 @@ TestCase {
     /// In the middle, where it must be in the window and in use, once it no longer moves.
     function click(target: Item) {
         tryVerify(() => target.enabled, 5000, target + " is enabled");
+        // What has just changed may not have moved yet.
+        waitForRendering(test.window.contentItem, 40);
         let middle = Qt.point(-1, -1);
         tryVerify(() => {
             const last = middle;
