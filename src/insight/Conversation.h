@@ -23,7 +23,7 @@ struct Conversation {
     [[nodiscard]] bool empty() const { return last.question.phrases.empty(); }
 
     /// The conversation with one more question and answer.
-    [[nodiscard]] Conversation with(Said said) const
+    [[nodiscard]] Conversation with(const Said& said) const
     {
         const bool isOneThing =
             said.paths.size() == 1 &&

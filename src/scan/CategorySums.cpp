@@ -100,6 +100,7 @@ std::vector<CategoryFolder> CategorySums::measure(const std::vector<BreakdownFol
                                                   const std::stop_token& stop, FolderTotals& totals)
 {
     std::vector<TreeRoot> roots;
+    roots.reserve(folders.size());
     for (const BreakdownFolders::Folder& folder : folders)
         roots.push_back({folder.path, totals.addRoot(Places::current().normalized(folder.path))});
     UnreadableFolders unreadable;

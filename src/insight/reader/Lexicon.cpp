@@ -99,7 +99,7 @@ bool isTwoLettersApart(std::string_view a, std::string_view b)
 
 std::string plainLetters(std::string_view text)
 {
-    const std::string lower = LanguageTools::lowerCase(text);
+    std::string lower = LanguageTools::lowerCase(text);
     if (std::ranges::all_of(lower, [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
         return lower;
     std::string plain;

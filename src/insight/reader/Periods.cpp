@@ -163,7 +163,7 @@ private:
     }
 
     /// In English the month may come first: only what can be read in one way counts.
-    std::optional<Period> dayFirst(std::string_view word) const
+    [[nodiscard]] std::optional<Period> dayFirst(std::string_view word) const
     {
         const std::size_t first = word.find_first_of("./");
         const std::size_t second =
@@ -245,9 +245,9 @@ private:
     std::optional<Period> stretch()
     {
         const bool isAgo = take(Figure::agoBefore).has_value();
-        bool isStretch = take(Figure::previous).has_value();
-        std::optional<int> count = takeNumber(1'000);
-        isStretch = take(Figure::previous).has_value() || isStretch;
+        take(Figure::previous);
+        const std::optional<int> count = takeNumber(1'000);
+        take(Figure::previous);
         const bool isSingle = !count && !isDone() && isArticle(m_words[m_at]);
         if (isSingle)
             ++m_at;

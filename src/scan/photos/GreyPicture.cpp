@@ -37,8 +37,9 @@ GreyPicture GreyPicture::halved() const
         const float* const upper = row(2 * y);
         const float* const lower = row(std::min(2 * y + 1, m_height - 1));
         for (int x = 0; x < half.m_width; ++x) {
-            const int next = std::min(2 * x + 1, m_width - 1);
-            half.row(y)[x] = (upper[2 * x] + upper[next] + lower[2 * x] + lower[next]) / 4;
+            const int first = 2 * x;
+            const int next = std::min(first + 1, m_width - 1);
+            half.row(y)[x] = (upper[first] + upper[next] + lower[first] + lower[next]) / 4;
         }
     }
     return half;

@@ -122,6 +122,7 @@ Overlaid laidOver(GreyPicture other, const GreyPicture& page)
     for (const int reach : kReaches) {
         const FineSearch there(tileOf(overlaid.seen()));
         std::vector<BlockFind> finds;
+        finds.reserve(blocks.size());
         for (const TilePlace block : blocks)
             finds.push_back(search.find(block, there, reach));
         overlaid.add(CommonMotion::fitted(finds));

@@ -59,9 +59,9 @@ std::vector<Group> samePages(const std::vector<PhotoInfo>& photos, Group group,
             sets.push_back(std::move(group));
         if (rest.size() < 2)
             break;
-        group.keeper = KeeperChoice::keeper(photos, rest);
-        std::erase(rest, group.keeper);
-        group.others = std::move(rest);
+        const std::size_t next = KeeperChoice::keeper(photos, rest);
+        std::erase(rest, next);
+        group = {next, std::move(rest)};
     }
     return sets;
 }

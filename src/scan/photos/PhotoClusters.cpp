@@ -57,6 +57,14 @@ struct Newcomer {
     std::vector<Candidate> candidates;
 };
 
+/// The candidates that are compared.
+template <typename AnyNewcomer>
+auto compared(AnyNewcomer& newcomer)
+{
+    const std::span candidates(newcomer.candidates);
+    return candidates.first(std::min(candidates.size(), kMostCompared));
+}
+
 class Clusters {
 public:
     Clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
@@ -143,7 +151,7 @@ void Clusters::compare(std::vector<Newcomer>& newcomers)
         if (newcomer.candidates.empty())
             continue;
         needed.push_back(newcomer.photo);
-        for (const Candidate& candidate : newcomer.candidates | std::views::take(kMostCompared))
+        for (const Candidate& candidate : compared(newcomer))
             needed.push_back(candidate.photo);
     }
     std::ranges::sort(needed);
@@ -161,7 +169,7 @@ std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
     std::optional<CoarseSearch> own;
     std::vector<Candidate*> found;
     Candidate* ofCrowd = nullptr;
-    for (Candidate& candidate : newcomer.candidates | std::views::take(kMostCompared)) {
+    for (Candidate& candidate : compared(newcomer)) {
         if (found.size() == kMostClosely)
             break;
         if (!candidate.hope) {

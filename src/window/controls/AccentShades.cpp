@@ -8,8 +8,8 @@ namespace orlen {
 namespace {
 
 constexpr double kReadable = 4.5;
-/// How far a shade moves towards black or white at a time, until it can be read.
-constexpr double kStep = 0.02;
+/// In how many steps a shade moves to black or white, until it can be read.
+constexpr int kSteps = 50;
 constexpr double kHoverShift = 0.10;
 constexpr double kPressedShift = 0.18;
 
@@ -43,9 +43,11 @@ QColor mixed(const QColor& colour, const QColor& other, double share)
 /// The shade nearest to a colour that can be read with another one, on the way to a third.
 QColor readable(const QColor& colour, const QColor& with, const QColor& towards)
 {
-    for (double share = 0; share < 1; share += kStep)
-        if (const QColor shade = mixed(colour, towards, share); contrastOf(shade, with) >= kReadable)
+    for (int step = 0; step < kSteps; ++step) {
+        const QColor shade = mixed(colour, towards, static_cast<double>(step) / kSteps);
+        if (contrastOf(shade, with) >= kReadable)
             return shade;
+    }
     return towards;
 }
 

@@ -62,8 +62,8 @@ std::vector<ForecastCurve::Mark> marksUpTo(double bytes)
         }
     }
     std::vector<ForecastCurve::Mark> marks;
-    for (double at = step; at <= bytes; at += step)
-        marks.push_back({at / bytes, std::llround(at)});
+    for (int number = 1; number * step <= bytes; ++number)
+        marks.push_back({number * step / bytes, std::llround(number * step)});
     return marks;
 }
 

@@ -246,7 +246,7 @@ TEST(PhotoAnalyzerTest, pagesStayTogetherOnlyIfACloserLookAgrees)
         if (path == "/p/unreadable.jpg")
             return std::nullopt;
         RgbImage image{.width = 256, .height = 256, .pixels = {}};
-        auto noise = static_cast<std::uint32_t>(path[3]);
+        std::uint32_t noise = static_cast<unsigned char>(path[3]);
         for (int i = 0; i < 256 * 256; ++i) {
             noise = noise * 1'664'525U + 1'013'904'223U;
             image.pixels.insert(image.pixels.end(), 3, static_cast<std::uint8_t>(noise >> 24U));
