@@ -155,8 +155,9 @@ public:
                 reading.folders.push_back({std::move(path), totals[i]});
         }
         std::ranges::sort(reading.folders, {}, &FolderSize::path);
-        const auto twice = std::ranges::unique(reading.folders, {}, &FolderSize::path);
-        reading.folders.erase(twice.begin(), twice.end());
+        const auto hasSamePath = [](const FolderSize& a, const FolderSize& b) { return a.path == b.path; };
+        reading.folders.erase(std::unique(reading.folders.begin(), reading.folders.end(), hasSamePath),
+                              reading.folders.end());
         return reading;
     }
 
