@@ -16,13 +16,13 @@ Journey {
     function test_1_theSearchFindsIt() {
         test.clickOn("appSearch");
         test.type("sketch");
-        tryCompare(test.item("appList"), "count", 1);
+        test.hasRows("appList", 1);
         tryVerify(() => test.row("appList", 0).name === "Sketcher");
     }
 
     function test_2_itsLeftoversAreListed() {
         test.click(test.row("appList", 0));
-        tryCompare(test.item("leftoverList"), "count", 3);
+        test.hasRows("leftoverList", 3);
         const total = test.item("uninstallTotal").text;
         test.click(test.row("leftoverList", 2));
         compare(test.row("leftoverList", 2).checked, false);
@@ -47,7 +47,7 @@ Journey {
         verify(!stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
         verify(stage.isInTrash("Sketcher-2.1-x86_64.AppImage"));
         test.clickOn("cleaningDone");
-        tryCompare(test.item("appList"), "count", 0);
+        test.hasRows("appList", 0);
     }
 
     function test_5_whatAppsThatAreGoneLeftIsListedUnchecked() {
@@ -56,7 +56,7 @@ Journey {
         keyClick(Qt.Key_Delete);
         test.tabTo("leftBehind");
         keyClick(Qt.Key_Return);
-        tryCompare(test.item("leftoverList"), "count", 2);
+        test.hasRows("leftoverList", 2);
         compare(test.item("leftoversAll").checkState, Qt.Unchecked);
         verify(!test.item("reviewLeftBehind").enabled);
         verify(test.row("leftoverList", 0).explanation.includes("Barquux"));

@@ -79,7 +79,7 @@ Journey {
         test.window.navigation.screen = Screens.Apps;
         test.clickOn("appSearch");
         test.type("sketch");
-        tryCompare(test.item("appList"), "count", 1);
+        test.hasRows("appList", 1);
         tryVerify(() => test.row("appList", 0).name === "Sketcher");
         test.click(test.row("appList", 0));
         test.row("leftoverList", 2);

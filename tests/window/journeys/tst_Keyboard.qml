@@ -26,9 +26,10 @@ Journey {
         keyClick(Qt.Key_Question, Qt.ControlModifier);
         const keys = test.item("shortcutKeys");
         tryVerify(() => test.isFocused("shortcutKeys"));
-        for (let presses = 0; presses < 12; ++presses)
+        const atEnd = () => keys.contentY > keys.contentHeight - keys.height - 1;
+        for (let presses = 0; presses < 60 && !atEnd(); ++presses)
             keyClick(Qt.Key_Down);
-        compare(keys.contentY, keys.contentHeight - keys.height, "scrolled to the end");
+        verify(atEnd(), "scrolled to the end");
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("shortcutKeys"));
     }
@@ -57,7 +58,7 @@ Journey {
         keyClick(Qt.Key_PageDown);
         verify(text.contentY > text.height / 2 && text.contentY < text.height);
         keyClick(Qt.Key_PageUp);
-        compare(text.contentY, 0);
+        verify(text.contentY < text.height / 4);
         keyClick(Qt.Key_Space);
         tryVerify(() => !test.isShown("previewText"));
         keyClick(Qt.Key_Escape);
@@ -83,9 +84,9 @@ Journey {
         keyClick(Qt.Key_F, Qt.ControlModifier);
         verify(test.isFocused("entryFilter"));
         test.type("mesa");
-        tryCompare(test.item("findingEntries"), "count", 1);
+        test.hasRows("findingEntries", 1);
         keyClick(Qt.Key_Escape);
-        tryCompare(test.item("findingEntries"), "count", 2);
+        test.hasRows("findingEntries", 2);
     }
 
     function test_7_reviewAndClean() {
@@ -97,7 +98,7 @@ Journey {
         keyClick(Qt.Key_Return);
         compare(test.item("reviewLead").text, Strings.reviewLead(2));
         keyClick(Qt.Key_Left);
-        tryCompare(test.item("planEntries"), "count", 4);
+        test.hasRows("planEntries", 4);
         test.tabTo("primaryAction");
         keyClick(Qt.Key_Return);
         test.item("cleaningDone");
@@ -112,7 +113,7 @@ Journey {
         test.item("restoreButton");
         test.tabTo("historyList");
         keyClick(Qt.Key_Return);
-        tryCompare(test.item("recordItems"), "count", 2);
+        test.hasRows("recordItems", 2);
         test.tabTo("restoreButton");
         keyClick(Qt.Key_Space);
         tryCompare(test.item("notice"), "text", test.restored(2));

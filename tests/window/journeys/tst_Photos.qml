@@ -26,8 +26,8 @@ Journey {
         test.item("heroSentence");
         test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
-        tryCompare(test.item("photoSets"), "count", 1);
-        tryCompare(test.item("photoSet"), "count", 2);
+        test.hasRows("photoSets", 1);
+        test.hasRows("photoSet", 2);
         compare(test.row("photoSet", 0).name, "squares 240.bmp");
         verify(test.row("photoSet", 0).kept);
         compare(test.row("photoSet", 1).name, "squares 200.bmp");

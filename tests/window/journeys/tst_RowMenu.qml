@@ -54,7 +54,7 @@ Journey {
         verify(test.item("notice").text.includes("~/.cache/mesa_shader_cache"), test.item("notice").text);
         verify(test.isFocused("findingEntries"), "the keyboard is in the list again");
         keyClick(Qt.Key_Z, Qt.ControlModifier);
-        tryCompare(test.item("findingEntries"), "count", 2);
+        test.hasRows("findingEntries", 2);
         compare(test.names("findingEntries"), "spotify mesa_shader_cache");
         verify(test.item("selectedText").text.startsWith(test.selectedOf(1, 2)), "as selected as it was");
         tryCompare(test.item("notice"), "text", test.said("{what} is no longer excluded.", { what: "~/.cache/mesa_shader_cache" }));
@@ -121,7 +121,7 @@ Journey {
         verify(test.isFocused("exclusions"));
         keyClick(Qt.Key_1, Qt.ControlModifier);
         test.clickOn("finding-caches");
-        tryCompare(test.item("findingEntries"), "count", 2);
+        test.hasRows("findingEntries", 2);
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("findingEntries"));
     }

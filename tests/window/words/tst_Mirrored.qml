@@ -45,7 +45,7 @@ Journey {
     function test_4_photosToo() {
         test.window.navigation.screen = Screens.Photos;
         test.clickOn("showAll");
-        tryCompare(test.item("photoSet"), "count", 2);
+        test.hasRows("photoSet", 2);
         verify(test.middle(test.row("photoSet", 0)) > test.middle(test.row("photoSet", 1)));
         keyClick(Qt.Key_Left);
         compare(test.item("photoSet").currentIndex, 1);
