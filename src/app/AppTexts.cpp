@@ -61,6 +61,11 @@ Message stillOn(const std::string& service)
     return {kStillOn, {{"service", service}}};
 }
 
+Message bytesDone(std::int64_t done, std::int64_t total)
+{
+    return {kBytesDone, {{"done", Bytes{done}}, {"total", Bytes{total}}}};
+}
+
 Message timeLeft(std::chrono::duration<double> time)
 {
     using namespace std::chrono;

@@ -75,7 +75,9 @@ inline constexpr Text kUnreadableFolders =
 /// "2 folders could not be read"
 [[nodiscard]] Message unreadableFolders(std::int64_t count);
 
-// How long a step of a scan will still take.
+// How much of a step of a scan is done, and how long it will still take.
+inline constexpr Text kBytesDone = message("{done} of {total}");
+[[nodiscard]] Message bytesDone(std::int64_t done, std::int64_t total);
 inline constexpr Text kMinutesLeft = messages("{count} minute left", "{count} minutes left");
 inline constexpr Text kNearlyDone = message("Less than a minute left");
 [[nodiscard]] Message timeLeft(std::chrono::duration<double> time);

@@ -120,7 +120,7 @@ private:
     {
         const auto started = std::chrono::steady_clock::now();
         const Walk::Found found = FolderSearch::walked(folders, progress, stop);
-        Search search{Duplicates::find(input(found), stop, m_rule)};
+        Search search{Duplicates::find(input(found), stop, m_rule, &progress)};
         dropCopies(search.result, exclusions);
         search.duration = std::chrono::steady_clock::now() - started;
         return search;

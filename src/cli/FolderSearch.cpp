@@ -34,10 +34,14 @@ Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progre
 Message status(const ScanProgress& progress)
 {
     std::vector<Message> facts{{CliTexts::kExamined, {{"count", progress.files()}}}};
-    if (const ScanProgress::Photos photos = progress.photos(); photos.done < photos.all)
+    if (const StepAmount photos = progress.amount(StepKind::photos); photos.done < photos.all)
         facts.push_back({CliTexts::kPhotosDone, {{"count", photos.done}, {"total", photos.all}}});
-    if (const auto left = progress.photosLeft())
-        facts.push_back(AppTexts::timeLeft(*left));
+    if (const StepAmount compared = progress.amount(StepKind::duplicates); compared.done < compared.all)
+        facts.push_back(AppTexts::bytesDone(compared.done, compared.all));
+    for (const StepKind step : {StepKind::duplicates, StepKind::photos}) {
+        if (const auto left = progress.timeLeft(step))
+            facts.push_back(AppTexts::timeLeft(*left));
+    }
     facts.push_back(Message::verbatim(Format::shownPath(progress.current())));
     return Message::joined(std::move(facts), Several::Joint::facts);
 }

@@ -30,7 +30,8 @@ namespace orlen::FolderSearch {
 [[nodiscard]] Walk::Found walked(const std::vector<std::string>& folders, ScanProgress& progress,
                                  const std::stop_token& stop);
 
-/// What a search is doing: files examined, photos looked at with the time left, and the current path.
+/// What a search is doing: files examined, photos or bytes looked at with the time left, and the current
+/// path.
 [[nodiscard]] Message status(const ScanProgress& progress);
 
 } // namespace orlen::FolderSearch

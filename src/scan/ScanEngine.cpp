@@ -32,10 +32,11 @@ Findings asStep(ScanProgress& progress, StepKind step, const Routine& routine)
     return findings;
 }
 
-Findings findDuplicates(const Walk::Found& found, const std::stop_token& stop)
+Findings findDuplicates(const Walk::Found& found, ScanProgress& progress, const std::stop_token& stop)
 {
     Findings findings;
-    findings.push_back(Duplicates::finding(Duplicates::find(Walk::duplicateInput(found), stop)));
+    findings.push_back(
+        Duplicates::finding(Duplicates::find(Walk::duplicateInput(found), stop, {}, &progress)));
     return findings;
 }
 
@@ -70,7 +71,7 @@ Findings fileBased(ScanProgress& progress, const ScanFlag& flag, const ScanOptio
         return findings;
     });
     group.add("duplicates", [&] {
-        return asStep(progress, StepKind::duplicates, [&] { return findDuplicates(found, stop); });
+        return asStep(progress, StepKind::duplicates, [&] { return findDuplicates(found, progress, stop); });
     });
     group.add("photos", [&] {
         return asStep(progress, StepKind::photos,

@@ -4,6 +4,7 @@
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanTexts.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orlen {
@@ -12,7 +13,7 @@ namespace {
 
 /// The shown path changes only with every 48th item, so that it can be read.
 constexpr std::int64_t kItemsPerPath = 48;
-/// Before this the pace of the photos says little.
+/// Before this the pace says little.
 constexpr std::chrono::seconds kShortestPast{3};
 
 } // namespace
@@ -54,12 +55,12 @@ void ScanProgress::set(StepKind kind, StepState state)
 {
     const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
-    Step& step = m_steps[static_cast<std::size_t>(kind)];
+    Step& changing = step(kind);
     if (state == StepState::running)
-        step.started = now;
-    else if (step.shown.state == StepState::running)
-        step.shown.elapsed = now - step.started;
-    step.shown.state = state;
+        changing.started = now;
+    else if (changing.shown.state == StepState::running)
+        changing.shown.elapsed = now - changing.started;
+    changing.shown.state = state;
 }
 
 void ScanProgress::tick(std::string_view path)
@@ -87,36 +88,40 @@ void ScanProgress::show(std::string_view path)
     m_current = std::move(text);
 }
 
-void ScanProgress::expectPhotos(Photos photos)
+void ScanProgress::expect(StepKind kind, StepAmount amount)
 {
     const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
-    m_photos = photos;
-    m_photosRecalled = photos.done;
-    m_photosStarted = now;
+    Step& counting = step(kind);
+    counting.amount = amount;
+    counting.doneBefore = amount.done;
+    counting.counted = now;
 }
 
-void ScanProgress::countPhoto()
+void ScanProgress::advance(StepKind kind, std::int64_t by)
 {
     const std::lock_guard lock(m_lock);
-    ++m_photos.done;
+    StepAmount& amount = step(kind).amount;
+    amount.done += std::min(by, amount.all - amount.done);
 }
 
-ScanProgress::Photos ScanProgress::photos() const
+StepAmount ScanProgress::amount(StepKind kind) const
 {
     const std::lock_guard lock(m_lock);
-    return m_photos;
+    return step(kind).amount;
 }
 
-std::optional<std::chrono::duration<double>> ScanProgress::photosLeft() const
+std::optional<std::chrono::duration<double>> ScanProgress::timeLeft(StepKind kind) const
 {
     const auto now = Clock::now();
     const std::lock_guard lock(m_lock);
-    const std::chrono::duration<double> past = now - m_photosStarted;
-    const std::int64_t lookedAt = m_photos.done - m_photosRecalled;
-    if (lookedAt <= 0 || m_photos.done >= m_photos.all || past < kShortestPast)
+    const Step& counting = step(kind);
+    const std::chrono::duration<double> past = now - counting.counted;
+    const std::int64_t done = counting.amount.done - counting.doneBefore;
+    const std::int64_t left = counting.amount.all - counting.amount.done;
+    if (done <= 0 || left <= 0 || past < kShortestPast)
         return std::nullopt;
-    return past / static_cast<double>(lookedAt) * static_cast<double>(m_photos.all - m_photos.done);
+    return past / static_cast<double>(done) * static_cast<double>(left);
 }
 
 double ScanProgress::share() const
@@ -126,8 +131,8 @@ double ScanProgress::share() const
     for (const Step& step : m_steps) {
         if (step.shown.state == StepState::done)
             steps += 1;
-        else if (step.shown.kind == StepKind::photos && m_photos.all > 0)
-            steps += static_cast<double>(m_photos.done) / static_cast<double>(m_photos.all);
+        else if (step.amount.all > 0)
+            steps += static_cast<double>(step.amount.done) / static_cast<double>(step.amount.all);
     }
     return steps / static_cast<double>(kScanSteps);
 }

@@ -43,6 +43,14 @@ struct ScanStep {
     friend bool operator==(const ScanStep&, const ScanStep&) = default;
 };
 
+/// How much a long step has to do and has done: photos to look at, or bytes of possible duplicates to
+/// compare.
+struct StepAmount {
+    std::int64_t done = 0;
+    std::int64_t all = 0; ///< 0: not known yet, or the step is short
+    friend bool operator==(const StepAmount&, const StepAmount&) = default;
+};
+
 /// What a scan is doing, shared by its workers and whoever shows it. All steps start as pending. Any thread;
 /// each call holds the lock for a single field access.
 class ScanProgress {
@@ -58,19 +66,14 @@ public:
     /// Sets `current` without counting.
     void show(std::string_view path);
 
-    /// How many photos the step for them looks at, and how many of them it has looked at.
-    struct Photos {
-        std::int64_t done = 0;
-        std::int64_t all = 0; ///< 0: not known yet
-        friend bool operator==(const Photos&, const Photos&) = default;
-    };
-    void expectPhotos(Photos photos);
-    void countPhoto();
-    [[nodiscard]] Photos photos() const;
-    /// How long the photos will still take at the pace so far; nothing while that cannot be said.
-    [[nodiscard]] std::optional<std::chrono::duration<double>> photosLeft() const;
-    /// How much of the scan is done, 0 to 1: each step counts alike, and a running one for photos by those
-    /// looked at.
+    /// Starts to count what a step does.
+    void expect(StepKind step, StepAmount amount);
+    /// Never beyond what was expected.
+    void advance(StepKind step, std::int64_t by);
+    [[nodiscard]] StepAmount amount(StepKind step) const;
+    /// How long the step will still take at its pace so far; nothing while that cannot be said.
+    [[nodiscard]] std::optional<std::chrono::duration<double>> timeLeft(StepKind step) const;
+    /// How much of the scan is done, 0 to 1: each step counts alike, and a long one by what it has done.
     [[nodiscard]] double share() const;
 
     [[nodiscard]] std::int64_t files() const;
@@ -82,14 +85,16 @@ private:
     struct Step {
         ScanStep shown;
         Clock::time_point started;
+        StepAmount amount;
+        std::int64_t doneBefore = 0; ///< of the amount, when counting began
+        Clock::time_point counted;   ///< since when
     };
+    [[nodiscard]] Step& step(StepKind kind) { return m_steps[static_cast<std::size_t>(kind)]; }
+    [[nodiscard]] const Step& step(StepKind kind) const { return m_steps[static_cast<std::size_t>(kind)]; }
 
     mutable std::mutex m_lock;
     std::int64_t m_files = 0;
     std::string m_current;
-    Photos m_photos;
-    std::int64_t m_photosRecalled = 0; ///< done before the step began
-    Clock::time_point m_photosStarted;
     std::array<Step, kScanSteps> m_steps; ///< by kind
 };
 

@@ -20,5 +20,19 @@ TEST(ScanProgressTest, pathChangesWithEveryFortyEighthItem)
     EXPECT_EQ(progress.files(), 295);
 }
 
+TEST(ScanProgressTest, aLongStepCountsByWhatItHasDone)
+{
+    ScanProgress progress;
+    progress.expect(StepKind::photos, {20, 100});
+    EXPECT_DOUBLE_EQ(progress.share(), 0.02);
+    progress.advance(StepKind::photos, 30);
+    EXPECT_DOUBLE_EQ(progress.share(), 0.05);
+    EXPECT_FALSE(progress.timeLeft(StepKind::photos)) << "the pace says little yet";
+    progress.advance(StepKind::photos, 500);
+    EXPECT_EQ(progress.amount(StepKind::photos), (StepAmount{100, 100}));
+    progress.set(StepKind::downloads, StepState::done);
+    EXPECT_DOUBLE_EQ(progress.share(), 0.2);
+}
+
 } // namespace
 } // namespace orlen

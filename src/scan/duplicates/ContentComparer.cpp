@@ -20,7 +20,8 @@ void dropLone(std::vector<ContentComparer::Same>& groups)
 
 } // namespace
 
-std::vector<ContentComparer::Same> ContentComparer::identical(std::span<const Suspect> suspects)
+std::vector<ContentComparer::Same> ContentComparer::identical(std::span<const Suspect> suspects,
+                                                              const Watch& watch)
 {
     m_files.clear();
     Same opened;
@@ -45,6 +46,7 @@ std::vector<ContentComparer::Same> ContentComparer::identical(std::span<const Su
         groups =
             splitByNextBlock(std::move(groups), next.start, static_cast<std::size_t>(next.end - next.start));
         offset = next.end;
+        watch(offset);
     }
     for (Same& group : groups)
         std::erase_if(group, [&](std::size_t i) { return !isUnchanged(m_files[i].fd, suspects[i]); });

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <stop_token>
 #include <vector>
@@ -23,11 +24,14 @@ public:
     /// Indices of files with the same content, at least two.
     using Same = std::vector<std::size_t>;
 
+    /// Told how far, in bytes, the files are compared.
+    using Watch = std::function<void(std::int64_t compared)>;
+
     explicit ContentComparer(std::stop_token stop) : m_stop(std::move(stop)) {}
 
     /// Groups of identical files. A file that cannot be read or has changed since it was seen is in none.
     /// Empty if stopped.
-    [[nodiscard]] std::vector<Same> identical(std::span<const Suspect> suspects);
+    [[nodiscard]] std::vector<Same> identical(std::span<const Suspect> suspects, const Watch& watch);
 
     [[nodiscard]] std::int64_t bytesRead() const { return m_bytesRead; }
 

@@ -102,8 +102,10 @@ Cand asCompared(const Suspect& suspect)
 
 class Search {
 public:
-    Search(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule)
-        : m_stop(stop), m_threads(stop), m_prefers(Places::current(), rule), m_suspects(differentPaths(cands))
+    Search(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule,
+           ScanProgress& progress)
+        : m_progress(progress), m_stop(stop), m_threads(stop), m_prefers(Places::current(), rule),
+          m_suspects(differentPaths(cands))
     {
     }
 
@@ -174,7 +176,7 @@ private:
             else
                 unsettled.push_back(group);
         }
-        for (Suspects& members : WholeContents::identical(m_threads, unsettled))
+        for (Suspects& members : WholeContents::identical(m_threads, m_progress, unsettled))
             addSet(std::move(members));
     }
 
@@ -200,6 +202,7 @@ private:
         });
     }
 
+    ScanProgress& m_progress;
     std::stop_token m_stop;
     ReadingThreads m_threads;
     KeepOrder m_prefers;
@@ -209,9 +212,11 @@ private:
 
 } // namespace
 
-Result find(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule)
+Result find(const std::vector<Cand>& cands, const std::stop_token& stop, const KeepRule& rule,
+            ScanProgress* progress)
 {
-    return Search(cands, stop, rule).run();
+    ScanProgress unseen;
+    return Search(cands, stop, rule, progress != nullptr ? *progress : unseen).run();
 }
 
 Message note(const std::string& kept, bool sharesData)

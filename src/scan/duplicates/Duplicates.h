@@ -2,6 +2,7 @@
 
 #include "model/Finding.h"
 #include "scan/Cand.h"
+#include "scan/ScanProgress.h"
 #include "scan/duplicates/KeepRule.h"
 
 #include <cstdint>
@@ -36,9 +37,10 @@ struct Result {
 };
 
 /// Compares sizes, then head and tail, then whole contents. A file is opened only if another has its size.
-/// The rule says which of each set is kept; sets of which no copy may go are left out.
+/// The rule says which of each set is kept; sets of which no copy may go are left out. The progress, if there
+/// is one, counts the bytes of the whole contents.
 [[nodiscard]] Result find(const std::vector<Cand>& cands, const std::stop_token& stop,
-                          const KeepRule& rule = {});
+                          const KeepRule& rule = {}, ScanProgress* progress = nullptr);
 
 /// What is noted on a copy of the file at this path.
 [[nodiscard]] Message note(const std::string& kept, bool sharesData);

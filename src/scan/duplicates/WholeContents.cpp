@@ -1,5 +1,7 @@
 #include "scan/duplicates/WholeContents.h"
 
+#include "platform/values/CheckedSum.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
@@ -21,6 +23,17 @@ struct Portion {
     std::vector<Suspects> identical; ///< result
 };
 
+/// Of all its files up to this position.
+std::int64_t bytesUpTo(const Portion& portion, std::int64_t position)
+{
+    return cappedBytes(static_cast<std::uint64_t>(position), portion.files.size());
+}
+
+std::int64_t bytes(const Portion& portion)
+{
+    return bytesUpTo(portion, portion.files.front().seen.length);
+}
+
 std::vector<Portion> portionsOf(std::span<const std::span<Suspect>> groups)
 {
     std::vector<Portion> portions;
@@ -32,16 +45,21 @@ std::vector<Portion> portionsOf(std::span<const std::span<Suspect>> groups)
         }
     }
     // Longest first: one started last would keep one thread busy and the others waiting.
-    std::ranges::stable_sort(portions, std::ranges::greater(), [](const Portion& portion) {
-        return portion.files.front().seen.length * static_cast<std::int64_t>(portion.files.size());
-    });
+    std::ranges::stable_sort(portions, std::ranges::greater(), bytes);
     return portions;
 }
 
-void compare(Reader& reader, Portion& portion)
+void compare(Reader& reader, ScanProgress& progress, Portion& portion)
 {
+    std::int64_t counted = 0;
+    const auto count = [&](std::int64_t compared) {
+        const std::int64_t now = bytesUpTo(portion, compared);
+        progress.advance(StepKind::duplicates, now - std::exchange(counted, now));
+    };
     std::vector<bool> isPlaced(portion.files.size());
-    for (const ContentComparer::Same& same : reader.comparer.identical(portion.files)) {
+    const auto identical = reader.comparer.identical(portion.files, count);
+    count(portion.files.front().seen.length);
+    for (const ContentComparer::Same& same : identical) {
         Suspects& alike = portion.identical.emplace_back();
         for (const std::size_t index : same) {
             alike.push_back(portion.files[index]);
@@ -91,10 +109,16 @@ std::vector<Suspects> join(ReadingThreads& threads, std::vector<Suspects> lists)
 
 } // namespace
 
-std::vector<Suspects> identical(ReadingThreads& threads, std::span<const std::span<Suspect>> groups)
+std::vector<Suspects> identical(ReadingThreads& threads, ScanProgress& progress,
+                                std::span<const std::span<Suspect>> groups)
 {
     std::vector<Portion> portions = portionsOf(groups);
-    threads.forEach(portions.size(), [&](Reader& reader, std::size_t i) { compare(reader, portions[i]); });
+    StepAmount amount;
+    for (const Portion& portion : portions)
+        amount.all = cappedAdd(amount.all, bytes(portion));
+    progress.expect(StepKind::duplicates, amount);
+    threads.forEach(portions.size(),
+                    [&](Reader& reader, std::size_t i) { compare(reader, progress, portions[i]); });
     std::vector<Suspects> toJoin;
     std::vector<Suspects> sets;
     for (Portion& portion : portions)

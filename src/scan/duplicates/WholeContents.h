@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scan/ScanProgress.h"
 #include "scan/duplicates/ReadingThreads.h"
 #include "scan/duplicates/Suspect.h"
 
@@ -14,7 +15,10 @@ namespace orlen::WholeContents {
 /// A few files are compared directly. Many are compared in portions, and one file per distinct content in a
 /// portion is hashed to find the same content in other portions: hashing every file takes several times as
 /// long.
-[[nodiscard]] std::vector<std::vector<Suspect>> identical(ReadingThreads& threads,
+///
+/// The progress of the duplicates counts the bytes of all these files. Files that turn out to differ count as
+/// compared to their end.
+[[nodiscard]] std::vector<std::vector<Suspect>> identical(ReadingThreads& threads, ScanProgress& progress,
                                                           std::span<const std::span<Suspect>> groups);
 
 } // namespace orlen::WholeContents

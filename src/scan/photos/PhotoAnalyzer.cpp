@@ -64,7 +64,7 @@ PhotoAnalyzer::Analyzed PhotoAnalyzer::analyze(const std::vector<Cand>& images) 
             chosen.push_back(i);
     }
     const auto recalled = std::ranges::count_if(known, [](const auto& one) { return one != nullptr; });
-    m_progress.expectPhotos({recalled, recalled + static_cast<std::int64_t>(chosen.size())});
+    m_progress.expect(StepKind::photos, {recalled, recalled + static_cast<std::int64_t>(chosen.size())});
     look(images, chosen, known);
     remember(images, chosen, known);
     Analyzed analyzed{.photos = {}, .coverage = {.all = static_cast<std::int64_t>(images.size())}};
@@ -99,7 +99,7 @@ void PhotoAnalyzer::look(const std::vector<Cand>& images, const std::vector<std:
         // A call that was cancelled says nothing about the picture.
         if (!*analysis && m_flag.isCancelled())
             return;
-        m_progress.countPhoto();
+        m_progress.advance(StepKind::photos, 1);
         const std::lock_guard held(lock);
         known[chosen[i]] = std::move(analysis);
     });

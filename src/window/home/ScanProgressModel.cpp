@@ -1,7 +1,6 @@
 #include "window/home/ScanProgressModel.h"
 
 #include "app/AppTexts.h"
-#include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 
 #include <utility>
@@ -11,6 +10,19 @@ namespace orlen {
 namespace {
 
 constexpr std::chrono::milliseconds kPollInterval{75};
+
+/// What a long step has done of what there is to do, and how long the rest takes.
+QString amountOf(const ScanProgress& progress, const ScanStep& step)
+{
+    const StepAmount amount = progress.amount(step.kind);
+    if (step.state != StepState::running || amount.all == 0)
+        return {};
+    const auto left = progress.timeLeft(step.kind);
+    return DisplayText::facts({step.kind == StepKind::photos
+                                   ? DisplayText::progress(amount.done, amount.all)
+                                   : DisplayText::text(AppTexts::bytesDone(amount.done, amount.all)),
+                               left ? DisplayText::text(AppTexts::timeLeft(*left)) : QString()});
+}
 
 } // namespace
 
@@ -39,15 +51,7 @@ void ScanProgressModel::followPhase()
 void ScanProgressModel::poll()
 {
     const ScanProgress& progress = m_app.results()->scanProgress();
-    setSteps(progress.steps());
-    const auto left = progress.photosLeft();
-    const QString photosLeft = left ? DisplayText::text(AppTexts::timeLeft(*left)) : QString();
-    const ScanProgress::Photos photos = progress.photos();
-    if (m_photos != photos || m_photosLeft != photosLeft) {
-        m_photos = photos;
-        m_photosLeft = photosLeft;
-        allChanged(Role::amount);
-    }
+    setSteps(progress);
     const QString current = DisplayText::shortPath(progress.current());
     const double share = progress.share();
     if (m_files == progress.files() && m_current == current && m_share == share)
@@ -58,13 +62,19 @@ void ScanProgressModel::poll()
     Q_EMIT changed();
 }
 
-void ScanProgressModel::setSteps(const Steps& steps)
+void ScanProgressModel::setSteps(const ScanProgress& progress)
 {
+    const Steps steps = progress.steps();
     for (std::size_t at = 0; at < steps.size(); ++at) {
-        const bool isDifferent = m_steps[at].state != steps[at].state;
+        QString amount = amountOf(progress, steps[at]);
+        const bool isInOtherState = m_steps[at].state != steps[at].state;
+        const bool hasOtherAmount = m_amounts[at] != amount;
         m_steps[at] = steps[at];
-        if (isDifferent)
+        m_amounts[at] = std::move(amount);
+        if (isInOtherState)
             rowChanged(at);
+        else if (hasOtherAmount)
+            rowChanged(at, Role::amount);
     }
 }
 
@@ -88,12 +98,7 @@ QVariant ScanProgressModel::value(std::size_t number, int role) const
     case Role::duration:
         return step.state == StepState::done ? DisplayText::duration(step.elapsed) : QString();
     case Role::amount:
-        if (step.kind != StepKind::photos || step.state != StepState::running || m_photos.all == 0)
-            return QString();
-        return DisplayText::facts(
-            {DisplayText::text(
-                 Message(WindowTexts::kDoneOf, {{"count", m_photos.done}, {"total", m_photos.all}})),
-             m_photosLeft});
+        return m_amounts[number];
     }
     return {};
 }

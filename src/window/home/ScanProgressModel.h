@@ -40,7 +40,7 @@ public:
         label = Qt::UserRole, ///< name of the step
         state,                ///< a `State`
         duration,             ///< of a finished step, as text; else empty
-        amount,               ///< "40 of 1,200 · 3 minutes left" while photos are looked at; else empty
+        amount,               ///< "40 of 1,200 · 3 minutes left" while a long step runs; else empty
     };
     Q_ENUM(Role)
 
@@ -67,15 +67,14 @@ private:
     void poll();
     using Steps = std::array<ScanStep, kScanSteps>;
 
-    void setSteps(const Steps& steps);
+    void setSteps(const ScanProgress& progress);
 
     AppModel& m_app;
     QTimer m_timer;
     Steps m_steps;
-    ScanProgress::Photos m_photos;
     std::int64_t m_files = 0;
     double m_share = 0;
-    QString m_photosLeft;
+    std::array<QString, kScanSteps> m_amounts; ///< by row
     QString m_current;
     bool m_isCancelling = false;
 };

@@ -114,7 +114,10 @@ TEST(DuplicatesTest, oneQuickHashMayHoldSeveralSets)
                 set.push_back(home.file(letter + std::to_string(i), text(1'000'000, 500'000 + letter)));
             all.insert(all.begin(), set.begin(), set.end());
         }
-        EXPECT_EQ(pathsOf(Duplicates::find(candsOf(all), {})), expected);
+        ScanProgress progress;
+        EXPECT_EQ(pathsOf(Duplicates::find(candsOf(all), {}, {}, &progress)), expected);
+        const auto bytes = static_cast<std::int64_t>(all.size()) * 1'000'000;
+        EXPECT_EQ(progress.amount(StepKind::duplicates), (StepAmount{bytes, bytes}));
     }
 }
 

@@ -233,7 +233,7 @@ TEST_F(PictureMemoryTest, aLargeLibraryIsCompleteAfterSomeScans)
         const auto analyzed = PhotoAnalyzer(progress, flag, recognize, &memory).analyze(images);
         EXPECT_EQ(analyzed.coverage, (PhotoCoverage{scan.lookedAt, static_cast<std::int64_t>(kCount)}));
         EXPECT_EQ(looks, scan.looks);
-        EXPECT_EQ(progress.photos(), (ScanProgress::Photos{scan.lookedAt, scan.lookedAt}));
+        EXPECT_EQ(progress.amount(StepKind::photos), (StepAmount{scan.lookedAt, scan.lookedAt}));
         EXPECT_EQ(analyzed.photos.size(), static_cast<std::size_t>(scan.lookedAt * 9 / 10));
     }
     // A recognizer that reads nothing at all is broken, which says nothing about the pictures.
