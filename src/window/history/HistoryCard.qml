@@ -42,6 +42,8 @@ Card {
 
     height: head.height + unfolded.height
     border.color: area.containsMouse ? Theme.accent : Theme.stroke
+    // Not the list, which would remember that the keyboard was in the items, and lead there past all else.
+    activeFocusOnTab: root.current
     Accessible.role: Accessible.ListItem
     Accessible.name: Strings.spoken([root.title, root.date, root.summary, root.freed])
 

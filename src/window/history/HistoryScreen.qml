@@ -57,7 +57,6 @@ Item {
         model: history
         currentIndex: 0
         highlightMoveDuration: Theme.hoverDuration
-        activeFocusOnTab: !history.empty
         Accessible.name: Strings.pastCleanUps
 
         delegate: HistoryCard {

@@ -145,5 +145,16 @@ Journey {
         test.item("cleaningDone");
         test.goAround("the end of a clean-up");
         keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("cleaningDone"));
+    }
+
+    function test_9b_aPastCleanUp() {
+        keyClick(Qt.Key_8, Qt.ControlModifier);
+        test.tabTo("historyList");
+        keyClick(Qt.Key_Return);
+        test.tabTo("recordItems");
+        test.goAround("a past clean-up");
+        test.tabTo("restoreButton");
+        test.tabTo("recordItems");
     }
 }
