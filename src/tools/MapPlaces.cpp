@@ -1,9 +1,8 @@
 #include "tools/MapPlaces.h"
 
-#include "platform/files/FileContent.h"
+#include "platform/desktop/BookmarkedFolders.h"
 #include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
-#include "platform/text/FileUri.h"
 #include "platform/text/PathText.h"
 #include "scan/tree/CurrentMounts.h"
 
@@ -14,7 +13,6 @@ namespace orlen::MapPlaces {
 
 namespace {
 
-constexpr std::size_t kLargestBookmarks = 1024UL * 1024;
 /// A drop-down list with more is no help.
 constexpr std::size_t kMost = 40;
 
@@ -36,17 +34,6 @@ void addDisks(std::vector<std::string>& folders)
     }
 }
 
-/// A line is an address and, after a space, a name.
-void addBookmarks(std::vector<std::string>& folders, std::string_view lines)
-{
-    while (!lines.empty()) {
-        const std::string_view line = lines.substr(0, lines.find('\n'));
-        lines.remove_prefix(std::min(lines.size(), line.size() + 1));
-        if (const auto path = FileUri::path(line.substr(0, line.find(' '))))
-            add(folders, PathText::standardized(*path));
-    }
-}
-
 } // namespace
 
 std::vector<std::string> folders()
@@ -54,10 +41,8 @@ std::vector<std::string> folders()
     const Places& places = Places::current();
     std::vector<std::string> folders{places.home};
     addDisks(folders);
-    for (const std::string& file : places.expand("{CONFIG}/gtk-3.0/bookmarks")) {
-        if (const auto lines = readSmallFile(file, kLargestBookmarks))
-            addBookmarks(folders, *lines);
-    }
+    for (const std::string& bookmark : BookmarkedFolders::paths(places))
+        add(folders, bookmark);
     return folders;
 }
 
