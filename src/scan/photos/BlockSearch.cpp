@@ -1,66 +1,60 @@
 #include "scan/photos/BlockSearch.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
-#include <numeric>
+#include <cstdint>
 
 namespace orlen {
+
+namespace {
+
+/// From numbers in a row the sums of `block` of them, from each on. Twice as many are added up each time.
+template <int block, std::size_t length>
+std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, length> numbers)
+{
+    for (std::size_t apart = 1; apart < block; apart *= 2) {
+        for (std::size_t i = 0; i + apart < length; ++i)
+            numbers[i] += numbers[i + apart];
+    }
+    return numbers;
+}
+
+} // namespace
 
 template <int side, int block>
 BlockSearch<side, block>::BlockSearch(const Pixels& pixels)
 {
-    std::ranges::transform(pixels, m_pixels.begin(),
-                           [](std::uint8_t value) { return static_cast<std::int16_t>(value - 128); });
+    const auto level = [&](std::size_t i) { return static_cast<std::int16_t>(pixels[i] - 128); };
+    for (std::size_t i = 0; i + 1 < pixels.size(); ++i)
+        m_pairs[i] = {level(i), level(i + 1)};
+    m_pairs[pixels.size() - 1] = {level(pixels.size() - 1), 0};
     sumUpBlocks();
+    findTexture();
 }
 
-/// Two blocks multiplied pixel by pixel. Fixed lengths and 16-bit numbers, so that the compiler takes eight
-/// at a time.
-template <int side, int block>
-std::int32_t BlockSearch<side, block>::product(const std::int16_t* one, const std::int16_t* other)
-{
-    std::int32_t sum = 0;
-    for (int y = 0; y < block; ++y) {
-        for (int x = 0; x < block; ++x)
-            sum += static_cast<std::int32_t>(one[y * side + x]) * other[y * side + x];
-    }
-    return sum;
-}
-
-/// Sums over each column of a block's height, moved down row by row; and over a block's width of those,
-/// moved to the right. No number exceeds 2 to the 30th.
+/// Sums over each column of a block's height, moved down row by row; and over a block's width of those. No
+/// number exceeds 2 to the 30th.
 template <int side, int block>
 void BlockSearch<side, block>::sumUpBlocks()
 {
-    constexpr std::size_t kAll = static_cast<std::size_t>(kPlaces) * kPlaces;
     // One level of noise, so that an even block matches nothing.
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
-    m_sums.resize(kAll);
-    m_spreads.resize(kAll);
-    m_onesBySpreads.resize(kAll);
     std::array<std::int32_t, side> sums{};
     std::array<std::int32_t, side> squares{};
     const auto addRow = [&](int y, int sign) {
-        const std::int16_t* row = pixel({.x = 0, .y = y});
+        const PixelPair* row = pair({.x = 0, .y = y});
         for (std::size_t x = 0; x < side; ++x) {
-            sums[x] += sign * row[x];
-            squares[x] += sign * row[x] * row[x];
+            sums[x] += sign * row[x].left;
+            squares[x] += sign * row[x].left * row[x].left;
         }
     };
     for (int y = 0; y < block - 1; ++y)
         addRow(y, 1);
     for (int y = 0; y < kPlaces; ++y) {
         addRow(y + block - 1, 1);
-        std::array<std::int32_t, kPlaces> blockSums{};
-        std::array<std::int32_t, kPlaces> blockSquares{};
-        std::int32_t sum = std::accumulate(sums.begin(), sums.begin() + block - 1, 0);
-        std::int32_t square = std::accumulate(squares.begin(), squares.begin() + block - 1, 0);
-        for (std::size_t x = 0; x < kPlaces; ++x) {
-            blockSums[x] = sum += sums[x + block - 1];
-            blockSquares[x] = square += squares[x + block - 1];
-            sum -= sums[x];
-            square -= squares[x];
-        }
+        const auto blockSums = sumsOf<block>(sums);
+        const auto blockSquares = sumsOf<block>(squares);
         const std::size_t row = index({0, y});
         for (std::size_t x = 0; x < kPlaces; ++x) {
             const auto spread = static_cast<float>(kPixels * blockSquares[x] - blockSums[x] * blockSums[x]);
@@ -73,47 +67,80 @@ void BlockSearch<side, block>::sumUpBlocks()
 }
 
 template <int side, int block>
-std::vector<TilePlace> BlockSearch<side, block>::texturedBlocks() const
+void BlockSearch<side, block>::findTexture()
 {
     constexpr float kLeastSpread = 2.0F * kPixels * 2.0F * kPixels;
-    std::vector<TilePlace> blocks;
     for (int y = 0; y < kPlaces; y += block) {
         for (int x = 0; x < kPlaces; x += block) {
             if (m_spreads[index({x, y})] >= kLeastSpread)
-                blocks.push_back({x, y});
+                m_texturedBlocks.push_back({x, y});
         }
     }
-    std::ranges::stable_sort(blocks, [this](TilePlace one, TilePlace other) {
+    std::ranges::stable_sort(m_texturedBlocks, [this](TilePlace one, TilePlace other) {
         return m_spreads[index(one)] > m_spreads[index(other)];
     });
-    return blocks;
+}
+
+/// At `count` places in a row of another picture, from `first` on, of which there are lanes for `fours` times
+/// four. What the block has in common with each is squared and divided by the variance there.
+template <int side, int block>
+template <int fours>
+void BlockSearch<side, block>::look(Sought& sought, const BlockSearch& other, TilePlace first,
+                                    int count) const
+{
+    const PixelPair* own = pair(sought.place);
+    const PixelPair* there = other.pair(first);
+    std::array<IntLanes, fours> common{};
+    for (int y = 0; y < block; ++y, own += side, there += side) {
+        for (int x = 0; x < block; x += 2) {
+            for (std::size_t i = 0; i < common.size(); ++i)
+                common[i] += products(own[x], there + x + i * kLanes);
+        }
+    }
+    const float sum = m_sums[index(sought.place)];
+    const std::size_t at = index(first);
+    std::array<FloatLanes, fours> squares{};
+    FloatLanes most{};
+    for (std::size_t i = 0; i < common.size(); ++i) {
+        const FloatLanes match =
+            static_cast<float>(kPixels) * __builtin_convertvector(common[i], FloatLanes) -
+            sum * lanesAt(&other.m_sums[at + i * kLanes]);
+        const FloatLanes square = match * match * lanesAt(&other.m_onesBySpreads[at + i * kLanes]);
+        squares[i] = match > 0.0F ? square : FloatLanes{};
+        most = squares[i] > most ? squares[i] : most;
+    }
+    if (std::max({most[0], most[1], most[2], most[3]}) <= sought.most)
+        return;
+    const auto found = std::bit_cast<std::array<float, fours * kLanes>>(squares);
+    for (int i = 0; i < count; ++i) {
+        if (found[static_cast<std::size_t>(i)] > sought.most) {
+            sought.most = found[static_cast<std::size_t>(i)];
+            sought.best = {first.x + i, first.y};
+        }
+    }
 }
 
 template <int side, int block>
 BlockFind BlockSearch<side, block>::find(TilePlace place, const BlockSearch& other, int reach) const
 {
+    constexpr int kFew = 2 * kLanes;
+    constexpr int kMany = 3 * kLanes;
     const std::size_t own = index(place);
-    const std::int16_t* pixels = pixel(place);
-    const float sum = m_sums[own];
-    TilePlace best = place;
-    float most = 0; // the square, which needs no root for each place
+    Sought sought{.place = place, .best = place};
+    const int end = std::min(place.x + reach, kPlaces - 1) + 1;
     for (int y = std::max(place.y - reach, 0); y <= std::min(place.y + reach, kPlaces - 1); ++y) {
-        for (int x = std::max(place.x - reach, 0); x <= std::min(place.x + reach, kPlaces - 1); ++x) {
-            const std::size_t at = index({x, y});
-            const auto common = static_cast<float>(product(pixels, other.pixel({x, y})));
-            const float match = std::max(kPixels * common - sum * other.m_sums[at], 0.0F);
-            const float square = match * match * other.m_onesBySpreads[at];
-            if (square > most) {
-                most = square;
-                best = {x, y};
-            }
-        }
+        int x = std::max(place.x - reach, 0);
+        for (; end - x > kFew; x += kMany)
+            look<3>(sought, other, {x, y}, std::min(end - x, kMany));
+        if (x < end)
+            look<2>(sought, other, {x, y}, end - x);
     }
+    const TilePlace best = sought.best;
     return {.block = {place.x * kScale, place.y * kScale},
             .moveX = static_cast<float>((best.x - place.x) * kScale),
             .moveY = static_cast<float>((best.y - place.y) * kScale),
             .texture = std::sqrt(m_spreads[own]) / kPixels,
-            .correlation = std::sqrt(most * m_onesBySpreads[own])};
+            .correlation = std::sqrt(sought.most * m_onesBySpreads[own])};
 }
 
 template class BlockSearch<FineSearch::kSide, FineSearch::kBlock>;

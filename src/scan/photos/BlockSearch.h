@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/FeaturePrint.h"
+#include "scan/photos/PixelPairs.h"
 
 #include <array>
 #include <cstddef>
@@ -26,7 +27,7 @@ struct BlockFind {
 
 /// Finds blocks of one tile, or of its preview, in another by normalised cross-correlation: both blocks are
 /// centred and divided by their standard deviation, so that brightness and contrast cancel out. Sums over all
-/// block positions are prepared once, which leaves one dot product per place tried. About 150 kB for a tile.
+/// block positions are prepared once, which leaves one dot product per place tried. About 220 kB for a tile.
 /// Pure; any thread.
 template <int side, int block>
 class BlockSearch {
@@ -40,7 +41,7 @@ public:
     explicit BlockSearch(const Pixels& pixels);
 
     /// The blocks with enough structure to be found again, the strongest first.
-    [[nodiscard]] std::vector<TilePlace> texturedBlocks() const;
+    [[nodiscard]] const std::vector<TilePlace>& texturedBlocks() const { return m_texturedBlocks; }
 
     /// The best match of this one's block in the other one, at most `reach` pixels away in each direction.
     [[nodiscard]] BlockFind find(TilePlace place, const BlockSearch& other, int reach) const;
@@ -49,22 +50,37 @@ private:
     static constexpr int kPlaces = side - block + 1; ///< of a block along a side
     static constexpr int kPixels = block * block;
 
-    [[nodiscard]] const std::int16_t* pixel(TilePlace place) const
+    static constexpr std::size_t kMargin = 3 * kLanes;
+    static constexpr std::size_t kAllPlaces = static_cast<std::size_t>(kPlaces) * kPlaces;
+
+    [[nodiscard]] const PixelPair* pair(TilePlace place) const
     {
-        return m_pixels.data() + static_cast<std::size_t>(place.y) * side + static_cast<std::size_t>(place.x);
+        return m_pairs.data() + static_cast<std::size_t>(place.y) * side + static_cast<std::size_t>(place.x);
     }
     [[nodiscard]] static std::size_t index(TilePlace place)
     {
         return static_cast<std::size_t>(place.y) * kPlaces + static_cast<std::size_t>(place.x);
     }
-    [[nodiscard]] static std::int32_t product(const std::int16_t* one, const std::int16_t* other);
-    void sumUpBlocks();
 
-    std::array<std::int16_t, static_cast<std::size_t>(side) * side> m_pixels{}; ///< around 0
+    /// A block that is looked for, and the best find so far.
+    struct Sought {
+        TilePlace place;
+        TilePlace best;
+        float most = 0; ///< the square, which needs no root for each place
+    };
+    template <int fours>
+    void look(Sought& sought, const BlockSearch& other, TilePlace first, int count) const;
+    void sumUpBlocks();
+    void findTexture();
+
+    /// Each pixel with the one on its right. Here and below, the margin is for reading whole lanes at the
+    /// end.
+    std::array<PixelPair, static_cast<std::size_t>(side) * side + kMargin> m_pairs{};
     // What the correlation of a block needs, at all places, rows from the top.
-    std::vector<float> m_sums;          ///< of its pixels
-    std::vector<float> m_spreads;       ///< variances, times the squared number of pixels
-    std::vector<float> m_onesBySpreads; ///< with some noise added
+    std::array<float, kAllPlaces + kMargin> m_sums{}; ///< of its pixels
+    std::array<float, kAllPlaces> m_spreads{};        ///< variances, times the squared number of pixels
+    std::array<float, kAllPlaces + kMargin> m_onesBySpreads{}; ///< with some noise added
+    std::vector<TilePlace> m_texturedBlocks;
 };
 
 using FineSearch = BlockSearch<FeaturePrint::kTileSide, 16>;

@@ -70,7 +70,7 @@ public:
 private:
     const Search& m_one;
     const Search& m_other;
-    std::vector<TilePlace> m_blocks;
+    const std::vector<TilePlace>& m_blocks;
     std::vector<BlockFind> m_finds;
     CommonMotion m_motion;
 };
