@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <iterator>
 #include <optional>
 
 // Two models that fail on different pictures judge each one: trees over hand-made features, and a small
@@ -171,6 +172,19 @@ std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evi
     } catch (const std::exception&) { // OpenCV, out of memory
         return {};
     }
+}
+
+bool ImageClassifier::decides(const ImageLabel& label)
+{
+    constexpr Word kWords[] = {kScreenshot, kReceipt, kDocument, kMeme, kIllustration};
+    return std::any_of(std::begin(kWords), std::end(kWords), [&](const Word& word) {
+        return label.identifier == word.identifier && label.confidence >= word.decides;
+    });
+}
+
+bool ImageClassifier::isPage(const ImageLabel& label)
+{
+    return label.identifier == kReceipt.identifier || label.identifier == kDocument.identifier;
 }
 
 } // namespace orlen
