@@ -3,6 +3,7 @@
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/LineDirection.h"
+#include "recognition/PictureLabels.h"
 #include "recognition/Sharpness.h"
 
 #include <fcntl.h>
@@ -90,14 +91,15 @@ void LabelMetrics::report(const std::string& folder, const std::vector<Photo>& p
     for (const Photo& photo : photos) {
         const int file = ::open((folder + "/" + photo.file).c_str(), O_RDONLY | O_CLOEXEC);
         const auto decoded = ImageDecoder::decode(file, ImageDecoder::kForRecognition);
-        ::close(file);
-        if (!decoded)
+        if (!decoded) {
+            ::close(file);
             continue;
+        }
         ++decodedCount;
         const std::clock_t start = std::clock(); // of the processor: others may be at work, too
-        const Labels labels =
-            ImageClassifier::labels(decoded->small, {.isFromCamera = decoded->traits.isFromCamera});
+        const Labels labels = PictureLabels::of(file, *decoded);
         seconds += static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        ::close(file);
         const double sharpness = Sharpness::laplacianVariance(decoded->small);
         const std::string finding = findingOf(labels, sharpness, decoded->width);
         const std::string expected = expectedOf(photo.kind);

@@ -4,6 +4,7 @@
 #include "recognition/LineDirection.h"
 #include "recognition/PictureFeatures.h"
 #include "recognition/SmallNetwork.h"
+#include "recognition/StatusBar.h"
 #include "recognition/TreeEnsemble.h"
 
 #include <opencv2/core/utility.hpp>
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <iterator>
 #include <optional>
 
 // Two models that fail on different pictures judge each one: trees over hand-made features, and a small
@@ -54,6 +56,9 @@ constexpr Word kIllustration{"illustration", 0.50F, 0.3F};
 constexpr float kLeastPairs = 30;
 constexpr float kCameraMeme = 0.3F; // of the score: people do caption what their camera took
 constexpr float kLeastShare = 1e-6F;
+// Score from which on a phone's status bar makes it a screenshot: a phone that shows a photo looks like one.
+// Six of 7,248 tall parts of photos seem to have such a bar.
+constexpr float kUnderStatusBar = 0.05F;
 
 struct Models {
     Models() { cv::setNumThreads(1); } // recognizers run side by side already
@@ -156,6 +161,9 @@ std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evi
         auto scores = scoresOfAnyTurn(image);
         if (!scores)
             return {};
+        if (scores->screenshot >= kUnderStatusBar && scores->screenshot < kScreenshot.turningPoint &&
+            StatusBar::isOn(image))
+            scores->screenshot = kScreenshot.turningPoint;
         if (evidence.isFromCamera) {
             scores->screenshot = 0;
             scores->meme *= kCameraMeme;
@@ -171,6 +179,19 @@ std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evi
     } catch (const std::exception&) { // OpenCV, out of memory
         return {};
     }
+}
+
+bool ImageClassifier::decides(const ImageLabel& label)
+{
+    constexpr Word kWords[] = {kScreenshot, kReceipt, kDocument, kMeme, kIllustration};
+    return std::any_of(std::begin(kWords), std::end(kWords), [&](const Word& word) {
+        return label.identifier == word.identifier && label.confidence >= word.decides;
+    });
+}
+
+bool ImageClassifier::isPage(const ImageLabel& label)
+{
+    return label.identifier == kReceipt.identifier || label.identifier == kDocument.identifier;
 }
 
 } // namespace orlen

@@ -18,4 +18,9 @@ struct Evidence {
 /// plain photo reaches none of them.
 [[nodiscard]] std::vector<ImageLabel> labels(const RgbImage& image, const Evidence& evidence);
 
+/// Whether the photo analysis goes by this label.
+[[nodiscard]] bool decides(const ImageLabel& label);
+/// Whether it says receipt or document.
+[[nodiscard]] bool isPage(const ImageLabel& label);
+
 } // namespace orlen::ImageClassifier

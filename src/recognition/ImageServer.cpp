@@ -4,8 +4,8 @@
 #include "platform/images/ImageMessages.h"
 #include "platform/images/PixelBuffer.h"
 #include "platform/process/ProcessLimits.h"
-#include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
+#include "recognition/PictureLabels.h"
 #include "recognition/PlainPicture.h"
 #include "recognition/PrintMaker.h"
 #include "recognition/Sharpness.h"
@@ -55,7 +55,7 @@ std::optional<ImageAnalysis> analysis(int file)
     analysis.traits.isFlat = PlainPicture::isFlat(thumbnail);
     analysis.sharpness = Sharpness::laplacianVariance(thumbnail);
     try {
-        std::vector<ImageLabel> labels = ImageClassifier::labels(thumbnail, {decoded->traits.isFromCamera});
+        std::vector<ImageLabel> labels = PictureLabels::of(file, *decoded);
         // What a decoder fills in for missing rows would be compared as well.
         if (!analysis.traits.isDamaged)
             analysis.print = PrintMaker::printOf(thumbnail);

@@ -75,14 +75,18 @@ std::string saved(const Image& image, const std::string& format)
     return text;
 }
 
-Image fromPixels(const Options& options)
+Image fromPixels(const Pixels& all, PixelSize size, int bands)
 {
-    const Pixels all = pixels(options);
-    Image image(vips_image_new_from_memory_copy(all.data(), all.size(), options.width, options.height,
-                                                options.alpha ? 4 : 3, VIPS_FORMAT_UCHAR));
+    const Image image(vips_image_new_from_memory_copy(all.data(), all.size(), size.width, size.height, bands,
+                                                      VIPS_FORMAT_UCHAR));
     return applied(image, [](VipsImage* in, VipsImage** out) {
         return vips_copy(in, out, "interpretation", VIPS_INTERPRETATION_sRGB, nullptr);
     });
+}
+
+Image fromPixels(const Options& options)
+{
+    return fromPixels(pixels(options), {options.width, options.height}, options.alpha ? 4 : 3);
 }
 
 } // namespace
@@ -95,6 +99,11 @@ std::string encoded(const Options& options)
     if (!options.cameraMake.empty())
         vips_image_set_string(image.get(), "exif-ifd0-Make", options.cameraMake.c_str());
     return saved(image, options.format);
+}
+
+std::string png(const RgbImage& picture)
+{
+    return saved(fromPixels(picture.pixels, {picture.width, picture.height}, 3), ".png");
 }
 
 std::string bmp(const Options& options)

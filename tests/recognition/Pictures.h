@@ -38,6 +38,7 @@ struct Options {
 
 /// The file's bytes.
 [[nodiscard]] std::string encoded(const Options& options);
+[[nodiscard]] std::string png(const RgbImage& picture);
 /// The same pixels as a BMP file; without format and notes.
 [[nodiscard]] std::string bmp(const Options& options);
 /// Several frames: the first has the quarters, the others are black.

@@ -13,7 +13,7 @@ namespace orlen {
 namespace {
 
 /// The number grows when pictures are decoded or measured otherwise.
-constexpr std::string_view kHeader = "Orlen pictures 3 " ORLEN_MODELS "\n";
+constexpr std::string_view kHeader = "Orlen pictures 4 " ORLEN_MODELS "\n";
 
 /// What a record begins with, in front of the answer.
 struct Fixed {
