@@ -31,6 +31,9 @@ inline constexpr Text kInstalledBySnap =
 
 // TRANSLATORS: {name} is an application. Heading of what will happen, and later of what was done.
 inline constexpr Text kUninstall = message("Uninstall {name}");
+// TRANSLATORS: Heading as well, when there are several.
+inline constexpr Text kUninstallSeveral =
+    messages("Uninstall {count} application", "Uninstall {count} applications");
 inline constexpr Text kApplication = message("Application");
 // TRANSLATORS: What an application that is gone has stored.
 inline constexpr Text kAppData = message("App data");

@@ -131,6 +131,17 @@ inline constexpr Text kGone = message("No longer in the Trash");
 inline constexpr Text kAppBundle = message("App bundle");
 inline constexpr Text kAppFolder = message("App folder");
 inline constexpr Text kRemovedFlatpak = message("Data of a removed Flatpak");
+// TRANSLATORS: The first of the choices of what kinds of applications are listed.
+inline constexpr Text kAllSources = messageIn("applications", "All sources");
+// TRANSLATORS: How much of an application's size is what it has stored.
+inline constexpr Text kOfItData = message("{size} of it data");
+inline constexpr Text kLastUsed = message("Last used {date}");
+// TRANSLATORS: The file of an application was read then, likely because somebody started it.
+inline constexpr Text kFileLastRead = message("File last read {date}");
+// TRANSLATORS: Of an application.
+inline constexpr Text kUseUnknown = message("Last use unknown");
+inline constexpr Text kPackaged = messages("{count} program belongs to your package manager.",
+                                           "{count} programs belong to your package manager.");
 
 // Forecast
 inline constexpr Text kNoChange = message("No change");

@@ -102,6 +102,10 @@ TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
         EXPECT_EQ(texts(shown, AppRole::name), c.names);
     }
     shown.setQuery({});
+    EXPECT_EQ(shown.sources(), (QStringList{"All sources", "AppImage", "App folder"}));
+    shown.setSource(1);
+    EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Alder Notes", "Birch"}));
+    shown.setSource(0);
     shown.setOrder(AppOrderModel::ByName);
     EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Alder Notes", "Birch", "Cedar"}));
 }

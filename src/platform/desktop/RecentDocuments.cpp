@@ -4,10 +4,12 @@
 #include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
 #include "platform/text/FileUri.h"
+#include "platform/text/PathText.h"
 
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace orlen {
 
@@ -32,6 +34,29 @@ std::optional<TimePoint> timeOf(std::string_view text)
     if (zone == std::string_view::npos)
         return std::nullopt;
     return timeFromIso(std::string(text.substr(0, dot)) + std::string(text.substr(zone)));
+}
+
+/// The file name of the program in "'/usr/bin/viewer' %u".
+std::string programOf(std::string_view command)
+{
+    constexpr std::string_view kAround = " '\"";
+    command.remove_prefix(std::min(command.find_first_not_of(kAround), command.size()));
+    command = command.substr(0, command.find_first_of(kAround));
+    return std::string(PathText::lastComponent(command));
+}
+
+template <typename Times>
+void keepLatest(Times& times, std::string key, TimePoint time)
+{
+    TimePoint& latest = times.try_emplace(std::move(key), time).first->second;
+    latest = std::max(latest, time);
+}
+
+template <typename Times>
+std::optional<TimePoint> found(const Times& times, const std::string& key)
+{
+    const auto time = times.find(key);
+    return time == times.end() ? std::nullopt : std::optional(time->second);
 }
 
 } // namespace
@@ -60,22 +85,28 @@ RecentDocuments RecentDocuments::parse(std::string_view xml)
         return recent;
     const Places& places = Places::current();
     for (const pugi::xml_node bookmark : document.child("xbel").children("bookmark")) {
+        const auto programs = bookmark.child("info").child("metadata").child("bookmark:applications");
+        for (const pugi::xml_node program : programs.children("bookmark:application")) {
+            const auto opened = timeOf(program.attribute("modified").value());
+            if (std::string name = programOf(program.attribute("exec").value()); opened && !name.empty())
+                keepLatest(recent.m_uses, std::move(name), *opened);
+        }
         auto path = pathOf(bookmark.attribute("href").value(), places);
         const auto visited = timeOf(bookmark.attribute("visited").value());
-        if (!path || !visited)
-            continue;
-        TimePoint& latest = recent.m_visits.try_emplace(std::move(*path), *visited).first->second;
-        latest = std::max(latest, *visited);
+        if (path && visited)
+            keepLatest(recent.m_visits, std::move(*path), *visited);
     }
     return recent;
 }
 
 std::optional<TimePoint> RecentDocuments::lastVisit(const std::string& path) const
 {
-    const auto visit = m_visits.find(path);
-    if (visit == m_visits.end())
-        return std::nullopt;
-    return visit->second;
+    return found(m_visits, path);
+}
+
+std::optional<TimePoint> RecentDocuments::lastUse(const std::string& program) const
+{
+    return found(m_uses, program);
 }
 
 } // namespace orlen

@@ -11,7 +11,8 @@ namespace orlen {
 
 struct Places;
 
-/// When files were last opened, according to the desktop's "recently-used.xbel". Immutable; any thread.
+/// When files were last opened, and programs last opened any, according to the desktop's
+/// "recently-used.xbel". Immutable; any thread.
 class RecentDocuments {
 public:
     RecentDocuments() = default;
@@ -24,9 +25,14 @@ public:
 
     /// When a program last reported opening the file; nothing if none did.
     [[nodiscard]] std::optional<TimePoint> lastVisit(const std::string& path) const;
+    /// When the program of this file name last reported opening any file; nothing if it never did.
+    [[nodiscard]] std::optional<TimePoint> lastUse(const std::string& program) const;
 
 private:
-    std::unordered_map<std::string, TimePoint> m_visits;
+    using Times = std::unordered_map<std::string, TimePoint>;
+
+    Times m_visits;
+    Times m_uses; ///< by file name of the program
 };
 
 } // namespace orlen

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Message.h"
+#include "platform/values/Time.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,6 +20,18 @@ enum class AppSource {
     removedFlatpak, ///< leftover data folder of a removed Flatpak
 };
 
+/// When an application was last used, as far as anything tells.
+struct AppUse {
+    enum class Source {
+        desktop, ///< the desktop or the program itself noted it
+        file,    ///< its file was last read then, which something else may have done
+    };
+
+    TimePoint when;
+    Source source = Source::desktop;
+    friend bool operator==(const AppUse&, const AppUse&) = default;
+};
+
 /// One application. Identified by its path.
 struct AppInfo {
     std::string path;
@@ -32,7 +45,13 @@ struct AppInfo {
     std::string adviceCommand;
     std::string icon;                   ///< absolute path or theme name from its launcher; may be empty
     std::vector<std::string> launchers; ///< its desktop entry files, absolute
+    std::string data;                   ///< the folder that its manager gives it for its data; may be empty
+    /// Bytes of what it has stored outside `path`, as far as that is surely its own; absent until measured.
+    std::optional<std::int64_t> dataSize;
+    std::optional<AppUse> lastUse; ///< absent if nothing tells
 
+    /// Bytes with its data, as far as that is measured; absent until it is measured itself.
+    [[nodiscard]] std::optional<std::int64_t> total() const;
     [[nodiscard]] bool isRemovable() const { return advice.empty(); }
 
     friend bool operator==(const AppInfo&, const AppInfo&) = default;

@@ -1,5 +1,6 @@
 #include "tools/apps/AppList.h"
 
+#include "platform/desktop/DesktopEntry.h"
 #include "platform/files/Folder.h"
 #include "platform/files/Places.h"
 #include "platform/process/OwnProgram.h"
@@ -7,17 +8,26 @@
 #include "platform/process/Threads.h"
 #include "platform/text/Collation.h"
 #include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 #include "scan/FS.h"
 #include "tools/apps/Flatpaks.h"
+#include "tools/apps/LastUse.h"
 #include "tools/apps/Launchers.h"
+#include "tools/apps/Leftovers.h"
 #include "tools/apps/RemovableApps.h"
 #include "tools/apps/Snaps.h"
 #include "tools/apps/mac/Bundles.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
+#include <functional>
 #include <iterator>
 #include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace orlen::AppList {
 
@@ -52,6 +62,58 @@ void sortByName(std::vector<AppInfo>& apps)
     });
 }
 
+/// Bytes of what is measured of an application.
+using Size = std::function<std::int64_t(const AppInfo&)>;
+
+void measureEach(std::span<const AppInfo> apps, const Size& size, const Measured& measured,
+                 const std::stop_token& stop)
+{
+    std::atomic<std::size_t> next{0};
+    std::mutex telling;
+    Threads::runOn("orlen-apps", std::min(kMeasuredAtOnce, apps.size()), [&](std::size_t) {
+        for (std::size_t i = next++; i < apps.size(); i = next++) {
+            const std::int64_t bytes = size(apps[i]);
+            // A stopped measurement is incomplete.
+            const std::lock_guard guard(telling);
+            if (stop.stop_requested())
+                return;
+            measured(i, bytes);
+        }
+    });
+}
+
+/// Of what the application stored; its launchers are part of the installation.
+std::int64_t leftoverSize(const AppInfo& app, std::span<const AppInfo> listed, const std::stop_token& stop)
+{
+    std::int64_t bytes = 0;
+    for (const FileEntry& entry : Leftovers::find(app, listed, stop).entries) {
+        if (std::ranges::find(app.launchers, entry.path) == app.launchers.end())
+            bytes = checkedAdd(bytes, entry.size);
+    }
+    return bytes;
+}
+
+bool isInMenus(const DesktopEntry& entry)
+{
+    return entry.text("Type") == "Application" && !entry.flag("NoDisplay").value_or(false) &&
+           !entry.flag("Hidden").value_or(false);
+}
+
+/// The folders of launchers that only packages of the distribution write to.
+std::vector<std::string> packagedFolders()
+{
+    std::vector<std::string> folders;
+    for (const std::string& data : Places::current().sharedData) {
+        std::string folder = resolved(data + "/applications");
+        const bool isOthers =
+            std::ranges::any_of(std::array{"/flatpak/", "/snapd/", "/usr/local/"},
+                                [&](const char* part) { return folder.find(part) != std::string::npos; });
+        if (!folder.empty() && !isOthers)
+            folders.push_back(std::move(folder));
+    }
+    return folders;
+}
+
 } // namespace
 
 std::vector<AppInfo> list(const std::stop_token& stop)
@@ -69,23 +131,42 @@ std::vector<AppInfo> list(const std::stop_token& stop)
     append(apps, Flatpaks::removed());
     leaveOutOwn(apps);
     sortByName(apps);
+    LastUse::note(apps);
     return apps;
 }
 
 void measure(std::span<const AppInfo> apps, const Measured& measured, const std::stop_token& stop)
 {
-    std::atomic<std::size_t> next{0};
-    std::mutex telling;
-    Threads::runOn("orlen-apps", std::min(kMeasuredAtOnce, apps.size()), [&](std::size_t) {
-        for (std::size_t i = next++; i < apps.size(); i = next++) {
-            const std::int64_t bytes = FS::allocatedSize(apps[i].path, stop);
-            // A stopped measurement is incomplete.
-            const std::lock_guard guard(telling);
+    measureEach(
+        apps, [&](const AppInfo& app) { return FS::allocatedSize(app.path, stop); }, measured, stop);
+}
+
+void measureData(std::span<const AppInfo> apps, const Measured& measured, const std::stop_token& stop)
+{
+    measureEach(
+        apps,
+        [&](const AppInfo& app) {
+            return app.data.empty() ? leftoverSize(app, apps, stop) : FS::allocatedSize(app.data, stop);
+        },
+        measured, stop);
+}
+
+std::size_t countPackaged(const std::stop_token& stop)
+{
+    std::set<std::string> counted;
+    for (const std::string& folder : packagedFolders()) {
+        for (const std::string& name : listNames(folder)) {
             if (stop.stop_requested())
-                return;
-            measured(i, bytes);
+                return 0;
+            if (!name.ends_with(".desktop") || counted.contains(name))
+                continue;
+            const auto entry = DesktopEntry::read(resolved(PathText::join(folder, name)));
+            // What managers copy there is in the list.
+            if (entry && isInMenus(*entry) && !entry->has("X-Flatpak") && !entry->has("X-SnapInstanceName"))
+                counted.insert(name);
         }
-    });
+    }
+    return counted.size();
 }
 
 bool isRunning(const AppInfo& app)

@@ -79,6 +79,8 @@ AppInfo described(const Installation& installation, const std::string& identifie
     app.adviceCommand = std::string("flatpak uninstall --delete-data ") +
                         (installation.isOfUser ? "--user " : "") + identifier;
     app.advice = {ToolsTexts::kInstalledByFlatpak, {{"command", app.adviceCommand}}};
+    if (std::string data = Places::current().home + "/.var/app/" + identifier; isRealFolder(data))
+        app.data = std::move(data);
     const std::string entry =
         app.path + "/current/active/export/share/applications/" + identifier + ".desktop";
     if (const auto launcher = Launcher::read(entry, Launcher::Links::followed)) {

@@ -114,6 +114,8 @@ std::vector<AppInfo> installed()
             app.path = file;
         app.bundleID = snap;
         app.source = AppSource::snap;
+        if (std::string data = Places::current().home + "/snap/" + std::string(snap); isRealFolder(data))
+            app.data = std::move(data);
         app.adviceCommand = "snap remove " + snap;
         app.advice = {ToolsTexts::kInstalledBySnap, {{"command", app.adviceCommand}}};
         if (const auto launcher = Launcher::read(file, Launcher::Links::followed)) {

@@ -123,8 +123,9 @@ void AppDetailModel::followList()
         std::find_if(apps.begin(), apps.end(), [&](const AppInfo& app) { return app.path == m_info.path; });
     if (same == apps.end()) {
         close();
-    } else if (same->size && same->size != m_info.size) {
+    } else if (same->size && (same->size != m_info.size || same->dataSize != m_info.dataSize)) {
         m_info.size = same->size;
+        m_info.dataSize = same->dataSize;
         Q_EMIT changed();
         Q_EMIT selectionChanged();
     }
@@ -158,6 +159,12 @@ QString AppDetailModel::quitFirst() const
     if (!m_isRunning)
         return {};
     return DisplayText::text(Message(ScanTexts::kQuitFirst, {{"name", m_info.name}}));
+}
+
+QString AppDetailModel::size() const
+{
+    const std::optional<std::int64_t> bytes = isRemovable() ? m_info.size : m_info.total();
+    return bytes ? DisplayText::size(*bytes) : QString();
 }
 
 QString AppDetailModel::total() const

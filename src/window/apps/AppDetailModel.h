@@ -24,8 +24,10 @@ class AppDetailModel : public orlen::LeftoverListModel {
     Q_PROPERTY(QString origin READ origin NOTIFY changed)
     Q_PROPERTY(QString identifier READ identifier NOTIFY changed)
     Q_PROPERTY(QString icon READ icon NOTIFY changed)
-    /// Of the application without leftovers; empty until measured.
+    /// Of the application, and of its data where that is no leftover to choose; empty until measured.
     Q_PROPERTY(QString size READ size NOTIFY changed)
+    /// How much of it is data, and when it was last used.
+    Q_PROPERTY(QString usage READ usage NOTIFY changed)
     /// Whether Orlen can remove it; otherwise `advice` says how to.
     Q_PROPERTY(bool removable READ isRemovable NOTIFY changed)
     Q_PROPERTY(QString advice READ advice NOTIFY changed)
@@ -45,7 +47,8 @@ public:
     [[nodiscard]] QString origin() const { return AppInfoTexts::origin(m_info); }
     [[nodiscard]] QString identifier() const { return DisplayText::path(m_info.bundleID); }
     [[nodiscard]] QString icon() const { return AppInfoTexts::iconId(m_info); }
-    [[nodiscard]] QString size() const { return m_info.size ? DisplayText::size(*m_info.size) : QString(); }
+    [[nodiscard]] QString size() const;
+    [[nodiscard]] QString usage() const { return AppInfoTexts::usage(m_info); }
     [[nodiscard]] bool isRemovable() const { return m_info.isRemovable(); }
     [[nodiscard]] QString advice() const { return DisplayText::text(m_info.advice); }
     [[nodiscard]] QString command() const { return DisplayText::line(m_info.adviceCommand); }

@@ -46,6 +46,20 @@ QString symbol(AppSource source)
     return {};
 }
 
+Message lastUse(const AppInfo& app)
+{
+    if (!app.lastUse)
+        return WindowTexts::kUseUnknown;
+    const Place date{"date", Moment{app.lastUse->when, Moment::Form::day}};
+    switch (app.lastUse->source) {
+    case AppUse::Source::desktop:
+        return {WindowTexts::kLastUsed, {date}};
+    case AppUse::Source::file:
+        return {WindowTexts::kFileLastRead, {date}};
+    }
+    return {};
+}
+
 } // namespace
 
 QString summary(std::size_t applications, std::int64_t bytes)
@@ -65,6 +79,20 @@ QString foldersSummary(std::size_t folders, std::int64_t bytes)
 QString origin(const AppInfo& app)
 {
     return DisplayText::facts({DisplayText::text(kindName(app.source)), DisplayText::folderOf(app.path)});
+}
+
+QString usage(const AppInfo& app)
+{
+    QStringList facts;
+    if (app.dataSize.value_or(0) > 0)
+        facts += DisplayText::text(Message(WindowTexts::kOfItData, {{"size", Bytes{*app.dataSize}}}));
+    facts += DisplayText::text(lastUse(app));
+    return DisplayText::facts(facts);
+}
+
+QString kind(AppSource source)
+{
+    return DisplayText::text(kindName(source));
 }
 
 QString iconId(const AppInfo& app)

@@ -16,6 +16,10 @@ namespace orlen::AppInfoTexts {
 [[nodiscard]] QString foldersSummary(std::size_t folders, std::int64_t bytes);
 /// Kind and place of the installation: "AppImage · ~/Applications".
 [[nodiscard]] QString origin(const AppInfo& app);
+/// How much of it is data, if any, and when it was last used, or that nobody knows.
+[[nodiscard]] QString usage(const AppInfo& app);
+/// "Flatpak", "App folder" …
+[[nodiscard]] QString kind(AppSource source);
 /// The icon's id for `AppIconProvider`.
 [[nodiscard]] QString iconId(const AppInfo& app);
 /// The heading over the leftovers.

@@ -8,12 +8,14 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace orlen {
 
 /// The installed applications by name. Names appear at once, sizes as they are measured. Reloads after every
-/// clean-up. Main thread, and needs its event loop; workers read the disk.
+/// clean-up and restore. Main thread, and needs its event loop; workers read the disk.
 class AppListModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -22,13 +24,18 @@ class AppListModel : public orlen::RowsModel {
     Q_PROPERTY(bool measuring READ isMeasuring NOTIFY summaryChanged)
     /// How many applications there are and, as far as known, their size.
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
+    /// How many programs of the distribution's packages are not listed; empty when there are none.
+    Q_PROPERTY(QString packaged READ packaged NOTIFY summaryChanged)
 
 public:
     enum class Role {
         name = Qt::UserRole, ///< display name
         origin,              ///< kind and place of the installation
+        usage,               ///< how much of it is data, and its last use; may be empty
         icon,                ///< id for `AppIconProvider`
-        size,                ///< bytes as text; empty until measured
+        isRemovable,         ///< whether it can be ticked
+        checked,             ///< whether it is ticked, to be removed with others
+        size,                ///< bytes with its data as text; empty until measured
     };
     Q_ENUM(Role)
 
@@ -37,7 +44,14 @@ public:
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
     [[nodiscard]] bool isMeasuring() const { return m_sizes != nullptr; }
     [[nodiscard]] QString summary() const;
+    [[nodiscard]] QString packaged() const;
     [[nodiscard]] const std::vector<AppInfo>& apps() const { return m_apps; }
+
+    /// Those that are ticked, in the order of the list.
+    [[nodiscard]] std::vector<AppInfo> ticked() const;
+    /// Ticks an application, or takes its tick away; ignored when it is not removable.
+    Q_INVOKABLE void tick(int row);
+    void untickAll();
 
     /// Reads the list and measures it again. The latest load wins.
     Q_INVOKABLE void load();
@@ -45,19 +59,26 @@ public:
 Q_SIGNALS:
     void loadingChanged();
     void summaryChanged();
+    void tickedChanged();
 
 private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_apps.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
     class Sizes;
+    struct Loaded {
+        std::vector<AppInfo> apps;
+        std::size_t packaged = 0;
+    };
 
-    void show(std::vector<AppInfo> apps);
+    void show(Loaded loaded);
     void measure();
     void takeSizes();
     void setLoading(bool isLoading);
 
     std::vector<AppInfo> m_apps;
+    std::set<std::string> m_ticked; ///< paths
+    std::size_t m_packaged = 0;
     bool m_isLoading = false;
     Latest m_work;                  ///< the load, then the measuring
     std::shared_ptr<Sizes> m_sizes; ///< null while nothing is measured

@@ -4,7 +4,11 @@
 #include "window/lists/WordSearch.h"
 
 #include <QSortFilterProxyModel>
+#include <QStringList>
 #include <QtQml/qqmlregistration.h>
+
+#include <optional>
+#include <vector>
 
 namespace orlen {
 
@@ -16,12 +20,16 @@ class AppOrderModel : public QSortFilterProxyModel {
     Q_PROPERTY(orlen::AppListModel* list READ list WRITE setList NOTIFY listChanged REQUIRED)
     /// Words that must all appear in an application's name, kind or place; case is ignored.
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    /// The kinds of applications that there are, after a text for all of them; and which of these is shown.
+    Q_PROPERTY(QStringList sources READ sources NOTIFY sourcesChanged)
+    Q_PROPERTY(int source READ source WRITE setSource NOTIFY sourcesChanged)
     Q_PROPERTY(Order order READ order WRITE setOrder NOTIFY orderChanged)
 
 public:
     enum Order {
         ByName,
         BySize, ///< largest first, unmeasured ones last
+        ByUse,  ///< longest unused first, unknown ones last
     };
     Q_ENUM(Order)
 
@@ -31,6 +39,9 @@ public:
     void setList(AppListModel* list);
     [[nodiscard]] QString query() const { return m_query; }
     void setQuery(const QString& query);
+    [[nodiscard]] QStringList sources() const;
+    [[nodiscard]] int source() const;
+    void setSource(int number);
     [[nodiscard]] Order order() const { return m_order; }
     void setOrder(Order order);
 
@@ -40,6 +51,7 @@ public:
 Q_SIGNALS:
     void listChanged();
     void queryChanged();
+    void sourcesChanged();
     void orderChanged();
 
 protected:
@@ -49,7 +61,11 @@ protected:
 private:
     [[nodiscard]] const AppInfo& appAt(int listRow) const;
 
+    void findSources();
+
     AppListModel* m_list = nullptr;
+    std::vector<AppSource> m_sources;
+    std::optional<AppSource> m_source; ///< nothing: all of them
     QString m_query;
     WordSearch m_search;
     Order m_order = ByName;

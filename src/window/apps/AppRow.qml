@@ -7,20 +7,41 @@ ListRow {
 
     required property string name
     required property string origin
+    required property string usage
     required property string icon
     required property string size
+    required property bool isRemovable
+    required property bool checked
     signal activated
+    signal toggled
 
     implicitHeight: Math.max(60, texts.height + 22)
     Accessible.name: root.name
-    Accessible.description: Strings.spoken([root.origin, root.size])
+    Accessible.description: Strings.spoken([root.origin, root.usage, root.size])
+    Accessible.checkable: root.isRemovable
+    Accessible.checked: root.checked
     Accessible.onPressAction: root.activated()
+    Accessible.onToggleAction: root.toggled()
+
+    CheckMark {
+        id: mark
+
+        objectName: "check"
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.isRemovable
+        checked: root.checked
+        focusPolicy: Qt.NoFocus
+        Accessible.ignored: true
+        onClicked: root.toggled()
+    }
 
     AppIcon {
         id: picture
 
-        anchors.left: parent.left
-        anchors.leftMargin: 12
+        anchors.left: mark.right
+        anchors.leftMargin: Theme.spaceS
         anchors.verticalCenter: parent.verticalCenter
         icon: root.icon
     }
@@ -35,6 +56,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         name: root.name
         place: root.origin
+        note: root.usage
         placeInk: root.hovered ? Theme.secondary : Theme.tertiary
     }
 

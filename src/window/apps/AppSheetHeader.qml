@@ -29,6 +29,12 @@ Column {
 
         CaptionText {
             width: parent.width
+            text: root.detail.usage
+            wrapMode: Text.Wrap
+        }
+
+        CaptionText {
+            width: parent.width
             visible: text !== ""
             text: root.detail.identifier
             elide: Text.ElideMiddle

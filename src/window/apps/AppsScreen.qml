@@ -9,6 +9,8 @@ Item {
     readonly property real sideMargin: Theme.sideMargin(root.width)
     /// Whether the search field is below the title rather than beside it.
     readonly property bool isNarrow: root.width < 540 * Theme.textScale
+    /// Whether the choices above the list are below its figures rather than beside them.
+    readonly property bool isStacked: root.width < 720 * Theme.textScale
     readonly property bool isCovered: chosen.open || behind.open || root.view.navigation.sheet !== Navigation.NoSheet
 
     AppListModel {
@@ -24,6 +26,12 @@ Item {
 
     AppDetailModel {
         id: chosen
+
+        list: apps
+    }
+
+    AppBatchModel {
+        id: batch
 
         list: apps
     }
@@ -88,7 +96,8 @@ Item {
         anchors.leftMargin: root.sideMargin
         anchors.rightMargin: root.sideMargin
         anchors.topMargin: root.isNarrow ? Theme.spaceM : Theme.spaceXl
-        height: list.count === 0 ? card.room : Math.min(card.room, line.y + list.contentHeight + 18)
+        height: list.count === 0 ? card.room
+                : Math.min(card.room, line.y + list.contentHeight + 18 + (bar.visible ? bar.height : 0))
 
         readonly property real room: root.height - card.y - Theme.pageMargin
                                      - (left.visible ? left.height + Theme.spaceM : 0)
@@ -98,10 +107,10 @@ Item {
 
             anchors.left: parent.left
             anchors.leftMargin: Theme.cardMargin
-            anchors.right: orders.left
+            anchors.right: root.isStacked ? parent.right : orders.left
             anchors.rightMargin: Theme.spaceM
-            anchors.verticalCenter: orders.verticalCenter
-            visible: apps.count > 0
+            y: root.isStacked ? Theme.spaceM : 10 + (orders.height - height) / 2
+            visible: apps.count > 0 && !(root.isStacked && bar.visible)
             text: apps.summary
             wrapMode: Text.WordWrap
             maximumLineCount: 2
@@ -109,26 +118,15 @@ Item {
             font.weight: Font.Medium
         }
 
-        Row {
+        AppOrders {
             id: orders
 
             anchors.right: parent.right
             anchors.rightMargin: Theme.spaceM
-            y: 10
-            spacing: Theme.spaceXs
+            y: root.isStacked && summary.visible ? summary.y + summary.height + Theme.spaceXs : 10
+            width: root.isStacked ? parent.width - 2 * Theme.spaceM : undefined
+            ordered: ordered
             enabled: apps.count > 0
-
-            SortButton {
-                text: Strings.byName
-                active: ordered.order === AppOrderModel.ByName
-                onClicked: ordered.order = AppOrderModel.ByName
-            }
-
-            SortButton {
-                text: Strings.bySize
-                active: ordered.order === AppOrderModel.BySize
-                onClicked: ordered.order = AppOrderModel.BySize
-            }
         }
 
         Divider {
@@ -153,7 +151,7 @@ Item {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.top: line.bottom
-            anchors.bottom: parent.bottom
+            anchors.bottom: bar.visible ? bar.top : parent.bottom
             anchors.leftMargin: Theme.spaceS
             anchors.rightMargin: 1
             anchors.bottomMargin: 1
@@ -163,9 +161,25 @@ Item {
             model: ordered
             Accessible.name: Screens.title(Screens.Apps)
 
+            footer: Item {
+                width: ListView.view.width
+                height: packaged.visible ? packaged.height : 0
+
+                CaptionText {
+                    id: packaged
+
+                    objectName: "packagedApps"
+                    width: parent.width
+                    visible: apps.packaged !== "" && search.text === ""
+                    padding: Theme.spaceM
+                    text: apps.packaged
+                    wrapMode: Text.Wrap
+                }
+            }
+
             Keys.onReturnPressed: list.openRow(list.currentIndex)
             Keys.onEnterPressed: list.openRow(list.currentIndex)
-            Keys.onSpacePressed: list.openRow(list.currentIndex)
+            Keys.onSpacePressed: apps.tick(ordered.listRow(list.currentIndex))
 
             delegate: AppRow {
                 id: row
@@ -175,6 +189,7 @@ Item {
                 x: Theme.mirrored ? 7 : 0
                 width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
+                onToggled: apps.tick(ordered.listRow(row.index))
                 onActivated: {
                     // Taps on a sheet reach the rows below it.
                     if (root.isCovered)
@@ -183,6 +198,23 @@ Item {
                     list.openRow(row.index);
                 }
             }
+        }
+
+        SheetFooter {
+            id: bar
+
+            anchors.bottom: parent.bottom
+            width: parent.width
+            shown: batch.count > 0
+            note: batch.busy ? Strings.lookingForLeftovers : batch.chosenText
+            figure: batch.total
+            cancel: Strings.clearTicks
+            cancelName: "clearTicks"
+            action: Strings.reviewAndUninstall
+            actionName: "reviewTicked"
+            ready: !batch.busy
+            onTriggered: batch.review()
+            onCancelled: batch.clear()
         }
 
         PlaceholderRows {
@@ -215,7 +247,7 @@ Item {
         anchors.right: card.right
         anchors.top: card.bottom
         anchors.topMargin: Theme.spaceM
-        visible: behind.count > 0 && search.text === ""
+        visible: behind.count > 0 && search.text === "" && !bar.visible
         leftovers: behind
     }
 }

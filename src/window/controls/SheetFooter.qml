@@ -17,10 +17,22 @@ Item {
     property string cancel: ""
     property string figureName: ""
     property string actionName: "primaryAction"
+    property string cancelName: ""
+    readonly property real room: root.width - 2 * Theme.spaceXl
+    readonly property real buttonsWidth: main.implicitWidth
+                                         + (second.visible ? second.implicitWidth + buttons.spacing : 0)
+    readonly property real noteWidth: root.room - total.width - Theme.spaceL
+    /// Whether the buttons are below the note, since there is no room for it beside them.
+    readonly property bool isTall: root.noteWidth - root.buttonsWidth - Theme.spaceL < Theme.widened(130)
     signal triggered
     signal cancelled
 
-    height: root.shown ? Math.ceil(Math.max(Theme.mainControlHeight, remark.height)) + 28 : 12
+    height: {
+        if (!root.shown)
+            return 12;
+        const beside = Math.max(Theme.mainControlHeight, remark.height);
+        return Math.ceil(root.isTall ? remark.height + Theme.spaceS + buttons.height : beside) + 28;
+    }
     visible: root.shown
 
     Divider {
@@ -30,11 +42,10 @@ Item {
     Note {
         id: remark
 
-        anchors.verticalCenter: parent.verticalCenter
         anchors.left: parent.left
         anchors.leftMargin: Theme.spaceXl
-        anchors.right: total.left
-        anchors.rightMargin: Theme.spaceL
+        y: root.isTall ? 14 : (root.height - height) / 2
+        width: root.isTall ? root.noteWidth : root.noteWidth - root.buttonsWidth - Theme.spaceL
         text: root.note
         symbol: root.noteSymbol
         ink: root.noteInk
@@ -44,29 +55,35 @@ Item {
         id: total
 
         objectName: root.figureName
-        anchors.right: buttons.left
-        anchors.rightMargin: Theme.spaceL
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.right: root.isTall ? buttons.right : buttons.left
+        anchors.rightMargin: root.isTall ? 0 : Theme.spaceL
+        anchors.verticalCenter: remark.verticalCenter
         text: root.figure
         font.weight: Font.Bold
         Accessible.role: Accessible.StaticText
     }
 
-    Row {
+    Flow {
         id: buttons
 
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceXl
-        anchors.verticalCenter: parent.verticalCenter
+        y: root.isTall ? remark.y + remark.height + Theme.spaceS : (root.height - height) / 2
+        width: Math.min(root.buttonsWidth, root.room)
         spacing: Theme.spaceS
 
         AppButton {
+            id: second
+
+            objectName: root.cancelName
             visible: root.cancel !== ""
             text: root.cancel
             onClicked: root.cancelled()
         }
 
         AppButton {
+            id: main
+
             objectName: root.actionName
             primary: true
             enabled: root.ready

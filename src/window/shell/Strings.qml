@@ -149,11 +149,12 @@ QtObject {
     readonly property string nothingSelected: Words.message("Nothing is selected.")
     readonly property string selectAllShown: Words.message("Select all that are shown")
     function sortBy(order: string): string {
-        // TRANSLATORS: {order} is one of the next six, as it stands there.
+        // TRANSLATORS: {order} is one of the next seven, as it stands there.
         return Words.message("Sort by {order}", { order: order });
     }
     readonly property string byKind: Words.messageIn("order", "Kind")
     readonly property string bySize: Words.messageIn("order", "Size")
+    readonly property string byUse: Words.messageIn("order", "Last use")
     readonly property string byName: Words.messageIn("order", "Name")
     readonly property string byDate: Words.messageIn("order", "Date")
     readonly property string byFolder: Words.messageIn("order", "Folder")
@@ -283,6 +284,10 @@ QtObject {
     readonly property string appsLead: Words.message("Uninstall an app with its leftovers.")
     readonly property string reviewAndUninstall: Words.message("Review & Uninstall…")
     readonly property string noLeftovers: Words.message("No leftovers found.")
+    // TRANSLATORS: A button that takes all ticks away.
+    readonly property string clearTicks: Words.message("Select None")
+    // TRANSLATORS: What a choice is for, read aloud: AppImages, Flatpaks and so on.
+    readonly property string appSource: Words.message("Source of the applications")
     readonly property string searchApps: Words.message("Search applications")
     readonly property string noApps: Words.message("No applications found.")
     function noAppMatches(text: string): string {

@@ -17,6 +17,7 @@ namespace orlen {
 namespace {
 
 using testing::ElementsAre;
+using testing::Pair;
 
 constexpr std::int64_t kKibibyte = 1024;
 
@@ -307,20 +308,40 @@ TEST(AppListTest, whatRunsFromInsideAnApplicationIsNoticed)
     EXPECT_TRUE(AppList::isRunning(app));
 }
 
-TEST(UninstallTest, thePlanHoldsTheApplicationThenItsLeftovers)
+TEST(AppListTest, dataIsWhatManagersKeepOrWhatWouldGoAlong)
 {
-    AppInfo app{"/Applications/Foo.app", "Foo", "org.foo.Foo", 4096};
-    FileEntry left;
-    left.path = "/home/x";
-    const CleanPlan plan = Uninstall::plan(app, std::vector<FileEntry>{left});
-    EXPECT_EQ(plan.title.base(), "Uninstall Foo");
-    ASSERT_EQ(plan.sections.size(), 2U);
-    EXPECT_EQ(plan.sections[0].id + plan.sections[0].title.base() + plan.sections[0].symbol,
-              "appApplicationapp.fill");
-    EXPECT_EQ(plan.sections[0].entries[0].size, 4096);
-    EXPECT_EQ(plan.sections[1].id + plan.sections[1].title.base() + plan.sections[1].symbol,
-              "leftLeftoversfolder.fill");
-    EXPECT_EQ(Uninstall::plan(app, {}).sections.size(), 1U);
+    const AppHome home;
+    home.folder(".local/share/flatpak/app/org.example.Chat");
+    home.fileOfSize(".var/app/org.example.Chat/messages", 40 * kKibibyte);
+    home.folder(".local/share/flatpak/app/org.example.Empty");
+    const std::string kite = home.image("Applications/Kite.AppImage");
+    home.launcher(".local/share/applications/org.example.Kite.desktop", "Kite", kite);
+    home.fileOfSize(".config/org.example.Kite/settings", 8 * kKibibyte);
+    home.fileOfSize(".cache/kite/pictures", 4 * kKibibyte); // by name only
+    Safety::refresh();
+    const std::vector<AppInfo> apps = AppList::list();
+    std::map<std::string, std::int64_t> sizes;
+    AppList::measureData(apps, [&](std::size_t i, std::int64_t bytes) {
+        EXPECT_TRUE(sizes.emplace(apps[i].name, bytes).second);
+    });
+    EXPECT_THAT(sizes,
+                ElementsAre(Pair("Chat", 40 * kKibibyte), Pair("Empty", 0), Pair("Kite", 8 * kKibibyte)));
+}
+
+TEST(AppListTest, programsOfPackagesAreCountedOnce)
+{
+    const AppHome home;
+    const auto launcher = [&](const std::string& name, std::string_view lines) {
+        (void)home.launcher(home.outside("system/usr/" + name), "Any", "any", lines);
+    };
+    EXPECT_EQ(AppList::countPackaged(), 0U);
+    launcher("share/applications/one.desktop", "");
+    launcher("share/applications/two.desktop", "Terminal=true\n");
+    launcher("share/applications/hidden.desktop", "NoDisplay=true\n");
+    launcher("share/applications/flatpak.desktop", "X-Flatpak=org.example.Chat\n");
+    launcher("local/share/applications/one.desktop", "");
+    launcher("local/share/applications/own.desktop", "");
+    EXPECT_EQ(AppList::countPackaged(), 2U);
 }
 
 } // namespace

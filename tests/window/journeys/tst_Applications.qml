@@ -13,6 +13,39 @@ Journey {
         keyClick(Qt.Key_6, Qt.ControlModifier);
     }
 
+    function test_0_ofOneSourceAlone() {
+        tryVerify(() => test.item("appList").count > 1 && test.isShown("appSource"));
+        const all = test.item("appList").count;
+        test.tabTo("appSource");
+        keyClick(Qt.Key_Down);
+        tryVerify(() => test.item("appList").count < all);
+        keyClick(Qt.Key_Up);
+        test.hasRows("appList", all);
+        test.clickOn("appOrder-2");
+        tryVerify(() => test.row("appList", 0).usage.includes(test.said("Last use unknown")));
+        test.clickOn("appOrder-0");
+    }
+
+    function test_0b_severalGoToOneReview() {
+        test.tabTo("appList");
+        keyClick(Qt.Key_Home);
+        keyClick(Qt.Key_Space);
+        tryVerify(() => test.row("appList", 0).checked);
+        test.clickOn("check", test.row("appList", 1));
+        tryVerify(() => test.row("appList", 1).checked);
+        test.clickOn("reviewTicked");
+        tryCompare(test.item("planTitle"), "text",
+                   test.saidOf(2, "Uninstall {count} application", "Uninstall {count} applications"));
+        compare(test.item("reviewLead").text, Strings.reviewLead(2));
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("planTitle"));
+        verify(test.row("appList", 1).checked);
+        test.clickOn("check", test.row("appList", 1));
+        test.clickOn("clearTicks");
+        tryVerify(() => !test.isShown("reviewTicked"));
+        verify(!test.row("appList", 0).checked);
+    }
+
     function test_1_theSearchFindsIt() {
         test.clickOn("appSearch");
         test.type("sketch");
@@ -47,6 +80,9 @@ Journey {
         verify(!stage.exists("Applications/Sketcher-2.1-x86_64.AppImage"));
         verify(stage.isInTrash("Sketcher-2.1-x86_64.AppImage"));
         test.clickOn("cleaningDone");
+        // It lies over the end of the screen.
+        test.clickOn("closeNotice");
+        tryVerify(() => !test.isShown("closeNotice"));
         test.hasRows("appList", 0);
     }
 

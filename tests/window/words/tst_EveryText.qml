@@ -148,6 +148,12 @@ Journey {
 
     function test_12_applications() {
         test.window.navigation.screen = Screens.Apps;
+        test.tabTo("appList");
+        keyClick(Qt.Key_Space);
+        test.item("reviewTicked");
+        test.check("an application is ticked");
+        keyClick(Qt.Key_Space);
+        tryVerify(() => !test.isShown("reviewTicked"));
         test.clickOn("appSearch");
         test.type("zzzz");
         test.hasRows("appList", 0);
