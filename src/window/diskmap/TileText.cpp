@@ -24,7 +24,7 @@ const Text& spokenText(const TreeNode& node)
 
 QString spoken(const TreeNode& node)
 {
-    if (node.isOther)
+    if (node.isOther && node.reading == TreeNode::Reading::whole)
         return DisplayText::facts({DisplayText::text(node.title()), DisplayText::size(node.size)});
     return DisplayText::text(
         Message(spokenText(node), {{"name", within(node.title())}, {"size", Bytes{node.size}}}));
