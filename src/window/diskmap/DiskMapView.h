@@ -2,13 +2,14 @@
 
 #include "app/DiskMapModel.h"
 #include "window/diskmap/BreadcrumbModel.h"
+#include "window/diskmap/MapStarts.h"
+#include "window/diskmap/MapTiles.h"
 #include "window/diskmap/TileStep.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QList>
 #include <QPointF>
-#include <QRectF>
 #include <QStringList>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
@@ -87,8 +88,8 @@ public:
     [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
     [[nodiscard]] bool isAtStart() const { return m_map.stack().size() == 1; }
     [[nodiscard]] QString folderName() const;
-    [[nodiscard]] QStringList places() const;
-    [[nodiscard]] int place() const;
+    [[nodiscard]] QStringList places() const { return m_starts.names(); }
+    [[nodiscard]] int place() const { return m_starts.indexOf(m_map.stack().front()); }
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
     [[nodiscard]] int hoverRow() const;
     [[nodiscard]] int currentRow() const { return m_currentRow; }
@@ -145,13 +146,6 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_tiles.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    struct Tile {
-        TreeNode node;
-        QRectF area;
-
-        friend bool operator==(const Tile&, const Tile&) = default;
-    };
-
     void followLoading();
     void followStack();
     void followMoves();
@@ -160,13 +154,12 @@ private:
     void placeTiles();
     void showTiles(const std::vector<TreeNode>& nodes);
     [[nodiscard]] int rowAfterArrival() const;
-    [[nodiscard]] int rowOf(const std::string& path) const;
 
     DiskMapModel m_map;
     BreadcrumbModel m_crumbs;
     Treemap::Size m_view;
-    std::vector<Tile> m_tiles;
-    std::vector<std::string> m_places;       ///< with the start folder, wherever that is
+    MapStarts m_starts;
+    std::vector<MapTile> m_tiles;
     std::int64_t m_total = 0;                ///< bytes of all tiles
     std::vector<std::string> m_shownFolders; ///< path to the folder these tiles belong to
     bool m_isShown = false;
