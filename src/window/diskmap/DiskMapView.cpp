@@ -2,7 +2,6 @@
 
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
-#include "window/diskmap/TileText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 
@@ -17,22 +16,16 @@ constexpr int kHues = 6;
 /// Two notches of a common wheel, 120 each, zoom by one folder.
 constexpr double kMagnificationPerEighth = 0.2 / 120;
 
-DiskMapView::Kind kindOf(const TreeNode& node)
-{
-    if (node.isOther)
-        return DiskMapView::Rest;
-    return node.isDir ? DiskMapView::Folder : DiskMapView::File;
-}
-
 } // namespace
 
-DiskMapView::DiskMapView(AppModel& app)
+DiskMapView::DiskMapView(AppModel& app) : m_colours(app)
 {
     m_crumbs.setFolders(m_map.stack());
     m_shownFolders = m_map.stack();
     connect(&m_map, &DiskMapModel::loadingChanged, this, &DiskMapView::followLoading);
     connect(&m_map, &DiskMapModel::stackChanged, this, &DiskMapView::followStack);
     connect(&m_map, &DiskMapModel::hoverChanged, this, &DiskMapView::hoverChanged);
+    connect(&m_colours, &TileColours::changed, this, &DiskMapView::followColours);
     connect(app.cleanUps(), &CleanUps::cleaningFinished, this, &DiskMapView::followMoves);
     connect(app.cleanUps(), &CleanUps::restored, this, &DiskMapView::followMoves);
 }
@@ -262,10 +255,23 @@ void DiskMapView::placeTiles()
     allChanged();
 }
 
+void DiskMapView::colour(std::vector<MapTile>& tiles) const
+{
+    for (MapTile& tile : tiles)
+        tile.shade = m_colours.shadeOf(tile.node);
+}
+
+void DiskMapView::followColours()
+{
+    colour(m_tiles);
+    allChanged(Role::shade, Role::symbol, Role::fact);
+}
+
 /// Rows of remaining items keep their identity, so that their tiles can move to the new place.
 void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
 {
     std::vector<MapTile> tiles = MapTiles::of(nodes, m_view);
+    colour(tiles);
     m_total = MapTiles::total(tiles);
     setRows(m_tiles, std::move(tiles), &MapTile::key);
     // A tile's roles depend on its index and on the other tiles.
@@ -274,7 +280,7 @@ void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
 
 QVariant DiskMapView::value(std::size_t number, int role) const
 {
-    const auto& [node, area] = m_tiles[number];
+    const auto& [node, area, shade] = m_tiles[number];
     const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
     switch (static_cast<Role>(role)) {
     case Role::name:
@@ -282,9 +288,15 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(node.size);
     case Role::kind:
-        return static_cast<int>(kindOf(node));
+        return static_cast<int>(TileText::kindOf(node));
     case Role::hue:
         return static_cast<int>(number) % kHues;
+    case Role::shade:
+        return shade;
+    case Role::symbol:
+        return m_colours.symbols().value(shade);
+    case Role::fact:
+        return m_colours.fact(node, shade);
     case Role::area:
         return area;
     case Role::share:

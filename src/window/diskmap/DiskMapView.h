@@ -4,7 +4,9 @@
 #include "window/diskmap/BreadcrumbModel.h"
 #include "window/diskmap/MapStarts.h"
 #include "window/diskmap/MapTiles.h"
+#include "window/diskmap/TileColours.h"
 #include "window/diskmap/TileStep.h"
+#include "window/diskmap/TileText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
@@ -42,6 +44,7 @@ class DiskMapView : public orlen::RowsModel {
     Q_PROPERTY(QStringList places READ places NOTIFY placesChanged)
     Q_PROPERTY(int place READ place NOTIFY placesChanged)
     Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
+    Q_PROPERTY(orlen::TileColours* colours READ colours CONSTANT)
     /// Tile under the pointer, -1 for none.
     Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
     /// Tile with the keyboard focus, -1 for none.
@@ -57,6 +60,9 @@ public:
         size,                ///< bytes as text
         kind,                ///< Kind
         hue,                 ///< 0 to 5; neighbours mostly differ
+        shade,               ///< of the legend of `colours`
+        symbol,              ///< icon name of the shade; may be empty
+        fact,                ///< what the shade tells of this tile; may be empty
         area,                ///< the tile in the view, in whole points, without the gap
         share,               ///< part of the folder, 0 to 1
         shareText,           ///< the same as a percentage
@@ -65,7 +71,11 @@ public:
         locked,              ///< whether it, or something in it, could not be read
     };
     Q_ENUM(Role)
-    enum Kind { Folder, File, Rest };
+    enum Kind {
+        Folder = static_cast<int>(TileText::Kind::folder),
+        File = static_cast<int>(TileText::Kind::file),
+        Rest = static_cast<int>(TileText::Kind::rest),
+    };
     Q_ENUM(Kind)
     enum Direction {
         Left = static_cast<int>(TileStep::Direction::left),
@@ -91,6 +101,7 @@ public:
     [[nodiscard]] QStringList places() const { return m_starts.names(); }
     [[nodiscard]] int place() const { return m_starts.indexOf(m_map.stack().front()); }
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
+    [[nodiscard]] TileColours* colours() { return &m_colours; }
     [[nodiscard]] int hoverRow() const;
     [[nodiscard]] int currentRow() const { return m_currentRow; }
     void setCurrentRow(int row);
@@ -150,13 +161,16 @@ private:
     void followStack();
     void followMoves();
     void followPlaces();
+    void followColours();
     void arrange();
+    void colour(std::vector<MapTile>& tiles) const;
     void placeTiles();
     void showTiles(const std::vector<TreeNode>& nodes);
     [[nodiscard]] int rowAfterArrival() const;
 
     DiskMapModel m_map;
     BreadcrumbModel m_crumbs;
+    TileColours m_colours;
     Treemap::Size m_view;
     MapStarts m_starts;
     std::vector<MapTile> m_tiles;

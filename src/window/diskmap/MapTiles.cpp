@@ -50,7 +50,7 @@ std::vector<MapTile> of(const std::vector<TreeNode>& nodes, Treemap::Size view)
     std::vector<MapTile> tiles;
     tiles.reserve(nodes.size());
     for (const TreeNode& node : nodes)
-        tiles.push_back({node, {}});
+        tiles.push_back({.node = node, .area = {}});
     place(tiles, view);
     return tiles;
 }

@@ -16,7 +16,8 @@ namespace orlen {
 /// An item of the disk map and its place in the view.
 struct MapTile {
     TreeNode node;
-    QRectF area; ///< in whole points, without the gap to the next tile
+    QRectF area;   ///< in whole points, without the gap to the next tile
+    int shade = 0; ///< of the legend of `TileColours`
 
     /// What tells tiles apart when a folder is measured again.
     [[nodiscard]] std::string key() const;
