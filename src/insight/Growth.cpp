@@ -1,10 +1,10 @@
 #include "insight/Growth.h"
 
+#include "insight/ReadingPair.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
-#include <chrono>
 #include <functional>
 #include <iterator>
 #include <map>
@@ -17,18 +17,6 @@ namespace {
 
 constexpr std::int64_t kLeast = 10'000'000;
 constexpr std::size_t kMost = 50;
-/// A folder unknown before had less than the least size that was listed then. Counting it as new is at most
-/// this much wrong: a quarter.
-constexpr std::int64_t kTimesUnknown = 4;
-
-/// A folder's size before; nothing when too little is known of it.
-std::optional<std::int64_t> sizeIn(const FolderReading& before, const FolderSize& folder)
-{
-    const auto found = std::ranges::lower_bound(before.folders, folder.path, {}, &FolderSize::path);
-    if (found != before.folders.end() && found->path == folder.path)
-        return found->bytes;
-    return folder.bytes / kTimesUnknown >= before.least ? std::optional<std::int64_t>(0) : std::nullopt;
-}
 
 /// What is told of the folders in a folder so far.
 struct Told {
@@ -38,11 +26,11 @@ struct Told {
 
 /// Goes from the innermost folders outwards. Each hands up what explains its growth best: the folders in it
 /// that are told, when they make up more than half of it, else itself.
-std::vector<Growth::Folder> told(const FolderReading& before, const FolderReading& after)
+std::vector<Growth::Folder> told(const ReadingPair& pair)
 {
     std::map<std::string_view, Told> known;
     std::vector<const FolderSize*> inwardsFirst;
-    for (const FolderSize& folder : after.folders) {
+    for (const FolderSize& folder : pair.after.folders) {
         known.try_emplace(folder.path);
         inwardsFirst.push_back(&folder);
     }
@@ -51,7 +39,7 @@ std::vector<Growth::Folder> told(const FolderReading& before, const FolderReadin
     Told all;
     for (const FolderSize* folder : inwardsFirst) {
         Told mine = std::move(known[folder->path]);
-        const auto size = sizeIn(before, *folder);
+        const auto size = pair.sizeBefore(*folder);
         const std::int64_t grown = size ? folder->bytes - *size : 0;
         if (grown >= kLeast && mine.bytes <= grown / 2)
             mine = {{{folder->path, *size, folder->bytes}}, grown};
@@ -65,9 +53,9 @@ std::vector<Growth::Folder> told(const FolderReading& before, const FolderReadin
     return std::move(all.folders);
 }
 
-Growth compared(const FolderReading& before, const FolderReading& after)
+Growth compared(const ReadingPair& pair)
 {
-    Growth growth{before.date, after.date, told(before, after)};
+    Growth growth{pair.before.date, pair.after.date, told(pair)};
     std::ranges::sort(growth.folders, [](const Growth::Folder& a, const Growth::Folder& b) {
         return a.bytes() != b.bytes() ? a.bytes() > b.bytes() : a.path < b.path;
     });
@@ -80,27 +68,19 @@ Growth compared(const FolderReading& before, const FolderReading& after)
 
 Moment Growth::start() const
 {
-    constexpr std::chrono::days kDay{1};
-    return {since, until - since < kDay ? Moment::Form::minute : Moment::Form::longDay};
+    return ReadingPair::start(since, until);
 }
 
 std::optional<Growth> Growth::between(std::span<const FolderReading> readings, TimePoint from, TimePoint to)
 {
-    const auto behind = [&](TimePoint time) {
-        return std::ranges::upper_bound(readings, time, {}, &FolderReading::date) - readings.begin();
-    };
-    const auto first = std::max<std::ptrdiff_t>(behind(from) - 1, 0);
-    const auto last = behind(to) - 1;
-    if (last <= first)
-        return std::nullopt;
-    return compared(readings[static_cast<std::size_t>(first)], readings[static_cast<std::size_t>(last)]);
+    const auto pair = ReadingPair::over(readings, from, to);
+    return pair ? std::optional(compared(*pair)) : std::nullopt;
 }
 
 std::optional<Growth> Growth::sinceLastScan(std::span<const FolderReading> readings)
 {
-    if (readings.size() < 2)
-        return std::nullopt;
-    return compared(readings[readings.size() - 2], readings.back());
+    const auto pair = ReadingPair::last(readings);
+    return pair ? std::optional(compared(*pair)) : std::nullopt;
 }
 
 } // namespace orlen

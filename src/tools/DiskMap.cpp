@@ -21,7 +21,9 @@ namespace orlen::DiskMap {
 
 namespace {
 
-constexpr std::size_t kMostNodes = 60;
+constexpr std::ptrdiff_t kMostNodes = 60;
+/// Of those, as many are left to folders of unknown size, which would else come last.
+constexpr std::ptrdiff_t kLeftToUnread = 8;
 
 /// Adds up what is below each child of the one root. The whole map is a single scan, so that a child that is
 /// a mounted server is known and skipped untouched, and a hundred thousand children cost no more than their
@@ -154,9 +156,15 @@ std::vector<TreeNode> arranged(std::vector<TreeNode> nodes, const std::string& f
 {
     std::erase_if(
         nodes, [](const TreeNode& node) { return node.size < 1 && node.reading != TreeNode::Reading::none; });
-    const auto firstLeftOut =
-        nodes.begin() + std::min(static_cast<std::ptrdiff_t>(kMostNodes), std::ssize(nodes));
-    std::partial_sort(nodes.begin(), firstLeftOut, nodes.end(), comesBefore);
+    const auto unread =
+        std::partition(nodes.begin(), nodes.end(), [](const TreeNode& node) { return node.size > 0; });
+    const std::ptrdiff_t measured =
+        std::min(unread - nodes.begin(), kMostNodes - std::min(kLeftToUnread, nodes.end() - unread));
+    std::partial_sort(nodes.begin(), nodes.begin() + measured, unread, comesBefore);
+    std::sort(unread, nodes.end(), comesBefore);
+    // Those that are shown stand behind what is shown of the others.
+    std::rotate(nodes.begin() + measured, unread, nodes.end());
+    const auto firstLeftOut = nodes.begin() + std::min(kMostNodes, std::ssize(nodes));
 
     std::vector<TreeNode> shown(std::make_move_iterator(nodes.begin()),
                                 std::make_move_iterator(firstLeftOut));

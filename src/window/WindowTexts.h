@@ -114,6 +114,27 @@ inline constexpr Text kSpokenFile = message("{name}, {size}, file");
 inline constexpr Text kSpokenUnread = message("{name}, folder, could not be read");
 inline constexpr Text kSpokenPartlyRead = message("{name}, {size}, could not be read whole");
 
+// TRANSLATORS: The next three are the legend of a map: what stands for folders, for files, for all others.
+inline constexpr Text kFoldersShown = messageIn("legend", "Folders");
+inline constexpr Text kFilesShown = messageIn("legend", "Files");
+inline constexpr Text kRestShown = messageIn("legend", "The rest");
+// TRANSLATORS: The next five say how long ago something last changed.
+inline constexpr Text kWithinWeek = messageIn("legend", "Within a week");
+inline constexpr Text kWithinMonth = messageIn("legend", "Within a month");
+inline constexpr Text kWithinYear = messageIn("legend", "Within a year");
+inline constexpr Text kWithinTwoYears = messageIn("legend", "Within two years");
+inline constexpr Text kEarlier = messageIn("legend", "Earlier");
+inline constexpr Text kNotKnown = messageIn("legend", "Not known");
+// TRANSLATORS: Of folders that lost space, and that hardly changed.
+inline constexpr Text kSmaller = messageIn("legend", "Smaller");
+inline constexpr Text kAsBefore = messageIn("legend", "As before");
+inline constexpr Text kLost = message("\u2212{size}");
+// TRANSLATORS: Before such a legend; {date} is that of an earlier scan.
+inline constexpr Text kChangedSince = message("since {date}");
+inline constexpr Text kProtected = messageIn("legend", "Protected");
+inline constexpr Text kNotRated = messageIn("legend", "Not rated");
+inline constexpr Text kRatingsNeedScan = message("Run a Smart Scan to see ratings.");
+
 // Clean-ups and their history
 inline constexpr Text kMoved = messages("{count} moved to the Trash", "{count} moved to the Trash");
 inline constexpr Text kNotMoved = messages("{count} couldn't be moved", "{count} couldn't be moved");

@@ -1,5 +1,7 @@
 #include "insight/Growth.h"
 
+#include "insight/ReadingPair.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -91,6 +93,15 @@ TEST(GrowthTest, aPeriodIsComparedWithWhatCameBefore)
     EXPECT_EQ(Growth::sinceLastScan(readings)->since, kFirstScan + days(20));
     EXPECT_FALSE(Growth::sinceLastScan(std::span(readings).first(1)));
     EXPECT_FALSE(Growth::between({}, kFirstScan));
+}
+
+TEST(GrowthTest, theChangesOfAllFoldersCountWhatIsInThem)
+{
+    const FolderReading before = reading(0, {{"/h", 500}, {"/h/a", 100}, {"/h/gone", 40}, {"/h/small", 3}});
+    const FolderReading after = reading(1, {{"/h", 560}, {"/h/a", 90}, {"/h/new", 60}, {"/h/tiny", 2}});
+    const ReadingPair::Changes expected{
+        {"/h", 60 * kMega}, {"/h/a", -10 * kMega}, {"/h/gone", -40 * kMega}, {"/h/new", 60 * kMega}};
+    EXPECT_EQ((ReadingPair{before, after}.changes()), expected) << "nothing is said of what is too small";
 }
 
 } // namespace orlen

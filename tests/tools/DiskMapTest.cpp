@@ -134,6 +134,20 @@ TEST(DiskMapTest, whatCouldNotBeReadIsMarkedOnTheChildItIsIn)
         TempHome::setMode(home.path(path), 0700);
 }
 
+TEST(DiskMapTest, unreadFoldersAreShownAmongManyOthers)
+{
+    const TempHome home;
+    for (int i = 0; i < 70; ++i)
+        home.fileOfSize("map/" + numbered(i), 4 * kKiB);
+    TempHome::setMode(home.folder("map/denied"), 0);
+    const std::vector<TreeNode> nodes = DiskMap::children(home.path("map"));
+    ASSERT_THAT(nodes, SizeIs(61));
+    EXPECT_EQ(nodes[58].name, numbered(58));
+    EXPECT_EQ(nodes[59].name, "denied");
+    EXPECT_EQ(nodes[60].smaller, 11);
+    TempHome::setMode(home.path("map/denied"), 0700);
+}
+
 TEST(DiskMapTest, whatIsNoReadableFolderHasNoChildren)
 {
     const TempHome home;

@@ -64,6 +64,13 @@ QtObject {
             ? ["#293e65", "#463267", "#264a39", "#623743", "#5b4125", "#1e4748"]
             : ["#cddcf8", "#e0d4f5", "#c9e8da", "#f6d3dd", "#f9dfbd", "#c4e5e7"]
     readonly property color mapRest: root.dark ? "#3a404a" : "#d5dae1"
+    /// The shades of a legend but its last, each lighter or darker than the next. Texts are read on all.
+    readonly property list<color> mapAges: root.dark ? ["#24333a", "#2f4a3f", "#5a5320", "#7a521a", "#9a4c22"]
+                                                     : ["#e2ecd0", "#dbe09a", "#ebcb74", "#eeae66", "#f29b7e"]
+    readonly property list<color> mapGrowths: root.dark ? ["#1f5490", "#2b3a36", "#5a4a18", "#86511a", "#a83d36"]
+                                                        : ["#8fc0f2", "#e4ecdf", "#fbe3a0", "#f7b96b", "#f19a8f"]
+    readonly property list<color> mapRatings: root.dark ? ["#1c6b45", "#7d5310", "#2a55a0", "#59416f"]
+                                                        : ["#93dcb4", "#f7cb7e", "#9fc2fb", "#c9b6da"]
     readonly property color mapInk: root.dark ? "#ffffff" : "#14171c"
     readonly property color mapQuietInk: root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
 
@@ -142,6 +149,21 @@ QtObject {
 
     function ratingBase(rating: string): color {
         return rating === "safe" ? root.safeBase : rating === "keep" ? root.keepBase : root.reviewBase;
+    }
+
+    /// The colour of a shade of the disk map's legend. Folders and files have several hues.
+    function mapShade(meaning: int, shade: int, hue: int): color {
+        switch (meaning) {
+        case TileColours.Age:
+            return root.mapAges[shade] ?? root.mapRest;
+        case TileColours.Growth:
+            return root.mapGrowths[shade] ?? root.mapRest;
+        case TileColours.Rating:
+            return root.mapRatings[shade] ?? root.mapRest;
+        default:
+            return shade === DiskMapView.Rest ? root.mapRest : shade === DiskMapView.Folder ? root.mapFolders[hue]
+                                                                                            : root.mapFiles[hue];
+        }
     }
 
     /// A colour in the form image providers expect.

@@ -38,11 +38,21 @@ FocusScope {
         onListRequested: wanted => root.asList = wanted
     }
 
+    MapLegend {
+        id: legend
+
+        x: Theme.pageMargin
+        y: bar.y + bar.height + Theme.spaceS
+        width: root.width - 2 * Theme.pageMargin
+        visible: !root.asList
+        colours: theMap.colours
+    }
+
     Item {
         anchors.fill: parent
         anchors.leftMargin: Theme.pageMargin
         anchors.rightMargin: Theme.pageMargin
-        anchors.topMargin: bar.y + bar.height + 12
+        anchors.topMargin: legend.visible ? legend.y + legend.height + Theme.spaceS : bar.y + bar.height + Theme.spaceM
         anchors.bottomMargin: status.height + 28
 
         // Keys shared by the map and the list.
@@ -138,12 +148,14 @@ FocusScope {
         readonly property int row: theMap.hoverRow >= 0 && !root.asList ? theMap.hoverRow
                                                                        : root.showsRing ? theMap.currentRow : -1
 
+        readonly property DiskMapTile tile: surface.tileAt(status.row)
+
         objectName: "diskMapStatus"
         x: Theme.pageMargin
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceL
         width: root.width - 2 * Theme.pageMargin
-        text: theMap.loading ? Strings.measuring : theMap.describe(status.row)
+        text: theMap.loading ? Strings.measuring : Words.facts([theMap.describe(status.row), status.tile?.fact ?? ""])
         elide: Text.ElideMiddle
     }
 

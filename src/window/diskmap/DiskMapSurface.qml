@@ -17,8 +17,8 @@ T.Control {
     signal menuRequested(row: int, x: real, y: real)
 
     /// The tile of a row; null if there is none.
-    function tileAt(row: int): Item {
-        return repeater.itemAt(row);
+    function tileAt(row: int): DiskMapTile {
+        return repeater.itemAt(row) as DiskMapTile;
     }
 
     objectName: "diskMapSurface"
@@ -72,6 +72,7 @@ T.Control {
                 id: tile
 
                 objectName: "tile-" + tile.index
+                meaning: root.map.colours.meaning
                 moving: root.map.rearranging && Theme.moves
                 isHovered: root.map.hoverRow === tile.index
                 isCurrent: root.showsRing && root.map.currentRow === tile.index
@@ -87,6 +88,8 @@ T.Control {
 
     // The left button acts on press, unlike in lists and buttons.
     MouseArea {
+        id: pointer
+
         anchors.fill: parent
         hoverEnabled: true
         acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.BackButton
@@ -99,6 +102,8 @@ T.Control {
             else
                 root.map.up();
         }
+        // Where it comes from a menu, no move follows.
+        onEntered: root.map.movePointer(Qt.point(pointer.mouseX, pointer.mouseY))
         onPositionChanged: mouse => root.map.movePointer(Qt.point(mouse.x, mouse.y))
         onExited: root.map.removePointer()
         onWheel: wheel => {

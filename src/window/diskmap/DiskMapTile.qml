@@ -9,11 +9,16 @@ Rectangle {
     required property string size
     required property int kind
     required property int hue
+    required property int shade
+    required property string symbol
+    required property string fact
     required property rect area
     required property string spoken
     required property bool unread
     required property bool locked
     required property int index
+    /// What the shades are of.
+    property int meaning: TileColours.Kind
     /// Whether changes of position are animated.
     property bool moving: false
     property bool isHovered: false
@@ -28,12 +33,11 @@ Rectangle {
     width: root.area.width
     height: root.area.height
     radius: Math.min(6, root.area.width / 4, root.area.height / 4)
-    color: root.kind === DiskMapView.Rest || root.unread ? Theme.mapRest
-           : root.kind === DiskMapView.Folder ? Theme.mapFolders[root.hue] : Theme.mapFiles[root.hue]
+    color: Theme.mapShade(root.meaning, root.shade, root.hue)
     border.width: root.isHovered || root.isCurrent ? 2 : 0
     border.color: Theme.dark ? Theme.mapInk : root.isCurrent ? Theme.accent : Qt.darker(root.color, 1.7)
     Accessible.role: root.kind === DiskMapView.Folder ? Accessible.Button : Accessible.StaticText
-    Accessible.name: root.spoken
+    Accessible.name: Strings.spoken([root.spoken, root.fact])
     Accessible.onPressAction: root.pressed()
 
     Spring on x {
@@ -50,13 +54,13 @@ Rectangle {
     }
 
     Symbol {
-        id: lock
+        id: sign
 
         anchors.right: parent.right
         anchors.margins: Theme.spaceXs
         y: root.isLabelled ? root.inset + 2 : Math.round((root.height - height) / 2)
-        visible: root.locked && root.width >= size + 4 && root.height >= size + 4
-        name: "lock.fill"
+        visible: name !== "" && root.width >= size + 4 && root.height >= size + 4
+        name: root.symbol !== "" ? root.symbol : root.locked ? "lock.fill" : ""
         colour: Theme.mapQuietInk
         size: 12
     }
@@ -66,7 +70,7 @@ Rectangle {
 
         x: 8
         y: root.inset
-        width: root.width - 16 - (lock.visible ? lock.width : 0)
+        width: root.width - 16 - (sign.visible ? sign.width : 0)
         visible: root.isLabelled
         text: root.name
         color: Theme.mapInk

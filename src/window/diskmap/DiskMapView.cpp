@@ -1,57 +1,31 @@
 #include "window/diskmap/DiskMapView.h"
 
 #include "platform/files/Places.h"
-#include "platform/text/FileUri.h"
 #include "platform/text/PathText.h"
-#include "platform/values/CheckedSum.h"
-#include "window/diskmap/TileText.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace orlen {
 
 namespace {
 
-constexpr double kTileGap = 2;
 constexpr int kHues = 6;
 /// Two notches of a common wheel, 120 each, zoom by one folder.
 constexpr double kMagnificationPerEighth = 0.2 / 120;
 
-/// Leaves out the gap, but keeps at least a visible sliver.
-double withoutGap(double length)
-{
-    return std::max(length - kTileGap, std::min(length, 1.0));
-}
-
-/// Rounds edges, not widths, so that all gaps are equally wide.
-QRectF placed(const Treemap::Rect& rect)
-{
-    const double left = std::round(rect.x);
-    const double top = std::round(rect.y);
-    const double width = std::round(rect.x + rect.width) - left;
-    const double height = std::round(rect.y + rect.height) - top;
-    return {left, top, withoutGap(width), withoutGap(height)};
-}
-
-DiskMapView::Kind kindOf(const TreeNode& node)
-{
-    if (node.isOther)
-        return DiskMapView::Rest;
-    return node.isDir ? DiskMapView::Folder : DiskMapView::File;
-}
-
 } // namespace
 
-DiskMapView::DiskMapView(AppModel& app)
+DiskMapView::DiskMapView(AppModel& app) : m_colours(app)
 {
     m_crumbs.setFolders(m_map.stack());
     m_shownFolders = m_map.stack();
     connect(&m_map, &DiskMapModel::loadingChanged, this, &DiskMapView::followLoading);
     connect(&m_map, &DiskMapModel::stackChanged, this, &DiskMapView::followStack);
     connect(&m_map, &DiskMapModel::hoverChanged, this, &DiskMapView::hoverChanged);
+    connect(&m_colours, &TileColours::changed, this, &DiskMapView::followColours);
     connect(app.cleanUps(), &CleanUps::cleaningFinished, this, &DiskMapView::followMoves);
     connect(app.cleanUps(), &CleanUps::restored, this, &DiskMapView::followMoves);
 }
@@ -116,47 +90,26 @@ void DiskMapView::show(const QString& code)
     m_map.show(PathCode::path(code));
 }
 
-QStringList DiskMapView::places() const
-{
-    QStringList names;
-    for (const std::string& folder : m_places)
-        names << BreadcrumbModel::startName(folder);
-    return names;
-}
-
-int DiskMapView::place() const
-{
-    return static_cast<int>(std::ranges::find(m_places, m_map.stack().front()) - m_places.begin());
-}
-
 void DiskMapView::followPlaces()
 {
-    m_places = m_map.places();
-    if (std::ranges::find(m_places, m_map.stack().front()) == m_places.end())
-        m_places.push_back(m_map.stack().front());
+    m_starts.set(m_map.places(), m_map.stack().front());
     Q_EMIT placesChanged();
 }
 
 void DiskMapView::startAt(int place)
 {
-    if (place >= 0 && static_cast<std::size_t>(place) < m_places.size())
-        m_map.startAt(m_places[static_cast<std::size_t>(place)]);
+    if (const auto folder = m_starts.folder(place))
+        m_map.startAt(*folder);
 }
 
 bool DiskMapView::drop(const QList<QUrl>& urls)
 {
-    for (const QUrl& url : urls) {
-        const auto path = FileUri::path(url.toEncoded().toStdString());
-        if (!path)
-            continue;
-        const std::string folder = PathText::standardized(*path);
-        if (PathText::isAtOrBelow(folder, Places::current().home))
-            m_map.show(folder);
-        else
-            m_map.startAt(folder);
-        return true;
-    }
-    return false;
+    const auto folder = MapStarts::dropped(urls);
+    if (folder && PathText::isAtOrBelow(*folder, Places::current().home))
+        m_map.show(*folder);
+    else if (folder)
+        m_map.startAt(*folder);
+    return folder.has_value();
 }
 
 void DiskMapView::up()
@@ -197,11 +150,10 @@ void DiskMapView::step(Direction direction)
         setCurrentRow(0);
         return;
     }
-    const auto rects = Treemap::layout(m_map.nodes(), m_view);
-    const auto next = TileStep::neighbour(rects, static_cast<std::size_t>(m_currentRow),
-                                          static_cast<TileStep::Direction>(direction));
+    const auto next =
+        MapTiles::neighbour(m_tiles, m_view, m_currentRow, static_cast<TileStep::Direction>(direction));
     if (next)
-        setCurrentRow(static_cast<int>(*next));
+        setCurrentRow(*next);
 }
 
 QString DiskMapView::describe(int row) const
@@ -253,7 +205,7 @@ void DiskMapView::followStack()
 {
     m_crumbs.setFolders(m_map.stack());
     followPlaces();
-    const int row = rowOf(m_map.current());
+    const int row = MapTiles::rowOf(m_tiles, m_map.current());
     m_zoomOrigin = hasRow(row) ? m_tiles[static_cast<std::size_t>(row)].area.center()
                                : QPointF(m_view.width / 2, m_view.height / 2);
     Q_EMIT stackChanged();
@@ -284,7 +236,7 @@ void DiskMapView::arrange()
     m_isRearranging = false;
     Q_EMIT rearrangingChanged();
 
-    const int row = wasHere ? rowOf(current) : rowAfterArrival();
+    const int row = wasHere ? MapTiles::rowOf(m_tiles, current) : rowAfterArrival();
     m_shownFolders = m_map.stack();
     m_currentRow = m_tiles.empty() ? -1 : std::max(row, 0);
     Q_EMIT currentRowChanged();
@@ -294,48 +246,41 @@ void DiskMapView::arrange()
 int DiskMapView::rowAfterArrival() const
 {
     const std::size_t depth = m_map.stack().size();
-    return m_shownFolders.size() > depth ? rowOf(m_shownFolders[depth]) : -1;
+    return m_shownFolders.size() > depth ? MapTiles::rowOf(m_tiles, m_shownFolders[depth]) : -1;
 }
 
 void DiskMapView::placeTiles()
 {
-    std::vector<TreeNode> nodes;
-    nodes.reserve(m_tiles.size());
-    for (const Tile& tile : m_tiles)
-        nodes.push_back(tile.node);
-    const auto rects = Treemap::layout(nodes, m_view);
-    for (std::size_t i = 0; i < rects.size(); ++i)
-        m_tiles[i].area = placed(rects[i]);
+    MapTiles::place(m_tiles, m_view);
     allChanged();
+}
+
+void DiskMapView::colour(std::vector<MapTile>& tiles) const
+{
+    for (MapTile& tile : tiles)
+        tile.shade = m_colours.shadeOf(tile.node);
+}
+
+void DiskMapView::followColours()
+{
+    colour(m_tiles);
+    allChanged(Role::shade, Role::symbol, Role::fact);
 }
 
 /// Rows of remaining items keep their identity, so that their tiles can move to the new place.
 void DiskMapView::showTiles(const std::vector<TreeNode>& nodes)
 {
-    const auto rects = Treemap::layout(nodes, m_view);
-    std::vector<Tile> tiles;
-    tiles.reserve(nodes.size());
-    m_total = 0;
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        tiles.push_back({nodes[i], placed(rects[i])});
-        m_total = checkedAdd(m_total, nodes[i].size);
-    }
-    setRows(m_tiles, std::move(tiles),
-            [](const Tile& tile) { return tile.node.path + (tile.node.isOther ? "/" : ""); });
+    std::vector<MapTile> tiles = MapTiles::of(nodes, m_view);
+    colour(tiles);
+    m_total = MapTiles::total(tiles);
+    setRows(m_tiles, std::move(tiles), &MapTile::key);
     // A tile's roles depend on its index and on the other tiles.
     allChanged();
 }
 
-int DiskMapView::rowOf(const std::string& path) const
-{
-    const auto found = std::ranges::find_if(
-        m_tiles, [&](const Tile& tile) { return tile.node.path == path && !tile.node.isOther; });
-    return found == m_tiles.end() ? -1 : static_cast<int>(found - m_tiles.begin());
-}
-
 QVariant DiskMapView::value(std::size_t number, int role) const
 {
-    const auto& [node, area] = m_tiles[number];
+    const auto& [node, area, shade] = m_tiles[number];
     const double share = m_total > 0 ? static_cast<double>(node.size) / static_cast<double>(m_total) : 0;
     switch (static_cast<Role>(role)) {
     case Role::name:
@@ -343,9 +288,15 @@ QVariant DiskMapView::value(std::size_t number, int role) const
     case Role::size:
         return DisplayText::size(node.size);
     case Role::kind:
-        return static_cast<int>(kindOf(node));
+        return static_cast<int>(TileText::kindOf(node));
     case Role::hue:
         return static_cast<int>(number) % kHues;
+    case Role::shade:
+        return shade;
+    case Role::symbol:
+        return m_colours.symbols().value(shade);
+    case Role::fact:
+        return m_colours.fact(node, shade);
     case Role::area:
         return area;
     case Role::share:

@@ -2,13 +2,16 @@
 
 #include "app/DiskMapModel.h"
 #include "window/diskmap/BreadcrumbModel.h"
+#include "window/diskmap/MapStarts.h"
+#include "window/diskmap/MapTiles.h"
+#include "window/diskmap/TileColours.h"
 #include "window/diskmap/TileStep.h"
+#include "window/diskmap/TileText.h"
 #include "window/lists/RowsModel.h"
 #include "window/shell/AppModelElement.h"
 
 #include <QList>
 #include <QPointF>
-#include <QRectF>
 #include <QStringList>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
@@ -41,6 +44,7 @@ class DiskMapView : public orlen::RowsModel {
     Q_PROPERTY(QStringList places READ places NOTIFY placesChanged)
     Q_PROPERTY(int place READ place NOTIFY placesChanged)
     Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
+    Q_PROPERTY(orlen::TileColours* colours READ colours CONSTANT)
     /// Tile under the pointer, -1 for none.
     Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
     /// Tile with the keyboard focus, -1 for none.
@@ -56,6 +60,9 @@ public:
         size,                ///< bytes as text
         kind,                ///< Kind
         hue,                 ///< 0 to 5; neighbours mostly differ
+        shade,               ///< of the legend of `colours`
+        symbol,              ///< icon name of the shade; may be empty
+        fact,                ///< what the shade tells of this tile; may be empty
         area,                ///< the tile in the view, in whole points, without the gap
         share,               ///< part of the folder, 0 to 1
         shareText,           ///< the same as a percentage
@@ -64,7 +71,11 @@ public:
         locked,              ///< whether it, or something in it, could not be read
     };
     Q_ENUM(Role)
-    enum Kind { Folder, File, Rest };
+    enum Kind {
+        Folder = static_cast<int>(TileText::Kind::folder),
+        File = static_cast<int>(TileText::Kind::file),
+        Rest = static_cast<int>(TileText::Kind::rest),
+    };
     Q_ENUM(Kind)
     enum Direction {
         Left = static_cast<int>(TileStep::Direction::left),
@@ -87,9 +98,10 @@ public:
     [[nodiscard]] bool isLocked() const { return isEmpty() && !m_map.isReadable(); }
     [[nodiscard]] bool isAtStart() const { return m_map.stack().size() == 1; }
     [[nodiscard]] QString folderName() const;
-    [[nodiscard]] QStringList places() const;
-    [[nodiscard]] int place() const;
+    [[nodiscard]] QStringList places() const { return m_starts.names(); }
+    [[nodiscard]] int place() const { return m_starts.indexOf(m_map.stack().front()); }
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
+    [[nodiscard]] TileColours* colours() { return &m_colours; }
     [[nodiscard]] int hoverRow() const;
     [[nodiscard]] int currentRow() const { return m_currentRow; }
     void setCurrentRow(int row);
@@ -145,28 +157,23 @@ private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_tiles.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    struct Tile {
-        TreeNode node;
-        QRectF area;
-
-        friend bool operator==(const Tile&, const Tile&) = default;
-    };
-
     void followLoading();
     void followStack();
     void followMoves();
     void followPlaces();
+    void followColours();
     void arrange();
+    void colour(std::vector<MapTile>& tiles) const;
     void placeTiles();
     void showTiles(const std::vector<TreeNode>& nodes);
     [[nodiscard]] int rowAfterArrival() const;
-    [[nodiscard]] int rowOf(const std::string& path) const;
 
     DiskMapModel m_map;
     BreadcrumbModel m_crumbs;
+    TileColours m_colours;
     Treemap::Size m_view;
-    std::vector<Tile> m_tiles;
-    std::vector<std::string> m_places;       ///< with the start folder, wherever that is
+    MapStarts m_starts;
+    std::vector<MapTile> m_tiles;
     std::int64_t m_total = 0;                ///< bytes of all tiles
     std::vector<std::string> m_shownFolders; ///< path to the folder these tiles belong to
     bool m_isShown = false;

@@ -7,6 +7,7 @@ namespace orlen::Remembered {
 namespace {
 
 constexpr double kMostMegabytes = 1e9;
+const QString kChoices = QStringLiteral("choice/");
 const QString kLargeFiles = QStringLiteral("largeFilesFromMB");
 
 QString keyOf(const QString& list)
@@ -28,6 +29,16 @@ std::optional<double> largeThresholdMB()
 void setLargeThresholdMB(double megabytes)
 {
     QSettings().setValue(kLargeFiles, megabytes);
+}
+
+QString choice(const QString& name)
+{
+    return QSettings().value(kChoices + name).toString();
+}
+
+void setChoice(const QString& name, const QString& choice)
+{
+    QSettings().setValue(kChoices + name, choice);
 }
 
 EntryOrder::Wish order(const QString& list)

@@ -13,6 +13,10 @@ namespace orlen::Remembered {
 [[nodiscard]] std::optional<double> largeThresholdMB();
 void setLargeThresholdMB(double megabytes);
 
+/// What was chosen of several ways to show something, by its name; empty when nothing was chosen yet.
+[[nodiscard]] QString choice(const QString& name);
+void setChoice(const QString& name, const QString& choice);
+
 /// The order of a list, by its name; the usual one when none was chosen yet. Without a filter.
 [[nodiscard]] EntryOrder::Wish order(const QString& list);
 void setOrder(const QString& list, const EntryOrder::Wish& wish);

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Orlen.App
 
-/// The menu of a row of any list, opened by a right click or the keyboard. The focus returns to where it was.
-T.Menu {
+/// The menu of a row of any list, opened by a right click or the keyboard.
+PopupMenu {
     id: root
 
     property int row: -1
@@ -75,11 +74,6 @@ T.Menu {
     }
 
     implicitWidth: Theme.widened(330)
-    implicitHeight: contentHeight + topPadding + bottomPadding
-    margins: Theme.spaceS
-    padding: Theme.spaceXs
-    modal: true
-    dim: false
     title: Strings.actionsFor(actions.name)
 
     RowMenuModel {
@@ -89,7 +83,7 @@ T.Menu {
     Instantiator {
         model: actions
 
-        RowMenuItem {
+        PopupMenuItem {
             required property int choice
 
             text: root.label(choice)
@@ -104,25 +98,7 @@ T.Menu {
             }
         }
 
-        onObjectAdded: (index, object) => root.insertItem(index, object as RowMenuItem)
-        onObjectRemoved: (index, object) => root.removeItem(object as RowMenuItem)
-    }
-
-    contentItem: ListView {
-        implicitHeight: contentHeight
-        model: root.contentModel
-        currentIndex: root.currentIndex
-        clip: true
-        interactive: contentHeight > height
-        boundsBehavior: Flickable.StopAtBounds
-        Accessible.role: Accessible.PopupMenu
-        Accessible.name: root.title
-    }
-
-    background: Rectangle {
-        radius: Theme.controlRadius + Theme.spaceXs
-        color: Theme.raised
-        border.width: 1
-        border.color: Theme.tertiary
+        onObjectAdded: (index, object) => root.insertItem(index, object as PopupMenuItem)
+        onObjectRemoved: (index, object) => root.removeItem(object as PopupMenuItem)
     }
 }

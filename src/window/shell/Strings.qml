@@ -276,6 +276,12 @@ QtObject {
     readonly property string measureAgain: Words.message("Measure again")
     readonly property string asMap: Words.message("Show as a map")
     readonly property string asList: Words.message("Show as a list")
+    // TRANSLATORS: Read aloud: the choice of what the colours of the map tell.
+    readonly property string coloursOfMap: Words.message("Colours of the map")
+    readonly property string colourByKind: Words.message("Colour by kind")
+    readonly property string colourByChange: Words.message("Colour by last change")
+    readonly property string colourByGrowth: Words.message("Colour by growth")
+    readonly property string colourByRating: Words.message("Colour by rating")
     function contentsOf(folder: string): string {
         return Words.message("Contents of {folder}", { folder: folder });
     }

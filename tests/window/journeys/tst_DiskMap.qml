@@ -99,7 +99,47 @@ Journey {
         test.folder(".cache");
     }
 
-    function test_6_asAList() {
+    /// Chooses what the colours tell by its place in the menu.
+    function colourBy(meaning: int) {
+        test.clickOn("mapColours");
+        const choice = test.item("colourBy-" + meaning);
+        tryVerify(() => choice.menu.opened);
+        test.click(choice);
+        tryVerify(() => !choice.menu.visible);
+    }
+
+    function test_6_whatTheColoursTell() {
+        const byKind = test.item("mapColours").text;
+        const videos = test.tile("Videos").color;
+        test.tabTo("mapColours");
+        keyClick(Qt.Key_Return);
+        const age = test.item("colourBy-" + TileColours.Age);
+        tryVerify(() => age.menu.opened);
+        compare(stage.nameless(test.window).join("\n"), "");
+        tryVerify(() => {
+            if (!age.highlighted)
+                keyClick(Qt.Key_Down);
+            return age.highlighted;
+        });
+        keyClick(Qt.Key_Return);
+        tryVerify(() => test.item("mapColours").text !== byKind);
+        tryVerify(() => test.isFocused("mapColours"), 2000, "the keyboard is where it was");
+        compare(test.tile("Videos").color, test.item("mapLegend-0").shown, "it has just been made");
+        verify(test.tile("Videos").Accessible.name !== test.tile("Videos").spoken, "it is said aloud");
+
+        test.colourBy(TileColours.Growth);
+        tryVerify(() => test.tile("Videos").fact.startsWith("+"));
+        compare(test.tile("Videos").color, test.item("mapLegend-4").shown);
+        test.item("mapLegendNote");
+        test.colourBy(TileColours.Rating);
+        tryVerify(() => test.tile("Videos").fact === test.item("mapLegend-4").modelData);
+        mouseMove(test.tile("Videos"));
+        tryVerify(() => test.item("diskMapStatus").text.endsWith(test.tile("Videos").fact));
+        test.colourBy(TileColours.Kind);
+        tryVerify(() => test.tile("Videos").color === videos);
+    }
+
+    function test_7_asAList() {
         test.tabTo("diskMapForm");
         keyClick(Qt.Key_Right);
         compare(test.row("diskMapList", 0).name, ".cache");
@@ -109,7 +149,7 @@ Journey {
         tryVerify(() => test.row("diskMapList", 0).name === ".cache");
     }
 
-    function test_7_filterAndSort() {
+    function test_8_filterAndSort() {
         keyClick(Qt.Key_F, Qt.ControlModifier);
         tryVerify(() => test.isFocused("diskMapFilter"));
         test.type("vide");
