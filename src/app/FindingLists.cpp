@@ -59,6 +59,27 @@ std::set<std::string> proposed(const std::vector<Finding>& findings)
     return safeIn(findings, [](const Finding& finding) { return finding.rating == Rating::safe; });
 }
 
+std::set<std::string> tickable(const std::vector<Finding>& findings, std::span<const std::string> paths)
+{
+    std::set<std::string> ticked;
+    std::set<std::string> refused;
+    const std::set<std::string_view> wanted(paths.begin(), paths.end());
+    for (const Finding& finding : findings) {
+        for (const FileEntry& entry : finding.items) {
+            const Rating rating = finding.effectiveRating(entry);
+            if (!finding.cleanable || entry.isTickedAlone || rating == Rating::keep)
+                refused.insert(entry.path);
+            else if (wanted.contains(entry.path))
+                ticked.insert(entry.path);
+        }
+    }
+    const PathTree listed = PathSelection::listedIn(findings);
+    PathSelection::addInside(ticked, listed);
+    std::erase_if(ticked, [&](const std::string& path) { return refused.contains(path); });
+    PathSelection::dropOpenFolders(ticked, listed);
+    return ticked;
+}
+
 bool isIn(const std::set<std::string>& paths, std::string_view path)
 {
     for (; path.size() > 1; path = PathText::parent(path)) {

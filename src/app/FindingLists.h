@@ -3,6 +3,7 @@
 #include "model/Finding.h"
 
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,10 @@ namespace orlen::FindingLists {
 [[nodiscard]] std::set<std::string> safePaths(const std::vector<Finding>& findings);
 /// What a scan selects of that: only in findings that are Safe as a whole.
 [[nodiscard]] std::set<std::string> proposed(const std::vector<Finding>& findings);
+/// Those of the paths that may be ticked for the user: listed to be cleaned, by no finding rated Keep or only
+/// ticked alone, and as folders without anything of that kind listed inside. With a folder, what is in it.
+[[nodiscard]] std::set<std::string> tickable(const std::vector<Finding>& findings,
+                                             std::span<const std::string> paths);
 /// Whether the path, or a folder that it is in, is one of these.
 [[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
 /// The finding of these copies, which are rated already; none without copies.

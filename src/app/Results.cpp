@@ -2,8 +2,10 @@
 
 #include "app/DiskAccess.h"
 #include "app/ExclusionList.h"
+#include "app/FindingLists.h"
 #include "app/SmartScan.h"
 #include "app/Storage.h"
+#include "clean/Safety.h"
 #include "platform/files/Places.h"
 #include "platform/values/CheckedSum.h"
 #include "scan/ScanEngine.h"
@@ -136,6 +138,15 @@ void Results::deselect(std::span<const std::string> paths)
     m_found.deselect(paths);
     if (selection().size() != before)
         Q_EMIT selectionChanged();
+}
+
+bool Results::selectOnly(std::span<const std::string> paths)
+{
+    std::set<std::string> selection = FindingLists::tickable(findings(), paths);
+    std::erase_if(selection, [](const std::string& path) { return Safety::isProtected(path); });
+    PathSelection::dropOpenFolders(selection, listed());
+    setSelection(std::move(selection));
+    return !this->selection().empty();
 }
 
 void Results::selectSafe()

@@ -76,6 +76,9 @@ public:
     /// depends only on the number of paths given. Emits `selectionChanged` at most once.
     void select(std::span<const std::string> paths);
     void deselect(std::span<const std::string> paths);
+    /// Selects these and nothing else, less what may not be ticked for the user: what is no longer listed,
+    /// rated Keep, only ticked alone, or protected. Whether anything is selected then.
+    bool selectOnly(std::span<const std::string> paths);
     /// Adds everything Safe that can be cleaned to the selection.
     Q_INVOKABLE void selectSafe();
     /// Whether all of that is selected.

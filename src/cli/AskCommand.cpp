@@ -1,6 +1,7 @@
 #include "app/AppModel.h"
 #include "cli/CliTexts.h"
 #include "cli/Command.h"
+#include "cli/ItemList.h"
 #include "cli/JsonDocuments.h"
 #include "cli/SmartScan.h"
 #include "insight/AskEngine.h"
@@ -51,6 +52,8 @@ public:
             Session::printDocument(JsonDocuments::answer(answer));
         else
             printAnswer(answer);
+        if (!wantsJson() && model.results()->selectOnly(answer.proposal))
+            ItemList::toClean(model.results()->scanPlan(), ItemList::Beside::nothing).show(session);
         return ExitStatus::done;
     }
 

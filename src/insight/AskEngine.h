@@ -19,7 +19,9 @@ struct Answer {
     std::vector<std::string> findingIDs; ///< findings it is about, for links to them
     bool usedModel = false;              ///< whether a language model wrote the text
     std::vector<std::string> paths{};    ///< files and folders it lists, in order, for questions that follow
-
+    /// Items it proposes for a clean-up, to be looked through before anything moves: none that is rated Keep
+    /// or protected. Empty if it proposes nothing.
+    std::vector<std::string> proposal{};
     friend bool operator==(const Answer&, const Answer&) = default;
 };
 

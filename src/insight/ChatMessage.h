@@ -16,6 +16,7 @@ struct ChatMessage {
     Message text;
     std::vector<std::string> findingIDs; ///< findings a reply links to
     bool usedModel = false;
+    std::vector<std::string> proposal{}; ///< items that a reply proposes for a clean-up
 
     [[nodiscard]] static ChatMessage question(std::string text)
     {
@@ -23,8 +24,9 @@ struct ChatMessage {
     }
     [[nodiscard]] static ChatMessage reply(Answer answer)
     {
-        return {Uuid::random(), false, std::move(answer.text), std::move(answer.findingIDs),
-                answer.usedModel};
+        return {Uuid::random(),         false,
+                std::move(answer.text), std::move(answer.findingIDs),
+                answer.usedModel,       std::move(answer.proposal)};
     }
 };
 

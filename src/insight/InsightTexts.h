@@ -143,6 +143,10 @@ inline constexpr Text kKept = messages("{count} item(s) are rated Keep, such as 
                                        "{count} item(s) are rated Keep, such as {names}. Their names or "
                                        "locations suggest they matter.");
 
+// TRANSLATORS: stands before an answer from which the person wanted something left out. {names} is a list:
+// "photos, ~/Downloads".
+inline constexpr Text kLeftOut = message("Left out: {names}.");
+
 // Lists of files. {files} is the name of an `AskReader::Subject`, perhaps with conditions: "videos over 3 GB
 // in ~/Videos".
 inline constexpr Text kFiles = messageIn("files, within a sentence", "files");
@@ -333,6 +337,12 @@ inline constexpr Text kSystemMeans =
             "itself. Orlen shows its size and leaves it alone.");
 inline constexpr Text kRatingsAreSuggestions =
     message("Ratings are suggestions; nothing moves before you say so.");
+
+inline constexpr Text kNotItsJob = message(
+    "That is not what Orlen is for: it shows what takes up space, and moves to the Trash what you choose. "
+    "It doesn't look for viruses, and it doesn't make the computer faster.");
+inline constexpr Text kTrashIsYours =
+    message("Orlen never empties the Trash: do that yourself when you're sure.");
 
 // For what is not understood.
 inline constexpr Text kHelp =

@@ -157,6 +157,11 @@ TEST(CommandLineTest, aQuestionIsAnsweredFromAScan)
     EXPECT_EQ(answer["usedModel"], false);
     EXPECT_THAT(Persist::loadSnapshots().records, IsEmpty()) << "a question is no scan of its own";
     EXPECT_THAT(orlen({"ask", "--large-mb", "1", "what is large"}).out, HasSubstr("Large files ("));
+
+    const std::string proposal = orlen({"ask", "free 300 KB"}).out;
+    EXPECT_THAT(proposal, HasSubstr(".cache/chromium\n")) << "what it proposes";
+    EXPECT_THAT(proposal, testing::Not(HasSubstr(".cache/mozilla")));
+    EXPECT_TRUE(home.isUntouched());
 }
 
 TEST(CommandLineTest, oddNamesAreHarmless)

@@ -40,6 +40,13 @@ constexpr Row kAfterFindings[] = {
     {"why so little?", "By category|largest findings"},
 };
 
+constexpr Row kWithout[] = {
+    {"what can I safely delete", "App caches (4 GB)"},
+    {"except caches", "Left out: caches.|60 MB", "App caches"},
+    {"old files in Documents", "report.pdf|contract-2021"},
+    {"not the report", "Left out: report.|contract-2021", "report.pdf"},
+};
+
 constexpr Row kInGerman[] = {
     {"fünf größte videos", "wedding.mp4"},    {"und das zweite?", "holiday.mkv", "wedding"},
     {"warum?", "Large but maybe wanted."},    {"kann ich das löschen", "holiday.mkv", "could free"},
@@ -71,9 +78,9 @@ constexpr Row kInItalian[] = {
 TEST_F(AskFollowUpTest, whatWasSaidBeforeCounts)
 {
     for (const auto& rows : {std::span<const Row>(kAfterAList), std::span<const Row>(kNarrowed),
-                             std::span<const Row>(kAfterFindings), std::span<const Row>(kInGerman),
-                             std::span<const Row>(kInFrench), std::span<const Row>(kInSpanish),
-                             std::span<const Row>(kInItalian)}) {
+                             std::span<const Row>(kAfterFindings), std::span<const Row>(kWithout),
+                             std::span<const Row>(kInGerman), std::span<const Row>(kInFrench),
+                             std::span<const Row>(kInSpanish), std::span<const Row>(kInItalian)}) {
         Conversation conversation;
         for (const Row& row : rows) {
             Turn turn = AskEngine::turn(row.question, context, conversation);

@@ -56,6 +56,11 @@ constexpr Row kFrench[] = {
     {"combien d’espace libre et que puis-je supprimer ?", "120 GB is free|You could free about"},
     {"quel temps fera-t-il demain", "I can answer"},
     {"que se passe-t-il quand je supprime", "moves what you tick"},
+    {"les plus gros fichiers sauf les vidéos", "Left out: videos.|slack", "wedding"},
+    {"tout ce qui est sûr sans les caches", "Left out: caches.|60 MB", "App caches"},
+    {"est-ce que le disque sera plein à noël", "Probably yes.|30 August 2026"},
+    {"le disque tiendra jusqu'au mois prochain ?", "Probably yes."},
+    {"assez de place jusqu'à la fin de l'année ?", "Probably not."},
 };
 
 } // namespace

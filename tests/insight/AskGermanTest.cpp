@@ -58,6 +58,13 @@ constexpr Row kGerman[] = {
     {"wie wird das wetter morgen", "I can answer"},
     {"was passiert wenn ich etwas lösche", "moves what you tick"},
     {"grösten datein", "wedding.mp4 (9 GB)"},
+    {"größte dateien außer videos", "Left out: videos.|slack", "wedding"},
+    {"was kann ich löschen, nur nicht die fotos", "Left out: photos.|You could free"},
+    {"reicht der platz bis weihnachten", "Probably not.|30 August 2026"},
+    {"ist die platte am jahresende voll", "Probably yes."},
+    {"hab ich in drei wochen noch platz", "Probably yes."},
+    {"mach 5 GB frei", "For the rest of 5 GB", "Yes."},
+    {"wie mache ich das rückgängig", "History|restore"},
 };
 
 } // namespace

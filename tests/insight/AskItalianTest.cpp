@@ -56,6 +56,10 @@ constexpr Row kItalian[] = {
     {"quanto spazio libero ho e cosa posso cancellare?", "120 GB is free|You could free about"},
     {"che tempo farà domani", "I can answer"},
     {"cosa succede se cancello qualcosa", "moves what you tick"},
+    {"i file più grandi tranne i video", "Left out: videos.|slack", "wedding"},
+    {"tutto quello sicuro senza le cache", "Left out: caches.|60 MB", "App caches"},
+    {"il disco sarà pieno a natale?", "Probably yes.|30 August 2026"},
+    {"lo spazio basta fino a ferragosto", "Probably yes."},
 };
 
 } // namespace

@@ -23,6 +23,7 @@ constexpr Row kNamed[] = {
     {"can I remove the slack cache?", "slack|3 GB|rated Safe|Apps make them again.", "mozilla"},
     {"what's mozilla?", "~/.cache|1 GB|Safe"},
     {"can I delete report", "report.pdf", "final"},
+    {"delete holiday.mvk?", "holiday.mkv|4 GB", "not in the results"},
     {"may I delete debain.iso", "debian.iso|3 GB|Review"},
     {"should I keep holiday.mkv", "holiday.mkv|Review"},
     {"can i delete ~/.ssh", "~/.ssh is protected, because|They sign you in", "Safe"},
@@ -61,7 +62,33 @@ constexpr Row kSpace[] = {
     {"free 4 GB", "rated Safe is enough|App caches|4 GB in all", "Large files"},
     {"how can I free up 10 GB?", "Everything rated Safe|App caches|Review|Large files"},
     {"free 900 GB", "less than 900 GB"},
+    {"make 10 gb of room", "Everything rated Safe", "Yes."},
+    {"I need space for a 20GB game, what should go?", "For the rest of 20 GB|You could free"},
+    {"why is there so little room left", "By category"},
     {"I need to make room for 500 MB", "rated Safe is enough|App caches"},
+};
+
+constexpr Row kLater[] = {
+    {"will my disk be full by Christmas", "Probably yes.|30 August 2026"},
+    {"will it be full by Easter", "Probably yes.|30 August 2026"},
+    {"will I run out before summer", "Probably not.|30 August 2026"},
+    {"will the drive last until the end of the year", "Probably not.|30 August 2026"},
+    {"do I have enough space until next month", "Probably yes.|30 August 2026"},
+    {"is there going to be room left in three weeks", "Probably yes.|30 August 2026"},
+    {"will the disk survive till friday", "Probably yes."},
+    {"how full will the disk be in 2 months", "30 August 2026", "Probably"},
+    {"how quickly is my disk filling up", "1 GB per day", "could free"},
+    {"when will my disk be full and how do I free 5 gb", "30 August 2026|For the rest of 5 GB"},
+};
+
+constexpr Row kLeftOut[] = {
+    {"largest files except videos", "Left out: videos.|slack (3 GB)|debian", "wedding|cut.mov"},
+    {"what can i delete besides photos", "Left out: photos.|You could free about 4.1 GB"},
+    {"show everything I can free up other than caches", "Left out: caches.|about 60 MB", "App caches"},
+    {"biggest files without the ones in Downloads", "Left out: ~/Downloads.|wedding", "debian"},
+    {"what's big apart from the wedding video", "Left out: wedding.|holiday", "wedding.mp4"},
+    {"free 2 GB but not from caches and logs", "Left out: caches, log files.|Review", "App caches"},
+    {"biggest files except unicorns", "I don't know that", "wedding"},
 };
 
 constexpr Row kGrown[] = {
@@ -72,6 +99,7 @@ constexpr Row kGrown[] = {
     {"which folders have grown most since 2026-05-21", "Since 20 May 2026|19 GB"},
     {"what grew on my disk since 2026-06-01", "no two scans"},
     {"what grew in 2025", "no two scans"},
+    {"what has grown since May 20", "Since 28 April 2026|~/Videos: 49 GB"},
 };
 
 constexpr Row kLists[] = {
@@ -107,6 +135,7 @@ constexpr Row kSubjects[] = {
     {"size of videos folder", "~/Videos takes 80 GB"},
     {"how many screenshots do I have", "Screenshots: 2 MB|1 item", "Similar"},
     {"how many duplicates are there", "Duplicate files: 40 MB|1 item"},
+    {"are there any doubles in my pictures", "Similar photos: 11 MB", "Duplicate files"},
     {"are there duplicate photos", "Similar photos: 11 MB|2 items", "Duplicate files"},
     {"show me duplicate pictures", "Similar photos", "Duplicate files|Screenshots"},
     {"how many blurry photos", "found no blurry shots", "Similar|Screenshots"},
@@ -135,6 +164,10 @@ constexpr Row kAbout[] = {
     {"what does System mean", "no other category counts", "Keep:"},
     {"difference between safe and review", "Safe:|Review:", "Keep:"},
     {"what is the weather in Graz", "I don't know that", "GB"},
+    {"does this thing scan for viruses", "not what Orlen is for", "could free"},
+    {"do you empty the trash", "never empties the Trash", "found no"},
+    {"does nextcloud start automatically", "1 item starts|Nextcloud"},
+    {"how much did orlen free in total", "2 clean-ups|3 GB", "is free of"},
     {"delete my ex", "I don't know that", "could free"},
 };
 
@@ -212,8 +245,8 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout),
-          std::span<const Row>(kEveryday)})
+          std::span<const Row>(kLater), std::span<const Row>(kLeftOut), std::span<const Row>(kGrown),
+          std::span<const Row>(kSubjects), std::span<const Row>(kAbout), std::span<const Row>(kEveryday)})
         expectAnswers(rows);
 }
 
@@ -276,6 +309,33 @@ TEST_F(AskReaderTest, namesLinkToTheirFindings)
 {
     EXPECT_THAT(AskEngine::answer("can I delete debian.iso", context).findingIDs, ElementsAre("largeFiles"));
     EXPECT_THAT(AskEngine::answer("free 1 GB", context).findingIDs, ElementsAre("caches"));
+}
+
+TEST_F(AskReaderTest, proposalsHoldWhatTheyNameAndNothingMore)
+{
+    const std::string slack = home.path(".cache/slack");
+    const std::string mozilla = home.path(".cache/mozilla");
+    EXPECT_THAT(AskEngine::answer("free 900 MB", context).proposal, ElementsAre(mozilla));
+    EXPECT_THAT(AskEngine::answer("free 4 GB", context).proposal, ElementsAre(slack, mozilla));
+    EXPECT_THAT(AskEngine::answer("free 5 GB", context).proposal,
+                testing::IsSupersetOf({slack, mozilla, home.path("Videos/Projects/cut.mov")}));
+    EXPECT_THAT(AskEngine::answer("how much space is free", context).proposal, testing::IsEmpty());
+
+    // Never what another finding rates Keep, what is only ticked alone, or what is protected.
+    FileEntry alone = entry(".cache/alone", 7 * kBytesInGB);
+    alone.isTickedAlone = true;
+    add(FindingKind::npm, Rating::safe, message("Reason."),
+        {entry(".cache/slack", 3 * kBytesInGB, "2024-03-04", Rating::keep), alone,
+         entry(".ssh", kBytesInGB)});
+    for (const char* question : {"free 900 GB", "what can I delete", "my disk is full",
+                                 "how much would I free if I delete the caches"}) {
+        const std::vector<std::string> proposal = AskEngine::answer(question, context).proposal;
+        EXPECT_THAT(proposal, testing::Contains(mozilla)) << question;
+        EXPECT_THAT(proposal,
+                    testing::Not(testing::Contains(testing::AnyOf(
+                        slack, alone.path, home.path(".ssh"), home.path("Documents/contract-2021.docx")))))
+            << question;
+    }
 }
 
 TEST_F(AskReaderTest, withoutAScanNothingIsInvented)

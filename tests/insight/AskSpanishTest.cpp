@@ -56,6 +56,10 @@ constexpr Row kSpanish[] = {
     {"cuánto espacio libre hay y qué puedo borrar?", "120 GB is free|You could free about"},
     {"qué tiempo hará mañana", "I can answer"},
     {"qué pasa si borro algo", "moves what you tick"},
+    {"los archivos más grandes menos los vídeos", "Left out: videos.|slack", "wedding"},
+    {"qué puedo borrar aparte de las fotos", "Left out: photos.|You could free"},
+    {"me alcanza el espacio hasta semana santa", "Probably not.|30 August 2026"},
+    {"tendré sitio el mes que viene", "Probably yes."},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/shell/WindowState.h"
 
 #include <gtest/gtest.h>
 
@@ -83,6 +84,40 @@ TEST(ConversationModelTest, linksOnlyToFindingsThatAreStillThere)
     app.results()->removeFromFindings({home.path("Documents/a.bin"), home.path("Documents/b.bin")});
     EXPECT_TRUE(links->rowCount() == 0 ||
                 links->data(links->index(0), static_cast<int>(FindingLinks::Role::size)) == "0 bytes");
+}
+
+TEST(ConversationModelTest, aProposalIsSelectedAloneAndReviewed)
+{
+    const TempHome home;
+    home.fileOfSize(".cache/chromium/pages", 4'000'000);
+    home.fileOfSize(".cache/mozilla/covers", 8'000'000);
+    home.fileOfSize(".xsession-errors", 70'000);
+    AppModel app({.startup = AppModel::Startup::filesOnly});
+    ConversationModel model(app);
+    const auto ask = [&](const char* question) {
+        EXPECT_TRUE(model.ask(question));
+        EXPECT_TRUE(waitUntil([&] { return !model.isThinking(); }));
+        return model.rowCount() - 1;
+    };
+    EXPECT_FALSE(value(model, ask("free 3 MB"), ConversationModel::Role::proposes).toBool()) << "no scan yet";
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
+    EXPECT_FALSE(value(model, ask("how much space is free"), ConversationModel::Role::proposes).toBool());
+    const int row = ask("free 3 MB");
+    ASSERT_TRUE(value(model, row, ConversationModel::Role::proposes).toBool());
+
+    app.results()->selectSafe();
+    model.review(row);
+    EXPECT_EQ(app.results()->selection(), std::set<std::string>{home.path(".cache/chromium")});
+    ASSERT_TRUE(WindowState::of(app).sheet().has_value());
+    WindowState::of(app).setSheet({});
+
+    // What is excluded meanwhile is no longer proposed.
+    ASSERT_TRUE(app.exclusions()->add(*Exclusion::ofPath(home.path(".cache/chromium"))).ok());
+    EXPECT_FALSE(value(model, row, ConversationModel::Role::proposes).toBool());
+    model.review(row);
+    EXPECT_TRUE(app.results()->selection().empty());
+    EXPECT_FALSE(WindowState::of(app).sheet().has_value());
 }
 
 } // namespace orlen

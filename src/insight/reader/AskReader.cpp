@@ -27,7 +27,8 @@ constexpr std::size_t kLongestQuestion = 500;
 /// Nobody asks more at once.
 constexpr std::size_t kMostParts = 4;
 
-constexpr SenseSet kQuestionWords{what, howBig, howMuch, howMany, can, when, why, undo, uninstall};
+constexpr SenseSet kQuestionWords{what, howBig, howMuch,   howMany,  can,      when,
+                                  why,  undo,   uninstall, makeRoom, untouched};
 
 bool isSuggested(std::string_view text)
 {

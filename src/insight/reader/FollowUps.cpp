@@ -177,7 +177,7 @@ std::optional<Reply> changed(const Question& question, const AskContext& context
     constexpr SenseSet kParts{subject, unknown,  quoted,   size,          number, period, inside,
                               biggest, smallest, oldest,   newest,        above,  below,  most,
                               after,   since,    unopened, Sense::before, folder, what,   general,
-                              howMany, used,     free,     ordinal,       total};
+                              howMany, used,     free,     ordinal,       total,  except};
     if (!question.senses.isWithin(kParts) || question.phrases.empty())
         return std::nullopt;
     Phrases now = question.phrases;

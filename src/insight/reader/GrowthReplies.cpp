@@ -16,6 +16,8 @@ std::optional<Answer> whatGrew(const Question& question, const AskContext& conte
 {
     constexpr std::size_t kNamed = 5;
     const Phrase* const period = question.first(Sense::period);
+    if (period != nullptr && period->period->from > context.now)
+        return std::nullopt;
     std::optional<Growth> growth;
     if (period == nullptr)
         growth = Growth::sinceLastScan(context.folders);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "insight/reader/Calendar.h"
 #include "insight/reader/Sense.h"
 #include "insight/reader/Subjects.h"
 
@@ -37,11 +38,19 @@ enum class Figure : std::uint8_t {
     agoBefore, ///< stands before: "vor zwei Jahren"
     previous,  ///< "last" of "last month" or "le mois dernier"
     current,   ///< "this" of "this month"
+    following, ///< "next" of "next month" or "le mois prochain"
+    ahead,     ///< "in" of "in two weeks"
+    daysAhead, ///< "tomorrow": 1
+    namedDay,  ///< the value is a `NamedDay`
+    endOf,     ///< "end of", with the unit behind it: -1; else the value is a `TimeUnit`: "year-end"
     ofDate,    ///< may stand within a date: "3 de marzo de 2024"
 };
-inline constexpr std::size_t kFigures = 12;
+inline constexpr std::size_t kFigures = 17;
 
-enum class TimeUnit : std::uint8_t { day, week, month, year };
+constexpr double valueOf(NamedDay day)
+{
+    return static_cast<double>(day);
+}
 
 struct FigureRow {
     Figure figure;

@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/Exclusions.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
@@ -35,6 +36,7 @@ struct Request {
     TimePoint openedTo = TimePoint::max();
     Order order = Order::biggest;
     std::int64_t count = kUsualCount;
+    Exclusions exclusions;
     Message files; ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 };
 
@@ -119,12 +121,14 @@ bool isYoungerThan(const Question& question)
 }
 
 /// The one date and the word it belongs to. False if that is unclear.
-bool takeDate(const Question& question, Request& request)
+bool takeDate(const Question& question, TimePoint now, Request& request)
 {
     const Phrase* const phrase = question.first(Sense::period);
     if (phrase == nullptr)
         return !question.senses.meets({Sense::before, Sense::after, Sense::since, Sense::unopened});
     const Period& period = *phrase->period;
+    if (period.from > now)
+        return false;
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;
         narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
@@ -203,10 +207,14 @@ std::optional<Request> requestIn(const Question& question, const AskContext& con
 {
     Request request;
     request.order = orderIn(question);
+    if (auto exclusions = Exclusions::of(question, context))
+        request.exclusions = *std::move(exclusions);
+    else
+        return std::nullopt;
     if (!takeSubjects(question, request) || !takeFolder(question, context, request))
         return std::nullopt;
     request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
-    if (!takeSizes(question, request) || !takeDate(question, request))
+    if (!takeSizes(question, request) || !takeDate(question, context.now, request))
         return std::nullopt;
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
@@ -217,7 +225,8 @@ std::optional<Request> requestIn(const Question& question, const AskContext& con
 
 bool fits(const Request& request, const Finding& finding, const FileEntry& entry)
 {
-    if (entry.size < request.leastBytes || entry.size > request.mostBytes)
+    if (entry.size < request.leastBytes || entry.size > request.mostBytes ||
+        (!request.exclusions.empty() && request.exclusions.leaveOut(finding, entry)))
         return false;
     const bool isByDate = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
                           request.order == Order::oldest || request.order == Order::newest;
@@ -298,7 +307,8 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     const Place files{"files", within(request->files)};
     std::vector<Hit> hits = fitting(*request, context);
     if (hits.empty())
-        return Answer{Message{InsightTexts::kNoneListed, {files}}, {}};
+        return Answer{
+            AskText::lines({request->exclusions.said(), Message{InsightTexts::kNoneListed, {files}}}), {}};
     std::int64_t bytes = 0;
     for (const Hit& hit : hits)
         bytes = checkedAdd(bytes, hit.entry->size);
@@ -306,7 +316,8 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     sortFirst(hits, request->order, shown);
     const Message sum{InsightTexts::kFilesListed,
                       {files, {"count", std::ssize(hits)}, {"size", Bytes{bytes}}}};
-    std::vector<Message> lines{AskText::sentences({sum, heading(request->order)})};
+    std::vector<Message> lines{request->exclusions.said(),
+                               AskText::sentences({sum, heading(request->order)})};
     Answer answer;
     for (std::size_t i = 0; i < shown; ++i) {
         lines.push_back(lineFor(*request, hits[i]));

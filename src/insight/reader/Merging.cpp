@@ -50,6 +50,35 @@ void mergeNegation(Phrases& phrases)
         drop(phrases, Sense::negation);
 }
 
+/// "Besides photos and videos", "without the ones in Downloads": one phrase of what is left out. Where
+/// nothing nameable follows, the word only denies.
+void mergeExclusions(Phrases& phrases)
+{
+    constexpr SenseSet kNameable{Sense::subject, Sense::unknown, Sense::quoted};
+    const bool isOnlyDenied =
+        phrases.size() > 1 && phrases.front().sense == Sense::negation &&
+        std::ranges::all_of(phrases.begin() + 1, phrases.end(),
+                            [&](const Phrase& each) { return kNameable.has(each.sense); });
+    if (isOnlyDenied)
+        phrases.front().sense = Sense::except;
+    for (std::size_t i = 0; i < phrases.size(); ++i) {
+        if (phrases[i].sense != Sense::except || !phrases[i].excluded.empty())
+            continue;
+        const auto from = std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1);
+        const auto first =
+            std::find_if(from, phrases.end(), [](const Phrase& each) { return each.sense != Sense::inside; });
+        const auto last = std::find_if(first, phrases.end(),
+                                       [&](const Phrase& each) { return !kNameable.has(each.sense); });
+        if (first == last) {
+            phrases[i].sense = Sense::negation;
+            continue;
+        }
+        Phrases excluded(std::make_move_iterator(first), std::make_move_iterator(last));
+        phrases.erase(from, last);
+        phrases[i].excluded = std::move(excluded);
+    }
+}
+
 bool isPhotos(const Subject& subject)
 {
     return subject.id == SubjectID::photos;
@@ -104,6 +133,38 @@ std::optional<Phrase> together(const Phrase& a, const Phrase& b)
     return one.subject == nullptr ? std::nullopt : std::optional(std::move(one));
 }
 
+/// "Make 5 GB of room", "free 5 GB"
+void mergeMaking(Phrases& phrases)
+{
+    const bool isOfRoom =
+        has(phrases, Sense::size) && (has(phrases, Sense::free) || has(phrases, Sense::space));
+    if (isOfRoom)
+        rename(phrases, Sense::make, Sense::makeRoom);
+    else
+        drop(phrases, Sense::make);
+    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
+        // One word; "do I still have" asks.
+        const bool isVerb = phrases[i].sense == Sense::free && phrases[i].text.find(' ') == std::string::npos;
+        if (isVerb && phrases[i + 1].sense == Sense::size)
+            phrases[i].sense = Sense::makeRoom;
+    }
+}
+
+/// "Doubles in my pictures" are similar photos.
+void mergePlaces(Phrases& phrases)
+{
+    for (std::size_t i = 0; i + 2 < phrases.size(); ++i) {
+        const Subject* const kind = phrases[i].subject;
+        const Subject* const place = phrases[i + 2].subject;
+        if (kind != nullptr && kind->id == SubjectID::duplicates && phrases[i + 1].sense == Sense::inside &&
+            place != nullptr && isOneOf(place->id, {SubjectID::photos, SubjectID::picturesFolder})) {
+            phrases[i].subject = &subjectFor(SubjectID::similarPhotos);
+            phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
+                          std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 3));
+        }
+    }
+}
+
 void mergeNeighbours(Phrases& phrases)
 {
     for (std::size_t i = 0; i + 1 < phrases.size();) {
@@ -123,8 +184,11 @@ Question merged(const Question& question)
     Phrases phrases = question.phrases;
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
-    mergeNegation(phrases);
+    mergeMaking(phrases);
     mergeNeighbours(phrases);
+    mergePlaces(phrases);
+    mergeExclusions(phrases);
+    mergeNegation(phrases);
     return withPhrases(question, std::move(phrases));
 }
 

@@ -145,11 +145,13 @@ private:
 
     [[nodiscard]] bool holdsMistyped(std::string_view text) const
     {
-        return std::ranges::all_of(m_words, [&](const std::string& word) {
-            return anyWord(text, [&](std::string_view each) {
-                return each == word || (word.size() >= kShortestMistypedName && isOneLetterApart(word, each));
-            });
-        });
+        // The whole name counts as one word: its ending alone is too short to be forgiven an error.
+        return isOneLetterApart(m_name, text) || std::ranges::all_of(m_words, [&](const std::string& word) {
+                   return anyWord(text, [&](std::string_view each) {
+                       return each == word ||
+                              (word.size() >= kShortestMistypedName && isOneLetterApart(word, each));
+                   });
+               });
     }
 
     std::string m_name;

@@ -1,24 +1,24 @@
 #include "insight/reader/Periods.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace orlen::AskReader {
 
 namespace {
 
 using std::chrono::days;
-using std::chrono::months;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
-using std::chrono::years;
 
 constexpr int kFirstYear = 1980;
 constexpr int kLastYear = 2100;
 constexpr int kMostYears = 100; // far more, and dates would leave what the clock can hold
+constexpr int kDaysInMonth = 31;
 
 std::optional<int> digits(std::string_view text)
 {
@@ -35,58 +35,14 @@ std::optional<int> yearIn(std::string_view text)
     return text.size() == 4 && value && *value >= kFirstYear && *value <= kLastYear ? value : std::nullopt;
 }
 
-/// Today in another year; the last day of its month where the month is too short.
-TimePoint onSomeDay(year_month_day date)
+/// "20", "20th", "1er", "3."
+std::optional<int> dayOfMonthIn(std::string_view text)
 {
-    return date.ok() ? sys_days(date) : sys_days(date.year() / date.month() / std::chrono::last);
-}
-
-TimePoint startOf(int year, unsigned month, unsigned day = 1)
-{
-    return onSomeDay(std::chrono::year(year) / static_cast<int>(month) / static_cast<int>(day));
-}
-
-Period wholeMonth(int year, unsigned month)
-{
-    return {startOf(year, month), month == 12 ? startOf(year + 1, 1) : startOf(year, month + 1)};
-}
-
-Period wholeDay(TimePoint day)
-{
-    return {day, day + days(1)};
-}
-
-/// The day that lies so many units before `now`.
-TimePoint back(TimePoint now, TimeUnit unit, int count)
-{
-    const auto today = std::chrono::floor<days>(now);
-    const year_month_day date(today);
-    switch (unit) {
-    case TimeUnit::day:
-        return today - days(count);
-    case TimeUnit::week:
-        return today - days(7 * count);
-    case TimeUnit::month:
-        return onSomeDay(date - months(count));
-    case TimeUnit::year:
-        return onSomeDay(date - years(count));
-    }
-    return now;
-}
-
-/// The calendar period before the one that holds `now`, or that one itself.
-Period calendar(TimePoint now, TimeUnit unit, bool isCurrent)
-{
-    const year_month_day today(std::chrono::floor<days>(now));
-    const int year = static_cast<int>(today.year());
-    if (unit == TimeUnit::year)
-        return isCurrent ? Period{startOf(year, 1), now} : Period{startOf(year - 1, 1), startOf(year, 1)};
-    const TimePoint month = startOf(year, static_cast<unsigned>(today.month()));
-    if (unit == TimeUnit::month)
-        return isCurrent ? Period{month, now} : Period{back(month, TimeUnit::month, 1), month};
-    const int count = unit == TimeUnit::week ? 7 : 1;
-    return isCurrent ? Period{back(now, TimeUnit::day, count), now}
-                     : Period{back(now, TimeUnit::day, count), back(now, TimeUnit::day, 0)};
+    const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
+    const std::optional<int> day = digits(text.substr(0, end));
+    constexpr std::size_t kLongestEnding = 2;
+    return day && *day >= 1 && *day <= kDaysInMonth && text.size() <= end + kLongestEnding ? day
+                                                                                           : std::nullopt;
 }
 
 /// Takes the parts of one period off the words.
@@ -99,8 +55,9 @@ public:
 
     std::optional<Taken<Period>> period()
     {
-        for (const auto read : {&PeriodReader::inFigures, &PeriodReader::withMonth, &PeriodReader::onWeekday,
-                                &PeriodReader::daysAgo, &PeriodReader::stretch, &PeriodReader::ofCalendar}) {
+        for (const auto read : {&PeriodReader::inFigures, &PeriodReader::withMonth, &PeriodReader::onNamedDay,
+                                &PeriodReader::onWeekday, &PeriodReader::daysFromNow, &PeriodReader::stretch,
+                                &PeriodReader::ofCalendar, &PeriodReader::atEnd}) {
             m_at = 0;
             if (const auto found = (this->*read)())
                 return Taken<Period>{*found, m_at};
@@ -153,7 +110,7 @@ private:
     {
         const std::string& word = m_words[0];
         if (const auto year = takeYear())
-            return Period{startOf(*year, 1), startOf(*year + 1, 1)};
+            return wholeYear(*year);
         m_at = 1;
         if (word.size() == 10 && word[4] == '-' && word[7] == '-') {
             const auto date = timeFromIso(word + "T00:00:00Z");
@@ -186,83 +143,122 @@ private:
         return date.ok() ? std::optional(wholeDay(sys_days(date))) : std::nullopt;
     }
 
-    /// "march 2024", "3 de marzo de 2024", "march 3 2024", "december"
+    /// A day of the month; never the number of a size: "may 5 gb".
+    std::optional<unsigned> takeDay()
+    {
+        if (isDone() || sizeAt(rest(), m_lexicon))
+            return std::nullopt;
+        const auto named = m_lexicon.figure(Figure::ordinal, m_words[m_at]);
+        const auto day = named ? std::optional(static_cast<int>(*named)) : dayOfMonthIn(m_words[m_at]);
+        m_at += day ? 1 : 0;
+        return day ? std::optional(static_cast<unsigned>(*day)) : std::nullopt;
+    }
+
+    /// "march 2024", "3 de marzo de 2024", "march 3 2024", "may 20th", "december"
     std::optional<Period> withMonth()
     {
-        constexpr int kDays = 31;
-        std::optional<int> day = takeNumber(kDays);
+        std::optional<unsigned> day = takeDay();
         while (day && take(Figure::ofDate)) {
         }
         const bool isAlsoAWord = !isDone() && m_lexicon.find(m_words[m_at]) != nullptr;
-        const auto month = take(Figure::month);
-        if (!month)
+        const auto named = take(Figure::month);
+        if (!named)
             return std::nullopt;
+        const auto month = static_cast<unsigned>(*named);
         std::optional<int> year = takeYearBehind();
         if (!year && !day) {
-            const std::size_t at = m_at;
-            day = takeNumber(kDays);
+            day = takeDay();
             year = day ? takeYearBehind() : std::nullopt;
-            if (!year) {
-                day.reset();
-                m_at = at;
-            }
         }
-        if (!year && (isAlsoAWord || day))
+        if (!year && !day && isAlsoAWord)
             return std::nullopt;
-        const auto number = static_cast<unsigned>(*month);
-        if (year)
-            return day ? wholeDay(startOf(*year, number, static_cast<unsigned>(*day)))
-                       : wholeMonth(*year, number);
-        Period latest =
-            wholeMonth(static_cast<int>(year_month_day(std::chrono::floor<days>(m_now)).year()), number);
-        if (latest.from > m_now)
-            latest = {back(latest.from, TimeUnit::year, 1), back(latest.to, TimeUnit::year, 1)};
-        latest.isAnyYear = true;
-        return latest;
+        if (!year)
+            return inAnyYear(month, day, m_now);
+        return day ? wholeDay(startOf(*year, month, *day)) : wholeMonth(*year, month);
     }
 
-    /// "monday", "last monday", "lundi dernier"
+    /// "christmas", "easter 2025", "last summer", "noël prochain"
+    std::optional<Period> onNamedDay()
+    {
+        bool isPrevious = take(Figure::previous).has_value();
+        bool isNext = !isPrevious && take(Figure::following).has_value();
+        const auto named = take(Figure::namedDay);
+        if (!named)
+            return std::nullopt;
+        const auto day = static_cast<NamedDay>(*named);
+        isPrevious = isPrevious || take(Figure::previous);
+        isNext = isNext || take(Figure::following);
+        if (const auto year = takeYearBehind()) {
+            const Span span = inYear(day, *year);
+            return Period{span.from, span.to};
+        }
+        const Period period = around(day, m_now);
+        if (isPrevious)
+            return Period{period.from, period.to};
+        return isNext ? Period{period.next->from, period.next->to, {}, true} : period;
+    }
+
+    /// "monday", "last monday", "lundi prochain"
     std::optional<Period> onWeekday()
     {
-        take(Figure::previous);
+        bool isPrevious = take(Figure::previous).has_value();
+        bool isNext = !isPrevious && take(Figure::following).has_value();
         const auto weekday = take(Figure::weekday);
         if (!weekday)
             return std::nullopt;
-        take(Figure::previous);
-        const auto today = std::chrono::floor<days>(m_now);
-        const days since =
-            std::chrono::weekday(today) - std::chrono::weekday(static_cast<unsigned>(*weekday));
-        return wholeDay(today - (since == days(0) ? days(7) : since));
+        isPrevious = take(Figure::previous) || isPrevious;
+        isNext = take(Figure::following) || isNext;
+        const Period period = around(static_cast<unsigned>(*weekday), m_now);
+        if (isPrevious)
+            return Period{period.from, period.to};
+        return isNext ? Period{period.next->from, period.next->to, {}, true} : period;
     }
 
-    std::optional<Period> daysAgo()
+    /// "yesterday", "tomorrow"
+    std::optional<Period> daysFromNow()
     {
-        const auto count = take(Figure::daysAgo);
-        return count ? std::optional(wholeDay(back(m_now, TimeUnit::day, *count))) : std::nullopt;
+        if (const auto count = take(Figure::daysAgo))
+            return wholeDay(back(m_now, TimeUnit::day, *count));
+        const auto count = take(Figure::daysAhead);
+        if (!count)
+            return std::nullopt;
+        Period day = wholeDay(back(m_now, TimeUnit::day, -*count));
+        day.isAhead = true;
+        return day;
     }
 
-    /// "two years", "a month ago", "vor einem Jahr", "les 3 derniers mois"
+    /// "two years", "a month ago", "vor einem Jahr", "les 3 derniers mois", "in three weeks"
     std::optional<Period> stretch()
     {
         const bool isAgo = take(Figure::agoBefore).has_value();
-        take(Figure::previous);
+        bool isAhead = !isAgo && take(Figure::ahead).has_value();
+        bool isPast = take(Figure::previous).has_value();
+        isAhead = (!isPast && take(Figure::following)) || isAhead;
         const std::optional<int> count = takeNumber(1'000);
-        take(Figure::previous);
+        isPast = take(Figure::previous) || isPast;
+        isAhead = take(Figure::following) || isAhead;
         const bool isSingle = !count && !isDone() && isArticle(m_words[m_at]);
         if (isSingle)
             ++m_at;
-        const auto unit = take(Figure::timeUnit);
-        if (!unit)
+        const auto named = take(Figure::timeUnit);
+        if (!named)
             return std::nullopt;
+        const auto unit = static_cast<TimeUnit>(*named);
         const bool isBehind = take(Figure::ago).has_value();
-        if (count && !isBehind)
-            take(Figure::previous);
-        const bool isOne = isSingle && (isAgo || isBehind || m_words[m_at - 2] == "a");
-        if (!count && !isOne)
+        if (count && !isBehind) {
+            isPast = take(Figure::previous) || isPast;
+            isAhead = take(Figure::following) || isAhead;
+        }
+        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a");
+        if ((!count && !isOne) || (unit == TimeUnit::year && count.value_or(1) > kMostYears))
             return std::nullopt;
-        if (static_cast<TimeUnit>(*unit) == TimeUnit::year && count.value_or(1) > kMostYears)
-            return std::nullopt;
-        return Period{back(m_now, static_cast<TimeUnit>(*unit), count.value_or(1)), m_now};
+        Period period{back(m_now, unit, count.value_or(1)), m_now};
+        if (isAgo || isBehind || isPast)
+            return period;
+        const TimePoint then = back(m_now, unit, -count.value_or(1));
+        period.next = Span{then, then + days(1)};
+        period.isAhead = isAhead;
+        return period;
     }
 
     [[nodiscard]] bool isArticle(const std::string& word) const
@@ -271,18 +267,42 @@ private:
         return entry != nullptr && entry->sense == Sense::filler;
     }
 
-    /// "last month", "le mois dernier", "this year"
+    /// "last month", "le mois prochain", "this year"
     std::optional<Period> ofCalendar()
     {
         bool isPrevious = take(Figure::previous).has_value();
-        const bool isCurrent = !isPrevious && take(Figure::current).has_value();
+        bool isNext = !isPrevious && take(Figure::following).has_value();
+        const bool isCurrent = !isPrevious && !isNext && take(Figure::current).has_value();
         const auto unit = take(Figure::timeUnit);
         if (!unit)
             return std::nullopt;
-        isPrevious = isPrevious || take(Figure::previous).has_value();
-        if (!isPrevious && !isCurrent)
+        isPrevious = isPrevious || take(Figure::previous);
+        isNext = isNext || (!isPrevious && take(Figure::following));
+        if (!isPrevious && !isCurrent && !isNext)
             return std::nullopt;
-        return calendar(m_now, static_cast<TimeUnit>(*unit), !isPrevious);
+        return calendar(m_now, static_cast<TimeUnit>(*unit), isNext ? 1 : isCurrent ? 0 : -1);
+    }
+
+    /// "the end of the year", "ende juli", "fin 2027", "jahresende"
+    std::optional<Period> atEnd()
+    {
+        const auto end = take(Figure::endOf);
+        if (!end)
+            return std::nullopt;
+        if (*end >= 0)
+            return endOf(m_now, static_cast<TimeUnit>(*end));
+        while (take(Figure::ofDate) || take(Figure::current)) {
+        }
+        if (const auto unit = take(Figure::timeUnit))
+            return endOf(m_now, static_cast<TimeUnit>(*unit));
+        const auto month = take(Figure::month);
+        const auto year = takeYearBehind();
+        if (!month && !year)
+            return std::nullopt;
+        const Period whole = !month ? wholeYear(*year)
+                             : year ? wholeMonth(*year, static_cast<unsigned>(*month))
+                                    : coming(inAnyYear(static_cast<unsigned>(*month), {}, m_now));
+        return Period{whole.to - days(1), whole.to, {}, whole.to > m_now};
     }
 
     std::span<const std::string> m_words;
@@ -297,13 +317,6 @@ std::optional<Taken<Period>> periodAt(std::span<const std::string> words, const 
                                       TimePoint now)
 {
     return words.empty() ? std::nullopt : PeriodReader(words, lexicon, now).period();
-}
-
-Period coming(const Period& period, TimePoint now)
-{
-    if (!period.isAnyYear || period.to > now)
-        return period;
-    return {back(period.from, TimeUnit::year, -1), back(period.to, TimeUnit::year, -1), true};
 }
 
 Moment dayOf(TimePoint bound)

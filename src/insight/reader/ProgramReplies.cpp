@@ -117,6 +117,21 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     }
 }
 
+std::optional<Answer> startupOf(const Question& question, const AskContext& context)
+{
+    const Subject* const subject = question.subject();
+    if (subject == nullptr || subject->id != SubjectID::startup || !context.startupItems)
+        return std::nullopt;
+    const auto isItem = [&](const Phrase& phrase) {
+        const std::string wanted = " " + plainLetters(phrase.text) + " ";
+        return (phrase.sense != Sense::unknown && phrase.sense != Sense::quoted) ||
+               std::ranges::any_of(*context.startupItems, [&](const KnownStartupItem& item) {
+                   return (" " + plainLetters(item.name) + " ").find(wanted) != std::string::npos;
+               });
+    };
+    return std::ranges::all_of(question.phrases, isItem) ? std::optional(startup(context)) : std::nullopt;
+}
+
 std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)
 {
     if (!context.apps)

@@ -13,6 +13,9 @@ namespace orlen::AskReader {
 /// Nothing if the question is about no such subject.
 [[nodiscard]] std::optional<Answer> aboutPrograms(const Question& question, const AskContext& context);
 
+/// What starts at login, if the question names one of those items.
+[[nodiscard]] std::optional<Answer> startupOf(const Question& question, const AskContext& context);
+
 /// How to uninstall what the question names.
 [[nodiscard]] std::optional<Answer> uninstalling(const Question& question, const AskContext& context);
 

@@ -223,6 +223,14 @@ std::size_t Question::count(Sense sense) const
     return static_cast<std::size_t>(std::ranges::count(phrases, sense, &Phrase::sense));
 }
 
+bool Question::hasNoKind() const
+{
+    return std::ranges::all_of(phrases, [](const Phrase& phrase) {
+        return phrase.subject == nullptr || phrase.subject->isAnyFile ||
+               phrase.subject->id == SubjectID::home;
+    });
+}
+
 Question withPhrases(const Question& question, std::vector<Phrase> phrases)
 {
     Question other = question;

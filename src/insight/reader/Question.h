@@ -24,6 +24,7 @@ struct Phrase {
     std::int64_t amount = 0;          ///< of a size, in bytes, of a number or of an ordinal
     std::optional<Period> period;     ///< for `Sense::period`
     bool isJoined = false;            ///< "and" stands before it, or another sentence ends there
+    std::vector<Phrase> excluded{};   ///< for `Sense::except`: what is left out, at least one
 };
 
 /// A question taken apart.
@@ -43,6 +44,8 @@ struct Question {
     /// Where the first phrase of this sense stands; the number of phrases if there is none.
     [[nodiscard]] std::size_t position(Sense sense) const;
     [[nodiscard]] std::size_t count(Sense sense) const;
+    /// Whether it is about nothing but files of every kind, or the home folder.
+    [[nodiscard]] bool hasNoKind() const;
 };
 
 /// The question with these phrases instead of its own.

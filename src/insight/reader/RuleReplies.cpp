@@ -54,6 +54,11 @@ std::optional<Answer> whyTrust(const Question& /*question*/, const AskContext& /
     return Answer{AskText::lines({InsightTexts::kPrivacy, InsightTexts::kNeverTouched}), {}};
 }
 
+std::optional<Answer> whatIsNotItsJob(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kNotItsJob, {}};
+}
+
 std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)
 {
     const Subject* const subject = question.subject();

@@ -21,6 +21,9 @@ namespace orlen::AskReader {
 /// What Orlen keeps to.
 [[nodiscard]] std::optional<Answer> whyTrust(const Question& question, const AskContext& context);
 
+/// What Orlen has nothing to do with.
+[[nodiscard]] std::optional<Answer> whatIsNotItsJob(const Question& question, const AskContext& context);
+
 /// What a clean-up does with what is moved.
 [[nodiscard]] std::optional<Answer> whatHappens(const Question& question, const AskContext& context);
 

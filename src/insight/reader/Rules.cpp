@@ -1,10 +1,12 @@
 #include "insight/reader/Rules.h"
 
+#include "insight/reader/ForecastReplies.h"
 #include "insight/reader/GrowthReplies.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/ProgramReplies.h"
+#include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
 #include "insight/reader/SubjectReplies.h"
@@ -30,9 +32,9 @@ constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
 constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
 constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kComparing{above, below, before, after, since, unopened};
-constexpr SenseSet kListWords{what,    howBig, howMany, howMuch, subject,  size, number, period, inside,
-                              general, disk,   unknown, quoted,  last,     can,  remove, space,  takes,
-                              folder,  safe,   keep,    advise,  makeRoom, used, happens};
+constexpr SenseSet kListWords{what,    howBig, howMany, howMuch, subject,  size, number,  period, inside,
+                              general, disk,   unknown, quoted,  last,     can,  remove,  space,  takes,
+                              folder,  safe,   keep,    advise,  makeRoom, used, happens, except};
 constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
 constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
 constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,
@@ -40,13 +42,6 @@ constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     
                                  used,    number,  biggest, untouched, keep,    safe,    advise,    full,
                                  subject, folder,  most,    period,    newest,  oldest,  smallest,  makeRoom,
                                  since,   ordinal, last,    total,     cleanUp, happens, negation};
-
-constexpr SenseSet everything()
-{
-    SenseSet all;
-    all.bits = ~all.bits;
-    return all;
-}
 
 bool isFor(const Rule& rule, SenseSet senses)
 {
@@ -79,6 +74,10 @@ const std::vector<Rule>& rules()
     static const std::vector<Rule> inOrder{
         // Orlen itself
         {{{self}}, {what, can, general}, whatOrlenAnswers},
+        {{{beyond}},
+         {what,  can,  general, disk,   why,  privacy, safe, howMuch, howBig,   general, subject,
+          takes, make, trust,   remove, what, free,    used, cleanUp, makeRoom, speed},
+         whatIsNotItsJob},
         {{{trust}}, {what, can, general, privacy, safe, subject, mean, review, remove, why}, whyTrust},
         {{{privacy}},
          {what, can, disk, subject, safe, keep, general, when, why, negation, trust, inside, remove, opened,
@@ -111,7 +110,8 @@ const std::vector<Rule>& rules()
          {space, cleanUp, remove, general, what, can},
          allCleanUps},
         {{{cleanUp, remove, makeRoom}, {last}},
-         {what, when, howMuch, howBig, howMany, free, remove, makeRoom, general, space, cleanUp, subject},
+         {what, when, howMuch, howBig, howMany, free, remove, makeRoom, general, space, cleanUp, subject,
+          happens, inside},
          lastCleanUp},
         {{{what, howMuch, howMany}, {cleanUp, remove, makeRoom}, {period}},
          {subject, cleanUp, inside, since, after, before, general, space},
@@ -122,21 +122,35 @@ const std::vector<Rule>& rules()
         // The disk
         {{{grow}},
          kSpaceWords.with({what, howMuch, howBig, last, since, after, period, inside, general, folder, most,
-                           why, biggest, number, subject}),
+                           why, biggest, number, subject, speed}),
          whatGrew},
+        {{{speed}, {full, disk, space, takes, used}},
+         kSpaceWords.with({what, howMuch, howBig, full, grow, general, inside, above}),
+         paceOfGrowth},
         {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
         {{{why}, {full, used, space, free, takes, disk}},
          kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why}),
          whyFull},
-        {{{full}, {when, period}}, kSpaceWords.with({what, can, before, general, inside, after}), fullWhen},
-        {{{when}, {space, disk}}, {full, last, takes, general, inside}, fullWhen},
+        {{{full}, {when, period}},
+         kSpaceWords.with({what, can, before, general, inside, after, lasts, howMuch, negation}),
+         fullWhen},
+        {{{lasts}, {when, period}},
+         kSpaceWords.with({what, can, before, general, inside, full, last, howMuch, negation}),
+         fullWhen},
+        {{{last}, {disk, space}, {period}}, {before, can, general, what, inside}, roomLater},
+        {{{space, disk, free, used}, {period}},
+         kSpaceWords.with({what, can, before, general, inside, howMuch, howBig, lasts, negation, full}),
+         roomLater},
+        {{{when}, {space, disk}}, {full, last, takes, general, inside, lasts}, fullWhen},
+        {{{lasts}, {space, disk}}, {free, full, last, takes, general, inside, can, what}, fullWhen},
         {{{full}, {can}}, kSpaceWords.with({before, general, when}), fullWhen},
         {{{what}, {full}}, kSpaceWords.with({general, most, what, biggest, inside}), whyFull},
         {{{makeRoom, free}, {size}},
-         kSpaceWords.with({makeRoom, what, can, remove, general, above, howMuch, advise, cleanUp}),
+         kSpaceWords.with(
+             {makeRoom, what, can, remove, general, above, howMuch, advise, cleanUp, except, subject}),
          roomFor},
         {{{remove}, {size}},
-         {what, can, space, disk, general, advise, above, howMuch, takes, makeRoom},
+         {what, can, space, disk, general, advise, above, howMuch, takes, makeRoom, except},
          roomFor},
         {{{howMuch, howBig}, {free, makeRoom, remove, can}, {subject}},
          {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what},
@@ -145,12 +159,13 @@ const std::vector<Rule>& rules()
          kSpaceWords.with({howMuch, howBig, what, general, size, inside, negation, above}),
          spaceNow},
         {{{space, disk, free}, {size}}, kSpaceWords.with({can, what, general, inside, subject}), spaceNow},
-        {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside}), spaceNow},
+        {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside, soFar}), spaceNow},
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
         {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
+        {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
         {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
         // What may go
         {{{subject}, {remove, makeRoom, cleanUp}},
@@ -159,13 +174,14 @@ const std::vector<Rule>& rules()
          cleaningDownloads},
         {{{what, howMuch, howBig, can, advise, safe, cleanUp, makeRoom, why}, kRemoving.with({free})},
          kRemoving.with({what, can, howMuch, howBig, howMany, general, space, disk, most, takes, full,
-                         ordinal, subject, free, inside, biggest, why, happens}),
+                         ordinal, subject, free, inside, biggest, why, happens, except}),
          whatMayGo},
-        {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free}, whatMayGo},
+        {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free, except}, whatMayGo},
         // Lists
         {{{folder}, {biggest, most, takes, howBig}},
-         {what, inside, disk, subject, number, space, general, can, biggest, most, takes, used},
+         {what, inside, disk, subject, number, space, general, can, biggest, most, takes, used, except},
          biggestFolders},
+        {{{except}, {biggest, most, takes}}, kListing, listOfFiles},
         {{{howBig, howMuch}, {subject}},
          {what, space, used, total, disk, general, inside, takes, folder},
          sizeOfSubject},
@@ -188,8 +204,9 @@ const std::vector<Rule>& rules()
         {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},
+        {{{except}, {subject}}, kListing, listOfFiles},
         // Names
-        {{{unknown, quoted}}, everything(), aboutAnyName},
+        {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
     };
     return inOrder;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 
@@ -23,9 +25,11 @@ enum class Sense : std::uint8_t {
     happens, ///< "what happens when …"
     advise,
     trust,
-    self, ///< Orlen, or the conversation itself
+    beyond, ///< what Orlen has nothing to do with: viruses, speed
+    self,   ///< Orlen, or the conversation itself
     free,
     makeRoom,
+    make, ///< "make", "give me": with a size and space, to make room
     used,
     takes,
     total,
@@ -47,6 +51,9 @@ enum class Sense : std::uint8_t {
     after,
     since,
     negation,
+    except,  ///< "besides", "other than": what is left out
+    lasts,   ///< "last", "suffice": of the space until some day
+    speed,   ///< "how fast"
     opened,  ///< with a negation: not opened
     handled, ///< "used" of a file or of space; with a negation: not opened
     unopened,
@@ -72,7 +79,7 @@ enum class Sense : std::uint8_t {
 
 /// A set of senses.
 struct SenseSet {
-    std::uint64_t bits = 0;
+    std::array<std::uint64_t, 2> bits{};
 
     constexpr SenseSet() = default;
     constexpr SenseSet(std::initializer_list<Sense> senses)
@@ -80,18 +87,37 @@ struct SenseSet {
         for (const Sense sense : senses)
             add(sense);
     }
-    constexpr void add(Sense sense) { bits |= std::uint64_t{1} << static_cast<unsigned>(sense); }
-    [[nodiscard]] constexpr bool has(Sense sense) const
+    constexpr void add(Sense sense) { bits[wordOf(sense)] |= bitOf(sense); }
+    [[nodiscard]] constexpr bool has(Sense sense) const { return (bits[wordOf(sense)] & bitOf(sense)) != 0; }
+    [[nodiscard]] constexpr bool meets(SenseSet other) const
     {
-        return (bits >> static_cast<unsigned>(sense) & 1U) != 0;
+        return (bits[0] & other.bits[0]) != 0 || (bits[1] & other.bits[1]) != 0;
     }
-    [[nodiscard]] constexpr bool meets(SenseSet other) const { return (bits & other.bits) != 0; }
-    [[nodiscard]] constexpr bool isWithin(SenseSet other) const { return (bits & ~other.bits) == 0; }
+    [[nodiscard]] constexpr bool isWithin(SenseSet other) const
+    {
+        return (bits[0] & ~other.bits[0]) == 0 && (bits[1] & ~other.bits[1]) == 0;
+    }
     [[nodiscard]] constexpr SenseSet with(SenseSet other) const
     {
         SenseSet both;
-        both.bits = bits | other.bits;
+        both.bits = {bits[0] | other.bits[0], bits[1] | other.bits[1]};
         return both;
+    }
+    [[nodiscard]] static constexpr SenseSet all()
+    {
+        SenseSet all;
+        all.bits = {~std::uint64_t{0}, ~std::uint64_t{0}};
+        return all;
+    }
+
+private:
+    [[nodiscard]] static constexpr std::size_t wordOf(Sense sense)
+    {
+        return static_cast<std::size_t>(sense) / 64;
+    }
+    [[nodiscard]] static constexpr std::uint64_t bitOf(Sense sense)
+    {
+        return std::uint64_t{1} << (static_cast<unsigned>(sense) % 64);
     }
 };
 

@@ -15,9 +15,6 @@ namespace orlen::AskReader {
 /// What fills the disk: categories, the largest findings, what grows.
 [[nodiscard]] std::optional<Answer> whyFull(const Question& question, const AskContext& context);
 
-/// The day when the disk will be full at the present pace, and whether that is before the date asked for.
-[[nodiscard]] std::optional<Answer> fullWhen(const Question& question, const AskContext& context);
-
 /// How full the disk is.
 [[nodiscard]] std::optional<Answer> fullNow(const Question& question, const AskContext& context);
 
@@ -26,14 +23,5 @@ namespace orlen::AskReader {
 
 /// The folders that take the most space.
 [[nodiscard]] std::optional<Answer> biggestFolders(const Question& question, const AskContext& context);
-
-/// What a clean-up could free.
-[[nodiscard]] std::optional<Answer> whatMayGo(const Question& question, const AskContext& context);
-
-/// What could go from the Downloads folder.
-[[nodiscard]] std::optional<Answer> cleaningDownloads(const Question& question, const AskContext& context);
-
-/// Findings that together free the size asked for: what is rated Safe first.
-[[nodiscard]] std::optional<Answer> roomFor(const Question& question, const AskContext& context);
 
 } // namespace orlen::AskReader

@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Proposal.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
@@ -191,9 +192,11 @@ std::optional<Answer> removingSubject(const Question& question, const AskContext
         lines.texts.push_back(
             {InsightTexts::kSystemIsProtected, {{"reason", within(reason(Protection::systemFolders))}}});
     addFindings(lines, subject, context);
-    if (lines.texts.empty() && isOnlyKinds(subject))
+    if (subject.id == SubjectID::trash)
+        lines.texts.emplace_back(InsightTexts::kTrashIsYours);
+    else if (lines.texts.empty() && isOnlyKinds(subject))
         return nothingFound(subject, context);
-    if (!lines.ids.empty())
+    else if (!lines.ids.empty())
         lines.texts.emplace_back(InsightTexts::kMovesTicked);
     return lines.answer();
 }
@@ -220,6 +223,12 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
                     {"count", amount.count},
                     {"size", Bytes{amount.bytes}},
                     {"safe", Bytes{safe}}}};
+    for (const Rating rating : {Rating::safe, Rating::review}) {
+        std::vector<Hit> hits = choosable(context, rating, {});
+        std::erase_if(
+            hits, [&](const Hit& hit) { return std::ranges::find(findings, hit.finding) == findings.end(); });
+        appendPaths(answer.proposal, hits);
+    }
     return answer;
 }
 

@@ -18,7 +18,7 @@ namespace orlen::AskReader {
 /// Whether it may be removed: its ratings, or why it is protected.
 [[nodiscard]] std::optional<Answer> removingSubject(const Question& question, const AskContext& context);
 
-/// How much removing it would free.
+/// How much removing it would free; proposes what of it is not rated Keep.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
 /// What has not been opened for long.

@@ -7,8 +7,10 @@ ColumnCard {
 
     required property string text
     required property bool usedModel
+    required property bool proposes
     required property FindingLinks links
     signal findingRequested(id: string)
+    signal reviewRequested
     signal copyRequested
 
     spacing: Theme.spaceM
@@ -39,6 +41,14 @@ ColumnCard {
                 onClicked: root.findingRequested(findingId)
             }
         }
+    }
+
+    AppButton {
+        objectName: "reviewProposal"
+        visible: root.proposes
+        width: Math.min(implicitWidth, parent.width)
+        text: Strings.selectForReview
+        onClicked: root.reviewRequested()
     }
 
     Item {

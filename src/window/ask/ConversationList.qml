@@ -33,6 +33,7 @@ ScrollList {
         required property bool fromUser
         required property string text
         required property bool usedModel
+        required property bool proposes
         required property FindingLinks links
 
         width: ListView.view ? ListView.view.width : 0
@@ -56,7 +57,9 @@ ScrollList {
             visible: !message.fromUser
             text: message.text
             usedModel: message.usedModel
+            proposes: message.proposes
             links: message.links
+            onReviewRequested: root.conversation.review(message.index)
             onFindingRequested: id => root.findingRequested(id)
             onCopyRequested: root.conversation.copy(message.index)
         }

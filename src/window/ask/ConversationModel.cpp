@@ -3,10 +3,12 @@
 #include "insight/AskEngine.h"
 #include "model/Words.h"
 #include "window/lists/DisplayText.h"
+#include "window/shell/WindowState.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace orlen {
@@ -28,6 +30,10 @@ std::string understood(const QString& question)
 ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this)
 {
     app.programs()->load();
+    connect(app.results(), &Results::findingsChanged, this, [this] {
+        if (!m_rows.empty())
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1), {static_cast<int>(Role::proposes)});
+    });
 }
 
 QString ConversationModel::introduction()
@@ -73,6 +79,19 @@ QString ConversationModel::recall(Recall step)
     return m_recalled < m_asked.size() ? m_asked[m_recalled] : QString();
 }
 
+bool ConversationModel::proposes(const ChatMessage& message) const
+{
+    const PathTree& listed = m_app.results()->listed();
+    return std::ranges::any_of(message.proposal,
+                               [&](const std::string& path) { return listed.find(path) != PathTree::kNone; });
+}
+
+void ConversationModel::review(int row)
+{
+    if (hasRow(row) && m_app.results()->selectOnly(m_rows[static_cast<std::size_t>(row)].message.proposal))
+        WindowState::of(m_app).setSheet(PlanSheet{m_app.results()->scanPlan()});
+}
+
 void ConversationModel::copy(int row) const
 {
     if (hasRow(row))
@@ -105,6 +124,8 @@ QVariant ConversationModel::value(std::size_t number, int role) const
         return DisplayText::text(shown(message.text));
     case Role::usedModel:
         return message.usedModel;
+    case Role::proposes:
+        return proposes(message);
     case Role::links:
         return QVariant::fromValue(links);
     }

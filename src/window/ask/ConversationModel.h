@@ -31,7 +31,8 @@ public:
         fromUser = Qt::UserRole, ///< true: a question; false: an answer
         text,                    ///< may have several lines
         usedModel,               ///< whether a language model wrote the answer
-        links,                   ///< an answer's FindingLinks; null for a question
+        proposes, ///< whether an answer proposes items for a clean-up that are still in the results
+        links,    ///< an answer's FindingLinks; null for a question
     };
     Q_ENUM(Role)
     enum Recall { Earlier, Later };
@@ -48,6 +49,8 @@ public:
     Q_INVOKABLE bool ask(const QString& question);
     /// The previous or next question relative to the last one recalled; empty after the latest.
     Q_INVOKABLE QString recall(Recall step);
+    /// Selects what this answer proposes, and nothing else, and opens the review of it.
+    Q_INVOKABLE void review(int row);
     /// Copies a message to the clipboard.
     Q_INVOKABLE void copy(int row) const;
 
@@ -63,6 +66,7 @@ private:
         FindingLinks* links = nullptr; ///< a child of the model; null for a question
     };
 
+    [[nodiscard]] bool proposes(const ChatMessage& message) const;
     void append(ChatMessage message);
     void setThinking(bool isThinking);
 

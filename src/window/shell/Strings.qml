@@ -241,6 +241,8 @@ QtObject {
     readonly property string tryOneOfThese: Words.message("Try one of these")
     readonly property string modelFooter: Words.message("Foundation Models · on device")
     readonly property string matcherFooter: Words.message("Built-in matcher · on device")
+    // TRANSLATORS: a button below an answer that names files; it opens the list of them.
+    readonly property string selectForReview: Words.message("Select these for review")
     readonly property string conversation: Words.message("Conversation")
     readonly property string send: Words.message("Send")
     readonly property string thinking: Words.message("Thinking…")

@@ -49,4 +49,16 @@ Journey {
         keyClick(Qt.Key_Return);
         test.hasRows("conversation", 6);
     }
+
+    function test_5_whatAnAnswerProposesIsReviewed() {
+        test.clickOn("askField");
+        test.type("what can i delete besides logs");
+        keyClick(Qt.Key_Return);
+        test.hasRows("conversation", 8);
+        test.clickOn("reviewProposal", test.row("conversation", 7));
+        test.row("planEntries", 1);
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !test.isShown("planEntries"));
+        compare(test.window.navigation.screen, Screens.Ask);
+    }
 }

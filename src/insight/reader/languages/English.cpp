@@ -17,8 +17,12 @@ constexpr WordRow kWords[] = {
                     "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
                     "removing,what to do,what do i do,what do i do now,what should i do,what can i do,what "
                     "can i do about it,what to do now,what shall i do,do about it,tips,get it smaller"},
-    {Sense::trust,
-     "trust,trustworthy,is orlen safe,reliable,malware,virus,is this safe to use,is orlen legit"},
+    {Sense::trust, "trust,trustworthy,is orlen safe,reliable,is this safe to use,is orlen legit"},
+    {Sense::beyond,
+     "virus,viruses,malware,spyware,trojan,faster,speed up,speeding "
+     "up,slow,slower,performance,overclock,defragment,defrag,ram,cpu,processor,temperature,battery,password "
+     "manager,firewall,antivirus,update my system,drivers,driver,registry,screen resolution,internet "
+     "speed,graphics card,gpu,overheating"},
     {Sense::happens,
      "what happens,what will happen,what would happen,happen,happens,where do they go,where does it go,where "
      "do deleted files go,permanently,forever,for good,gone for good,for "
@@ -26,8 +30,8 @@ constexpr WordRow kWords[] = {
      "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
      "asking,automatically,without my permission,regret,lost,be lost,lose,losing"},
     {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
-    {Sense::also, "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and "
-                  "also"},
+    {Sense::also,
+     "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and also"},
     {Sense::backward,
      "it,them,they,that one,this one,those,these,ones,one,the one,it's,its,that's,they're,this,that,the "
      "ones,of them,of those,theirs,these ones,those ones,him"},
@@ -42,8 +46,7 @@ constexpr WordRow kWords[] = {
      "know,i wonder,curious,just curious,hmm,um,uh,oh,dear,kindly,gonna,wanna,want to,would like,i'd like "
      "to,like to,feel,think,guess,suppose,maybe,perhaps,basically,anyway,btw,lol,lot,lots,bunch,a lot "
      "of,tons,tons of,own,on here,in here,around,anywhere,somewhere,on it,which "
-     "of,out,up,down,off,each,every,per,being,makes,make,made,come,comes,bit,little,kinda,sorta,ya,u,ur,need "
-     "to,have "
+     "of,out,up,down,off,each,every,per,being,made,come,comes,bit,little,kinda,sorta,ya,u,ur,need to,have "
      "to,got,gotten,having,you've,you're,he,she,his,her,try,trying,both,whole,entire,entirely,specific,"
      "particular,certain,different,various,single,full list,list "
      "of,details,detail,information,info,question,answer,that are,that i,that is,which are,that have,that "
@@ -62,26 +65,31 @@ constexpr WordRow kWords[] = {
      "wise,whichever,these days,real,stuff like,sized,weird,strange,suddenly,oh no,ugh,damn,anywhere "
      "else,dunno,idk,im not sure,not sure,unsure,curious about,regarding,concerning,related,related to,size "
      "wise,by any chance,for me,to me,kids,grandchildren,way,ways,christmas eve,itself,done,doing,needs "
-     "to,as well as that,person,ordinary,first of all,away,date,dated"},
+     "to,as well as that,person,ordinary,first of all,away,date,dated,all of a sudden,percent,per "
+     "cent,percentage,%,asap,as soon as possible,urgently,in one go,in percent,faster way"},
     {Sense::negation, "not,don't,dont,doesn't,doesnt,didn't,isn't,aren't,can't,cant,cannot,shouldn't,mustn't,"
-                      "never,won't,haven't,"
-                      "havent,hasn't,wasn't,weren't,no longer,without,couldn't,wouldn't,ain't"},
-    {Sense::what,
-     "what,what's,whats,what is,what are,which,where,where is,where are,where's,explain,describe,tell me "
-     "about,"
-     "who,what kind of,what sort of,what type of,what else,are there,is there,do i have,have i got,any,got "
-     "any,"
-     "do you see,did you find,show me,list all,show all,wheres,wich,wat,how come there are,have you found"},
+                      "never,won't,haven't,havent,hasn't,wasn't,weren't,no longer,couldn't,wouldn't,ain't"},
+    {Sense::except,
+     "except,except for,besides,beside,other than,apart from,aside from,excluding,exclude,but not,not "
+     "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
+     "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
+     "in,that aren't,that are not,which aren't,which are not,that isn't,not from"},
+    {Sense::lasts, "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to "
+                   "last,be enough,still fit,run dry"},
+    {Sense::speed, "how fast,how quickly,how rapidly,growth rate,pace,at what rate,what rate,speed,per "
+                   "day,per week,per month,each day,each week,each month,a day,a "
+                   "week,daily,weekly,monthly,every day,every week,every month"},
+    {Sense::what, "what,what's,whats,what is,what are,which,where,where is,where "
+                  "are,where's,explain,describe,tell me about,who,what kind of,what sort of,what type "
+                  "of,what else,are there,is there,do i have,have i got,any,got any,do you see,did you "
+                  "find,show me,list all,show all,wheres,wich,wat,how come there are,have you found"},
     {Sense::howBig,
      "how big,how large,how heavy,how huge,size of,the size,how much space do,how much space does,how much "
-     "room "
-     "do,how much room does,how much storage do,how much storage does,how much do,how much does,how many "
-     "gb,how "
-     "many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much space is "
-     "taken "
-     "by,how much space is used by,how much space are,big is,file size,total size of,how much disk space "
-     "do,how "
-     "much disk space does,hw big,sizes,how much memory does,how much memory do,how much gb,how bigg"},
+     "room do,how much room does,how much storage do,how much storage does,how much do,how much does,how "
+     "many gb,how many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much "
+     "space is taken by,how much space is used by,how much space are,big is,file size,total size of,how much "
+     "disk space do,how much disk space does,hw big,sizes,how much memory does,how much memory do,how much "
+     "gb,how bigg"},
     {Sense::howMany, "how many,count,number of,how often,amount of,how many times,how mny,howmany"},
     {Sense::can, "can,could,may,should,shall,must,need,is it safe to,is it ok to,is it okay to,safe to,ok "
                  "to,okay to,allowed to,possible to,able to,is it fine to,fine to,is it alright to,alright "
@@ -95,27 +103,27 @@ constexpr WordRow kWords[] = {
      "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
      "things,trim,shrink,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
      "full,emptier,lighten"},
+    {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
      "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never "
-     "delete,never "
-     "deletes,never moves,not move,off limits,off-limits,leave alone,left alone,protected,protect,never "
-     "remove,"
-     "never removes,does not touch,doesn't touch,won't move,won't delete,untouched,protects,never be deleted,"
-     "never be touched,never get deleted,doesn't move,doesn't delete,leaves alone,never ever delete,stay "
-     "away "
-     "from,hands off"},
+     "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
+     "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
+     "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
+     "delete,leaves alone,never ever delete,stay away from,hands off"},
     {Sense::cleanUp, "clean-up,clean-ups,cleanup,cleanups,cleaning,cleanings,clean up,cleaned "
-                     "up,cleaned,clean,cleans,tidied"},
-    {Sense::uninstall,
-     "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove the "
-     "program,delete the program"},
+                     "up,cleaned,clean,cleans,tidied,did orlen free,has orlen freed,did you free,have you "
+                     "freed,did i free,have i freed,did we free,did orlen clean,did orlen remove,did orlen "
+                     "move,have you cleaned,did you clean"},
+    {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
+                       "the program,delete the program"},
     {Sense::remove,
      "delete,deleted,deleting,deletes,remove,removed,removing,removes,erase,erased,throw away,throw out,get "
      "rid,get rid of,getting rid of,discard,drop,move,moved,wipe,dump,clear,cleared,ditch,bin it,trash "
      "it,move to the trash,purge,kill,empty,emptied,part with,live without,do without,chuck,toss,toss "
      "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
      "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
-     "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw"},
+     "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw,should "
+     "go,could go,has to go,must go,would go"},
     {Sense::undo, "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
                   "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them "
                   "back,bring it back,bring them back,put it back,put them back,changed my mind,by "
@@ -129,9 +137,9 @@ constexpr WordRow kWords[] = {
     {Sense::mean, "mean,means,meaning,stand for,stands for,difference between,the "
                   "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,"
                   "categorise,definition,rules,rule,criteria,decide,judge,classified,classify,label"},
-    {Sense::soFar,
-     "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already freed,history,"
-     "in the past,over the years,ever cleaned,since the beginning,since i started,all together"},
+    {Sense::soFar, "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
+                   "freed,history,in the past,over the years,ever cleaned,since the beginning,since i "
+                   "started,all together"},
     {Sense::used, "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk "
                   "usage,space usage,storage usage"},
     {Sense::handled, "used,accessed"},
@@ -145,63 +153,56 @@ constexpr WordRow kWords[] = {
      "much,so much space gone,space gone,all my space,all the space,space go,space went,storage full,not "
      "enough space,lost space,losing space,no storage left,eaten up,where did my space,filling so fast,hit "
      "the limit,low on disk,all my space gone,all my space go,my space gone,space disappear,space "
-     "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk space"},
-    {Sense::free,
-     "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty space,"
-     "remains,vacant"},
+     "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk "
+     "space,so little room,little room left,little space left,so little room left,so little space "
+     "left,hardly any space,hardly any room,barely any space,barely any room,almost no space,almost no "
+     "room,nearly no space,not much space,not much room"},
+    {Sense::free, "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty "
+                  "space,remains,vacant"},
     {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total "
                    "space,status,overview,summary"},
     {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
-                  "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,"
-                  "mac,disc,my disk,harddrive,harddisk,notebook,nvme"},
+                  "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,mac,disc,my "
+                  "disk,harddrive,harddisk,notebook,nvme"},
     {Sense::space,
      "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space"},
     {Sense::howMuch, "how much,how mutch,how mcuh,howmuch"},
     {Sense::why, "why,how come,what's the reason,what made,reason,what makes,why's,for what reason,why "
-                 "so,why is that,why "
-                 "that,reasons"},
-    {Sense::when,
-     "when,how soon,how long,what date,which date,what day,which day,how many days,how many weeks,how many "
-     "months,by when,until when,what month,which month,when's,how long until,how long till,how long before,"
-     "when will,how many years,soon"},
-    {Sense::most, "most,the most,most space,most of,most room,most storage,most disk space,biggest chunk"},
+                 "so,why is that,why that,reasons"},
+    {Sense::when, "when,how soon,how long,what date,which date,what day,which day,how many days,how many "
+                  "weeks,how many months,by when,until when,what month,which month,when's,how long until,how "
+                  "long till,how long before,when will,how many years,soon"},
+    {Sense::most, "most,the most,most space,most of,most room,most storage,most disk space,biggest "
+                  "chunk,fastest,quickest,most quickly,most rapidly,the fastest,the quickest"},
     {Sense::takes,
-     "takes,taking,take,takes up,taking up,take up,hogging,hog,hogs,eating,eats,eat,eating up,using,uses,use,"
-     "using up,uses up,use "
-     "up,wasting,wastes,occupy,occupies,occupying,consume,consumes,consuming,waste,space "
-     "hogs,space hog,need,needs,clogging,clogs,clog,clogging up,wasted,space eaters,heavy,gobbling "
-     "up,gobbling"},
+     "takes,taking,take,takes up,taking up,take up,hogging,hog,hogs,eating,eats,eat,eating "
+     "up,using,uses,use,using up,uses up,use "
+     "up,wasting,wastes,occupy,occupies,occupying,consume,consumes,consuming,waste,space hogs,space "
+     "hog,need,needs,clogging,clogs,clog,clogging up,wasted,space eaters,heavy,gobbling up,gobbling"},
     {Sense::biggest,
-     "biggest,largest,heaviest,top,bulkiest,greatest,largest sized,fattest,longest,large,big,huge,giant,"
-     "enormous,massive,gigantic,bigest,sorted by size,by size"},
+     "biggest,largest,heaviest,top,bulkiest,greatest,largest "
+     "sized,fattest,longest,large,big,huge,giant,enormous,massive,gigantic,bigest,sorted by size,by size"},
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated"},
     {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
                     "added,added,arrived,last added"},
     {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
-                  "bigger,increase,"
-                  "gained,changed in size,swelled,swollen,ballooned"},
-    {Sense::above,
-     "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller than,heavier "
-     "than,"
-     "or more,or larger,or bigger,and up,and above,and bigger,and larger,bigger then,larger then,more then,"
-     "minimum,upwards of,>"},
-    {Sense::below,
-     "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more than,"
-     "no larger than,no bigger than,smaller then,less then,maximum,<"},
+                  "bigger,increase,gained,changed in size,swelled,swollen,ballooned"},
+    {Sense::above, "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller "
+                   "than,heavier than,or more,or larger,or bigger,and up,and above,and bigger,and "
+                   "larger,bigger then,larger then,more then,minimum,upwards of,>"},
+    {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more "
+                   "than,no larger than,no bigger than,smaller then,less then,maximum,<"},
     {Sense::inside, "in,inside,within,from,in the folder,in my,under the folder"},
     {Sense::unopened,
      "not opened,haven't opened,not used,haven't used,unopened,never opened,not touched,haven't "
-     "touched,unused,"
-     "not been opened,haven't been opened,i haven't opened,didn't open,have not opened,not accessed,havent "
-     "opened,haven't i opened,not looked at,have not used,have i not opened,haven't i used,forgotten,not "
-     "been "
-     "used,hardly ever opened,no longer use,never open,never use,don't use,dont use,rarely use,rarely used,"
-     "don't open,haven't been used,haven't been touched,no longer used,haven't looked at,haven't watched,"
-     "untouched since,forgot about,i forgot,not watched,not in use"},
-    {Sense::before,
-     "before,older than,earlier than,prior to,more than ago,older then,till,until,by the end of"},
+     "touched,unused,not been opened,haven't been opened,i haven't opened,didn't open,have not opened,not "
+     "accessed,havent opened,haven't i opened,not looked at,have not used,have i not opened,haven't i "
+     "used,forgotten,not been used,hardly ever opened,no longer use,never open,never use,don't use,dont "
+     "use,rarely use,rarely used,don't open,haven't been used,haven't been touched,no longer used,haven't "
+     "looked at,haven't watched,untouched since,forgot about,i forgot,not watched,not in use"},
+    {Sense::before, "before,older than,earlier than,prior to,more than ago,older then,till,until"},
     {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
@@ -214,14 +215,14 @@ constexpr WordRow kWords[] = {
                      "them,snoop,third-party,safe from hackers,data leaves,leave my computer,leaves my "
                      "computer,who can read,who has access,who sees,who reads,access to my"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
-    {Sense::general, "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
-                     "backups,ios,language,languages,translation,mail,attachment,important,same "
-                     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,faster,slow,cost,"
-                     "costs,category,categories,else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,"
-                     "actually do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
-                     "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,"
-                     "location,live,lives,leftovers,remains,leftover files,last "
-                     "long,lasts,lasting,suffice,mess,messy,chaos,cluttered,disorder,clutterd"},
+    {Sense::general,
+     "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
+     "languages,translation,mail,attachment,important,same "
+     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,cost,costs,category,categories,"
+     "else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,actually "
+     "do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
+     "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
+     "leftovers,remains,leftover files,mess,messy,chaos,cluttered,disorder,clutterd,installed"},
 };
 
 constexpr SubjectRow kSubjects[] = {
@@ -387,6 +388,24 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::ago, "ago,back,old"},
     {Figure::previous, "last,past,previous"},
     {Figure::current, "this"},
+    {Figure::following, "next,coming,upcoming,following"},
+    {Figure::ahead, "in,within,for another,in about,for"},
+    {Figure::daysAhead, "tomorrow", 1},
+    {Figure::namedDay, "new year,new year's,new years,new year's day", valueOf(NamedDay::newYear)},
+    {Figure::namedDay, "valentine's day,valentines day,valentine's", valueOf(NamedDay::valentine)},
+    {Figure::namedDay, "easter,easter sunday", valueOf(NamedDay::easter)},
+    {Figure::namedDay, "pentecost,whitsun", valueOf(NamedDay::pentecost)},
+    {Figure::namedDay, "halloween", valueOf(NamedDay::halloween)},
+    {Figure::namedDay, "christmas eve", valueOf(NamedDay::christmasEve)},
+    {Figure::namedDay, "christmas,xmas,christmas day,x-mas,the holidays", valueOf(NamedDay::christmas)},
+    {Figure::namedDay, "new year's eve,new years eve,nye", valueOf(NamedDay::newYearsEve)},
+    {Figure::namedDay, "spring,springtime", valueOf(NamedDay::spring)},
+    {Figure::namedDay, "summer,summertime", valueOf(NamedDay::summer)},
+    {Figure::namedDay, "autumn", valueOf(NamedDay::autumn)},
+    {Figure::namedDay, "winter,wintertime", valueOf(NamedDay::winter)},
+    {Figure::endOf, "end of,the end of,end", -1},
+    {Figure::endOf, "month end,month-end,month's end", 2},
+    {Figure::endOf, "year end,year-end,year's end", 3},
     {Figure::ofDate, "of,the"},
 };
 

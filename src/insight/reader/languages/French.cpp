@@ -16,18 +16,21 @@ constexpr WordRow kWords[] = {
      "suggestion,suggestions,suggérer,commencer,que faire,le mieux,en priorité,vaut la "
      "peine,proposes,conseillez,recommandez,quoi faire,que dois je faire,je fais quoi,je dois faire quoi,que "
      "puis je faire,que faire maintenant,astuces,je devrais faire"},
-    {Sense::trust, "confiance,fiable,virus,malveillant,orlen est il sûr,sérieux"},
+    {Sense::trust, "confiance,fiable,orlen est il sûr,sérieux"},
+    {Sense::beyond, "virus,malveillant,logiciel malveillant,plus "
+                    "rapide,accélérer,accélère,lent,lente,lenteur,ralentit,rame,performance,performances,"
+                    "défragmenter,mémoire vive,ram,processeur,cpu,batterie,pilotes,pilote,pare "
+                    "feu,antivirus,température,carte graphique"},
     {Sense::happens, "se passe,passe t il,arrive t il,que se passe t il,définitivement,pour "
                      "toujours,définitif,irréversible,arrive,se passera,se passerait,où vont,pour de "
                      "bon,passe,casser,abîmer,casse,bugger,nuire,planter,tout seul,toute "
                      "seule,automatiquement,sans demander,sans me demander,sans prévenir"},
     {Sense::only, "seulement,uniquement,juste,que dans,rien que,exclusivement"},
-    {Sense::also,
-     "et,aussi,ainsi que,qu en est il de,qu en est il des,et pour,et les,et le,et la,&,et qu en est il "
-     "de,qu en est il du,et concernant,et au fait,de même"},
-    {Sense::backward, "il,elle,ils,elles,celui ci,celle ci,ceux ci,celles ci,celui là,celle là,ceux "
-                      "là,celles là,ceux,celui,celle,"
-                      "celles,ça,cela,le supprimer,les supprimer,la supprimer,en,ceci,lui"},
+    {Sense::also, "et,aussi,ainsi que,qu en est il de,qu en est il des,et pour,et les,et le,et la,&,et qu en "
+                  "est il de,qu en est il du,et concernant,et au fait,de même"},
+    {Sense::backward,
+     "il,elle,ils,elles,celui ci,celle ci,ceux ci,celles ci,celui là,celle là,ceux là,celles "
+     "là,ceux,celui,celle,celles,ça,cela,le supprimer,les supprimer,la supprimer,en,ceci,lui"},
     {Sense::filler,
      "le,la,les,l,un,une,du,de,d,à,a,au,aux,mon,ma,mes,notre,nos,ton,ta,tes,votre,vos,son,sa,ses,leur,leurs,"
      "je,j,me,m,moi,nous,on,tu,te,t,toi,vous,se,s,est,sont,était,étaient,suis,es,sera,serait,seront,être,été,"
@@ -39,11 +42,10 @@ constexpr WordRow kWords[] = {
      "chercher,savoir,veux,voudrais,aimerais,souhaite,peux tu me dire,peux tu me montrer,peux tu,pourrais "
      "tu,pouvez "
      "vous,tout,toute,toutes,tous,très,bien,encore,déjà,toujours,même,nommé,appelé,appelée,orlen,quand "
-     "même,genre,sorte,sortes,types,type,ok,euh,hein,fait,faire,fais,faut,va,vas,vais,aller,mettre,mis,"
-     "beaucoup,peu,quelques,certains,certaines,autour,traîne,traînent,trouvent,stocké,stockés,stockées,"
-     "entier,entière,propre,propres,comment,qui,qu,dont,n,environ "
-     "combien,vite,facilement,rapidement,simplement,juste savoir,dis moi,montre moi,donne moi,trouve "
-     "moi,fais moi,liste "
+     "même,genre,sorte,sortes,types,type,ok,euh,hein,faut,va,vas,vais,aller,mettre,mis,beaucoup,peu,quelques,"
+     "certains,certaines,autour,traîne,traînent,trouvent,stocké,stockés,stockées,entier,entière,propre,"
+     "propres,comment,qui,qu,dont,n,environ combien,vite,facilement,rapidement,simplement,juste savoir,dis "
+     "moi,montre moi,liste "
      "moi,explique,expliquer,besoin,puisse,soit,ensemble,personnel,personnels,différents,récupéré "
      "là,chaque,détails,information,infos,pas "
      "mal,or,car,mais,non,oui,chez,vers,ayant,soient,présent,présents,présentes,contient,contiennent,"
@@ -53,35 +55,35 @@ constexpr WordRow kWords[] = {
      "être,afin,pendant,parce,comme,autant,vu que,dedans,gens,dit,crois,pense,elles,ils sont,ça fait,jamais "
      "vu,mettent,ranger,lieu,madame,monsieur,mon fils,puisque,plutôt,sous,encore une "
      "fois,ayez,aie,aies,simple,rapide,quoi que,presque tout,serait "
-     "il,actuel,présente,entre,parmi,contre,via,hors,durant,selon,soudain,bizarre,enfants,aucune idée,à "
+     "il,actuel,présente,entre,parmi,contre,via,durant,selon,soudain,bizarre,enfants,aucune idée,à "
      "propos,concernant,en fait,quasi,date,datent,datant,datés"},
-    {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,sans,n ai pas,n est pas,ne pas"},
+    {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,n ai pas,n est pas,ne pas"},
+    {Sense::except,
+     "sauf,à part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors "
+     "des,en dehors du,mis à part,hors,autre que,autres que,autre chose que,sans,sans compter,mais pas,et "
+     "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,pas dans,en excluant"},
+    {Sense::lasts, "tiendra,tient,tenir,suffit,suffira,suffire,suffisant,dure,durera,durer,va tenir,assez de "
+                   "place,assez d espace"},
+    {Sense::speed, "à quelle vitesse,vitesse,à quel rythme,rythme,par jour,par semaine,par mois,chaque "
+                   "jour,chaque semaine,chaque mois"},
     {Sense::what,
-     "quoi,que,qu est ce que,qu est ce que c est que,qu est ce qui,quel,quelle,quels,quelles,lequel,laquelle,"
-     "lesquels,lesquelles,où,où est,où sont,c est quoi,qu y a t il,est ce qu il y a,y a t il,il y a des,ai "
-     "je,"
-     "est ce que j ai,quels sont,quelles sont,quel est,quelle est,montre moi les,montre les,as tu trouvé,qu "
-     "est "
-     "ce,de quoi,à quoi,quoi dans,kel,kels"},
+     "quoi,que,qu est ce que,qu est ce que c est que,qu est ce "
+     "qui,quel,quelle,quels,quelles,lequel,laquelle,lesquels,lesquelles,où,où est,où sont,c est quoi,qu y a "
+     "t il,est ce qu il y a,y a t il,il y a des,ai je,est ce que j ai,quels sont,quelles sont,quel "
+     "est,quelle est,montre moi les,montre les,as tu trouvé,qu est ce,de quoi,à quoi,quoi dans,kel,kels"},
     {Sense::howBig,
      "quelle taille,quelle est la taille,taille,taille de,la taille,combien pèse,combien pèsent,combien de "
-     "place "
-     "prend,combien de place prennent,combien d espace prend,combien d espace prennent,combien de place "
-     "occupe,"
-     "combien de place occupent,combien d espace occupe,combien d espace occupent,combien prend,combien "
-     "prennent,"
-     "pèse,pèsent,poids,combien de go,combien occupe,combien occupent,tailles,volume de,place prend,place "
-     "prennent,"
-     "combien de place prend il,combien de giga,poids de,combien de place font,combien de gigas,quelle place "
-     "prennent,quelle place prend,quelle place occupe,quelle place occupent,quel espace occupent,quel espace "
-     "occupe,combien fait,combien font"},
-    {Sense::howMany,
-     "nombre de,combien de fois,combien de fichiers,nombre,combien y a t il,combien ai je,combien j "
-     "ai,j ai combien,quel nombre,combien en"},
+     "place prend,combien de place prennent,combien d espace prend,combien d espace prennent,combien de "
+     "place occupe,combien de place occupent,combien d espace occupe,combien d espace occupent,combien "
+     "prend,combien prennent,pèse,pèsent,poids,combien de go,combien occupe,combien occupent,tailles,volume "
+     "de,place prend,place prennent,combien de place prend il,combien de giga,poids de,combien de place "
+     "font,combien de gigas,quelle place prennent,quelle place prend,quelle place occupe,quelle place "
+     "occupent,quel espace occupent,quel espace occupe,combien fait,combien font"},
+    {Sense::howMany, "nombre de,combien de fois,combien de fichiers,nombre,combien y a t il,combien ai "
+                     "je,combien j ai,j ai combien,quel nombre,combien en"},
     {Sense::can, "puis je,peux,peut,peut on,pourrais,pouvons,dois,doit,devrais,doit on,faut il,est il "
-                 "possible de,est ce que "
-                 "je peux,je peux,ai je le droit,peuvent,pourrait,on peut,puis,devrait,sans risque "
-                 "de,pouvoir,dois je,il faut"},
+                 "possible de,est ce que je peux,je peux,ai je le droit,peuvent,pourrait,on "
+                 "peut,puis,devrait,sans risque de,pouvoir,dois je,il faut"},
     {Sense::makeRoom,
      "libérer,libère,libéré,libérés,gagner,gagne,faire de la place,faire place,faire du vide,récupérer de la "
      "place,récupérer de l "
@@ -89,16 +91,14 @@ constexpr WordRow kWords[] = {
      "faire un peu de place,libérerai,gagnerai,avoir plus de place,manque de place pour,rendre de la "
      "place,besoin de place,besoin d espace,libérerons,récupérerais,de la place,j ai besoin de,il me faut,me "
      "faut,j ai besoin d,alléger,moins plein,soulager"},
-    {Sense::untouched, "jamais touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche "
-                       "jamais,touches jamais,"
-                       "supprime jamais,supprimes jamais,ne touche pas,protège,intact,laisse "
-                       "tranquille,efface jamais,jamais toucher,"
-                       "jamais supprimé,jamais supprimés,jamais supprimer,jamais effacés,jamais "
-                       "effacé,déplace jamais,jamais touchés,"
-                       "jamais déplacés,touchera jamais,supprimera jamais,touche pas"},
-    {Sense::cleanUp,
-     "nettoyage,nettoyages,nettoyer,nettoie,nettoyé,ménage,nettoyés,faire le ménage,faire du ménage,"
-     "nettoyée,fait le ménage,tri,faire le tri,du tri"},
+    {Sense::make, "fais moi,trouve moi,donne moi,fais,faire,fait"},
+    {Sense::untouched,
+     "jamais touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche jamais,touches "
+     "jamais,supprime jamais,supprimes jamais,ne touche pas,protège,intact,laisse tranquille,efface "
+     "jamais,jamais toucher,jamais supprimé,jamais supprimés,jamais supprimer,jamais effacés,jamais "
+     "effacé,déplace jamais,jamais touchés,jamais déplacés,touchera jamais,supprimera jamais,touche pas"},
+    {Sense::cleanUp, "nettoyage,nettoyages,nettoyer,nettoie,nettoyé,ménage,nettoyés,faire le ménage,faire du "
+                     "ménage,nettoyée,fait le ménage,tri,faire le tri,du tri"},
     {Sense::uninstall, "désinstaller,désinstalle,désinstallation,désinstallé"},
     {Sense::remove,
      "supprimer,supprime,supprimé,supprimés,supprimée,supprimées,effacer,efface,effacé,effacés,enlever,"
@@ -109,23 +109,22 @@ constexpr WordRow kWords[] = {
      "ai pas besoin,n ai plus besoin,me servent pas,sert à rien,servent à rien,dont je n ai pas besoin,dont "
      "je n ai plus besoin"},
     {Sense::undo,
-     "annuler,annule,restaurer,restaure,récupérer,récupère,rétablir,revenir en arrière,remettre,restauré,"
-     "restauration,retour en arrière,ravoir,retrouver,par erreur,récupérés,remets,remis,en arrière,par "
-     "accident,"
-     "faire marche arrière,restaurés,annulation"},
+     "annuler,annule,restaurer,restaure,récupérer,récupère,rétablir,revenir en "
+     "arrière,remettre,restauré,restauration,retour en arrière,ravoir,retrouver,par "
+     "erreur,récupérés,remets,remis,en arrière,par accident,faire marche arrière,restaurés,annulation"},
     {Sense::safe,
      "sûr,sans risque,sans danger,risqué,dangereux,dangereuse,danger,sûre,sûrs,sans problème,sans crainte,en "
      "toute sécurité,risque,safe,grave,tranquillement,risques,problème,sans "
-     "souci,inoffensif,inoffensifs,sûres"},
+     "souci,inoffensif,inoffensifs,sûres,est sûr,c est sûr,qui est sûr,sont sûrs,vraiment sûr,est il sûr,sûr "
+     "à"},
     {Sense::review, "review,à vérifier,vérifier,à examiner,à revoir,examiner"},
     {Sense::keep,
      "garder,conserver,garde,à garder,keep,à conserver,gardé,conservé,important,importants,gardez"},
     {Sense::mean, "veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence "
                   "entre,note,notes,évaluation,évaluations,évalué,couleurs,vouloir "
                   "dire,classé,classés,règles,règle,critères,classement"},
-    {Sense::soFar,
-     "jusqu ici,jusqu à présent,jusqu à maintenant,en tout déjà,historique,au total déjà,depuis le "
-     "début,en tout et pour tout,par le passé,jusque là"},
+    {Sense::soFar, "jusqu ici,jusqu à présent,jusqu à maintenant,en tout déjà,historique,au total "
+                   "déjà,depuis le début,en tout et pour tout,par le passé,jusque là"},
     {Sense::used, "pris,plein à,rempli à,utilisation du disque,espace occupé,place occupée,espace utilisé"},
     {Sense::handled, "utilisé,utilisés,utilise,utilisée,utilisées,utilises,sers,sert,servi"},
     {Sense::opened,
@@ -137,43 +136,34 @@ constexpr WordRow kWords[] = {
      "assez de place,plus assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas "
      "assez de place,sature,plus aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer "
      "de place,aussi plein,où est passé,où est passée,est passé tout mon espace,où est partie,où est parti"},
-    {Sense::free,
-     "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il reste,restent,"
-     "me reste,de libre,dispo,vacant"},
+    {Sense::free, "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il "
+                  "reste,restent,me reste,de libre,dispo,vacant,restera,il restera,resterait,restera t il"},
     {Sense::total,
      "total,totale,capacité,au total,en tout,globale,taille totale,au totale,aperçu,résumé,bilan,état"},
     {Sense::disk,
-     "disque,disque dur,ssd,hdd,ordinateur,ordi,pc,machine,portable,partition,stockage,disques,le disk,"
-     "disque système,mon mac,bécane"},
+     "disque,disque dur,ssd,hdd,ordinateur,ordi,pc,machine,portable,partition,stockage,disques,le "
+     "disk,disque système,mon mac,bécane"},
     {Sense::space, "place,espace,espace disque,espace de stockage,mémoire,place disque"},
     {Sense::howMuch, "combien,combien de,combien d,conbien,cb de,cb,combien reste,quelle quantité,quelle "
                      "quantité de,combiens"},
-    {Sense::why,
-     "pourquoi,pour quelle raison,pour quelles raisons,comment se fait il,comment ça se fait,raison,pk,"
-     "pourkoi,d où vient,à cause de quoi"},
-    {Sense::when,
-     "quand,à quelle date,dans combien de temps,dans combien de jours,combien de temps,d ici combien,quel "
-     "jour,bientôt,à quel moment,quelle date,d ici quand,combien de jours,combien de mois,à partir de "
-     "quand,jusqu à quand"},
+    {Sense::why, "pourquoi,pour quelle raison,pour quelles raisons,comment se fait il,comment ça se "
+                 "fait,raison,pk,pourkoi,d où vient,à cause de quoi"},
+    {Sense::when, "quand,à quelle date,dans combien de temps,dans combien de jours,combien de temps,d ici "
+                  "combien,quel jour,bientôt,à quel moment,quelle date,d ici quand,combien de jours,combien "
+                  "de mois,à partir de quand,jusqu à quand"},
     {Sense::most, "le plus,la plus,les plus,le plus de place,le plus d espace,la plupart,le plus gros de,l "
-                  "essentiel,principalement"},
-    {Sense::takes,
-     "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,utilisent,gaspille,"
-     "monopolise,encombre,encombrent,squatte,squattent,prendre,prends,dévore,dévorent,remplissent,pompe,"
-     "pompent,"
-     "consommateurs,gourmands,gourmand"},
+                  "essentiel,principalement,le plus vite,plus vite,le plus rapidement,plus rapidement"},
+    {Sense::takes, "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,"
+                   "utilisent,gaspille,monopolise,encombre,encombrent,squatte,squattent,prendre,prends,"
+                   "dévore,dévorent,remplissent,pompe,pompent,consommateurs,gourmands,gourmand"},
     {Sense::biggest,
      "plus gros,plus grand,plus grands,plus grosse,plus grosses,plus grande,plus grandes,les plus gros,le "
-     "plus gros,"
-     "la plus grosse,les plus grosses,les plus grands,plus lourd,plus lourds,plus "
-     "volumineux,gros,grosse,grosses,"
-     "volumineux,énormes,énorme,le plus grand,la plus grande,les plus lourds,top,le plus volumineux,les plus "
-     "volumineux,lourds,plus lourdes,les plus grandes,par taille,le plus lourd,plus volumineuses,lourdes,les "
-     "plus "
-     "lourdes,la plus lourde,grands"},
-    {Sense::smallest,
-     "plus petit,plus petits,plus petite,plus petites,les plus petits,le plus petit,les plus petites,"
-     "la plus petite"},
+     "plus gros,la plus grosse,les plus grosses,les plus grands,plus lourd,plus lourds,plus "
+     "volumineux,gros,grosse,grosses,volumineux,énormes,énorme,le plus grand,la plus grande,les plus "
+     "lourds,top,le plus volumineux,les plus volumineux,lourds,plus lourdes,les plus grandes,par taille,le "
+     "plus lourd,plus volumineuses,lourdes,les plus lourdes,la plus lourde,grands"},
+    {Sense::smallest, "plus petit,plus petits,plus petite,plus petites,les plus petits,le plus petit,les "
+                      "plus petites,la plus petite"},
     {Sense::oldest, "plus vieux,plus ancien,plus anciens,plus ancienne,plus anciennes,les plus vieux,le plus "
                     "vieux,les plus anciens,le plus ancien,les plus anciennes,la plus "
                     "ancienne,vieux,vieille,vieilles,anciens,anciennes,plus vieilles,plus vieille,ancien,les "
@@ -185,27 +175,23 @@ constexpr WordRow kWords[] = {
     {Sense::grow, "grossi,grossit,grandi,grandit,augmenté,augmente,croissance,pris du volume,pris de la "
                   "place,gonflé,enflé,a augmenté,agrandi"},
     {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
-                   "que,au moins,dépassant,"
-                   "dépassent,de plus de,supérieures à,plus lourd que,plus lourds que,ou "
-                   "plus,minimum,>,faisant plus de,plus "
-                   "grosses que,plus grandes que,et plus,pesant plus de,plus d,dépasse,plus volumineux que"},
-    {Sense::below,
-     "moins de,en dessous de,inférieur à,inférieurs à,plus petit que,plus petits que,au plus,inférieures à,"
-     "ou moins,maximum,<,de moins de,moins d,au maximum,sous"},
+                   "que,au moins,dépassant,dépassent,de plus de,supérieures à,plus lourd que,plus lourds "
+                   "que,ou plus,minimum,>,faisant plus de,plus grosses que,plus grandes que,et plus,pesant "
+                   "plus de,plus d,dépasse,plus volumineux que"},
+    {Sense::below, "moins de,en dessous de,inférieur à,inférieurs à,plus petit que,plus petits que,au "
+                   "plus,inférieures à,ou moins,maximum,<,de moins de,moins d,au maximum,sous"},
     {Sense::inside,
      "dans,dedans,depuis le dossier,à l intérieur de,du dossier,dans le,dans le dossier,dans mon,dans mes"},
     {Sense::unopened,
      "pas ouvert,pas ouverts,jamais ouvert,jamais ouverts,pas utilisé,pas utilisés,non "
-     "ouverts,inutilisés,inutilisées,"
-     "oubliés,oublié,non utilisés,pas ouverte,pas ouvertes,plus ouvert,plus ouverts,plus utilisé,n utilise "
-     "pas,"
-     "n utilise plus,n utilise jamais,utilise pas,utilise plus,utilise jamais,pas touché,plus touché,jamais "
-     "utilisé,jamais utilisés,jamais utilisées,me servent plus,sert plus,oubliées,non utilisées,n ai pas "
-     "ouvert,n ai "
-     "pas ouverts,n ai plus ouverts,n ai jamais ouverts,inutilisée"},
-    {Sense::before,
-     "avant,plus vieux que,plus ancien que,plus anciens que,antérieur à,antérieurs à,plus vieilles que,"
-     "plus anciennes que,d ici,avant le,avant la,antérieures à,d avant,jusqu à"},
+     "ouverts,inutilisés,inutilisées,oubliés,oublié,non utilisés,pas ouverte,pas ouvertes,plus ouvert,plus "
+     "ouverts,plus utilisé,n utilise pas,n utilise plus,n utilise jamais,utilise pas,utilise plus,utilise "
+     "jamais,pas touché,plus touché,jamais utilisé,jamais utilisés,jamais utilisées,me servent plus,sert "
+     "plus,oubliées,non utilisées,n ai pas ouvert,n ai pas ouverts,n ai plus ouverts,n ai jamais "
+     "ouverts,inutilisée"},
+    {Sense::before, "avant,plus vieux que,plus ancien que,plus anciens que,antérieur à,antérieurs à,plus "
+                    "vieilles que,plus anciennes que,d ici,avant le,avant la,antérieures à,d avant,jusqu "
+                    "à,jusqu au,jusqu aux,jusqu en,jusque,jusqu à la,jusqu à l"},
     {Sense::since, "depuis,plus récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
@@ -220,7 +206,7 @@ constexpr WordRow kWords[] = {
     {Sense::general,
      "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
      "autres,premier,abord,premier lieu,long,longtemps,seul,bon,temps,jour,jours,mois,année,fois,vers "
-     "quoi,plus,ordures,restes,tiendra,suffit,dure,durera,tient"},
+     "quoi,plus,ordures,restes"},
 };
 
 constexpr SubjectRow kSubjects[] = {
@@ -378,6 +364,24 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::agoBefore, "il y a"},
     {Figure::previous, "dernier,dernière,derniers,dernières,passé,passée,précédent,précédente"},
     {Figure::current, "ce,cette,cet"},
+    {Figure::following, "prochain,prochaine,prochains,prochaines,qui vient,à venir"},
+    {Figure::ahead, "dans,d ici,encore,pendant"},
+    {Figure::daysAhead, "demain", 1},
+    {Figure::daysAhead, "après-demain,après demain", 2},
+    {Figure::namedDay, "nouvel an,jour de l an,premier de l an", valueOf(NamedDay::newYear)},
+    {Figure::namedDay, "saint-valentin,saint valentin", valueOf(NamedDay::valentine)},
+    {Figure::namedDay, "pâques,paques", valueOf(NamedDay::easter)},
+    {Figure::namedDay, "pentecôte", valueOf(NamedDay::pentecost)},
+    {Figure::namedDay, "halloween", valueOf(NamedDay::halloween)},
+    {Figure::namedDay, "toussaint", valueOf(NamedDay::allSaints)},
+    {Figure::namedDay, "veille de noël,réveillon de noël", valueOf(NamedDay::christmasEve)},
+    {Figure::namedDay, "noël", valueOf(NamedDay::christmas)},
+    {Figure::namedDay, "saint-sylvestre,saint sylvestre,réveillon", valueOf(NamedDay::newYearsEve)},
+    {Figure::namedDay, "printemps", valueOf(NamedDay::spring)},
+    {Figure::namedDay, "l été,cet été,en été", valueOf(NamedDay::summer)},
+    {Figure::namedDay, "automne", valueOf(NamedDay::autumn)},
+    {Figure::namedDay, "hiver", valueOf(NamedDay::winter)},
+    {Figure::endOf, "fin,la fin,fin de,la fin de,la fin du,fin du", -1},
     {Figure::ofDate, "de,le,l"},
 };
 

@@ -14,7 +14,10 @@ constexpr WordRow kWords[] = {
      "empfiehlst,empfehlen,empfehlung,empfehlungen,rätst,raten,vorschlag,vorschläge,vorschlagen,schlägst,"
      "anfangen,am besten,was tun,was jetzt,beginnen,lohnt sich,lohnt,was soll ich tun,was soll ich "
      "machen,was mache ich,was mach ich,was machen,was kann ich tun,was kann ich machen,was tue ich,tipps"},
-    {Sense::trust, "vertrauen,vertrauenswürdig,seriös,ist orlen sicher,virus,schadsoftware,trauen"},
+    {Sense::trust, "vertrauen,vertrauenswürdig,seriös,ist orlen sicher,trauen"},
+    {Sense::beyond, "virus,viren,schadsoftware,trojaner,malware,schneller "
+                    "machen,schneller,beschleunigen,langsam,leistung,defragmentieren,arbeitsspeicher,ram,"
+                    "prozessor,cpu,akku,treiber,firewall,virenscanner,temperatur,grafikkarte"},
     {Sense::happens,
      "passiert,passieren,was passiert,geschieht,endgültig,für "
      "immer,unwiderruflich,dauerhaft,wohin,kaputt,schadet,schaden,kaputtgehen,geht kaputt,zerstört,von "
@@ -23,9 +26,8 @@ constexpr WordRow kWords[] = {
     {Sense::also,
      "und,auch,außerdem,und was ist mit,was ist mit,wie steht es mit,wie sieht es aus mit,wie sieht es "
      "mit,wie siehts mit,sowie,&,und wie ist es mit,wie ist es mit,und wie sieht es mit"},
-    {Sense::backward,
-     "sie,ihn,es,diese,dieser,dieses,diesen,davon,die da,denen,jene,welche davon,ihnen,eins davon,von denen,"
-     "dazu,das da,dieselben,das hier,daran"},
+    {Sense::backward, "sie,ihn,es,diese,dieser,dieses,diesen,davon,die da,denen,jene,welche davon,ihnen,eins "
+                      "davon,von denen,dazu,das da,dieselben,das hier,daran"},
     {Sense::filler,
      "der,die,das,den,dem,des,ein,eine,einen,einem,einer,eines,mein,meine,meinen,meinem,meiner,meines,unser,"
      "unsere,dein,deine,ich,mir,mich,wir,uns,du,dir,dich,man,ist,sind,war,waren,bin,sein,habe,hab,hast,hat,"
@@ -37,45 +39,47 @@ constexpr WordRow kWords[] = {
      "noch,wohl,eben,halt,doch,namens,genannt,orlen,wenn,falls,als,wie,wie ist,gibt,kannst du mir "
      "sagen,kannst du mir zeigen,kannst du,weißt du,ob,dass,daß,sich,mir "
      "mal,lass,lassen,art,arten,sorte,ok,okay,also "
-     "gut,tja,hm,äh,ne,na,mach,machen,macht,geht,gehen,gehts,viel,viele,wenig,etwas,einige,paar,herum,rum,"
-     "rumliegen,herumliegen,liegt,liegen,befindet,befinden,gespeichert,gesamte,gesamten,ganze,ganzen,eigenen,"
-     "eigene,insgesamt "
+     "gut,tja,hm,äh,ne,na,geht,gehen,gehts,viel,viele,wenig,etwas,einige,paar,herum,rum,rumliegen,"
+     "herumliegen,liegt,liegen,befindet,befinden,gespeichert,gesamte,gesamten,ganze,ganzen,eigenen,eigene,"
+     "insgesamt "
      "alle,bekomme,kriege,krieg,kriegen,bekommen,brauchbar,danach,damit,darin,drin,drauf,darauf,dabei,da "
      "drauf,raus,weg,aus versehen da,vom,im moment,in der "
      "regel,überhaupt,irgendwelche,irgendein,irgendwo,irgendwas,sonst,jeweils,pro,bzw,nach,übersicht,"
      "anzeigen,angezeigt,erklär,erkläre,erklären,ja,nein,ihr,euch,euer,seinen,ihre,ihren,nun,gleich,"
      "bestimmte,bestimmten,verschiedene,waere,wäre,wären,schnell,schnellsten,einfach,lieber,eh,selbst,selber,"
      "wieder,sammlung,sammlungen,is,nich,isses,n,nem,ner,nen,sagt,fast,beinahe,jemand,genug,ausreichend,tun,"
-     "machst,immer,oft,manchmal,später,sehr,leider,wegen,dafür,kurz,schauen,guck,guckst,check,würdest,"
-     "irgendwohin,steht,stehen,her,hin,von,scheint,glaube,denke,meinst,meine "
+     "immer,oft,manchmal,später,sehr,leider,wegen,dafür,kurz,schauen,guck,guckst,check,würdest,irgendwohin,"
+     "steht,stehen,her,hin,von,scheint,glaube,denke,meinst,meine "
      "ich,würdet,rauf,drüben,ebenfalls,trotzdem,erst,hallo "
      "du,mann,kind,wozu,deren,dessen,hättest,hätte,gibs,ziemlich,ob ich,da drin,gesamten "
      "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,zwischen,durch,gegen,um,während,trotz,statt,"
-     "hinter,neben,beim,bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine "
+     "hinter,beim,bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine "
      "ahnung,im grunde,quasi,übers,ums,fürs,falls möglich"},
-    {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,ohne,nichts,nirgends,keinesfalls"},
-    {Sense::what,
-     "was,was ist,was sind,welche,welcher,welches,welchen,welchem,wo,wo ist,wo sind,wer,was für,was für "
-     "ein,gibt "
-     "es,gibts,habe ich,hab ich,zeig mir,zeige mir,welch,woraus,was davon,wodurch,womit,hast du gefunden,"
-     "liste mir,nenne,nenn mir,nenne mir"},
+    {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,nichts,nirgends,keinesfalls"},
+    {Sense::except, "außer,ausser,ausgenommen,abgesehen von,bis auf,mit ausnahme von,mit ausnahme "
+                    "der,ohne,aber nicht,aber keine,nur nicht,und nicht,exklusive,außerhalb,außerhalb "
+                    "von,lass weg,neben,nur keine,nicht aus,nicht in"},
+    {Sense::lasts,
+     "reicht,reichen,reicht es,hält,halten,genügt,genügen,langt,langen,ausreichen,ausreicht,auskommen,komme "
+     "aus,überlebt,durchhalten"},
+    {Sense::speed, "wie schnell,wachstumsrate,tempo,in welchem tempo,pro tag,pro woche,pro "
+                   "monat,täglich,wöchentlich,monatlich,am tag,in der woche,im monat"},
+    {Sense::what, "was,was ist,was sind,welche,welcher,welches,welchen,welchem,wo,wo ist,wo sind,wer,was "
+                  "für,was für ein,gibt es,gibts,habe ich,hab ich,zeig mir,zeige mir,welch,woraus,was "
+                  "davon,wodurch,womit,hast du gefunden,liste mir,nenne,nenn mir,nenne mir"},
     {Sense::howBig,
      "wie groß,wie schwer,größe,größe von,die größe,wie viel platz braucht,wie viel platz brauchen,wieviel "
-     "platz "
-     "braucht,wieviel platz brauchen,wie viel platz belegt,wie viel platz belegen,wie viel platz nimmt,wie "
-     "viel "
-     "platz nehmen,wie viel speicher braucht,wie viel speicher brauchen,wieviel speicher braucht,wieviel "
-     "speicher "
-     "brauchen,wie viel speicher belegt,wie viel speicher belegen,wie viel speicherplatz braucht,wie viel "
-     "speicherplatz brauchen,wie viel speicherplatz belegen,wie viel speicherplatz belegt,wieviel platz "
-     "belegen,"
-     "wieviel platz belegt,wieviel platz nehmen,wieviel platz nimmt,wie viele gb,wieviel gb,wie viel gb,"
-     "dateigröße,wie umfangreich,wie viele gigabyte,wiegt,wiegen,wie gross,wieviele gb"},
+     "platz braucht,wieviel platz brauchen,wie viel platz belegt,wie viel platz belegen,wie viel platz "
+     "nimmt,wie viel platz nehmen,wie viel speicher braucht,wie viel speicher brauchen,wieviel speicher "
+     "braucht,wieviel speicher brauchen,wie viel speicher belegt,wie viel speicher belegen,wie viel "
+     "speicherplatz braucht,wie viel speicherplatz brauchen,wie viel speicherplatz belegen,wie viel "
+     "speicherplatz belegt,wieviel platz belegen,wieviel platz belegt,wieviel platz nehmen,wieviel platz "
+     "nimmt,wie viele gb,wieviel gb,wie viel gb,dateigröße,wie umfangreich,wie viele "
+     "gigabyte,wiegt,wiegen,wie gross,wieviele gb"},
     {Sense::howMany, "wie viele,wieviele,wie oft,anzahl,anzahl der,zahl der,wie häufig"},
     {Sense::can,
      "kann,können,könnte,darf,dürfen,soll,sollte,sollten,sollen,muss,müssen,brauche ich,brauch ich,ist es "
-     "sicher,"
-     "ist es okay,ist es ok,kann ich gefahrlos,ist es möglich,ist es in ordnung,kann man,könnten"},
+     "sicher,ist es okay,ist es ok,kann ich gefahrlos,ist es möglich,ist es in ordnung,kann man,könnten"},
     {Sense::makeRoom, "freigeben,freimachen,frei machen,platz schaffen,platz machen,frei bekommen,frei "
                       "kriegen,freibekommen,gewinnen,gewinne,sparen,spare,einsparen,freiräumen,platz "
                       "gewinnen,platz sparen,schaffen,mehr platz,frei räumen,freigegeben,freigemacht,frei "
@@ -84,13 +88,12 @@ constexpr WordRow kWords[] = {
                       "würde,freischaufeln,entrümpeln,ausmisten,verschlanken,speicherplatz frei,platz "
                       "bekommen,ich brauche platz,brauche platz,ich brauche,brauche noch,ich "
                       "bräuchte,bräuchte,benötige,ich benötige,leerer,entlasten,weniger voll,erleichtern"},
-    {Sense::untouched, "nie anfassen,fasst nie "
-                       "an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie an,"
-                       "nie an,niemals an,nie löschen,nie gelöscht,löscht nie,rührt nicht an,nie "
-                       "löscht,niemals gelöscht,niemals "
-                       "löschen,bleibt unberührt,nie berührt,nicht angerührt,nicht angefasst,nie "
-                       "anrührt,lässt in ruhe,finger weg,"
-                       "nie verschoben,fasst nicht an"},
+    {Sense::make, "mach,machen,macht,machst,mache,schaff,schaffe,gib mir"},
+    {Sense::untouched,
+     "nie anfassen,fasst nie an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie "
+     "an,nie an,niemals an,nie löschen,nie gelöscht,löscht nie,rührt nicht an,nie löscht,niemals "
+     "gelöscht,niemals löschen,bleibt unberührt,nie berührt,nicht angerührt,nicht angefasst,nie "
+     "anrührt,lässt in ruhe,finger weg,nie verschoben,fasst nicht an"},
     {Sense::cleanUp,
      "aufräumen,aufräumung,aufräumungen,bereinigung,bereinigungen,bereinigen,aufgeräumt,reinigung,"
      "reinigungen,putzen,säubern,räum auf,räume "
@@ -109,10 +112,8 @@ constexpr WordRow kWords[] = {
     {Sense::undo, "rückgängig,rückgängig "
                   "machen,wiederherstellen,wiederherstelle,zurückholen,zurückbekommen,zurück,zurücknehmen,"
                   "wiederhergestellt,stelle wieder her,stell wieder her,wieder her,zurücksetzen,aus "
-                  "versehen,versehentlich,"
-                  "zurückhole,wiederbekommen,wiederbekomme,hole zurück,wieder zurück,retten,aus versehen "
-                  "gelöscht,wieder holen,"
-                  "zurückkriegen,zurückbekomme"},
+                  "versehen,versehentlich,zurückhole,wiederbekommen,wiederbekomme,hole zurück,wieder "
+                  "zurück,retten,aus versehen gelöscht,wieder holen,zurückkriegen,zurückbekomme"},
     {Sense::safe, "sicher,gefahrlos,ungefährlich,gefährlich,harmlos,riskant,bedenkenlos,unbedenklich,schlimm,"
                   "risiko,ohne bedenken,ohne risiko,problemlos,ohne gefahr,safe,probleme"},
     {Sense::review, "review,prüfen,überprüfen,durchsehen,ansehen"},
@@ -129,39 +130,33 @@ constexpr WordRow kWords[] = {
                     "berührt,geschaut,gehört,gelesen,aufgerufen,gesehen,geguckt,angehört,gespielt"},
     {Sense::full,
      "voll,fast voll,so voll,vollgelaufen,voll laufen,vollläuft,läuft voll,voll wird,kein platz,kein platz "
-     "mehr,"
-     "kein speicher,kein speicher mehr,kein speicherplatz,kein speicherplatz mehr,zu wenig platz,so wenig "
-     "platz,"
-     "wenig platz,platz geht aus,knapp,randvoll,volllaufen,keinen platz,keinen platz mehr,keinen speicher "
-     "mehr,"
-     "keinen speicherplatz mehr,füllt,vollgestopft,vollgemüllt,geht der platz aus,platz aus,speicher "
-     "aus,voll "
-     "werden,kaum platz,kaum noch platz,nicht genug platz,zu voll,zugemüllt,platz hin,speicher hin,ausgeht,"
-     "speicherplatz aus,speicherplatz hin"},
+     "mehr,kein speicher,kein speicher mehr,kein speicherplatz,kein speicherplatz mehr,zu wenig platz,so "
+     "wenig platz,wenig platz,platz geht aus,knapp,randvoll,volllaufen,keinen platz,keinen platz mehr,keinen "
+     "speicher mehr,keinen speicherplatz mehr,füllt,vollgestopft,vollgemüllt,geht der platz aus,platz "
+     "aus,speicher aus,voll werden,kaum platz,kaum noch platz,nicht genug platz,zu voll,zugemüllt,platz "
+     "hin,speicher hin,ausgeht,speicherplatz aus,speicherplatz hin"},
     {Sense::free, "frei,freier,freien,freie,freies,verfügbar,verfügbarer,übrig,übriggeblieben,verbleibend,"
                   "ungenutzt,bleibt,unbelegt,leer,hab ich noch,habe ich noch,noch übrig,übrig hab"},
     {Sense::total, "insgesamt,gesamt,kapazität,gesamtgröße,zusammen,gesamtkapazität,in "
                    "summe,summe,übersicht,überblick,status,zusammenfassung"},
     {Sense::disk, "festplatte,platte,laufwerk,ssd,hdd,rechner,computer,laptop,pc,datenträger,partition,kiste,"
-                  "gerät,notebook,"
-                  "speicher,speichers,festplatten,harddisk,systemlaufwerk"},
+                  "gerät,notebook,speicher,speichers,festplatten,harddisk,systemlaufwerk"},
     {Sense::space,
      "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,plattenspeicher"},
     {Sense::howMuch, "wie viel,wieviel,wievil,wie fiel,wifiel,wiviel"},
     {Sense::why,
      "warum,wieso,weshalb,weswegen,woran liegt,wie kommt es,woran,grund,aus welchem grund,woher kommt"},
-    {Sense::when,
-     "wann,wie lange,wie lang,bis wann,in wie vielen tagen,ab wann,wie bald,an welchem tag,bald,wie viele "
-     "tage,wie viele wochen,wie viele monate,zu welchem zeitpunkt"},
+    {Sense::when, "wann,wie lange,wie lang,bis wann,in wie vielen tagen,ab wann,wie bald,an welchem "
+                  "tag,bald,wie viele tage,wie viele wochen,wie viele monate,zu welchem zeitpunkt"},
     {Sense::most, "am meisten,meisten,meiste,die meisten,den meisten,den größten teil,das meiste,am "
-                  "meißten,hauptsächlich"},
+                  "meißten,hauptsächlich,am schnellsten,schnellsten"},
     {Sense::takes, "braucht,brauchen,belegen,verbraucht "
                    "so,verbrauchen,verbraucht,frisst,fressen,nimmt,nehmen,nimmt weg,einnehmen,belegt "
                    "so,benötigt,benötigen,verschwendet,platzfresser,verbrauch,speicherfresser,schluckt,"
                    "verstopft,verstopfen,müllt,kostet,frist,nimmt ein,nehmen ein"},
     {Sense::biggest, "größte,größten,größter,größtes,die größten,schwersten,dicksten,am "
-                     "größten,große,großen,großer,großes,riesige,"
-                     "riesigen,fetteste,top,gross,nach größe,groß,grosse,dicke,dicken,umfangreichsten"},
+                     "größten,große,großen,großer,großes,riesige,riesigen,fetteste,top,gross,nach "
+                     "größe,groß,grosse,dicke,dicken,umfangreichsten"},
     {Sense::smallest, "kleinste,kleinsten,am kleinsten,kleine,kleinen"},
     {Sense::oldest,
      "älteste,ältesten,ältester,am ältesten,alte,alten,alter,uralte,altes,uralten,veraltete,alt,uralt"},
@@ -173,17 +168,15 @@ constexpr WordRow kWords[] = {
     {Sense::grow, "gewachsen,wachsen,wächst,wachstum,größer "
                   "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
     {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
-                   "als,größer,länger als,"
-                   "minimum,>,und mehr,und größer"},
+                   "als,größer,länger als,minimum,>,und mehr,und größer"},
     {Sense::below,
      "unter,kleiner als,weniger als,höchstens,maximal,bis zu,oder weniger,oder kleiner,kleiner,<"},
     {Sense::inside, "in,im,innerhalb,aus,in meinem,im ordner,ins,aus dem,in den,auf dem"},
     {Sense::unopened,
      "nicht geöffnet,ungeöffnet,nie geöffnet,nicht benutzt,unbenutzt,nicht angefasst,nicht angesehen,nicht "
      "verwendet,vergessen,unbenutzte,ungenutzte,nicht mehr geöffnet,nicht mehr benutzt,nicht genutzt,nicht "
-     "mehr "
-     "angesehen,vergessene,selten benutzt,nicht mehr genutzt,nicht mehr angerührt,nie benutze"},
-    {Sense::before, "vor,älter als,früher als,vor dem,bevor,bis,bis zum,bis ende,ältere als"},
+     "mehr angesehen,vergessene,selten benutzt,nicht mehr genutzt,nicht mehr angerührt,nie benutze"},
+    {Sense::before, "vor,älter als,früher als,vor dem,bevor,bis,bis zum,ältere als"},
     {Sense::since, "seit,neuer als,jünger als,seit dem,neuere als"},
     {Sense::after, "nach dem,später als"},
     {Sense::last, "letzte,letzten,letzter,letztes,vorige,letztens,vorherige,beim letzten mal,letztes mal,das "
@@ -201,7 +194,7 @@ constexpr WordRow kWords[] = {
      "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
      "unnötige,unnötigen,müll,kram,krempel,zeug,kategorie,kategorien,mehr,zuerst,als "
      "erstes,besser,gut,lang,lange,länger,funde,fund,andere,anderen,anderes,überflüssige,tag,tage,woche,"
-     "monat,jahr,male,dauert,reste,reicht,reichen,hält,genügt,chaos,durcheinander,unordnung"},
+     "monat,jahr,male,dauert,reste,chaos,durcheinander,unordnung"},
 };
 
 constexpr SubjectRow kSubjects[] = {
@@ -355,6 +348,27 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::previous,
      "letzte,letzten,letzter,letztes,letztem,vorige,vorigen,voriges,vergangenen,vergangene"},
     {Figure::current, "diese,diesen,dieser,dieses,diesem"},
+    {Figure::following, "nächste,nächsten,nächster,nächstes,nächstem,kommende,kommenden,kommendes,kommender"},
+    {Figure::ahead, "in,binnen,innerhalb von,noch,für"},
+    {Figure::daysAhead, "morgen", 1},
+    {Figure::daysAhead, "übermorgen", 2},
+    {Figure::namedDay, "neujahr,neujahrstag,neues jahr", valueOf(NamedDay::newYear)},
+    {Figure::namedDay, "valentinstag", valueOf(NamedDay::valentine)},
+    {Figure::namedDay, "ostern,ostersonntag", valueOf(NamedDay::easter)},
+    {Figure::namedDay, "pfingsten", valueOf(NamedDay::pentecost)},
+    {Figure::namedDay, "halloween", valueOf(NamedDay::halloween)},
+    {Figure::namedDay, "allerheiligen", valueOf(NamedDay::allSaints)},
+    {Figure::namedDay, "heiligabend,heiliger abend,heiligen abend", valueOf(NamedDay::christmasEve)},
+    {Figure::namedDay, "weihnachten,weihnacht", valueOf(NamedDay::christmas)},
+    {Figure::namedDay, "silvester,sylvester", valueOf(NamedDay::newYearsEve)},
+    {Figure::namedDay, "frühling,frühjahr", valueOf(NamedDay::spring)},
+    {Figure::namedDay, "sommer", valueOf(NamedDay::summer)},
+    {Figure::namedDay, "herbst", valueOf(NamedDay::autumn)},
+    {Figure::namedDay, "winter", valueOf(NamedDay::winter)},
+    {Figure::endOf, "ende,ende von", -1},
+    {Figure::endOf, "wochenende", 1},
+    {Figure::endOf, "monatsende", 2},
+    {Figure::endOf, "jahresende", 3},
     {Figure::ofDate, "den,dem,des"},
 };
 

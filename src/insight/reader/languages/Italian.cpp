@@ -14,20 +14,21 @@ constexpr WordRow kWords[] = {
                     "suggerire,raccomandi,cominciare,iniziare,comincio,inizio da,cosa faccio,che "
                     "faccio,conviene,vale la pena,iniziamo,da dove parto,cosa devo fare,cosa posso fare,che "
                     "devo fare,che posso fare,trucchi,cosa faccio adesso,cosa dovrei fare,cosa fare"},
-    {Sense::trust, "fidarmi,fidare,affidabile,virus,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi"},
+    {Sense::trust, "fidarmi,fidare,affidabile,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi"},
+    {Sense::beyond, "virus,malware,trojan,più "
+                    "veloce,velocizzare,velocizza,lento,lenta,prestazioni,deframmentare,ram,memoria "
+                    "ram,processore,cpu,batteria,driver,firewall,antivirus,temperatura,scheda grafica"},
     {Sense::happens,
      "succede,succederebbe,accade,cosa succede,per "
      "sempre,definitivamente,definitivo,permanentemente,succederà,dove finiscono,dove vanno,dove "
      "finisce,irreversibile,rompere,rompo,danneggia,danni,danneggiare,rompe,rompersi,da "
      "solo,automaticamente,senza chiedere,da sola,senza permesso,senza avvisare"},
     {Sense::only, "solo,soltanto,solamente,unicamente,esclusivamente"},
-    {Sense::also,
-     "e,ed,anche,inoltre,e per quanto riguarda,che mi dici di,e i,e le,e gli,e la,e il,e lo,cosa mi dici "
-     "di,&,e di,e che dire di,nonché,e riguardo"},
+    {Sense::also, "e,ed,anche,inoltre,e per quanto riguarda,che mi dici di,e i,e le,e gli,e la,e il,e "
+                  "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo"},
     {Sense::backward, "quello,quella,quelli,quelle,questo,questa,questi,queste,ciò,esso,essi,essa,lo,"
-                      "eliminarlo,eliminarla,eliminarli,"
-                      "eliminarle,cancellarlo,cancellarla,cancellarli,cancellarle,ne,quell,loro,toglierli,"
-                      "toglierlo,buttarli,buttarlo"},
+                      "eliminarlo,eliminarla,eliminarli,eliminarle,cancellarlo,cancellarla,cancellarli,"
+                      "cancellarle,ne,quell,loro,toglierli,toglierlo,buttarli,buttarlo"},
     {Sense::filler,
      "il,la,i,gli,le,l,un,uno,una,di,d,del,dello,della,dell,dei,degli,delle,da,dalla,dallo,dai,dagli,dalle,"
      "dall,a,al,allo,alla,all,ai,agli,alle,mio,mia,miei,mie,nostro,nostra,tuo,tua,tuoi,tue,suo,sua,suoi,sue,"
@@ -35,14 +36,14 @@ constexpr WordRow kWords[] = {
      "stanno,sto,c è,ho,hai,ha,abbiamo,hanno,avere,aver,avevo,ed "
      "ecco,per,con,su,sul,sulla,sullo,sui,sugli,sulle,sull,o,oppure,che,come,per favore,per "
      "piacere,perfavore,adesso,ora,attualmente,oggi,al momento,in questo "
-     "momento,davvero,veramente,esattamente,circa,più o meno,mostra,mostrami,mostrare,dimmi,dire,dammi,dai "
+     "momento,davvero,veramente,esattamente,circa,più o meno,mostra,mostrami,mostrare,dimmi,dire,dai "
      "a,elenca,elencare,elenco,trova,trovami,trovare,cerca,cercami,cercare,sapere,so,voglio,vorrei,mi "
      "piacerebbe,puoi dirmi,mi puoi dire,puoi "
      "mostrarmi,puoi,potresti,tutto,tutta,tutti,tutte,molto,molta,molti,molte,tanto,tanta,tanti,tante,poco,"
      "pochi,qualche,alcuni,alcune,qualcosa,già,ancora,stesso,stessa,chiamato,chiamata,di "
-     "nome,orlen,quindi,allora,dunque,ok,beh,mah,eh,fare,faccio,fa,fai,tipo,tipi,genere,salvato,salvati,"
-     "salvate,qui,qua,lì,là,in giro,intero,intera,proprio,propri,fammi "
-     "vedere,vedere,vedo,fammi,va,vanno,vado,andare,messo,velocemente,facilmente,rapidamente,spiega,spiegami,"
+     "nome,orlen,quindi,allora,dunque,ok,beh,mah,eh,faccio,fa,tipo,tipi,genere,salvato,salvati,salvate,qui,"
+     "qua,lì,là,in giro,intero,intera,proprio,propri,fammi "
+     "vedere,vedere,vedo,va,vanno,vado,andare,messo,velocemente,facilmente,rapidamente,spiega,spiegami,"
      "indica,ogni,dettagli,informazioni,sì,contiene,contengono,usando orlen,con "
      "orlen,voi,vostro,trovano,trova si,sia,siano,abbia,ce,cui,ma,davvero tanto,così,c "
      "erano,troppo,pure,po,un po,bisogno,rimane "
@@ -50,28 +51,32 @@ constexpr WordRow kWords[] = {
      "parte,viene,vengono,sempre,a volte,poi,sembra,credo,dice,dici,gente,penso,figlio,anche se,mentre,così "
      "tanto,soprattutto,appena,probabilmente,chissà,ognuno,sono stati,sono state,è stato,facile,riguardo "
      "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece,tra,fra,contro,durante,"
-     "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in pratica,ad"},
-    {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,senza,n"},
+     "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in "
+     "pratica,ad,avremo,ci sarà,ci saranno"},
+    {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,n"},
+    {Sense::except, "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
+                    "eccezione dei,ad eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre "
+                    "agli,all infuori di,senza,senza contare,ma non,che non siano,che non sia,e "
+                    "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i"},
+    {Sense::lasts, "basta,basterà,bastare,bastano,dura,durerà,durare,regge,reggerà,resiste,resisterà,"
+                   "sufficiente,abbastanza spazio"},
+    {Sense::speed,
+     "quanto velocemente,a che velocità,con che velocità,quanto in fretta,a che ritmo,ritmo,velocità,al "
+     "giorno,alla settimana,al mese,ogni giorno,ogni settimana,ogni mese"},
     {Sense::what, "cosa,che cosa,cos,quale,quali,qual,dove,dov,chi,cos è,che cos è,cosa sono,qual è,quali "
-                  "sono,cosa c è,che tipo "
-                  "di,che genere di,hai trovato,esistono,dove sono,dove si trova,dove si trovano,ci sono,ho "
-                  "dei,ho delle,cs,ke,"
-                  "c è qualche,ho qualche,di cosa"},
-    {Sense::howBig, "quanto è grande,quanto sono grandi,quanto grande,quanto "
-                    "grandi,dimensione,dimensioni,dimensione di,quanto pesa,"
-                    "quanto pesano,quanto occupa,quanto occupano,quanto spazio occupa,quanto spazio "
-                    "occupano,quanto spazio prende,"
-                    "quanto spazio prendono,quanto spazio usa,quanto spazio usano,pesa,pesano,peso,quanti "
-                    "gb,quanti giga,quanto "
-                    "prende,quanto prendono,grandezza,quanto misura,quanto è grosso,quanto è grossa,quanto "
-                    "sono grosse,quanto sono "
-                    "grossi,quanto posto occupano,quanto posto occupa,quanto consumano,quanto consuma,quanto "
-                    "c è in,quanto spazio "
-                    "consumano,quanto spazio consuma"},
+                  "sono,cosa c è,che tipo di,che genere di,hai trovato,esistono,dove sono,dove si trova,dove "
+                  "si trovano,ci sono,ho dei,ho delle,cs,ke,c è qualche,ho qualche,di cosa"},
+    {Sense::howBig,
+     "quanto è grande,quanto sono grandi,quanto grande,quanto grandi,dimensione,dimensioni,dimensione "
+     "di,quanto pesa,quanto pesano,quanto occupa,quanto occupano,quanto spazio occupa,quanto spazio "
+     "occupano,quanto spazio prende,quanto spazio prendono,quanto spazio usa,quanto spazio "
+     "usano,pesa,pesano,peso,quanti gb,quanti giga,quanto prende,quanto prendono,grandezza,quanto "
+     "misura,quanto è grosso,quanto è grossa,quanto sono grosse,quanto sono grossi,quanto posto "
+     "occupano,quanto posto occupa,quanto consumano,quanto consuma,quanto c è in,quanto spazio "
+     "consumano,quanto spazio consuma"},
     {Sense::howMany, "quanti,quante,numero di,quante volte,il numero di,conta"},
     {Sense::can, "posso,può,possono,potrei,possiamo,devo,dovrei,si può,si possono,bisogna,è possibile,è "
-                 "sicuro,dobbiamo,va bene,"
-                 "potremmo,debbo,potrebbe,poter,mi conviene,deve,devono"},
+                 "sicuro,dobbiamo,va bene,potremmo,debbo,potrebbe,poter,mi conviene,deve,devono"},
     {Sense::makeRoom,
      "liberare,libero spazio,libera spazio,liberato,guadagnare,guadagno,fare spazio,fare posto,recuperare "
      "spazio,risparmiare,risparmio,libererei,guadagnerei,fare un po di spazio,liberati,ottenere "
@@ -79,17 +84,15 @@ constexpr WordRow kWords[] = {
      "spazio,liberando,recupererei,avere più spazio,serve più spazio,liberarmi "
      "spazio,liberiamo,alleggerire,fare un po di posto,più posto,liberarsi,bisogno di spazio,mi serve,mi "
      "servono,ho bisogno di,bisogno di,mi occorrono,meno pieno"},
-    {Sense::untouched,
-     "mai tocca,non tocca,non tocca mai,non tocchi "
-     "mai,protetto,protetti,protetta,protette,protegge,intoccabile,"
-     "intoccabili,mai cancellati,non cancella mai,non elimina mai,non cancelli mai,non elimini mai,mai "
-     "eliminati,mai "
-     "toccati,mai toccherà,non toccherà mai,mai cancellare,mai eliminare,mai toccato,non sposta mai,mai "
-     "spostati,"
-     "intatto,intatti,lascia stare,non tocchi,non cancellerà mai,non eliminerà mai,non cancellerai mai"},
-    {Sense::cleanUp,
-     "pulizia,pulizie,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare ordine,pulita,"
-     "fatto pulizia,ripulisco,pulisco"},
+    {Sense::make, "fai,fare,fammi,dammi,trovami"},
+    {Sense::untouched, "mai tocca,non tocca,non tocca mai,non tocchi "
+                       "mai,protetto,protetti,protetta,protette,protegge,intoccabile,intoccabili,mai "
+                       "cancellati,non cancella mai,non elimina mai,non cancelli mai,non elimini mai,mai "
+                       "eliminati,mai toccati,mai toccherà,non toccherà mai,mai cancellare,mai eliminare,mai "
+                       "toccato,non sposta mai,mai spostati,intatto,intatti,lascia stare,non tocchi,non "
+                       "cancellerà mai,non eliminerà mai,non cancellerai mai"},
+    {Sense::cleanUp, "pulizia,pulizie,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare "
+                     "ordine,pulita,fatto pulizia,ripulisco,pulisco"},
     {Sense::uninstall, "disinstallare,disinstallo,disinstalla,disinstallazione,disinstallato"},
     {Sense::remove,
      "eliminare,elimino,elimina,eliminato,eliminati,eliminata,eliminate,cancellare,cancello,cancella,"
@@ -99,11 +102,10 @@ constexpr WordRow kWords[] = {
      "di,superfluo,superflui,inutile,inutili,cancelare,gettare,getto,spazzatura,eliminabili,cancellabili,"
      "cancelli,elimini,sposta,sposti,rimuovi,tolti,buttato,superflue,non mi serve,non mi servono,non ho "
      "bisogno,che non mi serve,che non mi servono,non servono,non mi servono più,non mi serve più"},
-    {Sense::undo, "annullare,annulla,annullo,ripristinare,ripristino,ripristina,recuperare,recupero,recupera,"
-                  "tornare indietro,"
-                  "riavere,rimettere,ripristinato,indietro,per errore,per "
-                  "sbaglio,riportare,rimetto,riportare indietro,recuperarlo,"
-                  "recuperarli,riprendere,rimettere a posto"},
+    {Sense::undo,
+     "annullare,annulla,annullo,ripristinare,ripristino,ripristina,recuperare,recupero,recupera,tornare "
+     "indietro,riavere,rimettere,ripristinato,indietro,per errore,per sbaglio,riportare,rimetto,riportare "
+     "indietro,recuperarlo,recuperarli,riprendere,rimettere a posto"},
     {Sense::safe,
      "sicuro,sicura,sicuri,sicure,senza rischi,senza "
      "rischio,pericoloso,pericolosa,rischio,rischioso,innocuo,tranquillamente,senza problemi,in sicurezza,in "
@@ -114,9 +116,8 @@ constexpr WordRow kWords[] = {
     {Sense::mean, "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
                   "tra,valutazione,valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole "
                   "dire,regole,regola,criteri,decide,classifica"},
-    {Sense::soFar,
-     "finora,fino ad ora,fino a oggi,fin qui,cronologia,fino a ora,fino adesso,fino ad adesso,dall "
-     "inizio,nel tempo,in tutto finora,fino ad oggi"},
+    {Sense::soFar, "finora,fino ad ora,fino a oggi,fin qui,cronologia,fino a ora,fino adesso,fino ad "
+                   "adesso,dall inizio,nel tempo,in tutto finora,fino ad oggi"},
     {Sense::used, "occupato,occupati,consumato,in uso,quanto è pieno,occupata"},
     {Sense::handled, "usato,usati,utilizzato,utilizzati,uso,utilizzo,usata,usate,utilizzate,utilizzata"},
     {Sense::opened,
@@ -129,9 +130,8 @@ constexpr WordRow kWords[] = {
      "spazio,strapieno,esaurirà,spazio è finito,esaurire,riempie,non c è più posto,tutto pieno,finire lo "
      "spazio,riempirsi,saturo,spazio insufficiente,pieni,esaurisce,finito,tutto il mio spazio,finito il mio "
      "spazio"},
-    {Sense::free,
-     "libero,liberi,libera,disponibile,disponibili,resta,rimane,rimasto,mi resta,mi rimane,restano,rimangono,"
-     "avanza,rimasti,residuo,restante,rimanente"},
+    {Sense::free, "libero,liberi,libera,disponibile,disponibili,resta,rimane,rimasto,mi resta,mi "
+                  "rimane,restano,rimangono,avanza,rimasti,residuo,restante,rimanente"},
     {Sense::total, "totale,capacità,in totale,in tutto,complessiva,complessivo,capienza,dimensione "
                    "totale,riepilogo,stato,panoramica"},
     {Sense::disk,
@@ -140,31 +140,25 @@ constexpr WordRow kWords[] = {
     {Sense::space, "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione"},
     {Sense::howMuch, "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto"},
     {Sense::why, "perché,come mai,per quale motivo,motivo,ragione,a causa di cosa,perche,xke,xché,da cosa "
-                 "dipende,a cosa è "
-                 "dovuto"},
-    {Sense::when,
-     "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in quanto tempo,"
-     "presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per quando,fino a quando,quanti "
-     "mesi,fra quanto tempo"},
-    {Sense::most,
-     "più,di più,la maggior parte,maggior parte,più spazio,maggiormente,il grosso,principalmente"},
-    {Sense::takes,
-     "occupa,occupano,occupando,prende,prendono,usa,usano,consuma,consumano,mangia,mangiano,mangiando,spreca,"
-     "ruba,"
-     "rubano,riempiono,utilizza,utilizzano,ingombra,ingombrano,consumando,divora,succhia,divorano,sprecano,"
-     "occupare,porta via,portano via"},
-    {Sense::biggest, "più grande,più grandi,i più grandi,il più grande,la più grande,le più "
-                     "grandi,maggiore,maggiori,più pesante,più "
-                     "pesanti,grande,grandi,enormi,enorme,pesanti,pesante,grossi,grosso,più grosso,più "
-                     "grossi,grosse,grossa,più grosse,"
-                     "più grossa,top,i più pesanti,le più pesanti,per dimensione,i più grossi,le più "
-                     "grosse,il più grosso,il più "
-                     "pesante,la più pesante,voluminosi,più voluminosi,giganti"},
+                 "dipende,a cosa è dovuto"},
+    {Sense::when, "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in "
+                  "quanto tempo,presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per "
+                  "quando,fino a quando,quanti mesi,fra quanto tempo"},
+    {Sense::most, "più,di più,la maggior parte,maggior parte,più spazio,maggiormente,il "
+                  "grosso,principalmente,più velocemente,più in fretta,più rapidamente"},
+    {Sense::takes, "occupa,occupano,occupando,prende,prendono,usa,usano,consuma,consumano,mangia,mangiano,"
+                   "mangiando,spreca,ruba,rubano,riempiono,utilizza,utilizzano,ingombra,ingombrano,"
+                   "consumando,divora,succhia,divorano,sprecano,occupare,porta via,portano via"},
+    {Sense::biggest,
+     "più grande,più grandi,i più grandi,il più grande,la più grande,le più grandi,maggiore,maggiori,più "
+     "pesante,più pesanti,grande,grandi,enormi,enorme,pesanti,pesante,grossi,grosso,più grosso,più "
+     "grossi,grosse,grossa,più grosse,più grossa,top,i più pesanti,le più pesanti,per dimensione,i più "
+     "grossi,le più grosse,il più grosso,il più pesante,la più pesante,voluminosi,più voluminosi,giganti"},
     {Sense::smallest,
      "più piccolo,più piccoli,più piccola,più piccole,i più piccoli,il più piccolo,le più piccole"},
     {Sense::oldest,
-     "più vecchio,più vecchi,più vecchia,più vecchie,i più vecchi,il più vecchio,le più vecchie,più antico,"
-     "più datati,vecchio,vecchi,vecchia,vecchie,meno recente,meno recenti,la più vecchia,datati"},
+     "più vecchio,più vecchi,più vecchia,più vecchie,i più vecchi,il più vecchio,le più vecchie,più "
+     "antico,più datati,vecchio,vecchi,vecchia,vecchie,meno recente,meno recenti,la più vecchia,datati"},
     {Sense::newest,
      "più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più "
      "nuovi,recenti,recente,nuovi,nuove,nuovo,più nuove,la più recente,più "
@@ -175,20 +169,18 @@ constexpr WordRow kWords[] = {
                    "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti "
                    "di,più grossi di,oltre il,superano,supera,più grosse di,di più di,da più di"},
     {Sense::below, "meno di,minore di,minori di,più piccolo di,più piccoli di,inferiore a,inferiori a,al "
-                   "massimo,sotto,sotto "
-                   "i,sotto il,massimo,<,o meno"},
+                   "massimo,sotto,sotto i,sotto il,massimo,<,o meno"},
     {Sense::inside,
      "in,nel,nella,nei,nelle,negli,nell,nello,dentro,all interno di,dalla cartella,nella cartella"},
-    {Sense::unopened,
-     "non aperto,non aperti,mai aperto,mai aperti,non usato,non usati,inutilizzati,inutilizzato,dimenticato,"
-     "dimenticati,non utilizzati,non apro,non ho aperto,non ho usato,non uso,non uso più,non uso mai,non "
-     "utilizzo,mai "
-     "usato,mai usati,inutilizzate,non apro da,non ho toccato,mai aperte,mai usate,non tocco,non guardo,non "
-     "ho più "
-     "aperto,non aperte,dimenticate,non ho mai aperto"},
-    {Sense::before, "prima,prima di,prima del,prima della,più vecchio di,più vecchi di,precedente "
-                    "a,precedenti a,più vecchie di,entro,prima dell,entro la fine,anteriori a,anteriori "
-                    "al,precedenti al,più vecchio del,più vecchi del,più vecchie del,più vecchia del"},
+    {Sense::unopened, "non aperto,non aperti,mai aperto,mai aperti,non usato,non "
+                      "usati,inutilizzati,inutilizzato,dimenticato,dimenticati,non utilizzati,non apro,non "
+                      "ho aperto,non ho usato,non uso,non uso più,non uso mai,non utilizzo,mai usato,mai "
+                      "usati,inutilizzate,non apro da,non ho toccato,mai aperte,mai usate,non tocco,non "
+                      "guardo,non ho più aperto,non aperte,dimenticate,non ho mai aperto"},
+    {Sense::before,
+     "prima,prima di,prima del,prima della,più vecchio di,più vecchi di,precedente a,precedenti a,più "
+     "vecchie di,entro,prima dell,anteriori a,anteriori al,precedenti al,più vecchio del,più vecchi del,più "
+     "vecchie del,più vecchia del,fino a,fino al,fino alla,fino all,fino ad,fino ai"},
     {Sense::since, "dopo il,più recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
     {Sense::after, "dopo,successivo a,successivi a,dopo il,in seguito a"},
     {Sense::last, "ultimo,ultima,ultimi,ultime,scorsa volta,precedente,l ultima volta,ultima volta"},
@@ -202,7 +194,7 @@ constexpr WordRow kWords[] = {
     {Sense::general,
      "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
      "altra,altri,primo luogo,per primo,lungo,giorno,giorni,settimana,mese,anno,volta,volte,bene,buona "
-     "idea,verso,resti,residui,basta,dura,durerà,basterà,bastare"},
+     "idea,verso,resti,residui"},
 };
 
 constexpr SubjectRow kSubjects[] = {
@@ -345,6 +337,25 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::agoBefore, "da"},
     {Figure::previous, "scorso,scorsa,scorsi,ultimo,ultima,ultimi,ultime,passato,passata"},
     {Figure::current, "questo,questa,quest"},
+    {Figure::following, "prossimo,prossima,prossimi,prossime"},
+    {Figure::ahead, "fra,tra,in,entro,per"},
+    {Figure::daysAhead, "domani", 1},
+    {Figure::daysAhead, "dopodomani", 2},
+    {Figure::namedDay, "capodanno,anno nuovo", valueOf(NamedDay::newYear)},
+    {Figure::namedDay, "san valentino", valueOf(NamedDay::valentine)},
+    {Figure::namedDay, "pasqua", valueOf(NamedDay::easter)},
+    {Figure::namedDay, "pentecoste", valueOf(NamedDay::pentecost)},
+    {Figure::namedDay, "ferragosto", valueOf(NamedDay::midAugust)},
+    {Figure::namedDay, "halloween", valueOf(NamedDay::halloween)},
+    {Figure::namedDay, "ognissanti", valueOf(NamedDay::allSaints)},
+    {Figure::namedDay, "vigilia di natale,vigilia", valueOf(NamedDay::christmasEve)},
+    {Figure::namedDay, "natale", valueOf(NamedDay::christmas)},
+    {Figure::namedDay, "san silvestro", valueOf(NamedDay::newYearsEve)},
+    {Figure::namedDay, "primavera", valueOf(NamedDay::spring)},
+    {Figure::namedDay, "estate", valueOf(NamedDay::summer)},
+    {Figure::namedDay, "autunno", valueOf(NamedDay::autumn)},
+    {Figure::namedDay, "inverno", valueOf(NamedDay::winter)},
+    {Figure::endOf, "fine,la fine,fine di,la fine di,la fine del,fine del,la fine dell", -1},
     {Figure::ofDate, "di,del,dell"},
 };
 

@@ -15,16 +15,19 @@ constexpr WordRow kWords[] = {
      "sugerencias,empezar,empiezo,qué hago,lo mejor,sugerir,conviene,conviene borrar,vale la "
      "pena,empezando,recomendarías,sugieres,qué debo hacer,qué puedo hacer,qué hago ahora,qué debería "
      "hacer,trucos,qué hacer"},
-    {Sense::trust, "confiar,confianza,fiable,virus,de fiar,confiable,es seguro orlen,orlen es "
-                   "seguro,fiarme,fiar,fío,me fío"},
+    {Sense::trust,
+     "confiar,confianza,fiable,de fiar,confiable,es seguro orlen,orlen es seguro,fiarme,fiar,fío,me fío"},
+    {Sense::beyond,
+     "virus,malware,troyano,más rápida,más rápido "
+     "mi,acelerar,acelera,lento,lenta,rendimiento,desfragmentar,ram,memoria "
+     "ram,procesador,cpu,batería,controladores,cortafuegos,antivirus,temperatura,tarjeta gráfica"},
     {Sense::happens, "pasa,pasará,pasaría,ocurre,sucede,qué pasa,para "
                      "siempre,definitivamente,permanentemente,definitivo,adónde van,a dónde "
                      "van,irreversible,romper,rompe,dañar,estropear,estropea,romperá,daña,por su "
                      "cuenta,automáticamente,sin preguntar,por sí solo,por tu cuenta,sin permiso,sin avisar"},
     {Sense::only, "solo,sólo,solamente,únicamente,nada más,nomás"},
-    {Sense::also,
-     "y,e,también,además,y qué hay de,qué hay de,qué tal,y qué tal,y los,y las,y el,y la,qué pasa con,y qué "
-     "pasa con,así como,&,y qué hay de los,y respecto a"},
+    {Sense::also, "y,e,también,además,y qué hay de,qué hay de,qué tal,y qué tal,y los,y las,y el,y la,qué "
+                  "pasa con,y qué pasa con,así como,&,y qué hay de los,y respecto a"},
     {Sense::backward, "ese,esa,esos,esas,este,esta,estos,estas,eso,esto,aquel,aquella,aquellos,lo,ellos,"
                       "ellas,él,ella,los que,las que,el que,la "
                       "que,borrarlo,borrarla,borrarlos,borrarlas,eliminarlo,eliminarlos,eliminarla,"
@@ -35,11 +38,11 @@ constexpr WordRow kWords[] = {
      "han,haber,tienes,tiene,tenemos,tener,para,por,con,sin embargo,o,u,si,como,por "
      "favor,porfa,porfavor,ahora,ahora mismo,actualmente,hoy,en este momento,de "
      "momento,realmente,exactamente,aproximadamente,más o menos,unos "
-     "cuantos,muestra,muéstrame,mostrar,dime,decir,dame,da,dar,lista,listar,busca,buscar,encuentra,encontrar,"
+     "cuantos,muestra,muéstrame,mostrar,dime,decir,da,dar,lista,listar,busca,buscar,encuentra,encontrar,"
      "saber,sé,quiero,quisiera,querría,gustaría,me gustaría,puedes decirme,me puedes decir,puedes "
      "mostrarme,me "
      "dices,todo,toda,todas,todos,muy,mucho,mucha,muchos,muchas,poco,pocos,algo,algún,alguna,algunos,algunas,"
-     "ya,aún,todavía,mismo,misma,llamado,llamada,orlen,pues,vale,ok,eh,bueno,hacer,hago,haz,hace "
+     "ya,aún,todavía,mismo,misma,llamado,llamada,orlen,pues,vale,ok,eh,bueno,hago,hace "
      "falta,hacen,tipo,tipos,clase,guardado,guardados,guardadas,ahí,aquí,allí,por "
      "ahí,entero,entera,propio,propios,enseña,enséñame,ver,veo,va,van,voy,ir,puesto,dónde "
      "puse,rápido,fácilmente,rápidamente,explica,explícame,indica,necesito "
@@ -50,12 +53,19 @@ constexpr WordRow kWords[] = {
      "eso,hijo,aunque,mientras,entonces,así,sobre todo,apenas,casi todo,jamás visto,dónde exactamente,cosa "
      "de,pone,ponen,exactos,quizás,tal vez,hubiera,sería,serían,fácil,rápida,acerca de,fueron,fue,cada "
      "uno,entre,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
-     "realidad,básicamente"},
-    {Sense::negation, "no,nunca,jamás,sin,ningún,ninguno,ninguna,nada,tampoco"},
+     "realidad,básicamente,tendré,tendremos,habrá,tendría,tendrá,tendrás"},
+    {Sense::negation, "no,nunca,jamás,ningún,ninguno,ninguna,nada,tampoco"},
+    {Sense::except,
+     "excepto,salvo,menos,a excepción de,aparte de,además de,quitando,sin contar,que no sean,que no "
+     "sea,excluyendo,pero no,sin,con excepción de,y no,fuera de,sin incluir,pero sin,ignorando"},
+    {Sense::lasts, "alcanza,alcanzará,alcanzar,basta,bastará,bastar,dura,durará,aguanta,aguantará,aguantar,"
+                   "llega,llegará,será suficiente,suficiente espacio"},
+    {Sense::speed,
+     "con qué rapidez,qué tan rápido,a qué velocidad,cómo de rápido,a qué ritmo,ritmo,velocidad,al día,por "
+     "día,a la semana,por semana,al mes,por mes,cada día,cada semana,cada mes"},
     {Sense::what, "qué,cuál,cuáles,dónde,dónde está,dónde están,quién,qué es,qué son,qué hay,cuál es,cuáles "
-                  "son,hay algún,hay "
-                  "alguna,tengo algún,qué clase de,qué tipo de,has encontrado,existen,q,ke,hay,tengo,en "
-                  "qué,a qué,con qué"},
+                  "son,hay algún,hay alguna,tengo algún,qué clase de,qué tipo de,has "
+                  "encontrado,existen,q,ke,hay,tengo,en qué,a qué,con qué"},
     {Sense::howBig,
      "qué tamaño,tamaño,tamaño de,el tamaño,cuánto ocupa,cuánto ocupan,cuánto espacio ocupa,cuánto espacio "
      "ocupan,cuánto pesa,cuánto pesan,cómo de grande,qué tan grande,cuánto espacio usa,cuánto espacio "
@@ -65,21 +75,19 @@ constexpr WordRow kWords[] = {
      "es,cuánto son,cuanto hay en,pese,pesen,ocupe,ocupen"},
     {Sense::howMany, "cuántos,cuántas,número de,cantidad de,cuántas veces,con qué frecuencia"},
     {Sense::can, "puedo,puede,pueden,podría,podrían,podemos,debo,debería,deberían,se puede,se pueden,tengo "
-                 "que,es posible,es "
-                 "seguro,es buena idea,hay que,podré,poder,debemos,se podría"},
+                 "que,es posible,es seguro,es buena idea,hay que,podré,poder,debemos,se podría"},
     {Sense::makeRoom,
      "liberar,libero,libera,liberado,ganar,gano,hacer sitio,hacer espacio,hacer lugar,recuperar "
      "espacio,ahorrar,ahorro,despejar,liberaría,ganaría,liberé,conseguir espacio,obtener "
      "espacio,liberando,hacer hueco,necesito espacio,necesito más "
      "espacio,descongestionar,liberan,ahorraría,recuperaría,recuperar sitio,necesito "
      "sitio,gane,libere,necesito,me hacen falta,me hace falta,menos lleno,aligerar,vaciar el disco"},
-    {Sense::untouched, "nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
-                       "tocas,protegido,protegidos,protegida,"
-                       "protegidas,protege,intocable,intocables,jamás toca,jamás borra,no borra,nunca se "
-                       "borra,nunca borrará,nunca "
-                       "tocará,nunca mueve,no tocará,nunca tocar,nunca borrar,intacto,jamás borrará,nunca "
-                       "borrarías,jamás tocará,"
-                       "nunca eliminará,no se toca,nunca se toca"},
+    {Sense::make, "haz,hacer,hazme,dame,consigue,búscame"},
+    {Sense::untouched,
+     "nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
+     "tocas,protegido,protegidos,protegida,protegidas,protege,intocable,intocables,jamás toca,jamás borra,no "
+     "borra,nunca se borra,nunca borrará,nunca tocará,nunca mueve,no tocará,nunca tocar,nunca "
+     "borrar,intacto,jamás borrará,nunca borrarías,jamás tocará,nunca eliminará,no se toca,nunca se toca"},
     {Sense::cleanUp,
      "limpieza,limpiezas,limpiar,limpio,limpiado,limpié,limpiamos,limpia,ordenar,limpiada,limpiaste"},
     {Sense::uninstall, "desinstalar,desinstalo,desinstala,desinstalación,desinstalado"},
@@ -90,11 +98,10 @@ constexpr WordRow kWords[] = {
                     "borrables,prescindible,prescindibles,innecesario,innecesarios,innecesarias,botar,mueve,"
                     "elimine,borre,quitado,no necesito,ya no necesito,no me hace falta,no me sirven,no me "
                     "sirve,que no necesito,que ya no necesito,no sirven"},
-    {Sense::undo, "deshacer,deshago,restaurar,restauro,restaura,recuperar,recupero,recupera,revertir,"
-                  "devolver,volver atrás,dar "
-                  "marcha atrás,restaurado,recuperado,por error,sin querer,de "
-                  "vuelta,regresar,restablecer,traer de vuelta,por "
-                  "accidente,anular,recuperarlos,recuperarlo,restaurarlo,deshaz,echar atrás"},
+    {Sense::undo,
+     "deshacer,deshago,restaurar,restauro,restaura,recuperar,recupero,recupera,revertir,devolver,volver "
+     "atrás,dar marcha atrás,restaurado,recuperado,por error,sin querer,de vuelta,regresar,restablecer,traer "
+     "de vuelta,por accidente,anular,recuperarlos,recuperarlo,restaurarlo,deshaz,echar atrás"},
     {Sense::safe, "seguro,segura,seguros,sin riesgo,sin "
                   "peligro,peligroso,peligrosa,riesgo,arriesgado,inofensivo,tranquilamente,sin problema,con "
                   "seguridad,de forma segura,seguras,sin miedo,safe,sin "
@@ -105,9 +112,8 @@ constexpr WordRow kWords[] = {
     {Sense::mean, "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
                   "entre,valoración,valoraciones,calificación,calificaciones,clasificación,colores,"
                   "calificado,marcado como,reglas,regla,criterios,decide,clasifica"},
-    {Sense::soFar,
-     "hasta ahora,hasta el momento,hasta hoy,historial,en total ya,desde el principio,alguna vez,hasta la "
-     "fecha,a lo largo del tiempo"},
+    {Sense::soFar, "hasta ahora,hasta el momento,hasta hoy,historial,en total ya,desde el principio,alguna "
+                   "vez,hasta la fecha,a lo largo del tiempo"},
     {Sense::used, "ocupado,ocupados,consumido,ocupada,en uso,cómo de lleno,qué tan lleno"},
     {Sense::handled, "usado,usados,utilizado,utilizados,uso,utilizo,usada,usadas,utilizadas,utilizada,uses"},
     {Sense::opened, "abierto,abiertos,abierta,abiertas,abro,abrí,tocado,tocados,visto,vistos,consultado,"
@@ -123,32 +129,29 @@ constexpr WordRow kWords[] = {
     {Sense::free,
      "libre,libres,disponible,disponibles,queda,quedan,me queda,sobrante,restante,sin usar,me quedan,resta"},
     {Sense::total, "total,capacidad,en total,totales,tamaño total,capacidad total,resumen,estado,panorama"},
-    {Sense::disk,
-     "disco,disco duro,ssd,hdd,ordenador,computadora,computador,pc,equipo,portátil,máquina,partición,"
-     "almacenamiento,unidad,laptop,compu,discos,ordena,memoria interna"},
+    {Sense::disk, "disco,disco "
+                  "duro,ssd,hdd,ordenador,computadora,computador,pc,equipo,portátil,máquina,partición,"
+                  "almacenamiento,unidad,laptop,compu,discos,ordena,memoria interna"},
     {Sense::space,
      "espacio,sitio,lugar,espacio en disco,memoria,espacio de disco,espacio de almacenamiento,hueco"},
     {Sense::howMuch, "cuánto,cuánta,qué cantidad,qué cantidad de,quanto,kuanto,cuánto me"},
     {Sense::why,
      "por qué,porqué,porque,a qué se debe,cómo es que,por qué razón,razón,motivo,debido a qué,xq,pq"},
     {Sense::when,
-     "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué fecha,cuánto falta,"
-     "cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto tarda,cuántas semanas"},
-    {Sense::most, "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más"},
+     "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué fecha,cuánto "
+     "falta,cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto tarda,cuántas semanas"},
+    {Sense::most, "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más,más "
+                  "rápido,más deprisa,más rápidamente"},
     {Sense::takes, "ocupa,ocupan,ocupando,usa,usan,usando,consume,consumen,come,comen,comiendo,gasta,gastan,"
-                   "consumiendo,toma,toman,"
-                   "tomando,llenan,utiliza,utilizan,chupa,chupando,acapara,gastando,devora,ocupar,come "
-                   "tanto,desperdicia,tragando"},
-    {Sense::biggest,
-     "más grande,más grandes,los más grandes,el más grande,la más grande,las más grandes,mayor,mayores,más "
-     "pesado,más "
-     "pesados,más pesada,más "
-     "pesadas,grande,grandes,enormes,enorme,pesados,pesadas,pesado,gigantes,gigante,top,los "
-     "mayores,las mayores,por tamaño,el mayor,la mayor,más gordos,los más pesados,las más pesadas,gordos,más "
-     "voluminosos"},
-    {Sense::smallest,
-     "más pequeño,más pequeños,más pequeña,más pequeñas,el más pequeño,los más pequeños,la más pequeña,"
-     "menores,más chico,más chicos"},
+                   "consumiendo,toma,toman,tomando,llenan,utiliza,utilizan,chupa,chupando,acapara,gastando,"
+                   "devora,ocupar,come tanto,desperdicia,tragando"},
+    {Sense::biggest, "más grande,más grandes,los más grandes,el más grande,la más grande,las más "
+                     "grandes,mayor,mayores,más pesado,más pesados,más pesada,más "
+                     "pesadas,grande,grandes,enormes,enorme,pesados,pesadas,pesado,gigantes,gigante,top,los "
+                     "mayores,las mayores,por tamaño,el mayor,la mayor,más gordos,los más pesados,las más "
+                     "pesadas,gordos,más voluminosos"},
+    {Sense::smallest, "más pequeño,más pequeños,más pequeña,más pequeñas,el más pequeño,los más pequeños,la "
+                      "más pequeña,menores,más chico,más chicos"},
     {Sense::oldest, "más antiguo,más antiguos,más antigua,más antiguas,los más antiguos,el más antiguo,las "
                     "más antiguas,más viejo,más viejos,más vieja,más viejas,los más viejos,las más "
                     "viejas,viejo,viejos,viejas,antiguos,antiguas,vieja,antiguo,la más antigua,el más "
@@ -164,21 +167,17 @@ constexpr WordRow kWords[] = {
                    "a,superiores a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo "
                    "menos,más grandes de,que pasen de,más pesados que,sobre los,superan,supera,que pese más "
                    "de,que pesen mas de,que ocupe más de,que ocupen más de,pese más de"},
-    {Sense::below,
-     "menos de,menor que,menores que,menor de,menores de,más pequeño que,más pequeños que,inferior a,"
-     "inferiores a,como máximo,por debajo de,máximo,<,o menos,debajo de"},
+    {Sense::below, "menos de,menor que,menores que,menor de,menores de,más pequeño que,más pequeños "
+                   "que,inferior a,inferiores a,como máximo,por debajo de,máximo,<,o menos,debajo de"},
     {Sense::inside, "en,dentro,dentro de,desde la carpeta,en la carpeta,de la carpeta,adentro de"},
-    {Sense::unopened, "sin abrir,no abiertos,no abierto,nunca abierto,nunca abiertos,no usado,no usados,sin "
-                      "usar desde,olvidado,olvidados,"
-                      "sin utilizar,no utilizados,no he abierto,no he usado,no uso,ya no uso,nunca uso,no "
-                      "utilizo,no utilizadas,no "
-                      "usadas,no abro,no he tocado,no he utilizado,no abierta,no abiertas,nunca he "
-                      "abierto,olvidadas,nunca abro,sin "
-                      "tocar,nunca utilizo,no he vuelto a abrir"},
+    {Sense::unopened,
+     "sin abrir,no abiertos,no abierto,nunca abierto,nunca abiertos,no usado,no usados,sin usar "
+     "desde,olvidado,olvidados,sin utilizar,no utilizados,no he abierto,no he usado,no uso,ya no uso,nunca "
+     "uso,no utilizo,no utilizadas,no usadas,no abro,no he tocado,no he utilizado,no abierta,no "
+     "abiertas,nunca he abierto,olvidadas,nunca abro,sin tocar,nunca utilizo,no he vuelto a abrir"},
     {Sense::before,
-     "antes,antes de,antes del,más antiguo que,más antiguos que,más viejo que,más viejos que,anterior a,"
-     "anteriores a,más viejas que,más antiguas que,hasta,de hace más de,hace más de,antes de que "
-     "acabe"},
+     "antes,antes de,antes del,más antiguo que,más antiguos que,más viejo que,más viejos que,anterior "
+     "a,anteriores a,más viejas que,más antiguas que,hasta,de hace más de,hace más de"},
     {Sense::since,
      "desde,más reciente que,más recientes que,a partir de,desde hace,más nuevos que,de hace menos de"},
     {Sense::after, "después,después de,posterior a,posteriores a,tras"},
@@ -191,10 +190,10 @@ constexpr WordRow kWords[] = {
                      "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
                      "ver,quién puede leer,quién tiene acceso"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
-    {Sense::general, "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,"
-                     "categoría,categorías,mejor,otro,otra,otros,primero,primer "
-                     "lugar,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa "
-                     "así,bien,mal,hacia,restos,dura,durará,alcanza,bastará"},
+    {Sense::general,
+     "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
+     "categorías,mejor,otro,otra,otros,primero,primer "
+     "lugar,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa así,bien,mal,hacia,restos"},
 };
 
 constexpr SubjectRow kSubjects[] = {
@@ -342,6 +341,25 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::agoBefore, "hace"},
     {Figure::previous, "pasado,pasada,último,última,últimos,últimas,anterior"},
     {Figure::current, "este,esta"},
+    {Figure::following, "próximo,próxima,próximos,próximas,que viene,siguiente,siguientes"},
+    {Figure::ahead, "en,dentro de,de aquí a,durante"},
+    {Figure::daysAhead, "mañana", 1},
+    {Figure::daysAhead, "pasado mañana", 2},
+    {Figure::namedDay, "año nuevo", valueOf(NamedDay::newYear)},
+    {Figure::namedDay, "san valentín", valueOf(NamedDay::valentine)},
+    {Figure::namedDay, "pascua,semana santa,domingo de pascua", valueOf(NamedDay::easter)},
+    {Figure::namedDay, "pentecostés", valueOf(NamedDay::pentecost)},
+    {Figure::namedDay, "halloween", valueOf(NamedDay::halloween)},
+    {Figure::namedDay, "todos los santos", valueOf(NamedDay::allSaints)},
+    {Figure::namedDay, "nochebuena", valueOf(NamedDay::christmasEve)},
+    {Figure::namedDay, "navidad,navidades", valueOf(NamedDay::christmas)},
+    {Figure::namedDay, "nochevieja,fin de año", valueOf(NamedDay::newYearsEve)},
+    {Figure::namedDay, "primavera", valueOf(NamedDay::spring)},
+    {Figure::namedDay, "verano", valueOf(NamedDay::summer)},
+    {Figure::namedDay, "otoño", valueOf(NamedDay::autumn)},
+    {Figure::namedDay, "invierno", valueOf(NamedDay::winter)},
+    {Figure::endOf, "fin,fin de,el fin de,final de,finales de,finales del,final del,fines de,el final de",
+     -1},
     {Figure::ofDate, "de,del,el"},
 };
 

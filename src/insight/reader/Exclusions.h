@@ -1,0 +1,39 @@
+#pragma once
+
+#include "insight/AskContext.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace orlen::AskReader {
+
+/// What a question leaves out: "besides photos", "other than Downloads". Pure; any thread.
+class Exclusions {
+public:
+    /// Of all such phrases, empty if there are none; nothing if one of them names what nobody knows.
+    [[nodiscard]] static std::optional<Exclusions> of(const Question& question, const AskContext& context);
+
+    [[nodiscard]] bool empty() const { return m_names.empty(); }
+    [[nodiscard]] bool leaveOut(const Finding& finding, const FileEntry& entry) const;
+    /// Whether a folder is one of those left out, or in one.
+    [[nodiscard]] bool leaveOut(std::string_view folder) const;
+
+    /// "Left out: photos." Empty if nothing is.
+    [[nodiscard]] Message said() const;
+
+private:
+    bool add(const std::vector<Phrase>& phrases, const AskContext& context);
+    bool add(const Subject& subject);
+    bool addNamed(const std::string& name, const AskContext& context);
+
+    std::vector<const Subject*> m_kinds;
+    std::vector<std::string> m_folders;
+    std::unordered_set<std::string> m_paths;
+    std::vector<Message> m_names;
+};
+
+} // namespace orlen::AskReader

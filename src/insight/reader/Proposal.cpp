@@ -1,0 +1,108 @@
+#include "insight/reader/Proposal.h"
+
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+
+namespace orlen::AskReader {
+
+namespace {
+
+bool mayBeChosen(const AskContext& context, const Finding& finding, const FileEntry& entry)
+{
+    return finding.cleanable && !entry.isTickedAlone && entry.size > 0 &&
+           (!context.protection || context.protection(entry.path) == Protection::none);
+}
+
+/// Drops what another finding rates more carefully.
+void dropRatedHigher(const AskContext& context, Rating rating, std::vector<Hit>& hits)
+{
+    std::unordered_set<std::string_view> careful;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (finding.effectiveRating(entry) > rating)
+                careful.insert(entry.path);
+        }
+    }
+    std::erase_if(hits, [&](const Hit& hit) { return careful.contains(hit.entry->path); });
+}
+
+} // namespace
+
+std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions)
+{
+    std::vector<Hit> hits;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (finding.effectiveRating(entry) == rating && mayBeChosen(context, finding, entry) &&
+                (exclusions.empty() || !exclusions.leaveOut(finding, entry)))
+                hits.push_back({&finding, &entry});
+        }
+    }
+    dropRatedHigher(context, rating, hits);
+    // What several findings list has one size, so it comes to stand side by side; the first finding has it.
+    std::ranges::stable_sort(hits, [](const Hit& a, const Hit& b) {
+        return a.entry->size != b.entry->size ? a.entry->size > b.entry->size : a.entry->path < b.entry->path;
+    });
+    const auto again =
+        std::ranges::unique(hits, [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; });
+    hits.erase(again.begin(), again.end());
+    return hits;
+}
+
+std::vector<Hit> reaching(std::vector<Hit> hits, std::int64_t wanted)
+{
+    std::int64_t bytes = 0;
+    std::size_t count = 0;
+    while (count < hits.size() && bytes < wanted)
+        bytes = checkedAdd(bytes, hits[count++].entry->size);
+    if (count == 0 || bytes < wanted)
+        return hits;
+    // The last one need not be larger than what is still missing.
+    const std::int64_t missing = wanted - (bytes - hits[count - 1].entry->size);
+    std::size_t least = count - 1;
+    while (least + 1 < hits.size() && hits[least + 1].entry->size >= missing)
+        ++least;
+    hits[count - 1] = hits[least];
+    hits.resize(count);
+    return hits;
+}
+
+std::int64_t bytesOf(const std::vector<Hit>& hits)
+{
+    std::int64_t bytes = 0;
+    for (const Hit& hit : hits)
+        bytes = checkedAdd(bytes, hit.entry->size);
+    return bytes;
+}
+
+std::vector<FindingPart> partsOf(const std::vector<Hit>& hits)
+{
+    std::map<const Finding*, std::int64_t> sizes;
+    for (const Hit& hit : hits) {
+        std::int64_t& bytes = sizes[hit.finding];
+        bytes = checkedAdd(bytes, hit.entry->size);
+    }
+    std::vector<FindingPart> parts;
+    parts.reserve(sizes.size());
+    for (const auto& [finding, bytes] : sizes)
+        parts.push_back({finding, bytes});
+    std::ranges::sort(parts, [](const FindingPart& a, const FindingPart& b) {
+        return std::pair(-a.bytes, a.finding->kind) < std::pair(-b.bytes, b.finding->kind);
+    });
+    return parts;
+}
+
+void appendPaths(std::vector<std::string>& paths, const std::vector<Hit>& hits)
+{
+    paths.reserve(paths.size() + hits.size());
+    for (const Hit& hit : hits)
+        paths.push_back(hit.entry->path);
+}
+
+} // namespace orlen::AskReader
