@@ -141,6 +141,17 @@ float CommonMotion::fit(const BlockFind& find) const
     return 1 / (1 + miss * miss);
 }
 
+float CommonMotion::followingShare(std::span<const BlockFind> finds) const
+{
+    float following = 0;
+    float all = 0;
+    for (const BlockFind& found : finds) {
+        following += found.texture * found.correlation * fit(found);
+        all += found.texture;
+    }
+    return all > 0 ? following / all : 0;
+}
+
 FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
 {
     constexpr float kRounding = 0.5F; // levels are never negative, and a cast is much faster than lround
