@@ -4,6 +4,7 @@
 #include "recognition/Sharpness.h"
 #include "scan/photos/FineCheck.h"
 #include "scan/photos/PrintDistance.h"
+#include "scan/photos/QuickLook.h"
 
 #include <benchmark/benchmark.h>
 
@@ -109,14 +110,15 @@ void checkDifferent(benchmark::State& state)
 BENCHMARK(checkDifferent)->Unit(benchmark::kMillisecond);
 
 /// What most pairs of one layout take.
-void checkPreviews(benchmark::State& state)
+void lookQuickly(benchmark::State& state)
 {
-    const CoarseSearch one(FineCheck::previewOf(printOf(1).tile()));
-    const FineCheck::Preview other = FineCheck::previewOf(printOf(2).tile());
+    const PictureOutline one(printOf(1).tile());
+    const PictureOutline other(printOf(2).tile());
+    const QuickLook prepared(one);
     for (auto _ : state)
-        benchmark::DoNotOptimize(FineCheck::hope(one, CoarseSearch(other)));
+        benchmark::DoNotOptimize(QuickLook::hope(prepared, QuickLook(other)));
 }
-BENCHMARK(checkPreviews)->Unit(benchmark::kMicrosecond);
+BENCHMARK(lookQuickly)->Unit(benchmark::kMicrosecond);
 
 void unpackTile(benchmark::State& state)
 {

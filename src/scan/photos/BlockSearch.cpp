@@ -139,7 +139,7 @@ BlockFind BlockSearch<side, block>::find(TilePlace place, const BlockSearch& oth
     return {.block = {place.x * kScale, place.y * kScale},
             .moveX = static_cast<float>((best.x - place.x) * kScale),
             .moveY = static_cast<float>((best.y - place.y) * kScale),
-            .texture = std::sqrt(m_spreads[own]) / kPixels,
+            .texture = texture(place),
             .correlation = std::sqrt(sought.most * m_onesBySpreads[own])};
 }
 

@@ -4,6 +4,7 @@
 #include "scan/photos/PixelPairs.h"
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -42,6 +43,12 @@ public:
 
     /// The blocks with enough structure to be found again, the strongest first.
     [[nodiscard]] const std::vector<TilePlace>& texturedBlocks() const { return m_texturedBlocks; }
+
+    /// Standard deviation of a block's pixels.
+    [[nodiscard]] float texture(TilePlace place) const
+    {
+        return std::sqrt(m_spreads[index(place)]) / kPixels;
+    }
 
     /// The best match of this one's block in the other one, at most `reach` pixels away in each direction.
     [[nodiscard]] BlockFind find(TilePlace place, const BlockSearch& other, int reach) const;

@@ -10,25 +10,26 @@ namespace {
 
 using Row = std::array<double, 3>;
 
-/// Least squares for the three numbers of one axis.
+/// Least squares for the three numbers of either axis.
 struct Normals {
     std::array<Row, 3> matrix{};
-    Row right{};
+    Row rightX{};
+    Row rightY{};
 
-    void add(const Row& at, double move, double weight)
+    void add(const Row& at, const BlockFind& find, double weight)
     {
         for (std::size_t i = 0; i < 3; ++i) {
             for (std::size_t j = 0; j < 3; ++j)
                 matrix[i][j] += weight * at[i] * at[j];
-            right[i] += weight * at[i] * move;
+            rightX[i] += weight * at[i] * find.moveX;
+            rightY[i] += weight * at[i] * find.moveY;
         }
     }
 
     /// By elimination; the diagonal is never 0 because of what `fitted` adds to it.
-    [[nodiscard]] std::array<float, 3> solved() const
+    [[nodiscard]] std::array<float, 3> solved(Row r) const
     {
         std::array<Row, 3> m = matrix;
-        Row r = right;
         for (std::size_t i = 0; i < 3; ++i) {
             for (std::size_t below = i + 1; below < 3; ++below) {
                 const double share = m[below][i] / m[i][i];
@@ -89,24 +90,20 @@ CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
     constexpr double kStiffness = 0.02; ///< ridge on rotation and stretch, relative to the total weight
     CommonMotion motion;
     for (int round = 0; round < kRounds; ++round) {
-        Normals x;
+        Normals normals;
         double total = 1e-9;
-        Normals y;
         for (const BlockFind& find : finds) {
             double weight = find.texture * find.correlation * find.correlation;
             if (round > 0)
                 weight /= 1 + motion.squaredMiss(find) / (kTolerance * kTolerance);
             const Row at{1, fromMiddle(middleOf(find.block.x)), fromMiddle(middleOf(find.block.y))};
-            x.add(at, find.moveX, weight);
-            y.add(at, find.moveY, weight);
+            normals.add(at, find, weight);
             total += weight;
         }
-        for (std::size_t i = 0; i < 3; ++i) {
-            x.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
-            y.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
-        }
-        motion.m_x = x.solved();
-        motion.m_y = y.solved();
+        for (std::size_t i = 0; i < 3; ++i)
+            normals.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
+        motion.m_x = normals.solved(normals.rightX);
+        motion.m_y = normals.solved(normals.rightY);
     }
     return motion;
 }
@@ -139,6 +136,17 @@ float CommonMotion::fit(const BlockFind& find) const
     constexpr float kSquaredLimit = 2.0F * 2.0F;
     const float miss = squaredMiss(find) / kSquaredLimit;
     return 1 / (1 + miss * miss);
+}
+
+float CommonMotion::followingShare(std::span<const BlockFind> finds) const
+{
+    float following = 0;
+    float all = 0;
+    for (const BlockFind& found : finds) {
+        following += found.texture * found.correlation * fit(found);
+        all += found.texture;
+    }
+    return all > 0 ? following / all : 0;
 }
 
 FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const

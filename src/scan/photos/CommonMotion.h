@@ -28,6 +28,9 @@ public:
     /// How closely a match follows the motion: 1 exactly, one half at two pixels off, approaching 0.
     [[nodiscard]] float fit(const BlockFind& find) const;
 
+    /// The share of the structure found, as much as it is alike, that follows the motion: 0 to 1.
+    [[nodiscard]] float followingShare(std::span<const BlockFind> finds) const;
+
     /// The tile with this motion undone. Pixels from outside repeat the edge.
     [[nodiscard]] FeaturePrint::Tile undone(const FeaturePrint::Tile& tile) const;
 

@@ -56,16 +56,7 @@ public:
     [[nodiscard]] const std::vector<BlockFind>& finds() const { return m_finds; }
 
     /// The share of the structure found that follows the motion.
-    [[nodiscard]] float followingShare() const
-    {
-        float following = 0;
-        float all = 0;
-        for (const BlockFind& found : m_finds) {
-            following += found.texture * found.correlation * m_motion.fit(found);
-            all += found.texture;
-        }
-        return all > 0 ? following / all : 0;
-    }
+    [[nodiscard]] float followingShare() const { return m_motion.followingShare(m_finds); }
 
 private:
     const Search& m_one;
@@ -140,12 +131,6 @@ FineCheck::Preview FineCheck::previewOf(const FeaturePrint::Tile& tile)
         }
     }
     return preview;
-}
-
-float FineCheck::hope(const CoarseSearch& one, const CoarseSearch& other)
-{
-    const float found = obedience(one, other).value_or(1);
-    return found < kHopelessPreview ? 0 : found;
 }
 
 std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)

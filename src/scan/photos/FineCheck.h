@@ -14,10 +14,6 @@ namespace orlen::FineCheck {
 using Preview = CoarseSearch::Pixels;
 [[nodiscard]] Preview previewOf(const FeaturePrint::Tile& tile);
 
-/// How much hope a quick look at the previews leaves that `agreement` finds much: 0 for none, up to 1.
-/// Symmetric. Some 20 microseconds.
-[[nodiscard]] float hope(const CoarseSearch& one, const CoarseSearch& other);
-
 /// The share of either tile's structure that is found in the other under one common motion, 0 to 1; much less
 /// than changed copies have if there is no hope. Symmetric. About half a millisecond for pictures that agree,
 /// a tenth of that for most others. Nothing when neither has fine structure: out of focus, or a soft

@@ -3,6 +3,7 @@
 #include "scan/photos/OnAllCores.h"
 #include "scan/photos/PrintDistance.h"
 #include "scan/photos/PrintIndex.h"
+#include "scan/photos/QuickLook.h"
 #include "scan/photos/UnpackedPhotos.h"
 
 #include <algorithm>
@@ -47,7 +48,7 @@ bool takesPart(const PhotoInfo& photo)
 struct Candidate {
     float coarse = 0;
     std::size_t photo = 0;
-    std::optional<float> hope;   ///< if the previews were compared
+    std::optional<float> hope;   ///< if the outlines were compared
     std::optional<bool> isAlike; ///< if they were compared closely
 };
 
@@ -151,7 +152,8 @@ void Clusters::compare(std::vector<Newcomer>& newcomers)
         if (newcomer.candidates.empty())
             continue;
         needed.push_back(newcomer.photo);
-        for (const Candidate& candidate : compared(newcomer))
+        // The farther ones too, which are compared if a nearer one joins a cluster.
+        for (const Candidate& candidate : newcomer.candidates)
             needed.push_back(candidate.photo);
     }
     std::ranges::sort(needed);
@@ -163,10 +165,10 @@ void Clusters::compare(std::vector<Newcomer>& newcomers)
     });
 }
 
-/// The nearest candidates that the newcomer may be like, from their previews; of a crowd only the likeliest.
+/// The nearest candidates that the newcomer may be like, from their outlines; of a crowd only the likeliest.
 std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
 {
-    std::optional<CoarseSearch> own;
+    std::optional<QuickLook> own;
     std::vector<Candidate*> found;
     Candidate* ofCrowd = nullptr;
     for (Candidate& candidate : compared(newcomer)) {
@@ -174,8 +176,8 @@ std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
             break;
         if (!candidate.hope) {
             if (!own)
-                own.emplace(m_unpacked.preview(newcomer.photo));
-            candidate.hope = FineCheck::hope(CoarseSearch(m_unpacked.preview(candidate.photo)), *own);
+                own.emplace(m_unpacked.outline(newcomer.photo));
+            candidate.hope = QuickLook::hope(QuickLook(m_unpacked.outline(candidate.photo)), *own);
         }
         if (*candidate.hope <= 0)
             continue;

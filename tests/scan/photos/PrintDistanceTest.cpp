@@ -1,7 +1,7 @@
 #include "scan/photos/PrintDistance.h"
 
 #include "platform/images/FeaturePrint.h"
-#include "scan/photos/FineCheck.h"
+#include "scan/photos/QuickLook.h"
 
 #include <gtest/gtest.h>
 
@@ -152,10 +152,11 @@ TEST(PrintDistanceTest, fineStructureDecidesWhereTheLayoutIsTheSame)
 TEST(PrintDistanceTest, aQuickLookLeavesHopeForEveryChangedCopy)
 {
     const auto isHopeful = [](const FeaturePrint& one, const FeaturePrint& other) {
-        const CoarseSearch first(FineCheck::previewOf(one.tile()));
-        const CoarseSearch second(FineCheck::previewOf(other.tile()));
-        EXPECT_EQ(FineCheck::hope(first, second), FineCheck::hope(second, first));
-        return FineCheck::hope(first, second) > 0;
+        const PictureOutline first(one.tile());
+        const PictureOutline second(other.tile());
+        const float hope = QuickLook::hope(QuickLook(first), QuickLook(second));
+        EXPECT_EQ(hope, QuickLook::hope(QuickLook(second), QuickLook(first)));
+        return hope > 0;
     };
     for (unsigned seed = 1; seed <= 6; ++seed) {
         const Structure pictures[] = {waves(seed), text(seed)};
