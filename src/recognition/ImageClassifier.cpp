@@ -50,6 +50,10 @@ constexpr Word kReceipt{"receipt", 0.60F, 0.2F};
 constexpr Word kDocument{"document", 0.60F, 0.6F};
 constexpr Word kMeme{"meme", 0.80F, 0.2F};
 constexpr Word kIllustration{"illustration", 0.50F, 0.3F};
+constexpr Word kPages[] = {kReceipt, kDocument};
+constexpr Word kWords[] = {kScreenshot, kReceipt, kDocument, kMeme, kIllustration};
+// Score of a page without a doubt: keyboards, seen alone, reach less, and nearly all receipts more.
+constexpr float kSurePage = 0.76F;
 
 // Pairs of neighbouring letters or words on lines, in one polarity. Few photos have this many, and no
 // readable page has fewer.
@@ -183,15 +187,16 @@ std::vector<ImageLabel> ImageClassifier::labels(const RgbImage& image, const Evi
 
 bool ImageClassifier::decides(const ImageLabel& label)
 {
-    constexpr Word kWords[] = {kScreenshot, kReceipt, kDocument, kMeme, kIllustration};
     return std::any_of(std::begin(kWords), std::end(kWords), [&](const Word& word) {
         return label.identifier == word.identifier && label.confidence >= word.decides;
     });
 }
 
-bool ImageClassifier::isPage(const ImageLabel& label)
+bool ImageClassifier::isSurelyPage(const ImageLabel& label)
 {
-    return label.identifier == kReceipt.identifier || label.identifier == kDocument.identifier;
+    return std::any_of(std::begin(kPages), std::end(kPages), [&](const Word& word) {
+        return label.identifier == word.identifier && label.confidence >= labelOf(word, kSurePage).confidence;
+    });
 }
 
 } // namespace orlen

@@ -20,7 +20,7 @@ struct Evidence {
 
 /// Whether the photo analysis goes by this label.
 [[nodiscard]] bool decides(const ImageLabel& label);
-/// Whether it says receipt or document.
-[[nodiscard]] bool isPage(const ImageLabel& label);
+/// Whether it says receipt or document, and is surer than it need be to decide.
+[[nodiscard]] bool isSurelyPage(const ImageLabel& label);
 
 } // namespace orlen::ImageClassifier

@@ -18,11 +18,9 @@ bool decidesAny(const Labels& labels)
     return std::any_of(labels.begin(), labels.end(), ImageClassifier::decides);
 }
 
-bool isPage(const Labels& labels)
+bool isSurelyPage(const Labels& labels)
 {
-    return std::any_of(labels.begin(), labels.end(), [](const ImageLabel& label) {
-        return ImageClassifier::decides(label) && ImageClassifier::isPage(label);
-    });
+    return std::any_of(labels.begin(), labels.end(), ImageClassifier::isSurelyPage);
 }
 
 /// The same part of the whole picture.
@@ -51,10 +49,12 @@ std::vector<ImageLabel> PictureLabels::of(int descriptor, const ImageDecoder::De
     const auto closer = ImageDecoder::decode(descriptor, bound);
     if (!closer)
         return labels;
-    // The edges of the sheet hide how its lines run, so both ways are tried.
+    // The edges of the sheet may hide how its lines run, so both ways are tried. What else lies there bright
+    // on dark has seldom been seen so near in learning, and has to look more like a page than a whole
+    // picture.
     for (const RgbImage& look : {closer->small, LineDirection::turned(closer->small)}) {
         Labels closerLabels = ImageClassifier::labels(look, evidence);
-        if (isPage(closerLabels))
+        if (isSurelyPage(closerLabels))
             return closerLabels;
     }
     return labels;

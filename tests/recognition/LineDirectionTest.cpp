@@ -23,6 +23,19 @@ TEST(LineDirectionTest, pageOnItsSideIsSideways)
     }
 }
 
+TEST(LineDirectionTest, edgesOfASheetDoNotHideHowItLies)
+{
+    RgbImage image = PixelDrawing::plain(512, 512, {20, 20, 20});
+    PixelDrawing::fill(image, 180, 20, 150, 470, {255, 255, 255});
+    for (int line = 0; line < 20; ++line) // a narrow receipt: a word and a price in each line
+        for (const int left : {200, 280})
+            PixelDrawing::word(image, left + line * 5 % 9, 40 + line * 22, 4 + line % 3, 8, {60, 60, 60});
+    for (const bool expected : {false, true, false, true}) {
+        EXPECT_EQ(LineDirection::isSideways(image), expected);
+        image = LineDirection::turned(image);
+    }
+}
+
 TEST(LineDirectionTest, fourQuarterTurnsLeadBack)
 {
     RgbImage strip = PixelDrawing::plain(3, 1, {0, 0, 0});
