@@ -222,6 +222,9 @@ constexpr WordRow kWords[] = {
                      "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,"
                      "location,live,lives,leftovers,remains,leftover files,last "
                      "long,lasts,lasting,suffice,mess,messy,chaos,cluttered,disorder,clutterd"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler, "with their data,with its data,with data,including data,including their data,including "
+                    "its data,data included"},
 };
 
 constexpr SubjectRow kSubjects[] = {
