@@ -22,15 +22,27 @@ KnownApp::Source source(const AppInfo& app)
     return app.source == AppSource::snap ? KnownApp::Source::snap : KnownApp::Source::own;
 }
 
+KnownApp known(AppInfo app)
+{
+    KnownApp one{std::move(app.name), app.total(), source(app), std::move(app.advice)};
+    if (app.lastUse) {
+        one.lastUse = app.lastUse->when;
+        one.isUseNoted = app.lastUse->source == AppUse::Source::desktop;
+    }
+    return one;
+}
+
 Found read(const std::stop_token& stop)
 {
     std::vector<AppInfo> apps = AppList::list(stop);
     std::erase_if(apps, [](const AppInfo& app) { return app.source == AppSource::removedFlatpak; });
     AppList::measure(
         apps, [&](std::size_t index, std::int64_t bytes) { apps[index].size = bytes; }, stop);
+    AppList::measureData(
+        apps, [&](std::size_t index, std::int64_t bytes) { apps[index].dataSize = bytes; }, stop);
     Found found;
     for (AppInfo& app : apps)
-        found.apps.push_back({std::move(app.name), app.size, source(app), std::move(app.advice)});
+        found.apps.push_back(known(std::move(app)));
     if (stop.stop_requested())
         return found;
     for (LaunchItem& item : LaunchControl::load())

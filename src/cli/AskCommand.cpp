@@ -28,6 +28,16 @@ void printAnswer(const Answer& answer)
     Session::print(shown(answer.text) + "\n\n" + Session::colours().styled(Style::dim, introduction) + '\n');
 }
 
+/// Reads the applications and startup items; false if Ctrl-C was pressed.
+bool readPrograms(Session& session, AppModel& model)
+{
+    bool isStopped = false;
+    model.programs()->load();
+    session.run({[&] { return isStopped || model.programs()->apps().has_value(); }, [&] { isStopped = true; },
+                 [] { return CliTexts::kMeasuringApps; }});
+    return !isStopped;
+}
+
 class AskCommand final : public Command {
 public:
     AskCommand() : Command({"ask", CliTexts::kAskSummary}) {}
@@ -47,6 +57,8 @@ public:
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
+        if (AskEngine::needsPrograms(m_question, model.askContext()) && !readPrograms(session, model))
+            return session.cancelled();
         const Answer answer = AskEngine::answer(m_question, model.askContext());
         if (wantsJson())
             Session::printDocument(JsonDocuments::answer(answer));

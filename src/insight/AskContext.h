@@ -23,9 +23,11 @@ struct KnownApp {
     enum class Source { own, flatpak, snap };
 
     std::string name;
-    std::optional<std::int64_t> bytes; ///< nothing until measured
+    std::optional<std::int64_t> bytes; ///< with what it has stored; nothing until measured
     Source source = Source::own;
-    Message advice; ///< how to remove it another way than with Orlen; empty if Orlen can
+    Message advice;                     ///< how to remove it another way than with Orlen; empty if Orlen can
+    std::optional<TimePoint> lastUse{}; ///< nothing if nobody knows
+    bool isUseNoted = false;            ///< false: its file was read then, which something else may have done
 };
 
 /// Something that starts when the person logs in.

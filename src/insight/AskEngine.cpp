@@ -101,6 +101,11 @@ Turn turn(const std::string& question, const AskContext& context, const Conversa
     return {std::move(answer), {}};
 }
 
+bool needsPrograms(const std::string& question, const AskContext& context, const LanguageModel& model)
+{
+    return !model.isAvailable() && AskReader::needsPrograms(inEnglish(question), context);
+}
+
 std::string contextText(const AskContext& context)
 {
     const StorageBreakdown& breakdown = context.breakdown;

@@ -52,6 +52,10 @@ inline constexpr std::array<Text, 5> kSuggestions{
 [[nodiscard]] Turn turn(const std::string& question, const AskContext& context, const Conversation& before,
                         const LanguageModel& model = LanguageModel::ofSystem());
 
+/// Whether `answer` may use the applications and startup items of its context, which take time to read.
+[[nodiscard]] bool needsPrograms(const std::string& question, const AskContext& context,
+                                 const LanguageModel& model = LanguageModel::ofSystem());
+
 /// The built-in matcher: looks for keywords anywhere in the question and always has an answer.
 [[nodiscard]] Answer fallback(std::string_view question, const AskContext& context);
 

@@ -263,7 +263,22 @@ inline constexpr Text kAppUnknown = message(
     "“{name}” is not among the applications that Orlen lists. What your distribution brought is removed "
     "with its package manager.");
 // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
-inline constexpr Text kBiggestApps = message("The biggest applications that Orlen lists are {apps}.");
+inline constexpr Text kBiggestApps =
+    message("With their data, the biggest applications that Orlen lists are {apps}.");
+// TRANSLATORS: {apps} is a list: "Blender (3 GB, last used 4 March 2024), GIMP (500 MB, last used 1 May
+// 2025)".
+inline constexpr Text kUnusedApps =
+    messages("{count} application was not used since {date}: {apps}.",
+             "{count} applications were not used since {date}, the longest unused first: {apps}.");
+// TRANSLATORS: One of the list. {size} is with what it has stored.
+inline constexpr Text kAppLastUsed = message("{name} ({size}, last used {date})");
+// TRANSLATORS: The same, of an application whose file was read then, likely because somebody started it.
+inline constexpr Text kAppLastRead = message("{name} ({size}, file last read {date})");
+inline constexpr Text kAllAppsUsed =
+    message("Every application whose last use is known was used since {date}.");
+inline constexpr Text kOtherUseIsUnknown =
+    messages("When {count} other application was last used is not known.",
+             "When {count} other applications were last used is not known.");
 inline constexpr Text kUseIsUnknown = message("Orlen doesn't know when an application was last used.");
 inline constexpr Text kAppsScreen =
     // TRANSLATORS: "orlen apps" is a command.

@@ -14,6 +14,7 @@ namespace orlen {
 namespace {
 
 using Json = nlohmann::ordered_json;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -124,6 +125,19 @@ TEST(AppsCommandTest, anUninstalledApplicationIsInTheHistory)
     EXPECT_EQ(Persist::loadHistory().records.front().title, "Uninstall Foo Qux");
     EXPECT_EQ(orlen({"restore", Persist::loadHistory().records.front().id.text(), "--yes"}).status, 0);
     EXPECT_TRUE(home.isUntouched());
+}
+
+TEST(AppsCommandTest, questionsAboutApplicationsAreAnswered)
+{
+    const InstalledHome home;
+    EXPECT_THAT(orlen({"ask", "how big is Foo Qux"}).out, HasSubstr("The application Foo Qux takes"));
+    EXPECT_THAT(orlen({"ask", "which apps do I not use"}).out,
+                HasSubstr("when an application was last used"));
+    home.file(".local/share/gnome-shell/application_state",
+              "<application-state><context id=''><application id='org.fooqux.Fooqux.desktop' "
+              "last-seen='1577880000'/></context></application-state>");
+    EXPECT_THAT(orlen({"ask", "which apps do I not use"}).out,
+                AllOf(HasSubstr("1 application was not used since"), HasSubstr("Foo Qux (")));
 }
 
 TEST(AppsCommandTest, aServiceOfTheApplicationIsSwitchedOffFirst)

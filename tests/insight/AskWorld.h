@@ -84,6 +84,9 @@ protected:
             {"Blender", 3 * kBytesInGB, KnownApp::Source::own, {}},
             {"GIMP", 500 * kBytesInMB, KnownApp::Source::flatpak, message("Use Flatpak to remove it.")},
             {"Spotify", std::nullopt, KnownApp::Source::snap, message("Use Snap to remove it.")}};
+        (*context.apps)[0].lastUse = on("2025-01-10");
+        (*context.apps)[0].isUseNoted = true;
+        (*context.apps)[1].lastUse = on("2026-05-01");
         context.startupItems = {{{"Nextcloud", true}, {"Old Helper", false}}};
         context.folders = {reading("2026-04-28", 31, 0, 5), reading("2026-05-20", 61, 12, 5),
                            reading("2026-05-30", 71, 12, 1), reading("2026-05-31", 80, 12, 3)};

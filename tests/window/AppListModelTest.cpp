@@ -71,6 +71,31 @@ TEST(AppListModelTest, canBeDestroyedWhileItMeasures)
     }
 }
 
+TEST(AppOrderModelTest, putsWhatWasNotUsedLongestFirst)
+{
+    const TempHome home;
+    for (const char* name : {"Alder", "Birch", "Cedar"})
+        home.file(std::string(".local/share/flatpak/app/org.example.") + name + "/current/active/metadata");
+    home.fileOfSize(".var/app/org.example.Birch/a", 8'192);
+    home.file(".local/share/gnome-shell/application_state",
+              "<application-state><context id=''>"
+              "<application id='org.example.Birch.desktop' last-seen='1750000000'/>"
+              "<application id='org.example.Cedar.desktop' last-seen='1700000000'/></context>"
+              "</application-state>");
+    AppModel app({});
+    AppListModel apps(app);
+    AppOrderModel shown;
+    shown.setList(&apps);
+    shown.setOrder(AppOrderModel::ByUse);
+    ASSERT_TRUE(waitUntil([&] { return apps.rowCount() == 3 && isSettled(apps); }));
+    EXPECT_EQ(texts(shown, AppRole::name), (QStringList{"Cedar", "Birch", "Alder"}));
+    const QStringList usage = texts(shown, AppRole::usage);
+    EXPECT_TRUE(usage[0].startsWith("Last used ")) << usage[0].toStdString();
+    EXPECT_TRUE(usage[1].startsWith("8 KB of it data")) << usage[1].toStdString();
+    EXPECT_EQ(usage[2], "Last use unknown");
+    EXPECT_TRUE(apps.summary().endsWith("20 KB")) << apps.summary().toStdString();
+}
+
 TEST(AppOrderModelTest, findsAllWordsOfASearchAndSortsBySize)
 {
     const TempHome home;

@@ -304,6 +304,20 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
     return found;
 }
 
+bool needsPrograms(std::string_view text, const AskContext& context)
+{
+    if (!isReadable(text) || isSuggested(text))
+        return false;
+    KnownNames names(context);
+    const Question question =
+        bestReading(wordsOf(text), context.now, [&](std::string_view word) { return names(word); }, {});
+    return question.senses.has(uninstall) || std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+               const bool mayBeName = phrase.sense == unknown || phrase.sense == quoted;
+               return phrase.subject != nullptr ? phrase.subject->isProgram
+                                                : mayBeName && PathText::extension(phrase.text).empty();
+           });
+}
+
 Conversation conversationAfter(std::string_view text, const AskContext& context, const Answer& answer,
                                const Conversation& before)
 {

@@ -18,6 +18,9 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Turn> turn(std::string_view question, const AskContext& context,
                                        const Conversation& before);
 
+/// Whether an answer may speak of applications or of what starts at login, which takes time to read.
+[[nodiscard]] bool needsPrograms(std::string_view question, const AskContext& context);
+
 /// The conversation after an answer of the matcher.
 [[nodiscard]] Conversation conversationAfter(std::string_view question, const AskContext& context,
                                              const Answer& answer, const Conversation& before);

@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/UnusedApps.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -45,11 +46,13 @@ Answer apps(const Question& question, const AskContext& context)
 {
     std::vector<Message> lines;
     if (question.senses.has(Sense::unopened)) {
-        lines.emplace_back(InsightTexts::kUseIsUnknown);
+        lines = unusedApps(question, context);
     } else if (const auto size = sizeOfSubject(question, context); size && !size->text.empty()) {
         lines.push_back(size->text);
     }
-    std::ranges::move(biggestApps(context, [](const KnownApp&) { return true; }), std::back_inserter(lines));
+    if (!question.senses.has(Sense::unopened))
+        std::ranges::move(biggestApps(context, [](const KnownApp&) { return true; }),
+                          std::back_inserter(lines));
     lines.emplace_back(question.senses.meets({Sense::remove, Sense::uninstall}) ? InsightTexts::kAppRemoval
                                                                                 : InsightTexts::kAppsScreen);
     return {AskText::lines(std::move(lines)), {}};

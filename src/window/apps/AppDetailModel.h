@@ -26,7 +26,7 @@ class AppDetailModel : public orlen::LeftoverListModel {
     Q_PROPERTY(QString icon READ icon NOTIFY changed)
     /// Of the application, and of its data where that is no leftover to choose; empty until measured.
     Q_PROPERTY(QString size READ size NOTIFY changed)
-    /// How much of it is data, and when it was last used.
+    /// When it was last used, and how much of `size` is data.
     Q_PROPERTY(QString usage READ usage NOTIFY changed)
     /// Whether Orlen can remove it; otherwise `advice` says how to.
     Q_PROPERTY(bool removable READ isRemovable NOTIFY changed)
@@ -48,7 +48,10 @@ public:
     [[nodiscard]] QString identifier() const { return DisplayText::path(m_info.bundleID); }
     [[nodiscard]] QString icon() const { return AppInfoTexts::iconId(m_info); }
     [[nodiscard]] QString size() const;
-    [[nodiscard]] QString usage() const { return AppInfoTexts::usage(m_info); }
+    [[nodiscard]] QString usage() const
+    {
+        return isRemovable() ? AppInfoTexts::lastUse(m_info) : AppInfoTexts::usage(m_info);
+    }
     [[nodiscard]] bool isRemovable() const { return m_info.isRemovable(); }
     [[nodiscard]] QString advice() const { return DisplayText::text(m_info.advice); }
     [[nodiscard]] QString command() const { return DisplayText::line(m_info.adviceCommand); }

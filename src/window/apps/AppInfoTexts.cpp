@@ -46,7 +46,7 @@ QString symbol(AppSource source)
     return {};
 }
 
-Message lastUse(const AppInfo& app)
+Message useOf(const AppInfo& app)
 {
     if (!app.lastUse)
         return WindowTexts::kUseUnknown;
@@ -86,8 +86,13 @@ QString usage(const AppInfo& app)
     QStringList facts;
     if (app.dataSize.value_or(0) > 0)
         facts += DisplayText::text(Message(WindowTexts::kOfItData, {{"size", Bytes{*app.dataSize}}}));
-    facts += DisplayText::text(lastUse(app));
+    facts += lastUse(app);
     return DisplayText::facts(facts);
+}
+
+QString lastUse(const AppInfo& app)
+{
+    return DisplayText::text(useOf(app));
 }
 
 QString kind(AppSource source)

@@ -18,6 +18,8 @@ namespace orlen::AppInfoTexts {
 [[nodiscard]] QString origin(const AppInfo& app);
 /// How much of it is data, if any, and when it was last used, or that nobody knows.
 [[nodiscard]] QString usage(const AppInfo& app);
+/// The last use alone.
+[[nodiscard]] QString lastUse(const AppInfo& app);
 /// "Flatpak", "App folder" …
 [[nodiscard]] QString kind(AppSource source);
 /// The icon's id for `AppIconProvider`.

@@ -223,6 +223,9 @@ constexpr WordRow kWords[] = {
      "do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
      "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
      "leftovers,remains,leftover files,mess,messy,chaos,cluttered,disorder,clutterd,installed"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler, "with their data,with its data,with data,including data,including their data,including "
+                    "its data,data included"},
 };
 
 constexpr SubjectRow kSubjects[] = {

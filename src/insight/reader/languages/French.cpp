@@ -207,6 +207,8 @@ constexpr WordRow kWords[] = {
      "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
      "autres,premier,abord,premier lieu,long,longtemps,seul,bon,temps,jour,jours,mois,année,fois,vers "
      "quoi,plus,ordures,restes"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler, "avec leurs données,avec données,données comprises,données incluses,avec leurs fichiers"},
 };
 
 constexpr SubjectRow kSubjects[] = {

@@ -195,6 +195,9 @@ constexpr WordRow kWords[] = {
      "unnötige,unnötigen,müll,kram,krempel,zeug,kategorie,kategorien,mehr,zuerst,als "
      "erstes,besser,gut,lang,lange,länger,funde,fund,andere,anderen,anderes,überflüssige,tag,tage,woche,"
      "monat,jahr,male,dauert,reste,chaos,durcheinander,unordnung"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler, "mit ihren daten,mit daten,samt daten,samt ihren daten,mitsamt daten,mitsamt ihren "
+                    "daten,inklusive daten,einschließlich daten"},
 };
 
 constexpr SubjectRow kSubjects[] = {

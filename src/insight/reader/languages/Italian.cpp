@@ -195,6 +195,9 @@ constexpr WordRow kWords[] = {
      "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
      "altra,altri,primo luogo,per primo,lungo,giorno,giorni,settimana,mese,anno,volta,volte,bene,buona "
      "idea,verso,resti,residui"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler,
+     "con i loro dati,con dati,con i dati,dati compresi,dati inclusi,compresi i dati,inclusi i dati"},
 };
 
 constexpr SubjectRow kSubjects[] = {

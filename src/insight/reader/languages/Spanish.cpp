@@ -194,6 +194,8 @@ constexpr WordRow kWords[] = {
      "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
      "categorías,mejor,otro,otra,otros,primero,primer "
      "lugar,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa así,bien,mal,hacia,restos"},
+    // Of applications: their sizes are with it anyway.
+    {Sense::filler, "con sus datos,con datos,incluidos sus datos,incluidos los datos,datos incluidos"},
 };
 
 constexpr SubjectRow kSubjects[] = {

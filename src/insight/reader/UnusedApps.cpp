@@ -1,0 +1,67 @@
+#include "insight/reader/UnusedApps.h"
+
+#include "insight/InsightTexts.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <iterator>
+#include <span>
+
+namespace orlen::AskReader {
+
+namespace {
+
+/// Longer ago, an application counts as unused if the question names no date.
+constexpr std::chrono::days kHalfAYear{182};
+constexpr std::size_t kListedApps = 10;
+
+TimePoint neededUse(const Question& question, TimePoint now)
+{
+    const Phrase* const phrase = question.first(Sense::period);
+    return phrase != nullptr && phrase->period ? phrase->period->from : now - kHalfAYear;
+}
+
+Message withLastUse(const KnownApp& app)
+{
+    const Place name{"name", PathText::forDisplay(app.name)};
+    if (!app.bytes)
+        return Message::verbatim(PathText::forDisplay(app.name));
+    return {app.isUseNoted ? InsightTexts::kAppLastUsed : InsightTexts::kAppLastRead,
+            {name, {"size", Bytes{*app.bytes}}, {"date", dayOf(*app.lastUse)}}};
+}
+
+Message unusedLine(std::span<const KnownApp> unused, TimePoint from)
+{
+    Several list{{}, Several::Joint::commas};
+    std::ranges::transform(unused.first(std::min(unused.size(), kListedApps)),
+                           std::back_inserter(list.messages), withLastUse);
+    return {InsightTexts::kUnusedApps,
+            {{"count", std::ssize(unused)}, {"date", dayOf(from)}, {"apps", std::move(list)}}};
+}
+
+} // namespace
+
+std::vector<Message> unusedApps(const Question& question, const AskContext& context)
+{
+    std::vector<KnownApp> known;
+    std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(known),
+                         [](const KnownApp& app) { return app.lastUse.has_value(); });
+    if (known.empty())
+        return {InsightTexts::kUseIsUnknown};
+    const auto others = std::ssize(*context.apps) - std::ssize(known);
+    const TimePoint from = neededUse(question, context.now);
+    std::erase_if(known, [&](const KnownApp& app) { return *app.lastUse >= from; });
+    std::ranges::stable_sort(known, {}, &KnownApp::lastUse);
+    std::vector<Message> lines;
+    if (known.empty())
+        lines.push_back({InsightTexts::kAllAppsUsed, {{"date", dayOf(from)}}});
+    else
+        lines.push_back(unusedLine(known, from));
+    if (others > 0)
+        lines.push_back({InsightTexts::kOtherUseIsUnknown, {{"count", others}}});
+    return lines;
+}
+
+} // namespace orlen::AskReader
