@@ -43,6 +43,14 @@ constexpr Row kAfterFindings[] = {
 constexpr Row kWithout[] = {
     {"what can I safely delete", "App caches (4 GB)"},
     {"except caches", "Left out: caches.|60 MB", "App caches"},
+    {"how many screenshots", "Screenshots: 2 MB"},
+    {"show them", "Of screenshots the last scan lists 1|Screenshot 1.png"},
+    {"files over 3 GB", "wedding.mp4|holiday.mkv"},
+    {"and the first?", "wedding.mp4 (9 GB)", "holiday"},
+    {"and the next one", "holiday.mkv (4 GB)", "wedding"},
+    {"but not mkv files", "Left out: videos.|lists no files over 3 GB"},
+    {"when is my disk full", "30 August 2026"},
+    {"and by Christmas?", "Probably yes."},
     {"old files in Documents", "report.pdf|contract-2021"},
     {"not the report", "Left out: report.|contract-2021", "report.pdf"},
 };

@@ -21,6 +21,8 @@ constexpr Row kNamed[] = {
     {"is the weding.mp4 file safe", "wedding.mp4|9 GB|Review"},
     {"how big is ~/Videos/holiday.mkv", "4 GB|holiday.mkv", "wedding"},
     {"can I remove the slack cache?", "slack|3 GB|rated Safe|Apps make them again.", "mozilla"},
+    {"is mozilla's cache important", "mozilla (1 GB)|Safe"},
+    {"can you delete my documents for me", "~/Documents itself is protected|report.pdf"},
     {"what's mozilla?", "~/.cache|1 GB|Safe"},
     {"can I delete report", "report.pdf", "final"},
     {"delete holiday.mvk?", "holiday.mkv|4 GB", "not in the results"},
@@ -76,6 +78,10 @@ constexpr Row kLater[] = {
     {"do I have enough space until next month", "Probably yes.|30 August 2026"},
     {"is there going to be room left in three weeks", "Probably yes.|30 August 2026"},
     {"will the disk survive till friday", "Probably yes."},
+    {"do i have room until the end of next month", "Probably yes."},
+    {"will I make it to New Year's Eve", "Probably not."},
+    {"how long will 120 GB last", "30 August 2026"},
+    {"free space? and when full?", "120 GB is free|30 August 2026"},
     {"how full will the disk be in 2 months", "30 August 2026", "Probably"},
     {"how quickly is my disk filling up", "1 GB per day", "could free"},
     {"when will my disk be full and how do I free 5 gb", "30 August 2026|For the rest of 5 GB"},
@@ -88,7 +94,18 @@ constexpr Row kLeftOut[] = {
     {"biggest files without the ones in Downloads", "Left out: ~/Downloads.|wedding", "debian"},
     {"what's big apart from the wedding video", "Left out: wedding.|holiday", "wedding.mp4"},
     {"free 2 GB but not from caches and logs", "Left out: caches, log files.|Review", "App caches"},
+    {"what could I throw out without touching my pictures", "Left out: photos.|You could free"},
+    {"largest five things, but leave my Downloads out of it", "Left out: ~/Downloads.|wedding", "debian"},
+    {"biggest files in Videos without Projects", "Left out: Projects.|wedding", "cut.mov"},
     {"biggest files except unicorns", "I don't know that", "wedding"},
+};
+
+constexpr Row kRated[] = {
+    {"show Safe items over 1 GB", "Of files rated Safe over 1 GB the last scan lists 1|slack", "wedding"},
+    {"which Review files are biggest", "Of files rated Review|wedding.mp4", "slack"},
+    {"everything rated Keep", "Of files rated Keep the last scan lists 1|contract-2021", "report.pdf"},
+    {"how much space does everything marked Safe take", "Of files rated Safe", "Review"},
+    {"does Keep mean I can't delete it", "Keep:|warning"},
 };
 
 constexpr Row kGrown[] = {
@@ -99,6 +116,8 @@ constexpr Row kGrown[] = {
     {"which folders have grown most since 2026-05-21", "Since 20 May 2026|19 GB"},
     {"what grew on my disk since 2026-06-01", "no two scans"},
     {"what grew in 2025", "no two scans"},
+    {"has Downloads become bigger since may", "Since 28 April 2026|~/Downloads: 12 GB"},
+    {"what changed since the last scan", "Since 30 May 2026|~/Videos: 9 GB"},
     {"what has grown since May 20", "Since 28 April 2026|~/Videos: 49 GB"},
 };
 
@@ -164,6 +183,8 @@ constexpr Row kAbout[] = {
     {"what does System mean", "no other category counts", "Keep:"},
     {"difference between safe and review", "Safe:|Review:", "Keep:"},
     {"what is the weather in Graz", "I don't know that", "GB"},
+    {"list all my cleanups", "2 clean-ups", "could free"},
+    {"are my documents at risk", "Nothing leaves|never touches", "contract"},
     {"does this thing scan for viruses", "not what Orlen is for", "could free"},
     {"do you empty the trash", "never empties the Trash", "found no"},
     {"does nextcloud start automatically", "1 item starts|Nextcloud"},
@@ -245,8 +266,9 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kLater), std::span<const Row>(kLeftOut), std::span<const Row>(kGrown),
-          std::span<const Row>(kSubjects), std::span<const Row>(kAbout), std::span<const Row>(kEveryday)})
+          std::span<const Row>(kLater), std::span<const Row>(kLeftOut), std::span<const Row>(kRated),
+          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout),
+          std::span<const Row>(kEveryday)})
         expectAnswers(rows);
 }
 

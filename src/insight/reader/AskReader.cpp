@@ -30,6 +30,9 @@ constexpr std::size_t kMostParts = 4;
 constexpr SenseSet kQuestionWords{what, howBig, howMuch,   howMany,  can,      when,
                                   why,  undo,   uninstall, makeRoom, untouched};
 
+/// Says what a question for the figures of the disk says.
+constexpr SenseSet kFigures{free, used, total, disk, space, general};
+
 bool isSuggested(std::string_view text)
 {
     const std::string plain = AskText::plainWords(text);
@@ -95,8 +98,12 @@ std::vector<Question> partsOf(const Question& question)
     std::vector<Question> parts;
     std::size_t from = 0;
     for (std::size_t i = 1; i < question.phrases.size(); ++i) {
-        const bool isStart = question.phrases[i].isJoined && kQuestionWords.has(question.phrases[i].sense) &&
-                             part(question, from, i).senses.meets(kQuestionWords);
+        // "Free space, and when is it full?"
+        const SenseSet senses = part(question, from, i).senses;
+        const bool isBeforeComplete =
+            senses.meets(kQuestionWords) || (senses.meets({free, used, total}) && senses.isWithin(kFigures));
+        const bool isStart =
+            question.phrases[i].isJoined && kQuestionWords.has(question.phrases[i].sense) && isBeforeComplete;
         if (isStart) {
             parts.push_back(part(question, from, i));
             from = i;
@@ -179,8 +186,9 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
 bool pointsBack(const Question& question)
 {
     constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe};
-    constexpr SenseSet kConditions{size,    above,  below,  period, Sense::before, Sense::after, since,
-                                   biggest, oldest, newest, number, smallest,      inside,       unopened};
+    constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
+                                   Sense::after, since,    biggest, oldest,   newest,
+                                   number,       smallest, inside,  unopened, except};
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
     return question.isContinued || question.senses.isWithin(kConditions) ||
            (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||

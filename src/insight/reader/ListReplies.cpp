@@ -36,6 +36,7 @@ struct Request {
     TimePoint openedTo = TimePoint::max();
     Order order = Order::biggest;
     std::int64_t count = kUsualCount;
+    std::optional<Rating> rating;
     Exclusions exclusions;
     Message files; ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 };
@@ -203,6 +204,26 @@ bool takeFolder(const Question& question, const AskContext& context, Request& re
     return !request.folder.empty();
 }
 
+/// "Safe files", "everything rated Keep". False if a rating is named in another way.
+bool takeRating(const Question& question, Request& request)
+{
+    constexpr std::pair<Sense, Rating> kRatings[] = {
+        {Sense::safe, Rating::safe}, {Sense::review, Rating::review}, {Sense::keep, Rating::keep}};
+    const std::vector<Phrase>& phrases = question.phrases;
+    for (const auto& [sense, rating] : kRatings) {
+        const std::size_t at = question.position(sense);
+        if (at == phrases.size())
+            continue;
+        const bool isOfFiles = at + 1 < phrases.size() && phrases[at + 1].subject != nullptr;
+        const bool isSaidOfThem = at > 0 && phrases[at - 1].sense == Sense::mean;
+        if (isOfFiles || isSaidOfThem) {
+            request.rating = rating;
+            narrow(request, InsightTexts::kFilesRated, {{"rating", within(label(rating))}});
+        }
+    }
+    return request.rating || !question.senses.meets({Sense::mean, Sense::review});
+}
+
 std::optional<Request> requestIn(const Question& question, const AskContext& context)
 {
     Request request;
@@ -214,7 +235,8 @@ std::optional<Request> requestIn(const Question& question, const AskContext& con
     if (!takeSubjects(question, request) || !takeFolder(question, context, request))
         return std::nullopt;
     request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
-    if (!takeSizes(question, request) || !takeDate(question, context.now, request))
+    if (!takeRating(question, request) || !takeSizes(question, request) ||
+        !takeDate(question, context.now, request))
         return std::nullopt;
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
@@ -225,6 +247,8 @@ std::optional<Request> requestIn(const Question& question, const AskContext& con
 
 bool fits(const Request& request, const Finding& finding, const FileEntry& entry)
 {
+    if (request.rating && finding.effectiveRating(entry) != *request.rating)
+        return false;
     if (entry.size < request.leastBytes || entry.size > request.mostBytes ||
         (!request.exclusions.empty() && request.exclusions.leaveOut(finding, entry)))
         return false;
@@ -327,6 +351,12 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
+}
+
+std::optional<Answer> listOfRated(const Question& question, const AskContext& context)
+{
+    const std::optional<Request> request = requestIn(question, context);
+    return request && request->rating ? listOfFiles(question, context) : std::nullopt;
 }
 
 std::optional<Answer> listOfBoth(const Question& question, const AskContext& context)

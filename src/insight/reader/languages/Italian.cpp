@@ -14,7 +14,8 @@ constexpr WordRow kWords[] = {
                     "suggerire,raccomandi,cominciare,iniziare,comincio,inizio da,cosa faccio,che "
                     "faccio,conviene,vale la pena,iniziamo,da dove parto,cosa devo fare,cosa posso fare,che "
                     "devo fare,che posso fare,trucchi,cosa faccio adesso,cosa dovrei fare,cosa fare"},
-    {Sense::trust, "fidarmi,fidare,affidabile,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi"},
+    {Sense::trust, "fidarmi,fidare,affidabile,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi,in "
+                   "pericolo,a rischio,open source"},
     {Sense::beyond, "virus,malware,trojan,più "
                     "veloce,velocizzare,velocizza,lento,lenta,prestazioni,deframmentare,ram,memoria "
                     "ram,processore,cpu,batteria,driver,firewall,antivirus,temperatura,scheda grafica"},
@@ -25,7 +26,7 @@ constexpr WordRow kWords[] = {
      "solo,automaticamente,senza chiedere,da sola,senza permesso,senza avvisare"},
     {Sense::only, "solo,soltanto,solamente,unicamente,esclusivamente"},
     {Sense::also, "e,ed,anche,inoltre,e per quanto riguarda,che mi dici di,e i,e le,e gli,e la,e il,e "
-                  "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo"},
+                  "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo,o,oppure"},
     {Sense::backward, "quello,quella,quelli,quelle,questo,questa,questi,queste,ciò,esso,essi,essa,lo,"
                       "eliminarlo,eliminarla,eliminarli,eliminarle,cancellarlo,cancellarla,cancellarli,"
                       "cancellarle,ne,quell,loro,toglierli,toglierlo,buttarli,buttarlo"},
@@ -34,7 +35,7 @@ constexpr WordRow kWords[] = {
      "dall,a,al,allo,alla,all,ai,agli,alle,mio,mia,miei,mie,nostro,nostra,tuo,tua,tuoi,tue,suo,sua,suoi,sue,"
      "io,mi,m,noi,ci,c,tu,ti,t,te,si,s,se,vi,v,è,sono,era,erano,sei,essere,stato,stati,state,stata,sta,"
      "stanno,sto,c è,ho,hai,ha,abbiamo,hanno,avere,aver,avevo,ed "
-     "ecco,per,con,su,sul,sulla,sullo,sui,sugli,sulle,sull,o,oppure,che,come,per favore,per "
+     "ecco,per,con,su,sul,sulla,sullo,sui,sugli,sulle,sull,che,come,per favore,per "
      "piacere,perfavore,adesso,ora,attualmente,oggi,al momento,in questo "
      "momento,davvero,veramente,esattamente,circa,più o meno,mostra,mostrami,mostrare,dimmi,dire,dai "
      "a,elenca,elencare,elenco,trova,trovami,trovare,cerca,cercami,cercare,sapere,so,voglio,vorrei,mi "
@@ -52,12 +53,15 @@ constexpr WordRow kWords[] = {
      "tanto,soprattutto,appena,probabilmente,chissà,ognuno,sono stati,sono state,è stato,facile,riguardo "
      "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece,tra,fra,contro,durante,"
      "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in "
-     "pratica,ad,avremo,ci sarà,ci saranno"},
+     "pratica,ad,avremo,ci sarà,ci saranno,hai trovato,che hai trovato,a "
+     "proposito,accidenti,cavolo,insomma,magari"},
     {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,n"},
-    {Sense::except, "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
-                    "eccezione dei,ad eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre "
-                    "agli,all infuori di,senza,senza contare,ma non,che non siano,che non sia,e "
-                    "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i"},
+    {Sense::except,
+     "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad eccezione dei,ad "
+     "eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre agli,all infuori di,senza,senza "
+     "contare,ma non,che non siano,che non sia,e non,fuorché,al di fuori di,escludendo,meno,eccetto i,a "
+     "parte i,senza toccare,senza cancellare,senza eliminare,senza perdere,ma lascia,lascia fuora,lascia "
+     "fuori,né,tranne quelle in,tranne quelli in,invece di,meno che"},
     {Sense::lasts, "basta,basterà,bastare,bastano,dura,durerà,durare,regge,reggerà,resiste,resisterà,"
                    "sufficiente,abbastanza spazio"},
     {Sense::speed,
@@ -91,7 +95,7 @@ constexpr WordRow kWords[] = {
                        "eliminati,mai toccati,mai toccherà,non toccherà mai,mai cancellare,mai eliminare,mai "
                        "toccato,non sposta mai,mai spostati,intatto,intatti,lascia stare,non tocchi,non "
                        "cancellerà mai,non eliminerà mai,non cancellerai mai"},
-    {Sense::cleanUp, "pulizia,pulizie,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare "
+    {Sense::cleanUp, "pulizia,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare "
                      "ordine,pulita,fatto pulizia,ripulisco,pulisco"},
     {Sense::uninstall, "disinstallare,disinstallo,disinstalla,disinstallazione,disinstallato"},
     {Sense::remove,
@@ -115,9 +119,11 @@ constexpr WordRow kWords[] = {
      "tenere,conservare,mantenere,tengo,keep,importante,importanti,da conservare,da tenere,conservato"},
     {Sense::mean, "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
                   "tra,valutazione,valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole "
-                  "dire,regole,regola,criteri,decide,classifica"},
+                  "dire,regole,regola,criteri,decide,classifica,contrassegnati,contrassegnato,classificati,"
+                  "valutati,segnati,segnato"},
     {Sense::soFar, "finora,fino ad ora,fino a oggi,fin qui,cronologia,fino a ora,fino adesso,fino ad "
-                   "adesso,dall inizio,nel tempo,in tutto finora,fino ad oggi"},
+                   "adesso,dall inizio,nel tempo,in tutto finora,fino ad oggi,pulizie,le pulizie,tutte le "
+                   "pulizie,pulizie precedenti,pulizie passate"},
     {Sense::used, "occupato,occupati,consumato,in uso,quanto è pieno,occupata"},
     {Sense::handled, "usato,usati,utilizzato,utilizzati,uso,utilizzo,usata,usate,utilizzate,utilizzata"},
     {Sense::opened,
@@ -129,7 +135,7 @@ constexpr WordRow kWords[] = {
      "poco spazio,esaurito,finito lo spazio,finendo lo spazio,finisce lo spazio,finirà lo "
      "spazio,strapieno,esaurirà,spazio è finito,esaurire,riempie,non c è più posto,tutto pieno,finire lo "
      "spazio,riempirsi,saturo,spazio insufficiente,pieni,esaurisce,finito,tutto il mio spazio,finito il mio "
-     "spazio"},
+     "spazio,nuovo disco,disco nuovo,disco più grande,comprare un disco,altro disco"},
     {Sense::free, "libero,liberi,libera,disponibile,disponibili,resta,rimane,rimasto,mi resta,mi "
                   "rimane,restano,rimangono,avanza,rimasti,residuo,restante,rimanente"},
     {Sense::total, "totale,capacità,in totale,in tutto,complessiva,complessivo,capienza,dimensione "
@@ -138,7 +144,9 @@ constexpr WordRow kWords[] = {
      "disco,disco fisso,disco rigido,hard disk,ssd,hdd,computer,pc,portatile,macchina,partizione,memoria di "
      "massa,archiviazione,notebook,dischi,unità,memoria interna,harddisk"},
     {Sense::space, "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione"},
-    {Sense::howMuch, "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto"},
+    {Sense::howMuch,
+     "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto,cosa "
+     "guadagno,quanto guadagno,cosa ottengo,quanto si libera,quanto libera,cosa guadagnerei"},
     {Sense::why, "perché,come mai,per quale motivo,motivo,ragione,a causa di cosa,perche,xke,xché,da cosa "
                  "dipende,a cosa è dovuto"},
     {Sense::when, "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in "
@@ -356,6 +364,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::namedDay, "autunno", valueOf(NamedDay::autumn)},
     {Figure::namedDay, "inverno", valueOf(NamedDay::winter)},
     {Figure::endOf, "fine,la fine,fine di,la fine di,la fine del,fine del,la fine dell", -1},
+    {Figure::ordinal, "prossimo,successivo,successiva,prossima", 0},
     {Figure::ofDate, "di,del,dell"},
 };
 
