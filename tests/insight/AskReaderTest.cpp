@@ -64,6 +64,11 @@ constexpr Row kSpace[] = {
     {"free 4 GB", "rated Safe is enough|App caches|4 GB in all", "Large files"},
     {"how can I free up 10 GB?", "Everything rated Safe|App caches|Review|Large files"},
     {"free 900 GB", "less than 900 GB"},
+    {"do I have less than 50 GB free", "No.|120 GB"},
+    {"can i fit 200 gb more", "No.|120 GB"},
+    {"get me 700 MB", "rated Safe is enough"},
+    {"why do i have only 120 gb left", "By category"},
+    {"how much can I free", "You could free about", "is free of"},
     {"make 10 gb of room", "Everything rated Safe", "Yes."},
     {"I need space for a 20GB game, what should go?", "For the rest of 20 GB|You could free"},
     {"why is there so little room left", "By category"},
@@ -97,6 +102,7 @@ constexpr Row kLeftOut[] = {
     {"what could I throw out without touching my pictures", "Left out: photos.|You could free"},
     {"largest five things, but leave my Downloads out of it", "Left out: ~/Downloads.|wedding", "debian"},
     {"biggest files in Videos without Projects", "Left out: Projects.|wedding", "cut.mov"},
+    {"old downloads, not the pdf", "Left out: PDFs.|setup.deb", "report"},
     {"biggest files except unicorns", "I don't know that", "wedding"},
 };
 
@@ -105,6 +111,8 @@ constexpr Row kRated[] = {
     {"which Review files are biggest", "Of files rated Review|wedding.mp4", "slack"},
     {"everything rated Keep", "Of files rated Keep the last scan lists 1|contract-2021", "report.pdf"},
     {"how much space does everything marked Safe take", "Of files rated Safe", "Review"},
+    {"is Review dangerous", "Review:|only you can tell"},
+    {"why is something rated Keep", "Keep:|warning"},
     {"does Keep mean I can't delete it", "Keep:|warning"},
 };
 
@@ -145,6 +153,12 @@ constexpr Row kLists[] = {
     {"biggest photos", "sea2.jpg", "wedding"},
     {"largest archives", "lists no archives"},
     {"smallest video", "cut.mov"},
+    {"files between 1 and 5 GB", "Of files over 1 GB under 5 GB|holiday.mkv", "wedding"},
+    {"things last opened before 2022", "last opened before 1 January 2022|wedding"},
+    {"which downloads are older than a year", "before 1 June 2025|debian.iso", "setup.deb"},
+    {"what did i save in august 2021", "I don't know that", "clean-ups since"},
+    {"does it go on over the summer", "I don't know that", "changed"},
+    {"largest photos? largest videos?", "sea2.jpg|wedding.mp4"},
 };
 
 constexpr Row kSubjects[] = {

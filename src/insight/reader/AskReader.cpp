@@ -102,9 +102,12 @@ std::vector<Question> partsOf(const Question& question)
         const SenseSet senses = part(question, from, i).senses;
         const bool isBeforeComplete =
             senses.meets(kQuestionWords) || (senses.meets({free, used, total}) && senses.isWithin(kFigures));
-        const bool isStart =
-            question.phrases[i].isJoined && kQuestionWords.has(question.phrases[i].sense) && isBeforeComplete;
-        if (isStart) {
+        // "Largest photos? Oldest documents?"
+        constexpr SenseSet kSorts{biggest, smallest, oldest, newest};
+        const Sense sense = question.phrases[i].sense;
+        const bool isOtherList = kSorts.has(sense) && senses.meets(kSorts) && senses.has(subject);
+        if (question.phrases[i].isJoined &&
+            (isOtherList || (kQuestionWords.has(sense) && isBeforeComplete))) {
             parts.push_back(part(question, from, i));
             from = i;
         }
@@ -190,7 +193,9 @@ bool pointsBack(const Question& question)
                                    Sense::after, since,    biggest, oldest,   newest,
                                    number,       smallest, inside,  unopened, except};
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
-    return question.isContinued || question.senses.isWithin(kConditions) ||
+    const bool isPlace = question.phrases.size() == 2 && question.phrases.front().sense == inside &&
+                         question.phrases.back().subject != nullptr;
+    return question.isContinued || isPlace || question.senses.isWithin(kConditions) ||
            (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
            (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
            question.senses.isWithin(kNothingAlone);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -195,6 +196,22 @@ Phrases replaced(const Phrases& before, const Phrases& now)
     return phrases;
 }
 
+/// "And over 8?" after "over 3 GB" means the same unit.
+void takeUnit(Phrases& phrases, const Question& before)
+{
+    constexpr std::int64_t kMega = 1'000'000;
+    constexpr std::int64_t kGiga = 1'000 * kMega;
+    constexpr std::int64_t kMost = 1'000;
+    const Phrase* const last = before.first(size);
+    for (std::size_t i = 1; i < phrases.size() && last != nullptr; ++i) {
+        const bool isCompared = phrases[i - 1].sense == above || phrases[i - 1].sense == below;
+        if (isCompared && phrases[i].sense == number && phrases[i].amount <= kMost) {
+            phrases[i].sense = size;
+            phrases[i].amount *= last->amount >= kGiga ? kGiga : kMega;
+        }
+    }
+}
+
 /// Only says what changes in the question before.
 std::optional<Reply> changed(const Question& question, const AskContext& context,
                              const Conversation::Said& before)
@@ -207,6 +224,11 @@ std::optional<Reply> changed(const Question& question, const AskContext& context
         return std::nullopt;
     Phrases now = question.phrases;
     std::erase_if(now, [](const Phrase& phrase) { return phrase.sense == what || phrase.sense == general; });
+    takeUnit(now, before.question);
+    // "The one before": says nothing about a date.
+    constexpr SenseSet kOfDates{Sense::before, after, since};
+    if (now.empty() || (question.senses.meets(kOfDates) && !question.senses.has(period)))
+        return std::nullopt;
     Question whole = withPhrases(before.question, replaced(before.question.phrases, now));
     std::optional<Answer> answer = replyByRule(whole, context);
     if (!answer && question.senses.meets({subject, inside})) {

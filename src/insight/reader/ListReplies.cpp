@@ -92,6 +92,18 @@ Sense comparisonAt(const Question& question, std::size_t position)
 /// False if a size stands alone.
 bool takeSizes(const Question& question, Request& request)
 {
+    if (question.count(Sense::size) == 2 && question.senses.has(Sense::above) &&
+        !question.senses.has(Sense::below)) {
+        const auto isSize = [](const Phrase& phrase) { return phrase.sense == Sense::size; };
+        const auto first = std::ranges::find_if(question.phrases, isSize);
+        const auto second = std::find_if(std::next(first), question.phrases.end(), isSize);
+        const auto [least, most] = std::minmax(first->amount, second->amount);
+        request.leastBytes = least;
+        request.mostBytes = most;
+        narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{least}}});
+        narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{most}}});
+        return true;
+    }
     for (std::size_t i = 0; i < question.phrases.size(); ++i) {
         const Phrase& phrase = question.phrases[i];
         if (phrase.sense != Sense::size)
@@ -128,7 +140,8 @@ bool takeDate(const Question& question, TimePoint now, Request& request)
     if (phrase == nullptr)
         return !question.senses.meets({Sense::before, Sense::after, Sense::since, Sense::unopened});
     const Period& period = *phrase->period;
-    if (period.from > now)
+    // "Over the summer" is no age.
+    if (period.from > now || (period.isAhead && isOlderThan(question)))
         return false;
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <chrono>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -249,7 +250,8 @@ private:
             isPast = take(Figure::previous) || isPast;
             isAhead = take(Figure::following) || isAhead;
         }
-        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a");
+        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
+                                        (m_isExpected && isIndefinite(m_words[m_at - 2])));
         if ((!count && !isOne) || (unit == TimeUnit::year && count.value_or(1) > kMostYears))
             return std::nullopt;
         Period period{back(m_now, unit, count.value_or(1)), m_now};
@@ -259,6 +261,14 @@ private:
         period.next = Span{then, then + days(1)};
         period.isAhead = isAhead;
         return period;
+    }
+
+    /// "Older than a year", in any of the languages.
+    [[nodiscard]] static bool isIndefinite(std::string_view word)
+    {
+        constexpr std::string_view kArticles[] = {"an",    "ein", "eine", "einem", "einen",
+                                                  "einer", "un",  "une",  "uno",   "una"};
+        return std::ranges::find(kArticles, word) != std::end(kArticles);
     }
 
     [[nodiscard]] bool isArticle(const std::string& word) const

@@ -76,7 +76,8 @@ private:
 
     bool takePeriod()
     {
-        constexpr SenseSet kBeforeDates{Sense::since, Sense::after, Sense::before, Sense::inside};
+        constexpr SenseSet kBeforeDates{Sense::since,  Sense::after, Sense::before,
+                                        Sense::inside, Sense::above, Sense::below};
         const bool isExpected =
             !m_question.phrases.empty() && kBeforeDates.has(m_question.phrases.back().sense);
         const auto period = periodAt(rest(), m_lexicon, m_now, isExpected);

@@ -66,8 +66,8 @@ constexpr WordRow kWords[] = {
      "se,anything like,whatever,where exactly,on disk,really do,meanwhile,taken by,i have,i "
      "got,pretty,quite,very,such as,honestly,literally,super,actually do,us both,pls help,finally,once,each "
      "one,everywhere,anywhere at all,located "
-     "on,im,ive,id,between,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats "
-     "up,pls can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
+     "on,im,ive,id,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats up,pls "
+     "can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
      "wise,whichever,these days,real,stuff like,sized,weird,strange,suddenly,oh no,ugh,damn,anywhere "
      "else,dunno,idk,im not sure,not sure,unsure,curious about,regarding,concerning,related,related to,size "
      "wise,by any chance,for me,to me,kids,grandchildren,way,ways,christmas eve,itself,done,doing,needs "
@@ -79,7 +79,7 @@ constexpr WordRow kWords[] = {
      "way,fastest way,fast way,good way,obviously,definitely,currently available,generally,kind "
      "sir,buddy,mate,dude,bro,man,friendo,computer wise,here and there,i wonder if,wondering if,if "
      "possible,going forward,marvelous,thank you very much,in advance,real quick,real fast,a "
-     "sec,hiya,heya,yo"},
+     "sec,hiya,heya,yo,overnight,last night,each file,as of late"},
     {Sense::negation, "not,don't,dont,doesn't,doesnt,didn't,isn't,aren't,can't,cant,cannot,shouldn't,mustn't,"
                       "never,won't,haven't,havent,hasn't,wasn't,weren't,no "
                       "longer,couldn't,wouldn't,ain't,wont,shouldnt,didnt,isnt,arent,wouldnt,couldnt,hasnt,"
@@ -92,10 +92,12 @@ constexpr WordRow kWords[] = {
      "my,without touching,without deleting,without removing,without losing,without moving,not touching,but "
      "not touch,but don't touch,but dont touch,but no,and no,with no,but keep,but keep my,leave my,leave "
      "the,but ignore,but skip,just not,only not,instead of,not any"},
-    {Sense::lasts, "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to "
-                   "last,be enough,still fit,run dry,make it to,make it until,make it till,get me to,get "
-                   "through to,make it through,be okay until,be ok until,be fine until,good "
-                   "until,sufficient,be sufficient,holds out,carry on"},
+    {Sense::lasts,
+     "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to last,be "
+     "enough,still fit,run dry,make it to,make it until,make it till,get me to,get through to,make it "
+     "through,be okay until,be ok until,be fine until,good until,sufficient,be sufficient,holds out,carry "
+     "on,will i have,will there be,will there still be,will i still have,going to be,gonna be,going to "
+     "have,does it last,will it last,it last,will we have"},
     {Sense::speed, "how fast,how quickly,how rapidly,growth rate,pace,at what rate,what rate,speed,per "
                    "day,per week,per month,each day,each week,each month,a day,a "
                    "week,daily,weekly,monthly,every day,every week,every month"},
@@ -131,7 +133,8 @@ constexpr WordRow kWords[] = {
      "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
      "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
      "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
-     "delete,leaves alone,never ever delete,stay away from,hands off"},
+     "delete,leaves alone,never ever delete,stay away from,hands off,allowed to touch,may touch,can "
+     "touch,permitted to touch"},
     {Sense::cleanUp, "clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
                      "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we "
                      "free,did orlen clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
@@ -166,7 +169,8 @@ constexpr WordRow kWords[] = {
      "mean,means,meaning,stand for,stands for,difference between,the "
      "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,categorise,"
      "definition,rules,rule,criteria,decide,judge,classified,classify,label,marked,labelled,labeled,tagged,"
-     "flagged,classed,what's a,definition of,describe the,categories mean"},
+     "flagged,classed,what's a,definition of,describe the,categories mean,have to review,need to review,must "
+     "review,must i review,should i review,do i review,the difference between"},
     {Sense::soFar,
      "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
      "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,all "
@@ -176,7 +180,8 @@ constexpr WordRow kWords[] = {
      "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk usage,space "
      "usage,storage usage,filled,portion used,taken up,eaten,gobbled up,percent full,percentage full,% full"},
     {Sense::handled, "used,accessed"},
-    {Sense::opened, "opened,touched,open,touch,looked at,watched,viewed,read,watch,viewing,listen,listened"},
+    {Sense::opened,
+     "opened,touched,open,touch,looked at,watched,viewed,read,watch,viewing,listen,listened,seen,saw"},
     {Sense::full,
      "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
      "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
@@ -189,12 +194,9 @@ constexpr WordRow kWords[] = {
      "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk "
      "space,so little room,little room left,little space left,so little room left,so little space "
      "left,hardly any space,hardly any room,barely any space,barely any room,almost no space,almost no "
-     "room,nearly no space,not much space,not much room,need a new disk,need a new drive,need a bigger "
-     "disk,need a bigger drive,need a larger disk,need a larger drive,need more storage,buy a new disk,buy a "
-     "new drive,buy more storage,buy a bigger disk,need another disk,need another drive,no gigs left,fills "
-     "my,filling my,used it all up,crammed,packed,jam-packed,topped out,maxed out,at capacity,near "
-     "capacity,overflow,overflowing,reach the limit,ran out,ran out of space,use up all,used up all,use all "
-     "my space,full up"},
+     "room,nearly no space,not much space,not much room,no gigs left,fills my,filling my,used it all "
+     "up,crammed,packed,jam-packed,topped out,maxed out,at capacity,near capacity,overflow,overflowing,reach "
+     "the limit,ran out,ran out of space,use up all,used up all,use all my space,full up"},
     {Sense::free, "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty "
                   "space,remains,vacant,unused disk space,usable,space remaining,remaining space,gigs "
                   "free,unallocated,headroom,breathing room,leeway"},
@@ -204,7 +206,7 @@ constexpr WordRow kWords[] = {
                   "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,mac,disc,my "
                   "disk,harddrive,harddisk,notebook,nvme"},
     {Sense::space,
-     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space"},
+     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space,fit,fits"},
     {Sense::howMuch,
      "how much,how mutch,how mcuh,howmuch,what do i gain,what would i gain,what do i get,what would i "
      "get,what do i save,what would i save,what would that free,what does that free,what does it bring"},
@@ -214,7 +216,7 @@ constexpr WordRow kWords[] = {
                  "why,tell me why,what happened to"},
     {Sense::when, "when,how soon,how long,what date,which date,what day,which day,how many days,how many "
                   "weeks,how many months,by when,until when,what month,which month,when's,how long until,how "
-                  "long till,how long before,when will,how many years,soon"},
+                  "long till,how long before,when will,how many years,soon,how much longer,how much time"},
     {Sense::most,
      "most,the most,most space,most of,most room,most storage,most disk space,biggest "
      "chunk,fastest,quickest,most quickly,most rapidly,the fastest,the quickest,bulk of,lion's share,largest "
@@ -245,7 +247,7 @@ constexpr WordRow kWords[] = {
      "big,become so big,become so large,gets bigger,gets larger,put on weight,inflated,bloated,increasing"},
     {Sense::above, "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller "
                    "than,heavier than,or more,or larger,or bigger,and up,and above,and bigger,and "
-                   "larger,bigger then,larger then,more then,minimum,upwards of,>"},
+                   "larger,bigger then,larger then,more then,minimum,upwards of,>,between"},
     {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more "
                    "than,no larger than,no bigger than,smaller then,less then,maximum,<"},
     {Sense::inside, "in,inside,within,from,in the folder,in my,under the folder"},
@@ -258,19 +260,21 @@ constexpr WordRow kWords[] = {
      "looked at,haven't watched,untouched since,forgot about,i forgot,not watched,not in use,not "
      "watch,haven't listened,not listened,never watched,never played,not play,don't watch,never "
      "listened,dusty,collecting dust,gathering dust,neglected,abandoned,ignored,stale,idle,not needed "
-     "since,unwatched,unread,not read,unplayed"},
+     "since,unwatched,unread,not read,unplayed,last opened,last used,last accessed,last viewed,last watched"},
     {Sense::before, "before,older than,earlier than,prior to,more than ago,older then,till,until"},
     {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
-    {Sense::privacy, "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,"
-                     "telemetry,tracking,track,send,sends,sent,sending,spy,spying,leave,leaves,server,"
-                     "servers,phone home,share,shares,shared,third party,third "
-                     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,"
-                     "chatgpt,secret,spies,see my files,see my photos,watching me,who can see,personal "
-                     "data,data protection,hackers,hacker,ads,visible to others,see it,see "
-                     "them,snoop,third-party,safe from hackers,data leaves,leave my computer,leaves my "
-                     "computer,who can read,who has access,who sees,who reads,access to my"},
+    {Sense::privacy,
+     "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,tracking,"
+     "track,send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone "
+     "home,share,shares,shared,third party,third "
+     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,chatgpt,secret,spies,"
+     "see my files,see my photos,watching me,who can see,personal data,data "
+     "protection,hackers,hacker,ads,visible to others,see it,see them,snoop,third-party,safe from "
+     "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
+     "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
+     "safe,know my passwords,eavesdrop,anyone get"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
      "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
@@ -382,7 +386,9 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::startup,
-     "runs at boot,run at boot,runs on boot,run on boot,starts at boot,start at boot,starts on boot,loads at "
+     "start slowly,starts slowly,slow to start,boot slowly,boots slowly,takes long to start,takes ages to "
+     "start,start slow,boot slow,runs at boot,run at boot,runs on boot,run on boot,starts at boot,start at "
+     "boot,starts on boot,loads at "
      "startup,launches,launch,launching,loads when,load when,autorun,start on their own,starts on its "
      "own,run automatically,runs automatically,opens automatically,run in the background,runs in the "
      "background,at start,on start,boot time,startup,startup items,startup programs,startup "
@@ -451,7 +457,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::previous, "last,past,previous"},
     {Figure::current, "this"},
     {Figure::following, "next,coming,upcoming,following"},
-    {Figure::ahead, "in,within,for another,in about,for"},
+    {Figure::ahead, "another,in,within,for another,in about,for"},
     {Figure::daysAhead, "tomorrow", 1},
     {Figure::namedDay, "new year,new year's,new years,new year's day", valueOf(NamedDay::newYear)},
     {Figure::namedDay, "valentine's day,valentines day,valentine's", valueOf(NamedDay::valentine)},

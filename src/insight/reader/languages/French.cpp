@@ -56,9 +56,10 @@ constexpr WordRow kWords[] = {
      "être,afin,pendant,parce,comme,autant,vu que,dedans,gens,dit,crois,pense,elles,ils sont,ça fait,jamais "
      "vu,mettent,ranger,lieu,madame,monsieur,mon fils,puisque,plutôt,sous,encore une "
      "fois,ayez,aie,aies,simple,rapide,quoi que,presque tout,serait "
-     "il,actuel,présente,entre,parmi,contre,via,durant,selon,soudain,bizarre,enfants,aucune idée,à "
+     "il,actuel,présente,parmi,contre,via,durant,selon,soudain,bizarre,enfants,aucune idée,à "
      "propos,concernant,en fait,quasi,date,datent,datant,datés,tu as trouvé,as trouvé,que tu,aura t il,en "
-     "supprimant ça,voudrait,d ailleurs,franchement,au juste,zut,mince,punaise"},
+     "supprimant ça,voudrait,d ailleurs,franchement,au juste,zut,mince,punaise,cette nuit,pendant la "
+     "nuit,font,listées,listés,affichées"},
     {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,n ai pas,n est pas,ne pas"},
     {Sense::except,
      "sauf,à part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors "
@@ -67,7 +68,7 @@ constexpr WordRow kWords[] = {
      "toucher à,sans toucher aux,sans toucher,sans supprimer,sans effacer,sans perdre,mais sans,mais "
      "laisse,laisse de côté,ni,à part les,sauf les,sauf le,sauf la,sauf dans,et sans,au lieu de"},
     {Sense::lasts, "tiendra,tient,tenir,suffit,suffira,suffire,suffisant,dure,durera,durer,va tenir,assez de "
-                   "place,assez d espace"},
+                   "place,assez d espace,aurai je,aura t on,y aura t il,aurons nous"},
     {Sense::speed, "à quelle vitesse,vitesse,à quel rythme,rythme,par jour,par semaine,par mois,chaque "
                    "jour,chaque semaine,chaque mois"},
     {Sense::what, "quoi,que,qu est ce que,qu est ce que c est que,qu est ce "
@@ -141,8 +142,7 @@ constexpr WordRow kWords[] = {
      "place,manque d espace,à court de place,à court d espace,si plein,rempli si,se remplit,sera plein,plus "
      "assez de place,plus assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas "
      "assez de place,sature,plus aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer "
-     "de place,aussi plein,où est passé,où est passée,est passé tout mon espace,où est partie,où est "
-     "parti,nouveau disque,disque plus grand,acheter un disque,plus grand disque,racheter un disque"},
+     "de place,aussi plein,où est passé,où est passée,est passé tout mon espace,où est partie,où est parti"},
     {Sense::free,
      "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il reste,restent,me "
      "reste,de libre,dispo,vacant,restera,il restera,resterait,restera t il,encore de la place,y aura"},
@@ -151,7 +151,8 @@ constexpr WordRow kWords[] = {
     {Sense::disk,
      "disque,disque dur,ssd,hdd,ordinateur,ordi,pc,machine,portable,partition,stockage,disques,le "
      "disk,disque système,mon mac,bécane"},
-    {Sense::space, "place,espace,espace disque,espace de stockage,mémoire,place disque"},
+    {Sense::space,
+     "place,espace,espace disque,espace de stockage,mémoire,place disque,rentre,rentrent,tiennent,loger"},
     {Sense::howMuch, "combien,combien de,combien d,conbien,cb de,cb,combien reste,quelle quantité,quelle "
                      "quantité de,combiens,qu est ce que je gagne,que gagne,je gagne quoi,ça libère "
                      "combien,combien ça libère,qu est ce que ça libère"},
@@ -159,7 +160,7 @@ constexpr WordRow kWords[] = {
                  "fait,raison,pk,pourkoi,d où vient,à cause de quoi"},
     {Sense::when, "quand,à quelle date,dans combien de temps,dans combien de jours,combien de temps,d ici "
                   "combien,quel jour,bientôt,à quel moment,quelle date,d ici quand,combien de jours,combien "
-                  "de mois,à partir de quand,jusqu à quand"},
+                  "de mois,à partir de quand,jusqu à quand,encore combien de temps"},
     {Sense::most, "le plus,la plus,les plus,le plus de place,le plus d espace,la plupart,le plus gros de,l "
                   "essentiel,principalement,le plus vite,plus vite,le plus rapidement,plus rapidement"},
     {Sense::takes, "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,"
@@ -186,7 +187,7 @@ constexpr WordRow kWords[] = {
     {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
                    "que,au moins,dépassant,dépassent,de plus de,supérieures à,plus lourd que,plus lourds "
                    "que,ou plus,minimum,>,faisant plus de,plus grosses que,plus grandes que,et plus,pesant "
-                   "plus de,plus d,dépasse,plus volumineux que"},
+                   "plus de,plus d,dépasse,plus volumineux que,entre"},
     {Sense::below, "moins de,en dessous de,inférieur à,inférieurs à,plus petit que,plus petits que,au "
                    "plus,inférieures à,ou moins,maximum,<,de moins de,moins d,au maximum,sous"},
     {Sense::inside,
@@ -204,13 +205,13 @@ constexpr WordRow kWords[] = {
     {Sense::since, "depuis,plus récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
-    {Sense::privacy,
-     "internet,en ligne,réseau,privé,privées,vie "
-     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,envoyé,envoyées,"
-     "envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,partages,compte,hors "
-     "ligne,téléverser,upload,collecte,collectes,données personnelles,transmet,transmises,transmet "
-     "tu,tiers,google,wifi,quitte,quittent,mes données privées,rgpd,sur le net,espion,le "
-     "web,transmettre,ia,sortent,pub,récolte,qui peut voir,qui peut lire,qui a accès"},
+    {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
+                     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
+                     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
+                     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
+                     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
+                     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
+                     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
      "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
@@ -307,7 +308,8 @@ constexpr SubjectRow kSubjects[] = {
      "document,documents,papiers,fichiers texte,courriers,documents word,fichiers word,documents "
      "texte,lettres"},
     {SubjectID::files, "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout ça,machins"},
-    {SubjectID::startup, "démarrage,au démarrage,démarre automatiquement,démarrent automatiquement,se lance "
+    {SubjectID::startup, "démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
+                         "démarrage,démarre automatiquement,démarrent automatiquement,se lance "
                          "au démarrage,programmes au "
                          "démarrage,à l ouverture de session,éléments de démarrage,lance automatiquement,se "
                          "lancent automatiquement,se "

@@ -53,12 +53,12 @@ constexpr WordRow kWords[] = {
      "steht,stehen,her,hin,von,scheint,glaube,denke,meinst,meine "
      "ich,würdet,rauf,drüben,ebenfalls,trotzdem,erst,hallo "
      "du,mann,kind,wozu,deren,dessen,hättest,hätte,gibs,ziemlich,ob ich,da drin,gesamten "
-     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,zwischen,durch,gegen,um,während,trotz,statt,"
-     "hinter,beim,bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine "
-     "ahnung,im grunde,quasi,übers,ums,fürs,falls möglich,gefunden hast,du gefunden,gefunden,die "
-     "du,kaufen,zusammen,eine neue,läuft,laufen,meines "
+     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,durch,gegen,um,während,trotz,statt,hinter,beim,"
+     "bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine ahnung,im "
+     "grunde,quasi,übers,ums,fürs,falls möglich,gefunden hast,du gefunden,gefunden,die "
+     "du,zusammen,läuft,laufen,meines "
      "wissens,mist,verdammt,übrigens,bescheid,zufällig,vielleicht,villeicht,bräucht,tatsächlich,noch "
-     "mal,nochmal,offensichtlich,anteil,anteil an"},
+     "mal,nochmal,offensichtlich,anteil,anteil an,über nacht,fasst,fass,gelistet,aufgelistet,listest"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,nichts,nirgends,keinesfalls"},
     {Sense::except,
      "außer,ausser,ausgenommen,abgesehen von,bis auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber "
@@ -72,7 +72,7 @@ constexpr WordRow kWords[] = {
                    "monat,täglich,wöchentlich,monatlich,am tag,in der woche,im monat"},
     {Sense::what, "was,was ist,was sind,welche,welcher,welches,welchen,welchem,wo,wo ist,wo sind,wer,was "
                   "für,was für ein,gibt es,gibts,habe ich,hab ich,zeig mir,zeige mir,welch,woraus,was "
-                  "davon,wodurch,womit,hast du gefunden,liste mir,nenne,nenn mir,nenne mir"},
+                  "davon,wodurch,womit,hast du gefunden,liste mir,nenne,nenn mir,nenne mir,wofür,wozu ist"},
     {Sense::howBig,
      "wie groß,wie schwer,größe von,die größe,wie viel platz braucht,wie viel platz brauchen,wieviel platz "
      "braucht,wieviel platz brauchen,wie viel platz belegt,wie viel platz belegen,wie viel platz nimmt,wie "
@@ -143,16 +143,15 @@ constexpr WordRow kWords[] = {
      "wenig platz,wenig platz,platz geht aus,knapp,randvoll,volllaufen,keinen platz,keinen platz mehr,keinen "
      "speicher mehr,keinen speicherplatz mehr,füllt,vollgestopft,vollgemüllt,geht der platz aus,platz "
      "aus,speicher aus,voll werden,kaum platz,kaum noch platz,nicht genug platz,zu voll,zugemüllt,platz "
-     "hin,speicher hin,ausgeht,speicherplatz aus,speicherplatz hin,keinen platz mehr auf,neue platte,neue "
-     "festplatte,größere platte,neue ssd,mehr speicher kaufen,platte kaufen,festplatte kaufen"},
+     "hin,speicher hin,ausgeht,speicherplatz aus,speicherplatz hin,keinen platz mehr auf"},
     {Sense::free, "frei,freier,freien,freie,freies,verfügbar,verfügbarer,übrig,übriggeblieben,verbleibend,"
                   "ungenutzt,bleibt,unbelegt,leer,hab ich noch,habe ich noch,noch übrig,übrig hab"},
     {Sense::total, "insgesamt,gesamt,kapazität,gesamtgröße,zusammen,gesamtkapazität,in "
                    "summe,summe,übersicht,überblick,status,zusammenfassung"},
     {Sense::disk, "festplatte,platte,laufwerk,ssd,hdd,rechner,computer,laptop,pc,datenträger,partition,kiste,"
                   "gerät,notebook,speicher,speichers,festplatten,harddisk,systemlaufwerk"},
-    {Sense::space,
-     "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,plattenspeicher"},
+    {Sense::space, "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,"
+                   "plattenspeicher,passt,passen,reinpassen,draufpassen"},
     {Sense::howMuch, "wie viel,wieviel,wievil,wie fiel,wifiel,wiviel"},
     {Sense::why,
      "warum,wieso,weshalb,weswegen,woran liegt,wie kommt es,woran,grund,aus welchem grund,woher kommt"},
@@ -178,7 +177,7 @@ constexpr WordRow kWords[] = {
     {Sense::grow, "gewachsen,wachsen,wächst,wachstum,größer "
                   "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
     {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
-                   "als,größer,länger als,minimum,>,und mehr,und größer"},
+                   "als,größer,länger als,minimum,>,und mehr,und größer,zwischen"},
     {Sense::below,
      "unter,kleiner als,weniger als,höchstens,maximal,bis zu,oder weniger,oder kleiner,kleiner,<"},
     {Sense::inside, "in,im,innerhalb,aus,in meinem,im ordner,ins,aus dem,in den,auf dem"},
@@ -199,7 +198,7 @@ constexpr WordRow kWords[] = {
      "sieht,überträgt,dritte,weitergegeben,ki,hoch,meine daten "
      "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden,wer kann sehen,wer kann lesen,wer "
      "hat zugriff,zugriff auf,wer kann meine,kann meine daten,daten sehen,meine daten sehen,kann jemand "
-     "sehen,einsehen"},
+     "sehen,einsehen,verbunden,meine passwörter,sieht orlen meine passwörter"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
      "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
@@ -298,7 +297,8 @@ constexpr SubjectRow kSubjects[] = {
      "datei,dateien,daten,ding,dinge,dingen,sache,sachen,elemente,objekte,alles,irgendetwas,zeugs,"
      "einträge"},
     {SubjectID::startup,
-     "läuft beim start,startet beim,beim start mit,läuft "
+     "langsam startet,startet langsam,langsamer start,startet mein rechner langsam,läuft beim start,startet "
+     "beim,beim start mit,läuft "
      "mit,autostart,autostartprogramme,startprogramme,startet automatisch,starten automatisch,beim "
      "anmelden,beim "
      "starten,beim start,beim hochfahren,startobjekte,automatisch gestartet,automatisch startet,automatisch "

@@ -51,19 +51,18 @@ constexpr WordRow kWords[] = {
      "chiaro,tieni,sarebbe,sarebbero,guarda,forse,sarà,saranno,dal,qualcuno,quasi,abbastanza,da qualche "
      "parte,viene,vengono,sempre,a volte,poi,sembra,credo,dice,dici,gente,penso,figlio,anche se,mentre,così "
      "tanto,soprattutto,appena,probabilmente,chissà,ognuno,sono stati,sono state,è stato,facile,riguardo "
-     "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece,tra,fra,contro,durante,"
-     "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in "
-     "pratica,ad,avremo,ci sarà,ci saranno,hai trovato,che hai trovato,a "
-     "proposito,accidenti,cavolo,insomma,magari"},
+     "a,stesse,stessi,quei,avrei,messa,esattezza,qualsiasi,attuale,ecco,invece,contro,durante,tramite,presso,"
+     "secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in pratica,ad,ci saranno,hai "
+     "trovato,che hai trovato,a proposito,accidenti,cavolo,insomma,magari,stanotte,questa notte"},
     {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,n"},
-    {Sense::except,
-     "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad eccezione dei,ad "
-     "eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre agli,all infuori di,senza,senza "
-     "contare,ma non,che non siano,che non sia,e non,fuorché,al di fuori di,escludendo,meno,eccetto i,a "
-     "parte i,senza toccare,senza cancellare,senza eliminare,senza perdere,ma lascia,lascia fuora,lascia "
-     "fuori,né,tranne quelle in,tranne quelli in,invece di,meno che"},
+    {Sense::except, "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
+                    "eccezione dei,ad eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre "
+                    "agli,all infuori di,senza,senza contare,ma non,che non siano,che non sia,e "
+                    "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i,senza toccare,senza "
+                    "cancellare,senza eliminare,senza perdere,ma lascia,lascia fuora,lascia fuori,né,tranne "
+                    "quelle in,tranne quelli in,invece di,meno che,oltre alla,oltre al,oltre allo,oltre all"},
     {Sense::lasts, "basta,basterà,bastare,bastano,dura,durerà,durare,regge,reggerà,resiste,resisterà,"
-                   "sufficiente,abbastanza spazio"},
+                   "sufficiente,abbastanza spazio,avrò,ci sarà,avremo"},
     {Sense::speed,
      "quanto velocemente,a che velocità,con che velocità,quanto in fretta,a che ritmo,ritmo,velocità,al "
      "giorno,alla settimana,al mese,ogni giorno,ogni settimana,ogni mese"},
@@ -135,7 +134,7 @@ constexpr WordRow kWords[] = {
      "poco spazio,esaurito,finito lo spazio,finendo lo spazio,finisce lo spazio,finirà lo "
      "spazio,strapieno,esaurirà,spazio è finito,esaurire,riempie,non c è più posto,tutto pieno,finire lo "
      "spazio,riempirsi,saturo,spazio insufficiente,pieni,esaurisce,finito,tutto il mio spazio,finito il mio "
-     "spazio,nuovo disco,disco nuovo,disco più grande,comprare un disco,altro disco"},
+     "spazio"},
     {Sense::free, "libero,liberi,libera,disponibile,disponibili,resta,rimane,rimasto,mi resta,mi "
                   "rimane,restano,rimangono,avanza,rimasti,residuo,restante,rimanente"},
     {Sense::total, "totale,capacità,in totale,in tutto,complessiva,complessivo,capienza,dimensione "
@@ -143,15 +142,17 @@ constexpr WordRow kWords[] = {
     {Sense::disk,
      "disco,disco fisso,disco rigido,hard disk,ssd,hdd,computer,pc,portatile,macchina,partizione,memoria di "
      "massa,archiviazione,notebook,dischi,unità,memoria interna,harddisk"},
-    {Sense::space, "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione"},
+    {Sense::space,
+     "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione,ci sta,ci stanno,entra"},
     {Sense::howMuch,
      "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto,cosa "
      "guadagno,quanto guadagno,cosa ottengo,quanto si libera,quanto libera,cosa guadagnerei"},
     {Sense::why, "perché,come mai,per quale motivo,motivo,ragione,a causa di cosa,perche,xke,xché,da cosa "
                  "dipende,a cosa è dovuto"},
-    {Sense::when, "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in "
-                  "quanto tempo,presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per "
-                  "quando,fino a quando,quanti mesi,fra quanto tempo"},
+    {Sense::when,
+     "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in quanto "
+     "tempo,presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per quando,fino a "
+     "quando,quanti mesi,fra quanto tempo,per quanto ancora,quanto durerà ancora,quanto durerà"},
     {Sense::most, "più,di più,la maggior parte,maggior parte,più spazio,maggiormente,il "
                   "grosso,principalmente,più velocemente,più in fretta,più rapidamente"},
     {Sense::takes, "occupa,occupano,occupando,prende,prendono,usa,usano,consuma,consumano,mangia,mangiano,"
@@ -173,9 +174,10 @@ constexpr WordRow kWords[] = {
      "nuova,recentemente,nuova,cambiato,cambiati,modificato,modificati,modificate,aggiunto,aggiunti"},
     {Sense::grow, "cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
                   "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
-    {Sense::above, "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
-                   "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti "
-                   "di,più grossi di,oltre il,superano,supera,più grosse di,di più di,da più di"},
+    {Sense::above,
+     "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
+     "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti di,più grossi "
+     "di,oltre il,superano,supera,più grosse di,di più di,da più di,tra,fra,compresi tra"},
     {Sense::below, "meno di,minore di,minori di,più piccolo di,più piccoli di,inferiore a,inferiori a,al "
                    "massimo,sotto,sotto i,sotto il,massimo,<,o meno"},
     {Sense::inside,
@@ -197,7 +199,7 @@ constexpr WordRow kWords[] = {
                      "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
                      "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
                      "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
-                     "vedere,chi può leggere,chi ha accesso"},
+                     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
      "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
@@ -280,7 +282,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents,
      "documento,documenti,carte,file di testo,documenti word,file word,documenti di testo,lettere"},
     {SubjectID::files, "file,elemento,elementi,cose,dati,files,oggetti"},
-    {SubjectID::startup, "avvio,all avvio,all accensione,si avvia automaticamente,si avviano "
+    {SubjectID::startup, "parte lentamente,si avvia lentamente,lento ad avviarsi,avvio lento,avvio,all "
+                         "avvio,all accensione,si avvia automaticamente,si avviano "
                          "automaticamente,avvio automatico,programmi all "
                          "avvio,al login,all accesso,parte da solo,partono da soli,partono all avvio,si "
                          "avviano,si avvia,si aprono da soli,"

@@ -52,16 +52,16 @@ constexpr WordRow kWords[] = {
      "veces,luego,parece,creo,hagas,estén,haces,dice,gente,pienso,además de "
      "eso,hijo,aunque,mientras,entonces,así,sobre todo,apenas,casi todo,jamás visto,dónde exactamente,cosa "
      "de,pone,ponen,exactos,quizás,tal vez,hubiera,sería,serían,fácil,rápida,acerca de,fueron,fue,cada "
-     "uno,entre,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
-     "realidad,básicamente,tendré,tendremos,habrá,tendría,tendrá,tendrás,que encontraste,encontraste,has "
-     "visto,el portátil está,por cierto,a ver,oye,venga,caramba,jolín,quiero ver,vaya"},
+     "uno,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
+     "realidad,básicamente,tendría,tendrá,tendrás,que encontraste,encontraste,has visto,el portátil está,por "
+     "cierto,a ver,oye,venga,caramba,jolín,quiero ver,vaya,esta noche,anoche"},
     {Sense::negation, "no,nunca,jamás,ningún,ninguno,ninguna,nada,tampoco"},
     {Sense::except, "excepto,salvo,menos,a excepción de,aparte de,además de,quitando,sin contar,que no "
                     "sean,que no sea,excluyendo,pero no,sin,con excepción de,y no,fuera de,sin incluir,pero "
                     "sin,ignorando,sin tocar,sin borrar,sin eliminar,sin perder,pero deja,deja fuera,dejando "
                     "fuera,ni,menos las de,menos los de,menos lo de,en vez de,sin que"},
     {Sense::lasts, "alcanza,alcanzará,alcanzar,basta,bastará,bastar,dura,durará,aguanta,aguantará,aguantar,"
-                   "llega,llegará,será suficiente,suficiente espacio"},
+                   "llega,llegará,será suficiente,suficiente espacio,tendré,habrá,tendremos"},
     {Sense::speed,
      "con qué rapidez,qué tan rápido,a qué velocidad,cómo de rápido,a qué ritmo,ritmo,velocidad,al día,por "
      "día,a la semana,por semana,al mes,por mes,cada día,cada semana,cada mes"},
@@ -131,22 +131,22 @@ constexpr WordRow kWords[] = {
      "todo,llenar,no queda sitio,saturado,acabe el espacio,se llene,llene,acabará el "
      "espacio,petado,repleto,acaba el espacio,todo mi espacio,se fue mi espacio,se ha ido el espacio,se ha "
      "ido mi espacio,se fue el espacio,se fue todo mi espacio,no tengo espacio en,no hay sitio,sin espacio "
-     "en,disco nuevo,disco más grande,comprar un disco,otro disco,no me queda espacio,no me cabe nada"},
+     "en,no me queda espacio,no me cabe nada"},
     {Sense::free,
      "libre,libres,disponible,disponibles,queda,quedan,me queda,sobrante,restante,sin usar,me quedan,resta"},
     {Sense::total, "total,capacidad,en total,totales,tamaño total,capacidad total,resumen,estado,panorama"},
     {Sense::disk, "disco,disco "
                   "duro,ssd,hdd,ordenador,computadora,computador,pc,equipo,portátil,máquina,partición,"
                   "almacenamiento,unidad,laptop,compu,discos,ordena,memoria interna"},
-    {Sense::space,
-     "espacio,sitio,lugar,espacio en disco,memoria,espacio de disco,espacio de almacenamiento,hueco"},
+    {Sense::space, "espacio,sitio,lugar,espacio en disco,memoria,espacio de disco,espacio de "
+                   "almacenamiento,hueco,cabe,caben,cabrá"},
     {Sense::howMuch, "cuánto,cuánta,qué cantidad,qué cantidad de,quanto,kuanto,cuánto me,qué gano,cuánto "
                      "gano,qué ganaría,qué consigo,cuánto se libera,cuánto libera"},
     {Sense::why,
      "por qué,porqué,porque,a qué se debe,cómo es que,por qué razón,razón,motivo,debido a qué,xq,pq"},
-    {Sense::when,
-     "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué fecha,cuánto "
-     "falta,cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto tarda,cuántas semanas"},
+    {Sense::when, "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué "
+                  "fecha,cuánto falta,cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto "
+                  "tarda,cuántas semanas,cuánto tiempo más"},
     {Sense::most, "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más,más "
                   "rápido,más deprisa,más rápidamente"},
     {Sense::takes, "ocupa,ocupan,ocupando,usa,usan,usando,consume,consumen,come,comen,comiendo,gasta,gastan,"
@@ -174,7 +174,7 @@ constexpr WordRow kWords[] = {
      "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior a,superiores "
      "a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo menos,más grandes de,que "
      "pasen de,más pesados que,sobre los,superan,supera,que pese más de,que pesen mas de,que ocupe más "
-     "de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que supere,que pesen"},
+     "de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que supere,que pesen,entre"},
     {Sense::below, "menos de,menor que,menores que,menor de,menores de,más pequeño que,más pequeños "
                    "que,inferior a,inferiores a,como máximo,por debajo de,máximo,<,o menos,debajo de"},
     {Sense::inside, "en,dentro,dentro de,desde la carpeta,en la carpeta,de la carpeta,adentro de"},
@@ -196,7 +196,7 @@ constexpr WordRow kWords[] = {
                      "sin conexión,subir,sube,subes,recopila,recopilas,datos "
                      "personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
                      "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
-                     "ver,quién puede leer,quién tiene acceso"},
+                     "ver,quién puede leer,quién tiene acceso,conectado,conectada,ve mis contraseñas"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general,
      "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
@@ -285,7 +285,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents, "documento,documentos,papeles,archivos de texto,documentos de word,cartas,textos"},
     {SubjectID::files, "archivo,archivos,fichero,ficheros,elemento,elementos,cosa,cosas,datos"},
     {SubjectID::startup,
-     "inicio,al inicio,arranque,al arrancar,al iniciar,arranca automáticamente,arrancan "
+     "arranca lento,arranca despacio,tarda en arrancar,arranca lentamente,inicio,al inicio,arranque,al "
+     "arrancar,al iniciar,arranca automáticamente,arrancan "
      "automáticamente,programas de inicio,se inicia automáticamente,se inician automáticamente,al "
      "encender,inicio de sesión,al iniciar sesión,inicio automático,se abren solos,arrancan solos,se inician "
      "solos,se inician,se abren solas,se inicia solo,enciendo,arrancan solas,arrancan,arranca,encender,se "
