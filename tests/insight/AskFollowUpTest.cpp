@@ -15,6 +15,7 @@ constexpr Row kAfterAList[] = {
     {"five biggest videos", "wedding.mp4|holiday.mkv|cut.mov"},
     {"and the second one?", "holiday.mkv (4 GB)|Review", "wedding"},
     {"why?", "Large but maybe wanted."},
+    {"why not", "Large but maybe wanted."},
     {"and the third?", "cut.mov (2 GB)", "holiday"},
     {"can I delete it", "cut.mov|Trash", "could free"},
     {"the oldest ones", "Of videos|The oldest:|wedding.mp4 (9 GB), changed 5 May 2019"},

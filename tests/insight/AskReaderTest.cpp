@@ -87,6 +87,7 @@ constexpr Row kLater[] = {
     {"will I make it to New Year's Eve", "Probably not."},
     {"how long will 120 GB last", "30 August 2026"},
     {"free space? and when full?", "120 GB is free|30 August 2026"},
+    {"do i have space until spring", "Probably not."},
     {"how full will the disk be in 2 months", "30 August 2026", "Probably"},
     {"how quickly is my disk filling up", "1 GB per day", "could free"},
     {"when will my disk be full and how do I free 5 gb", "30 August 2026|For the rest of 5 GB"},

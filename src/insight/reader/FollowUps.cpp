@@ -256,7 +256,8 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
         if (auto found = onAll(question, context, before.last))
             return found;
     }
-    constexpr SenseSet kAskingWhy{Sense::why, general, biggest, keep, safe, review, full, what, remove, can};
+    constexpr SenseSet kAskingWhy{Sense::why, general, biggest, keep, safe,    review,
+                                  full,       what,    remove,  can,  negation};
     if (senses.has(Sense::why) && senses.isWithin(kAskingWhy))
         return reasons(question, context, before.last);
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation, general};
