@@ -16,7 +16,7 @@
 namespace orlen {
 
 /// The words in the names of a scan's entries, so that a question need not read all names. It gives entries
-/// to look at: all others don't fit. Immutable; any thread.
+/// to look at: all others don't fit. Takes about 140 bytes for an entry. Immutable; any thread.
 class NameIndex {
 public:
     explicit NameIndex(const std::vector<Finding>& findings);
