@@ -58,6 +58,10 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
     m_cleanUps = std::make_unique<CleanUps>(std::move(history),
                                             m_isWriter ? CleanUps::Access::writer : CleanUps::Access::reader,
                                             *m_results, *m_exclusions, *m_storage);
+    m_names = std::make_shared<NameCache>();
+    // A question that is being answered keeps what it has.
+    connect(m_results.get(), &Results::findingsChanged, this,
+            [this] { m_names = std::make_shared<NameCache>(); });
     if (options.startup == Startup::full)
         m_storage->startUp();
 }
@@ -104,7 +108,8 @@ AskContext AppModel::askContext() const
             Safety::protection,
             m_storage->folders().readings(),
             m_programs->apps(),
-            m_programs->startupItems()};
+            m_programs->startupItems(),
+            m_names};
 }
 
 } // namespace orlen

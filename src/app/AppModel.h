@@ -16,6 +16,7 @@
 
 namespace orlen {
 
+class NameCache;
 struct AskContext;
 
 /// The state of the program, in four parts: the results of the last Smart Scan, what is excluded from them,
@@ -78,6 +79,7 @@ private:
     std::unique_ptr<Programs> m_programs;
     std::unique_ptr<ExclusionList> m_exclusions;
     std::unique_ptr<Results> m_results;
+    std::shared_ptr<NameCache> m_names;   ///< of the results, for questions
     std::unique_ptr<CleanUps> m_cleanUps; ///< last: destroyed first, while what it records into still exists
 };
 

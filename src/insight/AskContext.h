@@ -4,6 +4,7 @@
 #include "clean/FolderReading.h"
 #include "clean/Protection.h"
 #include "insight/Predictor.h"
+#include "insight/reader/NameIndex.h"
 #include "model/Finding.h"
 #include "model/Message.h"
 #include "platform/values/Time.h"
@@ -11,6 +12,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -49,6 +51,9 @@ struct AskContext {
     /// Nothing until they have been read.
     std::optional<std::vector<KnownApp>> apps{};
     std::optional<std::vector<KnownStartupItem>> startupItems{};
+    /// The words in the names of the findings, made when they are first needed. Whoever asks several times
+    /// about the same findings hands on the same. Never null.
+    std::shared_ptr<NameCache> names = std::make_shared<NameCache>();
 };
 
 } // namespace orlen

@@ -151,6 +151,9 @@ inline constexpr Text kLeftOut = message("Left out: {names}.");
 // in ~/Videos".
 inline constexpr Text kFiles = messageIn("files, within a sentence", "files");
 // TRANSLATORS: {files} is "videos" and the like, perhaps already with a condition such as this one.
+// TRANSLATORS: {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kFilesRated = message("{files} rated {rating}");
+// TRANSLATORS: {files} is "videos" and the like, perhaps already with a condition such as this one.
 inline constexpr Text kFilesOver = message("{files} over {size}");
 inline constexpr Text kFilesUnder = message("{files} under {size}");
 inline constexpr Text kFilesOpenedBefore = message("{files} last opened before {date}");

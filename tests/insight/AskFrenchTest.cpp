@@ -68,6 +68,8 @@ constexpr Row kFrench[] = {
     {"est-ce que le disque sera plein à noël", "Probably yes.|30 August 2026"},
     {"le disque tiendra jusqu'au mois prochain ?", "Probably yes."},
     {"assez de place jusqu'à la fin de l'année ?", "Probably not."},
+    {"que veut dire gardé", "Keep:"},
+    {"liste tous les nettoyages", "2 clean-ups", "could free"},
 };
 
 } // namespace

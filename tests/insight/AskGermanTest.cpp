@@ -72,6 +72,9 @@ constexpr Row kGerman[] = {
     {"hab ich in drei wochen noch platz", "Probably yes."},
     {"mach 5 GB frei", "For the rest of 5 GB", "Yes."},
     {"wie mache ich das rückgängig", "History|restore"},
+    {"zeig sichere sachen über 1 gb", "Of files rated Safe over 1 GB", "wedding"},
+    {"große videos", "Of videos the last scan lists 3|wedding.mp4"},
+    {"liste alle aufräumaktionen", "2 clean-ups", "could free"},
 };
 
 } // namespace

@@ -66,6 +66,8 @@ constexpr Row kItalian[] = {
     {"tutto quello sicuro senza le cache", "Left out: caches.|60 MB", "App caches"},
     {"il disco sarà pieno a natale?", "Probably yes.|30 August 2026"},
     {"lo spazio basta fino a ferragosto", "Probably yes."},
+    {"cosa posso togliere senza toccare le foto", "Left out: photos.|You could free"},
+    {"elenca tutte le pulizie", "2 clean-ups", "could free"},
 };
 
 } // namespace

@@ -21,6 +21,8 @@ constexpr Row kNamed[] = {
     {"is the weding.mp4 file safe", "wedding.mp4|9 GB|Review"},
     {"how big is ~/Videos/holiday.mkv", "4 GB|holiday.mkv", "wedding"},
     {"can I remove the slack cache?", "slack|3 GB|rated Safe|Apps make them again.", "mozilla"},
+    {"is mozilla's cache important", "mozilla (1 GB)|Safe"},
+    {"can you delete my documents for me", "~/Documents itself is protected|report.pdf"},
     {"what's mozilla?", "~/.cache|1 GB|Safe"},
     {"can I delete report", "report.pdf", "final"},
     {"delete holiday.mvk?", "holiday.mkv|4 GB", "not in the results"},
@@ -62,6 +64,11 @@ constexpr Row kSpace[] = {
     {"free 4 GB", "rated Safe is enough|App caches|4 GB in all", "Large files"},
     {"how can I free up 10 GB?", "Everything rated Safe|App caches|Review|Large files"},
     {"free 900 GB", "less than 900 GB"},
+    {"do I have less than 50 GB free", "No.|120 GB"},
+    {"can i fit 200 gb more", "No.|120 GB"},
+    {"get me 700 MB", "rated Safe is enough"},
+    {"why do i have only 120 gb left", "By category"},
+    {"how much can I free", "You could free about", "is free of"},
     {"make 10 gb of room", "Everything rated Safe", "Yes."},
     {"I need space for a 20GB game, what should go?", "For the rest of 20 GB|You could free"},
     {"why is there so little room left", "By category"},
@@ -76,6 +83,11 @@ constexpr Row kLater[] = {
     {"do I have enough space until next month", "Probably yes.|30 August 2026"},
     {"is there going to be room left in three weeks", "Probably yes.|30 August 2026"},
     {"will the disk survive till friday", "Probably yes."},
+    {"do i have room until the end of next month", "Probably yes."},
+    {"will I make it to New Year's Eve", "Probably not."},
+    {"how long will 120 GB last", "30 August 2026"},
+    {"free space? and when full?", "120 GB is free|30 August 2026"},
+    {"do i have space until spring", "Probably not."},
     {"how full will the disk be in 2 months", "30 August 2026", "Probably"},
     {"how quickly is my disk filling up", "1 GB per day", "could free"},
     {"when will my disk be full and how do I free 5 gb", "30 August 2026|For the rest of 5 GB"},
@@ -88,7 +100,21 @@ constexpr Row kLeftOut[] = {
     {"biggest files without the ones in Downloads", "Left out: ~/Downloads.|wedding", "debian"},
     {"what's big apart from the wedding video", "Left out: wedding.|holiday", "wedding.mp4"},
     {"free 2 GB but not from caches and logs", "Left out: caches, log files.|Review", "App caches"},
+    {"what could I throw out without touching my pictures", "Left out: photos.|You could free"},
+    {"largest five things, but leave my Downloads out of it", "Left out: ~/Downloads.|wedding", "debian"},
+    {"biggest files in Videos without Projects", "Left out: Projects.|wedding", "cut.mov"},
+    {"old downloads, not the pdf", "Left out: PDFs.|setup.deb", "report"},
     {"biggest files except unicorns", "I don't know that", "wedding"},
+};
+
+constexpr Row kRated[] = {
+    {"show Safe items over 1 GB", "Of files rated Safe over 1 GB the last scan lists 1|slack", "wedding"},
+    {"which Review files are biggest", "Of files rated Review|wedding.mp4", "slack"},
+    {"everything rated Keep", "Of files rated Keep the last scan lists 1|contract-2021", "report.pdf"},
+    {"how much space does everything marked Safe take", "Of files rated Safe", "Review"},
+    {"is Review dangerous", "Review:|only you can tell"},
+    {"why is something rated Keep", "Keep:|warning"},
+    {"does Keep mean I can't delete it", "Keep:|warning"},
 };
 
 constexpr Row kGrown[] = {
@@ -99,6 +125,8 @@ constexpr Row kGrown[] = {
     {"which folders have grown most since 2026-05-21", "Since 20 May 2026|19 GB"},
     {"what grew on my disk since 2026-06-01", "no two scans"},
     {"what grew in 2025", "no two scans"},
+    {"has Downloads become bigger since may", "Since 28 April 2026|~/Downloads: 12 GB"},
+    {"what changed since the last scan", "Since 30 May 2026|~/Videos: 9 GB"},
     {"what has grown since May 20", "Since 28 April 2026|~/Videos: 49 GB"},
 };
 
@@ -126,6 +154,12 @@ constexpr Row kLists[] = {
     {"biggest photos", "sea2.jpg", "wedding"},
     {"largest archives", "lists no archives"},
     {"smallest video", "cut.mov"},
+    {"files between 1 and 5 GB", "Of files over 1 GB under 5 GB|holiday.mkv", "wedding"},
+    {"things last opened before 2022", "last opened before 1 January 2022|wedding"},
+    {"which downloads are older than a year", "before 1 June 2025|debian.iso", "setup.deb"},
+    {"what did i save in august 2021", "I don't know that", "clean-ups since"},
+    {"does it go on over the summer", "I don't know that", "changed"},
+    {"largest photos? largest videos?", "sea2.jpg|wedding.mp4"},
 };
 
 constexpr Row kSubjects[] = {
@@ -164,6 +198,8 @@ constexpr Row kAbout[] = {
     {"what does System mean", "no other category counts", "Keep:"},
     {"difference between safe and review", "Safe:|Review:", "Keep:"},
     {"what is the weather in Graz", "I don't know that", "GB"},
+    {"list all my cleanups", "2 clean-ups", "could free"},
+    {"are my documents at risk", "Nothing leaves|never touches", "contract"},
     {"does this thing scan for viruses", "not what Orlen is for", "could free"},
     {"do you empty the trash", "never empties the Trash", "found no"},
     {"does nextcloud start automatically", "1 item starts|Nextcloud"},
@@ -254,8 +290,9 @@ TEST_F(AskReaderTest, answersNameWhatWasAskedAbout)
 {
     for (const auto& rows :
          {std::span<const Row>(kNamed), std::span<const Row>(kSpace), std::span<const Row>(kLists),
-          std::span<const Row>(kLater), std::span<const Row>(kLeftOut), std::span<const Row>(kGrown),
-          std::span<const Row>(kSubjects), std::span<const Row>(kAbout), std::span<const Row>(kEveryday)})
+          std::span<const Row>(kLater), std::span<const Row>(kLeftOut), std::span<const Row>(kRated),
+          std::span<const Row>(kGrown), std::span<const Row>(kSubjects), std::span<const Row>(kAbout),
+          std::span<const Row>(kEveryday)})
         expectAnswers(rows);
 }
 

@@ -66,6 +66,8 @@ constexpr Row kSpanish[] = {
     {"qué puedo borrar aparte de las fotos", "Left out: photos.|You could free"},
     {"me alcanza el espacio hasta semana santa", "Probably not.|30 August 2026"},
     {"tendré sitio el mes que viene", "Probably yes."},
+    {"qué puedo quitar sin tocar mis fotos", "Left out: photos.|You could free"},
+    {"lista todas las limpiezas", "2 clean-ups", "could free"},
 };
 
 } // namespace

@@ -4,14 +4,13 @@
 #include "insight/InsightTexts.h"
 #include "insight/reader/FollowUps.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <map>
-#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,9 +25,6 @@ using enum Sense;
 constexpr std::size_t kLongestQuestion = 500;
 /// Nobody asks more at once.
 constexpr std::size_t kMostParts = 4;
-
-constexpr SenseSet kQuestionWords{what, howBig, howMuch,   howMany,  can,      when,
-                                  why,  undo,   uninstall, makeRoom, untouched};
 
 bool isSuggested(std::string_view text)
 {
@@ -78,88 +74,6 @@ Question bestReading(const std::vector<Word>& words, TimePoint now, const IsName
     return *std::move(best);
 }
 
-/// The phrases from one position to before another.
-Question part(const Question& question, std::size_t from, std::size_t to)
-{
-    const auto start = question.phrases.begin();
-    Question one = withPhrases(question, {std::next(start, static_cast<std::ptrdiff_t>(from)),
-                                          std::next(start, static_cast<std::ptrdiff_t>(to))});
-    // "… and can I delete them" follows on what stands before it.
-    one.isContinued = from == 0 && question.isContinued;
-    return one;
-}
-
-/// The questions in one, if each has a question word.
-std::vector<Question> partsOf(const Question& question)
-{
-    std::vector<Question> parts;
-    std::size_t from = 0;
-    for (std::size_t i = 1; i < question.phrases.size(); ++i) {
-        const bool isStart = question.phrases[i].isJoined && kQuestionWords.has(question.phrases[i].sense) &&
-                             part(question, from, i).senses.meets(kQuestionWords);
-        if (isStart) {
-            parts.push_back(part(question, from, i));
-            from = i;
-        }
-    }
-    parts.push_back(part(question, from, question.phrases.size()));
-    return parts;
-}
-
-bool isNamedFile(const Phrase& phrase)
-{
-    return phrase.sense == quoted ||
-           (phrase.sense == unknown && PathText::extension(phrase.text).size() >= 2);
-}
-
-/// "Photos and videos": the question once for each of them. One question if they are not alike.
-std::vector<Question> distributed(const Question& question)
-{
-    const auto isAlike = [&](std::size_t i) {
-        const Phrase& phrase = question.phrases[i];
-        const Phrase& previous = question.phrases[i - 1];
-        return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
-                                   (isNamedFile(phrase) && isNamedFile(previous)));
-    };
-    std::size_t from = 1;
-    while (from < question.phrases.size() && !isAlike(from))
-        ++from;
-    std::size_t to = from;
-    while (to < question.phrases.size() && isAlike(to))
-        ++to;
-    if (from == to)
-        return {question};
-    std::vector<Question> each;
-    for (std::size_t kept = from - 1; kept < to; ++kept) {
-        std::vector<Phrase> phrases = question.phrases;
-        for (std::size_t i = to; i-- > from - 1;) {
-            if (i != kept)
-                phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
-        }
-        each.push_back(withPhrases(question, std::move(phrases)));
-    }
-    return each;
-}
-
-/// One answer below the other.
-Answer together(std::vector<Answer> answers)
-{
-    if (answers.size() == 1)
-        return std::move(answers.front());
-    Answer all;
-    std::vector<Message> texts;
-    for (Answer& answer : answers) {
-        texts.push_back(std::move(answer.text));
-        for (std::string& id : answer.findingIDs) {
-            if (std::ranges::find(all.findingIDs, id) == all.findingIDs.end())
-                all.findingIDs.push_back(std::move(id));
-        }
-        std::ranges::move(answer.paths, std::back_inserter(all.paths));
-    }
-    all.text = AskText::lines(std::move(texts));
-    return all;
-}
-
 std::optional<Reply> alone(const Question& question, const AskContext& context)
 {
     std::vector<Answer> answers;
@@ -179,10 +93,13 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
 bool pointsBack(const Question& question)
 {
     constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe};
-    constexpr SenseSet kConditions{size,    above,  below,  period, Sense::before, Sense::after, since,
-                                   biggest, oldest, newest, number, smallest,      inside,       unopened};
+    constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
+                                   Sense::after, since,    biggest, oldest,   newest,
+                                   number,       smallest, inside,  unopened, except};
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
-    return question.isContinued || question.senses.isWithin(kConditions) ||
+    const bool isPlace = question.phrases.size() == 2 && question.phrases.front().sense == inside &&
+                         question.phrases.back().subject != nullptr;
+    return question.isContinued || isPlace || question.senses.isWithin(kConditions) ||
            (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
            (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
            question.senses.isWithin(kNothingAlone);

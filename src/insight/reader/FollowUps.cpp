@@ -1,6 +1,7 @@
 #include "insight/reader/FollowUps.h"
 
 #include "insight/AskText.h"
+#include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/Rules.h"
 #include "insight/reader/SpaceReplies.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -47,15 +49,26 @@ std::optional<Reply> onPath(const Question& question, const AskContext& context,
     return replyTo(std::move(about), std::move(answer));
 }
 
-/// "The second one" of what was listed.
+/// Where what was asked about last stands in the list, from 1; 0 if it is not in it.
+std::size_t placeOfLast(const Conversation& before)
+{
+    const std::vector<std::string>& list = before.list.paths;
+    const auto found =
+        before.last.paths.size() == 1 ? std::ranges::find(list, before.last.paths.front()) : list.end();
+    return found == list.end() ? 0 : static_cast<std::size_t>(found - list.begin()) + 1;
+}
+
+/// "The second one" of what was listed, "the next one" after it.
 std::optional<Reply> onItem(const Question& question, const AskContext& context, const Conversation& before)
 {
     const bool isLast = question.senses.has(last);
     const Phrase* const ordinalPhrase = question.first(ordinal);
     const Conversation::Said& list = before.list;
     const std::size_t count = list.paths.empty() ? list.findingIDs.size() : list.paths.size();
-    const auto number =
-        isLast ? count : static_cast<std::size_t>(ordinalPhrase == nullptr ? 0 : ordinalPhrase->amount);
+    std::size_t number = isLast ? count : 0;
+    if (!isLast && ordinalPhrase != nullptr)
+        number = ordinalPhrase->amount > 0 ? static_cast<std::size_t>(ordinalPhrase->amount)
+                                           : placeOfLast(before) + 1;
     if (number == 0 || number > count)
         return std::nullopt;
     if (!list.paths.empty())
@@ -85,6 +98,19 @@ std::optional<Reply> reasons(const Question& question, const AskContext& context
     if (before.question.senses.meets({free, used, total, full, disk, space}))
         return replyTo(before.question, whyFull(question, context));
     return std::nullopt;
+}
+
+/// "Show them": the files of the kind that was spoken of.
+std::optional<Reply> onAll(const Question& question, const AskContext& context,
+                           const Conversation::Said& before)
+{
+    Phrases phrases;
+    std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
+        return phrase.sense == subject || phrase.sense == inside || phrase.sense == except;
+    });
+    Question list = withPhrases(question, std::move(phrases));
+    std::optional<Answer> answer = list.senses.has(subject) ? listOfFiles(list, context) : std::nullopt;
+    return replyTo(std::move(list), std::move(answer));
 }
 
 /// "It", "them": what the last answer was about.
@@ -129,8 +155,8 @@ Slot slotOf(const Phrases& phrases, std::size_t i, bool hadPlace)
         return {{size}};
     if (phrase.sense == above || phrase.sense == below)
         return {{above, below}};
-    if (phrase.sense == period)
-        return {{period}};
+    if (phrase.sense == period) // a day takes the place of the question for one
+        return {{period, when}};
     if (phrase.sense == number)
         return {{number}};
     if (kNames.has(phrase.sense)) {
@@ -170,6 +196,22 @@ Phrases replaced(const Phrases& before, const Phrases& now)
     return phrases;
 }
 
+/// "And over 8?" after "over 3 GB" means the same unit.
+void takeUnit(Phrases& phrases, const Question& before)
+{
+    constexpr std::int64_t kMega = 1'000'000;
+    constexpr std::int64_t kGiga = 1'000 * kMega;
+    constexpr std::int64_t kMost = 1'000;
+    const Phrase* const last = before.first(size);
+    for (std::size_t i = 1; i < phrases.size() && last != nullptr; ++i) {
+        const bool isCompared = phrases[i - 1].sense == above || phrases[i - 1].sense == below;
+        if (isCompared && phrases[i].sense == number && phrases[i].amount <= kMost) {
+            phrases[i].sense = size;
+            phrases[i].amount *= last->amount >= kGiga ? kGiga : kMega;
+        }
+    }
+}
+
 /// Only says what changes in the question before.
 std::optional<Reply> changed(const Question& question, const AskContext& context,
                              const Conversation::Said& before)
@@ -182,6 +224,11 @@ std::optional<Reply> changed(const Question& question, const AskContext& context
         return std::nullopt;
     Phrases now = question.phrases;
     std::erase_if(now, [](const Phrase& phrase) { return phrase.sense == what || phrase.sense == general; });
+    takeUnit(now, before.question);
+    // "The one before": says nothing about a date.
+    constexpr SenseSet kOfDates{Sense::before, after, since};
+    if (now.empty() || (question.senses.meets(kOfDates) && !question.senses.has(period)))
+        return std::nullopt;
     Question whole = withPhrases(before.question, replaced(before.question.phrases, now));
     std::optional<Answer> answer = replyByRule(whole, context);
     if (!answer && question.senses.meets({subject, inside})) {
@@ -205,7 +252,12 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
         if (auto found = onItem(question, context, before))
             return found;
     }
-    constexpr SenseSet kAskingWhy{Sense::why, general, biggest, keep, safe, review, full, what, remove, can};
+    if (question.isBackward && senses.isWithin({what}) && before.last.paths.empty()) {
+        if (auto found = onAll(question, context, before.last))
+            return found;
+    }
+    constexpr SenseSet kAskingWhy{Sense::why, general, biggest, keep, safe,    review,
+                                  full,       what,    remove,  can,  negation};
     if (senses.has(Sense::why) && senses.isWithin(kAskingWhy))
         return reasons(question, context, before.last);
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation, general};
@@ -219,7 +271,8 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
         return std::nullopt;
     // "Only in Pictures" after a look at one file of a list means the list.
     const bool isOfList =
-        question.isContinued && senses.meets(kSorts.with({inside, above, below, size, period}));
+        senses.has(except) ||
+        (question.isContinued && senses.meets(kSorts.with({inside, above, below, size, period})));
     if (isOfList || senses.isWithin(kSorts)) {
         if (auto found = changed(question, context, before.list))
             return found;

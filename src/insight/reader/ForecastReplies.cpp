@@ -21,7 +21,12 @@ constexpr double kFarAway = 20 * 365.0;
 TimePoint deadlineIn(const Question& question, const Period& period, TimePoint now)
 {
     const Period next = coming(period);
-    return question.senses.has(Sense::before) && next.from > now ? next.from : next.to;
+    if (!question.senses.has(Sense::before))
+        return next.to;
+    if (next.from > now)
+        return next.from;
+    // "Until summer" in the middle of one.
+    return period.next && next.to > now ? back(next.from, TimeUnit::year, -1) : next.to;
 }
 
 /// Yes or no; empty if the question asks for something else.

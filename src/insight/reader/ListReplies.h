@@ -16,4 +16,7 @@ namespace orlen::AskReader {
 /// The files that two subjects fit, such as "duplicate PDFs".
 [[nodiscard]] std::optional<Answer> listOfBoth(const Question& question, const AskContext& context);
 
+/// The same for what has a rating; nothing if the question names none.
+[[nodiscard]] std::optional<Answer> listOfRated(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -61,6 +62,11 @@ void mergeExclusions(Phrases& phrases)
                             [&](const Phrase& each) { return kNameable.has(each.sense); });
     if (isOnlyDenied)
         phrases.front().sense = Sense::except;
+    for (std::size_t i = 1; i + 1 < phrases.size(); ++i) {
+        // "Old downloads, not the PDF"
+        if (phrases[i].sense == Sense::negation && phrases[i].isJoined && kNameable.has(phrases[i + 1].sense))
+            phrases[i].sense = Sense::except;
+    }
     for (std::size_t i = 0; i < phrases.size(); ++i) {
         if (phrases[i].sense != Sense::except || !phrases[i].excluded.empty())
             continue;
@@ -136,8 +142,11 @@ std::optional<Phrase> together(const Phrase& a, const Phrase& b)
 /// "Make 5 GB of room", "free 5 GB"
 void mergeMaking(Phrases& phrases)
 {
+    constexpr SenseSet kAlone{Sense::make, Sense::size, Sense::general, Sense::can};
+    const bool isAlone =
+        std::ranges::all_of(phrases, [&](const Phrase& each) { return kAlone.has(each.sense); });
     const bool isOfRoom =
-        has(phrases, Sense::size) && (has(phrases, Sense::free) || has(phrases, Sense::space));
+        has(phrases, Sense::size) && (isAlone || has(phrases, Sense::free) || has(phrases, Sense::space));
     if (isOfRoom)
         rename(phrases, Sense::make, Sense::makeRoom);
     else
@@ -147,6 +156,20 @@ void mergeMaking(Phrases& phrases)
         const bool isVerb = phrases[i].sense == Sense::free && phrases[i].text.find(' ') == std::string::npos;
         if (isVerb && phrases[i + 1].sense == Sense::size)
             phrases[i].sense = Sense::makeRoom;
+    }
+}
+
+/// "Between 1 and 5 GB": the unit counts for both.
+void mergeRange(Phrases& phrases)
+{
+    constexpr std::int64_t kMega = 1'000'000;
+    constexpr std::int64_t kGiga = 1'000 * kMega;
+    for (std::size_t i = 1; i + 1 < phrases.size(); ++i) {
+        if (phrases[i - 1].sense != Sense::above || phrases[i].sense != Sense::number ||
+            phrases[i + 1].sense != Sense::size)
+            continue;
+        phrases[i].sense = Sense::size;
+        phrases[i].amount *= phrases[i + 1].amount >= kGiga ? kGiga : kMega;
     }
 }
 
@@ -184,6 +207,7 @@ Question merged(const Question& question)
     Phrases phrases = question.phrases;
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
+    mergeRange(phrases);
     mergeMaking(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);

@@ -1,8 +1,8 @@
 #include "insight/reader/Names.h"
 
 #include "insight/reader/Lexicon.h"
+#include "insight/reader/LowerName.h"
 #include "platform/files/Places.h"
-#include "platform/text/LanguageTools.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -15,61 +15,6 @@ namespace orlen::AskReader {
 
 namespace {
 
-/// Writes the text in lower case to `lower`, whose memory is used again. Most names are ASCII and need no
-/// library.
-void lowerInto(std::string& lower, std::string_view text)
-{
-    lower.assign(text);
-    unsigned char all = 0;
-    for (char& c : lower) {
-        all |= static_cast<unsigned char>(c);
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    if (all >= 0x80)
-        lower = LanguageTools::lowerCase(text);
-}
-
-std::string lowered(std::string_view text)
-{
-    std::string lower;
-    lowerInto(lower, text);
-    return lower;
-}
-
-bool isWordByte(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || static_cast<unsigned char>(c) >= 0x80;
-}
-
-/// Calls `visit` with each word of a text in lower case until it returns true; whether it did.
-template <typename Visit>
-bool anyWord(std::string_view text, Visit visit)
-{
-    for (std::size_t at = 0; at < text.size();) {
-        if (!isWordByte(text[at])) {
-            ++at;
-            continue;
-        }
-        const std::size_t start = at;
-        while (at < text.size() && isWordByte(text[at]))
-            ++at;
-        if (visit(text.substr(start, at - start)))
-            return true;
-    }
-    return false;
-}
-
-std::vector<std::string> wordsIn(std::string_view text)
-{
-    std::vector<std::string> words;
-    anyWord(text, [&](std::string_view word) {
-        words.emplace_back(word);
-        return false;
-    });
-    return words;
-}
-
 /// Parts of words shorter than this stand in too many names.
 constexpr std::size_t kShortestPart = 4;
 constexpr std::size_t kShortestMistypedName = 5;
@@ -78,12 +23,25 @@ constexpr std::size_t kShortestMistypedName = 5;
 class Wanted {
 public:
     explicit Wanted(std::string_view name)
-        : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsIn(m_name)),
+        : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsOfName(m_name)),
           m_mayBePart(std::ranges::all_of(
               m_words, [](const std::string& word) { return word.size() >= kShortestPart; })),
           m_mayBeMistyped(std::ranges::any_of(
               m_words, [](const std::string& word) { return word.size() >= kShortestMistypedName; }))
     {
+    }
+
+    /// The entries that may fit as well as `least` or better; nothing if all have to be looked at.
+    [[nodiscard]] std::optional<std::vector<NameIndex::Place>> places(const NameIndex& index, Fit least) const
+    {
+        if (!m_path.empty() || m_words.empty())
+            return std::nullopt;
+        if (least == Fit::mistyped)
+            return m_mayBeMistyped ? index.mistyped(m_name, m_words, kShortestMistypedName)
+                                   : std::vector<NameIndex::Place>();
+        if (least == Fit::part)
+            return m_mayBePart ? index.withParts(m_words) : std::vector<NameIndex::Place>();
+        return index.withWords(m_words);
     }
 
     /// `path` as the kernel gave it. A fit below `least` is not looked for.
@@ -131,10 +89,7 @@ private:
 
     [[nodiscard]] bool holdsWords(std::string_view text) const
     {
-        return std::ranges::all_of(m_words, [&](const std::string& word) {
-            return text.find(word) != std::string_view::npos &&
-                   anyWord(text, [&](std::string_view each) { return each == word; });
-        });
+        return std::ranges::all_of(m_words, [&](const std::string& word) { return holdsWord(text, word); });
     }
 
     [[nodiscard]] bool holdsParts(std::string_view text) const
@@ -187,6 +142,10 @@ public:
     }
 
     Found& found() { return m_found; }
+    [[nodiscard]] std::optional<std::vector<NameIndex::Place>> places(const NameIndex& index) const
+    {
+        return m_wanted.places(index, m_least);
+    }
 
 private:
     Wanted m_wanted;
@@ -194,15 +153,22 @@ private:
     Found m_found;
 };
 
-void lookInFindings(const std::vector<Finding>& findings, const std::vector<FindingKind>& kinds, Best& best)
+void lookInFindings(const AskContext& context, const std::vector<FindingKind>& kinds, Best& best)
 {
-    for (const Finding& finding : findings) {
-        if (!kinds.empty() && std::ranges::find(kinds, finding.kind) == kinds.end())
-            continue;
-        for (const FileEntry& entry : finding.items) {
-            if (best.take(entry.path))
-                best.found().hits.push_back({&finding, &entry});
-        }
+    const auto look = [&](const Finding& finding, const FileEntry& entry) {
+        const bool isWanted = kinds.empty() || std::ranges::find(kinds, finding.kind) != kinds.end();
+        if (isWanted && best.take(entry.path))
+            best.found().hits.push_back({&finding, &entry});
+    };
+    const std::shared_ptr<const NameIndex> index = context.names->of(context.findings);
+    if (const auto places = best.places(*index)) {
+        for (const auto& [finding, entry] : *places)
+            look(context.findings[finding], context.findings[finding].items[entry]);
+        return;
+    }
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items)
+            look(finding, entry);
     }
 }
 
@@ -256,7 +222,7 @@ Found bestFit(const AskContext& context, std::string_view name, const std::vecto
               Fit least)
 {
     Best best(name, least);
-    lookInFindings(context.findings, kinds, best);
+    lookInFindings(context, kinds, best);
     if (kinds.empty()) {
         lookInBreakdown(context.breakdown, best);
         lookInReadings(context.folders, best);
@@ -270,9 +236,12 @@ Found bestFit(const AskContext& context, std::string_view name, const std::vecto
 
 Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
 {
-    // Typing errors take most of the time to look for.
-    Found found = bestFit(context, name, kinds, Fit::part);
-    return found.fit == Fit::none ? bestFit(context, name, kinds, Fit::mistyped) : found;
+    for (const Fit least : {Fit::folder, Fit::part}) {
+        Found found = bestFit(context, name, kinds, least);
+        if (found.fit != Fit::none)
+            return found;
+    }
+    return bestFit(context, name, kinds, Fit::mistyped);
 }
 
 std::vector<Hit> eachOnce(std::vector<Hit> hits)
@@ -296,16 +265,10 @@ std::vector<Hit> eachOnce(std::vector<Hit> hits)
 
 bool isWordOfName(const AskContext& context, std::string_view word)
 {
-    std::string lower;
     const auto has = [&](std::string_view path) {
-        lowerInto(lower, PathText::lastComponent(path));
-        return lower.find(word) != std::string::npos &&
-               anyWord(lower, [&](std::string_view each) { return each == word; });
+        return holdsWord(lowered(PathText::lastComponent(path)), word);
     };
-    const auto isNamed = [&](const Finding& finding) {
-        return std::ranges::any_of(finding.items, has, &FileEntry::path);
-    };
-    return std::ranges::any_of(context.findings, isNamed) ||
+    return context.names->of(context.findings)->hasWord(word) ||
            std::ranges::any_of(context.breakdown.folders, [&](const CategoryFolder& folder) {
                return has(folder.path) ||
                       std::ranges::any_of(folder.largest, has, &CategoryFolder::Item::name);

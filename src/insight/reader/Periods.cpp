@@ -4,6 +4,7 @@
 #include <charconv>
 #include <chrono>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -48,8 +49,8 @@ std::optional<int> dayOfMonthIn(std::string_view text)
 /// Takes the parts of one period off the words.
 class PeriodReader {
 public:
-    PeriodReader(std::span<const std::string> words, const Lexicon& lexicon, TimePoint now)
-        : m_words(words), m_lexicon(lexicon), m_now(now)
+    PeriodReader(std::span<const std::string> words, const Lexicon& lexicon, TimePoint now, bool isExpected)
+        : m_words(words), m_lexicon(lexicon), m_now(now), m_isExpected(isExpected)
     {
     }
 
@@ -170,7 +171,7 @@ private:
             day = takeDay();
             year = day ? takeYearBehind() : std::nullopt;
         }
-        if (!year && !day && isAlsoAWord)
+        if (!year && !day && isAlsoAWord && !m_isExpected)
             return std::nullopt;
         if (!year)
             return inAnyYear(month, day, m_now);
@@ -249,7 +250,8 @@ private:
             isPast = take(Figure::previous) || isPast;
             isAhead = take(Figure::following) || isAhead;
         }
-        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a");
+        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
+                                        (m_isExpected && isIndefinite(m_words[m_at - 2])));
         if ((!count && !isOne) || (unit == TimeUnit::year && count.value_or(1) > kMostYears))
             return std::nullopt;
         Period period{back(m_now, unit, count.value_or(1)), m_now};
@@ -259,6 +261,14 @@ private:
         period.next = Span{then, then + days(1)};
         period.isAhead = isAhead;
         return period;
+    }
+
+    /// "Older than a year", in any of the languages.
+    [[nodiscard]] static bool isIndefinite(std::string_view word)
+    {
+        constexpr std::string_view kArticles[] = {"an",    "ein", "eine", "einem", "einen",
+                                                  "einer", "un",  "une",  "uno",   "una"};
+        return std::ranges::find(kArticles, word) != std::end(kArticles);
     }
 
     [[nodiscard]] bool isArticle(const std::string& word) const
@@ -293,8 +303,12 @@ private:
             return endOf(m_now, static_cast<TimeUnit>(*end));
         while (take(Figure::ofDate) || take(Figure::current)) {
         }
-        if (const auto unit = take(Figure::timeUnit))
-            return endOf(m_now, static_cast<TimeUnit>(*unit));
+        bool isNext = take(Figure::following).has_value();
+        if (const auto unit = take(Figure::timeUnit)) {
+            isNext = take(Figure::following) || isNext;
+            const auto ofUnit = static_cast<TimeUnit>(*unit);
+            return endOf(isNext ? calendar(m_now, ofUnit, 1).from : m_now, ofUnit);
+        }
         const auto month = take(Figure::month);
         const auto year = takeYearBehind();
         if (!month && !year)
@@ -308,15 +322,16 @@ private:
     std::span<const std::string> m_words;
     const Lexicon& m_lexicon;
     TimePoint m_now;
+    bool m_isExpected;
     std::size_t m_at = 0;
 };
 
 } // namespace
 
 std::optional<Taken<Period>> periodAt(std::span<const std::string> words, const Lexicon& lexicon,
-                                      TimePoint now)
+                                      TimePoint now, bool isExpected)
 {
-    return words.empty() ? std::nullopt : PeriodReader(words, lexicon, now).period();
+    return words.empty() ? std::nullopt : PeriodReader(words, lexicon, now, isExpected).period();
 }
 
 Moment dayOf(TimePoint bound)

@@ -76,7 +76,11 @@ private:
 
     bool takePeriod()
     {
-        const auto period = periodAt(rest(), m_lexicon, m_now);
+        constexpr SenseSet kBeforeDates{Sense::since,  Sense::after, Sense::before,
+                                        Sense::inside, Sense::above, Sense::below};
+        const bool isExpected =
+            !m_question.phrases.empty() && kBeforeDates.has(m_question.phrases.back().sense);
+        const auto period = periodAt(rest(), m_lexicon, m_now, isExpected);
         if (period)
             take({Sense::period, {}, nullptr, 0, period->value}, period->words);
         return period.has_value();

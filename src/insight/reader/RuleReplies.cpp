@@ -78,7 +78,8 @@ std::optional<Answer> meaningOfRatings(const Question& question, const AskContex
 {
     const Subject* const subject = question.subject();
     const bool isSystem = subject != nullptr && subject->category == OrlenCategory::system;
-    if (subject != nullptr && !isSystem)
+    const bool isAboutRating = subject != nullptr && subject->isAnyFile && question.senses.has(Sense::why);
+    if (subject != nullptr && !isSystem && !isAboutRating)
         return std::nullopt;
     std::vector<Message> lines;
     const bool isAny = question.senses.meets({Sense::safe, Sense::review, Sense::keep}) || isSystem;

@@ -32,9 +32,10 @@ constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
 constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
 constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kComparing{above, below, before, after, since, unopened};
-constexpr SenseSet kListWords{what,    howBig, howMany, howMuch, subject,  size, number,  period, inside,
-                              general, disk,   unknown, quoted,  last,     can,  remove,  space,  takes,
-                              folder,  safe,   keep,    advise,  makeRoom, used, happens, except};
+constexpr SenseSet kListWords{what,   howBig,   howMany, howMuch, subject, size,   number,
+                              period, inside,   general, disk,    unknown, quoted, last,
+                              can,    remove,   space,   takes,   folder,  safe,   keep,
+                              advise, makeRoom, used,    happens, except,  review, mean};
 constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
 constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
 constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,
@@ -89,8 +90,11 @@ const std::vector<Rule>& rules()
         {{{negation}, {remove}},
          {what, subject, can, folder, general, safe, keep, inside, disk},
          whatIsNeverTouched},
-        {{{mean}, {safe, review, keep, subject}}, {what, mean, can, general}, meaningOfRatings},
+        {{{mean}, {safe, review, keep, subject}},
+         {what, mean, can, general, negation, remove, happens, why},
+         meaningOfRatings},
         {{{what}, {review, keep}}, {safe, mean, review}, meaningOfRatings},
+        {{{review}}, {safe, can, general}, meaningOfRatings},
         {{{what, can}, {keep}}, {subject, folder, general, safe, advise}, whatToKeep},
         {{{mean}}, {what, why, general, can}, meaningOfRatings},
         {{{happens}},
@@ -113,8 +117,11 @@ const std::vector<Rule>& rules()
          {what, when, howMuch, howBig, howMany, free, remove, makeRoom, general, space, cleanUp, subject,
           happens, inside},
          lastCleanUp},
-        {{{what, howMuch, howMany}, {cleanUp, remove, makeRoom}, {period}},
-         {subject, cleanUp, inside, since, after, before, general, space},
+        {{{what, howMuch, howMany}, {cleanUp, remove}, {period}},
+         {subject, cleanUp, inside, since, after, before, general, space, makeRoom},
+         allCleanUps},
+        {{{howMuch, howMany}, {makeRoom}, {period}},
+         {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
         {{{soFar}}, {what, general, cleanUp}, allCleanUps},
@@ -124,12 +131,13 @@ const std::vector<Rule>& rules()
          kSpaceWords.with({what, howMuch, howBig, last, since, after, period, inside, general, folder, most,
                            why, biggest, number, subject, speed}),
          whatGrew},
+        {{{newest}, {since}, {last}}, {what, general, disk, inside, folder}, whatGrew},
         {{{speed}, {full, disk, space, takes, used}},
          kSpaceWords.with({what, howMuch, howBig, full, grow, general, inside, above}),
          paceOfGrowth},
         {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
         {{{why}, {full, used, space, free, takes, disk}},
-         kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why}),
+         kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why, size}),
          whyFull},
         {{{full}, {when, period}},
          kSpaceWords.with({what, can, before, general, inside, after, lasts, howMuch, negation}),
@@ -141,6 +149,7 @@ const std::vector<Rule>& rules()
         {{{space, disk, free, used}, {period}},
          kSpaceWords.with({what, can, before, general, inside, howMuch, howBig, lasts, negation, full}),
          roomLater},
+        {{{when}, {size}, {lasts, last}}, kSpaceWords.with({can, general}), fullWhen},
         {{{when}, {space, disk}}, {full, last, takes, general, inside, lasts}, fullWhen},
         {{{lasts}, {space, disk}}, {free, full, last, takes, general, inside, can, what}, fullWhen},
         {{{full}, {can}}, kSpaceWords.with({before, general, when}), fullWhen},
@@ -156,7 +165,7 @@ const std::vector<Rule>& rules()
          {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what},
          freedBySubject},
         {{{free}},
-         kSpaceWords.with({howMuch, howBig, what, general, size, inside, negation, above}),
+         kSpaceWords.with({howMuch, howBig, what, general, size, inside, negation, above, below}),
          spaceNow},
         {{{space, disk, free}, {size}}, kSpaceWords.with({can, what, general, inside, subject}), spaceNow},
         {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside, soFar}), spaceNow},
@@ -167,6 +176,11 @@ const std::vector<Rule>& rules()
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
         {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
+        // What has a rating
+        {{{safe, review, keep}, {mean, size, period, biggest, oldest, newest, review}, {subject}},
+         kListing.with({safe, review, keep, mean}),
+         listOfRated},
+        {{{safe, review, keep}, {mean, review}}, kListing.with({safe, review, keep, mean}), listOfRated},
         // What may go
         {{{subject}, {remove, makeRoom, cleanUp}},
          kRemoving.with(
@@ -177,6 +191,7 @@ const std::vector<Rule>& rules()
                          ordinal, subject, free, inside, biggest, why, happens, except}),
          whatMayGo},
         {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free, except}, whatMayGo},
+        {{{subject}, {remove}}, {general, disk}, whatMayGo},
         // Lists
         {{{folder}, {biggest, most, takes, howBig}},
          {what, inside, disk, subject, number, space, general, can, biggest, most, takes, used, except},
@@ -201,6 +216,9 @@ const std::vector<Rule>& rules()
          removingSubject},
         {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
         {{{what}, {subject}}, {general}, whatSubjectIs},
+        {{{why}, {subject}, {biggest, takes, full, grow, space, used}},
+         {general, most, disk, what, folder, inside},
+         sizeOfSubject},
         {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},

@@ -45,7 +45,8 @@ std::optional<Answer> spaceNow(const Question& question, const AskContext& conte
     if (breakdown.total <= 0)
         return std::nullopt;
     if (const Phrase* const size = question.first(Sense::size)) {
-        const bool isEnough = breakdown.free >= size->amount;
+        const bool isMore = breakdown.free >= size->amount;
+        const bool isEnough = question.senses.has(Sense::below) ? !isMore : isMore;
         const Text verdict = isEnough ? InsightTexts::kYes : InsightTexts::kNo;
         return Answer{AskText::sentences({verdict, volume(breakdown)}), {}};
     }

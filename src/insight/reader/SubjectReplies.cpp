@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/ListReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
 #include "platform/text/PathText.h"
@@ -136,6 +137,32 @@ const Subject* mainSubject(const Question& question)
     return main != nullptr ? main : question.subject();
 }
 
+/// Why the folder itself stays; empty if it is not protected.
+Message protectionOf(const std::string& folder, const AskContext& context)
+{
+    const Protection protection =
+        folder.empty() || !context.protection ? Protection::none : context.protection(folder);
+    if (protection == Protection::none)
+        return {};
+    return {InsightTexts::kFolderIsProtected,
+            {{"folder", tilde(folder)},
+             {"group", within(label(protection))},
+             {"reason", within(reason(protection))}}};
+}
+
+/// "Can I delete my documents" may mean the folder: that it stays, and which files the scan lists.
+std::optional<Answer> removingKind(const Question& question, const AskContext& context,
+                                   const std::string& folder)
+{
+    const Message shield = protectionOf(folder, context);
+    if (shield.empty() || question.senses.meets({Sense::what, Sense::inside}))
+        return std::nullopt;
+    std::optional<Answer> answer = listOfFiles(question, context);
+    if (answer)
+        answer->text = AskText::lines({shield, answer->text});
+    return answer;
+}
+
 bool isOnlyKinds(const Subject& subject)
 {
     return !subject.kinds.empty() && subject.folder.empty() && !subject.category;
@@ -174,20 +201,17 @@ std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& 
 std::optional<Answer> removingSubject(const Question& question, const AskContext& context)
 {
     const Subject& subject = *question.subject();
-    if (!subject.extensions.empty() || subject.isAnyFile)
-        return std::nullopt;
     const std::string folder = folderOf(subject);
+    if (!subject.extensions.empty())
+        return removingKind(question, context, folder);
+    if (subject.isAnyFile)
+        return std::nullopt;
     // What may go from a folder is another question than whether the folder may go.
     if (!folder.empty() && question.senses.meets({Sense::what, Sense::inside}))
         return std::nullopt;
     Lines lines;
-    if (!folder.empty() && context.protection) {
-        if (const Protection protection = context.protection(folder); protection != Protection::none)
-            lines.texts.push_back({InsightTexts::kFolderIsProtected,
-                                   {{"folder", tilde(folder)},
-                                    {"group", within(label(protection))},
-                                    {"reason", within(reason(protection))}}});
-    }
+    if (const Message shield = protectionOf(folder, context); !shield.empty())
+        lines.texts.push_back(shield);
     if (subject.category == OrlenCategory::system)
         lines.texts.push_back(
             {InsightTexts::kSystemIsProtected, {{"reason", within(reason(Protection::systemFolders))}}});

@@ -110,9 +110,12 @@ std::vector<Word> wordsOf(std::string_view question)
 std::vector<Word> wordsIn(const Lexicon& lexicon, const std::vector<Word>& words)
 {
     std::vector<Word> apart;
+    constexpr std::string_view kOf = "'s";
     for (const Word& word : words) {
-        if (word.isQuoted || lexicon.find(word.plain) != nullptr)
+        if (word.isQuoted || lexicon.find(word.plain) != nullptr || lexicon.isWord(word.plain))
             apart.push_back(word);
+        else if (word.plain.size() > kOf.size() && word.plain.ends_with(kOf)) // "Mozilla's cache"
+            apart.push_back(part(word.typed.substr(0, word.typed.size() - kOf.size()), word.endsClause));
         else
             addElided(apart, lexicon, word);
     }

@@ -17,27 +17,33 @@ constexpr WordRow kWords[] = {
                     "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
                     "removing,what to do,what do i do,what do i do now,what should i do,what can i do,what "
                     "can i do about it,what to do now,what shall i do,do about it,tips,get it smaller"},
-    {Sense::trust, "trust,trustworthy,is orlen safe,reliable,is this safe to use,is orlen legit"},
+    {Sense::trust,
+     "trust,trustworthy,is orlen safe,reliable,is this safe to use,is orlen legit,at risk,in danger,in good "
+     "hands,safe with you,safe with orlen,safe here,can i rely,rely on,open source"},
     {Sense::beyond,
      "virus,viruses,malware,spyware,trojan,faster,speed up,speeding "
      "up,slow,slower,performance,overclock,defragment,defrag,ram,cpu,processor,temperature,battery,password "
      "manager,firewall,antivirus,update my system,drivers,driver,registry,screen resolution,internet "
-     "speed,graphics card,gpu,overheating"},
+     "speed,graphics card,gpu,overheating,format,reformat,repartition,hack,hacked,virus "
+     "scan,clone,benchmark,wifi password,volume up,bluetooth,printer,webcam,mouse pointer,temperature "
+     "of,update linux,upgrade linux,install updates,bad sectors,disk health,smart "
+     "status,shred,encrypt,decrypt"},
     {Sense::happens,
      "what happens,what will happen,what would happen,happen,happens,where do they go,where does it go,where "
      "do deleted files go,permanently,forever,for good,gone for good,for "
      "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
      "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
-     "asking,automatically,without my permission,regret,lost,be lost,lose,losing"},
+     "asking,automatically,without my permission,regret,lost,be lost,losing,gone,really gone,gone "
+     "forever,lost forever,still there,come back to life,what if i"},
     {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
     {Sense::also,
-     "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and also"},
+     "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and also,or"},
     {Sense::backward,
      "it,them,they,that one,this one,those,these,ones,one,the one,it's,its,that's,they're,this,that,the "
      "ones,of them,of those,theirs,these ones,those ones,him"},
     {Sense::filler,
      "a,an,the,my,mine,our,your,i,me,we,you,is,are,was,were,be,been,am,do,does,did,have,has,had,will,would,"
-     "of,on,to,for,at,by,or,please,pls,plz,there,so,now,right "
+     "of,on,to,for,at,by,please,pls,plz,there,so,now,right "
      "now,currently,today,tell,show,list,give,find,see,look,looking,get,know,want,wondering,really,actually,"
      "about,some,all,much,many,here,then,too,ever,still,already,exactly,approximately,roughly,named,called,"
      "orlen,with,if,their,than,i've,i'm,i'd,kind,kinds,type,types,sort,like,let,let's,display,name,as,well,"
@@ -60,22 +66,38 @@ constexpr WordRow kWords[] = {
      "se,anything like,whatever,where exactly,on disk,really do,meanwhile,taken by,i have,i "
      "got,pretty,quite,very,such as,honestly,literally,super,actually do,us both,pls help,finally,once,each "
      "one,everywhere,anywhere at all,located "
-     "on,im,ive,id,between,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats "
-     "up,pls can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
+     "on,im,ive,id,during,behind,against,among,across,towards,worried,worry,whose,upon,else's,whats up,pls "
+     "can you,wonder,recently,thanks to,could i,sir,exact,minute,moment,hold on,lately,gig "
      "wise,whichever,these days,real,stuff like,sized,weird,strange,suddenly,oh no,ugh,damn,anywhere "
      "else,dunno,idk,im not sure,not sure,unsure,curious about,regarding,concerning,related,related to,size "
      "wise,by any chance,for me,to me,kids,grandchildren,way,ways,christmas eve,itself,done,doing,needs "
-     "to,as well as that,person,ordinary,first of all,away,date,dated,all of a sudden,percent,per "
-     "cent,percentage,%,asap,as soon as possible,urgently,in one go,in percent,faster way"},
+     "to,as well as that,person,ordinary,first of all,away,date,all of a sudden,percent,per "
+     "cent,percentage,%,asap,as soon as possible,urgently,in one go,in percent,faster way,portion of,part "
+     "of,share of,proportion of,fraction of,percentage of,out of it,out of that,out of this,for an "
+     "update,for the update,for an upgrade,for the upgrade,for updates,you found,that you found,found,did "
+     "you find,combined,in one,sum of,by any means,whatsoever,mean to,meant to,or so,or something,quickest "
+     "way,fastest way,fast way,good way,obviously,definitely,currently available,generally,kind "
+     "sir,buddy,mate,dude,bro,man,friendo,computer wise,here and there,i wonder if,wondering if,if "
+     "possible,going forward,marvelous,thank you very much,in advance,real quick,real fast,a "
+     "sec,hiya,heya,yo,overnight,last night,each file,as of late"},
     {Sense::negation, "not,don't,dont,doesn't,doesnt,didn't,isn't,aren't,can't,cant,cannot,shouldn't,mustn't,"
-                      "never,won't,haven't,havent,hasn't,wasn't,weren't,no longer,couldn't,wouldn't,ain't"},
+                      "never,won't,haven't,havent,hasn't,wasn't,weren't,no "
+                      "longer,couldn't,wouldn't,ain't,wont,shouldnt,didnt,isnt,arent,wouldnt,couldnt,hasnt,"
+                      "wasnt,aint,neither,nor,none,noone,no one"},
     {Sense::except,
      "except,except for,besides,beside,other than,apart from,aside from,excluding,exclude,but not,not "
      "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
      "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
-     "in,that aren't,that are not,which aren't,which are not,that isn't,not from"},
-    {Sense::lasts, "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to "
-                   "last,be enough,still fit,run dry"},
+     "in,that aren't,that are not,which aren't,which are not,that isn't,not from,but leave,leaving out "
+     "my,without touching,without deleting,without removing,without losing,without moving,not touching,but "
+     "not touch,but don't touch,but dont touch,but no,and no,with no,but keep,but keep my,leave my,leave "
+     "the,but ignore,but skip,just not,only not,instead of,not any"},
+    {Sense::lasts,
+     "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to last,be "
+     "enough,still fit,run dry,make it to,make it until,make it till,get me to,get through to,make it "
+     "through,be okay until,be ok until,be fine until,good until,sufficient,be sufficient,holds out,carry "
+     "on,will i have,will there be,will there still be,will i still have,going to be,gonna be,going to "
+     "have,does it last,will it last,it last,will we have"},
     {Sense::speed, "how fast,how quickly,how rapidly,growth rate,pace,at what rate,what rate,speed,per "
                    "day,per week,per month,each day,each week,each month,a day,a "
                    "week,daily,weekly,monthly,every day,every week,every month"},
@@ -89,7 +111,8 @@ constexpr WordRow kWords[] = {
      "many gb,how many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much "
      "space is taken by,how much space is used by,how much space are,big is,file size,total size of,how much "
      "disk space do,how much disk space does,hw big,sizes,how much memory does,how much memory do,how much "
-     "gb,how bigg"},
+     "gb,how bigg,what share,what part,what portion,what proportion,what percentage,what fraction,amount of "
+     "space,space does,footprint of,footprint,weight of,how much data,how much is"},
     {Sense::howMany, "how many,count,number of,how often,amount of,how many times,how mny,howmany"},
     {Sense::can, "can,could,may,should,shall,must,need,is it safe to,is it ok to,is it okay to,safe to,ok "
                  "to,okay to,allowed to,possible to,able to,is it fine to,fine to,is it alright to,alright "
@@ -102,18 +125,19 @@ constexpr WordRow kWords[] = {
      "stuff,tidy up,declutter,get some space,need some space,save space,saving space,spare up,frees,freed "
      "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
      "things,trim,shrink,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
-     "full,emptier,lighten"},
+     "full,emptier,lighten,way to get,need to find,must free,must make,want to make,have to free,have to "
+     "make,room i could,gig back,gigs back,win back,claw back"},
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
      "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never "
      "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
      "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
      "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
-     "delete,leaves alone,never ever delete,stay away from,hands off"},
-    {Sense::cleanUp, "clean-up,clean-ups,cleanup,cleanups,cleaning,cleanings,clean up,cleaned "
-                     "up,cleaned,clean,cleans,tidied,did orlen free,has orlen freed,did you free,have you "
-                     "freed,did i free,have i freed,did we free,did orlen clean,did orlen remove,did orlen "
-                     "move,have you cleaned,did you clean"},
+     "delete,leaves alone,never ever delete,stay away from,hands off,allowed to touch,may touch,can "
+     "touch,permitted to touch"},
+    {Sense::cleanUp, "clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
+                     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we "
+                     "free,did orlen clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
     {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
                        "the program,delete the program"},
     {Sense::remove,
@@ -123,27 +147,41 @@ constexpr WordRow kWords[] = {
      "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
      "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
      "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw,should "
-     "go,could go,has to go,must go,would go"},
-    {Sense::undo, "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
-                  "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them "
-                  "back,bring it back,bring them back,put it back,put them back,changed my mind,by "
-                  "mistake,by accident,accidentally,get my files back,undoing,rollback,want it back,want "
-                  "them back,come back,back,recoverable,retrievable,retrieve"},
+     "go,could go,has to go,must go,would go,trash the,trash my,trash all,trash this,trash that,trash "
+     "these,trash some,useless,unnecessary,unneeded,junk,garbage,clutter,crap,leftovers,leftover "
+     "files,superfluous,pointless files,dead weight,waste of space,rubbish files,shed,eliminate,sacrifice,do "
+     "i not need,i can lose,can lose,can i lose,zap"},
+    {Sense::undo,
+     "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
+     "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them back,bring it "
+     "back,bring them back,put it back,put them back,changed my mind,by mistake,by accident,accidentally,get "
+     "my files back,undoing,rollback,want it back,want them back,come "
+     "back,back,recoverable,retrievable,retrieve,regret,regretted,resurrect,reinstate,return,returned,put "
+     "everything back,oops,unmove,undid,reversed,rescue,salvage,unclean,wrong file,wrong files,shouldn't "
+     "have deleted,get it all back"},
     {Sense::safe, "safe,safely,harmless,ok,dangerous,risky,safest,problem,problems,risk,risks,bad "
                   "idea,trouble,okay,without worrying,without worry,without risk,without problems,without a "
                   "problem,without fear,without danger"},
     {Sense::review, "review"},
-    {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays"},
-    {Sense::mean, "mean,means,meaning,stand for,stands for,difference between,the "
-                  "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,"
-                  "categorise,definition,rules,rule,criteria,decide,judge,classified,classify,label"},
-    {Sense::soFar, "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
-                   "freed,history,in the past,over the years,ever cleaned,since the beginning,since i "
-                   "started,all together"},
-    {Sense::used, "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk "
-                  "usage,space usage,storage usage"},
+    {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays,important,essential,necessary,worth "
+                  "keeping,valuable,precious,hang onto"},
+    {Sense::mean,
+     "mean,means,meaning,stand for,stands for,difference between,the "
+     "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,categorise,"
+     "definition,rules,rule,criteria,decide,judge,classified,classify,label,marked,labelled,labeled,tagged,"
+     "flagged,classed,what's a,definition of,describe the,categories mean,have to review,need to review,must "
+     "review,must i review,should i review,do i review,the difference between"},
+    {Sense::soFar,
+     "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
+     "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,all "
+     "together,cleanups,clean-ups,cleanings,clean ups,past clean-ups,previous clean-ups,past cleanups,my "
+     "clean-ups,my cleanups,ever done,all my cleanups,all my clean-ups,log of cleanups,before today"},
+    {Sense::used,
+     "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk usage,space "
+     "usage,storage usage,filled,portion used,taken up,eaten,gobbled up,percent full,percentage full,% full"},
     {Sense::handled, "used,accessed"},
-    {Sense::opened, "opened,touched,open,touch,looked at,watched,viewed,read"},
+    {Sense::opened,
+     "opened,touched,open,touch,looked at,watched,viewed,read,watch,viewing,listen,listened,seen,saw"},
     {Sense::full,
      "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
      "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
@@ -156,24 +194,33 @@ constexpr WordRow kWords[] = {
      "vanish,space disappeared,space vanished,all my storage,storage gone,disk space gone,all my disk "
      "space,so little room,little room left,little space left,so little room left,so little space "
      "left,hardly any space,hardly any room,barely any space,barely any room,almost no space,almost no "
-     "room,nearly no space,not much space,not much room"},
+     "room,nearly no space,not much space,not much room,no gigs left,fills my,filling my,used it all "
+     "up,crammed,packed,jam-packed,topped out,maxed out,at capacity,near capacity,overflow,overflowing,reach "
+     "the limit,ran out,ran out of space,use up all,used up all,use all my space,full up"},
     {Sense::free, "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty "
-                  "space,remains,vacant"},
+                  "space,remains,vacant,unused disk space,usable,space remaining,remaining space,gigs "
+                  "free,unallocated,headroom,breathing room,leeway"},
     {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total "
                    "space,status,overview,summary"},
     {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
                   "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,mac,disc,my "
                   "disk,harddrive,harddisk,notebook,nvme"},
     {Sense::space,
-     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space"},
-    {Sense::howMuch, "how much,how mutch,how mcuh,howmuch"},
+     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space,fit,fits"},
+    {Sense::howMuch,
+     "how much,how mutch,how mcuh,howmuch,what do i gain,what would i gain,what do i get,what would i "
+     "get,what do i save,what would i save,what would that free,what does that free,what does it bring"},
     {Sense::why, "why,how come,what's the reason,what made,reason,what makes,why's,for what reason,why "
-                 "so,why is that,why that,reasons"},
+                 "so,why is that,why that,reasons,whats the reason,hows come,what's causing,what "
+                 "caused,whats causing,caused,cause,causes,causing,because of what,what is causing,explain "
+                 "why,tell me why,what happened to"},
     {Sense::when, "when,how soon,how long,what date,which date,what day,which day,how many days,how many "
                   "weeks,how many months,by when,until when,what month,which month,when's,how long until,how "
-                  "long till,how long before,when will,how many years,soon"},
-    {Sense::most, "most,the most,most space,most of,most room,most storage,most disk space,biggest "
-                  "chunk,fastest,quickest,most quickly,most rapidly,the fastest,the quickest"},
+                  "long till,how long before,when will,how many years,soon,how much longer,how much time"},
+    {Sense::most,
+     "most,the most,most space,most of,most room,most storage,most disk space,biggest "
+     "chunk,fastest,quickest,most quickly,most rapidly,the fastest,the quickest,bulk of,lion's share,largest "
+     "share,main culprit,main culprits,culprit,culprits,worst offender,worst offenders,offenders,offender"},
     {Sense::takes,
      "takes,taking,take,takes up,taking up,take up,hogging,hog,hogs,eating,eats,eat,eating "
      "up,using,uses,use,using up,uses up,use "
@@ -181,17 +228,26 @@ constexpr WordRow kWords[] = {
      "hog,need,needs,clogging,clogs,clog,clogging up,wasted,space eaters,heavy,gobbling up,gobbling"},
     {Sense::biggest,
      "biggest,largest,heaviest,top,bulkiest,greatest,largest "
-     "sized,fattest,longest,large,big,huge,giant,enormous,massive,gigantic,bigest,sorted by size,by size"},
+     "sized,fattest,longest,large,big,huge,giant,enormous,massive,gigantic,bigest,sorted by size,by "
+     "size,hugest,chunkiest,chunky,beefiest,beefy,bulky,heavy,monster,hefty,giants,massive "
+     "ones,whopper,whoppers,sizeable,sizable,biggies,colossal,ranked by size,biggest to smallest,weighty"},
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
-    {Sense::oldest, "oldest,most ancient,old,ancient,outdated"},
+    {Sense::oldest, "oldest,most ancient,old,ancient,outdated,earliest,stalest,vintage,from long "
+                    "ago,aged,elderly,antique,dated,eldest"},
     {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
-                    "added,added,arrived,last added"},
-    {Sense::grow, "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
-                  "bigger,increase,gained,changed in size,swelled,swollen,ballooned"},
+                    "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "
+                    "edited,just downloaded,recently downloaded,just added,brand new,newly added"},
+    {Sense::grow,
+     "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
+     "bigger,increase,gained,changed in size,swelled,swollen,ballooned,become bigger,become larger,become "
+     "big,gotten larger,get bigger,getting bigger,getting larger,getting big,got fatter,get larger,how much "
+     "more space did,how much more did,how much bigger did,how much bigger "
+     "has,expanded,expand,expanding,blew up,exploded,piled up,piling up,accumulated,gaining,gains,got "
+     "big,become so big,become so large,gets bigger,gets larger,put on weight,inflated,bloated,increasing"},
     {Sense::above, "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller "
                    "than,heavier than,or more,or larger,or bigger,and up,and above,and bigger,and "
-                   "larger,bigger then,larger then,more then,minimum,upwards of,>"},
+                   "larger,bigger then,larger then,more then,minimum,upwards of,>,between"},
     {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more "
                    "than,no larger than,no bigger than,smaller then,less then,maximum,<"},
     {Sense::inside, "in,inside,within,from,in the folder,in my,under the folder"},
@@ -201,28 +257,34 @@ constexpr WordRow kWords[] = {
      "accessed,havent opened,haven't i opened,not looked at,have not used,have i not opened,haven't i "
      "used,forgotten,not been used,hardly ever opened,no longer use,never open,never use,don't use,dont "
      "use,rarely use,rarely used,don't open,haven't been used,haven't been touched,no longer used,haven't "
-     "looked at,haven't watched,untouched since,forgot about,i forgot,not watched,not in use"},
+     "looked at,haven't watched,untouched since,forgot about,i forgot,not watched,not in use,not "
+     "watch,haven't listened,not listened,never watched,never played,not play,don't watch,never "
+     "listened,dusty,collecting dust,gathering dust,neglected,abandoned,ignored,stale,idle,not needed "
+     "since,unwatched,unread,not read,unplayed,last opened,last used,last accessed,last viewed,last watched"},
     {Sense::before, "before,older than,earlier than,prior to,more than ago,older then,till,until"},
     {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
-    {Sense::privacy, "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,"
-                     "telemetry,tracking,track,send,sends,sent,sending,spy,spying,leave,leaves,server,"
-                     "servers,phone home,share,shares,shared,third party,third "
-                     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,"
-                     "chatgpt,secret,spies,see my files,see my photos,watching me,who can see,personal "
-                     "data,data protection,hackers,hacker,ads,visible to others,see it,see "
-                     "them,snoop,third-party,safe from hackers,data leaves,leave my computer,leaves my "
-                     "computer,who can read,who has access,who sees,who reads,access to my"},
+    {Sense::privacy,
+     "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,tracking,"
+     "track,send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone "
+     "home,share,shares,shared,third party,third "
+     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,chatgpt,secret,spies,"
+     "see my files,see my photos,watching me,who can see,personal data,data "
+     "protection,hackers,hacker,ads,visible to others,see it,see them,snoop,third-party,safe from "
+     "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
+     "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
+     "safe,know my passwords,eavesdrop,anyone get"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
      "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
-     "languages,translation,mail,attachment,important,same "
-     "file,long,scan,result,results,bigger,larger,smaller,older,newer,fast,cost,costs,category,categories,"
-     "else,worth,useless,unnecessary,unneeded,junk,garbage,clutter,actually "
-     "do,same,sure,other,more,finding,findings,crap,longer,anymore,any more,any "
+     "languages,translation,mail,attachment,same "
+     "file,long,result,results,larger,smaller,older,newer,fast,cost,costs,category,categories,else,worth,"
+     "actually do,same,sure,other,more,finding,findings,longer,anymore,any more,any "
      "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
-     "leftovers,remains,leftover files,mess,messy,chaos,cluttered,disorder,clutterd,installed"},
+     "remains,mess,messy,chaos,cluttered,disorder,clutterd,installed,turn off,switch "
+     "off,disable,stop,enable,prevent,rank,ranking,sorted,worry "
+     "about,concern,urgent,scary,version,versions,bigger,scan,scans"},
     // Of applications: their sizes are with it anyway.
     {Sense::filler, "with their data,with its data,with data,including data,including their data,including "
                     "its data,data included"},
@@ -327,7 +389,13 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::startup,
-     "startup,startup items,startup programs,startup apps,start-up,start up,autostart,login items,starts "
+     "start slowly,starts slowly,slow to start,boot slowly,boots slowly,takes long to start,takes ages to "
+     "start,start slow,boot slow,runs at boot,run at boot,runs on boot,run on boot,starts at boot,start at "
+     "boot,starts on boot,loads at "
+     "startup,launches,launch,launching,loads when,load when,autorun,start on their own,starts on its "
+     "own,run automatically,runs automatically,opens automatically,run in the background,runs in the "
+     "background,at start,on start,boot time,startup,startup items,startup programs,startup "
+     "apps,start-up,start up,autostart,login items,starts "
      "automatically,start automatically,starts by itself,start by themselves,start when i log in,starts when "
      "i log in,boot,at login,on login,when i log in,start by itself,at boot,on boot,at startup,on "
      "startup,launches automatically,launch at login,when i turn on,when i start,starts up,start at "
@@ -392,7 +460,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::previous, "last,past,previous"},
     {Figure::current, "this"},
     {Figure::following, "next,coming,upcoming,following"},
-    {Figure::ahead, "in,within,for another,in about,for"},
+    {Figure::ahead, "another,in,within,for another,in about,for"},
     {Figure::daysAhead, "tomorrow", 1},
     {Figure::namedDay, "new year,new year's,new years,new year's day", valueOf(NamedDay::newYear)},
     {Figure::namedDay, "valentine's day,valentines day,valentine's", valueOf(NamedDay::valentine)},
@@ -409,6 +477,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::endOf, "end of,the end of,end", -1},
     {Figure::endOf, "month end,month-end,month's end", 2},
     {Figure::endOf, "year end,year-end,year's end", 3},
+    {Figure::ordinal, "next one,next,one after that", 0},
     {Figure::ofDate, "of,the"},
 };
 

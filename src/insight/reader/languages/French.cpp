@@ -16,7 +16,8 @@ constexpr WordRow kWords[] = {
      "suggestion,suggestions,suggérer,commencer,que faire,le mieux,en priorité,vaut la "
      "peine,proposes,conseillez,recommandez,quoi faire,que dois je faire,je fais quoi,je dois faire quoi,que "
      "puis je faire,que faire maintenant,astuces,je devrais faire"},
-    {Sense::trust, "confiance,fiable,orlen est il sûr,sérieux"},
+    {Sense::trust,
+     "confiance,fiable,orlen est il sûr,sérieux,en danger,menacés,en sécurité avec,logiciel libre"},
     {Sense::beyond, "virus,malveillant,logiciel malveillant,plus "
                     "rapide,accélérer,accélère,lent,lente,lenteur,ralentit,rame,performance,performances,"
                     "défragmenter,mémoire vive,ram,processeur,cpu,batterie,pilotes,pilote,pare "
@@ -27,7 +28,7 @@ constexpr WordRow kWords[] = {
                      "seule,automatiquement,sans demander,sans me demander,sans prévenir"},
     {Sense::only, "seulement,uniquement,juste,que dans,rien que,exclusivement"},
     {Sense::also, "et,aussi,ainsi que,qu en est il de,qu en est il des,et pour,et les,et le,et la,&,et qu en "
-                  "est il de,qu en est il du,et concernant,et au fait,de même"},
+                  "est il de,qu en est il du,et concernant,et au fait,de même,ou"},
     {Sense::backward,
      "il,elle,ils,elles,celui ci,celle ci,ceux ci,celles ci,celui là,celle là,ceux là,celles "
      "là,ceux,celui,celle,celles,ça,cela,le supprimer,les supprimer,la supprimer,en,ceci,lui"},
@@ -35,7 +36,7 @@ constexpr WordRow kWords[] = {
      "le,la,les,l,un,une,du,de,d,à,a,au,aux,mon,ma,mes,notre,nos,ton,ta,tes,votre,vos,son,sa,ses,leur,leurs,"
      "je,j,me,m,moi,nous,on,tu,te,t,toi,vous,se,s,est,sont,était,étaient,suis,es,sera,serait,seront,être,été,"
      "ai,as,avons,avez,ont,avais,avait,avoir,eu,y,il y a,y en "
-     "a,pour,avec,par,sur,ou,ce,cet,cette,ces,c,ci,là,donc,alors,si,s il te plaît,s il vous plaît,svp,stp,s "
+     "a,pour,avec,par,sur,ce,cet,cette,ces,c,ci,là,donc,alors,si,s il te plaît,s il vous plaît,svp,stp,s "
      "il,plaît,plait,actuellement,maintenant,en ce moment,aujourd "
      "hui,aujourd,hui,vraiment,exactement,environ,à peu "
      "près,montre,montrer,dis,dire,dites,donne,donner,liste,lister,affiche,afficher,trouve,trouver,cherche,"
@@ -55,22 +56,26 @@ constexpr WordRow kWords[] = {
      "être,afin,pendant,parce,comme,autant,vu que,dedans,gens,dit,crois,pense,elles,ils sont,ça fait,jamais "
      "vu,mettent,ranger,lieu,madame,monsieur,mon fils,puisque,plutôt,sous,encore une "
      "fois,ayez,aie,aies,simple,rapide,quoi que,presque tout,serait "
-     "il,actuel,présente,entre,parmi,contre,via,durant,selon,soudain,bizarre,enfants,aucune idée,à "
-     "propos,concernant,en fait,quasi,date,datent,datant,datés"},
+     "il,actuel,présente,parmi,contre,via,durant,selon,soudain,bizarre,enfants,aucune idée,à "
+     "propos,concernant,en fait,quasi,date,datent,datant,datés,tu as trouvé,as trouvé,que tu,aura t il,en "
+     "supprimant ça,voudrait,d ailleurs,franchement,au juste,zut,mince,punaise,cette nuit,pendant la "
+     "nuit,font,listées,listés,affichées"},
     {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,n ai pas,n est pas,ne pas"},
     {Sense::except,
      "sauf,à part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors "
      "des,en dehors du,mis à part,hors,autre que,autres que,autre chose que,sans,sans compter,mais pas,et "
-     "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,pas dans,en excluant"},
+     "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,pas dans,en excluant,sans "
+     "toucher à,sans toucher aux,sans toucher,sans supprimer,sans effacer,sans perdre,mais sans,mais "
+     "laisse,laisse de côté,ni,à part les,sauf les,sauf le,sauf la,sauf dans,et sans,au lieu de"},
     {Sense::lasts, "tiendra,tient,tenir,suffit,suffira,suffire,suffisant,dure,durera,durer,va tenir,assez de "
-                   "place,assez d espace"},
+                   "place,assez d espace,aurai je,aura t on,y aura t il,aurons nous"},
     {Sense::speed, "à quelle vitesse,vitesse,à quel rythme,rythme,par jour,par semaine,par mois,chaque "
                    "jour,chaque semaine,chaque mois"},
-    {Sense::what,
-     "quoi,que,qu est ce que,qu est ce que c est que,qu est ce "
-     "qui,quel,quelle,quels,quelles,lequel,laquelle,lesquels,lesquelles,où,où est,où sont,c est quoi,qu y a "
-     "t il,est ce qu il y a,y a t il,il y a des,ai je,est ce que j ai,quels sont,quelles sont,quel "
-     "est,quelle est,montre moi les,montre les,as tu trouvé,qu est ce,de quoi,à quoi,quoi dans,kel,kels"},
+    {Sense::what, "quoi,que,qu est ce que,qu est ce que c est que,qu est ce "
+                  "qui,quel,quelle,quels,quelles,lequel,laquelle,lesquels,lesquelles,où,où est,où sont,c est "
+                  "quoi,qu y a t il,est ce qu il y a,y a t il,il y a des,ai je,est ce que j ai,quels "
+                  "sont,quelles sont,quel est,quelle est,montre moi les,montre les,as tu trouvé,qu est ce,de "
+                  "quoi,à quoi,quoi dans,kel,kels,il y aura,que virer"},
     {Sense::howBig,
      "quelle taille,quelle est la taille,taille,taille de,la taille,combien pèse,combien pèsent,combien de "
      "place prend,combien de place prennent,combien d espace prend,combien d espace prennent,combien de "
@@ -97,7 +102,7 @@ constexpr WordRow kWords[] = {
      "jamais,supprime jamais,supprimes jamais,ne touche pas,protège,intact,laisse tranquille,efface "
      "jamais,jamais toucher,jamais supprimé,jamais supprimés,jamais supprimer,jamais effacés,jamais "
      "effacé,déplace jamais,jamais touchés,jamais déplacés,touchera jamais,supprimera jamais,touche pas"},
-    {Sense::cleanUp, "nettoyage,nettoyages,nettoyer,nettoie,nettoyé,ménage,nettoyés,faire le ménage,faire du "
+    {Sense::cleanUp, "nettoyage,nettoyer,nettoie,nettoyé,ménage,nettoyés,faire le ménage,faire du "
                      "ménage,nettoyée,fait le ménage,tri,faire le tri,du tri"},
     {Sense::uninstall, "désinstaller,désinstalle,désinstallation,désinstallé"},
     {Sense::remove,
@@ -107,7 +112,7 @@ constexpr WordRow kWords[] = {
      "de,bazarder,suprimer,balancer,poubelle,supprimables,supprimable,inutile,inutiles,superflu,superflus,"
      "passer de,déplace,m en passer,mettre à la poubelle,foutre en l air,dégager de,pas besoin,plus besoin,n "
      "ai pas besoin,n ai plus besoin,me servent pas,sert à rien,servent à rien,dont je n ai pas besoin,dont "
-     "je n ai plus besoin"},
+     "je n ai plus besoin,supprimant,en supprimant,effaçant,vidant,en vidant,enlevant,virant"},
     {Sense::undo,
      "annuler,annule,restaurer,restaure,récupérer,récupère,rétablir,revenir en "
      "arrière,remettre,restauré,restauration,retour en arrière,ravoir,retrouver,par "
@@ -116,15 +121,17 @@ constexpr WordRow kWords[] = {
      "sûr,sans risque,sans danger,risqué,dangereux,dangereuse,danger,sûre,sûrs,sans problème,sans crainte,en "
      "toute sécurité,risque,safe,grave,tranquillement,risques,problème,sans "
      "souci,inoffensif,inoffensifs,sûres,est sûr,c est sûr,qui est sûr,sont sûrs,vraiment sûr,est il sûr,sûr "
-     "à"},
+     "à,éléments sûrs"},
     {Sense::review, "review,à vérifier,vérifier,à examiner,à revoir,examiner"},
     {Sense::keep,
      "garder,conserver,garde,à garder,keep,à conserver,gardé,conservé,important,importants,gardez"},
     {Sense::mean, "veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence "
                   "entre,note,notes,évaluation,évaluations,évalué,couleurs,vouloir "
-                  "dire,classé,classés,règles,règle,critères,classement"},
+                  "dire,classé,classés,règles,règle,critères,classement,marqué,marqués,noté,notés,classée,"
+                  "classées,évalués"},
     {Sense::soFar, "jusqu ici,jusqu à présent,jusqu à maintenant,en tout déjà,historique,au total "
-                   "déjà,depuis le début,en tout et pour tout,par le passé,jusque là"},
+                   "déjà,depuis le début,en tout et pour tout,par le passé,jusque là,nettoyages,les "
+                   "nettoyages,tous les nettoyages,historique des nettoyages,précédents nettoyages"},
     {Sense::used, "pris,plein à,rempli à,utilisation du disque,espace occupé,place occupée,espace utilisé"},
     {Sense::handled, "utilisé,utilisés,utilise,utilisée,utilisées,utilises,sers,sert,servi"},
     {Sense::opened,
@@ -136,21 +143,24 @@ constexpr WordRow kWords[] = {
      "assez de place,plus assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas "
      "assez de place,sature,plus aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer "
      "de place,aussi plein,où est passé,où est passée,est passé tout mon espace,où est partie,où est parti"},
-    {Sense::free, "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il "
-                  "reste,restent,me reste,de libre,dispo,vacant,restera,il restera,resterait,restera t il"},
+    {Sense::free,
+     "libre,libres,disponible,disponibles,reste,restant,restante,reste t il,inutilisé,il reste,restent,me "
+     "reste,de libre,dispo,vacant,restera,il restera,resterait,restera t il,encore de la place,y aura"},
     {Sense::total,
      "total,totale,capacité,au total,en tout,globale,taille totale,au totale,aperçu,résumé,bilan,état"},
     {Sense::disk,
      "disque,disque dur,ssd,hdd,ordinateur,ordi,pc,machine,portable,partition,stockage,disques,le "
      "disk,disque système,mon mac,bécane"},
-    {Sense::space, "place,espace,espace disque,espace de stockage,mémoire,place disque"},
+    {Sense::space,
+     "place,espace,espace disque,espace de stockage,mémoire,place disque,rentre,rentrent,tiennent,loger"},
     {Sense::howMuch, "combien,combien de,combien d,conbien,cb de,cb,combien reste,quelle quantité,quelle "
-                     "quantité de,combiens"},
+                     "quantité de,combiens,qu est ce que je gagne,que gagne,je gagne quoi,ça libère "
+                     "combien,combien ça libère,qu est ce que ça libère"},
     {Sense::why, "pourquoi,pour quelle raison,pour quelles raisons,comment se fait il,comment ça se "
                  "fait,raison,pk,pourkoi,d où vient,à cause de quoi"},
     {Sense::when, "quand,à quelle date,dans combien de temps,dans combien de jours,combien de temps,d ici "
                   "combien,quel jour,bientôt,à quel moment,quelle date,d ici quand,combien de jours,combien "
-                  "de mois,à partir de quand,jusqu à quand"},
+                  "de mois,à partir de quand,jusqu à quand,encore combien de temps"},
     {Sense::most, "le plus,la plus,les plus,le plus de place,le plus d espace,la plupart,le plus gros de,l "
                   "essentiel,principalement,le plus vite,plus vite,le plus rapidement,plus rapidement"},
     {Sense::takes, "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,"
@@ -177,7 +187,7 @@ constexpr WordRow kWords[] = {
     {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
                    "que,au moins,dépassant,dépassent,de plus de,supérieures à,plus lourd que,plus lourds "
                    "que,ou plus,minimum,>,faisant plus de,plus grosses que,plus grandes que,et plus,pesant "
-                   "plus de,plus d,dépasse,plus volumineux que"},
+                   "plus de,plus d,dépasse,plus volumineux que,entre"},
     {Sense::below, "moins de,en dessous de,inférieur à,inférieurs à,plus petit que,plus petits que,au "
                    "plus,inférieures à,ou moins,maximum,<,de moins de,moins d,au maximum,sous"},
     {Sense::inside,
@@ -195,13 +205,13 @@ constexpr WordRow kWords[] = {
     {Sense::since, "depuis,plus récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
-    {Sense::privacy,
-     "internet,en ligne,réseau,privé,privées,vie "
-     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,envoyé,envoyées,"
-     "envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,partages,compte,hors "
-     "ligne,téléverser,upload,collecte,collectes,données personnelles,transmet,transmises,transmet "
-     "tu,tiers,google,wifi,quitte,quittent,mes données privées,rgpd,sur le net,espion,le "
-     "web,transmettre,ia,sortent,pub,récolte,qui peut voir,qui peut lire,qui a accès"},
+    {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
+                     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
+                     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
+                     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
+                     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
+                     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
+                     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
      "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
@@ -300,7 +310,8 @@ constexpr SubjectRow kSubjects[] = {
      "document,documents,papiers,fichiers texte,courriers,documents word,fichiers word,documents "
      "texte,lettres"},
     {SubjectID::files, "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout ça,machins"},
-    {SubjectID::startup, "démarrage,au démarrage,démarre automatiquement,démarrent automatiquement,se lance "
+    {SubjectID::startup, "démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
+                         "démarrage,démarre automatiquement,démarrent automatiquement,se lance "
                          "au démarrage,programmes au "
                          "démarrage,à l ouverture de session,éléments de démarrage,lance automatiquement,se "
                          "lancent automatiquement,se "
@@ -384,6 +395,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::namedDay, "automne", valueOf(NamedDay::autumn)},
     {Figure::namedDay, "hiver", valueOf(NamedDay::winter)},
     {Figure::endOf, "fin,la fin,fin de,la fin de,la fin du,fin du", -1},
+    {Figure::ordinal, "suivant,suivante", 0},
     {Figure::ofDate, "de,le,l"},
 };
 

@@ -14,7 +14,8 @@ constexpr WordRow kWords[] = {
      "empfiehlst,empfehlen,empfehlung,empfehlungen,rätst,raten,vorschlag,vorschläge,vorschlagen,schlägst,"
      "anfangen,am besten,was tun,was jetzt,beginnen,lohnt sich,lohnt,was soll ich tun,was soll ich "
      "machen,was mache ich,was mach ich,was machen,was kann ich tun,was kann ich machen,was tue ich,tipps"},
-    {Sense::trust, "vertrauen,vertrauenswürdig,seriös,ist orlen sicher,trauen"},
+    {Sense::trust,
+     "vertrauen,vertrauenswürdig,seriös,ist orlen sicher,trauen,in gefahr,gefährdet,open source"},
     {Sense::beyond, "virus,viren,schadsoftware,trojaner,malware,schneller "
                     "machen,schneller,beschleunigen,langsam,leistung,defragmentieren,arbeitsspeicher,ram,"
                     "prozessor,cpu,akku,treiber,firewall,virenscanner,temperatur,grafikkarte"},
@@ -25,15 +26,15 @@ constexpr WordRow kWords[] = {
     {Sense::only, "nur,bloß,lediglich,ausschließlich"},
     {Sense::also,
      "und,auch,außerdem,und was ist mit,was ist mit,wie steht es mit,wie sieht es aus mit,wie sieht es "
-     "mit,wie siehts mit,sowie,&,und wie ist es mit,wie ist es mit,und wie sieht es mit"},
+     "mit,wie siehts mit,sowie,&,und wie ist es mit,wie ist es mit,und wie sieht es mit,oder"},
     {Sense::backward, "sie,ihn,es,diese,dieser,dieses,diesen,davon,die da,denen,jene,welche davon,ihnen,eins "
                       "davon,von denen,dazu,das da,dieselben,das hier,daran"},
     {Sense::filler,
      "der,die,das,den,dem,des,ein,eine,einen,einem,einer,eines,mein,meine,meinen,meinem,meiner,meines,unser,"
      "unsere,dein,deine,ich,mir,mich,wir,uns,du,dir,dich,man,ist,sind,war,waren,bin,sein,habe,hab,hast,hat,"
-     "haben,hatte,wird,werden,würde,wurden,wurde,worden,geworden,zu,zum,zur,für,auf,an,am,mit,bei,oder,bitte,"
-     "mal,denn,eigentlich,gerade,jetzt,momentan,aktuell,derzeit,heute,zeig,zeige,zeigen,sag,sage,sagen,gib,"
-     "liste,auflisten,finde,finden,such,suche,suchen,such mir,wissen,will,möchte,möchten,würde "
+     "haben,hatte,wird,werden,würde,wurden,wurde,worden,geworden,zu,zum,zur,für,auf,an,am,mit,bei,bitte,mal,"
+     "denn,eigentlich,gerade,jetzt,momentan,aktuell,derzeit,heute,zeig,zeige,zeigen,sag,sage,sagen,gib,liste,"
+     "auflisten,finde,finden,such,suche,suchen,such mir,wissen,will,möchte,möchten,würde "
      "gern,gern,gerne,wirklich,etwa,ungefähr,circa,genau,ganz,alle,allen,aller,alles "
      "was,so,da,hier,dort,schon,noch,immer "
      "noch,wohl,eben,halt,doch,namens,genannt,orlen,wenn,falls,als,wie,wie ist,gibt,kannst du mir "
@@ -52,13 +53,18 @@ constexpr WordRow kWords[] = {
      "steht,stehen,her,hin,von,scheint,glaube,denke,meinst,meine "
      "ich,würdet,rauf,drüben,ebenfalls,trotzdem,erst,hallo "
      "du,mann,kind,wozu,deren,dessen,hättest,hätte,gibs,ziemlich,ob ich,da drin,gesamten "
-     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,zwischen,durch,gegen,um,während,trotz,statt,"
-     "hinter,beim,bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine "
-     "ahnung,im grunde,quasi,übers,ums,fürs,falls möglich"},
+     "inhalt,jede,jeder,jedes,mehrere,allem,umgehen,hilfst,durch,gegen,um,während,trotz,statt,hinter,beim,"
+     "bezüglich,ungefaehr,sowas,so was,kinder,enkel,seltsam,komisch,plötzlich,leute,keine ahnung,im "
+     "grunde,quasi,übers,ums,fürs,falls möglich,gefunden hast,du gefunden,gefunden,die "
+     "du,zusammen,läuft,laufen,meines "
+     "wissens,mist,verdammt,übrigens,bescheid,zufällig,vielleicht,villeicht,bräucht,tatsächlich,noch "
+     "mal,nochmal,offensichtlich,anteil,anteil an,über nacht,fasst,fass,gelistet,aufgelistet,listest"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,nichts,nirgends,keinesfalls"},
-    {Sense::except, "außer,ausser,ausgenommen,abgesehen von,bis auf,mit ausnahme von,mit ausnahme "
-                    "der,ohne,aber nicht,aber keine,nur nicht,und nicht,exklusive,außerhalb,außerhalb "
-                    "von,lass weg,neben,nur keine,nicht aus,nicht in"},
+    {Sense::except,
+     "außer,ausser,ausgenommen,abgesehen von,bis auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber "
+     "keine,nur nicht,und nicht,exklusive,außerhalb,außerhalb von,lass weg,neben,nur keine,nicht aus,nicht "
+     "in,ohne anzufassen,ohne dass,ohne zu löschen,ausgenommen von,anstatt,und keine,abzüglich,ohne "
+     "meine,mit ausnahme,ohne die aus,weder"},
     {Sense::lasts,
      "reicht,reichen,reicht es,hält,halten,genügt,genügen,langt,langen,ausreichen,ausreicht,auskommen,komme "
      "aus,überlebt,durchhalten"},
@@ -66,16 +72,17 @@ constexpr WordRow kWords[] = {
                    "monat,täglich,wöchentlich,monatlich,am tag,in der woche,im monat"},
     {Sense::what, "was,was ist,was sind,welche,welcher,welches,welchen,welchem,wo,wo ist,wo sind,wer,was "
                   "für,was für ein,gibt es,gibts,habe ich,hab ich,zeig mir,zeige mir,welch,woraus,was "
-                  "davon,wodurch,womit,hast du gefunden,liste mir,nenne,nenn mir,nenne mir"},
+                  "davon,wodurch,womit,hast du gefunden,liste mir,nenne,nenn mir,nenne mir,wofür,wozu ist"},
     {Sense::howBig,
-     "wie groß,wie schwer,größe,größe von,die größe,wie viel platz braucht,wie viel platz brauchen,wieviel "
-     "platz braucht,wieviel platz brauchen,wie viel platz belegt,wie viel platz belegen,wie viel platz "
-     "nimmt,wie viel platz nehmen,wie viel speicher braucht,wie viel speicher brauchen,wieviel speicher "
+     "wie groß,wie schwer,größe von,die größe,wie viel platz braucht,wie viel platz brauchen,wieviel platz "
+     "braucht,wieviel platz brauchen,wie viel platz belegt,wie viel platz belegen,wie viel platz nimmt,wie "
+     "viel platz nehmen,wie viel speicher braucht,wie viel speicher brauchen,wieviel speicher "
      "braucht,wieviel speicher brauchen,wie viel speicher belegt,wie viel speicher belegen,wie viel "
      "speicherplatz braucht,wie viel speicherplatz brauchen,wie viel speicherplatz belegen,wie viel "
      "speicherplatz belegt,wieviel platz belegen,wieviel platz belegt,wieviel platz nehmen,wieviel platz "
      "nimmt,wie viele gb,wieviel gb,wie viel gb,dateigröße,wie umfangreich,wie viele "
-     "gigabyte,wiegt,wiegen,wie gross,wieviele gb"},
+     "gigabyte,wiegt,wiegen,wie gross,wieviele gb,größe der,größe des,größe meiner,größe meines,welche "
+     "größe,wie groß sind,wie groß ist,welchen anteil,wie viel prozent"},
     {Sense::howMany, "wie viele,wieviele,wie oft,anzahl,anzahl der,zahl der,wie häufig"},
     {Sense::can,
      "kann,können,könnte,darf,dürfen,soll,sollte,sollten,sollen,muss,müssen,brauche ich,brauch ich,ist es "
@@ -95,8 +102,7 @@ constexpr WordRow kWords[] = {
      "gelöscht,niemals löschen,bleibt unberührt,nie berührt,nicht angerührt,nicht angefasst,nie "
      "anrührt,lässt in ruhe,finger weg,nie verschoben,fasst nicht an"},
     {Sense::cleanUp,
-     "aufräumen,aufräumung,aufräumungen,bereinigung,bereinigungen,bereinigen,aufgeräumt,reinigung,"
-     "reinigungen,putzen,säubern,räum auf,räume "
+     "aufräumen,aufräumung,bereinigung,bereinigen,aufgeräumt,reinigung,putzen,säubern,räum auf,räume "
      "auf,bereinigt,ausgemistet,aufräumaktion,reinigen,gesäubert,gereinigt,räume,räumt,räum,aufräume,räumen"},
     {Sense::uninstall, "deinstallieren,deinstalliere,deinstallation,deinstalliert"},
     {Sense::remove,
@@ -120,9 +126,12 @@ constexpr WordRow kWords[] = {
     {Sense::keep, "behalten,behalte,aufheben,keep,aufbewahren,wichtig,bleiben,behältst"},
     {Sense::mean,
      "bedeutet,bedeuten,bedeutung,heißen,unterschied,bewertung,bewertungen,meint,heisst,was heißt,was "
-     "bedeutet,eingestuft,einstufung,farben,bewertet,regeln,regel,kriterien,entscheidet,eingeteilt"},
+     "bedeutet,eingestuft,einstufung,farben,bewertet,regeln,regel,kriterien,entscheidet,eingeteilt,markiert,"
+     "eingestufte,bewertete,was ist mit sicher gemeint,bewerteten,eingestuften"},
     {Sense::soFar, "bisher,bislang,insgesamt schon,bis jetzt,bis heute,insgesamt bisher,jemals,verlauf,schon "
-                   "insgesamt,alles in allem,in der vergangenheit,im laufe der zeit"},
+                   "insgesamt,alles in allem,in der vergangenheit,im laufe der "
+                   "zeit,aufräumungen,bereinigungen,reinigungen,aufräumaktionen,alle "
+                   "aufräumungen,bisherige,bisherigen,frühere,früheren"},
     {Sense::used, "belegt,besetzt,in gebrauch,wie voll,verbraucht,in benutzung,voll ist,weg "
                   "ist,speicherbelegung,belegung,auslastung"},
     {Sense::handled, "benutzt,verwendet,genutzt,gebraucht,benutze,verwende,nutze,gebrauche,benütze"},
@@ -134,15 +143,15 @@ constexpr WordRow kWords[] = {
      "wenig platz,wenig platz,platz geht aus,knapp,randvoll,volllaufen,keinen platz,keinen platz mehr,keinen "
      "speicher mehr,keinen speicherplatz mehr,füllt,vollgestopft,vollgemüllt,geht der platz aus,platz "
      "aus,speicher aus,voll werden,kaum platz,kaum noch platz,nicht genug platz,zu voll,zugemüllt,platz "
-     "hin,speicher hin,ausgeht,speicherplatz aus,speicherplatz hin"},
+     "hin,speicher hin,ausgeht,speicherplatz aus,speicherplatz hin,keinen platz mehr auf"},
     {Sense::free, "frei,freier,freien,freie,freies,verfügbar,verfügbarer,übrig,übriggeblieben,verbleibend,"
                   "ungenutzt,bleibt,unbelegt,leer,hab ich noch,habe ich noch,noch übrig,übrig hab"},
     {Sense::total, "insgesamt,gesamt,kapazität,gesamtgröße,zusammen,gesamtkapazität,in "
                    "summe,summe,übersicht,überblick,status,zusammenfassung"},
     {Sense::disk, "festplatte,platte,laufwerk,ssd,hdd,rechner,computer,laptop,pc,datenträger,partition,kiste,"
                   "gerät,notebook,speicher,speichers,festplatten,harddisk,systemlaufwerk"},
-    {Sense::space,
-     "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,plattenspeicher"},
+    {Sense::space, "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,"
+                   "plattenspeicher,passt,passen,reinpassen,draufpassen"},
     {Sense::howMuch, "wie viel,wieviel,wievil,wie fiel,wifiel,wiviel"},
     {Sense::why,
      "warum,wieso,weshalb,weswegen,woran liegt,wie kommt es,woran,grund,aus welchem grund,woher kommt"},
@@ -168,7 +177,7 @@ constexpr WordRow kWords[] = {
     {Sense::grow, "gewachsen,wachsen,wächst,wachstum,größer "
                   "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
     {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
-                   "als,größer,länger als,minimum,>,und mehr,und größer"},
+                   "als,größer,länger als,minimum,>,und mehr,und größer,zwischen"},
     {Sense::below,
      "unter,kleiner als,weniger als,höchstens,maximal,bis zu,oder weniger,oder kleiner,kleiner,<"},
     {Sense::inside, "in,im,innerhalb,aus,in meinem,im ordner,ins,aus dem,in den,auf dem"},
@@ -188,7 +197,8 @@ constexpr WordRow kWords[] = {
      "übertragen,übertragt,sammelt,daten ab,ins netz,wlan,google,verlässt,verlassen,wer "
      "sieht,überträgt,dritte,weitergegeben,ki,hoch,meine daten "
      "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden,wer kann sehen,wer kann lesen,wer "
-     "hat zugriff,zugriff auf"},
+     "hat zugriff,zugriff auf,wer kann meine,kann meine daten,daten sehen,meine daten sehen,kann jemand "
+     "sehen,einsehen,verbunden,meine passwörter,sieht orlen meine passwörter"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
      "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
@@ -290,7 +300,10 @@ constexpr SubjectRow kSubjects[] = {
      "datei,dateien,daten,ding,dinge,dingen,sache,sachen,elemente,objekte,alles,irgendetwas,zeugs,"
      "einträge"},
     {SubjectID::startup,
-     "autostart,autostartprogramme,startprogramme,startet automatisch,starten automatisch,beim anmelden,beim "
+     "langsam startet,startet langsam,langsamer start,startet mein rechner langsam,läuft beim start,startet "
+     "beim,beim start mit,läuft "
+     "mit,autostart,autostartprogramme,startprogramme,startet automatisch,starten automatisch,beim "
+     "anmelden,beim "
      "starten,beim start,beim hochfahren,startobjekte,automatisch gestartet,automatisch startet,automatisch "
      "starten,von selbst,beim einschalten,von alleine,mitgestartet,autostart-programme,beim "
      "booten,systemstart,beim systemstart,bei der anmeldung,hochfahren,startet "
@@ -372,6 +385,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::endOf, "wochenende", 1},
     {Figure::endOf, "monatsende", 2},
     {Figure::endOf, "jahresende", 3},
+    {Figure::ordinal, "nächste,nächstes,nächster,nächsten,das danach", 0},
     {Figure::ofDate, "den,dem,des"},
 };
 

@@ -14,7 +14,8 @@ constexpr WordRow kWords[] = {
                     "suggerire,raccomandi,cominciare,iniziare,comincio,inizio da,cosa faccio,che "
                     "faccio,conviene,vale la pena,iniziamo,da dove parto,cosa devo fare,cosa posso fare,che "
                     "devo fare,che posso fare,trucchi,cosa faccio adesso,cosa dovrei fare,cosa fare"},
-    {Sense::trust, "fidarmi,fidare,affidabile,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi"},
+    {Sense::trust, "fidarmi,fidare,affidabile,fiducia,mi posso fidare,orlen è sicuro,posso fidarmi,in "
+                   "pericolo,a rischio,open source"},
     {Sense::beyond, "virus,malware,trojan,più "
                     "veloce,velocizzare,velocizza,lento,lenta,prestazioni,deframmentare,ram,memoria "
                     "ram,processore,cpu,batteria,driver,firewall,antivirus,temperatura,scheda grafica"},
@@ -25,7 +26,7 @@ constexpr WordRow kWords[] = {
      "solo,automaticamente,senza chiedere,da sola,senza permesso,senza avvisare"},
     {Sense::only, "solo,soltanto,solamente,unicamente,esclusivamente"},
     {Sense::also, "e,ed,anche,inoltre,e per quanto riguarda,che mi dici di,e i,e le,e gli,e la,e il,e "
-                  "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo"},
+                  "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo,o,oppure"},
     {Sense::backward, "quello,quella,quelli,quelle,questo,questa,questi,queste,ciò,esso,essi,essa,lo,"
                       "eliminarlo,eliminarla,eliminarli,eliminarle,cancellarlo,cancellarla,cancellarli,"
                       "cancellarle,ne,quell,loro,toglierli,toglierlo,buttarli,buttarlo"},
@@ -34,7 +35,7 @@ constexpr WordRow kWords[] = {
      "dall,a,al,allo,alla,all,ai,agli,alle,mio,mia,miei,mie,nostro,nostra,tuo,tua,tuoi,tue,suo,sua,suoi,sue,"
      "io,mi,m,noi,ci,c,tu,ti,t,te,si,s,se,vi,v,è,sono,era,erano,sei,essere,stato,stati,state,stata,sta,"
      "stanno,sto,c è,ho,hai,ha,abbiamo,hanno,avere,aver,avevo,ed "
-     "ecco,per,con,su,sul,sulla,sullo,sui,sugli,sulle,sull,o,oppure,che,come,per favore,per "
+     "ecco,per,con,su,sul,sulla,sullo,sui,sugli,sulle,sull,che,come,per favore,per "
      "piacere,perfavore,adesso,ora,attualmente,oggi,al momento,in questo "
      "momento,davvero,veramente,esattamente,circa,più o meno,mostra,mostrami,mostrare,dimmi,dire,dai "
      "a,elenca,elencare,elenco,trova,trovami,trovare,cerca,cercami,cercare,sapere,so,voglio,vorrei,mi "
@@ -50,16 +51,18 @@ constexpr WordRow kWords[] = {
      "chiaro,tieni,sarebbe,sarebbero,guarda,forse,sarà,saranno,dal,qualcuno,quasi,abbastanza,da qualche "
      "parte,viene,vengono,sempre,a volte,poi,sembra,credo,dice,dici,gente,penso,figlio,anche se,mentre,così "
      "tanto,soprattutto,appena,probabilmente,chissà,ognuno,sono stati,sono state,è stato,facile,riguardo "
-     "a,stesse,stessi,quei,avrei,avrò,messa,esattezza,qualsiasi,attuale,ecco,invece,tra,fra,contro,durante,"
-     "tramite,presso,secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in "
-     "pratica,ad,avremo,ci sarà,ci saranno"},
+     "a,stesse,stessi,quei,avrei,messa,esattezza,qualsiasi,attuale,ecco,invece,contro,durante,tramite,presso,"
+     "secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in pratica,ad,ci saranno,hai "
+     "trovato,che hai trovato,a proposito,accidenti,cavolo,insomma,magari,stanotte,questa notte"},
     {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,n"},
     {Sense::except, "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
                     "eccezione dei,ad eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre "
                     "agli,all infuori di,senza,senza contare,ma non,che non siano,che non sia,e "
-                    "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i"},
+                    "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i,senza toccare,senza "
+                    "cancellare,senza eliminare,senza perdere,ma lascia,lascia fuora,lascia fuori,né,tranne "
+                    "quelle in,tranne quelli in,invece di,meno che,oltre alla,oltre al,oltre allo,oltre all"},
     {Sense::lasts, "basta,basterà,bastare,bastano,dura,durerà,durare,regge,reggerà,resiste,resisterà,"
-                   "sufficiente,abbastanza spazio"},
+                   "sufficiente,abbastanza spazio,avrò,ci sarà,avremo"},
     {Sense::speed,
      "quanto velocemente,a che velocità,con che velocità,quanto in fretta,a che ritmo,ritmo,velocità,al "
      "giorno,alla settimana,al mese,ogni giorno,ogni settimana,ogni mese"},
@@ -91,7 +94,7 @@ constexpr WordRow kWords[] = {
                        "eliminati,mai toccati,mai toccherà,non toccherà mai,mai cancellare,mai eliminare,mai "
                        "toccato,non sposta mai,mai spostati,intatto,intatti,lascia stare,non tocchi,non "
                        "cancellerà mai,non eliminerà mai,non cancellerai mai"},
-    {Sense::cleanUp, "pulizia,pulizie,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare "
+    {Sense::cleanUp, "pulizia,pulire,pulito,pulisci,ripulire,fare pulizia,ripulito,ordine,fare "
                      "ordine,pulita,fatto pulizia,ripulisco,pulisco"},
     {Sense::uninstall, "disinstallare,disinstallo,disinstalla,disinstallazione,disinstallato"},
     {Sense::remove,
@@ -115,9 +118,11 @@ constexpr WordRow kWords[] = {
      "tenere,conservare,mantenere,tengo,keep,importante,importanti,da conservare,da tenere,conservato"},
     {Sense::mean, "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
                   "tra,valutazione,valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole "
-                  "dire,regole,regola,criteri,decide,classifica"},
+                  "dire,regole,regola,criteri,decide,classifica,contrassegnati,contrassegnato,classificati,"
+                  "valutati,segnati,segnato"},
     {Sense::soFar, "finora,fino ad ora,fino a oggi,fin qui,cronologia,fino a ora,fino adesso,fino ad "
-                   "adesso,dall inizio,nel tempo,in tutto finora,fino ad oggi"},
+                   "adesso,dall inizio,nel tempo,in tutto finora,fino ad oggi,pulizie,le pulizie,tutte le "
+                   "pulizie,pulizie precedenti,pulizie passate"},
     {Sense::used, "occupato,occupati,consumato,in uso,quanto è pieno,occupata"},
     {Sense::handled, "usato,usati,utilizzato,utilizzati,uso,utilizzo,usata,usate,utilizzate,utilizzata"},
     {Sense::opened,
@@ -137,13 +142,17 @@ constexpr WordRow kWords[] = {
     {Sense::disk,
      "disco,disco fisso,disco rigido,hard disk,ssd,hdd,computer,pc,portatile,macchina,partizione,memoria di "
      "massa,archiviazione,notebook,dischi,unità,memoria interna,harddisk"},
-    {Sense::space, "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione"},
-    {Sense::howMuch, "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto"},
+    {Sense::space,
+     "spazio,posto,spazio su disco,spazio disco,memoria,spazio di archiviazione,ci sta,ci stanno,entra"},
+    {Sense::howMuch,
+     "quanto,quanta,quant,che quantità,che quantità di,cuanto,quale quantità di,qnt,qnto,cosa "
+     "guadagno,quanto guadagno,cosa ottengo,quanto si libera,quanto libera,cosa guadagnerei"},
     {Sense::why, "perché,come mai,per quale motivo,motivo,ragione,a causa di cosa,perche,xke,xché,da cosa "
                  "dipende,a cosa è dovuto"},
-    {Sense::when, "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in "
-                  "quanto tempo,presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per "
-                  "quando,fino a quando,quanti mesi,fra quanto tempo"},
+    {Sense::when,
+     "quando,in che data,tra quanto,fra quanto,tra quanto tempo,quanto tempo,quanti giorni,in quanto "
+     "tempo,presto,che giorno,a breve,quale data,quanto manca,tra quanti giorni,per quando,fino a "
+     "quando,quanti mesi,fra quanto tempo,per quanto ancora,quanto durerà ancora,quanto durerà"},
     {Sense::most, "più,di più,la maggior parte,maggior parte,più spazio,maggiormente,il "
                   "grosso,principalmente,più velocemente,più in fretta,più rapidamente"},
     {Sense::takes, "occupa,occupano,occupando,prende,prendono,usa,usano,consuma,consumano,mangia,mangiano,"
@@ -165,9 +174,10 @@ constexpr WordRow kWords[] = {
      "nuova,recentemente,nuova,cambiato,cambiati,modificato,modificati,modificate,aggiunto,aggiunti"},
     {Sense::grow, "cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
                   "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
-    {Sense::above, "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
-                   "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti "
-                   "di,più grossi di,oltre il,superano,supera,più grosse di,di più di,da più di"},
+    {Sense::above,
+     "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
+     "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti di,più grossi "
+     "di,oltre il,superano,supera,più grosse di,di più di,da più di,tra,fra,compresi tra"},
     {Sense::below, "meno di,minore di,minori di,più piccolo di,più piccoli di,inferiore a,inferiori a,al "
                    "massimo,sotto,sotto i,sotto il,massimo,<,o meno"},
     {Sense::inside,
@@ -189,7 +199,7 @@ constexpr WordRow kWords[] = {
                      "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
                      "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
                      "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
-                     "vedere,chi può leggere,chi ha accesso"},
+                     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
      "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
@@ -275,7 +285,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents,
      "documento,documenti,carte,file di testo,documenti word,file word,documenti di testo,lettere"},
     {SubjectID::files, "file,elemento,elementi,cose,dati,files,oggetti"},
-    {SubjectID::startup, "avvio,all avvio,all accensione,si avvia automaticamente,si avviano "
+    {SubjectID::startup, "parte lentamente,si avvia lentamente,lento ad avviarsi,avvio lento,avvio,all "
+                         "avvio,all accensione,si avvia automaticamente,si avviano "
                          "automaticamente,avvio automatico,programmi all "
                          "avvio,al login,all accesso,parte da solo,partono da soli,partono all avvio,si "
                          "avviano,si avvia,si aprono da soli,"
@@ -359,6 +370,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::namedDay, "autunno", valueOf(NamedDay::autumn)},
     {Figure::namedDay, "inverno", valueOf(NamedDay::winter)},
     {Figure::endOf, "fine,la fine,fine di,la fine di,la fine del,fine del,la fine dell", -1},
+    {Figure::ordinal, "prossimo,successivo,successiva,prossima", 0},
     {Figure::ofDate, "di,del,dell"},
 };
 

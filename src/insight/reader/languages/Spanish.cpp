@@ -15,8 +15,8 @@ constexpr WordRow kWords[] = {
      "sugerencias,empezar,empiezo,qué hago,lo mejor,sugerir,conviene,conviene borrar,vale la "
      "pena,empezando,recomendarías,sugieres,qué debo hacer,qué puedo hacer,qué hago ahora,qué debería "
      "hacer,trucos,qué hacer"},
-    {Sense::trust,
-     "confiar,confianza,fiable,de fiar,confiable,es seguro orlen,orlen es seguro,fiarme,fiar,fío,me fío"},
+    {Sense::trust, "confiar,confianza,fiable,de fiar,confiable,es seguro orlen,orlen es "
+                   "seguro,fiarme,fiar,fío,me fío,en peligro,en riesgo,código abierto,software libre"},
     {Sense::beyond,
      "virus,malware,troyano,más rápida,más rápido "
      "mi,acelerar,acelera,lento,lenta,rendimiento,desfragmentar,ram,memoria "
@@ -27,7 +27,7 @@ constexpr WordRow kWords[] = {
                      "cuenta,automáticamente,sin preguntar,por sí solo,por tu cuenta,sin permiso,sin avisar"},
     {Sense::only, "solo,sólo,solamente,únicamente,nada más,nomás"},
     {Sense::also, "y,e,también,además,y qué hay de,qué hay de,qué tal,y qué tal,y los,y las,y el,y la,qué "
-                  "pasa con,y qué pasa con,así como,&,y qué hay de los,y respecto a"},
+                  "pasa con,y qué pasa con,así como,&,y qué hay de los,y respecto a,o,u"},
     {Sense::backward, "ese,esa,esos,esas,este,esta,estos,estas,eso,esto,aquel,aquella,aquellos,lo,ellos,"
                       "ellas,él,ella,los que,las que,el que,la "
                       "que,borrarlo,borrarla,borrarlos,borrarlas,eliminarlo,eliminarlos,eliminarla,"
@@ -35,7 +35,7 @@ constexpr WordRow kWords[] = {
     {Sense::filler,
      "el,la,los,las,un,una,unos,unas,de,del,al,a,mi,mis,nuestro,nuestra,tu,tus,su,sus,yo,me,mí,nos,nosotros,"
      "te,ti,se,le,les,es,son,era,eran,soy,eres,está,están,estoy,estaba,ser,sea,estar,había,he,has,ha,hemos,"
-     "han,haber,tienes,tiene,tenemos,tener,para,por,con,sin embargo,o,u,si,como,por "
+     "han,haber,tienes,tiene,tenemos,tener,para,por,con,sin embargo,si,como,por "
      "favor,porfa,porfavor,ahora,ahora mismo,actualmente,hoy,en este momento,de "
      "momento,realmente,exactamente,aproximadamente,más o menos,unos "
      "cuantos,muestra,muéstrame,mostrar,dime,decir,da,dar,lista,listar,busca,buscar,encuentra,encontrar,"
@@ -52,14 +52,16 @@ constexpr WordRow kWords[] = {
      "veces,luego,parece,creo,hagas,estén,haces,dice,gente,pienso,además de "
      "eso,hijo,aunque,mientras,entonces,así,sobre todo,apenas,casi todo,jamás visto,dónde exactamente,cosa "
      "de,pone,ponen,exactos,quizás,tal vez,hubiera,sería,serían,fácil,rápida,acerca de,fueron,fue,cada "
-     "uno,entre,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
-     "realidad,básicamente,tendré,tendremos,habrá,tendría,tendrá,tendrás"},
+     "uno,según,contra,durante,mediante,vía,de repente,raro,niños,ni idea,respecto,en "
+     "realidad,básicamente,tendría,tendrá,tendrás,que encontraste,encontraste,has visto,el portátil está,por "
+     "cierto,a ver,oye,venga,caramba,jolín,quiero ver,vaya,esta noche,anoche"},
     {Sense::negation, "no,nunca,jamás,ningún,ninguno,ninguna,nada,tampoco"},
-    {Sense::except,
-     "excepto,salvo,menos,a excepción de,aparte de,además de,quitando,sin contar,que no sean,que no "
-     "sea,excluyendo,pero no,sin,con excepción de,y no,fuera de,sin incluir,pero sin,ignorando"},
+    {Sense::except, "excepto,salvo,menos,a excepción de,aparte de,además de,quitando,sin contar,que no "
+                    "sean,que no sea,excluyendo,pero no,sin,con excepción de,y no,fuera de,sin incluir,pero "
+                    "sin,ignorando,sin tocar,sin borrar,sin eliminar,sin perder,pero deja,deja fuera,dejando "
+                    "fuera,ni,menos las de,menos los de,menos lo de,en vez de,sin que"},
     {Sense::lasts, "alcanza,alcanzará,alcanzar,basta,bastará,bastar,dura,durará,aguanta,aguantará,aguantar,"
-                   "llega,llegará,será suficiente,suficiente espacio"},
+                   "llega,llegará,será suficiente,suficiente espacio,tendré,habrá,tendremos"},
     {Sense::speed,
      "con qué rapidez,qué tan rápido,a qué velocidad,cómo de rápido,a qué ritmo,ritmo,velocidad,al día,por "
      "día,a la semana,por semana,al mes,por mes,cada día,cada semana,cada mes"},
@@ -81,15 +83,15 @@ constexpr WordRow kWords[] = {
      "espacio,ahorrar,ahorro,despejar,liberaría,ganaría,liberé,conseguir espacio,obtener "
      "espacio,liberando,hacer hueco,necesito espacio,necesito más "
      "espacio,descongestionar,liberan,ahorraría,recuperaría,recuperar sitio,necesito "
-     "sitio,gane,libere,necesito,me hacen falta,me hace falta,menos lleno,aligerar,vaciar el disco"},
+     "sitio,gane,libere,necesito,me hacen falta,me hace falta,menos lleno,aligerar,vaciar el disco,necesito "
+     "más,me faltan,quiero liberar,quiero recuperar,hueco,hacer más sitio"},
     {Sense::make, "haz,hacer,hazme,dame,consigue,búscame"},
     {Sense::untouched,
      "nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
      "tocas,protegido,protegidos,protegida,protegidas,protege,intocable,intocables,jamás toca,jamás borra,no "
      "borra,nunca se borra,nunca borrará,nunca tocará,nunca mueve,no tocará,nunca tocar,nunca "
      "borrar,intacto,jamás borrará,nunca borrarías,jamás tocará,nunca eliminará,no se toca,nunca se toca"},
-    {Sense::cleanUp,
-     "limpieza,limpiezas,limpiar,limpio,limpiado,limpié,limpiamos,limpia,ordenar,limpiada,limpiaste"},
+    {Sense::cleanUp, "limpieza,limpiar,limpio,limpiado,limpié,limpiamos,limpia,ordenar,limpiada,limpiaste"},
     {Sense::uninstall, "desinstalar,desinstalo,desinstala,desinstalación,desinstalado"},
     {Sense::remove, "borrar,borro,borra,borrado,borrados,borrada,borradas,eliminar,elimino,elimina,eliminado,"
                     "eliminados,quitar,quito,quita,tirar,tiro,tirado,suprimir,deshacerme,deshacerme "
@@ -109,11 +111,14 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,revisar,por revisar,repasar"},
     {Sense::keep,
      "conservar,guardar,mantener,conserva,keep,quedarme,importante,importantes,mantengo,conservo"},
-    {Sense::mean, "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
-                  "entre,valoración,valoraciones,calificación,calificaciones,clasificación,colores,"
-                  "calificado,marcado como,reglas,regla,criterios,decide,clasifica"},
+    {Sense::mean,
+     "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
+     "entre,valoración,valoraciones,calificación,calificaciones,clasificación,colores,calificado,marcado "
+     "como,reglas,regla,criterios,decide,clasifica,marcado,marcados,marcadas,clasificado,clasificados,"
+     "valorado,valorados,calificados"},
     {Sense::soFar, "hasta ahora,hasta el momento,hasta hoy,historial,en total ya,desde el principio,alguna "
-                   "vez,hasta la fecha,a lo largo del tiempo"},
+                   "vez,hasta la fecha,a lo largo del tiempo,limpiezas,las limpiezas,todas las "
+                   "limpiezas,historial de limpiezas,limpiezas anteriores"},
     {Sense::used, "ocupado,ocupados,consumido,ocupada,en uso,cómo de lleno,qué tan lleno"},
     {Sense::handled, "usado,usados,utilizado,utilizados,uso,utilizo,usada,usadas,utilizadas,utilizada,uses"},
     {Sense::opened, "abierto,abiertos,abierta,abiertas,abro,abrí,tocado,tocados,visto,vistos,consultado,"
@@ -125,21 +130,23 @@ constexpr WordRow kWords[] = {
      "espacio,se me llena,me quedaré sin espacio,se acaba el espacio,acabando el espacio,lleno "
      "todo,llenar,no queda sitio,saturado,acabe el espacio,se llene,llene,acabará el "
      "espacio,petado,repleto,acaba el espacio,todo mi espacio,se fue mi espacio,se ha ido el espacio,se ha "
-     "ido mi espacio,se fue el espacio,se fue todo mi espacio"},
+     "ido mi espacio,se fue el espacio,se fue todo mi espacio,no tengo espacio en,no hay sitio,sin espacio "
+     "en,no me queda espacio,no me cabe nada"},
     {Sense::free,
      "libre,libres,disponible,disponibles,queda,quedan,me queda,sobrante,restante,sin usar,me quedan,resta"},
     {Sense::total, "total,capacidad,en total,totales,tamaño total,capacidad total,resumen,estado,panorama"},
     {Sense::disk, "disco,disco "
                   "duro,ssd,hdd,ordenador,computadora,computador,pc,equipo,portátil,máquina,partición,"
                   "almacenamiento,unidad,laptop,compu,discos,ordena,memoria interna"},
-    {Sense::space,
-     "espacio,sitio,lugar,espacio en disco,memoria,espacio de disco,espacio de almacenamiento,hueco"},
-    {Sense::howMuch, "cuánto,cuánta,qué cantidad,qué cantidad de,quanto,kuanto,cuánto me"},
+    {Sense::space, "espacio,sitio,lugar,espacio en disco,memoria,espacio de disco,espacio de "
+                   "almacenamiento,hueco,cabe,caben,cabrá"},
+    {Sense::howMuch, "cuánto,cuánta,qué cantidad,qué cantidad de,quanto,kuanto,cuánto me,qué gano,cuánto "
+                     "gano,qué ganaría,qué consigo,cuánto se libera,cuánto libera"},
     {Sense::why,
      "por qué,porqué,porque,a qué se debe,cómo es que,por qué razón,razón,motivo,debido a qué,xq,pq"},
-    {Sense::when,
-     "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué fecha,cuánto "
-     "falta,cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto tarda,cuántas semanas"},
+    {Sense::when, "cuándo,en qué fecha,cuánto tiempo,cuántos días,en cuánto tiempo,pronto,qué día,qué "
+                  "fecha,cuánto falta,cuánto tardará,para cuándo,cuántos meses,dentro de cuánto,cuánto "
+                  "tarda,cuántas semanas,cuánto tiempo más"},
     {Sense::most, "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más,más "
                   "rápido,más deprisa,más rápidamente"},
     {Sense::takes, "ocupa,ocupan,ocupando,usa,usan,usando,consume,consumen,come,comen,comiendo,gasta,gastan,"
@@ -163,10 +170,11 @@ constexpr WordRow kWords[] = {
      "agregado"},
     {Sense::grow, "crecido,crece,creció,creciendo,crecimiento,crecer,aumentado,aumentó,aumenta,engordado,han "
                   "crecido,ha crecido"},
-    {Sense::above, "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior "
-                   "a,superiores a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo "
-                   "menos,más grandes de,que pasen de,más pesados que,sobre los,superan,supera,que pese más "
-                   "de,que pesen mas de,que ocupe más de,que ocupen más de,pese más de"},
+    {Sense::above,
+     "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior a,superiores "
+     "a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo menos,más grandes de,que "
+     "pasen de,más pesados que,sobre los,superan,supera,que pese más de,que pesen mas de,que ocupe más "
+     "de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que supere,que pesen,entre"},
     {Sense::below, "menos de,menor que,menores que,menor de,menores de,más pequeño que,más pequeños "
                    "que,inferior a,inferiores a,como máximo,por debajo de,máximo,<,o menos,debajo de"},
     {Sense::inside, "en,dentro,dentro de,desde la carpeta,en la carpeta,de la carpeta,adentro de"},
@@ -188,7 +196,7 @@ constexpr WordRow kWords[] = {
                      "sin conexión,subir,sube,subes,recopila,recopilas,datos "
                      "personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
                      "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
-                     "ver,quién puede leer,quién tiene acceso"},
+                     "ver,quién puede leer,quién tiene acceso,conectado,conectada,ve mis contraseñas"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general,
      "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
@@ -279,7 +287,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents, "documento,documentos,papeles,archivos de texto,documentos de word,cartas,textos"},
     {SubjectID::files, "archivo,archivos,fichero,ficheros,elemento,elementos,cosa,cosas,datos"},
     {SubjectID::startup,
-     "inicio,al inicio,arranque,al arrancar,al iniciar,arranca automáticamente,arrancan "
+     "arranca lento,arranca despacio,tarda en arrancar,arranca lentamente,inicio,al inicio,arranque,al "
+     "arrancar,al iniciar,arranca automáticamente,arrancan "
      "automáticamente,programas de inicio,se inicia automáticamente,se inician automáticamente,al "
      "encender,inicio de sesión,al iniciar sesión,inicio automático,se abren solos,arrancan solos,se inician "
      "solos,se inician,se abren solas,se inicia solo,enciendo,arrancan solas,arrancan,arranca,encender,se "
@@ -362,6 +371,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::namedDay, "invierno", valueOf(NamedDay::winter)},
     {Figure::endOf, "fin,fin de,el fin de,final de,finales de,finales del,final del,fines de,el final de",
      -1},
+    {Figure::ordinal, "siguiente,próximo", 0},
     {Figure::ofDate, "de,del,el"},
 };
 

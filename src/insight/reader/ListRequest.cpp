@@ -1,0 +1,251 @@
+#include "insight/reader/ListRequest.h"
+
+#include "insight/InsightTexts.h"
+#include "insight/reader/Names.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace orlen::AskReader {
+
+namespace {
+
+constexpr std::int64_t kMostShown = 20;
+
+Order orderIn(const Question& question)
+{
+    if (question.senses.has(Sense::oldest))
+        return Order::oldest;
+    if (question.senses.has(Sense::newest))
+        return Order::newest;
+    return question.senses.has(Sense::smallest) ? Order::smallest : Order::biggest;
+}
+
+/// A kind to list: files by extension or finding, or every file.
+bool isKind(const Subject& subject)
+{
+    return subject.isAnyFile || !subject.extensions.empty() ||
+           (!subject.kinds.empty() && subject.folder.empty());
+}
+
+/// Says one more condition of the files.
+void narrow(ListRequest& request, const Text& condition, std::vector<Place> places)
+{
+    places.push_back({"files", within(std::move(request.files))});
+    request.files = {condition, std::move(places)};
+}
+
+/// The word that compares stands before a size or behind it: "over 1 GB", "1 GB or more".
+Sense comparisonAt(const Question& question, std::size_t position)
+{
+    constexpr SenseSet kComparisons{Sense::above, Sense::below};
+    if (position > 0 && kComparisons.has(question.phrases[position - 1].sense))
+        return question.phrases[position - 1].sense;
+    const bool isLast = position + 1 >= question.phrases.size();
+    return isLast ? Sense::unknown : question.phrases[position + 1].sense;
+}
+
+/// False if a size stands alone.
+bool takeSizes(const Question& question, ListRequest& request)
+{
+    if (question.count(Sense::size) == 2 && question.senses.has(Sense::above) &&
+        !question.senses.has(Sense::below)) {
+        const auto isSize = [](const Phrase& phrase) { return phrase.sense == Sense::size; };
+        const auto first = std::ranges::find_if(question.phrases, isSize);
+        const auto second = std::find_if(std::next(first), question.phrases.end(), isSize);
+        const auto [least, most] = std::minmax(first->amount, second->amount);
+        request.leastBytes = least;
+        request.mostBytes = most;
+        narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{least}}});
+        narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{most}}});
+        return true;
+    }
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Phrase& phrase = question.phrases[i];
+        if (phrase.sense != Sense::size)
+            continue;
+        const Sense comparison = comparisonAt(question, i);
+        if (comparison == Sense::above) {
+            request.leastBytes = phrase.amount + 1;
+            narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{phrase.amount}}});
+        } else if (comparison == Sense::below) {
+            request.mostBytes = phrase.amount - 1;
+            narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{phrase.amount}}});
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// "More than two years old"
+bool isOlderThan(const Question& question)
+{
+    return question.senses.has(Sense::above) && !question.senses.has(Sense::size);
+}
+
+bool isYoungerThan(const Question& question)
+{
+    return question.senses.has(Sense::below) && !question.senses.has(Sense::size);
+}
+
+/// The one date and the word it belongs to. False if that is unclear.
+bool takeDate(const Question& question, TimePoint now, ListRequest& request)
+{
+    const Phrase* const phrase = question.first(Sense::period);
+    if (phrase == nullptr)
+        return !question.senses.meets({Sense::before, Sense::after, Sense::since, Sense::unopened});
+    const Period& period = *phrase->period;
+    // "Over the summer" is no age.
+    if (period.from > now || (period.isAhead && isOlderThan(question)))
+        return false;
+    if (question.senses.has(Sense::unopened)) {
+        request.openedTo = period.from;
+        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
+    } else if (question.senses.has(Sense::before) || isOlderThan(question)) {
+        request.changedTo = period.from;
+        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(period.from)}});
+    } else if (question.senses.has(Sense::after)) {
+        request.changedFrom = period.to;
+        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});
+    } else if (question.senses.has(Sense::since) || isYoungerThan(question)) {
+        request.changedFrom = period.from;
+        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.from)}});
+    } else {
+        request.changedFrom = period.from;
+        request.changedTo = period.to;
+        narrow(request, InsightTexts::kFilesChangedBetween,
+               {{"first", dayOf(period.from)}, {"last", dayOf(period.to)}});
+    }
+    return true;
+}
+
+/// "Duplicate PDFs": one subject says of which finding, the other of which kind the files are.
+bool takeBoth(const Subject& subject, ListRequest& request)
+{
+    const Subject* const other = request.subject;
+    if (other == nullptr || request.listedAs != nullptr ||
+        other->extensions.empty() == subject.extensions.empty())
+        return false;
+    request.listedAs = subject.extensions.empty() ? &subject : other;
+    request.subject = subject.extensions.empty() ? other : &subject;
+    return true;
+}
+
+/// Sorts the subjects into what is listed and where. False if one is neither, or there are two of a sort.
+bool takeSubjects(const Question& question, ListRequest& request)
+{
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Subject* const subject = question.phrases[i].subject;
+        if (subject == nullptr)
+            continue;
+        const bool isAfterInside = i > 0 && question.phrases[i - 1].sense == Sense::inside;
+        const std::string folder = folderOf(*subject);
+        const bool isPlace = !folder.empty() && (isAfterInside || !isKind(*subject));
+        if (isPlace && request.folder.empty())
+            request.folder = folder;
+        else if (!isPlace && isKind(*subject) && (request.subject == nullptr || request.subject->isAnyFile))
+            request.subject = subject;
+        else if (!subject->isAnyFile && !(subject->folder == "{H}" && !request.folder.empty()) &&
+                 (isPlace || !isKind(*subject) || !takeBoth(*subject, request)))
+            return false;
+    }
+    return true;
+}
+
+/// A folder given by its path or its name below the home folder. False if unknown words are none.
+bool takeFolder(const Question& question, const AskContext& context, ListRequest& request)
+{
+    const Phrase* const unknown = question.first(Sense::unknown);
+    const Phrase* const named = unknown != nullptr ? unknown : question.first(Sense::quoted);
+    if (named == nullptr)
+        return true;
+    if (!request.folder.empty() || question.position(named->sense) == 0 ||
+        question.phrases[question.position(named->sense) - 1].sense != Sense::inside ||
+        std::ranges::count(question.phrases, Sense::unknown, &Phrase::sense) > 1)
+        return false;
+    request.folder = pathIn(named->text);
+    if (!request.folder.empty())
+        return true;
+    const Found found = findNamed(context, named->text);
+    if (found.fit == Fit::whole && !found.measured.empty())
+        request.folder = found.measured.front().path;
+    return !request.folder.empty();
+}
+
+/// "Safe files", "everything rated Keep". False if a rating is named in another way.
+bool takeRating(const Question& question, ListRequest& request)
+{
+    constexpr std::pair<Sense, Rating> kRatings[] = {
+        {Sense::safe, Rating::safe}, {Sense::review, Rating::review}, {Sense::keep, Rating::keep}};
+    const std::vector<Phrase>& phrases = question.phrases;
+    for (const auto& [sense, rating] : kRatings) {
+        const std::size_t at = question.position(sense);
+        if (at == phrases.size())
+            continue;
+        const bool isOfFiles = at + 1 < phrases.size() && phrases[at + 1].subject != nullptr;
+        const bool isSaidOfThem = at > 0 && phrases[at - 1].sense == Sense::mean;
+        if (isOfFiles || isSaidOfThem) {
+            request.rating = rating;
+            narrow(request, InsightTexts::kFilesRated, {{"rating", within(label(rating))}});
+        }
+    }
+    return request.rating || !question.senses.meets({Sense::mean, Sense::review});
+}
+
+} // namespace
+
+std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context)
+{
+    ListRequest request;
+    request.order = orderIn(question);
+    if (auto exclusions = Exclusions::of(question, context))
+        request.exclusions = *std::move(exclusions);
+    else
+        return std::nullopt;
+    if (!takeSubjects(question, request) || !takeFolder(question, context, request))
+        return std::nullopt;
+    request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
+    if (!takeRating(question, request) || !takeSizes(question, request) ||
+        !takeDate(question, context.now, request))
+        return std::nullopt;
+    if (const Phrase* const number = question.first(Sense::number))
+        request.count = std::min(number->amount, kMostShown);
+    if (!request.folder.empty())
+        narrow(request, InsightTexts::kFilesIn, {{"folder", tilde(request.folder)}});
+    return request;
+}
+
+bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
+{
+    if (rating && finding.effectiveRating(entry) != *rating)
+        return false;
+    if (entry.size < leastBytes || entry.size > mostBytes ||
+        (!exclusions.empty() && exclusions.leaveOut(finding, entry)))
+        return false;
+    const bool isByDate = changedFrom != TimePoint::min() || changedTo != TimePoint::max() ||
+                          order == Order::oldest || order == Order::newest;
+    if (isByDate && (!entry.modified || *entry.modified < changedFrom || *entry.modified >= changedTo))
+        return false;
+    if (openedTo != TimePoint::max()) {
+        const auto& opened = entry.lastOpened ? entry.lastOpened : entry.modified;
+        if (!opened || *opened >= openedTo)
+            return false;
+    }
+    if (!folder.empty() && (entry.path == folder || !PathText::isAtOrBelow(entry.path, folder)))
+        return false;
+    const auto isListedAs = [&](const Subject& each) {
+        return std::ranges::find(each.kinds, finding.kind) != each.kinds.end();
+    };
+    if (listedAs != nullptr && !isListedAs(*listedAs))
+        return false;
+    if (subject == nullptr || subject->isAnyFile)
+        return true;
+    return subject->extensions.empty() ? isListedAs(*subject) : hasExtensionOf(*subject, entry.path);
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "insight/AskContext.h"
+#include "insight/reader/Exclusions.h"
+#include "insight/reader/Question.h"
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+
+/// What a question wants listed. Pure; any thread.
+namespace orlen::AskReader {
+
+enum class Order { biggest, smallest, oldest, newest };
+
+/// What a list is to hold, and how the answer says so.
+struct ListRequest {
+    const Subject* subject = nullptr;  ///< null: files of every kind
+    const Subject* listedAs = nullptr; ///< only what is listed as this
+    std::string folder;                ///< empty: anywhere
+    std::int64_t leastBytes = 0;
+    std::int64_t mostBytes = std::numeric_limits<std::int64_t>::max();
+    TimePoint changedFrom = TimePoint::min();
+    TimePoint changedTo = TimePoint::max();
+    TimePoint openedTo = TimePoint::max();
+    Order order = Order::biggest;
+    std::int64_t count = 5;
+    std::optional<Rating> rating;
+    Exclusions exclusions;
+    Message files; ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
+
+    /// Whether an entry of a finding belongs to the list.
+    [[nodiscard]] bool admits(const Finding& finding, const FileEntry& entry) const;
+};
+
+/// Nothing if a part of the question is unclear.
+[[nodiscard]] std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

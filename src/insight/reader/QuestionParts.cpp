@@ -1,0 +1,111 @@
+#include "insight/reader/QuestionParts.h"
+
+#include "insight/AskText.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
+namespace orlen::AskReader {
+
+namespace {
+
+using enum Sense;
+
+constexpr SenseSet kQuestionWords{what, howBig, howMuch,   howMany,  can,      when,
+                                  why,  undo,   uninstall, makeRoom, untouched};
+
+/// Says what a question for the figures of the disk says.
+constexpr SenseSet kOfTheDisk{free, used, total, disk, space, general};
+
+/// The phrases from one position to before another.
+Question part(const Question& question, std::size_t from, std::size_t to)
+{
+    const auto start = question.phrases.begin();
+    Question one = withPhrases(question, {std::next(start, static_cast<std::ptrdiff_t>(from)),
+                                          std::next(start, static_cast<std::ptrdiff_t>(to))});
+    // "… and can I delete them" follows on what stands before it.
+    one.isContinued = from == 0 && question.isContinued;
+    return one;
+}
+
+bool isNamedFile(const Phrase& phrase)
+{
+    return phrase.sense == quoted ||
+           (phrase.sense == unknown && PathText::extension(phrase.text).size() >= 2);
+}
+
+} // namespace
+
+std::vector<Question> partsOf(const Question& question)
+{
+    std::vector<Question> parts;
+    std::size_t from = 0;
+    for (std::size_t i = 1; i < question.phrases.size(); ++i) {
+        // "Free space, and when is it full?"
+        const SenseSet senses = part(question, from, i).senses;
+        const bool isBeforeComplete = senses.meets(kQuestionWords) ||
+                                      (senses.meets({free, used, total}) && senses.isWithin(kOfTheDisk));
+        // "Largest photos? Oldest documents?"
+        constexpr SenseSet kSorts{biggest, smallest, oldest, newest};
+        const Sense sense = question.phrases[i].sense;
+        const bool isOtherList = kSorts.has(sense) && senses.meets(kSorts) && senses.has(subject);
+        if (question.phrases[i].isJoined &&
+            (isOtherList || (kQuestionWords.has(sense) && isBeforeComplete))) {
+            parts.push_back(part(question, from, i));
+            from = i;
+        }
+    }
+    parts.push_back(part(question, from, question.phrases.size()));
+    return parts;
+}
+
+std::vector<Question> distributed(const Question& question)
+{
+    const auto isAlike = [&](std::size_t i) {
+        const Phrase& phrase = question.phrases[i];
+        const Phrase& previous = question.phrases[i - 1];
+        return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
+                                   (isNamedFile(phrase) && isNamedFile(previous)));
+    };
+    std::size_t from = 1;
+    while (from < question.phrases.size() && !isAlike(from))
+        ++from;
+    std::size_t to = from;
+    while (to < question.phrases.size() && isAlike(to))
+        ++to;
+    if (from == to)
+        return {question};
+    std::vector<Question> each;
+    for (std::size_t kept = from - 1; kept < to; ++kept) {
+        std::vector<Phrase> phrases = question.phrases;
+        for (std::size_t i = to; i-- > from - 1;) {
+            if (i != kept)
+                phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+        }
+        each.push_back(withPhrases(question, std::move(phrases)));
+    }
+    return each;
+}
+
+Answer together(std::vector<Answer> answers)
+{
+    if (answers.size() == 1)
+        return std::move(answers.front());
+    Answer all;
+    std::vector<Message> texts;
+    for (Answer& answer : answers) {
+        texts.push_back(std::move(answer.text));
+        for (std::string& id : answer.findingIDs) {
+            if (std::ranges::find(all.findingIDs, id) == all.findingIDs.end())
+                all.findingIDs.push_back(std::move(id));
+        }
+        std::ranges::move(answer.paths, std::back_inserter(all.paths));
+    }
+    all.text = AskText::lines(std::move(texts));
+    return all;
+}
+
+} // namespace orlen::AskReader
