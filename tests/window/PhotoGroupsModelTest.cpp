@@ -103,6 +103,28 @@ TEST(PhotoGroupsModelTest, tellsTheStages)
     EXPECT_EQ(groups.stage(), PhotoGroupsModel::Groups);
 }
 
+TEST(PhotoGroupsModelTest, whatAScanLeavesForTheNextOneIsTold)
+{
+    TempHome home;
+    // Quickly looked at, as nothing can be read, which is why none is remembered either.
+    const std::string broken(20'001, 'x');
+    const auto add = [&](int first, int end) {
+        for (int number = first; number < end; ++number)
+            home.file("Pictures/" + std::to_string(number) + ".jpg", broken);
+    };
+    AppModel app(kQuickPhotos);
+    const PhotoGroupsModel groups(app);
+    const auto scanned = [&] {
+        app.results()->startScan();
+        EXPECT_TRUE(waitUntil([&] { return app.results()->phase() != Phase::scanning; }));
+        return groups.coverage().toStdString();
+    };
+    add(0, 1'500);
+    EXPECT_EQ(scanned(), "");
+    add(1'500, 1'502);
+    EXPECT_EQ(scanned(), "1,500 of 1,502 photos looked at so far. The next scans look at the rest.");
+}
+
 TEST(PhotoGroupsModelTest, theSelectionIsTheApplicationsOwn)
 {
     const TempHome home;

@@ -1,9 +1,10 @@
 #include "platform/images/BlockWaves.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numbers>
-#include <utility>
+#include <span>
 
 namespace orlen::BlockWaves {
 
@@ -67,10 +68,9 @@ Block wavesIn(const Block& pixels)
     return blockOf(sums);
 }
 
-bool isEmpty(const float* numbers)
+bool isEmpty(std::span<const float> numbers)
 {
-    constexpr std::array<float, kSide> kNothing{};
-    return std::memcmp(numbers, kNothing.data(), sizeof kNothing) == 0;
+    return std::ranges::all_of(numbers, [](float number) { return number == 0; });
 }
 
 /// Adds up the waves of each column. Every other wave is the same from both ends, and the others are the
@@ -80,7 +80,7 @@ Block addedUp(const Block& frequencies)
     constexpr std::size_t kHalf = kSide / 2;
     const Rows rows = rowsOf(frequencies);
     std::size_t count = kSide;
-    while (count > 0 && isEmpty(&frequencies[(count - 1) * kSide]))
+    while (count > 0 && isEmpty(std::span(frequencies).subspan((count - 1) * kSide, kSide)))
         --count;
     std::array<Row, kHalf> even{};
     std::array<Row, kHalf> odd{};

@@ -110,11 +110,11 @@ constexpr int numberOf(std::uint32_t bits, unsigned length)
 }
 
 /// Of symbols of their own.
-constexpr std::array<std::int8_t, kFirstLong> kShortNumbers = [] {
-    std::array<std::int8_t, kFirstLong> numbers{};
+constexpr std::array<std::int16_t, kFirstLong> kShortNumbers = [] {
+    std::array<std::int16_t, kFirstLong> numbers{};
     for (unsigned length = 1; length <= kShort; ++length) {
         for (std::uint32_t bits = 0; bits < 1U << length; ++bits)
-            numbers[symbolsBelow(length) + bits] = static_cast<std::int8_t>(numberOf(bits, length));
+            numbers[symbolsBelow(length) + bits] = static_cast<std::int16_t>(numberOf(bits, length));
     }
     return numbers;
 }();
@@ -158,7 +158,7 @@ void take(std::uint32_t& state, Piece piece, const std::uint8_t*& at)
     const std::uint32_t left = piece.size * (state >> kWholeBits) + (state & (kWhole - 1)) - piece.start;
     const std::uint32_t isLow = left < kLeastState ? 1 : 0;
     state = left << isLow * kWordBits | (wordAt(at) & (0U - isLow));
-    at += 2 * isLow;
+    at += std::size_t{2} * isLow;
 }
 
 std::uint32_t takeBits(std::uint32_t& state, unsigned count, const std::uint8_t*& at)

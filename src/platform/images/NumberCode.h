@@ -28,7 +28,7 @@ class Packer {
 public:
     /// A number below 2 to the power of `count`, which is 12 at most.
     void putBits(unsigned count, std::uint32_t value);
-    /// A run, each with its level; as many as there are of them, a multiple of four.
+    /// A run, each with its level; a multiple of four.
     void putNumbers(std::span<const std::int16_t> numbers, std::span<const std::uint8_t> levels);
 
     /// Empty if it would be longer than that.

@@ -111,7 +111,7 @@ void BlockSearch<side, block>::look(Sought& sought, const BlockSearch& other, Ti
     }
     if (std::max({most[0], most[1], most[2], most[3]}) <= sought.most)
         return;
-    const auto found = std::bit_cast<std::array<float, fours * kLanes>>(squares);
+    const auto found = std::bit_cast<std::array<float, std::size_t{fours} * kLanes>>(squares);
     for (int i = 0; i < count; ++i) {
         if (found[static_cast<std::size_t>(i)] > sought.most) {
             sought.most = found[static_cast<std::size_t>(i)];
