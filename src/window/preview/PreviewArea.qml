@@ -7,6 +7,7 @@ Rectangle {
 
     required property PreviewModel preview
 
+    readonly property alias picture: picture
     readonly property bool isBare: root.preview.kind === PreviewModel.Other
                                    || root.preview.kind === PreviewModel.Locked
                                    || root.preview.kind === PreviewModel.Missing
@@ -15,21 +16,12 @@ Rectangle {
     color: Theme.inset
     clip: true
 
-    Image {
-        objectName: "previewPicture"
+    PreviewPicture {
+        id: picture
+
         anchors.fill: parent
-        anchors.margins: Theme.spaceL
         visible: root.preview.kind === PreviewModel.Picture
-        asynchronous: true
-        cache: false
-        autoTransform: false
-        fillMode: Image.PreserveAspectFit
-        horizontalAlignment: Image.AlignHCenter
-        sourceSize.width: Math.max(1, width)
-        sourceSize.height: Math.max(1, height)
-        source: root.preview.picture
-        Accessible.role: Accessible.Graphic
-        Accessible.name: root.preview.name
+        preview: root.preview
     }
 
     ScrollArea {

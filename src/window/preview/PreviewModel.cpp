@@ -16,6 +16,7 @@ void PreviewModel::setPath(const QString& code)
         return;
     m_path = PathCode::path(code);
     m_load.drop();
+    Q_EMIT pathChanged();
     show({}, Loading);
     if (m_path.empty())
         return;

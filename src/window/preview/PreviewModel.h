@@ -18,7 +18,7 @@ class PreviewModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
     /// A `PathCode`; nothing is shown while empty.
-    Q_PROPERTY(QString path READ path WRITE setPath NOTIFY changed)
+    Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
@@ -26,6 +26,8 @@ class PreviewModel : public orlen::RowsModel {
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
     /// Source of the whole picture; empty unless it is one.
     Q_PROPERTY(QString picture READ picture NOTIFY changed)
+    /// Of the whole picture; empty unless it is one.
+    Q_PROPERTY(QSizeF pixels READ pixels NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// "PNG image · 4,032 × 3,024 · 2.1 MB"
     Q_PROPERTY(QString facts READ facts NOTIFY changed)
@@ -63,6 +65,7 @@ public:
     [[nodiscard]] QString folder() const { return DisplayText::folderOf(m_path); }
     [[nodiscard]] QString symbol() const;
     [[nodiscard]] QString picture() const;
+    [[nodiscard]] QSizeF pixels() const { return m_kind == Picture ? QSizeF(m_preview.pixels) : QSizeF(); }
     [[nodiscard]] QString text() const { return m_preview.text; }
     [[nodiscard]] QString facts() const;
     [[nodiscard]] QString dates() const;
@@ -74,6 +77,7 @@ public:
     Q_INVOKABLE void openWith() const;
 
 Q_SIGNALS:
+    void pathChanged();
     void changed();
 
 private:

@@ -403,6 +403,7 @@ QtObject {
     readonly property string pageDown: Words.messageIn("key", "PgDn")
     readonly property string menuKey: Words.messageIn("key", "Menu")
     readonly property string wheel: Words.messageIn("key", "Wheel")
+    readonly property string zoomInOrOut: Words.message("Zoom in or out")
     readonly property var shortcutGroups: [
         {
             title: Words.message("Everywhere"),
@@ -427,8 +428,17 @@ QtObject {
                 { text: Words.messageIn("shortcut", "Open"), keys: [[root.enter]] },
                 { text: Words.message("Preview a file"), keys: [[root.space]] },
                 { text: Words.message("Menu of a file"), keys: [[root.shift, "F10"], [root.menuKey]] },
-                { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] },
                 { text: Words.message("Reload the map, apps or startup items"), keys: [["F5"]] }
+            ]
+        },
+        {
+            title: root.preview,
+            shortcuts: [
+                { text: Words.message("Next or previous file"), keys: [["↓"], ["↑"]] },
+                { text: Words.message("Tick the file"), keys: [[root.enter]] },
+                { text: root.zoomInOrOut, keys: [["+"], ["−"]] },
+                { text: Words.message("Fit the picture, or show its pixels"), keys: [["0"], ["1"]] },
+                { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] }
             ]
         },
         {
@@ -438,7 +448,7 @@ QtObject {
                 { text: Words.message("Select a photo"), keys: [[root.ctrl, root.space]] },
                 { text: Words.message("Keep one of a set, or all"), keys: [["1 … 4"], ["X"]] },
                 { text: Words.message("Flip between two"), keys: [[root.space]] },
-                { text: Words.message("Zoom in or out"), keys: [["+"], ["−"]] },
+                { text: root.zoomInOrOut, keys: [["+"], ["−"]] },
                 { text: Words.message("Previous or next set"), keys: [["←"], ["→"]] }
             ]
         },
