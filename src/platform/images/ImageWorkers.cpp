@@ -142,6 +142,17 @@ std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, cons
                           stop);
 }
 
+std::optional<ArchiveContents> ImageWorkers::archive(const std::string& path, const std::stop_token& stop)
+{
+    if (stop.stop_requested())
+        return std::nullopt;
+    const auto file = openFile(path);
+    if (!file.ok())
+        return std::nullopt;
+    return m_pool->answer([&](ImageWorker& worker) { return worker.archive(file.value().get(), stop); },
+                          stop);
+}
+
 std::optional<SmallPicture> ImageWorkers::smallPicture(const std::string& path, const PictureBound& bound,
                                                        const std::stop_token& stop)
 {

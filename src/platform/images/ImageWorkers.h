@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/images/ArchiveContents.h"
 #include "platform/images/ImageAnalysis.h"
 #include "platform/images/SmallPicture.h"
 
@@ -45,6 +46,9 @@ public:
     /// The icon in a regular file, fitted into the size; likewise.
     [[nodiscard]] std::optional<SmallPicture> icon(const std::string& path, PixelSize size,
                                                    const std::stop_token& stop);
+    /// What lies in the archive in a regular file; likewise.
+    [[nodiscard]] std::optional<ArchiveContents> archive(const std::string& path,
+                                                         const std::stop_token& stop);
 
 private:
     class Pool;

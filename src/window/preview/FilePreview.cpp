@@ -11,6 +11,7 @@
 #include <QMimeDatabase>
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 
 namespace orlen {
@@ -72,6 +73,21 @@ void readText(FilePreview& preview, const UniqueFd& file, std::int64_t length)
     }
 }
 
+void readArchive(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    auto contents = PictureReader::archive(path, stop);
+    if (!contents) {
+        preview.kind = FilePreview::Kind::damaged;
+        return;
+    }
+    preview.kind = FilePreview::Kind::archive;
+    preview.isCut = contents->extent != ArchiveContents::Extent::whole;
+    preview.isDamaged = contents->extent == ArchiveContents::Extent::damaged;
+    for (ArchiveContents::Item& item : contents->items)
+        preview.names.push_back({std::move(item.name), item.bytes, item.isFolder});
+    preview.nameCount = std::ssize(preview.names);
+}
+
 void readFile(FilePreview& preview, const std::string& path, std::int64_t length, const std::stop_token& stop)
 {
     if (PictureReader::looksReadable(path)) {
@@ -83,10 +99,12 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
         }
     }
     const Result<UniqueFd> file = openFile(path);
-    if (file.ok())
-        readText(preview, file.value(), length);
-    else
+    if (!file.ok())
         preview.kind = FilePreview::Kind::locked;
+    else if (length > 0 && PictureReader::looksLikeArchive(path))
+        readArchive(preview, path, stop);
+    else
+        readText(preview, file.value(), length);
 }
 
 FilePreview::Name nameOf(int folder, const std::string& name)

@@ -1,17 +1,20 @@
 import QtQuick
 import Orlen.App
 
-/// A preview's content: a picture, text, a folder's names, or an icon with a sentence.
+/// A preview's content: a picture, text, the names in a folder or an archive, or an icon with a sentence.
 Rectangle {
     id: root
 
     required property PreviewModel preview
 
     readonly property alias picture: picture
+    readonly property bool isListed: root.preview.kind === PreviewModel.Folder
+                                     || root.preview.kind === PreviewModel.Archive
     readonly property bool isBare: root.preview.kind === PreviewModel.Other
                                    || root.preview.kind === PreviewModel.Locked
                                    || root.preview.kind === PreviewModel.Missing
-                                   || root.preview.kind === PreviewModel.Folder && names.count === 0
+                                   || root.preview.kind === PreviewModel.Damaged
+                                   || root.isListed && names.count === 0
 
     color: Theme.inset
     clip: true
@@ -68,7 +71,8 @@ Rectangle {
         id: names
 
         anchors.fill: parent
-        visible: root.preview.kind === PreviewModel.Folder
+        objectName: "previewNames"
+        visible: root.isListed
         topMargin: Theme.spaceS
         bottomMargin: Theme.spaceS
         reuseItems: true
@@ -127,7 +131,7 @@ Rectangle {
                 width: parent.width - 48
                 topPadding: Theme.spaceS
                 bottomPadding: Theme.spaceS
-                text: Strings.firstNamesOnly
+                text: root.preview.damaged ? Strings.damagedArchive : Strings.firstNamesOnly
             }
         }
     }
@@ -152,6 +156,8 @@ Rectangle {
             wrapMode: Text.WordWrap
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
                   : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
+                  : root.preview.kind === PreviewModel.Damaged ? Strings.previewDamaged
+                  : root.preview.kind === PreviewModel.Archive ? Strings.emptyArchive
                   : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
             color: Theme.secondary
         }

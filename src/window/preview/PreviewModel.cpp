@@ -55,7 +55,7 @@ QString PreviewModel::facts() const
     if (m_kind == Picture)
         facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
                                                DisplayText::number(m_preview.pixels.height()));
-    if (m_kind == Folder)
+    if (m_kind == Folder || (m_kind == Archive && !m_preview.isCut))
         facts << DisplayText::counted(m_preview.nameCount, WindowTexts::kItems);
     if (m_preview.bytes)
         facts << DisplayText::size(*m_preview.bytes);

@@ -12,8 +12,8 @@
 
 namespace orlen {
 
-/// The preview of one file: a picture, the beginning of a text, a folder's names as rows, or just facts.
-/// Loaded on a worker; the latest path wins. Main thread.
+/// The preview of one file: a picture, the beginning of a text, the names in a folder or an archive as rows,
+/// or just facts. Loaded on a worker; the latest path wins. Main thread.
 class PreviewModel : public orlen::RowsModel {
     Q_OBJECT
     QML_ELEMENT
@@ -35,12 +35,16 @@ class PreviewModel : public orlen::RowsModel {
     Q_PROPERTY(QString dates READ dates NOTIFY changed)
     /// Whether the text or the names are incomplete.
     Q_PROPERTY(bool cut READ isCut NOTIFY changed)
+    /// Whether that is because an archive is damaged.
+    Q_PROPERTY(bool damaged READ isDamaged NOTIFY changed)
 
 public:
     enum Kind {
         Picture = static_cast<int>(FilePreview::Kind::picture),
         Text = static_cast<int>(FilePreview::Kind::text),
         Folder = static_cast<int>(FilePreview::Kind::folder),
+        Archive = static_cast<int>(FilePreview::Kind::archive),
+        Damaged = static_cast<int>(FilePreview::Kind::damaged),
         Other = static_cast<int>(FilePreview::Kind::other),
         Locked = static_cast<int>(FilePreview::Kind::locked),
         Missing = static_cast<int>(FilePreview::Kind::missing),
@@ -48,7 +52,7 @@ public:
     };
     Q_ENUM(Kind)
 
-    /// Of the names in a folder.
+    /// Of the names in a folder or an archive.
     enum class Role {
         name = Qt::UserRole, ///< readable
         size,                ///< text; empty for a folder
@@ -70,6 +74,7 @@ public:
     [[nodiscard]] QString facts() const;
     [[nodiscard]] QString dates() const;
     [[nodiscard]] bool isCut() const { return m_preview.isCut; }
+    [[nodiscard]] bool isDamaged() const { return m_preview.isDamaged; }
 
     /// Shows the file in the file manager.
     Q_INVOKABLE void reveal() const;
