@@ -27,7 +27,7 @@ ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, P
     pixels.insert(pixels.end(), decoded->alpha.begin(), decoded->alpha.end());
     if (!PixelBuffer::write(buffer, pixels))
         return {};
-    return {{{decoded->upright(), {decoded->small.width, decoded->small.height}}}};
+    return {{{decoded->upright(), {decoded->small.width, decoded->small.height}, decoded->pages}}};
 }
 
 ImageMessages::ArchiveAnswer archive(int file, int buffer)

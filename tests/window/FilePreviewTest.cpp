@@ -43,6 +43,7 @@ TEST(FilePreviewTest, tellsWhatCanBeShown)
         {"empty", home.file("h.txt", ""), other},
         {"picture", home.path("real.png"), picture},
         {"text by the name of a picture", home.file("text.png", "words"), text},
+        {"text by the name of a document", home.file("a.pdf", "words"), damaged},
         {"empty archive", home.file("a.zip", "PK\5\6" + std::string(18, '\0')), archive},
         {"text by the name of an archive", home.file("b.tar.gz", "words"), damaged},
         {"text that is packed, by its name", home.file("b.gz", "words"), text},

@@ -17,8 +17,10 @@ constexpr std::uint8_t kSmallPicture = 1;
 constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kPart = 3; ///< a small picture of a part
 constexpr std::uint8_t kArchive = 4;
+constexpr std::uint8_t kPage = 5;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
+constexpr std::int32_t kMostPages = 10'000'000;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
 
 static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Direction) +
@@ -126,9 +128,16 @@ std::uint8_t kindOf(const Question& question)
         return kArchive;
     if (!question.bound)
         return kAnalysis;
-    if (question.use == PictureUse::icon)
-        return kIcon;
+    if (question.use != PictureUse::photo)
+        return question.use == PictureUse::icon ? kIcon : kPage;
     return question.bound->part ? kPart : kSmallPicture;
+}
+
+PictureUse useOf(std::uint8_t kind)
+{
+    if (kind == kPage)
+        return PictureUse::page;
+    return kind == kIcon ? PictureUse::icon : PictureUse::photo;
 }
 
 } // namespace
@@ -154,13 +163,13 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 {
     MessageReader reader(bytes);
     Question question;
-    const auto kind = reader.get<std::uint8_t>(kAnalysis, kArchive);
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kPage);
     question.isAboutArchive = kind == kArchive;
     if (kind != kAnalysis && kind != kArchive) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
         const std::uint8_t lastFit = kind == kSmallPicture ? 1 : 0;
         const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, lastFit));
-        question = {PictureBound{wanted, fit}, kind == kIcon ? PictureUse::icon : PictureUse::photo};
+        question = {PictureBound{wanted, fit}, useOf(kind)};
         if (kind == kPart)
             question.bound->part = part(reader);
     }
@@ -211,6 +220,7 @@ std::string encoded(const PictureAnswer& answer)
     if (answer.sizes) {
         put(writer, answer.sizes->whole);
         put(writer, answer.sizes->small);
+        writer.put(answer.sizes->pages);
     }
     return writer.bytes();
 }
@@ -220,7 +230,8 @@ std::optional<PictureAnswer> decodedPictureAnswer(std::string_view bytes, PixelS
     MessageReader reader(bytes);
     PictureAnswer answer;
     if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture)
-        answer.sizes = {size(reader, {kLongestWholeSide, kLongestWholeSide}), size(reader, most)};
+        answer.sizes = {size(reader, {kLongestWholeSide, kLongestWholeSide}), size(reader, most),
+                        reader.get<std::int32_t>(0, kMostPages)};
     return reader.isValidWhole() ? std::optional(answer) : std::nullopt;
 }
 

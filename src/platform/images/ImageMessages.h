@@ -16,7 +16,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 7";
+inline constexpr std::string_view kReady = "orlen-recognizer 8";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
@@ -53,6 +53,7 @@ struct PictureAnswer {
     struct Sizes {
         PixelSize whole; ///< the picture in the file, upright
         PixelSize small;
+        std::int32_t pages = 0; ///< of a document
     };
     std::optional<Sizes> sizes; ///< absent: not a readable picture
 };

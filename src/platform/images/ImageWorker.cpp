@@ -130,7 +130,7 @@ ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const Pic
         return {};
     if (!answer->sizes)
         return {End::answered, {}};
-    const auto& [whole, small] = *answer->sizes;
+    const auto& [whole, small, pages] = *answer->sizes;
     auto pixels = PixelBuffer::read(buffer.value().get(), lengthOf(small, isIcon));
     if (!pixels)
         return {};
@@ -138,7 +138,7 @@ ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const Pic
     std::vector<std::uint8_t> alpha(end, pixels->end());
     pixels->erase(end, pixels->end());
     return {End::answered,
-            SmallPicture{whole, {small.width, small.height, *std::move(pixels)}, std::move(alpha)}};
+            SmallPicture{whole, {small.width, small.height, *std::move(pixels)}, pages, std::move(alpha)}};
 }
 
 ImageWorker::Outcome<ArchiveContents> ImageWorker::archive(int file, const std::stop_token& stop)

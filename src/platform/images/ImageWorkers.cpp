@@ -142,6 +142,12 @@ std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, cons
                           stop);
 }
 
+std::optional<SmallPicture> ImageWorkers::page(const std::string& path, PixelSize size,
+                                               const std::stop_token& stop)
+{
+    return read(path, {size, PictureBound::Fit::inside}, PictureUse::page, stop);
+}
+
 std::optional<ArchiveContents> ImageWorkers::archive(const std::string& path, const std::stop_token& stop)
 {
     if (stop.stop_requested())

@@ -46,6 +46,9 @@ public:
     /// The icon in a regular file, fitted into the size; likewise.
     [[nodiscard]] std::optional<SmallPicture> icon(const std::string& path, PixelSize size,
                                                    const std::stop_token& stop);
+    /// The first page of the document in a regular file, fitted into the size; likewise.
+    [[nodiscard]] std::optional<SmallPicture> page(const std::string& path, PixelSize size,
+                                                   const std::stop_token& stop);
     /// What lies in the archive in a regular file; likewise.
     [[nodiscard]] std::optional<ArchiveContents> archive(const std::string& path,
                                                          const std::stop_token& stop);

@@ -73,6 +73,16 @@ void readText(FilePreview& preview, const UniqueFd& file, std::int64_t length)
     }
 }
 
+void readDocument(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    const auto page = PictureReader::page(path, {1, 1}, stop);
+    preview.kind = page ? FilePreview::Kind::page : FilePreview::Kind::damaged;
+    if (!page)
+        return;
+    preview.pixels = page->points;
+    preview.pages = page->count;
+}
+
 void readArchive(FilePreview& preview, const std::string& path, const std::stop_token& stop)
 {
     auto contents = PictureReader::archive(path, stop);
@@ -101,6 +111,8 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
     const Result<UniqueFd> file = openFile(path);
     if (!file.ok())
         preview.kind = FilePreview::Kind::locked;
+    else if (length > 0 && PictureReader::looksLikeDocument(path))
+        readDocument(preview, path, stop);
     else if (length > 0 && PictureReader::looksLikeArchive(path))
         readArchive(preview, path, stop);
     else

@@ -17,6 +17,7 @@ namespace orlen {
 struct FilePreview {
     enum class Kind {
         picture,
+        page, ///< the first of a document
         text,
         folder,
         archive,
@@ -36,7 +37,8 @@ struct FilePreview {
     std::optional<std::int64_t> bytes; ///< allocated; absent for a folder
     std::optional<TimePoint> modified;
     std::optional<TimePoint> opened;
-    QSize pixels;               ///< of a picture
+    QSize pixels;               ///< of a picture; of a page, in points
+    int pages = 0;              ///< of a document
     QString text;               ///< the beginning of a text file
     std::vector<Name> names;    ///< of a folder's first items: folders first, then by name; of an archive's
     std::int64_t nameCount = 0; ///< number of all items in a folder

@@ -48,6 +48,19 @@ bool looksReadable(std::string_view path)
     return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
 }
 
+bool looksLikeDocument(std::string_view path)
+{
+    return PathText::asciiLower(PathText::extension(path)) == "pdf";
+}
+
+std::optional<Page> page(const std::string& path, const QSize& bound, const std::stop_token& stop)
+{
+    const auto picture = workers().page(path, {bound.width(), bound.height()}, stop);
+    if (!picture)
+        return std::nullopt;
+    return Page{imageOf(picture->image), {picture->whole.width, picture->whole.height}, picture->pages};
+}
+
 bool looksLikeArchive(std::string_view path)
 {
     const std::string name = PathText::asciiLower(path);

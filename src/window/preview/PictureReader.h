@@ -11,10 +11,10 @@
 #include <string>
 #include <string_view>
 
-/// Reads pictures, program icons and lists of archives for display. The format is detected from the content,
-/// not the name. Separate processes decode them (see ImageWorkers), so none can crash the window or use up
-/// its memory. Does not follow links. Any thread; all but the questions about names and `setRecognizer`
-/// block.
+/// Reads pictures, program icons, pages and lists of archives for display. The format is detected from the
+/// content, not the name. Separate processes decode them (see ImageWorkers), so none can crash the window or
+/// use up its memory. Does not follow links. Any thread; all but the questions about names and
+/// `setRecognizer` block.
 namespace orlen::PictureReader {
 
 enum class Fit {
@@ -29,6 +29,18 @@ struct Picture {
 
 /// Whether the name looks like a picture's. The content may differ.
 [[nodiscard]] bool looksReadable(std::string_view path);
+
+/// Whether the name looks like a document's whose pages can be drawn.
+[[nodiscard]] bool looksLikeDocument(std::string_view path);
+struct Page {
+    QImage image;
+    QSize points; ///< its size
+    int count = 0;
+};
+/// The first page of a document, scaled to fit into `bound` pixels. Nothing when it cannot be read, or at
+/// once when stopped.
+[[nodiscard]] std::optional<Page> page(const std::string& path, const QSize& bound,
+                                       const std::stop_token& stop);
 
 /// Whether the name looks like an archive's.
 [[nodiscard]] bool looksLikeArchive(std::string_view path);

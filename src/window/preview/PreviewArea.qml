@@ -23,7 +23,7 @@ Rectangle {
         id: picture
 
         anchors.fill: parent
-        visible: root.preview.kind === PreviewModel.Picture
+        visible: root.preview.kind === PreviewModel.Picture || root.preview.kind === PreviewModel.Page
         preview: root.preview
     }
 

@@ -44,6 +44,8 @@ QString PreviewModel::symbol() const
 
 QString PreviewModel::picture() const
 {
+    if (m_kind == Page)
+        return Thumbnails::sourceOfPage(m_path);
     return m_kind == Picture ? Thumbnails::source(m_path) + QStringLiteral("/inside") : QString();
 }
 
@@ -55,6 +57,8 @@ QString PreviewModel::facts() const
     if (m_kind == Picture)
         facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
                                                DisplayText::number(m_preview.pixels.height()));
+    if (m_kind == Page)
+        facts << DisplayText::counted(m_preview.pages, WindowTexts::kPages);
     if (m_kind == Folder || (m_kind == Archive && !m_preview.isCut))
         facts << DisplayText::counted(m_preview.nameCount, WindowTexts::kItems);
     if (m_preview.bytes)

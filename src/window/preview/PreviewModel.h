@@ -24,9 +24,9 @@ class PreviewModel : public orlen::RowsModel {
     Q_PROPERTY(QString folder READ folder NOTIFY changed)
     /// Icon of the file.
     Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
-    /// Source of the whole picture; empty unless it is one.
+    /// Source of the whole picture or page; empty for anything else.
     Q_PROPERTY(QString picture READ picture NOTIFY changed)
-    /// Of the whole picture; empty unless it is one.
+    /// Of the whole picture, or of a page in points; empty for anything else.
     Q_PROPERTY(QSizeF pixels READ pixels NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// "PNG image · 4,032 × 3,024 · 2.1 MB"
@@ -41,6 +41,7 @@ class PreviewModel : public orlen::RowsModel {
 public:
     enum Kind {
         Picture = static_cast<int>(FilePreview::Kind::picture),
+        Page = static_cast<int>(FilePreview::Kind::page),
         Text = static_cast<int>(FilePreview::Kind::text),
         Folder = static_cast<int>(FilePreview::Kind::folder),
         Archive = static_cast<int>(FilePreview::Kind::archive),
@@ -69,7 +70,7 @@ public:
     [[nodiscard]] QString folder() const { return DisplayText::folderOf(m_path); }
     [[nodiscard]] QString symbol() const;
     [[nodiscard]] QString picture() const;
-    [[nodiscard]] QSizeF pixels() const { return m_kind == Picture ? QSizeF(m_preview.pixels) : QSizeF(); }
+    [[nodiscard]] QSizeF pixels() const { return QSizeF(m_preview.pixels); }
     [[nodiscard]] QString text() const { return m_preview.text; }
     [[nodiscard]] QString facts() const;
     [[nodiscard]] QString dates() const;

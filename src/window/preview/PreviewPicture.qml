@@ -35,6 +35,8 @@ Item {
         photo: root.preview.path
         source: root.preview.picture
         pixels: root.preview.pixels
+        // A page has no pixels of its own, so that it is drawn for some zoom.
+        detail: root.preview.kind === PreviewModel.Page ? 2 : 1
         Accessible.role: Accessible.Graphic
         Accessible.name: root.preview.name
     }

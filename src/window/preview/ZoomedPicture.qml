@@ -14,6 +14,9 @@ Rectangle {
     /// Of the whole picture; empty while unknown.
     required property size pixels
 
+    /// Pixels to read for each of the place's.
+    property int detail: 1
+
     readonly property real actualZoom: pane.actualZoom
     signal pressed
 
@@ -44,8 +47,9 @@ Rectangle {
         height: whole.isPlaced ? pane.place.height : root.height
         fillMode: whole.isPlaced ? Image.Stretch : Image.PreserveAspectFit
         source: root.source
-        sourceSize.width: Math.max(1, root.width)
-        sourceSize.height: Math.max(1, root.height)
+        sourceSize.width: Math.max(1, root.width * root.detail)
+        sourceSize.height: Math.max(1, root.height * root.detail)
+        mipmap: root.detail > 1
         asynchronous: true
         cache: false
         autoTransform: false
