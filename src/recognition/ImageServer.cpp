@@ -8,6 +8,7 @@
 #include "recognition/ArchiveReader.h"
 #include "recognition/ImageClassifier.h"
 #include "recognition/ImageDecoder.h"
+#include "recognition/MediaReader.h"
 #include "recognition/PlainPicture.h"
 #include "recognition/PrintMaker.h"
 #include "recognition/Sharpness.h"
@@ -47,6 +48,8 @@ std::optional<std::string> answered(const DescriptorSocket::Message& message)
     if (!question || message.files.size() != (hasBuffer ? 2U : 1U))
         return std::nullopt;
     const int file = message.files.front().get();
+    if (question->isAboutMedia)
+        return ImageMessages::encoded(ImageMessages::MediaAnswer{MediaReader::read(file)});
     if (question->isAboutArchive)
         return ImageMessages::encoded(archive(file, message.files.back().get()));
     if (question->bound)

@@ -18,6 +18,7 @@ constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kPart = 3; ///< a small picture of a part
 constexpr std::uint8_t kArchive = 4;
 constexpr std::uint8_t kPage = 5;
+constexpr std::uint8_t kMedia = 6;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kMostPages = 10'000'000;
@@ -124,8 +125,8 @@ PixelRect part(MessageReader& reader)
 
 std::uint8_t kindOf(const Question& question)
 {
-    if (question.isAboutArchive)
-        return kArchive;
+    if (question.isAboutArchive || question.isAboutMedia)
+        return question.isAboutMedia ? kMedia : kArchive;
     if (!question.bound)
         return kAnalysis;
     if (question.use != PictureUse::photo)
@@ -163,9 +164,10 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 {
     MessageReader reader(bytes);
     Question question;
-    const auto kind = reader.get<std::uint8_t>(kAnalysis, kPage);
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kMedia);
     question.isAboutArchive = kind == kArchive;
-    if (kind != kAnalysis && kind != kArchive) {
+    question.isAboutMedia = kind == kMedia;
+    if (kind != kAnalysis && kind != kArchive && kind != kMedia) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
         const std::uint8_t lastFit = kind == kSmallPicture ? 1 : 0;
         const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, lastFit));
@@ -247,6 +249,35 @@ std::optional<ArchiveAnswer> decodedArchiveAnswer(std::string_view bytes)
     MessageReader reader(bytes);
     const ArchiveAnswer answer{reader.get<std::uint32_t>(0, ArchiveMessage::kLongest)};
     return reader.isValidWhole() ? std::optional(answer) : std::nullopt;
+}
+
+std::string encoded(const MediaAnswer& answer)
+{
+    MessageWriter writer;
+    writer.put(answer.facts ? kPicture : kNoPicture);
+    if (answer.facts) {
+        writer.put(std::int64_t{answer.facts->length.count()});
+        writer.put(std::int32_t{answer.facts->kilobits});
+        for (const std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
+            writer.put(*text);
+    }
+    return writer.bytes();
+}
+
+std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes)
+{
+    constexpr std::int64_t kLongestPlay = 1'000'000'000'000;
+    constexpr std::int32_t kMostKilobits = 10'000'000;
+    MessageReader reader(bytes);
+    MediaAnswer answer;
+    if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
+        answer.facts.emplace();
+        answer.facts->length = std::chrono::milliseconds(reader.get<std::int64_t>(0, kLongestPlay));
+        answer.facts->kilobits = reader.get<std::int32_t>(0, kMostKilobits);
+        for (std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
+            *text = reader.textOrNone();
+    }
+    return reader.isValidWhole() ? std::optional(std::move(answer)) : std::nullopt;
 }
 
 } // namespace orlen::ImageMessages

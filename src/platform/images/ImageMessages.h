@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/MediaFacts.h"
 #include "platform/images/PictureBound.h"
 #include "platform/images/SmallPicture.h"
 
@@ -16,7 +17,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 8";
+inline constexpr std::string_view kReady = "orlen-recognizer 9";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
@@ -32,6 +33,7 @@ struct Question {
     /// Of the small picture. An icon lies inside its bound.
     PictureUse use = PictureUse::photo;
     bool isAboutArchive = false; ///< then without a bound
+    bool isAboutMedia = false;   ///< likewise
 };
 
 [[nodiscard]] std::string encoded(const Question& question);
@@ -69,5 +71,14 @@ struct ArchiveAnswer {
 
 [[nodiscard]] std::string encoded(const ArchiveAnswer& answer);
 [[nodiscard]] std::optional<ArchiveAnswer> decodedArchiveAnswer(std::string_view bytes);
+
+/// What a sound file tells.
+struct MediaAnswer {
+    std::optional<MediaFacts> facts; ///< absent: not a readable one
+};
+
+/// Texts are at most 255 bytes.
+[[nodiscard]] std::string encoded(const MediaAnswer& answer);
+[[nodiscard]] std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes);
 
 } // namespace orlen::ImageMessages

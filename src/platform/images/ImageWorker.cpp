@@ -163,6 +163,19 @@ ImageWorker::Outcome<ArchiveContents> ImageWorker::archive(int file, const std::
     return {End::answered, std::move(contents)};
 }
 
+ImageWorker::Outcome<MediaFacts> ImageWorker::media(int file, const std::stop_token& stop)
+{
+    std::string bytes;
+    const std::array files{file};
+    const std::string question = ImageMessages::encoded(ImageMessages::Question{.isAboutMedia = true});
+    if (const End outcome = ask(question, files, bytes, stop); outcome != End::answered)
+        return {outcome, {}};
+    auto answer = ImageMessages::decodedMediaAnswer(bytes);
+    if (!answer)
+        return {};
+    return {End::answered, std::move(answer->facts)};
+}
+
 std::optional<std::string> ImageWorker::nextMessage(const std::stop_token& stop) const
 {
     if (!becomesReadable(m_socket.get(), Clock::now() + m_limit, stop))

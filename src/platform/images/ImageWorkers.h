@@ -2,6 +2,7 @@
 
 #include "platform/images/ArchiveContents.h"
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/MediaFacts.h"
 #include "platform/images/SmallPicture.h"
 
 #include <chrono>
@@ -52,6 +53,8 @@ public:
     /// What lies in the archive in a regular file; likewise.
     [[nodiscard]] std::optional<ArchiveContents> archive(const std::string& path,
                                                          const std::stop_token& stop);
+    /// What the sound file, or the film, in a regular file tells of itself; likewise.
+    [[nodiscard]] std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop);
 
 private:
     class Pool;

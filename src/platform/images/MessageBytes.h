@@ -70,6 +70,12 @@ public:
         require(!bytes.empty() && bytes.size() <= longest && PathText::isValidUtf8(bytes));
         return m_isValid ? std::string(bytes) : std::string();
     }
+    std::string textOrNone()
+    {
+        const std::string_view bytes = take(get<std::uint8_t>());
+        require(PathText::isValidUtf8(bytes));
+        return m_isValid ? std::string(bytes) : std::string();
+    }
     std::vector<std::uint8_t> bytes(std::uint16_t most)
     {
         const std::string_view bytes = take(get<std::uint16_t>(0, most));

@@ -83,6 +83,14 @@ void readDocument(FilePreview& preview, const std::string& path, const std::stop
     preview.pages = page->count;
 }
 
+void readMedia(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    auto facts = PictureReader::media(path, stop);
+    preview.kind = facts ? FilePreview::Kind::media : FilePreview::Kind::damaged;
+    if (facts)
+        preview.media = *std::move(facts);
+}
+
 void readArchive(FilePreview& preview, const std::string& path, const std::stop_token& stop)
 {
     auto contents = PictureReader::archive(path, stop);
@@ -113,6 +121,8 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
         preview.kind = FilePreview::Kind::locked;
     else if (length > 0 && PictureReader::looksLikeDocument(path))
         readDocument(preview, path, stop);
+    else if (length > 0 && PictureReader::looksLikeMedia(path))
+        readMedia(preview, path, stop);
     else if (length > 0 && PictureReader::looksLikeArchive(path))
         readArchive(preview, path, stop);
     else

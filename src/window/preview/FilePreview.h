@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/images/MediaFacts.h"
 #include "platform/values/Time.h"
 
 #include <QSize>
@@ -21,6 +22,7 @@ struct FilePreview {
         text,
         folder,
         archive,
+        media,   ///< a sound file, or a film of which no picture is shown
         damaged, ///< what it should be by its name cannot be read
         other,   ///< only facts about the file
         locked,  ///< it cannot be read
@@ -37,8 +39,9 @@ struct FilePreview {
     std::optional<std::int64_t> bytes; ///< allocated; absent for a folder
     std::optional<TimePoint> modified;
     std::optional<TimePoint> opened;
-    QSize pixels;               ///< of a picture; of a page, in points
-    int pages = 0;              ///< of a document
+    QSize pixels;  ///< of a picture; of a page, in points
+    int pages = 0; ///< of a document
+    MediaFacts media;
     QString text;               ///< the beginning of a text file
     std::vector<Name> names;    ///< of a folder's first items: folders first, then by name; of an archive's
     std::int64_t nameCount = 0; ///< number of all items in a folder

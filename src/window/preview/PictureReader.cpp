@@ -17,6 +17,9 @@ constexpr std::array<std::string_view, 30> kArchives{
     "7z",  "a",    "apk", "ar",  "bz2",  "cab", "cbr", "cbz", "cpio", "crate",
     "deb", "epub", "gem", "iso", "jar",  "lha", "lzh", "rar", "rpm",  "tar",
     "tbz", "tbz2", "tgz", "txz", "tzst", "war", "whl", "xpi", "xz",   "zip"};
+constexpr std::array<std::string_view, 17> kMedia{"aif",  "aiff", "ape", "flac", "m4a", "m4b",
+                                                  "m4v",  "mp3",  "mp4", "mpc",  "oga", "ogg",
+                                                  "opus", "spx",  "wav", "wma",  "wv"};
 /// Packed, and perhaps an archive: told by what stands before.
 constexpr std::array<std::string_view, 3> kPacked{"gz", "zst", "lz4"};
 
@@ -59,6 +62,17 @@ std::optional<Page> page(const std::string& path, const QSize& bound, const std:
     if (!picture)
         return std::nullopt;
     return Page{imageOf(picture->image), {picture->whole.width, picture->whole.height}, picture->pages};
+}
+
+bool looksLikeMedia(std::string_view path)
+{
+    const std::string extension = PathText::asciiLower(PathText::extension(path));
+    return std::ranges::find(kMedia, extension) != kMedia.end();
+}
+
+std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop)
+{
+    return workers().media(path, stop);
 }
 
 bool looksLikeArchive(std::string_view path)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/ArchiveContents.h"
+#include "platform/images/MediaFacts.h"
 
 #include <QImage>
 #include <QRect>
@@ -11,7 +12,8 @@
 #include <string>
 #include <string_view>
 
-/// Reads pictures, program icons, pages and lists of archives for display. The format is detected from the
+/// Reads pictures, program icons, pages, lists of archives and facts of sound files for
+/// display. The format is detected from the
 /// content, not the name. Separate processes decode them (see ImageWorkers), so none can crash the window or
 /// use up its memory. Does not follow links. Any thread; all but the questions about names and
 /// `setRecognizer` block.
@@ -41,6 +43,11 @@ struct Page {
 /// once when stopped.
 [[nodiscard]] std::optional<Page> page(const std::string& path, const QSize& bound,
                                        const std::stop_token& stop);
+
+/// Whether the name looks like that of a sound file, or of a film that tells as much of itself.
+[[nodiscard]] bool looksLikeMedia(std::string_view path);
+/// What it tells. Nothing when it cannot be read, or at once when stopped.
+[[nodiscard]] std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop);
 
 /// Whether the name looks like an archive's.
 [[nodiscard]] bool looksLikeArchive(std::string_view path);

@@ -14,6 +14,7 @@ Rectangle {
                                    || root.preview.kind === PreviewModel.Locked
                                    || root.preview.kind === PreviewModel.Missing
                                    || root.preview.kind === PreviewModel.Damaged
+                                   || root.preview.kind === PreviewModel.Media
                                    || root.isListed && names.count === 0
 
     color: Theme.inset
@@ -157,6 +158,7 @@ Rectangle {
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
                   : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
                   : root.preview.kind === PreviewModel.Damaged ? Strings.previewDamaged
+                  : root.preview.kind === PreviewModel.Media ? root.preview.tags
                   : root.preview.kind === PreviewModel.Archive ? Strings.emptyArchive
                   : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
             color: Theme.secondary

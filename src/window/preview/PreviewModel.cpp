@@ -49,6 +49,16 @@ QString PreviewModel::picture() const
     return m_kind == Picture ? Thumbnails::source(m_path) + QStringLiteral("/inside") : QString();
 }
 
+QString PreviewModel::tags() const
+{
+    QStringList lines;
+    for (const std::string& line : {m_preview.media.title, m_preview.media.artist, m_preview.media.album}) {
+        if (!line.empty())
+            lines << DisplayText::path(line);
+    }
+    return lines.join(u'\n');
+}
+
 QString PreviewModel::facts() const
 {
     QStringList facts;
@@ -57,6 +67,10 @@ QString PreviewModel::facts() const
     if (m_kind == Picture)
         facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
                                                DisplayText::number(m_preview.pixels.height()));
+    if (m_preview.media.length.count() > 0)
+        facts << DisplayText::duration(m_preview.media.length);
+    if (m_preview.media.kilobits > 0)
+        facts << DisplayText::counted(m_preview.media.kilobits, WindowTexts::kKilobits);
     if (m_kind == Page)
         facts << DisplayText::counted(m_preview.pages, WindowTexts::kPages);
     if (m_kind == Folder || (m_kind == Archive && !m_preview.isCut))

@@ -29,6 +29,8 @@ class PreviewModel : public orlen::RowsModel {
     /// Of the whole picture, or of a page in points; empty for anything else.
     Q_PROPERTY(QSizeF pixels READ pixels NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
+    /// Title, artist and album of a sound file, one below the other.
+    Q_PROPERTY(QString tags READ tags NOTIFY changed)
     /// "PNG image · 4,032 × 3,024 · 2.1 MB"
     Q_PROPERTY(QString facts READ facts NOTIFY changed)
     /// "Modified … · Opened …"
@@ -45,6 +47,7 @@ public:
         Text = static_cast<int>(FilePreview::Kind::text),
         Folder = static_cast<int>(FilePreview::Kind::folder),
         Archive = static_cast<int>(FilePreview::Kind::archive),
+        Media = static_cast<int>(FilePreview::Kind::media),
         Damaged = static_cast<int>(FilePreview::Kind::damaged),
         Other = static_cast<int>(FilePreview::Kind::other),
         Locked = static_cast<int>(FilePreview::Kind::locked),
@@ -72,6 +75,7 @@ public:
     [[nodiscard]] QString picture() const;
     [[nodiscard]] QSizeF pixels() const { return QSizeF(m_preview.pixels); }
     [[nodiscard]] QString text() const { return m_preview.text; }
+    [[nodiscard]] QString tags() const;
     [[nodiscard]] QString facts() const;
     [[nodiscard]] QString dates() const;
     [[nodiscard]] bool isCut() const { return m_preview.isCut; }
