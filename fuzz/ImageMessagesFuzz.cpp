@@ -1,9 +1,13 @@
 #include "Require.h"
+#include "platform/images/ArchiveMessage.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/text/PathText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <span>
+#include <vector>
 
 /// Whatever a recognizer says, what is believed of it is in range, and says the same again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -15,6 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(ImageMessages::encoded(*picture) == bytes);
         require(!picture->sizes ||
                 (picture->sizes->small.width <= kMost.width && picture->sizes->small.height <= kMost.height));
+    }
+    if (const auto contents = ArchiveMessage::decoded(std::span(data, size))) {
+        const std::vector<std::uint8_t> again = ArchiveMessage::encoded(*contents);
+        require(std::equal(again.begin(), again.end(), data, data + size));
     }
     const auto answer = ImageMessages::decodedAnswer(bytes);
     if (!answer)

@@ -54,7 +54,7 @@ PictureTraits FileTraits::of(const VipsPicture::Image& header)
 
 bool FileTraits::isDrawnInLines(const VipsPicture::Image& header)
 {
-    return loaderOf(header).starts_with("svg");
+    return loaderOf(header).starts_with("svg") || loaderOf(header).starts_with("pdf");
 }
 
 } // namespace orlen

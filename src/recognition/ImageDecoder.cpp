@@ -49,6 +49,11 @@ bool isBmp(const Start& start)
     return start[0] == 'B' && start[1] == 'M';
 }
 
+bool isDocument(const Start& start)
+{
+    return start == Start{'%', 'P', 'D', 'F'};
+}
+
 struct Wanted {
     PixelSize box; ///< in stored orientation
     PictureUse use;
@@ -162,6 +167,7 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
         decoded.isSideways = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.traits = FileTraits::of(header);
         isDrawing = FileTraits::isDrawnInLines(header);
+        decoded.pages = use == PictureUse::page ? vips_image_get_n_pages(header.get()) : 0;
     }
     if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
         return std::nullopt;
@@ -205,9 +211,9 @@ void prepare()
 #endif
     // By content, not by name: what is not listed here is not a picture, whatever its name says.
     vips_operation_block_set("VipsForeignLoad", TRUE);
-    for (const char* loader :
-         {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif", "VipsForeignLoadTiff",
-          "VipsForeignLoadWebp", "VipsForeignLoadNsgif", "VipsForeignLoadJxl", "VipsForeignLoadSvg"})
+    for (const char* loader : {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadHeif",
+                               "VipsForeignLoadTiff", "VipsForeignLoadWebp", "VipsForeignLoadNsgif",
+                               "VipsForeignLoadJxl", "VipsForeignLoadSvg", "VipsForeignLoadPdf"})
         vips_operation_block_set(loader, FALSE);
     warmUp();
 }
@@ -215,7 +221,7 @@ void prepare()
 std::optional<Decoded> decode(int descriptor, const PictureBound& bound, PictureUse use)
 {
     const std::optional<Start> start = startOf(descriptor);
-    if (!start)
+    if (!start || isDocument(*start) != (use == PictureUse::page))
         return std::nullopt;
     if (bound.part) {
         auto part = isBmp(*start) ? PartDecoder::decodeBmp(bytesOf(descriptor), bound)

@@ -23,6 +23,7 @@ struct Decoded {
     /// Upright, the first frame, never enlarged unless it is vector graphics.
     RgbImage small;
     std::vector<std::uint8_t> alpha; ///< as in SmallPicture
+    int pages = 0;                   ///< of a document
 
     /// The size of the whole picture once upright.
     [[nodiscard]] PixelSize upright() const

@@ -1,10 +1,13 @@
 #include "recognition/ImageServer.h"
 
+#include "platform/images/ArchiveMessage.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/images/PixelBuffer.h"
 #include "platform/process/ProcessLimits.h"
+#include "recognition/ArchiveReader.h"
 #include "recognition/ImageDecoder.h"
+#include "recognition/MediaReader.h"
 #include "recognition/PictureLabels.h"
 #include "recognition/PlainPicture.h"
 #include "recognition/PrintMaker.h"
@@ -25,16 +28,30 @@ ImageMessages::PictureAnswer smallPicture(int file, const PictureBound& bound, P
     pixels.insert(pixels.end(), decoded->alpha.begin(), decoded->alpha.end());
     if (!PixelBuffer::write(buffer, pixels))
         return {};
-    return {{{decoded->upright(), {decoded->small.width, decoded->small.height}}}};
+    return {{{decoded->upright(), {decoded->small.width, decoded->small.height}, decoded->pages}}};
+}
+
+ImageMessages::ArchiveAnswer archive(int file, int buffer)
+{
+    const auto contents = ArchiveReader::read(file);
+    if (!contents)
+        return {};
+    const std::vector<std::uint8_t> bytes = ArchiveMessage::encoded(*contents);
+    return {PixelBuffer::write(buffer, bytes) ? static_cast<std::uint32_t>(bytes.size()) : 0};
 }
 
 /// Nothing if it is not a question.
 std::optional<std::string> answered(const DescriptorSocket::Message& message)
 {
     const auto question = ImageMessages::decodedQuestion(message.bytes);
-    if (!question || message.files.size() != (question->bound ? 2U : 1U))
+    const bool hasBuffer = question && (question->bound || question->isAboutArchive);
+    if (!question || message.files.size() != (hasBuffer ? 2U : 1U))
         return std::nullopt;
     const int file = message.files.front().get();
+    if (question->isAboutMedia)
+        return ImageMessages::encoded(ImageMessages::MediaAnswer{MediaReader::read(file)});
+    if (question->isAboutArchive)
+        return ImageMessages::encoded(archive(file, message.files.back().get()));
     if (question->bound)
         return ImageMessages::encoded(
             smallPicture(file, *question->bound, question->use, message.files.back().get()));

@@ -15,6 +15,7 @@ ORLEN_SAMPLE(gif);
 ORLEN_SAMPLE(heic);
 ORLEN_SAMPLE(jpg);
 ORLEN_SAMPLE(jxl);
+ORLEN_SAMPLE(pdf);
 ORLEN_SAMPLE(png);
 ORLEN_SAMPLE(svg);
 ORLEN_SAMPLE(tif);
@@ -28,7 +29,7 @@ std::vector<std::span<const std::uint8_t>> Samples::all()
             {orlen_sample_heic, orlen_sample_heic_end}, {orlen_sample_jpg, orlen_sample_jpg_end},
             {orlen_sample_jxl, orlen_sample_jxl_end},   {orlen_sample_png, orlen_sample_png_end},
             {orlen_sample_svg, orlen_sample_svg_end},   {orlen_sample_tif, orlen_sample_tif_end},
-            {orlen_sample_webp, orlen_sample_webp_end}};
+            {orlen_sample_pdf, orlen_sample_pdf_end},   {orlen_sample_webp, orlen_sample_webp_end}};
 }
 
 } // namespace orlen

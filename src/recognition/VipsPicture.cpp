@@ -31,7 +31,7 @@ VipsPicture::Image VipsPicture::asRgb(const Image& image, PictureUse use)
     const bool hasAlpha = rgb && vips_image_hasalpha(rgb.get()) != 0;
     if (!hasAlpha && use == PictureUse::icon)
         rgb = applied(rgb, [](VipsImage* in, VipsImage** out) { return vips_addalpha(in, out, nullptr); });
-    if (hasAlpha && use == PictureUse::photo)
+    if (hasAlpha && use != PictureUse::icon)
         rgb = applied(rgb, overWhite);
     const int bands = use == PictureUse::icon ? kColours + 1 : kColours;
     rgb = applied(rgb, [bands](VipsImage* in, VipsImage** out) {

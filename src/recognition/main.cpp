@@ -1,4 +1,5 @@
 #include "platform/process/ProcessLimits.h"
+#include "recognition/ArchiveReader.h"
 #include "recognition/Cage.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/ImageServer.h"
@@ -47,6 +48,7 @@ bool prepare(std::size_t memory)
     // One picture at a time on one core: there is a process per core.
     cv::setNumThreads(1);
     orlen::ImageDecoder::prepare();
+    orlen::ArchiveReader::prepare();
     return true;
 }
 

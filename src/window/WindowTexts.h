@@ -26,6 +26,9 @@ inline constexpr Text kAboutScreens = messageIn("screens", "About");
 inline constexpr Text kItems = messages("{count} item", "{count} items");
 inline constexpr Text kApplicationCount = messages("{count} application", "{count} applications");
 inline constexpr Text kFolders = messages("{count} folder", "{count} folders");
+inline constexpr Text kPages = messages("{count} page", "{count} pages");
+// TRANSLATORS: thousand bits a second, of a sound file.
+inline constexpr Text kKilobits = messages("{count} kbit/s", "{count} kbit/s");
 inline constexpr Text kPhotos = messages("{count} photo", "{count} photos");
 inline constexpr Text kSelectedPhotos = messages("{count} photo selected", "{count} photos selected");
 // TRANSLATORS: Of the photos of a group, whose number stands before this.

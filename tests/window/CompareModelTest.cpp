@@ -3,7 +3,7 @@
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
 #include "window/lists/PathCode.h"
-#include "window/photos/ComparePane.h"
+#include "window/preview/PicturePane.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -146,11 +146,11 @@ TEST(LinkedZoomTest, whatIsUnderThePointerStaysThereUpToTheEdges)
     EXPECT_EQ(zoom.centre(), QPointF(0.5, 0.5));
 }
 
-TEST(ComparePaneTest, onlyWhatCanBeSeenIsReadAndOnlyInNeededDetail)
+TEST(PicturePaneTest, onlyWhatCanBeSeenIsReadAndOnlyInNeededDetail)
 {
     LinkedZoom zoom;
     zoom.setMost(100);
-    ComparePane pane;
+    PicturePane pane;
     pane.setPhoto(PathCode::of("/p/a.jpg"));
     pane.setZoom(&zoom);
     pane.setSize({300, 300});

@@ -1,14 +1,12 @@
 #include "platform/images/ImageMessages.h"
 
-#include "platform/text/PathText.h"
+#include "platform/images/ArchiveMessage.h"
+#include "platform/images/MessageBytes.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <cstring>
 #include <iterator>
 #include <limits>
-#include <type_traits>
 
 namespace orlen::ImageMessages {
 
@@ -18,8 +16,12 @@ constexpr std::uint8_t kAnalysis = 0;
 constexpr std::uint8_t kSmallPicture = 1;
 constexpr std::uint8_t kIcon = 2;
 constexpr std::uint8_t kPart = 3; ///< a small picture of a part
+constexpr std::uint8_t kArchive = 4;
+constexpr std::uint8_t kPage = 5;
+constexpr std::uint8_t kMedia = 6;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
+constexpr std::int32_t kMostPages = 10'000'000;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
 
 static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Direction) +
@@ -27,90 +29,12 @@ static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(Feature
                   kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
               kLongest);
 
-class Writer {
-public:
-    template <typename Number>
-    void put(const Number& number)
-    {
-        static_assert(std::is_trivially_copyable_v<Number>);
-        std::array<char, sizeof(Number)> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init)
-        std::memcpy(bytes.data(), &number, sizeof number);
-        m_bytes.append(bytes.data(), bytes.size());
-    }
-    void put(const std::string& text)
-    {
-        put(static_cast<std::uint8_t>(text.size()));
-        m_bytes += text;
-    }
-    void put(const std::vector<std::uint8_t>& bytes)
-    {
-        put(static_cast<std::uint16_t>(bytes.size()));
-        m_bytes.append(bytes.begin(), bytes.end());
-    }
-    [[nodiscard]] std::string bytes() { return std::move(m_bytes); }
-
-private:
-    std::string m_bytes;
-};
-
-/// Once anything was missing or out of range, everything after it is.
-class Reader {
-public:
-    explicit Reader(std::string_view bytes) : m_bytes(bytes) {}
-
-    template <typename Number>
-    Number get()
-    {
-        static_assert(std::is_trivially_copyable_v<Number>);
-        Number number{};
-        if (const std::string_view bytes = take(sizeof number); m_isValid)
-            std::memcpy(&number, bytes.data(), sizeof number);
-        return number;
-    }
-    template <typename Number>
-    Number get(Number least, Number most)
-    {
-        const auto number = get<Number>();
-        require(number >= least && number <= most); // also false for NaN
-        return m_isValid ? number : Number{};
-    }
-    std::string text(std::size_t longest)
-    {
-        const std::string_view bytes = take(get<std::uint8_t>());
-        require(!bytes.empty() && bytes.size() <= longest && PathText::isValidUtf8(bytes));
-        return m_isValid ? std::string(bytes) : std::string();
-    }
-    std::vector<std::uint8_t> bytes(std::uint16_t most)
-    {
-        const std::string_view bytes = take(get<std::uint16_t>(0, most));
-        return {bytes.begin(), bytes.end()};
-    }
-    void require(bool holds) { m_isValid = m_isValid && holds; }
-    [[nodiscard]] bool isValid() const { return m_isValid; }
-    /// Whether everything was valid and nothing is left over.
-    [[nodiscard]] bool isValidWhole() const { return m_isValid && m_bytes.empty(); }
-
-private:
-    std::string_view take(std::size_t length)
-    {
-        require(length <= m_bytes.size());
-        if (!m_isValid)
-            return {};
-        const std::string_view taken = m_bytes.substr(0, length);
-        m_bytes.remove_prefix(length);
-        return taken;
-    }
-
-    std::string_view m_bytes;
-    bool m_isValid = true;
-};
-
 bool fits(const ImageLabel& label)
 {
     return !label.identifier.empty() && label.identifier.size() <= kLongestIdentifier;
 }
 
-void putLabels(Writer& writer, const std::vector<ImageLabel>& labels)
+void putLabels(MessageWriter& writer, const std::vector<ImageLabel>& labels)
 {
     const auto fitting = std::count_if(labels.begin(), labels.end(), fits);
     auto left = static_cast<std::uint8_t>(std::min(kMostLabels, static_cast<std::size_t>(fitting)));
@@ -124,7 +48,7 @@ void putLabels(Writer& writer, const std::vector<ImageLabel>& labels)
     }
 }
 
-std::vector<ImageLabel> labels(Reader& reader)
+std::vector<ImageLabel> labels(MessageReader& reader)
 {
     const auto count = reader.get<std::uint8_t>(0, kMostLabels);
     std::vector<ImageLabel> labels;
@@ -135,7 +59,7 @@ std::vector<ImageLabel> labels(Reader& reader)
     return labels;
 }
 
-std::optional<FeaturePrint> print(Reader& reader)
+std::optional<FeaturePrint> print(MessageReader& reader)
 {
     if (reader.get<std::uint8_t>(0, 1) == 0)
         return std::nullopt;
@@ -151,7 +75,7 @@ constexpr bool PictureTraits::*kTraits[] = {&PictureTraits::isDamaged, &PictureT
                                             &PictureTraits::isGrey, &PictureTraits::hasPalette,
                                             &PictureTraits::isFromCamera};
 
-void put(Writer& writer, const PictureTraits& traits)
+void put(MessageWriter& writer, const PictureTraits& traits)
 {
     writer.put(static_cast<std::uint8_t>(traits.format));
     unsigned bits = 0;
@@ -163,7 +87,7 @@ void put(Writer& writer, const PictureTraits& traits)
     writer.put(static_cast<std::uint8_t>(bits));
 }
 
-PictureTraits traits(Reader& reader)
+PictureTraits traits(MessageReader& reader)
 {
     constexpr auto kLastFormat = static_cast<std::uint8_t>(PictureFormat::jxl);
     constexpr std::uint8_t kAllBits = (1U << std::size(kTraits)) - 1;
@@ -176,20 +100,20 @@ PictureTraits traits(Reader& reader)
     return traits;
 }
 
-void put(Writer& writer, PixelSize size)
+void put(MessageWriter& writer, PixelSize size)
 {
     writer.put(std::int32_t{size.width});
     writer.put(std::int32_t{size.height});
 }
 
 /// At least one pixel each way.
-PixelSize size(Reader& reader, PixelSize most)
+PixelSize size(MessageReader& reader, PixelSize most)
 {
     const auto width = reader.get<std::int32_t>(1, most.width);
     return {width, reader.get<std::int32_t>(1, most.height)};
 }
 
-PixelRect part(Reader& reader)
+PixelRect part(MessageReader& reader)
 {
     PixelRect part;
     part.x = reader.get<std::int32_t>(0, kLongestWholeSide);
@@ -201,18 +125,27 @@ PixelRect part(Reader& reader)
 
 std::uint8_t kindOf(const Question& question)
 {
+    if (question.isAboutArchive || question.isAboutMedia)
+        return question.isAboutMedia ? kMedia : kArchive;
     if (!question.bound)
         return kAnalysis;
-    if (question.use == PictureUse::icon)
-        return kIcon;
+    if (question.use != PictureUse::photo)
+        return question.use == PictureUse::icon ? kIcon : kPage;
     return question.bound->part ? kPart : kSmallPicture;
+}
+
+PictureUse useOf(std::uint8_t kind)
+{
+    if (kind == kPage)
+        return PictureUse::page;
+    return kind == kIcon ? PictureUse::icon : PictureUse::photo;
 }
 
 } // namespace
 
 std::string encoded(const Question& question)
 {
-    Writer writer;
+    MessageWriter writer;
     const std::uint8_t kind = kindOf(question);
     writer.put(kind);
     if (question.bound) {
@@ -229,14 +162,16 @@ std::string encoded(const Question& question)
 
 std::optional<Question> decodedQuestion(std::string_view bytes)
 {
-    Reader reader(bytes);
+    MessageReader reader(bytes);
     Question question;
-    const auto kind = reader.get<std::uint8_t>(kAnalysis, kPart);
-    if (kind != kAnalysis) {
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kMedia);
+    question.isAboutArchive = kind == kArchive;
+    question.isAboutMedia = kind == kMedia;
+    if (kind != kAnalysis && kind != kArchive && kind != kMedia) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
         const std::uint8_t lastFit = kind == kSmallPicture ? 1 : 0;
         const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, lastFit));
-        question = {PictureBound{wanted, fit}, kind == kIcon ? PictureUse::icon : PictureUse::photo};
+        question = {PictureBound{wanted, fit}, useOf(kind)};
         if (kind == kPart)
             question.bound->part = part(reader);
     }
@@ -245,7 +180,7 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 
 std::string encoded(const Answer& answer)
 {
-    Writer writer;
+    MessageWriter writer;
     writer.put(answer.analysis ? kPicture : kNoPicture);
     if (!answer.analysis)
         return writer.bytes();
@@ -265,7 +200,7 @@ std::string encoded(const Answer& answer)
 
 std::optional<Answer> decodedAnswer(std::string_view bytes)
 {
-    Reader reader(bytes);
+    MessageReader reader(bytes);
     Answer answer;
     if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
         answer.analysis.emplace();
@@ -282,22 +217,67 @@ std::optional<Answer> decodedAnswer(std::string_view bytes)
 
 std::string encoded(const PictureAnswer& answer)
 {
-    Writer writer;
+    MessageWriter writer;
     writer.put(answer.sizes ? kPicture : kNoPicture);
     if (answer.sizes) {
         put(writer, answer.sizes->whole);
         put(writer, answer.sizes->small);
+        writer.put(answer.sizes->pages);
     }
     return writer.bytes();
 }
 
 std::optional<PictureAnswer> decodedPictureAnswer(std::string_view bytes, PixelSize most)
 {
-    Reader reader(bytes);
+    MessageReader reader(bytes);
     PictureAnswer answer;
     if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture)
-        answer.sizes = {size(reader, {kLongestWholeSide, kLongestWholeSide}), size(reader, most)};
+        answer.sizes = {size(reader, {kLongestWholeSide, kLongestWholeSide}), size(reader, most),
+                        reader.get<std::int32_t>(0, kMostPages)};
     return reader.isValidWhole() ? std::optional(answer) : std::nullopt;
+}
+
+std::string encoded(const ArchiveAnswer& answer)
+{
+    MessageWriter writer;
+    writer.put(std::uint32_t{answer.length});
+    return writer.bytes();
+}
+
+std::optional<ArchiveAnswer> decodedArchiveAnswer(std::string_view bytes)
+{
+    MessageReader reader(bytes);
+    const ArchiveAnswer answer{reader.get<std::uint32_t>(0, ArchiveMessage::kLongest)};
+    return reader.isValidWhole() ? std::optional(answer) : std::nullopt;
+}
+
+std::string encoded(const MediaAnswer& answer)
+{
+    MessageWriter writer;
+    writer.put(answer.facts ? kPicture : kNoPicture);
+    if (answer.facts) {
+        writer.put(std::int64_t{answer.facts->length.count()});
+        writer.put(std::int32_t{answer.facts->kilobits});
+        for (const std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
+            writer.put(*text);
+    }
+    return writer.bytes();
+}
+
+std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes)
+{
+    constexpr std::int64_t kLongestPlay = 1'000'000'000'000;
+    constexpr std::int32_t kMostKilobits = 10'000'000;
+    MessageReader reader(bytes);
+    MediaAnswer answer;
+    if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
+        answer.facts.emplace();
+        answer.facts->length = std::chrono::milliseconds(reader.get<std::int64_t>(0, kLongestPlay));
+        answer.facts->kilobits = reader.get<std::int32_t>(0, kMostKilobits);
+        for (std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
+            *text = reader.textOrNone();
+    }
+    return reader.isValidWhole() ? std::optional(std::move(answer)) : std::nullopt;
 }
 
 } // namespace orlen::ImageMessages

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/MediaFacts.h"
 #include "platform/images/PictureBound.h"
 #include "platform/images/SmallPicture.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,7 +17,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 6";
+inline constexpr std::string_view kReady = "orlen-recognizer 9";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
@@ -24,11 +26,14 @@ inline constexpr std::size_t kLongestIdentifier = 64; ///< bytes
 /// Of a requested picture, in pixels.
 inline constexpr int kLongestSide = 4096;
 
-/// Accompanies the file of a picture. A request for a small picture also passes a buffer for its pixels.
+/// Accompanies the file of a picture or an archive. A request for a small picture also passes a buffer for
+/// its pixels, and one for the contents of an archive a buffer for an `ArchiveMessage`.
 struct Question {
     std::optional<PictureBound> bound; ///< of the small picture; absent: analyse the picture instead
     /// Of the small picture. An icon lies inside its bound.
     PictureUse use = PictureUse::photo;
+    bool isAboutArchive = false; ///< then without a bound
+    bool isAboutMedia = false;   ///< likewise
 };
 
 [[nodiscard]] std::string encoded(const Question& question);
@@ -50,6 +55,7 @@ struct PictureAnswer {
     struct Sizes {
         PixelSize whole; ///< the picture in the file, upright
         PixelSize small;
+        std::int32_t pages = 0; ///< of a document
     };
     std::optional<Sizes> sizes; ///< absent: not a readable picture
 };
@@ -57,5 +63,22 @@ struct PictureAnswer {
 [[nodiscard]] std::string encoded(const PictureAnswer& answer);
 /// Nothing for bytes that no recognizer would send, or if the small picture is larger than requested.
 [[nodiscard]] std::optional<PictureAnswer> decodedPictureAnswer(std::string_view bytes, PixelSize most);
+
+/// The contents of an archive, which are at the start of the buffer.
+struct ArchiveAnswer {
+    std::uint32_t length = 0; ///< bytes; 0: not a readable archive
+};
+
+[[nodiscard]] std::string encoded(const ArchiveAnswer& answer);
+[[nodiscard]] std::optional<ArchiveAnswer> decodedArchiveAnswer(std::string_view bytes);
+
+/// What a sound file tells.
+struct MediaAnswer {
+    std::optional<MediaFacts> facts; ///< absent: not a readable one
+};
+
+/// Texts are at most 255 bytes.
+[[nodiscard]] std::string encoded(const MediaAnswer& answer);
+[[nodiscard]] std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes);
 
 } // namespace orlen::ImageMessages

@@ -1,6 +1,7 @@
 #include "platform/images/ImageWorker.h"
 
 #include "platform/files/Retrying.h"
+#include "platform/images/ArchiveMessage.h"
 #include "platform/images/DescriptorSocket.h"
 #include "platform/images/ImageMessages.h"
 #include "platform/images/PixelBuffer.h"
@@ -129,7 +130,7 @@ ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const Pic
         return {};
     if (!answer->sizes)
         return {End::answered, {}};
-    const auto& [whole, small] = *answer->sizes;
+    const auto& [whole, small, pages] = *answer->sizes;
     auto pixels = PixelBuffer::read(buffer.value().get(), lengthOf(small, isIcon));
     if (!pixels)
         return {};
@@ -137,7 +138,42 @@ ImageWorker::Outcome<SmallPicture> ImageWorker::smallPicture(int file, const Pic
     std::vector<std::uint8_t> alpha(end, pixels->end());
     pixels->erase(end, pixels->end());
     return {End::answered,
-            SmallPicture{whole, {small.width, small.height, *std::move(pixels)}, std::move(alpha)}};
+            SmallPicture{whole, {small.width, small.height, *std::move(pixels)}, pages, std::move(alpha)}};
+}
+
+ImageWorker::Outcome<ArchiveContents> ImageWorker::archive(int file, const std::stop_token& stop)
+{
+    const auto buffer = PixelBuffer::ofSize(ArchiveMessage::kLongest);
+    if (!buffer.ok())
+        return {};
+    std::string bytes;
+    const std::array files{file, buffer.value().get()};
+    const std::string question = ImageMessages::encoded(ImageMessages::Question{.isAboutArchive = true});
+    if (const End outcome = ask(question, files, bytes, stop); outcome != End::answered)
+        return {outcome, {}};
+    const auto answer = ImageMessages::decodedArchiveAnswer(bytes);
+    if (!answer)
+        return {};
+    if (answer->length == 0)
+        return {End::answered, {}};
+    const auto message = PixelBuffer::read(buffer.value().get(), answer->length);
+    auto contents = message ? ArchiveMessage::decoded(*message) : std::nullopt;
+    if (!contents)
+        return {};
+    return {End::answered, std::move(contents)};
+}
+
+ImageWorker::Outcome<MediaFacts> ImageWorker::media(int file, const std::stop_token& stop)
+{
+    std::string bytes;
+    const std::array files{file};
+    const std::string question = ImageMessages::encoded(ImageMessages::Question{.isAboutMedia = true});
+    if (const End outcome = ask(question, files, bytes, stop); outcome != End::answered)
+        return {outcome, {}};
+    auto answer = ImageMessages::decodedMediaAnswer(bytes);
+    if (!answer)
+        return {};
+    return {End::answered, std::move(answer->facts)};
 }
 
 std::optional<std::string> ImageWorker::nextMessage(const std::stop_token& stop) const

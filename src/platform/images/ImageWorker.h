@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/files/UniqueFd.h"
+#include "platform/images/ArchiveContents.h"
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/MediaFacts.h"
 #include "platform/images/SmallPicture.h"
 
 #include <chrono>
@@ -49,6 +51,10 @@ public:
     /// The picture in an open file, made small. Returns at once when stopped.
     [[nodiscard]] Outcome<SmallPicture> smallPicture(int file, const PictureBound& bound, PictureUse use,
                                                      const std::stop_token& stop);
+    /// What lies in the archive in an open file. Returns at once when stopped.
+    [[nodiscard]] Outcome<ArchiveContents> archive(int file, const std::stop_token& stop);
+    /// What the sound file or film in an open file tells of itself. Returns at once when stopped.
+    [[nodiscard]] Outcome<MediaFacts> media(int file, const std::stop_token& stop);
 
     /// Hangs up when the process exits. Only for waiting on that.
     [[nodiscard]] int socket() const { return m_socket.get(); }

@@ -43,6 +43,19 @@ public:
         return std::move(outcome.answer);
     }
 
+    /// Has `ask` put a question about a regular file, which is opened without following a link.
+    template <typename Ask>
+    [[nodiscard]] auto told(const std::string& path, const Ask& ask, const std::stop_token& stop)
+        -> decltype(ask(std::declval<ImageWorker&>(), 0).answer)
+    {
+        if (stop.stop_requested())
+            return std::nullopt;
+        const auto file = openFile(path);
+        if (!file.ok())
+            return std::nullopt;
+        return answer([&](ImageWorker& worker) { return ask(worker, file.value().get()); }, stop);
+    }
+
 private:
     using Worker = IdleWorkers::Worker;
 
@@ -133,13 +146,26 @@ ImageWorkers::~ImageWorkers() = default;
 
 std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, const std::stop_token& stop)
 {
-    if (stop.stop_requested())
-        return std::nullopt;
-    const auto file = openFile(path);
-    if (!file.ok())
-        return std::nullopt;
-    return m_pool->answer([&](ImageWorker& worker) { return worker.analyze(file.value().get(), stop); },
-                          stop);
+    return m_pool->told(
+        path, [&](ImageWorker& worker, int file) { return worker.analyze(file, stop); }, stop);
+}
+
+std::optional<SmallPicture> ImageWorkers::page(const std::string& path, PixelSize size,
+                                               const std::stop_token& stop)
+{
+    return read(path, {size, PictureBound::Fit::inside}, PictureUse::page, stop);
+}
+
+std::optional<ArchiveContents> ImageWorkers::archive(const std::string& path, const std::stop_token& stop)
+{
+    return m_pool->told(
+        path, [&](ImageWorker& worker, int file) { return worker.archive(file, stop); }, stop);
+}
+
+std::optional<MediaFacts> ImageWorkers::media(const std::string& path, const std::stop_token& stop)
+{
+    return m_pool->told(
+        path, [&](ImageWorker& worker, int file) { return worker.media(file, stop); }, stop);
 }
 
 std::optional<SmallPicture> ImageWorkers::smallPicture(const std::string& path, const PictureBound& bound,
@@ -157,17 +183,14 @@ std::optional<SmallPicture> ImageWorkers::icon(const std::string& path, PixelSiz
 std::optional<SmallPicture> ImageWorkers::read(const std::string& path, const PictureBound& bound,
                                                PictureUse use, const std::stop_token& stop)
 {
-    if (stop.stop_requested() || bound.size.width <= 0 || bound.size.height <= 0)
-        return std::nullopt;
-    const auto file = openFile(path);
-    if (!file.ok())
+    if (bound.size.width <= 0 || bound.size.height <= 0)
         return std::nullopt;
     const PictureBound allowed{{std::min(bound.size.width, ImageMessages::kLongestSide),
                                 std::min(bound.size.height, ImageMessages::kLongestSide)},
                                bound.fit,
                                bound.part};
-    return m_pool->answer(
-        [&](ImageWorker& worker) { return worker.smallPicture(file.value().get(), allowed, use, stop); },
+    return m_pool->told(
+        path, [&](ImageWorker& worker, int file) { return worker.smallPicture(file, allowed, use, stop); },
         stop);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/images/ArchiveContents.h"
 #include "platform/images/ImageAnalysis.h"
+#include "platform/images/MediaFacts.h"
 #include "platform/images/SmallPicture.h"
 
 #include <chrono>
@@ -45,6 +47,14 @@ public:
     /// The icon in a regular file, fitted into the size; likewise.
     [[nodiscard]] std::optional<SmallPicture> icon(const std::string& path, PixelSize size,
                                                    const std::stop_token& stop);
+    /// The first page of the document in a regular file, fitted into the size; likewise.
+    [[nodiscard]] std::optional<SmallPicture> page(const std::string& path, PixelSize size,
+                                                   const std::stop_token& stop);
+    /// What lies in the archive in a regular file; likewise.
+    [[nodiscard]] std::optional<ArchiveContents> archive(const std::string& path,
+                                                         const std::stop_token& stop);
+    /// What the sound file, or the film, in a regular file tells of itself; likewise.
+    [[nodiscard]] std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop);
 
 private:
     class Pool;

@@ -37,7 +37,10 @@ Sheet {
     PreviewSheet {
         id: look
 
+        tickable: contents.header.cleanable
+        ticked: (list.currentItem as EntryRow)?.checkState === Qt.Checked
         onStepRequested: by => root.preview(list.currentIndex + by)
+        onToggleRequested: contents.toggle(list.currentIndex)
     }
 
     RowMenu {

@@ -114,6 +114,11 @@ Item {
     PreviewSheet {
         id: look
 
+        readonly property PhotoTile tile: root.previewed?.currentItem as PhotoTile
+
+        tickable: look.tile !== null && !look.tile.kept
+        ticked: look.tile?.selected ?? false
+        onToggleRequested: root.previewed.tiles.toggle(root.previewed.currentIndex)
         onStepRequested: by => root.preview(root.previewed, root.previewed.currentIndex + by)
     }
 }

@@ -11,6 +11,7 @@
 #include <QMimeDatabase>
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 
 namespace orlen {
@@ -72,6 +73,39 @@ void readText(FilePreview& preview, const UniqueFd& file, std::int64_t length)
     }
 }
 
+void readDocument(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    const auto page = PictureReader::page(path, {1, 1}, stop);
+    preview.kind = page ? FilePreview::Kind::page : FilePreview::Kind::damaged;
+    if (!page)
+        return;
+    preview.pixels = page->points;
+    preview.pages = page->count;
+}
+
+void readMedia(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    auto facts = PictureReader::media(path, stop);
+    preview.kind = facts ? FilePreview::Kind::media : FilePreview::Kind::damaged;
+    if (facts)
+        preview.media = *std::move(facts);
+}
+
+void readArchive(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    auto contents = PictureReader::archive(path, stop);
+    if (!contents) {
+        preview.kind = FilePreview::Kind::damaged;
+        return;
+    }
+    preview.kind = FilePreview::Kind::archive;
+    preview.isCut = contents->extent != ArchiveContents::Extent::whole;
+    preview.isDamaged = contents->extent == ArchiveContents::Extent::damaged;
+    for (ArchiveContents::Item& item : contents->items)
+        preview.names.push_back({std::move(item.name), item.bytes, item.isFolder});
+    preview.nameCount = std::ssize(preview.names);
+}
+
 void readFile(FilePreview& preview, const std::string& path, std::int64_t length, const std::stop_token& stop)
 {
     if (PictureReader::looksReadable(path)) {
@@ -83,10 +117,16 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
         }
     }
     const Result<UniqueFd> file = openFile(path);
-    if (file.ok())
-        readText(preview, file.value(), length);
-    else
+    if (!file.ok())
         preview.kind = FilePreview::Kind::locked;
+    else if (length > 0 && PictureReader::looksLikeDocument(path))
+        readDocument(preview, path, stop);
+    else if (length > 0 && PictureReader::looksLikeMedia(path))
+        readMedia(preview, path, stop);
+    else if (length > 0 && PictureReader::looksLikeArchive(path))
+        readArchive(preview, path, stop);
+    else
+        readText(preview, file.value(), length);
 }
 
 FilePreview::Name nameOf(int folder, const std::string& name)

@@ -13,6 +13,16 @@ namespace {
 constexpr std::array<std::string_view, 12> kExtensions{"avif", "bmp", "gif", "heic", "heif", "jpeg",
                                                        "jpg",  "jxl", "png", "tif",  "tiff", "webp"};
 
+constexpr std::array<std::string_view, 30> kArchives{
+    "7z",  "a",    "apk", "ar",  "bz2",  "cab", "cbr", "cbz", "cpio", "crate",
+    "deb", "epub", "gem", "iso", "jar",  "lha", "lzh", "rar", "rpm",  "tar",
+    "tbz", "tbz2", "tgz", "txz", "tzst", "war", "whl", "xpi", "xz",   "zip"};
+constexpr std::array<std::string_view, 17> kMedia{"aif",  "aiff", "ape", "flac", "m4a", "m4b",
+                                                  "m4v",  "mp3",  "mp4", "mpc",  "oga", "ogg",
+                                                  "opus", "spx",  "wav", "wma",  "wv"};
+/// Packed, and perhaps an archive: told by what stands before.
+constexpr std::array<std::string_view, 3> kPacked{"gz", "zst", "lz4"};
+
 ImageWorkers::Options& options()
 {
     static ImageWorkers::Options options;
@@ -39,6 +49,44 @@ bool looksReadable(std::string_view path)
 {
     const std::string extension = PathText::asciiLower(PathText::extension(path));
     return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+}
+
+bool looksLikeDocument(std::string_view path)
+{
+    return PathText::asciiLower(PathText::extension(path)) == "pdf";
+}
+
+std::optional<Page> page(const std::string& path, const QSize& bound, const std::stop_token& stop)
+{
+    const auto picture = workers().page(path, {bound.width(), bound.height()}, stop);
+    if (!picture)
+        return std::nullopt;
+    return Page{imageOf(picture->image), {picture->whole.width, picture->whole.height}, picture->pages};
+}
+
+bool looksLikeMedia(std::string_view path)
+{
+    const std::string extension = PathText::asciiLower(PathText::extension(path));
+    return std::ranges::find(kMedia, extension) != kMedia.end();
+}
+
+std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop)
+{
+    return workers().media(path, stop);
+}
+
+bool looksLikeArchive(std::string_view path)
+{
+    const std::string name = PathText::asciiLower(path);
+    const std::string_view extension = PathText::extension(name);
+    const bool isPacked = std::ranges::find(kPacked, extension) != kPacked.end();
+    return isPacked ? name.ends_with(".tar." + std::string(extension))
+                    : std::ranges::find(kArchives, extension) != kArchives.end();
+}
+
+std::optional<ArchiveContents> archive(const std::string& path, const std::stop_token& stop)
+{
+    return workers().archive(path, stop);
 }
 
 std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit, const std::stop_token& stop)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/images/ArchiveContents.h"
+#include "platform/images/MediaFacts.h"
+
 #include <QImage>
 #include <QRect>
 #include <QSize>
@@ -9,9 +12,11 @@
 #include <string>
 #include <string_view>
 
-/// Reads pictures and program icons for display. The format is detected from the content, not the name.
-/// Separate processes decode them (see ImageWorkers), so none can crash the window or use up its memory. Does
-/// not follow links. Any thread; all but `looksReadable` and `setRecognizer` block.
+/// Reads pictures, program icons, pages, lists of archives and facts of sound files for
+/// display. The format is detected from the
+/// content, not the name. Separate processes decode them (see ImageWorkers), so none can crash the window or
+/// use up its memory. Does not follow links. Any thread; all but the questions about names and
+/// `setRecognizer` block.
 namespace orlen::PictureReader {
 
 enum class Fit {
@@ -26,6 +31,28 @@ struct Picture {
 
 /// Whether the name looks like a picture's. The content may differ.
 [[nodiscard]] bool looksReadable(std::string_view path);
+
+/// Whether the name looks like a document's whose pages can be drawn.
+[[nodiscard]] bool looksLikeDocument(std::string_view path);
+struct Page {
+    QImage image;
+    QSize points; ///< its size
+    int count = 0;
+};
+/// The first page of a document, scaled to fit into `bound` pixels. Nothing when it cannot be read, or at
+/// once when stopped.
+[[nodiscard]] std::optional<Page> page(const std::string& path, const QSize& bound,
+                                       const std::stop_token& stop);
+
+/// Whether the name looks like that of a sound file, or of a film that tells as much of itself.
+[[nodiscard]] bool looksLikeMedia(std::string_view path);
+/// What it tells. Nothing when it cannot be read, or at once when stopped.
+[[nodiscard]] std::optional<MediaFacts> media(const std::string& path, const std::stop_token& stop);
+
+/// Whether the name looks like an archive's.
+[[nodiscard]] bool looksLikeArchive(std::string_view path);
+/// What lies in an archive. Nothing when it cannot be read, or at once when stopped.
+[[nodiscard]] std::optional<ArchiveContents> archive(const std::string& path, const std::stop_token& stop);
 
 /// The picture scaled down to `bound` pixels. Nothing when it cannot be read, or at once when stopped.
 [[nodiscard]] std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit,

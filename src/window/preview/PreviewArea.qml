@@ -1,35 +1,31 @@
 import QtQuick
 import Orlen.App
 
-/// A preview's content: a picture, text, a folder's names, or an icon with a sentence.
+/// A preview's content: a picture, text, the names in a folder or an archive, or an icon with a sentence.
 Rectangle {
     id: root
 
     required property PreviewModel preview
 
+    readonly property alias picture: picture
+    readonly property bool isListed: root.preview.kind === PreviewModel.Folder
+                                     || root.preview.kind === PreviewModel.Archive
     readonly property bool isBare: root.preview.kind === PreviewModel.Other
                                    || root.preview.kind === PreviewModel.Locked
                                    || root.preview.kind === PreviewModel.Missing
-                                   || root.preview.kind === PreviewModel.Folder && names.count === 0
+                                   || root.preview.kind === PreviewModel.Damaged
+                                   || root.preview.kind === PreviewModel.Media
+                                   || root.isListed && names.count === 0
 
     color: Theme.inset
     clip: true
 
-    Image {
-        objectName: "previewPicture"
+    PreviewPicture {
+        id: picture
+
         anchors.fill: parent
-        anchors.margins: Theme.spaceL
-        visible: root.preview.kind === PreviewModel.Picture
-        asynchronous: true
-        cache: false
-        autoTransform: false
-        fillMode: Image.PreserveAspectFit
-        horizontalAlignment: Image.AlignHCenter
-        sourceSize.width: Math.max(1, width)
-        sourceSize.height: Math.max(1, height)
-        source: root.preview.picture
-        Accessible.role: Accessible.Graphic
-        Accessible.name: root.preview.name
+        visible: root.preview.kind === PreviewModel.Picture || root.preview.kind === PreviewModel.Page
+        preview: root.preview
     }
 
     ScrollArea {
@@ -76,7 +72,8 @@ Rectangle {
         id: names
 
         anchors.fill: parent
-        visible: root.preview.kind === PreviewModel.Folder
+        objectName: "previewNames"
+        visible: root.isListed
         topMargin: Theme.spaceS
         bottomMargin: Theme.spaceS
         reuseItems: true
@@ -135,7 +132,7 @@ Rectangle {
                 width: parent.width - 48
                 topPadding: Theme.spaceS
                 bottomPadding: Theme.spaceS
-                text: Strings.firstNamesOnly
+                text: root.preview.damaged ? Strings.damagedArchive : Strings.firstNamesOnly
             }
         }
     }
@@ -160,6 +157,9 @@ Rectangle {
             wrapMode: Text.WordWrap
             text: root.preview.kind === PreviewModel.Locked ? Strings.previewLocked
                   : root.preview.kind === PreviewModel.Missing ? Strings.previewMissing
+                  : root.preview.kind === PreviewModel.Damaged ? Strings.previewDamaged
+                  : root.preview.kind === PreviewModel.Media ? root.preview.tags
+                  : root.preview.kind === PreviewModel.Archive ? Strings.emptyArchive
                   : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
             color: Theme.secondary
         }

@@ -16,6 +16,7 @@ void PreviewModel::setPath(const QString& code)
         return;
     m_path = PathCode::path(code);
     m_load.drop();
+    Q_EMIT pathChanged();
     show({}, Loading);
     if (m_path.empty())
         return;
@@ -43,7 +44,19 @@ QString PreviewModel::symbol() const
 
 QString PreviewModel::picture() const
 {
+    if (m_kind == Page)
+        return Thumbnails::sourceOfPage(m_path);
     return m_kind == Picture ? Thumbnails::source(m_path) + QStringLiteral("/inside") : QString();
+}
+
+QString PreviewModel::tags() const
+{
+    QStringList lines;
+    for (const std::string& line : {m_preview.media.title, m_preview.media.artist, m_preview.media.album}) {
+        if (!line.empty())
+            lines << DisplayText::path(line);
+    }
+    return lines.join(u'\n');
 }
 
 QString PreviewModel::facts() const
@@ -54,7 +67,13 @@ QString PreviewModel::facts() const
     if (m_kind == Picture)
         facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
                                                DisplayText::number(m_preview.pixels.height()));
-    if (m_kind == Folder)
+    if (m_preview.media.length.count() > 0)
+        facts << DisplayText::duration(m_preview.media.length);
+    if (m_preview.media.kilobits > 0)
+        facts << DisplayText::counted(m_preview.media.kilobits, WindowTexts::kKilobits);
+    if (m_kind == Page)
+        facts << DisplayText::counted(m_preview.pages, WindowTexts::kPages);
+    if (m_kind == Folder || (m_kind == Archive && !m_preview.isCut))
         facts << DisplayText::counted(m_preview.nameCount, WindowTexts::kItems);
     if (m_preview.bytes)
         facts << DisplayText::size(*m_preview.bytes);

@@ -19,7 +19,13 @@ constexpr QSize kUsualThumbnail{96, 96};
 constexpr QSize kLargest{4096, 4096};
 constexpr int kPartAt = 2; ///< section of its first number
 const QString kPart = QStringLiteral("part");
+const QString kPage = QStringLiteral("page");
 const QString kInside = QStringLiteral("inside");
+
+QString sourceOf(const std::string& path)
+{
+    return QStringLiteral("image://%1/%2").arg(QLatin1String(Thumbnails::kName), PathCode::of(path));
+}
 
 } // namespace
 
@@ -58,16 +64,26 @@ private:
         QImage image = m_thumbnails.cached(key);
         if (image.isNull()) {
             const std::string path = PathCode::path(m_id.section(u'/', 0, 0));
-            const bool isInside = m_id.section(u'/', 1, 1) == kInside;
-            auto picture = PictureReader::read(
-                path, m_size, isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
-                m_thumbnails.m_stop.get_token());
-            if (!picture)
-                return {};
-            image = std::move(picture->image);
-            m_thumbnails.keep(key, image);
+            image = m_id.section(u'/', 1, 1) == kPage ? pageOf(path) : pictureOf(path);
+            if (!image.isNull())
+                m_thumbnails.keep(key, image);
         }
         return image;
+    }
+
+    [[nodiscard]] QImage pageOf(const std::string& path) const
+    {
+        auto page = PictureReader::page(path, m_size, m_thumbnails.m_stop.get_token());
+        return page ? std::move(page->image) : QImage();
+    }
+
+    [[nodiscard]] QImage pictureOf(const std::string& path) const
+    {
+        const bool isInside = m_id.section(u'/', 1, 1) == kInside;
+        auto picture = PictureReader::read(path, m_size,
+                                           isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
+                                           m_thumbnails.m_stop.get_token());
+        return picture ? std::move(picture->image) : QImage();
     }
 
     Thumbnails& m_thumbnails;
@@ -89,9 +105,12 @@ Thumbnails::~Thumbnails()
 
 QString Thumbnails::source(const std::string& path)
 {
-    if (!PictureReader::looksReadable(path))
-        return {};
-    return QStringLiteral("image://%1/%2").arg(QLatin1String(kName), PathCode::of(path));
+    return PictureReader::looksReadable(path) ? sourceOf(path) : QString();
+}
+
+QString Thumbnails::sourceOfPage(const std::string& path)
+{
+    return QStringLiteral("%1/%2").arg(sourceOf(path), kPage);
 }
 
 QString Thumbnails::sourceOfPart(const std::string& path, const QRect& part)

@@ -14,9 +14,10 @@ namespace orlen {
 /// Thumbnails of the user's pictures, decoded off the main thread at the size they are shown:
 /// "image://thumbnail/PATH" crops the middle of the picture to the shape of `sourceSize`,
 /// "image://thumbnail/PATH/inside" fits the whole picture into it, "image://thumbnail/PATH/part/X/Y/W/H" that
-/// part of it, which is not cached. PATH is a `PathCode`. A request whose image item is gone is dropped, and
-/// reading a part for it stops. An unreadable picture has no pixels: the item is then `Ready` with an
-/// `implicitWidth` of 0, and whatever is below it shows through. The latest 64 MB are cached.
+/// part of it, which is not cached, and "image://thumbnail/PATH/page" the first page of a document. PATH is a
+/// `PathCode`. A request whose image item is gone is dropped, and reading a part for it stops. An unreadable
+/// picture has no pixels: the item is then `Ready` with an `implicitWidth` of 0, and whatever is below it
+/// shows through. The latest 64 MB are cached.
 class Thumbnails : public QQuickAsyncImageProvider {
 public:
     static constexpr const char* kName = "thumbnail";
@@ -27,6 +28,9 @@ public:
     /// The source for an image item; empty when the name is not a picture's. Any thread; does not touch the
     /// disk.
     [[nodiscard]] static QString source(const std::string& path);
+
+    /// The source of the first page of a document.
+    [[nodiscard]] static QString sourceOfPage(const std::string& path);
 
     /// The source of a part of the picture, in its upright pixels.
     [[nodiscard]] static QString sourceOfPart(const std::string& path, const QRect& part);

@@ -44,7 +44,10 @@ Sheet {
     PreviewSheet {
         id: look
 
+        tickable: true
+        ticked: (list.currentItem as PlanRow)?.mark === Qt.Checked
         onStepRequested: by => root.step(by)
+        onToggleRequested: plan.toggle(list.currentIndex)
     }
 
     RowMenu {

@@ -172,6 +172,9 @@ QtObject {
     readonly property string firstNamesOnly: Words.message("Only some of the names are shown.")
     readonly property string emptyFolder: Words.message("This folder is empty.")
     readonly property string noPreview: Words.message("There is no preview for this kind of item.")
+    readonly property string emptyArchive: Words.message("This archive is empty.")
+    readonly property string damagedArchive: Words.message("This archive is damaged. What comes next could not be read.")
+    readonly property string previewDamaged: Words.message("This file could not be read. It may be damaged or need a password.")
     readonly property string previewLocked: Words.message("This item may not be read, so there is no preview.")
     readonly property string previewMissing: Words.message("This item is no longer there.")
     readonly property string copyPath: Words.message("Copy Path")
@@ -410,6 +413,7 @@ QtObject {
     readonly property string pageDown: Words.messageIn("key", "PgDn")
     readonly property string menuKey: Words.messageIn("key", "Menu")
     readonly property string wheel: Words.messageIn("key", "Wheel")
+    readonly property string zoomInOrOut: Words.message("Zoom in or out")
     readonly property var shortcutGroups: [
         {
             title: Words.message("Everywhere"),
@@ -434,8 +438,17 @@ QtObject {
                 { text: Words.messageIn("shortcut", "Open"), keys: [[root.enter]] },
                 { text: Words.message("Preview a file"), keys: [[root.space]] },
                 { text: Words.message("Menu of a file"), keys: [[root.shift, "F10"], [root.menuKey]] },
-                { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] },
                 { text: Words.message("Reload the map, apps or startup items"), keys: [["F5"]] }
+            ]
+        },
+        {
+            title: root.preview,
+            shortcuts: [
+                { text: Words.message("Next or previous file"), keys: [["↓"], ["↑"]] },
+                { text: Words.message("Tick the file"), keys: [[root.enter]] },
+                { text: root.zoomInOrOut, keys: [["+"], ["−"]] },
+                { text: Words.message("Fit the picture, or show its pixels"), keys: [["0"], ["1"]] },
+                { text: Words.message("Scroll a preview"), keys: [[root.pageUp], [root.pageDown]] }
             ]
         },
         {
@@ -445,7 +458,7 @@ QtObject {
                 { text: Words.message("Select a photo"), keys: [[root.ctrl, root.space]] },
                 { text: Words.message("Keep one of a set, or all"), keys: [["1 … 4"], ["X"]] },
                 { text: Words.message("Flip between two"), keys: [[root.space]] },
-                { text: Words.message("Zoom in or out"), keys: [["+"], ["−"]] },
+                { text: root.zoomInOrOut, keys: [["+"], ["−"]] },
                 { text: Words.message("Previous or next set"), keys: [["←"], ["→"]] }
             ]
         },

@@ -114,6 +114,8 @@ TEST(ImageMessagesTest, aSmallPictureIsNoLargerThanWhatWasAskedFor)
     };
     const Case cases[] = {
         {"as large as that", {{30'000, 1}, {96, 64}}, true},
+        {"of many pages", {{595, 842}, {45, 64}, 900}, true},
+        {"of fewer pages than none", {{595, 842}, {45, 64}, -1}, false},
         {"wider", {{30'000, 1}, {97, 64}}, false},
         {"higher", {{30'000, 1}, {96, 65}}, false},
         {"without pixels", {{30'000, 1}, {0, 64}}, false},

@@ -32,7 +32,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr const char* kReady = "printf 'orlen-recognizer 6' >&0\n";
+const std::string kReady = "printf '" + std::string(ImageMessages::kReady) + "' >&0\n";
 constexpr const char* kTake = "head -c 1 >/dev/null\n";
 
 bool hasNoWorkers()

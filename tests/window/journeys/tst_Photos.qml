@@ -39,6 +39,17 @@ Journey {
         verify(test.row("photoSet", 1).selected);
         keyClick(Qt.Key_Space);
         tryCompare(test.item("previewPicture"), "implicitWidth", 200);
+        keyClick(Qt.Key_Plus);
+        test.item("previewDetail");
+        keyClick(Qt.Key_0);
+        tryVerify(() => !test.isShown("previewDetail"));
+        test.clickOn("previewZoomIn");
+        test.item("previewDetail");
+        keyClick(Qt.Key_Return);
+        tryCompare(test.item("previewTick"), "checkState", Qt.Unchecked);
+        verify(!test.row("photoSet", 1).selected, "Enter ticks what is looked at");
+        test.clickOn("previewTick");
+        tryVerify(() => test.row("photoSet", 1).selected);
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("previewPicture"));
     }

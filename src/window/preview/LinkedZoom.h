@@ -6,8 +6,8 @@
 
 namespace orlen {
 
-/// What several pictures of one scene show of it, all the same part at the same size whatever their pixels.
-/// Main thread.
+/// What is shown of a picture; of several of one scene, all the same part at the same size whatever their
+/// pixels. Main thread.
 class LinkedZoom : public QObject {
     Q_OBJECT
     QML_ELEMENT

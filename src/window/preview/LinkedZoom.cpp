@@ -1,4 +1,4 @@
-#include "window/photos/LinkedZoom.h"
+#include "window/preview/LinkedZoom.h"
 
 #include <algorithm>
 #include <utility>

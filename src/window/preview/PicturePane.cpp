@@ -1,4 +1,4 @@
-#include "window/photos/ComparePane.h"
+#include "window/preview/PicturePane.h"
 
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
@@ -26,14 +26,14 @@ double start(double pane, double picture, double centre)
 
 } // namespace
 
-ComparePane::ComparePane()
+PicturePane::PicturePane()
 {
     m_still.setSingleShot(true);
     m_still.setInterval(kStill);
-    connect(&m_still, &QTimer::timeout, this, &ComparePane::chooseDetail);
+    connect(&m_still, &QTimer::timeout, this, &PicturePane::chooseDetail);
 }
 
-void ComparePane::setZoom(LinkedZoom* zoom)
+void PicturePane::setZoom(LinkedZoom* zoom)
 {
     if (m_zoom == zoom)
         return;
@@ -41,17 +41,17 @@ void ComparePane::setZoom(LinkedZoom* zoom)
         m_zoom->disconnect(this);
     m_zoom = zoom;
     if (m_zoom != nullptr)
-        connect(m_zoom, &LinkedZoom::changed, this, &ComparePane::follow);
+        connect(m_zoom, &LinkedZoom::changed, this, &PicturePane::follow);
     Q_EMIT zoomChanged();
     follow();
 }
 
-QString ComparePane::photo() const
+QString PicturePane::photo() const
 {
     return PathCode::of(m_photo);
 }
 
-void ComparePane::setPhoto(const QString& code)
+void PicturePane::setPhoto(const QString& code)
 {
     if (photo() == code)
         return;
@@ -61,35 +61,35 @@ void ComparePane::setPhoto(const QString& code)
     follow();
 }
 
-void ComparePane::setPixels(const QSizeF& pixels)
+void PicturePane::setPixels(const QSizeF& pixels)
 {
     if (std::exchange(m_pixels, pixels) != pixels)
         follow();
 }
 
-void ComparePane::setSize(const QSizeF& size)
+void PicturePane::setSize(const QSizeF& size)
 {
     if (std::exchange(m_size, size) != size)
         follow();
 }
 
-void ComparePane::setRatio(double ratio)
+void PicturePane::setRatio(double ratio)
 {
     if (std::exchange(m_ratio, ratio) != ratio)
         follow();
 }
 
-double ComparePane::fittedScale() const
+double PicturePane::fittedScale() const
 {
     return std::min(m_size.width() / m_pixels.width(), m_size.height() / m_pixels.height());
 }
 
-double ComparePane::scale() const
+double PicturePane::scale() const
 {
     return fittedScale() * (m_zoom == nullptr ? 1 : m_zoom->zoom());
 }
 
-QRectF ComparePane::place() const
+QRectF PicturePane::place() const
 {
     if (!isKnown())
         return {};
@@ -100,17 +100,17 @@ QRectF ComparePane::place() const
             whole};
 }
 
-double ComparePane::actualZoom() const
+double PicturePane::actualZoom() const
 {
     return isKnown() ? 1 / (fittedScale() * m_ratio) : 1;
 }
 
-QString ComparePane::percent() const
+QString PicturePane::percent() const
 {
     return isKnown() ? DisplayText::percent(scale() * m_ratio) : QString();
 }
 
-QPointF ComparePane::partAt(const QPointF& point) const
+QPointF PicturePane::partAt(const QPointF& point) const
 {
     const QRectF whole = place();
     if (whole.isEmpty())
@@ -119,13 +119,13 @@ QPointF ComparePane::partAt(const QPointF& point) const
             std::clamp((point.y() - whole.y()) / whole.height(), 0.0, 1.0)};
 }
 
-void ComparePane::follow()
+void PicturePane::follow()
 {
     m_still.start();
     Q_EMIT changed();
 }
 
-void ComparePane::chooseDetail()
+void PicturePane::chooseDetail()
 {
     m_part = {};
     if (isKnown() && m_zoom != nullptr && !m_zoom->isFitted()) {
@@ -145,12 +145,12 @@ void ComparePane::chooseDetail()
     Q_EMIT changed();
 }
 
-QString ComparePane::detail() const
+QString PicturePane::detail() const
 {
     return m_part.isEmpty() ? QString() : Thumbnails::sourceOfPart(m_photo, m_part);
 }
 
-QRectF ComparePane::detailPlace() const
+QRectF PicturePane::detailPlace() const
 {
     if (m_part.isEmpty())
         return {};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/photos/LinkedZoom.h"
+#include "window/preview/LinkedZoom.h"
 
 #include <QObject>
 #include <QRectF>
@@ -13,10 +13,10 @@
 
 namespace orlen {
 
-/// Where one of several linked pictures lies in its pane, and which part of it is needed in detail. Only what
-/// can be seen is read at full size, with some around it, once the view has stood still for a moment. Main
-/// thread.
-class ComparePane : public QObject {
+/// Where a picture, or one of several that are linked, lies in its pane, and which part of it is needed in
+/// detail. Only what can be seen is read at full size, with some around it, once the view has stood still for
+/// a moment. Main thread.
+class PicturePane : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(orlen::LinkedZoom* zoom READ zoom WRITE setZoom NOTIFY zoomChanged REQUIRED)
@@ -42,7 +42,7 @@ class ComparePane : public QObject {
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
 
 public:
-    ComparePane();
+    PicturePane();
 
     [[nodiscard]] LinkedZoom* zoom() const { return m_zoom; }
     void setZoom(LinkedZoom* zoom);
