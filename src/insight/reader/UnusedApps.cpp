@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <span>
 
@@ -59,6 +60,9 @@ std::vector<Message> unusedApps(const Question& question, const AskContext& cont
         lines.push_back({InsightTexts::kAllAppsUsed, {{"date", dayOf(from)}}});
     else
         lines.push_back(unusedLine(known, from));
+    if (known.size() > kListedApps)
+        lines.push_back(
+            {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(known.size() - kListedApps)}}});
     if (others > 0)
         lines.push_back({InsightTexts::kOtherUseIsUnknown, {{"count", others}}});
     return lines;
