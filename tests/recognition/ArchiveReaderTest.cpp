@@ -126,7 +126,7 @@ TEST_F(ArchiveReaderTest, ofADamagedOneWhatCanBeReadIsListed)
     EXPECT_EQ(cut->extent, Extent::damaged);
     EXPECT_GE(cut->items.size(), 2U);
     const std::string zip = packed(asZip, entries);
-    for (const std::size_t length : {0, 4, 30, 60}) {
+    for (const std::size_t length : {0U, 4U, 30U, 60U}) {
         const auto contents = read(zip.substr(0, length));
         EXPECT_TRUE(!contents || contents->extent == Extent::damaged) << length;
     }

@@ -49,9 +49,9 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
     std::ranges::stable_sort(hits, [](const Hit& a, const Hit& b) {
         return a.entry->size != b.entry->size ? a.entry->size > b.entry->size : a.entry->path < b.entry->path;
     });
-    const auto again =
-        std::ranges::unique(hits, [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; });
-    hits.erase(again.begin(), again.end());
+    hits.erase(std::unique(hits.begin(), hits.end(),
+                           [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; }),
+               hits.end());
     return hits;
 }
 

@@ -57,7 +57,7 @@ private:
     static constexpr int kPlaces = side - block + 1; ///< of a block along a side
     static constexpr int kPixels = block * block;
 
-    static constexpr std::size_t kMargin = 3 * kLanes;
+    static constexpr std::size_t kMargin = std::size_t{3} * kLanes;
     static constexpr std::size_t kAllPlaces = static_cast<std::size_t>(kPlaces) * kPlaces;
 
     [[nodiscard]] const PixelPair* pair(TilePlace place) const

@@ -117,7 +117,7 @@ Overlaid laidOver(GreyPicture other, const GreyPicture& page)
 {
     constexpr int kReaches[] = {13, 4}; ///< pixels of a tile
     const FineSearch search(tileOf(page));
-    const std::vector<TilePlace> blocks = search.texturedBlocks();
+    const std::vector<TilePlace>& blocks = search.texturedBlocks();
     Overlaid overlaid(std::move(other));
     for (const int reach : kReaches) {
         const FineSearch there(tileOf(overlaid.seen()));

@@ -28,7 +28,7 @@ private:
     /// Eight pixels of each row from there on.
     [[nodiscard]] const std::uint8_t* rows(int left, int top) const
     {
-        return &m_rows[static_cast<std::size_t>(left)][static_cast<std::size_t>(kReach + top)];
+        return &m_rows[static_cast<std::size_t>(left)][std::size_t{kReach} + static_cast<std::size_t>(top)];
     }
     /// The share of this one's structure that is found in the other one under a common motion.
     [[nodiscard]] float shareIn(const QuickLook& other) const;
