@@ -55,7 +55,7 @@ std::vector<PrintIndex::Near> byLooking(const std::vector<Direction>& all, const
 
 TEST(PrintIndexTest, findsWhatLookingAtAllFinds)
 {
-    std::vector<Direction> all = directions(2'003, 7);
+    std::vector<Direction> all = directions(1'003, 7);
     all[10] = {}; // no direction at all
     Direction single{};
     single[127] = -127; // nothing in the sketch but the length of the rest
