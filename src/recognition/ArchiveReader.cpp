@@ -55,7 +55,8 @@ public:
     la_int64_t seek(la_int64_t offset, int from)
     {
         const std::int64_t start = from == SEEK_SET ? 0 : from == SEEK_CUR ? m_place : m_length;
-        m_place = std::clamp<std::int64_t>(start + offset, 0, m_length);
+        // The offset is the archive's own number, and may be any.
+        m_place = start + std::clamp<std::int64_t>(offset, -start, m_length - start);
         return m_place;
     }
 

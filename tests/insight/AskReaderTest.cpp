@@ -367,19 +367,20 @@ TEST_F(AskReaderTest, proposalsHoldWhatTheyNameAndNothingMore)
                 testing::IsSupersetOf({slack, mozilla, home.path("Videos/Projects/cut.mov")}));
     EXPECT_THAT(AskEngine::answer("how much space is free", context).proposal, testing::IsEmpty());
 
-    // Never what another finding rates Keep, what is only ticked alone, or what is protected.
+    // Never what another finding rates Keep, what is only ticked alone, what is protected, or
+    // what goes along with its folder.
     FileEntry alone = entry(".cache/alone", 7 * kBytesInGB);
     alone.isTickedAlone = true;
     add(FindingKind::npm, Rating::safe, message("Reason."),
         {entry(".cache/slack", 3 * kBytesInGB, "2024-03-04", Rating::keep), alone,
-         entry(".ssh", kBytesInGB)});
+         entry(".cache/mozilla/firefox", kBytesInGB / 2), entry(".ssh", kBytesInGB)});
     for (const char* question : {"free 900 GB", "what can I delete", "my disk is full",
                                  "how much would I free if I delete the caches"}) {
         const std::vector<std::string> proposal = AskEngine::answer(question, context).proposal;
         EXPECT_THAT(proposal, testing::Contains(mozilla)) << question;
-        EXPECT_THAT(proposal,
-                    testing::Not(testing::Contains(testing::AnyOf(
-                        slack, alone.path, home.path(".ssh"), home.path("Documents/contract-2021.docx")))))
+        EXPECT_THAT(proposal, testing::Not(testing::Contains(
+                                  testing::AnyOf(slack, alone.path, mozilla + "/firefox", home.path(".ssh"),
+                                                 home.path("Documents/contract-2021.docx")))))
             << question;
     }
 }

@@ -32,6 +32,23 @@ void dropRatedHigher(const AskContext& context, Rating rating, std::vector<Hit>&
     std::erase_if(hits, [&](const Hit& hit) { return careful.contains(hit.entry->path); });
 }
 
+/// Drops what lies in a folder that is among them: the folder takes it along.
+void dropInside(std::vector<Hit>& hits)
+{
+    std::unordered_set<std::string_view> paths;
+    for (const Hit& hit : hits)
+        paths.insert(hit.entry->path);
+    std::erase_if(hits, [&](const Hit& hit) {
+        std::string_view above = hit.entry->path;
+        for (std::size_t end = above.rfind('/'); end != std::string_view::npos; end = above.rfind('/')) {
+            above = above.substr(0, end);
+            if (paths.contains(above))
+                return true;
+        }
+        return false;
+    });
+}
+
 } // namespace
 
 std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions)
@@ -52,6 +69,7 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
     hits.erase(std::unique(hits.begin(), hits.end(),
                            [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; }),
                hits.end());
+    dropInside(hits);
     return hits;
 }
 
