@@ -10,8 +10,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdlib>
 #include <limits>
+#include <string>
 #include <utility>
 
 #if VIPS_MAJOR_VERSION == 8 && VIPS_MINOR_VERSION < 15
@@ -58,7 +60,30 @@ struct Wanted {
     PixelSize box; ///< in stored orientation
     PictureUse use;
     bool mayGrow;
+    int jpegFactor = 1; ///< the reduction that its decoder does; 1 for other formats
 };
+
+/// How far the decoder of JPEG shrinks a picture, which takes blocks of pixels together: the filter that
+/// comes after it needs twice the size at least.
+int jpegFactor(PixelSize picture, PixelSize box)
+{
+    constexpr int kMost = 8;
+    const int factor =
+        std::max(picture.width / std::max(1, box.width), picture.height / std::max(1, box.height));
+    return static_cast<int>(std::bit_floor(static_cast<unsigned>(std::clamp(factor / 2, 1, kMost))));
+}
+
+/// As `shrunk` for whole JPEG in plain colours, only faster, which matters for large ones; absent for others.
+Image shrunkJpeg(VipsSource* source, const Wanted& wanted)
+{
+    const std::string options = "[fail_on=truncated,shrink=" + std::to_string(wanted.jpegFactor) + ']';
+    const Image loaded(
+        vips_image_new_from_source(source, options.c_str(), "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
+    const bool isPlain = loaded && vips_image_get_bands(loaded.get()) == VipsPicture::kColours &&
+                         vips_image_get_format(loaded.get()) == VIPS_FORMAT_UCHAR &&
+                         vips_image_get_interpretation(loaded.get()) == VIPS_INTERPRETATION_sRGB;
+    return isPlain ? VipsPicture::scaledDownFast(VipsPicture::inMemory(loaded), wanted.box) : nullptr;
+}
 
 /// Small, in sRGB, in stored orientation and fully in memory. The loader gets its options as text because
 /// libvips 8.14 does not pass the strictness on for a source.
@@ -96,6 +121,8 @@ bool lacksItsEnd(const Image& image)
 /// Many damaged files are complete except for a few rows or spots, and deserve a second, lenient try.
 Image bestEffort(VipsSource* source, const Wanted& wanted, bool& isDamaged)
 {
+    if (Image whole = wanted.jpegFactor > 1 ? shrunkJpeg(source, wanted) : nullptr)
+        return whole;
     if (Image whole = shrunk(source, wanted, "[fail_on=truncated]"))
         return whole;
     isDamaged = true;
@@ -173,7 +200,10 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
         return std::nullopt;
     const bool isShrunkSoftly = decoded.traits.format == PictureFormat::webp;
     const PixelSize box = boxOf(decoded, isShrunkSoftly ? enlarged(bound) : bound);
-    Image stored = bestEffort(source.get(), {box, use, isDrawing}, decoded.traits.isDamaged);
+    Wanted wanted{box, use, isDrawing};
+    if (decoded.traits.format == PictureFormat::jpeg && use == PictureUse::photo)
+        wanted.jpegFactor = jpegFactor({decoded.width, decoded.height}, box);
+    Image stored = bestEffort(source.get(), wanted, decoded.traits.isDamaged);
     if (isShrunkSoftly)
         stored = VipsPicture::scaledDown(stored, boxOf(decoded, bound));
     const Image upright = VipsPicture::upright(stored);

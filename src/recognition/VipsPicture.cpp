@@ -1,6 +1,10 @@
 #include "recognition/VipsPicture.h"
 
+#include "recognition/LanczosScale.h"
+
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace orlen {
@@ -46,6 +50,26 @@ VipsPicture::Image VipsPicture::scaledDown(const Image& image, PixelSize box)
         return vips_thumbnail_image(in, out, box.width, "height", box.height, "size", VIPS_SIZE_DOWN,
                                     "no_rotate", TRUE, nullptr);
     }));
+}
+
+VipsPicture::Image VipsPicture::scaledDownFast(const Image& image, PixelSize box)
+{
+    if (!image)
+        return nullptr;
+    const PixelSize size{vips_image_get_width(image.get()), vips_image_get_height(image.get())};
+    const double factor =
+        std::max(static_cast<double>(size.width) / box.width, static_cast<double>(size.height) / box.height);
+    const auto shrunk = [factor](int side) {
+        return std::max(1, static_cast<int>(std::lround(side / factor)));
+    };
+    if (factor <= 1)
+        return inMemory(image);
+    const auto* start = static_cast<const std::uint8_t*>(vips_image_get_data(image.get()));
+    const RgbImage small = LanczosScale::scaledDown({start, size}, {shrunk(size.width), shrunk(size.height)});
+    Image copy = inMemory(imageOf(small));
+    if (copy)
+        vips_image_set_int(copy.get(), VIPS_META_ORIENTATION, vips_image_get_orientation(image.get()));
+    return copy;
 }
 
 VipsPicture::Image VipsPicture::upright(const Image& image)

@@ -40,6 +40,10 @@ Image applied(const Image& image, Operation&& operation)
 /// Fits into the box, in memory; never larger than it was.
 [[nodiscard]] Image scaledDown(const Image& image, PixelSize box);
 
+/// The same for three bands in memory, with the filter of libvips in less than half of its time; stays as it
+/// is when it fits. Keeps the note how it is turned, and no other.
+[[nodiscard]] Image scaledDownFast(const Image& image, PixelSize box);
+
 /// Turned as its notes say, in memory.
 [[nodiscard]] Image upright(const Image& image);
 

@@ -138,21 +138,24 @@ TEST_F(ImageDecoderTest, everyOrientationComesOutUpright)
         {kWhite, kGreen, kBlue, kRed},
         {kBlue, kRed, kWhite, kGreen},
     };
-    for (int orientation = 1; orientation <= 8; ++orientation) {
-        SCOPED_TRACE(orientation);
-        const bool isSideways = orientation > 4;
-        const auto picture = decoded(encoded({.width = 800,
-                                              .height = 600,
-                                              .quarters = stored[orientation - 1],
-                                              .orientation = orientation,
-                                              .format = ".jpg[Q=95]"}));
-        ASSERT_TRUE(picture);
-        EXPECT_EQ(picture->width, 800) << "as it is stored";
-        EXPECT_EQ(picture->height, 600);
-        EXPECT_EQ(picture->upright(), (isSideways ? PixelSize{600, 800} : PixelSize{800, 600}));
-        EXPECT_EQ(picture->small.width, isSideways ? 384 : 512);
-        EXPECT_EQ(picture->small.height, isSideways ? 512 : 384);
-        EXPECT_LE(difference(quartersOf(picture->small), kFour), kLossy);
+    // The decoder of JPEG shrinks the large one first.
+    for (const PixelSize size : {PixelSize{800, 600}, PixelSize{2400, 1800}}) {
+        for (int orientation = 1; orientation <= 8; ++orientation) {
+            SCOPED_TRACE(testing::Message() << size.width << ", " << orientation);
+            const bool isSideways = orientation > 4;
+            const auto picture = decoded(encoded({.width = size.width,
+                                                  .height = size.height,
+                                                  .quarters = stored[orientation - 1],
+                                                  .orientation = orientation,
+                                                  .format = ".jpg[Q=95]"}));
+            ASSERT_TRUE(picture);
+            EXPECT_EQ((PixelSize{picture->width, picture->height}), size) << "as it is stored";
+            EXPECT_EQ(picture->upright(), (isSideways ? PixelSize{size.height, size.width} : size));
+            EXPECT_EQ((PixelSize{picture->small.width, picture->small.height}),
+                      (isSideways ? PixelSize{384, 512} : PixelSize{512, 384}));
+            EXPECT_LE(difference(quartersOf(picture->small), kFour), kLossy);
+            EXPECT_FALSE(picture->traits.isDamaged);
+        }
     }
 }
 
