@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace orlen {
 
@@ -10,40 +11,81 @@ namespace {
 
 using Row = std::array<double, 3>;
 
+/// Some finds, in lanes, as far as the fit needs them.
+struct Finds {
+    FloatLanes x{};      ///< of the block's middle, from the tile's
+    FloatLanes y{};      ///< as x
+    FloatLanes moveX{};  ///< pixels
+    FloatLanes moveY{};  ///< pixels
+    FloatLanes weight{}; ///< 0 in a lane without a find
+};
+
+double sumOf(FloatLanes lanes)
+{
+    return (double{lanes[0]} + double{lanes[1]}) + (double{lanes[2]} + double{lanes[3]});
+}
+
 /// Least squares for the three numbers of either axis.
 struct Normals {
-    std::array<Row, 3> matrix{};
-    Row rightX{};
-    Row rightY{};
+    // Of the weights, and of their products with what is named.
+    FloatLanes ones{};
+    FloatLanes x{};
+    FloatLanes y{};
+    FloatLanes xx{};
+    FloatLanes xy{};
+    FloatLanes yy{};
+    std::array<FloatLanes, 3> rightX{};
+    std::array<FloatLanes, 3> rightY{};
 
-    void add(const Row& at, const BlockFind& find, double weight)
+    void add(const Finds& finds, FloatLanes weight)
     {
-        for (std::size_t i = 0; i < 3; ++i) {
-            for (std::size_t j = 0; j < 3; ++j)
-                matrix[i][j] += weight * at[i] * at[j];
-            rightX[i] += weight * at[i] * find.moveX;
-            rightY[i] += weight * at[i] * find.moveY;
-        }
+        const FloatLanes byX = weight * finds.x;
+        const FloatLanes byY = weight * finds.y;
+        ones += weight;
+        x += byX;
+        y += byY;
+        xx += byX * finds.x;
+        xy += byX * finds.y;
+        yy += byY * finds.y;
+        rightX[0] += weight * finds.moveX;
+        rightX[1] += byX * finds.moveX;
+        rightX[2] += byY * finds.moveX;
+        rightY[0] += weight * finds.moveY;
+        rightY[1] += byX * finds.moveY;
+        rightY[2] += byY * finds.moveY;
     }
 
-    /// By elimination; the diagonal is never 0 because of what `fitted` adds to it.
-    [[nodiscard]] std::array<float, 3> solved(Row r) const
+    /// By elimination; the diagonal is never 0 because of what is added to it.
+    [[nodiscard]] std::array<std::array<float, 3>, 2> solved() const
     {
-        std::array<Row, 3> m = matrix;
+        constexpr double kNothing = 1e-9;
+        constexpr double kStiffness = 0.02; ///< ridge on rotation and stretch, relative to the total weight
+        const double total = sumOf(ones) + kNothing;
+        const double ridge = kStiffness * total;
+        std::array<Row, 3> m{Row{total, sumOf(x), sumOf(y)}, Row{sumOf(x), sumOf(xx) + ridge, sumOf(xy)},
+                             Row{sumOf(y), sumOf(xy), sumOf(yy) + ridge}};
+        std::array<std::array<float, 3>, 2> axes{};
+        std::array<Row, 2> rights{Row{sumOf(rightX[0]), sumOf(rightX[1]), sumOf(rightX[2])},
+                                  Row{sumOf(rightY[0]), sumOf(rightY[1]), sumOf(rightY[2])}};
         for (std::size_t i = 0; i < 3; ++i) {
             for (std::size_t below = i + 1; below < 3; ++below) {
                 const double share = m[below][i] / m[i][i];
                 for (std::size_t j = i; j < 3; ++j)
                     m[below][j] -= share * m[i][j];
-                r[below] -= share * r[i];
+                for (Row& r : rights)
+                    r[below] -= share * r[i];
             }
         }
-        for (std::size_t i = 3; i-- > 0;) {
-            for (std::size_t j = i + 1; j < 3; ++j)
-                r[i] -= m[i][j] * r[j];
-            r[i] /= m[i][i];
+        for (std::size_t axis = 0; axis < rights.size(); ++axis) {
+            Row& r = rights[axis];
+            for (std::size_t i = 3; i-- > 0;) {
+                for (std::size_t j = i + 1; j < 3; ++j)
+                    r[i] -= m[i][j] * r[j];
+                r[i] /= m[i][i];
+                axes[axis][i] = static_cast<float>(r[i]);
+            }
         }
-        return {static_cast<float>(r[0]), static_cast<float>(r[1]), static_cast<float>(r[2])};
+        return axes;
     }
 };
 
@@ -81,29 +123,47 @@ float between(const FeaturePrint::Tile& tile, float x, float y)
     return (1 - down) * above + down * below;
 }
 
+std::vector<Finds> inLanes(std::span<const BlockFind> finds)
+{
+    std::vector<Finds> all((finds.size() + kLanes - 1) / kLanes);
+    for (std::size_t i = 0; i < finds.size(); ++i) {
+        const BlockFind& find = finds[i];
+        Finds& some = all[i / kLanes];
+        const std::size_t lane = i % kLanes;
+        some.x[lane] = fromMiddle(middleOf(find.block.x));
+        some.y[lane] = fromMiddle(middleOf(find.block.y));
+        some.moveX[lane] = find.moveX;
+        some.moveY[lane] = find.moveY;
+        some.weight[lane] = find.texture * find.correlation * find.correlation;
+    }
+    return all;
+}
+
 } // namespace
 
 CommonMotion CommonMotion::fitted(std::span<const BlockFind> finds)
 {
     constexpr int kRounds = 6;
-    constexpr float kTolerance = 1.5F;  ///< pixels off at which a match counts half
-    constexpr double kStiffness = 0.02; ///< ridge on rotation and stretch, relative to the total weight
+    constexpr float kTolerance = 1.5F; ///< pixels off at which a match counts half
+    const std::vector<Finds> all = inLanes(finds);
     CommonMotion motion;
     for (int round = 0; round < kRounds; ++round) {
         Normals normals;
-        double total = 1e-9;
-        for (const BlockFind& find : finds) {
-            double weight = find.texture * find.correlation * find.correlation;
-            if (round > 0)
-                weight /= 1 + motion.squaredMiss(find) / (kTolerance * kTolerance);
-            const Row at{1, fromMiddle(middleOf(find.block.x)), fromMiddle(middleOf(find.block.y))};
-            normals.add(at, find, weight);
-            total += weight;
+        for (const Finds& some : all) {
+            if (round == 0) {
+                normals.add(some, some.weight);
+                continue;
+            }
+            const FloatLanes missX =
+                some.moveX - (motion.m_x[0] + motion.m_x[1] * some.x + motion.m_x[2] * some.y);
+            const FloatLanes missY =
+                some.moveY - (motion.m_y[0] + motion.m_y[1] * some.x + motion.m_y[2] * some.y);
+            normals.add(some, some.weight /
+                                  (1.0F + (missX * missX + missY * missY) * (1 / (kTolerance * kTolerance))));
         }
-        for (std::size_t i = 0; i < 3; ++i)
-            normals.matrix[i][i] += i == 0 ? 1e-9 : kStiffness * total;
-        motion.m_x = normals.solved(normals.rightX);
-        motion.m_y = normals.solved(normals.rightY);
+        const auto axes = normals.solved();
+        motion.m_x = axes[0];
+        motion.m_y = axes[1];
     }
     return motion;
 }

@@ -14,23 +14,25 @@ namespace {
 constexpr float kPlainCoarseLimit = 0.40F; ///< when there is nothing fine to compare
 constexpr float kLeastAgreement = 0.69F;
 
-std::int32_t product(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
-{
-    std::int32_t sum = 0;
-    for (std::size_t i = 0; i < FeaturePrint::kLength; ++i)
-        sum += std::int32_t{one[i]} * other[i];
-    return sum;
-}
-
-/// Between unit vectors of these directions; as far as can be for what is no direction.
-float between(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
+/// Between unit vectors of directions with these products; as far as can be for what is no direction.
+float between(std::int32_t oneOther, std::int32_t oneOne, std::int32_t otherOther)
 {
     constexpr float kOpposite = 2;
-    const std::int64_t squares = std::int64_t{product(one, one)} * product(other, other);
+    const std::int64_t squares = std::int64_t{oneOne} * otherOther;
     if (squares == 0)
         return kOpposite;
-    const double cosine = product(one, other) / std::sqrt(static_cast<double>(squares));
+    const double cosine = oneOther / std::sqrt(static_cast<double>(squares));
     return static_cast<float>(std::sqrt(std::max(2 - 2 * cosine, 0.0)));
+}
+
+float between(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
+{
+    return between(product(one, other), product(one, one), product(other, other));
+}
+
+std::optional<float> ifNear(float coarse)
+{
+    return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
 }
 
 } // namespace
@@ -54,8 +56,20 @@ float distance(const FeaturePrint& one, const FeaturePrint& other)
 
 std::optional<float> coarseDistance(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
 {
-    const float coarse = between(one, other);
-    return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
+    return ifNear(between(one, other));
+}
+
+std::optional<float> coarseDistance(std::int32_t oneOther, std::int32_t oneOne, std::int32_t otherOther)
+{
+    return ifNear(between(oneOther, oneOne, otherOther));
+}
+
+std::int32_t product(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)
+{
+    std::int32_t sum = 0;
+    for (std::size_t i = 0; i < FeaturePrint::kLength; ++i)
+        sum += std::int32_t{one[i]} * other[i];
+    return sum;
 }
 
 } // namespace orlen

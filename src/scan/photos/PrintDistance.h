@@ -2,6 +2,7 @@
 
 #include "platform/images/FeaturePrint.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace orlen {
@@ -20,6 +21,11 @@ inline constexpr float kCoarseLimit = 0.80F;
 /// far their layouts are apart.
 [[nodiscard]] std::optional<float> coarseDistance(const FeaturePrint::Direction& one,
                                                   const FeaturePrint::Direction& other);
+/// The same from the sums of the products of their numbers: of both, and of each with itself.
+[[nodiscard]] std::optional<float> coarseDistance(std::int32_t oneOther, std::int32_t oneOne,
+                                                  std::int32_t otherOther);
+
+[[nodiscard]] std::int32_t product(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other);
 
 /// What `distance` comes to for pictures whose layouts are `coarse` apart, which is below the limit, from
 /// their unpacked tiles.

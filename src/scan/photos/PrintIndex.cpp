@@ -3,9 +3,9 @@
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
-#include <iterator>
 #include <optional>
 
 namespace orlen {
@@ -19,6 +19,8 @@ constexpr float kSteps = 177;
 /// What a product of sketches may be too low by because they are rounded: half a step in each of 52 numbers
 /// of both, which are not longer than 1.
 constexpr float kRounding = 0.0415F;
+/// The same for their starts, of 33 numbers.
+constexpr float kStartRounding = 0.0330F;
 constexpr float kLeastCosine = 1 - kCoarseLimit * kCoarseLimit / 2;
 /// More than what is lost when a cosine is computed in another order.
 constexpr float kNothing = 1e-5F;
@@ -29,17 +31,9 @@ std::int16_t inSteps(float number)
 }
 
 /// What sketches of directions with that cosine have in common, at least.
-std::int16_t leastProduct(float cosine)
+std::int16_t leastProduct(float cosine, float rounding)
 {
-    return static_cast<std::int16_t>((cosine - kRounding) * kSteps * kSteps);
-}
-
-float inCommon(const PrintIndex::Direction& one, const PrintIndex::Direction& other)
-{
-    std::int32_t sum = 0;
-    for (std::size_t i = 0; i < one.size(); ++i)
-        sum += std::int32_t{one[i]} * other[i];
-    return static_cast<float>(sum);
+    return static_cast<std::int16_t>((cosine - rounding) * kSteps * kSteps);
 }
 
 float lengthOf(std::span<const std::int8_t> numbers)
@@ -66,8 +60,16 @@ void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 struct PrintIndex::Query {
     // Left to itself, the compiler takes four at a time.
     using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
+    /// Of a bundle; two, as one addition has to wait for the one before.
+    struct Sums {
+        Lanes left{};
+        Lanes right{};
+    };
+    /// Bits set for each of a bundle that may be near.
+    using Marks = std::array<std::int16_t, kTogether>;
 
-    Query(const Direction& of, std::size_t mostFound) : direction(&of), length(lengthOf(of)), most(mostFound)
+    Query(const Direction& of, std::size_t mostFound)
+        : direction(&of), squares(product(of, of)), most(mostFound)
     {
         const Sketch sketch = sketchOf(of);
         for (std::size_t i = 0; i < kNumbers; ++i)
@@ -78,29 +80,51 @@ struct PrintIndex::Query {
     void setLeast(float cosine)
     {
         leastCosine = cosine;
-        least = Lanes{} + leastProduct(cosine);
+        leastOfStart = Lanes{} + leastProduct(cosine, kStartRounding);
+        least = Lanes{} + leastProduct(cosine, kRounding);
     }
 
-    /// All bits set for each of the bundle that may be near.
-    [[nodiscard]] std::array<std::int16_t, kLanes> nearOnes(const Bundle& bundle) const
+    void addProducts(Sums& sums, const Bundle& bundle, std::size_t first, std::size_t end) const
     {
-        Lanes sums{};
-        for (std::size_t i = 0; i < kNumbers; ++i) {
-            Lanes lanes{};
-            std::memcpy(&lanes, bundle[i].data(), sizeof lanes);
-            sums += lanes * numbers[i];
+        for (std::size_t i = first; i < end; ++i) {
+            Lanes left{};
+            Lanes right{};
+            std::memcpy(&left, bundle[i].data(), sizeof left);
+            std::memcpy(&right, bundle[i].data() + kLanes, sizeof right);
+            sums.left += left * numbers[i];
+            sums.right += right * numbers[i];
         }
-        const Lanes isNear = sums >= least;
-        std::array<std::int16_t, kLanes> result{};
-        std::memcpy(result.data(), &isNear, sizeof isNear);
-        return result;
+    }
+
+    /// Whether any of the bundle may be near, and which.
+    [[nodiscard]] bool hasNear(const Bundle& bundle, Marks& marks) const
+    {
+        Sums start;
+        addProducts(start, bundle, 0, kStart);
+        Sums sums = start;
+        addProducts(sums, bundle, kStart, kStart + 1);
+        if (!isAnySet((sums.left >= leastOfStart) | (sums.right >= leastOfStart)))
+            return false;
+        addProducts(start, bundle, kStart + 1, kNumbers);
+        const Lanes left = start.left >= least;
+        const Lanes right = start.right >= least;
+        std::memcpy(marks.data(), &left, sizeof left);
+        std::memcpy(marks.data() + kLanes, &right, sizeof right);
+        return isAnySet(left | right);
+    }
+
+    [[nodiscard]] static bool isAnySet(Lanes lanes)
+    {
+        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(lanes);
+        return (halves[0] | halves[1]) != 0;
     }
 
     const Direction* direction;
-    float length;
+    std::int32_t squares; ///< of its length
     std::size_t most;
     std::array<Lanes, kNumbers> numbers; ///< of the sketch, each as often as there are lanes
-    Lanes least;                         ///< for the sketches of near ones
+    Lanes leastOfStart;                  ///< for the sketches of near ones
+    Lanes least;
     float leastCosine = 0;
     std::vector<Near> found;
 };
@@ -110,33 +134,38 @@ PrintIndex::Sketch PrintIndex::sketchOf(const Direction& direction)
     const float length = std::max(lengthOf(direction), 1.0F);
     const std::span<const std::int8_t> numbers(direction);
     Sketch sketch{};
-    for (std::size_t i = 0; i < kHead; ++i)
-        sketch[i] = inSteps(static_cast<float>(numbers[i]) / length);
+    auto next = sketch.begin();
+    for (std::size_t i = 0; i < kHead; ++i) {
+        if (i == kStart)
+            *next++ = inSteps(lengthOf(numbers.subspan(kStart)) / length);
+        *next++ = inSteps(static_cast<float>(numbers[i]) / length);
+    }
     constexpr std::size_t kRest = (FeaturePrint::kLength - kHead) / kRests;
     for (std::size_t i = 0; i < kRests; ++i)
-        sketch[kHead + i] = inSteps(lengthOf(numbers.subspan(kHead + i * kRest, kRest)) / length);
+        *next++ = inSteps(lengthOf(numbers.subspan(kHead + i * kRest, kRest)) / length);
     return sketch;
 }
 
 void PrintIndex::add(const Direction& direction)
 {
-    const std::size_t lane = m_directions.size() % kLanes;
+    const std::size_t lane = m_directions.size() % kTogether;
     if (lane == 0)
         m_bundles.emplace_back();
     const Sketch sketch = sketchOf(direction);
     for (std::size_t i = 0; i < kNumbers; ++i)
         m_bundles.back()[i][lane] = sketch[i];
     m_directions.push_back(direction);
-    m_lengths.push_back(lengthOf(direction));
+    m_squares.push_back(product(direction, direction));
 }
 
 void PrintIndex::look(Query& query, std::size_t number) const
 {
-    const Direction& direction = m_directions[number];
-    const float least = (query.leastCosine - kNothing) * query.length * m_lengths[number];
-    if (inCommon(direction, *query.direction) < least)
+    const std::int32_t common = product(m_directions[number], *query.direction);
+    const float lengths =
+        std::sqrt(static_cast<float>(query.squares) * static_cast<float>(m_squares[number]));
+    if (static_cast<float>(common) < (query.leastCosine - kNothing) * lengths)
         return;
-    const std::optional<float> coarse = coarseDistance(direction, *query.direction);
+    const std::optional<float> coarse = coarseDistance(common, query.squares, m_squares[number]);
     if (!coarse)
         return;
     query.found.push_back({*coarse, number});
@@ -157,16 +186,16 @@ std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Dire
     for (const Direction& direction : directions)
         queries.emplace_back(direction, most);
     // Bundle by bundle, so that each is fetched from memory once.
-    for (std::size_t first = 0; first < m_directions.size(); first += kLanes) {
-        const Bundle& bundle = m_bundles[first / kLanes];
-        const std::size_t lanes = std::min(kLanes, m_directions.size() - first);
+    for (std::size_t first = 0; first < m_directions.size(); first += kTogether) {
+        const Bundle& bundle = m_bundles[first / kTogether];
+        const std::size_t count = std::min(kTogether, m_directions.size() - first);
         for (Query& query : queries) {
-            const auto isNear = query.nearOnes(bundle);
-            if (isNear == std::array<std::int16_t, kLanes>{})
+            Query::Marks isNear{};
+            if (!query.hasNear(bundle, isNear))
                 continue;
-            for (std::size_t lane = 0; lane < lanes; ++lane) {
-                if (isNear[lane] != 0)
-                    look(query, first + lane);
+            for (std::size_t i = 0; i < count; ++i) {
+                if (isNear[i] != 0)
+                    look(query, first + i);
             }
         }
     }

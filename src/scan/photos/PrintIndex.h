@@ -12,8 +12,8 @@ namespace orlen {
 
 /// Finds the near ones among very many directions, exactly as `coarseDistance` does. It still looks at all of
 /// them, but at a sketch first: the numbers in which pictures differ most, and the lengths of the rest. The
-/// product of two sketches is at least that of the directions, so most of them are out after a few cycles.
-/// About 250 bytes each. Any thread, while none adds.
+/// product of two sketches is at least that of the directions, and so is that of their beginnings, so most of
+/// them are out after a few cycles. About 250 bytes each. Any thread, while none adds.
 class PrintIndex {
 public:
     using Direction = FeaturePrint::Direction;
@@ -32,13 +32,16 @@ public:
                                                       std::size_t most) const;
 
 private:
+    static constexpr std::size_t kStart = 32; ///< numbers that are looked at first
     static constexpr std::size_t kHead = 48;
     static constexpr std::size_t kRests = 4;
-    static constexpr std::size_t kNumbers = kHead + kRests;
+    static constexpr std::size_t kNumbers = kHead + 1 + kRests;
     static constexpr std::size_t kLanes = 8;
+    static constexpr std::size_t kTogether = 2 * kLanes;
+    /// The start, the length of what follows it, the rest of the head, and the lengths of the rests.
     using Sketch = std::array<std::int16_t, kNumbers>;
-    /// Eight sketches, number by number, so that eight are multiplied at a time.
-    using Bundle = std::array<std::array<std::int16_t, kLanes>, kNumbers>;
+    /// Sketches, number by number, so that many are multiplied at a time.
+    using Bundle = std::array<std::array<std::int16_t, kTogether>, kNumbers>;
     struct Query;
 
     [[nodiscard]] static Sketch sketchOf(const Direction& direction);
@@ -46,7 +49,7 @@ private:
 
     std::vector<Bundle> m_bundles;
     std::vector<Direction> m_directions;
-    std::vector<float> m_lengths; ///< of the directions
+    std::vector<std::int32_t> m_squares; ///< of the directions' lengths
 };
 
 } // namespace orlen

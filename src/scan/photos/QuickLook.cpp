@@ -5,112 +5,133 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
-#include <cstring>
 #include <limits>
 #include <span>
+#include <tuple>
 
 // A tile is centred around a middle grey, so whether a pixel is darker says most of what the correlation of
 // two blocks finds out: the fewer of their bits differ, the more they are alike. As in FineCheck, one motion
 // is fitted to where the blocks are found, and it matters how much of the structure follows it.
 //
-// A row of a block is a byte. The places below each other are beside each other in memory, and their bits are
-// counted together, one place in each lane.
+// The rows of a block are the bytes of one number, and so are those below each other at any place. How many
+// bits differ and how far the block would have moved make up one number, too, of which the least is sought.
 
 namespace orlen {
 
 namespace {
 
-constexpr std::size_t kBlock = PictureOutline::kBlock;
+struct Move {
+    std::int8_t right = 0; ///< pixels
+    std::int8_t down = 0;  ///< pixels
+};
 
-using ByteLanes [[gnu::vector_size(16)]] = std::uint8_t;
-/// The same bytes, which are shifted faster.
-using WordLanes [[gnu::vector_size(16)]] = std::uint16_t;
-using Counts = std::array<std::uint8_t, sizeof(ByteLanes)>;
+/// All moves of up to that many pixels each way, and which of two that match equally well is taken: the
+/// shorter one.
+template <int reach>
+struct Moves {
+    static constexpr int kSide = 2 * reach + 1;
 
-/// How many bits of a block differ at each of some places below each other.
-ByteLanes differences(const std::uint8_t* block, const std::uint8_t* places)
-{
-    constexpr std::uint16_t kTwos = 0x5555;
-    constexpr std::uint16_t kFours = 0x3333;
-    constexpr std::uint16_t kEights = 0x0f0f;
-    constexpr std::size_t kTogether = 2; // rows, of which no more bits differ than four bits can tell
-    WordLanes all{};
-    for (std::size_t first = 0; first < kBlock; first += kTogether) {
-        WordLanes some{};
-        for (std::size_t y = first; y < first + kTogether; ++y) {
-            ByteLanes there{};
-            std::memcpy(&there, places + y, sizeof there);
-            auto bits = std::bit_cast<WordLanes>(there ^ block[y]);
-            bits -= (bits >> 1) & kTwos;
-            some += (bits & kFours) + ((bits >> 2) & kFours);
-        }
-        all += (some & kEights) + ((some >> 4) & kEights);
+    constexpr Moves()
+    {
+        for (int i = 0; i < kSide * kSide; ++i)
+            inOrder[static_cast<std::size_t>(i)] = {static_cast<std::int8_t>(i / kSide - reach),
+                                                    static_cast<std::int8_t>(i % kSide - reach)};
+        const auto length = [](int way) { return way < 0 ? -way : way; };
+        std::ranges::sort(inOrder, {}, [&](Move move) {
+            return std::tuple(length(move.right) + length(move.down), move.right, move.down);
+        });
+        for (std::size_t i = 0; i < inOrder.size(); ++i)
+            rank[static_cast<std::size_t>(inOrder[i].right + reach)]
+                [static_cast<std::size_t>(inOrder[i].down + reach)] = static_cast<std::uint8_t>(i);
     }
-    return std::bit_cast<ByteLanes>(all);
+
+    std::array<Move, std::size_t{kSide} * kSide> inOrder{};
+    std::array<std::array<std::uint8_t, kSide>, kSide> rank{}; ///< by the way right, then down
+};
+
+/// Whether the processor counts bits in one instruction.
+bool hasBitCount()
+{
+#ifdef __x86_64__
+    static const bool has = __builtin_cpu_supports("popcnt") != 0;
+    return has;
+#else
+    return true;
+#endif
 }
 
 } // namespace
 
 QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline)
 {
-    for (std::size_t left = 0; left < m_rows.size(); ++left) {
-        for (std::size_t y = 0; y < outline.rows().size(); ++y)
-            m_rows[left][kReach + y] = static_cast<std::uint8_t>(outline.rows()[y] >> left);
+    // Sixteen pixels at a time, of which eight are taken from eight places on.
+    constexpr std::size_t kByte = 8;
+    for (std::size_t first = 0; first < m_rows.size(); first += kByte) {
+        std::array<std::uint16_t, PictureOutline::kSide> wide{};
+        for (std::size_t y = 0; y < wide.size(); ++y)
+            wide[y] = static_cast<std::uint16_t>(outline.rows()[y] >> first);
+        for (std::size_t left = first; left < std::min(first + kByte, m_rows.size()); ++left) {
+            for (std::size_t y = 0; y < wide.size(); ++y)
+                m_rows[left][y] = static_cast<std::uint8_t>(wide[y] >> (left - first));
+        }
     }
 }
 
 /// Where fewest bits differ; of some such places, the one nearest to the block's own.
-BlockFind QuickLook::find(PictureOutline::Block block, const QuickLook& other) const
+[[gnu::always_inline]] inline BlockFind QuickLook::find(PictureOutline::Block block,
+                                                        const QuickLook& other) const
 {
-    constexpr std::uint8_t kOutside = std::numeric_limits<std::uint8_t>::max();
-    constexpr float kByChance = kBlock * kBlock / 2.0F; // bits that differ
+    static constexpr Moves<kReach> kMoves;
+    constexpr unsigned kRankBits = 7;
+    constexpr float kByChance = PictureOutline::kBlock * PictureOutline::kBlock / 2.0F; // bits that differ
     constexpr float kScale = static_cast<float>(FeaturePrint::kTileSide) / PictureOutline::kSide;
-    const int left = std::max(block.left - kReach, 0);
-    const int right = std::min(block.left + kReach, kPlaces - 1);
-    Counts outside{};
-    for (int y = 0; y < kLanes; ++y) {
-        const int top = block.top + y - kReach;
-        outside[static_cast<std::size_t>(y)] = y > 2 * kReach || top < 0 || top >= kPlaces ? kOutside : 0;
-    }
-    std::array<ByteLanes, 2 * kReach + 1> different{};
-    ByteLanes least = ByteLanes{} + kOutside;
-    for (int x = left; x <= right; ++x) {
-        ByteLanes& column = different[static_cast<std::size_t>(x - left)];
-        column = differences(rows(block.left, block.top), other.rows(x, block.top - kReach)) |
-                 std::bit_cast<ByteLanes>(outside);
-        least = column < least ? column : least;
-    }
-    const std::uint8_t fewest = std::ranges::min(std::bit_cast<Counts>(least));
-    int moveX = kLanes;
-    int moveY = kLanes;
-    for (int x = left; x <= right; ++x) {
-        const ByteLanes& column = different[static_cast<std::size_t>(x - left)];
-        if (std::bit_cast<std::array<std::uint64_t, 2>>(column == fewest) == std::array<std::uint64_t, 2>{})
-            continue;
-        for (int y = -kReach; y <= kReach; ++y) {
-            const int across = x - block.left;
-            if (column[y + kReach] == fewest &&
-                std::abs(across) + std::abs(y) < std::abs(moveX) + std::abs(moveY)) {
-                moveX = across;
-                moveY = y;
-            }
+    const std::uint64_t own = pixels(block.left, block.top);
+    const int top = std::max(block.top - kReach, 0);
+    const int bottom = std::min(block.top + kReach, kPlaces - 1);
+    unsigned least = std::numeric_limits<unsigned>::max();
+    for (int x = std::max(block.left - kReach, 0); x <= std::min(block.left + kReach, kPlaces - 1); ++x) {
+        const std::uint8_t* rank = &kMoves.rank[static_cast<std::size_t>(x - block.left + kReach)]
+                                               [static_cast<std::size_t>(top - block.top + kReach)];
+        for (int y = top; y <= bottom; ++y, ++rank) {
+            const auto different = static_cast<unsigned>(std::popcount(own ^ other.pixels(x, y)));
+            least = std::min(least, different << kRankBits | *rank);
         }
     }
+    const Move move = kMoves.inOrder[least % (1U << kRankBits)];
+    const auto fewest = static_cast<float>(least >> kRankBits);
     return {.block = {static_cast<int>(kScale) * block.left, static_cast<int>(kScale) * block.top},
-            .moveX = kScale * static_cast<float>(moveX),
-            .moveY = kScale * static_cast<float>(moveY),
+            .moveX = kScale * static_cast<float>(move.right),
+            .moveY = kScale * static_cast<float>(move.down),
             .texture = static_cast<float>(block.texture),
-            .correlation = std::max(0.0F, 1 - static_cast<float>(fewest) / kByChance)};
+            .correlation = std::max(0.0F, 1 - fewest / kByChance)};
+}
+
+QuickLook::Finds QuickLook::findsIn(const QuickLook& other) const
+{
+    Finds finds;
+    std::size_t count = 0;
+    for (const PictureOutline::Block block : m_outline.blocks())
+        finds[count++] = find(block, other);
+    return finds;
+}
+
+#ifdef __x86_64__
+[[gnu::target("popcnt")]]
+#endif
+QuickLook::Finds
+QuickLook::countedFindsIn(const QuickLook& other) const
+{
+    Finds finds;
+    std::size_t count = 0;
+    for (const PictureOutline::Block block : m_outline.blocks())
+        finds[count++] = find(block, other);
+    return finds;
 }
 
 float QuickLook::shareIn(const QuickLook& other) const
 {
-    std::array<BlockFind, PictureOutline::kMostBlocks> finds;
-    const auto end =
-        std::ranges::transform(m_outline.blocks(), finds.begin(), [&](PictureOutline::Block block) {
-            return find(block, other);
-        }).out;
-    const std::span<const BlockFind> found(finds.begin(), end);
+    const Finds finds = hasBitCount() ? countedFindsIn(other) : findsIn(other);
+    const auto found = std::span(finds).first(m_outline.blocks().size());
     return CommonMotion::fitted(found).followingShare(found);
 }
 
