@@ -1,8 +1,10 @@
+#include "platform/images/ImageMessages.h"
 #include "platform/process/ProcessLimits.h"
 #include "recognition/ArchiveReader.h"
 #include "recognition/Cage.h"
 #include "recognition/ImageDecoder.h"
 #include "recognition/ImageServer.h"
+#include "recognition/MediaLibrary.h"
 
 #include <charconv>
 #include <chrono>
@@ -39,7 +41,7 @@ std::size_t allowedMemory(std::size_t wanted)
 #endif
 }
 
-bool prepare(std::size_t memory)
+bool prepare(std::size_t memory, bool isForMedia)
 {
     // Otherwise libraries with threads would each get an arena that never shrinks.
     ::mallopt(M_ARENA_MAX, 2);
@@ -49,6 +51,8 @@ bool prepare(std::size_t memory)
     cv::setNumThreads(1);
     orlen::ImageDecoder::prepare();
     orlen::ArchiveReader::prepare();
+    if (isForMedia)
+        (void)orlen::MediaLibrary::load(); // Without it, nothing is told.
     return true;
 }
 
@@ -56,7 +60,7 @@ int tryOut()
 {
     // Before libraries store their own variables there.
     const bool isBare = environ == nullptr || *environ == nullptr;
-    if (!prepare(kTrialMemory))
+    if (!prepare(kTrialMemory, true))
         return 1;
     orlen::CageReport report = orlen::Cage::tried(orlen::Cage::lock());
     report.attempts.push_back({orlen::CageReport::Wall::environment, "find a variable", isBare});
@@ -72,14 +76,16 @@ int main(int argc, char** argv)
     if (argc == 2 && argv[1] == std::string_view(orlen::CageReport::kArgument))
         return tryOut();
     constexpr int kArguments = 4;
-    const auto memory = argc == kArguments ? number(argv[1]) : std::nullopt;
-    const auto picture = argc == kArguments ? number(argv[2]) : std::nullopt;
-    const auto idle = argc == kArguments ? number(argv[3]) : std::nullopt;
+    const bool isForMedia = argc == kArguments + 1 && argv[kArguments] == orlen::ImageMessages::kMediaRole;
+    const bool isCalled = argc == kArguments || isForMedia;
+    const auto memory = isCalled ? number(argv[1]) : std::nullopt;
+    const auto picture = isCalled ? number(argv[2]) : std::nullopt;
+    const auto idle = isCalled ? number(argv[3]) : std::nullopt;
     if (!memory || !picture || !idle) {
         std::fputs("orlen-recognizer is started by orlen.\n", stderr);
         return 2;
     }
-    if (!prepare(*memory))
+    if (!prepare(*memory, isForMedia))
         return 1;
     (void)orlen::Cage::lock();
     orlen::ProcessLimits::endWithOther(kStandardInput);

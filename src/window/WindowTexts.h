@@ -29,6 +29,12 @@ inline constexpr Text kFolders = messages("{count} folder", "{count} folders");
 inline constexpr Text kPages = messages("{count} page", "{count} pages");
 // TRANSLATORS: thousand bits a second, of a sound file.
 inline constexpr Text kKilobits = messages("{count} kbit/s", "{count} kbit/s");
+// TRANSLATORS: frames a second, of a film.
+inline constexpr Text kFrames = messages("{count} fps", "{count} fps");
+// TRANSLATORS: of a sound: through one loudspeaker, or through two.
+inline constexpr Text kMono = message("mono");
+inline constexpr Text kStereo = message("stereo");
+inline constexpr Text kChannels = messages("{count} channel", "{count} channels");
 inline constexpr Text kPhotos = messages("{count} photo", "{count} photos");
 inline constexpr Text kSelectedPhotos = messages("{count} photo selected", "{count} photos selected");
 // TRANSLATORS: Of the photos of a group, whose number stands before this.

@@ -2,6 +2,7 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "support/TestMedia.h"
 #include "window/lists/PathCode.h"
 #include "window/preview/PreviewModel.h"
 
@@ -46,6 +47,9 @@ TEST(FilePreviewTest, tellsWhatCanBeShown)
         {"text by the name of a document", home.file("a.pdf", "words"), damaged},
         {"empty archive", home.file("a.zip", "PK\5\6" + std::string(18, '\0')), archive},
         {"text by the name of an archive", home.file("b.tar.gz", "words"), damaged},
+        {"film", home.file("a.avi", TestMedia::avi()), media},
+        {"program by the name of a film", home.file("main.ts", "export {};\n"), text},
+        {"zeros by the name of a film", home.file("zeros.mkv", std::string(99, '\0')), damaged},
         {"text that is packed, by its name", home.file("b.gz", "words"), text},
         {"empty by the name of an archive", home.file("c.zip", ""), other},
         {"folder", home.folder("folder"), folder},
@@ -99,6 +103,14 @@ TEST(PreviewModelTest, showsTheLatestOnly)
     model.setPath(folder);
     ASSERT_TRUE(waitUntil([&] { return model.kind() == PreviewModel::Folder; }));
     EXPECT_GE(model.rowCount(), 1);
+    model.setPath(PathCode::of(home.file("evening.mkv", TestMedia::matroska())));
+    ASSERT_TRUE(waitUntil([&] { return model.kind() == PreviewModel::Media; }));
+    EXPECT_EQ(model.tags(), "Evening");
+    EXPECT_TRUE(model.facts().contains(QStringLiteral("1,920 × 1,080\u00a0· 90 min 0 s")))
+        << model.facts().toStdString();
+    EXPECT_EQ(model.streams(), QStringLiteral("Matroska\u00a0· H.264\u00a0· 25 fps\n"
+                                              "AAC\u00a0· 48\u00a0kHz\u00a0· stereo\u00a0· German\n"
+                                              "AC-3\u00a0· 48\u00a0kHz\u00a0· 6 channels\u00a0· French"));
     model.setPath({});
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_EQ(model.text(), "");

@@ -23,6 +23,13 @@ constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::int32_t kMostPages = 10'000'000;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
+/// Of any number that a film tells.
+constexpr std::int32_t kMostOfMedia = 1'000'000'000;
+
+constexpr int MediaFacts::*kMediaNumbers[] = {&MediaFacts::kilobits, &MediaFacts::width, &MediaFacts::height,
+                                              &MediaFacts::frames};
+constexpr std::string MediaFacts::*kMediaTexts[] = {
+    &MediaFacts::title, &MediaFacts::artist, &MediaFacts::album, &MediaFacts::container, &MediaFacts::codec};
 
 static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Direction) +
                   sizeof(std::uint16_t) + TileCode::kMostBytes +
@@ -255,11 +262,20 @@ std::string encoded(const MediaAnswer& answer)
 {
     MessageWriter writer;
     writer.put(answer.facts ? kPicture : kNoPicture);
-    if (answer.facts) {
-        writer.put(std::int64_t{answer.facts->length.count()});
-        writer.put(std::int32_t{answer.facts->kilobits});
-        for (const std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
-            writer.put(*text);
+    if (!answer.facts)
+        return writer.bytes();
+    const MediaFacts& facts = *answer.facts;
+    writer.put(std::int64_t{facts.length.count()});
+    for (const auto number : kMediaNumbers)
+        writer.put(std::int32_t{facts.*number});
+    for (const auto text : kMediaTexts)
+        writer.put(facts.*text);
+    writer.put(static_cast<std::uint8_t>(facts.sounds.size()));
+    for (const MediaFacts::Sound& sound : facts.sounds) {
+        writer.put(sound.codec);
+        writer.put(sound.language);
+        writer.put(std::int32_t{sound.hertz});
+        writer.put(std::int32_t{sound.channels});
     }
     return writer.bytes();
 }
@@ -267,15 +283,23 @@ std::string encoded(const MediaAnswer& answer)
 std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes)
 {
     constexpr std::int64_t kLongestPlay = 1'000'000'000'000;
-    constexpr std::int32_t kMostKilobits = 10'000'000;
     MessageReader reader(bytes);
     MediaAnswer answer;
     if (reader.get<std::uint8_t>(kNoPicture, kPicture) == kPicture) {
-        answer.facts.emplace();
-        answer.facts->length = std::chrono::milliseconds(reader.get<std::int64_t>(0, kLongestPlay));
-        answer.facts->kilobits = reader.get<std::int32_t>(0, kMostKilobits);
-        for (std::string* text : {&answer.facts->title, &answer.facts->artist, &answer.facts->album})
-            *text = reader.textOrNone();
+        MediaFacts& facts = answer.facts.emplace();
+        facts.length = std::chrono::milliseconds(reader.get<std::int64_t>(0, kLongestPlay));
+        for (const auto number : kMediaNumbers)
+            facts.*number = reader.get<std::int32_t>(0, kMostOfMedia);
+        for (const auto text : kMediaTexts)
+            facts.*text = reader.textOrNone();
+        const auto sounds = reader.get<std::uint8_t>(0, kMostSounds);
+        for (std::uint8_t i = 0; i < sounds && reader.isValid(); ++i) {
+            MediaFacts::Sound& sound = facts.sounds.emplace_back();
+            sound.codec = reader.textOrNone();
+            sound.language = reader.textOrNone();
+            sound.hertz = reader.get<std::int32_t>(0, kMostOfMedia);
+            sound.channels = reader.get<std::int32_t>(0, kMostOfMedia);
+        }
     }
     return reader.isValidWhole() ? std::optional(std::move(answer)) : std::nullopt;
 }

@@ -17,12 +17,16 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 9";
+inline constexpr std::string_view kReady = "orlen-recognizer 10";
+
+/// The last argument of a recognizer that is to read films and sounds.
+inline constexpr std::string_view kMediaRole = "media";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
 inline constexpr std::size_t kMostLabels = 32;
 inline constexpr std::size_t kLongestIdentifier = 64; ///< bytes
+inline constexpr std::size_t kMostSounds = 16;        ///< tracks of a film
 /// Of a requested picture, in pixels.
 inline constexpr int kLongestSide = 4096;
 
@@ -72,12 +76,12 @@ struct ArchiveAnswer {
 [[nodiscard]] std::string encoded(const ArchiveAnswer& answer);
 [[nodiscard]] std::optional<ArchiveAnswer> decodedArchiveAnswer(std::string_view bytes);
 
-/// What a sound file tells.
+/// What a sound file or a film tells.
 struct MediaAnswer {
     std::optional<MediaFacts> facts; ///< absent: not a readable one
 };
 
-/// Texts are at most 255 bytes.
+/// Texts are at most 200 bytes.
 [[nodiscard]] std::string encoded(const MediaAnswer& answer);
 [[nodiscard]] std::optional<MediaAnswer> decodedMediaAnswer(std::string_view bytes);
 

@@ -52,7 +52,7 @@ std::size_t lengthOf(PixelSize size, bool hasAlpha)
 
 } // namespace
 
-std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits,
+std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits, Role role,
                                                   const std::stop_token& stop)
 {
     auto sockets = DescriptorSocket::makePair();
@@ -63,6 +63,8 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
     ChildProcess::Call call{{program, std::to_string(limits.memory), std::to_string(seconds.count()),
                              std::to_string(limits.idle.count())},
                             {}};
+    if (role == Role::media)
+        call.arguments.emplace_back(ImageMessages::kMediaRole);
     // Environment variables are none of a picture reader's business.
     call.variables = ChildProcess::Variables::given;
     const std::optional<pid_t> process =

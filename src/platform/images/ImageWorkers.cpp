@@ -25,8 +25,8 @@ constexpr int kMostFailedStarts = 3;
 
 class ImageWorkers::Pool {
 public:
-    explicit Pool(Options options)
-        : m_options(std::move(options)),
+    Pool(Options options, ImageWorker::Role role)
+        : m_options(std::move(options)), m_role(role),
           m_turns(std::clamp(std::thread::hardware_concurrency(), 1U, kMostWorkers))
     {
     }
@@ -102,8 +102,8 @@ private:
     {
         if (isUnusable())
             return nullptr;
-        Worker worker = ImageWorker::started(m_options.program,
-                                             {m_options.memory, m_options.limit, m_options.idle}, stop);
+        Worker worker = ImageWorker::started(
+            m_options.program, {m_options.memory, m_options.limit, m_options.idle}, m_role, stop);
         const std::lock_guard lock(m_lock);
         if (worker)
             m_failedStarts = 0;
@@ -119,6 +119,7 @@ private:
     }
 
     const Options m_options;
+    const ImageWorker::Role m_role;
     std::mutex m_lock;
     std::condition_variable_any m_turnEnded;
     unsigned m_turns; ///< calls that may begin
@@ -140,7 +141,11 @@ std::string ImageWorkers::recognizer()
     return {};
 }
 
-ImageWorkers::ImageWorkers(Options options) : m_pool(std::make_unique<Pool>(std::move(options))) {}
+ImageWorkers::ImageWorkers(const Options& options)
+    : m_pool(std::make_unique<Pool>(options, ImageWorker::Role::pictures)),
+      m_media(std::make_unique<Pool>(options, ImageWorker::Role::media))
+{
+}
 
 ImageWorkers::~ImageWorkers() = default;
 
@@ -164,7 +169,7 @@ std::optional<ArchiveContents> ImageWorkers::archive(const std::string& path, co
 
 std::optional<MediaFacts> ImageWorkers::media(const std::string& path, const std::stop_token& stop)
 {
-    return m_pool->told(
+    return m_media->told(
         path, [&](ImageWorker& worker, int file) { return worker.media(file, stop); }, stop);
 }
 

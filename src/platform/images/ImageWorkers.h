@@ -30,7 +30,7 @@ public:
     /// The recognizer built or installed with this program; empty if it is missing.
     [[nodiscard]] static std::string recognizer();
 
-    explicit ImageWorkers(Options options);
+    explicit ImageWorkers(const Options& options);
     ~ImageWorkers();
     ImageWorkers(const ImageWorkers&) = delete;
     ImageWorkers& operator=(const ImageWorkers&) = delete;
@@ -62,6 +62,7 @@ private:
                                                    PictureUse use, const std::stop_token& stop);
 
     std::unique_ptr<Pool> m_pool;
+    std::unique_ptr<Pool> m_media; ///< for sound files and films
 };
 
 } // namespace orlen

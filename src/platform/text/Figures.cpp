@@ -115,13 +115,14 @@ std::string englishDate(TimePoint time)
 } // namespace
 
 struct Figures::Formats {
-    explicit Formats(const icu::Locale& locale)
-        : isEnglish(std::string_view(locale.getLanguage()) == "en"),
+    explicit Formats(const icu::Locale& used)
+        : locale(used), isEnglish(std::string_view(locale.getLanguage()) == "en"),
           number(NumberFormatter::withLocale(locale)), bytes(byteFormats(locale)),
           percent(NumberFormatter::withLocale(locale)
                       .unit(icu::MeasureUnit::getPercent())
                       .precision(Precision::integer())),
           milliseconds(withUnit(locale, icu::MeasureUnit::getMillisecond(), UNUM_UNIT_WIDTH_SHORT)),
+          kilohertz(withUnit(locale, icu::MeasureUnit::getKilohertz(), UNUM_UNIT_WIDTH_SHORT)),
           seconds(withUnit(locale, icu::MeasureUnit::getSecond(), UNUM_UNIT_WIDTH_SHORT)),
           minutes(withUnit(locale, icu::MeasureUnit::getMinute(), UNUM_UNIT_WIDTH_SHORT)),
           date(locale, dateFormat), longDate(locale, longDateFormat), dateAndTime(locale, dateAndTimeFormat),
@@ -142,11 +143,13 @@ struct Figures::Formats {
         return utf8(text);
     }
 
+    icu::Locale locale;
     bool isEnglish;
     LocalizedNumberFormatter number;
     std::array<LocalizedNumberFormatter, 5> bytes;
     LocalizedNumberFormatter percent;
     LocalizedNumberFormatter milliseconds;
+    LocalizedNumberFormatter kilohertz;
     LocalizedNumberFormatter seconds;
     LocalizedNumberFormatter minutes;
     DateFormat date;
@@ -185,6 +188,30 @@ std::string Figures::bytes(std::int64_t bytes) const
     const ByteAmount amount = ByteAmount::of(bytes);
     return m_formats->amount(m_formats->bytes[static_cast<std::size_t>(amount.unit)],
                              static_cast<double>(amount.whole) + amount.tenths / 10.0);
+}
+
+std::string Figures::frequency(std::int64_t hertz) const
+{
+    constexpr double kThousand = 1'000;
+    const double tenths = std::round(static_cast<double>(hertz) / (kThousand / 10));
+    if (m_formats)
+        return m_formats->amount(m_formats->kilohertz, tenths / 10);
+    std::string text = std::to_string(std::llround(tenths) / 10);
+    if (const auto tenth = std::llround(tenths) % 10; tenth != 0)
+        text += '.' + std::to_string(tenth);
+    return text + " kHz";
+}
+
+std::string Figures::language(const std::string& tag) const
+{
+    if (!m_formats)
+        return tag;
+    UErrorCode status = U_ZERO_ERROR;
+    icu::UnicodeString name;
+    const icu::Locale named = icu::Locale::forLanguageTag(tag, status);
+    if (U_FAILURE(status) || *named.getLanguage() == '\0')
+        return tag;
+    return utf8(named.getDisplayName(m_formats->locale, name));
 }
 
 std::string Figures::percent(double share) const

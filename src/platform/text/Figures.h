@@ -26,6 +26,10 @@ public:
     [[nodiscard]] std::string number(std::int64_t value) const;
     /// A size in the units of `ByteAmount`.
     [[nodiscard]] std::string bytes(std::int64_t bytes) const;
+    /// How often a second: "44.1 kHz".
+    [[nodiscard]] std::string frequency(std::int64_t hertz) const;
+    /// The name of the language that a BCP 47 tag names; plain, or of one that is not known, the tag.
+    [[nodiscard]] std::string language(const std::string& tag) const;
     /// A share of 1 in whole per cent.
     [[nodiscard]] std::string percent(double share) const;
     /// A duration: "34 ms", "0.4 s", "12 s", "3 min 20 s".

@@ -81,6 +81,11 @@ QString number(std::int64_t value)
     return text(Words::figures().number(value));
 }
 
+QString pixels(int width, int height)
+{
+    return QStringLiteral("%1 × %2").arg(number(width), number(height));
+}
+
 Value percentOf(double share)
 {
     if (share < kLeastShare)

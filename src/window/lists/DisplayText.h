@@ -42,6 +42,8 @@ namespace orlen::DisplayText {
 
 [[nodiscard]] QString size(std::int64_t bytes);
 [[nodiscard]] QString number(std::int64_t value);
+/// A size in pixels: "4,032 × 3,024".
+[[nodiscard]] QString pixels(int width, int height);
 /// A share of 1: "24 %", "< 1 %".
 [[nodiscard]] QString percent(double share);
 /// The same in a message.

@@ -243,8 +243,7 @@ QStringList CompareModel::factsOf(const Photo& photo) const
     QString sharpness;
     QString camera;
     if (told.traits) {
-        pixels = QStringLiteral("%1 × %2").arg(DisplayText::number(told.traits->whole.width()),
-                                               DisplayText::number(told.traits->whole.height()));
+        pixels = DisplayText::pixels(told.traits->whole.width(), told.traits->whole.height());
         sharpness = DisplayText::text(Message(
             WindowTexts::kSharpness, {{"score", std::int64_t{std::llround(told.traits->sharpness)}}}));
         camera = DisplayText::text(told.traits->isFromCamera ? WindowTexts::kCameraData

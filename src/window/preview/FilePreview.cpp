@@ -125,7 +125,9 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
         readMedia(preview, path, stop);
     else if (length > 0 && PictureReader::looksLikeArchive(path))
         readArchive(preview, path, stop);
-    else
+    // "ts" is the name of films and of programs.
+    const bool isNoMedia = preview.kind == FilePreview::Kind::damaged && PictureReader::looksLikeMedia(path);
+    if (isNoMedia || preview.kind == FilePreview::Kind::other)
         readText(preview, file.value(), length);
 }
 

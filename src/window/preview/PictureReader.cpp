@@ -17,9 +17,11 @@ constexpr std::array<std::string_view, 30> kArchives{
     "7z",  "a",    "apk", "ar",  "bz2",  "cab", "cbr", "cbz", "cpio", "crate",
     "deb", "epub", "gem", "iso", "jar",  "lha", "lzh", "rar", "rpm",  "tar",
     "tbz", "tbz2", "tgz", "txz", "tzst", "war", "whl", "xpi", "xz",   "zip"};
-constexpr std::array<std::string_view, 17> kMedia{"aif",  "aiff", "ape", "flac", "m4a", "m4b",
-                                                  "m4v",  "mp3",  "mp4", "mpc",  "oga", "ogg",
-                                                  "opus", "spx",  "wav", "wma",  "wv"};
+constexpr std::array<std::string_view, 43> kMedia{
+    "aac", "ac3",  "aif", "aiff", "amr", "ape",  "caf", "dts", "flac", "m4a", "m4b",
+    "mka", "mp3",  "mpc", "oga",  "ogg", "opus", "spx", "tta", "wav",  "wma", "wv",
+    "3gp", "asf",  "avi", "divx", "flv", "m2ts", "m2v", "m4v", "mkv",  "mov", "mp4",
+    "mpe", "mpeg", "mpg", "mts",  "ogm", "ogv",  "ts",  "vob", "webm", "wmv"};
 /// Packed, and perhaps an archive: told by what stands before.
 constexpr std::array<std::string_view, 3> kPacked{"gz", "zst", "lz4"};
 

@@ -3,6 +3,7 @@
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/FileSymbol.h"
+#include "window/preview/MediaTexts.h"
 #include "window/preview/Thumbnails.h"
 #include "window/shell/Reveal.h"
 
@@ -51,12 +52,12 @@ QString PreviewModel::picture() const
 
 QString PreviewModel::tags() const
 {
-    QStringList lines;
-    for (const std::string& line : {m_preview.media.title, m_preview.media.artist, m_preview.media.album}) {
-        if (!line.empty())
-            lines << DisplayText::path(line);
-    }
-    return lines.join(u'\n');
+    return MediaTexts::tags(m_preview.media);
+}
+
+QString PreviewModel::streams() const
+{
+    return MediaTexts::streams(m_preview.media);
 }
 
 QString PreviewModel::facts() const
@@ -65,8 +66,9 @@ QString PreviewModel::facts() const
     if (!m_preview.type.isEmpty())
         facts << m_preview.type;
     if (m_kind == Picture)
-        facts << QStringLiteral("%1 × %2").arg(DisplayText::number(m_preview.pixels.width()),
-                                               DisplayText::number(m_preview.pixels.height()));
+        facts << DisplayText::pixels(m_preview.pixels.width(), m_preview.pixels.height());
+    if (m_preview.media.width > 0 && m_preview.media.height > 0)
+        facts << DisplayText::pixels(m_preview.media.width, m_preview.media.height);
     if (m_preview.media.length.count() > 0)
         facts << DisplayText::duration(m_preview.media.length);
     if (m_preview.media.kilobits > 0)

@@ -31,6 +31,9 @@ class PreviewModel : public orlen::RowsModel {
     Q_PROPERTY(QString text READ text NOTIFY changed)
     /// Title, artist and album of a sound file, one below the other.
     Q_PROPERTY(QString tags READ tags NOTIFY changed)
+    /// What a film and its sound tracks are made of, one below the other:
+    /// "Matroska · H.264 · 25 fps", "AAC · 48 kHz · stereo · German"
+    Q_PROPERTY(QString streams READ streams NOTIFY changed)
     /// "PNG image · 4,032 × 3,024 · 2.1 MB"
     Q_PROPERTY(QString facts READ facts NOTIFY changed)
     /// "Modified … · Opened …"
@@ -76,6 +79,7 @@ public:
     [[nodiscard]] QSizeF pixels() const { return QSizeF(m_preview.pixels); }
     [[nodiscard]] QString text() const { return m_preview.text; }
     [[nodiscard]] QString tags() const;
+    [[nodiscard]] QString streams() const;
     [[nodiscard]] QString facts() const;
     [[nodiscard]] QString dates() const;
     [[nodiscard]] bool isCut() const { return m_preview.isCut; }

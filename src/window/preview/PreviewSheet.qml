@@ -139,6 +139,14 @@ Sheet {
                 }
 
                 CaptionText {
+                    objectName: "previewStreams"
+                    width: parent.width
+                    visible: text !== ""
+                    text: model.streams
+                    wrapMode: Text.WordWrap
+                }
+
+                CaptionText {
                     width: parent.width
                     text: model.dates
                     wrapMode: Text.WordWrap
