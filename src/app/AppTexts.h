@@ -53,6 +53,10 @@ inline constexpr Text kYouKeep =
     // TRANSLATORS: {name} is a file's.
     message("Similar to {name} — the one you keep");
 
+// On the file that stays of a set, where it is listed for another reason.
+inline constexpr Text kKeptOfIdentical = message("Orlen keeps this one of identical files");
+inline constexpr Text kKeptOfSimilar = message("Orlen keeps this one of similar photos");
+
 inline constexpr Text kRestored = messages("Restored {count} item.", "Restored {count} items.");
 inline constexpr Text kPartlyRestored = messages(
     // TRANSLATORS: {count} is how many items couldn't be restored, {restored} how many were.

@@ -71,9 +71,9 @@ void CleanUps::confirm(const CleanPlan& plan)
     };
     m_stop = m_workers.start(
         [entries = std::move(entries), title = plan.title.base(), progress = report(show), pending, stillOn,
-         exclusions = m_exclusions.current()](const std::stop_token& stop) {
+         exclusions = m_exclusions.current(), sets = plan.sets](const std::stop_token& stop) {
             *stillOn = UnitShutdown::run(entries);
-            *pending = Cleaner::run(entries, title, progress, stop, exclusions);
+            *pending = Cleaner::run(entries, title, progress, stop, exclusions, sets);
             return PendingCleanUp(pending);
         },
         [this, number, stillOn](const PendingCleanUp& cleaned) {

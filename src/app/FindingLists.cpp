@@ -89,13 +89,13 @@ bool isIn(const std::set<std::string>& paths, std::string_view path)
     return false;
 }
 
-std::vector<Finding> duplicatesOf(std::vector<FileEntry> copies)
+std::vector<Finding> findingOf(FindingKind kind, std::vector<FileEntry> entries)
 {
-    if (copies.empty())
+    if (entries.empty())
         return {};
     // The entries would be noted on a second time.
-    std::vector<Finding> finding = Rater::rate({Finding(FindingKind::duplicates, {})});
-    finding.front().items = Finding(FindingKind::duplicates, std::move(copies)).items;
+    std::vector<Finding> finding = Rater::rate({Finding(kind, {})});
+    finding.front().items = Finding(kind, std::move(entries)).items;
     return finding;
 }
 

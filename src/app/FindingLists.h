@@ -26,8 +26,8 @@ namespace orlen::FindingLists {
                                              std::span<const std::string> paths);
 /// Whether the path, or a folder that it is in, is one of these.
 [[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
-/// The finding of these copies, which are rated already; none without copies.
-[[nodiscard]] std::vector<Finding> duplicatesOf(std::vector<FileEntry> copies);
+/// The finding of these entries, which are rated already; none without entries.
+[[nodiscard]] std::vector<Finding> findingOf(FindingKind kind, std::vector<FileEntry> entries);
 /// Puts the entries back among the findings that they were taken from.
 void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken);
 

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace orlen {
@@ -83,20 +85,42 @@ CleanPlan FoundEntries::plan() const
         if (!section.entries.empty())
             plan.sections.push_back(std::move(section));
     }
+    std::vector<std::string> moving;
+    for (const PlanSection& section : plan.sections)
+        std::ranges::transform(section.entries, std::back_inserter(moving), &FileEntry::path);
+    plan.sets = CopySets::about(sets(), moving);
     return plan;
 }
 
 const std::set<std::string>& FoundEntries::safePaths() const
 {
-    if (!m_safe)
+    if (!m_safe) {
         m_safe = FindingLists::safePaths(m_findings);
+        ties().keepApart(*m_safe, listed());
+    }
     return *m_safe;
+}
+
+std::vector<CopySet> FoundEntries::sets() const
+{
+    std::vector<const Finding*> findings;
+    for (const std::vector<Finding>* some : {&m_findings, &m_excluded, &m_references})
+        std::ranges::transform(*some, std::back_inserter(findings), [](const Finding& one) { return &one; });
+    return CopySets::of(findings);
+}
+
+const KeptTies& FoundEntries::ties() const
+{
+    if (!m_ties)
+        m_ties = KeptTies(sets(), listed());
+    return *m_ties;
 }
 
 void FoundEntries::forgetListed()
 {
     m_listed.reset();
     m_safe.reset();
+    m_ties.reset();
 }
 
 void FoundEntries::replace(std::vector<Finding> findings, const Exclusions& exclusions)
@@ -117,6 +141,7 @@ void FoundEntries::divide(const Exclusions& exclusions, std::set<std::string> se
     m_excluded = exclusions.takeFrom(m_findings);
     std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     forgetListed();
+    noteKept();
 
     m_excludedSelection.clear();
     for (const Finding& finding : m_excluded) {
@@ -130,6 +155,32 @@ void FoundEntries::divide(const Exclusions& exclusions, std::set<std::string> se
     setSelection(std::move(selection));
 }
 
+/// A kept file that is listed for another reason says that it is one.
+void FoundEntries::noteKept()
+{
+    const auto isNote = [](const Message& note) {
+        return note.text == AppTexts::kKeptOfIdentical || note.text == AppTexts::kKeptOfSimilar;
+    };
+    std::unordered_map<std::string, Text> kept;
+    for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references}) {
+        for (const Finding& finding : *findings) {
+            const bool isPhotos = finding.kind == FindingKind::photoDuplicates;
+            for (const FileEntry& entry : finding.items) {
+                if (entry.kept)
+                    kept.try_emplace(entry.kept->path,
+                                     isPhotos ? AppTexts::kKeptOfSimilar : AppTexts::kKeptOfIdentical);
+            }
+        }
+    }
+    for (Finding& finding : m_findings) {
+        for (FileEntry& entry : finding.items) {
+            std::erase_if(entry.notes, isNote);
+            if (const auto found = kept.find(entry.path); found != kept.end())
+                addNote(entry, found->second);
+        }
+    }
+}
+
 std::set<std::string> FoundEntries::everythingSelected() const
 {
     std::set<std::string> selection = m_selection;
@@ -140,13 +191,16 @@ std::set<std::string> FoundEntries::everythingSelected() const
 void FoundEntries::setSelection(std::set<std::string> selection)
 {
     PathSelection::addInside(selection, listed());
+    ties().keepApart(selection, listed());
     m_selection = std::move(selection);
 }
 
-void FoundEntries::select(std::span<const std::string> paths)
+bool FoundEntries::select(std::span<const std::string> paths)
 {
     for (const std::string& path : paths)
         PathSelection::tick(m_selection, listed(), path);
+    const std::string_view last = paths.size() == 1 ? std::string_view(paths.front()) : std::string_view();
+    return ties().keepApart(m_selection, listed(), last);
 }
 
 void FoundEntries::deselect(std::span<const std::string> paths)
@@ -160,7 +214,6 @@ void FoundEntries::remove(const std::set<std::string>& places)
     std::set<std::string> gone = places;
     gone.merge(m_moved.take(m_findings, m_selection, places));
     gone.merge(m_moved.take(m_excluded, m_excludedSelection, places));
-    forgetListed();
     const auto isGone = [&](const std::string& path) { return gone.contains(path); };
     std::erase_if(m_excludedSelection, isGone);
     std::set<std::string> selection = m_selection;
@@ -169,6 +222,8 @@ void FoundEntries::remove(const std::set<std::string>& places)
         std::erase_if(finding.items,
                       [&](const FileEntry& entry) { return MovedEntries::isAbout(entry, places); });
     std::erase_if(m_references, [](const Finding& finding) { return finding.items.empty(); });
+    forgetListed();
+    noteKept();
     setSelection(std::move(selection));
 }
 
@@ -187,22 +242,23 @@ void FoundEntries::replaceTrash(std::vector<Finding> trash, const Exclusions& ex
     divide(exclusions);
 }
 
-std::vector<FileEntry> FoundEntries::copies() const
+std::vector<FileEntry> FoundEntries::entries(FindingKind kind) const
 {
-    std::vector<FileEntry> copies;
+    std::vector<FileEntry> entries;
     for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references}) {
-        const auto found = std::ranges::find(*findings, FindingKind::duplicates, &Finding::kind);
+        const auto found = std::ranges::find(*findings, kind, &Finding::kind);
         if (found != findings->end())
-            std::ranges::copy(found->items, std::back_inserter(copies));
+            std::ranges::copy(found->items, std::back_inserter(entries));
     }
-    return copies;
+    return entries;
 }
 
 void FoundEntries::take(KeptCopies::Chosen chosen, const Exclusions& exclusions)
 {
-    erase(m_findings, FindingKind::duplicates);
-    erase(m_excluded, FindingKind::duplicates);
-    std::ranges::move(FindingLists::duplicatesOf(std::move(chosen.copies)), std::back_inserter(m_findings));
+    for (std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references})
+        erase(*findings, chosen.kind);
+    std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.copies)),
+                      std::back_inserter(m_findings));
     std::set<std::string> selection = everythingSelected();
     for (const KeptCopies::Chosen::Change& change : chosen.changes) {
         if (selection.erase(change.kept) > 0 && !change.isTickedAlone)
@@ -210,7 +266,8 @@ void FoundEntries::take(KeptCopies::Chosen chosen, const Exclusions& exclusions)
     }
     for (const FileEntry& reference : chosen.references)
         selection.erase(reference.path);
-    m_references = FindingLists::duplicatesOf(std::move(chosen.references));
+    std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.references)),
+                      std::back_inserter(m_references));
     divide(exclusions, std::move(selection));
 }
 
@@ -221,6 +278,7 @@ void FoundEntries::take(const NewKeeper::Exchange& exchange, const FileEntry& fo
     NewKeeper::apply(m_moved.findings, exchange, former);
     std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
     forgetListed();
+    noteKept();
     std::set<std::string> selection = m_selection;
     if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
         selection.insert(former.path);

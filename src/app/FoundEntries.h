@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/KeptCopies.h"
+#include "app/KeptTies.h"
 #include "app/MovedEntries.h"
 #include "app/NewKeeper.h"
 #include "clean/Exclusions.h"
@@ -20,7 +21,8 @@ namespace orlen {
 
 /// What the last scan found and which of it is selected. Found entries are offered, or excluded, or stay as
 /// copies in a reference folder, or were moved since; an excluded or moved one remembers whether it was
-/// selected. A plain value; one thread at a time.
+/// selected. A kept file is never selected together with one of its copies. A plain value; one thread at a
+/// time.
 class FoundEntries {
 public:
     /// What is offered, in display order.
@@ -38,6 +40,8 @@ public:
     [[nodiscard]] std::vector<Finding> photos() const;
     [[nodiscard]] std::int64_t selectedSize(const Finding& finding) const;
     [[nodiscard]] PathSelection::Amount selectedAmount() const;
+    /// The sets of duplicates and similar photos, whether their files are offered or not.
+    [[nodiscard]] std::vector<CopySet> sets() const;
     /// The clean-up of the selection; looks at the disk for what is protected.
     [[nodiscard]] CleanPlan plan() const;
 
@@ -47,7 +51,9 @@ public:
     void divide(const Exclusions& exclusions);
 
     void setSelection(std::set<std::string> selection);
-    void select(std::span<const std::string> paths);
+    /// Returns whether others had to be deselected: of a set, the copies if the kept file is the only path
+    /// given, otherwise the kept file.
+    bool select(std::span<const std::string> paths);
     void deselect(std::span<const std::string> paths);
 
     /// Takes out the entries at or below these places, and those whose kept file is there.
@@ -63,8 +69,8 @@ public:
     void takeBack(MovedEntries missing, const Exclusions& exclusions);
     void replaceTrash(std::vector<Finding> trash, const Exclusions& exclusions);
 
-    /// All copies of the sets of duplicates, whether they are offered or not.
-    [[nodiscard]] std::vector<FileEntry> copies() const;
+    /// All entries of a kind, whether they are offered or not.
+    [[nodiscard]] std::vector<FileEntry> entries(FindingKind kind) const;
     /// Takes another choice among those; where a selected copy is kept now, the former one is selected.
     void take(KeptCopies::Chosen chosen, const Exclusions& exclusions);
     /// Keeps another photo of its set, and lists the former one.
@@ -74,6 +80,8 @@ private:
     /// With the selection that what was found has, offered or not.
     void divide(const Exclusions& exclusions, std::set<std::string> selection);
     [[nodiscard]] std::set<std::string> everythingSelected() const;
+    [[nodiscard]] const KeptTies& ties() const;
+    void noteKept();
     void forgetListed();
 
     std::vector<Finding> m_findings;
@@ -84,6 +92,7 @@ private:
     MovedEntries m_moved;
     mutable std::optional<PathTree> m_listed;            ///< of `m_findings`; built when first needed
     mutable std::optional<std::set<std::string>> m_safe; ///< likewise
+    mutable std::optional<KeptTies> m_ties;              ///< likewise
 };
 
 } // namespace orlen

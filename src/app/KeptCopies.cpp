@@ -21,8 +21,8 @@ Cand candOf(const FileEntry& entry)
 
 class Choice {
 public:
-    Choice(const KeepRule& rule, std::vector<FileEntry>& copies)
-        : m_prefers(Places::current(), rule), m_copies(copies)
+    Choice(const KeepRule& rule, FindingKind kind, std::vector<FileEntry>& copies)
+        : m_prefers(Places::current(), rule), m_kind(kind), m_copies(copies)
     {
     }
 
@@ -37,7 +37,7 @@ public:
         FileEntry* found = nullptr;
         for (const std::size_t number : set.entries) {
             const Cand cand = candOf(m_copies[number]);
-            if (m_copies[number].stamp && m_prefers(cand, best)) {
+            if (m_copies[number].stamp && isBetter(cand, best)) {
                 best = cand;
                 found = &m_copies[number];
             }
@@ -51,8 +51,7 @@ public:
         const KeptFile kept{chosen.path, *chosen.stamp};
         if (!NewKeeper::isStill(kept.path, kept.stamp))
             return;
-        auto entry =
-            NewKeeper::asEntry(former, kept, FindingKind::duplicates, noteOn(former.path, kept.path));
+        auto entry = NewKeeper::asEntry(former, kept, m_kind, noteOn(former.path, kept.path));
         if (!entry)
             return;
         changes.push_back({kept.path, former.path, entry->isTickedAlone});
@@ -69,21 +68,31 @@ public:
     [[nodiscard]] bool isReference(const FileEntry& copy) const { return m_prefers.isReference(copy.path); }
 
 private:
-    [[nodiscard]] static Message noteOn(const std::string& copy, const std::string& kept)
+    [[nodiscard]] bool isBetter(const Cand& one, const Cand& best) const
     {
+        return m_kind == FindingKind::duplicates ? m_prefers(one, best)
+                                                 : m_prefers.byPlace(one.path, best.path) < 0;
+    }
+
+    [[nodiscard]] Message noteOn(const std::string& copy, const std::string& kept) const
+    {
+        if (m_kind != FindingKind::duplicates)
+            return NewKeeper::noteNaming(kept);
         return Duplicates::note(kept, shareAllExtents(kept, copy));
     }
 
     KeepOrder m_prefers;
+    FindingKind m_kind;
     std::vector<FileEntry>& m_copies;
 };
 
 } // namespace
 
-std::optional<Chosen> by(const KeepRule& rule, std::vector<FileEntry> copies, const std::stop_token& stop)
+std::optional<Chosen> by(const KeepRule& rule, FindingKind kind, std::vector<FileEntry> copies,
+                         const std::stop_token& stop)
 {
-    const Choice choice(rule, copies);
-    Chosen chosen;
+    const Choice choice(rule, kind, copies);
+    Chosen chosen{kind, {}, {}, {}};
     for (const KeptSet& set : keptSets(copies)) {
         if (stop.stop_requested())
             return std::nullopt;

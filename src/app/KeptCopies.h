@@ -3,15 +3,20 @@
 #include "model/Finding.h"
 #include "scan/duplicates/KeepRule.h"
 
+#include <array>
 #include <optional>
 #include <stop_token>
 #include <string>
 #include <vector>
 
-/// Keeps other files of the sets of duplicates than a scan proposed.
+/// Keeps other files of the sets of duplicates or similar photos than a scan proposed.
 namespace orlen::KeptCopies {
 
+/// The findings of which a rule chooses.
+inline constexpr std::array kKinds{FindingKind::duplicates, FindingKind::photoDuplicates};
+
 struct Chosen {
+    FindingKind kind = FindingKind::duplicates;
     /// The copies, with what is kept of each set as the rule says.
     std::vector<FileEntry> copies;
     /// Those that lie in a reference folder: they stay and are not offered.
@@ -25,9 +30,11 @@ struct Chosen {
     std::vector<Change> changes;
 };
 
-/// Takes all copies, those in reference folders of an earlier rule included. A set one of whose two files has
-/// changed since the scan stays as it is. Nothing when stopped. Blocks on the disk; any thread.
-[[nodiscard]] std::optional<Chosen> by(const KeepRule& rule, std::vector<FileEntry> copies,
+/// Takes all copies of one of those findings, those in reference folders of an earlier rule included. Photos
+/// follow only the folders of the rule, as they differ in quality, and go on keeping what they do when it
+/// ends. A set one of whose two files has changed since the scan stays as it is. Nothing when stopped. Blocks
+/// on the disk; any thread.
+[[nodiscard]] std::optional<Chosen> by(const KeepRule& rule, FindingKind kind, std::vector<FileEntry> copies,
                                        const std::stop_token& stop);
 
 } // namespace orlen::KeptCopies

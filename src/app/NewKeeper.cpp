@@ -19,11 +19,6 @@ namespace {
 
 constexpr FindingKind kKind = FindingKind::photoDuplicates;
 
-Message noteNaming(const FileEntry& chosen)
-{
-    return {AppTexts::kYouKeep, {{"name", std::string(PathText::lastComponent(chosen.path))}}};
-}
-
 bool isInRepository(const std::string& path)
 {
     for (std::string_view folder = PathText::parent(path); folder.size() > 1;
@@ -52,6 +47,11 @@ bool namesKept(const Message& note)
 }
 
 } // namespace
+
+Message noteNaming(const std::string& kept)
+{
+    return {AppTexts::kYouKeep, {{"name", std::string(PathText::lastComponent(kept))}}};
+}
 
 bool isStill(const std::string& path, const FileStamp& stamp)
 {
@@ -99,7 +99,7 @@ std::optional<FileEntry> listed(const Exchange& exchange)
     const auto& [chosen, former] = exchange;
     if (!isStill(chosen.path, *chosen.stamp))
         return std::nullopt;
-    return asEntry(former, {chosen.path, *chosen.stamp}, kKind, noteNaming(chosen));
+    return asEntry(former, {chosen.path, *chosen.stamp}, kKind, noteNaming(chosen.path));
 }
 
 void apply(std::vector<Finding>& findings, const Exchange& exchange, const FileEntry& former)
@@ -113,7 +113,7 @@ void apply(std::vector<Finding>& findings, const Exchange& exchange, const FileE
             entry = former;
         } else if (dependsOn(entry, exchange.former)) {
             entry.kept = kept;
-            noteChoice(entry, noteNaming(exchange.chosen));
+            noteChoice(entry, noteNaming(exchange.chosen.path));
         }
     }
     std::ranges::stable_sort(finding->items, std::greater(), &FileEntry::size);

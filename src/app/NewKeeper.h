@@ -30,6 +30,8 @@ struct Exchange {
                                                Message note);
 /// Whether the path still is what this stamp was made of. Blocks on the disk; any thread.
 [[nodiscard]] bool isStill(const std::string& path, const FileStamp& stamp);
+/// What is noted on a photo of which another one is kept by choice. Pure.
+[[nodiscard]] Message noteNaming(const std::string& kept);
 /// Notes what the entry is like now, in the place of what it was like before. Pure.
 void noteChoice(FileEntry& entry, Message note);
 

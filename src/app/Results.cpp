@@ -11,6 +11,7 @@
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace orlen {
@@ -18,6 +19,32 @@ namespace orlen {
 namespace {
 
 constexpr double kBytesPerMegabyte = 1'000'000;
+
+/// Those of the kinds of `KeptCopies`, in their order.
+std::vector<std::vector<FileEntry>> entriesIn(const std::vector<Finding>& findings)
+{
+    std::vector<std::vector<FileEntry>> entries;
+    for (const FindingKind kind : KeptCopies::kKinds) {
+        const auto found = std::ranges::find(findings, kind, &Finding::kind);
+        entries.push_back(found == findings.end() ? std::vector<FileEntry>() : found->items);
+    }
+    return entries;
+}
+
+/// Nothing when stopped.
+std::vector<KeptCopies::Chosen> chosenBy(const KeepRule& rule,
+                                         const std::vector<std::vector<FileEntry>>& entries,
+                                         const std::stop_token& stop)
+{
+    std::vector<KeptCopies::Chosen> all;
+    for (std::size_t number = 0; number < entries.size(); ++number) {
+        auto chosen = KeptCopies::by(rule, KeptCopies::kKinds[number], entries[number], stop);
+        if (!chosen)
+            return {};
+        all.push_back(*std::move(chosen));
+    }
+    return all;
+}
 
 } // namespace
 
@@ -57,11 +84,24 @@ void Results::startScan()
     m_scanProgress = std::shared_ptr<const ScanProgress>(engine, &engine->progress());
     Q_EMIT scanProgressChanged();
     setPhase(Phase::scanning);
-    m_workers.start([engine](const std::stop_token&) { return SmartScan::run(*engine); },
-                    [this, engine](SmartScan::Outcome outcome) { finishScan(engine, std::move(outcome)); });
+    m_workers.start(
+        [engine, rule = m_keepRule](const std::stop_token&) {
+            SmartScan::Outcome outcome = SmartScan::run(*engine);
+            std::vector<KeptCopies::Chosen> kept;
+            if (rule != KeepRule())
+                kept = chosenBy(rule, entriesIn(outcome.findings), {});
+            return std::tuple(std::move(outcome), rule, std::move(kept));
+        },
+        [this, engine](std::tuple<SmartScan::Outcome, KeepRule, std::vector<KeptCopies::Chosen>> ended) {
+            auto& [outcome, rule, kept] = ended;
+            finishScan(engine, std::move(outcome), std::move(kept));
+            if (rule != m_keepRule)
+                applyKeepRule();
+        });
 }
 
-void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome)
+void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome,
+                         std::vector<KeptCopies::Chosen> kept)
 {
     if (engine != m_engine)
         return;
@@ -72,7 +112,10 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::O
     m_trashLook.drop();
     m_unreadable = {engine->unreadable().count(), engine->unreadable().paths()};
     m_photoCoverage = engine->photoCoverage();
-    change([&] { m_found.replace(std::move(outcome.findings), m_exclusions.current()); });
+    change([&] {
+        m_found.replace(std::move(outcome.findings), m_exclusions.current());
+        take(std::move(kept));
+    });
     m_storage.setBreakdown(std::move(outcome.breakdown));
     m_scanned = moment(std::chrono::system_clock::now());
     m_scanned->largeThreshold = engine->options().largeThreshold;
@@ -81,8 +124,6 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::O
     m_storage.recordSnapshot();
     m_storage.folders().record(std::move(outcome.folders), *m_lastScan);
     setPhase(Phase::results);
-    if (m_keepRule != KeepRule())
-        applyKeepRule();
 }
 
 void Results::cancelScan()
@@ -126,9 +167,11 @@ void Results::select(std::span<const std::string> paths)
 {
     checkThread();
     const std::size_t before = selection().size();
-    m_found.select(paths);
-    if (selection().size() != before)
+    const bool isKeptApart = m_found.select(paths);
+    if (isKeptApart || selection().size() != before)
         Q_EMIT selectionChanged();
+    if (isKeptApart)
+        Q_EMIT keptApart();
 }
 
 void Results::deselect(std::span<const std::string> paths)
@@ -235,21 +278,33 @@ void Results::setKeepRule(KeepRule rule)
 
 void Results::applyKeepRule()
 {
-    std::vector<FileEntry> before = m_found.copies();
-    if (before.empty())
+    std::vector<std::vector<FileEntry>> before = entriesInSets();
+    if (std::ranges::all_of(before, &std::vector<FileEntry>::empty))
         return;
     m_workers.start(
         m_keeping,
-        [rule = m_keepRule, before](const std::stop_token& stop) {
-            return KeptCopies::by(rule, before, stop);
-        },
-        [this, before](std::optional<KeptCopies::Chosen> chosen) {
+        [rule = m_keepRule, before](const std::stop_token& stop) { return chosenBy(rule, before, stop); },
+        [this, before](std::vector<KeptCopies::Chosen> kept) {
             // Meanwhile some may have been moved, or found anew.
-            if (before != m_found.copies())
+            if (before != entriesInSets())
                 applyKeepRule();
-            else if (chosen)
-                change([&] { m_found.take(std::move(*chosen), m_exclusions.current()); });
+            else
+                change([&] { take(std::move(kept)); });
         });
+}
+
+void Results::take(std::vector<KeptCopies::Chosen> kept)
+{
+    for (KeptCopies::Chosen& chosen : kept)
+        m_found.take(std::move(chosen), m_exclusions.current());
+}
+
+std::vector<std::vector<FileEntry>> Results::entriesInSets() const
+{
+    std::vector<std::vector<FileEntry>> entries;
+    for (const FindingKind kind : KeptCopies::kKinds)
+        entries.push_back(m_found.entries(kind));
+    return entries;
 }
 
 void Results::keepInstead(const std::string& path)

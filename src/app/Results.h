@@ -71,6 +71,7 @@ public:
     /// The folders that the last scan could not read; changes with `findings`.
     [[nodiscard]] const Unreadable& unreadableFolders() const { return m_unreadable; }
 
+    /// Leaves out kept files whose copies are among these.
     void setSelection(std::set<std::string> selection);
     /// Adds paths to the selection, or removes them and any selected folder that contains them. The cost
     /// depends only on the number of paths given. Emits `selectionChanged` at most once.
@@ -132,10 +133,10 @@ public:
     /// one was. Looks at both on a worker first; emits `keeperRefused` if they have changed since the scan.
     /// Ignored for a path that no set lists.
     void keepInstead(const std::string& path);
-    /// Which file of each set of duplicates is kept.
+    /// Which file of each set of duplicates or similar photos is kept.
     [[nodiscard]] const KeepRule& keepRule() const { return m_keepRule; }
-    /// Has the duplicates follow the rule, now and after later scans. Copies in its reference folders are not
-    /// offered while it holds. The findings change once a worker has looked at the files.
+    /// Has the sets follow the rule as `KeptCopies` says, now and after later scans. Copies in its reference
+    /// folders are not offered while it holds. The findings change once a worker has looked at the files.
     void setKeepRule(KeepRule rule);
     /// How many of all photos were looked at, now or in earlier scans; changes with `findings`.
     [[nodiscard]] const PhotoCoverage& photoCoverage() const { return m_photoCoverage; }
@@ -149,13 +150,18 @@ Q_SIGNALS:
     void scanProgressChanged();
     void lastScanChanged();
     void keeperRefused();
+    /// `select` has deselected others, as a kept file is not selected together with its copies.
+    void keptApart();
     void keepRuleChanged();
 
 private:
     void setPhase(Phase phase);
     [[nodiscard]] ScanMoment moment(TimePoint now) const;
-    void finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome);
+    void finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome,
+                    std::vector<KeptCopies::Chosen> kept);
     void applyKeepRule();
+    void take(std::vector<KeptCopies::Chosen> kept);
+    [[nodiscard]] std::vector<std::vector<FileEntry>> entriesInSets() const;
     /// Makes a change of what was found, and emits what came of it.
     void change(const std::function<void()>& change);
 

@@ -6,6 +6,7 @@
 #include "clean/Safety.h"
 #include "clean/trash/RealPath.h"
 #include "clean/trash/Trash.h"
+#include "model/PathCover.h"
 #include "model/PathSelection.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
@@ -44,15 +45,23 @@ std::optional<FailureReason> objection(const std::string& path, const Exclusions
 /// Moves entries one by one and keeps track of what its own moves have changed.
 class Mover {
 public:
-    Mover(const std::vector<FileEntry>& entries, const Exclusions& exclusions)
-        : m_entries(entries), m_exclusions(exclusions)
+    /// The entries outlive this.
+    Mover(const std::vector<FileEntry>& entries, const Exclusions& exclusions,
+          const std::vector<CopySet>& sets)
+        : m_exclusions(exclusions), m_staying(CopySets::staying(sets, entries))
     {
+        for (const FileEntry& entry : entries) {
+            if (!m_staying.contains(entry.path))
+                m_going.add(entry.path);
+        }
     }
 
     [[nodiscard]] std::variant<TrashedItem, FailureReason> move(const FileEntry& entry)
     {
         if (const auto reason = objection(entry.path, m_exclusions))
             return *reason;
+        if (m_staying.contains(entry.path))
+            return FailureReason::keptOfSet;
         if (entry.kept && !stays(*entry.kept))
             return FailureReason::changed;
         const auto stamp = entry.stamp ? std::optional(today(*entry.stamp)) : std::nullopt;
@@ -67,12 +76,9 @@ private:
     /// Whether the file to be kept exists, is unchanged, and is not about to go itself.
     [[nodiscard]] bool stays(const KeptFile& kept) const
     {
-        const auto goesAlong = [&](const FileEntry& entry) {
-            return PathText::isAtOrBelow(kept.path, entry.path);
-        };
         const auto status = statusOf(kept.path);
         return status.ok() && FileStamp::of(status.value()) == today(kept.stamp) &&
-               std::ranges::none_of(m_entries, goesAlong);
+               m_going.of(kept.path).empty();
     }
 
     /// Moving one name of a file changes the time of change for all its names.
@@ -93,8 +99,9 @@ private:
         FileStamp before;
         FileStamp after;
     };
-    const std::vector<FileEntry>& m_entries;
     const Exclusions& m_exclusions;
+    const std::set<std::string> m_staying;
+    PathCover m_going;
     std::map<FileIdentity, Change> m_moved;
 };
 
@@ -211,11 +218,12 @@ Restored putBack(const std::vector<TrashedItem*>& items, const Identities& noted
 } // namespace
 
 Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
-            const std::stop_token& stop, const Exclusions& exclusions)
+            const std::stop_token& stop, const Exclusions& exclusions, const std::vector<CopySet>& sets)
 {
     Safety::refresh();
     Reserve::refill();
     std::vector<FileEntry> kept = PathSelection::outermost(std::move(entries));
+    CopySets::tie(kept, sets);
     const Journal journal = planned(kept, title, exclusions);
     Cleaned cleaned;
     cleaned.record.id = journal.id;
@@ -227,7 +235,7 @@ Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Prog
             return refused(std::move(cleaned), kept, FailureReasons::ofCleaning(written.error()));
         }
     }
-    Mover mover(kept, exclusions);
+    Mover mover(kept, exclusions, sets);
     for (int index = 0; index < total && !stop.stop_requested(); ++index) {
         const FileEntry& entry = kept[static_cast<std::size_t>(index)];
         progress(index, total, std::string(PathText::lastComponent(entry.path)));

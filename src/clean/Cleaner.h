@@ -3,6 +3,7 @@
 #include "clean/CleanRecord.h"
 #include "clean/Exclusions.h"
 #include "model/CleanFailure.h"
+#include "model/CopySets.h"
 #include "model/FileEntry.h"
 
 #include <functional>
@@ -30,10 +31,11 @@ struct Cleaned {
 /// Moves the entries in path order, skipping those inside another entry. An entry fails if it is protected,
 /// excluded, missing, refused by the system, or no longer what was shown: something else has its name, it was
 /// written to or is open for writing, or it is a duplicate whose kept copy has changed, is gone or is about
-/// to go as well. A stop request lets the current item finish; the rest is neither moved nor counted as
-/// failed.
+/// to go as well. Of the `sets`, a kept file fails if one of its copies is to move. A stop request lets the
+/// current item finish; the rest is neither moved nor counted as failed.
 [[nodiscard]] Cleaned run(std::vector<FileEntry> entries, const std::string& title, const Progress& progress,
-                          const std::stop_token& stop = {}, const Exclusions& exclusions = {});
+                          const std::stop_token& stop = {}, const Exclusions& exclusions = {},
+                          const std::vector<CopySet>& sets = {});
 
 struct Restored {
     CleanRecord record; ///< with `restored` set on each item put back

@@ -4,9 +4,11 @@
 #include "clean/Safety.h"
 #include "cli/CliTexts.h"
 #include "cli/PathArgument.h"
+#include "model/CopySets.h"
 #include "model/PathSelection.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orlen {
 
@@ -25,6 +27,20 @@ Standing standing(const std::vector<Finding>& findings, const std::string& path)
             best = std::max(best, finding.cleanable ? Standing::movable : Standing::fixed);
     }
     return best;
+}
+
+/// The first of the paths that takes the kept file of a set along with one of its copies; empty for none.
+std::string keptAmong(const std::vector<Finding>& findings, const std::set<std::string>& paths)
+{
+    std::vector<const Finding*> all;
+    for (const Finding& finding : findings)
+        all.push_back(&finding);
+    std::vector<FileEntry> entries;
+    for (const std::string& path : paths)
+        entries.push_back({path});
+    const std::set<std::string> staying =
+        CopySets::staying(CopySets::of(all), PathSelection::outermost(std::move(entries)));
+    return staying.empty() ? std::string() : *staying.begin();
 }
 
 Message objection(Standing standing, const std::string& argument, const std::string& path)
@@ -84,6 +100,8 @@ CleanChoice::Result CleanChoice::exactPaths(const std::vector<Finding>& findings
             return {{}, std::move(problem)};
         result.paths.insert(path);
     }
+    if (const std::string kept = keptAmong(findings, result.paths); !kept.empty())
+        return {{}, {CliTexts::kKeptStays, {{"path", Format::quoted(kept)}}}};
     return result;
 }
 

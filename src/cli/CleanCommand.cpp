@@ -9,6 +9,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+
 namespace orlen {
 
 namespace {
@@ -52,7 +54,12 @@ public:
                                                     model.exclusions()->current());
         if (!chosen.objection.empty())
             return session.refuse(chosen.objection);
-        model.results()->setSelection(std::move(chosen.paths));
+        model.results()->setSelection(chosen.paths);
+        const auto left = std::ranges::count_if(chosen.paths, [&](const std::string& path) {
+            return !model.results()->selection().contains(path);
+        });
+        if (left > 0)
+            session.complain({CliTexts::kKeptStay, {{"count", left}}});
         const CleanPlan plan = m_choice.limited(model.results()->scanPlan());
         return m_carrier.carryOut(session, model, plan,
                                   wantsJson() ? ItemList::Beside::document : ItemList::Beside::nothing);

@@ -91,6 +91,7 @@ inline constexpr Text kQuestionsToBegin = message("Questions to begin with:");
 inline constexpr Text kDuplicateFoldersHelp =
     message("Folders to look into; the home folder when there are none");
 inline constexpr Text kKeepHelp = message("Which file of each set is kept");
+inline constexpr Text kKeepInHelp = message("Keep the files in this folder rather than others");
 inline constexpr Text kReferenceHelp =
     message("A folder whose files are kept and never listed as copies (repeatable)");
 inline constexpr Text kPhotoFoldersHelp =
@@ -208,6 +209,10 @@ inline constexpr Text kNoEntry = message("{path} is not an entry of the scan.");
 inline constexpr Text kTrashIsKept = message("what lies in the Trash is shown, but never moved again.");
 inline constexpr Text kProtectedStays = message("{path} is protected and stays where it is.");
 inline constexpr Text kExcludedStays = message("{path} is excluded and stays where it is.");
+inline constexpr Text kKeptStays =
+    message("{path} is what stays of a set of copies: leave it out, or its copies.");
+inline constexpr Text kKeptStay = messages("{count} item stays, as its copies are selected.",
+                                           "{count} items stay, as their copies are selected.");
 inline constexpr Text kNoTerminal =
     message("nothing was moved: without a terminal to ask on, this needs --yes.");
 inline constexpr Text kRefused = message("nothing was moved.");

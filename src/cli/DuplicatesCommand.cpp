@@ -97,6 +97,7 @@ public:
             ->check([](const std::string& word) {
                 return kOrders.contains(word) ? std::string() : shown(CliTexts::kNoOrder);
             });
+        app.add_option("--keep-in", m_folder, shown(CliTexts::kKeepInHelp))->type_name("DIR");
         app.add_option("--reference", m_references, shown(CliTexts::kReferenceHelp))->type_name("DIR");
     }
 
@@ -104,8 +105,12 @@ private:
     [[nodiscard]] bool takeOptions(Session& session, std::vector<std::string>& folders) override
     {
         auto references = FolderSearch::checked(session, m_references);
-        if (!references)
+        const auto kept = FolderSearch::checked(session, m_folder.empty() ? std::vector<std::string>()
+                                                                          : std::vector{m_folder});
+        if (!references || !kept)
             return false;
+        if (!kept->empty())
+            m_rule.folder = kept->back();
         m_rule.references = std::move(*references);
         if (!m_keep.empty())
             m_rule.order = kOrders.at(m_keep);
@@ -134,6 +139,7 @@ private:
     void print(const Search& found) const override { printSets(found, rated(found.result)); }
 
     std::string m_keep;
+    std::string m_folder;
     std::vector<std::string> m_references;
     KeepRule m_rule;
 };

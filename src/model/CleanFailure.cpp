@@ -14,11 +14,13 @@ struct Cause {
     Text remedy;
 };
 
-constexpr std::array<Cause, 11> kCauses{{
+constexpr std::array<Cause, 12> kCauses{{
     {FailureReason::isProtected, "protected", message("protected"),
      message("Orlen leaves this alone, to be on the safe side.")},
     {FailureReason::excluded, "protected", message("excluded by you"),
      message("Remove it from the exclusions first.")},
+    {FailureReason::keptOfSet, "protected", message("kept, as its copies move"),
+     message("One file of each set stays. Move it instead of its copies, if you like.")},
     {FailureReason::missing, "missing", message("no longer there"), {}},
     {FailureReason::changed, "changed", message("changed since the scan"),
      message("Scan again to see what is there now.")},

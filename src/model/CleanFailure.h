@@ -12,6 +12,7 @@ namespace orlen {
 enum class FailureReason {
     isProtected, ///< the rules forbid it
     excluded,    ///< the user forbids it
+    keptOfSet,   ///< the file that stays of a set, of which others move
     missing,     ///< nothing is there
     changed,     ///< not what was shown: replaced, written to, or the copy to be kept is gone
     permission,  ///< the system refuses
@@ -23,7 +24,8 @@ enum class FailureReason {
     other,
 };
 
-/// The name used in JSON: "protected" (also for what is excluded), "missing", "changed" and so on.
+/// The name used in JSON: "protected" (also for what is excluded, or kept of a set), "missing", "changed" and
+/// so on.
 [[nodiscard]] std::string_view rawValue(FailureReason reason);
 /// The reason in a few words, shown after a path.
 [[nodiscard]] Text reasonText(FailureReason reason);

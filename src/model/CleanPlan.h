@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/CopySets.h"
 #include "model/FileEntry.h"
 #include "model/Message.h"
 #include "platform/values/Uuid.h"
@@ -26,6 +27,8 @@ struct CleanPlan {
     Uuid id = Uuid::random();
     Message title; ///< heading of the plan, recorded as the title of the clean-up, in English
     std::vector<PlanSection> sections;
+    /// Those of which the plan moves something.
+    std::vector<CopySet> sets;
 
     friend bool operator==(const CleanPlan&, const CleanPlan&) = default;
 };

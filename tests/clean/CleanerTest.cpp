@@ -34,13 +34,14 @@ FileEntry entry(const std::string& path, std::int64_t size = 10)
 
 class CleanerTest : public testing::Test {
 protected:
-    CleanRecord clean(std::vector<FileEntry> entries, const std::stop_token& stop = {})
+    CleanRecord clean(std::vector<FileEntry> entries, const std::stop_token& stop = {},
+                      const std::vector<CopySet>& sets = {})
     {
         steps.clear();
         Cleaner::Cleaned cleaned = Cleaner::run(
             std::move(entries), "Test",
             [this](int index, int total, const std::string& name) { steps.emplace_back(index, total, name); },
-            stop);
+            stop, {}, sets);
         failures = std::move(cleaned.failures);
         EXPECT_EQ(failures.size(), static_cast<std::size_t>(cleaned.record.failed));
         Journals::settle(cleaned.record.id);
@@ -290,6 +291,23 @@ TEST_F(CleanerTest, aCopyStaysWhenTheKeptOneGoesToo)
     const FileEntry copy = copyOf(home.file("a/copy"), home.file("b/kept"));
     EXPECT_THAT(originals(clean({copy, seen(home.path("b"))})), ElementsAre(home.path("b")));
     EXPECT_TRUE(TempHome::exists(home.path("a/copy")));
+}
+
+TEST_F(CleanerTest, theKeptFileOfASetStaysWhenItsCopiesMove)
+{
+    // Neither is listed as a copy, one lies in a folder that moves.
+    const FileEntry kept = seen(home.file("a/kept"));
+    const FileEntry folder{home.folder("b")};
+    const CopySet set{copyOf(home.file("b/copy"), kept.path).kept.value(), {home.path("b/copy")}};
+    EXPECT_THAT(originals(clean({kept, folder}, {}, {set})), ElementsAre(home.path("b")));
+    EXPECT_EQ(failures, (std::vector<CleanFailure>{{kept.path, FailureReason::keptOfSet}}));
+
+    const FileEntry copy = seen(home.file("b/copy"));
+    ASSERT_EQ(std::remove(kept.path.c_str()), 0);
+    EXPECT_THAT(clean({copy}, {}, {set}).items, IsEmpty()) << "without the kept one, the last is left";
+    const FileEntry both{home.path("a")};
+    (void)home.file("a/kept"), (void)home.file("a/copy");
+    EXPECT_EQ(clean({both}, {}, {{{home.path("a/kept"), {}}, {home.path("a/copy")}}}).failed, 0);
 }
 
 TEST_F(CleanerTest, theOtherNamesOfAMovedFileAreNotTakenForChanged)

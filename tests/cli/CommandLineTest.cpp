@@ -380,12 +380,33 @@ TEST(CommandLineTest, aRuleSaysWhichOfTheDuplicatesIsKept)
     EXPECT_EQ(set["kept"], oldest);
     EXPECT_EQ(set["copies"].size(), 2U);
     EXPECT_TRUE(sets({"--reference", home.path("Pictures")}).empty()) << "none may go";
+    EXPECT_EQ(sets({"--keep-in", home.path("Pictures/this")})[0]["kept"], newest);
+    EXPECT_EQ(sets({"--keep-in", home.path("Pictures/this")})[0]["copies"].size(), 2U);
     const Json two = sets({"--keep", "oldest", "--reference", home.path("Pictures/this"), "--reference",
                            home.path("Pictures/a")})[0];
     EXPECT_EQ(two["kept"], brief);
     EXPECT_EQ(two["copies"], Json({oldest}));
     EXPECT_EQ(orlen({"duplicates", "--keep", "largest"}).status, 2);
     EXPECT_EQ(orlen({"duplicates", "--reference", home.path("Nowhere")}).status, 2);
+}
+
+TEST(CommandLineTest, neverDoAllCopiesOfAFileMove)
+{
+    const TempHome home;
+    const std::string copy = home.fileOfSize("Videos/of the year/film.mkv", 2'000'000, 9);
+    const std::string kept = home.fileOfSize("Videos/film.mkv", 2'000'000, 9);
+    const Process::Outcome both =
+        orlen({"clean", "--yes", "--large-mb", "1", "--path", copy, "--path", kept});
+    EXPECT_EQ(both.status, 2);
+    EXPECT_THAT(both.err, HasSubstr("is what stays of a set of copies"));
+    const Process::Outcome all =
+        orlen({"clean", "--yes", "--large-mb", "1", "--kind", "largeFiles", "--all"});
+    EXPECT_EQ(all.status, 0);
+    EXPECT_THAT(all.err, HasSubstr("1 item stays, as its copies are selected."));
+    EXPECT_TRUE(TempHome::exists(kept));
+    EXPECT_FALSE(TempHome::exists(copy));
+    EXPECT_EQ(orlen({"clean", "--yes", "--large-mb", "1", "--path", kept}).status, 0)
+        << "the last one, by itself";
 }
 
 TEST(CommandLineTest, breakdownAndForecastAreDocuments)

@@ -1,4 +1,5 @@
 #include "window/findings/EntryListModel.h"
+#include "window/shell/Notices.h"
 #include "window/shell/WindowState.h"
 
 #include "app/EventLoop.h"
@@ -223,6 +224,36 @@ TEST(SelectionTest, partsOfARepositoryAreTickedOnlyOneByOne)
     EXPECT_THAT(app.results()->selection(), IsEmpty());
     list.toggle(1);
     EXPECT_THAT(app.results()->selection(), ElementsAre(tracked));
+}
+
+TEST(SelectionTest, aKeptFileAndItsCopiesAreNotTickedTogether)
+{
+    const TempHome home;
+    const std::string kept = home.fileOfSize("Videos/film", 2'048'000);
+    const std::string copy = home.fileOfSize("Videos/holidays/film", 2'048'000);
+    AppModel app(kCommand);
+    const Notices notices(app);
+    app.results()->setLargeThresholdMB(1);
+    app.results()->startScan();
+    ASSERT_TRUE(waitUntil([&] { return app.results()->phase() == Phase::results; }));
+    EntryListModel duplicates(app);
+    duplicates.setFindingId("duplicates");
+    EntryListModel large(app);
+    large.setFindingId("largeFiles");
+    ASSERT_EQ(large.rowCount(), 2);
+    duplicates.selectShown();
+    EXPECT_TRUE(notices.text().isEmpty());
+    const int row = large.pathAt(0) == duplicates.pathAt(0) ? 1 : 0;
+    large.toggle(row);
+    EXPECT_THAT(app.results()->selection(), ElementsAre(kept));
+    EXPECT_EQ(duplicates.selectedCount(), 0);
+    EXPECT_EQ(large.selectedCount(), 1);
+    EXPECT_TRUE(notices.text().startsWith("One file of each set stays")) << notices.text().toStdString();
+    large.selectShown();
+    EXPECT_THAT(app.results()->selection(), ElementsAre(copy)) << "the copies rather than the kept one";
+    EXPECT_EQ(large.selectedCount(), 1);
+    const QVariant note = large.data(large.index(row), static_cast<int>(EntryListModel::Role::note));
+    EXPECT_TRUE(note.toString().contains("Orlen keeps this one"));
 }
 
 TEST(SelectionTest, whatIsTickedIsWhatMoves)

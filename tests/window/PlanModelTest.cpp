@@ -228,13 +228,12 @@ TEST_F(PlanModelTest, tickingASectionTouchesOnlyWhatMatchesTheFilter)
 TEST_F(PlanModelTest, aKeptFileAndItsCopiesAreNotTickedTogether)
 {
     QSettings().clear();
-    FileEntry copy = entry("copy", 60);
+    const FileEntry copy = entry("copy", 60);
     const FileEntry kept = entry("kept", 60);
-    copy.kept = KeptFile{kept.path, {}};
     const FileEntry folder{m_home.folder(".cache/f"), 40 * 1024};
-    FileEntry inside = entry("f/inside", 16);
-    inside.kept = KeptFile{m_home.path(".cache/f/other"), {}};
+    const FileEntry inside = entry("f/inside", 16);
     CleanPlan plan;
+    plan.sets = {{{kept.path, {}}, {copy.path}}, {{m_home.path(".cache/f/other"), {}}, {inside.path}}};
     plan.sections.push_back({"largeFiles", Message::verbatim("Large files"), "", {kept, folder}});
     plan.sections.push_back({"duplicates", Message::verbatim("Duplicate files"), "", {copy, inside}});
     WindowState::of(m_app).setSheet(PlanSheet{plan});

@@ -2,6 +2,7 @@
 
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
+#include "window/lists/Remembered.h"
 #include "window/shell/Notices.h"
 
 #include <gmock/gmock.h>
@@ -10,6 +11,7 @@
 #include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QSettings>
 
 namespace orlen {
 
@@ -104,6 +106,40 @@ TEST_F(RowMenuModelTest, anExclusionIsToldAndCanBeUndone)
     ASSERT_TRUE(waitUntil([&] { return m_notices.text().contains("no longer excluded"); }));
     m_notices.undo();
     EXPECT_EQ(lines().size(), 1);
+}
+
+TEST_F(RowMenuModelTest, aCopyOffersTheFoldersAroundIt)
+{
+    using M = RowMenuModel;
+    const RowSubject copy{.path = m_home.path("a/b/c/d/copy"), .isCopy = true};
+    EXPECT_THAT(actionsFor(copy),
+                ElementsAre(M::Preview, M::Reveal, M::CopyPath, M::KeepFolder, M::KeepFolder, M::KeepFolder,
+                            M::AlwaysKeep, M::ExcludePath, M::ExcludeFolder, M::ExcludeName));
+    EXPECT_THAT(actionsFor({.path = m_home.path("copy"), .isOffered = false, .isCopy = true}),
+                ElementsAre(M::Preview, M::Reveal, M::CopyPath))
+        << "not the whole home folder";
+    OneRow list(copy);
+    ASSERT_TRUE(m_menu.setSubject(&list, 0));
+    const auto place = [&](int row) {
+        return m_menu.data(m_menu.index(row), static_cast<int>(M::Role::place)).toString();
+    };
+    m_menu.choose(M::KeepFolder, place(4));
+    EXPECT_EQ(m_app.results()->keepRule().folder, m_home.path("a/b/c"));
+    m_menu.choose(M::AlwaysKeep);
+    const KeepRule rule{.folder = m_home.path("a/b/c"), .references = {m_home.path("a/b/c/d")}};
+    EXPECT_EQ(m_app.results()->keepRule(), rule);
+}
+
+TEST_F(RowMenuModelTest, theRuleIsRemembered)
+{
+    const KeepRule rule{KeepRule::Order::oldest, m_home.path("Bücher, alte"), {m_home.path("a"), "/b"}};
+    Remembered::setKeepRule(rule);
+    EXPECT_EQ(Remembered::keepRule(), rule);
+    QSettings().setValue(QStringLiteral("keep/file"), QStringLiteral("largest"));
+    QSettings().setValue(QStringLiteral("keep/always"), QStringLiteral("b"));
+    EXPECT_EQ(Remembered::keepRule(), (KeepRule{.folder = rule.folder})) << "nonsense is left out";
+    QSettings().clear();
+    EXPECT_EQ(Remembered::keepRule(), KeepRule());
 }
 
 TEST_F(RowMenuModelTest, whatCannotBeSavedIsSaid)

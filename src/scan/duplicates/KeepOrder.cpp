@@ -38,10 +38,17 @@ bool KeepOrder::isReference(const std::string& path) const
         m_rule.references, [&](const std::string& folder) { return PathText::isAtOrBelow(path, folder); });
 }
 
+std::strong_ordering KeepOrder::byPlace(const std::string& a, const std::string& b) const
+{
+    if (const auto order = isReference(b) <=> isReference(a); order != 0 || m_rule.folder.empty())
+        return order;
+    return PathText::isAtOrBelow(b, m_rule.folder) <=> PathText::isAtOrBelow(a, m_rule.folder);
+}
+
 bool KeepOrder::operator()(const Cand& a, const Cand& b) const
 {
-    if (const bool isReferenceA = isReference(a.path); isReferenceA != isReference(b.path))
-        return isReferenceA;
+    if (const auto order = byPlace(a.path, b.path); order != 0)
+        return order < 0;
     if (m_rule.order == KeepRule::Order::newest && a.modified != b.modified)
         return a.modified > b.modified;
     if (m_rule.order == KeepRule::Order::oldest && a.modified != b.modified)

@@ -3,6 +3,7 @@
 #include "scan/Cand.h"
 #include "scan/duplicates/KeepRule.h"
 
+#include <compare>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ public:
 
     /// Whether to keep `a` rather than `b`.
     [[nodiscard]] bool operator()(const Cand& a, const Cand& b) const;
+    /// Which of the paths to keep as far as the folders of the rule tell: the lesser one.
+    [[nodiscard]] std::strong_ordering byPlace(const std::string& a, const std::string& b) const;
     /// Whether the path is in one of the rule's reference folders.
     [[nodiscard]] bool isReference(const std::string& path) const;
 

@@ -15,6 +15,8 @@ struct KeepRule {
     };
 
     Order order = Order::usual;
+    /// A file in this folder is kept rather than another one that is in no reference folder; empty for none.
+    std::string folder;
     /// Folders whose files stay: one of them is kept rather than any other file, and none is ever a copy that
     /// may go.
     std::vector<std::string> references;

@@ -2,7 +2,7 @@ import QtQuick
 import Orlen.App
 
 /// Says what the colours of the disk map tell, and opens the choice.
-Pressable {
+MenuButton {
     id: root
 
     required property TileColours colours
@@ -20,45 +20,12 @@ Pressable {
         }
     }
 
-    implicitWidth: title.implicitWidth + arrow.width + 2 * Theme.spaceS + Theme.spaceXs
-    implicitHeight: Theme.widened(28)
-    corner: 7
-    fill: root.hovered || root.down || menu.visible ? Theme.hover : Theme.inset
-    edgeWidth: 1
+    menu: choices
     text: root.label(root.colours.meaning)
-    Accessible.role: Accessible.ButtonMenu
-    onClicked: {
-        menu.currentIndex = root.colours.meaning;
-        menu.popup(root, Theme.mirrored ? root.width - menu.width : 0, root.height + Theme.spaceXs);
-        menu.currentIndex = root.colours.meaning;
-    }
-
-    contentItem: Item {
-        SmallText {
-            id: title
-
-            anchors.left: parent.left
-            anchors.leftMargin: Theme.spaceS
-            anchors.verticalCenter: parent.verticalCenter
-            text: root.text
-            color: Theme.text
-            font.weight: Font.DemiBold
-            Accessible.ignored: true
-        }
-
-        Symbol {
-            id: arrow
-
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.spaceS
-            anchors.verticalCenter: parent.verticalCenter
-            name: "chevron.down"
-            size: 10
-        }
-    }
+    onClicked: root.openMenu(root.colours.meaning)
 
     PopupMenu {
-        id: menu
+        id: choices
 
         implicitWidth: Theme.widened(280)
         title: Strings.coloursOfMap

@@ -30,6 +30,7 @@ EntryListModel::EntryListModel(AppModel& app) : m_app(app), m_folders(new Folder
     connect(m_folders, &FolderLookup::answered, this, [this] { allChanged(Role::symbol, Role::thumbnail); });
     connect(m_app.results(), &Results::findingsChanged, this, &EntryListModel::followFindings);
     connect(m_app.results(), &Results::selectionChanged, this, &EntryListModel::followSelection);
+    connect(m_app.results(), &Results::keptApart, this, &EntryListModel::readSelection);
 }
 
 void EntryListModel::setFindingId(const QString& id)
@@ -123,8 +124,12 @@ void EntryListModel::takeOutRows(const std::vector<bool>& isKept)
 
 void EntryListModel::followSelection()
 {
-    if (m_isSelecting)
-        return;
+    if (!m_isSelecting)
+        readSelection();
+}
+
+void EntryListModel::readSelection()
+{
     m_rows.readSelection(m_app.results()->selection());
     allChanged(Role::marked);
     count();

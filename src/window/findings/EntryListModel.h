@@ -117,6 +117,7 @@ private:
     void load();
     void followFindings();
     void followSelection();
+    void readSelection();
     void grow(const std::vector<FileEntry>& entries, const std::vector<bool>& wasThere);
     void arrange();
     void takeOutRows(const std::vector<bool>& isKept);

@@ -7,14 +7,19 @@ Rectangle {
 
     required property EntryListModel entries
     /// Whether one line is too narrow, so that there are two.
-    readonly property bool isTall: rule.visible
+    readonly property bool isTall: keeping.visible
                                    || all.width + label.implicitWidth + tools.implicitWidth + 72 > root.width
+
+    /// Whether the choice of what is kept needs a line of its own.
+    readonly property bool isKeepingApart: keeping.visible
+                                           && label.start + label.implicitWidth + keeping.width + 40 > root.width
+    readonly property int lineHeight: Theme.controlHeight + 8
 
     function clearFilter() {
         tools.clear();
     }
 
-    height: (root.isTall ? 2 : 1) * (Theme.controlHeight + 8) + 8
+    height: (root.isKeepingApart ? 3 : root.isTall ? 2 : 1) * root.lineHeight + 8
     color: Theme.inset
 
     Connections {
@@ -57,7 +62,8 @@ Rectangle {
         anchors.verticalCenter: all.verticalCenter
         anchors.left: parent.left
         anchors.leftMargin: label.start
-        width: Math.min(implicitWidth, root.width - label.start - 16 - (rule.visible ? rule.width + 20 : 0))
+        width: Math.min(implicitWidth, root.width - label.start - 16
+                        - (keeping.visible && !root.isKeepingApart ? keeping.width + 20 : 0))
         text: root.entries.selectedText
         color: Theme.text
         font.weight: Font.DemiBold
@@ -65,22 +71,34 @@ Rectangle {
         Accessible.name: text
     }
 
-    ChoiceField {
-        id: rule
+    Row {
+        id: keeping
 
-        objectName: "keepRule"
         anchors.right: parent.right
         anchors.rightMargin: 20
-        anchors.verticalCenter: all.verticalCenter
-        visible: root.entries.findingId === "duplicates" && root.entries.entryCount > 0
-        label: Strings.whichToKeep
-        model: rules.choices
-        currentIndex: rules.current
-        displayText: rules.currentText
-        onActivated: index => rules.current = index
+        y: all.y + (all.height - height) / 2 + (root.isKeepingApart ? root.lineHeight : 0)
+        spacing: Theme.spaceS
+        visible: root.entries.findingId === "duplicates"
+                 && (root.entries.entryCount > 0 || always.isInUse)
 
-        KeepRuleModel {
-            id: rules
+        KeepFoldersButton {
+            id: always
+
+            objectName: "foldersThatStay"
+            findingId: root.entries.findingId
+        }
+
+        ChoiceField {
+            objectName: "keepRule"
+            label: Strings.whichToKeep
+            model: rules.choices
+            currentIndex: rules.current
+            displayText: rules.currentText
+            onActivated: index => rules.current = index
+
+            KeepRuleModel {
+                id: rules
+            }
         }
     }
 

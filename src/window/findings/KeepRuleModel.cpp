@@ -26,7 +26,7 @@ QStringList KeepRuleModel::choices() const
     QStringList texts;
     for (const Text& order : kOrders)
         texts << DisplayText::text(order);
-    for (const std::string& folder : m_app.results()->keepRule().references)
+    if (const std::string& folder = m_app.results()->keepRule().folder; !folder.empty())
         texts << DisplayText::text(
             Message(WindowTexts::kKeepIn, {{"folder", std::string(PathText::lastComponent(folder))}}));
     return texts;
@@ -35,13 +35,14 @@ QStringList KeepRuleModel::choices() const
 int KeepRuleModel::current() const
 {
     const KeepRule& rule = m_app.results()->keepRule();
-    return static_cast<int>(rule.references.empty() ? static_cast<std::size_t>(rule.order) : kOrders.size());
+    return static_cast<int>(rule.folder.empty() ? static_cast<std::size_t>(rule.order) : kOrders.size());
 }
 
 void KeepRuleModel::setCurrent(int choice)
 {
     if (choice >= 0 && choice < static_cast<int>(kOrders.size()))
-        m_app.results()->setKeepRule({.order = static_cast<KeepRule::Order>(choice), .references = {}});
+        m_app.results()->setKeepRule({.order = static_cast<KeepRule::Order>(choice),
+                                      .references = m_app.results()->keepRule().references});
 }
 
 } // namespace orlen

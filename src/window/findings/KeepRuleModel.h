@@ -13,7 +13,7 @@ namespace orlen {
 class KeepRuleModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// The choices; the last names a folder if the files of one are kept.
+    /// The choices; a fifth names a folder if the files of one are kept.
     Q_PROPERTY(QStringList choices READ choices NOTIFY changed)
     Q_PROPERTY(int current READ current WRITE setCurrent NOTIFY changed)
     Q_PROPERTY(QString currentText READ currentText NOTIFY changed)

@@ -1,6 +1,10 @@
 #include "window/lists/Remembered.h"
 
 #include <QSettings>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
 
 namespace orlen::Remembered {
 
@@ -9,6 +13,13 @@ namespace {
 constexpr double kMostMegabytes = 1e9;
 const QString kChoices = QStringLiteral("choice/");
 const QString kLargeFiles = QStringLiteral("largeFilesFromMB");
+
+const QString kKeptFile = QStringLiteral("keep/file");
+const QString kKeptFolder = QStringLiteral("keep/folder");
+const QString kReferences = QStringLiteral("keep/always");
+
+// In the order of KeepRule::Order.
+constexpr std::array<const char*, 4> kKeepOrders{"usual", "newest", "oldest", "shortest"};
 
 QString keyOf(const QString& list)
 {
@@ -29,6 +40,34 @@ std::optional<double> largeThresholdMB()
 void setLargeThresholdMB(double megabytes)
 {
     QSettings().setValue(kLargeFiles, megabytes);
+}
+
+KeepRule keepRule()
+{
+    const QSettings settings;
+    KeepRule rule;
+    const auto isWhole = [](const QString& path) { return path.startsWith(u'/') && path.size() > 1; };
+    const auto* order = std::ranges::find(kKeepOrders, settings.value(kKeptFile).toString().toStdString());
+    if (order != kKeepOrders.end())
+        rule.order = static_cast<KeepRule::Order>(order - kKeepOrders.begin());
+    if (const QString folder = settings.value(kKeptFolder).toString(); isWhole(folder))
+        rule.folder = folder.toStdString();
+    for (const QString& folder : settings.value(kReferences).toStringList()) {
+        if (isWhole(folder))
+            rule.references.push_back(folder.toStdString());
+    }
+    return rule;
+}
+
+void setKeepRule(const KeepRule& rule)
+{
+    QSettings settings;
+    QStringList references;
+    for (const std::string& folder : rule.references)
+        references << QString::fromStdString(folder);
+    settings.setValue(kKeptFile, QLatin1String(kKeepOrders[static_cast<std::size_t>(rule.order)]));
+    settings.setValue(kKeptFolder, QString::fromStdString(rule.folder));
+    settings.setValue(kReferences, references);
 }
 
 QString choice(const QString& name)

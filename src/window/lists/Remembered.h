@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scan/duplicates/KeepRule.h"
 #include "window/findings/EntryOrder.h"
 
 #include <QString>
@@ -12,6 +13,11 @@ namespace orlen::Remembered {
 /// Nothing when none was chosen yet, or the file holds nonsense.
 [[nodiscard]] std::optional<double> largeThresholdMB();
 void setLargeThresholdMB(double megabytes);
+
+/// Which file of each set is kept; the usual rule when none was chosen yet. Folders that no longer can be in
+/// a rule, as they are no whole paths, are left out.
+[[nodiscard]] KeepRule keepRule();
+void setKeepRule(const KeepRule& rule);
 
 /// What was chosen of several ways to show something, by its name; empty when nothing was chosen yet.
 [[nodiscard]] QString choice(const QString& name);

@@ -13,7 +13,7 @@ struct RowSubject {
     bool isThere = true;            ///< whether it can be previewed and shown in the file manager
     bool isOffered = true;          ///< whether Orlen may offer to move it
     bool isTickable = false;        ///< whether the rows of its folder can be ticked
-    bool isCopy = false;            ///< whether it is one of identical files, of which another may be kept
+    bool isCopy = false;            ///< whether it is of a set, of which a folder's files may be kept
     std::optional<FileEntry> entry; ///< with it, the menu offers to move it to the Trash
 };
 

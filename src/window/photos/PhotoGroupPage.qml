@@ -124,10 +124,20 @@ Item {
             SmallText {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - mark.width - parent.spacing
+                       - (stay.visible ? stay.width + parent.spacing : 0)
                 text: Words.facts([root.summary, root.selection])
                 wrapMode: Text.WordWrap
                 color: Theme.text
                 font.weight: Font.DemiBold
+            }
+
+            KeepFoldersButton {
+                id: stay
+
+                objectName: "photoFoldersThatStay"
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.inSets
+                findingId: root.findingId
             }
         }
 

@@ -174,7 +174,9 @@ std::optional<RowSubject> PhotoTilesModel::subject(int row) const
 {
     if (!hasRow(row) || m_tiles[static_cast<std::size_t>(row)].path.empty())
         return std::nullopt;
-    return RowSubject{.path = m_tiles[static_cast<std::size_t>(row)].path, .isTickable = true};
+    return RowSubject{.path = m_tiles[static_cast<std::size_t>(row)].path,
+                      .isTickable = true,
+                      .isCopy = m_findingId == DisplayText::text(rawValue(FindingKind::photoDuplicates))};
 }
 
 void PhotoTilesModel::tickIn(const std::string& folder)

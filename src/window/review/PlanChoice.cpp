@@ -20,20 +20,30 @@ PlanChoice::PlanChoice(const CleanPlan& plan, const Exclusions& exclusions) : m_
 
 void PlanChoice::findPairs()
 {
-    std::unordered_map<std::string_view, std::vector<Place>> listed;
+    std::unordered_map<std::string_view, Place> listed;
     for (std::size_t number = 0; number < m_plan.sections.size(); ++number) {
         for (std::size_t at = 0; at < m_plan.sections[number].entries.size(); ++at)
-            listed[entry({number, at}).path].push_back({number, at});
+            listed.try_emplace(entry({number, at}).path, Place{number, at});
     }
-    for (std::size_t number = 0; number < m_plan.sections.size(); ++number) {
-        for (std::size_t at = 0; at < m_plan.sections[number].entries.size(); ++at) {
-            const FileEntry& copy = entry({number, at});
-            std::string_view path = copy.kept ? std::string_view(copy.kept->path) : std::string_view();
-            // A folder with both in it moves as a whole, or not at all.
-            for (; path.size() > 1 && !PathText::isAtOrBelow(copy.path, path);
-                 path = PathText::parent(path)) {
-                if (const auto found = listed.find(path); found != listed.end())
-                    m_pairs.push_back({{number, at}, found->second.front()});
+    const auto takersOf = [&](std::string_view path) {
+        std::vector<Place> takers;
+        for (; path.size() > 1; path = PathText::parent(path)) {
+            if (const auto found = listed.find(path); found != listed.end())
+                takers.push_back(found->second);
+        }
+        return takers;
+    };
+    for (const CopySet& set : m_plan.sets) {
+        const std::vector<Place> takers = takersOf(set.kept.path);
+        for (const std::string& path : set.copies) {
+            for (const Place& copy : takers.empty() ? takers : takersOf(path)) {
+                // A folder with both in it moves as a whole, or not at all.
+                if (PathText::isAtOrBelow(set.kept.path, entry(copy).path))
+                    continue;
+                for (const Place& kept : takers) {
+                    if (!PathText::isAtOrBelow(path, entry(kept).path))
+                        m_pairs.push_back({copy, kept});
+                }
             }
         }
     }

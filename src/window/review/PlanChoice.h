@@ -52,7 +52,7 @@ public:
     [[nodiscard]] int keptApart() const { return m_keptApart; }
 
 private:
-    /// A copy, and an entry that would take its kept file along.
+    /// An entry that takes a copy along, and one that takes its kept file along.
     struct Pair {
         Place copy;
         Place kept;

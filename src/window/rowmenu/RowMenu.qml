@@ -33,7 +33,7 @@ PopupMenu {
         root.currentIndex = 0;
     }
 
-    function label(action: int): string {
+    function label(action: int, folder: string): string {
         switch (action) {
         case RowMenuModel.Preview:
             return Strings.preview;
@@ -44,7 +44,9 @@ PopupMenu {
         case RowMenuModel.TickFolder:
             return Strings.tickFolder;
         case RowMenuModel.KeepFolder:
-            return Strings.keepFolder;
+            return Strings.keepFolder(folder);
+        case RowMenuModel.AlwaysKeep:
+            return Strings.alwaysKeep(folder);
         case RowMenuModel.MoveToTrash:
             return Strings.moveToTrash;
         case RowMenuModel.ExcludePath:
@@ -85,16 +87,18 @@ PopupMenu {
 
         PopupMenuItem {
             required property int choice
+            required property string folder
+            required property string place
 
-            text: root.label(choice)
+            text: root.label(choice, folder)
             symbol: root.symbol(choice)
             refusal: choice === RowMenuModel.MoveToTrash ? actions.refusal : ""
-            objectName: "menu-" + choice
+            objectName: folder === "" ? "menu-" + choice : "menu-" + choice + "-" + folder
             onTriggered: {
                 if (choice === RowMenuModel.Preview)
                     root.previewRequested(root.row);
                 else
-                    actions.choose(choice);
+                    actions.choose(choice, place);
             }
         }
 

@@ -5,6 +5,7 @@
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "window/WindowTexts.h"
+#include "window/findings/KeptFolders.h"
 #include "window/lists/DisplayText.h"
 #include "window/lists/PathCode.h"
 #include "window/rowmenu/ExclusionChange.h"
@@ -15,8 +16,38 @@
 #include <QGuiApplication>
 
 #include <algorithm>
+#include <string_view>
 
 namespace orlen {
+
+namespace {
+
+constexpr int kMostFolders = 3;
+
+/// A line stands between two groups.
+int groupOf(RowMenuModel::Action action)
+{
+    switch (action) {
+    case RowMenuModel::Preview:
+    case RowMenuModel::Reveal:
+    case RowMenuModel::CopyPath:
+        return 0;
+    case RowMenuModel::TickFolder:
+        return 1;
+    case RowMenuModel::KeepFolder:
+    case RowMenuModel::AlwaysKeep:
+        return 2;
+    case RowMenuModel::MoveToTrash:
+        return 3;
+    case RowMenuModel::ExcludePath:
+    case RowMenuModel::ExcludeFolder:
+    case RowMenuModel::ExcludeName:
+        break;
+    }
+    return 4;
+}
+
+} // namespace
 
 RowMenuModel::RowMenuModel(AppModel& app) : m_app(app) {}
 
@@ -49,30 +80,47 @@ bool RowMenuModel::setSubject(RowsModel* list, int row)
 {
     m_list = list;
     m_subject = list == nullptr ? std::nullopt : list->subject(row);
-    resetRows(m_actions, actions());
+    resetRows(m_choices, choices());
     Q_EMIT subjectChanged();
-    return !m_actions.empty();
+    return !m_choices.empty();
 }
 
-std::vector<RowMenuModel::Action> RowMenuModel::actions() const
+std::vector<RowMenuModel::Choice> RowMenuModel::choices() const
 {
     if (!m_subject)
         return {};
-    std::vector<Action> actions;
+    std::vector<Choice> choices;
     if (m_subject->isThere)
-        actions = {Preview, Reveal};
-    actions.push_back(CopyPath);
+        choices = {{Preview, {}}, {Reveal, {}}};
+    choices.push_back({CopyPath, {}});
     if (m_subject->isTickable)
-        actions.push_back(TickFolder);
+        choices.push_back({TickFolder, {}});
     if (m_subject->isCopy)
-        actions.push_back(KeepFolder);
+        addFolders(choices);
     if (m_subject->entry)
-        actions.push_back(MoveToTrash);
+        choices.push_back({MoveToTrash, {}});
     if (!m_subject->isOffered || isExcluded())
-        return actions;
-    std::ranges::copy_if(std::vector{ExcludePath, ExcludeFolder, ExcludeName}, std::back_inserter(actions),
-                         [this](Action action) { return exclusionOf(action).has_value(); });
-    return actions;
+        return choices;
+    for (const Action action : {ExcludePath, ExcludeFolder, ExcludeName}) {
+        if (exclusionOf(action))
+            choices.push_back({action, {}});
+    }
+    return choices;
+}
+
+/// The nearest folders around the item, none of which holds the whole home folder.
+void RowMenuModel::addFolders(std::vector<Choice>& choices) const
+{
+    std::string_view folder = PathText::parent(m_subject->path);
+    const std::string_view nearest = folder;
+    for (int number = 0; number < kMostFolders && folder.size() > 1; ++number) {
+        if (PathText::isAtOrBelow(Places::current().home, folder))
+            break;
+        choices.push_back({KeepFolder, std::string(folder)});
+        folder = PathText::parent(folder);
+    }
+    if (folder != nearest)
+        choices.push_back({AlwaysKeep, std::string(nearest)});
 }
 
 /// Whether it is on the list already, not only something inside it.
@@ -101,15 +149,19 @@ std::optional<Exclusion> RowMenuModel::exclusionOf(Action action) const
     case CopyPath:
     case TickFolder:
     case KeepFolder:
+    case AlwaysKeep:
     case MoveToTrash:
         break;
     }
     return std::nullopt;
 }
 
-void RowMenuModel::choose(Action action)
+void RowMenuModel::choose(Action action, const QString& place)
 {
-    if (!m_subject || std::ranges::find(m_actions, action) == m_actions.end())
+    const auto chosen = std::ranges::find_if(m_choices, [&](const Choice& choice) {
+        return choice.action == action && (place.isEmpty() || choice.folder == PathCode::path(place));
+    });
+    if (!m_subject || chosen == m_choices.end())
         return;
     switch (action) {
     case Preview:
@@ -125,7 +177,10 @@ void RowMenuModel::choose(Action action)
             m_list->tickIn(std::string(PathText::parent(m_subject->path)));
         return;
     case KeepFolder:
-        m_app.results()->setKeepRule({.references = {std::string(PathText::parent(m_subject->path))}});
+        KeptFolders::prefer(*m_app.results(), chosen->folder);
+        return;
+    case AlwaysKeep:
+        KeptFolders::setAlways(*m_app.results(), chosen->folder, true);
         return;
     case MoveToTrash:
         review();
@@ -155,13 +210,16 @@ void RowMenuModel::review()
 
 QVariant RowMenuModel::value(std::size_t number, int role) const
 {
-    const Action action = m_actions[number];
+    const auto& [action, folder] = m_choices[number];
     switch (static_cast<Role>(role)) {
     case Role::choice:
         return action;
+    case Role::folder:
+        return DisplayText::nameOf(folder);
+    case Role::place:
+        return PathCode::of(folder);
     case Role::startsGroup:
-        return action == TickFolder || action == MoveToTrash ||
-               (action >= ExcludePath && m_actions[number - 1] < ExcludePath);
+        return number > 0 && groupOf(action) != groupOf(m_choices[number - 1].action);
     }
     return {};
 }

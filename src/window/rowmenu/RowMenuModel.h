@@ -9,6 +9,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace orlen {
@@ -30,7 +31,8 @@ public:
         Reveal,
         CopyPath,
         TickFolder,    ///< ticks all rows of the item's folder
-        KeepFolder,    ///< of each set of duplicates, keeps the file in the item's folder
+        KeepFolder,    ///< of each set, keeps the file in one of the folders around the item
+        AlwaysKeep,    ///< of no set, offers a file in the item's folder
         MoveToTrash,   ///< opens the review of what moves; if the item may not move, says why
         ExcludePath,   ///< never offers the item
         ExcludeFolder, ///< never offers anything in the item's folder
@@ -40,6 +42,8 @@ public:
 
     enum class Role {
         choice = Qt::UserRole, ///< an `Action`
+        folder,                ///< name of the folder that it is about; empty for none
+        place,                 ///< `PathCode` of that folder
         startsGroup,           ///< whether a line separates it from the action before
     };
     Q_ENUM(Role)
@@ -52,17 +56,26 @@ public:
 
     /// Lists what can be done with a list's row. False if that is nothing.
     [[nodiscard]] Q_INVOKABLE bool setSubject(orlen::RowsModel* list, int row);
-    /// Does it, except for `Preview`, which the screen does.
-    Q_INVOKABLE void choose(orlen::RowMenuModel::Action action);
+    /// Does it, except for `Preview`, which the screen does. `place` says of which folder, if there are
+    /// several.
+    Q_INVOKABLE void choose(orlen::RowMenuModel::Action action, const QString& place = {});
 
 Q_SIGNALS:
     void subjectChanged();
 
 private:
-    [[nodiscard]] int length() const override { return static_cast<int>(m_actions.size()); }
+    [[nodiscard]] int length() const override { return static_cast<int>(m_choices.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
-    [[nodiscard]] std::vector<Action> actions() const;
+    struct Choice {
+        Action action = Preview;
+        std::string folder; ///< that `KeepFolder` and `AlwaysKeep` are about
+
+        friend bool operator==(const Choice&, const Choice&) = default;
+    };
+
+    [[nodiscard]] std::vector<Choice> choices() const;
+    void addFolders(std::vector<Choice>& choices) const;
     /// The line that the action adds to the exclusions; nothing if it adds none.
     [[nodiscard]] std::optional<Exclusion> exclusionOf(Action action) const;
     [[nodiscard]] bool isExcluded() const;
@@ -71,7 +84,7 @@ private:
     AppModel& m_app;
     QPointer<RowsModel> m_list;
     std::optional<RowSubject> m_subject;
-    std::vector<Action> m_actions;
+    std::vector<Choice> m_choices;
 };
 
 } // namespace orlen

@@ -2,6 +2,7 @@
 
 #include "window/WindowTexts.h"
 #include "window/lists/DisplayText.h"
+#include "window/review/KeptApart.h"
 #include "window/shell/Reveal.h"
 #include "window/shell/WindowState.h"
 
@@ -40,6 +41,7 @@ Notices::Notices(AppModel& app)
                 add({text, {}, undo, time});
             });
     connect(&WindowState::of(app), &WindowState::unsaid, this, &Notices::takeBack);
+    connect(app.results(), &Results::keptApart, this, [&app] { KeptApart::say(app); });
     for (const Message& sentence : app.notices())
         say(DisplayText::text(sentence));
 }

@@ -185,7 +185,16 @@ QtObject {
         return Words.message("What to do with {name}", { name: name });
     }
     readonly property string tickFolder: Words.message("Select all in this folder")
-    readonly property string keepFolder: Words.message("Keep the copies in this folder")
+    function keepFolder(folder: string): string {
+        return Words.message("Keep the copies in {folder}", { folder: folder });
+    }
+    function alwaysKeep(folder: string): string {
+        return Words.message("Never select a copy in {folder}", { folder: folder });
+    }
+    readonly property string foldersThatStay: Words.message("Folders that stay")
+    function countOfFoldersThatStay(count: int): string {
+        return Words.messages("{count} folder stays", "{count} folders stay", { count: count });
+    }
     readonly property string neverOfferThis: Words.message("Never offer this")
     readonly property string neverOfferFolder: Words.message("Never offer anything in this folder")
     function neverOfferNamed(name: string): string {

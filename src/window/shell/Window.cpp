@@ -107,6 +107,9 @@ void prepareEngine(QQmlEngine& engine, AppModel& model)
     AppModelElement::setModel(&model);
     if (const auto megabytes = Remembered::largeThresholdMB())
         model.results()->setLargeThresholdMB(*megabytes);
+    model.results()->setKeepRule(Remembered::keepRule());
+    QObject::connect(model.results(), &Results::keepRuleChanged, &engine,
+                     [&model] { Remembered::setKeepRule(model.results()->keepRule()); });
     engine.addImageProvider(QLatin1String(SymbolProvider::kName), new SymbolProvider);
     engine.addImageProvider(QLatin1String(AppIconProvider::kName), new AppIconProvider);
     engine.addImageProvider(QLatin1String(BadgeProvider::kName), new BadgeProvider);

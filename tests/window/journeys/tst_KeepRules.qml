@@ -30,13 +30,16 @@ Journey {
         tryVerify(() => test.isFocused("findingEntries"));
     }
 
-    /// Opens the drop-down field by the keyboard and takes the choice so many below the present one.
+    /// Opens the drop-down field by the keyboard and takes the choice so many below the present one, or above it if
+    /// negative.
     function chooseRule(below: int) {
         test.item("keepRule").forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_Return);
         tryVerify(() => test.item("keepRule").popup.opened);
         for (let presses = 0; presses < below; ++presses)
             keyClick(Qt.Key_Down);
+        for (let presses = 0; presses < -below; ++presses)
+            keyClick(Qt.Key_Up);
         keyClick(Qt.Key_Return);
         tryVerify(() => !test.item("keepRule").popup.visible);
     }
@@ -54,9 +57,24 @@ Journey {
     function test_2_theCopiesInAFolderAreKept() {
         const row = test.row("findingEntries", test.names().indexOf("paper.txt"));
         mouseClick(row, 60, row.height / 2, Qt.RightButton);
-        test.clickOn("menu-" + RowMenuModel.KeepFolder);
-        tryVerify(() => !test.isShown("menu-" + RowMenuModel.KeepFolder));
+        test.clickOn("menu-" + RowMenuModel.KeepFolder + "-papers");
+        tryVerify(() => !test.isShown("menu-" + RowMenuModel.CopyPath));
         tryVerify(() => !test.names().includes("paper.txt") && test.names().includes("old.txt"));
         compare(test.item("keepRule").displayText, test.said("Keep those in {folder}", { folder: "papers" }));
+    }
+
+    function test_3_whatLiesInAChosenFolderIsNotOffered() {
+        tryVerify(() => test.names().includes("old.txt"));
+        test.clickOn("foldersThatStay");
+        test.clickOn("stays-~/Downloads");
+        tryVerify(() => !test.names().includes("old.txt"));
+        tryCompare(test.item("foldersThatStay"), "text", test.said("{count} folder stays", { count: 1 }));
+        test.clickOn("foldersThatStay");
+        tryVerify(() => test.item("stays-~/Downloads").Accessible.checked);
+        test.clickOn("stays-~/Downloads");
+        tryVerify(() => test.names().includes("old.txt"));
+        compare(test.item("foldersThatStay").text, test.said("Folders that stay"));
+        test.chooseRule(-4);
+        compare(test.item("keepRule").displayText, test.said("Keep as proposed"));
     }
 }
