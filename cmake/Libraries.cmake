@@ -14,6 +14,7 @@ pkg_check_modules(MOUNT REQUIRED IMPORTED_TARGET mount)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(SECCOMP REQUIRED IMPORTED_TARGET libseccomp)
 pkg_check_modules(ARCHIVE REQUIRED IMPORTED_TARGET libarchive)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 pkg_check_modules(VIPS REQUIRED IMPORTED_TARGET vips)
 # The packages of its single modules come without CMake files; those are in the package of all of it.
 find_path(ORLEN_OPENCV_HEADERS opencv2/core.hpp PATH_SUFFIXES opencv4 REQUIRED)

@@ -50,6 +50,8 @@ std::string of(const std::optional<CageReport>& report)
     if (!report)
         return shown(CliTexts::kRecognizerSilent) + '\n';
     std::string text = shown(CliTexts::kRecognizer) + '\n' + indented(files(*report));
+    if (report->landlock > 0 && report->holds(Wall::files))
+        text += indented(CliTexts::kFontsReadable);
     for (const Line& line : kLines)
         text += indented(report->holds(line.wall) ? line.holds : line.doesNot);
     return text;

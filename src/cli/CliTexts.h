@@ -28,6 +28,8 @@ inline constexpr Text kFilesOpen = message("Files: not closed on this system (no
 inline constexpr Text kFilesClosedByLandlock = message("Files: none can be opened (Landlock {version})");
 inline constexpr Text kFilesOpenDespiteLandlock =
     message("Files: not closed on this system (Landlock {version})");
+// TRANSLATORS: The first page of a PDF file is drawn by a process that may read the fonts of the system.
+inline constexpr Text kFontsReadable = message("The system's fonts: can be read to draw pages");
 
 // --help: headings and marks.
 inline constexpr Text kUsage = messageIn("heading in --help", "Usage");

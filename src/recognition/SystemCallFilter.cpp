@@ -58,7 +58,7 @@ constexpr int kAllowed[] = {
     SCMP_SYS(getrusage), SCMP_SYS(getrlimit), SCMP_SYS(sysinfo), SCMP_SYS(uname), SCMP_SYS(getrandom),
     SCMP_SYS(getuid), SCMP_SYS(geteuid), SCMP_SYS(getgid), SCMP_SYS(getegid)};
 
-std::vector<Limited> limitedCalls()
+std::vector<Limited> limitedCalls(bool mayOpen)
 {
     std::vector<Limited> calls{
         {SCMP_SYS(recvmsg), {is(0, kSocket)}},
@@ -78,6 +78,10 @@ std::vector<Limited> limitedCalls()
         {SCMP_SYS(prctl), {is(0, PR_SET_NAME)}},
         {SCMP_SYS(prctl), {is(0, PR_GET_DUMPABLE)}},
     };
+    // Landlock says nothing of O_PATH.
+    if (mayOpen)
+        calls.push_back(
+            {SCMP_SYS(openat), {lacks(2, O_WRONLY | O_RDWR | O_CREAT | O_TRUNC | O_DIRECTORY | O_PATH)}});
     for (const int command : {F_GETFD, F_SETFD, F_GETFL, F_DUPFD_CLOEXEC})
         calls.push_back({SCMP_SYS(fcntl), {is(1, static_cast<std::uint64_t>(command))}});
     return calls;
@@ -89,13 +93,13 @@ bool add(scmp_filter_ctx filter, const Limited& call)
     return ::seccomp_rule_add_array(filter, SCMP_ACT_ALLOW, call.call, count, call.conditions.data()) == 0;
 }
 
-bool addAll(scmp_filter_ctx filter)
+bool addAll(scmp_filter_ctx filter, bool mayOpen)
 {
     for (const int call : kAllowed) {
         if (!add(filter, {call, {}}))
             return false;
     }
-    for (const Limited& call : limitedCalls()) {
+    for (const Limited& call : limitedCalls(mayOpen)) {
         if (!add(filter, call))
             return false;
     }
@@ -109,15 +113,15 @@ struct Release {
 
 } // namespace
 
-bool apply()
+bool apply(bool mayOpen)
 {
     const std::unique_ptr<void, Release> filter(::seccomp_init(SCMP_ACT_ERRNO(EPERM)));
     // A tree instead of a list, since a picture needs thousands of calls.
     constexpr std::uint32_t kTree = 2;
     return filter && ::seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS) == 0 &&
            ::seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 &&
-           ::seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_OPTIMIZE, kTree) == 0 && addAll(filter.get()) &&
-           ::seccomp_load(filter.get()) == 0;
+           ::seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_OPTIMIZE, kTree) == 0 &&
+           addAll(filter.get(), mayOpen) && ::seccomp_load(filter.get()) == 0;
 }
 
 } // namespace orlen::SystemCallFilter

@@ -48,6 +48,8 @@ Rights known(int version)
     return all;
 }
 
+constexpr const char* kFonts[] = {"/usr/share/fonts", "/usr/local/share/fonts", "/usr/share/poppler"};
+
 bool allowReading(const UniqueFd& rules, const char* folder)
 {
     const UniqueFd place(::open(folder, O_PATH | O_CLOEXEC));
@@ -60,7 +62,7 @@ bool allowReading(const UniqueFd& rules, const char* folder)
 
 } // namespace
 
-int giveUp(Exception exception)
+int giveUp(const Exceptions& exceptions)
 {
     const auto version =
         static_cast<int>(::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION));
@@ -69,8 +71,12 @@ int giveUp(Exception exception)
     const Rights rights = known(version);
     // An older kernel accepts a longer structure if its end is zero.
     const UniqueFd rules(static_cast<int>(::syscall(SYS_landlock_create_ruleset, &rights, sizeof rights, 0)));
-    if (!rules.isOpen() || (exception == Exception::processTable && !allowReading(rules, "/proc")))
+    if (!rules.isOpen() || (exceptions.processTable && !allowReading(rules, "/proc")))
         return 0;
+    for (const char* folder : kFonts) {
+        if (exceptions.fonts)
+            (void)allowReading(rules, folder); // Not all of them exist.
+    }
     const bool holds = ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
                        ::syscall(SYS_landlock_restrict_self, rules.get(), 0) == 0;
     return holds ? version : 0;

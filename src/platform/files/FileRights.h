@@ -3,14 +3,15 @@
 /// Gives up the right to touch files by name. Open descriptors keep working.
 namespace orlen::FileRights {
 
-enum class Exception {
-    none,
-    processTable, ///< reading below /proc stays allowed
+/// What can still be read.
+struct Exceptions {
+    bool processTable = false; ///< below /proc
+    bool fonts = false;        ///< of the system, and what Poppler knows of fonts that are in no document
 };
 
 /// From now on this thread, and any it starts, cannot open, run, create, rename or remove files, use TCP, or
 /// signal other processes, as far as this system's Landlock supports it. Returns the Landlock version; 0:
 /// nothing is enforced.
-[[nodiscard]] int giveUp(Exception exception = Exception::none);
+[[nodiscard]] int giveUp(const Exceptions& exceptions = {});
 
 } // namespace orlen::FileRights

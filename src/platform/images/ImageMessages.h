@@ -19,9 +19,6 @@ namespace orlen::ImageMessages {
 /// The first message: the recognizer is ready. The number changes with the message format.
 inline constexpr std::string_view kReady = "orlen-recognizer 10";
 
-/// The last argument of a recognizer that is to read films and sounds.
-inline constexpr std::string_view kMediaRole = "media";
-
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
 inline constexpr std::size_t kMostLabels = 32;

@@ -52,8 +52,8 @@ std::size_t lengthOf(PixelSize size, bool hasAlpha)
 
 } // namespace
 
-std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits, Role role,
-                                                  const std::stop_token& stop)
+std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, const Limits& limits,
+                                                  RecognizerRole role, const std::stop_token& stop)
 {
     auto sockets = DescriptorSocket::makePair();
     if (!sockets.ok())
@@ -61,10 +61,9 @@ std::unique_ptr<ImageWorker> ImageWorker::started(const std::string& program, co
     // The process also limits its own time, in case this program is killed.
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(limits.limit) + std::chrono::seconds(1);
     ChildProcess::Call call{{program, std::to_string(limits.memory), std::to_string(seconds.count()),
-                             std::to_string(limits.idle.count())},
+                             std::to_string(limits.idle.count()),
+                             std::string(kRecognizerRoles[static_cast<std::size_t>(role)])},
                             {}};
-    if (role == Role::media)
-        call.arguments.emplace_back(ImageMessages::kMediaRole);
     // Environment variables are none of a picture reader's business.
     call.variables = ChildProcess::Variables::given;
     const std::optional<pid_t> process =

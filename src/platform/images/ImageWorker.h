@@ -4,6 +4,7 @@
 #include "platform/images/ArchiveContents.h"
 #include "platform/images/ImageAnalysis.h"
 #include "platform/images/MediaFacts.h"
+#include "platform/images/RecognizerRole.h"
 #include "platform/images/SmallPicture.h"
 
 #include <chrono>
@@ -31,11 +32,6 @@ public:
         End end = End::failed;
         std::optional<Answer> answer; ///< only if answered, and the file is a picture
     };
-    /// What it is prepared for.
-    enum class Role {
-        pictures, ///< and all else but:
-        media,    ///< sound files and films, for which it loads a library of its own
-    };
     struct Limits {
         std::size_t memory;              ///< bytes of address space
         std::chrono::milliseconds limit; ///< for starting, and for one picture
@@ -43,8 +39,9 @@ public:
     };
 
     /// Starts one and waits until it is ready; nothing on failure.
-    [[nodiscard]] static std::unique_ptr<ImageWorker>
-    started(const std::string& program, const Limits& limits, Role role, const std::stop_token& stop);
+    [[nodiscard]] static std::unique_ptr<ImageWorker> started(const std::string& program,
+                                                              const Limits& limits, RecognizerRole role,
+                                                              const std::stop_token& stop);
 
     /// Kills it.
     ~ImageWorker();

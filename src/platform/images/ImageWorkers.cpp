@@ -25,7 +25,7 @@ constexpr int kMostFailedStarts = 3;
 
 class ImageWorkers::Pool {
 public:
-    Pool(Options options, ImageWorker::Role role)
+    Pool(Options options, RecognizerRole role)
         : m_options(std::move(options)), m_role(role),
           m_turns(std::clamp(std::thread::hardware_concurrency(), 1U, kMostWorkers))
     {
@@ -119,7 +119,7 @@ private:
     }
 
     const Options m_options;
-    const ImageWorker::Role m_role;
+    const RecognizerRole m_role;
     std::mutex m_lock;
     std::condition_variable_any m_turnEnded;
     unsigned m_turns; ///< calls that may begin
@@ -142,8 +142,9 @@ std::string ImageWorkers::recognizer()
 }
 
 ImageWorkers::ImageWorkers(const Options& options)
-    : m_pool(std::make_unique<Pool>(options, ImageWorker::Role::pictures)),
-      m_media(std::make_unique<Pool>(options, ImageWorker::Role::media))
+    : m_pictures(std::make_unique<Pool>(options, RecognizerRole::pictures)),
+      m_pages(std::make_unique<Pool>(options, RecognizerRole::pages)),
+      m_media(std::make_unique<Pool>(options, RecognizerRole::media))
 {
 }
 
@@ -151,7 +152,7 @@ ImageWorkers::~ImageWorkers() = default;
 
 std::optional<ImageAnalysis> ImageWorkers::analyze(const std::string& path, const std::stop_token& stop)
 {
-    return m_pool->told(
+    return m_pictures->told(
         path, [&](ImageWorker& worker, int file) { return worker.analyze(file, stop); }, stop);
 }
 
@@ -163,7 +164,7 @@ std::optional<SmallPicture> ImageWorkers::page(const std::string& path, PixelSiz
 
 std::optional<ArchiveContents> ImageWorkers::archive(const std::string& path, const std::stop_token& stop)
 {
-    return m_pool->told(
+    return m_pictures->told(
         path, [&](ImageWorker& worker, int file) { return worker.archive(file, stop); }, stop);
 }
 
@@ -194,7 +195,8 @@ std::optional<SmallPicture> ImageWorkers::read(const std::string& path, const Pi
                                 std::min(bound.size.height, ImageMessages::kLongestSide)},
                                bound.fit,
                                bound.part};
-    return m_pool->told(
+    const auto& pool = use == PictureUse::page ? m_pages : m_pictures;
+    return pool->told(
         path, [&](ImageWorker& worker, int file) { return worker.smallPicture(file, allowed, use, stop); },
         stop);
 }

@@ -14,9 +14,10 @@
 
 namespace orlen {
 
-/// A pool of recognizers: processes that decode and recognise pictures, each with its own limits, so that a
-/// picture that crashes, hangs or bloats a decoder costs its time limit and nothing else. They are started on
-/// demand and end with this object or this process. Any thread; each call uses a worker of its own.
+/// Pools of recognizers, one for each role: processes that decode and recognise pictures, each with its own
+/// limits, so that a picture that crashes, hangs or bloats a decoder costs its time limit and nothing else.
+/// They are started on demand and end with this object or this process. Any thread; each call uses a worker
+/// of its own.
 class ImageWorkers {
 public:
     struct Options {
@@ -61,8 +62,9 @@ private:
     [[nodiscard]] std::optional<SmallPicture> read(const std::string& path, const PictureBound& bound,
                                                    PictureUse use, const std::stop_token& stop);
 
-    std::unique_ptr<Pool> m_pool;
-    std::unique_ptr<Pool> m_media; ///< for sound files and films
+    std::unique_ptr<Pool> m_pictures;
+    std::unique_ptr<Pool> m_pages;
+    std::unique_ptr<Pool> m_media;
 };
 
 } // namespace orlen

@@ -151,7 +151,7 @@ TEST_F(ImageWorkersTest, aWorkerEndsWithTheProgramEvenInTheMiddleOfAPicture)
     const auto timeOfEnd = [&](auto&& end) {
         const UniqueFd file = std::move(openFile(large).value());
         auto sockets = DescriptorSocket::makePair();
-        ChildProcess::Call call{{ORLEN_RECOGNIZER, "1500000000", "60", "240000"}, {}};
+        ChildProcess::Call call{{ORLEN_RECOGNIZER, "1500000000", "60", "240000", "pictures"}, {}};
         const auto process = ProcessStart::start(call, ProcessStart::Belonging::ownGroup,
                                                  {.input = sockets.value().theirs.get()});
         sockets.value().theirs.reset();
