@@ -17,7 +17,7 @@
 namespace orlen::ImageMessages {
 
 /// The first message: the recognizer is ready. The number changes with the message format.
-inline constexpr std::string_view kReady = "orlen-recognizer 9";
+inline constexpr std::string_view kReady = "orlen-recognizer 10";
 
 /// Longest answer, in bytes.
 inline constexpr std::size_t kLongest = 8UL * 1024;
@@ -44,7 +44,8 @@ struct Answer {
     std::optional<ImageAnalysis> analysis; ///< absent: not a readable picture
 };
 
-/// Labels beyond the limits are left out.
+/// Labels beyond the limits are left out. Answers are also kept on the disk, so those of earlier builds,
+/// which had no outlines, are understood.
 [[nodiscard]] std::string encoded(const Answer& answer);
 /// Nothing for bytes that no recognizer would send: wrong lengths, numbers that are NaN or out of range, text
 /// that is not UTF-8.
