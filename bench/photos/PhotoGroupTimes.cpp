@@ -52,7 +52,7 @@ public:
             if (isSet)
                 m_last = FeaturePrint(vector, tile);
             const FeaturePrint::Direction direction = FeaturePrint::directionOf(vector);
-            photos.emplace_back().print = FeaturePrint(direction, m_last->packedTile());
+            photos.emplace_back().print = FeaturePrint(direction, m_last->packedTile(), m_last->outline());
             for (int shot = 0; isSet && shot < 2; ++shot)
                 add(near(vector, 0.15F), noisy(tile));
         }

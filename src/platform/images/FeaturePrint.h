@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/images/PictureOutline.h"
 #include "platform/images/TileCode.h"
 
 #include <array>
@@ -17,7 +18,8 @@ namespace orlen {
 /// of one picture in another. The tile tells apart two receipts or pages that share a layout.
 ///
 /// A library has tens of thousands of pictures, so both parts are kept small: the vector's numbers in 8 bits,
-/// and the tile packed. At most 4 kB.
+/// and the tile packed. Unpacking takes long, so the outline of what that comes to is kept beside it. At most
+/// 4.6 kB.
 class FeaturePrint {
 public:
     static constexpr int kTileSide = TileCode::kSide; ///< pixels
@@ -32,8 +34,15 @@ public:
         : FeaturePrint(directionOf(vector), TileCode::packed(tile))
     {
     }
-    FeaturePrint(const Direction& direction, std::vector<std::uint8_t> packedTile)
-        : m_direction(direction), m_packedTile(std::move(packedTile))
+    /// Unpacks the tile.
+    FeaturePrint(const Direction& direction, const std::vector<std::uint8_t>& packedTile)
+        : FeaturePrint(direction, packedTile, PictureOutline(TileCode::unpacked(packedTile)))
+    {
+    }
+    /// With the outline of that tile.
+    FeaturePrint(const Direction& direction, std::vector<std::uint8_t> packedTile,
+                 const PictureOutline& outline)
+        : m_direction(direction), m_packedTile(std::move(packedTile)), m_outline(outline)
     {
     }
 
@@ -43,12 +52,14 @@ public:
     /// Of the vector; the largest number is 127.
     [[nodiscard]] const Direction& direction() const { return m_direction; }
     [[nodiscard]] const std::vector<std::uint8_t>& packedTile() const { return m_packedTile; }
+    [[nodiscard]] const PictureOutline& outline() const { return m_outline; }
     /// Unpacks it, which takes some time.
     [[nodiscard]] Tile tile() const { return TileCode::unpacked(m_packedTile); }
 
 private:
     Direction m_direction{};
     std::vector<std::uint8_t> m_packedTile;
+    PictureOutline m_outline;
 };
 
 } // namespace orlen

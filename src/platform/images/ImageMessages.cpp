@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <utility>
+#include <vector>
 
 namespace orlen::ImageMessages {
 
@@ -21,6 +23,9 @@ constexpr std::uint8_t kPage = 5;
 constexpr std::uint8_t kMedia = 6;
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
+constexpr std::uint8_t kNoPrint = 0;
+constexpr std::uint8_t kPlainPrint = 1; ///< without an outline
+constexpr std::uint8_t kPrint = 2;
 constexpr std::int32_t kMostPages = 10'000'000;
 constexpr std::int32_t kLongestWholeSide = 1'000'000;
 /// Of any number that a film tells.
@@ -32,7 +37,7 @@ constexpr std::string MediaFacts::*kMediaTexts[] = {
     &MediaFacts::title, &MediaFacts::artist, &MediaFacts::album, &MediaFacts::container, &MediaFacts::codec};
 
 static_assert(1 + 2 * sizeof(std::int32_t) + sizeof(double) + 4 + sizeof(FeaturePrint::Direction) +
-                  sizeof(std::uint16_t) + TileCode::kMostBytes +
+                  sizeof(std::uint16_t) + TileCode::kMostBytes + sizeof(PictureOutline) +
                   kMostLabels * (1 + kLongestIdentifier + sizeof(float)) <=
               kLongest);
 
@@ -66,15 +71,38 @@ std::vector<ImageLabel> labels(MessageReader& reader)
     return labels;
 }
 
+void put(MessageWriter& writer, const PictureOutline& outline)
+{
+    writer.put(outline.rows());
+    writer.put(static_cast<std::uint8_t>(outline.blocks().size()));
+    for (const PictureOutline::Block& block : outline.blocks())
+        writer.put(block);
+}
+
+PictureOutline outline(MessageReader& reader)
+{
+    const auto rows = reader.get<PictureOutline::Rows>();
+    std::vector<PictureOutline::Block> blocks(reader.get<std::uint8_t>(0, PictureOutline::kMostBlocks));
+    for (PictureOutline::Block& block : blocks) {
+        block = reader.get<PictureOutline::Block>();
+        reader.require(block.isInside());
+    }
+    return {rows, blocks};
+}
+
 std::optional<FeaturePrint> print(MessageReader& reader)
 {
-    if (reader.get<std::uint8_t>(0, 1) == 0)
+    const auto kind = reader.get<std::uint8_t>(kNoPrint, kPrint);
+    if (kind == kNoPrint)
         return std::nullopt;
     const auto direction = reader.get<FeaturePrint::Direction>();
     reader.require(std::ranges::any_of(direction, [](std::int8_t number) { return number != 0; }));
     constexpr auto kNever = std::numeric_limits<std::int8_t>::min();
     reader.require(std::ranges::find(direction, kNever) == direction.end());
-    return FeaturePrint(direction, reader.bytes(TileCode::kMostBytes));
+    std::vector<std::uint8_t> tile = reader.bytes(TileCode::kMostBytes);
+    if (kind == kPlainPrint)
+        return FeaturePrint(direction, tile);
+    return FeaturePrint(direction, std::move(tile), outline(reader));
 }
 
 /// The traits that a picture has or has not, one bit each.
@@ -196,10 +224,11 @@ std::string encoded(const Answer& answer)
     writer.put(std::int32_t{analysis.height});
     writer.put(analysis.sharpness);
     put(writer, analysis.traits);
-    writer.put(static_cast<std::uint8_t>(analysis.print.has_value()));
+    writer.put(analysis.print ? kPrint : kNoPrint);
     if (analysis.print) {
         writer.put(analysis.print->direction());
         writer.put(analysis.print->packedTile());
+        put(writer, analysis.print->outline());
     }
     putLabels(writer, analysis.labels);
     return writer.bytes();

@@ -45,7 +45,8 @@ struct Answer {
     std::optional<ImageAnalysis> analysis; ///< absent: not a readable picture
 };
 
-/// Labels beyond the limits are left out.
+/// Labels beyond the limits are left out. Answers are also kept on the disk, so those of earlier builds,
+/// which had no outlines, are understood.
 [[nodiscard]] std::string encoded(const Answer& answer);
 /// Nothing for bytes that no recognizer would send: wrong lengths, numbers that are NaN or out of range, text
 /// that is not UTF-8.

@@ -118,26 +118,12 @@ float commonShare(const FineSearch& one, const FeaturePrint::Tile& other, const 
 
 } // namespace
 
-FineCheck::Preview FineCheck::previewOf(const FeaturePrint::Tile& tile)
-{
-    constexpr std::size_t kTileSide = FeaturePrint::kTileSide;
-    constexpr std::size_t kSide = CoarseSearch::kSide;
-    Preview preview{};
-    for (std::size_t y = 0; y < kSide; ++y) {
-        for (std::size_t x = 0; x < kSide; ++x) {
-            const std::uint8_t* at = &tile[2 * y * kTileSide + 2 * x];
-            preview[y * kSide + x] =
-                static_cast<std::uint8_t>((at[0] + at[1] + at[kTileSide] + at[kTileSide + 1] + 2) / 4);
-        }
-    }
-    return preview;
-}
-
 std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
     constexpr float kHopeless = 0.22F; ///< no changed copy's first blocks obey less
     constexpr float kObedienceWeight = 0.2F;
-    const auto preview = obedience(CoarseSearch(previewOf(one)), CoarseSearch(previewOf(other)));
+    const auto preview =
+        obedience(CoarseSearch(PictureOutline::halved(one)), CoarseSearch(PictureOutline::halved(other)));
     if (preview && *preview < kHopelessPreview)
         return preview;
     const FineSearch first(one);

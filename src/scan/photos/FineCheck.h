@@ -10,10 +10,6 @@
 /// thread.
 namespace orlen::FineCheck {
 
-/// The tile in half its size.
-using Preview = CoarseSearch::Pixels;
-[[nodiscard]] Preview previewOf(const FeaturePrint::Tile& tile);
-
 /// The share of either tile's structure that is found in the other under one common motion, 0 to 1; much less
 /// than changed copies have if there is no hope. Symmetric. About half a millisecond for pictures that agree,
 /// a tenth of that for most others. Nothing when neither has fine structure: out of focus, or a soft

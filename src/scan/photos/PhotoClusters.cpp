@@ -4,7 +4,6 @@
 #include "scan/photos/PrintDistance.h"
 #include "scan/photos/PrintIndex.h"
 #include "scan/photos/QuickLook.h"
-#include "scan/photos/UnpackedPhotos.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -69,8 +68,7 @@ auto compared(AnyNewcomer& newcomer)
 class Clusters {
 public:
     Clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
-        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_inVain(photos.size()),
-          m_unpacked(photos)
+        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_inVain(photos.size())
     {
     }
 
@@ -110,7 +108,6 @@ private:
     std::vector<std::size_t> m_clusterOf; ///< per photo
     PrintIndex m_firsts;                  ///< the first member of each cluster
     std::vector<std::uint8_t> m_inVain;   ///< close looks at and for each photo, up to the limit
-    UnpackedPhotos m_unpacked;
 };
 
 std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) const
@@ -147,18 +144,6 @@ std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) con
 
 void Clusters::compare(std::vector<Newcomer>& newcomers)
 {
-    std::vector<std::size_t> needed;
-    for (const Newcomer& newcomer : newcomers) {
-        if (newcomer.candidates.empty())
-            continue;
-        needed.push_back(newcomer.photo);
-        // The farther ones too, which are compared if a nearer one joins a cluster.
-        for (const Candidate& candidate : newcomer.candidates)
-            needed.push_back(candidate.photo);
-    }
-    std::ranges::sort(needed);
-    needed.erase(std::unique(needed.begin(), needed.end()), needed.end());
-    m_unpacked.prepare(needed);
     onAllCores(newcomers.size(), [&](std::size_t i) {
         if (!m_stop.stop_requested())
             (void)match(newcomers[i]);
@@ -176,8 +161,8 @@ std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
             break;
         if (!candidate.hope) {
             if (!own)
-                own.emplace(m_unpacked.outline(newcomer.photo));
-            candidate.hope = QuickLook::hope(QuickLook(m_unpacked.outline(candidate.photo)), *own);
+                own.emplace(print(newcomer.photo).outline());
+            candidate.hope = QuickLook::hope(QuickLook(print(candidate.photo).outline()), *own);
         }
         if (*candidate.hope <= 0)
             continue;
@@ -201,9 +186,9 @@ const Candidate* Clusters::match(Newcomer& newcomer) const
     for (Candidate* candidate : candidates) {
         if (!candidate->isAlike) {
             if (!own)
-                own = m_unpacked.tile(newcomer.photo);
-            candidate->isAlike = fineDistance(candidate->coarse, m_unpacked.tile(candidate->photo), *own) <
-                                 kNearDuplicateLimit;
+                own = print(newcomer.photo).tile();
+            candidate->isAlike =
+                fineDistance(candidate->coarse, print(candidate->photo).tile(), *own) < kNearDuplicateLimit;
         }
         if (*candidate->isAlike)
             return candidate;

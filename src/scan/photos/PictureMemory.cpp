@@ -97,8 +97,10 @@ private:
         auto record = bytes ? PictureRecords::next(*bytes).record : std::nullopt;
         if (!record)
             return {};
-        record->used = old.used;
-        return PictureRecords::encoded(*record);
+        // As it would be said today.
+        const auto answer = ImageMessages::decodedAnswer(record->answer);
+        const std::string today = answer ? ImageMessages::encoded(*answer) : std::string(record->answer);
+        return PictureRecords::encoded({record->key, old.used, today});
     }
 
     const PictureFile& m_file;

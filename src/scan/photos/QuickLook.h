@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/images/PictureOutline.h"
 #include "scan/photos/BlockSearch.h"
-#include "scan/photos/PictureOutline.h"
 
 #include <array>
 #include <cstddef>

@@ -28,7 +28,10 @@ constexpr std::size_t kHasPrint = 19;
 constexpr std::size_t kDirection = 20;
 constexpr std::size_t kTileLength = kDirection + sizeof(FeaturePrint::Direction);
 constexpr std::size_t kTileBytes = 5;
-constexpr std::size_t kLabelCount = kTileLength + sizeof(std::uint16_t) + kTileBytes;
+constexpr std::size_t kOutline = kTileLength + sizeof(std::uint16_t) + kTileBytes;
+constexpr std::size_t kBlockCount = kOutline + sizeof(PictureOutline::Rows);
+constexpr std::size_t kBlock = kBlockCount + 1;
+constexpr std::size_t kLabelCount = kBlock + sizeof(PictureOutline::Block);
 constexpr std::size_t kIdentifier = kLabelCount + 2;
 
 Answer picture()
@@ -36,9 +39,10 @@ Answer picture()
     FeaturePrint::Direction direction{};
     direction[3] = -95;
     direction[127] = 127;
+    const PictureOutline outline({1, 2}, std::array{PictureOutline::Block{56, 0, 9}});
     return {ImageAnalysis{4000,
                           3000,
-                          FeaturePrint(direction, std::vector<std::uint8_t>(kTileBytes, 255)),
+                          FeaturePrint(direction, std::vector<std::uint8_t>(kTileBytes, 255), outline),
                           21.9,
                           {{"receipt", 0.7F}, {"text", 0.1F}},
                           {.format = PictureFormat::gif, .isGrey = true, .isFromCamera = true}}};
@@ -63,6 +67,7 @@ TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
     EXPECT_EQ(heard->analysis->sharpness, 21.9);
     EXPECT_EQ(heard->analysis->print->direction(), picture().analysis->print->direction());
     EXPECT_EQ(heard->analysis->print->packedTile(), picture().analysis->print->packedTile());
+    EXPECT_EQ(heard->analysis->print->outline(), picture().analysis->print->outline());
     EXPECT_EQ(heard->analysis->labels, picture().analysis->labels);
     EXPECT_EQ(heard->analysis->traits, picture().analysis->traits);
 
@@ -72,6 +77,19 @@ TEST(ImageMessagesTest, whatIsSaidIsWhatIsHeard)
     const auto none = decodedAnswer(encoded(Answer{}));
     ASSERT_TRUE(none);
     EXPECT_FALSE(none->analysis);
+}
+
+TEST(ImageMessagesTest, theOutlineThatAnEarlierBuildDidNotTellIsDrawnFromTheTile)
+{
+    std::string bytes = replaced(kHasPrint, std::uint8_t{1});
+    EXPECT_FALSE(decodedAnswer(bytes)) << "there is one";
+    bytes.erase(kOutline, kLabelCount - kOutline);
+    const auto heard = decodedAnswer(bytes);
+    ASSERT_TRUE(heard && heard->analysis && heard->analysis->print);
+    const FeaturePrint& print = *heard->analysis->print;
+    EXPECT_EQ(print.packedTile(), picture().analysis->print->packedTile());
+    EXPECT_EQ(print.outline(), PictureOutline(print.tile()));
+    EXPECT_EQ(heard->analysis->labels, picture().analysis->labels);
 }
 
 TEST(ImageMessagesTest, aQuestionIsHeardAsItWasPut)
@@ -172,6 +190,9 @@ TEST(ImageMessagesTest, numbersOutOfRangeAreRefused)
         {"no direction", replaced(kDirection, FeaturePrint::Direction{})},
         {"a tile with less bytes than there are", replaced(kTileLength, std::uint16_t{4})},
         {"a tile with very many bytes", replaced(kTileLength, std::uint16_t{TileCode::kMostBytes + 1})},
+        {"more blocks than there are", replaced(kBlockCount, std::uint8_t{200})},
+        {"a block beyond the right edge", replaced(kBlock, std::uint8_t{57})},
+        {"a block below the lower edge", replaced(kBlock + 1, std::uint8_t{57})},
         {"more labels than there are", replaced(kLabelCount, std::uint8_t{3})},
         {"fewer labels than there are", replaced(kLabelCount, std::uint8_t{1})},
         {"very many labels", replaced(kLabelCount, std::uint8_t{255})},

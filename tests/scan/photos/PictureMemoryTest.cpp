@@ -2,6 +2,7 @@
 
 #include "platform/files/FileContent.h"
 #include "platform/files/FileLock.h"
+#include "platform/images/ImageMessages.h"
 #include "scan/ScanFlag.h"
 #include "scan/ScanProgress.h"
 #include "scan/photos/PhotoAnalyzer.h"
@@ -85,6 +86,7 @@ TEST_F(PictureMemoryTest, whatWasLearnedIsKnownWhileTheFileIsWhatItWas)
     ASSERT_TRUE(known[0] && *known[0] && (*known[0])->print);
     EXPECT_EQ((*known[0])->print->direction(), expected.print->direction());
     EXPECT_EQ((*known[0])->print->packedTile(), expected.print->packedTile());
+    EXPECT_EQ((*known[0])->print->outline(), expected.print->outline());
     EXPECT_EQ((*known[0])->labels, expected.labels);
     EXPECT_EQ((*known[0])->traits, expected.traits);
     EXPECT_EQ((*known[0])->sharpness, expected.sharpness);
@@ -132,6 +134,33 @@ TEST_F(PictureMemoryTest, aDamagedTailIsDroppedAndTheFileGrowsAgain)
         remember(9, 9, now);
         EXPECT_EQ(remembered(now), std::string(c.remembered).substr(0, 8) + "9");
     }
+}
+
+TEST_F(PictureMemoryTest, whatAnEarlierBuildRememberedIsKnownAndRewritten)
+{
+    // Its answers said 1 in front of a print, and told no outline.
+    const std::string answer = ImageMessages::encoded(ImageMessages::Answer{analysisOf(2)});
+    const FeaturePrint print = *analysisOf(2).print;
+    const std::size_t kind = answer.find(std::string(print.packedTile().begin(), print.packedTile().end())) -
+                             sizeof(std::uint16_t) - print.direction().size() - 1;
+    const std::size_t outline =
+        kind + 1 + print.direction().size() + sizeof(std::uint16_t) + print.packedTile().size();
+    const std::size_t length =
+        sizeof(PictureOutline::Rows) + 1 + print.outline().blocks().size() * sizeof(PictureOutline::Block);
+    std::string earlier = answer;
+    earlier[kind] = 1;
+    earlier.erase(outline, length);
+    const PictureRecords::Key key = PictureRecords::Key::of(stampOf(2));
+    home.file(".cache/Orlen/pictures",
+              std::string(PictureRecords::header()) + PictureRecords::encoded({key, now, earlier}));
+    PictureMemory memory(path);
+    const auto known = memory.recall({{"/p", 1, {}, stampOf(2)}}, now);
+    ASSERT_TRUE(known[0] && *known[0] && (*known[0])->print);
+    EXPECT_EQ((*known[0])->print->outline(), print.outline());
+    memory.remember({{stampOf(3), analysisOf(3)}}, now);
+    EXPECT_EQ(remembered(now), "-23------");
+    const std::string whole = bytes();
+    EXPECT_EQ(PictureRecords::decoded(whole).back().answer, answer);
 }
 
 TEST_F(PictureMemoryTest, theLastUsedStayWhenTheFileIsFull)
