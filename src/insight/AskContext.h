@@ -8,6 +8,7 @@
 #include "model/Finding.h"
 #include "model/Message.h"
 #include "platform/values/Time.h"
+#include "scan/HomeFiles.h"
 #include "scan/StorageBreakdown.h"
 
 #include <cstdint>
@@ -51,6 +52,8 @@ struct AskContext {
     /// Nothing until they have been read.
     std::optional<std::vector<KnownApp>> apps{};
     std::optional<std::vector<KnownStartupItem>> startupItems{};
+    /// What lies in the home folder; null until it has been walked, then answers know what the scan lists.
+    std::shared_ptr<const HomeFiles> home{};
     /// The words in the names of the findings, made when they are first needed. Whoever asks several times
     /// about the same findings hands on the same. Never null.
     std::shared_ptr<NameCache> names = std::make_shared<NameCache>();

@@ -166,6 +166,16 @@ inline constexpr Text kFilesIn = message("{files} in {folder}");
 // to, say it in another way, such as "{files}: the last scan lists …".
 inline constexpr Text kFilesListed = messages("Of {files} the last scan lists {count}, {size} in all.",
                                               "Of {files} the last scan lists {count}, {size} in all.");
+inline constexpr Text kFolders = messageIn("files, within a sentence", "folders");
+inline constexpr Text kFilesHidden = message("hidden {files}");
+// TRANSLATORS: {files} is as above; {ending} is ".mp3".
+inline constexpr Text kFilesEnding = message("{files} ending in {ending}");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos". It cannot change its form: if it has
+// to, say it in another way, such as "{files}: there are …".
+inline constexpr Text kFilesThere =
+    messages("Of {files} there is {count}, {size} in all.", "Of {files} there are {count}, {size} in all.");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
+inline constexpr Text kNoFilesThere = message("I found no {files}.");
 // TRANSLATORS: a list of files follows.
 inline constexpr Text kTheBiggest = message("The biggest:");
 // TRANSLATORS: a list of files follows.
@@ -177,6 +187,14 @@ inline constexpr Text kTheNewest = message("The newest:");
 // TRANSLATORS: {rating} is "Safe", "Review" or "Keep".
 inline constexpr Text kFileChanged = message("• {path} ({size}), changed {date} — {rating}");
 inline constexpr Text kFileOpened = message("• {path} ({size}), opened {date} — {rating}");
+inline constexpr Text kFileUnrated = message("• {path} ({size}), changed {date}");
+inline constexpr Text kOpenedUnrated = message("• {path} ({size}), opened {date}");
+// TRANSLATORS: {line} is one of a list such as "• ~/a.zip (3 GB), changed 4 March 2024"; {title} is a group
+// of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kListedLine = message("{line} — {title}, {rating}");
+inline constexpr Text kSmallestLeftOut =
+    message("Your home folder holds more files than Orlen keeps in mind: the smallest in caches and hidden "
+            "folders are left out.");
 inline constexpr Text kFileUndated = message("• {path} ({size}) — {rating}");
 inline constexpr Text kNoneListed =
     // TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
@@ -226,8 +244,17 @@ inline constexpr RatedText kFittingWithNote{message("• {path} ({size}) — {ti
 inline constexpr Text kMoreFit = messages("… and {count} more.", "… and {count} more.");
 // TRANSLATORS: {category} is "Apps", "Photos" and so on.
 inline constexpr Text kCountsFor = message("{path} ({size}) counts for {category}.");
+inline constexpr Text kFileTakes = message("{path} takes {size} and was last changed on {date}.");
+// TRANSLATORS: follows a sentence about a folder.
+inline constexpr Text kListedInside =
+    messages("In it the last scan lists {count} item, {size}; {safe} of that is rated Safe.",
+             "In it the last scan lists {count} items, {size} in all; {safe} of that is rated Safe.");
 inline constexpr Text kNotSuggested =
     message("The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it.");
+inline constexpr Text kLookFirst = message("Look at it before you remove it.");
+// TRANSLATORS: {title} is a group of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kPartOf = message("It is part of {path}, listed under “{title}” and rated {rating}.");
+inline constexpr Text kNowhere = message("I find nothing called “{name}” in your home folder.");
 inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
                                                 "clean-up. History can put it back.");
 inline constexpr Text kNotListed =

@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/FollowUps.h"
+#include "insight/reader/NameSpans.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
@@ -201,8 +202,10 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
 {
     if (text.size() > kLongestQuestion)
         return Turn{{InsightTexts::kHelp, {}}, before};
-    const std::vector<Word> words = isReadable(text) ? wordsOf(text) : std::vector<Word>();
-    if (words.empty() || isSuggested(text))
+    if (!isReadable(text) || isSuggested(text))
+        return std::nullopt;
+    const std::vector<Word> words = withNames(text, context);
+    if (words.empty())
         return std::nullopt;
     KnownNames names(context);
     const Question question = bestReading(
@@ -226,13 +229,25 @@ bool needsPrograms(std::string_view text, const AskContext& context)
     if (!isReadable(text) || isSuggested(text))
         return false;
     KnownNames names(context);
-    const Question question =
-        bestReading(wordsOf(text), context.now, [&](std::string_view word) { return names(word); }, {});
+    const Question question = bestReading(withNames(text, context), context.now,
+                                          [&](std::string_view word) { return names(word); }, {});
     return question.senses.has(uninstall) || std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
                const bool mayBeName = phrase.sense == unknown || phrase.sense == quoted;
                return phrase.subject != nullptr ? phrase.subject->isProgram
                                                 : mayBeName && PathText::extension(phrase.text).empty();
            });
+}
+
+bool needsHome(std::string_view text, const AskContext& context)
+{
+    if (!isReadable(text) || isSuggested(text))
+        return false;
+    KnownNames names(context);
+    const Question question = bestReading(withNames(text, context), context.now,
+                                          [&](std::string_view word) { return names(word); }, {});
+    constexpr SenseSet kOfFiles{unknown, quoted, folder, hidden,   ending, biggest,  most,
+                                oldest,  newest, period, smallest, takes,  unopened, subject};
+    return question.senses.meets(kOfFiles);
 }
 
 Conversation conversationAfter(std::string_view text, const AskContext& context, const Answer& answer,
@@ -241,7 +256,7 @@ Conversation conversationAfter(std::string_view text, const AskContext& context,
     if (!isReadable(text))
         return {};
     const Question question =
-        bestReading(wordsOf(text), context.now, [](std::string_view) { return false; }, {});
+        bestReading(withNames(text, context), context.now, [](std::string_view) { return false; }, {});
     return before.with({question, answer.findingIDs, answer.paths});
 }
 

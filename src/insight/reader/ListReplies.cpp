@@ -2,14 +2,17 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/HomeLists.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/PathHits.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -75,12 +78,93 @@ Message lineFor(const ListRequest& request, const Hit& hit)
     return {isByOpening ? InsightTexts::kFileOpened : InsightTexts::kFileChanged, std::move(places)};
 }
 
+Message sumOf(const ListRequest& request, const HomeList& list)
+{
+    const Place files{"files", within(request.files)};
+    if (list.count == 0)
+        return {InsightTexts::kNoFilesThere, {files}};
+    return {InsightTexts::kFilesThere, {files, {"count", list.count}, {"size", Bytes{list.bytes}}}};
+}
+
+Message homeLine(const ListRequest& request, const HomeFiles::File& file, const std::string& path)
+{
+    const bool isByOpening = request.openedTo != TimePoint::max();
+    return {isByOpening ? InsightTexts::kOpenedUnrated : InsightTexts::kFileUnrated,
+            {{"path", tilde(path)},
+             {"size", Bytes{file.bytes}},
+             {"date", Moment{isByOpening ? file.opened : file.changed}}}};
+}
+
+/// What the scan says about what a line is of.
+Message withRating(Message line, const Hit& hit)
+{
+    if (hit.finding == nullptr)
+        return line;
+    return {InsightTexts::kListedLine,
+            {{"line", within(std::move(line))},
+             {"title", within(hit.finding->title)},
+             {"rating", within(label(hit.finding->effectiveRating(*hit.entry)))}}};
+}
+
+void addLink(Answer& answer, const Finding& finding)
+{
+    if (std::ranges::find(answer.findingIDs, finding.id()) == answer.findingIDs.end())
+        answer.findingIDs.emplace_back(finding.id());
+}
+
+/// The sum of a list, its first lines, and how many more there are.
+Answer shownList(const ListRequest& request, const AskContext& context, const HomeList& list)
+{
+    const HomeFiles& home = *context.home;
+    Answer answer;
+    for (const HomeFiles::Number number : list.first)
+        answer.paths.push_back(request.areFolders ? home.folderPath(number) : home.filePath(number));
+    std::vector<Message> lines{request.exclusions.said()};
+    const Message sum = sumOf(request, list);
+    lines.push_back(list.count < 2 ? sum : AskText::sentences({sum, heading(request.order)}));
+    const std::vector<Hit> hits = hitsAround(answer.paths, context);
+    for (std::size_t i = 0; i < hits.size(); ++i) {
+        const HomeFiles::Number number = list.first[i];
+        Message line =
+            request.areFolders
+                ? Message{InsightTexts::kDownload,
+                          {{"name", tilde(answer.paths[i])}, {"size", Bytes{home.folder(number).bytes}}}}
+                : homeLine(request, home.file(number), answer.paths[i]);
+        lines.push_back(withRating(std::move(line), hits[i]));
+        if (hits[i].finding != nullptr)
+            addLink(answer, *hits[i].finding);
+    }
+    const auto more = list.count - std::ssize(list.first);
+    if (more > 0 && list.first.size() > 1)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    if (!home.isComplete())
+        lines.emplace_back(InsightTexts::kSmallestLeftOut);
+    answer.text = AskText::lines(std::move(lines));
+    return answer;
+}
+
+/// What lies in the home folder; nothing if only the scan can tell.
+std::optional<HomeList> homeListFor(const ListRequest& request, const AskContext& context)
+{
+    if (context.home == nullptr || request.isOfScan)
+        return std::nullopt;
+    const bool isDated = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
+                         request.openedTo != TimePoint::max();
+    if (request.areFolders)
+        return isDated ? std::nullopt : foldersFor(request, *context.home);
+    return filesFor(request, *context.home);
+}
+
 } // namespace
 
 std::optional<Answer> listOfFiles(const Question& question, const AskContext& context)
 {
     const std::optional<ListRequest> request = listRequestIn(question, context);
     if (!request)
+        return std::nullopt;
+    if (const auto list = homeListFor(*request, context))
+        return shownList(*request, context, *list);
+    if (request->areFolders || request->isHiddenOnly)
         return std::nullopt;
     if (context.findings.empty())
         return Answer{InsightTexts::kNoScan, {}};
@@ -93,20 +177,36 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     for (const Hit& hit : hits)
         bytes = checkedAdd(bytes, hit.entry->size);
     const std::size_t shown = std::min(hits.size(), static_cast<std::size_t>(request->count));
+    const std::int64_t count = std::ssize(hits);
     sortFirst(hits, request->order, shown);
-    const Message sum{InsightTexts::kFilesListed,
-                      {files, {"count", std::ssize(hits)}, {"size", Bytes{bytes}}}};
+    hits.resize(shown);
+    const Message sum{InsightTexts::kFilesListed, {files, {"count", count}, {"size", Bytes{bytes}}}};
     std::vector<Message> lines{request->exclusions.said(),
                                AskText::sentences({sum, heading(request->order)})};
     Answer answer;
-    for (std::size_t i = 0; i < shown; ++i) {
-        lines.push_back(lineFor(*request, hits[i]));
-        answer.paths.push_back(hits[i].entry->path);
-        if (std::ranges::find(answer.findingIDs, hits[i].finding->id()) == answer.findingIDs.end())
-            answer.findingIDs.emplace_back(hits[i].finding->id());
+    for (const Hit& hit : hits) {
+        lines.push_back(lineFor(*request, hit));
+        answer.paths.push_back(hit.entry->path);
+        addLink(answer, *hit.finding);
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
+}
+
+std::optional<Answer> countOfFiles(const Question& question, const AskContext& context)
+{
+    const std::optional<ListRequest> request = listRequestIn(question, context);
+    const auto list = request ? homeListFor(*request, context) : std::nullopt;
+    if (!list)
+        return std::nullopt;
+    const Message left = context.home->isComplete() ? Message() : InsightTexts::kSmallestLeftOut;
+    return Answer{AskText::lines({request->exclusions.said(), sumOf(*request, *list), left}), {}};
+}
+
+std::optional<Answer> listOfFolders(const Question& question, const AskContext& context)
+{
+    const std::optional<ListRequest> request = listRequestIn(question, context);
+    return request && request->areFolders ? listOfFiles(question, context) : std::nullopt;
 }
 
 std::optional<Answer> listOfRated(const Question& question, const AskContext& context)

@@ -13,6 +13,12 @@ namespace orlen::AskReader {
 /// are.
 [[nodiscard]] std::optional<Answer> listOfFiles(const Question& question, const AskContext& context);
 
+/// How many files fit; nothing where only the scan can tell.
+[[nodiscard]] std::optional<Answer> countOfFiles(const Question& question, const AskContext& context);
+
+/// Folders by size, of those directly in one; nothing if it is about files.
+[[nodiscard]] std::optional<Answer> listOfFolders(const Question& question, const AskContext& context);
+
 /// The files that two subjects fit, such as "duplicate PDFs".
 [[nodiscard]] std::optional<Answer> listOfBoth(const Question& question, const AskContext& context);
 

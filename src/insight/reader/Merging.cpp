@@ -55,7 +55,7 @@ void mergeNegation(Phrases& phrases)
 /// nothing nameable follows, the word only denies.
 void mergeExclusions(Phrases& phrases)
 {
-    constexpr SenseSet kNameable{Sense::subject, Sense::unknown, Sense::quoted};
+    constexpr SenseSet kNameable{Sense::subject, Sense::ending, Sense::unknown, Sense::quoted};
     const bool isOnlyDenied =
         phrases.size() > 1 && phrases.front().sense == Sense::negation &&
         std::ranges::all_of(phrases.begin() + 1, phrases.end(),

@@ -26,8 +26,8 @@ public:
     Question question()
     {
         while (m_at < m_words.size()) {
-            if (!takeQuoted() && !takePeriod() && !takeSize() && !takeKnown(2) && !takeOrdinal() &&
-                !takeKnown(1) && !takeNumber())
+            if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSize() && !takeKnown(2) &&
+                !takeOrdinal() && !takeKnown(1) && !takeNumber())
                 takeUnknown();
         }
         return std::move(m_question);
@@ -71,6 +71,30 @@ private:
         if (!m_words[m_at].isQuoted)
             return false;
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);
+        return true;
+    }
+
+    /// "mp3", "zip files", ".img": of file names, beside the files.
+    bool takeEnding()
+    {
+        const std::string& word = m_plain[m_at];
+        const std::string ending = endingIn(word);
+        if (ending.empty())
+            return false;
+        const auto isFiles = [&](std::size_t at) {
+            const Lexicon::Entry* const entry = at < m_plain.size() ? m_lexicon.find(m_plain[at]) : nullptr;
+            return entry != nullptr && entry->subject != nullptr && entry->subject->isAnyFile;
+        };
+        const bool isBesideFiles = isFiles(m_at + 1) || (m_at > 0 && isFiles(m_at - 1));
+        const bool isDotted = word.starts_with('.') || word.starts_with("*.");
+        if (isDotted ? !isBesideFiles && !isEndingOfKind(ending) : !isKnownEnding(ending))
+            return false;
+        take({Sense::ending, {}, nullptr, 0, {}}, 1);
+        m_question.phrases.back().text = ending;
+        if (!isBesideFiles) {
+            m_question.phrases.push_back({Sense::subject, {}, &subjectFor(SubjectID::files)});
+            m_question.senses.add(Sense::subject);
+        }
         return true;
     }
 

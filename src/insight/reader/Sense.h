@@ -63,12 +63,14 @@ enum class Sense : std::uint8_t {
     soFar,
     privacy,
     untouched,
-    folder,  ///< the word itself
+    folder, ///< the word itself
+    hidden,
     subject, ///< a kind, category or folder; see `Subject`
     size,
     number,
     ordinal,
     period,
+    ending,  ///< of file names: ".mp3"
     quoted,  ///< text in quotation marks
     unknown, ///< perhaps a name
     // These stand beside the senses of a question: they tell how it hangs together.

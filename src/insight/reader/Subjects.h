@@ -83,6 +83,16 @@ struct Subject {
 /// The folder in use that the subject stands for; empty if none.
 [[nodiscard]] std::string folderOf(const Subject& subject);
 
+/// The ending of file names that a word is: of "mp3s", ".img" and "*.JPEG". Empty if it is none; of words
+/// without a dot only those that mean nothing else.
+[[nodiscard]] std::string endingIn(std::string_view word);
+/// Whether a file has that ending.
+[[nodiscard]] bool isNamed(std::string_view path, std::string_view ending);
+/// Whether files of a subject have it.
+[[nodiscard]] bool isEndingOfKind(std::string_view ending);
+/// The same, and it is no word of its own.
+[[nodiscard]] bool isKnownEnding(std::string_view ending);
+
 /// Whether a file of this name is of the subject's kind.
 [[nodiscard]] bool hasExtensionOf(const Subject& subject, std::string_view path);
 

@@ -275,6 +275,7 @@ constexpr WordRow kWords[] = {
      "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
      "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
      "safe,know my passwords,eavesdrop,anyone get"},
+    {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
      "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
@@ -486,7 +487,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& english()
 {
     static constexpr Language language{
-        english_words::kWords, english_words::kSubjects, english_words::kFigureRows, {}};
+        english_words::kWords,
+        english_words::kSubjects,
+        english_words::kFigureRows,
+        {},
+        false,
+        "file,item,thing,folder,directory,subfolder,video,movie,film,clip,photo,picture,image,pic,song,track,"
+        "pdf,document,archive,zip,download,installer,spreadsheet,presentation,book,ebook,iso,mp3"};
     return language;
 }
 

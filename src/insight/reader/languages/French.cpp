@@ -212,6 +212,7 @@ constexpr WordRow kWords[] = {
                      "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
                      "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
                      "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
+    {Sense::hidden, "masqué,masqués,masquée,masquées,invisible,invisibles"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
      "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
@@ -403,9 +404,14 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& french()
 {
-    static constexpr Language language{french_words::kWords, french_words::kSubjects,
-                                       french_words::kFigureRows,
-                                       "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd"};
+    static constexpr Language language{
+        french_words::kWords,
+        french_words::kSubjects,
+        french_words::kFigureRows,
+        "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd",
+        false,
+        "fichier,élément,chose,truc,dossier,répertoire,vidéo,film,clip,photo,"
+        "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier"};
     return language;
 }
 

@@ -199,6 +199,7 @@ constexpr WordRow kWords[] = {
      "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden,wer kann sehen,wer kann lesen,wer "
      "hat zugriff,zugriff auf,wer kann meine,kann meine daten,daten sehen,meine daten sehen,kann jemand "
      "sehen,einsehen,verbunden,meine passwörter,sieht orlen meine passwörter"},
+    {Sense::hidden, "versteckt,versteckte,versteckten,versteckter,unsichtbare,unsichtbaren"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
      "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
@@ -394,7 +395,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& german()
 {
     static constexpr Language language{
-        german_words::kWords, german_words::kSubjects, german_words::kFigureRows, {}, true};
+        german_words::kWords,
+        german_words::kSubjects,
+        german_words::kFigureRows,
+        {},
+        true,
+        "datei,ding,sache,verzeichnis,video,film,clip,videodatei,foto,bild,lied,song,pdf,pdf-datei,dokument,"
+        "archiv,download,tabelle,präsentation,buch"};
     return language;
 }
 

@@ -200,6 +200,7 @@ constexpr WordRow kWords[] = {
                      "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
                      "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
                      "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
+    {Sense::hidden, "nascosto,nascosti,nascosta,nascoste,invisibili"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
      "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
@@ -379,8 +380,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& italian()
 {
     static constexpr Language language{
-        italian_words::kWords, italian_words::kSubjects, italian_words::kFigureRows,
-        "l,d,dell,all,nell,sull,dall,quell,quest,un,c,cos,dov,quant,com,qual,s,t,m,v,n"};
+        italian_words::kWords,
+        italian_words::kSubjects,
+        italian_words::kFigureRows,
+        "l,d,dell,all,nell,sull,dall,quell,quest,un,c,cos,dov,quant,com,qual,s,t,m,v,n",
+        false,
+        "elemento,cartella,filmato,fotografia,immagine,canzone,brano,documento,archivio,più,grande,grosso,"
+        "pesante,vecchio,recente,nuovo,piccolo,grossa,vecchia,nuova,piccola,ultimo,scaricato,il,la"};
     return language;
 }
 

@@ -197,6 +197,7 @@ constexpr WordRow kWords[] = {
                      "personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
                      "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
                      "ver,quién puede leer,quién tiene acceso,conectado,conectada,ve mis contraseñas"},
+    {Sense::hidden, "oculto,ocultos,oculta,ocultas,invisibles"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general,
      "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
@@ -380,7 +381,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& spanish()
 {
     static constexpr Language language{
-        spanish_words::kWords, spanish_words::kSubjects, spanish_words::kFigureRows, {}};
+        spanish_words::kWords,
+        spanish_words::kSubjects,
+        spanish_words::kFigureRows,
+        {},
+        false,
+        "archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,película,peli,clip,foto,imagen,fotografía,"
+        "canción,pdf,documento,descarga,descargado,último"};
     return language;
 }
 
