@@ -109,6 +109,8 @@ AskContext AppModel::askContext() const
             m_storage->folders().readings(),
             m_programs->apps(),
             m_programs->startupItems(),
+            m_programs->leftovers(),
+            std::make_shared<HomeLook>(),
             m_names};
 }
 

@@ -3,6 +3,7 @@
 #include "clean/CleanRecord.h"
 #include "clean/FolderReading.h"
 #include "clean/Protection.h"
+#include "insight/HomeLook.h"
 #include "insight/Predictor.h"
 #include "insight/reader/NameIndex.h"
 #include "model/Finding.h"
@@ -51,6 +52,9 @@ struct AskContext {
     /// Nothing until they have been read.
     std::optional<std::vector<KnownApp>> apps{};
     std::optional<std::vector<KnownStartupItem>> startupItems{};
+    std::optional<std::vector<FileEntry>> leftovers{}; ///< of applications that are gone, largest first
+    /// For what the scan doesn't list; null if answers are to use nothing but the scan.
+    std::shared_ptr<const HomeLook> home{};
     /// The words in the names of the findings, made when they are first needed. Whoever asks several times
     /// about the same findings hands on the same. Never null.
     std::shared_ptr<NameCache> names = std::make_shared<NameCache>();

@@ -95,6 +95,15 @@ inline constexpr Text kGrewFolder = message("• {path}: {size} more, {now} in a
 inline constexpr Text kNothingGrew = message("No folder has grown much since {date}.");
 // TRANSLATORS: {first} and {last} are dates.
 inline constexpr Text kNothingGrewBetween = message("No folder grew much from {first} to {last}.");
+inline constexpr Text kFolderGrew =
+    message("Since {date} the folder {folder} has grown by {size}; it takes {now} now.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kFolderGrewBetween =
+    message("From {first} to {last} the folder {folder} grew by {size}, to {now}.");
+inline constexpr Text kFolderNotGrown = message("Since {date} the folder {folder} has not grown.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kFolderNotGrownBetween =
+    message("From {first} to {last} the folder {folder} did not grow.");
 inline constexpr Text kNothingToCompare =
     message("There are no two scans to compare yet. Each Smart Scan notes how big your folders are.");
 
@@ -166,6 +175,14 @@ inline constexpr Text kFilesIn = message("{files} in {folder}");
 // to, say it in another way, such as "{files}: the last scan lists …".
 inline constexpr Text kFilesListed = messages("Of {files} the last scan lists {count}, {size} in all.",
                                               "Of {files} the last scan lists {count}, {size} in all.");
+// TRANSLATORS: {files} is as above; {ending} is ".mp3".
+inline constexpr Text kFilesEnding = message("{files} ending in {ending}");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos". It cannot change its form: if it has
+// to, say it in another way, such as "{files}: there are …".
+inline constexpr Text kFilesThere =
+    messages("Of {files} there is {count}, {size} in all.", "Of {files} there are {count}, {size} in all.");
+// TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
+inline constexpr Text kNoFilesThere = message("I found no {files}.");
 // TRANSLATORS: a list of files follows.
 inline constexpr Text kTheBiggest = message("The biggest:");
 // TRANSLATORS: a list of files follows.
@@ -177,6 +194,7 @@ inline constexpr Text kTheNewest = message("The newest:");
 // TRANSLATORS: {rating} is "Safe", "Review" or "Keep".
 inline constexpr Text kFileChanged = message("• {path} ({size}), changed {date} — {rating}");
 inline constexpr Text kFileOpened = message("• {path} ({size}), opened {date} — {rating}");
+inline constexpr Text kFileUnrated = message("• {path} ({size}), changed {date}");
 inline constexpr Text kFileUndated = message("• {path} ({size}) — {rating}");
 inline constexpr Text kNoneListed =
     // TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
@@ -226,8 +244,15 @@ inline constexpr RatedText kFittingWithNote{message("• {path} ({size}) — {ti
 inline constexpr Text kMoreFit = messages("… and {count} more.", "… and {count} more.");
 // TRANSLATORS: {category} is "Apps", "Photos" and so on.
 inline constexpr Text kCountsFor = message("{path} ({size}) counts for {category}.");
+inline constexpr Text kFileTakes = message("{path} takes {size} and was last changed on {date}.");
+// TRANSLATORS: follows a sentence about a folder.
+inline constexpr Text kListedInside =
+    messages("In it the last scan lists {count} item, {size}; {safe} of that is rated Safe.",
+             "In it the last scan lists {count} items, {size} in all; {safe} of that is rated Safe.");
 inline constexpr Text kNotSuggested =
     message("The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it.");
+// TRANSLATORS: follows a sentence about what the last scan lists in a folder.
+inline constexpr Text kRestNotSuggested = message("The rest of it is not suggested for a clean-up.");
 inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
                                                 "clean-up. History can put it back.");
 inline constexpr Text kNotListed =
@@ -268,6 +293,23 @@ inline constexpr Text kAppUnknown = message(
 // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
 inline constexpr Text kBiggestApps =
     message("With their data, the biggest applications that Orlen lists are {apps}.");
+inline constexpr Text kSmallestApps =
+    // TRANSLATORS: {apps} is a list: "GIMP (500 MB), Blender (3 GB)".
+    message("With their data, the smallest applications that Orlen lists are {apps}.");
+inline constexpr Text kAppsListed =
+    messages("Orlen lists {count} application.", "Orlen lists {count} applications.");
+inline constexpr Text kAppsOver =
+    // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
+    messages("With its data, {count} application takes more than {size}: {apps}.",
+             "With their data, {count} applications take more than {size}: {apps}.");
+inline constexpr Text kAppsUnder =
+    // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
+    messages("With its data, {count} application takes less than {size}: {apps}.",
+             "With their data, {count} applications take less than {size}: {apps}.");
+inline constexpr Text kNoAppOver =
+    message("No application that Orlen lists takes more than {size} with its data.");
+inline constexpr Text kNoAppUnder =
+    message("No application that Orlen lists takes less than {size} with its data.");
 // TRANSLATORS: {apps} is a list: "Blender (3 GB, last used 4 March 2024), GIMP (500 MB, last used 1 May
 // 2025)".
 inline constexpr Text kUnusedApps =
@@ -289,6 +331,9 @@ inline constexpr Text kAppsScreen =
 // TRANSLATORS: {names} is a list of programs.
 inline constexpr Text kStartingItems = messages("{count} item starts when you log in: {names}.",
                                                 "{count} items start when you log in: {names}.");
+// TRANSLATORS: {names} is a list of programs.
+inline constexpr Text kStoppedItems =
+    messages("{count} item is switched off: {names}.", "{count} items are switched off: {names}.");
 inline constexpr Text kStartupScreen =
     // TRANSLATORS: "orlen startup" is a command.
     message(
@@ -307,6 +352,15 @@ inline constexpr Text kSnaps =
     // TRANSLATORS: what is in quotation marks are commands.
     message("“snap remove” removes a Snap, and “snap list --all” shows old versions; the Applications screen "
             "shows their sizes.");
+// TRANSLATORS: a list of these folders follows.
+inline constexpr Text kLeftovers = messages("{count} folder of removed applications takes {size}:",
+                                            "{count} folders of removed applications take {size}:");
+inline constexpr Text kNoLeftovers = message("I found no folders that removed applications left behind.");
+inline constexpr Text kLeftoversScreen =
+    // TRANSLATORS: "orlen leftovers" is a command.
+    message("The Applications screen lists what removed applications left behind, and so does “orlen "
+            "leftovers”.");
+inline constexpr Text kInstalled = message("Yes: {name} is installed.");
 inline constexpr Text kGames = message(
     "Games are best removed in the program that installed them. The disk map shows how much their folder "
     "takes.");
@@ -322,6 +376,12 @@ inline constexpr Text kPutBack =
 inline constexpr Text kCleanUps =
     messages("{count} clean-up since {date} moved {size} to the Trash in all.",
              "{count} clean-ups since {date} moved {size} to the Trash in all.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kCleanUpsBetween =
+    messages("From {first} to {last}, {count} clean-up moved {size} to the Trash.",
+             "From {first} to {last}, {count} clean-ups moved {size} to the Trash.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kNoCleanUpBetween = message("From {first} to {last} there was no clean-up.");
 inline constexpr Text kHistoryListsThem = message("History lists them.");
 inline constexpr Text kHowToRestore =
     // TRANSLATORS: "orlen history" and "orlen restore" are commands.

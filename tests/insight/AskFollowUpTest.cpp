@@ -49,7 +49,7 @@ constexpr Row kWithout[] = {
     {"files over 3 GB", "wedding.mp4|holiday.mkv"},
     {"and the first?", "wedding.mp4 (9 GB)", "holiday"},
     {"and the next one", "holiday.mkv (4 GB)", "wedding"},
-    {"but not mkv files", "Left out: videos.|lists no files over 3 GB"},
+    {"but not mkv files", "Left out: .mkv.|wedding.mp4", "holiday"},
     {"videos over 3 gb", "wedding.mp4|holiday.mkv"},
     {"and over 8?", "Of videos over 8 GB the last scan lists 1|wedding", "holiday"},
     {"oldest files", "wedding.mp4|contract"},

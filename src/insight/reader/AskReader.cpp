@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/FollowUps.h"
+#include "insight/reader/NameSpans.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
@@ -121,13 +122,23 @@ Turn turnOf(const Reply& reply, const Conversation& before)
     return {reply.answer, before.with({reply.question, reply.answer.findingIDs, reply.answer.paths})};
 }
 
+/// "… and how much would I gain": of what was spoken of before it.
+bool leavesOutWhat(const Question& question)
+{
+    constexpr SenseSet kOfIt{howMuch, howBig, howMany, makeRoom, free, space,
+                             takes,   can,    remove,  safe,     keep, general};
+    return question.senses.isWithin(kOfIt) &&
+           question.senses.meets({makeRoom, howBig, remove, safe, keep, takes});
+}
+
 /// All parts answered, each after the one before it; nothing if one is not.
 std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
                              const Conversation& before)
 {
     Conversation conversation = before;
     std::vector<Answer> answers;
-    for (const Question& one : parts) {
+    for (Question one : parts) {
+        one.isBackward = one.isBackward || (!answers.empty() && leavesOutWhat(one));
         const std::optional<Reply> found = reply(one, context, conversation);
         if (!found)
             return std::nullopt;
@@ -201,13 +212,16 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
 {
     if (text.size() > kLongestQuestion)
         return Turn{{InsightTexts::kHelp, {}}, before};
-    const std::vector<Word> words = isReadable(text) ? wordsOf(text) : std::vector<Word>();
-    if (words.empty() || isSuggested(text))
+    if (!isReadable(text) || isSuggested(text))
+        return std::nullopt;
+    const std::vector<Word> words = withNames(wordsOf(text), context);
+    if (words.empty())
         return std::nullopt;
     KnownNames names(context);
     const Question question = bestReading(
         words, context.now, [&](std::string_view word) { return names(word); }, before);
-    if (before.empty() && isTopic(question))
+    if (before.empty() && isTopic(question) &&
+        AskEngine::fallback(text, context).text != Message{InsightTexts::kHelp})
         return std::nullopt;
     std::optional<Turn> found = answered(question, context, before);
     if (!found && question.corrected > 0) {
@@ -226,8 +240,8 @@ bool needsPrograms(std::string_view text, const AskContext& context)
     if (!isReadable(text) || isSuggested(text))
         return false;
     KnownNames names(context);
-    const Question question =
-        bestReading(wordsOf(text), context.now, [&](std::string_view word) { return names(word); }, {});
+    const Question question = bestReading(withNames(wordsOf(text), context), context.now,
+                                          [&](std::string_view word) { return names(word); }, {});
     return question.senses.has(uninstall) || std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
                const bool mayBeName = phrase.sense == unknown || phrase.sense == quoted;
                return phrase.subject != nullptr ? phrase.subject->isProgram
@@ -240,8 +254,8 @@ Conversation conversationAfter(std::string_view text, const AskContext& context,
 {
     if (!isReadable(text))
         return {};
-    const Question question =
-        bestReading(wordsOf(text), context.now, [](std::string_view) { return false; }, {});
+    const Question question = bestReading(withNames(wordsOf(text), context), context.now,
+                                          [](std::string_view) { return false; }, {});
     return before.with({question, answer.findingIDs, answer.paths});
 }
 

@@ -31,6 +31,11 @@ bool Exclusions::add(const std::vector<Phrase>& phrases, const AskContext& conte
                 return false;
             name.clear();
         }
+        if (phrase.sense == Sense::ending) {
+            m_endings.push_back(phrase.text);
+            m_names.push_back(Message::verbatim("." + phrase.text));
+            continue;
+        }
         // "The wedding video": the kind only says what the name is of.
         if (phrase.subject == nullptr)
             name += (name.empty() ? "" : " ") + phrase.text;
@@ -72,8 +77,22 @@ bool Exclusions::leaveOut(const Finding& finding, const FileEntry& entry) const
         return std::ranges::find(subject->kinds, finding.kind) != subject->kinds.end() ||
                (!subject->extensions.empty() && hasExtensionOf(*subject, entry.path));
     };
-    return std::ranges::any_of(m_kinds, isOfKind) || leaveOut(std::string_view(entry.path)) ||
-           (!m_paths.empty() && m_paths.contains(entry.path));
+    return std::ranges::any_of(m_kinds, isOfKind) || leaveOutFile(entry.path);
+}
+
+bool Exclusions::leaveOutFile(std::string_view path) const
+{
+    const auto isOfKind = [&](const Subject* subject) { return hasExtensionOf(*subject, path); };
+    const auto isOfEnding = [&](const std::string& ending) { return isNamed(path, ending); };
+    return std::ranges::any_of(m_kinds, isOfKind) || std::ranges::any_of(m_endings, isOfEnding) ||
+           leaveOut(path) || m_paths.contains(path);
+}
+
+bool Exclusions::needsFindings() const
+{
+    return std::ranges::any_of(m_kinds, [](const Subject* subject) {
+        return subject->extensions.empty() && !subject->kinds.empty() && subject->folder.empty();
+    });
 }
 
 bool Exclusions::leaveOut(std::string_view folder) const

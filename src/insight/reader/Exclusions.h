@@ -3,10 +3,11 @@
 #include "insight/AskContext.h"
 #include "insight/reader/Question.h"
 
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 namespace orlen::AskReader {
@@ -19,6 +20,10 @@ public:
 
     [[nodiscard]] bool empty() const { return m_names.empty(); }
     [[nodiscard]] bool leaveOut(const Finding& finding, const FileEntry& entry) const;
+    /// The same of a file that no finding lists, unless `needsFindings`.
+    [[nodiscard]] bool leaveOutFile(std::string_view path) const;
+    /// Whether only a finding can tell what is left out: "besides caches".
+    [[nodiscard]] bool needsFindings() const;
     /// Whether a folder is one of those left out, or in one.
     [[nodiscard]] bool leaveOut(std::string_view folder) const;
 
@@ -32,7 +37,8 @@ private:
 
     std::vector<const Subject*> m_kinds;
     std::vector<std::string> m_folders;
-    std::unordered_set<std::string> m_paths;
+    std::vector<std::string> m_endings;
+    std::set<std::string, std::less<>> m_paths;
     std::vector<Message> m_names;
 };
 

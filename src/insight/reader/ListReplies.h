@@ -6,12 +6,15 @@
 #include <optional>
 
 /// Lists of files. Each gives nothing when it is not sure of the question.
-/// Pure; any thread.
+/// Each may look at the home folder of its context, which blocks.
 namespace orlen::AskReader {
 
 /// The files that fit the kind, sizes, dates and folder in the question: a few of them, and how many there
 /// are.
 [[nodiscard]] std::optional<Answer> listOfFiles(const Question& question, const AskContext& context);
+
+/// How many files fit; nothing where only the scan can tell.
+[[nodiscard]] std::optional<Answer> countOfFiles(const Question& question, const AskContext& context);
 
 /// The files that two subjects fit, such as "duplicate PDFs".
 [[nodiscard]] std::optional<Answer> listOfBoth(const Question& question, const AskContext& context);

@@ -103,6 +103,9 @@ bool takeDate(const Question& question, TimePoint now, ListRequest& request)
     // "Over the summer" is no age.
     if (period.from > now || (period.isAhead && isOlderThan(question)))
         return false;
+    // "More than last month" compares something else.
+    if ((isOlderThan(question) || isYoungerThan(question)) && !period.next)
+        return false;
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;
         narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
@@ -168,12 +171,7 @@ bool takeFolder(const Question& question, const AskContext& context, ListRequest
         question.phrases[question.position(named->sense) - 1].sense != Sense::inside ||
         std::ranges::count(question.phrases, Sense::unknown, &Phrase::sense) > 1)
         return false;
-    request.folder = pathIn(named->text);
-    if (!request.folder.empty())
-        return true;
-    const Found found = findNamed(context, named->text);
-    if (found.fit == Fit::whole && !found.measured.empty())
-        request.folder = found.measured.front().path;
+    request.folder = folderNamed(context, named->text);
     return !request.folder.empty();
 }
 
@@ -197,6 +195,17 @@ bool takeRating(const Question& question, ListRequest& request)
     return request.rating || !question.senses.meets({Sense::mean, Sense::review});
 }
 
+/// What may go, and what counts by when it was opened, only the scan can tell.
+bool isOfScan(const Question& question, const ListRequest& request)
+{
+    constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise,
+                                 Sense::unopened};
+    const bool isOfKind =
+        request.subject != nullptr && !request.subject->isAnyFile && request.subject->extensions.empty();
+    return question.senses.meets(kChoosing) || isOfKind || request.listedAs != nullptr || request.rating ||
+           request.exclusions.needsFindings();
+}
+
 } // namespace
 
 std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context)
@@ -213,6 +222,12 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (!takeRating(question, request) || !takeSizes(question, request) ||
         !takeDate(question, context.now, request))
         return std::nullopt;
+    if (const Phrase* const ending = question.first(Sense::ending)) {
+        request.ending = PathText::asciiLower(ending->text);
+        narrow(request, InsightTexts::kFilesEnding, {{"ending", "." + request.ending}});
+    }
+    request.isHidden = question.senses.has(Sense::hidden);
+    request.isOfScan = isOfScan(question, request);
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
     if (!request.folder.empty())
@@ -222,7 +237,10 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
 
 bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
 {
-    if (rating && finding.effectiveRating(entry) != *rating)
+    if (isHidden && entry.path.find("/.") == std::string::npos)
+        return false;
+    if ((rating && finding.effectiveRating(entry) != *rating) ||
+        (!ending.empty() && !isNamed(entry.path, ending)))
         return false;
     if (entry.size < leastBytes || entry.size > mostBytes ||
         (!exclusions.empty() && exclusions.leaveOut(finding, entry)))
@@ -246,6 +264,17 @@ bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
     if (subject == nullptr || subject->isAnyFile)
         return true;
     return subject->extensions.empty() ? isListedAs(*subject) : hasExtensionOf(*subject, entry.path);
+}
+
+bool ListRequest::admits(const SeenFile& file) const
+{
+    if (file.bytes < leastBytes || file.bytes > mostBytes || file.modified < changedFrom ||
+        file.modified >= changedTo || (!ending.empty() && !isNamed(file.path, ending)))
+        return false;
+    if (isHidden && file.path.find("/.") == std::string_view::npos)
+        return false;
+    const bool isMeant = subject == nullptr || subject->isAnyFile || hasExtensionOf(*subject, file.path);
+    return isMeant && (exclusions.empty() || !exclusions.leaveOutFile(file.path));
 }
 
 } // namespace orlen::AskReader

@@ -2,6 +2,8 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/DiskNames.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/ProgramReplies.h"
 #include "platform/files/Places.h"
@@ -197,6 +199,45 @@ bool hasFileExtension(std::string_view name)
     return extension.size() >= 2 && extension.size() <= 8 && extension.find(' ') == std::string_view::npos;
 }
 
+/// Where "Projects" stands in "notes in Projects"; the number of phrases if no name stands before one.
+std::size_t placeIn(const Question& question)
+{
+    constexpr SenseSet kNames{Sense::unknown, Sense::quoted};
+    bool isNamed = false;
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        if (!kNames.has(question.phrases[i].sense))
+            continue;
+        if (isNamed && question.phrases[i - 1].sense == Sense::inside)
+            return i;
+        isNamed = true;
+    }
+    return question.phrases.size();
+}
+
+/// What stands behind "in": a folder's name, or the path of one that everybody has, in lower case; empty if
+/// nothing does.
+std::string placeNamed(const Question& question)
+{
+    const std::size_t place = placeIn(question);
+    if (place < question.phrases.size())
+        return lowered(question.phrases[place].text);
+    for (std::size_t i = 1; i < question.phrases.size(); ++i) {
+        const Phrase& phrase = question.phrases[i];
+        if (phrase.subject == nullptr || question.phrases[i - 1].sense != Sense::inside)
+            continue;
+        const std::string folder = folderOf(*phrase.subject);
+        return folder.empty() ? folder : lowered(folder.substr(1));
+    }
+    return {};
+}
+
+/// Whether the path lies in a folder of this name, or at this path below the home folder.
+bool liesIn(std::string_view path, const std::string& folder)
+{
+    return folder.empty() ||
+           lowered(std::string(PathText::parent(path)) + "/").find("/" + folder + "/") != std::string::npos;
+}
+
 /// The words that may be a name, as typed.
 std::string nameIn(const Question& question)
 {
@@ -209,9 +250,10 @@ std::string nameIn(const Question& question)
     if (std::ranges::count_if(question.phrases, isFile) == 1)
         return std::ranges::find_if(question.phrases, isFile)->text;
     std::string name;
-    for (const Phrase& phrase : question.phrases) {
-        if (phrase.sense == Sense::unknown)
-            name += (name.empty() ? "" : " ") + phrase.text;
+    const std::size_t place = placeIn(question);
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        if (question.phrases[i].sense == Sense::unknown && i != place)
+            name += (name.empty() ? "" : " ") + question.phrases[i].text;
     }
     return name;
 }
@@ -248,25 +290,86 @@ Answer notListed(std::string_view name)
     return {Message{InsightTexts::kNotListed, {{"name", PathText::forDisplay(name)}}}, {}};
 }
 
+/// Whether a word of the question is neither understood nor part of the name: it asks for something else.
+bool hasOtherNames(const Question& question, const std::string& name)
+{
+    const std::size_t place = placeIn(question);
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Phrase& phrase = question.phrases[i];
+        const bool isName = phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
+        if (isName && i != place && name.find(phrase.text) == std::string::npos)
+            return true;
+    }
+    return false;
+}
+
+/// What the home folder has by this name and no finding lists.
+std::vector<SeenName> unlisted(const Found& found, const std::string& name, const std::string& folder,
+                               const AskContext& context)
+{
+    std::vector<SeenName> seen = seenNamed(name, context);
+    std::erase_if(seen, [&](const SeenName& each) {
+        return !liesIn(each.path, folder) ||
+               std::ranges::any_of(found.hits, [&](const Hit& hit) { return hit.entry->path == each.path; });
+    });
+    return seen;
+}
+
+/// "Thunderbird mail" is not the cache of that name.
+bool isOfMail(const Question& question)
+{
+    return std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.sense == Sense::general &&
+               isListed("mail,mails,email,emails", plainLetters(phrase.text));
+    });
+}
+
+/// A name that fits only in part is no guess for a question about something else.
+bool mayBePartOfName(const Question& question)
+{
+    constexpr SenseSet kOfFiles{Sense::howBig, Sense::howMuch, Sense::remove,    Sense::safe,
+                                Sense::keep,   Sense::can,     Sense::takes,     Sense::undo,
+                                Sense::folder, Sense::subject, Sense::untouched, Sense::happens};
+    return question.phrases.size() == 1 || question.senses.meets(kOfFiles) ||
+           (question.phrases.size() == 2 && question.senses.has(Sense::what));
+}
+
 } // namespace
 
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
     const std::string name = nameIn(question);
-    if (name.empty())
+    if (name.empty() || hasOtherNames(question, name))
         return std::nullopt;
+    const std::string folder = placeNamed(question);
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
         found = findNamed(context, name);
+    std::erase_if(found.hits, [&](const Hit& hit) { return !liesIn(hit.entry->path, folder); });
+    std::erase_if(found.measured, [&](const Measured& each) { return !liesIn(each.path, folder); });
     if (found.fit < Fit::stem && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
             return app;
     }
     const std::string guarded = protectedPath(question, context, name);
-    if (!guarded.empty() && found.fit < Fit::whole)
+    if (!guarded.empty() && (found.fit < Fit::whole || isOfMail(question)))
         return protectedPlace(guarded, protectionOf(context, guarded));
+    const bool isWhole = found.fit == Fit::whole && !found.hits.empty();
+    if (const std::vector<SeenName> seen =
+            isNarrowed ? std::vector<SeenName>() : unlisted(found, name, folder, context);
+        !seen.empty()) {
+        Answer more = aboutSeen(seen, context);
+        if (!isWhole)
+            return more;
+        Answer listed = listedHits(context, found, PathText::forDisplay(name));
+        std::ranges::move(more.paths, std::back_inserter(listed.paths));
+        listed.text = AskText::lines({std::move(listed.text), std::move(more.text)});
+        return listed;
+    }
+    if (found.fit < Fit::stem && !isFileName(question, name) && !mayBePartOfName(question))
+        return std::nullopt;
     if (!found.hits.empty())
         return listedHits(context, found, PathText::forDisplay(name));
     if (!found.measured.empty())
@@ -279,14 +382,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
 {
     const std::string name = nameIn(question);
-    const auto isElse = [&](const Phrase& phrase) {
-        return phrase.sense == Sense::unknown && name.find(phrase.text) == std::string::npos;
-    };
     // "The mozilla cache"
     const Subject* const subject = question.subject();
     const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
                           findNamed(context, name, subject->kinds).fit >= Fit::words;
-    if (name.empty() || std::ranges::any_of(question.phrases, isElse) ||
+    if (name.empty() || hasOtherNames(question, name) ||
         (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);

@@ -2,6 +2,7 @@
 
 #include "insight/reader/Lexicon.h"
 #include "insight/reader/LowerName.h"
+#include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -17,7 +18,7 @@ namespace {
 
 /// Parts of words shorter than this stand in too many names.
 constexpr std::size_t kShortestPart = 4;
-constexpr std::size_t kShortestMistypedName = 5;
+constexpr std::size_t kShortestMistypedName = 6;
 
 /// The name that is looked for.
 class Wanted {
@@ -94,8 +95,9 @@ private:
 
     [[nodiscard]] bool holdsParts(std::string_view text) const
     {
-        return std::ranges::all_of(
-            m_words, [&](const std::string& word) { return text.find(word) != std::string_view::npos; });
+        return std::ranges::all_of(m_words, [&](const std::string& word) {
+            return anyWord(text, [&](std::string_view each) { return each.starts_with(word); });
+        });
     }
 
     [[nodiscard]] bool holdsMistyped(std::string_view text) const
@@ -242,6 +244,32 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
             return found;
     }
     return bestFit(context, name, kinds, Fit::mistyped);
+}
+
+bool isWholeName(const AskContext& context, std::string_view name)
+{
+    return bestFit(context, name, {}, Fit::stem).fit != Fit::none;
+}
+
+std::string folderNamed(const AskContext& context, const std::string& text)
+{
+    if (std::string path = pathIn(text); !path.empty())
+        return path;
+    if (context.home != nullptr && text.find("..") == std::string::npos) {
+        std::string below = Places::current().normalized(PathText::join(Places::current().home, text));
+        if (isRealFolder(below))
+            return below;
+    }
+    const Found found = findNamed(context, text);
+    if (found.fit == Fit::whole && !found.measured.empty())
+        return found.measured.front().path;
+    if (context.home == nullptr)
+        return {};
+    for (SeenName& seen : context.home->named({lowered(text)})) {
+        if (seen.isFolder)
+            return std::move(seen.path);
+    }
+    return {};
 }
 
 std::vector<Hit> eachOnce(std::vector<Hit> hits)

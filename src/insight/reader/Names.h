@@ -39,6 +39,12 @@ struct Found {
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
 
+/// Whether something known has this name, with or without the ending of a file.
+[[nodiscard]] bool isWholeName(const AskContext& context, std::string_view name);
+
+/// The folder that a text names: its path, its path below the home folder, or its name; empty if none.
+[[nodiscard]] std::string folderNamed(const AskContext& context, const std::string& text);
+
 /// Each path once: several findings may list it, a single one never does twice. `hits` in the order of the
 /// findings.
 [[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);

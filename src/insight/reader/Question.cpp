@@ -26,8 +26,8 @@ public:
     Question question()
     {
         while (m_at < m_words.size()) {
-            if (!takeQuoted() && !takePeriod() && !takeSize() && !takeKnown(2) && !takeOrdinal() &&
-                !takeKnown(1) && !takeNumber())
+            if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSize() && !takeKnown(2) &&
+                !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
                 takeUnknown();
         }
         return std::move(m_question);
@@ -70,7 +70,40 @@ private:
     {
         if (!m_words[m_at].isQuoted)
             return false;
+        // What does "Review" mean?
+        constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
+        const Lexicon::Entry* const entry = m_lexicon.find(m_plain[m_at]);
+        if (entry != nullptr && kRatings.has(entry->sense)) {
+            take({entry->sense, {}, nullptr, 0, {}}, 1);
+            return true;
+        }
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);
+        return true;
+    }
+
+    /// "mp3", "zip files", ".img": of file names, beside the files.
+    bool takeEnding()
+    {
+        const std::string& word = m_plain[m_at];
+        const std::string ending = endingIn(word);
+        if (ending.empty())
+            return false;
+        const auto isFiles = [&](std::size_t at) {
+            const Lexicon::Entry* const entry = at < m_plain.size() ? m_lexicon.find(m_plain[at]) : nullptr;
+            return entry != nullptr && entry->subject != nullptr && entry->subject->isAnyFile;
+        };
+        const bool isBesideFiles = isFiles(m_at + 1) || (m_at > 0 && isFiles(m_at - 1));
+        const bool isDotted = word.starts_with('.') || word.starts_with("*.");
+        if (!isBesideFiles && (m_isName(word) || !isKnownEnding(ending)))
+            return false;
+        if (isBesideFiles && !isDotted && !isKnownEnding(ending))
+            return false;
+        take({Sense::ending, {}, nullptr, 0, {}}, 1);
+        m_question.phrases.back().text = ending;
+        if (!isBesideFiles) {
+            m_question.phrases.push_back({Sense::subject, {}, &subjectFor(SubjectID::files)});
+            m_question.senses.add(Sense::subject);
+        }
         return true;
     }
 
@@ -100,6 +133,16 @@ private:
         if (number)
             take({Sense::ordinal, {}, nullptr, static_cast<std::int64_t>(*number), {}}, 1);
         return number.has_value();
+    }
+
+    /// "67%", which an answer tells better.
+    bool takeShare()
+    {
+        const std::string& word = m_plain[m_at];
+        if (!word.ends_with('%') || word.find_first_not_of("0123456789.,%") != std::string::npos)
+            return false;
+        take({Sense::filler, {}, nullptr, 0, {}}, 1);
+        return true;
     }
 
     bool takeNumber()
@@ -173,6 +216,11 @@ private:
     void takeUnknown()
     {
         const std::string word = m_plain[m_at];
+        // Hidden names and paths are no words.
+        if (word.starts_with('.') || word.find('/') != std::string::npos) {
+            take({Sense::unknown, {}, nullptr, 0, {}}, 1);
+            return;
+        }
         if (takeCompound(word) || takeInflected(word))
             return;
         const Lexicon::Entry* const meant =

@@ -18,6 +18,8 @@ enum class Sense : std::uint8_t {
     can,
     remove,
     uninstall,
+    installed,
+    hidden,
     safe,
     review,
     keep,
@@ -69,6 +71,7 @@ enum class Sense : std::uint8_t {
     number,
     ordinal,
     period,
+    ending,  ///< of file names: ".mp3"
     quoted,  ///< text in quotation marks
     unknown, ///< perhaps a name
     // These stand beside the senses of a question: they tell how it hangs together.

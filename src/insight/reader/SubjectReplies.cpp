@@ -53,17 +53,23 @@ Amount listedFiles(const Subject& subject, const AskContext& context)
     return amount;
 }
 
-/// Bytes of a folder with everything in it; nothing if the breakdown doesn't know it.
-std::optional<std::int64_t> folderSize(const StorageBreakdown& breakdown, std::string_view folder)
+/// Bytes of a folder with everything in it; nothing if the scan doesn't know it.
+std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
 {
+    if (const std::int64_t now = context.home == nullptr ? 0 : context.home->sizeOf(folder); now > 0)
+        return now;
     std::int64_t bytes = 0;
     bool isKnown = false;
-    for (const CategoryFolder& each : breakdown.folders) {
+    for (const CategoryFolder& each : context.breakdown.folders) {
         isKnown = isKnown || each.path == folder;
         if (PathText::isAtOrBelow(each.path, folder))
             bytes = checkedAdd(bytes, each.bytes);
     }
-    return isKnown ? std::optional(bytes) : std::nullopt;
+    if (isKnown || context.folders.empty())
+        return isKnown ? std::optional(bytes) : std::nullopt;
+    const std::vector<FolderSize>& measured = context.folders.back().folders;
+    const auto found = std::ranges::find(measured, folder, &FolderSize::path);
+    return found == measured.end() ? std::nullopt : std::optional(found->bytes);
 }
 
 void addCategory(Lines& lines, OrlenCategory category, const StorageBreakdown& breakdown)
@@ -74,10 +80,10 @@ void addCategory(Lines& lines, OrlenCategory category, const StorageBreakdown& b
                                {{"category", within(label(category))}, {"size", Bytes{found->second}}}});
 }
 
-void addFolder(Lines& lines, const Subject& subject, const StorageBreakdown& breakdown)
+void addFolder(Lines& lines, const Subject& subject, const AskContext& context)
 {
     const std::string folder = folderOf(subject);
-    const auto bytes = folder.empty() ? std::nullopt : folderSize(breakdown, folder);
+    const auto bytes = folder.empty() ? std::nullopt : folderSize(context, folder);
     if (bytes)
         lines.texts.push_back(
             {InsightTexts::kFolderTakes, {{"folder", tilde(folder)}, {"size", Bytes{*bytes}}}});
@@ -104,7 +110,16 @@ void addFindings(Lines& lines, const Subject& subject, const AskContext& context
 
 void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
 {
-    if (subject.extensions.empty() || context.findings.empty())
+    if (subject.extensions.empty())
+        return;
+    if (context.home != nullptr) {
+        Question files;
+        files.phrases.push_back({Sense::subject, {}, &subject});
+        if (const auto answer = countOfFiles(withPhrases(files, files.phrases), context))
+            lines.texts.push_back(answer->text);
+        return;
+    }
+    if (context.findings.empty())
         return;
     const Amount amount = listedFiles(subject, context);
     const Place files{"files", within(subject.name)};
@@ -177,7 +192,7 @@ std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& 
         return std::nullopt;
     const Subject& subject = *main;
     Lines lines;
-    addFolder(lines, subject, context.breakdown);
+    addFolder(lines, subject, context);
     if (subject.category)
         addCategory(lines, *subject.category, context.breakdown);
     addFiles(lines, subject, context);

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <utility>
 
 namespace orlen::AskReader {
 
@@ -145,6 +147,7 @@ const std::vector<Subject>& subjects()
         {ID::flatpak, {}, "", {}, {}, "", false, true},
         {ID::snap, {}, "", {}, {}, "", false, true},
         {ID::games, {}, "", {}, {}, "", false, true},
+        {ID::leftovers, {}, "", {}, {}, "", false, true},
     };
     return all;
 }
@@ -172,9 +175,47 @@ std::string folderOf(const Subject& subject)
     if (!folders.empty())
         return folders.front();
     // Without a setting, the name everybody knows.
-    if (subject.folder == "{DOWNLOAD}")
-        return Places::current().home + "/Downloads";
+    constexpr std::pair<std::string_view, std::string_view> kUsual[] = {
+        {"{DOWNLOAD}", "Downloads"}, {"{MUSIC}", "Music"},         {"{VIDEOS}", "Videos"},
+        {"{PICTURES}", "Pictures"},  {"{DOCUMENTS}", "Documents"}, {"{DESKTOP}", "Desktop"}};
+    for (const auto& [pattern, name] : kUsual) {
+        if (subject.folder == pattern)
+            return PathText::join(Places::current().home, name);
+    }
     return {};
+}
+
+std::string endingIn(std::string_view word)
+{
+    constexpr std::size_t kLongest = 6;
+    const bool isDotted = word.starts_with('.') || word.starts_with("*.");
+    std::string ending = PathText::asciiLower(word.substr(isDotted ? word.find('.') + 1 : 0));
+    if (!isDotted && ending.ends_with('s') && isKnownEnding(ending.substr(0, ending.size() - 1)))
+        ending.pop_back();
+    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'); };
+    const auto isFigure = [](char c) { return c >= '0' && c <= '9'; };
+    if (ending.size() < 2 || ending.size() > kLongest || !std::ranges::all_of(ending, isLetter) ||
+        std::ranges::all_of(ending, isFigure) || (!isDotted && !isKnownEnding(ending)))
+        return {};
+    return ending == "jpeg" ? "jpg" : ending;
+}
+
+bool isNamed(std::string_view path, std::string_view ending)
+{
+    const std::string its = PathText::asciiLower(PathText::extension(path));
+    return its == ending || (ending == "jpg" && its == "jpeg");
+}
+
+bool isKnownEnding(std::string_view ending)
+{
+    // Words of their own, and what has a subject of its own.
+    constexpr std::string_view kElse[] = {"pdf",  "pages", "numbers", "key",  "run", "raw", "ts",
+                                          "snap", "doc",   "tex",     "opus", "pkg", "img", "md"};
+    return std::ranges::find(kElse, ending) == std::end(kElse) &&
+           std::ranges::any_of(subjects(), [&](const Subject& subject) {
+               return (" " + std::string(subject.extensions) + " ").find(" " + std::string(ending) + " ") !=
+                      std::string::npos;
+           });
 }
 
 bool hasExtensionOf(const Subject& subject, std::string_view path)

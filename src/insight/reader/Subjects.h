@@ -59,6 +59,7 @@ enum class SubjectID : std::uint8_t {
     flatpak,
     snap,
     games,
+    leftovers,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often
@@ -82,6 +83,14 @@ struct Subject {
 
 /// The folder in use that the subject stands for; empty if none.
 [[nodiscard]] std::string folderOf(const Subject& subject);
+
+/// The ending of file names that a word is: of "mp3s", ".img" and "*.JPEG". Empty if it is none; of words
+/// without a dot only those that mean nothing else.
+[[nodiscard]] std::string endingIn(std::string_view word);
+/// Whether a file has that ending.
+[[nodiscard]] bool isNamed(std::string_view path, std::string_view ending);
+/// Whether files of a subject have it.
+[[nodiscard]] bool isKnownEnding(std::string_view ending);
 
 /// Whether a file of this name is of the subject's kind.
 [[nodiscard]] bool hasExtensionOf(const Subject& subject, std::string_view path);

@@ -60,8 +60,11 @@ bool ConversationModel::ask(const QString& question)
     append(ChatMessage::question(asked.toStdString()));
     setThinking(true);
     m_workers.start(
-        [question = understood(asked), context = m_app.askContext(), before = m_conversation](
-            const std::stop_token& /*stop*/) { return AskEngine::turn(question, context, before); },
+        [question = understood(asked), context = m_app.askContext(),
+         before = m_conversation](const std::stop_token& stop) mutable {
+            context.home = std::make_shared<HomeLook>(stop);
+            return AskEngine::turn(question, context, before);
+        },
         [this](Turn turn) {
             setThinking(false);
             m_conversation = std::move(turn.next);
