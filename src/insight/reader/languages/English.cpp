@@ -270,7 +270,8 @@ constexpr WordRow kWords[] = {
      "listened,dusty,collecting dust,gathering dust,neglected,abandoned,ignored,stale,idle,not needed "
      "since,unwatched,unread,not read,unplayed,last opened,last used,last accessed,last viewed,last watched"},
     {Sense::before, "before,older than,earlier than,prior to,more than ago,older then,till,until"},
-    {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
+    {Sense::since, "since the beginning of,since the start of,since beginning of,since start of,since,newer "
+                   "than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
     {Sense::privacy,
