@@ -51,6 +51,7 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
     m_storage = std::make_unique<Storage>(taken(Persist::loadSnapshots(), AppTexts::kSnapshots, m_notices),
                                           m_isWriter ? Storage::Saving::all : Storage::Saving::none);
     m_programs = std::make_unique<Programs>();
+    m_homeContents = std::make_unique<HomeContents>();
     m_exclusions = std::make_unique<ExclusionList>(loadExclusions(m_notices),
                                                    m_isWriter ? ExclusionList::Access::writer
                                                               : ExclusionList::Access::reader);
@@ -62,6 +63,10 @@ AppModel::AppModel(const Options& options, QObject* parent) : QObject(parent)
     // A question that is being answered keeps what it has.
     connect(m_results.get(), &Results::findingsChanged, this,
             [this] { m_names = std::make_shared<NameCache>(); });
+    const auto refresh = [this] { m_homeContents->refresh(); };
+    connect(m_results.get(), &Results::lastScanChanged, this, refresh);
+    connect(m_cleanUps.get(), &CleanUps::cleaningFinished, this, refresh);
+    connect(m_cleanUps.get(), &CleanUps::restored, this, refresh);
     if (options.startup == Startup::full)
         m_storage->startUp();
 }
@@ -110,7 +115,7 @@ AskContext AppModel::askContext() const
             m_programs->apps(),
             m_programs->startupItems(),
             m_programs->leftovers(),
-            std::make_shared<HomeLook>(),
+            m_homeContents->files(),
             m_names};
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/CleanUps.h"
 #include "app/ExclusionList.h"
+#include "app/HomeContents.h"
 #include "app/Programs.h"
 #include "app/Results.h"
 #include "app/Storage.h"
@@ -60,6 +61,8 @@ public:
     [[nodiscard]] Storage* storage() const { return m_storage.get(); }
     /// Read only when asked to.
     [[nodiscard]] Programs* programs() const { return m_programs.get(); }
+    /// Read only when asked to; then again after each scan and clean-up.
+    [[nodiscard]] HomeContents* homeContents() const { return m_homeContents.get(); }
 
     /// Whether this model saves: it was asked to, and no other process has locked the data folder.
     [[nodiscard]] bool isWriter() const { return m_isWriter; }
@@ -77,6 +80,7 @@ private:
     std::vector<Message> m_notices;
     std::unique_ptr<Storage> m_storage;
     std::unique_ptr<Programs> m_programs;
+    std::unique_ptr<HomeContents> m_homeContents;
     std::unique_ptr<ExclusionList> m_exclusions;
     std::unique_ptr<Results> m_results;
     std::shared_ptr<NameCache> m_names;   ///< of the results, for questions

@@ -28,13 +28,23 @@ void printAnswer(const Answer& answer)
     Session::print(shown(answer.text) + "\n\n" + Session::colours().styled(Style::dim, introduction) + '\n');
 }
 
-/// Reads the applications and startup items; false if Ctrl-C was pressed.
-bool readPrograms(Session& session, AppModel& model)
+/// Reads what the question may be about beside the scan; false if Ctrl-C was pressed.
+bool readMore(Session& session, AppModel& model, const std::string& question)
 {
+    const AskContext scan = model.askContext();
+    const bool needsPrograms = AskEngine::needsPrograms(question, scan);
+    const bool needsHome = AskEngine::needsHome(question, scan);
+    if (needsPrograms)
+        model.programs()->load();
+    if (needsHome)
+        model.homeContents()->load();
+    const auto isThere = [&] {
+        return (!needsPrograms || model.programs()->apps().has_value()) &&
+               (!needsHome || model.homeContents()->files() != nullptr);
+    };
     bool isStopped = false;
-    model.programs()->load();
-    session.run({[&] { return isStopped || model.programs()->apps().has_value(); }, [&] { isStopped = true; },
-                 [] { return CliTexts::kMeasuringApps; }});
+    session.run({[&] { return isStopped || isThere(); }, [&] { isStopped = true; },
+                 [&] { return needsPrograms ? CliTexts::kMeasuringApps : CliTexts::kMeasuring; }});
     return !isStopped;
 }
 
@@ -57,7 +67,7 @@ public:
         AppModel model({AppModel::Startup::filesOnly, AppModel::Access::reader});
         if (!SmartScan::run(session, model, m_thresholdMB))
             return ExitStatus::interrupted;
-        if (AskEngine::needsPrograms(m_question, model.askContext()) && !readPrograms(session, model))
+        if (!readMore(session, model, m_question))
             return session.cancelled();
         const Answer answer = AskEngine::answer(m_question, model.askContext());
         if (wantsJson())

@@ -3,12 +3,12 @@
 #include "clean/CleanRecord.h"
 #include "clean/FolderReading.h"
 #include "clean/Protection.h"
-#include "insight/HomeLook.h"
 #include "insight/Predictor.h"
 #include "insight/reader/NameIndex.h"
 #include "model/Finding.h"
 #include "model/Message.h"
 #include "platform/values/Time.h"
+#include "scan/HomeFiles.h"
 #include "scan/StorageBreakdown.h"
 
 #include <cstdint>
@@ -53,8 +53,8 @@ struct AskContext {
     std::optional<std::vector<KnownApp>> apps{};
     std::optional<std::vector<KnownStartupItem>> startupItems{};
     std::optional<std::vector<FileEntry>> leftovers{}; ///< of applications that are gone, largest first
-    /// For what the scan doesn't list; null if answers are to use nothing but the scan.
-    std::shared_ptr<const HomeLook> home{};
+    /// What lies in the home folder; null until it has been walked, then answers know what the scan lists.
+    std::shared_ptr<const HomeFiles> home{};
     /// The words in the names of the findings, made when they are first needed. Whoever asks several times
     /// about the same findings hands on the same. Never null.
     std::shared_ptr<NameCache> names = std::make_shared<NameCache>();

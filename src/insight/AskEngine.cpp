@@ -106,6 +106,11 @@ bool needsPrograms(const std::string& question, const AskContext& context, const
     return !model.isAvailable() && AskReader::needsPrograms(inEnglish(question), context);
 }
 
+bool needsHome(const std::string& question, const AskContext& context, const LanguageModel& model)
+{
+    return !model.isAvailable() && AskReader::needsHome(inEnglish(question), context);
+}
+
 std::string contextText(const AskContext& context)
 {
     const StorageBreakdown& breakdown = context.breakdown;

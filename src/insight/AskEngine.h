@@ -57,6 +57,10 @@ inline constexpr std::array<Text, 5> kSuggestions{
 [[nodiscard]] bool needsPrograms(const std::string& question, const AskContext& context,
                                  const LanguageModel& model = LanguageModel::ofSystem());
 
+/// Whether `answer` may use what lies in the home folder, which takes time to walk.
+[[nodiscard]] bool needsHome(const std::string& question, const AskContext& context,
+                             const LanguageModel& model = LanguageModel::ofSystem());
+
 /// The built-in matcher: looks for keywords anywhere in the question and always has an answer.
 [[nodiscard]] Answer fallback(std::string_view question, const AskContext& context);
 

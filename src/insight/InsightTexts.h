@@ -175,6 +175,8 @@ inline constexpr Text kFilesIn = message("{files} in {folder}");
 // to, say it in another way, such as "{files}: the last scan lists …".
 inline constexpr Text kFilesListed = messages("Of {files} the last scan lists {count}, {size} in all.",
                                               "Of {files} the last scan lists {count}, {size} in all.");
+inline constexpr Text kFolders = messageIn("files, within a sentence", "folders");
+inline constexpr Text kFilesHidden = message("hidden {files}");
 // TRANSLATORS: {files} is as above; {ending} is ".mp3".
 inline constexpr Text kFilesEnding = message("{files} ending in {ending}");
 // TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos". It cannot change its form: if it has
@@ -195,6 +197,13 @@ inline constexpr Text kTheNewest = message("The newest:");
 inline constexpr Text kFileChanged = message("• {path} ({size}), changed {date} — {rating}");
 inline constexpr Text kFileOpened = message("• {path} ({size}), opened {date} — {rating}");
 inline constexpr Text kFileUnrated = message("• {path} ({size}), changed {date}");
+inline constexpr Text kOpenedUnrated = message("• {path} ({size}), opened {date}");
+// TRANSLATORS: {line} is one of a list such as "• ~/a.zip (3 GB), changed 4 March 2024"; {title} is a group
+// of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kListedLine = message("{line} — {title}, {rating}");
+inline constexpr Text kSmallestLeftOut =
+    message("Your home folder holds more files than Orlen keeps in mind: the smallest in caches and hidden "
+            "folders are left out.");
 inline constexpr Text kFileUndated = message("• {path} ({size}) — {rating}");
 inline constexpr Text kNoneListed =
     // TRANSLATORS: {files} is "videos" or "videos over 3 GB in ~/Videos".
@@ -251,8 +260,10 @@ inline constexpr Text kListedInside =
              "In it the last scan lists {count} items, {size} in all; {safe} of that is rated Safe.");
 inline constexpr Text kNotSuggested =
     message("The last scan doesn't suggest it for a clean-up, so Orlen has no rating for it.");
-// TRANSLATORS: follows a sentence about what the last scan lists in a folder.
-inline constexpr Text kRestNotSuggested = message("The rest of it is not suggested for a clean-up.");
+inline constexpr Text kLookFirst = message("Look at it before you remove it.");
+// TRANSLATORS: {title} is a group of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
+inline constexpr Text kPartOf = message("It is part of {path}, listed under “{title}” and rated {rating}.");
+inline constexpr Text kNowhere = message("I find nothing called “{name}” in your home folder.");
 inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
                                                 "clean-up. History can put it back.");
 inline constexpr Text kNotListed =

@@ -1,48 +1,157 @@
 #include "insight/AskWorld.h"
+#include "scan/HomeWalk.h"
 
 namespace orlen {
 namespace {
 
-/// Files that no finding lists.
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Questions about files and folders, most of which no finding lists.
 class AskHomeTest : public AskWorld {
 protected:
     void SetUp() override
     {
         AskWorld::SetUp();
-        for (const char* name :
-             {"Documents/Summer of 69.mp3", "Documents/plan (1).pdf", "Projects/site/notes.txt",
-              "Projects/site/node_modules/a/index.js", "Projects/photo.jpg", ".hidden.zip",
-              ".cache/thumb.jpg", "Music/a.mp3", "Music/b.flac"})
-            home.file(name, std::string(20'000, 'x'));
-        home.file("Projects/disk.img", std::string(900'000, 'x'));
-        context.home = std::make_shared<HomeLook>();
+        context.findings.clear();
+        file("backup-2025.img", 12 * kBytesInMB, "2026-05-02");
+        file(".backup.img", 13 * kBytesInMB, "2026-05-03");
+        file("Videos/Lake house.mkv", 11 * kBytesInMB, "2025-07-04");
+        file("Music/Evening set.flac", 10 * kBytesInMB, "2024-02-03");
+        file("Music/Matinee.flac", 9 * kBytesInMB, "2026-05-06");
+        file("Downloads/Floor plan (1).pdf", kBytesInMB, "2026-05-31");
+        file("Downloads/garden plan.pdf", kBytesInMB / 2, "2026-03-01");
+        file("Downloads/setup.deb", kBytesInMB / 4, "2026-02-01");
+        file("Documents/Floor plan.pdf", kBytesInMB, "2026-04-04");
+        file("Projects/engine/target/disk.img", 8 * kBytesInMB, "2026-05-04");
+        file("Projects/site/node_modules/lib.js", 2 * kBytesInMB, "2026-05-04");
+        file("Tools/saw.txt", kBytesInMB, "2026-05-04");
+        file(".cache/pip-tools/x", kBytesInMB, "2026-05-31");
+        file(".cache/mail/picture.jpg", kBytesInMB, "2026-05-31");
+        file("Pictures/Coast/shot one.jpg", kBytesInMB, "2026-04-01");
+        file("Pictures/Coast/shot two.jpg", kBytesInMB / 2, "2026-04-02");
+        file("VirtualBox VMs/Testing/box.vdi", 3 * kBytesInMB, "2026-04-02");
+        add(FindingKind::caches, Rating::review, message("Made again."),
+            {entry("Projects/engine/target", 8 * kBytesInMB), entry(".cache/pip-tools", kBytesInMB)});
+        add(FindingKind::oldFiles, Rating::review, message("Not opened for long."),
+            {entry("Music/Evening set.flac", 10 * kBytesInMB)});
+        context.breakdown.folders.clear();
+        context.home = HomeWalk::walk({});
+    }
+
+    void file(const std::string& name, std::int64_t bytes, const std::string& date) const
+    {
+        constexpr std::int64_t kBlock = 4'096;
+        const std::string path = home.fileOfSize(name, bytes / kBlock * kBlock);
+        TempHome::setTimes(path, on(date), on(date));
     }
 };
 
-constexpr Row kOfHome[] = {
-    {"biggest file", "~/Projects/disk.img"},
-    {"3 biggest files in Projects", "disk.img|photo.jpg|Of files in ~/Projects there are 4", "slack|wedding"},
-    {"how many photos do i have", "Of photos there is 1", "thumb"},
-    {"mp3 files", "Of files ending in .mp3 there are 2", "flac"},
-    {"any zip files in Music", "I found no files ending in .zip in ~/Music"},
-    {"show me all .img files", "disk.img", "flac"},
-    {"biggest folders in Projects", "~/Projects/site", "disk.img"},
-    {"hidden folders by size", "~/.cache", "Projects"},
-    {"what is node_modules", "~/Projects/site/node_modules takes"},
-    {"can i delete Summer of 69.mp3", "~/Documents/Summer of 69.mp3 takes|no rating"},
-    {"where is plan (1).pdf", "~/Documents/plan (1).pdf takes"},
-    {"how big is the folder Projects", "The folder ~/Projects takes"},
-    {"notes.txt in Projects", "~/Projects/site/notes.txt"},
-    {"notes.txt in Documents", "not in the results"},
-    {"what is in .cache", "~/.cache takes|In it the last scan lists 2 items"},
-    {"largest file thats not a photo in Projects", "Left out: photos.|disk.img", "photo.jpg"},
+constexpr Row kFiles[] = {
+    {"10 biggest files",
+     "Of files there are 18|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 8 more"},
+    {"what is the biggest file", "~/.backup.img (13 MB), changed 3 May 2026", "backup-2025|more"},
+    {"the three largest files", "~/.backup.img|~/backup-2025.img|Lake house.mkv|and 15 more", "Evening"},
+    {"files over 9.5 MB", "Of files over 9.5 MB there are 4|Evening set.flac", "Matinee"},
+    {"show me the biggest videos", "Of videos there is 1, 11 MB in all.|Lake house.mkv", "img"},
+    {"show me all .img files", "Of files ending in .img there are 3|disk.img (8 MB)|App caches, Review"},
+    {"how many flac files", "Of files ending in .flac there are 2, 19 MB in all."},
+    {"how many mp3 do I have", "I found no files ending in .mp3."},
+    {"how many PDFs are in Downloads", "Of PDFs in ~/Downloads there are 2"},
+    {"how many photos do I have", "Of photos there are 2, 1.5 MB in all.", "category"},
+    {"newest files", "Floor plan (1).pdf", "pip-tools|.cache"},
+    {"files changed in april 2026", "there are 4|Floor plan.pdf", "setup"},
+    {"files between 8 and 10 MB", "there are 2|Evening set.flac|Matinee.flac"},
+    {"biggest file in Projects/engine", "in ~/Projects/engine|target/disk.img", "lib.js"},
+    {"files I haven't opened for a year", "Evening set.flac (10 MB), opened 3 February 2024", "Matinee"},
+    {"biggest files except videos", "Left out: videos.|.backup.img", "Lake house"},
+    {"biggest file in Downloads over 50 MB", "I found no files over 50 MB in ~/Downloads."},
+    {"die 3 größten Dateien", "~/.backup.img|~/backup-2025.img|Lake house.mkv", "Evening"},
+    {"wie viele PDFs habe ich", "Of PDFs there are 3"},
+    {"größte datei in Projects/engine", "target/disk.img"},
+    {"fichiers de plus de 10,5 mo", "there are 3|Lake house.mkv"},
+    {"le plus gros fichier", "~/.backup.img", "backup-2025"},
+    {"archivo más antiguo de la carpeta Downloads", "setup.deb", "garden"},
+    {"cuántos archivos mp3 tengo", "I found no files ending in .mp3."},
+    {"il file più recente nella cartella Downloads", "Floor plan (1).pdf", "garden"},
 };
 
-} // namespace
+constexpr Row kFolders[] = {
+    {"biggest folders", "Of folders there are|~/Music — 19 MB", "target"},
+    {"three largest folders in Projects", "Of folders in ~/Projects there are 2|~/Projects/engine — 8 MB",
+     "target"},
+    {"biggest hidden folders", "~/.cache — 2 MB", "Music"},
+    {"how big is my .cache folder", "~/.cache takes 2 MB", "category"},
+    {"whats the size of the Tools folder", "~/Tools takes 999 KB", "pip-tools"},
+    {"how big is my music folder", "~/Music takes 19 MB"},
+    {"how big is my home folder", "~ takes"},
+    {"size of VirtualBox VMs", "~/VirtualBox VMs takes 3 MB"},
+    {"how big is Projects", "~/Projects takes 10 MB|In it the last scan lists 1 item, 8 MB",
+     "doesn't suggest"},
+    {"wie groß ist der Musikordner", "~/Music takes 19 MB"},
+    {"quanto è grande la cartella Tools", "~/Tools takes 999 KB"},
+};
 
-TEST_F(AskHomeTest, whatTheScanDoesNotListIsLookedUp)
+constexpr Row kNames[] = {
+    {"can I delete Lake house.mkv", "~/Videos/Lake house.mkv takes 11 MB|changed on 4 July 2025|Look at it",
+     "fit"},
+    {"where is Floor plan.pdf", "~/Documents/Floor plan.pdf takes", "Downloads|garden"},
+    {"where is the file garden plan.pdf?", "~/Downloads/garden plan.pdf takes", "Floor"},
+    {"is Floor plan (1).pdf important", "~/Downloads/Floor plan (1).pdf takes 999 KB", "Documents"},
+    {"what is .backup.img", "~/.backup.img takes 13 MB"},
+    {"what is lake house", "~/Videos/Lake house.mkv takes 11 MB"},
+    {"can I delete disk.img",
+     "disk.img takes 8 MB|part of ~/Projects/engine/target, listed under “App caches”"},
+    {"delete node_modules?", "~/Projects/site/node_modules takes 2 MB"},
+    {"how big is pip-tools in .cache", "~/.cache|listed under “App caches”"},
+    {"can I delete Evening set.flac", "Evening set.flac (10 MB) in ~/Music, listed under", "fit"},
+    {"can i delete vacation2019.zip", "I find nothing called “vacation2019.zip” in your home folder."},
+    {"how big is projects/ENGINE", "~/Projects/engine takes 8 MB"},
+    {"was ist backup-2025.img", "~/backup-2025.img takes 12 MB"},
+    {"kann ich den Ordner Projects/site löschen", "~/Projects/site takes 2 MB|Look at it"},
+    {"c'est quoi Matinee.flac", "~/Music/Matinee.flac takes 9 MB"},
+    {"puedo borrar garden plan.pdf", "~/Downloads/garden plan.pdf takes"},
+    {"posso eliminare Lake house.mkv", "~/Videos/Lake house.mkv takes 11 MB"},
+};
+
+TEST_F(AskHomeTest, listsAndCountsOfAllFiles)
 {
-    expectAnswers(kOfHome);
+    expectAnswers(kFiles);
 }
 
+TEST_F(AskHomeTest, sizesAndListsOfFolders)
+{
+    expectAnswers(kFolders);
+}
+
+TEST_F(AskHomeTest, anythingByItsName)
+{
+    expectAnswers(kNames);
+}
+
+TEST_F(AskHomeTest, linesLinkToTheirFindings)
+{
+    const Answer answer = AskEngine::answer("the two biggest flac files", context);
+    EXPECT_THAT(answer.paths,
+                ElementsAre(home.path("Music/Evening set.flac"), home.path("Music/Matinee.flac")));
+    EXPECT_THAT(answer.findingIDs, ElementsAre(context.findings.back().id()));
+    EXPECT_THAT(AskEngine::answer("biggest videos", context).findingIDs, IsEmpty());
+}
+
+TEST_F(AskHomeTest, saysThatFilesAreLeftOut)
+{
+    context.home = HomeWalk::walk({}, {.files = 3});
+    expectAnswer({"", "there are 3|more files than Orlen keeps in mind"},
+                 AskEngine::answer("biggest files", context));
+}
+
+TEST_F(AskHomeTest, aWalkIsNeededForFilesOnly)
+{
+    for (const char* question : {"10 biggest files", "can I delete Lake house.mkv", "how big is Tools"})
+        EXPECT_TRUE(AskEngine::needsHome(question, context)) << question;
+    for (const char* question : {"how much free space do I have", "what is using the most space?"})
+        EXPECT_FALSE(AskEngine::needsHome(question, context)) << question;
+}
+
+} // namespace
 } // namespace orlen

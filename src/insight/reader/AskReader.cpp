@@ -214,7 +214,7 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
         return Turn{{InsightTexts::kHelp, {}}, before};
     if (!isReadable(text) || isSuggested(text))
         return std::nullopt;
-    const std::vector<Word> words = withNames(wordsOf(text), context);
+    const std::vector<Word> words = withNames(text, context);
     if (words.empty())
         return std::nullopt;
     KnownNames names(context);
@@ -240,7 +240,7 @@ bool needsPrograms(std::string_view text, const AskContext& context)
     if (!isReadable(text) || isSuggested(text))
         return false;
     KnownNames names(context);
-    const Question question = bestReading(withNames(wordsOf(text), context), context.now,
+    const Question question = bestReading(withNames(text, context), context.now,
                                           [&](std::string_view word) { return names(word); }, {});
     return question.senses.has(uninstall) || std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
                const bool mayBeName = phrase.sense == unknown || phrase.sense == quoted;
@@ -249,13 +249,25 @@ bool needsPrograms(std::string_view text, const AskContext& context)
            });
 }
 
+bool needsHome(std::string_view text, const AskContext& context)
+{
+    if (!isReadable(text) || isSuggested(text))
+        return false;
+    KnownNames names(context);
+    const Question question = bestReading(withNames(text, context), context.now,
+                                          [&](std::string_view word) { return names(word); }, {});
+    constexpr SenseSet kOfFiles{unknown, quoted, folder, hidden,   ending, biggest,  most,
+                                oldest,  newest, period, smallest, takes,  unopened, subject};
+    return question.senses.meets(kOfFiles);
+}
+
 Conversation conversationAfter(std::string_view text, const AskContext& context, const Answer& answer,
                                const Conversation& before)
 {
     if (!isReadable(text))
         return {};
-    const Question question = bestReading(withNames(wordsOf(text), context), context.now,
-                                          [](std::string_view) { return false; }, {});
+    const Question question =
+        bestReading(withNames(text, context), context.now, [](std::string_view) { return false; }, {});
     return before.with({question, answer.findingIDs, answer.paths});
 }
 

@@ -21,6 +21,9 @@ namespace orlen::AskReader {
 /// Whether an answer may speak of applications or of what starts at login, which takes time to read.
 [[nodiscard]] bool needsPrograms(std::string_view question, const AskContext& context);
 
+/// Whether an answer may list files or folders, or look up a name, which takes a walk of the home folder.
+[[nodiscard]] bool needsHome(std::string_view question, const AskContext& context);
+
 /// The conversation after an answer of the matcher.
 [[nodiscard]] Conversation conversationAfter(std::string_view question, const AskContext& context,
                                              const Answer& answer, const Conversation& before);

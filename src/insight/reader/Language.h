@@ -65,6 +65,8 @@ struct Language {
     /// Words that lose their last vowel before another word: "l" of "l'espace".
     std::string_view elided;
     bool hasCompounds = false; ///< writes several words as one: "Downloadordner"
+    /// Words of which one stands for a single thing: "file", where "files" would be several.
+    std::string_view ones;
 };
 
 [[nodiscard]] const Language& english();

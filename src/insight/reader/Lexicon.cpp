@@ -142,6 +142,7 @@ Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompound
         m_elided.emplace(word);
         m_words.emplace(word);
     });
+    eachPhrase(language.ones, [&](std::string_view word) { m_ones.emplace(plainLetters(word)); });
 }
 
 std::span<const Lexicon> Lexicon::all()
@@ -149,6 +150,20 @@ std::span<const Lexicon> Lexicon::all()
     static const std::array lexicons{Lexicon(english()), Lexicon(german()), Lexicon(french()),
                                      Lexicon(spanish()), Lexicon(italian())};
     return lexicons;
+}
+
+bool Lexicon::meansOne(std::string_view phrase) const
+{
+    const std::string plain = plainLetters(phrase);
+    bool hasOne = false;
+    for (std::string_view rest = plain; !rest.empty();) {
+        const std::size_t end = std::min(rest.find(' '), rest.size());
+        if (!m_ones.contains(std::string(rest.substr(0, end))))
+            return false;
+        hasOne = true;
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return hasOne;
 }
 
 void Lexicon::addWords(std::string_view phrase)

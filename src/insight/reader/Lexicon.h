@@ -46,6 +46,8 @@ public:
 
     /// Whether it stands in a phrase or is a figure.
     [[nodiscard]] bool isWord(const std::string& word) const { return m_words.contains(word); }
+    /// Whether a phrase, as typed, speaks of one thing only: "biggest file".
+    [[nodiscard]] bool meansOne(std::string_view phrase) const;
     [[nodiscard]] bool isElided(const std::string& word) const { return m_elided.contains(word); }
     [[nodiscard]] bool hasCompounds() const { return m_hasCompounds; }
 
@@ -60,6 +62,7 @@ private:
     std::array<std::unordered_map<std::string, double>, kFigures> m_figures;
     std::unordered_set<std::string> m_words;
     std::unordered_set<std::string> m_elided;
+    std::unordered_set<std::string> m_ones;
     bool m_hasCompounds = false;
 };
 

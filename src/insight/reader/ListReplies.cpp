@@ -2,18 +2,17 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/HomeLists.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
-#include "platform/files/Places.h"
+#include "insight/reader/PathHits.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <map>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -79,117 +78,81 @@ Message lineFor(const ListRequest& request, const Hit& hit)
     return {isByOpening ? InsightTexts::kFileOpened : InsightTexts::kFileChanged, std::move(places)};
 }
 
-void addTo(Answer& answer, const Hit& hit)
+Message sumOf(const ListRequest& request, const HomeList& list)
 {
-    answer.paths.push_back(hit.entry->path);
-    if (std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end())
-        answer.findingIDs.emplace_back(hit.finding->id());
+    const Place files{"files", within(request.files)};
+    if (list.count == 0)
+        return {InsightTexts::kNoFilesThere, {files}};
+    return {InsightTexts::kFilesThere, {files, {"count", list.count}, {"size", Bytes{list.bytes}}}};
 }
 
-struct OwnedFile {
-    std::string path;
-    std::int64_t bytes = 0;
-    TimePoint modified;
-};
-
-/// What a look at the home folder met.
-struct Seen {
-    std::vector<OwnedFile> first; ///< in the order asked for
-    std::int64_t count = 0;
-    std::int64_t bytes = 0;
-
-    [[nodiscard]] Message sum(const ListRequest& request) const
-    {
-        const Place files{"files", within(request.files)};
-        if (count == 0)
-            return {InsightTexts::kNoFilesThere, {files}};
-        return {InsightTexts::kFilesThere, {files, {"count", count}, {"size", Bytes{bytes}}}};
-    }
-};
-
-bool isBefore(Order order, const OwnedFile& a, const OwnedFile& b)
+Message homeLine(const ListRequest& request, const HomeFiles::File& file, const std::string& path)
 {
-    if ((order == Order::oldest || order == Order::newest) && a.modified != b.modified)
-        return order == Order::oldest ? a.modified < b.modified : a.modified > b.modified;
-    if ((order == Order::biggest || order == Order::smallest) && a.bytes != b.bytes)
-        return order == Order::biggest ? a.bytes > b.bytes : a.bytes < b.bytes;
-    return a.path < b.path;
+    const bool isByOpening = request.openedTo != TimePoint::max();
+    return {isByOpening ? InsightTexts::kOpenedUnrated : InsightTexts::kFileUnrated,
+            {{"path", tilde(path)},
+             {"size", Bytes{file.bytes}},
+             {"date", Moment{isByOpening ? file.opened : file.changed}}}};
 }
 
-Seen seenIn(const ListRequest& request, const HomeLook& home)
+/// What the scan says about what a line is of.
+Message withRating(Message line, const Hit& hit)
 {
-    Seen seen;
-    const auto most = static_cast<std::size_t>(request.count);
-    const auto cut = [&] {
-        const auto end = seen.first.begin() + static_cast<std::ptrdiff_t>(std::min(most, seen.first.size()));
-        std::partial_sort(
-            seen.first.begin(), end, seen.first.end(),
-            [&](const OwnedFile& a, const OwnedFile& b) { return isBefore(request.order, a, b); });
-        seen.first.erase(end, seen.first.end());
-    };
-    const bool isOfKind =
-        (request.subject != nullptr && !request.subject->isAnyFile) || !request.ending.empty();
-    const std::string& folder = request.folder.empty() ? Places::current().home : request.folder;
-    home.eachFile(folder, isOfKind && !request.isHidden ? HomeLook::Among::visible : HomeLook::Among::all,
-                  [&](const SeenFile& file) {
-                      constexpr std::size_t kKept = 1'000;
-                      if (!request.admits(file))
-                          return;
-                      ++seen.count;
-                      seen.bytes = cappedAdd(seen.bytes, file.bytes);
-                      seen.first.push_back({std::string(file.path), file.bytes, file.modified});
-                      if (seen.first.size() >= kKept)
-                          cut();
-                  });
-    cut();
-    return seen;
+    if (hit.finding == nullptr)
+        return line;
+    return {InsightTexts::kListedLine,
+            {{"line", within(std::move(line))},
+             {"title", within(hit.finding->title)},
+             {"rating", within(label(hit.finding->effectiveRating(*hit.entry)))}}};
 }
 
-/// The entries of findings with these paths, the most careful rating of each.
-std::map<std::string_view, Hit> hitsOf(const std::vector<OwnedFile>& files, const AskContext& context)
+void addLink(Answer& answer, const Finding& finding)
 {
-    std::map<std::string_view, Hit> hits;
-    for (const OwnedFile& file : files)
-        hits.try_emplace(file.path);
-    for (const Finding& finding : context.findings) {
-        for (const FileEntry& entry : finding.items) {
-            const auto found = hits.find(entry.path);
-            if (found == hits.end())
-                continue;
-            Hit& hit = found->second;
-            if (hit.finding == nullptr ||
-                hit.finding->effectiveRating(*hit.entry) < finding.effectiveRating(entry))
-                hit = {&finding, &entry};
-        }
-    }
-    std::erase_if(hits, [](const auto& each) { return each.second.finding == nullptr; });
-    return hits;
+    if (std::ranges::find(answer.findingIDs, finding.id()) == answer.findingIDs.end())
+        answer.findingIDs.emplace_back(finding.id());
 }
 
-Answer listOfHome(const ListRequest& request, const AskContext& context)
+/// The sum of a list, its first lines, and how many more there are.
+Answer shownList(const ListRequest& request, const AskContext& context, const HomeList& list)
 {
-    const Seen seen = seenIn(request, *context.home);
-    std::vector<Message> lines{request.exclusions.said()};
-    if (seen.count < 2)
-        lines.push_back(seen.sum(request));
-    else
-        lines.push_back(AskText::sentences({seen.sum(request), heading(request.order)}));
+    const HomeFiles& home = *context.home;
     Answer answer;
-    const auto hits = hitsOf(seen.first, context);
-    for (const OwnedFile& file : seen.first) {
-        const auto hit = hits.find(file.path);
-        if (hit != hits.end()) {
-            lines.push_back(lineFor(request, hit->second));
-            addTo(answer, hit->second);
-            continue;
-        }
-        lines.push_back(
-            {InsightTexts::kFileUnrated,
-             {{"path", tilde(file.path)}, {"size", Bytes{file.bytes}}, {"date", Moment{file.modified}}}});
-        answer.paths.push_back(file.path);
+    for (const HomeFiles::Number number : list.first)
+        answer.paths.push_back(request.areFolders ? home.folderPath(number) : home.filePath(number));
+    std::vector<Message> lines{request.exclusions.said()};
+    const Message sum = sumOf(request, list);
+    lines.push_back(list.count < 2 ? sum : AskText::sentences({sum, heading(request.order)}));
+    const std::vector<Hit> hits = hitsAround(answer.paths, context);
+    for (std::size_t i = 0; i < hits.size(); ++i) {
+        const HomeFiles::Number number = list.first[i];
+        Message line =
+            request.areFolders
+                ? Message{InsightTexts::kDownload,
+                          {{"name", tilde(answer.paths[i])}, {"size", Bytes{home.folder(number).bytes}}}}
+                : homeLine(request, home.file(number), answer.paths[i]);
+        lines.push_back(withRating(std::move(line), hits[i]));
+        if (hits[i].finding != nullptr)
+            addLink(answer, *hits[i].finding);
     }
+    const auto more = list.count - std::ssize(list.first);
+    if (more > 0 && list.first.size() > 1)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    if (!home.isComplete())
+        lines.emplace_back(InsightTexts::kSmallestLeftOut);
     answer.text = AskText::lines(std::move(lines));
     return answer;
+}
+
+/// What lies in the home folder; nothing if only the scan can tell.
+std::optional<HomeList> homeListFor(const ListRequest& request, const AskContext& context)
+{
+    if (context.home == nullptr || request.isOfScan)
+        return std::nullopt;
+    const bool isDated = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
+                         request.openedTo != TimePoint::max();
+    if (request.areFolders)
+        return isDated ? std::nullopt : foldersFor(request, *context.home);
+    return filesFor(request, *context.home);
 }
 
 } // namespace
@@ -199,8 +162,10 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     const std::optional<ListRequest> request = listRequestIn(question, context);
     if (!request)
         return std::nullopt;
-    if (context.home != nullptr && !request->isOfScan)
-        return listOfHome(*request, context);
+    if (const auto list = homeListFor(*request, context))
+        return shownList(*request, context, *list);
+    if (request->areFolders || request->isHiddenOnly)
+        return std::nullopt;
     if (context.findings.empty())
         return Answer{InsightTexts::kNoScan, {}};
     const Place files{"files", within(request->files)};
@@ -221,7 +186,8 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     Answer answer;
     for (const Hit& hit : hits) {
         lines.push_back(lineFor(*request, hit));
-        addTo(answer, hit);
+        answer.paths.push_back(hit.entry->path);
+        addLink(answer, *hit.finding);
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
@@ -230,10 +196,17 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
 std::optional<Answer> countOfFiles(const Question& question, const AskContext& context)
 {
     const std::optional<ListRequest> request = listRequestIn(question, context);
-    if (!request || context.home == nullptr || request->isOfScan)
+    const auto list = request ? homeListFor(*request, context) : std::nullopt;
+    if (!list)
         return std::nullopt;
-    return Answer{AskText::lines({request->exclusions.said(), seenIn(*request, *context.home).sum(*request)}),
-                  {}};
+    const Message left = context.home->isComplete() ? Message() : InsightTexts::kSmallestLeftOut;
+    return Answer{AskText::lines({request->exclusions.said(), sumOf(*request, *list), left}), {}};
+}
+
+std::optional<Answer> listOfFolders(const Question& question, const AskContext& context)
+{
+    const std::optional<ListRequest> request = listRequestIn(question, context);
+    return request && request->areFolders ? listOfFiles(question, context) : std::nullopt;
 }
 
 std::optional<Answer> listOfRated(const Question& question, const AskContext& context)

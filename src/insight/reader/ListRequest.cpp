@@ -22,7 +22,12 @@ Order orderIn(const Question& question)
         return Order::oldest;
     if (question.senses.has(Sense::newest))
         return Order::newest;
-    return question.senses.has(Sense::smallest) ? Order::smallest : Order::biggest;
+    if (question.senses.has(Sense::smallest))
+        return Order::smallest;
+    // "The last download"
+    const bool isLast =
+        question.senses.has(Sense::last) && !question.senses.meets({Sense::biggest, Sense::most});
+    return isLast ? Order::newest : Order::biggest;
 }
 
 /// A kind to list: files by extension or finding, or every file.
@@ -160,19 +165,75 @@ bool takeSubjects(const Question& question, ListRequest& request)
     return true;
 }
 
-/// A folder given by its path or its name below the home folder. False if unknown words are none.
+bool isName(const Phrase& phrase)
+{
+    return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
+}
+
+/// "In the folder Projects": the word for folders is no part of what is listed.
+bool isAfterInside(const Question& question, std::size_t at)
+{
+    while (at > 0 && question.phrases[at - 1].sense == Sense::folder)
+        --at;
+    return at > 0 && question.phrases[at - 1].sense == Sense::inside;
+}
+
+/// A folder given by its path or its name. False if unknown words are none.
 bool takeFolder(const Question& question, const AskContext& context, ListRequest& request)
 {
-    const Phrase* const unknown = question.first(Sense::unknown);
-    const Phrase* const named = unknown != nullptr ? unknown : question.first(Sense::quoted);
-    if (named == nullptr)
+    const std::vector<Phrase>& phrases = question.phrases;
+    const auto first = std::ranges::find_if(phrases, isName);
+    if (first == phrases.end())
         return true;
-    if (!request.folder.empty() || question.position(named->sense) == 0 ||
-        question.phrases[question.position(named->sense) - 1].sense != Sense::inside ||
-        std::ranges::count(question.phrases, Sense::unknown, &Phrase::sense) > 1)
+    const auto last = std::find_if_not(first, phrases.end(), isName);
+    if (!request.folder.empty() || std::any_of(last, phrases.end(), isName) ||
+        !isAfterInside(question, static_cast<std::size_t>(first - phrases.begin())))
         return false;
-    request.folder = folderNamed(context, named->text);
+    std::string name;
+    for (auto each = first; each != last; ++each)
+        name += (name.empty() ? "" : " ") + each->text;
+    request.folder = folderNamed(context, name);
     return !request.folder.empty();
+}
+
+/// Whether folders are to be listed: the word for them stands alone, not beside the name of one.
+bool asksForFolders(const Question& question)
+{
+    const std::vector<Phrase>& phrases = question.phrases;
+    for (std::size_t i = 0; i < phrases.size(); ++i) {
+        if (phrases[i].sense != Sense::folder)
+            continue;
+        const bool isBesideName =
+            (i > 0 && isName(phrases[i - 1])) || (i + 1 < phrases.size() && isName(phrases[i + 1]));
+        if (!isBesideName && !isAfterInside(question, i))
+            return true;
+    }
+    return false;
+}
+
+/// "The biggest file", "il file più grande": one.
+bool asksForOne(const Question& question)
+{
+    constexpr SenseSet kSorts{Sense::biggest, Sense::smallest, Sense::oldest, Sense::newest, Sense::last};
+    return question.senses.meets(kSorts) && question.lexicon != nullptr &&
+           std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
+               const bool isNoun = phrase.subject != nullptr || phrase.sense == Sense::folder;
+               return (isNoun || kSorts.has(phrase.sense)) && question.lexicon->meansOne(phrase.text);
+           });
+}
+
+/// Of some kinds, programs and the system have many files that nobody means.
+bool isOfOwnFiles(const ListRequest& request)
+{
+    using enum SubjectID;
+    constexpr SubjectID kKinds[] = {videos,       photos,        audio,  pdfs,
+                                    spreadsheets, presentations, ebooks, documents};
+    const bool isByDate = request.order == Order::newest || request.order == Order::oldest ||
+                          request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
+                          request.openedTo != TimePoint::max();
+    const bool isOfKind = request.subject != nullptr && request.ending.empty() &&
+                          std::ranges::find(kKinds, request.subject->id) != std::end(kKinds);
+    return !request.isHiddenOnly && (isByDate || isOfKind);
 }
 
 /// "Safe files", "everything rated Keep". False if a rating is named in another way.
@@ -195,11 +256,10 @@ bool takeRating(const Question& question, ListRequest& request)
     return request.rating || !question.senses.meets({Sense::mean, Sense::review});
 }
 
-/// What may go, and what counts by when it was opened, only the scan can tell.
+/// What may go only the scan can tell.
 bool isOfScan(const Question& question, const ListRequest& request)
 {
-    constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise,
-                                 Sense::unopened};
+    constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise};
     const bool isOfKind =
         request.subject != nullptr && !request.subject->isAnyFile && request.subject->extensions.empty();
     return question.senses.meets(kChoosing) || isOfKind || request.listedAs != nullptr || request.rating ||
@@ -218,7 +278,14 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         return std::nullopt;
     if (!takeSubjects(question, request) || !takeFolder(question, context, request))
         return std::nullopt;
-    request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
+    request.areFolders = asksForFolders(question);
+    request.isHiddenOnly = question.senses.has(Sense::hidden);
+    if (request.areFolders)
+        request.files = InsightTexts::kFolders;
+    else
+        request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
+    if (request.isHiddenOnly)
+        narrow(request, InsightTexts::kFilesHidden, {});
     if (!takeRating(question, request) || !takeSizes(question, request) ||
         !takeDate(question, context.now, request))
         return std::nullopt;
@@ -226,10 +293,12 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         request.ending = PathText::asciiLower(ending->text);
         narrow(request, InsightTexts::kFilesEnding, {{"ending", "." + request.ending}});
     }
-    request.isHidden = question.senses.has(Sense::hidden);
     request.isOfScan = isOfScan(question, request);
+    request.isOwnOnly = isOfOwnFiles(request);
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
+    else if (asksForOne(question))
+        request.count = 1;
     if (!request.folder.empty())
         narrow(request, InsightTexts::kFilesIn, {{"folder", tilde(request.folder)}});
     return request;
@@ -237,8 +306,6 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
 
 bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
 {
-    if (isHidden && entry.path.find("/.") == std::string::npos)
-        return false;
     if ((rating && finding.effectiveRating(entry) != *rating) ||
         (!ending.empty() && !isNamed(entry.path, ending)))
         return false;
@@ -264,17 +331,6 @@ bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
     if (subject == nullptr || subject->isAnyFile)
         return true;
     return subject->extensions.empty() ? isListedAs(*subject) : hasExtensionOf(*subject, entry.path);
-}
-
-bool ListRequest::admits(const SeenFile& file) const
-{
-    if (file.bytes < leastBytes || file.bytes > mostBytes || file.modified < changedFrom ||
-        file.modified >= changedTo || (!ending.empty() && !isNamed(file.path, ending)))
-        return false;
-    if (isHidden && file.path.find("/.") == std::string_view::npos)
-        return false;
-    const bool isMeant = subject == nullptr || subject->isAnyFile || hasExtensionOf(*subject, file.path);
-    return isMeant && (exclusions.empty() || !exclusions.leaveOutFile(file.path));
 }
 
 } // namespace orlen::AskReader

@@ -28,15 +28,15 @@ struct ListRequest {
     std::int64_t count = 5;
     std::optional<Rating> rating;
     Exclusions exclusions;
-    std::string ending;    ///< of their names, without the dot; empty: any
-    bool isHidden = false; ///< only hidden ones and those in hidden folders
-    bool isOfScan = false; ///< only what the scan lists can tell
-    Message files;         ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
+    std::string ending;        ///< of their names, without the dot; empty: any
+    bool areFolders = false;   ///< it lists folders instead of files
+    bool isHiddenOnly = false; ///< only what has a hidden name
+    bool isOwnOnly = false;    ///< only the person's own files, see `HomeFiles`
+    bool isOfScan = false;     ///< only what the scan lists can tell
+    Message files;             ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 
     /// Whether an entry of a finding belongs to the list.
     [[nodiscard]] bool admits(const Finding& finding, const FileEntry& entry) const;
-    /// The same of any file, unless `isOfScan`.
-    [[nodiscard]] bool admits(const SeenFile& file) const;
 };
 
 /// Nothing if a part of the question is unclear.

@@ -197,4 +197,14 @@ std::shared_ptr<const NameIndex> NameCache::of(const std::vector<Finding>& findi
     return m_index;
 }
 
+std::shared_ptr<const HomeNames> NameCache::of(const std::shared_ptr<const HomeFiles>& home)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_home != home) {
+        m_homeNames = std::make_shared<const HomeNames>(home);
+        m_home = home;
+    }
+    return m_homeNames;
+}
+
 } // namespace orlen

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "insight/reader/HomeNames.h"
 #include "model/Finding.h"
 
 #include <cstddef>
@@ -68,15 +69,20 @@ private:
     std::vector<std::size_t> m_firstUses; ///< by word, and one more for the end
 };
 
-/// Makes the index when it is first asked for, and again when the findings have changed. Any thread.
+/// Makes the indexes when they are first asked for, and again when the findings, or what lies in the home
+/// folder, have changed. Any thread.
 class NameCache {
 public:
     [[nodiscard]] std::shared_ptr<const NameIndex> of(const std::vector<Finding>& findings);
+    /// `home` is not null.
+    [[nodiscard]] std::shared_ptr<const HomeNames> of(const std::shared_ptr<const HomeFiles>& home);
 
 private:
     std::mutex m_mutex;
     std::vector<std::size_t> m_signature; ///< of the findings that the index is of
     std::shared_ptr<const NameIndex> m_index;
+    std::shared_ptr<const HomeFiles> m_home;
+    std::shared_ptr<const HomeNames> m_homeNames;
 };
 
 } // namespace orlen

@@ -2,13 +2,13 @@
 
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
-#include <set>
-#include <span>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -16,110 +16,176 @@ namespace orlen::AskReader {
 
 namespace {
 
-constexpr std::size_t kMostWords = 8;
+constexpr std::size_t kMostWords = 12;
 /// Longer texts are no questions about names.
-constexpr std::size_t kMostWordsOfText = 30;
+constexpr std::size_t kMostWordsOfText = 40;
+constexpr std::string_view kSpaces = " \t\r\n";
 
-/// Says nothing in any language, so it can only be part of a name.
-bool isOfName(const Word& word)
-{
-    if (PathText::extension(word.plain).size() >= 2)
-        return true;
-    return std::ranges::none_of(Lexicon::all(),
-                                [&](const Lexicon& lexicon) { return lexicon.isWord(word.plain); });
-}
-
-std::string joined(const std::vector<Word>& words, std::size_t from, std::size_t count)
-{
-    std::string text = words[from].whole;
-    for (std::size_t i = 1; i < count; ++i)
-        text += " " + words[from + i].whole;
-    constexpr std::string_view kAround = "?!.,;:'\"`";
-    text.erase(text.find_last_not_of(kAround) + 1);
-    return text;
-}
-
-/// A run of words that may be a name.
-struct Run {
-    std::size_t from = 0;
-    std::size_t count = 0;
-    std::string text;
-    bool isName = false;
+/// Where a word begins and ends, with the punctuation around it.
+struct Piece {
+    std::size_t start = 0;
+    std::size_t end = 0;
 };
 
-bool isNameOfScan(const AskContext& context, const std::string& text)
+std::vector<Piece> piecesOf(std::string_view text)
 {
-    if (isWholeName(context, text))
-        return true;
-    const std::string plain = plainLetters(text);
-    const auto isIt = [&](const auto& each) { return plainLetters(each.name) == plain; };
-    return (context.apps && std::ranges::any_of(*context.apps, isIt)) ||
-           (context.startupItems && std::ranges::any_of(*context.startupItems, isIt));
+    std::vector<Piece> pieces;
+    std::size_t start = text.find_first_not_of(kSpaces);
+    while (start != std::string_view::npos) {
+        const std::size_t end = std::min(text.find_first_of(kSpaces, start), text.size());
+        pieces.push_back({start, end});
+        start = text.find_first_not_of(kSpaces, end);
+    }
+    return pieces;
 }
 
-/// All runs of two words or more that hold one that can only be part of a name, longest first.
-std::vector<Run> runsIn(const std::vector<Word>& words)
+bool isInQuotes(std::string_view text)
 {
-    std::vector<Run> runs;
-    for (std::size_t count = std::min(kMostWords, words.size()); count >= 2; --count) {
-        for (std::size_t from = 0; from + count <= words.size(); ++from) {
-            const auto run = std::span(words).subspan(from, count);
-            const auto endsInside = [](const Word& word) { return word.isQuoted || word.endsClause; };
-            if (run.back().isQuoted || std::any_of(run.begin(), run.end() - 1, endsInside) ||
-                std::ranges::none_of(run, isOfName))
-                continue;
-            runs.push_back({from, count, joined(words, from, count)});
+    constexpr std::string_view kMarks[] = {"\"", "“", "„", "«", "»"};
+    return std::ranges::any_of(
+        kMarks, [&](std::string_view mark) { return text.find(mark) != std::string_view::npos; });
+}
+
+bool hasEnding(std::string_view word)
+{
+    return PathText::extension(word).size() >= 2;
+}
+
+/// Says nothing in any language, so it can only be part of a name.
+bool isOfName(std::string_view word)
+{
+    const std::vector<Word> words = wordsOf(word);
+    return std::ranges::any_of(words, [](const Word& each) {
+        return hasEnding(each.plain) || std::ranges::none_of(Lexicon::all(), [&](const Lexicon& lexicon) {
+                   return lexicon.isWord(each.plain);
+               });
+    });
+}
+
+/// Like "notes.txt", ".config" or "pip-tools", not like a word.
+bool isWrittenAsName(std::string_view word)
+{
+    return hasEnding(word) || (word.starts_with('.') && word.size() > 1) ||
+           (word.find_first_of("-_0123456789") != std::string_view::npos && isOfName(word));
+}
+
+/// Names in a text.
+class NameSearch {
+public:
+    NameSearch(std::string_view text, const AskContext& context)
+        : m_text(text), m_pieces(piecesOf(text)), m_apps(context.apps),
+          m_names(context.home == nullptr ? nullptr : context.names->of(context.home))
+    {
+    }
+
+    std::vector<Word> words()
+    {
+        if (m_pieces.size() > kMostWordsOfText || isInQuotes(m_text))
+            return wordsOf(m_text);
+        std::size_t plainStart = 0;
+        for (std::size_t i = 0; i < m_pieces.size();) {
+            const std::size_t count = takeName(i, plainStart);
+            i += std::max<std::size_t>(count, 1);
+            if (count > 0)
+                plainStart = m_pieces[i - 1].end;
         }
+        addPlain(plainStart, m_text.size());
+        return std::move(m_words);
     }
-    return runs;
-}
 
-void findOnDisk(std::vector<Run>& runs, const HomeLook& home)
-{
-    std::set<std::string, std::less<>> names;
-    for (const Run& run : runs) {
-        if (!run.isName)
-            names.insert(lowered(run.text));
+private:
+    void addPlain(std::size_t start, std::size_t end)
+    {
+        std::ranges::move(wordsOf(m_text.substr(start, end - start)), std::back_inserter(m_words));
     }
-    std::set<std::string> found;
-    for (const SeenName& seen : home.named(names)) {
-        const std::string name = lowered(PathText::lastComponent(seen.path));
-        found.insert(name);
-        found.emplace(PathText::stem(name));
+
+    /// The words of the longest name that begins there; 0 if none does.
+    std::size_t takeName(std::size_t from, std::size_t plainStart)
+    {
+        for (std::size_t count = std::min(kMostWords, m_pieces.size() - from); count > 0; --count) {
+            const std::size_t start = m_pieces[from].start;
+            std::string_view run = m_text.substr(start, m_pieces[from + count - 1].end - start);
+            const std::string_view whole = run;
+            auto name = nameIn(run, count);
+            if (!name) {
+                run = run.substr(0, run.find_last_not_of("?!.,;:)'") + 1);
+                name = run.size() < whole.size() ? nameIn(run, count) : std::nullopt;
+            }
+            if (!name)
+                continue;
+            addPlain(plainStart, start);
+            const bool endsClause =
+                whole.substr(run.size()).find_first_of("?!.,;:") != std::string_view::npos;
+            std::string plain = plainLetters(*name);
+            m_words.push_back({*std::move(name), std::move(plain), true, endsClause});
+            return count;
+        }
+        return 0;
     }
-    for (Run& run : runs)
-        run.isName = run.isName || found.contains(lowered(run.text));
-}
+
+    /// The name that a run of so many words is, as answers look it up.
+    [[nodiscard]] std::optional<std::string> nameIn(std::string_view run, std::size_t count) const
+    {
+        if (run.empty())
+            return std::nullopt;
+        if (m_names != nullptr && run.find('/') != std::string_view::npos)
+            return pathIn(run);
+        if (count == 1 && !isWrittenAsName(run))
+            return std::nullopt;
+        return isName(run, count) && (count == 1 || isMarked(run)) ? std::optional(std::string(run))
+                                                                   : std::nullopt;
+    }
+
+    [[nodiscard]] std::optional<std::string> pathIn(std::string_view run) const
+    {
+        const std::string& home = Places::current().home;
+        if (run.starts_with("~/"))
+            run.remove_prefix(1);
+        else if (PathText::isAtOrBelow(run, home))
+            run.remove_prefix(home.size());
+        else if (run.starts_with('/'))
+            return std::nullopt;
+        if (PathText::components(run).empty())
+            return std::nullopt;
+        const auto item = m_names->at(lowered(run));
+        return item ? std::optional("~" + m_names->pathOf(*item).substr(home.size())) : std::nullopt;
+    }
+
+    [[nodiscard]] bool isName(std::string_view run, std::size_t count) const
+    {
+        const std::string lower = lowered(run);
+        if (m_names != nullptr && (count == 1 ? !m_names->named(lower).empty() : m_names->has(lower)))
+            return true;
+        return count > 1 && m_apps &&
+               std::ranges::any_of(*m_apps, [&](const KnownApp& app) { return lowered(app.name) == lower; });
+    }
+
+    /// Whether several words look like a name, not like what people say about files: one of them means
+    /// nothing, or the second begins with a capital as the name does.
+    [[nodiscard]] bool isMarked(std::string_view run) const
+    {
+        const auto pieces = piecesOf(run);
+        const bool hasOwnWord = std::ranges::any_of(pieces, [&](const Piece& piece) {
+            return isOfName(run.substr(piece.start, piece.end - piece.start));
+        });
+        const auto isCapital = [&](const Piece& piece) {
+            return run[piece.start] >= 'A' && run[piece.start] <= 'Z';
+        };
+        return hasOwnWord || std::all_of(pieces.begin() + 1, pieces.end(), isCapital);
+    }
+
+    std::string_view m_text;
+    std::vector<Piece> m_pieces;
+    const std::optional<std::vector<KnownApp>>& m_apps;
+    std::shared_ptr<const HomeNames> m_names;
+    std::vector<Word> m_words;
+};
 
 } // namespace
 
-std::vector<Word> withNames(std::vector<Word> words, const AskContext& context)
+std::vector<Word> withNames(std::string_view text, const AskContext& context)
 {
-    if (words.size() > kMostWordsOfText || std::ranges::none_of(words, isOfName))
-        return words;
-    std::vector<Run> runs = runsIn(words);
-    for (Run& run : runs)
-        run.isName = isNameOfScan(context, run.text);
-    if (context.home != nullptr)
-        findOnDisk(runs, *context.home);
-    std::vector<bool> isTaken(words.size());
-    std::vector<Run> names;
-    for (Run& run : runs) {
-        const auto from = isTaken.begin() + static_cast<std::ptrdiff_t>(run.from);
-        const auto to = from + static_cast<std::ptrdiff_t>(run.count);
-        if (!run.isName || std::find(from, to, true) != to)
-            continue;
-        std::fill(from, to, true);
-        names.push_back(std::move(run));
-    }
-    std::ranges::sort(names, std::greater{}, &Run::from);
-    for (const Run& name : names) {
-        const auto first = words.begin() + static_cast<std::ptrdiff_t>(name.from);
-        const auto last = first + static_cast<std::ptrdiff_t>(name.count) - 1;
-        *first = {name.text, plainLetters(name.text), true, last->endsClause};
-        words.erase(first + 1, last + 1);
-    }
-    return words;
+    return NameSearch(text, context).words();
 }
 
 } // namespace orlen::AskReader

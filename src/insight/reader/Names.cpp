@@ -2,7 +2,6 @@
 
 #include "insight/reader/Lexicon.h"
 #include "insight/reader/LowerName.h"
-#include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -174,6 +173,43 @@ void lookInFindings(const AskContext& context, const std::vector<FindingKind>& k
     }
 }
 
+/// What has the name, whole or before its ending, or lies at the path. A bare word of a question may be meant
+/// as a word: only what is the person's own, or not deep in hidden folders, has it as a name.
+void lookInHome(const AskContext& context, std::string_view name, Best& best)
+{
+    if (context.home == nullptr)
+        return;
+    constexpr std::ptrdiff_t kDeep = 4;
+    const std::shared_ptr<const HomeNames> names = context.names->of(context.home);
+    const HomeFiles& home = *context.home;
+    const std::string lower = lowered(name);
+    const std::string path = lowered(pathIn(name));
+    const std::string& root = Places::current().home;
+    std::vector<HomeNames::Item> items;
+    if (path.empty()) {
+        items = names->named(lower);
+        std::ranges::move(names->withStem(lower), std::back_inserter(items));
+    } else if (PathText::isAtOrBelow(path, lowered(root))) {
+        if (const auto item = names->at(std::string_view(path).substr(root.size())))
+            items.push_back(*item);
+    }
+    const bool isWord = path.empty() && lower.find_first_of(". ") == std::string::npos;
+    for (const HomeNames::Item& item : items) {
+        std::string found = names->pathOf(item);
+        if (isWord && !names->isOwn(item) && std::ranges::count(found.substr(root.size()), '/') >= kDeep)
+            continue;
+        if (!best.take(found))
+            continue;
+        Measured one{std::move(found), 0, {}};
+        one.kind = item.isFolder ? Measured::Kind::folder : Measured::Kind::file;
+        one.isOwn = names->isOwn(item);
+        one.bytes = item.isFolder ? home.folder(item.number).bytes : home.file(item.number).bytes;
+        if (!item.isFolder)
+            one.changed = home.file(item.number).changed;
+        best.found().measured.push_back(std::move(one));
+    }
+}
+
 void lookInBreakdown(const StorageBreakdown& breakdown, Best& best)
 {
     for (const CategoryFolder& folder : breakdown.folders) {
@@ -215,9 +251,20 @@ void tidy(Found& found)
                              [](const Hit& hit) { return hit.finding->effectiveRating(*hit.entry); });
     std::unordered_set<std::string_view> paths;
     std::erase_if(found.hits, [&](const Hit& hit) { return !paths.insert(hit.entry->path).second; });
+    // The walk of the home folder knows sizes, the breakdown what they count for.
+    std::map<std::string_view, OrlenCategory> categories;
+    for (const Measured& each : found.measured) {
+        if (each.category)
+            categories.emplace(each.path, *each.category);
+    }
+    for (Measured& each : found.measured) {
+        if (const auto known = categories.find(each.path); known != categories.end())
+            each.category = known->second;
+    }
     std::erase_if(found.measured, [&](const Measured& each) { return !paths.insert(each.path).second; });
     std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
-    std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
+    std::ranges::stable_sort(found.measured, std::greater{},
+                             [](const Measured& each) { return std::pair(each.isOwn, each.bytes); });
 }
 
 Found bestFit(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds,
@@ -226,6 +273,7 @@ Found bestFit(const AskContext& context, std::string_view name, const std::vecto
     Best best(name, least);
     lookInFindings(context, kinds, best);
     if (kinds.empty()) {
+        lookInHome(context, name, best);
         lookInBreakdown(context.breakdown, best);
         lookInReadings(context.folders, best);
         lookInHistory(context.history, best);
@@ -246,30 +294,24 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
     return bestFit(context, name, kinds, Fit::mistyped);
 }
 
-bool isWholeName(const AskContext& context, std::string_view name)
-{
-    return bestFit(context, name, {}, Fit::stem).fit != Fit::none;
-}
-
 std::string folderNamed(const AskContext& context, const std::string& text)
 {
     if (std::string path = pathIn(text); !path.empty())
         return path;
-    if (context.home != nullptr && text.find("..") == std::string::npos) {
-        std::string below = Places::current().normalized(PathText::join(Places::current().home, text));
-        if (isRealFolder(below))
-            return below;
+    if (context.home != nullptr) {
+        const std::shared_ptr<const HomeNames> names = context.names->of(context.home);
+        const std::string lower = lowered(text);
+        if (const auto item = names->at(lower); item && item->isFolder)
+            return names->pathOf(*item);
+        std::vector<HomeNames::Item> items = names->named(lower);
+        std::erase_if(items, [](const HomeNames::Item& item) { return !item.isFolder; });
+        const auto best = std::ranges::max_element(
+            items, {}, [&](const HomeNames::Item& item) { return names->isOwn(item); });
+        if (best != items.end())
+            return names->pathOf(*best);
     }
     const Found found = findNamed(context, text);
-    if (found.fit == Fit::whole && !found.measured.empty())
-        return found.measured.front().path;
-    if (context.home == nullptr)
-        return {};
-    for (SeenName& seen : context.home->named({lowered(text)})) {
-        if (seen.isFolder)
-            return std::move(seen.path);
-    }
-    return {};
+    return found.fit == Fit::whole && !found.measured.empty() ? found.measured.front().path : std::string();
 }
 
 std::vector<Hit> eachOnce(std::vector<Hit> hits)

@@ -22,6 +22,10 @@ struct Measured {
     std::string path;
     std::int64_t bytes = 0;
     std::optional<OrlenCategory> category; ///< nothing if it counts for several
+    enum class Kind { unknown, file, folder };
+    Kind kind = Kind::unknown;
+    std::optional<TimePoint> changed{}; ///< of a file, if known
+    bool isOwn = false;                 ///< neither hidden nor in a cache, as far as known
 };
 
 /// How well a name fits, from not at all to exactly. Only hits that fit best are of interest.
@@ -38,9 +42,6 @@ struct Found {
 /// some words of one. If `kinds` is not empty, only findings of these kinds.
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
-
-/// Whether something known has this name, with or without the ending of a file.
-[[nodiscard]] bool isWholeName(const AskContext& context, std::string_view name);
 
 /// The folder that a text names: its path, its path below the home folder, or its name; empty if none.
 [[nodiscard]] std::string folderNamed(const AskContext& context, const std::string& text);

@@ -94,9 +94,7 @@ private:
         };
         const bool isBesideFiles = isFiles(m_at + 1) || (m_at > 0 && isFiles(m_at - 1));
         const bool isDotted = word.starts_with('.') || word.starts_with("*.");
-        if (!isBesideFiles && (m_isName(word) || !isKnownEnding(ending)))
-            return false;
-        if (isBesideFiles && !isDotted && !isKnownEnding(ending))
+        if (isDotted ? !isBesideFiles && !isEndingOfKind(ending) : !isKnownEnding(ending))
             return false;
         take({Sense::ending, {}, nullptr, 0, {}}, 1);
         m_question.phrases.back().text = ending;

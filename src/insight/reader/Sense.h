@@ -19,7 +19,6 @@ enum class Sense : std::uint8_t {
     remove,
     uninstall,
     installed,
-    hidden,
     safe,
     review,
     keep,
@@ -65,7 +64,8 @@ enum class Sense : std::uint8_t {
     soFar,
     privacy,
     untouched,
-    folder,  ///< the word itself
+    folder, ///< the word itself
+    hidden,
     subject, ///< a kind, category or folder; see `Subject`
     size,
     number,

@@ -41,38 +41,6 @@ Message volume(const StorageBreakdown& breakdown)
              {"share", Share{static_cast<double>(used) / static_cast<double>(breakdown.total)}}}};
 }
 
-/// The folders that the question may mean, directly in the one it names; nothing if it is about something
-/// else.
-std::optional<std::vector<FolderSize>> foldersIn(const Question& question, const AskContext& context)
-{
-    std::string folder;
-    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
-        const Phrase& phrase = question.phrases[i];
-        const bool isName = phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
-        // "How big is the folder Projects" asks for one size.
-        if (isName && (i == 0 || question.phrases[i - 1].sense != Sense::inside))
-            return std::nullopt;
-        if (!isName && (phrase.subject == nullptr || phrase.subject->isAnyFile))
-            continue;
-        std::string named = isName ? folderNamed(context, phrase.text) : folderOf(*phrase.subject);
-        if (named.empty() || !folder.empty())
-            return std::nullopt;
-        folder = std::move(named);
-    }
-    const bool isHome = folder.empty() || folder == Places::current().home;
-    if (!isHome && context.home == nullptr)
-        return std::nullopt;
-    std::vector<FolderSize> folders;
-    if (context.home != nullptr)
-        folders = context.home->foldersIn(isHome ? Places::current().home : folder);
-    for (const CategoryFolder& each : context.breakdown.folders) {
-        const bool isElsewhere = !PathText::isAtOrBelow(each.path, Places::current().home);
-        if (folder.empty() && (context.home == nullptr || isElsewhere))
-            folders.push_back({each.path, each.bytes});
-    }
-    return folders;
-}
-
 } // namespace
 
 std::optional<Answer> spaceNow(const Question& question, const AskContext& context)
@@ -111,40 +79,39 @@ std::optional<Answer> whatIsBiggest(const Question& question, const AskContext& 
 
 std::optional<Answer> biggestFolders(const Question& question, const AskContext& context)
 {
+    if (!question.hasNoKind())
+        return std::nullopt;
     constexpr std::int64_t kNamed = 5;
     constexpr std::int64_t kMost = 20;
     const Phrase* const number = question.first(Sense::number);
     const auto exclusions = Exclusions::of(question, context);
-    auto folders = foldersIn(question, context);
-    if (!exclusions || !folders)
+    if (!exclusions)
         return std::nullopt;
-    const bool isHidden = question.senses.has(Sense::hidden);
-    std::erase_if(*folders, [&](const FolderSize& each) {
-        return exclusions->leaveOut(each.path) ||
-               (isHidden && !PathText::lastComponent(each.path).starts_with('.'));
-    });
-    if (folders->empty())
+    std::vector<CategoryFolder> folders = context.breakdown.folders;
+    std::erase_if(folders, [&](const CategoryFolder& each) { return exclusions->leaveOut(each.path); });
+    if (folders.empty())
         return Answer{InsightTexts::kScanForBreakdown, {}};
-    std::ranges::stable_sort(*folders, std::greater{}, &FolderSize::bytes);
-    folders->resize(
-        std::min(folders->size(),
+    std::ranges::stable_sort(folders, std::greater{}, &CategoryFolder::bytes);
+    folders.resize(
+        std::min(folders.size(),
                  static_cast<std::size_t>(number == nullptr ? kNamed : std::min(number->amount, kMost))));
     std::vector<Message> lines{exclusions->said(), InsightTexts::kTheBiggest};
-    for (const FolderSize& folder : *folders)
+    for (const CategoryFolder& folder : folders)
         lines.push_back(
             {InsightTexts::kDownload, {{"name", tilde(folder.path)}, {"size", Bytes{folder.bytes}}}});
     Answer answer{AskText::lines(std::move(lines)), {}};
-    for (const FolderSize& folder : *folders)
+    for (const CategoryFolder& folder : folders)
         answer.paths.push_back(folder.path);
     return answer;
 }
 
 std::optional<Answer> whatTakesIn(const Question& question, const AskContext& context)
 {
-    const auto folders = foldersIn(question, context);
-    if (!folders)
-        return std::nullopt;
-    return folders->empty() ? listOfFiles(question, context) : biggestFolders(question, context);
+    Question folders = question;
+    folders.phrases.insert(folders.phrases.begin(), {Sense::folder, {}, nullptr, 0, {}});
+    folders = withPhrases(folders, folders.phrases);
+    std::optional<Answer> answer = listOfFolders(folders, context);
+    return answer && !answer->paths.empty() ? answer : listOfFiles(question, context);
 }
 
 std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& context)

@@ -56,8 +56,8 @@ Amount listedFiles(const Subject& subject, const AskContext& context)
 /// Bytes of a folder with everything in it; nothing if the scan doesn't know it.
 std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
 {
-    if (const std::int64_t now = context.home == nullptr ? 0 : context.home->sizeOf(folder); now > 0)
-        return now;
+    if (const auto number = context.home == nullptr ? std::nullopt : context.home->folderAt(folder))
+        return context.home->folder(*number).bytes;
     std::int64_t bytes = 0;
     bool isKnown = false;
     for (const CategoryFolder& each : context.breakdown.folders) {

@@ -206,16 +206,20 @@ bool isNamed(std::string_view path, std::string_view ending)
     return its == ending || (ending == "jpg" && its == "jpeg");
 }
 
+bool isEndingOfKind(std::string_view ending)
+{
+    return std::ranges::any_of(subjects(), [&](const Subject& subject) {
+        return (" " + std::string(subject.extensions) + " ").find(" " + std::string(ending) + " ") !=
+               std::string::npos;
+    });
+}
+
 bool isKnownEnding(std::string_view ending)
 {
     // Words of their own, and what has a subject of its own.
     constexpr std::string_view kElse[] = {"pdf",  "pages", "numbers", "key",  "run", "raw", "ts",
                                           "snap", "doc",   "tex",     "opus", "pkg", "img", "md"};
-    return std::ranges::find(kElse, ending) == std::end(kElse) &&
-           std::ranges::any_of(subjects(), [&](const Subject& subject) {
-               return (" " + std::string(subject.extensions) + " ").find(" " + std::string(ending) + " ") !=
-                      std::string::npos;
-           });
+    return std::ranges::find(kElse, ending) == std::end(kElse) && isEndingOfKind(ending);
 }
 
 bool hasExtensionOf(const Subject& subject, std::string_view path)

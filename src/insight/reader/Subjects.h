@@ -90,6 +90,8 @@ struct Subject {
 /// Whether a file has that ending.
 [[nodiscard]] bool isNamed(std::string_view path, std::string_view ending);
 /// Whether files of a subject have it.
+[[nodiscard]] bool isEndingOfKind(std::string_view ending);
+/// The same, and it is no word of its own.
 [[nodiscard]] bool isKnownEnding(std::string_view ending);
 
 /// Whether a file of this name is of the subject's kind.

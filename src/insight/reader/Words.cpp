@@ -100,8 +100,7 @@ std::vector<Word> wordsOf(std::string_view question)
             isQuoted ? rest.substr(1, close - 1) : withoutPunctuation(rest.substr(0, end));
         const bool endsClause = kStops.find(rest[end - 1]) != std::string_view::npos;
         if (!word.empty())
-            words.push_back({std::string(word), plainLetters(word), isQuoted, endsClause,
-                             std::string(rest.substr(0, end))});
+            words.push_back({std::string(word), plainLetters(word), isQuoted, endsClause});
         else if (endsClause && !words.empty())
             words.back().endsClause = true;
         rest.remove_prefix(end);

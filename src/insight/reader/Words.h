@@ -16,7 +16,6 @@ struct Word {
     std::string plain;       ///< as words are compared
     bool isQuoted = false;   ///< all that stood in a pair of quotation marks
     bool endsClause = false; ///< a comma, a full stop or their like follows
-    std::string whole{};     ///< with the punctuation around it
 };
 
 /// Valid UTF-8 only.

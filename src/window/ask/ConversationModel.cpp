@@ -30,6 +30,11 @@ std::string understood(const QString& question)
 ConversationModel::ConversationModel(AppModel& app) : m_app(app), m_workers(*this)
 {
     app.programs()->load();
+    app.homeContents()->load();
+    connect(app.homeContents(), &HomeContents::loaded, this, [this] {
+        if (!m_waiting.isEmpty())
+            answer(std::exchange(m_waiting, {}));
+    });
     connect(app.results(), &Results::findingsChanged, this, [this] {
         if (!m_rows.empty())
             Q_EMIT dataChanged(index(0), index(rowCount() - 1), {static_cast<int>(Role::proposes)});
@@ -59,18 +64,23 @@ bool ConversationModel::ask(const QString& question)
     m_recalled = m_asked.size();
     append(ChatMessage::question(asked.toStdString()));
     setThinking(true);
+    if (m_app.homeContents()->files() == nullptr)
+        m_waiting = asked;
+    else
+        answer(asked);
+    return true;
+}
+
+void ConversationModel::answer(const QString& question)
+{
     m_workers.start(
-        [question = understood(asked), context = m_app.askContext(),
-         before = m_conversation](const std::stop_token& stop) mutable {
-            context.home = std::make_shared<HomeLook>(stop);
-            return AskEngine::turn(question, context, before);
-        },
+        [question = understood(question), context = m_app.askContext(), before = m_conversation](
+            const std::stop_token& /*stop*/) { return AskEngine::turn(question, context, before); },
         [this](Turn turn) {
             setThinking(false);
             m_conversation = std::move(turn.next);
             append(ChatMessage::reply(std::move(turn.answer)));
         });
-    return true;
 }
 
 QString ConversationModel::recall(Recall step)

@@ -68,12 +68,14 @@ private:
 
     [[nodiscard]] bool proposes(const ChatMessage& message) const;
     void append(ChatMessage message);
+    void answer(const QString& question);
     void setThinking(bool isThinking);
 
     AppModel& m_app;
     std::vector<Row> m_rows;
     bool m_isThinking = false;
     Conversation m_conversation; ///< what a question may follow on
+    QString m_waiting;           ///< the question that waits for the walk of the home folder; mostly empty
     std::vector<QString> m_asked;
     std::size_t m_recalled = 0; ///< index of the question recalled last; the number of questions for none
 

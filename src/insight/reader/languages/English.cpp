@@ -12,7 +12,6 @@ constexpr WordRow kWords[] = {
      "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
      "me,what can you do for me,how can you help,how can you help me,what are you able to do,what is this "
      "app,what does this app do"},
-    {Sense::hidden, "hidden,invisible,dotfiles,dot files,dot folders,dotfolders"},
     {Sense::installed, "installed,is installed,have installed,got installed"},
     {Sense::advise, "recommend,recommended,suggest,suggested,suggestion,suggestions,recommendation,"
                     "recommendations,advise,advice,start with,begin with,get started,should start,do "
@@ -290,6 +289,7 @@ constexpr WordRow kWords[] = {
      "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
      "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
      "safe,know my passwords,eavesdrop,anyone get"},
+    {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
      "install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
@@ -515,7 +515,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& english()
 {
     static constexpr Language language{
-        english_words::kWords, english_words::kSubjects, english_words::kFigureRows, {}};
+        english_words::kWords,
+        english_words::kSubjects,
+        english_words::kFigureRows,
+        {},
+        false,
+        "file,item,thing,folder,directory,subfolder,video,movie,film,clip,photo,picture,image,pic,song,track,"
+        "pdf,document,archive,zip,download,installer,spreadsheet,presentation,book,ebook,iso,mp3"};
     return language;
 }
 

@@ -6,7 +6,6 @@ namespace french_words {
 
 constexpr WordRow kWords[] = {
     {Sense::installed, "installé,installés,installée,installées,est installé,sont installées,sont installés"},
-    {Sense::hidden, "invisibles,masqués,masquées"},
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "
      "qui,aide,à l aide,aide moi,bonjour,salut,bonsoir,coucou,merci,comment ça marche,c est quoi orlen,que "
@@ -219,17 +218,14 @@ constexpr WordRow kWords[] = {
                    "récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
-    {Sense::privacy,
-     "restent sur mon ordinateur,reste sur mon ordinateur,restent sur mon pc,restent chez moi,reste chez "
-     "moi,besoin d internet,besoin d une connexion,connexion internet,sans internet,hors connexion,regardes "
-     "mes fichiers,lis mes fichiers,lis tu mes,voit mes fichiers,voir mes fichiers,voir mes photos,voit mes "
-     "photos,ton entreprise,votre entreprise,votre société,internet,en ligne,réseau,privé,privées,vie "
-     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
-     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
-     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
-     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
-     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
-     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
+    {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
+                     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
+                     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
+                     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
+                     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
+                     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
+                     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
+    {Sense::hidden, "masqué,masqués,masquée,masquées,invisible,invisibles"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
      "désactiver,désactive,empêcher,empêche,arrêter,arrête,couper,prévision,langue,langues,analyse,résultat,"
@@ -431,9 +427,14 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& french()
 {
-    static constexpr Language language{french_words::kWords, french_words::kSubjects,
-                                       french_words::kFigureRows,
-                                       "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd"};
+    static constexpr Language language{
+        french_words::kWords,
+        french_words::kSubjects,
+        french_words::kFigureRows,
+        "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd",
+        false,
+        "fichier,élément,chose,truc,dossier,répertoire,vidéo,film,clip,photo,"
+        "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier"};
     return language;
 }
 

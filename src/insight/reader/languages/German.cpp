@@ -6,7 +6,6 @@ namespace german_words {
 
 constexpr WordRow kWords[] = {
     {Sense::installed, "installiert,sind installiert,ist installiert"},
-    {Sense::hidden, "versteckt,versteckte,versteckten,verborgene,verborgenen,unsichtbare"},
     {Sense::self, "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist "
                   "du,was bist du,hilfe,hallo,hi,guten tag,guten morgen,moin,servus,danke,vielen dank,wie "
                   "funktioniert das,was ist orlen,was macht orlen,wie funktioniert orlen,was kann orlen,was "
@@ -222,6 +221,7 @@ constexpr WordRow kWords[] = {
      "sicher,weitergeben,spionage,werbung,dsgvo,lädt,hochlädt,lädst,laden,wer kann sehen,wer kann lesen,wer "
      "hat zugriff,zugriff auf,wer kann meine,kann meine daten,daten sehen,meine daten sehen,kann jemand "
      "sehen,einsehen,verbunden,meine passwörter,sieht orlen meine passwörter"},
+    {Sense::hidden, "versteckt,versteckte,versteckten,versteckter,unsichtbare,unsichtbaren"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
      "abschalten,ausschalten,deaktivieren,deaktiviere,verhindern,verhindere,stoppen,schalte,prognose,"
@@ -426,7 +426,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& german()
 {
     static constexpr Language language{
-        german_words::kWords, german_words::kSubjects, german_words::kFigureRows, {}, true};
+        german_words::kWords,
+        german_words::kSubjects,
+        german_words::kFigureRows,
+        {},
+        true,
+        "datei,ding,sache,verzeichnis,video,film,clip,videodatei,foto,bild,lied,song,pdf,pdf-datei,dokument,"
+        "archiv,download,tabelle,präsentation,buch"};
     return language;
 }
 

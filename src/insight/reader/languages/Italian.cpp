@@ -7,7 +7,6 @@ namespace italian_words {
 constexpr WordRow kWords[] = {
     {Sense::installed,
      "installato,installati,installata,installate,è installato,sono installate,sono installati"},
-    {Sense::hidden, "nascosto,nascosti,nascosta,nascoste,invisibili"},
     {Sense::self,
      "cosa puoi fare,cosa sai fare,che cosa puoi fare,cosa ti posso chiedere,cosa posso chiederti,chi "
      "sei,cosa sei,aiuto,aiutami,ciao,buongiorno,buonasera,salve,grazie,come funziona,cos è orlen,cosa fa "
@@ -207,17 +206,13 @@ constexpr WordRow kWords[] = {
                    "recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
     {Sense::after, "dopo,successivo a,successivi a,dopo il,in seguito a"},
     {Sense::last, "ultimo,ultima,ultimi,ultime,scorsa volta,precedente,l ultima volta,ultima volta"},
-    {Sense::privacy,
-     "bisogno di internet,serve internet,connessione internet,connessione a internet,senza internet,usi "
-     "internet,leggi i miei,guardi i miei,vedi i miei file,vedere i miei file,vedere le mie foto,vede le mie "
-     "foto,vede i miei file,la tua azienda,vostra azienda,restano sul mio computer,rimangono sul mio "
-     "computer,restano sul "
-     "computer,internet,online,rete,privato,privata,privati,privacy,cloud,nuvola,telemetria,inviare,"
-     "invia,invii,inviati,server,spia,spii,spiare,condividere,condivide,condividi,account,"
-     "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
-     "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
-     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
-     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
+    {Sense::privacy, "internet,online,rete,privato,privata,privati,privacy,cloud,nuvola,telemetria,inviare,"
+                     "invia,invii,inviati,server,spia,spii,spiare,condividere,condivide,condividi,account,"
+                     "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
+                     "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
+                     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
+                     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
+    {Sense::hidden, "nascosto,nascosti,nascosta,nascoste,invisibili"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
      "disattivare,disattiva,disabilita,disabilitare,impedire,impedisci,evitare,fermare,bloccare,previsione,"
@@ -405,8 +400,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& italian()
 {
     static constexpr Language language{
-        italian_words::kWords, italian_words::kSubjects, italian_words::kFigureRows,
-        "l,d,dell,all,nell,sull,dall,quell,quest,un,c,cos,dov,quant,com,qual,s,t,m,v,n"};
+        italian_words::kWords,
+        italian_words::kSubjects,
+        italian_words::kFigureRows,
+        "l,d,dell,all,nell,sull,dall,quell,quest,un,c,cos,dov,quant,com,qual,s,t,m,v,n",
+        false,
+        "elemento,cartella,filmato,fotografia,immagine,canzone,brano,documento,archivio,più,grande,grosso,"
+        "pesante,vecchio,recente,nuovo,piccolo,grossa,vecchia,nuova,piccola,ultimo,scaricato,il,la"};
     return language;
 }
 

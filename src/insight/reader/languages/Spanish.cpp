@@ -7,7 +7,6 @@ namespace spanish_words {
 constexpr WordRow kWords[] = {
     {Sense::installed, "instalado,instalados,instalada,instaladas,está instalado,están instaladas,tengo "
                        "instaladas,tengo instalado"},
-    {Sense::hidden, "oculto,ocultos,oculta,ocultas,escondidos,escondidas,invisibles"},
     {Sense::self,
      "qué puedes hacer,qué sabes hacer,qué te puedo preguntar,qué puedo preguntar,quién eres,qué "
      "eres,ayuda,ayúdame,hola,buenos días,buenas tardes,buenas,gracias,cómo funciona esto,qué es orlen,qué "
@@ -214,6 +213,7 @@ constexpr WordRow kWords[] = {
                      "personales,terceros,google,wifi,mandas,manda,espiar,offline,sale,salen,confidencial,"
                      "protección de datos,recoge,transmite,ia,filtra,publicidad,subidos,quién puede "
                      "ver,quién puede leer,quién tiene acceso,conectado,conectada,ve mis contraseñas"},
+    {Sense::hidden, "oculto,ocultos,oculta,ocultas,invisibles"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general,
      "desactivar,desactiva,evitar,evita,impedir,impide,parar,para que "
@@ -407,7 +407,13 @@ constexpr FigureRow kFigureRows[] = {
 const Language& spanish()
 {
     static constexpr Language language{
-        spanish_words::kWords, spanish_words::kSubjects, spanish_words::kFigureRows, {}};
+        spanish_words::kWords,
+        spanish_words::kSubjects,
+        spanish_words::kFigureRows,
+        {},
+        false,
+        "archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,película,peli,clip,foto,imagen,fotografía,"
+        "canción,pdf,documento,descarga,descargado,último"};
     return language;
 }
 

@@ -1,0 +1,223 @@
+#include "insight/reader/FoundReplies.h"
+
+#include "insight/AskText.h"
+#include "insight/InsightTexts.h"
+#include "insight/reader/PathHits.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <span>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace orlen::AskReader {
+
+namespace {
+
+using InsightTexts::RatedText;
+
+constexpr std::size_t kListed = 6;
+
+Message itIsProtected(Protection protection)
+{
+    return {InsightTexts::kItIsProtected,
+            {{"group", within(label(protection))}, {"reason", within(reason(protection))}}};
+}
+
+/// What a clean-up does with it.
+Message outcome(const AskContext& context, const Hit& hit)
+{
+    if (const Protection protection = protectionOf(context, hit.entry->path); protection != Protection::none)
+        return itIsProtected(protection);
+    if (!hit.finding->cleanable)
+        return InsightTexts::kInTrash;
+    return hit.finding->effectiveRating(*hit.entry) == Rating::keep ? InsightTexts::kBetterLeaveIt
+                                                                    : InsightTexts::kMovesIt;
+}
+
+/// File names in a note may have line breaks.
+Message onOneLine(Message note)
+{
+    for (Place& place : note.places) {
+        if (auto* const name = std::get_if<std::string>(&place.value))
+            *name = PathText::forDisplay(*name);
+        else if (auto* const several = std::get_if<Several>(&place.value))
+            std::ranges::transform(several->messages, several->messages.begin(), onOneLine);
+    }
+    return note;
+}
+
+/// What an entry is rated, with its note if it has one.
+Message rated(const Hit& hit, const RatedText& text, const RatedText& withNote, std::vector<Place> places)
+{
+    places.push_back({"size", Bytes{hit.entry->size}});
+    places.push_back({"title", within(hit.finding->title)});
+    Message note = onOneLine(noteOf(*hit.entry));
+    const RatedText& said = note.empty() ? text : withNote;
+    if (!note.empty())
+        places.push_back({"note", within(std::move(note))});
+    return {said.of(hit.finding->effectiveRating(*hit.entry)), std::move(places)};
+}
+
+Message described(const AskContext& context, const Hit& hit)
+{
+    const Message rating = rated(
+        hit, InsightTexts::kListedAs, InsightTexts::kListedWithNote,
+        {{"name", AskText::fileName(*hit.entry)}, {"folder", tilde(PathText::parent(hit.entry->path))}});
+    return AskText::sentences({rating, hit.finding->reason, outcome(context, hit)});
+}
+
+Message itemLine(const Hit& hit)
+{
+    const Message rating = rated(hit, InsightTexts::kFitting, InsightTexts::kFittingWithNote,
+                                 {{"path", tilde(hit.entry->path)}});
+    return AskText::sentences({rating, hit.finding->reason});
+}
+
+void addLink(std::vector<std::string>& ids, const Finding& finding)
+{
+    if (std::ranges::find(ids, finding.id()) == ids.end())
+        ids.emplace_back(finding.id());
+}
+
+/// One line of several things with one name.
+Message measuredLine(const Measured& each)
+{
+    if (each.changed)
+        return {InsightTexts::kFileUnrated,
+                {{"path", tilde(each.path)}, {"size", Bytes{each.bytes}}, {"date", Moment{*each.changed}}}};
+    return {InsightTexts::kDownload, {{"name", tilde(each.path)}, {"size", Bytes{each.bytes}}}};
+}
+
+Answer listedAll(const Found& found, std::string_view name)
+{
+    const auto hits = std::span(found.hits).first(std::min(found.hits.size(), kListed));
+    const auto others =
+        std::span(found.measured).first(std::min(found.measured.size(), kListed - hits.size()));
+    const auto count = std::ssize(found.hits) + std::ssize(found.measured);
+    std::vector<Message> lines{{InsightTexts::kItemsFit, {{"count", count}, {"name", std::string(name)}}}};
+    std::ranges::transform(hits, std::back_inserter(lines), itemLine);
+    std::ranges::transform(others, std::back_inserter(lines), measuredLine);
+    if (const auto more = count - std::ssize(hits) - std::ssize(others); more > 0)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    if (!hits.empty())
+        lines.emplace_back(InsightTexts::kMovesTicked);
+    Answer answer{AskText::lines(std::move(lines)), {}};
+    for (const Hit& hit : hits) {
+        addLink(answer.findingIDs, *hit.finding);
+        answer.paths.push_back(hit.entry->path);
+    }
+    for (const Measured& each : others)
+        answer.paths.push_back(each.path);
+    return answer;
+}
+
+Message sizeAndPlace(const Measured& one)
+{
+    const Place bytes{"size", Bytes{one.bytes}};
+    if (one.changed)
+        return {InsightTexts::kFileTakes, {{"path", tilde(one.path)}, bytes, {"date", Moment{*one.changed}}}};
+    if (one.category)
+        return {InsightTexts::kCountsFor,
+                {{"path", tilde(one.path)}, bytes, {"category", within(label(*one.category))}}};
+    return {InsightTexts::kFolderTakes, {{"folder", tilde(one.path)}, bytes}};
+}
+
+/// What of a folder the last scan lists; empty if nothing.
+Message listedInside(const Measured& folder, const AskContext& context, Answer& answer)
+{
+    std::int64_t bytes = 0;
+    std::int64_t safe = 0;
+    const std::vector<Hit> hits = hitsBelow(folder.path, context);
+    for (const Hit& hit : hits) {
+        bytes = checkedAdd(bytes, hit.entry->size);
+        if (hit.finding->effectiveRating(*hit.entry) == Rating::safe)
+            safe = checkedAdd(safe, hit.entry->size);
+        addLink(answer.findingIDs, *hit.finding);
+    }
+    if (hits.empty())
+        return {};
+    return {InsightTexts::kListedInside,
+            {{"count", std::ssize(hits)}, {"size", Bytes{bytes}}, {"safe", Bytes{safe}}}};
+}
+
+/// Whether it may go, of something that no finding lists itself.
+Message verdict(const Measured& one, const Question& question, const AskContext& context, Answer& answer)
+{
+    Message inside = one.kind == Measured::Kind::file ? Message() : listedInside(one, context, answer);
+    if (const Protection protection = protectionOf(context, one.path); protection != Protection::none)
+        return AskText::sentences({itIsProtected(protection), std::move(inside)});
+    if (!inside.empty())
+        return inside;
+    const Hit around = hitsAround(std::span(&one.path, 1), context).front();
+    if (around.finding != nullptr) {
+        addLink(answer.findingIDs, *around.finding);
+        return {InsightTexts::kPartOf,
+                {{"path", tilde(around.entry->path)},
+                 {"title", within(around.finding->title)},
+                 {"rating", within(label(around.finding->effectiveRating(*around.entry)))}}};
+    }
+    const bool isToGo = question.senses.meets({Sense::remove, Sense::safe, Sense::can, Sense::makeRoom});
+    return AskText::sentences(
+        {InsightTexts::kNotSuggested, isToGo ? Message(InsightTexts::kLookFirst) : Message()});
+}
+
+} // namespace
+
+Protection protectionOf(const AskContext& context, std::string_view path)
+{
+    return context.protection ? context.protection(path) : Protection::none;
+}
+
+Answer protectedPlace(std::string_view path, Protection protection)
+{
+    return {Message{InsightTexts::kPathIsProtected,
+                    {{"path", tilde(path)},
+                     {"group", within(label(protection))},
+                     {"reason", within(reason(protection))}}},
+            {},
+            false,
+            {std::string(path)}};
+}
+
+Answer listedHits(const AskContext& context, const Found& found, std::string_view name)
+{
+    if (found.hits.size() + found.measured.size() > 1)
+        return listedAll(found, name);
+    Answer answer{described(context, found.hits.front()), {}};
+    addLink(answer.findingIDs, *found.hits.front().finding);
+    answer.paths.push_back(found.hits.front().entry->path);
+    return answer;
+}
+
+Answer measuredOnly(const Question& question, const AskContext& context, const Found& found,
+                    std::string_view name)
+{
+    if (found.measured.size() > 1 && found.measured.front().kind != Measured::Kind::unknown)
+        return listedAll(found, name);
+    std::vector<Message> lines;
+    Answer answer;
+    for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
+        answer.paths.push_back(each.path);
+        const Message inside =
+            each.kind == Measured::Kind::file ? Message() : listedInside(each, context, answer);
+        lines.push_back(
+            AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer), inside}));
+    }
+    answer.text = AskText::lines(std::move(lines));
+    return answer;
+}
+
+Answer inTrash(const Found& found)
+{
+    const TrashedItem& item = *found.trashed.front();
+    return {
+        Message{InsightTexts::kTrashedEarlier, {{"path", tilde(item.original)}, {"size", Bytes{item.size}}}},
+        {}};
+}
+
+} // namespace orlen::AskReader

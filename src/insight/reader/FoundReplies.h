@@ -1,0 +1,28 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Names.h"
+#include "insight/reader/Question.h"
+
+#include <string_view>
+
+/// Answers about what was found by a name. Pure; any thread.
+namespace orlen::AskReader {
+
+/// Which rule protects a path; none if nobody knows.
+[[nodiscard]] Protection protectionOf(const AskContext& context, std::string_view path);
+
+[[nodiscard]] Answer protectedPlace(std::string_view path, Protection protection);
+
+/// What the scan lists, at least one entry: its rating and reason, and what a clean-up does with it. A list
+/// if there are several, or others of that name.
+[[nodiscard]] Answer listedHits(const AskContext& context, const Found& found, std::string_view name);
+
+/// What no finding lists: where it is, how big, and why it is not suggested.
+[[nodiscard]] Answer measuredOnly(const Question& question, const AskContext& context, const Found& found,
+                                  std::string_view name);
+
+/// What an earlier clean-up moved.
+[[nodiscard]] Answer inTrash(const Found& found);
+
+} // namespace orlen::AskReader
