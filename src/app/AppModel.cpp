@@ -114,6 +114,7 @@ AskContext AppModel::askContext() const
             m_storage->folders().readings(),
             m_programs->apps(),
             m_programs->startupItems(),
+            m_programs->leftovers(),
             m_homeContents->files(),
             m_names};
 }

@@ -1,8 +1,11 @@
 #include "app/Programs.h"
 
+#include "clean/Persist.h"
 #include "tools/apps/AppList.h"
+#include "tools/apps/LeftBehind.h"
 #include "tools/startup/LaunchControl.h"
 
+#include <chrono>
 #include <stop_token>
 #include <utility>
 
@@ -13,6 +16,7 @@ namespace {
 struct Found {
     std::vector<KnownApp> apps;
     std::vector<KnownStartupItem> items;
+    std::vector<FileEntry> leftovers;
 };
 
 KnownApp::Source source(const AppInfo& app)
@@ -35,12 +39,13 @@ KnownApp known(AppInfo app)
 Found read(const std::stop_token& stop)
 {
     std::vector<AppInfo> apps = AppList::list(stop);
-    std::erase_if(apps, [](const AppInfo& app) { return app.source == AppSource::removedFlatpak; });
     AppList::measure(
         apps, [&](std::size_t index, std::int64_t bytes) { apps[index].size = bytes; }, stop);
     AppList::measureData(
         apps, [&](std::size_t index, std::int64_t bytes) { apps[index].dataSize = bytes; }, stop);
     Found found;
+    found.leftovers =
+        LeftBehind::find(apps, Persist::loadHistory().records, std::chrono::system_clock::now(), stop);
     for (AppInfo& app : apps)
         found.apps.push_back(known(std::move(app)));
     if (stop.stop_requested())
@@ -60,6 +65,7 @@ void Programs::load()
     m_workers.start(m_work, read, [this](Found found) {
         m_apps = std::move(found.apps);
         m_items = std::move(found.items);
+        m_leftovers = std::move(found.leftovers);
         Q_EMIT loaded();
     });
 }

@@ -22,6 +22,8 @@ public:
     /// Nothing until first read.
     [[nodiscard]] const std::optional<std::vector<KnownApp>>& apps() const { return m_apps; }
     [[nodiscard]] const std::optional<std::vector<KnownStartupItem>>& startupItems() const { return m_items; }
+    /// What applications that are gone left behind.
+    [[nodiscard]] const std::optional<std::vector<FileEntry>>& leftovers() const { return m_leftovers; }
 
 Q_SIGNALS:
     void loaded();
@@ -29,6 +31,7 @@ Q_SIGNALS:
 private:
     std::optional<std::vector<KnownApp>> m_apps;
     std::optional<std::vector<KnownStartupItem>> m_items;
+    std::optional<std::vector<FileEntry>> m_leftovers;
     Latest m_work;
 
     Workers m_workers; ///< last, so that no worker outlives what it shares

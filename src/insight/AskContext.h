@@ -52,6 +52,7 @@ struct AskContext {
     /// Nothing until they have been read.
     std::optional<std::vector<KnownApp>> apps{};
     std::optional<std::vector<KnownStartupItem>> startupItems{};
+    std::optional<std::vector<FileEntry>> leftovers{}; ///< of applications that are gone, largest first
     /// What lies in the home folder; null until it has been walked, then answers know what the scan lists.
     std::shared_ptr<const HomeFiles> home{};
     /// The words in the names of the findings, made when they are first needed. Whoever asks several times

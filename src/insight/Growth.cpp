@@ -53,7 +53,14 @@ std::vector<Growth::Folder> told(const ReadingPair& pair)
     return std::move(all.folders);
 }
 
-Growth compared(const ReadingPair& pair)
+} // namespace
+
+Moment Growth::start() const
+{
+    return ReadingPair::start(since, until);
+}
+
+Growth Growth::between(const ReadingPair& pair)
 {
     Growth growth{pair.before.date, pair.after.date, told(pair)};
     std::ranges::sort(growth.folders, [](const Growth::Folder& a, const Growth::Folder& b) {
@@ -64,23 +71,16 @@ Growth compared(const ReadingPair& pair)
     return growth;
 }
 
-} // namespace
-
-Moment Growth::start() const
-{
-    return ReadingPair::start(since, until);
-}
-
 std::optional<Growth> Growth::between(std::span<const FolderReading> readings, TimePoint from, TimePoint to)
 {
     const auto pair = ReadingPair::over(readings, from, to);
-    return pair ? std::optional(compared(*pair)) : std::nullopt;
+    return pair ? std::optional(between(*pair)) : std::nullopt;
 }
 
 std::optional<Growth> Growth::sinceLastScan(std::span<const FolderReading> readings)
 {
     const auto pair = ReadingPair::last(readings);
-    return pair ? std::optional(compared(*pair)) : std::nullopt;
+    return pair ? std::optional(between(*pair)) : std::nullopt;
 }
 
 } // namespace orlen

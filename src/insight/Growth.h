@@ -12,6 +12,8 @@
 
 namespace orlen {
 
+struct ReadingPair;
+
 /// What grew between two scans.
 struct Growth {
     struct Folder {
@@ -38,6 +40,7 @@ struct Growth {
     /// none. Nothing when that leaves nothing to compare. The readings are sorted by date. Pure; any thread.
     [[nodiscard]] static std::optional<Growth> between(std::span<const FolderReading> readings,
                                                        TimePoint from, TimePoint to = TimePoint::max());
+    [[nodiscard]] static Growth between(const ReadingPair& pair);
     /// Compares the last two scans.
     [[nodiscard]] static std::optional<Growth> sinceLastScan(std::span<const FolderReading> readings);
 };

@@ -95,6 +95,15 @@ inline constexpr Text kGrewFolder = message("• {path}: {size} more, {now} in a
 inline constexpr Text kNothingGrew = message("No folder has grown much since {date}.");
 // TRANSLATORS: {first} and {last} are dates.
 inline constexpr Text kNothingGrewBetween = message("No folder grew much from {first} to {last}.");
+inline constexpr Text kFolderGrew =
+    message("Since {date} the folder {folder} has grown by {size}; it takes {now} now.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kFolderGrewBetween =
+    message("From {first} to {last} the folder {folder} grew by {size}, to {now}.");
+inline constexpr Text kFolderNotGrown = message("Since {date} the folder {folder} has not grown.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kFolderNotGrownBetween =
+    message("From {first} to {last} the folder {folder} did not grow.");
 inline constexpr Text kNothingToCompare =
     message("There are no two scans to compare yet. Each Smart Scan notes how big your folders are.");
 
@@ -295,6 +304,23 @@ inline constexpr Text kAppUnknown = message(
 // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
 inline constexpr Text kBiggestApps =
     message("With their data, the biggest applications that Orlen lists are {apps}.");
+inline constexpr Text kSmallestApps =
+    // TRANSLATORS: {apps} is a list: "GIMP (500 MB), Blender (3 GB)".
+    message("With their data, the smallest applications that Orlen lists are {apps}.");
+inline constexpr Text kAppsListed =
+    messages("Orlen lists {count} application.", "Orlen lists {count} applications.");
+inline constexpr Text kAppsOver =
+    // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
+    messages("With its data, {count} application takes more than {size}: {apps}.",
+             "With their data, {count} applications take more than {size}: {apps}.");
+inline constexpr Text kAppsUnder =
+    // TRANSLATORS: {apps} is a list: "Blender (3 GB), GIMP (500 MB)".
+    messages("With its data, {count} application takes less than {size}: {apps}.",
+             "With their data, {count} applications take less than {size}: {apps}.");
+inline constexpr Text kNoAppOver =
+    message("No application that Orlen lists takes more than {size} with its data.");
+inline constexpr Text kNoAppUnder =
+    message("No application that Orlen lists takes less than {size} with its data.");
 // TRANSLATORS: {apps} is a list: "Blender (3 GB, last used 4 March 2024), GIMP (500 MB, last used 1 May
 // 2025)".
 inline constexpr Text kUnusedApps =
@@ -316,6 +342,9 @@ inline constexpr Text kAppsScreen =
 // TRANSLATORS: {names} is a list of programs.
 inline constexpr Text kStartingItems = messages("{count} item starts when you log in: {names}.",
                                                 "{count} items start when you log in: {names}.");
+// TRANSLATORS: {names} is a list of programs.
+inline constexpr Text kStoppedItems =
+    messages("{count} item is switched off: {names}.", "{count} items are switched off: {names}.");
 inline constexpr Text kStartupScreen =
     // TRANSLATORS: "orlen startup" is a command.
     message(
@@ -334,6 +363,15 @@ inline constexpr Text kSnaps =
     // TRANSLATORS: what is in quotation marks are commands.
     message("“snap remove” removes a Snap, and “snap list --all” shows old versions; the Applications screen "
             "shows their sizes.");
+// TRANSLATORS: a list of these folders follows.
+inline constexpr Text kLeftovers = messages("{count} folder of removed applications takes {size}:",
+                                            "{count} folders of removed applications take {size}:");
+inline constexpr Text kNoLeftovers = message("I found no folders that removed applications left behind.");
+inline constexpr Text kLeftoversScreen =
+    // TRANSLATORS: "orlen leftovers" is a command.
+    message("The Applications screen lists what removed applications left behind, and so does “orlen "
+            "leftovers”.");
+inline constexpr Text kInstalled = message("Yes: {name} is installed.");
 inline constexpr Text kGames = message(
     "Games are best removed in the program that installed them. The disk map shows how much their folder "
     "takes.");
@@ -349,6 +387,12 @@ inline constexpr Text kPutBack =
 inline constexpr Text kCleanUps =
     messages("{count} clean-up since {date} moved {size} to the Trash in all.",
              "{count} clean-ups since {date} moved {size} to the Trash in all.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kCleanUpsBetween =
+    messages("From {first} to {last}, {count} clean-up moved {size} to the Trash.",
+             "From {first} to {last}, {count} clean-ups moved {size} to the Trash.");
+// TRANSLATORS: {first} and {last} are dates.
+inline constexpr Text kNoCleanUpBetween = message("From {first} to {last} there was no clean-up.");
 inline constexpr Text kHistoryListsThem = message("History lists them.");
 inline constexpr Text kHowToRestore =
     // TRANSLATORS: "orlen history" and "orlen restore" are commands.

@@ -122,13 +122,23 @@ Turn turnOf(const Reply& reply, const Conversation& before)
     return {reply.answer, before.with({reply.question, reply.answer.findingIDs, reply.answer.paths})};
 }
 
+/// "… and how much would I gain": of what was spoken of before it.
+bool leavesOutWhat(const Question& question)
+{
+    constexpr SenseSet kOfIt{howMuch, howBig, howMany, makeRoom, free, space,
+                             takes,   can,    remove,  safe,     keep, general};
+    return question.senses.isWithin(kOfIt) &&
+           question.senses.meets({makeRoom, howBig, remove, safe, keep, takes});
+}
+
 /// All parts answered, each after the one before it; nothing if one is not.
 std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
                              const Conversation& before)
 {
     Conversation conversation = before;
     std::vector<Answer> answers;
-    for (const Question& one : parts) {
+    for (Question one : parts) {
+        one.isBackward = one.isBackward || (!answers.empty() && leavesOutWhat(one));
         const std::optional<Reply> found = reply(one, context, conversation);
         if (!found)
             return std::nullopt;
@@ -210,7 +220,8 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
     KnownNames names(context);
     const Question question = bestReading(
         words, context.now, [&](std::string_view word) { return names(word); }, before);
-    if (before.empty() && isTopic(question))
+    if (before.empty() && isTopic(question) &&
+        AskEngine::fallback(text, context).text != Message{InsightTexts::kHelp})
         return std::nullopt;
     std::optional<Turn> found = answered(question, context, before);
     if (!found && question.corrected > 0) {

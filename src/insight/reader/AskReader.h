@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// Reads a question word by word and answers only if it understands all of it; everything else is left to the
-/// matcher. Pure, deterministic; any thread.
+/// matcher. Deterministic; any thread, but not the main one when the context has a `home`.
 ///
 /// Words and phrases are looked up in the table of a language (`Language`) and become senses. A second table
 /// says which senses a reply needs and which others it may stand beside. A word that neither table knows must

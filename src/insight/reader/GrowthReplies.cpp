@@ -3,45 +3,126 @@
 #include "insight/AskText.h"
 #include "insight/Growth.h"
 #include "insight/InsightTexts.h"
+#include "insight/ReadingPair.h"
 #include "insight/reader/Names.h"
+#include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
 
+namespace {
+
+/// Two scans, and whether the later one is over for the person who asks.
+struct Compared {
+    ReadingPair pair;
+    bool isOver = false;
+
+    /// The dates as a message names them.
+    [[nodiscard]] std::vector<Place> dates() const
+    {
+        if (isOver)
+            return {{"first", ReadingPair::start(pair.before.date, pair.after.date)},
+                    {"last", Moment{pair.after.date}}};
+        return {{"date", ReadingPair::start(pair.before.date, pair.after.date)}};
+    }
+};
+
+std::optional<Compared> comparedIn(const Question& question, const AskContext& context)
+{
+    const Phrase* const phrase = question.first(Sense::period);
+    const auto compared = [](const std::optional<ReadingPair>& pair, bool isOver) {
+        return pair ? std::optional(Compared{*pair, isOver}) : std::nullopt;
+    };
+    if (phrase == nullptr)
+        return compared(ReadingPair::last(context.folders), false);
+    const Period& period = *phrase->period;
+    if (question.senses.meets({Sense::since, Sense::after}))
+        return compared(ReadingPair::over(context.folders, period.from), false);
+    return compared(ReadingPair::over(context.folders, period.from, period.to), period.to < context.now);
+}
+
+/// The folder that the question is about; empty if it is about all. Nothing if it is about something else.
+std::optional<std::string> folderIn(const Question& question, const AskContext& context)
+{
+    std::string folder;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject != nullptr && (phrase.subject->isAnyFile || phrase.subject->id == SubjectID::home))
+            continue;
+        std::string named;
+        if (phrase.subject != nullptr) {
+            named = folderOf(*phrase.subject);
+        } else if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) {
+            named = folderNamed(context, phrase.text);
+        } else {
+            continue;
+        }
+        if (named.empty() || !folder.empty())
+            return std::nullopt;
+        folder = std::move(named);
+    }
+    return folder;
+}
+
+std::optional<Answer> growthOf(const std::string& folder, const Compared& compared)
+{
+    const std::vector<FolderSize>& after = compared.pair.after.folders;
+    const auto found = std::ranges::find(after, folder, &FolderSize::path);
+    const auto size = found == after.end() ? std::nullopt : compared.pair.sizeBefore(*found);
+    if (!size)
+        return std::nullopt;
+    std::vector<Place> places = compared.dates();
+    places.push_back({"folder", tilde(folder)});
+    if (found->bytes <= *size)
+        return Answer{
+            Message{compared.isOver ? InsightTexts::kFolderNotGrownBetween : InsightTexts::kFolderNotGrown,
+                    std::move(places)},
+            {}};
+    places.push_back({"size", Bytes{found->bytes - *size}});
+    places.push_back({"now", Bytes{found->bytes}});
+    return Answer{Message{compared.isOver ? InsightTexts::kFolderGrewBetween : InsightTexts::kFolderGrew,
+                          std::move(places)},
+                  {}};
+}
+
+} // namespace
+
 std::optional<Answer> whatGrew(const Question& question, const AskContext& context)
 {
     constexpr std::size_t kNamed = 5;
     const Phrase* const period = question.first(Sense::period);
-    if (period != nullptr && period->period->from > context.now)
+    const auto folder = folderIn(question, context);
+    if ((period != nullptr && period->period->from > context.now) || !folder)
         return std::nullopt;
-    std::optional<Growth> growth;
-    if (period == nullptr)
-        growth = Growth::sinceLastScan(context.folders);
-    else if (question.senses.meets({Sense::since, Sense::after}))
-        growth = Growth::between(context.folders, period->period->from);
-    else
-        growth = Growth::between(context.folders, period->period->from, period->period->to);
-    if (!growth)
+    const auto compared = comparedIn(question, context);
+    if (!compared)
         return Answer{InsightTexts::kNothingToCompare, {}};
-    const bool isOver = period != nullptr && !question.senses.meets({Sense::since, Sense::after}) &&
-                        period->period->to < context.now;
-    const std::vector<Place> span =
-        isOver ? std::vector<Place>{{"first", growth->start()}, {"last", Moment{growth->until}}}
-               : std::vector<Place>{{"date", growth->start()}};
-    if (growth->folders.empty())
-        return Answer{Message{isOver ? InsightTexts::kNothingGrewBetween : InsightTexts::kNothingGrew, span},
-                      {}};
-    std::vector<Message> lines{{isOver ? InsightTexts::kGrewBetween : InsightTexts::kGrewSince, span}};
-    for (std::size_t i = 0; i < std::min(growth->folders.size(), kNamed); ++i) {
-        const Growth::Folder& folder = growth->folders[i];
-        lines.push_back(
-            {InsightTexts::kGrewFolder,
-             {{"path", tilde(folder.path)}, {"size", Bytes{folder.bytes()}}, {"now", Bytes{folder.now}}}});
-    }
+    if (!folder->empty() && !question.senses.has(Sense::inside))
+        return growthOf(*folder, *compared);
+    std::vector<Growth::Folder> grown = Growth::between(compared->pair).folders;
+    std::erase_if(grown, [&](const Growth::Folder& each) {
+        return !folder->empty() && !PathText::isAtOrBelow(each.path, *folder);
+    });
+    if (grown.empty() && !folder->empty())
+        return growthOf(*folder, *compared);
+    if (grown.empty())
+        return Answer{
+            Message{compared->isOver ? InsightTexts::kNothingGrewBetween : InsightTexts::kNothingGrew,
+                    compared->dates()},
+            {}};
+    std::vector<Message> lines{
+        {compared->isOver ? InsightTexts::kGrewBetween : InsightTexts::kGrewSince, compared->dates()}};
+    const Phrase* const number = question.first(Sense::number);
+    const std::size_t most = number == nullptr ? kNamed : static_cast<std::size_t>(number->amount);
+    for (std::size_t i = 0; i < std::min(grown.size(), most); ++i)
+        lines.push_back({InsightTexts::kGrewFolder,
+                         {{"path", tilde(grown[i].path)},
+                          {"size", Bytes{grown[i].bytes()}},
+                          {"now", Bytes{grown[i].now}}}});
     return Answer{AskText::lines(std::move(lines)), {}};
 }
 

@@ -2,11 +2,18 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/Names.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <iterator>
+#include <span>
+#include <utility>
+#include <vector>
 
 namespace orlen::AskReader {
 
@@ -27,22 +34,87 @@ Message lastOf(const std::vector<CleanRecord>& history)
     return AskText::sentences({moved, Message{InsightTexts::kPutBack, {{"count", restored}}}});
 }
 
-} // namespace
-
-std::optional<Answer> lastCleanUp(const Question& /*question*/, const AskContext& context)
+std::int64_t freedBy(std::span<const CleanRecord> records)
 {
-    if (context.history.empty())
-        return Answer{InsightTexts::kNoCleanUp, {}};
-    return Answer{AskText::sentences({lastOf(context.history), InsightTexts::kHowToRestore}), {}};
+    std::int64_t bytes = 0;
+    for (const CleanRecord& record : records)
+        bytes = checkedAdd(bytes, record.freed());
+    return bytes;
 }
 
-std::optional<Answer> allCleanUps(const Question& /*question*/, const AskContext& context)
+/// From when to when the question asks for clean-ups.
+Span spanOf(const Question& question, const Period& period, const AskContext& context)
+{
+    if (question.senses.meets({Sense::since, Sense::above}))
+        return {period.from, context.now};
+    if (question.senses.has(Sense::after))
+        return {period.to, context.now};
+    if (question.senses.has(Sense::before))
+        return {context.history.back().date, period.from};
+    return {period.from, period.to};
+}
+
+Answer cleanUpsIn(const Span& span, const std::vector<CleanRecord>& history)
+{
+    std::vector<CleanRecord> records;
+    std::ranges::copy_if(history, std::back_inserter(records), [&](const CleanRecord& record) {
+        return record.date >= span.from && record.date < span.to;
+    });
+    // A span ends just before a day begins.
+    const std::vector<Place> dates{{"first", dayOf(span.from)},
+                                   {"last", dayOf(span.to - std::chrono::hours(1))}};
+    if (records.empty())
+        return {Message{InsightTexts::kNoCleanUpBetween, dates}, {}};
+    std::vector<Place> places = dates;
+    places.push_back({"count", std::ssize(records)});
+    places.push_back({"size", Bytes{freedBy(records)}});
+    return {AskText::sentences({Message{InsightTexts::kCleanUpsBetween, std::move(places)},
+                                InsightTexts::kHistoryListsThem}),
+            {}};
+}
+
+/// The largest things that it moved.
+std::vector<Message> itemsOf(const CleanRecord& record)
+{
+    constexpr std::size_t kShown = 5;
+    std::vector<TrashedItem> items = record.items;
+    std::ranges::stable_sort(items, std::greater{}, &TrashedItem::size);
+    std::vector<Message> lines;
+    for (const TrashedItem& item : std::span(items).first(std::min(items.size(), kShown)))
+        lines.push_back(
+            {InsightTexts::kDownload, {{"name", tilde(item.original)}, {"size", Bytes{item.size}}}});
+    if (items.size() > kShown)
+        lines.push_back(
+            {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(items.size() - kShown)}}});
+    return lines;
+}
+
+} // namespace
+
+std::optional<Answer> lastCleanUp(const Question& question, const AskContext& context)
+{
+    // What it moved of one kind is another question.
+    const auto isKind = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && !phrase.subject->isAnyFile;
+    };
+    if (std::ranges::any_of(question.phrases, isKind))
+        return std::nullopt;
+    if (context.history.empty())
+        return Answer{InsightTexts::kNoCleanUp, {}};
+    std::vector<Message> lines{lastOf(context.history)};
+    if (question.senses.meets({Sense::what, Sense::howMany}))
+        std::ranges::move(itemsOf(context.history.front()), std::back_inserter(lines));
+    lines.emplace_back(InsightTexts::kHowToRestore);
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+std::optional<Answer> allCleanUps(const Question& question, const AskContext& context)
 {
     if (context.history.empty())
         return Answer{InsightTexts::kNoCleanUp, {}};
-    std::int64_t bytes = 0;
-    for (const CleanRecord& record : context.history)
-        bytes = checkedAdd(bytes, record.freed());
+    if (const Phrase* const phrase = question.first(Sense::period))
+        return cleanUpsIn(spanOf(question, *phrase->period, context), context.history);
+    const std::int64_t bytes = freedBy(context.history);
     const Message all{InsightTexts::kCleanUps,
                       {{"count", std::ssize(context.history)},
                        {"date", Moment{context.history.back().date}},

@@ -108,6 +108,9 @@ bool takeDate(const Question& question, TimePoint now, ListRequest& request)
     // "Over the summer" is no age.
     if (period.from > now || (period.isAhead && isOlderThan(question)))
         return false;
+    // "More than last month" compares something else.
+    if ((isOlderThan(question) || isYoungerThan(question)) && !period.next)
+        return false;
     if (question.senses.has(Sense::unopened)) {
         request.openedTo = period.from;
         narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});

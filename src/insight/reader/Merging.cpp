@@ -30,6 +30,14 @@ void rename(Phrases& phrases, Sense from, Sense to)
     }
 }
 
+/// "How much would I get back if I deleted …" asks for no return.
+void mergeGain(Phrases& phrases)
+{
+    if ((has(phrases, Sense::howMuch) || has(phrases, Sense::howBig)) && has(phrases, Sense::undo) &&
+        has(phrases, Sense::remove))
+        rename(phrases, Sense::undo, Sense::makeRoom);
+}
+
 /// "Not … opened", "I never use": with whatever stands between.
 void mergeNegation(Phrases& phrases)
 {
@@ -207,6 +215,7 @@ Question merged(const Question& question)
     Phrases phrases = question.phrases;
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
+    mergeGain(phrases);
     mergeRange(phrases);
     mergeMaking(phrases);
     mergeNeighbours(phrases);

@@ -110,13 +110,43 @@ Answer notFound(std::string_view name, const AskContext& context)
     return {Message{text, {{"name", PathText::forDisplay(name)}}}, {}};
 }
 
+/// Whether a word of the question is neither understood nor part of the name: it asks for something else.
+bool hasOtherNames(const Question& question, const std::string& name, const std::string& place)
+{
+    return std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
+        return (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) &&
+               name.find(phrase.text) == std::string::npos && place.find(phrase.text) == std::string::npos;
+    });
+}
+
+/// "Thunderbird mail" is not the cache of that name.
+bool isOfMail(const Question& question)
+{
+    return std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.sense == Sense::general &&
+               isListed("mail,mails,email,emails", plainLetters(phrase.text));
+    });
+}
+
+/// A name that fits only in part is no guess for a question about something else.
+bool mayBePartOfName(const Question& question)
+{
+    constexpr SenseSet kOfFiles{Sense::howBig, Sense::howMuch, Sense::remove,    Sense::safe,
+                                Sense::keep,   Sense::can,     Sense::takes,     Sense::undo,
+                                Sense::folder, Sense::subject, Sense::untouched, Sense::happens};
+    return question.phrases.size() == 1 || question.senses.meets(kOfFiles) ||
+           (question.phrases.size() == 2 && question.senses.has(Sense::what));
+}
+
 } // namespace
 
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
     const auto [name, place] = nameIn(question);
     const std::string folder = place.empty() ? std::string() : folderNamed(context, place);
-    if (name.empty() || (folder.empty() && !place.empty() && !isFileName(question, name)))
+    if (name.empty() || hasOtherNames(question, name, place))
+        return std::nullopt;
+    if ((folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
@@ -134,8 +164,10 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
             return app;
     }
     const std::string guarded = protectedPath(question, context, name);
-    if (!guarded.empty() && found.fit < Fit::whole)
+    if (!guarded.empty() && (found.fit < Fit::whole || isOfMail(question)))
         return protectedPlace(guarded, protectionOf(context, guarded));
+    if (found.fit < Fit::stem && !isFileName(question, name) && !mayBePartOfName(question))
+        return std::nullopt;
     if (!found.hits.empty())
         return listedHits(context, found, PathText::forDisplay(name));
     if (!found.measured.empty())
@@ -148,15 +180,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
 {
     const auto [name, place] = nameIn(question);
-    const auto isElse = [&](const Phrase& phrase) {
-        return phrase.sense == Sense::unknown && name.find(phrase.text) == std::string::npos &&
-               place.find(phrase.text) == std::string::npos;
-    };
     // "The mozilla cache"
     const Subject* const subject = question.subject();
     const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
                           findNamed(context, name, subject->kinds).fit >= Fit::words;
-    if (name.empty() || std::ranges::any_of(question.phrases, isElse) ||
+    if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);

@@ -17,7 +17,7 @@ namespace {
 
 /// Parts of words shorter than this stand in too many names.
 constexpr std::size_t kShortestPart = 4;
-constexpr std::size_t kShortestMistypedName = 5;
+constexpr std::size_t kShortestMistypedName = 6;
 
 /// The name that is looked for.
 class Wanted {
@@ -94,8 +94,9 @@ private:
 
     [[nodiscard]] bool holdsParts(std::string_view text) const
     {
-        return std::ranges::all_of(
-            m_words, [&](const std::string& word) { return text.find(word) != std::string_view::npos; });
+        return std::ranges::all_of(m_words, [&](const std::string& word) {
+            return anyWord(text, [&](std::string_view each) { return each.starts_with(word); });
+        });
     }
 
     [[nodiscard]] bool holdsMistyped(std::string_view text) const

@@ -282,7 +282,13 @@ private:
     {
         bool isPrevious = take(Figure::previous).has_value();
         bool isNext = !isPrevious && take(Figure::following).has_value();
-        const bool isCurrent = !isPrevious && !isNext && take(Figure::current).has_value();
+        bool isCurrent = !isPrevious && !isNext && take(Figure::current).has_value();
+        if (!isPrevious && !isNext && !isCurrent && m_isExpected) {
+            // "Since the beginning of | the year"
+            while (!isDone() && isArticle(m_words[m_at]))
+                ++m_at;
+            isCurrent = true;
+        }
         const auto unit = take(Figure::timeUnit);
         if (!unit)
             return std::nullopt;

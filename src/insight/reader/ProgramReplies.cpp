@@ -2,13 +2,19 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/Names.h"
 #include "insight/reader/SubjectReplies.h"
 #include "insight/reader/UnusedApps.h"
 #include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <iterator>
+#include <span>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,58 +32,169 @@ bool isNamed(const KnownApp& app, const std::string& wanted)
            (wanted.size() > kNamedApps && isOneLetterApart(name, wanted));
 }
 
-std::vector<Message> biggestApps(const AskContext& context,
-                                 const std::function<bool(const KnownApp&)>& isMeant)
+/// Which applications a question asks for.
+struct AppRequest {
+    std::size_t count = kNamedApps;
+    bool isSmallest = false;
+    std::optional<std::int64_t> over;
+    std::optional<std::int64_t> under;
+    std::optional<KnownApp::Source> source;
+
+    /// Nothing if it asks for what nobody knows, such as when they were installed.
+    [[nodiscard]] static std::optional<AppRequest> of(const Question& question)
+    {
+        if (question.senses.meets({Sense::newest, Sense::oldest, Sense::period, Sense::ordinal, Sense::last,
+                                   Sense::since, Sense::except, Sense::negation}))
+            return std::nullopt;
+        AppRequest request;
+        request.isSmallest = question.senses.has(Sense::smallest);
+        if (const Phrase* const number = question.first(Sense::number))
+            request.count = static_cast<std::size_t>(number->amount);
+        if (const Phrase* const size = question.first(Sense::size)) {
+            if (question.senses.has(Sense::above) == question.senses.has(Sense::below))
+                return std::nullopt;
+            (question.senses.has(Sense::above) ? request.over : request.under) = size->amount;
+        }
+        return request;
+    }
+
+    [[nodiscard]] bool admits(const KnownApp& app) const
+    {
+        return (!source || app.source == *source) && (!over || (app.bytes && *app.bytes > *over)) &&
+               (!under || (app.bytes && *app.bytes < *under));
+    }
+};
+
+/// Those that fit, as asked for first; the unmeasured last.
+std::vector<KnownApp> fitting(const AppRequest& request, const AskContext& context)
 {
     std::vector<KnownApp> apps;
     std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(apps),
-                         [&](const KnownApp& app) { return app.bytes && isMeant(app); });
-    if (apps.empty())
-        return {};
-    std::ranges::stable_sort(apps, std::greater{}, &KnownApp::bytes);
-    apps.resize(std::min(apps.size(), kNamedApps));
-    Several list{{}, Several::Joint::commas};
-    for (const KnownApp& app : apps)
-        list.messages.push_back(AskText::sized(PathText::forDisplay(app.name), *app.bytes));
-    return {{InsightTexts::kBiggestApps, {{"apps", std::move(list)}}}};
+                         [&](const KnownApp& app) { return request.admits(app); });
+    std::ranges::stable_sort(apps, [&](const KnownApp& a, const KnownApp& b) {
+        if (!a.bytes || !b.bytes)
+            return a.bytes.has_value() && !b.bytes;
+        return request.isSmallest ? *a.bytes < *b.bytes : *a.bytes > *b.bytes;
+    });
+    return apps;
 }
 
-Answer apps(const Question& question, const AskContext& context)
+Several namesOf(std::span<const KnownApp> apps)
+{
+    Several list{{}, Several::Joint::commas};
+    for (const KnownApp& app : apps) {
+        std::string name = PathText::forDisplay(app.name);
+        list.messages.push_back(app.bytes ? AskText::sized(std::move(name), *app.bytes)
+                                          : Message::verbatim(std::move(name)));
+    }
+    return list;
+}
+
+/// One line about those that fit.
+Message listedApps(const AppRequest& request, const AskContext& context)
+{
+    const std::vector<KnownApp> apps = fitting(request, context);
+    const Place size{"size", Bytes{request.over ? *request.over : request.under.value_or(0)}};
+    if (apps.empty() && (request.over || request.under))
+        return {request.over ? InsightTexts::kNoAppOver : InsightTexts::kNoAppUnder, {size}};
+    if (apps.empty())
+        return {};
+    Several names = namesOf(std::span(apps).first(std::min(apps.size(), request.count)));
+    if (request.over || request.under)
+        return {request.over ? InsightTexts::kAppsOver : InsightTexts::kAppsUnder,
+                {{"count", std::ssize(apps)}, size, {"apps", std::move(names)}}};
+    return {request.isSmallest ? InsightTexts::kSmallestApps : InsightTexts::kBiggestApps,
+            {{"apps", std::move(names)}}};
+}
+
+std::optional<Answer> apps(const Question& question, const AskContext& context)
 {
     std::vector<Message> lines;
     if (question.senses.has(Sense::unopened)) {
         lines = unusedApps(question, context);
-    } else if (const auto size = sizeOfSubject(question, context); size && !size->text.empty()) {
-        lines.push_back(size->text);
+    } else {
+        const auto request = AppRequest::of(question);
+        if (!request)
+            return std::nullopt;
+        const bool isListed = request->over || request->under || request->isSmallest;
+        if (context.apps && !isListed)
+            lines.push_back({InsightTexts::kAppsListed, {{"count", std::ssize(*context.apps)}}});
+        if (const auto size = sizeOfSubject(question, context); size && !isListed)
+            lines.push_back(size->text);
+        lines.push_back(listedApps(*request, context));
     }
-    if (!question.senses.has(Sense::unopened))
-        std::ranges::move(biggestApps(context, [](const KnownApp&) { return true; }),
-                          std::back_inserter(lines));
     lines.emplace_back(question.senses.meets({Sense::remove, Sense::uninstall}) ? InsightTexts::kAppRemoval
                                                                                 : InsightTexts::kAppsScreen);
-    return {AskText::lines(std::move(lines)), {}};
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+Message startupLine(const AskContext& context, bool isEnabled, const Text& text)
+{
+    Several names{{}, Several::Joint::commas};
+    for (const KnownStartupItem& item : context.startupItems.value_or(std::vector<KnownStartupItem>())) {
+        if (item.isEnabled == isEnabled)
+            names.messages.push_back(Message::verbatim(PathText::forDisplay(item.name)));
+    }
+    if (names.messages.empty())
+        return {};
+    return {text, {{"count", std::ssize(names.messages)}, {"names", std::move(names)}}};
 }
 
 Answer startup(const AskContext& context)
 {
-    std::vector<Message> lines;
-    Several names{{}, Several::Joint::commas};
-    for (const KnownStartupItem& item : context.startupItems.value_or(std::vector<KnownStartupItem>())) {
-        if (item.isEnabled)
-            names.messages.push_back(Message::verbatim(PathText::forDisplay(item.name)));
-    }
-    if (!names.messages.empty())
-        lines.push_back({InsightTexts::kStartingItems,
-                         {{"count", std::ssize(names.messages)}, {"names", std::move(names)}}});
-    lines.emplace_back(InsightTexts::kStartupScreen);
-    return {AskText::lines(std::move(lines)), {}};
+    return {AskText::lines({startupLine(context, true, InsightTexts::kStartingItems),
+                            startupLine(context, false, InsightTexts::kStoppedItems),
+                            InsightTexts::kStartupScreen}),
+            {}};
 }
 
-Answer packaged(const AskContext& context, KnownApp::Source source, const Text& how)
+std::optional<Answer> packaged(const Question& question, const AskContext& context, KnownApp::Source source,
+                               const Text& how)
 {
-    std::vector<Message> lines =
-        biggestApps(context, [&](const KnownApp& app) { return app.source == source; });
-    lines.emplace_back(how);
+    auto request = AppRequest::of(question);
+    if (!request)
+        return std::nullopt;
+    request->source = source;
+    request->count = std::max<std::size_t>(request->count, kNamedApps * 2);
+    return Answer{AskText::lines({listedApps(*request, context), how}), {}};
+}
+
+/// What the folders of games take.
+std::optional<Answer> games(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOther{Sense::newest, Sense::oldest, Sense::period, Sense::unopened, Sense::size};
+    if (question.senses.meets(kOther))
+        return std::nullopt;
+    std::vector<Message> lines;
+    for (const CategoryFolder& folder : context.breakdown.folders) {
+        constexpr std::string_view kOfGames[] = {"Steam", "steam", "Games", "lutris", "bottles"};
+        const std::string_view name = PathText::lastComponent(folder.path);
+        if (folder.category == OrlenCategory::apps && std::ranges::find(kOfGames, name) != std::end(kOfGames))
+            lines.push_back({InsightTexts::kFolderTakes,
+                             {{"folder", tilde(folder.path)}, {"size", Bytes{folder.bytes}}}});
+    }
+    lines.emplace_back(InsightTexts::kGames);
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+Answer leftovers(const AskContext& context)
+{
+    if (!context.leftovers)
+        return {InsightTexts::kLeftoversScreen, {}};
+    if (context.leftovers->empty())
+        return {AskText::sentences({InsightTexts::kNoLeftovers, InsightTexts::kLeftoversScreen}), {}};
+    constexpr std::size_t kShown = 10;
+    std::int64_t bytes = 0;
+    std::vector<Message> lines(1);
+    for (const FileEntry& entry : *context.leftovers) {
+        bytes = checkedAdd(bytes, entry.size);
+        if (lines.size() <= kShown)
+            lines.push_back(
+                {InsightTexts::kDownload, {{"name", tilde(entry.path)}, {"size", Bytes{entry.size}}}});
+    }
+    lines.front() = {InsightTexts::kLeftovers,
+                     {{"count", std::ssize(*context.leftovers)}, {"size", Bytes{bytes}}}};
+    lines.emplace_back(InsightTexts::kLeftoversScreen);
     return {AskText::lines(std::move(lines)), {}};
 }
 
@@ -97,6 +214,11 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     const auto isProgram = [](const Phrase& phrase) {
         return phrase.subject != nullptr && phrase.subject->isProgram;
     };
+    const auto isLeftovers = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && phrase.subject->id == SubjectID::leftovers;
+    };
+    if (std::ranges::any_of(question.phrases, isLeftovers))
+        return leftovers(context);
     const auto found = std::ranges::find_if(question.phrases, isProgram);
     if (found == question.phrases.end())
         return std::nullopt;
@@ -109,14 +231,16 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     case SubjectID::containers:
         return Answer{InsightTexts::kContainers, {}};
     case SubjectID::flatpak:
-        return packaged(context, KnownApp::Source::flatpak, InsightTexts::kFlatpaks);
+        return packaged(question, context, KnownApp::Source::flatpak, InsightTexts::kFlatpaks);
     case SubjectID::snap:
-        return packaged(context, KnownApp::Source::snap, InsightTexts::kSnaps);
+        return packaged(question, context, KnownApp::Source::snap, InsightTexts::kSnaps);
     case SubjectID::games:
-        return Answer{InsightTexts::kGames, {}};
+        return games(question, context);
+    case SubjectID::leftovers:
+        return leftovers(context);
     default:
         // Any other program is one of the applications.
-        return question.count(Sense::subject) > 1 ? std::nullopt : std::optional(apps(question, context));
+        return question.count(Sense::subject) > 1 ? std::nullopt : apps(question, context);
     }
 }
 
@@ -133,6 +257,18 @@ std::optional<Answer> startupOf(const Question& question, const AskContext& cont
                });
     };
     return std::ranges::all_of(question.phrases, isItem) ? std::optional(startup(context)) : std::nullopt;
+}
+
+std::optional<Answer> isInstalled(const Question& question, const AskContext& context)
+{
+    const Phrase* const unknown = question.first(Sense::unknown);
+    const Phrase* const named = unknown != nullptr ? unknown : question.first(Sense::quoted);
+    if (named == nullptr || !context.apps || question.count(Sense::unknown) > 1)
+        return std::nullopt;
+    const Place name{"name", PathText::forDisplay(named->text)};
+    if (const auto app = aboutApp(context, named->text))
+        return Answer{AskText::sentences({Message{InsightTexts::kInstalled, {name}}, app->text}), {}};
+    return Answer{Message{InsightTexts::kAppUnknown, {name}}, {}};
 }
 
 std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)

@@ -16,6 +16,9 @@ namespace orlen::AskReader {
 /// What starts at login, if the question names one of those items.
 [[nodiscard]] std::optional<Answer> startupOf(const Question& question, const AskContext& context);
 
+/// Whether what the question names is an installed application.
+[[nodiscard]] std::optional<Answer> isInstalled(const Question& question, const AskContext& context);
+
 /// How to uninstall what the question names.
 [[nodiscard]] std::optional<Answer> uninstalling(const Question& question, const AskContext& context);
 

@@ -27,7 +27,7 @@ public:
     {
         while (m_at < m_words.size()) {
             if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSize() && !takeKnown(2) &&
-                !takeOrdinal() && !takeKnown(1) && !takeNumber())
+                !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
                 takeUnknown();
         }
         return std::move(m_question);
@@ -70,6 +70,13 @@ private:
     {
         if (!m_words[m_at].isQuoted)
             return false;
+        // What does "Review" mean?
+        constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
+        const Lexicon::Entry* const entry = m_lexicon.find(m_plain[m_at]);
+        if (entry != nullptr && kRatings.has(entry->sense)) {
+            take({entry->sense, {}, nullptr, 0, {}}, 1);
+            return true;
+        }
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);
         return true;
     }
@@ -124,6 +131,16 @@ private:
         if (number)
             take({Sense::ordinal, {}, nullptr, static_cast<std::int64_t>(*number), {}}, 1);
         return number.has_value();
+    }
+
+    /// "67%", which an answer tells better.
+    bool takeShare()
+    {
+        const std::string& word = m_plain[m_at];
+        if (!word.ends_with('%') || word.find_first_not_of("0123456789.,%") != std::string::npos)
+            return false;
+        take({Sense::filler, {}, nullptr, 0, {}}, 1);
+        return true;
     }
 
     bool takeNumber()
@@ -197,6 +214,11 @@ private:
     void takeUnknown()
     {
         const std::string word = m_plain[m_at];
+        // Hidden names and paths are no words.
+        if (word.starts_with('.') || word.find('/') != std::string::npos) {
+            take({Sense::unknown, {}, nullptr, 0, {}}, 1);
+            return;
+        }
         if (takeCompound(word) || takeInflected(word))
             return;
         const Lexicon::Entry* const meant =

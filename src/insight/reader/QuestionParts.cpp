@@ -97,7 +97,9 @@ Answer together(std::vector<Answer> answers)
     Answer all;
     std::vector<Message> texts;
     for (Answer& answer : answers) {
-        texts.push_back(std::move(answer.text));
+        // "What is it, and do I need it?" is answered at once.
+        if (std::ranges::find(texts, answer.text) == texts.end())
+            texts.push_back(std::move(answer.text));
         for (std::string& id : answer.findingIDs) {
             if (std::ranges::find(all.findingIDs, id) == all.findingIDs.end())
                 all.findingIDs.push_back(std::move(id));

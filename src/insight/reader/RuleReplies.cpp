@@ -61,8 +61,11 @@ std::optional<Answer> whatIsNotItsJob(const Question& /*question*/, const AskCon
 
 std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)
 {
-    const Subject* const subject = question.subject();
-    if (!isGeneral(question) && subject->id != SubjectID::trash)
+    const auto isOfKind = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && !phrase.subject->isAnyFile && !phrase.subject->isProgram &&
+               phrase.subject->id != SubjectID::trash;
+    };
+    if (std::ranges::any_of(question.phrases, isOfKind))
         return std::nullopt;
     return Answer{AskText::sentences({InsightTexts::kMovesTicked, InsightTexts::kUntilTrashIsEmptied,
                                       InsightTexts::kNothingMovesYet}),

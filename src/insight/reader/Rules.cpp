@@ -32,17 +32,17 @@ constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
 constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
 constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kComparing{above, below, before, after, since, unopened};
-constexpr SenseSet kListWords{what,   howBig,   howMany, howMuch, subject, size,   number,
-                              period, inside,   general, disk,    unknown, quoted, last,
-                              can,    remove,   space,   takes,   folder,  safe,   keep,
-                              advise, makeRoom, used,    happens, except,  review, mean};
+constexpr SenseSet kListWords{what,    howBig,  howMany, howMuch, subject, size,   number,   period,
+                              inside,  general, disk,    unknown, quoted,  last,   can,      remove,
+                              space,   takes,   folder,  safe,    keep,    advise, makeRoom, used,
+                              happens, except,  review,  mean,    hidden};
 constexpr SenseSet kListing = kSorting.with(kComparing).with(kListWords);
 constexpr SenseSet kRemoving{remove, makeRoom, cleanUp, advise, safe};
-constexpr SenseSet kProgramWords{what,    howBig,  howMuch, howMany,   can,     remove,  uninstall, unopened,
-                                 takes,   space,   general, inside,    disk,    why,     when,      negation,
-                                 used,    number,  biggest, untouched, keep,    safe,    advise,    full,
-                                 subject, folder,  most,    period,    newest,  oldest,  smallest,  makeRoom,
-                                 since,   ordinal, last,    total,     cleanUp, happens, negation};
+constexpr SenseSet kProgramWords{
+    what,    howBig, howMuch, howMany, can,      remove,    uninstall, unopened, takes,     space,    general,
+    inside,  disk,   why,     when,    negation, used,      number,    biggest,  untouched, keep,     safe,
+    advise,  full,   subject, folder,  most,     period,    newest,    oldest,   smallest,  makeRoom, since,
+    ordinal, last,   total,   cleanUp, happens,  installed, above,     below,    size,      except};
 
 bool isFor(const Rule& rule, SenseSet senses)
 {
@@ -61,10 +61,9 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
     static const Rule usual{
         {{unknown, quoted},
          {what, howBig, howMuch, can, remove, safe, why, keep, undo, happens, untouched, takes, makeRoom}},
-        {unknown,   quoted,  what,     howBig,  howMuch, can,    remove,    safe,     why,  keep,
-         review,    mean,    undo,     subject, space,   used,   inside,    general,  disk, number,
-         period,    cleanUp, makeRoom, free,    folder,  takes,  happens,   negation, full, biggest,
-         uninstall, trust,   self,     ordinal, oldest,  newest, untouched, advise},
+        {unknown, quoted,   what,    howBig,   howMuch,   can,    remove,  safe,      why,    keep,   review,
+         mean,    undo,     subject, space,    used,      inside, general, disk,      free,   folder, takes,
+         cleanUp, makeRoom, happens, negation, uninstall, trust,  self,    untouched, advise, full},
         aboutName};
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
 }
@@ -91,7 +90,7 @@ const std::vector<Rule>& rules()
          {what, subject, can, folder, general, safe, keep, inside, disk},
          whatIsNeverTouched},
         {{{mean}, {safe, review, keep, subject}},
-         {what, mean, can, general, negation, remove, happens, why},
+         {what, mean, can, inside, folder, takes, used, general, negation, remove, happens, why},
          meaningOfRatings},
         {{{what}, {review, keep}}, {safe, mean, review}, meaningOfRatings},
         {{{review}}, {safe, can, general}, meaningOfRatings},
@@ -109,7 +108,7 @@ const std::vector<Rule>& rules()
         {{{cleanUp, remove, free, makeRoom}, {soFar}},
          kAsking.with({cleanUp, space, remove, total, subject, makeRoom}),
          allCleanUps},
-        {{{cleanUp}, {howMany}}, {what, can, general, last, subject}, allCleanUps},
+        {{{cleanUp}, {howMany}}, {what, can, general, last, subject, disk}, allCleanUps},
         {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
          {space, cleanUp, remove, general, what, can},
          allCleanUps},
@@ -127,6 +126,13 @@ const std::vector<Rule>& rules()
         {{{soFar}}, {what, general, cleanUp}, allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         // The disk
+        {{{speed}, {grow}},
+         kSpaceWords.with({what, howMuch, howBig, full, general, inside, above, used}),
+         paceOfGrowth},
+        {{{grow}, {unknown, quoted}},
+         kSpaceWords.with({what, howMuch, howBig, last, since, after, period, inside, general, folder, most,
+                           can, number, subject}),
+         whatGrew},
         {{{grow}},
          kSpaceWords.with({what, howMuch, howBig, last, since, after, period, inside, general, folder, most,
                            why, biggest, number, subject, speed}),
@@ -136,6 +142,9 @@ const std::vector<Rule>& rules()
          kSpaceWords.with({what, howMuch, howBig, full, grow, general, inside, above}),
          paceOfGrowth},
         {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
+        {{{why}, {disk}, {full}},
+         kSpaceWords.with({what, general, subject, number, negation, howMuch, biggest, only}),
+         whyFull},
         {{{why}, {full, used, space, free, takes, disk}},
          kSpaceWords.with({full, what, general, above, below, biggest, most, negation, howMuch, why, size}),
          whyFull},
@@ -143,7 +152,7 @@ const std::vector<Rule>& rules()
          kSpaceWords.with({what, can, before, general, inside, after, lasts, howMuch, negation}),
          fullWhen},
         {{{lasts}, {when, period}},
-         kSpaceWords.with({what, can, before, general, inside, full, last, howMuch, negation}),
+         kSpaceWords.with({size, what, can, before, general, inside, full, last, howMuch, negation}),
          fullWhen},
         {{{last}, {disk, space}, {period}}, {before, can, general, what, inside}, roomLater},
         {{{space, disk, free, used}, {period}},
@@ -175,6 +184,7 @@ const std::vector<Rule>& rules()
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
+        {{{installed}, {unknown, quoted}}, {what, can, general, disk, subject}, isInstalled},
         {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
         // What has a rating
         {{{safe, review, keep}, {mean, size, period, biggest, oldest, newest, review}, {subject}},
@@ -214,6 +224,9 @@ const std::vector<Rule>& rules()
         {{{subject}, {unopened}}, {what, howMany, general, can, remove, takes, folder}, neverOpened},
         {{{subject}, {inside}, {subject, unknown, period, folder}}, kListing, listOfFiles},
         {{{subject}, {period}}, kListing, listOfFiles},
+        {{{takes, full}, {inside}, {subject, unknown, quoted}},
+         {what, space, disk, general, most, used, folder, howMuch, why},
+         whatTakesIn},
         {{{biggest, most, takes}},
          {what, space, disk, general, subject, folder, takes, most, used},
          whatIsBiggest},
@@ -230,6 +243,7 @@ const std::vector<Rule>& rules()
          sizeOfSubject},
         {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
+        {{{takes}, {subject}}, {what, space, general, disk, howMuch}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names

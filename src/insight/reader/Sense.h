@@ -18,6 +18,7 @@ enum class Sense : std::uint8_t {
     can,
     remove,
     uninstall,
+    installed,
     safe,
     review,
     keep,

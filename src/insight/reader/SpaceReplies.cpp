@@ -5,8 +5,11 @@
 #include "insight/reader/Exclusions.h"
 #include "insight/reader/FindingParts.h"
 #include "insight/reader/ForecastReplies.h"
+#include "insight/reader/ListReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/RoomReplies.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -15,6 +18,7 @@
 #include <cstdint>
 #include <functional>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -99,6 +103,15 @@ std::optional<Answer> biggestFolders(const Question& question, const AskContext&
     for (const CategoryFolder& folder : folders)
         answer.paths.push_back(folder.path);
     return answer;
+}
+
+std::optional<Answer> whatTakesIn(const Question& question, const AskContext& context)
+{
+    Question folders = question;
+    folders.phrases.insert(folders.phrases.begin(), {Sense::folder, {}, nullptr, 0, {}});
+    folders = withPhrases(folders, folders.phrases);
+    std::optional<Answer> answer = listOfFolders(folders, context);
+    return answer && !answer->paths.empty() ? answer : listOfFiles(question, context);
 }
 
 std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& context)

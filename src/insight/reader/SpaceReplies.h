@@ -21,7 +21,10 @@ namespace orlen::AskReader {
 /// What takes the most space on the whole disk.
 [[nodiscard]] std::optional<Answer> whatIsBiggest(const Question& question, const AskContext& context);
 
-/// The folders that take the most space.
+/// What takes up space in the folder that the question names.
+[[nodiscard]] std::optional<Answer> whatTakesIn(const Question& question, const AskContext& context);
+
+/// The folders that take the most space, directly in the one that the question names.
 [[nodiscard]] std::optional<Answer> biggestFolders(const Question& question, const AskContext& context);
 
 } // namespace orlen::AskReader

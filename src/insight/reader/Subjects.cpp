@@ -147,6 +147,7 @@ const std::vector<Subject>& subjects()
         {ID::flatpak, {}, "", {}, {}, "", false, true},
         {ID::snap, {}, "", {}, {}, "", false, true},
         {ID::games, {}, "", {}, {}, "", false, true},
+        {ID::leftovers, {}, "", {}, {}, "", false, true},
     };
     return all;
 }

@@ -59,6 +59,7 @@ enum class SubjectID : std::uint8_t {
     flatpak,
     snap,
     games,
+    leftovers,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often

@@ -12,6 +12,7 @@ constexpr WordRow kWords[] = {
      "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
      "me,what can you do for me,how can you help,how can you help me,what are you able to do,what is this "
      "app,what does this app do"},
+    {Sense::installed, "installed,is installed,have installed,got installed"},
     {Sense::advise, "recommend,recommended,suggest,suggested,suggestion,suggestions,recommendation,"
                     "recommendations,advise,advice,start with,begin with,get started,should start,do "
                     "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
@@ -29,7 +30,9 @@ constexpr WordRow kWords[] = {
      "of,update linux,upgrade linux,install updates,bad sectors,disk health,smart "
      "status,shred,encrypt,decrypt"},
     {Sense::happens,
-     "what happens,what will happen,what would happen,happen,happens,where do they go,where does it go,where "
+     "where do deleted things go,where do deleted items go,where do my deleted files go,where do my files "
+     "go,where do the files go,where does it all go,only trash,only trash them,just trash,what happens,what "
+     "will happen,what would happen,happen,happens,where do they go,where does it go,where "
      "do deleted files go,permanently,forever,for good,gone for good,for "
      "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
      "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
@@ -62,7 +65,8 @@ constexpr WordRow kWords[] = {
      "orlen,say,says,said,almost,nearly,near,enough,somebody,someone,anyone,anybody,people,everyone,friend,"
      "son,daughter,told,thought,hope,hear,heard,seems,seem,always,sometimes,usually,often,later,even,such,"
      "through,while,because,into,onto,along,simple,nice,great,cool,wow,wondered,ask,asking,check,checking,"
-     "fix,solve,exist,exists,noticed,understand,explain me,remind,therefore,though,although,instead,yet,per "
+     "c,c:,together,whether,grandma,grandpa,granddaughter,grandson,fix,solve,exist,exists,noticed,understand,"
+     "explain me,remind,therefore,though,although,instead,yet,per "
      "se,anything like,whatever,where exactly,on disk,really do,meanwhile,taken by,i have,i "
      "got,pretty,quite,very,such as,honestly,literally,super,actually do,us both,pls help,finally,once,each "
      "one,everywhere,anywhere at all,located "
@@ -85,7 +89,8 @@ constexpr WordRow kWords[] = {
                       "longer,couldn't,wouldn't,ain't,wont,shouldnt,didnt,isnt,arent,wouldnt,couldnt,hasnt,"
                       "wasnt,aint,neither,nor,none,noone,no one"},
     {Sense::except,
-     "except,except for,besides,beside,other than,apart from,aside from,excluding,exclude,but not,not "
+     "not a,not an,not being,that is no,thats no,that's no,except,except for,besides,beside,other than,apart "
+     "from,aside from,excluding,exclude,but not,not "
      "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
      "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
      "in,that aren't,that are not,which aren't,which are not,that isn't,not from,but leave,leaving out "
@@ -124,7 +129,7 @@ constexpr WordRow kWords[] = {
      "more room,need space,need room,need more space,freeing up,need more room,create space,get rid of "
      "stuff,tidy up,declutter,get some space,need some space,save space,saving space,spare up,frees,freed "
      "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
-     "things,trim,shrink,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
+     "things,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
      "full,emptier,lighten,way to get,need to find,must free,must make,want to make,have to free,have to "
      "make,room i could,gig back,gigs back,win back,claw back"},
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
@@ -148,8 +153,8 @@ constexpr WordRow kWords[] = {
      "away with,rm,take off,bin,don't need,dont need,do not need,no longer need,not needed,never need,don't "
      "want,dont want,no longer want,can go,may go,unneeded files,not need,throw,throwing,thrown,threw,should "
      "go,could go,has to go,must go,would go,trash the,trash my,trash all,trash this,trash that,trash "
-     "these,trash some,useless,unnecessary,unneeded,junk,garbage,clutter,crap,leftovers,leftover "
-     "files,superfluous,pointless files,dead weight,waste of space,rubbish files,shed,eliminate,sacrifice,do "
+     "these,trash some,useless,unnecessary,unneeded,junk,garbage,clutter,crap,superfluous,pointless "
+     "files,dead weight,waste of space,rubbish files,shed,eliminate,sacrifice,do "
      "i not need,i can lose,can lose,can i lose,zap"},
     {Sense::undo,
      "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
@@ -166,7 +171,8 @@ constexpr WordRow kWords[] = {
     {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays,important,essential,necessary,worth "
                   "keeping,valuable,precious,hang onto"},
     {Sense::mean,
-     "mean,means,meaning,stand for,stands for,difference between,the "
+     "counted as,count as,counts as,counted under,included in,count towards,mean,means,meaning,stand "
+     "for,stands for,difference between,the "
      "difference,ratings,rating,rated,meant,colours,colors,labels,rate,rates,difference,categorise,"
      "definition,rules,rule,criteria,decide,judge,classified,classify,label,marked,labelled,labeled,tagged,"
      "flagged,classed,what's a,definition of,describe the,categories mean,have to review,need to review,must "
@@ -183,7 +189,8 @@ constexpr WordRow kWords[] = {
     {Sense::opened,
      "opened,touched,open,touch,looked at,watched,viewed,read,watch,viewing,listen,listened,seen,saw"},
     {Sense::full,
-     "full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
+     "low disk space,low space,disk space low,space low,space is low,low on storage,storage "
+     "low,full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
      "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
      "space,no free space,no more space,no disk space,so full,run out of space,running out of space,no space "
      "left,no free space left,run out of room,running low on space,running low,run out of disk space,running "
@@ -227,7 +234,7 @@ constexpr WordRow kWords[] = {
      "up,wasting,wastes,occupy,occupies,occupying,consume,consumes,consuming,waste,space hogs,space "
      "hog,need,needs,clogging,clogs,clog,clogging up,wasted,space eaters,heavy,gobbling up,gobbling"},
     {Sense::biggest,
-     "biggest,largest,heaviest,top,bulkiest,greatest,largest "
+     "sorted by space,biggest,largest,heaviest,top,bulkiest,greatest,largest "
      "sized,fattest,longest,large,big,huge,giant,enormous,massive,gigantic,bigest,sorted by size,by "
      "size,hugest,chunkiest,chunky,beefiest,beefy,bulky,heavy,monster,hefty,giants,massive "
      "ones,whopper,whoppers,sizeable,sizable,biggies,colossal,ranked by size,biggest to smallest,weighty"},
@@ -262,11 +269,18 @@ constexpr WordRow kWords[] = {
      "listened,dusty,collecting dust,gathering dust,neglected,abandoned,ignored,stale,idle,not needed "
      "since,unwatched,unread,not read,unplayed,last opened,last used,last accessed,last viewed,last watched"},
     {Sense::before, "before,older than,earlier than,prior to,more than ago,older then,till,until"},
-    {Sense::since, "since,newer than,younger than,newer then,starting from,beginning with"},
+    {Sense::since, "since the beginning of,since the start of,since beginning of,since start of,since,newer "
+                   "than,younger than,newer then,starting from,beginning with"},
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
     {Sense::privacy,
-     "upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,tracking,"
+     "see my documents,see my stuff,see my data,look at my files,look at my photos,look at my data,look into "
+     "my files,look in my passwords,look at my passwords,read my files,read my documents,read my emails,read "
+     "my mail,read my messages,my company see,your company,at your company,stay on my computer,stays on my "
+     "computer,stay on this computer,stays on this computer,need internet,need the internet,need wifi,need a "
+     "connection,work offline,works offline,internet "
+     "connection,upload,uploads,uploaded,uploading,internet,online,network,private,privacy,cloud,telemetry,"
+     "tracking,"
      "track,send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone "
      "home,share,shares,shared,third party,third "
      "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,chatgpt,secret,spies,"
@@ -278,12 +292,13 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
-     "predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,backups,ios,language,"
+     "install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
+     "backups,ios,language,"
      "languages,translation,mail,attachment,same "
      "file,long,result,results,larger,smaller,older,newer,fast,cost,costs,category,categories,else,worth,"
      "actually do,same,sure,other,more,finding,findings,longer,anymore,any more,any "
      "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
-     "remains,mess,messy,chaos,cluttered,disorder,clutterd,installed,turn off,switch "
+     "remains,mess,messy,chaos,cluttered,disorder,clutterd,turn off,switch "
      "off,disable,stop,enable,prevent,rank,ranking,sorted,worry "
      "about,concern,urgent,scary,version,versions,bigger,scan,scans"},
     // Of applications: their sizes are with it anyway.
@@ -319,7 +334,8 @@ constexpr SubjectRow kSubjects[] = {
      "of "
      "files,file duplicates,duplicate documents,duplicated,doubles,copies,files twice,file twice,twice,"
      "duplicate copies,redundant files,same file twice,more than once,multiple copies,dupes,redundant copies,"
-     "identical,several times"},
+     "identical,several times,a copy,copy of,copy of something,a copy of something,a duplicate of,dups,dup "
+     "files"},
     {SubjectID::largeFiles, "large files,big files,huge files,large file,big file"},
     {SubjectID::oldFiles, "old files,unused files,forgotten files,old file,old stuff,old things"},
     {SubjectID::oldDownloads, "old downloads,forgotten downloads"},
@@ -389,8 +405,20 @@ constexpr SubjectRow kSubjects[] = {
      "essays,doc"},
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
+    {SubjectID::leftovers,
+     "leftovers of apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
+     "leftovers,flatpak leftovers,snap leftovers,program leftovers,leftovers from apps,leftovers from "
+     "programs,left over from apps,left behind,leave behind,leave stuff behind,leave anything behind,leave "
+     "files behind,leaves behind,left stuff behind,left anything behind,left files behind,leftover "
+     "data,remains of apps,remains of programs,remnants,residue,orphaned,orphans,uninstalled "
+     "apps,uninstalled programs,removed apps,removed programs,deleted apps,deleted programs,apps i "
+     "removed,programs i removed,apps i deleted,apps i uninstalled,programs i uninstalled,programs i "
+     "deleted,apps i no longer have,programs i no longer have"},
     {SubjectID::startup,
-     "start slowly,starts slowly,slow to start,boot slowly,boots slowly,takes long to start,takes ages to "
+     "from starting,from loading,from launching,from opening,from running,starting at login,starting "
+     "with,loading at login,load at login,loads at login,starting up,starting automatically,starting by "
+     "itself,start slowly,starts slowly,slow to start,boot slowly,boots slowly,takes long to start,takes "
+     "ages to "
      "start,start slow,boot slow,runs at boot,run at boot,runs on boot,run on boot,starts at boot,start at "
      "boot,starts on boot,loads at "
      "startup,launches,launch,launching,loads when,load when,autorun,start on their own,starts on its "

@@ -5,6 +5,7 @@ namespace orlen::AskReader {
 namespace french_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::installed, "installé,installés,installée,installées,est installé,sont installées,sont installés"},
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "
      "qui,aide,à l aide,aide moi,bonjour,salut,bonsoir,coucou,merci,comment ça marche,c est quoi orlen,que "
@@ -22,7 +23,8 @@ constexpr WordRow kWords[] = {
                     "rapide,accélérer,accélère,lent,lente,lenteur,ralentit,rame,performance,performances,"
                     "défragmenter,mémoire vive,ram,processeur,cpu,batterie,pilotes,pilote,pare "
                     "feu,antivirus,température,carte graphique"},
-    {Sense::happens, "se passe,passe t il,arrive t il,que se passe t il,définitivement,pour "
+    {Sense::happens, "où finissent,où atterrissent,où passent,vont où,pas définitivement,supprimes pas "
+                     "définitivement,se passe,passe t il,arrive t il,que se passe t il,définitivement,pour "
                      "toujours,définitif,irréversible,arrive,se passera,se passerait,où vont,pour de "
                      "bon,passe,casser,abîmer,casse,bugger,nuire,planter,tout seul,toute "
                      "seule,automatiquement,sans demander,sans me demander,sans prévenir"},
@@ -33,7 +35,10 @@ constexpr WordRow kWords[] = {
      "il,elle,ils,elles,celui ci,celle ci,ceux ci,celles ci,celui là,celle là,ceux là,celles "
      "là,ceux,celui,celle,celles,ça,cela,le supprimer,les supprimer,la supprimer,en,ceci,lui"},
     {Sense::filler,
-     "le,la,les,l,un,une,du,de,d,à,a,au,aux,mon,ma,mes,notre,nos,ton,ta,tes,votre,vos,son,sa,ses,leur,leurs,"
+     "petit fils,petite fille,mon petit fils,dites moi,pourriez vous me dire,pouvez vous me dire,j aimerais "
+     "savoir,je voudrais savoir,peux tu me,moi s il te "
+     "plaît,le,la,les,l,un,une,du,de,d,à,a,au,aux,mon,ma,mes,notre,nos,ton,ta,tes,votre,vos,son,sa,ses,leur,"
+     "leurs,"
      "je,j,me,m,moi,nous,on,tu,te,t,toi,vous,se,s,est,sont,était,étaient,suis,es,sera,serait,seront,être,été,"
      "ai,as,avons,avez,ont,avais,avait,avoir,eu,y,il y a,y en "
      "a,pour,avec,par,sur,ce,cet,cette,ces,c,ci,là,donc,alors,si,s il te plaît,s il vous plaît,svp,stp,s "
@@ -62,7 +67,8 @@ constexpr WordRow kWords[] = {
      "nuit,font,listées,listés,affichées"},
     {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,n ai pas,n est pas,ne pas"},
     {Sense::except,
-     "sauf,à part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors "
+     "qui n est pas une,qui n est pas un,qui ne sont pas des,qui ne soit pas une,qui ne soit pas un,sauf,à "
+     "part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors "
      "des,en dehors du,mis à part,hors,autre que,autres que,autre chose que,sans,sans compter,mais pas,et "
      "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,pas dans,en excluant,sans "
      "toucher à,sans toucher aux,sans toucher,sans supprimer,sans effacer,sans perdre,mais sans,mais "
@@ -77,7 +83,9 @@ constexpr WordRow kWords[] = {
                   "sont,quelles sont,quel est,quelle est,montre moi les,montre les,as tu trouvé,qu est ce,de "
                   "quoi,à quoi,quoi dans,kel,kels,il y aura,que virer"},
     {Sense::howBig,
-     "quelle taille,quelle est la taille,taille,taille de,la taille,combien pèse,combien pèsent,combien de "
+     "combien de place ils prennent,combien de place elles prennent,ils prennent combien,elles prennent "
+     "combien,quelle taille,quelle est la taille,taille,taille de,la taille,combien pèse,combien "
+     "pèsent,combien de "
      "place prend,combien de place prennent,combien d espace prend,combien d espace prennent,combien de "
      "place occupe,combien de place occupent,combien d espace occupe,combien d espace occupent,combien "
      "prend,combien prennent,pèse,pèsent,poids,combien de go,combien occupe,combien occupent,tailles,volume "
@@ -125,7 +133,8 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,à vérifier,vérifier,à examiner,à revoir,examiner"},
     {Sense::keep,
      "garder,conserver,garde,à garder,keep,à conserver,gardé,conservé,important,importants,gardez"},
-    {Sense::mean, "veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence "
+    {Sense::mean, "étiquette,l étiquette,mention,compte comme,comptent comme,comptabilisé,fait partie "
+                  "de,veut dire,signifie,signifient,signification,sens de,différence,veulent dire,différence "
                   "entre,note,notes,évaluation,évaluations,évalué,couleurs,vouloir "
                   "dire,classé,classés,règles,règle,critères,classement,marqué,marqués,noté,notés,classée,"
                   "classées,évalués"},
@@ -138,7 +147,8 @@ constexpr WordRow kWords[] = {
      "ouvert,ouverts,ouverte,ouvertes,touché,touchés,consulté,consultés,regardé,regardés,ouvre,regardées,lu,"
      "lus,vu,vus,vues,consultée,consultées,lancé,lancés,regarder,écouté,écoutés,joué"},
     {Sense::full,
-     "plein,pleine,presque plein,rempli,remplit,saturé,saturée,plus de place,plus d espace,manque de "
+     "espace disque faible,espace faible,disque saturé,mémoire pleine,stockage plein,stockage saturé,presque "
+     "pleine,plein,pleine,presque plein,rempli,remplit,saturé,saturée,plus de place,plus d espace,manque de "
      "place,manque d espace,à court de place,à court d espace,si plein,rempli si,se remplit,sera plein,plus "
      "assez de place,plus assez d espace,si peu de place,peu de place,peu d espace,plus de place sur,pas "
      "assez de place,sature,plus aucune place,plein à craquer,plus du tout de place,pleins,remplir,manquer "
@@ -182,8 +192,10 @@ constexpr WordRow kWords[] = {
      "plus récent,plus récents,plus récente,plus récentes,les plus récents,le plus récent,récent,récents,les "
      "plus récentes,la plus récente,nouveaux,nouveau,nouvelles,récentes,récemment,plus "
      "récemment,changé,changés,modifié,modifiés,modifiées,ajouté,ajoutés,nouveautés"},
-    {Sense::grow, "grossi,grossit,grandi,grandit,augmenté,augmente,croissance,pris du volume,pris de la "
-                  "place,gonflé,enflé,a augmenté,agrandi"},
+    {Sense::grow,
+     "a pris du poids,a gonflé,a pris de la place,prend du "
+     "volume,grossi,grossit,grandi,grandit,augmenté,augmente,croissance,pris du volume,pris de la "
+     "place,gonflé,enflé,a augmenté,agrandi"},
     {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
                    "que,au moins,dépassant,dépassent,de plus de,supérieures à,plus lourd que,plus lourds "
                    "que,ou plus,minimum,>,faisant plus de,plus grosses que,plus grandes que,et plus,pesant "
@@ -202,7 +214,8 @@ constexpr WordRow kWords[] = {
     {Sense::before, "avant,plus vieux que,plus ancien que,plus anciens que,antérieur à,antérieurs à,plus "
                     "vieilles que,plus anciennes que,d ici,avant le,avant la,antérieures à,d avant,jusqu "
                     "à,jusqu au,jusqu aux,jusqu en,jusque,jusqu à la,jusqu à l"},
-    {Sense::since, "depuis,plus récent que,plus récents que,à partir de"},
+    {Sense::since, "depuis le début de,depuis début,depuis le début du,depuis le commencement de,depuis,plus "
+                   "récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
     {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
@@ -215,7 +228,8 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "masqué,masqués,masquée,masquées,invisible,invisibles"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
-     "prévision,langue,langues,analyse,résultat,résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
+     "désactiver,désactive,empêcher,empêche,arrêter,arrête,couper,prévision,langue,langues,analyse,résultat,"
+     "résultats,superflues,bazar,catégorie,catégories,mieux,autre,"
      "autres,premier,abord,premier lieu,long,longtemps,seul,bon,temps,jour,jours,mois,année,fois,vers "
      "quoi,plus,ordures,restes"},
     // Of applications: their sizes are with it anyway.
@@ -223,6 +237,12 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::leftovers,
+     "restes d applications,restes d applications désinstallées,restes de programmes,restes de "
+     "logiciels,restes d applis,résidus,résidus d applications,résidus de programmes,applications "
+     "désinstallées,applis désinstallées,programmes désinstallés,logiciels désinstallés,applications "
+     "supprimées,programmes supprimés,laissé derrière,laissés derrière,laissent derrière,laissé des "
+     "fichiers,orphelins,fichiers orphelins,dossiers orphelins,vestiges,traces d applications"},
     {SubjectID::similarPhotos,
      "photos similaires,images similaires,photos en double,images en double,photos semblables,doublons de "
      "photos,photos identiques,images identiques,photos qui se ressemblent,images qui se "
@@ -311,14 +331,17 @@ constexpr SubjectRow kSubjects[] = {
      "document,documents,papiers,fichiers texte,courriers,documents word,fichiers word,documents "
      "texte,lettres"},
     {SubjectID::files, "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout ça,machins"},
-    {SubjectID::startup, "démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
-                         "démarrage,démarre automatiquement,démarrent automatiquement,se lance "
-                         "au démarrage,programmes au "
-                         "démarrage,à l ouverture de session,éléments de démarrage,lance automatiquement,se "
-                         "lancent automatiquement,se "
-                         "lance tout seul,démarre tout seul,au lancement,se lancent toutes seules,se lancent "
-                         "tout seuls,démarrage "
-                         "automatique,démarrent,se lancent au démarrage,allume,ouverture de session"},
+    {SubjectID::startup,
+     "au démarrage de la session,au demarrage de la session,ouverture de session,à l ouverture de session,à "
+     "l ouverture de ma session,session démarre,de démarrer,se lancer au démarrage,se lance au démarrage,de "
+     "se lancer,démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
+     "démarrage,démarre automatiquement,démarrent automatiquement,se lance "
+     "au démarrage,programmes au "
+     "démarrage,à l ouverture de session,éléments de démarrage,lance automatiquement,se "
+     "lancent automatiquement,se "
+     "lance tout seul,démarre tout seul,au lancement,se lancent toutes seules,se lancent "
+     "tout seuls,démarrage "
+     "automatique,démarrent,se lancent au démarrage,allume,ouverture de session"},
     {SubjectID::containers, "docker,podman,conteneur,conteneurs,images docker,containers,conteneurs docker"},
     {SubjectID::flatpak, "flatpak,flatpaks,flathub"},
     {SubjectID::snap, "snap,snaps,paquets snap,snapd"},

@@ -5,6 +5,7 @@ namespace orlen::AskReader {
 namespace german_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::installed, "installiert,sind installiert,ist installiert"},
     {Sense::self, "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist "
                   "du,was bist du,hilfe,hallo,hi,guten tag,guten morgen,moin,servus,danke,vielen dank,wie "
                   "funktioniert das,was ist orlen,was macht orlen,wie funktioniert orlen,was kann orlen,was "
@@ -20,7 +21,8 @@ constexpr WordRow kWords[] = {
                     "machen,schneller,beschleunigen,langsam,leistung,defragmentieren,arbeitsspeicher,ram,"
                     "prozessor,cpu,akku,treiber,firewall,virenscanner,temperatur,grafikkarte"},
     {Sense::happens,
-     "passiert,passieren,was passiert,geschieht,endgültig,für "
+     "wohin kommen,wo landen,landen,wo kommt,wohin gehen,wohin verschwinden,nur in den papierkorb,endgültig "
+     "gelöscht,passiert,passieren,was passiert,geschieht,endgültig,für "
      "immer,unwiderruflich,dauerhaft,wohin,kaputt,schadet,schaden,kaputtgehen,geht kaputt,zerstört,von "
      "allein,ohne zu fragen,ohne nachzufragen,eigenmächtig,automatisch,ungefragt,von sich aus"},
     {Sense::only, "nur,bloß,lediglich,ausschließlich"},
@@ -30,7 +32,10 @@ constexpr WordRow kWords[] = {
     {Sense::backward, "sie,ihn,es,diese,dieser,dieses,diesen,davon,die da,denen,jene,welche davon,ihnen,eins "
                       "davon,von denen,dazu,das da,dieselben,das hier,daran"},
     {Sense::filler,
-     "der,die,das,den,dem,des,ein,eine,einen,einem,einer,eines,mein,meine,meinen,meinem,meiner,meines,unser,"
+     "mein rechner sagt,mein computer sagt,zurzeit,zur zeit,insgesamt so,grad,mir bitte,bitte mal,drauf "
+     "ist,mein "
+     "enkel,enkelin,opa,oma,der,die,das,den,dem,des,ein,eine,einen,einem,einer,eines,mein,meine,meinen,"
+     "meinem,meiner,meines,unser,"
      "unsere,dein,deine,ich,mir,mich,wir,uns,du,dir,dich,man,ist,sind,war,waren,bin,sein,habe,hab,hast,hat,"
      "haben,hatte,wird,werden,würde,wurden,wurde,worden,geworden,zu,zum,zur,für,auf,an,am,mit,bei,bitte,mal,"
      "denn,eigentlich,gerade,jetzt,momentan,aktuell,derzeit,heute,zeig,zeige,zeigen,sag,sage,sagen,gib,liste,"
@@ -61,7 +66,8 @@ constexpr WordRow kWords[] = {
      "mal,nochmal,offensichtlich,anteil,anteil an,über nacht,fasst,fass,gelistet,aufgelistet,listest"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht mehr,nichts,nirgends,keinesfalls"},
     {Sense::except,
-     "außer,ausser,ausgenommen,abgesehen von,bis auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber "
+     "das kein,die kein,die keine,der kein,was kein,was keine,außer,ausser,ausgenommen,abgesehen von,bis "
+     "auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber "
      "keine,nur nicht,und nicht,exklusive,außerhalb,außerhalb von,lass weg,neben,nur keine,nicht aus,nicht "
      "in,ohne anzufassen,ohne dass,ohne zu löschen,ausgenommen von,anstatt,und keine,abzüglich,ohne "
      "meine,mit ausnahme,ohne die aus,weder"},
@@ -87,7 +93,8 @@ constexpr WordRow kWords[] = {
     {Sense::can,
      "kann,können,könnte,darf,dürfen,soll,sollte,sollten,sollen,muss,müssen,brauche ich,brauch ich,ist es "
      "sicher,ist es okay,ist es ok,kann ich gefahrlos,ist es möglich,ist es in ordnung,kann man,könnten"},
-    {Sense::makeRoom, "freigeben,freimachen,frei machen,platz schaffen,platz machen,frei bekommen,frei "
+    {Sense::makeRoom, "freigeräumt,frei geräumt,freigeschaufelt,geschafft,freigeben,freimachen,frei "
+                      "machen,platz schaffen,platz machen,frei bekommen,frei "
                       "kriegen,freibekommen,gewinnen,gewinne,sparen,spare,einsparen,freiräumen,platz "
                       "gewinnen,platz sparen,schaffen,mehr platz,frei räumen,freigegeben,freigemacht,frei "
                       "gemacht,gespart,gewonnen,freiwerden,frei werden,frei wird,zurückgewinnen,mehr "
@@ -125,7 +132,9 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,prüfen,überprüfen,durchsehen,ansehen"},
     {Sense::keep, "behalten,behalte,aufheben,keep,aufbewahren,wichtig,bleiben,behältst"},
     {Sense::mean,
-     "bedeutet,bedeuten,bedeutung,heißen,unterschied,bewertung,bewertungen,meint,heisst,was heißt,was "
+     "zählt zu,zählt als,gehört zu,gehören zu,zählt zur "
+     "kategorie,bedeutet,bedeuten,bedeutung,heißen,unterschied,bewertung,bewertungen,meint,heisst,was "
+     "heißt,was "
      "bedeutet,eingestuft,einstufung,farben,bewertet,regeln,regel,kriterien,entscheidet,eingeteilt,markiert,"
      "eingestufte,bewertete,was ist mit sicher gemeint,bewerteten,eingestuften"},
     {Sense::soFar, "bisher,bislang,insgesamt schon,bis jetzt,bis heute,insgesamt bisher,jemals,verlauf,schon "
@@ -138,7 +147,9 @@ constexpr WordRow kWords[] = {
     {Sense::opened, "geöffnet,öffne,öffnen,angefasst,angesehen,angeschaut,angerührt,aufgemacht,angeguckt,"
                     "berührt,geschaut,gehört,gelesen,aufgerufen,gesehen,geguckt,angehört,gespielt"},
     {Sense::full,
-     "voll,fast voll,so voll,vollgelaufen,voll laufen,vollläuft,läuft voll,voll wird,kein platz,kein platz "
+     "speicher ist knapp,wenig speicherplatz,speicher knapp,speicherplatz knapp,zu wenig speicher,zu wenig "
+     "speicherplatz,voller,voll,fast voll,so voll,vollgelaufen,voll laufen,vollläuft,läuft voll,voll "
+     "wird,kein platz,kein platz "
      "mehr,kein speicher,kein speicher mehr,kein speicherplatz,kein speicherplatz mehr,zu wenig platz,so "
      "wenig platz,wenig platz,platz geht aus,knapp,randvoll,volllaufen,keinen platz,keinen platz mehr,keinen "
      "speicher mehr,keinen speicherplatz mehr,füllt,vollgestopft,vollgemüllt,geht der platz aus,platz "
@@ -152,7 +163,9 @@ constexpr WordRow kWords[] = {
                   "gerät,notebook,speicher,speichers,festplatten,harddisk,systemlaufwerk"},
     {Sense::space, "platz,speicherplatz,raum,festplattenplatz,festplattenspeicher,plattenplatz,"
                    "plattenspeicher,passt,passen,reinpassen,draufpassen"},
-    {Sense::howMuch, "wie viel,wieviel,wievil,wie fiel,wifiel,wiviel"},
+    {Sense::howMuch,
+     "was bringt es,was bringt,was bringt mir,was würde es bringen,was gewinne ich,wie viel gewinne ich,wie "
+     "viel bringt,wie viel würde,was spare ich,wie viel,wieviel,wievil,wie fiel,wifiel,wiviel"},
     {Sense::why,
      "warum,wieso,weshalb,weswegen,woran liegt,wie kommt es,woran,grund,aus welchem grund,woher kommt"},
     {Sense::when, "wann,wie lange,wie lang,bis wann,in wie vielen tagen,ab wann,wie bald,an welchem "
@@ -170,11 +183,13 @@ constexpr WordRow kWords[] = {
     {Sense::oldest,
      "älteste,ältesten,ältester,am ältesten,alte,alten,alter,uralte,altes,uralten,veraltete,alt,uralt"},
     {Sense::newest,
-     "neueste,neuesten,neuester,jüngste,jüngsten,neuste,neusten,am "
+     "dazu gekommen,neu dazugekommen,neu hinzugekommen,zuletzt runtergeladen,zuletzt "
+     "gespeichert,neueste,neuesten,neuester,jüngste,jüngsten,neuste,neusten,am "
      "neuesten,neue,neuen,kürzlich,aktuellste,frischeste,aktuellsten,zuletzt geändert,zuletzt "
      "geänderte,zuletzt geänderten,zuletzt hinzugefügt,zuletzt hinzugefügte,zuletzt bearbeitet,zuletzt "
      "heruntergeladen,geändert,geänderte,geänderten,verändert,bearbeitet,dazugekommen,hinzugekommen,neues"},
-    {Sense::grow, "gewachsen,wachsen,wächst,wachstum,größer "
+    {Sense::grow, "wuchs,wuchsen,größer wurde,größer wurden,angestiegen,mehr geworden "
+                  "ist,zunahm,gewachsen,wachsen,wächst,wachstum,größer "
                   "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
     {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
                    "als,größer,länger als,minimum,>,und mehr,und größer,zwischen"},
@@ -182,16 +197,23 @@ constexpr WordRow kWords[] = {
      "unter,kleiner als,weniger als,höchstens,maximal,bis zu,oder weniger,oder kleiner,kleiner,<"},
     {Sense::inside, "in,im,innerhalb,aus,in meinem,im ordner,ins,aus dem,in den,auf dem"},
     {Sense::unopened,
-     "nicht geöffnet,ungeöffnet,nie geöffnet,nicht benutzt,unbenutzt,nicht angefasst,nicht angesehen,nicht "
+     "nicht angefasst hab,nicht angefasst habe,nicht angerührt,nicht angefasst,nicht angeschaut,nicht "
+     "gehört,nicht abgespielt,nie abgespielt,nie angesehen,nie angeschaut,nicht aufgemacht,nicht "
+     "angeguckt,nicht geöffnet,ungeöffnet,nie geöffnet,nicht benutzt,unbenutzt,nicht angefasst,nicht "
+     "angesehen,nicht "
      "verwendet,vergessen,unbenutzte,ungenutzte,nicht mehr geöffnet,nicht mehr benutzt,nicht genutzt,nicht "
      "mehr angesehen,vergessene,selten benutzt,nicht mehr genutzt,nicht mehr angerührt,nie benutze"},
     {Sense::before, "vor,älter als,früher als,vor dem,bevor,bis,bis zum,ältere als"},
-    {Sense::since, "seit,neuer als,jünger als,seit dem,neuere als"},
+    {Sense::since, "seit anfang,seit beginn,seit anfang des,seit beginn des,seit anfang von,seit,neuer "
+                   "als,jünger als,seit dem,neuere als"},
     {Sense::after, "nach dem,später als"},
     {Sense::last, "letzte,letzten,letzter,letztes,vorige,letztens,vorherige,beim letzten mal,letztes mal,das "
                   "letzte mal,vorigen,zuletzt"},
     {Sense::privacy,
-     "hochladen,hochgeladen,lädt "
+     "verlassen meine daten,bleiben meine daten,auf meinem rechner,auf meinem computer,internet "
+     "nötig,braucht internet,braucht orlen internet,brauchst du internet,internetverbindung,ohne "
+     "internet,liest du,meine passwörter lesen,meine dokumente lesen,eure firma,deine firma,sieht "
+     "jemand,jemand meine,hochladen,hochgeladen,lädt "
      "hoch,internet,online,netz,netzwerk,privat,privatsphäre,datenschutz,cloud,telemetrie,überwacht,schickt,"
      "senden,sendet,gesendet,verschickt,server,ausspionieren,spioniert,teilen,teilt,konto,anmelden,offline,"
      "übertragen,übertragt,sammelt,daten ab,ins netz,wlan,google,verlässt,verlassen,wer "
@@ -202,7 +224,8 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "versteckt,versteckte,versteckten,versteckter,unsichtbare,unsichtbaren"},
     {Sense::folder, "ordner,ordnern,verzeichnis,verzeichnisse,verzeichnissen,unterordner"},
     {Sense::general,
-     "prognose,vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
+     "abschalten,ausschalten,deaktivieren,deaktiviere,verhindern,verhindere,stoppen,schalte,prognose,"
+     "vorhersage,sprache,sprachen,wichtige,wichtigen,scan,ergebnis,ergebnisse,unnütz,unnötig,"
      "unnötige,unnötigen,müll,kram,krempel,zeug,kategorie,kategorien,mehr,zuerst,als "
      "erstes,besser,gut,lang,lange,länger,funde,fund,andere,anderen,anderes,überflüssige,tag,tage,woche,"
      "monat,jahr,male,dauert,reste,chaos,durcheinander,unordnung"},
@@ -212,6 +235,13 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::leftovers,
+     "reste von programmen,reste von "
+     "apps,programmreste,überreste,überbleibsel,app-reste,zurückgelassen,hinterlassen,übrig gelassen,liegen "
+     "gelassen,deinstallierte programme,deinstallierten programme,deinstallierte apps,deinstallierter "
+     "programme,deinstallierten programmen,gelöschte programme,gelöschter programme,entfernte "
+     "programme,entfernter programme,verwaiste,verwaiste ordner,reste deinstallierter programme,reste "
+     "gelöschter programme,programme die ich gelöscht habe"},
     {SubjectID::similarPhotos,
      "ähnliche fotos,ähnliche bilder,doppelte fotos,doppelte bilder,doppelten fotos,doppelten "
      "bilder,ähnlichen fotos,ähnlichen bilder,fotos doppelt,bilder doppelt,fotoduplikate,ähnliche "
@@ -301,7 +331,8 @@ constexpr SubjectRow kSubjects[] = {
      "datei,dateien,daten,ding,dinge,dingen,sache,sachen,elemente,objekte,alles,irgendetwas,zeugs,"
      "einträge"},
     {SubjectID::startup,
-     "langsam startet,startet langsam,langsamer start,startet mein rechner langsam,läuft beim start,startet "
+     "am starten hindern,vom starten abhalten,nicht mehr starten,nicht mehr automatisch starten,langsam "
+     "startet,startet langsam,langsamer start,startet mein rechner langsam,läuft beim start,startet "
      "beim,beim start mit,läuft "
      "mit,autostart,autostartprogramme,startprogramme,startet automatisch,starten automatisch,beim "
      "anmelden,beim "

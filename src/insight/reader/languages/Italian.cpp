@@ -5,6 +5,8 @@ namespace orlen::AskReader {
 namespace italian_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::installed,
+     "installato,installati,installata,installate,è installato,sono installate,sono installati"},
     {Sense::self,
      "cosa puoi fare,cosa sai fare,che cosa puoi fare,cosa ti posso chiedere,cosa posso chiederti,chi "
      "sei,cosa sei,aiuto,aiutami,ciao,buongiorno,buonasera,salve,grazie,come funziona,cos è orlen,cosa fa "
@@ -20,7 +22,7 @@ constexpr WordRow kWords[] = {
                     "veloce,velocizzare,velocizza,lento,lenta,prestazioni,deframmentare,ram,memoria "
                     "ram,processore,cpu,batteria,driver,firewall,antivirus,temperatura,scheda grafica"},
     {Sense::happens,
-     "succede,succederebbe,accade,cosa succede,per "
+     "dove vanno a finire,vanno a finire,dove va a finire,succede,succederebbe,accade,cosa succede,per "
      "sempre,definitivamente,definitivo,permanentemente,succederà,dove finiscono,dove vanno,dove "
      "finisce,irreversibile,rompere,rompo,danneggia,danni,danneggiare,rompe,rompersi,da "
      "solo,automaticamente,senza chiedere,da sola,senza permesso,senza avvisare"},
@@ -31,7 +33,10 @@ constexpr WordRow kWords[] = {
                       "eliminarlo,eliminarla,eliminarli,eliminarle,cancellarlo,cancellarla,cancellarli,"
                       "cancellarle,ne,quell,loro,toglierli,toglierlo,buttarli,buttarlo"},
     {Sense::filler,
-     "il,la,i,gli,le,l,un,uno,una,di,d,del,dello,della,dell,dei,degli,delle,da,dalla,dallo,dai,dagli,dalle,"
+     "ho fatto,fatto,hai fatto,funzionare,a cosa serve,a che serve,mio nipote,nipote,vorrei sapere,mi sai "
+     "dire,potresti dirmi,mi potresti "
+     "dire,il,la,i,gli,le,l,un,uno,una,di,d,del,dello,della,dell,dei,degli,delle,da,dalla,dallo,dai,dagli,"
+     "dalle,"
      "dall,a,al,allo,alla,all,ai,agli,alle,mio,mia,miei,mie,nostro,nostra,tuo,tua,tuoi,tue,suo,sua,suoi,sue,"
      "io,mi,m,noi,ci,c,tu,ti,t,te,si,s,se,vi,v,è,sono,era,erano,sei,essere,stato,stati,state,stata,sta,"
      "stanno,sto,c è,ho,hai,ha,abbiamo,hanno,avere,aver,avevo,ed "
@@ -55,7 +60,8 @@ constexpr WordRow kWords[] = {
      "secondo,improvvisamente,strano,bambini,nessuna idea,rispetto,in realtà,in pratica,ad,ci saranno,hai "
      "trovato,che hai trovato,a proposito,accidenti,cavolo,insomma,magari,stanotte,questa notte"},
     {Sense::negation, "non,mai,nessun,nessuno,nessuna,niente,nulla,n"},
-    {Sense::except, "tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
+    {Sense::except, "che non sia un,che non sia una,che non è un,che non è una,che non "
+                    "siano,tranne,eccetto,salvo,a parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad "
                     "eccezione dei,ad eccezione delle,ad eccezione del,oltre a,oltre ai,oltre alle,oltre "
                     "agli,all infuori di,senza,senza contare,ma non,che non siano,che non sia,e "
                     "non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i,senza toccare,senza "
@@ -81,7 +87,8 @@ constexpr WordRow kWords[] = {
     {Sense::can, "posso,può,possono,potrei,possiamo,devo,dovrei,si può,si possono,bisogna,è possibile,è "
                  "sicuro,dobbiamo,va bene,potremmo,debbo,potrebbe,poter,mi conviene,deve,devono"},
     {Sense::makeRoom,
-     "liberare,libero spazio,libera spazio,liberato,guadagnare,guadagno,fare spazio,fare posto,recuperare "
+     "quanti giga ho recuperato,ho recuperato,ho liberato,liberati,recuperati,liberare,libero spazio,libera "
+     "spazio,liberato,guadagnare,guadagno,fare spazio,fare posto,recuperare "
      "spazio,risparmiare,risparmio,libererei,guadagnerei,fare un po di spazio,liberati,ottenere "
      "spazio,libererebbe,guadagnerebbe,creare spazio,serve spazio,mi serve "
      "spazio,liberando,recupererei,avere più spazio,serve più spazio,liberarmi "
@@ -116,7 +123,8 @@ constexpr WordRow kWords[] = {
     {Sense::review, "review,controllare,da controllare,da rivedere,verificare,rivedere"},
     {Sense::keep,
      "tenere,conservare,mantenere,tengo,keep,importante,importanti,da conservare,da tenere,conservato"},
-    {Sense::mean, "significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
+    {Sense::mean, "etichetta,l etichetta,conta come,contano come,fa parte di,rientra "
+                  "in,significa,significano,significato,vuol dire,vogliono dire,differenza,differenza "
                   "tra,valutazione,valutazioni,giudizio,giudizi,intende,colori,valutato,classificato,vuole "
                   "dire,regole,regola,criteri,decide,classifica,contrassegnati,contrassegnato,classificati,"
                   "valutati,segnati,segnato"},
@@ -129,7 +137,8 @@ constexpr WordRow kWords[] = {
      "aperto,aperti,aperta,aperte,apro,toccato,toccati,visto,visti,guardato,guardati,consultato,aprire,"
      "guardate,viste,letto,letti,ascoltato,toccate,consultati,giocato,ascoltati,vedo da"},
     {Sense::full,
-     "pieno,piena,quasi pieno,così pieno,riempito,riempiendo,si riempie,riempirà,si riempirà,senza "
+     "poco spazio su disco,poco spazio disco,spazio in esaurimento,memoria piena,disco "
+     "pieno,pieno,piena,quasi pieno,così pieno,riempito,riempiendo,si riempie,riempirà,si riempirà,senza "
      "spazio,manca spazio,non ho spazio,non c è spazio,non ho più spazio,non c è più spazio,poco spazio,così "
      "poco spazio,esaurito,finito lo spazio,finendo lo spazio,finisce lo spazio,finirà lo "
      "spazio,strapieno,esaurirà,spazio è finito,esaurire,riempie,non c è più posto,tutto pieno,finire lo "
@@ -172,8 +181,10 @@ constexpr WordRow kWords[] = {
      "più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più "
      "nuovi,recenti,recente,nuovi,nuove,nuovo,più nuove,la più recente,più "
      "nuova,recentemente,nuova,cambiato,cambiati,modificato,modificati,modificate,aggiunto,aggiunti"},
-    {Sense::grow, "cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
-                  "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
+    {Sense::grow,
+     "si è ingrandito,si è gonfiato,è aumentato,è "
+     "ingrassato,cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
+     "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
     {Sense::above,
      "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
      "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti di,più grossi "
@@ -191,7 +202,8 @@ constexpr WordRow kWords[] = {
      "prima,prima di,prima del,prima della,più vecchio di,più vecchi di,precedente a,precedenti a,più "
      "vecchie di,entro,prima dell,anteriori a,anteriori al,precedenti al,più vecchio del,più vecchi del,più "
      "vecchie del,più vecchia del,fino a,fino al,fino alla,fino all,fino ad,fino ai"},
-    {Sense::since, "dopo il,più recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
+    {Sense::since, "dall inizio dell,dall inizio del,dall inizio di,da inizio,dagli inizi di,dopo il,più "
+                   "recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
     {Sense::after, "dopo,successivo a,successivi a,dopo il,in seguito a"},
     {Sense::last, "ultimo,ultima,ultimi,ultime,scorsa volta,precedente,l ultima volta,ultima volta"},
     {Sense::privacy, "internet,online,rete,privato,privata,privati,privacy,cloud,nuvola,telemetria,inviare,"
@@ -203,7 +215,8 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "nascosto,nascosti,nascosta,nascoste,invisibili"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
-     "previsione,lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
+     "disattivare,disattiva,disabilita,disabilitare,impedire,impedisci,evitare,fermare,bloccare,previsione,"
+     "lingua,lingue,scansione,analisi,risultato,risultati,roba,categoria,categorie,meglio,altro,"
      "altra,altri,primo luogo,per primo,lungo,giorno,giorni,settimana,mese,anno,volta,volte,bene,buona "
      "idea,verso,resti,residui"},
     // Of applications: their sizes are with it anyway.
@@ -212,6 +225,11 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::leftovers,
+     "resti di applicazioni,resti di programmi,resti di app,resti,residui,residui di programmi,residui di "
+     "app,app disinstallate,programmi disinstallati,applicazioni disinstallate,app rimosse,programmi "
+     "rimossi,programmi cancellati,applicazioni rimosse,lasciato indietro,lasciati indietro,lasciato "
+     "file,orfani,file orfani,cartelle orfane"},
     {SubjectID::similarPhotos,
      "foto simili,immagini simili,foto doppie,immagini doppie,foto duplicate,immagini duplicate,foto "
      "uguali,immagini uguali,foto identiche,foto quasi uguali,doppioni di foto,foto ripetute,foto che si "
@@ -286,14 +304,16 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents,
      "documento,documenti,carte,file di testo,documenti word,file word,documenti di testo,lettere"},
     {SubjectID::files, "file,elemento,elementi,cose,dati,files,oggetti"},
-    {SubjectID::startup, "parte lentamente,si avvia lentamente,lento ad avviarsi,avvio lento,avvio,all "
-                         "avvio,all accensione,si avvia automaticamente,si avviano "
-                         "automaticamente,avvio automatico,programmi all "
-                         "avvio,al login,all accesso,parte da solo,partono da soli,partono all avvio,si "
-                         "avviano,si avvia,si aprono da soli,"
-                         "partono da sole,accendo,esecuzione automatica,si avvia da solo,si avviano da "
-                         "soli,parte all avvio,partono "
-                         "automaticamente,elementi di avvio"},
+    {SubjectID::startup,
+     "all avvio,si avvii,parta all avvio,di avviarsi,avviarsi,partire all avvio,all accensione,al "
+     "login,parte lentamente,si avvia lentamente,lento ad avviarsi,avvio lento,avvio,all "
+     "avvio,all accensione,si avvia automaticamente,si avviano "
+     "automaticamente,avvio automatico,programmi all "
+     "avvio,al login,all accesso,parte da solo,partono da soli,partono all avvio,si "
+     "avviano,si avvia,si aprono da soli,"
+     "partono da sole,accendo,esecuzione automatica,si avvia da solo,si avviano da "
+     "soli,parte all avvio,partono "
+     "automaticamente,elementi di avvio"},
     {SubjectID::containers, "docker,podman,container,contenitori,contenitore,immagini docker"},
     {SubjectID::flatpak, "flatpak,flatpaks,flathub"},
     {SubjectID::snap, "snap,snaps,pacchetti snap,snapd"},

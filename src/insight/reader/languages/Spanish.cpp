@@ -5,6 +5,8 @@ namespace orlen::AskReader {
 namespace spanish_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::installed, "instalado,instalados,instalada,instaladas,está instalado,están instaladas,tengo "
+                       "instaladas,tengo instalado"},
     {Sense::self,
      "qué puedes hacer,qué sabes hacer,qué te puedo preguntar,qué puedo preguntar,quién eres,qué "
      "eres,ayuda,ayúdame,hola,buenos días,buenas tardes,buenas,gracias,cómo funciona esto,qué es orlen,qué "
@@ -21,7 +23,8 @@ constexpr WordRow kWords[] = {
      "virus,malware,troyano,más rápida,más rápido "
      "mi,acelerar,acelera,lento,lenta,rendimiento,desfragmentar,ram,memoria "
      "ram,procesador,cpu,batería,controladores,cortafuegos,antivirus,temperatura,tarjeta gráfica"},
-    {Sense::happens, "pasa,pasará,pasaría,ocurre,sucede,qué pasa,para "
+    {Sense::happens, "dónde acaban,dónde terminan,adónde van a parar,a dónde van a "
+                     "parar,pasa,pasará,pasaría,ocurre,sucede,qué pasa,para "
                      "siempre,definitivamente,permanentemente,definitivo,adónde van,a dónde "
                      "van,irreversible,romper,rompe,dañar,estropear,estropea,romperá,daña,por su "
                      "cuenta,automáticamente,sin preguntar,por sí solo,por tu cuenta,sin permiso,sin avisar"},
@@ -33,7 +36,10 @@ constexpr WordRow kWords[] = {
                       "que,borrarlo,borrarla,borrarlos,borrarlas,eliminarlo,eliminarlos,eliminarla,"
                       "eliminarlas,quitarlo,quitarlos"},
     {Sense::filler,
-     "el,la,los,las,un,una,unos,unas,de,del,al,a,mi,mis,nuestro,nuestra,tu,tus,su,sus,yo,me,mí,nos,nosotros,"
+     "para qué sirve,sirve,para que sirve,para qué es,mi nieto,nieta,me gustaría saber,quisiera "
+     "saber,podrías decirme,me podrías decir,puedes decirme "
+     "si,el,la,los,las,un,una,unos,unas,de,del,al,a,mi,mis,nuestro,nuestra,tu,tus,su,sus,yo,me,mí,nos,"
+     "nosotros,"
      "te,ti,se,le,les,es,son,era,eran,soy,eres,está,están,estoy,estaba,ser,sea,estar,había,he,has,ha,hemos,"
      "han,haber,tienes,tiene,tenemos,tener,para,por,con,sin embargo,si,como,por "
      "favor,porfa,porfavor,ahora,ahora mismo,actualmente,hoy,en este momento,de "
@@ -56,7 +62,8 @@ constexpr WordRow kWords[] = {
      "realidad,básicamente,tendría,tendrá,tendrás,que encontraste,encontraste,has visto,el portátil está,por "
      "cierto,a ver,oye,venga,caramba,jolín,quiero ver,vaya,esta noche,anoche"},
     {Sense::negation, "no,nunca,jamás,ningún,ninguno,ninguna,nada,tampoco"},
-    {Sense::except, "excepto,salvo,menos,a excepción de,aparte de,además de,quitando,sin contar,que no "
+    {Sense::except, "que no sea un,que no sea una,que no sean,excepto,salvo,menos,a excepción de,aparte "
+                    "de,además de,quitando,sin contar,que no "
                     "sean,que no sea,excluyendo,pero no,sin,con excepción de,y no,fuera de,sin incluir,pero "
                     "sin,ignorando,sin tocar,sin borrar,sin eliminar,sin perder,pero deja,deja fuera,dejando "
                     "fuera,ni,menos las de,menos los de,menos lo de,en vez de,sin que"},
@@ -69,7 +76,8 @@ constexpr WordRow kWords[] = {
                   "son,hay algún,hay alguna,tengo algún,qué clase de,qué tipo de,has "
                   "encontrado,existen,q,ke,hay,tengo,en qué,a qué,con qué"},
     {Sense::howBig,
-     "qué tamaño,tamaño,tamaño de,el tamaño,cuánto ocupa,cuánto ocupan,cuánto espacio ocupa,cuánto espacio "
+     "cuánto pesan,y cuánto pesan,cuánto espacio ocupan todas,qué tamaño,tamaño,tamaño de,el tamaño,cuánto "
+     "ocupa,cuánto ocupan,cuánto espacio ocupa,cuánto espacio "
      "ocupan,cuánto pesa,cuánto pesan,cómo de grande,qué tan grande,cuánto espacio usa,cuánto espacio "
      "usan,cuánto espacio toma,cuánto espacio toman,cuántos gb,cuántos gigas,pesa,pesan,peso,cuánto "
      "mide,cuánto usa,cuánto usan,cuánto ocupará,tamaños,cuánto lugar ocupan,cuánto lugar ocupa,qué tan "
@@ -112,7 +120,8 @@ constexpr WordRow kWords[] = {
     {Sense::keep,
      "conservar,guardar,mantener,conserva,keep,quedarme,importante,importantes,mantengo,conservo"},
     {Sense::mean,
-     "significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
+     "etiqueta,la etiqueta,cuenta como,cuentan como,se considera,forma parte "
+     "de,significa,significan,significado,quiere decir,quieren decir,diferencia,diferencia "
      "entre,valoración,valoraciones,calificación,calificaciones,clasificación,colores,calificado,marcado "
      "como,reglas,regla,criterios,decide,clasifica,marcado,marcados,marcadas,clasificado,clasificados,"
      "valorado,valorados,calificados"},
@@ -124,7 +133,8 @@ constexpr WordRow kWords[] = {
     {Sense::opened, "abierto,abiertos,abierta,abiertas,abro,abrí,tocado,tocados,visto,vistos,consultado,"
                     "abrir,vistas,tocadas,mirado,escuchado,leído,he visto,jugado,oído,veo"},
     {Sense::full,
-     "lleno,llena,casi lleno,tan lleno,llenando,se llena,llenará,llenarse,se llenará,sin espacio,falta "
+     "poco espacio en disco,espacio bajo,espacio insuficiente,memoria llena,almacenamiento "
+     "lleno,lleno,llena,casi lleno,tan lleno,llenando,se llena,llenará,llenarse,se llenará,sin espacio,falta "
      "espacio,no queda espacio,no tengo espacio,no hay espacio,poco espacio,tan poco espacio,llenado,sin "
      "sitio,quedarme sin espacio,quedaré sin espacio,quedo sin espacio,me quedo sin espacio,a tope,queda sin "
      "espacio,se me llena,me quedaré sin espacio,se acaba el espacio,acabando el espacio,lleno "
@@ -168,8 +178,10 @@ constexpr WordRow kWords[] = {
      "nuevos,recientes,reciente,nuevos,nuevas,nuevo,más nuevas,último añadido,la más reciente,más "
      "nueva,recientemente,cambiado,cambiados,modificado,modificados,modificadas,añadido,añadidos,cambió,"
      "agregado"},
-    {Sense::grow, "crecido,crece,creció,creciendo,crecimiento,crecer,aumentado,aumentó,aumenta,engordado,han "
-                  "crecido,ha crecido"},
+    {Sense::grow,
+     "ha engordado,se ha hecho más grande,se hizo más grande,ha subido,ha "
+     "aumentado,crecido,crece,creció,creciendo,crecimiento,crecer,aumentado,aumentó,aumenta,engordado,han "
+     "crecido,ha crecido"},
     {Sense::above,
      "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior a,superiores "
      "a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo menos,más grandes de,que "
@@ -186,11 +198,15 @@ constexpr WordRow kWords[] = {
     {Sense::before,
      "antes,antes de,antes del,más antiguo que,más antiguos que,más viejo que,más viejos que,anterior "
      "a,anteriores a,más viejas que,más antiguas que,hasta,de hace más de,hace más de"},
-    {Sense::since,
-     "desde,más reciente que,más recientes que,a partir de,desde hace,más nuevos que,de hace menos de"},
+    {Sense::since, "desde el principio de,desde principios de,desde comienzos de,desde inicios de,desde el "
+                   "inicio de,desde el comienzo de,desde principio de,desde,más reciente que,más recientes "
+                   "que,a partir de,desde hace,más nuevos que,de hace menos de"},
     {Sense::after, "después,después de,posterior a,posteriores a,tras"},
     {Sense::last, "último,última,últimos,últimas,anterior,la última vez,última vez,pasada vez"},
-    {Sense::privacy, "internet,en "
+    {Sense::privacy, "necesita internet,necesitas internet,conexión a internet,sin internet,miras mis "
+                     "archivos,lees mis archivos,ves mis archivos,ve mis archivos,ver mis archivos,ver mis "
+                     "fotos,ve mis fotos,tu empresa,vuestra empresa,se quedan en mi ordenador,se quedan en "
+                     "mi equipo,quedan en mi ordenador,salen de mi ordenador,internet,en "
                      "línea,online,red,privado,privada,privacidad,privados,nube,telemetría,enviar,envía,"
                      "envías,enviados,servidor,servidores,espía,espías,compartir,comparte,compartes,cuenta,"
                      "sin conexión,subir,sube,subes,recopila,recopilas,datos "
@@ -200,7 +216,9 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "oculto,ocultos,oculta,ocultas,invisibles"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas"},
     {Sense::general,
-     "pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,categoría,"
+     "desactivar,desactiva,evitar,evita,impedir,impide,parar,para que "
+     "no,detener,pronóstico,previsión,idioma,idiomas,análisis,resultado,resultados,basura,porquería,"
+     "categoría,"
      "categorías,mejor,otro,otra,otros,primero,primer "
      "lugar,largo,demás,día,días,semana,mes,año,vez,veces,tarda,cosa así,bien,mal,hacia,restos"},
     // Of applications: their sizes are with it anyway.
@@ -208,6 +226,11 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::leftovers,
+     "restos de aplicaciones,restos de programas,restos de apps,restos,residuos,residuos de "
+     "programas,aplicaciones desinstaladas,programas desinstalados,apps desinstaladas,aplicaciones "
+     "borradas,programas borrados,aplicaciones eliminadas,programas eliminados,que dejaron,dejaron "
+     "atrás,dejado atrás,huérfanos,huérfanas,archivos huérfanos,carpetas huérfanas"},
     {SubjectID::similarPhotos,
      "fotos similares,imágenes similares,fotos parecidas,imágenes parecidas,fotos duplicadas,imágenes "
      "duplicadas,fotos repetidas,imágenes repetidas,fotos iguales,fotos idénticas,fotos casi "
@@ -236,7 +259,9 @@ constexpr SubjectRow kSubjects[] = {
      "registros,logs,log,archivos de registro,registro,archivos log,ficheros de registro,archivos de log"},
     {SubjectID::trash, "papelera,la papelera,papelera de reciclaje,archivos borrados,basurero"},
     {SubjectID::deviceBackups,
-     "copias de iphone,copia de iphone,copias de seguridad del iphone,copia de seguridad del "
+     "backups del iphone,backup del iphone,backups de iphone,backup de iphone,backups del móvil,backup del "
+     "móvil,backups del teléfono,copias de iphone,copia de iphone,copias de seguridad del iphone,copia de "
+     "seguridad del "
      "iphone,copias de seguridad de iphone,iphone,ipad,copias de seguridad del móvil,copias "
      "de seguridad del teléfono,copia de seguridad del móvil,copias de seguridad de "
      "dispositivos"},
@@ -288,7 +313,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::documents, "documento,documentos,papeles,archivos de texto,documentos de word,cartas,textos"},
     {SubjectID::files, "archivo,archivos,fichero,ficheros,elemento,elementos,cosa,cosas,datos"},
     {SubjectID::startup,
-     "arranca lento,arranca despacio,tarda en arrancar,arranca lentamente,inicio,al inicio,arranque,al "
+     "que arranque,que se inicie,que se abra,se inicie,arranque solo,al iniciar sesión,al encender,arranca "
+     "lento,arranca despacio,tarda en arrancar,arranca lentamente,inicio,al inicio,arranque,al "
      "arrancar,al iniciar,arranca automáticamente,arrancan "
      "automáticamente,programas de inicio,se inicia automáticamente,se inician automáticamente,al "
      "encender,inicio de sesión,al iniciar sesión,inicio automático,se abren solos,arrancan solos,se inician "
