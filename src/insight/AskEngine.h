@@ -31,7 +31,8 @@ struct Turn {
     Conversation next;
 };
 
-/// Answers questions about the last scan, using nothing else. Stateless; any thread.
+/// Answers questions about the last scan and what lies in the home folder, using nothing else. Stateless; any
+/// thread.
 namespace AskEngine {
 
 /// Suggested questions. They are understood in the person's language as well.
