@@ -31,8 +31,8 @@ struct Turn {
     Conversation next;
 };
 
-/// Answers questions about the last scan and, where it lists too little, about the home folder as it is now.
-/// Stateless; any thread, but not the main one when the context has a `home`.
+/// Answers questions about the last scan and what lies in the home folder, using nothing else. Stateless; any
+/// thread.
 namespace AskEngine {
 
 /// Suggested questions. They are understood in the person's language as well.

@@ -201,6 +201,8 @@ inline constexpr Text kOpenedUnrated = message("• {path} ({size}), opened {dat
 // TRANSLATORS: {line} is one of a list such as "• ~/a.zip (3 GB), changed 4 March 2024"; {title} is a group
 // of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
 inline constexpr Text kListedLine = message("{line} — {title}, {rating}");
+// TRANSLATORS: {line} is as above; Orlen never moves it.
+inline constexpr Text kProtectedLine = message("{line} — protected");
 inline constexpr Text kSmallestLeftOut =
     message("Your home folder holds more files than Orlen keeps in mind: the smallest in caches and hidden "
             "folders are left out.");

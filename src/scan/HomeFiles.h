@@ -38,11 +38,11 @@ public:
     struct File {
         std::string_view name; ///< valid UTF-8
         Number folder = 0;
-        std::int64_t bytes = 0;   ///< allocated
-        TimePoint changed;        ///< in whole seconds
-        TimePoint opened;         ///< or changed, if that was later; as far as the file system keeps it
-        bool isOtherName = false; ///< a further name of a file that is here already: not to be counted again
-        bool isOwn = false;       ///< the person's own: not hidden, and in a folder that is
+        std::int64_t bytes = 0; ///< allocated
+        TimePoint changed;      ///< in whole seconds
+        TimePoint opened;       ///< or changed, if that was later; as far as the file system keeps it
+        Number counted = 0;     ///< of a file with several names the one to count; of others, itself
+        bool isOwn = false;     ///< the person's own: not hidden, and in a folder that is
     };
 
     /// As the walk collects it. Each list of names has the end of the last one behind its starts.
@@ -61,7 +61,7 @@ public:
         std::vector<std::int64_t> fileBytes;
         std::vector<std::uint32_t> changed; ///< seconds since 1970
         std::vector<std::uint32_t> opened;
-        std::vector<std::uint8_t> isOtherName;
+        std::vector<Number> counted;
         bool isComplete = true;
     };
 
@@ -87,7 +87,7 @@ public:
                 m_all.fileBytes[number],
                 TimePoint(std::chrono::seconds(m_all.changed[number])),
                 TimePoint(std::chrono::seconds(m_all.opened[number])),
-                m_all.isOtherName[number] != 0,
+                m_all.counted[number],
                 m_all.isOwn[m_all.folderOfFile[number]] != 0 && !name.starts_with('.')};
     }
     [[nodiscard]] std::string_view folderName(Number number) const

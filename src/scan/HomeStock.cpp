@@ -22,8 +22,11 @@ constexpr std::uint32_t kOnlyCounted = 0x8000'0000;
 constexpr std::array<std::string_view, 6> kCacheNames{"cache",  "Cache",    "caches",
                                                       "Caches", "GPUCache", "Code Cache"};
 
-bool isOwnName(std::string_view name)
+bool isOwnName(std::string_view name, bool isAtTop)
 {
+    constexpr std::array<std::string_view, 2> kOfPrograms{"snap", "Library"};
+    if (isAtTop && std::ranges::find(kOfPrograms, name) != kOfPrograms.end())
+        return false;
     return !WalkRules::isLeftOut(name) && std::ranges::find(kCacheNames, name) == kCacheNames.end();
 }
 
@@ -69,7 +72,7 @@ std::optional<std::uint32_t> HomeStock::enter(const TreeFolder& parent, std::str
     m_folders.push_back({.parent = around,
                          .name = start,
                          .nameEnd = static_cast<std::uint32_t>(m_folderNames.size()),
-                         .isOwn = m_folders[around].isOwn && isOwnName(name)});
+                         .isOwn = m_folders[around].isOwn && isOwnName(name, around == 0)});
     return static_cast<std::uint32_t>(m_folders.size() - 1);
 }
 
@@ -234,25 +237,23 @@ void HomeStock::putFiles(HomeFiles::Contents& all, const std::vector<Number>& ne
         links.push_back(file.link);
     }
     all.fileNames.push_back(static_cast<std::uint32_t>(all.names.size()));
-    markOtherNames(all, links);
+    chooseNames(all, links);
 }
 
 /// The first of a file's names counts; one among the person's own files before any other.
-void HomeStock::markOtherNames(HomeFiles::Contents& all, const std::vector<std::uint32_t>& links) const
+void HomeStock::chooseNames(HomeFiles::Contents& all, const std::vector<std::uint32_t>& links) const
 {
-    all.isOtherName.assign(links.size(), 0);
-    std::unordered_map<FileIdentity, Number, FileIdentityHash> counted;
+    const auto isOwn = [&](Number file) { return all.isOwn[all.folderOfFile[file]]; };
+    std::unordered_map<FileIdentity, Number, FileIdentityHash> chosen;
     for (Number i = 0; i < links.size(); ++i) {
         if (links[i] == 0)
             continue;
-        const auto [known, isNew] = counted.try_emplace(m_linked[links[i] - 1].identity, i);
-        if (isNew)
-            continue;
-        const bool isBetter = all.isOwn[all.folderOfFile[i]] > all.isOwn[all.folderOfFile[known->second]];
-        all.isOtherName[isBetter ? known->second : i] = 1;
-        if (isBetter)
+        const auto [known, isNew] = chosen.try_emplace(m_linked[links[i] - 1].identity, i);
+        if (!isNew && isOwn(i) > isOwn(known->second))
             known->second = i;
     }
+    for (Number i = 0; i < links.size(); ++i)
+        all.counted.push_back(links[i] == 0 ? i : chosen.at(m_linked[links[i] - 1].identity));
 }
 
 HomeFiles::Contents HomeStock::contents(std::string home)

@@ -65,7 +65,7 @@ private:
                     const std::vector<Number>& newNumbers) const;
     void addLinked(HomeFiles::Contents& all, const std::vector<Number>& newNumbers) const;
     void putFiles(HomeFiles::Contents& all, const std::vector<Number>& newNumbers);
-    void markOtherNames(HomeFiles::Contents& all, const std::vector<std::uint32_t>& links) const;
+    void chooseNames(HomeFiles::Contents& all, const std::vector<std::uint32_t>& links) const;
 
     const HomeWalk::Limits m_limits;
     const MountTable& m_mounts;

@@ -30,6 +30,7 @@ protected:
         file(".cache/mail/picture.jpg", kBytesInMB, "2026-05-31");
         file("Pictures/Coast/shot one.jpg", kBytesInMB, "2026-04-01");
         file("Pictures/Coast/shot two.jpg", kBytesInMB / 2, "2026-04-02");
+        file(".var/app/org.example.App/.cache/3", 0, "2026-04-02");
         file("VirtualBox VMs/Testing/box.vdi", 3 * kBytesInMB, "2026-04-02");
         add(FindingKind::caches, Rating::review, message("Made again."),
             {entry("Projects/engine/target", 8 * kBytesInMB), entry(".cache/pip-tools", kBytesInMB)});
@@ -49,9 +50,9 @@ protected:
 
 constexpr Row kFiles[] = {
     {"10 biggest files",
-     "Of files there are 18|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 8 more"},
+     "Of files there are 19|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 9 more"},
     {"what is the biggest file", "~/.backup.img (13 MB), changed 3 May 2026", "backup-2025|more"},
-    {"the three largest files", "~/.backup.img|~/backup-2025.img|Lake house.mkv|and 15 more", "Evening"},
+    {"the three largest files", "~/.backup.img|~/backup-2025.img|Lake house.mkv|and 16 more", "Evening"},
     {"files over 9.5 MB", "Of files over 9.5 MB there are 4|Evening set.flac", "Matinee"},
     {"show me the biggest videos", "Of videos there is 1, 11 MB in all.|Lake house.mkv", "img"},
     {"show me all .img files", "Of files ending in .img there are 3|disk.img (8 MB)|App caches, Review"},
@@ -81,6 +82,8 @@ constexpr Row kFolders[] = {
     {"three largest folders in Projects", "Of folders in ~/Projects there are 2|~/Projects/engine — 8 MB",
      "target"},
     {"biggest hidden folders", "~/.cache — 2 MB", "Music"},
+    {"zeig mir die 3 größten Dateien in Downloads", "Floor plan (1).pdf|garden plan.pdf|setup.deb",
+     "~/.cache"},
     {"how big is my .cache folder", "~/.cache takes 2 MB", "category"},
     {"whats the size of the Tools folder", "~/Tools takes 999 KB", "pip-tools"},
     {"how big is my music folder", "~/Music takes 19 MB"},

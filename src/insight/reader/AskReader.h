@@ -11,7 +11,8 @@
 ///
 /// Words and phrases are looked up in the table of a language (`Language`) and become senses. A second table
 /// says which senses a reply needs and which others it may stand beside. A word that neither table knows must
-/// be a name in the scan, or there is no answer. Of the languages, that one counts which knows most words.
+/// be a name in the home folder or the scan, or there is no answer. Of the languages, that one counts which
+/// knows most words.
 namespace orlen::AskReader {
 
 /// Nothing for the suggested questions and for what the matcher is to answer.

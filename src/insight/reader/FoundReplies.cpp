@@ -85,15 +85,19 @@ void addLink(std::vector<std::string>& ids, const Finding& finding)
 }
 
 /// One line of several things with one name.
-Message measuredLine(const Measured& each)
+Message measuredLine(const Measured& each, const AskContext& context)
 {
-    if (each.changed)
-        return {InsightTexts::kFileUnrated,
-                {{"path", tilde(each.path)}, {"size", Bytes{each.bytes}}, {"date", Moment{*each.changed}}}};
-    return {InsightTexts::kDownload, {{"name", tilde(each.path)}, {"size", Bytes{each.bytes}}}};
+    const Place bytes{"size", Bytes{each.bytes}};
+    Message line = each.changed
+                       ? Message{InsightTexts::kFileUnrated,
+                                 {{"path", tilde(each.path)}, bytes, {"date", Moment{*each.changed}}}}
+                       : Message{InsightTexts::kDownload, {{"name", tilde(each.path)}, bytes}};
+    if (protectionOf(context, each.path) == Protection::none)
+        return line;
+    return {InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}};
 }
 
-Answer listedAll(const Found& found, std::string_view name)
+Answer listedAll(const AskContext& context, const Found& found, std::string_view name)
 {
     const auto hits = std::span(found.hits).first(std::min(found.hits.size(), kListed));
     const auto others =
@@ -101,7 +105,8 @@ Answer listedAll(const Found& found, std::string_view name)
     const auto count = std::ssize(found.hits) + std::ssize(found.measured);
     std::vector<Message> lines{{InsightTexts::kItemsFit, {{"count", count}, {"name", std::string(name)}}}};
     std::ranges::transform(hits, std::back_inserter(lines), itemLine);
-    std::ranges::transform(others, std::back_inserter(lines), measuredLine);
+    std::ranges::transform(others, std::back_inserter(lines),
+                           [&](const Measured& each) { return measuredLine(each, context); });
     if (const auto more = count - std::ssize(hits) - std::ssize(others); more > 0)
         lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
     if (!hits.empty())
@@ -187,7 +192,7 @@ Answer protectedPlace(std::string_view path, Protection protection)
 Answer listedHits(const AskContext& context, const Found& found, std::string_view name)
 {
     if (found.hits.size() + found.measured.size() > 1)
-        return listedAll(found, name);
+        return listedAll(context, found, name);
     Answer answer{described(context, found.hits.front()), {}};
     addLink(answer.findingIDs, *found.hits.front().finding);
     answer.paths.push_back(found.hits.front().entry->path);
@@ -198,15 +203,12 @@ Answer measuredOnly(const Question& question, const AskContext& context, const F
                     std::string_view name)
 {
     if (found.measured.size() > 1 && found.measured.front().kind != Measured::Kind::unknown)
-        return listedAll(found, name);
+        return listedAll(context, found, name);
     std::vector<Message> lines;
     Answer answer;
     for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
         answer.paths.push_back(each.path);
-        const Message inside =
-            each.kind == Measured::Kind::file ? Message() : listedInside(each, context, answer);
-        lines.push_back(
-            AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer), inside}));
+        lines.push_back(AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer)}));
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;

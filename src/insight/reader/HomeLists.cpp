@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <unordered_set>
 
 namespace orlen::AskReader {
 
@@ -116,13 +117,24 @@ private:
     void takeFile(Number number, bool isOwnOnly)
     {
         const HomeFiles::File file = m_home.file(number);
-        if (file.isOtherName || (isOwnOnly && !file.isOwn) || file.bytes < m_request.leastBytes ||
+        if ((isOwnOnly && !file.isOwn) || file.bytes < m_request.leastBytes ||
             file.bytes > m_request.mostBytes || file.changed < m_request.changedFrom ||
             file.changed >= m_request.changedTo || file.opened >= m_request.openedTo ||
-            (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name))
+            (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name) ||
+            isCountedElsewhere(number, file.counted))
             return;
         if (m_request.exclusions.empty() || !m_request.exclusions.leaveOutFile(m_home.filePath(number)))
             take(number, file.bytes);
+    }
+
+    /// Whether another name of the file is in the list. Where the one to count is not among those looked at,
+    /// the first counts.
+    bool isCountedElsewhere(Number number, Number counted)
+    {
+        if (counted == number)
+            return false;
+        const HomeFiles::Range range = m_home.filesBelow(m_place);
+        return (counted >= range.first && counted < range.last) || !m_otherNames.insert(counted).second;
     }
 
     [[nodiscard]] bool isBefore(const HomeFiles::File& a, const HomeFiles::File& b, bool isFirst) const
@@ -159,6 +171,7 @@ private:
     Number m_place;
     Endings m_endings;
     HomeList m_list;
+    std::unordered_set<Number> m_otherNames; ///< counted though another name is the one to count
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "insight/InsightTexts.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/ProgramReplies.h"
 #include "platform/files/Places.h"
@@ -63,10 +64,48 @@ void narrow(Found& found, std::string_view folder)
     std::erase_if(found.trashed, [&](const TrashedItem* item) { return isElsewhere(item->original); });
 }
 
+/// "The .git folder of atlas": what lies in a folder of that name, if anything does.
+void narrowToOthers(Found& found, const Question& question, const AskedName& asked)
+{
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.sense != Sense::unknown || asked.name.find(phrase.text) != std::string::npos ||
+            asked.place.find(phrase.text) != std::string::npos)
+            continue;
+        const std::string word = "/" + lowered(phrase.text) + "/";
+        const auto lies = [&](std::string_view path) {
+            return lowered(path).find(word) != std::string::npos;
+        };
+        if (std::ranges::none_of(found.hits, [&](const Hit& hit) { return lies(hit.entry->path); }) &&
+            std::ranges::none_of(found.measured, [&](const Measured& each) { return lies(each.path); }))
+            continue;
+        std::erase_if(found.hits, [&](const Hit& hit) { return !lies(hit.entry->path); });
+        std::erase_if(found.measured, [&](const Measured& each) { return !lies(each.path); });
+    }
+}
+
+/// "My .cache folder": the one that lies directly in the home folder, if there is one.
+void keepTopFolder(Found& found)
+{
+    const std::string& home = Places::current().home;
+    const auto isAtTop = [&](std::string_view path) { return PathText::parent(path) == home; };
+    const auto top = std::ranges::find_if(found.measured, [&](const Measured& each) {
+        return each.kind == Measured::Kind::folder && isAtTop(each.path);
+    });
+    if (top == found.measured.end())
+        return;
+    const Measured only = *top;
+    found.hits.clear();
+    found.measured = {only};
+}
+
 /// Keeps what the question says of it: that it is a folder or a file; and what people have in their own
 /// folders, if anything, before what programs keep.
-void keepMeant(Found& found, const Question& question)
+void keepMeant(Found& found, const Question& question, const AskedName& asked)
 {
+    narrowToOthers(found, question, asked);
+    if (asked.place.empty() && found.fit == Fit::whole &&
+        (question.senses.has(Sense::folder) || asked.name.starts_with('.')))
+        keepTopFolder(found);
     if (!found.hits.empty())
         return;
     const auto keep = [&](auto isWanted) {
@@ -142,7 +181,8 @@ bool mayBePartOfName(const Question& question)
 
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
-    const auto [name, place] = nameIn(question);
+    const AskedName asked = nameIn(question);
+    const auto& [name, place] = asked;
     const std::string folder = place.empty() ? std::string() : folderNamed(context, place);
     if (name.empty() || hasOtherNames(question, name, place))
         return std::nullopt;
@@ -158,7 +198,7 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
             return notFound(name, context);
     }
-    keepMeant(found, question);
+    keepMeant(found, question, asked);
     if (found.fit < Fit::stem && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
             return app;

@@ -62,11 +62,18 @@ bool isOfName(std::string_view word)
     });
 }
 
-/// Like "notes.txt", ".config" or "pip-tools", not like a word.
+bool isLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// Like "notes.txt", ".config" or "pip-tools", not like a word or a date.
 bool isWrittenAsName(std::string_view word)
 {
+    if (std::ranges::none_of(word, isLetter))
+        return false;
     return hasEnding(word) || (word.starts_with('.') && word.size() > 1) ||
-           (word.find_first_of("-_0123456789") != std::string_view::npos && isOfName(word));
+           (isLetter(word.front()) && word.find_first_of("-_") != std::string_view::npos && isOfName(word));
 }
 
 /// Names in a text.
@@ -145,7 +152,7 @@ private:
             run.remove_prefix(home.size());
         else if (run.starts_with('/'))
             return std::nullopt;
-        if (PathText::components(run).empty())
+        if (std::ranges::none_of(run, isLetter))
             return std::nullopt;
         const auto item = m_names->at(lowered(run));
         return item ? std::optional("~" + m_names->pathOf(*item).substr(home.size())) : std::nullopt;
