@@ -3,6 +3,7 @@
 #include "scan/photos/CommonMotion.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <vector>
@@ -31,8 +32,9 @@ constexpr std::size_t kAllBlocks = std::numeric_limits<std::size_t>::max();
 template <typename Search>
 class LookUp {
 public:
-    LookUp(const Search& one, const Search& other)
-        : m_one(one), m_other(other), m_blocks(one.texturedBlocks())
+    /// A motion that is guessed saves time.
+    LookUp(const Search& one, const Search& other, const CommonMotion& guessed)
+        : m_one(one), m_other(other), m_blocks(one.texturedBlocks()), m_motion(guessed)
     {
     }
 
@@ -48,7 +50,7 @@ public:
     {
         constexpr int kReach = (kSearchReach + Search::kScale - 1) / Search::kScale;
         for (std::size_t i = m_finds.size(); i < std::min(count, m_blocks.size()); ++i)
-            m_finds.push_back(m_one.find(m_blocks[i], m_other, kReach));
+            m_finds.push_back(m_one.find(m_blocks[i], m_other, kReach, guessedMove(m_blocks[i])));
         m_motion = CommonMotion::fitted(m_finds);
     }
 
@@ -59,6 +61,18 @@ public:
     [[nodiscard]] float followingShare() const { return m_motion.followingShare(m_finds); }
 
 private:
+    [[nodiscard]] TilePlace guessedMove(TilePlace block) const
+    {
+        const auto middle = [](int from) {
+            return static_cast<float>(Search::kScale) * (static_cast<float>(from) + Search::kBlock / 2.0F);
+        };
+        const auto inPixels = [](float move) {
+            return static_cast<int>(std::lround(move / static_cast<float>(Search::kScale)));
+        };
+        const CommonMotion::Point move = m_motion.moveAt(middle(block.x), middle(block.y));
+        return {inPixels(move.x), inPixels(move.y)};
+    }
+
     const Search& m_one;
     const Search& m_other;
     const std::vector<TilePlace>& m_blocks;
@@ -66,10 +80,18 @@ private:
     CommonMotion m_motion;
 };
 
+struct Motions {
+    CommonMotion forward;
+    CommonMotion backward;
+};
+
 /// Both ways.
 template <typename Search>
 struct LookUps {
-    LookUps(const Search& one, const Search& other) : forward(one, other), backward(other, one) {}
+    explicit LookUps(const Search& one, const Search& other, const Motions& guessed = {})
+        : forward(one, other, guessed.forward), backward(other, one, guessed.backward)
+    {
+    }
 
     [[nodiscard]] bool haveStructure() const { return forward.hasStructure() || backward.hasStructure(); }
     void findBlocks(std::size_t count)
@@ -86,14 +108,18 @@ struct LookUps {
     LookUp<Search> backward;
 };
 
-/// How much the strongest blocks of previews obey one motion; nothing if they have too few.
-std::optional<float> obedience(const CoarseSearch& one, const CoarseSearch& other)
+/// The motions that the strongest blocks of previews obey, and how much; nothing if they have too few.
+struct Obedience {
+    std::optional<float> share;
+    Motions motions;
+};
+Obedience obedience(const CoarseSearch& one, const CoarseSearch& other)
 {
     LookUps<CoarseSearch> found(one, other);
     if (!found.haveStructure())
-        return std::nullopt;
+        return {};
     found.findBlocks(kFirstBlocks);
-    return found.followingShare();
+    return {found.followingShare(), {found.forward.motion(), found.backward.motion()}};
 }
 constexpr float kHopelessPreview = 0.20F; ///< no changed copy's preview obeys less
 
@@ -122,13 +148,13 @@ std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const F
 {
     constexpr float kHopeless = 0.22F; ///< no changed copy's first blocks obey less
     constexpr float kObedienceWeight = 0.2F;
-    const auto preview =
+    const Obedience preview =
         obedience(CoarseSearch(PictureOutline::halved(one)), CoarseSearch(PictureOutline::halved(other)));
-    if (preview && *preview < kHopelessPreview)
-        return preview;
+    if (preview.share && *preview.share < kHopelessPreview)
+        return preview.share;
     const FineSearch first(one);
     const FineSearch second(other);
-    LookUps<FineSearch> found(first, second);
+    LookUps<FineSearch> found(first, second, preview.motions);
     if (!found.haveStructure())
         return std::nullopt;
     if (one == other)

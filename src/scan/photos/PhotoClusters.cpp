@@ -112,7 +112,7 @@ private:
 
 std::vector<Newcomer> Clusters::lookedUp(std::span<const std::size_t> batch) const
 {
-    constexpr std::size_t kTogether = 16;
+    constexpr std::size_t kTogether = 32;
     PrintIndex among;
     std::vector<FeaturePrint::Direction> directions;
     for (const std::size_t photo : batch) {

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
+#include <numeric>
 #include <optional>
 
 namespace orlen {
@@ -16,11 +17,6 @@ namespace {
 /// such vectors exceeds the square of this, nor do its parts.
 constexpr float kSteps = 177;
 
-/// What a product of sketches may be too low by because they are rounded: half a step in each of 52 numbers
-/// of both, which are not longer than 1.
-constexpr float kRounding = 0.0415F;
-/// The same for their starts, of 33 numbers.
-constexpr float kStartRounding = 0.0330F;
 constexpr float kLeastCosine = 1 - kCoarseLimit * kCoarseLimit / 2;
 /// More than what is lost when a cosine is computed in another order.
 constexpr float kNothing = 1e-5F;
@@ -30,10 +26,37 @@ std::int16_t inSteps(float number)
     return static_cast<std::int16_t>(std::lround(number * kSteps));
 }
 
-/// What sketches of directions with that cosine have in common, at least.
-std::int16_t leastProduct(float cosine, float rounding)
+/// What sketches of directions with that cosine have in common, at least, if rounding moved them that far.
+std::int16_t leastProduct(float cosine, float oneMoved, float otherMoved)
 {
-    return static_cast<std::int16_t>((cosine - rounding) * kSteps * kSteps);
+    constexpr float kLonger = 1.03F; ///< than 1, which a rounded sketch may be
+    return static_cast<std::int16_t>((cosine - kLonger * (oneMoved + otherMoved)) * kSteps * kSteps);
+}
+
+/// The sum of the products of their numbers.
+[[gnu::always_inline]] inline std::int32_t inCommon(const PrintIndex::Direction& one,
+                                                    const PrintIndex::Direction& other)
+{
+    constexpr std::size_t kSome = 16;
+    constexpr int kHalf = 16; // bits
+    using Bytes [[gnu::vector_size(kSome)]] = std::int8_t;
+    using Words [[gnu::vector_size(kSome * sizeof(std::int16_t))]] = std::int16_t;
+    using Sums [[gnu::vector_size(kSome * sizeof(std::int16_t))]] = std::int32_t;
+    Sums sums{};
+    for (std::size_t i = 0; i < one.size(); i += kSome) {
+        Bytes ones{};
+        Bytes others{};
+        std::memcpy(&ones, &one[i], sizeof ones);
+        std::memcpy(&others, &other[i], sizeof others);
+        const Words products = __builtin_convertvector(ones, Words) * __builtin_convertvector(others, Words);
+        Sums pairs{};
+        std::memcpy(&pairs, &products, sizeof pairs);
+        sums += (pairs >> kHalf) + (pairs << kHalf >> kHalf);
+    }
+    std::int32_t sum = 0;
+    for (std::size_t i = 0; i < sizeof sums / sizeof sum; ++i)
+        sum += sums[i];
+    return sum;
 }
 
 float lengthOf(std::span<const std::int8_t> numbers)
@@ -42,6 +65,17 @@ float lengthOf(std::span<const std::int8_t> numbers)
     for (const std::int8_t number : numbers)
         squares += static_cast<float>(number) * static_cast<float>(number);
     return std::sqrt(squares);
+}
+
+/// Whether the processor has lanes of 256 bits.
+bool hasWideLanes()
+{
+#ifdef __x86_64__
+    static const bool has = __builtin_cpu_supports("avx2") != 0;
+    return has;
+#else
+    return false;
+#endif
 }
 
 void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
@@ -68,82 +102,101 @@ struct PrintIndex::Query {
     /// Bits set for each of a bundle that may be near.
     using Marks = std::array<std::int16_t, kTogether>;
 
-    Query(const Direction& of, std::size_t mostFound)
-        : direction(&of), squares(product(of, of)), most(mostFound)
+    Query(const Direction& of, std::size_t mostFound, const PrintIndex& in)
+        : direction(&of), squares(product(of, of)), most(mostFound), index(&in), rounded(sketchOf(of))
     {
-        const Sketch sketch = sketchOf(of);
-        for (std::size_t i = 0; i < kNumbers; ++i)
-            numbers[i] = Lanes{} + sketch[i];
         setLeast(kLeastCosine);
     }
 
     void setLeast(float cosine)
     {
         leastCosine = cosine;
-        leastOfStart = Lanes{} + leastProduct(cosine, kStartRounding);
-        least = Lanes{} + leastProduct(cosine, kRounding);
+        leastOfStart = leastProduct(cosine, rounded.startMoved, index->m_startMoved);
+        least = leastProduct(cosine, rounded.moved, index->m_moved);
     }
 
-    void addProducts(Sums& sums, const Bundle& bundle, std::size_t first, std::size_t end) const
+    [[gnu::always_inline]] void addProducts(Sums& sums, const Bundle& bundle, std::size_t first,
+                                            std::size_t end) const
     {
-        for (std::size_t i = first; i < end; ++i) {
-            Lanes left{};
-            Lanes right{};
-            std::memcpy(&left, bundle[i].data(), sizeof left);
-            std::memcpy(&right, bundle[i].data() + kLanes, sizeof right);
-            sums.left += left * numbers[i];
-            sums.right += right * numbers[i];
+        constexpr std::size_t kStep = 4;
+        for (std::size_t i = first; i < end; i += kStep) {
+            for (std::size_t step = 0; step < kStep; ++step)
+                addProduct(sums, bundle, i + step);
         }
     }
 
+    [[gnu::always_inline]] void addProduct(Sums& sums, const Bundle& bundle, std::size_t i) const
+    {
+        Lanes left{};
+        Lanes right{};
+        std::memcpy(&left, bundle[i].data(), sizeof left);
+        std::memcpy(&right, bundle[i].data() + kLanes, sizeof right);
+        sums.left += left * rounded.sketch[i];
+        sums.right += right * rounded.sketch[i];
+    }
+
     /// Whether any of the bundle may be near, and which.
-    [[nodiscard]] bool hasNear(const Bundle& bundle, Marks& marks) const
+    [[nodiscard]] [[gnu::always_inline]] bool hasNear(const Bundle& bundle, Marks& marks) const
     {
         Sums start;
         addProducts(start, bundle, 0, kStart);
         Sums sums = start;
-        addProducts(sums, bundle, kStart, kStart + 1);
-        if (!isAnySet((sums.left >= leastOfStart) | (sums.right >= leastOfStart)))
+        addProduct(sums, bundle, kStart);
+        if (!isAnySet((sums.left >= Lanes{} + leastOfStart) | (sums.right >= Lanes{} + leastOfStart)))
             return false;
         addProducts(start, bundle, kStart + 1, kNumbers);
-        const Lanes left = start.left >= least;
-        const Lanes right = start.right >= least;
+        const Lanes left = start.left >= Lanes{} + least;
+        const Lanes right = start.right >= Lanes{} + least;
         std::memcpy(marks.data(), &left, sizeof left);
         std::memcpy(marks.data() + kLanes, &right, sizeof right);
         return isAnySet(left | right);
     }
 
-    [[nodiscard]] static bool isAnySet(Lanes lanes)
+    [[nodiscard]] [[gnu::always_inline]] static bool isAnySet(const Lanes& lanes)
     {
-        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(lanes);
-        return (halves[0] | halves[1]) != 0;
+        const auto parts =
+            std::bit_cast<std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)>>(lanes);
+        std::uint64_t any = 0;
+        for (const std::uint64_t part : parts)
+            any |= part;
+        return any != 0;
     }
 
     const Direction* direction;
     std::int32_t squares; ///< of its length
     std::size_t most;
-    std::array<Lanes, kNumbers> numbers; ///< of the sketch, each as often as there are lanes
-    Lanes leastOfStart;                  ///< for the sketches of near ones
-    Lanes least;
+    const PrintIndex* index;
+    Rounded rounded;
+    std::int16_t leastOfStart = 0; ///< for the sketches of near ones
+    std::int16_t least = 0;
     float leastCosine = 0;
     std::vector<Near> found;
 };
 
-PrintIndex::Sketch PrintIndex::sketchOf(const Direction& direction)
+PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
 {
     const float length = std::max(lengthOf(direction), 1.0F);
     const std::span<const std::int8_t> numbers(direction);
-    Sketch sketch{};
-    auto next = sketch.begin();
+    Rounded rounded;
+    std::array<float, kNumbers> moved{}; // squared
+    std::size_t count = 0;
+    const auto put = [&](float number) {
+        rounded.sketch[count] = inSteps(number / length);
+        const float by = number / length - static_cast<float>(rounded.sketch[count]) / kSteps;
+        moved[count++] = by * by;
+    };
     for (std::size_t i = 0; i < kHead; ++i) {
         if (i == kStart)
-            *next++ = inSteps(lengthOf(numbers.subspan(kStart)) / length);
-        *next++ = inSteps(static_cast<float>(numbers[i]) / length);
+            put(lengthOf(numbers.subspan(kStart)));
+        put(static_cast<float>(numbers[i]));
     }
     constexpr std::size_t kRest = (FeaturePrint::kLength - kHead) / kRests;
     for (std::size_t i = 0; i < kRests; ++i)
-        *next++ = inSteps(lengthOf(numbers.subspan(kHead + i * kRest, kRest)) / length);
-    return sketch;
+        put(lengthOf(numbers.subspan(kHead + i * kRest, kRest)));
+    const auto start = std::span(moved).first(kStart + 1);
+    rounded.startMoved = std::sqrt(std::accumulate(start.begin(), start.end(), 0.0F));
+    rounded.moved = std::sqrt(std::accumulate(moved.begin(), moved.end(), 0.0F) - moved[kStart]);
+    return rounded;
 }
 
 void PrintIndex::add(const Direction& direction)
@@ -151,16 +204,18 @@ void PrintIndex::add(const Direction& direction)
     const std::size_t lane = m_directions.size() % kTogether;
     if (lane == 0)
         m_bundles.emplace_back();
-    const Sketch sketch = sketchOf(direction);
+    const Rounded rounded = sketchOf(direction);
     for (std::size_t i = 0; i < kNumbers; ++i)
-        m_bundles.back()[i][lane] = sketch[i];
+        m_bundles.back()[i][lane] = rounded.sketch[i];
+    m_startMoved = std::max(m_startMoved, rounded.startMoved);
+    m_moved = std::max(m_moved, rounded.moved);
     m_directions.push_back(direction);
     m_squares.push_back(product(direction, direction));
 }
 
-void PrintIndex::look(Query& query, std::size_t number) const
+[[gnu::always_inline]] inline void PrintIndex::look(Query& query, std::size_t number) const
 {
-    const std::int32_t common = product(m_directions[number], *query.direction);
+    const std::int32_t common = inCommon(m_directions[number], *query.direction);
     const float lengths =
         std::sqrt(static_cast<float>(query.squares) * static_cast<float>(m_squares[number]));
     if (static_cast<float>(common) < (query.leastCosine - kNothing) * lengths)
@@ -178,14 +233,9 @@ void PrintIndex::look(Query& query, std::size_t number) const
     query.setLeast(1 - farthest * farthest / 2);
 }
 
-std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,
-                                                            std::size_t most) const
+/// Bundle by bundle, so that each is fetched from memory once.
+[[gnu::always_inline]] inline void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 {
-    std::vector<Query> queries;
-    queries.reserve(directions.size());
-    for (const Direction& direction : directions)
-        queries.emplace_back(direction, most);
-    // Bundle by bundle, so that each is fetched from memory once.
     for (std::size_t first = 0; first < m_directions.size(); first += kTogether) {
         const Bundle& bundle = m_bundles[first / kTogether];
         const std::size_t count = std::min(kTogether, m_directions.size() - first);
@@ -199,6 +249,32 @@ std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Dire
             }
         }
     }
+}
+
+#ifdef __x86_64__
+[[gnu::target("avx2")]]
+#endif
+void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
+{
+    lookThroughBundles(queries);
+}
+
+void PrintIndex::lookThrough(std::span<Query> queries) const
+{
+    if (hasWideLanes())
+        lookThroughInWideLanes(queries);
+    else
+        lookThroughBundles(queries);
+}
+
+std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,
+                                                            std::size_t most) const
+{
+    std::vector<Query> queries;
+    queries.reserve(directions.size());
+    for (const Direction& direction : directions)
+        queries.emplace_back(direction, most, *this);
+    lookThrough(queries);
     std::vector<std::vector<Near>> found;
     for (Query& query : queries) {
         keepNearest(query.found, most);

@@ -32,11 +32,11 @@ public:
                                                       std::size_t most) const;
 
 private:
-    static constexpr std::size_t kStart = 32; ///< numbers that are looked at first
+    static constexpr std::size_t kStart = 36; ///< numbers that are looked at first
     static constexpr std::size_t kHead = 48;
     static constexpr std::size_t kRests = 4;
     static constexpr std::size_t kNumbers = kHead + 1 + kRests;
-    static constexpr std::size_t kLanes = 8;
+    static constexpr std::size_t kLanes = 16;
     static constexpr std::size_t kTogether = 2 * kLanes;
     /// The start, the length of what follows it, the rest of the head, and the lengths of the rests.
     using Sketch = std::array<std::int16_t, kNumbers>;
@@ -44,10 +44,22 @@ private:
     using Bundle = std::array<std::array<std::int16_t, kTogether>, kNumbers>;
     struct Query;
 
-    [[nodiscard]] static Sketch sketchOf(const Direction& direction);
+    struct Rounded {
+        Sketch sketch{};
+        // How far rounding moved it.
+        float startMoved = 0; ///< the start and the length of what follows it
+        float moved = 0;      ///< all but that length
+    };
+
+    [[nodiscard]] static Rounded sketchOf(const Direction& direction);
+    void lookThrough(std::span<Query> queries) const;
+    void lookThroughBundles(std::span<Query> queries) const;
+    void lookThroughInWideLanes(std::span<Query> queries) const;
     void look(Query& query, std::size_t number) const;
 
     std::vector<Bundle> m_bundles;
+    float m_startMoved = 0; ///< at most
+    float m_moved = 0;      ///< at most
     std::vector<Direction> m_directions;
     std::vector<std::int32_t> m_squares; ///< of the directions' lengths
 };
