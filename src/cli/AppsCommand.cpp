@@ -22,11 +22,16 @@ namespace {
 std::vector<AppInfo> measuredApps(const std::stop_token& stop)
 {
     std::vector<AppInfo> apps = AppList::list(stop);
-    std::vector<std::int64_t> bytes(apps.size());
-    AppList::measure(
-        apps, [&](std::size_t index, std::int64_t size) { bytes[index] = size; }, stop);
-    for (std::size_t i = 0; i < apps.size(); ++i)
+    std::vector<std::optional<std::int64_t>> bytes(apps.size());
+    const auto into = [&bytes](std::size_t index, std::int64_t size) { bytes[index] = size; };
+    AppList::measure(apps, into, stop);
+    std::vector<std::optional<std::int64_t>> dataBytes(apps.size());
+    const auto intoData = [&dataBytes](std::size_t index, std::int64_t size) { dataBytes[index] = size; };
+    AppList::measureData(apps, intoData, stop);
+    for (std::size_t i = 0; i < apps.size(); ++i) {
         apps[i].size = bytes[i];
+        apps[i].dataSize = dataBytes[i];
+    }
     return apps;
 }
 
@@ -59,6 +64,8 @@ void printApps(const std::vector<AppInfo>& apps)
     using Kind = Table::Kind;
     Table table({{shown(CliTexts::kNameHeading), Kind::text},
                  {shown(CliTexts::kSizeHeading), Kind::number},
+                 {shown(CliTexts::kDataHeading), Kind::number},
+                 {shown(CliTexts::kLastUsedHeading), Kind::number},
                  {shown(CliTexts::kSourceHeading), Kind::text},
                  {shown(CliTexts::kPathHeading), Kind::path}});
     std::int64_t total = 0;
@@ -66,6 +73,8 @@ void printApps(const std::vector<AppInfo>& apps)
         total = checkedAdd(total, app.size.value_or(0));
         table.addRow({{PathText::forDisplay(app.name), Style::bold},
                       {Words::figures().bytes(app.size.value_or(0))},
+                      {app.dataSize.value_or(0) > 0 ? Words::figures().bytes(*app.dataSize) : std::string()},
+                      {app.lastUse ? Words::figures().date(app.lastUse->when) : std::string()},
                       {shown(kindOf(app.source)), Style::dim},
                       {Format::shownPath(app.path)}});
     }

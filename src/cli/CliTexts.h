@@ -163,6 +163,10 @@ inline constexpr Text kSafeHeading = messageIn("table heading", "Safe");
 inline constexpr Text kEntriesHeading = messageIn("table heading", "Entries");
 // TRANSLATORS: what a clean-up is called in `orlen restore`.
 inline constexpr Text kRecordHeading = messageIn("table heading", "Record");
+// TRANSLATORS: how much an application has stored.
+inline constexpr Text kDataHeading = messageIn("table heading", "Data");
+// TRANSLATORS: when an application was last used.
+inline constexpr Text kLastUsedHeading = messageIn("table heading", "Last used");
 inline constexpr Text kDateHeading = messageIn("table heading", "Date");
 inline constexpr Text kCleanUpHeading = messageIn("table heading", "Clean-up");
 inline constexpr Text kItemsHeading = messageIn("table heading", "Items");

@@ -317,6 +317,11 @@ Json apps(const std::vector<AppInfo>& apps)
         Json document = {{"path", app.path}, {"name", app.name}, {"bundleID", app.bundleID}};
         if (app.size)
             document["size"] = *app.size;
+        if (app.dataSize)
+            document["dataSize"] = *app.dataSize;
+        if (app.lastUse)
+            document[app.lastUse->source == AppUse::Source::desktop ? "lastUsed" : "lastRead"] =
+                isoText(app.lastUse->when);
         return document;
     });
 }

@@ -1,5 +1,6 @@
 #include "recognition/FileTraits.h"
 
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -50,6 +51,25 @@ PictureTraits FileTraits::of(const VipsPicture::Image& header)
     for (const char* field : {"palette-bit-depth", "palette"})
         traits.hasPalette = traits.hasPalette || vips_image_get_typeof(header.get(), field) != 0;
     return traits;
+}
+
+bool FileTraits::isThumbnail(const VipsPicture::Image& header, std::int64_t madeOf)
+{
+    // The fields of a PNG file are named "png-comment-0-Thumb::MTime" and so on.
+    struct Wanted {
+        std::string time;
+        bool isFound = false;
+    };
+    Wanted wanted{std::to_string(madeOf)};
+    const auto look = [](VipsImage* image, const char* name, GValue* /*value*/, void* about) -> void* {
+        const char* text = nullptr;
+        if (std::string_view(name).ends_with("-Thumb::MTime") &&
+            vips_image_get_string(image, name, &text) == 0 && static_cast<Wanted*>(about)->time == text)
+            static_cast<Wanted*>(about)->isFound = true;
+        return nullptr;
+    };
+    vips_image_map(header.get(), look, &wanted);
+    return wanted.isFound;
 }
 
 bool FileTraits::isDrawnInLines(const VipsPicture::Image& header)

@@ -194,6 +194,8 @@ std::optional<Decoded> decodeOther(int descriptor, const PictureBound& bound, Pi
         decoded.isSideways = vips_image_get_orientation_swap(header.get()) != 0;
         decoded.traits = FileTraits::of(header);
         isDrawing = FileTraits::isDrawnInLines(header);
+        if (bound.madeOf && !FileTraits::isThumbnail(header, *bound.madeOf))
+            return std::nullopt;
         decoded.pages = use == PictureUse::page ? vips_image_get_n_pages(header.get()) : 0;
     }
     if (!ImageLimits::allow(decoded.width, decoded.height) || (isDrawing && use == PictureUse::photo))
@@ -259,6 +261,8 @@ std::optional<Decoded> decode(int descriptor, const PictureBound& bound, Picture
         vips_error_clear();
         return part;
     }
+    if (isBmp(*start) && bound.madeOf)
+        return std::nullopt;
     auto decoded = isBmp(*start) ? decodeBmp(descriptor, bound, use) : decodeOther(descriptor, bound, use);
     vips_error_clear();
     if (decoded)

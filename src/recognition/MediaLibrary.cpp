@@ -3,6 +3,7 @@
 #include "platform/files/FileContent.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <dlfcn.h>
 #include <span>
@@ -77,7 +78,7 @@ std::string utf8(const wchar_t* text)
     constexpr std::size_t kLongestLetter = 4;
     std::string bytes;
     for (; text != nullptr && *text != L'\0' && bytes.size() + kLongestLetter <= kMostBytes; ++text) {
-        const auto letter = static_cast<std::uint32_t>(*text);
+        const auto letter = std::bit_cast<std::uint32_t>(*text);
         const bool isLetter = letter < 0xd800 || (letter > 0xdfff && letter <= 0x10ffff);
         append(bytes, isLetter ? letter : 0xfffd);
     }

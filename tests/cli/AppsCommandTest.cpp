@@ -45,9 +45,13 @@ TEST(AppsCommandTest, theApplicationsAreListedWithTheirSizes)
 {
     const InstalledHome home;
     home.file("opt/b\x1b[31mox/AppRun");
+    home.file(".local/share/gnome-shell/application_state",
+              "<application-state><context id=''><application id='org.fooqux.Fooqux.desktop' "
+              "last-seen='1577880000'/></context></application-state>");
     const Json apps = orlen({"apps", "--json"}).document();
     const Json image = {
-        {"path", home.installed}, {"name", "Foo Qux"}, {"bundleID", "org.fooqux.Fooqux"}, {"size", 4 * kKiB}};
+        {"path", home.installed}, {"name", "Foo Qux"},    {"bundleID", "org.fooqux.Fooqux"},
+        {"size", 4 * kKiB},       {"dataSize", 8 * kKiB}, {"lastUsed", "2020-01-01T12:00:00Z"}};
     bool isListed = false;
     for (const Json& app : apps)
         isListed = isListed || app.dump() == image.dump();
@@ -56,7 +60,7 @@ TEST(AppsCommandTest, theApplicationsAreListedWithTheirSizes)
     const Process::Outcome outcome = orlen({"apps"});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.out, HasSubstr("Foo Qux"));
-    EXPECT_THAT(outcome.out, HasSubstr("AppImage  ~/Applications/Fooqux-1.0.AppImage\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("1/1/20  AppImage  ~/Applications/Fooqux-1.0.AppImage\n"));
     EXPECT_THAT(outcome.out, HasSubstr("b?[31mox"));
     EXPECT_EQ(orlen({"apps", "extra"}).status, 2);
 }

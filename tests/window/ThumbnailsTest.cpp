@@ -3,16 +3,21 @@
 #include "app/EventLoop.h"
 #include "support/TempHome.h"
 #include "window/lists/PathCode.h"
+#include "window/preview/FilePreview.h"
 #include "window/preview/PictureReader.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImage>
 #include <QQuickTextureFactory>
 #include <QSignalSpy>
 
 #include <array>
+#include <filesystem>
 
 namespace orlen {
 
@@ -42,6 +47,25 @@ std::string turnedPicture(const QSize& size)
                                                     0x01, 0x00, 0x06, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};
     std::string bytes = pictureBytes(size, "jpeg");
     return bytes.insert(2, std::string(kTurned.begin(), kTurned.end()));
+}
+
+/// Stores a thumbnail of the file like a file manager, in one colour.
+void keepThumbnail(const TempHome& home, const std::string& file, const std::string& name, int side,
+                   Qt::GlobalColor colour)
+{
+    QImage image(side, side / 2, QImage::Format_RGB32);
+    image.fill(colour);
+    const qint64 changed = QFileInfo(QString::fromStdString(file)).lastModified().toSecsSinceEpoch();
+    image.setText(QStringLiteral("Thumb::URI"), QStringLiteral("not looked at"));
+    image.setText(QStringLiteral("Thumb::MTime"), QString::number(changed));
+    const QByteArray md5 =
+        QCryptographicHash::hash(QByteArray::fromStdString(name), QCryptographicHash::Md5).toHex();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, "png");
+    home.file(".cache/thumbnails/" + std::string(side > 128 ? "large/" : "normal/") + md5.toStdString() +
+                  ".png",
+              bytes.toStdString());
 }
 
 QImage answered(Thumbnails& thumbnails, const QString& source, const QSize& size)
@@ -122,6 +146,38 @@ TEST(ThumbnailsTest, goesByTheContentAndRefusesTheRest)
     }
     EXPECT_TRUE(Thumbnails::source(home.path("letter.txt")).isEmpty());
     EXPECT_TRUE(answered(thumbnails, "image://thumbnail/999999", {40, 40}).isNull());
+}
+
+TEST(ThumbnailsTest, whatAFileManagerHasDrawnIsShownWhileItIsOfTheFile)
+{
+    const TempHome home;
+    Thumbnails thumbnails;
+    const std::string film = home.file("my film; [1].mkv", "not looked at");
+    const auto shown = [&](const QSize& size) {
+        return answered(thumbnails, Thumbnails::source(film), size);
+    };
+    EXPECT_TRUE(shown({40, 40}).isNull());
+    // One desktop escapes these, another does not.
+    keepThumbnail(home, film, "file://" + home.path("my%20film%3B%20%5B1%5D.mkv"), 128, Qt::red);
+    EXPECT_EQ(shown({41, 41}).size(), QSize(41, 41));
+    keepThumbnail(home, film, "file://" + home.path("my%20film;%20[1].mkv"), 256, Qt::blue);
+    EXPECT_EQ(shown({42, 42}).pixelColor(9, 9), QColor(Qt::red)) << "large enough";
+    const auto whole = answered(thumbnails, Thumbnails::sourceOfKept(film), {300, 300});
+    EXPECT_EQ(whole.size(), QSize(256, 128));
+    EXPECT_EQ(whole.pixelColor(9, 9), QColor(Qt::blue));
+
+    const std::string letter = home.file("letter.odt", std::string("PK\3\4\0", 5));
+    EXPECT_TRUE(FilePreview::of(letter, {}).thumbnail.isEmpty());
+    keepThumbnail(home, letter, "file://" + letter, 128, Qt::red);
+    const FilePreview preview = FilePreview::of(letter, {});
+    EXPECT_EQ(preview.thumbnail, QSize(128, 64));
+
+    TempHome::setTimes(film, *timeFromIso("2024-05-01T10:00:00Z"), *timeFromIso("2024-05-01T10:00:00Z"));
+    EXPECT_TRUE(shown({43, 43}).isNull()) << "of what the film was before";
+    const std::string kept = home.path(".cache/thumbnails");
+    std::filesystem::rename(kept, home.path("elsewhere"));
+    home.link(".cache/thumbnails", home.path("elsewhere"));
+    EXPECT_TRUE(FilePreview::of(letter, {}).thumbnail.isEmpty()) << "behind a link";
 }
 
 TEST(ThumbnailsTest, outlivesNobodyAndIsOutlivedByNone)

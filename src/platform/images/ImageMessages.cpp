@@ -21,6 +21,7 @@ constexpr std::uint8_t kPart = 3; ///< a small picture of a part
 constexpr std::uint8_t kArchive = 4;
 constexpr std::uint8_t kPage = 5;
 constexpr std::uint8_t kMedia = 6;
+constexpr std::uint8_t kThumbnail = 7; ///< a small picture of a thumbnail
 constexpr std::uint8_t kNoPicture = 0;
 constexpr std::uint8_t kPicture = 1;
 constexpr std::uint8_t kNoPrint = 0;
@@ -166,6 +167,8 @@ std::uint8_t kindOf(const Question& question)
         return kAnalysis;
     if (question.use != PictureUse::photo)
         return question.use == PictureUse::icon ? kIcon : kPage;
+    if (question.bound->madeOf)
+        return kThumbnail;
     return question.bound->part ? kPart : kSmallPicture;
 }
 
@@ -192,6 +195,8 @@ std::string encoded(const Question& question)
         put(writer, PixelSize{part.x, part.y});
         put(writer, PixelSize{part.width, part.height});
     }
+    if (kind == kThumbnail)
+        writer.put(std::int64_t{*question.bound->madeOf});
     return writer.bytes();
 }
 
@@ -199,16 +204,18 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
 {
     MessageReader reader(bytes);
     Question question;
-    const auto kind = reader.get<std::uint8_t>(kAnalysis, kMedia);
+    const auto kind = reader.get<std::uint8_t>(kAnalysis, kThumbnail);
     question.isAboutArchive = kind == kArchive;
     question.isAboutMedia = kind == kMedia;
     if (kind != kAnalysis && kind != kArchive && kind != kMedia) {
         const PixelSize wanted = size(reader, {kLongestSide, kLongestSide});
-        const std::uint8_t lastFit = kind == kSmallPicture ? 1 : 0;
+        const std::uint8_t lastFit = kind == kSmallPicture || kind == kThumbnail ? 1 : 0;
         const auto fit = static_cast<PictureBound::Fit>(reader.get<std::uint8_t>(0, lastFit));
         question = {PictureBound{wanted, fit}, useOf(kind)};
         if (kind == kPart)
             question.bound->part = part(reader);
+        if (kind == kThumbnail)
+            question.bound->madeOf = reader.get<std::int64_t>();
     }
     return reader.isValidWhole() ? std::optional(question) : std::nullopt;
 }

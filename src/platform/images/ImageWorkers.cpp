@@ -194,7 +194,8 @@ std::optional<SmallPicture> ImageWorkers::read(const std::string& path, const Pi
     const PictureBound allowed{{std::min(bound.size.width, ImageMessages::kLongestSide),
                                 std::min(bound.size.height, ImageMessages::kLongestSide)},
                                bound.fit,
-                               bound.part};
+                               bound.part,
+                               bound.madeOf};
     const auto& pool = use == PictureUse::page ? m_pages : m_pictures;
     return pool->told(
         path, [&](ImageWorker& worker, int file) { return worker.smallPicture(file, allowed, use, stop); },

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 namespace orlen {
@@ -36,9 +37,11 @@ struct PictureBound {
     Fit fit = Fit::inside;
     /// Only this part is wanted, fitted into the size; absent: all of the picture.
     std::optional<PixelRect> part = std::nullopt;
+    /// Only a thumbnail is wanted, made of a file that was last changed then, in seconds since 1970.
+    std::optional<std::int64_t> madeOf = std::nullopt;
 
     /// The same for a picture stored sideways.
-    [[nodiscard]] PictureBound turned() const { return {{size.height, size.width}, fit, part}; }
+    [[nodiscard]] PictureBound turned() const { return {{size.height, size.width}, fit, part, madeOf}; }
     /// The size the whole picture must be shrunk to fit into.
     [[nodiscard]] PixelSize box(PixelSize picture) const;
     /// How much of the middle of a shrunk picture is shown.

@@ -1,5 +1,6 @@
 #include "tools/apps/LastUse.h"
 
+#include "platform/desktop/ActivityUsage.h"
 #include "platform/desktop/RecentDocuments.h"
 #include "platform/desktop/ShellUsage.h"
 #include "platform/files/FileStatus.h"
@@ -36,14 +37,28 @@ std::vector<std::string> launcherNames(const AppInfo& app)
     return names;
 }
 
-std::optional<TimePoint> noted(const AppInfo& app, const ShellUsage& usage, const RecentDocuments& recent)
+/// What desktops and programs have noted.
+struct Notes {
+    explicit Notes(const Places& places)
+        : windows(ShellUsage::ofUser(places)), activities(ActivityUsage::ofUser(places)),
+          recent(RecentDocuments::ofUser(places))
+    {
+    }
+
+    ShellUsage windows;
+    ActivityUsage activities;
+    RecentDocuments recent;
+};
+
+std::optional<TimePoint> noted(const AppInfo& app, const Notes& notes)
 {
+    const RecentDocuments& recent = notes.recent;
     std::optional<TimePoint> latest = recent.lastUse(std::string(PathText::lastComponent(app.path)));
     // A bare name may be that of another program.
     if (AppNames::isIdentifier(app.bundleID))
         latest = std::max(latest, recent.lastUse(app.bundleID));
     for (const std::string& name : launcherNames(app))
-        latest = std::max(latest, usage.lastSeen(name));
+        latest = std::max({latest, notes.windows.lastSeen(name), notes.activities.lastUse(name)});
     return latest;
 }
 
@@ -91,12 +106,10 @@ std::optional<TimePoint> lastRead(const std::string& path, const MountTable& mou
 
 void note(std::span<AppInfo> apps)
 {
-    const Places& places = Places::current();
-    const ShellUsage usage = ShellUsage::ofUser(places);
-    const RecentDocuments recent = RecentDocuments::ofUser(places);
+    const Notes notes(Places::current());
     const auto mounts = CurrentMounts::table();
     for (AppInfo& app : apps) {
-        if (const auto when = noted(app, usage, recent))
+        if (const auto when = noted(app, notes))
             app.lastUse = AppUse{*when, AppUse::Source::desktop};
         std::optional<TimePoint> read;
         for (const std::string& program : programsOf(app))

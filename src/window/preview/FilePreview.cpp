@@ -106,6 +106,16 @@ void readArchive(FilePreview& preview, const std::string& path, const std::stop_
     preview.nameCount = std::ssize(preview.names);
 }
 
+void readThumbnail(FilePreview& preview, const std::string& path, const std::stop_token& stop)
+{
+    using enum FilePreview::Kind;
+    if (preview.kind != media && preview.kind != other && preview.kind != damaged)
+        return;
+    // Of the largest; only the size is needed.
+    if (const auto kept = PictureReader::thumbnail(path, {1'024, 1'024}, PictureReader::Fit::inside, stop))
+        preview.thumbnail = kept->whole;
+}
+
 void readFile(FilePreview& preview, const std::string& path, std::int64_t length, const std::stop_token& stop)
 {
     if (PictureReader::looksReadable(path)) {
@@ -129,6 +139,7 @@ void readFile(FilePreview& preview, const std::string& path, std::int64_t length
     const bool isNoMedia = preview.kind == FilePreview::Kind::damaged && PictureReader::looksLikeMedia(path);
     if (isNoMedia || preview.kind == FilePreview::Kind::other)
         readText(preview, file.value(), length);
+    readThumbnail(preview, path, stop);
 }
 
 FilePreview::Name nameOf(int folder, const std::string& name)

@@ -42,7 +42,8 @@ struct FilePreview {
     QSize pixels;  ///< of a picture; of a page, in points
     int pages = 0; ///< of a document
     MediaFacts media;
-    QString text;               ///< the beginning of a text file
+    QSize thumbnail; ///< of that which a file manager has made of a file that cannot be shown; empty: none
+    QString text;    ///< the beginning of a text file
     std::vector<Name> names;    ///< of a folder's first items: folders first, then by name; of an archive's
     std::int64_t nameCount = 0; ///< number of all items in a folder
     bool isCut = false;         ///< whether the text or the names are incomplete

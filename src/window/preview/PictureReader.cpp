@@ -1,10 +1,13 @@
 #include "window/preview/PictureReader.h"
 
+#include "platform/files/FileStatus.h"
 #include "platform/images/ImageWorkers.h"
 #include "platform/text/PathText.h"
+#include "window/preview/KeptThumbnails.h"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace orlen::PictureReader {
 
@@ -22,6 +25,11 @@ constexpr std::array<std::string_view, 43> kMedia{
     "mka", "mp3",  "mpc", "oga",  "ogg", "opus", "spx", "tta", "wav",  "wma", "wv",
     "3gp", "asf",  "avi", "divx", "flv", "m2ts", "m2v", "m4v", "mkv",  "mov", "mp4",
     "mpe", "mpeg", "mpg", "mts",  "ogm", "ogv",  "ts",  "vob", "webm", "wmv"};
+/// Documents, drawings, and photos as cameras have taken them.
+constexpr std::array<std::string_view, 33> kDrawn{
+    "ai",   "arw", "cbr", "cbz", "cr2", "cr3", "djvu", "dng", "doc", "docx", "eps",
+    "epub", "nef", "odg", "odp", "ods", "odt", "orf",  "pdf", "pps", "ppt",  "pptx",
+    "ps",   "psd", "raf", "rtf", "rw2", "svg", "svgz", "xcf", "xls", "xlsx", "xps"};
 /// Packed, and perhaps an archive: told by what stands before.
 constexpr std::array<std::string_view, 3> kPacked{"gz", "zst", "lz4"};
 
@@ -43,6 +51,19 @@ QImage imageOf(const RgbImage& pixels)
     const QImage shared(pixels.pixels.data(), pixels.width, pixels.height, pixels.width * kBytes,
                         QImage::Format_RGB888);
     return shared.convertToFormat(QImage::Format_RGB32); // a deep copy, in the format that is drawn
+}
+
+PictureBound boundOf(const QSize& bound, Fit fit)
+{
+    return {{bound.width(), bound.height()},
+            fit == Fit::cover ? PictureBound::Fit::cover : PictureBound::Fit::inside};
+}
+
+std::optional<Picture> pictureOf(const std::optional<SmallPicture>& picture)
+{
+    if (!picture)
+        return std::nullopt;
+    return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
 }
 
 } // namespace
@@ -93,27 +114,40 @@ std::optional<ArchiveContents> archive(const std::string& path, const std::stop_
 
 std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit, const std::stop_token& stop)
 {
-    const auto picture =
-        workers().smallPicture(path,
-                               {{bound.width(), bound.height()},
-                                fit == Fit::cover ? PictureBound::Fit::cover : PictureBound::Fit::inside},
-                               stop);
-    if (!picture)
+    return pictureOf(workers().smallPicture(path, boundOf(bound, fit), stop));
+}
+
+bool looksThumbnailed(std::string_view path)
+{
+    const std::string extension = PathText::asciiLower(PathText::extension(path));
+    return looksLikeMedia(path) || std::ranges::find(kDrawn, extension) != kDrawn.end();
+}
+
+std::optional<Picture> thumbnail(const std::string& path, const QSize& bound, Fit fit,
+                                 const std::stop_token& stop)
+{
+    const auto status = statusOf(path);
+    if (!status.ok() || status.value().type != FileType::regular)
         return std::nullopt;
-    return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
+    PictureBound wanted = boundOf(bound, fit);
+    wanted.madeOf =
+        std::chrono::floor<std::chrono::seconds>(status.value().modified).time_since_epoch().count();
+    for (const std::string& file :
+         KeptThumbnails::candidates(path, std::max(bound.width(), bound.height()))) {
+        if (auto picture = pictureOf(workers().smallPicture(file, wanted, stop)))
+            return picture;
+    }
+    return std::nullopt;
 }
 
 std::optional<Picture> readPart(const std::string& path, const QRect& part, const QSize& bound,
                                 const std::stop_token& stop)
 {
-    const auto picture = workers().smallPicture(path,
-                                                {{bound.width(), bound.height()},
-                                                 PictureBound::Fit::inside,
-                                                 PixelRect{part.x(), part.y(), part.width(), part.height()}},
-                                                stop);
-    if (!picture)
-        return std::nullopt;
-    return Picture{imageOf(picture->image), {picture->whole.width, picture->whole.height}};
+    return pictureOf(workers().smallPicture(path,
+                                            {{bound.width(), bound.height()},
+                                             PictureBound::Fit::inside,
+                                             PixelRect{part.x(), part.y(), part.width(), part.height()}},
+                                            stop));
 }
 
 std::optional<Traits> traits(const std::string& path, const std::stop_token& stop)

@@ -58,6 +58,13 @@ struct Page {
 [[nodiscard]] std::optional<Picture> read(const std::string& path, const QSize& bound, Fit fit,
                                           const std::stop_token& stop);
 
+/// Whether the name looks like that of a file of which file managers make thumbnails, and that is not read
+/// itself to show one.
+[[nodiscard]] bool looksThumbnailed(std::string_view path);
+/// The thumbnail that a file manager made of the file as it is now; likewise.
+[[nodiscard]] std::optional<Picture> thumbnail(const std::string& path, const QSize& bound, Fit fit,
+                                               const std::stop_token& stop);
+
 /// A part of the picture, in its upright pixels, scaled down to fit into `bound` pixels. Likewise; nothing
 /// for a part that lies beside it.
 [[nodiscard]] std::optional<Picture> readPart(const std::string& path, const QRect& part, const QSize& bound,

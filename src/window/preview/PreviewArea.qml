@@ -143,8 +143,30 @@ Rectangle {
         visible: root.isBare
         spacing: Theme.spaceL
 
+        Image {
+            id: kept
+
+            readonly property size whole: root.preview.thumbnailSize
+            readonly property real scaling: Math.min(1, parent.width / Math.max(1, kept.whole.width),
+                                                     Math.max(64, root.height - 160) / Math.max(1, kept.whole.height))
+
+            objectName: "previewThumbnail"
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.round(kept.whole.width * kept.scaling)
+            height: Math.round(kept.whole.height * kept.scaling)
+            visible: root.preview.thumbnail !== ""
+            asynchronous: true
+            cache: false
+            fillMode: Image.PreserveAspectFit
+            sourceSize: Qt.size(kept.whole.width, kept.whole.height)
+            source: root.preview.thumbnail
+            Accessible.role: Accessible.Graphic
+            Accessible.name: root.preview.name
+        }
+
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: !kept.visible
             name: root.preview.symbol
             colour: Theme.tertiary
             size: 72
@@ -160,7 +182,8 @@ Rectangle {
                   : root.preview.kind === PreviewModel.Damaged ? Strings.previewDamaged
                   : root.preview.kind === PreviewModel.Media ? root.preview.tags
                   : root.preview.kind === PreviewModel.Archive ? Strings.emptyArchive
-                  : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder : Strings.noPreview
+                  : root.preview.kind === PreviewModel.Folder ? Strings.emptyFolder
+                  : kept.visible ? "" : Strings.noPreview
             color: Theme.secondary
         }
     }

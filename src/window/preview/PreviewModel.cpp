@@ -50,6 +50,11 @@ QString PreviewModel::picture() const
     return m_kind == Picture ? Thumbnails::source(m_path) + QStringLiteral("/inside") : QString();
 }
 
+QString PreviewModel::thumbnail() const
+{
+    return m_preview.thumbnail.isEmpty() ? QString() : Thumbnails::sourceOfKept(m_path);
+}
+
 QString PreviewModel::tags() const
 {
     return MediaTexts::tags(m_preview.media);

@@ -29,6 +29,10 @@ class PreviewModel : public orlen::RowsModel {
     /// Of the whole picture, or of a page in points; empty for anything else.
     Q_PROPERTY(QSizeF pixels READ pixels NOTIFY changed)
     Q_PROPERTY(QString text READ text NOTIFY changed)
+    /// Source of the thumbnail that a file manager has made of a file that cannot be shown; may be empty.
+    Q_PROPERTY(QString thumbnail READ thumbnail NOTIFY changed)
+    /// Its size in pixels.
+    Q_PROPERTY(QSizeF thumbnailSize READ thumbnailSize NOTIFY changed)
     /// Title, artist and album of a sound file, one below the other.
     Q_PROPERTY(QString tags READ tags NOTIFY changed)
     /// What a film and its sound tracks are made of, one below the other:
@@ -78,6 +82,8 @@ public:
     [[nodiscard]] QString picture() const;
     [[nodiscard]] QSizeF pixels() const { return QSizeF(m_preview.pixels); }
     [[nodiscard]] QString text() const { return m_preview.text; }
+    [[nodiscard]] QString thumbnail() const;
+    [[nodiscard]] QSizeF thumbnailSize() const { return QSizeF(m_preview.thumbnail); }
     [[nodiscard]] QString tags() const;
     [[nodiscard]] QString streams() const;
     [[nodiscard]] QString facts() const;

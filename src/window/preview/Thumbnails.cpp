@@ -20,6 +20,7 @@ constexpr QSize kLargest{4096, 4096};
 constexpr int kPartAt = 2; ///< section of its first number
 const QString kPart = QStringLiteral("part");
 const QString kPage = QStringLiteral("page");
+const QString kKept = QStringLiteral("kept");
 const QString kInside = QStringLiteral("inside");
 
 QString sourceOf(const std::string& path)
@@ -79,10 +80,11 @@ private:
 
     [[nodiscard]] QImage pictureOf(const std::string& path) const
     {
-        const bool isInside = m_id.section(u'/', 1, 1) == kInside;
-        auto picture = PictureReader::read(path, m_size,
-                                           isInside ? PictureReader::Fit::inside : PictureReader::Fit::cover,
-                                           m_thumbnails.m_stop.get_token());
+        using enum PictureReader::Fit;
+        const auto fit = m_id.endsWith(kInside) ? inside : cover;
+        const std::stop_token stop = m_thumbnails.m_stop.get_token();
+        auto picture = m_id.section(u'/', 1, 1) == kKept ? PictureReader::thumbnail(path, m_size, fit, stop)
+                                                         : PictureReader::read(path, m_size, fit, stop);
         return picture ? std::move(picture->image) : QImage();
     }
 
@@ -105,7 +107,15 @@ Thumbnails::~Thumbnails()
 
 QString Thumbnails::source(const std::string& path)
 {
-    return PictureReader::looksReadable(path) ? sourceOf(path) : QString();
+    if (PictureReader::looksReadable(path))
+        return sourceOf(path);
+    return PictureReader::looksThumbnailed(path) ? QStringLiteral("%1/%2").arg(sourceOf(path), kKept)
+                                                 : QString();
+}
+
+QString Thumbnails::sourceOfKept(const std::string& path)
+{
+    return QStringLiteral("%1/%2/%3").arg(sourceOf(path), kKept, kInside);
 }
 
 QString Thumbnails::sourceOfPage(const std::string& path)

@@ -14,7 +14,8 @@ namespace orlen {
 /// Thumbnails of the user's pictures, decoded off the main thread at the size they are shown:
 /// "image://thumbnail/PATH" crops the middle of the picture to the shape of `sourceSize`,
 /// "image://thumbnail/PATH/inside" fits the whole picture into it, "image://thumbnail/PATH/part/X/Y/W/H" that
-/// part of it, which is not cached, and "image://thumbnail/PATH/page" the first page of a document. PATH is a
+/// part of it, which is not cached, "image://thumbnail/PATH/page" the first page of a document, and
+/// "image://thumbnail/PATH/kept" and ".../kept/inside" the thumbnail that a file manager has made. PATH is a
 /// `PathCode`. A request whose image item is gone is dropped, and reading a part for it stops. An unreadable
 /// picture has no pixels: the item is then `Ready` with an `implicitWidth` of 0, and whatever is below it
 /// shows through. The latest 64 MB are cached.
@@ -25,9 +26,12 @@ public:
     Thumbnails();
     ~Thumbnails() override;
 
-    /// The source for an image item; empty when the name is not a picture's. Any thread; does not touch the
-    /// disk.
+    /// The source for an image item: of a picture, or of what a file manager may have made a thumbnail of;
+    /// empty for other names. Any thread; does not touch the disk.
     [[nodiscard]] static QString source(const std::string& path);
+
+    /// The source of the whole thumbnail that a file manager has made.
+    [[nodiscard]] static QString sourceOfKept(const std::string& path);
 
     /// The source of the first page of a document.
     [[nodiscard]] static QString sourceOfPage(const std::string& path);

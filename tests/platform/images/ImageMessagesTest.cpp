@@ -115,6 +115,12 @@ TEST(ImageMessagesTest, aQuestionIsHeardAsItWasPut)
     for (const PixelRect& rect :
          {PixelRect{-1, 0, 5, 5}, PixelRect{0, 0, 0, 5}, PixelRect{0, 0, 5, 2'000'000}})
         EXPECT_FALSE(part(rect)) << rect.x << ' ' << rect.width << ' ' << rect.height;
+    PictureBound kept{{8, 8}, PictureBound::Fit::cover};
+    kept.madeOf = -1'700'000'000;
+    const auto thumbnail = decodedQuestion(encoded(Question{kept}));
+    ASSERT_TRUE(thumbnail && thumbnail->bound);
+    EXPECT_EQ(thumbnail->bound->madeOf, kept.madeOf);
+    EXPECT_EQ(thumbnail->bound->fit, PictureBound::Fit::cover);
     EXPECT_FALSE(decodedQuestion(""));
     EXPECT_FALSE(decodedQuestion(encoded(Question{}) + '\0'));
 }
