@@ -1,5 +1,6 @@
 #include "app/FindingLists.h"
 
+#include "app/AppTexts.h"
 #include "model/PathSelection.h"
 #include "model/Rater.h"
 #include "platform/text/PathText.h"
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <unordered_map>
 #include <utility>
 
 namespace orlen::FindingLists {
@@ -97,6 +99,29 @@ std::vector<Finding> findingOf(FindingKind kind, std::vector<FileEntry> entries)
     std::vector<Finding> finding = Rater::rate({Finding(kind, {})});
     finding.front().items = Finding(kind, std::move(entries)).items;
     return finding;
+}
+
+void noteKept(std::vector<Finding>& findings, const std::vector<const Finding*>& all)
+{
+    std::unordered_map<std::string, Text> kept;
+    for (const Finding* finding : all) {
+        const bool isPhotos = finding->kind == FindingKind::photoDuplicates;
+        for (const FileEntry& entry : finding->items) {
+            if (entry.kept)
+                kept.try_emplace(entry.kept->path,
+                                 isPhotos ? AppTexts::kKeptOfSimilar : AppTexts::kKeptOfIdentical);
+        }
+    }
+    const auto isNote = [](const Message& note) {
+        return note.text == AppTexts::kKeptOfIdentical || note.text == AppTexts::kKeptOfSimilar;
+    };
+    for (Finding& finding : findings) {
+        for (FileEntry& entry : finding.items) {
+            std::erase_if(entry.notes, isNote);
+            if (const auto found = kept.find(entry.path); found != kept.end())
+                addNote(entry, found->second);
+        }
+    }
 }
 
 void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken)

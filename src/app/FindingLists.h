@@ -28,6 +28,9 @@ namespace orlen::FindingLists {
 [[nodiscard]] bool isIn(const std::set<std::string>& paths, std::string_view path);
 /// The finding of these entries, which are rated already; none without entries.
 [[nodiscard]] std::vector<Finding> findingOf(FindingKind kind, std::vector<FileEntry> entries);
+/// Has entries that are the kept files of the sets in `all` say so where they are listed for another reason,
+/// and others no longer.
+void noteKept(std::vector<Finding>& findings, const std::vector<const Finding*>& all);
 /// Puts the entries back among the findings that they were taken from.
 void giveBack(std::vector<Finding>& findings, std::vector<Finding> taken);
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 namespace orlen {
@@ -101,12 +100,17 @@ const std::set<std::string>& FoundEntries::safePaths() const
     return *m_safe;
 }
 
+std::vector<const Finding*> FoundEntries::everything() const
+{
+    std::vector<const Finding*> all;
+    for (const std::vector<Finding>* some : {&m_findings, &m_excluded, &m_references})
+        std::ranges::transform(*some, std::back_inserter(all), [](const Finding& one) { return &one; });
+    return all;
+}
+
 std::vector<CopySet> FoundEntries::sets() const
 {
-    std::vector<const Finding*> findings;
-    for (const std::vector<Finding>* some : {&m_findings, &m_excluded, &m_references})
-        std::ranges::transform(*some, std::back_inserter(findings), [](const Finding& one) { return &one; });
-    return CopySets::of(findings);
+    return CopySets::of(everything());
 }
 
 const KeptTies& FoundEntries::ties() const
@@ -140,8 +144,8 @@ void FoundEntries::divide(const Exclusions& exclusions, std::set<std::string> se
     FindingLists::giveBack(m_findings, std::exchange(m_excluded, {}));
     m_excluded = exclusions.takeFrom(m_findings);
     std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
+    FindingLists::noteKept(m_findings, everything());
     forgetListed();
-    noteKept();
 
     m_excludedSelection.clear();
     for (const Finding& finding : m_excluded) {
@@ -153,32 +157,6 @@ void FoundEntries::divide(const Exclusions& exclusions, std::set<std::string> se
     // Something inside a folder may have been deselected while the folder was excluded.
     PathSelection::dropOpenFolders(selection, listed());
     setSelection(std::move(selection));
-}
-
-/// A kept file that is listed for another reason says that it is one.
-void FoundEntries::noteKept()
-{
-    const auto isNote = [](const Message& note) {
-        return note.text == AppTexts::kKeptOfIdentical || note.text == AppTexts::kKeptOfSimilar;
-    };
-    std::unordered_map<std::string, Text> kept;
-    for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references}) {
-        for (const Finding& finding : *findings) {
-            const bool isPhotos = finding.kind == FindingKind::photoDuplicates;
-            for (const FileEntry& entry : finding.items) {
-                if (entry.kept)
-                    kept.try_emplace(entry.kept->path,
-                                     isPhotos ? AppTexts::kKeptOfSimilar : AppTexts::kKeptOfIdentical);
-            }
-        }
-    }
-    for (Finding& finding : m_findings) {
-        for (FileEntry& entry : finding.items) {
-            std::erase_if(entry.notes, isNote);
-            if (const auto found = kept.find(entry.path); found != kept.end())
-                addNote(entry, found->second);
-        }
-    }
 }
 
 std::set<std::string> FoundEntries::everythingSelected() const
@@ -222,8 +200,8 @@ void FoundEntries::remove(const std::set<std::string>& places)
         std::erase_if(finding.items,
                       [&](const FileEntry& entry) { return MovedEntries::isAbout(entry, places); });
     std::erase_if(m_references, [](const Finding& finding) { return finding.items.empty(); });
+    FindingLists::noteKept(m_findings, everything());
     forgetListed();
-    noteKept();
     setSelection(std::move(selection));
 }
 
@@ -242,32 +220,31 @@ void FoundEntries::replaceTrash(std::vector<Finding> trash, const Exclusions& ex
     divide(exclusions);
 }
 
-std::vector<FileEntry> FoundEntries::entries(FindingKind kind) const
+KeptCopies::Entries FoundEntries::entriesInSets() const
 {
-    std::vector<FileEntry> entries;
-    for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references}) {
-        const auto found = std::ranges::find(*findings, kind, &Finding::kind);
-        if (found != findings->end())
-            std::ranges::copy(found->items, std::back_inserter(entries));
-    }
+    KeptCopies::Entries entries;
+    for (const std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references})
+        KeptCopies::addEntries(entries, *findings);
     return entries;
 }
 
-void FoundEntries::take(KeptCopies::Chosen chosen, const Exclusions& exclusions)
+void FoundEntries::take(std::vector<KeptCopies::Chosen> all, const Exclusions& exclusions)
 {
-    for (std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references})
-        erase(*findings, chosen.kind);
-    std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.copies)),
-                      std::back_inserter(m_findings));
     std::set<std::string> selection = everythingSelected();
-    for (const KeptCopies::Chosen::Change& change : chosen.changes) {
-        if (selection.erase(change.kept) > 0 && !change.isTickedAlone)
-            selection.insert(change.former);
+    for (KeptCopies::Chosen& chosen : all) {
+        for (std::vector<Finding>* findings : {&m_findings, &m_excluded, &m_references})
+            erase(*findings, chosen.kind);
+        for (const KeptCopies::Chosen::Change& change : chosen.changes) {
+            if (selection.erase(change.kept) > 0 && !change.isTickedAlone)
+                selection.insert(change.former);
+        }
+        for (const FileEntry& reference : chosen.references)
+            selection.erase(reference.path);
+        std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.copies)),
+                          std::back_inserter(m_findings));
+        std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.references)),
+                          std::back_inserter(m_references));
     }
-    for (const FileEntry& reference : chosen.references)
-        selection.erase(reference.path);
-    std::ranges::move(FindingLists::findingOf(chosen.kind, std::move(chosen.references)),
-                      std::back_inserter(m_references));
     divide(exclusions, std::move(selection));
 }
 
@@ -277,8 +254,8 @@ void FoundEntries::take(const NewKeeper::Exchange& exchange, const FileEntry& fo
     NewKeeper::apply(m_excluded, exchange, former);
     NewKeeper::apply(m_moved.findings, exchange, former);
     std::ranges::stable_sort(m_findings, FindingLists::comesBefore);
+    FindingLists::noteKept(m_findings, everything());
     forgetListed();
-    noteKept();
     std::set<std::string> selection = m_selection;
     if (selection.erase(exchange.chosen.path) > 0 && !former.isTickedAlone)
         selection.insert(former.path);

@@ -69,10 +69,10 @@ public:
     void takeBack(MovedEntries missing, const Exclusions& exclusions);
     void replaceTrash(std::vector<Finding> trash, const Exclusions& exclusions);
 
-    /// All entries of a kind, whether they are offered or not.
-    [[nodiscard]] std::vector<FileEntry> entries(FindingKind kind) const;
+    /// The entries of sets, whether they are offered or not.
+    [[nodiscard]] KeptCopies::Entries entriesInSets() const;
     /// Takes another choice among those; where a selected copy is kept now, the former one is selected.
-    void take(KeptCopies::Chosen chosen, const Exclusions& exclusions);
+    void take(std::vector<KeptCopies::Chosen> all, const Exclusions& exclusions);
     /// Keeps another photo of its set, and lists the former one.
     void take(const NewKeeper::Exchange& exchange, const FileEntry& former);
 
@@ -81,7 +81,8 @@ private:
     void divide(const Exclusions& exclusions, std::set<std::string> selection);
     [[nodiscard]] std::set<std::string> everythingSelected() const;
     [[nodiscard]] const KeptTies& ties() const;
-    void noteKept();
+    /// Offered or not.
+    [[nodiscard]] std::vector<const Finding*> everything() const;
     void forgetListed();
 
     std::vector<Finding> m_findings;

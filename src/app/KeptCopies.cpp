@@ -8,6 +8,8 @@
 #include "scan/duplicates/Duplicates.h"
 #include "scan/duplicates/KeepOrder.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orlen::KeptCopies {
@@ -102,6 +104,28 @@ std::optional<Chosen> by(const KeepRule& rule, FindingKind kind, std::vector<Fil
     for (FileEntry& copy : copies)
         (choice.isReference(copy) ? chosen.references : chosen.copies).push_back(std::move(copy));
     return chosen;
+}
+
+void addEntries(Entries& entries, const std::vector<Finding>& findings)
+{
+    entries.resize(kKinds.size());
+    for (std::size_t number = 0; number < kKinds.size(); ++number) {
+        const auto found = std::ranges::find(findings, kKinds[number], &Finding::kind);
+        if (found != findings.end())
+            std::ranges::copy(found->items, std::back_inserter(entries[number]));
+    }
+}
+
+std::vector<Chosen> ofAll(const KeepRule& rule, const Entries& entries, const std::stop_token& stop)
+{
+    std::vector<Chosen> all;
+    for (std::size_t number = 0; number < entries.size(); ++number) {
+        auto chosen = by(rule, kKinds[number], entries[number], stop);
+        if (!chosen)
+            return {};
+        all.push_back(*std::move(chosen));
+    }
+    return all;
 }
 
 } // namespace orlen::KeptCopies

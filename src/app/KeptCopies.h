@@ -37,4 +37,13 @@ struct Chosen {
 [[nodiscard]] std::optional<Chosen> by(const KeepRule& rule, FindingKind kind, std::vector<FileEntry> copies,
                                        const std::stop_token& stop);
 
+/// Entries of each of those findings, in their order.
+using Entries = std::vector<std::vector<FileEntry>>;
+
+/// Adds those that the findings have. Pure.
+void addEntries(Entries& entries, const std::vector<Finding>& findings);
+/// What the rule chooses of each; none when stopped. As `by`.
+[[nodiscard]] std::vector<Chosen> ofAll(const KeepRule& rule, const Entries& entries,
+                                        const std::stop_token& stop = {});
+
 } // namespace orlen::KeptCopies

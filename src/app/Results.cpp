@@ -20,32 +20,6 @@ namespace {
 
 constexpr double kBytesPerMegabyte = 1'000'000;
 
-/// Those of the kinds of `KeptCopies`, in their order.
-std::vector<std::vector<FileEntry>> entriesIn(const std::vector<Finding>& findings)
-{
-    std::vector<std::vector<FileEntry>> entries;
-    for (const FindingKind kind : KeptCopies::kKinds) {
-        const auto found = std::ranges::find(findings, kind, &Finding::kind);
-        entries.push_back(found == findings.end() ? std::vector<FileEntry>() : found->items);
-    }
-    return entries;
-}
-
-/// Nothing when stopped.
-std::vector<KeptCopies::Chosen> chosenBy(const KeepRule& rule,
-                                         const std::vector<std::vector<FileEntry>>& entries,
-                                         const std::stop_token& stop)
-{
-    std::vector<KeptCopies::Chosen> all;
-    for (std::size_t number = 0; number < entries.size(); ++number) {
-        auto chosen = KeptCopies::by(rule, KeptCopies::kKinds[number], entries[number], stop);
-        if (!chosen)
-            return {};
-        all.push_back(*std::move(chosen));
-    }
-    return all;
-}
-
 } // namespace
 
 Results::Results(Storage& storage, const ExclusionList& exclusions, ImageWorkers::Options images,
@@ -87,9 +61,10 @@ void Results::startScan()
     m_workers.start(
         [engine, rule = m_keepRule](const std::stop_token&) {
             SmartScan::Outcome outcome = SmartScan::run(*engine);
-            std::vector<KeptCopies::Chosen> kept;
+            KeptCopies::Entries inSets;
             if (rule != KeepRule())
-                kept = chosenBy(rule, entriesIn(outcome.findings), {});
+                KeptCopies::addEntries(inSets, outcome.findings);
+            std::vector<KeptCopies::Chosen> kept = KeptCopies::ofAll(rule, inSets);
             return std::tuple(std::move(outcome), rule, std::move(kept));
         },
         [this, engine](std::tuple<SmartScan::Outcome, KeepRule, std::vector<KeptCopies::Chosen>> ended) {
@@ -114,7 +89,7 @@ void Results::finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::O
     m_photoCoverage = engine->photoCoverage();
     change([&] {
         m_found.replace(std::move(outcome.findings), m_exclusions.current());
-        take(std::move(kept));
+        m_found.take(std::move(kept), m_exclusions.current());
     });
     m_storage.setBreakdown(std::move(outcome.breakdown));
     m_scanned = moment(std::chrono::system_clock::now());
@@ -278,33 +253,21 @@ void Results::setKeepRule(KeepRule rule)
 
 void Results::applyKeepRule()
 {
-    std::vector<std::vector<FileEntry>> before = entriesInSets();
+    const KeptCopies::Entries before = m_found.entriesInSets();
     if (std::ranges::all_of(before, &std::vector<FileEntry>::empty))
         return;
     m_workers.start(
         m_keeping,
-        [rule = m_keepRule, before](const std::stop_token& stop) { return chosenBy(rule, before, stop); },
+        [rule = m_keepRule, before](const std::stop_token& stop) {
+            return KeptCopies::ofAll(rule, before, stop);
+        },
         [this, before](std::vector<KeptCopies::Chosen> kept) {
             // Meanwhile some may have been moved, or found anew.
-            if (before != entriesInSets())
+            if (before != m_found.entriesInSets())
                 applyKeepRule();
             else
-                change([&] { take(std::move(kept)); });
+                change([&] { m_found.take(std::move(kept), m_exclusions.current()); });
         });
-}
-
-void Results::take(std::vector<KeptCopies::Chosen> kept)
-{
-    for (KeptCopies::Chosen& chosen : kept)
-        m_found.take(std::move(chosen), m_exclusions.current());
-}
-
-std::vector<std::vector<FileEntry>> Results::entriesInSets() const
-{
-    std::vector<std::vector<FileEntry>> entries;
-    for (const FindingKind kind : KeptCopies::kKinds)
-        entries.push_back(m_found.entries(kind));
-    return entries;
 }
 
 void Results::keepInstead(const std::string& path)

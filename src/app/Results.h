@@ -160,8 +160,6 @@ private:
     void finishScan(const std::shared_ptr<ScanEngine>& engine, SmartScan::Outcome outcome,
                     std::vector<KeptCopies::Chosen> kept);
     void applyKeepRule();
-    void take(std::vector<KeptCopies::Chosen> kept);
-    [[nodiscard]] std::vector<std::vector<FileEntry>> entriesInSets() const;
     /// Makes a change of what was found, and emits what came of it.
     void change(const std::function<void()>& change);
 

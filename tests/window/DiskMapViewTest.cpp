@@ -78,10 +78,10 @@ TEST_F(DiskMapViewTest, goesInByClickAndComesBackToTheFolderItLeft)
     view.load();
     ASSERT_TRUE(settles());
     const QPointF music = value(1, DiskMapView::Role::area).toRectF().center();
-    view.movePointer(music);
+    view.gestures()->movePointer(music);
     EXPECT_EQ(view.hoverRow(), 1);
     const QSignalSpy arrivals(&view, &DiskMapView::arrived);
-    view.click(music);
+    view.gestures()->click(music);
     EXPECT_EQ(view.zoomOrigin(), music);
     EXPECT_EQ(view.hoverRow(), -1) << "what is being left does not answer";
     EXPECT_EQ(view.rowCount(), 3) << "but is still there to be seen leaving";
@@ -150,7 +150,7 @@ TEST_F(DiskMapViewTest, whatIsPressedMayMoveAsItWasMeasured)
 {
     view.load();
     ASSERT_TRUE(settles());
-    view.movePointer(value(0, DiskMapView::Role::area).toRectF().center());
+    view.gestures()->movePointer(value(0, DiskMapView::Role::area).toRectF().center());
     const int pressed = view.rowAt(value(1, DiskMapView::Role::area).toRectF().center());
     EXPECT_EQ(pressed, 1) << "not what was hovered";
     const std::string music = home.path("Music");
@@ -224,18 +224,18 @@ TEST_F(DiskMapViewTest, takesPinchesAndTheWheelAlike)
 {
     view.load();
     ASSERT_TRUE(settles());
-    view.movePointer(value(0, DiskMapView::Role::area).toRectF().center());
-    view.pinch(1.2);
-    view.pinch(1.34);
+    view.gestures()->movePointer(value(0, DiskMapView::Role::area).toRectF().center());
+    view.gestures()->pinch(1.2);
+    view.gestures()->pinch(1.34);
     EXPECT_FALSE(view.isLoading());
-    view.pinch(1.36);
+    view.gestures()->pinch(1.36);
     ASSERT_TRUE(view.isLoading());
     ASSERT_TRUE(settles());
     EXPECT_EQ(view.folderName(), "Videos");
-    view.pinch(1);
-    view.turnWheel(-120);
+    view.gestures()->pinch(1);
+    view.gestures()->turnWheel(-120);
     EXPECT_FALSE(view.isLoading());
-    view.turnWheel(-120);
+    view.gestures()->turnWheel(-120);
     ASSERT_TRUE(settles());
     EXPECT_TRUE(view.isAtStart());
 }

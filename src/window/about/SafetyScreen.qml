@@ -10,10 +10,14 @@ ScreenPage {
     title: Screens.title(Screens.Safety)
     subtitle: Strings.safetyLead
 
+    SafetyTexts {
+        id: how
+    }
+
     TextCardGrid {
         width: root.contentWidth
         most: 3
-        texts: Strings.safetySections
+        texts: how.sections
         tones: Theme.safetyTones
         beside: true
     }

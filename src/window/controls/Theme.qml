@@ -65,14 +65,17 @@ QtObject {
             : ["#cddcf8", "#e0d4f5", "#c9e8da", "#f6d3dd", "#f9dfbd", "#c4e5e7"]
     readonly property color mapRest: root.dark ? "#3a404a" : "#d5dae1"
     /// The shades of a legend but its last, each lighter or darker than the next. Texts are read on all.
-    readonly property list<color> mapAges: root.dark ? ["#24333a", "#2f4a3f", "#5a5320", "#7a521a", "#9a4c22"]
+    readonly property list<color> mapAges: root.dark ? ["#1d2b31", "#2a463c", "#56501f", "#7d541a", "#a35025"]
                                                      : ["#e2ecd0", "#dbe09a", "#ebcb74", "#eeae66", "#f29b7e"]
-    readonly property list<color> mapGrowths: root.dark ? ["#1f5490", "#2b3a36", "#5a4a18", "#86511a", "#a83d36"]
-                                                        : ["#8fc0f2", "#e4ecdf", "#fbe3a0", "#f7b96b", "#f19a8f"]
+    readonly property list<color> mapGrowths: root.dark ? ["#1f5490", "#2b3a36", "#54450f", "#7d4b17", "#b04038"]
+                                                        : ["#8fc0f2", "#e9efe5", "#f5da8c", "#f4b263", "#f19a8f"]
     readonly property list<color> mapRatings: root.dark ? ["#1c6b45", "#7d5310", "#2a55a0", "#59416f"]
                                                         : ["#93dcb4", "#f7cb7e", "#9fc2fb", "#c9b6da"]
     readonly property color mapInk: root.dark ? "#ffffff" : "#14171c"
-    readonly property color mapQuietInk: root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
+    readonly property color mapQuietInk: root.appearance.highContrast ? root.mapInk
+                                         : root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
+    /// Edge of a tile, in pixels, where its colour alone is not enough to tell it from the next.
+    readonly property int mapEdge: root.appearance.highContrast ? 1 : 0
 
     /// On top of photos: text and the shade behind it.
     readonly property color overPhoto: "#ffffff"
@@ -135,6 +138,11 @@ QtObject {
 
     function tint(colour: color, opacity: real): color {
         return Qt.rgba(colour.r, colour.g, colour.b, opacity);
+    }
+
+    /// Whether a window or screen of this height has room for little more than its list, so that texts give way.
+    function isLow(height: real): bool {
+        return height > 0 && height < 480 * root.textScale;
     }
 
     /// Side margin of a screen of this width.

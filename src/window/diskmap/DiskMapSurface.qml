@@ -96,26 +96,26 @@ T.Control {
         onPressed: mouse => {
             root.forceActiveFocus(Qt.MouseFocusReason);
             if (mouse.button === Qt.LeftButton)
-                root.map.click(Qt.point(mouse.x, mouse.y));
+                root.map.gestures.click(Qt.point(mouse.x, mouse.y));
             else if (mouse.button === Qt.RightButton)
                 root.menuRequested(root.map.rowAt(Qt.point(mouse.x, mouse.y)), mouse.x, mouse.y);
             else
                 root.map.up();
         }
         // Where it comes from a menu, no move follows.
-        onEntered: root.map.movePointer(Qt.point(pointer.mouseX, pointer.mouseY))
-        onPositionChanged: mouse => root.map.movePointer(Qt.point(mouse.x, mouse.y))
-        onExited: root.map.removePointer()
+        onEntered: root.map.gestures.movePointer(Qt.point(pointer.mouseX, pointer.mouseY))
+        onPositionChanged: mouse => root.map.gestures.movePointer(Qt.point(mouse.x, mouse.y))
+        onExited: root.map.gestures.removePointer()
         onWheel: wheel => {
             wheel.accepted = wheel.modifiers & Qt.ControlModifier;
             if (wheel.accepted)
-                root.map.turnWheel(wheel.angleDelta.y);
+                root.map.gestures.turnWheel(wheel.angleDelta.y);
         }
     }
 
     PinchHandler {
         target: null
-        onActiveScaleChanged: root.map.pinch(activeScale)
+        onActiveScaleChanged: root.map.gestures.pinch(activeScale)
     }
 
     Connections {

@@ -34,8 +34,9 @@ Rectangle {
     height: root.area.height
     radius: Math.min(6, root.area.width / 4, root.area.height / 4)
     color: Theme.mapShade(root.meaning, root.shade, root.hue)
-    border.width: root.isHovered || root.isCurrent ? 2 : 0
-    border.color: Theme.dark ? Theme.mapInk : root.isCurrent ? Theme.accent : Qt.darker(root.color, 1.7)
+    border.width: root.isHovered || root.isCurrent ? 2 + Theme.mapEdge : Theme.mapEdge
+    border.color: Theme.dark || border.width < 2 ? Theme.mapInk
+                                                 : root.isCurrent ? Theme.accent : Qt.darker(root.color, 1.7)
     Accessible.role: root.kind === DiskMapView.Folder ? Accessible.Button : Accessible.StaticText
     Accessible.name: Strings.spoken([root.spoken, root.fact])
     Accessible.onPressAction: root.pressed()

@@ -13,8 +13,6 @@ namespace orlen {
 namespace {
 
 constexpr int kHues = 6;
-/// Two notches of a common wheel, 120 each, zoom by one folder.
-constexpr double kMagnificationPerEighth = 0.2 / 120;
 
 } // namespace
 
@@ -167,38 +165,10 @@ QString DiskMapView::sizeAt(int row) const
     return hasRow(row) ? DisplayText::size(node(row).size) : QString();
 }
 
-void DiskMapView::click(QPointF point)
-{
-    m_map.click({point.x(), point.y()}, m_view);
-}
-
-void DiskMapView::movePointer(QPointF point)
-{
-    m_map.movePointer({point.x(), point.y()}, m_view);
-}
-
-void DiskMapView::removePointer()
-{
-    m_map.removePointer();
-}
-
 int DiskMapView::rowAt(QPointF point)
 {
-    movePointer(point);
+    m_gestures.movePointer(point);
     return hoverRow();
-}
-
-void DiskMapView::pinch(double scale)
-{
-    // Each pinch starts at 1 again.
-    if (scale != 1)
-        m_map.magnify(scale - m_pinchScale);
-    m_pinchScale = scale;
-}
-
-void DiskMapView::turnWheel(double eighths)
-{
-    m_map.magnify(eighths * kMagnificationPerEighth);
 }
 
 void DiskMapView::followStack()

@@ -2,6 +2,7 @@
 
 #include "app/DiskMapModel.h"
 #include "window/diskmap/BreadcrumbModel.h"
+#include "window/diskmap/MapGestures.h"
 #include "window/diskmap/MapStarts.h"
 #include "window/diskmap/MapTiles.h"
 #include "window/diskmap/TileColours.h"
@@ -45,6 +46,7 @@ class DiskMapView : public orlen::RowsModel {
     Q_PROPERTY(int place READ place NOTIFY placesChanged)
     Q_PROPERTY(orlen::BreadcrumbModel* crumbs READ crumbs CONSTANT)
     Q_PROPERTY(orlen::TileColours* colours READ colours CONSTANT)
+    Q_PROPERTY(orlen::MapGestures* gestures READ gestures CONSTANT)
     /// Tile under the pointer, -1 for none.
     Q_PROPERTY(int hoverRow READ hoverRow NOTIFY hoverChanged)
     /// Tile with the keyboard focus, -1 for none.
@@ -102,6 +104,7 @@ public:
     [[nodiscard]] int place() const { return m_starts.indexOf(m_map.stack().front()); }
     [[nodiscard]] BreadcrumbModel* crumbs() { return &m_crumbs; }
     [[nodiscard]] TileColours* colours() { return &m_colours; }
+    [[nodiscard]] MapGestures* gestures() { return &m_gestures; }
     [[nodiscard]] int hoverRow() const;
     [[nodiscard]] int currentRow() const { return m_currentRow; }
     void setCurrentRow(int row);
@@ -130,15 +133,8 @@ public:
     [[nodiscard]] Q_INVOKABLE QString describe(int row) const;
     [[nodiscard]] Q_INVOKABLE QString sizeAt(int row) const;
 
-    Q_INVOKABLE void click(QPointF point);
-    Q_INVOKABLE void movePointer(QPointF point);
-    Q_INVOKABLE void removePointer();
     /// Moves the pointer to the point and returns the tile there, -1 for none.
     [[nodiscard]] Q_INVOKABLE int rowAt(QPointF point);
-    /// `scale` is that of the whole pinch so far, starting at 1.
-    Q_INVOKABLE void pinch(double scale);
-    /// Wheel movement in eighths of a degree; acts like a pinch.
-    Q_INVOKABLE void turnWheel(double eighths);
 
 Q_SIGNALS:
     void viewChanged();
@@ -172,6 +168,7 @@ private:
     BreadcrumbModel m_crumbs;
     TileColours m_colours;
     Treemap::Size m_view;
+    MapGestures m_gestures{m_map, m_view};
     MapStarts m_starts;
     std::vector<MapTile> m_tiles;
     std::int64_t m_total = 0;                ///< bytes of all tiles
@@ -182,7 +179,6 @@ private:
     bool m_isRearranging = false;
     int m_currentRow = -1;
     QPointF m_zoomOrigin;
-    double m_pinchScale = 1; ///< last scale of the pinch in progress
 };
 
 } // namespace orlen

@@ -5,9 +5,13 @@ import Orlen.App
 Sheet {
     id: root
 
-    title: Strings.shortcutsTitle
+    title: texts.title
     wantedWidth: Theme.grown(560)
     wantedHeight: Theme.grown(660)
+
+    ShortcutTexts {
+        id: texts
+    }
 
     contentItem: FocusScope {
         focus: true
@@ -45,7 +49,7 @@ Sheet {
                 spacing: Theme.spaceXl
 
                 Repeater {
-                    model: Strings.shortcutGroups
+                    model: texts.groups
 
                     ShortcutGroup {
                         required property var modelData
