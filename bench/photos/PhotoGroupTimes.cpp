@@ -1,8 +1,9 @@
 // Times the grouping of a generated library: photo_group_times [PICTURES [CROWD [SAME]]]. Of 100 pictures, 12
 // are in sets of three shots and the others are different, but some have layouts in common, as of real
 // photos; CROWD of all (1,500) are pages, of three layouts. They have the same lines down to SAME hundredths
-// of the height (0): with 40 a quick look is in vain, and none is in a set all the same. The last number that
-// is printed changes when any of the sets does.
+// of the height (0): with 40 a quick look is in vain, and none is in a set all the same. Their outlines
+// are ready before the clock starts, as those of remembered pictures are. The last number that is printed
+// changes when any of the sets does.
 
 #include "scan/photos/PhotoGroups.h"
 
