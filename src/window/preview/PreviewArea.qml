@@ -158,7 +158,8 @@ Rectangle {
             asynchronous: true
             cache: false
             fillMode: Image.PreserveAspectFit
-            sourceSize: Qt.size(kept.whole.width, kept.whole.height)
+            sourceSize.width: kept.whole.width
+            sourceSize.height: kept.whole.height
             source: root.preview.thumbnail
             Accessible.role: Accessible.Graphic
             Accessible.name: root.preview.name
