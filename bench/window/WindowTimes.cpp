@@ -3,6 +3,7 @@
 #include "window/shell/DesktopPresence.h"
 #include "window/shell/RunningInstance.h"
 #include "window/shell/Window.h"
+#include "window/shell/WindowState.h"
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>
@@ -10,6 +11,7 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSettings>
 #include <QTimer>
@@ -17,6 +19,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <functional>
+#include <optional>
 #include <utility>
 
 /// Times of the window with the home folder that HOME names, in the software renderer: from the start of the
@@ -30,6 +34,7 @@ constexpr const char* kStartedVariable = "ORLEN_BENCH_STARTED"; // milliseconds 
 constexpr int kIdleMilliseconds = 3'000;
 constexpr int kTickMilliseconds = 2;
 constexpr int kLookMilliseconds = 20;
+constexpr int kStepMilliseconds = 1'500;
 
 double now()
 {
@@ -120,6 +125,64 @@ void measureScan(AppModel& model, QQuickWindow& window)
         stalls.longestWork);
 }
 
+/// Delegates are no children of what shows them, but they are its child items.
+QQuickItem* itemNamed(QQuickItem* root, const QString& name)
+{
+    if (root->objectName() == name && root->isVisible())
+        return root;
+    for (QQuickItem* child : root->childItems()) {
+        if (QQuickItem* found = itemNamed(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+/// Longest work at a stretch that something starts, until everything has come to rest.
+void measureStep(QQuickWindow& window, const char* name, const std::function<void()>& start)
+{
+    Stalls stalls(window);
+    // What is done at once counts too.
+    QTimer::singleShot(kTickMilliseconds, start);
+    wait(kStepMilliseconds, [] { return false; });
+    std::printf("  %s: longest work %.0f ms\n", name, stalls.longestWork);
+}
+
+/// Opens the list of a finding, filters, sorts and ticks it, and goes on to the review.
+void measureList(AppModel& model, QQuickWindow& window, const QString& finding)
+{
+    WindowState& state = WindowState::of(model);
+    const auto item = [&](const char* name) {
+        auto* found = itemNamed(window.contentItem(), QString::fromLatin1(name));
+        if (found == nullptr)
+            std::fprintf(stderr, "there is no item %s\n", name);
+        return found;
+    };
+    const auto press = [&](const char* name) {
+        return [&item, name] {
+            if (auto* button = item(name))
+                QMetaObject::invokeMethod(button, "clicked");
+        };
+    };
+    const auto filter = [&](const char* text) {
+        return [&item, text] {
+            if (auto* field = item("entryFilter"))
+                field->setProperty("text", QString::fromLatin1(text));
+        };
+    };
+    std::printf("list of %s\n", qPrintable(finding));
+    measureStep(window, "open", [&] { state.setSheet(FindingSheet{finding.toStdString()}); });
+    measureStep(window, "filter, first key", filter("7"));
+    measureStep(window, "filter, second key", filter("71"));
+    measureStep(window, "filter, none", filter(""));
+    measureStep(window, "sort by name", press("entryFilter-1"));
+    measureStep(window, "sort by date", press("entryFilter-2"));
+    measureStep(window, "select all", press("selectAll"));
+    measureStep(window, "select none", press("selectAll"));
+    measureStep(window, "select all again", press("selectAll"));
+    measureStep(window, "review", [&] { state.setSheet(PlanSheet{model.results()->scanPlan()}); });
+    measureStep(window, "close", [&] { state.setSheet(std::nullopt); });
+}
+
 /// One start of the window, in this process.
 int once(int argc, char** argv)
 {
@@ -150,6 +213,8 @@ int once(int argc, char** argv)
         const QStringList arguments = QCoreApplication::arguments();
         if (arguments.contains("--scan"))
             measureScan(model, *window);
+        if (const qsizetype at = arguments.indexOf("--list"); at >= 0)
+            measureList(model, *window, arguments.value(at + 1));
         wait(kIdleMilliseconds, [] { return false; });
         std::printf("resident %.1f MB\n", residentMegabytes());
         if (arguments.contains("--scan")) {
@@ -174,7 +239,9 @@ int main(int argc, char** argv)
         return once(argc, argv);
     const QCoreApplication application(argc, argv);
     QCommandLineParser options;
-    options.addOptions({{"runs", "How often to start", "number", "10"}, {"scan", "Measure a scan as well"}});
+    options.addOptions({{"runs", "How often to start", "number", "10"},
+                        {"scan", "Measure a scan as well"},
+                        {"list", "Measure the list of this finding of the scan as well", "id"}});
     options.addHelpOption();
     options.process(application);
     for (int run = 0; run < options.value("runs").toInt(); ++run) {

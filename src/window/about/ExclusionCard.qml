@@ -15,6 +15,16 @@ ColumnCard {
         id: exclusions
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     HeadlineText {
         width: parent.width
         text: Strings.neverOffered
@@ -53,6 +63,7 @@ ColumnCard {
         height: Math.round(Math.min(exclusions.count, 6.5) * root.rowHeight)
         model: exclusions
         Accessible.name: Strings.neverOffered
+        onMenuRequested: menu.openBelow(exclusions, list.currentIndex, list.currentItem)
         Keys.onDeletePressed: exclusions.remove(list.currentIndex)
 
         delegate: ExclusionRow {
@@ -65,6 +76,11 @@ ColumnCard {
             isCurrent: ListView.isCurrentItem && list.activeFocus
             ringed: row.isCurrent && list.showsFocus
             onRemoveRequested: exclusions.remove(row.index)
+            onMenuRequested: (x, y) => {
+                list.currentIndex = row.index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(exclusions, row.index, row, x, y);
+            }
         }
     }
 }

@@ -64,6 +64,13 @@ void ExclusionListModel::remove(int row)
         ExclusionChange::remove(m_app, Exclusion(m_lines[static_cast<std::size_t>(row)]));
 }
 
+std::optional<RowSubject> ExclusionListModel::subject(int row) const
+{
+    if (!hasRow(row) || !isPath(m_lines[static_cast<std::size_t>(row)]))
+        return std::nullopt;
+    return RowSubject{.path = m_lines[static_cast<std::size_t>(row)].text, .isOffered = false};
+}
+
 QVariant ExclusionListModel::value(std::size_t number, int role) const
 {
     const Exclusion& line = m_lines[number];

@@ -39,6 +39,7 @@ public:
 
     /// Removes the row's line from the list, which a notice tells; ignored if there is no such row.
     Q_INVOKABLE void remove(int row);
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
 
 Q_SIGNALS:
     void filterChanged();

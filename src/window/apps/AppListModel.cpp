@@ -97,6 +97,14 @@ void AppListModel::untickAll()
     Q_EMIT tickedChanged();
 }
 
+std::optional<RowSubject> AppListModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    const AppInfo& app = m_apps[static_cast<std::size_t>(row)];
+    return RowSubject{.path = app.path, .isOffered = app.isRemovable()};
+}
+
 void AppListModel::load()
 {
     m_sizes.reset();

@@ -53,6 +53,8 @@ public:
     Q_INVOKABLE void tick(int row);
     void untickAll();
 
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
+
     /// Reads the list and measures it again. The latest load wins.
     Q_INVOKABLE void load();
 

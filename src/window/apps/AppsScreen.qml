@@ -6,12 +6,14 @@ Item {
     id: root
 
     required property MainView view
+    readonly property bool isLow: Theme.isLow(root.height)
     readonly property real sideMargin: Theme.sideMargin(root.width)
     /// Whether the search field is below the title rather than beside it.
     readonly property bool isNarrow: root.width < 540 * Theme.textScale
     /// Whether the choices above the list are below its figures rather than beside them.
     readonly property bool isStacked: root.width < 720 * Theme.textScale
-    readonly property bool isCovered: chosen.open || behind.open || root.view.navigation.sheet !== Navigation.NoSheet
+    readonly property bool isCovered: menu.visible || look.visible || chosen.open || behind.open
+                                      || root.view.navigation.sheet !== Navigation.NoSheet
 
     AppListModel {
         id: apps
@@ -40,6 +42,16 @@ Item {
         id: behind
 
         list: apps
+    }
+
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
     }
 
     AppSheet {
@@ -73,6 +85,7 @@ Item {
         anchors.rightMargin: root.isNarrow ? root.sideMargin : Theme.spaceXl
         title: Screens.title(Screens.Apps)
         subtitle: Strings.appsLead
+        isBrief: root.isLow
     }
 
     SearchField {
@@ -177,6 +190,7 @@ Item {
                 }
             }
 
+            onMenuRequested: menu.openBelow(apps, ordered.listRow(list.currentIndex), list.currentItem)
             Keys.onReturnPressed: list.openRow(list.currentIndex)
             Keys.onEnterPressed: list.openRow(list.currentIndex)
             Keys.onSpacePressed: apps.tick(ordered.listRow(list.currentIndex))
@@ -190,6 +204,11 @@ Item {
                 width: ListView.view.width - 7
                 ringed: ListView.isCurrentItem && list.showsFocus
                 onToggled: apps.tick(ordered.listRow(row.index))
+                onMenuRequested: (x, y) => {
+                    list.currentIndex = row.index;
+                    list.forceActiveFocus(Qt.MouseFocusReason);
+                    menu.openAt(apps, ordered.listRow(row.index), row, x, y);
+                }
                 onActivated: {
                     // Taps on a sheet reach the rows below it.
                     if (root.isCovered)

@@ -79,7 +79,7 @@ private:
     AppModel& m_app;
     WindowState& m_window;
     CleaningState m_state;
-    FailureListModel m_failures;
+    FailureListModel m_failures{FailureListModel::Where::inPlace};
     bool m_isShown = false;
     bool m_isStopping = false;
     QElapsedTimer m_sinceShown;

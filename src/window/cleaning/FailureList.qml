@@ -13,6 +13,18 @@ KeyedList {
     cacheBuffer: 400
     Accessible.name: root.title
 
+    onMenuRequested: menu.openBelow(root.failures, root.currentIndex, root.currentItem)
+
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     Rectangle {
         anchors.fill: parent
         z: -1
@@ -42,6 +54,15 @@ KeyedList {
         bottomPadding: row.index === root.count - 1 ? 12 : 6
         Accessible.role: Accessible.ListItem
         Accessible.name: row.startsReason && row.remedy !== "" ? Strings.spokenText(row.facts, row.remedy) : row.facts
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: event => {
+                root.currentIndex = row.index;
+                root.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(root.failures, row.index, row, event.position.x, event.position.y);
+            }
+        }
 
         SmallText {
             objectName: "failureReason"

@@ -14,6 +14,15 @@ void FailureListModel::setFailures(std::vector<CleanFailure> failures)
         resetRows(m_failures, std::move(failures));
 }
 
+std::optional<RowSubject> FailureListModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    const auto& [path, reason] = m_failures[static_cast<std::size_t>(row)];
+    const bool isThere = m_where == Where::inPlace && reason != FailureReason::missing;
+    return RowSubject{.path = path, .isThere = isThere, .isOffered = isThere};
+}
+
 QVariant FailureListModel::value(std::size_t number, int role) const
 {
     const auto& [path, reason] = m_failures[number];

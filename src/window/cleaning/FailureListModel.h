@@ -24,15 +24,20 @@ public:
     };
     Q_ENUM(Role)
 
-    using RowsModel::RowsModel;
+    /// Whether the items are where they were, or still in the Trash.
+    enum class Where { inPlace, inTrash };
+
+    explicit FailureListModel(Where where = Where::inPlace) : m_where(where) {}
 
     /// Keeps the order within each reason.
     void setFailures(std::vector<CleanFailure> failures);
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
 
 private:
     [[nodiscard]] int length() const override { return static_cast<int>(m_failures.size()); }
     [[nodiscard]] QVariant value(std::size_t number, int role) const override;
 
+    Where m_where;
     std::vector<CleanFailure> m_failures; ///< in the order of the rows
 };
 

@@ -92,7 +92,7 @@ private:
     int m_restored = 0;
     bool m_isRecorded = true;
     bool m_isReturned = false;
-    FailureListModel m_failures;
+    FailureListModel m_failures{FailureListModel::Where::inTrash};
     QTimer m_return; ///< delays showing an undoing that may end soon
 };
 

@@ -8,6 +8,7 @@ Row {
     required property string text
     property string symbol: "info.circle"
     property color ink: Theme.secondary
+    property alias maximumLineCount: label.maximumLineCount
 
     spacing: Theme.spaceS
 

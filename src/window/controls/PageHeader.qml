@@ -7,6 +7,8 @@ Column {
 
     required property string title
     property string subtitle: ""
+    /// Whether the room is better left to what is below.
+    property bool isBrief: false
 
     spacing: Theme.spaceXs
 
@@ -18,7 +20,7 @@ Column {
 
     SmallText {
         width: root.width
-        visible: root.subtitle !== ""
+        visible: root.subtitle !== "" && !root.isBrief
         text: root.subtitle
         wrapMode: Text.WordWrap
     }

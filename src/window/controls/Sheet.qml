@@ -12,6 +12,8 @@ T.Popup {
     property int wantedHeight: 620
     /// False if only the program closes the panel.
     property bool closable: true
+    /// Whether the window has little height, so that texts give way to lists.
+    readonly property bool isLow: root.parent !== null && Theme.isLow(root.parent.height)
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0

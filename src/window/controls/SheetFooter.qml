@@ -18,20 +18,32 @@ Item {
     property string figureName: ""
     property string actionName: "primaryAction"
     property string cancelName: ""
-    readonly property real room: root.width - 2 * Theme.spaceXl
-    readonly property real buttonsWidth: main.implicitWidth
-                                         + (second.visible ? second.implicitWidth + buttons.spacing : 0)
+    /// Whether the window has little height: then the note is one line, and only there if there is room for it,
+    /// unless it warns.
+    readonly property bool isLow: Theme.isLow(root.Window.height)
+    readonly property bool isWarning: !Qt.colorEqual(root.noteInk, Theme.secondary)
+    readonly property real margin: root.isLow ? Theme.spaceL : Theme.spaceXl
+    readonly property real room: root.width - 2 * root.margin
+    /// Whether the second button has room for its text.
+    readonly property bool isSecondWide: !root.isLow || root.noteWidth - main.implicitWidth - second.implicitWidth
+                                         - buttons.spacing - Theme.spaceL > 0
+    readonly property real secondWidth: root.cancel === "" ? 0 : buttons.spacing
+                                        + (root.isSecondWide ? second.implicitWidth : brief.implicitWidth)
+    readonly property real buttonsWidth: main.implicitWidth + root.secondWidth
     readonly property real noteWidth: root.room - total.width - Theme.spaceL
+    readonly property real besideWidth: root.noteWidth - root.buttonsWidth - Theme.spaceL
     /// Whether the buttons are below the note, since there is no room for it beside them.
-    readonly property bool isTall: root.noteWidth - root.buttonsWidth - Theme.spaceL < Theme.widened(130)
+    readonly property bool isTall: root.besideWidth < (root.isLow && !root.isWarning ? -Theme.spaceL
+                                                                                     : Theme.widened(130))
     signal triggered
     signal cancelled
 
     height: {
         if (!root.shown)
             return 12;
-        const beside = Math.max(Theme.mainControlHeight, remark.height);
-        return Math.ceil(root.isTall ? remark.height + Theme.spaceS + buttons.height : beside) + 28;
+        const beside = Math.max(root.isLow ? buttons.height : Theme.mainControlHeight, remark.height);
+        return Math.ceil(root.isTall ? remark.height + Theme.spaceS + buttons.height : beside)
+                + (root.isLow ? Theme.spaceL : 28);
     }
     visible: root.shown
 
@@ -43,9 +55,12 @@ Item {
         id: remark
 
         anchors.left: parent.left
-        anchors.leftMargin: Theme.spaceXl
-        y: root.isTall ? 14 : (root.height - height) / 2
-        width: root.isTall ? root.noteWidth : root.noteWidth - root.buttonsWidth - Theme.spaceL
+        anchors.leftMargin: root.margin
+        y: root.isTall ? root.isLow ? Theme.spaceS : 14 : (root.height - height) / 2
+        width: root.isTall ? root.noteWidth : Math.max(0, root.besideWidth)
+        visible: width > Theme.grown(60)
+        // A warning is read to its end.
+        maximumLineCount: root.isLow && !root.isWarning ? 1 : 20
         text: root.note
         symbol: root.noteSymbol
         ink: root.noteInk
@@ -57,7 +72,7 @@ Item {
         objectName: root.figureName
         anchors.right: root.isTall ? buttons.right : buttons.left
         anchors.rightMargin: root.isTall ? 0 : Theme.spaceL
-        anchors.verticalCenter: remark.verticalCenter
+        y: root.isTall ? remark.y + (remark.height - height) / 2 : (root.height - height) / 2
         text: root.figure
         font.weight: Font.Bold
         Accessible.role: Accessible.StaticText
@@ -67,7 +82,7 @@ Item {
         id: buttons
 
         anchors.right: parent.right
-        anchors.rightMargin: Theme.spaceXl
+        anchors.rightMargin: root.margin
         y: root.isTall ? remark.y + remark.height + Theme.spaceS : (root.height - height) / 2
         width: Math.min(root.buttonsWidth, root.room)
         spacing: Theme.spaceS
@@ -76,7 +91,18 @@ Item {
             id: second
 
             objectName: root.cancelName
-            visible: root.cancel !== ""
+            visible: root.cancel !== "" && root.isSecondWide
+            text: root.cancel
+            onClicked: root.cancelled()
+        }
+
+        IconButton {
+            id: brief
+
+            objectName: root.cancelName
+            visible: root.cancel !== "" && !root.isSecondWide
+            framed: true
+            symbol: "xmark"
             text: root.cancel
             onClicked: root.cancelled()
         }

@@ -17,6 +17,9 @@ ListRow {
     property bool isCurrent: false
     signal pressed
 
+    /// Whether there is no room for the bar beside the name.
+    readonly property bool isNarrow: root.width < 420 * Theme.textScale
+
     implicitHeight: Theme.grown(44)
     sideGap: 4
     ringed: root.isCurrent
@@ -37,7 +40,7 @@ ListRow {
     BodyText {
         anchors.left: icon.right
         anchors.leftMargin: Theme.spaceM
-        anchors.right: bar.left
+        anchors.right: root.isNarrow ? percent.left : bar.left
         anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
         text: root.name
@@ -52,6 +55,7 @@ ListRow {
         anchors.rightMargin: Theme.spaceM
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(220, root.width * 0.26)
+        visible: !root.isNarrow
         value: root.share
         Accessible.ignored: true
     }

@@ -25,6 +25,7 @@ FocusScope {
         width: root.width - 2 * Theme.pageMargin
         title: Screens.title(Screens.DiskMap)
         subtitle: Strings.diskMapLead
+        isBrief: Theme.isLow(root.height)
     }
 
     DiskMapBar {

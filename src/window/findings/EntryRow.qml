@@ -24,6 +24,9 @@ ListRow {
     signal previewRequested
     signal revealRequested
 
+    /// Whether there is no room for the date beside the name.
+    readonly property bool isNarrow: root.width < 560 * Theme.textScale
+
     implicitHeight: texts.height + 16
     Accessible.role: root.checkable ? Accessible.CheckBox : Accessible.ListItem
     Accessible.name: Strings.spoken([root.name, root.size, root.rating.label, root.note, root.folder])
@@ -131,7 +134,7 @@ ListRow {
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceXl
         anchors.verticalCenter: parent.verticalCenter
-        width: Theme.grown(136)
+        width: Theme.grown(root.isNarrow ? 84 : 136)
         spacing: 2
 
         BodyText {
@@ -144,7 +147,7 @@ ListRow {
 
         CaptionText {
             width: parent.width
-            visible: root.date !== ""
+            visible: root.date !== "" && !root.isNarrow
             horizontalAlignment: Text.AlignRight
             text: root.date
             wrapMode: Text.WordWrap

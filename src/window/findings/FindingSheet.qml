@@ -62,12 +62,12 @@ Sheet {
         Paragraph {
             width: parent.width
             text: contents.header.explanation
-            maximumLineCount: 3
+            maximumLineCount: root.isLow ? 1 : 3
         }
 
         Paragraph {
             width: parent.width
-            visible: text !== ""
+            visible: text !== "" && !root.isLow
             text: contents.header.reason
             maximumLineCount: 3
             color: Theme.tertiary

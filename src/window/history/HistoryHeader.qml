@@ -32,7 +32,8 @@ Item {
         PageHeader {
             width: parent.width
             title: Screens.title(Screens.History)
-            subtitle: root.isBrief ? "" : Strings.historyLead
+            subtitle: Strings.historyLead
+            isBrief: root.isBrief
         }
 
         SmallText {

@@ -39,7 +39,7 @@ Item {
         anchors.topMargin: Theme.pageMargin
         height: header.implicitHeight
         records: history
-        isBrief: !history.empty && root.height < 480 * Theme.textScale
+        isBrief: !history.empty && Theme.isLow(root.height)
     }
 
     ScrollList {

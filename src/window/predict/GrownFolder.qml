@@ -11,6 +11,9 @@ Pressable {
     required property real extent
     required property string code
     readonly property bool opens: root.code !== ""
+    /// A right click at this place asks for the menu of the row.
+    signal menuRequested(x: real, y: real)
+    signal menuKeyPressed
 
     implicitHeight: Math.max(Theme.grown(48), texts.height + 12)
     enabled: root.opens
@@ -18,6 +21,17 @@ Pressable {
     ringGap: 0
     text: Strings.spoken([root.name, root.growth, root.place])
     Accessible.description: root.opens ? Strings.opensInDiskMap : ""
+
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier;
+        if (event.accepted)
+            root.menuKeyPressed();
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: event => root.menuRequested(event.position.x, event.position.y)
+    }
 
     contentItem: Item {
         Column {

@@ -13,6 +13,16 @@ Column {
         id: growth
     }
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     HeadlineText {
         width: parent.width
         topPadding: Theme.spaceS
@@ -76,6 +86,8 @@ Column {
                     objectName: "grown-" + folder.index
                     width: parent ? parent.width : 0
                     onClicked: root.folderChosen(folder.code)
+                    onMenuRequested: (x, y) => menu.openAt(growth, folder.index, folder, x, y)
+                    onMenuKeyPressed: menu.openBelow(growth, folder.index, folder)
                 }
             }
         }

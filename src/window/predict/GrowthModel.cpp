@@ -61,6 +61,14 @@ QString GrowthModel::sentence() const
                                      {{"date", m_growth->start()}}));
 }
 
+std::optional<RowSubject> GrowthModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    const std::string& path = m_rows[static_cast<std::size_t>(row)].path;
+    return RowSubject{.path = path, .isOffered = isInHome(path) && path != Places::current().home};
+}
+
 QVariant GrowthModel::value(std::size_t number, int role) const
 {
     const Growth::Folder& folder = m_rows[number];

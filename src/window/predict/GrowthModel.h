@@ -35,6 +35,7 @@ public:
     explicit GrowthModel(AppModel& app = AppModelElement::model());
 
     [[nodiscard]] QString sentence() const;
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
 
 Q_SIGNALS:
     void periodChanged();

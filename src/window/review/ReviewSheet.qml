@@ -66,7 +66,7 @@ Sheet {
         SmallText {
             objectName: "planTitle"
             width: parent.width
-            visible: text !== ""
+            visible: text !== "" && !root.isLow
             text: plan.title
             color: Theme.accent
             font.weight: Font.DemiBold
@@ -75,7 +75,7 @@ Sheet {
         Paragraph {
             objectName: "reviewLead"
             width: parent.width
-            maximumLineCount: 6
+            maximumLineCount: root.isLow ? 1 : 6
             text: Strings.reviewLead(plan.checkedCount)
         }
     }

@@ -27,6 +27,10 @@ T.ApplicationWindow {
         window: root
     }
 
+    FocusKeeper {
+        window: root
+    }
+
     Navigation {
         id: theNavigation
     }

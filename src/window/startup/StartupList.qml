@@ -16,6 +16,16 @@ Card {
     implicitHeight: list.count > 0 ? list.height + 2
                     : root.items.loading ? placeholder.height + 16 : empty.height + 64
 
+    RowMenu {
+        id: menu
+
+        onPreviewRequested: look.show(menu.path, "")
+    }
+
+    PreviewSheet {
+        id: look
+    }
+
     KeyedList {
         id: list
 
@@ -44,6 +54,7 @@ Card {
         Accessible.name: Strings.startupItems
         onCurrentItemChanged: if (list.showsFocus && list.currentItem !== null) root.reached(list.currentItem)
 
+        onMenuRequested: menu.openBelow(root.items, root.ordered.listRow(list.currentIndex), list.currentItem)
         Keys.onSpacePressed: root.ordered.toggle(list.currentIndex)
         Keys.onReturnPressed: root.ordered.toggle(list.currentIndex)
         Keys.onEnterPressed: root.ordered.toggle(list.currentIndex)
@@ -56,6 +67,11 @@ Card {
             width: ListView.view.width
             lineShown: ListView.previousSection === ListView.section
             ringed: ListView.isCurrentItem && list.showsFocus
+            onMenuRequested: (x, y) => {
+                list.currentIndex = row.index;
+                list.forceActiveFocus(Qt.MouseFocusReason);
+                menu.openAt(root.items, root.ordered.listRow(row.index), row, x, y);
+            }
             onToggled: {
                 list.forceActiveFocus(Qt.MouseFocusReason);
                 list.currentIndex = row.index;

@@ -142,6 +142,13 @@ void StartupListModel::setLoading(bool isLoading)
         Q_EMIT loadingChanged();
 }
 
+std::optional<RowSubject> StartupListModel::subject(int row) const
+{
+    if (!hasRow(row))
+        return std::nullopt;
+    return RowSubject{.path = m_items[static_cast<std::size_t>(row)].path, .isOffered = false};
+}
+
 QVariant StartupListModel::value(std::size_t number, int role) const
 {
     const LaunchItem& item = m_items[number];

@@ -42,6 +42,7 @@ public:
 
     [[nodiscard]] const std::vector<LaunchItem>& items() const { return m_items; }
     [[nodiscard]] bool isLoading() const { return m_isLoading; }
+    [[nodiscard]] std::optional<RowSubject> subject(int row) const override;
 
     /// Reads the list again, after any change in progress.
     Q_INVOKABLE void load();

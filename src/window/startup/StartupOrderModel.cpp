@@ -44,10 +44,15 @@ void StartupOrderModel::sortBy(int order)
     Q_EMIT orderChanged();
 }
 
+int StartupOrderModel::listRow(int row) const
+{
+    return mapToSource(index(row, 0)).row();
+}
+
 void StartupOrderModel::toggle(int row)
 {
     if (m_list != nullptr)
-        m_list->toggle(mapToSource(index(row, 0)).row());
+        m_list->toggle(listRow(row));
 }
 
 QString StartupOrderModel::text(const QModelIndex& item, Role role) const

@@ -34,6 +34,8 @@ public:
 
     /// Sorts by this order, or the other way around if it is the current one.
     Q_INVOKABLE void sortBy(int order);
+    /// The row of `list` that this row shows.
+    [[nodiscard]] Q_INVOKABLE int listRow(int row) const;
     /// Switches an item, see `StartupListModel`.
     Q_INVOKABLE void toggle(int row);
 

@@ -137,4 +137,31 @@ Journey {
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("testAnswer"));
     }
+
+    /// Opens the menu of the current row of a list, or of its first, by both keys and by a right click.
+    function menuOf(list: string) {
+        const shown = test.item(list);
+        tryVerify(() => shown.count > 0, 5000, list + " has rows");
+        shown.forceActiveFocus(Qt.TabFocusReason);
+        const row = test.row(list, 0);
+        const copy = "menu-" + RowMenuModel.CopyPath;
+        const ways = [() => keyClick(Qt.Key_Menu), () => keyClick(Qt.Key_F10, Qt.ShiftModifier),
+                      () => mouseClick(row, row.width / 2, row.height / 2, Qt.RightButton)];
+        for (const open of ways) {
+            keyClick(Qt.Key_Home);
+            tryVerify(() => shown.currentIndex === 0);
+            open();
+            test.item(copy);
+            tryVerify(() => test.item(copy).menu.opened);
+            keyClick(Qt.Key_Escape);
+            tryVerify(() => !test.isShown(copy));
+        }
+    }
+
+    function test_6_everyListHasIt() {
+        keyClick(Qt.Key_6, Qt.ControlModifier);
+        test.menuOf("appList");
+        keyClick(Qt.Key_7, Qt.ControlModifier);
+        test.menuOf("startupList");
+    }
 }

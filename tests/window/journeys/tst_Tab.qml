@@ -146,6 +146,23 @@ Journey {
         test.goAround("the end of a clean-up");
         keyClick(Qt.Key_Escape);
         tryVerify(() => !test.isShown("cleaningDone"));
+        // The button that began it is off, as nothing is left to clean.
+        tryVerify(() => !test.item("reviewAndClean").enabled);
+        tryVerify(() => stage.focusFault(test.window) === "", 5000, stage.focusFault(test.window));
+        verify(!test.isFocused("sidebar"), "the keyboard stays on the page");
+    }
+
+    function test_9a_whatIsDisabledGivesTheKeyboardOn() {
+        for (let screen = Screens.Home; screen <= Screens.Safety; ++screen) {
+            keyClick(Qt.Key_1 + screen, Qt.ControlModifier);
+            waitForRendering(test.window.contentItem, 300);
+            keyClick(Qt.Key_Tab);
+            const before = test.focused();
+            before.enabled = false;
+            tryVerify(() => test.focused() !== before && stage.focusFault(test.window) === "", 5000,
+                      Screens.title(screen) + ": " + stage.focusFault(test.window));
+            before.enabled = true;
+        }
     }
 
     function test_9b_aPastCleanUp() {
