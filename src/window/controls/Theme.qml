@@ -66,14 +66,14 @@ QtObject {
     readonly property color mapRest: root.dark ? "#3a404a" : "#d5dae1"
     /// The shades of a legend but its last, each lighter or darker than the next. Texts are read on all.
     readonly property list<color> mapAges: root.dark ? ["#1d2b31", "#2a463c", "#56501f", "#7d541a", "#a35025"]
-                                                     : ["#e2ecd0", "#dbe09a", "#ebcb74", "#eeae66", "#f29b7e"]
+                                                     : ["#f1f6e6", "#e1e6a6", "#edcb6c", "#efae5e", "#ee9474"]
     readonly property list<color> mapGrowths: root.dark ? ["#1f5490", "#2b3a36", "#54450f", "#7d4b17", "#b04038"]
                                                         : ["#8fc0f2", "#e9efe5", "#f5da8c", "#f4b263", "#f19a8f"]
     readonly property list<color> mapRatings: root.dark ? ["#1c6b45", "#7d5310", "#2a55a0", "#59416f"]
                                                         : ["#93dcb4", "#f7cb7e", "#9fc2fb", "#c9b6da"]
     readonly property color mapInk: root.dark ? "#ffffff" : "#14171c"
     readonly property color mapQuietInk: root.appearance.highContrast ? root.mapInk
-                                         : root.dark ? root.tint(root.mapInk, 0.85) : "#3c4554"
+                                         : root.dark ? root.tint(root.mapInk, 0.85) : "#363f4d"
     /// Edge of a tile, in pixels, where its colour alone is not enough to tell it from the next.
     readonly property int mapEdge: root.appearance.highContrast ? 1 : 0
 

@@ -18,6 +18,14 @@ bool isInUse(const QQuickItem& item)
     return item.isEnabled() && item.isVisible();
 }
 
+/// Sheets and menus see to their keyboard themselves: at the end of a clean-up, Enter is for the sheet as such.
+bool isInPopup(const QQuickItem* item)
+{
+    while (item != nullptr && !item->inherits("QQuickOverlay"))
+        item = item->parentItem();
+    return item != nullptr;
+}
+
 /// The innermost item that has or would have the keyboard of what is in this one.
 QQuickItem* wantedIn(QQuickItem* item)
 {
@@ -69,7 +77,7 @@ void FocusKeeper::follow()
 QQuickItem* FocusKeeper::successor() const
 {
     QQuickItem* item = m_window == nullptr ? nullptr : m_window->activeFocusItem();
-    if (item == nullptr)
+    if (item == nullptr || isInPopup(item))
         return nullptr;
     QQuickItem* wanted = wantedIn(item);
     if (wanted != item && isInUse(*wanted))

@@ -9,8 +9,8 @@
 
 namespace orlen {
 
-/// Gives the keyboard to what stands next when the item that had it is disabled, hidden or gone: soon, in
-/// case the item comes back, but before the next key. Main thread.
+/// Gives the keyboard to what stands next when the item of a screen that had it is disabled, hidden or gone:
+/// soon, in case the item comes back, but before the next key. Main thread.
 class FocusKeeper : public QObject {
     Q_OBJECT
     QML_ELEMENT
