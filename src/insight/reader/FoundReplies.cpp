@@ -203,10 +203,7 @@ Answer measuredOnly(const Question& question, const AskContext& context, const F
     Answer answer;
     for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
         answer.paths.push_back(each.path);
-        const Message inside =
-            each.kind == Measured::Kind::file ? Message() : listedInside(each, context, answer);
-        lines.push_back(
-            AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer), inside}));
+        lines.push_back(AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer)}));
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
