@@ -75,7 +75,7 @@ public:
         else
             printAnswer(answer);
         if (!wantsJson() && model.results()->selectOnly(answer.proposal))
-            ItemList::toClean(model.results()->scanPlan(), ItemList::Beside::nothing).show(session);
+            ItemList::toPropose(model.results()->scanPlan()).show(session);
         return ExitStatus::done;
     }
 

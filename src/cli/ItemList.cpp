@@ -11,6 +11,10 @@
 #include "model/Words.h"
 #include "platform/values/CheckedSum.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -62,6 +66,30 @@ ItemList ItemList::toClean(const CleanPlan& plan, Beside beside)
     list.m_bytes = amount.bytes;
     list.m_text = list.m_colours.styled(Style::bold, shown(Format::displayable(plan.title))) + '\n' +
                   table.text(list.m_colours, std::nullopt);
+    return list;
+}
+
+ItemList ItemList::toPropose(const CleanPlan& plan)
+{
+    constexpr std::size_t kShown = 15;
+    ItemList list(Beside::nothing);
+    std::vector<const FileEntry*> entries;
+    for (const PlanSection& section : plan.sections) {
+        for (const FileEntry& entry : section.entries)
+            entries.push_back(&entry);
+    }
+    std::ranges::stable_sort(entries, std::greater{}, &FileEntry::size);
+    Table table = itemTable();
+    for (std::size_t i = 0; i < std::min(entries.size(), kShown); ++i)
+        addEntry(table, *entries[i]);
+    const auto more = std::ssize(entries) - static_cast<std::ptrdiff_t>(kShown);
+    const PathSelection::Amount amount = PathSelection::amountOf(std::move(entries));
+    list.m_count = amount.items;
+    list.m_bytes = amount.bytes;
+    list.m_text = table.text(list.m_colours, std::nullopt);
+    if (more > 0)
+        list.m_text +=
+            "  " + shown(Message{CliTexts::kMore, {{"count", static_cast<std::int64_t>(more)}}}) + '\n';
     return list;
 }
 

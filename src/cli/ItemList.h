@@ -19,6 +19,8 @@ public:
     enum class Beside { nothing, document };
 
     [[nodiscard]] static ItemList toClean(const CleanPlan& plan, Beside beside);
+    /// The largest items of a proposal, and how many more there are.
+    [[nodiscard]] static ItemList toPropose(const CleanPlan& plan);
     /// The items that have not been put back yet.
     [[nodiscard]] static ItemList toRestore(const CleanRecord& record, Beside beside);
 

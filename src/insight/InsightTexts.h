@@ -374,6 +374,11 @@ inline constexpr Text kLeftoversScreen =
     message("The Applications screen lists what removed applications left behind, and so does “orlen "
             "leftovers”.");
 inline constexpr Text kInstalled = message("Yes: {name} is installed.");
+inline constexpr Text kSystemAdvice =
+    // TRANSLATORS: “orlen advice” is a command.
+    message(
+        "That belongs to the system, which Orlen leaves alone. “orlen advice” tells what of it can be freed, "
+        "such as old kernels, package downloads and logs, and with which command.");
 inline constexpr Text kGames = message(
     "Games are best removed in the program that installed them. The disk map shows how much their folder "
     "takes.");
@@ -412,6 +417,10 @@ inline constexpr Text kNeverTouched =
             "applications; keys, passwords and keyrings; browser profiles, mail and chats; synced folders; "
             "and your own folders such as Documents and Pictures, though files in them may be suggested. It "
             "deletes nothing: what you tick moves to the Trash.");
+inline constexpr Text kHowToExclude =
+    // TRANSLATORS: “orlen exclude” is a command.
+    message("How Orlen Works lists what is excluded, and adds a file, folder or name to it; so does “orlen "
+            "exclude”. Orlen then neither suggests nor moves it.");
 inline constexpr Text kSafeMeans =
     // TRANSLATORS: what the rating "Safe" means.
     message("Safe: data that programs create again by themselves, or exact copies. It is ticked for you.");

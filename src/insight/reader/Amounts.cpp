@@ -72,24 +72,29 @@ std::optional<Leading> numberBefore(const std::string& word, const Lexicon& lexi
 
 std::optional<Taken<std::int64_t>> sizeAt(std::span<const std::string> words, const Lexicon& lexicon)
 {
-    const auto number = words.empty() ? std::nullopt : numberBefore(words[0], lexicon);
+    if (words.empty())
+        return std::nullopt;
+    // "Half a gigabyte"
+    const auto named = figureAt(Figure::number, words, lexicon);
+    const std::size_t before = named ? named->words : 1;
+    const auto number = named ? std::optional(Leading{named->value, {}}) : numberBefore(words[0], lexicon);
     if (!number)
         return std::nullopt;
     const bool isJoined = !number->rest.empty();
-    if (!isJoined && words.size() < 2)
+    if (!isJoined && words.size() <= before)
         return std::nullopt;
-    const auto unit = unitNamed(isJoined ? number->rest : words[1], lexicon);
+    const auto unit = unitNamed(isJoined ? number->rest : words[before], lexicon);
     const double bytes = unit ? number->value * *unit : -1;
     if (bytes < 0 || bytes > static_cast<double>(kMostBytes))
         return std::nullopt;
-    return Taken<std::int64_t>{static_cast<std::int64_t>(bytes), isJoined ? std::size_t{1} : 2};
+    return Taken<std::int64_t>{static_cast<std::int64_t>(bytes), isJoined ? std::size_t{1} : before + 1};
 }
 
 std::optional<Taken<std::int64_t>> numberAt(std::span<const std::string> words, const Lexicon& lexicon)
 {
     if (words.empty())
         return std::nullopt;
-    if (const auto named = lexicon.figure(Figure::number, words[0]))
+    if (const auto named = lexicon.figure(Figure::number, words[0]); named && *named >= 1)
         return Taken<std::int64_t>{static_cast<std::int64_t>(*named), 1};
     std::int64_t number = 0;
     const char* const last = words[0].data() + words[0].size();

@@ -161,7 +161,7 @@ std::optional<Turn> answered(const Question& question, const AskContext& context
 /// The matcher understands single English words: what is longer or says something else is not for it.
 bool isForMatcher(const Question& question)
 {
-    constexpr std::size_t kFewPhrases = 2;
+    constexpr std::size_t kFewPhrases = 1;
     constexpr std::size_t kFewWords = 4;
     return question.lexicon == Lexicon::all().data() && !question.senses.meets({unknown, quoted}) &&
            question.phrases.size() <= kFewPhrases && question.words <= kFewWords && !pointsBack(question);

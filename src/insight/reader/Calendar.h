@@ -22,6 +22,7 @@ struct Period {
     /// "christmas", "in two weeks". `from` and `to` are then the last time, or as long ago.
     std::optional<Span> next{};
     bool isAhead = false; ///< speaks of the future by itself: "next month", "in two weeks", "easter"
+    bool isToday = false; ///< said as "today"
 };
 
 /// The period where a question is about the future.

@@ -5,6 +5,7 @@
 #include "insight/InsightTexts.h"
 #include "insight/ReadingPair.h"
 #include "insight/reader/Names.h"
+#include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -46,6 +47,12 @@ std::optional<Compared> comparedIn(const Question& question, const AskContext& c
     return compared(ReadingPair::over(context.folders, period.from, period.to), period.to < context.now);
 }
 
+std::string cacheFolder()
+{
+    const std::vector<std::string> folders = Places::current().expand("{CACHE}");
+    return folders.empty() ? std::string() : folders.front();
+}
+
 /// The folder that the question is about; empty if it is about all. Nothing if it is about something else.
 std::optional<std::string> folderIn(const Question& question, const AskContext& context)
 {
@@ -55,7 +62,7 @@ std::optional<std::string> folderIn(const Question& question, const AskContext& 
             continue;
         std::string named;
         if (phrase.subject != nullptr) {
-            named = folderOf(*phrase.subject);
+            named = phrase.subject->id == SubjectID::caches ? cacheFolder() : folderOf(*phrase.subject);
         } else if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) {
             named = folderNamed(context, phrase.text);
         } else {

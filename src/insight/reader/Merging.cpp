@@ -38,6 +38,21 @@ void mergeGain(Phrases& phrases)
         rename(phrases, Sense::undo, Sense::makeRoom);
 }
 
+/// "What can I delete today": of what is not about dates, today says nothing.
+void mergeToday(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfDates{newest, oldest, grow, cleanUp, soFar,  undo,   since,   after,
+                                before, inside, full, lasts,   ending, opened, unopened};
+    SenseSet senses;
+    for (const Phrase& phrase : phrases)
+        senses.add(phrase.sense);
+    const bool isOfFiles = senses.has(subject) && !senses.meets({can, remove, safe, makeRoom, howBig, takes});
+    if (senses.meets(kOfDates) || isOfFiles)
+        return;
+    std::erase_if(phrases, [](const Phrase& phrase) { return phrase.period && phrase.period->isToday; });
+}
+
 /// "Not … opened", "I never use": with whatever stands between.
 void mergeNegation(Phrases& phrases)
 {
@@ -216,6 +231,7 @@ Question merged(const Question& question)
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
     mergeGain(phrases);
+    mergeToday(phrases);
     mergeRange(phrases);
     mergeMaking(phrases);
     mergeNeighbours(phrases);

@@ -218,8 +218,11 @@ private:
     /// "yesterday", "tomorrow"
     std::optional<Period> daysFromNow()
     {
-        if (const auto count = take(Figure::daysAgo))
-            return wholeDay(back(m_now, TimeUnit::day, *count));
+        if (const auto count = take(Figure::daysAgo)) {
+            Period day = wholeDay(back(m_now, TimeUnit::day, *count));
+            day.isToday = *count == 0;
+            return day;
+        }
         const auto count = take(Figure::daysAhead);
         if (!count)
             return std::nullopt;
@@ -294,6 +297,7 @@ private:
             return std::nullopt;
         isPrevious = isPrevious || take(Figure::previous);
         isNext = isNext || (!isPrevious && take(Figure::following));
+        isCurrent = isCurrent && !isPrevious;
         if (!isPrevious && !isCurrent && !isNext)
             return std::nullopt;
         return calendar(m_now, static_cast<TimeUnit>(*unit), isNext ? 1 : isCurrent ? 0 : -1);

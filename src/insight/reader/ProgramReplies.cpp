@@ -219,6 +219,11 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     };
     if (std::ranges::any_of(question.phrases, isLeftovers))
         return leftovers(context);
+    const auto isAdvice = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && phrase.subject->id == SubjectID::systemAdvice;
+    };
+    if (std::ranges::any_of(question.phrases, isAdvice))
+        return Answer{InsightTexts::kSystemAdvice, {}};
     const auto found = std::ranges::find_if(question.phrases, isProgram);
     if (found == question.phrases.end())
         return std::nullopt;

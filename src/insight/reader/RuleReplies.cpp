@@ -62,14 +62,20 @@ std::optional<Answer> whatIsNotItsJob(const Question& /*question*/, const AskCon
 std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)
 {
     const auto isOfKind = [](const Phrase& phrase) {
-        return phrase.subject != nullptr && !phrase.subject->isAnyFile && !phrase.subject->isProgram &&
-               phrase.subject->id != SubjectID::trash;
+        const Subject* const subject = phrase.subject;
+        return subject != nullptr && subject->id != SubjectID::trash && !subject->isAnyFile &&
+               (!subject->isProgram || subject->id == SubjectID::startup);
     };
     if (std::ranges::any_of(question.phrases, isOfKind))
         return std::nullopt;
     return Answer{AskText::sentences({InsightTexts::kMovesTicked, InsightTexts::kUntilTrashIsEmptied,
                                       InsightTexts::kNothingMovesYet}),
                   {}};
+}
+
+std::optional<Answer> howToExclude(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kHowToExclude, {}};
 }
 
 std::optional<Answer> whatToKeep(const Question& question, const AskContext& context)

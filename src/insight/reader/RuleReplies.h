@@ -28,6 +28,9 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Answer> whatHappens(const Question& question, const AskContext& context);
 
 /// What is rated Keep.
+/// How to exclude something from all scans.
+[[nodiscard]] std::optional<Answer> howToExclude(const Question& question, const AskContext& context);
+
 [[nodiscard]] std::optional<Answer> whatToKeep(const Question& question, const AskContext& context);
 
 /// What the ratings named in the question mean; all if it names none.

@@ -64,7 +64,8 @@ enum class Sense : std::uint8_t {
     soFar,
     privacy,
     untouched,
-    folder, ///< the word itself
+    ruleOut, ///< to exclude something from all scans
+    folder,  ///< the word itself
     hidden,
     subject, ///< a kind, category or folder; see `Subject`
     size,

@@ -48,7 +48,10 @@ std::optional<Answer> spaceNow(const Question& question, const AskContext& conte
     const StorageBreakdown& breakdown = context.breakdown;
     if (breakdown.total <= 0)
         return std::nullopt;
-    if (const Phrase* const size = question.first(Sense::size)) {
+    // "My disk has 256 GB, how much is left" asks for no verdict.
+    const Phrase* const size =
+        question.senses.meets({Sense::howMuch, Sense::howBig}) ? nullptr : question.first(Sense::size);
+    if (size != nullptr) {
         const bool isMore = breakdown.free >= size->amount;
         const bool isEnough = question.senses.has(Sense::below) ? !isMore : isMore;
         const Text verdict = isEnough ? InsightTexts::kYes : InsightTexts::kNo;

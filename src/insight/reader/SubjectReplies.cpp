@@ -240,6 +240,22 @@ std::optional<Answer> removingSubject(const Question& question, const AskContext
     return lines.answer();
 }
 
+std::optional<Answer> comparison(const Question& question, const AskContext& context)
+{
+    if (question.count(Sense::subject) != 2)
+        return std::nullopt;
+    std::vector<Message> lines;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject == nullptr)
+            continue;
+        const auto size = sizeOfSubject(withPhrases(question, {phrase}), context);
+        if (!size)
+            return std::nullopt;
+        lines.push_back(size->text);
+    }
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
 std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
 {
     const Subject& subject = *question.subject();

@@ -19,6 +19,9 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Answer> removingSubject(const Question& question, const AskContext& context);
 
 /// How much removing it would free; proposes what of it is not rated Keep.
+/// The sizes of two subjects that the question compares, one below the other.
+[[nodiscard]] std::optional<Answer> comparison(const Question& question, const AskContext& context);
+
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
 /// What has not been opened for long.

@@ -148,6 +148,7 @@ const std::vector<Subject>& subjects()
         {ID::snap, {}, "", {}, {}, "", false, true},
         {ID::games, {}, "", {}, {}, "", false, true},
         {ID::leftovers, {}, "", {}, {}, "", false, true},
+        {ID::systemAdvice, {}, "", {}, {}, "", false, true},
     };
     return all;
 }
@@ -187,7 +188,7 @@ std::string folderOf(const Subject& subject)
 
 std::string endingIn(std::string_view word)
 {
-    constexpr std::size_t kLongest = 6;
+    constexpr std::size_t kLongest = 8;
     const bool isDotted = word.starts_with('.') || word.starts_with("*.");
     std::string ending = PathText::asciiLower(word.substr(isDotted ? word.find('.') + 1 : 0));
     if (!isDotted && ending.ends_with('s') && isKnownEnding(ending.substr(0, ending.size() - 1)))

@@ -60,6 +60,7 @@ enum class SubjectID : std::uint8_t {
     snap,
     games,
     leftovers,
+    systemAdvice,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often

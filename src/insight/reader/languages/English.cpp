@@ -5,6 +5,11 @@ namespace orlen::AskReader {
 namespace english_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::ruleOut, "exclude a folder,exclude a file,exclude folders,exclude my,exclude something,how do i "
+                     "exclude,how to exclude,how can i exclude,whitelist,add an exclusion,add "
+                     "exclusion,exclusions,exclusion list,exception list,add an exception,never scan,do not "
+                     "scan,dont scan,stop scanning,never suggest,stop suggesting,never touch my,ignore a "
+                     "folder forever,ignore list,leave out of the scan,keep out of the scan,skip a folder"},
     {Sense::self,
      "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what questions "
      "can i ask,who are you,what are you,help,help me,how does this work,how do you work,what is orlen,what "
@@ -30,7 +35,8 @@ constexpr WordRow kWords[] = {
      "of,update linux,upgrade linux,install updates,bad sectors,disk health,smart "
      "status,shred,encrypt,decrypt"},
     {Sense::happens,
-     "where do deleted things go,where do deleted items go,where do my deleted files go,where do my files "
+     "does it stay in the trash,emptied automatically,where do deleted things go,where do deleted items "
+     "go,where do my deleted files go,where do my files "
      "go,where do the files go,where does it all go,only trash,only trash them,just trash,what happens,what "
      "will happen,what would happen,happen,happens,where do they go,where does it go,where "
      "do deleted files go,permanently,forever,for good,gone for good,for "
@@ -45,7 +51,9 @@ constexpr WordRow kWords[] = {
      "it,them,they,that one,this one,those,these,ones,one,the one,it's,its,that's,they're,this,that,the "
      "ones,of them,of those,theirs,these ones,those ones,him"},
     {Sense::filler,
-     "a,an,the,my,mine,our,your,i,me,we,you,is,are,was,were,be,been,am,do,does,did,have,has,had,will,would,"
+     "the deal with,deal with,whats up with,the story with,put,fine to know,went,at the "
+     "moment,a,an,the,my,mine,our,your,i,me,we,you,is,are,was,were,be,been,am,do,does,did,have,has,had,will,"
+     "would,"
      "of,on,to,for,at,by,please,pls,plz,there,so,now,right "
      "now,currently,today,tell,show,list,give,find,see,look,looking,get,know,want,wondering,really,actually,"
      "about,some,all,much,many,here,then,too,ever,still,already,exactly,approximately,roughly,named,called,"
@@ -134,19 +142,24 @@ constexpr WordRow kWords[] = {
      "make,room i could,gig back,gigs back,win back,claw back"},
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
-     "never touch,never touched,not touch,won't touch,will not touch,don't touch,never move,never "
+     "refuse to delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
+     "move,will not delete,would never delete,would never touch,would you never delete,never touch,never "
+     "touched,not touch,won't touch,will not touch,don't touch,never move,never "
      "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
      "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
      "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
      "delete,leaves alone,never ever delete,stay away from,hands off,allowed to touch,may touch,can "
      "touch,permitted to touch"},
-    {Sense::cleanUp, "clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
-                     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we "
-                     "free,did orlen clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
+    {Sense::cleanUp,
+     "went to the trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
+     "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
+     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we "
+     "free,did orlen clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
     {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
                        "the program,delete the program"},
     {Sense::remove,
-     "delete,deleted,deleting,deletes,remove,removed,removing,removes,erase,erased,throw away,throw out,get "
+     "binning,trashing,ditching,nuking,chucking,dumping,tossing,delete,deleted,deleting,deletes,remove,"
+     "removed,removing,removes,erase,erased,throw away,throw out,get "
      "rid,get rid of,getting rid of,discard,drop,move,moved,wipe,dump,clear,cleared,ditch,bin it,trash "
      "it,move to the trash,purge,kill,empty,emptied,part with,live without,do without,chuck,toss,toss "
      "out,nuke,deletable,removable,del,thrown away,threw away,scrap,deletd,expendable,let go of,trashed,do "
@@ -157,7 +170,8 @@ constexpr WordRow kWords[] = {
      "files,dead weight,waste of space,rubbish files,shed,eliminate,sacrifice,do "
      "i not need,i can lose,can lose,can i lose,zap"},
     {Sense::undo,
-     "undo,restore,revert,put back,bring back,get back,recover,undelete,take back,roll "
+     "reversible,undoable,can be undone,undo,restore,revert,put back,bring back,get "
+     "back,recover,undelete,take back,roll "
      "back,undone,restored,reverse,restoring,recovering,recovered,get it back,get them back,bring it "
      "back,bring them back,put it back,put them back,changed my mind,by mistake,by accident,accidentally,get "
      "my files back,undoing,rollback,want it back,want them back,come "
@@ -189,7 +203,9 @@ constexpr WordRow kWords[] = {
     {Sense::opened,
      "opened,touched,open,touch,looked at,watched,viewed,read,watch,viewing,listen,listened,seen,saw"},
     {Sense::full,
-     "low disk space,low space,disk space low,space low,space is low,low on storage,storage "
+     "out of storage,nearly out of storage,nearly out of space,almost out of space,almost out of "
+     "storage,running out of disk,low disk space,low space,disk space low,space low,space is low,low on "
+     "storage,storage "
      "low,full,fill,fills,filled,filling,fill up,filling up,fills up,running out,run out,runs out,out of "
      "space,no space,no room,low on space,so little space,almost full,nearly full,out of room,out of disk "
      "space,no free space,no more space,no disk space,so full,run out of space,running out of space,no space "
@@ -215,7 +231,9 @@ constexpr WordRow kWords[] = {
     {Sense::space,
      "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space,fit,fits"},
     {Sense::howMuch,
-     "how much,how mutch,how mcuh,howmuch,what do i gain,what would i gain,what do i get,what would i "
+     "what does that give me,what does that give,what would that give me,what do i get back,what would i get "
+     "back,what would that bring,how much,how mutch,how mcuh,howmuch,what do i gain,what would i gain,what "
+     "do i get,what would i "
      "get,what do i save,what would i save,what would that free,what does that free,what does it bring"},
     {Sense::why, "why,how come,what's the reason,what made,reason,what makes,why's,for what reason,why "
                  "so,why is that,why that,reasons,whats the reason,hows come,what's causing,what "
@@ -241,7 +259,8 @@ constexpr WordRow kWords[] = {
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated,earliest,stalest,vintage,from long "
                     "ago,aged,elderly,antique,dated,eldest"},
-    {Sense::newest, "newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
+    {Sense::newest, "recently,lately,of late,newest,most recent,latest,youngest,recent,recently "
+                    "changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
                     "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "
                     "edited,just downloaded,recently downloaded,just added,brand new,newly added"},
@@ -252,7 +271,8 @@ constexpr WordRow kWords[] = {
      "more space did,how much more did,how much bigger did,how much bigger "
      "has,expanded,expand,expanding,blew up,exploded,piled up,piling up,accumulated,gaining,gains,got "
      "big,become so big,become so large,gets bigger,gets larger,put on weight,inflated,bloated,increasing"},
-    {Sense::above, "over,above,larger than,bigger than,more than,at least,greater than,exceeding,no smaller "
+    {Sense::above, "compare,compared to,compared with,versus,vs,over,above,larger than,bigger than,more "
+                   "than,at least,greater than,exceeding,no smaller "
                    "than,heavier than,or more,or larger,or bigger,and up,and above,and bigger,and "
                    "larger,bigger then,larger then,more then,minimum,upwards of,>,between"},
     {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more "
@@ -290,9 +310,10 @@ constexpr WordRow kWords[] = {
      "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
      "safe,know my passwords,eavesdrop,anyone get"},
     {Sense::hidden, "hidden,invisible"},
-    {Sense::folder, "folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
+    {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
-     "install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,code,backup,"
+     "loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,"
+     "code,backup,"
      "backups,ios,language,"
      "languages,translation,mail,attachment,same "
      "file,long,result,results,larger,smaller,older,newer,fast,cost,costs,category,categories,else,worth,"
@@ -307,6 +328,9 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::systemAdvice, "old kernels,kernels,old kernel,apt cache,apt-cache,apt,package cache,package "
+                              "downloads,pacman cache,dnf cache,journal,journald,systemd journal,system "
+                              "logs,old snaps,old snap versions,snap revisions,old revisions"},
     {SubjectID::similarPhotos,
      "similar photos,similar pictures,similar images,similar shots,duplicate photos,duplicate "
      "pictures,duplicate images,duplicated photos,duplicated pictures,duplicate shots,near identical "
@@ -339,17 +363,18 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::largeFiles, "large files,big files,huge files,large file,big file"},
     {SubjectID::oldFiles, "old files,unused files,forgotten files,old file,old stuff,old things"},
     {SubjectID::oldDownloads, "old downloads,forgotten downloads"},
-    {SubjectID::logs, "log,logs,log files,logfiles,log file,logfile"},
+    {SubjectID::logs, "crash dumps,crash dump,crash reports,crash files,core dumps,core dump,core "
+                      "files,log,logs,log files,logfiles,log file,logfile"},
     {SubjectID::trash,
      "trash,bin,the bin,rubbish,recycle bin,waste basket,wastebasket,trash can,rubbish bin,trash "
      "bin,recycling bin,trashcan,dustbin,deleted files,wastepaper basket"},
-    {SubjectID::deviceBackups,
-     "iphone backup,iphone backups,ipad backup,ipad backups,phone backups,phone backup,device backups,ios "
-     "backups,iphone,ipad,backup of my phone,backups of my phone"},
+    {SubjectID::deviceBackups, "backups on my phone,phone,iphone backup,iphone backups,ipad backup,ipad "
+                               "backups,phone backups,phone backup,device backups,ios "
+                               "backups,iphone,ipad,backup of my phone,backups of my phone"},
     {SubjectID::mailAttachments,
      "mail attachments,attachments,mail downloads,email attachments,e-mail attachments,mail attachment,email "
      "attachment"},
-    {SubjectID::languagePacks, "language packs,translations,language files,language pack"},
+    {SubjectID::languagePacks, "unused languages,language packs,translations,language files,language pack"},
     {SubjectID::npm, "npm cache,npm,yarn cache,yarn,node cache,npm caches"},
     {SubjectID::pip, "pip cache,pip,python cache,python packages,pip caches"},
     {SubjectID::gradle, "gradle cache,gradle,gradle caches"},
@@ -375,7 +400,7 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::picturesFolder, "pictures folder,photos folder,photo folder,picture folder,images folder"},
     {SubjectID::videosFolder, "videos folder,video folder,movies folder"},
     {SubjectID::musicFolder, "music folder"},
-    {SubjectID::home, "home,home folder,home directory,my folders,user folder"},
+    {SubjectID::home, "home,home folder,home directory,user folder"},
     {SubjectID::videos,
      "video,videos,movie,movies,film,films,clip,clips,video files,recordings,footage,vids,video "
      "clips,recording,"
@@ -406,7 +431,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::leftovers,
-     "leftovers of apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
+     "uninstall leftovers,leftovers,leftover,leftover folders,leftover stuff,leftover files,leftovers of "
+     "apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
      "leftovers,flatpak leftovers,snap leftovers,program leftovers,leftovers from apps,leftovers from "
      "programs,left over from apps,left behind,leave behind,leave stuff behind,leave anything behind,leave "
      "files behind,leaves behind,left stuff behind,left anything behind,left files behind,leftover "
@@ -484,7 +510,9 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::weekday, "thursday", 4},
     {Figure::weekday, "friday", 5},
     {Figure::weekday, "saturday", 6},
+    {Figure::daysAgo, "today", 0},
     {Figure::daysAgo, "yesterday", 1},
+    {Figure::number, "half a,half an,half", 0.5},
     {Figure::ago, "ago,back,old"},
     {Figure::previous, "last,past,previous"},
     {Figure::current, "this"},

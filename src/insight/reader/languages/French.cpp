@@ -5,6 +5,9 @@ namespace orlen::AskReader {
 namespace french_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::ruleOut, "exclure un dossier,exclure un fichier,comment exclure,exclure du scan,exclure de l "
+                     "analyse,exclusions,ajouter une exception,liste blanche,ne plus proposer,ne plus "
+                     "suggérer,ne jamais analyser"},
     {Sense::installed, "installé,installés,installée,installées,est installé,sont installées,sont installés"},
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "
@@ -122,7 +125,7 @@ constexpr WordRow kWords[] = {
      "ai pas besoin,n ai plus besoin,me servent pas,sert à rien,servent à rien,dont je n ai pas besoin,dont "
      "je n ai plus besoin,supprimant,en supprimant,effaçant,vidant,en vidant,enlevant,virant"},
     {Sense::undo,
-     "annuler,annule,restaurer,restaure,récupérer,récupère,rétablir,revenir en "
+     "réversible,annuler,annule,restaurer,restaure,récupérer,récupère,rétablir,revenir en "
      "arrière,remettre,restauré,restauration,retour en arrière,ravoir,retrouver,par "
      "erreur,récupérés,remets,remis,en arrière,par accident,faire marche arrière,restaurés,annulation"},
     {Sense::safe,
@@ -188,15 +191,16 @@ constexpr WordRow kWords[] = {
                     "vieux,les plus anciens,le plus ancien,les plus anciennes,la plus "
                     "ancienne,vieux,vieille,vieilles,anciens,anciennes,plus vieilles,plus vieille,ancien,les "
                     "plus vieilles,la plus vieille,ancienne,quel âge,âge"},
-    {Sense::newest,
-     "plus récent,plus récents,plus récente,plus récentes,les plus récents,le plus récent,récent,récents,les "
-     "plus récentes,la plus récente,nouveaux,nouveau,nouvelles,récentes,récemment,plus "
-     "récemment,changé,changés,modifié,modifiés,modifiées,ajouté,ajoutés,nouveautés"},
-    {Sense::grow,
-     "a pris du poids,a gonflé,a pris de la place,prend du "
-     "volume,grossi,grossit,grandi,grandit,augmenté,augmente,croissance,pris du volume,pris de la "
-     "place,gonflé,enflé,a augmenté,agrandi"},
-    {Sense::above, "plus de,au dessus de,supérieur à,supérieurs à,plus grand que,plus gros que,plus grands "
+    {Sense::newest, "dernièrement,ces derniers temps,plus récent,plus récents,plus récente,plus récentes,les "
+                    "plus récents,le plus récent,récent,récents,les "
+                    "plus récentes,la plus récente,nouveaux,nouveau,nouvelles,récentes,récemment,plus "
+                    "récemment,changé,changés,modifié,modifiés,modifiées,ajouté,ajoutés,nouveautés"},
+    {Sense::grow, "a pris du poids,a gonflé,a pris de la place,prend du "
+                  "volume,grossi,grossit,a grandi,ont grandi,grandit,augmenté,augmente,croissance,pris du "
+                  "volume,pris de la "
+                  "place,gonflé,enflé,a augmenté,agrandi"},
+    {Sense::above, "compare,comparer,comparé à,comparés à,plus de,au dessus de,supérieur à,supérieurs à,plus "
+                   "grand que,plus gros que,plus grands "
                    "que,au moins,dépassant,dépassent,de plus de,supérieures à,plus lourd que,plus lourds "
                    "que,ou plus,minimum,>,faisant plus de,plus grosses que,plus grandes que,et plus,pesant "
                    "plus de,plus d,dépasse,plus volumineux que,entre"},
@@ -218,13 +222,17 @@ constexpr WordRow kWords[] = {
                    "récent que,plus récents que,à partir de"},
     {Sense::after, "après,postérieur à,postérieurs à"},
     {Sense::last, "dernier,dernière,derniers,dernières,précédent,la dernière fois,précédente,dernière fois"},
-    {Sense::privacy, "internet,en ligne,réseau,privé,privées,vie "
-                     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
-                     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
-                     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
-                     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
-                     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
-                     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
+    {Sense::privacy,
+     "restent sur mon ordinateur,reste sur mon ordinateur,restent sur mon pc,restent chez moi,reste chez "
+     "moi,besoin d internet,besoin d une connexion,connexion internet,sans internet,hors connexion,regardes "
+     "mes fichiers,lis mes fichiers,lis tu mes,voit mes fichiers,voir mes fichiers,voir mes photos,voit mes "
+     "photos,ton entreprise,votre entreprise,votre société,internet,en ligne,réseau,privé,privées,vie "
+     "privée,confidentialité,confidentiel,cloud,nuage,télémétrie,envoyer,envoie,envoies,"
+     "envoyé,envoyées,envoyés,serveur,serveurs,espionne,espionnes,espionner,partager,partage,"
+     "partages,compte,hors ligne,téléverser,upload,collecte,collectes,données "
+     "personnelles,transmet,transmises,transmet tu,tiers,google,wifi,quitte,quittent,mes "
+     "données privées,rgpd,sur le net,espion,le web,transmettre,ia,sortent,pub,récolte,qui "
+     "peut voir,qui peut lire,qui a accès,connecté,connectée,voit mes mots de passe"},
     {Sense::hidden, "masqué,masqués,masquée,masquées,invisible,invisibles"},
     {Sense::folder, "dossier,dossiers,répertoire,répertoires,sous dossier,sous dossiers"},
     {Sense::general,
@@ -237,6 +245,8 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::systemAdvice, "anciens noyaux,vieux noyaux,noyaux,cache apt,apt,cache des paquets,journal "
+                              "système,journaux système,anciens snaps"},
     {SubjectID::leftovers,
      "restes d applications,restes d applications désinstallées,restes de programmes,restes de "
      "logiciels,restes d applis,résidus,résidus d applications,résidus de programmes,applications "
@@ -267,9 +277,9 @@ constexpr SubjectRow kSubjects[] = {
      "vieux fichiers,anciens fichiers,fichiers anciens,fichiers inutilisés,fichiers oubliés,vieux "
      "trucs,vieilles choses"},
     {SubjectID::oldDownloads, "vieux téléchargements,anciens téléchargements,téléchargements oubliés"},
-    {SubjectID::logs,
-     "journaux,logs,log,fichiers journaux,fichiers de log,fichiers log,journal,fichiers logs,journaux "
-     "système"},
+    {SubjectID::logs, "rapports de plantage,vidages mémoire,journaux,logs,log,fichiers journaux,fichiers de "
+                      "log,fichiers log,journal,fichiers logs,journaux "
+                      "système"},
     {SubjectID::trash, "corbeille,la corbeille,fichiers supprimés,la poubelle"},
     {SubjectID::deviceBackups,
      "sauvegardes iphone,sauvegarde iphone,sauvegarde d iphone,sauvegardes d iphone,sauvegardes "
@@ -396,6 +406,8 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::weekday, "jeudi", 4},
     {Figure::weekday, "vendredi", 5},
     {Figure::weekday, "samedi", 6},
+    {Figure::daysAgo, "aujourd hui,aujourdhui", 0},
+    {Figure::number, "un demi,demi", 0.5},
     {Figure::daysAgo, "hier", 1},
     {Figure::daysAgo, "avant-hier", 2},
     {Figure::agoBefore, "il y a"},

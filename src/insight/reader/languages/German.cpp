@@ -5,6 +5,9 @@ namespace orlen::AskReader {
 namespace german_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::ruleOut,
+     "ausschließen,schließe aus,ordner ausschließen,ausnahme hinzufügen,ausnahmen,ausnahmeliste,nie "
+     "scannen,nicht scannen,vom scan ausnehmen,whitelist,nie wieder vorschlagen,nicht mehr vorschlagen"},
     {Sense::installed, "installiert,sind installiert,ist installiert"},
     {Sense::self, "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist "
                   "du,was bist du,hilfe,hallo,hi,guten tag,guten morgen,moin,servus,danke,vielen dank,wie "
@@ -122,7 +125,7 @@ constexpr WordRow kWords[] = {
      "nicht,nicht mehr brauche,nicht brauche,brauch ich nicht,nicht mehr benötigt,nicht gebraucht,nicht mehr "
      "brauch,nicht mehr gebraucht,brauche ich nicht mehr,brauch ich nicht mehr,nicht benötigt,ich nicht "
      "brauche,ich nicht mehr brauche"},
-    {Sense::undo, "rückgängig,rückgängig "
+    {Sense::undo, "umkehrbar,rückgängig,rückgängig "
                   "machen,wiederherstellen,wiederherstelle,zurückholen,zurückbekommen,zurück,zurücknehmen,"
                   "wiederhergestellt,stelle wieder her,stell wieder her,wieder her,zurücksetzen,aus "
                   "versehen,versehentlich,zurückhole,wiederbekommen,wiederbekomme,hole zurück,wieder "
@@ -183,7 +186,7 @@ constexpr WordRow kWords[] = {
     {Sense::oldest,
      "älteste,ältesten,ältester,am ältesten,alte,alten,alter,uralte,altes,uralten,veraltete,alt,uralt"},
     {Sense::newest,
-     "dazu gekommen,neu dazugekommen,neu hinzugekommen,zuletzt runtergeladen,zuletzt "
+     "neulich,in letzter zeit,dazu gekommen,neu dazugekommen,neu hinzugekommen,zuletzt runtergeladen,zuletzt "
      "gespeichert,neueste,neuesten,neuester,jüngste,jüngsten,neuste,neusten,am "
      "neuesten,neue,neuen,kürzlich,aktuellste,frischeste,aktuellsten,zuletzt geändert,zuletzt "
      "geänderte,zuletzt geänderten,zuletzt hinzugefügt,zuletzt hinzugefügte,zuletzt bearbeitet,zuletzt "
@@ -191,7 +194,8 @@ constexpr WordRow kWords[] = {
     {Sense::grow, "wuchs,wuchsen,größer wurde,größer wurden,angestiegen,mehr geworden "
                   "ist,zunahm,gewachsen,wachsen,wächst,wachstum,größer "
                   "geworden,zugenommen,zunahme,zugelegt,angewachsen,gestiegen,mehr geworden"},
-    {Sense::above, "über,größer als,mehr als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
+    {Sense::above, "vergleiche,vergleich,verglichen mit,im vergleich zu,im vergleich,über,größer als,mehr "
+                   "als,mindestens,ab,grösser als,oder mehr,oder größer,schwerer "
                    "als,größer,länger als,minimum,>,und mehr,und größer,zwischen"},
     {Sense::below,
      "unter,kleiner als,weniger als,höchstens,maximal,bis zu,oder weniger,oder kleiner,kleiner,<"},
@@ -235,6 +239,9 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::systemAdvice,
+     "alte kernel,kernel,apt-cache,apt "
+     "cache,apt,paketcache,paket-cache,journal,systemprotokolle,systemlogs,alte snaps"},
     {SubjectID::leftovers,
      "reste von programmen,reste von "
      "apps,programmreste,überreste,überbleibsel,app-reste,zurückgelassen,hinterlassen,übrig gelassen,liegen "
@@ -265,7 +272,9 @@ constexpr SubjectRow kSubjects[] = {
      "alte dateien,alten dateien,alte datei,ungenutzte dateien,unbenutzte dateien,vergessene "
      "dateien,alte sachen,alter kram,altes zeug"},
     {SubjectID::oldDownloads, "alte downloads,alten downloads,vergessene downloads"},
-    {SubjectID::logs, "log,logs,logdatei,logdateien,protokolle,protokolldateien,protokolldatei,log-dateien"},
+    {SubjectID::logs, "absturzberichte,crash "
+                      "dumps,absturzprotokolle,absturzdateien,log,logs,logdatei,logdateien,protokolle,"
+                      "protokolldateien,protokolldatei,log-dateien"},
     {SubjectID::trash, "papierkorb,mülleimer,papierkorbs,gelöschte dateien,abfalleimer,trash"},
     {SubjectID::deviceBackups,
      "iphone backup,iphone backups,iphone-backup,iphone-backups,iphone sicherung,ipad "
@@ -390,6 +399,8 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::weekday, "donnerstag", 4},
     {Figure::weekday, "freitag", 5},
     {Figure::weekday, "samstag,sonnabend", 6},
+    {Figure::daysAgo, "heute", 0},
+    {Figure::number, "ein halbes,halbes,halbe,ein halber", 0.5},
     {Figure::daysAgo, "gestern", 1},
     {Figure::daysAgo, "vorgestern", 2},
     {Figure::agoBefore, "vor,seit"},

@@ -5,6 +5,9 @@ namespace orlen::AskReader {
 namespace italian_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::ruleOut,
+     "escludere una cartella,escludere un file,come escludo,come escludere,escludere dalla "
+     "scansione,esclusioni,aggiungere un eccezione,lista bianca,non suggerire più,non scansionare"},
     {Sense::installed,
      "installato,installati,installata,installate,è installato,sono installate,sono installati"},
     {Sense::self,
@@ -113,11 +116,12 @@ constexpr WordRow kWords[] = {
      "cancelli,elimini,sposta,sposti,rimuovi,tolti,buttato,superflue,non mi serve,non mi servono,non ho "
      "bisogno,che non mi serve,che non mi servono,non servono,non mi servono più,non mi serve più"},
     {Sense::undo,
-     "annullare,annulla,annullo,ripristinare,ripristino,ripristina,recuperare,recupero,recupera,tornare "
+     "reversibile,annullare,annulla,annullo,ripristinare,ripristino,ripristina,recuperare,recupero,recupera,"
+     "tornare "
      "indietro,riavere,rimettere,ripristinato,indietro,per errore,per sbaglio,riportare,rimetto,riportare "
      "indietro,recuperarlo,recuperarli,riprendere,rimettere a posto"},
     {Sense::safe,
-     "sicuro,sicura,sicuri,sicure,senza rischi,senza "
+     "grave,sicuro,sicura,sicuri,sicure,senza rischi,senza "
      "rischio,pericoloso,pericolosa,rischio,rischioso,innocuo,tranquillamente,senza problemi,in sicurezza,in "
      "modo sicuro,safe,senza pericolo,rischi,innocui,pericolosi,problema,problemi,senza timore,male"},
     {Sense::review, "review,controllare,da controllare,da rivedere,verificare,rivedere"},
@@ -178,7 +182,7 @@ constexpr WordRow kWords[] = {
      "più vecchio,più vecchi,più vecchia,più vecchie,i più vecchi,il più vecchio,le più vecchie,più "
      "antico,più datati,vecchio,vecchi,vecchia,vecchie,meno recente,meno recenti,la più vecchia,datati"},
     {Sense::newest,
-     "più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più "
+     "ultimamente,più recente,più recenti,i più recenti,il più recente,le più recenti,più nuovo,più "
      "nuovi,recenti,recente,nuovi,nuove,nuovo,più nuove,la più recente,più "
      "nuova,recentemente,nuova,cambiato,cambiati,modificato,modificati,modificate,aggiunto,aggiunti"},
     {Sense::grow,
@@ -186,7 +190,8 @@ constexpr WordRow kWords[] = {
      "ingrassato,cresciuto,cresciuti,cresciute,cresce,crescendo,crescita,aumentato,aumentati,aumenta,"
      "ingrandito,ingranditi,diventato più grande,aumentata,lievitato"},
     {Sense::above,
-     "più di,maggiore di,maggiori di,più grande di,più grandi di,superiore a,superiori "
+     "confronta,confrontare,rispetto ai,rispetto alle,più di,maggiore di,maggiori di,più grande di,più "
+     "grandi di,superiore a,superiori "
      "a,almeno,oltre,sopra,sopra i,sopra il,minimo,>,che superano,oltre i,o più,più pesanti di,più grossi "
      "di,oltre il,superano,supera,più grosse di,di più di,da più di,tra,fra,compresi tra"},
     {Sense::below, "meno di,minore di,minori di,più piccolo di,più piccoli di,inferiore a,inferiori a,al "
@@ -206,12 +211,17 @@ constexpr WordRow kWords[] = {
                    "recente di,più recenti di,a partire da,a partire dal,più nuovi di"},
     {Sense::after, "dopo,successivo a,successivi a,dopo il,in seguito a"},
     {Sense::last, "ultimo,ultima,ultimi,ultime,scorsa volta,precedente,l ultima volta,ultima volta"},
-    {Sense::privacy, "internet,online,rete,privato,privata,privati,privacy,cloud,nuvola,telemetria,inviare,"
-                     "invia,invii,inviati,server,spia,spii,spiare,condividere,condivide,condividi,account,"
-                     "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
-                     "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
-                     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
-                     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
+    {Sense::privacy,
+     "bisogno di internet,serve internet,connessione internet,connessione a internet,senza internet,usi "
+     "internet,leggi i miei,guardi i miei,vedi i miei file,vedere i miei file,vedere le mie foto,vede le mie "
+     "foto,vede i miei file,la tua azienda,vostra azienda,restano sul mio computer,rimangono sul mio "
+     "computer,restano sul "
+     "computer,internet,online,rete,privato,privata,privati,privacy,cloud,nuvola,telemetria,inviare,"
+     "invia,invii,inviati,server,spia,spii,spiare,condividere,condivide,condividi,account,"
+     "offline,caricare,carica,carichi,raccoglie,raccogli,dati "
+     "personali,terzi,google,wifi,mandi,manda,escono,trasmette,esce,riservatezza,riservati,"
+     "terze parti,in rete,ia,mandati,spiando,pubblicità,caricate,caricati,caricata,chi può "
+     "vedere,chi può leggere,chi ha accesso,connesso,connessa,vede le mie password"},
     {Sense::hidden, "nascosto,nascosti,nascosta,nascoste,invisibili"},
     {Sense::folder, "cartella,cartelle,directory,sottocartella,sottocartelle"},
     {Sense::general,
@@ -225,6 +235,8 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::systemAdvice, "vecchi kernel,kernel vecchi,kernel,cache di apt,cache apt,apt,cache dei "
+                              "pacchetti,registri di sistema,log di sistema,vecchi snap"},
     {SubjectID::leftovers,
      "resti di applicazioni,resti di programmi,resti di app,resti,residui,residui di programmi,residui di "
      "app,app disinstallate,programmi disinstallati,applicazioni disinstallate,app rimosse,programmi "
@@ -366,6 +378,8 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::weekday, "giovedì", 4},
     {Figure::weekday, "venerdì", 5},
     {Figure::weekday, "sabato", 6},
+    {Figure::daysAgo, "oggi", 0},
+    {Figure::number, "mezzo", 0.5},
     {Figure::daysAgo, "ieri", 1},
     {Figure::daysAgo, "l altro ieri,altroieri", 2},
     {Figure::ago, "fa"},

@@ -5,6 +5,9 @@ namespace orlen::AskReader {
 namespace spanish_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::ruleOut,
+     "excluir una carpeta,excluir un archivo,cómo excluyo,cómo excluir,excluir del "
+     "análisis,exclusiones,añadir una excepción,lista blanca,no volver a sugerir,no analizar"},
     {Sense::installed, "instalado,instalados,instalada,instaladas,está instalado,están instaladas,tengo "
                        "instaladas,tengo instalado"},
     {Sense::self,
@@ -109,7 +112,8 @@ constexpr WordRow kWords[] = {
                     "elimine,borre,quitado,no necesito,ya no necesito,no me hace falta,no me sirven,no me "
                     "sirve,que no necesito,que ya no necesito,no sirven"},
     {Sense::undo,
-     "deshacer,deshago,restaurar,restauro,restaura,recuperar,recupero,recupera,revertir,devolver,volver "
+     "reversible,deshacer,deshago,restaurar,restauro,restaura,recuperar,recupero,recupera,revertir,devolver,"
+     "volver "
      "atrás,dar marcha atrás,restaurado,recuperado,por error,sin querer,de vuelta,regresar,restablecer,traer "
      "de vuelta,por accidente,anular,recuperarlos,recuperarlo,restaurarlo,deshaz,echar atrás"},
     {Sense::safe, "seguro,segura,seguros,sin riesgo,sin "
@@ -174,7 +178,8 @@ constexpr WordRow kWords[] = {
                     "viejas,viejo,viejos,viejas,antiguos,antiguas,vieja,antiguo,la más antigua,el más "
                     "viejo,la más vieja,antigua,antigüedad"},
     {Sense::newest,
-     "más reciente,más recientes,los más recientes,el más reciente,las más recientes,más nuevo,más "
+     "últimamente,más reciente,más recientes,los más recientes,el más reciente,las más recientes,más "
+     "nuevo,más "
      "nuevos,recientes,reciente,nuevos,nuevas,nuevo,más nuevas,último añadido,la más reciente,más "
      "nueva,recientemente,cambiado,cambiados,modificado,modificados,modificadas,añadido,añadidos,cambió,"
      "agregado"},
@@ -183,7 +188,8 @@ constexpr WordRow kWords[] = {
      "aumentado,crecido,crece,creció,creciendo,crecimiento,crecer,aumentado,aumentó,aumenta,engordado,han "
      "crecido,ha crecido"},
     {Sense::above,
-     "más de,mayor que,mayores que,mayor de,mayores de,más grande que,más grandes que,superior a,superiores "
+     "compara,comparar,comparado con,más de,mayor que,mayores que,mayor de,mayores de,más grande que,más "
+     "grandes que,superior a,superiores "
      "a,al menos,por encima de,mínimo,>,que pesen más de,o más,que superen,por lo menos,más grandes de,que "
      "pasen de,más pesados que,sobre los,superan,supera,que pese más de,que pesen mas de,que ocupe más "
      "de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que supere,que pesen,entre"},
@@ -226,6 +232,8 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::systemAdvice, "núcleos antiguos,kernels antiguos,kernels viejos,kernels,caché de "
+                              "apt,apt,caché de paquetes,registros del sistema,snaps antiguos"},
     {SubjectID::leftovers,
      "restos de aplicaciones,restos de programas,restos de apps,restos,residuos,residuos de "
      "programas,aplicaciones desinstaladas,programas desinstalados,apps desinstaladas,aplicaciones "
@@ -374,6 +382,8 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::weekday, "jueves", 4},
     {Figure::weekday, "viernes", 5},
     {Figure::weekday, "sábado", 6},
+    {Figure::daysAgo, "hoy", 0},
+    {Figure::number, "medio", 0.5},
     {Figure::daysAgo, "ayer", 1},
     {Figure::daysAgo, "anteayer,antier", 2},
     {Figure::agoBefore, "hace"},

@@ -1,0 +1,64 @@
+#include "insight/AskWorld.h"
+
+namespace orlen {
+namespace {
+
+using AskParaphrasesTest = AskWorld;
+
+constexpr Row kWhatMatters[] = {
+    {"anything over half a gig", "files over 500 MB", "I don't know"},
+    {"did i download anything today", "changed from 1 June 2026", "takes 15 GB"},
+    {"what can i delete today", "You could free about"},
+    {"my ssd is 256 gb, how much is left", "120 GB is free", "No."},
+    {"how much have I used more than last month", "I don't know that", "changed"},
+    {"did anything shrink", "I don't know that", "could free"},
+    {"why did my free space drop since yesterday", "grew the most|~/Videos"},
+    {"did my caches grow", "~/.cache has grown by 2 GB", "full"},
+    {"are there duplicate files and how much would i gain", "Without the duplicate files|40 MB", "4.1 GB"},
+    {"if i delete all caches how much do i get back", "Without the caches|4 GB more"},
+    {"are my documents bigger than my music", "Of documents|Of audio files"},
+    {"how often should i clean", "", "2 clean-ups"},
+    {"what are all those crash dumps", "Log files: 20 MB", "could free"},
+    {"'; DROP TABLE files; --", "I don't know that", "Safe"},
+    {"is 67% full bad", "120 GB is free"},
+    {"what has grown since the beginning of the year", "Since 28 April 2026|~/Videos: 49 GB"},
+};
+
+constexpr Row kWhereElse[] = {
+    {"old kernels", "orlen advice"},
+    {"clear apt cache", "orlen advice"},
+    {"leftovers of apps I removed", "orlen leftovers", "55 GB"},
+    {"how do i exclude a folder", "orlen exclude"},
+    {"how do i stop nextcloud from starting", "Nextcloud|orlen startup"},
+    {"what does orlen refuse to delete", "never touches what is protected"},
+    {"where do deleted things go and can I empty it", "History can put it back", "could free"},
+    {"can anyone at your company see my photos", "Nothing leaves this computer"},
+    {"what is counted as System", "no other category counts"},
+};
+
+constexpr Row kOtherLanguages[] = {
+    {"was bringt es wenn ich alle caches lösche", "Without the caches"},
+    {"reste deinstallierter programme", "orlen leftovers"},
+    {"wieviel hab ich bisher insgesamt freigeräumt", "2 clean-ups"},
+    {"was bedeutet Prüfen im Unterschied zu Sicher", "Safe:|Review:", "lists"},
+    {"restes d'applications désinstallées", "orlen leftovers", "55 GB"},
+    {"que se passe-t-il au démarrage de la session", "Nextcloud"},
+    {"est-ce que mes données restent sur mon ordinateur", "Nothing leaves"},
+    {"que aplicaciones tengo instaladas", "lists 3 applications"},
+    {"que significa la etiqueta Conservar", "Keep:"},
+    {"puedo borrar mis backups del iphone", "no device backups"},
+    {"quando ho fatto l'ultima pulizia", "20 May 2026"},
+    {"hai bisogno di internet per funzionare", "Nothing leaves"},
+    {"cosa è cresciuto dall'inizio dell'anno", "Since 28 April 2026"},
+};
+
+} // namespace
+
+TEST_F(AskParaphrasesTest, saidInOtherWords)
+{
+    for (const auto& rows : {std::span<const Row>(kWhatMatters), std::span<const Row>(kWhereElse),
+                             std::span<const Row>(kOtherLanguages)})
+        expectAnswers(rows);
+}
+
+} // namespace orlen
