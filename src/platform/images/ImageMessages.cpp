@@ -220,7 +220,7 @@ std::optional<Question> decodedQuestion(std::string_view bytes)
     return reader.isValidWhole() ? std::optional(question) : std::nullopt;
 }
 
-std::string encoded(const Answer& answer)
+std::string encoded(const Answer& answer, Outlines outlines)
 {
     MessageWriter writer;
     writer.put(answer.analysis ? kPicture : kNoPicture);
@@ -231,11 +231,13 @@ std::string encoded(const Answer& answer)
     writer.put(std::int32_t{analysis.height});
     writer.put(analysis.sharpness);
     put(writer, analysis.traits);
-    writer.put(analysis.print ? kPrint : kNoPrint);
+    const auto kind = outlines == Outlines::with ? kPrint : kPlainPrint;
+    writer.put(analysis.print ? kind : kNoPrint);
     if (analysis.print) {
         writer.put(analysis.print->direction());
         writer.put(analysis.print->packedTile());
-        put(writer, analysis.print->outline());
+        if (kind == kPrint)
+            put(writer, analysis.print->outline());
     }
     putLabels(writer, analysis.labels);
     return writer.bytes();

@@ -45,9 +45,11 @@ struct Answer {
     std::optional<ImageAnalysis> analysis; ///< absent: not a readable picture
 };
 
-/// Labels beyond the limits are left out. Answers are also kept on the disk, so those of earlier builds,
-/// which had no outlines, are understood.
-[[nodiscard]] std::string encoded(const Answer& answer);
+/// Whether a print's outline is said, too. Without, an answer is a seventh shorter, and decoding it takes
+/// longer.
+enum class Outlines { with, without };
+/// Labels beyond the limits are left out. Answers are also kept on the disk.
+[[nodiscard]] std::string encoded(const Answer& answer, Outlines outlines = Outlines::with);
 /// Nothing for bytes that no recognizer would send: wrong lengths, numbers that are NaN or out of range, text
 /// that is not UTF-8.
 [[nodiscard]] std::optional<Answer> decodedAnswer(std::string_view bytes);

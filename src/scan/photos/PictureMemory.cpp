@@ -19,6 +19,7 @@ namespace orlen {
 
 namespace {
 
+using ImageMessages::Outlines;
 using PictureRecords::Key;
 using PictureRecords::KeyHash;
 using PictureRecords::Record;
@@ -28,6 +29,9 @@ using Keys = std::unordered_set<Key, KeyHash>;
 constexpr std::chrono::hours kUseStep{24};
 /// A file that was no picture is tried again: perhaps the machine was busy, or short of memory.
 constexpr std::chrono::hours kDoubtful{7 * 24};
+
+/// About, with an outline; in bytes.
+constexpr std::size_t kLongestRecord = 4'500;
 
 constexpr unsigned kFolderMode = 0700;
 
@@ -47,8 +51,8 @@ struct Old {
 class NextFile {
 public:
     /// `added`: encoded records.
-    NextFile(const PictureFile& file, std::vector<std::string> added, std::vector<Old> old)
-        : m_file(file), m_added(std::move(added)), m_old(std::move(old))
+    NextFile(const PictureFile& file, std::vector<std::string> added, std::vector<Old> old, Outlines outlines)
+        : m_file(file), m_added(std::move(added)), m_old(std::move(old)), m_outlines(outlines)
     {
     }
 
@@ -99,13 +103,15 @@ private:
             return {};
         // As it would be said today.
         const auto answer = ImageMessages::decodedAnswer(record->answer);
-        const std::string today = answer ? ImageMessages::encoded(*answer) : std::string(record->answer);
+        const std::string today =
+            answer ? ImageMessages::encoded(*answer, m_outlines) : std::string(record->answer);
         return PictureRecords::encoded({record->key, old.used, today});
     }
 
     const PictureFile& m_file;
     std::vector<std::string> m_added;
     std::vector<Old> m_old;
+    Outlines m_outlines;
     bool m_isStarted = false;
     std::size_t m_next = 0; ///< of both, one after the other
     std::string m_piece;
@@ -155,12 +161,10 @@ void PictureMemory::remember(const std::vector<Learned>& learned, TimePoint now)
     OwnFile::removeUnfinished(folder);
     // One record for each file.
     Keys seen;
-    std::vector<std::string> added;
-    for (const auto& [stamp, analysis] : learned) {
-        if (!seen.insert(Key::of(stamp)).second)
-            continue;
-        const std::string answer = ImageMessages::encoded(ImageMessages::Answer{analysis});
-        added.push_back(PictureRecords::encoded({Key::of(stamp), now, answer}));
+    std::vector<const Learned*> news;
+    for (const Learned& each : learned) {
+        if (seen.insert(Key::of(each.first)).second)
+            news.push_back(&each);
     }
     // Once more, as another process may have written it since.
     const PictureFile file(m_path, m_mostBytes);
@@ -169,7 +173,14 @@ void PictureMemory::remember(const std::vector<Learned>& learned, TimePoint now)
         if (seen.insert(record.key).second)
             old.push_back({m_used.contains(record.key) ? now : std::min(record.used, now), place});
     });
-    NextFile next(file, std::move(added), std::move(old));
+    // Rather many pictures than what can be made again.
+    const Outlines outlines = seen.size() > m_mostBytes / kLongestRecord ? Outlines::without : Outlines::with;
+    std::vector<std::string> added;
+    for (const Learned* const each : news) {
+        const std::string answer = ImageMessages::encoded(ImageMessages::Answer{each->second}, outlines);
+        added.push_back(PictureRecords::encoded({Key::of(each->first), now, answer}));
+    }
+    NextFile next(file, std::move(added), std::move(old), outlines);
     next.shorten(m_mostBytes);
     (void)OwnFile::replaceByPieces(m_path, [&next] { return next.piece(); });
 }

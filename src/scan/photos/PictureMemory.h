@@ -43,7 +43,7 @@ public:
     void remember(const std::vector<Learned>& learned, TimePoint now);
 
 private:
-    static constexpr std::size_t kMostBytes = 250'000'000;
+    static constexpr std::size_t kMostBytes = 200'000'000;
 
     std::string m_path;
     std::size_t m_mostBytes;
