@@ -38,9 +38,9 @@ std::vector<std::string> fileNames(const std::string& path)
 std::array<Size, kSizes.size()> bestFirst(int pixels)
 {
     auto sizes = kSizes;
-    const auto larger =
-        std::ranges::stable_partition(sizes, [pixels](const Size& size) { return size.pixels >= pixels; });
-    std::ranges::reverse(larger);
+    auto* const smaller = std::stable_partition(sizes.begin(), sizes.end(),
+                                                [pixels](const Size& size) { return size.pixels >= pixels; });
+    std::reverse(smaller, sizes.end());
     return sizes;
 }
 
