@@ -2,6 +2,7 @@
 
 #include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <QCryptographicHash>
 #include <QUrl>
@@ -60,11 +61,11 @@ std::vector<std::string> candidates(const std::string& path, int pixels)
         if (!isRealFolder(folder))
             continue;
         for (const Size& size : bestFirst(pixels)) {
-            const std::string sized = folder + '/' + size.folder;
+            const std::string sized = PathText::join(folder, size.folder);
             if (!isRealFolder(sized))
                 continue;
             for (const std::string& name : names) {
-                if (std::string file = sized + '/' + name; exists(file))
+                if (std::string file = PathText::join(sized, name); exists(file))
                     found.push_back(std::move(file));
             }
         }
