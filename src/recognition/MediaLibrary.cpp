@@ -27,11 +27,8 @@ struct Functions {
                           unsigned kind, unsigned search) = nullptr;
 };
 
-Functions& functions()
-{
-    static Functions functions;
-    return functions;
-}
+/// Written by `load` alone.
+Functions s_library;
 
 template <typename Function>
 bool find(void* library, const char* name, Function*& function)
@@ -95,7 +92,7 @@ void feed(void* handle, int descriptor)
     const auto length = static_cast<std::uint64_t>(std::max<off_t>(0, ::lseek(descriptor, 0, SEEK_END)));
     std::vector<std::uint8_t> bytes(kAtOnce);
     std::uint64_t place = 0;
-    const Functions& library = functions();
+    const Functions& library = s_library;
     library.begin(handle, length, 0);
     for (int times = 0; times < kMostTimes && place < length; ++times) {
         const auto got =
@@ -124,36 +121,36 @@ bool load()
         return false;
     // Its tables are made with the first one.
     found.remove(found.make());
-    functions() = found;
+    s_library = found;
     return true;
 }
 
 bool isLoaded()
 {
-    return functions().make != nullptr;
+    return s_library.make != nullptr;
 }
 
-Report::Report(int descriptor) : m_handle(functions().make())
+Report::Report(int descriptor) : m_handle(s_library.make())
 {
     feed(m_handle, descriptor);
 }
 
 Report::~Report()
 {
-    functions().remove(m_handle);
+    s_library.remove(m_handle);
 }
 
 std::size_t Report::count(Stream stream) const
 {
     constexpr auto kAll = static_cast<std::size_t>(-1);
-    return functions().count(m_handle, static_cast<unsigned>(stream), kAll);
+    return s_library.count(m_handle, static_cast<unsigned>(stream), kAll);
 }
 
 std::string Report::text(Stream stream, std::size_t number, const wchar_t* field) const
 {
     constexpr unsigned kText = 1;
     constexpr unsigned kByName = 0;
-    return utf8(functions().get(m_handle, static_cast<unsigned>(stream), number, field, kText, kByName));
+    return utf8(s_library.get(m_handle, static_cast<unsigned>(stream), number, field, kText, kByName));
 }
 
 double Report::number(Stream stream, std::size_t number, const wchar_t* field) const

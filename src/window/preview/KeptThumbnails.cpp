@@ -2,6 +2,7 @@
 
 #include "platform/files/FileStatus.h"
 #include "platform/files/Places.h"
+#include "platform/text/PathText.h"
 
 #include <QCryptographicHash>
 #include <QUrl>
@@ -38,9 +39,9 @@ std::vector<std::string> fileNames(const std::string& path)
 std::array<Size, kSizes.size()> bestFirst(int pixels)
 {
     auto sizes = kSizes;
-    const auto larger =
-        std::ranges::stable_partition(sizes, [pixels](const Size& size) { return size.pixels >= pixels; });
-    std::ranges::reverse(larger);
+    auto* const smaller = std::stable_partition(sizes.begin(), sizes.end(),
+                                                [pixels](const Size& size) { return size.pixels >= pixels; });
+    std::reverse(smaller, sizes.end());
     return sizes;
 }
 
@@ -60,11 +61,11 @@ std::vector<std::string> candidates(const std::string& path, int pixels)
         if (!isRealFolder(folder))
             continue;
         for (const Size& size : bestFirst(pixels)) {
-            const std::string sized = folder + '/' + size.folder;
+            const std::string sized = PathText::join(folder, size.folder);
             if (!isRealFolder(sized))
                 continue;
             for (const std::string& name : names) {
-                if (std::string file = sized + '/' + name; exists(file))
+                if (std::string file = PathText::join(sized, name); exists(file))
                     found.push_back(std::move(file));
             }
         }
