@@ -18,7 +18,8 @@ bool isInUse(const QQuickItem& item)
     return item.isEnabled() && item.isVisible();
 }
 
-/// Sheets and menus see to their keyboard themselves: at the end of a clean-up, Enter is for the sheet as such.
+/// Sheets and menus see to their keyboard themselves: at the end of a clean-up, Enter is for the sheet as
+/// such.
 bool isInPopup(const QQuickItem* item)
 {
     while (item != nullptr && !item->inherits("QQuickOverlay"))
@@ -57,8 +58,12 @@ void FocusKeeper::setWindow(QQuickWindow* window)
 
 bool FocusKeeper::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress)
+    if (event->type() == QEvent::KeyPress) {
+        m_isKeyed = true;
         giveOn();
+    } else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+        m_isKeyed = false;
+    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -70,7 +75,9 @@ void FocusKeeper::follow()
         m_last = item;
         m_hadOne = true;
     }
-    m_timer.start();
+    // Under a pointer nothing is to move; the next key comes in time.
+    if (m_isKeyed)
+        m_timer.start();
 }
 
 /// What takes the keyboard instead; null if it is where it should be.

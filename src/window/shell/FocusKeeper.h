@@ -35,6 +35,7 @@ private:
     QPointer<QQuickWindow> m_window;
     QPointer<QQuickItem> m_last; ///< the last item that had the keyboard and was in use
     bool m_hadOne = false;       ///< whether there was one, which may be gone
+    bool m_isKeyed = false;      ///< whether a key came after the last press of a pointer
     QTimer m_timer;
 };
 
