@@ -266,6 +266,7 @@ inline constexpr Text kLookFirst = message("Look at it before you remove it.");
 // TRANSLATORS: {title} is a group of files such as "Log files"; {rating} is "Safe", "Review" or "Keep".
 inline constexpr Text kPartOf = message("It is part of {path}, listed under “{title}” and rated {rating}.");
 inline constexpr Text kNowhere = message("I find nothing called “{name}” in your home folder.");
+inline constexpr Text kNotThere = message("I find nothing called “{name}” in {folder}.");
 inline constexpr Text kTrashedEarlier = message("{path} ({size}) was moved to the Trash by an earlier "
                                                 "clean-up. History can put it back.");
 inline constexpr Text kNotListed =

@@ -36,6 +36,13 @@ protected:
             {entry("Projects/engine/target", 8 * kBytesInMB), entry(".cache/pip-tools", kBytesInMB)});
         add(FindingKind::oldFiles, Rating::review, message("Not opened for long."),
             {entry("Music/Evening set.flac", 10 * kBytesInMB)});
+        file(".config/blender/settings", kBytesInMB / 8, "2026-02-01");
+        file(".cache/thunderbird/x", kBytesInMB / 8, "2026-02-01");
+        add(FindingKind::caches, Rating::safe, message("Made again."),
+            {entry(".cache/thunderbird", kBytesInMB / 8)});
+        context.protection = [this](std::string_view path) {
+            return path == home.path(".thunderbird") ? Protection::mail : Protection::none;
+        };
         context.breakdown.folders.clear();
         context.home = HomeWalk::walk({});
     }
@@ -50,9 +57,9 @@ protected:
 
 constexpr Row kFiles[] = {
     {"10 biggest files",
-     "Of files there are 19|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 9 more"},
+     "Of files there are 21|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 11 more"},
     {"what is the biggest file", "~/.backup.img (13 MB), changed 3 May 2026", "backup-2025|more"},
-    {"the three largest files", "~/.backup.img|~/backup-2025.img|Lake house.mkv|and 16 more", "Evening"},
+    {"the three largest files", "~/.backup.img|~/backup-2025.img|Lake house.mkv|and 18 more", "Evening"},
     {"files over 9.5 MB", "Of files over 9.5 MB there are 4|Evening set.flac", "Matinee"},
     {"show me the biggest videos", "Of videos there is 1, 11 MB in all.|Lake house.mkv", "img"},
     {"show me all .img files", "Of files ending in .img there are 3|disk.img (8 MB)|App caches, Review"},
@@ -81,10 +88,10 @@ constexpr Row kFolders[] = {
     {"biggest folders", "Of folders there are|~/Music — 19 MB", "target"},
     {"three largest folders in Projects", "Of folders in ~/Projects there are 2|~/Projects/engine — 8 MB",
      "target"},
-    {"biggest hidden folders", "~/.cache — 2 MB", "Music"},
+    {"biggest hidden folders", "~/.cache — 2.1 MB", "Music"},
     {"zeig mir die 3 größten Dateien in Downloads", "Floor plan (1).pdf|garden plan.pdf|setup.deb",
      "~/.cache"},
-    {"how big is my .cache folder", "~/.cache takes 2 MB", "category"},
+    {"how big is my .cache folder", "~/.cache takes 2.1 MB", "category"},
     {"whats the size of the Tools folder", "~/Tools takes 999 KB", "pip-tools"},
     {"how big is my music folder", "~/Music takes 19 MB"},
     {"how big is my home folder", "~ takes"},
@@ -108,6 +115,9 @@ constexpr Row kNames[] = {
     {"delete node_modules?", "~/Projects/site/node_modules takes 2 MB"},
     {"how big is pip-tools in .cache", "~/.cache|listed under “App caches”"},
     {"can I delete Evening set.flac", "Evening set.flac (10 MB) in ~/Music, listed under", "fit"},
+    {"what is blender", "The application Blender takes 3 GB", ".config"},
+    {"can I delete thunderbird", "~/.thunderbird is protected|thunderbird (125 KB) in ~/.cache"},
+    {"where is saw.txt in Music", "I find nothing called “saw.txt” in ~/Music."},
     {"can i delete vacation2019.zip", "I find nothing called “vacation2019.zip” in your home folder."},
     {"how big is projects/ENGINE", "~/Projects/engine takes 8 MB"},
     {"was ist backup-2025.img", "~/backup-2025.img takes 12 MB"},
@@ -137,7 +147,7 @@ TEST_F(AskHomeTest, linesLinkToTheirFindings)
     const Answer answer = AskEngine::answer("the two biggest flac files", context);
     EXPECT_THAT(answer.paths,
                 ElementsAre(home.path("Music/Evening set.flac"), home.path("Music/Matinee.flac")));
-    EXPECT_THAT(answer.findingIDs, ElementsAre(context.findings.back().id()));
+    EXPECT_THAT(answer.findingIDs, ElementsAre(context.findings[1].id()));
     EXPECT_THAT(AskEngine::answer("biggest videos", context).findingIDs, IsEmpty());
 }
 

@@ -1,5 +1,6 @@
 #include "tools/DiskMap.h"
 
+#include "scan/HomeWalk.h"
 #include "support/TempHome.h"
 
 #include <gmock/gmock.h>
@@ -182,6 +183,23 @@ TEST(DiskMapTest, aWideFolderLosesNothing)
         sum += node.size;
     EXPECT_EQ(sum, kKiB * 6 * 3000);
     EXPECT_EQ(DiskMap::children(home.path("map")).back().name, "2940 smaller items");
+}
+
+TEST(DiskMapTest, agreesWithTheWalkOfTheHomeFolder)
+{
+    const TempHome home;
+    home.fileOfSize("a/b/c", 4 * kKiB);
+    home.fileOfSize("a/d", 8 * kKiB);
+    home.fileOfSize(".hidden/e", 12 * kKiB);
+    ASSERT_EQ(::link(home.path("a/d").c_str(), home.path("a/b/again").c_str()), 0);
+    const auto files = HomeWalk::walk({});
+    const std::vector<TreeNode> nodes = DiskMap::children(home.path());
+    ASSERT_THAT(nodes, SizeIs(testing::Ge(2U)));
+    for (const TreeNode& node : nodes) {
+        const auto folder = files->folderAt(node.path);
+        EXPECT_TRUE(!folder || files->folder(*folder).bytes == node.size) << node.path;
+    }
+    EXPECT_EQ(files->folder(files->folderAt(home.path("a")).value()).bytes, 12 * kKiB);
 }
 
 TEST(DiskMapTest, aStoppedMeasurementEnds)

@@ -1,5 +1,6 @@
 #include "insight/reader/NameReplies.h"
 
+#include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
@@ -10,6 +11,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 #include <vector>
@@ -177,16 +179,48 @@ bool mayBePartOfName(const Question& question)
            (question.phrases.size() == 2 && question.senses.has(Sense::what));
 }
 
+/// The folder in which it is said to lie; empty if none is known.
+std::string placeOf(const Question& question, const AskContext& context, const AskedName& asked)
+{
+    if (!asked.place.empty())
+        return folderNamed(context, asked.place);
+    for (std::size_t i = 1; context.home != nullptr && i < question.phrases.size(); ++i) {
+        const Subject* const subject = question.phrases[i].subject;
+        if (subject == nullptr || question.phrases[i - 1].sense != Sense::inside)
+            continue;
+        if (std::string folder = folderOf(*subject); context.home->folderAt(folder))
+            return folder;
+    }
+    return {};
+}
+
+/// Whether what was found is more than folders that programs have named after themselves.
+bool isSureOf(const Found& found, const Question& question, const AskedName& asked)
+{
+    return !found.hits.empty() || !asked.place.empty() || question.senses.has(Sense::folder) ||
+           isFileName(question, asked.name) ||
+           std::ranges::any_of(found.measured, [](const Measured& each) { return each.isOwn; });
+}
+
+/// What was found, after the word that something else of that name is protected.
+Answer shielded(std::string_view guarded, const AskContext& context, Answer answer)
+{
+    Answer all = protectedPlace(guarded, protectionOf(context, guarded));
+    all.text = AskText::lines({std::move(all.text), std::move(answer.text)});
+    all.findingIDs = std::move(answer.findingIDs);
+    std::ranges::move(answer.paths, std::back_inserter(all.paths));
+    return all;
+}
+
 } // namespace
 
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
-    const std::string folder = place.empty() ? std::string() : folderNamed(context, place);
-    if (name.empty() || hasOtherNames(question, name, place))
-        return std::nullopt;
-    if ((folder.empty() && !place.empty() && !isFileName(question, name)))
+    const std::string folder = placeOf(question, context, asked);
+    if (name.empty() || hasOtherNames(question, name, place) ||
+        (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
@@ -196,20 +230,27 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     if (!folder.empty()) {
         narrow(found, folder);
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
-            return notFound(name, context);
+            return Answer{Message{InsightTexts::kNotThere,
+                                  {{"name", PathText::forDisplay(name)}, {"folder", tilde(folder)}}},
+                          {}};
     }
     keepMeant(found, question, asked);
-    if (found.fit < Fit::stem && !isNarrowed) {
+    const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
+    if (!isSure && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
             return app;
     }
     const std::string guarded = protectedPath(question, context, name);
-    if (!guarded.empty() && (found.fit < Fit::whole || isOfMail(question)))
+    if (!guarded.empty() && (found.fit < Fit::whole || !isSure || isOfMail(question)))
         return protectedPlace(guarded, protectionOf(context, guarded));
-    if (found.fit < Fit::stem && !isFileName(question, name) && !mayBePartOfName(question))
+    if (found.fit < Fit::stem && found.measured.empty() && !isFileName(question, name) &&
+        !mayBePartOfName(question))
         return std::nullopt;
-    if (!found.hits.empty())
-        return listedHits(context, found, PathText::forDisplay(name));
+    if (!found.hits.empty()) {
+        Answer listed = listedHits(context, found, PathText::forDisplay(name));
+        const bool isOther = !guarded.empty() && !isNarrowed && pathIn(name).empty() && place.empty();
+        return isOther ? shielded(guarded, context, std::move(listed)) : std::move(listed);
+    }
     if (!found.measured.empty())
         return measuredOnly(question, context, found, PathText::forDisplay(name));
     if (!found.trashed.empty())
