@@ -28,7 +28,7 @@ Pressable {
             anchors.left: parent.left
             anchors.leftMargin: Theme.spaceS
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, arrow.x - x - Theme.spaceXs)
+            width: Math.min(implicitWidth, parent.width - arrow.width - 2 * Theme.spaceS - Theme.spaceXs)
             text: root.text
             color: Theme.text
             font.weight: Font.DemiBold

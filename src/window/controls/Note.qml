@@ -8,7 +8,7 @@ Row {
     required property string text
     property string symbol: "info.circle"
     property color ink: Theme.secondary
-    property alias maximumLineCount: label.maximumLineCount
+    readonly property alias lineCount: label.lineCount
 
     spacing: Theme.spaceS
 
@@ -25,7 +25,7 @@ Row {
     Paragraph {
         id: label
 
-        width: root.width - (sign.visible ? sign.width + root.spacing : 0)
+        width: root.width - (root.symbol === "" ? 0 : sign.width + root.spacing)
         text: root.text
         color: root.ink
         font.pixelSize: Theme.captionSize

@@ -18,8 +18,8 @@ Item {
     property string figureName: ""
     property string actionName: "primaryAction"
     property string cancelName: ""
-    /// Whether the window has little height: then the note is one line, and only there if there is room for it,
-    /// unless it warns.
+    /// Whether the window has little height: then the note is only there if it fits into one line, unless it
+    /// warns.
     readonly property bool isLow: Theme.isLow(root.Window.height)
     readonly property bool isWarning: !Qt.colorEqual(root.noteInk, Theme.secondary)
     readonly property real margin: root.isLow ? Theme.spaceL : Theme.spaceXl
@@ -31,6 +31,7 @@ Item {
                                         + (root.isSecondWide ? second.implicitWidth : brief.implicitWidth)
     readonly property real buttonsWidth: main.implicitWidth + root.secondWidth
     readonly property real noteWidth: root.room - total.width - Theme.spaceL
+    readonly property real noteHeight: remark.visible ? remark.height : total.height
     readonly property real besideWidth: root.noteWidth - root.buttonsWidth - Theme.spaceL
     /// Whether the buttons are below the note, since there is no room for it beside them.
     readonly property bool isTall: root.besideWidth < (root.isLow && !root.isWarning ? -Theme.spaceL
@@ -41,8 +42,8 @@ Item {
     height: {
         if (!root.shown)
             return 12;
-        const beside = Math.max(root.isLow ? buttons.height : Theme.mainControlHeight, remark.height);
-        return Math.ceil(root.isTall ? remark.height + Theme.spaceS + buttons.height : beside)
+        const beside = Math.max(root.isLow ? buttons.height : Theme.mainControlHeight, root.noteHeight);
+        return Math.ceil(root.isTall ? root.noteHeight + Theme.spaceS + buttons.height : beside)
                 + (root.isLow ? Theme.spaceL : 28);
     }
     visible: root.shown
@@ -58,9 +59,7 @@ Item {
         anchors.leftMargin: root.margin
         y: root.isTall ? root.isLow ? Theme.spaceS : 14 : (root.height - height) / 2
         width: root.isTall ? root.noteWidth : Math.max(0, root.besideWidth)
-        visible: width > Theme.grown(60)
-        // A warning is read to its end.
-        maximumLineCount: root.isLow && !root.isWarning ? 1 : 20
+        visible: width > Theme.grown(60) && (!root.isLow || root.isWarning || lineCount === 1)
         text: root.note
         symbol: root.noteSymbol
         ink: root.noteInk
@@ -72,7 +71,7 @@ Item {
         objectName: root.figureName
         anchors.right: root.isTall ? buttons.right : buttons.left
         anchors.rightMargin: root.isTall ? 0 : Theme.spaceL
-        y: root.isTall ? remark.y + (remark.height - height) / 2 : (root.height - height) / 2
+        y: root.isTall ? remark.y + (root.noteHeight - height) / 2 : (root.height - height) / 2
         text: root.figure
         font.weight: Font.Bold
         Accessible.role: Accessible.StaticText
@@ -83,7 +82,7 @@ Item {
 
         anchors.right: parent.right
         anchors.rightMargin: root.margin
-        y: root.isTall ? remark.y + remark.height + Theme.spaceS : (root.height - height) / 2
+        y: root.isTall ? remark.y + root.noteHeight + Theme.spaceS : (root.height - height) / 2
         width: Math.min(root.buttonsWidth, root.room)
         spacing: Theme.spaceS
 

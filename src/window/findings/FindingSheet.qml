@@ -62,7 +62,7 @@ Sheet {
         Paragraph {
             width: parent.width
             text: contents.header.explanation
-            maximumLineCount: root.isLow ? 1 : 3
+            maximumLineCount: 3
         }
 
         Paragraph {

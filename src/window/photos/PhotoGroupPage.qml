@@ -136,7 +136,8 @@ Item {
 
                 objectName: "photoFoldersThatStay"
                 anchors.verticalCenter: parent.verticalCenter
-                visible: root.inSets
+                width: Math.min(implicitWidth, parent.width * 0.4)
+                visible: root.inSets && tools.visible
                 findingId: root.findingId
             }
         }

@@ -75,7 +75,7 @@ Sheet {
         Paragraph {
             objectName: "reviewLead"
             width: parent.width
-            maximumLineCount: root.isLow ? 1 : 6
+            maximumLineCount: 6
             text: Strings.reviewLead(plan.checkedCount)
         }
     }
