@@ -71,7 +71,7 @@ public:
         const bool isOwnOnly = m_request.isOwnOnly && m_home.folder(m_place).isOwn;
         const HomeFiles::Range folders = m_home.foldersFrom(m_place);
         for (Number folder = folders.first; folder < folders.last;) {
-            if ((isOwnOnly && !m_home.folder(folder).isOwn) || isLeftOut(folder)) {
+            if ((isOwnOnly && !m_home.folder(folder).isOwn) || isLeftOut(folder) || isOtherTrash(folder)) {
                 folder = m_home.foldersFrom(folder).last;
                 continue;
             }
@@ -103,6 +103,15 @@ public:
     }
 
 private:
+    /// What lies in the Trash is no "mp4 I have", unless that is where to look.
+    [[nodiscard]] bool isOtherTrash(Number folder) const
+    {
+        if (m_request.ending.empty() || folder == m_place)
+            return false;
+        const std::string_view name = m_home.folderName(folder);
+        return name.starts_with(".Trash-") || (name == "Trash" && !m_home.folder(folder).isOwn);
+    }
+
     [[nodiscard]] bool isLeftOut(Number folder) const
     {
         return !m_request.exclusions.empty() && m_request.exclusions.leaveOut(m_home.folderPath(folder));

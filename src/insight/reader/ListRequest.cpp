@@ -5,6 +5,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -111,12 +112,15 @@ bool takeDate(const Question& question, TimePoint now, ListRequest& request)
     // "More than last month" compares something else.
     if ((isOlderThan(question) || isYoungerThan(question)) && !period.next)
         return false;
+    // "Not touched since 2024": in that year for the last time, or before it.
+    const bool isWholeYear = period.to - period.from >= std::chrono::days(365) && period.to < now;
+    const TimePoint bound = question.senses.has(Sense::since) && isWholeYear ? period.to : period.from;
     if (question.senses.has(Sense::unopened)) {
-        request.openedTo = period.from;
-        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
+        request.openedTo = bound;
+        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(bound)}});
     } else if (question.senses.has(Sense::before) || isOlderThan(question)) {
-        request.changedTo = period.from;
-        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(period.from)}});
+        request.changedTo = bound;
+        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(bound)}});
     } else if (question.senses.has(Sense::after)) {
         request.changedFrom = period.to;
         narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});

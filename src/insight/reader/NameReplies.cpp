@@ -219,8 +219,10 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
     const std::string folder = placeOf(question, context, asked);
-    if (name.empty() || hasOtherNames(question, name, place) ||
-        (folder.empty() && !place.empty() && !isFileName(question, name)))
+    // "Is setup.exe any use on Linux": a file of that name is meant, whatever else is said.
+    const bool isOfOther = hasOtherNames(question, name, place) &&
+                           (question.count(Sense::quoted) != 1 || findNamed(context, name).fit < Fit::whole);
+    if (name.empty() || isOfOther || (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
