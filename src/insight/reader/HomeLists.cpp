@@ -1,5 +1,6 @@
 #include "insight/reader/HomeLists.h"
 
+#include "insight/reader/LowerName.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -57,6 +58,17 @@ private:
     std::vector<std::uint64_t> m_endings;
     bool m_isAny = false;
 };
+
+/// As desktops and phones name what they take of a screen.
+bool isNamedScreenshot(std::string_view name)
+{
+    constexpr std::string_view kStarts[] = {"screenshot", "screen shot",     "bildschirmfoto", "captura de",
+                                            "capture d",  "schermata",       "captura_de",     "istantanea",
+                                            "capture_d",  "bildschirm foto", "screen capture"};
+    std::string lower;
+    lowerInto(lower, name);
+    return std::ranges::any_of(kStarts, [&](std::string_view start) { return lower.starts_with(start); });
+}
 
 /// Goes through the home folder for one request.
 class HomeSearch {
@@ -131,6 +143,8 @@ private:
             file.changed >= m_request.changedTo || file.opened >= m_request.openedTo ||
             (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name) ||
             isCountedElsewhere(number, file.counted))
+            return;
+        if (m_request.areScreenshots && !isNamedScreenshot(file.name))
             return;
         if (m_request.exclusions.empty() || !m_request.exclusions.leaveOutFile(m_home.filePath(number)))
             take(number, file.bytes);

@@ -304,6 +304,40 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
     return bestFit(context, name, kinds, Fit::mistyped);
 }
 
+std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words)
+{
+    std::vector<Hit> hits;
+    std::string text;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            text = lowered(tilde(entry.path)) + " " + lowered(noteOf(entry).base());
+            if (!words.empty() && std::ranges::all_of(words, [&](const std::string& word) {
+                    return text.find(word) != std::string::npos;
+                }))
+                hits.push_back({&finding, &entry});
+        }
+    }
+    hits = eachOnce(std::move(hits));
+    std::ranges::stable_sort(hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
+    return hits;
+}
+
+std::string folderHolding(const AskContext& context, const std::string& word)
+{
+    if (context.home == nullptr)
+        return {};
+    const HomeFiles& home = *context.home;
+    const std::string lower = lowered(word);
+    std::optional<HomeFiles::Number> best;
+    for (HomeFiles::Number each = 1; each < home.folderCount(); ++each) {
+        const HomeFiles::Folder folder = home.folder(each);
+        if (folder.isOwn && (!best || folder.bytes > home.folder(*best).bytes) &&
+            holdsWord(lowered(folder.name), lower))
+            best = each;
+    }
+    return best ? home.folderPath(*best) : std::string();
+}
+
 std::string folderNamed(const AskContext& context, const std::string& text)
 {
     if (std::string path = pathIn(text); !path.empty())

@@ -47,6 +47,12 @@ struct Found {
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
 
+/// The entries whose path or note holds all the words, in lower case, as parts; each once, largest first.
+[[nodiscard]] std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words);
+
+/// The own folder of the home that has the word in its name, the largest; empty if none.
+[[nodiscard]] std::string folderHolding(const AskContext& context, const std::string& word);
+
 /// The folder that a text names: its path, its path below the home folder, or its name; empty if none.
 [[nodiscard]] std::string folderNamed(const AskContext& context, const std::string& text);
 

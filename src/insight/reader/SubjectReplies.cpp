@@ -121,9 +121,21 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
 }
 
+/// Those that have such a name, whether or not the scan lists them; nothing of other kinds.
+std::optional<Answer> screenshotsByName(const Subject& subject, const AskContext& context)
+{
+    if (subject.id != SubjectID::screenshots || context.home == nullptr)
+        return std::nullopt;
+    Question files;
+    files.phrases.push_back({Sense::subject, {}, &subject});
+    return listOfFiles(withPhrases(files, files.phrases), context);
+}
+
 /// For kinds of which the scan has found nothing.
 Answer nothingFound(const Subject& subject, const AskContext& context)
 {
+    if (auto answer = screenshotsByName(subject, context))
+        return *std::move(answer);
     if (context.findings.empty())
         return {InsightTexts::kNoScan, {}};
     return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};

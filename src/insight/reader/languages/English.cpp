@@ -465,7 +465,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::containers,
      "docker,podman,container,containers,docker images,container images,docker containers,"
      "docker volumes,kubernetes,distrobox,toolbox"},
-    {SubjectID::flatpak, "flatpak,flatpaks,flatpak apps,flathub,flatpak runtimes"},
+    {SubjectID::flatpak, "flatpak,flatpaks,flatpak runtime stuff,flatpak runtime,flatpak stuff,flatpak "
+                         "apps,flathub,flatpak runtimes"},
     {SubjectID::snap, "snap,snaps,snap packages,snap apps,snapd,snap store"},
     {SubjectID::games, "games,game,steam,steam games,video games,steam library,computer games,lutris,proton"},
 };

@@ -108,6 +108,8 @@ constexpr WordRow kWords[] = {
      "place,besoin de place,besoin d espace,libérerons,récupérerais,de la place,j ai besoin de,il me faut,me "
      "faut,j ai besoin d,alléger,moins plein,soulager"},
     {Sense::make, "fais moi,trouve moi,donne moi,fais,faire,fait"},
+    {Sense::unknown, "mots de passe,mot de passe"},
+    {Sense::filler, "dans la répartition,de la répartition"},
     {Sense::untouched,
      "tu touches,touches tu,touches-tu,vous touchez,touchez-vous,jamais "
      "touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche jamais,touches "
@@ -344,7 +346,8 @@ constexpr SubjectRow kSubjects[] = {
      "texte,lettres"},
     {SubjectID::files, "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout ça,machins"},
     {SubjectID::startup,
-     "au démarrage de la session,au demarrage de la session,ouverture de session,à l ouverture de session,à "
+     "démarre avec,démarrent avec,se lance avec,démarre avec l ordinateur,au démarrage de la session,au "
+     "demarrage de la session,ouverture de session,à l ouverture de session,à "
      "l ouverture de ma session,session démarre,de démarrer,se lancer au démarrage,se lance au démarrage,de "
      "se lancer,démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
      "démarrage,démarre automatiquement,démarrent automatiquement,se lance "

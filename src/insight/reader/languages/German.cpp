@@ -106,6 +106,7 @@ constexpr WordRow kWords[] = {
                       "bekommen,ich brauche platz,brauche platz,ich brauche,brauche noch,ich "
                       "bräuchte,bräuchte,benötige,ich benötige,leerer,entlasten,weniger voll,erleichtern"},
     {Sense::make, "mach,machen,macht,machst,mache,schaff,schaffe,gib mir"},
+    {Sense::filler, "wenn es so weitergeht,wenn das so weitergeht,so weiter geht,weiterhin"},
     {Sense::untouched,
      "fasst du,rührst du,fasst es,nie anfassen,fasst nie "
      "an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie "
