@@ -15,6 +15,8 @@
 #include <cstddef>
 #include <functional>
 #include <iterator>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -78,7 +80,12 @@ ItemList ItemList::toPropose(const CleanPlan& plan)
         for (const FileEntry& entry : section.entries)
             entries.push_back(&entry);
     }
-    std::ranges::stable_sort(entries, std::greater{}, &FileEntry::size);
+    std::ranges::stable_sort(entries, std::greater{}, [](const FileEntry* entry) {
+        return std::pair(entry->size, entry->rating.has_value());
+    });
+    // Several findings may list one.
+    std::unordered_set<std::string_view> paths;
+    std::erase_if(entries, [&](const FileEntry* entry) { return !paths.insert(entry->path).second; });
     Table table = itemTable();
     for (std::size_t i = 0; i < std::min(entries.size(), kShown); ++i)
         addEntry(table, *entries[i]);

@@ -384,6 +384,9 @@ inline constexpr Text kGames = message(
     "Games are best removed in the program that installed them. The disk map shows how much their folder "
     "takes.");
 
+// TRANSLATORS: of a file or folder that was just named.
+inline constexpr Text kStoresPasswords = message("It stores passwords: keep it.");
+
 // Past clean-ups.
 inline constexpr Text kNoCleanUp = message("There hasn't been a clean-up yet.");
 inline constexpr Text kLastCleanUp =

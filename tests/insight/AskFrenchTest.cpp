@@ -27,7 +27,7 @@ constexpr Row kFrench[] = {
     {"vidéos de plus de 3 Go", "Of videos over 3 GB the last scan lists 2"},
     {"les videos de plus de 3 gigas", "Of videos over 3 GB the last scan lists 2"},
     {"pdf dans le dossier téléchargements", "report-final.pdf"},
-    {"fichiers pas ouverts depuis 2023", "before 1 January 2023|wedding"},
+    {"fichiers pas ouverts depuis 2023", "before 1 January 2024|wedding"},
     {"vidéos vieilles de plus de deux ans", "last changed before 1 June 2024|cut.mov"},
     {"les fichiers les plus anciens", "wedding.mp4 (9 GB), changed 5 May 2019"},
     {"dernier téléchargement le plus récent", "report-final.pdf|24 December 2025"},

@@ -27,7 +27,7 @@ constexpr Row kGerman[] = {
     {"Videos über 3 GB", "Of videos over 3 GB the last scan lists 2"},
     {"videos die größer als 3 gb sind", "Of videos over 3 GB the last scan lists 2"},
     {"pdfs im downloadordner", "report-final.pdf"},
-    {"welche dateien habe ich seit 2023 nicht geöffnet", "before 1 January 2023|wedding"},
+    {"welche dateien habe ich seit 2023 nicht geöffnet", "before 1 January 2024|wedding"},
     {"videos älter als zwei jahre", "last changed before 1 June 2024|cut.mov"},
     {"videos von vor mehr als 2 jahren", "last changed before 1 June 2024|cut.mov"},
     {"älteste dateien", "wedding.mp4 (9 GB), changed 5 May 2019"},

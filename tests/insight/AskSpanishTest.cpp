@@ -27,7 +27,7 @@ constexpr Row kSpanish[] = {
     {"vídeos de más de 3 GB", "Of videos over 3 GB the last scan lists 2"},
     {"videos mayores de 3 gigas", "Of videos over 3 GB the last scan lists 2"},
     {"pdf en la carpeta de descargas", "report-final.pdf"},
-    {"archivos que no he abierto desde 2023", "before 1 January 2023|wedding"},
+    {"archivos que no he abierto desde 2023", "before 1 January 2024|wedding"},
     {"vídeos de hace más de dos años", "last changed before 1 June 2024|cut.mov"},
     {"los archivos más antiguos", "wedding.mp4 (9 GB), changed 5 May 2019"},
     {"la descarga más reciente", "report-final.pdf|24 December 2025"},

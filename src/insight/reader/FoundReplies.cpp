@@ -63,11 +63,22 @@ Message rated(const Hit& hit, const RatedText& text, const RatedText& withNote, 
     return {said.of(hit.finding->effectiveRating(*hit.entry)), std::move(places)};
 }
 
+/// Nobody can make it again.
+bool storesPasswords(std::string_view path)
+{
+    constexpr std::string_view kEndings[] = {"kdbx", "kdb", "psafe3", "opvault", "agilekeychain", "keychain"};
+    const std::string ending = PathText::asciiLower(PathText::extension(path));
+    return std::ranges::find(kEndings, ending) != std::end(kEndings) ||
+           PathText::lastComponent(path) == ".password-store";
+}
+
 Message described(const AskContext& context, const Hit& hit)
 {
     const Message rating = rated(
         hit, InsightTexts::kListedAs, InsightTexts::kListedWithNote,
         {{"name", AskText::fileName(*hit.entry)}, {"folder", tilde(PathText::parent(hit.entry->path))}});
+    if (storesPasswords(hit.entry->path))
+        return AskText::sentences({rating, InsightTexts::kStoresPasswords});
     return AskText::sentences({rating, hit.finding->reason, outcome(context, hit)});
 }
 
@@ -156,6 +167,8 @@ Message verdict(const Measured& one, const Question& question, const AskContext&
     Message inside = one.kind == Measured::Kind::file ? Message() : listedInside(one, context, answer);
     if (const Protection protection = protectionOf(context, one.path); protection != Protection::none)
         return AskText::sentences({itIsProtected(protection), std::move(inside)});
+    if (storesPasswords(one.path))
+        return InsightTexts::kStoresPasswords;
     if (!inside.empty())
         return inside;
     const Hit around = hitsAround(std::span(&one.path, 1), context).front();

@@ -9,6 +9,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -33,6 +34,13 @@ struct Compared {
     }
 };
 
+/// The last scan and one at least a day older, if there is any.
+std::optional<ReadingPair> lately(const std::vector<FolderReading>& readings)
+{
+    return readings.empty() ? std::nullopt
+                            : ReadingPair::over(readings, readings.back().date - std::chrono::days(1));
+}
+
 std::optional<Compared> comparedIn(const Question& question, const AskContext& context)
 {
     const Phrase* const phrase = question.first(Sense::period);
@@ -40,11 +48,16 @@ std::optional<Compared> comparedIn(const Question& question, const AskContext& c
         return pair ? std::optional(Compared{*pair, isOver}) : std::nullopt;
     };
     if (phrase == nullptr)
-        return compared(ReadingPair::last(context.folders), false);
+        return compared(lately(context.folders), false);
     const Period& period = *phrase->period;
     if (question.senses.meets({Sense::since, Sense::after}))
         return compared(ReadingPair::over(context.folders, period.from), false);
-    return compared(ReadingPair::over(context.folders, period.from, period.to), period.to < context.now);
+    if (auto pair = ReadingPair::over(context.folders, period.from, period.to))
+        return compared(pair, period.to < context.now);
+    // "In the last month", of which no scan was: since then.
+    const bool isJustOver = phrase->text.find_first_of("0123456789") == std::string::npos &&
+                            context.now - period.from <= 2 * (period.to - period.from);
+    return isJustOver ? compared(ReadingPair::over(context.folders, period.from), false) : std::nullopt;
 }
 
 std::string cacheFolder()

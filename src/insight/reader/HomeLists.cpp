@@ -1,5 +1,6 @@
 #include "insight/reader/HomeLists.h"
 
+#include "insight/reader/LowerName.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -58,6 +59,17 @@ private:
     bool m_isAny = false;
 };
 
+/// As desktops and phones name what they take of a screen.
+bool isNamedScreenshot(std::string_view name)
+{
+    constexpr std::string_view kStarts[] = {"screenshot", "screen shot",     "bildschirmfoto", "captura de",
+                                            "capture d",  "schermata",       "captura_de",     "istantanea",
+                                            "capture_d",  "bildschirm foto", "screen capture"};
+    std::string lower;
+    lowerInto(lower, name);
+    return std::ranges::any_of(kStarts, [&](std::string_view start) { return lower.starts_with(start); });
+}
+
 /// Goes through the home folder for one request.
 class HomeSearch {
 public:
@@ -71,7 +83,7 @@ public:
         const bool isOwnOnly = m_request.isOwnOnly && m_home.folder(m_place).isOwn;
         const HomeFiles::Range folders = m_home.foldersFrom(m_place);
         for (Number folder = folders.first; folder < folders.last;) {
-            if ((isOwnOnly && !m_home.folder(folder).isOwn) || isLeftOut(folder)) {
+            if ((isOwnOnly && !m_home.folder(folder).isOwn) || isLeftOut(folder) || isOtherTrash(folder)) {
                 folder = m_home.foldersFrom(folder).last;
                 continue;
             }
@@ -103,6 +115,15 @@ public:
     }
 
 private:
+    /// What lies in the Trash is no "mp4 I have", unless that is where to look.
+    [[nodiscard]] bool isOtherTrash(Number folder) const
+    {
+        if (m_request.ending.empty() || folder == m_place)
+            return false;
+        const std::string_view name = m_home.folderName(folder);
+        return name.starts_with(".Trash-") || (name == "Trash" && !m_home.folder(folder).isOwn);
+    }
+
     [[nodiscard]] bool isLeftOut(Number folder) const
     {
         return !m_request.exclusions.empty() && m_request.exclusions.leaveOut(m_home.folderPath(folder));
@@ -122,6 +143,8 @@ private:
             file.changed >= m_request.changedTo || file.opened >= m_request.openedTo ||
             (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name) ||
             isCountedElsewhere(number, file.counted))
+            return;
+        if (m_request.areScreenshots && !isNamedScreenshot(file.name))
             return;
         if (m_request.exclusions.empty() || !m_request.exclusions.leaveOutFile(m_home.filePath(number)))
             take(number, file.bytes);

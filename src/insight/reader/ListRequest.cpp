@@ -5,6 +5,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -20,8 +21,9 @@ Order orderIn(const Question& question)
 {
     if (question.senses.has(Sense::oldest))
         return Order::oldest;
+    // "What is new that takes space"
     if (question.senses.has(Sense::newest))
-        return Order::newest;
+        return question.senses.has(Sense::takes) ? Order::biggest : Order::newest;
     if (question.senses.has(Sense::smallest))
         return Order::smallest;
     // "The last download"
@@ -111,12 +113,15 @@ bool takeDate(const Question& question, TimePoint now, ListRequest& request)
     // "More than last month" compares something else.
     if ((isOlderThan(question) || isYoungerThan(question)) && !period.next)
         return false;
+    // "Not touched since 2024": in that year for the last time, or before it.
+    const bool isWholeYear = period.to - period.from >= std::chrono::days(365) && period.to < now;
+    const TimePoint bound = question.senses.has(Sense::since) && isWholeYear ? period.to : period.from;
     if (question.senses.has(Sense::unopened)) {
-        request.openedTo = period.from;
-        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(period.from)}});
+        request.openedTo = bound;
+        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(bound)}});
     } else if (question.senses.has(Sense::before) || isOlderThan(question)) {
-        request.changedTo = period.from;
-        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(period.from)}});
+        request.changedTo = bound;
+        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(bound)}});
     } else if (question.senses.has(Sense::after)) {
         request.changedFrom = period.to;
         narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});
@@ -186,13 +191,18 @@ bool takeFolder(const Question& question, const AskContext& context, ListRequest
     if (first == phrases.end())
         return true;
     const auto last = std::find_if_not(first, phrases.end(), isName);
+    // "How many songs of Bach": in many languages the word before it says nothing.
+    const bool isCounted = context.home != nullptr && question.senses.has(Sense::howMany) &&
+                           request.subject != nullptr && !request.subject->isAnyFile;
     if (!request.folder.empty() || std::any_of(last, phrases.end(), isName) ||
-        !isAfterInside(question, static_cast<std::size_t>(first - phrases.begin())))
+        (!isCounted && !isAfterInside(question, static_cast<std::size_t>(first - phrases.begin()))))
         return false;
     std::string name;
     for (auto each = first; each != last; ++each)
         name += (name.empty() ? "" : " ") + each->text;
     request.folder = folderNamed(context, name);
+    if (request.folder.empty() && request.subject != nullptr && !request.subject->isAnyFile)
+        request.folder = folderHolding(context, name);
     return !request.folder.empty();
 }
 
@@ -292,6 +302,11 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (const Phrase* const ending = question.first(Sense::ending)) {
         request.ending = PathText::asciiLower(ending->text);
         narrow(request, InsightTexts::kFilesEnding, {{"ending", "." + request.ending}});
+    }
+    if (request.subject != nullptr && request.subject->id == SubjectID::screenshots &&
+        request.listedAs == nullptr && context.home != nullptr) {
+        request.areScreenshots = true;
+        request.subject = &subjectFor(SubjectID::photos);
     }
     request.isOfScan = isOfScan(question, request);
     request.isOwnOnly = isOfOwnFiles(request);

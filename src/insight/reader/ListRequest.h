@@ -28,12 +28,13 @@ struct ListRequest {
     std::int64_t count = 5;
     std::optional<Rating> rating;
     Exclusions exclusions;
-    std::string ending;        ///< of their names, without the dot; empty: any
-    bool areFolders = false;   ///< it lists folders instead of files
-    bool isHiddenOnly = false; ///< only what has a hidden name
-    bool isOwnOnly = false;    ///< only the person's own files, see `HomeFiles`
-    bool isOfScan = false;     ///< only what the scan lists can tell
-    Message files;             ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
+    bool areScreenshots = false; ///< only those that have such a name
+    std::string ending;          ///< of their names, without the dot; empty: any
+    bool areFolders = false;     ///< it lists folders instead of files
+    bool isHiddenOnly = false;   ///< only what has a hidden name
+    bool isOwnOnly = false;      ///< only the person's own files, see `HomeFiles`
+    bool isOfScan = false;       ///< only what the scan lists can tell
+    Message files;               ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 
     /// Whether an entry of a finding belongs to the list.
     [[nodiscard]] bool admits(const Finding& finding, const FileEntry& entry) const;

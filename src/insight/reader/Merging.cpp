@@ -38,6 +38,24 @@ void mergeGain(Phrases& phrases)
         rename(phrases, Sense::undo, Sense::makeRoom);
 }
 
+/// "What takes up all the room? The files I have are tiny": what is said beside it is no order.
+void dropAside(Phrases& phrases)
+{
+    using enum Sense;
+    const auto end =
+        std::find_if(phrases.begin(), phrases.end(), [](const Phrase& each) { return each.isJoined; });
+    SenseSet asked;
+    SenseSet aside;
+    for (auto each = phrases.begin(); each != phrases.end(); ++each)
+        (each < end ? asked : aside).add(each->sense);
+    const bool isComplete = (asked.meets({what, why}) && asked.has(full)) ||
+                            (asked.has(what) && asked.has(takes) && asked.meets({space, disk, most}));
+    constexpr SenseSet kAside{smallest, installed, period, last, number, size,  negation, general,
+                              subject,  disk,      newest, only, takes,  space, used};
+    if (isComplete && aside.isWithin(kAside) && aside.meets({smallest, installed, newest}))
+        phrases.erase(end, phrases.end());
+}
+
 /// "What can I delete today": of what is not about dates, today says nothing.
 void mergeToday(Phrases& phrases)
 {
@@ -65,6 +83,12 @@ void mergeNegation(Phrases& phrases)
     if (isNegated && (has(phrases, Sense::opened) || has(phrases, Sense::handled))) {
         rename(phrases, Sense::opened, Sense::unopened);
         rename(phrases, Sense::handled, Sense::unopened);
+        drop(phrases, Sense::negation);
+    }
+    // "Not changed since August"
+    if (isNegated && has(phrases, Sense::newest) && has(phrases, Sense::since) &&
+        has(phrases, Sense::period)) {
+        rename(phrases, Sense::newest, Sense::before);
         drop(phrases, Sense::negation);
     }
     const bool isOfFiles = has(phrases, Sense::period) && has(phrases, Sense::subject);
@@ -230,6 +254,7 @@ Question merged(const Question& question)
     Phrases phrases = question.phrases;
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
+    dropAside(phrases);
     mergeGain(phrases);
     mergeToday(phrases);
     mergeRange(phrases);

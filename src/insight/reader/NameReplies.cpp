@@ -36,12 +36,14 @@ constexpr KnownPlace kKnownPlaces[] = {
     {"chrome profile,chrome bookmarks", "{CONFIG}/google-chrome"},
     {"chromium profile,chromium bookmarks", "{CONFIG}/chromium"},
     {"thunderbird,thunderbird mail,thunderbird "
-     "profile,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
+     "profile,thunderbird inbox,inbox,thunderbird "
+     "folder,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
      "{H}/.thunderbird"},
     {"keyring,keyrings,passwords,saved passwords,password,passworter,kennworter,schlusselbund,mots "
-     "passe,contrasenas,"
+     "passe,mots de passe,mot de passe,contrasenas,"
      "claves",
      "{DATA}/keyrings"},
+    {"password store,password stores,.password-store", "{H}/.password-store"},
     {".config", "{CONFIG}"},
     {".local/share", "{DATA}"},
 };
@@ -151,6 +153,46 @@ Answer notFound(std::string_view name, const AskContext& context)
     return {Message{text, {{"name", PathText::forDisplay(name)}}}, {}};
 }
 
+std::string allNames(const Question& question)
+{
+    std::string names;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.sense == Sense::unknown)
+            names += (names.empty() ? "" : " ") + phrase.text;
+    }
+    return names;
+}
+
+/// "System32", "hiberFil": written as people write names, not words.
+bool isNoWord(std::string_view text)
+{
+    constexpr std::size_t kShortest = 4;
+    const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
+    const auto isSmall = [](char c) { return c >= 'a' && c <= 'z'; };
+    const auto isFigure = [](char c) { return c >= '0' && c <= '9'; };
+    return text.size() >= kShortest && text.find(' ') == std::string_view::npos &&
+           std::ranges::any_of(text, isSmall) &&
+           (std::ranges::any_of(text, isFigure) || std::any_of(text.begin() + 1, text.end(), isCapital));
+}
+
+/// "The Steam shader cache": which program it belongs to says as much as its name.
+void narrowToSteam(Found& found, const Question& question, const AskContext& context, std::string_view name)
+{
+    const auto isSteam = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
+               plainLetters(phrase.text) == "steam";
+    };
+    if (std::ranges::none_of(question.phrases, isSteam))
+        return;
+    std::vector<std::string> words = wordsOfName(lowered(name));
+    words.emplace_back("steam");
+    if (std::vector<Hit> hits = holdingAll(context, words); !hits.empty()) {
+        found = {};
+        found.fit = Fit::words;
+        found.hits = std::move(hits);
+    }
+}
+
 /// Whether a word of the question is neither understood nor part of the name: it asks for something else.
 bool hasOtherNames(const Question& question, const std::string& name, const std::string& place)
 {
@@ -219,8 +261,13 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
     const std::string folder = placeOf(question, context, asked);
-    if (name.empty() || hasOtherNames(question, name, place) ||
-        (folder.empty() && !place.empty() && !isFileName(question, name)))
+    // "Is setup.exe any use on Linux": a file of that name is meant, whatever else is said.
+    const bool isOfOther = hasOtherNames(question, name, place) &&
+                           (question.count(Sense::quoted) != 1 || findNamed(context, name).fit < Fit::whole);
+    if (isOfOther && context.home != nullptr && isFileName(question, name) && place.empty() &&
+        question.count(Sense::quoted) == 0 && findNamed(context, name).fit == Fit::none)
+        return notFound(allNames(question), context);
+    if (name.empty() || isOfOther || (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
@@ -235,6 +282,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
                           {}};
     }
     keepMeant(found, question, asked);
+    narrowToSteam(found, question, context, name);
+    if (found.fit == Fit::none) {
+        found.hits = holdingAll(context, wordsOfName(lowered(name)));
+        found.fit = found.hits.empty() ? Fit::none : Fit::part;
+    }
     const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
     if (!isSure && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
@@ -255,7 +307,9 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         return measuredOnly(question, context, found, PathText::forDisplay(name));
     if (!found.trashed.empty())
         return inTrash(found);
-    return isFileName(question, name) ? std::optional(notFound(name, context)) : std::nullopt;
+    return isFileName(question, name) || (context.home != nullptr && isNoWord(name))
+               ? std::optional(notFound(name, context))
+               : std::nullopt;
 }
 
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)

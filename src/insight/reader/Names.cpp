@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -244,11 +245,10 @@ void lookInHistory(const std::vector<CleanRecord>& history, Best& best)
     }
 }
 
-/// Several findings may list a path: the most careful rating speaks for it.
+/// Several findings may list a path: one speaks for it.
 void tidy(Found& found)
 {
-    std::ranges::stable_sort(found.hits, std::greater{},
-                             [](const Hit& hit) { return hit.finding->effectiveRating(*hit.entry); });
+    std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return weightOf(hit); });
     std::unordered_set<std::string_view> paths;
     std::erase_if(found.hits, [&](const Hit& hit) { return !paths.insert(hit.entry->path).second; });
     // The walk of the home folder knows sizes, the breakdown what they count for.
@@ -284,6 +284,16 @@ Found bestFit(const AskContext& context, std::string_view name, const std::vecto
 
 } // namespace
 
+int weightOf(Rating rating)
+{
+    return rating == Rating::keep ? 2 : rating == Rating::safe ? 1 : 0;
+}
+
+int weightOf(const Hit& hit)
+{
+    return weightOf(hit.finding->effectiveRating(*hit.entry));
+}
+
 Found findNamed(const AskContext& context, std::string_view name, const std::vector<FindingKind>& kinds)
 {
     for (const Fit least : {Fit::folder, Fit::part}) {
@@ -292,6 +302,40 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
             return found;
     }
     return bestFit(context, name, kinds, Fit::mistyped);
+}
+
+std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words)
+{
+    std::vector<Hit> hits;
+    std::string text;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            text = lowered(tilde(entry.path)) + " " + lowered(noteOf(entry).base());
+            if (!words.empty() && std::ranges::all_of(words, [&](const std::string& word) {
+                    return text.find(word) != std::string::npos;
+                }))
+                hits.push_back({&finding, &entry});
+        }
+    }
+    hits = eachOnce(std::move(hits));
+    std::ranges::stable_sort(hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
+    return hits;
+}
+
+std::string folderHolding(const AskContext& context, const std::string& word)
+{
+    if (context.home == nullptr)
+        return {};
+    const HomeFiles& home = *context.home;
+    const std::string lower = lowered(word);
+    std::optional<HomeFiles::Number> best;
+    for (HomeFiles::Number each = 1; each < home.folderCount(); ++each) {
+        const HomeFiles::Folder folder = home.folder(each);
+        if (folder.isOwn && (!best || folder.bytes > home.folder(*best).bytes) &&
+            holdsWord(lowered(folder.name), lower))
+            best = each;
+    }
+    return best ? home.folderPath(*best) : std::string();
 }
 
 std::string folderNamed(const AskContext& context, const std::string& text)
@@ -325,11 +369,23 @@ std::vector<Hit> eachOnce(std::vector<Hit> hits)
     // time.
     const Finding* const most =
         std::ranges::max_element(counts, {}, &std::pair<const Finding* const, std::size_t>::second)->first;
-    std::unordered_set<std::string_view> others;
-    std::erase_if(
-        hits, [&](const Hit& hit) { return hit.finding != most && !others.insert(hit.entry->path).second; });
-    std::erase_if(hits,
-                  [&](const Hit& hit) { return hit.finding == most && others.contains(hit.entry->path); });
+    std::unordered_map<std::string_view, Hit> speakers;
+    for (const Hit& hit : hits) {
+        if (hit.finding == most)
+            continue;
+        const auto [known, isNew] = speakers.try_emplace(hit.entry->path, hit);
+        if (!isNew && weightOf(hit) > weightOf(known->second))
+            known->second = hit;
+    }
+    for (const Hit& hit : hits) {
+        const auto known = hit.finding == most ? speakers.find(hit.entry->path) : speakers.end();
+        if (known != speakers.end() && weightOf(hit) > weightOf(known->second))
+            known->second = hit;
+    }
+    std::erase_if(hits, [&](const Hit& hit) {
+        const auto known = speakers.find(hit.entry->path);
+        return known != speakers.end() && known->second.finding != hit.finding;
+    });
     return hits;
 }
 

@@ -17,6 +17,10 @@ struct Hit {
     const FileEntry* entry = nullptr;
 };
 
+/// Which rating speaks for what several findings list: Keep, then Safe, as the scan counts it.
+[[nodiscard]] int weightOf(Rating rating);
+[[nodiscard]] int weightOf(const Hit& hit);
+
 /// A folder, or a file in one, that takes up space and that no finding lists.
 struct Measured {
     std::string path;
@@ -43,11 +47,17 @@ struct Found {
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
 
+/// The entries whose path or note holds all the words, in lower case, as parts; each once, largest first.
+[[nodiscard]] std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words);
+
+/// The own folder of the home that has the word in its name, the largest; empty if none.
+[[nodiscard]] std::string folderHolding(const AskContext& context, const std::string& word);
+
 /// The folder that a text names: its path, its path below the home folder, or its name; empty if none.
 [[nodiscard]] std::string folderNamed(const AskContext& context, const std::string& text);
 
-/// Each path once: several findings may list it, a single one never does twice. `hits` in the order of the
-/// findings.
+/// Each path once, with the finding that speaks for it: several may list it, a single one never does twice.
+/// `hits` in the order of the findings.
 [[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);
 
 /// Whether the word, in lower case, stands in the name of an entry of the scan.

@@ -14,7 +14,7 @@ bool isBetter(const Hit& hit, const Hit& known)
 {
     if (known.finding == nullptr || hit.entry->path.size() != known.entry->path.size())
         return known.finding == nullptr || hit.entry->path.size() > known.entry->path.size();
-    return hit.finding->effectiveRating(*hit.entry) > known.finding->effectiveRating(*known.entry);
+    return weightOf(hit) > weightOf(known);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "insight/reader/Names.h"
 #include "insight/reader/SubjectReplies.h"
 #include "insight/reader/UnusedApps.h"
+#include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
@@ -30,6 +31,16 @@ bool isNamed(const KnownApp& app, const std::string& wanted)
     const std::string name = plainLetters(app.name);
     return name == wanted || (" " + name + " ").find(" " + wanted + " ") != std::string::npos ||
            (wanted.size() > kNamedApps && isOneLetterApart(name, wanted));
+}
+
+/// Of an application that is gone, only what it left behind has its name.
+bool isPresent(const KnownApp& app, const AskContext& context)
+{
+    const std::string name = plainLetters(app.name);
+    return !context.leftovers || std::ranges::none_of(*context.leftovers, [&](const FileEntry& entry) {
+        const std::string left = plainLetters(PathText::lastComponent(entry.path));
+        return left == name || left.ends_with("." + name);
+    });
 }
 
 /// Which applications a question asks for.
@@ -70,7 +81,7 @@ std::vector<KnownApp> fitting(const AppRequest& request, const AskContext& conte
 {
     std::vector<KnownApp> apps;
     std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(apps),
-                         [&](const KnownApp& app) { return request.admits(app); });
+                         [&](const KnownApp& app) { return request.admits(app) && isPresent(app, context); });
     std::ranges::stable_sort(apps, [&](const KnownApp& a, const KnownApp& b) {
         if (!a.bytes || !b.bytes)
             return a.bytes.has_value() && !b.bytes;
@@ -118,7 +129,10 @@ std::optional<Answer> apps(const Question& question, const AskContext& context)
             return std::nullopt;
         const bool isListed = request->over || request->under || request->isSmallest;
         if (context.apps && !isListed)
-            lines.push_back({InsightTexts::kAppsListed, {{"count", std::ssize(*context.apps)}}});
+            lines.push_back({InsightTexts::kAppsListed,
+                             {{"count", std::ranges::count_if(*context.apps, [&](const KnownApp& app) {
+                                   return isPresent(app, context);
+                               })}}});
         if (const auto size = sizeOfSubject(question, context); size && !isListed)
             lines.push_back(size->text);
         lines.push_back(listedApps(*request, context));
@@ -148,6 +162,23 @@ Answer startup(const AskContext& context)
             {}};
 }
 
+/// The folders in one, with their sizes.
+Message storedIn(std::string_view pattern, const AskContext& context)
+{
+    const std::vector<std::string> paths = Places::current().expand(pattern);
+    const auto folder =
+        context.home == nullptr || paths.empty() ? std::nullopt : context.home->folderAt(paths.front());
+    if (!folder)
+        return {};
+    const HomeFiles& home = *context.home;
+    std::vector<Message> lines;
+    const HomeFiles::Number last = home.foldersFrom(*folder).last;
+    for (HomeFiles::Number each = *folder + 1; each < last; each = home.foldersFrom(each).last)
+        lines.push_back({InsightTexts::kDownload,
+                         {{"name", tilde(home.folderPath(each))}, {"size", Bytes{home.folder(each).bytes}}}});
+    return AskText::lines(std::move(lines));
+}
+
 std::optional<Answer> packaged(const Question& question, const AskContext& context, KnownApp::Source source,
                                const Text& how)
 {
@@ -156,7 +187,60 @@ std::optional<Answer> packaged(const Question& question, const AskContext& conte
         return std::nullopt;
     request->source = source;
     request->count = std::max<std::size_t>(request->count, kNamedApps * 2);
-    return Answer{AskText::lines({listedApps(*request, context), how}), {}};
+    const Message listed = listedApps(*request, context);
+    const bool isFlatpak = source == KnownApp::Source::flatpak;
+    const std::string_view stored = isFlatpak ? "{H}/.var/app" : "{H}/snap";
+    return Answer{AskText::lines({listed.empty() ? storedIn(stored, context) : listed, how}), {}};
+}
+
+/// What Steam takes with all it has: its folders. Of its games, those in its libraries.
+Answer steam(const Question& question, const AskContext& context)
+{
+    const bool areGames = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject != nullptr && plainLetters(phrase.text) != "steam";
+    });
+    const HomeFiles& home = *context.home;
+    Answer answer;
+    std::vector<CategoryFolder> each;
+    std::int64_t bytes = 0;
+    const auto add = [&](HomeFiles::Number number) {
+        each.push_back({OrlenCategory::apps, home.folderPath(number), home.folder(number).bytes, {}});
+        bytes = checkedAdd(bytes, home.folder(number).bytes);
+    };
+    for (const std::string& folder :
+         Places::current().expand(areGames ? "{STEAM}/steamapps/common" : "{STEAM}")) {
+        const auto at = home.folderAt(folder);
+        if (!at)
+            continue;
+        if (!areGames) {
+            add(*at);
+            continue;
+        }
+        const HomeFiles::Number last = home.foldersFrom(*at).last;
+        for (HomeFiles::Number game = *at + 1; game < last; game = home.foldersFrom(game).last)
+            add(game);
+    }
+    std::ranges::stable_sort(each, std::greater{}, &CategoryFolder::bytes);
+    std::vector<Message> lines;
+    if (each.size() != 1)
+        lines.push_back(each.empty() ? Message{InsightTexts::kNoFilesThere,
+                                               {{"files", within(Message::verbatim("Steam"))}}}
+                                     : Message{InsightTexts::kFilesThere,
+                                               {{"files", within(InsightTexts::kFolders)},
+                                                {"count", std::ssize(each)},
+                                                {"size", Bytes{bytes}}}});
+    constexpr std::size_t kShown = 10;
+    for (const CategoryFolder& one : std::span(each).first(std::min(each.size(), kShown))) {
+        const Text text = each.size() == 1 ? InsightTexts::kFolderTakes : InsightTexts::kDownload;
+        lines.push_back(
+            {text, {{each.size() == 1 ? "folder" : "name", tilde(one.path)}, {"size", Bytes{one.bytes}}}});
+        answer.paths.push_back(one.path);
+    }
+    if (each.size() > kShown)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", std::ssize(each) - std::ssize(lines) + 1}}});
+    lines.emplace_back(InsightTexts::kGames);
+    answer.text = AskText::lines(std::move(lines));
+    return answer;
 }
 
 /// What the folders of games take.
@@ -165,13 +249,19 @@ std::optional<Answer> games(const Question& question, const AskContext& context)
     constexpr SenseSet kOther{Sense::newest, Sense::oldest, Sense::period, Sense::unopened, Sense::size};
     if (question.senses.meets(kOther))
         return std::nullopt;
+    const bool isSteam = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject != nullptr && plainLetters(phrase.text).find("steam") != std::string::npos;
+    });
+    if (isSteam && context.home != nullptr)
+        return steam(question, context);
     std::vector<Message> lines;
     for (const CategoryFolder& folder : context.breakdown.folders) {
         constexpr std::string_view kOfGames[] = {"Steam", "steam", "Games", "lutris", "bottles"};
         const std::string_view name = PathText::lastComponent(folder.path);
         if (folder.category == OrlenCategory::apps && std::ranges::find(kOfGames, name) != std::end(kOfGames))
             lines.push_back({InsightTexts::kFolderTakes,
-                             {{"folder", tilde(folder.path)}, {"size", Bytes{folder.bytes}}}});
+                             {{"folder", tilde(folder.path)},
+                              {"size", Bytes{folderSize(context, folder.path).value_or(folder.bytes)}}}});
     }
     lines.emplace_back(InsightTexts::kGames);
     return Answer{AskText::lines(std::move(lines)), {}};

@@ -19,17 +19,17 @@ bool mayBeChosen(const AskContext& context, const Finding& finding, const FileEn
            (!context.protection || context.protection(entry.path) == Protection::none);
 }
 
-/// Drops what another finding rates more carefully.
-void dropRatedHigher(const AskContext& context, Rating rating, std::vector<Hit>& hits)
+/// Drops what another finding speaks for.
+void dropRatedOtherwise(const AskContext& context, Rating rating, std::vector<Hit>& hits)
 {
-    std::unordered_set<std::string_view> careful;
+    std::unordered_set<std::string_view> others;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            if (finding.effectiveRating(entry) > rating)
-                careful.insert(entry.path);
+            if (weightOf(finding.effectiveRating(entry)) > weightOf(rating))
+                others.insert(entry.path);
         }
     }
-    std::erase_if(hits, [&](const Hit& hit) { return careful.contains(hit.entry->path); });
+    std::erase_if(hits, [&](const Hit& hit) { return others.contains(hit.entry->path); });
 }
 
 /// Drops what lies in a folder that is among them: the folder takes it along.
@@ -61,7 +61,7 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
                 hits.push_back({&finding, &entry});
         }
     }
-    dropRatedHigher(context, rating, hits);
+    dropRatedOtherwise(context, rating, hits);
     // What several findings list has one size, so it comes to stand side by side; the first finding has it.
     std::ranges::stable_sort(hits, [](const Hit& a, const Hit& b) {
         return a.entry->size != b.entry->size ? a.entry->size > b.entry->size : a.entry->path < b.entry->path;

@@ -70,6 +70,13 @@ std::vector<Question> distributed(const Question& question)
         return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
                                    (isNamedFile(phrase) && isNamedFile(previous)));
     };
+    // "How much do pip and npm free together": one sum.
+    const auto isFinding = [](const Phrase& phrase) {
+        return phrase.subject == nullptr || !phrase.subject->kinds.empty();
+    };
+    if (question.senses.meets({howMuch, howBig}) && question.senses.meets({free, makeRoom, remove}) &&
+        std::ranges::all_of(question.phrases, isFinding))
+        return {question};
     std::size_t from = 1;
     while (from < question.phrases.size() && !isAlike(from))
         ++from;

@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/SubjectReplies.h"
 
 #include <algorithm>
 #include <utility>
@@ -81,6 +82,19 @@ std::optional<Answer> howToExclude(const Question& /*question*/, const AskContex
 std::optional<Answer> whatToKeep(const Question& question, const AskContext& context)
 {
     return isGeneral(question) ? std::optional(AskEngine::fallback("keep", context)) : std::nullopt;
+}
+
+std::optional<Answer> whatSystemIs(const Question& question, const AskContext& context)
+{
+    const Subject* const subject = question.subject();
+    if (subject == nullptr || subject->id != SubjectID::system || question.count(Sense::subject) > 1)
+        return std::nullopt;
+    std::vector<Message> lines;
+    if (const auto size = sizeOfSubject(question, context))
+        lines.push_back(size->text);
+    lines.emplace_back(InsightTexts::kSystemMeans);
+    lines.emplace_back(InsightTexts::kSystemAdvice);
+    return Answer{AskText::lines(std::move(lines)), {}};
 }
 
 std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& /*context*/)

@@ -33,6 +33,8 @@ namespace orlen::AskReader {
 
 [[nodiscard]] std::optional<Answer> whatToKeep(const Question& question, const AskContext& context);
 
+/// What the category System holds; nothing of another subject.
+[[nodiscard]] std::optional<Answer> whatSystemIs(const Question& question, const AskContext& context);
 /// What the ratings named in the question mean; all if it names none.
 [[nodiscard]] std::optional<Answer> meaningOfRatings(const Question& question, const AskContext& context);
 

@@ -63,7 +63,7 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
          {what, howBig, howMuch, can, remove, safe, why, keep, undo, happens, untouched, takes, makeRoom}},
         {unknown, quoted,   what,    howBig,   howMuch,   can,    remove,  safe,      why,    keep,   review,
          mean,    undo,     subject, space,    used,      inside, general, disk,      free,   folder, takes,
-         cleanUp, makeRoom, happens, negation, uninstall, trust,  self,    untouched, advise, full},
+         cleanUp, makeRoom, happens, negation, uninstall, trust,  self,    untouched, advise, full,   ending},
         aboutName};
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
 }
@@ -175,13 +175,15 @@ const std::vector<Rule>& rules()
          {what, can, space, disk, general, advise, above, howMuch, takes, makeRoom, except},
          roomFor},
         {{{howMuch, howBig}, {free, makeRoom, remove, can}, {subject}},
-         {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what},
+         {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what, except, undo},
          freedBySubject},
         {{{free}},
-         kSpaceWords.with({howMuch, howBig, what, general, size, inside, negation, above, below}),
+         kSpaceWords.with({howMuch, howBig, howMany, what, general, size, inside, negation, above, below}),
          spaceNow},
         {{{space, disk, free}, {size}}, kSpaceWords.with({can, what, general, inside, subject}), spaceNow},
-        {{{used, total}}, kSpaceWords.with({howMuch, howBig, what, full, general, inside, soFar}), spaceNow},
+        {{{used, total}},
+         kSpaceWords.with({howMuch, howBig, howMany, what, full, general, inside, soFar, above}),
+         spaceNow},
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
         {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
@@ -206,7 +208,9 @@ const std::vector<Rule>& rules()
          whatMayGo},
         {{{makeRoom, cleanUp, advise}}, {space, disk, can, subject, inside, free, except}, whatMayGo},
         {{{subject}, {remove}}, {general, disk}, whatMayGo},
-        {{{above, below, takes, most}, {subject}}, {what, general, space, disk, can, biggest}, comparison},
+        {{{above, below, takes, most}, {subject}},
+         {what, general, space, disk, can, biggest, howMuch, howBig, howMany},
+         comparison},
         {{{used}, {subject}}, {what, general, disk, howMuch}, sizeOfSubject},
         // Lists
         {{{ending}, {howMany, howBig, howMuch}}, kListing.with({ending}), countOfFiles},
@@ -243,7 +247,10 @@ const std::vector<Rule>& rules()
           advise},
          removingSubject},
         {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
-        {{{what}, {subject}}, {general}, whatSubjectIs},
+        {{{what}, {subject}}, {general, folder}, whatSubjectIs},
+        {{{what, why, mean}, {subject}},
+         {what, why, mean, general, inside, size, disk, biggest, takes, full, space, used, most, howMuch},
+         whatSystemIs},
         {{{why}, {subject}, {biggest, takes, full, grow, space, used}},
          {general, most, disk, what, folder, inside},
          sizeOfSubject},
@@ -254,6 +261,7 @@ const std::vector<Rule>& rules()
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
+        {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},
     };
     return inOrder;
 }

@@ -2,6 +2,8 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/Exclusions.h"
+#include "insight/reader/FindingParts.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
@@ -53,25 +55,6 @@ Amount listedFiles(const Subject& subject, const AskContext& context)
     return amount;
 }
 
-/// Bytes of a folder with everything in it; nothing if the scan doesn't know it.
-std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
-{
-    if (const auto number = context.home == nullptr ? std::nullopt : context.home->folderAt(folder))
-        return context.home->folder(*number).bytes;
-    std::int64_t bytes = 0;
-    bool isKnown = false;
-    for (const CategoryFolder& each : context.breakdown.folders) {
-        isKnown = isKnown || each.path == folder;
-        if (PathText::isAtOrBelow(each.path, folder))
-            bytes = checkedAdd(bytes, each.bytes);
-    }
-    if (isKnown || context.folders.empty())
-        return isKnown ? std::optional(bytes) : std::nullopt;
-    const std::vector<FolderSize>& measured = context.folders.back().folders;
-    const auto found = std::ranges::find(measured, folder, &FolderSize::path);
-    return found == measured.end() ? std::nullopt : std::optional(found->bytes);
-}
-
 void addCategory(Lines& lines, OrlenCategory category, const StorageBreakdown& breakdown)
 {
     const auto found = breakdown.cats.find(category);
@@ -89,11 +72,19 @@ void addFolder(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kFolderTakes, {{"folder", tilde(folder)}, {"size", Bytes{*bytes}}}});
 }
 
+/// Whoever says "all caches" means these too.
+bool isPackageCache(FindingKind kind)
+{
+    using enum FindingKind;
+    return kind == npm || kind == pip || kind == gradle || kind == homebrew;
+}
+
 std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
 {
     std::vector<const Finding*> findings;
     for (const Finding& finding : context.findings) {
-        if (std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
+        const bool isPackages = subject.id == SubjectID::caches && isPackageCache(finding.kind);
+        if (isPackages || std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
             findings.push_back(&finding);
     }
     return findings;
@@ -130,9 +121,21 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
 }
 
+/// Those that have such a name, whether or not the scan lists them; nothing of other kinds.
+std::optional<Answer> screenshotsByName(const Subject& subject, const AskContext& context)
+{
+    if (subject.id != SubjectID::screenshots || context.home == nullptr)
+        return std::nullopt;
+    Question files;
+    files.phrases.push_back({Sense::subject, {}, &subject});
+    return listOfFiles(withPhrases(files, files.phrases), context);
+}
+
 /// For kinds of which the scan has found nothing.
 Answer nothingFound(const Subject& subject, const AskContext& context)
 {
+    if (auto answer = screenshotsByName(subject, context))
+        return *std::move(answer);
     if (context.findings.empty())
         return {InsightTexts::kNoScan, {}};
     return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
@@ -184,6 +187,24 @@ bool isOnlyKinds(const Subject& subject)
 }
 
 } // namespace
+
+std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
+{
+    if (const auto number = context.home == nullptr ? std::nullopt : context.home->folderAt(folder))
+        return context.home->folder(*number).bytes;
+    std::int64_t bytes = 0;
+    bool isKnown = false;
+    for (const CategoryFolder& each : context.breakdown.folders) {
+        isKnown = isKnown || each.path == folder;
+        if (PathText::isAtOrBelow(each.path, folder))
+            bytes = checkedAdd(bytes, each.bytes);
+    }
+    if (isKnown || context.folders.empty())
+        return isKnown ? std::optional(bytes) : std::nullopt;
+    const std::vector<FolderSize>& measured = context.folders.back().folders;
+    const auto found = std::ranges::find(measured, folder, &FolderSize::path);
+    return found == measured.end() ? std::nullopt : std::optional(found->bytes);
+}
 
 std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& context)
 {
@@ -258,31 +279,53 @@ std::optional<Answer> comparison(const Question& question, const AskContext& con
 
 std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
 {
-    const Subject& subject = *question.subject();
-    const std::vector<const Finding*> findings = findingsOf(subject, context);
-    if (subject.kinds.empty())
+    const auto exclusions = Exclusions::of(question, context);
+    if (!exclusions)
         return std::nullopt;
-    if (findings.empty())
-        return nothingFound(subject, context);
-    Answer answer;
-    Amount amount;
-    std::int64_t safe = 0;
-    for (const Finding* const finding : findings) {
-        amount.count += std::ssize(finding->items);
-        amount.bytes = checkedAdd(amount.bytes, finding->totalSize());
-        safe = checkedAdd(safe, finding->safeSize());
-        answer.findingIDs.emplace_back(finding->id());
+    Several names{{}, Several::Joint::list};
+    std::vector<Hit> hits;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject == nullptr)
+            continue;
+        if (phrase.subject->kinds.empty())
+            return std::nullopt;
+        names.messages.emplace_back(phrase.subject->name);
+        for (const Finding* const finding : findingsOf(*phrase.subject, context)) {
+            for (const FileEntry& entry : finding->items) {
+                if (exclusions->empty() || !exclusions->leaveOut(*finding, entry))
+                    hits.push_back({finding, &entry});
+            }
+        }
     }
-    answer.text = {InsightTexts::kWithoutThem,
-                   {{"files", within(subject.name)},
-                    {"count", amount.count},
-                    {"size", Bytes{amount.bytes}},
-                    {"safe", Bytes{safe}}}};
+    if (hits.empty())
+        return nothingFound(*question.subject(), context);
+    hits = eachOnce(std::move(hits));
+    Answer answer;
+    std::int64_t safe = 0;
+    for (const Hit& hit : hits) {
+        if (hit.finding->cleanable && hit.finding->effectiveRating(*hit.entry) == Rating::safe)
+            safe = checkedAdd(safe, hit.entry->size);
+    }
+    const Message sum{InsightTexts::kWithoutThem,
+                      {{"files", std::move(names)},
+                       {"count", std::ssize(hits)},
+                       {"size", Bytes{bytesOf(hits)}},
+                       {"safe", Bytes{safe}}}};
+    std::vector<Message> lines{exclusions->said(), sum};
+    for (const FindingPart& part : partsOf(hits)) {
+        answer.findingIDs.emplace_back(part.finding->id());
+        lines.push_back(
+            {InsightTexts::kDownload, {{"name", within(part.finding->title)}, {"size", Bytes{part.bytes}}}});
+    }
+    if (answer.findingIDs.size() < 2)
+        lines.pop_back();
+    answer.text = AskText::lines(std::move(lines));
     for (const Rating rating : {Rating::safe, Rating::review}) {
-        std::vector<Hit> hits = choosable(context, rating, {});
-        std::erase_if(
-            hits, [&](const Hit& hit) { return std::ranges::find(findings, hit.finding) == findings.end(); });
-        appendPaths(answer.proposal, hits);
+        std::vector<Hit> chosen = choosable(context, rating, *exclusions);
+        std::erase_if(chosen, [&](const Hit& hit) {
+            return std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end();
+        });
+        appendPaths(answer.proposal, chosen);
     }
     return answer;
 }

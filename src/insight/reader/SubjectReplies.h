@@ -3,11 +3,16 @@
 #include "insight/AskEngine.h"
 #include "insight/reader/Question.h"
 
+#include <cstdint>
 #include <optional>
+#include <string>
 
 /// Answers about a kind of finding, a category or a folder. Each gives nothing when it is not sure of the
 /// question. Pure; any thread.
 namespace orlen::AskReader {
+
+/// Bytes of a folder with everything in it; nothing if nobody knows.
+[[nodiscard]] std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder);
 
 /// Its size, and how many items of it the scan lists.
 [[nodiscard]] std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& context);
@@ -18,10 +23,10 @@ namespace orlen::AskReader {
 /// Whether it may be removed: its ratings, or why it is protected.
 [[nodiscard]] std::optional<Answer> removingSubject(const Question& question, const AskContext& context);
 
-/// How much removing it would free; proposes what of it is not rated Keep.
 /// The sizes of two subjects that the question compares, one below the other.
 [[nodiscard]] std::optional<Answer> comparison(const Question& question, const AskContext& context);
 
+/// How much removing all of them together would free; proposes what of it is not rated Keep.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
 /// What has not been opened for long.

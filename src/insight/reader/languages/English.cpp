@@ -35,7 +35,9 @@ constexpr WordRow kWords[] = {
      "of,update linux,upgrade linux,install updates,bad sectors,disk health,smart "
      "status,shred,encrypt,decrypt"},
     {Sense::happens,
-     "does it stay in the trash,emptied automatically,where do deleted things go,where do deleted items "
+     "where do the deleted things go,where do deleted things go,where do the deleted files go,where do the "
+     "deleted items go,does it stay in the trash,emptied automatically,where do deleted things go,where do "
+     "deleted items "
      "go,where do my deleted files go,where do my files "
      "go,where do the files go,where does it all go,only trash,only trash them,just trash,what happens,what "
      "will happen,what would happen,happen,happens,where do they go,where does it go,where "
@@ -142,7 +144,8 @@ constexpr WordRow kWords[] = {
      "make,room i could,gig back,gigs back,win back,claw back"},
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
-     "refuse to delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
+     "will it touch,will you touch,does it touch,do you touch,would it touch,would you touch,refuse to "
+     "delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
      "move,will not delete,would never delete,would never touch,would you never delete,never touch,never "
      "touched,not touch,won't touch,will not touch,don't touch,never move,never "
      "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
@@ -158,7 +161,8 @@ constexpr WordRow kWords[] = {
     {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
                        "the program,delete the program"},
     {Sense::remove,
-     "binning,trashing,ditching,nuking,chucking,dumping,tossing,delete,deleted,deleting,deletes,remove,"
+     "any use,any use to me,of any "
+     "use,binning,trashing,ditching,nuking,chucking,dumping,tossing,delete,deleted,deleting,deletes,remove,"
      "removed,removing,removes,erase,erased,throw away,throw out,get "
      "rid,get rid of,getting rid of,discard,drop,move,moved,wipe,dump,clear,cleared,ditch,bin it,trash "
      "it,move to the trash,purge,kill,empty,emptied,part with,live without,do without,chuck,toss,toss "
@@ -461,7 +465,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::containers,
      "docker,podman,container,containers,docker images,container images,docker containers,"
      "docker volumes,kubernetes,distrobox,toolbox"},
-    {SubjectID::flatpak, "flatpak,flatpaks,flatpak apps,flathub,flatpak runtimes"},
+    {SubjectID::flatpak, "flatpak,flatpaks,flatpak runtime stuff,flatpak runtime,flatpak stuff,flatpak "
+                         "apps,flathub,flatpak runtimes"},
     {SubjectID::snap, "snap,snaps,snap packages,snap apps,snapd,snap store"},
     {SubjectID::games, "games,game,steam,steam games,video games,steam library,computer games,lutris,proton"},
 };

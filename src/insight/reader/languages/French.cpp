@@ -108,8 +108,11 @@ constexpr WordRow kWords[] = {
      "place,besoin de place,besoin d espace,libérerons,récupérerais,de la place,j ai besoin de,il me faut,me "
      "faut,j ai besoin d,alléger,moins plein,soulager"},
     {Sense::make, "fais moi,trouve moi,donne moi,fais,faire,fait"},
+    {Sense::unknown, "mots de passe,mot de passe"},
+    {Sense::filler, "dans la répartition,de la répartition"},
     {Sense::untouched,
-     "jamais touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche jamais,touches "
+     "tu touches,touches tu,touches-tu,vous touchez,touchez-vous,jamais "
+     "touché,protégé,protégés,protégée,protégées,intouchable,intouchables,touche jamais,touches "
      "jamais,supprime jamais,supprimes jamais,ne touche pas,protège,intact,laisse tranquille,efface "
      "jamais,jamais toucher,jamais supprimé,jamais supprimés,jamais supprimer,jamais effacés,jamais "
      "effacé,déplace jamais,jamais touchés,jamais déplacés,touchera jamais,supprimera jamais,touche pas"},
@@ -300,7 +303,7 @@ constexpr SubjectRow kSubjects[] = {
      "données de développement,données développeur,développeur,fichiers de développement,"
      "développement,fichiers de compilation,fichiers de build"},
     {SubjectID::system,
-     "système,fichiers système,données système,système d exploitation,fichiers du système"},
+     "système,system,fichiers système,données système,système d exploitation,fichiers du système"},
     {SubjectID::apps,
      "application,applications,appli,applis,programme,programmes,logiciel,logiciels,apps,app"},
     {SubjectID::media, "médias,fichiers multimédia,multimédia"},
@@ -310,7 +313,8 @@ constexpr SubjectRow kSubjects[] = {
                            "téléchargés,downloads,dossier "
                            "de téléchargement"},
     {SubjectID::desktop, "bureau,le bureau"},
-    {SubjectID::documentsFolder, "dossier documents,dossier des documents"},
+    {SubjectID::documentsFolder,
+     "dossier documents,dossier des documents,de mes documents,dans mes documents,parmi mes documents"},
     {SubjectID::picturesFolder, "dossier images,dossier photos,dossier des photos,dossier des images"},
     {SubjectID::videosFolder, "dossier vidéos,dossier vidéo,dossier des vidéos"},
     {SubjectID::musicFolder, "dossier musique,dossier de musique"},
@@ -342,7 +346,8 @@ constexpr SubjectRow kSubjects[] = {
      "texte,lettres"},
     {SubjectID::files, "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout ça,machins"},
     {SubjectID::startup,
-     "au démarrage de la session,au demarrage de la session,ouverture de session,à l ouverture de session,à "
+     "démarre avec,démarrent avec,se lance avec,démarre avec l ordinateur,au démarrage de la session,au "
+     "demarrage de la session,ouverture de session,à l ouverture de session,à "
      "l ouverture de ma session,session démarre,de démarrer,se lancer au démarrage,se lance au démarrage,de "
      "se lancer,démarre lentement,lent à démarrer,met longtemps à démarrer,démarrage,au "
      "démarrage,démarre automatiquement,démarrent automatiquement,se lance "

@@ -106,8 +106,10 @@ constexpr WordRow kWords[] = {
                       "bekommen,ich brauche platz,brauche platz,ich brauche,brauche noch,ich "
                       "bräuchte,bräuchte,benötige,ich benötige,leerer,entlasten,weniger voll,erleichtern"},
     {Sense::make, "mach,machen,macht,machst,mache,schaff,schaffe,gib mir"},
+    {Sense::filler, "wenn es so weitergeht,wenn das so weitergeht,so weiter geht,weiterhin"},
     {Sense::untouched,
-     "nie anfassen,fasst nie an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie "
+     "fasst du,rührst du,fasst es,nie anfassen,fasst nie "
+     "an,geschützt,geschützte,geschützten,schützt,tabu,unangetastet,in ruhe,rührt nie "
      "an,nie an,niemals an,nie löschen,nie gelöscht,löscht nie,rührt nicht an,nie löscht,niemals "
      "gelöscht,niemals löschen,bleibt unberührt,nie berührt,nicht angerührt,nicht angefasst,nie "
      "anrührt,lässt in ruhe,finger weg,nie verschoben,fasst nicht an"},
@@ -304,7 +306,8 @@ constexpr SubjectRow kSubjects[] = {
      "heruntergeladenen dateien,heruntergeladene,runtergeladen,runtergeladene sachen,heruntergeladene sachen,"
      "runtergeladene dateien"},
     {SubjectID::desktop, "desktop,schreibtisch,arbeitsfläche,schreibtischordner"},
-    {SubjectID::documentsFolder, "dokumentenordner,dokumenteordner,dokumente-ordner,ordner dokumente"},
+    {SubjectID::documentsFolder, "dokumentenordner,dokumenteordner,dokumente-ordner,ordner dokumente,in "
+                                 "meinen dokumenten,meiner dokumente"},
     {SubjectID::picturesFolder, "bilderordner,bilder-ordner,fotoordner,ordner bilder,foto-ordner"},
     {SubjectID::videosFolder, "videoordner,video-ordner,videos-ordner,ordner videos,filmordner"},
     {SubjectID::musicFolder, "musikordner,musik-ordner,ordner musik"},

@@ -98,7 +98,7 @@ constexpr WordRow kWords[] = {
      "spazio,liberiamo,alleggerire,fare un po di posto,più posto,liberarsi,bisogno di spazio,mi serve,mi "
      "servono,ho bisogno di,bisogno di,mi occorrono,meno pieno"},
     {Sense::make, "fai,fare,fammi,dammi,trovami"},
-    {Sense::untouched, "mai tocca,non tocca,non tocca mai,non tocchi "
+    {Sense::untouched, "tocchi,toccherai,toccherà,mai tocca,non tocca,non tocca mai,non tocchi "
                        "mai,protetto,protetti,protetta,protette,protegge,intoccabile,intoccabili,mai "
                        "cancellati,non cancella mai,non elimina mai,non cancelli mai,non elimini mai,mai "
                        "eliminati,mai toccati,mai toccherà,non toccherà mai,mai cancellare,mai eliminare,mai "
@@ -288,7 +288,8 @@ constexpr SubjectRow kSubjects[] = {
      "download,downloads,scaricati,cartella download,cartella scaricati,cartella dei download,file "
      "scaricati,scaricato,cartella downloads,scaricate,roba scaricata,cose scaricate,scaricamenti"},
     {SubjectID::desktop, "desktop,scrivania"},
-    {SubjectID::documentsFolder, "cartella documenti,cartella dei documenti"},
+    {SubjectID::documentsFolder,
+     "cartella documenti,cartella dei documenti,dei miei documenti,nei miei documenti"},
     {SubjectID::picturesFolder,
      "cartella immagini,cartella foto,cartella delle foto,cartella delle immagini"},
     {SubjectID::videosFolder, "cartella video,cartella dei video"},

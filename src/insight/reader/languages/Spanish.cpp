@@ -98,7 +98,7 @@ constexpr WordRow kWords[] = {
      "más,me faltan,quiero liberar,quiero recuperar,hueco,hacer más sitio"},
     {Sense::make, "haz,hacer,hazme,dame,consigue,búscame"},
     {Sense::untouched,
-     "nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
+     "tocas,tocarás,tocará,nunca toca,nunca tocas,nunca borra,nunca borras,nunca elimina,no toca,no "
      "tocas,protegido,protegidos,protegida,protegidas,protege,intocable,intocables,jamás toca,jamás borra,no "
      "borra,nunca se borra,nunca borrará,nunca tocará,nunca mueve,no tocará,nunca tocar,nunca "
      "borrar,intacto,jamás borrará,nunca borrarías,jamás tocará,nunca eliminará,no se toca,nunca se toca"},
@@ -210,7 +210,8 @@ constexpr WordRow kWords[] = {
     {Sense::after, "después,después de,posterior a,posteriores a,tras"},
     {Sense::last, "último,última,últimos,últimas,anterior,la última vez,última vez,pasada vez"},
     {Sense::privacy, "necesita internet,necesitas internet,conexión a internet,sin internet,miras mis "
-                     "archivos,lees mis archivos,ves mis archivos,ve mis archivos,ver mis archivos,ver mis "
+                     "archivos,lees mis archivos,lees mis correos,lees mi correo,lees mis mensajes,leer mis "
+                     "correos,ves mis archivos,ve mis archivos,ver mis archivos,ver mis "
                      "fotos,ve mis fotos,tu empresa,vuestra empresa,se quedan en mi ordenador,se quedan en "
                      "mi equipo,quedan en mi ordenador,salen de mi ordenador,internet,en "
                      "línea,online,red,privado,privada,privacidad,privados,nube,telemetría,enviar,envía,"
@@ -294,7 +295,8 @@ constexpr SubjectRow kSubjects[] = {
      "descarga,descargas,carpeta descargas,carpeta de descargas,archivos descargados,descargado,"
      "descargados,downloads,cosas descargadas,bajados"},
     {SubjectID::desktop, "escritorio"},
-    {SubjectID::documentsFolder, "carpeta documentos,carpeta de documentos"},
+    {SubjectID::documentsFolder,
+     "carpeta documentos,carpeta de documentos,de mis documentos,en mis documentos"},
     {SubjectID::picturesFolder, "carpeta imágenes,carpeta de imágenes,carpeta de fotos,carpeta fotos"},
     {SubjectID::videosFolder, "carpeta vídeos,carpeta de vídeos"},
     {SubjectID::musicFolder, "carpeta música,carpeta de música"},
