@@ -62,11 +62,13 @@ private:
 /// As desktops and phones name what they take of a screen.
 bool isNamedScreenshot(std::string_view name)
 {
-    constexpr std::string_view kStarts[] = {"screenshot", "screen shot",     "bildschirmfoto", "captura de",
-                                            "capture d",  "schermata",       "captura_de",     "istantanea",
-                                            "capture_d",  "bildschirm foto", "screen capture"};
+    // Without what stands between the words.
+    constexpr std::string_view kStarts[] = {
+        "screenshot",    "screencapture",   "bildschirmfoto", "captured'écran", "captured’écran",
+        "capturedecran", "capturadepantal", "capturadetela",  "schermata",      "istantanea"};
     std::string lower;
     lowerInto(lower, name);
+    std::erase_if(lower, [](char each) { return each == ' ' || each == '_' || each == '-'; });
     return std::ranges::any_of(kStarts, [&](std::string_view start) { return lower.starts_with(start); });
 }
 
