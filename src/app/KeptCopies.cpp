@@ -73,7 +73,7 @@ private:
     [[nodiscard]] bool isBetter(const Cand& one, const Cand& best) const
     {
         return m_kind == FindingKind::duplicates ? m_prefers(one, best)
-                                                 : m_prefers.byPlace(one.path, best.path) < 0;
+                                                 : std::is_lt(m_prefers.byPlace(one.path, best.path));
     }
 
     [[nodiscard]] Message noteOn(const std::string& copy, const std::string& kept) const

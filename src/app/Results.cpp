@@ -11,7 +11,6 @@
 #include "scan/ScanEngine.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace orlen {
@@ -19,6 +18,13 @@ namespace orlen {
 namespace {
 
 constexpr double kBytesPerMegabyte = 1'000'000;
+
+/// What a scan comes to, and what is kept by the rule it began with.
+struct Ended {
+    SmartScan::Outcome outcome;
+    KeepRule rule;
+    std::vector<KeptCopies::Chosen> kept;
+};
 
 } // namespace
 
@@ -65,12 +71,11 @@ void Results::startScan()
             if (rule != KeepRule())
                 KeptCopies::addEntries(inSets, outcome.findings);
             std::vector<KeptCopies::Chosen> kept = KeptCopies::ofAll(rule, inSets);
-            return std::tuple(std::move(outcome), rule, std::move(kept));
+            return Ended{std::move(outcome), rule, std::move(kept)};
         },
-        [this, engine](std::tuple<SmartScan::Outcome, KeepRule, std::vector<KeptCopies::Chosen>> ended) {
-            auto& [outcome, rule, kept] = ended;
-            finishScan(engine, std::move(outcome), std::move(kept));
-            if (rule != m_keepRule)
+        [this, engine](Ended ended) {
+            finishScan(engine, std::move(ended.outcome), std::move(ended.kept));
+            if (ended.rule != m_keepRule)
                 applyKeepRule();
         });
 }

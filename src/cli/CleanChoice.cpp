@@ -33,9 +33,11 @@ Standing standing(const std::vector<Finding>& findings, const std::string& path)
 std::string keptAmong(const std::vector<Finding>& findings, const std::set<std::string>& paths)
 {
     std::vector<const Finding*> all;
+    all.reserve(findings.size());
     for (const Finding& finding : findings)
         all.push_back(&finding);
     std::vector<FileEntry> entries;
+    entries.reserve(paths.size());
     for (const std::string& path : paths)
         entries.push_back({path});
     const std::set<std::string> staying =

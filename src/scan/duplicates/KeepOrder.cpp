@@ -40,15 +40,15 @@ bool KeepOrder::isReference(const std::string& path) const
 
 std::strong_ordering KeepOrder::byPlace(const std::string& a, const std::string& b) const
 {
-    if (const auto order = isReference(b) <=> isReference(a); order != 0 || m_rule.folder.empty())
+    if (const auto order = isReference(b) <=> isReference(a); std::is_neq(order) || m_rule.folder.empty())
         return order;
     return PathText::isAtOrBelow(b, m_rule.folder) <=> PathText::isAtOrBelow(a, m_rule.folder);
 }
 
 bool KeepOrder::operator()(const Cand& a, const Cand& b) const
 {
-    if (const auto order = byPlace(a.path, b.path); order != 0)
-        return order < 0;
+    if (const auto order = byPlace(a.path, b.path); std::is_neq(order))
+        return std::is_lt(order);
     if (m_rule.order == KeepRule::Order::newest && a.modified != b.modified)
         return a.modified > b.modified;
     if (m_rule.order == KeepRule::Order::oldest && a.modified != b.modified)

@@ -90,8 +90,10 @@ QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline)
     const int bottom = std::min(block.top + kReach, kPlaces - 1);
     unsigned least = std::numeric_limits<unsigned>::max();
     for (int x = std::max(block.left - kReach, 0); x <= std::min(block.left + kReach, kPlaces - 1); ++x) {
-        const std::uint8_t* rank = &kMoves.rank[static_cast<std::size_t>(x - block.left + kReach)]
-                                               [static_cast<std::size_t>(top - block.top + kReach)];
+        const int right = x - block.left + kReach;
+        const int down = top - block.top + kReach;
+        const std::uint8_t* rank =
+            &kMoves.rank[static_cast<std::size_t>(right)][static_cast<std::size_t>(down)];
         for (int y = top; y <= bottom; ++y, ++rank) {
             const auto different = static_cast<unsigned>(std::popcount(own ^ other.pixels(x, y)));
             least = std::min(least, different << kRankBits | *rank);
