@@ -133,8 +133,8 @@ TEST_F(AskFollowUpTest, answersComeAtOnce)
         const auto start = std::chrono::steady_clock::now();
         conversation = AskEngine::turn(question, context, conversation).next;
         const auto took = std::chrono::steady_clock::now() - start;
-        // Ten times what it takes, since tests run beside each other.
-        EXPECT_THAT(std::chrono::duration_cast<std::chrono::milliseconds>(took).count(), Le(1'000))
+        // Many times what it takes, since tests run beside each other, and under sanitizers.
+        EXPECT_THAT(std::chrono::duration_cast<std::chrono::milliseconds>(took).count(), Le(3'000))
             << question;
     }
 }

@@ -7,11 +7,19 @@ namespace orlen::TestMedia {
 
 namespace {
 
+/// The one with this number, counted from the lowest.
+char byteOf(std::uint64_t value, int number)
+{
+    constexpr int kBits = 8;
+    return number < static_cast<int>(sizeof value) ? static_cast<char>(value >> (kBits * number) & 0xff)
+                                                   : '\0';
+}
+
 std::string littleEndian(std::uint64_t value, int bytes)
 {
     std::string text;
     for (int i = 0; i < bytes; ++i)
-        text += static_cast<char>(value >> (8 * i) & 0xff);
+        text += byteOf(value, i);
     return text;
 }
 
@@ -19,7 +27,7 @@ std::string bigEndian(std::uint64_t value, int bytes)
 {
     std::string text;
     for (int i = bytes - 1; i >= 0; --i)
-        text += static_cast<char>(value >> (8 * i) & 0xff);
+        text += byteOf(value, i);
     return text;
 }
 

@@ -291,7 +291,7 @@ TEST(PhotoAnalyzerTest, aDamagedPictureIsInNoSet)
 TEST(PhotoGroupsTest, manyPhotosAreGroupedAsIfTheyCameOneByOne)
 {
     // Around a circle, each like those near it, in an order that jumps about; every tenth has no print.
-    constexpr std::size_t kCount = 300;
+    constexpr std::size_t kCount = 200;
     std::vector<PhotoInfo> photos(kCount);
     for (std::size_t i = 0; i < kCount; ++i) {
         const double angle = 0.37 * static_cast<double>(i * i % 997);
