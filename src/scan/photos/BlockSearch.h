@@ -59,7 +59,7 @@ private:
     static constexpr int kPlaces = side - block + 1; ///< of a block along a side
     static constexpr int kPixels = block * block;
 
-    static constexpr std::size_t kMargin = std::size_t{3} * kLanes;
+    static constexpr std::size_t kMargin = std::size_t{6} * kLanes;
     static constexpr std::size_t kAllPlaces = static_cast<std::size_t>(kPlaces) * kPlaces;
 
     [[nodiscard]] const PixelPair* pair(TilePlace place) const
@@ -80,16 +80,22 @@ private:
         std::array<float, 2> rests{};
     };
     [[nodiscard]] Sought soughtAt(TilePlace place) const;
-    template <int fours>
-    using Common = std::array<IntLanes, static_cast<std::size_t>(fours)>;
-    template <int fours>
-    void addRows(Common<fours>& common, const Sought& sought, const BlockSearch& other, TilePlace first,
-                 int row, int end) const;
-    template <int fours>
-    [[nodiscard]] bool mayBeBetter(const Common<fours>& common, const Sought& sought,
+    template <typename Lanes, std::size_t count>
+    using Common = std::array<typename Lanes::Ints, count>;
+    template <typename Lanes, std::size_t count>
+    void addRows(Common<Lanes, count>& common, const Sought& sought, const BlockSearch& other,
+                 TilePlace first, int row, int end) const;
+    template <typename Lanes, std::size_t count>
+    [[nodiscard]] bool mayBeBetter(const Common<Lanes, count>& common, const Sought& sought,
                                    const BlockSearch& other, TilePlace first, float rest) const;
-    template <int fours>
-    void look(Sought& sought, const BlockSearch& other, TilePlace first, int count) const;
+    template <typename Lanes, std::size_t count>
+    void look(Sought& sought, const BlockSearch& other, TilePlace first, int places) const;
+    template <typename Lanes>
+    void lookAround(Sought& sought, const BlockSearch& other, int reach, TilePlace guessedMove) const;
+    ORLEN_WIDE void lookAroundInWideLanes(Sought& sought, const BlockSearch& other, int reach,
+                                          TilePlace guessedMove) const;
+    void prepare(const Pixels& pixels);
+    ORLEN_WIDE void prepareInWideLanes(const Pixels& pixels);
     void sumUpBlocks();
     void findTexture();
 

@@ -1,5 +1,6 @@
 #include "scan/photos/PrintIndex.h"
 
+#include "platform/values/WideLanes.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
@@ -9,21 +10,27 @@
 #include <numeric>
 #include <optional>
 
+#ifdef __x86_64__
+#include <immintrin.h>
+#endif
+
 namespace orlen {
 
 namespace {
 
 /// Numbers of a unit vector in whole steps. No sum of their products exceeds 16 bits, as no product of two
-/// such vectors exceeds the square of this, nor do its parts.
-constexpr float kSteps = 177;
+/// such vectors exceeds the square of this, nor do its parts; nor does that of two beside each other with
+/// `kAdded` added to either number of one of them.
+constexpr float kSteps = 110;
+constexpr int kAdded = 128;
 
 constexpr float kLeastCosine = 1 - kCoarseLimit * kCoarseLimit / 2;
 /// More than what is lost when a cosine is computed in another order.
 constexpr float kNothing = 1e-5F;
 
-std::int16_t inSteps(float number)
+std::int8_t inSteps(float number)
 {
-    return static_cast<std::int16_t>(std::lround(number * kSteps));
+    return static_cast<std::int8_t>(std::lround(number * kSteps));
 }
 
 /// What sketches of directions with that cosine have in common, at least, if rounding moved them that far.
@@ -34,8 +41,7 @@ std::int16_t leastProduct(float cosine, float oneMoved, float otherMoved)
 }
 
 /// The sum of the products of their numbers.
-[[gnu::always_inline]] inline std::int32_t inCommon(const PrintIndex::Direction& one,
-                                                    const PrintIndex::Direction& other)
+ORLEN_INLINE std::int32_t inCommon(const PrintIndex::Direction& one, const PrintIndex::Direction& other)
 {
     constexpr std::size_t kSome = 16;
     constexpr int kHalf = 16; // bits
@@ -67,17 +73,6 @@ float lengthOf(std::span<const std::int8_t> numbers)
     return std::sqrt(squares);
 }
 
-/// Whether the processor has lanes of 256 bits.
-bool hasWideLanes()
-{
-#ifdef __x86_64__
-    static const bool has = __builtin_cpu_supports("avx2") != 0;
-    return has;
-#else
-    return false;
-#endif
-}
-
 void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 {
     const auto isNearer = [](const PrintIndex::Near& one, const PrintIndex::Near& other) {
@@ -92,20 +87,22 @@ void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 
 /// A direction that is looked for.
 struct PrintIndex::Query {
-    // Left to itself, the compiler takes four at a time.
-    using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
-    /// Of a bundle; two, as one addition has to wait for the one before.
-    struct Sums {
-        Lanes left{};
-        Lanes right{};
-    };
-    /// Bits set for each of a bundle that may be near.
-    using Marks = std::array<std::int16_t, kTogether>;
-
     Query(const Direction& of, std::size_t mostFound, const PrintIndex& in)
         : direction(&of), squares(product(of, of)), most(mostFound), index(&in), rounded(sketchOf(of))
     {
         setLeast(kLeastCosine);
+        constexpr int kByte = 8;
+        std::array<int, kPairs> middles{};
+        for (std::size_t i = 0; i < kPairs; ++i) {
+            const std::int8_t one = rounded.sketch[2 * i];
+            const std::int8_t other = rounded.sketch[2 * i + 1];
+            pairs[i] = static_cast<std::uint16_t>(static_cast<std::uint8_t>(one) |
+                                                  static_cast<std::uint8_t>(other) << kByte);
+            middles[i] = kAdded * (one + other);
+        }
+        const auto ofLength = middles.begin() + kStart / 2;
+        beforeStart = -std::accumulate(middles.begin(), ofLength + 1, 0);
+        beforeRest = *ofLength - std::accumulate(ofLength + 1, middles.end(), 0);
     }
 
     void setLeast(float cosine)
@@ -115,63 +112,101 @@ struct PrintIndex::Query {
         least = leastProduct(cosine, rounded.moved, index->m_moved);
     }
 
-    [[gnu::always_inline]] void addProducts(Sums& sums, const Bundle& bundle, std::size_t first,
-                                            std::size_t end) const
-    {
-        constexpr std::size_t kStep = 4;
-        for (std::size_t i = first; i < end; i += kStep) {
-            for (std::size_t step = 0; step < kStep; ++step)
-                addProduct(sums, bundle, i + step);
-        }
-    }
-
-    [[gnu::always_inline]] void addProduct(Sums& sums, const Bundle& bundle, std::size_t i) const
-    {
-        Lanes left{};
-        Lanes right{};
-        std::memcpy(&left, bundle[i].data(), sizeof left);
-        std::memcpy(&right, bundle[i].data() + kLanes, sizeof right);
-        sums.left += left * rounded.sketch[i];
-        sums.right += right * rounded.sketch[i];
-    }
-
-    /// Whether any of the bundle may be near, and which.
-    [[nodiscard]] [[gnu::always_inline]] bool hasNear(const Bundle& bundle, Marks& marks) const
-    {
-        Sums start;
-        addProducts(start, bundle, 0, kStart);
-        Sums sums = start;
-        addProduct(sums, bundle, kStart);
-        if (!isAnySet((sums.left >= Lanes{} + leastOfStart) | (sums.right >= Lanes{} + leastOfStart)))
-            return false;
-        addProducts(start, bundle, kStart + 1, kNumbers);
-        const Lanes left = start.left >= Lanes{} + least;
-        const Lanes right = start.right >= Lanes{} + least;
-        std::memcpy(marks.data(), &left, sizeof left);
-        std::memcpy(marks.data() + kLanes, &right, sizeof right);
-        return isAnySet(left | right);
-    }
-
-    [[nodiscard]] [[gnu::always_inline]] static bool isAnySet(const Lanes& lanes)
-    {
-        const auto parts =
-            std::bit_cast<std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)>>(lanes);
-        std::uint64_t any = 0;
-        for (const std::uint64_t part : parts)
-            any |= part;
-        return any != 0;
-    }
-
     const Direction* direction;
     std::int32_t squares; ///< of its length
     std::size_t most;
     const PrintIndex* index;
     Rounded rounded;
+    std::array<std::uint16_t, kPairs> pairs{}; ///< two numbers of the sketch
+    // What to begin with, as there is too much in the numbers of bundles.
+    int beforeStart = 0;           ///< and the length of what follows it
+    int beforeRest = 0;            ///< all but that length
     std::int16_t leastOfStart = 0; ///< for the sketches of near ones
     std::int16_t least = 0;
     float leastCosine = 0;
     std::vector<Near> found;
 };
+
+// Sums of products of a sketch and those of a bundle. They wrap, and come out right in the end.
+
+/// On any processor.
+class PrintIndex::NarrowSums {
+public:
+    ORLEN_INLINE explicit NarrowSums(int before) { addToAll(before); }
+    ORLEN_INLINE void addToAll(int number)
+    {
+        m_left += static_cast<std::uint16_t>(number);
+        m_right += static_cast<std::uint16_t>(number);
+    }
+    ORLEN_INLINE void add(const Pairs& of, std::uint16_t pair)
+    {
+        Lanes left{};
+        Lanes right{};
+        std::memcpy(&left, of.data(), sizeof left);
+        std::memcpy(&right, of.data() + kLanes, sizeof right);
+        add(m_left, left, pair);
+        add(m_right, right, pair);
+    }
+    /// A bit for each.
+    [[nodiscard]] ORLEN_INLINE std::uint32_t atLeast(std::int16_t least) const
+    {
+        std::array<std::int16_t, kTogether> sums{};
+        std::memcpy(sums.data(), &m_left, sizeof m_left);
+        std::memcpy(sums.data() + kLanes, &m_right, sizeof m_right);
+        std::uint32_t found = 0;
+        for (std::size_t i = 0; i < kTogether; ++i)
+            found |= std::uint32_t{sums[i] >= least} << i;
+        return found;
+    }
+
+private:
+    static constexpr std::size_t kLanes = 16;
+    using Lanes [[gnu::vector_size(kLanes * sizeof(std::uint16_t))]] = std::uint16_t;
+
+    ORLEN_INLINE static void add(Lanes& sums, const Lanes& of, std::uint16_t pair)
+    {
+        constexpr int kByte = 8;
+        sums += (of & 0xff) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair & 0xff)) +
+                (of >> kByte) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair >> kByte));
+    }
+
+    Lanes m_left{};
+    Lanes m_right{};
+};
+
+#ifdef __x86_64__
+/// In one instruction for two products of each.
+class PrintIndex::WideSums {
+public:
+    ORLEN_WIDE explicit WideSums(int before) { addToAll(before); }
+    ORLEN_WIDE void addToAll(int number)
+    {
+        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(number));
+        m_left = _mm256_add_epi16(m_left, all);
+        m_right = _mm256_add_epi16(m_right, all);
+    }
+    ORLEN_WIDE void add(const Pairs& of, std::uint16_t pair)
+    {
+        const auto* sketches = reinterpret_cast<const __m256i*>(of.data());
+        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(pair));
+        m_left = _mm256_add_epi16(m_left, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches), all));
+        m_right = _mm256_add_epi16(m_right, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches + 1), all));
+    }
+    /// A bit for each.
+    [[nodiscard]] ORLEN_WIDE std::uint32_t atLeast(std::int16_t least) const
+    {
+        constexpr int kInOrder = 0b11'01'10'00;
+        const __m256i less = _mm256_set1_epi16(static_cast<std::int16_t>(least - 1));
+        const __m256i isFound =
+            _mm256_packs_epi16(_mm256_cmpgt_epi16(m_left, less), _mm256_cmpgt_epi16(m_right, less));
+        return static_cast<std::uint32_t>(_mm256_movemask_epi8(_mm256_permute4x64_epi64(isFound, kInOrder)));
+    }
+
+private:
+    __m256i m_left = _mm256_setzero_si256();
+    __m256i m_right = _mm256_setzero_si256();
+};
+#endif
 
 PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
 {
@@ -186,8 +221,10 @@ PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
         moved[count++] = by * by;
     };
     for (std::size_t i = 0; i < kHead; ++i) {
-        if (i == kStart)
+        if (i == kStart) {
             put(lengthOf(numbers.subspan(kStart)));
+            put(0);
+        }
         put(static_cast<float>(numbers[i]));
     }
     constexpr std::size_t kRest = (FeaturePrint::kLength - kHead) / kRests;
@@ -205,15 +242,19 @@ void PrintIndex::add(const Direction& direction)
     if (lane == 0)
         m_bundles.emplace_back();
     const Rounded rounded = sketchOf(direction);
-    for (std::size_t i = 0; i < kNumbers; ++i)
-        m_bundles.back()[i][lane] = rounded.sketch[i];
+    const auto level = [](std::int8_t number) { return static_cast<unsigned>(number + kAdded); };
+    for (std::size_t i = 0; i < kPairs; ++i) {
+        constexpr unsigned kByte = 8;
+        m_bundles.back()[i][lane] = static_cast<std::uint16_t>(level(rounded.sketch[2 * i]) |
+                                                               level(rounded.sketch[2 * i + 1]) << kByte);
+    }
     m_startMoved = std::max(m_startMoved, rounded.startMoved);
     m_moved = std::max(m_moved, rounded.moved);
     m_directions.push_back(direction);
     m_squares.push_back(product(direction, direction));
 }
 
-[[gnu::always_inline]] inline void PrintIndex::look(Query& query, std::size_t number) const
+ORLEN_INLINE void PrintIndex::look(Query& query, std::size_t number) const
 {
     const std::int32_t common = inCommon(m_directions[number], *query.direction);
     const float lengths =
@@ -233,18 +274,36 @@ void PrintIndex::add(const Direction& direction)
     query.setLeast(1 - farthest * farthest / 2);
 }
 
+/// Which of a bundle may be near, a bit for each.
+template <typename Sums>
+ORLEN_INLINE std::uint32_t PrintIndex::mayBeNear(const Query& query, const Bundle& bundle)
+{
+    constexpr std::size_t kLength = kStart / 2;
+    Sums sums(query.beforeStart);
+    for (std::size_t i = 0; i < kLength; ++i)
+        sums.add(bundle[i], query.pairs[i]);
+    Sums start = sums;
+    start.add(bundle[kLength], query.pairs[kLength]);
+    if (start.atLeast(query.leastOfStart) == 0)
+        return 0;
+    sums.addToAll(query.beforeRest);
+    for (std::size_t i = kLength + 1; i < kPairs; ++i)
+        sums.add(bundle[i], query.pairs[i]);
+    return sums.atLeast(query.least);
+}
+
 /// Bundle by bundle, so that each is fetched from memory once.
-[[gnu::always_inline]] inline void PrintIndex::lookThroughBundles(std::span<Query> queries) const
+template <typename Sums>
+ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 {
     for (std::size_t first = 0; first < m_directions.size(); first += kTogether) {
         const Bundle& bundle = m_bundles[first / kTogether];
         const std::size_t count = std::min(kTogether, m_directions.size() - first);
         for (Query& query : queries) {
-            Query::Marks isNear{};
-            if (!query.hasNear(bundle, isNear))
-                continue;
-            for (std::size_t i = 0; i < count; ++i) {
-                if (isNear[i] != 0)
+            std::uint32_t found = mayBeNear<Sums>(query, bundle);
+            for (; found != 0; found &= found - 1) {
+                const auto i = static_cast<std::size_t>(std::countr_zero(found));
+                if (i < count)
                     look(query, first + i);
             }
         }
@@ -252,19 +311,21 @@ void PrintIndex::add(const Direction& direction)
 }
 
 #ifdef __x86_64__
-[[gnu::target("avx2")]]
-#endif
-void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
+ORLEN_WIDE void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
 {
-    lookThroughBundles(queries);
+    lookThroughBundles<WideSums>(queries);
 }
+#endif
 
 void PrintIndex::lookThrough(std::span<Query> queries) const
 {
-    if (hasWideLanes())
+#ifdef __x86_64__
+    if (WideLanes::areUsed()) {
         lookThroughInWideLanes(queries);
-    else
-        lookThroughBundles(queries);
+        return;
+    }
+#endif
+    lookThroughBundles<NarrowSums>(queries);
 }
 
 std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,
