@@ -23,35 +23,40 @@ ORLEN_INLINE std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, le
 } // namespace
 
 template <int side, int block>
-BlockSearch<side, block>::BlockSearch(const Pixels& pixels)
+BlockSearch<side, block>::BlockSearch(const Pixels& pixels) : BlockSearch(pixels, block)
 {
-    if (WideLanes::areUsed())
-        prepareInWideLanes(pixels);
-    else
-        prepare(pixels);
     findTexture();
 }
 
 template <int side, int block>
-ORLEN_INLINE void BlockSearch<side, block>::prepare(const Pixels& pixels)
+BlockSearch<side, block>::BlockSearch(const Pixels& pixels, int reach)
+{
+    if (WideLanes::areUsed())
+        prepareInWideLanes(pixels, reach);
+    else
+        prepare(pixels, reach);
+}
+
+template <int side, int block>
+ORLEN_INLINE void BlockSearch<side, block>::prepare(const Pixels& pixels, int reach)
 {
     const auto level = [&](std::size_t i) { return static_cast<std::int16_t>(pixels[i] - 128); };
     for (std::size_t i = 0; i + 1 < pixels.size(); ++i)
         m_pairs[i] = {level(i), level(i + 1)};
     m_pairs[pixels.size() - 1] = {level(pixels.size() - 1), 0};
-    sumUpBlocks();
+    sumUpBlocks(reach);
 }
 
 template <int side, int block>
-ORLEN_WIDE void BlockSearch<side, block>::prepareInWideLanes(const Pixels& pixels)
+ORLEN_WIDE void BlockSearch<side, block>::prepareInWideLanes(const Pixels& pixels, int reach)
 {
-    prepare(pixels);
+    prepare(pixels, reach);
 }
 
 /// Sums over each column of a block's height, moved down row by row; and over a block's width of those. No
 /// number exceeds 2 to the 30th.
 template <int side, int block>
-ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks()
+ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
 {
     // One level of noise, so that an even block matches nothing.
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
@@ -67,8 +72,10 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks()
     };
     for (int y = 0; y < block - 1; ++y)
         addRow(y, 1);
-    for (int y = 0; y < kPlaces; ++y) {
+    for (int y = 0; y < kPlaces; ++y, addRow(y - 1, -1)) {
         addRow(y + block - 1, 1);
+        if (std::min(y % block, block - y % block) > reach)
+            continue;
         const auto blockSums = sumsOf<block>(sums);
         const auto blockSquares = sumsOf<block>(squares);
         const std::size_t row = index({0, y});
@@ -79,7 +86,6 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks()
             m_spreads[row + x] = spread;
             m_onesBySpreads[row + x] = 1 / (spread + kNoise);
         }
-        addRow(y, -1);
     }
 }
 

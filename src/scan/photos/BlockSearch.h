@@ -40,6 +40,8 @@ public:
     using Pixels = std::array<std::uint8_t, static_cast<std::size_t>(side) * side>;
 
     explicit BlockSearch(const Pixels& pixels);
+    /// Only for finding blocks of a `texturedBlocks` in it that have moved at most `reach` pixels.
+    BlockSearch(const Pixels& pixels, int reach);
 
     /// The blocks with enough structure to be found again, the strongest first.
     [[nodiscard]] const std::vector<TilePlace>& texturedBlocks() const { return m_texturedBlocks; }
@@ -94,9 +96,9 @@ private:
     void lookAround(Sought& sought, const BlockSearch& other, int reach, TilePlace guessedMove) const;
     ORLEN_WIDE void lookAroundInWideLanes(Sought& sought, const BlockSearch& other, int reach,
                                           TilePlace guessedMove) const;
-    void prepare(const Pixels& pixels);
-    ORLEN_WIDE void prepareInWideLanes(const Pixels& pixels);
-    void sumUpBlocks();
+    void prepare(const Pixels& pixels, int reach);
+    ORLEN_WIDE void prepareInWideLanes(const Pixels& pixels, int reach);
+    void sumUpBlocks(int reach);
     void findTexture();
 
     /// Each pixel with the one on its right. Here and below, the margin is for reading whole lanes at the

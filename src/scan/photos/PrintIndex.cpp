@@ -1,6 +1,7 @@
 #include "scan/photos/PrintIndex.h"
 
 #include "platform/values/WideLanes.h"
+#include "scan/photos/Prefetch.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
@@ -9,10 +10,6 @@
 #include <cstring>
 #include <numeric>
 #include <optional>
-
-#ifdef __x86_64__
-#include <immintrin.h>
-#endif
 
 namespace orlen {
 
@@ -127,87 +124,6 @@ struct PrintIndex::Query {
     std::vector<Near> found;
 };
 
-// Sums of products of a sketch and those of a bundle. They wrap, and come out right in the end.
-
-/// On any processor.
-class PrintIndex::NarrowSums {
-public:
-    ORLEN_INLINE explicit NarrowSums(int before) { addToAll(before); }
-    ORLEN_INLINE void addToAll(int number)
-    {
-        m_left += static_cast<std::uint16_t>(number);
-        m_right += static_cast<std::uint16_t>(number);
-    }
-    ORLEN_INLINE void add(const Pairs& of, std::uint16_t pair)
-    {
-        Lanes left{};
-        Lanes right{};
-        std::memcpy(&left, of.data(), sizeof left);
-        std::memcpy(&right, of.data() + kLanes, sizeof right);
-        add(m_left, left, pair);
-        add(m_right, right, pair);
-    }
-    /// A bit for each.
-    [[nodiscard]] ORLEN_INLINE std::uint32_t atLeast(std::int16_t least) const
-    {
-        std::array<std::int16_t, kTogether> sums{};
-        std::memcpy(sums.data(), &m_left, sizeof m_left);
-        std::memcpy(sums.data() + kLanes, &m_right, sizeof m_right);
-        std::uint32_t found = 0;
-        for (std::size_t i = 0; i < kTogether; ++i)
-            found |= std::uint32_t{sums[i] >= least} << i;
-        return found;
-    }
-
-private:
-    static constexpr std::size_t kLanes = 16;
-    using Lanes [[gnu::vector_size(kLanes * sizeof(std::uint16_t))]] = std::uint16_t;
-
-    ORLEN_INLINE static void add(Lanes& sums, const Lanes& of, std::uint16_t pair)
-    {
-        constexpr int kByte = 8;
-        sums += (of & 0xff) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair & 0xff)) +
-                (of >> kByte) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair >> kByte));
-    }
-
-    Lanes m_left{};
-    Lanes m_right{};
-};
-
-#ifdef __x86_64__
-/// In one instruction for two products of each.
-class PrintIndex::WideSums {
-public:
-    ORLEN_WIDE explicit WideSums(int before) { addToAll(before); }
-    ORLEN_WIDE void addToAll(int number)
-    {
-        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(number));
-        m_left = _mm256_add_epi16(m_left, all);
-        m_right = _mm256_add_epi16(m_right, all);
-    }
-    ORLEN_WIDE void add(const Pairs& of, std::uint16_t pair)
-    {
-        const auto* sketches = reinterpret_cast<const __m256i*>(of.data());
-        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(pair));
-        m_left = _mm256_add_epi16(m_left, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches), all));
-        m_right = _mm256_add_epi16(m_right, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches + 1), all));
-    }
-    /// A bit for each.
-    [[nodiscard]] ORLEN_WIDE std::uint32_t atLeast(std::int16_t least) const
-    {
-        constexpr int kInOrder = 0b11'01'10'00;
-        const __m256i less = _mm256_set1_epi16(static_cast<std::int16_t>(least - 1));
-        const __m256i isFound =
-            _mm256_packs_epi16(_mm256_cmpgt_epi16(m_left, less), _mm256_cmpgt_epi16(m_right, less));
-        return static_cast<std::uint32_t>(_mm256_movemask_epi8(_mm256_permute4x64_epi64(isFound, kInOrder)));
-    }
-
-private:
-    __m256i m_left = _mm256_setzero_si256();
-    __m256i m_right = _mm256_setzero_si256();
-};
-#endif
-
 PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
 {
     const float length = std::max(lengthOf(direction), 1.0F);
@@ -238,7 +154,7 @@ PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
 
 void PrintIndex::add(const Direction& direction)
 {
-    const std::size_t lane = m_directions.size() % kTogether;
+    const std::size_t lane = m_directions.size() % kSketches;
     if (lane == 0)
         m_bundles.emplace_back();
     const Rounded rounded = sketchOf(direction);
@@ -292,20 +208,24 @@ ORLEN_INLINE std::uint32_t PrintIndex::mayBeNear(const Query& query, const Bundl
     return sums.atLeast(query.least);
 }
 
-/// Bundle by bundle, so that each is fetched from memory once.
+/// Bundle by bundle, so that each is fetched from memory once. What is looked at closely is fetched
+/// meanwhile.
 template <typename Sums>
 ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 {
-    for (std::size_t first = 0; first < m_directions.size(); first += kTogether) {
-        const Bundle& bundle = m_bundles[first / kTogether];
-        const std::size_t count = std::min(kTogether, m_directions.size() - first);
-        for (Query& query : queries) {
-            std::uint32_t found = mayBeNear<Sums>(query, bundle);
-            for (; found != 0; found &= found - 1) {
-                const auto i = static_cast<std::size_t>(std::countr_zero(found));
-                if (i < count)
-                    look(query, first + i);
-            }
+    std::vector<std::uint32_t> found(queries.size());
+    for (std::size_t first = 0; first < m_directions.size(); first += kSketches) {
+        const Bundle& bundle = m_bundles[first / kSketches];
+        const std::size_t count = std::min(kSketches, m_directions.size() - first);
+        const std::uint32_t inBundle = ~std::uint32_t{0} >> (kSketches - count);
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            found[i] = mayBeNear<Sums>(queries[i], bundle) & inBundle;
+            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
+                prefetch(m_directions[first + static_cast<std::size_t>(std::countr_zero(left))]);
+        }
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
+                look(queries[i], first + static_cast<std::size_t>(std::countr_zero(left)));
         }
     }
 }
@@ -313,7 +233,7 @@ ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 #ifdef __x86_64__
 ORLEN_WIDE void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
 {
-    lookThroughBundles<WideSums>(queries);
+    lookThroughBundles<WideSketchSums>(queries);
 }
 #endif
 
@@ -325,7 +245,7 @@ void PrintIndex::lookThrough(std::span<Query> queries) const
         return;
     }
 #endif
-    lookThroughBundles<NarrowSums>(queries);
+    lookThroughBundles<NarrowSketchSums>(queries);
 }
 
 std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,

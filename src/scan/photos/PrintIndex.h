@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/FeaturePrint.h"
+#include "scan/photos/SketchSums.h"
 
 #include <array>
 #include <cstddef>
@@ -37,16 +38,12 @@ private:
     static constexpr std::size_t kRests = 4;
     static constexpr std::size_t kNumbers = kHead + 2 + kRests;
     static constexpr std::size_t kPairs = kNumbers / 2;
-    static constexpr std::size_t kTogether = 32;
     /// The start, the length of what follows it, nothing, the rest of the head, and the lengths of the rests.
     using Sketch = std::array<std::int8_t, kNumbers>;
-    /// Two numbers of each sketch, the first in the lower byte, with something added so that none is below 0.
-    using Pairs = std::array<std::uint16_t, kTogether>;
-    /// Sketches, so laid out that many are multiplied at a time.
-    using Bundle = std::array<Pairs, kPairs>;
+    /// Sketches, so laid out that many are multiplied at a time, with something added to each number so that
+    /// none is below 0.
+    using Bundle = std::array<SketchPairs, kPairs>;
     struct Query;
-    class NarrowSums;
-    class WideSums;
 
     struct Rounded {
         Sketch sketch{};

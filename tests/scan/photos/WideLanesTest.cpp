@@ -60,6 +60,7 @@ Tile changed(const Tile& tile, std::mt19937& random)
 }
 
 struct Comparison {
+    Tile unpacked{};
     std::optional<float> agreement;
     float hope = 0;
     friend bool operator==(const Comparison&, const Comparison&) = default;
@@ -69,7 +70,8 @@ Comparison compared(const Tile& one, const Tile& other)
 {
     const PictureOutline ofOne(one);
     const PictureOutline ofOther(other);
-    return {FineCheck::agreement(one, other), QuickLook::hope(QuickLook(ofOne), QuickLook(ofOther))};
+    return {TileCode::unpacked(TileCode::packed(one)), FineCheck::agreement(one, other),
+            QuickLook::hope(QuickLook(ofOne), QuickLook(ofOther))};
 }
 
 } // namespace
