@@ -1,5 +1,7 @@
 #include "platform/images/BlockWaves.h"
 
+#include "platform/values/WideLanes.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -14,14 +16,14 @@ namespace {
 using Row [[gnu::vector_size(kSide * sizeof(float))]] = float;
 using Rows = std::array<Row, kSide>;
 
-Rows rowsOf(const Block& block)
+ORLEN_INLINE Rows rowsOf(const Block& block)
 {
     Rows rows{};
     std::memcpy(rows.data(), block.data(), sizeof rows);
     return rows;
 }
 
-Block blockOf(const Rows& rows)
+ORLEN_INLINE Block blockOf(const Rows& rows)
 {
     Block block{};
     std::memcpy(block.data(), rows.data(), sizeof block);
@@ -46,7 +48,7 @@ const Block& waves()
     return all;
 }
 
-Block swapped(const Block& block)
+ORLEN_INLINE Block swapped(const Block& block)
 {
     Block result{};
     for (std::size_t y = 0; y < kSide; ++y) {
@@ -68,14 +70,14 @@ Block wavesIn(const Block& pixels)
     return blockOf(sums);
 }
 
-bool isEmpty(std::span<const float> numbers)
+ORLEN_INLINE bool isEmpty(std::span<const float> numbers)
 {
     return std::ranges::all_of(numbers, [](float number) { return number == 0; });
 }
 
 /// Adds up the waves of each column. Every other wave is the same from both ends, and the others are the
 /// same but for the sign; the finest ones are often missing.
-Block addedUp(const Block& frequencies)
+ORLEN_INLINE Block addedUp(const Block& frequencies)
 {
     constexpr std::size_t kHalf = kSide / 2;
     const Rows rows = rowsOf(frequencies);
@@ -98,6 +100,16 @@ Block addedUp(const Block& frequencies)
     return blockOf(sums);
 }
 
+ORLEN_INLINE Block addedUpBothWays(const Block& frequencies)
+{
+    return addedUp(swapped(addedUp(frequencies)));
+}
+
+ORLEN_WIDE Block addedUpInWideLanes(const Block& frequencies)
+{
+    return addedUpBothWays(frequencies);
+}
+
 } // namespace
 
 Block frequenciesOf(const Block& pixels)
@@ -107,7 +119,7 @@ Block frequenciesOf(const Block& pixels)
 
 Block pixelsOf(const Block& frequencies)
 {
-    return addedUp(swapped(addedUp(frequencies)));
+    return WideLanes::areUsed() ? addedUpInWideLanes(frequencies) : addedUpBothWays(frequencies);
 }
 
 } // namespace orlen::BlockWaves

@@ -2,6 +2,7 @@
 
 #include "platform/images/BlockWaves.h"
 #include "platform/images/NumberCode.h"
+#include "platform/values/WideLanes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -146,17 +147,17 @@ std::vector<std::uint8_t> packedBy(const Blocks& blocks, std::size_t index)
     return packer.bytes(kMostBytes);
 }
 
-Block pixelsOf(const Numbers& numbers, float step)
+ORLEN_INLINE Block swappedBlock(const Numbers& numbers, float step)
 {
     Block swapped{};
     for (std::size_t y = 0; y < kBlock; ++y) {
         for (std::size_t x = 0; x < kBlock; ++x)
             swapped[x * kBlock + y] = step * static_cast<float>(numbers[y * kBlock + x]);
     }
-    return BlockWaves::pixelsOf(swapped);
+    return swapped;
 }
 
-void place(const Block& pixels, std::size_t block, Tile& tile)
+ORLEN_INLINE void place(const Block& pixels, std::size_t block, Tile& tile)
 {
     constexpr float kMiddle = 128.5F;
     std::uint8_t* row = &tile[placeOf(block)];
@@ -165,6 +166,16 @@ void place(const Block& pixels, std::size_t block, Tile& tile)
             row[x] = static_cast<std::uint8_t>(
                 static_cast<int>(std::clamp(pixels[y * kBlock + x] + kMiddle, 0.0F, 255.0F)));
     }
+}
+
+ORLEN_INLINE void placeBlock(const Numbers& numbers, float step, std::size_t block, Tile& tile)
+{
+    place(BlockWaves::pixelsOf(swappedBlock(numbers, step)), block, tile);
+}
+
+ORLEN_WIDE void placeInWideLanes(const Numbers& numbers, float step, std::size_t block, Tile& tile)
+{
+    placeBlock(numbers, step, block, tile);
 }
 
 } // namespace
@@ -198,12 +209,16 @@ Tile unpacked(std::span<const std::uint8_t> bytes)
     Sizes sizes;
     for (std::uint8_t& band : sizes.bands)
         band = static_cast<std::uint8_t>(unpacker.bits(kSizeBits));
+    const bool isWide = WideLanes::areUsed();
     Tile tile{};
     Numbers numbers{};
     for (std::size_t i = 0; i < sizes.blocks.size(); ++i) {
         sizes.blocks[i] = static_cast<std::uint8_t>(unpacker.bits(kSizeBits));
         unpacker.numbers(sizes.levelsOf(i), numbers);
-        place(pixelsOf(numbers, step), i, tile);
+        if (isWide)
+            placeInWideLanes(numbers, step, i, tile);
+        else
+            placeBlock(numbers, step, i, tile);
     }
     return tile;
 }

@@ -1,9 +1,9 @@
 #include "scan/photos/BlockSearch.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 namespace orlen {
 
@@ -11,7 +11,7 @@ namespace {
 
 /// From numbers in a row the sums of `block` of them, from each on. Twice as many are added up each time.
 template <int block, std::size_t length>
-std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, length> numbers)
+ORLEN_INLINE std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, length> numbers)
 {
     for (std::size_t apart = 1; apart < block; apart *= 2) {
         for (std::size_t i = 0; i + apart < length; ++i)
@@ -23,26 +23,47 @@ std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, length> numbers
 } // namespace
 
 template <int side, int block>
-BlockSearch<side, block>::BlockSearch(const Pixels& pixels)
+BlockSearch<side, block>::BlockSearch(const Pixels& pixels) : BlockSearch(pixels, block)
+{
+    findTexture();
+}
+
+template <int side, int block>
+BlockSearch<side, block>::BlockSearch(const Pixels& pixels, int reach)
+{
+    if (WideLanes::areUsed())
+        prepareInWideLanes(pixels, reach);
+    else
+        prepare(pixels, reach);
+}
+
+template <int side, int block>
+ORLEN_INLINE void BlockSearch<side, block>::prepare(const Pixels& pixels, int reach)
 {
     const auto level = [&](std::size_t i) { return static_cast<std::int16_t>(pixels[i] - 128); };
     for (std::size_t i = 0; i + 1 < pixels.size(); ++i)
         m_pairs[i] = {level(i), level(i + 1)};
     m_pairs[pixels.size() - 1] = {level(pixels.size() - 1), 0};
-    sumUpBlocks();
-    findTexture();
+    sumUpBlocks(reach);
+}
+
+template <int side, int block>
+ORLEN_WIDE void BlockSearch<side, block>::prepareInWideLanes(const Pixels& pixels, int reach)
+{
+    prepare(pixels, reach);
 }
 
 /// Sums over each column of a block's height, moved down row by row; and over a block's width of those. No
 /// number exceeds 2 to the 30th.
 template <int side, int block>
-void BlockSearch<side, block>::sumUpBlocks()
+ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
 {
     // One level of noise, so that an even block matches nothing.
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
     std::array<std::int32_t, side> sums{};
     std::array<std::int32_t, side> squares{};
-    const auto addRow = [&](int y, int sign) {
+    const auto addRow = [&](int y, int sign) __attribute__((always_inline))
+    {
         const PixelPair* row = pair({.x = 0, .y = y});
         for (std::size_t x = 0; x < side; ++x) {
             sums[x] += sign * row[x].left;
@@ -51,8 +72,10 @@ void BlockSearch<side, block>::sumUpBlocks()
     };
     for (int y = 0; y < block - 1; ++y)
         addRow(y, 1);
-    for (int y = 0; y < kPlaces; ++y) {
+    for (int y = 0; y < kPlaces; ++y, addRow(y - 1, -1)) {
         addRow(y + block - 1, 1);
+        if (std::min(y % block, block - y % block) > reach)
+            continue;
         const auto blockSums = sumsOf<block>(sums);
         const auto blockSquares = sumsOf<block>(squares);
         const std::size_t row = index({0, y});
@@ -63,7 +86,6 @@ void BlockSearch<side, block>::sumUpBlocks()
             m_spreads[row + x] = spread;
             m_onesBySpreads[row + x] = 1 / (spread + kNoise);
         }
-        addRow(y, -1);
     }
 }
 
@@ -83,7 +105,8 @@ void BlockSearch<side, block>::findTexture()
 }
 
 template <int side, int block>
-typename BlockSearch<side, block>::Sought BlockSearch<side, block>::soughtAt(TilePlace place) const
+ORLEN_INLINE typename BlockSearch<side, block>::Sought
+BlockSearch<side, block>::soughtAt(TilePlace place) const
 {
     constexpr float kSlack = 1.00001F; // more than is lost in rounding
     Sought sought{.place = place, .best = place};
@@ -102,16 +125,17 @@ typename BlockSearch<side, block>::Sought BlockSearch<side, block>::soughtAt(Til
 
 /// Some rows of the block.
 template <int side, int block>
-template <int fours>
-void BlockSearch<side, block>::addRows(Common<fours>& common, const Sought& sought, const BlockSearch& other,
-                                       TilePlace first, int row, int end) const
+template <typename Lanes, std::size_t count>
+ORLEN_INLINE void BlockSearch<side, block>::addRows(Common<Lanes, count>& common, const Sought& sought,
+                                                    const BlockSearch& other, TilePlace first, int row,
+                                                    int end) const
 {
     const PixelPair* own = pair({sought.place.x, sought.place.y + row});
     const PixelPair* there = other.pair({first.x, first.y + row});
     for (int y = row; y < end; ++y, own += side, there += side) {
         for (int x = 0; x < block; x += 2) {
-            for (std::size_t i = 0; i < common.size(); ++i)
-                common[i] += products(own[x], there + x + i * kLanes);
+            for (std::size_t i = 0; i < count; ++i)
+                Lanes::addProducts(common[i], own[x], there + x + i * Lanes::kCount);
         }
     }
 }
@@ -119,56 +143,64 @@ void BlockSearch<side, block>::addRows(Common<fours>& common, const Sought& soug
 /// Whether the rows that are still to come may make any of the places the best one. Their product is at most
 /// that of the lengths of both, of which the other's is at most that of the whole block.
 template <int side, int block>
-template <int fours>
-bool BlockSearch<side, block>::mayBeBetter(const Common<fours>& common, const Sought& sought,
-                                           const BlockSearch& other, TilePlace first, float rest) const
+template <typename Lanes, std::size_t count>
+ORLEN_INLINE bool BlockSearch<side, block>::mayBeBetter(const Common<Lanes, count>& common,
+                                                        const Sought& sought, const BlockSearch& other,
+                                                        TilePlace first, float rest) const
 {
+    using Floats = typename Lanes::Floats;
     const float sum = m_sums[index(sought.place)];
-    const std::size_t at = index(first);
-    IntLanes isBetter{};
-    for (std::size_t i = 0; i < common.size(); ++i) {
-        const std::size_t lanes = at + i * kLanes;
-        const FloatLanes atMost =
-            static_cast<float>(kPixels) *
-                (__builtin_convertvector(common[i], FloatLanes) + rest * lanesAt(&other.m_lengths[lanes])) -
-            sum * lanesAt(&other.m_sums[lanes]);
-        isBetter |=
-            (atMost > 0.0F) & (atMost * atMost * lanesAt(&other.m_onesBySpreads[lanes]) > sought.most);
+    typename Lanes::Ints isBetter{};
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t at = index(first) + i * Lanes::kCount;
+        Floats lengths;
+        Floats sums;
+        Floats onesBySpreads;
+        load(lengths, &other.m_lengths[at]);
+        load(sums, &other.m_sums[at]);
+        load(onesBySpreads, &other.m_onesBySpreads[at]);
+        const Floats atMost =
+            static_cast<float>(kPixels) * (__builtin_convertvector(common[i], Floats) + rest * lengths) -
+            sum * sums;
+        isBetter |= (atMost > 0.0F) & (atMost * atMost * onesBySpreads > sought.most);
     }
-    return (isBetter[0] | isBetter[1] | isBetter[2] | isBetter[3]) != 0;
+    return isAnySet(isBetter);
 }
 
-/// At `count` places in a row of another picture, from `first` on, of which there are lanes for `fours` times
-/// four. What the block has in common with each is squared and divided by the variance there.
+/// At `places` places in a row of another picture, from `first` on, of which there are `count` times the
+/// lanes. What the block has in common with each is squared and divided by the variance there.
 template <int side, int block>
-template <int fours>
-void BlockSearch<side, block>::look(Sought& sought, const BlockSearch& other, TilePlace first,
-                                    int count) const
+template <typename Lanes, std::size_t count>
+ORLEN_INLINE void BlockSearch<side, block>::look(Sought& sought, const BlockSearch& other, TilePlace first,
+                                                 int places) const
 {
-    Common<fours> common{};
-    addRows<fours>(common, sought, other, first, 0, block / 4);
-    if (!mayBeBetter<fours>(common, sought, other, first, sought.rests[0]))
+    using Floats = typename Lanes::Floats;
+    Common<Lanes, count> common{};
+    addRows<Lanes, count>(common, sought, other, first, 0, block / 4);
+    if (!mayBeBetter<Lanes, count>(common, sought, other, first, sought.rests[0]))
         return;
-    addRows<fours>(common, sought, other, first, block / 4, block / 2);
-    if (!mayBeBetter<fours>(common, sought, other, first, sought.rests[1]))
+    addRows<Lanes, count>(common, sought, other, first, block / 4, block / 2);
+    if (!mayBeBetter<Lanes, count>(common, sought, other, first, sought.rests[1]))
         return;
-    addRows<fours>(common, sought, other, first, block / 2, block);
+    addRows<Lanes, count>(common, sought, other, first, block / 2, block);
     const float sum = m_sums[index(sought.place)];
-    const std::size_t at = index(first);
-    std::array<FloatLanes, fours> squares{};
-    FloatLanes most{};
-    for (std::size_t i = 0; i < common.size(); ++i) {
-        const FloatLanes match =
-            static_cast<float>(kPixels) * __builtin_convertvector(common[i], FloatLanes) -
-            sum * lanesAt(&other.m_sums[at + i * kLanes]);
-        const FloatLanes square = match * match * lanesAt(&other.m_onesBySpreads[at + i * kLanes]);
-        squares[i] = match > 0.0F ? square : FloatLanes{};
-        most = squares[i] > most ? squares[i] : most;
+    std::array<float, count * Lanes::kCount> found{};
+    typename Lanes::Ints isBetter{};
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t at = index(first) + i * Lanes::kCount;
+        Floats sums;
+        Floats onesBySpreads;
+        load(sums, &other.m_sums[at]);
+        load(onesBySpreads, &other.m_onesBySpreads[at]);
+        const Floats match =
+            static_cast<float>(kPixels) * __builtin_convertvector(common[i], Floats) - sum * sums;
+        const Floats square = match > 0.0F ? match * match * onesBySpreads : Floats{};
+        isBetter |= square > sought.most;
+        std::memcpy(&found[i * Lanes::kCount], &square, sizeof square);
     }
-    if (std::max({most[0], most[1], most[2], most[3]}) <= sought.most)
+    if (!isAnySet(isBetter))
         return;
-    const auto found = std::bit_cast<std::array<float, std::size_t{fours} * kLanes>>(squares);
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < places; ++i) {
         if (found[static_cast<std::size_t>(i)] > sought.most) {
             sought.most = found[static_cast<std::size_t>(i)];
             sought.best = {first.x + i, first.y};
@@ -177,35 +209,57 @@ void BlockSearch<side, block>::look(Sought& sought, const BlockSearch& other, Ti
 }
 
 template <int side, int block>
-BlockFind BlockSearch<side, block>::find(TilePlace place, const BlockSearch& other, int reach,
-                                         TilePlace guessedMove) const
+template <typename Lanes>
+ORLEN_INLINE void BlockSearch<side, block>::lookAround(Sought& sought, const BlockSearch& other, int reach,
+                                                       TilePlace guessedMove) const
 {
     constexpr float kLess = 0.9999F; // so that the place itself, or one before it, is found once more
-    constexpr int kFew = 2 * kLanes;
-    constexpr int kMany = 3 * kLanes;
-    const std::size_t own = index(place);
-    Sought sought = soughtAt(place);
+    const TilePlace place = sought.place;
     const TilePlace least{std::max(place.x - reach, 0), std::max(place.y - reach, 0)};
     const TilePlace last{std::min(place.x + reach, kPlaces - 1), std::min(place.y + reach, kPlaces - 1)};
-    look<1>(sought, other,
-            {std::clamp(place.x + guessedMove.x, least.x, last.x),
-             std::clamp(place.y + guessedMove.y, least.y, last.y)},
-            1);
+    look<FourLanes, 1>(sought, other,
+                       {std::clamp(place.x + guessedMove.x, least.x, last.x),
+                        std::clamp(place.y + guessedMove.y, least.y, last.y)},
+                       1);
     sought.most *= kLess;
     const int end = last.x + 1;
     for (int y = least.y; y <= last.y; ++y) {
         int x = least.x;
-        for (; end - x > kFew; x += kMany)
-            look<3>(sought, other, {x, y}, std::min(end - x, kMany));
-        if (x < end)
-            look<2>(sought, other, {x, y}, end - x);
+        for (; end - x > 2 * Lanes::kCount; x += 3 * Lanes::kCount)
+            look<Lanes, 3>(sought, other, {x, y}, std::min(end - x, 3 * Lanes::kCount));
+        if (end - x > Lanes::kCount)
+            look<Lanes, 2>(sought, other, {x, y}, end - x);
+        else if (end > x)
+            look<Lanes, 1>(sought, other, {x, y}, end - x);
     }
+}
+
+template <int side, int block>
+ORLEN_WIDE void BlockSearch<side, block>::lookAroundInWideLanes(Sought& sought, const BlockSearch& other,
+                                                                int reach, TilePlace guessedMove) const
+{
+#ifdef __x86_64__
+    lookAround<EightLanes>(sought, other, reach, guessedMove);
+#else
+    lookAround<FourLanes>(sought, other, reach, guessedMove);
+#endif
+}
+
+template <int side, int block>
+BlockFind BlockSearch<side, block>::find(TilePlace place, const BlockSearch& other, int reach,
+                                         TilePlace guessedMove) const
+{
+    Sought sought = soughtAt(place);
+    if (WideLanes::areUsed())
+        lookAroundInWideLanes(sought, other, reach, guessedMove);
+    else
+        lookAround<FourLanes>(sought, other, reach, guessedMove);
     const TilePlace best = sought.best;
     return {.block = {place.x * kScale, place.y * kScale},
             .moveX = static_cast<float>((best.x - place.x) * kScale),
             .moveY = static_cast<float>((best.y - place.y) * kScale),
             .texture = texture(place),
-            .correlation = std::sqrt(sought.most * m_onesBySpreads[own])};
+            .correlation = std::sqrt(sought.most * m_onesBySpreads[index(place)])};
 }
 
 template class BlockSearch<FineSearch::kSide, FineSearch::kBlock>;

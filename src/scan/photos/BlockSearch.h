@@ -40,6 +40,8 @@ public:
     using Pixels = std::array<std::uint8_t, static_cast<std::size_t>(side) * side>;
 
     explicit BlockSearch(const Pixels& pixels);
+    /// Only for finding blocks of a `texturedBlocks` in it that have moved at most `reach` pixels.
+    BlockSearch(const Pixels& pixels, int reach);
 
     /// The blocks with enough structure to be found again, the strongest first.
     [[nodiscard]] const std::vector<TilePlace>& texturedBlocks() const { return m_texturedBlocks; }
@@ -59,7 +61,7 @@ private:
     static constexpr int kPlaces = side - block + 1; ///< of a block along a side
     static constexpr int kPixels = block * block;
 
-    static constexpr std::size_t kMargin = std::size_t{3} * kLanes;
+    static constexpr std::size_t kMargin = std::size_t{6} * kLanes;
     static constexpr std::size_t kAllPlaces = static_cast<std::size_t>(kPlaces) * kPlaces;
 
     [[nodiscard]] const PixelPair* pair(TilePlace place) const
@@ -80,17 +82,23 @@ private:
         std::array<float, 2> rests{};
     };
     [[nodiscard]] Sought soughtAt(TilePlace place) const;
-    template <int fours>
-    using Common = std::array<IntLanes, static_cast<std::size_t>(fours)>;
-    template <int fours>
-    void addRows(Common<fours>& common, const Sought& sought, const BlockSearch& other, TilePlace first,
-                 int row, int end) const;
-    template <int fours>
-    [[nodiscard]] bool mayBeBetter(const Common<fours>& common, const Sought& sought,
+    template <typename Lanes, std::size_t count>
+    using Common = std::array<typename Lanes::Ints, count>;
+    template <typename Lanes, std::size_t count>
+    void addRows(Common<Lanes, count>& common, const Sought& sought, const BlockSearch& other,
+                 TilePlace first, int row, int end) const;
+    template <typename Lanes, std::size_t count>
+    [[nodiscard]] bool mayBeBetter(const Common<Lanes, count>& common, const Sought& sought,
                                    const BlockSearch& other, TilePlace first, float rest) const;
-    template <int fours>
-    void look(Sought& sought, const BlockSearch& other, TilePlace first, int count) const;
-    void sumUpBlocks();
+    template <typename Lanes, std::size_t count>
+    void look(Sought& sought, const BlockSearch& other, TilePlace first, int places) const;
+    template <typename Lanes>
+    void lookAround(Sought& sought, const BlockSearch& other, int reach, TilePlace guessedMove) const;
+    ORLEN_WIDE void lookAroundInWideLanes(Sought& sought, const BlockSearch& other, int reach,
+                                          TilePlace guessedMove) const;
+    void prepare(const Pixels& pixels, int reach);
+    ORLEN_WIDE void prepareInWideLanes(const Pixels& pixels, int reach);
+    void sumUpBlocks(int reach);
     void findTexture();
 
     /// Each pixel with the one on its right. Here and below, the margin is for reading whole lanes at the

@@ -1,5 +1,7 @@
 #include "scan/photos/CommonMotion.h"
 
+#include "scan/photos/PixelPairs.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -106,23 +108,6 @@ bool isInside(float at)
     return at >= 0 && at <= FineSearch::kSide - 1;
 }
 
-/// The four pixels around a point, each as much as the point is near.
-float between(const FeaturePrint::Tile& tile, float x, float y)
-{
-    constexpr int kLast = FineSearch::kSide - 2;
-    x = std::clamp(x, 0.0F, kLast + 1.0F);
-    y = std::clamp(y, 0.0F, kLast + 1.0F);
-    const int left = std::min(static_cast<int>(x), kLast);
-    const int top = std::min(static_cast<int>(y), kLast);
-    const float right = x - static_cast<float>(left);
-    const float down = y - static_cast<float>(top);
-    const std::uint8_t* at = tile.data() + (static_cast<std::ptrdiff_t>(top) * FineSearch::kSide + left);
-    const float above = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
-    at += FineSearch::kSide;
-    const float below = (1 - right) * static_cast<float>(at[0]) + right * static_cast<float>(at[1]);
-    return (1 - down) * above + down * below;
-}
-
 std::vector<Finds> inLanes(std::span<const BlockFind> finds)
 {
     std::vector<Finds> all((finds.size() + kLanes - 1) / kLanes);
@@ -211,19 +196,14 @@ float CommonMotion::followingShare(std::span<const BlockFind> finds) const
 
 FeaturePrint::Tile CommonMotion::undone(const FeaturePrint::Tile& tile) const
 {
-    constexpr float kRounding = 0.5F; // levels are never negative, and a cast is much faster than lround
     FeaturePrint::Tile result{};
-    auto pixel = result.begin();
     for (int y = 0; y < FineSearch::kSide; ++y) {
         // The same step from each pixel of a row to the next.
         const Point first = target({0, y});
         const Point second = target({1, y});
-        for (int x = 0; x < FineSearch::kSide; ++x) {
-            const auto steps = static_cast<float>(x);
-            const float fromX = first.x + steps * (second.x - first.x);
-            const float fromY = first.y + steps * (second.y - first.y);
-            *pixel++ = static_cast<std::uint8_t>(between(tile, fromX, fromY) + kRounding);
-        }
+        const auto row = std::span(result).subspan(static_cast<std::size_t>(y) * FineSearch::kSide);
+        BentRow::fill(tile, first, {.x = second.x - first.x, .y = second.y - first.y},
+                      row.first<FineSearch::kSide>());
     }
     return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scan/photos/BentRow.h"
 #include "scan/photos/BlockSearch.h"
 
 #include <array>
@@ -16,11 +17,7 @@ namespace orlen {
 /// bending the result.
 class CommonMotion {
 public:
-    /// Pixels of the tile.
-    struct Point {
-        float x = 0;
-        float y = 0;
-    };
+    using Point = BentRow::Point;
 
     /// The motion most of the structure follows.
     [[nodiscard]] static CommonMotion fitted(std::span<const BlockFind> finds);

@@ -128,7 +128,7 @@ constexpr float kHopelessPreview = 0.20F; ///< no changed copy's preview obeys l
 float commonShare(const FineSearch& one, const FeaturePrint::Tile& other, const LookUp<FineSearch>& found)
 {
     constexpr float kLeastKept = 0.5F;
-    const FineSearch undone(found.motion().undone(other));
+    const FineSearch undone(found.motion().undone(other), kBendReach);
     float common = 0;
     float kept = 0;
     float all = 0;
@@ -144,7 +144,8 @@ float commonShare(const FineSearch& one, const FeaturePrint::Tile& other, const 
 
 } // namespace
 
-std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other,
+                                          float least)
 {
     constexpr float kHopeless = 0.22F; ///< no changed copy's first blocks obey less
     constexpr float kObedienceWeight = 0.2F;
@@ -163,9 +164,15 @@ std::optional<float> FineCheck::agreement(const FeaturePrint::Tile& one, const F
     if (found.followingShare() < kHopeless)
         return found.followingShare();
     found.findBlocks(kAllBlocks);
-    const float common =
-        (commonShare(first, other, found.forward) + commonShare(second, one, found.backward)) / 2;
-    return kObedienceWeight * found.followingShare() + (1 - kObedienceWeight) * common;
+    constexpr float kAll = 1.001F; // and more than is lost in rounding
+    const auto agreementOf = [&](float forward, float backward) {
+        return kObedienceWeight * found.followingShare() +
+               (1 - kObedienceWeight) * ((forward + backward) / 2);
+    };
+    const float forward = commonShare(first, other, found.forward);
+    if (const float most = agreementOf(forward, kAll); most < least)
+        return most;
+    return agreementOf(forward, commonShare(second, one, found.backward));
 }
 
 } // namespace orlen

@@ -107,11 +107,11 @@ bool isBetterShot(const PhotoInfo& shot, const PhotoInfo& than)
 /// layout little, so each is compared with the nearest shots only: a set may have thousands.
 class Shots {
 public:
-    explicit Shots(const std::vector<PhotoInfo>& photos) : m_photos(photos) {}
+    Shots(const std::vector<PhotoInfo>& photos, UnpackedTiles& tiles) : m_photos(photos), m_tiles(tiles) {}
 
     void add(std::size_t photo)
     {
-        const SamePicture::Frame frame(m_photos[photo]);
+        const SamePicture::Frame frame(m_photos[photo], m_tiles.of(photo));
         for (const std::size_t near : nearTo(frame)) {
             Copies& copies = m_shots[near];
             if (SamePicture::isCopy(copies.first, frame)) {
@@ -182,6 +182,7 @@ private:
     }
 
     const std::vector<PhotoInfo>& m_photos;
+    UnpackedTiles& m_tiles;
     std::vector<Copies> m_shots;
     PrintIndex m_index; ///< of their first copies
 };
@@ -204,7 +205,14 @@ Text reasonOfCopy(const PhotoInfo& copy, const PhotoInfo& keeper)
 std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
                                  const std::vector<std::size_t>& members)
 {
-    Shots shots(photos);
+    UnpackedTiles tiles(photos);
+    return keeper(photos, members, tiles);
+}
+
+std::size_t KeeperChoice::keeper(const std::vector<PhotoInfo>& photos,
+                                 const std::vector<std::size_t>& members, UnpackedTiles& tiles)
+{
+    Shots shots(photos, tiles);
     for (const std::size_t member : members)
         shots.add(member);
     return shots.best();

@@ -2,6 +2,7 @@
 
 #include "scan/photos/PhotoAnalyzer.h"
 #include "scan/photos/SamePicture.h"
+#include "scan/photos/UnpackedTiles.h"
 
 #include <cstddef>
 #include <string_view>
@@ -15,6 +16,9 @@ namespace orlen::KeeperChoice {
 /// One of the members, which are indices into the photos, at least one, and have prints.
 [[nodiscard]] std::size_t keeper(const std::vector<PhotoInfo>& photos,
                                  const std::vector<std::size_t>& members);
+/// The same with tiles that may be unpacked already.
+[[nodiscard]] std::size_t keeper(const std::vector<PhotoInfo>& photos,
+                                 const std::vector<std::size_t>& members, UnpackedTiles& tiles);
 
 /// What the other picture lacks, as a note.
 [[nodiscard]] Text reason(const PhotoInfo& other, const SamePicture::Frame& keeper);

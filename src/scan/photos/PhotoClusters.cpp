@@ -1,6 +1,7 @@
 #include "scan/photos/PhotoClusters.h"
 
 #include "scan/photos/OnAllCores.h"
+#include "scan/photos/Prefetch.h"
 #include "scan/photos/PrintDistance.h"
 #include "scan/photos/PrintIndex.h"
 #include "scan/photos/QuickLook.h"
@@ -67,8 +68,9 @@ auto compared(AnyNewcomer& newcomer)
 
 class Clusters {
 public:
-    Clusters(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
-        : m_photos(photos), m_stop(stop), m_clusterOf(photos.size(), kAll), m_inVain(photos.size())
+    Clusters(const std::vector<PhotoInfo>& photos, UnpackedTiles& tiles, const std::stop_token& stop)
+        : m_photos(photos), m_tiles(tiles), m_stop(stop), m_clusterOf(photos.size(), kAll),
+          m_inVain(photos.size())
     {
     }
 
@@ -103,6 +105,7 @@ private:
     void count(const Newcomer& newcomer);
 
     const std::vector<PhotoInfo>& m_photos;
+    UnpackedTiles& m_tiles;
     const std::stop_token& m_stop;
     std::vector<Members> m_clusters;
     std::vector<std::size_t> m_clusterOf; ///< per photo
@@ -156,6 +159,10 @@ std::vector<Candidate*> Clusters::hopeful(Newcomer& newcomer) const
     std::optional<QuickLook> own;
     std::vector<Candidate*> found;
     Candidate* ofCrowd = nullptr;
+    for (const Candidate& candidate : compared(newcomer)) {
+        if (!candidate.hope)
+            prefetch(print(candidate.photo).outline());
+    }
     for (Candidate& candidate : compared(newcomer)) {
         if (found.size() == kMostClosely)
             break;
@@ -182,13 +189,10 @@ const Candidate* Clusters::match(Newcomer& newcomer) const
 {
     std::vector<Candidate*> candidates = hopeful(newcomer);
     std::ranges::sort(candidates, {}, &Candidate::photo);
-    std::optional<FeaturePrint::Tile> own;
     for (Candidate* candidate : candidates) {
         if (!candidate->isAlike) {
-            if (!own)
-                own = print(newcomer.photo).tile();
             candidate->isAlike =
-                fineDistance(candidate->coarse, print(candidate->photo).tile(), *own) < kNearDuplicateLimit;
+                areAlike(candidate->coarse, *m_tiles.of(candidate->photo), *m_tiles.of(newcomer.photo));
         }
         if (*candidate->isAlike)
             return candidate;
@@ -231,14 +235,15 @@ void Clusters::count(const Newcomer& newcomer)
 
 } // namespace
 
-std::vector<Members> PhotoClusters::of(const std::vector<PhotoInfo>& photos, const std::stop_token& stop)
+std::vector<Members> PhotoClusters::of(const std::vector<PhotoInfo>& photos, UnpackedTiles& tiles,
+                                       const std::stop_token& stop)
 {
     std::vector<std::size_t> taking;
     for (std::size_t i = 0; i < photos.size(); ++i) {
         if (takesPart(photos[i]))
             taking.push_back(i);
     }
-    Clusters clusters(photos, stop);
+    Clusters clusters(photos, tiles, stop);
     for (std::size_t first = 0; first < taking.size() && !stop.stop_requested(); first += kBatch)
         clusters.add(std::span(taking).subspan(first, std::min(kBatch, taking.size() - first)));
     return clusters.taken();

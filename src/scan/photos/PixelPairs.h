@@ -1,12 +1,15 @@
 #pragma once
 
+#include "platform/values/WideLanes.h"
+
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
-#ifdef __SSE2__
-#include <emmintrin.h>
+#ifdef __x86_64__
+#include <immintrin.h>
 #endif
 
 // Left to itself, the compiler multiplies one block with another and adds up the lanes, over and over. So the
@@ -24,26 +27,61 @@ inline constexpr int kLanes = 4;
 using IntLanes [[gnu::vector_size(kLanes * sizeof(std::int32_t))]] = std::int32_t;
 using FloatLanes [[gnu::vector_size(kLanes * sizeof(float))]] = float;
 
-/// The products of one pair with each of four beside each other, added up.
-inline IntLanes products(PixelPair one, const PixelPair* four)
-{
-#ifdef __SSE2__
-    const __m128i ones = _mm_set1_epi32(std::bit_cast<std::int32_t>(one));
-    const __m128i others = _mm_loadu_si128(reinterpret_cast<const __m128i*>(four));
-    return std::bit_cast<IntLanes>(_mm_madd_epi16(ones, others));
+/// Four places at a time, on any processor.
+struct FourLanes {
+    static constexpr int kCount = kLanes;
+    using Ints = IntLanes;
+    using Floats = FloatLanes;
+
+    /// Adds the products of one pair with each of some beside each other.
+    ORLEN_INLINE static void addProducts(Ints& sums, PixelPair one, const PixelPair* others)
+    {
+#ifdef __x86_64__
+        const __m128i ones = _mm_set1_epi32(std::bit_cast<std::int32_t>(one));
+        const __m128i some = _mm_loadu_si128(reinterpret_cast<const __m128i*>(others));
+        sums += std::bit_cast<Ints>(_mm_madd_epi16(ones, some));
 #else
-    IntLanes sums{};
-    for (int i = 0; i < kLanes; ++i)
-        sums[i] = std::int32_t{one.left} * four[i].left + std::int32_t{one.right} * four[i].right;
-    return sums;
+        for (int i = 0; i < kCount; ++i)
+            sums[i] += std::int32_t{one.left} * others[i].left + std::int32_t{one.right} * others[i].right;
 #endif
+    }
+};
+
+#ifdef __x86_64__
+/// Eight places at a time.
+struct EightLanes {
+    static constexpr int kCount = 2 * kLanes;
+    using Ints [[gnu::vector_size(kCount * sizeof(std::int32_t))]] = std::int32_t;
+    using Floats [[gnu::vector_size(kCount * sizeof(float))]] = float;
+
+    ORLEN_WIDE static void addProducts(Ints& sums, PixelPair one, const PixelPair* others)
+    {
+        const __m256i ones = _mm256_set1_epi32(std::bit_cast<std::int32_t>(one));
+        const __m256i some = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(others));
+        Ints products{};
+        const __m256i both = _mm256_madd_epi16(ones, some);
+        std::memcpy(&products, &both, sizeof products);
+        sums += products;
+    }
+};
+#endif
+
+template <typename Lanes>
+ORLEN_INLINE void load(Lanes& lanes, const float* numbers)
+{
+    std::memcpy(&lanes, numbers, sizeof lanes);
 }
 
-inline FloatLanes lanesAt(const float* numbers)
+/// Whether a comparison holds in any of the lanes.
+template <typename Ints>
+ORLEN_INLINE bool isAnySet(const Ints& lanes)
 {
-    FloatLanes lanes{};
-    std::memcpy(&lanes, numbers, sizeof lanes);
-    return lanes;
+    std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)> parts{};
+    std::memcpy(parts.data(), &lanes, sizeof lanes);
+    std::uint64_t any = 0;
+    for (const std::uint64_t part : parts)
+        any |= part;
+    return any != 0;
 }
 
 } // namespace orlen

@@ -35,23 +35,27 @@ std::optional<float> ifNear(float coarse)
     return coarse < kCoarseLimit ? std::optional(coarse) : std::nullopt;
 }
 
-} // namespace
-
-float fineDistance(float coarse, const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+float fineDistance(float coarse, std::optional<float> agreement)
 {
-    const std::optional<float> agreement = FineCheck::agreement(one, other);
     if (!agreement)
         return kNearDuplicateLimit * coarse / kPlainCoarseLimit;
     const float fine = (1 - *agreement) / (1 - kLeastAgreement);
     return kNearDuplicateLimit * std::max(coarse / kCoarseLimit, fine);
 }
 
+} // namespace
+
 float distance(const FeaturePrint& one, const FeaturePrint& other)
 {
     const float coarse = between(one.direction(), other.direction());
     if (coarse >= kCoarseLimit)
         return kNearDuplicateLimit * coarse / kCoarseLimit;
-    return fineDistance(coarse, one.tile(), other.tile());
+    return fineDistance(coarse, FineCheck::agreement(one.tile(), other.tile()));
+}
+
+bool areAlike(float coarse, const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
+{
+    return fineDistance(coarse, FineCheck::agreement(one, other, kLeastAgreement)) < kNearDuplicateLimit;
 }
 
 std::optional<float> coarseDistance(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other)

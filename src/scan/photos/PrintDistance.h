@@ -27,9 +27,8 @@ inline constexpr float kCoarseLimit = 0.80F;
 
 [[nodiscard]] std::int32_t product(const FeaturePrint::Direction& one, const FeaturePrint::Direction& other);
 
-/// What `distance` comes to for pictures whose layouts are `coarse` apart, which is below the limit, from
-/// their unpacked tiles.
-[[nodiscard]] float fineDistance(float coarse, const FeaturePrint::Tile& one,
-                                 const FeaturePrint::Tile& other);
+/// Whether `distance` is below `kNearDuplicateLimit` for pictures whose layouts are `coarse` apart, which is
+/// below its own limit, from their unpacked tiles.
+[[nodiscard]] bool areAlike(float coarse, const FeaturePrint::Tile& one, const FeaturePrint::Tile& other);
 
 } // namespace orlen

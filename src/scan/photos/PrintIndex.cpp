@@ -1,5 +1,7 @@
 #include "scan/photos/PrintIndex.h"
 
+#include "platform/values/WideLanes.h"
+#include "scan/photos/Prefetch.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <algorithm>
@@ -14,16 +16,18 @@ namespace orlen {
 namespace {
 
 /// Numbers of a unit vector in whole steps. No sum of their products exceeds 16 bits, as no product of two
-/// such vectors exceeds the square of this, nor do its parts.
-constexpr float kSteps = 177;
+/// such vectors exceeds the square of this, nor do its parts; nor does that of two beside each other with
+/// `kAdded` added to either number of one of them.
+constexpr float kSteps = 110;
+constexpr int kAdded = 128;
 
 constexpr float kLeastCosine = 1 - kCoarseLimit * kCoarseLimit / 2;
 /// More than what is lost when a cosine is computed in another order.
 constexpr float kNothing = 1e-5F;
 
-std::int16_t inSteps(float number)
+std::int8_t inSteps(float number)
 {
-    return static_cast<std::int16_t>(std::lround(number * kSteps));
+    return static_cast<std::int8_t>(std::lround(number * kSteps));
 }
 
 /// What sketches of directions with that cosine have in common, at least, if rounding moved them that far.
@@ -34,8 +38,7 @@ std::int16_t leastProduct(float cosine, float oneMoved, float otherMoved)
 }
 
 /// The sum of the products of their numbers.
-[[gnu::always_inline]] inline std::int32_t inCommon(const PrintIndex::Direction& one,
-                                                    const PrintIndex::Direction& other)
+ORLEN_INLINE std::int32_t inCommon(const PrintIndex::Direction& one, const PrintIndex::Direction& other)
 {
     constexpr std::size_t kSome = 16;
     constexpr int kHalf = 16; // bits
@@ -67,17 +70,6 @@ float lengthOf(std::span<const std::int8_t> numbers)
     return std::sqrt(squares);
 }
 
-/// Whether the processor has lanes of 256 bits.
-bool hasWideLanes()
-{
-#ifdef __x86_64__
-    static const bool has = __builtin_cpu_supports("avx2") != 0;
-    return has;
-#else
-    return false;
-#endif
-}
-
 void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 {
     const auto isNearer = [](const PrintIndex::Near& one, const PrintIndex::Near& other) {
@@ -92,20 +84,22 @@ void keepNearest(std::vector<PrintIndex::Near>& all, std::size_t most)
 
 /// A direction that is looked for.
 struct PrintIndex::Query {
-    // Left to itself, the compiler takes four at a time.
-    using Lanes [[gnu::vector_size(kLanes * sizeof(std::int16_t))]] = std::int16_t;
-    /// Of a bundle; two, as one addition has to wait for the one before.
-    struct Sums {
-        Lanes left{};
-        Lanes right{};
-    };
-    /// Bits set for each of a bundle that may be near.
-    using Marks = std::array<std::int16_t, kTogether>;
-
     Query(const Direction& of, std::size_t mostFound, const PrintIndex& in)
         : direction(&of), squares(product(of, of)), most(mostFound), index(&in), rounded(sketchOf(of))
     {
         setLeast(kLeastCosine);
+        constexpr int kByte = 8;
+        std::array<int, kPairs> middles{};
+        for (std::size_t i = 0; i < kPairs; ++i) {
+            const std::int8_t one = rounded.sketch[2 * i];
+            const std::int8_t other = rounded.sketch[2 * i + 1];
+            pairs[i] = static_cast<std::uint16_t>(static_cast<std::uint8_t>(one) |
+                                                  static_cast<std::uint8_t>(other) << kByte);
+            middles[i] = kAdded * (one + other);
+        }
+        const auto ofLength = middles.begin() + kStart / 2;
+        beforeStart = -std::accumulate(middles.begin(), ofLength + 1, 0);
+        beforeRest = *ofLength - std::accumulate(ofLength + 1, middles.end(), 0);
     }
 
     void setLeast(float cosine)
@@ -115,58 +109,15 @@ struct PrintIndex::Query {
         least = leastProduct(cosine, rounded.moved, index->m_moved);
     }
 
-    [[gnu::always_inline]] void addProducts(Sums& sums, const Bundle& bundle, std::size_t first,
-                                            std::size_t end) const
-    {
-        constexpr std::size_t kStep = 4;
-        for (std::size_t i = first; i < end; i += kStep) {
-            for (std::size_t step = 0; step < kStep; ++step)
-                addProduct(sums, bundle, i + step);
-        }
-    }
-
-    [[gnu::always_inline]] void addProduct(Sums& sums, const Bundle& bundle, std::size_t i) const
-    {
-        Lanes left{};
-        Lanes right{};
-        std::memcpy(&left, bundle[i].data(), sizeof left);
-        std::memcpy(&right, bundle[i].data() + kLanes, sizeof right);
-        sums.left += left * rounded.sketch[i];
-        sums.right += right * rounded.sketch[i];
-    }
-
-    /// Whether any of the bundle may be near, and which.
-    [[nodiscard]] [[gnu::always_inline]] bool hasNear(const Bundle& bundle, Marks& marks) const
-    {
-        Sums start;
-        addProducts(start, bundle, 0, kStart);
-        Sums sums = start;
-        addProduct(sums, bundle, kStart);
-        if (!isAnySet((sums.left >= Lanes{} + leastOfStart) | (sums.right >= Lanes{} + leastOfStart)))
-            return false;
-        addProducts(start, bundle, kStart + 1, kNumbers);
-        const Lanes left = start.left >= Lanes{} + least;
-        const Lanes right = start.right >= Lanes{} + least;
-        std::memcpy(marks.data(), &left, sizeof left);
-        std::memcpy(marks.data() + kLanes, &right, sizeof right);
-        return isAnySet(left | right);
-    }
-
-    [[nodiscard]] [[gnu::always_inline]] static bool isAnySet(const Lanes& lanes)
-    {
-        const auto parts =
-            std::bit_cast<std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)>>(lanes);
-        std::uint64_t any = 0;
-        for (const std::uint64_t part : parts)
-            any |= part;
-        return any != 0;
-    }
-
     const Direction* direction;
     std::int32_t squares; ///< of its length
     std::size_t most;
     const PrintIndex* index;
     Rounded rounded;
+    std::array<std::uint16_t, kPairs> pairs{}; ///< two numbers of the sketch
+    // What to begin with, as there is too much in the numbers of bundles.
+    int beforeStart = 0;           ///< and the length of what follows it
+    int beforeRest = 0;            ///< all but that length
     std::int16_t leastOfStart = 0; ///< for the sketches of near ones
     std::int16_t least = 0;
     float leastCosine = 0;
@@ -186,8 +137,10 @@ PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
         moved[count++] = by * by;
     };
     for (std::size_t i = 0; i < kHead; ++i) {
-        if (i == kStart)
+        if (i == kStart) {
             put(lengthOf(numbers.subspan(kStart)));
+            put(0);
+        }
         put(static_cast<float>(numbers[i]));
     }
     constexpr std::size_t kRest = (FeaturePrint::kLength - kHead) / kRests;
@@ -201,19 +154,23 @@ PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
 
 void PrintIndex::add(const Direction& direction)
 {
-    const std::size_t lane = m_directions.size() % kTogether;
+    const std::size_t lane = m_directions.size() % kSketches;
     if (lane == 0)
         m_bundles.emplace_back();
     const Rounded rounded = sketchOf(direction);
-    for (std::size_t i = 0; i < kNumbers; ++i)
-        m_bundles.back()[i][lane] = rounded.sketch[i];
+    const auto level = [](std::int8_t number) { return static_cast<unsigned>(number + kAdded); };
+    for (std::size_t i = 0; i < kPairs; ++i) {
+        constexpr unsigned kByte = 8;
+        m_bundles.back()[i][lane] = static_cast<std::uint16_t>(level(rounded.sketch[2 * i]) |
+                                                               level(rounded.sketch[2 * i + 1]) << kByte);
+    }
     m_startMoved = std::max(m_startMoved, rounded.startMoved);
     m_moved = std::max(m_moved, rounded.moved);
     m_directions.push_back(direction);
     m_squares.push_back(product(direction, direction));
 }
 
-[[gnu::always_inline]] inline void PrintIndex::look(Query& query, std::size_t number) const
+ORLEN_INLINE void PrintIndex::look(Query& query, std::size_t number) const
 {
     const std::int32_t common = inCommon(m_directions[number], *query.direction);
     const float lengths =
@@ -233,38 +190,62 @@ void PrintIndex::add(const Direction& direction)
     query.setLeast(1 - farthest * farthest / 2);
 }
 
-/// Bundle by bundle, so that each is fetched from memory once.
-[[gnu::always_inline]] inline void PrintIndex::lookThroughBundles(std::span<Query> queries) const
+/// Which of a bundle may be near, a bit for each.
+template <typename Sums>
+ORLEN_INLINE std::uint32_t PrintIndex::mayBeNear(const Query& query, const Bundle& bundle)
 {
-    for (std::size_t first = 0; first < m_directions.size(); first += kTogether) {
-        const Bundle& bundle = m_bundles[first / kTogether];
-        const std::size_t count = std::min(kTogether, m_directions.size() - first);
-        for (Query& query : queries) {
-            Query::Marks isNear{};
-            if (!query.hasNear(bundle, isNear))
-                continue;
-            for (std::size_t i = 0; i < count; ++i) {
-                if (isNear[i] != 0)
-                    look(query, first + i);
-            }
+    constexpr std::size_t kLength = kStart / 2;
+    Sums sums(query.beforeStart);
+    for (std::size_t i = 0; i < kLength; ++i)
+        sums.add(bundle[i], query.pairs[i]);
+    Sums start = sums;
+    start.add(bundle[kLength], query.pairs[kLength]);
+    if (start.atLeast(query.leastOfStart) == 0)
+        return 0;
+    sums.addToAll(query.beforeRest);
+    for (std::size_t i = kLength + 1; i < kPairs; ++i)
+        sums.add(bundle[i], query.pairs[i]);
+    return sums.atLeast(query.least);
+}
+
+/// Bundle by bundle, so that each is fetched from memory once. What is looked at closely is fetched
+/// meanwhile.
+template <typename Sums>
+ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
+{
+    std::vector<std::uint32_t> found(queries.size());
+    for (std::size_t first = 0; first < m_directions.size(); first += kSketches) {
+        const Bundle& bundle = m_bundles[first / kSketches];
+        const std::size_t count = std::min(kSketches, m_directions.size() - first);
+        const std::uint32_t inBundle = ~std::uint32_t{0} >> (kSketches - count);
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            found[i] = mayBeNear<Sums>(queries[i], bundle) & inBundle;
+            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
+                prefetch(m_directions[first + static_cast<std::size_t>(std::countr_zero(left))]);
+        }
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
+                look(queries[i], first + static_cast<std::size_t>(std::countr_zero(left)));
         }
     }
 }
 
 #ifdef __x86_64__
-[[gnu::target("avx2")]]
-#endif
-void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
+ORLEN_WIDE void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) const
 {
-    lookThroughBundles(queries);
+    lookThroughBundles<WideSketchSums>(queries);
 }
+#endif
 
 void PrintIndex::lookThrough(std::span<Query> queries) const
 {
-    if (hasWideLanes())
+#ifdef __x86_64__
+    if (WideLanes::areUsed()) {
         lookThroughInWideLanes(queries);
-    else
-        lookThroughBundles(queries);
+        return;
+    }
+#endif
+    lookThroughBundles<NarrowSketchSums>(queries);
 }
 
 std::vector<std::vector<PrintIndex::Near>> PrintIndex::near(std::span<const Direction> directions,

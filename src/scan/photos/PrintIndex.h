@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/FeaturePrint.h"
+#include "scan/photos/SketchSums.h"
 
 #include <array>
 #include <cstddef>
@@ -13,7 +14,7 @@ namespace orlen {
 /// Finds the near ones among very many directions, exactly as `coarseDistance` does. It still looks at all of
 /// them, but at a sketch first: the numbers in which pictures differ most, and the lengths of the rest. The
 /// product of two sketches is at least that of the directions, and so is that of their beginnings, so most of
-/// them are out after a few cycles. About 250 bytes each. Any thread, while none adds.
+/// them are out after a few cycles. About 200 bytes each. Any thread, while none adds.
 class PrintIndex {
 public:
     using Direction = FeaturePrint::Direction;
@@ -35,13 +36,13 @@ private:
     static constexpr std::size_t kStart = 36; ///< numbers that are looked at first
     static constexpr std::size_t kHead = 48;
     static constexpr std::size_t kRests = 4;
-    static constexpr std::size_t kNumbers = kHead + 1 + kRests;
-    static constexpr std::size_t kLanes = 16;
-    static constexpr std::size_t kTogether = 2 * kLanes;
-    /// The start, the length of what follows it, the rest of the head, and the lengths of the rests.
-    using Sketch = std::array<std::int16_t, kNumbers>;
-    /// Sketches, number by number, so that many are multiplied at a time.
-    using Bundle = std::array<std::array<std::int16_t, kTogether>, kNumbers>;
+    static constexpr std::size_t kNumbers = kHead + 2 + kRests;
+    static constexpr std::size_t kPairs = kNumbers / 2;
+    /// The start, the length of what follows it, nothing, the rest of the head, and the lengths of the rests.
+    using Sketch = std::array<std::int8_t, kNumbers>;
+    /// Sketches, so laid out that many are multiplied at a time, with something added to each number so that
+    /// none is below 0.
+    using Bundle = std::array<SketchPairs, kPairs>;
     struct Query;
 
     struct Rounded {
@@ -53,6 +54,9 @@ private:
 
     [[nodiscard]] static Rounded sketchOf(const Direction& direction);
     void lookThrough(std::span<Query> queries) const;
+    template <typename Sums>
+    [[nodiscard]] static std::uint32_t mayBeNear(const Query& query, const Bundle& bundle);
+    template <typename Sums>
     void lookThroughBundles(std::span<Query> queries) const;
     void lookThroughInWideLanes(std::span<Query> queries) const;
     void look(Query& query, std::size_t number) const;

@@ -21,7 +21,6 @@ public:
     [[nodiscard]] static float hope(const QuickLook& one, const QuickLook& other);
 
 private:
-    static constexpr int kReach = 5; ///< pixels that a block may have moved
     static constexpr int kPlaces =
         PictureOutline::kSide - PictureOutline::kBlock + 1; ///< of a block along a side
 
@@ -31,21 +30,28 @@ private:
     [[nodiscard]] float shareIn(const QuickLook& other) const;
     /// Where each of this one's blocks is.
     [[nodiscard]] Finds findsIn(const QuickLook& other) const;
-    /// The same by an instruction that nearly every processor has.
-    [[nodiscard]] Finds countedFindsIn(const QuickLook& other) const;
-    [[nodiscard]] BlockFind find(PictureOutline::Block block, const QuickLook& other) const;
+    [[nodiscard]] Finds findsInWideLanes(const QuickLook& other) const;
+    [[nodiscard]] static BlockFind found(PictureOutline::Block block, unsigned least);
+    void fillColumns();
+    void fillColumnsInWideLanes();
 
+    [[nodiscard]] const std::uint8_t* column(int left, int top) const
+    {
+        return m_columns.data() + kMargin + left * PictureOutline::kSide + top;
+    }
     /// The pixels of a block there, a byte for each of its rows.
     [[nodiscard]] std::uint64_t pixels(int left, int top) const
     {
         std::uint64_t all = 0;
-        std::memcpy(&all, &m_rows[static_cast<std::size_t>(left)][static_cast<std::size_t>(top)], sizeof all);
+        std::memcpy(&all, column(left, top), sizeof all);
         return all;
     }
 
+    static constexpr int kMargin = 32; ///< for reading more than there is
+
     const PictureOutline& m_outline;
     /// For each place from the left, eight pixels of each row.
-    std::array<std::array<std::uint8_t, PictureOutline::kSide>, kPlaces> m_rows{};
+    std::array<std::uint8_t, std::size_t{PictureOutline::kSide} * kPlaces + 2 * kMargin> m_columns{};
 };
 
 } // namespace orlen

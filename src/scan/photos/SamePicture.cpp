@@ -153,7 +153,7 @@ float SamePicture::coarseDifference(const FeaturePrint::Tile& one, const Feature
 SamePicture::Frame::Frame(const PhotoInfo& of) : photo(&of)
 {
     if (of.print)
-        tile = of.print->tile();
+        tile = std::make_shared<const FeaturePrint::Tile>(of.print->tile());
 }
 
 bool SamePicture::isCopy(const Frame& one, const Frame& other)

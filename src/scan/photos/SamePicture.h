@@ -2,7 +2,8 @@
 
 #include "scan/photos/PhotoAnalyzer.h"
 
-#include <optional>
+#include <memory>
+#include <utility>
 
 /// Tells copies of one picture from different shots of one scene. Pure; any thread.
 namespace orlen::SamePicture {
@@ -18,8 +19,13 @@ namespace orlen::SamePicture {
 /// A picture whose tile is unpacked once, for several comparisons. Borrows the photo.
 struct Frame {
     explicit Frame(const PhotoInfo& of);
+    Frame(const PhotoInfo& of, std::shared_ptr<const FeaturePrint::Tile> unpacked)
+        : photo(&of), tile(std::move(unpacked))
+    {
+    }
+
     const PhotoInfo* photo;
-    std::optional<FeaturePrint::Tile> tile; ///< none without a print
+    std::shared_ptr<const FeaturePrint::Tile> tile; ///< none without a print
 };
 
 /// Whether both are the same frame, apart from such changes. False for a picture without a print.

@@ -74,7 +74,8 @@ TEST(PhotoClustersTest, aCopyIsFoundInACrowdOfPages)
     }
     for (std::size_t i = 0; i < kCopies; ++i)
         photos.push_back(Pages::photo(pages.copyOf(tiles[i])));
-    const auto clusters = PhotoClusters::of(photos, {});
+    UnpackedTiles unpacked(photos);
+    const auto clusters = PhotoClusters::of(photos, unpacked, {});
     ASSERT_EQ(clusters.size(), kAll);
     for (std::size_t i = 0; i < kCopies; ++i)
         EXPECT_EQ(clusters[i], (PhotoClusters::Members{i, kAll + i}));

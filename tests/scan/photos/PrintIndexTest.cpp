@@ -1,5 +1,6 @@
 #include "scan/photos/PrintIndex.h"
 
+#include "platform/values/WideLanes.h"
 #include "scan/photos/PrintDistance.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +76,9 @@ TEST(PrintIndexTest, findsWhatLookingAtAllFinds)
         EXPECT_GT(sum, std::min<std::size_t>(most, 20) * all.size() / 2) << "there is something to find";
     }
     EXPECT_TRUE(PrintIndex().near(all, 8)[0].empty());
+    const auto found = index.near(all, 8);
+    const WideLanes::Without without;
+    EXPECT_EQ(index.near(all, 8), found);
 }
 
 } // namespace orlen
