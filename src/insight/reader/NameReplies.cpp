@@ -4,60 +4,23 @@
 #include "insight/InsightTexts.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
+#include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/PlaceReplies.h"
 #include "insight/reader/ProgramReplies.h"
+#include "insight/reader/WhatItIs.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
 
 namespace {
-
-/// Words for places that no scan lists because rules protect them.
-struct KnownPlace {
-    std::string_view words; ///< phrases, separated by commas
-    std::string_view pattern;
-};
-
-constexpr KnownPlace kKnownPlaces[] = {
-    {"ssh,ssh keys,ssh key,.ssh,ssh schlussel,ssh-schlussel,cles ssh,claves ssh,chiavi ssh", "{H}/.ssh"},
-    {"gpg,gpg keys,gpg key,pgp keys,.gnupg,gpg schlussel,cles gpg,claves gpg,chiavi gpg", "{H}/.gnupg"},
-    {"firefox,firefox profile,firefox profiles,firefox "
-     "bookmarks,.mozilla,bookmarks,lesezeichen,marque-pages,favoris,"
-     "marcadores,favoritos,segnalibri,preferiti,firefox profil",
-     "{H}/.mozilla"},
-    {"chrome profile,chrome bookmarks", "{CONFIG}/google-chrome"},
-    {"chromium profile,chromium bookmarks", "{CONFIG}/chromium"},
-    {"thunderbird,thunderbird mail,thunderbird "
-     "profile,thunderbird inbox,inbox,thunderbird "
-     "folder,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
-     "{H}/.thunderbird"},
-    {"keyring,keyrings,passwords,saved passwords,password,passworter,kennworter,schlusselbund,mots "
-     "passe,mots de passe,mot de passe,contrasenas,"
-     "claves",
-     "{DATA}/keyrings"},
-    {"password store,password stores,.password-store", "{H}/.password-store"},
-    {".config", "{CONFIG}"},
-    {".local/share", "{DATA}"},
-};
-
-bool isListed(std::string_view phrases, std::string_view phrase)
-{
-    while (!phrases.empty()) {
-        const std::size_t end = std::min(phrases.find(','), phrases.size());
-        if (phrases.substr(0, end) == phrase)
-            return true;
-        phrases.remove_prefix(std::min(end + 1, phrases.size()));
-    }
-    return false;
-}
 
 /// Keeps only what lies in a folder.
 void narrow(Found& found, std::string_view folder)
@@ -122,27 +85,6 @@ void keepMeant(Found& found, const Question& question, const AskedName& asked)
     if (isFolder != isFile)
         keep([&](const Measured& each) { return each.kind == wanted; });
     keep([](const Measured& each) { return each.isOwn; });
-}
-
-/// The path of something protected that the question means; empty if none.
-std::string protectedPath(const Question& question, const AskContext& context, const std::string& name)
-{
-    std::vector<std::string> paths{pathIn(name)};
-    if (paths.front().empty()) {
-        const std::string lower = plainLetters(name);
-        for (const KnownPlace& place : kKnownPlaces) {
-            if (isListed(place.words, lower))
-                std::ranges::move(Places::current().expand(place.pattern), std::back_inserter(paths));
-        }
-        if (lower.starts_with('.') && lower.find('/') == std::string::npos)
-            paths.push_back(PathText::join(Places::current().home, name));
-    }
-    if (const Subject* const subject = question.subject(); name.empty() && subject != nullptr)
-        paths.push_back(folderOf(*subject));
-    const auto found = std::ranges::find_if(paths, [&](const std::string& path) {
-        return !path.empty() && protectionOf(context, path) != Protection::none;
-    });
-    return found == paths.end() ? std::string() : *found;
 }
 
 Answer notFound(std::string_view name, const AskContext& context)
@@ -244,6 +186,43 @@ bool isSureOf(const Found& found, const Question& question, const AskedName& ask
            std::ranges::any_of(found.measured, [](const Measured& each) { return each.isOwn; });
 }
 
+/// Written neither like a path nor like a file.
+bool isPlainName(std::string_view name)
+{
+    constexpr std::size_t kShortestEnding = 2;
+    return !name.starts_with('.') && name.find('/') == std::string_view::npos && name != "~" &&
+           PathText::extension(name).size() < kShortestEnding;
+}
+
+/// Whether the name is that of a program, and nothing of the person's own is called so.
+bool isOfProgram(const Found& found, const Question& question, const AskedName& asked)
+{
+    const auto isHidden = [](std::string_view path) {
+        return tilde(path).find("/.") != std::string::npos || path.find("/snap/") != std::string_view::npos;
+    };
+    return asked.place.empty() && isPlainName(asked.name) && question.first(Sense::folder) == nullptr &&
+           (found.fit < Fit::stem ||
+            (std::ranges::none_of(found.measured, [](const Measured& each) { return each.isOwn; }) &&
+             std::ranges::all_of(found.hits, [&](const Hit& hit) { return isHidden(hit.entry->path); })));
+}
+
+/// "The Discord cache": the part of a program that the question names. Nothing if it names none.
+std::optional<Answer> aboutPart(const Question& question, const AskContext& context, const AskedName& asked)
+{
+    const ProgramName program = programIn(question, asked.name);
+    if (program.part == PlacePart::all || !asked.place.empty() || !isPlainName(asked.name))
+        return std::nullopt;
+    if (std::optional<Answer> answer = aboutPlaces(question, context, program))
+        return answer;
+    const Subject* const subject = question.subject();
+    const bool isListed = subject != nullptr && !subject->kinds.empty() &&
+                          findNamed(context, program.name, subject->kinds).fit >= Fit::part;
+    const bool isKnown = aboutPlaces(question, context, {program.name, PlacePart::all}).has_value();
+    if (isListed || !isKnown || program.part == PlacePart::saves)
+        return std::nullopt;
+    return noSuchPart(program);
+}
+
 /// What was found, after the word that something else of that name is protected.
 Answer shielded(std::string_view guarded, const AskContext& context, Answer answer)
 {
@@ -254,9 +233,7 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
     return all;
 }
 
-} // namespace
-
-std::optional<Answer> aboutName(const Question& question, const AskContext& context)
+std::optional<Answer> named(const Question& question, const AskContext& context)
 {
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
@@ -269,6 +246,12 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         return notFound(allNames(question), context);
     if (name.empty() || isOfOther || (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
+    if (asksBack(question)) {
+        if (std::optional<Answer> back = gettingBack(question, context, name))
+            return back;
+    }
+    if (std::optional<Answer> part = aboutPart(question, context, asked))
+        return part;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
@@ -287,14 +270,19 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         found.hits = holdingAll(context, wordsOfName(lowered(name)));
         found.fit = found.hits.empty() ? Fit::none : Fit::part;
     }
+    const std::string guarded = protectedPath(question, context, name);
+    if (guarded.empty() && !isNarrowed && isOfProgram(found, question, asked)) {
+        if (std::optional<Answer> places =
+                aboutPlaces(question, context, {programNameIn(name).name, PlacePart::all}))
+            return places;
+    }
     const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
     if (!isSure && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
             return app;
     }
-    const std::string guarded = protectedPath(question, context, name);
     if (!guarded.empty() && (found.fit < Fit::whole || !isSure || isOfMail(question)))
-        return protectedPlace(guarded, protectionOf(context, guarded));
+        return measuredPlace(question, context, guarded);
     if (found.fit < Fit::stem && found.measured.empty() && !isFileName(question, name) &&
         !mayBePartOfName(question))
         return std::nullopt;
@@ -312,15 +300,33 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
                : std::nullopt;
 }
 
+} // namespace
+
+std::optional<Answer> aboutName(const Question& question, const AskContext& context)
+{
+    std::optional<Answer> answer = named(question, context);
+    if (!answer || !question.senses.has(Sense::what) || answer->paths.size() != 1)
+        return answer;
+    if (const Message what = whatItIs(answer->paths.front(), context); !what.empty())
+        answer->text = AskText::sentences({what, std::move(answer->text)});
+    return answer;
+}
+
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
 {
+    constexpr SenseSet kOfName{Sense::unknown, Sense::quoted,  Sense::subject, Sense::general,
+                               Sense::folder,  Sense::cleanUp, Sense::advise,  Sense::space};
     const auto [name, place] = nameIn(question);
     // "The mozilla cache"
     const Subject* const subject = question.subject();
     const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
                           findNamed(context, name, subject->kinds).fit >= Fit::words;
+    const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
+                             question.senses.isWithin(kOfName) &&
+                             aboutPlaces(question, context, programIn(question, name)).has_value();
     if (name.empty() || hasOtherNames(question, name, place) ||
-        (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
+        (!isOfKind && !isOfProgram && !isFileName(question, name) &&
+         protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);
 }

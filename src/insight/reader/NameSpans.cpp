@@ -2,6 +2,7 @@
 
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/ProgramPlaces.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -162,6 +163,8 @@ private:
     {
         const std::string lower = lowered(run);
         if (m_names != nullptr && (count == 1 ? !m_names->named(lower).empty() : m_names->has(lower)))
+            return true;
+        if (count > 1 && isNameOfProgram(run))
             return true;
         return count > 1 && m_apps &&
                std::ranges::any_of(*m_apps, [&](const KnownApp& app) { return lowered(app.name) == lower; });

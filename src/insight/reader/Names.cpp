@@ -304,6 +304,20 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
     return bestFit(context, name, kinds, Fit::mistyped);
 }
 
+Found findTrashed(const AskContext& context, std::string_view name)
+{
+    Found found;
+    for (const Fit least : {Fit::words, Fit::part, Fit::mistyped}) {
+        Best best(name, least);
+        lookInHistory(context.history, best);
+        found.trashed = std::move(best.found().trashed);
+        if (!found.trashed.empty())
+            break;
+    }
+    found.hits = findNamed(context, name, {FindingKind::trash}).hits;
+    return found;
+}
+
 std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words)
 {
     std::vector<Hit> hits;

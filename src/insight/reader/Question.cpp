@@ -1,6 +1,8 @@
 #include "insight/reader/Question.h"
 
 #include "insight/reader/Merging.h"
+#include "model/Rating.h"
+#include "model/Words.h"
 #include "platform/text/LanguageTools.h"
 
 #include <algorithm>
@@ -10,6 +12,18 @@
 namespace orlen::AskReader {
 
 namespace {
+
+/// The rating that the program itself calls so.
+std::optional<Sense> ratingCalled(const std::string& plain)
+{
+    for (const auto& [rating, sense] :
+         {std::pair(Rating::safe, Sense::safe), std::pair(Rating::review, Sense::review),
+          std::pair(Rating::keep, Sense::keep)}) {
+        if (plainLetters(shown(label(rating))) == plain)
+            return sense;
+    }
+    return std::nullopt;
+}
 
 /// Takes phrases off the words, the longest known one first.
 class Reading {
@@ -73,8 +87,9 @@ private:
         // What does "Review" mean?
         constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
         const Lexicon::Entry* const entry = m_lexicon.find(m_plain[m_at]);
-        if (entry != nullptr && kRatings.has(entry->sense)) {
-            take({entry->sense, {}, nullptr, 0, {}}, 1);
+        const std::optional<Sense> label = ratingCalled(m_plain[m_at]);
+        if (label || (entry != nullptr && kRatings.has(entry->sense))) {
+            take({label ? *label : entry->sense, {}, nullptr, 0, {}}, 1);
             return true;
         }
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);
