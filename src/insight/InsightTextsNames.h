@@ -36,6 +36,8 @@ inline constexpr Text kNotInTrash =
 inline constexpr Text kListedInsideUnsafe =
     messages("In it the last scan lists {count} item, {size}; none of it is rated Safe.",
              "In it the last scan lists {count} items, {size} in all; none of it is rated Safe.");
+// TRANSLATORS: a list of files and folders follows.
+inline constexpr Text kTogether = message("Together they take {size}:");
 // TRANSLATORS: {path} is a folder such as "/var"; {category} is "System".
 inline constexpr Text kPartOfSystem =
     message("{path} counts for {category}, which takes {size} in all; Orlen does not measure it by itself.");

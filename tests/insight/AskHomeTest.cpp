@@ -67,6 +67,22 @@ constexpr Row kOfPrograms[] = {
     {"is the firefox cache safe", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
     {"is minecraft safe to delete", "~/.minecraft takes"},
     {"my minecraft world", "~/.minecraft/saves takes"},
+    {"how big are discords caches", "~/.config/discord/Cache"},
+    {"discord logs", "no log files of “discord”"},
+    {"can I get rid of vs code", "~/.config/Code takes"},
+    {"how big is mincraft", "~/.minecraft takes"},
+};
+
+constexpr Row kByWords[] = {
+    {"can i delete the zoom installer", "zoom_amd64.deb", ".zoom"},
+    {"the backup from my old laptop", "old laptop backup.tar.gz takes", "The oldest"},
+    {"is the garden plan pdf safe to delete", "garden plan.pdf", "Floor"},
+    {"can I delete the box vm", "box.vdi"},
+    {"lake house", "Lake house.mkv"},
+    {"how big is the fedora vm", "images/fedora40 takes 2 MB"},
+    {"how big is fedora40", "gnome-boxes/images/fedora40 takes 2 MB"},
+    {"how much would I free if I remove box.vdi and the zoom installer",
+     "Together they take 4 MB|box.vdi|zoom_"},
 };
 
 constexpr Row kBack[] = {
@@ -193,6 +209,12 @@ TEST_F(AskHomeTest, programsWithTheirFolders)
     context.home = HomeWalk::walk({});
     expectAnswers(kOfPrograms);
     expectAnswers(kBack);
+    file("Downloads/zoom_amd64.deb", kBytesInMB, "2026-02-01");
+    file(".zoom/logs/zoom.log", kBytesInMB, "2026-02-01");
+    file("Documents/old laptop backup.tar.gz", kBytesInMB, "2026-02-01");
+    file(".local/share/gnome-boxes/images/fedora40", 2 * kBytesInMB, "2026-02-01");
+    context.home = HomeWalk::walk({});
+    expectAnswers(kByWords);
     expectAnswers(kThings);
 }
 

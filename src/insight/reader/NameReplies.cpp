@@ -6,7 +6,9 @@
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedKinds.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Narrowing.h"
 #include "insight/reader/PlaceReplies.h"
 #include "insight/reader/ProgramReplies.h"
 #include "insight/reader/WhatItIs.h"
@@ -21,71 +23,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-/// Keeps only what lies in a folder.
-void narrow(Found& found, std::string_view folder)
-{
-    const auto isElsewhere = [&](std::string_view path) { return !PathText::isAtOrBelow(path, folder); };
-    std::erase_if(found.hits, [&](const Hit& hit) { return isElsewhere(hit.entry->path); });
-    std::erase_if(found.measured, [&](const Measured& each) { return isElsewhere(each.path); });
-    std::erase_if(found.trashed, [&](const TrashedItem* item) { return isElsewhere(item->original); });
-}
-
-/// "The .git folder of atlas": what lies in a folder of that name, if anything does.
-void narrowToOthers(Found& found, const Question& question, const AskedName& asked)
-{
-    for (const Phrase& phrase : question.phrases) {
-        if (phrase.sense != Sense::unknown || asked.name.find(phrase.text) != std::string::npos ||
-            asked.place.find(phrase.text) != std::string::npos)
-            continue;
-        const std::string word = "/" + lowered(phrase.text) + "/";
-        const auto lies = [&](std::string_view path) {
-            return lowered(path).find(word) != std::string::npos;
-        };
-        if (std::ranges::none_of(found.hits, [&](const Hit& hit) { return lies(hit.entry->path); }) &&
-            std::ranges::none_of(found.measured, [&](const Measured& each) { return lies(each.path); }))
-            continue;
-        std::erase_if(found.hits, [&](const Hit& hit) { return !lies(hit.entry->path); });
-        std::erase_if(found.measured, [&](const Measured& each) { return !lies(each.path); });
-    }
-}
-
-/// "My .cache folder": the one that lies directly in the home folder, if there is one.
-void keepTopFolder(Found& found)
-{
-    const std::string& home = Places::current().home;
-    const auto isAtTop = [&](std::string_view path) { return PathText::parent(path) == home; };
-    const auto top = std::ranges::find_if(found.measured, [&](const Measured& each) {
-        return each.kind == Measured::Kind::folder && isAtTop(each.path);
-    });
-    if (top == found.measured.end())
-        return;
-    const Measured only = *top;
-    found.hits.clear();
-    found.measured = {only};
-}
-
-/// Keeps what the question says of it: that it is a folder or a file; and what people have in their own
-/// folders, if anything, before what programs keep.
-void keepMeant(Found& found, const Question& question, const AskedName& asked)
-{
-    narrowToOthers(found, question, asked);
-    if (asked.place.empty() && found.fit == Fit::whole &&
-        (question.senses.has(Sense::folder) || asked.name.starts_with('.')))
-        keepTopFolder(found);
-    if (!found.hits.empty())
-        return;
-    const auto keep = [&](auto isWanted) {
-        if (std::ranges::any_of(found.measured, isWanted))
-            std::erase_if(found.measured, [&](const Measured& each) { return !isWanted(each); });
-    };
-    const bool isFolder = question.senses.has(Sense::folder);
-    const bool isFile = question.subject() != nullptr && question.subject()->isAnyFile;
-    const auto wanted = isFolder ? Measured::Kind::folder : Measured::Kind::file;
-    if (isFolder != isFile)
-        keep([&](const Measured& each) { return each.kind == wanted; });
-    keep([](const Measured& each) { return each.isOwn; });
-}
 
 Answer notFound(std::string_view name, const AskContext& context)
 {
@@ -117,30 +54,13 @@ bool isNoWord(std::string_view text)
            (std::ranges::any_of(text, isFigure) || std::any_of(text.begin() + 1, text.end(), isCapital));
 }
 
-/// "The Steam shader cache": which program it belongs to says as much as its name.
-void narrowToSteam(Found& found, const Question& question, const AskContext& context, std::string_view name)
-{
-    const auto isSteam = [](const Phrase& phrase) {
-        return phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
-               plainLetters(phrase.text) == "steam";
-    };
-    if (std::ranges::none_of(question.phrases, isSteam))
-        return;
-    std::vector<std::string> words = wordsOfName(lowered(name));
-    words.emplace_back("steam");
-    if (std::vector<Hit> hits = holdingAll(context, words); !hits.empty()) {
-        found = {};
-        found.fit = Fit::words;
-        found.hits = std::move(hits);
-    }
-}
-
 /// Whether a word of the question is neither understood nor part of the name: it asks for something else.
 bool hasOtherNames(const Question& question, const std::string& name, const std::string& place)
 {
     return std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
         return (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) &&
-               name.find(phrase.text) == std::string::npos && place.find(phrase.text) == std::string::npos;
+               name.find(phrase.text) == std::string::npos && place.find(phrase.text) == std::string::npos &&
+               !isWordForPart(phrase.text);
     });
 }
 
@@ -159,7 +79,8 @@ bool mayBePartOfName(const Question& question)
     constexpr SenseSet kOfFiles{Sense::howBig, Sense::howMuch, Sense::remove,    Sense::safe,
                                 Sense::keep,   Sense::can,     Sense::takes,     Sense::undo,
                                 Sense::folder, Sense::subject, Sense::untouched, Sense::happens};
-    return question.phrases.size() == 1 || question.senses.meets(kOfFiles) ||
+    return question.phrases.size() == 1 || question.senses.isWithin({Sense::unknown}) ||
+           question.senses.meets(kOfFiles) ||
            (question.phrases.size() == 2 && question.senses.has(Sense::what));
 }
 
@@ -206,6 +127,12 @@ bool isOfProgram(const Found& found, const Question& question, const AskedName& 
              std::ranges::all_of(found.hits, [&](const Hit& hit) { return isHidden(hit.entry->path); })));
 }
 
+/// Whether it has, or had, folders in the home folder.
+bool isProgram(const AskContext& context, const ProgramName& program)
+{
+    return placesOf(context, {program.name, PlacePart::all}).fit != Fit::none;
+}
+
 /// "The Discord cache": the part of a program that the question names. Nothing if it names none.
 std::optional<Answer> aboutPart(const Question& question, const AskContext& context, const AskedName& asked)
 {
@@ -217,10 +144,18 @@ std::optional<Answer> aboutPart(const Question& question, const AskContext& cont
     const Subject* const subject = question.subject();
     const bool isListed = subject != nullptr && !subject->kinds.empty() &&
                           findNamed(context, program.name, subject->kinds).fit >= Fit::part;
-    const bool isKnown = aboutPlaces(question, context, {program.name, PlacePart::all}).has_value();
-    if (isListed || !isKnown || program.part == PlacePart::saves)
+    if (isListed || !isProgram(context, program) || program.part == PlacePart::saves)
         return std::nullopt;
     return noSuchPart(program);
+}
+
+/// What was found, hits or folders and files that no finding lists.
+Answer aboutFound(const Question& question, const AskContext& context, const Found& found,
+                  const std::string& name)
+{
+    const std::string shownName = PathText::forDisplay(name);
+    return found.hits.empty() ? measuredOnly(question, context, found, shownName)
+                              : listedHits(context, found, shownName);
 }
 
 /// What was found, after the word that something else of that name is protected.
@@ -235,6 +170,8 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
 
 std::optional<Answer> named(const Question& question, const AskContext& context)
 {
+    if (std::optional<Answer> sum = sumOfNamed(question, context))
+        return sum;
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
     const std::string folder = placeOf(question, context, asked);
@@ -252,11 +189,15 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     }
     if (std::optional<Answer> part = aboutPart(question, context, asked))
         return part;
+    if (const Found ofKind = ofKindNamed(question, context, name); place.empty() && ofKind.fit != Fit::none)
+        return aboutFound(question, context, ofKind, name);
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
         found = findNamed(context, name);
+    if (Found machine = machineNamed(context, name); found.fit < Fit::words && machine.fit != Fit::none)
+        found = std::move(machine);
     if (!folder.empty()) {
         narrow(found, folder);
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
@@ -312,6 +253,16 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     return answer;
 }
 
+std::optional<Answer> aboutWordsOfName(const Question& question, const AskContext& context)
+{
+    constexpr std::size_t kFew = 3;
+    const Found found = holdingWordsOf(question, context);
+    const std::size_t count = found.hits.size() + found.measured.size();
+    return count == 0 || count > kFew
+               ? std::nullopt
+               : std::optional(aboutFound(question, context, found, nameIn(question).name));
+}
+
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
 {
     constexpr SenseSet kOfName{Sense::unknown, Sense::quoted,  Sense::subject, Sense::general,
@@ -319,11 +270,14 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
     const auto [name, place] = nameIn(question);
     // "The mozilla cache"
     const Subject* const subject = question.subject();
-    const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
-                          findNamed(context, name, subject->kinds).fit >= Fit::words;
+    const bool isOfKind =
+        (subject != nullptr && !subject->kinds.empty() &&
+         findNamed(context, name, subject->kinds).fit >= Fit::words) ||
+        ofKindNamed(question, context, name).fit != Fit::none ||
+        (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words);
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&
-                             aboutPlaces(question, context, programIn(question, name)).has_value();
+                             isProgram(context, programIn(question, name));
     if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isOfProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))

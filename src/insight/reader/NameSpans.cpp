@@ -181,7 +181,7 @@ private:
         const auto isCapital = [&](const Piece& piece) {
             return run[piece.start] >= 'A' && run[piece.start] <= 'Z';
         };
-        return hasOwnWord || std::all_of(pieces.begin() + 1, pieces.end(), isCapital);
+        return hasOwnWord || isNameOfProgram(run) || std::all_of(pieces.begin() + 1, pieces.end(), isCapital);
     }
 
     std::string_view m_text;

@@ -197,7 +197,10 @@ void lookInHome(const AskContext& context, std::string_view name, Best& best)
     const bool isWord = path.empty() && lower.find_first_of(". ") == std::string::npos;
     for (const HomeNames::Item& item : items) {
         std::string found = names->pathOf(item);
-        if (isWord && !names->isOwn(item) && std::ranges::count(found.substr(root.size()), '/') >= kDeep)
+        // Virtual machines lie in folders of programs, and are the person's own for all that.
+        const bool isMachine = PathText::lastComponent(PathText::parent(found)) == "images";
+        if (isWord && !names->isOwn(item) && !isMachine &&
+            std::ranges::count(found.substr(root.size()), '/') >= kDeep)
             continue;
         if (!best.take(found))
             continue;

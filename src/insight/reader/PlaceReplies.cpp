@@ -110,6 +110,8 @@ ProgramName programIn(const Question& question, std::string_view name)
 {
     ProgramName program = programNameIn(name);
     for (const Phrase& phrase : question.phrases) {
+        if (const auto part = partCalled(phrase.text); part && program.part == PlacePart::all)
+            program.part = *part;
         if (phrase.subject != nullptr && phrase.subject->id == SubjectID::caches)
             program.part = PlacePart::caches;
         else if (phrase.subject != nullptr && phrase.subject->id == SubjectID::logs)

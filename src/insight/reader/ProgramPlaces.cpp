@@ -45,6 +45,7 @@ constexpr OtherName kOtherNames[] = {
     {"conda", "miniconda3"},
     {"conda", "anaconda3"},
     {"maven", "m2"},
+    {"go", "gobuild"},
 };
 
 /// Parts of an identifier such as "com.spotify.Client" that say nothing about the program.
@@ -109,10 +110,15 @@ bool isFigures(std::string_view text)
     return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
+enum class Spelling { right, mistyped };
+
 /// Compares the names of folders with that of a program.
 class Folders {
 public:
-    explicit Folders(std::string_view program) : m_program(bare(program)) {}
+    explicit Folders(std::string_view program, Spelling spelling = Spelling::right)
+        : m_program(bare(program)), m_isMistyped(spelling == Spelling::mistyped)
+    {
+    }
 
     [[nodiscard]] bool isKnown() const
     {
@@ -122,7 +128,11 @@ public:
 
     [[nodiscard]] bool areNamed(std::string_view folder) const
     {
+        constexpr std::size_t kShortestMistyped = 6;
         const std::string name = bare(folder);
+        // One letter too many is also the one of "Discords".
+        if (m_isMistyped && m_program.size() >= kShortestMistyped && isOneLetterApart(m_program, name))
+            return true;
         return fits(name, m_program) || std::ranges::any_of(kOtherNames, [&](const OtherName& other) {
                    return other.program == m_program && fits(name, other.folder);
                });
@@ -151,6 +161,7 @@ private:
     }
 
     std::string m_program;
+    bool m_isMistyped;
 };
 
 /// A folder in which programs have folders of their own.
@@ -180,8 +191,8 @@ constexpr Root kRoots[] = {
 /// The folders of a program, and what of them is meant.
 class Search {
 public:
-    Search(const HomeFiles& home, const ProgramName& program)
-        : m_home(home), m_program(program), m_folders(program.name)
+    Search(const HomeFiles& home, const ProgramName& program, Spelling spelling)
+        : m_home(home), m_program(program), m_folders(program.name, spelling)
     {
     }
 
@@ -255,6 +266,13 @@ std::vector<Hit> hitsAt(const AskContext& context, const std::vector<Measured>& 
 
 } // namespace
 
+std::optional<PlacePart> partCalled(std::string_view word)
+{
+    const std::string plain = plainLetters(word);
+    const auto* const found = std::ranges::find(kPartWords, plain, &PartWord::word);
+    return found == std::end(kPartWords) ? std::nullopt : std::optional(found->part);
+}
+
 ProgramName programNameIn(std::string_view text)
 {
     ProgramName program{std::string(text)};
@@ -264,12 +282,10 @@ ProgramName programNameIn(std::string_view text)
     if (end == std::string::npos)
         return program;
     const auto take = [&](std::string_view word, std::string_view rest) {
-        const std::string plain = plainLetters(word);
-        const auto* const found = std::ranges::find(kPartWords, plain, &PartWord::word);
-        if (found == std::end(kPartWords))
-            return false;
-        program = {std::string(rest), found->part};
-        return true;
+        const std::optional<PlacePart> part = partCalled(word);
+        if (part)
+            program = {std::string(rest), *part};
+        return part.has_value();
     };
     const std::string whole = program.name;
     const std::string_view all = whole;
@@ -280,9 +296,9 @@ ProgramName programNameIn(std::string_view text)
 
 bool isNameOfProgram(std::string_view words)
 {
-    constexpr std::string_view kNames[] = {"google chrome",  "visual studio code", "vs code",
-                                           "android studio", "microsoft edge",     "obs studio",
-                                           "hugging face",   "microsoft teams",    "brave browser"};
+    constexpr std::string_view kNames[] = {
+        "google chrome", "visual studio code", "vs code",  "android studio",  "microsoft edge", "obs studio",
+        "hugging face",  "go build",           "go cache", "microsoft teams", "brave browser"};
     return isAmong(kNames, plainLetters(words));
 }
 
@@ -317,7 +333,12 @@ Found placesOf(const AskContext& context, const ProgramName& program)
     Found found;
     if (context.home == nullptr)
         return found;
-    for (const Number folder : Search(*context.home, program).found()) {
+    std::vector<Number> folders;
+    for (const Spelling spelling : {Spelling::right, Spelling::mistyped}) {
+        if (folders.empty())
+            folders = Search(*context.home, program, spelling).found();
+    }
+    for (const Number folder : folders) {
         Measured one{context.home->folderPath(folder), context.home->folder(folder).bytes, {}};
         one.kind = Measured::Kind::folder;
         found.measured.push_back(std::move(one));

@@ -3,6 +3,7 @@
 #include "insight/reader/Names.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,13 @@ struct ProgramName {
     std::string name; ///< as typed
     PlacePart part = PlacePart::all;
 };
+
+/// The part that a word stands for: of "world", the saves. Nothing if it is no such word.
+[[nodiscard]] std::optional<PlacePart> partCalled(std::string_view word);
+[[nodiscard]] inline bool isWordForPart(std::string_view word)
+{
+    return partCalled(word).has_value();
+}
 
 /// Takes the word for a part off a name: "minecraft world" is the saves of minecraft.
 [[nodiscard]] ProgramName programNameIn(std::string_view text);

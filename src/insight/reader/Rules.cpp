@@ -126,6 +126,9 @@ const std::vector<Rule>& rules()
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
         {{{soFar}}, {what, general, cleanUp}, allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
+        {{{unknown, general}, {subject, oldest, newest, disk}},
+         {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
+         aboutWordsOfName},
         // The disk
         {{{why}, {free, space, used, full, disk}, {since}},
          {what, general, period, remove, negation, howMuch, full, grow, most, takes, last},
