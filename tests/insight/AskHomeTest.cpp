@@ -88,6 +88,7 @@ constexpr Row kByWords[] = {
 constexpr Row kBack[] = {
     {"can I get back the firefox cache", "~/.cache/mozilla (1 GB) was moved|orlen restore|1 June 2026"},
     {"how do I restore old-film.mp4", "old-film.mp4 (5 MB) is in the Trash (Deleted from ~/Videos)", "rated"},
+    {"I want my old film back", "old-film.mp4 (5 MB) is in the Trash"},
     {"undelete saw.txt", "neither in the Trash|~/Tools/saw.txt (999 KB) is still there"},
     {"if I delete saw.txt can I get it back", "saw.txt", "neither"},
     {"restore nothing.odt please", "“nothing.odt” is neither in the Trash nor in the history"},

@@ -170,6 +170,11 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
 
 std::optional<Answer> named(const Question& question, const AskContext& context)
 {
+    // What starts at login is no question about the folders of a program.
+    if (std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+            return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
+        }))
+        return std::nullopt;
     if (std::optional<Answer> sum = sumOfNamed(question, context))
         return sum;
     const AskedName asked = nameIn(question);
@@ -261,6 +266,18 @@ std::optional<Answer> aboutWordsOfName(const Question& question, const AskContex
     return count == 0 || count > kFew
                ? std::nullopt
                : std::optional(aboutFound(question, context, found, nameIn(question).name));
+}
+
+std::optional<Answer> backByWords(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOfNames{Sense::subject, Sense::oldest, Sense::newest, Sense::unknown};
+    std::string name;
+    for (const Phrase& phrase : question.phrases) {
+        if (kOfNames.has(phrase.sense))
+            name += (name.empty() ? "" : " ") + phrase.text;
+    }
+    const Found found = findTrashed(context, name);
+    return found.hits.empty() && found.trashed.empty() ? std::nullopt : gettingBack(question, context, name);
 }
 
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)

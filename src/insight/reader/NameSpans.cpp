@@ -2,7 +2,7 @@
 
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
-#include "insight/reader/ProgramPlaces.h"
+#include "insight/reader/ProgramNames.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 

@@ -27,11 +27,11 @@ enum class Standing { words, parts };
 
 bool holdsAll(std::string_view lower, const Words& words, Standing standing)
 {
-    constexpr std::size_t kShortestPart = 4;
+    constexpr std::size_t kShortestWithin = 4;
     return std::ranges::all_of(words, [&](const std::string& word) {
         return standing == Standing::words
                    ? holdsWord(lower, word)
-                   : word.size() >= kShortestPart && lower.find(word) != std::string_view::npos;
+                   : word.size() >= kShortestWithin && lower.find(word) != std::string_view::npos;
     });
 }
 
@@ -136,15 +136,14 @@ Found ofKindNamed(const Question& question, const AskContext& context, const std
 
 Found machineNamed(const AskContext& context, std::string_view name)
 {
-    constexpr std::string_view kWords[] = {" virtual machine", " vm", " machine", " image"};
+    constexpr std::string_view kWords[] = {"vm", "machine", "image", "maschine"};
     constexpr std::string_view kDisks[] = {"vdi", "vmdk", "qcow2", "vhd", "vhdx", "img"};
     Found found;
-    std::string lower = lowered(name);
-    const auto* const word =
-        std::ranges::find_if(kWords, [&](std::string_view each) { return lower.ends_with(each); });
-    if (word == std::end(kWords) || context.home == nullptr)
+    const Words words = wordsOfName(lowered(name));
+    if (words.size() < 2 || context.home == nullptr ||
+        std::ranges::find(kWords, words.back()) == std::end(kWords))
         return found;
-    lower.resize(lower.size() - word->size());
+    const std::string& first = words.front();
     const HomeFiles& home = *context.home;
     std::string each;
     for (HomeFiles::Number i = 0; i < home.fileCount(); ++i) {
@@ -153,7 +152,7 @@ Found machineNamed(const AskContext& context, std::string_view name)
         if (!isDisk && home.folderName(file.folder) != "images")
             continue;
         lowerInto(each, file.name);
-        if (!each.starts_with(lower))
+        if (!each.starts_with(first))
             continue;
         Measured one{home.filePath(i), file.bytes, {}};
         one.kind = Measured::Kind::file;

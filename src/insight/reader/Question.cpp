@@ -1,8 +1,6 @@
 #include "insight/reader/Question.h"
 
 #include "insight/reader/Merging.h"
-#include "model/Rating.h"
-#include "model/Words.h"
 #include "platform/text/LanguageTools.h"
 
 #include <algorithm>
@@ -12,18 +10,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-/// The rating that the program itself calls so.
-std::optional<Sense> ratingCalled(const std::string& plain)
-{
-    for (const auto& [rating, sense] :
-         {std::pair(Rating::safe, Sense::safe), std::pair(Rating::review, Sense::review),
-          std::pair(Rating::keep, Sense::keep)}) {
-        if (plainLetters(shown(label(rating))) == plain)
-            return sense;
-    }
-    return std::nullopt;
-}
 
 /// Takes phrases off the words, the longest known one first.
 class Reading {
