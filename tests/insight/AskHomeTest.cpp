@@ -55,6 +55,57 @@ protected:
     }
 };
 
+constexpr Row kOfPrograms[] = {
+    // Never the whole folder of the program for its cache, and never the cache for all of it.
+    {"is the discord cache safe to clear", "~/.config/discord/Cache takes 2 MB|It is a cache", "3.1 MB"},
+    {"visual studio code cache", "~/.config/Code/CachedData takes 999 KB"},
+    {"kann der Discord-Cache weg", "~/.config/discord/Cache"},
+    {"how big is discord", "The folder ~/.config/discord takes 3.1 MB"},
+    {"how big is spotify",
+     "“spotify” has 2 folders|3 MB in all|~/.cache/spotify|~/.var/app/com.spotify.Client"},
+    {"how big is the blender cache", "no cache of “blender”", ".config"},
+    {"is the firefox cache safe", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
+    {"is minecraft safe to delete", "~/.minecraft takes"},
+    {"my minecraft world", "~/.minecraft/saves takes"},
+    {"how big are discords caches", "~/.config/discord/Cache"},
+    {"discord logs", "no log files of “discord”"},
+    {"can I get rid of vs code", "~/.config/Code takes"},
+    {"how big is mincraft", "~/.minecraft takes"},
+};
+
+constexpr Row kByWords[] = {
+    {"can i delete the zoom installer", "zoom_amd64.deb", ".zoom"},
+    {"the backup from my old laptop", "old laptop backup.tar.gz takes", "The oldest"},
+    {"is the garden plan pdf safe to delete", "garden plan.pdf", "Floor"},
+    {"can I delete the box vm", "box.vdi"},
+    {"lake house", "Lake house.mkv"},
+    {"how big is the fedora vm", "images/fedora40 takes 2 MB"},
+    {"how big is fedora40", "gnome-boxes/images/fedora40 takes 2 MB"},
+    {"how much would I free if I remove box.vdi and the zoom installer",
+     "Together they take 4 MB|box.vdi|zoom_"},
+};
+
+constexpr Row kBack[] = {
+    {"can I get back the firefox cache", "~/.cache/mozilla (1 GB) was moved|orlen restore|1 June 2026"},
+    {"how do I restore old-film.mp4", "old-film.mp4 (5 MB) is in the Trash (Deleted from ~/Videos)", "rated"},
+    {"I want my old film back", "old-film.mp4 (5 MB) is in the Trash"},
+    {"undelete saw.txt", "neither in the Trash|~/Tools/saw.txt (999 KB) is still there"},
+    {"if I delete saw.txt can I get it back", "saw.txt", "neither"},
+    {"restore nothing.odt please", "“nothing.odt” is neither in the Trash nor in the history"},
+};
+
+constexpr Row kThings[] = {
+    {"what is core.4711", "memory dump|takes 999 KB"},
+    {"what is box.vdi", "disk of a virtual machine"},
+    {"what is Projects/engine/target", "listed under", "build output"},
+    {"what is node_modules", "packages of a JavaScript project"},
+    {"what is setup.deb", "package that installs a program"},
+    {"what is in Projects/engine", "target"},
+    {"is Projects/engine safe to delete", "1 item, 8 MB; none of it is rated Safe|rated Review. Made again."},
+    {"how big is /var", "/var counts for System, which takes 21 GB|protected"},
+    {"what does “ Review ” mean", "Review: probably no longer needed"},
+};
+
 constexpr Row kFiles[] = {
     {"10 biggest files",
      "Of files there are 21|~/.backup.img (13 MB)|backup-2025.img|Lake house.mkv|and 11 more"},
@@ -135,6 +186,37 @@ TEST_F(AskHomeTest, listsAndCountsOfAllFiles)
 TEST_F(AskHomeTest, sizesAndListsOfFolders)
 {
     expectAnswers(kFolders);
+}
+
+TEST_F(AskHomeTest, programsWithTheirFolders)
+{
+    file(".config/discord/Cache/data", 2 * kBytesInMB, "2026-02-01");
+    file(".config/discord/settings", kBytesInMB + 100'000, "2026-02-01");
+    file(".config/Code/CachedData/x", kBytesInMB, "2026-02-01");
+    file(".cache/spotify/x", kBytesInMB, "2026-02-01");
+    file(".var/app/com.spotify.Client/data/x", 2 * kBytesInMB, "2026-02-01");
+    file(".minecraft/saves/one/level", kBytesInMB, "2026-02-01");
+    file(".minecraft/versions/x", kBytesInMB, "2026-02-01");
+    file("core.4711", kBytesInMB, "2026-02-01");
+    context.apps->pop_back();
+    context.history.front().items.push_back({home.path(".cache/mozilla"), "/t/mozilla", kBytesInGB});
+    context.history.front().date = on("2026-06-01");
+    FileEntry film = entry(".local/share/Trash/files/old-film.mp4", 5 * kBytesInMB);
+    film.notes = {message("Deleted from ~/Videos")};
+    add(FindingKind::trash, Rating::review, message("Already in the Trash."), {film});
+    context.protection = [](std::string_view path) {
+        return path == "/var" ? Protection::outside : Protection::none;
+    };
+    context.home = HomeWalk::walk({});
+    expectAnswers(kOfPrograms);
+    expectAnswers(kBack);
+    file("Downloads/zoom_amd64.deb", kBytesInMB, "2026-02-01");
+    file(".zoom/logs/zoom.log", kBytesInMB, "2026-02-01");
+    file("Documents/old laptop backup.tar.gz", kBytesInMB, "2026-02-01");
+    file(".local/share/gnome-boxes/images/fedora40", 2 * kBytesInMB, "2026-02-01");
+    context.home = HomeWalk::walk({});
+    expectAnswers(kByWords);
+    expectAnswers(kThings);
 }
 
 TEST_F(AskHomeTest, anythingByItsName)

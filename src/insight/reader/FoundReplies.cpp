@@ -2,12 +2,15 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsNames.h"
 #include "insight/reader/PathHits.h"
+#include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -21,6 +24,7 @@ namespace {
 using InsightTexts::RatedText;
 
 constexpr std::size_t kListed = 6;
+constexpr std::size_t kNamedInside = 2;
 
 Message itIsProtected(Protection protection)
 {
@@ -110,26 +114,9 @@ Message measuredLine(const Measured& each, const AskContext& context)
 
 Answer listedAll(const AskContext& context, const Found& found, std::string_view name)
 {
-    const auto hits = std::span(found.hits).first(std::min(found.hits.size(), kListed));
-    const auto others =
-        std::span(found.measured).first(std::min(found.measured.size(), kListed - hits.size()));
     const auto count = std::ssize(found.hits) + std::ssize(found.measured);
-    std::vector<Message> lines{{InsightTexts::kItemsFit, {{"count", count}, {"name", std::string(name)}}}};
-    std::ranges::transform(hits, std::back_inserter(lines), itemLine);
-    std::ranges::transform(others, std::back_inserter(lines),
-                           [&](const Measured& each) { return measuredLine(each, context); });
-    if (const auto more = count - std::ssize(hits) - std::ssize(others); more > 0)
-        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
-    if (!hits.empty())
-        lines.emplace_back(InsightTexts::kMovesTicked);
-    Answer answer{AskText::lines(std::move(lines)), {}};
-    for (const Hit& hit : hits) {
-        addLink(answer.findingIDs, *hit.finding);
-        answer.paths.push_back(hit.entry->path);
-    }
-    for (const Measured& each : others)
-        answer.paths.push_back(each.path);
-    return answer;
+    return listedBelow({InsightTexts::kItemsFit, {{"count", count}, {"name", std::string(name)}}}, context,
+                       found);
 }
 
 Message sizeAndPlace(const Measured& one)
@@ -143,12 +130,12 @@ Message sizeAndPlace(const Measured& one)
     return {InsightTexts::kFolderTakes, {{"folder", tilde(one.path)}, bytes}};
 }
 
-/// What of a folder the last scan lists; empty if nothing.
+/// What of a folder the last scan lists, the largest items by name; empty if nothing.
 Message listedInside(const Measured& folder, const AskContext& context, Answer& answer)
 {
     std::int64_t bytes = 0;
     std::int64_t safe = 0;
-    const std::vector<Hit> hits = hitsBelow(folder.path, context);
+    std::vector<Hit> hits = hitsBelow(folder.path, context);
     for (const Hit& hit : hits) {
         bytes = checkedAdd(bytes, hit.entry->size);
         if (hit.finding->effectiveRating(*hit.entry) == Rating::safe)
@@ -157,8 +144,14 @@ Message listedInside(const Measured& folder, const AskContext& context, Answer& 
     }
     if (hits.empty())
         return {};
-    return {InsightTexts::kListedInside,
-            {{"count", std::ssize(hits)}, {"size", Bytes{bytes}}, {"safe", Bytes{safe}}}};
+    const std::vector<Place> places{
+        {"count", std::ssize(hits)}, {"size", Bytes{bytes}}, {"safe", Bytes{safe}}};
+    std::vector<Message> lines{safe > 0 ? Message{InsightTexts::kListedInside, places}
+                                        : Message{InsightTexts::kListedInsideUnsafe, places}};
+    std::ranges::stable_sort(hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
+    for (const Hit& hit : std::span(hits).first(std::min(hits.size(), kNamedInside)))
+        lines.push_back(itemLine(hit));
+    return AskText::lines(std::move(lines));
 }
 
 /// Whether it may go, of something that no finding lists itself.
@@ -200,6 +193,53 @@ Answer protectedPlace(std::string_view path, Protection protection)
             {},
             false,
             {std::string(path)}};
+}
+
+Answer measuredPlace(const Question& question, const AskContext& context, std::string_view path)
+{
+    constexpr SenseSet kOfSize{Sense::howBig, Sense::howMuch, Sense::takes, Sense::space};
+    Answer answer = protectedPlace(path, protectionOf(context, path));
+    if (!question.senses.meets(kOfSize))
+        return answer;
+    const auto folder = context.home == nullptr ? std::nullopt : context.home->folderAt(path);
+    Message size;
+    if (folder) {
+        size = {InsightTexts::kFolderTakes,
+                {{"folder", tilde(path)}, {"size", Bytes{context.home->folder(*folder).bytes}}}};
+    } else if (const auto system = context.breakdown.cats.find(OrlenCategory::system);
+               system != context.breakdown.cats.end() &&
+               !PathText::isAtOrBelow(path, Places::current().home)) {
+        size = {InsightTexts::kPartOfSystem,
+                {{"path", tilde(path)},
+                 {"category", within(label(OrlenCategory::system))},
+                 {"size", Bytes{system->second}}}};
+    }
+    answer.text = AskText::sentences({std::move(size), std::move(answer.text)});
+    return answer;
+}
+
+Answer listedBelow(Message heading, const AskContext& context, const Found& found)
+{
+    const auto hits = std::span(found.hits).first(std::min(found.hits.size(), kListed));
+    const auto others =
+        std::span(found.measured).first(std::min(found.measured.size(), kListed - hits.size()));
+    const auto count = std::ssize(found.hits) + std::ssize(found.measured);
+    std::vector<Message> lines{std::move(heading)};
+    std::ranges::transform(hits, std::back_inserter(lines), itemLine);
+    std::ranges::transform(others, std::back_inserter(lines),
+                           [&](const Measured& each) { return measuredLine(each, context); });
+    if (const auto more = count - std::ssize(hits) - std::ssize(others); more > 0)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    if (!hits.empty())
+        lines.emplace_back(InsightTexts::kMovesTicked);
+    Answer answer{AskText::lines(std::move(lines)), {}};
+    for (const Hit& hit : hits) {
+        addLink(answer.findingIDs, *hit.finding);
+        answer.paths.push_back(hit.entry->path);
+    }
+    for (const Measured& each : others)
+        answer.paths.push_back(each.path);
+    return answer;
 }
 
 Answer listedHits(const AskContext& context, const Found& found, std::string_view name)

@@ -14,9 +14,16 @@ namespace orlen::AskReader {
 
 [[nodiscard]] Answer protectedPlace(std::string_view path, Protection protection);
 
+/// The same, with its size if the question asks for it and somebody knows.
+[[nodiscard]] Answer measuredPlace(const Question& question, const AskContext& context,
+                                   std::string_view path);
+
 /// What the scan lists, at least one entry: its rating and reason, and what a clean-up does with it. A list
 /// if there are several, or others of that name.
 [[nodiscard]] Answer listedHits(const AskContext& context, const Found& found, std::string_view name);
+
+/// A list of everything that was found, below a line that says what it is.
+[[nodiscard]] Answer listedBelow(Message heading, const AskContext& context, const Found& found);
 
 /// What no finding lists: where it is, how big, and why it is not suggested.
 [[nodiscard]] Answer measuredOnly(const Question& question, const AskContext& context, const Found& found,

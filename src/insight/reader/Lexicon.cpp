@@ -1,5 +1,7 @@
 #include "insight/reader/Lexicon.h"
 
+#include "model/Rating.h"
+#include "model/Words.h"
 #include "platform/text/LanguageTools.h"
 
 #include <algorithm>
@@ -231,6 +233,17 @@ std::optional<double> Lexicon::figure(Figure figure, const std::string& word) co
     const auto& figures = m_figures[static_cast<std::size_t>(figure)];
     const auto found = figures.find(word);
     return found == figures.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<Sense> ratingCalled(const std::string& plain)
+{
+    for (const auto& [rating, sense] :
+         {std::pair(Rating::safe, Sense::safe), std::pair(Rating::review, Sense::review),
+          std::pair(Rating::keep, Sense::keep)}) {
+        if (plainLetters(shown(label(rating))) == plain)
+            return sense;
+    }
+    return std::nullopt;
 }
 
 } // namespace orlen::AskReader

@@ -19,6 +19,9 @@ namespace orlen::AskReader {
 /// Whether one letter too many, too few, wrong or swapped with its neighbour separates the words.
 [[nodiscard]] bool isOneLetterApart(std::string_view a, std::string_view b);
 
+/// The rating that the program itself calls so in the language of its texts, in plain letters.
+[[nodiscard]] std::optional<Sense> ratingCalled(const std::string& plain);
+
 /// The words and phrases of one language, looked up in plain letters. Immutable; any thread.
 class Lexicon {
 public:

@@ -4,146 +4,25 @@
 #include "insight/InsightTexts.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
+#include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedKinds.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Narrowing.h"
+#include "insight/reader/PlaceReplies.h"
 #include "insight/reader/ProgramReplies.h"
+#include "insight/reader/WhatItIs.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
 
 namespace {
-
-/// Words for places that no scan lists because rules protect them.
-struct KnownPlace {
-    std::string_view words; ///< phrases, separated by commas
-    std::string_view pattern;
-};
-
-constexpr KnownPlace kKnownPlaces[] = {
-    {"ssh,ssh keys,ssh key,.ssh,ssh schlussel,ssh-schlussel,cles ssh,claves ssh,chiavi ssh", "{H}/.ssh"},
-    {"gpg,gpg keys,gpg key,pgp keys,.gnupg,gpg schlussel,cles gpg,claves gpg,chiavi gpg", "{H}/.gnupg"},
-    {"firefox,firefox profile,firefox profiles,firefox "
-     "bookmarks,.mozilla,bookmarks,lesezeichen,marque-pages,favoris,"
-     "marcadores,favoritos,segnalibri,preferiti,firefox profil",
-     "{H}/.mozilla"},
-    {"chrome profile,chrome bookmarks", "{CONFIG}/google-chrome"},
-    {"chromium profile,chromium bookmarks", "{CONFIG}/chromium"},
-    {"thunderbird,thunderbird mail,thunderbird "
-     "profile,thunderbird inbox,inbox,thunderbird "
-     "folder,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
-     "{H}/.thunderbird"},
-    {"keyring,keyrings,passwords,saved passwords,password,passworter,kennworter,schlusselbund,mots "
-     "passe,mots de passe,mot de passe,contrasenas,"
-     "claves",
-     "{DATA}/keyrings"},
-    {"password store,password stores,.password-store", "{H}/.password-store"},
-    {".config", "{CONFIG}"},
-    {".local/share", "{DATA}"},
-};
-
-bool isListed(std::string_view phrases, std::string_view phrase)
-{
-    while (!phrases.empty()) {
-        const std::size_t end = std::min(phrases.find(','), phrases.size());
-        if (phrases.substr(0, end) == phrase)
-            return true;
-        phrases.remove_prefix(std::min(end + 1, phrases.size()));
-    }
-    return false;
-}
-
-/// Keeps only what lies in a folder.
-void narrow(Found& found, std::string_view folder)
-{
-    const auto isElsewhere = [&](std::string_view path) { return !PathText::isAtOrBelow(path, folder); };
-    std::erase_if(found.hits, [&](const Hit& hit) { return isElsewhere(hit.entry->path); });
-    std::erase_if(found.measured, [&](const Measured& each) { return isElsewhere(each.path); });
-    std::erase_if(found.trashed, [&](const TrashedItem* item) { return isElsewhere(item->original); });
-}
-
-/// "The .git folder of atlas": what lies in a folder of that name, if anything does.
-void narrowToOthers(Found& found, const Question& question, const AskedName& asked)
-{
-    for (const Phrase& phrase : question.phrases) {
-        if (phrase.sense != Sense::unknown || asked.name.find(phrase.text) != std::string::npos ||
-            asked.place.find(phrase.text) != std::string::npos)
-            continue;
-        const std::string word = "/" + lowered(phrase.text) + "/";
-        const auto lies = [&](std::string_view path) {
-            return lowered(path).find(word) != std::string::npos;
-        };
-        if (std::ranges::none_of(found.hits, [&](const Hit& hit) { return lies(hit.entry->path); }) &&
-            std::ranges::none_of(found.measured, [&](const Measured& each) { return lies(each.path); }))
-            continue;
-        std::erase_if(found.hits, [&](const Hit& hit) { return !lies(hit.entry->path); });
-        std::erase_if(found.measured, [&](const Measured& each) { return !lies(each.path); });
-    }
-}
-
-/// "My .cache folder": the one that lies directly in the home folder, if there is one.
-void keepTopFolder(Found& found)
-{
-    const std::string& home = Places::current().home;
-    const auto isAtTop = [&](std::string_view path) { return PathText::parent(path) == home; };
-    const auto top = std::ranges::find_if(found.measured, [&](const Measured& each) {
-        return each.kind == Measured::Kind::folder && isAtTop(each.path);
-    });
-    if (top == found.measured.end())
-        return;
-    const Measured only = *top;
-    found.hits.clear();
-    found.measured = {only};
-}
-
-/// Keeps what the question says of it: that it is a folder or a file; and what people have in their own
-/// folders, if anything, before what programs keep.
-void keepMeant(Found& found, const Question& question, const AskedName& asked)
-{
-    narrowToOthers(found, question, asked);
-    if (asked.place.empty() && found.fit == Fit::whole &&
-        (question.senses.has(Sense::folder) || asked.name.starts_with('.')))
-        keepTopFolder(found);
-    if (!found.hits.empty())
-        return;
-    const auto keep = [&](auto isWanted) {
-        if (std::ranges::any_of(found.measured, isWanted))
-            std::erase_if(found.measured, [&](const Measured& each) { return !isWanted(each); });
-    };
-    const bool isFolder = question.senses.has(Sense::folder);
-    const bool isFile = question.subject() != nullptr && question.subject()->isAnyFile;
-    const auto wanted = isFolder ? Measured::Kind::folder : Measured::Kind::file;
-    if (isFolder != isFile)
-        keep([&](const Measured& each) { return each.kind == wanted; });
-    keep([](const Measured& each) { return each.isOwn; });
-}
-
-/// The path of something protected that the question means; empty if none.
-std::string protectedPath(const Question& question, const AskContext& context, const std::string& name)
-{
-    std::vector<std::string> paths{pathIn(name)};
-    if (paths.front().empty()) {
-        const std::string lower = plainLetters(name);
-        for (const KnownPlace& place : kKnownPlaces) {
-            if (isListed(place.words, lower))
-                std::ranges::move(Places::current().expand(place.pattern), std::back_inserter(paths));
-        }
-        if (lower.starts_with('.') && lower.find('/') == std::string::npos)
-            paths.push_back(PathText::join(Places::current().home, name));
-    }
-    if (const Subject* const subject = question.subject(); name.empty() && subject != nullptr)
-        paths.push_back(folderOf(*subject));
-    const auto found = std::ranges::find_if(paths, [&](const std::string& path) {
-        return !path.empty() && protectionOf(context, path) != Protection::none;
-    });
-    return found == paths.end() ? std::string() : *found;
-}
 
 Answer notFound(std::string_view name, const AskContext& context)
 {
@@ -175,30 +54,13 @@ bool isNoWord(std::string_view text)
            (std::ranges::any_of(text, isFigure) || std::any_of(text.begin() + 1, text.end(), isCapital));
 }
 
-/// "The Steam shader cache": which program it belongs to says as much as its name.
-void narrowToSteam(Found& found, const Question& question, const AskContext& context, std::string_view name)
-{
-    const auto isSteam = [](const Phrase& phrase) {
-        return phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
-               plainLetters(phrase.text) == "steam";
-    };
-    if (std::ranges::none_of(question.phrases, isSteam))
-        return;
-    std::vector<std::string> words = wordsOfName(lowered(name));
-    words.emplace_back("steam");
-    if (std::vector<Hit> hits = holdingAll(context, words); !hits.empty()) {
-        found = {};
-        found.fit = Fit::words;
-        found.hits = std::move(hits);
-    }
-}
-
 /// Whether a word of the question is neither understood nor part of the name: it asks for something else.
 bool hasOtherNames(const Question& question, const std::string& name, const std::string& place)
 {
     return std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
         return (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) &&
-               name.find(phrase.text) == std::string::npos && place.find(phrase.text) == std::string::npos;
+               name.find(phrase.text) == std::string::npos && place.find(phrase.text) == std::string::npos &&
+               !isWordForPart(phrase.text);
     });
 }
 
@@ -217,7 +79,8 @@ bool mayBePartOfName(const Question& question)
     constexpr SenseSet kOfFiles{Sense::howBig, Sense::howMuch, Sense::remove,    Sense::safe,
                                 Sense::keep,   Sense::can,     Sense::takes,     Sense::undo,
                                 Sense::folder, Sense::subject, Sense::untouched, Sense::happens};
-    return question.phrases.size() == 1 || question.senses.meets(kOfFiles) ||
+    return question.phrases.size() == 1 || question.senses.isWithin({Sense::unknown}) ||
+           question.senses.meets(kOfFiles) ||
            (question.phrases.size() == 2 && question.senses.has(Sense::what));
 }
 
@@ -244,6 +107,57 @@ bool isSureOf(const Found& found, const Question& question, const AskedName& ask
            std::ranges::any_of(found.measured, [](const Measured& each) { return each.isOwn; });
 }
 
+/// Written neither like a path nor like a file.
+bool isPlainName(std::string_view name)
+{
+    constexpr std::size_t kShortestEnding = 2;
+    return !name.starts_with('.') && name.find('/') == std::string_view::npos && name != "~" &&
+           PathText::extension(name).size() < kShortestEnding;
+}
+
+/// Whether the name is that of a program, and nothing of the person's own is called so.
+bool isOfProgram(const Found& found, const Question& question, const AskedName& asked)
+{
+    const auto isHidden = [](std::string_view path) {
+        return tilde(path).find("/.") != std::string::npos || path.find("/snap/") != std::string_view::npos;
+    };
+    return asked.place.empty() && isPlainName(asked.name) && question.first(Sense::folder) == nullptr &&
+           (found.fit < Fit::stem ||
+            (std::ranges::none_of(found.measured, [](const Measured& each) { return each.isOwn; }) &&
+             std::ranges::all_of(found.hits, [&](const Hit& hit) { return isHidden(hit.entry->path); })));
+}
+
+/// Whether it has, or had, folders in the home folder.
+bool isProgram(const AskContext& context, const ProgramName& program)
+{
+    return placesOf(context, {program.name, PlacePart::all}).fit != Fit::none;
+}
+
+/// "The Discord cache": the part of a program that the question names. Nothing if it names none.
+std::optional<Answer> aboutPart(const Question& question, const AskContext& context, const AskedName& asked)
+{
+    const ProgramName program = programIn(question, asked.name);
+    if (program.part == PlacePart::all || !asked.place.empty() || !isPlainName(asked.name))
+        return std::nullopt;
+    if (std::optional<Answer> answer = aboutPlaces(question, context, program))
+        return answer;
+    const Subject* const subject = question.subject();
+    const bool isListed = subject != nullptr && !subject->kinds.empty() &&
+                          findNamed(context, program.name, subject->kinds).fit >= Fit::part;
+    if (isListed || !isProgram(context, program) || program.part == PlacePart::saves)
+        return std::nullopt;
+    return noSuchPart(program);
+}
+
+/// What was found, hits or folders and files that no finding lists.
+Answer aboutFound(const Question& question, const AskContext& context, const Found& found,
+                  const std::string& name)
+{
+    const std::string shownName = PathText::forDisplay(name);
+    return found.hits.empty() ? measuredOnly(question, context, found, shownName)
+                              : listedHits(context, found, shownName);
+}
+
 /// What was found, after the word that something else of that name is protected.
 Answer shielded(std::string_view guarded, const AskContext& context, Answer answer)
 {
@@ -254,10 +168,15 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
     return all;
 }
 
-} // namespace
-
-std::optional<Answer> aboutName(const Question& question, const AskContext& context)
+std::optional<Answer> named(const Question& question, const AskContext& context)
 {
+    // What starts at login is no question about the folders of a program.
+    if (std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+            return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
+        }))
+        return std::nullopt;
+    if (std::optional<Answer> sum = sumOfNamed(question, context))
+        return sum;
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
     const std::string folder = placeOf(question, context, asked);
@@ -269,11 +188,21 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         return notFound(allNames(question), context);
     if (name.empty() || isOfOther || (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
+    if (asksBack(question)) {
+        if (std::optional<Answer> back = gettingBack(question, context, name))
+            return back;
+    }
+    if (std::optional<Answer> part = aboutPart(question, context, asked))
+        return part;
+    if (const Found ofKind = ofKindNamed(question, context, name); place.empty() && ofKind.fit != Fit::none)
+        return aboutFound(question, context, ofKind, name);
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
         found = findNamed(context, name);
+    if (Found machine = machineNamed(context, name); found.fit < Fit::words && machine.fit != Fit::none)
+        found = std::move(machine);
     if (!folder.empty()) {
         narrow(found, folder);
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
@@ -287,14 +216,19 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
         found.hits = holdingAll(context, wordsOfName(lowered(name)));
         found.fit = found.hits.empty() ? Fit::none : Fit::part;
     }
+    const std::string guarded = protectedPath(question, context, name);
+    if (guarded.empty() && !isNarrowed && isOfProgram(found, question, asked)) {
+        if (std::optional<Answer> places =
+                aboutPlaces(question, context, {programNameIn(name).name, PlacePart::all}))
+            return places;
+    }
     const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
     if (!isSure && !isNarrowed) {
         if (std::optional<Answer> app = aboutApp(context, name))
             return app;
     }
-    const std::string guarded = protectedPath(question, context, name);
     if (!guarded.empty() && (found.fit < Fit::whole || !isSure || isOfMail(question)))
-        return protectedPlace(guarded, protectionOf(context, guarded));
+        return measuredPlace(question, context, guarded);
     if (found.fit < Fit::stem && found.measured.empty() && !isFileName(question, name) &&
         !mayBePartOfName(question))
         return std::nullopt;
@@ -312,15 +246,58 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
                : std::nullopt;
 }
 
+} // namespace
+
+std::optional<Answer> aboutName(const Question& question, const AskContext& context)
+{
+    std::optional<Answer> answer = named(question, context);
+    if (!answer || !question.senses.has(Sense::what) || answer->paths.size() != 1)
+        return answer;
+    if (const Message what = whatItIs(answer->paths.front(), context); !what.empty())
+        answer->text = AskText::sentences({what, std::move(answer->text)});
+    return answer;
+}
+
+std::optional<Answer> aboutWordsOfName(const Question& question, const AskContext& context)
+{
+    constexpr std::size_t kFew = 3;
+    const Found found = holdingWordsOf(question, context);
+    const std::size_t count = found.hits.size() + found.measured.size();
+    return count == 0 || count > kFew
+               ? std::nullopt
+               : std::optional(aboutFound(question, context, found, nameIn(question).name));
+}
+
+std::optional<Answer> backByWords(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOfNames{Sense::subject, Sense::oldest, Sense::newest, Sense::unknown};
+    std::string name;
+    for (const Phrase& phrase : question.phrases) {
+        if (kOfNames.has(phrase.sense))
+            name += (name.empty() ? "" : " ") + phrase.text;
+    }
+    const Found found = findTrashed(context, name);
+    return found.hits.empty() && found.trashed.empty() ? std::nullopt : gettingBack(question, context, name);
+}
+
 std::optional<Answer> aboutSureName(const Question& question, const AskContext& context)
 {
+    constexpr SenseSet kOfName{Sense::unknown, Sense::quoted,  Sense::subject, Sense::general,
+                               Sense::folder,  Sense::cleanUp, Sense::advise,  Sense::space};
     const auto [name, place] = nameIn(question);
     // "The mozilla cache"
     const Subject* const subject = question.subject();
-    const bool isOfKind = subject != nullptr && !subject->kinds.empty() &&
-                          findNamed(context, name, subject->kinds).fit >= Fit::words;
+    const bool isOfKind =
+        (subject != nullptr && !subject->kinds.empty() &&
+         findNamed(context, name, subject->kinds).fit >= Fit::words) ||
+        ofKindNamed(question, context, name).fit != Fit::none ||
+        (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words);
+    const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
+                             question.senses.isWithin(kOfName) &&
+                             isProgram(context, programIn(question, name));
     if (name.empty() || hasOtherNames(question, name, place) ||
-        (!isOfKind && !isFileName(question, name) && protectedPath(question, context, name).empty()))
+        (!isOfKind && !isOfProgram && !isFileName(question, name) &&
+         protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);
 }

@@ -15,4 +15,11 @@ namespace orlen::AskReader {
 /// if other words stand beside it that are not understood.
 [[nodiscard]] std::optional<Answer> aboutSureName(const Question& question, const AskContext& context);
 
+/// The few files whose names hold all words of the question that could be part of one; nothing if none does.
+[[nodiscard]] std::optional<Answer> aboutWordsOfName(const Question& question, const AskContext& context);
+
+/// Where something can be got back from whose name holds what else the question speaks of: "my old movie".
+/// Nothing if there is none.
+[[nodiscard]] std::optional<Answer> backByWords(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

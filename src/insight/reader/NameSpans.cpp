@@ -2,6 +2,7 @@
 
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/ProgramNames.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -163,6 +164,8 @@ private:
         const std::string lower = lowered(run);
         if (m_names != nullptr && (count == 1 ? !m_names->named(lower).empty() : m_names->has(lower)))
             return true;
+        if (count > 1 && isNameOfProgram(run))
+            return true;
         return count > 1 && m_apps &&
                std::ranges::any_of(*m_apps, [&](const KnownApp& app) { return lowered(app.name) == lower; });
     }
@@ -178,7 +181,7 @@ private:
         const auto isCapital = [&](const Piece& piece) {
             return run[piece.start] >= 'A' && run[piece.start] <= 'Z';
         };
-        return hasOwnWord || std::all_of(pieces.begin() + 1, pieces.end(), isCapital);
+        return hasOwnWord || isNameOfProgram(run) || std::all_of(pieces.begin() + 1, pieces.end(), isCapital);
     }
 
     std::string_view m_text;

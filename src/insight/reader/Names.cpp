@@ -2,6 +2,7 @@
 
 #include "insight/reader/Lexicon.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NameFit.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -15,114 +16,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-/// Parts of words shorter than this stand in too many names.
-constexpr std::size_t kShortestPart = 4;
-constexpr std::size_t kShortestMistypedName = 6;
-
-/// The name that is looked for.
-class Wanted {
-public:
-    explicit Wanted(std::string_view name)
-        : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsOfName(m_name)),
-          m_mayBePart(std::ranges::all_of(
-              m_words, [](const std::string& word) { return word.size() >= kShortestPart; })),
-          m_mayBeMistyped(std::ranges::any_of(
-              m_words, [](const std::string& word) { return word.size() >= kShortestMistypedName; }))
-    {
-    }
-
-    /// The entries that may fit as well as `least` or better; nothing if all have to be looked at.
-    [[nodiscard]] std::optional<std::vector<NameIndex::Place>> places(const NameIndex& index, Fit least) const
-    {
-        if (!m_path.empty() || m_words.empty())
-            return std::nullopt;
-        if (least == Fit::mistyped)
-            return m_mayBeMistyped ? index.mistyped(m_name, m_words, kShortestMistypedName)
-                                   : std::vector<NameIndex::Place>();
-        if (least == Fit::part)
-            return m_mayBePart ? index.withParts(m_words) : std::vector<NameIndex::Place>();
-        return index.withWords(m_words);
-    }
-
-    /// `path` as the kernel gave it. A fit below `least` is not looked for.
-    [[nodiscard]] Fit fit(std::string_view path, Fit least)
-    {
-        if (!m_path.empty())
-            return path.size() == m_path.size() && lowered(path) == m_path ? Fit::whole : Fit::none;
-        lowerInto(m_lower, PathText::lastComponent(path));
-        const std::string_view name = m_lower;
-        if (name == m_name)
-            return Fit::whole;
-        if (name.starts_with(m_name) && PathText::stem(name) == m_name)
-            return Fit::stem;
-        if (m_words.empty() || least > Fit::words)
-            return Fit::none;
-        if (holdsWords(name))
-            return Fit::words;
-        if (least <= Fit::folder && isInFolderNamed(path))
-            return Fit::folder;
-        if (least <= Fit::part && m_mayBePart && holdsParts(name))
-            return Fit::part;
-        return least <= Fit::mistyped && m_mayBeMistyped && holdsMistyped(name) ? Fit::mistyped : Fit::none;
-    }
-
-private:
-    /// Whether the folders below the home folder say whose the path is.
-    [[nodiscard]] bool isInFolderNamed(std::string_view path)
-    {
-        if (PathText::isAtOrBelow(path, m_home))
-            path.remove_prefix(m_home.size());
-        // Most entries lie in the folder of the one before, and most folders hold none of the words.
-        const std::string_view folder = path.substr(0, path.size() - PathText::lastComponent(path).size());
-        if (folder != m_folder) {
-            m_folder = folder;
-            lowerInto(m_lowerFolders, folder);
-            m_folderHoldsAny = std::ranges::any_of(m_words, [&](const std::string& word) {
-                return m_lowerFolders.find(word) != std::string::npos;
-            });
-        }
-        if (!m_folderHoldsAny)
-            return false;
-        lowerInto(m_lowerPath, path);
-        return holdsWords(m_lowerPath);
-    }
-
-    [[nodiscard]] bool holdsWords(std::string_view text) const
-    {
-        return std::ranges::all_of(m_words, [&](const std::string& word) { return holdsWord(text, word); });
-    }
-
-    [[nodiscard]] bool holdsParts(std::string_view text) const
-    {
-        return std::ranges::all_of(m_words, [&](const std::string& word) {
-            return anyWord(text, [&](std::string_view each) { return each.starts_with(word); });
-        });
-    }
-
-    [[nodiscard]] bool holdsMistyped(std::string_view text) const
-    {
-        // The whole name counts as one word: its ending alone is too short to be forgiven an error.
-        return isOneLetterApart(m_name, text) || std::ranges::all_of(m_words, [&](const std::string& word) {
-                   return anyWord(text, [&](std::string_view each) {
-                       return each == word ||
-                              (word.size() >= kShortestMistypedName && isOneLetterApart(word, each));
-                   });
-               });
-    }
-
-    std::string m_name;
-    std::string m_path;
-    std::vector<std::string> m_words;
-    const std::string& m_home = Places::current().home;
-    std::string m_lower;
-    std::string m_folder; ///< the one looked at last
-    std::string m_lowerFolders;
-    bool m_folderHoldsAny = false;
-    std::string m_lowerPath;
-    bool m_mayBePart;
-    bool m_mayBeMistyped;
-};
 
 /// Keeps what fits best.
 class Best {
@@ -197,7 +90,10 @@ void lookInHome(const AskContext& context, std::string_view name, Best& best)
     const bool isWord = path.empty() && lower.find_first_of(". ") == std::string::npos;
     for (const HomeNames::Item& item : items) {
         std::string found = names->pathOf(item);
-        if (isWord && !names->isOwn(item) && std::ranges::count(found.substr(root.size()), '/') >= kDeep)
+        // Virtual machines lie in folders of programs, and are the person's own for all that.
+        const bool isMachine = PathText::lastComponent(PathText::parent(found)) == "images";
+        if (isWord && !names->isOwn(item) && !isMachine &&
+            std::ranges::count(found.substr(root.size()), '/') >= kDeep)
             continue;
         if (!best.take(found))
             continue;
@@ -302,6 +198,22 @@ Found findNamed(const AskContext& context, std::string_view name, const std::vec
             return found;
     }
     return bestFit(context, name, kinds, Fit::mistyped);
+}
+
+Found findTrashed(const AskContext& context, std::string_view name)
+{
+    Found found;
+    // Not by the folders around it: those are the same for all that the Trash holds.
+    for (const Fit least : {Fit::words, Fit::part, Fit::mistyped}) {
+        Best best(name, least);
+        lookInHistory(context.history, best);
+        if (found.trashed.empty() && best.found().fit != Fit::folder)
+            found.trashed = std::move(best.found().trashed);
+        Found inTrash = bestFit(context, name, {FindingKind::trash}, least);
+        if (found.hits.empty() && inTrash.fit != Fit::folder)
+            found.hits = std::move(inTrash.hits);
+    }
+    return found;
 }
 
 std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words)

@@ -47,6 +47,9 @@ struct Found {
 [[nodiscard]] Found findNamed(const AskContext& context, std::string_view name,
                               const std::vector<FindingKind>& kinds = {});
 
+/// What the Trash holds by this name as hits, and what earlier clean-ups moved to it.
+[[nodiscard]] Found findTrashed(const AskContext& context, std::string_view name);
+
 /// The entries whose path or note holds all the words, in lower case, as parts; each once, largest first.
 [[nodiscard]] std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words);
 

@@ -73,8 +73,9 @@ private:
         // What does "Review" mean?
         constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
         const Lexicon::Entry* const entry = m_lexicon.find(m_plain[m_at]);
-        if (entry != nullptr && kRatings.has(entry->sense)) {
-            take({entry->sense, {}, nullptr, 0, {}}, 1);
+        const std::optional<Sense> label = ratingCalled(m_plain[m_at]);
+        if (label || (entry != nullptr && kRatings.has(entry->sense))) {
+            take({label ? *label : entry->sense, {}, nullptr, 0, {}}, 1);
             return true;
         }
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);

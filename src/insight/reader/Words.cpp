@@ -84,6 +84,18 @@ std::vector<Word> knownParts(const Lexicon& lexicon, const Word& word)
 
 } // namespace
 
+namespace {
+
+/// In French, spaces stand inside of quotation marks.
+std::string_view withoutSpaces(std::string_view text)
+{
+    const std::size_t start = text.find_first_not_of(kSpaces);
+    return start == std::string_view::npos ? std::string_view()
+                                           : text.substr(start, text.find_last_not_of(kSpaces) - start + 1);
+}
+
+} // namespace
+
 std::vector<Word> wordsOf(std::string_view question)
 {
     const std::string plain = withPlainMarks(question);
@@ -97,7 +109,7 @@ std::vector<Word> wordsOf(std::string_view question)
         const bool isQuoted = close != std::string_view::npos && close > 1;
         const std::size_t end = isQuoted ? close + 1 : std::min(rest.find_first_of(kSpaces), rest.size());
         const std::string_view word =
-            isQuoted ? rest.substr(1, close - 1) : withoutPunctuation(rest.substr(0, end));
+            isQuoted ? withoutSpaces(rest.substr(1, close - 1)) : withoutPunctuation(rest.substr(0, end));
         const bool endsClause = kStops.find(rest[end - 1]) != std::string_view::npos;
         const bool isDash = !isQuoted && word.find_first_not_of("-_=+|") == std::string_view::npos;
         if (!word.empty() && !isDash)

@@ -4,6 +4,7 @@
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace orlen::AppNames {
 
@@ -19,6 +20,9 @@ constexpr std::string_view kStopNames[] = {
     "chromium", "google",  "mozilla", "microsoft", "kde",     "gnome",        "gtk",    "qt",
     "pulse",    "systemd", "fonts",   "icons",     "themes",  "applications", "trash",  "autostart",
     "dconf",    "git",     "nvim",    "vim",       "flatpak", "containers"};
+
+/// Last parts of identifiers that many applications have.
+constexpr std::string_view kPlainParts[] = {"client", "app", "desktop", "application", "gui"};
 
 bool isPart(std::string_view part)
 {
@@ -67,6 +71,18 @@ std::string_view lastPart(std::string_view identifier)
 {
     const std::size_t dot = identifier.rfind('.');
     return dot == std::string_view::npos ? identifier : identifier.substr(dot + 1);
+}
+
+std::string shownName(std::string_view identifier)
+{
+    const std::string_view last = lastPart(identifier);
+    if (std::ranges::find(kPlainParts, LanguageTools::lowerCase(last)) == std::end(kPlainParts) ||
+        last.size() == identifier.size())
+        return std::string(last);
+    std::string name(lastPart(identifier.substr(0, identifier.size() - last.size() - 1)));
+    if (!name.empty() && name.front() >= 'a' && name.front() <= 'z')
+        name.front() = static_cast<char>(name.front() - 'a' + 'A');
+    return name;
 }
 
 std::vector<std::string> forms(std::string_view name)

@@ -88,7 +88,7 @@ AppInfo described(const Installation& installation, const std::string& identifie
         app.icon = launcher->icon;
     }
     if (app.name.empty())
-        app.name = AppNames::lastPart(identifier);
+        app.name = AppNames::shownName(identifier);
     return app;
 }
 
@@ -118,7 +118,7 @@ std::vector<AppInfo> removed()
             continue;
         AppInfo app;
         app.path = path;
-        app.name = AppNames::lastPart(identifier);
+        app.name = AppNames::shownName(identifier);
         app.bundleID = identifier;
         app.source = AppSource::removedFlatpak;
         apps.push_back(std::move(app));

@@ -242,7 +242,7 @@ TEST(AppListTest, onlyTheDataOfARemovedFlatpakIsListed)
     std::vector<AppInfo> apps = AppList::list();
     std::erase_if(apps, [](const AppInfo& app) { return app.source == AppSource::flatpak; });
     ASSERT_THAT(paths(apps), ElementsAre(home.path(".var/app/org.gone.App")));
-    EXPECT_EQ(apps[0].name, "App");
+    EXPECT_EQ(apps[0].name, "Gone");
     EXPECT_EQ(apps[0].source, AppSource::removedFlatpak);
     const CleanPlan plan = Uninstall::plan(apps[0], {});
     ASSERT_EQ(plan.sections.size(), 1U);

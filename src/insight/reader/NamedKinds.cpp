@@ -1,0 +1,199 @@
+#include "insight/reader/NamedKinds.h"
+
+#include "insight/InsightTextsNames.h"
+#include "insight/reader/FoundReplies.h"
+#include "insight/reader/LowerName.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace orlen::AskReader {
+
+namespace {
+
+using Words = std::vector<std::string>;
+using IsOfKind = std::function<bool(std::string_view path)>;
+
+/// How words stand in a name: as words of it, or somewhere in it.
+enum class Standing { words, parts };
+
+bool holdsAll(std::string_view lower, const Words& words, Standing standing)
+{
+    constexpr std::size_t kShortestWithin = 4;
+    return std::ranges::all_of(words, [&](const std::string& word) {
+        return standing == Standing::words
+                   ? holdsWord(lower, word)
+                   : word.size() >= kShortestWithin && lower.find(word) != std::string_view::npos;
+    });
+}
+
+/// The listed entries, and the person's own files that no finding lists, with these words in their names.
+Found withWords(const AskContext& context, const Words& words, const IsOfKind& isOfKind,
+                Standing standing = Standing::words)
+{
+    Found found;
+    std::string lower;
+    const std::shared_ptr<const NameIndex> index = context.names->of(context.findings);
+    for (const auto& [finding, entry] :
+         standing == Standing::words ? index->withWords(words) : index->withParts(words)) {
+        const Finding& one = context.findings[finding];
+        const FileEntry& item = one.items[entry];
+        lowerInto(lower, PathText::lastComponent(item.path));
+        if (one.kind != FindingKind::trash && holdsAll(lower, words, standing) && isOfKind(item.path))
+            found.hits.push_back({&one, &item});
+    }
+    found.hits = eachOnce(std::move(found.hits));
+    const HomeFiles::Number count = context.home == nullptr ? 0 : context.home->fileCount();
+    for (HomeFiles::Number i = 0; i < count; ++i) {
+        const HomeFiles::File file = context.home->file(i);
+        if (!file.isOwn || !isOfKind(file.name))
+            continue;
+        lowerInto(lower, file.name);
+        if (!holdsAll(lower, words, standing))
+            continue;
+        Measured one{context.home->filePath(i), file.bytes, {}};
+        one.kind = Measured::Kind::file;
+        one.changed = file.changed;
+        one.isOwn = true;
+        if (std::ranges::none_of(found.hits, [&](const Hit& hit) { return hit.entry->path == one.path; }))
+            found.measured.push_back(std::move(one));
+    }
+    std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
+    std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
+    if (!found.hits.empty() || !found.measured.empty())
+        found.fit = Fit::words;
+    return found;
+}
+
+/// The phrases that are named together, apart from what stands behind an "and".
+std::vector<std::vector<Phrase>> groupsOf(const Question& question)
+{
+    constexpr SenseSet kNaming{Sense::unknown, Sense::quoted, Sense::subject, Sense::ending};
+    std::vector<std::vector<Phrase>> groups;
+    for (const Phrase& phrase : question.phrases) {
+        if (!kNaming.has(phrase.sense))
+            continue;
+        if (groups.empty() || phrase.isJoined)
+            groups.emplace_back();
+        groups.back().push_back(phrase);
+    }
+    return groups;
+}
+
+std::string namedBy(const std::vector<Phrase>& phrases)
+{
+    std::string name;
+    for (const Phrase& phrase : phrases) {
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
+            name += (name.empty() ? "" : " ") + phrase.text;
+    }
+    return name;
+}
+
+/// Adds the one that a group of phrases names; false if there is none or several.
+bool addNamed(Found& all, const Question& question, const AskContext& context,
+              const std::vector<Phrase>& phrases)
+{
+    const std::string name = namedBy(phrases);
+    if (name.empty())
+        return false;
+    Found found = ofKindNamed(withPhrases(question, phrases), context, name);
+    if (found.fit == Fit::none)
+        found = findNamed(context, name);
+    if (found.hits.size() + found.measured.size() != 1 || found.fit < Fit::words)
+        return false;
+    std::ranges::move(found.hits, std::back_inserter(all.hits));
+    std::ranges::move(found.measured, std::back_inserter(all.measured));
+    return true;
+}
+
+} // namespace
+
+Found ofKindNamed(const Question& question, const AskContext& context, const std::string& name)
+{
+    const Words words = wordsOfName(lowered(name));
+    const Phrase* const ending = question.first(Sense::ending);
+    const Subject* const subject = question.subject();
+    const bool isKind =
+        subject != nullptr && !subject->isAnyFile && !subject->extensions.empty() && subject->kinds.empty();
+    if (words.empty() || name.find('/') != std::string::npos || (ending == nullptr && !isKind) ||
+        PathText::extension(name).size() > 1)
+        return {};
+    const IsOfKind isOfKind = [&](std::string_view path) {
+        return ending != nullptr ? isNamed(path, ending->text) : hasExtensionOf(*subject, path);
+    };
+    Found found = withWords(context, words, isOfKind);
+    return found.fit == Fit::none ? withWords(context, words, isOfKind, Standing::parts) : found;
+}
+
+Found machineNamed(const AskContext& context, std::string_view name)
+{
+    constexpr std::string_view kWords[] = {"vm", "machine", "image", "maschine"};
+    constexpr std::string_view kDisks[] = {"vdi", "vmdk", "qcow2", "vhd", "vhdx", "img"};
+    Found found;
+    const Words words = wordsOfName(lowered(name));
+    if (words.size() < 2 || context.home == nullptr ||
+        std::ranges::find(kWords, words.back()) == std::end(kWords))
+        return found;
+    const std::string& first = words.front();
+    const HomeFiles& home = *context.home;
+    std::string each;
+    for (HomeFiles::Number i = 0; i < home.fileCount(); ++i) {
+        const HomeFiles::File file = home.file(i);
+        const bool isDisk = std::ranges::find(kDisks, PathText::extension(file.name)) != std::end(kDisks);
+        if (!isDisk && home.folderName(file.folder) != "images")
+            continue;
+        lowerInto(each, file.name);
+        if (!each.starts_with(first))
+            continue;
+        Measured one{home.filePath(i), file.bytes, {}};
+        one.kind = Measured::Kind::file;
+        one.changed = file.changed;
+        found.measured.push_back(std::move(one));
+        found.fit = Fit::whole;
+    }
+    return found;
+}
+
+Found holdingWordsOf(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOfNames{Sense::unknown, Sense::subject, Sense::oldest,
+                                Sense::newest,  Sense::general, Sense::disk};
+    constexpr std::size_t kTelling = 3;
+    Words words;
+    for (const Phrase& phrase : question.phrases) {
+        if (kOfNames.has(phrase.sense))
+            std::ranges::move(wordsOfName(lowered(phrase.text)), std::back_inserter(words));
+    }
+    const bool isTelling =
+        words.size() >= kTelling || (words.size() == 2 && question.senses.has(Sense::unknown));
+    return !isTelling ? Found() : withWords(context, words, [](std::string_view) { return true; });
+}
+
+std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context)
+{
+    if (!question.senses.meets({Sense::howMuch, Sense::howBig, Sense::remove, Sense::safe, Sense::keep}))
+        return std::nullopt;
+    const std::vector<std::vector<Phrase>> groups = groupsOf(question);
+    Found all;
+    if (groups.size() < 2 || !std::ranges::all_of(groups, [&](const std::vector<Phrase>& phrases) {
+            return addNamed(all, question, context, phrases);
+        }))
+        return std::nullopt;
+    std::int64_t bytes = 0;
+    for (const Hit& hit : all.hits)
+        bytes = checkedAdd(bytes, hit.entry->size);
+    for (const Measured& each : all.measured)
+        bytes = checkedAdd(bytes, each.bytes);
+    return listedBelow({InsightTexts::kTogether, {{"size", Bytes{bytes}}}}, context, all);
+}
+
+} // namespace orlen::AskReader

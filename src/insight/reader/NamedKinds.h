@@ -1,0 +1,29 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Names.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Finds files by words of their names and their kind, and several at once. Pure; any thread.
+namespace orlen::AskReader {
+
+/// The files of the kind that the question speaks of that have all words of the name in theirs: "the Zoom
+/// installer", "the ubuntu iso".
+[[nodiscard]] Found ofKindNamed(const Question& question, const AskContext& context, const std::string& name);
+
+/// The disks of virtual machines that begin with the name: "the Fedora VM".
+[[nodiscard]] Found machineNamed(const AskContext& context, std::string_view name);
+
+/// The files whose names hold every word of the question that could be one of a name, in whatever order: of
+/// "the backup from my old laptop", "old laptop backup.tar.gz".
+[[nodiscard]] Found holdingWordsOf(const Question& question, const AskContext& context);
+
+/// What several named files and folders take together; nothing unless the question asks for the size or
+/// the removal of at least two, and each is found.
+[[nodiscard]] std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

@@ -1,0 +1,123 @@
+#include "insight/reader/WhatItIs.h"
+
+#include "insight/InsightTextsNames.h"
+#include "insight/reader/GuardedPlaces.h"
+#include "insight/reader/LowerName.h"
+#include "insight/reader/Names.h"
+#include "platform/text/NamePattern.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+namespace orlen::AskReader {
+
+namespace {
+
+/// What has one of these names. All in lower case.
+struct Row {
+    std::string_view names; ///< separated by commas; may use "*"; with "/", the folder around it as well
+    Text thing;
+    std::string_view holding{}; ///< folders of which it has to hold one, separated by commas
+};
+
+// TRANSLATORS: all of these say in a few words what a file or folder is, behind its name and a colon.
+constexpr Row kFolders[] = {
+    {"node_modules", message("packages of a JavaScript project; its package manager installs them again")},
+    {".venv,venv,virtualenv", message("Python environment with the packages of a project")},
+    {"__pycache__", message("compiled Python files; Python makes them again")},
+    {"target", message("build output of a project; the next build makes it again"), "debug,release,classes"},
+    {".wine", message("Windows programs and their files, kept by Wine")},
+    {".ollama,.ollama/models", message("language models of Ollama")},
+    {".rustup,.rustup/toolchains", message("toolchains of Rust")},
+    {".cargo", message("programs and downloaded packages of Cargo, for Rust")},
+    {".conda/pkgs,miniconda3/pkgs,anaconda3/pkgs,miniforge3/pkgs",
+     message("packages that Conda has downloaded; “conda clean” tidies them")},
+    {".conda,miniconda3,anaconda3,miniforge3", message("environments and packages of Conda")},
+    {".m2,.m2/repository", message("packages that Maven has downloaded")},
+    {".gradle", message("downloads and caches of Gradle")},
+    {".npm", message("packages that npm has downloaded")},
+    {".cache/huggingface,.cache/huggingface/*,huggingface/hub",
+     message("models downloaded from Hugging Face")},
+    {"models--*", message("model downloaded from Hugging Face")},
+    {".cache", message("caches of programs")},
+    {".config", message("settings of programs")},
+    {".local,.local/share", message("data of programs")},
+    {".var,.var/app", message("data of Flatpak applications")},
+    {".mozilla", message("profiles of Firefox: bookmarks, history and passwords")},
+    {".thunderbird", message("mail and profiles of Thunderbird")},
+    {".ssh", message("keys for signing in to other computers")},
+    {".gnupg", message("keys for encrypting and signing")},
+    {".minecraft", message("Minecraft with its worlds")},
+    {".git", message("history of a project, kept by Git")},
+    {"*.avd", message("virtual Android device")},
+};
+
+constexpr Row kFiles[] = {
+    {"core,core.0*,core.1*,core.2*,core.3*,core.4*,core.5*,core.6*,core.7*,core.8*,core.9*",
+     message("memory dump of a crashed program, of use only to its developers")},
+    {"*.vdi,*.vmdk,*.qcow2,*.vhd,*.vhdx", message("disk of a virtual machine")},
+    {"*.iso,*.img", message("image of a disk, such as an installation medium")},
+    {"*.deb,*.rpm,*.flatpakref", message("package that installs a program")},
+    {"*.appimage", message("program in a single file")},
+    {"*.so,*.so.*,*.dll", message("library that programs load")},
+    {"*.kdbx", message("password database")},
+    {"*.part,*.crdownload", message("unfinished download")},
+    {"*.torrent", message("torrent file; what it downloads lies elsewhere")},
+    {"*.sqlite,*.sqlite3,*.db", message("database of a program")},
+    {"*.bak,*.old", message("earlier copy of a file")},
+    {".xsession-errors*,*.log", message("messages that programs have written")},
+    {"*.odt,*.docx,*.doc,*.rtf", message("text document")},
+    {"*.zip,*.7z,*.rar,*.tar,*.tar.*,*.tgz", message("archive of packed files")},
+};
+
+/// Whether one of the patterns is the name, with the folder around it where the pattern has one.
+bool isNamed(const Row& row, std::string_view name, std::string_view longer)
+{
+    std::string_view names = row.names;
+    while (!names.empty()) {
+        const std::size_t end = std::min(names.find(','), names.size());
+        const std::string_view pattern = names.substr(0, end);
+        const bool hasFolder = pattern.find('/') != std::string_view::npos;
+        if (NamePattern::matches(pattern, hasFolder ? longer : name))
+            return true;
+        names.remove_prefix(std::min(end + 1, names.size()));
+    }
+    return false;
+}
+
+/// Whether a folder holds what it must.
+bool holds(const AskContext& context, HomeFiles::Number folder, std::string_view names)
+{
+    const HomeFiles& home = *context.home;
+    const HomeFiles::Number last = home.foldersFrom(folder).last;
+    for (HomeFiles::Number each = folder + 1; each < last; each = home.foldersFrom(each).last) {
+        if (isListed(names, home.folderName(each)))
+            return true;
+    }
+    return names.empty();
+}
+
+} // namespace
+
+Message whatItIs(std::string_view path, const AskContext& context)
+{
+    if (context.home == nullptr)
+        return {};
+    const auto folder = context.home->folderAt(path);
+    const std::string name = lowered(PathText::lastComponent(path));
+    const std::string longer = lowered(PathText::lastComponent(PathText::parent(path))) + "/" + name;
+    const auto found = [&](const Row& row) {
+        return isNamed(row, name, longer) && (!folder || holds(context, *folder, row.holding));
+    };
+    const auto said = [&](const auto& rows) {
+        const auto* const row = std::ranges::find_if(rows, found);
+        return row == std::end(rows)
+                   ? Message()
+                   : Message{InsightTexts::kWhatItIs, {{"path", tilde(path)}, {"thing", within(row->thing)}}};
+    };
+    return folder ? said(kFolders) : said(kFiles);
+}
+
+} // namespace orlen::AskReader

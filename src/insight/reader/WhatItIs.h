@@ -1,0 +1,13 @@
+#pragma once
+
+#include "insight/AskContext.h"
+
+#include <string_view>
+
+namespace orlen::AskReader {
+
+/// What a well-known file or folder is, by its name: "~/win.vdi: disk of a virtual machine."; empty if its
+/// name does not tell. Pure; any thread.
+[[nodiscard]] Message whatItIs(std::string_view path, const AskContext& context);
+
+} // namespace orlen::AskReader
