@@ -124,7 +124,7 @@ const std::vector<Rule>& rules()
          {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
-        {{{soFar}}, {what, general, cleanUp}, allCleanUps},
+        {{{soFar}}, {what, general, cleanUp, howMany, howMuch}, allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         // The disk
         {{{why}, {free, space, used, full, disk}, {since}},
