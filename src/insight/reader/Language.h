@@ -68,6 +68,9 @@ struct Language {
     bool hasCompounds = false; ///< writes several words as one: "Downloadordner"
     /// Words of which one stands for a single thing: "file", where "files" would be several.
     std::string_view ones;
+    /// More words: of space, sizes, order, dates and places. A phrase that stands in `words`, too, belongs
+    /// there.
+    std::span<const WordRow> measures{};
 };
 
 [[nodiscard]] const Language& english();

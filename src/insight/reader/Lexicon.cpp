@@ -134,6 +134,8 @@ Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompound
 {
     for (const WordRow& row : language.words)
         add(row.words, {row.sense, nullptr});
+    for (const WordRow& row : language.measures)
+        add(row.words, {row.sense, nullptr});
     for (const SubjectRow& row : language.subjects)
         add(row.words, {Sense::subject, &subjectFor(row.subject)});
     for (const FigureRow& row : language.figures)

@@ -186,7 +186,7 @@ const std::vector<Rule>& rules()
          spaceNow},
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
-        {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
+        {{{disk, space}}, {general, total, what, disk, space, inside}, spaceNow},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
