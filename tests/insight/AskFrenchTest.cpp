@@ -70,6 +70,10 @@ constexpr Row kFrench[] = {
     {"assez de place jusqu'à la fin de l'année ?", "Probably not."},
     {"que veut dire gardé", "Keep:"},
     {"liste tous les nettoyages", "2 clean-ups", "could free"},
+    {"combien de nettoyages j'ai fait", "2 clean-ups|3 GB"},
+    {"combien de place j'ai recupéré en tout depuis le debut", "2 clean-ups"},
+    {"que veut dire à vérifier pour un fichier", "Review:", "lists"},
+    {"taille des fichiers en cache", "App caches: 4 GB"},
 };
 
 } // namespace

@@ -75,6 +75,11 @@ constexpr Row kGerman[] = {
     {"zeig sichere sachen über 1 gb", "Of files rated Safe over 1 GB", "wedding"},
     {"große videos", "Of videos the last scan lists 3|wedding.mp4"},
     {"liste alle aufräumaktionen", "2 clean-ups", "could free"},
+    {"wieviele bereinigungen hab ich gemacht", "2 clean-ups|3 GB"},
+    {"brauche 4 gb platz", "rated Safe is enough"},
+    {"was heißt prüfen bei einer datei", "Review:", "lists"},
+    {"was kannst du nicht", "not what Orlen is for"},
+    {"welche grossen dateien liegen am rechner", "Large files: 18 GB"},
 };
 
 } // namespace

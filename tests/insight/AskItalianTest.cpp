@@ -27,7 +27,7 @@ constexpr Row kItalian[] = {
     {"video più grandi di 3 GB", "Of videos over 3 GB the last scan lists 2"},
     {"video oltre i 3 giga", "Of videos over 3 GB the last scan lists 2"},
     {"pdf nella cartella download", "report-final.pdf"},
-    {"file che non apro dal 2023", "before 1 January 2023|wedding"},
+    {"file che non apro dal 2023", "before 1 January 2024|wedding"},
     {"video più vecchi di due anni", "last changed before 1 June 2024|cut.mov"},
     {"i file più vecchi", "wedding.mp4 (9 GB), changed 5 May 2019"},
     {"il download più recente", "report-final.pdf|24 December 2025"},
@@ -68,6 +68,11 @@ constexpr Row kItalian[] = {
     {"lo spazio basta fino a ferragosto", "Probably yes."},
     {"cosa posso togliere senza toccare le foto", "Left out: photos.|You could free"},
     {"elenca tutte le pulizie", "2 clean-ups", "could free"},
+    {"quante pulizie ho fatto", "2 clean-ups|3 GB"},
+    {"trovami 4 gb", "rated Safe is enough"},
+    {"cosa rientra nel sistema", "System"},
+    {"cosa posso togliere dal disco", "You could free about"},
+    {"file modificati dal 2 maggio 2026", "since 2 May 2026"},
 };
 
 } // namespace

@@ -68,6 +68,10 @@ constexpr Row kSpanish[] = {
     {"tendré sitio el mes que viene", "Probably yes."},
     {"qué puedo quitar sin tocar mis fotos", "Left out: photos.|You could free"},
     {"lista todas las limpiezas", "2 clean-ups", "could free"},
+    {"cuantas limpiezas he hecho", "2 clean-ups|3 GB"},
+    {"ocupo 4 gb libres", "rated Safe is enough"},
+    {"que quiere decir revisar en un archivo", "Review:", "incluye"},
+    {"que se abre cuando prendo la compu", "Nextcloud"},
 };
 
 } // namespace

@@ -44,8 +44,9 @@ enum class Figure : std::uint8_t {
     namedDay,  ///< the value is a `NamedDay`
     endOf,     ///< "end of", with the unit behind it: -1; else the value is a `TimeUnit`: "year-end"
     ofDate,    ///< may stand within a date: "3 de marzo de 2024"
+    fromDate,  ///< says "since" before a date, and else nothing: "dal 3 maggio"
 };
-inline constexpr std::size_t kFigures = 17;
+inline constexpr std::size_t kFigures = 18;
 
 constexpr double valueOf(NamedDay day)
 {
@@ -67,6 +68,9 @@ struct Language {
     bool hasCompounds = false; ///< writes several words as one: "Downloadordner"
     /// Words of which one stands for a single thing: "file", where "files" would be several.
     std::string_view ones;
+    /// More words: of space, sizes, order, dates and places. A phrase that stands in `words`, too, belongs
+    /// there.
+    std::span<const WordRow> measures{};
 };
 
 [[nodiscard]] const Language& english();

@@ -136,6 +136,8 @@ Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompound
 {
     for (const WordRow& row : language.words)
         add(row.words, {row.sense, nullptr});
+    for (const WordRow& row : language.measures)
+        add(row.words, {row.sense, nullptr});
     for (const SubjectRow& row : language.subjects)
         add(row.words, {Sense::subject, &subjectFor(row.subject)});
     for (const FigureRow& row : language.figures)
@@ -181,10 +183,15 @@ void Lexicon::add(std::string_view phrases, Entry entry)
 {
     eachPhrase(phrases, [&](std::string_view phrase) {
         const std::string plain = plainLetters(phrase);
-        m_phrases.try_emplace(plain, entry);
+        const bool hasAccents = phrase != plain;
+        const auto [known, isNew] = m_phrases.try_emplace(plain, Listed{entry, hasAccents});
+        if (hasAccents)
+            m_accented.try_emplace(std::string(phrase), entry);
+        else if (!isNew && known->second.hasAccents)
+            known->second = {entry, false};
         addWords(plain);
         if (const std::string typed = withoutUmlauts(phrase); m_hasCompounds && !typed.empty())
-            m_phrases.try_emplace(plainLetters(typed), entry);
+            m_phrases.try_emplace(plainLetters(typed), Listed{entry, true});
     });
 }
 
@@ -203,17 +210,24 @@ void Lexicon::add(const FigureRow& row)
 const Lexicon::Entry* Lexicon::find(const std::string& phrase) const
 {
     const auto found = m_phrases.find(phrase);
-    return found == m_phrases.end() ? nullptr : &found->second;
+    return found == m_phrases.end() ? nullptr : &found->second.entry;
+}
+
+const Lexicon::Entry* Lexicon::findAccented(const std::string& word) const
+{
+    const auto found = m_accented.find(word);
+    return found == m_accented.end() ? nullptr : &found->second;
 }
 
 const Lexicon::Entry* Lexicon::onlyOneLike(std::string_view word,
                                            bool isLike(std::string_view, std::string_view)) const
 {
     const Entry* only = nullptr;
-    for (const auto& [known, entry] : m_phrases) {
+    for (const auto& [known, listed] : m_phrases) {
+        const Entry& entry = listed.entry;
         if (known.size() < kShortestMeant || !isLike(word, known))
             continue;
-        if (only != nullptr && (only->sense != entry.sense || only->subject != entry.subject))
+        if (only != nullptr && *only != entry)
             return nullptr;
         only = &entry;
     }

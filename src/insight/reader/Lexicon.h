@@ -28,6 +28,8 @@ public:
     struct Entry {
         Sense sense = Sense::unknown;
         const Subject* subject = nullptr; ///< for `Sense::subject`
+
+        bool operator==(const Entry&) const = default;
     };
 
     /// Words in the longest phrase.
@@ -40,6 +42,10 @@ public:
 
     /// The meaning of a phrase, words separated by one space; null if unknown.
     [[nodiscard]] const Entry* find(const std::string& phrase) const;
+
+    /// The meaning of a word with accents, in lower case, written as a table has it: "cachés", which are no
+    /// "caches"; null for all others.
+    [[nodiscard]] const Entry* findAccented(const std::string& word) const;
 
     /// The meaning of the known word that one typing error separates from this one, or two in a long word.
     /// Only for words of five letters or more; null if there is none, or if several mean different things.
@@ -61,7 +67,13 @@ private:
     [[nodiscard]] const Entry* onlyOneLike(std::string_view word,
                                            bool isLike(std::string_view, std::string_view)) const;
 
-    std::unordered_map<std::string, Entry> m_phrases;
+    struct Listed {
+        Entry entry;
+        bool hasAccents = false; ///< in the tables: a word that is listed without them goes before it
+    };
+
+    std::unordered_map<std::string, Listed> m_phrases;
+    std::unordered_map<std::string, Entry> m_accented;
     std::array<std::unordered_map<std::string, double>, kFigures> m_figures;
     std::unordered_set<std::string> m_words;
     std::unordered_set<std::string> m_elided;

@@ -26,8 +26,8 @@ public:
     Question question()
     {
         while (m_at < m_words.size()) {
-            if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSize() && !takeKnown(2) &&
-                !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
+            if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSince() && !takeSize() &&
+                !takeKnown(2) && !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
                 takeUnknown();
         }
         return std::move(m_question);
@@ -118,6 +118,16 @@ private:
         return period.has_value();
     }
 
+    /// "Dal 3 maggio"; of "dal disco", the word says nothing.
+    bool takeSince()
+    {
+        const bool isOfDate = m_lexicon.figure(Figure::fromDate, m_plain[m_at]).has_value() &&
+                              periodAt(rest().subspan(1), m_lexicon, m_now, false);
+        if (isOfDate)
+            take({Sense::since, {}, nullptr, 0, {}}, 1);
+        return isOfDate;
+    }
+
     bool takeSize()
     {
         const auto size = sizeAt(rest(), m_lexicon);
@@ -159,12 +169,20 @@ private:
             std::string phrase = m_plain[m_at];
             for (const std::string& word : rest().subspan(1, count - 1))
                 phrase += " " + word;
-            if (const Lexicon::Entry* const entry = m_lexicon.find(phrase)) {
+            const Lexicon::Entry* const accented = count == 1 ? accentedEntry() : nullptr;
+            if (const Lexicon::Entry* const entry = accented != nullptr ? accented : m_lexicon.find(phrase)) {
                 take({entry->sense, {}, entry->subject, 0, {}}, count);
                 return true;
             }
         }
         return false;
+    }
+
+    [[nodiscard]] const Lexicon::Entry* accentedEntry() const
+    {
+        const Word& word = m_words[m_at];
+        return word.typed == word.plain ? nullptr
+                                        : m_lexicon.findAccented(LanguageTools::lowerCase(word.typed));
     }
 
     /// Adverbs of manner never decide anything.

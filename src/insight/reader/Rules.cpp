@@ -127,7 +127,7 @@ const std::vector<Rule>& rules()
          {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
-        {{{soFar}}, {what, general, cleanUp}, allCleanUps},
+        {{{soFar}}, {what, general, cleanUp, howMany, howMuch}, allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         {{{unknown, general}, {subject, oldest, newest, disk}},
          {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
@@ -192,7 +192,7 @@ const std::vector<Rule>& rules()
          spaceNow},
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
-        {{{disk, space}}, {general, total, what, disk, space}, spaceNow},
+        {{{disk, space}}, {general, total, what, disk, space, inside}, spaceNow},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
