@@ -150,12 +150,21 @@ std::optional<Turn> answered(const std::vector<Question>& parts, const AskContex
 
 std::optional<Turn> answered(const Question& question, const AskContext& context, const Conversation& before)
 {
-    const std::vector<Question> parts = partsOf(question);
-    if (parts.size() > 1 && parts.size() <= kMostParts) {
+    std::vector<Question> parts = partsOf(question);
+    const bool areSeveral = parts.size() > 1;
+    // "I need room for 12 GB, what do you suggest" asks once.
+    constexpr SenseSet kSuggesting{what, can, advise, general};
+    if (areSeveral && parts.back().senses.has(advise) && parts.back().senses.isWithin(kSuggesting) &&
+        parts.front().senses.meets({makeRoom, cleanUp, remove}))
+        parts.pop_back();
+    if (areSeveral && parts.size() <= kMostParts) {
         if (std::optional<Turn> found = answered(parts, context, before))
             return found;
     }
-    return answered(std::vector{question}, context, before);
+    if (std::optional<Turn> found = answered(std::vector{question}, context, before))
+        return found;
+    const std::optional<Question> bare = undressed(question);
+    return bare ? answered(std::vector{*bare}, context, before) : std::nullopt;
 }
 
 /// The matcher understands single English words: what is longer or says something else is not for it.

@@ -266,10 +266,24 @@ bool takeRating(const Question& question, ListRequest& request)
     return request.rating || !question.senses.meets({Sense::mean, Sense::review});
 }
 
+constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise};
+
+/// What the scan recognised, and what is named like it anywhere in the home folder.
+void takeRecognised(ListRequest& request, const AskContext& context)
+{
+    request.recognised = request.subject;
+    for (const Finding& finding : context.findings) {
+        if (std::ranges::find(request.recognised->kinds, finding.kind) == request.recognised->kinds.end())
+            continue;
+        for (const FileEntry& entry : finding.items)
+            request.listed.insert(entry.path);
+    }
+    request.subject = &subjectFor(SubjectID::photos);
+}
+
 /// What may go only the scan can tell.
 bool isOfScan(const Question& question, const ListRequest& request)
 {
-    constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise};
     const bool isOfKind =
         request.subject != nullptr && !request.subject->isAnyFile && request.subject->extensions.empty();
     return question.senses.meets(kChoosing) || isOfKind || request.listedAs != nullptr || request.rating ||
@@ -303,11 +317,10 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         request.ending = PathText::asciiLower(ending->text);
         narrow(request, InsightTexts::kFilesEnding, {{"ending", "." + request.ending}});
     }
-    if (request.subject != nullptr && request.subject->id == SubjectID::screenshots &&
-        request.listedAs == nullptr && context.home != nullptr) {
-        request.areScreenshots = true;
-        request.subject = &subjectFor(SubjectID::photos);
-    }
+    if (request.subject != nullptr && isRecognised(*request.subject) && request.listedAs == nullptr &&
+        context.home != nullptr && !question.senses.meets(kChoosing) && !request.rating &&
+        !request.exclusions.needsFindings())
+        takeRecognised(request, context);
     request.isOfScan = isOfScan(question, request);
     request.isOwnOnly = isOfOwnFiles(request);
     if (const Phrase* const number = question.first(Sense::number))
@@ -317,6 +330,12 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (!request.folder.empty())
         narrow(request, InsightTexts::kFilesIn, {{"folder", tilde(request.folder)}});
     return request;
+}
+
+bool isRecognised(const Subject& subject)
+{
+    using enum SubjectID;
+    return subject.id == screenshots || subject.id == receipts || subject.id == memes || subject.id == blurry;
 }
 
 bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const

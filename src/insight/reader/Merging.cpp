@@ -132,6 +132,54 @@ void mergeExclusions(Phrases& phrases)
     }
 }
 
+/// "Leave the browser cache alone": left out, as with "except".
+void mergeLeftAlone(Phrases& phrases)
+{
+    constexpr SenseSet kNameable{Sense::subject, Sense::ending, Sense::unknown, Sense::quoted};
+    const auto alone = std::ranges::find(phrases, Sense::inPeace, &Phrase::sense);
+    if (alone == phrases.end())
+        return;
+    auto first = alone;
+    while (first != phrases.begin() && kNameable.has(std::prev(first)->sense))
+        --first;
+    if (first != alone && first != phrases.begin())
+        std::prev(first)->sense = Sense::except;
+    drop(phrases, Sense::inPeace);
+}
+
+/// "How much have I freed": so far, if the question doesn't say when.
+void mergeFreed(Phrases& phrases)
+{
+    using enum Sense;
+    const auto freedAt = std::ranges::find(phrases, freed, &Phrase::sense);
+    if (freedAt == phrases.end())
+        return;
+    freedAt->sense = cleanUp;
+    const bool isMuch = has(phrases, howMuch) || has(phrases, howMany) || has(phrases, howBig);
+    const bool isDated = has(phrases, last) || has(phrases, period) || has(phrases, soFar);
+    if (isMuch && !isDated)
+        phrases.push_back({soFar, {}, nullptr, 0, {}});
+}
+
+/// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
+void dropComing(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfThings{remove, howBig, howMuch, howMany, above, below, biggest};
+    const bool isOfRoom = has(phrases, makeRoom) || has(phrases, space) || has(phrases, free);
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    if (!isOfRoom || wanted == phrases.end() ||
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
+        return;
+    const auto isComing = [](const Phrase& each) {
+        return (each.sense == unknown || (each.subject != nullptr && each.subject->isProgram)) &&
+               !each.isJoined;
+    };
+    const auto from = std::next(wanted);
+    const auto to = std::find_if_not(from, phrases.end(), isComing);
+    phrases.erase(from, to);
+}
+
 bool isPhotos(const Subject& subject)
 {
     return subject.id == SubjectID::photos;
@@ -255,10 +303,13 @@ Question merged(const Question& question)
     if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
         drop(phrases, Sense::self);
     dropAside(phrases);
+    mergeLeftAlone(phrases);
+    mergeFreed(phrases);
     mergeGain(phrases);
     mergeToday(phrases);
     mergeRange(phrases);
     mergeMaking(phrases);
+    dropComing(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

@@ -9,7 +9,9 @@
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
+#include "insight/reader/StartupReplies.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/WhatIfReplies.h"
 
 #include <utility>
 #include <vector>
@@ -72,7 +74,19 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
 const std::vector<Rule>& rules()
 {
     static const std::vector<Rule> inOrder{
+        // What would be
+        {{{howMuch, howBig},
+          {remove, makeRoom, except},
+          {subject, unknown, quoted, ending, safe, review, except}},
+         kSpaceWords.with({can,      general, inside,  folder, size,    above,  below,  before,
+                           after,    keep,    period,  what,   mean,    lasts,  undo,   safe,
+                           unopened, review,  cleanUp, ending, unknown, quoted, subject}),
+         freedByThem},
         // Orlen itself
+        {{{rhythm}}, kAsking.with({cleanUp, remove, makeRoom, disk, space, subject, advise}), howOften},
+        {{{rights}}, kAsking.with({negation, remove, privacy, why, cleanUp, subject, self}), whichRights},
+        {{{vacant}}, SenseSet::all(), emptyFolders},
+        {{{what}, {can}, {negation}}, {general}, whatIsNotItsJob},
         {{{self}}, {what, can, general}, whatOrlenAnswers},
         {{{beyond}},
          {what,  can,  general, disk,   why,  privacy, safe, howMuch, howBig,   general, subject,
@@ -124,7 +138,7 @@ const std::vector<Rule>& rules()
          {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
-        {{{soFar}}, {what, general, cleanUp}, allCleanUps},
+        {{{soFar}}, kAsking.with({cleanUp, total, space}), allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         // The disk
         {{{why}, {free, space, used, full, disk}, {since}},
@@ -158,6 +172,7 @@ const std::vector<Rule>& rules()
         {{{lasts}, {when, period}},
          kSpaceWords.with({size, what, can, before, general, inside, full, last, howMuch, negation}),
          fullWhen},
+        {{{size}, {before}, {period}}, kSpaceWords.with({can, lasts, full, what, general}), roomLater},
         {{{last}, {disk, space}, {period}}, {before, can, general, what, inside}, roomLater},
         {{{space, disk, free, used}, {period}},
          kSpaceWords.with({what, can, before, general, inside, howMuch, howBig, lasts, negation, full}),

@@ -2,17 +2,21 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsWhatIf.h"
 #include "insight/reader/Exclusions.h"
 #include "insight/reader/FindingParts.h"
 #include "insight/reader/ListReplies.h"
+#include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
+#include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <span>
 #include <utility>
 
 namespace orlen::AskReader {
@@ -79,17 +83,6 @@ bool isPackageCache(FindingKind kind)
     return kind == npm || kind == pip || kind == gradle || kind == homebrew;
 }
 
-std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
-{
-    std::vector<const Finding*> findings;
-    for (const Finding& finding : context.findings) {
-        const bool isPackages = subject.id == SubjectID::caches && isPackageCache(finding.kind);
-        if (isPackages || std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
-            findings.push_back(&finding);
-    }
-    return findings;
-}
-
 void addFindings(Lines& lines, const Subject& subject, const AskContext& context)
 {
     for (const Finding* const finding : findingsOf(subject, context)) {
@@ -121,10 +114,10 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
 }
 
-/// Those that have such a name, whether or not the scan lists them; nothing of other kinds.
-std::optional<Answer> screenshotsByName(const Subject& subject, const AskContext& context)
+/// Those that the scan recognised and those that have such a name; nothing of other kinds.
+std::optional<Answer> recognisedFiles(const Subject& subject, const AskContext& context)
 {
-    if (subject.id != SubjectID::screenshots || context.home == nullptr)
+    if (!isRecognised(subject) || context.home == nullptr)
         return std::nullopt;
     Question files;
     files.phrases.push_back({Sense::subject, {}, &subject});
@@ -134,11 +127,69 @@ std::optional<Answer> screenshotsByName(const Subject& subject, const AskContext
 /// For kinds of which the scan has found nothing.
 Answer nothingFound(const Subject& subject, const AskContext& context)
 {
-    if (auto answer = screenshotsByName(subject, context))
+    if (auto answer = recognisedFiles(subject, context))
         return *std::move(answer);
     if (context.findings.empty())
         return {InsightTexts::kNoScan, {}};
     return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
+}
+
+std::vector<Hit> hitsOf(const Finding& finding)
+{
+    std::vector<Hit> hits;
+    hits.reserve(finding.items.size());
+    for (const FileEntry& entry : finding.items)
+        hits.push_back({&finding, &entry});
+    return hits;
+}
+
+/// The first of them, with what there is to know about each.
+void addItems(Lines& lines, const std::vector<Hit>& hits)
+{
+    constexpr std::size_t kShown = 5;
+    for (const Hit& hit : std::span(hits).first(std::min(hits.size(), kShown))) {
+        const Rating rating = hit.finding->effectiveRating(*hit.entry);
+        std::vector<Place> places{{"path", tilde(hit.entry->path)},
+                                  {"size", Bytes{hit.entry->size}},
+                                  {"title", within(hit.finding->title)}};
+        const Message note = noteOf(*hit.entry);
+        if (!note.empty())
+            places.push_back({"note", within(note)});
+        lines.texts.push_back(
+            {(note.empty() ? InsightTexts::kFitting : InsightTexts::kFittingWithNote).of(rating),
+             std::move(places)});
+    }
+    if (hits.size() > kShown)
+        lines.texts.push_back(
+            {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(hits.size() - kShown)}}});
+}
+
+/// Photos that look alike, and exact copies of photos.
+Answer similarPhotos(const Subject& subject, const AskContext& context)
+{
+    Lines lines;
+    addFindings(lines, subject, context);
+    if (lines.texts.empty())
+        lines.texts.push_back({InsightTexts::kNoneFound, {{"files", within(subject.name)}}});
+    for (const Finding* const finding : findingsOf(subject, context))
+        addItems(lines, hitsOf(*finding));
+    const Place copies{"files", within(InsightTexts::kPhotoCopies)};
+    std::vector<Hit> hits;
+    for (const Finding* const finding : findingsOf(subjectFor(SubjectID::duplicates), context)) {
+        hits = hitsOf(*finding);
+        std::erase_if(hits, [](const Hit& hit) {
+            return !hasExtensionOf(subjectFor(SubjectID::photos), hit.entry->path);
+        });
+        if (!hits.empty())
+            lines.ids.emplace_back(finding->id());
+    }
+    if (hits.empty())
+        lines.texts.push_back({InsightTexts::kNoneFound, {copies}});
+    else
+        lines.texts.push_back({InsightTexts::kFilesListed,
+                               {copies, {"count", std::ssize(hits)}, {"size", Bytes{bytesOf(hits)}}}});
+    addItems(lines, hits);
+    return *lines.answer();
 }
 
 /// What the question is about: not "files" if it says more. Null if it is about one kind within a folder.
@@ -188,6 +239,17 @@ bool isOnlyKinds(const Subject& subject)
 
 } // namespace
 
+std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
+{
+    std::vector<const Finding*> findings;
+    for (const Finding& finding : context.findings) {
+        const bool isPackages = subject.id == SubjectID::caches && isPackageCache(finding.kind);
+        if (isPackages || std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
+            findings.push_back(&finding);
+    }
+    return findings;
+}
+
 std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
 {
     if (const auto number = context.home == nullptr ? std::nullopt : context.home->folderAt(folder))
@@ -212,6 +274,10 @@ std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& 
     if (main == nullptr)
         return std::nullopt;
     const Subject& subject = *main;
+    if (auto answer = recognisedFiles(subject, context))
+        return answer;
+    if (subject.id == SubjectID::similarPhotos && !context.findings.empty())
+        return similarPhotos(subject, context);
     Lines lines;
     addFolder(lines, subject, context);
     if (subject.category)
@@ -230,7 +296,15 @@ std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& 
         return std::nullopt;
     Lines lines;
     lines.texts.emplace_back(meta(subject.kinds.front()).explanation);
+    if (auto files = recognisedFiles(subject, context)) {
+        files->text = AskText::lines({lines.texts.front(), files->text});
+        return files;
+    }
+    if (subject.id == SubjectID::similarPhotos && !context.findings.empty())
+        return similarPhotos(subject, context);
     addFindings(lines, subject, context);
+    for (const Finding* const finding : findingsOf(subject, context))
+        addItems(lines, hitsOf(*finding));
     return lines.ids.empty() ? std::nullopt : lines.answer();
 }
 
@@ -319,6 +393,7 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
     }
     if (answer.findingIDs.size() < 2)
         lines.pop_back();
+    lines.push_back(freeWithout(bytesOf(hits), context));
     answer.text = AskText::lines(std::move(lines));
     for (const Rating rating : {Rating::safe, Rating::review}) {
         std::vector<Hit> chosen = choosable(context, rating, *exclusions);

@@ -6,10 +6,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// Answers about a kind of finding, a category or a folder. Each gives nothing when it is not sure of the
 /// question. Pure; any thread.
 namespace orlen::AskReader {
+
+/// The findings of a subject.
+[[nodiscard]] std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context);
 
 /// Bytes of a folder with everything in it; nothing if nobody knows.
 [[nodiscard]] std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder);

@@ -61,6 +61,10 @@ enum class SubjectID : std::uint8_t {
     games,
     leftovers,
     systemAdvice,
+    virtualMachines,
+    wine,
+    buildOutput,
+    environments,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often
