@@ -70,7 +70,7 @@ constexpr Row kSpace[] = {
     {"why do i have only 120 gb left", "By category"},
     {"how much can I free", "You could free about", "is free of"},
     {"make 10 gb of room", "Everything rated Safe", "Yes."},
-    {"I need space for a 20GB game, what should go?", "For the rest of 20 GB|You could free"},
+    {"I need space for a 20GB game, what should go?", "For the rest of 20 GB", "You could free"},
     {"why is there so little room left", "By category"},
     {"I need to make room for 500 MB", "rated Safe is enough|App caches"},
 };
@@ -221,6 +221,9 @@ constexpr Row kAbout[] = {
     {"stop zoom at login", "“zoom” is not among what starts", "Nextcloud"},
     {"how much did orlen free in total", "2 clean-ups|3 GB", "is free of"},
     {"how much have i freed with this program", "2 clean-ups|3 GB", "application"},
+    {"what did you delete", "20 May 2026|gone.zip", "could free"},
+    {"have you ever deleted one of my files", "2 clean-ups", "slack"},
+    {"when was my last cleanup and how much did it free", "20 May 2026", "could free"},
     {"how often should I clean up", "no fixed rhythm|last clean-up", "could free"},
     {"does this thing need root / sudo", "never needs administrator rights"},
     {"what is \"System\" in the storage breakdown, it is huge", "System takes 21 GB|no other category"},

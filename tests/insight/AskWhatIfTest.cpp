@@ -34,6 +34,9 @@ protected:
             {copy, entry("Music/a (1).flac", 40 * kBytesInMB)});
         add(FindingKind::oldDownloads, Rating::safe, message("Lying around."),
             {entry("Downloads/mint.iso", 14 * kBytesInMB)});
+        file("Downloads/linuxmint-22.img", 5);
+        add(FindingKind::largeFiles, Rating::review, message("Large."),
+            {entry("Downloads/linuxmint-22.img", 5 * kBytesInMB)});
         context.home = HomeWalk::walk({});
     }
 
@@ -50,6 +53,9 @@ constexpr Row kWhatIf[] = {
     {"how much free space would I have after removing ubuntu.iso and the lake house video",
      "17 MB more (2 items)|ubuntu.iso|Lake house.mkv", "mint"},
     {"how much free space would i have without mint.iso", "14 MB more (1 item)", "ubuntu"},
+    {"what would happen to my free space if i removed ubuntu.iso", "6 MB more (1 item)", "mint"},
+    {"how much space without videos and isos", "31 MB more (3 items)"},
+    {"how much space would I have after removing the linux mint image", "5 MB more (1 item)"},
     {"if I deleted everything rated Safe how much free space would I have afterwards",
      "everything rated Safe|14 MB more (1 item)|mint.iso", "ubuntu"},
     {"how much do i gain if i remove all build artifacts and venvs",

@@ -153,9 +153,10 @@ std::optional<Turn> answered(const Question& question, const AskContext& context
     std::vector<Question> parts = partsOf(question);
     const bool areSeveral = parts.size() > 1;
     // "I need room for 12 GB, what do you suggest" asks once.
-    constexpr SenseSet kSuggesting{what, can, advise, general};
-    if (areSeveral && parts.back().senses.has(advise) && parts.back().senses.isWithin(kSuggesting) &&
-        parts.front().senses.meets({makeRoom, cleanUp, remove}))
+    constexpr SenseSet kSuggesting{what, can, advise, general, remove, makeRoom};
+    if (areSeveral && parts.back().senses.isWithin(kSuggesting) &&
+        parts.front().senses.meets({makeRoom, remove}) &&
+        (parts.back().senses.has(advise) || parts.front().senses.has(size)))
         parts.pop_back();
     if (areSeveral && parts.size() <= kMostParts) {
         if (std::optional<Turn> found = answered(parts, context, before))
@@ -265,8 +266,8 @@ bool needsHome(std::string_view text, const AskContext& context)
     KnownNames names(context);
     const Question question = bestReading(withNames(text, context), context.now,
                                           [&](std::string_view word) { return names(word); }, {});
-    constexpr SenseSet kOfFiles{unknown, quoted, folder, hidden,   ending, biggest,  most,
-                                oldest,  newest, period, smallest, takes,  unopened, subject};
+    constexpr SenseSet kOfFiles{unknown, quoted, folder,   hidden, ending,   biggest, most,  oldest,
+                                newest,  period, smallest, takes,  unopened, subject, except};
     return question.senses.meets(kOfFiles);
 }
 

@@ -147,7 +147,7 @@ void mergeLeftAlone(Phrases& phrases)
     drop(phrases, Sense::inPeace);
 }
 
-/// "How much have I freed": so far, if the question doesn't say when.
+/// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
 void mergeFreed(Phrases& phrases)
 {
     using enum Sense;
@@ -155,10 +155,11 @@ void mergeFreed(Phrases& phrases)
     if (freedAt == phrases.end())
         return;
     freedAt->sense = cleanUp;
-    const bool isMuch = has(phrases, howMuch) || has(phrases, howMany) || has(phrases, howBig);
-    const bool isDated = has(phrases, last) || has(phrases, period) || has(phrases, soFar);
-    if (isMuch && !isDated)
-        phrases.push_back({soFar, {}, nullptr, 0, {}});
+    if (has(phrases, last) || has(phrases, when) || has(phrases, soFar) || has(phrases, unknown) ||
+        has(phrases, quoted))
+        return;
+    const bool isOfLast = has(phrases, what) && !has(phrases, period) && !has(phrases, total);
+    phrases.push_back({isOfLast ? last : soFar, {}, nullptr, 0, {}});
 }
 
 /// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
@@ -300,7 +301,8 @@ void mergeNeighbours(Phrases& phrases)
 Question merged(const Question& question)
 {
     Phrases phrases = question.phrases;
-    if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
+    constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
+    if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
     dropAside(phrases);
     mergeLeftAlone(phrases);

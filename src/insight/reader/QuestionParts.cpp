@@ -42,6 +42,11 @@ bool isNamedFile(const Phrase& phrase)
 
 std::vector<Question> partsOf(const Question& question)
 {
+    // "When was my last clean-up and how much did it free" is about one thing.
+    constexpr SenseSet kOfCleanUp{last,   cleanUp, when,    howMuch, howMany,
+                                  howBig, what,    general, space,   remove};
+    if (question.senses.has(last) && question.senses.has(cleanUp) && question.senses.isWithin(kOfCleanUp))
+        return {question};
     std::vector<Question> parts;
     std::size_t from = 0;
     for (std::size_t i = 1; i < question.phrases.size(); ++i) {

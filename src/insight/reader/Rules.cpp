@@ -82,6 +82,13 @@ const std::vector<Rule>& rules()
                            after,    keep,    period,  what,   mean,    lasts,  undo,   safe,
                            unopened, review,  cleanUp, ending, unknown, quoted, subject}),
          freedByThem},
+        {{{howMuch, howBig}, {happens}, {space, free}, {subject, unknown, quoted, ending, safe}},
+         kSpaceWords.with({general, lasts, ending, quoted, subject}),
+         freedByThem},
+        {{{free}, {space}, {except}}, {general, total}, freedByThem},
+        {{{free, space}, {remove, makeRoom}, {subject, unknown, quoted, ending, safe}},
+         kSpaceWords.with({happens, after, general, lasts, mean, folder, ending, quoted, subject}),
+         freedByThem},
         // Orlen itself
         {{{rhythm}}, kAsking.with({cleanUp, remove, makeRoom, disk, space, subject, advise}), howOften},
         {{{rights}}, kAsking.with({negation, remove, privacy, why, cleanUp, subject, self}), whichRights},
@@ -121,7 +128,8 @@ const std::vector<Rule>& rules()
          howToUndo},
         // Past clean-ups
         {{{cleanUp, remove, free, makeRoom}, {soFar}},
-         kAsking.with({cleanUp, space, remove, total, subject, makeRoom}),
+         kAsking.with(
+             {cleanUp, space, remove, total, subject, makeRoom, period, inside, since, after, before}),
          allCleanUps},
         {{{cleanUp}, {howMany}}, {what, general, last, subject, disk, period}, allCleanUps},
         {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
@@ -138,7 +146,7 @@ const std::vector<Rule>& rules()
          {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
-        {{{soFar}}, kAsking.with({cleanUp, total, space}), allCleanUps},
+        {{{soFar}}, kAsking.with({cleanUp, total, space, disk}), allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         // The disk
         {{{why}, {free, space, used, full, disk}, {since}},
@@ -192,6 +200,7 @@ const std::vector<Rule>& rules()
         {{{howMuch, howBig}, {free, makeRoom, remove, can}, {subject}},
          {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what, except, undo},
          freedBySubject},
+        {{{size}}, {can, general}, roomFor},
         {{{free}},
          kSpaceWords.with({howMuch, howBig, howMany, what, general, size, inside, negation, above, below}),
          spaceNow},

@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/PathHits.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
@@ -127,6 +128,18 @@ std::vector<Stored> machines(const HomeFiles& home)
     return found;
 }
 
+/// What the scan says about what a line is of, or that it is protected.
+Message withRating(Message line, std::string_view path, const Hit& hit, const AskContext& context)
+{
+    if (hit.finding != nullptr)
+        return {InsightTexts::kListedLine,
+                {{"line", within(std::move(line))},
+                 {"title", within(hit.finding->title)},
+                 {"rating", within(label(hit.finding->effectiveRating(*hit.entry)))}}};
+    const bool isProtected = context.protection && context.protection(path) != Protection::none;
+    return isProtected ? Message{InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}} : line;
+}
+
 std::vector<Stored> ofWine(const HomeFiles& home)
 {
     std::vector<Stored> found;
@@ -179,9 +192,14 @@ std::optional<Answer> listOfStored(const Subject& subject, const AskContext& con
         bytes = checkedAdd(bytes, each.bytes);
     std::vector<Message> lines{
         {InsightTexts::kFilesThere, {files, {"count", std::ssize(*found)}, {"size", Bytes{bytes}}}}};
-    for (const Stored& each : std::span(*found).first(std::min(found->size(), kShown))) {
-        lines.push_back({InsightTexts::kDownload, {{"name", tilde(each.path)}, {"size", Bytes{each.bytes}}}});
+    for (const Stored& each : std::span(*found).first(std::min(found->size(), kShown)))
         answer.paths.push_back(each.path);
+    const std::vector<Hit> hits = hitsAround(answer.paths, context);
+    for (std::size_t i = 0; i < hits.size(); ++i) {
+        const Stored& each = (*found)[i];
+        lines.push_back(
+            withRating({InsightTexts::kDownload, {{"name", tilde(each.path)}, {"size", Bytes{each.bytes}}}},
+                       each.path, hits[i], context));
     }
     if (found->size() > kShown)
         lines.push_back(

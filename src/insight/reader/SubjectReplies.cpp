@@ -2,39 +2,20 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
-#include "insight/InsightTextsWhatIf.h"
-#include "insight/reader/Exclusions.h"
-#include "insight/reader/FindingParts.h"
+#include "insight/reader/FindingLists.h"
 #include "insight/reader/ListReplies.h"
-#include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
-#include "insight/reader/Proposal.h"
-#include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
-#include <span>
 #include <utility>
 
 namespace orlen::AskReader {
 
 namespace {
-
-/// Lines with links to the findings they are about.
-struct Lines {
-    std::vector<Message> texts;
-    std::vector<std::string> ids;
-
-    [[nodiscard]] std::optional<Answer> answer() const
-    {
-        if (texts.empty())
-            return std::nullopt;
-        return Answer{AskText::lines(texts), ids};
-    }
-};
 
 struct Amount {
     std::int64_t count = 0;
@@ -76,22 +57,6 @@ void addFolder(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kFolderTakes, {{"folder", tilde(folder)}, {"size", Bytes{*bytes}}}});
 }
 
-/// Whoever says "all caches" means these too.
-bool isPackageCache(FindingKind kind)
-{
-    using enum FindingKind;
-    return kind == npm || kind == pip || kind == gradle || kind == homebrew;
-}
-
-void addFindings(Lines& lines, const Subject& subject, const AskContext& context)
-{
-    for (const Finding* const finding : findingsOf(subject, context)) {
-        const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding->items)}}};
-        lines.texts.push_back(AskText::sentences({AskText::rated(*finding), count}));
-        lines.ids.emplace_back(finding->id());
-    }
-}
-
 void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
 {
     if (subject.extensions.empty())
@@ -112,84 +77,6 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
     else
         lines.texts.push_back(
             {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
-}
-
-/// Those that the scan recognised and those that have such a name; nothing of other kinds.
-std::optional<Answer> recognisedFiles(const Subject& subject, const AskContext& context)
-{
-    if (!isRecognised(subject) || context.home == nullptr)
-        return std::nullopt;
-    Question files;
-    files.phrases.push_back({Sense::subject, {}, &subject});
-    return listOfFiles(withPhrases(files, files.phrases), context);
-}
-
-/// For kinds of which the scan has found nothing.
-Answer nothingFound(const Subject& subject, const AskContext& context)
-{
-    if (auto answer = recognisedFiles(subject, context))
-        return *std::move(answer);
-    if (context.findings.empty())
-        return {InsightTexts::kNoScan, {}};
-    return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
-}
-
-std::vector<Hit> hitsOf(const Finding& finding)
-{
-    std::vector<Hit> hits;
-    hits.reserve(finding.items.size());
-    for (const FileEntry& entry : finding.items)
-        hits.push_back({&finding, &entry});
-    return hits;
-}
-
-/// The first of them, with what there is to know about each.
-void addItems(Lines& lines, const std::vector<Hit>& hits)
-{
-    constexpr std::size_t kShown = 5;
-    for (const Hit& hit : std::span(hits).first(std::min(hits.size(), kShown))) {
-        const Rating rating = hit.finding->effectiveRating(*hit.entry);
-        std::vector<Place> places{{"path", tilde(hit.entry->path)},
-                                  {"size", Bytes{hit.entry->size}},
-                                  {"title", within(hit.finding->title)}};
-        const Message note = noteOf(*hit.entry);
-        if (!note.empty())
-            places.push_back({"note", within(note)});
-        lines.texts.push_back(
-            {(note.empty() ? InsightTexts::kFitting : InsightTexts::kFittingWithNote).of(rating),
-             std::move(places)});
-    }
-    if (hits.size() > kShown)
-        lines.texts.push_back(
-            {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(hits.size() - kShown)}}});
-}
-
-/// Photos that look alike, and exact copies of photos.
-Answer similarPhotos(const Subject& subject, const AskContext& context)
-{
-    Lines lines;
-    addFindings(lines, subject, context);
-    if (lines.texts.empty())
-        lines.texts.push_back({InsightTexts::kNoneFound, {{"files", within(subject.name)}}});
-    for (const Finding* const finding : findingsOf(subject, context))
-        addItems(lines, hitsOf(*finding));
-    const Place copies{"files", within(InsightTexts::kPhotoCopies)};
-    std::vector<Hit> hits;
-    for (const Finding* const finding : findingsOf(subjectFor(SubjectID::duplicates), context)) {
-        hits = hitsOf(*finding);
-        std::erase_if(hits, [](const Hit& hit) {
-            return !hasExtensionOf(subjectFor(SubjectID::photos), hit.entry->path);
-        });
-        if (!hits.empty())
-            lines.ids.emplace_back(finding->id());
-    }
-    if (hits.empty())
-        lines.texts.push_back({InsightTexts::kNoneFound, {copies}});
-    else
-        lines.texts.push_back({InsightTexts::kFilesListed,
-                               {copies, {"count", std::ssize(hits)}, {"size", Bytes{bytesOf(hits)}}}});
-    addItems(lines, hits);
-    return *lines.answer();
 }
 
 /// What the question is about: not "files" if it says more. Null if it is about one kind within a folder.
@@ -238,17 +125,6 @@ bool isOnlyKinds(const Subject& subject)
 }
 
 } // namespace
-
-std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
-{
-    std::vector<const Finding*> findings;
-    for (const Finding& finding : context.findings) {
-        const bool isPackages = subject.id == SubjectID::caches && isPackageCache(finding.kind);
-        if (isPackages || std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
-            findings.push_back(&finding);
-    }
-    return findings;
-}
 
 std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder)
 {
@@ -304,7 +180,7 @@ std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& 
         return similarPhotos(subject, context);
     addFindings(lines, subject, context);
     for (const Finding* const finding : findingsOf(subject, context))
-        addItems(lines, hitsOf(*finding));
+        addItems(lines, *finding);
     return lines.ids.empty() ? std::nullopt : lines.answer();
 }
 
@@ -351,64 +227,10 @@ std::optional<Answer> comparison(const Question& question, const AskContext& con
     return Answer{AskText::lines(std::move(lines)), {}};
 }
 
-std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
-{
-    const auto exclusions = Exclusions::of(question, context);
-    if (!exclusions)
-        return std::nullopt;
-    Several names{{}, Several::Joint::list};
-    std::vector<Hit> hits;
-    for (const Phrase& phrase : question.phrases) {
-        if (phrase.subject == nullptr)
-            continue;
-        if (phrase.subject->kinds.empty())
-            return std::nullopt;
-        names.messages.emplace_back(phrase.subject->name);
-        for (const Finding* const finding : findingsOf(*phrase.subject, context)) {
-            for (const FileEntry& entry : finding->items) {
-                if (exclusions->empty() || !exclusions->leaveOut(*finding, entry))
-                    hits.push_back({finding, &entry});
-            }
-        }
-    }
-    if (hits.empty())
-        return nothingFound(*question.subject(), context);
-    hits = eachOnce(std::move(hits));
-    Answer answer;
-    std::int64_t safe = 0;
-    for (const Hit& hit : hits) {
-        if (hit.finding->cleanable && hit.finding->effectiveRating(*hit.entry) == Rating::safe)
-            safe = checkedAdd(safe, hit.entry->size);
-    }
-    const Message sum{InsightTexts::kWithoutThem,
-                      {{"files", std::move(names)},
-                       {"count", std::ssize(hits)},
-                       {"size", Bytes{bytesOf(hits)}},
-                       {"safe", Bytes{safe}}}};
-    std::vector<Message> lines{exclusions->said(), sum};
-    for (const FindingPart& part : partsOf(hits)) {
-        answer.findingIDs.emplace_back(part.finding->id());
-        lines.push_back(
-            {InsightTexts::kDownload, {{"name", within(part.finding->title)}, {"size", Bytes{part.bytes}}}});
-    }
-    if (answer.findingIDs.size() < 2)
-        lines.pop_back();
-    lines.push_back(freeWithout(bytesOf(hits), context));
-    answer.text = AskText::lines(std::move(lines));
-    for (const Rating rating : {Rating::safe, Rating::review}) {
-        std::vector<Hit> chosen = choosable(context, rating, *exclusions);
-        std::erase_if(chosen, [&](const Hit& hit) {
-            return std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end();
-        });
-        appendPaths(answer.proposal, chosen);
-    }
-    return answer;
-}
-
 std::optional<Answer> neverOpened(const Question& question, const AskContext& context)
 {
     Phrase old = *question.first(Sense::subject);
-    if (!old.subject->isAnyFile)
+    if (!old.subject->isAnyFile && old.subject->id != SubjectID::oldFiles)
         return std::nullopt;
     old.subject = &subjectFor(SubjectID::oldFiles);
     return sizeOfSubject(withPhrases(question, {std::move(old)}), context);

@@ -6,14 +6,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 /// Answers about a kind of finding, a category or a folder. Each gives nothing when it is not sure of the
 /// question. Pure; any thread.
 namespace orlen::AskReader {
-
-/// The findings of a subject.
-[[nodiscard]] std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context);
 
 /// Bytes of a folder with everything in it; nothing if nobody knows.
 [[nodiscard]] std::optional<std::int64_t> folderSize(const AskContext& context, const std::string& folder);
@@ -29,9 +25,6 @@ namespace orlen::AskReader {
 
 /// The sizes of two subjects that the question compares, one below the other.
 [[nodiscard]] std::optional<Answer> comparison(const Question& question, const AskContext& context);
-
-/// How much removing all of them together would free; proposes what of it is not rated Keep.
-[[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
 /// What has not been opened for long.
 [[nodiscard]] std::optional<Answer> neverOpened(const Question& question, const AskContext& context);

@@ -235,6 +235,14 @@ bool isKnownEnding(std::string_view ending)
     return std::ranges::find(kElse, ending) == std::end(kElse) && isEndingOfKind(ending);
 }
 
+bool isListedAs(const Subject& subject, FindingKind kind)
+{
+    using enum FindingKind;
+    const bool isPackages = kind == npm || kind == pip || kind == gradle || kind == homebrew;
+    return (subject.id == SubjectID::caches && isPackages) ||
+           std::ranges::find(subject.kinds, kind) != subject.kinds.end();
+}
+
 bool hasExtensionOf(const Subject& subject, std::string_view path)
 {
     const std::string extension = PathText::asciiLower(PathText::extension(path));

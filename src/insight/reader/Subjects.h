@@ -99,6 +99,10 @@ struct Subject {
 /// The same, and it is no word of its own.
 [[nodiscard]] bool isKnownEnding(std::string_view ending);
 
+/// Whether a finding of this kind is of the subject. Whoever says "caches" means those of package managers
+/// too.
+[[nodiscard]] bool isListedAs(const Subject& subject, FindingKind kind);
+
 /// Whether a file of this name is of the subject's kind.
 [[nodiscard]] bool hasExtensionOf(const Subject& subject, std::string_view path);
 

@@ -4,8 +4,12 @@
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsWhatIf.h"
 #include "insight/reader/AskedName.h"
+#include "insight/reader/Exclusions.h"
+#include "insight/reader/FindingLists.h"
+#include "insight/reader/FindingParts.h"
 #include "insight/reader/HomeLists.h"
 #include "insight/reader/ListRequest.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
 #include "insight/reader/StoredThings.h"
@@ -14,6 +18,7 @@
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <limits>
 #include <span>
@@ -63,7 +68,8 @@ std::vector<std::vector<Phrase>> groupsIn(const Question& question)
     bool isNew = true;
     const auto add = [&](const std::vector<Phrase>& phrases) {
         for (const Phrase& phrase : phrases) {
-            const bool isNameable = isName(phrase) || phrase.subject != nullptr || kRatings.has(phrase.sense);
+            const bool isNameable = isName(phrase) || phrase.subject != nullptr ||
+                                    phrase.sense == Sense::ending || kRatings.has(phrase.sense);
             isNew = isNew || (phrase.isJoined && isNameable);
             if (!ofThings.has(phrase.sense))
                 continue;
@@ -92,6 +98,11 @@ bool addNamed(const Question& group, const AskContext& context, Things& things)
         ending != nullptr && !isFileName(group, name))
         name += " " + ending->text;
     Found found = findNamed(context, name);
+    // "Linux mint" of "linuxmint-22.iso"
+    if (found.fit == Fit::none)
+        found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    if (found.fit == Fit::none && !found.hits.empty())
+        found.fit = Fit::part;
     const bool isOne = found.hits.size() + found.measured.size() == 1;
     if (found.fit < Fit::words && !(found.fit == Fit::part && isOne))
         return false;
@@ -245,6 +256,60 @@ std::optional<Answer> freedByThem(const Question& question, const AskContext& co
         return Answer{Message{InsightTexts::kNowhere, {{"name", PathText::forDisplay(name)}}}, {}};
     }
     return said(std::move(things), context);
+}
+
+std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
+{
+    const auto exclusions = Exclusions::of(question, context);
+    if (!exclusions)
+        return std::nullopt;
+    Several names{{}, Several::Joint::list};
+    std::vector<Hit> hits;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject == nullptr)
+            continue;
+        if (phrase.subject->kinds.empty())
+            return std::nullopt;
+        names.messages.emplace_back(phrase.subject->name);
+        for (const Finding* const finding : findingsOf(*phrase.subject, context)) {
+            for (const FileEntry& entry : finding->items) {
+                if (exclusions->empty() || !exclusions->leaveOut(*finding, entry))
+                    hits.push_back({finding, &entry});
+            }
+        }
+    }
+    if (hits.empty())
+        return nothingFound(*question.subject(), context);
+    hits = eachOnce(std::move(hits));
+    Answer answer;
+    std::int64_t safe = 0;
+    for (const Hit& hit : hits) {
+        if (hit.finding->cleanable && hit.finding->effectiveRating(*hit.entry) == Rating::safe)
+            safe = checkedAdd(safe, hit.entry->size);
+    }
+    const Message sum{InsightTexts::kWithoutThem,
+                      {{"files", std::move(names)},
+                       {"count", std::ssize(hits)},
+                       {"size", Bytes{bytesOf(hits)}},
+                       {"safe", Bytes{safe}}}};
+    std::vector<Message> lines{exclusions->said(), sum};
+    for (const FindingPart& part : partsOf(hits)) {
+        answer.findingIDs.emplace_back(part.finding->id());
+        lines.push_back(
+            {InsightTexts::kDownload, {{"name", within(part.finding->title)}, {"size", Bytes{part.bytes}}}});
+    }
+    if (answer.findingIDs.size() < 2)
+        lines.pop_back();
+    lines.push_back(freeWithout(bytesOf(hits), context));
+    answer.text = AskText::lines(std::move(lines));
+    for (const Rating rating : {Rating::safe, Rating::review}) {
+        std::vector<Hit> chosen = choosable(context, rating, *exclusions);
+        std::erase_if(chosen, [&](const Hit& hit) {
+            return std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end();
+        });
+        appendPaths(answer.proposal, chosen);
+    }
+    return answer;
 }
 
 } // namespace orlen::AskReader

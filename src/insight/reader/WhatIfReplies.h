@@ -14,6 +14,10 @@ namespace orlen::AskReader {
 /// without them.
 [[nodiscard]] std::optional<Answer> freedByThem(const Question& question, const AskContext& context);
 
+/// The same of findings: how much removing all of them together would free; proposes what of it is not rated
+/// Keep.
+[[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
+
 /// The free space with so many bytes less used; empty if nobody knows what is free.
 [[nodiscard]] Message freeWithout(std::int64_t bytes, const AskContext& context);
 

@@ -10,18 +10,29 @@ constexpr WordRow kWords[] = {
      "do i need to,how often must i,how often do you recommend,how often is it good to,how "
      "often to,how regularly,how frequently,how often is it worth"},
     {Sense::rights,
-     "root,sudo,admin,administrator,admin rights,administrator rights,root rights,superuser,as "
+     "need my password,want my password,ask for my password,asks for my "
+     "password,root,sudo,admin,administrator,admin rights,administrator rights,root rights,superuser,as "
      "root,root access,sudo rights,root privileges,admin privileges,admin password,root password"},
     {Sense::vacant, "empty folders,empty folder,empty directories,empty directory,empty dirs,empty "
                     "subfolders,folders that are empty,folders with nothing in them,folders are empty"},
     {Sense::freed,
-     "did orlen free,has orlen freed,did you free,have you freed,did i free,have i freed,did we free,have we "
+     "have you ever deleted,have you ever moved,have you ever removed,did you ever delete,has orlen ever "
+     "deleted,was anything deleted,was anything removed,was anything moved,was something deleted,anything "
+     "deleted,anything been deleted,did orlen delete,did you delete,have you deleted,has orlen deleted,did "
+     "orlen move,did you move,have "
+     "you moved,has orlen moved,did orlen remove,did you remove,have you removed,did you trash,have you "
+     "trashed,did you clean,have you cleaned,did orlen clean,has orlen cleaned,have i won back,have i "
+     "won,did i win back,have i regained,have i reclaimed,have i recovered,did i reclaim,have you "
+     "reclaimed,was freed,was deleted,was removed,was moved,were deleted,were removed,were moved,did orlen "
+     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we free,have we "
      "freed,did it free,has it freed,has this program freed,did this program free,has this app freed,did "
      "this app free,has this tool freed,have i got back,did i get back,i freed,you freed,orlen freed"},
     {Sense::inPeace, "alone,in peace"},
     // Orlen itself, where it is asked what it does.
     {Sense::filler,
-     "with this program,with this app,with this tool,with this thing,with this software,in this program,in "
+     "somehow,anyhow,to run,to work,completely,totally,fully,another,with this program,with this app,with "
+     "this tool,with this thing,with this software,in this "
+     "program,in "
      "this "
      "app,in this tool,by this program,by this app,using this program,using this app,this program,this "
      "app,this "
@@ -37,7 +48,9 @@ constexpr WordRow kWords[] = {
                      "scan,dont scan,stop scanning,never suggest,stop suggesting,never touch my,ignore a "
                      "folder forever,ignore list,leave out of the scan,keep out of the scan,skip a folder"},
     {Sense::self,
-     "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what questions "
+     "questions can i ask,questions can i ask you,which "
+     "questions can i ask,what sort of questions can i ask,what else can i ask,what can you do,what can you "
+     "tell me,what do you know,what can i ask,what can i ask you,what questions "
      "can i ask,who are you,what are you,help,help me,how does this work,how do you work,what is orlen,what "
      "does orlen do,hello,hi,hey,good morning,good evening,thanks,thank you,thx,what is this program,what "
      "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
@@ -125,7 +138,8 @@ constexpr WordRow kWords[] = {
                       "longer,couldn't,wouldn't,ain't,wont,shouldnt,didnt,isnt,arent,wouldnt,couldnt,hasnt,"
                       "wasnt,aint,neither,nor,none,noone,no one"},
     {Sense::except,
-     "not a,not an,not being,that is no,thats no,that's no,except,except for,besides,beside,other than,apart "
+     "that arent,which arent,that isnt,which isnt,arent,not a,not an,not being,that is no,thats no,that's "
+     "no,except,except for,besides,beside,other than,apart "
      "from,aside from,excluding,exclude,but not,not "
      "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
      "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
@@ -183,8 +197,10 @@ constexpr WordRow kWords[] = {
      "went to the trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
      "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
      "clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
-    {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
-                       "the program,delete the program"},
+    {Sense::uninstall,
+     "remove an app,delete an app,remove an application,delete an application,remove a program,delete a "
+     "program,uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
+     "the program,delete the program"},
     {Sense::remove,
      "any use,any use to me,of any "
      "use,binning,trashing,ditching,nuking,chucking,dumping,tossing,delete,deleted,deleting,deletes,remove,"
@@ -224,7 +240,9 @@ constexpr WordRow kWords[] = {
      "flagged,classed,what's a,definition of,describe the,categories mean,have to review,need to review,must "
      "review,must i review,should i review,do i review,the difference between"},
     {Sense::soFar,
-     "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
+     "did i ever clean,have i ever cleaned,did i ever clean up,have i ever cleaned up,did you ever "
+     "clean,have you ever cleaned,so far,all time,all-time,ever freed,until now,up to now,to date,in "
+     "all,over time,already "
      "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,all "
      "together,cleanups,clean-ups,cleanings,clean ups,past clean-ups,previous clean-ups,past cleanups,my "
      "clean-ups,my cleanups,ever done,all my cleanups,all my clean-ups,log of cleanups,before today"},
@@ -291,7 +309,8 @@ constexpr WordRow kWords[] = {
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated,earliest,stalest,vintage,from long "
                     "ago,aged,elderly,antique,dated,eldest"},
-    {Sense::newest, "recently,lately,of late,newest,most recent,latest,youngest,recent,recently "
+    {Sense::newest, "did i add,have i added,did i create,have i created,i created,created,recently,lately,of "
+                    "late,newest,most recent,latest,youngest,recent,recently "
                     "changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
                     "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "
@@ -327,7 +346,9 @@ constexpr WordRow kWords[] = {
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
     {Sense::privacy,
-     "see my documents,see my stuff,see my data,look at my files,look at my photos,look at my data,look into "
+     "you look into my,you look in my,you look at my,you look through my,you read my,you see my,you go "
+     "through my,you open my,you access my,it read my,it look at my,it look into my,see my documents,see my "
+     "stuff,see my data,look at my files,look at my photos,look at my data,look into "
      "my files,look in my passwords,look at my passwords,read my files,read my documents,read my emails,read "
      "my mail,read my messages,my company see,your company,at your company,stay on my computer,stays on my "
      "computer,stay on this computer,stays on this computer,need internet,need the internet,need wifi,need a "
@@ -345,7 +366,8 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
-     "loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,"
+     "run,running,loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,"
+     "simulators,build,"
      "code,backup,"
      "backups,ios,language,"
      "languages,translation,mail,attachment,same "
@@ -477,7 +499,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::leftovers,
-     "uninstall leftovers,leftovers,leftover,leftover folders,leftover stuff,leftover files,leftovers of "
+     "left of apps,left of programs,left of applications,uninstall leftovers,leftovers,leftover,leftover "
+     "folders,leftover stuff,leftover files,leftovers of "
      "apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
      "leftovers,flatpak leftovers,snap leftovers,program leftovers,leftovers from apps,leftovers from "
      "programs,left over from apps,left behind,leave behind,leave stuff behind,leave anything behind,leave "
