@@ -40,9 +40,11 @@ Message sized(Value name, std::int64_t bytes)
 
 Message rated(const Finding& finding)
 {
+    // The reason speaks of Xcode; what is found here are devices of Android.
+    const bool isElsewhere = finding.kind == FindingKind::simulators;
     return sentences({Message{InsightTexts::kRated.of(finding.rating),
                               {{"title", within(finding.title)}, {"size", Bytes{finding.totalSize()}}}},
-                      finding.reason});
+                      isElsewhere ? Message() : Message{finding.reason}});
 }
 
 Message forecast(const Prediction& prediction)

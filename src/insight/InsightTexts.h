@@ -454,8 +454,9 @@ inline constexpr Text kHelp =
     message("I can answer questions about your scan, for example “what is using the most space?”, “what can "
             "I delete from my Downloads folder?”, “are there duplicates?” or “when will my disk be full?”.");
 inline constexpr Text kDontKnow =
-    // TRANSLATORS: questions such as these are understood in English, German, French, Spanish and Italian;
-    // into another language, leave what is in quotation marks.
+    // TRANSLATORS: questions such as these are understood in English, German, French, Spanish and Italian:
+    // translate them there, and don't speak of English. In another language, leave what is in quotation
+    // marks.
     message("I don't know that. I can answer questions about a file or folder by name (“can I delete "
             "report.pdf?”), lists (“the five biggest videos”), free space, clean-ups and ratings.");
 

@@ -150,12 +150,22 @@ std::optional<Turn> answered(const std::vector<Question>& parts, const AskContex
 
 std::optional<Turn> answered(const Question& question, const AskContext& context, const Conversation& before)
 {
-    const std::vector<Question> parts = partsOf(question);
-    if (parts.size() > 1 && parts.size() <= kMostParts) {
+    std::vector<Question> parts = partsOf(question);
+    const bool areSeveral = parts.size() > 1;
+    // "I need room for 12 GB, what do you suggest" asks once.
+    constexpr SenseSet kSuggesting{what, can, advise, general, remove, makeRoom};
+    if (areSeveral && parts.back().senses.isWithin(kSuggesting) &&
+        parts.front().senses.meets({makeRoom, remove}) &&
+        (parts.back().senses.has(advise) || parts.front().senses.has(size)))
+        parts.pop_back();
+    if (areSeveral && parts.size() <= kMostParts) {
         if (std::optional<Turn> found = answered(parts, context, before))
             return found;
     }
-    return answered(std::vector{question}, context, before);
+    if (std::optional<Turn> found = answered(std::vector{question}, context, before))
+        return found;
+    const std::optional<Question> bare = undressed(question);
+    return bare ? answered(std::vector{*bare}, context, before) : std::nullopt;
 }
 
 /// The matcher understands single English words: what is longer or says something else is not for it.
@@ -256,8 +266,8 @@ bool needsHome(std::string_view text, const AskContext& context)
     KnownNames names(context);
     const Question question = bestReading(withNames(text, context), context.now,
                                           [&](std::string_view word) { return names(word); }, {});
-    constexpr SenseSet kOfFiles{unknown, quoted, folder, hidden,   ending, biggest,  most,
-                                oldest,  newest, period, smallest, takes,  unopened, subject};
+    constexpr SenseSet kOfFiles{unknown, quoted, folder,   hidden, ending,   biggest, most,  oldest,
+                                newest,  period, smallest, takes,  unopened, subject, except};
     return question.senses.meets(kOfFiles);
 }
 

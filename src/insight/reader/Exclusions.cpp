@@ -74,7 +74,7 @@ bool Exclusions::addNamed(const std::string& name, const AskContext& context)
 bool Exclusions::leaveOut(const Finding& finding, const FileEntry& entry) const
 {
     const auto isOfKind = [&](const Subject* subject) {
-        return std::ranges::find(subject->kinds, finding.kind) != subject->kinds.end() ||
+        return isListedAs(*subject, finding.kind) ||
                (!subject->extensions.empty() && hasExtensionOf(*subject, entry.path));
     };
     return std::ranges::any_of(m_kinds, isOfKind) || leaveOutFile(entry.path);

@@ -2,9 +2,11 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsWhatIf.h"
 #include "platform/values/CheckedSum.h"
 
 #include <chrono>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -66,6 +68,18 @@ std::optional<Answer> fullWhen(const Question& question, const AskContext& conte
         const TimePoint deadline = deadlineIn(question, *phrase->period, context.now);
         if (deadline <= context.now)
             return std::nullopt;
+        // "Are 20 GB enough until then?"
+        if (const Phrase* const size = question.first(Sense::size); size != nullptr) {
+            const double perDay = static_cast<double>(context.breakdown.free) / *prediction.daysLeft;
+            const double days =
+                std::chrono::duration<double, std::chrono::days::period>(deadline - context.now).count();
+            const std::int64_t needed = checkedInteger(perDay * days);
+            return Answer{
+                AskText::sentences({verdict(question, needed > size->amount),
+                                    Message{InsightTexts::kFilledUntil,
+                                            {{"date", Moment{deadline}}, {"size", Bytes{needed}}}}}),
+                {}};
+        }
         said.push_back(verdict(question, full < deadline));
     }
     said.push_back({InsightTexts::kFullAround, {{"date", Moment{full}}}});

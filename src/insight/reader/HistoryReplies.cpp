@@ -19,21 +19,6 @@ namespace orlen::AskReader {
 
 namespace {
 
-Message lastOf(const std::vector<CleanRecord>& history)
-{
-    if (history.empty())
-        return InsightTexts::kNoCleanUp;
-    const CleanRecord& record = history.front();
-    Message moved{InsightTexts::kLastCleanUp,
-                  {{"date", Moment{record.date}},
-                   {"count", std::ssize(record.items)},
-                   {"size", Bytes{record.freed()}}}};
-    const std::int64_t restored = std::ranges::count(record.items, true, &TrashedItem::restored);
-    if (restored == 0)
-        return moved;
-    return AskText::sentences({moved, Message{InsightTexts::kPutBack, {{"count", restored}}}});
-}
-
 std::int64_t freedBy(std::span<const CleanRecord> records)
 {
     std::int64_t bytes = 0;
@@ -91,6 +76,21 @@ std::vector<Message> itemsOf(const CleanRecord& record)
 
 } // namespace
 
+Message lastCleanUpOf(const std::vector<CleanRecord>& history)
+{
+    if (history.empty())
+        return InsightTexts::kNoCleanUp;
+    const CleanRecord& record = history.front();
+    Message moved{InsightTexts::kLastCleanUp,
+                  {{"date", Moment{record.date}},
+                   {"count", std::ssize(record.items)},
+                   {"size", Bytes{record.freed()}}}};
+    const std::int64_t restored = std::ranges::count(record.items, true, &TrashedItem::restored);
+    if (restored == 0)
+        return moved;
+    return AskText::sentences({moved, Message{InsightTexts::kPutBack, {{"count", restored}}}});
+}
+
 std::optional<Answer> lastCleanUp(const Question& question, const AskContext& context)
 {
     // What it moved of one kind is another question.
@@ -101,7 +101,7 @@ std::optional<Answer> lastCleanUp(const Question& question, const AskContext& co
         return std::nullopt;
     if (context.history.empty())
         return Answer{InsightTexts::kNoCleanUp, {}};
-    std::vector<Message> lines{lastOf(context.history)};
+    std::vector<Message> lines{lastCleanUpOf(context.history)};
     if (question.senses.meets({Sense::what, Sense::howMany}))
         std::ranges::move(itemsOf(context.history.front()), std::back_inserter(lines));
     lines.emplace_back(InsightTexts::kHowToRestore);
@@ -119,12 +119,13 @@ std::optional<Answer> allCleanUps(const Question& question, const AskContext& co
                       {{"count", std::ssize(context.history)},
                        {"date", Moment{context.history.back().date}},
                        {"size", Bytes{bytes}}}};
-    return Answer{AskText::sentences({all, lastOf(context.history), InsightTexts::kHistoryListsThem}), {}};
+    return Answer{AskText::sentences({all, lastCleanUpOf(context.history), InsightTexts::kHistoryListsThem}),
+                  {}};
 }
 
 std::optional<Answer> howToUndo(const Question& /*question*/, const AskContext& context)
 {
-    return Answer{AskText::sentences({lastOf(context.history), InsightTexts::kHowToRestore,
+    return Answer{AskText::sentences({lastCleanUpOf(context.history), InsightTexts::kHowToRestore,
                                       InsightTexts::kUntilTrashIsEmptied}),
                   {}};
 }

@@ -4,10 +4,14 @@
 #include "insight/reader/Question.h"
 
 #include <optional>
+#include <vector>
 
 /// Answers about past clean-ups. Each gives nothing when it is not sure of the question.
 /// Pure; any thread.
 namespace orlen::AskReader {
+
+/// When the last one was and how much it moved; that there was none.
+[[nodiscard]] Message lastCleanUpOf(const std::vector<CleanRecord>& history);
 
 /// When the last one was and what it moved.
 [[nodiscard]] std::optional<Answer> lastCleanUp(const Question& question, const AskContext& context);

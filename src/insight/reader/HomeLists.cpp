@@ -1,6 +1,7 @@
 #include "insight/reader/HomeLists.h"
 
 #include "insight/reader/LowerName.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -72,12 +73,28 @@ bool isNamedScreenshot(std::string_view name)
     return std::ranges::any_of(kStarts, [&](std::string_view start) { return lower.starts_with(start); });
 }
 
+/// Whether the name of a picture says that it is of the kind.
+bool isNamedLike(const Subject& kind, std::string_view name)
+{
+    if (kind.id == SubjectID::screenshots)
+        return isNamedScreenshot(name);
+    constexpr std::string_view kReceipts[] = {"receipt",  "receipts", "kassenbon",
+                                              "quittung", "recibo",   "scontrino"};
+    constexpr std::string_view kMemes[] = {"meme", "memes"};
+    const std::string lower = lowered(name);
+    const auto holds = [&](std::string_view word) { return holdsWord(lower, word); };
+    return (kind.id == SubjectID::receipts && std::ranges::any_of(kReceipts, holds)) ||
+           (kind.id == SubjectID::memes && std::ranges::any_of(kMemes, holds));
+}
+
 /// Goes through the home folder for one request.
 class HomeSearch {
 public:
     HomeSearch(const ListRequest& request, const HomeFiles& home, Number place)
         : m_request(request), m_home(home), m_place(place), m_endings(request)
     {
+        for (const std::string_view path : request.listed)
+            m_listedNames.insert(PathText::lastComponent(path));
     }
 
     HomeList files()
@@ -131,6 +148,12 @@ private:
         return !m_request.exclusions.empty() && m_request.exclusions.leaveOut(m_home.folderPath(folder));
     }
 
+    /// Most names are none of those listed: few paths have to be made.
+    [[nodiscard]] bool isListed(Number number, std::string_view name) const
+    {
+        return m_listedNames.contains(name) && m_request.listed.contains(m_home.filePath(number));
+    }
+
     void take(Number number, std::int64_t bytes)
     {
         m_list.first.push_back(number);
@@ -146,7 +169,8 @@ private:
             (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name) ||
             isCountedElsewhere(number, file.counted))
             return;
-        if (m_request.areScreenshots && !isNamedScreenshot(file.name))
+        if (m_request.recognised != nullptr && !isNamedLike(*m_request.recognised, file.name) &&
+            !isListed(number, file.name))
             return;
         if (m_request.exclusions.empty() || !m_request.exclusions.leaveOutFile(m_home.filePath(number)))
             take(number, file.bytes);
@@ -195,6 +219,7 @@ private:
     const HomeFiles& m_home;
     Number m_place;
     Endings m_endings;
+    std::unordered_set<std::string_view> m_listedNames;
     HomeList m_list;
     std::unordered_set<Number> m_otherNames; ///< counted though another name is the one to count
 };

@@ -1,11 +1,11 @@
 #include "insight/reader/ListRequest.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/reader/ListConditions.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -37,104 +37,6 @@ bool isKind(const Subject& subject)
 {
     return subject.isAnyFile || !subject.extensions.empty() ||
            (!subject.kinds.empty() && subject.folder.empty());
-}
-
-/// Says one more condition of the files.
-void narrow(ListRequest& request, const Text& condition, std::vector<Place> places)
-{
-    places.push_back({"files", within(std::move(request.files))});
-    request.files = {condition, std::move(places)};
-}
-
-/// The word that compares stands before a size or behind it: "over 1 GB", "1 GB or more".
-Sense comparisonAt(const Question& question, std::size_t position)
-{
-    constexpr SenseSet kComparisons{Sense::above, Sense::below};
-    if (position > 0 && kComparisons.has(question.phrases[position - 1].sense))
-        return question.phrases[position - 1].sense;
-    const bool isLast = position + 1 >= question.phrases.size();
-    return isLast ? Sense::unknown : question.phrases[position + 1].sense;
-}
-
-/// False if a size stands alone.
-bool takeSizes(const Question& question, ListRequest& request)
-{
-    if (question.count(Sense::size) == 2 && question.senses.has(Sense::above) &&
-        !question.senses.has(Sense::below)) {
-        const auto isSize = [](const Phrase& phrase) { return phrase.sense == Sense::size; };
-        const auto first = std::ranges::find_if(question.phrases, isSize);
-        const auto second = std::find_if(std::next(first), question.phrases.end(), isSize);
-        const auto [least, most] = std::minmax(first->amount, second->amount);
-        request.leastBytes = least;
-        request.mostBytes = most;
-        narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{least}}});
-        narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{most}}});
-        return true;
-    }
-    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
-        const Phrase& phrase = question.phrases[i];
-        if (phrase.sense != Sense::size)
-            continue;
-        const Sense comparison = comparisonAt(question, i);
-        if (comparison == Sense::above) {
-            request.leastBytes = phrase.amount + 1;
-            narrow(request, InsightTexts::kFilesOver, {{"size", Bytes{phrase.amount}}});
-        } else if (comparison == Sense::below) {
-            request.mostBytes = phrase.amount - 1;
-            narrow(request, InsightTexts::kFilesUnder, {{"size", Bytes{phrase.amount}}});
-        } else {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// "More than two years old"
-bool isOlderThan(const Question& question)
-{
-    return question.senses.has(Sense::above) && !question.senses.has(Sense::size);
-}
-
-bool isYoungerThan(const Question& question)
-{
-    return question.senses.has(Sense::below) && !question.senses.has(Sense::size);
-}
-
-/// The one date and the word it belongs to. False if that is unclear.
-bool takeDate(const Question& question, TimePoint now, ListRequest& request)
-{
-    const Phrase* const phrase = question.first(Sense::period);
-    if (phrase == nullptr)
-        return !question.senses.meets({Sense::before, Sense::after, Sense::since, Sense::unopened});
-    const Period& period = *phrase->period;
-    // "Over the summer" is no age.
-    if (period.from > now || (period.isAhead && isOlderThan(question)))
-        return false;
-    // "More than last month" compares something else.
-    if ((isOlderThan(question) || isYoungerThan(question)) && !period.next)
-        return false;
-    // "Not touched since 2024": in that year for the last time, or before it.
-    const bool isWholeYear = period.to - period.from >= std::chrono::days(365) && period.to < now;
-    const TimePoint bound = question.senses.has(Sense::since) && isWholeYear ? period.to : period.from;
-    if (question.senses.has(Sense::unopened)) {
-        request.openedTo = bound;
-        narrow(request, InsightTexts::kFilesOpenedBefore, {{"date", dayOf(bound)}});
-    } else if (question.senses.has(Sense::before) || isOlderThan(question)) {
-        request.changedTo = bound;
-        narrow(request, InsightTexts::kFilesChangedBefore, {{"date", dayOf(bound)}});
-    } else if (question.senses.has(Sense::after)) {
-        request.changedFrom = period.to;
-        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.to)}});
-    } else if (question.senses.has(Sense::since) || isYoungerThan(question)) {
-        request.changedFrom = period.from;
-        narrow(request, InsightTexts::kFilesChangedSince, {{"date", dayOf(period.from)}});
-    } else {
-        request.changedFrom = period.from;
-        request.changedTo = period.to;
-        narrow(request, InsightTexts::kFilesChangedBetween,
-               {{"first", dayOf(period.from)}, {"last", dayOf(period.to)}});
-    }
-    return true;
 }
 
 /// "Duplicate PDFs": one subject says of which finding, the other of which kind the files are.
@@ -266,10 +168,24 @@ bool takeRating(const Question& question, ListRequest& request)
     return request.rating || !question.senses.meets({Sense::mean, Sense::review});
 }
 
+constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise};
+
+/// What the scan recognised, and what is named like it anywhere in the home folder.
+void takeRecognised(ListRequest& request, const AskContext& context)
+{
+    request.recognised = request.subject;
+    for (const Finding& finding : context.findings) {
+        if (!isListedAs(*request.recognised, finding.kind))
+            continue;
+        for (const FileEntry& entry : finding.items)
+            request.listed.insert(entry.path);
+    }
+    request.subject = &subjectFor(SubjectID::photos);
+}
+
 /// What may go only the scan can tell.
 bool isOfScan(const Question& question, const ListRequest& request)
 {
-    constexpr SenseSet kChoosing{Sense::remove, Sense::makeRoom, Sense::cleanUp, Sense::advise};
     const bool isOfKind =
         request.subject != nullptr && !request.subject->isAnyFile && request.subject->extensions.empty();
     return question.senses.meets(kChoosing) || isOfKind || request.listedAs != nullptr || request.rating ||
@@ -303,11 +219,10 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         request.ending = PathText::asciiLower(ending->text);
         narrow(request, InsightTexts::kFilesEnding, {{"ending", "." + request.ending}});
     }
-    if (request.subject != nullptr && request.subject->id == SubjectID::screenshots &&
-        request.listedAs == nullptr && context.home != nullptr) {
-        request.areScreenshots = true;
-        request.subject = &subjectFor(SubjectID::photos);
-    }
+    if (request.subject != nullptr && isRecognised(*request.subject) && request.listedAs == nullptr &&
+        context.home != nullptr && !question.senses.meets(kChoosing) && !request.rating &&
+        !request.exclusions.needsFindings())
+        takeRecognised(request, context);
     request.isOfScan = isOfScan(question, request);
     request.isOwnOnly = isOfOwnFiles(request);
     if (const Phrase* const number = question.first(Sense::number))
@@ -317,6 +232,12 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (!request.folder.empty())
         narrow(request, InsightTexts::kFilesIn, {{"folder", tilde(request.folder)}});
     return request;
+}
+
+bool isRecognised(const Subject& subject)
+{
+    using enum SubjectID;
+    return subject.id == screenshots || subject.id == receipts || subject.id == memes || subject.id == blurry;
 }
 
 bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
@@ -338,14 +259,12 @@ bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
     }
     if (!folder.empty() && (entry.path == folder || !PathText::isAtOrBelow(entry.path, folder)))
         return false;
-    const auto isListedAs = [&](const Subject& each) {
-        return std::ranges::find(each.kinds, finding.kind) != each.kinds.end();
-    };
-    if (listedAs != nullptr && !isListedAs(*listedAs))
+    if (listedAs != nullptr && !isListedAs(*listedAs, finding.kind))
         return false;
     if (subject == nullptr || subject->isAnyFile)
         return true;
-    return subject->extensions.empty() ? isListedAs(*subject) : hasExtensionOf(*subject, entry.path);
+    return subject->extensions.empty() ? isListedAs(*subject, finding.kind)
+                                       : hasExtensionOf(*subject, entry.path);
 }
 
 } // namespace orlen::AskReader

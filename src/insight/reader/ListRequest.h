@@ -8,6 +8,8 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 
 /// What a question wants listed. Pure; any thread.
 namespace orlen::AskReader {
@@ -28,13 +30,16 @@ struct ListRequest {
     std::int64_t count = 5;
     std::optional<Rating> rating;
     Exclusions exclusions;
-    bool areScreenshots = false; ///< only those that have such a name
-    std::string ending;          ///< of their names, without the dot; empty: any
-    bool areFolders = false;     ///< it lists folders instead of files
-    bool isHiddenOnly = false;   ///< only what has a hidden name
-    bool isOwnOnly = false;      ///< only the person's own files, see `HomeFiles`
-    bool isOfScan = false;       ///< only what the scan lists can tell
-    Message files;               ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
+    /// Only pictures that the scan recognised as this, or that have such a name; null: any. `listed` are the
+    /// paths of the former.
+    const Subject* recognised = nullptr;
+    std::unordered_set<std::string_view> listed{};
+    std::string ending;        ///< of their names, without the dot; empty: any
+    bool areFolders = false;   ///< it lists folders instead of files
+    bool isHiddenOnly = false; ///< only what has a hidden name
+    bool isOwnOnly = false;    ///< only the person's own files, see `HomeFiles`
+    bool isOfScan = false;     ///< only what the scan lists can tell
+    Message files;             ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 
     /// Whether an entry of a finding belongs to the list.
     [[nodiscard]] bool admits(const Finding& finding, const FileEntry& entry) const;
@@ -42,5 +47,8 @@ struct ListRequest {
 
 /// Nothing if a part of the question is unclear.
 [[nodiscard]] std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context);
+
+/// Whether a kind is told by what pictures show: screenshots, receipts, memes.
+[[nodiscard]] bool isRecognised(const Subject& subject);
 
 } // namespace orlen::AskReader

@@ -132,6 +132,55 @@ void mergeExclusions(Phrases& phrases)
     }
 }
 
+/// "Leave the browser cache alone": left out, as with "except".
+void mergeLeftAlone(Phrases& phrases)
+{
+    constexpr SenseSet kNameable{Sense::subject, Sense::ending, Sense::unknown, Sense::quoted};
+    const auto alone = std::ranges::find(phrases, Sense::inPeace, &Phrase::sense);
+    if (alone == phrases.end())
+        return;
+    auto first = alone;
+    while (first != phrases.begin() && kNameable.has(std::prev(first)->sense))
+        --first;
+    if (first != alone && first != phrases.begin())
+        std::prev(first)->sense = Sense::except;
+    drop(phrases, Sense::inPeace);
+}
+
+/// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
+void mergeFreed(Phrases& phrases)
+{
+    using enum Sense;
+    const auto freedAt = std::ranges::find(phrases, freed, &Phrase::sense);
+    if (freedAt == phrases.end())
+        return;
+    freedAt->sense = cleanUp;
+    if (has(phrases, last) || has(phrases, when) || has(phrases, soFar) || has(phrases, unknown) ||
+        has(phrases, quoted))
+        return;
+    const bool isOfLast = has(phrases, what) && !has(phrases, period) && !has(phrases, total);
+    phrases.push_back({isOfLast ? last : soFar, {}, nullptr, 0, {}});
+}
+
+/// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
+void dropComing(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfThings{remove, howBig, howMuch, howMany, above, below, biggest};
+    const bool isOfRoom = has(phrases, makeRoom) || has(phrases, space) || has(phrases, free);
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    if (!isOfRoom || wanted == phrases.end() ||
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
+        return;
+    const auto isComing = [](const Phrase& each) {
+        return (each.sense == unknown || (each.subject != nullptr && each.subject->isProgram)) &&
+               !each.isJoined;
+    };
+    const auto from = std::next(wanted);
+    const auto to = std::find_if_not(from, phrases.end(), isComing);
+    phrases.erase(from, to);
+}
+
 bool isPhotos(const Subject& subject)
 {
     return subject.id == SubjectID::photos;
@@ -252,13 +301,17 @@ void mergeNeighbours(Phrases& phrases)
 Question merged(const Question& question)
 {
     Phrases phrases = question.phrases;
-    if (std::ranges::any_of(phrases, [](const Phrase& each) { return each.sense != Sense::self; }))
+    constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
+    if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
     dropAside(phrases);
+    mergeLeftAlone(phrases);
+    mergeFreed(phrases);
     mergeGain(phrases);
     mergeToday(phrases);
     mergeRange(phrases);
     mergeMaking(phrases);
+    dropComing(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

@@ -201,7 +201,8 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
         found = findNamed(context, name);
-    if (Found machine = machineNamed(context, name); found.fit < Fit::words && machine.fit != Fit::none)
+    if (Found machine = machineNamed(question, context, name);
+        found.fit < Fit::words && machine.fit != Fit::none)
         found = std::move(machine);
     if (!folder.empty()) {
         narrow(found, folder);

@@ -134,14 +134,16 @@ Found ofKindNamed(const Question& question, const AskContext& context, const std
     return found.fit == Fit::none ? withWords(context, words, isOfKind, Standing::parts) : found;
 }
 
-Found machineNamed(const AskContext& context, std::string_view name)
+Found machineNamed(const Question& question, const AskContext& context, std::string_view name)
 {
     constexpr std::string_view kWords[] = {"vm", "machine", "image", "maschine"};
     constexpr std::string_view kDisks[] = {"vdi", "vmdk", "qcow2", "vhd", "vhdx", "img"};
     Found found;
     const Words words = wordsOfName(lowered(name));
-    if (words.size() < 2 || context.home == nullptr ||
-        std::ranges::find(kWords, words.back()) == std::end(kWords))
+    const Subject* const subject = question.subject();
+    const bool isOfMachines = subject != nullptr && subject->id == SubjectID::virtualMachines;
+    const bool saysSo = words.size() > 1 && std::ranges::find(kWords, words.back()) != std::end(kWords);
+    if (words.empty() || context.home == nullptr || (!saysSo && !isOfMachines))
         return found;
     const std::string& first = words.front();
     const HomeFiles& home = *context.home;

@@ -16,7 +16,7 @@ namespace orlen::AskReader {
 [[nodiscard]] Found ofKindNamed(const Question& question, const AskContext& context, const std::string& name);
 
 /// The disks of virtual machines that begin with the name: "the Fedora VM".
-[[nodiscard]] Found machineNamed(const AskContext& context, std::string_view name);
+[[nodiscard]] Found machineNamed(const Question& question, const AskContext& context, std::string_view name);
 
 /// The files whose names hold every word of the question that could be one of a name, in whatever order: of
 /// "the backup from my old laptop", "old laptop backup.tar.gz".

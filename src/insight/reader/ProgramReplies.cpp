@@ -2,7 +2,11 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsPrograms.h"
+#include "insight/reader/GameReplies.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/StartupReplies.h"
+#include "insight/reader/StoredThings.h"
 #include "insight/reader/SubjectReplies.h"
 #include "insight/reader/UnusedApps.h"
 #include "platform/files/Places.h"
@@ -12,7 +16,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <iterator>
 #include <span>
 #include <string_view>
@@ -31,16 +34,6 @@ bool isNamed(const KnownApp& app, const std::string& wanted)
     const std::string name = plainLetters(app.name);
     return name == wanted || (" " + name + " ").find(" " + wanted + " ") != std::string::npos ||
            (wanted.size() > kNamedApps && isOneLetterApart(name, wanted));
-}
-
-/// Of an application that is gone, only what it left behind has its name.
-bool isPresent(const KnownApp& app, const AskContext& context)
-{
-    const std::string name = plainLetters(app.name);
-    return !context.leftovers || std::ranges::none_of(*context.leftovers, [&](const FileEntry& entry) {
-        const std::string left = plainLetters(PathText::lastComponent(entry.path));
-        return left == name || left.ends_with("." + name);
-    });
 }
 
 /// Which applications a question asks for.
@@ -81,7 +74,7 @@ std::vector<KnownApp> fitting(const AppRequest& request, const AskContext& conte
 {
     std::vector<KnownApp> apps;
     std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(apps),
-                         [&](const KnownApp& app) { return request.admits(app) && isPresent(app, context); });
+                         [&](const KnownApp& app) { return request.admits(app); });
     std::ranges::stable_sort(apps, [&](const KnownApp& a, const KnownApp& b) {
         if (!a.bytes || !b.bytes)
             return a.bytes.has_value() && !b.bytes;
@@ -118,6 +111,20 @@ Message listedApps(const AppRequest& request, const AskContext& context)
             {{"apps", std::move(names)}}};
 }
 
+/// How many there are, and what they take together if all are measured.
+Message countOf(const std::vector<KnownApp>& apps)
+{
+    const Place count{"count", std::ssize(apps)};
+    std::int64_t bytes = 0;
+    for (const KnownApp& app : apps)
+        bytes = checkedAdd(bytes, app.bytes.value_or(0));
+    const bool isMeasured =
+        std::ranges::all_of(apps, [](const KnownApp& app) { return app.bytes.has_value(); });
+    if (apps.empty() || !isMeasured)
+        return {InsightTexts::kAppsListed, {count}};
+    return {InsightTexts::kAppsWithTotal, {count, {"size", Bytes{bytes}}}};
+}
+
 std::optional<Answer> apps(const Question& question, const AskContext& context)
 {
     std::vector<Message> lines;
@@ -129,10 +136,7 @@ std::optional<Answer> apps(const Question& question, const AskContext& context)
             return std::nullopt;
         const bool isListed = request->over || request->under || request->isSmallest;
         if (context.apps && !isListed)
-            lines.push_back({InsightTexts::kAppsListed,
-                             {{"count", std::ranges::count_if(*context.apps, [&](const KnownApp& app) {
-                                   return isPresent(app, context);
-                               })}}});
+            lines.push_back(countOf(*context.apps));
         if (const auto size = sizeOfSubject(question, context); size && !isListed)
             lines.push_back(size->text);
         lines.push_back(listedApps(*request, context));
@@ -142,43 +146,7 @@ std::optional<Answer> apps(const Question& question, const AskContext& context)
     return Answer{AskText::lines(std::move(lines)), {}};
 }
 
-Message startupLine(const AskContext& context, bool isEnabled, const Text& text)
-{
-    Several names{{}, Several::Joint::commas};
-    for (const KnownStartupItem& item : context.startupItems.value_or(std::vector<KnownStartupItem>())) {
-        if (item.isEnabled == isEnabled)
-            names.messages.push_back(Message::verbatim(PathText::forDisplay(item.name)));
-    }
-    if (names.messages.empty())
-        return {};
-    return {text, {{"count", std::ssize(names.messages)}, {"names", std::move(names)}}};
-}
-
-Answer startup(const AskContext& context)
-{
-    return {AskText::lines({startupLine(context, true, InsightTexts::kStartingItems),
-                            startupLine(context, false, InsightTexts::kStoppedItems),
-                            InsightTexts::kStartupScreen}),
-            {}};
-}
-
-/// The folders in one, with their sizes.
-Message storedIn(std::string_view pattern, const AskContext& context)
-{
-    const std::vector<std::string> paths = Places::current().expand(pattern);
-    const auto folder =
-        context.home == nullptr || paths.empty() ? std::nullopt : context.home->folderAt(paths.front());
-    if (!folder)
-        return {};
-    const HomeFiles& home = *context.home;
-    std::vector<Message> lines;
-    const HomeFiles::Number last = home.foldersFrom(*folder).last;
-    for (HomeFiles::Number each = *folder + 1; each < last; each = home.foldersFrom(each).last)
-        lines.push_back({InsightTexts::kDownload,
-                         {{"name", tilde(home.folderPath(each))}, {"size", Bytes{home.folder(each).bytes}}}});
-    return AskText::lines(std::move(lines));
-}
-
+/// Those that came with Flatpak or as Snaps, and what they take.
 std::optional<Answer> packaged(const Question& question, const AskContext& context, KnownApp::Source source,
                                const Text& how)
 {
@@ -187,83 +155,26 @@ std::optional<Answer> packaged(const Question& question, const AskContext& conte
         return std::nullopt;
     request->source = source;
     request->count = std::max<std::size_t>(request->count, kNamedApps * 2);
-    const Message listed = listedApps(*request, context);
     const bool isFlatpak = source == KnownApp::Source::flatpak;
-    const std::string_view stored = isFlatpak ? "{H}/.var/app" : "{H}/snap";
-    return Answer{AskText::lines({listed.empty() ? storedIn(stored, context) : listed, how}), {}};
-}
-
-/// What Steam takes with all it has: its folders. Of its games, those in its libraries.
-Answer steam(const Question& question, const AskContext& context)
-{
-    const bool areGames = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
-        return phrase.subject != nullptr && plainLetters(phrase.text) != "steam";
-    });
-    const HomeFiles& home = *context.home;
-    Answer answer;
-    std::vector<CategoryFolder> each;
-    std::int64_t bytes = 0;
-    const auto add = [&](HomeFiles::Number number) {
-        each.push_back({OrlenCategory::apps, home.folderPath(number), home.folder(number).bytes, {}});
-        bytes = checkedAdd(bytes, home.folder(number).bytes);
-    };
-    for (const std::string& folder :
-         Places::current().expand(areGames ? "{STEAM}/steamapps/common" : "{STEAM}")) {
-        const auto at = home.folderAt(folder);
-        if (!at)
-            continue;
-        if (!areGames) {
-            add(*at);
-            continue;
-        }
-        const HomeFiles::Number last = home.foldersFrom(*at).last;
-        for (HomeFiles::Number game = *at + 1; game < last; game = home.foldersFrom(game).last)
-            add(game);
-    }
-    std::ranges::stable_sort(each, std::greater{}, &CategoryFolder::bytes);
+    const Place files{"files", within(isFlatpak ? InsightTexts::kFlatpakApps : InsightTexts::kSnapApps)};
+    const std::vector<KnownApp> apps = fitting(*request, context);
     std::vector<Message> lines;
-    if (each.size() != 1)
-        lines.push_back(each.empty() ? Message{InsightTexts::kNoFilesThere,
-                                               {{"files", within(Message::verbatim("Steam"))}}}
-                                     : Message{InsightTexts::kFilesThere,
-                                               {{"files", within(InsightTexts::kFolders)},
-                                                {"count", std::ssize(each)},
-                                                {"size", Bytes{bytes}}}});
-    constexpr std::size_t kShown = 10;
-    for (const CategoryFolder& one : std::span(each).first(std::min(each.size(), kShown))) {
-        const Text text = each.size() == 1 ? InsightTexts::kFolderTakes : InsightTexts::kDownload;
+    if (!apps.empty() && !request->over && !request->under) {
+        std::int64_t bytes = 0;
+        for (const KnownApp& app : apps)
+            bytes = checkedAdd(bytes, app.bytes.value_or(0));
         lines.push_back(
-            {text, {{each.size() == 1 ? "folder" : "name", tilde(one.path)}, {"size", Bytes{one.bytes}}}});
-        answer.paths.push_back(one.path);
+            {InsightTexts::kFilesThere, {files, {"count", std::ssize(apps)}, {"size", Bytes{bytes}}}});
     }
-    if (each.size() > kShown)
-        lines.push_back({InsightTexts::kMoreFit, {{"count", std::ssize(each) - std::ssize(lines) + 1}}});
-    lines.emplace_back(InsightTexts::kGames);
-    answer.text = AskText::lines(std::move(lines));
-    return answer;
-}
-
-/// What the folders of games take.
-std::optional<Answer> games(const Question& question, const AskContext& context)
-{
-    constexpr SenseSet kOther{Sense::newest, Sense::oldest, Sense::period, Sense::unopened, Sense::size};
-    if (question.senses.meets(kOther))
-        return std::nullopt;
-    const bool isSteam = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
-        return phrase.subject != nullptr && plainLetters(phrase.text).find("steam") != std::string::npos;
-    });
-    if (isSteam && context.home != nullptr)
-        return steam(question, context);
-    std::vector<Message> lines;
-    for (const CategoryFolder& folder : context.breakdown.folders) {
-        constexpr std::string_view kOfGames[] = {"Steam", "steam", "Games", "lutris", "bottles"};
-        const std::string_view name = PathText::lastComponent(folder.path);
-        if (folder.category == OrlenCategory::apps && std::ranges::find(kOfGames, name) != std::end(kOfGames))
-            lines.push_back({InsightTexts::kFolderTakes,
-                             {{"folder", tilde(folder.path)},
-                              {"size", Bytes{folderSize(context, folder.path).value_or(folder.bytes)}}}});
+    if (!apps.empty() || request->over || request->under) {
+        lines.push_back(listedApps(*request, context));
+    } else {
+        // What they keep may still be there.
+        if (context.apps)
+            lines.push_back({InsightTexts::kNoFilesThere, {files}});
+        lines.push_back(foldersIn(isFlatpak ? "{H}/.var/app" : "{H}/snap", context));
     }
-    lines.emplace_back(InsightTexts::kGames);
+    lines.push_back(how);
     return Answer{AskText::lines(std::move(lines)), {}};
 }
 
@@ -294,7 +205,10 @@ Answer described(const KnownApp& app)
     const Message size = app.bytes ? Message{InsightTexts::kAppTakes, {name, {"size", Bytes{*app.bytes}}}}
                                    : Message{InsightTexts::kAppUnmeasured, {name}};
     const Message removal = app.advice.empty() ? Message{InsightTexts::kAppRemoval} : app.advice;
-    return {AskText::sentences({size, removal}), {}};
+    const Message use = app.lastUse && app.isUseNoted
+                            ? Message{InsightTexts::kAppUsedOn, {{"date", dayOf(*app.lastUse)}}}
+                            : Message();
+    return {AskText::sentences({size, use, removal}), {}};
 }
 
 } // namespace
@@ -324,7 +238,7 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     case SubjectID::startup:
         return startup(context);
     case SubjectID::containers:
-        return Answer{InsightTexts::kContainers, {}};
+        return containers(context);
     case SubjectID::flatpak:
         return packaged(question, context, KnownApp::Source::flatpak, InsightTexts::kFlatpaks);
     case SubjectID::snap:
@@ -333,25 +247,15 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
         return games(question, context);
     case SubjectID::leftovers:
         return leftovers(context);
+    case SubjectID::virtualMachines:
+    case SubjectID::wine:
+    case SubjectID::buildOutput:
+    case SubjectID::environments:
+        return listOfStored(*found->subject, context);
     default:
         // Any other program is one of the applications.
         return question.count(Sense::subject) > 1 ? std::nullopt : apps(question, context);
     }
-}
-
-std::optional<Answer> startupOf(const Question& question, const AskContext& context)
-{
-    const Subject* const subject = question.subject();
-    if (subject == nullptr || subject->id != SubjectID::startup || !context.startupItems)
-        return std::nullopt;
-    const auto isItem = [&](const Phrase& phrase) {
-        const std::string wanted = " " + plainLetters(phrase.text) + " ";
-        return (phrase.sense != Sense::unknown && phrase.sense != Sense::quoted) ||
-               std::ranges::any_of(*context.startupItems, [&](const KnownStartupItem& item) {
-                   return (" " + plainLetters(item.name) + " ").find(wanted) != std::string::npos;
-               });
-    };
-    return std::ranges::all_of(question.phrases, isItem) ? std::optional(startup(context)) : std::nullopt;
 }
 
 std::optional<Answer> isInstalled(const Question& question, const AskContext& context)

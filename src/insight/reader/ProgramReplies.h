@@ -6,15 +6,12 @@
 #include <optional>
 #include <string_view>
 
-/// Answers about applications, what starts at login, containers and games: a line, and the screen or command
-/// for it. Pure; any thread.
+/// Answers about applications and what belongs to them: a line, and the screen or command for it. Pure; any
+/// thread.
 namespace orlen::AskReader {
 
 /// Nothing if the question is about no such subject.
 [[nodiscard]] std::optional<Answer> aboutPrograms(const Question& question, const AskContext& context);
-
-/// What starts at login, if the question names one of those items.
-[[nodiscard]] std::optional<Answer> startupOf(const Question& question, const AskContext& context);
 
 /// Whether what the question names is an installed application.
 [[nodiscard]] std::optional<Answer> isInstalled(const Question& question, const AskContext& context);

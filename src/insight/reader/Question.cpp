@@ -18,7 +18,7 @@ public:
         : m_words(std::move(words)), m_lexicon(lexicon), m_now(now), m_isName(isName), m_typos(typos)
     {
         for (const Word& word : m_words)
-            m_plain.push_back(word.plain);
+            m_plain.push_back(typos == Typos::corrected ? unswapped(word) : word.plain);
         m_question.lexicon = &lexicon;
         m_question.words = m_words.size();
     }
@@ -35,6 +35,33 @@ public:
 
 private:
     [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_plain).subspan(m_at); }
+
+    /// "hwo": two letters in the wrong order make no other word that is known, even of a short one, which may
+    /// be part of a phrase.
+    std::string unswapped(const Word& word)
+    {
+        constexpr std::size_t kShortest = 3;
+        const std::string& typed = word.plain;
+        const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
+        if (word.isQuoted || typed.size() < kShortest || m_lexicon.isWord(typed) ||
+            !std::ranges::all_of(typed, isLetter) || isRightAsItStands(typed))
+            return typed;
+        // The first letter is seldom the wrong one.
+        std::string only;
+        for (std::size_t i = typed.size() - 1; i-- > 0;) {
+            std::string other = typed;
+            std::swap(other[i], other[i + 1]);
+            if (other == typed || !m_lexicon.isWord(other) || (i == 0 && !only.empty()))
+                continue;
+            if (!only.empty())
+                return typed;
+            only = std::move(other);
+        }
+        if (only.empty())
+            return typed;
+        ++m_question.corrected;
+        return only;
+    }
 
     void take(Phrase phrase, std::size_t count)
     {
@@ -74,8 +101,14 @@ private:
         constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
         const Lexicon::Entry* const entry = m_lexicon.find(m_plain[m_at]);
         const std::optional<Sense> label = ratingCalled(m_plain[m_at]);
-        if (label || (entry != nullptr && kRatings.has(entry->sense))) {
-            take({label ? *label : entry->sense, {}, nullptr, 0, {}}, 1);
+        if (label) {
+            take({*label, {}, nullptr, 0, {}}, 1);
+            return true;
+        }
+        const bool isSystem =
+            entry != nullptr && entry->subject != nullptr && entry->subject->id == SubjectID::system;
+        if (entry != nullptr && (isSystem || kRatings.has(entry->sense))) {
+            take({entry->sense, {}, entry->subject, 0, {}}, 1);
             return true;
         }
         take({Sense::quoted, {}, nullptr, 0, {}}, 1);

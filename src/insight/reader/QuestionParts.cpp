@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace orlen::AskReader {
@@ -41,6 +42,11 @@ bool isNamedFile(const Phrase& phrase)
 
 std::vector<Question> partsOf(const Question& question)
 {
+    // "When was my last clean-up and how much did it free" is about one thing.
+    constexpr SenseSet kOfCleanUp{last,   cleanUp, when,    howMuch, howMany,
+                                  howBig, what,    general, space,   remove};
+    if (question.senses.has(last) && question.senses.has(cleanUp) && question.senses.isWithin(kOfCleanUp))
+        return {question};
     std::vector<Question> parts;
     std::size_t from = 0;
     for (std::size_t i = 1; i < question.phrases.size(); ++i) {
@@ -51,7 +57,11 @@ std::vector<Question> partsOf(const Question& question)
         // "Largest photos? Oldest documents?"
         constexpr SenseSet kSorts{biggest, smallest, oldest, newest};
         const Sense sense = question.phrases[i].sense;
-        const bool isOtherList = kSorts.has(sense) && senses.meets(kSorts) && senses.has(subject);
+        const bool isOfSomething =
+            std::any_of(std::next(question.phrases.begin(), static_cast<std::ptrdiff_t>(i)),
+                        question.phrases.end(), [](const Phrase& each) { return each.subject != nullptr; });
+        const bool isOtherList =
+            kSorts.has(sense) && senses.meets(kSorts) && senses.has(subject) && isOfSomething;
         if (question.phrases[i].isJoined &&
             (isOtherList || (kQuestionWords.has(sense) && isBeforeComplete))) {
             parts.push_back(part(question, from, i));
@@ -62,6 +72,33 @@ std::vector<Question> partsOf(const Question& question)
     return parts;
 }
 
+std::optional<Question> undressed(const Question& question)
+{
+    constexpr SenseSet kDress{what, why,  can,     howMuch, general,  advise,  biggest, most,   takes,
+                              grow, self, happens, full,    makeRoom, cleanUp, trust,   newest, handled};
+    const std::vector<Phrase>& phrases = question.phrases;
+    std::vector<std::size_t> starts{0};
+    for (std::size_t i = 1; i < phrases.size(); ++i) {
+        if (phrases[i].isJoined)
+            starts.push_back(i);
+    }
+    const auto isDress = [&](std::size_t from, std::size_t to) {
+        return part(question, from, to).senses.isWithin(kDress);
+    };
+    std::size_t first = 0;
+    std::size_t last = starts.size();
+    const auto startOf = [&](std::size_t clause) {
+        return clause < starts.size() ? starts[clause] : phrases.size();
+    };
+    while (last > first + 1 && isDress(startOf(last - 1), startOf(last)))
+        --last;
+    while (last > first + 1 && isDress(startOf(first), startOf(first + 1)))
+        ++first;
+    if (last - first == starts.size())
+        return std::nullopt;
+    return part(question, startOf(first), startOf(last));
+}
+
 std::vector<Question> distributed(const Question& question)
 {
     const auto isAlike = [&](std::size_t i) {
@@ -70,7 +107,11 @@ std::vector<Question> distributed(const Question& question)
         return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
                                    (isNamedFile(phrase) && isNamedFile(previous)));
     };
-    // "How much do pip and npm free together": one sum.
+    // "How much would I gain without the isos and the trash", "how much do pip and npm free together": one
+    // sum.
+    constexpr SenseSet kGone{remove, makeRoom};
+    if (question.senses.meets({howMuch, howBig}) && question.senses.meets(kGone))
+        return {question};
     const auto isFinding = [](const Phrase& phrase) {
         return phrase.subject == nullptr || !phrase.subject->kinds.empty();
     };

@@ -2,6 +2,8 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsWhatIf.h"
+#include "insight/reader/HistoryReplies.h"
 #include "insight/reader/SubjectReplies.h"
 
 #include <algorithm>
@@ -36,6 +38,21 @@ bool isGeneral(const Question& question)
 std::optional<Answer> privacy(const Question& /*question*/, const AskContext& /*context*/)
 {
     return Answer{InsightTexts::kPrivacy, {}};
+}
+
+std::optional<Answer> howOften(const Question& /*question*/, const AskContext& context)
+{
+    return Answer{AskText::sentences({InsightTexts::kNoRhythm, lastCleanUpOf(context.history)}), {}};
+}
+
+std::optional<Answer> whichRights(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kNoRights, {}};
+}
+
+std::optional<Answer> emptyFolders(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kNoEmptyFolders, {}};
 }
 
 std::optional<Answer> whatIsNeverTouched(const Question& question, const AskContext& /*context*/)

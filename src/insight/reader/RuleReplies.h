@@ -12,6 +12,15 @@ namespace orlen::AskReader {
 /// Nothing leaves this computer.
 [[nodiscard]] std::optional<Answer> privacy(const Question& question, const AskContext& context);
 
+/// How often to clean up, and when that last happened.
+[[nodiscard]] std::optional<Answer> howOften(const Question& question, const AskContext& context);
+
+/// That Orlen needs no rights of an administrator.
+[[nodiscard]] std::optional<Answer> whichRights(const Question& question, const AskContext& context);
+
+/// That Orlen doesn't look for them.
+[[nodiscard]] std::optional<Answer> emptyFolders(const Question& question, const AskContext& context);
+
 /// What is never moved.
 [[nodiscard]] std::optional<Answer> whatIsNeverTouched(const Question& question, const AskContext& context);
 

@@ -9,7 +9,9 @@
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
+#include "insight/reader/StartupReplies.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/WhatIfReplies.h"
 
 #include <utility>
 #include <vector>
@@ -72,7 +74,26 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
 const std::vector<Rule>& rules()
 {
     static const std::vector<Rule> inOrder{
+        // What would be
+        {{{howMuch, howBig},
+          {remove, makeRoom, except},
+          {subject, unknown, quoted, ending, safe, review, except}},
+         kSpaceWords.with({can,      general, inside,  folder, size,    above,  below,  before,
+                           after,    keep,    period,  what,   mean,    lasts,  undo,   safe,
+                           unopened, review,  cleanUp, ending, unknown, quoted, subject}),
+         freedByThem},
+        {{{howMuch, howBig}, {happens}, {space, free}, {subject, unknown, quoted, ending, safe}},
+         kSpaceWords.with({general, lasts, ending, quoted, subject}),
+         freedByThem},
+        {{{free}, {space}, {except}}, {general, total}, freedByThem},
+        {{{free, space}, {remove, makeRoom}, {subject, unknown, quoted, ending, safe}},
+         kSpaceWords.with({happens, after, general, lasts, mean, folder, ending, quoted, subject}),
+         freedByThem},
         // Orlen itself
+        {{{rhythm}}, kAsking.with({cleanUp, remove, makeRoom, disk, space, subject, advise}), howOften},
+        {{{rights}}, kAsking.with({negation, remove, privacy, why, cleanUp, subject, self}), whichRights},
+        {{{vacant}}, SenseSet::all(), emptyFolders},
+        {{{what}, {can}, {negation}}, {general}, whatIsNotItsJob},
         {{{self}}, {what, can, general}, whatOrlenAnswers},
         {{{beyond}},
          {what,  can,  general, disk,   why,  privacy, safe, howMuch, howBig,   general, subject,
@@ -110,7 +131,8 @@ const std::vector<Rule>& rules()
          howToUndo},
         // Past clean-ups
         {{{cleanUp, remove, free, makeRoom}, {soFar}},
-         kAsking.with({cleanUp, space, remove, total, subject, makeRoom}),
+         kAsking.with(
+             {cleanUp, space, remove, total, subject, makeRoom, period, inside, since, after, before}),
          allCleanUps},
         {{{cleanUp}, {howMany}}, {what, general, last, subject, disk, period}, allCleanUps},
         {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
@@ -127,7 +149,7 @@ const std::vector<Rule>& rules()
          {cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
-        {{{soFar}}, {what, general, cleanUp, howMany, howMuch}, allCleanUps},
+        {{{soFar}}, kAsking.with({cleanUp, total, space, disk}), allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         {{{unknown, general}, {subject, oldest, newest, disk}},
          {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
@@ -164,6 +186,7 @@ const std::vector<Rule>& rules()
         {{{lasts}, {when, period}},
          kSpaceWords.with({size, what, can, before, general, inside, full, last, howMuch, negation}),
          fullWhen},
+        {{{size}, {before}, {period}}, kSpaceWords.with({can, lasts, full, what, general}), roomLater},
         {{{last}, {disk, space}, {period}}, {before, can, general, what, inside}, roomLater},
         {{{space, disk, free, used}, {period}},
          kSpaceWords.with({what, can, before, general, inside, howMuch, howBig, lasts, negation, full}),
@@ -183,6 +206,7 @@ const std::vector<Rule>& rules()
         {{{howMuch, howBig}, {free, makeRoom, remove, can}, {subject}},
          {space, can, remove, general, disk, howBig, cleanUp, safe, folder, what, except, undo},
          freedBySubject},
+        {{{size}}, {can, general}, roomFor},
         {{{free}},
          kSpaceWords.with({howMuch, howBig, howMany, what, general, size, inside, negation, above, below}),
          spaceNow},

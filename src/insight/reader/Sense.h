@@ -62,6 +62,11 @@ enum class Sense : std::uint8_t {
     cleanUp,
     undo,
     soFar,
+    freed,   ///< "have I freed": of past clean-ups
+    rhythm,  ///< "how often should I"
+    rights,  ///< of an administrator
+    vacant,  ///< empty folders
+    inPeace, ///< "leave … alone": what is left out
     privacy,
     untouched,
     ruleOut, ///< to exclude something from all scans

@@ -2,11 +2,9 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
-#include "insight/reader/Exclusions.h"
-#include "insight/reader/FindingParts.h"
+#include "insight/reader/FindingLists.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/Names.h"
-#include "insight/reader/Proposal.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
@@ -18,19 +16,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-/// Lines with links to the findings they are about.
-struct Lines {
-    std::vector<Message> texts;
-    std::vector<std::string> ids;
-
-    [[nodiscard]] std::optional<Answer> answer() const
-    {
-        if (texts.empty())
-            return std::nullopt;
-        return Answer{AskText::lines(texts), ids};
-    }
-};
 
 struct Amount {
     std::int64_t count = 0;
@@ -72,33 +57,6 @@ void addFolder(Lines& lines, const Subject& subject, const AskContext& context)
             {InsightTexts::kFolderTakes, {{"folder", tilde(folder)}, {"size", Bytes{*bytes}}}});
 }
 
-/// Whoever says "all caches" means these too.
-bool isPackageCache(FindingKind kind)
-{
-    using enum FindingKind;
-    return kind == npm || kind == pip || kind == gradle || kind == homebrew;
-}
-
-std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext& context)
-{
-    std::vector<const Finding*> findings;
-    for (const Finding& finding : context.findings) {
-        const bool isPackages = subject.id == SubjectID::caches && isPackageCache(finding.kind);
-        if (isPackages || std::ranges::find(subject.kinds, finding.kind) != subject.kinds.end())
-            findings.push_back(&finding);
-    }
-    return findings;
-}
-
-void addFindings(Lines& lines, const Subject& subject, const AskContext& context)
-{
-    for (const Finding* const finding : findingsOf(subject, context)) {
-        const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding->items)}}};
-        lines.texts.push_back(AskText::sentences({AskText::rated(*finding), count}));
-        lines.ids.emplace_back(finding->id());
-    }
-}
-
 void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
 {
     if (subject.extensions.empty())
@@ -119,26 +77,6 @@ void addFiles(Lines& lines, const Subject& subject, const AskContext& context)
     else
         lines.texts.push_back(
             {InsightTexts::kSomeListed, {files, {"count", amount.count}, {"size", Bytes{amount.bytes}}}});
-}
-
-/// Those that have such a name, whether or not the scan lists them; nothing of other kinds.
-std::optional<Answer> screenshotsByName(const Subject& subject, const AskContext& context)
-{
-    if (subject.id != SubjectID::screenshots || context.home == nullptr)
-        return std::nullopt;
-    Question files;
-    files.phrases.push_back({Sense::subject, {}, &subject});
-    return listOfFiles(withPhrases(files, files.phrases), context);
-}
-
-/// For kinds of which the scan has found nothing.
-Answer nothingFound(const Subject& subject, const AskContext& context)
-{
-    if (auto answer = screenshotsByName(subject, context))
-        return *std::move(answer);
-    if (context.findings.empty())
-        return {InsightTexts::kNoScan, {}};
-    return {Message{InsightTexts::kNoneFound, {{"files", within(subject.name)}}}, {}};
 }
 
 /// What the question is about: not "files" if it says more. Null if it is about one kind within a folder.
@@ -212,6 +150,10 @@ std::optional<Answer> sizeOfSubject(const Question& question, const AskContext& 
     if (main == nullptr)
         return std::nullopt;
     const Subject& subject = *main;
+    if (auto answer = recognisedFiles(subject, context))
+        return answer;
+    if (subject.id == SubjectID::similarPhotos && !context.findings.empty())
+        return similarPhotos(subject, context);
     Lines lines;
     addFolder(lines, subject, context);
     if (subject.category)
@@ -230,7 +172,15 @@ std::optional<Answer> whatSubjectIs(const Question& question, const AskContext& 
         return std::nullopt;
     Lines lines;
     lines.texts.emplace_back(meta(subject.kinds.front()).explanation);
+    if (auto files = recognisedFiles(subject, context)) {
+        files->text = AskText::lines({lines.texts.front(), files->text});
+        return files;
+    }
+    if (subject.id == SubjectID::similarPhotos && !context.findings.empty())
+        return similarPhotos(subject, context);
     addFindings(lines, subject, context);
+    for (const Finding* const finding : findingsOf(subject, context))
+        addItems(lines, *finding);
     return lines.ids.empty() ? std::nullopt : lines.answer();
 }
 
@@ -277,63 +227,10 @@ std::optional<Answer> comparison(const Question& question, const AskContext& con
     return Answer{AskText::lines(std::move(lines)), {}};
 }
 
-std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
-{
-    const auto exclusions = Exclusions::of(question, context);
-    if (!exclusions)
-        return std::nullopt;
-    Several names{{}, Several::Joint::list};
-    std::vector<Hit> hits;
-    for (const Phrase& phrase : question.phrases) {
-        if (phrase.subject == nullptr)
-            continue;
-        if (phrase.subject->kinds.empty())
-            return std::nullopt;
-        names.messages.emplace_back(phrase.subject->name);
-        for (const Finding* const finding : findingsOf(*phrase.subject, context)) {
-            for (const FileEntry& entry : finding->items) {
-                if (exclusions->empty() || !exclusions->leaveOut(*finding, entry))
-                    hits.push_back({finding, &entry});
-            }
-        }
-    }
-    if (hits.empty())
-        return nothingFound(*question.subject(), context);
-    hits = eachOnce(std::move(hits));
-    Answer answer;
-    std::int64_t safe = 0;
-    for (const Hit& hit : hits) {
-        if (hit.finding->cleanable && hit.finding->effectiveRating(*hit.entry) == Rating::safe)
-            safe = checkedAdd(safe, hit.entry->size);
-    }
-    const Message sum{InsightTexts::kWithoutThem,
-                      {{"files", std::move(names)},
-                       {"count", std::ssize(hits)},
-                       {"size", Bytes{bytesOf(hits)}},
-                       {"safe", Bytes{safe}}}};
-    std::vector<Message> lines{exclusions->said(), sum};
-    for (const FindingPart& part : partsOf(hits)) {
-        answer.findingIDs.emplace_back(part.finding->id());
-        lines.push_back(
-            {InsightTexts::kDownload, {{"name", within(part.finding->title)}, {"size", Bytes{part.bytes}}}});
-    }
-    if (answer.findingIDs.size() < 2)
-        lines.pop_back();
-    answer.text = AskText::lines(std::move(lines));
-    for (const Rating rating : {Rating::safe, Rating::review}) {
-        std::vector<Hit> chosen = choosable(context, rating, *exclusions);
-        std::erase_if(chosen, [&](const Hit& hit) {
-            return std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end();
-        });
-        appendPaths(answer.proposal, chosen);
-    }
-    return answer;
-}
-
 std::optional<Answer> neverOpened(const Question& question, const AskContext& context)
 {
     Phrase old = *question.first(Sense::subject);
-    if (!old.subject->isAnyFile)
+    if (!old.subject->isAnyFile && old.subject->id != SubjectID::oldFiles)
         return std::nullopt;
     old.subject = &subjectFor(SubjectID::oldFiles);
     return sizeOfSubject(withPhrases(question, {std::move(old)}), context);

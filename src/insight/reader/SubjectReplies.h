@@ -26,9 +26,6 @@ namespace orlen::AskReader {
 /// The sizes of two subjects that the question compares, one below the other.
 [[nodiscard]] std::optional<Answer> comparison(const Question& question, const AskContext& context);
 
-/// How much removing all of them together would free; proposes what of it is not rated Keep.
-[[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
-
 /// What has not been opened for long.
 [[nodiscard]] std::optional<Answer> neverOpened(const Question& question, const AskContext& context);
 

@@ -1,6 +1,7 @@
 #include "insight/reader/Subjects.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsWhatIf.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -112,7 +113,7 @@ const std::vector<Subject>& subjects()
          ""},
         {ID::installers,
          messageIn("files, within a sentence", "installers"),
-         "deb rpm dmg pkg exe msi appimage run flatpakref snap",
+         "deb rpm dmg pkg exe msi appimage run flatpakref snap iso",
          {},
          {},
          ""},
@@ -149,6 +150,17 @@ const std::vector<Subject>& subjects()
         {ID::games, {}, "", {}, {}, "", false, true},
         {ID::leftovers, {}, "", {}, {}, "", false, true},
         {ID::systemAdvice, {}, "", {}, {}, "", false, true},
+        {ID::virtualMachines,
+         messageIn("files, within a sentence", "virtual machines"),
+         "",
+         {},
+         {},
+         "",
+         false,
+         true},
+        {ID::wine, messageIn("files, within a sentence", "folders of Wine"), "", {}, {}, "", false, true},
+        {ID::buildOutput, InsightTexts::kBuildOutput, "", {}, {}, "", false, true},
+        {ID::environments, InsightTexts::kVirtualEnvironments, "", {}, {}, "", false, true},
     };
     return all;
 }
@@ -221,6 +233,14 @@ bool isKnownEnding(std::string_view ending)
     constexpr std::string_view kElse[] = {"pdf",  "pages", "numbers", "key",  "run", "raw", "ts",
                                           "snap", "doc",   "tex",     "opus", "pkg", "img", "md"};
     return std::ranges::find(kElse, ending) == std::end(kElse) && isEndingOfKind(ending);
+}
+
+bool isListedAs(const Subject& subject, FindingKind kind)
+{
+    using enum FindingKind;
+    const bool isPackages = kind == npm || kind == pip || kind == gradle || kind == homebrew;
+    return (subject.id == SubjectID::caches && isPackages) ||
+           std::ranges::find(subject.kinds, kind) != subject.kinds.end();
 }
 
 bool hasExtensionOf(const Subject& subject, std::string_view path)

@@ -61,6 +61,10 @@ enum class SubjectID : std::uint8_t {
     games,
     leftovers,
     systemAdvice,
+    virtualMachines,
+    wine,
+    buildOutput,
+    environments,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often
@@ -94,6 +98,10 @@ struct Subject {
 [[nodiscard]] bool isEndingOfKind(std::string_view ending);
 /// The same, and it is no word of its own.
 [[nodiscard]] bool isKnownEnding(std::string_view ending);
+
+/// Whether a finding of this kind is of the subject. Whoever says "caches" means those of package managers
+/// too.
+[[nodiscard]] bool isListedAs(const Subject& subject, FindingKind kind);
 
 /// Whether a file of this name is of the subject's kind.
 [[nodiscard]] bool hasExtensionOf(const Subject& subject, std::string_view path);

@@ -111,7 +111,11 @@ std::vector<Word> wordsOf(std::string_view question)
         const std::string_view word =
             isQuoted ? withoutSpaces(rest.substr(1, close - 1)) : withoutPunctuation(rest.substr(0, end));
         const bool endsClause = kStops.find(rest[end - 1]) != std::string_view::npos;
-        const bool isDash = !isQuoted && word.find_first_not_of("-_=+|") == std::string_view::npos;
+        // "Root / sudo", but not the path.
+        const bool isBetween =
+            word == "/" && !words.empty() && rest.find_first_not_of(kSpaces, end) < rest.size();
+        const bool isDash =
+            !isQuoted && (isBetween || word.find_first_not_of("-_=+|") == std::string_view::npos);
         if (!word.empty() && !isDash)
             words.push_back({std::string(word), plainLetters(word), isQuoted, endsClause});
         else if (endsClause && !words.empty())

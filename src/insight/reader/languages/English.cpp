@@ -5,13 +5,52 @@ namespace orlen::AskReader {
 namespace english_words {
 
 constexpr WordRow kWords[] = {
+    {Sense::rhythm,
+     "how often should i,how often should one,how often should we,how often do i have to,how often "
+     "do i need to,how often must i,how often do you recommend,how often is it good to,how "
+     "often to,how regularly,how frequently,how often is it worth"},
+    {Sense::rights,
+     "need my password,want my password,ask for my password,asks for my "
+     "password,root,sudo,admin,administrator,admin rights,administrator rights,root rights,superuser,as "
+     "root,root access,sudo rights,root privileges,admin privileges,admin password,root password"},
+    {Sense::vacant, "empty folders,empty folder,empty directories,empty directory,empty dirs,empty "
+                    "subfolders,folders that are empty,folders with nothing in them,folders are empty"},
+    {Sense::freed,
+     "have you ever deleted,have you ever moved,have you ever removed,did you ever delete,has orlen ever "
+     "deleted,was anything deleted,was anything removed,was anything moved,was something deleted,anything "
+     "deleted,anything been deleted,did orlen delete,did you delete,have you deleted,has orlen deleted,did "
+     "orlen move,did you move,have "
+     "you moved,has orlen moved,did orlen remove,did you remove,have you removed,did you trash,have you "
+     "trashed,did you clean,have you cleaned,did orlen clean,has orlen cleaned,have i won back,have i "
+     "won,did i win back,have i regained,have i reclaimed,have i recovered,did i reclaim,have you "
+     "reclaimed,was freed,was deleted,was removed,was moved,were deleted,were removed,were moved,did orlen "
+     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we free,have we "
+     "freed,did it free,has it freed,has this program freed,did this program free,has this app freed,did "
+     "this app free,has this tool freed,have i got back,did i get back,i freed,you freed,orlen freed"},
+    {Sense::inPeace, "alone,in peace"},
+    // Orlen itself, where it is asked what it does.
+    {Sense::filler,
+     "somehow,anyhow,to run,to work,completely,totally,fully,another,with this program,with this app,with "
+     "this tool,with this thing,with this software,in this "
+     "program,in "
+     "this "
+     "app,in this tool,by this program,by this app,using this program,using this app,this program,this "
+     "app,this "
+     "tool,this thing,this software,at this rate,at this pace,at the current rate,at the current pace,at the "
+     "present rate,at the present pace,if this goes on,if it goes on like this,if i go on like this,in the "
+     "storage breakdown,in the breakdown,in your breakdown,in the overview,in the chart,in the graph,in the "
+     "storage view,in the storage overview,on this computer,on this machine,on this pc,on this laptop,on the "
+     "computer,in one sweep,after that,afterwards,biggest first,largest first,the biggest first,the largest "
+     "first,biggest on top,largest on top"},
     {Sense::ruleOut, "exclude a folder,exclude a file,exclude folders,exclude my,exclude something,how do i "
                      "exclude,how to exclude,how can i exclude,whitelist,add an exclusion,add "
                      "exclusion,exclusions,exclusion list,exception list,add an exception,never scan,do not "
                      "scan,dont scan,stop scanning,never suggest,stop suggesting,never touch my,ignore a "
                      "folder forever,ignore list,leave out of the scan,keep out of the scan,skip a folder"},
     {Sense::self,
-     "what can you do,what can you tell me,what do you know,what can i ask,what can i ask you,what questions "
+     "questions can i ask,questions can i ask you,which "
+     "questions can i ask,what sort of questions can i ask,what else can i ask,what can you do,what can you "
+     "tell me,what do you know,what can i ask,what can i ask you,what questions "
      "can i ask,who are you,what are you,help,help me,how does this work,how do you work,what is orlen,what "
      "does orlen do,hello,hi,hey,good morning,good evening,thanks,thank you,thx,what is this program,what "
      "does this program do,how do i use this,how do i use orlen,what can orlen do,what can orlen do for "
@@ -99,7 +138,8 @@ constexpr WordRow kWords[] = {
                       "longer,couldn't,wouldn't,ain't,wont,shouldnt,didnt,isnt,arent,wouldnt,couldnt,hasnt,"
                       "wasnt,aint,neither,nor,none,noone,no one"},
     {Sense::except,
-     "not a,not an,not being,that is no,thats no,that's no,except,except for,besides,beside,other than,apart "
+     "that arent,which arent,that isnt,which isnt,arent,not a,not an,not being,that is no,thats no,that's "
+     "no,except,except for,besides,beside,other than,apart "
      "from,aside from,excluding,exclude,but not,not "
      "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
      "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
@@ -112,7 +152,7 @@ constexpr WordRow kWords[] = {
      "enough,still fit,run dry,make it to,make it until,make it till,get me to,get through to,make it "
      "through,be okay until,be ok until,be fine until,good until,sufficient,be sufficient,holds out,carry "
      "on,will i have,will there be,will there still be,will i still have,going to be,gonna be,going to "
-     "have,does it last,will it last,it last,will we have"},
+     "have,does it last,will it last,it last,enough to last,will we have"},
     {Sense::speed, "how fast,how quickly,how rapidly,growth rate,pace,at what rate,what rate,speed,per "
                    "day,per week,per month,each day,each week,each month,a day,a "
                    "week,daily,weekly,monthly,every day,every week,every month"},
@@ -156,10 +196,11 @@ constexpr WordRow kWords[] = {
     {Sense::cleanUp,
      "went to the trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
      "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied,did orlen "
-     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we "
-     "free,did orlen clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
-    {Sense::uninstall, "uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
-                       "the program,delete the program"},
+     "clean,did orlen remove,did orlen move,have you cleaned,did you clean"},
+    {Sense::uninstall,
+     "remove an app,delete an app,remove an application,delete an application,remove a program,delete a "
+     "program,uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "
+     "the program,delete the program"},
     {Sense::remove,
      "any use,any use to me,of any "
      "use,binning,trashing,ditching,nuking,chucking,dumping,tossing,delete,deleted,deleting,deletes,remove,"
@@ -182,9 +223,12 @@ constexpr WordRow kWords[] = {
      "back,back,recoverable,retrievable,retrieve,regret,regretted,resurrect,reinstate,return,returned,put "
      "everything back,oops,unmove,undid,reversed,rescue,salvage,unclean,wrong file,wrong files,shouldn't "
      "have deleted,get it all back"},
-    {Sense::safe, "safe,safely,harmless,ok,dangerous,risky,safest,problem,problems,risk,risks,bad "
-                  "idea,trouble,okay,without worrying,without worry,without risk,without problems,without a "
-                  "problem,without fear,without danger"},
+    {Sense::safe,
+     "safe,safely,harmless,ok,dangerous,risky,safest,problem,problems,risk,risks,bad "
+     "idea,trouble,okay,without worrying,without thinking,without thinking about it,without thinking "
+     "twice,without a second thought,without having to think,without looking,without "
+     "checking,blindly,without worry,without risk,without problems,without a "
+     "problem,without fear,without danger"},
     {Sense::review, "review"},
     {Sense::keep, "keep,kept,hang on to,hold on to,stay,stays,important,essential,necessary,worth "
                   "keeping,valuable,precious,hang onto"},
@@ -196,7 +240,9 @@ constexpr WordRow kWords[] = {
      "flagged,classed,what's a,definition of,describe the,categories mean,have to review,need to review,must "
      "review,must i review,should i review,do i review,the difference between"},
     {Sense::soFar,
-     "so far,all time,all-time,ever freed,until now,up to now,to date,in all,over time,already "
+     "did i ever clean,have i ever cleaned,did i ever clean up,have i ever cleaned up,did you ever "
+     "clean,have you ever cleaned,so far,all time,all-time,ever freed,until now,up to now,to date,in "
+     "all,over time,already "
      "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,all "
      "together,cleanups,clean-ups,cleanings,clean ups,past clean-ups,previous clean-ups,past cleanups,my "
      "clean-ups,my cleanups,ever done,all my cleanups,all my clean-ups,log of cleanups,before today"},
@@ -263,7 +309,8 @@ constexpr WordRow kWords[] = {
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated,earliest,stalest,vintage,from long "
                     "ago,aged,elderly,antique,dated,eldest"},
-    {Sense::newest, "recently,lately,of late,newest,most recent,latest,youngest,recent,recently "
+    {Sense::newest, "did i add,have i added,did i create,have i created,i created,created,recently,lately,of "
+                    "late,newest,most recent,latest,youngest,recent,recently "
                     "changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
                     "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "
@@ -281,7 +328,8 @@ constexpr WordRow kWords[] = {
                    "larger,bigger then,larger then,more then,minimum,upwards of,>,between"},
     {Sense::below, "under,below,smaller than,less than,at most,fewer than,up to,or less,or smaller,no more "
                    "than,no larger than,no bigger than,smaller then,less then,maximum,<"},
-    {Sense::inside, "in,inside,within,from,in the folder,in my,under the folder"},
+    {Sense::inside, "in,inside,in all my,in all of my,in all the,across all my,across my,throughout "
+                    "my,within,from,in the folder,in my,under the folder"},
     {Sense::unopened,
      "not opened,haven't opened,not used,haven't used,unopened,never opened,not touched,haven't "
      "touched,unused,not been opened,haven't been opened,i haven't opened,didn't open,have not opened,not "
@@ -298,7 +346,9 @@ constexpr WordRow kWords[] = {
     {Sense::after, "after,later than"},
     {Sense::last, "last,previous,most recent clean-up,past,last time,latest clean-up"},
     {Sense::privacy,
-     "see my documents,see my stuff,see my data,look at my files,look at my photos,look at my data,look into "
+     "you look into my,you look in my,you look at my,you look through my,you read my,you see my,you go "
+     "through my,you open my,you access my,it read my,it look at my,it look into my,see my documents,see my "
+     "stuff,see my data,look at my files,look at my photos,look at my data,look into "
      "my files,look in my passwords,look at my passwords,read my files,read my documents,read my emails,read "
      "my mail,read my messages,my company see,your company,at your company,stay on my computer,stays on my "
      "computer,stay on this computer,stays on this computer,need internet,need the internet,need wifi,need a "
@@ -316,7 +366,8 @@ constexpr WordRow kWords[] = {
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
-     "loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,simulators,build,"
+     "run,running,loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,"
+     "simulators,build,"
      "code,backup,"
      "backups,ios,language,"
      "languages,translation,mail,attachment,same "
@@ -332,9 +383,22 @@ constexpr WordRow kWords[] = {
 };
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::virtualMachines,
+     "virtual machine,virtual machines,vm,vms,vm image,vm images,virtual machine image,virtual machine "
+     "images,virtual "
+     "disk,virtual disks,vm disk,vm disks,virtualbox,gnome boxes,virtualbox vms,virtual box,qemu,android "
+     "emulator,android emulators,emulators"},
+    {SubjectID::buildOutput, "build artifacts,build artefacts,build artifact,build output,build "
+                             "outputs,build folders,build directories,build "
+                             "leftovers,compiled files,compile output,target folders"},
+    {SubjectID::environments,
+     "venv,venvs,virtualenv,virtualenvs,virtual environment,virtual environments,virtual envs,python "
+     "environments,python venvs,python virtual environments"},
+    {SubjectID::wine,
+     "wine,wine prefix,wine prefixes,wineprefix,wineprefixes,bottles,wine bottles,wine bottle"},
     {SubjectID::systemAdvice, "old kernels,kernels,old kernel,apt cache,apt-cache,apt,package cache,package "
                               "downloads,pacman cache,dnf cache,journal,journald,systemd journal,system "
-                              "logs,old snaps,old snap versions,snap revisions,old revisions"},
+                              "logs"},
     {SubjectID::similarPhotos,
      "similar photos,similar pictures,similar images,similar shots,duplicate photos,duplicate "
      "pictures,duplicate images,duplicated photos,duplicated pictures,duplicate shots,near identical "
@@ -386,7 +450,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::caches,
      "cache,caches,app caches,cache files,cached files,application caches,cached data,app cache,temporary "
      "data,"
-     "temporary files,temp files,cache folder,cache folders,browser cache,tmp files,cache data,temp data"},
+     "temporary files,temp files,cache folder,cache folders,browser cache,browser caches,tmp files,cache "
+     "data,temp data"},
     {SubjectID::developer,
      "developer data,developer files,developer,dev files,developer tools,build files,build data,build "
      "artifacts,development files,dev stuff,build output,build leftovers"},
@@ -422,9 +487,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::installers,
      "installer,installers,installation files,setup files,packages,install files,deb files,debs,appimages,"
      "installer files,setup file,setups"},
-    {SubjectID::diskImages,
-     "disk image,disk images,iso,isos,iso files,iso images,virtual disks,vm images,virtual "
-     "machine images,virtual machines,vms,iso file"},
+    {SubjectID::diskImages, "disk image,disk images,iso,isos,iso files,iso images,iso "
+                            "file"},
     {SubjectID::spreadsheets,
      "spreadsheet,spreadsheets,tables,excel files,excel,excel sheets,csv files,csvs"},
     {SubjectID::presentations, "presentation,presentations,slides,powerpoints,powerpoint,powerpoint files"},
@@ -435,7 +499,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::leftovers,
-     "uninstall leftovers,leftovers,leftover,leftover folders,leftover stuff,leftover files,leftovers of "
+     "left of apps,left of programs,left of applications,uninstall leftovers,leftovers,leftover,leftover "
+     "folders,leftover stuff,leftover files,leftovers of "
      "apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
      "leftovers,flatpak leftovers,snap leftovers,program leftovers,leftovers from apps,leftovers from "
      "programs,left over from apps,left behind,leave behind,leave stuff behind,leave anything behind,leave "
@@ -467,8 +532,10 @@ constexpr SubjectRow kSubjects[] = {
      "docker volumes,kubernetes,distrobox,toolbox"},
     {SubjectID::flatpak, "flatpak,flatpaks,flatpak runtime stuff,flatpak runtime,flatpak stuff,flatpak "
                          "apps,flathub,flatpak runtimes"},
-    {SubjectID::snap, "snap,snaps,snap packages,snap apps,snapd,snap store"},
-    {SubjectID::games, "games,game,steam,steam games,video games,steam library,computer games,lutris,proton"},
+    {SubjectID::snap, "old snaps,old snap versions,snap revisions,old revisions,old snap "
+                      "revisions,snap,snaps,snap packages,snap apps,snapd,snap store"},
+    {SubjectID::games,
+     "games,installed games,game,steam,steam games,video games,steam library,computer games,lutris,proton"},
 };
 
 constexpr FigureRow kFigureRows[] = {

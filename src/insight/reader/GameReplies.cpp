@@ -1,0 +1,120 @@
+#include "insight/reader/GameReplies.h"
+
+#include "insight/AskText.h"
+#include "insight/InsightTexts.h"
+#include "insight/InsightTextsPrograms.h"
+#include "insight/reader/Names.h"
+#include "insight/reader/SubjectReplies.h"
+#include "platform/files/Places.h"
+#include "platform/text/PathText.h"
+#include "platform/values/CheckedSum.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <iterator>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace orlen::AskReader {
+
+namespace {
+
+/// What Steam takes with all it has: its folders. Of its games, those in its libraries.
+Answer steam(const Question& question, const AskContext& context)
+{
+    const bool areGames = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject != nullptr && plainLetters(phrase.text) != "steam";
+    });
+    const HomeFiles& home = *context.home;
+    Answer answer;
+    std::vector<CategoryFolder> each;
+    std::int64_t bytes = 0;
+    const auto add = [&](HomeFiles::Number number) {
+        each.push_back({OrlenCategory::apps, home.folderPath(number), home.folder(number).bytes, {}});
+        bytes = checkedAdd(bytes, home.folder(number).bytes);
+    };
+    for (const std::string& folder :
+         Places::current().expand(areGames ? "{STEAM}/steamapps/common" : "{STEAM}")) {
+        const auto at = home.folderAt(folder);
+        if (!at)
+            continue;
+        if (!areGames) {
+            add(*at);
+            continue;
+        }
+        const HomeFiles::Number last = home.foldersFrom(*at).last;
+        for (HomeFiles::Number game = *at + 1; game < last; game = home.foldersFrom(game).last)
+            add(game);
+    }
+    std::ranges::stable_sort(each, std::greater{}, &CategoryFolder::bytes);
+    std::vector<Message> lines;
+    const Place files{"files", within(areGames ? InsightTexts::kSteamGames : InsightTexts::kFolders)};
+    if (each.empty())
+        lines.push_back({InsightTexts::kNoFilesThere,
+                         {areGames ? files : Place{"files", within(Message::verbatim("Steam"))}}});
+    else if (areGames || each.size() != 1)
+        lines.push_back(
+            {InsightTexts::kFilesThere, {files, {"count", std::ssize(each)}, {"size", Bytes{bytes}}}});
+    constexpr std::size_t kShown = 10;
+    for (const CategoryFolder& one : std::span(each).first(std::min(each.size(), kShown))) {
+        const bool isFolder = !areGames && each.size() == 1;
+        const std::string name =
+            areGames ? PathText::forDisplay(PathText::lastComponent(one.path)) : tilde(one.path);
+        lines.push_back({isFolder ? InsightTexts::kFolderTakes : InsightTexts::kDownload,
+                         {{isFolder ? "folder" : "name", name}, {"size", Bytes{one.bytes}}}});
+        answer.paths.push_back(one.path);
+    }
+    if (each.size() > kShown)
+        lines.push_back(
+            {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(each.size() - kShown)}}});
+    lines.emplace_back(InsightTexts::kGames);
+    answer.text = AskText::lines(std::move(lines));
+    return answer;
+}
+
+bool hasSteamGames(const HomeFiles& home)
+{
+    return std::ranges::any_of(Places::current().expand("{STEAM}/steamapps/common"),
+                               [&](const std::string& folder) {
+                                   const auto at = home.folderAt(folder);
+                                   return at && home.foldersFrom(*at).last > *at + 1;
+                               });
+}
+
+} // namespace
+
+std::optional<Answer> games(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOther{Sense::newest, Sense::oldest, Sense::period, Sense::unopened, Sense::size};
+    if (question.senses.meets(kOther))
+        return std::nullopt;
+    const bool isSteam = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        return phrase.subject != nullptr && plainLetters(phrase.text).find("steam") != std::string::npos;
+    });
+    if (isSteam && context.home != nullptr)
+        return steam(question, context);
+    std::vector<Message> lines;
+    const bool hasSteam = context.home != nullptr && hasSteamGames(*context.home);
+    if (hasSteam)
+        lines.push_back(steam(question, context).text);
+    for (const CategoryFolder& folder : context.breakdown.folders) {
+        constexpr std::string_view kOfGames[] = {"Games", "lutris", "bottles", "heroic", "Steam", "steam"};
+        const std::string_view name = PathText::lastComponent(folder.path);
+        const bool isOfSteam = hasSteam && plainLetters(name) == "steam";
+        if (folder.category == OrlenCategory::apps && !isOfSteam &&
+            std::ranges::find(kOfGames, name) != std::end(kOfGames))
+            lines.push_back({InsightTexts::kFolderTakes,
+                             {{"folder", tilde(folder.path)},
+                              {"size", Bytes{folderSize(context, folder.path).value_or(folder.bytes)}}}});
+    }
+    if (!hasSteam)
+        lines.emplace_back(InsightTexts::kGames);
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "insight/AskEngine.h"
+#include "insight/reader/Question.h"
+
+#include <optional>
+
+namespace orlen::AskReader {
+
+/// The games of Steam by title, and what the folders of other games take. Nothing if the question asks for
+/// more than that. Pure; any thread.
+[[nodiscard]] std::optional<Answer> games(const Question& question, const AskContext& context);
+
+} // namespace orlen::AskReader

@@ -1,0 +1,99 @@
+#include "insight/AskWorld.h"
+#include "scan/HomeWalk.h"
+
+namespace orlen {
+namespace {
+
+/// Questions about what would be if things were removed, and about things told by where they lie.
+class AskWhatIfTest : public AskWorld {
+protected:
+    void SetUp() override
+    {
+        AskWorld::SetUp();
+        context.findings.clear();
+        file("Downloads/mint.iso", 14);
+        file("Downloads/ubuntu.iso", 6);
+        file("Videos/Lake house.mkv", 11);
+        file("Projects/engine/target/out", 8);
+        home.file("Projects/engine/Cargo.toml", "x");
+        file("Projects/site/node_modules/lib.js", 2);
+        home.file("Projects/site/package.json", "x");
+        file("Projects/site/target/notes.txt", 1);
+        file("Projects/site/.venv/lib/python.so", 4);
+        home.file("Projects/site/.venv/pyvenv.cfg", "x");
+        file("VirtualBox VMs/Testing/box.vdi", 3);
+        file(".local/share/gnome-boxes/images/fedora", 5);
+        file(".wine/drive_c/windows.dll", 2);
+        file("Desktop/Screenshot 1.png", 1);
+        file("Pictures/review.png", 1);
+        add(FindingKind::screenshots, Rating::review, message("Screen captures."),
+            {entry("Pictures/review.png", kBytesInMB)});
+        FileEntry copy = entry("Downloads/sea (1).jpg", 3 * kBytesInMB);
+        copy.notes = {message("Identical to sea.jpg")};
+        add(FindingKind::duplicates, Rating::review, message("A copy stays."),
+            {copy, entry("Music/a (1).flac", 40 * kBytesInMB)});
+        add(FindingKind::oldDownloads, Rating::safe, message("Lying around."),
+            {entry("Downloads/mint.iso", 14 * kBytesInMB)});
+        file("Downloads/linuxmint-22.img", 5);
+        add(FindingKind::largeFiles, Rating::review, message("Large."),
+            {entry("Downloads/linuxmint-22.img", 5 * kBytesInMB)});
+        context.home = HomeWalk::walk({});
+    }
+
+    void file(const std::string& name, std::int64_t megabytes) const
+    {
+        constexpr std::int64_t kBlock = 4'096;
+        home.fileOfSize(name, megabytes * kBytesInMB / kBlock * kBlock);
+    }
+};
+
+constexpr Row kWhatIf[] = {
+    {"how much would I free if I delete both isos", "20 MB more (2 items)|mint.iso|120 GB is free now",
+     "mkv"},
+    {"how much free space would I have after removing ubuntu.iso and the lake house video",
+     "17 MB more (2 items)|ubuntu.iso|Lake house.mkv", "mint"},
+    {"how much free space would i have without mint.iso", "14 MB more (1 item)", "ubuntu"},
+    {"what would happen to my free space if i removed ubuntu.iso", "6 MB more (1 item)", "mint"},
+    {"how much space without videos and isos", "31 MB more (3 items)"},
+    {"how much space would I have after removing the linux mint image", "5 MB more (1 item)"},
+    {"if I deleted everything rated Safe how much free space would I have afterwards",
+     "everything rated Safe|14 MB more (1 item)|mint.iso", "ubuntu"},
+    {"how much do i gain if i remove all build artifacts and venvs",
+     "14 MB more (3 items)|engine/target|node_modules|.venv", "site/target"},
+    {"how much would I free if I delete unicorns and mint.iso", "nothing called “unicorns”", "14 MB"},
+    {"how much space would I get back by deleting ISOs over 10 MB", "14 MB more (1 item)|mint", "ubuntu"},
+};
+
+constexpr Row kByPlace[] = {
+    {"is there a virtual machine on this computer", "virtual machines there are 2, 8 MB|fedora|Testing"},
+    {"how big are my wine prefixes", "2 MB|~/.wine"},
+    {"how many installers do I have", "installers there are 2"},
+};
+
+constexpr Row kRecognised[] = {
+    {"how many screenshots do i have", "screenshots there are 2, 2 MB"},
+    {"show me my screenshots",
+     "screenshots there are 2, 2 MB|~/Desktop/Screenshot 1.png|~/Pictures/review.png"},
+    {"how much do my screenshots take", "screenshots there are 2, 2 MB"},
+    {"do I have duplicate photos",
+     "found no similar photos|copies of photos the last scan lists 1|sea (1).jpg", "flac"},
+    {"which files are duplicates", "sea (1).jpg|Identical to sea.jpg|a (1).flac"},
+};
+
+TEST_F(AskWhatIfTest, sumsOfWhatWouldGo)
+{
+    expectAnswers(kWhatIf);
+}
+
+TEST_F(AskWhatIfTest, whatIsToldByItsPlace)
+{
+    expectAnswers(kByPlace);
+}
+
+TEST_F(AskWhatIfTest, countsAndListsAreOfTheSameFiles)
+{
+    expectAnswers(kRecognised);
+}
+
+} // namespace
+} // namespace orlen
