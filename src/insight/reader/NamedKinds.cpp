@@ -124,8 +124,13 @@ Found ofKindNamed(const Question& question, const AskContext& context, const std
     const Subject* const subject = question.subject();
     const bool isKind =
         subject != nullptr && !subject->isAnyFile && !subject->extensions.empty() && subject->kinds.empty();
-    if (words.empty() || name.find('/') != std::string::npos || (ending == nullptr && !isKind) ||
-        PathText::extension(name).size() > 1)
+    // A list with conditions is another question: "old tax documents".
+    constexpr SenseSet kConditions{Sense::oldest, Sense::newest, Sense::biggest,  Sense::smallest,
+                                   Sense::most,   Sense::period, Sense::size,     Sense::before,
+                                   Sense::after,  Sense::since,  Sense::unopened, Sense::last,
+                                   Sense::number, Sense::except, Sense::howMany,  Sense::hidden};
+    if (question.senses.meets(kConditions) || words.empty() || name.find('/') != std::string::npos ||
+        (ending == nullptr && !isKind) || PathText::extension(name).size() > 1)
         return {};
     const IsOfKind isOfKind = [&](std::string_view path) {
         return ending != nullptr ? isNamed(path, ending->text) : hasExtensionOf(*subject, path);
