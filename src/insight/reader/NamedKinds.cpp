@@ -29,9 +29,8 @@ bool holdsAll(std::string_view lower, const Words& words, Standing standing)
 {
     constexpr std::size_t kShortestWithin = 4;
     return std::ranges::all_of(words, [&](const std::string& word) {
-        return standing == Standing::words
-                   ? holdsWord(lower, word)
-                   : word.size() >= kShortestWithin && lower.find(word) != std::string_view::npos;
+        const bool isPart = standing == Standing::parts && word.size() >= kShortestWithin;
+        return isPart ? lower.find(word) != std::string_view::npos : holdsWord(lower, word);
     });
 }
 
@@ -71,6 +70,20 @@ Found withWords(const AskContext& context, const Words& words, const IsOfKind& i
     if (!found.hits.empty() || !found.measured.empty())
         found.fit = Fit::words;
     return found;
+}
+
+/// Keeps what has the words as words of its name, if anything does.
+void preferWords(Found& found, const Words& words)
+{
+    const auto has = [&](std::string_view path) {
+        return holdsAll(lowered(PathText::lastComponent(path)), words, Standing::words);
+    };
+    const auto isHit = [&](const Hit& hit) { return has(hit.entry->path); };
+    const auto isPlace = [&](const Measured& each) { return has(each.path); };
+    if (std::ranges::none_of(found.hits, isHit) && std::ranges::none_of(found.measured, isPlace))
+        return;
+    std::erase_if(found.hits, [&](const Hit& hit) { return !isHit(hit); });
+    std::erase_if(found.measured, [&](const Measured& each) { return !isPlace(each); });
 }
 
 /// The phrases that are named together, apart from what stands behind an "and".
@@ -135,8 +148,9 @@ Found ofKindNamed(const Question& question, const AskContext& context, const std
     const IsOfKind isOfKind = [&](std::string_view path) {
         return ending != nullptr ? isNamed(path, ending->text) : hasExtensionOf(*subject, path);
     };
-    Found found = withWords(context, words, isOfKind);
-    return found.fit == Fit::none ? withWords(context, words, isOfKind, Standing::parts) : found;
+    Found found = withWords(context, words, isOfKind, Standing::parts);
+    preferWords(found, words);
+    return found;
 }
 
 Found machineNamed(const AskContext& context, std::string_view name)
