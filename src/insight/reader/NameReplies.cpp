@@ -291,7 +291,8 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
     const bool isOfKind =
         (subject != nullptr && !subject->kinds.empty() &&
          findNamed(context, name, subject->kinds).fit >= Fit::words) ||
-        ofKindNamed(question, context, name).fit != Fit::none ||
+        (question.senses.isWithin(kOfName.with({Sense::ending})) &&
+         ofKindNamed(question, context, name).fit != Fit::none) ||
         (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words);
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&

@@ -29,9 +29,8 @@ bool holdsAll(std::string_view lower, const Words& words, Standing standing)
 {
     constexpr std::size_t kShortestWithin = 4;
     return std::ranges::all_of(words, [&](const std::string& word) {
-        return standing == Standing::words
-                   ? holdsWord(lower, word)
-                   : word.size() >= kShortestWithin && lower.find(word) != std::string_view::npos;
+        const bool isPart = standing == Standing::parts && word.size() >= kShortestWithin;
+        return isPart ? lower.find(word) != std::string_view::npos : holdsWord(lower, word);
     });
 }
 
@@ -71,6 +70,20 @@ Found withWords(const AskContext& context, const Words& words, const IsOfKind& i
     if (!found.hits.empty() || !found.measured.empty())
         found.fit = Fit::words;
     return found;
+}
+
+/// Keeps what has the words as words of its name, if anything does.
+void preferWords(Found& found, const Words& words)
+{
+    const auto has = [&](std::string_view path) {
+        return holdsAll(lowered(PathText::lastComponent(path)), words, Standing::words);
+    };
+    const auto isHit = [&](const Hit& hit) { return has(hit.entry->path); };
+    const auto isPlace = [&](const Measured& each) { return has(each.path); };
+    if (std::ranges::none_of(found.hits, isHit) && std::ranges::none_of(found.measured, isPlace))
+        return;
+    std::erase_if(found.hits, [&](const Hit& hit) { return !isHit(hit); });
+    std::erase_if(found.measured, [&](const Measured& each) { return !isPlace(each); });
 }
 
 /// The phrases that are named together, apart from what stands behind an "and".
@@ -124,14 +137,20 @@ Found ofKindNamed(const Question& question, const AskContext& context, const std
     const Subject* const subject = question.subject();
     const bool isKind =
         subject != nullptr && !subject->isAnyFile && !subject->extensions.empty() && subject->kinds.empty();
-    if (words.empty() || name.find('/') != std::string::npos || (ending == nullptr && !isKind) ||
-        PathText::extension(name).size() > 1)
+    // A list with conditions is another question: "old tax documents".
+    constexpr SenseSet kConditions{Sense::oldest, Sense::newest, Sense::biggest,  Sense::smallest,
+                                   Sense::most,   Sense::period, Sense::size,     Sense::before,
+                                   Sense::after,  Sense::since,  Sense::unopened, Sense::last,
+                                   Sense::number, Sense::except, Sense::howMany,  Sense::hidden};
+    if (question.senses.meets(kConditions) || words.empty() || name.find('/') != std::string::npos ||
+        (ending == nullptr && !isKind) || PathText::extension(name).size() > 1)
         return {};
     const IsOfKind isOfKind = [&](std::string_view path) {
         return ending != nullptr ? isNamed(path, ending->text) : hasExtensionOf(*subject, path);
     };
-    Found found = withWords(context, words, isOfKind);
-    return found.fit == Fit::none ? withWords(context, words, isOfKind, Standing::parts) : found;
+    Found found = withWords(context, words, isOfKind, Standing::parts);
+    preferWords(found, words);
+    return found;
 }
 
 Found machineNamed(const Question& question, const AskContext& context, std::string_view name)

@@ -219,10 +219,16 @@ Found findTrashed(const AskContext& context, std::string_view name)
 std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::string>& words)
 {
     std::vector<Hit> hits;
+    const std::string& home = Places::current().home;
     std::string text;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            text = lowered(tilde(entry.path)) + " " + lowered(noteOf(entry).base());
+            std::string_view path = entry.path;
+            if (PathText::isAtOrBelow(path, home))
+                path.remove_prefix(home.size());
+            lowerInto(text, path);
+            if (!entry.notes.empty())
+                text += " " + lowered(noteOf(entry).base());
             if (!words.empty() && std::ranges::all_of(words, [&](const std::string& word) {
                     return text.find(word) != std::string::npos;
                 }))
