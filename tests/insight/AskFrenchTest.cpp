@@ -74,6 +74,9 @@ constexpr Row kFrench[] = {
     {"combien de place j'ai recupéré en tout depuis le debut", "2 clean-ups"},
     {"que veut dire à vérifier pour un fichier", "Review:", "lists"},
     {"taille des fichiers en cache", "App caches: 4 GB"},
+    {"les zip de plus de 20 mo", "ending in .zip"},
+    {"steam démarre tout seul", "Nextcloud"},
+    {"taille de la corbielle", "Trash"},
 };
 
 } // namespace

@@ -80,6 +80,9 @@ constexpr Row kGerman[] = {
     {"was heißt prüfen bei einer datei", "Review:", "lists"},
     {"was kannst du nicht", "not what Orlen is for"},
     {"welche grossen dateien liegen am rechner", "Large files: 18 GB"},
+    {"wieviel gb hab ich im mai freigegeben", "May 2026|clean-up"},
+    {"was hab ich alles schon aufgeräumt", "2 clean-ups"},
+    {"startet steam automatisch", "Nextcloud"},
 };
 
 } // namespace

@@ -73,6 +73,7 @@ constexpr Row kItalian[] = {
     {"cosa rientra nel sistema", "System"},
     {"cosa posso togliere dal disco", "You could free about"},
     {"file modificati dal 2 maggio 2026", "since 2 May 2026"},
+    {"cosa ho già cancellato", "2 clean-ups"},
 };
 
 } // namespace

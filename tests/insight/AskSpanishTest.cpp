@@ -72,6 +72,9 @@ constexpr Row kSpanish[] = {
     {"ocupo 4 gb libres", "rated Safe is enough"},
     {"que quiere decir revisar en un archivo", "Review:", "incluye"},
     {"que se abre cuando prendo la compu", "Nextcloud"},
+    {"los archivos más grandes de descargas", "debian.iso", "over"},
+    {"archivos más grandes de 2 GB", "over 2 GB"},
+    {"arcihvos mas grandes", "wedding.mp4 (9 GB)"},
 };
 
 } // namespace

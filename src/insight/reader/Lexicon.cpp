@@ -78,7 +78,7 @@ bool isTwoLettersApart(std::string_view a, std::string_view b)
 {
     constexpr std::size_t kLongest = 32;
     if (a.size() > kLongest || b.size() > kLongest || a.size() > b.size() + 2 || b.size() > a.size() + 2 ||
-        a.front() != b.front() || b.size() + 1 < kShortestTwice)
+        a.front() != b.front() || b.size() + 1 < kShortestTwice || b.find(' ') != std::string_view::npos)
         return false;
     std::array<std::array<std::uint8_t, kLongest + 1>, kLongest + 1> cost{};
     for (std::size_t i = 0; i <= a.size(); ++i) {

@@ -210,6 +210,8 @@ const Subject* together(const Subject& a, const Subject& b)
         return isOneOf(a.id, {npm, pip, gradle, homebrew}) ? &a : nullptr;
     if (b.id == downloads)
         return a.id == oldDownloads ? &a : nullptr;
+    if (b.id == games) // "does Steam start by itself"
+        return a.id == startup ? &a : nullptr;
     return nullptr;
 }
 
@@ -252,6 +254,19 @@ void mergeMaking(Phrases& phrases)
         const bool isVerb = phrases[i].sense == Sense::free && phrases[i].text.find(' ') == std::string::npos;
         if (isVerb && phrases[i + 1].sense == Sense::size)
             phrases[i].sense = Sense::makeRoom;
+    }
+}
+
+/// "The biggest 100 MB" compares; so do languages in which "larger than" and "largest of" are the same words.
+void mergeComparisons(Phrases& phrases)
+{
+    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
+        if (phrases[i + 1].sense != Sense::size || phrases[i + 1].isJoined)
+            continue;
+        if (phrases[i].sense == Sense::biggest)
+            phrases[i].sense = Sense::above;
+        else if (phrases[i].sense == Sense::smallest)
+            phrases[i].sense = Sense::below;
     }
 }
 
@@ -309,6 +324,7 @@ Question merged(const Question& question)
     mergeFreed(phrases);
     mergeGain(phrases);
     mergeToday(phrases);
+    mergeComparisons(phrases);
     mergeRange(phrases);
     mergeMaking(phrases);
     dropComing(phrases);

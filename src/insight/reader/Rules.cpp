@@ -30,7 +30,7 @@ struct Rule {
     Responder reply;
 };
 
-constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, takes};
+constexpr SenseSet kAsking{what, can, when, general, howMany, howMuch, howBig, takes};
 constexpr SenseSet kSpaceWords{disk, space, total, used, free, takes};
 constexpr SenseSet kSorting{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kComparing{above, below, before, after, since, unopened};
@@ -135,7 +135,7 @@ const std::vector<Rule>& rules()
              {cleanUp, space, remove, total, subject, makeRoom, period, inside, since, after, before}),
          allCleanUps},
         {{{cleanUp}, {howMany}}, {what, general, last, subject, disk, period}, allCleanUps},
-        {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howMany}},
+        {{{cleanUp, remove, makeRoom}, {total}, {howMuch, howBig, howMany}},
          {space, cleanUp, remove, general, what, can},
          allCleanUps},
         {{{cleanUp, remove, makeRoom}, {last}},
@@ -145,8 +145,8 @@ const std::vector<Rule>& rules()
         {{{what, howMuch, howMany}, {cleanUp, remove}, {period}},
          {subject, cleanUp, inside, since, after, before, general, space, makeRoom},
          allCleanUps},
-        {{{howMuch, howMany}, {makeRoom}, {period}},
-         {cleanUp, inside, since, after, before, general, space},
+        {{{howMuch, howBig, howMany}, {makeRoom}, {period}},
+         {what, cleanUp, inside, since, after, before, general, space},
          allCleanUps},
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
         {{{soFar}}, kAsking.with({cleanUp, total, space, disk}), allCleanUps},

@@ -113,7 +113,8 @@ constexpr WordRow kAsking[] = {
      "sortes,quelconque,quelconques,perso,personnelles,celui qui,ceux qui,celles qui,celle qui,genre "
      "quoi,par rapport à,s agit il,il s agit,il s,qu il,qu elle,qu ils,qu on,qu en,lorsque,quelque "
      "chose,suite,ma machine actuelle,fait il,pile,précis,précisément,à quelque chose près,prête,avons "
-     "nous,as tu,a t il,ont ils,a t elle,ait,puissent,seraient,étant,fut,sois,suffisamment"},
+     "nous,as tu,a t il,ont ils,a t elle,ait,puissent,seraient,étant,fut,sois,suffisamment,pour une mise à "
+     "jour,pour la mise à jour,pour les mises à jour,pour une mise à niveau,direct"},
     {Sense::negation, "ne,pas,jamais,plus jamais,aucun,aucune,rien,n ai pas,n est pas,ne "
                       "pas,nan,nul,nulle,guère,point de,n ont pas,n a pas,ni l un,aucuns,aucunes,personne"},
     {Sense::except,
@@ -260,7 +261,7 @@ constexpr WordRow kAsking[] = {
      "récupérer,je peux récupérer,faire revenir,revienne,revenir,retour "
      "arrière,rétablis,rétablit,restaurez,restaurée,annules,annulez,défaire,défais,me suis "
      "trompé,trompé,erreur,changé d avis,sans faire exprès,ctrl "
-     "z,récupérables,récupérable,ressusciter,récupéré un"},
+     "z,récupérables,récupérable,ressusciter,récupéré un,reviens,reviens en arrière"},
     {Sense::safe,
      "sûr,sans risque,sans danger,risqué,dangereux,dangereuse,danger,sûre,sûrs,sans problème,sans crainte,en "
      "toute sécurité,risque,safe,grave,tranquillement,risques,problème,sans "
@@ -294,7 +295,9 @@ constexpr WordRow kAsking[] = {
      "passés,mes nettoyages,liste des nettoyages,derniers nettoyages,journal des nettoyages,déjà "
      "été,cumulé,en cumulé,dans le passé,depuis le tout début,déjà nettoyé,déjà supprimé,déjà effacé,déjà "
      "viré,déjà enlevé,déjà fait le ménage,ai déjà nettoyé,ai déjà supprimé,déjà libéré,déjà récupéré,déjà "
-     "gagné,déjà jeté,déjà retiré,déjà fait le tri"},
+     "gagné,déjà jeté,déjà retiré,déjà fait le tri,tous les nettoyages passés,tous les nettoyages "
+     "précédents,tous mes nettoyages,déjà supprimé des trucs,déjà supprimé des choses,déjà supprimé quelque "
+     "chose,déjà supprimé des fichiers,déjà effacé des trucs"},
     {Sense::used, "pris,plein à,rempli à,utilisation du disque,espace occupé,place occupée,espace "
                   "utilisé,occupée,occupés,utilisation,utilisation disque,taux d occupation,taux de "
                   "remplissage,remplissage,à quel point plein,à quel point mon "

@@ -74,7 +74,7 @@ constexpr WordRow kMeasures[] = {
      "majorité,majoritairement,la majorité,majorité,le plus gourmand,les plus gourmands,plus gourmands,plus "
      "gourmandes,les plus gourmandes,le plus de mémoire,plus de place que les autres,le pire,les "
      "pires,pire,principal coupable,coupable,coupables,responsable,responsables,le plus de stockage,en "
-     "premier,surtout,davantage"},
+     "premier,surtout,davantage,le plus vite possible,le plus rapidement possible"},
     {Sense::takes,
      "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,utilisent,gaspille,"
      "monopolise,encombre,encombrent,squatte,squattent,prendre,prends,dévore,dévorent,remplissent,pompe,"

@@ -129,33 +129,30 @@ constexpr SubjectRow kSubjects[] = {
                         "vidéos,enregistrements,mp4,séries,vidéos et films,fichier vidéo,clips "
                         "vidéo,vids,vid,rushs,rushes,enregistrement vidéo,enregistrements d écran,longs "
                         "métrages,séries télé,mkv,mp4s,filmés,séquences vidéo"},
-    {SubjectID::photos,
-     "photo,photos,image,images,clichés,photographies,fichiers image,fichiers images,selfies,photos de "
-     "vacances,photos de famille,cliché,photographie,image et photo,fotos,fichier image,fichiers "
-     "photo,fichiers photos,fichiers jpg,jpeg,jpegs,jpgs,images jpg,prises de vue,photos du "
-     "téléphone,dessins,selfie,photos perso,illustrations"},
+    {SubjectID::photos, "photo,photos,image,images,clichés,photographies,fichiers image,fichiers "
+                        "images,selfies,photos de vacances,photos de famille,cliché,photographie,image et "
+                        "photo,fotos,fichier image,fichiers photo,fichiers photos,jpeg,jpegs,jpgs,prises de "
+                        "vue,photos du téléphone,dessins,selfie,photos perso,illustrations"},
     {SubjectID::audio,
      "musique,musiques,chansons,chanson,audio,fichiers audio,mp3,albums,morceaux,podcasts,fichiers "
-     "mp3,fichiers son,livres audio,zik,zique,sons,titres,pistes,pistes audio,fichier audio,fichiers "
-     "musicaux,fichiers de musique,fichiers musique,album,mp3s,fichier mp3,bandes son,livres "
-     "audios,podcast,morceau"},
+     "son,livres audio,zik,zique,sons,titres,pistes,pistes audio,fichier audio,fichiers musicaux,fichiers de "
+     "musique,fichiers musique,album,mp3s,bandes son,livres audios,podcast,morceau"},
     {SubjectID::pdfs,
      "pdf,pdfs,fichiers pdf,documents pdf,fichier pdf,document pdf,documents en pdf,fichiers en pdf"},
     {SubjectID::archives,
-     "archive,archives,zip,zips,fichiers zip,fichiers compressés,archives zip,fichier zip,archives "
-     "zippées,fichiers zippés,fichiers rar,rar,fichiers archives,archives compressées,archive "
-     "zip,tar,tarballs,fichiers tar,fichier compressé,dossiers compressés,zippés"},
+     "archive,archives,zip,zips,fichiers compressés,archives zippées,fichiers zippés,rar,fichiers "
+     "archives,archives compressées,tar,tarballs,fichier compressé,dossiers compressés,zippés"},
     {SubjectID::installers,
      "installateur,installateurs,programmes d installation,fichiers d "
      "installation,paquets,installeurs,paquets d installation,installeur,fichier d "
-     "installation,setup,setups,fichiers setup,programme d installation,installers,installer,paquets "
-     "deb,fichiers deb,deb,appimages,paquet d installation,fichiers d install"},
-    {SubjectID::diskImages, "image disque,images disque,iso,isos,fichiers iso,images iso,machines "
-                            "virtuelles,machine virtuelle,disques virtuels,images de disque,image "
-                            "iso,fichier iso,image de disque,vm,vms,images de cd,images d installation iso"},
+     "installation,setup,setups,fichiers setup,programme d "
+     "installation,installers,installer,deb,appimages,paquet d installation,fichiers d install"},
+    {SubjectID::diskImages,
+     "image disque,images disque,iso,isos,images iso,machines virtuelles,machine virtuelle,disques "
+     "virtuels,images de disque,image iso,image de disque,vm,vms,images de cd,images d installation iso"},
     {SubjectID::spreadsheets, "feuilles de calcul,tableurs,tableaux,fichiers excel,tableaux excel,feuille de "
                               "calcul,excel,tableur,fichier excel,tableaux de calcul,csv,fichiers "
-                              "csv,fichiers calc,feuilles excel,classeurs,tableaux xls"},
+                              "calc,feuilles excel,classeurs,tableaux xls"},
     {SubjectID::presentations,
      "présentation,présentations,diapositives,powerpoints,diapos,powerpoint,diaporamas,diaporama,fichiers "
      "powerpoint,présentations powerpoint,ppt,powerpoint présentations,diapositive,exposés"},

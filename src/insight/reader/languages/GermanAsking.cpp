@@ -110,7 +110,9 @@ constexpr WordRow kAsking[] = {
      "möglichst,derweil,inzwischen,mittlerweile,nämlich,dein programm,meinem pc so,ich mein,mein ich,na "
      "ja,naja,nunja,ach,oh,hmm,ups,mensch,alter schwede,oida,heast,gell,ge,weisst,wisst "
      "ihr,wisst,kriegst,hättest du,lang her,vorhanden,vorhandenen,vorhandene,auffindbar,zu "
-     "finden,existierende,schlimmes,schlimmes passieren"},
+     "finden,existierende,schlimmes,schlimmes passieren,für ein update,für das update,für updates,für ein "
+     "upgrade,für das upgrade,fürs update,für eine aktualisierung,für die aktualisierung,so schnell wie "
+     "möglich,möglichst schnell,direkt"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht "
                       "mehr,nichts,nirgends,keinesfalls,nimmer,ned,nit,nöd,keinem,keiner,keins,nix,niemand"},
     {Sense::except,
@@ -236,7 +238,8 @@ constexpr WordRow kAsking[] = {
      "weggeben,weg geben,weg haben,weghaben,weg bekommen,wegbekommen,wegkriegen,weg "
      "kriegen,wegkommen,löschbare,löschbaren,entbehrliche,entbehrlichen,papierkorb mit,löscht man,gelöscht "
      "habe,nicht mehr gebrauchen,aussortieren,aussortiere,löchen,löschn,lösch "
-     "mir,löschung,löschungen,gelöschtes,gelöschte"},
+     "mir,löschung,löschungen,gelöschtes,gelöschte,ausleeren,ausleere,ausleert,ausgeleert,entleeren,entleere,"
+     "entleert"},
     {Sense::undo,
      "umkehrbar,rückgängig,rückgängig "
      "machen,wiederherstellen,wiederherstelle,zurückholen,zurückbekommen,zurück,zurücknehmen,"

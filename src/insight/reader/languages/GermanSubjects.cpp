@@ -132,23 +132,22 @@ constexpr SubjectRow kSubjects[] = {
                        "hörbücher,musikstücke,tonaufnahmen,musikstück,titel,tracks,hörspiele,hörbuch,podcast,"
                        "lieder und musik,tondateien,soundfiles,sounds,musikalben,muzik,musiksammlung"},
     {SubjectID::pdfs, "pdf,pdfs,pdf-dateien,pdf dateien,pdf-datei,pdf datei"},
-    {SubjectID::archives,
-     "archiv,archive,zip,zips,zip-dateien,zip dateien,archivdateien,gepackte dateien,zip-archive,zip "
-     "datei,komprimierte dateien,zip-datei,zipdateien,zip-ordner,gezippte dateien,gezippte,rar,rar "
-     "dateien,rar-dateien,tar,tarballs,archivdatei,gepackten dateien,komprimierten dateien,tar-archive"},
+    {SubjectID::archives, "archiv,archive,zip,zips,archivdateien,gepackte dateien,zip-archive,zip "
+                          "datei,komprimierte dateien,zip-datei,zipdateien,zip-ordner,gezippte "
+                          "dateien,gezippte,rar,rar-dateien,tar,tarballs,archivdatei,gepackten "
+                          "dateien,komprimierten dateien,tar-archive"},
     {SubjectID::installers,
      "installer,installationsdateien,installationspakete,setup-dateien,pakete,installationsprogramme,setups,"
-     "setup dateien,installationsdatei,installationspaket,installationsprogramm,setup datei,deb-dateien,deb "
-     "dateien,debs,appimages,installern,setup-datei,programminstaller"},
+     "setup dateien,installationsdatei,installationspaket,installationsprogramm,setup "
+     "datei,debs,appimages,installern,setup-datei,programminstaller"},
     {SubjectID::diskImages,
-     "abbild,abbilder,iso,isos,iso-dateien,iso dateien,plattenabbilder,virtuelle festplatten,virtuelle "
+     "abbild,abbilder,iso,isos,plattenabbilder,virtuelle festplatten,virtuelle "
      "maschinen,festplattenabbilder,iso-abbilder,datenträgerabbilder,iso-datei,iso "
      "datei,isodateien,iso-images,iso images,disk images,festplattenabbild,plattenabbild,image-dateien,image "
      "dateien,isos und images"},
     {SubjectID::spreadsheets,
-     "tabelle,tabellen,tabellenblätter,excel-dateien,excel dateien,exceltabellen,csv "
-     "dateien,excel,excel-datei,excel datei,excel-tabellen,excel tabellen,kalkulationstabellen,calc "
-     "dateien,csv-dateien,csvs,exceldateien"},
+     "tabelle,tabellen,tabellenblätter,excel-dateien,excel dateien,exceltabellen,excel,excel-datei,excel "
+     "datei,excel-tabellen,excel tabellen,kalkulationstabellen,calc dateien,csvs,exceldateien"},
     {SubjectID::presentations, "präsentation,präsentationen,folien,powerpoints,powerpoint,powerpoint-dateien,"
                                "powerpoint dateien,präsis,vorträge,foliensätze,powerpoint präsentationen"},
     {SubjectID::ebooks, "ebook,ebooks,e-books,bücher,e-book,elektronische bücher,buch,epubs,e-book dateien"},

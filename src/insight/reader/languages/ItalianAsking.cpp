@@ -51,7 +51,7 @@ constexpr WordRow kAsking[] = {
      "fare,stampante,bluetooth,formattare,formatto,partizionare,criptare,cifrare,hackerato,surriscalda,"
      "tastiera,mouse,sfondo del desktop,volume audio,password del wifi,password wifi,aggiornare "
      "linux,aggiornare il sistema,settori danneggiati,rallenta,rallentato,lentezza,lentissimo,va "
-     "piano,antimalware,aggiornamenti,velocizzo,schermo rotto"},
+     "piano,antimalware,velocizzo,schermo rotto,installare aggiornamenti"},
     {Sense::happens,
      "dove vanno a finire,vanno a finire,dove va a finire,succede,succederebbe,accade,cosa succede,per "
      "sempre,definitivamente,definitivo,permanentemente,succederà,dove finiscono,dove vanno,dove "
@@ -124,7 +124,9 @@ constexpr WordRow kAsking[] = {
      "tipo,questo programma,il programma dice,dicono,generale,in "
      "generale,vicenda,possa,possano,potessi,fosse,avessi,avrebbe,verrebbe,essendo,avendo,siccome,poiché,"
      "dato che,visto che,quanto prima,seguenti,seguente,i "
-     "vari,tot,altrui,totalmente,dal,dall,potreste,potreste dirmi,potreste mostrarmi,dirmi,mi sapreste dire"},
+     "vari,tot,altrui,totalmente,dal,dall,potreste,potreste dirmi,potreste mostrarmi,dirmi,mi sapreste "
+     "dire,per un aggiornamento,per l aggiornamento,per gli aggiornamenti,per aggiornare,per un "
+     "update,rendere,rende,rendi,direttamente"},
     {Sense::negation,
      "non,mai,nessun,nessuno,nessuna,niente,nulla,n,mai più,neanche,nemmeno,neppure,nessuna delle,no"},
     {Sense::except,
@@ -316,7 +318,8 @@ constexpr WordRow kAsking[] = {
      "che,in tutta sicurezza,senza pensieri,senza pensarci,senza paura,tranquillo,tranquilla,senza "
      "danni,senza conseguenze,senza problemi di,senza preoccupazioni,a cuor "
      "leggero,rischiosa,rischiosi,rischiose,pericolose,pericolo,innocua,innocue,sicurezza,cattiva "
-     "idea,brutta idea,problematico,fa male,gravi,inoffensivo,inoffensivi"},
+     "idea,brutta idea,problematico,fa male,gravi,inoffensivo,inoffensivi,tutto ciò che è sicuro,tutto "
+     "quello che è sicuro,ciò che è sicuro,quello che è sicuro"},
     {Sense::review,
      "review,controllare,da controllare,da rivedere,verificare,rivedere,da verificare,verifica,da "
      "ricontrollare,ricontrollare,rivedi,da esaminare,esaminare,controlla,controllo,da guardare"},
@@ -349,7 +352,8 @@ constexpr WordRow kAsking[] = {
      "pulizie,lista delle pulizie,ultime pulizie,complessivamente finora,cumulativo,già in tutto,in tutto "
      "questo tempo,già pulito,già cancellato,già eliminato,già ripulito,già rimosso,già tolto,ho già "
      "pulito,ho già cancellato,ho già eliminato,ho già ripulito,già liberato,ho già liberato,già "
-     "recuperato,ho già recuperato,già fatto pulizia,già buttato"},
+     "recuperato,ho già recuperato,già fatto pulizia,già buttato,tutte le pulizie precedenti,tutte le "
+     "pulizie passate,tutte le mie pulizie precedenti"},
     {Sense::used, "occupato,occupati,consumato,in uso,quanto è pieno,occupata,spazio occupato,spazio "
                   "usato,spazio utilizzato,utilizzo del disco,uso del disco,utilizzo "
                   "disco,occupazione,occupazione disco,occupazione del disco,riempimento,quanto "

@@ -86,7 +86,8 @@ constexpr WordRow kMeasures[] = {
      "velocemente,più in fretta,più rapidamente,la maggioranza,maggioranza,il più dello spazio,gran parte,la "
      "gran parte,di più di tutti,più di tutti,più di "
      "tutto,colpevole,colpevoli,responsabile,responsabili,principale,principali,peggiore,peggiori,più "
-     "avido,più avidi,più memoria,più veloce di tutti,in prevalenza"},
+     "avido,più avidi,più memoria,più veloce di tutti,in prevalenza,il più in fretta possibile,più in fretta "
+     "possibile,il più velocemente possibile"},
     {Sense::takes,
      "occupa,occupano,occupando,prende,prendono,usa,usano,consuma,consumano,mangia,mangiano,mangiando,spreca,"
      "ruba,rubano,riempiono,utilizza,utilizzano,ingombra,ingombrano,consumando,divora,succhia,divorano,"

@@ -140,21 +140,21 @@ constexpr SubjectRow kSubjects[] = {
                        "audio,tracce audio,file musicale,audiolibro,suoni,suono,file sonori,dischi "
                        "musicali,registrazioni audio,canzoncine,cd musicali,file di musica"},
     {SubjectID::pdfs, "pdf,file pdf,documenti pdf,pdfs,documento pdf,documenti in pdf,file in pdf"},
-    {SubjectID::archives, "archivio,archivi,zip,file zip,file compressi,archivi compressi,archivi zip,file "
-                          "zippati,file compresso,zippati,cartelle zippate,cartelle compresse,rar,file "
-                          "rar,archivio zip,tar,tarball,file tar,zip file,archivi rar,compressi"},
+    {SubjectID::archives,
+     "archivio,archivi,zip,file compressi,archivi compressi,file zippati,file compresso,zippati,cartelle "
+     "zippate,cartelle compresse,rar,tar,tarball,zip file,compressi"},
     {SubjectID::installers,
      "installatore,installatori,programmi di installazione,file di installazione,pacchetti,pacchetti di "
      "installazione,file d installazione,installer,setup,file setup,programma di installazione,programma d "
-     "installazione,programmi d installazione,pacchetti deb,file deb,deb,appimage,pacchetto di "
-     "installazione,eseguibili di installazione,file di setup"},
+     "installazione,programmi d installazione,deb,appimage,pacchetto di installazione,eseguibili di "
+     "installazione,file di setup"},
     {SubjectID::diskImages,
-     "immagine disco,immagini disco,iso,file iso,immagini iso,macchine virtuali,macchina virtuale,dischi "
+     "immagine disco,immagini disco,iso,immagini iso,macchine virtuali,macchina virtuale,dischi "
      "virtuali,immagini di disco,immagine iso,immagini di dischi,immagini cd,iso scaricate,disco "
      "virtuale,vm,immagini dei dischi,file immagine disco"},
     {SubjectID::spreadsheets,
      "foglio di calcolo,fogli di calcolo,tabelle,file excel,excel,fogli excel,file di excel,foglio "
-     "excel,fogli di excel,foglio di excel,csv,file csv,foglio elettronico,fogli elettronici,tabella,tabelle "
+     "excel,fogli di excel,foglio di excel,csv,foglio elettronico,fogli elettronici,tabella,tabelle "
      "excel,documenti excel,file calc"},
     {SubjectID::presentations,
      "presentazione,presentazioni,diapositive,powerpoint,slide,file powerpoint,file di "

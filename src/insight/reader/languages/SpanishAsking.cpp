@@ -47,7 +47,9 @@ constexpr WordRow kAsking[] = {
      "programa,impresora,bluetooth,formatear,formateo,particionar,cifrar,encriptar,hackeado,hackearon,"
      "sobrecalienta,teclado,ratón,mouse,pantalla rota,fondo de pantalla,volumen del sonido,contraseña del "
      "wifi,clave del wifi,actualizar linux,actualizar el sistema,sectores defectuosos,lentitud,va lento,más "
-     "veloz,lag,gusano,lentísimo,tarjeta de video,actualizaciones"},
+     "veloz,lag,gusano,lentísimo,tarjeta de video,instalar actualizaciones,mi pc más rápido,pc más rápido,el "
+     "pc más rápido,compu más rápida,mi compu más rápida,computadora más rápida,ordenador más rápido,vaya "
+     "más rápido,ir más rápido"},
     {Sense::happens,
      "dónde acaban,dónde terminan,adónde van a parar,a dónde van a "
      "parar,pasa,pasará,pasaría,ocurre,sucede,qué pasa,para "
@@ -118,7 +120,9 @@ constexpr WordRow kAsking[] = {
      "sé,ay,uy,uf,ups,caray,rayos,demonios,diablos,hazlo,hacerlo,hágalo,esté,estén "
      "ahí,tenga,tengan,tengas,pudiera,pudieras,pueda,puedan,dado que,ya que,puesto que,debido,cuanto "
      "antes,lo antes posible,urgente,urgentemente,de una vez,de "
-     "golpe,seguido,siguen,sigue,sigo,volver,vuelve,vuelto,podrían decirme,me podrían decir"},
+     "golpe,seguido,siguen,sigue,sigo,volver,vuelve,vuelto,podrían decirme,me podrían decir,para una "
+     "actualización,para la actualización,para actualizar,para las actualizaciones,para un update,así "
+     "nomás,sirve todavía"},
     {Sense::negation, "no,nunca,jamás,ningún,ninguno,ninguna,nada,tampoco,nadie,nunca más,ya no,tampoco "
                       "los,en absoluto,ningunos,ninguna de"},
     {Sense::except,
@@ -308,7 +312,8 @@ constexpr WordRow kAsking[] = {
      "ahorita,históricamente,histórico,acumulado,en el pasado,todas mis limpiezas,mis limpiezas,limpiezas "
      "hechas,limpiezas pasadas,lista de limpiezas,últimas limpiezas,limpiadas anteriores,ya limpié,ya he "
      "limpiado,he limpiado ya,ya borré,ya he borrado,he borrado ya,ya eliminé,ya he eliminado,limpiado "
-     "ya,borrado ya,ya he liberado,ya liberé,ya recuperé,ya he recuperado,ya gané"},
+     "ya,borrado ya,ya he liberado,ya liberé,ya recuperé,ya he recuperado,ya gané,todas las limpiezas "
+     "anteriores,todas las limpiezas pasadas,todas mis limpiezas anteriores"},
     {Sense::used, "ocupado,ocupados,consumido,ocupada,en uso,cómo de lleno,qué tan lleno,ocupación,uso de "
                   "disco,uso del disco,espacio usado,espacio ocupado,espacio utilizado,llevo usado,llevo "
                   "ocupado,se ha usado,se está usando,tengo ocupado,tengo usado,tengo ocupados,tengo "

@@ -80,7 +80,8 @@ constexpr WordRow kMeasures[] = {
      "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más,más rápido,más "
      "deprisa,más rápidamente,el mayor espacio,más memoria,más lugar,más almacenamiento,más disco,más que "
      "nada,principal,principales,principalmente,culpable,culpables,responsable,responsables,peor,peores,más "
-     "gastan,más consumen,sobre todo lo,mayormente,la gran parte,más veloz mente,primer lugar en"},
+     "gastan,más consumen,sobre todo lo,mayormente,la gran parte,más veloz mente,primer lugar en,lo más "
+     "rápido posible,más rápido posible"},
     {Sense::takes,
      "ocupa,ocupan,ocupando,usa,usan,usando,consume,consumen,come,comen,comiendo,gasta,gastan,consumiendo,"
      "toma,toman,tomando,llenan,utiliza,utilizan,chupa,chupando,acapara,gastando,devora,ocupar,come "
@@ -101,7 +102,7 @@ constexpr WordRow kMeasures[] = {
      "pesan,que más pesa,las que más pesan,más "
      "espaciosas,monstruo,tochos,tocho,bestias,pesadísimos,pesada,más largos,más grande de la,más grandes de "
      "la,más grande de mi,más grandes de mi,más grandes de mis,más grande del,más grandes del,más grandes de "
-     "todas,más grandes de todos,más grande de todos,más grande de todas"},
+     "todas,más grandes de todos,más grande de todos,más grande de todas,más grandes de,más grande de"},
     {Sense::smallest, "más pequeño,más pequeños,más pequeña,más pequeñas,el más pequeño,los más pequeños,la "
                       "más pequeña,menores,más chico,más "
                       "chicos,pequeño,pequeños,pequeña,pequeñas,chico,chicos,chica,chiquitos,diminutos,menor,"
@@ -136,10 +137,10 @@ constexpr WordRow kMeasures[] = {
     {Sense::above,
      "compara,comparar,comparado con,más de,mayor que,mayores que,mayor de,mayores de,más grande que,más "
      "grandes que,superior a,superiores a,al menos,por encima de,mínimo,>,que pesen más de,o más,que "
-     "superen,por lo menos,más grandes de,que pasen de,más pesados que,sobre los,superan,supera,que pese más "
-     "de,que pesen mas de,que ocupe más de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que "
-     "supere,que pesen,entre,comparados con,comparada con,versus,vs,frente a,compárame,mayores a,mayor a,más "
-     "grandes a,arriba de,por arriba de,encima de,a partir de los,que sobrepasen,que "
+     "superen,por lo menos,que pasen de,más pesados que,sobre los,superan,supera,que pese más de,que pesen "
+     "mas de,que ocupe más de,que ocupen más de,pese más de,que pase de,pase de,pasen de,que supere,que "
+     "pesen,entre,comparados con,comparada con,versus,vs,frente a,compárame,mayores a,mayor a,más grandes "
+     "a,arriba de,por arriba de,encima de,a partir de los,que sobrepasen,que "
      "sobrepasan,sobrepasan,sobrepasa,sobrepasen,exceden,excede,excedan,que excedan,que excedan de,que "
      "superan,que pasan de,pasan de,que ocupan más de,que ocupa más de,ocupan más de,ocupa más de,ocupen más "
      "de,que pesan más de,que pesa más de,pesan más de,pesa más de,pesen más de,que tengan más de,de arriba "
@@ -214,7 +215,8 @@ constexpr WordRow kMeasures[] = {
      "privada mi,íntimo,ver mis contraseñas,lees mis contraseñas,ves mis contraseñas,sabes mis "
      "contraseñas,ve mis datos,ven mis datos,ves mis datos,lees mis,miras mis,ves mis,ver mis datos,leer mis "
      "archivos,leer mis mensajes,acceso a mis,accedes a mis,accedes a,tienes acceso a,tiene acceso a,quién "
-     "ve,quién lee,alguien puede ver,alguien ve,ver alguien,fugas de datos,filtras,filtrar"},
+     "ve,quién lee,alguien puede ver,alguien ve,ver alguien,fugas de datos,filtras,filtrar,se suben a algún "
+     "sitio,se suben a algún lado,se suben a alguna parte,se suben a internet"},
     {Sense::hidden, "oculto,ocultos,oculta,ocultas,invisibles,escondido,escondidos,escondida,escondidas,"
                     "invisible,ocultas por"},
     {Sense::folder, "carpeta,carpetas,directorio,directorios,subcarpeta,subcarpetas,subdirectorio,"

@@ -151,21 +151,20 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::pdfs, "pdf,pdfs,archivos pdf,documentos pdf,ficheros pdf,archivo pdf,documento "
                       "pdf,documentos en pdf,archivos en pdf,pedeefes"},
     {SubjectID::archives,
-     "zip,zips,archivos zip,archivos comprimidos,comprimidos,ficheros zip,archivo zip,archivo "
-     "comprimido,carpetas comprimidas,ficheros comprimidos,rar,archivos rar,zipeados,archivos "
-     "tar,tar,tarballs,paquetes comprimidos,archivos comprimidos en zip,comprimido"},
+     "zip,zips,archivos comprimidos,comprimidos,archivo comprimido,carpetas comprimidas,ficheros "
+     "comprimidos,rar,zipeados,tar,tarballs,paquetes comprimidos,archivos comprimidos en zip,comprimido"},
     {SubjectID::installers,
      "instalador,instaladores,archivos de instalación,paquetes,paquetes de instalación,archivo de "
      "instalación,archivos instaladores,instaladores de programas,setup,setups,programa de "
-     "instalación,programas de instalación,ejecutables de instalación,paquetes deb,archivos "
-     "deb,deb,debs,appimages,ficheros de instalación,paquete de instalación"},
-    {SubjectID::diskImages, "imagen de disco,imágenes de disco,iso,isos,imágenes iso,archivos iso,máquinas "
-                            "virtuales,máquina virtual,discos virtuales,imagen iso,archivo iso,imágenes de "
-                            "discos,imágenes de cd,máquina virtual de,vms,vm,ficheros iso"},
+     "instalación,programas de instalación,ejecutables de instalación,deb,debs,appimages,ficheros de "
+     "instalación,paquete de instalación"},
+    {SubjectID::diskImages,
+     "imagen de disco,imágenes de disco,iso,isos,imágenes iso,máquinas virtuales,máquina virtual,discos "
+     "virtuales,imagen iso,imágenes de discos,imágenes de cd,máquina virtual de,vms,vm"},
     {SubjectID::spreadsheets,
      "hoja de cálculo,hojas de cálculo,archivos de excel,excel,tablas,archivos excel,hojas de excel,hoja de "
-     "excel,tablas de excel,archivo de excel,csv,archivos csv,planillas,planilla,planillas de "
-     "excel,planillas de cálculo,excels,libros de excel,documentos de excel"},
+     "excel,tablas de excel,archivo de excel,csv,planillas,planilla,planillas de excel,planillas de "
+     "cálculo,excels,libros de excel,documentos de excel"},
     {SubjectID::presentations,
      "presentación,presentaciones,diapositivas,powerpoints,powerpoint,archivos de powerpoint,presentaciones "
      "de powerpoint,diapositiva,ppt,powerpoint presentaciones,archivos powerpoint"},
