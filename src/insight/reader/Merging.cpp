@@ -255,6 +255,14 @@ void mergeMaking(Phrases& phrases)
     }
 }
 
+/// "How much could I free at most": nothing is compared.
+void dropIdleComparison(Phrases& phrases)
+{
+    constexpr SenseSet kCompared{Sense::size, Sense::period, Sense::number, Sense::subject, Sense::unknown};
+    if (std::ranges::none_of(phrases, [&](const Phrase& each) { return kCompared.has(each.sense); }))
+        drop(phrases, Sense::below);
+}
+
 /// "Between 1 and 5 GB": the unit counts for both.
 void mergeRange(Phrases& phrases)
 {
@@ -310,6 +318,7 @@ Question merged(const Question& question)
     mergeGain(phrases);
     mergeToday(phrases);
     mergeRange(phrases);
+    dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
     mergeNeighbours(phrases);
