@@ -224,6 +224,7 @@ constexpr Row kAbout[] = {
     {"what did you delete", "20 May 2026|gone.zip", "could free"},
     {"have you ever deleted one of my files", "2 clean-ups", "slack"},
     {"when was my last cleanup and how much did it free", "20 May 2026", "could free"},
+    {"how much could i free at most", "You could free", "is free of"},
     {"how often should I clean up", "no fixed rhythm|last clean-up", "could free"},
     {"does this thing need root / sudo", "never needs administrator rights"},
     {"what is \"System\" in the storage breakdown, it is huge", "System takes 21 GB|no other category"},

@@ -270,6 +270,14 @@ void mergeComparisons(Phrases& phrases)
     }
 }
 
+/// "How much could I free at most": nothing is compared.
+void dropIdleComparison(Phrases& phrases)
+{
+    constexpr SenseSet kCompared{Sense::size, Sense::period, Sense::number, Sense::subject, Sense::unknown};
+    if (std::ranges::none_of(phrases, [&](const Phrase& each) { return kCompared.has(each.sense); }))
+        drop(phrases, Sense::below);
+}
+
 /// "Between 1 and 5 GB": the unit counts for both.
 void mergeRange(Phrases& phrases)
 {
@@ -326,6 +334,7 @@ Question merged(const Question& question)
     mergeToday(phrases);
     mergeComparisons(phrases);
     mergeRange(phrases);
+    dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
     mergeNeighbours(phrases);

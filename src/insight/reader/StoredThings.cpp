@@ -137,7 +137,9 @@ Message withRating(Message line, std::string_view path, const Hit& hit, const As
                  {"title", within(hit.finding->title)},
                  {"rating", within(label(hit.finding->effectiveRating(*hit.entry)))}}};
     const bool isProtected = context.protection && context.protection(path) != Protection::none;
-    return isProtected ? Message{InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}} : line;
+    if (!isProtected)
+        return line;
+    return {InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}};
 }
 
 std::vector<Stored> ofWine(const HomeFiles& home)
@@ -240,6 +242,7 @@ Answer containers(const AskContext& context)
             addFolder(found, *context.home, pattern);
     }
     std::vector<Message> lines;
+    lines.reserve(found.size() + 1);
     for (const Stored& each : found)
         lines.push_back(
             {InsightTexts::kFolderTakes, {{"folder", tilde(each.path)}, {"size", Bytes{each.bytes}}}});

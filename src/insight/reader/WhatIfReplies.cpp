@@ -150,6 +150,7 @@ bool addListed(const Question& group, const AskContext& context, Things& things)
     const auto list = filesFor(*request, *context.home);
     if (!list)
         return false;
+    things.each.reserve(things.each.size() + list->first.size());
     for (const HomeFiles::Number file : list->first)
         things.each.push_back({context.home->filePath(file), context.home->file(file).bytes});
     things.names.push_back(request->files);

@@ -173,7 +173,8 @@ constexpr WordRow kWords[] = {
                  "to,okay to,allowed to,possible to,able to,is it fine to,fine to,is it alright to,alright "
                  "to,ought,is it possible to,is it worth,do i need"},
     {Sense::makeRoom,
-     "free up,make room,make space,make room for,make space for,clear "
+     "could i free,can i free,could we free,could i get free,free up,make room,make space,make room for,make "
+     "space for,clear "
      "up,reclaim,regain,gain,save,saved,freed,freeing,clear out,get back space,need to free,recover "
      "space,win,free some,make some room,make some space,more space,more room,get space,get more space,get "
      "more room,need space,need room,need more space,freeing up,need more room,create space,get rid of "
@@ -278,10 +279,11 @@ constexpr WordRow kWords[] = {
     {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
                   "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,mac,disc,my "
                   "disk,harddrive,harddisk,notebook,nvme"},
-    {Sense::space,
-     "space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes of space,fit,fits"},
+    {Sense::space, "store,space,room,disk space,storage space,place,drive space,gb of space,memory,gigabytes "
+                   "of space,fit,fits"},
     {Sense::howMuch,
-     "what does that give me,what does that give,what would that give me,what do i get back,what would i get "
+     "what would i have,what would be free,what would be left,what would i have left,what does that give "
+     "me,what does that give,what would that give me,what do i get back,what would i get "
      "back,what would that bring,how much,how mutch,how mcuh,howmuch,what do i gain,what would i gain,what "
      "do i get,what would i "
      "get,what do i save,what would i save,what would that free,what does that free,what does it bring"},
