@@ -82,7 +82,7 @@ constexpr Row kByWords[] = {
     {"how big is the fedora vm", "images/fedora40 takes 2 MB"},
     {"how big is fedora40", "gnome-boxes/images/fedora40 takes 2 MB"},
     {"how much would I free if I remove box.vdi and the zoom installer",
-     "Together they take 4 MB|box.vdi|zoom_"},
+     "you would have 4 MB more|box.vdi|zoom_"},
 };
 
 constexpr Row kBack[] = {
