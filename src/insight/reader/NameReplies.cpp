@@ -168,6 +168,23 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
     return all;
 }
 
+/// What has the name; "the Fedora VM" is the disk of one.
+Found foundOrMachine(const AskContext& context, const std::string& name)
+{
+    Found found = findNamed(context, name);
+    if (found.fit >= Fit::words)
+        return found;
+    Found machine = machineNamed(context, name);
+    return machine.fit == Fit::none ? found : machine;
+}
+
+/// What was not found by its name, by parts of paths and notes.
+void lookAtParts(Found& found, const AskContext& context, const std::string& name)
+{
+    found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    found.fit = found.hits.empty() ? Fit::none : Fit::part;
+}
+
 /// What the question says more of than a name: that it is to be got back, a part of a program, or a kind.
 std::optional<Answer> aboutMeant(const Question& question, const AskContext& context, const AskedName& asked)
 {
@@ -201,9 +218,7 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
-        found = findNamed(context, name);
-    if (Found machine = machineNamed(context, name); found.fit < Fit::words && machine.fit != Fit::none)
-        found = std::move(machine);
+        found = foundOrMachine(context, name);
     if (!folder.empty()) {
         narrow(found, folder);
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
@@ -213,10 +228,8 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     }
     keepMeant(found, question, asked);
     narrowToSteam(found, question, context, name);
-    if (found.fit == Fit::none) {
-        found.hits = holdingAll(context, wordsOfName(lowered(name)));
-        found.fit = found.hits.empty() ? Fit::none : Fit::part;
-    }
+    if (found.fit == Fit::none)
+        lookAtParts(found, context, name);
     const std::string guarded = protectedPath(question, context, name);
     if (guarded.empty() && !isNarrowed && isOfProgram(found, question, asked)) {
         if (std::optional<Answer> places =
