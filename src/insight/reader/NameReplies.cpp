@@ -168,15 +168,39 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
     return all;
 }
 
+/// What has the name; "the Fedora VM" is the disk of one.
+Found foundOrMachine(const Question& question, const AskContext& context, const std::string& name)
+{
+    Found found = findNamed(context, name);
+    if (found.fit >= Fit::words)
+        return found;
+    Found machine = machineNamed(question, context, name);
+    return machine.fit == Fit::none ? found : machine;
+}
+
+/// What was not found by its name, by parts of paths and notes.
+void lookAtParts(Found& found, const AskContext& context, const std::string& name)
+{
+    found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    found.fit = found.hits.empty() ? Fit::none : Fit::part;
+}
+
+/// What the question says more of than a name: that it is to be got back, a part of a program, or a kind.
+std::optional<Answer> aboutMeant(const Question& question, const AskContext& context, const AskedName& asked)
+{
+    if (asksBack(question)) {
+        if (std::optional<Answer> back = gettingBack(question, context, asked.name))
+            return back;
+    }
+    if (std::optional<Answer> part = aboutPart(question, context, asked))
+        return part;
+    const Found ofKind = asked.place.empty() ? ofKindNamed(question, context, asked.name) : Found();
+    return ofKind.fit == Fit::none ? std::nullopt
+                                   : std::optional(aboutFound(question, context, ofKind, asked.name));
+}
+
 std::optional<Answer> named(const Question& question, const AskContext& context)
 {
-    // What starts at login is no question about the folders of a program.
-    if (std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
-            return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
-        }))
-        return std::nullopt;
-    if (std::optional<Answer> sum = sumOfNamed(question, context))
-        return sum;
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
     const std::string folder = placeOf(question, context, asked);
@@ -188,22 +212,13 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
         return notFound(allNames(question), context);
     if (name.empty() || isOfOther || (folder.empty() && !place.empty() && !isFileName(question, name)))
         return std::nullopt;
-    if (asksBack(question)) {
-        if (std::optional<Answer> back = gettingBack(question, context, name))
-            return back;
-    }
-    if (std::optional<Answer> part = aboutPart(question, context, asked))
-        return part;
-    if (const Found ofKind = ofKindNamed(question, context, name); place.empty() && ofKind.fit != Fit::none)
-        return aboutFound(question, context, ofKind, name);
+    if (std::optional<Answer> meant = aboutMeant(question, context, asked))
+        return meant;
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
     if (found.fit == Fit::none)
-        found = findNamed(context, name);
-    if (Found machine = machineNamed(question, context, name);
-        found.fit < Fit::words && machine.fit != Fit::none)
-        found = std::move(machine);
+        found = foundOrMachine(question, context, name);
     if (!folder.empty()) {
         narrow(found, folder);
         if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
@@ -213,10 +228,8 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     }
     keepMeant(found, question, asked);
     narrowToSteam(found, question, context, name);
-    if (found.fit == Fit::none) {
-        found.hits = holdingAll(context, wordsOfName(lowered(name)));
-        found.fit = found.hits.empty() ? Fit::none : Fit::part;
-    }
+    if (found.fit == Fit::none)
+        lookAtParts(found, context, name);
     const std::string guarded = protectedPath(question, context, name);
     if (guarded.empty() && !isNarrowed && isOfProgram(found, question, asked)) {
         if (std::optional<Answer> places =
@@ -251,6 +264,13 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
 
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
+    // What starts at login is no question about the folders of a program.
+    if (std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+            return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
+        }))
+        return std::nullopt;
+    if (std::optional<Answer> sum = sumOfNamed(question, context))
+        return sum;
     std::optional<Answer> answer = named(question, context);
     if (!answer || !question.senses.has(Sense::what) || answer->paths.size() != 1)
         return answer;
