@@ -2,11 +2,13 @@
 
 #include "platform/values/WideLanes.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numbers>
-#include <span>
+
+#ifdef __x86_64__
+#include <immintrin.h>
+#endif
 
 namespace orlen::BlockWaves {
 
@@ -58,6 +60,37 @@ ORLEN_INLINE Block swapped(const Block& block)
     return result;
 }
 
+#ifdef __x86_64__
+/// Numbers, pairs of them, and fours change places.
+ORLEN_WIDE void swapInWideLanes(Rows& rows)
+{
+    constexpr int kFirstHalves = 0b01'00'01'00;
+    constexpr int kSecondHalves = 0b11'10'11'10;
+    __m256 ones[kSide];
+    for (std::size_t i = 0; i < kSide; i += 2) {
+        const __m256 one = _mm256_loadu_ps(reinterpret_cast<const float*>(&rows[i]));
+        const __m256 other = _mm256_loadu_ps(reinterpret_cast<const float*>(&rows[i + 1]));
+        ones[i] = _mm256_unpacklo_ps(one, other);
+        ones[i + 1] = _mm256_unpackhi_ps(one, other);
+    }
+    __m256 pairs[kSide];
+    for (std::size_t i = 0; i < kSide; i += 4) {
+        for (std::size_t half = 0; half < 2; ++half) {
+            const __m256 one = ones[i + half];
+            const __m256 other = ones[i + half + 2];
+            pairs[i + 2 * half] = _mm256_shuffle_ps(one, other, kFirstHalves);
+            pairs[i + 2 * half + 1] = _mm256_shuffle_ps(one, other, kSecondHalves);
+        }
+    }
+    for (std::size_t i = 0; i < kSide / 2; ++i) {
+        const __m256 upper = _mm256_permute2f128_ps(pairs[i], pairs[i + 4], 0x20);
+        const __m256 lower = _mm256_permute2f128_ps(pairs[i], pairs[i + 4], 0x31);
+        _mm256_storeu_ps(reinterpret_cast<float*>(&rows[i]), upper);
+        _mm256_storeu_ps(reinterpret_cast<float*>(&rows[i + 4]), lower);
+    }
+}
+#endif
+
 /// In each column.
 Block wavesIn(const Block& pixels)
 {
@@ -70,44 +103,48 @@ Block wavesIn(const Block& pixels)
     return blockOf(sums);
 }
 
-ORLEN_INLINE bool isEmpty(std::span<const float> numbers)
-{
-    return std::ranges::all_of(numbers, [](float number) { return number == 0; });
-}
-
 /// Adds up the waves of each column. Every other wave is the same from both ends, and the others are the
 /// same but for the sign; the finest ones are often missing.
-ORLEN_INLINE Block addedUp(const Block& frequencies)
+ORLEN_INLINE void addUp(Rows& rows)
 {
     constexpr std::size_t kHalf = kSide / 2;
-    const Rows rows = rowsOf(frequencies);
     std::size_t count = kSide;
-    while (count > 0 && isEmpty(std::span(frequencies).subspan((count - 1) * kSide, kSide)))
+    while (count > 0 && !WideLanes::isAnySet(rows[count - 1] != Row{}))
         --count;
     std::array<Row, kHalf> even{};
     std::array<Row, kHalf> odd{};
-    for (std::size_t wave = 0; wave < count; ++wave) {
-        const float* heights = &waves()[wave * kSide];
+    const float* heights = waves().data();
+    for (std::size_t wave = 0; wave < count; ++wave, heights += kSide) {
         std::array<Row, kHalf>& half = wave % 2 == 0 ? even : odd;
         for (std::size_t y = 0; y < kHalf; ++y)
             half[y] += heights[y] * rows[wave];
     }
-    Rows sums{};
     for (std::size_t y = 0; y < kHalf; ++y) {
-        sums[y] = even[y] + odd[y];
-        sums[kSide - 1 - y] = even[y] - odd[y];
+        rows[y] = even[y] + odd[y];
+        rows[kSide - 1 - y] = even[y] - odd[y];
     }
-    return blockOf(sums);
 }
 
 ORLEN_INLINE Block addedUpBothWays(const Block& frequencies)
 {
-    return addedUp(swapped(addedUp(frequencies)));
+    Rows rows = rowsOf(frequencies);
+    addUp(rows);
+    rows = rowsOf(swapped(blockOf(rows)));
+    addUp(rows);
+    return blockOf(rows);
 }
 
 ORLEN_WIDE Block addedUpInWideLanes(const Block& frequencies)
 {
+#ifdef __x86_64__
+    Rows rows = rowsOf(frequencies);
+    addUp(rows);
+    swapInWideLanes(rows);
+    addUp(rows);
+    return blockOf(rows);
+#else
     return addedUpBothWays(frequencies);
+#endif
 }
 
 } // namespace

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
 /// In front of a function that is compiled for processors with lanes of 256 bits (AVX2), beside one for all
 /// processors. It may only be called if `WideLanes::areUsed()`. What it calls is compiled so only if it is
 /// inlined, `ORLEN_INLINE`. It must come to the same bits.
@@ -24,5 +29,17 @@ public:
     Without(const Without&) = delete;
     Without& operator=(const Without&) = delete;
 };
+
+/// Whether a comparison holds in any of the lanes.
+template <typename Ints>
+ORLEN_INLINE bool isAnySet(const Ints& lanes)
+{
+    std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)> parts{};
+    std::memcpy(parts.data(), &lanes, sizeof lanes);
+    std::uint64_t any = 0;
+    for (const std::uint64_t part : parts)
+        any |= part;
+    return any != 0;
+}
 
 } // namespace orlen::WideLanes

@@ -164,7 +164,7 @@ ORLEN_INLINE bool BlockSearch<side, block>::mayBeBetter(const Common<Lanes, coun
             sum * sums;
         isBetter |= (atMost > 0.0F) & (atMost * atMost * onesBySpreads > sought.most);
     }
-    return isAnySet(isBetter);
+    return WideLanes::isAnySet(isBetter);
 }
 
 /// At `places` places in a row of another picture, from `first` on, of which there are `count` times the
@@ -198,7 +198,7 @@ ORLEN_INLINE void BlockSearch<side, block>::look(Sought& sought, const BlockSear
         isBetter |= square > sought.most;
         std::memcpy(&found[i * Lanes::kCount], &square, sizeof square);
     }
-    if (!isAnySet(isBetter))
+    if (!WideLanes::isAnySet(isBetter))
         return;
     for (int i = 0; i < places; ++i) {
         if (found[static_cast<std::size_t>(i)] > sought.most) {

@@ -2,7 +2,6 @@
 
 #include "platform/values/WideLanes.h"
 
-#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -70,18 +69,6 @@ template <typename Lanes>
 ORLEN_INLINE void load(Lanes& lanes, const float* numbers)
 {
     std::memcpy(&lanes, numbers, sizeof lanes);
-}
-
-/// Whether a comparison holds in any of the lanes.
-template <typename Ints>
-ORLEN_INLINE bool isAnySet(const Ints& lanes)
-{
-    std::array<std::uint64_t, sizeof lanes / sizeof(std::uint64_t)> parts{};
-    std::memcpy(parts.data(), &lanes, sizeof lanes);
-    std::uint64_t any = 0;
-    for (const std::uint64_t part : parts)
-        any |= part;
-    return any != 0;
 }
 
 } // namespace orlen

@@ -211,10 +211,12 @@ QuickLook::Finds QuickLook::findsIn(const QuickLook& other) const
         unsigned least = std::numeric_limits<unsigned>::max();
         for (int x = std::max(block.left - kFarthest, 0); x <= std::min(block.left + kFarthest, kPlaces - 1);
              ++x) {
-            const auto& ranks = kBlockMoves.rank[static_cast<std::size_t>(x - block.left + kFarthest)];
+            const int right = x - block.left + kFarthest;
+            const auto& ranks = kBlockMoves.rank[static_cast<std::size_t>(right)];
             for (int y = std::max(block.top - kFarthest, 0); y <= bottom; ++y) {
                 const auto different = static_cast<unsigned>(std::popcount(own ^ other.pixels(x, y)));
-                const unsigned rank = ranks[static_cast<std::size_t>(y - block.top + kFarthest)];
+                const int down = y - block.top + kFarthest;
+                const unsigned rank = ranks[static_cast<std::size_t>(down)];
                 least = std::min(least, different << kRankBits | rank);
             }
         }
@@ -232,9 +234,10 @@ ORLEN_WIDE QuickLook::Finds QuickLook::findsInWideLanes(const QuickLook& other) 
         WideBlock sought(pixels(block.left, block.top));
         const int top = block.top - kFarthest;
         for (int x = std::max(block.left - kFarthest, 0); x <= std::min(block.left + kFarthest, kPlaces - 1);
-             ++x)
-            sought.look(other.column(x, top),
-                        kRanksOfWays[static_cast<std::size_t>(x - block.left + kFarthest)]);
+             ++x) {
+            const int right = x - block.left + kFarthest;
+            sought.look(other.column(x, top), kRanksOfWays[static_cast<std::size_t>(right)]);
+        }
         finds[count++] = found(block, sought.least(-top, kPlaces - 1 - top));
     }
 #else

@@ -37,7 +37,7 @@ private:
 
     [[nodiscard]] const std::uint8_t* column(int left, int top) const
     {
-        return m_columns.data() + kMargin + left * PictureOutline::kSide + top;
+        return m_columns.data() + kMargin + std::ptrdiff_t{left} * PictureOutline::kSide + top;
     }
     /// The pixels of a block there, a byte for each of its rows.
     [[nodiscard]] std::uint64_t pixels(int left, int top) const
@@ -51,7 +51,8 @@ private:
 
     const PictureOutline& m_outline;
     /// For each place from the left, eight pixels of each row.
-    std::array<std::uint8_t, std::size_t{PictureOutline::kSide} * kPlaces + 2 * kMargin> m_columns{};
+    std::array<std::uint8_t, std::size_t{PictureOutline::kSide} * kPlaces + std::size_t{2} * kMargin>
+        m_columns{};
 };
 
 } // namespace orlen

@@ -33,7 +33,8 @@ struct Products {
 using Cells = std::array<Products, kCells * kCells>;
 
 /// A tile around 0, in squares of `step` pixels that are taken for one.
-std::vector<std::int32_t> levelsOf(const FeaturePrint::Tile& tile, std::size_t step)
+template <std::size_t step>
+std::vector<std::int32_t> levelsOf(const FeaturePrint::Tile& tile)
 {
     constexpr std::int32_t kMiddle = 128;
     std::vector<std::int32_t> levels(tile.size());
@@ -45,10 +46,11 @@ std::vector<std::int32_t> levelsOf(const FeaturePrint::Tile& tile, std::size_t s
 }
 
 /// The sums of the squares are left in one pixel each; the others are 0 and add nothing.
-Cells cellsOf(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other, std::size_t step)
+template <std::size_t step>
+Cells cellsOf(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    const std::vector<std::int32_t> ones = levelsOf(one, step);
-    const std::vector<std::int32_t> others = levelsOf(other, step);
+    const std::vector<std::int32_t> ones = levelsOf<step>(one);
+    const std::vector<std::int32_t> others = levelsOf<step>(other);
     Cells cells{};
     for (std::size_t y = 0; y < kSide; ++y) {
         for (std::size_t x = 0; x < kSide; ++x) {
@@ -142,12 +144,12 @@ std::int64_t pixelCount(const PhotoInfo& photo)
 
 float SamePicture::difference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    return worstLeftOver(cellsOf(one, other, 1), 1);
+    return worstLeftOver(cellsOf<1>(one, other), 1);
 }
 
 float SamePicture::coarseDifference(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    return worstLeftOver(cellsOf(one, other, 2), 2);
+    return worstLeftOver(cellsOf<2>(one, other), 2);
 }
 
 SamePicture::Frame::Frame(const PhotoInfo& of) : photo(&of)
@@ -183,7 +185,7 @@ bool SamePicture::isDrawnOver(const Frame& one, const Frame& other)
     constexpr std::size_t kCoarse = 2;
     if (!one.tile || !other.tile)
         return false;
-    const Overlay overlay = overlayOf(cellsOf(*one.tile, *other.tile, kCoarse), noiseOf(kCoarse));
+    const Overlay overlay = overlayOf(cellsOf<kCoarse>(*one.tile, *other.tile), noiseOf(kCoarse));
     const Products& different = overlay.different;
     const double ours = different.oneOne;
     const double theirs = different.otherOther;

@@ -10,7 +10,7 @@
 
 namespace orlen {
 
-/// The tiles of photos that were asked for last, so that few are unpacked more than once. 67 MB at most.
+/// The tiles of photos that were asked for last, so that few are unpacked more than once. 100 MB at most.
 /// Borrows the photos. Any thread.
 class UnpackedTiles {
 public:
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] Shared of(std::size_t photo);
 
 private:
-    static constexpr std::size_t kMost = 4'096;
+    static constexpr std::size_t kMost = 6'144;
 
     const std::vector<PhotoInfo>& m_photos;
     std::mutex m_mutex; ///< for what follows
