@@ -1,7 +1,9 @@
 #include "insight/reader/ListRequest.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsNames.h"
 #include "insight/reader/ListConditions.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 
@@ -85,7 +87,36 @@ bool isAfterInside(const Question& question, std::size_t at)
     return at > 0 && question.phrases[at - 1].sense == Sense::inside;
 }
 
-/// A folder given by its path or its name. False if unknown words are none.
+/// "The smallest audiobooks": what lies in the person's own folder of that name. False if there is none.
+bool takeOwnFolder(const Question& question, const AskContext& context, const std::string& name,
+                   ListRequest& request)
+{
+    constexpr SenseSet kOfMany{Sense::biggest, Sense::smallest, Sense::oldest, Sense::newest, Sense::howMany};
+    if (context.home == nullptr || request.subject != nullptr || question.senses.has(Sense::folder) ||
+        !question.senses.meets(kOfMany))
+        return false;
+    for (const std::string& each : {name, name + "s"}) {
+        const std::string path = folderNamed(context, each);
+        const auto folder = path.empty() ? std::nullopt : context.home->folderAt(path);
+        if (folder && context.home->folder(*folder).isOwn) {
+            request.folder = path;
+            return true;
+        }
+    }
+    return false;
+}
+
+/// "The oldest tax documents": files of a kind with a word in their names.
+bool takeWords(const AskContext& context, const std::string& name, ListRequest& request)
+{
+    if (context.home == nullptr || request.subject == nullptr || request.subject->extensions.empty())
+        return false;
+    request.name = name;
+    request.words = wordsOfName(lowered(name));
+    return !request.words.empty();
+}
+
+/// A folder given by its path or its name, or words of names. False if unknown words are none.
 bool takeFolder(const Question& question, const AskContext& context, ListRequest& request)
 {
     const std::vector<Phrase>& phrases = question.phrases;
@@ -96,16 +127,21 @@ bool takeFolder(const Question& question, const AskContext& context, ListRequest
     // "How many songs of Bach": in many languages the word before it says nothing.
     const bool isCounted = context.home != nullptr && question.senses.has(Sense::howMany) &&
                            request.subject != nullptr && !request.subject->isAnyFile;
-    if (!request.folder.empty() || std::any_of(last, phrases.end(), isName) ||
-        (!isCounted && !isAfterInside(question, static_cast<std::size_t>(first - phrases.begin()))))
+    if (std::any_of(last, phrases.end(), isName))
         return false;
     std::string name;
     for (auto each = first; each != last; ++each)
         name += (name.empty() ? "" : " ") + each->text;
+    const bool isPlace = isAfterInside(question, static_cast<std::size_t>(first - phrases.begin()));
+    if (!isPlace && !isCounted)
+        return takeWords(context, name, request) ||
+               (request.folder.empty() && takeOwnFolder(question, context, name, request));
+    if (!request.folder.empty())
+        return !isPlace && takeWords(context, name, request);
     request.folder = folderNamed(context, name);
     if (request.folder.empty() && request.subject != nullptr && !request.subject->isAnyFile)
         request.folder = folderHolding(context, name);
-    return !request.folder.empty();
+    return !request.folder.empty() || (!isPlace && takeWords(context, name, request));
 }
 
 /// Whether folders are to be listed: the word for them stands alone, not beside the name of one.
@@ -212,6 +248,8 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
     if (request.isHiddenOnly)
         narrow(request, InsightTexts::kFilesHidden, {});
+    if (!request.name.empty())
+        narrow(request, InsightTexts::kFilesNamed, {{"name", PathText::forDisplay(request.name)}});
     if (!takeRating(question, request) || !takeSizes(question, request) ||
         !takeDate(question, context.now, request))
         return std::nullopt;
@@ -234,6 +272,13 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     return request;
 }
 
+bool holdsWordsInName(const ListRequest& request, std::string_view path)
+{
+    const std::string lower = lowered(PathText::lastComponent(path));
+    return std::ranges::all_of(request.words,
+                               [&](const std::string& word) { return holdsWord(lower, word); });
+}
+
 bool isRecognised(const Subject& subject)
 {
     using enum SubjectID;
@@ -244,6 +289,8 @@ bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
 {
     if ((rating && finding.effectiveRating(entry) != *rating) ||
         (!ending.empty() && !isNamed(entry.path, ending)))
+        return false;
+    if (!words.empty() && !holdsWordsInName(*this, entry.path))
         return false;
     if (entry.size < leastBytes || entry.size > mostBytes ||
         (!exclusions.empty() && exclusions.leaveOut(finding, entry)))

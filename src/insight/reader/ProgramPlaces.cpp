@@ -140,6 +140,20 @@ std::vector<Hit> hitsAt(const AskContext& context, const std::vector<Measured>& 
     return eachOnce(std::move(hits));
 }
 
+/// What a folder counts for; nothing if for several.
+std::optional<OrlenCategory> categoryOf(const StorageBreakdown& breakdown, std::string_view path)
+{
+    for (const CategoryFolder& folder : breakdown.folders) {
+        const bool isIn = folder.path == PathText::parent(path) &&
+                          std::ranges::any_of(folder.largest, [&](const CategoryFolder::Item& item) {
+                              return item.name == PathText::lastComponent(path);
+                          });
+        if (folder.path == path || isIn)
+            return folder.category;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 bool isPlaceOf(std::string_view path, const ProgramName& program)
@@ -181,6 +195,7 @@ Found placesOf(const AskContext& context, const ProgramName& program)
     for (const Number folder : folders) {
         Measured one{context.home->folderPath(folder), context.home->folder(folder).bytes, {}};
         one.kind = Measured::Kind::folder;
+        one.category = categoryOf(context.breakdown, one.path);
         found.measured.push_back(std::move(one));
     }
     found.hits = hitsAt(context, found.measured);
