@@ -124,6 +124,7 @@ constexpr Row kFiles[] = {
     {"wie viele JS-Dateien habe ich", "ending in .js"},
     {"how many blend files", "I found no files ending in .blend."},
     {"the two smallest coast", "in ~/Pictures/Coast there are 2|shot two.jpg"},
+    {"biggest log files", "log files", "ending"},
     {"the smallest audiobooks", "I don't know that."},
     {"old garden documents", "with “garden” in their names|garden plan.pdf", "Floor"},
     {"how many PDFs are in Downloads", "Of PDFs in ~/Downloads there are 2"},

@@ -25,13 +25,17 @@ namespace {
 /// "report (1)", "report copy", "Kopie von report" without what says that it is a copy; in lower case.
 std::string withoutCopyMark(std::string stem)
 {
-    constexpr std::string_view kBehind[] = {"copy", "kopie", "copie", "copia", "backup"};
-    constexpr std::string_view kBefore[] = {"copy of ", "kopie von ", "copie de ", "copia de ", "copia di "};
+    constexpr std::string_view kMarks[] = {"copy", "kopie", "copie", "copia", "backup"};
+    constexpr std::string_view kOf[] = {"of ", "von ", "de ", "di "};
     constexpr std::string_view kJoints = " -_.";
     const auto trim = [&] { stem.erase(stem.find_last_not_of(kJoints) + 1); };
-    for (const std::string_view mark : kBefore) {
-        if (stem.starts_with(mark))
-            stem.erase(0, mark.size());
+    for (const std::string_view mark : kMarks) {
+        for (const std::string_view joint : kOf) {
+            const std::size_t length = mark.size() + 1 + joint.size();
+            if (stem.size() > length && stem.starts_with(mark) && stem[mark.size()] == ' ' &&
+                std::string_view(stem).substr(mark.size() + 1).starts_with(joint))
+                stem.erase(0, length);
+        }
     }
     const std::size_t open = stem.ends_with(')') ? stem.rfind('(') : std::string::npos;
     if (open != std::string::npos && open > 0 &&
@@ -39,7 +43,7 @@ std::string withoutCopyMark(std::string stem)
         stem.erase(open);
         trim();
     }
-    for (const std::string_view mark : kBehind) {
+    for (const std::string_view mark : kMarks) {
         const bool isMarked = stem.size() > mark.size() + 1 && stem.ends_with(mark) &&
                               kJoints.find(stem[stem.size() - mark.size() - 1]) != std::string_view::npos;
         if (isMarked) {

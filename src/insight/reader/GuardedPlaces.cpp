@@ -71,6 +71,14 @@ bool isKnownPlace(const std::string& name)
                                [&](const KnownPlace& place) { return isListed(place.words, lower); });
 }
 
+bool isProgramOfPlace(const std::string& name)
+{
+    constexpr std::string_view kPrograms[] = {"firefox", "thunderbird", "chrome", "chromium"};
+    const std::string lower = plainLetters(name);
+    return std::ranges::any_of(kPrograms,
+                               [&](std::string_view program) { return lower.starts_with(program); });
+}
+
 bool holdsSecrets(Protection protection)
 {
     using enum Protection;

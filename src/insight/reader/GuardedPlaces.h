@@ -15,6 +15,9 @@ namespace orlen::AskReader {
 /// Whether it is a word for such a place: "bookmarks".
 [[nodiscard]] bool isKnownPlace(const std::string& name);
 
+/// Whether such a word is the name of a program.
+[[nodiscard]] bool isProgramOfPlace(const std::string& name);
+
 /// Whether what is protected so is nobody's business: keys, passwords, mail and the like.
 [[nodiscard]] bool holdsSecrets(Protection protection);
 

@@ -260,7 +260,8 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     if (!found.trashed.empty())
         return inTrash(found);
     if (context.home != nullptr && isKnownPlace(name))
-        return asksSize(question) ? notFound(name, context) : Answer{InsightTexts::kNeverTouched, {}};
+        return asksSize(question) || isProgramOfPlace(name) ? notFound(name, context)
+                                                            : Answer{InsightTexts::kNeverTouched, {}};
     return isFileName(question, name) || (context.home != nullptr && isNoWord(name))
                ? std::optional(notFound(name, context))
                : std::nullopt;
@@ -278,9 +279,8 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     if (std::optional<Answer> sum = sumOfNamed(question, context))
         return sum;
     std::optional<Answer> answer = named(question, context);
-    constexpr SenseSet kOfRemoving{Sense::remove, Sense::safe, Sense::keep};
     const bool asksWhat = question.senses.has(Sense::what);
-    if (!answer || answer->paths.size() != 1 || (!asksWhat && !question.senses.meets(kOfRemoving)))
+    if (!answer || answer->paths.size() != 1 || (!asksWhat && asksSize(question)))
         return answer;
     const Message what = asksWhat ? whatItIs(answer->paths.front(), context)
                                   : whatMakesItAgain(answer->paths.front(), context);
@@ -327,7 +327,8 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
         !hitsOfSteam(question, context, name).empty();
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&
-                             isProgram(context, programIn(question, name));
+                             (isProgram(context, programIn(question, name)) ||
+                              placesOf(context, programIn(question, name)).fit != Fit::none);
     if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isOfProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))

@@ -200,8 +200,16 @@ bool meansFiles(const std::string& plain)
     });
 }
 
-/// Whether files of the home folder end in it, or programs that many people have make such files, and it is
-/// no word of a language.
+/// Whether it means something in a language, by itself or with the word behind it: "log files".
+bool isKnown(const std::string& plain, const std::string& next)
+{
+    return std::ranges::any_of(Lexicon::all(), [&](const Lexicon& lexicon) {
+        return lexicon.find(plain) != nullptr ||
+               (!next.empty() && lexicon.find(plain + " " + next) != nullptr);
+    });
+}
+
+/// Whether files of the home folder end in it, or programs that many people have make such files.
 bool isEndingOfFiles(std::string_view plain, const HomeNames& names)
 {
     constexpr std::size_t kShortest = 2;
@@ -210,10 +218,8 @@ bool isEndingOfFiles(std::string_view plain, const HomeNames& names)
         "psd",  "xcf", "kra", "blend", "stl", "dwg", "dxf",  "gcode", "srt", "json", "xml",    "yaml", "sql",
         "html", "css", "php", "cpp",   "ttf", "otf", "vcf",  "ics",   "eml", "mbox", "jar",    "apk",  "gpx",
         "rw2",  "nef", "cr2", "dng",   "iso", "vdi", "vmdk", "qcow2", "mov", "wav",  "torrent"};
-    const bool isWord = std::ranges::any_of(
-        Lexicon::all(), [&](const Lexicon& lexicon) { return lexicon.isWord(std::string(plain)); });
     return plain.size() >= kShortest && plain.size() <= kLongest && std::ranges::all_of(plain, isWordByte) &&
-           std::ranges::any_of(plain, isLetter) && !isWord &&
+           std::ranges::any_of(plain, isLetter) &&
            (std::ranges::find(kUsual, plain) != std::end(kUsual) || names.hasEnding(plain));
 }
 
@@ -229,13 +235,16 @@ void markEndings(std::vector<Word>& words, const HomeNames& names)
         if (words[i].isQuoted)
             continue;
         if (dash != std::string::npos && dash > 0 && meansFiles(plain.substr(dash + 1)) &&
+            !isKnown(plain.substr(0, dash), plain.substr(dash + 1)) &&
             isEndingOfFiles(std::string_view(plain).substr(0, dash), names)) {
             const std::string files = plain.substr(dash + 1);
             const std::string ending = "." + plain.substr(0, dash);
             const Word behind{files, files, false, words[i].endsClause};
             words[i] = {ending, ending};
             words.insert(words.begin() + static_cast<std::ptrdiff_t>(i) + 1, behind);
-        } else if ((areFiles(i + 1) || (i > 0 && areFiles(i - 1))) && isEndingOfFiles(plain, names)) {
+        } else if ((areFiles(i + 1) || (i > 0 && areFiles(i - 1))) &&
+                   !isKnown(plain, i + 1 < words.size() ? words[i + 1].plain : "") &&
+                   isEndingOfFiles(plain, names)) {
             words[i].plain = "." + plain;
             words[i].typed = words[i].plain;
         }

@@ -154,6 +154,27 @@ std::optional<OrlenCategory> categoryOf(const StorageBreakdown& breakdown, std::
     return std::nullopt;
 }
 
+/// "The shader cache": caches that no program is named after, by words of their paths.
+void addCachesByWords(Found& found, const AskContext& context, const std::string& name)
+{
+    constexpr std::size_t kShortest = 4;
+    std::vector<std::string> words = wordsOfName(lowered(name));
+    if (words.empty() ||
+        std::ranges::any_of(words, [](const std::string& word) { return word.size() < kShortest; }))
+        return;
+    words.emplace_back("cache");
+    found.hits = holdingAll(context, words);
+    for (const CleanRecord& record : context.history) {
+        for (const TrashedItem& item : record.items) {
+            const std::string path = lowered(item.original);
+            if (!item.restored && std::ranges::all_of(words, [&](const std::string& word) {
+                    return path.find(word) != std::string::npos;
+                }))
+                found.trashed.push_back(&item);
+        }
+    }
+}
+
 } // namespace
 
 bool isPlaceOf(std::string_view path, const ProgramName& program)
@@ -208,6 +229,9 @@ Found placesOf(const AskContext& context, const ProgramName& program)
                 found.trashed.push_back(&item);
         }
     }
+    if (program.part == PlacePart::caches && found.hits.empty() && found.measured.empty() &&
+        found.trashed.empty())
+        addCachesByWords(found, context, program.name);
     std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
     std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
     if (!found.hits.empty() || !found.measured.empty() || !found.trashed.empty())
