@@ -116,6 +116,11 @@ ProgramName programIn(const Question& question, std::string_view name)
             program.part = PlacePart::caches;
         else if (phrase.subject != nullptr && phrase.subject->id == SubjectID::logs)
             program.part = PlacePart::logs;
+        // "The Steam shader cache" is not that of another program.
+        const bool isSteam = phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
+                             plainLetters(phrase.text) == "steam";
+        if (isSteam && !name.empty())
+            program.name += " steam";
     }
     return program;
 }

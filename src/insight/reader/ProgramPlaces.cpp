@@ -173,6 +173,9 @@ void addCachesByWords(Found& found, const AskContext& context, const std::string
                 found.trashed.push_back(&item);
         }
     }
+    // What the Trash holds of it is the same.
+    if (!found.trashed.empty())
+        std::erase_if(found.hits, [](const Hit& hit) { return hit.finding->kind == FindingKind::trash; });
 }
 
 } // namespace
