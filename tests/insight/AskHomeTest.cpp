@@ -126,6 +126,7 @@ constexpr Row kFiles[] = {
     {"the two smallest coast", "in ~/Pictures/Coast there are 2|shot two.jpg"},
     {"biggest log files", "log files", "ending"},
     {"the smallest audiobooks", "I don't know that."},
+    {"largest coast photos", "Of photos in ~/Pictures/Coast there are 2", "Lake"},
     {"old garden documents", "with “garden” in their names|garden plan.pdf", "Floor"},
     {"how many PDFs are in Downloads", "Of PDFs in ~/Downloads there are 2"},
     {"how many photos do I have", "Of photos there are 2, 1.5 MB in all.", "category"},

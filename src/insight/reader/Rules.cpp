@@ -297,6 +297,7 @@ const std::vector<Rule>& rules()
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
+        {{{subject}, {unknown, quoted}}, {general, number, howMany, inside}, listOfFiles},
         {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},
     };
     return inOrder;
