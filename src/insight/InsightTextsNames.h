@@ -38,6 +38,14 @@ inline constexpr Text kListedInsideUnsafe =
              "In it the last scan lists {count} items, {size} in all; none of it is rated Safe.");
 // TRANSLATORS: a list of files and folders follows.
 inline constexpr Text kTogether = message("Together they take {size}:");
+// TRANSLATORS: a list of these files follows.
+inline constexpr Text kNamedAlike = messages(
+    "{count} file has such a name:", "{count} files have nearly the same name and take the same space:");
+inline constexpr Text kNoCopyListed =
+    message("The last scan lists no duplicate of “{name}”. It compares files from {size} up, and pictures of "
+            "any size.");
+// TRANSLATORS: {files} is "documents"; "documents with “tax” in their names". Stands within a sentence.
+inline constexpr Text kFilesNamed = message("{files} with “{name}” in their names");
 // TRANSLATORS: {path} is a folder such as "/var"; {category} is "System".
 inline constexpr Text kPartOfSystem =
     message("{path} counts for {category}, which takes {size} in all; Orlen does not measure it by itself.");

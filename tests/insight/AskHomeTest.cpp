@@ -40,6 +40,7 @@ protected:
         file(".cache/thunderbird/x", kBytesInMB / 8, "2026-02-01");
         add(FindingKind::caches, Rating::safe, message("Made again."),
             {entry(".cache/thunderbird", kBytesInMB / 8)});
+        home.folder(".thunderbird");
         context.protection = [this](std::string_view path) {
             return path == home.path(".thunderbird") ? Protection::mail : Protection::none;
         };
@@ -65,6 +66,8 @@ constexpr Row kOfPrograms[] = {
      "“spotify” has 2 folders|3 MB in all|~/.cache/spotify|~/.var/app/com.spotify.Client"},
     {"how big is the blender cache", "no cache of “blender”", ".config"},
     {"is the firefox cache safe", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
+    {"is firefox taking a lot of space", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
+    {"caches of my browser", "~/.cache/mozilla (1 GB) was moved to the Trash", "discord"},
     {"is minecraft safe to delete", "~/.minecraft takes"},
     {"my minecraft world", "~/.minecraft/saves takes"},
     {"how big are discords caches", "~/.config/discord/Cache"},
@@ -99,6 +102,7 @@ constexpr Row kThings[] = {
     {"what is box.vdi", "disk of a virtual machine"},
     {"what is Projects/engine/target", "listed under", "build output"},
     {"what is node_modules", "packages of a JavaScript project"},
+    {"can I delete node_modules", "its package manager installs them again"},
     {"what is setup.deb", "package that installs a program"},
     {"what is in Projects/engine", "target"},
     {"is Projects/engine safe to delete", "1 item, 8 MB; none of it is rated Safe|rated Review. Made again."},
@@ -116,6 +120,14 @@ constexpr Row kFiles[] = {
     {"show me all .img files", "Of files ending in .img there are 3|disk.img (8 MB)|App caches, Review"},
     {"how many flac files", "Of files ending in .flac there are 2, 19 MB in all."},
     {"how many mp3 do I have", "I found no files ending in .mp3."},
+    {"size of all js files", "Of files ending in .js there is 1, 2 MB"},
+    {"wie viele JS-Dateien habe ich", "ending in .js"},
+    {"how many blend files", "I found no files ending in .blend."},
+    {"the two smallest coast", "in ~/Pictures/Coast there are 2|shot two.jpg"},
+    {"biggest log files", "log files", "ending"},
+    {"the smallest audiobooks", "I don't know that."},
+    {"largest coast photos", "Of photos in ~/Pictures/Coast there are 2", "Lake"},
+    {"old garden documents", "with “garden” in their names|garden plan.pdf", "Floor"},
     {"how many PDFs are in Downloads", "Of PDFs in ~/Downloads there are 2"},
     {"how many photos do I have", "Of photos there are 2, 1.5 MB in all.", "category"},
     {"newest files", "Floor plan (1).pdf", "pip-tools|.cache"},
@@ -167,6 +179,10 @@ constexpr Row kNames[] = {
     {"how big is pip-tools in .cache", "~/.cache|listed under “App caches”"},
     {"can I delete Evening set.flac", "Evening set.flac (10 MB) in ~/Music, listed under", "fit"},
     {"what is blender", "The application Blender takes 3 GB", ".config"},
+    {"can I delete the keys in .thunderbird", "~/.thunderbird is protected", "nothing called"},
+    {"are there two copies of the floor plan",
+     "2 files have nearly the same name|Floor plan (1).pdf|no duplicate of “floor plan”|from 1 MB up"},
+    {"is saw.txt a duplicate", "no duplicate of “saw.txt”", "nearly"},
     {"can I delete thunderbird", "~/.thunderbird is protected|thunderbird (125 KB) in ~/.cache"},
     {"where is saw.txt in Music", "I find nothing called “saw.txt” in ~/Music."},
     {"can i delete vacation2019.zip", "I find nothing called “vacation2019.zip” in your home folder."},

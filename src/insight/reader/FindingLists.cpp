@@ -2,6 +2,7 @@
 
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsWhatIf.h"
+#include "insight/reader/FoundReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Proposal.h"
@@ -34,7 +35,7 @@ void addItems(Lines& lines, const std::vector<Hit>& hits)
         std::vector<Place> places{{"path", tilde(hit.entry->path)},
                                   {"size", Bytes{hit.entry->size}},
                                   {"title", within(hit.finding->title)}};
-        const Message note = noteOf(*hit.entry);
+        const Message note = noteOnOneLine(*hit.entry);
         if (!note.empty())
             places.push_back({"note", within(note)});
         lines.texts.push_back(

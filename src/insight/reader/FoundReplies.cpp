@@ -60,7 +60,7 @@ Message rated(const Hit& hit, const RatedText& text, const RatedText& withNote, 
 {
     places.push_back({"size", Bytes{hit.entry->size}});
     places.push_back({"title", within(hit.finding->title)});
-    Message note = onOneLine(noteOf(*hit.entry));
+    Message note = noteOnOneLine(*hit.entry);
     const RatedText& said = note.empty() ? text : withNote;
     if (!note.empty())
         places.push_back({"note", within(std::move(note))});
@@ -117,6 +117,20 @@ Answer listedAll(const AskContext& context, const Found& found, std::string_view
     const auto count = std::ssize(found.hits) + std::ssize(found.measured);
     return listedBelow({InsightTexts::kItemsFit, {{"count", count}, {"name", std::string(name)}}}, context,
                        found);
+}
+
+/// Without folders that take no less than the one around them, which says the same of both.
+std::vector<Measured> outermost(const std::vector<Measured>& measured)
+{
+    std::vector<Measured> outer;
+    std::ranges::copy_if(measured, std::back_inserter(outer), [&](const Measured& each) {
+        return each.kind == Measured::Kind::file ||
+               std::ranges::none_of(measured, [&](const Measured& other) {
+                   return other.path != each.path && PathText::isAtOrBelow(each.path, other.path) &&
+                          other.bytes == each.bytes;
+               });
+    });
+    return outer;
 }
 
 Message sizeAndPlace(const Measured& one)
@@ -178,6 +192,11 @@ Message verdict(const Measured& one, const Question& question, const AskContext&
 }
 
 } // namespace
+
+Message noteOnOneLine(const FileEntry& entry)
+{
+    return onOneLine(noteOf(entry));
+}
 
 Protection protectionOf(const AskContext& context, std::string_view path)
 {
@@ -255,11 +274,15 @@ Answer listedHits(const AskContext& context, const Found& found, std::string_vie
 Answer measuredOnly(const Question& question, const AskContext& context, const Found& found,
                     std::string_view name)
 {
-    if (found.measured.size() > 1 && found.measured.front().kind != Measured::Kind::unknown)
-        return listedAll(context, found, name);
+    const std::vector<Measured> places = outermost(found.measured);
+    if (places.size() > 1 && places.front().kind != Measured::Kind::unknown) {
+        Found outer = found;
+        outer.measured = places;
+        return listedAll(context, outer, name);
+    }
     std::vector<Message> lines;
     Answer answer;
-    for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), kListed))) {
+    for (const Measured& each : std::span(places).first(std::min(places.size(), kListed))) {
         answer.paths.push_back(each.path);
         lines.push_back(AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer)}));
     }

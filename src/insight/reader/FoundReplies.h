@@ -9,6 +9,9 @@
 /// Answers about what was found by a name. Pure; any thread.
 namespace orlen::AskReader {
 
+/// What there is to know about an entry; names in it may have line breaks.
+[[nodiscard]] Message noteOnOneLine(const FileEntry& entry);
+
 /// Which rule protects a path; none if nobody knows.
 [[nodiscard]] Protection protectionOf(const AskContext& context, std::string_view path);
 

@@ -1,6 +1,7 @@
 #include "insight/reader/GuardedPlaces.h"
 
 #include "insight/reader/FoundReplies.h"
+#include "insight/reader/LowerName.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 
@@ -40,6 +41,16 @@ constexpr KnownPlace kKnownPlaces[] = {
     {".local/share", "{DATA}"},
 };
 
+/// Whether the walk of the home folder has met nothing at a path in it.
+bool isMissing(const AskContext& context, std::string_view path)
+{
+    const std::string& home = Places::current().home;
+    if (context.home == nullptr || path == home || !PathText::isAtOrBelow(path, home))
+        return false;
+    return !context.home->folderAt(path) &&
+           !context.names->of(context.home)->at(lowered(path.substr(home.size())));
+}
+
 } // namespace
 
 bool isListed(std::string_view phrases, std::string_view phrase)
@@ -53,6 +64,29 @@ bool isListed(std::string_view phrases, std::string_view phrase)
     return false;
 }
 
+bool isKnownPlace(const std::string& name)
+{
+    const std::string lower = plainLetters(name);
+    return std::ranges::any_of(kKnownPlaces,
+                               [&](const KnownPlace& place) { return isListed(place.words, lower); });
+}
+
+bool isProgramOfPlace(const std::string& name)
+{
+    constexpr std::string_view kPrograms[] = {"firefox", "thunderbird", "chrome", "chromium"};
+    const std::string lower = plainLetters(name);
+    return std::ranges::any_of(kPrograms,
+                               [&](std::string_view program) { return lower.starts_with(program); });
+}
+
+bool holdsSecrets(Protection protection)
+{
+    using enum Protection;
+    constexpr Protection kSecret[] = {credentials, keyrings,      browserProfiles,
+                                      mail,        conversations, encryption};
+    return std::ranges::find(kSecret, protection) != std::end(kSecret);
+}
+
 std::string protectedPath(const Question& question, const AskContext& context, const std::string& name)
 {
     std::vector<std::string> paths{pathIn(name)};
@@ -60,7 +94,8 @@ std::string protectedPath(const Question& question, const AskContext& context, c
         const std::string lower = plainLetters(name);
         for (const KnownPlace& place : kKnownPlaces) {
             if (isListed(place.words, lower))
-                std::ranges::move(Places::current().expand(place.pattern), std::back_inserter(paths));
+                std::ranges::copy_if(Places::current().expand(place.pattern), std::back_inserter(paths),
+                                     [&](const std::string& path) { return !isMissing(context, path); });
         }
         if (lower.starts_with('.') && lower.find('/') == std::string::npos)
             paths.push_back(PathText::join(Places::current().home, name));

@@ -167,6 +167,7 @@ private:
             file.bytes > m_request.mostBytes || file.changed < m_request.changedFrom ||
             file.changed >= m_request.changedTo || file.opened >= m_request.openedTo ||
             (m_request.isHiddenOnly && !file.name.starts_with('.')) || !m_endings.fit(file.name) ||
+            (!m_request.words.empty() && !holdsWordsInName(m_request, file.name)) ||
             isCountedElsewhere(number, file.counted))
             return;
         if (m_request.recognised != nullptr && !isNamedLike(*m_request.recognised, file.name) &&

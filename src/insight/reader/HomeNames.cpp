@@ -89,6 +89,20 @@ std::vector<HomeNames::Item> HomeNames::withStem(std::string_view lower) const
     return matching(m_stems, lower, false);
 }
 
+bool HomeNames::hasEnding(std::string_view lower) const
+{
+    std::string ending;
+    for (Number i = 0; i < m_home->fileCount(); ++i) {
+        const std::string_view its = PathText::extension(m_home->fileName(i));
+        if (its.size() != lower.size())
+            continue;
+        AskReader::lowerInto(ending, its);
+        if (ending == lower)
+            return true;
+    }
+    return false;
+}
+
 std::optional<HomeNames::Item> HomeNames::child(Number folder, std::string_view lower) const
 {
     std::string name;

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] std::vector<Item> named(std::string_view lower) const;
     /// The files that have this name, in lower case, before their ending.
     [[nodiscard]] std::vector<Item> withStem(std::string_view lower) const;
+    /// Whether a file has this ending, in lower case and without the dot.
+    [[nodiscard]] bool hasEnding(std::string_view lower) const;
     /// What a path in lower case leads to that begins in the home folder or, if nothing does, in a folder
     /// anywhere below: "projects/engine".
     [[nodiscard]] std::optional<Item> at(std::string_view lowerPath) const;

@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/FoundReplies.h"
 #include "insight/reader/HomeLists.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
@@ -70,6 +71,15 @@ Message lineFor(const ListRequest& request, const Hit& hit)
     std::vector<Place> places{{"path", tilde(entry.path)},
                               {"size", Bytes{entry.size}},
                               {"rating", within(label(hit.finding->effectiveRating(entry)))}};
+    // Which one is kept instead says more than a date.
+    const FindingKind kind = hit.finding->kind;
+    const bool isCopy = kind == FindingKind::duplicates || kind == FindingKind::photoDuplicates;
+    if (Message note = isCopy && request.order == Order::biggest ? noteOnOneLine(entry) : Message();
+        !note.empty()) {
+        places.push_back({"title", within(hit.finding->title)});
+        places.push_back({"note", within(std::move(note))});
+        return {InsightTexts::kFittingWithNote.of(hit.finding->effectiveRating(entry)), std::move(places)};
+    }
     const bool isByOpening = request.openedTo != TimePoint::max() && entry.lastOpened;
     const auto& date = isByOpening ? entry.lastOpened : entry.modified;
     if (!date)
@@ -162,7 +172,10 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     const std::optional<ListRequest> request = listRequestIn(question, context);
     if (!request)
         return std::nullopt;
-    if (const auto list = homeListFor(*request, context))
+    const auto list = homeListFor(*request, context);
+    if (!request->words.empty() && (!list || list->count == 0))
+        return std::nullopt;
+    if (list)
         return shownList(*request, context, *list);
     if (request->areFolders || request->isHiddenOnly)
         return std::nullopt;
@@ -197,7 +210,7 @@ std::optional<Answer> countOfFiles(const Question& question, const AskContext& c
 {
     const std::optional<ListRequest> request = listRequestIn(question, context);
     const auto list = request ? homeListFor(*request, context) : std::nullopt;
-    if (!list)
+    if (!list || (!request->words.empty() && list->count == 0))
         return std::nullopt;
     const Message left = context.home->isComplete() ? Message() : InsightTexts::kSmallestLeftOut;
     return Answer{AskText::lines({request->exclusions.said(), sumOf(*request, *list), left}), {}};

@@ -1,7 +1,10 @@
 #include "insight/reader/ListRequest.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsNames.h"
 #include "insight/reader/ListConditions.h"
+#include "insight/reader/ListPlaces.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 
@@ -70,42 +73,6 @@ bool takeSubjects(const Question& question, ListRequest& request)
             return false;
     }
     return true;
-}
-
-bool isName(const Phrase& phrase)
-{
-    return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
-}
-
-/// "In the folder Projects": the word for folders is no part of what is listed.
-bool isAfterInside(const Question& question, std::size_t at)
-{
-    while (at > 0 && question.phrases[at - 1].sense == Sense::folder)
-        --at;
-    return at > 0 && question.phrases[at - 1].sense == Sense::inside;
-}
-
-/// A folder given by its path or its name. False if unknown words are none.
-bool takeFolder(const Question& question, const AskContext& context, ListRequest& request)
-{
-    const std::vector<Phrase>& phrases = question.phrases;
-    const auto first = std::ranges::find_if(phrases, isName);
-    if (first == phrases.end())
-        return true;
-    const auto last = std::find_if_not(first, phrases.end(), isName);
-    // "How many songs of Bach": in many languages the word before it says nothing.
-    const bool isCounted = context.home != nullptr && question.senses.has(Sense::howMany) &&
-                           request.subject != nullptr && !request.subject->isAnyFile;
-    if (!request.folder.empty() || std::any_of(last, phrases.end(), isName) ||
-        (!isCounted && !isAfterInside(question, static_cast<std::size_t>(first - phrases.begin()))))
-        return false;
-    std::string name;
-    for (auto each = first; each != last; ++each)
-        name += (name.empty() ? "" : " ") + each->text;
-    request.folder = folderNamed(context, name);
-    if (request.folder.empty() && request.subject != nullptr && !request.subject->isAnyFile)
-        request.folder = folderHolding(context, name);
-    return !request.folder.empty();
 }
 
 /// Whether folders are to be listed: the word for them stands alone, not beside the name of one.
@@ -212,6 +179,8 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         request.files = request.subject == nullptr ? InsightTexts::kFiles : request.subject->name;
     if (request.isHiddenOnly)
         narrow(request, InsightTexts::kFilesHidden, {});
+    if (!request.name.empty())
+        narrow(request, InsightTexts::kFilesNamed, {{"name", PathText::forDisplay(request.name)}});
     if (!takeRating(question, request) || !takeSizes(question, request) ||
         !takeDate(question, context.now, request))
         return std::nullopt;
@@ -234,6 +203,13 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     return request;
 }
 
+bool holdsWordsInName(const ListRequest& request, std::string_view path)
+{
+    const std::string lower = lowered(PathText::lastComponent(path));
+    return std::ranges::all_of(request.words,
+                               [&](const std::string& word) { return holdsWord(lower, word); });
+}
+
 bool isRecognised(const Subject& subject)
 {
     using enum SubjectID;
@@ -244,6 +220,8 @@ bool ListRequest::admits(const Finding& finding, const FileEntry& entry) const
 {
     if ((rating && finding.effectiveRating(entry) != *rating) ||
         (!ending.empty() && !isNamed(entry.path, ending)))
+        return false;
+    if (!words.empty() && !holdsWordsInName(*this, entry.path))
         return false;
     if (entry.size < leastBytes || entry.size > mostBytes ||
         (!exclusions.empty() && exclusions.leaveOut(finding, entry)))

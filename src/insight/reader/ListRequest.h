@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 /// What a question wants listed. Pure; any thread.
 namespace orlen::AskReader {
@@ -34,12 +35,14 @@ struct ListRequest {
     /// paths of the former.
     const Subject* recognised = nullptr;
     std::unordered_set<std::string_view> listed{};
-    std::string ending;        ///< of their names, without the dot; empty: any
-    bool areFolders = false;   ///< it lists folders instead of files
-    bool isHiddenOnly = false; ///< only what has a hidden name
-    bool isOwnOnly = false;    ///< only the person's own files, see `HomeFiles`
-    bool isOfScan = false;     ///< only what the scan lists can tell
-    Message files;             ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
+    std::string name{};               ///< words that their names hold, as typed; empty: any
+    std::vector<std::string> words{}; ///< the same, in lower case
+    std::string ending;               ///< of their names, without the dot; empty: any
+    bool areFolders = false;          ///< it lists folders instead of files
+    bool isHiddenOnly = false;        ///< only what has a hidden name
+    bool isOwnOnly = false;           ///< only the person's own files, see `HomeFiles`
+    bool isOfScan = false;            ///< only what the scan lists can tell
+    Message files;                    ///< what it lists, in words: "videos over 1 GB in ~/Downloads"
 
     /// Whether an entry of a finding belongs to the list.
     [[nodiscard]] bool admits(const Finding& finding, const FileEntry& entry) const;
@@ -47,6 +50,9 @@ struct ListRequest {
 
 /// Nothing if a part of the question is unclear.
 [[nodiscard]] std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context);
+
+/// Whether the name of the file holds the words that the request asks for.
+[[nodiscard]] bool holdsWordsInName(const ListRequest& request, std::string_view path);
 
 /// Whether a kind is told by what pictures show: screenshots, receipts, memes.
 [[nodiscard]] bool isRecognised(const Subject& subject);

@@ -221,7 +221,10 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
         found = foundOrMachine(question, context, name);
     if (!folder.empty()) {
         narrow(found, folder);
-        if (found.hits.empty() && found.measured.empty() && found.trashed.empty())
+        const bool isThere = !found.hits.empty() || !found.measured.empty() || !found.trashed.empty();
+        if (!isThere && PathText::extension(name).empty() && holdsSecrets(protectionOf(context, folder)))
+            return measuredPlace(question, context, folder);
+        if (!isThere)
             return Answer{Message{InsightTexts::kNotThere,
                                   {{"name", PathText::forDisplay(name)}, {"folder", tilde(folder)}}},
                           {}};
@@ -231,9 +234,10 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     if (found.fit == Fit::none)
         lookAtParts(found, context, name);
     const std::string guarded = protectedPath(question, context, name);
-    if (guarded.empty() && !isNarrowed && isOfProgram(found, question, asked)) {
-        if (std::optional<Answer> places =
-                aboutPlaces(question, context, {programNameIn(name).name, PlacePart::all}))
+    const std::string program = programNameIn(name).name;
+    const bool isOfSize = program == name && asksSize(question);
+    if ((guarded.empty() || isOfSize) && !isNarrowed && isOfProgram(found, question, asked)) {
+        if (std::optional<Answer> places = aboutPlaces(question, context, {program, PlacePart::all}))
             return places;
     }
     const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
@@ -255,6 +259,9 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
         return measuredOnly(question, context, found, PathText::forDisplay(name));
     if (!found.trashed.empty())
         return inTrash(found);
+    if (context.home != nullptr && isKnownPlace(name))
+        return asksSize(question) || isProgramOfPlace(name) ? notFound(name, context)
+                                                            : Answer{InsightTexts::kNeverTouched, {}};
     return isFileName(question, name) || (context.home != nullptr && isNoWord(name))
                ? std::optional(notFound(name, context))
                : std::nullopt;
@@ -272,9 +279,12 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     if (std::optional<Answer> sum = sumOfNamed(question, context))
         return sum;
     std::optional<Answer> answer = named(question, context);
-    if (!answer || !question.senses.has(Sense::what) || answer->paths.size() != 1)
+    const bool asksWhat = question.senses.has(Sense::what);
+    if (!answer || answer->paths.size() != 1 || (!asksWhat && asksSize(question)))
         return answer;
-    if (const Message what = whatItIs(answer->paths.front(), context); !what.empty())
+    const Message what = asksWhat ? whatItIs(answer->paths.front(), context)
+                                  : whatMakesItAgain(answer->paths.front(), context);
+    if (!what.empty())
         answer->text = AskText::sentences({what, std::move(answer->text)});
     return answer;
 }
@@ -313,10 +323,12 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
          findNamed(context, name, subject->kinds).fit >= Fit::words) ||
         (question.senses.isWithin(kOfName.with({Sense::ending})) &&
          ofKindNamed(question, context, name).fit != Fit::none) ||
-        (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words);
+        (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words) ||
+        !hitsOfSteam(question, context, name).empty();
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&
-                             isProgram(context, programIn(question, name));
+                             (isProgram(context, programIn(question, name)) ||
+                              placesOf(context, programIn(question, name)).fit != Fit::none);
     if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isOfProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))

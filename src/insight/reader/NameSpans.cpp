@@ -191,11 +191,74 @@ private:
     std::vector<Word> m_words;
 };
 
+/// "Files", "Dateien": of every kind.
+bool meansFiles(const std::string& plain)
+{
+    return std::ranges::any_of(Lexicon::all(), [&](const Lexicon& lexicon) {
+        const Lexicon::Entry* const entry = lexicon.find(plain);
+        return entry != nullptr && entry->subject != nullptr && entry->subject->isAnyFile;
+    });
+}
+
+/// Whether it means something in a language, by itself or with the word behind it: "log files".
+bool isKnown(const std::string& plain, const std::string& next)
+{
+    return std::ranges::any_of(Lexicon::all(), [&](const Lexicon& lexicon) {
+        return lexicon.find(plain) != nullptr ||
+               (!next.empty() && lexicon.find(plain + " " + next) != nullptr);
+    });
+}
+
+/// Whether files of the home folder end in it, or programs that many people have make such files.
+bool isEndingOfFiles(std::string_view plain, const HomeNames& names)
+{
+    constexpr std::size_t kShortest = 2;
+    constexpr std::size_t kLongest = 8;
+    constexpr std::string_view kUsual[] = {
+        "psd",  "xcf", "kra", "blend", "stl", "dwg", "dxf",  "gcode", "srt", "json", "xml",    "yaml", "sql",
+        "html", "css", "php", "cpp",   "ttf", "otf", "vcf",  "ics",   "eml", "mbox", "jar",    "apk",  "gpx",
+        "rw2",  "nef", "cr2", "dng",   "iso", "vdi", "vmdk", "qcow2", "mov", "wav",  "torrent"};
+    return plain.size() >= kShortest && plain.size() <= kLongest && std::ranges::all_of(plain, isWordByte) &&
+           std::ranges::any_of(plain, isLetter) &&
+           (std::ranges::find(kUsual, plain) != std::end(kUsual) || names.hasEnding(plain));
+}
+
+/// "All xcf files", "XCF-Dateien": writes the ending with its dot.
+void markEndings(std::vector<Word>& words, const HomeNames& names)
+{
+    const auto areFiles = [&](std::size_t i) {
+        return i < words.size() && !words[i].isQuoted && meansFiles(words[i].plain);
+    };
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string plain = words[i].plain;
+        const std::size_t dash = plain.rfind('-');
+        if (words[i].isQuoted)
+            continue;
+        if (dash != std::string::npos && dash > 0 && meansFiles(plain.substr(dash + 1)) &&
+            !isKnown(plain.substr(0, dash), plain.substr(dash + 1)) &&
+            isEndingOfFiles(std::string_view(plain).substr(0, dash), names)) {
+            const std::string files = plain.substr(dash + 1);
+            const std::string ending = "." + plain.substr(0, dash);
+            const Word behind{files, files, false, words[i].endsClause};
+            words[i] = {ending, ending};
+            words.insert(words.begin() + static_cast<std::ptrdiff_t>(i) + 1, behind);
+        } else if ((areFiles(i + 1) || (i > 0 && areFiles(i - 1))) &&
+                   !isKnown(plain, i + 1 < words.size() ? words[i + 1].plain : "") &&
+                   isEndingOfFiles(plain, names)) {
+            words[i].plain = "." + plain;
+            words[i].typed = words[i].plain;
+        }
+    }
+}
+
 } // namespace
 
 std::vector<Word> withNames(std::string_view text, const AskContext& context)
 {
-    return NameSearch(text, context).words();
+    std::vector<Word> words = NameSearch(text, context).words();
+    if (context.home != nullptr)
+        markEndings(words, *context.names->of(context.home));
+    return words;
 }
 
 } // namespace orlen::AskReader

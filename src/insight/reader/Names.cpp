@@ -312,7 +312,12 @@ bool isWordOfName(const AskContext& context, std::string_view word)
     const auto has = [&](std::string_view path) {
         return holdsWord(lowered(PathText::lastComponent(path)), word);
     };
-    return context.names->of(context.findings)->hasWord(word) ||
+    const auto isOwnName = [&] {
+        const std::shared_ptr<const HomeNames> names = context.names->of(context.home);
+        return std::ranges::any_of(names->named(word),
+                                   [&](const HomeNames::Item& item) { return names->isOwn(item); });
+    };
+    return context.names->of(context.findings)->hasWord(word) || (context.home != nullptr && isOwnName()) ||
            std::ranges::any_of(context.breakdown.folders, [&](const CategoryFolder& folder) {
                return has(folder.path) ||
                       std::ranges::any_of(folder.largest, has, &CategoryFolder::Item::name);

@@ -63,7 +63,8 @@ struct Found {
 /// `hits` in the order of the findings.
 [[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);
 
-/// Whether the word, in lower case, stands in the name of an entry of the scan.
+/// Whether the word, in lower case, stands in the name of an entry of the scan, or is the whole name
+/// of something of the person's own.
 [[nodiscard]] bool isWordOfName(const AskContext& context, std::string_view word);
 
 /// The path that a text names, in the form all rules compare; empty if it is not written as a path.

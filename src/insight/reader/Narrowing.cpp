@@ -77,17 +77,22 @@ void keepMeant(Found& found, const Question& question, const AskedName& asked)
     keep([](const Measured& each) { return each.isOwn; });
 }
 
-void narrowToSteam(Found& found, const Question& question, const AskContext& context, std::string_view name)
+std::vector<Hit> hitsOfSteam(const Question& question, const AskContext& context, std::string_view name)
 {
     const auto isSteam = [](const Phrase& phrase) {
         return phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
                plainLetters(phrase.text) == "steam";
     };
-    if (std::ranges::none_of(question.phrases, isSteam))
-        return;
+    if (name.empty() || std::ranges::none_of(question.phrases, isSteam))
+        return {};
     std::vector<std::string> words = wordsOfName(lowered(name));
     words.emplace_back("steam");
-    if (std::vector<Hit> hits = holdingAll(context, words); !hits.empty()) {
+    return holdingAll(context, words);
+}
+
+void narrowToSteam(Found& found, const Question& question, const AskContext& context, std::string_view name)
+{
+    if (std::vector<Hit> hits = hitsOfSteam(question, context, name); !hits.empty()) {
         found = {};
         found.fit = Fit::words;
         found.hits = std::move(hits);

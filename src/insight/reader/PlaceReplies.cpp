@@ -116,6 +116,11 @@ ProgramName programIn(const Question& question, std::string_view name)
             program.part = PlacePart::caches;
         else if (phrase.subject != nullptr && phrase.subject->id == SubjectID::logs)
             program.part = PlacePart::logs;
+        // "The Steam shader cache" is not that of another program.
+        const bool isSteam = phrase.subject != nullptr && phrase.subject->id == SubjectID::games &&
+                             plainLetters(phrase.text) == "steam";
+        if (isSteam && !name.empty())
+            program.name += " steam";
     }
     return program;
 }
@@ -129,21 +134,23 @@ std::optional<Answer> aboutPlaces(const Question& question, const AskContext& co
         std::erase_if(found.measured,
                       [&](const Measured& each) { return each.bytes == 0 && !found.trashed.empty(); });
     const bool isThere = !found.hits.empty() || !found.measured.empty();
-    if (!isThere && (isAll || found.trashed.empty()))
+    const bool isOfTrash = !isAll || asksSize(question);
+    if (!isThere && (!isOfTrash || found.trashed.empty()))
         return std::nullopt;
     Answer answer;
     std::vector<Message> lines;
     std::optional<Answer> app = isAll ? aboutApp(context, program.name) : std::nullopt;
     // What the application has stored is part of its size.
-    if (app && found.hits.size() + found.measured.size() == 1)
+    const bool isSaid = app && found.hits.size() + found.measured.size() <= 1;
+    if (isSaid && (!isOfTrash || found.trashed.empty()))
         return app;
     if (app)
         lines.push_back(std::move(app->text));
-    if (isThere) {
+    if (isThere && !isSaid) {
         answer = present(question, context, program, found);
         lines.push_back(std::move(answer.text));
     }
-    if (!isAll) {
+    if (isOfTrash) {
         for (const TrashedItem* const item :
              std::span(found.trashed).first(std::min(found.trashed.size(), kMostLines)))
             lines.push_back({InsightTexts::kTrashedEarlier,
@@ -151,6 +158,11 @@ std::optional<Answer> aboutPlaces(const Question& question, const AskContext& co
     }
     answer.text = AskText::lines(std::move(lines));
     return answer;
+}
+
+bool asksSize(const Question& question)
+{
+    return question.senses.meets({Sense::howBig, Sense::howMuch, Sense::takes, Sense::space});
 }
 
 Answer noSuchPart(const ProgramName& program)

@@ -17,6 +17,9 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Answer> aboutPlaces(const Question& question, const AskContext& context,
                                                 const ProgramName& program);
 
+/// Whether it asks how much space something takes.
+[[nodiscard]] bool asksSize(const Question& question);
+
 /// That there is no such part of a program.
 [[nodiscard]] Answer noSuchPart(const ProgramName& program);
 

@@ -41,6 +41,13 @@ constexpr OtherName kOtherNames[] = {
     {"go", "gobuild"},
 };
 
+/// Words for a browser, whichever it is; letters only.
+constexpr std::string_view kAnyBrowser[] = {"browser",     "browsers",  "webbrowser", "navigateur",
+                                            "navigateurs", "navegador", "navegadores"};
+constexpr std::string_view kBrowsers[] = {
+    "mozilla",       "firefox", "googlechrome", "chrome",    "chromium", "bravesoftware", "bravebrowser",
+    "microsoftedge", "vivaldi", "opera",        "librewolf", "epiphany", "torbrowser",    "falkon"};
+
 /// Parts of an identifier such as "com.spotify.Client" that say nothing about the program.
 constexpr std::string_view kPlainParts[] = {"client", "app", "desktop", "application", "browser", "gtk"};
 
@@ -107,6 +114,8 @@ bool FolderNames::areNamed(std::string_view folder) const
     // One letter too many is also the one of "Discords".
     if (m_isMistyped && m_program.size() >= kShortestMistyped && isOneLetterApart(m_program, name))
         return true;
+    if (isAmong(kAnyBrowser, m_program))
+        return isAmong(kBrowsers, name);
     return fits(name, m_program) || std::ranges::any_of(kOtherNames, [&](const OtherName& other) {
                return other.program == m_program && fits(name, other.folder);
            });

@@ -140,6 +140,44 @@ std::vector<Hit> hitsAt(const AskContext& context, const std::vector<Measured>& 
     return eachOnce(std::move(hits));
 }
 
+/// What a folder counts for; nothing if for several.
+std::optional<OrlenCategory> categoryOf(const StorageBreakdown& breakdown, std::string_view path)
+{
+    for (const CategoryFolder& folder : breakdown.folders) {
+        const bool isIn = folder.path == PathText::parent(path) &&
+                          std::ranges::any_of(folder.largest, [&](const CategoryFolder::Item& item) {
+                              return item.name == PathText::lastComponent(path);
+                          });
+        if (folder.path == path || isIn)
+            return folder.category;
+    }
+    return std::nullopt;
+}
+
+/// "The shader cache": caches that no program is named after, by words of their paths.
+void addCachesByWords(Found& found, const AskContext& context, const std::string& name)
+{
+    constexpr std::size_t kShortest = 4;
+    std::vector<std::string> words = wordsOfName(lowered(name));
+    if (words.empty() ||
+        std::ranges::any_of(words, [](const std::string& word) { return word.size() < kShortest; }))
+        return;
+    words.emplace_back("cache");
+    found.hits = holdingAll(context, words);
+    for (const CleanRecord& record : context.history) {
+        for (const TrashedItem& item : record.items) {
+            const std::string path = lowered(item.original);
+            if (!item.restored && std::ranges::all_of(words, [&](const std::string& word) {
+                    return path.find(word) != std::string::npos;
+                }))
+                found.trashed.push_back(&item);
+        }
+    }
+    // What the Trash holds of it is the same.
+    if (!found.trashed.empty())
+        std::erase_if(found.hits, [](const Hit& hit) { return hit.finding->kind == FindingKind::trash; });
+}
+
 } // namespace
 
 bool isPlaceOf(std::string_view path, const ProgramName& program)
@@ -181,6 +219,7 @@ Found placesOf(const AskContext& context, const ProgramName& program)
     for (const Number folder : folders) {
         Measured one{context.home->folderPath(folder), context.home->folder(folder).bytes, {}};
         one.kind = Measured::Kind::folder;
+        one.category = categoryOf(context.breakdown, one.path);
         found.measured.push_back(std::move(one));
     }
     found.hits = hitsAt(context, found.measured);
@@ -193,6 +232,9 @@ Found placesOf(const AskContext& context, const ProgramName& program)
                 found.trashed.push_back(&item);
         }
     }
+    if (program.part == PlacePart::caches && found.hits.empty() && found.measured.empty() &&
+        found.trashed.empty())
+        addCachesByWords(found, context, program.name);
     std::ranges::stable_sort(found.hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
     std::ranges::stable_sort(found.measured, std::greater{}, &Measured::bytes);
     if (!found.hits.empty() || !found.measured.empty() || !found.trashed.empty())

@@ -1,5 +1,6 @@
 #include "insight/reader/Rules.h"
 
+#include "insight/reader/CopyReplies.h"
 #include "insight/reader/ForecastReplies.h"
 #include "insight/reader/GrowthReplies.h"
 #include "insight/reader/HistoryReplies.h"
@@ -151,6 +152,9 @@ const std::vector<Rule>& rules()
         {{{free}, {last}, {when, howMuch}}, {space, general, makeRoom}, lastCleanUp},
         {{{soFar}}, kAsking.with({cleanUp, total, space, disk}), allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
+        {{{subject}, {unknown, quoted}},
+         {what, can, general, number, howMany, takes, inside, disk, folder, installed},
+         aboutCopies},
         {{{unknown, general}, {subject, oldest, newest, disk}},
          {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
          aboutWordsOfName},
@@ -262,6 +266,8 @@ const std::vector<Rule>& rules()
         {{{newest}, {period}}, kListing, listOfFiles},
         {{{last}, {subject}}, {what, general, inside, folder, number}, listOfFiles},
         {{{subject}, {unopened}}, {what, howMany, general, can, remove, takes, folder}, neverOpened},
+        {{kSorting, {unknown, quoted}}, kListing, listOfFiles},
+        {{{howMany}, {unknown, quoted}}, kListing, countOfFiles},
         {{{subject}, {inside}, {subject, unknown, period, folder}}, kListing, listOfFiles},
         {{{subject}, {period}}, kListing, listOfFiles},
         {{{takes, full}, {inside}, {subject, unknown, quoted}},
@@ -291,6 +297,7 @@ const std::vector<Rule>& rules()
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
+        {{{subject}, {unknown, quoted}}, {general, number, howMany, inside}, listOfFiles},
         {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},
     };
     return inOrder;

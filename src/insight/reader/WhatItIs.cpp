@@ -20,14 +20,19 @@ struct Row {
     std::string_view names; ///< separated by commas; may use "*"; with "/", the folder around it as well
     Text thing;
     std::string_view holding{}; ///< folders of which it has to hold one, separated by commas
+    bool isMadeAgain = false;   ///< by the tool that it names
 };
 
 // TRANSLATORS: all of these say in a few words what a file or folder is, behind its name and a colon.
 constexpr Row kFolders[] = {
-    {"node_modules", message("packages of a JavaScript project; its package manager installs them again")},
-    {".venv,venv,virtualenv", message("Python environment with the packages of a project")},
-    {"__pycache__", message("compiled Python files; Python makes them again")},
-    {"target", message("build output of a project; the next build makes it again"), "debug,release,classes"},
+    {"node_modules",
+     message("packages of a JavaScript project; its package manager installs them again"),
+     {},
+     true},
+    {".venv,venv,virtualenv", message("Python environment with the packages of a project"), {}, true},
+    {"__pycache__", message("compiled Python files; Python makes them again"), {}, true},
+    {"target", message("build output of a project; the next build makes it again"), "debug,release,classes",
+     true},
     {".wine", message("Windows programs and their files, kept by Wine")},
     {".ollama,.ollama/models", message("language models of Ollama")},
     {".rustup,.rustup/toolchains", message("toolchains of Rust")},
@@ -52,11 +57,19 @@ constexpr Row kFolders[] = {
     {".minecraft", message("Minecraft with its worlds")},
     {".git", message("history of a project, kept by Git")},
     {"*.avd", message("virtual Android device")},
+    {"android/sdk,sdk/ndk,ndk/*,sdk/platforms,sdk/build-tools,sdk/system-images,sdk/emulator",
+     message("tools for building Android apps; Android Studio installs them again"),
+     {},
+     true},
+    {".terraform.d", message("sign-ins and plugins of Terraform")},
+    {".pub-cache,.pub-cache/hosted", message("packages that Dart and Flutter have downloaded")},
 };
 
 constexpr Row kFiles[] = {
     {"core,core.0*,core.1*,core.2*,core.3*,core.4*,core.5*,core.6*,core.7*,core.8*,core.9*",
      message("memory dump of a crashed program, of use only to its developers")},
+    {"nohup.out", message("output of a command that was started with “nohup”")},
+    {".bash_history,.zsh_history", message("commands that were typed in the terminal")},
     {"*.vdi,*.vmdk,*.qcow2,*.vhd,*.vhdx", message("disk of a virtual machine")},
     {"*.iso,*.img", message("image of a disk, such as an installation medium")},
     {"*.deb,*.rpm,*.flatpakref", message("package that installs a program")},
@@ -99,9 +112,8 @@ bool holds(const AskContext& context, HomeFiles::Number folder, std::string_view
     return names.empty();
 }
 
-} // namespace
-
-Message whatItIs(std::string_view path, const AskContext& context)
+template <typename Wanted>
+Message rowFor(std::string_view path, const AskContext& context, Wanted isWanted)
 {
     if (context.home == nullptr)
         return {};
@@ -113,11 +125,23 @@ Message whatItIs(std::string_view path, const AskContext& context)
     };
     const auto said = [&](const auto& rows) {
         const auto* const row = std::ranges::find_if(rows, found);
-        return row == std::end(rows)
+        return row == std::end(rows) || !isWanted(*row)
                    ? Message()
                    : Message{InsightTexts::kWhatItIs, {{"path", tilde(path)}, {"thing", within(row->thing)}}};
     };
     return folder ? said(kFolders) : said(kFiles);
+}
+
+} // namespace
+
+Message whatItIs(std::string_view path, const AskContext& context)
+{
+    return rowFor(path, context, [](const Row& /*row*/) { return true; });
+}
+
+Message whatMakesItAgain(std::string_view path, const AskContext& context)
+{
+    return rowFor(path, context, [](const Row& row) { return row.isMadeAgain; });
 }
 
 } // namespace orlen::AskReader

@@ -10,4 +10,7 @@ namespace orlen::AskReader {
 /// name does not tell. Pure; any thread.
 [[nodiscard]] Message whatItIs(std::string_view path, const AskContext& context);
 
+/// The same of what a tool makes or fetches again when it is gone; empty for all else.
+[[nodiscard]] Message whatMakesItAgain(std::string_view path, const AskContext& context);
+
 } // namespace orlen::AskReader

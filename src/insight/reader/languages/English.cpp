@@ -452,7 +452,7 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::caches,
      "cache,caches,app caches,cache files,cached files,application caches,cached data,app cache,temporary "
      "data,"
-     "temporary files,temp files,cache folder,cache folders,browser cache,browser caches,tmp files,cache "
+     "temporary files,temp files,cache folder,cache folders,tmp files,cache "
      "data,temp data"},
     {SubjectID::developer,
      "developer data,developer files,developer,dev files,developer tools,build files,build data,build "
@@ -479,9 +479,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::photos,
      "photo,photos,picture,pictures,image,images,pic,pics,photographs,snapshots,shots,photograph,fotos,jpegs,"
      "jpgs,raw files,raws,snaps of,photo files,image files,camera pictures,jpg files,jpeg,selfies"},
-    {SubjectID::audio,
-     "music,song,songs,audio,audio files,tracks,mp3s,podcasts,sound files,albums,mp3,mp3 files,"
-     "music files,audiobooks,podcast,sounds"},
+    {SubjectID::audio, "music,song,songs,audio,audio files,tracks,mp3s,sound files,albums,mp3,mp3 files,"
+                       "music files,sounds"},
     {SubjectID::pdfs, "pdf,pdfs,pdf files,pdf documents,pdf file"},
     {SubjectID::archives,
      "archive,archives,zip,zips,zip files,compressed files,zip archives,tarballs,zip file,rar files,zipped "

@@ -134,9 +134,9 @@ constexpr SubjectRow kSubjects[] = {
                         "photo,fotos,fichier image,fichiers photo,fichiers photos,jpeg,jpegs,jpgs,prises de "
                         "vue,photos du téléphone,dessins,selfie,photos perso,illustrations"},
     {SubjectID::audio,
-     "musique,musiques,chansons,chanson,audio,fichiers audio,mp3,albums,morceaux,podcasts,fichiers "
-     "son,livres audio,zik,zique,sons,titres,pistes,pistes audio,fichier audio,fichiers musicaux,fichiers de "
-     "musique,fichiers musique,album,mp3s,bandes son,livres audios,podcast,morceau"},
+     "musique,musiques,chansons,chanson,audio,fichiers audio,mp3,albums,morceaux,fichiers "
+     "son,zik,zique,sons,titres,pistes,pistes audio,fichier audio,fichiers musicaux,fichiers de "
+     "musique,fichiers musique,album,mp3s,bandes son,morceau"},
     {SubjectID::pdfs,
      "pdf,pdfs,fichiers pdf,documents pdf,fichier pdf,document pdf,documents en pdf,fichiers en pdf"},
     {SubjectID::archives,

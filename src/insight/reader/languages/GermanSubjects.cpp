@@ -128,8 +128,8 @@ constexpr SubjectRow kSubjects[] = {
                         "schnappschüsse,photos,photo,bilddatei,urlaubsfotos,urlaubsbilder,selfies,"
                         "familienfotos,fotografie,pics,schnappschuss,bildl,fotosammlung,bildersammlung,"
                         "aufgenommene bilder,jpgs,jpegs,kamerabilder,handyfotos,foddos,fotoaufnahmen"},
-    {SubjectID::audio, "musik,lieder,lied,songs,song,audio,audiodateien,musikdateien,mp3s,podcasts,alben,mp3,"
-                       "hörbücher,musikstücke,tonaufnahmen,musikstück,titel,tracks,hörspiele,hörbuch,podcast,"
+    {SubjectID::audio, "musik,lieder,lied,songs,song,audio,audiodateien,musikdateien,mp3s,alben,mp3,"
+                       "musikstücke,tonaufnahmen,musikstück,titel,tracks,"
                        "lieder und musik,tondateien,soundfiles,sounds,musikalben,muzik,musiksammlung"},
     {SubjectID::pdfs, "pdf,pdfs,pdf-dateien,pdf dateien,pdf-datei,pdf datei"},
     {SubjectID::archives, "archiv,archive,zip,zips,archivdateien,gepackte dateien,zip-archive,zip "

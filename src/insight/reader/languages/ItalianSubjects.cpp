@@ -135,9 +135,9 @@ constexpr SubjectRow kSubjects[] = {
                         "vacanze,foto di famiglia,foto e immagini,scatto,file di immagine,file di foto,file "
                         "foto,jpg,jpeg,ritratti,ritratto,foto del telefono,foto del cellulare,foto "
                         "digitali,disegni,photo,fotina,fotine,foto mie,immaggini,imagini,fotto"},
-    {SubjectID::audio, "musica,canzone,canzoni,audio,file audio,mp3,brani,brano,album,podcast,file "
-                       "musicali,audiolibri,musiche,pezzi,pezzo musicale,pezzi musicali,tracce,traccia "
-                       "audio,tracce audio,file musicale,audiolibro,suoni,suono,file sonori,dischi "
+    {SubjectID::audio, "musica,canzone,canzoni,audio,file audio,mp3,brani,brano,album,file "
+                       "musicali,musiche,pezzi,pezzo musicale,pezzi musicali,tracce,traccia "
+                       "audio,tracce audio,file musicale,suoni,suono,file sonori,dischi "
                        "musicali,registrazioni audio,canzoncine,cd musicali,file di musica"},
     {SubjectID::pdfs, "pdf,file pdf,documenti pdf,pdfs,documento pdf,documenti in pdf,file in pdf"},
     {SubjectID::archives,

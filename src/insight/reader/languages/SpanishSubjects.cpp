@@ -144,9 +144,9 @@ constexpr SubjectRow kSubjects[] = {
      "de imagen,archivos de imágenes,ficheros de imagen,jpg,jpgs,jpeg,fotos del móvil,fotos del "
      "celular,fotografía digital,fotos mías,selfie,dibujos,imágens"},
     {SubjectID::audio,
-     "música,canción,canciones,audio,archivos de audio,mp3,álbumes,podcasts,audiolibros,archivos de "
-     "música,músicas,temas,tema,pistas,pistas de audio,rolas,rola,álbum,podcast,mp3s,archivos de "
-     "sonido,archivo de audio,sonidos,audios,discos de música,grabaciones de audio,audiolibro,ficheros de "
+     "música,canción,canciones,audio,archivos de audio,mp3,álbumes,archivos de "
+     "música,músicas,temas,tema,pistas,pistas de audio,rolas,rola,álbum,mp3s,archivos de "
+     "sonido,archivo de audio,sonidos,audios,discos de música,grabaciones de audio,ficheros de "
      "audio,cancionero"},
     {SubjectID::pdfs, "pdf,pdfs,archivos pdf,documentos pdf,ficheros pdf,archivo pdf,documento "
                       "pdf,documentos en pdf,archivos en pdf,pedeefes"},
