@@ -50,10 +50,49 @@ void dropAside(Phrases& phrases)
         (each < end ? asked : aside).add(each->sense);
     const bool isComplete = (asked.meets({what, why}) && asked.has(full)) ||
                             (asked.has(what) && asked.has(takes) && asked.meets({space, disk, most}));
+    const bool isLament =
+        asked.has(full) && asked.isWithin({full, what, disk, space, general}) && aside.has(size);
     constexpr SenseSet kAside{smallest, installed, period, last, number, size,  negation, general,
                               subject,  disk,      newest, only, takes,  space, used};
-    if (isComplete && aside.isWithin(kAside) && aside.meets({smallest, installed, newest}))
+    if ((isComplete || isLament) && aside.isWithin(kAside) &&
+        aside.meets({smallest, installed, newest, size}))
         phrases.erase(end, phrases.end());
+}
+
+/// "What do I get back from deleting …": it is no place.
+void dropIdleInside(Phrases& phrases)
+{
+    constexpr SenseSet kDeeds{Sense::remove, Sense::makeRoom, Sense::cleanUp};
+    for (std::size_t i = 0; i + 1 < phrases.size();) {
+        if (phrases[i].sense == Sense::inside && kDeeds.has(phrases[i + 1].sense))
+            phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+        else
+            ++i;
+    }
+}
+
+/// "How much if I include Review": what is safe, and that too.
+void mergeIncluded(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOnTop{review, keep};
+    const auto rated =
+        std::ranges::find_if(phrases, [&](const Phrase& each) { return kOnTop.has(each.sense); });
+    if (!has(phrases, included) || rated == phrases.end())
+        return;
+    rename(phrases, included, makeRoom);
+    rated->isJoined = true;
+    if (!has(phrases, safe))
+        phrases.insert(rated, {safe, {}, nullptr, 0, {}});
+    if (!has(phrases, howMuch) && !has(phrases, howBig))
+        phrases.insert(phrases.begin(), {howMuch, {}, nullptr, 0, {}});
+}
+
+/// "Will you ever delete report.pdf" asks about the file.
+void mergeDeletes(Phrases& phrases)
+{
+    if (has(phrases, Sense::unknown) || has(phrases, Sense::quoted))
+        rename(phrases, Sense::deletes, Sense::remove);
 }
 
 /// "What can I delete today": of what is not about dates, today says nothing.
@@ -200,7 +239,7 @@ const Subject* together(const Subject& a, const Subject& b)
     if (isPhotos(b)) {
         if (a.id == duplicates)
             return &subjectFor(similarPhotos);
-        return isOneOf(a.id, {screenshots, receipts, memes, blurry, similarPhotos}) ? &a : nullptr;
+        return isOneOf(a.id, {screenshots, receipts, memes, blurry, similarPhotos, rawPhotos}) ? &a : nullptr;
     }
     if (b.isAnyFile)
         return a.isAnyFile || a.kinds.empty() == a.extensions.empty() ? nullptr : &a;
@@ -328,6 +367,9 @@ Question merged(const Question& question)
     if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
     dropAside(phrases);
+    dropIdleInside(phrases);
+    mergeIncluded(phrases);
+    mergeDeletes(phrases);
     mergeLeftAlone(phrases);
     mergeFreed(phrases);
     mergeGain(phrases);

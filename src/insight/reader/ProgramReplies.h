@@ -22,4 +22,7 @@ namespace orlen::AskReader {
 /// The size of an application, and how to remove it; nothing if none is known by this name.
 [[nodiscard]] std::optional<Answer> aboutApp(const AskContext& context, std::string_view name);
 
+/// When the application that the question names was last used; nothing if none is known by this name.
+[[nodiscard]] std::optional<Answer> lastUseOf(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

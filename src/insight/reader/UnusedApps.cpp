@@ -1,6 +1,7 @@
 #include "insight/reader/UnusedApps.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsPrograms.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ std::vector<Message> unusedApps(const Question& question, const AskContext& cont
     std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(known),
                          [](const KnownApp& app) { return app.lastUse.has_value(); });
     if (known.empty())
-        return {InsightTexts::kUseIsUnknown};
+        return {context.apps ? InsightTexts::kUseNotNoted : InsightTexts::kUseIsUnknown};
     const auto others = std::ssize(*context.apps) - std::ssize(known);
     const TimePoint from = neededUse(question, context.now);
     std::erase_if(known, [&](const KnownApp& app) { return *app.lastUse >= from; });

@@ -22,6 +22,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <set>
 #include <span>
 #include <string>
 #include <utility>
@@ -35,6 +36,13 @@ namespace {
 struct Things {
     std::vector<Stored> each;
     std::vector<Message> names;
+    bool isOfTrash = false; ///< and of nothing else
+
+    void addName(Message name)
+    {
+        if (std::ranges::find(names, name) == names.end())
+            names.push_back(std::move(name));
+    }
 
     void add(const Hit& hit) { each.push_back({hit.entry->path, hit.entry->size}); }
 
@@ -115,7 +123,7 @@ bool addNamed(const Question& group, const AskContext& context, Things& things)
         if (found.hits.empty())
             things.each.push_back({std::move(measured.path), measured.bytes});
     }
-    things.names.push_back(Message::verbatim(PathText::forDisplay(name)));
+    things.addName(Message::verbatim(PathText::forDisplay(name)));
     return !found.hits.empty() || !found.measured.empty();
 }
 
@@ -131,7 +139,7 @@ bool addRated(const Question& group, const AskContext& context, Things& things)
         return false;
     for (const Hit& hit : choosable(context, rating, {}))
         things.add(hit);
-    things.names.push_back({InsightTexts::kEverythingRated, {{"rating", within(label(rating))}}});
+    things.addName({InsightTexts::kEverythingRated, {{"rating", within(label(rating))}}});
     return true;
 }
 
@@ -153,7 +161,7 @@ bool addListed(const Question& group, const AskContext& context, Things& things)
     things.each.reserve(things.each.size() + list->first.size());
     for (const HomeFiles::Number file : list->first)
         things.each.push_back({context.home->filePath(file), context.home->file(file).bytes});
-    things.names.push_back(request->files);
+    things.addName(request->files);
     return true;
 }
 
@@ -168,7 +176,7 @@ bool addGroup(const Question& group, const AskContext& context, Things& things)
         return false;
     if (auto stored = storedOf(*subject, context)) {
         std::ranges::move(*stored, std::back_inserter(things.each));
-        things.names.emplace_back(subject->name);
+        things.addName(subject->name);
         return true;
     }
     const bool isOnly = group.phrases.size() == 1;
@@ -177,7 +185,7 @@ bool addGroup(const Question& group, const AskContext& context, Things& things)
                                ? folderSize(context, folder)
                                : std::nullopt) {
         things.each.push_back({folder, *bytes});
-        things.names.push_back(Message::verbatim(tilde(folder)));
+        things.addName(Message::verbatim(tilde(folder)));
         return true;
     }
     if (isOnly && subject->extensions.empty() && !subject->kinds.empty()) {
@@ -185,7 +193,7 @@ bool addGroup(const Question& group, const AskContext& context, Things& things)
             for (const FileEntry& entry : finding->items)
                 things.add({finding, &entry});
         }
-        things.names.emplace_back(subject->name);
+        things.addName(subject->name);
         return true;
     }
     return !subject->isProgram && addListed(group, context, things);
@@ -213,10 +221,12 @@ Answer said(Things things, const AskContext& context)
         return {Message{InsightTexts::kNoFilesThere, {{"files", std::move(names)}}}, {}};
     std::ranges::stable_sort(things.each, std::greater{}, &Stored::bytes);
     Answer answer;
-    std::vector<Message> lines{AskText::sentences(
-        {Message{InsightTexts::kWouldFree,
-                 {{"what", std::move(names)}, {"size", Bytes{bytes}}, {"count", std::ssize(things.each)}}},
-         freeWithout(bytes, context)})};
+    const Place size{"size", Bytes{bytes}};
+    const Place count{"count", std::ssize(things.each)};
+    const Message sum = things.isOfTrash
+                            ? Message{InsightTexts::kEmptyingTrash, {size, count}}
+                            : Message{InsightTexts::kWouldFree, {{"what", std::move(names)}, size, count}};
+    std::vector<Message> lines{AskText::sentences({sum, freeWithout(bytes, context)})};
     for (const Stored& one : std::span(things.each).first(std::min(things.each.size(), kShown))) {
         lines.push_back({InsightTexts::kDownload, {{"name", tilde(one.path)}, {"size", Bytes{one.bytes}}}});
         answer.paths.push_back(one.path);
@@ -259,7 +269,35 @@ std::optional<Answer> freedByThem(const Question& question, const AskContext& co
             return std::nullopt;
         return Answer{Message{InsightTexts::kNowhere, {{"name", PathText::forDisplay(name)}}}, {}};
     }
+    const auto isTrash = [](const std::vector<Phrase>& group) {
+        return group.size() == 1 && group.front().subject == &subjectFor(SubjectID::trash);
+    };
+    things.isOfTrash = std::ranges::all_of(groups, isTrash);
     return said(std::move(things), context);
+}
+
+std::optional<Answer> sumOfThem(const Question& question, const AskContext& context)
+{
+    Things things;
+    for (const std::vector<Phrase>& group : groupsIn(question)) {
+        const Subject* const subject = group.front().subject;
+        // A folder is counted as one thing, which it is not.
+        const bool isFolder =
+            subject != nullptr && subject->extensions.empty() && !folderOf(*subject).empty();
+        if (isFolder || !addGroup(withPhrases(question, group), context, things))
+            return std::nullopt;
+    }
+    if (things.names.size() < 2 || things.each.empty())
+        return std::nullopt;
+    things.keepOnce();
+    std::int64_t bytes = 0;
+    for (const Stored& one : things.each)
+        bytes = checkedAdd(bytes, one.bytes);
+    return Answer{Message{InsightTexts::kFilesThere,
+                          {{"files", Several{std::move(things.names), Several::Joint::list}},
+                           {"count", std::ssize(things.each)},
+                           {"size", Bytes{bytes}}}},
+                  {}};
 }
 
 std::optional<Answer> freedBySubject(const Question& question, const AskContext& context)
@@ -269,13 +307,16 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
         return std::nullopt;
     Several names{{}, Several::Joint::list};
     std::vector<Hit> hits;
+    std::set<const void*> counted; // "npm and yarn" are one finding
     for (const Phrase& phrase : question.phrases) {
-        if (phrase.subject == nullptr)
+        if (phrase.subject == nullptr || !counted.insert(phrase.subject).second)
             continue;
         if (phrase.subject->kinds.empty())
             return std::nullopt;
         names.messages.emplace_back(phrase.subject->name);
         for (const Finding* const finding : findingsOf(*phrase.subject, context)) {
+            if (!counted.insert(finding).second)
+                continue;
             for (const FileEntry& entry : finding->items) {
                 if (exclusions->empty() || !exclusions->leaveOut(*finding, entry))
                     hits.push_back({finding, &entry});
