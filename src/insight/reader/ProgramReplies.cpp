@@ -3,7 +3,6 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsPrograms.h"
-#include "insight/reader/AskedName.h"
 #include "insight/reader/GameReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/StartupReplies.h"
@@ -217,17 +216,6 @@ Answer described(const KnownApp& app)
     return {AskText::sentences({size, use, removal}), {}};
 }
 
-/// The application's name, or one of the words in it.
-const KnownApp* appCalled(const AskContext& context, std::string_view name)
-{
-    if (!context.apps)
-        return nullptr;
-    const std::string wanted = plainLetters(name);
-    const auto found =
-        std::ranges::find_if(*context.apps, [&](const KnownApp& app) { return isNamed(app, wanted); });
-    return found == context.apps->end() ? nullptr : &*found;
-}
-
 } // namespace
 
 std::optional<Answer> aboutPrograms(const Question& question, const AskContext& context)
@@ -287,30 +275,20 @@ std::optional<Answer> isInstalled(const Question& question, const AskContext& co
     return Answer{Message{InsightTexts::kAppUnknown, {name}}, {}};
 }
 
+const KnownApp* appCalled(const AskContext& context, std::string_view name)
+{
+    if (!context.apps)
+        return nullptr;
+    const std::string wanted = plainLetters(name);
+    const auto found =
+        std::ranges::find_if(*context.apps, [&](const KnownApp& app) { return isNamed(app, wanted); });
+    return found == context.apps->end() ? nullptr : &*found;
+}
+
 std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)
 {
     const KnownApp* const found = appCalled(context, name);
     return found == nullptr ? std::nullopt : std::optional(described(*found));
-}
-
-std::optional<Answer> lastUseOf(const Question& question, const AskContext& context)
-{
-    const std::string name = nameIn(question).name;
-    const KnownApp* const app = name.empty() ? nullptr : appCalled(context, name);
-    // "The last time I opened" may be of a file.
-    const Phrase* const use = question.first(Sense::lastUse);
-    const bool mayBeFile = use == nullptr || use->text.find("open") != std::string::npos ||
-                           question.senses.has(Sense::quoted) || name.empty();
-    if (app == nullptr && (mayBeFile || !context.apps))
-        return std::nullopt;
-    const Place place{"name", PathText::forDisplay(app == nullptr ? name : app->name)};
-    if (app == nullptr || !app->lastUse)
-        return Answer{Message{InsightTexts::kItsUseNotNoted, {place}}, {}};
-    const Place date{"date", dayOf(*app->lastUse)};
-    if (app->isUseNoted)
-        return Answer{Message{InsightTexts::kAppUsedOn, {date}}, {}};
-    const Message read{InsightTexts::kAppLastRead, {place, {"size", Bytes{app->bytes.value_or(0)}}, date}};
-    return Answer{app->bytes ? read : Message{InsightTexts::kItsUseNotNoted, {place}}, {}};
 }
 
 std::optional<Answer> uninstalling(const Question& question, const AskContext& context)

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <iterator>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -124,9 +125,13 @@ std::optional<Answer> roomFor(const Question& question, const AskContext& contex
     Answer answer;
     std::vector<Message> said = proposal(context, size->amount, *exclusions, answer);
     said.emplace_back(InsightTexts::kNothingMovesYet);
-    // "I need room for 5 GB": there may be that much.
+    // "I need room for 5 GB": there may be that much. "Free 5 GB" wants more.
+    const auto isFreeing = [](const Phrase& phrase) {
+        return phrase.sense == Sense::remove || phrase.sense == Sense::cleanUp ||
+               (phrase.sense == Sense::makeRoom && phrase.text.find("free") != std::string::npos);
+    };
     const bool isThere = context.breakdown.total > 0 && context.breakdown.free >= size->amount &&
-                         !question.senses.has(Sense::remove);
+                         std::ranges::none_of(question.phrases, isFreeing);
     answer.text = AskText::lines({isThere ? volume(context.breakdown) : Message(), exclusions->said(),
                                   AskText::sentences(std::move(said))});
     return answer;

@@ -108,7 +108,7 @@ const std::vector<Rule>& rules()
         {{{self}}, {what, can, general}, whatOrlenAnswers},
         {{{beyond}},
          {what,  can,  general, disk,   why,  privacy, safe, howMuch, howBig,   general, subject,
-          takes, make, trust,   remove, what, free,    used, cleanUp, makeRoom, speed},
+          takes, make, trust,   remove, what, free,    used, cleanUp, makeRoom, speed,   reads},
          whatIsNotItsJob},
         {{{trust}}, {what, can, general, privacy, safe, subject, mean, review, remove, why}, whyTrust},
         {{{privacy}},
