@@ -43,6 +43,7 @@ constexpr Row kWhereElse[] = {
     {"how do i uninstall orlen", "doesn't remove itself", "orlen uninstall"},
     {"does it scan my private keys in .ssh", "Nothing leaves this computer|keys, passwords"},
     {"can you delete files permanently or shred them", "nothing is deleted by Orlen", "I don't know"},
+    {"does orlen remove viruses", "not what Orlen is for"},
     {"what can't you do", "never touches what is protected|Nothing leaves"},
     {"will you ever delete my documents", "deletes nothing", "The biggest"},
     {"last time i used blender", "last used on 10 January 2025"},

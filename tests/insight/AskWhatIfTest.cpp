@@ -85,6 +85,8 @@ constexpr Row kByPlace[] = {
     {"total size of build artefacts and target dirs", "builds have made there are 2, 10 MB in all"},
     {"what is the total size of videos and isos",
      "Of videos there is 1|files ending in .iso there are 2|there are 3, 31 MB"},
+    {"how big are my screenshots and duplicates together",
+     "screenshots there are 2, 2 MB|there are 4, 45 MB"},
     {"how many raw videos", "I don't know that"},
     {"how many installers do I have", "installers there are 2"},
 };

@@ -173,7 +173,9 @@ bool addGroup(const Question& group, const AskContext& context, Things& things)
         things.addName(Message::verbatim(tilde(folder)));
         return true;
     }
-    if (isOnly && subject->extensions.empty() && !subject->kinds.empty()) {
+    // What is recognised is counted as lists do.
+    const bool isOfHome = isRecognised(*subject) && context.home != nullptr;
+    if (isOnly && !isOfHome && subject->extensions.empty() && !subject->kinds.empty()) {
         for (const Finding* const finding : findingsOf(*subject, context)) {
             for (const FileEntry& entry : finding->items)
                 things.add({finding, &entry});

@@ -45,7 +45,8 @@ constexpr WordRow kWords[] = {
      "install and remove this software,uninstall you,orlen be uninstalled,orlen be removed,"
      "uninstall orlen itself,remove orlen itself"},
     {Sense::resident,
-     "does orlen run in the background,does orlen work in the background,"
+     "orlen doing in the background,you doing in the background,orlen do in the background,you do in the "
+     "background,does orlen run in the background,does orlen work in the background,"
      "does orlen stay in the background,does orlen run all the time,does orlen keep running,"
      "does orlen always run,does orlen run permanently,does orlen run when closed,"
      "does orlen run by itself,does orlen run on its own,does orlen start automatically,"
@@ -166,7 +167,8 @@ constexpr WordRow kWords[] = {
      "says,linux says,computer says,my computer says,my computer says that,laptop says,my laptop says,my pc "
      "says,it says,says that,saying that"},
     {Sense::filler,
-     "hardly,barely,scarcely,somehow,anyhow,to run,to work,completely,totally,fully,another,with this "
+     "getting,hardly,barely,scarcely,somehow,anyhow,to run,to work,completely,totally,fully,another,with "
+     "this "
      "program,with this app,with "
      "this tool,with this thing,with this software,in this "
      "program,in "
@@ -267,7 +269,7 @@ constexpr WordRow kWords[] = {
      "cent,percentage,%,asap,as soon as possible,urgently,in one go,in percent,faster way,portion of,part "
      "of,share of,proportion of,fraction of,percentage of,out of it,out of that,out of this,for an "
      "update,for the update,for an upgrade,for the upgrade,for updates,you found,that you found,found,did "
-     "you find,combined,in one,sum of,by any means,whatsoever,mean to,meant to,or so,or something,quickest "
+     "you find,combined,in one,by any means,whatsoever,mean to,meant to,or so,or something,quickest "
      "way,fastest way,fast way,good way,obviously,definitely,currently available,generally,kind "
      "sir,buddy,mate,dude,bro,man,friendo,computer wise,here and there,i wonder if,wondering if,if "
      "possible,going forward,marvelous,thank you very much,in advance,real quick,real fast,a "
@@ -300,7 +302,8 @@ constexpr WordRow kWords[] = {
                   "of,what else,are there,is there,do i have,have i got,any,got any,do you see,did you "
                   "find,show me,list all,show all,wheres,wich,wat,how come there are,have you found"},
     {Sense::howBig,
-     "how big,how large,how heavy,how huge,size of,the size,how much space do,how much space does,how much "
+     "total of,the total of,the sum of,sum of,total for,how big,how large,how heavy,how huge,size of,the "
+     "size,how much space do,how much space does,how much "
      "room do,how much room does,how much storage do,how much storage does,how much do,how much does,how "
      "many gb,how many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much "
      "space is taken by,how much space is used by,how much space are,big is,file size,total size of,how much "
