@@ -53,4 +53,8 @@ inline constexpr Text kPartOfSystem =
 // one of those in the table of well-known names: "~/win.vdi: disk of a virtual machine."
 inline constexpr Text kWhatItIs = message("{path}: {thing}.");
 
+inline constexpr Text kRawPhotos = messageIn("files, within a sentence", "RAW photos");
+// TRANSLATORS: {files} is "documents" and the like; {endings} is a list: "pdf, doc, odt".
+inline constexpr Text kKindMeans = message("By {files} Orlen means files ending in {endings}.");
+
 } // namespace orlen::InsightTexts

@@ -20,4 +20,13 @@ inline constexpr Text kStartupSwitch =
     // TRANSLATORS: "orlen startup" is a command.
     message("Startup Items has a switch for it, and so does “orlen startup”.");
 
+inline constexpr Text kUseNotNoted =
+    message("When an application was last used has not been noted on this computer.");
+// TRANSLATORS: {name} is a program; follows a sentence about its size.
+inline constexpr Text kItsUseNotNoted = message("When {name} was last used has not been noted.");
+inline constexpr Text kOnlyWhileOpen =
+    message("Orlen works only while it is open: nothing of it runs in the background.");
+inline constexpr Text kOwnRemoval =
+    message("Orlen doesn't remove itself: use what you installed it with, such as the package manager.");
+
 } // namespace orlen::InsightTexts

@@ -9,6 +9,8 @@ inline constexpr Text kWouldFree =
     // TRANSLATORS: {what} is a list such as "videos over 3 GB, ubuntu.iso".
     messages("Without {what} you would have {size} more ({count} item).",
              "Without {what} you would have {size} more ({count} items).");
+inline constexpr Text kEmptyingTrash = messages("Emptying the Trash would free {size} ({count} item).",
+                                                "Emptying the Trash would free {size} ({count} items).");
 // TRANSLATORS: {rating} is "Safe", "Review" or "Keep".
 inline constexpr Text kEverythingRated = messageIn("files, within a sentence", "everything rated {rating}");
 // TRANSLATORS: {now} and {then} are sizes; follows a sentence about what would be removed.

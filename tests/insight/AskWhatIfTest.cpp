@@ -37,6 +37,13 @@ protected:
         file("Downloads/linuxmint-22.img", 5);
         add(FindingKind::largeFiles, Rating::review, message("Large."),
             {entry("Downloads/linuxmint-22.img", 5 * kBytesInMB)});
+        add(FindingKind::npm, Rating::safe, message("Fetched again."),
+            {entry(".npm/_cacache", 3 * kBytesInMB)});
+        add(FindingKind::gradle, Rating::safe, message("Fetched again."),
+            {entry(".gradle/wrapper/dists", 5 * kBytesInMB), entry(".gradle/caches", 2 * kBytesInMB)});
+        add(FindingKind::trash, Rating::review, message("In the Trash."),
+            {entry(".local/share/Trash/files/old.mov", 6 * kBytesInMB)});
+        file("Pictures/Crete.RW2", 2);
         context.home = HomeWalk::walk({});
     }
 
@@ -57,16 +64,30 @@ constexpr Row kWhatIf[] = {
     {"how much space without videos and isos", "31 MB more (3 items)"},
     {"how much space would I have after removing the linux mint image", "5 MB more (1 item)"},
     {"if I deleted everything rated Safe how much free space would I have afterwards",
-     "everything rated Safe|14 MB more (1 item)|mint.iso", "ubuntu"},
+     "everything rated Safe|24 MB more (4 items)|mint.iso", "ubuntu"},
     {"how much do i gain if i remove all build artifacts and venvs",
      "14 MB more (3 items)|engine/target|node_modules|.venv", "site/target"},
     {"how much would I free if I delete unicorns and mint.iso", "nothing called “unicorns”", "14 MB"},
+    {"what would i get back from deleting the gradle stuff and the trash together",
+     "13 MB more (3 items)|wrapper/dists|old.mov"},
+    {"how much would I free if I empty the trash", "Emptying the Trash would free 6 MB (1 item)", "Without"},
+    {"how much do I gain by clearing the npm, yarn and gradle caches",
+     "Without the npm and Yarn caches and Gradle caches|10 MB more (3 items", "13 MB"},
+    {"how much do i get if i include review",
+     "everything rated Safe and everything rated Review|mint.iso|linuxmint-22.img", "notes.txt"},
     {"how much space would I get back by deleting ISOs over 10 MB", "14 MB more (1 item)|mint", "ubuntu"},
 };
 
 constexpr Row kByPlace[] = {
     {"is there a virtual machine on this computer", "virtual machines there are 2, 8 MB|fedora|Testing"},
     {"how big are my wine prefixes", "2 MB|~/.wine"},
+    {"raw files size", "RAW photos there is 1, 2 MB", "sea"},
+    {"total size of build artefacts and target dirs", "builds have made there are 2, 10 MB in all"},
+    {"what is the total size of videos and isos",
+     "Of videos there is 1|files ending in .iso there are 2|there are 3, 31 MB"},
+    {"how big are my screenshots and duplicates together",
+     "screenshots there are 2, 2 MB|there are 4, 45 MB"},
+    {"how many raw videos", "I don't know that"},
     {"how many installers do I have", "installers there are 2"},
 };
 

@@ -7,6 +7,7 @@
 #include "insight/reader/Names.h"
 #include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
+#include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -86,6 +87,14 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
         if (!answer)
             return std::nullopt;
         answers.push_back(*std::move(answer));
+    }
+    // "The total size of videos and music": theirs together, too.
+    constexpr SenseSet kOfSize{howBig, howMuch, howMany};
+    constexpr SenseSet kPlain{howBig, howMuch, howMany, subject, ending, what,
+                              total,  takes,   used,    space,   disk};
+    if (each.size() > 1 && question.senses.meets(kOfSize) && question.senses.isWithin(kPlain)) {
+        if (auto sum = sumOfThem(question, context))
+            answers.push_back(*std::move(sum));
     }
     return Reply{together(std::move(answers)), question};
 }

@@ -202,6 +202,8 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
         answer.paths.push_back(hit.entry->path);
         addLink(answer, *hit.finding);
     }
+    if (const auto more = count - std::ssize(hits); more > 0 && hits.size() > 1)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
     answer.text = AskText::lines(std::move(lines));
     return answer;
 }

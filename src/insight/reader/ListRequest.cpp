@@ -105,8 +105,8 @@ bool asksForOne(const Question& question)
 bool isOfOwnFiles(const ListRequest& request)
 {
     using enum SubjectID;
-    constexpr SubjectID kKinds[] = {videos,       photos,        audio,  pdfs,
-                                    spreadsheets, presentations, ebooks, documents};
+    constexpr SubjectID kKinds[] = {videos,       photos,        rawPhotos, audio,    pdfs,
+                                    spreadsheets, presentations, ebooks,    documents};
     const bool isByDate = request.order == Order::newest || request.order == Order::oldest ||
                           request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
                           request.openedTo != TimePoint::max();

@@ -1,5 +1,7 @@
 #include "insight/reader/Merging.h"
 
+#include "insight/reader/Deeds.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -9,34 +11,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-using Phrases = std::vector<Phrase>;
-
-bool has(const Phrases& phrases, Sense sense)
-{
-    return std::ranges::find(phrases, sense, &Phrase::sense) != phrases.end();
-}
-
-void drop(Phrases& phrases, Sense sense)
-{
-    std::erase_if(phrases, [&](const Phrase& phrase) { return phrase.sense == sense; });
-}
-
-void rename(Phrases& phrases, Sense from, Sense to)
-{
-    for (Phrase& phrase : phrases) {
-        if (phrase.sense == from)
-            phrase.sense = to;
-    }
-}
-
-/// "How much would I get back if I deleted …" asks for no return.
-void mergeGain(Phrases& phrases)
-{
-    if ((has(phrases, Sense::howMuch) || has(phrases, Sense::howBig)) && has(phrases, Sense::undo) &&
-        has(phrases, Sense::remove))
-        rename(phrases, Sense::undo, Sense::makeRoom);
-}
 
 /// "What takes up all the room? The files I have are tiny": what is said beside it is no order.
 void dropAside(Phrases& phrases)
@@ -50,9 +24,12 @@ void dropAside(Phrases& phrases)
         (each < end ? asked : aside).add(each->sense);
     const bool isComplete = (asked.meets({what, why}) && asked.has(full)) ||
                             (asked.has(what) && asked.has(takes) && asked.meets({space, disk, most}));
+    const bool isLament =
+        asked.has(full) && asked.isWithin({full, what, disk, space, general}) && aside.has(size);
     constexpr SenseSet kAside{smallest, installed, period, last, number, size,  negation, general,
                               subject,  disk,      newest, only, takes,  space, used};
-    if (isComplete && aside.isWithin(kAside) && aside.meets({smallest, installed, newest}))
+    if ((isComplete || isLament) && aside.isWithin(kAside) &&
+        aside.meets({smallest, installed, newest, size}))
         phrases.erase(end, phrases.end());
 }
 
@@ -147,21 +124,6 @@ void mergeLeftAlone(Phrases& phrases)
     drop(phrases, Sense::inPeace);
 }
 
-/// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
-void mergeFreed(Phrases& phrases)
-{
-    using enum Sense;
-    const auto freedAt = std::ranges::find(phrases, freed, &Phrase::sense);
-    if (freedAt == phrases.end())
-        return;
-    freedAt->sense = cleanUp;
-    if (has(phrases, last) || has(phrases, when) || has(phrases, soFar) || has(phrases, unknown) ||
-        has(phrases, quoted))
-        return;
-    const bool isOfLast = has(phrases, what) && !has(phrases, period) && !has(phrases, total);
-    phrases.push_back({isOfLast ? last : soFar, {}, nullptr, 0, {}});
-}
-
 /// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
 void dropComing(Phrases& phrases)
 {
@@ -200,7 +162,7 @@ const Subject* together(const Subject& a, const Subject& b)
     if (isPhotos(b)) {
         if (a.id == duplicates)
             return &subjectFor(similarPhotos);
-        return isOneOf(a.id, {screenshots, receipts, memes, blurry, similarPhotos}) ? &a : nullptr;
+        return isOneOf(a.id, {screenshots, receipts, memes, blurry, similarPhotos, rawPhotos}) ? &a : nullptr;
     }
     if (b.isAnyFile)
         return a.isAnyFile || a.kinds.empty() == a.extensions.empty() ? nullptr : &a;
@@ -235,26 +197,6 @@ std::optional<Phrase> together(const Phrase& a, const Phrase& b)
     if (one.subject == nullptr && !subject->folder.empty())
         one.subject = subject;
     return one.subject == nullptr ? std::nullopt : std::optional(std::move(one));
-}
-
-/// "Make 5 GB of room", "free 5 GB"
-void mergeMaking(Phrases& phrases)
-{
-    constexpr SenseSet kAlone{Sense::make, Sense::size, Sense::general, Sense::can};
-    const bool isAlone =
-        std::ranges::all_of(phrases, [&](const Phrase& each) { return kAlone.has(each.sense); });
-    const bool isOfRoom =
-        has(phrases, Sense::size) && (isAlone || has(phrases, Sense::free) || has(phrases, Sense::space));
-    if (isOfRoom)
-        rename(phrases, Sense::make, Sense::makeRoom);
-    else
-        drop(phrases, Sense::make);
-    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
-        // One word; "do I still have" asks.
-        const bool isVerb = phrases[i].sense == Sense::free && phrases[i].text.find(' ') == std::string::npos;
-        if (isVerb && phrases[i + 1].sense == Sense::size)
-            phrases[i].sense = Sense::makeRoom;
-    }
 }
 
 /// "The biggest 100 MB" compares; so do languages in which "larger than" and "largest of" are the same words.
@@ -329,8 +271,7 @@ Question merged(const Question& question)
         drop(phrases, Sense::self);
     dropAside(phrases);
     mergeLeftAlone(phrases);
-    mergeFreed(phrases);
-    mergeGain(phrases);
+    mergeDeeds(phrases);
     mergeToday(phrases);
     mergeComparisons(phrases);
     mergeRange(phrases);

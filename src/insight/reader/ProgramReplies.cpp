@@ -172,7 +172,12 @@ std::optional<Answer> packaged(const Question& question, const AskContext& conte
         // What they keep may still be there.
         if (context.apps)
             lines.push_back({InsightTexts::kNoFilesThere, {files}});
-        lines.push_back(foldersIn(isFlatpak ? "{H}/.var/app" : "{H}/snap", context));
+        const std::string_view place = isFlatpak ? "{H}/.var/app" : "{H}/snap";
+        lines.push_back(foldersIn(place, request->isSmallest ? Sizes::smallest : Sizes::biggest, context));
+        if (context.leftovers && std::ranges::any_of(*context.leftovers, [&](const FileEntry& entry) {
+                return PathText::isAtOrBelow(entry.path, Places::current().expand(place).front());
+            }))
+            lines.emplace_back(InsightTexts::kLeftoversScreen);
     }
     lines.push_back(how);
     return Answer{AskText::lines(std::move(lines)), {}};
@@ -270,14 +275,20 @@ std::optional<Answer> isInstalled(const Question& question, const AskContext& co
     return Answer{Message{InsightTexts::kAppUnknown, {name}}, {}};
 }
 
-std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)
+const KnownApp* appCalled(const AskContext& context, std::string_view name)
 {
     if (!context.apps)
-        return std::nullopt;
+        return nullptr;
     const std::string wanted = plainLetters(name);
     const auto found =
         std::ranges::find_if(*context.apps, [&](const KnownApp& app) { return isNamed(app, wanted); });
-    return found == context.apps->end() ? std::nullopt : std::optional(described(*found));
+    return found == context.apps->end() ? nullptr : &*found;
+}
+
+std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)
+{
+    const KnownApp* const found = appCalled(context, name);
+    return found == nullptr ? std::nullopt : std::optional(described(*found));
 }
 
 std::optional<Answer> uninstalling(const Question& question, const AskContext& context)

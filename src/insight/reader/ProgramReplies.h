@@ -19,6 +19,9 @@ namespace orlen::AskReader {
 /// How to uninstall what the question names.
 [[nodiscard]] std::optional<Answer> uninstalling(const Question& question, const AskContext& context);
 
+/// The application of this name, or with it among the words of its name; null if there is none.
+[[nodiscard]] const KnownApp* appCalled(const AskContext& context, std::string_view name);
+
 /// The size of an application, and how to remove it; nothing if none is known by this name.
 [[nodiscard]] std::optional<Answer> aboutApp(const AskContext& context, std::string_view name);
 

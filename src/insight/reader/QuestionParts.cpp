@@ -38,6 +38,44 @@ bool isNamedFile(const Phrase& phrase)
            (phrase.sense == unknown && PathText::extension(phrase.text).size() >= 2);
 }
 
+/// Phrases side by side, the last one left out.
+struct PhraseRange {
+    std::size_t from = 0;
+    std::size_t to = 0;
+};
+
+/// The kind or the named file that begins there; "isos" are an ending and the files. Empty if none does.
+PhraseRange thingAt(const std::vector<Phrase>& phrases, std::size_t at)
+{
+    const auto isFiles = [&](std::size_t i) {
+        return i < phrases.size() && !phrases[i].isJoined && phrases[i].subject != nullptr &&
+               phrases[i].subject->isAnyFile;
+    };
+    if (phrases[at].sense == ending)
+        return {at, isFiles(at + 1) ? at + 2 : at};
+    return {at, phrases[at].subject != nullptr || isNamedFile(phrases[at]) ? at + 1 : at};
+}
+
+/// The first run of such things with "and" between them: all kinds, or all named.
+std::vector<PhraseRange> alikeIn(const std::vector<Phrase>& phrases)
+{
+    std::vector<PhraseRange> run;
+    for (std::size_t i = 0; i < phrases.size();) {
+        const PhraseRange thing = thingAt(phrases, i);
+        const bool isThing = thing.to > thing.from;
+        const bool goesOn = isThing && !run.empty() && phrases[i].isJoined &&
+                            isNamedFile(phrases[i]) == isNamedFile(phrases[run.front().from]);
+        if (!goesOn && run.size() > 1)
+            return run;
+        if (!goesOn)
+            run.clear();
+        if (isThing)
+            run.push_back(thing);
+        i = isThing ? thing.to : i + 1;
+    }
+    return run;
+}
+
 } // namespace
 
 std::vector<Question> partsOf(const Question& question)
@@ -101,12 +139,6 @@ std::optional<Question> undressed(const Question& question)
 
 std::vector<Question> distributed(const Question& question)
 {
-    const auto isAlike = [&](std::size_t i) {
-        const Phrase& phrase = question.phrases[i];
-        const Phrase& previous = question.phrases[i - 1];
-        return phrase.isJoined && ((phrase.subject != nullptr && previous.subject != nullptr) ||
-                                   (isNamedFile(phrase) && isNamedFile(previous)));
-    };
     // "How much would I gain without the isos and the trash", "how much do pip and npm free together": one
     // sum.
     constexpr SenseSet kGone{remove, makeRoom};
@@ -118,20 +150,16 @@ std::vector<Question> distributed(const Question& question)
     if (question.senses.meets({howMuch, howBig}) && question.senses.meets({free, makeRoom, remove}) &&
         std::ranges::all_of(question.phrases, isFinding))
         return {question};
-    std::size_t from = 1;
-    while (from < question.phrases.size() && !isAlike(from))
-        ++from;
-    std::size_t to = from;
-    while (to < question.phrases.size() && isAlike(to))
-        ++to;
-    if (from == to)
+    const std::vector<PhraseRange> alike = alikeIn(question.phrases);
+    if (alike.size() < 2)
         return {question};
     std::vector<Question> each;
-    for (std::size_t kept = from - 1; kept < to; ++kept) {
-        std::vector<Phrase> phrases = question.phrases;
-        for (std::size_t i = to; i-- > from - 1;) {
-            if (i != kept)
-                phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+    for (const PhraseRange& kept : alike) {
+        std::vector<Phrase> phrases;
+        for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+            const bool isAmongThem = i >= alike.front().from && i < alike.back().to;
+            if (!isAmongThem || (i >= kept.from && i < kept.to))
+                phrases.push_back(question.phrases[i]);
         }
         each.push_back(withPhrases(question, std::move(phrases)));
     }

@@ -3,13 +3,16 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/Proposal.h"
+#include "insight/reader/SpaceReplies.h"
 #include "insight/reader/SubjectReplies.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -18,6 +21,29 @@ namespace orlen::AskReader {
 namespace {
 
 constexpr std::size_t kNamed = 6;
+
+/// What a person has no other copy of, perhaps: proposed only where the rest is too little.
+bool isPersonal(const Hit& hit)
+{
+    using enum FindingKind;
+    constexpr FindingKind kPersonal[] = {oldFiles,    largeFiles, duplicates, photoDuplicates,
+                                         screenshots, receipts,   memes,      blurry};
+    return std::ranges::find(kPersonal, hit.finding->kind) != std::end(kPersonal);
+}
+
+/// Of what is rated Review, downloads, caches and the like first.
+std::vector<Hit> reviewed(const AskContext& context, std::int64_t wanted, const Exclusions& exclusions)
+{
+    std::vector<Hit> hits = choosable(context, Rating::review, exclusions);
+    std::vector<Hit> personal;
+    std::ranges::copy_if(hits, std::back_inserter(personal), isPersonal);
+    std::erase_if(hits, isPersonal);
+    hits = reaching(std::move(hits), wanted);
+    const std::int64_t missing = wanted - bytesOf(hits);
+    if (missing > 0)
+        std::ranges::copy(reaching(std::move(personal), missing), std::back_inserter(hits));
+    return hits;
+}
 
 /// Which entries together free `wanted` bytes, with links to their findings.
 std::vector<Message> proposal(const AskContext& context, std::int64_t wanted, const Exclusions& exclusions,
@@ -36,8 +62,7 @@ std::vector<Message> proposal(const AskContext& context, std::int64_t wanted, co
     else
         said.push_back({InsightTexts::kAllSafe,
                         {{"size", Bytes{safeBytes}}, {"findings", listed(partsOf(safe), kNamed, answer)}}});
-    const std::vector<Hit> rest =
-        reaching(choosable(context, Rating::review, exclusions), wanted - safeBytes);
+    const std::vector<Hit> rest = reviewed(context, wanted - safeBytes, exclusions);
     appendPaths(answer.proposal, rest);
     if (!rest.empty())
         said.push_back(
@@ -100,7 +125,15 @@ std::optional<Answer> roomFor(const Question& question, const AskContext& contex
     Answer answer;
     std::vector<Message> said = proposal(context, size->amount, *exclusions, answer);
     said.emplace_back(InsightTexts::kNothingMovesYet);
-    answer.text = AskText::lines({exclusions->said(), AskText::sentences(std::move(said))});
+    // "I need room for 5 GB": there may be that much. "Free 5 GB" wants more.
+    const auto isFreeing = [](const Phrase& phrase) {
+        return phrase.sense == Sense::remove || phrase.sense == Sense::cleanUp ||
+               (phrase.sense == Sense::makeRoom && phrase.text.find("free") != std::string::npos);
+    };
+    const bool isThere = context.breakdown.total > 0 && context.breakdown.free >= size->amount &&
+                         std::ranges::none_of(question.phrases, isFreeing);
+    answer.text = AskText::lines({isThere ? volume(context.breakdown) : Message(), exclusions->said(),
+                                  AskText::sentences(std::move(said))});
     return answer;
 }
 

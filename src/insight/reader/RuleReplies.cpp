@@ -2,11 +2,15 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsNames.h"
+#include "insight/InsightTextsPrograms.h"
 #include "insight/InsightTextsWhatIf.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/SubjectReplies.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -75,6 +79,41 @@ std::optional<Answer> whyTrust(const Question& /*question*/, const AskContext& /
 std::optional<Answer> whatIsNotItsJob(const Question& /*question*/, const AskContext& /*context*/)
 {
     return Answer{InsightTexts::kNotItsJob, {}};
+}
+
+std::optional<Answer> whatItDoesNot(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{AskText::lines({InsightTexts::kNeverTouched, InsightTexts::kPrivacy}), {}};
+}
+
+std::optional<Answer> deletesNothing(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kNeverTouched, {}};
+}
+
+std::optional<Answer> whenItRuns(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kOnlyWhileOpen, {}};
+}
+
+std::optional<Answer> howItIsRemoved(const Question& /*question*/, const AskContext& /*context*/)
+{
+    return Answer{InsightTexts::kOwnRemoval, {}};
+}
+
+std::optional<Answer> whatCounts(const Question& question, const AskContext& context)
+{
+    const Subject& subject = *question.subject();
+    if (question.count(Sense::subject) > 1 || subject.isProgram)
+        return std::nullopt;
+    if (subject.extensions.empty())
+        return whatSubjectIs(question, context);
+    std::string endings(subject.extensions);
+    for (std::size_t at = endings.find(' '); at != std::string::npos; at = endings.find(' ', at + 2))
+        endings.replace(at, 1, ", ");
+    return Answer{
+        Message{InsightTexts::kKindMeans, {{"files", within(subject.name)}, {"endings", std::move(endings)}}},
+        {}};
 }
 
 std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)

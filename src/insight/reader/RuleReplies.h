@@ -33,13 +33,28 @@ namespace orlen::AskReader {
 /// What Orlen has nothing to do with.
 [[nodiscard]] std::optional<Answer> whatIsNotItsJob(const Question& question, const AskContext& context);
 
+/// What it never moves, and that it sends nothing.
+[[nodiscard]] std::optional<Answer> whatItDoesNot(const Question& question, const AskContext& context);
+
+/// That it deletes nothing, whatever it is asked about.
+[[nodiscard]] std::optional<Answer> deletesNothing(const Question& question, const AskContext& context);
+
+/// That it works only while it is open.
+[[nodiscard]] std::optional<Answer> whenItRuns(const Question& question, const AskContext& context);
+
+/// How Orlen itself is removed.
+[[nodiscard]] std::optional<Answer> howItIsRemoved(const Question& question, const AskContext& context);
+
+/// Which files are of a kind, or what a kind of finding holds.
+[[nodiscard]] std::optional<Answer> whatCounts(const Question& question, const AskContext& context);
+
 /// What a clean-up does with what is moved.
 [[nodiscard]] std::optional<Answer> whatHappens(const Question& question, const AskContext& context);
 
-/// What is rated Keep.
 /// How to exclude something from all scans.
 [[nodiscard]] std::optional<Answer> howToExclude(const Question& question, const AskContext& context);
 
+/// What is rated Keep.
 [[nodiscard]] std::optional<Answer> whatToKeep(const Question& question, const AskContext& context);
 
 /// What the category System holds; nothing of another subject.

@@ -26,8 +26,14 @@ enum class Sense : std::uint8_t {
     happens, ///< "what happens when …"
     advise,
     trust,
-    beyond, ///< what Orlen has nothing to do with: viruses, speed
-    self,   ///< Orlen, or the conversation itself
+    beyond,     ///< what Orlen has nothing to do with: viruses, speed
+    deletes,    ///< "will you ever delete": asks what Orlen does, not what to remove
+    reads,      ///< "does it read my": what of the person's it looks into
+    resident,   ///< whether Orlen runs while nobody uses it
+    ownRemoval, ///< to remove Orlen itself
+    lastUse,    ///< "last time I used"
+    included,   ///< "if I include": with a rating, what comes on top of what is safe
+    self,       ///< Orlen, or the conversation itself
     free,
     makeRoom,
     make, ///< "make", "give me": with a size and space, to make room

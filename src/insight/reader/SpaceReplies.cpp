@@ -31,6 +31,8 @@ std::int64_t usedOf(const StorageBreakdown& breakdown)
     return std::max<std::int64_t>(0, checkedSubtract(breakdown.total, breakdown.free));
 }
 
+} // namespace
+
 Message volume(const StorageBreakdown& breakdown)
 {
     const std::int64_t used = usedOf(breakdown);
@@ -40,8 +42,6 @@ Message volume(const StorageBreakdown& breakdown)
              {"used", Bytes{used}},
              {"share", Share{static_cast<double>(used) / static_cast<double>(breakdown.total)}}}};
 }
-
-} // namespace
 
 std::optional<Answer> spaceNow(const Question& question, const AskContext& context)
 {

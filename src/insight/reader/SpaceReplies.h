@@ -27,4 +27,7 @@ namespace orlen::AskReader {
 /// The folders that take the most space, directly in the one that the question names.
 [[nodiscard]] std::optional<Answer> biggestFolders(const Question& question, const AskContext& context);
 
+/// How much of the disk is free and used.
+[[nodiscard]] Message volume(const StorageBreakdown& breakdown);
+
 } // namespace orlen::AskReader

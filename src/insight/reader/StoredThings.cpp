@@ -210,7 +210,7 @@ std::optional<Answer> listOfStored(const Subject& subject, const AskContext& con
     return answer;
 }
 
-Message foldersIn(std::string_view pattern, const AskContext& context)
+Message foldersIn(std::string_view pattern, Sizes first, const AskContext& context)
 {
     const std::vector<std::string> paths = Places::current().expand(pattern);
     const auto folder =
@@ -218,11 +218,16 @@ Message foldersIn(std::string_view pattern, const AskContext& context)
     if (!folder)
         return {};
     const HomeFiles& home = *context.home;
-    std::vector<Message> lines(1);
+    std::vector<Stored> found;
     const Number last = home.foldersFrom(*folder).last;
     for (Number each = *folder + 1; each < last; each = home.foldersFrom(each).last)
-        lines.push_back({InsightTexts::kDownload,
-                         {{"name", tilde(home.folderPath(each))}, {"size", Bytes{home.folder(each).bytes}}}});
+        found.push_back({home.folderPath(each), home.folder(each).bytes});
+    std::ranges::stable_sort(found, [&](const Stored& one, const Stored& other) {
+        return first == Sizes::smallest ? one.bytes < other.bytes : one.bytes > other.bytes;
+    });
+    std::vector<Message> lines(1);
+    for (const Stored& each : found)
+        lines.push_back({InsightTexts::kDownload, {{"name", tilde(each.path)}, {"size", Bytes{each.bytes}}}});
     if (lines.size() == 1)
         return {};
     const Message files{InsightTexts::kFilesIn,

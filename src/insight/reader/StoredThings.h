@@ -26,8 +26,11 @@ struct Stored {
 /// How many there are, what they take, and the largest.
 [[nodiscard]] std::optional<Answer> listOfStored(const Subject& subject, const AskContext& context);
 
+/// What a list begins with.
+enum class Sizes { biggest, smallest };
+
 /// The folders directly in one, with their sum; empty if there are none.
-[[nodiscard]] Message foldersIn(std::string_view pattern, const AskContext& context);
+[[nodiscard]] Message foldersIn(std::string_view pattern, Sizes first, const AskContext& context);
 
 /// What the containers of Podman and Docker take, and the commands for them.
 [[nodiscard]] Answer containers(const AskContext& context);

@@ -1,6 +1,7 @@
 #include "insight/reader/Subjects.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsNames.h"
 #include "insight/InsightTextsWhatIf.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
@@ -94,7 +95,8 @@ const std::vector<Subject>& subjects()
          "{VIDEOS}"},
         {ID::photos,
          messageIn("files, within a sentence", "photos"),
-         "jpg jpeg png heic heif gif webp tif tiff bmp raw cr2 cr3 nef arw dng orf rw2 avif svg",
+         "jpg jpeg png heic heif gif webp tif tiff bmp raw cr2 cr3 crw nef nrw arw sr2 srf dng orf rw2 raf "
+         "pef srw x3f avif svg",
          {},
          Category::photos,
          "{PICTURES}"},
@@ -161,6 +163,12 @@ const std::vector<Subject>& subjects()
         {ID::wine, messageIn("files, within a sentence", "folders of Wine"), "", {}, {}, "", false, true},
         {ID::buildOutput, InsightTexts::kBuildOutput, "", {}, {}, "", false, true},
         {ID::environments, InsightTexts::kVirtualEnvironments, "", {}, {}, "", false, true},
+        {ID::rawPhotos,
+         InsightTexts::kRawPhotos,
+         "raw cr2 cr3 crw nef nrw arw sr2 srf dng orf rw2 raf pef srw x3f",
+         {},
+         {},
+         ""},
     };
     return all;
 }

@@ -65,6 +65,7 @@ enum class SubjectID : std::uint8_t {
     wine,
     buildOutput,
     environments,
+    rawPhotos,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often

@@ -1,6 +1,9 @@
 #include "insight/reader/UnusedApps.h"
 
 #include "insight/InsightTexts.h"
+#include "insight/InsightTextsPrograms.h"
+#include "insight/reader/AskedName.h"
+#include "insight/reader/ProgramReplies.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -50,7 +53,7 @@ std::vector<Message> unusedApps(const Question& question, const AskContext& cont
     std::ranges::copy_if(context.apps.value_or(std::vector<KnownApp>()), std::back_inserter(known),
                          [](const KnownApp& app) { return app.lastUse.has_value(); });
     if (known.empty())
-        return {InsightTexts::kUseIsUnknown};
+        return {context.apps ? InsightTexts::kUseNotNoted : InsightTexts::kUseIsUnknown};
     const auto others = std::ssize(*context.apps) - std::ssize(known);
     const TimePoint from = neededUse(question, context.now);
     std::erase_if(known, [&](const KnownApp& app) { return *app.lastUse >= from; });
@@ -66,6 +69,26 @@ std::vector<Message> unusedApps(const Question& question, const AskContext& cont
     if (others > 0)
         lines.push_back({InsightTexts::kOtherUseIsUnknown, {{"count", others}}});
     return lines;
+}
+
+std::optional<Answer> lastUseOf(const Question& question, const AskContext& context)
+{
+    const std::string name = nameIn(question).name;
+    const KnownApp* const app = name.empty() ? nullptr : appCalled(context, name);
+    // "The last time I opened" may be of a file.
+    const Phrase* const use = question.first(Sense::lastUse);
+    const bool mayBeFile = use == nullptr || use->text.find("open") != std::string::npos ||
+                           question.senses.has(Sense::quoted) || name.empty();
+    if (app == nullptr && (mayBeFile || !context.apps))
+        return std::nullopt;
+    const Place place{"name", PathText::forDisplay(app == nullptr ? name : app->name)};
+    if (app == nullptr || !app->lastUse)
+        return Answer{Message{InsightTexts::kItsUseNotNoted, {place}}, {}};
+    const Place date{"date", dayOf(*app->lastUse)};
+    if (app->isUseNoted)
+        return Answer{Message{InsightTexts::kAppUsedOn, {date}}, {}};
+    const Message read{InsightTexts::kAppLastRead, {place, {"size", Bytes{app->bytes.value_or(0)}}, date}};
+    return Answer{app->bytes ? read : Message{InsightTexts::kItsUseNotNoted, {place}}, {}};
 }
 
 } // namespace orlen::AskReader

@@ -13,4 +13,7 @@ namespace orlen::AskReader {
 /// without one, and a line about those of which nobody knows. Never empty.
 [[nodiscard]] std::vector<Message> unusedApps(const Question& question, const AskContext& context);
 
+/// When the application that the question names was last used; nothing if none is known by this name.
+[[nodiscard]] std::optional<Answer> lastUseOf(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

@@ -18,6 +18,10 @@ namespace orlen::AskReader {
 /// Keep.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
+/// How many files the kinds that the question names have together, and their size; nothing if it names one,
+/// or folders.
+[[nodiscard]] std::optional<Answer> sumOfThem(const Question& question, const AskContext& context);
+
 /// The free space with so many bytes less used; empty if nobody knows what is free.
 [[nodiscard]] Message freeWithout(std::int64_t bytes, const AskContext& context);
 

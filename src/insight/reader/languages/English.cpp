@@ -16,7 +16,8 @@ constexpr WordRow kWords[] = {
     {Sense::vacant, "empty folders,empty folder,empty directories,empty directory,empty dirs,empty "
                     "subfolders,folders that are empty,folders with nothing in them,folders are empty"},
     {Sense::freed,
-     "have you ever deleted,have you ever moved,have you ever removed,did you ever delete,has orlen ever "
+     "did it delete,has it deleted,did it remove,has it removed,did this program delete,have you ever "
+     "deleted,have you ever moved,have you ever removed,did you ever delete,has orlen ever "
      "deleted,was anything deleted,was anything removed,was anything moved,was something deleted,anything "
      "deleted,anything been deleted,did orlen delete,did you delete,have you deleted,has orlen deleted,did "
      "orlen move,did you move,have "
@@ -28,9 +29,147 @@ constexpr WordRow kWords[] = {
      "freed,did it free,has it freed,has this program freed,did this program free,has this app freed,did "
      "this app free,has this tool freed,have i got back,did i get back,i freed,you freed,orlen freed"},
     {Sense::inPeace, "alone,in peace"},
+    {Sense::ownRemoval,
+     "uninstall orlen,uninstall yourself,uninstall this app,uninstall this program,uninstall this tool,"
+     "uninstall this software,remove orlen,remove yourself,remove this app,remove this program,"
+     "remove this tool,remove this software,delete orlen,delete yourself,delete this app,"
+     "delete this program,delete this tool,delete this software,get rid of orlen,get rid of yourself,"
+     "get rid of this app,get rid of this program,get rid of this tool,get rid of this software,"
+     "deinstall orlen,deinstall yourself,deinstall this app,deinstall this program,deinstall this tool,"
+     "deinstall this software,uninstalling orlen,uninstalling yourself,uninstalling this app,"
+     "uninstalling this program,uninstalling this tool,uninstalling this software,removing orlen,"
+     "removing yourself,removing this app,removing this program,removing this tool,"
+     "removing this software,deleting orlen,deleting yourself,deleting this app,deleting this program,"
+     "deleting this tool,deleting this software,install and remove orlen,install and remove yourself,"
+     "install and remove this app,install and remove this program,install and remove this tool,"
+     "install and remove this software,uninstall you,orlen be uninstalled,orlen be removed,"
+     "uninstall orlen itself,remove orlen itself"},
+    {Sense::resident,
+     "orlen doing in the background,you doing in the background,orlen do in the background,you do in the "
+     "background,does orlen run in the background,does orlen work in the background,"
+     "does orlen stay in the background,does orlen run all the time,does orlen keep running,"
+     "does orlen always run,does orlen run permanently,does orlen run when closed,"
+     "does orlen run by itself,does orlen run on its own,does orlen start automatically,"
+     "does orlen start at login,does orlen start at boot,does orlen start by itself,"
+     "does orlen start with the computer,does orlen run at startup,does orlen run at login,"
+     "does orlen run as a service,does orlen run a service,does orlen run a daemon,"
+     "do you run in the background,do you work in the background,do you stay in the background,"
+     "do you run all the time,do you keep running,do you always run,do you run permanently,"
+     "do you run when closed,do you run by itself,do you run on its own,do you start automatically,"
+     "do you start at login,do you start at boot,do you start by itself,do you start with the computer,"
+     "do you run at startup,do you run at login,do you run as a service,do you run a service,"
+     "do you run a daemon,will orlen run in the background,will orlen work in the background,"
+     "will orlen stay in the background,will orlen run all the time,will orlen keep running,"
+     "will orlen always run,will orlen run permanently,will orlen run when closed,"
+     "will orlen run by itself,will orlen run on its own,will orlen start automatically,"
+     "will orlen start at login,will orlen start at boot,will orlen start by itself,"
+     "will orlen start with the computer,will orlen run at startup,will orlen run at login,"
+     "will orlen run as a service,will orlen run a service,will orlen run a daemon,"
+     "is orlen running in the background,is orlen always running,is orlen running all the time,"
+     "is orlen active in the background,is orlen a background process,is orlen a background service,"
+     "is orlen a daemon,is orlen running now,are you running in the background,are you always running,"
+     "are you running all the time,are you active in the background,are you a background process,"
+     "are you a background service,are you a daemon,are you running now,this app run in the background,"
+     "this app running in the background,this app always running,this program run in the background,"
+     "this program running in the background,this program always running,"
+     "this tool run in the background,this tool running in the background,this tool always running"},
+    {Sense::deletes,
+     "will you ever delete,will you delete,will you ever remove,will you remove,will you ever erase,"
+     "will you erase,will orlen ever delete,will orlen delete,will orlen ever remove,will orlen remove,"
+     "will orlen ever erase,will orlen erase,will it ever delete,will it delete,will it ever remove,"
+     "will it remove,will it ever erase,will it erase,will this program ever delete,"
+     "will this program delete,will this program ever remove,will this program remove,"
+     "will this program ever erase,will this program erase,will this app ever delete,"
+     "will this app delete,will this app ever remove,will this app remove,will this app ever erase,"
+     "will this app erase,will the program ever delete,will the program delete,"
+     "will the program ever remove,will the program remove,will the program ever erase,"
+     "will the program erase,will the app ever delete,will the app delete,will the app ever remove,"
+     "will the app remove,will the app ever erase,will the app erase,would you ever delete,"
+     "would you delete,would you ever remove,would you remove,would you ever erase,would you erase,"
+     "would orlen ever delete,would orlen delete,would orlen ever remove,would orlen remove,"
+     "would orlen ever erase,would orlen erase,would it ever delete,would it delete,"
+     "would it ever remove,would it remove,would it ever erase,would it erase,"
+     "would this program ever delete,would this program delete,would this program ever remove,"
+     "would this program remove,would this program ever erase,would this program erase,"
+     "would this app ever delete,would this app delete,would this app ever remove,would this app remove,"
+     "would this app ever erase,would this app erase,would the program ever delete,"
+     "would the program delete,would the program ever remove,would the program remove,"
+     "would the program ever erase,would the program erase,would the app ever delete,"
+     "would the app delete,would the app ever remove,would the app remove,would the app ever erase,"
+     "would the app erase,does orlen ever delete,does orlen delete,does orlen ever remove,"
+     "does orlen remove,does orlen ever erase,does orlen erase,does it ever delete,does it delete,"
+     "does it ever remove,does it remove,does it ever erase,does it erase,does this program ever delete,"
+     "does this program delete,does this program ever remove,does this program remove,"
+     "does this program ever erase,does this program erase,does this app ever delete,"
+     "does this app delete,does this app ever remove,does this app remove,does this app ever erase,"
+     "does this app erase,does the program ever delete,does the program delete,"
+     "does the program ever remove,does the program remove,does the program ever erase,"
+     "does the program erase,does the app ever delete,does the app delete,does the app ever remove,"
+     "does the app remove,does the app ever erase,does the app erase,do you ever delete,do you delete,"
+     "do you ever remove,do you remove,do you ever erase,do you erase,could you ever delete,"
+     "could you ever remove,could you ever erase,could orlen ever delete,could orlen ever remove,"
+     "could orlen ever erase,could it ever delete,could it ever remove,could it ever erase,"
+     "could this program ever delete,could this program ever remove,could this program ever erase,"
+     "could this app ever delete,could this app ever remove,could this app ever erase,"
+     "could the program ever delete,could the program ever remove,could the program ever erase,"
+     "could the app ever delete,could the app ever remove,could the app ever erase,"
+     "are you going to delete,is orlen going to delete,is it going to delete,are you gonna delete"},
+    {Sense::reads,
+     "does it scan my,does it read my,does it look at my,does it look into my,does it look in my,"
+     "does it open my,does it access my,does it go through my,do you scan my,do you read my,"
+     "do you look at my,do you look into my,do you look in my,do you open my,do you access my,"
+     "do you go through my,does orlen scan my,does orlen read my,does orlen look at my,"
+     "does orlen look into my,does orlen look in my,does orlen open my,does orlen access my,"
+     "does orlen go through my,will it scan my,will it read my,will it look at my,will it look into my,"
+     "will it look in my,will it open my,will it access my,will it go through my,will you scan my,"
+     "will you read my,will you look at my,will you look into my,will you look in my,will you open my,"
+     "will you access my,will you go through my,does this program scan my,does this program read my,"
+     "does this program look at my,does this program look into my,does this program look in my,"
+     "does this program open my,does this program access my,does this program go through my,"
+     "does this app scan my,does this app read my,does this app look at my,does this app look into my,"
+     "does this app look in my,does this app open my,does this app access my,"
+     "does this app go through my,does the program scan my,does the program read my,"
+     "does the program look at my,does the program look into my,does the program look in my,"
+     "does the program open my,does the program access my,does the program go through my,can it read my,"
+     "can it see my,can it access my,can it open my,can orlen read my,can orlen see my,"
+     "can orlen access my,can orlen open my,can this program read my,can this program see my,"
+     "can this program access my,can this program open my,can this app read my,can this app see my,"
+     "can this app access my,can this app open my,does it see my,does orlen see my,is it reading my,"
+     "is orlen reading my,is it scanning my,is orlen scanning my,are you reading my,"
+     "does it scan private,does it read private,do you scan private,do you read private,"
+     "does orlen scan private,does orlen read private,will it scan private,will it read private,"
+     "will you scan private,will you read private,does this program scan private,"
+     "does this program read private,does this app scan private,does this app read private,"
+     "does the program scan private,does the program read private,can it read private,"
+     "can orlen read private,can this program read private,can this app read private,does it read,"
+     "does orlen read,do you read,can you read,can orlen read,does it scan,does orlen scan,do you scan"},
+    {Sense::lastUse,
+     "last time i used,the last time i used,last time i ran,the last time i ran,last time i opened,"
+     "the last time i opened,last time i started,the last time i started,last time i launched,"
+     "the last time i launched,last time i played,the last time i played,last time i worked with,"
+     "the last time i worked with,when did i last use,did i last use,i last use,when did i last run,"
+     "did i last run,i last run,when did i last open,did i last open,i last open,when did i last start,"
+     "did i last start,i last start,when did i last launch,did i last launch,i last launch,"
+     "when did i last play,did i last play,i last play,i last used,i last opened,i last ran,"
+     "last time i was using"},
+    {Sense::included,
+     "include,including,includes,if i include,when i include,if we include,if you include,if i add,"
+     "if i also include"},
     // Orlen itself, where it is asked what it does.
     {Sense::filler,
-     "somehow,anyhow,to run,to work,completely,totally,fully,another,with this program,with this app,with "
+     "a message,a message that,a message saying,a message that says,a warning,a warning that,a warning "
+     "saying,a warning that says,a popup,a popup that,a popup saying,a pop-up,a notification,a notification "
+     "that,an alert,an alert that,an error,an error that,an error saying,error message,error message "
+     "saying,keep getting,keeps telling me,ubuntu keeps telling me,linux keeps telling me,"
+     "system keeps telling me,the system keeps telling me,it keeps telling me,keeps saying,it keeps "
+     "saying,keeps warning me,tells me,tells me that,is telling "
+     "me,is telling me that,warns me,warns me that,system says,the system says,the system tells me,ubuntu "
+     "says,linux says,computer says,my computer says,my computer says that,laptop says,my laptop says,my pc "
+     "says,it says,says that,saying that"},
+    {Sense::filler,
+     "getting,hardly,barely,scarcely,somehow,anyhow,to run,to work,completely,totally,fully,another,with "
+     "this "
+     "program,with this app,with "
      "this tool,with this thing,with this software,in this "
      "program,in "
      "this "
@@ -59,7 +198,8 @@ constexpr WordRow kWords[] = {
     {Sense::installed, "installed,is installed,have installed,got installed"},
     {Sense::advise, "recommend,recommended,suggest,suggested,suggestion,suggestions,recommendation,"
                     "recommendations,advise,advice,start with,begin with,get started,should start,do "
-                    "first,best way,easiest way,what now,low-hanging fruit,quick wins,worth deleting,worth "
+                    "first,best way,easiest way,what now,start cleaning,start cleaning up,start "
+                    "tidying,start deleting,begin cleaning,low-hanging fruit,quick wins,worth deleting,worth "
                     "removing,what to do,what do i do,what do i do now,what should i do,what can i do,what "
                     "can i do about it,what to do now,what shall i do,do about it,tips,get it smaller"},
     {Sense::trust,
@@ -72,7 +212,7 @@ constexpr WordRow kWords[] = {
      "speed,graphics card,gpu,overheating,format,reformat,repartition,hack,hacked,virus "
      "scan,clone,benchmark,wifi password,volume up,bluetooth,printer,webcam,mouse pointer,temperature "
      "of,update linux,upgrade linux,install updates,bad sectors,disk health,smart "
-     "status,shred,encrypt,decrypt"},
+     "status,encrypt,decrypt"},
     {Sense::happens,
      "where do the deleted things go,where do deleted things go,where do the deleted files go,where do the "
      "deleted items go,does it stay in the trash,emptied automatically,where do deleted things go,where do "
@@ -80,7 +220,8 @@ constexpr WordRow kWords[] = {
      "go,where do my deleted files go,where do my files "
      "go,where do the files go,where does it all go,only trash,only trash them,just trash,what happens,what "
      "will happen,what would happen,happen,happens,where do they go,where does it go,where "
-     "do deleted files go,permanently,forever,for good,gone for good,for "
+     "do deleted files go,permanently,shred,shredding,shreds,securely delete,securely erase,secure "
+     "delete,secure erase,forever,for good,gone for good,for "
      "ever,irreversible,irrevocably,break,breaks,harm,hurt,damage,crash,break anything,break "
      "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
      "asking,automatically,without my permission,regret,lost,be lost,losing,gone,really gone,gone "
@@ -128,7 +269,7 @@ constexpr WordRow kWords[] = {
      "cent,percentage,%,asap,as soon as possible,urgently,in one go,in percent,faster way,portion of,part "
      "of,share of,proportion of,fraction of,percentage of,out of it,out of that,out of this,for an "
      "update,for the update,for an upgrade,for the upgrade,for updates,you found,that you found,found,did "
-     "you find,combined,in one,sum of,by any means,whatsoever,mean to,meant to,or so,or something,quickest "
+     "you find,combined,in one,by any means,whatsoever,mean to,meant to,or so,or something,quickest "
      "way,fastest way,fast way,good way,obviously,definitely,currently available,generally,kind "
      "sir,buddy,mate,dude,bro,man,friendo,computer wise,here and there,i wonder if,wondering if,if "
      "possible,going forward,marvelous,thank you very much,in advance,real quick,real fast,a "
@@ -161,7 +302,8 @@ constexpr WordRow kWords[] = {
                   "of,what else,are there,is there,do i have,have i got,any,got any,do you see,did you "
                   "find,show me,list all,show all,wheres,wich,wat,how come there are,have you found"},
     {Sense::howBig,
-     "how big,how large,how heavy,how huge,size of,the size,how much space do,how much space does,how much "
+     "total of,the total of,the sum of,sum of,total for,how big,how large,how heavy,how huge,size of,the "
+     "size,how much space do,how much space does,how much "
      "room do,how much room does,how much storage do,how much storage does,how much do,how much does,how "
      "many gb,how many gigabytes,how many gigs,how many mb,size,how much is in,how many bytes,weigh,how much "
      "space is taken by,how much space is used by,how much space are,big is,file size,total size of,how much "
@@ -178,8 +320,12 @@ constexpr WordRow kWords[] = {
      "up,reclaim,regain,gain,save,saved,freed,freeing,clear out,get back space,need to free,recover "
      "space,win,free some,make some room,make some space,more space,more room,get space,get more space,get "
      "more room,need space,need room,need more space,freeing up,need more room,create space,get rid of "
-     "stuff,tidy up,declutter,get some space,need some space,save space,saving space,spare up,frees,freed "
-     "up,space back,find space,get space back,some space back,i need,want more space,get rid of "
+     "stuff,tidy up,tidy,tidying,declutter,get some space,need some space,save space,saving space,spare "
+     "up,frees,freed "
+     "up,space back,get some space back,get some room back,get back some space,get back some room,get some "
+     "storage back,get some disk space back,get a bit of space back,get more space back,to free space,to "
+     "free some space,to free disk space,to free some disk space,to free room,to free storage,find space,get "
+     "space back,some space back,i need,want more space,get rid of "
      "things,smaller footprint,slim down,gain space,a way to get,want to free,want back,less "
      "full,emptier,lighten,way to get,need to find,must free,must make,want to make,have to free,have to "
      "make,room i could,gig back,gigs back,win back,claw back"},
@@ -390,9 +536,14 @@ constexpr SubjectRow kSubjects[] = {
      "images,virtual "
      "disk,virtual disks,vm disk,vm disks,virtualbox,gnome boxes,virtualbox vms,virtual box,qemu,android "
      "emulator,android emulators,emulators"},
-    {SubjectID::buildOutput, "build artifacts,build artefacts,build artifact,build output,build "
-                             "outputs,build folders,build directories,build "
-                             "leftovers,compiled files,compile output,target folders"},
+    {SubjectID::buildOutput,
+     "build artifacts,build artefacts,build artifact,build output,build "
+     "outputs,build folders,build directories,build "
+     "leftovers,compiled files,compile output,target folders,target dirs,target directories,build dirs,dist "
+     "folders,dist dirs,build products,compiler output,leftovers of builds,leftovers of building"},
+    {SubjectID::rawPhotos,
+     "raw,raws,raw file,raw files,raw photo,raw photos,raw picture,raw pictures,raw image,raw images,raw "
+     "shots,camera raw,camera raws,camera raw files,raw format,raw camera files"},
     {SubjectID::environments,
      "venv,venvs,virtualenv,virtualenvs,virtual environment,virtual environments,virtual envs,python "
      "environments,python venvs,python virtual environments"},
@@ -478,7 +629,7 @@ constexpr SubjectRow kSubjects[] = {
      "mp4s,mp4,mp4 files,mkv files,vid,screen recordings,mkvs,video recordings,home movies"},
     {SubjectID::photos,
      "photo,photos,picture,pictures,image,images,pic,pics,photographs,snapshots,shots,photograph,fotos,jpegs,"
-     "jpgs,raw files,raws,snaps of,photo files,image files,camera pictures,jpg files,jpeg,selfies"},
+     "jpgs,snaps of,photo files,image files,camera pictures,jpg files,jpeg,selfies"},
     {SubjectID::audio, "music,song,songs,audio,audio files,tracks,mp3s,sound files,albums,mp3,mp3 files,"
                        "music files,sounds"},
     {SubjectID::pdfs, "pdf,pdfs,pdf files,pdf documents,pdf file"},

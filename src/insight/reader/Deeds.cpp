@@ -1,0 +1,100 @@
+#include "insight/reader/Deeds.h"
+
+#include <cstddef>
+#include <iterator>
+#include <string>
+
+namespace orlen::AskReader {
+
+namespace {
+
+/// "How much would I get back if I deleted …" asks for no return.
+void mergeGain(Phrases& phrases)
+{
+    if ((has(phrases, Sense::howMuch) || has(phrases, Sense::howBig)) && has(phrases, Sense::undo) &&
+        has(phrases, Sense::remove))
+        rename(phrases, Sense::undo, Sense::makeRoom);
+}
+
+/// "What do I get back from deleting …": it is no place.
+void dropIdleInside(Phrases& phrases)
+{
+    constexpr SenseSet kDeeds{Sense::remove, Sense::makeRoom, Sense::cleanUp};
+    for (std::size_t i = 0; i + 1 < phrases.size();) {
+        if (phrases[i].sense == Sense::inside && kDeeds.has(phrases[i + 1].sense))
+            phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+        else
+            ++i;
+    }
+}
+
+/// "How much if I include Review": what is safe, and that too.
+void mergeIncluded(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOnTop{review, keep};
+    const auto rated =
+        std::ranges::find_if(phrases, [&](const Phrase& each) { return kOnTop.has(each.sense); });
+    if (!has(phrases, included) || rated == phrases.end())
+        return;
+    rename(phrases, included, makeRoom);
+    rated->isJoined = true;
+    if (!has(phrases, safe))
+        phrases.insert(rated, {safe, {}, nullptr, 0, {}});
+    if (!has(phrases, howMuch) && !has(phrases, howBig))
+        phrases.insert(phrases.begin(), {howMuch, {}, nullptr, 0, {}});
+}
+
+/// "Will you ever delete report.pdf" asks about the file.
+void mergeDeletes(Phrases& phrases)
+{
+    if (has(phrases, Sense::unknown) || has(phrases, Sense::quoted))
+        rename(phrases, Sense::deletes, Sense::remove);
+}
+
+/// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
+void mergeFreed(Phrases& phrases)
+{
+    using enum Sense;
+    const auto freedAt = std::ranges::find(phrases, freed, &Phrase::sense);
+    if (freedAt == phrases.end())
+        return;
+    freedAt->sense = cleanUp;
+    if (has(phrases, last) || has(phrases, when) || has(phrases, soFar) || has(phrases, unknown) ||
+        has(phrases, quoted))
+        return;
+    const bool isOfLast = has(phrases, what) && !has(phrases, period) && !has(phrases, total);
+    phrases.push_back({isOfLast ? last : soFar, {}, nullptr, 0, {}});
+}
+
+} // namespace
+
+void mergeDeeds(Phrases& phrases)
+{
+    dropIdleInside(phrases);
+    mergeIncluded(phrases);
+    mergeDeletes(phrases);
+    mergeFreed(phrases);
+    mergeGain(phrases);
+}
+
+void mergeMaking(Phrases& phrases)
+{
+    constexpr SenseSet kAlone{Sense::make, Sense::size, Sense::general, Sense::can};
+    const bool isAlone =
+        std::ranges::all_of(phrases, [&](const Phrase& each) { return kAlone.has(each.sense); });
+    const bool isOfRoom =
+        has(phrases, Sense::size) && (isAlone || has(phrases, Sense::free) || has(phrases, Sense::space));
+    if (isOfRoom)
+        rename(phrases, Sense::make, Sense::makeRoom);
+    else
+        drop(phrases, Sense::make);
+    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
+        // One word; "do I still have" asks.
+        const bool isVerb = phrases[i].sense == Sense::free && phrases[i].text.find(' ') == std::string::npos;
+        if (isVerb && phrases[i + 1].sense == Sense::size)
+            phrases[i].sense = Sense::makeRoom;
+    }
+}
+
+} // namespace orlen::AskReader

@@ -1,0 +1,189 @@
+#include "insight/reader/WouldGo.h"
+
+#include "insight/InsightTexts.h"
+#include "insight/InsightTextsWhatIf.h"
+#include "insight/reader/AskedName.h"
+#include "insight/reader/FindingLists.h"
+#include "insight/reader/HomeLists.h"
+#include "insight/reader/ListRequest.h"
+#include "insight/reader/LowerName.h"
+#include "insight/reader/NamedKinds.h"
+#include "insight/reader/Proposal.h"
+#include "insight/reader/SubjectReplies.h"
+#include "platform/text/PathText.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+
+namespace orlen::AskReader {
+
+namespace {
+
+bool isName(const Phrase& phrase)
+{
+    return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
+}
+
+constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
+
+bool addNamed(const Question& group, const AskContext& context, Things& things)
+{
+    const AskedName asked = nameIn(group);
+    if (asked.name.empty() || !asked.place.empty())
+        return false;
+    std::string name = asked.name;
+    if (const Phrase* const ending = group.first(Sense::ending);
+        ending != nullptr && !isFileName(group, name))
+        name += " " + ending->text;
+    Found found = ofKindNamed(group, context, name);
+    if (found.fit == Fit::none)
+        found = findNamed(context, name);
+    // "Linux mint" of "linuxmint-22.iso"
+    if (found.fit == Fit::none)
+        found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    if (found.fit == Fit::none && !found.hits.empty())
+        found.fit = Fit::part;
+    const bool isOne = found.hits.size() + found.measured.size() == 1;
+    if (found.fit < Fit::words && !(found.fit == Fit::part && isOne))
+        return false;
+    for (const Hit& hit : found.hits)
+        things.add(hit);
+    for (Measured& measured : found.measured) {
+        if (found.hits.empty())
+            things.each.push_back({std::move(measured.path), measured.bytes});
+    }
+    things.addName(Message::verbatim(PathText::forDisplay(name)));
+    return !found.hits.empty() || !found.measured.empty();
+}
+
+bool addRated(const Question& group, const AskContext& context, Things& things)
+{
+    const auto* const phrase =
+        std::ranges::find_if(group.phrases.data(), group.phrases.data() + group.phrases.size(),
+                             [](const Phrase& each) { return kRatings.has(each.sense); });
+    const Rating rating = phrase->sense == Sense::safe     ? Rating::safe
+                          : phrase->sense == Sense::review ? Rating::review
+                                                           : Rating::keep;
+    if (!group.hasNoKind())
+        return false;
+    for (const Hit& hit : choosable(context, rating, {}))
+        things.add(hit);
+    things.addName({InsightTexts::kEverythingRated, {{"rating", within(label(rating))}}});
+    return true;
+}
+
+/// Files of a kind, with all that the question says of them.
+bool addListed(const Question& group, const AskContext& context, Things& things)
+{
+    auto request = listRequestIn(group, context);
+    if (!request || request->areFolders || request->isOfScan || context.home == nullptr)
+        return false;
+    const bool isEverything = (request->subject == nullptr || request->subject->isAnyFile) &&
+                              request->ending.empty() && request->folder.empty() &&
+                              !group.senses.meets({Sense::size, Sense::period});
+    if (isEverything)
+        return false;
+    request->count = std::numeric_limits<std::int64_t>::max();
+    const auto list = filesFor(*request, *context.home);
+    if (!list)
+        return false;
+    things.each.reserve(things.each.size() + list->first.size());
+    for (const HomeFiles::Number file : list->first)
+        things.each.push_back({context.home->filePath(file), context.home->file(file).bytes});
+    things.addName(request->files);
+    return true;
+}
+
+} // namespace
+
+void Things::addName(Message name)
+{
+    if (std::ranges::find(names, name) == names.end())
+        names.push_back(std::move(name));
+}
+
+void Things::add(const Hit& hit)
+{
+    each.push_back({hit.entry->path, hit.entry->size});
+}
+
+void Things::keepOnce()
+{
+    std::ranges::sort(each, {}, [](const Stored& one) { return std::pair(one.path, -one.bytes); });
+    std::vector<Stored> kept;
+    for (Stored& one : each) {
+        if (kept.empty() || !PathText::isAtOrBelow(one.path, kept.back().path))
+            kept.push_back(std::move(one));
+    }
+    each = std::move(kept);
+}
+
+std::vector<std::vector<Phrase>> groupsIn(const Question& question)
+{
+    constexpr SenseSet kOfThings{Sense::subject, Sense::unknown, Sense::quoted, Sense::ending,
+                                 Sense::above,   Sense::below,   Sense::size,   Sense::before,
+                                 Sense::period,  Sense::inside,  Sense::folder, Sense::unopened};
+    const SenseSet ofThings = kOfThings.with(kRatings);
+    std::vector<std::vector<Phrase>> groups;
+    bool isNew = true;
+    const auto add = [&](const std::vector<Phrase>& phrases) {
+        for (const Phrase& phrase : phrases) {
+            const bool isNameable = isName(phrase) || phrase.subject != nullptr ||
+                                    phrase.sense == Sense::ending || kRatings.has(phrase.sense);
+            isNew = isNew || (phrase.isJoined && isNameable);
+            if (!ofThings.has(phrase.sense))
+                continue;
+            if (isNew)
+                groups.emplace_back();
+            isNew = false;
+            groups.back().push_back(phrase);
+        }
+    };
+    add(question.phrases);
+    // "Without the downloads" is what would be gone, if nothing else is.
+    if (groups.empty()) {
+        for (const Phrase& phrase : question.phrases)
+            add(phrase.excluded);
+    }
+    return groups;
+}
+
+bool addGroup(const Question& group, const AskContext& context, Things& things)
+{
+    if (std::ranges::any_of(group.phrases, isName))
+        return addNamed(group, context, things);
+    if (group.senses.meets(kRatings))
+        return addRated(group, context, things);
+    const Subject* const subject = group.subject();
+    if (subject == nullptr)
+        return false;
+    if (auto stored = storedOf(*subject, context)) {
+        std::ranges::move(*stored, std::back_inserter(things.each));
+        things.addName(subject->name);
+        return true;
+    }
+    const bool isOnly = group.phrases.size() == 1;
+    const std::string folder = folderOf(*subject);
+    if (const auto bytes = isOnly && !folder.empty() && subject->extensions.empty()
+                               ? folderSize(context, folder)
+                               : std::nullopt) {
+        things.each.push_back({folder, *bytes});
+        things.addName(Message::verbatim(tilde(folder)));
+        return true;
+    }
+    // What is recognised is counted as lists do.
+    const bool isOfHome = isRecognised(*subject) && context.home != nullptr;
+    if (isOnly && !isOfHome && subject->extensions.empty() && !subject->kinds.empty()) {
+        for (const Finding* const finding : findingsOf(*subject, context)) {
+            for (const FileEntry& entry : finding->items)
+                things.add({finding, &entry});
+        }
+        things.addName(subject->name);
+        return true;
+    }
+    return !subject->isProgram && addListed(group, context, things);
+}
+
+} // namespace orlen::AskReader
