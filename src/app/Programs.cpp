@@ -21,9 +21,19 @@ struct Found {
 
 KnownApp::Source source(const AppInfo& app)
 {
-    if (app.source == AppSource::flatpak)
+    switch (app.source) {
+    case AppSource::flatpak:
         return KnownApp::Source::flatpak;
-    return app.source == AppSource::snap ? KnownApp::Source::snap : KnownApp::Source::own;
+    case AppSource::snap:
+        return KnownApp::Source::snap;
+    case AppSource::removedFlatpak:
+        return KnownApp::Source::removed;
+    case AppSource::bundle:
+    case AppSource::appImage:
+    case AppSource::folder:
+        break;
+    }
+    return KnownApp::Source::own;
 }
 
 KnownApp known(AppInfo app)

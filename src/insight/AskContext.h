@@ -23,7 +23,12 @@ namespace orlen {
 
 /// An installed application, as answers speak of it.
 struct KnownApp {
-    enum class Source { own, flatpak, snap };
+    enum class Source {
+        own,
+        flatpak,
+        snap,
+        removed, ///< not installed any more; only its data is there
+    };
 
     std::string name;
     std::optional<std::int64_t> bytes; ///< with what it has stored; nothing until measured

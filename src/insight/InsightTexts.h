@@ -375,6 +375,8 @@ inline constexpr Text kLeftoversScreen =
     message("The Applications screen lists what removed applications left behind, and so does “orlen "
             "leftovers”.");
 inline constexpr Text kInstalled = message("Yes: {name} is installed.");
+inline constexpr Text kInstalledNoMore =
+    message("{name} is not installed any more; its data still takes {size}.");
 inline constexpr Text kSystemAdvice =
     // TRANSLATORS: “orlen advice” is a command.
     message(

@@ -270,6 +270,12 @@ std::optional<Answer> isInstalled(const Question& question, const AskContext& co
     if (named == nullptr || !context.apps || question.count(Sense::unknown) > 1)
         return std::nullopt;
     const Place name{"name", PathText::forDisplay(named->text)};
+    if (const KnownApp* const app = appCalled(context, named->text);
+        app != nullptr && app->source == KnownApp::Source::removed)
+        return Answer{AskText::sentences({Message{InsightTexts::kInstalledNoMore,
+                                                  {name, {"size", Bytes{app->bytes.value_or(0)}}}},
+                                          InsightTexts::kLeftoversScreen}),
+                      {}};
     if (const auto app = aboutApp(context, named->text))
         return Answer{AskText::sentences({Message{InsightTexts::kInstalled, {name}}, app->text}), {}};
     return Answer{Message{InsightTexts::kAppUnknown, {name}}, {}};
