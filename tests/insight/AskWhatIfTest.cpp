@@ -44,6 +44,8 @@ protected:
         add(FindingKind::trash, Rating::review, message("In the Trash."),
             {entry(".local/share/Trash/files/old.mov", 6 * kBytesInMB)});
         file("Pictures/Crete.RW2", 2);
+        file("Android/app/build/app.apk", 7);
+        home.file("Android/build.gradle", "x");
         context.home = HomeWalk::walk({});
     }
 
@@ -66,7 +68,7 @@ constexpr Row kWhatIf[] = {
     {"if I deleted everything rated Safe how much free space would I have afterwards",
      "everything rated Safe|24 MB more (4 items)|mint.iso", "ubuntu"},
     {"how much do i gain if i remove all build artifacts and venvs",
-     "14 MB more (3 items)|engine/target|node_modules|.venv", "site/target"},
+     "21 MB more (4 items)|engine/target|app/build|node_modules|.venv", "site/target"},
     {"how much would I free if I delete unicorns and mint.iso", "nothing called “unicorns”", "14 MB"},
     {"what would i get back from deleting the gradle stuff and the trash together",
      "13 MB more (3 items)|wrapper/dists|old.mov"},
@@ -82,7 +84,7 @@ constexpr Row kByPlace[] = {
     {"is there a virtual machine on this computer", "virtual machines there are 2, 8 MB|fedora|Testing"},
     {"how big are my wine prefixes", "2 MB|~/.wine"},
     {"raw files size", "RAW photos there is 1, 2 MB", "sea"},
-    {"total size of build artefacts and target dirs", "builds have made there are 2, 10 MB in all"},
+    {"total size of build artefacts and target dirs", "builds have made there are 3, 17 MB in all"},
     {"what is the total size of videos and isos",
      "Of videos there is 1|files ending in .iso there are 2|there are 3, 31 MB"},
     {"how big are my screenshots and duplicates together",

@@ -48,7 +48,13 @@ bool isBuildOutput(const HomeFiles& home, Number folder)
 {
     const std::string_view name = home.folderName(folder);
     return std::ranges::any_of(kBuildFolders, [&](const BuildFolder& each) {
-        return each.name == name && holdsFile(home, home.folder(folder).parent, each.beside);
+        if (each.name != name)
+            return false;
+        const Number beside = home.folder(folder).parent;
+        // The parts of a Gradle project need not hold a file for it.
+        const bool isOfPart = name == "build" && each.beside.starts_with("build.gradle");
+        return holdsFile(home, beside, each.beside) ||
+               (isOfPart && holdsFile(home, home.folder(beside).parent, each.beside));
     });
 }
 
