@@ -4,8 +4,14 @@
 
 #include <span>
 
-/// The tables of the languages that take several files; those of English stand in one.
+/// The tables of the languages: words for what is asked, words for measures, and kinds of things.
 namespace orlen::AskReader {
+
+namespace english_words {
+[[nodiscard]] std::span<const WordRow> asking();
+[[nodiscard]] std::span<const WordRow> measures();
+[[nodiscard]] std::span<const SubjectRow> subjects();
+} // namespace english_words
 
 namespace german_words {
 [[nodiscard]] std::span<const WordRow> asking();
