@@ -81,8 +81,7 @@ public:
             }
         }
         std::ranges::sort(m_found);
-        const auto rest = std::ranges::unique(m_found);
-        m_found.erase(rest.begin(), rest.end());
+        m_found.erase(std::unique(m_found.begin(), m_found.end()), m_found.end());
         return std::move(m_found);
     }
 
