@@ -101,6 +101,12 @@ bool Exclusions::leaveOut(std::string_view folder) const
                                [&](const std::string& each) { return PathText::isAtOrBelow(folder, each); });
 }
 
+std::string Exclusions::onlyFolder() const
+{
+    return m_names.size() == 1 && m_folders.size() == 1 && m_paths.empty() ? m_folders.front()
+                                                                           : std::string();
+}
+
 Message Exclusions::said() const
 {
     if (empty())
