@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <map>
 #include <string>
 #include <utility>
@@ -140,6 +141,25 @@ bool leavesOutWhat(const Question& question)
            question.senses.meets({makeRoom, howBig, remove, safe, keep, takes});
 }
 
+/// "Where did X go, and can I get it back": the second part is about what the first one names, and tells
+/// both. Nothing if the parts ask for something else; "can I delete X and get it back" is about what may
+/// come.
+std::optional<Question> backOfNamed(const std::vector<Question>& parts)
+{
+    constexpr SenseSet kOfReturn{undo, what, can, general, when};
+    if (parts.size() != 2 || !parts.back().senses.has(undo) || !parts.back().senses.isWithin(kOfReturn) ||
+        !parts.front().senses.meets({unknown, quoted}) ||
+        parts.front().senses.meets({remove, safe, keep, makeRoom, howMuch}))
+        return std::nullopt;
+    std::vector<Phrase> phrases = parts.back().phrases;
+    std::ranges::copy_if(parts.front().phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
+        return phrase.sense == unknown || phrase.sense == quoted;
+    });
+    Question one = withPhrases(parts.back(), std::move(phrases));
+    one.isBackward = false;
+    return one;
+}
+
 /// All parts answered, each after the one before it; nothing if one is not.
 std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
                              const Conversation& before)
@@ -167,6 +187,10 @@ std::optional<Turn> answered(const Question& question, const AskContext& context
         parts.front().senses.meets({makeRoom, remove}) &&
         (parts.back().senses.has(advise) || parts.front().senses.has(size)))
         parts.pop_back();
+    if (const std::optional<Question> back = backOfNamed(parts)) {
+        if (std::optional<Turn> found = answered(std::vector{*back}, context, before))
+            return found;
+    }
     if (areSeveral && parts.size() <= kMostParts) {
         if (std::optional<Turn> found = answered(parts, context, before))
             return found;
