@@ -168,6 +168,8 @@ constexpr Row kFolders[] = {
      "doesn't suggest"},
     {"wie groß ist der Musikordner", "~/Music takes 19 MB"},
     {"quanto è grande la cartella Tools", "~/Tools takes 999 KB"},
+    {"how many .git directories do i have", "no folders with “.git” in their names", "protected"},
+    {"files outside my home", "I don't know that"},
     {"how many node_modules folders are there",
      "folders with “node_modules” in their names there is 1, 2 MB"},
 };

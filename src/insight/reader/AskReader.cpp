@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <map>
 #include <string>
 #include <utility>
@@ -139,25 +138,6 @@ bool leavesOutWhat(const Question& question)
                              takes,   can,    remove,  safe,     keep, general};
     return question.senses.isWithin(kOfIt) &&
            question.senses.meets({makeRoom, howBig, remove, safe, keep, takes});
-}
-
-/// "Where did X go, and can I get it back": the second part is about what the first one names, and tells
-/// both. Nothing if the parts ask for something else; "can I delete X and get it back" is about what may
-/// come.
-std::optional<Question> backOfNamed(const std::vector<Question>& parts)
-{
-    constexpr SenseSet kOfReturn{undo, what, can, general, when};
-    if (parts.size() != 2 || !parts.back().senses.has(undo) || !parts.back().senses.isWithin(kOfReturn) ||
-        !parts.front().senses.meets({unknown, quoted}) ||
-        parts.front().senses.meets({remove, safe, keep, makeRoom, howMuch}))
-        return std::nullopt;
-    std::vector<Phrase> phrases = parts.back().phrases;
-    std::ranges::copy_if(parts.front().phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
-        return phrase.sense == unknown || phrase.sense == quoted;
-    });
-    Question one = withPhrases(parts.back(), std::move(phrases));
-    one.isBackward = false;
-    return one;
 }
 
 /// All parts answered, each after the one before it; nothing if one is not.

@@ -49,7 +49,8 @@ bool Exclusions::add(const Subject& subject)
 {
     const std::string folder = folderOf(subject);
     const bool isPlace = !folder.empty() && subject.extensions.empty();
-    if (!isPlace && subject.extensions.empty() && subject.kinds.empty())
+    // Nothing is known of what lies outside the home folder.
+    if (subject.id == SubjectID::home || (!isPlace && subject.extensions.empty() && subject.kinds.empty()))
         return false;
     if (isPlace)
         m_folders.push_back(folder);

@@ -41,11 +41,11 @@ std::optional<Answer> foldersNamed(const Question& question, const AskContext& c
         // What lies in one is part of it.
         each = isOne ? home.foldersFrom(each).last : each + 1;
     }
-    if (folders.empty())
-        return std::nullopt;
     std::ranges::stable_sort(folders, std::greater{}, [&](auto each) { return home.folder(each).bytes; });
     const Message files{InsightTexts::kFilesNamed,
                         {{"files", within(InsightTexts::kFolders)}, {"name", PathText::forDisplay(name)}}};
+    if (folders.empty())
+        return Answer{Message{InsightTexts::kNoFilesThere, {{"files", within(files)}}}, {}};
     std::vector<Message> lines{
         {InsightTexts::kFilesThere,
          {{"files", within(files)}, {"count", std::ssize(folders)}, {"size", Bytes{bytes}}}}};
