@@ -95,6 +95,7 @@ constexpr Row kBack[] = {
     {"undelete saw.txt", "neither in the Trash|~/Tools/saw.txt (999 KB) is still there"},
     {"if I delete saw.txt can I get it back", "saw.txt", "neither"},
     {"restore nothing.odt please", "“nothing.odt” is neither in the Trash nor in the history"},
+    {"where did my old-film.mp4 go and can i get it back", "old-film.mp4 (5 MB) is in the Trash", "clean-up"},
 };
 
 constexpr Row kThings[] = {
@@ -145,6 +146,10 @@ constexpr Row kFiles[] = {
     {"archivo más antiguo de la carpeta Downloads", "setup.deb", "garden"},
     {"cuántos archivos mp3 tengo", "I found no files ending in .mp3."},
     {"il file più recente nella cartella Downloads", "Floor plan (1).pdf", "garden"},
+    // A folder that is left out is no kind of file, and nobody takes what is left for all there is.
+    {"pdfs over 0.9 mb not in Documents", "Left out: ~/Documents|there is 1|Downloads/Floor plan (1).pdf"},
+    {"audio files over 5 mb not in Music", "in ~/Music there are 2|Left out: ~/Music", "found no"},
+    {"Audiodateien nicht im Musikordner", "in ~/Music there are 2|Left out: ~/Music"},
 };
 
 constexpr Row kFolders[] = {
@@ -163,6 +168,10 @@ constexpr Row kFolders[] = {
      "doesn't suggest"},
     {"wie groß ist der Musikordner", "~/Music takes 19 MB"},
     {"quanto è grande la cartella Tools", "~/Tools takes 999 KB"},
+    {"how many .git directories do i have", "no folders with “.git” in their names", "protected"},
+    {"files outside my home", "I don't know that"},
+    {"how many node_modules folders are there",
+     "folders with “node_modules” in their names there is 1, 2 MB"},
 };
 
 constexpr Row kNames[] = {
@@ -192,6 +201,11 @@ constexpr Row kNames[] = {
     {"c'est quoi Matinee.flac", "~/Music/Matinee.flac takes 9 MB"},
     {"puedo borrar garden plan.pdf", "~/Downloads/garden plan.pdf takes"},
     {"posso eliminare Lake house.mkv", "~/Videos/Lake house.mkv takes 11 MB"},
+    // A kind beside a name narrows it.
+    {"can I delete both engine pdfs", "no PDFs in ~/Projects/engine"},
+    {"if i delete both engine pdfs how much do i get back", "no PDFs in ~/Projects/engine", "8 MB"},
+    {"can i get rid of both engine and site in Projects", "Together they take 10 MB|engine|site"},
+    {"can I delete box.vdi", "box.vdi: disk of a virtual machine. |Look at it before you remove it"},
 };
 
 TEST_F(AskHomeTest, listsAndCountsOfAllFiles)

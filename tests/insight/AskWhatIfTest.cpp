@@ -101,6 +101,8 @@ constexpr Row kRecognised[] = {
     {"do I have duplicate photos",
      "found no similar photos|copies of photos the last scan lists 1|sea (1).jpg", "flac"},
     {"which files are duplicates", "sea (1).jpg|Identical to sea.jpg|a (1).flac"},
+    {"is it ok to remove sea.jpg or is it the only copy", "Identical to sea.jpg"},
+    {"did I download sea.jpg twice", "sea (1).jpg|Identical to sea.jpg"},
 };
 
 TEST_F(AskWhatIfTest, sumsOfWhatWouldGo)

@@ -167,6 +167,10 @@ std::optional<Turn> answered(const Question& question, const AskContext& context
         parts.front().senses.meets({makeRoom, remove}) &&
         (parts.back().senses.has(advise) || parts.front().senses.has(size)))
         parts.pop_back();
+    if (const std::optional<Question> back = backOfNamed(parts)) {
+        if (std::optional<Turn> found = answered(std::vector{*back}, context, before))
+            return found;
+    }
     if (areSeveral && parts.size() <= kMostParts) {
         if (std::optional<Turn> found = answered(parts, context, before))
             return found;

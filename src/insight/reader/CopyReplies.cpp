@@ -144,13 +144,35 @@ Lookalikes lookalikes(const HomeFiles& home, const Called& called)
 
 } // namespace
 
+namespace {
+
+/// "Duplicates", "twice"; null if the question asks for anything else. "Did I download it twice" is not about
+/// the folder.
+const Subject* copiesIn(const Question& question)
+{
+    const Subject* copies = nullptr;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.subject == nullptr)
+            continue;
+        const SubjectID id = phrase.subject->id;
+        const bool isDeed =
+            id == SubjectID::downloads && !question.senses.meets({Sense::inside, Sense::folder});
+        if (isDeed)
+            continue;
+        if (copies != nullptr || (id != SubjectID::duplicates && id != SubjectID::similarPhotos))
+            return nullptr;
+        copies = phrase.subject;
+    }
+    return copies;
+}
+
+} // namespace
+
 std::optional<Answer> aboutCopies(const Question& question, const AskContext& context)
 {
-    const Subject* const subject = question.subject();
     const AskedName asked = nameIn(question);
-    if (subject == nullptr || question.count(Sense::subject) > 1 || context.home == nullptr ||
-        (subject->id != SubjectID::duplicates && subject->id != SubjectID::similarPhotos) ||
-        asked.name.empty() || !asked.place.empty())
+    if (copiesIn(question) == nullptr || context.home == nullptr || asked.name.empty() ||
+        !asked.place.empty())
         return std::nullopt;
     const std::string name = PathText::forDisplay(asked.name);
     const Called called(question, asked.name);

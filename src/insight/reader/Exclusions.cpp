@@ -49,7 +49,8 @@ bool Exclusions::add(const Subject& subject)
 {
     const std::string folder = folderOf(subject);
     const bool isPlace = !folder.empty() && subject.extensions.empty();
-    if (!isPlace && subject.extensions.empty() && subject.kinds.empty())
+    // Nothing is known of what lies outside the home folder.
+    if (subject.id == SubjectID::home || (!isPlace && subject.extensions.empty() && subject.kinds.empty()))
         return false;
     if (isPlace)
         m_folders.push_back(folder);
@@ -99,6 +100,12 @@ bool Exclusions::leaveOut(std::string_view folder) const
 {
     return std::ranges::any_of(m_folders,
                                [&](const std::string& each) { return PathText::isAtOrBelow(folder, each); });
+}
+
+std::string Exclusions::onlyFolder() const
+{
+    return m_names.size() == 1 && m_folders.size() == 1 && m_paths.empty() ? m_folders.front()
+                                                                           : std::string();
 }
 
 Message Exclusions::said() const

@@ -27,6 +27,8 @@ public:
     /// Whether a folder is one of those left out, or in one.
     [[nodiscard]] bool leaveOut(std::string_view folder) const;
 
+    /// The folder that is left out, if nothing else is; else empty.
+    [[nodiscard]] std::string onlyFolder() const;
     /// "Left out: photos." Empty if nothing is.
     [[nodiscard]] Message said() const;
 

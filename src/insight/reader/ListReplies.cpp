@@ -4,6 +4,7 @@
 #include "insight/InsightTexts.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/HomeLists.h"
+#include "insight/reader/ListConditions.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/PathHits.h"
@@ -122,9 +123,42 @@ void addLink(Answer& answer, const Finding& finding)
         answer.findingIDs.emplace_back(finding.id());
 }
 
+/// What lies in the home folder; nothing if only the scan can tell.
+std::optional<HomeList> homeListFor(const ListRequest& request, const AskContext& context)
+{
+    if (context.home == nullptr || request.isOfScan)
+        return std::nullopt;
+    const bool isDated = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
+                         request.openedTo != TimePoint::max();
+    if (request.areFolders)
+        return isDated ? std::nullopt : foldersFor(request, *context.home);
+    return filesFor(request, *context.home);
+}
+
+/// Of a list that is empty: what there would be without what is left out, so that nobody takes it for all.
+std::vector<Message> nothingElse(const ListRequest& request, const AskContext& context)
+{
+    ListRequest all = request;
+    all.exclusions = {};
+    const auto list = homeListFor(all, context);
+    if (!list || list->count == 0)
+        return {sumOf(request, {})};
+    std::vector<Message> lines{sumOf(all, *list)};
+    all.folder = request.exclusions.onlyFolder();
+    if (!all.folder.empty() && request.folder.empty()) {
+        narrow(all, InsightTexts::kFilesIn, {{"folder", tilde(all.folder)}});
+        if (const auto inside = homeListFor(all, context))
+            lines.push_back(sumOf(all, *inside));
+    }
+    lines.push_back(request.exclusions.said());
+    return lines;
+}
+
 /// The sum of a list, its first lines, and how many more there are.
 Answer shownList(const ListRequest& request, const AskContext& context, const HomeList& list)
 {
+    if (list.count == 0 && !request.exclusions.empty())
+        return {AskText::lines(nothingElse(request, context)), {}};
     const HomeFiles& home = *context.home;
     Answer answer;
     for (const HomeFiles::Number number : list.first)
@@ -151,18 +185,6 @@ Answer shownList(const ListRequest& request, const AskContext& context, const Ho
         lines.emplace_back(InsightTexts::kSmallestLeftOut);
     answer.text = AskText::lines(std::move(lines));
     return answer;
-}
-
-/// What lies in the home folder; nothing if only the scan can tell.
-std::optional<HomeList> homeListFor(const ListRequest& request, const AskContext& context)
-{
-    if (context.home == nullptr || request.isOfScan)
-        return std::nullopt;
-    const bool isDated = request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
-                         request.openedTo != TimePoint::max();
-    if (request.areFolders)
-        return isDated ? std::nullopt : foldersFor(request, *context.home);
-    return filesFor(request, *context.home);
 }
 
 } // namespace
@@ -214,6 +236,8 @@ std::optional<Answer> countOfFiles(const Question& question, const AskContext& c
     const auto list = request ? homeListFor(*request, context) : std::nullopt;
     if (!list || (!request->words.empty() && list->count == 0))
         return std::nullopt;
+    if (list->count == 0 && !request->exclusions.empty())
+        return Answer{AskText::lines(nothingElse(*request, context)), {}};
     const Message left = context.home->isComplete() ? Message() : InsightTexts::kSmallestLeftOut;
     return Answer{AskText::lines({request->exclusions.said(), sumOf(*request, *list), left}), {}};
 }

@@ -75,6 +75,16 @@ void mergeNegation(Phrases& phrases)
         drop(phrases, Sense::negation);
 }
 
+/// "Audio files not in Music": the folder is left out, not what the word says of files.
+void meanPlace(Phrase& phrase)
+{
+    const Subject* const place = phrase.subject == nullptr || phrase.subject->folder.empty()
+                                     ? nullptr
+                                     : folderSubject(*phrase.subject);
+    if (place != nullptr)
+        phrase.subject = place;
+}
+
 /// "Besides photos and videos", "without the ones in Downloads": one phrase of what is left out. Where
 /// nothing nameable follows, the word only denies.
 void mergeExclusions(Phrases& phrases)
@@ -92,7 +102,8 @@ void mergeExclusions(Phrases& phrases)
             phrases[i].sense = Sense::except;
     }
     for (std::size_t i = 0; i < phrases.size(); ++i) {
-        if (phrases[i].sense != Sense::except || !phrases[i].excluded.empty())
+        const bool isOutside = phrases[i].sense == Sense::outside;
+        if ((!isOutside && phrases[i].sense != Sense::except) || !phrases[i].excluded.empty())
             continue;
         const auto from = std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1);
         const auto first =
@@ -104,7 +115,10 @@ void mergeExclusions(Phrases& phrases)
             continue;
         }
         Phrases excluded(std::make_move_iterator(first), std::make_move_iterator(last));
+        if (isOutside || first != from)
+            std::ranges::for_each(excluded, meanPlace);
         phrases.erase(from, last);
+        phrases[i].sense = Sense::except;
         phrases[i].excluded = std::move(excluded);
     }
 }

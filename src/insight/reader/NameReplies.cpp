@@ -7,6 +7,7 @@
 #include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NamedKinds.h"
+#include "insight/reader/NamedTogether.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Narrowing.h"
 #include "insight/reader/PlaceReplies.h"
@@ -172,6 +173,7 @@ Answer shielded(std::string_view guarded, const AskContext& context, Answer answ
 Found foundOrMachine(const Question& question, const AskContext& context, const std::string& name)
 {
     Found found = findNamed(context, name);
+    keepOfKind(found, question, context, name);
     if (found.fit >= Fit::words)
         return found;
     Found machine = machineNamed(question, context, name);
@@ -179,10 +181,11 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
 }
 
 /// What was not found by its name, by parts of paths and notes.
-void lookAtParts(Found& found, const AskContext& context, const std::string& name)
+void lookAtParts(Found& found, const Question& question, const AskContext& context, const std::string& name)
 {
     found.hits = holdingAll(context, wordsOfName(lowered(name)));
     found.fit = found.hits.empty() ? Fit::none : Fit::part;
+    keepOfKind(found, question, context, name);
 }
 
 /// What the question says more of than a name: that it is to be got back, a part of a program, or a kind.
@@ -232,7 +235,7 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     keepMeant(found, question, asked);
     narrowToSteam(found, question, context, name);
     if (found.fit == Fit::none)
-        lookAtParts(found, context, name);
+        lookAtParts(found, question, context, name);
     const std::string guarded = protectedPath(question, context, name);
     const std::string program = programNameIn(name).name;
     const bool isOfSize = program == name && asksSize(question);
@@ -279,7 +282,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     if (std::optional<Answer> sum = sumOfNamed(question, context))
         return sum;
     std::optional<Answer> answer = named(question, context);
-    const bool asksWhat = question.senses.has(Sense::what);
+    // Of what has no rating, it is the best reason there is.
+    constexpr SenseSet kToGo{Sense::remove, Sense::safe, Sense::keep, Sense::can, Sense::makeRoom};
+    const bool isUnrated = answer && answer->findingIDs.empty() && answer->paths.size() == 1 &&
+                           protectionOf(context, answer->paths.front()) == Protection::none;
+    const bool asksWhat = question.senses.has(Sense::what) || (isUnrated && question.senses.meets(kToGo));
     if (!answer || answer->paths.size() != 1 || (!asksWhat && asksSize(question)))
         return answer;
     const Message what = asksWhat ? whatItIs(answer->paths.front(), context)

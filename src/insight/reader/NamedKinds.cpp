@@ -1,14 +1,11 @@
 #include "insight/reader/NamedKinds.h"
 
-#include "insight/InsightTextsNames.h"
-#include "insight/reader/FoundReplies.h"
+#include "insight/reader/AskedName.h"
 #include "insight/reader/LowerName.h"
 #include "platform/text/PathText.h"
-#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <iterator>
 #include <memory>
@@ -86,46 +83,35 @@ void preferWords(Found& found, const Words& words)
     std::erase_if(found.measured, [&](const Measured& each) { return !isPlace(each); });
 }
 
-/// The phrases that are named together, apart from what stands behind an "and".
-std::vector<std::vector<Phrase>> groupsOf(const Question& question)
+/// What kind of files a question speaks of; empty if of none.
+IsOfKind kindIn(const Question& question)
 {
-    constexpr SenseSet kNaming{Sense::unknown, Sense::quoted, Sense::subject, Sense::ending};
-    std::vector<std::vector<Phrase>> groups;
-    for (const Phrase& phrase : question.phrases) {
-        if (!kNaming.has(phrase.sense))
-            continue;
-        if (groups.empty() || phrase.isJoined)
-            groups.emplace_back();
-        groups.back().push_back(phrase);
-    }
-    return groups;
+    if (const Phrase* const ending = question.first(Sense::ending))
+        return [text = ending->text](std::string_view path) { return isNamed(path, text); };
+    const Subject* const subject = question.subject();
+    const bool isKind =
+        subject != nullptr && !subject->isAnyFile && !subject->extensions.empty() && subject->kinds.empty();
+    if (!isKind)
+        return {};
+    // "The Mint image" is more likely that of a disk.
+    const bool mayBeDisk = subject->id == SubjectID::photos &&
+                           plainLetters(question.first(Sense::subject)->text).starts_with("image");
+    return [subject, mayBeDisk](std::string_view path) {
+        return hasExtensionOf(*subject, path) ||
+               (mayBeDisk && hasExtensionOf(subjectFor(SubjectID::diskImages), path));
+    };
 }
 
-std::string namedBy(const std::vector<Phrase>& phrases)
+/// Whether the word for a kind stands right behind a name: "linux isos".
+bool isKindBesideName(const Question& question)
 {
-    std::string name;
-    for (const Phrase& phrase : phrases) {
-        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
-            name += (name.empty() ? "" : " ") + phrase.text;
+    const std::vector<Phrase>& phrases = question.phrases;
+    for (std::size_t i = 1; i < phrases.size(); ++i) {
+        const bool isKind = phrases[i].sense == Sense::ending || phrases[i].sense == Sense::subject;
+        if (isKind && !phrases[i].isJoined && phrases[i - 1].sense == Sense::unknown)
+            return true;
     }
-    return name;
-}
-
-/// Adds the one that a group of phrases names; false if there is none or several.
-bool addNamed(Found& all, const Question& question, const AskContext& context,
-              const std::vector<Phrase>& phrases)
-{
-    const std::string name = namedBy(phrases);
-    if (name.empty())
-        return false;
-    Found found = ofKindNamed(withPhrases(question, phrases), context, name);
-    if (found.fit == Fit::none)
-        found = findNamed(context, name);
-    if (found.hits.size() + found.measured.size() != 1 || found.fit < Fit::words)
-        return false;
-    std::ranges::move(found.hits, std::back_inserter(all.hits));
-    std::ranges::move(found.measured, std::back_inserter(all.measured));
-    return true;
+    return false;
 }
 
 } // namespace
@@ -133,24 +119,41 @@ bool addNamed(Found& all, const Question& question, const AskContext& context,
 Found ofKindNamed(const Question& question, const AskContext& context, const std::string& name)
 {
     const Words words = wordsOfName(lowered(name));
-    const Phrase* const ending = question.first(Sense::ending);
-    const Subject* const subject = question.subject();
-    const bool isKind =
-        subject != nullptr && !subject->isAnyFile && !subject->extensions.empty() && subject->kinds.empty();
+    const IsOfKind isOfKind = kindIn(question);
     // A list with conditions is another question: "old tax documents".
     constexpr SenseSet kConditions{Sense::oldest, Sense::newest, Sense::biggest,  Sense::smallest,
                                    Sense::most,   Sense::period, Sense::size,     Sense::before,
                                    Sense::after,  Sense::since,  Sense::unopened, Sense::last,
                                    Sense::number, Sense::except, Sense::howMany,  Sense::hidden};
     if (question.senses.meets(kConditions) || words.empty() || name.find('/') != std::string::npos ||
-        (ending == nullptr && !isKind) || PathText::extension(name).size() > 1)
+        !isOfKind || PathText::extension(name).size() > 1)
         return {};
-    const IsOfKind isOfKind = [&](std::string_view path) {
-        return ending != nullptr ? isNamed(path, ending->text) : hasExtensionOf(*subject, path);
-    };
     Found found = withWords(context, words, isOfKind, Standing::parts);
     preferWords(found, words);
     return found;
+}
+
+void keepOfKind(Found& found, const Question& question, const AskContext& context, const std::string& name)
+{
+    const IsOfKind isOfKind = kindIn(question);
+    if (!isOfKind || context.home == nullptr || !isKindBesideName(question) || isFileName(question, name))
+        return;
+    const HomeFiles& home = *context.home;
+    const auto isOther = [&](const std::string& path) {
+        const auto folder = home.folderAt(path);
+        if (!folder)
+            return !isOfKind(path);
+        const HomeFiles::Range files = home.filesBelow(*folder);
+        for (HomeFiles::Number each = files.first; each < files.last; ++each) {
+            if (isOfKind(home.file(each).name))
+                return false;
+        }
+        return true;
+    };
+    std::erase_if(found.hits, [&](const Hit& hit) { return isOther(hit.entry->path); });
+    std::erase_if(found.measured, [&](const Measured& each) { return isOther(each.path); });
+    if (found.hits.empty() && found.measured.empty())
+        found.fit = Fit::none;
 }
 
 Found machineNamed(const Question& question, const AskContext& context, std::string_view name)
@@ -197,24 +200,6 @@ Found holdingWordsOf(const Question& question, const AskContext& context)
     const bool isTelling =
         words.size() >= kTelling || (words.size() == 2 && question.senses.has(Sense::unknown));
     return !isTelling ? Found() : withWords(context, words, [](std::string_view) { return true; });
-}
-
-std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context)
-{
-    if (!question.senses.meets({Sense::howMuch, Sense::howBig, Sense::remove, Sense::safe, Sense::keep}))
-        return std::nullopt;
-    const std::vector<std::vector<Phrase>> groups = groupsOf(question);
-    Found all;
-    if (groups.size() < 2 || !std::ranges::all_of(groups, [&](const std::vector<Phrase>& phrases) {
-            return addNamed(all, question, context, phrases);
-        }))
-        return std::nullopt;
-    std::int64_t bytes = 0;
-    for (const Hit& hit : all.hits)
-        bytes = checkedAdd(bytes, hit.entry->size);
-    for (const Measured& each : all.measured)
-        bytes = checkedAdd(bytes, each.bytes);
-    return listedBelow({InsightTexts::kTogether, {{"size", Bytes{bytes}}}}, context, all);
 }
 
 } // namespace orlen::AskReader

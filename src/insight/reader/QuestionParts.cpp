@@ -166,6 +166,22 @@ std::vector<Question> distributed(const Question& question)
     return each;
 }
 
+std::optional<Question> backOfNamed(const std::vector<Question>& parts)
+{
+    constexpr SenseSet kOfReturn{undo, what, can, general, when};
+    if (parts.size() != 2 || !parts.back().senses.has(undo) || !parts.back().senses.isWithin(kOfReturn) ||
+        !parts.front().senses.meets({unknown, quoted}) ||
+        parts.front().senses.meets({remove, safe, keep, makeRoom, howMuch}))
+        return std::nullopt;
+    std::vector<Phrase> phrases = parts.back().phrases;
+    std::ranges::copy_if(parts.front().phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
+        return phrase.sense == unknown || phrase.sense == quoted;
+    });
+    Question one = withPhrases(parts.back(), std::move(phrases));
+    one.isBackward = false;
+    return one;
+}
+
 Answer together(std::vector<Answer> answers)
 {
     if (answers.size() == 1)

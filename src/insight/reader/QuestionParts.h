@@ -22,4 +22,9 @@ namespace orlen::AskReader {
 /// One answer below the other.
 [[nodiscard]] Answer together(std::vector<Answer> answers);
 
+/// "Where did X go, and can I get it back": the second part is about what the first one names, and tells
+/// both. Nothing if the parts ask for something else; "can I delete X and get it back" is about what may
+/// come.
+[[nodiscard]] std::optional<Question> backOfNamed(const std::vector<Question>& parts);
+
 } // namespace orlen::AskReader

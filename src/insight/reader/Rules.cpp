@@ -6,6 +6,7 @@
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
+#include "insight/reader/NamedFolders.h"
 #include "insight/reader/ProgramReplies.h"
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
@@ -167,7 +168,7 @@ const std::vector<Rule>& rules()
         {{{soFar}}, kAsking.with({cleanUp, total, space, disk}), allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         {{{subject}, {unknown, quoted}},
-         {what, can, general, number, howMany, takes, inside, disk, folder, installed},
+         {what, can, general, number, howMany, takes, inside, disk, folder, installed, remove, safe, keep},
          aboutCopies},
         {{{unknown, general}, {subject, oldest, newest, disk}},
          {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
@@ -267,6 +268,7 @@ const std::vector<Rule>& rules()
         {{{ending}, {howMany, howBig, howMuch}}, kListing.with({ending}), countOfFiles},
         {{{ending}}, kListing.with({ending, newest}), listOfFiles},
         {{{howMany}, {subject}}, kListing, countOfFiles},
+        {{{howMany}, {folder}, {unknown, quoted}}, {what, general, disk}, foldersNamed},
         {{{folder, hidden}, {biggest, smallest, most, takes, size, howMany}},
          kListing.with({folder, hidden}),
          listOfFolders},

@@ -59,6 +59,7 @@ enum class Sense : std::uint8_t {
     since,
     negation,
     except,  ///< "besides", "other than": what is left out
+    outside, ///< "not in": the place that is left out
     lasts,   ///< "last", "suffice": of the space until some day
     speed,   ///< "how fast"
     opened,  ///< with a negation: not opened

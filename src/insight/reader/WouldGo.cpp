@@ -38,11 +38,15 @@ bool addNamed(const Question& group, const AskContext& context, Things& things)
         ending != nullptr && !isFileName(group, name))
         name += " " + ending->text;
     Found found = ofKindNamed(group, context, name);
-    if (found.fit == Fit::none)
+    if (found.fit == Fit::none) {
         found = findNamed(context, name);
+        keepOfKind(found, group, context, name);
+    }
     // "Linux mint" of "linuxmint-22.iso"
-    if (found.fit == Fit::none)
+    if (found.fit == Fit::none) {
         found.hits = holdingAll(context, wordsOfName(lowered(name)));
+        keepOfKind(found, group, context, name);
+    }
     if (found.fit == Fit::none && !found.hits.empty())
         found.fit = Fit::part;
     const bool isOne = found.hits.size() + found.measured.size() == 1;

@@ -210,7 +210,8 @@ constexpr WordRow kAsking[] = {
      "of,on,to,for,at,by,please,pls,plz,there,so,now,right "
      "now,currently,today,tell,show,list,give,find,see,look,looking,get,know,want,wondering,really,actually,"
      "about,some,all,much,many,here,then,too,ever,still,already,exactly,approximately,roughly,named,called,"
-     "orlen,with,if,their,than,i've,i'm,i'd,kind,kinds,type,types,sort,like,let,let's,display,name,as,well,"
+     "orlen,with,w/"
+     ",if,their,than,i've,i'm,i'd,kind,kinds,type,types,sort,like,let,let's,display,name,as,well,"
      "ok,okay,us,how,go,goes,going,lying around,sitting,stored,there's,quick,quickly,again,myself,can you "
      "tell me,can you show me,could you tell me,could you show me,do you know,i would like to know,i want to "
      "know,i wonder,curious,just curious,hmm,um,uh,oh,dear,kindly,gonna,wanna,want to,would like,i'd like "
@@ -253,11 +254,13 @@ constexpr WordRow kAsking[] = {
      "that arent,which arent,that isnt,which isnt,not a,not an,not being,that is no,thats no,that's "
      "no,except,except for,besides,beside,other than,apart from,aside from,excluding,exclude,but not,not "
      "counting,leaving out,leave out,ignoring,ignore,and not,minus,without,anything but,everything but,all "
-     "but,exempt,save for,not including,left out,with the exception of,outside of,barring,excepting,not "
-     "in,that aren't,that are not,which aren't,which are not,that isn't,not from,but leave,leaving out "
-     "my,without touching,without deleting,without removing,without losing,without moving,not touching,but "
+     "but,exempt,save for,not including,left out,with the exception of,barring,excepting,"
+     "that aren't,that are not,which aren't,which are not,that isn't,but leave,leaving out "
+     "my,w/o,sans,excl,without touching,without deleting,without removing,without losing,without moving,not "
+     "touching,but "
      "not touch,but don't touch,but dont touch,but no,and no,with no,but keep,but keep my,leave my,leave "
      "the,but ignore,but skip,just not,only not,instead of,not any"},
+    {Sense::outside, "outside of,outside,not in,not from,but not in,and not in"},
     {Sense::lasts,
      "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to last,be "
      "enough,still fit,run dry,make it to,make it until,make it till,get me to,get through to,make it "
@@ -309,7 +312,9 @@ constexpr WordRow kAsking[] = {
      "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
      "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
      "delete,leaves alone,never ever delete,stay away from,hands off,allowed to touch,may touch,can "
-     "touch,permitted to touch"},
+     "touch,permitted to touch,safe from you,safe from orlen,ever touched,ever touch,ever be touched,ever "
+     "get "
+     "touched"},
     {Sense::cleanUp,
      "went to the trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
      "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied"},

@@ -54,7 +54,7 @@ constexpr SubjectRow kSubjects[] = {
      "files,file duplicates,duplicate documents,duplicated,doubles,copies,files twice,file twice,twice,"
      "duplicate copies,redundant files,same file twice,more than once,multiple copies,dupes,redundant copies,"
      "identical,several times,a copy,copy of,copy of something,a copy of something,a duplicate of,dups,dup "
-     "files"},
+     "files,only copy,last copy,only one copy,just one copy"},
     {SubjectID::largeFiles, "large files,big files,huge files,large file,big file"},
     {SubjectID::oldFiles, "old files,unused files,forgotten files,old file,old stuff,old things"},
     {SubjectID::oldDownloads, "old downloads,forgotten downloads"},

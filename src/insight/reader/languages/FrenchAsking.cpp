@@ -121,13 +121,14 @@ constexpr WordRow kAsking[] = {
      "qui n est pas une,qui n est pas un,qui ne sont pas des,qui ne soit pas une,qui ne soit pas un,sauf,à "
      "part,hormis,excepté,à l exception de,à l exception des,à l exception du,en dehors de,en dehors des,en "
      "dehors du,mis à part,hors,autre que,autres que,autre chose que,sans,sans compter,mais pas,et "
-     "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,pas dans,en excluant,sans "
+     "pas,exclure,sans les,sans le,sans la,à l exclusion de,à l exclusion des,en excluant,sans "
      "toucher à,sans toucher aux,sans toucher,sans supprimer,sans effacer,sans perdre,mais sans,mais "
-     "laisse,laisse de côté,ni,à part les,sauf les,sauf le,sauf la,sauf dans,et sans,au lieu de,sauf "
-     "mes,sauf mon,sauf ma,sauf ceux dans,sauf celles dans,à part mes,à part mon,à part ma,hormis les,hormis "
+     "laisse,laisse de côté,ni,à part les,sauf les,sauf le,sauf la,et sans,au lieu de,sauf "
+     "mes,sauf mon,sauf ma,à part mes,à part mon,à part ma,hormis les,hormis "
      "mes,hormis le,excepté les,excepté mes,en dehors de mes,sans compter les,sans compter mes,sans mes,sans "
      "mon,sans ma,mais pas les,mais pas mes,mais pas le,pas les,mais garde,mais garde mes,pas ceux,pas "
      "celles,en laissant,laisse mes,laisser,si ce n est,plutôt que,sans inclure,ne pas compter,sans rien"},
+    {Sense::outside, "pas dans,sauf dans,sauf ceux dans,sauf celles dans"},
     {Sense::lasts, "tiendra,tient,tenir,suffit,suffira,suffire,suffisant,dure,durera,durer,va tenir,aurai "
                    "je,aura t on,y aura t il,aurons nous,tiendra t il,tiendra t on,ça tient,ça va tenir,vais "
                    "tenir,suffira t il,suffiront,suffisante,suffisants,tenir le coup,va suffire,assez "

@@ -118,12 +118,14 @@ constexpr WordRow kAsking[] = {
     {Sense::except,
      "das kein,die kein,die keine,der kein,was kein,was keine,außer,ausser,ausgenommen,abgesehen von,bis "
      "auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber keine,nur nicht,und "
-     "nicht,exklusive,außerhalb,außerhalb von,lass weg,neben,nur keine,nicht aus,nicht in,ohne "
+     "nicht,exklusive,lass weg,neben,nur keine,nicht aus,ohne "
      "anzufassen,ohne dass,ohne zu löschen,ausgenommen von,anstatt,und keine,abzüglich,ohne meine,mit "
-     "ausnahme,ohne die aus,weder,außer die,außer den,außer denen,außer in,außer meinen,außer meine,außer "
+     "ausnahme,ohne die aus,weder,außer die,außer den,außer denen,außer meinen,außer meine,außer "
      "der,nicht aber,lass die,ausgenommen die,ohne den,ohne das,ohne meinen,mit ausnahme meiner,aber "
-     "lass,lass meine,aber nicht die,aber nicht meine,aber nicht in,nicht zählen,nicht mitzählen,ohne "
+     "lass,lass meine,aber nicht die,aber nicht meine,nicht zählen,nicht mitzählen,ohne "
      "dabei,abgesehen vom"},
+    {Sense::outside,
+     "außerhalb,außerhalb von,außerhalb des,nicht in,nicht im,außer in,aber nicht in,aber nicht im"},
     {Sense::lasts,
      "reicht,reichen,reicht es,hält,halten,genügt,genügen,langt,langen,ausreichen,ausreicht,auskommen,komme "
      "aus,überlebt,durchhalten,reichts,reicht's,reicht der,reicht das,hälts,hält's,langts,langt's,haut "
