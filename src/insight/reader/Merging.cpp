@@ -16,8 +16,10 @@ namespace {
 void dropAside(Phrases& phrases)
 {
     using enum Sense;
-    const auto end =
-        std::find_if(phrases.begin(), phrases.end(), [](const Phrase& each) { return each.isJoined; });
+    const bool asksWhy = has(phrases, why) && has(phrases, full);
+    const auto end = std::find_if(phrases.begin(), phrases.end(), [&](const Phrase& each) {
+        return each.isJoined || (asksWhy && each.sense == when);
+    });
     SenseSet asked;
     SenseSet aside;
     for (auto each = phrases.begin(); each != phrases.end(); ++each)
@@ -27,7 +29,7 @@ void dropAside(Phrases& phrases)
     const bool isLament =
         asked.has(full) && asked.isWithin({full, what, disk, space, general}) && aside.has(size);
     constexpr SenseSet kAside{smallest, installed, period, last, number, size,  negation, general,
-                              subject,  disk,      newest, only, takes,  space, used};
+                              subject,  disk,      newest, only, takes,  space, used,     when};
     if ((isComplete || isLament) && aside.isWithin(kAside) &&
         aside.meets({smallest, installed, newest, size}))
         phrases.erase(end, phrases.end());
@@ -249,6 +251,47 @@ void mergePlaces(Phrases& phrases)
     }
 }
 
+/// "How many subfolders does Documents have": those in it.
+void placeCountedFolders(Phrases& phrases)
+{
+    for (std::size_t i = 1; i + 1 < phrases.size(); ++i) {
+        const Phrase& holder = phrases[i + 1];
+        const bool isHolder = holder.sense == Sense::unknown || holder.sense == Sense::quoted ||
+                              (holder.subject != nullptr && !holder.subject->folder.empty());
+        if (phrases[i].sense == Sense::folder && phrases[i - 1].sense == Sense::howMany && isHolder &&
+            !holder.isJoined)
+            phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
+                           Phrase{Sense::inside, {}, nullptr, 0, {}});
+    }
+}
+
+/// "I want to record 2 hours at 1.5 GB, will it fit": what is to come has a name that nothing has yet.
+void dropComingBefore(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfThings{remove,  howBig,   howMuch, howMany, above,  below,
+                                 biggest, smallest, oldest,  newest,  except, period};
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    const auto asked = std::find_if(phrases.rbegin(), phrases.rend(), [](const Phrase& each) {
+                           return each.isJoined;
+                       }).base();
+    if (wanted == phrases.end() || asked == phrases.begin())
+        return;
+    const auto clause = std::prev(asked);
+    const bool isOfRoom = std::all_of(clause, phrases.end(), [](const Phrase& each) {
+        return SenseSet{space, free, what, can, general, lasts, disk}.has(each.sense);
+    });
+    const bool asksRoom = std::any_of(
+        clause, phrases.end(), [](const Phrase& each) { return each.sense == space || each.sense == free; });
+    if (!isOfRoom || !asksRoom || wanted >= clause ||
+        std::ranges::count(phrases, Sense::size, &Phrase::sense) > 1 ||
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
+        return;
+    Phrases kept{*wanted};
+    kept.insert(kept.end(), clause, phrases.end());
+    phrases = std::move(kept);
+}
+
 void mergeNeighbours(Phrases& phrases)
 {
     for (std::size_t i = 0; i + 1 < phrases.size();) {
@@ -278,6 +321,8 @@ Question merged(const Question& question)
     dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
+    dropComingBefore(phrases);
+    placeCountedFolders(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

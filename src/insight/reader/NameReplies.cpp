@@ -276,8 +276,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
             return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
         }))
         return std::nullopt;
-    if (std::optional<Answer> sum = sumOfNamed(question, context))
+    const Question listed = withListedNames(question, context);
+    if (std::optional<Answer> sum = sumOfNamed(listed, context))
         return sum;
+    if (listed.count(Sense::unknown) > question.count(Sense::unknown))
+        return std::nullopt;
     std::optional<Answer> answer = named(question, context);
     const bool asksWhat = question.senses.has(Sense::what);
     if (!answer || answer->paths.size() != 1 || (!asksWhat && asksSize(question)))

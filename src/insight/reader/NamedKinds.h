@@ -22,6 +22,9 @@ namespace orlen::AskReader {
 /// "the backup from my old laptop", "old laptop backup.tar.gz".
 [[nodiscard]] Found holdingWordsOf(const Question& question, const AskContext& context);
 
+/// The question with words of a list of names as names, whatever else they say: "target, build, dist".
+[[nodiscard]] Question withListedNames(const Question& question, const AskContext& context);
+
 /// What several named files and folders take together; nothing unless the question asks for the size or
 /// the removal of at least two, and each is found.
 [[nodiscard]] std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context);
