@@ -24,6 +24,7 @@ constexpr Row kWhatMatters[] = {
     {"fastest way to get some space back", "You could free about"},
     {"which folder should i clean first", "You could free about"},
     {"why is / nearly full when my home is only 3 gigs", "120 GB is free|By category", "Yes."},
+    {"why is my disk so full if i only have 2 gb of photos", "120 GB is free|By category"},
     {"i want to record a 2 hour session at 130 gb, will it fit", "No.|120 GB is free"},
     {"what's the quickest way to get 1 gb without losing anything important", "To free 1 GB|Safe"},
     {"quickest way to get 1 GB back without touching my caches", "caches|1 GB", "App caches"},

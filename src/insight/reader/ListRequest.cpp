@@ -184,6 +184,9 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (!takeSubjects(question, request) || !takeFolder(question, context, request))
         return std::nullopt;
     request.areFolders = asksForFolders(question);
+    // "Files and folders" would be two lists.
+    if (request.areFolders && request.subject != nullptr && question.first(Sense::folder)->isJoined)
+        return std::nullopt;
     request.isHiddenOnly = question.senses.has(Sense::hidden);
     if (request.areFolders)
         request.files = InsightTexts::kFolders;

@@ -126,25 +126,6 @@ void mergeLeftAlone(Phrases& phrases)
     drop(phrases, Sense::inPeace);
 }
 
-/// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
-void dropComing(Phrases& phrases)
-{
-    using enum Sense;
-    constexpr SenseSet kOfThings{remove, howBig, howMuch, howMany, above, below, biggest};
-    const bool isOfRoom = has(phrases, makeRoom) || has(phrases, space) || has(phrases, free);
-    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
-    if (!isOfRoom || wanted == phrases.end() ||
-        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
-        return;
-    const auto isComing = [](const Phrase& each) {
-        return (each.sense == unknown || (each.subject != nullptr && each.subject->isProgram)) &&
-               !each.isJoined;
-    };
-    const auto from = std::next(wanted);
-    const auto to = std::find_if_not(from, phrases.end(), isComing);
-    phrases.erase(from, to);
-}
-
 bool isPhotos(const Subject& subject)
 {
     return subject.id == SubjectID::photos;
@@ -252,44 +233,21 @@ void mergePlaces(Phrases& phrases)
 }
 
 /// "How many subfolders does Documents have": those in it.
-void placeCountedFolders(Phrases& phrases)
+void placeCountedFolders(Phrases& phrases, bool isEnglish)
 {
     for (std::size_t i = 1; i + 1 < phrases.size(); ++i) {
         const Phrase& holder = phrases[i + 1];
         const bool isHolder = holder.sense == Sense::unknown || holder.sense == Sense::quoted ||
                               (holder.subject != nullptr && !holder.subject->folder.empty());
-        if (phrases[i].sense == Sense::folder && phrases[i - 1].sense == Sense::howMany && isHolder &&
-            !holder.isJoined)
+        // "How many files are videos" asks for the kind.
+        const bool isCalledSo =
+            isEnglish && !holder.text.empty() && holder.text.front() >= 'A' && holder.text.front() <= 'Z';
+        const bool areFiles = phrases[i].subject != nullptr && phrases[i].subject->isAnyFile && isCalledSo;
+        if ((phrases[i].sense == Sense::folder || areFiles) && phrases[i - 1].sense == Sense::howMany &&
+            isHolder && !holder.isJoined)
             phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
                            Phrase{Sense::inside, {}, nullptr, 0, {}});
     }
-}
-
-/// "I want to record 2 hours at 1.5 GB, will it fit": what is to come has a name that nothing has yet.
-void dropComingBefore(Phrases& phrases)
-{
-    using enum Sense;
-    constexpr SenseSet kOfThings{remove,  howBig,   howMuch, howMany, above,  below,
-                                 biggest, smallest, oldest,  newest,  except, period};
-    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
-    const auto asked = std::find_if(phrases.rbegin(), phrases.rend(), [](const Phrase& each) {
-                           return each.isJoined;
-                       }).base();
-    if (wanted == phrases.end() || asked == phrases.begin())
-        return;
-    const auto clause = std::prev(asked);
-    const bool isOfRoom = std::all_of(clause, phrases.end(), [](const Phrase& each) {
-        return SenseSet{space, free, what, can, general, lasts, disk}.has(each.sense);
-    });
-    const bool asksRoom = std::any_of(
-        clause, phrases.end(), [](const Phrase& each) { return each.sense == space || each.sense == free; });
-    if (!isOfRoom || !asksRoom || wanted >= clause ||
-        std::ranges::count(phrases, Sense::size, &Phrase::sense) > 1 ||
-        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
-        return;
-    Phrases kept{*wanted};
-    kept.insert(kept.end(), clause, phrases.end());
-    phrases = std::move(kept);
 }
 
 void mergeNeighbours(Phrases& phrases)
@@ -321,8 +279,7 @@ Question merged(const Question& question)
     dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
-    dropComingBefore(phrases);
-    placeCountedFolders(phrases);
+    placeCountedFolders(phrases, question.lexicon == Lexicon::all().data());
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);
