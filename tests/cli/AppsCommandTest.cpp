@@ -135,8 +135,7 @@ TEST(AppsCommandTest, questionsAboutApplicationsAreAnswered)
 {
     const InstalledHome home;
     EXPECT_THAT(orlen({"ask", "how big is Foo Qux"}).out, HasSubstr("The application Foo Qux takes"));
-    EXPECT_THAT(orlen({"ask", "which apps do I not use"}).out,
-                HasSubstr("application was last used"));
+    EXPECT_THAT(orlen({"ask", "which apps do I not use"}).out, HasSubstr("application was last used"));
     home.file(".local/share/gnome-shell/application_state",
               "<application-state><context id=''><application id='org.fooqux.Fooqux.desktop' "
               "last-seen='1577880000'/></context></application-state>");

@@ -68,6 +68,8 @@ constexpr Row kOfPrograms[] = {
     {"is the firefox cache safe", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
     {"is firefox taking a lot of space", "~/.cache/mozilla (1 GB) was moved to the Trash", ".mozilla is"},
     {"caches of my browser", "~/.cache/mozilla (1 GB) was moved to the Trash", "discord"},
+    {"did the last clean up remove anything from firefox", "~/.cache/mozilla — 1 GB"},
+    {"did the last clean up remove anything from discord", "I don't know that"},
     {"is minecraft safe to delete", "~/.minecraft takes"},
     {"my minecraft world", "~/.minecraft/saves takes"},
     {"how big are discords caches", "~/.config/discord/Cache"},
@@ -153,6 +155,10 @@ constexpr Row kFiles[] = {
 };
 
 constexpr Row kFolders[] = {
+    {"how many subfolders does Projects have", "Of folders in ~/Projects there are 2"},
+    {"how many files does Music have", "Of files in ~/Music there are 2"},
+    {"how many folders does Pictures have", "Of folders in ~/Pictures there is 1"},
+    {"largest thing modified since April 2026", ".backup.img (13 MB)", "The newest"},
     {"biggest folders", "Of folders there are|~/Music — 19 MB", "target"},
     {"three largest folders in Projects", "Of folders in ~/Projects there are 2|~/Projects/engine — 8 MB",
      "target"},

@@ -23,6 +23,11 @@ constexpr Row kWhatMatters[] = {
     {"I get a message that my disk is almost full, what should I do?", "120 GB is free|You could free"},
     {"fastest way to get some space back", "You could free about"},
     {"which folder should i clean first", "You could free about"},
+    {"why is / nearly full when my home is only 3 gigs", "120 GB is free|By category", "Yes."},
+    {"why is my disk so full if i only have 2 gb of photos", "120 GB is free|By category"},
+    {"i want to record a 2 hour session at 130 gb, will it fit", "No.|120 GB is free"},
+    {"what's the quickest way to get 1 gb without losing anything important", "To free 1 GB|Safe"},
+    {"quickest way to get 1 GB back without touching my caches", "caches|1 GB", "App caches"},
     {"what counts as spreadsheets", "ending in xlsx, xls, ods, csv, numbers."},
     {"'; DROP TABLE files; --", "I don't know that", "Safe"},
     {"is 67% full bad", "120 GB is free"},
@@ -49,6 +54,11 @@ constexpr Row kWhereElse[] = {
     {"last time i used blender", "last used on 10 January 2025"},
     {"when did i last use spotify", "When Spotify was last used has not been noted"},
     {"what is counted as System", "no other category counts"},
+    {"what is in the 'System' slice of the chart", "no other category counts"},
+    {"what does Review mean compared to Safe", "Safe:|Review:", "Keep:"},
+    {"diffrence between safe and keep", "Safe:|Keep:", "Review:"},
+    {"does Orlen use AI or a language model", "Nothing leaves this computer"},
+    {"what will you never ever touch", "never touches what is protected"},
 };
 
 constexpr Row kOtherLanguages[] = {

@@ -1,5 +1,6 @@
 #include "insight/reader/Deeds.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -67,6 +68,52 @@ void mergeFreed(Phrases& phrases)
     phrases.push_back({isOfLast ? last : soFar, {}, nullptr, 0, {}});
 }
 
+/// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
+void dropComingBehind(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfThings{remove, howBig, howMuch, howMany, above, below, biggest};
+    const bool isOfRoom = has(phrases, makeRoom) || has(phrases, space) || has(phrases, free);
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    if (!isOfRoom || wanted == phrases.end() ||
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
+        return;
+    const auto isComing = [](const Phrase& each) {
+        return (each.sense == unknown || (each.subject != nullptr && each.subject->isProgram)) &&
+               !each.isJoined;
+    };
+    const auto from = std::next(wanted);
+    const auto to = std::find_if_not(from, phrases.end(), isComing);
+    phrases.erase(from, to);
+}
+
+/// "I want to record 2 hours at 1.5 GB, will it fit": what is to come has a name that nothing has yet.
+void dropComingBefore(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kOfThings{remove,  howBig,   howMuch, howMany, above,  below,
+                                 biggest, smallest, oldest,  newest,  except, period};
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    const auto asked = std::find_if(phrases.rbegin(), phrases.rend(), [](const Phrase& each) {
+                           return each.isJoined;
+                       }).base();
+    if (wanted == phrases.end() || asked == phrases.begin())
+        return;
+    const auto clause = std::prev(asked);
+    const bool isOfRoom = std::all_of(clause, phrases.end(), [](const Phrase& each) {
+        return SenseSet{space, free, what, can, general, lasts, disk}.has(each.sense);
+    });
+    const bool asksRoom = std::any_of(
+        clause, phrases.end(), [](const Phrase& each) { return each.sense == space || each.sense == free; });
+    if (!isOfRoom || !asksRoom || wanted >= clause ||
+        std::ranges::count(phrases, Sense::size, &Phrase::sense) > 1 ||
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
+        return;
+    Phrases kept{*wanted};
+    kept.insert(kept.end(), clause, phrases.end());
+    phrases = std::move(kept);
+}
+
 } // namespace
 
 void mergeDeeds(Phrases& phrases)
@@ -95,6 +142,12 @@ void mergeMaking(Phrases& phrases)
         if (isVerb && phrases[i + 1].sense == Sense::size)
             phrases[i].sense = Sense::makeRoom;
     }
+}
+
+void dropComing(Phrases& phrases)
+{
+    dropComingBehind(phrases);
+    dropComingBefore(phrases);
 }
 
 } // namespace orlen::AskReader

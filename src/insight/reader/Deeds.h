@@ -34,4 +34,7 @@ void mergeDeeds(Phrases& phrases);
 /// "Make 5 GB of room", "free 5 GB": after what is compared is known.
 void mergeMaking(Phrases& phrases);
 
+/// Drops the names of what is to come: "room for a 12 GB backup".
+void dropComing(Phrases& phrases);
+
 } // namespace orlen::AskReader

@@ -95,8 +95,10 @@ std::optional<Answer> roomLater(const Question& question, const AskContext& cont
     return isLater ? fullWhen(question, context) : std::nullopt;
 }
 
-std::optional<Answer> paceOfGrowth(const Question& /*question*/, const AskContext& context)
+std::optional<Answer> paceOfGrowth(const Question& question, const AskContext& context)
 {
+    if (!question.hasNoKind())
+        return std::nullopt;
     return Answer{
         AskText::sentences({AskText::forecast(context.prediction), fastestGrowth(context.prediction)}), {}};
 }

@@ -23,6 +23,7 @@ namespace {
 struct Compared {
     ReadingPair pair;
     bool isOver = false;
+    bool isSinceFirst = false; ///< asked for longer ago than anything is known
 
     /// The dates as a message names them.
     [[nodiscard]] std::vector<Place> dates() const
@@ -30,6 +31,8 @@ struct Compared {
         if (isOver)
             return {{"first", ReadingPair::start(pair.before.date, pair.after.date)},
                     {"last", Moment{pair.after.date}}};
+        if (isSinceFirst)
+            return {{"date", Moment{pair.before.date}}};
         return {{"date", ReadingPair::start(pair.before.date, pair.after.date)}};
     }
 };
@@ -44,8 +47,9 @@ std::optional<ReadingPair> lately(const std::vector<FolderReading>& readings)
 std::optional<Compared> comparedIn(const Question& question, const AskContext& context)
 {
     const Phrase* const phrase = question.first(Sense::period);
-    const auto compared = [](const std::optional<ReadingPair>& pair, bool isOver) {
-        return pair ? std::optional(Compared{*pair, isOver}) : std::nullopt;
+    const auto compared = [phrase](const std::optional<ReadingPair>& pair, bool isOver) {
+        const bool isSinceFirst = phrase != nullptr && pair && phrase->period->from < pair->before.date;
+        return pair ? std::optional(Compared{*pair, isOver, isSinceFirst}) : std::nullopt;
     };
     if (phrase == nullptr)
         return compared(lately(context.folders), false);
@@ -66,6 +70,18 @@ std::string cacheFolder()
     return folders.empty() ? std::string() : folders.front();
 }
 
+/// The folder in which the sizes of the subject's files show; empty if there is none.
+std::string grownFolderOf(const Phrase& phrase)
+{
+    const Subject& subject = *phrase.subject;
+    const bool isSteam = PathText::asciiLower(phrase.text).find("steam") != std::string::npos;
+    if (subject.id == SubjectID::caches)
+        return cacheFolder();
+    const std::vector<std::string> steam =
+        isSteam ? Places::current().expand("{DATA}/Steam") : std::vector<std::string>();
+    return steam.empty() ? folderOf(subject) : steam.front();
+}
+
 /// The folder that the question is about; empty if it is about all. Nothing if it is about something else.
 std::optional<std::string> folderIn(const Question& question, const AskContext& context)
 {
@@ -75,7 +91,7 @@ std::optional<std::string> folderIn(const Question& question, const AskContext& 
             continue;
         std::string named;
         if (phrase.subject != nullptr) {
-            named = phrase.subject->id == SubjectID::caches ? cacheFolder() : folderOf(*phrase.subject);
+            named = grownFolderOf(phrase);
         } else if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted) {
             named = folderNamed(context, phrase.text);
         } else {

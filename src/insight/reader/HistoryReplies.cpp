@@ -2,7 +2,12 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/AskedName.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/ProgramNames.h"
+#include "insight/reader/ProgramPlaces.h"
+#include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
@@ -59,10 +64,9 @@ Answer cleanUpsIn(const Span& span, const std::vector<CleanRecord>& history)
 }
 
 /// The largest things that it moved.
-std::vector<Message> itemsOf(const CleanRecord& record)
+std::vector<Message> linesFor(std::vector<TrashedItem> items)
 {
     constexpr std::size_t kShown = 5;
-    std::vector<TrashedItem> items = record.items;
     std::ranges::stable_sort(items, std::greater{}, &TrashedItem::size);
     std::vector<Message> lines;
     for (const TrashedItem& item : std::span(items).first(std::min(items.size(), kShown)))
@@ -103,7 +107,31 @@ std::optional<Answer> lastCleanUp(const Question& question, const AskContext& co
         return Answer{InsightTexts::kNoCleanUp, {}};
     std::vector<Message> lines{lastCleanUpOf(context.history)};
     if (question.senses.meets({Sense::what, Sense::howMany}))
-        std::ranges::move(itemsOf(context.history.front()), std::back_inserter(lines));
+        std::ranges::move(linesFor(context.history.front().items), std::back_inserter(lines));
+    lines.emplace_back(InsightTexts::kHowToRestore);
+    return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+std::optional<Answer> lastCleanUpFrom(const Question& question, const AskContext& context)
+{
+    const auto isKind = [](const Phrase& phrase) {
+        return phrase.subject != nullptr && !phrase.subject->isAnyFile;
+    };
+    const AskedName asked = nameIn(question);
+    if (context.history.empty() || asked.name.empty() || !asked.place.empty() ||
+        std::ranges::any_of(question.phrases, isKind))
+        return std::nullopt;
+    const ProgramName program = programNameIn(asked.name);
+    const std::string name = lowered(asked.name);
+    std::vector<TrashedItem> items = context.history.front().items;
+    std::erase_if(items, [&](const TrashedItem& item) {
+        return !isPlaceOf(item.original, program) &&
+               !holdsWord(lowered(PathText::lastComponent(item.original)), name);
+    });
+    if (items.empty())
+        return std::nullopt;
+    std::vector<Message> lines{lastCleanUpOf(context.history)};
+    std::ranges::move(linesFor(std::move(items)), std::back_inserter(lines));
     lines.emplace_back(InsightTexts::kHowToRestore);
     return Answer{AskText::lines(std::move(lines)), {}};
 }

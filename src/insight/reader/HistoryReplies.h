@@ -16,6 +16,9 @@ namespace orlen::AskReader {
 /// When the last one was and what it moved.
 [[nodiscard]] std::optional<Answer> lastCleanUp(const Question& question, const AskContext& context);
 
+/// What the last one moved of a program or of what has a name; nothing if there was nothing of it.
+[[nodiscard]] std::optional<Answer> lastCleanUpFrom(const Question& question, const AskContext& context);
+
 /// How many there were and what they moved in all.
 [[nodiscard]] std::optional<Answer> allCleanUps(const Question& question, const AskContext& context);
 

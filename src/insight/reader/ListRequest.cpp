@@ -22,6 +22,12 @@ constexpr std::int64_t kMostShown = 20;
 
 Order orderIn(const Question& question)
 {
+    // "The largest thing changed since May": the date says which, the other word in what order.
+    const bool isDated = question.senses.has(Sense::period);
+    if (isDated && question.senses.has(Sense::biggest))
+        return Order::biggest;
+    if (isDated && question.senses.has(Sense::smallest))
+        return Order::smallest;
     if (question.senses.has(Sense::oldest))
         return Order::oldest;
     // "What is new that takes space"
@@ -102,17 +108,19 @@ bool asksForOne(const Question& question)
 }
 
 /// Of some kinds, programs and the system have many files that nobody means.
-bool isOfOwnFiles(const ListRequest& request)
+bool isOfOwnFiles(const Question& question, const ListRequest& request)
 {
     using enum SubjectID;
     constexpr SubjectID kKinds[] = {videos,       photos,        rawPhotos, audio,    pdfs,
                                     spreadsheets, presentations, ebooks,    documents};
+    const bool isBySize = question.senses.meets({Sense::biggest, Sense::smallest}) &&
+                          (request.order == Order::biggest || request.order == Order::smallest);
     const bool isByDate = request.order == Order::newest || request.order == Order::oldest ||
                           request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
                           request.openedTo != TimePoint::max();
     const bool isOfKind = request.subject != nullptr && request.ending.empty() &&
                           std::ranges::find(kKinds, request.subject->id) != std::end(kKinds);
-    return !request.isHiddenOnly && (isByDate || isOfKind);
+    return !request.isHiddenOnly && ((isByDate && !isBySize) || isOfKind);
 }
 
 /// "Safe files", "everything rated Keep". False if a rating is named in another way.
@@ -164,6 +172,10 @@ bool isOfScan(const Question& question, const ListRequest& request)
 std::optional<ListRequest> listRequestIn(const Question& question, const AskContext& context)
 {
     ListRequest request;
+    // "The biggest new files": nobody knows which are new.
+    if (question.senses.has(Sense::newest) && question.senses.meets({Sense::biggest, Sense::smallest}) &&
+        !question.senses.has(Sense::period))
+        return std::nullopt;
     request.order = orderIn(question);
     if (auto exclusions = Exclusions::of(question, context))
         request.exclusions = *std::move(exclusions);
@@ -172,6 +184,9 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
     if (!takeSubjects(question, request) || !takeFolder(question, context, request))
         return std::nullopt;
     request.areFolders = asksForFolders(question);
+    // "Files and folders" would be two lists.
+    if (request.areFolders && request.subject != nullptr && question.first(Sense::folder)->isJoined)
+        return std::nullopt;
     request.isHiddenOnly = question.senses.has(Sense::hidden);
     if (request.areFolders)
         request.files = InsightTexts::kFolders;
@@ -193,7 +208,7 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         !request.exclusions.needsFindings())
         takeRecognised(request, context);
     request.isOfScan = isOfScan(question, request);
-    request.isOwnOnly = isOfOwnFiles(request);
+    request.isOwnOnly = isOfOwnFiles(question, request);
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
     else if (asksForOne(question))

@@ -16,8 +16,10 @@ namespace {
 void dropAside(Phrases& phrases)
 {
     using enum Sense;
-    const auto end =
-        std::find_if(phrases.begin(), phrases.end(), [](const Phrase& each) { return each.isJoined; });
+    const bool asksWhy = has(phrases, why) && has(phrases, full);
+    const auto end = std::find_if(phrases.begin(), phrases.end(), [&](const Phrase& each) {
+        return each.isJoined || (asksWhy && each.sense == when);
+    });
     SenseSet asked;
     SenseSet aside;
     for (auto each = phrases.begin(); each != phrases.end(); ++each)
@@ -27,7 +29,7 @@ void dropAside(Phrases& phrases)
     const bool isLament =
         asked.has(full) && asked.isWithin({full, what, disk, space, general}) && aside.has(size);
     constexpr SenseSet kAside{smallest, installed, period, last, number, size,  negation, general,
-                              subject,  disk,      newest, only, takes,  space, used};
+                              subject,  disk,      newest, only, takes,  space, used,     when};
     if ((isComplete || isLament) && aside.isWithin(kAside) &&
         aside.meets({smallest, installed, newest, size}))
         phrases.erase(end, phrases.end());
@@ -138,25 +140,6 @@ void mergeLeftAlone(Phrases& phrases)
     drop(phrases, Sense::inPeace);
 }
 
-/// "Room for a 12 GB backup": what is to come has a name that nothing has yet.
-void dropComing(Phrases& phrases)
-{
-    using enum Sense;
-    constexpr SenseSet kOfThings{remove, howBig, howMuch, howMany, above, below, biggest};
-    const bool isOfRoom = has(phrases, makeRoom) || has(phrases, space) || has(phrases, free);
-    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
-    if (!isOfRoom || wanted == phrases.end() ||
-        std::ranges::any_of(phrases, [&](const Phrase& each) { return kOfThings.has(each.sense); }))
-        return;
-    const auto isComing = [](const Phrase& each) {
-        return (each.sense == unknown || (each.subject != nullptr && each.subject->isProgram)) &&
-               !each.isJoined;
-    };
-    const auto from = std::next(wanted);
-    const auto to = std::find_if_not(from, phrases.end(), isComing);
-    phrases.erase(from, to);
-}
-
 bool isPhotos(const Subject& subject)
 {
     return subject.id == SubjectID::photos;
@@ -263,6 +246,24 @@ void mergePlaces(Phrases& phrases)
     }
 }
 
+/// "How many subfolders does Documents have": those in it.
+void placeCountedFolders(Phrases& phrases, bool isEnglish)
+{
+    for (std::size_t i = 1; i + 1 < phrases.size(); ++i) {
+        const Phrase& holder = phrases[i + 1];
+        const bool isHolder = holder.sense == Sense::unknown || holder.sense == Sense::quoted ||
+                              (holder.subject != nullptr && !holder.subject->folder.empty());
+        // "How many files are videos" asks for the kind.
+        const bool isCalledSo =
+            isEnglish && !holder.text.empty() && holder.text.front() >= 'A' && holder.text.front() <= 'Z';
+        const bool areFiles = phrases[i].subject != nullptr && phrases[i].subject->isAnyFile && isCalledSo;
+        if ((phrases[i].sense == Sense::folder || areFiles) && phrases[i - 1].sense == Sense::howMany &&
+            isHolder && !holder.isJoined)
+            phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
+                           Phrase{Sense::inside, {}, nullptr, 0, {}});
+    }
+}
+
 void mergeNeighbours(Phrases& phrases)
 {
     for (std::size_t i = 0; i + 1 < phrases.size();) {
@@ -292,6 +293,7 @@ Question merged(const Question& question)
     dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
+    placeCountedFolders(phrases, question.lexicon == Lexicon::all().data());
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

@@ -279,8 +279,11 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
             return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
         }))
         return std::nullopt;
-    if (std::optional<Answer> sum = sumOfNamed(question, context))
+    const Question listed = withListedNames(question, context);
+    if (std::optional<Answer> sum = sumOfNamed(listed, context))
         return sum;
+    if (listed.count(Sense::unknown) > question.count(Sense::unknown))
+        return std::nullopt;
     std::optional<Answer> answer = named(question, context);
     // Of what has no rating, it is the best reason there is.
     constexpr SenseSet kToGo{Sense::remove, Sense::safe, Sense::keep, Sense::can, Sense::makeRoom};

@@ -2,6 +2,7 @@
 
 #include "insight/reader/AskedName.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
@@ -200,6 +201,23 @@ Found holdingWordsOf(const Question& question, const AskContext& context)
     const bool isTelling =
         words.size() >= kTelling || (words.size() == 2 && question.senses.has(Sense::unknown));
     return !isTelling ? Found() : withWords(context, words, [](std::string_view) { return true; });
+}
+
+Question withListedNames(const Question& question, const AskContext& context)
+{
+    const auto isName = [](const Phrase& phrase) {
+        return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
+    };
+    std::vector<Phrase> phrases = question.phrases;
+    for (std::size_t i = 0; i < phrases.size(); ++i) {
+        const bool isAfterName = i > 0 && phrases[i].isJoined && isName(phrases[i - 1]);
+        const bool isBeforeName = i + 1 < phrases.size() && phrases[i + 1].isJoined && isName(phrases[i + 1]);
+        const bool isInList = isAfterName && isBeforeName;
+        if (phrases[i].sense == Sense::general && (isAfterName || isBeforeName) &&
+            (isInList || !folderNamed(context, phrases[i].text).empty()))
+            phrases[i].sense = Sense::unknown;
+    }
+    return withPhrases(question, std::move(phrases));
 }
 
 } // namespace orlen::AskReader

@@ -25,4 +25,7 @@ void keepOfKind(Found& found, const Question& question, const AskContext& contex
 /// "the backup from my old laptop", "old laptop backup.tar.gz".
 [[nodiscard]] Found holdingWordsOf(const Question& question, const AskContext& context);
 
+/// The question with words of a list of names as names, whatever else they say: "target, build, dist".
+[[nodiscard]] Question withListedNames(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

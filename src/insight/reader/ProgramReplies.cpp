@@ -256,7 +256,7 @@ std::optional<Answer> aboutPrograms(const Question& question, const AskContext& 
     case SubjectID::wine:
     case SubjectID::buildOutput:
     case SubjectID::environments:
-        return listOfStored(*found->subject, context);
+        return listOfStored(question, *found->subject, context);
     default:
         // Any other program is one of the applications.
         return question.count(Sense::subject) > 1 ? std::nullopt : apps(question, context);

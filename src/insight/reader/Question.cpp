@@ -198,7 +198,12 @@ private:
     /// The longest phrase of at least so many words.
     bool takeKnown(std::size_t least)
     {
-        for (std::size_t count = std::min(Lexicon::kLongestPhrase, rest().size()); count >= least; --count) {
+        // No phrase goes on behind a comma.
+        std::size_t most = 1;
+        while (most < std::min(Lexicon::kLongestPhrase, rest().size()) &&
+               !m_words[m_at + most - 1].endsClause)
+            ++most;
+        for (std::size_t count = most; count >= least; --count) {
             std::string phrase = m_plain[m_at];
             for (const std::string& word : rest().subspan(1, count - 1))
                 phrase += " " + word;

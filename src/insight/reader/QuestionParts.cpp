@@ -8,6 +8,7 @@
 #include <iterator>
 #include <optional>
 #include <utility>
+#include <variant>
 
 namespace orlen::AskReader {
 
@@ -74,6 +75,18 @@ std::vector<PhraseRange> alikeIn(const std::vector<Phrase>& phrases)
         i = isThing ? thing.to : i + 1;
     }
     return run;
+}
+
+/// Whether all that one message says is said by another.
+bool isSaidIn(const Message& all, const Message& part)
+{
+    const auto holds = [&](const Place& place) {
+        const auto* const several = std::get_if<Several>(&place.value);
+        return several != nullptr && std::ranges::any_of(several->messages, [&](const Message& each) {
+                   return isSaidIn(each, part);
+               });
+    };
+    return all == part || (all.text.empty() && std::ranges::any_of(all.places, holds));
 }
 
 } // namespace
@@ -144,6 +157,10 @@ std::vector<Question> distributed(const Question& question)
     constexpr SenseSet kGone{remove, makeRoom};
     if (question.senses.meets({howMuch, howBig}) && question.senses.meets(kGone))
         return {question};
+    // "Would clearing the npm and pip caches get me 1 GB"
+    if (question.senses.meets({remove, makeRoom, cleanUp}) && question.senses.has(size) &&
+        !question.senses.meets({above, below}))
+        return {question};
     const auto isFinding = [](const Phrase& phrase) {
         return phrase.subject == nullptr || !phrase.subject->kinds.empty();
     };
@@ -190,7 +207,8 @@ Answer together(std::vector<Answer> answers)
     std::vector<Message> texts;
     for (Answer& answer : answers) {
         // "What is it, and do I need it?" is answered at once.
-        if (std::ranges::find(texts, answer.text) == texts.end())
+        std::erase_if(texts, [&](const Message& each) { return isSaidIn(answer.text, each); });
+        if (std::ranges::none_of(texts, [&](const Message& each) { return isSaidIn(each, answer.text); }))
             texts.push_back(std::move(answer.text));
         for (std::string& id : answer.findingIDs) {
             if (std::ranges::find(all.findingIDs, id) == all.findingIDs.end())

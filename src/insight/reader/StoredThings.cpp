@@ -185,10 +185,11 @@ std::optional<std::vector<Stored>> storedOf(const Subject& subject, const AskCon
     return found;
 }
 
-std::optional<Answer> listOfStored(const Subject& subject, const AskContext& context)
+std::optional<Answer> listOfStored(const Question& question, const Subject& subject,
+                                   const AskContext& context)
 {
     constexpr std::size_t kShown = 5;
-    const auto found = storedOf(subject, context);
+    auto found = storedOf(subject, context);
     if (!found)
         return std::nullopt;
     const Place files{"files", within(subject.name)};
@@ -198,8 +199,13 @@ std::optional<Answer> listOfStored(const Subject& subject, const AskContext& con
     std::int64_t bytes = 0;
     for (const Stored& each : *found)
         bytes = checkedAdd(bytes, each.bytes);
-    std::vector<Message> lines{
-        {InsightTexts::kFilesThere, {files, {"count", std::ssize(*found)}, {"size", Bytes{bytes}}}}};
+    const bool isSmallest = question.senses.has(Sense::smallest);
+    if (isSmallest)
+        std::ranges::stable_sort(*found, {}, &Stored::bytes);
+    const Message heading = isSmallest && found->size() > 1 ? InsightTexts::kTheSmallest : Message();
+    std::vector<Message> lines{AskText::sentences(
+        {Message{InsightTexts::kFilesThere, {files, {"count", std::ssize(*found)}, {"size", Bytes{bytes}}}},
+         heading})};
     for (const Stored& each : std::span(*found).first(std::min(found->size(), kShown)))
         answer.paths.push_back(each.path);
     const std::vector<Hit> hits = hitsAround(answer.paths, context);

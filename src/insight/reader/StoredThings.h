@@ -24,7 +24,8 @@ struct Stored {
 [[nodiscard]] std::optional<std::vector<Stored>> storedOf(const Subject& subject, const AskContext& context);
 
 /// How many there are, what they take, and the largest.
-[[nodiscard]] std::optional<Answer> listOfStored(const Subject& subject, const AskContext& context);
+[[nodiscard]] std::optional<Answer> listOfStored(const Question& question, const Subject& subject,
+                                                 const AskContext& context);
 
 /// What a list begins with.
 enum class Sizes { biggest, smallest };

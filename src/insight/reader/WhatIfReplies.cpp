@@ -103,6 +103,40 @@ std::optional<Answer> freedByThem(const Question& question, const AskContext& co
     return said(std::move(things), context);
 }
 
+std::optional<Answer> isThatMuch(const Question& question, const AskContext& context)
+{
+    constexpr SenseSet kOfThings{Sense::subject, Sense::unknown, Sense::quoted, Sense::ending};
+    const std::vector<Phrase>& phrases = question.phrases;
+    const auto isThing = [&](const Phrase& each) { return kOfThings.has(each.sense); };
+    const auto first = std::ranges::find_if(phrases, isThing);
+    const auto size = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    // "Delete 5 GB of photos" asks for something else.
+    if (question.count(Sense::size) > 1 || size < first || std::any_of(size, phrases.end(), isThing) ||
+        phrases.front().sense == Sense::size ||
+        (question.hasNoKind() && !question.senses.meets({Sense::unknown, Sense::quoted, Sense::ending})))
+        return std::nullopt;
+    std::vector<Phrase> named(phrases.begin(), size);
+    Question gone = withPhrases(question, std::move(named));
+    Things things;
+    bool isOfTrash = true;
+    for (const std::vector<Phrase>& group : groupsIn(gone)) {
+        if (!addGroup(withPhrases(gone, group), context, things))
+            return std::nullopt;
+        isOfTrash = isOfTrash && group.size() == 1 && group.front().subject == &subjectFor(SubjectID::trash);
+    }
+    if (things.each.empty())
+        return std::nullopt;
+    things.isOfTrash = isOfTrash;
+    things.keepOnce();
+    std::int64_t bytes = 0;
+    for (const Stored& one : things.each)
+        bytes = checkedAdd(bytes, one.bytes);
+    Answer answer = said(std::move(things), context);
+    answer.text = AskText::sentences(
+        {bytes >= size->amount ? InsightTexts::kYes : InsightTexts::kNo, std::move(answer.text)});
+    return answer;
+}
+
 std::optional<Answer> sumOfThem(const Question& question, const AskContext& context)
 {
     Things things;

@@ -18,6 +18,9 @@ namespace orlen::AskReader {
 /// Keep.
 [[nodiscard]] std::optional<Answer> freedBySubject(const Question& question, const AskContext& context);
 
+/// "Would emptying the Trash get me 5 GB?": yes or no, and what they take.
+[[nodiscard]] std::optional<Answer> isThatMuch(const Question& question, const AskContext& context);
+
 /// How many files the kinds that the question names have together, and their size; nothing if it names one,
 /// or folders.
 [[nodiscard]] std::optional<Answer> sumOfThem(const Question& question, const AskContext& context);

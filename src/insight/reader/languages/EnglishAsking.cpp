@@ -149,7 +149,12 @@ constexpr WordRow kAsking[] = {
      "app,in this tool,by this program,by this app,using this program,using this app,this program,this "
      "app,this "
      "tool,this thing,this software,at this rate,at this pace,at the current rate,at the current pace,at the "
-     "present rate,at the present pace,if this goes on,if it goes on like this,if i go on like this,in the "
+     "present rate,at the present pace,if this goes on,if it goes on like this,if i go on like "
+     "this,slice,slice of the chart,part of the chart,section of the chart,segment of the "
+     "chart,slice of the pie,bar of the chart,of the chart,of the graph,of the pie chart,in the pie "
+     "chart,in ages,for ages,in forever,in a long time,for a long time,in a long while,for so long,as a "
+     "journalist,as a student,as a beginner,as a teacher,as a photographer,as a gamer,as a musician,as a "
+     "lawyer,as an artist,in the "
      "storage breakdown,in the breakdown,in your breakdown,in the overview,in the chart,in the graph,in the "
      "storage view,in the storage overview,on this computer,on this machine,on this pc,on this laptop,on the "
      "computer,in one sweep,after that,afterwards,biggest first,largest first,the biggest first,the largest "
@@ -288,7 +293,8 @@ constexpr WordRow kAsking[] = {
                  "to,okay to,allowed to,possible to,able to,is it fine to,fine to,is it alright to,alright "
                  "to,ought,is it possible to,is it worth,do i need"},
     {Sense::makeRoom,
-     "could i free,can i free,could we free,could i get free,free up,make room,make space,make room for,make "
+     "quickest way to get,fastest way to get,easiest way to get,best way to get,simplest way to get,could i "
+     "free,can i free,could we free,could i get free,free up,make room,make space,make room for,make "
      "space for,clear "
      "up,reclaim,regain,gain,save,saved,freed,freeing,clear out,get back space,need to free,recover "
      "space,win,free some,make some room,make some space,more space,more room,get space,get more space,get "
@@ -304,7 +310,9 @@ constexpr WordRow kAsking[] = {
      "make,room i could,gig back,gigs back,win back,claw back"},
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
-     "will it touch,will you touch,does it touch,do you touch,would it touch,would you touch,refuse to "
+     "never ever touch,never ever touched,never ever move,never ever moved,never ever remove,never ever "
+     "change,will it touch,will you touch,does it touch,do you touch,would it touch,would you touch,refuse "
+     "to "
      "delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
      "move,will not delete,would never delete,would never touch,would you never delete,never touch,never "
      "touched,not touch,won't touch,will not touch,don't touch,never move,never "
@@ -344,7 +352,11 @@ constexpr WordRow kAsking[] = {
      "everything back,oops,unmove,undid,reversed,rescue,salvage,unclean,wrong file,wrong files,shouldn't "
      "have deleted,get it all back"},
     {Sense::safe,
-     "safe,safely,harmless,dangerous,risky,safest,problem,problems,risk,risks,bad idea,trouble,without "
+     "without losing anything,without losing anything important,without losing important "
+     "files,without losing important stuff,without losing anything i need,without deleting anything "
+     "important,without removing anything important,without touching anything "
+     "important,safe,safely,harmless,dangerous,risky,safest,problem,problems,risk,risks,bad "
+     "idea,trouble,without "
      "worrying,without thinking,without thinking about it,without thinking twice,without a second "
      "thought,without having to think,without looking,without checking,blindly,without worry,without "
      "risk,without problems,without a problem,without fear,without danger"},

@@ -136,12 +136,18 @@ constexpr WordRow kMeasures[] = {
      "tracking,"
      "track,send,sends,sent,sending,spy,spying,leave,leaves,server,servers,phone "
      "home,share,shares,shared,third party,third "
-     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,chatgpt,secret,spies,"
+     "parties,account,offline,collect,collects,collecting,google,facebook,wifi,wi-fi,ai,language "
+     "model,language models,large language "
+     "model,llm,llms,machine learning,artificial intelligence,neural network,neural networks,ai model,ai "
+     "models,chatgpt,secret,spies,"
      "see my files,see my photos,watching me,who can see,personal data,data "
      "protection,hackers,hacker,ads,visible to others,see it,see them,snoop,third-party,safe from "
      "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
      "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
      "safe,know my passwords,eavesdrop,anyone get"},
+    // How many there are of a name nobody knows.
+    {Sense::unknown, "folders named,folders called,directories named,directories called,subfolders "
+                     "named,subfolders called"},
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,

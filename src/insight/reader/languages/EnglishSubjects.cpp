@@ -80,6 +80,7 @@ constexpr SubjectRow kSubjects[] = {
      "temporary files,temp files,cache folder,cache folders,tmp files,cache "
      "data,temp data"},
     {SubjectID::developer,
+     "dev caches,dev cache,developer caches,developer cache,development caches,package manager caches,"
      "developer data,developer files,developer,dev files,developer tools,build files,build data,build "
      "artifacts,development files,dev stuff,build output,build leftovers"},
     {SubjectID::system, "system,system data,system files,the system,operating system,linux itself,os"},
