@@ -151,6 +151,7 @@ constexpr Row kFiles[] = {
     // A folder that is left out is no kind of file, and nobody takes what is left for all there is.
     {"pdfs over 0.9 mb not in Documents", "Left out: ~/Documents|there is 1|Downloads/Floor plan (1).pdf"},
     {"audio files over 5 mb not in Music", "in ~/Music there are 2|Left out: ~/Music", "found no"},
+    {"how many audio files aren't in Music", "in ~/Music there are 2|Left out: ~/Music"},
     {"Audiodateien nicht im Musikordner", "in ~/Music there are 2|Left out: ~/Music"},
 };
 
@@ -211,6 +212,7 @@ constexpr Row kNames[] = {
     {"can I delete both engine pdfs", "no PDFs in ~/Projects/engine"},
     {"if i delete both engine pdfs how much do i get back", "no PDFs in ~/Projects/engine", "8 MB"},
     {"can i get rid of both engine and site in Projects", "Together they take 10 MB|engine|site"},
+    {"can I delete Evening set.flac or is it the only copy", "rated Review|no duplicate of"},
     {"can I delete box.vdi", "box.vdi: disk of a virtual machine. |Look at it before you remove it"},
 };
 

@@ -5,6 +5,7 @@
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NameReplies.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 #include "scan/walk/WalkVisitor.h"
@@ -166,6 +167,13 @@ const Subject* copiesIn(const Question& question)
     return copies;
 }
 
+Question withoutSubjects(const Question& question)
+{
+    std::vector<Phrase> phrases = question.phrases;
+    std::erase_if(phrases, [](const Phrase& phrase) { return phrase.subject != nullptr; });
+    return withPhrases(question, std::move(phrases));
+}
+
 } // namespace
 
 std::optional<Answer> aboutCopies(const Question& question, const AskContext& context)
@@ -185,8 +193,16 @@ std::optional<Answer> aboutCopies(const Question& question, const AskContext& co
         return std::nullopt;
     const Message notListed{InsightTexts::kNoCopyListed,
                             {{"name", name}, {"size", Bytes{WalkVisitor::kCandBytes}}}};
-    if (found.alike.measured.empty())
-        return Answer{notListed, {}};
+    if (found.alike.measured.empty()) {
+        // "Can I delete it, or is it the only copy" asks for both.
+        std::optional<Answer> rated = question.senses.meets({Sense::remove, Sense::safe, Sense::keep})
+                                          ? aboutName(withoutSubjects(question), context)
+                                          : std::nullopt;
+        if (!rated)
+            return Answer{notListed, {}};
+        rated->text = AskText::lines({std::move(rated->text), notListed});
+        return rated;
+    }
     const auto count = std::ssize(found.alike.measured);
     Answer answer = listedBelow({InsightTexts::kNamedAlike, {{"count", count}}}, context, found.alike);
     answer.text = AskText::lines({std::move(answer.text), notListed});

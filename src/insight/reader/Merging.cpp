@@ -103,6 +103,12 @@ void mergeExclusions(Phrases& phrases)
         if (phrases[i].sense == Sense::negation && phrases[i].isJoined && kNameable.has(phrases[i + 1].sense))
             phrases[i].sense = Sense::except;
     }
+    for (std::size_t i = 1; i + 2 < phrases.size(); ++i) {
+        // "Videos that aren't in Videos"
+        if (phrases[i].sense == Sense::negation && phrases[i + 1].sense == Sense::inside &&
+            kNameable.has(phrases[i + 2].sense))
+            phrases[i].sense = Sense::outside;
+    }
     for (std::size_t i = 0; i < phrases.size(); ++i) {
         const bool isOutside = phrases[i].sense == Sense::outside;
         if ((!isOutside && phrases[i].sense != Sense::except) || !phrases[i].excluded.empty())
