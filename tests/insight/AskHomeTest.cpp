@@ -157,6 +157,7 @@ constexpr Row kFiles[] = {
 
 constexpr Row kFolders[] = {
     {"how many subfolders does Projects have", "Of folders in ~/Projects there are 2"},
+    {"how many files and folders does Music have", "I don't know that", "Of files"},
     {"how many files does Music have", "Of files in ~/Music there are 2"},
     {"how many folders does Pictures have", "Of folders in ~/Pictures there is 1"},
     {"largest thing modified since April 2026", ".backup.img (13 MB)", "The newest"},

@@ -262,9 +262,12 @@ void placeCountedFolders(Phrases& phrases, bool isEnglish)
         // "How many files are videos" asks for the kind.
         const bool isCalledSo =
             isEnglish && !holder.text.empty() && holder.text.front() >= 'A' && holder.text.front() <= 'Z';
+        // "How many files and folders"
+        const Subject* const other = phrases[i - 1].subject;
+        const bool isCounted = phrases[i - 1].sense == Sense::howMany ||
+                               (phrases[i].isJoined && other != nullptr && other->isAnyFile);
         const bool areFiles = phrases[i].subject != nullptr && phrases[i].subject->isAnyFile && isCalledSo;
-        if ((phrases[i].sense == Sense::folder || areFiles) && phrases[i - 1].sense == Sense::howMany &&
-            isHolder && !holder.isJoined)
+        if ((phrases[i].sense == Sense::folder || areFiles) && isCounted && isHolder && !holder.isJoined)
             phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
                            Phrase{Sense::inside, {}, nullptr, 0, {}});
     }
