@@ -51,15 +51,14 @@ Answer cleanUpsIn(const Span& span, const std::vector<CleanRecord>& history)
         return record.date >= span.from && record.date < span.to;
     });
     // A span ends just before a day begins.
-    const std::vector<Place> dates{{"first", dayOf(span.from)},
-                                   {"last", dayOf(span.to - std::chrono::hours(1))}};
+    const Place first{"first", dayOf(span.from)};
+    const Place last{"last", dayOf(span.to - std::chrono::hours(1))};
     if (records.empty())
-        return {Message{InsightTexts::kNoCleanUpBetween, dates}, {}};
-    std::vector<Place> places = dates;
-    places.push_back({"count", std::ssize(records)});
-    places.push_back({"size", Bytes{freedBy(records)}});
-    return {AskText::sentences({Message{InsightTexts::kCleanUpsBetween, std::move(places)},
-                                InsightTexts::kHistoryListsThem}),
+        return {Message{InsightTexts::kNoCleanUpBetween, {first, last}}, {}};
+    return {AskText::sentences(
+                {Message{InsightTexts::kCleanUpsBetween,
+                         {first, last, {"count", std::ssize(records)}, {"size", Bytes{freedBy(records)}}}},
+                 InsightTexts::kHistoryListsThem}),
             {}};
 }
 

@@ -253,8 +253,9 @@ private:
             isPast = take(Figure::previous) || isPast;
             isAhead = take(Figure::following) || isAhead;
         }
-        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
-                                        (m_isExpected && isIndefinite(m_words[m_at - 2])));
+        const bool isOne =
+            isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
+                         m_words[m_at - 2] == "one" || (m_isExpected && isIndefinite(m_words[m_at - 2])));
         if ((!count && !isOne) || (unit == TimeUnit::year && count.value_or(1) > kMostYears))
             return std::nullopt;
         Period period{back(m_now, unit, count.value_or(1)), m_now};
@@ -269,8 +270,8 @@ private:
     /// "Older than a year", in any of the languages.
     [[nodiscard]] static bool isIndefinite(std::string_view word)
     {
-        constexpr std::string_view kArticles[] = {"an",    "ein", "eine", "einem", "einen",
-                                                  "einer", "un",  "une",  "uno",   "una"};
+        constexpr std::string_view kArticles[] = {"an",    "one", "ein", "eine", "einem", "einen",
+                                                  "einer", "un",  "une", "uno",  "una"};
         return std::ranges::find(kArticles, word) != std::end(kArticles);
     }
 

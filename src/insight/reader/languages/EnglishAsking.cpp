@@ -130,6 +130,8 @@ constexpr WordRow kAsking[] = {
      "does orlen read,do you read,can you read,can orlen read,does it scan,does orlen scan,do you scan"},
     // Orlen itself, where it is asked what it does.
     {Sense::filler,
+     "i need to know,i want to know,i would like to know,i'd like to know,id like to know,we need to "
+     "know,just want to know,just wanted to know,"
      "a message,a message that,a message saying,a message that says,a warning,a warning that,a warning "
      "saying,a warning that says,a popup,a popup that,a popup saying,a pop-up,a notification,a notification "
      "that,an alert,an alert that,an error,an error that,an error saying,error message,error message "

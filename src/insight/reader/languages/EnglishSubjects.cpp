@@ -120,9 +120,8 @@ constexpr SubjectRow kSubjects[] = {
      "spreadsheet,spreadsheets,tables,excel files,excel,excel sheets,csv files,csvs"},
     {SubjectID::presentations, "presentation,presentations,slides,powerpoints,powerpoint,powerpoint files"},
     {SubjectID::ebooks, "ebook,ebooks,e-books,books,e-book"},
-    {SubjectID::documents,
-     "document,documents,docs,text documents,papers,paperwork,word files,word documents,text files,letters,"
-     "essays,doc"},
+    {SubjectID::documents, "document,documents,docs,text documents,papers,paperwork,text files,letters,"
+                           "essays,doc"},
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},
     {SubjectID::leftovers,
@@ -130,7 +129,8 @@ constexpr SubjectRow kSubjects[] = {
      "folders,leftover stuff,leftover files,leftovers of "
      "apps,leftovers of programs,leftovers of applications,leftovers of removed apps,app "
      "leftovers,flatpak leftovers,snap leftovers,program leftovers,leftovers from apps,leftovers from "
-     "programs,left over from apps,left behind,leave behind,leave stuff behind,leave anything behind,leave "
+     "programs,left over from apps,left behind,leave behind,leave data,leaves data,leave data behind,leaves "
+     "data behind,left data behind,leave stuff behind,leave anything behind,leave "
      "files behind,leaves behind,left stuff behind,left anything behind,left files behind,leftover "
      "data,remains of apps,remains of programs,remnants,residue,orphaned,orphans,uninstalled "
      "apps,uninstalled programs,removed apps,removed programs,deleted apps,deleted programs,apps i "

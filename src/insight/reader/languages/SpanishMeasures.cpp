@@ -230,7 +230,8 @@ constexpr WordRow kMeasures[] = {
      "de,impido,evito,detengo,detén,desactivo,parar que,hago para que "
      "no,activar,desorden,desmadre,despelote,relajo,ubicación,ruta,escaneo,hallazgos,modelo,modelos"},
     // Of applications: their sizes are with it anyway.
-    {Sense::filler, "con sus datos,con datos,incluidos sus datos,incluidos los datos,datos incluidos"},
+    {Sense::filler,
+     "que tengo,que tenga,con sus datos,con datos,incluidos sus datos,incluidos los datos,datos incluidos"},
 };
 
 } // namespace
