@@ -241,7 +241,8 @@ private:
         const std::optional<int> count = takeNumber(1'000);
         isPast = take(Figure::previous) || isPast;
         isAhead = take(Figure::following) || isAhead;
-        const bool isSingle = !count && !isDone() && isArticle(m_words[m_at]);
+        const bool isSingle =
+            !count && !isDone() && (isArticle(m_words[m_at]) || isIndefinite(m_words[m_at]));
         if (isSingle)
             ++m_at;
         const auto named = take(Figure::timeUnit);
@@ -253,9 +254,8 @@ private:
             isPast = take(Figure::previous) || isPast;
             isAhead = take(Figure::following) || isAhead;
         }
-        const bool isOne =
-            isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
-                         m_words[m_at - 2] == "one" || (m_isExpected && isIndefinite(m_words[m_at - 2])));
+        const bool isOne = isSingle && (isAgo || isBehind || isAhead || m_words[m_at - 2] == "a" ||
+                                        (m_isExpected && isIndefinite(m_words[m_at - 2])));
         if ((!count && !isOne) || (unit == TimeUnit::year && count.value_or(1) > kMostYears))
             return std::nullopt;
         Period period{back(m_now, unit, count.value_or(1)), m_now};
