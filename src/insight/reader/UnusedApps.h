@@ -1,9 +1,11 @@
 #pragma once
 
 #include "insight/AskContext.h"
+#include "insight/AskEngine.h"
 #include "insight/reader/Question.h"
 #include "model/Message.h"
 
+#include <optional>
 #include <vector>
 
 /// Answers about applications that nobody uses. Pure; any thread.
