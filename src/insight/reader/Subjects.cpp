@@ -254,14 +254,14 @@ bool isListedAs(const Subject& subject, FindingKind kind)
 bool hasExtensionOf(const Subject& subject, std::string_view path)
 {
     const std::string extension = PathText::asciiLower(PathText::extension(path));
-    if (extension.empty())
+    const std::string_view all = subject.extensions;
+    if (extension.empty() || extension.find(' ') != std::string::npos)
         return false;
-    std::string_view rest = subject.extensions;
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find(' '), rest.size());
-        if (rest.substr(0, end) == extension)
+    for (std::size_t at = all.find(extension); at != std::string_view::npos;
+         at = all.find(extension, at + 1)) {
+        const std::size_t end = at + extension.size();
+        if ((at == 0 || all[at - 1] == ' ') && (end == all.size() || all[end] == ' '))
             return true;
-        rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return false;
 }
