@@ -28,7 +28,7 @@ constexpr Row kWhatMatters[] = {
     {"i want to record a 2 hour session at 130 gb, will it fit", "No.|120 GB is free"},
     {"what's the quickest way to get 1 gb without losing anything important", "To free 1 GB|Safe"},
     {"quickest way to get 1 GB back without touching my caches", "caches|1 GB", "App caches"},
-    {"what counts as spreadsheets", "ending in xlsx, xls, ods, csv, numbers."},
+    {"what counts as spreadsheets", "ending in xlsx, xls, xlsm, ods, csv, tsv, numbers."},
     {"'; DROP TABLE files; --", "I don't know that", "Safe"},
     {"is 67% full bad", "120 GB is free"},
     {"what has grown since the beginning of the year", "Since 28 April 2026|~/Videos: 49 GB"},

@@ -80,7 +80,7 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
 {
     std::vector<Answer> answers;
     const std::vector<Question> each = distributed(question);
-    if (each.size() > kMostParts)
+    if (each.empty() || each.size() > kMostParts)
         return std::nullopt;
     for (const Question& one : each) {
         std::optional<Answer> answer = replyByRule(one, context);
@@ -229,6 +229,30 @@ bool isReadable(std::string_view text)
     return text.size() <= kLongestQuestion && PathText::isValidUtf8(text);
 }
 
+/// "I'm new to Linux. What is the trash?": the last sentence, if what stands before it names nothing that the
+/// question could be about. Empty if there is only one sentence, or it says more than that.
+std::string_view withoutLead(std::string_view text, const AskContext& context, const IsName& isName)
+{
+    constexpr std::string_view kEnds = ".!?;";
+    std::size_t start = 0;
+    for (std::size_t i = 0; i + 2 < text.size(); ++i) {
+        if (kEnds.find(text[i]) != std::string_view::npos && text[i + 1] == ' ' &&
+            text.find_first_not_of(" .!?;", i) != std::string_view::npos)
+            start = i + 1;
+    }
+    const std::vector<Word> words = withNames(text.substr(0, start), context);
+    if (words.empty())
+        return {};
+    const Question lead = bestReading(words, context.now, isName, {});
+    constexpr SenseSet kOfSomething{subject, quoted, ending, folder, size, period, remove, uninstall, undo};
+    const auto isNamed = [&](const Phrase& phrase) {
+        return phrase.sense == unknown &&
+               (!PathText::extension(phrase.text).empty() || isName(plainLetters(phrase.text)));
+    };
+    return lead.senses.meets(kOfSomething) || std::ranges::any_of(lead.phrases, isNamed) ? std::string_view()
+                                                                                         : text.substr(start);
+}
+
 } // namespace
 
 std::optional<Turn> turn(std::string_view text, const AskContext& context, const Conversation& before)
@@ -252,6 +276,12 @@ std::optional<Turn> turn(std::string_view text, const AskContext& context, const
         const Question typed = read(
             words, *question.lexicon, context.now, [](std::string_view) { return true; }, Typos::asTheyStand);
         found = answered(typed, context, before);
+    }
+    if (!found && !question.isBackward) {
+        const std::string_view last =
+            withoutLead(text, context, [&](std::string_view word) { return names(word); });
+        if (!last.empty())
+            return turn(last, context, before);
     }
     if (!found && !isForMatcher(question))
         return Turn{notUnderstood(question), before};

@@ -30,7 +30,7 @@ constexpr KnownPlace kKnownPlaces[] = {
     {"chromium profile,chromium bookmarks", "{CONFIG}/chromium"},
     {"thunderbird,thunderbird mail,thunderbird "
      "profile,thunderbird inbox,inbox,thunderbird "
-     "folder,emails,email,mails,e-mail,e-mails,courriels,correos,correo,posta",
+     "folder,emails,email,mail,mails,e-mail,e-mails,courriels,correos,correo,posta",
      "{H}/.thunderbird"},
     {"keyring,keyrings,passwords,saved passwords,password,passworter,kennworter,schlusselbund,mots "
      "passe,mots de passe,mot de passe,contrasenas,"

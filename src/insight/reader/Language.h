@@ -11,8 +11,8 @@
 
 /// The words of the languages in which questions are understood, as tables. To teach a language another word,
 /// add it to a row; phrases are separated by commas, and a phrase that several rows list belongs to the
-/// first. Case and accents don't matter. A typing error, and so most endings, is forgiven in words of five
-/// letters or more: a row need not list every form.
+/// first. "(does|will) it (ever|) delete" stands for four phrases. Case and accents don't matter. A typing
+/// error, and so most endings, is forgiven in words of five letters or more: a row need not list every form.
 namespace orlen::AskReader {
 
 struct WordRow {

@@ -46,12 +46,40 @@ std::string_view folded(std::string_view letter)
     return letter;
 }
 
+/// The phrase without alternatives: each of those in the first parentheses, with what the others make of it.
+template <typename Visit>
+void eachVariant(const std::string& phrase, Visit visit)
+{
+    const std::size_t open = phrase.find('(');
+    const std::size_t close = phrase.find(')', open);
+    if (open == std::string::npos || close == std::string::npos) {
+        visit(std::string_view(phrase));
+        return;
+    }
+    const std::string_view whole = phrase;
+    std::string_view choices = whole.substr(open + 1, close - open - 1);
+    for (bool hasMore = true; hasMore;) {
+        const std::size_t end = std::min(choices.find('|'), choices.size());
+        const std::string_view choice = choices.substr(0, end);
+        std::string_view behind = whole.substr(close + 1);
+        // With no word chosen, there is one space less.
+        if (choice.empty() && behind.starts_with(' '))
+            behind.remove_prefix(1);
+        std::string variant = std::string(whole.substr(0, open)).append(choice).append(behind);
+        if (variant.ends_with(' '))
+            variant.pop_back();
+        eachVariant(variant, visit);
+        hasMore = end < choices.size();
+        choices.remove_prefix(std::min(end + 1, choices.size()));
+    }
+}
+
 template <typename Visit>
 void eachPhrase(std::string_view phrases, Visit visit)
 {
     while (!phrases.empty()) {
         const std::size_t end = std::min(phrases.find(','), phrases.size());
-        visit(phrases.substr(0, end));
+        eachVariant(std::string(phrases.substr(0, end)), visit);
         phrases.remove_prefix(std::min(end + 1, phrases.size()));
     }
 }

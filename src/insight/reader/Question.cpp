@@ -181,7 +181,8 @@ private:
     bool takeShare()
     {
         const std::string& word = m_plain[m_at];
-        if (!word.ends_with('%') || word.find_first_not_of("0123456789.,%") != std::string::npos)
+        if (!word.ends_with('%') || word.size() == 1 ||
+            word.find_first_not_of("0123456789.,%") != std::string::npos)
             return false;
         take({Sense::filler, {}, nullptr, 0, {}}, 1);
         return true;

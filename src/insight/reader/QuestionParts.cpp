@@ -170,6 +170,10 @@ std::vector<Question> distributed(const Question& question)
     const std::vector<PhraseRange> alike = alikeIn(question.phrases);
     if (alike.size() < 2)
         return {question};
+    // "Mail, downloads and videos": what the first is, is not known.
+    const std::size_t first = alike.front().from;
+    if (first > 0 && question.phrases[first].isJoined && question.phrases[first - 1].sense == general)
+        return {};
     std::vector<Question> each;
     for (const PhraseRange& kept : alike) {
         std::vector<Phrase> phrases;

@@ -16,7 +16,8 @@ namespace orlen::AskReader {
 /// Nothing if it has none.
 [[nodiscard]] std::optional<Question> undressed(const Question& question);
 
-/// "Photos and videos": the question once for each of them. One question if they are not alike.
+/// "Photos and videos": the question once for each of them. One question if they are not alike; none if one
+/// of them is nothing that is known.
 [[nodiscard]] std::vector<Question> distributed(const Question& question);
 
 /// One answer below the other.

@@ -151,8 +151,7 @@ constexpr WordRow kMeasures[] = {
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,
-     "run,running,loading,load,install,installing,predict,prediction,forecast,xcode,derived,simulator,"
-     "simulators,build,code,backup,backups,ios,language,languages,translation,mail,attachment,same "
+     "run,running,loading,load,install,installing,predict,prediction,forecast,language,languages,same "
      "file,long,result,results,larger,smaller,older,newer,fast,cost,costs,category,categories,else,worth,"
      "same,sure,other,more,finding,findings,longer,anymore,any more,any "
      "longer,good,best,bad,wrong,work,works,week,month,year,day,time,times,located,path,location,live,lives,"
