@@ -429,7 +429,8 @@ inline constexpr Text kHowToExclude =
             "exclude”. Orlen then neither suggests nor moves it.");
 inline constexpr Text kSafeMeans =
     // TRANSLATORS: what the rating "Safe" means.
-    message("Safe: data that programs create again by themselves, or exact copies. It is ticked for you.");
+    message("Safe: data that programs create again by themselves, or that can be downloaded again. It is "
+            "ticked for you.");
 inline constexpr Text kReviewMeans =
     // TRANSLATORS: what the rating "Review" means.
     message("Review: probably no longer needed, but only you can tell. Look before you tick it.");

@@ -5,6 +5,7 @@
 #include "insight/reader/AskedName.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/PlaceReplies.h"
 #include "insight/reader/ProgramNames.h"
 #include "insight/reader/ProgramPlaces.h"
 #include "platform/text/PathText.h"
@@ -150,8 +151,16 @@ std::optional<Answer> allCleanUps(const Question& question, const AskContext& co
                   {}};
 }
 
-std::optional<Answer> howToUndo(const Question& /*question*/, const AskContext& context)
+std::optional<Answer> howToUndo(const Question& question, const AskContext& context)
 {
+    // "The pip cache": whether it was moved at all.
+    const Phrase* const kind = question.first(Sense::subject);
+    constexpr SubjectID kPrograms[] = {SubjectID::npm, SubjectID::pip, SubjectID::gradle,
+                                       SubjectID::homebrew};
+    if (kind != nullptr && std::ranges::find(kPrograms, kind->subject->id) != std::end(kPrograms)) {
+        if (std::optional<Answer> back = gettingBack(question, context, kind->text))
+            return back;
+    }
     return Answer{AskText::sentences({lastCleanUpOf(context.history), InsightTexts::kHowToRestore,
                                       InsightTexts::kUntilTrashIsEmptied}),
                   {}};

@@ -33,7 +33,7 @@ public:
     };
 
     /// Words in the longest phrase.
-    static constexpr std::size_t kLongestPhrase = 6;
+    static constexpr std::size_t kLongestPhrase = 8;
 
     explicit Lexicon(const Language& language);
 

@@ -273,6 +273,25 @@ void placeCountedFolders(Phrases& phrases, bool isEnglish)
     }
 }
 
+/// "Big files older than a year": by size, of all that the condition fits; alone, the words are a finding's.
+void meanBySize(Phrases& phrases)
+{
+    constexpr SenseSet kConditions{Sense::period, Sense::unopened, Sense::number, Sense::inside,
+                                   Sense::size,   Sense::oldest,   Sense::newest};
+    const auto found = std::ranges::find_if(phrases, [](const Phrase& each) {
+        return each.subject != nullptr && each.subject->id == SubjectID::largeFiles;
+    });
+    if (found == phrases.end() ||
+        std::ranges::none_of(phrases, [&](const Phrase& each) { return kConditions.has(each.sense); }))
+        return;
+    found->subject = &subjectFor(SubjectID::files);
+    Phrase sorting = *found;
+    sorting.sense = Sense::biggest;
+    sorting.subject = nullptr;
+    found->isJoined = false;
+    phrases.insert(found, std::move(sorting));
+}
+
 void mergeNeighbours(Phrases& phrases)
 {
     for (std::size_t i = 0; i + 1 < phrases.size();) {
@@ -307,6 +326,7 @@ Question merged(const Question& question)
     mergePlaces(phrases);
     mergeExclusions(phrases);
     mergeNegation(phrases);
+    meanBySize(phrases);
     return withPhrases(question, std::move(phrases));
 }
 

@@ -45,6 +45,17 @@ struct PhraseRange {
     std::size_t to = 0;
 };
 
+/// "Downloads or code": a name of its own, beside the folder that a word stands for.
+bool isNameBesideFolder(const std::vector<Phrase>& phrases, std::size_t at)
+{
+    const auto isFolder = [&](std::size_t i) {
+        return i < phrases.size() && phrases[i].subject != nullptr && !phrases[i].subject->folder.empty();
+    };
+    const bool isAfter = at > 0 && phrases[at].isJoined && isFolder(at - 1);
+    const bool isBefore = at + 1 < phrases.size() && phrases[at + 1].isJoined && isFolder(at + 1);
+    return phrases[at].sense == unknown && (isAfter || isBefore);
+}
+
 /// The kind or the named file that begins there; "isos" are an ending and the files. Empty if none does.
 PhraseRange thingAt(const std::vector<Phrase>& phrases, std::size_t at)
 {
@@ -54,7 +65,9 @@ PhraseRange thingAt(const std::vector<Phrase>& phrases, std::size_t at)
     };
     if (phrases[at].sense == ending)
         return {at, isFiles(at + 1) ? at + 2 : at};
-    return {at, phrases[at].subject != nullptr || isNamedFile(phrases[at]) ? at + 1 : at};
+    const bool isThing =
+        phrases[at].subject != nullptr || isNamedFile(phrases[at]) || isNameBesideFolder(phrases, at);
+    return {at, isThing ? at + 1 : at};
 }
 
 /// The first run of such things with "and" between them: all kinds, or all named.

@@ -233,9 +233,9 @@ constexpr WordRow kAsking[] = {
      "touch,permitted to touch,safe from you,safe from orlen,ever touched,ever touch,ever be touched,ever "
      "get "
      "touched"},
-    {Sense::cleanUp,
-     "went to the trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
-     "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied"},
+    {Sense::cleanUp, "you (move|moved|put|send|sent|throw|threw) (to|in|into) the (trash|bin),went to the "
+                     "trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
+                     "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied"},
     {Sense::uninstall,
      "remove an app,delete an app,remove an application,delete an application,remove a program,delete a "
      "program,uninstall,deinstall,uninstalling,uninstalled,remove the app,delete the app,remove "

@@ -8,27 +8,21 @@ constexpr WordRow kMeasures[] = {
     {Sense::vacant, "empty folders,empty folder,empty directories,empty directory,empty dirs,empty "
                     "subfolders,folders that are empty,folders with nothing in them,folders are empty"},
     {Sense::freed,
-     "did it delete,has it deleted,did it remove,has it removed,did this program delete,have you ever "
-     "deleted,have you ever moved,have you ever removed,did you ever delete,has orlen ever "
-     "deleted,was anything deleted,was anything removed,was anything moved,was something deleted,anything "
-     "deleted,anything been deleted,did orlen delete,did you delete,have you deleted,has orlen deleted,did "
-     "orlen move,did you move,have "
-     "you moved,has orlen moved,did orlen remove,did you remove,have you removed,did you trash,have you "
-     "trashed,did you clean,have you cleaned,did orlen clean,has orlen cleaned,have i won back,have i "
-     "won,did i win back,have i regained,have i reclaimed,have i recovered,did i reclaim,have you "
-     "reclaimed,was freed,was deleted,was removed,was moved,were deleted,were removed,were moved,did orlen "
-     "free,has orlen freed,did you free,have you freed,did i free,have i freed,did we free,have we "
-     "freed,did it free,has it freed,has this program freed,did this program free,has this app freed,did "
-     "this app free,has this tool freed,have i got back,did i get back,i freed,you freed,orlen freed"},
+     "did (you|it|orlen|this app|this program|this tool|the program) (ever|) (delete|move|remove|trash|"
+     "clean|free|erase),(have|has) (you|it|orlen|this app|this program|this tool|the program) (ever|) "
+     "(deleted|moved|removed|trashed|cleaned|freed|reclaimed),did (you|it|orlen|this app|this program|"
+     "this tool|the program) (move|put|send|throw) (to|in|into) the (trash|bin),did (you|it|orlen|this "
+     "app|this program|this tool|the program) (move|put|send) there,(has|have) (you|it|orlen|this app|"
+     "this program|this tool|the program) (moved|put|sent) (to|in|into) the (trash|bin),(was|were|been) "
+     "(anything|something|nothing|) (deleted|removed|moved|freed|trashed),(anything|something|things) "
+     "(been|) deleted,(did|have) (i|we) (free|freed|win back|won|won back|reclaim|reclaimed|regained|"
+     "recovered|get back|got back),(i|we|you|orlen) freed,did (you|it|orlen) (move|put|send) "
+     "(anything|something|stuff) (to|in|into) "
+     "the (trash|bin)"},
     {Sense::lastUse,
-     "last time i used,the last time i used,last time i ran,the last time i ran,last time i opened,"
-     "the last time i opened,last time i started,the last time i started,last time i launched,"
-     "the last time i launched,last time i played,the last time i played,last time i worked with,"
-     "the last time i worked with,when did i last use,did i last use,i last use,when did i last run,"
-     "did i last run,i last run,when did i last open,did i last open,i last open,when did i last start,"
-     "did i last start,i last start,when did i last launch,did i last launch,i last launch,"
-     "when did i last play,did i last play,i last play,i last used,i last opened,i last ran,"
-     "last time i was using"},
+     "(the|) last time i (used|ran|opened|started|launched|played|worked with|was using),(when|) did i "
+     "last (use|run|open|start|launch|play),i last (use|used|run|ran|open|opened|start|started|launch|"
+     "launched|play|played)"},
     {Sense::included,
      "include,including,includes,if i include,when i include,if we include,if you include,if i add,"
      "if i also include"},
@@ -95,7 +89,9 @@ constexpr WordRow kMeasures[] = {
                     "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "
                     "edited,just downloaded,recently downloaded,just added,brand new,newly added"},
     {Sense::grow,
-     "grow,grows,growing,grew,grown,growth,increased,got bigger,gotten bigger,got larger,became "
+     "(going|creeping|gone|went) "
+     "up,rising,risen,rises,climbing,grow,grows,growing,grew,grown,growth,increased,got bigger,gotten "
+     "bigger,got larger,became "
      "bigger,increase,gained,changed in size,swelled,swollen,ballooned,become bigger,become larger,become "
      "big,gotten larger,get bigger,getting bigger,getting larger,getting big,got fatter,get larger,how much "
      "more space did,how much more did,how much bigger did,how much bigger "
