@@ -19,9 +19,8 @@
 // The search narrows one list of suspects. Each step learns something more about every suspect that is left,
 // which costs more than the step before, and drops those whose knowledge no other suspect shares:
 //
-//   1. allocated bytes: known from the walk.
-//   2. Length and identity: one call each. Files of different length cannot be identical; those of equal
-//      length are grouped only when they also occupy as many bytes.
+//   1. Length: known from the walk. Files of different length cannot be identical.
+//   2. Length and identity as they are now: one call each.
 //   3. Quick hash: reads head and tail, in the order of the file numbers, which is about that of the disk.
 //   4. Whole contents: few files with one quick hash are compared, many are hashed. Both decide by all bytes.
 //      Files up to the length of a head are settled by step 3.
@@ -35,19 +34,22 @@ namespace {
 using Suspects = std::vector<Suspect>;
 using Reader = ReadingThreads::Reader;
 
-auto size(const Suspect& suspect)
+/// What the walk saw of the content. Not what it takes on the disk: a download in many pieces has a block
+/// more than its copy in one.
+auto lengthWhenWalked(const Suspect& suspect)
 {
-    return suspect.cand->size;
+    const Cand& cand = *suspect.cand;
+    return cand.stamp ? cand.stamp->length : cand.size;
 }
 
-auto sizeAndLength(const Suspect& suspect)
+auto length(const Suspect& suspect)
 {
-    return std::tuple(suspect.cand->size, suspect.seen.length);
+    return suspect.seen.length;
 }
 
-auto sizeLengthAndDigest(const Suspect& suspect)
+auto lengthAndDigest(const Suspect& suspect)
 {
-    return std::tuple(suspect.cand->size, suspect.seen.length, suspect.digest);
+    return std::tuple(suspect.seen.length, suspect.digest);
 }
 
 /// Sorts by the key; the runs of equal keys in this order.
@@ -113,13 +115,13 @@ public:
     {
         Result result;
         result.filesConsidered = static_cast<std::int64_t>(m_suspects.size());
-        keepShared(m_suspects, size);
+        keepShared(m_suspects, lengthWhenWalked);
         look();
-        keepShared(m_suspects, sizeAndLength);
+        keepShared(m_suspects, length);
         keepOneNameEach();
-        keepShared(m_suspects, sizeAndLength);
+        keepShared(m_suspects, length);
         hashQuickly();
-        keepShared(m_suspects, sizeLengthAndDigest);
+        keepShared(m_suspects, lengthAndDigest);
         settle();
         noteSharedData();
         std::ranges::sort(m_sets, {}, [](const Set& set) -> const std::string& { return set.kept.path; });
@@ -145,10 +147,8 @@ private:
     /// Leaves the preferred one of several names of one file.
     void keepOneNameEach()
     {
-        const auto sizeAndIdentity = [](const Suspect& suspect) {
-            return std::tuple(suspect.cand->size, suspect.seen.identity);
-        };
-        for (const auto names : groupsBy(m_suspects, sizeAndIdentity)) {
+        const auto identity = [](const Suspect& suspect) { return suspect.seen.identity; };
+        for (const auto names : groupsBy(m_suspects, identity)) {
             const auto best = std::ranges::min_element(
                 names, [&](const Suspect& a, const Suspect& b) { return m_prefers(*a.cand, *b.cand); });
             for (Suspect& name : names)
@@ -170,7 +170,7 @@ private:
     void settle()
     {
         std::vector<std::span<Suspect>> unsettled;
-        for (const auto group : groupsBy(m_suspects, sizeLengthAndDigest)) {
+        for (const auto group : groupsBy(m_suspects, lengthAndDigest)) {
             if (group.front().seen.length <= FileHasher::kPiece)
                 addSet({group.begin(), group.end()});
             else

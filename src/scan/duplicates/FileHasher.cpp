@@ -77,8 +77,8 @@ std::optional<Digest> FileHasher::quick(const Suspect& suspect)
     if (!file)
         return std::nullopt;
     ++m_filesOpened;
-    // The tail is located by the file's length, not by the allocated bytes files are grouped by: these end
-    // before the tail of a file with holes and after that of one with reserved blocks.
+    // The tail is located by the file's length, not by its allocated bytes: these end before the tail of a
+    // file with holes and after that of one with reserved blocks.
     const std::int64_t length = suspect.seen.length;
     bool isRead = add(*file, 0, std::min(length, kPiece));
     if (length > 2 * kPiece)

@@ -96,7 +96,7 @@ std::vector<Suspects> join(ReadingThreads& threads, std::vector<Suspects> lists)
     for (const Suspects& alike : lists) {
         if (alike.empty())
             continue;
-        Suspects& all = joined[{alike.front().cand->size, alike.front().digest}];
+        Suspects& all = joined[{alike.front().seen.length, alike.front().digest}];
         all.insert(all.end(), alike.begin(), alike.end());
     }
     std::vector<Suspects> sets;
