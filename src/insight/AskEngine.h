@@ -22,6 +22,7 @@ struct Answer {
     /// Items it proposes for a clean-up, to be looked through before anything moves: none that is rated Keep
     /// or protected. Empty if it proposes nothing.
     std::vector<std::string> proposal{};
+    bool isCut = false; ///< more fits than `paths` has
     friend bool operator==(const Answer&, const Answer&) = default;
 };
 

@@ -15,6 +15,7 @@ struct Conversation {
         AskReader::Question question;
         std::vector<std::string> findingIDs;
         std::vector<std::string> paths;
+        bool isCut = false; ///< more fits than `paths` has
     };
 
     Said last; ///< the last question that was understood
@@ -25,9 +26,9 @@ struct Conversation {
     /// The conversation with one more question and answer.
     [[nodiscard]] Conversation with(const Said& said) const
     {
-        const bool isOneThing =
-            said.paths.size() == 1 &&
-            said.question.senses.meets({AskReader::Sense::quoted, AskReader::Sense::unknown});
+        using enum AskReader::Sense;
+        const bool isOneThing = said.paths.size() == 1 && said.question.senses.meets({quoted, unknown}) &&
+                                !said.question.senses.meets({biggest, smallest, oldest, newest});
         return {said, isOneThing && !list.question.phrases.empty() ? list : said};
     }
 };

@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/reader/FollowUps.h"
+#include "insight/reader/ListedItems.h"
 #include "insight/reader/NameSpans.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/QuestionParts.h"
@@ -99,16 +100,31 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
     return Reply{together(std::move(answers)), question};
 }
 
+/// "What does 'Review' mean", and not "which of them are rated Review": needs nothing said before.
+bool isDefinition(const Question& question)
+{
+    constexpr SenseSet kOfRatings{mean, what, why, can, general, safe, review, keep, subject};
+    constexpr std::string_view kRated[] = {"rated",  "mark",       "label",   "flag",   "classif", "tagg",
+                                           "bewert", "einge",      "gekennz", "marqu",  "marcad",  "clasif",
+                                           "calif",  "contrasseg", "valutat", "segnat", "markier", "classe"};
+    const Phrase* const meaning = question.first(mean);
+    return meaning != nullptr && question.senses.isWithin(kOfRatings) &&
+           std::ranges::none_of(
+               kRated, [&](std::string_view stem) { return plainLetters(meaning->text).starts_with(stem); });
+}
+
 /// "Only in Pictures", "and why": means little without what was said before.
 bool pointsBack(const Question& question)
 {
-    constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe};
+    constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe, how};
     constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
                                    Sense::after, since,    biggest, oldest,   newest,
                                    number,       smallest, inside,  unopened, except};
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
     const bool isPlace = question.phrases.size() == 2 && question.phrases.front().sense == inside &&
                          question.phrases.back().subject != nullptr;
+    if (isDefinition(question))
+        return false;
     return question.isContinued || isPlace || question.senses.isWithin(kConditions) ||
            (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
            (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
@@ -117,6 +133,10 @@ bool pointsBack(const Question& question)
 
 std::optional<Reply> reply(const Question& question, const AskContext& context, const Conversation& before)
 {
+    if (const std::optional<Question> placed = inPlaceOfLast(question, context, before.last)) {
+        if (auto found = alone(*placed, context))
+            return found;
+    }
     if (pointsBack(question)) {
         if (auto found = followUp(question, context, before))
             return found;
@@ -128,7 +148,8 @@ std::optional<Reply> reply(const Question& question, const AskContext& context, 
 
 Turn turnOf(const Reply& reply, const Conversation& before)
 {
-    return {reply.answer, before.with({reply.question, reply.answer.findingIDs, reply.answer.paths})};
+    return {reply.answer,
+            before.with({reply.question, reply.answer.findingIDs, reply.answer.paths, reply.answer.isCut})};
 }
 
 /// "… and how much would I gain": of what was spoken of before it.
@@ -140,6 +161,13 @@ bool leavesOutWhat(const Question& question)
            question.senses.meets({makeRoom, howBig, remove, safe, keep, takes});
 }
 
+/// "… and how many files does it have": of the place that was spoken of before it.
+bool countsFiles(const Question& question)
+{
+    constexpr SenseSet kCounted{howMany, subject, folder, general};
+    return question.senses.has(howMany) && question.senses.isWithin(kCounted) && question.hasNoKind();
+}
+
 /// All parts answered, each after the one before it; nothing if one is not.
 std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
                              const Conversation& before)
@@ -147,7 +175,7 @@ std::optional<Turn> answered(const std::vector<Question>& parts, const AskContex
     Conversation conversation = before;
     std::vector<Answer> answers;
     for (Question one : parts) {
-        one.isBackward = one.isBackward || (!answers.empty() && leavesOutWhat(one));
+        one.isBackward = one.isBackward || (!answers.empty() && (leavesOutWhat(one) || countsFiles(one)));
         const std::optional<Reply> found = reply(one, context, conversation);
         if (!found)
             return std::nullopt;
@@ -321,7 +349,7 @@ Conversation conversationAfter(std::string_view text, const AskContext& context,
         return {};
     const Question question =
         bestReading(withNames(text, context), context.now, [](std::string_view) { return false; }, {});
-    return before.with({question, answer.findingIDs, answer.paths});
+    return before.with({question, answer.findingIDs, answer.paths, answer.isCut});
 }
 
 } // namespace orlen::AskReader

@@ -1,8 +1,9 @@
 #include "insight/reader/FollowUps.h"
 
 #include "insight/AskText.h"
+#include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
-#include "insight/reader/NameReplies.h"
+#include "insight/reader/ListedItems.h"
 #include "insight/reader/Rules.h"
 #include "insight/reader/SpaceReplies.h"
 #include "insight/reader/SubjectReplies.h"
@@ -22,60 +23,8 @@ using enum Sense;
 using Phrases = std::vector<Phrase>;
 
 constexpr std::size_t kTold = 6;
-
-const Finding* findingWith(const AskContext& context, const std::string& id)
-{
-    const auto found = std::ranges::find(context.findings, id, [](const Finding& each) { return each.id(); });
-    return found == context.findings.end() ? nullptr : &*found;
-}
-
-/// The question as it would be put about a path.
-Question aboutPath(const Question& question, const std::string& path)
-{
-    return withPhrases(question, {{what, {}, nullptr, 0, {}}, {quoted, path, nullptr, 0, {}}});
-}
-
-std::optional<Reply> replyTo(Question question, std::optional<Answer> answer)
-{
-    if (!answer)
-        return std::nullopt;
-    return Reply{*std::move(answer), std::move(question)};
-}
-
-std::optional<Reply> onPath(const Question& question, const AskContext& context, const std::string& path)
-{
-    Question about = aboutPath(question, path);
-    std::optional<Answer> answer = aboutName(about, context);
-    return replyTo(std::move(about), std::move(answer));
-}
-
-/// Where what was asked about last stands in the list, from 1; 0 if it is not in it.
-std::size_t placeOfLast(const Conversation& before)
-{
-    const std::vector<std::string>& list = before.list.paths;
-    const auto found =
-        before.last.paths.size() == 1 ? std::ranges::find(list, before.last.paths.front()) : list.end();
-    return found == list.end() ? 0 : static_cast<std::size_t>(found - list.begin()) + 1;
-}
-
-/// "The second one" of what was listed, "the next one" after it.
-std::optional<Reply> onItem(const Question& question, const AskContext& context, const Conversation& before)
-{
-    const bool isLast = question.senses.has(last);
-    const Phrase* const ordinalPhrase = question.first(ordinal);
-    const Conversation::Said& list = before.list;
-    const std::size_t count = list.paths.empty() ? list.findingIDs.size() : list.paths.size();
-    std::size_t number = isLast ? count : 0;
-    if (!isLast && ordinalPhrase != nullptr)
-        number = ordinalPhrase->amount > 0 ? static_cast<std::size_t>(ordinalPhrase->amount)
-                                           : placeOfLast(before) + 1;
-    if (number == 0 || number > count)
-        return std::nullopt;
-    if (!list.paths.empty())
-        return onPath(question, context, list.paths[number - 1]);
-    const Finding* const finding = findingWith(context, list.findingIDs[number - 1]);
-    return finding == nullptr ? std::nullopt : replyTo(list.question, aboutFinding(*finding));
-}
+constexpr SenseSet kOrderings{biggest, smallest, oldest, newest, most};
+constexpr SenseSet kNames{subject, unknown, quoted};
 
 /// Why what was listed is rated as it is, or why the disk is as it is.
 std::optional<Reply> reasons(const Question& question, const AskContext& context,
@@ -83,6 +32,12 @@ std::optional<Reply> reasons(const Question& question, const AskContext& context
 {
     if (before.paths.size() == 1)
         return onPath(question, context, before.paths.front());
+    // "Why is it so big?" of a list: what it is made of. Why just these were listed, nobody can say.
+    constexpr SenseSet kRatings{remove, safe, review, keep, makeRoom, cleanUp, advise};
+    if (before.paths.size() > 1 && !before.question.senses.meets(kRatings)) {
+        const bool isOfSize = question.senses.meets({biggest, takes, full});
+        return isOfSize ? replyTo(before.question, replyByRule(before.question, context)) : std::nullopt;
+    }
     std::vector<Message> lines;
     Answer answer;
     for (const std::string& id : before.findingIDs) {
@@ -113,22 +68,38 @@ std::optional<Reply> onAll(const Question& question, const AskContext& context,
     return replyTo(std::move(list), std::move(answer));
 }
 
+/// That it starts at login says nothing of what is asked next: "and how big is it?"
+bool isStartup(const Phrase& phrase)
+{
+    return phrase.subject != nullptr && phrase.subject->id == SubjectID::startup;
+}
+
 /// "It", "them": what the last answer was about.
 std::optional<Reply> onSame(const Question& question, const AskContext& context,
                             const Conversation::Said& before)
 {
     if (before.paths.size() == 1)
         return onPath(question, context, before.paths.front());
+    if (before.paths.size() > 1)
+        return onThem(question, context, before);
     Phrases phrases = question.phrases;
-    std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
-        return phrase.sense == subject || phrase.sense == unknown || phrase.sense == quoted;
-    });
+    std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases),
+                         [](const Phrase& phrase) { return kNames.has(phrase.sense) && !isStartup(phrase); });
     if (phrases.size() > question.phrases.size()) {
         Question merged = withPhrases(question, std::move(phrases));
         if (std::optional<Answer> answer = replyByRule(merged, context))
             return Reply{*std::move(answer), std::move(merged)};
     }
-    return reasons(question, context, before);
+    const bool isOfRoom = question.senses.meets({howMuch, howMany, free, makeRoom, lastUse});
+    return isOfRoom ? std::nullopt : reasons(question, context, before);
+}
+
+/// "How?": the steps, where an answer has any.
+std::optional<Reply> steps(const Question& question, const AskContext& context,
+                           const Conversation::Said& before)
+{
+    return before.question.senses.has(undo) ? replyTo(before.question, howToUndo(question, context))
+                                            : std::nullopt;
 }
 
 /// A part of a question that another takes the place of.
@@ -136,9 +107,6 @@ struct Slot {
     SenseSet senses;
     bool isAfterInside = false;
 };
-
-constexpr SenseSet kSorts{biggest, smallest, oldest, newest, most};
-constexpr SenseSet kNames{subject, unknown, quoted};
 
 bool isAfterInside(const Phrases& phrases, std::size_t i)
 {
@@ -149,8 +117,8 @@ bool isAfterInside(const Phrases& phrases, std::size_t i)
 Slot slotOf(const Phrases& phrases, std::size_t i, bool hadPlace)
 {
     const Phrase& phrase = phrases[i];
-    if (kSorts.has(phrase.sense))
-        return {kSorts};
+    if (kOrderings.has(phrase.sense))
+        return {kOrderings};
     if (phrase.sense == size)
         return {{size}};
     if (phrase.sense == above || phrase.sense == below)
@@ -248,10 +216,16 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     constexpr SenseSet kPointing{what,       howBig, howMuch, can,     remove, safe,
                                  Sense::why, keep,   general, ordinal, last};
     const SenseSet& senses = question.senses;
+    if (question.asksHow && senses.isWithin({how, can, what, general, undo}))
+        return steps(question, context, before.last);
     if (senses.meets({ordinal, last}) && senses.isWithin(kPointing)) {
-        if (auto found = onItem(question, context, before))
+        // Another list would be no answer, so nothing if there are not so many.
+        auto found = onItem(question, context, before);
+        if (found || !before.list.paths.empty())
             return found;
     }
+    if (senses.has(number) && senses.meets({ordinal, last}) && senses.isWithin(kPointing.with({number})))
+        return onFew(question, context, before);
     if (question.isBackward && senses.isWithin({what}) && before.last.paths.empty()) {
         if (auto found = onAll(question, context, before.last))
             return found;
@@ -261,10 +235,13 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     if (senses.has(Sense::why) && senses.isWithin(kAskingWhy))
         return reasons(question, context, before.last);
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation, general};
+    const bool isSizeOfIt = question.isContinued && senses.meets({howBig, takes}) &&
+                            senses.isWithin({howBig, howMuch, takes, what, general});
     const bool isAboutIt =
-        question.isBackward || (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
-    if (isAboutIt && !senses.meets(kNames) && !senses.meets(kSorts) && !senses.has(inside) &&
-        senses.meets({what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched}))
+        question.isBackward || isSizeOfIt || (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
+    if (isAboutIt && !senses.meets(kNames) && !senses.meets(kOrderings) && !senses.has(inside) &&
+        senses.meets(
+            {what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched, lastUse}))
         return onSame(question, context, before.last);
     // A name alone was looked for already.
     if (senses.meets({unknown, quoted}) && !question.isContinued && !question.isBackward)
@@ -272,8 +249,8 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     // "Only in Pictures" after a look at one file of a list means the list.
     const bool isOfList =
         senses.has(except) ||
-        (question.isContinued && senses.meets(kSorts.with({inside, above, below, size, period})));
-    if (isOfList || senses.isWithin(kSorts)) {
+        (question.isContinued && senses.meets(kOrderings.with({inside, above, below, size, period})));
+    if (isOfList || senses.isWithin(kOrderings)) {
         if (auto found = changed(question, context, before.list))
             return found;
     }

@@ -71,6 +71,9 @@ struct Language {
     /// More words: of space, sizes, order, dates and places. A phrase that stands in `words`, too, belongs
     /// there.
     std::span<const WordRow> measures{};
+    /// Articles that stand for a thing at the end of a clause or before a verb: "las" of "si las borro".
+    std::string_view clitics{};
+    bool joinsClitics = false; ///< writes them behind a verb, in one word: "borrarlas"
 };
 
 [[nodiscard]] const Language& english();

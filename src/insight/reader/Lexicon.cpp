@@ -160,7 +160,8 @@ bool isOneLetterApart(std::string_view a, std::string_view b)
            a.substr(at + 2) == b.substr(at + 2);
 }
 
-Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompounds)
+Lexicon::Lexicon(const Language& language)
+    : m_joinsClitics(language.joinsClitics), m_hasCompounds(language.hasCompounds)
 {
     for (const WordRow& row : language.words)
         add(row.words, {row.sense, nullptr});
@@ -174,6 +175,7 @@ Lexicon::Lexicon(const Language& language) : m_hasCompounds(language.hasCompound
         m_elided.emplace(word);
         m_words.emplace(word);
     });
+    eachPhrase(language.clitics, [&](std::string_view word) { m_clitics.emplace(word); });
     eachPhrase(language.ones, [&](std::string_view word) { m_ones.emplace(plainLetters(word)); });
 }
 
@@ -182,6 +184,20 @@ std::span<const Lexicon> Lexicon::all()
     static const std::array lexicons{Lexicon(english()), Lexicon(german()), Lexicon(french()),
                                      Lexicon(spanish()), Lexicon(italian())};
     return lexicons;
+}
+
+std::string_view Lexicon::withoutClitic(std::string_view word) const
+{
+    if (!m_joinsClitics)
+        return {};
+    for (const std::string& clitic : m_clitics) {
+        if (!word.ends_with(clitic))
+            continue;
+        const std::string_view verb = word.substr(0, word.size() - clitic.size());
+        if (verb.ends_with('r') || verb.ends_with("ndo"))
+            return verb;
+    }
+    return {};
 }
 
 bool Lexicon::meansOne(std::string_view phrase) const

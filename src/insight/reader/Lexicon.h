@@ -58,6 +58,10 @@ public:
     /// Whether a phrase, as typed, speaks of one thing only: "biggest file".
     [[nodiscard]] bool meansOne(std::string_view phrase) const;
     [[nodiscard]] bool isElided(const std::string& word) const { return m_elided.contains(word); }
+    /// Whether an article stands for a thing as well: "las" of "si las borro".
+    [[nodiscard]] bool isClitic(const std::string& word) const { return m_clitics.contains(word); }
+    /// The verb of a word that has such a pronoun behind it, "borrar" of "borrarlas"; empty if it has none.
+    [[nodiscard]] std::string_view withoutClitic(std::string_view word) const;
     [[nodiscard]] bool hasCompounds() const { return m_hasCompounds; }
 
 private:
@@ -78,6 +82,8 @@ private:
     std::unordered_set<std::string> m_words;
     std::unordered_set<std::string> m_elided;
     std::unordered_set<std::string> m_ones;
+    std::unordered_set<std::string> m_clitics;
+    bool m_joinsClitics = false;
     bool m_hasCompounds = false;
 };
 

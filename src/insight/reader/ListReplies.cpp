@@ -179,6 +179,7 @@ Answer shownList(const ListRequest& request, const AskContext& context, const Ho
             addLink(answer, *hits[i].finding);
     }
     const auto more = list.count - std::ssize(list.first);
+    answer.isCut = more > 0;
     if (more > 0 && list.first.size() > 1)
         lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
     if (!home.isComplete())
@@ -224,7 +225,9 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
         answer.paths.push_back(hit.entry->path);
         addLink(answer, *hit.finding);
     }
-    if (const auto more = count - std::ssize(hits); more > 0 && hits.size() > 1)
+    const auto more = count - std::ssize(hits);
+    answer.isCut = more > 0;
+    if (more > 0 && hits.size() > 1)
         lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
     answer.text = AskText::lines(std::move(lines));
     return answer;

@@ -30,10 +30,18 @@ public:
                 !takeKnown(2) && !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
                 takeUnknown();
         }
+        if (m_question.phrases.empty() && m_question.asksHow) {
+            m_question.phrases.push_back({Sense::how, {}, nullptr, 0, {}});
+            m_question.senses.add(Sense::how);
+        }
         return std::move(m_question);
     }
 
 private:
+    /// Of something that was spoken of.
+    static constexpr SenseSet kDone{Sense::remove, Sense::uninstall, Sense::undo, Sense::keep,
+                                    Sense::makeRoom};
+
     [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_plain).subspan(m_at); }
 
     /// "hwo": two letters in the wrong order make no other word that is known, even of a short one, which may
@@ -71,6 +79,10 @@ private:
         m_at += count;
         ++m_question.pieces;
         const bool isFirst = m_question.phrases.empty();
+        const bool isPronoun = holdsPronoun(phrase);
+        m_question.isBackward = m_question.isBackward || isPronoun;
+        if (phrase.sense == Sense::filler && count == 1 && isPronounHere(endsClause))
+            phrase.sense = Sense::backward;
         switch (phrase.sense) {
         case Sense::filler:
             break;
@@ -82,15 +94,47 @@ private:
             m_question.isContinued = true;
             break;
         case Sense::backward:
-            m_question.isBackward = true;
+            pointBack(isFirst);
+            break;
+        case Sense::how:
+            m_question.asksHow = true;
             break;
         default:
             phrase.isJoined = m_isJoined && !isFirst;
+            phrase.isBackward = std::exchange(m_pointsBack, false) || isPronoun;
             m_isJoined = false;
             m_question.senses.add(phrase.sense);
             m_question.phrases.push_back(std::move(phrase));
         }
         m_isJoined = m_isJoined || endsClause;
+    }
+
+    /// "It": of the clause that it stands in.
+    void pointBack(bool isFirst)
+    {
+        m_question.isBackward = true;
+        if (isFirst || m_isJoined)
+            m_pointsBack = true;
+        else
+            m_question.phrases.back().isBackward = true;
+    }
+
+    /// "Las" of "si las borro", "die" at the end of "wie groß ist die?": an article that stands for a thing.
+    /// Called with the next word at hand.
+    [[nodiscard]] bool isPronounHere(bool endsClause) const
+    {
+        if (!m_lexicon.isClitic(m_plain[m_at - 1]))
+            return false;
+        if (endsClause || m_at == m_plain.size())
+            return m_at > 1;
+        const Lexicon::Entry* const next = m_lexicon.find(m_plain[m_at]);
+        return next != nullptr && kDone.has(next->sense) && !m_plain[m_at].ends_with("ion");
+    }
+
+    /// "Borrarlas", "cancellarle": the verb with its pronoun in one word.
+    [[nodiscard]] bool holdsPronoun(const Phrase& phrase) const
+    {
+        return kDone.has(phrase.sense) && !m_lexicon.withoutClitic(m_plain[m_at - 1]).empty();
     }
 
     bool takeQuoted()
@@ -269,6 +313,20 @@ private:
         return false;
     }
 
+    /// "Tirarlas", "levarli": the verb is known.
+    bool takeWithClitic(const std::string& word)
+    {
+        const std::string verb(m_lexicon.withoutClitic(word));
+        if (verb.empty() || m_isName(word))
+            return false;
+        const Lexicon::Entry* const plain = m_lexicon.find(verb);
+        const Lexicon::Entry* const entry = plain != nullptr ? plain : m_lexicon.find(verb + "e");
+        if (entry == nullptr || !kDone.has(entry->sense))
+            return false;
+        take({entry->sense, {}, nullptr, 0, {}}, 1);
+        return true;
+    }
+
     void takeUnknown()
     {
         const std::string word = m_plain[m_at];
@@ -277,7 +335,7 @@ private:
             take({Sense::unknown, {}, nullptr, 0, {}}, 1);
             return;
         }
-        if (takeCompound(word) || takeInflected(word))
+        if (takeCompound(word) || takeInflected(word) || takeWithClitic(word))
             return;
         const Lexicon::Entry* const meant =
             m_typos == Typos::corrected ? m_lexicon.findMistyped(word) : nullptr;
@@ -304,6 +362,7 @@ private:
     std::vector<std::string> m_plain;
     std::size_t m_at = 0;
     bool m_isJoined = false;
+    bool m_pointsBack = false; ///< a word that points back stands before the next phrase
     Question m_question;
 };
 

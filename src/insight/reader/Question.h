@@ -25,6 +25,7 @@ struct Phrase {
     std::optional<Period> period;     ///< for `Sense::period`
     bool isJoined = false;            ///< "and" stands before it, or another sentence ends there
     std::vector<Phrase> excluded{};   ///< for `Sense::except`: what is left out, at least one
+    bool isBackward = false;          ///< a word beside it points back: "it", "them"
 };
 
 /// A question taken apart.
@@ -37,6 +38,7 @@ struct Question {
     std::size_t pieces = 0;    ///< words and phrases that it was taken apart into
     bool isContinued = false;  ///< begins with "and", or says "only"
     bool isBackward = false;   ///< says "it", "them" or "the one"
+    bool asksHow = false;      ///< says "how", which counts where nothing else is asked
 
     [[nodiscard]] const Phrase* first(Sense sense) const;
     /// The first subject; null if there is none.

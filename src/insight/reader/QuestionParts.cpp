@@ -30,6 +30,9 @@ Question part(const Question& question, std::size_t from, std::size_t to)
                                           std::next(start, static_cast<std::ptrdiff_t>(to))});
     // "… and can I delete them" follows on what stands before it.
     one.isContinued = from == 0 && question.isContinued;
+    // "How big is my disk and how much of it is used": only the second points back.
+    if (to - from < question.phrases.size())
+        one.isBackward = std::ranges::any_of(one.phrases, &Phrase::isBackward);
     return one;
 }
 

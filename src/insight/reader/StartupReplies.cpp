@@ -41,7 +41,9 @@ std::optional<Answer> startupOf(const Question& question, const AskContext& cont
 {
     const Subject* const subject = question.subject();
     const std::string asked = nameIn(question).name;
-    if (subject == nullptr || subject->id != SubjectID::startup || !context.startupItems || asked.empty())
+    // How much something takes is another question.
+    if (subject == nullptr || subject->id != SubjectID::startup || question.senses.has(Sense::howBig) ||
+        !context.startupItems || asked.empty())
         return std::nullopt;
     const std::string wanted = " " + plainLetters(asked) + " ";
     std::vector<Message> lines;

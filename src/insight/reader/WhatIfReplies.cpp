@@ -58,7 +58,8 @@ Answer said(Things things, const AskContext& context)
         lines.push_back({InsightTexts::kDownload, {{"name", tilde(one.path)}, {"size", Bytes{one.bytes}}}});
         answer.paths.push_back(one.path);
     }
-    if (things.each.size() > kShown)
+    answer.isCut = things.each.size() > kShown;
+    if (answer.isCut)
         lines.push_back(
             {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(things.each.size() - kShown)}}});
     answer.text = AskText::lines(std::move(lines));

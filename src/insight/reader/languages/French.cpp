@@ -93,7 +93,9 @@ const Language& french()
                                    false,
                                    "fichier,élément,chose,truc,dossier,répertoire,vidéo,film,clip,photo,"
                                    "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier",
-                                   french_words::measures()};
+                                   french_words::measures(),
+                                   "le,la,les,l",
+                                   false};
     return language;
 }
 

@@ -92,7 +92,9 @@ const Language& german()
         true,
         "datei,ding,sache,verzeichnis,video,film,clip,videodatei,foto,bild,lied,song,pdf,pdf-datei,dokument,"
         "archiv,download,tabelle,präsentation,buch",
-        german_words::measures()};
+        german_words::measures(),
+        "der,die,das,den,dem",
+        false};
     return language;
 }
 

@@ -95,7 +95,9 @@ const Language& italian()
         false,
         "elemento,cartella,filmato,fotografia,immagine,canzone,brano,documento,archivio,più,grande,grosso,"
         "pesante,vecchio,recente,nuovo,piccolo,grossa,vecchia,nuova,piccola,ultimo,scaricato,il,la",
-        italian_words::measures()};
+        italian_words::measures(),
+        "lo,la,li,le,gli",
+        true};
     return language;
 }
 

@@ -71,8 +71,8 @@ constexpr WordRow kAsking[] = {
                   "lo,cosa mi dici di,&,e di,e che dire di,nonché,e riguardo,o,oppure,più anche,e poi,poi "
                   "anche,e inoltre,e pure,e cosa mi dici,e invece,e quelli,e quelle,ovvero"},
     {Sense::backward, "quello,quella,quelli,quelle,questo,questa,questi,queste,ciò,esso,essi,essa,lo,"
-                      "eliminarlo,eliminarla,eliminarli,eliminarle,cancellarlo,cancellarla,cancellarli,"
-                      "cancellarle,ne,quell,loro,toglierli,toglierlo,buttarli,buttarlo"},
+                      "ne,quell,loro"},
+    {Sense::how, "come"},
     {Sense::filler,
      "ho fatto,fatto,hai fatto,funzionare,a cosa serve,a che serve,mio nipote,nipote,vorrei sapere,mi sai "
      "dire,potresti dirmi,mi potresti "
@@ -264,7 +264,8 @@ constexpr WordRow kAsking[] = {
      "applicazione,eliminare l app,eliminare il programma,eliminare l applicazione,cancellare l "
      "app,cancellare il programma,cancellare l applicazione,levare il programma,disintallare,disistallare"},
     {Sense::remove,
-     "eliminare,elimino,elimina,eliminato,eliminati,eliminata,eliminate,cancellare,cancello,cancella,"
+     "(eliminar|cancellar|toglier|buttar)(lo|la|li|le),eliminare,elimino,elimina,eliminato,eliminati,"
+     "eliminata,eliminate,cancellare,cancello,cancella,"
      "cancellato,cancellati,cancellate,rimuovere,rimuovo,rimosso,rimossi,togliere,tolgo,tolto,buttare,butto,"
      "butto via,buttare via,cestinare,cestino via,liberarmi,liberarmi "
      "di,spostare,spostato,svuotare,svuoto,svuota,fare a meno di,fare a meno,sbarazzarmi,sbarazzarmi "

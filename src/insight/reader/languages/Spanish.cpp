@@ -93,7 +93,9 @@ const Language& spanish()
         false,
         "archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,película,peli,clip,foto,imagen,fotografía,"
         "canción,pdf,documento,descarga,descargado,último",
-        spanish_words::measures()};
+        spanish_words::measures(),
+        "lo,la,los,las",
+        true};
     return language;
 }
 

@@ -67,9 +67,8 @@ constexpr WordRow kAsking[] = {
                   "pasa con,y qué pasa con,así como,&,y qué hay de los,y respecto a,o,u,asimismo,y "
                   "también,más aparte,y de paso,igual que,y qué hay con,o bien"},
     {Sense::backward, "ese,esa,esos,esas,este,esta,estos,estas,eso,esto,aquel,aquella,aquellos,lo,ellos,"
-                      "ellas,él,ella,los que,las que,el que,la "
-                      "que,borrarlo,borrarla,borrarlos,borrarlas,eliminarlo,eliminarlos,eliminarla,"
-                      "eliminarlas,quitarlo,quitarlos"},
+                      "ellas,él,ella,los que,las que,el que,la que"},
+    {Sense::how, "cómo"},
     {Sense::filler,
      "para qué sirve,sirve,para que sirve,para qué es,mi nieto,nieta,me gustaría saber,quisiera "
      "saber,podrías decirme,me podrías decir,puedes decirme "
@@ -237,7 +236,8 @@ constexpr WordRow kAsking[] = {
      "app,borrar la aplicación,borrar el programa,eliminar la app,eliminar la aplicación,eliminar el "
      "programa,remover la app,desinstaladas de,desintalar,desistalar"},
     {Sense::remove,
-     "borrar,borro,borra,borrado,borrados,borrada,borradas,eliminar,elimino,elimina,eliminado,eliminados,"
+     "(borrar|eliminar|quitar)(lo|la|los|las),borrar,borro,borra,borrado,borrados,borrada,borradas,eliminar,"
+     "elimino,elimina,eliminado,eliminados,"
      "quitar,quito,quita,tirar,tiro,tirado,suprimir,deshacerme,deshacerme "
      "de,mover,movido,vaciar,vacío,vacía,mandar a la papelera,prescindir,prescindir "
      "de,sobra,sobran,eliminadas,desechar,borré,eliminé,borarr,inútil,inútiles,eliminable,borrables,"
