@@ -137,7 +137,7 @@ struct Slot {
     bool isAfterInside = false;
 };
 
-constexpr SenseSet kSorts{biggest, smallest, oldest, newest, most};
+constexpr SenseSet kOrders{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kNames{subject, unknown, quoted};
 
 bool isAfterInside(const Phrases& phrases, std::size_t i)
@@ -149,8 +149,8 @@ bool isAfterInside(const Phrases& phrases, std::size_t i)
 Slot slotOf(const Phrases& phrases, std::size_t i, bool hadPlace)
 {
     const Phrase& phrase = phrases[i];
-    if (kSorts.has(phrase.sense))
-        return {kSorts};
+    if (kOrders.has(phrase.sense))
+        return {kOrders};
     if (phrase.sense == size)
         return {{size}};
     if (phrase.sense == above || phrase.sense == below)
@@ -263,7 +263,7 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation, general};
     const bool isAboutIt =
         question.isBackward || (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
-    if (isAboutIt && !senses.meets(kNames) && !senses.meets(kSorts) && !senses.has(inside) &&
+    if (isAboutIt && !senses.meets(kNames) && !senses.meets(kOrders) && !senses.has(inside) &&
         senses.meets({what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched}))
         return onSame(question, context, before.last);
     // A name alone was looked for already.
@@ -272,8 +272,8 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     // "Only in Pictures" after a look at one file of a list means the list.
     const bool isOfList =
         senses.has(except) ||
-        (question.isContinued && senses.meets(kSorts.with({inside, above, below, size, period})));
-    if (isOfList || senses.isWithin(kSorts)) {
+        (question.isContinued && senses.meets(kOrders.with({inside, above, below, size, period})));
+    if (isOfList || senses.isWithin(kOrders)) {
         if (auto found = changed(question, context, before.list))
             return found;
     }

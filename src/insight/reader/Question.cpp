@@ -70,6 +70,8 @@ private:
         const bool endsClause = m_words[m_at + count - 1].endsClause;
         m_at += count;
         ++m_question.pieces;
+        if (phrase.sense == Sense::filler)
+            takeRequest();
         const bool isFirst = m_question.phrases.empty();
         switch (phrase.sense) {
         case Sense::filler:
@@ -88,9 +90,23 @@ private:
             phrase.isJoined = m_isJoined && !isFirst;
             m_isJoined = false;
             m_question.senses.add(phrase.sense);
+            if (phrase.sense == Sense::ofOrlen || phrase.sense == Sense::canOrlen)
+                m_behindOrlen = m_question.pieces + 1;
             m_question.phrases.push_back(std::move(phrase));
         }
         m_isJoined = m_isJoined || endsClause;
+    }
+
+    /// "Can you find", "do you have": a request or a plain question, and not what Orlen does.
+    void takeRequest()
+    {
+        std::vector<Phrase>& phrases = m_question.phrases;
+        if (m_behindOrlen != m_question.pieces)
+            return;
+        if (phrases.back().sense == Sense::canOrlen)
+            phrases.back().sense = Sense::can;
+        else
+            phrases.pop_back();
     }
 
     bool takeQuoted()
@@ -304,6 +320,7 @@ private:
     std::vector<std::string> m_plain;
     std::size_t m_at = 0;
     bool m_isJoined = false;
+    std::size_t m_behindOrlen = 0; ///< the piece that follows "do you"
     Question m_question;
 };
 
