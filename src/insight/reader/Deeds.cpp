@@ -46,13 +46,6 @@ void mergeIncluded(Phrases& phrases)
         phrases.insert(phrases.begin(), {howMuch, {}, nullptr, 0, {}});
 }
 
-/// "Will you ever delete report.pdf" asks about the file.
-void mergeDeletes(Phrases& phrases)
-{
-    if (has(phrases, Sense::unknown) || has(phrases, Sense::quoted))
-        rename(phrases, Sense::deletes, Sense::remove);
-}
-
 /// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
 void mergeFreed(Phrases& phrases)
 {
@@ -120,7 +113,6 @@ void mergeDeeds(Phrases& phrases)
 {
     dropIdleInside(phrases);
     mergeIncluded(phrases);
-    mergeDeletes(phrases);
     mergeFreed(phrases);
     mergeGain(phrases);
 }

@@ -44,10 +44,24 @@ std::optional<ReadingPair> lately(const std::vector<FolderReading>& readings)
                             : ReadingPair::over(readings, readings.back().date - std::chrono::days(1));
 }
 
+/// "Since last week", with the first scan minutes ago: what little time lies between the scans says nothing
+/// of it.
+bool tellsTooLittle(const ReadingPair& pair, const Period& period)
+{
+    constexpr std::chrono::days kLeast{1};
+    constexpr int kLeastShare = 5;
+    const auto covered = pair.after.date - pair.before.date;
+    const bool isReached = pair.before.date < period.to;
+    return pair.before.date > period.from &&
+           (covered < kLeast || (!isReached && kLeastShare * covered < pair.after.date - period.from));
+}
+
 std::optional<Compared> comparedIn(const Question& question, const AskContext& context)
 {
     const Phrase* const phrase = question.first(Sense::period);
     const auto compared = [phrase](const std::optional<ReadingPair>& pair, bool isOver) {
+        if (phrase != nullptr && pair && tellsTooLittle(*pair, *phrase->period))
+            return std::optional<Compared>();
         const bool isSinceFirst = phrase != nullptr && pair && phrase->period->from < pair->before.date;
         return pair ? std::optional(Compared{*pair, isOver, isSinceFirst}) : std::nullopt;
     };

@@ -60,6 +60,8 @@ struct FigureRow {
 };
 
 struct Language {
+    /// Of Orlen itself. A phrase that stands here and in `words` belongs here.
+    std::span<const WordRow> ofOrlen;
     std::span<const WordRow> words;
     std::span<const SubjectRow> subjects;
     std::span<const FigureRow> figures;

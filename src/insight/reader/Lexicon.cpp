@@ -163,6 +163,8 @@ bool isOneLetterApart(std::string_view a, std::string_view b)
 Lexicon::Lexicon(const Language& language)
     : m_joinsClitics(language.joinsClitics), m_hasCompounds(language.hasCompounds)
 {
+    for (const WordRow& row : language.ofOrlen)
+        add(row.words, {row.sense, nullptr});
     for (const WordRow& row : language.words)
         add(row.words, {row.sense, nullptr});
     for (const WordRow& row : language.measures)

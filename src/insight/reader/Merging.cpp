@@ -1,5 +1,6 @@
 #include "insight/reader/Merging.h"
 
+#include "insight/reader/AboutOrlen.h"
 #include "insight/reader/Deeds.h"
 
 #include <algorithm>
@@ -312,6 +313,8 @@ Question merged(const Question& question)
     constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
     if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
+    mergeOrders(phrases);
+    mergeOfOrlen(phrases);
     dropAside(phrases);
     mergeLeftAlone(phrases);
     mergeDeeds(phrases);

@@ -78,6 +78,8 @@ private:
         const bool endsClause = m_words[m_at + count - 1].endsClause;
         m_at += count;
         ++m_question.pieces;
+        if (phrase.sense == Sense::filler)
+            takeRequest();
         const bool isFirst = m_question.phrases.empty();
         const bool isPronoun = holdsPronoun(phrase);
         m_question.isBackward = m_question.isBackward || isPronoun;
@@ -104,6 +106,8 @@ private:
             phrase.isBackward = std::exchange(m_pointsBack, false) || isPronoun;
             m_isJoined = false;
             m_question.senses.add(phrase.sense);
+            if (phrase.sense == Sense::ofOrlen || phrase.sense == Sense::canOrlen)
+                m_behindOrlen = m_question.pieces + 1;
             m_question.phrases.push_back(std::move(phrase));
         }
         m_isJoined = m_isJoined || endsClause;
@@ -135,6 +139,18 @@ private:
     [[nodiscard]] bool holdsPronoun(const Phrase& phrase) const
     {
         return kDone.has(phrase.sense) && !m_lexicon.withoutClitic(m_plain[m_at - 1]).empty();
+    }
+
+    /// "Can you find", "do you have": a request or a plain question, and not what Orlen does.
+    void takeRequest()
+    {
+        std::vector<Phrase>& phrases = m_question.phrases;
+        if (m_behindOrlen != m_question.pieces)
+            return;
+        if (phrases.back().sense == Sense::canOrlen)
+            phrases.back().sense = Sense::can;
+        else
+            phrases.pop_back();
     }
 
     bool takeQuoted()
@@ -363,6 +379,7 @@ private:
     std::size_t m_at = 0;
     bool m_isJoined = false;
     bool m_pointsBack = false; ///< a word that points back stands before the next phrase
+    std::size_t m_behindOrlen = 0; ///< the piece that follows "do you"
     Question m_question;
 };
 

@@ -29,6 +29,10 @@ enum class Sense : std::uint8_t {
     beyond,     ///< what Orlen has nothing to do with: viruses, speed
     deletes,    ///< "will you ever delete": asks what Orlen does, not what to remove
     reads,      ///< "does it read my": what of the person's it looks into
+    ofOrlen,    ///< "do you": what follows asks about Orlen, if it is no request
+    canOrlen,   ///< "can you": the same
+    otherWork,  ///< "make backups": nothing that Orlen does
+    order,      ///< "delete everything", "rm -rf": names nothing
     resident,   ///< whether Orlen runs while nobody uses it
     ownRemoval, ///< to remove Orlen itself
     lastUse,    ///< "last time I used"

@@ -81,6 +81,7 @@ constexpr FigureRow kFigureRows[] = {
 const Language& english()
 {
     static const Language language{
+        english_words::ofOrlen(),
         english_words::asking(),
         english_words::subjects(),
         english_words::kFigureRows,

@@ -5,38 +5,6 @@ namespace orlen::AskReader::english_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
-    {Sense::rhythm,
-     "how often should i,how often should one,how often should we,how often do i have to,how often "
-     "do i need to,how often must i,how often do you recommend,how often is it good to,how "
-     "often to,how regularly,how frequently,how often is it worth"},
-    {Sense::rights,
-     "need my password,want my password,ask for my password,asks for my "
-     "password,root,sudo,admin,administrator,admin rights,administrator rights,root rights,superuser,as "
-     "root,root access,sudo rights,root privileges,admin privileges,admin password,root password"},
-    {Sense::inPeace, "alone,in peace"},
-    {Sense::ownRemoval,
-     "(uninstall|remove|delete|get rid of|deinstall|uninstalling|removing|deleting|install and remove) "
-     "(orlen|yourself|this app|this program|this tool|this software),uninstall you,orlen (itself|) be "
-     "(uninstalled|removed),(uninstall|remove|delete) orlen itself"},
-    {Sense::resident,
-     "(do you|does orlen|will orlen|does this app|does this program|does this tool) (run|work|stay|start) "
-     "(in the background|all the time|automatically|when closed|permanently|by itself|on its own|at login|"
-     "at boot|at startup|with the computer|as a service|a service|a daemon),(do you|does orlen|will "
-     "orlen) (keep running|always run),(orlen|you) (doing|do) in the background,(is orlen|are you) "
-     "(running in the background|always running|running all the time|active in the background|a "
-     "background process|a background service|a daemon|running now|still running),this (app|program|tool) "
-     "(run in the background|running in the background|always running)"},
-    {Sense::deletes,
-     "(will|would|does|do|could|can) (you|orlen|it|this program|this app|the program|the app) ever "
-     "(delete|remove|erase),(will|would) (you|orlen|it|this program|this app|the program|the app) (delete|"
-     "remove|erase),(does|do) (you|orlen|it|this program|this app|the program|the app) (delete|remove|"
-     "erase),(are you|is orlen|is it|is this app) (going to|gonna) (delete|remove|erase)"},
-    {Sense::reads,
-     "(does|do|will|can) (it|you|orlen|this program|this app|the program|the app) (scan|read|look at|look "
-     "into|look in|open|access|go through|see) my,(does|do|will|can) (it|you|orlen|this program|this app|"
-     "the program|the app) (scan|read) private,(does|do|can) (it|you|orlen) (read|scan),(is it|is orlen|"
-     "are you|is this app) (reading|scanning) my"},
-    // Orlen itself, where it is asked what it does.
     {Sense::filler,
      "i need to know,i want to know,i would like to know,i'd like to know,id like to know,we need to "
      "know,just want to know,just wanted to know,"

@@ -86,7 +86,8 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& french()
 {
-    static const Language language{french_words::asking(),
+    static const Language language{french_words::ofOrlen(),
+                                   french_words::asking(),
                                    french_words::subjects(),
                                    french_words::kFigureRows,
                                    "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd",

@@ -5,11 +5,6 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
-    {Sense::ruleOut, "exclure un dossier,exclure un fichier,comment exclure,exclure du scan,exclure de l "
-                     "analyse,exclusions,ajouter une exception,liste blanche,ne plus proposer,ne plus "
-                     "suggérer,ne jamais analyser,comment j exclus,exclure des dossiers,ne pas "
-                     "analyser,ignorer un dossier,dossier à ignorer,liste d exclusion,ajouter une "
-                     "exclusion,exclure mon,exclure le dossier,exclure ce dossier,mettre de côté un dossier"},
     {Sense::installed, "installé,installés,installée,installées,est installé,sont installées,sont installés"},
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "

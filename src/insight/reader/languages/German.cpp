@@ -85,6 +85,7 @@ constexpr FigureRow kFigureRows[] = {
 const Language& german()
 {
     static const Language language{
+        german_words::ofOrlen(),
         german_words::asking(),
         german_words::subjects(),
         german_words::kFigureRows,

@@ -5,12 +5,6 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
-    {Sense::ruleOut,
-     "ausschließen,schließe aus,ordner ausschließen,ausnahme hinzufügen,ausnahmen,ausnahmeliste,nie "
-     "scannen,nicht scannen,vom scan ausnehmen,whitelist,nie wieder vorschlagen,nicht mehr "
-     "vorschlagen,ordner auslassen,ordner überspringen,wie schließe ich,wie nehme ich aus,nie mehr "
-     "vorschlagen,ordner ignorieren,ordner zu ignorieren,ignorierliste,nie mehr "
-     "scannen,ausschlussliste,ordner auszuschließen,schließ aus,ausgeschlossen,schließe ich,schließ ich"},
     {Sense::installed, "installiert,sind installiert,ist installiert"},
     {Sense::self,
      "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist du,was bist "

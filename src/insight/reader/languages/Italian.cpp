@@ -88,6 +88,7 @@ constexpr FigureRow kFigureRows[] = {
 const Language& italian()
 {
     static const Language language{
+        italian_words::ofOrlen(),
         italian_words::asking(),
         italian_words::subjects(),
         italian_words::kFigureRows,

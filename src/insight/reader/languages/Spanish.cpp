@@ -86,6 +86,7 @@ constexpr FigureRow kFigureRows[] = {
 const Language& spanish()
 {
     static const Language language{
+        spanish_words::ofOrlen(),
         spanish_words::asking(),
         spanish_words::subjects(),
         spanish_words::kFigureRows,

@@ -5,13 +5,6 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
-    {Sense::ruleOut,
-     "excluir una carpeta,excluir un archivo,cómo excluyo,cómo excluir,excluir del "
-     "análisis,exclusiones,añadir una excepción,lista blanca,no volver a sugerir,no analizar,excluir "
-     "carpetas,excluir mi carpeta,excluir archivos,agregar una excepción,añadir una exclusión,agregar una "
-     "exclusión,ignorar una carpeta,ignorar carpetas,no escanear,no vuelvas a sugerir,no sugerir más,no me "
-     "sugieras,dejar fuera del análisis,lista de exclusión,lista de exclusiones,que no analice,excluyo una "
-     "carpeta,excluyo"},
     {Sense::installed, "instalado,instalados,instalada,instaladas,está instalado,están instaladas,tengo "
                        "instaladas,tengo instalado,instalé,instalamos,está instalada,están instalados"},
     {Sense::self,

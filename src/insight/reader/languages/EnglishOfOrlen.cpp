@@ -1,0 +1,77 @@
+#include "insight/reader/languages/Tables.h"
+
+namespace orlen::AskReader::english_words {
+
+namespace {
+
+constexpr WordRow kOfOrlen[] = {
+    {Sense::ofOrlen,
+     "(do|will|did) (you|orlen) (ever|actually|really|also|automatically|secretly|),(does|will) (orlen|this "
+     "app|this program|this tool|this software|the app|the program) "
+     "(ever|actually|really|also|automatically|secretly|),(are you|is orlen|is this app|is this program) "
+     "(going to|gonna|planning to|about to|able to|)"},
+    {Sense::canOrlen,
+     "(can|could|would) (you|orlen) (ever|actually|really|also|automatically|secretly|please|),(can|could|"
+     "would) (this app|this program|this tool|this software|the app|the program) (ever|actually|really|also|"
+     "automatically|secretly|)"},
+    {Sense::otherWork,
+     "(make|makes|create|creates|keep|keeps|take|takes|do|does|doing|making|creating) (a backup|backups|back-"
+     "ups|a back-up|a copy of my|security copies),back (up|it up|them up) (my|all|the|everything),backup my,"
+     "(sync|synchronise|synchronize|compress|convert|resize|rename|organise|organize|repair|fix|print|play|"
+     "crop|translate|burn|backup) my,update my (apps|programs|system)"},
+    {Sense::order,
+     "rm -rf,rm -fr,rm -r,(sudo|) rm,(delete|erase|wipe|remove|destroy|nuke) (everything|it all|all of it),"
+     "(wipe|erase|format|nuke) (my|the|this) (whole|entire|) (disk|drive|computer|machine|hard drive)"},
+    {Sense::rhythm,
+     "how often should i,how often should one,how often should we,how often do i have to,how often "
+     "do i need to,how often must i,how often do you recommend,how often is it good to,how "
+     "often to,how regularly,how frequently,how often is it worth"},
+    {Sense::rights,
+     "need my password,want my password,ask for my password,asks for my "
+     "password,root,sudo,admin,administrator,admin rights,administrator rights,root rights,superuser,as "
+     "root,root access,sudo rights,root privileges,admin privileges,admin password,root password"},
+    {Sense::inPeace, "alone,in peace"},
+    {Sense::ownRemoval,
+     "(uninstall|remove|delete|get rid of|deinstall|uninstalling|removing|deleting|install and remove) "
+     "(orlen|yourself|this app|this program|this tool|this software),uninstall you,orlen (itself|) be "
+     "(uninstalled|removed),(uninstall|remove|delete) orlen itself"},
+    {Sense::resident,
+     "(do you|does orlen|will orlen|does this app|does this program|does this tool) (run|work|stay|start) "
+     "(in the background|all the time|automatically|when closed|permanently|by itself|on its own|at login|"
+     "at boot|at startup|with the computer|as a service|a service|a daemon),(do you|does orlen|will "
+     "orlen) (keep running|always run),(orlen|you) (doing|do) in the background,(is orlen|are you) "
+     "(running in the background|always running|running all the time|active in the background|a "
+     "background process|a background service|a daemon|running now|still running),this (app|program|tool) "
+     "(run in the background|running in the background|always running)"},
+    {Sense::deletes,
+     "(will|would|does|do|could|can) (you|orlen|it|this program|this app|the program|the app) ever "
+     "(delete|remove|erase),will (you|orlen|it|this program|this app|the program|the app) (delete|"
+     "remove|erase),(does|do) (you|orlen|it|this program|this app|the program|the app) (delete|remove|"
+     "erase),(are you|is orlen|is it|is this app) (going to|gonna) (delete|remove|erase)"},
+    {Sense::deletes,
+     "(will|does|do) (you|orlen|it|this program|this app|the program|the app) (change|modify|edit|alter|"
+     "overwrite|damage|destroy|touch)"},
+    {Sense::privacy,
+     "(do|does|will) (you|orlen|it|this app|this program) (store|log|record|remember|sell|collect|share|save|"
+     "keep a copy of|know|see|track|watch) (my|me|any|anything|what i|who i),sell my,sold to,sell"},
+    {Sense::trust,
+     "(are|is) (you|orlen|this app|this program) (safe|secure|legit|a scam|dangerous|reliable|honest|"
+     "malware|spyware|a virus|trustworthy)"},
+    {Sense::filler, "would you say,do you (believe|reckon),can you confirm"},
+    {Sense::resident, "(do you|does orlen|does this app) (run|work|scan) (at night|overnight|while i sleep)"},
+    {Sense::reads,
+     "(look|looking|peek|snoop|poke|dig|go|nose) (inside|around in|into|through) my,(look|peek) inside the,"
+     "(does|do|will|can) (it|you|orlen|this program|this app|the program|the app) (scan|read|look at|look "
+     "into|look in|open|access|go through|see) my,(does|do|will|can) (it|you|orlen|this program|this app|"
+     "the program|the app) (scan|read) private,(does|do|can) (it|you|orlen) (read|scan),(is it|is orlen|"
+     "are you|is this app) (reading|scanning) my"},
+};
+
+} // namespace
+
+std::span<const WordRow> ofOrlen()
+{
+    return kOfOrlen;
+}
+
+} // namespace orlen::AskReader::english_words
