@@ -246,11 +246,20 @@ ORLEN_WIDE QuickLook::Finds QuickLook::findsInWideLanes(const QuickLook& other) 
     return finds;
 }
 
-float QuickLook::shareIn(const QuickLook& other) const
+QuickLook::Finds QuickLook::allFindsIn(const QuickLook& other) const
 {
-    const Finds finds = WideLanes::areUsed() ? findsInWideLanes(other) : findsIn(other);
-    const auto found = std::span(finds).first(m_outline.blocks().size());
-    return CommonMotion::fitted(found).followingShare(found);
+    return WideLanes::areUsed() ? findsInWideLanes(other) : findsIn(other);
+}
+
+/// The share of either one's structure that is found in the other one under a common motion.
+float QuickLook::sharedBy(const QuickLook& one, const QuickLook& other)
+{
+    const Finds finds = one.allFindsIn(other);
+    const Finds otherFinds = other.allFindsIn(one);
+    const auto found = std::span(finds).first(one.m_outline.blocks().size());
+    const auto otherFound = std::span(otherFinds).first(other.m_outline.blocks().size());
+    const auto [motion, otherMotion] = CommonMotion::fitted(found, otherFound);
+    return (motion.followingShare(found) + otherMotion.followingShare(otherFound)) / 2;
 }
 
 float QuickLook::hope(const QuickLook& one, const QuickLook& other)
@@ -259,7 +268,7 @@ float QuickLook::hope(const QuickLook& one, const QuickLook& other)
     constexpr float kHopeless = 0.17F;      // 1 of 2,000 changed copies has less, 6 of 10 others do
     if (std::max(one.m_outline.blocks().size(), other.m_outline.blocks().size()) < kLeastBlocks)
         return 1;
-    const float share = (one.shareIn(other) + other.shareIn(one)) / 2;
+    const float share = sharedBy(one, other);
     return share < kHopeless ? 0 : share;
 }
 

@@ -26,9 +26,9 @@ private:
 
     using Finds = std::array<BlockFind, PictureOutline::kMostBlocks>;
 
-    /// The share of this one's structure that is found in the other one under a common motion.
-    [[nodiscard]] float shareIn(const QuickLook& other) const;
+    [[nodiscard]] static float sharedBy(const QuickLook& one, const QuickLook& other);
     /// Where each of this one's blocks is.
+    [[nodiscard]] Finds allFindsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsInWideLanes(const QuickLook& other) const;
     [[nodiscard]] static BlockFind found(PictureOutline::Block block, unsigned least);
