@@ -21,6 +21,9 @@ public:
 
     /// The motion most of the structure follows.
     [[nodiscard]] static CommonMotion fitted(std::span<const BlockFind> finds);
+    /// That of either one, which takes hardly longer than of one alone.
+    [[nodiscard]] static std::array<CommonMotion, 2> fitted(std::span<const BlockFind> one,
+                                                            std::span<const BlockFind> other);
 
     /// How closely a match follows the motion: 1 exactly, one half at two pixels off, approaching 0.
     [[nodiscard]] float fit(const BlockFind& find) const;

@@ -51,10 +51,10 @@ public:
         constexpr int kReach = (kSearchReach + Search::kScale - 1) / Search::kScale;
         for (std::size_t i = m_finds.size(); i < std::min(count, m_blocks.size()); ++i)
             m_finds.push_back(m_one.find(m_blocks[i], m_other, kReach, guessedMove(m_blocks[i])));
-        m_motion = CommonMotion::fitted(m_finds);
     }
 
     [[nodiscard]] const CommonMotion& motion() const { return m_motion; }
+    void setMotion(const CommonMotion& motion) { m_motion = motion; }
     [[nodiscard]] const std::vector<BlockFind>& finds() const { return m_finds; }
 
     /// The share of the structure found that follows the motion.
@@ -98,6 +98,9 @@ struct LookUps {
     {
         forward.findBlocks(count);
         backward.findBlocks(count);
+        const auto [motion, motionBack] = CommonMotion::fitted(forward.finds(), backward.finds());
+        forward.setMotion(motion);
+        backward.setMotion(motionBack);
     }
     [[nodiscard]] float followingShare() const
     {

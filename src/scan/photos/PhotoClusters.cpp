@@ -207,6 +207,9 @@ void Clusters::place(Newcomer& newcomer)
     if (const Candidate* const found = match(newcomer)) {
         m_clusterOf[newcomer.photo] = m_clusterOf[found->photo];
         m_clusters[m_clusterOf[found->photo]].push_back(newcomer.photo);
+        // For the choice of the keeper.
+        m_tiles.keep(found->photo);
+        m_tiles.keep(newcomer.photo);
         return;
     }
     m_clusterOf[newcomer.photo] = m_clusters.size();

@@ -18,8 +18,10 @@
 // two blocks finds out: the fewer of their bits differ, the more they are alike. As in FineCheck, one motion
 // is fitted to where the blocks are found, and it matters how much of the structure follows it.
 //
-// The rows of a block are the bytes of one number, and so are those below each other at any place. How many
-// bits differ and how far the block would have moved make up one number, too, of which the least is sought.
+// How many bits differ and how far the block would have moved make up one number, too, of which the least is
+// sought. On any processor, the rows of a block are the bytes of one number, and so are those below each
+// other at any place. In wide lanes, four pixels of a row are looked up in a table of how many differ, at all
+// places beside each other at a time.
 
 namespace orlen {
 
@@ -56,18 +58,18 @@ struct Moves {
 
 constexpr int kFarthest = 5; ///< pixels that a block may have moved
 constexpr Moves<kFarthest> kBlockMoves;
-constexpr unsigned kRankBits = 7;
+constexpr unsigned kRankBits = 8;
 
 #ifdef __x86_64__
 
 constexpr std::size_t kAtATime = 16;
 
-/// For each way to the right the ranks of the ways down; more than any where there is none.
+/// For each way down the ranks of the ways to the right, and something where there is none.
 constexpr auto kRanksOfWays = [] {
-    std::array<std::array<std::uint16_t, kAtATime>, Moves<kFarthest>::kSide> ranks{};
-    for (std::size_t right = 0; right < ranks.size(); ++right) {
-        ranks[right].fill(std::numeric_limits<std::uint16_t>::max());
-        std::ranges::copy(kBlockMoves.rank[right], ranks[right].begin());
+    std::array<std::array<std::uint8_t, kAtATime>, Moves<kFarthest>::kSide> ranks{};
+    for (std::size_t down = 0; down < ranks.size(); ++down) {
+        for (std::size_t right = 0; right < ranks.size(); ++right)
+            ranks[down][right] = kBlockMoves.rank[right][down];
     }
     return ranks;
 }();
@@ -83,92 +85,117 @@ constexpr auto kDifferentBits = [] {
     return different;
 }();
 
-/// Looks for a block at sixteen places below each other at a time. Four pixels are looked up in one
-/// instruction: the left ones of each row are in the lower half of the lanes, the right ones in the upper.
+/// Looks for a block at sixteen places beside each other, of which the first eleven count, in one row after
+/// the other. The left halves of its rows are in the lower half of the lanes, the right ones in the upper.
 class WideBlock {
 public:
-    ORLEN_WIDE explicit WideBlock(std::uint64_t pixels)
+    static constexpr int kRows = PictureOutline::kBlock;
+    static constexpr int kRowsNeeded = kRows + 2 * kFarthest;
+
+    ORLEN_WIDE WideBlock(const PictureOutline::Rows& rows, PictureOutline::Block block)
     {
-        for (__m256i& row : m_rows) {
-            row = _mm256_inserti128_si256(_mm256_castsi128_si256(load(kDifferentBits[pixels % 16].data())),
-                                          load(kDifferentBits[pixels / 16 % 16].data()), 1);
-            pixels >>= 8U;
+        for (std::size_t i = 0; i < kRows; ++i) {
+            const std::uint64_t pixels = rows[block.top + i] >> block.left;
+            m_rows[i] = halves(kDifferentBits[pixels % 16].data(), kDifferentBits[pixels / 16 % 16].data());
         }
     }
 
-    /// The column is that of the uppermost place.
-    ORLEN_WIDE void look(const std::uint8_t* column, const std::array<std::uint16_t, kAtATime>& ranks)
+    /// Those that moved from `first` to `last` down, at least two ways. `fours` are those of the leftmost
+    /// place in the topmost row that is needed, which is `above` rows above the block.
+    ORLEN_WIDE void look(const std::uint8_t* fours, int above, int first, int last)
     {
-        const __m256i above = halves(column);
-        const __m256i below = halves(column + kAtATime);
-        const __m256i sums = add<1>(_mm256_shuffle_epi8(m_rows[0], above), above, below);
-        const __m128i different =
-            _mm_add_epi8(_mm256_castsi256_si128(sums), _mm256_extracti128_si256(sums, 1));
-        const __m256i found =
-            _mm256_or_si256(_mm256_slli_epi16(_mm256_cvtepu8_epi16(different), kRankBits),
-                            _mm256_loadu_si256(reinterpret_cast<const __m256i*>(ranks.data())));
-        m_least = _mm256_min_epu16(m_least, found);
+        __m256i rows[kRowsNeeded]; // each for up to eight rows of places
+#pragma GCC unroll 18
+        for (int i = 0; i < kRowsNeeded; ++i, fours += PictureOutline::kSide)
+            rows[i] = halves(fours, fours + 4);
+        // At an edge some are looked at again, which changes nothing.
+        for (int down = -kFarthest; down <= kFarthest; down += 2) {
+            const int one = std::clamp(down, first, last - 1);
+            lookAtTwo(rows + above + one, kRanksOfWays[static_cast<std::size_t>(one + kFarthest)].data());
+        }
     }
 
     /// Of the places from one to another.
     [[nodiscard]] ORLEN_WIDE unsigned least(int first, int last) const
     {
-        const __m256i lanes = _mm256_setr_epi16(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
-        const __m256i isOutside =
-            _mm256_or_si256(_mm256_cmpgt_epi16(_mm256_set1_epi16(static_cast<std::int16_t>(first)), lanes),
-                            _mm256_cmpgt_epi16(lanes, _mm256_set1_epi16(static_cast<std::int16_t>(last))));
-        const __m256i all = _mm256_or_si256(m_least, isOutside);
-        const __m128i least =
-            _mm_minpos_epu16(_mm_min_epu16(_mm256_castsi256_si128(all), _mm256_extracti128_si256(all, 1)));
-        return static_cast<std::uint16_t>(_mm_cvtsi128_si32(least));
+        constexpr std::int16_t kHalf = kAtATime / 2;
+        const __m128i lanes = _mm_setr_epi16(0, 1, 2, 3, 4, 5, 6, 7);
+        const __m128i left = within(folded(m_left), lanes, first, last);
+        const __m128i right =
+            within(folded(m_right), _mm_add_epi16(lanes, _mm_set1_epi16(kHalf)), first, last);
+        return static_cast<std::uint16_t>(_mm_cvtsi128_si32(_mm_minpos_epu16(_mm_min_epu16(left, right))));
     }
 
 private:
-    static constexpr int kRows = PictureOutline::kBlock;
-
-    ORLEN_WIDE static __m128i load(const std::uint8_t* bytes)
+    ORLEN_WIDE static __m256i halves(const std::uint8_t* lower, const std::uint8_t* upper)
     {
-        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes));
+        const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(lower));
+        const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(upper));
+        return _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
     }
-    ORLEN_WIDE static __m256i halves(const std::uint8_t* rows)
+    /// How many bits differ in a row of places, for either half.
+    ORLEN_WIDE [[nodiscard]] __m256i different(const __m256i* rows) const
     {
-        const __m256i both = _mm256_broadcastsi128_si256(load(rows));
-        return _mm256_and_si256(_mm256_srlv_epi32(both, _mm256_setr_epi32(0, 0, 0, 0, 4, 4, 4, 4)),
-                                _mm256_set1_epi8(15));
+        __m256i sums = _mm256_shuffle_epi8(m_rows[0], rows[0]);
+        for (std::size_t i = 1; i < kRows; ++i)
+            sums = _mm256_add_epi8(sums, _mm256_shuffle_epi8(m_rows[i], rows[i]));
+        return sums;
     }
-    /// The row, and those that follow.
-    template <int row>
-    ORLEN_WIDE [[nodiscard]] __m256i add(__m256i sums, __m256i above, __m256i below) const
+    /// At two rows of places.
+    ORLEN_WIDE void lookAtTwo(const __m256i* rows, const std::uint8_t* rankOfBoth)
     {
-        if constexpr (row == kRows) {
-            return sums;
-        } else {
-            const __m256i rows = _mm256_alignr_epi8(below, above, row);
-            return add<row + 1>(_mm256_add_epi8(sums, _mm256_shuffle_epi8(m_rows[row], rows)), above, below);
-        }
+        const __m256i one = different(rows);
+        const __m256i other = different(rows + 1);
+        const __m256i sums = _mm256_add_epi8(_mm256_permute2x128_si256(one, other, 0x20),
+                                             _mm256_permute2x128_si256(one, other, 0x31));
+        const __m256i ranks = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(rankOfBoth));
+        m_left = _mm256_min_epu16(m_left, _mm256_unpacklo_epi8(ranks, sums));
+        m_right = _mm256_min_epu16(m_right, _mm256_unpackhi_epi8(ranks, sums));
+    }
+    ORLEN_WIDE static __m128i folded(__m256i found)
+    {
+        return _mm_min_epu16(_mm256_castsi256_si128(found), _mm256_extracti128_si256(found, 1));
+    }
+    ORLEN_WIDE static __m128i within(__m128i found, __m128i lanes, int first, int last)
+    {
+        const __m128i isOutside =
+            _mm_or_si128(_mm_cmpgt_epi16(_mm_set1_epi16(static_cast<std::int16_t>(first)), lanes),
+                         _mm_cmpgt_epi16(lanes, _mm_set1_epi16(static_cast<std::int16_t>(last))));
+        return _mm_or_si128(found, isOutside);
     }
 
     __m256i m_rows[kRows];
-    __m256i m_least = _mm256_set1_epi16(-1);
+    // The least at the left places and at the right ones, each of both rows that are looked at.
+    __m256i m_left = _mm256_set1_epi16(-1);
+    __m256i m_right = _mm256_set1_epi16(-1);
 };
+
+/// From each of sixteen pixels on, four of them. `pixels` has eight bytes of a row.
+ORLEN_WIDE inline __m256i foursOf(__m256i pixels, __m256i bytes)
+{
+    // Shifted to the upper end of sixteen bits, as far as each pixel is from there, and back.
+    const __m256i shifts = _mm256_broadcastsi128_si256(
+        _mm_setr_epi16(1 << 12, 1 << 11, 1 << 10, 1 << 9, 1 << 8, 1 << 7, 1 << 6, 1 << 5));
+    return _mm256_srli_epi16(_mm256_mullo_epi16(_mm256_shuffle_epi8(pixels, bytes), shifts), 12);
+}
 
 #endif
 
 } // namespace
 
-QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline)
+QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline), m_isWide(WideLanes::areUsed())
 {
-    if (WideLanes::areUsed())
-        fillColumnsInWideLanes();
+    if (m_isWide)
+        fillFours();
     else
         fillColumns();
 }
 
-ORLEN_INLINE void QuickLook::fillColumns()
+void QuickLook::fillColumns()
 {
     // Sixteen pixels at a time, of which eight are taken from eight places on.
     constexpr std::size_t kByte = 8;
-    std::uint8_t* next = m_columns.data() + kMargin;
+    std::uint8_t* next = m_pixels.data() + kMargin;
     for (std::size_t first = 0; first < kPlaces; first += kByte) {
         std::array<std::uint16_t, PictureOutline::kSide> wide{};
         for (std::size_t y = 0; y < wide.size(); ++y)
@@ -181,9 +208,25 @@ ORLEN_INLINE void QuickLook::fillColumns()
     }
 }
 
-ORLEN_WIDE void QuickLook::fillColumnsInWideLanes()
+ORLEN_WIDE void QuickLook::fillFours()
 {
-    fillColumns();
+#ifdef __x86_64__
+    // The byte that each pixel is in and the next one. The last one's is nothing.
+    const __m256i evens = _mm256_setr_m128i(_mm_set1_epi16(0x0100), _mm_set1_epi16(0x0302));
+    const __m256i odds = _mm256_add_epi8(evens, _mm256_set1_epi8(1));
+    std::uint8_t* next = m_pixels.data() + kMargin;
+    for (const std::uint64_t& row : m_outline.rows()) {
+        const __m128i bytes = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&row));
+        const __m256i pixels = _mm256_broadcastsi128_si256(bytes);
+        for (const char half : {'\0', '\4'}) {
+            const __m256i from = _mm256_set1_epi8(half);
+            const __m256i fours = _mm256_packus_epi16(foursOf(pixels, _mm256_add_epi8(evens, from)),
+                                                      foursOf(pixels, _mm256_add_epi8(odds, from)));
+            _mm256_storeu_si256(reinterpret_cast<__m256i*>(next), fours);
+            next += PictureOutline::kSide / 2;
+        }
+    }
+#endif
 }
 
 /// The least comes from how many bits differ, above the rank of the move.
@@ -231,14 +274,13 @@ ORLEN_WIDE QuickLook::Finds QuickLook::findsInWideLanes(const QuickLook& other) 
 #ifdef __x86_64__
     std::size_t count = 0;
     for (const PictureOutline::Block block : m_outline.blocks()) {
-        WideBlock sought(pixels(block.left, block.top));
-        const int top = block.top - kFarthest;
-        for (int x = std::max(block.left - kFarthest, 0); x <= std::min(block.left + kFarthest, kPlaces - 1);
-             ++x) {
-            const int right = x - block.left + kFarthest;
-            sought.look(other.column(x, top), kRanksOfWays[static_cast<std::size_t>(right)]);
-        }
-        finds[count++] = found(block, sought.least(-top, kPlaces - 1 - top));
+        const int left = block.left - kFarthest;
+        const int top = std::clamp(block.top - kFarthest, 0, PictureOutline::kSide - WideBlock::kRowsNeeded);
+        WideBlock sought(m_outline.rows(), block);
+        sought.look(other.fours(left, top), block.top - top, std::max(-kFarthest, -block.top),
+                    std::min(kFarthest, kPlaces - 1 - block.top));
+        finds[count++] =
+            found(block, sought.least(std::max(0, -left), std::min(2 * kFarthest, kPlaces - 1 - left)));
     }
 #else
     finds = findsIn(other);
@@ -246,11 +288,20 @@ ORLEN_WIDE QuickLook::Finds QuickLook::findsInWideLanes(const QuickLook& other) 
     return finds;
 }
 
-float QuickLook::shareIn(const QuickLook& other) const
+QuickLook::Finds QuickLook::allFindsIn(const QuickLook& other) const
 {
-    const Finds finds = WideLanes::areUsed() ? findsInWideLanes(other) : findsIn(other);
-    const auto found = std::span(finds).first(m_outline.blocks().size());
-    return CommonMotion::fitted(found).followingShare(found);
+    return m_isWide ? findsInWideLanes(other) : findsIn(other);
+}
+
+/// The share of either one's structure that is found in the other one under a common motion.
+float QuickLook::sharedBy(const QuickLook& one, const QuickLook& other)
+{
+    const Finds finds = one.allFindsIn(other);
+    const Finds otherFinds = other.allFindsIn(one);
+    const auto found = std::span(finds).first(one.m_outline.blocks().size());
+    const auto otherFound = std::span(otherFinds).first(other.m_outline.blocks().size());
+    const auto [motion, otherMotion] = CommonMotion::fitted(found, otherFound);
+    return (motion.followingShare(found) + otherMotion.followingShare(otherFound)) / 2;
 }
 
 float QuickLook::hope(const QuickLook& one, const QuickLook& other)
@@ -259,7 +310,7 @@ float QuickLook::hope(const QuickLook& one, const QuickLook& other)
     constexpr float kHopeless = 0.17F;      // 1 of 2,000 changed copies has less, 6 of 10 others do
     if (std::max(one.m_outline.blocks().size(), other.m_outline.blocks().size()) < kLeastBlocks)
         return 1;
-    const float share = (one.shareIn(other) + other.shareIn(one)) / 2;
+    const float share = sharedBy(one, other);
     return share < kHopeless ? 0 : share;
 }
 

@@ -26,18 +26,22 @@ private:
 
     using Finds = std::array<BlockFind, PictureOutline::kMostBlocks>;
 
-    /// The share of this one's structure that is found in the other one under a common motion.
-    [[nodiscard]] float shareIn(const QuickLook& other) const;
+    [[nodiscard]] static float sharedBy(const QuickLook& one, const QuickLook& other);
     /// Where each of this one's blocks is.
+    [[nodiscard]] Finds allFindsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsInWideLanes(const QuickLook& other) const;
     [[nodiscard]] static BlockFind found(PictureOutline::Block block, unsigned least);
     void fillColumns();
-    void fillColumnsInWideLanes();
+    void fillFours();
 
     [[nodiscard]] const std::uint8_t* column(int left, int top) const
     {
-        return m_columns.data() + kMargin + std::ptrdiff_t{left} * PictureOutline::kSide + top;
+        return m_pixels.data() + kMargin + std::ptrdiff_t{left} * PictureOutline::kSide + top;
+    }
+    [[nodiscard]] const std::uint8_t* fours(int left, int top) const
+    {
+        return m_pixels.data() + kMargin + std::ptrdiff_t{top} * PictureOutline::kSide + left;
     }
     /// The pixels of a block there, a byte for each of its rows.
     [[nodiscard]] std::uint64_t pixels(int left, int top) const
@@ -50,9 +54,12 @@ private:
     static constexpr int kMargin = 32; ///< for reading more than there is
 
     const PictureOutline& m_outline;
-    /// For each place from the left, eight pixels of each row.
-    std::array<std::uint8_t, std::size_t{PictureOutline::kSide} * kPlaces + std::size_t{2} * kMargin>
-        m_columns{};
+    bool m_isWide;
+    /// For each place from the left, eight pixels of each row; in wide lanes, for each row, four pixels from
+    /// each on.
+    std::array<std::uint8_t,
+               std::size_t{PictureOutline::kSide} * PictureOutline::kSide + std::size_t{2} * kMargin>
+        m_pixels{};
 };
 
 } // namespace orlen
