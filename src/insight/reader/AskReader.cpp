@@ -113,10 +113,26 @@ bool isDefinition(const Question& question)
                kRated, [&](std::string_view stem) { return plainLetters(meaning->text).starts_with(stem); });
 }
 
+/// "Which can I delete": of what was listed.
+bool isElliptic(const Question& question)
+{
+    return question.senses.isWithin({what, can, remove, safe, keep, general}) &&
+           question.senses.meets({remove, safe, keep});
+}
+
+/// "How much would deleting them free": without what was spoken of, the answer would be about all there is.
+bool isOnlyOfThem(const Question& question)
+{
+    constexpr SenseSet kDoing{howMuch, howBig, makeRoom, free,  space,  remove,
+                              can,     safe,   keep,     takes, general};
+    return question.isBackward && question.senses.isWithin(kDoing) && question.senses.meets({remove, safe});
+}
+
 /// "Only in Pictures", "and why": means little without what was said before.
 bool pointsBack(const Question& question)
 {
-    constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe, how};
+    constexpr SenseSet kNothingAlone{why,    what, ordinal, last, number, general,
+                                     inside, keep, safe,    how,  can,    howBig};
     constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
                                    Sense::after, since,    biggest, oldest,   newest,
                                    number,       smallest, inside,  unopened, except};
@@ -125,7 +141,7 @@ bool pointsBack(const Question& question)
                          question.phrases.back().subject != nullptr;
     if (isDefinition(question))
         return false;
-    return question.isContinued || isPlace || question.senses.isWithin(kConditions) ||
+    return question.isContinued || isPlace || isElliptic(question) || question.senses.isWithin(kConditions) ||
            (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
            (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
            question.senses.isWithin(kNothingAlone);
@@ -137,10 +153,16 @@ std::optional<Reply> reply(const Question& question, const AskContext& context, 
         if (auto found = alone(*placed, context))
             return found;
     }
+    if (const std::optional<Question> part = partOfLast(question, before.last))
+        return alone(*part, context);
+    if (asksForMore(question) && !before.list.paths.empty())
+        return moreOfThem(question, context, before.list);
     if (pointsBack(question)) {
         if (auto found = followUp(question, context, before))
             return found;
     }
+    if (isOnlyOfThem(question))
+        return std::nullopt;
     if (auto found = alone(question, context))
         return found;
     return pointsBack(question) ? std::nullopt : followUp(question, context, before);

@@ -2,12 +2,14 @@
 
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/FoundReplies.h"
+#include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/PathHits.h"
 #include "insight/reader/Rules.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/UnusedApps.h"
 #include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
@@ -126,7 +128,10 @@ std::optional<Reply> onAllThatFit(const Question& question, const AskContext& co
         return std::nullopt;
     std::ranges::move(conditions, std::back_inserter(phrases));
     Question whole = withPhrases(question, std::move(phrases));
-    std::optional<Answer> answer = isOfRoom ? freedByThem(whole, context) : listOfFiles(whole, context);
+    // What they would free leaves the list as it is.
+    if (isOfRoom)
+        return replyTo(before.question, freedByThem(whole, context));
+    std::optional<Answer> answer = listOfFiles(whole, context);
     return replyTo(std::move(whole), std::move(answer));
 }
 
@@ -168,10 +173,11 @@ std::optional<Reply> onPath(const Question& question, const AskContext& context,
 {
     const Phrase asked{what, {}, nullptr, 0, {}};
     const Phrase named{quoted, path, nullptr, 0, {}};
+    // Of a game, its folder has the name; when a file was opened last is not told.
     if (const Phrase* const use = question.first(lastUse)) {
         Question about = withPhrases(
-            question, {*use, {quoted, std::string(PathText::lastComponent(path)), nullptr, 0, {}}});
-        std::optional<Answer> answer = replyByRule(about, context);
+            question, {*use, {unknown, std::string(PathText::lastComponent(path)), nullptr, 0, {}}});
+        std::optional<Answer> answer = lastUseOf(about, context);
         return replyTo(std::move(about), std::move(answer));
     }
     // "Why is it so big?"
@@ -221,7 +227,9 @@ std::optional<Reply> onFew(const Question& question, const AskContext& context, 
 {
     const Phrase* const asked = question.first(number);
     const std::vector<std::string>& paths = before.list.paths;
-    if (asked == nullptr || asked->amount < 1 || static_cast<std::size_t>(asked->amount) > paths.size())
+    const Phrase* const from = question.first(ordinal);
+    if (asked == nullptr || asked->amount < 1 || (from != nullptr && from->amount != 1) ||
+        static_cast<std::size_t>(asked->amount) > paths.size())
         return std::nullopt;
     const auto count = static_cast<std::size_t>(asked->amount);
     if (count == 1)
@@ -231,14 +239,95 @@ std::optional<Reply> onFew(const Question& question, const AskContext& context, 
                    together(question.senses.has(last) ? all.last(count) : all.first(count), context));
 }
 
+std::optional<Reply> whatFillsIt(const Question& question, const AskContext& context,
+                                 const Conversation::Said& before)
+{
+    if (before.paths.size() > 1)
+        return replyTo(before.question, replyByRule(before.question, context));
+    const std::optional<Phrase> place = placeSaid(context, before);
+    if (!place)
+        return std::nullopt;
+    Question inIt = withPhrases(
+        question,
+        {{what, {}, nullptr, 0, {}}, {takes, {}, nullptr, 0, {}}, {inside, {}, nullptr, 0, {}}, *place});
+    std::optional<Answer> answer = replyByRule(inIt, context);
+    return replyTo(std::move(inIt), std::move(answer));
+}
+
+bool asksForMore(const Question& question)
+{
+    constexpr std::string_view kMore =
+        "more,other,others,the other,the others,the rest,rest,the remaining,the remaining ones,weitere,"
+        "weiteren,andere,anderen,die restlichen,die ubrigen,der rest,den rest,noch 5,noch funf,noch mehr,"
+        "noch welche,autres,le reste,les restants,les suivants,les suivantes,otros,otras,demas,el resto,los "
+        "restantes,los siguientes,las siguientes,altri,altre,il resto,i restanti,i rimanenti,i seguenti";
+    const bool saysMore = std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
+        const bool isNext = phrase.sense == ordinal && phrase.amount == 0 && question.senses.has(number);
+        // "Cinco más"
+        const bool isMost = phrase.sense == most && phrase.text.size() == std::string_view("más").size();
+        return isNext || isMost || (phrase.sense == general && isListed(kMore, plainLetters(phrase.text)));
+    });
+    return question.senses.isWithin({what, number, general, most, ordinal}) &&
+           (saysMore || (question.goesOn && question.senses.has(number)));
+}
+
+std::optional<Reply> moreOfThem(const Question& question, const AskContext& context,
+                                const Conversation::Said& list)
+{
+    constexpr std::int64_t kMost = 20;
+    constexpr std::int64_t kPage = 5;
+    if (!list.isCut || list.paths.empty())
+        return std::nullopt;
+    const Phrase* const asked = question.first(number);
+    const bool areAll = asked == nullptr && !question.senses.has(most) &&
+                        plainLetters(question.phrases.back().text) != "more";
+    const std::int64_t count =
+        areAll ? kMost : std::min(kMost, std::ssize(list.paths) + (asked == nullptr ? kPage : asked->amount));
+    std::vector<Phrase> phrases = list.question.phrases;
+    std::erase_if(phrases, [](const Phrase& phrase) { return phrase.sense == number; });
+    phrases.push_back({number, {}, nullptr, count, {}});
+    Question longer = withPhrases(list.question, std::move(phrases));
+    std::optional<Answer> answer = replyByRule(longer, context);
+    if (!answer || answer->paths.size() <= list.paths.size())
+        return std::nullopt;
+    return Reply{*std::move(answer), std::move(longer)};
+}
+
+std::optional<Question> partOfLast(const Question& question, const Conversation::Said& before)
+{
+    constexpr SenseSet kOfPart{subject, what, general, howBig, howMuch, can,
+                               remove,  safe, takes,   keep,   space};
+    const Subject* const part = question.subject();
+    if (part == nullptr || part->id != SubjectID::caches || question.count(subject) > 1 ||
+        (!question.isBackward && !question.isContinued) || !question.senses.isWithin(kOfPart))
+        return std::nullopt;
+    std::vector<Phrase> phrases = question.phrases;
+    std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
+        return phrase.sense == unknown && PathText::extension(phrase.text).empty();
+    });
+    if (phrases.size() == question.phrases.size() && question.isBackward && before.paths.size() == 1)
+        phrases.push_back(
+            {unknown, std::string(PathText::lastComponent(before.paths.front())), nullptr, 0, {}});
+    if (phrases.size() == question.phrases.size())
+        return std::nullopt;
+    Question whole = withPhrases(question, std::move(phrases));
+    whole.isBackward = false;
+    whole.isContinued = false;
+    return whole;
+}
+
 std::optional<Reply> onThem(const Question& question, const AskContext& context,
                             const Conversation::Said& before)
 {
-    if (before.isCut && !before.question.senses.has(number)) {
+    constexpr SenseSet kOfAll{what, howBig, howMuch, howMany, can,      remove,    safe,     keep,  review,
+                              free, space,  takes,   general, makeRoom, uninstall, negation, advise};
+    if (!question.senses.isWithin(kOfAll))
+        return std::nullopt;
+    if (before.paths.empty() || (before.isCut && !before.question.senses.has(number))) {
         if (auto whole = onAllThatFit(question, context, before))
             return whole;
     }
-    return replyTo(before.question, together(before.paths, context));
+    return before.paths.empty() ? std::nullopt : replyTo(before.question, together(before.paths, context));
 }
 
 std::optional<Question> inPlaceOfLast(const Question& question, const AskContext& context,
@@ -248,7 +337,8 @@ std::optional<Question> inPlaceOfLast(const Question& question, const AskContext
                                    hidden,  can,     number,  size,   above,   below,    period, takes,
                                    most,    ending,  biggest, oldest, newest,  smallest, space};
     constexpr SenseSet kCounting{howMany, subject, folder, inside, what, general, hidden, ending};
-    const bool endsOpen = !question.phrases.empty() && question.phrases.back().sense == inside;
+    const bool endsOpen =
+        question.isTherein || (!question.phrases.empty() && question.phrases.back().sense == inside);
     const bool isCount =
         question.isBackward && question.senses.has(howMany) && question.senses.isWithin(kCounting);
     const bool isOfOther = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
@@ -260,7 +350,7 @@ std::optional<Question> inPlaceOfLast(const Question& question, const AskContext
     if (!place)
         return std::nullopt;
     std::vector<Phrase> phrases = question.phrases;
-    if (endsOpen)
+    if (!phrases.empty() && phrases.back().sense == inside)
         phrases.pop_back();
     if (std::ranges::find(phrases, inside, &Phrase::sense) != phrases.end())
         return std::nullopt;
@@ -272,6 +362,7 @@ std::optional<Question> inPlaceOfLast(const Question& question, const AskContext
     Question placed = withPhrases(question, std::move(phrases));
     placed.isBackward = false;
     placed.isContinued = false;
+    placed.isTherein = false;
     return placed;
 }
 
