@@ -6,8 +6,10 @@
 #include "insight/reader/ListedItems.h"
 #include "insight/reader/NameSpans.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Pointing.h"
 #include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
+#include "insight/reader/SpokenPlace.h"
 #include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 
@@ -98,53 +100,6 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
             answers.push_back(*std::move(sum));
     }
     return Reply{together(std::move(answers)), question};
-}
-
-/// "What does 'Review' mean", and not "which of them are rated Review": needs nothing said before.
-bool isDefinition(const Question& question)
-{
-    constexpr SenseSet kOfRatings{mean, what, why, can, general, safe, review, keep, subject};
-    constexpr std::string_view kRated[] = {"rated",  "mark",       "label",   "flag",   "classif", "tagg",
-                                           "bewert", "einge",      "gekennz", "marqu",  "marcad",  "clasif",
-                                           "calif",  "contrasseg", "valutat", "segnat", "markier", "classe"};
-    const Phrase* const meaning = question.first(mean);
-    return meaning != nullptr && question.senses.isWithin(kOfRatings) &&
-           std::ranges::none_of(
-               kRated, [&](std::string_view stem) { return plainLetters(meaning->text).starts_with(stem); });
-}
-
-/// "Which can I delete": of what was listed.
-bool isElliptic(const Question& question)
-{
-    return question.senses.isWithin({what, can, remove, safe, keep, general}) &&
-           question.senses.meets({remove, safe, keep});
-}
-
-/// "How much would deleting them free": without what was spoken of, the answer would be about all there is.
-bool isOnlyOfThem(const Question& question)
-{
-    constexpr SenseSet kDoing{howMuch, howBig, makeRoom, free,  space,  remove,
-                              can,     safe,   keep,     takes, general};
-    return question.isBackward && question.senses.isWithin(kDoing) && question.senses.meets({remove, safe});
-}
-
-/// "Only in Pictures", "and why": means little without what was said before.
-bool pointsBack(const Question& question)
-{
-    constexpr SenseSet kNothingAlone{why,    what, ordinal, last, number, general,
-                                     inside, keep, safe,    how,  can,    howBig};
-    constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
-                                   Sense::after, since,    biggest, oldest,   newest,
-                                   number,       smallest, inside,  unopened, except};
-    constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
-    const bool isPlace = question.phrases.size() == 2 && question.phrases.front().sense == inside &&
-                         question.phrases.back().subject != nullptr;
-    if (isDefinition(question))
-        return false;
-    return question.isContinued || isPlace || isElliptic(question) || question.senses.isWithin(kConditions) ||
-           (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
-           (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
-           question.senses.isWithin(kNothingAlone);
 }
 
 std::optional<Reply> reply(const Question& question, const AskContext& context, const Conversation& before)

@@ -2,12 +2,12 @@
 
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/FoundReplies.h"
-#include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/PathHits.h"
 #include "insight/reader/Rules.h"
+#include "insight/reader/SpokenPlace.h"
 #include "insight/reader/SubjectReplies.h"
 #include "insight/reader/UnusedApps.h"
 #include "insight/reader/WhatIfReplies.h"
@@ -29,7 +29,6 @@ namespace {
 using enum Sense;
 
 constexpr SenseSet kOrders{biggest, smallest, oldest, newest, most};
-constexpr SenseSet kNamedThings{subject, unknown, quoted};
 
 std::optional<Measured> measuredAt(const HomeFiles& home, const std::string& path)
 {
@@ -135,25 +134,6 @@ std::optional<Reply> onAllThatFit(const Question& question, const AskContext& co
     return replyTo(std::move(whole), std::move(answer));
 }
 
-bool isPlace(const Phrase& phrase)
-{
-    return phrase.subject != nullptr && !phrase.subject->folder.empty();
-}
-
-/// The folder that was spoken of, behind "in"; nothing if none was.
-std::optional<Phrase> placeSaid(const AskContext& context, const Conversation::Said& before)
-{
-    const std::vector<Phrase>& said = before.question.phrases;
-    for (std::size_t i = 0; i + 1 < said.size(); ++i) {
-        if (said[i].sense == inside && kNamedThings.has(said[i + 1].sense))
-            return said[i + 1];
-    }
-    if (before.paths.size() == 1 && context.home != nullptr && context.home->folderAt(before.paths.front()))
-        return Phrase{quoted, before.paths.front(), nullptr, 0, {}};
-    const auto folder = std::ranges::find_if(said, isPlace);
-    return folder == said.end() ? std::nullopt : std::optional(*folder);
-}
-
 } // namespace
 
 std::optional<Reply> replyTo(Question question, std::optional<Answer> answer)
@@ -254,23 +234,6 @@ std::optional<Reply> whatFillsIt(const Question& question, const AskContext& con
     return replyTo(std::move(inIt), std::move(answer));
 }
 
-bool asksForMore(const Question& question)
-{
-    constexpr std::string_view kMore =
-        "more,other,others,the other,the others,the rest,rest,the remaining,the remaining ones,weitere,"
-        "weiteren,andere,anderen,die restlichen,die ubrigen,der rest,den rest,noch 5,noch funf,noch mehr,"
-        "noch welche,autres,le reste,les restants,les suivants,les suivantes,otros,otras,demas,el resto,los "
-        "restantes,los siguientes,las siguientes,altri,altre,il resto,i restanti,i rimanenti,i seguenti";
-    const bool saysMore = std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
-        const bool isNext = phrase.sense == ordinal && phrase.amount == 0 && question.senses.has(number);
-        // "Cinco más"
-        const bool isMost = phrase.sense == most && phrase.text.size() == std::string_view("más").size();
-        return isNext || isMost || (phrase.sense == general && isListed(kMore, plainLetters(phrase.text)));
-    });
-    return question.senses.isWithin({what, number, general, most, ordinal}) &&
-           (saysMore || (question.goesOn && question.senses.has(number)));
-}
-
 std::optional<Reply> moreOfThem(const Question& question, const AskContext& context,
                                 const Conversation::Said& list)
 {
@@ -293,29 +256,6 @@ std::optional<Reply> moreOfThem(const Question& question, const AskContext& cont
     return Reply{*std::move(answer), std::move(longer)};
 }
 
-std::optional<Question> partOfLast(const Question& question, const Conversation::Said& before)
-{
-    constexpr SenseSet kOfPart{subject, what, general, howBig, howMuch, can,
-                               remove,  safe, takes,   keep,   space};
-    const Subject* const part = question.subject();
-    if (part == nullptr || part->id != SubjectID::caches || question.count(subject) > 1 ||
-        (!question.isBackward && !question.isContinued) || !question.senses.isWithin(kOfPart))
-        return std::nullopt;
-    std::vector<Phrase> phrases = question.phrases;
-    std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases), [](const Phrase& phrase) {
-        return phrase.sense == unknown && PathText::extension(phrase.text).empty();
-    });
-    if (phrases.size() == question.phrases.size() && question.isBackward && before.paths.size() == 1)
-        phrases.push_back(
-            {unknown, std::string(PathText::lastComponent(before.paths.front())), nullptr, 0, {}});
-    if (phrases.size() == question.phrases.size())
-        return std::nullopt;
-    Question whole = withPhrases(question, std::move(phrases));
-    whole.isBackward = false;
-    whole.isContinued = false;
-    return whole;
-}
-
 std::optional<Reply> onThem(const Question& question, const AskContext& context,
                             const Conversation::Said& before)
 {
@@ -328,42 +268,6 @@ std::optional<Reply> onThem(const Question& question, const AskContext& context,
             return whole;
     }
     return before.paths.empty() ? std::nullopt : replyTo(before.question, together(before.paths, context));
-}
-
-std::optional<Question> inPlaceOfLast(const Question& question, const AskContext& context,
-                                      const Conversation::Said& before)
-{
-    constexpr SenseSet kOfContents{howMany, howMuch, howBig,  what,   subject, inside,   folder, general,
-                                   hidden,  can,     number,  size,   above,   below,    period, takes,
-                                   most,    ending,  biggest, oldest, newest,  smallest, space};
-    constexpr SenseSet kCounting{howMany, subject, folder, inside, what, general, hidden, ending};
-    const bool endsOpen =
-        question.isTherein || (!question.phrases.empty() && question.phrases.back().sense == inside);
-    const bool isCount =
-        question.isBackward && question.senses.has(howMany) && question.senses.isWithin(kCounting);
-    const bool isOfOther = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
-        return phrase.subject != nullptr && phrase.subject->extensions.empty() && !phrase.subject->isAnyFile;
-    });
-    if (!question.senses.isWithin(kOfContents) || isOfOther || (!endsOpen && !isCount))
-        return std::nullopt;
-    const std::optional<Phrase> place = placeSaid(context, before);
-    if (!place)
-        return std::nullopt;
-    std::vector<Phrase> phrases = question.phrases;
-    if (!phrases.empty() && phrases.back().sense == inside)
-        phrases.pop_back();
-    if (std::ranges::find(phrases, inside, &Phrase::sense) != phrases.end())
-        return std::nullopt;
-    const SenseSet said = withPhrases(question, phrases).senses;
-    if (!said.meets({subject, folder, ending}))
-        phrases.push_back({subject, {}, &subjectFor(SubjectID::files), 0, {}});
-    phrases.push_back({inside, {}, nullptr, 0, {}});
-    phrases.push_back(*place);
-    Question placed = withPhrases(question, std::move(phrases));
-    placed.isBackward = false;
-    placed.isContinued = false;
-    placed.isTherein = false;
-    return placed;
 }
 
 } // namespace orlen::AskReader

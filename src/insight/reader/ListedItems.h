@@ -38,19 +38,8 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Reply> whatFillsIt(const Question& question, const AskContext& context,
                                                const Conversation::Said& before);
 
-/// Whether it wants a list to go on: "5 more", "the others".
-[[nodiscard]] bool asksForMore(const Question& question);
-
 /// The list with more lines; nothing if it has no more.
 [[nodiscard]] std::optional<Reply> moreOfThem(const Question& question, const AskContext& context,
                                               const Conversation::Said& list);
-
-/// "And its cache?": with the name of the program that was spoken of. Nothing if none was.
-[[nodiscard]] std::optional<Question> partOfLast(const Question& question, const Conversation::Said& before);
-
-/// The question with the folder that was spoken of last as its place: "and how many files are in it?".
-/// Nothing if it is not about a place, or none was spoken of.
-[[nodiscard]] std::optional<Question> inPlaceOfLast(const Question& question, const AskContext& context,
-                                                    const Conversation::Said& before);
 
 } // namespace orlen::AskReader
