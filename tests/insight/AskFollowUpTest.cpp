@@ -61,6 +61,37 @@ constexpr Row kWithout[] = {
     {"not the report", "Left out: report.|contract-2021", "report.pdf"},
 };
 
+/// What "they" and "it" are, and what is no follow-up.
+constexpr Row kPronouns[] = {
+    {"biggest video", "wedding.mp4", "holiday"},
+    {"and the second one?", "holiday.mkv (4 GB)", "wedding"},
+    {"files over 3 GB", "wedding.mp4|holiday.mkv"},
+    {"which of these can go?", "wedding.mp4|holiday.mkv", "slack"},
+    {"the two biggest videos", "wedding.mp4|holiday.mkv", "cut.mov"},
+    {"which are safe?", "wedding.mp4|holiday.mkv", "cut.mov"},
+    {"what does 'Review' mean", "only you can tell", "wedding"},
+    {"how big is my disk and how much of it is used", "120 GB is free", "wedding|Large files"},
+    {"can I undo the last clean-up", "History"},
+    {"how?", "History"},
+    {"did my disk grow", "Videos"},
+    {"why", "I can answer", "By category"},
+    {"how much would deleting them free", "I can answer", "rated Safe"},
+};
+
+constexpr Row kPronounsElsewhere[] = {
+    {"los dos vídeos más grandes", "wedding.mp4|holiday.mkv"},
+    {"y cuánto liberaría si los borro", "Together they take 13 GB", "rated Safe:"},
+    {"puedo borrarlos", "Together they take 13 GB"},
+    {"was ist die holiday.mkv", "holiday.mkv (4 GB)"},
+    {"und wie groß ist die?", "holiday.mkv (4 GB)"},
+    {"combien elle pèse", "holiday.mkv (4 GB)"},
+    {"y cuánto ocupa", "holiday.mkv (4 GB)"},
+    {"e quanto pesa", "holiday.mkv (4 GB)"},
+    {"dov'è", "holiday.mkv (4 GB)"},
+    {"when did I last use blender", "2025"},
+    {"and when did I last open it?", "2025"},
+};
+
 constexpr Row kInGerman[] = {
     {"fünf größte videos", "wedding.mp4"},    {"und das zweite?", "holiday.mkv", "wedding"},
     {"warum?", "Large but maybe wanted."},    {"kann ich das löschen", "holiday.mkv", "could free"},
@@ -93,6 +124,7 @@ TEST_F(AskFollowUpTest, whatWasSaidBeforeCounts)
 {
     for (const auto& rows : {std::span<const Row>(kAfterAList), std::span<const Row>(kNarrowed),
                              std::span<const Row>(kAfterFindings), std::span<const Row>(kWithout),
+                             std::span<const Row>(kPronouns), std::span<const Row>(kPronounsElsewhere),
                              std::span<const Row>(kInGerman), std::span<const Row>(kInFrench),
                              std::span<const Row>(kInSpanish), std::span<const Row>(kInItalian)}) {
         Conversation conversation;

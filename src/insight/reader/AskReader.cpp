@@ -6,8 +6,10 @@
 #include "insight/reader/ListedItems.h"
 #include "insight/reader/NameSpans.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Pointing.h"
 #include "insight/reader/QuestionParts.h"
 #include "insight/reader/Rules.h"
+#include "insight/reader/SpokenPlace.h"
 #include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 
@@ -100,47 +102,22 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
     return Reply{together(std::move(answers)), question};
 }
 
-/// "What does 'Review' mean", and not "which of them are rated Review": needs nothing said before.
-bool isDefinition(const Question& question)
-{
-    constexpr SenseSet kOfRatings{mean, what, why, can, general, safe, review, keep, subject};
-    constexpr std::string_view kRated[] = {"rated",  "mark",       "label",   "flag",   "classif", "tagg",
-                                           "bewert", "einge",      "gekennz", "marqu",  "marcad",  "clasif",
-                                           "calif",  "contrasseg", "valutat", "segnat", "markier", "classe"};
-    const Phrase* const meaning = question.first(mean);
-    return meaning != nullptr && question.senses.isWithin(kOfRatings) &&
-           std::ranges::none_of(
-               kRated, [&](std::string_view stem) { return plainLetters(meaning->text).starts_with(stem); });
-}
-
-/// "Only in Pictures", "and why": means little without what was said before.
-bool pointsBack(const Question& question)
-{
-    constexpr SenseSet kNothingAlone{why, what, ordinal, last, number, general, inside, keep, safe, how};
-    constexpr SenseSet kConditions{size,         above,    below,   period,   Sense::before,
-                                   Sense::after, since,    biggest, oldest,   newest,
-                                   number,       smallest, inside,  unopened, except};
-    constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation};
-    const bool isPlace = question.phrases.size() == 2 && question.phrases.front().sense == inside &&
-                         question.phrases.back().subject != nullptr;
-    if (isDefinition(question))
-        return false;
-    return question.isContinued || isPlace || question.senses.isWithin(kConditions) ||
-           (question.senses.isWithin(kRemovingIt) && question.senses.meets({remove, safe})) ||
-           (question.isBackward && !question.senses.meets({subject, unknown, quoted})) ||
-           question.senses.isWithin(kNothingAlone);
-}
-
 std::optional<Reply> reply(const Question& question, const AskContext& context, const Conversation& before)
 {
     if (const std::optional<Question> placed = inPlaceOfLast(question, context, before.last)) {
         if (auto found = alone(*placed, context))
             return found;
     }
+    if (const std::optional<Question> part = partOfLast(question, before.last))
+        return alone(*part, context);
+    if (asksForMore(question) && !before.list.paths.empty())
+        return moreOfThem(question, context, before.list);
     if (pointsBack(question)) {
         if (auto found = followUp(question, context, before))
             return found;
     }
+    if (isOnlyOfThem(question))
+        return std::nullopt;
     if (auto found = alone(question, context))
         return found;
     return pointsBack(question) ? std::nullopt : followUp(question, context, before);

@@ -34,10 +34,12 @@ std::optional<Reply> reasons(const Question& question, const AskContext& context
         return onPath(question, context, before.paths.front());
     // "Why is it so big?" of a list: what it is made of. Why just these were listed, nobody can say.
     constexpr SenseSet kRatings{remove, safe, review, keep, makeRoom, cleanUp, advise};
-    if (before.paths.size() > 1 && !before.question.senses.meets(kRatings)) {
-        const bool isOfSize = question.senses.meets({biggest, takes, full});
-        return isOfSize ? replyTo(before.question, replyByRule(before.question, context)) : std::nullopt;
+    if (question.senses.meets({biggest, takes, full})) {
+        if (auto found = whatFillsIt(question, context, before))
+            return found;
     }
+    if (before.paths.size() > 1 && !before.question.senses.meets(kRatings))
+        return std::nullopt;
     std::vector<Message> lines;
     Answer answer;
     for (const std::string& id : before.findingIDs) {
@@ -50,7 +52,8 @@ std::optional<Reply> reasons(const Question& question, const AskContext& context
     answer.text = AskText::lines(std::move(lines));
     if (!answer.findingIDs.empty())
         return replyTo(before.question, std::move(answer));
-    if (before.question.senses.meets({free, used, total, full, disk, space}))
+    if (question.senses.has(Sense::why) && !before.question.senses.has(grow) &&
+        before.question.senses.meets({free, used, total, full, disk, space}))
         return replyTo(before.question, whyFull(question, context));
     return std::nullopt;
 }
@@ -78,10 +81,28 @@ bool isStartup(const Phrase& phrase)
 std::optional<Reply> onSame(const Question& question, const AskContext& context,
                             const Conversation::Said& before)
 {
+    // "When did I last use Firefox", "how big is it", "and when did I last use it"
+    if (question.senses.has(lastUse) && before.question.senses.has(unknown)) {
+        Phrases phrases = question.phrases;
+        std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases),
+                             [](const Phrase& phrase) { return phrase.sense == unknown; });
+        Question use = withPhrases(question, std::move(phrases));
+        std::optional<Answer> answer = replyByRule(use, context);
+        return replyTo(std::move(use), std::move(answer));
+    }
     if (before.paths.size() == 1)
         return onPath(question, context, before.paths.front());
-    if (before.paths.size() > 1)
+    // "How many PDFs are older than two years", "and how much do they take".
+    constexpr SenseSet kConditions{size, period, inside, unopened, ending, except};
+    const SenseSet& said = before.question.senses;
+    const bool hasConditions = said.has(subject) && said.meets(kConditions) && !said.meets({unknown, quoted});
+    if (before.paths.size() > 1 || (before.findingIDs.empty() && hasConditions))
         return onThem(question, context, before);
+    // "What can I safely delete", "how much is that"
+    constexpr SenseSet kSizes{howBig, howMuch, takes, what, general, space};
+    if (question.senses.isWithin(kSizes) && said.meets({remove, safe, makeRoom, cleanUp}) &&
+        !said.meets(kNames))
+        return replyTo(before.question, replyByRule(before.question, context));
     Phrases phrases = question.phrases;
     std::ranges::copy_if(before.question.phrases, std::back_inserter(phrases),
                          [](const Phrase& phrase) { return kNames.has(phrase.sense) && !isStartup(phrase); });
@@ -207,6 +228,18 @@ std::optional<Reply> changed(const Question& question, const AskContext& context
     return replyTo(std::move(whole), std::move(answer));
 }
 
+/// "Which can I delete" after a list: which of them.
+bool isWhichOfThem(const Question& question, const Conversation& before)
+{
+    constexpr std::string_view kWhich[] = {"which", "welche", "lesquel", "cuales", "quali"};
+    const Phrase* const asked = question.first(what);
+    return before.last.paths.size() > 1 && asked != nullptr &&
+           question.senses.isWithin({what, can, remove, safe, keep, general}) &&
+           question.senses.meets({remove, safe, keep}) &&
+           std::ranges::any_of(
+               kWhich, [&](std::string_view stem) { return plainLetters(asked->text).starts_with(stem); });
+}
+
 } // namespace
 
 std::optional<Reply> followUp(const Question& question, const AskContext& context, const Conversation& before)
@@ -235,10 +268,14 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     if (senses.has(Sense::why) && senses.isWithin(kAskingWhy))
         return reasons(question, context, before.last);
     constexpr SenseSet kRemovingIt{can, remove, safe, uninstall, keep, negation, general};
-    const bool isSizeOfIt = question.isContinued && senses.meets({howBig, takes}) &&
-                            senses.isWithin({howBig, howMuch, takes, what, general});
-    const bool isAboutIt =
-        question.isBackward || isSizeOfIt || (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
+    const bool isSizeOfIt =
+        senses.meets({howBig, takes}) && senses.isWithin({howBig, howMuch, takes, what, general});
+    // "Dónde está", "è sicuro": the verb says of what.
+    const bool isOfOne =
+        before.last.paths.size() == 1 && senses.isWithin({what, can, safe, keep, remove, general}) &&
+        senses.meets({what, can, safe, keep}) && !(senses.has(what) && senses.meets({remove, safe, keep}));
+    const bool isAboutIt = question.isBackward || isSizeOfIt || isOfOne || isWhichOfThem(question, before) ||
+                           (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
     if (isAboutIt && !senses.meets(kNames) && !senses.meets(kOrderings) && !senses.has(inside) &&
         senses.meets(
             {what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched, lastUse}))

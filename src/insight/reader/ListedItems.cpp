@@ -7,7 +7,9 @@
 #include "insight/reader/Names.h"
 #include "insight/reader/PathHits.h"
 #include "insight/reader/Rules.h"
+#include "insight/reader/SpokenPlace.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/UnusedApps.h"
 #include "insight/reader/WhatIfReplies.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
@@ -27,7 +29,6 @@ namespace {
 using enum Sense;
 
 constexpr SenseSet kOrders{biggest, smallest, oldest, newest, most};
-constexpr SenseSet kNamedThings{subject, unknown, quoted};
 
 std::optional<Measured> measuredAt(const HomeFiles& home, const std::string& path)
 {
@@ -126,27 +127,11 @@ std::optional<Reply> onAllThatFit(const Question& question, const AskContext& co
         return std::nullopt;
     std::ranges::move(conditions, std::back_inserter(phrases));
     Question whole = withPhrases(question, std::move(phrases));
-    std::optional<Answer> answer = isOfRoom ? freedByThem(whole, context) : listOfFiles(whole, context);
+    // What they would free leaves the list as it is.
+    if (isOfRoom)
+        return replyTo(before.question, freedByThem(whole, context));
+    std::optional<Answer> answer = listOfFiles(whole, context);
     return replyTo(std::move(whole), std::move(answer));
-}
-
-bool isPlace(const Phrase& phrase)
-{
-    return phrase.subject != nullptr && !phrase.subject->folder.empty();
-}
-
-/// The folder that was spoken of, behind "in"; nothing if none was.
-std::optional<Phrase> placeSaid(const AskContext& context, const Conversation::Said& before)
-{
-    const std::vector<Phrase>& said = before.question.phrases;
-    for (std::size_t i = 0; i + 1 < said.size(); ++i) {
-        if (said[i].sense == inside && kNamedThings.has(said[i + 1].sense))
-            return said[i + 1];
-    }
-    if (before.paths.size() == 1 && context.home != nullptr && context.home->folderAt(before.paths.front()))
-        return Phrase{quoted, before.paths.front(), nullptr, 0, {}};
-    const auto folder = std::ranges::find_if(said, isPlace);
-    return folder == said.end() ? std::nullopt : std::optional(*folder);
 }
 
 } // namespace
@@ -168,10 +153,11 @@ std::optional<Reply> onPath(const Question& question, const AskContext& context,
 {
     const Phrase asked{what, {}, nullptr, 0, {}};
     const Phrase named{quoted, path, nullptr, 0, {}};
+    // Of a game, its folder has the name; when a file was opened last is not told.
     if (const Phrase* const use = question.first(lastUse)) {
         Question about = withPhrases(
-            question, {*use, {quoted, std::string(PathText::lastComponent(path)), nullptr, 0, {}}});
-        std::optional<Answer> answer = replyByRule(about, context);
+            question, {*use, {unknown, std::string(PathText::lastComponent(path)), nullptr, 0, {}}});
+        std::optional<Answer> answer = lastUseOf(about, context);
         return replyTo(std::move(about), std::move(answer));
     }
     // "Why is it so big?"
@@ -221,7 +207,9 @@ std::optional<Reply> onFew(const Question& question, const AskContext& context, 
 {
     const Phrase* const asked = question.first(number);
     const std::vector<std::string>& paths = before.list.paths;
-    if (asked == nullptr || asked->amount < 1 || static_cast<std::size_t>(asked->amount) > paths.size())
+    const Phrase* const from = question.first(ordinal);
+    if (asked == nullptr || asked->amount < 1 || (from != nullptr && from->amount != 1) ||
+        static_cast<std::size_t>(asked->amount) > paths.size())
         return std::nullopt;
     const auto count = static_cast<std::size_t>(asked->amount);
     if (count == 1)
@@ -231,48 +219,55 @@ std::optional<Reply> onFew(const Question& question, const AskContext& context, 
                    together(question.senses.has(last) ? all.last(count) : all.first(count), context));
 }
 
-std::optional<Reply> onThem(const Question& question, const AskContext& context,
-                            const Conversation::Said& before)
+std::optional<Reply> whatFillsIt(const Question& question, const AskContext& context,
+                                 const Conversation::Said& before)
 {
-    if (before.isCut && !before.question.senses.has(number)) {
-        if (auto whole = onAllThatFit(question, context, before))
-            return whole;
-    }
-    return replyTo(before.question, together(before.paths, context));
-}
-
-std::optional<Question> inPlaceOfLast(const Question& question, const AskContext& context,
-                                      const Conversation::Said& before)
-{
-    constexpr SenseSet kOfContents{howMany, howMuch, howBig,  what,   subject, inside,   folder, general,
-                                   hidden,  can,     number,  size,   above,   below,    period, takes,
-                                   most,    ending,  biggest, oldest, newest,  smallest, space};
-    constexpr SenseSet kCounting{howMany, subject, folder, inside, what, general, hidden, ending};
-    const bool endsOpen = !question.phrases.empty() && question.phrases.back().sense == inside;
-    const bool isCount =
-        question.isBackward && question.senses.has(howMany) && question.senses.isWithin(kCounting);
-    const bool isOfOther = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
-        return phrase.subject != nullptr && phrase.subject->extensions.empty() && !phrase.subject->isAnyFile;
-    });
-    if (!question.senses.isWithin(kOfContents) || isOfOther || (!endsOpen && !isCount))
-        return std::nullopt;
+    if (before.paths.size() > 1)
+        return replyTo(before.question, replyByRule(before.question, context));
     const std::optional<Phrase> place = placeSaid(context, before);
     if (!place)
         return std::nullopt;
-    std::vector<Phrase> phrases = question.phrases;
-    if (endsOpen)
-        phrases.pop_back();
-    if (std::ranges::find(phrases, inside, &Phrase::sense) != phrases.end())
+    Question inIt = withPhrases(
+        question,
+        {{what, {}, nullptr, 0, {}}, {takes, {}, nullptr, 0, {}}, {inside, {}, nullptr, 0, {}}, *place});
+    std::optional<Answer> answer = replyByRule(inIt, context);
+    return replyTo(std::move(inIt), std::move(answer));
+}
+
+std::optional<Reply> moreOfThem(const Question& question, const AskContext& context,
+                                const Conversation::Said& list)
+{
+    constexpr std::int64_t kMost = 20;
+    constexpr std::int64_t kPage = 5;
+    if (!list.isCut || list.paths.empty())
         return std::nullopt;
-    const SenseSet said = withPhrases(question, phrases).senses;
-    if (!said.meets({subject, folder, ending}))
-        phrases.push_back({subject, {}, &subjectFor(SubjectID::files), 0, {}});
-    phrases.push_back({inside, {}, nullptr, 0, {}});
-    phrases.push_back(*place);
-    Question placed = withPhrases(question, std::move(phrases));
-    placed.isBackward = false;
-    placed.isContinued = false;
-    return placed;
+    const Phrase* const asked = question.first(number);
+    const bool areAll = asked == nullptr && !question.senses.has(most) &&
+                        plainLetters(question.phrases.back().text) != "more";
+    const std::int64_t count =
+        areAll ? kMost : std::min(kMost, std::ssize(list.paths) + (asked == nullptr ? kPage : asked->amount));
+    std::vector<Phrase> phrases = list.question.phrases;
+    std::erase_if(phrases, [](const Phrase& phrase) { return phrase.sense == number; });
+    phrases.push_back({number, {}, nullptr, count, {}});
+    Question longer = withPhrases(list.question, std::move(phrases));
+    std::optional<Answer> answer = replyByRule(longer, context);
+    if (!answer || answer->paths.size() <= list.paths.size())
+        return std::nullopt;
+    return Reply{*std::move(answer), std::move(longer)};
+}
+
+std::optional<Reply> onThem(const Question& question, const AskContext& context,
+                            const Conversation::Said& before)
+{
+    constexpr SenseSet kOfAll{what, howBig, howMuch, howMany, can,      remove,    safe,     keep,  review,
+                              free, space,  takes,   general, makeRoom, uninstall, negation, advise};
+    if (!question.senses.isWithin(kOfAll))
+        return std::nullopt;
+    if (before.paths.empty() || (before.isCut && !before.question.senses.has(number))) {
+        if (auto whole = onAllThatFit(question, context, before))
+            return whole;
+    }
+    return before.paths.empty() ? std::nullopt : replyTo(before.question, together(before.paths, context));
 }
 
 } // namespace orlen::AskReader

@@ -34,9 +34,12 @@ namespace orlen::AskReader {
 [[nodiscard]] std::optional<Reply> onThem(const Question& question, const AskContext& context,
                                           const Conversation::Said& before);
 
-/// The question with the folder that was spoken of last as its place: "and how many files are in it?".
-/// Nothing if it is not about a place, or none was spoken of.
-[[nodiscard]] std::optional<Question> inPlaceOfLast(const Question& question, const AskContext& context,
-                                                    const Conversation::Said& before);
+/// "Why is it so big?": the largest of what is in it.
+[[nodiscard]] std::optional<Reply> whatFillsIt(const Question& question, const AskContext& context,
+                                               const Conversation::Said& before);
+
+/// The list with more lines; nothing if it has no more.
+[[nodiscard]] std::optional<Reply> moreOfThem(const Question& question, const AskContext& context,
+                                              const Conversation::Said& list);
 
 } // namespace orlen::AskReader

@@ -39,8 +39,8 @@ public:
 
 private:
     /// Of something that was spoken of.
-    static constexpr SenseSet kDone{Sense::remove, Sense::uninstall, Sense::undo, Sense::keep,
-                                    Sense::makeRoom};
+    static constexpr SenseSet kDone{Sense::remove, Sense::uninstall, Sense::undo,
+                                    Sense::keep,   Sense::makeRoom,  Sense::safe};
 
     [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_plain).subspan(m_at); }
 
@@ -98,6 +98,10 @@ private:
         case Sense::backward:
             pointBack(isFirst);
             break;
+        case Sense::therein:
+            m_question.isTherein = true;
+            pointBack(isFirst);
+            break;
         case Sense::how:
             m_question.asksHow = true;
             break;
@@ -110,6 +114,7 @@ private:
                 m_behindOrlen = m_question.pieces + 1;
             m_question.phrases.push_back(std::move(phrase));
         }
+        m_question.goesOn = phrase.sense == Sense::also && !isFirst;
         m_isJoined = m_isJoined || endsClause;
     }
 
@@ -132,6 +137,9 @@ private:
         if (endsClause || m_at == m_plain.size())
             return m_at > 1;
         const Lexicon::Entry* const next = m_lexicon.find(m_plain[m_at]);
+        // "Wie groß sind die zusammen"
+        if (next != nullptr && next->sense == Sense::filler && m_at + 1 == m_plain.size())
+            return m_at > 1;
         return next != nullptr && kDone.has(next->sense) && !m_plain[m_at].ends_with("ion");
     }
 

@@ -38,6 +38,8 @@ struct Question {
     std::size_t pieces = 0;    ///< words and phrases that it was taken apart into
     bool isContinued = false;  ///< begins with "and", or says "only"
     bool isBackward = false;   ///< says "it", "them" or "the one"
+    bool isTherein = false;    ///< says "in there" in one word
+    bool goesOn = false;       ///< ends with "also": "5 de plus"
     bool asksHow = false;      ///< says "how", which counts where nothing else is asked
 
     [[nodiscard]] const Phrase* first(Sense sense) const;

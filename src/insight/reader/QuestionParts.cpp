@@ -33,6 +33,7 @@ Question part(const Question& question, std::size_t from, std::size_t to)
     // "How big is my disk and how much of it is used": only the second points back.
     if (to - from < question.phrases.size())
         one.isBackward = std::ranges::any_of(one.phrases, &Phrase::isBackward);
+    one.isTherein = one.isTherein && to == question.phrases.size();
     return one;
 }
 

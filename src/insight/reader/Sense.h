@@ -95,6 +95,7 @@ enum class Sense : std::uint8_t {
     also,     ///< "and", "what about"
     only,     ///< "only", "just those"
     backward, ///< "it", "them", "the one": what the last answer was about
+    therein,  ///< "darin": in what the last answer was about
     how,      ///< "how", alone: the way to do it
 };
 

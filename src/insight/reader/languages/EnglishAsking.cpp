@@ -84,6 +84,7 @@ constexpr WordRow kAsking[] = {
     {Sense::also,
      "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and also,or"},
     {Sense::how, "how"},
+    {Sense::general, "the rest,the remaining,the remaining ones,the others"},
     {Sense::backward,
      "it,them,they,that one,this one,those,these,ones,one,the one,it's,its,that's,they're,this,that,the "
      "ones,of them,of those,theirs,these ones,those ones,him"},

@@ -19,7 +19,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::number, "vingt", 20},
     {Figure::number, "cinquante", 50},
     {Figure::number, "cent", 100},
-    {Figure::ordinal, "premier,première,1er,1ère", 1},
+    {Figure::ordinal, "premier,première,premiers,premières,1er,1ère", 1},
     {Figure::ordinal, "deuxième,second,seconde,2e,2ème", 2},
     {Figure::ordinal, "troisième,3e,3ème", 3},
     {Figure::ordinal, "quatrième,4e,4ème", 4},

@@ -57,8 +57,10 @@ constexpr WordRow kAsking[] = {
                   "aussi,puis aussi,et quid de,quid de,quid des,et puis,ou bien,ou encore"},
     {Sense::backward,
      "il,elle,ils,elles,celui ci,celle ci,ceux ci,celles ci,celui là,celle là,ceux là,celles "
-     "là,ceux,celui,celle,celles,ça,cela,en,ceci,lui,dedans,là dedans"},
+     "là,ceux,celui,celle,celles,ça,cela,en,ceci,lui"},
+    {Sense::therein, "(là|) dedans"},
     {Sense::how, "comment"},
+    {Sense::general, "le reste,les restants,les suivants,les suivantes"},
     {Sense::filler,
      "petit fils,petite fille,mon petit fils,dites moi,pourriez vous me dire,pouvez vous me dire,j aimerais "
      "savoir,je voudrais savoir,peux tu me,moi s il te "

@@ -51,8 +51,11 @@ constexpr WordRow kAsking[] = {
                   "sieht es mit,wie siehts mit,sowie,&,und wie ist es mit,wie ist es mit,und wie sieht es "
                   "mit,oder,plus,und auch,sowie auch,und was is mit"},
     {Sense::backward, "sie,ihn,es,diese,dieser,dieses,diesen,davon,die da,denen,jene,welche davon,ihnen,eins "
-                      "davon,von denen,dazu,das da,dieselben,das hier,daran,darin,drin,da drin,drinnen"},
+                      "davon,von denen,dazu,das da,dieselben,das hier,daran"},
+    {Sense::therein, "(da|dort|hier|) (drin|drinnen),darin"},
     {Sense::how, "wie"},
+    {Sense::general,
+     "die restlichen,die übrigen,der rest,den rest,weitere,weiteren,noch (5|fünf|mehr|welche)"},
     {Sense::filler,
      "mein rechner sagt,mein computer sagt,zurzeit,zur zeit,insgesamt so,grad,mir bitte,bitte mal,drauf "
      "ist,mein "

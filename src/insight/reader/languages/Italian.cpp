@@ -19,7 +19,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::number, "venti", 20},
     {Figure::number, "cinquanta", 50},
     {Figure::number, "cento", 100},
-    {Figure::ordinal, "primo,prima,1º,1ª", 1},
+    {Figure::ordinal, "primo,prima,primi,prime,1º,1ª", 1},
     {Figure::ordinal, "secondo,seconda,2º,2ª", 2},
     {Figure::ordinal, "terzo,terza,3º,3ª", 3},
     {Figure::ordinal, "quarto,quarta,4º,4ª", 4},

@@ -66,6 +66,8 @@ constexpr WordRow kAsking[] = {
     {Sense::backward, "quello,quella,quelli,quelle,questo,questa,questi,queste,ciò,esso,essi,essa,lo,"
                       "ne,quell,loro"},
     {Sense::how, "come"},
+    {Sense::general, "il resto,i restanti,i rimanenti,i seguenti"},
+    {Sense::filler, "insieme,tutti insieme,tutte insieme"},
     {Sense::filler,
      "ho fatto,fatto,hai fatto,funzionare,a cosa serve,a che serve,mio nipote,nipote,vorrei sapere,mi sai "
      "dire,potresti dirmi,mi potresti "

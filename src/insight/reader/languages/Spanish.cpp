@@ -19,7 +19,7 @@ constexpr FigureRow kFigureRows[] = {
     {Figure::number, "veinte", 20},
     {Figure::number, "cincuenta", 50},
     {Figure::number, "cien,ciento", 100},
-    {Figure::ordinal, "primero,primera,primer,1º,1ª", 1},
+    {Figure::ordinal, "primero,primera,primer,primeros,primeras,1º,1ª", 1},
     {Figure::ordinal, "segundo,segunda,2º,2ª", 2},
     {Figure::ordinal, "tercero,tercera,tercer,3º,3ª", 3},
     {Figure::ordinal, "cuarto,cuarta,4º,4ª", 4},

@@ -62,6 +62,8 @@ constexpr WordRow kAsking[] = {
     {Sense::backward, "ese,esa,esos,esas,este,esta,estos,estas,eso,esto,aquel,aquella,aquellos,lo,ellos,"
                       "ellas,él,ella,los que,las que,el que,la que"},
     {Sense::how, "cómo"},
+    {Sense::general, "el resto,los restantes,los siguientes,las siguientes"},
+    {Sense::filler, "juntos,juntas"},
     {Sense::filler,
      "para qué sirve,sirve,para que sirve,para qué es,mi nieto,nieta,me gustaría saber,quisiera "
      "saber,podrías decirme,me podrías decir,puedes decirme "
