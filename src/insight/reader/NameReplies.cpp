@@ -183,7 +183,11 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
 /// What was not found by its name, by parts of paths and notes.
 void lookAtParts(Found& found, const Question& question, const AskContext& context, const std::string& name)
 {
-    found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    const std::vector<std::string> words = wordsOfName(lowered(name));
+    constexpr std::size_t kShortest = 3;
+    if (std::ranges::none_of(words, [](const std::string& word) { return word.size() >= kShortest; }))
+        return;
+    found.hits = holdingAll(context, words);
     found.fit = found.hits.empty() ? Fit::none : Fit::part;
     keepOfKind(found, question, context, name);
 }
@@ -339,6 +343,8 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
                              question.senses.isWithin(kOfName) &&
                              (isProgram(context, programIn(question, name)) ||
                               placesOf(context, programIn(question, name)).fit != Fit::none);
+    if (std::optional<Answer> sum = sumOfNamed(withListedNames(question, context), context))
+        return sum;
     if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isOfProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))

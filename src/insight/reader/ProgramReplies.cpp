@@ -308,6 +308,8 @@ std::optional<Answer> uninstalling(const Question& question, const AskContext& c
         return Answer{InsightTexts::kAppRemoval, {}};
     if (std::optional<Answer> app = aboutApp(context, name))
         return app;
+    if (std::optional<Answer> game = removingGame(question, context))
+        return game;
     if (!context.apps)
         return Answer{AskText::sentences({InsightTexts::kAppsScreen, InsightTexts::kAppRemoval}), {}};
     return Answer{Message{InsightTexts::kAppUnknown, {{"name", PathText::forDisplay(name)}}}, {}};

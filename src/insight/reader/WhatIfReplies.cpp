@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <set>
 #include <span>
 #include <string>
@@ -44,6 +45,8 @@ Answer said(Things things, const AskContext& context)
     for (const Stored& one : things.each)
         bytes = checkedAdd(bytes, one.bytes);
     Several names{std::move(things.names), Several::Joint::list};
+    if (things.each.empty() && !things.notes.empty())
+        return {AskText::lines(std::move(things.notes)), {}};
     if (things.each.empty())
         return {Message{InsightTexts::kNoFilesThere, {{"files", std::move(names)}}}, {}};
     std::ranges::stable_sort(things.each, std::greater{}, &Stored::bytes);
@@ -61,6 +64,7 @@ Answer said(Things things, const AskContext& context)
     if (things.each.size() > kShown)
         lines.push_back(
             {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(things.each.size() - kShown)}}});
+    std::ranges::move(things.notes, std::back_inserter(lines));
     answer.text = AskText::lines(std::move(lines));
     return answer;
 }

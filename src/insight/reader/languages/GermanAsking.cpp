@@ -5,6 +5,7 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "textdateien,textdatei,text-dateien,text-datei,txt-dateien,txt dateien"},
     {Sense::ruleOut,
      "ausschließen,schließe aus,ordner ausschließen,ausnahme hinzufügen,ausnahmen,ausnahmeliste,nie "
      "scannen,nicht scannen,vom scan ausnehmen,whitelist,nie wieder vorschlagen,nicht mehr "

@@ -5,6 +5,7 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "file di testo,file txt,file testo"},
     {Sense::ruleOut,
      "escludere una cartella,escludere un file,come escludo,come escludere,escludere dalla "
      "scansione,esclusioni,aggiungere un eccezione,lista bianca,non suggerire più,non scansionare,escludere "

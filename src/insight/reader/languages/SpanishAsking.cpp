@@ -5,6 +5,7 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "(archivo|archivos|fichero|ficheros) de texto,(archivos|ficheros) txt"},
     {Sense::ruleOut,
      "excluir una carpeta,excluir un archivo,cómo excluyo,cómo excluir,excluir del "
      "análisis,exclusiones,añadir una excepción,lista blanca,no volver a sugerir,no analizar,excluir "

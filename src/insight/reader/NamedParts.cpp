@@ -1,0 +1,66 @@
+#include "insight/reader/NamedParts.h"
+
+#include "insight/reader/AskedName.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace orlen::AskReader {
+
+namespace {
+
+bool isName(const Phrase& phrase)
+{
+    return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
+}
+
+/// Caches or log files; null for anything else.
+const Subject* partSubject(const Question& group)
+{
+    const std::optional<ProgramName> program = partOf(group);
+    if (!program)
+        return nullptr;
+    return &subjectFor(program->part == PlacePart::caches ? SubjectID::caches : SubjectID::logs);
+}
+
+/// Nothing but the name of a program.
+bool isProgramAlone(const Question& group)
+{
+    return !group.phrases.empty() && std::ranges::all_of(group.phrases, isName) &&
+           !isFileName(group, nameIn(group).name) && partSubject(group) == nullptr;
+}
+
+} // namespace
+
+std::optional<ProgramName> partOf(const Question& group)
+{
+    const AskedName asked = nameIn(group);
+    if (asked.name.empty() || !asked.place.empty() || isFileName(group, asked.name) ||
+        group.senses.has(Sense::folder))
+        return std::nullopt;
+    ProgramName program = programIn(group, asked.name);
+    const bool isPart = program.part == PlacePart::caches || program.part == PlacePart::logs;
+    return isPart && !program.name.empty() ? std::optional(std::move(program)) : std::nullopt;
+}
+
+void sharePart(const Question& question, std::vector<std::vector<Phrase>>& groups)
+{
+    if (groups.size() < 2)
+        return;
+    const auto groupAt = [&](std::size_t i) { return withPhrases(question, groups[i]); };
+    const std::size_t last = groups.size() - 1;
+    const bool isBefore = !isName(groups.front().front());
+    const Subject* const shared = isBefore                       ? partSubject(groupAt(0))
+                                  : !isName(groups[last].back()) ? partSubject(groupAt(last))
+                                                                 : nullptr;
+    // "Firefox- und Spotify-Cache"
+    const Subject* const compound =
+        shared == nullptr && groups[last].size() == 1 ? partSubject(groupAt(last)) : nullptr;
+    const Subject* const part = shared != nullptr ? shared : compound;
+    for (std::size_t i = 0; part != nullptr && i < groups.size(); ++i) {
+        if (isProgramAlone(groupAt(i)))
+            groups[i].push_back({Sense::subject, {}, part});
+    }
+}
+
+} // namespace orlen::AskReader
