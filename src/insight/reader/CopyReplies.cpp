@@ -59,7 +59,7 @@ std::string withoutCopyMark(std::string stem)
 class Called {
 public:
     Called(const Question& question, const std::string& name)
-        : m_lower(lowered(name)), m_words(wordsOfName(m_lower)),
+        : m_kind(kindIn(question)), m_lower(lowered(name)), m_words(wordsOfName(m_lower)),
           m_isFile(isFileName(question, name) && PathText::extension(name).size() > 1),
           m_stem(withoutCopyMark(std::string(PathText::stem(m_lower))))
     {
@@ -69,9 +69,9 @@ public:
     [[nodiscard]] bool fits(std::string_view lowerName) const
     {
         if (!m_isFile)
-            return !m_words.empty() && std::ranges::all_of(m_words, [&](const std::string& word) {
-                return holdsWord(lowerName, word);
-            });
+            return !m_words.empty() && (m_kind == nullptr || hasExtensionOf(*m_kind, lowerName)) &&
+                   std::ranges::all_of(m_words,
+                                       [&](const std::string& word) { return holdsWord(lowerName, word); });
         return lowerName.starts_with(m_stem.substr(0, 1)) &&
                PathText::extension(lowerName) == PathText::extension(m_lower) &&
                withoutCopyMark(std::string(PathText::stem(lowerName))) == m_stem;
@@ -83,10 +83,21 @@ public:
         const std::string name = lowered(PathText::lastComponent(entry.path));
         const std::string note = lowered(noteOf(entry).base());
         return m_isFile ? name == m_lower || note.find(m_lower) != std::string::npos
-                        : fits(name) || fits(note);
+                        : fits(name) || (m_kind == nullptr && fits(note));
     }
 
 private:
+    /// What kind of files the question speaks of; null if of none.
+    static const Subject* kindIn(const Question& question)
+    {
+        const auto phrase = std::ranges::find_if(question.phrases, [](const Phrase& each) {
+            return each.subject != nullptr && !each.subject->extensions.empty() &&
+                   each.subject->kinds.empty();
+        });
+        return phrase == question.phrases.end() ? nullptr : phrase->subject;
+    }
+
+    const Subject* m_kind;
     std::string m_lower;
     std::vector<std::string> m_words;
     bool m_isFile;
@@ -158,7 +169,9 @@ const Subject* copiesIn(const Question& question)
         const SubjectID id = phrase.subject->id;
         const bool isDeed =
             id == SubjectID::downloads && !question.senses.meets({Sense::inside, Sense::folder});
-        if (isDeed)
+        // "Two copies of the sports day film"
+        const bool isKind = !phrase.subject->extensions.empty() && phrase.subject->kinds.empty();
+        if (isDeed || isKind)
             continue;
         if (copies != nullptr || (id != SubjectID::duplicates && id != SubjectID::similarPhotos))
             return nullptr;

@@ -6,6 +6,7 @@
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedFolders.h"
 #include "insight/reader/NamedKinds.h"
 #include "insight/reader/NamedTogether.h"
 #include "insight/reader/Names.h"
@@ -145,7 +146,11 @@ std::optional<Answer> aboutPart(const Question& question, const AskContext& cont
     const Subject* const subject = question.subject();
     const bool isListed = subject != nullptr && !subject->kinds.empty() &&
                           findNamed(context, program.name, subject->kinds).fit >= Fit::part;
-    if (isListed || !isProgram(context, program) || program.part == PlacePart::saves)
+    // "The Blender cache" can be no other, whether or not Blender is there.
+    const bool isOnlyCache = program.part == PlacePart::caches && context.home != nullptr &&
+                             question.count(Sense::unknown) + question.count(Sense::quoted) == 1 &&
+                             question.count(Sense::subject) == 1 && program.name.size() > 2;
+    if (isListed || (!isOnlyCache && !isProgram(context, program)) || program.part == PlacePart::saves)
         return std::nullopt;
     return noSuchPart(program);
 }
@@ -176,8 +181,10 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
     keepOfKind(found, question, context, name);
     if (found.fit >= Fit::words)
         return found;
-    Found machine = machineNamed(question, context, name);
-    return machine.fit == Fit::none ? found : machine;
+    if (Found machine = machineNamed(question, context, name); machine.fit != Fit::none)
+        return machine;
+    Found folder = folderOfProject(question, context);
+    return folder.fit == Fit::none ? found : folder;
 }
 
 /// What was not found by its name, by parts of paths and notes.
@@ -210,7 +217,7 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
 {
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
-    const std::string folder = placeOf(question, context, asked);
+    std::string folder = placeOf(question, context, asked);
     // "Is setup.exe any use on Linux": a file of that name is meant, whatever else is said.
     const bool isOfOther = hasOtherNames(question, name, place) &&
                            (question.count(Sense::quoted) != 1 || findNamed(context, name).fit < Fit::whole);
@@ -224,6 +231,9 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
+    // "The mozilla downloads" are in that folder or nowhere.
+    if (isNarrowed && found.fit == Fit::none && folder.empty())
+        folder = folderOf(*subject);
     if (found.fit == Fit::none)
         found = foundOrMachine(question, context, name);
     if (!folder.empty()) {
@@ -338,7 +348,10 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
         (question.senses.isWithin(kOfName.with({Sense::ending})) &&
          ofKindNamed(question, context, name).fit != Fit::none) ||
         (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words) ||
+        (question.senses.isWithin(kOfName) && folderOfProject(question, context).fit != Fit::none) ||
         !hitsOfSteam(question, context, name).empty();
+    const bool isOfNoProgram = question.senses.isWithin({Sense::unknown, Sense::subject}) &&
+                               subject != nullptr && subject->id == SubjectID::caches;
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&
                              (isProgram(context, programIn(question, name)) ||
@@ -346,7 +359,7 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
     if (std::optional<Answer> sum = sumOfNamed(withListedNames(question, context), context))
         return sum;
     if (name.empty() || hasOtherNames(question, name, place) ||
-        (!isOfKind && !isOfProgram && !isFileName(question, name) &&
+        (!isOfKind && !isOfProgram && !isOfNoProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);

@@ -4,8 +4,11 @@
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/AskedName.h"
+#include "insight/reader/ListReplies.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NameReplies.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/PathHits.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
@@ -13,12 +16,125 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace orlen::AskReader {
+
+namespace {
+
+using Number = HomeFiles::Number;
+
+/// What a project of a tool has beside the folders that it makes.
+struct Tool {
+    std::string_view name;
+    std::string_view beside;
+};
+
+constexpr Tool kTools[] = {
+    {"cargo", "Cargo.toml"},    {"rust", "Cargo.toml"},      {"maven", "pom.xml"},
+    {"gradle", "build.gradle"}, {"cmake", "CMakeLists.txt"}, {"meson", "meson.build"},
+    {"npm", "package.json"},    {"node", "package.json"},    {"python", "pyproject.toml"}};
+
+bool isOfTool(const HomeFiles& home, Number folder, std::string_view name)
+{
+    const HomeFiles::Range files = home.filesIn(home.folder(folder).parent);
+    return std::ranges::any_of(kTools, [&](const Tool& tool) {
+        if (tool.name != name)
+            return false;
+        for (Number file = files.first; file < files.last; ++file) {
+            if (home.fileName(file) == tool.beside)
+                return true;
+        }
+        return false;
+    });
+}
+
+/// Whether one of the folders around it has the name.
+bool isWithin(const HomeFiles& home, Number folder, std::string_view name)
+{
+    for (Number each = folder; each > 0;) {
+        each = home.folder(each).parent;
+        if (each > 0 && lowered(home.folderName(each)) == name)
+            return true;
+    }
+    return false;
+}
+
+/// The two names, in lower case; nothing unless there are two.
+std::optional<std::pair<std::string, std::string>> twoNames(const Question& question)
+{
+    std::vector<std::string> names;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
+            names.push_back(lowered(phrase.text));
+    }
+    return names.size() == 2 ? std::optional(std::pair(names[0], names[1])) : std::nullopt;
+}
+
+} // namespace
+
+Found folderOfProject(const Question& question, const AskContext& context)
+{
+    Found found;
+    const auto names = twoNames(question);
+    if (context.home == nullptr || !names)
+        return found;
+    const HomeFiles& home = *context.home;
+    const auto& [first, second] = *names;
+    for (Number each = 1; each < home.folderCount();) {
+        const std::string name = lowered(home.folderName(each));
+        const std::string& other = name == first ? second : first;
+        const bool isOne = (name == first || name == second) && home.folderName(each) != "Trash" &&
+                           (isWithin(home, each, other) || isOfTool(home, each, other));
+        if (isOne) {
+            Measured one{home.folderPath(each), home.folder(each).bytes, {}};
+            one.kind = Measured::Kind::folder;
+            one.isOwn = home.folder(each).isOwn;
+            found.measured.push_back(std::move(one));
+        }
+        each = isOne ? home.foldersFrom(each).last : each + 1;
+    }
+    std::erase_if(found.measured, [&](const Measured& each) {
+        const Hit around = hitsAround(std::span(&each.path, 1), context).front();
+        const bool isListed = around.finding != nullptr && around.entry->path == each.path;
+        if (isListed)
+            found.hits.push_back(around);
+        return isListed;
+    });
+    if (!found.hits.empty() || !found.measured.empty())
+        found.fit = Fit::whole;
+    return found;
+}
+
+std::optional<Answer> contentsOf(const Question& question, const AskContext& context)
+{
+    std::string name;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
+            name += (name.empty() ? "" : " ") + phrase.text;
+    }
+    const std::string path = folderNamed(context, name);
+    const auto folder = path.empty() || context.home == nullptr ? std::nullopt : context.home->folderAt(path);
+    if (!folder || !context.home->folder(*folder).isOwn)
+        return std::nullopt;
+    const Question named = withPhrases(question, {{Sense::quoted, tilde(path), nullptr, 0, {}}});
+    const Question listed = withPhrases(question, {{Sense::biggest, {}, nullptr, 0, {}},
+                                                   {Sense::subject, {}, &subjectFor(SubjectID::files)},
+                                                   {Sense::inside, {}, nullptr, 0, {}},
+                                                   named.phrases.front()});
+    std::optional<Answer> files = listOfFiles(listed, context);
+    std::optional<Answer> about = aboutName(named, context);
+    if (!files || !about)
+        return files;
+    files->text = AskText::lines({std::move(files->text), std::move(about->text)});
+    files->findingIDs = std::move(about->findingIDs);
+    return files;
+}
 
 std::optional<Answer> foldersNamed(const Question& question, const AskContext& context)
 {

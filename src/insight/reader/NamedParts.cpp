@@ -1,9 +1,12 @@
 #include "insight/reader/NamedParts.h"
 
 #include "insight/reader/AskedName.h"
+#include "insight/reader/NamedKinds.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
+#include <utility>
 
 namespace orlen::AskReader {
 
@@ -60,6 +63,30 @@ void sharePart(const Question& question, std::vector<std::vector<Phrase>>& group
     for (std::size_t i = 0; part != nullptr && i < groups.size(); ++i) {
         if (isProgramAlone(groupAt(i)))
             groups[i].push_back({Sense::subject, {}, part});
+    }
+}
+
+void shareKind(const Question& question, const AskContext& context, std::vector<std::vector<Phrase>>& groups)
+{
+    if (groups.size() < 2)
+        return;
+    const std::vector<Phrase>& last = groups.back();
+    const auto kind = std::find_if_not(last.begin(), last.end(), isName);
+    const bool isKind =
+        kind != last.begin() && kind != last.end() &&
+        (kind->sense == Sense::ending || (kind->subject != nullptr && !kind->subject->extensions.empty()));
+    if (!isKind)
+        return;
+    const std::vector<Phrase> words(kind, last.end());
+    for (std::vector<Phrase>& group : groups) {
+        const Question alone = withPhrases(question, group);
+        const std::string name = nameIn(alone).name;
+        if (!std::ranges::all_of(group, isName) || isFileName(alone, name))
+            continue;
+        std::vector<Phrase> both = group;
+        both.insert(both.end(), words.begin(), words.end());
+        if (ofKindNamed(withPhrases(question, both), context, name).fit != Fit::none)
+            group = std::move(both);
     }
 }
 

@@ -13,6 +13,9 @@ namespace orlen::AskReader {
 /// all programs that are named.
 void sharePart(const Question& question, std::vector<std::vector<Phrase>>& groups);
 
+/// "The mint and debian ISOs": so does the word for a kind, where files of the kind have these names.
+void shareKind(const Question& question, const AskContext& context, std::vector<std::vector<Phrase>>& groups);
+
 /// The program of which a group names the caches or log files; nothing if it names none.
 [[nodiscard]] std::optional<ProgramName> partOf(const Question& group);
 

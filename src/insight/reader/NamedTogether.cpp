@@ -5,6 +5,7 @@
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedFolders.h"
 #include "insight/reader/NamedKinds.h"
 #include "insight/reader/NamedParts.h"
 #include "insight/reader/Names.h"
@@ -132,6 +133,8 @@ bool addNamed(Found& all, const Question& question, const AskContext& context,
         found = findNamed(context, name);
         keepOfKind(found, one, context, name);
     }
+    if (found.fit < Fit::words)
+        found = folderOfProject(one, context);
     if (found.hits.size() + found.measured.size() != 1 || found.fit < Fit::words)
         return false;
     std::ranges::move(found.hits, std::back_inserter(all.hits));
@@ -144,14 +147,17 @@ bool addNamed(Found& all, const Question& question, const AskContext& context,
 std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context)
 {
     constexpr SenseSet kOnlyNames{Sense::unknown, Sense::quoted, Sense::subject, Sense::general,
-                                  Sense::folder,  Sense::what,   Sense::takes,   Sense::can};
+                                  Sense::folder,  Sense::what,   Sense::takes,   Sense::can,
+                                  Sense::ending,  Sense::number};
     if (!question.senses.meets({Sense::howMuch, Sense::howBig, Sense::remove, Sense::safe, Sense::keep}) &&
         !question.senses.isWithin(kOnlyNames))
         return std::nullopt;
     std::vector<std::vector<Phrase>> groups = groupsOf(question);
     sharePart(question, groups);
+    shareKind(question, context, groups);
     const std::string place = nameIn(question).place;
-    if (groups.size() < 2)
+    const Phrase* const number = question.first(Sense::number);
+    if (groups.size() < 2 || (number != nullptr && number->amount != std::ssize(groups)))
         return std::nullopt;
     Found all;
     std::vector<Message> notes;

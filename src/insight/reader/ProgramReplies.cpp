@@ -301,7 +301,8 @@ std::optional<Answer> uninstalling(const Question& question, const AskContext& c
 {
     std::string name;
     for (const Phrase& phrase : question.phrases) {
-        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
+        const bool isFigure = phrase.sense == Sense::number && !name.empty(); // "Portal 2"
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted || isFigure)
             name += (name.empty() ? "" : " ") + phrase.text;
     }
     if (name.empty())

@@ -331,6 +331,7 @@ const std::vector<Rule>& rules()
         {{{subject}}, kListing, listOfBoth},
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names
+        {{{what}, {inside}, {unknown, quoted}}, {folder, general}, contentsOf},
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
         {{{subject}, {unknown, quoted}}, {general, number, howMany, inside}, listOfFiles},
         {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},

@@ -7,6 +7,7 @@
 #include "insight/reader/Exclusions.h"
 #include "insight/reader/FindingLists.h"
 #include "insight/reader/FindingParts.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
 #include "insight/reader/SubjectReplies.h"
@@ -84,7 +85,8 @@ std::optional<Answer> freedByThem(const Question& question, const AskContext& co
 {
     const bool isPast = question.senses.has(Sense::period) &&
                         !question.senses.meets({Sense::before, Sense::above, Sense::unopened});
-    const std::vector<std::vector<Phrase>> groups = groupsIn(question);
+    std::vector<std::vector<Phrase>> groups = groupsIn(question);
+    shareKind(question, context, groups);
     const bool isExcept = question.senses.has(Sense::except);
     const bool isOnlyExcept = isExcept && !question.senses.meets({Sense::remove, Sense::makeRoom});
     if (isPast || groups.empty() || (isExcept && !isOnlyExcept) || (!isExcept && isOfFindings(groups)))

@@ -5,7 +5,7 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
-    {Sense::ending, "(fichier|fichiers) (texte|textes|txt|de texte brut)"},
+    {Sense::ending, "(fichier|fichiers) (texte|textes|txt|de texte brut),texte"},
     {Sense::ruleOut, "exclure un dossier,exclure un fichier,comment exclure,exclure du scan,exclure de l "
                      "analyse,exclusions,ajouter une exception,liste blanche,ne plus proposer,ne plus "
                      "suggérer,ne jamais analyser,comment j exclus,exclure des dossiers,ne pas "

@@ -162,7 +162,7 @@ constexpr SubjectRow kSubjects[] = {
      "(document|documents|fichier|fichiers) (word|de texte|texte word|openoffice|open office|libreoffice|"
      "writer|docx|odt),documents texte,document texte"},
     {SubjectID::documents,
-     "document,documents,papiers,courriers,lettres,docs,doc,papier,texte,textes,courrier,lettre,papiers "
+     "document,documents,papiers,courriers,lettres,docs,doc,papier,textes,courrier,lettre,papiers "
      "administratifs,paperasse,documents administratifs,factures"},
     {SubjectID::files,
      "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout "
