@@ -11,11 +11,11 @@
 #include "scan/walk/WalkVisitor.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -124,9 +124,26 @@ struct Lookalikes {
     bool isThere = false; ///< whether any file fits
 };
 
+/// Keeps those that take the same space as another. What is allocated for the same bytes may differ by
+/// blocks.
+void keepAlike(std::vector<HomeFiles::Number>& numbers, const HomeFiles& home)
+{
+    constexpr std::int64_t kBlocks = 8'192;
+    const auto bytesOf = [&](HomeFiles::Number each) { return home.file(each).bytes; };
+    std::ranges::stable_sort(numbers, {}, bytesOf);
+    std::vector<HomeFiles::Number> alike;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const std::int64_t bytes = bytesOf(numbers[i]);
+        if ((i > 0 && bytes - bytesOf(numbers[i - 1]) <= kBlocks) ||
+            (i + 1 < numbers.size() && bytesOf(numbers[i + 1]) - bytes <= kBlocks))
+            alike.push_back(numbers[i]);
+    }
+    numbers = std::move(alike);
+}
+
 Lookalikes lookalikes(const HomeFiles& home, const Called& called)
 {
-    using Key = std::tuple<std::string, std::string, std::int64_t>;
+    using Key = std::pair<std::string, std::string>;
     std::map<Key, std::vector<HomeFiles::Number>> groups;
     std::string lower;
     for (HomeFiles::Number i = 0; i < home.fileCount(); ++i) {
@@ -136,13 +153,12 @@ Lookalikes lookalikes(const HomeFiles& home, const Called& called)
         lowerInto(lower, file.name);
         if (called.fits(lower))
             groups[{withoutCopyMark(std::string(PathText::stem(lower))),
-                    std::string(PathText::extension(lower)), file.bytes}]
+                    std::string(PathText::extension(lower))}]
                 .push_back(i);
     }
     Lookalikes found{{}, !groups.empty()};
-    for (const auto& [key, numbers] : groups) {
-        if (numbers.size() < 2)
-            continue;
+    for (auto& [key, numbers] : groups) {
+        keepAlike(numbers, home);
         for (const HomeFiles::Number number : numbers) {
             const HomeFiles::File file = home.file(number);
             Measured one{home.filePath(number), file.bytes, {}};

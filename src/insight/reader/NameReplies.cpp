@@ -8,6 +8,7 @@
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NamedFolders.h"
 #include "insight/reader/NamedKinds.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/NamedTogether.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Narrowing.h"
@@ -109,14 +110,6 @@ bool isSureOf(const Found& found, const Question& question, const AskedName& ask
            std::ranges::any_of(found.measured, [](const Measured& each) { return each.isOwn; });
 }
 
-/// Written neither like a path nor like a file.
-bool isPlainName(std::string_view name)
-{
-    constexpr std::size_t kShortestEnding = 2;
-    return !name.starts_with('.') && name.find('/') == std::string_view::npos && name != "~" &&
-           PathText::extension(name).size() < kShortestEnding;
-}
-
 /// Whether the name is that of a program, and nothing of the person's own is called so.
 bool isOfProgram(const Found& found, const Question& question, const AskedName& asked)
 {
@@ -127,32 +120,6 @@ bool isOfProgram(const Found& found, const Question& question, const AskedName& 
            (found.fit < Fit::stem ||
             (std::ranges::none_of(found.measured, [](const Measured& each) { return each.isOwn; }) &&
              std::ranges::all_of(found.hits, [&](const Hit& hit) { return isHidden(hit.entry->path); })));
-}
-
-/// Whether it has, or had, folders in the home folder.
-bool isProgram(const AskContext& context, const ProgramName& program)
-{
-    return placesOf(context, {program.name, PlacePart::all}).fit != Fit::none;
-}
-
-/// "The Discord cache": the part of a program that the question names. Nothing if it names none.
-std::optional<Answer> aboutPart(const Question& question, const AskContext& context, const AskedName& asked)
-{
-    const ProgramName program = programIn(question, asked.name);
-    if (program.part == PlacePart::all || !asked.place.empty() || !isPlainName(asked.name))
-        return std::nullopt;
-    if (std::optional<Answer> answer = aboutPlaces(question, context, program))
-        return answer;
-    const Subject* const subject = question.subject();
-    const bool isListed = subject != nullptr && !subject->kinds.empty() &&
-                          findNamed(context, program.name, subject->kinds).fit >= Fit::part;
-    // "The Blender cache" can be no other, whether or not Blender is there.
-    const bool isOnlyCache = program.part == PlacePart::caches && context.home != nullptr &&
-                             question.count(Sense::unknown) + question.count(Sense::quoted) == 1 &&
-                             question.count(Sense::subject) == 1 && program.name.size() > 2;
-    if (isListed || (!isOnlyCache && !isProgram(context, program)) || program.part == PlacePart::saves)
-        return std::nullopt;
-    return noSuchPart(program);
 }
 
 /// What was found, hits or folders and files that no finding lists.
@@ -180,11 +147,9 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
     Found found = findNamed(context, name);
     keepOfKind(found, question, context, name);
     if (found.fit >= Fit::words)
-        return found;
-    if (Found machine = machineNamed(question, context, name); machine.fit != Fit::none)
-        return machine;
-    Found folder = folderOfProject(question, context);
-    return folder.fit == Fit::none ? found : folder;
+        return ofHome(std::move(found), question, context);
+    Found machine = machineNamed(question, context, name);
+    return machine.fit == Fit::none ? found : machine;
 }
 
 /// What was not found by its name, by parts of paths and notes.
@@ -279,7 +244,9 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     if (context.home != nullptr && isKnownPlace(name))
         return asksSize(question) || isProgramOfPlace(name) ? notFound(name, context)
                                                             : Answer{InsightTexts::kNeverTouched, {}};
-    return isFileName(question, name) || (context.home != nullptr && isNoWord(name))
+    return isFileName(question, name) ||
+                   (context.home != nullptr &&
+                    (isNoWord(name) || (isWordOfNames(name) && mayBePartOfName(question))))
                ? std::optional(notFound(name, context))
                : std::nullopt;
 }
@@ -296,6 +263,8 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     const Question listed = withListedNames(question, context);
     if (std::optional<Answer> sum = sumOfNamed(listed, context))
         return sum;
+    if (std::optional<Answer> folder = aboutFolderOfProject(question, context))
+        return folder;
     if (listed.count(Sense::unknown) > question.count(Sense::unknown))
         return std::nullopt;
     std::optional<Answer> answer = named(question, context);
@@ -348,7 +317,6 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
         (question.senses.isWithin(kOfName.with({Sense::ending})) &&
          ofKindNamed(question, context, name).fit != Fit::none) ||
         (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words) ||
-        (question.senses.isWithin(kOfName) && folderOfProject(question, context).fit != Fit::none) ||
         !hitsOfSteam(question, context, name).empty();
     const bool isOfNoProgram = question.senses.isWithin({Sense::unknown, Sense::subject}) &&
                                subject != nullptr && subject->id == SubjectID::caches;
@@ -358,6 +326,10 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
                               placesOf(context, programIn(question, name)).fit != Fit::none);
     if (std::optional<Answer> sum = sumOfNamed(withListedNames(question, context), context))
         return sum;
+    if (question.senses.isWithin(kOfName)) {
+        if (std::optional<Answer> folder = aboutFolderOfProject(question, context))
+            return folder;
+    }
     if (name.empty() || hasOtherNames(question, name, place) ||
         (!isOfKind && !isOfProgram && !isOfNoProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))

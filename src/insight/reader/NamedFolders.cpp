@@ -4,6 +4,8 @@
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/AskedName.h"
+#include "insight/reader/FoundReplies.h"
+#include "insight/reader/HomeNames.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NameReplies.h"
@@ -76,6 +78,44 @@ std::optional<std::pair<std::string, std::string>> twoNames(const Question& ques
     return names.size() == 2 ? std::optional(std::pair(names[0], names[1])) : std::nullopt;
 }
 
+/// That there is none: "the build folder of tool", which has no such folder. Nothing unless that is sure.
+std::optional<Answer> missingInProject(const Question& question, const AskContext& context)
+{
+    const auto names = twoNames(question);
+    // Only of "the build folder of tool" it is clear which of both is in the other.
+    const std::size_t at = question.position(Sense::folder);
+    const bool isOrdered = at > 0 && at + 1 < question.phrases.size() &&
+                           lowered(question.phrases[at - 1].text) == (names ? names->first : "") &&
+                           lowered(question.phrases[at + 1].text) == (names ? names->second : "");
+    const std::string path = isOrdered && context.home != nullptr ? folderNamed(context, names->second) : "";
+    const auto folder = path.empty() ? std::nullopt : context.home->folderAt(path);
+    if (!folder || !context.home->folder(*folder).isOwn)
+        return std::nullopt;
+    return Answer{
+        Message{InsightTexts::kNotThere,
+                {{"name", PathText::forDisplay(question.phrases[at - 1].text)}, {"folder", tilde(path)}}},
+        {}};
+}
+
+/// The largest folder of the person's own with the name, or at the path.
+std::optional<Number> ownFolder(const AskContext& context, const std::string& name)
+{
+    if (context.home == nullptr)
+        return std::nullopt;
+    const HomeFiles& home = *context.home;
+    if (const std::string path = pathIn(name); !path.empty()) {
+        const auto folder = home.folderAt(path);
+        return folder && home.folder(*folder).isOwn ? folder : std::nullopt;
+    }
+    std::optional<Number> best;
+    for (const HomeNames::Item& item : context.names->of(context.home)->named(lowered(name))) {
+        if (item.isFolder && home.folder(item.number).isOwn &&
+            (!best || home.folder(item.number).bytes > home.folder(*best).bytes))
+            best = item.number;
+    }
+    return best;
+}
+
 } // namespace
 
 Found folderOfProject(const Question& question, const AskContext& context)
@@ -111,6 +151,16 @@ Found folderOfProject(const Question& question, const AskContext& context)
     return found;
 }
 
+std::optional<Answer> aboutFolderOfProject(const Question& question, const AskContext& context)
+{
+    const Found found = folderOfProject(question, context);
+    if (found.fit == Fit::none)
+        return missingInProject(question, context);
+    const std::string name = PathText::forDisplay(nameIn(question).name);
+    return found.hits.empty() ? measuredOnly(question, context, found, name)
+                              : listedHits(context, found, name);
+}
+
 std::optional<Answer> contentsOf(const Question& question, const AskContext& context)
 {
     std::string name;
@@ -118,10 +168,10 @@ std::optional<Answer> contentsOf(const Question& question, const AskContext& con
         if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
             name += (name.empty() ? "" : " ") + phrase.text;
     }
-    const std::string path = folderNamed(context, name);
-    const auto folder = path.empty() || context.home == nullptr ? std::nullopt : context.home->folderAt(path);
-    if (!folder || !context.home->folder(*folder).isOwn)
+    const std::optional<Number> folder = ownFolder(context, name);
+    if (!folder)
         return std::nullopt;
+    const std::string path = context.home->folderPath(*folder);
     const Question named = withPhrases(question, {{Sense::quoted, tilde(path), nullptr, 0, {}}});
     const Question listed = withPhrases(question, {{Sense::biggest, {}, nullptr, 0, {}},
                                                    {Sense::subject, {}, &subjectFor(SubjectID::files)},

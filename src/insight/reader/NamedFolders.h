@@ -21,4 +21,7 @@ namespace orlen::AskReader {
 /// beside what says which tool makes it. The outermost ones.
 [[nodiscard]] Found folderOfProject(const Question& question, const AskContext& context);
 
+/// What there is to say of it, or that there is none.
+[[nodiscard]] std::optional<Answer> aboutFolderOfProject(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

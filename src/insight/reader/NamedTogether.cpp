@@ -14,6 +14,7 @@
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <optional>
@@ -129,13 +130,16 @@ bool addNamed(Found& all, const Question& question, const AskContext& context,
         return context.home != nullptr;
     }
     Found found = ofKindNamed(one, context, name);
-    if (found.fit == Fit::none) {
+    const bool isOfKind = found.fit != Fit::none; // "the Zoom installers" may be several
+    if (!isOfKind) {
         found = findNamed(context, name);
         keepOfKind(found, one, context, name);
+        found = ofHome(std::move(found), one, context);
     }
     if (found.fit < Fit::words)
         found = folderOfProject(one, context);
-    if (found.hits.size() + found.measured.size() != 1 || found.fit < Fit::words)
+    const std::size_t count = found.hits.size() + found.measured.size();
+    if (count == 0 || (count > 1 && !isOfKind) || found.fit < Fit::words)
         return false;
     std::ranges::move(found.hits, std::back_inserter(all.hits));
     std::ranges::move(found.measured, std::back_inserter(all.measured));

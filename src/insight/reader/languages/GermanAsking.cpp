@@ -116,6 +116,7 @@ constexpr WordRow kAsking[] = {
      "möglich,möglichst schnell,direkt"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht "
                       "mehr,nichts,nirgends,keinesfalls,nimmer,ned,nit,nöd,keinem,keiner,keins,nix,niemand"},
+    {Sense::yet, "aber,jedoch"},
     {Sense::except,
      "das kein,die kein,die keine,der kein,was kein,was keine,außer,ausser,ausgenommen,abgesehen von,bis "
      "auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber keine,nur nicht,und "

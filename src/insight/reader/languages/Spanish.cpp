@@ -85,15 +85,15 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& spanish()
 {
-    static const Language language{
-        spanish_words::asking(),
-        spanish_words::subjects(),
-        spanish_words::kFigureRows,
-        {},
-        false,
-        "archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,película,peli,clip,foto,imagen,fotografía,"
-        "canción,pdf,documento,descarga,descargado,último",
-        spanish_words::measures()};
+    static const Language language{spanish_words::asking(),
+                                   spanish_words::subjects(),
+                                   spanish_words::kFigureRows,
+                                   {},
+                                   false,
+                                   "word,texto,de,archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,"
+                                   "película,peli,clip,foto,imagen,fotografía,"
+                                   "canción,pdf,documento,descarga,descargado,último",
+                                   spanish_words::measures()};
     return language;
 }
 
