@@ -45,6 +45,14 @@ protected:
             {entry(".local/share/Trash/files/old.mov", 6 * kBytesInMB)});
         file("Pictures/Crete.RW2", 2);
         file("Android/app/build/app.apk", 7);
+        file(".cache/mozilla/tiles", 2);
+        file(".cache/spotify/songs", 3);
+        file(".mozilla/firefox/places.sqlite", 9);
+        file(".local/share/Steam/steamapps/common/Portal 2/portal.bin", 6);
+        context.protection = [this](std::string_view path) {
+            return path.starts_with(home.path(".mozilla/firefox")) ? Protection::browserProfiles
+                                                                   : Protection::none;
+        };
         home.file("Android/build.gradle", "x");
         context.home = HomeWalk::walk({});
     }
@@ -57,6 +65,28 @@ protected:
 };
 
 constexpr Row kWhatIf[] = {
+    {"how much would I gain by deleting the caches of Firefox and Spotify",
+     "~/.cache/mozilla and ~/.cache/spotify|5 MB more (2 items)", "firefox"},
+    {"Wie viel gewinne ich, wenn ich die Caches von Firefox und Spotify lösche", "5 MB more (2 items)"},
+    {"quanto guadagno se cancello le cache di Firefox e Spotify", "5 MB more (2 items)"},
+    {"the firefox and spotify caches", "Together they take 5 MB|mozilla|spotify", ".mozilla"},
+    {"how much would I free if I delete firefox", "~/.mozilla/firefox is protected", "more ("},
+    {"how do i uninstall portal 2", "common/Portal 2 takes 6 MB|in the program that installed them"},
+    {"delete the steam screenshots", "", "games of Steam"},
+    {"is % safe", "I don't know"},
+    {"can i delete s", "I don't know"},
+    {"files bigger than 3 MB but smaller than 6 MB", "over 3 MB under 6 MB"},
+    {"the mint and ubuntu isos", "Together they take 20 MB", "img"},
+    {"the node_modules of site", "site/node_modules takes 2 MB"},
+    {"Wie groß ist der target-Ordner von engine", "engine/target takes 8 MB"},
+    {"how big is the dist folder of engine", "nothing called “dist” in ~/Projects/engine"},
+    {"what is in my engine folder", "Of files in ~/Projects/engine there are 2|target/out"},
+    {"is there a second copy of ubuntu.iso", "lists no duplicate of “ubuntu.iso”"},
+    {"backup files bigger than 1 MB", "no files with “backup” in their names over 1 MB"},
+    {"blender cache", "no cache of “blender”"},
+    {"everything in Downloads but the isos", "Left out: .iso"},
+    {"documents word", "no text documents"},
+    {"how many target folders", "with “target” in their names there are 2", "node_modules"},
     {"how much would I free if I delete both isos", "20 MB more (2 items)|mint.iso|120 GB is free now",
      "mkv"},
     {"how much free space would I have after removing ubuntu.iso and the lake house video",

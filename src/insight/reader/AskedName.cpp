@@ -1,10 +1,12 @@
 #include "insight/reader/AskedName.h"
 
+#include "insight/reader/Lexicon.h"
 #include "insight/reader/Names.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <span>
 #include <vector>
 
@@ -67,6 +69,14 @@ AskedName nameIn(const Question& question)
     const std::span all(question.phrases);
     const std::size_t place = placeIn(question);
     return {nameAmong(all.first(place)), place < all.size() ? all[place].text : std::string()};
+}
+
+bool isWordOfNames(std::string_view name)
+{
+    constexpr std::string_view kWords[] = {
+        "backup",    "backups", "sicherung", "sicherungen", "sauvegarde", "sauvegardes", "respaldo",
+        "respaldos", "code",    "build",     "mail",        "mails",      "emails"};
+    return std::ranges::find(kWords, plainLetters(name)) != std::end(kWords);
 }
 
 bool isFileName(const Question& question, std::string_view name)

@@ -19,4 +19,7 @@ struct AskedName {
 /// Written like the name of a file, so it can be nothing else.
 [[nodiscard]] bool isFileName(const Question& question, std::string_view name);
 
+/// Whether a word can only be looked for as part of names: "backups".
+[[nodiscard]] bool isWordOfNames(std::string_view name);
+
 } // namespace orlen::AskReader

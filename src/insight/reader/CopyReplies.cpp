@@ -11,11 +11,11 @@
 #include "scan/walk/WalkVisitor.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -59,7 +59,7 @@ std::string withoutCopyMark(std::string stem)
 class Called {
 public:
     Called(const Question& question, const std::string& name)
-        : m_lower(lowered(name)), m_words(wordsOfName(m_lower)),
+        : m_kind(kindIn(question)), m_lower(lowered(name)), m_words(wordsOfName(m_lower)),
           m_isFile(isFileName(question, name) && PathText::extension(name).size() > 1),
           m_stem(withoutCopyMark(std::string(PathText::stem(m_lower))))
     {
@@ -69,9 +69,9 @@ public:
     [[nodiscard]] bool fits(std::string_view lowerName) const
     {
         if (!m_isFile)
-            return !m_words.empty() && std::ranges::all_of(m_words, [&](const std::string& word) {
-                return holdsWord(lowerName, word);
-            });
+            return !m_words.empty() && (m_kind == nullptr || hasExtensionOf(*m_kind, lowerName)) &&
+                   std::ranges::all_of(m_words,
+                                       [&](const std::string& word) { return holdsWord(lowerName, word); });
         return lowerName.starts_with(m_stem.substr(0, 1)) &&
                PathText::extension(lowerName) == PathText::extension(m_lower) &&
                withoutCopyMark(std::string(PathText::stem(lowerName))) == m_stem;
@@ -83,10 +83,21 @@ public:
         const std::string name = lowered(PathText::lastComponent(entry.path));
         const std::string note = lowered(noteOf(entry).base());
         return m_isFile ? name == m_lower || note.find(m_lower) != std::string::npos
-                        : fits(name) || fits(note);
+                        : fits(name) || (m_kind == nullptr && fits(note));
     }
 
 private:
+    /// What kind of files the question speaks of; null if of none.
+    static const Subject* kindIn(const Question& question)
+    {
+        const auto phrase = std::ranges::find_if(question.phrases, [](const Phrase& each) {
+            return each.subject != nullptr && !each.subject->extensions.empty() &&
+                   each.subject->kinds.empty();
+        });
+        return phrase == question.phrases.end() ? nullptr : phrase->subject;
+    }
+
+    const Subject* m_kind;
     std::string m_lower;
     std::vector<std::string> m_words;
     bool m_isFile;
@@ -113,9 +124,26 @@ struct Lookalikes {
     bool isThere = false; ///< whether any file fits
 };
 
+/// Keeps those that take the same space as another. What is allocated for the same bytes may differ by
+/// blocks.
+void keepAlike(std::vector<HomeFiles::Number>& numbers, const HomeFiles& home)
+{
+    constexpr std::int64_t kBlocks = 8'192;
+    const auto bytesOf = [&](HomeFiles::Number each) { return home.file(each).bytes; };
+    std::ranges::stable_sort(numbers, {}, bytesOf);
+    std::vector<HomeFiles::Number> alike;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const std::int64_t bytes = bytesOf(numbers[i]);
+        if ((i > 0 && bytes - bytesOf(numbers[i - 1]) <= kBlocks) ||
+            (i + 1 < numbers.size() && bytesOf(numbers[i + 1]) - bytes <= kBlocks))
+            alike.push_back(numbers[i]);
+    }
+    numbers = std::move(alike);
+}
+
 Lookalikes lookalikes(const HomeFiles& home, const Called& called)
 {
-    using Key = std::tuple<std::string, std::string, std::int64_t>;
+    using Key = std::pair<std::string, std::string>;
     std::map<Key, std::vector<HomeFiles::Number>> groups;
     std::string lower;
     for (HomeFiles::Number i = 0; i < home.fileCount(); ++i) {
@@ -125,13 +153,12 @@ Lookalikes lookalikes(const HomeFiles& home, const Called& called)
         lowerInto(lower, file.name);
         if (called.fits(lower))
             groups[{withoutCopyMark(std::string(PathText::stem(lower))),
-                    std::string(PathText::extension(lower)), file.bytes}]
+                    std::string(PathText::extension(lower))}]
                 .push_back(i);
     }
     Lookalikes found{{}, !groups.empty()};
-    for (const auto& [key, numbers] : groups) {
-        if (numbers.size() < 2)
-            continue;
+    for (auto& [key, numbers] : groups) {
+        keepAlike(numbers, home);
         for (const HomeFiles::Number number : numbers) {
             const HomeFiles::File file = home.file(number);
             Measured one{home.filePath(number), file.bytes, {}};
@@ -158,7 +185,9 @@ const Subject* copiesIn(const Question& question)
         const SubjectID id = phrase.subject->id;
         const bool isDeed =
             id == SubjectID::downloads && !question.senses.meets({Sense::inside, Sense::folder});
-        if (isDeed)
+        // "Two copies of the sports day film"
+        const bool isKind = !phrase.subject->extensions.empty() && phrase.subject->kinds.empty();
+        if (isDeed || isKind)
             continue;
         if (copies != nullptr || (id != SubjectID::duplicates && id != SubjectID::similarPhotos))
             return nullptr;

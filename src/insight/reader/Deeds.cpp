@@ -142,4 +142,44 @@ void dropComing(Phrases& phrases)
     dropComingBefore(phrases);
 }
 
+void mergeYet(Phrases& phrases)
+{
+    constexpr SenseSet kNameable{Sense::subject, Sense::ending, Sense::unknown, Sense::quoted};
+    for (std::size_t i = 0; i < phrases.size();) {
+        if (phrases[i].sense != Sense::yet) {
+            ++i;
+            continue;
+        }
+        const bool isLast = i + 1 == phrases.size();
+        if (!isLast && kNameable.has(phrases[i + 1].sense)) {
+            phrases[i++].sense = Sense::except;
+            continue;
+        }
+        if (!isLast)
+            phrases[i + 1].isJoined = true;
+        phrases.erase(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i)));
+    }
+}
+
+void mergeBuildFolders(Phrases& phrases)
+{
+    constexpr std::string_view kNames[] = {"target", "dist", "build", "node_modules"};
+    const auto isOutput = [](const Phrase& each) {
+        return each.subject != nullptr && each.subject->id == SubjectID::buildOutput;
+    };
+    if (std::ranges::none_of(phrases, isOutput))
+        return;
+    for (std::size_t i = 0; i < phrases.size();) {
+        const bool isOne = phrases[i].sense == Sense::unknown &&
+                           std::ranges::find(kNames, phrases[i].text) != std::end(kNames);
+        if (!isOne) {
+            ++i;
+            continue;
+        }
+        const bool saysFolder = i + 1 < phrases.size() && phrases[i + 1].sense == Sense::folder;
+        const auto from = std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i));
+        phrases.erase(from, std::next(from, saysFolder ? 2 : 1));
+    }
+}
+
 } // namespace orlen::AskReader

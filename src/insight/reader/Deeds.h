@@ -37,4 +37,10 @@ void mergeMaking(Phrases& phrases);
 /// Drops the names of what is to come: "room for a 12 GB backup".
 void dropComing(Phrases& phrases);
 
+/// "Over 50 MB but older than a year" adds to what is asked; "everything but videos" leaves them out.
+void mergeYet(Phrases& phrases);
+
+/// "Build artefacts and target dirs": the folders of that name are among them.
+void mergeBuildFolders(Phrases& phrases);
+
 } // namespace orlen::AskReader

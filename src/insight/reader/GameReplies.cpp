@@ -3,6 +3,7 @@
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsPrograms.h"
+#include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/SubjectReplies.h"
 #include "platform/files/Places.h"
@@ -86,12 +87,67 @@ bool hasSteamGames(const HomeFiles& home)
                                });
 }
 
+/// The words of a name that a game has to have: those of the question, figures too.
+std::vector<std::string> askedWords(const Question& question)
+{
+    std::vector<std::string> words;
+    for (const Phrase& phrase : question.phrases) {
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted || phrase.sense == Sense::number)
+            std::ranges::move(wordsOfName(lowered(phrase.text)), std::back_inserter(words));
+    }
+    return words;
+}
+
 } // namespace
+
+std::optional<Answer> removingGame(const Question& question, const AskContext& context)
+{
+    const std::vector<std::string> asked = askedWords(question);
+    if (context.home == nullptr || asked.empty() || !question.senses.meets({Sense::unknown, Sense::quoted}))
+        return std::nullopt;
+    const HomeFiles& home = *context.home;
+    std::vector<HomeFiles::Number> found;
+    for (const std::string& folder : Places::current().expand("{STEAM}/steamapps/common")) {
+        const auto at = home.folderAt(folder);
+        const HomeFiles::Number last = at ? home.foldersFrom(*at).last : 0;
+        for (HomeFiles::Number game = at ? *at + 1 : 0; game < last; game = home.foldersFrom(game).last) {
+            const std::vector<std::string> words = wordsOfName(lowered(home.folderName(game)));
+            const bool fits = std::ranges::all_of(asked, [&](const std::string& word) {
+                return std::ranges::find(words, word) != words.end();
+            });
+            if (fits)
+                found.push_back(game);
+        }
+    }
+    // "Portal" is not the second one.
+    const auto isWhole = [&](HomeFiles::Number game) {
+        return wordsOfName(lowered(home.folderName(game))).size() == asked.size();
+    };
+    if (const auto whole = std::ranges::find_if(found, isWhole); whole != found.end())
+        found = {*whole};
+    if (found.size() != 1)
+        return std::nullopt;
+    const std::string path = home.folderPath(found.front());
+    return Answer{
+        AskText::lines({Message{InsightTexts::kFolderTakes,
+                                {{"folder", tilde(path)}, {"size", Bytes{home.folder(found.front()).bytes}}}},
+                        InsightTexts::kGames}),
+        {},
+        false,
+        {path}};
+}
 
 std::optional<Answer> games(const Question& question, const AskContext& context)
 {
     constexpr SenseSet kOther{Sense::newest, Sense::oldest, Sense::period, Sense::unopened, Sense::size};
-    if (question.senses.meets(kOther))
+    // "The Steam screenshots" are no games.
+    const bool isOfKind = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
+        const Subject* const subject = phrase.subject;
+        return subject != nullptr && !subject->isAnyFile && !subject->isProgram &&
+               (!subject->kinds.empty() || !subject->extensions.empty()) &&
+               subject->id != SubjectID::downloads;
+    });
+    if (question.senses.meets(kOther) || isOfKind)
         return std::nullopt;
     const bool isSteam = std::ranges::any_of(question.phrases, [](const Phrase& phrase) {
         return phrase.subject != nullptr && plainLetters(phrase.text).find("steam") != std::string::npos;

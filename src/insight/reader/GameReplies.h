@@ -11,4 +11,8 @@ namespace orlen::AskReader {
 /// more than that. Pure; any thread.
 [[nodiscard]] std::optional<Answer> games(const Question& question, const AskContext& context);
 
+/// Where the game of Steam lies that a question names, how big it is, and that Steam removes it. Nothing if
+/// it is no such game.
+[[nodiscard]] std::optional<Answer> removingGame(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

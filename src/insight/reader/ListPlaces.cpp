@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -33,9 +34,11 @@ bool takeOwnFolder(const Question& question, const AskContext& context, const st
 }
 
 /// "The oldest tax documents": files of a kind with a word in their names.
-bool takeWords(const AskContext& context, const std::string& name, ListRequest& request)
+bool takeWords(const AskContext& context, const std::string& name, ListRequest& request,
+               bool isBesideFiles = false)
 {
-    if (context.home == nullptr || request.subject == nullptr || request.subject->extensions.empty())
+    if (context.home == nullptr || request.subject == nullptr ||
+        (request.subject->extensions.empty() && !isBesideFiles))
         return false;
     request.name = name;
     request.words = wordsOfName(lowered(name));
@@ -72,8 +75,15 @@ bool takeFolder(const Question& question, const AskContext& context, ListRequest
     for (auto each = first; each != last; ++each)
         name += (name.empty() ? "" : " ") + each->text;
     const bool isPlace = isAfterInside(question, static_cast<std::size_t>(first - phrases.begin()));
+    // "Backup files bigger than 1 MB"
+    const auto isFiles = [](const Phrase& each) {
+        return each.subject != nullptr && each.subject->isAnyFile;
+    };
+    const bool isBesideFiles = (last != phrases.end() && !last->isJoined && isFiles(*last)) ||
+                               (first != phrases.begin() && isFiles(*std::prev(first)));
     if (!isPlace && !isCounted)
-        return takeOwnFolder(question, context, name, request) || takeWords(context, name, request);
+        return takeOwnFolder(question, context, name, request) ||
+               takeWords(context, name, request, isBesideFiles);
     if (!request.folder.empty())
         return !isPlace && takeWords(context, name, request);
     request.folder = folderNamed(context, name);

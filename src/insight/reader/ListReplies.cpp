@@ -2,6 +2,7 @@
 
 #include "insight/AskText.h"
 #include "insight/InsightTexts.h"
+#include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/HomeLists.h"
 #include "insight/reader/ListConditions.h"
@@ -196,7 +197,7 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     if (!request)
         return std::nullopt;
     const auto list = homeListFor(*request, context);
-    if (!request->words.empty() && (!list || list->count == 0))
+    if (!request->words.empty() && (!list || (list->count == 0 && !isWordOfNames(request->name))))
         return std::nullopt;
     if (list)
         return shownList(*request, context, *list);
@@ -237,7 +238,7 @@ std::optional<Answer> countOfFiles(const Question& question, const AskContext& c
 {
     const std::optional<ListRequest> request = listRequestIn(question, context);
     const auto list = request ? homeListFor(*request, context) : std::nullopt;
-    if (!list || (!request->words.empty() && list->count == 0))
+    if (!list || (!request->words.empty() && list->count == 0 && !isWordOfNames(request->name)))
         return std::nullopt;
     if (list->count == 0 && !request->exclusions.empty())
         return Answer{AskText::lines(nothingElse(*request, context)), {}};

@@ -111,8 +111,8 @@ bool asksForOne(const Question& question)
 bool isOfOwnFiles(const Question& question, const ListRequest& request)
 {
     using enum SubjectID;
-    constexpr SubjectID kKinds[] = {videos,       photos,        rawPhotos, audio,    pdfs,
-                                    spreadsheets, presentations, ebooks,    documents};
+    constexpr SubjectID kKinds[] = {videos,       photos,        rawPhotos, audio,     pdfs,
+                                    spreadsheets, presentations, ebooks,    documents, textDocuments};
     const bool isBySize = question.senses.meets({Sense::biggest, Sense::smallest}) &&
                           (request.order == Order::biggest || request.order == Order::smallest);
     const bool isByDate = request.order == Order::newest || request.order == Order::oldest ||

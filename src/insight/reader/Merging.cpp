@@ -313,6 +313,7 @@ Question merged(const Question& question)
     constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
     if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
+    mergeYet(phrases);
     mergeOrders(phrases);
     mergeOfOrlen(phrases);
     dropAside(phrases);
@@ -325,6 +326,7 @@ Question merged(const Question& question)
     mergeMaking(phrases);
     dropComing(phrases);
     placeCountedFolders(phrases, question.lexicon == Lexicon::all().data());
+    mergeBuildFolders(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

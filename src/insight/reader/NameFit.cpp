@@ -15,11 +15,18 @@ namespace {
 constexpr std::size_t kShortestPart = 4;
 constexpr std::size_t kShortestMistypedName = 6;
 
+/// One word of one letter.
+bool isLetter(const std::vector<std::string>& words)
+{
+    const auto isStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    return words.size() == 1 && std::ranges::count_if(words.front(), isStart) == 1;
+}
+
 } // namespace
 
 Wanted::Wanted(std::string_view name)
     : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsOfName(m_name)),
-      m_home(Places::current().home),
+      m_home(Places::current().home), m_isLetter(isLetter(m_words)),
       m_mayBePart(
           std::ranges::all_of(m_words, [](const std::string& word) { return word.size() >= kShortestPart; })),
       m_mayBeMistyped(std::ranges::any_of(
@@ -49,7 +56,7 @@ Fit Wanted::fit(std::string_view path, Fit least)
         return Fit::whole;
     if (name.starts_with(m_name) && PathText::stem(name) == m_name)
         return Fit::stem;
-    if (m_words.empty() || least > Fit::words)
+    if (m_words.empty() || m_isLetter || least > Fit::words)
         return Fit::none;
     if (holdsWords(name))
         return Fit::words;

@@ -38,6 +38,7 @@ private:
     std::string m_lowerFolders;
     bool m_folderHoldsAny = false;
     std::string m_lowerPath;
+    bool m_isLetter; ///< a name of one letter, which stands within too many others
     bool m_mayBePart;
     bool m_mayBeMistyped;
 };

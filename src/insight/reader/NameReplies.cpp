@@ -6,7 +6,9 @@
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedFolders.h"
 #include "insight/reader/NamedKinds.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/NamedTogether.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Narrowing.h"
@@ -108,14 +110,6 @@ bool isSureOf(const Found& found, const Question& question, const AskedName& ask
            std::ranges::any_of(found.measured, [](const Measured& each) { return each.isOwn; });
 }
 
-/// Written neither like a path nor like a file.
-bool isPlainName(std::string_view name)
-{
-    constexpr std::size_t kShortestEnding = 2;
-    return !name.starts_with('.') && name.find('/') == std::string_view::npos && name != "~" &&
-           PathText::extension(name).size() < kShortestEnding;
-}
-
 /// Whether the name is that of a program, and nothing of the person's own is called so.
 bool isOfProgram(const Found& found, const Question& question, const AskedName& asked)
 {
@@ -126,28 +120,6 @@ bool isOfProgram(const Found& found, const Question& question, const AskedName& 
            (found.fit < Fit::stem ||
             (std::ranges::none_of(found.measured, [](const Measured& each) { return each.isOwn; }) &&
              std::ranges::all_of(found.hits, [&](const Hit& hit) { return isHidden(hit.entry->path); })));
-}
-
-/// Whether it has, or had, folders in the home folder.
-bool isProgram(const AskContext& context, const ProgramName& program)
-{
-    return placesOf(context, {program.name, PlacePart::all}).fit != Fit::none;
-}
-
-/// "The Discord cache": the part of a program that the question names. Nothing if it names none.
-std::optional<Answer> aboutPart(const Question& question, const AskContext& context, const AskedName& asked)
-{
-    const ProgramName program = programIn(question, asked.name);
-    if (program.part == PlacePart::all || !asked.place.empty() || !isPlainName(asked.name))
-        return std::nullopt;
-    if (std::optional<Answer> answer = aboutPlaces(question, context, program))
-        return answer;
-    const Subject* const subject = question.subject();
-    const bool isListed = subject != nullptr && !subject->kinds.empty() &&
-                          findNamed(context, program.name, subject->kinds).fit >= Fit::part;
-    if (isListed || !isProgram(context, program) || program.part == PlacePart::saves)
-        return std::nullopt;
-    return noSuchPart(program);
 }
 
 /// What was found, hits or folders and files that no finding lists.
@@ -175,7 +147,7 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
     Found found = findNamed(context, name);
     keepOfKind(found, question, context, name);
     if (found.fit >= Fit::words)
-        return found;
+        return ofHome(std::move(found), question, context);
     Found machine = machineNamed(question, context, name);
     return machine.fit == Fit::none ? found : machine;
 }
@@ -183,7 +155,11 @@ Found foundOrMachine(const Question& question, const AskContext& context, const 
 /// What was not found by its name, by parts of paths and notes.
 void lookAtParts(Found& found, const Question& question, const AskContext& context, const std::string& name)
 {
-    found.hits = holdingAll(context, wordsOfName(lowered(name)));
+    const std::vector<std::string> words = wordsOfName(lowered(name));
+    constexpr std::size_t kShortest = 3;
+    if (std::ranges::none_of(words, [](const std::string& word) { return word.size() >= kShortest; }))
+        return;
+    found.hits = holdingAll(context, words);
     found.fit = found.hits.empty() ? Fit::none : Fit::part;
     keepOfKind(found, question, context, name);
 }
@@ -206,7 +182,7 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
 {
     const AskedName asked = nameIn(question);
     const auto& [name, place] = asked;
-    const std::string folder = placeOf(question, context, asked);
+    std::string folder = placeOf(question, context, asked);
     // "Is setup.exe any use on Linux": a file of that name is meant, whatever else is said.
     const bool isOfOther = hasOtherNames(question, name, place) &&
                            (question.count(Sense::quoted) != 1 || findNamed(context, name).fit < Fit::whole);
@@ -220,6 +196,9 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     const Subject* const subject = question.subject();
     const bool isNarrowed = subject != nullptr && !subject->kinds.empty();
     Found found = isNarrowed ? findNamed(context, name, subject->kinds) : Found();
+    // "The mozilla downloads" are in that folder or nowhere.
+    if (isNarrowed && found.fit == Fit::none && folder.empty())
+        folder = folderOf(*subject);
     if (found.fit == Fit::none)
         found = foundOrMachine(question, context, name);
     if (!folder.empty()) {
@@ -265,7 +244,9 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     if (context.home != nullptr && isKnownPlace(name))
         return asksSize(question) || isProgramOfPlace(name) ? notFound(name, context)
                                                             : Answer{InsightTexts::kNeverTouched, {}};
-    return isFileName(question, name) || (context.home != nullptr && isNoWord(name))
+    return isFileName(question, name) ||
+                   (context.home != nullptr &&
+                    (isNoWord(name) || (isWordOfNames(name) && mayBePartOfName(question))))
                ? std::optional(notFound(name, context))
                : std::nullopt;
 }
@@ -282,6 +263,8 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     const Question listed = withListedNames(question, context);
     if (std::optional<Answer> sum = sumOfNamed(listed, context))
         return sum;
+    if (std::optional<Answer> folder = aboutFolderOfProject(question, context))
+        return folder;
     if (listed.count(Sense::unknown) > question.count(Sense::unknown))
         return std::nullopt;
     std::optional<Answer> answer = named(question, context);
@@ -335,12 +318,20 @@ std::optional<Answer> aboutSureName(const Question& question, const AskContext& 
          ofKindNamed(question, context, name).fit != Fit::none) ||
         (question.senses.isWithin({Sense::unknown}) && findNamed(context, name).fit >= Fit::words) ||
         !hitsOfSteam(question, context, name).empty();
+    const bool isOfNoProgram = question.senses.isWithin({Sense::unknown, Sense::subject}) &&
+                               subject != nullptr && subject->id == SubjectID::caches;
     const bool isOfProgram = !name.empty() && place.empty() && isPlainName(name) &&
                              question.senses.isWithin(kOfName) &&
                              (isProgram(context, programIn(question, name)) ||
                               placesOf(context, programIn(question, name)).fit != Fit::none);
+    if (std::optional<Answer> sum = sumOfNamed(withListedNames(question, context), context))
+        return sum;
+    if (question.senses.isWithin(kOfName)) {
+        if (std::optional<Answer> folder = aboutFolderOfProject(question, context))
+            return folder;
+    }
     if (name.empty() || hasOtherNames(question, name, place) ||
-        (!isOfKind && !isOfProgram && !isFileName(question, name) &&
+        (!isOfKind && !isOfProgram && !isOfNoProgram && !isFileName(question, name) &&
          protectedPath(question, context, name).empty()))
         return std::nullopt;
     return aboutName(question, context);

@@ -203,6 +203,16 @@ Found holdingWordsOf(const Question& question, const AskContext& context)
     return !isTelling ? Found() : withWords(context, words, [](std::string_view) { return true; });
 }
 
+Found ofHome(Found found, const Question& question, const AskContext& context)
+{
+    const bool isOfLargest = found.hits.empty() && !found.measured.empty() && found.fit <= Fit::words &&
+                             std::ranges::all_of(found.measured, [](const Measured& each) {
+                                 return each.kind == Measured::Kind::unknown;
+                             });
+    Found all = isOfLargest ? holdingWordsOf(question, context) : Found();
+    return all.fit == Fit::none ? found : all;
+}
+
 Question withListedNames(const Question& question, const AskContext& context)
 {
     const auto isName = [](const Phrase& phrase) {

@@ -25,6 +25,10 @@ void keepOfKind(Found& found, const Question& question, const AskContext& contex
 /// "the backup from my old laptop", "old laptop backup.tar.gz".
 [[nodiscard]] Found holdingWordsOf(const Question& question, const AskContext& context);
 
+/// What was found only as one of the largest things of a folder, by all files of the home folder that have
+/// its words in their names instead: "the scanner manual" may be there twice.
+[[nodiscard]] Found ofHome(Found found, const Question& question, const AskContext& context);
+
 /// The question with words of a list of names as names, whatever else they say: "target, build, dist".
 [[nodiscard]] Question withListedNames(const Question& question, const AskContext& context);
 

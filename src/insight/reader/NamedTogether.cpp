@@ -1,16 +1,20 @@
 #include "insight/reader/NamedTogether.h"
 
+#include "insight/AskText.h"
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/LowerName.h"
+#include "insight/reader/NamedFolders.h"
 #include "insight/reader/NamedKinds.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/PathHits.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <optional>
@@ -108,20 +112,34 @@ bool addAllInFolder(Found& all, const AskContext& context, const std::vector<std
     return true;
 }
 
-/// Adds the one that a group of phrases names; false if there is none or several.
+/// Adds the one that a group of phrases names, or all caches of a program; false if there is none or several.
 bool addNamed(Found& all, const Question& question, const AskContext& context,
-              const std::vector<Phrase>& phrases)
+              const std::vector<Phrase>& phrases, std::vector<Message>& notes)
 {
     const std::string name = namedBy(phrases);
     if (name.empty())
         return false;
     const Question one = withPhrases(question, phrases);
+    if (const std::optional<ProgramName> program = partOf(one)) {
+        Found places = placesOf(context, *program);
+        std::erase_if(places.measured, [](const Measured& each) { return each.bytes == 0; });
+        if (places.hits.empty() && places.measured.empty())
+            notes.push_back(places.trashed.empty() ? noSuchPart(*program).text : inTrash(places).text);
+        std::ranges::move(places.hits, std::back_inserter(all.hits));
+        std::ranges::move(places.measured, std::back_inserter(all.measured));
+        return context.home != nullptr;
+    }
     Found found = ofKindNamed(one, context, name);
-    if (found.fit == Fit::none) {
+    const bool isOfKind = found.fit != Fit::none; // "the Zoom installers" may be several
+    if (!isOfKind) {
         found = findNamed(context, name);
         keepOfKind(found, one, context, name);
+        found = ofHome(std::move(found), one, context);
     }
-    if (found.hits.size() + found.measured.size() != 1 || found.fit < Fit::words)
+    if (found.fit < Fit::words)
+        found = folderOfProject(one, context);
+    const std::size_t count = found.hits.size() + found.measured.size();
+    if (count == 0 || (count > 1 && !isOfKind) || found.fit < Fit::words)
         return false;
     std::ranges::move(found.hits, std::back_inserter(all.hits));
     std::ranges::move(found.measured, std::back_inserter(all.measured));
@@ -132,17 +150,25 @@ bool addNamed(Found& all, const Question& question, const AskContext& context,
 
 std::optional<Answer> sumOfNamed(const Question& question, const AskContext& context)
 {
-    if (!question.senses.meets({Sense::howMuch, Sense::howBig, Sense::remove, Sense::safe, Sense::keep}))
+    constexpr SenseSet kOnlyNames{Sense::unknown, Sense::quoted, Sense::subject, Sense::general,
+                                  Sense::folder,  Sense::what,   Sense::takes,   Sense::can,
+                                  Sense::ending,  Sense::number};
+    if (!question.senses.meets({Sense::howMuch, Sense::howBig, Sense::remove, Sense::safe, Sense::keep}) &&
+        !question.senses.isWithin(kOnlyNames))
         return std::nullopt;
-    const std::vector<std::vector<Phrase>> groups = groupsOf(question);
+    std::vector<std::vector<Phrase>> groups = groupsOf(question);
+    sharePart(question, groups);
+    shareKind(question, context, groups);
     const std::string place = nameIn(question).place;
-    if (groups.size() < 2)
+    const Phrase* const number = question.first(Sense::number);
+    if (groups.size() < 2 || (number != nullptr && number->amount != std::ssize(groups)))
         return std::nullopt;
     Found all;
+    std::vector<Message> notes;
     const bool areFound = !place.empty()
                               ? addAllInFolder(all, context, groups, place)
                               : std::ranges::all_of(groups, [&](const std::vector<Phrase>& phrases) {
-                                    return addNamed(all, question, context, phrases);
+                                    return addNamed(all, question, context, phrases, notes);
                                 });
     if (!areFound)
         return std::nullopt;
@@ -151,7 +177,12 @@ std::optional<Answer> sumOfNamed(const Question& question, const AskContext& con
         bytes = checkedAdd(bytes, hit.entry->size);
     for (const Measured& each : all.measured)
         bytes = checkedAdd(bytes, each.bytes);
-    return listedBelow({InsightTexts::kTogether, {{"size", Bytes{bytes}}}}, context, all);
+    if (all.hits.empty() && all.measured.empty())
+        return notes.empty() ? std::nullopt : std::optional(Answer{AskText::lines(std::move(notes)), {}});
+    Answer answer = listedBelow({InsightTexts::kTogether, {{"size", Bytes{bytes}}}}, context, all);
+    notes.insert(notes.begin(), std::move(answer.text));
+    answer.text = AskText::lines(std::move(notes));
+    return answer;
 }
 
 } // namespace orlen::AskReader

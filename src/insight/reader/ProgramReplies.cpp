@@ -301,13 +301,16 @@ std::optional<Answer> uninstalling(const Question& question, const AskContext& c
 {
     std::string name;
     for (const Phrase& phrase : question.phrases) {
-        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted)
+        const bool isFigure = phrase.sense == Sense::number && !name.empty(); // "Portal 2"
+        if (phrase.sense == Sense::unknown || phrase.sense == Sense::quoted || isFigure)
             name += (name.empty() ? "" : " ") + phrase.text;
     }
     if (name.empty())
         return Answer{InsightTexts::kAppRemoval, {}};
     if (std::optional<Answer> app = aboutApp(context, name))
         return app;
+    if (std::optional<Answer> game = removingGame(question, context))
+        return game;
     if (!context.apps)
         return Answer{AskText::sentences({InsightTexts::kAppsScreen, InsightTexts::kAppRemoval}), {}};
     return Answer{Message{InsightTexts::kAppUnknown, {{"name", PathText::forDisplay(name)}}}, {}};

@@ -26,8 +26,9 @@ public:
     Question question()
     {
         while (m_at < m_words.size()) {
-            if (!takeQuoted() && !takeEnding() && !takePeriod() && !takeSince() && !takeSize() &&
-                !takeKnown(2) && !takeOrdinal() && !takeKnown(1) && !takeShare() && !takeNumber())
+            if (!takeQuoted() && !takeSign() && !takeEnding() && !takePeriod() && !takeSince() &&
+                !takeSize() && !takeKnown(2) && !takeOrdinal() && !takeKnown(1) && !takeShare() &&
+                !takeNumber())
                 takeUnknown();
         }
         if (m_question.phrases.empty() && m_question.asksHow) {
@@ -183,28 +184,55 @@ private:
         return true;
     }
 
+    /// "Is % safe": a sign that belongs to no figure stands for a name, if it stands for anything.
+    bool takeSign()
+    {
+        const std::string& word = m_plain[m_at];
+        constexpr std::string_view kSigns = "%$#@^~\\*";
+        constexpr SenseSet kOfAmounts{Sense::howMuch, Sense::howBig, Sense::howMany, Sense::number,
+                                      Sense::full,    Sense::free,   Sense::used};
+        if (word.empty() || word.find_first_not_of(kSigns) != std::string::npos || word == "~")
+            return false;
+        const auto isFigure = [](const std::string& each) {
+            return each.front() >= '0' && each.front() <= '9';
+        };
+        const bool isBesideFigure = (m_at > 0 && isFigure(m_plain[m_at - 1])) ||
+                                    (m_at + 1 < m_plain.size() && isFigure(m_plain[m_at + 1]));
+        const Lexicon::Entry* const next =
+            m_at + 1 < m_plain.size() ? m_lexicon.find(m_plain[m_at + 1]) : nullptr;
+        if (isBesideFigure || m_question.senses.meets(kOfAmounts) ||
+            (next != nullptr && kOfAmounts.has(next->sense)))
+            return false;
+        take({Sense::unknown, {}, nullptr, 0, {}}, 1);
+        return true;
+    }
+
     /// "mp3", "zip files", ".img": of file names, beside the files.
     bool takeEnding()
     {
         const std::string& word = m_plain[m_at];
-        const std::string ending = endingIn(word);
-        if (ending.empty())
-            return false;
         const auto isFiles = [&](std::size_t at) {
             const Lexicon::Entry* const entry = at < m_plain.size() ? m_lexicon.find(m_plain[at]) : nullptr;
             return entry != nullptr && entry->subject != nullptr && entry->subject->isAnyFile;
         };
         const bool isBesideFiles = isFiles(m_at + 1) || (m_at > 0 && isFiles(m_at - 1));
+        const std::string ending = endingIn(word);
+        if (ending.empty())
+            return false;
         const bool isDotted = word.starts_with('.') || word.starts_with("*.");
         if (isDotted ? !isBesideFiles && !isEndingOfKind(ending) : !isKnownEnding(ending))
             return false;
         take({Sense::ending, {}, nullptr, 0, {}}, 1);
         m_question.phrases.back().text = ending;
-        if (!isBesideFiles) {
-            m_question.phrases.push_back({Sense::subject, {}, &subjectFor(SubjectID::files)});
-            m_question.senses.add(Sense::subject);
-        }
+        if (!isBesideFiles)
+            addFiles();
         return true;
+    }
+
+    void addFiles()
+    {
+        m_question.phrases.push_back({Sense::subject, {}, &subjectFor(SubjectID::files)});
+        m_question.senses.add(Sense::subject);
     }
 
     bool takePeriod()
@@ -279,6 +307,11 @@ private:
             const Lexicon::Entry* const accented = count == 1 ? accentedEntry() : nullptr;
             if (const Lexicon::Entry* const entry = accented != nullptr ? accented : m_lexicon.find(phrase)) {
                 take({entry->sense, {}, entry->subject, 0, {}}, count);
+                // "Text files": the only ending that has a phrase.
+                if (entry->sense == Sense::ending) {
+                    m_question.phrases.back().text = "txt";
+                    addFiles();
+                }
                 return true;
             }
         }
@@ -386,7 +419,7 @@ private:
     std::vector<std::string> m_plain;
     std::size_t m_at = 0;
     bool m_isJoined = false;
-    bool m_pointsBack = false; ///< a word that points back stands before the next phrase
+    bool m_pointsBack = false;     ///< a word that points back stands before the next phrase
     std::size_t m_behindOrlen = 0; ///< the piece that follows "do you"
     Question m_question;
 };

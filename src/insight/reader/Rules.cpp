@@ -2,6 +2,7 @@
 
 #include "insight/reader/CopyReplies.h"
 #include "insight/reader/ForecastReplies.h"
+#include "insight/reader/GameReplies.h"
 #include "insight/reader/GrowthReplies.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/ListReplies.h"
@@ -81,9 +82,9 @@ const std::vector<Rule>& rules()
         {{{howMuch, howBig},
           {remove, makeRoom, except},
           {subject, unknown, quoted, ending, safe, review, except}},
-         kSpaceWords.with({can,      general, inside,  folder, size,    above,  below,  before,
-                           after,    keep,    period,  what,   mean,    lasts,  undo,   safe,
-                           unopened, review,  cleanUp, ending, unknown, quoted, subject}),
+         kSpaceWords.with({can,    general, inside, folder,   size,   above,   below,   before,
+                           after,  keep,    period, what,     mean,   lasts,   undo,    safe,
+                           oldest, review,  ending, unopened, quoted, cleanUp, unknown, subject}),
          freedByThem},
         {{{howMuch, howBig}, {happens}, {space, free}, {subject, unknown, quoted, ending, safe}},
          kSpaceWords.with({general, lasts, ending, quoted, subject}),
@@ -180,7 +181,8 @@ const std::vector<Rule>& rules()
          allCleanUps},
         {{{cleanUp, remove}, {when}}, {general, last, subject, can}, lastCleanUp},
         {{{subject}, {unknown, quoted}},
-         {what, can, general, number, howMany, takes, inside, disk, folder, installed, remove, safe, keep},
+         {what, can, general, number, howMany, takes, inside, disk, folder, installed, remove, safe, keep,
+          ordinal},
          aboutCopies},
         {{{unknown, general}, {subject, oldest, newest, disk}},
          {what, can, remove, safe, howBig, keep, inside, folder, takes, makeRoom, oldest, newest, subject},
@@ -252,7 +254,12 @@ const std::vector<Rule>& rules()
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
         {{{installed}, {unknown, quoted}}, {what, can, general, disk, subject}, isInstalled},
-        {{{uninstall}}, {what, can, subject, unknown, quoted, general, remove, disk, inside}, uninstalling},
+        {{{unknown, quoted}, {number}, {what, remove, howBig, howMuch, installed}},
+         {what, can, general, takes, space, disk, subject, installed, safe},
+         removingGame},
+        {{{uninstall}},
+         {what, can, subject, unknown, quoted, general, remove, disk, inside, number},
+         uninstalling},
         // What has a rating
         {{{safe, review, keep}, {mean, size, period, biggest, oldest, newest, review}, {subject}},
          kListing.with({safe, review, keep, mean}),
@@ -327,6 +334,7 @@ const std::vector<Rule>& rules()
         {{{subject}}, kListing, listOfBoth},
         {{{except}, {subject}}, kListing, listOfFiles},
         // Names
+        {{{what}, {inside}, {unknown, quoted}}, {folder, general}, contentsOf},
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
         {{{subject}, {unknown, quoted}}, {general, number, howMany, inside}, listOfFiles},
         {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},

@@ -64,6 +64,7 @@ enum class Sense : std::uint8_t {
     negation,
     except,  ///< "besides", "other than": what is left out
     outside, ///< "not in": the place that is left out
+    yet,     ///< "but": before what can be named, it leaves it out
     lasts,   ///< "last", "suffice": of the space until some day
     speed,   ///< "how fast"
     opened,  ///< with a negation: not opened
@@ -88,7 +89,7 @@ enum class Sense : std::uint8_t {
     number,
     ordinal,
     period,
-    ending,  ///< of file names: ".mp3"
+    ending,  ///< of file names: ".mp3"; in the tables, "text files"
     quoted,  ///< text in quotation marks
     unknown, ///< perhaps a name
     // These stand beside the senses of a question: they tell how it hangs together.

@@ -94,7 +94,7 @@ const Subject* mainSubject(const Question& question)
 }
 
 /// Why the folder itself stays; empty if it is not protected.
-Message protectionOf(const std::string& folder, const AskContext& context)
+Message saidProtection(const std::string& folder, const AskContext& context)
 {
     const Protection protection =
         folder.empty() || !context.protection ? Protection::none : context.protection(folder);
@@ -110,7 +110,7 @@ Message protectionOf(const std::string& folder, const AskContext& context)
 std::optional<Answer> removingKind(const Question& question, const AskContext& context,
                                    const std::string& folder)
 {
-    const Message shield = protectionOf(folder, context);
+    const Message shield = saidProtection(folder, context);
     if (shield.empty() || question.senses.meets({Sense::what, Sense::inside}))
         return std::nullopt;
     std::optional<Answer> answer = listOfFiles(question, context);
@@ -196,7 +196,7 @@ std::optional<Answer> removingSubject(const Question& question, const AskContext
     if (!folder.empty() && question.senses.meets({Sense::what, Sense::inside}))
         return std::nullopt;
     Lines lines;
-    if (const Message shield = protectionOf(folder, context); !shield.empty())
+    if (const Message shield = saidProtection(folder, context); !shield.empty())
         lines.texts.push_back(shield);
     if (subject.category == OrlenCategory::system)
         lines.texts.push_back(

@@ -175,6 +175,12 @@ const std::vector<Subject>& subjects()
          {},
          {},
          ""},
+        {ID::textDocuments,
+         messageIn("files, within a sentence", "text documents"),
+         "doc docx docm dotx odt fodt rtf",
+         {},
+         {},
+         ""},
     };
     return all;
 }

@@ -66,6 +66,7 @@ enum class SubjectID : std::uint8_t {
     buildOutput,
     environments,
     rawPhotos,
+    textDocuments,
 };
 
 /// Something a question can be about: a kind of file, a kind of finding, a category or a folder. Often

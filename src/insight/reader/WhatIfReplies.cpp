@@ -7,6 +7,7 @@
 #include "insight/reader/Exclusions.h"
 #include "insight/reader/FindingLists.h"
 #include "insight/reader/FindingParts.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/Names.h"
 #include "insight/reader/Proposal.h"
 #include "insight/reader/SubjectReplies.h"
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <set>
 #include <span>
 #include <string>
@@ -44,6 +46,8 @@ Answer said(Things things, const AskContext& context)
     for (const Stored& one : things.each)
         bytes = checkedAdd(bytes, one.bytes);
     Several names{std::move(things.names), Several::Joint::list};
+    if (things.each.empty() && !things.notes.empty())
+        return {AskText::lines(std::move(things.notes)), {}};
     if (things.each.empty())
         return {Message{InsightTexts::kNoFilesThere, {{"files", std::move(names)}}}, {}};
     std::ranges::stable_sort(things.each, std::greater{}, &Stored::bytes);
@@ -62,6 +66,7 @@ Answer said(Things things, const AskContext& context)
     if (answer.isCut)
         lines.push_back(
             {InsightTexts::kMoreFit, {{"count", static_cast<std::int64_t>(things.each.size() - kShown)}}});
+    std::ranges::move(things.notes, std::back_inserter(lines));
     answer.text = AskText::lines(std::move(lines));
     return answer;
 }
@@ -81,7 +86,8 @@ std::optional<Answer> freedByThem(const Question& question, const AskContext& co
 {
     const bool isPast = question.senses.has(Sense::period) &&
                         !question.senses.meets({Sense::before, Sense::above, Sense::unopened});
-    const std::vector<std::vector<Phrase>> groups = groupsIn(question);
+    std::vector<std::vector<Phrase>> groups = groupsIn(question);
+    shareKind(question, context, groups);
     const bool isExcept = question.senses.has(Sense::except);
     const bool isOnlyExcept = isExcept && !question.senses.meets({Sense::remove, Sense::makeRoom});
     if (isPast || groups.empty() || (isExcept && !isOnlyExcept) || (!isExcept && isOfFindings(groups)))

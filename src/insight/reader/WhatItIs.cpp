@@ -4,12 +4,14 @@
 #include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "platform/files/Places.h"
 #include "platform/text/NamePattern.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace orlen::AskReader {
 
@@ -61,8 +63,17 @@ constexpr Row kFolders[] = {
      message("tools for building Android apps; Android Studio installs them again"),
      {},
      true},
+    {"baloo,share/akonadi,share/zeitgeist,cache/tracker3,share/tracker,share/gvfs-metadata",
+     message("database of a program")},
     {".terraform.d", message("sign-ins and plugins of Terraform")},
     {".pub-cache,.pub-cache/hosted", message("packages that Dart and Flutter have downloaded")},
+};
+
+/// What has a folder around it in which programs keep what is theirs. As places expand them.
+constexpr Row kWithin[] = {
+    {"{CACHE}", message("caches of programs")}, {"{CONFIG}", message("settings of programs")},
+    {"{DATA}", message("data of programs")},    {"{H}/.var/app", message("data of Flatpak applications")},
+    {"{H}", message("data of programs")}, // where the name is hidden
 };
 
 constexpr Row kFiles[] = {
@@ -72,8 +83,9 @@ constexpr Row kFiles[] = {
     {".bash_history,.zsh_history", message("commands that were typed in the terminal")},
     {"*.vdi,*.vmdk,*.qcow2,*.vhd,*.vhdx", message("disk of a virtual machine")},
     {"*.iso,*.img", message("image of a disk, such as an installation medium")},
-    {"*.deb,*.rpm,*.flatpakref", message("package that installs a program")},
-    {"*.appimage", message("program in a single file")},
+    {"*.deb,*.rpm,*.flatpakref,*.flatpak,*.msi,*setup*.exe,*install*.exe",
+     message("package that installs a program")},
+    {"*.appimage,*.exe", message("program in a single file")},
     {"*.so,*.so.*,*.dll", message("library that programs load")},
     {"*.kdbx", message("password database")},
     {"*.part,*.crdownload", message("unfinished download")},
@@ -112,6 +124,18 @@ bool holds(const AskContext& context, HomeFiles::Number folder, std::string_view
     return names.empty();
 }
 
+/// Of a folder that no row names, what its place says of it; null if nothing.
+const Row* rowWithin(std::string_view path)
+{
+    const std::string_view around = PathText::parent(path);
+    const bool isHidden = PathText::lastComponent(path).starts_with('.');
+    const auto* const row = std::ranges::find_if(kWithin, [&](const Row& each) {
+        const std::vector<std::string> places = Places::current().expand(each.names);
+        return (each.names != "{H}" || isHidden) && std::ranges::find(places, around) != places.end();
+    });
+    return row == std::end(kWithin) ? nullptr : row;
+}
+
 template <typename Wanted>
 Message rowFor(std::string_view path, const AskContext& context, Wanted isWanted)
 {
@@ -124,8 +148,9 @@ Message rowFor(std::string_view path, const AskContext& context, Wanted isWanted
         return isNamed(row, name, longer) && (!folder || holds(context, *folder, row.holding));
     };
     const auto said = [&](const auto& rows) {
-        const auto* const row = std::ranges::find_if(rows, found);
-        return row == std::end(rows) || !isWanted(*row)
+        const auto* const named = std::ranges::find_if(rows, found);
+        const Row* const row = named != std::end(rows) ? named : folder ? rowWithin(path) : nullptr;
+        return row == nullptr || !isWanted(*row)
                    ? Message()
                    : Message{InsightTexts::kWhatItIs, {{"path", tilde(path)}, {"thing", within(row->thing)}}};
     };

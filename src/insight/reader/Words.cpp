@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <iterator>
+#include <utility>
 
 namespace orlen::AskReader {
 
@@ -82,6 +83,20 @@ std::vector<Word> knownParts(const Lexicon& lexicon, const Word& word)
     return parts;
 }
 
+/// "target-Ordner", "Telegram-Cache": a name and what it is one of; else none.
+std::vector<Word> nameAndKind(const Lexicon& lexicon, const Word& word)
+{
+    const std::string_view typed = word.typed;
+    const std::size_t at = typed.rfind('-');
+    if (!lexicon.hasCompounds() || at == 0 || at + 1 >= typed.size())
+        return {};
+    Word kind = part(typed.substr(at + 1), word.endsClause);
+    const Lexicon::Entry* const entry = lexicon.find(kind.plain);
+    if (entry == nullptr || (entry->sense != Sense::folder && entry->sense != Sense::subject))
+        return {};
+    return {part(typed.substr(0, at), false), std::move(kind)};
+}
+
 } // namespace
 
 namespace {
@@ -141,6 +156,8 @@ std::vector<Word> wordsIn(const Lexicon& lexicon, const std::vector<Word>& words
         const bool isWhole =
             word.isQuoted || word.typed.find('-') == std::string::npos || lexicon.isWord(word.plain);
         std::vector<Word> parts = isWhole ? std::vector<Word>() : knownParts(lexicon, word);
+        if (parts.empty() && !isWhole)
+            parts = nameAndKind(lexicon, word);
         if (parts.empty())
             known.push_back(std::move(word));
         else

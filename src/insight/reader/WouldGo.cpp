@@ -4,15 +4,19 @@
 #include "insight/InsightTextsWhatIf.h"
 #include "insight/reader/AskedName.h"
 #include "insight/reader/FindingLists.h"
+#include "insight/reader/FoundReplies.h"
 #include "insight/reader/HomeLists.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NamedKinds.h"
+#include "insight/reader/NamedParts.h"
 #include "insight/reader/Proposal.h"
 #include "insight/reader/SubjectReplies.h"
 #include "platform/text/PathText.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <limits>
@@ -28,11 +32,45 @@ bool isName(const Phrase& phrase)
 
 constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
 
+/// What no clean-up takes is no gain: that it is protected is said instead.
+void addMeasured(Measured measured, const AskContext& context, Things& things)
+{
+    const Protection protection = protectionOf(context, measured.path);
+    if (protection != Protection::none) {
+        things.notes.push_back(protectedPlace(measured.path, protection).text);
+        return;
+    }
+    things.addName(Message::verbatim(tilde(measured.path)));
+    things.each.push_back({std::move(measured.path), measured.bytes});
+}
+
+/// The caches or log files of a program, and never the rest of it. What is there no more is said.
+bool addPart(const ProgramName& program, const AskContext& context, Things& things)
+{
+    Found found = placesOf(context, program);
+    for (const Hit& hit : found.hits) {
+        things.add(hit);
+        things.addName(Message::verbatim(tilde(hit.entry->path)));
+    }
+    for (Measured& measured : found.measured) {
+        if (measured.bytes > 0)
+            addMeasured(std::move(measured), context, things);
+    }
+    for (const TrashedItem* const item : found.trashed)
+        things.notes.push_back(
+            {InsightTexts::kTrashedEarlier, {{"path", tilde(item->original)}, {"size", Bytes{item->size}}}});
+    if (found.fit == Fit::none)
+        things.notes.push_back(noSuchPart(program).text);
+    return context.home != nullptr;
+}
+
 bool addNamed(const Question& group, const AskContext& context, Things& things)
 {
     const AskedName asked = nameIn(group);
     if (asked.name.empty() || !asked.place.empty())
         return false;
+    if (const std::optional<ProgramName> program = partOf(group))
+        return addPart(*program, context, things);
     std::string name = asked.name;
     if (const Phrase* const ending = group.first(Sense::ending);
         ending != nullptr && !isFileName(group, name))
@@ -54,12 +92,20 @@ bool addNamed(const Question& group, const AskContext& context, Things& things)
         return false;
     for (const Hit& hit : found.hits)
         things.add(hit);
+    const bool isThere = !found.hits.empty() || !found.measured.empty();
+    const bool isProtected =
+        found.hits.empty() && std::ranges::all_of(found.measured, [&](const Measured& each) {
+            return protectionOf(context, each.path) != Protection::none;
+        });
+    if (isThere && !isProtected)
+        things.addName(Message::verbatim(PathText::forDisplay(name)));
     for (Measured& measured : found.measured) {
-        if (found.hits.empty())
+        if (isProtected)
+            addMeasured(std::move(measured), context, things);
+        else if (found.hits.empty() && protectionOf(context, measured.path) == Protection::none)
             things.each.push_back({std::move(measured.path), measured.bytes});
     }
-    things.addName(Message::verbatim(PathText::forDisplay(name)));
-    return !found.hits.empty() || !found.measured.empty();
+    return isThere;
 }
 
 bool addRated(const Question& group, const AskContext& context, Things& things)
@@ -78,10 +124,34 @@ bool addRated(const Question& group, const AskContext& context, Things& things)
     return true;
 }
 
+/// "Old installers" that would go: not changed for as long as the scan takes for old.
+Question withAgeForOld(const Question& group, const AskContext& context)
+{
+    using enum SubjectID;
+    constexpr SubjectID kOfDownloads[] = {installers, diskImages, archives, downloads};
+    const std::size_t at = group.position(Sense::oldest);
+    if (at == group.phrases.size() || group.senses.meets({Sense::period, Sense::unopened}))
+        return group;
+    const Subject* const subject = group.subject();
+    const bool isOfDownloads =
+        group.senses.has(Sense::ending) ||
+        (subject != nullptr && std::ranges::find(kOfDownloads, subject->id) != std::end(kOfDownloads));
+    constexpr auto kMonth = std::chrono::days(30);
+    constexpr auto kYear = std::chrono::days(365);
+    const TimePoint until = context.now - (isOfDownloads ? kMonth : kYear);
+    std::vector<Phrase> phrases = group.phrases;
+    phrases[at].sense = Sense::before;
+    Phrase age{Sense::period, {}, nullptr, 0, Period{}};
+    age.period->from = until;
+    age.period->to = context.now;
+    phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(at) + 1), std::move(age));
+    return withPhrases(group, std::move(phrases));
+}
+
 /// Files of a kind, with all that the question says of them.
 bool addListed(const Question& group, const AskContext& context, Things& things)
 {
-    auto request = listRequestIn(group, context);
+    auto request = listRequestIn(withAgeForOld(group, context), context);
     if (!request || request->areFolders || request->isOfScan || context.home == nullptr)
         return false;
     const bool isEverything = (request->subject == nullptr || request->subject->isAnyFile) &&
@@ -126,9 +196,9 @@ void Things::keepOnce()
 
 std::vector<std::vector<Phrase>> groupsIn(const Question& question)
 {
-    constexpr SenseSet kOfThings{Sense::subject, Sense::unknown, Sense::quoted, Sense::ending,
-                                 Sense::above,   Sense::below,   Sense::size,   Sense::before,
-                                 Sense::period,  Sense::inside,  Sense::folder, Sense::unopened};
+    constexpr SenseSet kOfThings{Sense::subject, Sense::unknown,  Sense::quoted, Sense::ending, Sense::above,
+                                 Sense::below,   Sense::size,     Sense::before, Sense::period, Sense::inside,
+                                 Sense::folder,  Sense::unopened, Sense::oldest};
     const SenseSet ofThings = kOfThings.with(kRatings);
     std::vector<std::vector<Phrase>> groups;
     bool isNew = true;
@@ -136,7 +206,8 @@ std::vector<std::vector<Phrase>> groupsIn(const Question& question)
         for (const Phrase& phrase : phrases) {
             const bool isNameable = isName(phrase) || phrase.subject != nullptr ||
                                     phrase.sense == Sense::ending || kRatings.has(phrase.sense);
-            isNew = isNew || (phrase.isJoined && isNameable);
+            // "The ISOs and the old installers"
+            isNew = isNew || (phrase.isJoined && (isNameable || phrase.sense == Sense::oldest));
             if (!ofThings.has(phrase.sense))
                 continue;
             if (isNew)
@@ -151,6 +222,7 @@ std::vector<std::vector<Phrase>> groupsIn(const Question& question)
         for (const Phrase& phrase : question.phrases)
             add(phrase.excluded);
     }
+    sharePart(question, groups);
     return groups;
 }
 

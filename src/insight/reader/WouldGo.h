@@ -17,7 +17,8 @@ namespace orlen::AskReader {
 struct Things {
     std::vector<Stored> each;
     std::vector<Message> names;
-    bool isOfTrash = false; ///< and of nothing else
+    std::vector<Message> notes; ///< on what is named and not among them: what is protected, or gone
+    bool isOfTrash = false;     ///< and of nothing else
 
     void addName(Message name);
     void add(const Hit& hit);

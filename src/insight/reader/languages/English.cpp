@@ -87,7 +87,8 @@ const Language& english()
         english_words::kFigureRows,
         {},
         false,
-        "file,item,thing,folder,directory,subfolder,video,movie,film,clip,photo,picture,image,pic,song,track,"
+        "word,text,file,item,thing,folder,directory,subfolder,video,movie,film,clip,photo,picture,image,pic,"
+        "song,track,"
         "pdf,document,archive,zip,download,installer,spreadsheet,presentation,book,ebook,iso,mp3",
         english_words::measures()};
     return language;

@@ -80,6 +80,7 @@ constexpr WordRow kAsking[] = {
      "something,breaking,destroy,consequences,by itself,by yourself,on its own,on your own,without "
      "asking,automatically,without my permission,regret,lost,be lost,losing,gone,really gone,gone "
      "forever,lost forever,still there,come back to life,what if i"},
+    {Sense::ending, "text files,text file,plain text files,plain text file,txt files,txt file"},
     {Sense::only, "only,just the,just those,just,limit to,limited to,restrict to,nothing but"},
     {Sense::also,
      "and,also,plus,what about,how about,and what about,and how about,what of,as well as,&,and also,or"},
@@ -145,6 +146,7 @@ constexpr WordRow kAsking[] = {
      "touching,but "
      "not touch,but don't touch,but dont touch,but no,and no,with no,but keep,but keep my,leave my,leave "
      "the,but ignore,but skip,just not,only not,instead of,not any"},
+    {Sense::yet, "but"},
     {Sense::outside, "outside of,outside,not in,not from,but not in,and not in"},
     {Sense::lasts,
      "last long,lasts,lasting,suffice,suffices,survive,survives,hold out,keep going,going to last,be "

@@ -83,7 +83,8 @@ constexpr WordRow kMeasures[] = {
     {Sense::smallest, "smallest,tiniest,lightest,small,tiny"},
     {Sense::oldest, "oldest,most ancient,old,ancient,outdated,earliest,stalest,vintage,from long "
                     "ago,aged,elderly,antique,dated,eldest"},
-    {Sense::newest, "did i add,have i added,did i create,have i created,i created,created,of "
+    {Sense::newest, "(did i|have i|did we|have we) (change|changed|edit|edited|modify|modified),did i "
+                    "add,have i added,did i create,have i created,i created,created,of "
                     "late,newest,most recent,latest,youngest,recent,recently changed,new,recently added,most "
                     "recently,changed,modified,edited,altered,came in,appeared,were added,was "
                     "added,added,arrived,last added,freshest,fresh,last modified,last changed,last "

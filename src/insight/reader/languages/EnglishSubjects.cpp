@@ -10,11 +10,10 @@ constexpr SubjectRow kSubjects[] = {
      "images,virtual "
      "disk,virtual disks,vm disk,vm disks,virtualbox,gnome boxes,virtualbox vms,virtual box,qemu,android "
      "emulator,android emulators,emulators"},
-    {SubjectID::buildOutput,
-     "build artifacts,build artefacts,build artifact,build output,build "
-     "outputs,build folders,build directories,build "
-     "leftovers,compiled files,compile output,target folders,target dirs,target directories,build dirs,dist "
-     "folders,dist dirs,build products,compiler output,leftovers of builds,leftovers of building"},
+    {SubjectID::buildOutput, "build artifacts,build artefacts,build artifact,build output,build "
+                             "outputs,build folders,build directories,build "
+                             "leftovers,compiled files,compile output,build dirs,"
+                             "build products,compiler output,leftovers of builds,leftovers of building"},
     {SubjectID::rawPhotos,
      "raw,raws,raw file,raw files,raw photo,raw photos,raw picture,raw pictures,raw image,raw images,raw "
      "shots,camera raw,camera raws,camera raw files,raw format,raw camera files"},
@@ -116,11 +115,18 @@ constexpr SubjectRow kSubjects[] = {
      "installer files,setup file,setups"},
     {SubjectID::diskImages, "disk image,disk images,iso,isos,iso files,iso images,iso "
                             "file"},
-    {SubjectID::spreadsheets,
-     "spreadsheet,spreadsheets,tables,excel files,excel,excel sheets,csv files,csvs"},
-    {SubjectID::presentations, "presentation,presentations,slides,powerpoints,powerpoint,powerpoint files"},
+    {SubjectID::spreadsheets, "spreadsheet,spreadsheets,tables,excel files,excel file,excel documents,calc "
+                              "files,excel,excel sheets,csv files,csvs"},
+    {SubjectID::presentations, "presentation,presentations,slides,powerpoints,powerpoint,powerpoint "
+                               "files,powerpoint file,powerpoint presentations,slideshows,slide shows"},
     {SubjectID::ebooks, "ebook,ebooks,e-books,books,e-book"},
-    {SubjectID::documents, "document,documents,docs,text documents,papers,paperwork,text files,letters,"
+    {SubjectID::textDocuments,
+     "text documents,text document,text docs,word (document|documents|file|files|docs|doc),(open office|"
+     "openoffice|libre office|libreoffice) (document|documents|text documents|docs),office "
+     "(writer|text) documents,writer (document|documents|files),docx files,doc files,odt files,microsoft "
+     "word "
+     "(document|documents|files),ms word (document|documents|files)"},
+    {SubjectID::documents, "document,documents,docs,papers,paperwork,letters,"
                            "essays,doc"},
     {SubjectID::files,
      "file,files,item,items,stuff,thing,things,data,everything,anything,something,ones i have"},

@@ -86,17 +86,18 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& french()
 {
-    static const Language language{french_words::ofOrlen(),
-                                   french_words::asking(),
-                                   french_words::subjects(),
-                                   french_words::kFigureRows,
-                                   "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd",
-                                   false,
-                                   "fichier,élément,chose,truc,dossier,répertoire,vidéo,film,clip,photo,"
-                                   "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier",
-                                   french_words::measures(),
-                                   "le,la,les,l",
-                                   false};
+    static const Language language{
+        french_words::ofOrlen(),
+        french_words::asking(),
+        french_words::subjects(),
+        french_words::kFigureRows,
+        "l,d,j,m,t,s,n,c,qu,jusqu,lorsqu,puisqu,quelqu,aujourd",
+        false,
+        "word,texte,de,fichier,élément,chose,truc,dossier,répertoire,vidéo,film,clip,photo,"
+        "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier",
+        french_words::measures(),
+        "le,la,les,l",
+        false};
     return language;
 }
 

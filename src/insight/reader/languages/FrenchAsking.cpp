@@ -5,6 +5,7 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "(fichier|fichiers) (texte|textes|txt|de texte brut),texte"},
     {Sense::installed, "installé,installés,installée,installées,est installé,sont installées,sont installés"},
     {Sense::self,
      "que peux tu faire,que sais tu faire,tu peux faire quoi,que puis je te demander,qui es tu,tu es "

@@ -92,7 +92,7 @@ constexpr SubjectRow kSubjects[] = {
      "applications,données en cache,cache du navigateur,mémoire cache,cache des applis,fichiers temp,le "
      "cache,caches des applis,caches d applications,cache d application,caches des applications,fichier "
      "cache,fichiers en cache,données cache,temporaires,fichiers tmp,dossier cache,dossiers cache,dossiers "
-     "de cache,dossier de cache,cache des navigateurs,cache navigateur,cache firefox,fichier "
+     "de cache,dossier de cache,cache des navigateurs,cache navigateur,fichier "
      "temporaire,cache disque,mes caches,données mises en cache,antémémoire"},
     {SubjectID::developer,
      "données de développement,données développeur,développeur,fichiers de "
@@ -158,10 +158,12 @@ constexpr SubjectRow kSubjects[] = {
      "powerpoint,présentations powerpoint,ppt,powerpoint présentations,diapositive,exposés"},
     {SubjectID::ebooks,
      "livres,ebooks,livres numériques,e books,livre,ebook,livre numérique,epub,epubs,bouquins,liseuse"},
+    {SubjectID::textDocuments,
+     "(document|documents|fichier|fichiers) (word|de texte|texte word|openoffice|open office|libreoffice|"
+     "writer|docx|odt),documents texte,document texte"},
     {SubjectID::documents,
-     "document,documents,papiers,fichiers texte,courriers,documents word,fichiers word,documents "
-     "texte,lettres,docs,doc,papier,fichiers textes,fichier texte,texte,textes,document word,fichier "
-     "word,courrier,lettre,papiers administratifs,paperasse,documents administratifs,factures"},
+     "document,documents,papiers,courriers,lettres,docs,doc,papier,textes,courrier,lettre,papiers "
+     "administratifs,paperasse,documents administratifs,factures"},
     {SubjectID::files,
      "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout "
      "ça,machins,fichié,fichiés,machin,bidule,bidules,fihciers,ficher,fichers,files,file,objets,objet,tout "

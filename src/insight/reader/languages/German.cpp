@@ -91,7 +91,8 @@ const Language& german()
         german_words::kFigureRows,
         {},
         true,
-        "datei,ding,sache,verzeichnis,video,film,clip,videodatei,foto,bild,lied,song,pdf,pdf-datei,dokument,"
+        "word-dokument,worddokument,textdokument,textdatei,word-datei,datei,ding,sache,verzeichnis,video,"
+        "film,clip,videodatei,foto,bild,lied,song,pdf,pdf-datei,dokument,"
         "archiv,download,tabelle,präsentation,buch",
         german_words::measures(),
         "der,die,das,den,dem",

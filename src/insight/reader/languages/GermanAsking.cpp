@@ -5,6 +5,7 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "textdateien,textdatei,text-dateien,text-datei,txt-dateien,txt dateien"},
     {Sense::installed, "installiert,sind installiert,ist installiert"},
     {Sense::self,
      "was kannst du,was kannst du alles,was kann ich dich fragen,was kann ich fragen,wer bist du,was bist "
@@ -113,6 +114,7 @@ constexpr WordRow kAsking[] = {
      "möglich,möglichst schnell,direkt"},
     {Sense::negation, "nicht,nie,niemals,kein,keine,keinen,nicht "
                       "mehr,nichts,nirgends,keinesfalls,nimmer,ned,nit,nöd,keinem,keiner,keins,nix,niemand"},
+    {Sense::yet, "aber,jedoch"},
     {Sense::except,
      "das kein,die kein,die keine,der kein,was kein,was keine,außer,ausser,ausgenommen,abgesehen von,bis "
      "auf,mit ausnahme von,mit ausnahme der,ohne,aber nicht,aber keine,nur nicht,und "

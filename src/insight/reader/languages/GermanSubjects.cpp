@@ -147,14 +147,21 @@ constexpr SubjectRow kSubjects[] = {
      "dateien,isos und images"},
     {SubjectID::spreadsheets,
      "tabelle,tabellen,tabellenblätter,excel-dateien,excel dateien,exceltabellen,excel,excel-datei,excel "
-     "datei,excel-tabellen,excel tabellen,kalkulationstabellen,calc dateien,csvs,exceldateien"},
+     "datei,excel-tabellen,excel tabellen,exceldatei,excel-dokumente,kalkulationstabellen,calc "
+     "dateien,csvs,exceldateien"},
     {SubjectID::presentations, "präsentation,präsentationen,folien,powerpoints,powerpoint,powerpoint-dateien,"
-                               "powerpoint dateien,präsis,vorträge,foliensätze,powerpoint präsentationen"},
+                               "powerpoint "
+                               "dateien,präsis,powerpoint-präsentationen,powerpointdateien,powerpoint-datei,"
+                               "vorträge,foliensätze,powerpoint präsentationen"},
     {SubjectID::ebooks, "ebook,ebooks,e-books,bücher,e-book,elektronische bücher,buch,epubs,e-book dateien"},
+    {SubjectID::textDocuments,
+     "textdokumente,textdokument,textdokumenten,(word|office|openoffice|open "
+     "office|libreoffice|writer|docx|odt) "
+     "(dokument|dokumente|dokumenten|datei|dateien),worddokumente,worddokument,worddateien,word-dokumente,"
+     "word-dokument,word-dateien,word-datei,writer-dokumente,openoffice-dokumente,libreoffice-dokumente"},
     {SubjectID::documents,
-     "dokument,dokumente,dokumenten,unterlagen,textdateien,textdokumente,papiere,schriftstücke,word "
-     "dateien,word-dateien,briefe,schriftstück,schreiben,textdatei,textdokument,unterlage,word-dokumente,"
-     "word dokumente,worddokumente,briefen,papierkram,officedokumente,office dokumente,docs"},
+     "dokument,dokumente,dokumenten,unterlagen,papiere,schriftstücke,briefe,schriftstück,schreiben,unterlage,"
+     "briefen,papierkram,officedokumente,office dokumente,docs"},
     {SubjectID::files,
      "datei,dateien,daten,ding,dinge,dingen,sache,sachen,elemente,objekte,alles,irgendetwas,zeugs,einträge,"
      "datein,dateein,zeug da,brocken,krams,element,objekt,objekten,elementen,fiels,etwas großes,irgendetwas "

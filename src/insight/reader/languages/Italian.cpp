@@ -94,7 +94,8 @@ const Language& italian()
         italian_words::kFigureRows,
         "l,d,dell,all,nell,sull,dall,quell,quest,un,c,cos,dov,quant,com,qual,s,t,m,v,n",
         false,
-        "elemento,cartella,filmato,fotografia,immagine,canzone,brano,documento,archivio,più,grande,grosso,"
+        "word,testo,di,elemento,cartella,filmato,fotografia,immagine,canzone,brano,documento,archivio,più,"
+        "grande,grosso,"
         "pesante,vecchio,recente,nuovo,piccolo,grossa,vecchia,nuova,piccola,ultimo,scaricato,il,la",
         italian_words::measures(),
         "lo,la,li,le,gli",

@@ -5,6 +5,7 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "file di testo,file txt,file testo"},
     {Sense::installed, "installato,installati,installata,installate,è installato,sono installate,sono "
                        "installati,ho installato,abbiamo installato,è installata"},
     {Sense::self,

@@ -92,8 +92,8 @@ constexpr SubjectRow kSubjects[] = {
      "app,dati in cache,temporanei,cache delle applicazioni,cache dei programmi,cache app,cache delle mie "
      "app,cache di applicazioni,cache di app,cache di programmi,file in cache,file cache,file "
      "temporaneo,file temp,file tmp,dati di cache,dati cache,cartella cache,cartella di cache,cartelle "
-     "cache,cartelle di cache,cache dei browser,cache browser,cache di firefox,cache "
-     "firefox,temporaneo,temporanea,chache,cahce,dati temporaneamente salvati"},
+     "cache,cartelle di cache,cache dei browser,cache browser,temporaneo,temporanea,chache,cahce,dati "
+     "temporaneamente salvati"},
     {SubjectID::developer,
      "dati di sviluppo,sviluppatore,dati sviluppatore,file di sviluppo,sviluppo,file di compilazione,dati "
      "dello sviluppatore,dati da sviluppatore,file da sviluppatore,file dello sviluppatore,build,file di "
@@ -155,16 +155,17 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::spreadsheets,
      "foglio di calcolo,fogli di calcolo,tabelle,file excel,excel,fogli excel,file di excel,foglio "
      "excel,fogli di excel,foglio di excel,csv,foglio elettronico,fogli elettronici,tabella,tabelle "
-     "excel,documenti excel,file calc"},
+     "excel,documenti excel,documenti di excel,file calc"},
     {SubjectID::presentations,
      "presentazione,presentazioni,diapositive,powerpoint,slide,file powerpoint,file di "
      "powerpoint,presentazioni powerpoint,ppt,slides,diapositiva"},
     {SubjectID::ebooks,
      "libri,ebook,libri elettronici,e book,libro,libro elettronico,libri digitali,epub,e-book,romanzi"},
-    {SubjectID::documents,
-     "documento,documenti,carte,file di testo,documenti word,file word,documenti di "
-     "testo,lettere,docs,doc,testo,testi,file word di,documento word,documento di "
-     "testo,word,lettera,scritti,scartoffie,appunti,tesine,relazioni,fatture,pratiche,carta"},
+    {SubjectID::textDocuments,
+     "(documento|documenti|file) (word|di word|openoffice|open office|di openoffice|libreoffice|di "
+     "libreoffice|writer|di writer|docx|odt),documenti di testo,documento di testo"},
+    {SubjectID::documents, "documento,documenti,carte,lettere,docs,doc,testo,testi,word,lettera,scritti,"
+                           "scartoffie,appunti,tesine,relazioni,fatture,pratiche,carta"},
     {SubjectID::files, "file,elemento,elementi,cose,dati,files,oggetti,documenti e file,oggetto,roba "
                        "mia,tutta la roba,qualcosa di grande,dato,filee,flie,fie,fiel,file e cartelle,dati e "
                        "file,cosette,cose mie,ogni cosa,tutto quello che,tutto ciò che,quello che"},

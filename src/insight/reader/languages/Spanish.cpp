@@ -85,18 +85,18 @@ constexpr FigureRow kFigureRows[] = {
 
 const Language& spanish()
 {
-    static const Language language{
-        spanish_words::ofOrlen(),
-        spanish_words::asking(),
-        spanish_words::subjects(),
-        spanish_words::kFigureRows,
-        {},
-        false,
-        "archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,película,peli,clip,foto,imagen,fotografía,"
-        "canción,pdf,documento,descarga,descargado,último",
-        spanish_words::measures(),
-        "lo,la,los,las",
-        true};
+    static const Language language{spanish_words::ofOrlen(),
+                                   spanish_words::asking(),
+                                   spanish_words::subjects(),
+                                   spanish_words::kFigureRows,
+                                   {},
+                                   false,
+                                   "word,texto,de,archivo,fichero,elemento,cosa,carpeta,directorio,vídeo,"
+                                   "película,peli,clip,foto,imagen,fotografía,"
+                                   "canción,pdf,documento,descarga,descargado,último",
+                                   spanish_words::measures(),
+                                   "lo,la,los,las",
+                                   true};
     return language;
 }
 

@@ -5,6 +5,7 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr WordRow kAsking[] = {
+    {Sense::ending, "(archivo|archivos|fichero|ficheros) de texto,(archivos|ficheros) txt"},
     {Sense::installed, "instalado,instalados,instalada,instaladas,está instalado,están instaladas,tengo "
                        "instaladas,tengo instalado,instalé,instalamos,está instalada,están instalados"},
     {Sense::self,

@@ -98,8 +98,8 @@ constexpr SubjectRow kSubjects[] = {
      "aplicaciones,cachés de las aplicaciones,cachés de las apps,caché de las apps,caché de "
      "aplicaciones,caché de la app,caché de programas,caché de los programas,archivo temporal,archivos en "
      "caché,archivos caché,datos de caché,datos caché,carpeta caché,carpeta de caché,carpetas de "
-     "caché,memoria temporal,temporal,tmp,archivos tmp,ficheros de caché,caché de los navegadores,caché de "
-     "firefox,chache,cahce,cachee"},
+     "caché,memoria temporal,temporal,tmp,archivos tmp,ficheros de caché,caché de los navegadores,"
+     "chache,cahce,cachee"},
     {SubjectID::developer,
      "datos de desarrollo,datos de desarrollador,desarrollador,archivos de desarrollo,desarrollo,archivos de "
      "compilación,archivos de desarrollador,datos de programación,archivos de "
@@ -170,10 +170,11 @@ constexpr SubjectRow kSubjects[] = {
      "de powerpoint,diapositiva,ppt,powerpoint presentaciones,archivos powerpoint"},
     {SubjectID::ebooks,
      "libros,ebooks,libros electrónicos,libro,ebook,libro electrónico,libros digitales,epub,epubs,novelas"},
-    {SubjectID::documents,
-     "documento,documentos,papeles,archivos de texto,documentos de word,cartas,textos,docs,doc,texto,archivo "
-     "de texto,ficheros de texto,documento de word,archivos de word,archivos word,documentos "
-     "word,word,carta,escritos,papeleo,trabajos,apuntes,ensayos,tareas,oficios,facturas"},
+    {SubjectID::textDocuments,
+     "(documento|documentos|archivo|archivos|fichero|ficheros) (word|de word|openoffice|de openoffice|"
+     "libreoffice|de libreoffice|writer|de writer|docx|odt),documentos de texto,documento de texto"},
+    {SubjectID::documents, "documento,documentos,papeles,cartas,textos,docs,doc,texto,word,carta,escritos,"
+                           "papeleo,trabajos,apuntes,ensayos,tareas,oficios,facturas"},
     {SubjectID::files,
      "archivo,archivos,fichero,ficheros,elemento,elementos,cosa,cosas,datos,fichero "
      "y,archvio,archvios,arhivos,ficeros,objeto,objetos,todo lo que,algo grande,todo lo que tengo,cosa "
