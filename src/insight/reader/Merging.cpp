@@ -294,8 +294,9 @@ Question merged(const Question& question)
     constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
     if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
-    mergeOrders(phrases);
-    mergeOfOrlen(phrases);
+    const bool isEnglish = question.lexicon == Lexicon::all().data();
+    mergeOrders(phrases, isEnglish);
+    mergeOfOrlen(phrases, *question.lexicon);
     dropAside(phrases);
     mergeLeftAlone(phrases);
     mergeDeeds(phrases);
@@ -305,7 +306,7 @@ Question merged(const Question& question)
     dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
-    placeCountedFolders(phrases, question.lexicon == Lexicon::all().data());
+    placeCountedFolders(phrases, isEnglish);
     mergeNeighbours(phrases);
     mergePlaces(phrases);
     mergeExclusions(phrases);

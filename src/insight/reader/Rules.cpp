@@ -8,6 +8,7 @@
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/NamedFolders.h"
 #include "insight/reader/ProgramReplies.h"
+#include "insight/reader/QuestionParts.h"
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
@@ -71,6 +72,19 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
          cleanUp, makeRoom, happens, negation, uninstall, trust,  self,    untouched, advise, full,   ending},
         aboutName};
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
+}
+
+/// "Does my home folder fill the disk?"
+std::optional<Answer> fullByHome(const Question& question, const AskContext& context)
+{
+    const Subject* const place = question.subject();
+    if (place == nullptr || place->id != SubjectID::home || question.count(subject) > 1)
+        return std::nullopt;
+    std::optional<Answer> size = sizeOfSubject(question, context);
+    std::optional<Answer> why = whyFull(question, context);
+    if (!size || !why)
+        return std::nullopt;
+    return together({*std::move(size), *std::move(why)});
 }
 
 /// In this order; the first whose senses fit and that has an answer gives it.
@@ -149,7 +163,8 @@ const std::vector<Rule>& rules()
          backByWords},
         {{{undo}, {size}}, {general, space, can, what, except, most, safe, advise, subject}, roomFor},
         {{{undo}},
-         {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free},
+         {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free,
+          after},
          howToUndo},
         // Past clean-ups
         {{{cleanUp}, {last}, {unknown, quoted}},
@@ -202,6 +217,7 @@ const std::vector<Rule>& rules()
         {{{speed}, {full, disk, space, takes, used}},
          kSpaceWords.with({what, howMuch, howBig, full, grow, general, inside, above}),
          paceOfGrowth},
+        {{{full}, {subject}}, {disk, space, general, what, takes, used}, fullByHome},
         {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
         {{{why}, {disk}, {full}},
          kSpaceWords.with({what, general, subject, number, negation, howMuch, biggest, only, size}),
@@ -319,7 +335,9 @@ const std::vector<Rule>& rules()
         {{{why}, {subject}, {biggest, takes, full, grow, space, used}},
          {general, most, disk, what, folder, inside},
          sizeOfSubject},
-        {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
+        {{{why}, {subject}},
+         {general, keep, safe, review, can, negation, remove, advise, cleanUp, makeRoom},
+         whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
         {{{takes}, {subject}}, {what, space, general, disk, howMuch}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},
