@@ -53,7 +53,8 @@ Sense whatOrlenDoes(const Phrases& phrases, std::size_t at, const Lexicon& lexic
             ahead.add(phrases[i].sense);
     }
     const bool mayRequest = phrases[at].sense == canOrlen;
-    const Sense nothing = mayRequest ? can : filler;
+    constexpr SenseSet kDeeds{Sense::remove, cleanUp, uninstall, undo, makeRoom, keep, general};
+    const Sense nothing = mayRequest && all.meets(kDeeds) ? can : filler;
     if (all.meets(kOfItself))
         return nothing;
     if (all.has(opened) && !all.meets({negation, period}))
@@ -89,7 +90,13 @@ void mergeOfOrlen(Phrases& phrases, const Lexicon& lexicon)
     // "Make me a backup of my films"
     const bool isOtherWork = has(phrases, otherWork) && !has(phrases, size) && !has(phrases, period);
     rename(phrases, otherWork, isOtherWork ? beyond : general);
-    const bool isOfDeeds = has(phrases, deletes) || has(phrases, reads) || isOtherWork ||
+    // "Who can see my wedding film"
+    constexpr SenseSet kOfFiles{takes, howBig, howMuch, howMany, Sense::remove, Sense::free, biggest};
+    const bool isWhollyPrivate =
+        !phrases.empty() && phrases.front().sense == privacy &&
+        phrases.front().text.find(' ') != std::string::npos && !namesFile(phrases) &&
+        std::ranges::none_of(phrases, [&](const Phrase& each) { return kOfFiles.has(each.sense); });
+    const bool isOfDeeds = isWhollyPrivate || has(phrases, deletes) || has(phrases, reads) || isOtherWork ||
                            (isAsked && (has(phrases, beyond) || has(phrases, privacy)));
     if (!isOfDeeds)
         return;

@@ -104,10 +104,7 @@ private:
         // In German, the verb stands at the end.
         if (m_behindOrlen != m_question.pieces || m_lexicon.hasCompounds())
             return;
-        if (phrases.back().sense == Sense::canOrlen)
-            phrases.back().sense = Sense::can;
-        else
-            phrases.pop_back();
+        phrases.pop_back();
     }
 
     bool takeQuoted()

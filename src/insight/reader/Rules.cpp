@@ -74,6 +74,13 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
 }
 
+/// "Why is the virtual machine not suggested": how it is rated, if it is.
+std::optional<Answer> whyNotSuggested(const Question& question, const AskContext& context)
+{
+    const Subject* const kind = question.subject();
+    return kind->isProgram || kind->isAnyFile ? std::nullopt : removingSubject(question, context);
+}
+
 /// "Does my home folder fill the disk?"
 std::optional<Answer> fullByHome(const Question& question, const AskContext& context)
 {
@@ -114,7 +121,9 @@ const std::vector<Rule>& rules()
         {{{rights}}, kAsking.with({negation, remove, privacy, why, cleanUp, subject, self}), whichRights},
         {{{vacant}}, SenseSet::all(), emptyFolders},
         {{{ownRemoval}}, kAsking.with({why, negation, disk, remove, uninstall, self}), howItIsRemoved},
-        {{{resident}}, kAsking.with({why, negation, self, inside, space, takes, disk}), whenItRuns},
+        {{{resident}},
+         kAsking.with({why, negation, self, inside, space, takes, disk, speed, period}),
+         whenItRuns},
         {{{deletes}},
          {can, subject, general, what, when, negation, keep, safe, inside, disk, folder, untouched},
          deletesNothing},
@@ -262,6 +271,9 @@ const std::vector<Rule>& rules()
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
         {{{disk, space}}, {general, total, what, disk, space, inside}, spaceNow},
+        {{{why}, {subject}, {advise}},
+         {general, negation, cleanUp, remove, makeRoom, can, safe, review},
+         whyNotSuggested},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
@@ -325,7 +337,7 @@ const std::vector<Rule>& rules()
         {{{howMany}, {subject}}, {what, space, used, total, disk, general, inside, takes}, sizeOfSubject},
         {{{subject}, {can, remove, safe, untouched}},
          {what, can, remove, safe, inside, review, keep, happens, general, folder, disk, why, makeRoom,
-          advise},
+          advise, cleanUp},
          removingSubject},
         {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
         {{{what}, {subject}}, {general, folder}, whatSubjectIs},

@@ -5,6 +5,8 @@ namespace orlen::AskReader::english_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::reads,
+     "(do|does|will) (you|orlen|it|this app) (ever|) (look|peek|go|dig|snoop) (into|inside|through)"},
     {Sense::filler, "or is it something else,or something else,or is it other things"},
     {Sense::advise, "where (do|should|to|shall|can) (i|we|) (start|begin)"},
     {Sense::soFar, "(do you|does orlen) keep a (log|history|record) of"},

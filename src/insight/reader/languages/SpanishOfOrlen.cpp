@@ -10,7 +10,7 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::rights, "(necesitas|necesita|hacen falta|requiere|requieres) (permisos|derechos|privilegios) (de "
                     "administrador|de root|especiales|)"},
     {Sense::advise, "propuesto,propuesta,propuestos,propuestas,sugerido,sugerida,propone,proponer"},
-    {Sense::what, "para qué (sirve|sirven|vale|es),de qué sirve"},
+    {Sense::what, "para (qué|que) (sirve|sirven|vale|es),de qué sirve"},
     {Sense::outside, "fuera (de|del|de la|de los|de las|de mis|de mi)"},
     {Sense::filler, "he hecho,hice,tomé,saqué,he tomado,he sacado,hemos hecho,tomadas,sacadas"},
     {Sense::unknown, "navegador"},
