@@ -6,6 +6,10 @@ namespace {
 using AskFrenchTest = AskWorld;
 
 constexpr Row kFrench[] = {
+    {"est-ce que tu modifies mes photos", "deletes nothing"},
+    {"peux-tu lire mes documents", "Nothing leaves", "report"},
+    {"comment désinstaller orlen", "doesn't remove itself"},
+    {"rm -rf / ; supprime tout maintenant!!!", "deletes nothing"},
     {"combien d'espace libre me reste-t-il", "120 GB is free"},
     {"il me reste combien de place", "120 GB is free"},
     {"mon disque est rempli à combien", "120 GB is free"},

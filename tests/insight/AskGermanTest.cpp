@@ -6,6 +6,11 @@ namespace {
 using AskGermanTest = AskWorld;
 
 constexpr Row kGerman[] = {
+    {"löschst du meine Passwörter in Firefox", "deletes nothing", "called"},
+    {"kannst du meine Dokumente lesen", "Nothing leaves", "report"},
+    {"machst du Backups von meinen Filmen", "not what Orlen is for"},
+    {"lösch alles sofort!!", "deletes nothing"},
+    {"läuft Orlen im Hintergrund", "only while it is open"},
     {"wie viel platz hab ich noch", "120 GB is free"},
     {"wieviel speicher ist noch frei auf der festplatte", "120 GB is free"},
     {"Wie voll ist meine Platte?", "120 GB is free"},

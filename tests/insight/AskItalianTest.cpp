@@ -6,6 +6,9 @@ namespace {
 using AskItalianTest = AskWorld;
 
 constexpr Row kItalian[] = {
+    {"puoi leggere i miei documenti", "Nothing leaves", "report"},
+    {"cosa c'è nel cestino", "Trash", "could free"},
+    {"fai un backup dei miei video", "not what Orlen is for"},
     {"quanto spazio libero mi resta", "120 GB is free"},
     {"quanto spazio ho ancora", "120 GB is free"},
     {"quanto è pieno il disco", "120 GB is free"},

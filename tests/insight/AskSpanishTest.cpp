@@ -6,6 +6,9 @@ namespace {
 using AskSpanishTest = AskWorld;
 
 constexpr Row kSpanish[] = {
+    {"borras mis contraseñas de Firefox", "deletes nothing"},
+    {"cada cuánto tengo que limpiar", "no fixed rhythm"},
+    {"archivos grandes fuera de Descargas", "Left out: ~/Downloads."},
     {"cuánto espacio libre me queda", "120 GB is free"},
     {"cuanto espacio tengo", "120 GB is free"},
     {"cómo de lleno está el disco", "120 GB is free"},

@@ -36,8 +36,9 @@ void dropThings(Phrases& phrases)
 
 /// What `ofOrlen` makes of the question: a sense that says it, `can` for a request, `filler` for nothing, or
 /// `ofOrlen` itself where what Orlen would do is not known.
-Sense whatOrlenDoes(const Phrases& phrases, std::size_t at)
+Sense whatOrlenDoes(const Phrases& phrases, std::size_t at, const Lexicon& lexicon)
 {
+    const bool isEnglish = &lexicon == Lexicon::all().data();
     constexpr SenseSet kOfItself{privacy, beyond,    trust,   rights, resident, rhythm,   ruleOut, ownRemoval,
                                  happens, untouched, deletes, reads,  vacant,   mean,     self,    advise,
                                  undo,    uninstall, freed,   soFar,  lastUse,  otherWork};
@@ -52,7 +53,8 @@ Sense whatOrlenDoes(const Phrases& phrases, std::size_t at)
             ahead.add(phrases[i].sense);
     }
     const bool mayRequest = phrases[at].sense == canOrlen;
-    const Sense nothing = mayRequest ? can : filler;
+    constexpr SenseSet kDeeds{Sense::remove, cleanUp, uninstall, undo, makeRoom, keep, general};
+    const Sense nothing = mayRequest && all.meets(kDeeds) ? can : filler;
     if (all.meets(kOfItself))
         return nothing;
     if (all.has(opened) && !all.meets({negation, period}))
@@ -63,19 +65,23 @@ Sense whatOrlenDoes(const Phrases& phrases, std::size_t at)
         return mayRequest ? can : deletes;
     const bool freesSize = all.has(Sense::free) && all.meets({size, disk, space});
     const bool isRequest = mayRequest && all.meets({general, Sense::free});
-    const bool isVerbFirst = at + 1 < phrases.size() && kRequests.has(phrases[at + 1].sense);
-    return isVerbFirst || freesSize || isRequest || at + 1 == phrases.size() ? nothing : ofOrlen;
+    // In German, the verb stands at the end.
+    if (at + 1 == phrases.size() || lexicon.hasCompounds())
+        return nothing;
+    const Phrase& verb = phrases[at + 1];
+    const bool isUnknown = isEnglish ? !kRequests.has(verb.sense) : verb.sense == unknown;
+    return !isUnknown || freesSize || isRequest ? nothing : ofOrlen;
 }
 
 } // namespace
 
-void mergeOfOrlen(Phrases& phrases)
+void mergeOfOrlen(Phrases& phrases, const Lexicon& lexicon)
 {
     const auto asked = std::ranges::find_if(
         phrases, [](const Phrase& each) { return each.sense == ofOrlen || each.sense == canOrlen; });
     const bool isAsked = asked != phrases.end();
     if (isAsked) {
-        asked->sense = whatOrlenDoes(phrases, static_cast<std::size_t>(asked - phrases.begin()));
+        asked->sense = whatOrlenDoes(phrases, static_cast<std::size_t>(asked - phrases.begin()), lexicon);
         if (asked->sense == deletes)
             drop(phrases, Sense::remove);
         if (asked->sense == filler)
@@ -84,7 +90,13 @@ void mergeOfOrlen(Phrases& phrases)
     // "Make me a backup of my films"
     const bool isOtherWork = has(phrases, otherWork) && !has(phrases, size) && !has(phrases, period);
     rename(phrases, otherWork, isOtherWork ? beyond : general);
-    const bool isOfDeeds = has(phrases, deletes) || has(phrases, reads) || isOtherWork ||
+    // "Who can see my wedding film"
+    constexpr SenseSet kOfFiles{takes, howBig, howMuch, howMany, Sense::remove, Sense::free, biggest};
+    const bool isWhollyPrivate =
+        !phrases.empty() && phrases.front().sense == privacy &&
+        phrases.front().text.find(' ') != std::string::npos && !namesFile(phrases) &&
+        std::ranges::none_of(phrases, [&](const Phrase& each) { return kOfFiles.has(each.sense); });
+    const bool isOfDeeds = isWhollyPrivate || has(phrases, deletes) || has(phrases, reads) || isOtherWork ||
                            (isAsked && (has(phrases, beyond) || has(phrases, privacy)));
     if (!isOfDeeds)
         return;
@@ -96,9 +108,11 @@ void mergeOfOrlen(Phrases& phrases)
         rename(phrases, deletes, Sense::remove);
     else
         dropThings(phrases);
+    if (has(phrases, deletes) || has(phrases, reads))
+        drop(phrases, privacy); // "Do you delete my passwords"
 }
 
-void mergeOrders(Phrases& phrases)
+void mergeOrders(Phrases& phrases, bool isEnglish)
 {
     if (!has(phrases, order))
         return;
@@ -120,8 +134,9 @@ void mergeOrders(Phrases& phrases)
         if (phrases[i].sense != order)
             continue;
         phrases[i].sense = Sense::remove;
-        phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
-                       {subject, {}, &subjectFor(SubjectID::files)});
+        if (isEnglish) // Elsewhere, "everything" says nothing.
+            phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
+                           {subject, {}, &subjectFor(SubjectID::files)});
     }
 }
 

@@ -46,6 +46,17 @@ void mergeIncluded(Phrases& phrases)
         phrases.insert(phrases.begin(), {howMuch, {}, nullptr, 0, {}});
 }
 
+/// "What would cleaning up the caches give me"
+void mergeYield(Phrases& phrases)
+{
+    const bool isOfDeed = has(phrases, Sense::cleanUp) || has(phrases, Sense::remove);
+    if (!isOfDeed || !has(phrases, Sense::make) || has(phrases, Sense::size) || phrases.empty() ||
+        phrases.front().sense != Sense::what || phrases.back().sense != Sense::make)
+        return;
+    phrases.front().sense = Sense::howMuch;
+    phrases.back().sense = Sense::makeRoom;
+}
+
 /// "How much have I freed": so far, if the question doesn't say when. "What did you delete": the last time.
 void mergeFreed(Phrases& phrases)
 {
@@ -78,6 +89,23 @@ void dropComingBehind(Phrases& phrases)
     const auto from = std::next(wanted);
     const auto to = std::find_if_not(from, phrases.end(), isComing);
     phrases.erase(from, to);
+}
+
+/// "I need 5 GB for a photo shoot tomorrow": what it is for.
+void dropPurpose(Phrases& phrases)
+{
+    using enum Sense;
+    constexpr SenseSet kPurpose{subject, unknown, period, general};
+    const auto wanted = std::ranges::find(phrases, Sense::size, &Phrase::sense);
+    if (wanted == phrases.end() || wanted == phrases.begin() || std::prev(wanted)->sense != makeRoom)
+        return;
+    const auto from = std::next(wanted);
+    const bool isPurpose =
+        std::all_of(from, phrases.end(),
+                    [&](const Phrase& each) { return kPurpose.has(each.sense) && !each.isJoined; }) &&
+        std::any_of(from, phrases.end(), [](const Phrase& each) { return each.sense == unknown; });
+    if (isPurpose)
+        phrases.erase(from, phrases.end());
 }
 
 /// "I want to record 2 hours at 1.5 GB, will it fit": what is to come has a name that nothing has yet.
@@ -113,6 +141,7 @@ void mergeDeeds(Phrases& phrases)
 {
     dropIdleInside(phrases);
     mergeIncluded(phrases);
+    mergeYield(phrases);
     mergeFreed(phrases);
     mergeGain(phrases);
 }
@@ -138,6 +167,7 @@ void mergeMaking(Phrases& phrases)
 
 void dropComing(Phrases& phrases)
 {
+    dropPurpose(phrases);
     dropComingBehind(phrases);
     dropComingBefore(phrases);
 }

@@ -313,9 +313,10 @@ Question merged(const Question& question)
     constexpr SenseSet kOfSelf{Sense::self, Sense::what, Sense::can, Sense::general};
     if (std::ranges::any_of(phrases, [&](const Phrase& each) { return !kOfSelf.has(each.sense); }))
         drop(phrases, Sense::self);
+    const bool isEnglish = question.lexicon == Lexicon::all().data();
     mergeYet(phrases);
-    mergeOrders(phrases);
-    mergeOfOrlen(phrases);
+    mergeOrders(phrases, isEnglish);
+    mergeOfOrlen(phrases, *question.lexicon);
     dropAside(phrases);
     mergeLeftAlone(phrases);
     mergeDeeds(phrases);
@@ -325,7 +326,7 @@ Question merged(const Question& question)
     dropIdleComparison(phrases);
     mergeMaking(phrases);
     dropComing(phrases);
-    placeCountedFolders(phrases, question.lexicon == Lexicon::all().data());
+    placeCountedFolders(phrases, isEnglish);
     mergeBuildFolders(phrases);
     mergeNeighbours(phrases);
     mergePlaces(phrases);

@@ -154,12 +154,10 @@ private:
     void takeRequest()
     {
         std::vector<Phrase>& phrases = m_question.phrases;
-        if (m_behindOrlen != m_question.pieces)
+        // In German, the verb stands at the end.
+        if (m_behindOrlen != m_question.pieces || m_lexicon.hasCompounds())
             return;
-        if (phrases.back().sense == Sense::canOrlen)
-            phrases.back().sense = Sense::can;
-        else
-            phrases.pop_back();
+        phrases.pop_back();
     }
 
     bool takeQuoted()
@@ -217,7 +215,11 @@ private:
         };
         const bool isBesideFiles = isFiles(m_at + 1) || (m_at > 0 && isFiles(m_at - 1));
         const std::string ending = endingIn(word);
-        if (ending.empty())
+        // "rm -rf"
+        const Lexicon::Entry* const both =
+            m_at + 1 < m_plain.size() ? m_lexicon.find(word + " " + m_plain[m_at + 1]) : nullptr;
+        const bool isPhrase = both != nullptr && both->subject == nullptr;
+        if (ending.empty() || isPhrase)
             return false;
         const bool isDotted = word.starts_with('.') || word.starts_with("*.");
         if (isDotted ? !isBesideFiles && !isEndingOfKind(ending) : !isKnownEnding(ending))
@@ -341,6 +343,8 @@ private:
         if (!parts || m_isName(word))
             return false;
         const auto at = static_cast<std::ptrdiff_t>(m_at);
+        if (m_words[m_at].typed.size() == word.size())
+            m_words[m_at].typed.resize(parts->first.size());
         m_plain[m_at] = parts->first;
         m_plain.insert(m_plain.begin() + at + 1, parts->second);
         const Word behind{{}, parts->second, false, m_words[m_at].endsClause};

@@ -9,6 +9,7 @@
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/NamedFolders.h"
 #include "insight/reader/ProgramReplies.h"
+#include "insight/reader/QuestionParts.h"
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
@@ -74,6 +75,26 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
 }
 
+/// "Why is the virtual machine not suggested": how it is rated, if it is.
+std::optional<Answer> whyNotSuggested(const Question& question, const AskContext& context)
+{
+    const Subject* const kind = question.subject();
+    return kind->isProgram || kind->isAnyFile ? std::nullopt : removingSubject(question, context);
+}
+
+/// "Does my home folder fill the disk?"
+std::optional<Answer> fullByHome(const Question& question, const AskContext& context)
+{
+    const Subject* const place = question.subject();
+    if (place == nullptr || place->id != SubjectID::home || question.count(subject) > 1)
+        return std::nullopt;
+    std::optional<Answer> size = sizeOfSubject(question, context);
+    std::optional<Answer> why = whyFull(question, context);
+    if (!size || !why)
+        return std::nullopt;
+    return together({*std::move(size), *std::move(why)});
+}
+
 /// In this order; the first whose senses fit and that has an answer gives it.
 const std::vector<Rule>& rules()
 {
@@ -101,7 +122,9 @@ const std::vector<Rule>& rules()
         {{{rights}}, kAsking.with({negation, remove, privacy, why, cleanUp, subject, self}), whichRights},
         {{{vacant}}, SenseSet::all(), emptyFolders},
         {{{ownRemoval}}, kAsking.with({why, negation, disk, remove, uninstall, self}), howItIsRemoved},
-        {{{resident}}, kAsking.with({why, negation, self, inside, space, takes, disk}), whenItRuns},
+        {{{resident}},
+         kAsking.with({why, negation, self, inside, space, takes, disk, speed, period}),
+         whenItRuns},
         {{{deletes}},
          {can, subject, general, what, when, negation, keep, safe, inside, disk, folder, untouched},
          deletesNothing},
@@ -150,7 +173,8 @@ const std::vector<Rule>& rules()
          backByWords},
         {{{undo}, {size}}, {general, space, can, what, except, most, safe, advise, subject}, roomFor},
         {{{undo}},
-         {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free},
+         {cleanUp, last, can, what, subject, remove, inside, when, general, happens, period, folder, free,
+          after},
          howToUndo},
         // Past clean-ups
         {{{cleanUp}, {last}, {unknown, quoted}},
@@ -206,6 +230,7 @@ const std::vector<Rule>& rules()
         {{{speed}, {full, disk, space, takes, used}},
          kSpaceWords.with({what, howMuch, howBig, full, grow, general, inside, above}),
          paceOfGrowth},
+        {{{full}, {subject}}, {disk, space, general, what, takes, used}, fullByHome},
         {{{full}, {advise}}, kSpaceWords.with({what, can, general, why}), fullNow},
         {{{why}, {disk}, {full}},
          kSpaceWords.with({what, general, subject, number, negation, howMuch, biggest, only, size}),
@@ -250,6 +275,9 @@ const std::vector<Rule>& rules()
         {{{howBig, howMuch}, {disk, space}}, kSpaceWords.with({what, general, full, inside}), spaceNow},
         {{{full}}, kSpaceWords.with({howBig, howMuch, general, biggest}), fullNow},
         {{{disk, space}}, {general, total, what, disk, space, inside}, spaceNow},
+        {{{why}, {subject}, {advise}},
+         {general, negation, cleanUp, remove, makeRoom, can, safe, review},
+         whyNotSuggested},
         // Applications and what belongs to them
         {{{subject}}, kProgramWords, aboutPrograms},
         {{{subject}, {unknown, quoted}}, kProgramWords, startupOf},
@@ -318,7 +346,7 @@ const std::vector<Rule>& rules()
         {{{howMany}, {subject}}, {what, space, used, total, disk, general, inside, takes}, sizeOfSubject},
         {{{subject}, {can, remove, safe, untouched}},
          {what, can, remove, safe, inside, review, keep, happens, general, folder, disk, why, makeRoom,
-          advise},
+          advise, cleanUp},
          removingSubject},
         {{{subject}, {remove, safe, keep}}, kListing, listOfFiles},
         {{{what}, {subject}}, {general, folder}, whatSubjectIs},
@@ -328,7 +356,9 @@ const std::vector<Rule>& rules()
         {{{why}, {subject}, {biggest, takes, full, grow, space, used}},
          {general, most, disk, what, folder, inside},
          sizeOfSubject},
-        {{{why}, {subject}}, {general, keep, safe, review, can, negation, remove}, whatSubjectIs},
+        {{{why}, {subject}},
+         {general, keep, safe, review, can, negation, remove, advise, cleanUp, makeRoom},
+         whatSubjectIs},
         {{{subject}}, {what, disk, general, inside, howMany}, sizeOfSubject},
         {{{takes}, {subject}}, {what, space, general, disk, howMuch}, sizeOfSubject},
         {{{subject}}, kListing, listOfBoth},

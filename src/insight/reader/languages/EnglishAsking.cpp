@@ -18,7 +18,8 @@ constexpr WordRow kAsking[] = {
      "says,linux says,computer says,my computer says,my computer says that,laptop says,my laptop says,my pc "
      "says,it says,says that,saying that"},
     {Sense::filler,
-     "getting,hardly,barely,scarcely,somehow,anyhow,to run,to work,completely,totally,fully,another,with "
+     "i took,i shot,i photographed,i filmed,i have taken,i've taken,taken by "
+     "me,getting,hardly,barely,scarcely,somehow,anyhow,to run,to work,completely,totally,fully,another,with "
      "this "
      "program,with this app,with "
      "this tool,with this thing,with this software,in this "
@@ -193,18 +194,14 @@ constexpr WordRow kAsking[] = {
     {Sense::make, "make,makes,get me,gimme,give me,find me,create"},
     {Sense::untouched,
      "never ever touch,never ever touched,never ever move,never ever moved,never ever remove,never ever "
-     "change,will it touch,will you touch,does it touch,do you touch,would it touch,would you touch,refuse "
-     "to "
-     "delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
-     "move,will not delete,would never delete,would never touch,would you never delete,never touch,never "
-     "touched,not touch,won't touch,will not touch,don't touch,never move,never "
-     "delete,never deletes,never moves,not move,off limits,off-limits,leave alone,left "
-     "alone,protected,protect,never remove,never removes,does not touch,doesn't touch,won't move,won't "
-     "delete,untouched,protects,never be deleted,never be touched,never get deleted,doesn't move,doesn't "
-     "delete,leaves alone,never ever delete,stay away from,hands off,allowed to touch,may touch,can "
-     "touch,permitted to touch,safe from you,safe from orlen,ever touched,ever touch,ever be touched,ever "
-     "get "
-     "touched"},
+     "change,will it touch,will you touch,does it touch,do you touch,would it touch,would you touch,"
+     "refuse to delete,refuses to delete,refuse to touch,refuses to touch,refuse to move,refuses to "
+     "move,will not delete,would never delete,would never touch,would you never delete,never touch,"
+     "never touched,not touch,won't touch,will not touch,don't touch,never move,never delete,never "
+     "deletes,never moves,not move,off limits,off-limits,leave alone,left alone,protected,protect,never "
+     "remove,never removes,does not touch,doesn't touch,won't move,won't delete,untouched,protects,"
+     "never be deleted,never be touched,never get deleted,doesn't move,doesn't delete,leaves alone,"
+     "never ever delete,stay away from,hands off,allowed to touch,may touch,can touch,permitted to touch"},
     {Sense::cleanUp, "you (move|moved|put|send|sent|throw|threw) (to|in|into) the (trash|bin),went to the "
                      "trash,gone to the trash,sent to the trash,moved to the trash,put in the trash,what was "
                      "trashed,clean-up,cleanup,cleaning,clean up,cleaned up,cleaned,clean,cleans,tidied"},

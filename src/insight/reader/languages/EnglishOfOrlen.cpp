@@ -5,6 +5,18 @@ namespace orlen::AskReader::english_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::reads,
+     "(do|does|will) (you|orlen|it|this app) (ever|) (look|peek|go|dig|snoop) (into|inside|through)"},
+    {Sense::filler, "or is it something else,or something else,or is it other things"},
+    {Sense::advise, "where (do|should|to|shall|can) (i|we|) (start|begin)"},
+    {Sense::soFar, "(do you|does orlen) keep a (log|history|record) of"},
+    {Sense::happens,
+     "(ask|asks|asking|warn|warns) (me|) (before|first),without (warning|confirmation|confirming|notice)"},
+    {Sense::privacy,
+     "my (boss|employer|company) (see|know|read|find out),used to train,train (an|your|any) (ai|model),"
+     "(anyone|anybody|someone|somebody|others|people) (else|) (see|read)"},
+    {Sense::resident,
+     "(schedule|plan|automate) (a|regular|my|the|automatic|) (scan|scans|clean-up|cleanup|cleanups)"},
     {Sense::ofOrlen,
      "(do|will|did) (you|orlen) (ever|actually|really|also|automatically|secretly|),(does|will) (orlen|this "
      "app|this program|this tool|this software|the app|the program) "
@@ -48,9 +60,10 @@ constexpr WordRow kOfOrlen[] = {
      "(delete|remove|erase),will (you|orlen|it|this program|this app|the program|the app) (delete|"
      "remove|erase),(does|do) (you|orlen|it|this program|this app|the program|the app) (delete|remove|"
      "erase),(are you|is orlen|is it|is this app) (going to|gonna) (delete|remove|erase)"},
-    {Sense::deletes,
-     "(will|does|do) (you|orlen|it|this program|this app|the program|the app) (change|modify|edit|alter|"
-     "overwrite|damage|destroy|touch)"},
+    {Sense::deletes, "(will|does|do) (you|orlen|it|this program|this app|the program|the app) "
+                     "(change|modify|edit|alter|rename|"
+                     "overwrite|damage|destroy|touch)"},
+    {Sense::deletes, "safe from (you|orlen),ever (be|get|) touched,ever touch"},
     {Sense::privacy,
      "(do|does|will) (you|orlen|it|this app|this program) (store|log|record|remember|sell|collect|share|save|"
      "keep a copy of|know|see|track|watch) (my|me|any|anything|what i|who i),sell my,sold to,sell"},

@@ -5,6 +5,8 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::virtualMachines,
+     "(machine virtuelle|machines virtuelles),(disque virtuel|disques virtuels),vm,vms,virtualbox"},
     {SubjectID::systemAdvice,
      "anciens noyaux,vieux noyaux,noyaux,cache apt,apt,cache des paquets,journal système,journaux "
      "système,anciens snaps,vieux kernels,kernels,ancien noyau,noyau,journald,journal systemd,logs "
@@ -89,10 +91,10 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::homebrew, "homebrew,cache homebrew"},
     {SubjectID::caches,
      "cache,caches,fichiers temporaires,fichiers de cache,données temporaires,fichiers cache,cache des "
-     "applications,données en cache,cache du navigateur,mémoire cache,cache des applis,fichiers temp,le "
+     "applications,données en cache,mémoire cache,cache des applis,fichiers temp,le "
      "cache,caches des applis,caches d applications,cache d application,caches des applications,fichier "
      "cache,fichiers en cache,données cache,temporaires,fichiers tmp,dossier cache,dossiers cache,dossiers "
-     "de cache,dossier de cache,cache des navigateurs,cache navigateur,fichier "
+     "de cache,dossier de cache,fichier "
      "temporaire,cache disque,mes caches,données mises en cache,antémémoire"},
     {SubjectID::developer,
      "données de développement,données développeur,développeur,fichiers de "

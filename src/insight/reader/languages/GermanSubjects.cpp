@@ -5,6 +5,9 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::virtualMachines, "(virtuelle|virtuellen|virtueller) "
+                                 "(maschine|maschinen|platte|platten),vm,vms,virtualbox,virtualbox vms"},
+    {SubjectID::trash, "im (müll|abfall|kübel),in der tonne"},
     {SubjectID::systemAdvice,
      "alte kernel,kernel,apt-cache,apt "
      "cache,apt,paketcache,paket-cache,journal,systemprotokolle,systemlogs,alte snaps,alte "
@@ -85,9 +88,9 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::homebrew, "homebrew,homebrew cache"},
     {SubjectID::caches,
      "cache,caches,zwischenspeicher,cache dateien,temporäre dateien,temporären dateien,temp "
-     "dateien,temporäre daten,cachedateien,app-cache,zwischengespeicherte daten,browsercache,browser "
-     "cache,puffer,cacheordner,cachespeicher,cache-dateien,cache-ordner,cache "
-     "ordner,temp-dateien,tempdateien,temp,temporäres,tmp dateien,browser-cache,app "
+     "dateien,temporäre daten,cachedateien,app-cache,zwischengespeicherte "
+     "daten,puffer,cacheordner,cachespeicher,cache-dateien,cache-ordner,cache "
+     "ordner,temp-dateien,tempdateien,temp,temporäres,tmp dateien,app "
      "cache,programmcache,caches von,zwischengespeicherte "
      "dateien,zwischengespeichertes,temporärdateien,cashe,chache"},
     {SubjectID::developer,

@@ -70,7 +70,7 @@ constexpr WordRow kAsking[] = {
     {Sense::general, "il resto,i restanti,i rimanenti,i seguenti"},
     {Sense::filler, "insieme,tutti insieme,tutte insieme"},
     {Sense::filler,
-     "ho fatto,fatto,hai fatto,funzionare,a cosa serve,a che serve,mio nipote,nipote,vorrei sapere,mi sai "
+     "ho fatto,fatto,hai fatto,funzionare,mio nipote,nipote,vorrei sapere,mi sai "
      "dire,potresti dirmi,mi potresti "
      "dire,il,la,i,gli,le,l,un,uno,una,di,d,del,dello,della,dell,dei,degli,delle,da,dalla,dallo,dai,dagli,"
      "dalle,a,al,allo,alla,all,ai,agli,alle,mio,mia,miei,mie,nostro,nostra,tuo,tua,tuoi,tue,suo,sua,suoi,sue,"
@@ -129,7 +129,7 @@ constexpr WordRow kAsking[] = {
      "che non sia un,che non sia una,che non è un,che non è una,che non siano,tranne,eccetto,salvo,a "
      "parte,escluso,esclusi,esclusa,escluse,ad eccezione di,ad eccezione dei,ad eccezione delle,ad eccezione "
      "del,oltre a,oltre ai,oltre alle,oltre agli,all infuori di,senza,senza contare,ma non,che non siano,che "
-     "non sia,e non,fuorché,al di fuori di,escludendo,meno,eccetto i,a parte i,senza toccare,senza "
+     "non sia,e non,fuorché,escludendo,meno,eccetto i,a parte i,senza toccare,senza "
      "cancellare,senza eliminare,senza perdere,ma lascia,lascia fuora,lascia fuori,né,tranne quelle "
      "in,tranne quelli in,invece di,meno che,oltre alla,oltre al,oltre allo,oltre all,tranne i,tranne "
      "le,tranne gli,tranne il,tranne la,tranne i miei,eccetto le,eccetto il,eccetto la,eccetto gli,salvo "
@@ -274,8 +274,8 @@ constexpr WordRow kAsking[] = {
      "tutto,rimuovendo,rimossa,rimosse,rimuovibili,rimuovibile,tolgono,togli,toglierei,togliessi,togliendo,"
      "tolta,tolte,levo,levare,leva,levato,levati,levando,levarmi,levarmi di,levarmi di torno,levarmi dai "
      "piedi,togliermi,togliermi di torno,butta,butti,butta via,buttata,buttate,buttati,buttarne,buttar "
-     "via,buttando,buttassi,butterei,cestina,cestino tutto,cestinarlo,cestinato,cestinati,cestinabili,nel "
-     "cestino,mettere nel cestino,metto nel cestino,metti nel cestino,sposto nel cestino,spostare nel "
+     "via,buttando,buttassi,butterei,cestina,cestino tutto,cestinarlo,cestinato,cestinati,cestinabili,"
+     "mettere nel cestino,metto nel cestino,metti nel cestino,sposto nel cestino,spostare nel "
      "cestino,mandare nel cestino,gettare via,getto via,scarto,scartare,scarta,fare fuori,faccio fuori,far "
      "fuori,far sparire,faccio sparire,fai sparire,disfarmi,disfarmi di,disfarsi,disfarsi "
      "di,disfarmene,sbarazzarsi,sbarazzarsi di,sbarazzarci,liberarmene,liberarci di,eliminami,fare piazza "

@@ -5,6 +5,60 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::happens, "senza (che io lo sappia|il mio consenso|avvertirmi|conferma),(chiedi|avvisi) prima"},
+    {Sense::filler, "da (qualche|nessuna) parte"},
+    {Sense::rights, "(serve|servono|ti servono|richiede|hai bisogno di) (i|dei|) (permessi|diritti) (di "
+                    "amministratore|da amministratore|speciali|)"},
+    {Sense::advise, "proposta,proposto,proposti,proposte,suggerita,suggeriti,proporre,propone"},
+    {Sense::what, "(a cosa|a che|a che cosa|per cosa) (serve|servono)"},
+    {Sense::outside, "(al di |)fuori (di|da|del|della|dai|dalla|dalle|dei)"},
+    {Sense::filler,
+     "ho scattato,ho scattate,scattato,scattate,ho fatte,ho girato,abbiamo scattato,fotografate"},
+    {Sense::rhythm,
+     "ogni quanto (tempo|),(con che frequenza|con quale frequenza|quanto spesso) (devo|dovrei|conviene|"
+     "bisogna|si deve)"},
+    {Sense::rights,
+     "(permessi|diritti|privilegi) (di|da) (amministratore|root),amministratore,root,sudo,superutente,"
+     "password di (amministratore|root),(chiedi|chiede|serve|ti serve|vuoi) (la mia|una|la) password"},
+    {Sense::ownRemoval,
+     "(disinstallare|disinstallo|rimuovere|rimuovo|eliminare|elimino|cancellare|togliere) (orlen|questo "
+     "programma|questa app),disinstallarti,rimuoverti,eliminarti,cancellarti,ti disinstallo,liberarmi "
+     "di (orlen|te)"},
+    {Sense::resident,
+     "(giri|lavori|funzioni|resti|parti|rimani|ti avvii) (sempre|) (in background|in sottofondo|sullo "
+     "sfondo|tutto il tempo|automaticamente|da solo|di notte|attivo),(orlen|questo programma|questa app|"
+     "l app|il programma) (gira|lavora|funziona|resta|parte|rimane|si avvia) (sempre|) (in background|"
+     "in sottofondo|sullo sfondo|automaticamente|da solo|attivo),(gira|lavora|funziona|si avvia|parte) "
+     "(orlen|questo programma) (in background|in sottofondo|sullo sfondo|da solo)"},
+    {Sense::otherWork,
+     "(fai|fa orlen|orlen fa|questo programma fa|fare|puoi fare|crei|fammi) (un|dei|i|una|delle|) "
+     "(backup|copia di sicurezza|copie di sicurezza|copia di riserva|copie di riserva),comprimi,"
+     "sincronizzi,converti,ripari,stampi,cripti,(orlen|questo programma) (comprime|sincronizza|ripara|"
+     "cripta)"},
+    {Sense::deletes,
+     "cancelli,elimini,modifichi,distruggi,sovrascrivi,cancellerai,eliminerai,(orlen|questo programma|"
+     "questa app|l app|il programma) (cancella|elimina|modifica|distrugge|sovrascrive|cambia|sposta|"
+     "cancellerà|eliminerà),(cancella|elimina|modifica|distrugge|cambia|sposta) (orlen|questo "
+     "programma|questa app),(stai per|hai intenzione di) (cancellare|eliminare|modificare),al sicuro da "
+     "(te|orlen)"},
+    {Sense::reads,
+     "(leggi|guardi|apri|scansioni|analizzi|controlli|vedi|sbirci|frughi) (dentro|in|tra|) (i miei|le "
+     "mie|il mio|la mia),(leggi|guardi|frughi) (nei miei|nelle mie|nella mia|nel mio),(orlen|questo "
+     "programma|questa app|l app|il programma) (legge|guarda|apre|scansiona|analizza|vede) (dentro|) (i "
+     "miei|le mie|il mio|la mia),legge orlen,(puoi|potresti|può orlen) (leggere|guardare|aprire|"
+     "vedere) (dentro|) (i miei|le mie|il mio|la mia),(puoi|potresti) (guardare|leggere|frugare) (nei "
+     "miei|nelle mie|nella mia|nel mio)"},
+    {Sense::privacy,
+     "(vendi|conservi|memorizzi|registri|raccogli|salvi) (i miei|le mie|il mio|la mia),(orlen|questo "
+     "programma|questa app|l app|il programma) (vende|conserva|memorizza|registra|raccoglie|salva) (i "
+     "miei|le mie|il mio|la mia),(vendi|raccogli|conservi|registri) (dati|qualcosa)"},
+    {Sense::trust,
+     "sei (sicuro|sicura|affidabile|pericoloso|un virus|serio),(orlen è|è orlen) (affidabile|sicuro|"
+     "pericoloso|serio)"},
+    {Sense::canOrlen, "(puoi|potresti)"},
+    {Sense::order,
+     "(cancella|elimina|distruggi|cancellare|eliminare) (subito|) tutto (subito|adesso|ora|),rm -rf,rm "
+     "-fr,formatta (il|il mio) (disco|computer)"},
     {Sense::ruleOut,
      "escludere una cartella,escludere un file,come escludo,come escludere,escludere dalla "
      "scansione,esclusioni,aggiungere un eccezione,lista bianca,non suggerire più,non scansionare,escludere "

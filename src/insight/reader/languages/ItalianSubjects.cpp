@@ -5,6 +5,9 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::virtualMachines,
+     "(macchina virtuale|macchine virtuali),(disco virtuale|dischi virtuali),vm,vms,virtualbox"},
+    {SubjectID::trash, "nella spazzatura,nel bidone,nell immondizia"},
     {SubjectID::systemAdvice,
      "vecchi kernel,kernel vecchi,kernel,cache di apt,cache apt,apt,cache dei pacchetti,registri di "
      "sistema,log di sistema,vecchi snap,kernel vecchio,vecchio kernel,journal,journald,log del "
@@ -88,12 +91,11 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::gradle, "gradle,cache di gradle,cache gradle"},
     {SubjectID::homebrew, "homebrew"},
     {SubjectID::caches,
-     "cache,file temporanei,dati temporanei,file di cache,memoria cache,cache del browser,cache delle "
+     "cache,file temporanei,dati temporanei,file di cache,memoria cache,cache delle "
      "app,dati in cache,temporanei,cache delle applicazioni,cache dei programmi,cache app,cache delle mie "
      "app,cache di applicazioni,cache di app,cache di programmi,file in cache,file cache,file "
      "temporaneo,file temp,file tmp,dati di cache,dati cache,cartella cache,cartella di cache,cartelle "
-     "cache,cartelle di cache,cache dei browser,cache browser,temporaneo,temporanea,chache,cahce,dati "
-     "temporaneamente salvati"},
+     "cache,cartelle di cache,temporaneo,temporanea,chache,cahce,dati temporaneamente salvati"},
     {SubjectID::developer,
      "dati di sviluppo,sviluppatore,dati sviluppatore,file di sviluppo,sviluppo,file di compilazione,dati "
      "dello sviluppatore,dati da sviluppatore,file da sviluppatore,file dello sviluppatore,build,file di "

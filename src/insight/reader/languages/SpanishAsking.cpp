@@ -122,11 +122,11 @@ constexpr WordRow kAsking[] = {
                       "los,en absoluto,ningunos,ninguna de"},
     {Sense::except,
      "que no sea un,que no sea una,que no sean,excepto,salvo,menos,a excepción de,aparte de,además "
-     "de,quitando,sin contar,que no sean,que no sea,excluyendo,pero no,sin,con excepción de,y no,fuera "
-     "de,sin incluir,pero sin,ignorando,sin tocar,sin borrar,sin eliminar,sin perder,pero deja,deja "
+     "de,quitando,sin contar,que no sean,que no sea,excluyendo,pero no,sin,con excepción de,y no,sin "
+     "incluir,pero sin,ignorando,sin tocar,sin borrar,sin eliminar,sin perder,pero deja,deja "
      "fuera,dejando fuera,ni,menos las de,menos los de,menos lo de,en vez de,sin que,excepto los,excepto "
      "las,excepto mis,salvo los,salvo las,salvo mis,menos mis,menos los,menos las,menos el,menos la,aparte "
-     "de los,aparte de las,aparte de mis,a parte de,fuera de los,fuera de mis,sin mis,sin los,sin las,sin "
+     "de los,aparte de las,aparte de mis,a parte de,sin mis,sin los,sin las,sin "
      "contar los,sin contar mis,sin incluir los,pero no los,pero no las,pero no mis,pero no el,pero no la,y "
      "no los,y no mis,que no estén en,que no son,que no sea "
      "el,exceptuando,descontando,omitiendo,exceptúa,excluye,obviando,deja mis,deja los,no incluyas,no "

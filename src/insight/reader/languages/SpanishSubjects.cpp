@@ -5,6 +5,9 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::virtualMachines,
+     "(máquina virtual|máquinas virtuales),(disco virtual|discos virtuales),vm,vms,virtualbox"},
+    {SubjectID::trash, "en la basura,en el (basurero|cubo)"},
     {SubjectID::systemAdvice,
      "núcleos antiguos,kernels antiguos,kernels viejos,kernels,caché de apt,apt,caché de paquetes,registros "
      "del sistema,snaps antiguos,kernel antiguo,kernel viejo,núcleos viejos,núcleo "
@@ -94,12 +97,11 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::homebrew, "homebrew"},
     {SubjectID::caches,
      "caché,cachés,archivos temporales,ficheros temporales,datos temporales,archivos de caché,memoria "
-     "caché,caché del navegador,temporales,caché de las aplicaciones,datos en caché,cache de apps,cachés de "
+     "caché,temporales,caché de las aplicaciones,datos en caché,cache de apps,cachés de "
      "aplicaciones,cachés de las aplicaciones,cachés de las apps,caché de las apps,caché de "
      "aplicaciones,caché de la app,caché de programas,caché de los programas,archivo temporal,archivos en "
      "caché,archivos caché,datos de caché,datos caché,carpeta caché,carpeta de caché,carpetas de "
-     "caché,memoria temporal,temporal,tmp,archivos tmp,ficheros de caché,caché de los navegadores,"
-     "chache,cahce,cachee"},
+     "caché,memoria temporal,temporal,tmp,archivos tmp,ficheros de caché,chache,cahce,cachee"},
     {SubjectID::developer,
      "datos de desarrollo,datos de desarrollador,desarrollador,archivos de desarrollo,desarrollo,archivos de "
      "compilación,archivos de desarrollador,datos de programación,archivos de "
