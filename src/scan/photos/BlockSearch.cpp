@@ -11,13 +11,17 @@ namespace {
 
 /// From numbers in a row the sums of `block` of them, from each on. Twice as many are added up each time.
 template <int block, std::size_t length>
-ORLEN_INLINE std::array<std::int32_t, length> sumsOf(std::array<std::int32_t, length> numbers)
+ORLEN_INLINE std::array<std::int32_t, length> sumsOf(const std::array<std::int32_t, length>& numbers)
 {
-    for (std::size_t apart = 1; apart < block; apart *= 2) {
+    std::array<std::int32_t, length> sums;
+    sums.back() = numbers.back();
+    for (std::size_t i = 0; i + 1 < length; ++i)
+        sums[i] = numbers[i] + numbers[i + 1];
+    for (std::size_t apart = 2; apart < block; apart *= 2) {
         for (std::size_t i = 0; i + apart < length; ++i)
-            numbers[i] += numbers[i + apart];
+            sums[i] += sums[i + apart];
     }
-    return numbers;
+    return sums;
 }
 
 } // namespace
@@ -62,18 +66,26 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
     std::array<std::int32_t, side> sums{};
     std::array<std::int32_t, side> squares{};
-    const auto addRow = [&](int y, int sign) __attribute__((always_inline))
-    {
+    for (int y = 0; y < block; ++y) {
         const PixelPair* row = pair({.x = 0, .y = y});
         for (std::size_t x = 0; x < side; ++x) {
-            sums[x] += sign * row[x].left;
-            squares[x] += sign * row[x].left * row[x].left;
+            sums[x] += row[x].left;
+            squares[x] += row[x].left * row[x].left;
+        }
+    }
+    const auto moveDown = [&](int y) __attribute__((always_inline))
+    {
+        const PixelPair* above = pair({.x = 0, .y = y});
+        const PixelPair* below = pair({.x = 0, .y = y + block});
+        for (std::size_t x = 0; x < side; ++x) {
+            const std::int32_t more = below[x].left - above[x].left;
+            sums[x] += more;
+            squares[x] += more * (below[x].left + above[x].left);
         }
     };
-    for (int y = 0; y < block - 1; ++y)
-        addRow(y, 1);
-    for (int y = 0; y < kPlaces; ++y, addRow(y - 1, -1)) {
-        addRow(y + block - 1, 1);
+    for (int y = 0; y < kPlaces; ++y) {
+        if (y > 0)
+            moveDown(y - 1);
         if (std::min(y % block, block - y % block) > reach)
             continue;
         const auto blockSums = sumsOf<block>(sums);

@@ -96,9 +96,10 @@ private:
     void lookAround(Sought& sought, const BlockSearch& other, int reach, TilePlace guessedMove) const;
     ORLEN_WIDE void lookAroundInWideLanes(Sought& sought, const BlockSearch& other, int reach,
                                           TilePlace guessedMove) const;
-    void prepare(const Pixels& pixels, int reach);
     ORLEN_WIDE void prepareInWideLanes(const Pixels& pixels, int reach);
-    void sumUpBlocks(int reach);
+    // Of a member of a template it has to be said here already, or they are not compiled for wide lanes.
+    ORLEN_INLINE void prepare(const Pixels& pixels, int reach);
+    ORLEN_INLINE void sumUpBlocks(int reach);
     void findTexture();
 
     /// Each pixel with the one on its right. Here and below, the margin is for reading whole lanes at the

@@ -88,13 +88,14 @@ struct PrintIndex::Query {
         : direction(&of), squares(product(of, of)), most(mostFound), index(&in), rounded(sketchOf(of))
     {
         setLeast(kLeastCosine);
-        constexpr int kByte = 8;
+        constexpr unsigned kByte = 8;
         std::array<int, kPairs> middles{};
         for (std::size_t i = 0; i < kPairs; ++i) {
             const std::int8_t one = rounded.sketch[2 * i];
             const std::int8_t other = rounded.sketch[2 * i + 1];
-            pairs[i] = static_cast<std::uint16_t>(static_cast<std::uint8_t>(one) |
-                                                  static_cast<std::uint8_t>(other) << kByte);
+            const SoughtPair pair =
+                static_cast<std::uint8_t>(one) | SoughtPair{static_cast<std::uint8_t>(other)} << kByte;
+            pairs[i] = pair | pair << 2 * kByte;
             middles[i] = kAdded * (one + other);
         }
         const auto ofLength = middles.begin() + kStart / 2;
@@ -114,7 +115,7 @@ struct PrintIndex::Query {
     std::size_t most;
     const PrintIndex* index;
     Rounded rounded;
-    std::array<std::uint16_t, kPairs> pairs{}; ///< two numbers of the sketch
+    std::array<SoughtPair, kPairs> pairs{}; ///< two numbers of the sketch
     // What to begin with, as there is too much in the numbers of bundles.
     int beforeStart = 0;           ///< and the length of what follows it
     int beforeRest = 0;            ///< all but that length
@@ -190,22 +191,36 @@ ORLEN_INLINE void PrintIndex::look(Query& query, std::size_t number) const
     query.setLeast(1 - farthest * farthest / 2);
 }
 
-/// Which of a bundle may be near, a bit for each.
-template <typename Sums>
-ORLEN_INLINE std::uint32_t PrintIndex::mayBeNear(const Query& query, const Bundle& bundle)
+/// Which of a bundle may be near each of the first `count` queries, a bit for each. For several queries at a
+/// time it is loaded once.
+template <typename Sums, std::size_t count>
+ORLEN_INLINE void PrintIndex::lookAtBundle(const Bundle& bundle, std::span<const Query> queries,
+                                           std::span<std::uint32_t> found)
 {
     constexpr std::size_t kLength = kStart / 2;
-    Sums sums(query.beforeStart);
-    for (std::size_t i = 0; i < kLength; ++i)
-        sums.add(bundle[i], query.pairs[i]);
-    Sums start = sums;
-    start.add(bundle[kLength], query.pairs[kLength]);
-    if (start.atLeast(query.leastOfStart) == 0)
-        return 0;
-    sums.addToAll(query.beforeRest);
-    for (std::size_t i = kLength + 1; i < kPairs; ++i)
-        sums.add(bundle[i], query.pairs[i]);
-    return sums.atLeast(query.least);
+    Sums all[count];
+#pragma GCC unroll 4
+    for (std::size_t q = 0; q < count; ++q)
+        all[q].addToAll(queries[q].beforeStart);
+    for (std::size_t i = 0; i < kLength; ++i) {
+#pragma GCC unroll 4
+        for (std::size_t q = 0; q < count; ++q)
+            all[q].add(bundle[i], queries[q].pairs[i]);
+    }
+#pragma GCC unroll 4
+    for (std::size_t q = 0; q < count; ++q) {
+        const Query& query = queries[q];
+        Sums sums = all[q];
+        Sums start = sums;
+        start.add(bundle[kLength], query.pairs[kLength]);
+        found[q] = start.atLeast(query.leastOfStart);
+        if (found[q] == 0)
+            continue;
+        sums.addToAll(query.beforeRest);
+        for (std::size_t i = kLength + 1; i < kPairs; ++i)
+            sums.add(bundle[i], query.pairs[i]);
+        found[q] = sums.atLeast(query.least);
+    }
 }
 
 /// Bundle by bundle, so that each is fetched from memory once. What is looked at closely is fetched
@@ -213,13 +228,20 @@ ORLEN_INLINE std::uint32_t PrintIndex::mayBeNear(const Query& query, const Bundl
 template <typename Sums>
 ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 {
+    constexpr std::size_t kTogether = 4;
     std::vector<std::uint32_t> found(queries.size());
     for (std::size_t first = 0; first < m_directions.size(); first += kSketches) {
         const Bundle& bundle = m_bundles[first / kSketches];
         const std::size_t count = std::min(kSketches, m_directions.size() - first);
         const std::uint32_t inBundle = ~std::uint32_t{0} >> (kSketches - count);
+        const std::span<const Query> all = queries;
+        std::size_t next = 0;
+        for (; next + kTogether <= all.size(); next += kTogether)
+            lookAtBundle<Sums, kTogether>(bundle, all.subspan(next), std::span(found).subspan(next));
+        for (; next < all.size(); ++next)
+            lookAtBundle<Sums, 1>(bundle, all.subspan(next), std::span(found).subspan(next));
         for (std::size_t i = 0; i < queries.size(); ++i) {
-            found[i] = mayBeNear<Sums>(queries[i], bundle) & inBundle;
+            found[i] &= inBundle;
             for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
                 prefetch(m_directions[first + static_cast<std::size_t>(std::countr_zero(left))]);
         }

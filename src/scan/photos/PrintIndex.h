@@ -54,8 +54,9 @@ private:
 
     [[nodiscard]] static Rounded sketchOf(const Direction& direction);
     void lookThrough(std::span<Query> queries) const;
-    template <typename Sums>
-    [[nodiscard]] static std::uint32_t mayBeNear(const Query& query, const Bundle& bundle);
+    template <typename Sums, std::size_t count>
+    static void lookAtBundle(const Bundle& bundle, std::span<const Query> queries,
+                             std::span<std::uint32_t> found);
     template <typename Sums>
     void lookThroughBundles(std::span<Query> queries) const;
     void lookThroughInWideLanes(std::span<Query> queries) const;

@@ -22,23 +22,25 @@ inline constexpr std::size_t kSketches = 32;
 /// Two numbers of each, from 0 to 255, the first in the lower byte.
 using SketchPairs = std::array<std::uint16_t, kSketches>;
 
+/// Two numbers from -128 to 127, likewise, and once more above them.
+using SoughtPair = std::uint32_t;
+
 /// On any processor.
 class NarrowSketchSums {
 public:
-    ORLEN_INLINE explicit NarrowSketchSums(int before) { addToAll(before); }
     ORLEN_INLINE void addToAll(int number)
     {
         m_left += static_cast<std::uint16_t>(number);
         m_right += static_cast<std::uint16_t>(number);
     }
-    ORLEN_INLINE void add(const SketchPairs& of, std::uint16_t pair)
+    ORLEN_INLINE void add(const SketchPairs& of, SoughtPair pair)
     {
         Lanes left{};
         Lanes right{};
         std::memcpy(&left, of.data(), sizeof left);
         std::memcpy(&right, of.data() + kLanes, sizeof right);
-        add(m_left, left, pair);
-        add(m_right, right, pair);
+        add(m_left, left, static_cast<std::uint16_t>(pair));
+        add(m_right, right, static_cast<std::uint16_t>(pair));
     }
     /// A bit for each.
     [[nodiscard]] ORLEN_INLINE std::uint32_t atLeast(std::int16_t least) const
@@ -71,17 +73,17 @@ private:
 /// In one instruction for two products of each.
 class WideSketchSums {
 public:
-    ORLEN_WIDE explicit WideSketchSums(int before) { addToAll(before); }
+    ORLEN_WIDE WideSketchSums() {} // NOLINT(modernize-use-equals-default): compiled for wide lanes
     ORLEN_WIDE void addToAll(int number)
     {
         const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(number));
         m_left = _mm256_add_epi16(m_left, all);
         m_right = _mm256_add_epi16(m_right, all);
     }
-    ORLEN_WIDE void add(const SketchPairs& of, std::uint16_t pair)
+    ORLEN_WIDE void add(const SketchPairs& of, SoughtPair pair)
     {
         const auto* sketches = reinterpret_cast<const __m256i*>(of.data());
-        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(pair));
+        const __m256i all = _mm256_set1_epi32(static_cast<std::int32_t>(pair));
         m_left = _mm256_add_epi16(m_left, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches), all));
         m_right = _mm256_add_epi16(m_right, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches + 1), all));
     }
