@@ -1,5 +1,6 @@
 #include "insight/reader/ListedItems.h"
 
+#include "insight/AskText.h"
 #include "insight/InsightTextsNames.h"
 #include "insight/reader/FoundReplies.h"
 #include "insight/reader/ListReplies.h"
@@ -52,8 +53,27 @@ std::optional<Measured> measuredAt(const HomeFiles& home, const std::string& pat
     return std::nullopt;
 }
 
+/// Each by itself: of some, there is no rating to list.
+std::optional<Answer> oneByOne(const Question& question, std::span<const std::string> paths,
+                               const AskContext& context)
+{
+    Answer all;
+    std::vector<Message> lines;
+    for (const std::string& path : paths) {
+        std::optional<Reply> one = onPath(question, context, path);
+        if (!one)
+            return std::nullopt;
+        lines.push_back(std::move(one->answer.text));
+        std::ranges::move(one->answer.findingIDs, std::back_inserter(all.findingIDs));
+        all.paths.push_back(path);
+    }
+    all.text = AskText::lines(std::move(lines));
+    return all;
+}
+
 /// What they take together, each with its rating; nothing if one of them is gone.
-std::optional<Answer> together(std::span<const std::string> paths, const AskContext& context)
+std::optional<Answer> together(const Question& question, std::span<const std::string> paths,
+                               const AskContext& context)
 {
     Found all;
     std::int64_t bytes = 0;
@@ -71,6 +91,10 @@ std::optional<Answer> together(std::span<const std::string> paths, const AskCont
         bytes = checkedAdd(bytes, one->bytes);
         all.measured.push_back(*std::move(one));
     }
+    const bool isOfRatings =
+        question.senses.meets({remove, safe, keep}) && !question.senses.meets({howMuch, howBig});
+    if (isOfRatings && !all.measured.empty())
+        return oneByOne(question, paths, context);
     return listedBelow({InsightTexts::kTogether, {{"size", Bytes{bytes}}}}, context, all);
 }
 
@@ -215,8 +239,9 @@ std::optional<Reply> onFew(const Question& question, const AskContext& context, 
     if (count == 1)
         return onPath(question, context, question.senses.has(last) ? paths.back() : paths.front());
     const std::span<const std::string> all(paths);
-    return replyTo(before.list.question,
-                   together(question.senses.has(last) ? all.last(count) : all.first(count), context));
+    return replyTo(
+        before.list.question,
+        together(question, question.senses.has(last) ? all.last(count) : all.first(count), context));
 }
 
 std::optional<Reply> whatFillsIt(const Question& question, const AskContext& context,
@@ -263,11 +288,13 @@ std::optional<Reply> onThem(const Question& question, const AskContext& context,
                               free, space,  takes,   general, makeRoom, uninstall, negation, advise};
     if (!question.senses.isWithin(kOfAll))
         return std::nullopt;
-    if (before.paths.empty() || (before.isCut && !before.question.senses.has(number))) {
+    const bool isOfRemoval = question.senses.meets({remove, safe, review, keep, makeRoom, free});
+    if (before.paths.empty() || ((before.isCut || isOfRemoval) && !before.question.senses.has(number))) {
         if (auto whole = onAllThatFit(question, context, before))
             return whole;
     }
-    return before.paths.empty() ? std::nullopt : replyTo(before.question, together(before.paths, context));
+    return before.paths.empty() ? std::nullopt
+                                : replyTo(before.question, together(question, before.paths, context));
 }
 
 } // namespace orlen::AskReader
