@@ -16,7 +16,7 @@ constexpr std::size_t kShortestPart = 4;
 constexpr std::size_t kShortestMistypedName = 6;
 
 /// One word of one letter.
-bool isLetter(const std::vector<std::string>& words)
+bool isOneLetter(const std::vector<std::string>& words)
 {
     const auto isStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
     return words.size() == 1 && std::ranges::count_if(words.front(), isStart) == 1;
@@ -26,7 +26,7 @@ bool isLetter(const std::vector<std::string>& words)
 
 Wanted::Wanted(std::string_view name)
     : m_name(lowered(name)), m_path(lowered(pathIn(name))), m_words(wordsOfName(m_name)),
-      m_home(Places::current().home), m_isLetter(isLetter(m_words)),
+      m_home(Places::current().home), m_isLetter(isOneLetter(m_words)),
       m_mayBePart(
           std::ranges::all_of(m_words, [](const std::string& word) { return word.size() >= kShortestPart; })),
       m_mayBeMistyped(std::ranges::any_of(
