@@ -9,7 +9,6 @@
 #include "insight/reader/NameReplies.h"
 #include "insight/reader/NamedFolders.h"
 #include "insight/reader/ProgramReplies.h"
-#include "insight/reader/QuestionParts.h"
 #include "insight/reader/RoomReplies.h"
 #include "insight/reader/RuleReplies.h"
 #include "insight/reader/SpaceReplies.h"
@@ -73,26 +72,6 @@ std::optional<Answer> aboutAnyName(const Question& question, const AskContext& c
          cleanUp, makeRoom, happens, negation, uninstall, trust,  self,    untouched, advise, full,   ending},
         aboutName};
     return isFor(usual, question.senses) ? aboutName(question, context) : aboutSureName(question, context);
-}
-
-/// "Why is the virtual machine not suggested": how it is rated, if it is.
-std::optional<Answer> whyNotSuggested(const Question& question, const AskContext& context)
-{
-    const Subject* const kind = question.subject();
-    return kind->isProgram || kind->isAnyFile ? std::nullopt : removingSubject(question, context);
-}
-
-/// "Does my home folder fill the disk?"
-std::optional<Answer> fullByHome(const Question& question, const AskContext& context)
-{
-    const Subject* const place = question.subject();
-    if (place == nullptr || place->id != SubjectID::home || question.count(subject) > 1)
-        return std::nullopt;
-    std::optional<Answer> size = sizeOfSubject(question, context);
-    std::optional<Answer> why = whyFull(question, context);
-    if (!size || !why)
-        return std::nullopt;
-    return together({*std::move(size), *std::move(why)});
 }
 
 /// In this order; the first whose senses fit and that has an answer gives it.
@@ -344,7 +323,7 @@ const std::vector<Rule>& rules()
          whatIsBiggest},
         // Kinds
         {{{howMany}, {subject}}, {what, space, used, total, disk, general, inside, takes}, sizeOfSubject},
-        {{{subject}, {can, remove, safe, untouched}},
+        {{{subject}, {can, remove, safe, untouched, cleanUp}},
          {what, can, remove, safe, inside, review, keep, happens, general, folder, disk, why, makeRoom,
           advise, cleanUp},
          removingSubject},

@@ -7,7 +7,9 @@
 #include "insight/reader/ForecastReplies.h"
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/QuestionParts.h"
 #include "insight/reader/RoomReplies.h"
+#include "insight/reader/SubjectReplies.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
 #include "platform/values/CheckedSum.h"
@@ -136,6 +138,18 @@ std::optional<Answer> whyFull(const Question& /*question*/, const AskContext& co
     said.push_back(fastestGrowth(context.prediction));
     answer.text = AskText::sentences(std::move(said));
     return answer;
+}
+
+std::optional<Answer> fullByHome(const Question& question, const AskContext& context)
+{
+    const Subject* const place = question.subject();
+    if (place == nullptr || place->id != SubjectID::home || question.count(Sense::subject) > 1)
+        return std::nullopt;
+    std::optional<Answer> size = sizeOfSubject(question, context);
+    std::optional<Answer> why = whyFull(question, context);
+    if (!size || !why)
+        return std::nullopt;
+    return together({*std::move(size), *std::move(why)});
 }
 
 } // namespace orlen::AskReader

@@ -30,4 +30,7 @@ namespace orlen::AskReader {
 /// How much of the disk is free and used.
 [[nodiscard]] Message volume(const StorageBreakdown& breakdown);
 
+/// "Does my home folder fill the disk?"
+[[nodiscard]] std::optional<Answer> fullByHome(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

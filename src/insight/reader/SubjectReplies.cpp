@@ -246,4 +246,10 @@ Answer aboutFinding(const Finding& finding)
     return *lines.answer();
 }
 
+std::optional<Answer> whyNotSuggested(const Question& question, const AskContext& context)
+{
+    const Subject* const kind = question.subject();
+    return kind->isProgram || kind->isAnyFile ? std::nullopt : removingSubject(question, context);
+}
+
 } // namespace orlen::AskReader

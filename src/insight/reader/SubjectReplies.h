@@ -32,4 +32,7 @@ namespace orlen::AskReader {
 /// What one finding is, its size and its rating.
 [[nodiscard]] Answer aboutFinding(const Finding& finding);
 
+/// "Why is the virtual machine not suggested": how it is rated, if it is.
+[[nodiscard]] std::optional<Answer> whyNotSuggested(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

@@ -5,6 +5,7 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::self, "(kannst|könntest) du (mir|uns) (bitte|) helfen"},
     {Sense::happens,
      "ohne dass ich (gefragt werde|zustimme|es will|es merke|es weiß),(fragst|warnst) du (vorher|mich|)"},
     {Sense::privacy, "(schickst|sendest|überträgst|übermittelst|verschickst|funkst) du,nach hause "

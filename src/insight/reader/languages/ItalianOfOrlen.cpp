@@ -66,6 +66,18 @@ constexpr WordRow kOfOrlen[] = {
      "analizzare,non suggerirmi più,non proporre più,ignorare una cartella,ignora la cartella,ignorare "
      "cartelle,aggiungere esclusioni,lista di esclusione,elenco delle esclusioni,elenco esclusioni,lasciare "
      "fuori una cartella,tenere fuori una cartella,mai scansionare,mai più suggerire"},
+    {Sense::self,
+     "cosa puoi fare,cosa sai fare,che cosa puoi fare,cosa ti posso chiedere,cosa posso chiederti,chi "
+     "sei,cosa sei,aiuto,aiutami,ciao,buongiorno,buonasera,salve,grazie,come funziona,cos è orlen,cosa fa "
+     "orlen,che cos è orlen,come funziona orlen,a cosa serve orlen,cosa fa questo programma,a che serve "
+     "orlen,come si usa orlen,come puoi aiutarmi,cosa puoi fare per me,cosa fai,che cosa fai,che fai,che sai "
+     "fare,che puoi fare,chi sei tu,cos è questo programma,a cosa servi,a cosa serve questo programma,a che "
+     "serve questo programma,a cosa serve questa app,come funziona questo programma,come funziona "
+     "questo,come funzioni,come ti uso,come ti si usa,come si usa,come si usa questo programma,come uso "
+     "orlen,cosa può fare orlen,cosa può fare questo programma,cosa fa questa app,in cosa puoi aiutarmi,in "
+     "cosa mi puoi aiutare,mi aiuti,mi puoi aiutare,puoi aiutarmi,cosa posso chiedere,che domande posso "
+     "fare,che ti posso chiedere,cosa sai,che sai,hey,ehi,buondì,buona sera,buon giorno,ciao orlen,grazie "
+     "mille,mille grazie,tante grazie,di cosa sei capace,soccorso"},
 };
 
 } // namespace
