@@ -75,6 +75,7 @@ constexpr Row kWhatIf[] = {
     {"delete the steam screenshots", "", "games of Steam"},
     {"is % safe", "I don't know"},
     {"can i delete s", "I don't know"},
+    {"can i delete a", "I don't know"},
     {"files bigger than 3 MB but smaller than 6 MB", "over 3 MB under 6 MB"},
     {"the mint and ubuntu isos", "Together they take 20 MB", "img"},
     {"the node_modules of site", "site/node_modules takes 2 MB"},

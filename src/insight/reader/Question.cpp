@@ -182,10 +182,23 @@ private:
         return true;
     }
 
+    /// "Can I delete a": the one letter at the end is a name.
+    [[nodiscard]] bool isLetterToGo() const
+    {
+        constexpr SenseSet kToGo{Sense::remove, Sense::safe};
+        const std::string& word = m_plain[m_at];
+        return m_at + 1 == m_plain.size() && word.size() == 1 && word.front() >= 'a' && word.front() <= 'z' &&
+               !m_question.phrases.empty() && kToGo.has(m_question.phrases.back().sense);
+    }
+
     /// "Is % safe": a sign that belongs to no figure stands for a name, if it stands for anything.
     bool takeSign()
     {
         const std::string& word = m_plain[m_at];
+        if (isLetterToGo()) {
+            take({Sense::unknown, {}, nullptr, 0, {}}, 1);
+            return true;
+        }
         constexpr std::string_view kSigns = "%$#@^~\\*";
         constexpr SenseSet kOfAmounts{Sense::howMuch, Sense::howBig, Sense::howMany, Sense::number,
                                       Sense::full,    Sense::free,   Sense::used};

@@ -80,6 +80,14 @@ bool addNamed(const Question& group, const AskContext& context, Things& things)
         found = findNamed(context, name);
         keepOfKind(found, group, context, name);
     }
+    // What the Trash holds of a program is not the program.
+    const bool isOfTrash =
+        !found.hits.empty() && found.measured.empty() && std::ranges::all_of(found.hits, [](const Hit& hit) {
+            return hit.finding->kind == FindingKind::trash;
+        });
+    if (Found places = isOfTrash && !isFileName(group, name) ? placesOf(context, {name}) : Found();
+        !places.hits.empty() || !places.measured.empty())
+        found = std::move(places);
     // "Linux mint" of "linuxmint-22.iso"
     if (found.fit == Fit::none) {
         found.hits = holdingAll(context, wordsOfName(lowered(name)));
