@@ -11,9 +11,9 @@ namespace {
 
 /// From numbers in a row the sums of `block` of them, from each on. Twice as many are added up each time.
 template <int block, std::size_t length>
-ORLEN_INLINE std::array<std::int32_t, length> sumsOf(const std::array<std::int32_t, length>& numbers)
+ORLEN_INLINE void sumUp(const std::array<std::int32_t, length>& numbers,
+                        std::array<std::int32_t, length>& sums)
 {
-    std::array<std::int32_t, length> sums;
     sums.back() = numbers.back();
     for (std::size_t i = 0; i + 1 < length; ++i)
         sums[i] = numbers[i] + numbers[i + 1];
@@ -21,7 +21,6 @@ ORLEN_INLINE std::array<std::int32_t, length> sumsOf(const std::array<std::int32
         for (std::size_t i = 0; i + apart < length; ++i)
             sums[i] += sums[i + apart];
     }
-    return sums;
 }
 
 } // namespace
@@ -66,6 +65,7 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
     const auto quarters = quarterSquares();
     std::array<std::int32_t, side> sums{};
+    std::array<std::int32_t, side> blockSums{};
     for (int y = 0; y < block; ++y) {
         const PixelPair* row = pair({.x = 0, .y = y});
         for (std::size_t x = 0; x < side; ++x)
@@ -83,7 +83,7 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
             moveDown(y - 1);
         if (std::min(y % block, block - y % block) > reach)
             continue;
-        const auto blockSums = sumsOf<block>(sums);
+        sumUp<block>(sums, blockSums);
         const auto* squares = &quarters[static_cast<std::size_t>(y)];
         const std::size_t row = index({0, y});
         for (std::size_t x = 0; x < kPlaces; ++x) {
@@ -113,7 +113,7 @@ ORLEN_INLINE auto BlockSearch<side, block>::quarterSquares() const -> QuarterSqu
         for (std::size_t x = 0; x < side; ++x)
             squares[x] += below[x].left * below[x].left - sign * (above[x].left * above[x].left);
         if (y >= kQuarter - 1)
-            all[static_cast<std::size_t>(y - kQuarter + 1)] = sumsOf<block>(squares);
+            sumUp<block>(squares, all[static_cast<std::size_t>(y - kQuarter + 1)]);
     }
     return all;
 }
