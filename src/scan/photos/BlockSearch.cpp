@@ -11,9 +11,9 @@ namespace {
 
 /// From numbers in a row the sums of `block` of them, from each on. Twice as many are added up each time.
 template <int block, std::size_t length>
-ORLEN_INLINE std::array<std::int32_t, length> sumsOf(const std::array<std::int32_t, length>& numbers)
+ORLEN_INLINE void sumUp(const std::array<std::int32_t, length>& numbers,
+                        std::array<std::int32_t, length>& sums)
 {
-    std::array<std::int32_t, length> sums;
     sums.back() = numbers.back();
     for (std::size_t i = 0; i + 1 < length; ++i)
         sums[i] = numbers[i] + numbers[i + 1];
@@ -21,7 +21,6 @@ ORLEN_INLINE std::array<std::int32_t, length> sumsOf(const std::array<std::int32
         for (std::size_t i = 0; i + apart < length; ++i)
             sums[i] += sums[i + apart];
     }
-    return sums;
 }
 
 } // namespace
@@ -64,41 +63,59 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
 {
     // One level of noise, so that an even block matches nothing.
     constexpr float kNoise = static_cast<float>(kPixels) * kPixels;
+    const auto quarters = quarterSquares();
     std::array<std::int32_t, side> sums{};
-    std::array<std::int32_t, side> squares{};
+    std::array<std::int32_t, side> blockSums{};
     for (int y = 0; y < block; ++y) {
         const PixelPair* row = pair({.x = 0, .y = y});
-        for (std::size_t x = 0; x < side; ++x) {
+        for (std::size_t x = 0; x < side; ++x)
             sums[x] += row[x].left;
-            squares[x] += row[x].left * row[x].left;
-        }
     }
     const auto moveDown = [&](int y) __attribute__((always_inline))
     {
         const PixelPair* above = pair({.x = 0, .y = y});
         const PixelPair* below = pair({.x = 0, .y = y + block});
-        for (std::size_t x = 0; x < side; ++x) {
-            const std::int32_t more = below[x].left - above[x].left;
-            sums[x] += more;
-            squares[x] += more * (below[x].left + above[x].left);
-        }
+        for (std::size_t x = 0; x < side; ++x)
+            sums[x] += below[x].left - above[x].left;
     };
     for (int y = 0; y < kPlaces; ++y) {
         if (y > 0)
             moveDown(y - 1);
         if (std::min(y % block, block - y % block) > reach)
             continue;
-        const auto blockSums = sumsOf<block>(sums);
-        const auto blockSquares = sumsOf<block>(squares);
+        sumUp<block>(sums, blockSums);
+        const auto* squares = &quarters[static_cast<std::size_t>(y)];
         const std::size_t row = index({0, y});
         for (std::size_t x = 0; x < kPlaces; ++x) {
-            const auto spread = static_cast<float>(kPixels * blockSquares[x] - blockSums[x] * blockSums[x]);
+            const std::int32_t lowerHalf = squares[2 * kQuarter][x] + squares[3 * kQuarter][x];
+            const std::int32_t lowerQuarters = squares[kQuarter][x] + lowerHalf;
+            const std::int32_t blockSquares = squares[0][x] + lowerQuarters;
+            const auto spread = static_cast<float>(kPixels * blockSquares - blockSums[x] * blockSums[x]);
             m_sums[row + x] = static_cast<float>(blockSums[x]);
-            m_lengths[row + x] = std::sqrt(static_cast<float>(blockSquares[x]));
+            m_rests[0][row + x] = std::sqrt(static_cast<float>(lowerQuarters));
+            m_rests[1][row + x] = std::sqrt(static_cast<float>(lowerHalf));
             m_spreads[row + x] = spread;
             m_onesBySpreads[row + x] = 1 / (spread + kNoise);
         }
     }
+}
+
+/// The sums of the squares of each quarter of a block, at all places.
+template <int side, int block>
+ORLEN_INLINE auto BlockSearch<side, block>::quarterSquares() const -> QuarterSquares
+{
+    QuarterSquares all;
+    std::array<std::int32_t, side> squares{};
+    for (int y = 0; y < side; ++y) {
+        const PixelPair* below = pair({.x = 0, .y = y});
+        const PixelPair* above = pair({.x = 0, .y = std::max(y - kQuarter, 0)});
+        const std::int32_t sign = y < kQuarter ? 0 : 1;
+        for (std::size_t x = 0; x < side; ++x)
+            squares[x] += below[x].left * below[x].left - sign * (above[x].left * above[x].left);
+        if (y >= kQuarter - 1)
+            sumUp<block>(squares, all[static_cast<std::size_t>(y - kQuarter + 1)]);
+    }
+    return all;
 }
 
 template <int side, int block>
@@ -152,23 +169,24 @@ ORLEN_INLINE void BlockSearch<side, block>::addRows(Common<Lanes, count>& common
     }
 }
 
-/// Whether the rows that are still to come may make any of the places the best one. Their product is at most
-/// that of the lengths of both, of which the other's is at most that of the whole block.
+/// Whether the rows that are still to come after a quarter, or half of them, may make any of the places the
+/// best one. Their product is at most that of the lengths of both.
 template <int side, int block>
 template <typename Lanes, std::size_t count>
 ORLEN_INLINE bool BlockSearch<side, block>::mayBeBetter(const Common<Lanes, count>& common,
                                                         const Sought& sought, const BlockSearch& other,
-                                                        TilePlace first, float rest) const
+                                                        TilePlace first, std::size_t looks) const
 {
     using Floats = typename Lanes::Floats;
     const float sum = m_sums[index(sought.place)];
+    const float rest = sought.rests[looks];
     typename Lanes::Ints isBetter{};
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t at = index(first) + i * Lanes::kCount;
         Floats lengths;
         Floats sums;
         Floats onesBySpreads;
-        load(lengths, &other.m_lengths[at]);
+        load(lengths, &other.m_rests[looks][at]);
         load(sums, &other.m_sums[at]);
         load(onesBySpreads, &other.m_onesBySpreads[at]);
         const Floats atMost =
@@ -189,10 +207,10 @@ ORLEN_INLINE void BlockSearch<side, block>::look(Sought& sought, const BlockSear
     using Floats = typename Lanes::Floats;
     Common<Lanes, count> common{};
     addRows<Lanes, count>(common, sought, other, first, 0, block / 4);
-    if (!mayBeBetter<Lanes, count>(common, sought, other, first, sought.rests[0]))
+    if (!mayBeBetter<Lanes, count>(common, sought, other, first, 0))
         return;
     addRows<Lanes, count>(common, sought, other, first, block / 4, block / 2);
-    if (!mayBeBetter<Lanes, count>(common, sought, other, first, sought.rests[1]))
+    if (!mayBeBetter<Lanes, count>(common, sought, other, first, 1))
         return;
     addRows<Lanes, count>(common, sought, other, first, block / 2, block);
     const float sum = m_sums[index(sought.place)];
