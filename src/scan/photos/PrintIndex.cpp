@@ -27,7 +27,8 @@ constexpr float kNothing = 1e-5F;
 
 std::int8_t inSteps(float number)
 {
-    return static_cast<std::int8_t>(std::lround(number * kSteps));
+    const float half = std::copysign(0.5F, number); // a cast is much faster than lround
+    return static_cast<std::int8_t>(number * kSteps + half);
 }
 
 /// What sketches of directions with that cosine have in common, at least, if rounding moved them that far.
