@@ -115,7 +115,7 @@ std::vector<Hit> listedCopies(const AskContext& context, const Called& called)
                 hits.push_back({&finding, &entry});
         }
     }
-    return eachOnce(std::move(hits));
+    return eachOnce(context, std::move(hits));
 }
 
 /// The person's own files that fit, those first that are named alike and take the same space.

@@ -48,7 +48,7 @@ std::vector<Hit> fitting(const ListRequest& request, const AskContext& context)
                 hits.push_back({&finding, &entry});
         }
     }
-    return eachOnce(std::move(hits));
+    return eachOnce(context, std::move(hits));
 }
 
 void sortFirst(std::vector<Hit>& hits, Order order, std::size_t count)

@@ -189,12 +189,29 @@ std::vector<NameIndex::Place> NameIndex::mistyped(std::string_view name, std::sp
 std::shared_ptr<const NameIndex> NameCache::of(const std::vector<Finding>& findings)
 {
     const std::lock_guard lock(m_mutex);
-    std::vector<std::size_t> signature = signatureOf(findings);
-    if (!m_index || signature != m_signature) {
+    keepFor(findings);
+    if (!m_index)
         m_index = std::make_shared<const NameIndex>(findings);
-        m_signature = std::move(signature);
-    }
     return m_index;
+}
+
+std::shared_ptr<const Overlaps> NameCache::overlapsOf(const std::vector<Finding>& findings)
+{
+    const std::lock_guard lock(m_mutex);
+    keepFor(findings);
+    if (!m_overlaps)
+        m_overlaps = std::make_shared<const Overlaps>(findings);
+    return m_overlaps;
+}
+
+void NameCache::keepFor(const std::vector<Finding>& findings)
+{
+    std::vector<std::size_t> signature = signatureOf(findings);
+    if (signature == m_signature)
+        return;
+    m_signature = std::move(signature);
+    m_index = nullptr;
+    m_overlaps = nullptr;
 }
 
 std::shared_ptr<const HomeNames> NameCache::of(const std::shared_ptr<const HomeFiles>& home)

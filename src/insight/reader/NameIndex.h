@@ -1,6 +1,7 @@
 #pragma once
 
 #include "insight/reader/HomeNames.h"
+#include "insight/reader/Overlaps.h"
 #include "model/Finding.h"
 
 #include <cstddef>
@@ -74,13 +75,18 @@ private:
 class NameCache {
 public:
     [[nodiscard]] std::shared_ptr<const NameIndex> of(const std::vector<Finding>& findings);
+    [[nodiscard]] std::shared_ptr<const Overlaps> overlapsOf(const std::vector<Finding>& findings);
     /// `home` is not null.
     [[nodiscard]] std::shared_ptr<const HomeNames> of(const std::shared_ptr<const HomeFiles>& home);
 
 private:
+    /// Forgets what is of other findings.
+    void keepFor(const std::vector<Finding>& findings);
+
     std::mutex m_mutex;
-    std::vector<std::size_t> m_signature; ///< of the findings that the index is of
+    std::vector<std::size_t> m_signature; ///< of the findings that the index and the overlaps are of
     std::shared_ptr<const NameIndex> m_index;
+    std::shared_ptr<const Overlaps> m_overlaps;
     std::shared_ptr<const HomeFiles> m_home;
     std::shared_ptr<const HomeNames> m_homeNames;
 };

@@ -47,7 +47,7 @@ Found withWords(const AskContext& context, const Words& words, const IsOfKind& i
         if (one.kind != FindingKind::trash && holdsAll(lower, words, standing) && isOfKind(item.path))
             found.hits.push_back({&one, &item});
     }
-    found.hits = eachOnce(std::move(found.hits));
+    found.hits = eachOnce(context, std::move(found.hits));
     const HomeFiles::Number count = context.home == nullptr ? 0 : context.home->fileCount();
     for (HomeFiles::Number i = 0; i < count; ++i) {
         const HomeFiles::File file = context.home->file(i);

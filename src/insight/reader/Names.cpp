@@ -235,7 +235,7 @@ std::vector<Hit> holdingAll(const AskContext& context, const std::vector<std::st
                 hits.push_back({&finding, &entry});
         }
     }
-    hits = eachOnce(std::move(hits));
+    hits = eachOnce(context, std::move(hits));
     std::ranges::stable_sort(hits, std::greater{}, [](const Hit& hit) { return hit.entry->size; });
     return hits;
 }
@@ -276,33 +276,22 @@ std::string folderNamed(const AskContext& context, const std::string& text)
     return found.fit == Fit::whole && !found.measured.empty() ? found.measured.front().path : std::string();
 }
 
-std::vector<Hit> eachOnce(std::vector<Hit> hits)
+std::vector<Hit> eachOnce(const AskContext& context, std::vector<Hit> hits)
 {
-    std::map<const Finding*, std::size_t> counts;
-    for (const Hit& hit : hits)
-        ++counts[hit.finding];
-    if (counts.size() < 2)
-        return hits;
-    // What the finding with the most hits lists is only looked up, never remembered: that is most of the
-    // time.
-    const Finding* const most =
-        std::ranges::max_element(counts, {}, &std::pair<const Finding* const, std::size_t>::second)->first;
+    const auto overlaps = context.names->overlapsOf(context.findings);
+    const auto isShared = [&](const Hit& hit) {
+        return overlaps->isShared(context.findings, *hit.finding, *hit.entry);
+    };
     std::unordered_map<std::string_view, Hit> speakers;
     for (const Hit& hit : hits) {
-        if (hit.finding == most)
+        if (!isShared(hit))
             continue;
         const auto [known, isNew] = speakers.try_emplace(hit.entry->path, hit);
         if (!isNew && weightOf(hit) > weightOf(known->second))
             known->second = hit;
     }
-    for (const Hit& hit : hits) {
-        const auto known = hit.finding == most ? speakers.find(hit.entry->path) : speakers.end();
-        if (known != speakers.end() && weightOf(hit) > weightOf(known->second))
-            known->second = hit;
-    }
     std::erase_if(hits, [&](const Hit& hit) {
-        const auto known = speakers.find(hit.entry->path);
-        return known != speakers.end() && known->second.finding != hit.finding;
+        return isShared(hit) && speakers.at(hit.entry->path).finding != hit.finding;
     });
     return hits;
 }

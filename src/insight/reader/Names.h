@@ -61,7 +61,7 @@ struct Found {
 
 /// Each path once, with the finding that speaks for it: several may list it, a single one never does twice.
 /// `hits` in the order of the findings.
-[[nodiscard]] std::vector<Hit> eachOnce(std::vector<Hit> hits);
+[[nodiscard]] std::vector<Hit> eachOnce(const AskContext& context, std::vector<Hit> hits);
 
 /// Whether the word, in lower case, stands in the name of an entry of the scan, or is the whole name
 /// of something of the person's own.

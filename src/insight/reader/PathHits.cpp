@@ -58,7 +58,7 @@ std::vector<Hit> hitsBelow(std::string_view folder, const AskContext& context)
                 hits.push_back({&finding, &entry});
         }
     }
-    return eachOnce(std::move(hits));
+    return eachOnce(context, std::move(hits));
 }
 
 } // namespace orlen::AskReader

@@ -136,7 +136,7 @@ std::vector<Hit> hitsAt(const AskContext& context, const std::vector<Measured>& 
                 hits.push_back({&finding, &entry});
         }
     }
-    return eachOnce(std::move(hits));
+    return eachOnce(context, std::move(hits));
 }
 
 /// What a folder counts for; nothing if for several.

@@ -22,23 +22,36 @@ bool mayBeChosen(const AskContext& context, const Finding& finding, const FileEn
 /// Drops what another finding speaks for.
 void dropRatedOtherwise(const AskContext& context, Rating rating, std::vector<Hit>& hits)
 {
+    const auto overlaps = context.names->overlapsOf(context.findings);
     std::unordered_set<std::string_view> others;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            if (weightOf(finding.effectiveRating(entry)) > weightOf(rating))
+            if (overlaps->isShared(context.findings, finding, entry) &&
+                weightOf(finding.effectiveRating(entry)) > weightOf(rating))
                 others.insert(entry.path);
         }
     }
-    std::erase_if(hits, [&](const Hit& hit) { return others.contains(hit.entry->path); });
+    std::erase_if(hits, [&](const Hit& hit) {
+        return overlaps->isShared(context.findings, *hit.finding, *hit.entry) &&
+               others.contains(hit.entry->path);
+    });
 }
 
 /// Drops what lies in a folder that is among them: the folder takes it along.
-void dropInside(std::vector<Hit>& hits)
+void dropInside(const AskContext& context, std::vector<Hit>& hits)
 {
+    const auto overlaps = context.names->overlapsOf(context.findings);
+    const auto isInside = [&](const Hit& hit) {
+        return overlaps->isInside(context.findings, *hit.finding, *hit.entry);
+    };
+    if (std::ranges::none_of(hits, isInside))
+        return;
     std::unordered_set<std::string_view> paths;
     for (const Hit& hit : hits)
         paths.insert(hit.entry->path);
     std::erase_if(hits, [&](const Hit& hit) {
+        if (!isInside(hit))
+            return false;
         std::string_view above = hit.entry->path;
         for (std::size_t end = above.rfind('/'); end != std::string_view::npos; end = above.rfind('/')) {
             above = above.substr(0, end);
@@ -69,7 +82,7 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
     hits.erase(std::unique(hits.begin(), hits.end(),
                            [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; }),
                hits.end());
-    dropInside(hits);
+    dropInside(context, hits);
     return hits;
 }
 

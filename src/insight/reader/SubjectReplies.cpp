@@ -33,7 +33,7 @@ Amount listedFiles(const Subject& subject, const AskContext& context)
         }
     }
     Amount amount;
-    for (const Hit& hit : eachOnce(std::move(hits))) {
+    for (const Hit& hit : eachOnce(context, std::move(hits))) {
         ++amount.count;
         amount.bytes = checkedAdd(amount.bytes, hit.entry->size);
     }

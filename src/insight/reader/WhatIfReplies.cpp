@@ -193,7 +193,7 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
     }
     if (hits.empty())
         return nothingFound(*question.subject(), context);
-    hits = eachOnce(std::move(hits));
+    hits = eachOnce(context, std::move(hits));
     Answer answer;
     std::int64_t safe = 0;
     for (const Hit& hit : hits) {
