@@ -76,6 +76,8 @@ struct Language {
     /// Articles that stand for a thing at the end of a clause or before a verb: "las" of "si las borro".
     std::string_view clitics{};
     bool joinsClitics = false; ///< writes them behind a verb, in one word: "borrarlas"
+    /// What a list has not shown yet: "more", "the rest".
+    std::string_view others{};
 };
 
 [[nodiscard]] const Language& english();

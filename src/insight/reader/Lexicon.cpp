@@ -179,6 +179,7 @@ Lexicon::Lexicon(const Language& language)
     });
     eachPhrase(language.clitics, [&](std::string_view word) { m_clitics.emplace(word); });
     eachPhrase(language.ones, [&](std::string_view word) { m_ones.emplace(plainLetters(word)); });
+    eachPhrase(language.others, [&](std::string_view phrase) { m_others.emplace(plainLetters(phrase)); });
 }
 
 std::span<const Lexicon> Lexicon::all()
@@ -200,6 +201,11 @@ std::string_view Lexicon::withoutClitic(std::string_view word) const
             return verb;
     }
     return {};
+}
+
+bool Lexicon::meansOthers(std::string_view phrase) const
+{
+    return m_others.contains(plainLetters(phrase));
 }
 
 bool Lexicon::meansOne(std::string_view phrase) const

@@ -57,6 +57,8 @@ public:
     [[nodiscard]] bool isWord(const std::string& word) const { return m_words.contains(word); }
     /// Whether a phrase, as typed, speaks of one thing only: "biggest file".
     [[nodiscard]] bool meansOne(std::string_view phrase) const;
+    /// Whether the phrase asks for what a list has not shown yet: "more", "the rest".
+    [[nodiscard]] bool meansOthers(std::string_view phrase) const;
     [[nodiscard]] bool isElided(const std::string& word) const { return m_elided.contains(word); }
     /// Whether an article stands for a thing as well: "las" of "si las borro".
     [[nodiscard]] bool isClitic(const std::string& word) const { return m_clitics.contains(word); }
@@ -82,6 +84,7 @@ private:
     std::unordered_set<std::string> m_words;
     std::unordered_set<std::string> m_elided;
     std::unordered_set<std::string> m_ones;
+    std::unordered_set<std::string> m_others;
     std::unordered_set<std::string> m_clitics;
     bool m_joinsClitics = false;
     bool m_hasCompounds = false;

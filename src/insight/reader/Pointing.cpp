@@ -1,6 +1,5 @@
 #include "insight/reader/Pointing.h"
 
-#include "insight/reader/GuardedPlaces.h"
 #include "insight/reader/Lexicon.h"
 
 #include <algorithm>
@@ -61,16 +60,11 @@ bool pointsBack(const Question& question)
 
 bool asksForMore(const Question& question)
 {
-    constexpr std::string_view kMore =
-        "more,other,others,the other,the others,the rest,rest,the remaining,the remaining ones,weitere,"
-        "weiteren,andere,anderen,die restlichen,die ubrigen,der rest,den rest,noch 5,noch funf,noch mehr,"
-        "noch welche,autres,le reste,les restants,les suivants,les suivantes,otros,otras,demas,el resto,los "
-        "restantes,los siguientes,las siguientes,altri,altre,il resto,i restanti,i rimanenti,i seguenti";
     const bool saysMore = std::ranges::any_of(question.phrases, [&](const Phrase& phrase) {
         const bool isNext = phrase.sense == ordinal && phrase.amount == 0 && question.senses.has(number);
-        // "Cinco más"
-        const bool isMost = phrase.sense == most && phrase.text.size() == std::string_view("más").size();
-        return isNext || isMost || (phrase.sense == general && isListed(kMore, plainLetters(phrase.text)));
+        // "Cinco más" is no superlative.
+        const bool mayBeMore = phrase.sense == general || phrase.sense == most;
+        return isNext || (mayBeMore && question.lexicon->meansOthers(phrase.text));
     });
     return question.senses.isWithin({what, number, general, most, ordinal}) &&
            (saysMore || (question.goesOn && question.senses.has(number)));

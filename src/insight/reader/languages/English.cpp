@@ -90,7 +90,10 @@ const Language& english()
         "word,text,file,item,thing,folder,directory,subfolder,video,movie,film,clip,photo,picture,image,pic,"
         "song,track,"
         "pdf,document,archive,zip,download,installer,spreadsheet,presentation,book,ebook,iso,mp3",
-        english_words::measures()};
+        english_words::measures(),
+        {},
+        false,
+        "more,other,others,the other,the others,the rest,rest,the remaining,the remaining ones"};
     return language;
 }
 

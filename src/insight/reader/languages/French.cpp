@@ -97,7 +97,8 @@ const Language& french()
         "image,chanson,pdf,document,archive,téléchargement,téléchargé,dernier",
         french_words::measures(),
         "le,la,les,l",
-        false};
+        false,
+        "autres,le reste,les restants,les (suivants|suivantes)"};
     return language;
 }
 

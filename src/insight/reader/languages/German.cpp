@@ -96,7 +96,9 @@ const Language& german()
         "archiv,download,tabelle,präsentation,buch",
         german_words::measures(),
         "der,die,das,den,dem",
-        false};
+        false,
+        "weitere,weiteren,andere,anderen,die restlichen,die übrigen,der rest,den rest,noch 5,noch fünf,noch "
+        "mehr,noch welche"};
     return language;
 }
 

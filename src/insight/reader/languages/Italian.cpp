@@ -99,7 +99,8 @@ const Language& italian()
         "pesante,vecchio,recente,nuovo,piccolo,grossa,vecchia,nuova,piccola,ultimo,scaricato,il,la",
         italian_words::measures(),
         "lo,la,li,le,gli",
-        true};
+        true,
+        "altri,altre,il resto,(i|gli) (restanti|rimanenti|seguenti)"};
     return language;
 }
 

@@ -96,7 +96,8 @@ const Language& spanish()
                                    "canción,pdf,documento,descarga,descargado,último",
                                    spanish_words::measures(),
                                    "lo,la,los,las",
-                                   true};
+                                   true,
+                                   "más,otros,otras,demás,el resto,los restantes,(los|las) siguientes"};
     return language;
 }
 
