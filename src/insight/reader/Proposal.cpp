@@ -32,6 +32,28 @@ void dropRatedOtherwise(const AskContext& context, Rating rating, std::vector<Hi
     std::erase_if(hits, [&](const Hit& hit) { return others.contains(hit.entry->path); });
 }
 
+Paths pathsOf(const std::vector<Hit>& hits)
+{
+    Paths paths;
+    for (const Hit& hit : hits)
+        paths.insert(hit.entry->path);
+    return paths;
+}
+
+/// Drops what is kept of files with copies that are to go: both never go together.
+void dropKept(const AskContext& context, std::vector<Hit>& hits)
+{
+    const Paths going = pathsOf(hits);
+    Paths kept;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (entry.kept && going.contains(entry.path))
+                kept.insert(entry.kept->path);
+        }
+    }
+    std::erase_if(hits, [&](const Hit& hit) { return kept.contains(hit.entry->path); });
+}
+
 /// Drops what lies in a folder that is among them: the folder takes it along.
 void dropInside(std::vector<Hit>& hits)
 {
@@ -51,12 +73,14 @@ void dropInside(std::vector<Hit>& hits)
 
 } // namespace
 
-std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions)
+std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions,
+                           const Paths* among)
 {
     std::vector<Hit> hits;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
             if (finding.effectiveRating(entry) == rating && mayBeChosen(context, finding, entry) &&
+                (among == nullptr || among->contains(entry.path)) &&
                 (exclusions.empty() || !exclusions.leaveOut(finding, entry)))
                 hits.push_back({&finding, &entry});
         }
@@ -69,8 +93,22 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
     hits.erase(std::unique(hits.begin(), hits.end(),
                            [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; }),
                hits.end());
+    dropKept(context, hits);
     dropInside(hits);
     return hits;
+}
+
+void dropCopiesOf(const AskContext& context, const std::vector<Hit>& going, std::vector<Hit>& hits)
+{
+    const Paths kept = pathsOf(going);
+    Paths copies;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (entry.kept && kept.contains(entry.kept->path))
+                copies.insert(entry.path);
+        }
+    }
+    std::erase_if(hits, [&](const Hit& hit) { return copies.contains(hit.entry->path); });
 }
 
 std::vector<Hit> reaching(std::vector<Hit> hits, std::int64_t wanted)
