@@ -237,6 +237,12 @@ constexpr Row kAbout[] = {
     {"how much did orlen free in total", "2 clean-ups|3 GB", "is free of"},
     {"how much have i freed with this program", "2 clean-ups|3 GB", "application"},
     {"what did you delete", "20 May 2026|gone.zip", "could free"},
+    {"wheres the stuff you removed", "20 May 2026|gone.zip", "could free"},
+    {"where did all my files go", "20 May 2026|put things back", "could free"},
+    {"wo sind die Dateien, die du gelöscht hast", "20 May 2026|gone.zip", "could free"},
+    {"où sont les fichiers que tu as supprimés", "20 May 2026|gone.zip", "could free"},
+    {"dónde están los archivos que has borrado", "20 May 2026|gone.zip", "could free"},
+    {"dove sono i file che hai cancellato", "20 May 2026|gone.zip", "could free"},
     {"have you ever deleted one of my files", "2 clean-ups", "slack"},
     {"when was my last cleanup and how much did it free", "20 May 2026", "could free"},
     {"how much could i free at most", "You could free", "is free of"},
@@ -437,6 +443,17 @@ TEST_F(AskReaderTest, proposalsHoldWhatTheyNameAndNothingMore)
                                                  home.path("Documents/contract-2021.docx")))))
             << question;
     }
+
+    // A copy that several findings list is there once, and never with the file that is kept.
+    FileEntry copy = entry("Music/take (1).flac", kBytesInMB);
+    const FileEntry kept = entry("Music/take.flac", kBytesInMB);
+    copy.kept = KeptFile{kept.path, {}};
+    add(FindingKind::oldFiles, Rating::review, message("Reason."), {copy, kept});
+    add(FindingKind::duplicates, Rating::review, message("Reason."), {copy});
+    EXPECT_THAT(AskEngine::answer("how much do I win if I delete the duplicates", context).proposal,
+                testing::Contains(copy.path).Times(1));
+    EXPECT_THAT(AskEngine::answer("free 900 GB", context).proposal,
+                testing::Not(testing::Contains(kept.path)));
 }
 
 TEST_F(AskReaderTest, withoutAScanNothingIsInvented)

@@ -34,6 +34,10 @@ protected:
             {copy, entry("Music/a (1).flac", 40 * kBytesInMB)});
         add(FindingKind::oldDownloads, Rating::safe, message("Lying around."),
             {entry("Downloads/mint.iso", 14 * kBytesInMB)});
+        file(".config/gimp/cache/c.bin", 2);
+        add(FindingKind::caches, Rating::review, message("Made again."),
+            {entry(".config/gimp/cache/c.bin", 2 * kBytesInMB)});
+        file("Applications/Krita.AppImage", 8);
         file("Downloads/linuxmint-22.img", 5);
         add(FindingKind::largeFiles, Rating::review, message("Large."),
             {entry("Downloads/linuxmint-22.img", 5 * kBytesInMB)});
@@ -50,6 +54,8 @@ protected:
         file(".mozilla/firefox/places.sqlite", 9);
         file(".local/share/Steam/steamapps/common/Portal 2/portal.bin", 6);
         context.protection = [this](std::string_view path) {
+            if (path == home.path(".config/gimp/cache"))
+                return Protection::browserProfiles;
             return path.starts_with(home.path(".mozilla/firefox")) ? Protection::browserProfiles
                                                                    : Protection::none;
         };
@@ -108,6 +114,10 @@ constexpr Row kWhatIf[] = {
     {"would emptying the trash get me 100 MB", "No. Emptying the Trash would free 6 MB"},
     {"would clearing the npm and gradle caches free 10 MB", "Yes.|10 MB more (3 items)"},
     {"how much would I free if I empty the trash", "Emptying the Trash would free 6 MB (1 item)", "Without"},
+    {"what if i emptied the trash", "Emptying the Trash would free 6 MB (1 item)", "tick"},
+    {"how much would I free by deleting the gimp cache", "2 MB more (1 item)|gimp/cache/c.bin", "protected"},
+    {"is the gimp cache safe to delete", "In it the last scan lists 1 item, 2 MB|gimp/cache/c.bin"},
+    {"is the downloads cache safe", "no cache of “downloads”", "mint"},
     {"how much do I gain by clearing the npm, yarn and gradle caches",
      "Without the npm and Yarn caches and Gradle caches|10 MB more (3 items", "13 MB"},
     {"how much do i get if i include review",

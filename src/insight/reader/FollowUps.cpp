@@ -26,6 +26,11 @@ constexpr std::size_t kTold = 6;
 constexpr SenseSet kOrderings{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kNames{subject, unknown, quoted};
 
+bool isAfterInside(const Phrases& phrases, std::size_t i)
+{
+    return i > 0 && phrases[i - 1].sense == inside;
+}
+
 /// Why what was listed is rated as it is, or why the disk is as it is.
 std::optional<Reply> reasons(const Question& question, const AskContext& context,
                              const Conversation::Said& before)
@@ -90,12 +95,24 @@ std::optional<Reply> onSame(const Question& question, const AskContext& context,
         std::optional<Answer> answer = replyByRule(use, context);
         return replyTo(std::move(use), std::move(answer));
     }
+    // "How many duplicate videos are there and how much do they take": the sum says it, of one as of many.
+    constexpr SenseSet kAmounts{howBig, howMuch, takes, space, used, total};
+    const bool isSum = before.question.senses.meets({howMany}) && before.question.senses.has(subject) &&
+                       question.senses.isWithin(kAmounts.with({general, what}));
+    if (before.paths.size() == 1 && isSum)
+        return replyTo(before.question, replyByRule(before.question, context));
     if (before.paths.size() == 1)
         return onPath(question, context, before.paths.front());
     // "How many PDFs are older than two years", "and how much do they take".
     constexpr SenseSet kConditions{size, period, inside, unopened, ending, except};
     const SenseSet& said = before.question.senses;
-    const bool hasConditions = said.has(subject) && said.meets(kConditions) && !said.meets({unknown, quoted});
+    const Phrases& asked = before.question.phrases;
+    const auto isOtherName = [&](const Phrase& phrase) {
+        const auto i = static_cast<std::size_t>(&phrase - asked.data());
+        return (phrase.sense == unknown || phrase.sense == quoted) && !isAfterInside(asked, i);
+    };
+    const bool hasConditions =
+        said.has(subject) && said.meets(kConditions) && std::ranges::none_of(asked, isOtherName);
     if (before.paths.size() > 1 || (before.findingIDs.empty() && hasConditions))
         return onThem(question, context, before);
     // "What can I safely delete", "how much is that"
@@ -128,11 +145,6 @@ struct Slot {
     SenseSet senses;
     bool isAfterInside = false;
 };
-
-bool isAfterInside(const Phrases& phrases, std::size_t i)
-{
-    return i > 0 && phrases[i - 1].sense == inside;
-}
 
 /// Which part of the question before gives way to this phrase.
 Slot slotOf(const Phrases& phrases, std::size_t i, bool hadPlace)

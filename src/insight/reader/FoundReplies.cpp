@@ -99,19 +99,6 @@ void addLink(std::vector<std::string>& ids, const Finding& finding)
         ids.emplace_back(finding.id());
 }
 
-/// One line of several things with one name.
-Message measuredLine(const Measured& each, const AskContext& context)
-{
-    const Place bytes{"size", Bytes{each.bytes}};
-    Message line = each.changed
-                       ? Message{InsightTexts::kFileUnrated,
-                                 {{"path", tilde(each.path)}, bytes, {"date", Moment{*each.changed}}}}
-                       : Message{InsightTexts::kDownload, {{"name", tilde(each.path)}, bytes}};
-    if (protectionOf(context, each.path) == Protection::none)
-        return line;
-    return {InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}};
-}
-
 Answer listedAll(const AskContext& context, const Found& found, std::string_view name)
 {
     const auto count = std::ssize(found.hits) + std::ssize(found.measured);
@@ -145,11 +132,11 @@ Message sizeAndPlace(const Measured& one)
 }
 
 /// What of a folder the last scan lists, the largest items by name; empty if nothing.
-Message listedInside(const Measured& folder, const AskContext& context, Answer& answer)
+Message listedInside(std::string_view folder, const AskContext& context, Answer& answer)
 {
     std::int64_t bytes = 0;
     std::int64_t safe = 0;
-    std::vector<Hit> hits = hitsBelow(folder.path, context);
+    std::vector<Hit> hits = hitsBelow(folder, context);
     for (const Hit& hit : hits) {
         bytes = checkedAdd(bytes, hit.entry->size);
         if (hit.finding->effectiveRating(*hit.entry) == Rating::safe)
@@ -168,10 +155,25 @@ Message listedInside(const Measured& folder, const AskContext& context, Answer& 
     return AskText::lines(std::move(lines));
 }
 
+/// One line of several things with one name; of what is protected, what in it may go.
+Message measuredLine(const Measured& each, const AskContext& context, Answer& answer)
+{
+    const Place bytes{"size", Bytes{each.bytes}};
+    Message line = each.changed
+                       ? Message{InsightTexts::kFileUnrated,
+                                 {{"path", tilde(each.path)}, bytes, {"date", Moment{*each.changed}}}}
+                       : Message{InsightTexts::kDownload, {{"name", tilde(each.path)}, bytes}};
+    if (protectionOf(context, each.path) == Protection::none)
+        return line;
+    if (Message inside = listedInside(each.path, context, answer); !inside.empty())
+        return AskText::lines({std::move(line), std::move(inside)});
+    return {InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}};
+}
+
 /// Whether it may go, of something that no finding lists itself.
 Message verdict(const Measured& one, const Question& question, const AskContext& context, Answer& answer)
 {
-    Message inside = one.kind == Measured::Kind::file ? Message() : listedInside(one, context, answer);
+    Message inside = one.kind == Measured::Kind::file ? Message() : listedInside(one.path, context, answer);
     if (const Protection protection = protectionOf(context, one.path); protection != Protection::none)
         return AskText::sentences({itIsProtected(protection), std::move(inside)});
     if (storesPasswords(one.path))
@@ -214,6 +216,9 @@ Answer protectedPlace(std::string_view path, Protection protection)
             {std::string(path)}};
 }
 
+namespace {
+
+/// A protected place, with its size if the question asks for it.
 Answer measuredPlace(const Question& question, const AskContext& context, std::string_view path)
 {
     constexpr SenseSet kOfSize{Sense::howBig, Sense::howMuch, Sense::takes, Sense::space};
@@ -237,6 +242,15 @@ Answer measuredPlace(const Question& question, const AskContext& context, std::s
     return answer;
 }
 
+} // namespace
+
+Answer guardedPlace(const Question& question, const AskContext& context, std::string_view path)
+{
+    Answer answer = measuredPlace(question, context, path);
+    answer.text = AskText::sentences({std::move(answer.text), listedInside(path, context, answer)});
+    return answer;
+}
+
 Answer listedBelow(Message heading, const AskContext& context, const Found& found)
 {
     const auto hits = std::span(found.hits).first(std::min(found.hits.size(), kListed));
@@ -245,19 +259,44 @@ Answer listedBelow(Message heading, const AskContext& context, const Found& foun
     const auto count = std::ssize(found.hits) + std::ssize(found.measured);
     std::vector<Message> lines{std::move(heading)};
     std::ranges::transform(hits, std::back_inserter(lines), itemLine);
+    Answer answer;
+    for (const Hit& hit : hits)
+        addLink(answer.findingIDs, *hit.finding);
     std::ranges::transform(others, std::back_inserter(lines),
-                           [&](const Measured& each) { return measuredLine(each, context); });
+                           [&](const Measured& each) { return measuredLine(each, context, answer); });
     if (const auto more = count - std::ssize(hits) - std::ssize(others); more > 0)
         lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
-    if (!hits.empty())
+    if (!answer.findingIDs.empty())
         lines.emplace_back(InsightTexts::kMovesTicked);
-    Answer answer{AskText::lines(std::move(lines)), {}};
+    answer.text = AskText::lines(std::move(lines));
     for (const Hit& hit : hits) {
-        addLink(answer.findingIDs, *hit.finding);
         answer.paths.push_back(hit.entry->path);
     }
     for (const Measured& each : others)
         answer.paths.push_back(each.path);
+    return answer;
+}
+
+Answer judgedBelow(Message heading, const Question& question, const AskContext& context, const Found& found)
+{
+    std::vector<Message> lines{std::move(heading)};
+    Answer answer;
+    for (const Hit& hit : std::span(found.hits).first(std::min(found.hits.size(), kListed))) {
+        lines.push_back(itemLine(hit));
+        addLink(answer.findingIDs, *hit.finding);
+        answer.paths.push_back(hit.entry->path);
+    }
+    const std::size_t left = kListed - answer.paths.size();
+    for (const Measured& each : std::span(found.measured).first(std::min(found.measured.size(), left))) {
+        lines.push_back(AskText::sentences({sizeAndPlace(each), verdict(each, question, context, answer)}));
+        answer.paths.push_back(each.path);
+    }
+    const auto more = std::ssize(found.hits) + std::ssize(found.measured) - std::ssize(answer.paths);
+    if (more > 0)
+        lines.push_back({InsightTexts::kMoreFit, {{"count", more}}});
+    if (!answer.findingIDs.empty())
+        lines.emplace_back(InsightTexts::kMovesTicked);
+    answer.text = AskText::lines(std::move(lines));
     return answer;
 }
 

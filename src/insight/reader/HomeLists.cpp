@@ -143,6 +143,11 @@ private:
         return name.starts_with(".Trash-") || (name == "Trash" && !m_home.folder(folder).isOwn);
     }
 
+    [[nodiscard]] bool isOfInstallers() const
+    {
+        return m_request.subject != nullptr && m_request.subject->id == SubjectID::installers;
+    }
+
     [[nodiscard]] bool isLeftOut(Number folder) const
     {
         return !m_request.exclusions.empty() && m_request.exclusions.leaveOut(m_home.folderPath(folder));
@@ -173,6 +178,8 @@ private:
         if (m_request.recognised != nullptr && !isNamedLike(*m_request.recognised, file.name) &&
             !isListed(number, file.name))
             return;
+        if (isOfInstallers() && isInstalledImage(m_home.filePath(number)))
+            return;
         if (m_request.exclusions.empty() || !m_request.exclusions.leaveOutFile(m_home.filePath(number)))
             take(number, file.bytes);
     }
@@ -189,6 +196,10 @@ private:
 
     [[nodiscard]] bool isBefore(const HomeFiles::File& a, const HomeFiles::File& b, bool isFirst) const
     {
+        const bool isByDate = m_request.order == Order::oldest || m_request.order == Order::newest;
+        // What programs write all day is not what somebody means by the newest, though it counts.
+        if (isByDate && a.isOwn != b.isOwn && m_home.folder(m_place).isOwn)
+            return a.isOwn;
         const bool isByOpening = m_request.openedTo != TimePoint::max();
         const TimePoint dateA = isByOpening ? a.opened : a.changed;
         const TimePoint dateB = isByOpening ? b.opened : b.changed;

@@ -218,7 +218,10 @@ std::optional<Answer> listOfFiles(const Question& question, const AskContext& co
     sortFirst(hits, request->order, shown);
     hits.resize(shown);
     const Message sum{InsightTexts::kFilesListed, {files, {"count", count}, {"size", Bytes{bytes}}}};
-    std::vector<Message> lines{request->exclusions.said(),
+    // "Duplicate videos": the sum names the videos only.
+    const bool isOneKind = request->listedAs != nullptr && request->listedAs->kinds.size() == 1;
+    const Message kind = isOneKind ? meta(request->listedAs->kinds.front()).explanation : Text();
+    std::vector<Message> lines{request->exclusions.said(), kind,
                                AskText::sentences({sum, heading(request->order)})};
     Answer answer;
     for (const Hit& hit : hits) {

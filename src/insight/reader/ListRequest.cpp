@@ -107,20 +107,16 @@ bool asksForOne(const Question& question)
            });
 }
 
-/// Of some kinds, programs and the system have many files that nobody means.
-bool isOfOwnFiles(const Question& question, const ListRequest& request)
+/// Of some kinds, programs and the system have many files that nobody means. Of files of every kind, all
+/// count, in whatever order they are listed.
+bool isOfOwnFiles(const ListRequest& request)
 {
     using enum SubjectID;
     constexpr SubjectID kKinds[] = {videos,       photos,        rawPhotos, audio,     pdfs,
                                     spreadsheets, presentations, ebooks,    documents, textDocuments};
-    const bool isBySize = question.senses.meets({Sense::biggest, Sense::smallest}) &&
-                          (request.order == Order::biggest || request.order == Order::smallest);
-    const bool isByDate = request.order == Order::newest || request.order == Order::oldest ||
-                          request.changedFrom != TimePoint::min() || request.changedTo != TimePoint::max() ||
-                          request.openedTo != TimePoint::max();
     const bool isOfKind = request.subject != nullptr && request.ending.empty() &&
                           std::ranges::find(kKinds, request.subject->id) != std::end(kKinds);
-    return !request.isHiddenOnly && ((isByDate && !isBySize) || isOfKind);
+    return !request.isHiddenOnly && isOfKind;
 }
 
 /// "Safe files", "everything rated Keep". False if a rating is named in another way.
@@ -208,7 +204,7 @@ std::optional<ListRequest> listRequestIn(const Question& question, const AskCont
         !request.exclusions.needsFindings())
         takeRecognised(request, context);
     request.isOfScan = isOfScan(question, request);
-    request.isOwnOnly = isOfOwnFiles(question, request);
+    request.isOwnOnly = isOfOwnFiles(request);
     if (const Phrase* const number = question.first(Sense::number))
         request.count = std::min(number->amount, kMostShown);
     else if (asksForOne(question))

@@ -132,9 +132,9 @@ Answer aboutFound(const Question& question, const AskContext& context, const Fou
 }
 
 /// What was found, after the word that something else of that name is protected.
-Answer shielded(std::string_view guarded, const AskContext& context, Answer answer)
+Answer shielded(const Question& question, const AskContext& context, std::string_view guarded, Answer answer)
 {
-    Answer all = protectedPlace(guarded, protectionOf(context, guarded));
+    Answer all = guardedPlace(question, context, guarded);
     all.text = AskText::lines({std::move(all.text), std::move(answer.text)});
     all.findingIDs = std::move(answer.findingIDs);
     std::ranges::move(answer.paths, std::back_inserter(all.paths));
@@ -205,7 +205,7 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
         narrow(found, folder);
         const bool isThere = !found.hits.empty() || !found.measured.empty() || !found.trashed.empty();
         if (!isThere && PathText::extension(name).empty() && holdsSecrets(protectionOf(context, folder)))
-            return measuredPlace(question, context, folder);
+            return guardedPlace(question, context, folder);
         if (!isThere)
             return Answer{Message{InsightTexts::kNotThere,
                                   {{"name", PathText::forDisplay(name)}, {"folder", tilde(folder)}}},
@@ -224,18 +224,18 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
     }
     const bool isSure = found.fit >= Fit::stem && isSureOf(found, question, asked);
     if (!isSure && !isNarrowed) {
-        if (std::optional<Answer> app = aboutApp(context, name))
+        if (std::optional<Answer> app = aboutApp(context, name, toldOf(question)))
             return app;
     }
     if (!guarded.empty() && (found.fit < Fit::whole || !isSure || isOfMail(question)))
-        return measuredPlace(question, context, guarded);
+        return guardedPlace(question, context, guarded);
     if (found.fit < Fit::stem && found.measured.empty() && !isFileName(question, name) &&
         !mayBePartOfName(question))
         return std::nullopt;
     if (!found.hits.empty()) {
         Answer listed = listedHits(context, found, PathText::forDisplay(name));
         const bool isOther = !guarded.empty() && !isNarrowed && pathIn(name).empty() && place.empty();
-        return isOther ? shielded(guarded, context, std::move(listed)) : std::move(listed);
+        return isOther ? shielded(question, context, guarded, std::move(listed)) : std::move(listed);
     }
     if (!found.measured.empty())
         return measuredOnly(question, context, found, PathText::forDisplay(name));

@@ -42,8 +42,11 @@ Answer present(const Question& question, const AskContext& context, const Progra
     if (count > 1) {
         const Text& text =
             program.part == PlacePart::caches ? InsightTexts::kCachesOf : InsightTexts::kPlacesOf;
-        return listedBelow({text, {{"name", name}, {"count", count}, {"size", Bytes{bytesOf(found)}}}},
-                           context, found);
+        Message heading{text, {{"name", name}, {"count", count}, {"size", Bytes{bytesOf(found)}}}};
+        const bool asksVerdict =
+            question.senses.meets({Sense::remove, Sense::safe, Sense::keep, Sense::cleanUp});
+        return asksVerdict ? judgedBelow(std::move(heading), question, context, found)
+                           : listedBelow(std::move(heading), context, found);
     }
     Answer answer =
         found.hits.empty() ? measuredOnly(question, context, found, name) : listedHits(context, found, name);
@@ -139,7 +142,7 @@ std::optional<Answer> aboutPlaces(const Question& question, const AskContext& co
         return std::nullopt;
     Answer answer;
     std::vector<Message> lines;
-    std::optional<Answer> app = isAll ? aboutApp(context, program.name) : std::nullopt;
+    std::optional<Answer> app = isAll ? aboutApp(context, program.name, toldOf(question)) : std::nullopt;
     // What the application has stored is part of its size.
     const bool isSaid = app && found.hits.size() + found.measured.size() <= 1;
     if (isSaid && (!isOfTrash || found.trashed.empty()))

@@ -64,7 +64,9 @@ struct AppRequest {
 
     [[nodiscard]] bool admits(const KnownApp& app) const
     {
-        return (!source || app.source == *source) && (!over || (app.bytes && *app.bytes > *over)) &&
+        // Of what is not installed any more, only data is there.
+        const bool isMeant = source ? app.source == *source : app.source != KnownApp::Source::removed;
+        return isMeant && (!over || (app.bytes && *app.bytes > *over)) &&
                (!under || (app.bytes && *app.bytes < *under));
     }
 };
@@ -136,7 +138,7 @@ std::optional<Answer> apps(const Question& question, const AskContext& context)
             return std::nullopt;
         const bool isListed = request->over || request->under || request->isSmallest;
         if (context.apps && !isListed)
-            lines.push_back(countOf(*context.apps));
+            lines.push_back(countOf(fitting({}, context)));
         if (const auto size = sizeOfSubject(question, context); size && !isListed)
             lines.push_back(size->text);
         lines.push_back(listedApps(*request, context));
@@ -204,12 +206,14 @@ Answer leftovers(const AskContext& context)
     return {AskText::lines(std::move(lines)), {}};
 }
 
-Answer described(const KnownApp& app)
+Answer described(const KnownApp& app, Told told)
 {
     const Place name{"name", PathText::forDisplay(app.name)};
     const Message size = app.bytes ? Message{InsightTexts::kAppTakes, {name, {"size", Bytes{*app.bytes}}}}
                                    : Message{InsightTexts::kAppUnmeasured, {name}};
-    const Message removal = app.advice.empty() ? Message{InsightTexts::kAppRemoval} : app.advice;
+    const Message removal = told == Told::size   ? Message()
+                            : app.advice.empty() ? Message{InsightTexts::kAppRemoval}
+                                                 : app.advice;
     const Message use = app.lastUse && app.isUseNoted
                             ? Message{InsightTexts::kAppUsedOn, {{"date", dayOf(*app.lastUse)}}}
                             : Message();
@@ -291,10 +295,18 @@ const KnownApp* appCalled(const AskContext& context, std::string_view name)
     return found == context.apps->end() ? nullptr : &*found;
 }
 
-std::optional<Answer> aboutApp(const AskContext& context, std::string_view name)
+Told toldOf(const Question& question)
+{
+    constexpr SenseSet kOfSize{Sense::howBig, Sense::howMuch, Sense::takes, Sense::space};
+    constexpr SenseSet kOfRemoval{Sense::remove, Sense::uninstall, Sense::safe,    Sense::keep,
+                                  Sense::can,    Sense::makeRoom,  Sense::cleanUp, Sense::what};
+    return question.senses.meets(kOfSize) && !question.senses.meets(kOfRemoval) ? Told::size : Told::removal;
+}
+
+std::optional<Answer> aboutApp(const AskContext& context, std::string_view name, Told told)
 {
     const KnownApp* const found = appCalled(context, name);
-    return found == nullptr ? std::nullopt : std::optional(described(*found));
+    return found == nullptr ? std::nullopt : std::optional(described(*found, told));
 }
 
 std::optional<Answer> uninstalling(const Question& question, const AskContext& context)

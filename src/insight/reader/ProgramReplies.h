@@ -22,7 +22,14 @@ namespace orlen::AskReader {
 /// The application of this name, or with it among the words of its name; null if there is none.
 [[nodiscard]] const KnownApp* appCalled(const AskContext& context, std::string_view name);
 
-/// The size of an application, and how to remove it; nothing if none is known by this name.
-[[nodiscard]] std::optional<Answer> aboutApp(const AskContext& context, std::string_view name);
+/// What to tell of an application.
+enum class Told { size, removal };
+
+/// Nobody who asks for a size wants to know how to remove it.
+[[nodiscard]] Told toldOf(const Question& question);
+
+/// The size of an application, and perhaps how to remove it; nothing if none is known by this name.
+[[nodiscard]] std::optional<Answer> aboutApp(const AskContext& context, std::string_view name,
+                                             Told told = Told::removal);
 
 } // namespace orlen::AskReader

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <map>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -37,6 +38,30 @@ void dropRatedOtherwise(const AskContext& context, Rating rating, std::vector<Hi
     });
 }
 
+/// Drops what is kept of files with copies that are to go: both never go together.
+void dropKept(const AskContext& context, std::vector<Hit>& hits)
+{
+    std::unordered_map<std::string_view, std::string_view> keptOf;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (entry.kept)
+                keptOf.try_emplace(entry.path, entry.kept->path);
+        }
+    }
+    const auto overlaps = context.names->overlapsOf(context.findings);
+    Paths kept;
+    for (const Hit& hit : hits) {
+        // Another finding may list the copy, too.
+        const bool mayBeCopy =
+            hit.entry->kept || overlaps->isShared(context.findings, *hit.finding, *hit.entry);
+        const auto copy = mayBeCopy ? keptOf.find(hit.entry->path) : keptOf.end();
+        if (copy != keptOf.end())
+            kept.insert(copy->second);
+    }
+    if (!kept.empty())
+        std::erase_if(hits, [&](const Hit& hit) { return kept.contains(hit.entry->path); });
+}
+
 /// Drops what lies in a folder that is among them: the folder takes it along.
 void dropInside(const AskContext& context, std::vector<Hit>& hits)
 {
@@ -64,12 +89,14 @@ void dropInside(const AskContext& context, std::vector<Hit>& hits)
 
 } // namespace
 
-std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions)
+std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclusions& exclusions,
+                           const Paths* among)
 {
     std::vector<Hit> hits;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
             if (finding.effectiveRating(entry) == rating && mayBeChosen(context, finding, entry) &&
+                (among == nullptr || among->contains(entry.path)) &&
                 (exclusions.empty() || !exclusions.leaveOut(finding, entry)))
                 hits.push_back({&finding, &entry});
         }
@@ -82,8 +109,22 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
     hits.erase(std::unique(hits.begin(), hits.end(),
                            [](const Hit& a, const Hit& b) { return a.entry->path == b.entry->path; }),
                hits.end());
+    dropKept(context, hits);
     dropInside(context, hits);
     return hits;
+}
+
+void dropCopiesOf(const AskContext& context, const std::vector<Hit>& going, std::vector<Hit>& hits)
+{
+    const Paths kept = pathsOf(going);
+    Paths copies;
+    for (const Finding& finding : context.findings) {
+        for (const FileEntry& entry : finding.items) {
+            if (entry.kept && kept.contains(entry.kept->path))
+                copies.insert(entry.path);
+        }
+    }
+    std::erase_if(hits, [&](const Hit& hit) { return copies.contains(hit.entry->path); });
 }
 
 std::vector<Hit> reaching(std::vector<Hit> hits, std::int64_t wanted)

@@ -32,9 +32,11 @@ bool isPersonal(const Hit& hit)
 }
 
 /// Of what is rated Review, downloads, caches and the like first.
-std::vector<Hit> reviewed(const AskContext& context, std::int64_t wanted, const Exclusions& exclusions)
+std::vector<Hit> reviewed(const AskContext& context, std::int64_t wanted, const Exclusions& exclusions,
+                          const std::vector<Hit>& safe)
 {
     std::vector<Hit> hits = choosable(context, Rating::review, exclusions);
+    dropCopiesOf(context, safe, hits);
     std::vector<Hit> personal;
     std::ranges::copy_if(hits, std::back_inserter(personal), isPersonal);
     std::erase_if(hits, isPersonal);
@@ -62,7 +64,7 @@ std::vector<Message> proposal(const AskContext& context, std::int64_t wanted, co
     else
         said.push_back({InsightTexts::kAllSafe,
                         {{"size", Bytes{safeBytes}}, {"findings", listed(partsOf(safe), kNamed, answer)}}});
-    const std::vector<Hit> rest = reviewed(context, wanted - safeBytes, exclusions);
+    const std::vector<Hit> rest = reviewed(context, wanted - safeBytes, exclusions, safe);
     appendPaths(answer.proposal, rest);
     if (!rest.empty())
         said.push_back(

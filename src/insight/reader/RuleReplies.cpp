@@ -7,6 +7,7 @@
 #include "insight/InsightTextsWhatIf.h"
 #include "insight/reader/HistoryReplies.h"
 #include "insight/reader/SubjectReplies.h"
+#include "insight/reader/WhatIfReplies.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -116,7 +117,7 @@ std::optional<Answer> whatCounts(const Question& question, const AskContext& con
         {}};
 }
 
-std::optional<Answer> whatHappens(const Question& question, const AskContext& /*context*/)
+std::optional<Answer> whatHappens(const Question& question, const AskContext& context)
 {
     const auto isOfKind = [](const Phrase& phrase) {
         const Subject* const subject = phrase.subject;
@@ -125,6 +126,14 @@ std::optional<Answer> whatHappens(const Question& question, const AskContext& /*
     };
     if (std::ranges::any_of(question.phrases, isOfKind))
         return std::nullopt;
+    // "What if I empty the trash": what would be free then.
+    const bool isOfTrash = question.senses.has(Sense::remove) && question.count(Sense::subject) == 1 &&
+                           question.subject()->id == SubjectID::trash &&
+                           !question.senses.meets({Sense::when, Sense::undo});
+    if (std::optional<Answer> emptied = isOfTrash ? freedByThem(question, context) : std::nullopt) {
+        emptied->text = AskText::lines({std::move(emptied->text), InsightTexts::kUntilTrashIsEmptied});
+        return emptied;
+    }
     return Answer{AskText::sentences({InsightTexts::kMovesTicked, InsightTexts::kUntilTrashIsEmptied,
                                       InsightTexts::kNothingMovesYet}),
                   {}};

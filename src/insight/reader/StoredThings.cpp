@@ -143,7 +143,7 @@ Message withRating(Message line, std::string_view path, const Hit& hit, const As
                  {"title", within(hit.finding->title)},
                  {"rating", within(label(hit.finding->effectiveRating(*hit.entry)))}}};
     const bool isProtected = context.protection && context.protection(path) != Protection::none;
-    if (!isProtected)
+    if (!isProtected || !hitsBelow(path, context).empty())
         return line;
     return {InsightTexts::kProtectedLine, {{"line", within(std::move(line))}}};
 }

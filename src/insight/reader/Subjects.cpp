@@ -263,8 +263,28 @@ bool isListedAs(const Subject& subject, FindingKind kind)
            std::ranges::find(subject.kinds, kind) != subject.kinds.end();
 }
 
+bool isInstalledImage(std::string_view path)
+{
+    constexpr std::string_view kFolders[] = {"{H}/Applications",
+                                             "{H}/AppImages",
+                                             "{H}/.local/bin",
+                                             "{H}/.local/opt",
+                                             "{H}/bin",
+                                             "{H}/opt",
+                                             "{H}/.local/share/applications"};
+    if (PathText::asciiLower(PathText::extension(path)) != "appimage")
+        return false;
+    return std::ranges::any_of(kFolders, [&](std::string_view pattern) {
+        const std::vector<std::string> folders = Places::current().expand(pattern);
+        return std::ranges::any_of(
+            folders, [&](const std::string& folder) { return PathText::isAtOrBelow(path, folder); });
+    });
+}
+
 bool hasExtensionOf(const Subject& subject, std::string_view path)
 {
+    if (subject.id == SubjectID::installers && isInstalledImage(path))
+        return false;
     const std::string extension = PathText::asciiLower(PathText::extension(path));
     const std::string_view all = subject.extensions;
     if (extension.empty() || extension.find(' ') != std::string::npos)

@@ -105,6 +105,9 @@ struct Subject {
 /// too.
 [[nodiscard]] bool isListedAs(const Subject& subject, FindingKind kind);
 
+/// Whether it is an AppImage in a folder for applications: that is the application, and no installer.
+[[nodiscard]] bool isInstalledImage(std::string_view path);
+
 /// Whether a file of this name is of the subject's kind.
 [[nodiscard]] bool hasExtensionOf(const Subject& subject, std::string_view path);
 

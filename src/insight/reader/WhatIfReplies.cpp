@@ -215,13 +215,11 @@ std::optional<Answer> freedBySubject(const Question& question, const AskContext&
         lines.pop_back();
     lines.push_back(freeWithout(bytesOf(hits), context));
     answer.text = AskText::lines(std::move(lines));
-    for (const Rating rating : {Rating::safe, Rating::review}) {
-        std::vector<Hit> chosen = choosable(context, rating, *exclusions);
-        std::erase_if(chosen, [&](const Hit& hit) {
-            return std::ranges::find(answer.findingIDs, hit.finding->id()) == answer.findingIDs.end();
-        });
-        appendPaths(answer.proposal, chosen);
-    }
+    Paths paths;
+    for (const Hit& hit : hits)
+        paths.insert(hit.entry->path);
+    for (const Rating rating : {Rating::safe, Rating::review})
+        appendPaths(answer.proposal, choosable(context, rating, *exclusions, &paths));
     return answer;
 }
 

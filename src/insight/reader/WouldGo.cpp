@@ -10,6 +10,7 @@
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NamedKinds.h"
 #include "insight/reader/NamedParts.h"
+#include "insight/reader/PathHits.h"
 #include "insight/reader/Proposal.h"
 #include "insight/reader/SubjectReplies.h"
 #include "platform/text/PathText.h"
@@ -32,11 +33,18 @@ bool isName(const Phrase& phrase)
 
 constexpr SenseSet kRatings{Sense::safe, Sense::review, Sense::keep};
 
-/// What no clean-up takes is no gain: that it is protected is said instead.
+/// What no clean-up takes is no gain: that it is protected is said instead, if nothing in it may go.
 void addMeasured(Measured measured, const AskContext& context, Things& things)
 {
     const Protection protection = protectionOf(context, measured.path);
     if (protection != Protection::none) {
+        const std::vector<Hit> inside = hitsBelow(measured.path, context);
+        for (const Hit& hit : inside)
+            things.add(hit);
+        if (!inside.empty()) {
+            things.addName(Message::verbatim(tilde(measured.path)));
+            return;
+        }
         things.notes.push_back(protectedPlace(measured.path, protection).text);
         return;
     }
@@ -236,7 +244,13 @@ std::vector<std::vector<Phrase>> groupsIn(const Question& question)
 
 bool addGroup(const Question& group, const AskContext& context, Things& things)
 {
-    if (std::ranges::any_of(group.phrases, isName))
+    const auto isPlace = [&](const Phrase& each) {
+        return &each != group.phrases.data() && std::prev(&each)->sense == Sense::inside;
+    };
+    const bool isNamed = std::ranges::any_of(
+        group.phrases, [&](const Phrase& each) { return isName(each) && !isPlace(each); });
+    const bool isKind = group.senses.meets({Sense::subject, Sense::ending});
+    if (isNamed || (!isKind && std::ranges::any_of(group.phrases, isName)))
         return addNamed(group, context, things);
     if (group.senses.meets(kRatings))
         return addRated(group, context, things);

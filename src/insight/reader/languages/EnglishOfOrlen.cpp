@@ -5,6 +5,18 @@ namespace orlen::AskReader::english_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    // Past clean-ups: "where is the stuff you removed", "where did my files go".
+    {Sense::remove,
+     "(if|when|before|after|unless) (you|orlen) (removed|deleted|cleaned|cleared|moved|erased)"},
+    {Sense::freed,
+     "(you|orlen|this app|this program|you've|you have|orlen has) (removed|deleted|erased|trashed|cleaned|"
+     "cleared|moved|binned|tidied|cleaned up|cleaned out|cleared out|thrown away|threw away|thrown out|threw "
+     "out|took away|taken away|got rid of|gotten rid of|tidied up|tidied away),"
+     "(files|stuff|things|everything|items|those|ones) (that|which|) (i|we) (removed|deleted|trashed|cleaned|"
+     "cleared|cleaned up)"},
+    {Sense::undo,
+     "where (did|have|has) (all|) (my|the|those|these|) (files|stuff|things|items|data|everything) (go|gone),"
+     "(what|whatever) happened to (my|the|those|all my|) (files|stuff|things|items|data)"},
     {Sense::reads,
      "(do|does|will) (you|orlen|it|this app) (ever|) (look|peek|go|dig|snoop) (into|inside|through)"},
     {Sense::filler, "or is it something else,or something else,or is it other things"},

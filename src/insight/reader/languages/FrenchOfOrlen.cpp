@@ -12,6 +12,10 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::outside, "hors (de|du|des),en dehors (de|du|des)"},
     {Sense::filler, "j ai prises,j ai pris,photographiées,que j ai filmées,que j ai filmés"},
     {Sense::unknown, "navigateur"},
+    {Sense::freed, "(que|qu|) (tu as|tu a|t as|orlen a|as tu|a t il|vous avez) (tout|) "
+                   "(supprimé|supprimés|supprimées|effacé|effacés|"
+                   "enlevé|enlevés|retiré|retirés|jeté|jetés|nettoyé|nettoyés|déplacé|déplacés|viré|virés)"},
+    {Sense::undo, "où sont passés (mes|les|tous mes) (fichiers|trucs|documents)"},
     {Sense::rhythm, "à quelle fréquence,tous les combien,combien de fois (dois je|faut il|devrais je)"},
     {Sense::rights,
      "droits (d administrateur|administrateur|admin|d admin|root),administrateur,admin,root,sudo,"

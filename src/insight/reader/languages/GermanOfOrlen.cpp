@@ -11,6 +11,14 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::privacy, "(schickst|sendest|überträgst|übermittelst|verschickst|funkst) du,nach hause "
                      "(telefonieren|telefoniert)"},
     {Sense::advise, "vorgeschlagen,vorgeschlagene"},
+    {Sense::freed,
+     "(die|was|das|den|) (du|orlen) "
+     "(gelöscht|entfernt|weggeräumt|aufgeräumt|bereinigt|verschoben|weggeworfen|geleert) (hast|hat|"
+     "hattest|hatte),(hast|hat) (du|orlen) (alles|) (gelöscht|entfernt|weggeräumt|aufgeräumt|bereinigt|"
+     "verschoben|weggeworfen)"},
+    {Sense::undo, "wo sind (meine|die|all meine) (dateien|sachen|daten) "
+                  "(hin|geblieben|hingekommen|hingegangen),was ist mit "
+                  "(meinen|den) (dateien|sachen|daten) passiert"},
     {Sense::what, "(wozu|wofür|für was) (dient|ist|brauche ich|braucht man|sind|dienen)"},
     {Sense::unknown, "browser"},
     {Sense::filler, "aufgenommen,geknipst,fotografiert,geschossen,gefilmt,aufgenommene"},

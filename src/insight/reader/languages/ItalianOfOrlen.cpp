@@ -14,6 +14,8 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::outside, "(al di |)fuori (di|da|del|della|dai|dalla|dalle|dei)"},
     {Sense::filler,
      "ho scattato,ho scattate,scattato,scattate,ho fatte,ho girato,abbiamo scattato,fotografate"},
+    {Sense::freed, "(hai|ha|avete) (cancellato|eliminato|rimosso|tolto|pulito|spostato|buttato|ripulito)"},
+    {Sense::undo, "dove sono (finiti|andati|finite) (i miei|tutti i miei|i|le mie) (file|documenti|cose)"},
     {Sense::rhythm,
      "ogni quanto (tempo|),(con che frequenza|con quale frequenza|quanto spesso) (devo|dovrei|conviene|"
      "bisogna|si deve)"},

@@ -14,6 +14,10 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::outside, "fuera (de|del|de la|de los|de las|de mis|de mi)"},
     {Sense::filler, "he hecho,hice,tomé,saqué,he tomado,he sacado,hemos hecho,tomadas,sacadas"},
     {Sense::unknown, "navegador"},
+    {Sense::freed, "(has|ha|habéis) (borrado|eliminado|quitado|limpiado|movido|tirado|suprimido),"
+                   "(borraste|eliminaste|quitaste|limpiaste|moviste|tiraste|borró orlen|eliminó orlen)"},
+    {Sense::undo, "(dónde|adónde) (fueron|han ido|se fueron) (a parar|) (mis|los) (archivos|cosas),"
+                  "(dónde|adónde) (fueron|han ido) a parar (mis|los) (archivos|ficheros)"},
     {Sense::rhythm, "cada cuánto (tiempo|),con qué frecuencia (debo|debería|tengo que|hay que|conviene),cada "
                     "cuántos (días|meses)"},
     {Sense::rights,
