@@ -5,6 +5,8 @@ namespace orlen::AskReader::english_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::gone, "lose,loses,(did|have|do|) (i|we) (suddenly|just|) (lose|lost),(am|are) (i|we) (suddenly|) "
+                  "losing,(did|has|have|) (gone missing|vanished|disappeared|vanish|disappear)"},
     {Sense::reads,
      "(do|does|will) (you|orlen|it|this app) (ever|) (look|peek|go|dig|snoop) (into|inside|through)"},
     {Sense::filler, "or is it something else,or something else,or is it other things"},
