@@ -104,6 +104,9 @@ inline constexpr Text kFolderNotGrown = message("Since {date} the folder {folder
 // TRANSLATORS: {first} and {last} are dates.
 inline constexpr Text kFolderNotGrownBetween =
     message("From {first} to {last} the folder {folder} did not grow.");
+// TRANSLATORS: {date} is that of the first scan; the answer to what grew in a time before it.
+inline constexpr Text kNoScanBefore =
+    message("No scan is from before {date}, so there is nothing to compare with yet.");
 inline constexpr Text kNothingToCompare =
     message("There are no two scans to compare yet. Each Smart Scan notes how big your folders are.");
 

@@ -138,13 +138,16 @@ constexpr Row kGrown[] = {
     {"what grew last month", "From 28 April 2026 to 31 May 2026|~/Videos: 49 GB|~/Downloads: 12 GB"},
     {"which folders have grown most since 2026-05-21", "Since 20 May 2026|19 GB"},
     {"what grew on my disk since 2026-06-01", "no two scans"},
-    {"what grew in 2025", "no two scans"},
+    {"what grew in 2025", "No scan is from before|28 April", "no two scans"},
     {"has Downloads become bigger since may", "Since 28 April 2026|~/Downloads has grown by 12 GB", "Videos"},
     {"how much did my videos folder grow", "~/Videos has grown by 9 GB", "cache"},
     {"what grew in Downloads since may", "~/Downloads: 12 GB more", "Videos"},
     {"what changed since the last scan", "Since 30 May 2026|~/Videos: 9 GB"},
     {"what has grown since May 20", "Since 28 April 2026|~/Videos: 49 GB"},
-    {"what grew since 2023", "no two scans", "28 April"},
+    {"what grew since 2023", "No scan is from before|Since 28 April 2026|~/Videos: 49 GB", "no two scans"},
+    {"is my home folder bigger than last month", "~/Videos: 49 GB"},
+    {"why did i suddenly lose 20 gb", "Since 30 May 2026|~/Videos: 9 GB"},
+    {"did I lose any photos", "", "grown"},
 };
 
 constexpr Row kLists[] = {

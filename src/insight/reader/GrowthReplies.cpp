@@ -139,33 +139,25 @@ std::optional<Answer> growthOf(const std::string& folder, const Compared& compar
                   {}};
 }
 
-} // namespace
-
-std::optional<Answer> whatGrew(const Question& question, const AskContext& context)
+/// What grew between two scans, in a folder if one is asked for.
+std::optional<Answer> grownIn(const std::string& folder, const Compared& compared, const Question& question)
 {
     constexpr std::size_t kNamed = 5;
-    const Phrase* const period = question.first(Sense::period);
-    const auto folder = folderIn(question, context);
-    if ((period != nullptr && period->period->from > context.now) || !folder)
-        return std::nullopt;
-    const auto compared = comparedIn(question, context);
-    if (!compared)
-        return Answer{InsightTexts::kNothingToCompare, {}};
-    if (!folder->empty() && !question.senses.has(Sense::inside))
-        return growthOf(*folder, *compared);
-    std::vector<Growth::Folder> grown = Growth::between(compared->pair).folders;
+    if (!folder.empty() && !question.senses.has(Sense::inside))
+        return growthOf(folder, compared);
+    std::vector<Growth::Folder> grown = Growth::between(compared.pair).folders;
     std::erase_if(grown, [&](const Growth::Folder& each) {
-        return !folder->empty() && !PathText::isAtOrBelow(each.path, *folder);
+        return !folder.empty() && !PathText::isAtOrBelow(each.path, folder);
     });
-    if (grown.empty() && !folder->empty())
-        return growthOf(*folder, *compared);
+    if (grown.empty() && !folder.empty())
+        return growthOf(folder, compared);
     if (grown.empty())
         return Answer{
-            Message{compared->isOver ? InsightTexts::kNothingGrewBetween : InsightTexts::kNothingGrew,
-                    compared->dates()},
+            Message{compared.isOver ? InsightTexts::kNothingGrewBetween : InsightTexts::kNothingGrew,
+                    compared.dates()},
             {}};
     std::vector<Message> lines{
-        {compared->isOver ? InsightTexts::kGrewBetween : InsightTexts::kGrewSince, compared->dates()}};
+        {compared.isOver ? InsightTexts::kGrewBetween : InsightTexts::kGrewSince, compared.dates()}};
     const Phrase* const number = question.first(Sense::number);
     const std::size_t most = number == nullptr ? kNamed : static_cast<std::size_t>(number->amount);
     for (std::size_t i = 0; i < std::min(grown.size(), most); ++i)
@@ -174,6 +166,34 @@ std::optional<Answer> whatGrew(const Question& question, const AskContext& conte
                           {"size", Bytes{grown[i].bytes()}},
                           {"now", Bytes{grown[i].now}}}});
     return Answer{AskText::lines(std::move(lines)), {}};
+}
+
+/// "What grew this week", with the first scan from today: that there is none so old, and what grew since.
+std::optional<Answer> sinceFirst(const std::string& folder, const Question& question,
+                                 const std::vector<FolderReading>& readings)
+{
+    const Phrase* const period = question.first(Sense::period);
+    if (readings.size() < 2 || period == nullptr || period->period->from >= readings.front().date)
+        return Answer{InsightTexts::kNothingToCompare, {}};
+    const TimePoint first = readings.front().date;
+    const Message none{InsightTexts::kNoScanBefore,
+                       {{"date", ReadingPair::start(first, readings.back().date)}}};
+    const auto pair = ReadingPair::over(readings, first);
+    const bool tellsMore = pair && pair->after.date - pair->before.date >= std::chrono::days(1);
+    const auto since = tellsMore ? grownIn(folder, {*pair, false, true}, question) : std::nullopt;
+    return Answer{since ? AskText::lines({none, since->text}) : none, {}};
+}
+
+} // namespace
+
+std::optional<Answer> whatGrew(const Question& question, const AskContext& context)
+{
+    const Phrase* const period = question.first(Sense::period);
+    const auto folder = folderIn(question, context);
+    if ((period != nullptr && period->period->from > context.now) || !folder)
+        return std::nullopt;
+    const auto compared = comparedIn(question, context);
+    return compared ? grownIn(*folder, *compared, question) : sinceFirst(*folder, question, context.folders);
 }
 
 } // namespace orlen::AskReader

@@ -2,6 +2,7 @@
 
 #include "insight/reader/AboutOrlen.h"
 #include "insight/reader/Deeds.h"
+#include "insight/reader/GrowthWords.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -338,6 +339,7 @@ Question merged(const Question& question)
         drop(phrases, Sense::self);
     const bool isEnglish = question.lexicon == Lexicon::all().data();
     mergeYet(phrases);
+    mergeGrowth(phrases);
     mergeOrders(phrases, isEnglish);
     mergeOfOrlen(phrases, *question.lexicon);
     dropAside(phrases);

@@ -55,6 +55,7 @@ enum class Sense : std::uint8_t {
     oldest,
     newest,
     grow,
+    gone, ///< "lost": of space, it was used up; of things, they are no longer there
     above,
     below,
     inside,

@@ -69,7 +69,8 @@ constexpr WordRow kMeasures[] = {
     {Sense::most,
      "most,the most,most space,most of,most room,most storage,most disk space,biggest "
      "chunk,fastest,quickest,most quickly,most rapidly,the fastest,the quickest,bulk of,lion's share,largest "
-     "share,main culprit,main culprits,culprit,culprits,worst offender,worst offenders,offenders,offender"},
+     "share,main culprit,main culprits,culprit,culprits,to blame,responsible,the culprit,worst "
+     "offender,worst offenders,offenders,offender"},
     {Sense::takes,
      "takes,taking,take,takes up,taking up,take up,hogging,hog,hogs,eating,eats,eat,eating "
      "up,using,uses,use,using up,uses up,use "

@@ -17,6 +17,8 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::undo,
      "where (did|have|has) (all|) (my|the|those|these|) (files|stuff|things|items|data|everything) (go|gone),"
      "(what|whatever) happened to (my|the|those|all my|) (files|stuff|things|items|data)"},
+    {Sense::gone, "lose,loses,(did|have|do|) (i|we) (suddenly|just|) (lose|lost),(am|are) (i|we) (suddenly|) "
+                  "losing,(did|has|have|) (gone missing|vanished|disappeared|vanish|disappear)"},
     {Sense::reads,
      "(do|does|will) (you|orlen|it|this app) (ever|) (look|peek|go|dig|snoop) (into|inside|through)"},
     {Sense::filler, "or is it something else,or something else,or is it other things"},

@@ -73,7 +73,8 @@ constexpr WordRow kMeasures[] = {
      "essentiel,principalement,le plus vite,plus vite,le plus rapidement,plus rapidement,en "
      "majorité,majoritairement,la majorité,majorité,le plus gourmand,les plus gourmands,plus gourmands,plus "
      "gourmandes,les plus gourmandes,le plus de mémoire,plus de place que les autres,le pire,les "
-     "pires,pire,principal coupable,coupable,coupables,responsable,responsables,le plus de stockage,en "
+     "pires,pire,principal coupable,coupable,coupables,en cause,fautif,fautifs,en est la "
+     "cause,responsable,responsables,le plus de stockage,en "
      "premier,surtout,davantage,le plus vite possible,le plus rapidement possible"},
     {Sense::takes,
      "prend,prennent,occupe,occupent,consomme,consomment,bouffe,bouffent,mange,mangent,utilisent,gaspille,"

@@ -5,6 +5,8 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::gone,
+     "perdu,perdus,perdue,ai je perdu,j ai perdu,je perds,disparu,disparus,disparaît,envolé,envolés,évaporé"},
     {Sense::happens,
      "sans (que je le sache|mon accord|me prévenir|confirmation),(préviens|demandes) tu (avant|)"},
     {Sense::filler, "quelque part,nulle part ailleurs"},

@@ -58,7 +58,9 @@ constexpr WordRow kMeasures[] = {
      "am meisten,meisten,meiste,die meisten,den meisten,den größten teil,das meiste,am "
      "meißten,hauptsächlich,am schnellsten,schnellsten,den meisten platz,den meisten "
      "speicher,hauptverursacher,übeltäter,schlimmsten,schlimmste,meisten platz,meisten speicher,meisten "
-     "speicherplatz,größten platzfresser,größten speicherfresser,größte platzfresser,hauptschuldige"},
+     "speicherplatz,größten platzfresser,größten speicherfresser,größte "
+     "platzfresser,hauptschuldige,schuld,schuld daran,schuldig,verantwortlich,verantwortlich "
+     "dafür,schuldige"},
     {Sense::takes,
      "braucht,brauchen,belegen,verbraucht so,verbrauchen,verbraucht,frisst,fressen,nimmt,nehmen,nimmt "
      "weg,einnehmen,belegt "

@@ -5,6 +5,8 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::gone,
+     "verloren,verliere ich,verschwunden,verschwindet,verschwand,abhandengekommen,flöten gegangen"},
     {Sense::self, "(kannst|könntest) du (mir|uns) (bitte|) helfen"},
     {Sense::happens,
      "ohne dass ich (gefragt werde|zustimme|es will|es merke|es weiß),(fragst|warnst) du (vorher|mich|)"},

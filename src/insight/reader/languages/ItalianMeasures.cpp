@@ -85,7 +85,8 @@ constexpr WordRow kMeasures[] = {
      "più,di più,la maggior parte,maggior parte,più spazio,maggiormente,il grosso,principalmente,più "
      "velocemente,più in fretta,più rapidamente,la maggioranza,maggioranza,il più dello spazio,gran parte,la "
      "gran parte,di più di tutti,più di tutti,più di "
-     "tutto,colpevole,colpevoli,responsabile,responsabili,principale,principali,peggiore,peggiori,più "
+     "tutto,colpevole,colpevoli,colpa,ha la colpa,la "
+     "colpa,responsabile,responsabili,principale,principali,peggiore,peggiori,più "
      "avido,più avidi,più memoria,più veloce di tutti,in prevalenza,il più in fretta possibile,più in fretta "
      "possibile,il più velocemente possibile"},
     {Sense::takes,

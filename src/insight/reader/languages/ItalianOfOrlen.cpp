@@ -5,6 +5,8 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::gone, "perso,persi,ho perso,perdo,abbiamo "
+                  "perso,sparito,spariti,spariscono,scomparso,scomparsi,svanito,svaniti"},
     {Sense::happens, "senza (che io lo sappia|il mio consenso|avvertirmi|conferma),(chiedi|avvisi) prima"},
     {Sense::filler, "da (qualche|nessuna) parte"},
     {Sense::rights, "(serve|servono|ti servono|richiede|hai bisogno di) (i|dei|) (permessi|diritti) (di "

@@ -79,7 +79,8 @@ constexpr WordRow kMeasures[] = {
     {Sense::most,
      "más,la mayor parte,mayoría,la mayoría,lo que más,más espacio,más sitio,lo más,más rápido,más "
      "deprisa,más rápidamente,el mayor espacio,más memoria,más lugar,más almacenamiento,más disco,más que "
-     "nada,principal,principales,principalmente,culpable,culpables,responsable,responsables,peor,peores,más "
+     "nada,principal,principales,principalmente,culpable,culpables,culpa,tiene la culpa,tienen la "
+     "culpa,responsable,responsables,peor,peores,más "
      "gastan,más consumen,sobre todo lo,mayormente,la gran parte,más veloz mente,primer lugar en,lo más "
      "rápido posible,más rápido posible"},
     {Sense::takes,

@@ -5,6 +5,8 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::gone, "perdido,perdidos,he perdido,perdí,pierdo,hemos "
+                  "perdido,desaparecido,desaparecieron,desapareció,se han esfumado,esfumado,se esfumó"},
     {Sense::happens, "sin (que yo lo sepa|mi permiso|avisarme|avisar|confirmar),(preguntas|avisas) antes"},
     {Sense::filler, "a (algún|ningún) (sitio|lado|lugar),a (alguna|ninguna) parte"},
     {Sense::rights, "(necesitas|necesita|hacen falta|requiere|requieres) (permisos|derechos|privilegios) (de "
