@@ -116,15 +116,23 @@ std::vector<Hit> choosable(const AskContext& context, Rating rating, const Exclu
 
 void dropCopiesOf(const AskContext& context, const std::vector<Hit>& going, std::vector<Hit>& hits)
 {
-    const Paths kept = pathsOf(going);
-    Paths copies;
+    std::unordered_multimap<std::string_view, std::string_view> copiesOf;
     for (const Finding& finding : context.findings) {
         for (const FileEntry& entry : finding.items) {
-            if (entry.kept && kept.contains(entry.kept->path))
-                copies.insert(entry.path);
+            if (entry.kept)
+                copiesOf.emplace(entry.kept->path, entry.path);
         }
     }
-    std::erase_if(hits, [&](const Hit& hit) { return copies.contains(hit.entry->path); });
+    if (copiesOf.empty())
+        return;
+    Paths copies;
+    for (const Hit& hit : going) {
+        const auto [first, last] = copiesOf.equal_range(hit.entry->path);
+        for (auto each = first; each != last; ++each)
+            copies.insert(each->second);
+    }
+    if (!copies.empty())
+        std::erase_if(hits, [&](const Hit& hit) { return copies.contains(hit.entry->path); });
 }
 
 std::vector<Hit> reaching(std::vector<Hit> hits, std::int64_t wanted)
