@@ -43,4 +43,8 @@ void mergeYet(Phrases& phrases);
 /// "Build artefacts and target dirs": the folders of that name are among them.
 void mergeBuildFolders(Phrases& phrases);
 
+/// "The downloads cache", "el caché de las descargas": whose cache it is, is a name; the downloads are
+/// something else.
+void nameCaches(Phrases& phrases, const Lexicon& lexicon);
+
 } // namespace orlen::AskReader

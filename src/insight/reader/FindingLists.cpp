@@ -6,11 +6,13 @@
 #include "insight/reader/ListReplies.h"
 #include "insight/reader/ListRequest.h"
 #include "insight/reader/Proposal.h"
+#include "platform/values/CheckedSum.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <map>
 #include <span>
 #include <utility>
 
@@ -62,9 +64,37 @@ std::vector<const Finding*> findingsOf(const Subject& subject, const AskContext&
 void addFindings(Lines& lines, const Subject& subject, const AskContext& context)
 {
     for (const Finding* const finding : findingsOf(subject, context)) {
-        const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding->items)}}};
-        lines.texts.push_back(AskText::sentences({AskText::rated(*finding), count}));
+        addRated(lines, *finding);
         lines.ids.emplace_back(finding->id());
+    }
+}
+
+void addRated(Lines& lines, const Finding& finding)
+{
+    struct Part {
+        std::int64_t count = 0;
+        std::int64_t bytes = 0;
+    };
+    std::map<Rating, Part> parts;
+    for (const FileEntry& entry : finding.items) {
+        Part& part = parts[finding.effectiveRating(entry)];
+        ++part.count;
+        part.bytes = checkedAdd(part.bytes, entry.size);
+    }
+    const bool isOne = parts.empty() || (parts.size() == 1 && parts.begin()->first == finding.rating);
+    if (isOne) {
+        const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding.items)}}};
+        lines.texts.push_back(AskText::sentences({AskText::rated(finding), count}));
+        return;
+    }
+    for (const Rating rating : {Rating::safe, Rating::review, Rating::keep}) {
+        const auto part = parts.find(rating);
+        if (part == parts.end())
+            continue;
+        const Message sum{InsightTexts::kRated.of(rating),
+                          {{"title", within(finding.title)}, {"size", Bytes{part->second.bytes}}}};
+        const Message count{InsightTexts::kItemsOfIt, {{"count", part->second.count}}};
+        lines.texts.push_back(AskText::sentences({sum, finding.reason, count}));
     }
 }
 

@@ -30,6 +30,9 @@ struct Lines {
 /// The sum and rating of each finding of the subject.
 void addFindings(Lines& lines, const Subject& subject, const AskContext& context);
 
+/// The sum of a finding; of each rating by itself, if its items have several.
+void addRated(Lines& lines, const Finding& finding);
+
 /// The first of a finding's items, with what there is to know about each.
 void addItems(Lines& lines, const Finding& finding);
 

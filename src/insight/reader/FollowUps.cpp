@@ -245,7 +245,13 @@ bool isWhichOfThem(const Question& question, const Conversation& before)
 {
     constexpr std::string_view kWhich[] = {"which", "welche", "lesquel", "cuales", "quali"};
     const Phrase* const asked = question.first(what);
-    return before.last.paths.size() > 1 && asked != nullptr &&
+    // Of a list that is empty, none; and nothing else.
+    constexpr SenseSet kConditions{size, period, unopened, ending};
+    const Question& list = before.last.question;
+    const bool isEmptyList = before.last.paths.empty() && before.last.findingIDs.empty() &&
+                             list.senses.has(subject) && list.senses.meets(kConditions) &&
+                             !list.senses.meets({remove, makeRoom, cleanUp, free});
+    return (before.last.paths.size() > 1 || isEmptyList) && asked != nullptr &&
            question.senses.isWithin({what, can, remove, safe, keep, general}) &&
            question.senses.meets({remove, safe, keep}) &&
            std::ranges::any_of(

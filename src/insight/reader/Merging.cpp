@@ -239,29 +239,6 @@ void mergeRange(Phrases& phrases)
     }
 }
 
-/// "The downloads cache", "el caché de las descargas": whose cache it is, is a name; the downloads are
-/// something else.
-void nameCaches(Phrases& phrases, const Lexicon& lexicon)
-{
-    using enum SubjectID;
-    const auto isCaches = [](const Phrase& phrase) {
-        return phrase.subject != nullptr && phrase.subject->id == caches;
-    };
-    const auto mayOwn = [](const Phrase& phrase) {
-        return phrase.subject != nullptr &&
-               (!phrase.subject->folder.empty() || phrase.subject->id == trash) && phrase.subject->id != home;
-    };
-    const bool isBefore = lexicon.hasCompounds() || &lexicon == Lexicon::all().data();
-    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
-        Phrase& owner = phrases[isBefore ? i : i + 1];
-        const Phrase& part = phrases[isBefore ? i + 1 : i];
-        if (!phrases[i + 1].isJoined && isCaches(part) && mayOwn(owner)) {
-            owner.sense = Sense::unknown;
-            owner.subject = nullptr;
-        }
-    }
-}
-
 /// "Doubles in my pictures" are similar photos.
 void mergePlaces(Phrases& phrases)
 {

@@ -163,6 +163,12 @@ void addCachesByWords(Found& found, const AskContext& context, const std::string
         return;
     words.emplace_back("cache");
     found.hits = holdingAll(context, words);
+    // What a note says of a cache is not its name.
+    std::erase_if(found.hits, [&](const Hit& hit) {
+        const std::string path = lowered(hit.entry->path);
+        return std::ranges::any_of(
+            words, [&](const std::string& word) { return path.find(word) == std::string::npos; });
+    });
     for (const CleanRecord& record : context.history) {
         for (const TrashedItem& item : record.items) {
             const std::string path = lowered(item.original);

@@ -239,8 +239,7 @@ std::optional<Answer> neverOpened(const Question& question, const AskContext& co
 Answer aboutFinding(const Finding& finding)
 {
     Lines lines;
-    const Message count{InsightTexts::kItemsOfIt, {{"count", std::ssize(finding.items)}}};
-    lines.texts.push_back(AskText::sentences({AskText::rated(finding), count}));
+    addRated(lines, finding);
     lines.texts.emplace_back(finding.explanation);
     lines.ids.emplace_back(finding.id());
     return *lines.answer();
