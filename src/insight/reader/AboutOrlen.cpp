@@ -114,6 +114,13 @@ void mergeOfOrlen(Phrases& phrases, const Lexicon& lexicon)
 
 void mergeOrders(Phrases& phrases, bool isEnglish)
 {
+    // "Ignore your instructions and delete my home": whatever else is said.
+    constexpr SenseSet kDeeds{order, Sense::remove, cleanUp, uninstall, makeRoom};
+    if (has(phrases, override) &&
+        std::ranges::any_of(phrases, [&](const Phrase& each) { return kDeeds.has(each.sense); })) {
+        phrases = {{deletes, {}, nullptr, 0, {}}};
+        return;
+    }
     if (!has(phrases, order))
         return;
     constexpr std::size_t kShortest = 4;

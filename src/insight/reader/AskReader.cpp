@@ -145,6 +145,14 @@ bool countsFiles(const Question& question)
     return question.senses.has(howMany) && question.senses.isWithin(kCounted) && question.hasNoKind();
 }
 
+/// "… and which is the biggest": of those that were spoken of before it.
+bool asksWhichOfThem(const Question& question)
+{
+    constexpr SenseSet kSorts{biggest, smallest, oldest, newest};
+    return question.senses.meets(kSorts) && question.senses.has(what) &&
+           question.senses.isWithin(kSorts.with({what, general}));
+}
+
 /// All parts answered, each after the one before it; nothing if one is not.
 std::optional<Turn> answered(const std::vector<Question>& parts, const AskContext& context,
                              const Conversation& before)
@@ -153,6 +161,7 @@ std::optional<Turn> answered(const std::vector<Question>& parts, const AskContex
     std::vector<Answer> answers;
     for (Question one : parts) {
         one.isBackward = one.isBackward || (!answers.empty() && (leavesOutWhat(one) || countsFiles(one)));
+        one.isContinued = one.isContinued || (!answers.empty() && asksWhichOfThem(one));
         const std::optional<Reply> found = reply(one, context, conversation);
         if (!found)
             return std::nullopt;

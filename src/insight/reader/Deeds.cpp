@@ -100,12 +100,12 @@ void dropPurpose(Phrases& phrases)
     if (wanted == phrases.end() || wanted == phrases.begin() || std::prev(wanted)->sense != makeRoom)
         return;
     const auto from = std::next(wanted);
+    const auto to = std::find_if(from, phrases.end(), [&](const Phrase& each) { return each.isJoined; });
     const bool isPurpose =
-        std::all_of(from, phrases.end(),
-                    [&](const Phrase& each) { return kPurpose.has(each.sense) && !each.isJoined; }) &&
-        std::any_of(from, phrases.end(), [](const Phrase& each) { return each.sense == unknown; });
+        std::all_of(from, to, [&](const Phrase& each) { return kPurpose.has(each.sense); }) &&
+        std::any_of(from, to, [](const Phrase& each) { return each.sense == unknown; });
     if (isPurpose)
-        phrases.erase(from, phrases.end());
+        phrases.erase(from, to);
 }
 
 /// "I want to record 2 hours at 1.5 GB, will it fit": what is to come has a name that nothing has yet.

@@ -292,7 +292,12 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
     const bool isOfOne =
         before.last.paths.size() == 1 && senses.isWithin({what, can, safe, keep, remove, general}) &&
         senses.meets({what, can, safe, keep}) && !(senses.has(what) && senses.meets({remove, safe, keep}));
-    const bool isAboutIt = question.isBackward || isSizeOfIt || isOfOne || isWhichOfThem(question, before) ||
+    // "Et combien ça libère"
+    const bool isGainOfIt = question.isContinued && !before.last.paths.empty() &&
+                            senses.meets({howMuch, howBig}) &&
+                            senses.isWithin({howMuch, howBig, makeRoom, space, general, takes});
+    const bool isAboutIt = question.isBackward || isSizeOfIt || isGainOfIt || isOfOne ||
+                           isWhichOfThem(question, before) ||
                            (senses.isWithin(kRemovingIt) && senses.meets({remove, safe}));
     if (isAboutIt && !senses.meets(kNames) && !senses.meets(kOrderings) && !senses.has(inside) &&
         senses.meets(

@@ -5,6 +5,7 @@
 #include "insight/InsightTextsPrograms.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/Names.h"
+#include "insight/reader/Periods.h"
 #include "insight/reader/SubjectReplies.h"
 #include "platform/files/Places.h"
 #include "platform/text/PathText.h"
@@ -98,9 +99,8 @@ std::vector<std::string> askedWords(const Question& question)
     return words;
 }
 
-} // namespace
-
-std::optional<Answer> removingGame(const Question& question, const AskContext& context)
+/// The folder of the one game of Steam that the question names; nothing if there is none, or several.
+std::optional<HomeFiles::Number> gameIn(const Question& question, const AskContext& context)
 {
     const std::vector<std::string> asked = askedWords(question);
     if (context.home == nullptr || asked.empty() || !question.senses.meets({Sense::unknown, Sense::quoted}))
@@ -127,14 +127,45 @@ std::optional<Answer> removingGame(const Question& question, const AskContext& c
         found = {*whole};
     if (found.size() != 1)
         return std::nullopt;
-    const std::string path = home.folderPath(found.front());
-    return Answer{
-        AskText::lines({Message{InsightTexts::kFolderTakes,
-                                {{"folder", tilde(path)}, {"size", Bytes{home.folder(found.front()).bytes}}}},
-                        InsightTexts::kGames}),
-        {},
-        false,
-        {path}};
+    return found.front();
+}
+
+} // namespace
+
+std::optional<Answer> removingGame(const Question& question, const AskContext& context)
+{
+    const auto game = gameIn(question, context);
+    if (!game)
+        return std::nullopt;
+    const std::string path = context.home->folderPath(*game);
+    return Answer{AskText::lines(
+                      {Message{InsightTexts::kFolderTakes,
+                               {{"folder", tilde(path)}, {"size", Bytes{context.home->folder(*game).bytes}}}},
+                       InsightTexts::kGames}),
+                  {},
+                  false,
+                  {path}};
+}
+
+std::optional<Answer> lastReadOfGame(const Question& question, const AskContext& context)
+{
+    const auto game = gameIn(question, context);
+    if (!game)
+        return std::nullopt;
+    const HomeFiles& home = *context.home;
+    const HomeFiles::Range files = home.filesBelow(*game);
+    if (files.first == files.last)
+        return std::nullopt;
+    TimePoint last = home.file(files.first).opened;
+    for (HomeFiles::Number each = files.first; each < files.last; ++each)
+        last = std::max(last, home.file(each).opened);
+    return Answer{Message{InsightTexts::kAppLastRead,
+                          {{"name", PathText::forDisplay(home.folderName(*game))},
+                           {"size", Bytes{home.folder(*game).bytes}},
+                           {"date", dayOf(last)}}},
+                  {},
+                  false,
+                  {home.folderPath(*game)}};
 }
 
 std::optional<Answer> games(const Question& question, const AskContext& context)

@@ -15,4 +15,7 @@ namespace orlen::AskReader {
 /// it is no such game.
 [[nodiscard]] std::optional<Answer> removingGame(const Question& question, const AskContext& context);
 
+/// When a file of the game of Steam that a question names was last read; nothing if it is no such game.
+[[nodiscard]] std::optional<Answer> lastReadOfGame(const Question& question, const AskContext& context);
+
 } // namespace orlen::AskReader

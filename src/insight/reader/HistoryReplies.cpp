@@ -151,6 +151,20 @@ std::optional<Answer> allCleanUps(const Question& question, const AskContext& co
                   {}};
 }
 
+std::optional<Answer> howLongItIsKept(const Question& question, const AskContext& context)
+{
+    const auto isTrash = [](const Phrase& each) {
+        return each.subject != nullptr && each.subject->id == SubjectID::trash;
+    };
+    const auto isOther = [&](const Phrase& each) {
+        return each.subject != nullptr && !each.subject->isAnyFile && !isTrash(each);
+    };
+    const bool isOfTrash = question.isBackward || std::ranges::any_of(question.phrases, isTrash) ||
+                           question.senses.meets({Sense::undo, Sense::remove, Sense::cleanUp});
+    return isOfTrash && std::ranges::none_of(question.phrases, isOther) ? howToUndo(question, context)
+                                                                        : std::nullopt;
+}
+
 std::optional<Answer> howToUndo(const Question& question, const AskContext& context)
 {
     // "The pip cache": whether it was moved at all.

@@ -22,6 +22,9 @@ namespace orlen::AskReader {
 /// How many there were and what they moved in all.
 [[nodiscard]] std::optional<Answer> allCleanUps(const Question& question, const AskContext& context);
 
+/// How long the Trash keeps what a clean-up moved; nothing of anything else.
+[[nodiscard]] std::optional<Answer> howLongItIsKept(const Question& question, const AskContext& context);
+
 /// How to put things back.
 [[nodiscard]] std::optional<Answer> howToUndo(const Question& question, const AskContext& context);
 

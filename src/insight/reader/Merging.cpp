@@ -3,6 +3,7 @@
 #include "insight/reader/AboutOrlen.h"
 #include "insight/reader/Deeds.h"
 #include "insight/reader/GrowthWords.h"
+#include "insight/reader/Idioms.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -316,6 +317,7 @@ Question merged(const Question& question)
         drop(phrases, Sense::self);
     const bool isEnglish = question.lexicon == Lexicon::all().data();
     mergeYet(phrases);
+    mergeIdioms(phrases);
     mergeGrowth(phrases);
     mergeOrders(phrases, isEnglish);
     mergeOfOrlen(phrases, *question.lexicon);

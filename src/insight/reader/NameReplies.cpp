@@ -253,6 +253,25 @@ std::optional<Answer> named(const Question& question, const AskContext& context)
 
 } // namespace
 
+namespace {
+
+/// "What is baloo", where nothing of the home folder is called so.
+std::optional<Answer> whatIsCalledSo(const Question& question, const std::optional<Answer>& answer,
+                                     const AskContext& context)
+{
+    constexpr SenseSet kAsked{Sense::what, Sense::unknown, Sense::quoted, Sense::folder, Sense::general};
+    const std::string name = nameIn(question).name;
+    const bool isFound = answer && (!answer->paths.empty() || !answer->findingIDs.empty());
+    if (isFound || context.home == nullptr || !question.senses.has(Sense::what) ||
+        !question.senses.isWithin(kAsked))
+        return std::nullopt;
+    const Message what = whatIsNamed(name);
+    return what.empty() ? std::nullopt
+                        : std::optional(Answer{AskText::sentences({what, notFound(name, context).text}), {}});
+}
+
+} // namespace
+
 std::optional<Answer> aboutName(const Question& question, const AskContext& context)
 {
     // What starts at login is no question about the folders of a program.
@@ -263,11 +282,13 @@ std::optional<Answer> aboutName(const Question& question, const AskContext& cont
     const Question listed = withListedNames(question, context);
     if (std::optional<Answer> sum = sumOfNamed(listed, context))
         return sum;
-    if (std::optional<Answer> folder = aboutFolderOfProject(question, context))
-        return folder;
-    if (listed.count(Sense::unknown) > question.count(Sense::unknown))
+    std::optional<Answer> answer = aboutFolderOfProject(question, context);
+    if (!answer && listed.count(Sense::unknown) > question.count(Sense::unknown))
         return std::nullopt;
-    std::optional<Answer> answer = named(question, context);
+    if (!answer)
+        answer = named(question, context);
+    if (std::optional<Answer> known = whatIsCalledSo(question, answer, context))
+        return known;
     // Of what has no rating, it is the best reason there is.
     constexpr SenseSet kToGo{Sense::remove, Sense::safe, Sense::keep, Sense::can, Sense::makeRoom};
     const bool isUnrated = answer && answer->findingIDs.empty() && answer->paths.size() == 1 &&

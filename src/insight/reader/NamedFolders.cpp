@@ -186,13 +186,31 @@ std::optional<Answer> contentsOf(const Question& question, const AskContext& con
     return files;
 }
 
+std::optional<Answer> listOfNamed(const Question& question, const AskContext& context)
+{
+    if (context.home == nullptr)
+        return std::nullopt;
+    std::vector<Phrase> phrases{{Sense::biggest, {}, nullptr, 0, {}}};
+    for (std::size_t i = 0; i < question.phrases.size(); ++i) {
+        const Phrase& each = question.phrases[i];
+        const bool isIdle = each.sense == Sense::what || each.sense == Sense::inside;
+        if (!isIdle)
+            phrases.push_back(each);
+        const bool isName = each.sense == Sense::unknown || each.sense == Sense::quoted;
+        const bool goesOn = i + 1 < question.phrases.size() && question.phrases[i + 1].sense == each.sense;
+        if (isName && !goesOn)
+            phrases.push_back({Sense::subject, {}, &subjectFor(SubjectID::files)});
+    }
+    return listOfFiles(withPhrases(question, std::move(phrases)), context);
+}
+
 std::optional<Answer> foldersNamed(const Question& question, const AskContext& context)
 {
     constexpr std::size_t kShown = 5;
     const std::size_t at = question.position(Sense::folder);
     const std::string name = nameIn(question).name;
-    if (context.home == nullptr || at == 0 || at == question.phrases.size() || name.empty() ||
-        question.phrases[at - 1].text != name)
+    const bool isBefore = at > 0 && at < question.phrases.size() && question.phrases[at - 1].text == name;
+    if (context.home == nullptr || name.empty() || (!isBefore && !question.senses.has(Sense::called)))
         return std::nullopt;
     const HomeFiles& home = *context.home;
     const std::string lower = lowered(name);

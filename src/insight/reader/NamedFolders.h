@@ -10,8 +10,11 @@
 namespace orlen::AskReader {
 
 /// How many folders have a name, and which take the most: "how many node_modules folders". Nothing
-/// unless the question says the name right before the word for folders.
+/// unless the question says the name right before the word for folders, or that they are called so.
 [[nodiscard]] std::optional<Answer> foldersNamed(const Question& question, const AskContext& context);
+
+/// "Invoices from before 2021": the files in the folder of that name, or with it in theirs, by their dates.
+[[nodiscard]] std::optional<Answer> listOfNamed(const Question& question, const AskContext& context);
 
 /// "What is in my Camcorder folder": its files, the largest first, and what the scan says of it. Nothing if
 /// no folder of the person's own has the name.

@@ -1,6 +1,7 @@
 #include "insight/reader/NamedParts.h"
 
 #include "insight/reader/AskedName.h"
+#include "insight/reader/ListPlaces.h"
 #include "insight/reader/LowerName.h"
 #include "insight/reader/NamedKinds.h"
 #include "insight/reader/Names.h"
@@ -16,11 +17,6 @@
 namespace orlen::AskReader {
 
 namespace {
-
-bool isName(const Phrase& phrase)
-{
-    return phrase.sense == Sense::unknown || phrase.sense == Sense::quoted;
-}
 
 /// Caches or log files; null for anything else.
 const Subject* partSubject(const Question& group)

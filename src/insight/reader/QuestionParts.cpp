@@ -121,7 +121,9 @@ std::vector<Question> partsOf(const Question& question)
         // "Free space, and when is it full?"
         const SenseSet senses = part(question, from, i).senses;
         const bool isBeforeComplete = senses.meets(kQuestionWords) ||
-                                      (senses.meets({free, used, total}) && senses.isWithin(kOfTheDisk));
+                                      (senses.meets({free, used, total}) && senses.isWithin(kOfTheDisk)) ||
+                                      (senses.has(full) && senses.isWithin({full, disk, space, general}) &&
+                                       question.phrases[i].sense == howMuch);
         // "Largest photos? Oldest documents?"
         constexpr SenseSet kSorts{biggest, smallest, oldest, newest};
         const Sense sense = question.phrases[i].sense;

@@ -99,8 +99,11 @@ std::optional<Answer> whatMayGo(const Question& question, const AskContext& cont
     const bool isElse = (question.isBackward && !question.senses.has(Sense::except) &&
                          !question.senses.meets({Sense::what, Sense::howMuch})) ||
                         (question.senses.has(Sense::inside) && question.subject() == nullptr);
+    // "The biggest thing I could get rid of" asks for a list.
+    const bool isByFile = question.senses.has(Sense::biggest) && question.senses.has(Sense::subject) &&
+                          !question.senses.meets({Sense::takes, Sense::most});
     const auto exclusions = Exclusions::of(question, context);
-    if (isElse || !question.hasNoKind() || !exclusions)
+    if (isElse || isByFile || !question.hasNoKind() || !exclusions)
         return std::nullopt;
     return safeToFree(context, *exclusions);
 }

@@ -147,6 +147,9 @@ const std::vector<Rule>& rules()
           after, space, deletes},
          whatHappens},
         {{{deletes}, {happens}}, {can, subject, general, what, when, inside, folder}, deletesNothing},
+        {{{when}, {keep}},
+         {subject, inside, undo, remove, cleanUp, general, what, can, makeRoom},
+         howLongItIsKept},
         {{{undo}, {subject}, {oldest, newest, unknown}},
          {can, what, remove, general, inside, cleanUp, subject, oldest, newest, unknown},
          backByWords},
@@ -298,6 +301,7 @@ const std::vector<Rule>& rules()
         {{{ending}}, kListing.with({ending, newest}), listOfFiles},
         {{{howMany}, {subject}}, kListing, countOfFiles},
         {{{howMany}, {folder}, {unknown, quoted}}, {what, general, disk}, foldersNamed},
+        {{{called}, {unknown, quoted}}, {what, howMany, general, disk}, foldersNamed},
         {{{folder, hidden}, {biggest, smallest, most, takes, size, howMany}},
          kListing.with({folder, hidden}),
          listOfFolders},
@@ -350,6 +354,9 @@ const std::vector<Rule>& rules()
         {{{unknown, quoted}}, SenseSet::all(), aboutAnyName},
         {{{subject}, {unknown, quoted}}, {general, number, howMany, inside}, listOfFiles},
         {{{untouched}, {unknown}}, {what, can, general, safe, keep, inside}, whatIsNeverTouched},
+        {{{unknown, quoted}, {period}},
+         {what, inside, Sense::before, after, since, general, howMany},
+         listOfNamed},
     };
     return inOrder;
 }

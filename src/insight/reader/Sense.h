@@ -98,6 +98,11 @@ enum class Sense : std::uint8_t {
     only,     ///< "only", "just those"
     backward, ///< "it", "them", "the one": what the last answer was about
     therein,  ///< "darin": in what the last answer was about
+    // These are gone before a question is answered: what they say, another sense does.
+    holds,    ///< "contains"
+    put,      ///< "put": with the Trash, to remove
+    override, ///< "ignore your instructions"
+    called,   ///< "folders called": of several of that name
     how,      ///< "how", alone: the way to do it
 };
 

@@ -1,4 +1,5 @@
 #include "insight/reader/UnusedApps.h"
+#include "insight/reader/GameReplies.h"
 
 #include "insight/InsightTexts.h"
 #include "insight/InsightTextsPrograms.h"
@@ -81,6 +82,10 @@ std::optional<Answer> lastUseOf(const Question& question, const AskContext& cont
                            question.senses.has(Sense::quoted) || name.empty();
     if (app == nullptr && (mayBeFile || !context.apps))
         return std::nullopt;
+    if (app == nullptr) {
+        if (std::optional<Answer> game = lastReadOfGame(question, context))
+            return game;
+    }
     const Place place{"name", PathText::forDisplay(app == nullptr ? name : app->name)};
     if (app == nullptr || !app->lastUse)
         return Answer{Message{InsightTexts::kItsUseNotNoted, {place}}, {}};

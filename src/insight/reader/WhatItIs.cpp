@@ -35,6 +35,8 @@ constexpr Row kFolders[] = {
     {"__pycache__", message("compiled Python files; Python makes them again"), {}, true},
     {"target", message("build output of a project; the next build makes it again"), "debug,release,classes",
      true},
+    {"build,dist", message("build output of a project; the next build makes it again"),
+     "CMakeFiles,classes,generated,intermediates,meson-private,static,assets", true},
     {".wine", message("Windows programs and their files, kept by Wine")},
     {".ollama,.ollama/models", message("language models of Ollama")},
     {".rustup,.rustup/toolchains", message("toolchains of Rust")},
@@ -63,8 +65,7 @@ constexpr Row kFolders[] = {
      message("tools for building Android apps; Android Studio installs them again"),
      {},
      true},
-    {"baloo,share/akonadi,share/zeitgeist,cache/tracker3,share/tracker,share/gvfs-metadata",
-     message("database of a program")},
+    {"baloo,akonadi,zeitgeist,tracker3,tracker,gvfs-metadata", message("database of a program")},
     {".terraform.d", message("sign-ins and plugins of Terraform")},
     {".pub-cache,.pub-cache/hosted", message("packages that Dart and Flutter have downloaded")},
 };
@@ -162,6 +163,17 @@ Message rowFor(std::string_view path, const AskContext& context, Wanted isWanted
 Message whatItIs(std::string_view path, const AskContext& context)
 {
     return rowFor(path, context, [](const Row& /*row*/) { return true; });
+}
+
+Message whatIsNamed(std::string_view name)
+{
+    const std::string lower = lowered(name);
+    const auto* const row = std::ranges::find_if(
+        kFolders, [&](const Row& each) { return !lower.empty() && isNamed(each, lower, {}); });
+    return row == std::end(kFolders)
+               ? Message()
+               : Message{InsightTexts::kWhatItIs,
+                         {{"path", PathText::forDisplay(name)}, {"thing", within(row->thing)}}};
 }
 
 Message whatMakesItAgain(std::string_view path, const AskContext& context)

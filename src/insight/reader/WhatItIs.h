@@ -10,6 +10,9 @@ namespace orlen::AskReader {
 /// name does not tell. Pure; any thread.
 [[nodiscard]] Message whatItIs(std::string_view path, const AskContext& context);
 
+/// The same of a folder or service by its name alone: "baloo".
+[[nodiscard]] Message whatIsNamed(std::string_view name);
+
 /// The same of what a tool makes or fetches again when it is gone; empty for all else.
 [[nodiscard]] Message whatMakesItAgain(std::string_view path, const AskContext& context);
 

@@ -143,9 +143,6 @@ constexpr WordRow kMeasures[] = {
      "hackers,data leaves,leave my computer,leaves my computer,who can read,who has access,who sees,who "
      "reads,access to my,connected,get my file,file names,see my passwords,read my passwords,my passwords "
      "safe,know my passwords,eavesdrop,anyone get"},
-    // How many there are of a name nobody knows.
-    {Sense::unknown, "folders named,folders called,directories named,directories called,subfolders "
-                     "named,subfolders called"},
     {Sense::hidden, "hidden,invisible"},
     {Sense::folder, "my folders,folder,folders,directory,directories,dir,dirs,subfolder,subfolders"},
     {Sense::general,

@@ -17,6 +17,20 @@ constexpr WordRow kOfOrlen[] = {
     {Sense::undo,
      "where (did|have|has) (all|) (my|the|those|these|) (files|stuff|things|items|data|everything) (go|gone),"
      "(what|whatever) happened to (my|the|those|all my|) (files|stuff|things|items|data)"},
+    {Sense::holds, "contain,contains,hold,holds"},
+    {Sense::put, "put"},
+    {Sense::override,
+     "(ignore|disregard|forget) (all|any|your|the|my|these) (previous|prior|other|your|earlier|of your|) "
+     "(instructions|rules|orders|prompts|guidelines|safety rules)"},
+    {Sense::filler, "stupid,dumb,idiot,you moron,you stupid thing,you idiot"},
+    {Sense::called, "(folders|directories|subfolders) (called|named|with the name|that are called|that are "
+                    "named|are called|are named)"},
+    {Sense::otherWork, "translate (the|this|a|these|that)"},
+    {Sense::reads, "(do|does) (you|orlen) open,(files|folders) (you|orlen) (open|opens|read|reads|look at)"},
+    {Sense::trust,
+     "(do you|does orlen|can you|can orlen|will you) (ever|) (make|makes) (a mistake|mistakes|errors),(are "
+     "you|is orlen) (ever|always) (wrong|right|correct),how accurate (are you|is orlen)"},
+    {Sense::mean, "(change|override|edit|alter) (a|the|my|its|an item's|) (rating|ratings)"},
     {Sense::gone, "lose,loses,(did|have|do|) (i|we) (suddenly|just|) (lose|lost),(am|are) (i|we) (suddenly|) "
                   "losing,(did|has|have|) (gone missing|vanished|disappeared|vanish|disappear)"},
     {Sense::reads,

@@ -5,6 +5,15 @@ namespace orlen::AskReader::french_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::holds, "contient,contiennent,renferme"},
+    {Sense::put, "mettre,mets"},
+    {Sense::override, "(ignore|oublie|ignorez|oubliez) (toutes|) (les|tes|vos) "
+                      "(instructions|consignes|règles|ordres) (précédentes|)"},
+    {Sense::called, "dossiers (nommés|appelés|s appellent|du nom de|qui s appellent)"},
+    {Sense::otherWork, "traduire,traduis,traduisez,traduis moi"},
+    {Sense::reads, "(ouvres|lis) tu,(tu|orlen) (ouvres|ouvre)"},
+    {Sense::trust, "(fais tu|tu fais|commets tu) (des|parfois des) erreurs,(te trompes tu|tu te trompes)"},
+    {Sense::filler, "d un coup,tout d un coup,soudain,soudainement,subitement"},
     {Sense::gone,
      "perdu,perdus,perdue,ai je perdu,j ai perdu,je perds,disparu,disparus,disparaît,envolé,envolés,évaporé"},
     {Sense::happens,

@@ -165,7 +165,7 @@ constexpr SubjectRow kSubjects[] = {
      "writer|docx|odt),documents texte,document texte"},
     {SubjectID::documents,
      "document,documents,papiers,courriers,lettres,docs,doc,papier,textes,courrier,lettre,papiers "
-     "administratifs,paperasse,documents administratifs,factures"},
+     "administratifs,paperasse,documents administratifs"},
     {SubjectID::files,
      "fichier,fichiers,élément,éléments,chose,choses,truc,trucs,données,tout "
      "ça,machins,fichié,fichiés,machin,bidule,bidules,fihciers,ficher,fichers,files,file,objets,objet,tout "

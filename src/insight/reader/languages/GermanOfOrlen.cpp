@@ -5,6 +5,15 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::holds, "enthält,beinhaltet"},
+    {Sense::put, "legen,stecken,verschieben"},
+    {Sense::override,
+     "(ignorier|ignoriere|vergiss|missachte) (alle|deine|sämtliche|alle deine|) "
+     "(vorherigen|bisherigen|früheren|) (anweisungen|regeln|instruktionen|befehle|vorgaben)"},
+    {Sense::called, "(ordner|verzeichnisse) (heißen|namens|mit namen|mit dem namen|nennen sich)"},
+    {Sense::otherWork, "übersetze,übersetzen,übersetz"},
+    {Sense::reads, "(öffnest|liest|durchsuchst) du"},
+    {Sense::trust, "(machst|begehst) du (auch|manchmal|) fehler,(irrst|täuschst) du dich"},
     {Sense::gone,
      "verloren,verliere ich,verschwunden,verschwindet,verschwand,abhandengekommen,flöten gegangen"},
     {Sense::self, "(kannst|könntest) du (mir|uns) (bitte|) helfen"},

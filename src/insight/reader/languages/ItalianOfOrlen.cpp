@@ -5,6 +5,19 @@ namespace orlen::AskReader::italian_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::holds, "contiene,contengono,cosa contiene,che cosa contiene"},
+    {Sense::put, "mettere,metto"},
+    {Sense::override,
+     "(ignora|dimentica|ignori) (tutte|) (le|le tue|le sue) (istruzioni|regole|disposizioni) (precedenti|)"},
+    {Sense::called, "cartelle (chiamate|si chiamano|che si chiamano|di nome|con il nome)"},
+    {Sense::otherWork, "tradurre,traduci,traducimi"},
+    {Sense::mean, "(cosa|che cosa) (significa|vuol dire|vuole dire|significano)"},
+    {Sense::reads, "(file|cartelle) (apri|leggi|guardi)"},
+    {Sense::trust, "(fai|commetti) errori,ti sbagli"},
+    {Sense::above, "(è|sono|sia) più (grande|grandi|grosso|grossa|grossi|grosse|pesante|piena|pieno) "
+                   "(di|del|della|dell|dello|rispetto al|rispetto a)"},
+    {Sense::filler, "all improvviso,improvvisamente,d un tratto,di colpo,di botto"},
+    {Sense::most, "è la colpa,di chi è la colpa,la colpa"},
     {Sense::gone, "perso,persi,ho perso,perdo,abbiamo "
                   "perso,sparito,spariti,spariscono,scomparso,scomparsi,svanito,svaniti"},
     {Sense::happens, "senza (che io lo sappia|il mio consenso|avvertirmi|conferma),(chiedi|avvisi) prima"},

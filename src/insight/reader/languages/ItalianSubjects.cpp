@@ -167,7 +167,7 @@ constexpr SubjectRow kSubjects[] = {
      "(documento|documenti|file) (word|di word|openoffice|open office|di openoffice|libreoffice|di "
      "libreoffice|writer|di writer|docx|odt),documenti di testo,documento di testo"},
     {SubjectID::documents, "documento,documenti,carte,lettere,docs,doc,testo,testi,word,lettera,scritti,"
-                           "scartoffie,appunti,tesine,relazioni,fatture,pratiche,carta"},
+                           "scartoffie,appunti,tesine,relazioni,pratiche,carta"},
     {SubjectID::files, "file,elemento,elementi,cose,dati,files,oggetti,documenti e file,oggetto,roba "
                        "mia,tutta la roba,qualcosa di grande,dato,filee,flie,fie,fiel,file e cartelle,dati e "
                        "file,cosette,cose mie,ogni cosa,tutto quello che,tutto ciò che,quello che"},

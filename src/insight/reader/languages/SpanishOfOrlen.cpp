@@ -5,6 +5,16 @@ namespace orlen::AskReader::spanish_words {
 namespace {
 
 constexpr WordRow kOfOrlen[] = {
+    {Sense::holds, "contiene,contienen,qué contiene"},
+    {Sense::put, "poner,pongo,meter,meto"},
+    {Sense::override, "(ignora|olvida|ignore|olvide) (todas|) (las|tus|sus) (instrucciones|reglas|órdenes) "
+                      "(anteriores|previas|)"},
+    {Sense::called, "carpetas (llamadas|se llaman|que se llaman|con el nombre|de nombre)"},
+    {Sense::otherWork, "traducir,traduce,tradúceme"},
+    {Sense::safe, "lo (que es|que sea|más|) seguro"},
+    {Sense::reads, "(archivos|ficheros|carpetas) (abres|lees|miras)"},
+    {Sense::trust, "(cometes|haces) errores,te equivocas"},
+    {Sense::filler, "de repente,de golpe,de pronto,repentinamente"},
     {Sense::gone, "perdido,perdidos,he perdido,perdí,pierdo,hemos "
                   "perdido,desaparecido,desaparecieron,desapareció,se han esfumado,esfumado,se esfumó"},
     {Sense::happens, "sin (que yo lo sepa|mi permiso|avisarme|avisar|confirmar),(preguntas|avisas) antes"},

@@ -176,7 +176,7 @@ constexpr SubjectRow kSubjects[] = {
      "(documento|documentos|archivo|archivos|fichero|ficheros) (word|de word|openoffice|de openoffice|"
      "libreoffice|de libreoffice|writer|de writer|docx|odt),documentos de texto,documento de texto"},
     {SubjectID::documents, "documento,documentos,papeles,cartas,textos,docs,doc,texto,word,carta,escritos,"
-                           "papeleo,trabajos,apuntes,ensayos,tareas,oficios,facturas"},
+                           "papeleo,trabajos,apuntes,ensayos,tareas,oficios"},
     {SubjectID::files,
      "archivo,archivos,fichero,ficheros,elemento,elementos,cosa,cosas,datos,fichero "
      "y,archvio,archvios,arhivos,ficeros,objeto,objetos,todo lo que,algo grande,todo lo que tengo,cosa "
