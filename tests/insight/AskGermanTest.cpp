@@ -7,6 +7,8 @@ using AskGermanTest = AskWorld;
 
 constexpr Row kGerman[] = {
     {"löschst du meine Passwörter in Firefox", "deletes nothing", "called"},
+    {"werden meine Passwörter angefasst", "never touches"},
+    {"ist mein persönlicher Ordner größer als letzten Monat", "~/Videos: 49 GB"},
     {"kannst du meine Dokumente lesen", "Nothing leaves", "report"},
     {"machst du Backups von meinen Filmen", "not what Orlen is for"},
     {"lösch alles sofort!!", "deletes nothing"},

@@ -7,6 +7,8 @@ using AskSpanishTest = AskWorld;
 
 constexpr Row kSpanish[] = {
     {"borras mis contraseñas de Firefox", "deletes nothing"},
+    {"cuál es el vídeo más grande que tengo", "wedding.mp4"},
+    {"borra todo lo seguro", "You could free about"},
     {"cada cuánto tengo que limpiar", "no fixed rhythm"},
     {"archivos grandes fuera de Descargas", "Left out: ~/Downloads."},
     {"cuánto espacio libre me queda", "120 GB is free"},

@@ -25,6 +25,7 @@ using Phrases = std::vector<Phrase>;
 constexpr std::size_t kTold = 6;
 constexpr SenseSet kOrderings{biggest, smallest, oldest, newest, most};
 constexpr SenseSet kNames{subject, unknown, quoted};
+constexpr SenseSet kRatings{safe, review, keep};
 
 bool isAfterInside(const Phrases& phrases, std::size_t i)
 {
@@ -38,12 +39,12 @@ std::optional<Reply> reasons(const Question& question, const AskContext& context
     if (before.paths.size() == 1)
         return onPath(question, context, before.paths.front());
     // "Why is it so big?" of a list: what it is made of. Why just these were listed, nobody can say.
-    constexpr SenseSet kRatings{remove, safe, review, keep, makeRoom, cleanUp, advise};
+    constexpr SenseSet kRated{remove, safe, review, keep, makeRoom, cleanUp, advise};
     if (question.senses.meets({biggest, takes, full})) {
         if (auto found = whatFillsIt(question, context, before))
             return found;
     }
-    if (before.paths.size() > 1 && !before.question.senses.meets(kRatings))
+    if (before.paths.size() > 1 && !before.question.senses.meets(kRated))
         return std::nullopt;
     std::vector<Message> lines;
     Answer answer;
@@ -303,6 +304,15 @@ std::optional<Reply> followUp(const Question& question, const AskContext& contex
         senses.meets(
             {what, howBig, howMuch, can, remove, safe, keep, undo, happens, uninstall, untouched, lastUse}))
         return onSame(question, context, before.last);
+    // "What does Safe mean", "and Keep?"
+    if (question.isContinued && senses.isWithin(kRatings) && before.last.question.senses.has(mean)) {
+        Phrases phrases = before.last.question.phrases;
+        std::erase_if(phrases, [](const Phrase& each) { return kRatings.has(each.sense); });
+        std::ranges::copy(question.phrases, std::back_inserter(phrases));
+        Question other = withPhrases(before.last.question, std::move(phrases));
+        std::optional<Answer> answer = replyByRule(other, context);
+        return replyTo(std::move(other), std::move(answer));
+    }
     // A name alone was looked for already.
     if (senses.meets({unknown, quoted}) && !question.isContinued && !question.isBackward)
         return std::nullopt;

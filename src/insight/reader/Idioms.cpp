@@ -66,12 +66,14 @@ void mergeTrashing(Phrases& phrases)
                                inside, general, what,    Sense::remove, safe};
     const auto isTrash = [](const Phrase& each) { return isOf(each, SubjectID::trash); };
     const auto trash = std::ranges::find_if(phrases, isTrash);
+    // In some languages the preposition is part of the phrase: "en la papelera".
+    const bool hasInside =
+        trash != phrases.end() && trash != phrases.begin() && std::prev(trash)->sense == inside;
     const bool isIntoIt =
-        has(phrases, put) && trash != phrases.end() && trash != phrases.begin() &&
-        std::prev(trash)->sense == inside && phrases.size() > 3 &&
+        has(phrases, put) && trash != phrases.end() && phrases.size() > 2 &&
         std::ranges::all_of(phrases, [&](const Phrase& each) { return kBeside.has(each.sense); });
     if (isIntoIt) {
-        phrases.erase(std::prev(trash), std::next(trash));
+        phrases.erase(hasInside ? std::prev(trash) : trash, std::next(trash));
         rename(phrases, put, Sense::remove);
     }
     drop(phrases, put);

@@ -143,7 +143,9 @@ constexpr SubjectRow kSubjects[] = {
      "removed,programs i removed,apps i deleted,apps i uninstalled,programs i uninstalled,programs i "
      "deleted,apps i no longer have,programs i no longer have"},
     {SubjectID::startup,
-     "from starting,from loading,from launching,from opening,from running,starting at login,starting "
+     "(start|starts|load|loads|run|runs|open|opens) with (the|my) "
+     "(computer|laptop|pc|system|machine|session),from starting,from loading,from launching,from "
+     "opening,from running,starting at login,starting "
      "with,loading at login,load at login,loads at login,starting up,starting automatically,starting by "
      "itself,start slowly,starts slowly,slow to start,boot slowly,boots slowly,takes long to start,takes "
      "ages to "

@@ -5,6 +5,8 @@ namespace orlen::AskReader::german_words {
 namespace {
 
 constexpr SubjectRow kSubjects[] = {
+    {SubjectID::startup, "(startet|starten|läuft|laufen|lädt|laden) (beim|bei der|bei) "
+                         "(anmelden|anmeldung|login|start|systemstart|hochfahren|einschalten|booten)"},
     {SubjectID::virtualMachines, "(virtuelle|virtuellen|virtueller) "
                                  "(maschine|maschinen|platte|platten),vm,vms,virtualbox,virtualbox vms"},
     {SubjectID::trash, "im (müll|abfall|kübel),in der tonne"},
