@@ -26,6 +26,13 @@ struct Row {
 };
 
 // TRANSLATORS: all of these say in a few words what a file or folder is, behind its name and a colon.
+constexpr Text kBuildOutput = message("build output of a project; the next build makes it again");
+constexpr Text kProgramCaches = message("caches of programs");
+constexpr Text kProgramSettings = message("settings of programs");
+constexpr Text kProgramData = message("data of programs");
+constexpr Text kFlatpakData = message("data of Flatpak applications");
+constexpr Text kDatabase = message("database of a program");
+
 constexpr Row kFolders[] = {
     {"node_modules",
      message("packages of a JavaScript project; its package manager installs them again"),
@@ -33,10 +40,9 @@ constexpr Row kFolders[] = {
      true},
     {".venv,venv,virtualenv", message("Python environment with the packages of a project"), {}, true},
     {"__pycache__", message("compiled Python files; Python makes them again"), {}, true},
-    {"target", message("build output of a project; the next build makes it again"), "debug,release,classes",
+    {"target", kBuildOutput, "debug,release,classes", true},
+    {"build,dist", kBuildOutput, "CMakeFiles,classes,generated,intermediates,meson-private,static,assets",
      true},
-    {"build,dist", message("build output of a project; the next build makes it again"),
-     "CMakeFiles,classes,generated,intermediates,meson-private,static,assets", true},
     {".wine", message("Windows programs and their files, kept by Wine")},
     {".ollama,.ollama/models", message("language models of Ollama")},
     {".rustup,.rustup/toolchains", message("toolchains of Rust")},
@@ -50,10 +56,10 @@ constexpr Row kFolders[] = {
     {".cache/huggingface,.cache/huggingface/*,huggingface/hub",
      message("models downloaded from Hugging Face")},
     {"models--*", message("model downloaded from Hugging Face")},
-    {".cache", message("caches of programs")},
-    {".config", message("settings of programs")},
-    {".local,.local/share", message("data of programs")},
-    {".var,.var/app", message("data of Flatpak applications")},
+    {".cache", kProgramCaches},
+    {".config", kProgramSettings},
+    {".local,.local/share", kProgramData},
+    {".var,.var/app", kFlatpakData},
     {".mozilla", message("profiles of Firefox: bookmarks, history and passwords")},
     {".thunderbird", message("mail and profiles of Thunderbird")},
     {".ssh", message("keys for signing in to other computers")},
@@ -65,16 +71,15 @@ constexpr Row kFolders[] = {
      message("tools for building Android apps; Android Studio installs them again"),
      {},
      true},
-    {"baloo,akonadi,zeitgeist,tracker3,tracker,gvfs-metadata", message("database of a program")},
+    {"baloo,akonadi,zeitgeist,tracker3,tracker,gvfs-metadata", kDatabase},
     {".terraform.d", message("sign-ins and plugins of Terraform")},
     {".pub-cache,.pub-cache/hosted", message("packages that Dart and Flutter have downloaded")},
 };
 
 /// What has a folder around it in which programs keep what is theirs. As places expand them.
 constexpr Row kWithin[] = {
-    {"{CACHE}", message("caches of programs")}, {"{CONFIG}", message("settings of programs")},
-    {"{DATA}", message("data of programs")},    {"{H}/.var/app", message("data of Flatpak applications")},
-    {"{H}", message("data of programs")}, // where the name is hidden
+    {"{CACHE}", kProgramCaches},    {"{CONFIG}", kProgramSettings}, {"{DATA}", kProgramData},
+    {"{H}/.var/app", kFlatpakData}, {"{H}", kProgramData}, // where the name is hidden
 };
 
 constexpr Row kFiles[] = {
@@ -91,7 +96,7 @@ constexpr Row kFiles[] = {
     {"*.kdbx", message("password database")},
     {"*.part,*.crdownload", message("unfinished download")},
     {"*.torrent", message("torrent file; what it downloads lies elsewhere")},
-    {"*.sqlite,*.sqlite3,*.db", message("database of a program")},
+    {"*.sqlite,*.sqlite3,*.db", kDatabase},
     {"*.bak,*.old", message("earlier copy of a file")},
     {".xsession-errors*,*.log", message("messages that programs have written")},
     {"*.odt,*.docx,*.doc,*.rtf", message("text document")},
