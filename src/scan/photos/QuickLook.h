@@ -59,7 +59,7 @@ private:
     /// each on.
     std::array<std::uint8_t,
                std::size_t{PictureOutline::kSide} * PictureOutline::kSide + std::size_t{2} * kMargin>
-        m_pixels{};
+        m_pixels;
 };
 
 } // namespace orlen
