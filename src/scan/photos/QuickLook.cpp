@@ -21,7 +21,8 @@
 // How many bits differ and how far the block would have moved make up one number, too, of which the least is
 // sought. On any processor, the rows of a block are the bytes of one number, and so are those below each
 // other at any place. In wide lanes, four pixels of a row are looked up in a table of how many differ, at all
-// places beside each other at a time.
+// places beside each other at a time. The widest count the bits of such numbers, at all places below each
+// other.
 
 namespace orlen {
 
@@ -179,19 +180,115 @@ ORLEN_WIDE inline __m256i foursOf(__m256i pixels, __m256i bytes)
     return _mm256_srli_epi16(_mm256_mullo_epi16(_mm256_shuffle_epi8(pixels, bytes), shifts), 12);
 }
 
+// The widest lanes hold a block's rows each, at eight places below each other. There are eleven, so for the
+// last three the rows are counted apart, and the least is sought in two of the four words of each lane.
+
+constexpr std::size_t kWords = 32;
+constexpr std::size_t kWordsOfPlace = 4;
+
+/// For each word which of the places it is of.
+constexpr auto kPlaceOfWord = [] {
+    std::array<std::uint16_t, kWords> places{};
+    for (std::size_t word = 0; word < kWords; ++word) {
+        const std::size_t lane = word / kWordsOfPlace;
+        const std::size_t half = word % kWordsOfPlace;
+        places[word] = static_cast<std::uint16_t>(half < 2 ? lane + 8 * half : kWords);
+    }
+    return places;
+}();
+
+/// The ranks of the ways down, for each way to the right.
+constexpr auto kRanksOfWords = [] {
+    std::array<std::array<std::uint16_t, kWords>, Moves<kFarthest>::kSide> ranks{};
+    for (std::size_t right = 0; right < ranks.size(); ++right) {
+        for (std::size_t word = 0; word < kWords; ++word) {
+            if (const std::size_t down = kPlaceOfWord[word]; down < ranks.size())
+                ranks[right][word] = kBlockMoves.rank[right][down];
+        }
+    }
+    return ranks;
+}();
+
+/// The bytes of eight numbers, each from one further on.
+constexpr auto kBytesOfPlaces = [] {
+    std::array<std::uint8_t, 64> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<std::uint8_t>(i / 8 + i % 8);
+    return bytes;
+}();
+
+/// As WideBlock.
+class WidestBlock {
+public:
+    ORLEN_WIDEST explicit WidestBlock(std::uint64_t own)
+        : m_own(_mm512_set1_epi64(static_cast<std::int64_t>(own)))
+    {
+    }
+
+    /// At eleven places below each other, that far right.
+    ORLEN_WIDEST void look(const std::uint8_t* column, std::size_t right)
+    {
+        const __m512i bytes = _mm512_loadu_si512(kBytesOfPlaces.data());
+        const __m512i upper =
+            _mm512_broadcast_i64x4(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(column)));
+        const __m512i lower =
+            _mm512_broadcast_i64x4(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(column + 8)));
+        const __m512i first = _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytes, upper)), kRankBits);
+        const __m512i second =
+            _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytes, lower)), 16 + kRankBits);
+        const __m512i ranks = _mm512_loadu_si512(kRanksOfWords[right].data());
+        m_least = _mm512_min_epu16(m_least, _mm512_or_si512(_mm512_or_si512(first, second), ranks));
+    }
+
+    /// Of the places from one to another.
+    [[nodiscard]] ORLEN_WIDEST unsigned least(int first, int last) const
+    {
+        const __m512i places = _mm512_sub_epi16(_mm512_loadu_si512(kPlaceOfWord.data()),
+                                                _mm512_set1_epi16(static_cast<std::int16_t>(first)));
+        const __mmask32 isOutside =
+            _mm512_cmpgt_epu16_mask(places, _mm512_set1_epi16(static_cast<std::int16_t>(last - first)));
+        const __m512i within = _mm512_mask_blend_epi16(isOutside, m_least, _mm512_set1_epi16(-1));
+        const __m256i half =
+            _mm256_min_epu16(_mm512_castsi512_si256(within), _mm512_extracti64x4_epi64(within, 1));
+        const __m128i quarter =
+            _mm_min_epu16(_mm256_castsi256_si128(half), _mm256_extracti128_si256(half, 1));
+        return static_cast<std::uint16_t>(_mm_cvtsi128_si32(_mm_minpos_epu16(quarter)));
+    }
+
+private:
+    ORLEN_WIDEST [[nodiscard]] __m512i different(__m512i rows) const
+    {
+        return _mm512_popcnt_epi64(_mm512_xor_si512(rows, m_own));
+    }
+
+    __m512i m_own;
+    __m512i m_least = _mm512_set1_epi16(-1);
+};
+
 #endif
 
 } // namespace
 
-QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline), m_isWide(WideLanes::areUsed())
+QuickLook::QuickLook(const PictureOutline& outline) : m_outline(outline), m_width(WideLanes::width())
 {
-    if (m_isWide)
+    switch (m_width) {
+    case WideLanes::Width::widest:
+        fillColumnsInWidestLanes();
+        break;
+    case WideLanes::Width::wide:
         fillFours();
-    else
+        break;
+    case WideLanes::Width::narrow:
         fillColumns();
+    }
 }
 
-void QuickLook::fillColumns()
+ORLEN_WIDEST void QuickLook::fillColumnsInWidestLanes()
+{
+    fillColumns();
+}
+
+ORLEN_INLINE void QuickLook::fillColumns()
 {
     // Sixteen pixels at a time, of which eight are taken from eight places on.
     constexpr std::size_t kByte = 8;
@@ -288,9 +385,38 @@ ORLEN_WIDE QuickLook::Finds QuickLook::findsInWideLanes(const QuickLook& other) 
     return finds;
 }
 
+ORLEN_WIDEST QuickLook::Finds QuickLook::findsInWidestLanes(const QuickLook& other) const
+{
+    Finds finds;
+#ifdef __x86_64__
+    std::size_t count = 0;
+    for (const PictureOutline::Block block : m_outline.blocks()) {
+        WidestBlock sought(pixels(block.left, block.top));
+        const int left = block.left - kFarthest;
+        const int top = block.top - kFarthest;
+        const int last = std::min(2 * kFarthest, kPlaces - 1 - left);
+        for (int right = std::max(0, -left); right <= last; ++right)
+            sought.look(other.column(left + right, top), static_cast<std::size_t>(right));
+        finds[count++] =
+            found(block, sought.least(std::max(0, -top), std::min(2 * kFarthest, kPlaces - 1 - top)));
+    }
+#else
+    finds = findsIn(other);
+#endif
+    return finds;
+}
+
 QuickLook::Finds QuickLook::allFindsIn(const QuickLook& other) const
 {
-    return m_isWide ? findsInWideLanes(other) : findsIn(other);
+    switch (m_width) {
+    case WideLanes::Width::widest:
+        return findsInWidestLanes(other);
+    case WideLanes::Width::wide:
+        return findsInWideLanes(other);
+    case WideLanes::Width::narrow:
+        break;
+    }
+    return findsIn(other);
 }
 
 /// The share of either one's structure that is found in the other one under a common motion.
