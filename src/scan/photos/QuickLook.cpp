@@ -228,14 +228,12 @@ public:
     /// At eleven places below each other, that far right.
     ORLEN_WIDEST void look(const std::uint8_t* column, std::size_t right)
     {
+        const __m512i pixels = _mm512_loadu_si512(column);
         const __m512i bytes = _mm512_loadu_si512(kBytesOfPlaces.data());
-        const __m512i upper =
-            _mm512_broadcast_i64x4(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(column)));
-        const __m512i lower =
-            _mm512_broadcast_i64x4(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(column + 8)));
-        const __m512i first = _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytes, upper)), kRankBits);
+        const __m512i bytesOfLast = _mm512_add_epi8(bytes, _mm512_set1_epi8(8));
+        const __m512i first = _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytes, pixels)), kRankBits);
         const __m512i second =
-            _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytes, lower)), 16 + kRankBits);
+            _mm512_slli_epi64(different(_mm512_permutexvar_epi8(bytesOfLast, pixels)), 16 + kRankBits);
         const __m512i ranks = _mm512_loadu_si512(kRanksOfWords[right].data());
         m_least = _mm512_min_epu16(m_least, _mm512_or_si512(_mm512_or_si512(first, second), ranks));
     }
