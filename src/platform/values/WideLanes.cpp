@@ -1,39 +1,49 @@
 #include "platform/values/WideLanes.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace orlen {
 
+using WideLanes::Width;
+
 namespace {
 
-bool areThere()
+Width widthThere()
 {
 #ifdef __x86_64__
-    return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("bmi") != 0 &&
-           __builtin_cpu_supports("bmi2") != 0 && __builtin_cpu_supports("popcnt") != 0;
+    const bool isWide = __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("bmi") != 0 &&
+                        __builtin_cpu_supports("bmi2") != 0 && __builtin_cpu_supports("popcnt") != 0;
+    if (!isWide)
+        return Width::narrow;
+    const bool isWidest = __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("avx512bw") != 0 &&
+                          __builtin_cpu_supports("avx512vbmi") != 0 &&
+                          __builtin_cpu_supports("avx512vnni") != 0 &&
+                          __builtin_cpu_supports("avx512vpopcntdq") != 0;
+    return isWidest ? Width::widest : Width::wide;
 #else
-    return false;
+    return Width::narrow;
 #endif
 }
 
-std::atomic<int> doneWithout{0};
+std::atomic<Width> most{Width::widest};
 
 } // namespace
 
-bool WideLanes::areUsed()
+Width WideLanes::width()
 {
-    static const bool has = areThere();
-    return has && doneWithout.load(std::memory_order_relaxed) == 0;
+    static const Width has = widthThere();
+    return std::min(has, most.load(std::memory_order_relaxed));
 }
 
-WideLanes::Without::Without()
+WideLanes::Without::Without(Width lanes) : m_before(most.load())
 {
-    ++doneWithout;
+    most = std::min(m_before, lanes == Width::widest ? Width::wide : Width::narrow);
 }
 
 WideLanes::Without::~Without()
 {
-    --doneWithout;
+    most = m_before;
 }
 
 } // namespace orlen

@@ -10,24 +10,41 @@
 /// inlined, `ORLEN_INLINE`. It must come to the same bits.
 #ifdef __x86_64__
 #define ORLEN_WIDE [[gnu::target("avx2,bmi,bmi2,popcnt")]]
+/// Likewise with lanes of 512 bits (AVX-512 and some of what came after it), for `Width::widest`. It pays
+/// where one instruction does what takes several in others; where loads are what takes the time, it does not.
+/// Numbers with fractions come to the same bits only in a source that is compiled with `-ffp-contract=off`.
+#define ORLEN_WIDEST                                                                                         \
+    [[gnu::target("avx2,bmi,bmi2,popcnt,avx512f,avx512bw,avx512vbmi,avx512vnni,avx512vpopcntdq")]]
 #else
 #define ORLEN_WIDE
+#define ORLEN_WIDEST
 #endif
 #define ORLEN_INLINE [[gnu::always_inline]] inline
 
 /// Any thread.
 namespace orlen::WideLanes {
 
-/// Whether the processor has them, and nothing is to be done without.
-[[nodiscard]] bool areUsed();
+enum class Width : std::uint8_t { narrow, wide, widest };
 
-/// As on a processor without them, as long as it lives: to compare what comes out, and the times.
+/// Of the processor's lanes, unless something is to be done without.
+[[nodiscard]] Width width();
+
+[[nodiscard]] inline bool areUsed()
+{
+    return width() != Width::narrow;
+}
+
+/// As on a processor without lanes of that width, as long as it lives: to compare what comes out, and the
+/// times.
 class Without {
 public:
-    Without();
+    explicit Without(Width lanes = Width::wide);
     ~Without();
     Without(const Without&) = delete;
     Without& operator=(const Without&) = delete;
+
+private:
+    Width m_before;
 };
 
 /// Whether a comparison holds in any of the lanes.

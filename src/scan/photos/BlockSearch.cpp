@@ -47,6 +47,7 @@ ORLEN_INLINE void BlockSearch<side, block>::prepare(const Pixels& pixels, int re
     for (std::size_t i = 0; i + 1 < pixels.size(); ++i)
         m_pairs[i] = {level(i), level(i + 1)};
     m_pairs[pixels.size() - 1] = {level(pixels.size() - 1), 0};
+    std::fill_n(m_pairs.end() - kMargin, kMargin, PixelPair{});
     sumUpBlocks(reach);
 }
 
@@ -81,8 +82,10 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
     for (int y = 0; y < kPlaces; ++y) {
         if (y > 0)
             moveDown(y - 1);
-        if (std::min(y % block, block - y % block) > reach)
+        if (std::min(y % block, block - y % block) > reach) {
+            clearFrom(index({0, y}));
             continue;
+        }
         sumUp<block>(sums, blockSums);
         const auto* squares = &quarters[static_cast<std::size_t>(y)];
         const std::size_t row = index({0, y});
@@ -98,6 +101,15 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
             m_onesBySpreads[row + x] = 1 / (spread + kNoise);
         }
     }
+    clearFrom(kAllPlaces);
+}
+
+/// What is read of the next row, or the margin, with the last places of a row.
+template <int side, int block>
+ORLEN_INLINE void BlockSearch<side, block>::clearFrom(std::size_t place)
+{
+    for (float* numbers : {m_sums.data(), m_rests[0].data(), m_rests[1].data(), m_onesBySpreads.data()})
+        std::fill_n(numbers + place, kMargin, 0.0F);
 }
 
 /// The sums of the squares of each quarter of a block, at all places.

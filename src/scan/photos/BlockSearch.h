@@ -101,19 +101,22 @@ private:
     // Of a member of a template it has to be said here already, or they are not compiled for wide lanes.
     ORLEN_INLINE void prepare(const Pixels& pixels, int reach);
     ORLEN_INLINE void sumUpBlocks(int reach);
+    ORLEN_INLINE void clearFrom(std::size_t place);
     using QuarterSquares = std::array<std::array<std::int32_t, side>, side - kQuarter + 1>;
     [[nodiscard]] ORLEN_INLINE QuarterSquares quarterSquares() const;
     void findTexture();
 
+    // None is zeroed first, which would take a good part of the time that preparing does.
+
     /// Each pixel with the one on its right. Here and below, the margin is for reading whole lanes at the
     /// end.
-    std::array<PixelPair, static_cast<std::size_t>(side) * side + kMargin> m_pairs{};
+    std::array<PixelPair, static_cast<std::size_t>(side) * side + kMargin> m_pairs;
     // What the correlation of a block needs, at all places, rows from the top.
-    std::array<float, kAllPlaces + kMargin> m_sums{}; ///< of its pixels
+    std::array<float, kAllPlaces + kMargin> m_sums; ///< of its pixels
     /// Roots of the sums of the squares of what follows a quarter and a half of it.
-    std::array<std::array<float, kAllPlaces + kMargin>, 2> m_rests{};
-    std::array<float, kAllPlaces> m_spreads{}; ///< variances, times the squared number of pixels
-    std::array<float, kAllPlaces + kMargin> m_onesBySpreads{}; ///< with some noise added
+    std::array<std::array<float, kAllPlaces + kMargin>, 2> m_rests;
+    std::array<float, kAllPlaces> m_spreads; ///< variances, times the squared number of pixels
+    std::array<float, kAllPlaces + kMargin> m_onesBySpreads; ///< with some noise added
     std::vector<TilePlace> m_texturedBlocks;
 };
 

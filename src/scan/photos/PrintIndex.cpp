@@ -90,16 +90,13 @@ struct PrintIndex::Query {
     {
         setLeast(kLeastCosine);
         constexpr unsigned kByte = 8;
-        std::array<int, kPairs> middles{};
-        for (std::size_t i = 0; i < kPairs; ++i) {
-            const std::int8_t one = rounded.sketch[2 * i];
-            const std::int8_t other = rounded.sketch[2 * i + 1];
-            const SoughtPair pair =
-                static_cast<std::uint8_t>(one) | SoughtPair{static_cast<std::uint8_t>(other)} << kByte;
-            pairs[i] = pair | pair << 2 * kByte;
-            middles[i] = kAdded * (one + other);
+        std::array<int, kQuads> middles{};
+        for (std::size_t i = 0; i < kNumbers; ++i) {
+            const std::int8_t number = rounded.sketch[i];
+            quads[i / kQuad] |= SoughtQuad{static_cast<std::uint8_t>(number)} << i % kQuad * kByte;
+            middles[i / kQuad] += kAdded * number;
         }
-        const auto ofLength = middles.begin() + kStart / 2;
+        const auto ofLength = middles.begin() + kStart / kQuad;
         beforeStart = -std::accumulate(middles.begin(), ofLength + 1, 0);
         beforeRest = *ofLength - std::accumulate(ofLength + 1, middles.end(), 0);
     }
@@ -116,7 +113,7 @@ struct PrintIndex::Query {
     std::size_t most;
     const PrintIndex* index;
     Rounded rounded;
-    std::array<SoughtPair, kPairs> pairs{}; ///< two numbers of the sketch
+    std::array<SoughtQuad, kQuads> quads{}; ///< four numbers of the sketch
     // What to begin with, as there is too much in the numbers of bundles.
     int beforeStart = 0;           ///< and the length of what follows it
     int beforeRest = 0;            ///< all but that length
@@ -141,7 +138,7 @@ PrintIndex::Rounded PrintIndex::sketchOf(const Direction& direction)
     for (std::size_t i = 0; i < kHead; ++i) {
         if (i == kStart) {
             put(lengthOf(numbers.subspan(kStart)));
-            put(0);
+            count += kQuad - 1;
         }
         put(static_cast<float>(numbers[i]));
     }
@@ -161,10 +158,10 @@ void PrintIndex::add(const Direction& direction)
         m_bundles.emplace_back();
     const Rounded rounded = sketchOf(direction);
     const auto level = [](std::int8_t number) { return static_cast<unsigned>(number + kAdded); };
-    for (std::size_t i = 0; i < kPairs; ++i) {
+    for (std::size_t i = 0; i < kNumbers; i += 2) {
         constexpr unsigned kByte = 8;
-        m_bundles.back()[i][lane] = static_cast<std::uint16_t>(level(rounded.sketch[2 * i]) |
-                                                               level(rounded.sketch[2 * i + 1]) << kByte);
+        m_bundles.back()[i / kQuad].pairs[2 * lane + i % kQuad / 2] =
+            static_cast<std::uint16_t>(level(rounded.sketch[i]) | level(rounded.sketch[i + 1]) << kByte);
     }
     m_startMoved = std::max(m_startMoved, rounded.startMoved);
     m_moved = std::max(m_moved, rounded.moved);
@@ -198,40 +195,49 @@ template <typename Sums, std::size_t count>
 ORLEN_INLINE void PrintIndex::lookAtBundle(const Bundle& bundle, std::span<const Query> queries,
                                            std::span<std::uint32_t> found)
 {
-    constexpr std::size_t kLength = kStart / 2;
+    constexpr std::size_t kLength = kStart / kQuad;
     Sums all[count];
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (std::size_t q = 0; q < count; ++q)
         all[q].addToAll(queries[q].beforeStart);
     for (std::size_t i = 0; i < kLength; ++i) {
-#pragma GCC unroll 4
+#pragma GCC unroll 8
         for (std::size_t q = 0; q < count; ++q)
-            all[q].add(bundle[i], queries[q].pairs[i]);
+            all[q].add(bundle[i], queries[q].quads[i]);
     }
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (std::size_t q = 0; q < count; ++q) {
         const Query& query = queries[q];
         Sums sums = all[q];
         Sums start = sums;
-        start.add(bundle[kLength], query.pairs[kLength]);
+        start.add(bundle[kLength], query.quads[kLength]);
         found[q] = start.atLeast(query.leastOfStart);
         if (found[q] == 0)
             continue;
         sums.addToAll(query.beforeRest);
-        for (std::size_t i = kLength + 1; i < kPairs; ++i)
-            sums.add(bundle[i], query.pairs[i]);
+        for (std::size_t i = kLength + 1; i < kQuads; ++i)
+            sums.add(bundle[i], query.quads[i]);
         found[q] = sums.atLeast(query.least);
     }
 }
 
 /// Bundle by bundle, so that each is fetched from memory once. What is looked at closely is fetched
-/// meanwhile.
+/// while the next bundle is looked at.
 template <typename Sums>
 ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
 {
-    constexpr std::size_t kTogether = 4;
+    constexpr std::size_t kTogether = Sums::kTogether;
     std::vector<std::uint32_t> found(queries.size());
-    for (std::size_t first = 0; first < m_directions.size(); first += kSketches) {
+    std::vector<std::uint32_t> foundBefore(queries.size());
+    const auto lookAtFoundBefore = [&](std::size_t first) __attribute__((always_inline))
+    {
+        for (std::size_t i = 0; i < queries.size(); ++i) {
+            for (std::uint32_t left = foundBefore[i]; left != 0; left &= left - 1)
+                look(queries[i], first + static_cast<std::size_t>(std::countr_zero(left)));
+        }
+    };
+    std::size_t first = 0;
+    for (; first < m_directions.size(); first += kSketches) {
         const Bundle& bundle = m_bundles[first / kSketches];
         const std::size_t count = std::min(kSketches, m_directions.size() - first);
         const std::uint32_t inBundle = ~std::uint32_t{0} >> (kSketches - count);
@@ -241,16 +247,15 @@ ORLEN_INLINE void PrintIndex::lookThroughBundles(std::span<Query> queries) const
             lookAtBundle<Sums, kTogether>(bundle, all.subspan(next), std::span(found).subspan(next));
         for (; next < all.size(); ++next)
             lookAtBundle<Sums, 1>(bundle, all.subspan(next), std::span(found).subspan(next));
-        for (std::size_t i = 0; i < queries.size(); ++i) {
-            found[i] &= inBundle;
-            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
+        for (std::uint32_t& some : found) {
+            some &= inBundle;
+            for (std::uint32_t left = some; left != 0; left &= left - 1)
                 prefetch(m_directions[first + static_cast<std::size_t>(std::countr_zero(left))]);
         }
-        for (std::size_t i = 0; i < queries.size(); ++i) {
-            for (std::uint32_t left = found[i]; left != 0; left &= left - 1)
-                look(queries[i], first + static_cast<std::size_t>(std::countr_zero(left)));
-        }
+        lookAtFoundBefore(first - kSketches);
+        found.swap(foundBefore);
     }
+    lookAtFoundBefore(first - kSketches);
 }
 
 #ifdef __x86_64__
@@ -258,11 +263,20 @@ ORLEN_WIDE void PrintIndex::lookThroughInWideLanes(std::span<Query> queries) con
 {
     lookThroughBundles<WideSketchSums>(queries);
 }
+
+ORLEN_WIDEST void PrintIndex::lookThroughInWidestLanes(std::span<Query> queries) const
+{
+    lookThroughBundles<WidestSketchSums>(queries);
+}
 #endif
 
 void PrintIndex::lookThrough(std::span<Query> queries) const
 {
 #ifdef __x86_64__
+    if (WideLanes::width() == WideLanes::Width::widest) {
+        lookThroughInWidestLanes(queries);
+        return;
+    }
     if (WideLanes::areUsed()) {
         lookThroughInWideLanes(queries);
         return;

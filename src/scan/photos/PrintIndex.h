@@ -36,13 +36,15 @@ private:
     static constexpr std::size_t kStart = 36; ///< numbers that are looked at first
     static constexpr std::size_t kHead = 48;
     static constexpr std::size_t kRests = 4;
-    static constexpr std::size_t kNumbers = kHead + 2 + kRests;
-    static constexpr std::size_t kPairs = kNumbers / 2;
-    /// The start, the length of what follows it, nothing, the rest of the head, and the lengths of the rests.
+    static constexpr std::size_t kQuad = 4;
+    static constexpr std::size_t kNumbers = kHead + kQuad + kRests;
+    static constexpr std::size_t kQuads = kNumbers / kQuad;
+    /// The start, the length of what follows it and nothing, the rest of the head, and the lengths of the
+    /// rests.
     using Sketch = std::array<std::int8_t, kNumbers>;
     /// Sketches, so laid out that many are multiplied at a time, with something added to each number so that
     /// none is below 0.
-    using Bundle = std::array<SketchPairs, kPairs>;
+    using Bundle = std::array<SketchQuads, kQuads>;
     struct Query;
 
     struct Rounded {
@@ -60,6 +62,7 @@ private:
     template <typename Sums>
     void lookThroughBundles(std::span<Query> queries) const;
     void lookThroughInWideLanes(std::span<Query> queries) const;
+    void lookThroughInWidestLanes(std::span<Query> queries) const;
     void look(Query& query, std::size_t number) const;
 
     std::vector<Bundle> m_bundles;

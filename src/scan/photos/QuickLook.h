@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/images/PictureOutline.h"
+#include "platform/values/WideLanes.h"
 #include "scan/photos/BlockSearch.h"
 
 #include <array>
@@ -31,8 +32,10 @@ private:
     [[nodiscard]] Finds allFindsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsIn(const QuickLook& other) const;
     [[nodiscard]] Finds findsInWideLanes(const QuickLook& other) const;
+    [[nodiscard]] Finds findsInWidestLanes(const QuickLook& other) const;
     [[nodiscard]] static BlockFind found(PictureOutline::Block block, unsigned least);
     void fillColumns();
+    void fillColumnsInWidestLanes();
     void fillFours();
 
     [[nodiscard]] const std::uint8_t* column(int left, int top) const
@@ -54,12 +57,12 @@ private:
     static constexpr int kMargin = 32; ///< for reading more than there is
 
     const PictureOutline& m_outline;
-    bool m_isWide;
-    /// For each place from the left, eight pixels of each row; in wide lanes, for each row, four pixels from
-    /// each on.
+    WideLanes::Width m_width;
+    /// For each place from the left, eight pixels of each row; in wide lanes (not in the widest), for each
+    /// row, four pixels from each on.
     std::array<std::uint8_t,
                std::size_t{PictureOutline::kSide} * PictureOutline::kSide + std::size_t{2} * kMargin>
-        m_pixels{};
+        m_pixels;
 };
 
 } // namespace orlen

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace orlen {
 
@@ -32,31 +31,39 @@ struct Products {
 
 using Cells = std::array<Products, kCells * kCells>;
 
-/// A tile around 0, in squares of `step` pixels that are taken for one.
+/// A tile around 0, in squares of `step` pixels: the sums of them.
 template <std::size_t step>
-std::vector<std::int32_t> levelsOf(const FeaturePrint::Tile& tile)
+std::array<std::int32_t, kSide * kSide / (step * step)> levelsOf(const FeaturePrint::Tile& tile)
 {
-    constexpr std::int32_t kMiddle = 128;
-    std::vector<std::int32_t> levels(tile.size());
-    for (std::size_t y = 0; y < kSide; ++y) {
-        for (std::size_t x = 0; x < kSide; ++x)
-            levels[y / step * step * kSide + x / step * step] += tile[y * kSide + x] - kMiddle;
+    constexpr std::int32_t kMiddle = 128 * step * step;
+    constexpr std::size_t kSquares = kSide / step;
+    std::array<std::int32_t, kSquares * kSquares> levels;
+    for (std::size_t y = 0; y < kSquares; ++y) {
+        for (std::size_t x = 0; x < kSquares; ++x) {
+            std::int32_t sum = -kMiddle;
+            for (std::size_t row = 0; row < step; ++row) {
+                for (std::size_t column = 0; column < step; ++column)
+                    sum += tile[(y * step + row) * kSide + x * step + column];
+            }
+            levels[y * kSquares + x] = sum;
+        }
     }
     return levels;
 }
 
-/// The sums of the squares are left in one pixel each; the others are 0 and add nothing.
 template <std::size_t step>
 Cells cellsOf(const FeaturePrint::Tile& one, const FeaturePrint::Tile& other)
 {
-    const std::vector<std::int32_t> ones = levelsOf<step>(one);
-    const std::vector<std::int32_t> others = levelsOf<step>(other);
+    constexpr std::size_t kSquares = kSide / step;
+    constexpr std::size_t kOfCell = kCell / step;
+    const auto ones = levelsOf<step>(one);
+    const auto others = levelsOf<step>(other);
     Cells cells{};
-    for (std::size_t y = 0; y < kSide; ++y) {
-        for (std::size_t x = 0; x < kSide; ++x) {
-            const std::int32_t a = ones[y * kSide + x];
-            const std::int32_t b = others[y * kSide + x];
-            cells[y / kCell * kCells + x / kCell] += {a * a, b * b, a * b};
+    for (std::size_t y = 0; y < kSquares; ++y) {
+        for (std::size_t x = 0; x < kSquares; ++x) {
+            const std::int32_t a = ones[y * kSquares + x];
+            const std::int32_t b = others[y * kSquares + x];
+            cells[y / kOfCell * kCells + x / kOfCell] += {a * a, b * b, a * b};
         }
     }
     return cells;

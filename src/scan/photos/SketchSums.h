@@ -13,93 +13,137 @@
 
 namespace orlen {
 
-// Sums of products of a sketch with many others, each of two numbers at a time. They wrap, and come out right
-// in the end.
+// Sums of products of a sketch with many others, each of four numbers at a time. Those of 16 bits wrap, and
+// come out right in the end. How many sums of each kind are best made at a time depends on the registers.
 
 /// Sketches that are multiplied at a time.
 inline constexpr std::size_t kSketches = 32;
 
-/// Two numbers of each, from 0 to 255, the first in the lower byte.
-using SketchPairs = std::array<std::uint16_t, kSketches>;
+/// Four numbers of each, from 0 to 255: two and then two, the first in the lower byte.
+struct SketchQuads {
+    static constexpr std::size_t kLine = 64; // bytes
 
-/// Two numbers from -128 to 127, likewise, and once more above them.
-using SoughtPair = std::uint32_t;
+    alignas(kLine) std::array<std::uint16_t, 2 * kSketches> pairs{};
+};
+
+/// Four numbers from -128 to 127, the first in the lowest byte.
+using SoughtQuad = std::uint32_t;
 
 /// On any processor.
 class NarrowSketchSums {
 public:
+    static constexpr std::size_t kTogether = 1;
+
     ORLEN_INLINE void addToAll(int number)
     {
-        m_left += static_cast<std::uint16_t>(number);
-        m_right += static_cast<std::uint16_t>(number);
+        for (std::size_t i = 0; i < m_sums.size(); i += 2)
+            m_sums[i] = static_cast<std::uint16_t>(m_sums[i] + number);
     }
-    ORLEN_INLINE void add(const SketchPairs& of, SoughtPair pair)
+    ORLEN_INLINE void add(const SketchQuads& of, SoughtQuad quad)
     {
-        Lanes left{};
-        Lanes right{};
-        std::memcpy(&left, of.data(), sizeof left);
-        std::memcpy(&right, of.data() + kLanes, sizeof right);
-        add(m_left, left, static_cast<std::uint16_t>(pair));
-        add(m_right, right, static_cast<std::uint16_t>(pair));
+        constexpr unsigned kByte = 8;
+        std::array<std::uint16_t, 4> numbers{};
+        for (unsigned i = 0; i < numbers.size(); ++i)
+            numbers[i] = static_cast<std::uint16_t>(static_cast<std::int8_t>(quad >> i * kByte));
+        const Lanes lower = inTurns(numbers[0], numbers[2]);
+        const Lanes upper = inTurns(numbers[1], numbers[3]);
+        for (std::size_t i = 0; i < m_sums.size(); i += kLanes) {
+            Lanes pairs{};
+            Lanes sums{};
+            std::memcpy(&pairs, &of.pairs[i], sizeof pairs);
+            std::memcpy(&sums, &m_sums[i], sizeof sums);
+            sums += (pairs & 0xff) * lower + (pairs >> kByte) * upper;
+            std::memcpy(&m_sums[i], &sums, sizeof sums);
+        }
     }
     /// A bit for each.
     [[nodiscard]] ORLEN_INLINE std::uint32_t atLeast(std::int16_t least) const
     {
-        std::array<std::int16_t, kSketches> sums{};
-        std::memcpy(sums.data(), &m_left, sizeof m_left);
-        std::memcpy(sums.data() + kLanes, &m_right, sizeof m_right);
         std::uint32_t found = 0;
-        for (std::size_t i = 0; i < kSketches; ++i)
-            found |= std::uint32_t{sums[i] >= least} << i;
+        for (std::size_t i = 0; i < kSketches; ++i) {
+            const auto sum = static_cast<std::int16_t>(m_sums[2 * i] + m_sums[2 * i + 1]);
+            found |= std::uint32_t{sum >= least} << i;
+        }
         return found;
     }
 
 private:
-    static constexpr std::size_t kLanes = 16;
+    static constexpr std::size_t kLanes = 8;
     using Lanes [[gnu::vector_size(kLanes * sizeof(std::uint16_t))]] = std::uint16_t;
 
-    ORLEN_INLINE static void add(Lanes& sums, const Lanes& of, std::uint16_t pair)
+    ORLEN_INLINE static Lanes inTurns(std::uint16_t one, std::uint16_t other)
     {
-        constexpr int kByte = 8;
-        sums += (of & 0xff) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair & 0xff)) +
-                (of >> kByte) * static_cast<std::uint16_t>(static_cast<std::int8_t>(pair >> kByte));
+        return Lanes{one, other, one, other, one, other, one, other};
     }
 
-    Lanes m_left{};
-    Lanes m_right{};
+    std::array<std::uint16_t, 2 * kSketches> m_sums{};
 };
 
 #ifdef __x86_64__
 /// In one instruction for two products of each.
 class WideSketchSums {
 public:
+    static constexpr std::size_t kTogether = 2;
+
     ORLEN_WIDE WideSketchSums() {} // NOLINT(modernize-use-equals-default): compiled for wide lanes
     ORLEN_WIDE void addToAll(int number)
     {
-        const __m256i all = _mm256_set1_epi16(static_cast<std::int16_t>(number));
-        m_left = _mm256_add_epi16(m_left, all);
-        m_right = _mm256_add_epi16(m_right, all);
+        const __m256i all = _mm256_set1_epi32(static_cast<std::uint16_t>(number));
+        for (__m256i& sums : m_sums)
+            sums = _mm256_add_epi16(sums, all);
     }
-    ORLEN_WIDE void add(const SketchPairs& of, SoughtPair pair)
+    ORLEN_WIDE void add(const SketchQuads& of, SoughtQuad quad)
     {
-        const auto* sketches = reinterpret_cast<const __m256i*>(of.data());
-        const __m256i all = _mm256_set1_epi32(static_cast<std::int32_t>(pair));
-        m_left = _mm256_add_epi16(m_left, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches), all));
-        m_right = _mm256_add_epi16(m_right, _mm256_maddubs_epi16(_mm256_loadu_si256(sketches + 1), all));
+        const auto* sketches = reinterpret_cast<const __m256i*>(of.pairs.data());
+        const __m256i all = _mm256_set1_epi32(static_cast<std::int32_t>(quad));
+        for (__m256i& sums : m_sums)
+            sums = _mm256_add_epi16(sums, _mm256_maddubs_epi16(_mm256_load_si256(sketches++), all));
     }
     /// A bit for each.
     [[nodiscard]] ORLEN_WIDE std::uint32_t atLeast(std::int16_t least) const
     {
-        constexpr int kInOrder = 0b11'01'10'00;
         const __m256i less = _mm256_set1_epi16(static_cast<std::int16_t>(least - 1));
-        const __m256i isFound =
-            _mm256_packs_epi16(_mm256_cmpgt_epi16(m_left, less), _mm256_cmpgt_epi16(m_right, less));
-        return static_cast<std::uint32_t>(_mm256_movemask_epi8(_mm256_permute4x64_epi64(isFound, kInOrder)));
+        const __m256i left = _mm256_cmpgt_epi16(_mm256_hadd_epi16(m_sums[0], m_sums[1]), less);
+        const __m256i right = _mm256_cmpgt_epi16(_mm256_hadd_epi16(m_sums[2], m_sums[3]), less);
+        const __m256i inOrder = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
+        const __m256i isFound = _mm256_permutevar8x32_epi32(_mm256_packs_epi16(left, right), inOrder);
+        return static_cast<std::uint32_t>(_mm256_movemask_epi8(isFound));
     }
 
 private:
-    __m256i m_left = _mm256_setzero_si256();
-    __m256i m_right = _mm256_setzero_si256();
+    __m256i m_sums[4] = {_mm256_setzero_si256(), _mm256_setzero_si256(), _mm256_setzero_si256(),
+                         _mm256_setzero_si256()};
+};
+
+/// In one instruction for all four products of each, and their sum.
+class WidestSketchSums {
+public:
+    static constexpr std::size_t kTogether = 8;
+
+    ORLEN_WIDEST WidestSketchSums() {} // NOLINT(modernize-use-equals-default): compiled for the widest lanes
+    ORLEN_WIDEST void addToAll(int number)
+    {
+        const __m512i all = _mm512_set1_epi32(number);
+        m_left = _mm512_add_epi32(m_left, all);
+        m_right = _mm512_add_epi32(m_right, all);
+    }
+    ORLEN_WIDEST void add(const SketchQuads& of, SoughtQuad quad)
+    {
+        const __m512i all = _mm512_set1_epi32(static_cast<std::int32_t>(quad));
+        m_left = _mm512_dpbusd_epi32(m_left, _mm512_load_si512(of.pairs.data()), all);
+        m_right = _mm512_dpbusd_epi32(m_right, _mm512_load_si512(of.pairs.data() + kSketches), all);
+    }
+    /// A bit for each.
+    [[nodiscard]] ORLEN_WIDEST std::uint32_t atLeast(std::int16_t least) const
+    {
+        const __m512i all = _mm512_set1_epi32(least);
+        return std::uint32_t{_mm512_cmpge_epi32_mask(m_left, all)} |
+               std::uint32_t{_mm512_cmpge_epi32_mask(m_right, all)} << kSketches / 2;
+    }
+
+private:
+    __m512i m_left = _mm512_setzero_si512();
+    __m512i m_right = _mm512_setzero_si512();
 };
 #endif
 

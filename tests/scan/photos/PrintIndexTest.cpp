@@ -77,8 +77,10 @@ TEST(PrintIndexTest, findsWhatLookingAtAllFinds)
     }
     EXPECT_TRUE(PrintIndex().near(all, 8)[0].empty());
     const auto found = index.near(all, 8);
-    const WideLanes::Without without;
-    EXPECT_EQ(index.near(all, 8), found);
+    for (const WideLanes::Width lanes : {WideLanes::Width::widest, WideLanes::Width::wide}) {
+        const WideLanes::Without without(lanes);
+        EXPECT_EQ(index.near(all, 8), found);
+    }
 }
 
 } // namespace orlen
