@@ -79,8 +79,25 @@ Question bestReading(const std::vector<Word>& words, TimePoint now, const IsName
     return *std::move(best);
 }
 
-std::optional<Reply> alone(const Question& question, const AskContext& context)
+/// "List the big files", where no finding lists any: the biggest there are.
+Question withBiggestFiles(const Question& question, const AskContext& context)
 {
+    const Subject* const kind = question.subject();
+    constexpr SenseSet kListing{what, subject, general, inside, folder, disk};
+    if (kind == nullptr || kind->id != SubjectID::largeFiles || !question.senses.isWithin(kListing) ||
+        std::ranges::any_of(context.findings,
+                            [&](const Finding& each) { return isListedAs(*kind, each.kind); }))
+        return question;
+    std::vector<Phrase> phrases = question.phrases;
+    const auto named = std::ranges::find(phrases, subject, &Phrase::sense);
+    named->subject = &subjectFor(SubjectID::files);
+    phrases.insert(named, Phrase{biggest, {}, nullptr, 0, {}});
+    return withPhrases(question, std::move(phrases));
+}
+
+std::optional<Reply> alone(const Question& asked, const AskContext& context)
+{
+    const Question question = withBiggestFiles(asked, context);
     std::vector<Answer> answers;
     const std::vector<Question> each = distributed(question);
     if (each.empty() || each.size() > kMostParts)
@@ -102,8 +119,27 @@ std::optional<Reply> alone(const Question& question, const AskContext& context)
     return Reply{together(std::move(answers)), question};
 }
 
+/// "How much is that in total", "how big are they all together": the size of what was spoken of.
+std::optional<Question> sizeInAll(const Question& question)
+{
+    constexpr SenseSet kSizes{howBig, howMuch, howMany, takes, total, what, general};
+    if (!question.senses.has(total) || !question.senses.isWithin(kSizes) ||
+        !question.senses.meets({howBig, howMuch}))
+        return std::nullopt;
+    std::vector<Phrase> phrases = question.phrases;
+    std::erase_if(phrases, [](const Phrase& phrase) { return phrase.sense == total; });
+    Question ofThem = withPhrases(question, std::move(phrases));
+    ofThem.isBackward = true;
+    return ofThem;
+}
+
 std::optional<Reply> reply(const Question& question, const AskContext& context, const Conversation& before)
 {
+    if (const std::optional<Question> ofThem = before.empty() ? std::nullopt : sizeInAll(question)) {
+        auto found = followUp(*ofThem, context, before);
+        if (found || question.isBackward)
+            return found;
+    }
     if (const std::optional<Question> placed = inPlaceOfLast(question, context, before.last)) {
         if (auto found = alone(*placed, context))
             return found;

@@ -294,6 +294,19 @@ const Lexicon::Entry* Lexicon::findMistyped(std::string_view word) const
     return near != nullptr || word.size() < kShortestTwice ? near : onlyOneLike(word, isTwoLettersApart);
 }
 
+std::string_view Lexicon::onlyWordLike(std::string_view word) const
+{
+    std::string_view only;
+    for (const std::string& known : m_words) {
+        if (known.size() < kShortestMeant || known.front() != word.front() || !isOneLetterApart(word, known))
+            continue;
+        if (!only.empty())
+            return {};
+        only = known;
+    }
+    return only;
+}
+
 std::optional<double> Lexicon::figure(Figure figure, const std::string& word) const
 {
     const auto& figures = m_figures[static_cast<std::size_t>(figure)];

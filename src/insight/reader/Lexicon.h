@@ -55,6 +55,8 @@ public:
 
     /// Whether it stands in a phrase or is a figure.
     [[nodiscard]] bool isWord(const std::string& word) const { return m_words.contains(word); }
+    /// The only word of a phrase that one letter separates from this one; empty if there is not exactly one.
+    [[nodiscard]] std::string_view onlyWordLike(std::string_view word) const;
     /// Whether a phrase, as typed, speaks of one thing only: "biggest file".
     [[nodiscard]] bool meansOne(std::string_view phrase) const;
     /// Whether the phrase asks for what a list has not shown yet: "more", "the rest".

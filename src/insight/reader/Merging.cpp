@@ -295,6 +295,19 @@ void meanBySize(Phrases& phrases)
     phrases.insert(found, std::move(sorting));
 }
 
+/// "Archivos de descargas": those in the folder, in languages whose word for "of" says little else.
+void placeFiles(Phrases& phrases)
+{
+    for (std::size_t i = 0; i + 1 < phrases.size(); ++i) {
+        const Subject* const files = phrases[i].subject;
+        const Subject* const folder = phrases[i + 1].subject;
+        if (files != nullptr && files->isAnyFile && folder != nullptr && !folder->folder.empty() &&
+            folder->extensions.empty() && folder->id != SubjectID::home && !phrases[i + 1].isJoined)
+            phrases.insert(std::next(phrases.begin(), static_cast<std::ptrdiff_t>(i) + 1),
+                           Phrase{Sense::inside, {}, nullptr, 0, {}});
+    }
+}
+
 void mergeNeighbours(Phrases& phrases)
 {
     for (std::size_t i = 0; i + 1 < phrases.size();) {
@@ -332,6 +345,8 @@ Question merged(const Question& question)
     dropComing(phrases);
     placeCountedFolders(phrases, isEnglish);
     mergeBuildFolders(phrases);
+    if (!isEnglish)
+        placeFiles(phrases);
     mergeNeighbours(phrases);
     nameCaches(phrases, *question.lexicon);
     mergePlaces(phrases);

@@ -19,7 +19,7 @@ public:
         : m_words(std::move(words)), m_lexicon(lexicon), m_now(now), m_isName(isName), m_typos(typos)
     {
         for (const Word& word : m_words)
-            m_plain.push_back(typos == Typos::corrected ? inOrder(word) : word.plain);
+            m_plain.push_back(typos == Typos::corrected ? asMeant(word) : word.plain);
         m_question.lexicon = &lexicon;
         m_question.words = m_words.size();
     }
@@ -46,10 +46,12 @@ private:
 
     [[nodiscard]] std::span<const std::string> rest() const { return std::span(m_plain).subspan(m_at); }
 
-    /// Of a swapped pair of letters, the word that was meant.
-    std::string inOrder(const Word& word)
+    /// Of a typing error in a word of a phrase, the word that was meant.
+    std::string asMeant(const Word& word)
     {
         std::string meant = word.isQuoted ? word.plain : unswapped(m_lexicon, word.plain, m_isName);
+        if (!word.isQuoted && meant == word.plain && !m_lexicon.hasCompounds())
+            meant = respelt(m_lexicon, word.plain, m_isName);
         if (meant != word.plain)
             ++m_question.corrected;
         return meant;
@@ -69,6 +71,7 @@ private:
         m_question.isBackward = m_question.isBackward || isPronoun;
         if (phrase.sense == Sense::filler && count == 1 && isPronounHere(endsClause))
             phrase.sense = Sense::backward;
+        m_question.goesOn = phrase.sense == Sense::also && !isFirst;
         switch (phrase.sense) {
         case Sense::filler:
             break;
@@ -98,7 +101,6 @@ private:
                 m_behindOrlen = m_question.pieces + 1;
             m_question.phrases.push_back(std::move(phrase));
         }
-        m_question.goesOn = phrase.sense == Sense::also && !isFirst;
         m_isJoined = m_isJoined || endsClause;
     }
 

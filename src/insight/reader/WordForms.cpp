@@ -46,6 +46,17 @@ std::string unswapped(const Lexicon& lexicon, const std::string& word, const IsN
     return only.empty() ? word : only;
 }
 
+std::string respelt(const Lexicon& lexicon, const std::string& word, const IsName& isName)
+{
+    constexpr std::size_t kShortest = 5;
+    const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
+    if (word.size() < kShortest || lexicon.isWord(word) || !std::ranges::all_of(word, isLetter) ||
+        inflectedWord(lexicon, word) != nullptr || isRightAsItStands(lexicon, word, isName))
+        return word;
+    const std::string_view only = lexicon.onlyWordLike(word);
+    return only.empty() ? word : std::string(only);
+}
+
 const Lexicon::Entry* inflectedWord(const Lexicon& lexicon, std::string_view word)
 {
     constexpr std::size_t kShortestStem = 4;

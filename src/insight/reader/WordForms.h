@@ -17,6 +17,10 @@ namespace orlen::AskReader {
 /// right, or if there is not exactly one.
 [[nodiscard]] std::string unswapped(const Lexicon& lexicon, const std::string& word, const IsName& isName);
 
+/// "offten": the one word of known phrases that a letter separates from it; the word itself if it is right,
+/// or if there is not exactly one.
+[[nodiscard]] std::string respelt(const Lexicon& lexicon, const std::string& word, const IsName& isName);
+
 /// What an English form says that no row lists: "needed". Null if it is none, and for other languages.
 [[nodiscard]] const Lexicon::Entry* inflectedWord(const Lexicon& lexicon, std::string_view word);
 

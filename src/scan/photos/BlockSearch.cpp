@@ -87,11 +87,12 @@ ORLEN_INLINE void BlockSearch<side, block>::sumUpBlocks(int reach)
             continue;
         }
         sumUp<block>(sums, blockSums);
+        constexpr std::size_t kStep = kQuarter;
         const auto* squares = &quarters[static_cast<std::size_t>(y)];
         const std::size_t row = index({0, y});
         for (std::size_t x = 0; x < kPlaces; ++x) {
-            const std::int32_t lowerHalf = squares[2 * kQuarter][x] + squares[3 * kQuarter][x];
-            const std::int32_t lowerQuarters = squares[kQuarter][x] + lowerHalf;
+            const std::int32_t lowerHalf = squares[2 * kStep][x] + squares[3 * kStep][x];
+            const std::int32_t lowerQuarters = squares[kStep][x] + lowerHalf;
             const std::int32_t blockSquares = squares[0][x] + lowerQuarters;
             const auto spread = static_cast<float>(kPixels * blockSquares - blockSums[x] * blockSums[x]);
             m_sums[row + x] = static_cast<float>(blockSums[x]);
@@ -125,7 +126,7 @@ ORLEN_INLINE auto BlockSearch<side, block>::quarterSquares() const -> QuarterSqu
         for (std::size_t x = 0; x < side; ++x)
             squares[x] += below[x].left * below[x].left - sign * (above[x].left * above[x].left);
         if (y >= kQuarter - 1)
-            sumUp<block>(squares, all[static_cast<std::size_t>(y - kQuarter + 1)]);
+            sumUp<block>(squares, all[static_cast<std::size_t>(y) + 1 - kQuarter]);
     }
     return all;
 }

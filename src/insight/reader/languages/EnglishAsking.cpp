@@ -251,10 +251,10 @@ constexpr WordRow kAsking[] = {
      "review,must i review,should i review,do i review,the difference between"},
     {Sense::soFar,
      "did i ever clean,have i ever cleaned,did i ever clean up,have i ever cleaned up,did you ever "
-     "clean,have you ever cleaned,so far,all time,all-time,ever freed,until now,up to now,to date,in "
-     "all,over time,already "
-     "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,all "
-     "together,cleanups,clean-ups,cleanings,clean ups,past clean-ups,previous clean-ups,past cleanups,my "
+     "clean,have you ever cleaned,so far,all time,all-time,ever freed,until now,up to now,to date,"
+     "over time,already "
+     "freed,history,in the past,over the years,ever cleaned,since the beginning,since i started,"
+     "cleanups,clean-ups,cleanings,clean ups,past clean-ups,previous clean-ups,past cleanups,my "
      "clean-ups,my cleanups,ever done,all my cleanups,all my clean-ups,log of cleanups,before today"},
     {Sense::used,
      "occupied,taken,in use,used up,how full,consumed,filled up so far,space used,usage,disk usage,space "

@@ -46,8 +46,9 @@ constexpr WordRow kMeasures[] = {
     {Sense::free, "free,available,remaining,left,spare,unused space,unoccupied,leftover,left over,empty "
                   "space,remains,vacant,unused disk space,usable,space remaining,remaining space,gigs "
                   "free,unallocated,headroom,breathing room,leeway"},
-    {Sense::total, "total,capacity,altogether,in total,overall,total size,total capacity,total "
-                   "space,status,overview,summary"},
+    {Sense::total,
+     "total,capacity,altogether,all together,in all,in total,overall,total size,total capacity,total "
+     "space,status,overview,summary"},
     {Sense::disk, "disk,disks,drive,drives,hard drive,hard "
                   "disk,ssd,hdd,storage,computer,laptop,machine,pc,volume,partition,mac,disc,my "
                   "disk,harddrive,harddisk,notebook,nvme"},

@@ -98,8 +98,8 @@ constexpr SubjectRow kSubjects[] = {
     {SubjectID::musicFolder, "music folder"},
     {SubjectID::home, "home,home folder,home directory,user folder"},
     {SubjectID::videos,
-     "video,videos,movie,movies,film,films,clip,clips,video files,recordings,footage,vids,video "
-     "clips,recording,"
+     "video,videos,movie,movies,film,films,clip,clips,video files,footage,vids,video "
+     "clips,"
      "mp4s,mp4,mp4 files,mkv files,vid,screen recordings,mkvs,video recordings,home movies"},
     {SubjectID::photos,
      "photo,photos,picture,pictures,image,images,pic,pics,photographs,snapshots,shots,photograph,fotos,jpegs,"
