@@ -29,9 +29,12 @@ struct Moves {
         std::ranges::sort(inOrder, {}, [&](Move move) {
             return std::tuple(length(move.right) + length(move.down), move.right, move.down);
         });
-        for (std::size_t i = 0; i < inOrder.size(); ++i)
-            rank[static_cast<std::size_t>(inOrder[i].right + kFarthest)]
-                [static_cast<std::size_t>(inOrder[i].down + kFarthest)] = static_cast<std::uint8_t>(i);
+        for (std::size_t i = 0; i < inOrder.size(); ++i) {
+            const int right = inOrder[i].right + kFarthest;
+            const int down = inOrder[i].down + kFarthest;
+            rank[static_cast<std::size_t>(right)][static_cast<std::size_t>(down)] =
+                static_cast<std::uint8_t>(i);
+        }
     }
 
     std::array<Move, std::size_t{kSide} * kSide> inOrder{};

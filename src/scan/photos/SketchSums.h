@@ -43,8 +43,11 @@ public:
     {
         constexpr unsigned kByte = 8;
         std::array<std::uint16_t, 4> numbers{};
-        for (unsigned i = 0; i < numbers.size(); ++i)
-            numbers[i] = static_cast<std::uint16_t>(static_cast<std::int8_t>(quad >> i * kByte));
+        for (unsigned i = 0; i < numbers.size(); ++i) {
+            constexpr unsigned kSign = 0x80;
+            const unsigned byte = (quad >> i * kByte) & 0xFF;
+            numbers[i] = static_cast<std::uint16_t>((byte ^ kSign) - kSign);
+        }
         const Lanes lower = inTurns(numbers[0], numbers[2]);
         const Lanes upper = inTurns(numbers[1], numbers[3]);
         for (std::size_t i = 0; i < m_sums.size(); i += kLanes) {

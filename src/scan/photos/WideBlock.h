@@ -65,7 +65,8 @@ public:
         // At an edge some are looked at again, which changes nothing.
         for (int down = -kFarthest; down <= kFarthest; down += 2) {
             const int one = std::clamp(down, first, last - 1);
-            lookAtTwo(rows + above + one, kRanksOfWays[static_cast<std::size_t>(one) + kFarthest].data());
+            const int way = one + kFarthest;
+            lookAtTwo(rows + above + one, kRanksOfWays[static_cast<std::size_t>(way)].data());
         }
     }
 
