@@ -13,6 +13,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <thread>
 
 namespace orlen {
 
@@ -379,8 +380,12 @@ TEST(PhotoAnalyzerTest, aCancelledScanLooksAtNothingMore)
     ScanFlag flag;
     std::atomic<int> looked{0};
     const PhotoAnalyzer analyzer(progress, flag, [&](const std::string&) -> std::optional<ImageAnalysis> {
-        if (++looked == 20)
+        const int number = ++looked;
+        if (number == 20)
             flag.cancel();
+        // Another thread must not be through with all before this one comes to cancel.
+        while (number > 20 && !flag.isCancelled())
+            std::this_thread::yield();
         return ImageAnalysis{640, 480};
     });
     const auto photos = analyzer.analyze(images).photos;
