@@ -36,9 +36,9 @@ struct Result {
     std::int64_t bytesHashed = 0;     ///< bytes read to hash and to compare
 };
 
-/// Compares sizes, then head and tail, then whole contents. A file is opened only if another has its size.
-/// The rule says which of each set is kept; sets of which no copy may go are left out. The progress, if there
-/// is one, counts the bytes of the whole contents.
+/// Compares lengths, then head and tail, then whole contents. A file is opened only if another has its
+/// length. The rule says which of each set is kept; sets of which no copy may go are left out. The progress,
+/// if there is one, counts the bytes of the whole contents.
 [[nodiscard]] Result find(const std::vector<Cand>& cands, const std::stop_token& stop,
                           const KeepRule& rule = {}, ScanProgress* progress = nullptr);
 
